@@ -1,0 +1,79 @@
+# How every target of Norvex is made: one library a folder, one test program a tests/ folder.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  foreach(lang C CXX)
+    set(CMAKE_${lang}_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        ${CCACHE_PROGRAM})
+  endforeach()
+endif()
+
+add_library(norvex_flags INTERFACE)
+target_compile_options(norvex_flags INTERFACE
+  -Wall -Wextra -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Wpedantic
+  $<$<BOOL:${NORVEX_WERROR}>:-Werror>
+  $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+target_compile_definitions(norvex_flags INTERFACE
+  NORVEX_VERSION="${PROJECT_VERSION}" QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+target_include_directories(norvex_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(NORVEX_SANITIZE)
+  target_compile_options(norvex_flags INTERFACE
+    -fsanitize=${NORVEX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(norvex_flags INTERFACE -fsanitize=${NORVEX_SANITIZE})
+endif()
+if(NORVEX_COVERAGE)
+  target_compile_options(norvex_flags INTERFACE --coverage)
+  target_link_options(norvex_flags INTERFACE --coverage)
+endif()
+
+set(NORVEX_PCH <algorithm> <functional> <memory> <optional> <vector>
+    <QByteArray> <QHash> <QList> <QRectF> <QString> <QVariant>)
+
+# norvex_library(NAME FOLDER LINK lib…): every .cpp directly in src/FOLDER becomes the static library NAME.
+function(norvex_library name folder)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp
+       ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+  if(NOT sources)
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE norvex_flags ${ARG_LINK})
+    return()
+  endif()
+  add_library(${name} STATIC ${sources})
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_libraries(${name} PUBLIC norvex_flags ${ARG_LINK})
+  target_precompile_headers(${name} PRIVATE ${NORVEX_PCH})
+endfunction()
+
+# norvex_tests(FOLDER APP core|gui|widgets LINK lib…): tests/FOLDER/*_test.cpp become the program FOLDER_tests;
+# each file is a ctest case of its own, so a hang or a crash names its file.
+function(norvex_tests folder)
+  cmake_parse_arguments(ARG "" "APP" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*.cpp
+       ${PROJECT_SOURCE_DIR}/tests/${folder}/*.h)
+  file(GLOB cases CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*_test.cpp)
+  if(NOT cases)
+    return()
+  endif()
+  string(REPLACE "/" "_" target ${folder})
+  add_executable(${target}_tests ${sources} ${PROJECT_SOURCE_DIR}/tests/kit/test_main.cpp)
+  target_link_libraries(${target}_tests PRIVATE ${ARG_LINK} Qt6::Test)
+  if(ARG_APP STREQUAL "widgets")
+    target_link_libraries(${target}_tests PRIVATE Qt6::Widgets)
+    target_compile_definitions(${target}_tests PRIVATE NORVEX_TEST_APP_WIDGETS)
+  elseif(ARG_APP STREQUAL "gui")
+    target_link_libraries(${target}_tests PRIVATE Qt6::Gui)
+    target_compile_definitions(${target}_tests PRIVATE NORVEX_TEST_APP_GUI)
+  endif()
+  target_include_directories(${target}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${target}_tests PRIVATE
+    NORVEX_SOURCE_DIR="${PROJECT_SOURCE_DIR}" NORVEX_BUILD_DIR="${CMAKE_BINARY_DIR}")
+  target_precompile_headers(${target}_tests PRIVATE ${NORVEX_PCH} <QtTest>)
+  foreach(case ${cases})
+    get_filename_component(stem ${case} NAME_WE)
+    add_test(NAME ${folder}/${stem} COMMAND ${target}_tests --case ${stem})
+    set_tests_properties(${folder}/${stem} PROPERTIES
+      TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC;QT_LOGGING_RULES=qt.qpa.*=false")
+  endforeach()
+endfunction()

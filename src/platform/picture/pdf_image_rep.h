@@ -1,0 +1,28 @@
+// NSPDFImageRep: a page of a PDF document.
+#pragma once
+
+#include "platform/picture/image_rep.h"
+
+namespace norvex {
+
+class NSPDFImageRep final : public NSImageRep {
+  Q_OBJECT
+ public:
+  /// Nothing (with the reason) when the picture process cannot open the bytes. Blocks for the document's facts.
+  static Result<std::shared_ptr<NSPDFImageRep>> imageRepWithData(PictureService& service, const QByteArray& bytes,
+                                                                 const PictureLimits& limits = {});
+
+  /// The file's bytes.
+  [[nodiscard]] QByteArray PDFRepresentation() const { return sourceBytes(); }
+  /// The shown page's crop box with the page's own rotation applied, points.
+  [[nodiscard]] QRectF bounds() const { return facts_.pageBounds.value(page()); }
+  [[nodiscard]] int pageCount() const { return facts_.pageCount; }
+  [[nodiscard]] QSizeF size() const override { return bounds().size(); }
+  [[nodiscard]] const PictureFacts& facts() const { return facts_; }
+
+ private:
+  NSPDFImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, PictureFacts facts);
+  PictureFacts facts_;
+};
+
+}  // namespace norvex

@@ -1,0 +1,54 @@
+// The seam before the picture process: so that tests run without a child program, and so that nothing above it knows
+// how documents are parsed or that it happens elsewhere.
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+#include <memory>
+
+#include "platform/bitmap_image_rep.h"
+#include "platform/cancel_token.h"
+#include "platform/result.h"
+#include "platform/worker_protocol.h"
+
+namespace norvex {
+
+/// Bytes of a result together with what the conversion has to tell.
+struct PictureBytes {
+  QByteArray bytes;
+  BytesReply report;
+};
+
+/// One document in a process of its own. Every call blocks until the answer, the time limit, the cancel or the death
+/// of the process; each of them is an ordinary Result. After a death or a cancel that cost the process its life the
+/// next call starts a fresh process and opens the document again.
+/// Thread-safe: calls from several threads are served one after the other.
+class PictureProcess {
+ public:
+  virtual ~PictureProcess() = default;
+
+  /// The document's facts. The first call waits for them; later calls return the same without waiting.
+  virtual Result<PictureFacts> facts(const CancelToken& cancel = {}) = 0;
+  /// Premultiplied ARGB32 of exactly request.pixelSize.
+  virtual Result<QImage> render(const RenderRequest& request, const CancelToken& cancel = {}) = 0;
+  virtual Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) = 0;
+  virtual Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) = 0;
+  virtual Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) = 0;
+};
+
+/// Starts picture processes. One for the whole program, owned by its main; thread-safe.
+class PictureService {
+ public:
+  virtual ~PictureService() = default;
+
+  /// Begins to open `bytes` as `kind` and returns at once; a failure shows in the first call on the result.
+  /// The caller owns the result; the bytes are shared until it is destroyed.
+  virtual std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
+                                               const PictureLimits& limits = {}) = 0;
+  /// A TIFF file's first image as samples, uncompressed, rows without padding. Blocks.
+  virtual Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) = 0;
+};
+
+}  // namespace norvex

@@ -1,0 +1,163 @@
+// The line between the window (or the command line) and the picture process: every request and reply there is.
+//
+// Transport: a SOCK_STREAM socket pair. A message is a 4-byte little-endian length (of the CBOR that follows, at most
+// maximumMessageBytes) and one CBOR map. Everything large (document bytes, bitmaps, PDF and EPS results) travels as
+// a sealed memfd whose descriptor is sent with the message's first byte; a message carries at most one.
+// The parent treats every reply as hostile: decodeReply() and the checks in the client compare every size, count and
+// string with its limit and with the descriptor's real size before use.
+#pragma once
+
+#include <QByteArray>
+#include <QCborMap>
+#include <QDateTime>
+#include <QHash>
+#include <QList>
+#include <QRectF>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QTransform>
+
+#include <optional>
+#include <variant>
+
+#include "platform/result.h"
+
+namespace norvex {
+
+inline constexpr int workerProtocolVersion = 1;
+inline constexpr quint32 maximumMessageBytes = 4u << 20;
+
+/// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
+enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
+
+/// What an engine may use up for one document. See worker/limits.h for the attacks that they stop.
+struct PictureLimits {
+  int seconds = 120;         ///< wall time of one request; Default: 120
+  int memoryMiB = 1024;      ///< address space of the process and its child. Default: 1024
+  double megapixels = 100;   ///< largest bitmap. Default: 100
+};
+
+// ---- requests -------------------------------------------------------------------------------------------------------
+
+/// First request of every document; its bytes travel as the message's memfd.
+struct OpenRequest {
+  PictureKind kind = PictureKind::Eps;
+  PictureLimits limits;
+};
+
+enum class RenderPurpose { View = 1, Preview = 2, Export = 3, Print = 4 };
+
+/// Draws a part of a page. Picture coordinates: points, origin at the lower-left corner of the unrotated page, y up.
+struct RenderRequest {
+  int page = 0;                ///< from 0
+  QTransform pictureToDevice;  ///< picture coordinates → pixels of the result (origin top-left, y down)
+  QSize pixelSize;             ///< size of the result; pixels outside the page stay transparent
+  RenderPurpose purpose = RenderPurpose::View;
+};
+
+/// The whole, unrotated page as a one-page PDF.
+struct PdfRequest {
+  int page = 0;
+};
+
+enum class VectorFormat { Pdf = 1, Eps = 2 };
+
+/// A rectangle of the rotated picture as one page whose box is that rectangle.
+/// View coordinates: origin at the picture's centre, y up, the picture turned by `rotate` about that centre.
+struct ComposeRequest {
+  VectorFormat format = VectorFormat::Pdf;
+  int page = 0;
+  QRectF rect;        ///< view coordinates, points; x and y are its lower-left corner
+  double rotate = 0;  ///< radians, counter-clockwise positive
+};
+
+/// The document as SVG text. Only for PictureKind::Svg.
+struct SvgRequest {
+  bool pretty = true;          ///< indented source with DOCTYPE, entities, comments and CDATA; otherwise cut and turned
+  std::optional<QRectF> rect;  ///< for the cut: in the picture's flipped coordinates (origin top-left, y down), points
+  double rotate = 0;           ///< radians, clockwise as seen on the screen
+};
+
+/// A TIFF section (the message's memfd) to a bitmap. Needs no open document.
+struct DecodePreviewRequest {};
+
+using RequestBody = std::variant<OpenRequest, RenderRequest, PdfRequest, ComposeRequest, SvgRequest, DecodePreviewRequest>;
+
+struct WorkerRequest {
+  quint32 id = 0;  ///< from 1, never reused on one connection
+  RequestBody body;
+};
+
+/// Told to the process that warms up: fork a child that serves the socket travelling with the message (in the place
+/// of the memfd). The answer is a ForkReply whose descriptor is a pidfd of the child.
+struct ForkRequest {
+  PictureLimits limits;
+  bool postScript = false;  ///< the child will need Ghostscript: let it be started at once
+};
+
+/// No answer is given to it: the cancelled request itself answers (ErrorKind::Cancelled) or was already answered.
+struct CancelRequest {
+  quint32 id = 0;
+};
+
+// ---- replies --------------------------------------------------------------------------------------------------------
+
+/// The facts of an opened document.
+struct PictureFacts {
+  QList<QRectF> pageBounds;   ///< as shown: crop box with the page's own rotation applied, points; one for each page read
+  int pageCount = 1;
+  QHash<QString, QString> attributes;  ///< PDF document information: "Title", "Author", "Subject", "Creator", "Producer"
+  std::optional<QDateTime> creationDate;
+  // SVG only
+  std::optional<QRectF> viewBox;
+  QString title, description, encodingName;
+  int encodingNumber = 0;
+  std::optional<bool> fixedRatioX, fixedRatioY;  ///< true: an absolute length, false: a percentage, absent: no attribute
+  QStringList warnings;  ///< one plain sentence each
+};
+
+/// Reply with bytes in the message's memfd.
+struct BytesReply {
+  int regionsRasterised = 0;       ///< parts of the page that the target format could only hold as images
+  double rasterisedAreaShare = 0;  ///< 0 … 1 of the page
+  QStringList warnings;
+};
+
+/// Reply with pixels in the message's memfd: premultiplied ARGB32 in native byte order, rows top to bottom.
+struct BitmapReply {
+  QSize pixelSize;
+  int bytesPerRow = 0;
+};
+
+/// Reply to DecodePreviewRequest; samples in the memfd. The fields are those of NSBitmapImageRep.
+struct PreviewReply {
+  int pixelsWide = 0, pixelsHigh = 0, bitsPerSample = 8, samplesPerPixel = 1, bytesPerRow = 0;
+  bool hasAlpha = false;
+  QString colorSpaceName;
+  double pointsWide = 0, pointsHigh = 0;
+};
+
+struct ForkReply {
+  qint64 pid = 0;
+};
+
+using ReplyBody = std::variant<PictureFacts, BytesReply, BitmapReply, PreviewReply, ForkReply, Error>;
+
+struct WorkerReply {
+  quint32 id = 0;
+  ReplyBody body;
+};
+
+// ---- CBOR -----------------------------------------------------------------------------------------------------------
+// encode… never fails. decode… fails (ErrorKind::Protocol) on a wrong type, a missing field, a number out of range,
+// a string or list over its limit, or another protocol version.
+
+using WorkerMessage = std::variant<WorkerRequest, ForkRequest, CancelRequest>;
+
+[[nodiscard]] QByteArray encodeMessage(const WorkerMessage& message);
+[[nodiscard]] Result<WorkerMessage> decodeMessage(const QByteArray& cbor);
+[[nodiscard]] QByteArray encodeReply(const WorkerReply& reply);
+[[nodiscard]] Result<WorkerReply> decodeReply(const QByteArray& cbor);
+
+}  // namespace norvex

@@ -39,7 +39,7 @@ class NSImageRep : public QObject {
   /// Draws the picture at its natural size with its lower-left corner at the painter's origin; the painter's
   /// transform must map y-up picture coordinates to the device. Never waits: draws what is rendered (scaled or
   /// turned) and asks for a sharp rendering, whose arrival is told by renderingArrived().
-  void draw(QPainter& painter);
+  virtual void draw(QPainter& painter);
   /// Whether what the last draw() showed was sharp and complete (tests, benchmarks and the progress bar ask).
   [[nodiscard]] bool isSharp() const;
 

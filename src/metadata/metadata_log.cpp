@@ -1,0 +1,7 @@
+#include "metadata/metadata_log.h"
+
+namespace norvex {
+
+Q_LOGGING_CATEGORY(metadataLog, "norvex.metadata")
+
+}  // namespace norvex

@@ -1,0 +1,17 @@
+// The header dictionary of a PDF document.
+#pragma once
+
+#include <QLocale>
+
+#include "metadata/header_dictionary.h"
+#include "platform/result.h"
+#include "platform/worker_protocol.h"
+
+namespace norvex {
+
+/// Creator, Title, CreationDate (fullDate() in `locale`), For (the author) and Description (the subject), each only
+/// when the document has it; Encoding and EncodingNumber always, saying that there is no text. Facts that could not
+/// be had give the empty dictionary. Thread-safe.
+[[nodiscard]] HeaderDictionary pdfHeader(const Result<PictureFacts>& facts, const QLocale& locale = QLocale());
+
+}  // namespace norvex

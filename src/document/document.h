@@ -1,0 +1,74 @@
+// Document: one opened file, its type and its window.
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+#include <memory>
+#include <optional>
+
+#include "document/document_error.h"
+#include "document/document_window_controller.h"
+
+namespace norvex {
+
+class PictureService;
+
+/// One for every opened file. It keeps no picture: the window controller reads the file again when its window loads.
+/// Main thread only, but for readFromData(), which may run on any thread for several documents at once.
+class Document : public QObject {
+  Q_OBJECT
+ public:
+  /// `service` and what `factory` refers to must outlive the document.
+  Document(PictureService& service, DocumentWindowControllerFactory factory, QObject* parent = nullptr);
+  ~Document() override;
+
+  /// True for every type.
+  [[nodiscard]] static bool canConcurrentlyReadDocumentsOfType(const QString& typeIdentifier);
+
+  /// Checks that the type is accepted and that there are bytes (zero of them are bytes; nothing is not). Stores
+  /// nothing. Throws UnimplementedMethod for an unaccepted type and then leaves `error` alone; otherwise false with
+  /// code 1 when `data` is absent. Touches no shared state.
+  bool readFromData(const std::optional<QByteArray>& data, const QString& ofType, DocumentError* error = nullptr) const;
+
+  /// Makes the one window controller. Call once, after reading.
+  void makeWindowControllers();
+  /// Null before makeWindowControllers().
+  [[nodiscard]] DocumentWindowController* windowController() const { return windowController_.get(); }
+
+  /// Shows the file as it is now, without asking: reads it, then runs the window's set-up again and redraws.
+  /// A file that can no longer be read is the set-up's business.
+  void revertDocumentToSaved();
+
+  /// Tells closed(); whoever holds the document then destroys it. Further calls do nothing.
+  void close();
+
+  /// Empty for an untitled document.
+  [[nodiscard]] QUrl fileURL() const { return fileURL_; }
+  void setFileURL(const QUrl& url);
+  [[nodiscard]] QString fileType() const { return fileType_; }
+  void setFileType(const QString& typeIdentifier) { fileType_ = typeIdentifier; }
+  /// The file's name, or "Untitled".
+  [[nodiscard]] QString displayName() const;
+  [[nodiscard]] PictureService& pictureService() const { return service_; }
+
+ signals:
+  void closed(norvex::Document* document);
+  void fileURLChanged();
+
+ private:
+  /// Gives the controller its document, or takes it away.
+  void addWindowController(DocumentWindowController& controller);
+  void removeWindowController(DocumentWindowController& controller);
+
+  std::unique_ptr<DocumentWindowController> windowController_;
+  PictureService& service_;
+  DocumentWindowControllerFactory factory_;
+  QUrl fileURL_;
+  QString fileType_;
+  bool closed_ = false;
+};
+
+}  // namespace norvex

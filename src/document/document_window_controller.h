@@ -1,0 +1,35 @@
+// The seam between a document and its window: so that documents live and are tested without widgets, and so that
+// nothing in this folder includes a window's header.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+namespace norvex {
+
+class Document;
+
+/// What a document asks of its one window controller. Main thread only. Owned by the document.
+class DocumentWindowController {
+ public:
+  virtual ~DocumentWindowController() = default;
+
+  /// The document that the controller belongs to; null when it is being removed. Not owned. Called before the window
+  /// is loaded: file location, type and picture service are the document's.
+  virtual void setDocument(Document* document) = 0;
+  /// With true, closing the window calls Document::close().
+  virtual void setShouldCloseDocument(bool close) = 0;
+  /// Loads the window on the first call (which runs windowDidLoad()), shows, raises and activates it.
+  virtual void showWindow() = 0;
+  /// The set-up: reads the picture from the document's file again and fills every control. Safe to repeat.
+  virtual void windowDidLoad() = 0;
+  /// Redraws the window at once.
+  virtual void display() = 0;
+  /// The file on disk is another one than was read, and is whole: offer to reload it, quietly.
+  virtual void fileDidChangeOnDisk() {}
+};
+
+/// Makes a window controller with its plain initialiser.
+using DocumentWindowControllerFactory = std::function<std::unique_ptr<DocumentWindowController>()>;
+
+}  // namespace norvex

@@ -1,0 +1,28 @@
+// The seam before modal questions, so that commands which ask something can be tested without a person.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace norvex {
+
+enum class AlertStyle { Warning = 0, Informational = 1, Critical = 2 };
+
+/// One modal message. Texts are shown as plain text, already in the user's language.
+struct Alert {
+  AlertStyle style = AlertStyle::Warning;
+  QString messageText;
+  QString informativeText;
+  QStringList buttons;  ///< titles in the order in which they were added; none: one default button
+};
+
+/// Shows alerts. Main thread only.
+class AlertPresenter {
+ public:
+  virtual ~AlertPresenter() = default;
+
+  /// Waits for the answer: the pressed button's place in `buttons`, from 0; -1 when the alert was dismissed.
+  virtual int runModal(const Alert& alert) = 0;
+};
+
+}  // namespace norvex

@@ -28,6 +28,16 @@ namespace norvex {
 inline constexpr int workerProtocolVersion = 1;
 inline constexpr quint32 maximumMessageBytes = 4u << 20;
 
+// What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge title
+// is shown with a shorter one; the decoders refuse more. Together they stay below maximumMessageBytes.
+inline constexpr int maximumTextLength = 16 << 10;    ///< UTF-16 units of a fact
+inline constexpr int maximumSentenceLength = 1 << 10; ///< of a warning or an error message
+inline constexpr int maximumWarnings = 200;
+inline constexpr int maximumAttributes = 32;
+inline constexpr int maximumBoxes = 2000;             ///< of pages, in PictureFacts
+inline constexpr int maximumBitmapSide = 65535;
+inline constexpr double maximumCoordinate = 1.0e7;    ///< points
+
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
 enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
 

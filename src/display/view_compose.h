@@ -1,0 +1,24 @@
+// A rectangle of a view as a page of vectors, made by the picture process.
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+
+#include "platform/picture/image_rep.h"
+
+namespace norvex {
+
+/// How a view places its picture: the picture point q is drawn at R(rotate)·(q − pivot), R turning
+/// counter-clockwise.
+struct PicturePlacement {
+  QPointF pivot;      ///< picture point that lies at the view's (0, 0)
+  double rotate = 0;  ///< radians
+};
+
+/// `rect` is in the view's coordinates. Fails without a picture, for a rectangle that is empty or not finite,
+/// and where the picture process does. Blocks; any thread.
+[[nodiscard]] Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& placement,
+                                               VectorFormat format, const QRectF& rect,
+                                               const CancelToken& cancel = {});
+
+}  // namespace norvex

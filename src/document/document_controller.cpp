@@ -1,0 +1,122 @@
+#include "document/document_controller.h"
+
+#include <QFileInfo>
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "document/unimplemented_method.h"
+#include "document/whole_file.h"
+#include "platform/localized_string.h"
+#include "platform/type_identification.h"
+
+namespace norvex {
+namespace {
+
+/// One text for one file, whatever links and dots its path is written with.
+QString keyOf(const QUrl& url) {
+  const QFileInfo info(url.toLocalFile());
+  const QString canonical = info.canonicalFilePath();
+  return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+}
+
+/// "the file does not exist" → "The file does not exist."
+QString asSentence(QString text) {
+  if (text.isEmpty()) return text;
+  text[0] = text[0].toUpper();
+  return text.endsWith('.') ? text : text + '.';
+}
+
+}  // namespace
+
+/// What the worker thread has to tell: a type, or a failure.
+struct DocumentController::Read {
+  QString type;
+  std::optional<OpenFailure> failure;
+};
+
+DocumentController::DocumentController(PictureService& service, DocumentWindowControllerFactory factory, QObject* parent)
+    : QObject(parent), service_(service), factory_(std::move(factory)) {}
+
+DocumentController::~DocumentController() {
+  ending_.cancel();
+  threads_.clear();
+  threads_.waitForDone();
+  for (Document* document : std::exchange(documents_, {})) delete document;
+}
+
+Document* DocumentController::documentForURL(const QUrl& url) const {
+  const QString key = keyOf(url);
+  for (Document* document : documents_)
+    if (keyOf(document->fileURL()) == key) return document;
+  return nullptr;
+}
+
+void DocumentController::openDocuments(const QList<QUrl>& urls) {
+  for (const QUrl& url : urls) {
+    if (!url.isLocalFile()) {
+      emit openFailed({url, localizedString("Only files on this computer can be opened."), {}});
+      continue;
+    }
+    if (Document* open = documentForURL(url)) {
+      open->windowController()->showWindow();
+      continue;
+    }
+    const QString key = keyOf(url);
+    if (reading_.contains(key)) continue;
+    reading_.insert(key);
+    // A child of this object until it is a document: nothing leaks when the end comes while it is being read.
+    auto* document = new Document(service_, factory_, this);
+    document->setFileURL(url);
+    threads_.start([this, document, url, key, ending = ending_] {
+      if (ending.cancelled()) return;
+      const Read read = readFile(*document, url);
+      QMetaObject::invokeMethod(
+          this, [this, document, key, read] { finishRead(document, key, read); }, Qt::QueuedConnection);
+    });
+  }
+  if (reading_.isEmpty()) emit readingFinished();
+}
+
+DocumentController::Read DocumentController::readFile(const Document& document, const QUrl& url) {
+  const Result<QByteArray> bytes = readWholeFile(url.toLocalFile());
+  if (!bytes) return {{}, OpenFailure{url, asSentence(bytes.error().message), {}}};
+  const QString type = identifyType(*bytes, url.fileName()).identifier();
+  try {
+    DocumentError error;
+    if (!document.readFromData(*bytes, type, &error)) return {{}, OpenFailure{url, error.recoverySuggestion, {}}};
+  } catch (const UnimplementedMethod& exception) {
+    return {{}, OpenFailure{url, localizedString("This is not an EPS, Illustrator, PDF or SVG picture."),
+                            exception.reason()}};
+  }
+  return {type, {}};
+}
+
+void DocumentController::finishRead(Document* document, const QString& key, const Read& read) {
+  reading_.remove(key);
+  if (read.failure) {
+    delete document;
+    emit openFailed(*read.failure);
+  } else {
+    document->setFileType(read.type);
+    show(document);
+  }
+  if (reading_.isEmpty()) emit readingFinished();
+}
+
+void DocumentController::show(Document* document) {
+  connect(document, &Document::closed, this, &DocumentController::remove);
+  documents_.append(document);
+  document->makeWindowControllers();
+  document->windowController()->showWindow();
+  emit documentOpened(document);
+}
+
+void DocumentController::remove(Document* document) {
+  if (documents_.removeAll(document) == 0) return;
+  emit documentClosed(document);
+  document->deleteLater();  // its window may still be handling the event that closed it
+}
+
+}  // namespace norvex

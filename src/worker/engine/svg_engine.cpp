@@ -1,0 +1,200 @@
+// The engine for SVG documents, plain or gzip-compressed.
+#include <QRectF>
+#include <QSizeF>
+#include <QTransform>
+
+#include <cmath>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "worker/engine/cairo_surface.h"
+#include "worker/engine/engine.h"
+#include "worker/engine/gzip_inflate.h"
+#include "worker/engine/svg_cut.h"
+#include "worker/engine/svg_inspection.h"
+#include "worker/engine/svg_length.h"
+#include "worker/engine/svg_pdf.h"
+#include "worker/engine/svg_pretty.h"
+#include "worker/engine/svg_renderer.h"
+#include "worker/engine/svg_text.h"
+#include "worker/limits.h"
+
+namespace norvex::engine {
+namespace {
+
+class SvgEngine final : public DocumentEngine {
+ public:
+  SvgEngine(SvgText text, SvgInspection inspection, EngineContext& context)
+      : context_(context), text_(std::move(text)), inspection_(std::move(inspection)),
+        geometry_(svgGeometry(inspection_.rootAttributes)) {}
+
+  /// Finds the picture's size. Call once, before anything else.
+  Result<void> measure();
+
+  Result<PictureFacts> facts() override;
+  Result<QImage> render(const RenderRequest& request) override;
+  Result<EngineBytes> pdf(const PdfRequest& request) override;
+  Result<EngineBytes> compose(const ComposeRequest& request) override;
+  Result<EngineBytes> svg(const SvgRequest& request) override;
+
+ private:
+  Result<void> start(int page) const;
+  Result<const SvgRenderer*> renderer();
+  [[nodiscard]] QSizeF points() const { return pixels_ * pointsPerPixel; }
+  [[nodiscard]] QStringList warnings() const;
+  [[nodiscard]] BytesReply pdfReport() const;
+
+  EngineContext& context_;
+  const SvgText text_;
+  const SvgInspection inspection_;
+  const SvgGeometry geometry_;
+  QSizeF pixels_;
+  std::unique_ptr<SvgRenderer> renderer_;
+  std::optional<QByteArray> pdf_;
+};
+
+Result<void> SvgEngine::start(int page) const {
+  if (context_.cancel.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the request was cancelled")};
+  if (page != 0) return Error{ErrorKind::Protocol, QStringLiteral("an SVG picture has one page")};
+  return {};
+}
+
+Result<const SvgRenderer*> SvgEngine::renderer() {
+  if (!renderer_) {
+    // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
+    const bool huge = inspection_.needsHugeParser && !inspection_.hasNestedDocument;
+    auto made = SvgRenderer::create(withDeclaredEncoding(text_.utf8, "UTF-8"), huge);
+    if (!made) return made.error();
+    renderer_ = std::move(*made);
+  }
+  return renderer_.get();
+}
+
+Result<void> SvgEngine::measure() {
+  std::optional<Error> failed;
+  pixels_ = svgPixelSize(geometry_, [&]() -> QSizeF {
+    const Result<const SvgRenderer*> loaded = renderer();
+    if (loaded) return (*loaded)->drawnExtent();
+    failed = loaded.error();
+    return {};
+  });
+  if (failed) return *failed;
+  const QSizeF size = points();
+  if (!(size.width() > 0 && size.height() > 0))
+    return Error{ErrorKind::Unsupported, QStringLiteral("the picture is empty: its width or height is zero")};
+  if (!(size.width() <= limits::maximumPoints && size.height() <= limits::maximumPoints))
+    return Error{ErrorKind::Limit, QStringLiteral("the picture is wider or higher than %1 points")
+                                       .arg(limits::maximumPoints, 0, 'f', 0)};
+  return {};
+}
+
+QStringList SvgEngine::warnings() const {
+  QStringList list;
+  const auto warn = [&](bool when, const QString& text) {
+    if (when) list << text;
+  };
+  warn(text_.handedOnAsUtf8, QStringLiteral("The text is in %1 and is handed on as UTF-8.")
+                                 .arg(QString::fromUtf8(text_.declaredName.left(40))));
+  warn(geometry_.badWidth || geometry_.badHeight,
+       QStringLiteral("The document's width or height is not a length and is passed over."));
+  warn(geometry_.badViewBox, QStringLiteral("The document's view box is not readable and is passed over."));
+  warn(inspection_.outsideReferences > 0,
+       QStringLiteral("The document refers to other files, which are never loaded (%1 references).")
+           .arg(inspection_.outsideReferences));
+  warn(inspection_.hasScript, QStringLiteral("The document has scripts, which are never run."));
+  warn(inspection_.hasAnimation, QStringLiteral("The document is animated; it is shown as it stands at rest."));
+  return list;
+}
+
+Result<PictureFacts> SvgEngine::facts() {
+  PictureFacts facts;
+  facts.pageBounds = {QRectF(QPointF(0, 0), points())};
+  facts.viewBox = geometry_.viewBox;
+  facts.title = inspection_.title;
+  facts.description = inspection_.description;
+  facts.encodingName = text_.encodingName;
+  facts.encodingNumber = text_.encodingNumber;
+  if (geometry_.width) facts.fixedRatioX = !geometry_.width->isPercentage;
+  if (geometry_.height) facts.fixedRatioY = !geometry_.height->isPercentage;
+  facts.warnings = warnings();
+  return facts;
+}
+
+Result<QImage> SvgEngine::render(const RenderRequest& request) {
+  if (const Result<void> may = start(request.page); !may) return may.error();
+  const Result<const SvgRenderer*> loaded = renderer();
+  if (!loaded) return loaded.error();
+  return paintImage(request, context_.limits, [&](cairo_t* context) {
+    cairo_translate(context, 0, points().height());
+    cairo_scale(context, pointsPerPixel, -pointsPerPixel);
+    return (*loaded)->draw(context, pixels_);
+  });
+}
+
+BytesReply SvgEngine::pdfReport() const {
+  BytesReply report;
+  report.regionsRasterised = inspection_.filters + inspection_.masks;
+  return report;
+}
+
+Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
+  if (const Result<void> may = start(request.page); !may) return may.error();
+  if (!pdf_) {
+    const Result<const SvgRenderer*> loaded = renderer();
+    if (!loaded) return loaded.error();
+    Result<QByteArray> made = svgToPdf(**loaded, pixels_, inspection_.filters + inspection_.masks > 0);
+    if (!made) return made.error();
+    pdf_ = std::move(*made);
+  }
+  return EngineBytes{*pdf_, pdfReport()};
+}
+
+Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {
+  Result<EngineBytes> whole = pdf({request.page});
+  if (!whole) return whole;
+  Result<QByteArray> placed = composePdf(whole->bytes, request);
+  if (!placed) return placed.error();
+  if (request.format == VectorFormat::Pdf) return EngineBytes{std::move(*placed), whole->report};
+  Result<EngineBytes> eps = epsFromPdf(*placed, context_);
+  if (eps) {
+    eps->report.regionsRasterised += whole->report.regionsRasterised;
+    eps->report.warnings = whole->report.warnings + eps->report.warnings;
+  }
+  return eps;
+}
+
+Result<EngineBytes> SvgEngine::svg(const SvgRequest& request) {
+  if (const Result<void> may = start(0); !may) return may.error();
+  if (request.pretty) return EngineBytes{encodeSvgText(prettySvg(text_.utf8), text_), {}};
+  const QRectF rect = request.rect.value_or(QRectF(QPointF(0, 0), points()));
+  const double far = limits::maximumPoints;
+  if (!(rect.width() > 0 && rect.height() > 0 && rect.width() <= far && rect.height() <= far &&
+        std::abs(rect.x()) <= far && std::abs(rect.y()) <= far && std::isfinite(request.rotate)))
+    return Error{ErrorKind::Protocol, QStringLiteral("the rectangle to cut out is empty or out of reach")};
+  const SvgCut cut{points(), rect, request.rotate, inspection_.hasStyleSheet};
+  return EngineBytes{encodeSvgText(cutSvg(text_.utf8, cut), text_), {}};
+}
+
+}  // namespace
+
+Result<std::unique_ptr<DocumentEngine>> openSvg(const QByteArray& bytes, EngineContext& context) {
+  QByteArray plain = bytes;
+  if (isGzip(bytes)) {
+    Result<QByteArray> inflated = inflateGzip(bytes);
+    if (!inflated) return inflated.error();
+    plain = std::move(*inflated);
+  }
+  if (plain.size() > limits::maximumInflatedBytes)
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the document is larger than %1 MiB").arg(limits::maximumInflatedBytes >> 20)};
+  Result<SvgText> text = decodeSvgText(plain);
+  if (!text) return text.error();
+  Result<SvgInspection> inspection = inspectSvg(text->utf8);
+  if (!inspection) return inspection.error();
+  auto engine = std::make_unique<SvgEngine>(std::move(*text), std::move(*inspection), context);
+  if (const Result<void> measured = engine->measure(); !measured) return measured.error();
+  return std::unique_ptr<DocumentEngine>(std::move(engine));
+}
+
+}  // namespace norvex::engine

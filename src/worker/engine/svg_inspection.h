@@ -1,0 +1,35 @@
+// One streaming pass over an SVG document's text before any other code sees it: is it well-formed, is it within the
+// limits, and what does it say about itself.
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include "platform/result.h"
+
+namespace norvex::engine {
+
+/// What the pass found. Attribute values and texts have their entities expanded.
+struct SvgInspection {
+  QString rootName;  ///< as written, with its prefix: "svg" or "svg:svg"
+  QHash<QString, QString> rootAttributes;  ///< those without a namespace
+  QString title, description;  ///< of the root element's own children; null: there is none
+  int filters = 0;             ///< elements drawn through a filter, as far as their own attributes tell
+  int masks = 0;               ///< elements drawn through a mask, likewise
+  int outsideReferences = 0;   ///< images, styles and other things that are in other files; never loaded
+  bool hasStyleSheet = false;
+  bool hasScript = false;
+  bool hasAnimation = false;
+  bool hasNestedDocument = false;  ///< an SVG or XML document inside a data: reference
+  /// Long texts, deep nesting: legal here, but beyond what libxml2 takes without being told so.
+  bool needsHugeParser = false;
+};
+
+/// Entities are expanded as they are used; external ones, the external DTD subset included, are never loaded.
+/// Fails with NotParsable (not well-formed, no SVG root) or Limit (maximumXmlDepth, maximumXmlElements,
+/// maximumEntityExpansion).
+[[nodiscard]] Result<SvgInspection> inspectSvg(const QByteArray& utf8);
+
+}  // namespace norvex::engine

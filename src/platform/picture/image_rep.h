@@ -2,10 +2,14 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
+#include <QMetaType>
 #include <QObject>
+#include <QRect>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
+#include <QTransform>
 
 #include <memory>
 #include <optional>
@@ -18,11 +22,12 @@ namespace norvex {
 
 class RenderedPicture;
 
-/// A loaded picture. Facts are immutable after construction and may be read from any thread; draw() and the signal
-/// belong to the main thread.
+/// A loaded picture. Facts are immutable after construction and may be read from any thread; draw(), what it tells
+/// and the signals belong to the thread that the object lives in (QObject::thread()).
 class NSImageRep : public QObject {
   Q_OBJECT
  public:
+  /// Cancels renderings under way and waits for their end.
   ~NSImageRep() override;
 
   /// Natural, unrotated size in points.
@@ -38,10 +43,22 @@ class NSImageRep : public QObject {
 
   /// Draws the picture at its natural size with its lower-left corner at the painter's origin; the painter's
   /// transform must map y-up picture coordinates to the device. Never waits: draws what is rendered (scaled or
-  /// turned) and asks for a sharp rendering, whose arrival is told by renderingArrived().
+  /// turned) and asks for a sharp rendering, whose arrival is told by renderingArrived(). What is seen of the device
+  /// is the painter's clip, or all of it without one: set the clip to the visible part of a scrolled view.
   virtual void draw(QPainter& painter);
-  /// Whether what the last draw() showed was sharp and complete (tests, benchmarks and the progress bar ask).
+  /// Whether what the last draw() showed is sharp and complete by now (tests, benchmarks and the progress bar ask).
   [[nodiscard]] bool isSharp() const;
+  /// Whether a visible part is being rendered.
+  [[nodiscard]] bool isRendering() const;
+  /// Why what the last draw() showed does not become sharp; nothing: it does or will.
+  [[nodiscard]] std::optional<Error> renderingError() const;
+  /// A failed view is not asked for again until this is called.
+  void retryRendering();
+
+  /// The whole unrotated page as premultiplied ARGB32, transparent where it is not painted; the size in points times
+  /// `scale`, rounded up to whole pixels. Blocks for the picture process. Any thread.
+  [[nodiscard]] Result<QImage> rasterImage(double scale, RenderPurpose purpose = RenderPurpose::Preview,
+                                           const CancelToken& cancel = {}) const;
 
  signals:
   void renderingArrived();
@@ -49,14 +66,25 @@ class NSImageRep : public QObject {
   void renderingFailed(const norvex::Error& error);
 
  protected:
-  NSImageRep(PictureKind kind, QByteArray bytes, std::shared_ptr<PictureProcess> process);
+  NSImageRep(PictureKind kind, QByteArray bytes, std::shared_ptr<PictureProcess> process, int page = 0);
+
+  /// An owner for `rep` that deletes it in the thread it lives in, wherever the last reference goes.
+  template <typename Rep>
+  [[nodiscard]] static std::shared_ptr<Rep> shared(Rep* rep) {
+    return std::shared_ptr<Rep>(rep, deleteInItsThread);
+  }
 
  private:
+  static void deleteInItsThread(NSImageRep* rep);
+  RenderedPicture& rendered();
+
   PictureKind kind_;
   QByteArray bytes_;
   std::shared_ptr<PictureProcess> process_;
   int page_ = 0;
   std::unique_ptr<RenderedPicture> rendered_;  ///< made by the first draw()
+  QTransform drawnTransform_;                  ///< of the last draw()
+  QRect drawnRect_;
 };
 
 }  // namespace norvex

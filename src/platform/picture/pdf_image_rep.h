@@ -8,9 +8,15 @@ namespace norvex {
 class NSPDFImageRep final : public NSImageRep {
   Q_OBJECT
  public:
-  /// Nothing (with the reason) when the picture process cannot open the bytes. Blocks for the document's facts.
+  /// Shows the page `page` (from 0). Nothing (with the reason) when the picture process cannot open the bytes or there
+  /// is no such page. Blocks for the document's facts.
   static Result<std::shared_ptr<NSPDFImageRep>> imageRepWithData(PictureService& service, const QByteArray& bytes,
-                                                                 const PictureLimits& limits = {});
+                                                                 const PictureLimits& limits = {}, int page = 0);
+  /// The PDF form of a picture that `process` has open: drawn by that process, no second one is started.
+  static std::shared_ptr<NSPDFImageRep> imageRepWithProcess(std::shared_ptr<PictureProcess> process,
+                                                            const QByteArray& pdf, const PictureFacts& facts);
+  /// Another page of the same document, in the same process.
+  [[nodiscard]] Result<std::shared_ptr<NSPDFImageRep>> imageRepWithPage(int page) const;
 
   /// The file's bytes.
   [[nodiscard]] QByteArray PDFRepresentation() const { return sourceBytes(); }
@@ -21,7 +27,7 @@ class NSPDFImageRep final : public NSImageRep {
   [[nodiscard]] const PictureFacts& facts() const { return facts_; }
 
  private:
-  NSPDFImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, PictureFacts facts);
+  NSPDFImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, PictureFacts facts, int page);
   PictureFacts facts_;
 };
 

@@ -1,0 +1,37 @@
+#include "platform/picture/eps_image_rep.h"
+
+#include <utility>
+
+#include "metadata/dos_eps_header.h"
+#include "metadata/eps_bounding_box.h"
+
+namespace norvex {
+namespace {
+
+/// Whether PostScript begins here. Spoolers leave an end-of-transmission byte or blanks before it.
+bool beginsPostScript(QByteArrayView postScript) {
+  qsizetype at = 0;
+  while (at < postScript.size() && at < 64 && (postScript[at] == '\x04' || QByteArrayView(" \t\r\n").contains(postScript[at])))
+    ++at;
+  return postScript.sliced(at).startsWith("%!");
+}
+
+}  // namespace
+
+NSEPSImageRep::NSEPSImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, QRectF box,
+                             std::optional<QRectF> hiRes)
+    : NSImageRep(PictureKind::Eps, std::move(bytes), std::move(process)), boundingBox_(box), hiResBoundingBox_(hiRes) {}
+
+Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureService& service, const QByteArray& bytes,
+                                                                       const PictureLimits& limits) {
+  if (bytes.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the file is empty")};
+  if (!beginsPostScript(postScriptOf(bytes)))
+    return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
+  const EpsBoundingBoxes boxes = epsBoundingBoxes(bytes);
+  if (!boxes.boundingBox && !boxes.hiResBoundingBox)
+    return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript header states no usable bounding box")};
+  const QRectF box = boxes.boundingBox ? *boxes.boundingBox : QRectF(boxes.hiResBoundingBox->toAlignedRect());
+  return shared(new NSEPSImageRep(bytes, service.open(bytes, PictureKind::Eps, limits), box, boxes.hiResBoundingBox));
+}
+
+}  // namespace norvex

@@ -1,0 +1,16 @@
+// gzip streams as files hold them.
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace norvex {
+
+/// `bytes` as one gzip member; its header has no time, no name and names no system, so that equal bytes give equal
+/// streams everywhere. Nothing when memory is short. Thread-safe.
+[[nodiscard]] std::optional<QByteArray> gzipStream(const QByteArray& bytes);
+/// Whether bytes begin as a gzip stream does.
+[[nodiscard]] bool isGzip(const QByteArray& bytes);
+
+}  // namespace norvex

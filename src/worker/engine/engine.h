@@ -2,10 +2,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
+#include <QHash>
 #include <QImage>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 #include "platform/bitmap_image_rep.h"
 #include "platform/cancel_token.h"
@@ -13,6 +16,8 @@
 #include "platform/worker_protocol.h"
 
 namespace norvex::engine {
+
+class GhostscriptChild;
 
 /// Bytes with what the conversion has to tell.
 struct EngineBytes {
@@ -25,6 +30,7 @@ struct EngineContext {
   PictureLimits limits;
   QString scratchFolder;  ///< exists, private to this process, removed with it
   CancelToken cancel;     ///< of the running request; engines with loops or children look at it
+  std::shared_ptr<GhostscriptChild> warmGhostscript;  ///< waiting for its first document; see ghostscript.h
 };
 
 /// One opened document. Single-threaded; calls come one after the other. Owned by the server.
@@ -57,6 +63,11 @@ Result<NSBitmapImageRep> decodeTiff(const QByteArray& tiff, const PictureLimits&
 /// A rectangle of a page of `pdf`, turned, as a one-page PDF: the page becomes a form XObject under the view's
 /// transform, clipped to the rectangle; nothing is drawn again. Coordinates as in ComposeRequest.
 Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& request);
+
+/// `pdf` with its document information replaced by exactly `attributes` ("Title", "Author", "Subject", "Creator",
+/// "Producer" …; the names are PDF's) and `creationDate`. Metadata that would contradict them is dropped.
+Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& attributes,
+                                    const std::optional<QDateTime>& creationDate);
 
 /// The first page of `pdf` as EPS with a DSC header of ours.
 Result<EngineBytes> epsFromPdf(const QByteArray& pdf, EngineContext& context);

@@ -1,0 +1,130 @@
+#include "worker/engine/distill.h"
+
+#include <QRegularExpression>
+
+#include <optional>
+#include <utility>
+
+#include "worker/engine/ghostscript.h"
+#include "worker/engine/pdf_file.h"
+#include "worker/engine/pdf_numbers.h"
+#include "worker/engine/pdf_writing.h"
+
+namespace norvex::engine {
+namespace {
+
+QList<QByteArray> distillerArguments() {
+  return {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-q", "-sDEVICE=pdfwrite", "-sstdout=%stderr",
+          // Nothing that the comments say may turn the page or name the document.
+          "-dParseDSCComments=false", "-dParseDSCCommentsForDocInfo=false", "-dPreserveEPSInfo=false",
+          "-dAutoRotatePages=/None", "-dCompatibilityLevel=1.7",
+          // Colours and images as they are in the document.
+          "-sColorConversionStrategy=LeaveColorUnchanged", "-dDownsampleColorImages=false",
+          "-dDownsampleGrayImages=false", "-dDownsampleMonoImages=false", "-dAutoFilterColorImages=false",
+          "-dAutoFilterGrayImages=false", "-dColorImageFilter=/FlateEncode", "-dGrayImageFilter=/FlateEncode",
+          "-dPassThroughJPEGImages=true", "-dPreserveOverprintSettings=true", "-dPreserveSeparation=true",
+          "-dPreserveDeviceN=true", "-dUCRandBGInfo=/Preserve", "-dTransferFunctionInfo=/Preserve",
+          "-dEmbedAllFonts=true", "-dSubsetFonts=true", "-dMaxSubsetPct=100", "-o", "-", "-_"};
+}
+
+// Runs before the document, whose program follows it in the same stream. The page is set once and for all: what a
+// document may do to it (setpagedevice) does nothing, and the operators that go back to the page's own coordinates
+// go back to the box's. The document runs inside `stopped`, so that its end is known: on an error one line with the
+// count of finished pages and the error's name is written, otherwise a last showpage makes up for a missing one (a
+// page too many is dropped later). Names are bound early: documents redefine operators.
+QByteArray prolog(const QRectF& box) {
+  const QByteArray offset = decimal(-box.x(), 6) + ' ' + decimal(-box.y(), 6);
+  const QByteArray size = decimal(box.width(), 6) + ' ' + decimal(box.height(), 6);
+  return "%!\n<< /NeverEmbed [ ] >> setdistillerparams\n<< /PageSize [" + size +
+         "] /ImagingBBox null >> setpagedevice\n" + offset +
+         " translate\n"
+         "userdict begin\n"
+         "/setpagedevice { pop } def\n"
+         "/defaultmatrix { systemdict /defaultmatrix get exec " +
+         offset +
+         " matrix translate exch dup concatmatrix } bind def\n"
+         "/initmatrix { matrix defaultmatrix setmatrix } bind def\n"
+         "/initgraphics { systemdict /initgraphics get exec initmatrix } bind def\n"
+         "/quit { stop } bind def\n"
+         "end\n"
+         "{ currentfile cvx stopped $error /newerror get and\n"
+         "  { (%stderr) (w) file dup (norvex-error: ) writestring\n"
+         "    dup currentpagedevice /PageCount get =string cvs writestring dup ( ) writestring\n"
+         "    dup $error /errorname get =string cvs writestring dup ( ) writestring\n"
+         "    dup $error /command get =string cvs writestring dup (\\n) writestring flushfile\n"
+         "    systemdict /quit get exec }\n"
+         "  { systemdict /showpage get exec } ifelse } bind exec\n";
+}
+
+struct ProgramError {
+  int finishedPages = 0;
+  QString name;
+  QString command;
+};
+
+std::optional<ProgramError> programError(const QByteArray& messages) {
+  static const QRegularExpression line(QStringLiteral("norvex-error: (\\d+) (\\S+) ([^\\n]*)"));
+  const QRegularExpressionMatch match = line.match(QString::fromLatin1(messages));
+  if (!match.hasMatch()) return std::nullopt;
+  return ProgramError{match.captured(1).toInt(), match.captured(2), match.captured(3).simplified().left(80)};
+}
+
+Error sentence(const ProgramError& error) {
+  if (error.name == u"VMerror")
+    return {ErrorKind::Limit, QStringLiteral("the PostScript needs more memory than it was granted")};
+  const QString where = error.command.isEmpty() ? QString() : QStringLiteral(" in %1").arg(error.command);
+  return {ErrorKind::NotParsable, QStringLiteral("PostScript error: %1%2").arg(error.name, where)};
+}
+
+// For errors outside the document's own program: gs's words for them.
+Error unexplained(const GhostscriptOutput& run) {
+  static const QRegularExpression line(QStringLiteral("Error: /?([^\\n]+)"));
+  const QRegularExpressionMatch match = line.match(QString::fromLatin1(run.messages));
+  const QString words = match.hasMatch() ? match.captured(1).simplified().left(120)
+                                         : QStringLiteral("it draws no page");
+  if (words.contains(u"VMerror"))
+    return {ErrorKind::Limit, QStringLiteral("the PostScript needs more memory than it was granted")};
+  return {ErrorKind::NotParsable, QStringLiteral("PostScript error: %1").arg(words)};
+}
+
+// gs rounds the page to what its device can set and may have written a blank page behind the picture's.
+Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box) {
+  Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
+  if (!file) return file.error();
+  return guarded([&]() -> Result<QByteArray> {
+    QPDFObjectHandle page = (*file)->page(0);
+    for (const char* key : {"/CropBox", "/TrimBox", "/BleedBox", "/ArtBox", "/Rotate"}) page.removeKey(key);
+    page.replaceKey("/MediaBox", boxAtOrigin(box.width(), box.height()));
+    keepOnlyPage((*file)->qpdf(), page);
+    return writePdf((*file)->qpdf());
+  });
+}
+
+}  // namespace
+
+void warmUpGhostscript(EngineContext& context) {
+  if (context.warmGhostscript) return;
+  if (auto child = GhostscriptChild::start(distillerArguments(), context.scratchFolder))
+    context.warmGhostscript = std::move(*child);
+}
+
+Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
+  std::shared_ptr<GhostscriptChild> child = std::exchange(context.warmGhostscript, nullptr);
+  if (!child) {
+    auto started = GhostscriptChild::start(distillerArguments(), context.scratchFolder);
+    if (!started) return started.error();
+    child = std::move(*started);
+  }
+  const Result<GhostscriptOutput> run = child->run({prolog(box), postScript}, context);
+  if (!run) return run.error();
+  const std::optional<ProgramError> stopped = programError(run->messages);
+  if (stopped && stopped->finishedPages == 0) return sentence(*stopped);
+  if (run->exitStatus != 0 || !run->output.startsWith("%PDF-")) return unexplained(*run);
+  Result<QByteArray> pdf = firstPage(run->output, box);
+  if (!pdf) return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript draws no page")};
+  Distilled distilled{std::move(*pdf), {}};
+  if (stopped) distilled.warnings << QStringLiteral("what follows the picture in the file was left out");
+  return distilled;
+}
+
+}  // namespace norvex::engine

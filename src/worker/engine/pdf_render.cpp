@@ -1,0 +1,67 @@
+#include "worker/engine/pdf_render.h"
+
+// GIO has members called "signals", which Qt makes a macro of.
+#pragma push_macro("signals")
+#undef signals
+#include <poppler.h>
+#pragma pop_macro("signals")
+
+#include "worker/engine/cairo_surface.h"
+#include "worker/engine/pdf_file.h"
+
+namespace norvex::engine {
+namespace {
+
+struct GObjectRelease {
+  void operator()(void* object) const { g_object_unref(object); }
+};
+using PagePointer = std::unique_ptr<PopplerPage, GObjectRelease>;
+
+Error unreadable(GError* error) {
+  Error result{ErrorKind::NotParsable, QStringLiteral("the document is not a readable PDF")};
+  if (error && g_error_matches(error, POPPLER_ERROR, POPPLER_ERROR_ENCRYPTED))
+    result = {ErrorKind::Encrypted, QStringLiteral("the document is protected with a password")};
+  g_clear_error(&error);
+  return result;
+}
+
+// Poppler draws into a space with its origin at the page's upper-left corner, y down, one unit of user space a unit;
+// the clip keeps what lies outside the page (and in a neighbouring pixel's share of its edge) unpainted.
+Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
+  double width = 0;
+  double height = 0;
+  poppler_page_get_size(page, &width, &height);
+  if (!(width > 0) || !(height > 0)) return {};
+  cairo_rectangle(context, 0, 0, shownSize.width(), shownSize.height());
+  cairo_clip(context);
+  cairo_translate(context, 0, shownSize.height());
+  cairo_scale(context, shownSize.width() / width, -shownSize.height() / height);
+  poppler_page_render(page, context);
+  return {};
+}
+
+}  // namespace
+
+void PdfRenderer::Release::operator()(_PopplerDocument* document) const { g_object_unref(document); }
+
+Result<void> PdfRenderer::load() {
+  if (document_) return {};
+  GBytes* bytes = g_bytes_new_static(pdf_.constData(), gsize(pdf_.size()));
+  GError* error = nullptr;
+  document_.reset(poppler_document_new_from_bytes(bytes, nullptr, &error));
+  g_bytes_unref(bytes);
+  if (!document_) return unreadable(error);
+  return {};
+}
+
+Result<QImage> PdfRenderer::render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits) {
+  if (const Result<void> loaded = load(); !loaded) return loaded.error();
+  const int count = poppler_document_get_n_pages(document_.get());
+  if (request.page < 0 || request.page >= count) return noSuchPage(request.page, count);
+  const PagePointer page(poppler_document_get_page(document_.get(), request.page));
+  if (!page) return Error{ErrorKind::NotParsable, QStringLiteral("page %1 cannot be read").arg(request.page + 1)};
+  return paintImage(request, limits,
+                    [&](cairo_t* context) { return paintPage(context, page.get(), shownSize); });
+}
+
+}  // namespace norvex::engine

@@ -1,0 +1,36 @@
+// Draws pages of a PDF with Poppler. Poppler is loaded with the first rendering, never for facts.
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QSizeF>
+
+#include <memory>
+
+#include "platform/result.h"
+#include "platform/worker_protocol.h"
+
+struct _PopplerDocument;
+
+namespace norvex::engine {
+
+/// Single-threaded; keeps the parsed document for the next rendering.
+class PdfRenderer {
+ public:
+  explicit PdfRenderer(QByteArray pdf) : pdf_(std::move(pdf)) {}
+
+  /// Draws request.page. `shownSize` is the page's size in picture coordinates (points); pixels outside the page
+  /// and pixels that the page does not paint stay transparent. Fails as paintImage() does, with NotParsable when
+  /// Poppler cannot read the document and with Unsupported when there is no such page.
+  [[nodiscard]] Result<QImage> render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits);
+
+ private:
+  [[nodiscard]] Result<void> load();
+  struct Release {
+    void operator()(_PopplerDocument* document) const;
+  };
+  QByteArray pdf_;
+  std::unique_ptr<_PopplerDocument, Release> document_;
+};
+
+}  // namespace norvex::engine

@@ -1,0 +1,51 @@
+#include "worker/engine/pdf_writing.h"
+
+#include <qpdf/Buffer.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "worker/engine/pdf_numbers.h"
+
+namespace norvex::engine {
+
+void keepOnlyPage(QPDF& qpdf, QPDFObjectHandle page) {
+  QPDFObjectHandle root = qpdf.getRoot();
+  for (const std::string& key : root.getKeys())
+    if (key != "/Type" && key != "/OCProperties" && key != "/OutputIntents" && key != "/Extensions" &&
+        key != "/Version")
+      root.removeKey(key);
+  QPDFObjectHandle pages = qpdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
+  pages.replaceKey("/Type", QPDFObjectHandle::newName("/Pages"));
+  pages.replaceKey("/Kids", QPDFObjectHandle::newArray(std::vector<QPDFObjectHandle>{page}));
+  pages.replaceKey("/Count", QPDFObjectHandle::newInteger(1));
+  page.replaceKey("/Parent", pages);
+  root.replaceKey("/Pages", pages);
+  qpdf.updateAllPagesCache();
+  QPDFObjectHandle information = QPDFObjectHandle::newDictionary();
+  information.replaceKey("/Producer", producerText());
+  qpdf.getTrailer().replaceKey("/Info", qpdf.makeIndirectObject(information));
+}
+
+QByteArray writePdf(QPDF& qpdf) {
+  QPDFWriter writer(qpdf);
+  writer.setOutputMemory();
+  writer.setPreserveEncryption(false);
+  writer.setDeterministicID(true);
+  writer.write();
+  const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
+  return QByteArray(reinterpret_cast<const char*>(buffer->getBuffer()), qsizetype(buffer->getSize()));
+}
+
+QPDFObjectHandle boxAtOrigin(double width, double height) {
+  return QPDFObjectHandle::newArray(std::vector<QPDFObjectHandle>{
+      QPDFObjectHandle::newInteger(0), QPDFObjectHandle::newInteger(0),
+      QPDFObjectHandle::newReal(decimal(width).toStdString()),
+      QPDFObjectHandle::newReal(decimal(height).toStdString())});
+}
+
+QPDFObjectHandle producerText() { return QPDFObjectHandle::newUnicodeString("Norvex " NORVEX_VERSION); }
+
+}  // namespace norvex::engine

@@ -49,6 +49,13 @@ class PictureService {
                                                const PictureLimits& limits = {}) = 0;
   /// A TIFF file's first image as samples, uncompressed, rows without padding. Blocks.
   virtual Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) = 0;
+  /// `pdf` with these entries of its document information dictionary ("Title", "Author" …) and its creation date set;
+  /// the others stay. Blocks.
+  virtual Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& texts,
+                                              const QDateTime& creationDate, const CancelToken& cancel = {}) {
+    Q_UNUSED(pdf) Q_UNUSED(texts) Q_UNUSED(creationDate) Q_UNUSED(cancel)
+    return Error{ErrorKind::Unsupported, QStringLiteral("PDF attributes cannot be set here")};
+  }
 };
 
 }  // namespace norvex

@@ -1,0 +1,146 @@
+#include <cgif.h>
+#include <libimagequant.h>
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "encoders/raster_codecs.h"
+
+namespace norvex {
+namespace {
+
+constexpr int maximumSide = 65535;  // 16-bit sizes
+constexpr int opaqueFrom = 128;     // GIF pixels are transparent or not, nothing between
+
+struct AttrDeleter {
+  void operator()(liq_attr* p) const { liq_attr_destroy(p); }
+};
+struct ImageDeleter {
+  void operator()(liq_image* p) const { liq_image_destroy(p); }
+};
+struct ResultDeleter {
+  void operator()(liq_result* p) const { liq_result_destroy(p); }
+};
+
+/// A GIF in the making: indices into a palette.
+struct Indexed {
+  std::vector<uchar> palette;  ///< RGB
+  std::vector<uchar> indices;
+  int transparent = -1;
+};
+
+/// Colours as they look without their transparency, opaque or not at all.
+std::vector<uchar> straightPixels(const NSBitmapImageRep& raster) {
+  std::vector<uchar> rgba(size_t(raster.pixelsWide) * size_t(raster.pixelsHigh) * 4);
+  uchar* to = rgba.data();
+  for (int y = 0; y < raster.pixelsHigh; ++y) {
+    const auto* from =
+        reinterpret_cast<const uchar*>(raster.data.constData()) + qsizetype(y) * raster.bytesPerRow;
+    for (int x = 0; x < raster.pixelsWide; ++x, from += raster.samplesPerPixel, to += 4) {
+      const int alpha = raster.hasAlpha ? from[3] : 255;
+      if (alpha < opaqueFrom) continue;  // all 0
+      for (int i = 0; i < 3; ++i)
+        to[i] = static_cast<uchar>(std::min(255, (from[i] * 255 + alpha / 2) / alpha));
+      to[3] = 255;
+    }
+  }
+  return rgba;
+}
+
+Indexed quantise(const NSBitmapImageRep& raster) {
+  const std::vector<uchar> rgba = straightPixels(raster);
+  const bool transparency =
+      raster.hasAlpha &&
+      std::any_of(rgba.begin(), rgba.end(), [i = 0](uchar v) mutable { return (i++ & 3) == 3 && v == 0; });
+  std::unique_ptr<liq_attr, AttrDeleter> attr(liq_attr_create());
+  if (!attr) return {};
+  liq_set_max_colors(attr.get(), 256);
+  std::unique_ptr<liq_image, ImageDeleter> image(
+      liq_image_create_rgba(attr.get(), rgba.data(), raster.pixelsWide, raster.pixelsHigh, 0));
+  liq_result* raw = nullptr;
+  if (!image || liq_image_quantize(image.get(), attr.get(), &raw) != LIQ_OK) return {};
+  std::unique_ptr<liq_result, ResultDeleter> result(raw);
+  liq_set_dithering_level(result.get(), 1.0F);
+
+  Indexed out;
+  out.indices.resize(size_t(raster.pixelsWide) * size_t(raster.pixelsHigh));
+  if (liq_write_remapped_image(result.get(), image.get(), out.indices.data(), out.indices.size()) != LIQ_OK)
+    return {};
+  const liq_palette* palette = liq_get_palette(result.get());
+  for (unsigned i = 0; i < palette->count; ++i) {
+    const liq_color& c = palette->entries[i];
+    if (transparency && c.a < opaqueFrom) out.transparent = static_cast<int>(i);
+    out.palette.insert(out.palette.end(), {c.r, c.g, c.b});
+  }
+  return out;
+}
+
+int appendBytes(void* context, const uint8_t* bytes, size_t count) {
+  static_cast<QByteArray*>(context)->append(reinterpret_cast<const char*>(bytes),
+                                            static_cast<qsizetype>(count));
+  return 0;
+}
+
+QByteArray write(const NSBitmapImageRep& raster, Indexed& indexed) {
+  QByteArray file;
+  CGIF_Config config{};
+  config.pGlobalPalette = indexed.palette.data();
+  config.numGlobalPaletteEntries = static_cast<uint16_t>(indexed.palette.size() / 3);
+  config.width = static_cast<uint16_t>(raster.pixelsWide);
+  config.height = static_cast<uint16_t>(raster.pixelsHigh);
+  config.pWriteFn = appendBytes;
+  config.pContext = &file;
+  CGIF* gif = cgif_newgif(&config);
+  if (!gif) return {};
+  CGIF_FrameConfig frame{};
+  frame.pImageData = indexed.indices.data();
+  const bool added = cgif_addframe(gif, &frame) == CGIF_OK;
+  const bool closed = cgif_close(gif) == CGIF_OK;
+  return added && closed ? file : QByteArray();
+}
+
+/// The ICC profile as the application extension "ICCRGBG1" "012" (ICC.1, annex on embedding in GIF).
+QByteArray profileExtension(const QByteArray& profile) {
+  if (profile.isEmpty()) return {};
+  QByteArray extension("\x21\xFF\x0BICCRGBG1012", 14);
+  for (qsizetype at = 0; at < profile.size(); at += 255) {
+    const QByteArray block = profile.mid(at, 255);
+    extension += static_cast<char>(block.size());
+    extension += block;
+  }
+  return extension + '\0';
+}
+
+/// The graphic control extension that names the transparent index.
+QByteArray transparencyExtension(int index) {
+  if (index < 0) return {};
+  QByteArray extension("\x21\xF9\x04\x01\x00\x00\x00\x00", 8);
+  extension[6] = static_cast<char>(index);
+  return extension;
+}
+
+/// Puts extensions between the global colour table and the image. The library has no call for profiles, and
+/// its version 0.3.0 forgets the transparency of pictures that are not animated.
+void insertExtensions(QByteArray& file, const QByteArray& extensions) {
+  constexpr qsizetype descriptorEnd = 13;
+  if (extensions.isEmpty() || file.size() < descriptorEnd) return;
+  const int flags = static_cast<uchar>(file.at(10));
+  const qsizetype tableBytes = flags & 0x80 ? 3 * (qsizetype(2) << (flags & 7)) : 0;
+  file.insert(descriptorEnd + tableBytes, extensions);
+  file.replace(3, 3, "89a");  // extensions came with this version
+}
+
+}  // namespace
+
+QByteArray encodeGif(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+  if (!isEncodable(raster) || raster.pixelsWide > maximumSide || raster.pixelsHigh > maximumSide) return {};
+  Indexed indexed = quantise(raster);
+  if (indexed.indices.empty() || indexed.palette.empty()) return {};
+  QByteArray file = write(raster, indexed);
+  insertExtensions(file,
+                   profileExtension(properties.iccProfile) + transparencyExtension(indexed.transparent));
+  return file;
+}
+
+}  // namespace norvex

@@ -1,0 +1,98 @@
+#include <csetjmp>
+#include <cstdio>
+#include <cstdlib>
+
+#include <jpeglib.h>
+
+#include <cmath>
+
+#include "encoders/raster_codecs.h"
+
+namespace norvex {
+namespace {
+
+struct FailureHandler {
+  jpeg_error_mgr manager;
+  std::jmp_buf whereToGo;
+};
+
+void jumpOut(j_common_ptr codec) {
+  std::longjmp(reinterpret_cast<FailureHandler*>(codec->err)->whereToGo, 1);
+}
+void sayNothing(j_common_ptr) {}
+
+/// JPEG has no transparency: premultiplied colours are laid over white.
+void overWhiteRow(const uchar* from, uchar* to, int pixels) {
+  for (int x = 0; x < pixels; ++x, from += 4, to += 3) {
+    for (int i = 0; i < 3; ++i) to[i] = static_cast<uchar>(std::min(255, from[i] + 255 - from[3]));
+  }
+}
+
+void setUp(jpeg_compress_struct& codec, const NSBitmapImageRep& raster, const RasterProperties& properties,
+           int quality) {
+  codec.image_width = static_cast<JDIMENSION>(raster.pixelsWide);
+  codec.image_height = static_cast<JDIMENSION>(raster.pixelsHigh);
+  codec.input_components = 3;
+  codec.in_color_space = JCS_RGB;
+  jpeg_set_defaults(&codec);
+  jpeg_set_quality(&codec, quality, TRUE);
+  for (int i = 0; i < codec.num_components; ++i) {  // drawings have thin coloured lines: no subsampling
+    codec.comp_info[i].h_samp_factor = codec.comp_info[i].v_samp_factor = 1;
+  }
+  codec.density_unit = 1;  // dots per inch
+  codec.X_density = codec.Y_density =
+      static_cast<UINT16>(std::clamp(std::lround(properties.dpi), 1L, 65535L));
+}
+
+/// What is alive across libjpeg's long jumps is owned by the caller of this function, not by its frame.
+bool writeJpeg(jpeg_compress_struct& codec, FailureHandler& failure, const NSBitmapImageRep& raster,
+               const RasterProperties& properties, int quality, QByteArray& row) {
+  if (setjmp(failure.whereToGo)) return false;
+  setUp(codec, raster, properties, quality);
+  jpeg_start_compress(&codec, TRUE);
+  if (!properties.iccProfile.isEmpty()) {
+    jpeg_write_icc_profile(&codec, reinterpret_cast<const JOCTET*>(properties.iccProfile.constData()),
+                           static_cast<unsigned>(properties.iccProfile.size()));
+  }
+  for (int y = 0; y < raster.pixelsHigh; ++y) {
+    const auto* source =
+        reinterpret_cast<const uchar*>(raster.data.constData()) + qsizetype(y) * raster.bytesPerRow;
+    auto* line = reinterpret_cast<uchar*>(row.data());
+    if (raster.hasAlpha) {
+      overWhiteRow(source, line, raster.pixelsWide);
+    } else {
+      std::copy(source, source + raster.pixelsWide * 3, line);
+    }
+    JSAMPROW lines[1] = {line};
+    jpeg_write_scanlines(&codec, lines, 1);
+  }
+  jpeg_finish_compress(&codec);
+  return true;
+}
+
+}  // namespace
+
+QByteArray encodeJpeg(const NSBitmapImageRep& raster, const RasterProperties& properties, float quality) {
+  if (!isEncodable(raster) || raster.pixelsWide > JPEG_MAX_DIMENSION ||
+      raster.pixelsHigh > JPEG_MAX_DIMENSION)
+    return {};
+  FailureHandler failure{};
+  jpeg_compress_struct codec{};
+  codec.err = jpeg_std_error(&failure.manager);
+  failure.manager.error_exit = jumpOut;
+  failure.manager.output_message = sayNothing;
+  QByteArray row(raster.pixelsWide * 3, Qt::Uninitialized);
+  unsigned char* memory = nullptr;
+  unsigned long length = 0;
+  jpeg_create_compress(&codec);
+  jpeg_mem_dest(&codec, &memory, &length);
+  const bool good =
+      writeJpeg(codec, failure, raster, properties, static_cast<int>(std::lround(quality * 100)), row);
+  QByteArray file;
+  if (good) file = QByteArray(reinterpret_cast<const char*>(memory), static_cast<qsizetype>(length));
+  jpeg_destroy_compress(&codec);
+  std::free(memory);
+  return file;
+}
+
+}  // namespace norvex

@@ -1,0 +1,33 @@
+// The document attributes that a freshly generated PDF gets.
+#pragma once
+
+#include <QDateTime>
+#include <QHash>
+#include <QString>
+
+#include <optional>
+
+#include "metadata/header_dictionary.h"
+
+namespace norvex {
+
+/// Values for the PDF document information dictionary (PDF 32000-1, 14.3.3). A key that is absent is left as
+/// it is.
+struct PdfAttributes {
+  QHash<QString, QString> texts;  ///< "Title", "Author", "Subject", "Creator", "Producer"
+  QDateTime creationDate;
+};
+
+struct PdfAttributeDefaults {
+  QString applicationName;     ///< the bundle's name
+  QString applicationVersion;  ///< the bundle's version
+  QString userFullName;
+  QDateTime now;
+};
+
+/// The program is the creator, the document's own creator becomes the producer, and a description makes the
+/// title the subject. Nothing when there is a description but no title: there is then no subject to store.
+[[nodiscard]] std::optional<PdfAttributes> pdfAttributes(const HeaderDictionary& header,
+                                                         const PdfAttributeDefaults& defaults);
+
+}  // namespace norvex

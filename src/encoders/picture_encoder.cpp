@@ -1,0 +1,248 @@
+#include "encoders/picture_encoder.h"
+
+#include "display/view_compose.h"
+#include "encoders/dos_eps_writer.h"
+#include "encoders/eps_header_rewriter.h"
+#include "encoders/epsi_writer.h"
+#include "encoders/monoclome_bitmap.h"
+#include "encoders/pdf_attributes.h"
+#include "metadata/dos_eps_header.h"
+#include "metadata/eps_header.h"
+#include "metadata/full_date.h"
+#include "metadata/pdf_header.h"
+#include "metadata/source_text.h"
+#include "metadata/svg_header.h"
+#include "platform/picture/eps_image_rep.h"
+#include "platform/picture/pdf_image_rep.h"
+#include "platform/picture/web_image_rep.h"
+
+namespace norvex {
+namespace {
+
+HeaderDictionary epsHeaderOf(const NSImageRep* imageRep) {
+  const auto* eps = dynamic_cast<const NSEPSImageRep*>(imageRep);
+  return eps ? epsHeader(eps->EPSRepresentation()) : HeaderDictionary();
+}
+
+HeaderDictionary svgHeaderOf(const NSImageRep* imageRep) {
+  const auto* svg = dynamic_cast<const ZyWebImageRep*>(imageRep);
+  return svg ? svgHeader(svg->facts(), svg->colorSpace()) : HeaderDictionary();
+}
+
+HeaderDictionary pdfHeaderOf(const NSImageRep* imageRep, const QLocale& locale) {
+  const auto* pdf = dynamic_cast<const NSPDFImageRep*>(imageRep);
+  return pdf ? pdfHeader(pdf->facts(), locale) : HeaderDictionary();
+}
+
+bool isEps(const NSImageRep* imageRep) {
+  return dynamic_cast<const NSEPSImageRep*>(imageRep) != nullptr;
+}
+
+/// The previews of EPS files are of one pixel a point, whatever a raster file is to have.
+RasterSettings previewSettings(const RasterSettings& settings) {
+  return {72, settings.background};
+}
+
+}  // namespace
+
+PictureEncoder::PictureEncoder(std::shared_ptr<NSImageRep> imageRep, EncoderSurroundings surroundings,
+                               CancelToken cancel)
+    : imageRep_(std::move(imageRep)), surroundings_(std::move(surroundings)), cancel_(std::move(cancel)) {}
+
+QByteArray PictureEncoder::fail(const Error& error) {
+  report_.error = error;
+  return {};
+}
+
+QByteArray PictureEncoder::take(Result<PictureBytes> result) {
+  if (!result) return fail(result.error());
+  report_.regionsRasterised += result->report.regionsRasterised;
+  report_.rasterisedAreaShare = std::max(report_.rasterisedAreaShare, result->report.rasterisedAreaShare);
+  report_.warnings += result->report.warnings;
+  return result->bytes;
+}
+
+QByteArray PictureEncoder::composed(VectorFormat format) {
+  const PictureRegion region = surroundings_.region.value_or(wholePicture(*imageRep_));
+  const QPointF centre(imageRep_->size().width() / 2, imageRep_->size().height() / 2);
+  return take(composeView(imageRep_.get(), {centre, region.rotate}, format, region.rect, cancel_));
+}
+
+// ---- EPS
+// ------------------------------------------------------------------------------------------------------------
+
+QByteArray PictureEncoder::postScriptData() {
+  if (!imageRep_) return {};
+  if (const auto* eps = dynamic_cast<const NSEPSImageRep*>(imageRep_.get()); eps && handsOnSource()) {
+    return eps->EPSRepresentation();
+  }
+  const QByteArray generated = composed(VectorFormat::Eps);
+  return generated.isEmpty() ? QByteArray() : addEPSHeader(generated);
+}
+
+QByteArray PictureEncoder::addEPSHeader(const QByteArray& postScript) {
+  HeaderDictionary header;
+  if (dynamic_cast<const ZyWebImageRep*>(imageRep_.get())) {
+    header = svgHeaderOf(imageRep_.get());
+  } else if (dynamic_cast<const NSPDFImageRep*>(imageRep_.get())) {
+    header = pdfHeaderOf(imageRep_.get(), surroundings_.locale);
+  } else if (surroundings_.region) {
+    header = epsHeaderOf(imageRep_.get());  // a cut EPS is a new file with the old one's facts
+  }
+  EpsHeaderDefaults defaults;
+  defaults.creator = QStringLiteral("%1 by Tembrolix.").arg(QStringLiteral("MainWindowController"));
+  defaults.creationDate = fullDate(surroundings_.now, surroundings_.locale);
+  defaults.userFullName = surroundings_.userFullName;
+  return rewriteEpsHeader(postScript, header, defaults);
+}
+
+QString PictureEncoder::sourceTextOfEps() {
+  const auto* eps = dynamic_cast<const NSEPSImageRep*>(imageRep_.get());
+  const QByteArray bytes = eps->EPSRepresentation();
+  const qint64 number = epsHeader(bytes).value(header::EncodingNumber).toLongLong();
+  const QString text = sourceText(PictureKind::Eps, bytes, number);
+  if (text.isEmpty() && !postScriptOf(bytes).isEmpty()) {
+    report_.warnings += QStringLiteral("The source holds bytes that are text in no known encoding");
+  }
+  return text;
+}
+
+QByteArray PictureEncoder::postScriptDataWithPreview() {
+  const auto bitmap = bitmapOf(imageRep_, previewSettings(surroundings_.raster));
+  if (!bitmap) return {};
+  const QByteArray tiff = encodeTiff(*bitmap, {72, {}});
+  if (tiff.isEmpty())
+    return fail({ErrorKind::Unsupported, QStringLiteral("The preview could not be written as TIFF")});
+  QByteArray postScript;
+  if (isEps(imageRep_.get()) && handsOnSource()) {
+    postScript = sourceTextOfEps().toUtf8();
+    if (postScript.isEmpty()) {
+      report_.warnings += QStringLiteral("The file holds the preview only: its PostScript section is empty");
+    }
+  } else {
+    postScript = postScriptData();
+    if (postScript.isEmpty()) return {};
+  }
+  return dosEpsFile(tiff, postScript);
+}
+
+QByteArray PictureEncoder::epsiData() {
+  if (!imageRep_) return {};
+  QString text;
+  if (isEps(imageRep_.get()) && handsOnSource()) {
+    text = sourceTextOfEps();
+    if (text.isEmpty()) {
+      return fail({ErrorKind::Unsupported,
+                   QStringLiteral("The source could not be read as text, which this format needs")});
+    }
+  } else {
+    const QByteArray generated = postScriptData();
+    if (generated.isEmpty()) return {};
+    text = QString::fromUtf8(generated);
+  }
+  if (text.contains(QStringLiteral("%%BeginPreview:"))) return postScriptData();
+  const auto bitmap = bitmapOf(imageRep_, previewSettings(surroundings_.raster));
+  if (!bitmap) return {};
+  const auto grey = monoclomeBitmap(*bitmap);
+  if (!grey) return {};
+  const QString out = insertEpsiPreview(text, *grey);
+  if (out.isNull()) {
+    return fail(
+        {ErrorKind::Unsupported, QStringLiteral("The source has no comments that a preview could follow")});
+  }
+  return out.toUtf8();
+}
+
+// ---- PDF
+// ------------------------------------------------------------------------------------------------------------
+
+QByteArray PictureEncoder::pdfData() {
+  if (!imageRep_) return {};
+  if (const auto* pdf = dynamic_cast<const NSPDFImageRep*>(imageRep_.get()); pdf && handsOnSource()) {
+    return pdf->PDFRepresentation();
+  }
+  const bool wholeSvg = imageRep_->pictureKind() == PictureKind::Svg && handsOnSource();
+  const QByteArray generated =
+      wholeSvg ? take(imageRep_->process()->pdf({imageRep_->page()}, cancel_)) : composed(VectorFormat::Pdf);
+  return addPDFHeader(generated);
+}
+
+QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
+  if (pdf.isEmpty()) return {};
+  HeaderDictionary header;
+  if (dynamic_cast<const ZyWebImageRep*>(imageRep_.get())) {
+    header = svgHeaderOf(imageRep_.get());
+  } else if (isEps(imageRep_.get())) {
+    header = epsHeaderOf(imageRep_.get());
+  } else if (!handsOnSource()) {
+    header = pdfHeaderOf(imageRep_.get(),
+                         surroundings_.locale);  // a cut PDF is a new file with the old one's facts
+  }
+  const auto attributes =
+      pdfAttributes(header, {surroundings_.applicationName, surroundings_.applicationVersion,
+                             surroundings_.userFullName, surroundings_.now});
+  if (!attributes) {
+    return fail({ErrorKind::Unsupported,
+                 QStringLiteral("The document has a description but no title to store with it")});
+  }
+  if (!surroundings_.service)
+    return fail({ErrorKind::Unsupported, QStringLiteral("There is no picture process")});
+  Result<QByteArray> result =
+      surroundings_.service->setPdfAttributes(pdf, attributes->texts, attributes->creationDate, cancel_);
+  return result ? *result : fail(result.error());
+}
+
+// ---- SVG and raster
+// -------------------------------------------------------------------------------------------------
+
+QByteArray PictureEncoder::svgData() {
+  const auto* svg = dynamic_cast<const ZyWebImageRep*>(imageRep_.get());
+  if (!svg) return {};
+  SvgRequest request;
+  if (surroundings_.region) {
+    // The cut counts from the picture's upper left corner, y down, and turns clockwise.
+    const QRectF& rect = surroundings_.region->rect;
+    request.pretty = false;
+    request.rect = QRectF(rect.left() + svg->size().width() / 2,
+                          svg->size().height() / 2 - rect.top() - rect.height(), rect.width(), rect.height());
+    request.rotate = -surroundings_.region->rotate;
+  }
+  return take(svg->process()->svg(request, cancel_));
+}
+
+std::optional<NSBitmapImageRep> PictureEncoder::bitmapOf(const std::shared_ptr<NSImageRep>& imageRep,
+                                                         const RasterSettings& settings) {
+  const bool own = imageRep == imageRep_;
+  const auto image = docRasterImage(imageRep, own ? surroundings_.region : std::nullopt);
+  if (!image) return std::nullopt;
+  Result<NSBitmapImageRep> bitmap = image->bitmap(settings, cancel_);
+  if (!bitmap) report_.error = bitmap.error();
+  return bitmap ? std::optional(std::move(*bitmap)) : std::nullopt;
+}
+
+RasterProperties PictureEncoder::rasterProperties() const {
+  return {surroundings_.raster.dpi, surroundings_.iccProfile};
+}
+
+QByteArray PictureEncoder::tiffData(const std::shared_ptr<NSImageRep>& imageRep) {
+  const auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  return bitmap ? encodeTiff(*bitmap, rasterProperties()) : QByteArray();
+}
+
+QByteArray PictureEncoder::pngData(const std::shared_ptr<NSImageRep>& imageRep) {
+  const auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  return bitmap ? encodePng(*bitmap, rasterProperties()) : QByteArray();
+}
+
+QByteArray PictureEncoder::jpgData(const std::shared_ptr<NSImageRep>& imageRep) {
+  constexpr float quality = 0.9F;
+  const auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  return bitmap ? encodeJpeg(*bitmap, rasterProperties(), quality) : QByteArray();
+}
+
+QByteArray PictureEncoder::gifData(const std::shared_ptr<NSImageRep>& imageRep) {
+  const auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  return bitmap ? encodeGif(*bitmap, rasterProperties()) : QByteArray();
+}
+
+}  // namespace norvex

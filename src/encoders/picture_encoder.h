@@ -1,0 +1,89 @@
+// PictureEncoder: the shown picture as the bytes of each format. The window's commands and the command line
+// share it.
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QLocale>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+#include "encoders/doc_raster_image.h"
+#include "encoders/raster_codecs.h"
+#include "metadata/header_dictionary.h"
+#include "platform/picture/image_rep.h"
+#include "platform/picture_process.h"
+
+namespace norvex {
+
+/// What the producers need besides the picture.
+struct EncoderSurroundings {
+  PictureService* service = nullptr;  ///< borrowed; sets the attributes of a PDF
+  QString userFullName;
+  QString applicationName, applicationVersion;
+  QDateTime now;
+  QLocale locale;
+  QByteArray iccProfile;  ///< of the output colour space; empty: none is configured
+  RasterSettings raster;
+  /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
+  std::optional<PictureRegion> region;
+  bool onePage = false;  ///< hand out the shown page of a PDF, not the whole file
+};
+
+/// What a production has to tell besides its bytes.
+struct EncodingReport {
+  int regionsRasterised = 0;       ///< parts that the target could only hold as images
+  double rasterisedAreaShare = 0;  ///< 0 … 1 of the picture
+  QStringList warnings;            ///< one plain sentence each
+  std::optional<Error> error;      ///< why there are no bytes
+};
+
+/// Each producer blocks for the picture process and returns the bytes, or none: the report then says why. One
+/// object serves one picture; its calls come one after the other, on any thread.
+class PictureEncoder {
+ public:
+  PictureEncoder(std::shared_ptr<NSImageRep> imageRep, EncoderSurroundings surroundings,
+                 CancelToken cancel = {});
+
+  /// EPS. An EPS source is handed on as it is; anything else gets its comments from the header dictionary.
+  [[nodiscard]] QByteArray postScriptData();
+  /// `postScript` (UTF-8) with its comments rewritten from the header dictionary.
+  [[nodiscard]] QByteArray addEPSHeader(const QByteArray& postScript);
+  /// Binary EPS with an uncompressed TIFF preview.
+  [[nodiscard]] QByteArray postScriptDataWithPreview();
+  /// EPS with an interchange preview.
+  [[nodiscard]] QByteArray epsiData();
+  /// PDF. A PDF source is handed on as it is; anything else gets document attributes.
+  [[nodiscard]] QByteArray pdfData();
+  /// `pdf` with its document attributes set from the header dictionary; none for none.
+  [[nodiscard]] QByteArray addPDFHeader(const QByteArray& pdf);
+
+  [[nodiscard]] QByteArray tiffData(const std::shared_ptr<NSImageRep>& imageRep);
+  [[nodiscard]] QByteArray pngData(const std::shared_ptr<NSImageRep>& imageRep);
+  [[nodiscard]] QByteArray jpgData(const std::shared_ptr<NSImageRep>& imageRep);
+  [[nodiscard]] QByteArray gifData(const std::shared_ptr<NSImageRep>& imageRep);
+  /// Indented SVG; only of an SVG picture.
+  [[nodiscard]] QByteArray svgData();
+
+  [[nodiscard]] const std::shared_ptr<NSImageRep>& imageRep() const { return imageRep_; }
+  [[nodiscard]] const EncodingReport& report() const { return report_; }
+
+ private:
+  [[nodiscard]] bool handsOnSource() const { return !surroundings_.region && !surroundings_.onePage; }
+  [[nodiscard]] QByteArray composed(VectorFormat format);
+  [[nodiscard]] QByteArray take(Result<PictureBytes> result);
+  [[nodiscard]] QByteArray fail(const Error& error);
+  [[nodiscard]] std::optional<NSBitmapImageRep> bitmapOf(const std::shared_ptr<NSImageRep>& imageRep,
+                                                         const RasterSettings& settings);
+  [[nodiscard]] QString sourceTextOfEps();
+  [[nodiscard]] RasterProperties rasterProperties() const;
+
+  std::shared_ptr<NSImageRep> imageRep_;
+  EncoderSurroundings surroundings_;
+  CancelToken cancel_;
+  EncodingReport report_;
+};
+
+}  // namespace norvex

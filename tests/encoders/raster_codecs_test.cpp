@@ -1,0 +1,144 @@
+#include "encoders/raster_codecs.h"
+
+#include <QColorSpace>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+/// A red, a half-transparent green and a clear pixel on each of two rows.
+NSBitmapImageRep sample(bool alpha) {
+  QImage image(3, 2, alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+  for (int y = 0; y < 2; ++y) {
+    image.setPixelColor(0, y, QColor(255, 0, 0));
+    image.setPixelColor(1, y, alpha ? QColor(0, 200, 0, 128) : QColor(0, 200, 0));
+    image.setPixelColor(2, y, alpha ? QColor(0, 0, 0, 0) : QColor(9, 9, 9));
+  }
+  return NSBitmapImageRep::fromImage(image);
+}
+
+QByteArray sRGB() {
+  return QColorSpace(QColorSpace::SRgb).iccProfile();
+}
+
+using Encode = QByteArray (*)(const NSBitmapImageRep&, const RasterProperties&);
+QByteArray jpeg90(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+  return encodeJpeg(raster, properties, 0.9F);
+}
+
+/// What another program says about the bytes.
+QString say(const QByteArray& bytes, const QString& suffix, QStringList command) {
+  QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("raster.") + suffix));
+  if (!file.open(QIODevice::WriteOnly)) return {};
+  file.write(bytes);
+  file.close();
+  QProcess process;
+  process.setProcessChannelMode(QProcess::MergedChannels);
+  const QString program = command.takeFirst();
+  process.start(program, command << file.fileName());
+  process.waitForFinished();
+  return QString::fromUtf8(process.readAll()) + QStringLiteral("exit %1").arg(process.exitCode());
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(Encode)
+
+class RasterCodecsTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void theProfileIsEmbedded_data() {
+    QTest::addColumn<Encode>("encode");
+    QTest::addColumn<QString>("suffix");
+    QTest::newRow("tiff") << &encodeTiff << "tiff";
+    QTest::newRow("png") << &encodePng << "png";
+    QTest::newRow("jpeg") << &jpeg90 << "jpg";
+    QTest::newRow("gif") << &encodeGif << "gif";
+  }
+  void theProfileIsEmbedded() {
+    QFETCH(Encode, encode);
+    QFETCH(QString, suffix);
+    const QStringList ask = {QStringLiteral("exiftool"), QStringLiteral("-icc_profile"),
+                             QStringLiteral("-b")};
+    const QString with = say(encode(sample(true), {72, sRGB()}), suffix, ask);
+    QVERIFY2(with.contains(QStringLiteral("acsp")), qPrintable(with));
+    const QByteArray bare = encode(sample(true), {72, {}});
+    QVERIFY(!bare.isEmpty());
+    QVERIFY(!say(bare, suffix, ask).contains(QStringLiteral("acsp")));
+  }
+  void layoutsThatNoCodecTakesGiveNothing() {
+    NSBitmapImageRep grey = sample(false);
+    grey.samplesPerPixel = 1;
+    QVERIFY(encodeTiff(grey, {}).isEmpty());
+    QVERIFY(encodePng({}, {}).isEmpty());
+    QVERIFY(encodeJpeg(grey, {}, 0.9F).isEmpty());
+    QVERIFY(encodeGif(grey, {}).isEmpty());
+  }
+  void tiffIsUncompressedWithAssociatedAlpha() {
+    const QString said =
+        say(encodeTiff(sample(true), {300, {}}), QStringLiteral("tiff"), {QStringLiteral("tiffinfo")});
+    for (const char* text : {"Image Width: 3 Image Length: 2", "Resolution: 300, 300 pixels/inch",
+                             "Compression Scheme: None", "Extra Samples: 1<assoc-alpha>", "exit 0"}) {
+      QVERIFY2(said.contains(QLatin1String(text)), qPrintable(said));
+    }
+  }
+  void tiffSamplesStayPremultiplied() {
+    const NSBitmapImageRep raster = sample(true);
+    QVERIFY(encodeTiff(raster, {}).contains(raster.data));
+  }
+  void pngIsNotInterlacedAndHasAResolution() {
+    const QString said = say(encodePng(sample(true), {72, {}}), QStringLiteral("png"),
+                             {QStringLiteral("pngcheck"), QStringLiteral("-v")});
+    QVERIFY2(said.contains(QStringLiteral("non-interlaced")) && said.contains(QStringLiteral("2835x2835")) &&
+                 said.endsWith(QStringLiteral("exit 0")),
+             qPrintable(said));
+  }
+  void pngKeepsColoursAndOpacity() {
+    const QImage back = QImage::fromData(encodePng(sample(true), {})).convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(back.pixelColor(0, 0), QColor(255, 0, 0));
+    QCOMPARE(back.pixelColor(1, 1).alpha(), 128);
+    QVERIFY(std::abs(back.pixelColor(1, 1).green() - 200) <= 1);
+    QCOMPARE(back.pixelColor(2, 0).alpha(), 0);
+  }
+  void opaquePngHasNoAlpha() { QVERIFY(!QImage::fromData(encodePng(sample(false), {})).hasAlphaChannel()); }
+  void jpegHasFullColourResolutionAndWhitePaper() {
+    const QByteArray bytes = jpeg90(sample(true), {72, {}});
+    const QString said =
+        say(bytes, QStringLiteral("jpg"), {QStringLiteral("identify"), QStringLiteral("-verbose")});
+    QVERIFY2(said.contains(QStringLiteral("sampling-factor: 1x1,1x1,1x1")), qPrintable(said));
+    QVERIFY2(said.contains(QStringLiteral("Quality: 90")), qPrintable(said));
+    QVERIFY2(said.contains(QStringLiteral("Resolution: 72x72")), qPrintable(said));
+    const QColor clear = QImage::fromData(bytes).pixelColor(2, 0);
+    QVERIFY2(clear.lightness() > 215, qPrintable(clear.name()));
+  }
+  void gifKeepsTransparency() {
+    const QByteArray bytes = encodeGif(sample(true), {72, {}});
+    const QString said = say(bytes, QStringLiteral("gif"), {QStringLiteral("giftext")});
+    QVERIFY2(said.contains(QStringLiteral("exit 0")) && said.contains(QStringLiteral("Transparency on")),
+             qPrintable(said));
+    const QString pixels = say(bytes, QStringLiteral("gif"),
+                               {QStringLiteral("identify"), QStringLiteral("-format"),
+                                QStringLiteral("%[pixel:p{0,0}] %[pixel:p{2,0}]")});
+    QVERIFY2(pixels.contains(QStringLiteral("red")) || pixels.contains(QStringLiteral("255,0,0")),
+             qPrintable(pixels));
+    QVERIFY2(pixels.contains(QStringLiteral(",0)")), qPrintable(pixels));
+  }
+  void aGifOfThousandsOfColoursHas256() {
+    QImage image(200, 200, QImage::Format_RGB32);
+    for (int y = 0; y < 200; ++y) {
+      for (int x = 0; x < 200; ++x) image.setPixelColor(x, y, QColor(x, y, (x * y) % 256));
+    }
+    const QByteArray bytes = encodeGif(NSBitmapImageRep::fromImage(image), {});
+    const QString said = say(bytes, QStringLiteral("gif"), {QStringLiteral("identify")});
+    QVERIFY2(said.contains(QStringLiteral("200x200")) && said.contains(QStringLiteral("256c")),
+             qPrintable(said));
+  }
+};
+
+NORVEX_TEST(RasterCodecsTest)
+#include "raster_codecs_test.moc"

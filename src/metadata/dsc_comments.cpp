@@ -7,8 +7,8 @@
 namespace norvex {
 namespace {
 
-/// In the order of DscKeyword. Each begins with a percent sign, which is never the second byte of a character in any
-/// of the encodings, so that a match in the bytes is a match in the text.
+/// In the order of DscKeyword. Each begins with a percent sign, which is never the second byte of a character
+/// in any of the encodings, so that a match in the bytes is a match in the text.
 constexpr std::array<QByteArrayView, dscKeywordCount> kKeywords{
     "%%Title:",     "%%Creator:", "%%CreationDate:", "%%For:",
     "%%Copyright:", "%%Routing:", "%%BeginPreview:", "%APL_DSC_Encoding:"};
@@ -34,11 +34,14 @@ std::array<qsizetype, dscKeywordCount> firstOccurrences(QByteArrayView text) {
   return behind;
 }
 
-bool keepsAscii(qint64 number) { return number != encoding::Utf16 && number != encoding::NonLossyAscii; }
+bool keepsAscii(qint64 number) {
+  return number != encoding::Utf16 && number != encoding::NonLossyAscii;
+}
 
 }  // namespace
 
-DscComments::DscComments(QByteArrayView bytes, qint64 encodingNumber) : text_(bytes), encodingNumber_(encodingNumber) {
+DscComments::DscComments(QByteArrayView bytes, qint64 encodingNumber)
+    : text_(bytes), encodingNumber_(encodingNumber) {
   if (!keepsAscii(encodingNumber)) {
     undone_ = decodeText(bytes, encodingNumber).value_or(QString()).toUtf8();
     text_ = undone_;
@@ -61,6 +64,8 @@ QString DscComments::value(DscKeyword keyword) const {
   return QString("");
 }
 
-QByteArrayView DscComments::textBehind(DscKeyword keyword) const { return text_.sliced(behind(keyword)); }
+QByteArrayView DscComments::textBehind(DscKeyword keyword) const {
+  return text_.sliced(behind(keyword));
+}
 
 }  // namespace norvex

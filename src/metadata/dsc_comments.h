@@ -12,22 +12,32 @@
 namespace norvex {
 
 /// The comments that the header dictionary is made of.
-enum class DscKeyword { Title, Creator, CreationDate, For, Copyright, Routing, BeginPreview, DeclaredEncoding };
+enum class DscKeyword {
+  Title,
+  Creator,
+  CreationDate,
+  For,
+  Copyright,
+  Routing,
+  BeginPreview,
+  DeclaredEncoding
+};
 inline constexpr int dscKeywordCount = 8;
 
-/// A decoded PostScript text that is kept as bytes. Headers are a few lines of files of megabytes, so only the values
-/// that are asked for become strings. The bytes are borrowed, except where the encoding has to be undone first.
-/// REQUIRES for the constructor: isDecodable(bytes, encodingNumber).
+/// A decoded PostScript text that is kept as bytes. Headers are a few lines of files of megabytes, so only
+/// the values that are asked for become strings. The bytes are borrowed, except where the encoding has to be
+/// undone first. REQUIRES for the constructor: isDecodable(bytes, encodingNumber).
 class DscComments {
  public:
   DscComments(QByteArrayView bytes, qint64 encodingNumber);
 
   /// Whether the keyword occurs anywhere in the text, in comments or not.
   [[nodiscard]] bool contains(DscKeyword keyword) const { return behind(keyword) >= 0; }
-  /// The value behind the keyword's first occurrence: blanks and line breaks skipped, then everything up to a line
-  /// feed, a carriage return or a percent sign; trailing blanks stay. Empty when there is none.
+  /// The value behind the keyword's first occurrence: blanks and line breaks skipped, then everything up to a
+  /// line feed, a carriage return or a percent sign; trailing blanks stay. Empty when there is none.
   [[nodiscard]] QString value(DscKeyword keyword) const;
-  /// The text behind the keyword's first occurrence, in an encoding that keeps ASCII as it is. REQUIRES contains().
+  /// The text behind the keyword's first occurrence, in an encoding that keeps ASCII as it is. REQUIRES
+  /// contains().
   [[nodiscard]] QByteArrayView textBehind(DscKeyword keyword) const;
 
  private:

@@ -8,8 +8,12 @@
 namespace norvex {
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '\0'; }
-bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
+bool isBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '\0';
+}
+bool isLineEnd(char c) {
+  return c == '\n' || c == '\r';
+}
 
 /// The rest of the line that begins at `from`.
 QByteArrayView lineAt(QByteArrayView text, qsizetype from) {

@@ -49,8 +49,9 @@ FoundText binaryText(QByteArrayView source, const DosEpsHeader& header, const St
 
 // Tries EUC-JP before Shift JIS, unlike binaryText().
 FoundText plainText(QByteArrayView source, const Start& start) {
-  return firstDecoding(source.sliced(start.offset), {start.encodingNumber, encoding::EucJp, encoding::ShiftJis,
-                                                     encoding::NonLossyAscii, encoding::Ascii});
+  return firstDecoding(
+      source.sliced(start.offset),
+      {start.encodingNumber, encoding::EucJp, encoding::ShiftJis, encoding::NonLossyAscii, encoding::Ascii});
 }
 
 qint64 declaredEncoding(const DscComments& comments, qint64 current) {
@@ -107,8 +108,8 @@ void readPlain(HeaderDictionary& dictionary, QByteArrayView source, const Start&
     insertPreview(dictionary, epsiPreview(comments->textBehind(DscKeyword::BeginPreview)));
 }
 
-void readBinary(HeaderDictionary& dictionary, QByteArrayView source, const DosEpsHeader& header, const Start& start,
-                const TiffDecoder& decodeTiff) {
+void readBinary(HeaderDictionary& dictionary, QByteArrayView source, const DosEpsHeader& header,
+                const Start& start, const TiffDecoder& decodeTiff) {
   insertTiffPreview(dictionary, tiffSection(source, header, start.offset), decodeTiff);
   const FoundText text = binaryText(source, header, start);
   if (!text.decoded) return insertNoText(dictionary, text.encodingNumber);

@@ -6,8 +6,12 @@
 namespace norvex {
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
-bool isSpace(char c) { return isBlank(c) || (c >= '\n' && c <= '\r'); }
+bool isBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+bool isSpace(char c) {
+  return isBlank(c) || (c >= '\n' && c <= '\r');
+}
 
 /// Reads from the front of a borrowed text.
 class Scanner {
@@ -20,12 +24,13 @@ class Scanner {
     if (at_ < end_ && (*at_ == '-' || *at_ == '+')) ++at_;
     if (at_ == end_ || *at_ < '0' || *at_ > '9') return {};
     qint64 value = 0;
-    for (; at_ < end_ && *at_ >= '0' && *at_ <= '9'; ++at_) value = std::min<qint64>(value * 10 + (*at_ - '0'), kLarge);
+    for (; at_ < end_ && *at_ >= '0' && *at_ <= '9'; ++at_)
+      value = std::min<qint64>(value * 10 + (*at_ - '0'), kLarge);
     return negative ? -value : value;
   }
 
-  /// The digits of the next line that begins with "%"; empty at the end of the preview. Tools write a blank behind
-  /// the percent sign or none.
+  /// The digits of the next line that begins with "%"; empty at the end of the preview. Tools write a blank
+  /// behind the percent sign or none.
   QByteArrayView dataLine() {
     skip(isSpace);
     if (at_ == end_ || *at_ != '%') return {};

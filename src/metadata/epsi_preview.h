@@ -12,14 +12,15 @@ namespace norvex {
 /// A hostile file asks for a bitmap of gigabytes in a line of twenty characters.
 inline constexpr qint64 maximumPreviewPixels = 100'000'000;
 
-/// Reads the preview from the text just behind "%%BeginPreview:": width, height, depth and the number of lines (which
-/// is not used), then lines that begin with "%". The text is in any encoding that keeps ASCII bytes as they are.
-/// The bitmap has one grey sample a pixel, 0 black. Bytes that the lines do not give stay white; bytes too many are
-/// dropped. Nothing when the numbers are missing, not above zero, too large, or the depth is no depth.
+/// Reads the preview from the text just behind "%%BeginPreview:": width, height, depth and the number of
+/// lines (which is not used), then lines that begin with "%". The text is in any encoding that keeps ASCII
+/// bytes as they are. The bitmap has one grey sample a pixel, 0 black. Bytes that the lines do not give stay
+/// white; bytes too many are dropped. Nothing when the numbers are missing, not above zero, too large, or the
+/// depth is no depth.
 [[nodiscard]] std::optional<NSBitmapImageRep> epsiPreview(QByteArrayView behindKeyword);
 
-/// Bytes of a row: width × depth / 8, and one more only when neither is a multiple of 8, even where that is one more
-/// than needed.
+/// Bytes of a row: width × depth / 8, and one more only when neither is a multiple of 8, even where that is
+/// one more than needed.
 [[nodiscard]] qint64 epsiBytesPerRow(qint64 width, qint64 depth);
 
 }  // namespace norvex

@@ -24,7 +24,8 @@ QString fullDate(const QDateTime& date, const QLocale& locale) {
   const std::unique_ptr<icu::DateFormat> format(
       icu::DateFormat::createDateTimeInstance(icu::DateFormat::kFull, icu::DateFormat::kFull, where));
   if (!format) return {};
-  format->adoptTimeZone(icu::TimeZone::createTimeZone(icuText(QString::fromLatin1(QTimeZone::systemTimeZoneId()))));
+  format->adoptTimeZone(
+      icu::TimeZone::createTimeZone(icuText(QString::fromLatin1(QTimeZone::systemTimeZoneId()))));
   icu::UnicodeString text;
   format->format(UDate(date.toMSecsSinceEpoch()), text);
   return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());

@@ -7,9 +7,9 @@
 
 namespace norvex {
 
-/// For instance "Monday, February 3, 2014 at 9:07:05 AM Central European Standard Time": weekday, day, month name,
-/// year, time and the name of the time zone, in the order and words of `locale` and in the user's time zone.
-/// Empty for an invalid date. Thread-safe.
+/// For instance "Monday, February 3, 2014 at 9:07:05 AM Central European Standard Time": weekday, day, month
+/// name, year, time and the name of the time zone, in the order and words of `locale` and in the user's time
+/// zone. Empty for an invalid date. Thread-safe.
 [[nodiscard]] QString fullDate(const QDateTime& date, const QLocale& locale = QLocale());
 
 }  // namespace norvex

@@ -8,9 +8,10 @@
 
 namespace norvex {
 
-/// Text keys to values, built fresh by each extractor and owned by the caller. An absent key is an absent fact.
-/// Title, Creator, CreationDate, For, Copyright, Description and Encoding hold a QString, EncodingNumber a qint64,
-/// Preview an NSBitmapImageRep, ColorSpace a QColorSpace, and the two fixed-ratio keys of SVG a bool.
+/// Text keys to values, built fresh by each extractor and owned by the caller. An absent key is an absent
+/// fact. Title, Creator, CreationDate, For, Copyright, Description and Encoding hold a QString,
+/// EncodingNumber a qint64, Preview an NSBitmapImageRep, ColorSpace a QColorSpace, and the two fixed-ratio
+/// keys of SVG a bool.
 using HeaderDictionary = QVariantMap;
 
 namespace header {

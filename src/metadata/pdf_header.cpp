@@ -5,7 +5,8 @@
 namespace norvex {
 namespace {
 
-void insertAttribute(HeaderDictionary& dictionary, const QString& key, const PictureFacts& facts, const QString& name) {
+void insertAttribute(HeaderDictionary& dictionary, const QString& key, const PictureFacts& facts,
+                     const QString& name) {
   const auto it = facts.attributes.constFind(name);
   if (it != facts.attributes.constEnd()) dictionary.insert(key, it.value());
 }

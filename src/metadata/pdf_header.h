@@ -9,9 +9,10 @@
 
 namespace norvex {
 
-/// Creator, Title, CreationDate (fullDate() in `locale`), For (the author) and Description (the subject), each only
-/// when the document has it; Encoding and EncodingNumber always, saying that there is no text. Facts that could not
-/// be had give the empty dictionary. Thread-safe.
-[[nodiscard]] HeaderDictionary pdfHeader(const Result<PictureFacts>& facts, const QLocale& locale = QLocale());
+/// Creator, Title, CreationDate (fullDate() in `locale`), For (the author) and Description (the subject),
+/// each only when the document has it; Encoding and EncodingNumber always, saying that there is no text.
+/// Facts that could not be had give the empty dictionary. Thread-safe.
+[[nodiscard]] HeaderDictionary pdfHeader(const Result<PictureFacts>& facts,
+                                         const QLocale& locale = QLocale());
 
 }  // namespace norvex

@@ -26,7 +26,8 @@ HeaderDictionary svgHeader(const Result<PictureFacts>& facts, const std::optiona
     insertRatio(dictionary, ZyWebViewFixedRatioXKey, known.fixedRatioX);
     insertRatio(dictionary, ZyWebViewFixedRatioYKey, known.fixedRatioY);
   }
-  dictionary.insert(header::ColorSpace, QVariant::fromValue(colorSpace.value_or(QColorSpace(QColorSpace::SRgb))));
+  dictionary.insert(header::ColorSpace,
+                    QVariant::fromValue(colorSpace.value_or(QColorSpace(QColorSpace::SRgb))));
   return dictionary;
 }
 

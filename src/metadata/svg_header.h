@@ -11,8 +11,9 @@
 
 namespace norvex {
 
-/// Description, Title, Encoding, EncodingNumber and the two fixed-ratio keys, each only when the document supplies
-/// it; ColorSpace always: the document's own or sRGB. Facts that could not be had give ColorSpace alone. Thread-safe.
+/// Description, Title, Encoding, EncodingNumber and the two fixed-ratio keys, each only when the document
+/// supplies it; ColorSpace always: the document's own or sRGB. Facts that could not be had give ColorSpace
+/// alone. Thread-safe.
 [[nodiscard]] HeaderDictionary svgHeader(const Result<PictureFacts>& facts,
                                          const std::optional<QColorSpace>& colorSpace = {});
 

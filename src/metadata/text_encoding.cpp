@@ -29,9 +29,12 @@ bool isAscii(QByteArrayView bytes) {
   return seen < 0x80;
 }
 
-constexpr bool within(uchar c, uchar low, uchar high) { return c >= low && c <= high; }
+constexpr bool within(uchar c, uchar low, uchar high) {
+  return c >= low && c <= high;
+}
 
-// The converters take C1 control bytes that neither encoding has; Shift JIS katakana would pass for EUC-JP with them.
+// The converters take C1 control bytes that neither encoding has; Shift JIS katakana would pass for EUC-JP
+// with them.
 bool isEucJpForm(QByteArrayView bytes) {
   const auto* p = reinterpret_cast<const uchar*>(bytes.begin());
   const auto* end = reinterpret_cast<const uchar*>(bytes.end());
@@ -91,8 +94,8 @@ std::optional<QString> convert(QByteArrayView bytes, const char* name) {
   if (!converter) return {};
   QString text(bytes.size() + 1, Qt::Uninitialized);  // no decoder here gives more units than it takes bytes
   UErrorCode status = U_ZERO_ERROR;
-  const int32_t length = ucnv_toUChars(converter.get(), reinterpret_cast<UChar*>(text.data()), int32_t(text.size()),
-                                       bytes.data(), int32_t(bytes.size()), &status);
+  const int32_t length = ucnv_toUChars(converter.get(), reinterpret_cast<UChar*>(text.data()),
+                                       int32_t(text.size()), bytes.data(), int32_t(bytes.size()), &status);
   if (U_FAILURE(status)) return {};
   text.truncate(length);
   return text;
@@ -112,7 +115,8 @@ std::optional<QByteArray> convertBack(QStringView text, const char* name) {
   return bytes;
 }
 
-/// Where a text without a mark has its zero bytes tells the order: Latin letters have theirs in the high byte.
+/// Where a text without a mark has its zero bytes tells the order: Latin letters have theirs in the high
+/// byte.
 bool looksLittleEndian(QByteArrayView bytes) {
   int low = 0;
   int high = 0;
@@ -134,22 +138,32 @@ std::optional<QString> decodeUtf16(QByteArrayView bytes) {
 
 std::optional<QString> decodeText(QByteArrayView bytes, qint64 encodingNumber) {
   switch (encodingNumber) {
-    case encoding::Ascii: return isAscii(bytes) ? std::optional(QString::fromLatin1(bytes)) : std::nullopt;
-    case encoding::EucJp: return isEucJpForm(bytes) ? convert(bytes, "EUC-JP") : std::nullopt;
-    case encoding::Utf8: return bytes.isValidUtf8() ? std::optional(QString::fromUtf8(bytes)) : std::nullopt;
-    case encoding::NonLossyAscii: return decodeNonLossyAscii(bytes);
-    case encoding::ShiftJis: return isShiftJisForm(bytes) ? convert(bytes, "Shift_JIS") : std::nullopt;
-    case encoding::Utf16: return decodeUtf16(bytes);
-    default: return {};
+    case encoding::Ascii:
+      return isAscii(bytes) ? std::optional(QString::fromLatin1(bytes)) : std::nullopt;
+    case encoding::EucJp:
+      return isEucJpForm(bytes) ? convert(bytes, "EUC-JP") : std::nullopt;
+    case encoding::Utf8:
+      return bytes.isValidUtf8() ? std::optional(QString::fromUtf8(bytes)) : std::nullopt;
+    case encoding::NonLossyAscii:
+      return decodeNonLossyAscii(bytes);
+    case encoding::ShiftJis:
+      return isShiftJisForm(bytes) ? convert(bytes, "Shift_JIS") : std::nullopt;
+    case encoding::Utf16:
+      return decodeUtf16(bytes);
+    default:
+      return {};
   }
 }
 
 bool isDecodable(QByteArrayView bytes, qint64 encodingNumber) {
   switch (encodingNumber) {
     case encoding::Ascii:
-    case encoding::NonLossyAscii: return isAscii(bytes);
-    case encoding::Utf8: return bytes.isValidUtf8();
-    default: return decodeText(bytes, encodingNumber).has_value();
+    case encoding::NonLossyAscii:
+      return isAscii(bytes);
+    case encoding::Utf8:
+      return bytes.isValidUtf8();
+    default:
+      return decodeText(bytes, encodingNumber).has_value();
   }
 }
 
@@ -159,16 +173,21 @@ std::optional<QByteArray> encodeText(QStringView text, qint64 encodingNumber) {
       const bool plain = std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
       return plain ? std::optional(text.toLatin1()) : std::nullopt;
     }
-    case encoding::EucJp: return convertBack(text, "EUC-JP");
-    case encoding::Utf8: return text.isValidUtf16() ? std::optional(text.toUtf8()) : std::nullopt;
-    case encoding::NonLossyAscii: return encodeNonLossyAscii(text);
-    case encoding::ShiftJis: return convertBack(text, "Shift_JIS");
+    case encoding::EucJp:
+      return convertBack(text, "EUC-JP");
+    case encoding::Utf8:
+      return text.isValidUtf16() ? std::optional(text.toUtf8()) : std::nullopt;
+    case encoding::NonLossyAscii:
+      return encodeNonLossyAscii(text);
+    case encoding::ShiftJis:
+      return convertBack(text, "Shift_JIS");
     case encoding::Utf16: {
       auto bytes = convertBack(text, "UTF-16BE");
       if (bytes) bytes->prepend("\xFE\xFF");
       return bytes;
     }
-    default: return {};
+    default:
+      return {};
   }
 }
 

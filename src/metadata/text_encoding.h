@@ -14,16 +14,15 @@ namespace norvex {
 
 /// The text of `bytes` in the encoding of that number (namespace encoding). All or nothing: one byte that the
 /// encoding does not know, or a number without a decoder, gives nothing.
-/// UTF-16 takes its byte order from a mark, which is not part of the text; without one, from where the zero bytes
-/// stand at the text's start, and when they tell nothing it is big-endian.
-/// Thread-safe.
+/// UTF-16 takes its byte order from a mark, which is not part of the text; without one, from where the zero
+/// bytes stand at the text's start, and when they tell nothing it is big-endian. Thread-safe.
 [[nodiscard]] std::optional<QString> decodeText(QByteArrayView bytes, qint64 encodingNumber);
 
 /// Whether decodeText() would give a text, for less work where the encoding allows it. Thread-safe.
 [[nodiscard]] bool isDecodable(QByteArrayView bytes, qint64 encodingNumber);
 
-/// The bytes of `text` in the encoding of that number. All or nothing: a character that the encoding cannot say
-/// gives nothing. UTF-16 is written big-endian behind a mark. Thread-safe.
+/// The bytes of `text` in the encoding of that number. All or nothing: a character that the encoding cannot
+/// say gives nothing. UTF-16 is written big-endian behind a mark. Thread-safe.
 [[nodiscard]] std::optional<QByteArray> encodeText(QStringView text, qint64 encodingNumber);
 
 /// The name that the header dictionary stores beside the number; two of the pairings are unusual on purpose.

@@ -4,9 +4,9 @@
 
 #include "document/document_types.h"
 #include "document/unimplemented_method.h"
-#include "document/whole_file.h"
 #include "platform/bundle.h"
 #include "platform/localized_string.h"
+#include "platform/picture/document_file.h"
 
 namespace norvex {
 
@@ -47,7 +47,7 @@ void Document::removeWindowController(DocumentWindowController& controller) {
 
 void Document::revertDocumentToSaved() {
   std::optional<QByteArray> bytes;
-  if (Result<QByteArray> file = readWholeFile(fileURL_.toLocalFile())) bytes = std::move(*file);
+  if (Result<QByteArray> file = readDocumentFile(fileURL_.toLocalFile())) bytes = std::move(*file);
   readFromData(bytes, fileType_);
   if (!windowController_) return;
   windowController_->windowDidLoad();

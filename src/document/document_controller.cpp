@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "document/unimplemented_method.h"
-#include "document/whole_file.h"
 #include "platform/localized_string.h"
+#include "platform/picture/document_file.h"
 #include "platform/type_identification.h"
 
 namespace norvex {
@@ -80,7 +80,7 @@ void DocumentController::openDocuments(const QList<QUrl>& urls) {
 }
 
 DocumentController::Read DocumentController::readFile(const Document& document, const QUrl& url) {
-  const Result<QByteArray> bytes = readWholeFile(url.toLocalFile());
+  const Result<QByteArray> bytes = readDocumentFile(url.toLocalFile());
   if (!bytes) return {{}, OpenFailure{url, asSentence(bytes.error().message), {}}};
   const QString type = identifyType(*bytes, url.fileName()).identifier();
   try {

@@ -1,0 +1,178 @@
+#include "document/document.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtConcurrent>
+
+#include "document/document_types.h"
+#include "document/memory_window_controller.h"
+#include "document/unimplemented_method.h"
+#include "kit/test_main.h"
+#include "platform/bundle.h"
+#include "platform/picture/null_picture_service.h"
+#include "platform/uniform_type.h"
+
+using namespace norvex;
+
+class DocumentTest : public QObject {
+  Q_OBJECT
+
+  NullPictureService service_;
+  QStringList log_;
+  std::unique_ptr<Document> make() { return std::make_unique<Document>(service_, kit::loggingFactory(&log_)); }
+
+ private slots:
+  void init() { log_.clear(); }
+
+  void theFiveTypesAreAccepted_data() {
+    QTest::addColumn<QString>("type");
+    for (const char* type : {"com.adobe.encapsulated-postscript", "com.Tembrolix.epsi", "com.adobe.illustrator.ai-image",
+                             "com.adobe.pdf", "public.svg-image", "com.Tembrolix.svgz"})
+      QTest::newRow(type) << type;
+  }
+  void theFiveTypesAreAccepted() {
+    QFETCH(QString, type);
+    QVERIFY(make()->readFromData(QByteArray("x"), type));
+  }
+
+  void aSubtypeOfEncapsulatedPostScriptIsAccepted() {
+    UTType::exportedTypeWithIdentifier("org.example.kind-of-eps", {"com.adobe.encapsulated-postscript"});
+    UTType::exportedTypeWithIdentifier("org.example.kind-of-kind-of-eps", {"org.example.kind-of-eps"});
+    QVERIFY(make()->readFromData(QByteArray("%!PS"), "org.example.kind-of-eps"));
+    QVERIFY(make()->readFromData(QByteArray("%!PS"), "org.example.kind-of-kind-of-eps"));
+  }
+
+  void anUnacceptedTypeRaisesUnimplementedMethod_data() {
+    QTest::addColumn<QString>("type");
+    for (const char* type : {"public.png", "public.plain-text", "com.adobe.postscript", "public.data", "org.example.unknown"})
+      QTest::newRow(type) << type;
+    QTest::newRow("no type") << QString();
+  }
+  void anUnacceptedTypeRaisesUnimplementedMethod() {
+    QFETCH(QString, type);
+    for (const bool present : {true, false}) {
+      const auto data = present ? std::optional<QByteArray>("x") : std::nullopt;
+      DocumentError error{"untouched", 77, "untouched"};
+      try {
+        make()->readFromData(data, type, &error);
+        QFAIL("nothing was raised");
+      } catch (const UnimplementedMethod& exception) {
+        QCOMPARE(exception.name(), QString("UnimplementedMethod"));
+        QCOMPARE(exception.reason(), QString("readFromData:ofType:error: is unimplemented"));
+        QCOMPARE(QByteArray(exception.what()), QByteArray("readFromData:ofType:error: is unimplemented"));
+      }
+      QCOMPARE(error.domain, QString("untouched"));
+      QCOMPARE(error.code, 77);
+      QCOMPARE(error.recoverySuggestion, QString("untouched"));
+    }
+  }
+
+  void zeroBytesThatArePresentAreAccepted() {
+    DocumentError error;
+    QVERIFY(make()->readFromData(QByteArray(), "com.adobe.pdf", &error));
+    QVERIFY(make()->readFromData(QByteArray(""), "com.adobe.pdf", &error));
+    QCOMPARE(error.code, 0);
+  }
+
+  void absentDataFailsWithCodeOneAndBadData() {
+    DocumentError error;
+    QVERIFY(!make()->readFromData(std::nullopt, "com.adobe.encapsulated-postscript", &error));
+    QCOMPARE(error.code, 1);
+    QCOMPARE(error.recoverySuggestion, QString("Bad data."));
+    QCOMPARE(error.domain, errorDomain());
+  }
+
+  void absentDataWithoutAnErrorParameterIsJustFalse() {
+    QVERIFY(!make()->readFromData(std::nullopt, "com.adobe.encapsulated-postscript"));
+    QVERIFY(log_.isEmpty());
+  }
+
+  void theErrorDomainIsTheBundleIdentifierAndErrorDomain() {
+    QCOMPARE(errorDomain(), bundleIdentifier() + ".ErrorDomain");
+    QCOMPARE(errorDomain(), QString("com.Norvex.ErrorDomain"));
+  }
+
+  void everyTypeMayBeReadConcurrently() {
+    for (const QString& type : acceptedDocumentTypes()) QVERIFY(Document::canConcurrentlyReadDocumentsOfType(type));
+    QVERIFY(Document::canConcurrentlyReadDocumentsOfType("public.plain-text"));
+  }
+
+  void severalThreadsReadAtOnce() {
+    const auto document = make();
+    QList<int> numbers;
+    for (int i = 0; i < 200; ++i) numbers << i;
+    const QList<int> answers = QtConcurrent::blockingMapped(numbers, [&](int i) {
+      DocumentError error;
+      try {
+        if (i % 3 == 2) return document->readFromData(std::nullopt, "com.adobe.pdf", &error) ? -1 : error.code;
+        return document->readFromData(QByteArray("x"), i % 3 ? "public.png" : "public.svg-image", &error) ? 100 : -1;
+      } catch (const UnimplementedMethod&) {
+        return 200;
+      }
+    });
+    for (int i : numbers) QCOMPARE(answers[i], (QList<int>{100, 200, 1})[i % 3]);
+  }
+
+  void makingTheControllerTellsItToCloseTheDocumentAndAddsIt() {
+    auto document = make();
+    QVERIFY(!document->windowController());
+    document->makeWindowControllers();
+    QVERIFY(document->windowController());
+    QCOMPARE(log_, (QStringList{"closes document", "added"}));
+    document->makeWindowControllers();
+    QCOMPARE(log_.size(), 2);
+  }
+
+  void destructionUnregistersTheControllerBeforeItReleasesIt() {
+    auto document = make();
+    document->makeWindowControllers();
+    log_.clear();
+    document.reset();
+    QCOMPARE(log_, (QStringList{"removed", "destroyed"}));
+  }
+
+  void closingTheWindowClosesTheDocumentOnce() {
+    auto document = make();
+    document->makeWindowControllers();
+    QSignalSpy closed(document.get(), &Document::closed);
+    auto* controller = static_cast<kit::MemoryWindowController*>(document->windowController());
+    controller->closeWindow();
+    controller->closeWindow();
+    QCOMPARE(closed.size(), 1);
+  }
+
+  void revertLoadsAgainThenRedraws() {
+    QTemporaryDir folder;
+    QFile file(folder.filePath("a.pdf"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("%PDF-1.4");
+    file.close();
+    auto document = make();
+    document->setFileURL(QUrl::fromLocalFile(file.fileName()));
+    document->setFileType("com.adobe.pdf");
+    document->makeWindowControllers();
+    log_.clear();
+    document->revertDocumentToSaved();
+    QCOMPARE(log_, (QStringList{"loaded", "displayed"}));
+  }
+
+  void revertOfAFileThatIsGoneLoadsAgainAndAsksNothing() {
+    auto document = make();
+    document->setFileURL(QUrl::fromLocalFile("/nonexistent/gone.eps"));
+    document->setFileType("com.adobe.encapsulated-postscript");
+    document->makeWindowControllers();
+    log_.clear();
+    document->revertDocumentToSaved();
+    QCOMPARE(log_, (QStringList{"loaded", "displayed"}));
+  }
+
+  void theDisplayNameIsTheFilesName() {
+    auto document = make();
+    QCOMPARE(document->displayName(), QString("Untitled"));
+    document->setFileURL(QUrl::fromLocalFile("/tmp/My Pictures/a b%20c.eps"));
+    QCOMPARE(document->displayName(), QString("a b%20c.eps"));
+  }
+};
+
+NORVEX_TEST(DocumentTest)
+#include "document_test.moc"

@@ -102,7 +102,7 @@ QString PictureEncoder::sourceTextOfEps() {
   const qint64 number = epsHeader(bytes).value(header::EncodingNumber).toLongLong();
   const QString text = sourceText(PictureKind::Eps, bytes, number);
   if (text.isEmpty() && !postScriptOf(bytes).isEmpty()) {
-    report_.warnings += QStringLiteral("The source holds bytes that are text in no known encoding");
+    report_.warnings += QStringLiteral("the source holds bytes that are text in no known encoding");
   }
   return text;
 }
@@ -112,12 +112,12 @@ QByteArray PictureEncoder::postScriptDataWithPreview() {
   if (!bitmap) return {};
   const QByteArray tiff = encodeTiff(*bitmap, {72, {}});
   if (tiff.isEmpty())
-    return fail({ErrorKind::Unsupported, QStringLiteral("The preview could not be written as TIFF")});
+    return fail({ErrorKind::Unsupported, QStringLiteral("the preview could not be written as TIFF")});
   QByteArray postScript;
   if (isEps(imageRep_.get()) && handsOnSource()) {
     postScript = sourceTextOfEps().toUtf8();
     if (postScript.isEmpty()) {
-      report_.warnings += QStringLiteral("The file holds the preview only: its PostScript section is empty");
+      report_.warnings += QStringLiteral("the file holds the preview only: its PostScript section is empty");
     }
   } else {
     postScript = postScriptData();
@@ -133,7 +133,7 @@ QByteArray PictureEncoder::epsiData() {
     text = sourceTextOfEps();
     if (text.isEmpty()) {
       return fail({ErrorKind::Unsupported,
-                   QStringLiteral("The source could not be read as text, which this format needs")});
+                   QStringLiteral("the source could not be read as text, which this format needs")});
     }
   } else {
     const QByteArray generated = postScriptData();
@@ -148,7 +148,7 @@ QByteArray PictureEncoder::epsiData() {
   const QString out = insertEpsiPreview(text, *grey);
   if (out.isNull()) {
     return fail(
-        {ErrorKind::Unsupported, QStringLiteral("The source has no comments that a preview could follow")});
+        {ErrorKind::Unsupported, QStringLiteral("the source has no comments that a preview could follow")});
   }
   return out.toUtf8();
 }
@@ -183,10 +183,10 @@ QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
                              surroundings_.userFullName, surroundings_.now});
   if (!attributes) {
     return fail({ErrorKind::Unsupported,
-                 QStringLiteral("The document has a description but no title to store with it")});
+                 QStringLiteral("the document has a description but no title to store with it")});
   }
   if (!surroundings_.service)
-    return fail({ErrorKind::Unsupported, QStringLiteral("There is no picture process")});
+    return fail({ErrorKind::Unsupported, QStringLiteral("there is no picture process")});
   Result<QByteArray> result =
       surroundings_.service->setPdfAttributes(pdf, attributes->texts, attributes->creationDate, cancel_);
   return result ? *result : fail(result.error());

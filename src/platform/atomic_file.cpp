@@ -18,18 +18,18 @@ namespace {
 
 Error cannotWrite(int reason) {
   switch (reason) {
-    case EEXIST: return {ErrorKind::CannotWrite, QStringLiteral("The file exists already")};
+    case EEXIST: return {ErrorKind::CannotWrite, QStringLiteral("the file exists already")};
     case ENOENT:
-    case ENOTDIR: return {ErrorKind::CannotWrite, QStringLiteral("The folder to write to does not exist")};
-    case EISDIR: return {ErrorKind::CannotWrite, QStringLiteral("There is a folder of that name")};
+    case ENOTDIR: return {ErrorKind::CannotWrite, QStringLiteral("the folder to write to does not exist")};
+    case EISDIR: return {ErrorKind::CannotWrite, QStringLiteral("there is a folder of that name")};
     case ENOSPC:
-    case EDQUOT: return {ErrorKind::CannotWrite, QStringLiteral("There is no space left to write to")};
+    case EDQUOT: return {ErrorKind::CannotWrite, QStringLiteral("there is no space left to write to")};
     case EROFS:
     case EACCES:
-    case EPERM: return {ErrorKind::CannotWrite, QStringLiteral("Writing there is not permitted")};
+    case EPERM: return {ErrorKind::CannotWrite, QStringLiteral("writing there is not permitted")};
     default:
       return {ErrorKind::CannotWrite,
-              QStringLiteral("The file could not be written (%1)").arg(QString::fromLocal8Bit(std::strerror(reason)))};
+              QStringLiteral("the file could not be written (%1)").arg(QString::fromLocal8Bit(std::strerror(reason)))};
   }
 }
 
@@ -108,7 +108,7 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, I
   const auto old = statusOf(path);
   if (old && S_ISDIR(old->st_mode)) return cannotWrite(EISDIR);
   if (old && ifExists == IfExists::Fail) return cannotWrite(EEXIST);
-  if (old && (old->st_mode & S_IWUSR) == 0) return Error{ErrorKind::CannotWrite, QStringLiteral("The file is read-only")};
+  if (old && (old->st_mode & S_IWUSR) == 0) return Error{ErrorKind::CannotWrite, QStringLiteral("the file is read-only")};
   const QString target = old ? QFileInfo(path).canonicalFilePath() : path;
 
   NewFile file(target, 0666);

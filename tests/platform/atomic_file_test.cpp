@@ -49,7 +49,7 @@ class AtomicFileTest : public QObject {
     const auto refused = writeFileAtomically(path, "new", IfExists::Fail);
     QVERIFY(!refused);
     QCOMPARE(refused.error().kind, ErrorKind::CannotWrite);
-    QCOMPARE(refused.error().message, QStringLiteral("The file exists already"));
+    QCOMPARE(refused.error().message, QStringLiteral("the file exists already"));
     QCOMPARE(contentOf(path), QByteArray("old"));
     QVERIFY(writeFileAtomically(path, "new", IfExists::Replace));
     QCOMPARE(contentOf(path), QByteArray("new"));
@@ -70,7 +70,7 @@ class AtomicFileTest : public QObject {
     ::chmod(qPrintable(path), 0444);
     const auto refused = writeFileAtomically(path, "new", IfExists::Replace);
     QVERIFY(!refused);
-    QCOMPARE(refused.error().message, QStringLiteral("The file is read-only"));
+    QCOMPARE(refused.error().message, QStringLiteral("the file is read-only"));
     QCOMPARE(contentOf(path), QByteArray("old"));
   }
   void aLinkStaysALink() {
@@ -86,12 +86,12 @@ class AtomicFileTest : public QObject {
   void aMissingFolderIsSaid() {
     const auto refused = writeFileAtomically(folder_->filePath(QStringLiteral("no/such/a")), "x", IfExists::Replace);
     QVERIFY(!refused);
-    QCOMPARE(refused.error().message, QStringLiteral("The folder to write to does not exist"));
+    QCOMPARE(refused.error().message, QStringLiteral("the folder to write to does not exist"));
   }
   void aFolderIsNotOverwritten() {
     const auto refused = writeFileAtomically(folder_->path(), "x", IfExists::Replace);
     QVERIFY(!refused);
-    QCOMPARE(refused.error().message, QStringLiteral("There is a folder of that name"));
+    QCOMPARE(refused.error().message, QStringLiteral("there is a folder of that name"));
   }
   void aFullDiskLeavesTheOldFile() {
     const QString small = folder_->filePath(QStringLiteral("small"));
@@ -104,7 +104,7 @@ class AtomicFileTest : public QObject {
     const QStringList all = allIn(small);
     ::umount(qPrintable(small));
     QVERIFY(!refused);
-    QCOMPARE(refused.error().message, QStringLiteral("There is no space left to write to"));
+    QCOMPARE(refused.error().message, QStringLiteral("there is no space left to write to"));
     QCOMPARE(left, QByteArray("old"));
     QCOMPARE(all, QStringList{QStringLiteral("a")});
   }

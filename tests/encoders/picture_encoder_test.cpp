@@ -1,0 +1,235 @@
+#include "encoders/picture_encoder.h"
+
+#include <QColorSpace>
+#include <QPainter>
+
+#include "kit/test_main.h"
+#include "platform/picture/eps_image_rep.h"
+#include "platform/picture/memory_picture_service.h"
+#include "platform/picture/pdf_image_rep.h"
+#include "platform/picture/web_image_rep.h"
+
+using namespace norvex;
+
+namespace {
+
+const QByteArray generatedEps =
+    "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n%%Title: old\n%%Creator: old\n%%CreationDate: "
+    "old\n%%For: old\n"
+    "%%EndComments\nshowpage\n";
+const QByteArray sourceEps =
+    "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n%%Title: (Own)\n%%For:\n%%EndComments\nshowpage\n";
+
+MemoryPicture picture() {
+  MemoryPicture memory;
+  memory.facts.title = QStringLiteral("A Title");
+  memory.facts.encodingName = QStringLiteral("utf-8");
+  memory.facts.encodingNumber = 4;
+  memory.facts.attributes = {{QStringLiteral("Title"), QStringLiteral("Pdf Title")},
+                             {QStringLiteral("Creator"), QStringLiteral("Drawer")}};
+  memory.compose = [](const ComposeRequest& request) {
+    return request.format == VectorFormat::Eps ? generatedEps : QByteArray("%PDF-composed");
+  };
+  memory.pdf = [](const PdfRequest&) { return QByteArray("%PDF-whole"); };
+  memory.svg = [](const SvgRequest& request) {
+    return QByteArray(request.pretty ? "<svg pretty/>" : "<svg cut/>");
+  };
+  return memory;
+}
+
+/// A picture service that remembers the attributes it was given.
+class AttributesService final : public PictureService {
+ public:
+  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
+                                       const PictureLimits& limits) override {
+    return memory.open(bytes, kind, limits);
+  }
+  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel) override {
+    return memory.decodePreview(tiff, cancel);
+  }
+  Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& texts,
+                                      const QDateTime& date, const CancelToken&) override {
+    given = texts;
+    givenDate = date;
+    return pdf + "+attributes";
+  }
+  MemoryPictureService memory{picture()};
+  QHash<QString, QString> given;
+  QDateTime givenDate;
+};
+
+}  // namespace
+
+class PictureEncoderTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void init() { service_ = std::make_unique<AttributesService>(); }
+
+  void withoutAPictureEveryProducerReturnsNothing() {
+    PictureEncoder encoder = encoderOf(nullptr);
+    QVERIFY(encoder.postScriptData().isEmpty());
+    QVERIFY(encoder.postScriptDataWithPreview().isEmpty());
+    QVERIFY(encoder.epsiData().isEmpty());
+    QVERIFY(encoder.pdfData().isEmpty());
+    QVERIFY(encoder.addPDFHeader({}).isEmpty());
+    QVERIFY(encoder.svgData().isEmpty());
+    QVERIFY(encoder.tiffData(nullptr).isEmpty());
+    QVERIFY(encoder.pngData(nullptr).isEmpty());
+    QVERIFY(encoder.jpgData(nullptr).isEmpty());
+    QVERIFY(encoder.gifData(nullptr).isEmpty());
+  }
+
+  void anEpsSourceIsHandedOnByteForByte() { QCOMPARE(encoderOf(eps()).postScriptData(), sourceEps); }
+  void anSvgAsEpsGetsItsTitleAndTheDefaults() {
+    const QByteArray out = encoderOf(svg()).postScriptData();
+    QVERIFY2(
+        out.contains("%%Title: A Title\n%%Creator: MainWindowController by Tembrolix.\n%%CreationDate: "),
+        out);
+    QVERIFY2(out.contains("2026"), out);
+    QVERIFY2(out.contains("%%For: Ann User\n"), out);
+  }
+  void aPdfAsEpsGetsItsAttributes() {
+    const QByteArray out = encoderOf(pdf()).postScriptData();
+    QVERIFY2(out.contains("%%Title: Pdf Title\n%%Creator: Drawer\n"), out);
+  }
+  void aFailingPictureProcessGivesNothingAndTheReason() {
+    const auto rep = svg();
+    service_->memory.lastProcess()->fail(PictureCall::Compose, {ErrorKind::Died, QStringLiteral("it died")});
+    PictureEncoder encoder = encoderOf(rep);
+    QVERIFY(encoder.postScriptData().isEmpty());
+    QVERIFY(encoder.report().error);
+    QCOMPARE(encoder.report().error->message, QStringLiteral("it died"));
+  }
+
+  void theBinaryFileHasAPreviewAndTheSourcesOwnText() {
+    const QByteArray out = encoderOf(eps()).postScriptDataWithPreview();
+    QCOMPARE(out.left(4).toHex(), QByteArray("c5d0d3c6"));
+    QVERIFY(out.endsWith(sourceEps));
+    QCOMPARE(out.mid(30, 2), QByteArray("II"));
+  }
+  void ofABinarySourceOnlyThePostScriptSectionStays() {
+    const QByteArray binary = encoderOf(eps()).postScriptDataWithPreview();
+    const QByteArray again = encoderOf(eps(binary)).postScriptDataWithPreview();
+    QCOMPARE(again, binary);
+  }
+  void aSourceThatIsNoTextLeavesTheSectionEmptyAndSaysSo() {
+    // Invalid in UTF-8, Shift JIS, EUC-JP, non-lossy ASCII and ASCII alike.
+    PictureEncoder encoder = encoderOf(eps(sourceEps + "\xFF\x80\xFD\xA0\xFF"));
+    const QByteArray out = encoder.postScriptDataWithPreview();
+    QCOMPARE(out.mid(8, 4), QByteArray(4, '\0'));
+    QCOMPARE(encoder.report().warnings.size(), 2);
+    PictureEncoder epsi = encoderOf(eps(sourceEps + "\xFF\x80\xFD\xA0\xFF"));
+    QVERIFY(epsi.epsiData().isEmpty());
+    QVERIFY(epsi.report().error);
+  }
+
+  void aPreviewIsInsertedAfterTheComments() {
+    const QByteArray out = encoderOf(eps()).epsiData();
+    QVERIFY2(out.contains("%%EndComments\n%%BeginPreview: 200 100 8 200\n%"),
+             out.left(300));  // two lines a row
+    QVERIFY(out.endsWith("\n%%EndPreview\n\nshowpage\n"));
+  }
+  void aSourceWithAPreviewGetsNoSecondOne() {
+    const QByteArray source = encoderOf(eps()).epsiData();
+    QCOMPARE(encoderOf(eps(source)).epsiData(), source);
+  }
+  void anSvgAsEpsiHasTheRewrittenHeader() {
+    const QByteArray out = encoderOf(svg()).epsiData();
+    QVERIFY(out.contains("%%Title: A Title\n"));
+    QVERIFY(out.contains("%%BeginPreview: 200 100 8 200\n"));
+  }
+
+  void aPdfSourceIsHandedOnAsItIs() { QCOMPARE(encoderOf(pdf()).pdfData(), QByteArray("%PDF-source")); }
+  void anSvgAsPdfGetsAttributes() {
+    QCOMPARE(encoderOf(svg()).pdfData(), QByteArray("%PDF-whole+attributes"));
+    QCOMPARE(service_->given.value(QStringLiteral("Title")), QStringLiteral("A Title"));
+    QCOMPARE(service_->given.value(QStringLiteral("Creator")), QStringLiteral("Norvex 1.0"));
+    QCOMPARE(service_->givenDate, now_);
+  }
+  void anEpsAsPdfGetsTheUserAsAuthorWhenItsOwnerIsEmpty() {
+    QCOMPARE(encoderOf(eps()).pdfData(), QByteArray("%PDF-composed+attributes"));
+    QCOMPARE(service_->given.value(QStringLiteral("Author")), QStringLiteral("Ann User"));
+    QCOMPARE(service_->given.value(QStringLiteral("Title")), QStringLiteral("(Own)"));
+  }
+
+  void onlyAnSvgCanBeWrittenAsSvg() {
+    QCOMPARE(encoderOf(svg()).svgData(), QByteArray("<svg pretty/>"));
+    QVERIFY(encoderOf(eps()).svgData().isEmpty());
+    QVERIFY(encoderOf(pdf()).svgData().isEmpty());
+  }
+
+  void aRasterHasOnePixelAPoint() {
+    const auto rep = svg();
+    const QImage image = QImage::fromData(encoderOf(rep).pngData(rep));
+    QCOMPARE(image.size(), QSize(200, 100));
+    QCOMPARE(service_->memory.lastProcess()->renderRequests().constLast().purpose, RenderPurpose::Export);
+  }
+  void aRasterIsTheRightWayUp() {
+    const auto rep = svg();  // the test pattern's green grows upwards
+    const QImage image = QImage::fromData(encoderOf(rep).pngData(rep));
+    QVERIFY(image.pixelColor(100, 2).green() > 240);
+    QVERIFY(image.pixelColor(100, 97).green() < 15);
+    QVERIFY(image.pixelColor(197, 50).red() > 240);
+  }
+  void moreDotsPerInchAreMorePixels() {
+    EncoderSurroundings surroundings = usual();
+    surroundings.raster.dpi = 144;
+    const auto rep = svg();
+    QCOMPARE(QImage::fromData(PictureEncoder(rep, surroundings).pngData(rep)).size(), QSize(400, 200));
+  }
+  void aBackgroundFillsWhatIsNotPainted() {
+    EncoderSurroundings surroundings = usual();
+    surroundings.raster.background = QColor(10, 20, 30);
+    surroundings.region = PictureRegion{QRectF(-100, -50, 400, 100), 0};
+    const auto rep = svg();
+    const QImage image = QImage::fromData(PictureEncoder(rep, surroundings).pngData(rep));
+    QCOMPARE(image.size(), QSize(400, 100));
+    QCOMPARE(image.pixelColor(390, 50), QColor(10, 20, 30));
+    QVERIFY(!image.hasAlphaChannel());
+  }
+  void aTurnedRegionIsRenderedTurned() {
+    EncoderSurroundings surroundings = usual();
+    const double quarter = std::acos(-1.0) / 2;
+    surroundings.region = PictureRegion{QRectF(-50, -100, 100, 200), quarter};
+    const auto rep = svg();
+    const QImage image = QImage::fromData(PictureEncoder(rep, surroundings).pngData(rep));
+    QCOMPARE(image.size(), QSize(100, 200));
+    QVERIFY(image.pixelColor(50, 2).red() > 240);     // the right edge is up now
+    QVERIFY(image.pixelColor(2, 100).green() > 240);  // and the upper edge at the left
+  }
+  void aRegionOfAnSvgIsCut() {
+    EncoderSurroundings surroundings = usual();
+    surroundings.region = PictureRegion{QRectF(-50, 10, 30, 20), 0.5};
+    QCOMPARE(PictureEncoder(svg(), surroundings).svgData(), QByteArray("<svg cut/>"));
+  }
+  void aRegionOfAnEpsKeepsItsFacts() {
+    EncoderSurroundings surroundings = usual();
+    surroundings.region = PictureRegion{QRectF(0, 0, 10, 10), 0};
+    const QByteArray out = PictureEncoder(eps(), surroundings).postScriptData();
+    QVERIFY2(out.contains("%%Title: (Own)\n"), out);
+    QCOMPARE(service_->memory.lastProcess()->composeRequests().constLast().rect, QRectF(0, 0, 10, 10));
+  }
+
+ private:
+  EncoderSurroundings usual() {
+    EncoderSurroundings surroundings;
+    surroundings.service = service_.get();
+    surroundings.userFullName = QStringLiteral("Ann User");
+    surroundings.applicationName = QStringLiteral("Norvex");
+    surroundings.applicationVersion = QStringLiteral("1.0");
+    surroundings.now = now_;
+    return surroundings;
+  }
+  PictureEncoder encoderOf(const std::shared_ptr<NSImageRep>& rep) { return {rep, usual()}; }
+  std::shared_ptr<NSImageRep> eps(const QByteArray& bytes = sourceEps) {
+    return *NSEPSImageRep::imageRepWithData(*service_, bytes);
+  }
+  std::shared_ptr<NSImageRep> pdf() { return *NSPDFImageRep::imageRepWithData(*service_, "%PDF-source"); }
+  std::shared_ptr<NSImageRep> svg() { return *ZyWebImageRep::imageRepWithData(*service_, "<svg/>"); }
+
+  std::unique_ptr<AttributesService> service_;
+  const QDateTime now_{QDate(2026, 3, 4), QTime(5, 6), Qt::UTC};
+};
+
+NORVEX_TEST(PictureEncoderTest)
+#include "picture_encoder_test.moc"

@@ -14,6 +14,16 @@ QRect pixelRect(const QRectF& rect) {
   return sane.isEmpty() ? QRect() : sane.toAlignedRect();
 }
 
+namespace {
+
+/// Without its outermost pixels: along a slanted edge, rounding decides which of them are painted.
+QRegion eroded(const QRegion& region) {
+  return region & region.translated(1, 0) & region.translated(-1, 0) & region.translated(0, 1) &
+         region.translated(0, -1);
+}
+
+}  // namespace
+
 bool RenderedLayer::fits(const QTransform& t, const QSizeF& size) const {
   const double x = std::abs(t.m11() - transform_.m11()) * size.width() + std::abs(t.m21() - transform_.m21()) * size.height();
   const double y = std::abs(t.m12() - transform_.m12()) * size.width() + std::abs(t.m22() - transform_.m22()) * size.height();
@@ -71,20 +81,17 @@ void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevi
 }
 
 QRegion RenderedLayer::mappedRegion(const QTransform& layerToDevice, const QRegion& within) const {
-  const QRect bounds = within.boundingRect();
+  const QRectF bounds = QRectF(within.boundingRect()).adjusted(-3, -3, 3, 3);
   QRegion region;
   for (const QRect& rect : covered_) {
-    const QRectF mapped = layerToDevice.mapRect(QRectF(rect));
-    if (!mapped.intersects(QRectF(bounds))) continue;
     if (layerToDevice.type() <= QTransform::TxScale) {
-      region += pixelRect(mapped & QRectF(bounds).adjusted(-1, -1, 1, 1)).adjusted(1, 1, -1, -1);
+      region += pixelRect(layerToDevice.mapRect(QRectF(rect)) & bounds);
       continue;
     }
-    const QPolygonF part = layerToDevice.map(QPolygonF(QRectF(rect)))
-                               .intersected(QPolygonF(QRectF(bounds)));  // keeps the region's spans few
-    region += QRegion(part.toPolygon());
+    const QPolygonF part = layerToDevice.map(QPolygonF(QRectF(rect))).intersected(QPolygonF(bounds));
+    if (!part.isEmpty()) region += QRegion(part.toPolygon());
   }
-  return region & within;
+  return eroded(region) & within;
 }
 
 }  // namespace norvex

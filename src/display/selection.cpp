@@ -81,10 +81,10 @@ bool Selection::clampInto(const QRectF& bounds) {
   if (height > 0) {
     if (x + width > right) width = right - x;
     if (y + height > top) height = top - y;
-  } else {
-    downPoint_ = {x, y};  // or the next drag would stretch from a point outside
   }
   rect_ = QRectF(x, y, width, height);
+  // A size without height means a start point, and the next drag stretches from there: it must not lie outside.
+  if (height == 0) downPoint_ = rect_.topLeft();
   return true;
 }
 

@@ -1,0 +1,15 @@
+// The look of cards that lie over the picture.
+#pragma once
+
+#include <QColor>
+
+class QPainter;
+class QPalette;
+class QRect;
+
+namespace norvex {
+
+/// A rounded rectangle in `fill` with a thin line around it.
+void drawFloatingCard(QPainter& painter, const QRect& rect, const QColor& fill, const QPalette& palette);
+
+}  // namespace norvex

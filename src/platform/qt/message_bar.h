@@ -1,0 +1,41 @@
+// A quiet bar over the picture: one sentence, and what can be done about it.
+#pragma once
+
+#include <QFrame>
+#include <QList>
+#include <QString>
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+class QToolButton;
+
+namespace norvex {
+
+/// Hidden until a message is shown; a later message replaces the earlier one. Announced to screen readers as an alert.
+class MessageBar final : public QFrame {
+  Q_OBJECT
+ public:
+  enum class Kind { Information, Warning };
+
+  explicit MessageBar(QWidget* parent = nullptr);
+
+  /// `action` is the title of a button (empty: none) whose press sends actionChosen() and hides the bar.
+  void showMessage(Kind kind, const QString& text, const QString& action = {});
+  void clearMessage();
+  [[nodiscard]] QString message() const;
+
+ signals:
+  void actionChosen();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Kind kind_ = Kind::Information;
+  QLabel* text_;
+  QPushButton* action_;
+  QToolButton* close_;
+};
+
+}  // namespace norvex

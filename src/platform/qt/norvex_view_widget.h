@@ -1,0 +1,78 @@
+// NorvexViewWidget: the widget that a NorvexView is shown in.
+#pragma once
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include "display/norvex_view.h"
+#include "display/view_host.h"
+
+namespace norvex {
+
+class ZoomingScrollArea;
+
+/// Fills the clip of its scroll area and draws there what the clip shows of the view. Owns the view and is its host.
+/// Forwards the left button as press, move and release; what they mean is the view's business. Keys: Escape clears the
+/// selection, arrows move it by a point (with Ctrl by ten), with Shift they move its upper right corner; without
+/// a rectangle they scroll. Main thread.
+class NorvexViewWidget final : public QWidget, public ViewHost {
+  Q_OBJECT
+ public:
+  explicit NorvexViewWidget(QWidget* parent = nullptr);
+  ~NorvexViewWidget() override;
+
+  [[nodiscard]] NorvexView& view() { return view_; }
+  [[nodiscard]] const NorvexView& view() const { return view_; }
+  /// The scroll area around it, which calls this. Not owned.
+  void setScrollArea(ZoomingScrollArea* area);
+
+  /// What lies under the picture: a colour over the whole clip, or (an invalid colour) a checkerboard where the view
+  /// is and the window's colour around it.
+  void setBackground(const QColor& color);
+
+  /// A view point as a point of this widget and back; a widget point is in logical pixels from its top-left corner.
+  [[nodiscard]] QPointF fromView(const QPointF& point) const;
+  [[nodiscard]] QPointF toView(const QPointF& point) const;
+
+  // ViewHost
+  [[nodiscard]] QRectF visibleRect() const override;
+  void displayRect(const QRectF& rect) override;
+  void setNeedsDisplay() override { update(); }
+  void frameDidChange() override;
+  bool autoscroll(const QPointF& point) override;
+  void scrollRectToVisible(const QRectF& rect) override;
+  bool makeFirstResponder() override;
+  void setPeriodicEvents(bool on) override;
+  void addCrosshairCursorRect(const QRectF& rect) override;
+
+ signals:
+  /// A drawing was made; tells in what time, in milliseconds (for measurements).
+  void drawn(double milliseconds);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool event(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  [[nodiscard]] QRectF viewInWidget() const;
+  void drawBackground(QPainter& painter, const QRect& dirty);
+  bool handleArrow(const QKeyEvent& event);
+  void watchScreen();
+  void loseTracking();
+
+  NorvexView view_;
+  QPointer<ZoomingScrollArea> area_;
+  QColor background_;
+  bool tracking_ = false, painting_ = false, screenWatched_ = false;
+  QTimer periodic_;
+  QPointF pointer_;  ///< where the pointer was last seen during a drag; global, logical pixels
+};
+
+}  // namespace norvex

@@ -1,0 +1,18 @@
+// Secondary text: readable, but not what the eye should meet first.
+#pragma once
+
+#include <QColor>
+
+class QPalette;
+class QWidget;
+
+namespace norvex {
+
+/// Text colour mixed two to one with the window colour; keeps a contrast of more than 4.5 : 1 in both schemes.
+[[nodiscard]] QColor quietTextColor(const QPalette& palette);
+/// Gives the widget that colour. Call again from changeEvent() when the palette of its parent changed.
+void makeQuiet(QWidget& widget);
+/// Whether a palette belongs to a dark scheme.
+[[nodiscard]] bool isDarkScheme(const QPalette& palette);
+
+}  // namespace norvex

@@ -1,0 +1,98 @@
+// ZoomingScrollArea: the scroll view's widget, with the zoom menu at the left end of the horizontal bar.
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QPointer>
+#include <QWidget>
+
+#include <optional>
+
+#include "display/skt_zooming_scroll_view.h"
+
+class QComboBox;
+class QScrollBar;
+
+namespace norvex {
+
+class NorvexViewWidget;
+
+/// Lays out clip, bars and menu as its SKTZoomingScrollView says, and turns wheel, pinch and panning into calls of it.
+/// Wheel: scrolls; with Shift sideways; with Ctrl zooms at the pointer. Middle button or Space and left button: pan.
+/// The bars always keep their room, so that the window's size rule does not depend on what is scrolled. Main thread.
+class ZoomingScrollArea final : public QWidget {
+  Q_OBJECT
+ public:
+  explicit ZoomingScrollArea(QWidget* parent = nullptr);
+  ~ZoomingScrollArea() override;
+
+  [[nodiscard]] SKTZoomingScrollView& scrollView() { return scrollView_; }
+  /// Becomes the child that fills the clip. Not null; owned by this widget from now on.
+  void setDocumentWidget(NorvexViewWidget* widget);
+
+  [[nodiscard]] QColor backgroundColor() const { return background_; }
+  void setBackgroundColor(const QColor& color);
+  /// Whether the clip (the content view) draws that colour; a checkerboard shows where it does not.
+  void setDrawsBackground(bool draws);
+  [[nodiscard]] bool drawsBackground() const { return drawsBackground_; }
+
+  /// Size of the clip, logical pixels.
+  [[nodiscard]] QSizeF contentSize() const;
+  [[nodiscard]] QWidget* clip() const { return clip_; }
+  [[nodiscard]] QComboBox* popUp() const { return popUp_; }
+  [[nodiscard]] QScrollBar* horizontalBar() const { return horizontal_; }
+  [[nodiscard]] QScrollBar* verticalBar() const { return vertical_; }
+
+  /// The largest factor at which the whole view can be seen.
+  [[nodiscard]] double fittingFactor() const;
+  /// Lays a card over the clip, centred at its top or bottom edge. Not owned.
+  void addCard(QWidget* card, Qt::Edge edge);
+
+  // For the view's widget; points and rectangles in logical pixels of the clip.
+  void documentFrameDidChange();
+  bool showPoint(const QPointF& point);
+  void showRect(const QRectF& rect);
+
+ public slots:
+  /// Makes bars, menu, cards and picture follow the scroll view.
+  void synchronize();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void fillPopUp();
+  void layOut();
+  void placeCards();
+  void styleBars();
+  void applyBackground();
+  void scrolled();
+  void scrollBy(const QPointF& delta);
+  bool pinch(QEvent* event);
+  bool pan(QEvent* event);
+  void pinchTo(double factor, const QPointF& global);
+
+  struct Card {
+    QPointer<QWidget> widget;
+    Qt::Edge edge;
+  };
+
+  SKTZoomingScrollView scrollView_;
+  QWidget* clip_;
+  QScrollBar* horizontal_;
+  QScrollBar* vertical_;
+  QComboBox* popUp_;
+  QPointer<NorvexViewWidget> document_;
+  QColor background_ = Qt::white;
+  bool drawsBackground_ = true;
+  QList<Card> cards_;
+  bool spaceHeld_ = false;
+  std::optional<QPointF> panFrom_;  ///< where the pointer was; clip coordinates
+};
+
+}  // namespace norvex

@@ -83,7 +83,8 @@ bool Selection::clampInto(const QRectF& bounds) {
     if (y + height > top) height = top - y;
   }
   rect_ = QRectF(x, y, width, height);
-  // A size without height means a start point, and the next drag stretches from there: it must not lie outside.
+  // A size without height means a start point, and the next drag stretches from there: it must not lie
+  // outside.
   if (height == 0) downPoint_ = rect_.topLeft();
   return true;
 }

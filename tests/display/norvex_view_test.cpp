@@ -6,6 +6,8 @@
 
 #include "display/view_fixture.h"
 #include "kit/test_main.h"
+#include "platform/picture/memory_picture_service.h"
+#include "platform/picture/pdf_image_rep.h"
 
 using namespace norvex;
 using norvex::kit::QuarteredImageRep;
@@ -259,6 +261,29 @@ class NorvexViewTest : public QObject {
     f.view.drawRect(painter, QRectF(-2, -2, 4, 4), DrawingDestination::Screen);
     painter.end();
     QVERIFY(f.delegate.last.at(2).contains('\t'));
+  }
+
+  void theOldBitmapIsTurnedAtOnce() {
+    MemoryPictureService service;
+    const auto rep = NSPDFImageRep::imageRepWithData(service, "%PDF-1.4");
+    QVERIFY(rep.ok());
+    ViewFixture f;
+    f.view.setImageRep(rep.value());
+    f.paint();
+    QTRY_VERIFY(f.host.calls.contains("setNeedsDisplay"));
+    QTRY_VERIFY((f.paint(), rep.value()->isSharp()));
+    const QColor lowerLeft = f.image.pixelColor(5, 95), upperRight = f.image.pixelColor(195, 5);
+    QVERIFY(lowerLeft != QColor(Qt::black) && upperRight != lowerLeft);
+    service.lastProcess()->hold(PictureCall::Render);  // nothing new arrives from now on
+    f.view.setRotate(M_PI, false);
+    f.paint();
+    QVERIFY(!rep.value()->isSharp());
+    const auto near = [](const QColor& a, const QColor& b) {
+      return std::abs(a.red() - b.red()) < 8 && std::abs(a.green() - b.green()) < 8;
+    };
+    QVERIFY(near(f.image.pixelColor(194, 4), lowerLeft));
+    QVERIFY(near(f.image.pixelColor(4, 94), upperRight));
+    service.lastProcess()->release(PictureCall::Render);
   }
 
   void aPictureWithoutSizeIsNoReasonToFall() {

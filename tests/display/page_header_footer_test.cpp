@@ -102,7 +102,8 @@ class PageHeaderFooterTest : public QObject {
     const QRect header = inkOf(*pageHeader("t", moment, QLocale(QLocale::English, QLocale::UnitedStates)));
     const QRect footer = inkOf(*pageFooter("file:///a.eps"));
     QVERIFY(!header.isEmpty() && !footer.isEmpty());
-    QVERIFY2(header.right() > 585 && header.left() > 100, qPrintable(QString::number(header.left()) + " " + QString::number(header.right())));
+    QVERIFY2(header.right() > 585 && header.left() > 100,
+             qPrintable(QString::number(header.left()) + " " + QString::number(header.right())));
     QVERIFY(footer.left() < 10 && footer.right() < 400);
   }
 

@@ -23,7 +23,9 @@ RenderJob job(quint64 id) {
 struct Fixture {
   std::shared_ptr<MemoryPictureProcess> process = std::make_shared<MemoryPictureProcess>(QByteArray(), MemoryPicture());
   std::atomic<int> notified = 0;
-  std::unique_ptr<RenderQueue> queue = std::make_unique<RenderQueue>(process, [this] { ++notified; });
+  std::atomic<qint64> now = 0;
+  std::unique_ptr<RenderQueue> queue =
+      std::make_unique<RenderQueue>(process, [this] { ++notified; }, [this] { return now.load(); });
 
   [[nodiscard]] bool waitFor(int count) {
     return QTest::qWaitFor([&] { return notified.load() >= count; }, 20000);
@@ -102,6 +104,57 @@ class RenderQueueTest : public QObject {
     f.queue->setWanted({job(1), job(2), job(3)});
     QVERIFY(f.waitFor(3));
     QCOMPARE(f.widths(), QList<int>({1, 2, 3}));
+  }
+
+  void aStaleJobMayRunAsLongAsTheDocumentTookToOpen() {
+    Fixture f;
+    f.process->hold(PictureCall::Facts);
+    f.process->hold(PictureCall::Render);
+    f.queue->setWanted({job(1)});
+    QVERIFY(f.process->waitUntilHeld(PictureCall::Facts));
+    f.now = 500;
+    f.process->release(PictureCall::Facts);
+    QVERIFY(f.process->waitUntilHeld(PictureCall::Render));
+    f.now = 600;
+    QCOMPARE(f.queue->setWanted({job(2)}), 400);
+    QVERIFY(!f.notified);
+    f.now = 1000;
+    QCOMPARE(f.queue->setWanted({job(2)}), 0);
+    QVERIFY(f.waitFor(1));
+    QCOMPARE(f.process->cancelledCalls(), 1);
+    f.process->release(PictureCall::Render);
+    QVERIFY(f.waitFor(2));
+    QVERIFY(f.queue->takeFinished().last().result.ok());
+  }
+
+  void aJobThatBecomesStaleDuringTheOpeningIsNeverBegunAndTheOpeningGoesOn() {
+    Fixture f;
+    f.process->hold(PictureCall::Facts);
+    f.queue->setWanted({job(1)});
+    QVERIFY(f.process->waitUntilHeld(PictureCall::Facts));
+    QCOMPARE(f.queue->setWanted({job(2)}), 0);
+    f.process->release(PictureCall::Facts);
+    QVERIFY(f.waitFor(2));
+    QCOMPARE(f.widths(), QList<int>({2}));
+    QCOMPARE(f.process->cancelledCalls(), 0);
+  }
+
+  void aDocumentThatCannotBeOpenedFailsTheJob() {
+    Fixture f;
+    f.process->fail(PictureCall::Facts, {ErrorKind::Encrypted, QStringLiteral("a password is needed")});
+    f.queue->setWanted({job(1)});
+    QVERIFY(f.waitFor(1));
+    QCOMPARE(f.queue->takeFinished().first().result.error().kind, ErrorKind::Encrypted);
+    QCOMPARE(f.process->calls(PictureCall::Render), 0);
+  }
+
+  void theEndCancelsTheOpening() {
+    Fixture f;
+    f.process->hold(PictureCall::Facts);
+    f.queue->setWanted({job(1)});
+    QVERIFY(f.process->waitUntilHeld(PictureCall::Facts));
+    f.queue.reset();
+    QCOMPARE(f.process->cancelledCalls(), 1);
   }
 
   void theEndCancelsWhatRuns() {

@@ -28,8 +28,13 @@ struct RenderJob {
   bool overview = false;    ///< the whole picture, small
 };
 
+/// Milliseconds from any fixed start, never going back.
+using MillisecondClock = std::function<qint64()>;
+[[nodiscard]] qint64 steadyMilliseconds();
+
 /// The whole interface is "this is what I want now, most urgent first": whatever is no longer in the list is dropped,
-/// and cancelled if it runs already. Thread-safe.
+/// and cancelled if it runs already. As a cancel may cost the process its life, a running job is cancelled only once
+/// it has run for as long as the document took to open. Thread-safe.
 class RenderQueue {
  public:
   struct Finished {
@@ -38,23 +43,29 @@ class RenderQueue {
   };
 
   /// `notify` is called on the queue's thread whenever there is something for takeFinished().
-  RenderQueue(std::shared_ptr<PictureProcess> process, std::function<void()> notify);
+  RenderQueue(std::shared_ptr<PictureProcess> process, std::function<void()> notify,
+              MillisecondClock clock = steadyMilliseconds);
   /// Cancels what runs and waits for its end; `notify` is not called any more after that.
   ~RenderQueue();
   RenderQueue(const RenderQueue&) = delete;
   RenderQueue& operator=(const RenderQueue&) = delete;
 
   /// Replaces the list. A job that runs, or has ended but is still listed, is not begun again.
-  void setWanted(const QList<RenderJob>& jobs);
+  /// Result: 0, or the milliseconds after which the same call would cancel what runs in vain.
+  int setWanted(const QList<RenderJob>& jobs);
   /// The answers since the last call, in their order: one for every job that was begun, cancelled ones included.
   [[nodiscard]] QList<Finished> takeFinished();
 
  private:
   void run();
   std::optional<RenderJob> next(CancelToken& token);
+  Result<QImage> render(const RenderJob& job, const CancelToken& token);
+  int cancelRunning();
 
   const std::shared_ptr<PictureProcess> process_;
   const std::function<void()> notify_;
+  const MillisecondClock clock_;
+  const CancelToken life_;  ///< cancelled with the queue
   std::mutex mutex_;  ///< of everything below but the thread
   std::condition_variable changed_;
   QList<RenderJob> waiting_;
@@ -62,6 +73,8 @@ class RenderQueue {
   QSet<quint64> ended_;  ///< ended, and perhaps still listed by the owner
   quint64 running_ = 0;  ///< 0: nothing runs
   CancelToken cancel_;   ///< of the running job
+  qint64 runningSince_ = 0;
+  qint64 openingTook_ = -1;  ///< milliseconds; negative: not open yet
   bool stop_ = false;
   std::thread thread_;
 };

@@ -39,7 +39,11 @@ RenderedPicture::RenderedPicture(std::shared_ptr<PictureProcess> process, int pa
     : size_(size),
       page_(page),
       options_(options),
-      queue_(std::move(process), [this] { QMetaObject::invokeMethod(this, "collect", Qt::QueuedConnection); }) {}
+      queue_(std::move(process), [this] { QMetaObject::invokeMethod(this, "collect", Qt::QueuedConnection); },
+             options.clock) {
+  staleTimer_.setSingleShot(true);
+  connect(&staleTimer_, &QTimer::timeout, this, &RenderedPicture::plan);
+}
 
 RenderedPicture::~RenderedPicture() = default;
 
@@ -172,7 +176,11 @@ void RenderedPicture::plan() {
     }
   }
   outstanding_ = jobs;
-  queue_.setWanted(jobs);
+  const int patience = queue_.setWanted(jobs);
+  if (patience > 0)
+    staleTimer_.start(patience);
+  else
+    staleTimer_.stop();
 }
 
 /// Lists what is missing of `rect`: jobs that are under way already keep their identity, new ones fill the rest.

@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QRegion>
 #include <QSizeF>
+#include <QTimer>
 #include <QTransform>
 
 #include <memory>
@@ -26,6 +27,7 @@ struct RenderedPictureOptions {
   qint64 overviewPixels = 1'000'000;   ///< the bitmap that stands in where nothing else is. Default: 1 megapixel
   qint64 visiblePixels = 64'000'000;   ///< a larger view is rendered around its middle only. Default: 64 megapixels
   int tile = 256;                      ///< grid and margin of what is asked for, pixels. Default: 256
+  MillisecondClock clock = steadyMilliseconds;  ///< Default: the system's
 };
 
 /// Keeps layers of bitmaps, the newest views and one overview; draws a frame from them at once, and asks for what is
@@ -105,6 +107,7 @@ class RenderedPicture final : public QObject {
   bool overviewFailed_ = false;
   int failuresInARow_ = 0;
   quint64 lastId_ = 0;
+  QTimer staleTimer_;  ///< ends the queue's patience with a job that runs in vain
   RenderQueue queue_;  ///< last: its thread must end before the rest goes
 };
 

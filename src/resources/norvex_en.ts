@@ -1,0 +1,573 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>About Norvex</source>
+        <translation>About Norvex</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>All files</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Bad data.</source>
+        <translation>The file holds no data that can be read.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
+        <source>Chooses pictures and opens each in a window of its own</source>
+        <translation>Chooses pictures and opens each in a window of its own</translation>
+    </message>
+    <message>
+        <source>Clear the list</source>
+        <translation>Clear the list</translation>
+    </message>
+    <message>
+        <source>Close the find bar</source>
+        <translation>Close the find bar</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>Colour space:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copy Path</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>Copyright:</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>Created:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>Creator:</translation>
+    </message>
+    <message>
+        <source>D.M.S.</source>
+        <translation>Degrees, minutes and seconds: 12.3045 is 12° 30′ 45″</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Dismiss</translation>
+    </message>
+    <message>
+        <source>Drawing…</source>
+        <translation>Drawing…</translation>
+    </message>
+    <message>
+        <source>EPS, Illustrator, PDF and SVG pictures</source>
+        <translation>EPS, Illustrator, PDF and SVG pictures</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Encoding of the source text</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>Encoding:</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>File of this document</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>For:</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Height</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>No recent files</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Only files on this computer can be opened.</source>
+        <translation>Only files on this computer can be opened.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Open Folder</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Open Recent</translation>
+    </message>
+    <message>
+        <source>Opening was stopped</source>
+        <translation>Opening was stopped</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Opening…</translation>
+    </message>
+    <message>
+        <source>Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.</source>
+        <translation>Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Open…</translation>
+    </message>
+    <message>
+        <source>OrderfrontColorWell</source>
+        <translation>Show the colour panel</translation>
+    </message>
+    <message>
+        <source>Pictures that you open are listed here.</source>
+        <translation>Pictures that you open are listed here.</translation>
+    </message>
+    <message>
+        <source>Please retry with other format.</source>
+        <translation>Please try again with another format.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Print…</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recent</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Recent files</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Reload</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Remove from the list</translation>
+    </message>
+    <message>
+        <source>RotateImageByMousedragg</source>
+        <translation>Drag to rotate the picture. Hold Shift to snap to 15°, double-click for 0°.</translation>
+    </message>
+    <message>
+        <source>SaveAs</source>
+        <translation>Save As…</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>Save To…</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Scroll sideways</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Scroll up and down</translation>
+    </message>
+    <message>
+        <source>Selected range of image data is written or displayed.</source>
+        <translation>Write the selection, or what is visible, to a file.</translation>
+    </message>
+    <message>
+        <source>SelectedRectangle</source>
+        <translation>Corners of the selected rectangle</translation>
+    </message>
+    <message>
+        <source>Selection is determined by dragging the mouse twice.</source>
+        <translation>Drag once to place a start point, drag again to stretch a rectangle.</translation>
+    </message>
+    <message>
+        <source>SourceCode</source>
+        <translation>Source text of the document</translation>
+    </message>
+    <message>
+        <source>The file has changed on disk.</source>
+        <translation>The file has changed on disk.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be shown.</source>
+        <translation>The picture cannot be shown.</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are copied onto the paste board.</source>
+        <translation>Copy the selection, or what is visible, to the clipboard.</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are printed.</source>
+        <translation>Print the selection, or what is visible.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this</source>
+        <translation>There is not enough memory for this</translation>
+    </message>
+    <message>
+        <source>This could not be done.</source>
+        <translation>This could not be done.</translation>
+    </message>
+    <message>
+        <source>This is not an EPS, Illustrator, PDF or SVG picture.</source>
+        <translation>This is not an EPS, Illustrator, PDF or SVG picture.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Title:</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Try Again</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Use</translation>
+    </message>
+    <message>
+        <source>ViewBox</source>
+        <translation>View box or bounds of the picture, in its own units</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>or drop pictures here</source>
+        <translation>or drop pictures here</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation>“%1” could not be opened.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowController</name>
+    <message>
+        <source>&amp;About Norvex</source>
+        <translation>&amp;About Norvex</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>&amp;Actual Size</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>&amp;Deselect</source>
+        <translation>&amp;Deselect</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Find in Source…</source>
+        <translation>&amp;Find in Source…</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>&amp;Fit</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Reload</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>Angle of rotation</source>
+        <translation>Angle of rotation</translation>
+    </message>
+    <message>
+        <source>Angle of rotation in degrees, minutes and seconds</source>
+        <translation>Angle of rotation in degrees, minutes and seconds</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>AngleOfRotation</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Background colour</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>BackgroundColor</translation>
+    </message>
+    <message>
+        <source>Bounds</source>
+        <translation>Bounds</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>ColorSpaceName:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>Copyright:</translation>
+    </message>
+    <message>
+        <source>CreationDate:</source>
+        <translation>CreationDate:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>Creator:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Drag twice to mark a rectangle. Arrow keys move it, Shift and arrow keys change its size, Escape removes it.</source>
+        <translation>Drag twice to mark a rectangle. Arrow keys move it, Shift and arrow keys change its size, Escape removes it.</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>Encoding:</translation>
+    </message>
+    <message>
+        <source>End of the selection</source>
+        <translation>End of the selection</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>F&amp;ull Screen</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>For:</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>Kind of preview</source>
+        <translation>Kind of preview</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Picture rectangle</source>
+        <translation>Picture rectangle</translation>
+    </message>
+    <message>
+        <source>Picture to be written</source>
+        <translation>Picture to be written</translation>
+    </message>
+    <message>
+        <source>Picture with zoom and scroll bars</source>
+        <translation>Picture with zoom and scroll bars</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Reset Rotatio&amp;n</source>
+        <translation>Reset Rotatio&amp;n</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>Rotate &amp;Left</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>Rotate &amp;Right</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>SaveTo</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Select &amp;All</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Source text</source>
+        <translation>Source text</translation>
+    </message>
+    <message>
+        <source>Start of the selection</source>
+        <translation>Start of the selection</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Title:</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Toolbar</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Use</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Zoom &amp;In</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Zoom &amp;Out</translation>
+    </message>
+</context>
+<context>
+    <name>SKTZoomingScrollView</name>
+    <message>
+        <source>10%</source>
+        <translation>10%</translation>
+    </message>
+    <message>
+        <source>25%</source>
+        <translation>25%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50%</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75%</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>125%</source>
+        <translation>125%</translation>
+    </message>
+    <message>
+        <source>150%</source>
+        <translation>150%</translation>
+    </message>
+    <message>
+        <source>200%</source>
+        <translation>200%</translation>
+    </message>
+    <message>
+        <source>400%</source>
+        <translation>400%</translation>
+    </message>
+    <message>
+        <source>800%</source>
+        <translation>800%</translation>
+    </message>
+    <message>
+        <source>1600%</source>
+        <translation>1600%</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,40 @@
+// What a document window shows of a file, read without a window.
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <QThread>
+#include <QUrl>
+
+#include <memory>
+#include <optional>
+
+#include "metadata/header_dictionary.h"
+#include "platform/cancel_token.h"
+#include "platform/picture/image_rep.h"
+#include "platform/picture_process.h"
+#include "window/document_kind.h"
+
+namespace norvex {
+
+class StoppableProcess;
+
+/// Everything that is read from the file; controls are filled from it in one go.
+struct DocumentContents {
+  DocumentKind kind = DocumentKind::Other;
+  std::shared_ptr<NSImageRep> imageRep;  ///< null: the file cannot be made into a picture
+  HeaderDictionary header;               ///< empty without a picture
+  QRectF pictureRectangle{0, 0, 0, 0};   ///< bounding box, PDF bounds or SVG bounds; zero without a picture
+  std::optional<QRectF> viewBox;         ///< SVG only; nothing: the document has none
+  QString sourceText;
+  std::optional<Error> error;            ///< why there is no picture
+  std::shared_ptr<StoppableProcess> process;  ///< what renders; null without a picture
+};
+
+/// Reads the file again from its place. Blocks for the picture process (until `cancel`), never throws; any thread.
+/// The image rep is handed to `home`, in which it may be drawn and dies.
+[[nodiscard]] DocumentContents readDocumentContents(PictureService& service, const QUrl& fileURL,
+                                                    const QString& fileType, QThread* home,
+                                                    const CancelToken& cancel = {});
+
+}  // namespace norvex

@@ -1,0 +1,148 @@
+// Menus, toolbar and the controls of the inspector: what is connected to what, and what is enabled.
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMessageBox>
+
+#include "display/norvex_view.h"
+#include "document/document.h"
+#include "platform/localized_string.h"
+#include "platform/qt/color_well.h"
+#include "platform/qt/loading_card.h"
+#include "platform/qt/message_bar.h"
+#include "platform/qt/norvex_view_widget.h"
+#include "platform/qt/number_field.h"
+#include "platform/qt/source_text_view.h"
+#include "platform/qt/symbolic_icon.h"
+#include "platform/qt/zooming_scroll_area.h"
+#include "platform/qt/zy_dial_knob.h"
+#include "ui_MainWindowController.h"
+#include "window/main_window_controller.h"
+
+namespace norvex {
+
+namespace {
+
+constexpr double kQuarterTurn = 90;
+
+void setShortcuts(QAction* action, const QList<QKeySequence>& keys) {
+  action->setShortcuts(keys);
+  action->setShortcutContext(Qt::WindowShortcut);
+}
+
+}  // namespace
+
+void MainWindowController::connectControls() {
+  connect(backgroundColorWell(), &ColorWell::colorChosen, this, &MainWindowController::takeColor);
+  connect(useBackgroundSwitch(), &QCheckBox::stateChanged, this, &MainWindowController::useBackgroundAction);
+  connect(rotateField(), &NumberField::valueEdited, this, &MainWindowController::rotateChange);
+  connect(dialKnob(), &ZyDialKnob::turned, this, &MainWindowController::doRotateFromKnob);
+  connect(viewWidget_, &NorvexViewWidget::drawn, this, &MainWindowController::followRendering, Qt::QueuedConnection);
+  connect(loadingCard_, &LoadingCard::cancelled, this, &MainWindowController::stopWork);
+  connect(messageBar_, &MessageBar::actionChosen, this, &MainWindowController::messageActionChosen);
+}
+
+void MainWindowController::connectCommands() {
+  SKTZoomingScrollView* scroll = zoomingScrollView();
+  const auto on = [this](QAction* action, const QList<QKeySequence>& keys, auto slot) {
+    setShortcuts(action, keys);
+    connect(action, &QAction::triggered, this, slot);
+  };
+  on(ui_->reloadAction, {Qt::Key_F5}, [this] { if (document_) document_->revertDocumentToSaved(); });
+  on(ui_->closeAction, {QKeySequence::Close}, [this] { window_->close(); });
+  on(ui_->quitAction, {Qt::CTRL | Qt::Key_Q}, [] { QCoreApplication::quit(); });
+  on(ui_->selectAllAction, {QKeySequence::SelectAll}, [this] { view()->selectBounds(); });
+  on(ui_->deselectAction, {Qt::CTRL | Qt::SHIFT | Qt::Key_A}, [this] { view()->clearSelectRect(); });
+  on(ui_->findAction, {QKeySequence::Find}, [this] {
+    if (!inspectorWindow->isVisible()) showInspectorWindow();
+    ui_->inspectorTabs->setCurrentWidget(ui_->sourcePage);
+    inspectorWindow->activateWindow();
+    sourceTextView->showFindBar();
+  });
+  on(ui_->zoomInAction, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [scroll] { scroll->zoom(1); });
+  on(ui_->zoomOutAction, {Qt::CTRL | Qt::Key_Minus}, [scroll] { scroll->zoom(-1); });
+  on(ui_->actualSizeAction, {Qt::CTRL | Qt::Key_0, Qt::CTRL | Qt::Key_1}, [scroll] { scroll->zoomTo(1.0); });
+  on(ui_->fitAction, {Qt::CTRL | Qt::Key_9}, [this] { zoomingScrollView()->zoomTo(scrollArea_->fittingFactor()); });
+  on(ui_->rotateLeftAction, {Qt::CTRL | Qt::SHIFT | Qt::Key_R}, [this] { rotateBy(kQuarterTurn); });
+  on(ui_->rotateRightAction, {Qt::CTRL | Qt::Key_R}, [this] { rotateBy(-kQuarterTurn); });
+  on(ui_->resetRotationAction, {}, [this] { dialKnob()->turnTo(0); });
+  on(inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9}, [this] { showInspectorWindow(inspectorToolbarItem); });
+  on(ui_->fullScreenAction, {Qt::Key_F11}, [this](bool checked) { toggleFullScreen(checked); });
+  on(ui_->aboutAction, {}, [this] { showAbout(); });
+  inspectorToolbarItem->setIcon(symbolicIcon(Symbol::Inspector));
+  copyToolbarItem->setIcon(symbolicIcon(Symbol::Copy));
+  doPrintingToolbarItem->setIcon(symbolicIcon(Symbol::Print));
+  doSaveToToolbarItem->setIcon(symbolicIcon(Symbol::SaveTo));
+  ui_->zoomInAction->setIcon(symbolicIcon(Symbol::ZoomIn));
+  ui_->zoomOutAction->setIcon(symbolicIcon(Symbol::ZoomOut));
+  ui_->fitAction->setIcon(symbolicIcon(Symbol::Fit));
+  ui_->rotateLeftAction->setIcon(symbolicIcon(Symbol::RotateLeft));
+  ui_->rotateRightAction->setIcon(symbolicIcon(Symbol::RotateRight));
+}
+
+bool MainWindowController::validateUserInterfaceItem() const { return view() && view()->imageRep() != nullptr; }
+
+void MainWindowController::validateCommands() {
+  const bool enabled = validateUserInterfaceItem();
+  for (QAction* action : {inspectorToolbarItem, copyToolbarItem, doPrintingToolbarItem, doSaveToToolbarItem, ui_->selectAllAction,
+                          ui_->deselectAction, ui_->zoomInAction, ui_->zoomOutAction, ui_->actualSizeAction, ui_->fitAction,
+                          ui_->rotateLeftAction, ui_->rotateRightAction, ui_->resetRotationAction})
+    action->setEnabled(enabled);
+  ui_->reloadAction->setEnabled(document_ && !document_->fileURL().isEmpty());
+}
+
+void MainWindowController::setZoomFactor(double factor) {
+  zoomFactor_ = factor;
+  emit zoomFactorDidChange(factor);
+}
+
+void MainWindowController::rotateBy(double degrees) {
+  // As seen on the screen: positive is to the left, whatever sense the dial has.
+  dialKnob()->turnTo(dialKnob()->degreeValue() + (dialKnob()->clockwise() ? -degrees : degrees));
+}
+
+bool MainWindowController::dialKnobClockwise() const { return dialKnob() && dialKnob()->clockwise(); }
+
+void MainWindowController::norvexView(NorvexView&, const QString& selectedRangeStrings, const QString& end, const QString&) {
+  if (selectedRangeStrings.isEmpty()) {
+    startPoint->clear();
+    endPoint->clear();
+    return;
+  }
+  double first = 0, second = 0;
+  const auto read = [&](const QString& pair) {
+    const QStringList numbers = pair.simplified().split(QChar(' '));
+    bool ok = false;
+    const double x = numbers.value(0).toDouble(&ok);
+    if (!ok) return;
+    first = x;
+    const double y = numbers.value(1).toDouble(&ok);
+    if (ok) second = y;
+  };
+  const auto shown = [&] { return QString::asprintf("(%9.2f,%9.2f)", first, second); };
+  read(selectedRangeStrings);
+  startPoint->setText(shown());
+  if (end.isEmpty()) return endPoint->clear();
+  read(end);
+  endPoint->setText(shown());
+}
+
+void MainWindowController::toggleFullScreen(bool on) {
+  if (!on) return window_->showNormal();
+  window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  window_->showFullScreen();
+}
+
+void MainWindowController::showAbout() {
+  QMessageBox about(window_);
+  about.setWindowTitle(localizedString("About Norvex"));
+  about.setTextFormat(Qt::PlainText);
+  about.setText(QStringLiteral("Norvex %1").arg(QStringLiteral(NORVEX_VERSION)));
+  about.setInformativeText(localizedString("Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors."));
+  about.exec();
+}
+
+}  // namespace norvex

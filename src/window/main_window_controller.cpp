@@ -1,0 +1,132 @@
+#include "window/main_window_controller.h"
+
+#include <QCloseEvent>
+#include <QMainWindow>
+#include <QTimer>
+
+#include "display/norvex_view.h"
+#include "document/document.h"
+#include "platform/qt/color_well.h"
+#include "platform/qt/loading_card.h"
+#include "platform/qt/message_bar.h"
+#include "platform/qt/norvex_view_widget.h"
+#include "platform/qt/zooming_scroll_area.h"
+#include "ui_MainWindowController.h"
+#include "window/main_window_reading.h"
+#include "window/stoppable_process.h"
+
+namespace norvex {
+
+MainWindowController::MainWindowController() = default;
+
+MainWindowController::~MainWindowController() {
+  if (view()) view()->setDelegate(nullptr);
+  stopReading();
+  // Told about the controller, not about its window: who listens knows the controller.
+  emit windowWillClose(this);
+  QObject::disconnect(svgObservation_);
+  // Both are windows of their own by now; the view must go before the process that it draws from.
+  delete inspectorWindow;
+  delete window_.data();
+}
+
+void MainWindowController::setDocument(Document* document) { document_ = document; }
+
+QMainWindow* MainWindowController::window() {
+  if (!window_) loadWindow();
+  return window_;
+}
+
+void MainWindowController::loadWindow() {
+  nib_ = std::make_unique<QWidget>();
+  ui_ = std::make_unique<Ui::MainWindowController>();
+  ui_->setupUi(nib_.get());
+  takeOutlets();
+  window_->installEventFilter(this);
+  inspectorWindow->installEventFilter(this);
+  messageBar_ = new MessageBar(scrollArea_);
+  loadingCard_ = new LoadingCard(scrollArea_);
+  scrollArea_->addCard(messageBar_, Qt::TopEdge);
+  scrollArea_->addCard(loadingCard_, Qt::BottomEdge);
+  connectControls();
+  connectCommands();
+  restoreFrame();
+}
+
+void MainWindowController::takeOutlets() {
+  window_ = ui_->window;
+  window_->setParent(nullptr, Qt::Window);
+  scrollArea_ = ui_->zoomingScrollView;
+  viewWidget_ = ui_->view;
+  scrollArea_->setDocumentWidget(viewWidget_);
+  startPoint = ui_->startPoint;
+  endPoint = ui_->endPoint;
+  inspectorToolbarItem = ui_->inspectorToolbarItem;
+  copyToolbarItem = ui_->copyToolbarItem;
+  doPrintingToolbarItem = ui_->doPrintingToolbarItem;
+  doSaveToToolbarItem = ui_->doSaveToToolbarItem;
+  inspectorWindow = ui_->inspectorWindow;
+  inspectorWindow->setParent(window_, Qt::Tool);
+  pathControl = ui_->pathControl;
+  descriptionView = ui_->descriptionView;
+  sourceTextView = ui_->sourceTextView;
+  epsMatrix = ui_->epsMatrix;
+  epsMatrixBox = ui_->epsMatrixBox;
+  previewField = ui_->previewField;
+  doSaveToPopUp = ui_->doSaveToPopUp;
+  doSaveToImageView = ui_->doSaveToImageView;
+  doSaveToAccessoryView = ui_->doSaveToAccessoryView;
+  setUseBackgroundSwitch(ui_->useBackgroundSwitch);
+  setWindowBackgroundColorTitle(ui_->windowBackgroundColorTitle);
+  setRotateTitle(ui_->rotateTitle);
+  setRotateField(ui_->rotateField);
+  setBackgroundColorWell(ui_->backgroundColorWell);
+  setDialKnob(ui_->dialKnob);
+  setPreviewImageView(ui_->previewImageView);
+  setColorSpaceNameForm(ui_->colorSpaceNameForm);
+  setEncodingForm(ui_->encodingForm);
+  setTitleForm(ui_->titleForm);
+  setCreatorForm(ui_->creatorForm);
+  setCreationDateForm(ui_->creationDateForm);
+  setForForm(ui_->forForm);
+  setCopyrightForm(ui_->copyrightForm);
+  setView(&viewWidget_->view());
+  setZoomingScrollView(&scrollArea_->scrollView());
+}
+
+void MainWindowController::showWindow() {
+  const bool first = !isWindowLoaded();
+  QMainWindow* shown = window();
+  if (first) {
+    setUpControls();
+    startReading();
+  }
+  shown->show();
+  shown->raise();
+  shown->activateWindow();
+}
+
+void MainWindowController::display() {
+  if (window_ && window_->isVisible()) window_->repaint();
+}
+
+void MainWindowController::closing() {
+  saveFrame();
+  stopReading();
+  inspectorWindow->hide();
+  // The document destroys this controller; that must wait until the window has finished closing.
+  if (shouldCloseDocument_ && document_)
+    QTimer::singleShot(0, document_.data(), [document = document_.data()] { document->close(); });
+}
+
+bool MainWindowController::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == window_) {
+    if (event->type() == QEvent::Close) closing();
+    if (event->type() == QEvent::WindowStateChange) setWindowSize();
+  }
+  if (watched == inspectorWindow && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
+    inspectorToolbarItem->setChecked(event->type() == QEvent::Show);
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace norvex

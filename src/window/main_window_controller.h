@@ -1,0 +1,184 @@
+// MainWindowController: the one window controller of a document.
+#pragma once
+
+#include <QColorSpace>
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+#include <QSizeF>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+#include "display/norvex_view.h"
+#include "display/norvex_view_delegate.h"
+#include "display/window_sizing.h"
+#include "document/document.h"
+#include "document/document_window_controller.h"
+#include "platform/cancel_token.h"
+#include "platform/result.h"
+#include "window/document_contents.h"
+#include "window/main_window_outlets.h"
+
+class QAction;
+class QLabel;
+
+namespace Ui {
+class MainWindowController;
+}
+
+namespace norvex {
+
+class AlertPresenter;
+class LoadingCard;
+class MessageBar;
+class NorvexViewWidget;
+class ZoomingScrollArea;
+
+/// Sets up every control of the document window and its inspector, reads the picture from the document's file, and
+/// shows what was read. Main thread only; owns its windows.
+class MainWindowController final : public QObject,
+                                   public DocumentWindowController,
+                                   public NorvexViewDelegate,
+                                   public MainWindowOutlets {
+  Q_OBJECT
+  Q_PROPERTY(double zoomFactor READ zoomFactor WRITE setZoomFactor NOTIFY zoomFactorDidChange)
+ public:
+  /// The window is loaded from the interface file of the class's own name.
+  MainWindowController();
+  ~MainWindowController() override;
+
+  // DocumentWindowController
+  void setDocument(Document* document) override;
+  void setShouldCloseDocument(bool close) override { shouldCloseDocument_ = close; }
+  /// The window appears at once; the file is read on another thread, and windowDidLoad()'s second half follows.
+  void showWindow() override;
+  void windowDidLoad() override;
+  void display() override;
+  void fileDidChangeOnDisk() override;
+
+  [[nodiscard]] Document* document() const { return document_; }
+  /// Loads the interface file on the first call; does not show it and does not read the document.
+  QMainWindow* window();
+  [[nodiscard]] bool isWindowLoaded() const { return window_ != nullptr; }
+  /// Whether the document is being read on another thread.
+  [[nodiscard]] bool isReading() const { return reading_ != nullptr; }
+
+  /// 1.0 shows a point of the picture as a point of the screen. Bound to the scroll view's "factor".
+  [[nodiscard]] double zoomFactor() const { return zoomFactor_; }
+  void setZoomFactor(double factor);
+
+  // ---- window size --------------------------------------------------------------------------------------------------
+  /// The maximum window size for a wanted visible size of the picture.
+  [[nodiscard]] QSizeF calcWindowMaxSize(const QSizeF& size) const;
+  /// Gives the window its maximum size and shrinks it to that. Never enlarges it.
+  void setWindowSize();
+
+  // ---- inspector ----------------------------------------------------------------------------------------------------
+  void showInspectorWindow(QObject* sender = nullptr);
+  void takeColor(const QColor& color);
+  /// `state` as of a check box: 0 off, 1 mixed, 2 on.
+  void useBackgroundAction(int state);
+  void rotateChange(double senderValue);
+  void doRotateFromKnob();
+
+  /// Every command whose target is the controller is enabled exactly when the view has a picture.
+  [[nodiscard]] bool validateUserInterfaceItem() const;
+  /// An SVG picture's PDF form is there, or failed with `error`.
+  void pdfImageRepDidLoad(bool success, const Error& error);
+
+  // NorvexViewDelegate
+  [[nodiscard]] bool dialKnobClockwise() const override;
+  void norvexView(NorvexView& view, const QString& selectedRangeStrings, const QString& end,
+                  const QString& area) override;
+
+  /// Shows the alerts of this controller; not owned, null: they are shown by the platform.
+  void setAlertPresenter(AlertPresenter* presenter) { alerts_ = presenter; }
+  [[nodiscard]] ZoomingScrollArea* scrollArea() const { return scrollArea_; }
+  [[nodiscard]] NorvexViewWidget* viewWidget() const { return viewWidget_; }
+  [[nodiscard]] MessageBar* messageBar() const { return messageBar_; }
+  [[nodiscard]] const QColorSpace& windowColorSpace() const { return windowColorSpace_; }
+
+ signals:
+  void zoomFactorDidChange(double factor);
+  /// The controller is being destroyed; the first argument is the controller, not its window.
+  void windowWillClose(QObject* controller);
+  /// The document was read and its contents are on the screen.
+  void documentShown();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  // main_window_controller.cpp
+  void loadWindow();
+  void takeOutlets();
+  void closing();
+  // main_window_setup.cpp: windowDidLoad's first half and last step
+  void setUpControls();
+  void setUpTitles();
+  void setUpToolbarItems();
+  void setUpBackground();
+  void setUpTexts();
+  void applyBackgroundState(int state);
+  void finishSetUp();
+  // main_window_loading.cpp: windowDidLoad's second half
+  void startReading();
+  void takeReading();
+  void stopReading();
+  void showUntitledDocument();
+  void showContents(const DocumentContents& contents);
+  void showPicture(const DocumentContents& contents);
+  void showSvgPicture(const DocumentContents& contents);
+  void showMatrix(const QRectF& rect);
+  void showHeader(const DocumentContents& contents);
+  void showPreview(const DocumentContents& contents);
+  void showColorSpace(const HeaderDictionary& header);
+  void resetRotationAndZoom();
+  // main_window_messages.cpp
+  void watchPicture();
+  void followRendering();
+  void showProblem(const Error& error);
+  void stopWork();
+  void messageActionChosen();
+  // main_window_commands.cpp
+  void connectControls();
+  void connectCommands();
+  void validateCommands();
+  void rotateBy(double degrees);
+  void showAbout();
+  void toggleFullScreen(bool on);
+  // main_window_sizing.cpp
+  [[nodiscard]] WindowMeasures windowMeasures() const;
+  void settleLayout() const;
+  void restoreFrame();
+  void saveFrame() const;
+  // main_window_inspector.cpp
+  void placeInspector();
+  void showRotationText();
+
+  struct Reading;
+
+  QPointer<Document> document_;
+  bool shouldCloseDocument_ = false;
+  bool framePlaced_ = false, observing_ = false;
+  AlertPresenter* alerts_ = nullptr;
+
+  std::unique_ptr<QWidget> nib_;  ///< what the interface file makes; its windows become windows of their own
+  std::unique_ptr<Ui::MainWindowController> ui_;
+  QPointer<QMainWindow> window_;
+  ZoomingScrollArea* scrollArea_ = nullptr;
+  NorvexViewWidget* viewWidget_ = nullptr;
+  MessageBar* messageBar_ = nullptr;
+  LoadingCard* loadingCard_ = nullptr;
+
+  double zoomFactor_ = 1.0;
+  QColorSpace windowColorSpace_{QColorSpace::SRgb};
+  std::shared_ptr<Reading> reading_;  ///< null while nothing is read
+  std::shared_ptr<StoppableProcess> process_;
+  std::function<void()> messageAction_;
+  QMetaObject::Connection svgObservation_;
+};
+
+}  // namespace norvex

@@ -1,0 +1,96 @@
+// What the window tells about its picture: progress, problems, a file that changed.
+#include "document/document.h"
+#include "platform/alert.h"
+#include "platform/localized_string.h"
+#include "platform/picture/web_image_rep.h"
+#include "platform/qt/loading_card.h"
+#include "platform/qt/message_bar.h"
+#include "platform/qt/norvex_view_widget.h"
+#include "platform/qt/zy_image_view.h"
+#include "window/main_window_controller.h"
+#include "window/stoppable_process.h"
+
+namespace norvex {
+
+namespace {
+
+/// An error's message as a sentence of its own.
+QString sentence(const Error& error) {
+  QString text = error.message.trimmed();
+  if (text.isEmpty()) return localizedString("The picture cannot be shown.");
+  text[0] = text.at(0).toUpper();
+  return text.endsWith(QChar('.')) ? text : text + QChar('.');
+}
+
+}  // namespace
+
+void MainWindowController::watchPicture() {
+  NSImageRep* rep = view()->imageRep().get();
+  if (!rep) return;
+  connect(rep, &NSImageRep::renderingFailed, this, &MainWindowController::showProblem, Qt::UniqueConnection);
+  connect(rep, &NSImageRep::renderingArrived, this, &MainWindowController::followRendering, Qt::UniqueConnection);
+}
+
+void MainWindowController::followRendering() {
+  const NSImageRep* rep = view()->imageRep().get();
+  if (rep && rep->isRendering()) loadingCard_->begin(localizedString("Drawing…"));
+  else if (!reading_) loadingCard_->end();
+}
+
+void MainWindowController::showProblem(const Error& error) {
+  followRendering();
+  const bool again = view()->imageRep() != nullptr;
+  messageAction_ = nullptr;
+  if (again)
+    messageAction_ = [this] {
+      if (process_) process_->resume();
+      if (view()->imageRep()) view()->imageRep()->retryRendering();
+      viewWidget_->update();
+    };
+  messageBar_->showMessage(MessageBar::Kind::Warning, sentence(error), again ? localizedString("Try Again") : QString());
+}
+
+void MainWindowController::stopWork() {
+  if (reading_) {
+    stopReading();
+    showProblem({ErrorKind::Cancelled, localizedString("Opening was stopped")});
+    messageAction_ = [this] { startReading(); };
+    messageBar_->showMessage(MessageBar::Kind::Warning, messageBar_->message(), localizedString("Try Again"));
+    return;
+  }
+  loadingCard_->end();
+  if (process_) process_->stop();
+}
+
+void MainWindowController::messageActionChosen() {
+  if (const auto action = std::exchange(messageAction_, nullptr)) action();
+}
+
+void MainWindowController::fileDidChangeOnDisk() {
+  if (!window_ || !document_) return;
+  messageAction_ = [this] {
+    if (document_) document_->revertDocumentToSaved();
+  };
+  messageBar_->showMessage(MessageBar::Kind::Information, localizedString("The file has changed on disk."), localizedString("Reload"));
+}
+
+void MainWindowController::pdfImageRepDidLoad(bool success, const Error& error) {
+  const auto* rep = qobject_cast<ZyWebImageRep*>(sender());
+  const QString className = rep ? QStringLiteral("ZyWebImageRep") : QString();
+  const auto observed = std::dynamic_pointer_cast<ZyWebImageRep>(view()->imageRep());
+  QObject::disconnect(svgObservation_);
+  if (success) {
+    viewWidget_->update();
+    if (observed) previewImageView()->setImageRep(observed->valueForKey(QString::fromLatin1(ZyWebViewPDFImageRepKey)).value<std::shared_ptr<NSImageRep>>());
+    return;
+  }
+  if (!alerts_) return showProblem(error);
+  Alert alert;
+  alert.style = AlertStyle::Warning;
+  alert.messageText = error.message.isEmpty() ? className : sentence(error);
+  const QVariant url = observed ? observed->valueForKey(QString::fromLatin1(ZyWebViewFileURLKey)) : QVariant();
+  alert.informativeText = QUrl::fromPercentEncoding(url.toUrl().toEncoded());
+  alerts_->runModal(alert);
+}
+
+}  // namespace norvex

@@ -1,0 +1,123 @@
+// The first half of windowDidLoad(): every control, whatever the document; and its last step.
+#include <QAction>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMainWindow>
+
+#include "document/document.h"
+#include "platform/localized_string.h"
+#include "platform/qt/color_well.h"
+#include "platform/qt/number_field.h"
+#include "platform/qt/number_matrix.h"
+#include "platform/qt/path_control.h"
+#include "platform/qt/source_text_view.h"
+#include "platform/qt/zooming_scroll_area.h"
+#include "platform/qt/zy_dial_knob.h"
+#include "platform/qt/zy_form.h"
+#include "platform/qt/zy_image_view.h"
+#include "window/main_window_controller.h"
+
+namespace norvex {
+
+namespace {
+
+/// The positive pattern has no leading zero digit, the negative one has.
+const QString kAngleFormat = QStringLiteral("#,###.0000;0.0000;-#,##0.0000");
+constexpr double kSourcePointSize = 10;
+
+void setUpItem(QAction& item, const char* label, const char* tip) {
+  const QString text = localizedString(label);
+  item.setText(text);
+  item.setIconText(text);
+  item.setToolTip(tip ? localizedString(tip) : text);
+}
+
+}  // namespace
+
+void MainWindowController::setUpControls() {
+  setUpTitles();
+  setUpToolbarItems();
+  setUpBackground();
+  setUpTexts();
+  const QUrl url = document_ ? document_->fileURL() : QUrl();
+  pathControl->setToolTip(localizedString("Filename"));
+  pathControl->setUrl(url);
+  window_->setWindowTitle(document_ ? document_->displayName() : QString());
+  window_->setWindowFilePath(url.toLocalFile());
+  previewImageView()->setEditable(false);
+  previewImageView()->setUseBackgroundColor(true);
+}
+
+void MainWindowController::setUpTitles() {
+  scrollArea_->setBackgroundColor(backgroundColorWell()->color());
+  backgroundColorWell()->setToolTip(localizedString("OrderfrontColorWell"));
+  windowBackgroundColorTitle()->setText(localizedString("BackgroundColor"));
+  rotateField()->setNumberFormat(NumberFormat(kAngleFormat));
+  rotateTitle()->setText(localizedString("AngleOfRotation"));
+  rotateField()->setToolTip(localizedString("D.M.S."));
+  colorSpaceNameForm()->setTitle(0, localizedString("ColorSpaceName:"));
+  colorSpaceNameForm()->calcSize();
+  for (QLabel* field : {startPoint, endPoint}) {
+    field->clear();
+    field->setToolTip(localizedString("SelectedRectangle"));
+  }
+  dialKnob()->setTickMarks(Qt::black, std::nullopt, 4);
+  dialKnob()->setBordered(false);
+  dialKnob()->setEditable(true);
+  dialKnob()->setDmsTextField(rotateField());
+  dialKnob()->setToolTip(localizedString("RotateImageByMousedragg"));
+  inspectorWindow->setWindowTitle(QString());
+}
+
+void MainWindowController::setUpToolbarItems() {
+  setUpItem(*inspectorToolbarItem, "Inspector", nullptr);
+  setUpItem(*copyToolbarItem, "Copy", "The range of the selection or visible rect are copied onto the paste board.");
+  setUpItem(*doPrintingToolbarItem, "Print", "The range of the selection or visible rect are printed.");
+  setUpItem(*doSaveToToolbarItem, "SaveTo", "Selected range of image data is written or displayed.");
+}
+
+void MainWindowController::applyBackgroundState(int state) {
+  scrollArea_->setDrawsBackground(state != Qt::Unchecked);
+  // There are no windows to see through here: where the background is clear a checkerboard stands for what is behind.
+  window_->setProperty("opaque", state != Qt::Unchecked);
+}
+
+void MainWindowController::setUpBackground() {
+  useBackgroundSwitch()->setText(localizedString("Use"));
+  applyBackgroundState(useBackgroundSwitch()->checkState());
+  previewImageView()->setBackgroundColor(scrollArea_->backgroundColor());
+}
+
+void MainWindowController::setUpTexts() {
+  titleForm()->setToolTip(localizedString("Title"));
+  epsMatrix->setToolTip(localizedString("ViewBox"));
+  encodingForm()->setToolTip(localizedString("Encoding"));
+  sourceTextView->setFixedPitchFont(kSourcePointSize);
+  sourceTextView->setLineWrapping(false);
+  sourceTextView->setToolTip(localizedString("SourceCode"));
+  struct Titled {
+    ZyForm* form;
+    const char* title;
+  };
+  const Titled all[] = {{titleForm(), "Title:"},         {creatorForm(), "Creator:"},     {creationDateForm(), "Created:"},
+                        {forForm(), "For:"},             {copyrightForm(), "Copyright:"}, {encodingForm(), "Encoding:"}};
+  QList<ZyForm*> forms{colorSpaceNameForm()};
+  for (const Titled& each : all) {
+    each.form->setTitle(0, localizedString(each.title));
+    forms << each.form;
+  }
+  ZyForm::alignTitles(forms);
+}
+
+void MainWindowController::finishSetUp() {
+  view()->setDelegate(this);
+  const bool hasPicture = view()->imageRep() != nullptr;
+  dialKnob()->setEnabled(hasPicture);
+  rotateField()->setEnabled(hasPicture);
+  useBackgroundSwitch()->setEnabled(hasPicture);
+  backgroundColorWell()->setEnabled(hasPicture);
+  validateCommands();
+}
+
+}  // namespace norvex

@@ -1,0 +1,80 @@
+// The document window's size.
+#include <QLayout>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QToolBar>
+
+#include "display/norvex_view.h"
+#include "platform/qt/zooming_scroll_area.h"
+#include "ui_MainWindowController.h"
+#include "window/main_window_controller.h"
+#include "window/window_frames.h"
+
+namespace norvex {
+
+namespace {
+
+/// y down on the screen, y up in the rule.
+QRectF upright(const QRect& rect) { return {double(rect.x()), double(-(rect.y() + rect.height())), double(rect.width()), double(rect.height())}; }
+
+QRect onScreen(const QRectF& rect) {
+  const int height = static_cast<int>(std::ceil(rect.height() - 1e-6));
+  return {static_cast<int>(rect.x()), static_cast<int>(-rect.y()) - height, static_cast<int>(std::ceil(rect.width() - 1e-6)), height};
+}
+
+int limited(double length) { return static_cast<int>(std::ceil(std::min(length, double(QWIDGETSIZE_MAX)) - 1e-6)); }
+
+}  // namespace
+
+void MainWindowController::settleLayout() const {
+  // A hidden or just changed window has not laid out its children yet, and the rule measures them.
+  window_->ensurePolished();
+  if (window_->layout()) window_->layout()->activate();
+  if (QWidget* content = window_->centralWidget()) content->layout()->activate();
+}
+
+WindowMeasures MainWindowController::windowMeasures() const {
+  WindowMeasures measures;
+  if (!window_) return measures;
+  settleLayout();
+  measures.frame = upright(window_->geometry());
+  measures.minimum = window_->minimumSize();
+  measures.visibleArea = scrollArea_->contentSize();
+  const QWidget* content = window_->centralWidget();
+  const int contentRectHeight = window_->height() - (ui_->menuBar->isVisibleTo(window_) ? ui_->menuBar->height() : 0);
+  measures.toolbarHeight = toolbarHeight(ui_->toolbar->isVisibleTo(window_), contentRectHeight,
+                                         content ? std::optional<double>(content->height()) : std::nullopt);
+  return measures;
+}
+
+QSizeF MainWindowController::calcWindowMaxSize(const QSizeF& size) const { return windowMaxSize(windowMeasures(), size); }
+
+void MainWindowController::setWindowSize() {
+  if (!window_) return;
+  // A full screen has the size it has; the rule is applied when it ends.
+  if (window_->isFullScreen()) {
+    window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    return;
+  }
+  const WindowMeasures measures = windowMeasures();
+  const QSizeF viewSize = view() ? view()->frame().size() : QSizeF(0, 0);
+  const WindowSize rule = windowSize(measures, viewSize, zoomFactor_);
+  // This platform's maximum counts the toolbar, the rule's does not.
+  window_->setMaximumSize(limited(rule.maximum.width()), limited(rule.maximum.height() + measures.toolbarHeight));
+  if (rule.frame != measures.frame && !window_->isMaximized()) window_->setGeometry(onScreen(rule.frame));
+}
+
+void MainWindowController::restoreFrame() {
+  const QRect frame = savedWindowFrame(QStringLiteral("MainWindowController"));
+  if (frame.isValid()) window_->resize(frame.size());
+}
+
+void MainWindowController::saveFrame() const {
+  if (window_->isFullScreen() || window_->isMaximized()) return;
+  saveWindowFrame(QStringLiteral("MainWindowController"), window_->geometry());
+}
+
+}  // namespace norvex

@@ -1,0 +1,10 @@
+// The string tables of the user's language.
+#pragma once
+
+namespace norvex {
+
+/// Installs the table of the user's language, or else the English one, into the application. Call once after the
+/// application object was made and before the first window; texts fetched earlier are the plain keys.
+void installStringTables();
+
+}  // namespace norvex

@@ -9,6 +9,11 @@ namespace norvex {
 namespace {
 
 constexpr int kMaximumDepth = 4;
+constexpr qint64 kFirstInstant = -62167219200000;  ///< the year 0, in milliseconds from 1970
+constexpr qint64 kLastInstant = 253402300799999;   ///< the end of the year 9999
+constexpr int kMaximumOffset = 14 * 60 * 60;
+
+enum class Clock { Local = 0, Utc = 1, Offset = 2 };
 
 /// Walks over one value without building it. What our own encoder never writes is refused here, before Qt
 /// turns tagged values into dates, addresses and patterns with parsers of their own.
@@ -127,11 +132,47 @@ CborFields CborFields::fields(QLatin1String key) {
   return inner;
 }
 
-QCborMap CborFields::map(QLatin1String key, qsizetype maximumCount) {
+QHash<QString, QString> CborFields::namedTexts(QLatin1String key, qsizetype maximumCount,
+                                               qsizetype maximumLength) {
+  QHash<QString, QString> texts;
   const QCborMap map = take(key, QCborValue::Map).toMap();
-  if (map.size() <= maximumCount) return map;
-  failed_ = true;
-  return {};
+  if (map.size() > maximumCount) failed_ = true;
+  for (auto it = map.begin(); it != map.end() && !failed_; ++it) {
+    const QString name = it.key().toString(), text = it.value().toString();
+    const bool good = it.key().isString() && it.value().isString() && !texts.contains(name);
+    if (!good || name.size() > maximumLength || text.size() > maximumLength) failed_ = true;
+    texts.insert(name, text);
+  }
+  return texts;
+}
+
+std::optional<QDateTime> CborFields::date(QLatin1String key) {
+  if (!has(key)) return std::nullopt;
+  CborFields inner = fields(key);
+  const qint64 instant = inner.integer(QLatin1String("ms"), kFirstInstant, kLastInstant);
+  const auto clock = Clock(inner.integer(QLatin1String("clock"), int(Clock::Local), int(Clock::Offset)));
+  const int offset = int(inner.integer(QLatin1String("offset"), -kMaximumOffset, kMaximumOffset));
+  if (!inner.complete()) failed_ = true;
+  if (clock == Clock::Local) return QDateTime::fromMSecsSinceEpoch(instant);
+  if (clock == Clock::Utc) return QDateTime::fromMSecsSinceEpoch(instant, Qt::UTC);
+  return QDateTime::fromMSecsSinceEpoch(instant, Qt::OffsetFromUTC, offset);
+}
+
+QCborMap cborFromNamedTexts(const QHash<QString, QString>& texts, qsizetype maximumCount,
+                            qsizetype maximumLength) {
+  QCborMap map;
+  for (auto it = texts.begin(); it != texts.end() && map.size() < maximumCount; ++it)
+    map.insert(clipped(it.key(), maximumLength), clipped(it.value(), maximumLength));
+  return map;
+}
+
+QCborMap cborFromDate(const QDateTime& date) {
+  const Clock clock = date.timeSpec() == Qt::LocalTime ? Clock::Local
+                      : date.timeSpec() == Qt::UTC     ? Clock::Utc
+                                                       : Clock::Offset;
+  return {{QLatin1String("ms"), date.toMSecsSinceEpoch()},
+          {QLatin1String("clock"), int(clock)},
+          {QLatin1String("offset"), clock == Clock::Offset ? date.offsetFromUtc() : 0}};
 }
 
 QCborArray cborFromRect(const QRectF& rect) {

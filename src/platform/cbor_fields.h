@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QCborMap>
 #include <QCborValue>
+#include <QDateTime>
+#include <QHash>
 #include <QRectF>
 #include <QSize>
 #include <QString>
@@ -36,7 +38,10 @@ class CborFields {
   QCborArray array(QLatin1String key, qsizetype maximumCount);
   /// A map inside the map, to be read and checked like this one.
   CborFields fields(QLatin1String key);
-  QCborMap map(QLatin1String key, qsizetype maximumCount);
+  /// Texts by name.
+  QHash<QString, QString> namedTexts(QLatin1String key, qsizetype maximumCount, qsizetype maximumLength);
+  /// A moment, as cborFromDate() writes it; nothing when the field is absent.
+  std::optional<QDateTime> date(QLatin1String key);
 
   /// Marks the map as wrong for a reason that the caller found.
   void fail() { failed_ = true; }
@@ -53,6 +58,10 @@ class CborFields {
 
 /// The array form in which rect() reads.
 [[nodiscard]] QCborArray cborFromRect(const QRectF& rect);
+[[nodiscard]] QCborMap cborFromDate(const QDateTime& date);
+/// At most `maximumCount` of them, each clipped.
+[[nodiscard]] QCborMap cborFromNamedTexts(const QHash<QString, QString>& texts, qsizetype maximumCount,
+                                          qsizetype maximumLength);
 /// The rectangle of such an array; nothing: wrong.
 [[nodiscard]] std::optional<QRectF> rectFromCbor(const QCborValue& value, double maximum);
 /// At most `maximumLength` UTF-16 units of the text, never half of a surrogate pair.

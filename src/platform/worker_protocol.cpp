@@ -81,6 +81,14 @@ QCborMap mapOf(quint32 id, const RequestBody& body) {
             return map;
           },
           [&](const DecodePreviewRequest&) { return start(Key("preview"), id); },
+          [&](const AttributesRequest& attributes) {
+            QCborMap map = start(Key("attributes"), id);
+            map.insert(Key("texts"),
+                       cborFromNamedTexts(attributes.texts, maximumAttributes, maximumTextLength));
+            if (attributes.creationDate && attributes.creationDate->isValid())
+              map.insert(Key("date"), cborFromDate(*attributes.creationDate));
+            return map;
+          },
       },
       body);
 }
@@ -140,6 +148,13 @@ SvgRequest svgFrom(CborFields& fields) {
   return svg;
 }
 
+AttributesRequest attributesFrom(CborFields& fields) {
+  AttributesRequest attributes;
+  attributes.texts = fields.namedTexts(Key("texts"), maximumAttributes, maximumTextLength);
+  attributes.creationDate = fields.date(Key("date"));
+  return attributes;
+}
+
 ForkRequest forkFrom(CborFields& fields) {
   return {limitsFrom(fields), fields.boolean(Key("postScript"))};
 }
@@ -156,6 +171,7 @@ WorkerMessage messageFrom(CborFields& fields) {
     return WorkerRequest{id, PdfRequest{int(fields.integer(Key("page"), 0, kMaximumPage))}};
   if (type == Key("compose")) return WorkerRequest{id, composeFrom(fields)};
   if (type == Key("svg")) return WorkerRequest{id, svgFrom(fields)};
+  if (type == Key("attributes")) return WorkerRequest{id, attributesFrom(fields)};
   if (type != Key("preview")) fields.fail();
   return WorkerRequest{id, DecodePreviewRequest{}};
 }

@@ -92,7 +92,14 @@ struct SvgRequest {
 /// A TIFF section (the message's memfd) to a bitmap. Needs no open document.
 struct DecodePreviewRequest {};
 
-using RequestBody = std::variant<OpenRequest, RenderRequest, PdfRequest, ComposeRequest, SvgRequest, DecodePreviewRequest>;
+/// A PDF (the message's memfd) with other document information, answered by a BytesReply. Needs no open document.
+struct AttributesRequest {
+  QHash<QString, QString> texts;  ///< "Title", "Author" …
+  std::optional<QDateTime> creationDate;
+};
+
+using RequestBody = std::variant<OpenRequest, RenderRequest, PdfRequest, ComposeRequest, SvgRequest, DecodePreviewRequest,
+                                 AttributesRequest>;
 
 struct WorkerRequest {
   quint32 id = 0;  ///< from 1, never reused on one connection

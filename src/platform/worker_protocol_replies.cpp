@@ -1,5 +1,4 @@
 #include <QCborArray>
-#include <QTimeZone>
 
 #include <limits>
 
@@ -13,15 +12,10 @@ namespace {
 
 using Key = QLatin1String;
 
-constexpr qint64 kFirstInstant = -62167219200000;  ///< the year 0, in milliseconds from 1970
-constexpr qint64 kLastInstant = 253402300799999;   ///< the end of the year 9999
-constexpr int kMaximumOffset = 14 * 60 * 60;
 constexpr qint64 kMaximumProcessId = 1 << 22;  ///< the system's own upper limit
 constexpr int kMaximumRegions = 1'000'000;
 constexpr int kMaximumRowBytes = maximumBitmapSide * 16;
 constexpr int kMaximumPages = 10'000'000;
-
-enum class Clock { Local = 0, Utc = 1, Offset = 2 };
 
 Error refused() {
   return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
@@ -32,27 +26,6 @@ QCborArray arrayOf(const QStringList& sentences) {
   for (const QString& sentence : sentences.mid(0, maximumWarnings))
     array.append(clipped(sentence, maximumSentenceLength));
   return array;
-}
-
-QCborMap mapOf(const QDateTime& date) {
-  const Clock clock = date.timeSpec() == Qt::LocalTime ? Clock::Local
-                      : date.timeSpec() == Qt::UTC     ? Clock::Utc
-                                                       : Clock::Offset;
-  return {{Key("ms"), date.toMSecsSinceEpoch()},
-          {Key("clock"), int(clock)},
-          {Key("offset"), date.offsetFromUtc()}};
-}
-
-std::optional<QDateTime> dateFrom(CborFields& outer) {
-  if (!outer.has(Key("date"))) return std::nullopt;
-  CborFields fields = outer.fields(Key("date"));
-  const qint64 instant = fields.integer(Key("ms"), kFirstInstant, kLastInstant);
-  const Clock clock = Clock(fields.integer(Key("clock"), int(Clock::Local), int(Clock::Offset)));
-  const int offset = int(fields.integer(Key("offset"), -kMaximumOffset, kMaximumOffset));
-  if (!fields.complete()) outer.fail();
-  if (clock == Clock::Local) return QDateTime::fromMSecsSinceEpoch(instant);
-  if (clock == Clock::Utc) return QDateTime::fromMSecsSinceEpoch(instant, Qt::UTC);
-  return QDateTime::fromMSecsSinceEpoch(instant, Qt::OffsetFromUTC, offset);
 }
 
 void insertSvgFacts(QCborMap& map, const PictureFacts& facts) {
@@ -71,13 +44,9 @@ void insert(QCborMap& map, const PictureFacts& facts) {
   for (const QRectF& box : facts.pageBounds.mid(0, maximumBoxes)) boxes.append(cborFromRect(box));
   map.insert(Key("boxes"), boxes);
   map.insert(Key("pages"), facts.pageCount);
-  QCborMap attributes;
-  for (auto it = facts.attributes.begin();
-       it != facts.attributes.end() && attributes.size() < maximumAttributes; ++it)
-    attributes.insert(clipped(it.key(), maximumSentenceLength), clipped(it.value(), maximumTextLength));
-  map.insert(Key("attributes"), attributes);
+  map.insert(Key("attributes"), cborFromNamedTexts(facts.attributes, maximumAttributes, maximumTextLength));
   if (facts.creationDate && facts.creationDate->isValid())
-    map.insert(Key("date"), mapOf(*facts.creationDate));
+    map.insert(Key("date"), cborFromDate(*facts.creationDate));
   insertSvgFacts(map, facts);
   map.insert(Key("warnings"), arrayOf(facts.warnings));
 }
@@ -118,18 +87,6 @@ void insert(QCborMap& map, const Error& error) {
   map.insert(Key("message"), clipped(error.message, maximumSentenceLength));
 }
 
-QHash<QString, QString> attributesFrom(CborFields& fields) {
-  QHash<QString, QString> attributes;
-  const QCborMap map = fields.map(Key("attributes"), maximumAttributes);
-  for (auto it = map.begin(); it != map.end(); ++it) {
-    const QString key = it.key().toString(), value = it.value().toString();
-    if (!it.key().isString() || !it.value().isString()) fields.fail();
-    if (key.size() > maximumSentenceLength || value.size() > maximumTextLength) fields.fail();
-    attributes.insert(key, value);
-  }
-  return attributes;
-}
-
 void readSvgFacts(CborFields& fields, PictureFacts& facts) {
   if (fields.has(Key("viewBox"))) facts.viewBox = fields.rect(Key("viewBox"), maximumCoordinate);
   facts.title = fields.text(Key("title"), maximumTextLength);
@@ -149,8 +106,8 @@ PictureFacts factsFrom(CborFields& fields) {
   }
   facts.pageCount = int(fields.integer(Key("pages"), 1, kMaximumPages));
   if (facts.pageBounds.size() > facts.pageCount) fields.fail();
-  facts.attributes = attributesFrom(fields);
-  facts.creationDate = dateFrom(fields);
+  facts.attributes = fields.namedTexts(Key("attributes"), maximumAttributes, maximumTextLength);
+  facts.creationDate = fields.date(Key("date"));
   readSvgFacts(fields, facts);
   facts.warnings = fields.texts(Key("warnings"), maximumWarnings, maximumSentenceLength);
   return facts;

@@ -4,16 +4,16 @@
 #include <QtEndian>
 
 #include <fcntl.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
-#include <cstring>
 #include <thread>
 
+#include "kit/raw_message.h"
 #include "kit/test_main.h"
 #include "platform/worker_protocol.h"
 
 using namespace norvex;
+using namespace norvex::kit;
 
 namespace {
 
@@ -25,30 +25,6 @@ struct Pair {
 Pair makePair() {
   auto pair = MessageChannel::makePair();
   return {MessageChannel(std::move(pair->first)), std::move(pair->second)};
-}
-
-QByteArray framed(const QByteArray& body) {
-  QByteArray wire(4, '\0');
-  qToLittleEndian(quint32(body.size()), wire.data());
-  return wire + body;
-}
-
-void sendRaw(int socket, const QByteArray& bytes, std::initializer_list<int> descriptors = {}) {
-  iovec part = {const_cast<char*>(bytes.constData()), size_t(bytes.size())};
-  msghdr header = {};
-  header.msg_iov = &part;
-  header.msg_iovlen = 1;
-  alignas(cmsghdr) char room[CMSG_SPACE(8 * sizeof(int))] = {};
-  if (descriptors.size() > 0) {
-    header.msg_control = room;
-    header.msg_controllen = CMSG_SPACE(descriptors.size() * sizeof(int));
-    cmsghdr* control = CMSG_FIRSTHDR(&header);
-    control->cmsg_level = SOL_SOCKET;
-    control->cmsg_type = SCM_RIGHTS;
-    control->cmsg_len = CMSG_LEN(descriptors.size() * sizeof(int));
-    std::memcpy(CMSG_DATA(control), descriptors.begin(), descriptors.size() * sizeof(int));
-  }
-  QCOMPARE(::sendmsg(socket, &header, MSG_NOSIGNAL), ssize_t(bytes.size()));
 }
 
 qsizetype openDescriptors() {
@@ -110,7 +86,7 @@ class MessageChannelTest : public QObject {
       const auto early = pair.ours.receive(QDeadlineTimer(0));
       QVERIFY(!early.ok());
       QCOMPARE(early.error().kind, ErrorKind::TimedOut);
-      sendRaw(pair.theirs.get(), wire.mid(i, 1));
+      QVERIFY(sendRaw(pair.theirs.get(), wire.mid(i, 1)));
     }
     QCOMPARE(pair.ours.receive(QDeadlineTimer(0))->cbor, QByteArray("slowly"));
   }
@@ -118,7 +94,7 @@ class MessageChannelTest : public QObject {
   void theOtherSideCloses() {
     Pair pair = makePair();
     QVERIFY(pair.ours.isConnected());
-    sendRaw(pair.theirs.get(), framed("half").left(6));
+    QVERIFY(sendRaw(pair.theirs.get(), framed("half").left(6)));
     pair.theirs.reset();
     QVERIFY(!pair.ours.isConnected());
     QCOMPARE(pair.ours.receive().error().kind, ErrorKind::Died);
@@ -137,7 +113,7 @@ class MessageChannelTest : public QObject {
     Pair pair = makePair();
     QByteArray wire(4, '\0');
     qToLittleEndian(length, wire.data());
-    sendRaw(pair.theirs.get(), wire);
+    QVERIFY(sendRaw(pair.theirs.get(), wire));
     QCOMPARE(pair.ours.receive().error().kind, ErrorKind::Protocol);
   }
 
@@ -151,9 +127,9 @@ class MessageChannelTest : public QObject {
     QFETCH(int, count);
     Pair pair = makePair();
     const qsizetype before = openDescriptors();
-    if (count == 2) sendRaw(pair.theirs.get(), framed("x"), {0, 0});
-    if (count == 3) sendRaw(pair.theirs.get(), framed("x"), {0, 0, 0});
-    if (count == 8) sendRaw(pair.theirs.get(), framed("x"), {0, 0, 0, 0, 0, 0, 0, 0});
+    if (count == 2) QVERIFY(sendRaw(pair.theirs.get(), framed("x"), {0, 0}));
+    if (count == 3) QVERIFY(sendRaw(pair.theirs.get(), framed("x"), {0, 0, 0}));
+    if (count == 8) QVERIFY(sendRaw(pair.theirs.get(), framed("x"), {0, 0, 0, 0, 0, 0, 0, 0}));
     QCOMPARE(pair.ours.receive().error().kind, ErrorKind::Protocol);
     QCOMPARE(openDescriptors(), before);
   }
@@ -163,8 +139,8 @@ class MessageChannelTest : public QObject {
       Pair pair = makePair();
       const qsizetype before = openDescriptors();
       const QByteArray wire = framed("abcdef");
-      sendRaw(pair.theirs.get(), wire.left(at));
-      sendRaw(pair.theirs.get(), wire.mid(at), {0});
+      QVERIFY(sendRaw(pair.theirs.get(), wire.left(at)));
+      QVERIFY(sendRaw(pair.theirs.get(), wire.mid(at), {0}));
       QCOMPARE(pair.ours.receive().error().kind, ErrorKind::Protocol);
       QCOMPARE(openDescriptors(), before);
     }
@@ -173,7 +149,7 @@ class MessageChannelTest : public QObject {
   void anUnwantedDescriptorIsClosedWithItsMessage() {
     Pair pair = makePair();
     const qsizetype before = openDescriptors();
-    sendRaw(pair.theirs.get(), framed("x"), {0});
+    QVERIFY(sendRaw(pair.theirs.get(), framed("x"), {0}));
     {
       const auto message = pair.ours.receive();
       QVERIFY(message->descriptor.valid());

@@ -45,6 +45,8 @@ QList<WorkerMessage> messages() {
       WorkerRequest{6, SvgRequest{}},
       WorkerRequest{0xffffffff, DecodePreviewRequest{}},
       ForkRequest{{1, 2, 3}, true},
+      WorkerRequest{
+          8, AttributesRequest{{{"Title", "t"}}, QDateTime(QDate(2001, 1, 1), QTime(1, 2, 3), Qt::UTC)}},
       CancelRequest{9},
   };
 }
@@ -190,6 +192,10 @@ class WorkerProtocolTest : public QObject {
             if (!other.contains(key)) gone << key.toString();
           if (kOptional.contains(gone.value(0))) return;
         }
+        // No texts at all is a request like any other.
+        if (other.value(QLatin1String("texts")).isMap() && other.size() == map.size() &&
+            other.value(QLatin1String("texts")) != map.value(QLatin1String("texts")))
+          return;
         ++spoilt;
         QVERIFY2(isRefused(decodeMessage(cborOf(other))),
                  qPrintable(other.toCborValue().toDiagnosticNotation()));

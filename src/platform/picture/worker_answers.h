@@ -1,0 +1,21 @@
+// From a hostile answer to a value: every size is compared with what was asked and with the memory that came.
+#pragma once
+
+#include <QImage>
+
+#include "platform/bitmap_image_rep.h"
+#include "platform/picture/worker_connection.h"
+#include "platform/picture_process.h"
+
+namespace norvex {
+
+// Each gives the answer's own Error when it is one, and Protocol when it is another answer than the request
+// has or when its numbers, its descriptor and the limits do not agree.
+
+[[nodiscard]] Result<PictureFacts> factsFrom(WorkerAnswer answer);
+/// The image's pixels are the shared memory itself, read-only: it detaches when it is changed.
+[[nodiscard]] Result<QImage> imageFrom(WorkerAnswer answer, const QSize& pixelSize);
+[[nodiscard]] Result<PictureBytes> bytesFrom(WorkerAnswer answer, const PictureLimits& limits);
+[[nodiscard]] Result<NSBitmapImageRep> bitmapFrom(WorkerAnswer answer, const PictureLimits& limits);
+
+}  // namespace norvex

@@ -1,0 +1,56 @@
+// WorkerClient: a PictureProcess that really is one.
+#pragma once
+
+#include <mutex>
+#include <optional>
+
+#include "platform/picture/turn_taking.h"
+#include "platform/picture/worker_connection.h"
+#include "platform/picture_process.h"
+
+namespace norvex {
+
+/// See PictureProcess. A document that cannot be opened (not parsable, encrypted …) fails every call with
+/// that first error; after TimedOut, Died, Protocol or a Cancelled that was not obeyed the next call starts
+/// again.
+class WorkerClient final : public PictureProcess {
+ public:
+  /// Begins to open the bytes at once and returns. `connection`: a process that waits already, or null.
+  WorkerClient(std::shared_ptr<WorkerStarter> starter, QByteArray bytes, PictureKind kind,
+               const PictureLimits& limits, std::unique_ptr<WorkerConnection> connection = nullptr);
+  ~WorkerClient() override;
+
+  Result<PictureFacts> facts(const CancelToken& cancel = {}) override;
+  Result<QImage> render(const RenderRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
+
+  /// Number of the process that serves the document now, 0: none. For tests.
+  [[nodiscard]] qint64 processId();
+
+ private:
+  Result<void> beginToOpen();
+  Result<PictureFacts> finishOpening(const CancelToken& cancel);
+  Result<WorkerAnswer> ask(RequestBody body, const CancelToken& cancel);
+  Result<PictureBytes> askForBytes(RequestBody body, const CancelToken& cancel);
+  template <typename T>
+  Result<T> distrusted(Result<T> result);
+  [[nodiscard]] std::optional<Result<PictureFacts>> known() const;
+  [[nodiscard]] QDeadlineTimer deadline() const;
+
+  const std::shared_ptr<WorkerStarter> starter_;
+  const QByteArray bytes_;
+  const PictureKind kind_;
+  const PictureLimits limits_;
+  TurnTaking turns_;
+  // Used by the thread whose turn it is.
+  std::unique_ptr<WorkerConnection> connection_;
+  quint32 opening_ = 0;  ///< id of the OpenRequest that has not been answered; 0: the document is open
+  QDeadlineTimer openDeadline_;
+
+  mutable std::mutex outcomeMutex_;
+  std::optional<Result<PictureFacts>> outcome_;  ///< of the opening, once it is final
+};
+
+}  // namespace norvex

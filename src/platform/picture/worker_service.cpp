@@ -1,0 +1,92 @@
+#include "platform/picture/worker_service.h"
+
+#include "platform/picture/worker_answers.h"
+#include "platform/picture/worker_client.h"
+#include "platform/sealed_memory.h"
+
+namespace norvex {
+namespace {
+
+/// A preview or a change of attributes takes milliseconds; what takes longer is an attack.
+PictureLimits toolLimits() {
+  PictureLimits limits;
+  limits.seconds = 20;
+  return limits;
+}
+
+Error cancelled() {
+  return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
+}
+
+bool sameLimits(const PictureLimits& a, const PictureLimits& b) {
+  return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels;
+}
+
+}  // namespace
+
+WorkerService::WorkerService(const QString& program)
+    : starter_(
+          std::make_shared<WorkerStarter>(program.isEmpty() ? WorkerStarter::defaultProgram() : program)) {}
+
+WorkerService::~WorkerService() = default;
+
+Result<void> WorkerService::start() {
+  return starter_->start();
+}
+
+void WorkerService::prepare(PictureKind kind, const PictureLimits& limits) {
+  auto opened = WorkerConnection::open(starter_, ForkRequest{limits, kind == PictureKind::Eps});
+  const std::lock_guard lock(preparedMutex_);
+  if (opened) prepared_ = std::move(*opened);
+}
+
+std::shared_ptr<PictureProcess> WorkerService::open(const QByteArray& bytes, PictureKind kind,
+                                                    const PictureLimits& limits) {
+  std::unique_ptr<WorkerConnection> connection;
+  {
+    const std::lock_guard lock(preparedMutex_);
+    const bool fits = prepared_ && prepared_->request().postScript == (kind == PictureKind::Eps) &&
+                      sameLimits(prepared_->request().limits, limits);
+    if (fits) connection = std::move(prepared_);
+  }
+  return std::make_shared<WorkerClient>(starter_, bytes, kind, limits, std::move(connection));
+}
+
+Result<WorkerAnswer> WorkerService::askTools(RequestBody body, const QByteArray& bytes,
+                                             const CancelToken& cancel) {
+  if (tools_ && !tools_->isUsable()) tools_.reset();
+  if (!tools_) {
+    auto opened = WorkerConnection::open(starter_, ForkRequest{toolLimits(), false});
+    if (!opened) return opened.error();
+    tools_ = std::move(*opened);
+  }
+  const Result<FileDescriptor> memory = SealedMemory::seal(bytes);
+  if (!memory) return memory.error();
+  const Result<quint32> id = tools_->post(std::move(body), *memory);
+  if (!id) return id.error();
+  return tools_->wait(*id, QDeadlineTimer(qint64(toolLimits().seconds) * 1000), cancel);
+}
+
+Result<NSBitmapImageRep> WorkerService::decodePreview(const QByteArray& tiff, const CancelToken& cancel) {
+  const auto turn = toolTurns_.take(cancel);
+  if (!turn) return cancelled();
+  Result<WorkerAnswer> answer = askTools(DecodePreviewRequest{}, tiff, cancel);
+  Result<NSBitmapImageRep> bitmap = answer ? bitmapFrom(std::move(*answer), toolLimits()) : answer.error();
+  // A process that one document has made fail shall not see the next one.
+  if (!bitmap) tools_.reset();
+  return bitmap;
+}
+
+Result<QByteArray> WorkerService::setPdfAttributes(const QByteArray& pdf,
+                                                   const QHash<QString, QString>& texts,
+                                                   const QDateTime& creationDate, const CancelToken& cancel) {
+  const auto turn = toolTurns_.take(cancel);
+  if (!turn) return cancelled();
+  AttributesRequest request{texts, creationDate.isValid() ? std::optional(creationDate) : std::nullopt};
+  Result<WorkerAnswer> answer = askTools(std::move(request), pdf, cancel);
+  Result<PictureBytes> bytes = answer ? bytesFrom(std::move(*answer), toolLimits()) : answer.error();
+  if (!bytes) tools_.reset();
+  return bytes ? Result<QByteArray>(bytes->bytes) : Result<QByteArray>(bytes.error());
+}
+
+}  // namespace norvex

@@ -1,0 +1,54 @@
+// WorkerService: the PictureService whose documents live in processes of norvex-worker.
+//
+//   WorkerService service;
+//   service.start();                                            // first thing in main(), before Qt is
+//   initialised auto process = service.open(bytes, PictureKind::Svg);       // returns at once
+//   Result<PictureFacts> facts = process->facts();              // waits
+#pragma once
+
+#include <mutex>
+
+#include "platform/picture/turn_taking.h"
+#include "platform/picture/worker_connection.h"
+#include "platform/picture_process.h"
+
+namespace norvex {
+
+/// See PictureService. Processes that were opened may outlive the service; the warm program ends with the
+/// last of them.
+class WorkerService final : public PictureService {
+ public:
+  /// `program`: another norvex-worker than the one beside the running program (tests). See WorkerStarter.
+  explicit WorkerService(const QString& program = {});
+  ~WorkerService() override;
+
+  /// Starts the warm program, which links and initialises itself while the caller goes on. Needs no
+  /// application object and no other call before it. Optional: open() starts it as well. A failure is told
+  /// again by every call.
+  Result<void> start();
+  /// Makes a process ready for a document of this kind that is expected; for PostScript its interpreter
+  /// begins to start. The next open() with this kind and these limits takes it. Returns at once.
+  void prepare(PictureKind kind, const PictureLimits& limits = {});
+
+  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
+                                       const PictureLimits& limits = {}) override;
+  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
+  Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& texts,
+                                      const QDateTime& creationDate, const CancelToken& cancel = {}) override;
+
+  /// Number of the warm program's process, 0 when it does not run.
+  [[nodiscard]] qint64 programProcessId() const { return starter_->pid(); }
+
+ private:
+  Result<WorkerAnswer> askTools(RequestBody body, const QByteArray& bytes, const CancelToken& cancel);
+
+  std::shared_ptr<WorkerStarter> starter_;
+  std::mutex preparedMutex_;
+  std::unique_ptr<WorkerConnection> prepared_;
+  TurnTaking toolTurns_;
+  /// Serves what belongs to no open document, one after the other; replaced after any failure. Used by the
+  /// thread whose turn it is.
+  std::unique_ptr<WorkerConnection> tools_;
+};
+
+}  // namespace norvex

@@ -1,0 +1,50 @@
+// DocumentServer: answers the requests for one document until the other side closes the connection.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "platform/message_channel.h"
+#include "worker/engine_set.h"
+#include "worker/request_queue.h"
+
+namespace norvex {
+
+/// Lives on the main thread of a document's process.
+class DocumentServer {
+ public:
+  /// Borrows the engines. With a refusal every request is answered with it.
+  DocumentServer(FileDescriptor socket, const EngineSet& engines, const PictureLimits& limits,
+                 const QString& scratchFolder, std::optional<Error> refusal);
+
+  /// For warming up before the first request.
+  [[nodiscard]] engine::EngineContext& context() { return context_; }
+  /// Serves; the process ends with the connection.
+  [[noreturn]] void run();
+
+ private:
+  /// An answer with what travels beside it.
+  struct Answer {
+    ReplyBody body;
+    FileDescriptor descriptor;
+  };
+  Answer answer(ArrivedRequest& arrived);
+  Answer serve(const OpenRequest& request, FileDescriptor descriptor);
+  Answer serve(const RenderRequest& request, FileDescriptor descriptor);
+  Answer serve(const PdfRequest& request, FileDescriptor descriptor);
+  Answer serve(const ComposeRequest& request, FileDescriptor descriptor);
+  Answer serve(const SvgRequest& request, FileDescriptor descriptor);
+  Answer serve(const DecodePreviewRequest& request, FileDescriptor descriptor);
+  Answer serve(const AttributesRequest& request, FileDescriptor descriptor);
+  static Answer answerOf(Result<engine::EngineBytes> bytes);
+  void send(quint32 id, Answer answer);
+
+  MessageChannel channel_;
+  const EngineSet& engines_;
+  engine::EngineContext context_;
+  std::optional<Error> refusal_;
+  QByteArray document_;  ///< engines may borrow the bytes for as long as they live
+  std::unique_ptr<engine::DocumentEngine> engine_;
+};
+
+}  // namespace norvex

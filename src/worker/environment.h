@@ -1,0 +1,15 @@
+// The environment variables of the picture process.
+#pragma once
+
+#include <QByteArrayList>
+
+namespace norvex {
+
+/// Removes every variable but the few that the libraries need and sets those that make results the same on
+/// every desktop. Called once, first thing in main(), by a process with one thread.
+void clearEnvironment();
+
+/// The names that are kept when they are set.
+[[nodiscard]] QByteArrayList keptVariables();
+
+}  // namespace norvex

@@ -1,0 +1,116 @@
+#include "worker/fork_server.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+
+namespace norvex {
+namespace {
+
+constexpr int kSocket = 3;
+
+Error noChild() {
+  return {ErrorKind::Died, QStringLiteral("no process for the picture could be started")};
+}
+
+void removeFolder(const QByteArray& folder) {
+  std::error_code ignored;  // what cannot be removed now goes with the root folder
+  std::filesystem::remove_all(folder.toStdString(), ignored);
+}
+
+/// Input and output are nobody's business in a child. Messages of libraries would be mixed into those of the
+/// program, and a terminal in the hands of a hostile document is a keyboard; sanitizers keep their voice.
+void closeStandardStreams() {
+  const int null = ::open("/dev/null", O_RDWR | O_CLOEXEC);
+  ::dup2(null, STDIN_FILENO);
+  ::dup2(null, STDOUT_FILENO);
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+  ::dup2(null, STDERR_FILENO);
+#endif
+}
+
+}  // namespace
+
+ForkServer::ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain)
+    : control_(std::move(control)), scratchRoot_(std::move(scratchRoot)), childMain_(std::move(childMain)) {}
+
+void ForkServer::run() {
+  bool connected = true;
+  while (connected) {
+    std::vector<pollfd> polls{{control_.socket(), POLLIN, 0}};
+    for (const Child& child : children_) polls.push_back({child.pidfd.get(), POLLIN, 0});
+    if (::poll(polls.data(), polls.size(), -1) <= 0) continue;
+    for (size_t i = polls.size(); i > 1; --i) {
+      if (polls[i - 1].revents == 0) continue;
+      bury(children_[i - 2]);
+      children_.erase(children_.begin() + std::ptrdiff_t(i - 2));
+    }
+    if (polls[0].revents != 0) connected = answerControl();
+  }
+  for (Child& child : children_) bury(child);
+  children_.clear();
+}
+
+bool ForkServer::answerControl() {
+  Result<ChannelMessage> message = control_.receive();
+  if (!message) return false;
+  const Result<WorkerMessage> decoded = decodeMessage(message->cbor);
+  const ForkRequest* request = decoded ? std::get_if<ForkRequest>(&*decoded) : nullptr;
+  if (request == nullptr || !message->descriptor.valid()) return false;
+  ++forks_;
+  Result<Child> child = fork(*request, std::move(message->descriptor));
+  if (!child) return control_.send(encodeReply({forks_, child.error()})).ok();
+  const bool told = control_.send(encodeReply({forks_, ForkReply{child->pid}}), child->pidfd.get()).ok();
+  children_.push_back(std::move(*child));
+  return told;
+}
+
+Result<ForkServer::Child> ForkServer::fork(const ForkRequest& request, FileDescriptor socket) {
+  QByteArray folder = scratchRoot_ + "/XXXXXX";
+  if (::mkdtemp(folder.data()) == nullptr) return noChild();
+  const pid_t self = ::getpid();
+  const pid_t pid = ::fork();
+  if (pid == 0) becomeChild(self, request, std::move(socket), folder);
+  // No race: until we bury it the number cannot be given to another process.
+  Child child{pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1), folder};
+  if (pid > 0) ::setpgid(pid, pid);
+  if (pid > 0 && child.pidfd.valid()) return child;
+  if (pid > 0) bury(child);
+  removeFolder(folder);
+  return noChild();
+}
+
+void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescriptor socket,
+                             const QByteArray& scratchFolder) {
+  ::setpgid(0, 0);
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  if (::getppid() != parent) ::_exit(1);  // it died before it could be followed
+  closeStandardStreams();
+  // Everything foreign goes: the control connection and the other children's descriptors first of all.
+  if (socket.get() != kSocket) ::dup2(socket.release(), kSocket);
+  (void)socket.release();
+  ::fcntl(kSocket, F_SETFD, FD_CLOEXEC);
+  ::syscall(SYS_close_range, kSocket + 1, ~0u, 0);
+  childMain_(FileDescriptor(kSocket), request, QFile::decodeName(scratchFolder));
+  ::_exit(0);
+}
+
+void ForkServer::bury(Child& child) {
+  // First the group, which still bears the number of the unburied child.
+  ::kill(-child.pid, SIGKILL);
+  ::kill(child.pid, SIGKILL);
+  while (::waitpid(child.pid, nullptr, 0) < 0 && errno == EINTR) continue;
+  removeFolder(child.scratchFolder);
+}
+
+}  // namespace norvex

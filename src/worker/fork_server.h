@@ -1,0 +1,49 @@
+// ForkServer: the process that has everything linked and warm, and forks one child for each document.
+#pragma once
+
+#include <QByteArray>
+
+#include <functional>
+#include <vector>
+
+#include "platform/message_channel.h"
+#include "platform/worker_protocol.h"
+
+namespace norvex {
+
+/// Never reads a byte of a document and never has a second thread, so that forking is safe. It ends with the
+/// connection to the program that started it: that, and not a death signal, is how it follows its parent,
+/// because the kernel sends such a signal when the *thread* that started a process ends. Whichever way a
+/// child ends, its process group is killed and its scratch folder removed.
+class ForkServer {
+ public:
+  /// What a child does with its socket; the process ends when it returns.
+  using ChildMain =
+      std::function<void(FileDescriptor socket, const ForkRequest&, const QString& scratchFolder)>;
+
+  /// Scratch folders are made inside `scratchRoot`, which exists and is private to the user.
+  ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain);
+
+  /// Serves until the control connection closes; all children are then gone.
+  void run();
+
+ private:
+  struct Child {
+    int pid = 0;
+    FileDescriptor pidfd;
+    QByteArray scratchFolder;
+  };
+  bool answerControl();
+  Result<Child> fork(const ForkRequest& request, FileDescriptor socket);
+  [[noreturn]] void becomeChild(int parent, const ForkRequest& request, FileDescriptor socket,
+                                const QByteArray& scratchFolder);
+  void bury(Child& child);
+
+  MessageChannel control_;
+  QByteArray scratchRoot_;
+  ChildMain childMain_;
+  std::vector<Child> children_;
+  quint32 forks_ = 0;  ///< requests so far; the answer's id
+};
+
+}  // namespace norvex

@@ -1,0 +1,22 @@
+// The confinement of a document's process: the one place where its layers are put on.
+#pragma once
+
+#include <QString>
+
+#include "platform/result.h"
+#include "platform/worker_protocol.h"
+
+namespace norvex {
+
+/// Gives up, for ever, what a document's process does not need. Called once, in the fresh child, while it has
+/// one thread, before the first byte of a document is read.
+///
+/// Built so far: no new privileges; no core files; limits on address space, file size and open files; the
+/// scratch folder as temporary folder; first choice of the system when memory runs out. NOT built yet: the
+/// Landlock rules and the seccomp filter. Until they are, a document that takes over an engine can read what
+/// the user can read.
+///
+/// Fails with NoSandbox; the process must then refuse every request.
+[[nodiscard]] Result<void> enterSandbox(const PictureLimits& limits, const QString& scratchFolder);
+
+}  // namespace norvex

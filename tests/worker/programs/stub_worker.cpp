@@ -1,0 +1,7 @@
+// norvex-stub-worker: the real picture program around engines that parse nothing.
+#include "stub_engines.h"
+#include "worker/worker_program.h"
+
+int main(int argc, char** argv) {
+  return norvex::runWorkerProgram(argc, argv, norvex::kit::stubEngines());
+}

@@ -1,0 +1,16 @@
+// The program without a window.
+#pragma once
+
+#include "platform/picture_process.h"
+
+namespace norvex {
+
+/// Whether the arguments ask for the command line; otherwise main opens a window. Looks at the first argument
+/// alone and needs nothing to be initialised.
+[[nodiscard]] bool isCommandLine(int argc, char** argv);
+
+/// Runs it to its end and returns the exit code. Needs no display and no application object (it makes a
+/// QCoreApplication of its own when there is none). Diagnostics go to the system log.
+int runCommandLine(int argc, char** argv, PictureService& service);
+
+}  // namespace norvex

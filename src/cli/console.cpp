@@ -1,0 +1,69 @@
+#include "cli/console.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "platform/picture/document_file.h"
+
+namespace norvex {
+namespace {
+
+bool writeAll(int descriptor, const QByteArray& bytes) {
+  for (qsizetype done = 0; done < bytes.size();) {
+    const ssize_t count = ::write(descriptor, bytes.constData() + done, size_t(bytes.size() - done));
+    if (count < 0 && errno != EINTR) return false;
+    if (count > 0) done += count;
+  }
+  return true;
+}
+
+bool commandsTheTerminal(QChar c) {
+  const bool turnsDirection =
+      (c >= QChar(0x202A) && c <= QChar(0x202E)) || (c >= QChar(0x2066) && c <= QChar(0x2069));
+  return turnsDirection || c.category() == QChar::Other_Control || c == QChar(0x2028) || c == QChar(0x2029);
+}
+
+}  // namespace
+
+QString visible(const QString& text, bool keepLineFeeds) {
+  QString shown;
+  shown.reserve(text.size());
+  for (const QChar c : text) {
+    if (!commandsTheTerminal(c) || (keepLineFeeds && c == QLatin1Char('\n')))
+      shown += c;
+    else if (c.unicode() < 0x100)
+      shown += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+    else
+      shown += QStringLiteral("\\u{%1}").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+  }
+  return shown;
+}
+
+Result<QByteArray> StandardConsole::input() {
+  return readDocumentStream(STDIN_FILENO);
+}
+
+bool StandardConsole::write(const QByteArray& bytes) {
+  return writeAll(STDOUT_FILENO, bytes);
+}
+
+void StandardConsole::message(const QString& line) {
+  writeAll(STDERR_FILENO, visible(line).toUtf8() + '\n');
+}
+
+bool StandardConsole::isTerminal() const {
+  return ::isatty(STDOUT_FILENO) == 1;
+}
+
+bool MemoryConsole::write(const QByteArray& bytes) {
+  if (full) return false;
+  output += bytes;
+  return true;
+}
+
+void MemoryConsole::message(const QString& line) {
+  messages += visible(line) + QLatin1Char('\n');
+}
+
+}  // namespace norvex

@@ -1,0 +1,52 @@
+// The seam before standard input, output and error: so that tests see every byte and message of a run.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "platform/result.h"
+
+namespace norvex {
+
+/// Data goes to standard output, messages go to standard error. Main thread only.
+class Console {
+ public:
+  virtual ~Console() = default;
+  /// Everything up to the end of standard input.
+  virtual Result<QByteArray> input() = 0;
+  /// False when the bytes could not be written completely (a full disk, a closed pipe).
+  [[nodiscard]] virtual bool write(const QByteArray& bytes) = 0;
+  /// One line; what would move the cursor or colour the terminal is made visible.
+  virtual void message(const QString& line) = 0;
+  /// Whether standard output is a terminal, on which binary data would make a mess.
+  [[nodiscard]] virtual bool isTerminal() const = 0;
+};
+
+/// The process's own standard streams.
+class StandardConsole final : public Console {
+ public:
+  Result<QByteArray> input() override;
+  bool write(const QByteArray& bytes) override;
+  void message(const QString& line) override;
+  bool isTerminal() const override;
+};
+
+/// Keeps what is written; for tests.
+class MemoryConsole final : public Console {
+ public:
+  Result<QByteArray> input() override { return standardInput; }
+  bool write(const QByteArray& bytes) override;
+  void message(const QString& line) override;
+  bool isTerminal() const override { return terminal; }
+
+  QByteArray standardInput, output;
+  QString messages;  ///< lines with their ends
+  bool terminal = false;
+  bool full = false;  ///< every further write fails
+};
+
+/// `text` with control characters, and what turns the direction of writing, as `\xNN` or `\u{NNNN}`: names
+/// and titles come from strangers and must not command the terminal. Line feeds too, unless `keepLineFeeds`.
+[[nodiscard]] QString visible(const QString& text, bool keepLineFeeds = false);
+
+}  // namespace norvex

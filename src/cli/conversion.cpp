@@ -1,0 +1,92 @@
+#include "cli/conversion.h"
+
+#include <QtMath>
+
+#include "display/picture_geometry.h"
+#include "metadata/eps_header.h"
+#include "metadata/pdf_header.h"
+#include "metadata/svg_header.h"
+#include "platform/picture/eps_image_rep.h"
+#include "platform/picture/pdf_image_rep.h"
+#include "platform/picture/picture_loader.h"
+#include "platform/picture/web_image_rep.h"
+#include "platform/type_identification.h"
+
+namespace norvex {
+namespace {
+
+HeaderDictionary headerOf(const NSImageRep& imageRep) {
+  if (const auto* eps = dynamic_cast<const NSEPSImageRep*>(&imageRep))
+    return epsHeader(eps->EPSRepresentation());
+  if (const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep)) return pdfHeader(pdf->facts());
+  if (const auto* svg = dynamic_cast<const ZyWebImageRep*>(&imageRep))
+    return svgHeader(svg->facts(), svg->colorSpace());
+  return {};
+}
+
+/// The rectangle that is asked for, in view coordinates; nothing for the whole picture as it is.
+std::optional<PictureRegion> regionOf(const NSImageRep& imageRep, const ConversionOptions& options) {
+  const double rotate = normalizedAngle(qDegreesToRadians(options.rotateDegrees));
+  if (rotate == 0 && !options.crop) return std::nullopt;
+  const QSizeF size = rotatedBoundingSize(imageRep.size(), rotate);
+  const QPointF lowerLeft(-size.width() / 2, -size.height() / 2);
+  if (!options.crop) return PictureRegion{QRectF(lowerLeft, size), rotate};
+  return PictureRegion{options.crop->translated(lowerLeft), rotate};
+}
+
+std::optional<Error> objection(const NSImageRep& imageRep, const ConversionOptions& options) {
+  const bool wantsSvg = options.format == OutputFormat::Svg || options.format == OutputFormat::Svgz;
+  if (wantsSvg && imageRep.pictureKind() != PictureKind::Svg) {
+    return Error{ErrorKind::Unsupported, QStringLiteral("only an SVG picture can be written as SVG")};
+  }
+  const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep);
+  const int pages = pdf ? pdf->pageCount() : 1;
+  if (options.page.value_or(1) > pages) {
+    return Error{ErrorKind::Unsupported,
+                 QStringLiteral("there is no page %1, the last one is %2").arg(*options.page).arg(pages)};
+  }
+  return std::nullopt;
+}
+
+Conversion failed(const Error& error) {
+  Conversion conversion;
+  conversion.report.error = error;
+  return conversion;
+}
+
+}  // namespace
+
+Conversion convertPicture(PictureService& service, const QByteArray& source, const QUrl& fileURL,
+                          const ConversionOptions& options, const CancelToken& cancel) {
+  PictureSource picture;
+  picture.bytes = source;
+  picture.fileURL = fileURL;
+  picture.typeIdentifier = identifyType(source, fileURL.fileName()).identifier();
+  picture.page = options.page.value_or(1) - 1;
+  const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits);
+  if (!loaded) return failed(loaded.error());
+  const auto& imageRep = loaded->imageRep;
+  if (const auto error = objection(*imageRep, options)) return failed(*error);
+
+  EncoderSurroundings surroundings = usualSurroundings(service);
+  surroundings.raster = {options.dpi, options.background};
+  surroundings.region = regionOf(*imageRep, options);
+  surroundings.onePage = options.page.has_value();
+  PictureEncoder encoder(imageRep, surroundings, cancel);
+  Conversion conversion;
+  conversion.bytes = encodedPicture(encoder, options.format);
+  conversion.report = encoder.report();
+  if (conversion.bytes.isEmpty() && !conversion.report.error) {
+    conversion.report.error =
+        Error{ErrorKind::Unsupported,
+              QStringLiteral("the picture cannot be written as %1").arg(nameOf(options.format))};
+  }
+  const bool vectorOfSameKind =
+      (options.format == OutputFormat::Pdf && imageRep->pictureKind() == PictureKind::Pdf) ||
+      (options.format == OutputFormat::Eps && imageRep->pictureKind() == PictureKind::Eps);
+  conversion.metadataLost = metadataLost(headerOf(*imageRep), imageRep->pictureKind(), options.format,
+                                         vectorOfSameKind && !surroundings.region && !surroundings.onePage);
+  return conversion;
+}
+
+}  // namespace norvex

@@ -1,0 +1,39 @@
+// One picture into another format: what the convert command does with each of its files.
+#pragma once
+
+#include <QByteArray>
+#include <QRectF>
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+
+#include "encoders/output_format.h"
+#include "platform/cancel_token.h"
+#include "platform/picture_process.h"
+
+namespace norvex {
+
+struct ConversionOptions {
+  OutputFormat format = OutputFormat::Pdf;
+  double rotateDegrees = 0;    ///< counter-clockwise
+  std::optional<QRectF> crop;  ///< points in the rotated view, origin at its lower-left corner, y up
+  std::optional<int> page;     ///< from 1
+  double dpi = 72;
+  QColor background;  ///< invalid: what is not painted stays transparent
+  PictureLimits limits;
+};
+
+/// Bytes and what there is to tell about them.
+struct Conversion {
+  QByteArray bytes;  ///< empty: report.error says why
+  EncodingReport report;
+  QStringList metadataLost;  ///< keys of the header dictionary
+};
+
+/// Blocks for the picture process. `fileURL` tells the type where the bytes leave it open. Thread-safe.
+[[nodiscard]] Conversion convertPicture(PictureService& service, const QByteArray& source,
+                                        const QUrl& fileURL, const ConversionOptions& options,
+                                        const CancelToken& cancel = {});
+
+}  // namespace norvex

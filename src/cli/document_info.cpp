@@ -1,0 +1,79 @@
+#include "cli/document_info.h"
+
+#include "cli/input_file.h"
+#include "metadata/eps_header.h"
+#include "metadata/pdf_header.h"
+#include "metadata/svg_header.h"
+#include "platform/picture/eps_image_rep.h"
+#include "platform/picture/null_picture_service.h"
+
+namespace norvex {
+namespace {
+
+QString kindOf(const UTType& type) {
+  if (type.conformsToType(UTTypeSVG())) return QStringLiteral("SVG");
+  if (type.conformsToType(NorvexEPSType) || type.conformsToType(NorvexEPSIType)) return QStringLiteral("EPS");
+  if (type.conformsToType(NorvexIllustratorType)) return QStringLiteral("Illustrator");
+  if (type.conformsToType(UTTypePDF())) return QStringLiteral("PDF");
+  return QStringLiteral("other");
+}
+
+void readEps(DocumentInfo& info, PictureService& service, const QByteArray& bytes) {
+  info.header = epsHeader(bytes, [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
+    const Result<NSBitmapImageRep> preview = service.decodePreview(tiff);
+    if (preview) return *preview;
+    info.warnings << preview.error().message;
+    return std::nullopt;
+  });
+  // The header is all that the representation reads; without a service it starts no process for the drawing.
+  NullPictureService undrawn;
+  const auto rep = NSEPSImageRep::imageRepWithData(undrawn, bytes);
+  if (!rep) {
+    info.error = rep.error();
+    return;
+  }
+  info.rectangle = (*rep)->boundingBox();
+  info.hiResBoundingBox = (*rep)->hiResBoundingBox();
+  info.pages = 1;
+}
+
+void readFacts(DocumentInfo& info, const Result<PictureFacts>& facts) {
+  if (!facts) {
+    info.error = facts.error();
+    return;
+  }
+  if (!facts->pageBounds.isEmpty()) info.rectangle = facts->pageBounds.first();
+  info.pages = facts->pageCount;
+  info.viewBox = facts->viewBox;
+  info.warnings = facts->warnings;
+}
+
+void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, const QByteArray& bytes) {
+  info.rectangleTitle = kind == PictureKind::Svg ? QStringLiteral("ViewBox") : QStringLiteral("Bounds");
+  if (kind == PictureKind::Eps) return readEps(info, service, bytes);
+  const Result<PictureFacts> facts = service.open(bytes, kind)->facts();
+  readFacts(info, facts);
+  info.header = kind == PictureKind::Pdf ? pdfHeader(facts) : svgHeader(facts);
+}
+
+}  // namespace
+
+DocumentInfo documentInfo(PictureService& service, const QString& file, const Result<QByteArray>& bytes) {
+  DocumentInfo info;
+  info.file = file;
+  if (!bytes) {
+    info.error = bytes.error();
+    return info;
+  }
+  const UTType type = typeOfInput(*bytes, file);
+  info.typeIdentifier = type.identifier();
+  info.kind = kindOf(type);
+  const Result<PictureKind> kind = pictureKindOfInput(*bytes, type);
+  if (kind)
+    readPicture(info, service, *kind, *bytes);
+  else
+    info.error = kind.error();
+  return info;
+}
+
+}  // namespace norvex

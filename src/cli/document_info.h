@@ -1,0 +1,37 @@
+// What is known about a document without rendering it.
+#pragma once
+
+#include <QByteArray>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+#include "metadata/header_dictionary.h"
+#include "platform/picture_process.h"
+#include "platform/result.h"
+
+namespace norvex {
+
+/// Facts of one file. What could be had stands beside the error that prevented the rest.
+struct DocumentInfo {
+  QString file;  ///< as it was given
+  QString kind;  ///< "SVG", "EPS", "Illustrator", "PDF" or "other"; empty when the file could not be read
+  QString typeIdentifier;
+  HeaderDictionary header;
+  std::optional<QRectF> rectangle;  ///< bounding box (EPS) or bounds (PDF, SVG), points
+  QString rectangleTitle;           ///< "Bounds", or "ViewBox" for SVG
+  std::optional<QRectF> viewBox;
+  std::optional<QRectF> hiResBoundingBox;
+  std::optional<int> pages;
+  QStringList warnings;
+  std::optional<Error> error;
+};
+
+/// Finds everything out about a file that was read. PostScript is looked at here; PDF and SVG are opened by
+/// `service`, and so is the TIFF preview of binary EPS. Blocks; may be called by several threads.
+[[nodiscard]] DocumentInfo documentInfo(PictureService& service, const QString& file,
+                                        const Result<QByteArray>& bytes);
+
+}  // namespace norvex

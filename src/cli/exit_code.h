@@ -1,0 +1,26 @@
+// What the program's exit status says.
+#pragma once
+
+#include <QList>
+
+#include "platform/result.h"
+
+namespace norvex {
+
+enum class ExitCode {
+  Done = 0,
+  SomeFailed = 1,  ///< some file failed, the others were done; or a file has not what was asked for
+  Usage = 2,
+  CannotRead = 3,  ///< or cannot parse
+  CannotWrite = 4,
+  Limit = 5,  ///< time, memory or size
+  NoSandbox = 6,
+  Interrupted = 130,
+};
+
+[[nodiscard]] ExitCode exitCodeOf(const Error& error);
+
+/// Of a run over several files: their code when all ended alike, otherwise SomeFailed.
+[[nodiscard]] ExitCode exitCodeOfAll(const QList<ExitCode>& codes);
+
+}  // namespace norvex

@@ -1,0 +1,58 @@
+#include "cli/help_text.h"
+
+namespace norvex {
+namespace {
+
+constexpr char kEnd[] =
+    "\nFILE and OUT may be -: standard input or output.\n"
+    "\nExit codes: 0 all done, 1 some file failed, 2 wrong usage, 3 cannot read or parse,\n"
+    "4 cannot write, 5 a limit was reached, 6 no sandbox could be set up, 130 interrupted.\n";
+
+QString usageOf(const CommandRow& row) {
+  QString line = QStringLiteral("norvex");
+  if (*row.name) line += QLatin1Char(' ') + QLatin1String(row.name);
+  return line + QLatin1Char(' ') + QLatin1String(row.operands);
+}
+
+QString formsOf(const OptionRow& row) {
+  QString forms = row.letter ? QStringLiteral("-%1, ").arg(QLatin1Char(row.letter)) : QStringLiteral("    ");
+  forms += QStringLiteral("--%1").arg(QLatin1String(row.name));
+  if (row.value) forms += QLatin1Char(' ') + QLatin1String(row.value);
+  return forms;
+}
+
+QString optionLines(Command command) {
+  QString lines = QStringLiteral("\nOptions:\n");
+  for (const OptionRow& row : optionsOf(command)) {
+    QString help = QLatin1String(row.help);
+    if (row.choices) help += QStringLiteral(" (%1)").arg(QString::fromLatin1(row.choices).replace(' ', ", "));
+    lines += QStringLiteral("  %1 %2\n").arg(formsOf(row), -24).arg(help);
+  }
+  return lines;
+}
+
+}  // namespace
+
+QString helpText(Command command) {
+  QString text;
+  if (command != Command::Main) {
+    const CommandRow& row = rowOf(command);
+    text = QStringLiteral("Usage: %1 [options]\n%2.\n").arg(usageOf(row), QString::fromLatin1(row.help));
+    text[text.indexOf('\n') + 1] = text[text.indexOf('\n') + 1].toUpper();
+    return text + optionLines(command) + QLatin1String(kEnd);
+  }
+  text = QStringLiteral(
+      "Norvex shows EPS, Illustrator, PDF and SVG pictures and hands out parts of them as vectors.\n\n");
+  text += QStringLiteral("Usage:\n");
+  for (const CommandRow& row : commandTable())
+    text += QStringLiteral("  %1 %2\n").arg(usageOf(row), -28).arg(QLatin1String(row.help));
+  text += optionLines(command);
+  text += QStringLiteral("\nnorvex COMMAND --help shows the options of a command.\n");
+  return text + QLatin1String(kEnd);
+}
+
+QString versionText() {
+  return QStringLiteral("norvex %1\n").arg(QLatin1String(NORVEX_VERSION));
+}
+
+}  // namespace norvex

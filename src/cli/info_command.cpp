@@ -1,0 +1,52 @@
+// `norvex info`: every file's facts, found out on all cores and told in the order of the files.
+#include <QJsonDocument>
+#include <QtConcurrent>
+
+#include "cli/info_report.h"
+#include "cli/input_file.h"
+#include "cli/job.h"
+
+namespace norvex {
+namespace {
+
+/// A file's part of the output with its end.
+struct Finding {
+  QByteArray output;
+  std::optional<Error> error;
+};
+
+Finding findingOf(const DocumentInfo& info, bool json) {
+  if (json) return {QJsonDocument(infoObject(info)).toJson(QJsonDocument::Indented).trimmed(), info.error};
+  const bool silent = info.error && info.header.isEmpty();  // nothing to tell but what is wrong
+  return {silent ? QByteArray() : infoText(info).toUtf8(), info.error};
+}
+
+}  // namespace
+
+ExitCode Job::info(const Arguments& arguments) {
+  const bool json = arguments.has(Option::Json);
+  // Standard input is read here: it can be read once, and a terminal may take its time.
+  const bool fromInput = arguments.files.contains(QStringLiteral("-"));
+  const Result<QByteArray> input =
+      fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());
+  const QFuture<Finding> findings = QtConcurrent::mapped(arguments.files, [&](const QString& file) {
+    const bool isInput = file == QLatin1String("-");
+    return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file)), json);
+  });
+
+  QList<ExitCode> codes;
+  bool written = !json || console_.write("[\n");
+  for (qsizetype i = 0; i < arguments.files.size(); ++i) {
+    const Finding finding = findings.resultAt(int(i));
+    codes << (finding.error ? fail(arguments.files[i], *finding.error) : ExitCode::Done);
+    const bool last = i + 1 == arguments.files.size();
+    const QByteArray end = json ? (last ? "\n" : ",\n") : "";
+    written = written && console_.write(finding.output + end);
+  }
+  written = written && (!json || console_.write("]\n"));
+  if (written) return exitCodeOfAll(codes);
+  return fail(QStringLiteral("-"),
+              {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+}
+
+}  // namespace norvex

@@ -1,0 +1,106 @@
+#include "cli/info_report.h"
+
+#include <QColorSpace>
+#include <QCryptographicHash>
+#include <QJsonArray>
+
+#include "cli/console.h"
+
+namespace norvex {
+namespace {
+
+QJsonArray arrayOf(const QRectF& rect) {
+  return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+QString textOf(const QRectF& rect) {
+  const auto number = [](double value) { return QString::number(value, 'g', 10); };
+  return QStringLiteral("%1 %2 %3 %4")
+      .arg(number(rect.x()), number(rect.y()), number(rect.width()), number(rect.height()));
+}
+
+QString nameOf(const QColorSpace& space) {
+  const QString name = space.description();
+  return name.isEmpty() ? QStringLiteral("unnamed") : name;
+}
+
+QJsonObject previewObject(const NSBitmapImageRep& rep) {
+  return {{"width", rep.pixelsWide},
+          {"height", rep.pixelsHigh},
+          {"bitsPerSample", rep.bitsPerSample},
+          {"samplesPerPixel", rep.samplesPerPixel},
+          {"sha256", sampleHash(rep)}};
+}
+
+QJsonValue jsonOf(const QVariant& value) {
+  if (value.canConvert<NSBitmapImageRep>()) return previewObject(value.value<NSBitmapImageRep>());
+  if (value.typeId() == QMetaType::QColorSpace) return nameOf(value.value<QColorSpace>());
+  return QJsonValue::fromVariant(value);  // text, a whole number of 64 bits, true or false
+}
+
+QString textOf(const QVariant& value) {
+  if (value.canConvert<NSBitmapImageRep>()) {
+    const auto rep = value.value<NSBitmapImageRep>();
+    return QStringLiteral("%1 × %2 pixels, %3 × %4 bits")
+        .arg(rep.pixelsWide)
+        .arg(rep.pixelsHigh)
+        .arg(rep.samplesPerPixel)
+        .arg(rep.bitsPerSample);
+  }
+  return value.typeId() == QMetaType::QColorSpace ? nameOf(value.value<QColorSpace>()) : value.toString();
+}
+
+QString line(const QString& name, const QString& value) {
+  return QStringLiteral("  %1 %2\n").arg(name + QLatin1Char(':'), -22).arg(visible(value));
+}
+
+}  // namespace
+
+QString sampleHash(const NSBitmapImageRep& rep) {
+  QCryptographicHash hash(QCryptographicHash::Sha256);
+  if (!rep.isConsistent()) return QString::fromLatin1(hash.result().toHex());
+  const int planes = rep.isPlanar ? rep.samplesPerPixel : 1;
+  const qint64 samples = qint64(rep.pixelsWide) * (rep.isPlanar ? 1 : rep.samplesPerPixel);
+  const qint64 used = (samples * rep.bitsPerSample + 7) / 8;
+  for (qint64 row = 0; row < qint64(rep.pixelsHigh) * planes; ++row)
+    hash.addData(QByteArrayView(rep.data).sliced(row * rep.bytesPerRow, used));
+  return QString::fromLatin1(hash.result().toHex());
+}
+
+QJsonObject infoObject(const DocumentInfo& info) {
+  QJsonObject header;
+  for (auto it = info.header.begin(); it != info.header.end(); ++it)
+    header.insert(it.key(), jsonOf(it.value()));
+  QJsonObject object{
+      {"file", info.file}, {"header", header}, {"warnings", QJsonArray::fromStringList(info.warnings)}};
+  const auto insert = [&](const char* key, const QJsonValue& value) {
+    object.insert(QLatin1String(key), value);
+  };
+  if (!info.kind.isEmpty()) insert("kind", info.kind);
+  if (!info.typeIdentifier.isEmpty()) insert("type", info.typeIdentifier);
+  if (info.rectangle) insert("rectangle", arrayOf(*info.rectangle));
+  if (info.rectangle) insert("rectangleTitle", info.rectangleTitle);
+  if (info.viewBox) insert("viewBox", arrayOf(*info.viewBox));
+  if (info.hiResBoundingBox) insert("hiResBoundingBox", arrayOf(*info.hiResBoundingBox));
+  if (info.pages) insert("pages", *info.pages);
+  if (info.error) insert("error", info.error->message);
+  return object;
+}
+
+QString infoText(const DocumentInfo& info) {
+  QString text = visible(info.file) + QLatin1Char('\n');
+  if (!info.kind.isEmpty())
+    text += line("Kind", QStringLiteral("%1 (%2)").arg(info.kind, info.typeIdentifier));
+  for (const QString& key :
+       {header::Title, header::Creator, header::CreationDate, header::For, header::Copyright,
+        header::Description, header::Encoding, header::Preview, header::ColorSpace})
+    if (const QString value = textOf(info.header.value(key)); !value.isEmpty()) text += line(key, value);
+  if (info.rectangle) text += line("Bounds", textOf(*info.rectangle));
+  if (info.hiResBoundingBox) text += line("HiResBoundingBox", textOf(*info.hiResBoundingBox));
+  if (info.viewBox) text += line("ViewBox", textOf(*info.viewBox));
+  if (info.pages) text += line("Pages", QString::number(*info.pages));
+  for (const QString& warning : info.warnings) text += line("Warning", warning);
+  return text;
+}
+
+}  // namespace norvex

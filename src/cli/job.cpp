@@ -1,0 +1,56 @@
+#include "cli/job.h"
+
+#include "cli/help_text.h"
+#include "cli/shell_completion.h"
+
+namespace norvex {
+
+ExitCode Job::run(const QStringList& given) {
+  const ReadArguments read = readArguments(given);
+  if (read.complaint.isEmpty()) return dispatch(read.arguments);
+  const QString name = QString::fromLatin1(rowOf(read.arguments.command).name);
+  const QString help =
+      name.isEmpty() ? QStringLiteral("norvex --help") : QStringLiteral("norvex %1 --help").arg(name);
+  console_.message(QStringLiteral("norvex: %1 (%2 shows what there is)").arg(read.complaint, help));
+  return ExitCode::Usage;
+}
+
+ExitCode Job::dispatch(const Arguments& arguments) {
+  if (arguments.has(Option::Help)) return show(helpText(arguments.command));
+  if (arguments.has(Option::Version)) return show(versionText());
+  if (arguments.has(Option::Completion))
+    return show(completionScript(arguments.values.value(Option::Completion)));
+  if (arguments.has(Option::SandboxStatus)) return sandboxStatus();
+  switch (arguments.command) {
+    case Command::Info:
+      return info(arguments);
+    case Command::Source:
+      return source(arguments);
+    case Command::Preview:
+      return preview(arguments);
+    case Command::Main:
+      break;  // windows are not opened here
+  }
+  console_.message(QStringLiteral("norvex: no command is given (norvex --help shows what there is)"));
+  return ExitCode::Usage;
+}
+
+ExitCode Job::sandboxStatus() {
+  (void)show(QStringLiteral(
+      "Sandbox: none. Pictures are parsed in a process of their own, but this build confines it by no "
+      "means of the system.\n"));
+  return ExitCode::NoSandbox;
+}
+
+ExitCode Job::show(const QString& text) {
+  if (console_.write(text.toUtf8())) return ExitCode::Done;
+  console_.message(QStringLiteral("norvex: standard output cannot be written"));
+  return ExitCode::CannotWrite;
+}
+
+ExitCode Job::fail(const QString& file, const Error& error) {
+  console_.message(QStringLiteral("norvex: %1: %2").arg(file, error.message));
+  return exitCodeOf(error);
+}
+
+}  // namespace norvex

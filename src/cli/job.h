@@ -1,0 +1,44 @@
+// One run of the command line.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "cli/arguments.h"
+#include "cli/console.h"
+#include "cli/document_info.h"
+#include "cli/exit_code.h"
+#include "platform/picture_process.h"
+
+namespace norvex {
+
+/// Does what arguments ask for. Everything that the command line can do is here, so that tests drive it
+/// without a program. The console and the service are borrowed and must outlive the job. Main thread only;
+/// the work on files runs on the global thread pool.
+class Job {
+ public:
+  Job(Console& console, PictureService& service) : console_(console), service_(service) {}
+
+  /// `given`: the arguments behind the program's name.
+  ExitCode run(const QStringList& given);
+
+ private:
+  ExitCode dispatch(const Arguments& arguments);
+  ExitCode info(const Arguments& arguments);
+  ExitCode source(const Arguments& arguments);
+  ExitCode preview(const Arguments& arguments);
+  ExitCode sandboxStatus();
+
+  /// Text to standard output.
+  ExitCode show(const QString& text);
+  /// Bytes of a result to a file, or to standard output for "-".
+  ExitCode writeOutput(const QString& output, const QByteArray& bytes, bool force);
+  /// Tells on standard error that something is wrong with a file.
+  ExitCode fail(const QString& file, const Error& error);
+
+  Console& console_;
+  PictureService& service_;
+};
+
+}  // namespace norvex

@@ -1,0 +1,74 @@
+// `norvex preview`: the embedded preview as PNG.
+#include <QBuffer>
+#include <QImage>
+
+#include "cli/input_file.h"
+#include "cli/job.h"
+#include "metadata/eps_header.h"
+#include "platform/atomic_file.h"
+
+namespace norvex {
+namespace {
+
+/// What stands in the file as a preview; nothing when there is none.
+Result<std::optional<NSBitmapImageRep>> embeddedPreview(PictureService& service, const QByteArray& bytes) {
+  std::optional<Error> unreadable;
+  const HeaderDictionary dictionary =
+      epsHeader(bytes, [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
+        Result<NSBitmapImageRep> preview = service.decodePreview(tiff);
+        if (preview) return *preview;
+        unreadable = preview.error();
+        return std::nullopt;
+      });
+  if (unreadable) return *unreadable;
+  if (!dictionary.contains(header::Preview)) return std::optional<NSBitmapImageRep>();
+  return std::optional(dictionary.value(header::Preview).value<NSBitmapImageRep>());
+}
+
+/// Grey stays grey. Empty for samples that cannot be shown.
+QByteArray pngOf(const NSBitmapImageRep& rep) {
+  QImage image = rep.toImage();
+  const bool grey = rep.colorSpaceName == QLatin1String(NSCalibratedWhiteColorSpace) && !rep.hasAlpha;
+  if (grey) image = image.convertToFormat(QImage::Format_Grayscale8);
+  QByteArray png;
+  QBuffer buffer(&png);
+  if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG")) return {};
+  return png;
+}
+
+}  // namespace
+
+ExitCode Job::preview(const Arguments& arguments) {
+  const QString file = arguments.files.first();
+  const QString output = arguments.values.value(Option::Output);
+  const Result<QByteArray> bytes = readInput(console_, file);
+  if (!bytes) return fail(file, bytes.error());
+  const Result<PictureKind> kind = pictureKindOfInput(*bytes, typeOfInput(*bytes, file));
+  if (!kind) return fail(file, kind.error());
+
+  Result<std::optional<NSBitmapImageRep>> preview = std::optional<NSBitmapImageRep>();
+  if (*kind == PictureKind::Eps) preview = embeddedPreview(service_, *bytes);
+  if (!preview) return fail(file, preview.error());
+  if (!*preview) {
+    (void)fail(file, {ErrorKind::Unsupported, QStringLiteral("there is no embedded preview")});
+    return ExitCode::SomeFailed;
+  }
+  const QByteArray png = pngOf(**preview);
+  if (png.isEmpty())
+    return fail(file,
+                {ErrorKind::Unsupported, QStringLiteral("the preview's samples cannot be written as PNG")});
+  return writeOutput(output, png, arguments.has(Option::Force));
+}
+
+ExitCode Job::writeOutput(const QString& output, const QByteArray& bytes, bool force) {
+  if (output != QLatin1String("-")) {
+    const auto written = writeFileAtomically(output, bytes, force ? IfExists::Replace : IfExists::Fail);
+    return written ? ExitCode::Done : fail(output, written.error());
+  }
+  if (console_.isTerminal())
+    return fail(output, {ErrorKind::CannotWrite, QStringLiteral("binary data is not written to a terminal")});
+  if (console_.write(bytes)) return ExitCode::Done;
+  return fail(output, {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+}
+
+}  // namespace norvex

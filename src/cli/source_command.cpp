@@ -1,0 +1,45 @@
+// `norvex source`: the decoded source text, in UTF-8.
+#include "cli/input_file.h"
+#include "cli/job.h"
+#include "metadata/eps_header.h"
+#include "metadata/source_text.h"
+#include "metadata/svg_header.h"
+
+namespace norvex {
+namespace {
+
+Result<QString> textOrError(PictureKind kind, const QByteArray& bytes, const HeaderDictionary& dictionary) {
+  const QString text = sourceText(kind, bytes, dictionary.value(header::EncodingNumber, 0).toLongLong());
+  if (!text.isEmpty()) return text;
+  return Error{ErrorKind::NotParsable, QStringLiteral("the text is in no encoding that is known")};
+}
+
+Result<QString> svgText(PictureService& service, const QByteArray& bytes) {
+  const auto process = service.open(bytes, PictureKind::Svg);
+  const Result<PictureFacts> facts = process->facts();
+  if (!facts) return facts.error();
+  const Result<PictureBytes> pretty = process->svg({});
+  if (!pretty) return pretty.error();
+  return textOrError(PictureKind::Svg, pretty->bytes, svgHeader(facts));
+}
+
+}  // namespace
+
+ExitCode Job::source(const Arguments& arguments) {
+  const QString file = arguments.files.first();
+  const Result<QByteArray> bytes = readInput(console_, file);
+  if (!bytes) return fail(file, bytes.error());
+  const Result<PictureKind> kind = pictureKindOfInput(*bytes, typeOfInput(*bytes, file));
+  if (!kind) return fail(file, kind.error());
+  if (*kind == PictureKind::Pdf) {
+    (void)fail(file, {ErrorKind::Unsupported, QStringLiteral("a PDF has no source text")});
+    return ExitCode::SomeFailed;
+  }
+  const Result<QString> text =
+      *kind == PictureKind::Svg ? svgText(service_, *bytes) : textOrError(*kind, *bytes, epsHeader(*bytes));
+  if (!text) return fail(file, text.error());
+  // A terminal is not to be commanded by a document; a file or a pipe gets the text as it is.
+  return show(console_.isTerminal() ? visible(*text, true) : *text);
+}
+
+}  // namespace norvex

@@ -51,9 +51,8 @@ QByteArray prolog(const QRectF& box) {
          "  { (%stderr) (w) file dup (norvex-error: ) writestring\n"
          "    dup currentpagedevice /PageCount get =string cvs writestring dup ( ) writestring\n"
          "    dup $error /errorname get =string cvs writestring dup ( ) writestring\n"
-         "    dup $error /command get =string cvs writestring dup (\\n) writestring flushfile\n"
-         "    systemdict /quit get exec }\n"
-         "  { systemdict /showpage get exec } ifelse } bind exec\n";
+         "    dup $error /command get =string cvs writestring dup (\\n) writestring flushfile }\n"
+         "  { systemdict /showpage get exec } ifelse systemdict /quit get exec } bind exec\n";
 }
 
 struct ProgramError {

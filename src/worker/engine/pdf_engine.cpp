@@ -5,6 +5,8 @@
 #include "worker/engine/pdf_render.h"
 #include "worker/engine/whole_page.h"
 
+#include <optional>
+
 namespace norvex::engine {
 namespace {
 
@@ -22,7 +24,9 @@ class PdfEngine final : public DocumentEngine {
   Result<QImage> render(const RenderRequest& request) override {
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
-    return renderer_.render(request, *size, context_.limits);
+    Result<QImage> image = renderer_.render(request, *size, context_.limits);
+    if (image || image.error().kind == ErrorKind::Limit || image.error().kind == ErrorKind::Protocol) return image;
+    return renderRepaired(request, *size);
   }
 
   Result<EngineBytes> pdf(const PdfRequest& request) override {
@@ -42,10 +46,24 @@ class PdfEngine final : public DocumentEngine {
     return guarded([&]() -> Result<QSizeF> { return file_->geometry(page).shownSize(); });
   }
 
+  // Of damaged files qpdf finds pages that Poppler misses: it is given the page alone, written anew.
+  [[nodiscard]] Result<QImage> renderRepaired(RenderRequest request, QSizeF size) {
+    if (!repaired_ || repairedPage_ != request.page) {
+      Result<QByteArray> page = composePdf(bytes_, wholePage(request.page, size, VectorFormat::Pdf));
+      if (!page) return page.error();
+      repaired_.emplace(std::move(*page));
+      repairedPage_ = request.page;
+    }
+    request.page = 0;
+    return repaired_->render(request, size, context_.limits);
+  }
+
   QByteArray bytes_;
   std::unique_ptr<PdfFile> file_;
   PictureFacts facts_;
   PdfRenderer renderer_;
+  std::optional<PdfRenderer> repaired_;
+  int repairedPage_ = -1;
   EngineContext& context_;
 };
 

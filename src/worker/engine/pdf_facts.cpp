@@ -64,7 +64,7 @@ QString pdfDate(const QDateTime& date) {
   const QString stamp = QStringLiteral("D:") + date.toString(QStringLiteral("yyyyMMddHHmmss"));
   if (offset == 0) return stamp + u'Z';
   return stamp + QStringLiteral("%1%2'%3'")
-                     .arg(offset < 0 ? u'-' : u'+')
+                     .arg(QLatin1Char(offset < 0 ? '-' : '+'))
                      .arg(std::abs(offset) / 60, 2, 10, QLatin1Char('0'))
                      .arg(std::abs(offset) % 60, 2, 10, QLatin1Char('0'));
 }

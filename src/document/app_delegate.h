@@ -9,8 +9,8 @@ namespace norvex {
 
 class DocumentController;
 
-/// No untitled document is ever made, the last window's closing does not quit, and losing the active state without
-/// an open document does. Main thread only.
+/// No untitled document is ever made, the last window's closing does not quit, and losing the active state
+/// without an open document does. Main thread only.
 class AppDelegate {
  public:
   /// Ends the application; `sender` is whose event asked for it.

@@ -22,9 +22,11 @@ bool Document::canConcurrentlyReadDocumentsOfType(const QString&) {
   return true;
 }
 
-bool Document::readFromData(const std::optional<QByteArray>& data, const QString& ofType, DocumentError* error) const {
+bool Document::readFromData(const std::optional<QByteArray>& data, const QString& ofType,
+                            DocumentError* error) const {
   const QString domain = errorDomain();
-  if (!isAcceptedDocumentType(ofType)) throw UnimplementedMethod(QStringLiteral("readFromData:ofType:error:"));
+  if (!isAcceptedDocumentType(ofType))
+    throw UnimplementedMethod(QStringLiteral("readFromData:ofType:error:"));
   if (data) return true;
   if (error) *error = {domain, int(DocumentErrorCode::MissingData), localizedString("Bad data.")};
   return false;
@@ -49,6 +51,7 @@ void Document::revertDocumentToSaved() {
   std::optional<QByteArray> bytes;
   if (Result<QByteArray> file = readDocumentFile(fileURL_.toLocalFile())) bytes = std::move(*file);
   readFromData(bytes, fileType_);
+  emit reverted();
   if (!windowController_) return;
   windowController_->windowDidLoad();
   windowController_->display();

@@ -16,8 +16,9 @@ namespace norvex {
 
 class PictureService;
 
-/// One for every opened file. It keeps no picture: the window controller reads the file again when its window loads.
-/// Main thread only, but for readFromData(), which may run on any thread for several documents at once.
+/// One for every opened file. It keeps no picture: the window controller reads the file again when its window
+/// loads. Main thread only, but for readFromData(), which may run on any thread for several documents at
+/// once.
 class Document : public QObject {
   Q_OBJECT
  public:
@@ -28,10 +29,11 @@ class Document : public QObject {
   /// True for every type.
   [[nodiscard]] static bool canConcurrentlyReadDocumentsOfType(const QString& typeIdentifier);
 
-  /// Checks that the type is accepted and that there are bytes (zero of them are bytes; nothing is not). Stores
-  /// nothing. Throws UnimplementedMethod for an unaccepted type and then leaves `error` alone; otherwise false with
-  /// code 1 when `data` is absent. Touches no shared state.
-  bool readFromData(const std::optional<QByteArray>& data, const QString& ofType, DocumentError* error = nullptr) const;
+  /// Checks that the type is accepted and that there are bytes (zero of them are bytes; nothing is not).
+  /// Stores nothing. Throws UnimplementedMethod for an unaccepted type and then leaves `error` alone;
+  /// otherwise false with code 1 when `data` is absent. Touches no shared state.
+  bool readFromData(const std::optional<QByteArray>& data, const QString& ofType,
+                    DocumentError* error = nullptr) const;
 
   /// Makes the one window controller. Call once, after reading.
   void makeWindowControllers();
@@ -57,6 +59,8 @@ class Document : public QObject {
  signals:
   void closed(norvex::Document* document);
   void fileURLChanged();
+  /// revertDocumentToSaved() has read what is on disk now.
+  void reverted();
 
  private:
   /// Gives the controller its document, or takes it away.

@@ -36,7 +36,8 @@ struct DocumentController::Read {
   std::optional<OpenFailure> failure;
 };
 
-DocumentController::DocumentController(PictureService& service, DocumentWindowControllerFactory factory, QObject* parent)
+DocumentController::DocumentController(PictureService& service, DocumentWindowControllerFactory factory,
+                                       QObject* parent)
     : QObject(parent), service_(service), factory_(std::move(factory)) {}
 
 DocumentController::~DocumentController() {
@@ -85,10 +86,12 @@ DocumentController::Read DocumentController::readFile(const Document& document, 
   const QString type = identifyType(*bytes, url.fileName()).identifier();
   try {
     DocumentError error;
-    if (!document.readFromData(*bytes, type, &error)) return {{}, OpenFailure{url, error.recoverySuggestion, {}}};
+    if (!document.readFromData(*bytes, type, &error))
+      return {{}, OpenFailure{url, error.recoverySuggestion, {}}};
   } catch (const UnimplementedMethod& exception) {
-    return {{}, OpenFailure{url, localizedString("This is not an EPS, Illustrator, PDF or SVG picture."),
-                            exception.reason()}};
+    return {{},
+            OpenFailure{url, localizedString("This is not an EPS, Illustrator, PDF or SVG picture."),
+                        exception.reason()}};
   }
   return {type, {}};
 }

@@ -20,17 +20,19 @@ struct OpenFailure {
   QString detail;    ///< the reason of an exception, or empty
 };
 
-/// Reads files on worker threads, several at once, and makes their documents. Owns the documents. Main thread only.
+/// Reads files on worker threads, several at once, and makes their documents. Owns the documents. Main thread
+/// only.
 class DocumentController : public QObject {
   Q_OBJECT
  public:
   /// `service` and what `factory` refers to must outlive the controller.
-  DocumentController(PictureService& service, DocumentWindowControllerFactory factory, QObject* parent = nullptr);
+  DocumentController(PictureService& service, DocumentWindowControllerFactory factory,
+                     QObject* parent = nullptr);
   /// Waits for reads under way and destroys the documents.
   ~DocumentController() override;
 
-  /// Opens each file in a window of its own and returns at once. A file that is open already, by whatever name, is
-  /// brought to the front instead; one that is being read is not read twice.
+  /// Opens each file in a window of its own and returns at once. A file that is open already, by whatever
+  /// name, is brought to the front instead; one that is being read is not read twice.
   void openDocuments(const QList<QUrl>& urls);
 
   /// In the order in which they were opened.

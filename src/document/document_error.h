@@ -7,9 +7,10 @@ namespace norvex {
 
 /// Codes of the domain errorDomain().
 enum class DocumentErrorCode {
-  MissingData = 1,    ///< there were no bytes to read
-  UnacceptedType = 3, ///< reserved: an unaccepted type raises UnimplementedMethod before it could be delivered
-  NoDataProduced = 4, ///< reserved in the same way for writing
+  MissingData = 1,  ///< there were no bytes to read
+  UnacceptedType =
+      3,  ///< reserved: an unaccepted type raises UnimplementedMethod before it could be delivered
+  NoDataProduced = 4,  ///< reserved in the same way for writing
 };
 
 struct DocumentError {

@@ -8,8 +8,8 @@
 namespace norvex {
 
 const QStringList& acceptedDocumentTypes() {
-  static const QStringList types{NorvexEPSType, NorvexEPSIType, NorvexIllustratorType, UTTypePDF().identifier(),
-                                 UTTypeSVG().identifier()};
+  static const QStringList types{NorvexEPSType, NorvexEPSIType, NorvexIllustratorType,
+                                 UTTypePDF().identifier(), UTTypeSVG().identifier()};
   return types;
 }
 

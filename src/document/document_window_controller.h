@@ -1,5 +1,5 @@
-// The seam between a document and its window: so that documents live and are tested without widgets, and so that
-// nothing in this folder includes a window's header.
+// The seam between a document and its window: so that documents live and are tested without widgets, and so
+// that nothing in this folder includes a window's header.
 #pragma once
 
 #include <functional>
@@ -14,8 +14,8 @@ class DocumentWindowController {
  public:
   virtual ~DocumentWindowController() = default;
 
-  /// The document that the controller belongs to; null when it is being removed. Not owned. Called before the window
-  /// is loaded: file location, type and picture service are the document's.
+  /// The document that the controller belongs to; null when it is being removed. Not owned. Called before the
+  /// window is loaded: file location, type and picture service are the document's.
   virtual void setDocument(Document* document) = 0;
   /// With true, closing the window calls Document::close().
   virtual void setShouldCloseDocument(bool close) = 0;

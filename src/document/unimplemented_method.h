@@ -8,8 +8,8 @@
 
 namespace norvex {
 
-/// Ends the operation that raises it. Whoever runs the operation in the window's name (Application, the document
-/// controller) turns it into a plain sentence; nothing else catches it.
+/// Ends the operation that raises it. Whoever runs the operation in the window's name (Application, the
+/// document controller) turns it into a plain sentence; nothing else catches it.
 class UnimplementedMethod final : public std::exception {
  public:
   /// `operation` in its original form, colons and all: "readFromData:ofType:error:".

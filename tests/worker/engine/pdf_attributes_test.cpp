@@ -1,0 +1,60 @@
+#include "kit/test_main.h"
+#include "worker/engine/engine.h"
+#include "worker/engine/made_pdf.h"
+#include "worker/engine/pdf_facts.h"
+
+using namespace norvex;
+using namespace norvex::engine;
+using kit::onePage;
+
+namespace {
+
+PictureFacts factsOf(const QByteArray& pdf) {
+  EngineContext context;
+  auto engine = openPdf(pdf, context);
+  return engine ? *(*engine)->facts() : PictureFacts();
+}
+
+}  // namespace
+
+class PdfAttributesTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void exactlyTheGivenOnesAreSet() {
+    const QByteArray old = onePage("", "/MediaBox [0 0 31 41]",
+                                   {"<< /Title (Old) /Keywords (gone) /CreationDate (D:1999) >>"}, "/Info 5 0 R");
+    const QHash<QString, QString> attributes{{"Title", QString::fromUtf8("Über 日本 (x)")},
+                                             {"Author", "A"}, {"Subject", ""}, {"Producer", "P"}, {"Creator", "C 1.0"}};
+    const QDateTime date(QDate(2024, 2, 3), QTime(4, 5, 6), Qt::OffsetFromUTC, 3600);
+    const auto changed = setPdfAttributes(old, attributes, date);
+    QVERIFY(changed.ok());
+    const PictureFacts facts = factsOf(*changed);
+    QCOMPARE(facts.attributes, attributes);
+    QCOMPARE(facts.creationDate, std::optional(date));
+    QCOMPARE(facts.pageBounds, QList<QRectF>{QRectF(0, 0, 31, 41)});
+    QVERIFY(!changed->contains("gone"));
+  }
+
+  void withoutADateThereIsNone() {
+    const auto changed = setPdfAttributes(onePage(""), {{"Title", "T"}}, std::nullopt);
+    QVERIFY(changed.ok());
+    QVERIFY(!factsOf(*changed).creationDate);
+  }
+
+  void everythingElseStays() {
+    const QByteArray pdf = onePage("1 0 0 rg 0 0 9 9 re f", "/MediaBox [0 0 9 9] /Rotate 90 /Marker (kept)");
+    const auto changed = setPdfAttributes(pdf, {}, std::nullopt);
+    QVERIFY(changed.ok());
+    QVERIFY(changed->contains("kept"));
+    QVERIFY(factsOf(*changed).attributes.isEmpty());
+  }
+
+  void whatIsNoPdfIsAnError() {
+    const auto changed = setPdfAttributes("no PDF", {}, std::nullopt);
+    QVERIFY(!changed.ok());
+    QCOMPARE(changed.error().kind, ErrorKind::NotParsable);
+  }
+};
+
+NORVEX_TEST(PdfAttributesTest)
+#include "pdf_attributes_test.moc"

@@ -18,6 +18,7 @@
 #include "worker/engine/svg_pretty.h"
 #include "worker/engine/svg_renderer.h"
 #include "worker/engine/svg_text.h"
+#include "worker/engine/whole_page.h"
 #include "worker/limits.h"
 
 namespace norvex::engine {
@@ -132,9 +133,16 @@ Result<QImage> SvgEngine::render(const RenderRequest& request) {
   });
 }
 
+// Counted are the elements whose own attributes ask for an effect; what style sheets ask for is not seen here.
 BytesReply SvgEngine::pdfReport() const {
   BytesReply report;
   report.regionsRasterised = inspection_.filters + inspection_.masks;
+  if (inspection_.filters > 0)
+    report.warnings << QStringLiteral("What is drawn through a filter (%1 elements) is held as an image.")
+                           .arg(inspection_.filters);
+  if (inspection_.masks > 0)
+    report.warnings << QStringLiteral("The masks (%1 elements) are held as images; what they mask is not.")
+                           .arg(inspection_.masks);
   return report;
 }
 
@@ -153,15 +161,12 @@ Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
 Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {
   Result<EngineBytes> whole = pdf({request.page});
   if (!whole) return whole;
-  Result<QByteArray> placed = composePdf(whole->bytes, request);
-  if (!placed) return placed.error();
-  if (request.format == VectorFormat::Pdf) return EngineBytes{std::move(*placed), whole->report};
-  Result<EngineBytes> eps = epsFromPdf(*placed, context_);
-  if (eps) {
-    eps->report.regionsRasterised += whole->report.regionsRasterised;
-    eps->report.warnings = whole->report.warnings + eps->report.warnings;
+  Result<EngineBytes> composed = composePage(whole->bytes, request, context_);
+  if (composed) {
+    composed->report.regionsRasterised += whole->report.regionsRasterised;
+    composed->report.warnings = whole->report.warnings + composed->report.warnings;
   }
-  return eps;
+  return composed;
 }
 
 Result<EngineBytes> SvgEngine::svg(const SvgRequest& request) {

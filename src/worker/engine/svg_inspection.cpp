@@ -120,7 +120,8 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
     return stop(ErrorKind::Limit,
                 QStringLiteral("the document has more than %1 elements").arg(limits::maximumXmlElements));
   if (depth_ > kOrdinaryDepth) found_.needsHugeParser = true;
-  const bool svg = uri == QLatin1String(kSvgNamespace);
+  // Documents from before the namespace was agreed upon have none; librsvg draws them too.
+  const bool svg = uri == QLatin1String(kSvgNamespace) || uri.isEmpty();
   if (depth_ == 1) {
     if (!svg || name != QLatin1String("svg"))
       return stop(ErrorKind::NotParsable, QStringLiteral("the document is XML but not SVG"));
@@ -225,6 +226,7 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
   // HUGE lifts libxml2's fixed bounds; ours are checked above instead. Neither the network, nor the external DTD
   // subset, nor any external entity is ever loaded; and the text is UTF-8 whatever its declaration says.
   xmlCtxtUseOptions(parser_.get(), XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_IGNORE_ENC);
+  parser_->replaceEntities = 1;  // in attribute values too; the option of that name would load external entities
   xmlParseDocument(parser_.get());
   if (error_) return *error_;
   if (parser_->wellFormed == 0) return parserError();

@@ -2,60 +2,67 @@
 
 #include <cairo-pdf.h>
 
-#ifndef POINTERHOLDER_TRANSITION
-#define POINTERHOLDER_TRANSITION 4  // qpdf asks which smart pointers its caller means: the standard ones alone
-#endif
-#include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
 
 #include <algorithm>
 #include <cmath>
 #include <exception>
 #include <memory>
+#include <string>
 
 #include "worker/engine/cairo_surface.h"
+#include "worker/engine/pdf_writing.h"
 #include "worker/engine/svg_length.h"
 
 namespace norvex::engine {
 namespace {
 
-constexpr double kEffectsPerInch = 300;   // resolution of filters and masks
-constexpr double kEffectPixels = 16.0e6;  // and how large one of their images may be at most
+constexpr double kUnitsPerInch = 300;
+constexpr double kEffectPixels = 16.0e6;  // how large an image of a filter or a mask may be at most
 
 cairo_status_t append(void* bytes, const unsigned char* data, unsigned int length) {
   static_cast<QByteArray*>(bytes)->append(reinterpret_cast<const char*>(data), qsizetype(length));
   return CAIRO_STATUS_SUCCESS;
 }
 
-/// librsvg makes the images of filters and masks one pixel a unit of the target. A recording in finer units, replayed
-/// smaller, keeps all vectors and gives those images the resolution that they need.
-Result<void> drawFinely(cairo_t* page, const SvgRenderer& renderer, const QSizeF& pixels) {
-  const double scale = std::min(kEffectsPerInch / 96.0, std::sqrt(kEffectPixels / (pixels.width() * pixels.height())));
-  const cairo_rectangle_t extents{0, 0, pixels.width() * scale, pixels.height() * scale};
-  const CairoSurface recording(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
-  {
-    const CairoContext context(cairo_create(recording.get()));
-    cairo_scale(context.get(), scale, scale);
-    if (Result<void> drawn = renderer.draw(context.get(), pixels); !drawn) return drawn;
-  }
-  cairo_scale(page, 1 / scale, 1 / scale);
-  cairo_set_source_surface(page, recording.get(), 0, 0);
-  cairo_paint(page);
-  return {};
+/// librsvg places glyphs, and makes the images of filters and masks, in whole units of the target. The page is drawn
+/// larger for their sake; fitPage() makes it small again.
+double drawingScale(const QSizeF& pixels, bool hasImageEffects) {
+  const double fine = kUnitsPerInch / 72;
+  if (!hasImageEffects) return fine;
+  const double area = pixels.width() * pixels.height() * pointsPerPixel * pointsPerPixel;
+  return std::min(fine, std::sqrt(kEffectPixels / area));
 }
 
-Result<QByteArray> withoutInformation(const QByteArray& pdf) {
+/// The drawing becomes a form on a page of the right size: unlike a scaled page, a form takes its patterns with it.
+/// cairo's document information, which holds the time of day, is dropped.
+void fitPage(QPDF& document, double width, double height, double scale) {
+  QPDFPageObjectHelper page(document.getAllPages().at(0));
+  const QPDFObjectHandle drawing = page.getFormXObjectForPage();
+  const std::string small = QByteArray::number(1 / scale, 'f', 9).toStdString();
+  QPDFObjectHandle objects = QPDFObjectHandle::newDictionary();
+  objects.replaceKey("/Drawing", drawing);
+  QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
+  resources.replaceKey("/XObject", objects);
+  // A new page: the form reads the old one's contents when the file is written.
+  QPDFObjectHandle shown = document.makeIndirectObject(QPDFObjectHandle::newDictionary());
+  shown.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+  shown.replaceKey("/MediaBox", boxAtOrigin(width, height));
+  shown.replaceKey("/Resources", resources);
+  shown.replaceKey("/Contents", QPDFObjectHandle::newStream(
+                                    &document, "q " + small + " 0 0 " + small + " 0 0 cm /Drawing Do Q\n"));
+  keepOnlyPage(document, shown);
+}
+
+Result<QByteArray> rewritten(const QByteArray& pdf, const QSizeF& pixels, double scale) {
   try {
     QPDF document;
+    document.setSuppressWarnings(true);
     document.processMemoryFile("picture", pdf.constData(), size_t(pdf.size()));
-    document.getTrailer().removeKey("/Info");
-    QPDFWriter writer(document);
-    writer.setOutputMemory();
-    writer.setDeterministicID(true);
-    writer.write();
-    const std::shared_ptr<Buffer> written = writer.getBufferSharedPointer();
-    return QByteArray(reinterpret_cast<const char*>(written->getBuffer()), qsizetype(written->getSize()));
+    fitPage(document, pixels.width() * pointsPerPixel, pixels.height() * pointsPerPixel, scale);
+    return writePdf(document);
   } catch (const std::exception&) {
     return Error{ErrorKind::Unsupported, QStringLiteral("the picture cannot be written as PDF")};
   }
@@ -64,21 +71,21 @@ Result<QByteArray> withoutInformation(const QByteArray& pdf) {
 }  // namespace
 
 Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, bool hasImageEffects) {
+  const double scale = drawingScale(pixels, hasImageEffects);
+  const double units = pointsPerPixel * scale;
   QByteArray bytes;
-  const CairoSurface surface(cairo_pdf_surface_create_for_stream(
-      append, &bytes, pixels.width() * pointsPerPixel, pixels.height() * pointsPerPixel));
+  const CairoSurface surface(cairo_pdf_surface_create_for_stream(append, &bytes, pixels.width() * units,
+                                                                 pixels.height() * units));
   {
     const CairoContext page(cairo_create(surface.get()));
-    cairo_scale(page.get(), pointsPerPixel, pointsPerPixel);
-    const Result<void> drawn =
-        hasImageEffects ? drawFinely(page.get(), renderer, pixels) : renderer.draw(page.get(), pixels);
-    if (!drawn) return drawn.error();
+    cairo_scale(page.get(), units, units);
+    if (const Result<void> drawn = renderer.draw(page.get(), pixels); !drawn) return drawn.error();
     cairo_show_page(page.get());
   }
   cairo_surface_finish(surface.get());
   if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS)
     return Error{ErrorKind::Unsupported, QStringLiteral("the picture cannot be written as PDF")};
-  return withoutInformation(bytes);
+  return rewritten(bytes, pixels, scale);
 }
 
 }  // namespace norvex::engine

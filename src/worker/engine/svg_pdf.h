@@ -11,7 +11,7 @@ namespace norvex::engine {
 
 /// A page of exactly the picture's size in points. Vectors stay vectors and text stays text; what is drawn through a
 /// filter or a mask becomes an image, and `hasImageEffects` says that there is such a thing. The same picture gives
-/// the same bytes: the file has no document information at all.
+/// the same bytes.
 [[nodiscard]] Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, bool hasImageEffects);
 
 }  // namespace norvex::engine

@@ -142,8 +142,9 @@ DocumentServer::Answer DocumentServer::serve(const AttributesRequest& request, F
   return answerOf(engine::EngineBytes{*bytes, {}});
 }
 
-DocumentServer::Answer DocumentServer::answerOf(Result<engine::EngineBytes> bytes) {
+DocumentServer::Answer DocumentServer::answerOf(Result<engine::EngineBytes> bytes) const {
   if (!bytes) return {bytes.error(), {}};
+  if (bytes->bytes.size() > qsizetype(context_.limits.memoryMiB) << 20) return {noMemory(), {}};
   Result<FileDescriptor> memory = SealedMemory::seal(bytes->bytes);
   if (!memory) return {memory.error(), {}};
   return {std::move(bytes->report), std::move(*memory)};

@@ -276,6 +276,19 @@ class WorkerServiceTest : public QObject {
     QCOMPARE(facts->title, QString());
   }
 
+  void aDocumentHoldsNothingForeign() {
+    const auto other = service_->open("ok", PictureKind::Pdf);
+    QVERIFY(other->facts().ok());
+    QVERIFY(service_->decodePreview("abc").ok());
+    const auto facts = service_->open("ok", PictureKind::Pdf)->facts();
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QVERIFY(facts->attributes.value("descriptors").endsWith("3=socket"));
+#else
+    QCOMPARE(facts->attributes.value("descriptors"), QString("0=/dev/null 1=/dev/null 2=/dev/null 3=socket"));
+#endif
+    QCOMPARE(facts->attributes.value("group"), QString("1"));
+  }
+
   void theWarmProgramIsReplacedWhenItDies() {
     const auto process = service_->open("ok", PictureKind::Pdf);
     QVERIFY(process->facts().ok());

@@ -25,7 +25,7 @@ constexpr int kControl = 3;  ///< where the program expects its connection
 constexpr int kAboveStandard =
     10;  ///< our own number of it must not be one that the program's start overwrites
 constexpr qint64 kFarewell = 2000;  ///< milliseconds that the program has to clean up after itself
-constexpr qint64 kSlice = 20;       ///< milliseconds that one waiting thread may hold the others up
+constexpr unsigned kPause = 1000;   ///< microseconds between two looks for an answer
 
 Error notStarted() {
   return {ErrorKind::Died, QStringLiteral("the program that reads pictures could not be started")};
@@ -173,25 +173,30 @@ Result<WorkerStarter::Ticket> WorkerStarter::request(const ForkRequest& request,
 
 Result<StartedProcess> WorkerStarter::take(const Ticket& ticket, QDeadlineTimer deadline) {
   while (true) {
-    const std::lock_guard lock(mutex_);
-    if (ticket.run != run_) return notAnswered();
+    Result<StartedProcess> process = takeNow(ticket);
+    if (process || process.error().kind != ErrorKind::TimedOut || deadline.hasExpired()) return process;
+    // Not under the lock: another thread may want to open a document, and the window must not wait for this.
+    ::usleep(kPause);
+  }
+}
+
+Result<StartedProcess> WorkerStarter::takeNow(const Ticket& ticket) {
+  const std::lock_guard lock(mutex_);
+  while (ticket.run == run_) {
     if (auto found = answered_.find(ticket.number); found != answered_.end()) {
       Result<StartedProcess> process = std::move(found->second);
       answered_.erase(found);
       return process;
     }
-    const QDeadlineTimer slice(kSlice);
-    Result<ChannelMessage> message = control_.receive(std::min(slice, deadline));
-    if (message) {
-      const Result<WorkerReply> reply = decodeReply(message->cbor);
-      if (!reply) return stopLocked(), notAnswered();
+    Result<ChannelMessage> message = control_.receive(QDeadlineTimer(0));
+    if (!message && message.error().kind == ErrorKind::TimedOut) return message.error();
+    const Result<WorkerReply> reply = message ? decodeReply(message->cbor) : message.error();
+    if (reply)
       keep(*reply, std::move(message->descriptor));
-    } else if (message.error().kind != ErrorKind::TimedOut) {
-      return stopLocked(), notAnswered();
-    } else if (deadline.hasExpired()) {
-      return message.error();
-    }
+    else
+      stopLocked();  // and with it this run
   }
+  return notAnswered();
 }
 
 void WorkerStarter::keep(const WorkerReply& reply, FileDescriptor descriptor) {

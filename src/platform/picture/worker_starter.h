@@ -58,6 +58,7 @@ class WorkerStarter {
   Result<void> startLocked();
   void stopLocked();
   [[nodiscard]] bool runs() const;
+  Result<StartedProcess> takeNow(const Ticket& ticket);
   void keep(const WorkerReply& reply, FileDescriptor descriptor);
 
   const QString program_;

@@ -36,6 +36,18 @@ void litter(const QString& folder) {
   }
 }
 
+/// What is open in this process, by number and what it leads to.
+QString descriptors() {
+  QStringList all;
+  for (int fd = 0; fd < 1024; ++fd) {
+    char target[256] = {};
+    const QByteArray link = "/proc/self/fd/" + QByteArray::number(fd);
+    if (::readlink(link.constData(), target, sizeof target - 1) > 0)
+      all << QStringLiteral("%1=%2").arg(fd).arg(QString::fromLatin1(target).section(':', 0, 0));
+  }
+  return all.join(' ');
+}
+
 void beget() {
   if (::fork() == 0) hang();
 }
@@ -53,6 +65,8 @@ class StubEngine final : public engine::DocumentEngine {
     facts.pageBounds << QRectF(0, 0, width, words.value(2, "50").toDouble());
     facts.title = QString::fromLatin1(qgetenv("NORVEX_STUB_CANARY"));
     facts.description = context_.scratchFolder;
+    facts.attributes = {{"descriptors", descriptors()},
+                        {"group", QString::number(::getpgrp() == ::getpid())}};
     facts.warnings << QStringLiteral("a \x1b[31mwarning\nwith colour");
     return facts;
   }

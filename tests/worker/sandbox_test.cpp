@@ -1,0 +1,90 @@
+#include "worker/sandbox.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+
+#include <cerrno>
+
+#include "forked_check.h"
+#include "kit/test_main.h"
+
+using namespace norvex;
+using namespace norvex::kit;
+
+namespace {
+
+/// Runs the check after the process has been confined with 64 MiB and 1 megapixel; 100: it could not be.
+int inSandbox(const std::function<int()>& check) {
+  return inForkedChild([&] {
+    return enterSandbox(PictureLimits{10, 64, 1}, "/nonexistent/scratch") ? check() : 100;
+  });
+}
+
+rlim_t limitOf(__rlimit_resource resource) {
+  rlimit limit = {};
+  ::getrlimit(resource, &limit);
+  return limit.rlim_cur == limit.rlim_max ? limit.rlim_max : RLIM_INFINITY;  // both or it is none
+}
+
+}  // namespace
+
+class SandboxTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void noNewPrivileges() {
+    QCOMPARE(inSandbox([] { return ::prctl(PR_GET_NO_NEW_PRIVS, 0, 0, 0, 0); }), 1);
+  }
+
+  void noCoreFilesAndFewDescriptors() {
+    QCOMPARE(inSandbox([] { return int(limitOf(RLIMIT_CORE)); }), 0);
+    QCOMPARE(inSandbox([] { return int(limitOf(RLIMIT_NOFILE)); }), 128);
+    QCOMPARE(inSandbox([] { return ::fcntl(0, F_DUPFD, 128) < 0 ? errno : 0; }), EINVAL);
+  }
+
+  void limitsCannotBeRaisedAgain() {
+    if (::geteuid() == 0) QSKIP("the superuser may");
+    QCOMPARE(inSandbox([] {
+               const rlimit more = {4096, 4096};
+               return ::setrlimit(RLIMIT_NOFILE, &more) == 0 ? 0 : errno;
+             }),
+             EPERM);
+  }
+
+  void aFileThatIsTooLargeIsAnErrorNotADeath() {
+    QCOMPARE(inSandbox([] { return limitOf(RLIMIT_FSIZE) == 64u << 20 ? 1 : 0; }), 1);
+    QCOMPARE(inSandbox([] {
+               const int fd = ::memfd_create("large", MFD_CLOEXEC);
+               return ::ftruncate(fd, (64 << 20) + 1) == 0 ? 0 : errno;
+             }),
+             EFBIG);
+  }
+
+  void largeBitmapsFitIntoTheFileLimit() {
+    const int fits = inForkedChild([] {
+      if (!enterSandbox(PictureLimits{10, 64, 100}, "/nonexistent")) return 100;
+      return limitOf(RLIMIT_FSIZE) >= 400'000'000u ? 1 : 0;
+    });
+    QCOMPARE(fits, 1);
+  }
+
+  void memoryBeyondTheLimitIsRefused() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers need more address space than any limit");
+#endif
+    const auto map = [](size_t mebibytes) {
+      return ::mmap(nullptr, mebibytes << 20, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) !=
+             MAP_FAILED;
+    };
+    QCOMPARE(inSandbox([&] { return map(48) ? 1 : 0; }), 1);
+    QCOMPARE(inSandbox([&] { return map(80) ? 1 : 0; }), 0);
+  }
+
+  void temporaryFilesGoToTheScratchFolder() {
+    QCOMPARE(inSandbox([] { return qgetenv("TMPDIR") == "/nonexistent/scratch" ? 1 : 0; }), 1);
+  }
+};
+
+NORVEX_TEST(SandboxTest)
+#include "sandbox_test.moc"

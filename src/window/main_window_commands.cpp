@@ -6,6 +6,8 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMessageBox>
+#include <QToolBar>
+#include <QToolButton>
 
 #include "display/norvex_view.h"
 #include "document/document.h"
@@ -72,6 +74,7 @@ void MainWindowController::connectCommands() {
   on(inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9}, [this] { showInspectorWindow(inspectorToolbarItem); });
   on(ui_->fullScreenAction, {Qt::Key_F11}, [this](bool checked) { toggleFullScreen(checked); });
   on(ui_->aboutAction, {}, [this] { showAbout(); });
+  arrangeToolbar();
   inspectorToolbarItem->setIcon(symbolicIcon(Symbol::Inspector));
   copyToolbarItem->setIcon(symbolicIcon(Symbol::Copy));
   doPrintingToolbarItem->setIcon(symbolicIcon(Symbol::Print));
@@ -81,6 +84,14 @@ void MainWindowController::connectCommands() {
   ui_->fitAction->setIcon(symbolicIcon(Symbol::Fit));
   ui_->rotateLeftAction->setIcon(symbolicIcon(Symbol::RotateLeft));
   ui_->rotateRightAction->setIcon(symbolicIcon(Symbol::RotateRight));
+}
+
+void MainWindowController::arrangeToolbar() {
+  auto* gap = new QWidget(ui_->toolbar);
+  gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  ui_->toolbar->insertWidget(inspectorToolbarItem, gap);
+  for (QAction* action : {ui_->zoomOutAction, ui_->zoomInAction, ui_->fitAction, ui_->rotateLeftAction, ui_->rotateRightAction})
+    if (auto* button = qobject_cast<QToolButton*>(ui_->toolbar->widgetForAction(action))) button->setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
 bool MainWindowController::validateUserInterfaceItem() const { return view() && view()->imageRep() != nullptr; }

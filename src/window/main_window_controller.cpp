@@ -10,6 +10,7 @@
 #include "platform/qt/loading_card.h"
 #include "platform/qt/message_bar.h"
 #include "platform/qt/norvex_view_widget.h"
+#include "platform/qt/window_style.h"
 #include "platform/qt/zooming_scroll_area.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_reading.h"
@@ -42,6 +43,8 @@ void MainWindowController::loadWindow() {
   ui_ = std::make_unique<Ui::MainWindowController>();
   ui_->setupUi(nib_.get());
   takeOutlets();
+  window_->setStyleSheet(windowStyleSheet());
+  inspectorWindow->setStyleSheet(windowStyleSheet());
   window_->installEventFilter(this);
   inspectorWindow->installEventFilter(this);
   messageBar_ = new MessageBar(scrollArea_);

@@ -145,6 +145,7 @@ class MainWindowController final : public QObject,
   // main_window_commands.cpp
   void connectControls();
   void connectCommands();
+  void arrangeToolbar();
   void validateCommands();
   void rotateBy(double degrees);
   void showAbout();
@@ -162,7 +163,7 @@ class MainWindowController final : public QObject,
 
   QPointer<Document> document_;
   bool shouldCloseDocument_ = false;
-  bool framePlaced_ = false, observing_ = false;
+  bool inspectorPlaced_ = false, observing_ = false;
   AlertPresenter* alerts_ = nullptr;
 
   std::unique_ptr<QWidget> nib_;  ///< what the interface file makes; its windows become windows of their own

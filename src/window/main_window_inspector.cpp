@@ -31,7 +31,7 @@ void MainWindowController::showInspectorWindow(QObject*) {
 
 void MainWindowController::placeInspector() {
   // Once it was shown the user decides where it is.
-  if (inspectorWindow->testAttribute(Qt::WA_Moved)) return;
+  if (std::exchange(inspectorPlaced_, true)) return;
   const QRect beside = window_->frameGeometry();
   const QRect screen = window_->screen()->availableGeometry();
   QSize size = inspectorWindow->size().boundedTo(screen.size() - QSize(0, 48));

@@ -64,7 +64,10 @@ void MainWindowController::setWindowSize() {
   const WindowSize rule = windowSize(measures, viewSize, zoomFactor_);
   // This platform's maximum counts the toolbar, the rule's does not.
   window_->setMaximumSize(limited(rule.maximum.width()), limited(rule.maximum.height() + measures.toolbarHeight));
-  if (rule.frame != measures.frame && !window_->isMaximized()) window_->setGeometry(onScreen(rule.frame));
+  if (rule.frame == measures.frame || window_->isMaximized()) return;
+  // Before the window is on the screen its place is the window manager's to choose.
+  if (window_->isVisible()) window_->setGeometry(onScreen(rule.frame));
+  else window_->resize(onScreen(rule.frame).size());
 }
 
 void MainWindowController::restoreFrame() {

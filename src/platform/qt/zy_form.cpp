@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "platform/qt/fact_field.h"
 #include "platform/qt/quiet_text.h"
 
 namespace norvex {
@@ -14,7 +15,7 @@ namespace norvex {
 ZyForm::ZyForm(QWidget* parent) : QWidget(parent), layout_(new QGridLayout(this)) {
   layout_->setContentsMargins(0, 0, 0, 0);
   layout_->setHorizontalSpacing(10);
-  layout_->setVerticalSpacing(2);
+  layout_->setVerticalSpacing(4);
   layout_->setColumnStretch(1, 1);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   addRow();
@@ -24,12 +25,7 @@ void ZyForm::addRow() {
   auto* title = new QLabel(this);
   title->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   title->setTextFormat(Qt::PlainText);
-  auto* entry = new QLineEdit(this);
-  entry->setReadOnly(true);
-  entry->setFrame(false);
-  entry->setAutoFillBackground(false);
-  entry->setStyleSheet(QStringLiteral("QLineEdit { background: transparent; padding: 0; border: none; }"));
-  entry->setMinimumWidth(40);
+  auto* entry = new FactField(this);
   title->setBuddy(entry);
   const int row = rowCount();
   layout_->addWidget(title, row, 0);

@@ -8,6 +8,22 @@ constexpr char kEnd[] =
     "\nExit codes: 0 all done, 1 some file failed, 2 wrong usage, 3 cannot read or parse,\n"
     "4 cannot write, 5 a limit was reached, 6 no sandbox could be set up, 130 interrupted.\n";
 
+/// `help` beside a column of names, broken at blanks so that lines stay narrow.
+QString besideNames(const QString& names, int column, const QString& help) {
+  constexpr int widest = 96;
+  QString text = QStringLiteral("  %1").arg(names, -column);
+  qsizetype used = text.size();
+  for (const QString& word : help.split(QLatin1Char(' '))) {
+    if (used + 1 + word.size() > widest) {
+      text += QLatin1Char('\n') + QString(column + 2, QLatin1Char(' '));
+      used = column + 2;
+    }
+    text += QLatin1Char(' ') + word;
+    used += 1 + word.size();
+  }
+  return text + QLatin1Char('\n');
+}
+
 QString usageOf(const CommandRow& row) {
   QString line = QStringLiteral("norvex");
   if (*row.name) line += QLatin1Char(' ') + QLatin1String(row.name);
@@ -26,7 +42,7 @@ QString optionLines(Command command) {
   for (const OptionRow& row : optionsOf(command)) {
     QString help = QLatin1String(row.help);
     if (row.choices) help += QStringLiteral(" (%1)").arg(QString::fromLatin1(row.choices).replace(' ', ", "));
-    lines += QStringLiteral("  %1 %2\n").arg(formsOf(row), -24).arg(help);
+    lines += besideNames(formsOf(row), 24, help);
   }
   return lines;
 }
@@ -44,8 +60,7 @@ QString helpText(Command command) {
   text = QStringLiteral(
       "Norvex shows EPS, Illustrator, PDF and SVG pictures and hands out parts of them as vectors.\n\n");
   text += QStringLiteral("Usage:\n");
-  for (const CommandRow& row : commandTable())
-    text += QStringLiteral("  %1 %2\n").arg(usageOf(row), -28).arg(QLatin1String(row.help));
+  for (const CommandRow& row : commandTable()) text += besideNames(usageOf(row), 28, QLatin1String(row.help));
   text += optionLines(command);
   text += QStringLiteral("\nnorvex COMMAND --help shows the options of a command.\n");
   return text + QLatin1String(kEnd);

@@ -1,0 +1,123 @@
+// `norvex source` and `norvex preview`.
+#include <QImage>
+
+#include "cli/cli_files.h"
+#include "kit/test_main.h"
+#include "metadata/header_dictionary.h"
+#include "metadata/text_encoding.h"
+
+using namespace norvex;
+using namespace norvex::testdata;
+
+class SourceTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void anEpsIsWrittenAsItStands() {
+    CommandLine line;
+    QCOMPARE(line.run({"source", line.write("a.eps", kEps)}), 0);
+    QCOMPARE(line.console.output, kEps);
+    QCOMPARE(line.service.openCount(), 0);
+  }
+
+  void everyEncodingComesOutAsUtf8() {
+    CommandLine line;
+    const QString text = QString::fromLatin1(kEps) + QString::fromUtf8("% 日本語テスト\n");
+    for (const qint64 number : {encoding::Utf8, encoding::Utf16, encoding::EucJp, encoding::ShiftJis}) {
+      QCOMPARE(line.run({"source", line.write("a.eps", encodeText(text, number).value())}), 0);
+      QCOMPARE(QString::fromUtf8(line.console.output), text);
+    }
+  }
+
+  void anSvgIsWrittenIndented() {
+    MemoryPicture picture;
+    picture.facts.encodingNumber = 4;
+    picture.svg = [](const SvgRequest& request) {
+      return QByteArray(request.pretty ? "<svg>\n  <g/>\n</svg>\n" : "cut");
+    };
+    CommandLine line;
+    line.service.setPicture(picture);
+    QCOMPARE(line.run({"source", line.write("a.svg", kSvg)}), 0);
+    QCOMPARE(line.console.output, QByteArray("<svg>\n  <g/>\n</svg>\n"));
+  }
+
+  void aPdfHasNone() {
+    CommandLine line;
+    const QString file = line.write("a.pdf", kPdf);
+    QCOMPARE(line.run({"source", file}), 1);
+    QCOMPARE(line.console.messages, QString("norvex: %1: a PDF has no source text\n").arg(file));
+    QVERIFY(line.console.output.isEmpty());
+  }
+
+  void undecodableTextIsNotWrittenInPart() {
+    CommandLine line;
+    const QString file = line.write("a.eps", kEps + "\xFF\x80");
+    QCOMPARE(line.run({"source", file}), 3);
+    QCOMPARE(line.console.messages,
+             QString("norvex: %1: the text is in no encoding that is known\n").arg(file));
+    QVERIFY(line.console.output.isEmpty());
+  }
+
+  void aFailingPictureProcessIsTold() {
+    CommandLine line;
+    line.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Svg, {ErrorKind::Died, "the picture process ended"});
+    });
+    const QString file = line.write("a.svg", kSvg);
+    QCOMPARE(line.run({"source", file}), 3);
+    QCOMPARE(line.console.messages, QString("norvex: %1: the picture process ended\n").arg(file));
+  }
+
+  void aTerminalIsNotCommanded() {
+    CommandLine line;
+    line.console.terminal = true;
+    QCOMPARE(line.run({"source", line.write("a.eps", "%!PS-Adobe-3.0 EPSF-3.0\n\x1B[31m\n")}), 0);
+    QCOMPARE(line.console.output, QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n\\x1b[31m\n"));
+  }
+
+  void thePreviewIsWrittenAsGreyPng() {
+    CommandLine line;
+    const QString file = line.write("a.epsi", kEpsi);
+    QCOMPARE(line.run({"preview", file, "-o", line.path("out.png")}), 0);
+    const QImage image = QImage::fromData(line.contents("out.png"), "PNG");
+    QCOMPARE(image.size(), QSize(8, 2));
+    QVERIFY(image.isGrayscale());
+    QCOMPARE(image.pixel(3, 0), qRgb(0, 0, 0));
+    QCOMPARE(image.pixel(3, 1), qRgb(255, 255, 255));
+  }
+
+  void thePreviewGoesToStandardOutput() {
+    CommandLine line;
+    const QString file = line.write("a.epsi", kEpsi);
+    QCOMPARE(line.run({"preview", file, "--output", "-"}), 0);
+    QCOMPARE(QImage::fromData(line.console.output, "PNG").size(), QSize(8, 2));
+    line.console.terminal = true;
+    QCOMPARE(line.run({"preview", file, "-o", "-"}), 4);
+    QVERIFY(line.console.output.isEmpty());
+  }
+
+  void aFileIsNotOverwrittenUnlessForced() {
+    CommandLine line;
+    const QString file = line.write("a.epsi", kEpsi);
+    const QString out = line.write("out.png", "old");
+    QCOMPARE(line.run({"preview", file, "-o", out}), 4);
+    QCOMPARE(line.contents("out.png"), QByteArray("old"));
+    QCOMPARE(line.console.messages, QString("norvex: %1: the file exists already\n").arg(out));
+    QCOMPARE(line.run({"preview", file, "-o", out, "--force"}), 0);
+    QVERIFY(line.contents("out.png").startsWith("\x89PNG"));
+    QCOMPARE(line.entries(), QStringList({"a.epsi", "out.png"}));
+  }
+
+  void aFileWithoutPreviewEndsWithOneAndWritesNothing() {
+    CommandLine line;
+    for (const QString& file :
+         {line.write("a.eps", kEps), line.write("a.pdf", kPdf), line.write("a.svg", kSvg)}) {
+      QCOMPARE(line.run({"preview", file, "-o", line.path("out.png")}), 1);
+      QCOMPARE(line.console.messages, QString("norvex: %1: there is no embedded preview\n").arg(file));
+    }
+    QVERIFY(!line.entries().contains("out.png"));
+    QCOMPARE(line.service.openCount(), 0);
+  }
+};
+
+NORVEX_TEST(SourceTest)
+#include "source_test.moc"

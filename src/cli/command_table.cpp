@@ -10,29 +10,37 @@ const QList<CommandRow>& commandTable() {
       {Command::Info, "info", "FILE...", 1, -1, "show what is known about the files: header, boxes, pages"},
       {Command::Source, "source", "FILE", 1, 1, "write the decoded source text to standard output"},
       {Command::Preview, "preview", "FILE -o OUT", 1, 1, "write the embedded preview as PNG"},
+      {Command::Convert, "convert", "FILE... (-o OUT | --to DIR)", 1, -1, "write the pictures in another format"},
   };
   return rows;
 }
 
 const QList<OptionRow>& optionTable() {
-  static const QList<Command> every{Command::Main, Command::Info, Command::Source, Command::Preview};
+  static const QList<Command> every{Command::Main, Command::Info, Command::Source, Command::Preview,
+                                    Command::Convert};
   static const QList<Command> main{Command::Main};
+  static const QList<Command> convert{Command::Convert};
   static const QList<OptionRow> rows{
-      {Option::Json,
-       {Command::Info},
-       0,
-       "json",
-       nullptr,
-       nullptr,
+      {Option::Json, {Command::Info, Command::Convert}, 0, "json", nullptr, nullptr,
        "one JSON array with an object for each file"},
-      {Option::Output,
-       {Command::Preview},
-       'o',
-       "output",
-       "OUT",
-       nullptr,
+      {Option::Output, {Command::Preview, Command::Convert}, 'o', "output", "OUT", nullptr,
        "the file to write; - is standard output"},
-      {Option::Force, {Command::Preview}, 'f', "force", nullptr, nullptr, "overwrite a file that exists"},
+      {Option::Folder, convert, 0, "to", "DIR", nullptr, "the folder to write each file to, under its own name"},
+      {Option::Format, convert, 0, "format", "F", "eps eps-preview epsi pdf svg svgz tiff png jpeg gif",
+       "the format; without it the extension of OUT decides"},
+      {Option::Rotate, convert, 0, "rotate", "DEG", nullptr, "turn the picture counter-clockwise, by any angle"},
+      {Option::Crop, convert, 0, "crop", "X,Y,W,H", nullptr,
+       "this rectangle alone: points in the turned view, origin at its lower-left corner, y up"},
+      {Option::Page, convert, 0, "page", "N", nullptr, "the page of a PDF, from 1"},
+      {Option::Dpi, convert, 0, "dpi", "N", nullptr, "pixels an inch of the raster formats (72: one a point)"},
+      {Option::Background, convert, 0, "background", "COLOR", nullptr,
+       "fills what the picture leaves unpainted, in the raster formats"},
+      {Option::Jobs, convert, 0, "jobs", "N", nullptr, "files at a time (as many as there are cores)"},
+      {Option::Timeout, convert, 0, "timeout", "S", nullptr, "seconds that a picture may take (120)"},
+      {Option::Memory, convert, 0, "memory", "MIB", nullptr, "memory that a picture may take (1024)"},
+      {Option::Force, {Command::Preview, Command::Convert}, 'f', "force", nullptr, nullptr,
+       "overwrite a file that exists"},
+      {Option::Quiet, convert, 'q', "quiet", nullptr, nullptr, "tell nothing but errors"},
       {Option::SandboxStatus, main, 0, "sandbox-status", nullptr, nullptr,
        "show how picture processes are confined"},
       {Option::Completion, main, 0, "completion", "SHELL", "bash zsh fish",

@@ -7,7 +7,7 @@
 
 namespace norvex {
 
-enum class Command { Main, Info, Source, Preview };
+enum class Command { Main, Info, Source, Preview, Convert };
 
 /// What follows a command besides options.
 struct CommandRow {
@@ -19,7 +19,26 @@ struct CommandRow {
   const char* help;
 };
 
-enum class Option { Help, Version, SandboxStatus, Completion, Json, Output, Force };
+enum class Option {
+  Help,
+  Version,
+  SandboxStatus,
+  Completion,
+  Json,
+  Output,
+  Folder,
+  Format,
+  Rotate,
+  Crop,
+  Page,
+  Dpi,
+  Background,
+  Jobs,
+  Timeout,
+  Memory,
+  Force,
+  Quiet,
+};
 
 /// A command takes the options of its own rows.
 struct OptionRow {

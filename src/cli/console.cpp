@@ -49,7 +49,16 @@ bool StandardConsole::write(const QByteArray& bytes) {
 }
 
 void StandardConsole::message(const QString& line) {
+  progress({});
   writeAll(STDERR_FILENO, visible(line).toUtf8() + '\n');
+}
+
+void StandardConsole::progress(const QString& line) {
+  constexpr char takeAway[] = "\r\033[K";
+  if (::isatty(STDERR_FILENO) != 1 || (line.isEmpty() && !progressShown_)) return;
+  constexpr int widest = 78;  // a line that wraps could not be taken away
+  writeAll(STDERR_FILENO, takeAway + visible(line).left(widest).toUtf8());
+  progressShown_ = !line.isEmpty();
 }
 
 bool StandardConsole::isTerminal() const {
@@ -64,6 +73,10 @@ bool MemoryConsole::write(const QByteArray& bytes) {
 
 void MemoryConsole::message(const QString& line) {
   messages += visible(line) + QLatin1Char('\n');
+}
+
+void MemoryConsole::progress(const QString& line) {
+  if (!line.isEmpty()) progressLines << line;
 }
 
 }  // namespace norvex

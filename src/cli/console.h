@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include "platform/result.h"
 
@@ -18,6 +19,9 @@ class Console {
   [[nodiscard]] virtual bool write(const QByteArray& bytes) = 0;
   /// One line; what would move the cursor or colour the terminal is made visible.
   virtual void message(const QString& line) = 0;
+  /// Replaces the line of progress at the end of standard error; the empty text takes it away. Shown on a terminal
+  /// alone.
+  virtual void progress(const QString& line) = 0;
   /// Whether standard output is a terminal, on which binary data would make a mess.
   [[nodiscard]] virtual bool isTerminal() const = 0;
 };
@@ -28,7 +32,11 @@ class StandardConsole final : public Console {
   Result<QByteArray> input() override;
   bool write(const QByteArray& bytes) override;
   void message(const QString& line) override;
+  void progress(const QString& line) override;
   bool isTerminal() const override;
+
+ private:
+  bool progressShown_ = false;
 };
 
 /// Keeps what is written; for tests.
@@ -37,10 +45,12 @@ class MemoryConsole final : public Console {
   Result<QByteArray> input() override { return standardInput; }
   bool write(const QByteArray& bytes) override;
   void message(const QString& line) override;
+  void progress(const QString& line) override;
   bool isTerminal() const override { return terminal; }
 
   QByteArray standardInput, output;
   QString messages;  ///< lines with their ends
+  QStringList progressLines;
   bool terminal = false;
   bool full = false;  ///< every further write fails
 };

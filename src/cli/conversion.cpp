@@ -75,6 +75,7 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   PictureEncoder encoder(imageRep, surroundings, cancel);
   Conversion conversion;
   conversion.bytes = encodedPicture(encoder, options.format);
+  conversion.size = conversion.bytes.size();
   conversion.report = encoder.report();
   if (conversion.bytes.isEmpty() && !conversion.report.error) {
     conversion.report.error =

@@ -27,6 +27,7 @@ struct ConversionOptions {
 /// Bytes and what there is to tell about them.
 struct Conversion {
   QByteArray bytes;  ///< empty: report.error says why
+  qint64 size = 0;   ///< of the bytes, which are dropped when they are written
   EncodingReport report;
   QStringList metadataLost;  ///< keys of the header dictionary
 };

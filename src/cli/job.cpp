@@ -8,10 +8,14 @@ namespace norvex {
 ExitCode Job::run(const QStringList& given) {
   const ReadArguments read = readArguments(given);
   if (read.complaint.isEmpty()) return dispatch(read.arguments);
-  const QString name = QString::fromLatin1(rowOf(read.arguments.command).name);
+  return complain(read.arguments.command, read.complaint);
+}
+
+ExitCode Job::complain(Command command, const QString& complaint) {
+  const QString name = QString::fromLatin1(rowOf(command).name);
   const QString help =
       name.isEmpty() ? QStringLiteral("norvex --help") : QStringLiteral("norvex %1 --help").arg(name);
-  console_.message(QStringLiteral("norvex: %1 (%2 shows what there is)").arg(read.complaint, help));
+  console_.message(QStringLiteral("norvex: %1 (%2 shows what there is)").arg(complaint, help));
   return ExitCode::Usage;
 }
 
@@ -28,6 +32,8 @@ ExitCode Job::dispatch(const Arguments& arguments) {
       return source(arguments);
     case Command::Preview:
       return preview(arguments);
+    case Command::Convert:
+      return convert(arguments);
     case Command::Main:
       break;  // windows are not opened here
   }

@@ -1,12 +1,15 @@
 // One run of the command line.
 #pragma once
 
+#include <QFuture>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 #include "cli/arguments.h"
 #include "cli/console.h"
+#include "cli/conversion.h"
+#include "cli/convert_plan.h"
 #include "cli/document_info.h"
 #include "cli/exit_code.h"
 #include "platform/picture_process.h"
@@ -28,12 +31,16 @@ class Job {
   ExitCode info(const Arguments& arguments);
   ExitCode source(const Arguments& arguments);
   ExitCode preview(const Arguments& arguments);
+  ExitCode convert(const Arguments& arguments);
+  ExitCode reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions);
   ExitCode sandboxStatus();
 
   /// Text to standard output.
   ExitCode show(const QString& text);
   /// Bytes of a result to a file, or to standard output for "-".
   ExitCode writeOutput(const QString& output, const QByteArray& bytes, bool force);
+  /// Tells on standard error that the arguments are wrong.
+  ExitCode complain(Command command, const QString& complaint);
   /// Tells on standard error that something is wrong with a file.
   ExitCode fail(const QString& file, const Error& error);
 

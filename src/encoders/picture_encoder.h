@@ -3,34 +3,18 @@
 #pragma once
 
 #include <QByteArray>
-#include <QDateTime>
-#include <QLocale>
 #include <QStringList>
 
 #include <memory>
 #include <optional>
 
 #include "encoders/doc_raster_image.h"
+#include "encoders/encoder_surroundings.h"
 #include "encoders/raster_codecs.h"
 #include "metadata/header_dictionary.h"
 #include "platform/picture/image_rep.h"
-#include "platform/picture_process.h"
 
 namespace norvex {
-
-/// What the producers need besides the picture.
-struct EncoderSurroundings {
-  PictureService* service = nullptr;  ///< borrowed; sets the attributes of a PDF
-  QString userFullName;
-  QString applicationName, applicationVersion;
-  QDateTime now;
-  QLocale locale;
-  QByteArray iccProfile;  ///< of the output colour space; empty: none is configured
-  RasterSettings raster;
-  /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
-  std::optional<PictureRegion> region;
-  bool onePage = false;  ///< hand out the shown page of a PDF, not the whole file
-};
 
 /// What a production has to tell besides its bytes.
 struct EncodingReport {

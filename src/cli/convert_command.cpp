@@ -1,0 +1,123 @@
+// `norvex convert`: pictures into other formats, several at once, each written whole or not at all.
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QThreadPool>
+#include <QtConcurrent>
+
+#include "cli/conversion_report.h"
+#include "cli/input_file.h"
+#include "cli/interruption.h"
+#include "cli/job.h"
+#include "platform/atomic_file.h"
+
+namespace norvex {
+namespace {
+
+Conversion refused(ErrorKind kind, const QString& message) {
+  Conversion conversion;
+  conversion.report.error = Error{kind, message};
+  return conversion;
+}
+
+/// What can be known before the work is done: that its result could not be kept.
+std::optional<Conversion> refusalOf(const ConvertTask& task, const ConvertPlan& plan) {
+  if (task.output == QLatin1String("-")) return std::nullopt;
+  if (isSameFile(task.file, task.output)) {
+    return refused(ErrorKind::CannotWrite, QStringLiteral("the output would overwrite the input"));
+  }
+  if (!plan.force && QFileInfo::exists(task.output)) {
+    return refused(ErrorKind::CannotWrite,
+                   QStringLiteral("%1 exists already (--force overwrites it)").arg(task.output));
+  }
+  return std::nullopt;
+}
+
+/// Converts and writes one file. `input`: the bytes of standard input. Thread-safe.
+Conversion convertFile(PictureService& service, const ConvertTask& task, const ConvertPlan& plan,
+                       const Result<QByteArray>& input, const CancelToken& cancel) {
+  if (cancel.cancelled()) return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
+  if (auto refusal = refusalOf(task, plan)) return *refusal;
+  const bool isInput = task.file == QLatin1String("-");
+  const Result<QByteArray> bytes = isInput ? input : readInputFile(task.file);
+  if (!bytes) return refused(bytes.error().kind, bytes.error().message);
+
+  const QUrl url = isInput ? QUrl() : QUrl::fromLocalFile(QFileInfo(task.file).absoluteFilePath());
+  Conversion conversion = convertPicture(service, *bytes, url, plan.options, cancel);
+  if (conversion.report.error || task.output == QLatin1String("-")) return conversion;
+  if (cancel.cancelled()) return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
+  const auto written =
+      writeFileAtomically(task.output, conversion.bytes, plan.force ? IfExists::Replace : IfExists::Fail);
+  if (!written) {
+    conversion.report.error =
+        Error{written.error().kind, QStringLiteral("%1: %2").arg(task.output, written.error().message)};
+  }
+  conversion.bytes.clear();
+  return conversion;
+}
+
+/// Two files of one run must not be written to one place: neither is then the right one.
+QString doubleTarget(const QList<ConvertTask>& tasks) {
+  QSet<QString> seen;
+  for (const ConvertTask& task : tasks) {
+    const QString path = QFileInfo(task.output).absoluteFilePath();
+    if (seen.contains(path)) return task.output;
+    seen.insert(path);
+  }
+  return {};
+}
+
+}  // namespace
+
+ExitCode Job::convert(const Arguments& arguments) {
+  const ReadPlan read = readConvertPlan(arguments);
+  if (!read.complaint.isEmpty()) return complain(Command::Convert, read.complaint);
+  const ConvertPlan& plan = read.plan;
+  if (const QString path = doubleTarget(plan.tasks); !path.isEmpty()) {
+    return complain(Command::Convert, QStringLiteral("more than one file would become %1").arg(path));
+  }
+  const bool fromInput = arguments.files.contains(QStringLiteral("-"));
+  const Result<QByteArray> input =
+      fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());
+
+  const Interruption interruption;
+  QThreadPool pool;
+  pool.setMaxThreadCount(plan.jobs);
+  const CancelToken cancel = interruption.token();
+  QFuture<Conversion> conversions = QtConcurrent::mapped(&pool, plan.tasks, [&](const ConvertTask& task) {
+    return convertFile(service_, task, plan, input, cancel);
+  });
+  const ExitCode code = reportConversions(plan, conversions);
+  conversions.waitForFinished();
+  return cancel.cancelled() ? ExitCode::Interrupted : code;
+}
+
+ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions) {
+  QList<ExitCode> codes;
+  QJsonArray objects;
+  const qsizetype count = plan.tasks.size();
+  for (qsizetype i = 0; i < count; ++i) {
+    const ConvertTask& task = plan.tasks[i];
+    if (!plan.quiet && count > 1) {
+      console_.progress(QStringLiteral("%1 of %2: %3").arg(i + 1).arg(count).arg(task.file));
+    }
+    const Conversion conversion = conversions.resultAt(int(i));
+    if (plan.json) objects.append(conversionObject(task, plan.options, conversion));
+    if (conversion.report.error) {
+      codes << fail(task.file, *conversion.report.error);
+      continue;
+    }
+    const QString remarks = conversionRemarks(plan.options, conversion);
+    if (!plan.quiet && !remarks.isEmpty())
+      console_.message(QStringLiteral("norvex: %1: %2").arg(task.file, remarks));
+    codes << (task.output == QLatin1String("-") ? writeOutput(task.output, conversion.bytes, false)
+                                                : ExitCode::Done);
+  }
+  console_.progress({});
+  if (plan.json && !console_.write(QJsonDocument(objects).toJson(QJsonDocument::Indented))) {
+    return fail(QStringLiteral("-"),
+                {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+  }
+  return exitCodeOfAll(codes);
+}
+
+}  // namespace norvex

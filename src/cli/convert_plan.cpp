@@ -1,0 +1,131 @@
+#include "cli/convert_plan.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QThread>
+
+#include <cmath>
+
+namespace norvex {
+namespace {
+
+/// Reads option values one after the other and keeps the first complaint.
+class ValueReader {
+ public:
+  explicit ValueReader(const Arguments& arguments) : arguments_(arguments) {}
+
+  [[nodiscard]] const QString& complaint() const { return complaint_; }
+  void complain(const QString& sentence) {
+    if (complaint_.isEmpty()) complaint_ = sentence;
+  }
+
+  double number(Option option, double fallback, double least, double most) {
+    if (!arguments_.has(option)) return fallback;
+    bool good = false;
+    const double value = arguments_.values.value(option).toDouble(&good);
+    if (good && std::isfinite(value) && value >= least && value <= most) return value;
+    complain(QStringLiteral("--%1 is a number from %2 to %3")
+                 .arg(QLatin1String(rowOf(option).name))
+                 .arg(least)
+                 .arg(most));
+    return fallback;
+  }
+
+  int integer(Option option, int fallback, int least, int most) {
+    const double value = number(option, fallback, least, most);
+    if (value != std::floor(value))
+      complain(QStringLiteral("--%1 is a whole number").arg(QLatin1String(rowOf(option).name)));
+    return static_cast<int>(value);
+  }
+
+  std::optional<QRectF> crop() {
+    if (!arguments_.has(Option::Crop)) return std::nullopt;
+    const QStringList texts = arguments_.values.value(Option::Crop).split(u',');
+    QList<double> numbers;
+    for (const QString& text : texts) {
+      bool good = false;
+      const double value = text.trimmed().toDouble(&good);
+      if (good && std::abs(value) <= maximumCoordinate) numbers << value;
+    }
+    if (texts.size() == 4 && numbers.size() == 4 && numbers[2] > 0 && numbers[3] > 0) {
+      return QRectF(numbers[0], numbers[1], numbers[2], numbers[3]);
+    }
+    complain(QStringLiteral("--crop is X,Y,W,H: four numbers of points with W and H above 0"));
+    return std::nullopt;
+  }
+
+  QColor background() {
+    if (!arguments_.has(Option::Background)) return {};
+    const QColor color(arguments_.values.value(Option::Background));
+    if (!color.isValid()) complain(QStringLiteral("--background is a colour: a name or #rrggbb"));
+    return color;
+  }
+
+ private:
+  const Arguments& arguments_;
+  QString complaint_;
+};
+
+ConversionOptions optionsOf(const Arguments& arguments, ValueReader& values) {
+  constexpr int manyDays = 10'000'000;
+  ConversionOptions options;
+  options.rotateDegrees = values.number(Option::Rotate, 0, -36000, 36000);
+  options.crop = values.crop();
+  if (arguments.has(Option::Page)) options.page = values.integer(Option::Page, 1, 1, manyDays);
+  options.dpi = values.number(Option::Dpi, 72, 1, 9600);
+  options.background = values.background();
+  options.limits.seconds = values.integer(Option::Timeout, options.limits.seconds, 1, manyDays);
+  options.limits.memoryMiB = values.integer(Option::Memory, options.limits.memoryMiB, 64, 1 << 20);
+  return options;
+}
+
+std::optional<OutputFormat> formatOf(const Arguments& arguments) {
+  if (arguments.has(Option::Format)) return outputFormatNamed(arguments.values.value(Option::Format));
+  return outputFormatOfFileName(arguments.values.value(Option::Output));
+}
+
+QString inFolder(const QString& folder, const QString& file, OutputFormat format) {
+  const QString name =
+      file == QLatin1String("-") ? QStringLiteral("picture") : QFileInfo(file).completeBaseName();
+  return QDir(folder).filePath(name + u'.' + extensionOf(format));
+}
+
+QString complaintAboutTargets(const Arguments& arguments) {
+  const bool toFile = arguments.has(Option::Output);
+  if (toFile == arguments.has(Option::Folder)) return QStringLiteral("one of -o OUT and --to DIR is needed");
+  if (toFile && arguments.files.size() > 1)
+    return QStringLiteral("-o takes one file, --to DIR takes several");
+  if (formatOf(arguments)) return {};
+  return toFile && arguments.values.value(Option::Output) != QLatin1String("-")
+             ? QStringLiteral("the extension of %1 names no format (--format does)")
+                   .arg(arguments.values.value(Option::Output))
+             : QStringLiteral("no format is given (--format)");
+}
+
+}  // namespace
+
+ReadPlan readConvertPlan(const Arguments& arguments) {
+  ReadPlan read;
+  read.complaint = complaintAboutTargets(arguments);
+  if (!read.complaint.isEmpty()) return read;
+  ConvertPlan& plan = read.plan;
+  ValueReader values(arguments);
+  plan.options = optionsOf(arguments, values);
+  plan.options.format = *formatOf(arguments);
+  plan.jobs = values.integer(Option::Jobs, QThread::idealThreadCount(), 1, 256);
+  plan.force = arguments.has(Option::Force);
+  plan.json = arguments.has(Option::Json);
+  plan.quiet = arguments.has(Option::Quiet);
+  for (const QString& file : arguments.files) {
+    plan.tasks << ConvertTask{
+        file, arguments.has(Option::Output)
+                  ? arguments.values.value(Option::Output)
+                  : inFolder(arguments.values.value(Option::Folder), file, plan.options.format)};
+  }
+  const bool reportInTheWay = plan.json && plan.tasks.first().output == QLatin1String("-");
+  if (reportInTheWay) values.complain(QStringLiteral("--json and -o - both need standard output"));
+  read.complaint = values.complaint();
+  return read;
+}
+
+}  // namespace norvex

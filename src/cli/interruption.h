@@ -1,0 +1,24 @@
+// Ctrl-C and a polite kill while files are being converted.
+#pragma once
+
+#include "platform/cancel_token.h"
+
+namespace norvex {
+
+/// While an object lives, SIGINT and SIGTERM cancel its token instead of ending the program at once, so that
+/// what is half done is dropped and said; a second signal ends the program. One object at a time. Main
+/// thread.
+class Interruption {
+ public:
+  Interruption();
+  ~Interruption();
+  Interruption(const Interruption&) = delete;
+  Interruption& operator=(const Interruption&) = delete;
+
+  [[nodiscard]] const CancelToken& token() const { return token_; }
+
+ private:
+  CancelToken token_;
+};
+
+}  // namespace norvex

@@ -1,0 +1,36 @@
+// What the producers need besides the picture, as this machine and this user have it.
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QLocale>
+#include <QString>
+
+#include <optional>
+
+#include "encoders/doc_raster_image.h"
+#include "platform/picture_process.h"
+
+namespace norvex {
+
+struct EncoderSurroundings {
+  PictureService* service = nullptr;  ///< borrowed; sets the attributes of a PDF
+  QString userFullName;
+  QString applicationName, applicationVersion;
+  QDateTime now;
+  QLocale locale;
+  QByteArray iccProfile;  ///< of the output colour space; empty: none is configured
+  RasterSettings raster;
+  /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
+  std::optional<PictureRegion> region;
+  bool onePage = false;  ///< hand out the shown page of a PDF, not the whole file
+};
+
+/// The user's, the locale's and the program's own values; the colour space is sRGB. "Now" is the
+/// SOURCE_DATE_EPOCH of the environment where it is set, so that the same input gives the same bytes.
+[[nodiscard]] EncoderSurroundings usualSurroundings(PictureService& service);
+
+/// The user's full name as the system knows it; the login name where it knows none.
+[[nodiscard]] QString NSFullUserName();
+
+}  // namespace norvex

@@ -27,14 +27,9 @@ QByteArray rectangle(double x, double y, double width, double height) {
   return number(x) + ' ' + number(y) + ' ' + number(width) + ' ' + number(height);
 }
 
-/// Turns the picture about its centre and puts its bounding box's corner to the origin; points, y down.
-QByteArray turningMatrix(const QSizeF& picture, double rotate) {
-  const double w = picture.width() / 2, h = picture.height() / 2;
-  const double c = std::cos(rotate), s = std::sin(rotate);
-  const double centreX = std::abs(c) * w + std::abs(s) * h;
-  const double centreY = std::abs(s) * w + std::abs(c) * h;
-  return "matrix(" + number(c) + ' ' + number(s) + ' ' + number(-s) + ' ' + number(c) + ' ' +
-         number(centreX - c * w + s * h) + ' ' + number(centreY - s * w - c * h) + ')';
+QByteArray matrixOf(const QTransform& m) {
+  return "matrix(" + number(m.m11()) + ' ' + number(m.m12()) + ' ' + number(m.m21()) + ' ' + number(m.m22()) + ' ' +
+         number(m.dx()) + ' ' + number(m.dy()) + ')';
 }
 
 /// Writes the tags around the old root, and its own start tag anew.
@@ -50,7 +45,7 @@ class Wrapper {
   [[nodiscard]] QByteArray after() const;
 
  private:
-  [[nodiscard]] bool turned() const { return cut_.rotate != 0; }
+  [[nodiscard]] bool turned() const { return !cut_.placing.isIdentity(); }
   // A switch draws its only child as a group does, but no rule for "g" or "svg > g" reaches it.
   [[nodiscard]] QByteArray group() const { return prefix_ + (cut_.styled ? "switch" : "g"); }
   [[nodiscard]] QByteArray sizeStyle(const QSizeF& size) const {
@@ -74,7 +69,7 @@ QByteArray Wrapper::before() const {
     tag += attribute("style", kNeutral + ("width:" + number(r.width()) + "pt;height:" + number(r.height()) + "pt;"));
   tag += ">\n";
   if (!turned()) return tag;
-  tag += '<' + group() + attribute("transform", turningMatrix(cut_.picture, cut_.rotate)) + ">\n";
+  tag += '<' + group() + attribute("transform", matrixOf(cut_.placing)) + ">\n";
   return tag;
 }
 
@@ -121,6 +116,14 @@ QByteArray Wrapper::rootTag() const {
 }
 
 }  // namespace
+
+QTransform turnedInItsBox(const QSizeF& picture, double rotate) {
+  if (rotate == 0) return {};
+  const double w = picture.width() / 2, h = picture.height() / 2;
+  const double c = std::cos(rotate), s = std::sin(rotate);
+  return QTransform::fromTranslate(-w, -h) * QTransform(c, s, -s, c, 0, 0) *
+         QTransform::fromTranslate(std::abs(c) * w + std::abs(s) * h, std::abs(s) * w + std::abs(c) * h);
+}
 
 QByteArray cutSvg(const QByteArray& utf8, const SvgCut& cut) {
   const QList<SvgToken> tokens = tokenizeSvg(utf8);

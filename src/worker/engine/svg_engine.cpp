@@ -3,6 +3,7 @@
 #include <QSizeF>
 #include <QTransform>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <optional>
@@ -43,6 +44,10 @@ class SvgEngine final : public DocumentEngine {
   Result<void> start(int page) const;
   Result<const SvgRenderer*> renderer();
   [[nodiscard]] QSizeF points() const { return pixels_ * pointsPerPixel; }
+  // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
+  [[nodiscard]] bool hugeParser() const { return inspection_.needsHugeParser && !inspection_.hasNestedDocument; }
+  [[nodiscard]] bool needsOwnDocument(const QTransform& pixelsToDevice) const;
+  Result<QImage> renderAsDocument(const RenderRequest& request, const QTransform& pixelsToDevice);
   [[nodiscard]] QStringList warnings() const;
   [[nodiscard]] BytesReply pdfReport() const;
 
@@ -63,9 +68,7 @@ Result<void> SvgEngine::start(int page) const {
 
 Result<const SvgRenderer*> SvgEngine::renderer() {
   if (!renderer_) {
-    // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
-    const bool huge = inspection_.needsHugeParser && !inspection_.hasNestedDocument;
-    auto made = SvgRenderer::create(withDeclaredEncoding(text_.utf8, "UTF-8"), huge);
+    auto made = SvgRenderer::create(withDeclaredEncoding(text_.utf8, "UTF-8"), hugeParser());
     if (!made) return made.error();
     renderer_ = std::move(*made);
   }
@@ -122,13 +125,44 @@ Result<PictureFacts> SvgEngine::facts() {
   return facts;
 }
 
+// librsvg makes layers as large as the whole picture on the device, and makes them wrong when the picture is turned.
+bool SvgEngine::needsOwnDocument(const QTransform& pixelsToDevice) const {
+  constexpr double largestLayer = 32.0e6, longestSide = 16'000;
+  if (!inspection_.hasLayers) return false;
+  const double width = pixels_.width() * pixelsToDevice.m11(), height = pixels_.height() * pixelsToDevice.m22();
+  const bool upright = pixelsToDevice.m12() == 0 && pixelsToDevice.m21() == 0 && width > 0 && height > 0;
+  return !upright || std::max(width, height) > longestSide || width * height > largestLayer;
+}
+
+/// The part of the picture that is asked for becomes a document, and that is drawn upright: its layers are as large
+/// as the image.
+Result<QImage> SvgEngine::renderAsDocument(const RenderRequest& request, const QTransform& pixelsToDevice) {
+  const QTransform placing = QTransform::fromScale(1 / pointsPerPixel, 1 / pointsPerPixel) * pixelsToDevice;
+  const SvgCut part{points(), QRectF(QPointF(0, 0), QSizeF(request.pixelSize)), placing, inspection_.hasStyleSheet};
+  RenderRequest upright = request;
+  upright.pictureToDevice = QTransform();
+  std::unique_ptr<SvgRenderer> drawing;
+  return paintImage(upright, context_.limits, [&](cairo_t* context) -> Result<void> {
+    if (!drawing) {
+      auto made = SvgRenderer::create(withDeclaredEncoding(cutSvg(text_.utf8, part), "UTF-8"), hugeParser());
+      if (!made) return made.error();
+      drawing = std::move(*made);
+    }
+    return drawing->draw(context, QSizeF(request.pixelSize));
+  });
+}
+
 Result<QImage> SvgEngine::render(const RenderRequest& request) {
   if (const Result<void> may = start(request.page); !may) return may.error();
   const Result<const SvgRenderer*> loaded = renderer();
   if (!loaded) return loaded.error();
+  const QTransform pixelsToPicture(pointsPerPixel, 0, 0, -pointsPerPixel, 0, points().height());
+  const QTransform pixelsToDevice = pixelsToPicture * request.pictureToDevice;
+  if (request.pictureToDevice.isAffine() && request.pictureToDevice.isInvertible() && needsOwnDocument(pixelsToDevice))
+    return renderAsDocument(request, pixelsToDevice);
   return paintImage(request, context_.limits, [&](cairo_t* context) {
-    cairo_translate(context, 0, points().height());
-    cairo_scale(context, pointsPerPixel, -pointsPerPixel);
+    const cairo_matrix_t matrix = toCairo(pixelsToPicture);
+    cairo_transform(context, &matrix);
     return (*loaded)->draw(context, pixels_);
   });
 }
@@ -177,7 +211,7 @@ Result<EngineBytes> SvgEngine::svg(const SvgRequest& request) {
   if (!(rect.width() > 0 && rect.height() > 0 && rect.width() <= far && rect.height() <= far &&
         std::abs(rect.x()) <= far && std::abs(rect.y()) <= far && std::isfinite(request.rotate)))
     return Error{ErrorKind::Protocol, QStringLiteral("the rectangle to cut out is empty or out of reach")};
-  const SvgCut cut{points(), rect, request.rotate, inspection_.hasStyleSheet};
+  const SvgCut cut{points(), rect, turnedInItsBox(points(), request.rotate), inspection_.hasStyleSheet};
   return EngineBytes{encodeSvgText(cutSvg(text_.utf8, cut), text_), {}};
 }
 

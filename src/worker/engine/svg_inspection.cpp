@@ -1,5 +1,8 @@
 #include "worker/engine/svg_inspection.h"
 
+#include <QRegularExpression>
+#include <QSet>
+
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
@@ -152,6 +155,10 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
   };
   if (isUsed(QLatin1String("filter"))) ++found_.filters;
   if (isUsed(QLatin1String("mask"))) ++found_.masks;
+  static const QRegularExpression layer("(?:^|[;\\s])(?:opacity|filter|mask|mix-blend-mode|isolation)\\s*:");
+  static const QSet<QString> layers{"opacity", "filter", "mask", "mix-blend-mode", "isolation"};
+  if (layers.contains(attribute.name) || (attribute.name == QLatin1String("style") && value.contains(layer)))
+    found_.hasLayers = true;
   if (attribute.name == QLatin1String("href")) lookAtReference(name, value.trimmed());
 }
 
@@ -231,6 +238,7 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
   if (error_) return *error_;
   if (parser_->wellFormed == 0) return parserError();
   if (found_.rootName.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the document is not XML")};
+  found_.hasLayers = found_.hasLayers || found_.hasStyleSheet;
   if (!found_.title.isNull()) found_.title = found_.title.simplified();
   if (!found_.description.isNull()) found_.description = found_.description.trimmed();
   return std::move(found_);

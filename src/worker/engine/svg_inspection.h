@@ -19,6 +19,9 @@ struct SvgInspection {
   int filters = 0;             ///< elements drawn through a filter, as far as their own attributes tell
   int masks = 0;               ///< elements drawn through a mask, likewise
   int outsideReferences = 0;   ///< images, styles and other things that are in other files; never loaded
+  /// Something is drawn on a layer of its own: group opacity, filters, masks, blending. True also where a style sheet
+  /// might ask for it.
+  bool hasLayers = false;
   bool hasStyleSheet = false;
   bool hasScript = false;
   bool hasAnimation = false;

@@ -43,7 +43,9 @@ QImage expected(OpenSvg& document, const QRectF& rect, double rotate, double sca
   RenderRequest request;
   request.pictureToDevice = toDevice;
   request.pixelSize = QSize(qRound(rect.width() * scale), qRound(rect.height() * scale));
-  return *document->render(request);
+  const Result<QImage> image = document->render(request);
+  if (!image) qWarning("%s", qPrintable(image.error().message));
+  return image.ok() ? *image : QImage();
 }
 
 }  // namespace

@@ -5,9 +5,15 @@
 
 namespace norvex {
 
-/// The bundle identifier: reverse-DNS name of the application; also its desktop file's and its icon's name.
+/// The bundle identifier, the root of the names that errors and commands go by.
 inline QString bundleIdentifier() {
   return QStringLiteral("com.Norvex");
+}
+
+/// Name of the desktop file, of the icon and of the windows' class: desktops want three parts, the domain in
+/// lower case.
+inline QString desktopIdentifier() {
+  return QStringLiteral("com.norvex.Norvex");
 }
 
 /// Domain of every error of the document layer: the bundle identifier, a full stop, "ErrorDomain".

@@ -29,6 +29,14 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
   if (!aboutPlatform && earlierHandler) earlierHandler(type, context, message);
 }
 
+/// The icon theme's, where the application is installed; its own pictures otherwise.
+QIcon applicationIcon() {
+  QIcon own;
+  for (int size : {16, 32, 64, 128, 256})
+    own.addFile(QStringLiteral(":/icons/norvex-%1.png").arg(size), {size, size});
+  return QIcon::fromTheme(desktopIdentifier(), own);
+}
+
 /// In front of QApplication's constructor, which looks for the display.
 int& watchForMissingDisplay(int& argc) {
   earlierHandler = qInstallMessageHandler(endWithoutDisplay);
@@ -43,8 +51,8 @@ Application::Application(int& argc, char** argv) : QApplication(watchForMissingD
   setApplicationName(QStringLiteral("Norvex"));
   setApplicationDisplayName(QStringLiteral("Norvex"));
   setApplicationVersion(QStringLiteral(NORVEX_VERSION));
-  setDesktopFileName(bundleIdentifier());
-  setWindowIcon(QIcon::fromTheme(bundleIdentifier(), QIcon(QStringLiteral(":/icons/norvex.svg"))));
+  setDesktopFileName(desktopIdentifier());
+  setWindowIcon(applicationIcon());
   connect(this, &QGuiApplication::applicationStateChanged, &events_, &ApplicationEvents::setState);
 }
 

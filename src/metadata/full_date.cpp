@@ -18,6 +18,13 @@ icu::UnicodeString icuText(const QString& text) {
 
 }  // namespace
 
+QLocale userDateLocale() {
+  if (QLocale() != QLocale::system()) return QLocale();
+  for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"})
+    if (const QString name = qEnvironmentVariable(variable); !name.isEmpty()) return QLocale(name);
+  return QLocale();
+}
+
 QString fullDate(const QDateTime& date, const QLocale& locale) {
   if (!date.isValid()) return {};
   const icu::Locale where = icu::Locale::createCanonical(locale.name().toLatin1().constData());

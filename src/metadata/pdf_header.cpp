@@ -1,7 +1,5 @@
 #include "metadata/pdf_header.h"
 
-#include "metadata/full_date.h"
-
 namespace norvex {
 namespace {
 

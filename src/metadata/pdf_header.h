@@ -3,6 +3,7 @@
 
 #include <QLocale>
 
+#include "metadata/full_date.h"
 #include "metadata/header_dictionary.h"
 #include "platform/result.h"
 #include "platform/worker_protocol.h"
@@ -13,6 +14,6 @@ namespace norvex {
 /// each only when the document has it; Encoding and EncodingNumber always, saying that there is no text.
 /// Facts that could not be had give the empty dictionary. Thread-safe.
 [[nodiscard]] HeaderDictionary pdfHeader(const Result<PictureFacts>& facts,
-                                         const QLocale& locale = QLocale());
+                                         const QLocale& locale = userDateLocale());
 
 }  // namespace norvex

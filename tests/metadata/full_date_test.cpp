@@ -59,6 +59,21 @@ class FullDateTest : public QObject {
     QVERIFY(fullDate(kDate, QLocale::c()).contains("Monday"));
   }
 
+  void theEnvironmentSaysHowDatesAreWritten() {
+    const QByteArray all = qgetenv("LC_ALL");
+    const QByteArray time = qgetenv("LC_TIME");
+    qunsetenv("LC_ALL");
+    qputenv("LC_TIME", "de_DE.UTF-8");
+    QLocale::setDefault(QLocale::system());
+    const QLocale found = userDateLocale();
+    QLocale::setDefault(QLocale::c());
+    const QLocale chosen = userDateLocale();
+    qputenv("LC_TIME", time);
+    if (!all.isEmpty()) qputenv("LC_ALL", all);
+    QCOMPARE(found.language(), QLocale::German);
+    QCOMPARE(chosen, QLocale::c());
+  }
+
   void anInvalidDateIsTheEmptyText() { QCOMPARE(fullDate(QDateTime(), QLocale::c()), ""); }
 };
 

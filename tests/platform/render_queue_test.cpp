@@ -148,6 +148,22 @@ class RenderQueueTest : public QObject {
     QCOMPARE(f.process->calls(PictureCall::Render), 0);
   }
 
+  void whileSuspendedNothingIsBegunAndTheListTellsWhatWas() {
+    Fixture f;
+    f.queue->setWanted({job(1)});
+    QVERIFY(f.waitFor(1));
+    f.process->hold(PictureCall::Render);
+    f.queue->setWanted({job(1), job(2), job(3)});
+    QVERIFY(f.process->waitUntilHeld(PictureCall::Render));
+    QCOMPARE(f.queue->suspend(), QSet<quint64>({1, 2}));
+    f.process->release(PictureCall::Render);
+    QVERIFY(f.waitFor(2));
+    QCOMPARE(f.queue->suspend(), QSet<quint64>({1, 2}));
+    f.queue->setWanted({job(4)});
+    QVERIFY(f.waitFor(3));
+    QCOMPARE(f.widths(), QList<int>({1, 2, 4}));
+  }
+
   void theEndCancelsTheOpening() {
     Fixture f;
     f.process->hold(PictureCall::Facts);

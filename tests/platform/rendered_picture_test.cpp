@@ -244,6 +244,19 @@ class RenderedPictureTest : public QObject {
       QCOMPARE(blankPixels(f.drawAndRequest(t), t, kLarge), 0);
   }
 
+  void manySmallStepsEndAsOneRendering() {
+    const Fixture f(kLarge);
+    QVERIFY(f.becomesSharp(placed(kLarge, 4, 0, {150, 100})));
+    QVERIFY(QTest::qWaitFor([&] { return f.renders() >= 2; }, 20000));  // the overview too
+    f.process->hold(PictureCall::Render);
+    for (int x = 0; x <= 3000; x += 10) f.drawAndRequest(placed(kLarge, 4, 0, {150.0 - x, 100}));
+    QVERIFY(f.process->waitUntilHeld(PictureCall::Render));
+    const int begun = f.renders();
+    f.process->release(PictureCall::Render);
+    QVERIFY(f.becomesSharp(placed(kLarge, 4, 0, {150.0 - 3000, 100})));
+    QVERIFY2(f.renders() - begun <= 2, qPrintable(QString::number(f.renders() - begun)));
+  }
+
   void scrollingOnRendersOnlyWhatIsMissing() {
     const Fixture f(kLarge);
     qint64 pixels = 0;

@@ -28,10 +28,19 @@ RenderQueue::~RenderQueue() {
   thread_.join();
 }
 
+QSet<quint64> RenderQueue::suspend() {
+  const std::lock_guard lock(mutex_);
+  suspended_ = true;
+  QSet<quint64> begun = ended_;
+  if (running_ != 0) begun.insert(running_);
+  return begun;
+}
+
 int RenderQueue::setWanted(const QList<RenderJob>& jobs) {
   int patience = 0;
   {
     const std::lock_guard lock(mutex_);
+    suspended_ = false;
     QSet<quint64> wanted;
     for (const RenderJob& job : jobs) wanted.insert(job.id);
     ended_.intersect(wanted);
@@ -60,7 +69,7 @@ QList<RenderQueue::Finished> RenderQueue::takeFinished() {
 std::optional<RenderJob> RenderQueue::next(CancelToken& token) {
   std::unique_lock lock(mutex_);
   if (running_ != 0) ended_.insert(std::exchange(running_, 0));
-  changed_.wait(lock, [this] { return stop_ || !waiting_.isEmpty(); });
+  changed_.wait(lock, [this] { return stop_ || (!suspended_ && !waiting_.isEmpty()); });
   if (stop_) return std::nullopt;
   RenderJob job = waiting_.takeFirst();
   running_ = job.id;

@@ -50,6 +50,9 @@ class RenderQueue {
   RenderQueue(const RenderQueue&) = delete;
   RenderQueue& operator=(const RenderQueue&) = delete;
 
+  /// Begins no further job until the next setWanted(), so that the list can be made anew without a job starting
+  /// meanwhile. Result: the listed jobs that run or have ended.
+  [[nodiscard]] QSet<quint64> suspend();
   /// Replaces the list. A job that runs, or has ended but is still listed, is not begun again.
   /// Result: 0, or the milliseconds after which the same call would cancel what runs in vain.
   int setWanted(const QList<RenderJob>& jobs);
@@ -75,6 +78,7 @@ class RenderQueue {
   CancelToken cancel_;   ///< of the running job
   qint64 runningSince_ = 0;
   qint64 openingTook_ = -1;  ///< milliseconds; negative: not open yet
+  bool suspended_ = false;
   bool stop_ = false;
   std::thread thread_;
 };

@@ -13,7 +13,8 @@ namespace {
 constexpr int kMaximumLayers = 8;
 constexpr int kMaximumFailures = 3;
 constexpr int kMaximumBlocked = 32;
-constexpr int kMaximumRects = 6;       // a more ragged region is asked for as one rectangle
+constexpr int kMaximumRects = 4;  // every rectangle costs a walk through the whole picture
+constexpr int kRestMilliseconds = 150;
 constexpr int kMaximumJobSide = 4096;  // pixels
 
 qint64 pixels(const QRect& rect) { return qint64(rect.width()) * rect.height(); }
@@ -41,6 +42,8 @@ RenderedPicture::RenderedPicture(std::shared_ptr<PictureProcess> process, int pa
       options_(options),
       queue_(std::move(process), [this] { QMetaObject::invokeMethod(this, "collect", Qt::QueuedConnection); },
              options.clock) {
+  restTimer_.setSingleShot(true);
+  connect(&restTimer_, &QTimer::timeout, this, &RenderedPicture::plan);
   staleTimer_.setSingleShot(true);
   connect(&staleTimer_, &QTimer::timeout, this, &RenderedPicture::plan);
 }
@@ -137,7 +140,10 @@ void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& 
 // ---- asking ---------------------------------------------------------------------------------------------------------
 
 void RenderedPicture::request(const QTransform& t, const QRect& visible) {
+  const std::optional<View> last = view_;
   view_ = viewFor(t, visible);
+  const bool moved = !last || !view_ || last->layer != view_->layer || last->visible != view_->visible;
+  if (moved) restTimer_.start(kRestMilliseconds);
   if (view_) {
     const auto fits = [&](const RenderedLayer& layer) { return layer.fits(view_->layer, size_); };
     const auto at = std::find_if(layers_.begin(), layers_.end(), fits);
@@ -161,20 +167,11 @@ QRect RenderedPicture::wantedRect(const View& view, bool withMargin) const {
 }
 
 void RenderedPicture::plan() {
+  // What only waits is planned anew, so that many small steps of a view end as one rendering.
+  const QSet<quint64> begun = queue_.suspend();
+  outstanding_.removeIf([&](const RenderJob& job) { return !begun.contains(job.id); });
   QList<RenderJob> jobs;
-  if (view_ && !view_->visible.isEmpty() && failuresInARow_ < kMaximumFailures) {
-    const Blocked* blocked = blockFor(view_->layer);
-    QRegion planned;
-    const RenderedLayer* layer = layerFitting(view_->layer);
-    const bool sharp = layer && layer->covers(view_->visible);
-    if (!sharp && (!blocked || blocked->backgroundOnly))
-      planRegion(*view_, wantedRect(*view_, false), false, planned, jobs);
-    planOverview(jobs);
-    if (!blocked) {
-      const QRect around = wantedRect(*view_, true);
-      if (pixels(around) * 4 < options_.cacheBytes) planRegion(*view_, around, true, planned, jobs);
-    }
-  }
+  if (view_ && !view_->visible.isEmpty() && failuresInARow_ < kMaximumFailures) planVisible(jobs);
   outstanding_ = jobs;
   const int patience = queue_.setWanted(jobs);
   if (patience > 0)
@@ -183,21 +180,28 @@ void RenderedPicture::plan() {
     staleTimer_.stop();
 }
 
-/// Lists what is missing of `rect`: jobs that are under way already keep their identity, new ones fill the rest.
-void RenderedPicture::planRegion(const View& view, const QRect& rect, bool background, QRegion& planned,
-                                 QList<RenderJob>& jobs) {
-  QRegion missing = QRegion(rect) - planned;
-  if (const RenderedLayer* layer = layerFitting(view.layer)) missing -= layer->covered();
+void RenderedPicture::planVisible(QList<RenderJob>& jobs) {
+  const Blocked* blocked = blockFor(view_->layer);
+  const RenderedLayer* layer = layerFitting(view_->layer);
+  const bool sharp = layer && layer->covers(view_->visible);
+  if (!sharp && (!blocked || blocked->backgroundOnly)) planRegion(wantedRect(*view_, false), false, jobs);
+  planOverview(jobs);
+  const QRect around = wantedRect(*view_, true);
+  if (sharp && !blocked && !restTimer_.isActive() && pixels(around) * 4 < options_.cacheBytes)
+    planRegion(around, true, jobs);
+}
+
+/// Lists what is missing of `rect`: a job that is under way keeps its identity, new ones fill the rest.
+void RenderedPicture::planRegion(const QRect& rect, bool background, QList<RenderJob>& jobs) {
+  QRegion missing(rect);
+  if (const RenderedLayer* layer = layerFitting(view_->layer)) missing -= layer->covered();
   for (RenderJob job : std::as_const(outstanding_)) {
-    if (job.overview || job.layer != view.layer || !missing.intersects(job.rect)) continue;
-    if (background && planned.contains(job.rect)) continue;
+    if (job.overview || job.layer != view_->layer || !missing.intersects(job.rect)) continue;
     job.background = background;
     jobs << job;
-    planned += job.rect;
     missing -= job.rect;
   }
-  planned += missing;
-  addJobs(view.layer, missing, background, jobs);
+  addJobs(view_->layer, missing, background, jobs);
 }
 
 void RenderedPicture::planOverview(QList<RenderJob>& jobs) {
@@ -219,8 +223,11 @@ void RenderedPicture::planOverview(QList<RenderJob>& jobs) {
 
 void RenderedPicture::addJobs(const QTransform& layer, const QRegion& missing, bool background,
                               QList<RenderJob>& jobs) {
-  const QRegion region = missing.rectCount() > kMaximumRects ? QRegion(missing.boundingRect()) : missing;
-  for (const QRect& rect : region) {
+  qint64 area = 0;
+  for (const QRect& rect : missing) area += pixels(rect);
+  const QRect bounds = missing.boundingRect();
+  const bool merge = missing.rectCount() > kMaximumRects || pixels(bounds) < area * 2;
+  for (const QRect& rect : merge ? QRegion(bounds) : missing) {
     for (int y = rect.top(); y <= rect.bottom(); y += kMaximumJobSide) {
       for (int x = rect.left(); x <= rect.right(); x += kMaximumJobSide) {
         const QRect part = QRect(x, y, kMaximumJobSide, kMaximumJobSide) & rect;

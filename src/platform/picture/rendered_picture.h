@@ -31,8 +31,8 @@ struct RenderedPictureOptions {
 };
 
 /// Keeps layers of bitmaps, the newest views and one overview; draws a frame from them at once, and asks for what is
-/// missing of the current view: the visible part first, then the overview, then a margin around it. What a newer
-/// view does not need is cancelled. "Device" means true pixels, origin top-left, y down; pictureToDevice maps
+/// missing of the current view: the visible part first, then the overview, and when the view rests a margin around it.
+/// What a newer view does not need is cancelled. "Device" means true pixels, origin top-left, y down; pictureToDevice maps
 /// picture coordinates (points, origin lower-left, y up) to them.
 /// Belongs to one thread, in which the signals come; the process is called on a thread of its own.
 class RenderedPicture final : public QObject {
@@ -87,8 +87,9 @@ class RenderedPicture final : public QObject {
   [[nodiscard]] const Blocked* blockFor(const QTransform& transform) const;
   [[nodiscard]] QRect wantedRect(const View& view, bool withMargin) const;
   void plan();
-  void planRegion(const View& view, const QRect& rect, bool background, QRegion& planned, QList<RenderJob>& jobs);
+  void planVisible(QList<RenderJob>& jobs);
   void planOverview(QList<RenderJob>& jobs);
+  void planRegion(const QRect& rect, bool background, QList<RenderJob>& jobs);
   void addJobs(const QTransform& layer, const QRegion& missing, bool background, QList<RenderJob>& jobs);
   void finish(const RenderQueue::Finished& finished);
   void store(const RenderJob& job, const QImage& image);
@@ -107,6 +108,7 @@ class RenderedPicture final : public QObject {
   bool overviewFailed_ = false;
   int failuresInARow_ = 0;
   quint64 lastId_ = 0;
+  QTimer restTimer_;   ///< runs while the view moves
   QTimer staleTimer_;  ///< ends the queue's patience with a job that runs in vain
   RenderQueue queue_;  ///< last: its thread must end before the rest goes
 };

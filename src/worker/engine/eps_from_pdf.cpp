@@ -1,9 +1,115 @@
+// A PDF page as EPS: Poppler writes the vectors, the parts that need transparency are cut out and drawn as images.
+// docs/eps-generator.md tells why.
+#include <cmath>
+
 #include "worker/engine/engine.h"
+#include "worker/engine/eps_writing.h"
+#include "worker/engine/pdf_file.h"
+#include "worker/engine/pdf_render.h"
+#include "worker/engine/pdf_transparency.h"
+#include "worker/engine/pdf_writing.h"
+#include "worker/engine/poppler_postscript.h"
+#include "worker/engine/transparent_regions.h"
+#include "worker/engine/whole_page.h"
 
 namespace norvex::engine {
+namespace {
 
-Result<EngineBytes> epsFromPdf(const QByteArray&, EngineContext&) {
-  return Error{ErrorKind::Unsupported, QStringLiteral("EPS cannot be written yet")};
+constexpr double kImageDpi = 300;
+
+struct Opaque {
+  QSizeF size;
+  bool usedTransparency = false;
+  QByteArray pdf;  ///< without transparency, its page grown to whole points
+};
+
+QSize wholePoints(QSizeF size) {
+  return QSize(int(std::ceil(size.width() - 1e-6)), int(std::ceil(size.height() - 1e-6)));
+}
+
+// The page with its corner at the origin, upright and in points: most pages are, the others are placed once more.
+Result<QByteArray> upright(const QByteArray& pdf) {
+  Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
+  if (!file) return file.error();
+  return guarded([&]() -> Result<QByteArray> {
+    const PageGeometry geometry = (*file)->geometry(0);
+    if (geometry.rotation == 0 && geometry.userUnit == 1 && geometry.box.topLeft().isNull()) return pdf;
+    return composePdf(pdf, wholePage(0, geometry.shownSize(), VectorFormat::Pdf));
+  });
+}
+
+Result<Opaque> withoutTransparency(const QByteArray& pdf) {
+  Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
+  if (!file) return file.error();
+  return guarded([&]() -> Result<Opaque> {
+    Opaque opaque;
+    opaque.size = (*file)->geometry(0).shownSize();
+    QPDFObjectHandle page = (*file)->page(0);
+    page.removeKey("/CropBox");
+    page.replaceKey("/MediaBox", boxAtOrigin(wholePoints(opaque.size).width(), wholePoints(opaque.size).height()));
+    keepOnlyPage((*file)->qpdf(), page);
+    opaque.usedTransparency = usesTransparency((*file)->qpdf());
+    removeTransparency((*file)->qpdf());
+    opaque.pdf = writePdf((*file)->qpdf());
+    return opaque;
+  });
+}
+
+// The part of the page with its transparency, at 300 pixels an inch or what the limit on pixels allows.
+Result<EpsImage> imageOf(PdfRenderer& renderer, const QRectF& region, QSizeF pageSize, double scale,
+                         const PictureLimits& limits) {
+  RenderRequest request;
+  request.purpose = RenderPurpose::Export;
+  request.pixelSize = QSize(std::max(1, int(std::ceil(region.width() * scale))),
+                            std::max(1, int(std::ceil(region.height() * scale))));
+  const QRectF rect(region.topLeft(), QSizeF(request.pixelSize) / scale);  // a whole number of pixels
+  request.pictureToDevice = QTransform(scale, 0, 0, -scale, -rect.left() * scale, rect.bottom() * scale);
+  Result<QImage> image = renderer.render(request, pageSize, limits);
+  if (!image) return image.error();
+  return EpsImage{rect, std::move(*image)};
+}
+
+Result<QList<EpsImage>> imagesOf(const QByteArray& pdf, const QList<QRectF>& regions, QSizeF pageSize,
+                                 const EngineContext& context) {
+  double area = 0;
+  for (const QRectF& region : regions) area += region.width() * region.height();
+  const double scale =
+      std::min(kImageDpi / 72, std::sqrt(context.limits.megapixels * 1e6 / 4 / std::max(1.0, area)));
+  PdfRenderer renderer(pdf);
+  QList<EpsImage> images;
+  for (const QRectF& region : regions) {
+    if (context.cancel.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
+    Result<EpsImage> image = imageOf(renderer, region, pageSize, scale, context.limits);
+    if (!image) return image.error();
+    images << std::move(*image);
+  }
+  return images;
+}
+
+}  // namespace
+
+Result<EngineBytes> epsFromPdf(const QByteArray& source, EngineContext& context) {
+  const Result<QByteArray> pdf = upright(source);
+  if (!pdf) return pdf.error();
+  const Result<Opaque> opaque = withoutTransparency(*pdf);
+  if (!opaque) return opaque.error();
+  QList<EpsImage> images;
+  if (opaque->usedTransparency) {
+    const auto regions = transparentRegions(*pdf, opaque->size, opaque->pdf,
+                                            QSizeF(wholePoints(opaque->size)), context.limits);
+    if (!regions) return regions.error();
+    auto made = imagesOf(*pdf, *regions, opaque->size, context);
+    if (!made) return made.error();
+    images = std::move(*made);
+  }
+  const Result<PagePostScript> page = postScriptOfPage(opaque->pdf, wholePoints(opaque->size), context);
+  if (!page) return page.error();
+  EngineBytes result{writeEps(opaque->size, *page, images), {}};
+  result.report.regionsRasterised = int(images.size());
+  double area = 0;
+  for (const EpsImage& image : std::as_const(images)) area += image.rect.width() * image.rect.height();
+  result.report.rasterisedAreaShare = std::min(1.0, area / (opaque->size.width() * opaque->size.height()));
+  return result;
 }
 
 }  // namespace norvex::engine

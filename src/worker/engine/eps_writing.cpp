@@ -1,0 +1,127 @@
+#include "worker/engine/eps_writing.h"
+
+#include <QDateTime>
+
+#include <cmath>
+
+#include "worker/engine/pdf_numbers.h"
+
+namespace norvex::engine {
+namespace {
+
+QByteArray creationDate() {
+  bool fixed = false;
+  const qint64 epoch = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&fixed);
+  const QDateTime date = fixed ? QDateTime::fromSecsSinceEpoch(epoch, Qt::UTC) : QDateTime::currentDateTimeUtc();
+  return date.toString(Qt::ISODate).toLatin1();
+}
+
+QByteArray header(QSizeF size, bool hasImages) {
+  const QByteArray wide = QByteArray::number(int(std::ceil(size.width() - 1e-6)));
+  const QByteArray high = QByteArray::number(int(std::ceil(size.height() - 1e-6)));
+  return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 " + wide + ' ' + high + "\n%%HiResBoundingBox: 0 0 " +
+         decimal(size.width()) + ' ' + decimal(size.height()) +
+         "\n%%Title: Untitled\n%%Creator: Norvex " NORVEX_VERSION "\n%%CreationDate: " + creationDate() +
+         "\n%%For: \n%%LanguageLevel: " + (hasImages ? "3" : "2") +
+         "\n%%DocumentData: Clean7Bit\n%%Pages: 1\n%%EndComments\n";
+}
+
+QByteArray rectangle(const QRectF& rect) {
+  return decimal(rect.x()) + ' ' + decimal(rect.y()) + ' ' + decimal(rect.width()) + ' ' + decimal(rect.height());
+}
+
+// Everything but the images' places. The images reach a little over the edge of the hole, so that no seam shows.
+QByteArray clipAround(QSizeF size, const QList<EpsImage>& images) {
+  const auto corners = [](const QRectF& r) {
+    const QByteArray w = decimal(r.width());
+    return decimal(r.x()) + ' ' + decimal(r.y()) + " moveto " + w + " 0 rlineto 0 " + decimal(r.height()) +
+           " rlineto -" + w + " 0 rlineto closepath\n";
+  };
+  QByteArray path = "newpath\n" + corners(QRectF(-1, -1, size.width() + 2, size.height() + 2));
+  for (const EpsImage& image : images) {
+    const double inset = 0.5 * image.rect.width() / std::max(1, image.image.width());
+    const QRectF hole = image.rect.adjusted(inset, inset, -inset, -inset);
+    if (hole.width() > 0 && hole.height() > 0) path += corners(hole);
+  }
+  return path + "eoclip newpath\n";
+}
+
+struct Samples {
+  QByteArray bytes;  ///< for each pixel mask (0: painted), red, green, blue; without masks red, green, blue
+  bool masked = false;
+};
+
+Samples samplesOf(const QImage& image) {
+  Samples result;
+  for (int y = 0; y < image.height() && !result.masked; ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    for (int x = 0; x < image.width() && !result.masked; ++x) result.masked = qAlpha(row[x]) == 0;
+  }
+  result.bytes.reserve(qsizetype(image.width()) * image.height() * (result.masked ? 4 : 3));
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    for (int x = 0; x < image.width(); ++x) {
+      const int white = 255 - qAlpha(row[x]);
+      if (result.masked) result.bytes += char(white == 255 ? 255 : 0);
+      result.bytes += char(qRed(row[x]) + white);
+      result.bytes += char(qGreen(row[x]) + white);
+      result.bytes += char(qBlue(row[x]) + white);
+    }
+  }
+  return result;
+}
+
+// In a procedure, because the interpreter must have read everything up to the data before it begins to draw.
+QByteArray imageText(const EpsImage& part) {
+  const Samples samples = samplesOf(part.image);
+  const QByteArray w = QByteArray::number(part.image.width());
+  const QByteArray h = QByteArray::number(part.image.height());
+  const QByteArray common = "/ImageType 1 /Width " + w + " /Height " + h + " /BitsPerComponent 8 /ImageMatrix [" + w +
+                            " 0 0 -" + h + " 0 " + h + "]";
+  const QByteArray colours = "<< " + common + " /Decode [0 1 0 1 0 1] /DataSource D /FlateDecode filter >>";
+  const QByteArray dictionary =
+      samples.masked ? "<< /ImageType 3 /InterleaveType 1 /DataDict " + colours + " /MaskDict << " + common +
+                           " /Decode [0 1] >> >>"
+                     : colours;
+  return "gsave\n" + decimal(part.rect.x()) + ' ' + decimal(part.rect.y()) + " translate " +
+         decimal(part.rect.width()) + ' ' + decimal(part.rect.height()) +
+         " scale\n{ 1 dict begin /D currentfile /ASCII85Decode filter def /DeviceRGB setcolorspace\n" + dictionary +
+         " image D flushfile end } exec\n" + ascii85(qCompress(samples.bytes, 9).mid(4)) + "\ngrestore\n";
+}
+
+}  // namespace
+
+QByteArray ascii85(const QByteArray& bytes) {
+  QByteArray text;
+  int column = 0;
+  const auto put = [&](char c) {
+    text += c;
+    if (++column == 76) text += '\n', column = 0;
+  };
+  for (qsizetype i = 0; i < bytes.size(); i += 4) {
+    const int count = int(std::min<qsizetype>(4, bytes.size() - i));
+    quint32 group = 0;
+    for (int k = 0; k < 4; ++k) group = (group << 8) | (k < count ? quint8(bytes[i + k]) : 0u);
+    if (group == 0 && count == 4) {
+      put('z');
+      continue;
+    }
+    char digits[5];
+    for (int k = 4; k >= 0; --k, group /= 85) digits[k] = char('!' + group % 85);
+    for (int k = 0; k <= count; ++k) put(digits[k]);
+  }
+  return text + "~>";
+}
+
+QByteArray writeEps(QSizeF size, const PagePostScript& page, const QList<EpsImage>& images) {
+  QByteArray eps = header(size, !images.isEmpty());
+  eps += "%%BeginProlog\n" + page.procedures + "%%EndProlog\n%%Page: 1 1\nsave\n" +
+         rectangle(QRectF(QPointF(0, 0), size)) + " rectclip\n";
+  if (!images.isEmpty()) eps += "gsave\n" + clipAround(size, images);
+  eps += page.setup + page.page;
+  if (!images.isEmpty()) eps += "grestore\n";
+  for (const EpsImage& image : images) eps += imageText(image);
+  return eps + "restore showpage\n%%Trailer\n%%EOF\n";
+}
+
+}  // namespace norvex::engine

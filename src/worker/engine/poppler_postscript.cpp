@@ -1,0 +1,123 @@
+#include "worker/engine/poppler_postscript.h"
+
+// GIO has members called "signals", which Qt makes a macro of.
+#pragma push_macro("signals")
+#undef signals
+#include <poppler.h>
+#pragma pop_macro("signals")
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QTemporaryFile>
+
+#include <memory>
+#include <optional>
+
+namespace norvex::engine {
+namespace {
+
+struct GObjectRelease {
+  void operator()(void* object) const { g_object_unref(object); }
+};
+
+const Error kUnexpected{ErrorKind::Unsupported, QStringLiteral("the page cannot be written as PostScript")};
+
+// The text between the lines `begin` and `end`; nothing when one is missing.
+std::optional<QByteArray> between(const QByteArray& text, const QByteArray& begin, const QByteArray& end) {
+  const qsizetype from = text.indexOf('\n' + begin + '\n');
+  if (from < 0) return std::nullopt;
+  const qsizetype start = from + begin.size() + 2;
+  const qsizetype stop = text.indexOf('\n' + end + '\n', start - 1);
+  if (stop < 0) return std::nullopt;
+  return text.mid(start, std::max<qsizetype>(0, stop + 1 - start));
+}
+
+// Comments that would be taken for this file's own, or that speak for somebody else's.
+bool isForeignComment(QByteArrayView line) {
+  for (const char* keyword :
+       {"%%Title", "%%Creator", "%%CreationDate", "%%For:", "%%Copyright", "%%Version", "%%BoundingBox",
+        "%%HiResBoundingBox", "%%EndComments", "%%Routing", "%%BeginResource", "%%EndResource", "%%EOF", "%!"})
+    if (line.startsWith(keyword)) return true;
+  return false;
+}
+
+// What sets up paper or the printer has no place in a picture that is placed on somebody's page.
+bool isForPrinters(QByteArrayView line) {
+  return line.endsWith("pdfSetup") || line.endsWith("pdfSetupPaper") || line == QByteArrayView("{} settransfer");
+}
+
+QByteArray sevenBit(QByteArrayView line) {
+  QByteArray result;
+  for (const char c : line) {
+    const auto byte = quint8(c);
+    if (byte < 0x80)
+      result += c;
+    else
+      result += '\\' + QByteArray::number(byte, 8);
+  }
+  return result;
+}
+
+QByteArray cleaned(const QByteArray& text) {
+  QByteArray result;
+  result.reserve(text.size());
+  qsizetype start = 0;
+  while (start < text.size()) {
+    qsizetype end = text.indexOf('\n', start);
+    if (end < 0) end = text.size();
+    const QByteArrayView line = QByteArrayView(text).sliced(start, end - start);
+    start = end + 1;
+    if (isForeignComment(line) || isForPrinters(line)) continue;
+    QByteArray kept = sevenBit(line);
+    if (kept.startsWith('(')) kept.replace("%%Copyright:", "%\\045Copyright:");  // shown text that says so
+    result += kept + '\n';
+  }
+  return result;
+}
+
+}  // namespace
+
+Result<PagePostScript> takeApart(const QByteArray& postScript) {
+  const auto procedures = between(postScript, "%%BeginProlog", "%%EndProlog");
+  const auto setup = between(postScript, "%%BeginSetup", "%%EndSetup");
+  const qsizetype page = postScript.indexOf("\n%%EndPageSetup\n");
+  const qsizetype trailer = postScript.lastIndexOf("\n%%PageTrailer\n");
+  if (!procedures || !setup || page < 0 || trailer < page) return kUnexpected;
+  const qsizetype begin = page + qsizetype(sizeof "\n%%EndPageSetup\n") - 1;
+  PagePostScript result;
+  result.procedures = cleaned(*procedures);
+  result.setup = cleaned(*setup);
+  result.page = cleaned(postScript.mid(begin, trailer + 1 - begin));
+  if (!result.page.endsWith("showpage\n")) return kUnexpected;
+  result.page.chop(qsizetype(sizeof "showpage\n") - 1);
+  result.page = "pdfStartPage\n" + result.page + "pdfEndPage\nend\n";
+  return result;
+}
+
+Result<PagePostScript> postScriptOfPage(const QByteArray& pdf, QSize pageSize, const EngineContext& context) {
+  QTemporaryFile file(context.scratchFolder + QStringLiteral("/page-XXXXXX.ps"));
+  if (!file.open())
+    return Error{ErrorKind::CannotWrite, QStringLiteral("the scratch folder cannot be written")};
+  {
+    GBytes* bytes = g_bytes_new_static(pdf.constData(), gsize(pdf.size()));
+    GError* error = nullptr;
+    const std::unique_ptr<PopplerDocument, GObjectRelease> document(
+        poppler_document_new_from_bytes(bytes, nullptr, &error));
+    g_bytes_unref(bytes);
+    g_clear_error(&error);
+    if (!document || poppler_document_get_n_pages(document.get()) < 1) return kUnexpected;
+    const std::unique_ptr<PopplerPage, GObjectRelease> page(poppler_document_get_page(document.get(), 0));
+    const int descriptor = ::open(QFile::encodeName(file.fileName()).constData(), O_WRONLY | O_TRUNC | O_CLOEXEC);
+    if (!page || descriptor < 0) return kUnexpected;
+    // The generator owns the descriptor and writes the end of its output when it is released.
+    const std::unique_ptr<PopplerPSFile, GObjectRelease> generator(
+        poppler_ps_file_new_fd(document.get(), descriptor, 0, 1));
+    poppler_ps_file_set_paper_size(generator.get(), pageSize.width(), pageSize.height());
+    poppler_page_render_to_ps(page.get(), generator.get());
+  }
+  return takeApart(file.readAll());
+}
+
+}  // namespace norvex::engine

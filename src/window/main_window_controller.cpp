@@ -59,6 +59,7 @@ void MainWindowController::loadWindow() {
 void MainWindowController::takeOutlets() {
   window_ = ui_->window;
   window_->setParent(nullptr, Qt::Window);
+  window_->setAttribute(Qt::WA_Moved, false);  // the interface file's origin is no wish for a place on the screen
   scrollArea_ = ui_->zoomingScrollView;
   viewWidget_ = ui_->view;
   scrollArea_->setDocumentWidget(viewWidget_);
@@ -125,7 +126,7 @@ void MainWindowController::closing() {
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event) {
   if (watched == window_) {
     if (event->type() == QEvent::Close) closing();
-    if (event->type() == QEvent::WindowStateChange) setWindowSize();
+    if (event->type() == QEvent::WindowStateChange) windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));
   }
   if (watched == inspectorWindow && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
     inspectorToolbarItem->setChecked(event->type() == QEvent::Show);

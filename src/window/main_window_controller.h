@@ -23,6 +23,7 @@
 
 class QAction;
 class QLabel;
+class QWindowStateChangeEvent;
 
 namespace Ui {
 class MainWindowController;
@@ -141,6 +142,8 @@ class MainWindowController final : public QObject,
   void followRendering();
   void showProblem(const Error& error);
   void stopWork();
+  /// Reads the file again and comes back to the same zoom, angle and place.
+  void reloadInPlace();
   void messageActionChosen();
   // main_window_commands.cpp
   void connectControls();
@@ -153,6 +156,7 @@ class MainWindowController final : public QObject,
   // main_window_sizing.cpp
   [[nodiscard]] WindowMeasures windowMeasures() const;
   void settleLayout() const;
+  void windowStateDidChange(const QWindowStateChangeEvent& event);
   void restoreFrame();
   void saveFrame() const;
   // main_window_inspector.cpp

@@ -209,7 +209,7 @@ void MainWindowController::resetRotationAndZoom() {
   setZoomFactor(1.0);
   setWindowSize();
   zoomingScrollView()->bind(factorBindingName, this, "zoomFactor");
-  scrollArea_->synchronize();
+  scrollArea_->scrollToTop();
 }
 
 }  // namespace norvex

@@ -6,6 +6,9 @@
 #include "platform/qt/loading_card.h"
 #include "platform/qt/message_bar.h"
 #include "platform/qt/norvex_view_widget.h"
+#include "platform/qt/number_field.h"
+#include "platform/qt/zooming_scroll_area.h"
+#include "platform/qt/zy_dial_knob.h"
 #include "platform/qt/zy_image_view.h"
 #include "window/main_window_controller.h"
 #include "window/stoppable_process.h"
@@ -68,10 +71,20 @@ void MainWindowController::messageActionChosen() {
 
 void MainWindowController::fileDidChangeOnDisk() {
   if (!window_ || !document_) return;
-  messageAction_ = [this] {
-    if (document_) document_->revertDocumentToSaved();
-  };
+  messageAction_ = [this] { reloadInPlace(); };
   messageBar_->showMessage(MessageBar::Kind::Information, localizedString("The file has changed on disk."), localizedString("Reload"));
+}
+
+void MainWindowController::reloadInPlace() {
+  if (!document_) return;
+  const double angle = dialKnob()->DMSValue();
+  const double factor = zoomFactor_;
+  const QPointF offset = scrollArea_->scrollOffset();
+  document_->revertDocumentToSaved();
+  rotateField()->setDoubleValue(angle);
+  rotateChange(angle);
+  zoomingScrollView()->zoomTo(factor);
+  scrollArea_->setScrollOffset(offset);
 }
 
 void MainWindowController::pdfImageRepDidLoad(bool success, const Error& error) {

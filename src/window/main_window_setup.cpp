@@ -11,6 +11,7 @@
 #include "platform/qt/number_field.h"
 #include "platform/qt/number_matrix.h"
 #include "platform/qt/path_control.h"
+#include "platform/qt/quiet_text.h"
 #include "platform/qt/source_text_view.h"
 #include "platform/qt/zooming_scroll_area.h"
 #include "platform/qt/zy_dial_knob.h"
@@ -108,6 +109,7 @@ void MainWindowController::setUpTexts() {
     forms << each.form;
   }
   ZyForm::alignTitles(forms);
+  makeQuiet(*previewField);
 }
 
 void MainWindowController::finishSetUp() {

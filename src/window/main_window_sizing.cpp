@@ -1,4 +1,5 @@
 // The document window's size.
+#include <QWindowStateChangeEvent>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -30,10 +31,15 @@ int limited(double length) { return static_cast<int>(std::ceil(std::min(length, 
 }  // namespace
 
 void MainWindowController::settleLayout() const {
-  // A hidden or just changed window has not laid out its children yet, and the rule measures them.
+  // A hidden window does not lay its children out when it is resized, and the rule measures them.
+  if (window_->isVisible()) return;
   window_->ensurePolished();
-  if (window_->layout()) window_->layout()->activate();
-  if (QWidget* content = window_->centralWidget()) content->layout()->activate();
+  window_->layout()->activate();
+  window_->layout()->setGeometry(window_->rect());
+  if (QWidget* content = window_->centralWidget()) {
+    content->layout()->activate();
+    content->layout()->setGeometry(content->rect());
+  }
 }
 
 WindowMeasures MainWindowController::windowMeasures() const {
@@ -54,7 +60,6 @@ QSizeF MainWindowController::calcWindowMaxSize(const QSizeF& size) const { retur
 
 void MainWindowController::setWindowSize() {
   if (!window_) return;
-  // A full screen has the size it has; the rule is applied when it ends.
   if (window_->isFullScreen()) {
     window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     return;
@@ -68,6 +73,13 @@ void MainWindowController::setWindowSize() {
   // Before the window is on the screen its place is the window manager's to choose.
   if (window_->isVisible()) window_->setGeometry(onScreen(rule.frame));
   else window_->resize(onScreen(rule.frame).size());
+}
+
+void MainWindowController::windowStateDidChange(const QWindowStateChangeEvent& event) {
+  // A full screen or a maximised window has the size it has; the rule is caught up with when that ends.
+  const Qt::WindowStates large = Qt::WindowFullScreen | Qt::WindowMaximized;
+  ui_->fullScreenAction->setChecked(window_->isFullScreen());
+  if ((event.oldState() & large) && !(window_->windowState() & large)) setWindowSize();
 }
 
 void MainWindowController::restoreFrame() {

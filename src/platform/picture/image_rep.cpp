@@ -16,8 +16,11 @@ namespace {
 /// The device pixels that a painter may touch.
 QRect visibleDeviceRect(const QPainter& painter) {
   const QPaintDevice* device = painter.device();
-  const QRect all(0, 0, int(std::ceil(device->width() * device->devicePixelRatioF())),
-                  int(std::ceil(device->height() * device->devicePixelRatioF())));
+  const double ratio = device->devicePixelRatioF();
+  // A widget is painted into the middle of its window's store: device pixels are counted from the window's corner.
+  const QPointF corner = painter.deviceTransform().map(QPointF(0, 0)) - painter.combinedTransform().map(QPointF(0, 0)) * ratio;
+  const QRect all(QPoint(int(std::floor(corner.x())), int(std::floor(corner.y()))),
+                  QSize(int(std::ceil(device->width() * ratio)), int(std::ceil(device->height() * ratio))));
   if (!painter.hasClipping()) return all;
   return all & pixelRect(painter.deviceTransform().mapRect(painter.clipBoundingRect()));
 }

@@ -7,7 +7,8 @@ QString windowStyleSheet() {
       "QToolBar { border: none; padding: 4px 8px; spacing: 2px; background: palette(window); }"
       "QToolBar QToolButton { padding: 4px 7px; border: 1px solid transparent; border-radius: 6px; }"
       "QToolBar QToolButton:hover:enabled { background: palette(midlight); }"
-      "QToolBar QToolButton:pressed, QToolBar QToolButton:checked { background: palette(mid); }"
+      "QToolBar QToolButton:checked { background: palette(midlight); border-color: palette(mid); }"
+      "QToolBar QToolButton:pressed { background: palette(mid); }"
       "QToolBar QToolButton:focus { border-color: palette(highlight); }"
       "QToolBar::separator { width: 1px; margin: 6px 6px; background: palette(mid); }"
       "QMenuBar { background: palette(window); border: none; padding: 1px 4px; }"
@@ -17,7 +18,8 @@ QString windowStyleSheet() {
       "QTabBar::tab:selected { border-bottom: 2px solid palette(highlight); }"
       "QTabBar::tab:!selected { color: palette(placeholder-text); }"
       "QGroupBox { border: none; margin-top: 1.7em; padding: 0; }"
-      "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0; }"
+      "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0; left: -2px; }"
+      "#descriptionView QPlainTextEdit { border: 1px solid palette(mid); border-radius: 6px; background: palette(base); }"
       "Line { color: palette(mid); }");
 }
 

@@ -105,7 +105,12 @@ void ZoomingScrollArea::applyBackground() {
   if (document_) document_->setBackground(drawsBackground_ ? background_ : QColor());
 }
 
-QSizeF ZoomingScrollArea::contentSize() const { return clip_->size(); }
+QSizeF ZoomingScrollArea::contentSize() const {
+  // From this widget's own size, which is known before a hidden window lays its grandchildren out.
+  return QSizeF(std::max(0, width() - kBarExtent), std::max(0, height() - stripHeight()));
+}
+
+int ZoomingScrollArea::stripHeight() const { return std::max(popUp_->sizeHint().height() + 4, kBarExtent + 8); }
 
 double ZoomingScrollArea::fittingFactor() const {
   const QSizeF size = document_ ? document_->view().frame().size() : QSizeF();
@@ -138,13 +143,13 @@ void ZoomingScrollArea::placeCards() {
 }
 
 void ZoomingScrollArea::layOut() {
-  const int strip = std::max(popUp_->sizeHint().height(), kBarExtent + 8);
-  const QSize clipSize(std::max(0, width() - kBarExtent), std::max(0, height() - strip));
+  const int strip = stripHeight();
+  const QSize clipSize = contentSize().toSize();
   clip_->setGeometry(QRect(QPoint(0, 0), clipSize));
   vertical_->setGeometry(clipSize.width(), 0, kBarExtent, clipSize.height());
   const TiledBar tiled = scrollView_.tile(QRectF(0, clipSize.height(), clipSize.width(), strip),
                                           QSizeF(popUp_->sizeHint().width() + 12, strip));
-  popUp_->setGeometry(tiled.popUp.toRect());
+  popUp_->setGeometry(tiled.popUp.toRect().adjusted(8, 2, -4, -2));
   const QRect bar = tiled.bar.toRect();
   horizontal_->setGeometry(bar.x(), bar.y() + (strip - kBarExtent) / 2, bar.width(), kBarExtent);
   if (document_) document_->setGeometry(clip_->rect());
@@ -186,6 +191,18 @@ void ZoomingScrollArea::scrolled() {
   };
   clipView->setScrollOffset({moved(before.x(), horizontal_), moved(before.y(), vertical_)});
   if (document_) document_->update();
+}
+
+void ZoomingScrollArea::scrollToTop() { setScrollOffset({0, 0}); }
+
+QPointF ZoomingScrollArea::scrollOffset() {
+  const ClipView* clipView = scrollView_.clipView();
+  return clipView ? clipView->scrollOffset() : QPointF();
+}
+
+void ZoomingScrollArea::setScrollOffset(const QPointF& offset) {
+  if (ClipView* clipView = scrollView_.clipView()) clipView->setScrollOffset(offset);
+  synchronize();
 }
 
 void ZoomingScrollArea::scrollBy(const QPointF& delta) {

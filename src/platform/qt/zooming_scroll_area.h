@@ -45,6 +45,11 @@ class ZoomingScrollArea final : public QWidget {
 
   /// The largest factor at which the whole view can be seen.
   [[nodiscard]] double fittingFactor() const;
+  /// Shows the upper left corner of the view.
+  void scrollToTop();
+  /// Where the clip stands, to come back to it later; logical pixels from the view's upper left corner.
+  [[nodiscard]] QPointF scrollOffset();
+  void setScrollOffset(const QPointF& offset);
   /// Lays a card over the clip, centred at its top or bottom edge. Not owned.
   void addCard(QWidget* card, Qt::Edge edge);
 
@@ -67,6 +72,7 @@ class ZoomingScrollArea final : public QWidget {
 
  private:
   void fillPopUp();
+  [[nodiscard]] int stripHeight() const;
   void layOut();
   void placeCards();
   void styleBars();

@@ -15,6 +15,9 @@ inline constexpr int maximumInflateRatio = 1000;  ///< checked beyond the first 
 
 /// XML that nests until the parser's or the drawing's stack is gone.
 inline constexpr int maximumXmlDepth = 512;
+/// References from group to group, each of them allowed, whose drawing together uses up the renderer's stack (some
+/// 5 KiB a level of 8 MiB).
+inline constexpr int maximumDrawingDepth = 1000;
 /// XML with millions of empty elements, each of which costs memory in two trees.
 inline constexpr int maximumXmlElements = 1'000'000;
 /// Entities that expand to one another ("a billion laughs"); what Illustrator writes stays far below.

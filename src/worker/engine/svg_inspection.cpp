@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+#include "worker/engine/svg_nesting.h"
 #include "worker/limits.h"
 
 namespace norvex::engine {
@@ -50,6 +51,7 @@ class Inspector {
   void end();
   void characters(const xmlChar* bytes, int length);
   void lookAt(const QString& name, const Attribute& attribute);
+  void followUrls(const QString& value);
   void lookAtReference(const QString& element, const QString& value);
   void declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId, xmlChar* content);
   xmlEntity* expand(xmlEntity* entity);
@@ -59,6 +61,7 @@ class Inspector {
   std::unique_ptr<xmlDoc, FreeDocument> entities_;  // holds the declared entities, nothing else
   std::unique_ptr<xmlParserCtxt, FreeContext> parser_;
   SvgInspection found_;
+  SvgNesting nesting_;
   std::optional<Error> error_;
   QString* collecting_ = nullptr;  // title or description
   int collectingDepth_ = 0;
@@ -143,6 +146,10 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
   if (svg && name == QLatin1String("style")) found_.hasStyleSheet = true;
   if (svg && name == QLatin1String("script")) found_.hasScript = true;
   if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set"))) found_.hasAnimation = true;
+  QString id;
+  for (const Attribute& attribute : attributes)
+    if (attribute.name == QLatin1String("id")) id = attribute.value;
+  nesting_.open(id);
   for (const Attribute& attribute : attributes) lookAt(name, attribute);
 }
 
@@ -159,7 +166,14 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
   static const QSet<QString> layers{"opacity", "filter", "mask", "mix-blend-mode", "isolation"};
   if (layers.contains(attribute.name) || (attribute.name == QLatin1String("style") && value.contains(layer)))
     found_.hasLayers = true;
+  if (value.contains(QLatin1String("url("))) followUrls(value);
+  if (attribute.name == QLatin1String("href") && value.trimmed().startsWith('#')) nesting_.refer(value.trimmed().mid(1));
   if (attribute.name == QLatin1String("href")) lookAtReference(name, value.trimmed());
+}
+
+void Inspector::followUrls(const QString& value) {
+  static const QRegularExpression url("url\\(\\s*['\"]?#([^)'\"]*)");
+  for (auto match = url.globalMatch(value); match.hasNext();) nesting_.refer(match.next().captured(1).trimmed());
 }
 
 void Inspector::lookAtReference(const QString& element, const QString& value) {
@@ -177,6 +191,7 @@ void Inspector::end() {
   textRun_ = 0;
   if (collecting_ != nullptr && depth_ == collectingDepth_) collecting_ = nullptr;
   --depth_;
+  nesting_.close();
 }
 
 void Inspector::characters(const xmlChar* bytes, int length) {
@@ -238,6 +253,9 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
   if (error_) return *error_;
   if (parser_->wellFormed == 0) return parserError();
   if (found_.rootName.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the document is not XML")};
+  if (nesting_.deepest() > limits::maximumDrawingDepth)
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the references of the document nest more than %1 deep").arg(limits::maximumDrawingDepth)};
   found_.hasLayers = found_.hasLayers || found_.hasStyleSheet;
   if (!found_.title.isNull()) found_.title = found_.title.simplified();
   if (!found_.description.isNull()) found_.description = found_.description.trimmed();

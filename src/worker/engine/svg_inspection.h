@@ -31,8 +31,8 @@ struct SvgInspection {
 };
 
 /// Entities are expanded as they are used; external ones, the external DTD subset included, are never loaded.
-/// Fails with NotParsable (not well-formed, no SVG root) or Limit (maximumXmlDepth, maximumXmlElements,
-/// maximumEntityExpansion).
+/// Fails with NotParsable (not well-formed, no SVG root) or Limit (maximumXmlDepth, maximumDrawingDepth,
+/// maximumXmlElements, maximumEntityExpansion).
 [[nodiscard]] Result<SvgInspection> inspectSvg(const QByteArray& utf8);
 
 }  // namespace norvex::engine

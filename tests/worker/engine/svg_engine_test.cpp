@@ -111,6 +111,39 @@ class SvgEngineTest : public QObject {
     QCOMPARE(image.pixel(40, 51), 0u);
   }
 
+  void layersAreRightAtEveryAngle() {
+    OpenSvg document(svgOf("width='96' height='96'", "<g opacity='0.5'><rect width='96' height='96' fill='#f00'/></g>"));
+    for (int degrees = 0; degrees < 360; degrees += 15) {
+      RenderRequest request;
+      request.pixelSize = QSize(120, 120);
+      request.pictureToDevice = QTransform::fromTranslate(-36, -36) * QTransform().rotate(degrees) *
+                                QTransform::fromScale(1, -1) * QTransform::fromTranslate(60, 60);
+      const Result<QImage> image = document->render(request);
+      QVERIFY2(image, qPrintable(QString::number(degrees)));
+      const QTransform back = request.pictureToDevice.inverted();
+      for (int y = 0; y < 120; y += 3) {
+        for (int x = 0; x < 120; x += 3) {
+          const QPointF at = back.map(QPointF(x + 0.5, y + 0.5));
+          if (QRectF(2, 2, 68, 68).contains(at)) QVERIFY(std::abs(qAlpha(image->pixel(x, y)) - 128) <= 1);
+          if (!QRectF(-2, -2, 76, 76).contains(at)) QCOMPARE(image->pixel(x, y), 0u);
+        }
+      }
+    }
+  }
+
+  void aFilterIsDrawnHoweverLargeThePicture() {
+    OpenSvg document(svgOf("width='2000' height='2000'", "<filter id='f'><feOffset dx='0' dy='0'/></filter>"
+                                                         "<rect width='1000' height='2000' filter='url(#f)' fill='#00f'/>"));
+    RenderRequest request;  // 64 times as large: 128000 pixels a side, of which the middle is asked for
+    request.pixelSize = QSize(100, 100);
+    const double scale = 64 * 4.0 / 3;
+    request.pictureToDevice = QTransform(scale, 0, 0, -scale, 50 - 750 * scale, 50 + 750 * scale);
+    const Result<QImage> image = document->render(request);
+    QVERIFY2(image, image ? "" : qPrintable(image.error().message));
+    QCOMPARE(image->pixel(45, 50), 0xff0000ffu);
+    QCOMPARE(image->pixel(54, 50), 0u);
+  }
+
   void tooLargeImagesAreRefused() {
     OpenSvg document(svgOf("width='100' height='50'", kRedLeftTop));
     RenderRequest request;

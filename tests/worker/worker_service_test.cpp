@@ -5,6 +5,7 @@
 #include <csignal>
 #include <thread>
 
+#include "forked_check.h"
 #include "kit/test_main.h"
 #include "platform/picture/worker_client.h"
 #include "process_watch.h"
@@ -298,6 +299,18 @@ class WorkerServiceTest : public QObject {
     QVERIFY(process->render(drawing()).ok());
     QVERIFY(service_->programProcessId() != program);
     QCOMPARE(runtime_->entries().size(), 1);  // what the dead program left is gone
+  }
+
+  void nothingOutlivesAKilledProgram() {
+    const int killed = inForkedChild([] {
+      WorkerService service(kStub);
+      const auto process = service.open("sleepy", PictureKind::Pdf);
+      if (process->facts().ok()) ::raise(SIGKILL);
+      return 1;
+    });
+    QCOMPARE(killed, -1);
+    // The warm program removes this folder as its last act, after its children.
+    QVERIFY(eventually([&] { return runtime_->entries().isEmpty(); }));
   }
 
   void aMissingProgramIsAnOrdinaryError() {

@@ -5,9 +5,17 @@
 #include <cmath>
 
 #include "worker/engine/pdf_numbers.h"
+#include "worker/engine/smooth_shading.h"
 
 namespace norvex::engine {
 namespace {
+
+// The page leaves operands behind now and then. Whoever places the file on a page finds the stacks as they were.
+const QByteArray kOpening =
+    "3 dict begin /NorvexDictionaries countdictstack def count /NorvexOperands exch def /NorvexState save def\n";
+const QByteArray kClosing =
+    "countdictstack NorvexDictionaries sub { end } repeat count NorvexOperands sub { pop } repeat\n"
+    "NorvexState end restore\n";
 
 QByteArray creationDate() {
   bool fixed = false;
@@ -115,13 +123,13 @@ QByteArray ascii85(const QByteArray& bytes) {
 
 QByteArray writeEps(QSizeF size, const PagePostScript& page, const QList<EpsImage>& images) {
   QByteArray eps = header(size, !images.isEmpty());
-  eps += "%%BeginProlog\n" + page.procedures + "%%EndProlog\n%%Page: 1 1\nsave\n" +
+  eps += "%%BeginProlog\n" + page.procedures + smoothShadingProcedures() + "%%EndProlog\n%%Page: 1 1\n" + kOpening +
          rectangle(QRectF(QPointF(0, 0), size)) + " rectclip\n";
   if (!images.isEmpty()) eps += "gsave\n" + clipAround(size, images);
   eps += page.setup + page.page;
   if (!images.isEmpty()) eps += "grestore\n";
   for (const EpsImage& image : images) eps += imageText(image);
-  return eps + "restore showpage\n%%Trailer\n%%EOF\n";
+  return eps + kClosing + "showpage\n%%Trailer\n%%EOF\n";
 }
 
 }  // namespace norvex::engine

@@ -38,7 +38,7 @@ std::optional<QByteArray> between(const QByteArray& text, const QByteArray& begi
 bool isForeignComment(QByteArrayView line) {
   for (const char* keyword :
        {"%%Title", "%%Creator", "%%CreationDate", "%%For:", "%%Copyright", "%%Version", "%%BoundingBox",
-        "%%HiResBoundingBox", "%%EndComments", "%%Routing", "%%BeginResource", "%%EndResource", "%%EOF", "%!"})
+        "%%HiResBoundingBox", "%%EndComments", "%%Routing", "%%BeginResource", "%%EndResource", "%%EOF", "%!PS", "%!FontType"})
     if (line.startsWith(keyword)) return true;
   return false;
 }

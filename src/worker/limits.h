@@ -22,6 +22,8 @@ inline constexpr int maximumDrawingDepth = 1000;
 inline constexpr int maximumXmlElements = 1'000'000;
 /// Entities that expand to one another ("a billion laughs"); what Illustrator writes stays far below.
 inline constexpr qint64 maximumEntityExpansion = 64LL << 20;
+/// Entities of a few bytes that are used millions of times: each use costs the parser far more than its bytes.
+inline constexpr int maximumEntityUses = 200'000;
 
 /// A page tree made to be walked for ever.
 inline constexpr int maximumPages = 100'000;

@@ -68,6 +68,7 @@ class Inspector {
   int depth_ = 0;
   int elements_ = 0;
   qint64 expanded_ = 0;
+  int uses_ = 0;
   qsizetype textRun_ = 0;
 };
 
@@ -95,7 +96,12 @@ void Inspector::declare(const xmlChar* name, int type, const xmlChar* publicId, 
 xmlEntity* Inspector::expand(xmlEntity* entity) {
   if (error_) return nullptr;
   if (entity == nullptr || entity->etype == XML_INTERNAL_PREDEFINED_ENTITY) return entity;
-  expanded_ += entity->length + 1;
+  if (++uses_ > limits::maximumEntityUses) {
+    stop(ErrorKind::Limit,
+         QStringLiteral("the document uses entities more than %1 times").arg(limits::maximumEntityUses));
+    return nullptr;
+  }
+  expanded_ += entity->length;
   if (expanded_ <= limits::maximumEntityExpansion) return entity;
   stop(ErrorKind::Limit, QStringLiteral("the entities of the document expand to more than %1 MiB")
                              .arg(limits::maximumEntityExpansion >> 20));

@@ -32,7 +32,7 @@ struct SvgInspection {
 
 /// Entities are expanded as they are used; external ones, the external DTD subset included, are never loaded.
 /// Fails with NotParsable (not well-formed, no SVG root) or Limit (maximumXmlDepth, maximumDrawingDepth,
-/// maximumXmlElements, maximumEntityExpansion).
+/// maximumXmlElements, maximumEntityExpansion, maximumEntityUses).
 [[nodiscard]] Result<SvgInspection> inspectSvg(const QByteArray& utf8);
 
 }  // namespace norvex::engine

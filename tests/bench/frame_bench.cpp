@@ -1,10 +1,11 @@
-// How long a frame takes while a picture is scrolled, zoomed and turned, and how long until it is sharp again.
+// How long a frame takes while a picture is scrolled, zoomed and turned, and how long until it is sharp
+// again.
 //
 // usage: frame_bench [FILE] [--width PIXELS] [--height PIXELS] [--worker PROGRAM]
 //
-// FILE is opened by the picture process; without one a synthetic picture is shown whose every rendering takes long.
-// Prints one line a gesture: median, 99th percentile and maximum of the frames' milliseconds, and the same percentile
-// of the processor time that they used (the one to look at when the machine has other work).
+// FILE is opened by the picture process; without one a synthetic picture is shown whose every rendering takes
+// long. Prints one line a gesture: median, 99th percentile and maximum of the frames' milliseconds, and the
+// same percentile of the processor time that they used (the one to look at when the machine has other work).
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -75,12 +76,13 @@ class Bench {
     std::sort(times.begin(), times.end());
     std::sort(processorTimes.begin(), processorTimes.end());
     const double worst = times.at(kFrames * 99 / 100);
-    QTextStream(stdout) << QString(name).leftJustified(16)
-                        << QString::asprintf("median %6.2f   p99 %6.2f   max %6.2f   processor p99 %6.2f   %s   sharp after ",
-                                             times.at(kFrames / 2), worst, times.last(),
-                                             processorTimes.at(kFrames * 99 / 100),
-                                             worst <= kBudget ? "within 8 ms" : "OVER 8 ms")
-                        << (sharp ? QString::number(timer.elapsed()) + " ms" : QString("more than a minute")) << '\n';
+    QTextStream(stdout)
+        << QString(name).leftJustified(16)
+        << QString::asprintf("median %6.2f   p99 %6.2f   max %6.2f   processor p99 %6.2f   %s   sharp after ",
+                             times.at(kFrames / 2), worst, times.last(),
+                             processorTimes.at(kFrames * 99 / 100),
+                             worst <= kBudget ? "within 8 ms" : "OVER 8 ms")
+        << (sharp ? QString::number(timer.elapsed()) + " ms" : QString("more than a minute")) << '\n';
   }
 
  private:
@@ -106,7 +108,8 @@ class Bench {
       QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
       QThread::msleep(1);
     }
-    if (const auto error = rep_.renderingError()) QTextStream(stderr) << "frame_bench: " << error->message << '\n';
+    if (const auto error = rep_.renderingError())
+      QTextStream(stderr) << "frame_bench: " << error->message << '\n';
     return rep_.isSharp();
   }
 
@@ -158,9 +161,9 @@ int main(int argc, char** argv) {
     return 1;
   }
   const QSize size(options.value("width").toInt(), options.value("height").toInt());
-  QTextStream(stdout) << QString::asprintf("%d x %d frame, picture of %.0f x %.0f points, loaded in %lld ms\n", size.width(),
-                                           size.height(), loaded->imageRep->size().width(),
-                                           loaded->imageRep->size().height(), timer.elapsed());
+  QTextStream(stdout) << QString::asprintf(
+      "%d x %d frame, picture of %.0f x %.0f points, loaded in %lld ms\n", size.width(), size.height(),
+      loaded->imageRep->size().width(), loaded->imageRep->size().height(), timer.elapsed());
   runAll(*loaded->imageRep, size);
   return 0;
 }

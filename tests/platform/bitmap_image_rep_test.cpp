@@ -26,20 +26,25 @@ class BitmapImageRepTest : public QObject {
   Q_OBJECT
  private slots:
   void greysOfEveryDepthAreShown() {
-    QCOMPARE(rep(2, 1, 8, 1, NSCalibratedWhiteColorSpace, QByteArray("\x00\x80", 2)).toImage().pixel(1, 0), qRgb(128, 128, 128));
+    QCOMPARE(rep(2, 1, 8, 1, NSCalibratedWhiteColorSpace, QByteArray("\x00\x80", 2)).toImage().pixel(1, 0),
+             qRgb(128, 128, 128));
     const QImage one = rep(3, 2, 1, 1, NSCalibratedWhiteColorSpace, QByteArray("\xA0\x40", 2)).toImage();
     QCOMPARE(one.pixel(0, 0), qRgb(255, 255, 255));
     QCOMPARE(one.pixel(1, 0), qRgb(0, 0, 0));
     QCOMPARE(one.pixel(2, 0), qRgb(255, 255, 255));
     QCOMPARE(one.pixel(1, 1), qRgb(255, 255, 255));
-    QCOMPARE(rep(2, 1, 4, 1, NSCalibratedWhiteColorSpace, QByteArray("\x3F", 1)).toImage().pixel(0, 0), qRgb(51, 51, 51));
-    QCOMPARE(rep(4, 1, 2, 1, NSCalibratedWhiteColorSpace, QByteArray("\x1B", 1)).toImage().pixel(2, 0), qRgb(170, 170, 170));
+    QCOMPARE(rep(2, 1, 4, 1, NSCalibratedWhiteColorSpace, QByteArray("\x3F", 1)).toImage().pixel(0, 0),
+             qRgb(51, 51, 51));
+    QCOMPARE(rep(4, 1, 2, 1, NSCalibratedWhiteColorSpace, QByteArray("\x1B", 1)).toImage().pixel(2, 0),
+             qRgb(170, 170, 170));
   }
 
   void coloursAreShown() {
     QCOMPARE(rep(1, 1, 8, 3, NSCalibratedRGBColorSpace, "\x01\x02\x03").toImage().pixel(0, 0), qRgb(1, 2, 3));
-    QCOMPARE(rep(1, 1, 8, 4, NSDeviceCMYKColorSpace, QByteArray("\xFF\x00\x00\x00", 4)).toImage().pixel(0, 0), qRgb(0, 255, 255));
-    NSBitmapImageRep translucent = rep(1, 1, 8, 4, NSCalibratedRGBColorSpace, QByteArray("\x40\x00\x00\x80", 4));
+    QCOMPARE(rep(1, 1, 8, 4, NSDeviceCMYKColorSpace, QByteArray("\xFF\x00\x00\x00", 4)).toImage().pixel(0, 0),
+             qRgb(0, 255, 255));
+    NSBitmapImageRep translucent =
+        rep(1, 1, 8, 4, NSCalibratedRGBColorSpace, QByteArray("\x40\x00\x00\x80", 4));
     translucent.hasAlpha = true;
     const QImage image = translucent.toImage();
     QCOMPARE(reinterpret_cast<const QRgb*>(image.constScanLine(0))[0], qRgba(64, 0, 0, 128));
@@ -83,7 +88,8 @@ class BitmapImageRepTest : public QObject {
     for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied}) {
       QImage image(5, 3, format);
       for (int y = 0; y < 3; ++y)
-        for (int x = 0; x < 5; ++x) image.setPixel(x, y, qRgba(x * 20, y * 30, 7, format == QImage::Format_RGB32 ? 255 : 200));
+        for (int x = 0; x < 5; ++x)
+          image.setPixel(x, y, qRgba(x * 20, y * 30, 7, format == QImage::Format_RGB32 ? 255 : 200));
       const NSBitmapImageRep made = NSBitmapImageRep::fromImage(image);
       QVERIFY(made.isConsistent());
       QCOMPARE(made.hasAlpha, image.hasAlphaChannel());

@@ -22,7 +22,8 @@ class DocumentFileTest : public QObject {
   QString write(const QString& name, const QByteArray& bytes) {
     const QString path = folder_.filePath(name);
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write a test file");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+      qFatal("cannot write a test file");
     return path;
   }
 
@@ -53,7 +54,8 @@ class DocumentFileTest : public QObject {
     QCOMPARE(read.error().kind, ErrorKind::CannotRead);
     QCOMPARE(read.error().message, QStringLiteral("No such file or directory"));
     QCOMPARE(readDocumentFile({}).error().kind, ErrorKind::CannotRead);
-    QCOMPARE(readDocumentFile(write("file", "x") + "/below").error().message, QStringLiteral("Not a directory"));
+    QCOMPARE(readDocumentFile(write("file", "x") + "/below").error().message,
+             QStringLiteral("Not a directory"));
   }
 
   void whatIsNotPermittedSaysSo() {
@@ -69,7 +71,8 @@ class DocumentFileTest : public QObject {
     QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
     QCOMPARE(readDocumentFile(QFile::decodeName(pipe)).error().message,
              QStringLiteral("it is a pipe, not an ordinary file"));
-    QCOMPARE(readDocumentFile("/dev/zero").error().message, QStringLiteral("it is a device, not an ordinary file"));
+    QCOMPARE(readDocumentFile("/dev/zero").error().message,
+             QStringLiteral("it is a device, not an ordinary file"));
     QCOMPARE(readDocumentFile("/dev/null").error().kind, ErrorKind::CannotRead);
   }
 
@@ -129,7 +132,8 @@ class DocumentFileTest : public QObject {
     const QByteArray sent(300000, 'p');
     std::thread writer([&] {
       qsizetype done = 0;
-      while (done < sent.size()) done += ::write(ends[1], sent.constData() + done, size_t(sent.size() - done));
+      while (done < sent.size())
+        done += ::write(ends[1], sent.constData() + done, size_t(sent.size() - done));
       ::close(ends[1]);
     });
     const auto read = readDocumentStream(ends[0]);

@@ -89,7 +89,8 @@ class ImageRepTest : public QObject {
     QTest::newRow("pdf") << QByteArray("%PDF-1.4\n%%BoundingBox: 0 0 10 10\n");
     QTest::newRow("text") << QByteArray("%%BoundingBox: 0 0 10 10\n");
     QTest::newRow("no box") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%EndComments\n");
-    QTest::newRow("flat box") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 5 5 5 90\n%%EndComments\n");
+    QTest::newRow("flat box") << QByteArray(
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 5 5 5 90\n%%EndComments\n");
     QTest::newRow("binary without sections") << QByteArray("\xC5\xD0\xD3\xC6", 4) + QByteArray(27, '\0');
     QTest::newRow("blanks only") << QByteArray(100, ' ');
     QTest::newRow("cut in the mark") << QByteArray("%");
@@ -174,8 +175,9 @@ class ImageRepTest : public QObject {
   void anSvgWithoutFactsAnswersNothing() {
     MemoryPictureService service;
     const auto rep = *ZyWebImageRep::imageRepWithData(service, kSvg);
-    for (const char* key : {ZyWebViewTitleKey, ZyWebViewDescKey, ZyWebViewEncodingKey, ZyWebViewEncodingNumberKey,
-                            ZyWebViewFixedRatioXKey, ZyWebViewFixedRatioYKey, ZyWebViewFileURLKey, "viewBox", "fileURL"})
+    for (const char* key :
+         {ZyWebViewTitleKey, ZyWebViewDescKey, ZyWebViewEncodingKey, ZyWebViewEncodingNumberKey,
+          ZyWebViewFixedRatioXKey, ZyWebViewFixedRatioYKey, ZyWebViewFileURLKey, "viewBox", "fileURL"})
       QVERIFY2(!rep->valueForKey(key).isValid(), key);
   }
 
@@ -240,7 +242,8 @@ class ImageRepTest : public QObject {
     QCOMPARE((*rep)->valueForKey("fileURL").toUrl().toLocalFile(), path);
     const auto missing = ZyWebImageRep::imageRepWithContentsOfURL(service, QUrl::fromLocalFile(path + "x"));
     QCOMPARE(missing.error().kind, ErrorKind::CannotRead);
-    const auto remote = ZyWebImageRep::imageRepWithContentsOfURL(service, QUrl(QStringLiteral("http://host/a.svg")));
+    const auto remote =
+        ZyWebImageRep::imageRepWithContentsOfURL(service, QUrl(QStringLiteral("http://host/a.svg")));
     QCOMPARE(remote.error().kind, ErrorKind::CannotRead);
   }
 
@@ -272,7 +275,8 @@ class ImageRepTest : public QObject {
     MemoryPictureService service(svgPicture());
     const auto rep = *ZyWebImageRep::imageRepWithData(service, kSvg);
     QSignalSpy loaded(rep.get(), &ZyWebImageRep::pdfImageRepDidLoad);
-    service.lastProcess()->fail(PictureCall::Pdf, {ErrorKind::TimedOut, QStringLiteral("not done in time")}, 1);
+    service.lastProcess()->fail(PictureCall::Pdf, {ErrorKind::TimedOut, QStringLiteral("not done in time")},
+                                1);
     rep->loadPDFImageRep();
     QVERIFY(QTest::qWaitFor([&] { return loaded.size() == 1; }, 20000));
     QCOMPARE(loaded.first().at(0).toBool(), false);

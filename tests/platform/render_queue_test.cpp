@@ -21,11 +21,12 @@ RenderJob job(quint64 id) {
 }
 
 struct Fixture {
-  std::shared_ptr<MemoryPictureProcess> process = std::make_shared<MemoryPictureProcess>(QByteArray(), MemoryPicture());
+  std::shared_ptr<MemoryPictureProcess> process =
+      std::make_shared<MemoryPictureProcess>(QByteArray(), MemoryPicture());
   std::atomic<int> notified = 0;
   std::atomic<qint64> now = 0;
-  std::unique_ptr<RenderQueue> queue =
-      std::make_unique<RenderQueue>(process, [this] { ++notified; }, [this] { return now.load(); });
+  std::unique_ptr<RenderQueue> queue = std::make_unique<RenderQueue>(
+      process, [this] { ++notified; }, [this] { return now.load(); });
 
   [[nodiscard]] bool waitFor(int count) {
     return QTest::qWaitFor([&] { return notified.load() >= count; }, 20000);

@@ -177,7 +177,8 @@ class RenderedPictureTest : public QObject {
                   std::abs(qGreen(sharp.pixel(x, y)) - qGreen(frame.pixel(x, y))) < 12;
         }
       }
-      QVERIFY2(near > inside * 95 / 100, qPrintable(QString("%1 of %2 at %3").arg(near).arg(inside).arg(degrees)));
+      QVERIFY2(near > inside * 95 / 100,
+               qPrintable(QString("%1 of %2 at %3").arg(near).arg(inside).arg(degrees)));
     }
   }
 
@@ -194,7 +195,8 @@ class RenderedPictureTest : public QObject {
     f.process->release(PictureCall::Render);
     QVERIFY(f.becomesSharp(third));
     QVERIFY(f.becomesIdle());
-    // The second was begun only if the queue came to it before the third was asked for; never is it finished in vain.
+    // The second was begun only if the queue came to it before the third was asked for; never is it finished
+    // in vain.
     QCOMPARE(f.renders() - f.process->cancelledCalls(), 1);
     QVERIFY(f.process->cancelledCalls() >= 1);
     QVERIFY(!f.picture->isSharpFor(first, kVisible));
@@ -210,7 +212,8 @@ class RenderedPictureTest : public QObject {
     QVERIFY(QTest::qWaitFor([&] { return f.renders() >= 3; }, 20000));
     QVERIFY(f.becomesIdle());
     const QList<RenderRequest> requests = f.process->renderRequests();
-    const QRect firstPart = requests[0].pictureToDevice.inverted().mapRect(QRectF(QPointF(), requests[0].pixelSize)).toRect();
+    const QRect firstPart =
+        requests[0].pictureToDevice.inverted().mapRect(QRectF(QPointF(), requests[0].pixelSize)).toRect();
     const QRect visiblePart = t.inverted().mapRect(QRectF(kVisible)).toRect();
     QVERIFY(firstPart.contains(visiblePart));
     QVERIFY(requests[0].pixelSize.width() <= kFrame.width() + 2 * 256);
@@ -220,7 +223,8 @@ class RenderedPictureTest : public QObject {
     QVERIFY(requests.size() > 2);
     // whatever was rendered is far less than the 192 megapixels of the whole picture
     qint64 pixels = 0;
-    for (const RenderRequest& request : requests) pixels += qint64(request.pixelSize.width()) * request.pixelSize.height();
+    for (const RenderRequest& request : requests)
+      pixels += qint64(request.pixelSize.width()) * request.pixelSize.height();
     QVERIFY(pixels < 4'000'000);
   }
 
@@ -365,7 +369,11 @@ class RenderedPictureTest : public QObject {
     QCOMPARE(failed.size(), 3);
     f.process->succeed(PictureCall::Render);
     f.picture->retry();
-    QVERIFY(QTest::qWaitFor([&] { return f.picture->isSharpFor(placed(kSmall, 8, 0, {150, 100}), kVisible); }, 20000));
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+          return f.picture->isSharpFor(placed(kSmall, 8, 0, {150, 100}), kVisible);
+        },
+        20000));
   }
 
   void anAnswerOfAnotherSizeIsAProtocolError() {

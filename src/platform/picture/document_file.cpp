@@ -21,8 +21,12 @@ constexpr int kAttempts = 3;
 constexpr qsizetype kChunk = 1 << 20;
 constexpr int kPollMilliseconds = 50;
 
-Error cannotRead(const QString& message) { return {ErrorKind::CannotRead, message}; }
-Error systemError(int code) { return cannotRead(QString::fromLocal8Bit(std::strerror(code))); }
+Error cannotRead(const QString& message) {
+  return {ErrorKind::CannotRead, message};
+}
+Error systemError(int code) {
+  return cannotRead(QString::fromLocal8Bit(std::strerror(code)));
+}
 
 Error tooLarge(qint64 limit) {
   return {ErrorKind::Limit, QStringLiteral("it is larger than %1 MiB").arg(std::max<qint64>(1, limit >> 20))};
@@ -37,7 +41,8 @@ std::optional<Error> notOrdinary(const struct stat& state) {
 }
 
 bool sameState(const struct stat& a, const struct stat& b) {
-  return a.st_size == b.st_size && a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
+  return a.st_size == b.st_size && a.st_mtim.tv_sec == b.st_mtim.tv_sec &&
+         a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
 }
 
 /// Waits until there is something to read; false: cancelled.

@@ -11,7 +11,8 @@ namespace {
 /// Whether PostScript begins here. Spoolers leave an end-of-transmission byte or blanks before it.
 bool beginsPostScript(QByteArrayView postScript) {
   qsizetype at = 0;
-  while (at < postScript.size() && at < 64 && (postScript[at] == '\x04' || QByteArrayView(" \t\r\n").contains(postScript[at])))
+  while (at < postScript.size() && at < 64 &&
+         (postScript[at] == '\x04' || QByteArrayView(" \t\r\n").contains(postScript[at])))
     ++at;
   return postScript.sliced(at).startsWith("%!");
 }
@@ -20,18 +21,23 @@ bool beginsPostScript(QByteArrayView postScript) {
 
 NSEPSImageRep::NSEPSImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, QRectF box,
                              std::optional<QRectF> hiRes)
-    : NSImageRep(PictureKind::Eps, std::move(bytes), std::move(process)), boundingBox_(box), hiResBoundingBox_(hiRes) {}
+    : NSImageRep(PictureKind::Eps, std::move(bytes), std::move(process)),
+      boundingBox_(box),
+      hiResBoundingBox_(hiRes) {}
 
-Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureService& service, const QByteArray& bytes,
+Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureService& service,
+                                                                       const QByteArray& bytes,
                                                                        const PictureLimits& limits) {
   if (bytes.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the file is empty")};
   if (!beginsPostScript(postScriptOf(bytes)))
     return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
   const EpsBoundingBoxes boxes = epsBoundingBoxes(bytes);
   if (!boxes.boundingBox && !boxes.hiResBoundingBox)
-    return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript header states no usable bounding box")};
+    return Error{ErrorKind::NotParsable,
+                 QStringLiteral("the PostScript header states no usable bounding box")};
   const QRectF box = boxes.boundingBox ? *boxes.boundingBox : QRectF(boxes.hiResBoundingBox->toAlignedRect());
-  return shared(new NSEPSImageRep(bytes, service.open(bytes, PictureKind::Eps, limits), box, boxes.hiResBoundingBox));
+  return shared(
+      new NSEPSImageRep(bytes, service.open(bytes, PictureKind::Eps, limits), box, boxes.hiResBoundingBox));
 }
 
 }  // namespace norvex

@@ -1,4 +1,5 @@
-// NSEPSImageRep: Encapsulated PostScript, plain, binary (with a DOS EPS header) or with an interchange preview.
+// NSEPSImageRep: Encapsulated PostScript, plain, binary (with a DOS EPS header) or with an interchange
+// preview.
 #pragma once
 
 #include "platform/picture/image_rep.h"
@@ -8,9 +9,10 @@ namespace norvex {
 class NSEPSImageRep final : public NSImageRep {
   Q_OBJECT
  public:
-  /// Nothing (with the reason) when the bytes are not PostScript with a usable bounding box. Reads the header only;
-  /// PostScript runs in the picture process later.
-  static Result<std::shared_ptr<NSEPSImageRep>> imageRepWithData(PictureService& service, const QByteArray& bytes,
+  /// Nothing (with the reason) when the bytes are not PostScript with a usable bounding box. Reads the header
+  /// only; PostScript runs in the picture process later.
+  static Result<std::shared_ptr<NSEPSImageRep>> imageRepWithData(PictureService& service,
+                                                                 const QByteArray& bytes,
                                                                  const PictureLimits& limits = {});
 
   /// The file's bytes, binary header and preview sections included.
@@ -22,7 +24,8 @@ class NSEPSImageRep final : public NSImageRep {
   [[nodiscard]] QSizeF size() const override { return boundingBox_.size(); }
 
  private:
-  NSEPSImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, QRectF box, std::optional<QRectF> hiRes);
+  NSEPSImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, QRectF box,
+                std::optional<QRectF> hiRes);
   QRectF boundingBox_;
   std::optional<QRectF> hiResBoundingBox_;
 };

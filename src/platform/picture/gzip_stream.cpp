@@ -39,7 +39,8 @@ bool deflateAll(z_stream& stream, const QByteArray& bytes, QByteArray& out) {
 
 std::optional<QByteArray> gzipStream(const QByteArray& bytes) {
   z_stream stream = {};
-  if (deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, kGzipWindow, kMemoryLevel, Z_DEFAULT_STRATEGY) != Z_OK)
+  if (deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, kGzipWindow, kMemoryLevel, Z_DEFAULT_STRATEGY) !=
+      Z_OK)
     return std::nullopt;
   gz_header header = {};
   header.os = kUnknownSystem;
@@ -51,6 +52,8 @@ std::optional<QByteArray> gzipStream(const QByteArray& bytes) {
   return out;
 }
 
-bool isGzip(const QByteArray& bytes) { return bytes.startsWith("\x1f\x8b"); }
+bool isGzip(const QByteArray& bytes) {
+  return bytes.startsWith("\x1f\x8b");
+}
 
 }  // namespace norvex

@@ -7,8 +7,8 @@
 
 namespace norvex {
 
-/// `bytes` as one gzip member; its header has no time, no name and names no system, so that equal bytes give equal
-/// streams everywhere. Nothing when memory is short. Thread-safe.
+/// `bytes` as one gzip member; its header has no time, no name and names no system, so that equal bytes give
+/// equal streams everywhere. Nothing when memory is short. Thread-safe.
 [[nodiscard]] std::optional<QByteArray> gzipStream(const QByteArray& bytes);
 /// Whether bytes begin as a gzip stream does.
 [[nodiscard]] bool isGzip(const QByteArray& bytes);

@@ -17,8 +17,10 @@ namespace {
 QRect visibleDeviceRect(const QPainter& painter) {
   const QPaintDevice* device = painter.device();
   const double ratio = device->devicePixelRatioF();
-  // A widget is painted into the middle of its window's store: device pixels are counted from the window's corner.
-  const QPointF corner = painter.deviceTransform().map(QPointF(0, 0)) - painter.combinedTransform().map(QPointF(0, 0)) * ratio;
+  // A widget is painted into the middle of its window's store: device pixels are counted from the window's
+  // corner.
+  const QPointF corner =
+      painter.deviceTransform().map(QPointF(0, 0)) - painter.combinedTransform().map(QPointF(0, 0)) * ratio;
   const QRect all(QPoint(int(std::floor(corner.x())), int(std::floor(corner.y()))),
                   QSize(int(std::ceil(device->width() * ratio)), int(std::ceil(device->height() * ratio))));
   if (!painter.hasClipping()) return all;
@@ -62,9 +64,13 @@ void NSImageRep::draw(QPainter& painter) {
   rendered().request(drawnTransform_, drawnRect_);
 }
 
-bool NSImageRep::isSharp() const { return rendered_ && rendered_->isSharpFor(drawnTransform_, drawnRect_); }
+bool NSImageRep::isSharp() const {
+  return rendered_ && rendered_->isSharpFor(drawnTransform_, drawnRect_);
+}
 
-bool NSImageRep::isRendering() const { return rendered_ && rendered_->isBusy(); }
+bool NSImageRep::isRendering() const {
+  return rendered_ && rendered_->isBusy();
+}
 
 std::optional<Error> NSImageRep::renderingError() const {
   return rendered_ ? rendered_->error() : std::optional<Error>();
@@ -81,7 +87,8 @@ Result<QImage> NSImageRep::rasterImage(double scale, RenderPurpose purpose, cons
   const double wide = pixelsFor(points.width(), scale);
   const double high = pixelsFor(points.height(), scale);
   if (wide > maximumBitmapSide || high > maximumBitmapSide)
-    return Error{ErrorKind::Limit, QStringLiteral("the bitmap would have more than %1 pixels in a row").arg(maximumBitmapSide)};
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the bitmap would have more than %1 pixels in a row").arg(maximumBitmapSide)};
   RenderRequest request;
   request.page = page_;
   request.purpose = purpose;

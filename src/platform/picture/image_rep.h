@@ -1,4 +1,5 @@
-// NSImageRep: a picture that can be asked for its natural size and drawn. Its three kinds follow in files of their own.
+// NSImageRep: a picture that can be asked for its natural size and drawn. Its three kinds follow in files of
+// their own.
 #pragma once
 
 #include <QByteArray>
@@ -22,8 +23,8 @@ namespace norvex {
 
 class RenderedPicture;
 
-/// A loaded picture. Facts are immutable after construction and may be read from any thread; draw(), what it tells
-/// and the signals belong to the thread that the object lives in (QObject::thread()).
+/// A loaded picture. Facts are immutable after construction and may be read from any thread; draw(), what it
+/// tells and the signals belong to the thread that the object lives in (QObject::thread()).
 class NSImageRep : public QObject {
   Q_OBJECT
  public:
@@ -42,11 +43,13 @@ class NSImageRep : public QObject {
   [[nodiscard]] int page() const { return page_; }
 
   /// Draws the picture at its natural size with its lower-left corner at the painter's origin; the painter's
-  /// transform must map y-up picture coordinates to the device. Never waits: draws what is rendered (scaled or
-  /// turned) and asks for a sharp rendering, whose arrival is told by renderingArrived(). What is seen of the device
-  /// is the painter's clip, or all of it without one: set the clip to the visible part of a scrolled view.
+  /// transform must map y-up picture coordinates to the device. Never waits: draws what is rendered (scaled
+  /// or turned) and asks for a sharp rendering, whose arrival is told by renderingArrived(). What is seen of
+  /// the device is the painter's clip, or all of it without one: set the clip to the visible part of a
+  /// scrolled view.
   virtual void draw(QPainter& painter);
-  /// Whether what the last draw() showed is sharp and complete by now (tests, benchmarks and the progress bar ask).
+  /// Whether what the last draw() showed is sharp and complete by now (tests, benchmarks and the progress bar
+  /// ask).
   [[nodiscard]] bool isSharp() const;
   /// Whether a visible part is being rendered.
   [[nodiscard]] bool isRendering() const;
@@ -55,8 +58,8 @@ class NSImageRep : public QObject {
   /// A failed view is not asked for again until this is called.
   void retryRendering();
 
-  /// The whole unrotated page as premultiplied ARGB32, transparent where it is not painted; the size in points times
-  /// `scale`, rounded up to whole pixels. Blocks for the picture process. Any thread.
+  /// The whole unrotated page as premultiplied ARGB32, transparent where it is not painted; the size in
+  /// points times `scale`, rounded up to whole pixels. Blocks for the picture process. Any thread.
   [[nodiscard]] Result<QImage> rasterImage(double scale, RenderPurpose purpose = RenderPurpose::Preview,
                                            const CancelToken& cancel = {}) const;
 

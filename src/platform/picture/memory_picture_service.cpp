@@ -9,7 +9,9 @@
 
 namespace norvex {
 
-MemoryPicture::MemoryPicture() { facts.pageBounds = {QRectF(0, 0, 200, 100)}; }
+MemoryPicture::MemoryPicture() {
+  facts.pageBounds = {QRectF(0, 0, 200, 100)};
+}
 
 QImage testPattern(const RenderRequest& request, const QSizeF& pageSize) {
   QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
@@ -23,7 +25,8 @@ QImage testPattern(const RenderRequest& request, const QSizeF& pageSize) {
       const QPointF at = back.map(QPointF(x + 0.5, y + 0.5));
       if (at.x() < 0 || at.y() < 0 || at.x() >= pageSize.width() || at.y() >= pageSize.height()) continue;
       const bool odd = (int(at.x() / 10) + int(at.y() / 10)) % 2 != 0;
-      row[x] = qRgb(int(at.x() / pageSize.width() * 255), int(at.y() / pageSize.height() * 255), odd ? 255 : 0);
+      row[x] =
+          qRgb(int(at.x() / pageSize.width() * 255), int(at.y() / pageSize.height() * 255), odd ? 255 : 0);
     }
   }
   return image;
@@ -41,7 +44,8 @@ QByteArray emptyPdf(const QSizeF& size) {
     pdf += QByteArray::number(i + 1) + " 0 obj\n" + objects[i] + "\nendobj\n";
   }
   const QByteArray start = QByteArray::number(pdf.size());
-  return pdf + "xref\n0 4\n" + table + "trailer\n<< /Size 4 /Root 1 0 R >>\nstartxref\n" + start + "\n%%EOF\n";
+  return pdf + "xref\n0 4\n" + table + "trailer\n<< /Size 4 /Root 1 0 R >>\nstartxref\n" + start +
+         "\n%%EOF\n";
 }
 
 QByteArray emptyEps(const QSizeF& size) {
@@ -50,7 +54,8 @@ QByteArray emptyEps(const QSizeF& size) {
          side(size.width()) + ' ' + side(size.height()) + "\n%%EndComments\nshowpage\n%%EOF\n";
 }
 
-// ---- process --------------------------------------------------------------------------------------------------------
+// ---- process
+// --------------------------------------------------------------------------------------------------------
 
 MemoryPictureProcess::MemoryPictureProcess(QByteArray bytes, MemoryPicture picture)
     : bytes_(std::move(bytes)), picture_(std::move(picture)) {}
@@ -165,7 +170,8 @@ Result<PictureBytes> MemoryPictureProcess::svg(const SvgRequest& request, const 
   return PictureBytes{picture_.svg ? picture_.svg(request) : bytes_, {}};
 }
 
-// ---- service --------------------------------------------------------------------------------------------------------
+// ---- service
+// --------------------------------------------------------------------------------------------------------
 
 void MemoryPictureService::setPicture(const MemoryPicture& picture) {
   const std::lock_guard lock(mutex_);
@@ -182,7 +188,9 @@ void MemoryPictureService::setPrepare(std::function<void(MemoryPictureProcess&)>
   prepare_ = std::move(prepare);
 }
 
-int MemoryPictureService::openCount() const { return int(openedKinds().size()); }
+int MemoryPictureService::openCount() const {
+  return int(openedKinds().size());
+}
 
 int MemoryPictureService::previewCount() const {
   const std::lock_guard lock(mutex_);
@@ -211,7 +219,8 @@ std::shared_ptr<PictureProcess> MemoryPictureService::open(const QByteArray& byt
 Result<NSBitmapImageRep> MemoryPictureService::decodePreview(const QByteArray&, const CancelToken& cancel) {
   const std::lock_guard lock(mutex_);
   ++previews_;
-  if (cancel.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the answer is no longer wanted")};
+  if (cancel.cancelled())
+    return Error{ErrorKind::Cancelled, QStringLiteral("the answer is no longer wanted")};
   return preview_;
 }
 

@@ -20,8 +20,8 @@ namespace norvex {
 /// The calls of a PictureProcess, to count them and to make them fail.
 enum class PictureCall { Facts, Render, Pdf, Compose, Svg };
 
-/// What the answers of a memory process are. Every function may be replaced; it runs on the caller's thread, and
-/// several threads never run it at the same time.
+/// What the answers of a memory process are. Every function may be replaced; it runs on the caller's thread,
+/// and several threads never run it at the same time.
 struct MemoryPicture {
   /// One page of 200 × 100 points at the origin.
   MemoryPicture();
@@ -29,12 +29,14 @@ struct MemoryPicture {
   PictureFacts facts;
   std::function<QImage(const RenderRequest&)> paint;  ///< Default: testPattern() of the page
   std::function<QByteArray(const PdfRequest&)> pdf;   ///< Default: an empty page of the page's size
-  std::function<QByteArray(const ComposeRequest&)> compose;  ///< Default: an empty page of the rectangle's size
-  std::function<QByteArray(const SvgRequest&)> svg;          ///< Default: the bytes that were opened
+  std::function<QByteArray(const ComposeRequest&)>
+      compose;                                       ///< Default: an empty page of the rectangle's size
+  std::function<QByteArray(const SvgRequest&)> svg;  ///< Default: the bytes that were opened
 };
 
-/// A picture whose colour tells where it is: red grows with x from 0 to 255 over the page, green with y (upwards),
-/// blue is 255 in every second square of 10 points and 0 in the others. Opaque inside the page, transparent outside.
+/// A picture whose colour tells where it is: red grows with x from 0 to 255 over the page, green with y
+/// (upwards), blue is 255 in every second square of 10 points and 0 in the others. Opaque inside the page,
+/// transparent outside.
 [[nodiscard]] QImage testPattern(const RenderRequest& request, const QSizeF& pageSize);
 /// A one-page PDF without content.
 [[nodiscard]] QByteArray emptyPdf(const QSizeF& size);
@@ -49,10 +51,12 @@ class MemoryPictureProcess final : public PictureProcess {
   /// From now on the next `times` calls of this sort fail with `error` (a negative number: all of them).
   void fail(PictureCall call, const Error& error, int times = -1);
   void succeed(PictureCall call);
-  /// From now on calls of this sort wait until release(); a cancelled one stops waiting and answers Cancelled.
+  /// From now on calls of this sort wait until release(); a cancelled one stops waiting and answers
+  /// Cancelled.
   void hold(PictureCall call);
   void release(PictureCall call);
-  /// Blocks until `count` calls of this sort are waiting at their latch; false after `milliseconds` (a broken test).
+  /// Blocks until `count` calls of this sort are waiting at their latch; false after `milliseconds` (a broken
+  /// test).
   [[nodiscard]] bool waitUntilHeld(PictureCall call, int count = 1, int milliseconds = 20000);
 
   /// Calls that were begun so far, failed and cancelled ones included.
@@ -82,8 +86,8 @@ class MemoryPictureProcess final : public PictureProcess {
 
   const QByteArray bytes_;
   const MemoryPicture picture_;
-  mutable std::mutex mutex_;    ///< of everything below
-  std::mutex serial_;           ///< one answer at a time, as a real process gives them
+  mutable std::mutex mutex_;  ///< of everything below
+  std::mutex serial_;         ///< one answer at a time, as a real process gives them
   std::condition_variable changed_;
   CallState states_[5];
   int cancelled_ = 0;

@@ -22,10 +22,13 @@ class NullPictureProcess final : public PictureProcess {
 
 NullPictureService::NullPictureService(Error error) : error_(std::move(error)) {}
 
-std::shared_ptr<PictureProcess> NullPictureService::open(const QByteArray&, PictureKind, const PictureLimits&) {
+std::shared_ptr<PictureProcess> NullPictureService::open(const QByteArray&, PictureKind,
+                                                         const PictureLimits&) {
   return std::make_shared<NullPictureProcess>(error_);
 }
 
-Result<NSBitmapImageRep> NullPictureService::decodePreview(const QByteArray&, const CancelToken&) { return error_; }
+Result<NSBitmapImageRep> NullPictureService::decodePreview(const QByteArray&, const CancelToken&) {
+  return error_;
+}
 
 }  // namespace norvex

@@ -1,4 +1,5 @@
-// NullPictureService: no picture can be opened. For tests of what is left then, and where no picture is needed.
+// NullPictureService: no picture can be opened. For tests of what is left then, and where no picture is
+// needed.
 #pragma once
 
 #include "platform/picture_process.h"
@@ -8,7 +9,8 @@ namespace norvex {
 /// Every call of it, and of the processes it gives out, fails with the same error. Thread-safe.
 class NullPictureService final : public PictureService {
  public:
-  explicit NullPictureService(Error error = {ErrorKind::Died, QStringLiteral("the picture process is not there")});
+  explicit NullPictureService(Error error = {ErrorKind::Died,
+                                             QStringLiteral("the picture process is not there")});
 
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;

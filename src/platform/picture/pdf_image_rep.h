@@ -8,10 +8,13 @@ namespace norvex {
 class NSPDFImageRep final : public NSImageRep {
   Q_OBJECT
  public:
-  /// Shows the page `page` (from 0). Nothing (with the reason) when the picture process cannot open the bytes or there
-  /// is no such page. Blocks for the document's facts.
-  static Result<std::shared_ptr<NSPDFImageRep>> imageRepWithData(PictureService& service, const QByteArray& bytes,
-                                                                 const PictureLimits& limits = {}, int page = 0);
+  /// Shows the page `page` (from 0). Nothing (with the reason) when the picture process cannot open the bytes
+  /// or there is no such page. Blocks for the document's facts.
+  static Result<std::shared_ptr<NSPDFImageRep>> imageRepWithData(PictureService& service,
+                                                                 const QByteArray& bytes,
+                                                                 const PictureLimits& limits = {},
+                                                                 int page = 0,
+                                                                 const CancelToken& cancel = {});
   /// The PDF form of a picture that `process` has open: drawn by that process, no second one is started.
   static std::shared_ptr<NSPDFImageRep> imageRepWithProcess(std::shared_ptr<PictureProcess> process,
                                                             const QByteArray& pdf, const PictureFacts& facts);

@@ -19,14 +19,17 @@ Result<std::shared_ptr<NSImageRep>> asImageRep(Result<std::shared_ptr<Rep>> rep)
   return std::shared_ptr<NSImageRep>(std::move(*rep));
 }
 
-Result<std::shared_ptr<NSImageRep>> makeRep(PictureService& service, PictureKind kind, const PictureSource& source,
-                                            const PictureLimits& limits) {
+Result<std::shared_ptr<NSImageRep>> makeRep(PictureService& service, PictureKind kind,
+                                            const PictureSource& source, const PictureLimits& limits,
+                                            const CancelToken& cancel) {
   switch (kind) {
-    case PictureKind::Eps: return asImageRep(NSEPSImageRep::imageRepWithData(service, source.bytes, limits));
+    case PictureKind::Eps:
+      return asImageRep(NSEPSImageRep::imageRepWithData(service, source.bytes, limits));
     case PictureKind::Pdf:
-      return asImageRep(NSPDFImageRep::imageRepWithData(service, source.bytes, limits, source.page));
+      return asImageRep(NSPDFImageRep::imageRepWithData(service, source.bytes, limits, source.page, cancel));
     case PictureKind::Svg:
-      return asImageRep(ZyWebImageRep::imageRepWithData(service, source.bytes, source.fileURL, limits));
+      return asImageRep(
+          ZyWebImageRep::imageRepWithData(service, source.bytes, source.fileURL, limits, cancel));
   }
   return Error{ErrorKind::Unsupported, QStringLiteral("there is no such kind of picture")};
 }
@@ -50,10 +53,11 @@ QList<PictureKind> pictureKindsForType(const QString& typeIdentifier) {
   return {};
 }
 
-Result<LoadedPicture> loadPicture(PictureService& service, const PictureSource& source, const PictureLimits& limits) {
+Result<LoadedPicture> loadPicture(PictureService& service, const PictureSource& source,
+                                  const PictureLimits& limits, const CancelToken& cancel) {
   Error error{ErrorKind::Unsupported, QStringLiteral("this type of document cannot be shown")};
   for (const PictureKind kind : pictureKindsForType(source.typeIdentifier)) {
-    auto rep = makeRep(service, kind, source, limits);
+    auto rep = makeRep(service, kind, source, limits, cancel);
     if (rep) return LoadedPicture{*rep, source};
     error = rep.error();
   }
@@ -69,14 +73,15 @@ QFuture<Result<LoadedPicture>> loadPictureLater(PictureService& service, const P
 
 QFuture<Result<LoadedPicture>> loadPictureFile(PictureService& service, const QUrl& fileURL,
                                                const QString& typeIdentifier, const PictureLimits& limits) {
-  return QtConcurrent::run(
-      [home = QThread::currentThread(), &service, fileURL, typeIdentifier, limits]() -> Result<LoadedPicture> {
-        const Result<QByteArray> bytes = readDocumentFile(fileURL.toLocalFile());
-        if (!bytes) return bytes.error();
-        PictureSource source{*bytes, typeIdentifier, fileURL, 0};
-        if (typeIdentifier.isEmpty()) source.typeIdentifier = identifyType(*bytes, fileURL.fileName()).identifier();
-        return loadFor(home, service, source, limits);
-      });
+  return QtConcurrent::run([home = QThread::currentThread(), &service, fileURL, typeIdentifier,
+                            limits]() -> Result<LoadedPicture> {
+    const Result<QByteArray> bytes = readDocumentFile(fileURL.toLocalFile());
+    if (!bytes) return bytes.error();
+    PictureSource source{*bytes, typeIdentifier, fileURL, 0};
+    if (typeIdentifier.isEmpty())
+      source.typeIdentifier = identifyType(*bytes, fileURL.fileName()).identifier();
+    return loadFor(home, service, source, limits);
+  });
 }
 
 }  // namespace norvex

@@ -27,20 +27,25 @@ struct LoadedPicture {
   PictureSource source;
 };
 
-/// The engines that can show a type, in the order in which they are tried. Empty for types that are not pictures.
-/// An Illustrator file is PostScript or, since that changed, PDF.
+/// The engines that can show a type, in the order in which they are tried. Empty for types that are not
+/// pictures. An Illustrator file is PostScript or, since that changed, PDF.
 [[nodiscard]] QList<PictureKind> pictureKindsForType(const QString& typeIdentifier);
 
-/// Makes the representation on the calling thread; blocks for the document's facts. The object lives in that thread.
-/// Fails with the last kind's error, and (Unsupported) for a type that is not a picture.
+/// Makes the representation on the calling thread; blocks for the document's facts. The object lives in that
+/// thread. Fails with the last kind's error, with Cancelled, and (Unsupported) for a type that is not a
+/// picture.
 [[nodiscard]] Result<LoadedPicture> loadPicture(PictureService& service, const PictureSource& source,
-                                                const PictureLimits& limits = {});
+                                                const PictureLimits& limits = {},
+                                                const CancelToken& cancel = {});
 
-/// The same on a worker thread; the object then lives in the caller's thread. `service` must outlive the future.
-[[nodiscard]] QFuture<Result<LoadedPicture>> loadPictureLater(PictureService& service, const PictureSource& source,
+/// The same on a worker thread; the object then lives in the caller's thread. `service` must outlive the
+/// future.
+[[nodiscard]] QFuture<Result<LoadedPicture>> loadPictureLater(PictureService& service,
+                                                              const PictureSource& source,
                                                               const PictureLimits& limits = {});
 
-/// Reads the file first, on the worker thread too. `typeIdentifier` empty: it is found out from name and bytes.
+/// Reads the file first, on the worker thread too. `typeIdentifier` empty: it is found out from name and
+/// bytes.
 [[nodiscard]] QFuture<Result<LoadedPicture>> loadPictureFile(PictureService& service, const QUrl& fileURL,
                                                              const QString& typeIdentifier = {},
                                                              const PictureLimits& limits = {});

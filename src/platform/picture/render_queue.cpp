@@ -10,7 +10,8 @@ qint64 steadyMilliseconds() {
   return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
 }
 
-RenderQueue::RenderQueue(std::shared_ptr<PictureProcess> process, std::function<void()> notify, MillisecondClock clock)
+RenderQueue::RenderQueue(std::shared_ptr<PictureProcess> process, std::function<void()> notify,
+                         MillisecondClock clock)
     : process_(std::move(process)),
       notify_(std::move(notify)),
       clock_(std::move(clock)),
@@ -87,7 +88,8 @@ Result<QImage> RenderQueue::render(const RenderJob& job, const CancelToken& toke
     runningSince_ = clock_();
     if (openingTook_ < 0) openingTook_ = runningSince_ - start;
   }
-  if (token.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the rendering is no longer wanted")};
+  if (token.cancelled())
+    return Error{ErrorKind::Cancelled, QStringLiteral("the rendering is no longer wanted")};
   return process_->render(job.request, token);
 }
 

@@ -1,4 +1,5 @@
-// RenderQueue: asks one picture process for bitmaps, on a thread of its own, in the order in which they are wanted.
+// RenderQueue: asks one picture process for bitmaps, on a thread of its own, in the order in which they are
+// wanted.
 #pragma once
 
 #include <QImage>
@@ -20,10 +21,10 @@ namespace norvex {
 
 /// One bitmap that is wanted.
 struct RenderJob {
-  quint64 id = 0;        ///< given by the owner, never reused
+  quint64 id = 0;  ///< given by the owner, never reused
   RenderRequest request;
-  QTransform layer;      ///< picture coordinates → pixels of the layer that `rect` belongs to
-  QRect rect;            ///< the bitmap's place in the layer
+  QTransform layer;         ///< picture coordinates → pixels of the layer that `rect` belongs to
+  QRect rect;               ///< the bitmap's place in the layer
   bool background = false;  ///< nobody looks at its place yet
   bool overview = false;    ///< the whole picture, small
 };
@@ -32,9 +33,9 @@ struct RenderJob {
 using MillisecondClock = std::function<qint64()>;
 [[nodiscard]] qint64 steadyMilliseconds();
 
-/// The whole interface is "this is what I want now, most urgent first": whatever is no longer in the list is dropped,
-/// and cancelled if it runs already. As a cancel may cost the process its life, a running job is cancelled only once
-/// it has run for as long as the document took to open. Thread-safe.
+/// The whole interface is "this is what I want now, most urgent first": whatever is no longer in the list is
+/// dropped, and cancelled if it runs already. As a cancel may cost the process its life, a running job is
+/// cancelled only once it has run for as long as the document took to open. Thread-safe.
 class RenderQueue {
  public:
   struct Finished {
@@ -50,13 +51,14 @@ class RenderQueue {
   RenderQueue(const RenderQueue&) = delete;
   RenderQueue& operator=(const RenderQueue&) = delete;
 
-  /// Begins no further job until the next setWanted(), so that the list can be made anew without a job starting
-  /// meanwhile. Result: the listed jobs that run or have ended.
+  /// Begins no further job until the next setWanted(), so that the list can be made anew without a job
+  /// starting meanwhile. Result: the listed jobs that run or have ended.
   [[nodiscard]] QSet<quint64> suspend();
   /// Replaces the list. A job that runs, or has ended but is still listed, is not begun again.
   /// Result: 0, or the milliseconds after which the same call would cancel what runs in vain.
   int setWanted(const QList<RenderJob>& jobs);
-  /// The answers since the last call, in their order: one for every job that was begun, cancelled ones included.
+  /// The answers since the last call, in their order: one for every job that was begun, cancelled ones
+  /// included.
   [[nodiscard]] QList<Finished> takeFinished();
 
  private:
@@ -69,7 +71,7 @@ class RenderQueue {
   const std::function<void()> notify_;
   const MillisecondClock clock_;
   const CancelToken life_;  ///< cancelled with the queue
-  std::mutex mutex_;  ///< of everything below but the thread
+  std::mutex mutex_;        ///< of everything below but the thread
   std::condition_variable changed_;
   QList<RenderJob> waiting_;
   QList<Finished> finished_;

@@ -25,8 +25,10 @@ QRegion eroded(const QRegion& region) {
 }  // namespace
 
 bool RenderedLayer::fits(const QTransform& t, const QSizeF& size) const {
-  const double x = std::abs(t.m11() - transform_.m11()) * size.width() + std::abs(t.m21() - transform_.m21()) * size.height();
-  const double y = std::abs(t.m12() - transform_.m12()) * size.width() + std::abs(t.m22() - transform_.m22()) * size.height();
+  const double x = std::abs(t.m11() - transform_.m11()) * size.width() +
+                   std::abs(t.m21() - transform_.m21()) * size.height();
+  const double y = std::abs(t.m12() - transform_.m12()) * size.width() +
+                   std::abs(t.m22() - transform_.m22()) * size.height();
   return x < 0.05 && y < 0.05;  // pixels over the whole picture
 }
 
@@ -65,13 +67,14 @@ void RenderedLayer::shrink(qint64 budget, const QRect& keep) {
 void RenderedLayer::paintExactly(QPainter& painter, const QPoint& offset, const QRegion& wanted) const {
   QRegion left = wanted.translated(-offset);
   for (const Piece& piece : pieces_) {  // each pixel once: translucent ones must not be blended twice
-    for (const QRect& part : left & piece.rect)
+    for (const QRect& part : left& piece.rect)
       painter.drawImage(part.topLeft() + offset, piece.image, part.translated(-piece.rect.topLeft()));
     left -= piece.rect;
   }
 }
 
-void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevice, const QRegion& wanted) const {
+void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevice,
+                                const QRegion& wanted) const {
   painter.save();
   painter.setClipRegion(wanted, Qt::IntersectClip);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);

@@ -13,15 +13,15 @@ class QPainter;
 
 namespace norvex {
 
-/// Layer coordinates: device pixels under transform(), y down; its translation is below one pixel, so that a layer
-/// stays where it is while the view scrolls. A value; the bitmaps are shared. One thread at a time.
+/// Layer coordinates: device pixels under transform(), y down; its translation is below one pixel, so that a
+/// layer stays where it is while the view scrolls. A value; the bitmaps are shared. One thread at a time.
 class RenderedLayer {
  public:
   explicit RenderedLayer(const QTransform& pictureToLayer) : transform_(pictureToLayer) {}
 
   [[nodiscard]] const QTransform& transform() const { return transform_; }
-  /// Whether `pictureToDevice` has the same scale and angle, so exactly that no pixel of a picture of this size moves
-  /// visibly. Translations are not compared.
+  /// Whether `pictureToDevice` has the same scale and angle, so exactly that no pixel of a picture of this
+  /// size moves visibly. Translations are not compared.
   [[nodiscard]] bool fits(const QTransform& pictureToDevice, const QSizeF& pictureSize) const;
   /// Device position of layer pixel (0, 0), to the nearest whole pixel. REQUIRES fits().
   [[nodiscard]] QPoint offset(const QTransform& pictureToDevice) const;

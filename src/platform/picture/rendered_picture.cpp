@@ -17,9 +17,13 @@ constexpr int kMaximumRects = 4;  // every rectangle costs a walk through the wh
 constexpr int kRestMilliseconds = 150;
 constexpr int kMaximumJobSide = 4096;  // pixels
 
-qint64 pixels(const QRect& rect) { return qint64(rect.width()) * rect.height(); }
+qint64 pixels(const QRect& rect) {
+  return qint64(rect.width()) * rect.height();
+}
 
-int floorTo(int value, int grid) { return int(std::floor(double(value) / grid)) * grid; }
+int floorTo(int value, int grid) {
+  return int(std::floor(double(value) / grid)) * grid;
+}
 
 QRect snapped(const QRect& rect, int grid) {
   const QPoint from(floorTo(rect.left(), grid), floorTo(rect.top(), grid));
@@ -40,8 +44,9 @@ RenderedPicture::RenderedPicture(std::shared_ptr<PictureProcess> process, int pa
     : size_(size),
       page_(page),
       options_(options),
-      queue_(std::move(process), [this] { QMetaObject::invokeMethod(this, "collect", Qt::QueuedConnection); },
-             options.clock) {
+      queue_(
+          std::move(process), [this] { QMetaObject::invokeMethod(this, "collect", Qt::QueuedConnection); },
+          options.clock) {
   restTimer_.setSingleShot(true);
   connect(&restTimer_, &QTimer::timeout, this, &RenderedPicture::plan);
   staleTimer_.setSingleShot(true);
@@ -50,7 +55,8 @@ RenderedPicture::RenderedPicture(std::shared_ptr<PictureProcess> process, int pa
 
 RenderedPicture::~RenderedPicture() = default;
 
-// ---- views and layers -----------------------------------------------------------------------------------------------
+// ---- views and layers
+// -----------------------------------------------------------------------------------------------
 
 const RenderedLayer* RenderedPicture::layerFitting(const QTransform& transform) const {
   for (const RenderedLayer& layer : layers_)
@@ -58,16 +64,18 @@ const RenderedLayer* RenderedPicture::layerFitting(const QTransform& transform) 
   return nullptr;
 }
 
-/// A layer that is there or on its way gives its own sub-pixel position: scrolling by parts of a pixel then moves
-/// what is rendered instead of rendering it again.
+/// A layer that is there or on its way gives its own sub-pixel position: scrolling by parts of a pixel then
+/// moves what is rendered instead of rendering it again.
 QTransform RenderedPicture::layerTransformFor(const QTransform& t) const {
   if (const RenderedLayer* layer = layerFitting(t)) return layer->transform();
   for (const RenderJob& job : outstanding_)
     if (RenderedLayer(job.layer).fits(t, size_)) return job.layer;
-  return QTransform(t.m11(), t.m12(), t.m21(), t.m22(), t.dx() - std::floor(t.dx()), t.dy() - std::floor(t.dy()));
+  return QTransform(t.m11(), t.m12(), t.m21(), t.m22(), t.dx() - std::floor(t.dx()),
+                    t.dy() - std::floor(t.dy()));
 }
 
-std::optional<RenderedPicture::View> RenderedPicture::viewFor(const QTransform& t, const QRect& visible) const {
+std::optional<RenderedPicture::View> RenderedPicture::viewFor(const QTransform& t,
+                                                              const QRect& visible) const {
   if (!isUsable(t) || size_.isEmpty()) return std::nullopt;
   View view;
   view.layer = layerTransformFor(t);
@@ -91,7 +99,8 @@ bool RenderedPicture::isSharpFor(const QTransform& t, const QRect& visible) cons
 }
 
 bool RenderedPicture::isBusy() const {
-  return std::any_of(outstanding_.begin(), outstanding_.end(), [](const RenderJob& job) { return !job.background; });
+  return std::any_of(outstanding_.begin(), outstanding_.end(),
+                     [](const RenderJob& job) { return !job.background; });
 }
 
 qint64 RenderedPicture::cacheBytes() const {
@@ -100,7 +109,8 @@ qint64 RenderedPicture::cacheBytes() const {
   return sum;
 }
 
-// ---- drawing --------------------------------------------------------------------------------------------------------
+// ---- drawing
+// --------------------------------------------------------------------------------------------------------
 
 void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& visible) {
   if (!isUsable(t)) return;
@@ -115,8 +125,8 @@ void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& 
     sharp->paintExactly(painter, offset, left & sharp->covered().translated(offset));
     left -= sharp->covered().translated(offset);
   }
-  // From front to back it is decided who fills what, then it is painted from back to front: along their edges the
-  // layers overlap by a pixel instead of leaving one open.
+  // From front to back it is decided who fills what, then it is painted from back to front: along their edges
+  // the layers overlap by a pixel instead of leaving one open.
   struct Part {
     const RenderedLayer* layer;
     QTransform toDevice;
@@ -137,7 +147,8 @@ void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& 
   painter.restore();
 }
 
-// ---- asking ---------------------------------------------------------------------------------------------------------
+// ---- asking
+// ---------------------------------------------------------------------------------------------------------
 
 void RenderedPicture::request(const QTransform& t, const QRect& visible) {
   const std::optional<View> last = view_;
@@ -217,7 +228,8 @@ void RenderedPicture::planOverview(QList<RenderJob>& jobs) {
   job.layer = layer;
   job.rect = box;
   job.background = job.overview = true;
-  job.request = {page_, layer * QTransform::fromTranslate(-box.x(), -box.y()), box.size(), RenderPurpose::View};
+  job.request = {page_, layer * QTransform::fromTranslate(-box.x(), -box.y()), box.size(),
+                 RenderPurpose::View};
   jobs << job;
 }
 
@@ -236,14 +248,16 @@ void RenderedPicture::addJobs(const QTransform& layer, const QRegion& missing, b
         job.layer = layer;
         job.rect = part;
         job.background = background;
-        job.request = {page_, layer * QTransform::fromTranslate(-part.x(), -part.y()), part.size(), RenderPurpose::View};
+        job.request = {page_, layer * QTransform::fromTranslate(-part.x(), -part.y()), part.size(),
+                       RenderPurpose::View};
         jobs << job;
       }
     }
   }
 }
 
-// ---- answers --------------------------------------------------------------------------------------------------------
+// ---- answers
+// --------------------------------------------------------------------------------------------------------
 
 void RenderedPicture::collect() {
   for (const RenderQueue::Finished& finished : queue_.takeFinished()) finish(finished);
@@ -261,7 +275,8 @@ void RenderedPicture::finish(const RenderQueue::Finished& finished) {
     plan();
     emit rendered();
   } else if (wanted) {
-    const Error wrongSize{ErrorKind::Protocol, QStringLiteral("the picture process answered with another size")};
+    const Error wrongSize{ErrorKind::Protocol,
+                          QStringLiteral("the picture process answered with another size")};
     fail(known, result.ok() ? wrongSize : result.error());
   }
 }

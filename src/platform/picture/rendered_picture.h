@@ -22,18 +22,20 @@ namespace norvex {
 
 /// Bounds of the cache of one picture.
 struct RenderedPictureOptions {
-  qint64 cacheBytes = 256LL << 20;     ///< bitmaps kept beyond what is visible. Default: 256 MiB
-  qint64 wholePixels = 4'000'000;      ///< a picture up to this size is one bitmap. Default: 4 megapixels
-  qint64 overviewPixels = 1'000'000;   ///< the bitmap that stands in where nothing else is. Default: 1 megapixel
-  qint64 visiblePixels = 64'000'000;   ///< a larger view is rendered around its middle only. Default: 64 megapixels
-  int tile = 256;                      ///< grid and margin of what is asked for, pixels. Default: 256
+  qint64 cacheBytes = 256LL << 20;  ///< bitmaps kept beyond what is visible. Default: 256 MiB
+  qint64 wholePixels = 4'000'000;   ///< a picture up to this size is one bitmap. Default: 4 megapixels
+  qint64 overviewPixels =
+      1'000'000;  ///< the bitmap that stands in where nothing else is. Default: 1 megapixel
+  qint64 visiblePixels =
+      64'000'000;  ///< a larger view is rendered around its middle only. Default: 64 megapixels
+  int tile = 256;  ///< grid and margin of what is asked for, pixels. Default: 256
   MillisecondClock clock = steadyMilliseconds;  ///< Default: the system's
 };
 
-/// Keeps layers of bitmaps, the newest views and one overview; draws a frame from them at once, and asks for what is
-/// missing of the current view: the visible part first, then the overview, and when the view rests a margin around it.
-/// What a newer view does not need is cancelled. "Device" means true pixels, origin top-left, y down; pictureToDevice maps
-/// picture coordinates (points, origin lower-left, y up) to them.
+/// Keeps layers of bitmaps, the newest views and one overview; draws a frame from them at once, and asks for
+/// what is missing of the current view: the visible part first, then the overview, and when the view rests a
+/// margin around it. What a newer view does not need is cancelled. "Device" means true pixels, origin
+/// top-left, y down; pictureToDevice maps picture coordinates (points, origin lower-left, y up) to them.
 /// Belongs to one thread, in which the signals come; the process is called on a thread of its own.
 class RenderedPicture final : public QObject {
   Q_OBJECT
@@ -43,7 +45,8 @@ class RenderedPicture final : public QObject {
   /// Cancels what is being rendered and waits for its end.
   ~RenderedPicture() override;
 
-  /// Paints what there is, sharp where it is sharp. Respects the painter's clip, ignores its transform. Asks nothing.
+  /// Paints what there is, sharp where it is sharp. Respects the painter's clip, ignores its transform. Asks
+  /// nothing.
   void draw(QPainter& painter, const QTransform& pictureToDevice, const QRect& visibleDeviceRect);
   /// Makes this the current view. Cheap when nothing is missing, so it may follow every draw().
   void request(const QTransform& pictureToDevice, const QRect& visibleDeviceRect);
@@ -52,8 +55,8 @@ class RenderedPicture final : public QObject {
   /// Whether a part of the current view is being rendered.
   [[nodiscard]] bool isBusy() const;
 
-  /// Why the current view does not become sharp. A failed view is not asked for again until retry(); another scale
-  /// or angle is tried, but after three failures in a row nothing is.
+  /// Why the current view does not become sharp. A failed view is not asked for again until retry(); another
+  /// scale or angle is tried, but after three failures in a row nothing is.
   [[nodiscard]] const std::optional<Error>& error() const { return error_; }
   /// Forgets the failures and asks again.
   void retry();

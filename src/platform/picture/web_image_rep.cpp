@@ -12,30 +12,42 @@
 namespace norvex {
 namespace {
 
-QVariant textOrNothing(const QString& text) { return text.isEmpty() ? QVariant() : QVariant(text); }
-QVariant urlOrNothing(const QUrl& url) { return url.isEmpty() ? QVariant() : QVariant(url); }
+QVariant textOrNothing(const QString& text) {
+  return text.isEmpty() ? QVariant() : QVariant(text);
+}
+QVariant urlOrNothing(const QUrl& url) {
+  return url.isEmpty() ? QVariant() : QVariant(url);
+}
 
 template <typename Value>
 QVariant valueOrNothing(const std::optional<Value>& value) {
   return value ? QVariant::fromValue(*value) : QVariant();
 }
 
-QByteArray bytesOrNothing(const Result<PictureBytes>& result) { return result ? result->bytes : QByteArray(); }
+QByteArray bytesOrNothing(const Result<PictureBytes>& result) {
+  return result ? result->bytes : QByteArray();
+}
 
 }  // namespace
 
-ZyWebImageRep::ZyWebImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, PictureFacts facts, QUrl fileURL)
+ZyWebImageRep::ZyWebImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, PictureFacts facts,
+                             QUrl fileURL)
     : NSImageRep(PictureKind::Svg, std::move(bytes), std::move(process)),
       facts_(std::move(facts)),
       fileURL_(std::move(fileURL)) {}
 
-ZyWebImageRep::~ZyWebImageRep() { cancelPDF_.cancel(); }
+ZyWebImageRep::~ZyWebImageRep() {
+  cancelPDF_.cancel();
+}
 
-Result<std::shared_ptr<ZyWebImageRep>> ZyWebImageRep::imageRepWithData(PictureService& service, const QByteArray& bytes,
-                                                                       const QUrl& fileURL, const PictureLimits& limits) {
+Result<std::shared_ptr<ZyWebImageRep>> ZyWebImageRep::imageRepWithData(PictureService& service,
+                                                                       const QByteArray& bytes,
+                                                                       const QUrl& fileURL,
+                                                                       const PictureLimits& limits,
+                                                                       const CancelToken& cancel) {
   if (bytes.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the file is empty")};
   auto process = service.open(bytes, PictureKind::Svg, limits);
-  const Result<PictureFacts> facts = process->facts();
+  const Result<PictureFacts> facts = process->facts(cancel);
   if (!facts) return facts.error();
   if (facts->pageBounds.isEmpty() || facts->pageBounds.first().isEmpty())
     return Error{ErrorKind::NotParsable, QStringLiteral("the SVG document has no area")};
@@ -45,13 +57,16 @@ Result<std::shared_ptr<ZyWebImageRep>> ZyWebImageRep::imageRepWithData(PictureSe
 Result<std::shared_ptr<ZyWebImageRep>> ZyWebImageRep::imageRepWithContentsOfURL(PictureService& service,
                                                                                 const QUrl& fileURL,
                                                                                 const PictureLimits& limits) {
-  if (!fileURL.isLocalFile()) return Error{ErrorKind::CannotRead, QStringLiteral("only local files can be opened")};
+  if (!fileURL.isLocalFile())
+    return Error{ErrorKind::CannotRead, QStringLiteral("only local files can be opened")};
   const Result<QByteArray> bytes = readDocumentFile(fileURL.toLocalFile());
   if (!bytes) return bytes.error();
   return imageRepWithData(service, *bytes, fileURL, limits);
 }
 
-QByteArray ZyWebImageRep::gzip(const QByteArray& bytes) { return gzipStream(bytes).value_or(QByteArray()); }
+QByteArray ZyWebImageRep::gzip(const QByteArray& bytes) {
+  return gzipStream(bytes).value_or(QByteArray());
+}
 
 QVariant ZyWebImageRep::valueForKey(const QString& key) const {
   if (key == QLatin1String(ZyWebViewDescKey)) return textOrNothing(facts_.description);
@@ -62,12 +77,14 @@ QVariant ZyWebImageRep::valueForKey(const QString& key) const {
   if (key == QLatin1String(ZyWebViewFixedRatioXKey)) return valueOrNothing(facts_.fixedRatioX);
   if (key == QLatin1String(ZyWebViewFixedRatioYKey)) return valueOrNothing(facts_.fixedRatioY);
   if (key == QLatin1String("viewBox")) return valueOrNothing(facts_.viewBox);
-  if (key == QLatin1String(ZyWebViewFileURLKey) || key == QLatin1String("fileURL")) return urlOrNothing(fileURL_);
+  if (key == QLatin1String(ZyWebViewFileURLKey) || key == QLatin1String("fileURL"))
+    return urlOrNothing(fileURL_);
   if (key == QLatin1String(ZyWebViewPDFImageRepKey) && pdfImageRep_) return QVariant::fromValue(pdfImageRep_);
   return {};
 }
 
-// ---- representations ------------------------------------------------------------------------------------------------
+// ---- representations
+// ------------------------------------------------------------------------------------------------
 
 QByteArray ZyWebImageRep::SVGRepresentation() const {
   if (!isGzip(sourceBytes())) return sourceBytes();
@@ -78,7 +95,9 @@ QByteArray ZyWebImageRep::SVGPrettyRepresentation() const {
   return bytesOrNothing(process()->svg({.pretty = true, .rect = std::nullopt, .rotate = 0}));
 }
 
-QByteArray ZyWebImageRep::PDFRepresentation() const { return bytesOrNothing(process()->pdf({})); }
+QByteArray ZyWebImageRep::PDFRepresentation() const {
+  return bytesOrNothing(process()->pdf({}));
+}
 
 QByteArray ZyWebImageRep::EPSRepresentation() const {
   const QSizeF points = size();
@@ -92,7 +111,8 @@ QByteArray ZyWebImageRep::xmlDocumentWithSVGInsideRect(const QRectF& rect, doubl
   return bytesOrNothing(process()->svg({.pretty = false, .rect = rect, .rotate = rotate}));
 }
 
-// ---- the PDF form ---------------------------------------------------------------------------------------------------
+// ---- the PDF form
+// ---------------------------------------------------------------------------------------------------
 
 void ZyWebImageRep::loadPDFImageRep() {
   if (pdfIsLoading_) return;
@@ -103,10 +123,12 @@ void ZyWebImageRep::loadPDFImageRep() {
     finishPDFImageRep(watcher->result());
   });
   if (pdfImageRep_) {
-    watcher->setFuture(QtFuture::makeReadyFuture(Result<PictureBytes>(PictureBytes{pdfImageRep_->sourceBytes(), {}})));
+    watcher->setFuture(
+        QtFuture::makeReadyFuture(Result<PictureBytes>(PictureBytes{pdfImageRep_->sourceBytes(), {}})));
     return;
   }
-  watcher->setFuture(QtConcurrent::run([open = process(), cancel = cancelPDF_] { return open->pdf({}, cancel); }));
+  watcher->setFuture(
+      QtConcurrent::run([open = process(), cancel = cancelPDF_] { return open->pdf({}, cancel); }));
 }
 
 void ZyWebImageRep::finishPDFImageRep(const Result<PictureBytes>& pdf) {

@@ -27,19 +27,24 @@ class ZyWebImageRep final : public NSImageRep {
   Q_OBJECT
  public:
   /// Nothing (with the reason) when the bytes are not SVG. Blocks for the document's facts.
-  static Result<std::shared_ptr<ZyWebImageRep>> imageRepWithData(PictureService& service, const QByteArray& bytes,
-                                                                 const QUrl& fileURL = {}, const PictureLimits& limits = {});
+  static Result<std::shared_ptr<ZyWebImageRep>> imageRepWithData(PictureService& service,
+                                                                 const QByteArray& bytes,
+                                                                 const QUrl& fileURL = {},
+                                                                 const PictureLimits& limits = {},
+                                                                 const CancelToken& cancel = {});
   /// The same with the bytes of a local file.
-  static Result<std::shared_ptr<ZyWebImageRep>> imageRepWithContentsOfURL(PictureService& service, const QUrl& fileURL,
+  static Result<std::shared_ptr<ZyWebImageRep>> imageRepWithContentsOfURL(PictureService& service,
+                                                                          const QUrl& fileURL,
                                                                           const PictureLimits& limits = {});
 
-  /// A gzip stream of `bytes` whose header holds neither time nor name: the same bytes give the same stream. Empty
-  /// when memory is short. Thread-safe.
+  /// A gzip stream of `bytes` whose header holds neither time nor name: the same bytes give the same stream.
+  /// Empty when memory is short. Thread-safe.
   [[nodiscard]] static QByteArray gzip(const QByteArray& bytes);
 
-  /// ZyWebViewDescKey, …TitleKey and …EncodingKey give a QString, …EncodingNumberKey a qint64, …FixedRatioXKey and …YKey
-  /// a bool, ZyWebViewPDFImageRepKey a std::shared_ptr<NSImageRep>, "viewBox" a QRectF, ZyWebViewFileURLKey and
-  /// "fileURL" a QUrl. An invalid QVariant where there is no value, for an empty text too.
+  /// ZyWebViewDescKey, …TitleKey and …EncodingKey give a QString, …EncodingNumberKey a qint64,
+  /// …FixedRatioXKey and …YKey a bool, ZyWebViewPDFImageRepKey a std::shared_ptr<NSImageRep>, "viewBox" a
+  /// QRectF, ZyWebViewFileURLKey and "fileURL" a QUrl. An invalid QVariant where there is no value, for an
+  /// empty text too.
   [[nodiscard]] QVariant valueForKey(const QString& key) const;
   /// The document's own colour space; nothing: it names none.
   [[nodiscard]] std::optional<QColorSpace> colorSpace() const { return std::nullopt; }
@@ -51,15 +56,17 @@ class ZyWebImageRep final : public NSImageRep {
   [[nodiscard]] const PictureFacts& facts() const { return facts_; }
 
   // The representations block for the picture process; empty when it has none to give. Any thread.
-  [[nodiscard]] QByteArray SVGRepresentation() const;        ///< the source; of a compressed one what it holds
-  [[nodiscard]] QByteArray SVGPrettyRepresentation() const;  ///< indented; bytes in the document's own encoding
+  [[nodiscard]] QByteArray SVGRepresentation() const;  ///< the source; of a compressed one what it holds
+  [[nodiscard]] QByteArray SVGPrettyRepresentation()
+      const;  ///< indented; bytes in the document's own encoding
   [[nodiscard]] QByteArray PDFRepresentation() const;
   [[nodiscard]] QByteArray EPSRepresentation() const;
   /// The document cut to a rectangle and turned, as SVG bytes. See SvgRequest for the coordinates.
   [[nodiscard]] QByteArray xmlDocumentWithSVGInsideRect(const QRectF& rect, double rotate) const;
 
-  /// Asks for the PDF form in the background; pdfImageRepDidLoad() tells the end. While it is on its way, and once it
-  /// is there, a further call asks nothing; in the second case the signal comes again. The object's thread.
+  /// Asks for the PDF form in the background; pdfImageRepDidLoad() tells the end. While it is on its way, and
+  /// once it is there, a further call asks nothing; in the second case the signal comes again. The object's
+  /// thread.
   void loadPDFImageRep();
   ~ZyWebImageRep() override;
 

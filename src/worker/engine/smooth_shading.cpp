@@ -32,20 +32,23 @@ systemdict /shfill known {
 } def
 /NorvexShade {
   8 dict begin
-  /Coords exch def /ShadingType exch def /Function exch def pop
-  1.00001 gt exch -0.00001 lt exch 2 array astore /Extend exch def
+  /Coords exch def /ShadingType exch def /Function exch def
+  /Extend 3 index -0.00001 lt 3 index 1.00001 gt 2 array astore def
   /Domain [t0 t1] def /ColorSpace pdfFillCS def
-  currentdict end shfill
+  currentdict end
+  { shfill } stopped { pop $error /newerror false put false } { pop pop pop true } ifelse
 } def
 /NorvexAxial /axialSH load def
 /axialSH {
   dup 0 eq { NorvexSample } { false } ifelse
-  { 2 [x0 y0 x1 y1] NorvexShade } { NorvexAxial } ifelse
+  { 2 [x0 y0 x1 y1] NorvexShade } { false } ifelse
+  { } { NorvexAxial } ifelse
 } def
 /NorvexRadial /radialSH load def
 /radialSH {
   dup 0 eq { NorvexSample } { false } ifelse
-  { 3 [x0 y0 r0 x1 y1 r1] NorvexShade } { NorvexRadial } ifelse
+  { 3 [x0 y0 r0 x1 y1 r1] NorvexShade } { false } ifelse
+  { } { NorvexRadial } ifelse
 } def
 } if
 end

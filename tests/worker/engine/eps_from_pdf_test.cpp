@@ -162,6 +162,14 @@ class EpsFromPdfTest : public QObject {
         "q 10 10 150 60 re W n /S sh Q " + kVectors,
         "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 200 0] /Function << /FunctionType 2 "
         "/Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>") << 0;
+    QTest::newRow("a radial gradient") << page(
+        "q /S sh Q " + kVectors,
+        "/Shading << /S << /ShadingType 3 /ColorSpace /DeviceRGB /Coords [60 50 10 120 50 40] /Extend [true false] "
+        "/Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>") << 0;
+    QTest::newRow("a gradient between the same points") << page(
+        "q /S sh Q " + kVectors,
+        "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceRGB /Coords [60 50 60 50] /Extend [false false] "
+        "/Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>") << 0;
     QTest::newRow("a soft image")
         << page(kVectors + "q 60 0 0 60 100 20 cm /I Do Q", "/XObject << /I 6 0 R >>",
                 {kit::stream(QByteArray(3, '\x20'), "/Type /XObject /Subtype /Image /Width 1 /Height 1 "
@@ -214,6 +222,16 @@ class EpsFromPdfTest : public QObject {
     QVERIFY(eps.contains("[0.1 0.2 0.3 0.4] sc"));
     QVERIFY(eps.contains("[/Separation (Spot Green) /DeviceCMYK"));
     QVERIFY(eps.contains("[0.7] sc"));
+  }
+
+  void gradientsAreLeftToTheInterpreter() {
+    const QByteArray eps = Converted(page("/S sh", "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceCMYK /Coords "
+                                                   "[0 0 200 0] /Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0 0] "
+                                                   "/C1 [0 1 0 0] /N 1 >> >> >>"))
+                               .eps();
+    QVERIFY(eps.contains("{ shfill } stopped"));
+    QVERIFY(eps.contains("axialSH\n"));
+    QVERIFY(eps.size() < 20000);
   }
 
   void shownTextCannotPassForAComment() {

@@ -14,6 +14,8 @@
 
 namespace norvex {
 
+class AlertPresenter;
+class PictureProducers;
 class PictureService;
 
 /// One for every opened file. It keeps no picture: the window controller reads the file again when its window
@@ -44,6 +46,18 @@ class Document : public QObject {
   /// A file that can no longer be read is the set-up's business.
   void revertDocumentToSaved();
 
+  /// Writes the shown picture to `url`, whole or not at all: under an SVG type with the compressed extension gzip
+  /// bytes, otherwise what dataOfType() returns. Throws UnimplementedMethod like it; false (with `error`) when the
+  /// bytes could not be written. The document keeps its own file and type.
+  bool writeToURL(const QUrl& url, const QString& ofType, DocumentError* error = nullptr);
+  /// The shown picture as bytes of a type. For EPS it asks whether a preview is wanted. Every failure (no bytes, a type
+  /// that is not written, "Cancel") throws UnimplementedMethod; `error` is never delivered.
+  QByteArray dataOfType(const QString& type, DocumentError* error = nullptr);
+  /// Shows the questions; not owned, outlives the document. Null: nobody can be asked, which counts as "Cancel".
+  void setAlertPresenter(AlertPresenter* presenter) { alerts_ = presenter; }
+  /// Compressed SVG bytes on their way from writeToURL() to dataOfType(); otherwise nothing.
+  [[nodiscard]] const std::optional<QByteArray>& compressedData() const { return compressedData_; }
+
   /// Tells closed(); whoever holds the document then destroys it. Further calls do nothing.
   void close();
 
@@ -66,12 +80,19 @@ class Document : public QObject {
   /// Gives the controller its document, or takes it away.
   void addWindowController(DocumentWindowController& controller);
   void removeWindowController(DocumentWindowController& controller);
+  // document_writing.cpp
+  [[nodiscard]] PictureProducers* producers() const;
+  QByteArray encapsulatedPostScript(PictureProducers& producers, QString* failure);
+  QByteArray scalableVectorGraphics(PictureProducers& producers);
+  [[nodiscard]] bool mayReplace(const QUrl& url) const;
 
   std::unique_ptr<DocumentWindowController> windowController_;
+  std::optional<QByteArray> compressedData_;
   PictureService& service_;
   DocumentWindowControllerFactory factory_;
   QUrl fileURL_;
   QString fileType_;
+  AlertPresenter* alerts_ = nullptr;
   bool closed_ = false;
 };
 

@@ -8,6 +8,7 @@
 namespace norvex {
 
 class Document;
+class PictureProducers;
 
 /// What a document asks of its one window controller. Main thread only. Owned by the document.
 class DocumentWindowController {
@@ -25,6 +26,8 @@ class DocumentWindowController {
   virtual void windowDidLoad() = 0;
   /// Redraws the window at once.
   virtual void display() = 0;
+  /// What turns the shown picture into bytes; null: this controller writes nothing. Owned by the controller.
+  virtual PictureProducers* producers() { return nullptr; }
   /// The file on disk is another one than was read, and is whole: offer to reload it, quietly.
   virtual void fileDidChangeOnDisk() {}
 };

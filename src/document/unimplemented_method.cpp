@@ -2,8 +2,8 @@
 
 namespace norvex {
 
-UnimplementedMethod::UnimplementedMethod(const QString& operation)
-    : operation_(operation), what_(reason().toStdString()) {}
+UnimplementedMethod::UnimplementedMethod(const QString& operation, const QString& suggestion)
+    : operation_(operation), suggestion_(suggestion), what_(reason().toStdString()) {}
 
 QString UnimplementedMethod::reason() const {
   return QStringLiteral("%@ is unimplemented").replace(QStringLiteral("%@"), operation_);

@@ -13,16 +13,18 @@ namespace norvex {
 class UnimplementedMethod final : public std::exception {
  public:
   /// `operation` in its original form, colons and all: "readFromData:ofType:error:".
-  explicit UnimplementedMethod(const QString& operation);
+  /// `suggestion`: what the user can do about it, one sentence in the user's language; may be empty.
+  explicit UnimplementedMethod(const QString& operation, const QString& suggestion = {});
 
   [[nodiscard]] static QString name() { return QStringLiteral("UnimplementedMethod"); }
   [[nodiscard]] QString operation() const { return operation_; }
   /// "%@ is unimplemented" with the operation in the placeholder.
   [[nodiscard]] QString reason() const;
+  [[nodiscard]] QString suggestion() const { return suggestion_; }
   [[nodiscard]] const char* what() const noexcept override { return what_.c_str(); }
 
  private:
-  QString operation_;
+  QString operation_, suggestion_;
   std::string what_;
 };
 

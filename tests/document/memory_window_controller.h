@@ -31,6 +31,7 @@ class MemoryWindowController final : public DocumentWindowController {
   }
   void display() override { log_->append("displayed"); }
   void fileDidChangeOnDisk() override { log_->append("changed on disk"); }
+  PictureProducers* producers() override { return pictureProducers; }
 
   /// What a person does with the close button.
   void closeWindow() {
@@ -38,6 +39,7 @@ class MemoryWindowController final : public DocumentWindowController {
   }
 
   std::function<void()> onLoad;
+  PictureProducers* pictureProducers = nullptr;
 
  private:
   QStringList* log_;

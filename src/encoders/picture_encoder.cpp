@@ -1,5 +1,6 @@
 #include "encoders/picture_encoder.h"
 
+#include "display/picture_geometry.h"
 #include "display/view_compose.h"
 #include "encoders/dos_eps_writer.h"
 #include "encoders/eps_header_rewriter.h"
@@ -68,8 +69,7 @@ QByteArray PictureEncoder::composed(VectorFormat format) {
   return take(composeView(imageRep_.get(), {centre, region.rotate}, format, region.rect, cancel_));
 }
 
-// ---- EPS
-// ------------------------------------------------------------------------------------------------------------
+// ---- EPS --------------------------------------------------------------------------------------------------
 
 QByteArray PictureEncoder::postScriptData() {
   if (!imageRep_) return {};
@@ -100,11 +100,7 @@ QString PictureEncoder::sourceTextOfEps() {
   const auto* eps = dynamic_cast<const NSEPSImageRep*>(imageRep_.get());
   const QByteArray bytes = eps->EPSRepresentation();
   const qint64 number = epsHeader(bytes).value(header::EncodingNumber).toLongLong();
-  const QString text = sourceText(PictureKind::Eps, bytes, number);
-  if (text.isEmpty() && !postScriptOf(bytes).isEmpty()) {
-    report_.warnings += QStringLiteral("the source holds bytes that are text in no known encoding");
-  }
-  return text;
+  return sourceText(PictureKind::Eps, bytes, number);
 }
 
 QByteArray PictureEncoder::postScriptDataWithPreview() {
@@ -117,7 +113,8 @@ QByteArray PictureEncoder::postScriptDataWithPreview() {
   if (isEps(imageRep_.get()) && handsOnSource()) {
     postScript = sourceTextOfEps().toUtf8();
     if (postScript.isEmpty()) {
-      report_.warnings += QStringLiteral("the file holds the preview only: its PostScript section is empty");
+      report_.warnings += QStringLiteral(
+          "the source could not be read as text, so the file holds a preview and no PostScript");
     }
   } else {
     postScript = postScriptData();
@@ -133,7 +130,7 @@ QByteArray PictureEncoder::epsiData() {
     text = sourceTextOfEps();
     if (text.isEmpty()) {
       return fail({ErrorKind::Unsupported,
-                   QStringLiteral("the source could not be read as text, which this format needs")});
+                   QStringLiteral("the source could not be read as text, so it cannot be written as EPSI")});
     }
   } else {
     const QByteArray generated = postScriptData();
@@ -153,8 +150,7 @@ QByteArray PictureEncoder::epsiData() {
   return out.toUtf8();
 }
 
-// ---- PDF
-// ------------------------------------------------------------------------------------------------------------
+// ---- PDF --------------------------------------------------------------------------------------------------
 
 QByteArray PictureEncoder::pdfData() {
   if (!imageRep_) return {};
@@ -192,19 +188,19 @@ QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
   return result ? *result : fail(result.error());
 }
 
-// ---- SVG and raster
-// -------------------------------------------------------------------------------------------------
+// ---- SVG and raster ---------------------------------------------------------------------------------------
 
 QByteArray PictureEncoder::svgData() {
   const auto* svg = dynamic_cast<const ZyWebImageRep*>(imageRep_.get());
   if (!svg) return {};
   SvgRequest request;
   if (surroundings_.region) {
-    // The cut counts from the picture's upper left corner, y down, and turns clockwise.
+    // The cut counts from the upper left corner of the turned picture, y down, and turns clockwise.
     const QRectF& rect = surroundings_.region->rect;
+    const QSizeF turned = rotatedBoundingSize(svg->size(), normalizedAngle(surroundings_.region->rotate));
     request.pretty = false;
-    request.rect = QRectF(rect.left() + svg->size().width() / 2,
-                          svg->size().height() / 2 - rect.top() - rect.height(), rect.width(), rect.height());
+    request.rect = QRectF(rect.left() + turned.width() / 2, turned.height() / 2 - rect.top() - rect.height(),
+                          rect.width(), rect.height());
     request.rotate = -surroundings_.region->rotate;
   }
   return take(svg->process()->svg(request, cancel_));

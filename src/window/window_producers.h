@@ -1,0 +1,52 @@
+// The producers of a document window: its shown picture as the bytes of each format.
+#pragma once
+
+#include <QColorSpace>
+
+#include <functional>
+
+#include "document/picture_producers.h"
+#include "encoders/picture_encoder.h"
+
+namespace norvex {
+
+class PictureService;
+
+/// Makes an encoder for the picture that is shown at the moment of each call. Main thread only.
+class WindowProducers final : public PictureProducers {
+ public:
+  /// What the window shows now; asked at each call, on the main thread.
+  struct Shown {
+    std::shared_ptr<NSImageRep> imageRep;  ///< null: no picture
+    PictureService* service = nullptr;     ///< null: no document
+    QColorSpace colorSpace;                ///< of the window; an invalid one has no profile
+  };
+  using Showing = std::function<Shown()>;
+
+  explicit WindowProducers(Showing showing) : showing_(std::move(showing)) {}
+
+  std::shared_ptr<NSImageRep> shownImageRep() override { return showing_().imageRep; }
+  QByteArray postScriptData() override;
+  QByteArray addEPSHeader(const QByteArray& postScript);
+  QByteArray postScriptDataWithPreview() override;
+  QByteArray epsiData() override;
+  QByteArray pdfData() override;
+  QByteArray addPDFHeader(const QByteArray& pdf);
+  QByteArray svgData() override;
+  QByteArray tiffData(const std::shared_ptr<NSImageRep>& imageRep) override;
+  QByteArray pngData(const std::shared_ptr<NSImageRep>& imageRep) override;
+  QByteArray jpgData(const std::shared_ptr<NSImageRep>& imageRep) override;
+  QByteArray gifData(const std::shared_ptr<NSImageRep>& imageRep) override;
+  [[nodiscard]] QString lastShortcoming() const override;
+
+  /// The encoder of the shown picture, to be used on another thread.
+  [[nodiscard]] PictureEncoder encoder() const;
+
+ private:
+  QByteArray make(const std::function<QByteArray(PictureEncoder&)>& produce);
+
+  Showing showing_;
+  EncodingReport lastReport_;
+};
+
+}  // namespace norvex

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+#include "metadata/full_date.h"
+
 namespace norvex {
 namespace {
 
@@ -39,6 +41,7 @@ EncoderSurroundings usualSurroundings(PictureService& service) {
   surroundings.applicationName = QStringLiteral("Norvex");
   surroundings.applicationVersion = QStringLiteral(NORVEX_VERSION);
   surroundings.now = now();
+  surroundings.locale = userDateLocale();
   surroundings.iccProfile = QColorSpace(QColorSpace::SRgb).iccProfile();
   return surroundings;
 }

@@ -1,8 +1,6 @@
 #include "platform/qt/start_panel.h"
 
 #include <QCloseEvent>
-#include <QDir>
-#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -18,6 +16,8 @@
 
 #include "platform/localized_string.h"
 #include "platform/qt/dropped_files.h"
+#include "platform/qt/quiet_text.h"
+#include "platform/qt/recent_file_delegate.h"
 #include "platform/qt/recent_files.h"
 
 namespace norvex {
@@ -38,20 +38,8 @@ QLabel* makeLabel(const QString& text, double scale, bool quiet, QWidget* parent
   font.setPointSizeF(font.pointSizeF() * scale);
   if (scale > 1.2) font.setWeight(QFont::DemiBold);
   label->setFont(font);
-  if (quiet) {
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText,
-                     faded(palette.color(QPalette::WindowText), palette.color(QPalette::Window), .66));
-    label->setPalette(palette);
-  }
+  if (quiet) makeQuiet(*label);
   return label;
-}
-
-/// The path of a file's folder as people write it.
-QString folderName(const QUrl& url) {
-  const QString folder = QFileInfo(url.toLocalFile()).absolutePath();
-  const QString home = QDir::homePath();
-  return folder == home || folder.startsWith(home + '/') ? '~' + folder.mid(home.size()) : folder;
 }
 
 }  // namespace
@@ -106,6 +94,7 @@ QWidget* StartPanel::makeWelcome() {
   auto* column = new QVBoxLayout(welcome);
   column->setContentsMargins(28, 28, 28, 28);
   auto* icon = new QLabel(welcome);
+  icon->setContentsMargins(-5, 0, 0, 0);  // the icon's own edge is clear
   icon->setPixmap(windowIcon().pixmap(QSize(72, 72), devicePixelRatioF()));
   auto* subtitle = makeLabel(localizedString("EPS, Illustrator, PDF and SVG pictures"), 1, true, welcome);
   subtitle->setWordWrap(true);
@@ -139,14 +128,16 @@ QWidget* StartPanel::makeRecent() {
   auto* side = new QWidget(this);
   side->setAutoFillBackground(true);
   side->setBackgroundRole(QPalette::Base);
+  side->setForegroundRole(QPalette::WindowText);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(20, 28, 20, 20);
   auto* title = makeLabel(localizedString("Recent"), 1, true, side);
   list_ = new QListWidget(side);
   list_->setFrameShape(QFrame::NoFrame);
+  list_->setItemDelegate(new RecentFileDelegate(list_));
+  list_->setMouseTracking(true);
   list_->setAccessibleName(localizedString("Recent files"));
   list_->setUniformItemSizes(true);
-  list_->setTextElideMode(Qt::ElideMiddle);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list_->setContextMenuPolicy(Qt::CustomContextMenu);
   title->setBuddy(list_);
@@ -168,13 +159,12 @@ QWidget* StartPanel::makeRecent() {
 
 void StartPanel::fillRecent() {
   list_->clear();
-  const QFileIconProvider icons;
   for (const QUrl& url : recent_.urls()) {
     const QFileInfo info(url.toLocalFile());
-    auto* item = new QListWidgetItem(icons.icon(info), info.fileName() + '\n' + folderName(url), list_);
+    auto* item = new QListWidgetItem(info.fileName(), list_);
     item->setData(kUrlRole, url);
     item->setToolTip(info.absoluteFilePath());
-    item->setData(Qt::AccessibleTextRole, info.fileName());
+    item->setData(Qt::AccessibleDescriptionRole, info.absolutePath());
   }
   pages_->setCurrentWidget(list_->count() > 0 ? static_cast<QWidget*>(list_) : empty_);
 }

@@ -34,16 +34,20 @@ std::optional<PictureRegion> regionOf(const NSImageRep& imageRep, const Conversi
   return PictureRegion{options.crop->translated(lowerLeft), rotate};
 }
 
+int pageCount(const NSImageRep& imageRep) {
+  const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep);
+  return pdf ? pdf->pageCount() : 1;
+}
+
 std::optional<Error> objection(const NSImageRep& imageRep, const ConversionOptions& options) {
   const bool wantsSvg = options.format == OutputFormat::Svg || options.format == OutputFormat::Svgz;
   if (wantsSvg && imageRep.pictureKind() != PictureKind::Svg) {
     return Error{ErrorKind::Unsupported, QStringLiteral("only an SVG picture can be written as SVG")};
   }
-  const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep);
-  const int pages = pdf ? pdf->pageCount() : 1;
+  const int pages = pageCount(imageRep);
   if (options.page.value_or(1) > pages) {
     return Error{ErrorKind::Unsupported,
-                 QStringLiteral("there is no page %1, the last one is %2").arg(*options.page).arg(pages)};
+                 QStringLiteral("there is no page %1, the document has %2").arg(*options.page).arg(pages)};
   }
   return std::nullopt;
 }
@@ -63,7 +67,7 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   picture.fileURL = fileURL;
   picture.typeIdentifier = identifyType(source, fileURL.fileName()).identifier();
   picture.page = options.page.value_or(1) - 1;
-  const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits);
+  const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits, cancel);
   if (!loaded) return failed(loaded.error());
   const auto& imageRep = loaded->imageRep;
   if (const auto error = objection(*imageRep, options)) return failed(*error);
@@ -71,7 +75,8 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   EncoderSurroundings surroundings = usualSurroundings(service);
   surroundings.raster = {options.dpi, options.background};
   surroundings.region = regionOf(*imageRep, options);
-  surroundings.onePage = options.page.has_value();
+  // The only page is the whole file.
+  surroundings.onePage = options.page.has_value() && pageCount(*imageRep) > 1;
   PictureEncoder encoder(imageRep, surroundings, cancel);
   Conversion conversion;
   conversion.bytes = encodedPicture(encoder, options.format);

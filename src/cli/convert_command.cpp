@@ -19,6 +19,10 @@ Conversion refused(ErrorKind kind, const QString& message) {
   return conversion;
 }
 
+Conversion interrupted() {
+  return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
+}
+
 /// What can be known before the work is done: that its result could not be kept.
 std::optional<Conversion> refusalOf(const ConvertTask& task, const ConvertPlan& plan) {
   if (task.output == QLatin1String("-")) return std::nullopt;
@@ -29,13 +33,17 @@ std::optional<Conversion> refusalOf(const ConvertTask& task, const ConvertPlan& 
     return refused(ErrorKind::CannotWrite,
                    QStringLiteral("%1 exists already (--force overwrites it)").arg(task.output));
   }
+  if (!QFileInfo(QFileInfo(task.output).path()).isDir()) {
+    return refused(ErrorKind::CannotWrite,
+                   QStringLiteral("%1: the folder to write to does not exist").arg(task.output));
+  }
   return std::nullopt;
 }
 
 /// Converts and writes one file. `input`: the bytes of standard input. Thread-safe.
 Conversion convertFile(PictureService& service, const ConvertTask& task, const ConvertPlan& plan,
                        const Result<QByteArray>& input, const CancelToken& cancel) {
-  if (cancel.cancelled()) return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
+  if (cancel.cancelled()) return interrupted();
   if (auto refusal = refusalOf(task, plan)) return *refusal;
   const bool isInput = task.file == QLatin1String("-");
   const Result<QByteArray> bytes = isInput ? input : readInputFile(task.file);
@@ -44,7 +52,7 @@ Conversion convertFile(PictureService& service, const ConvertTask& task, const C
   const QUrl url = isInput ? QUrl() : QUrl::fromLocalFile(QFileInfo(task.file).absoluteFilePath());
   Conversion conversion = convertPicture(service, *bytes, url, plan.options, cancel);
   if (conversion.report.error || task.output == QLatin1String("-")) return conversion;
-  if (cancel.cancelled()) return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
+  if (cancel.cancelled()) return interrupted();
   const auto written =
       writeFileAtomically(task.output, conversion.bytes, plan.force ? IfExists::Replace : IfExists::Fail);
   if (!written) {
@@ -102,22 +110,32 @@ ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<Conversio
     }
     const Conversion conversion = conversions.resultAt(int(i));
     if (plan.json) objects.append(conversionObject(task, plan.options, conversion));
-    if (conversion.report.error) {
-      codes << fail(task.file, *conversion.report.error);
-      continue;
-    }
-    const QString remarks = conversionRemarks(plan.options, conversion);
-    if (!plan.quiet && !remarks.isEmpty())
-      console_.message(QStringLiteral("norvex: %1: %2").arg(task.file, remarks));
-    codes << (task.output == QLatin1String("-") ? writeOutput(task.output, conversion.bytes, false)
-                                                : ExitCode::Done);
+    codes << reportConversion(plan, task, conversion);
   }
   console_.progress({});
+  if (const qsizetype undone = codes.count(ExitCode::Interrupted); undone > 0) {
+    console_.message(
+        QStringLiteral("norvex: interrupted; %1 of %2 files not converted").arg(undone).arg(count));
+  }
   if (plan.json && !console_.write(QJsonDocument(objects).toJson(QJsonDocument::Indented))) {
     return fail(QStringLiteral("-"),
                 {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
   }
   return exitCodeOfAll(codes);
+}
+
+ExitCode Job::reportConversion(const ConvertPlan& plan, const ConvertTask& task,
+                               const Conversion& conversion) {
+  const auto& error = conversion.report.error;
+  // An interruption may leave hundreds of files undone; they are told as one number.
+  if (error && error->kind == ErrorKind::Cancelled) return ExitCode::Interrupted;
+  if (error) return fail(task.file, *error);
+  const QString remarks = conversionRemarks(plan.options, conversion);
+  if (!plan.quiet && !remarks.isEmpty()) {
+    console_.message(QStringLiteral("norvex: %1: %2").arg(task.file, remarks));
+  }
+  if (task.output != QLatin1String("-")) return ExitCode::Done;
+  return writeOutput(task.output, conversion.bytes, false);
 }
 
 }  // namespace norvex

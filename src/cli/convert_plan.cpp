@@ -85,8 +85,9 @@ std::optional<OutputFormat> formatOf(const Arguments& arguments) {
 }
 
 QString inFolder(const QString& folder, const QString& file, OutputFormat format) {
-  const QString name =
-      file == QLatin1String("-") ? QStringLiteral("picture") : QFileInfo(file).completeBaseName();
+  const QFileInfo info(file);
+  QString name = file == QLatin1String("-") ? QStringLiteral("picture") : info.completeBaseName();
+  if (name.isEmpty()) name = info.fileName();  // all of it follows a dot
   return QDir(folder).filePath(name + u'.' + extensionOf(format));
 }
 

@@ -33,6 +33,8 @@ class Job {
   ExitCode preview(const Arguments& arguments);
   ExitCode convert(const Arguments& arguments);
   ExitCode reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions);
+  /// Tells what became of one file; of one that goes to standard output, writes it.
+  ExitCode reportConversion(const ConvertPlan& plan, const ConvertTask& task, const Conversion& conversion);
   ExitCode sandboxStatus();
 
   /// Text to standard output.

@@ -39,8 +39,11 @@ inline Ran run(const QString& program, const QStringList& arguments, const QByte
   return ran;
 }
 
-/// The built command.
-inline QString norvexProgram() { return QStringLiteral(NORVEX_BUILD_DIR "/norvex"); }
+/// The built command, or the one that NORVEX_PROGRAM names (an installed one, one of another build).
+inline QString norvexProgram() {
+  const QString given = qEnvironmentVariable("NORVEX_PROGRAM");
+  return given.isEmpty() ? QStringLiteral(NORVEX_BUILD_DIR "/norvex") : given;
+}
 
 inline Ran norvex(const QStringList& arguments, const QByteArray& input = {}, int seconds = 120,
                   const QStringList& environment = {}) {

@@ -1,0 +1,316 @@
+// The built program converts the samples into every format, and programs that we did not write accept the results.
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <csignal>
+
+#include <sys/mount.h>
+
+#include "kit/program.h"
+#include "kit/test_main.h"
+#include "system/outside_programs.h"
+
+using namespace norvex;
+using namespace norvex::kit;
+
+namespace {
+
+const QStringList kSamples{"lighthouse.svg",        "lighthouse.svgz", "lighthouse.pdf",    "lighthouse.eps",
+                           "lighthouse-preview.eps", "lighthouse.epsi", "lighthouse-8.ai", "lighthouse-cs.ai"};
+const QStringList kFormats{"eps", "eps-preview", "epsi", "pdf", "svg", "svgz", "tiff", "png", "jpeg", "gif"};
+
+/// An SVG with everything that a header can say.
+const QByteArray kTold =
+    "<svg xmlns='http://www.w3.org/2000/svg' width='90' height='60'><title>T\xC3\xAFtle (1)</title>"
+    "<desc>a description</desc><rect width='40' height='30' fill='#c03020'/></svg>";
+/// The same as EPS.
+const QByteArray kToldEps =
+    "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 90 60\n%%Title: The title\n%%Creator: The creator\n"
+    "%%For: The owner\n%%CreationDate: 2001-02-03\n%%Copyright: The copyright\n%%EndComments\n"
+    "0.8 0.2 0.1 setrgbcolor 10 10 40 30 rectfill showpage\n%%EOF\n";
+/// Never ends.
+const QByteArray kEndless = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n%%EndComments\n{} loop\n";
+
+bool isSvg(const QString& sample) { return sample.contains(".svg"); }
+
+QByteArray bytesOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QJsonObject infoOf(const QString& path) {
+  const Ran ran = kit::norvex({"info", "--json", path});
+  return QJsonDocument::fromJson(ran.out).array().at(0).toObject();
+}
+
+/// A small file system of its own; empty where mounting is not permitted.
+class SmallDisk {
+ public:
+  explicit SmallDisk(const char* size) {
+    const QByteArray options = QByteArray("size=") + size;
+    mounted_ = ::mount("tmpfs", QFile::encodeName(folder_.path()), "tmpfs", 0, options.constData()) == 0;
+  }
+  ~SmallDisk() {
+    if (mounted_) ::umount(QFile::encodeName(folder_.path()));
+  }
+  SmallDisk(const SmallDisk&) = delete;
+  SmallDisk& operator=(const SmallDisk&) = delete;
+  [[nodiscard]] bool isMounted() const { return mounted_; }
+  [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
+  [[nodiscard]] QString folder() const { return folder_.path(); }
+
+ private:
+  QTemporaryDir folder_;
+  bool mounted_ = false;
+};
+
+}  // namespace
+
+class ConvertSystemTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void init() { folder_ = std::make_unique<QTemporaryDir>(); }
+
+  void everySampleBecomesEveryFormat_data() {
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("format");
+    for (const QString& sample : kSamples)
+      for (const QString& format : kFormats)
+        QTest::newRow(qPrintable(sample + " to " + format)) << sample << format;
+  }
+  void everySampleBecomesEveryFormat() {
+    QFETCH(QString, sample);
+    QFETCH(QString, format);
+    const QString to = path("out." + QString(format).remove("-preview"));
+    const Ran ran = kit::norvex({"convert", kit::sample(sample), "-o", to, "--format", format});
+    if (format.startsWith("svg") && !isSvg(sample)) {
+      QCOMPARE(ran.exitCode, 3);
+      QVERIFY(ran.err.endsWith(": only an SVG picture can be written as SVG\n"));
+      QVERIFY(!QFile::exists(to));
+      return;
+    }
+    QVERIFY2(ran.exitCode == 0 && !ran.crashed, ran.err);
+    QCOMPARE(outside::complaintAbout(to, format), QString());
+    // Drawn by other programs, source and result look alike. A GIF has but 256 colours, and CMYK has no one look.
+    const QImage before = drawn(sample);
+    QVERIFY(!before.isNull());
+    const double different = outside::difference(before, outside::drawnOutside(to, format));
+    QVERIFY2(different < (format == "gif" || sample == "lighthouse-8.ai" ? 0.04 : 0.02), qPrintable(QString::number(different)));
+  }
+
+  void structuredPostScriptIsWellBehaved() {
+    for (const char* name : {"told.svg", "told.pdf"}) {
+      const QString svg = write("told.svg", kTold);
+      if (QString(name).endsWith("pdf")) QCOMPARE(kit::norvex({"convert", svg, "-o", path("told.pdf")}).exitCode, 0);
+      QCOMPARE(kit::norvex({"convert", path(name), "-o", path("out.eps"), "--force"}).exitCode, 0);
+      QCOMPARE(outside::complaintOf("epstool", {"--quiet", "--test-eps", path("out.eps")}), QString());
+    }
+  }
+
+  // ---- metadata -----------------------------------------------------------------------------------------
+
+  void anSvgTellsItsTitleAsEps() {
+    const QString svg = write("a.svg", kTold);
+    QVERIFY(kit::norvex({"convert", svg, "-o", path("b.eps")}).exitCode == 0);
+    const QJsonObject header = infoOf(path("b.eps"))["header"].toObject();
+    QCOMPARE(header["Title"].toString(), QString::fromUtf8("T\xC3\xAFtle (1)"));
+    QCOMPARE(header["Creator"].toString(), "MainWindowController by Tembrolix.");
+    QVERIFY(!header["For"].toString().isEmpty());
+    QVERIFY(!header["CreationDate"].toString().isEmpty());
+  }
+
+  void aPdfTellsEverythingAsEps() {
+    const QString eps = write("a.eps", kToldEps);
+    QCOMPARE(kit::norvex({"convert", eps, "-o", path("b.pdf")}).exitCode, 0);
+    QCOMPARE(kit::norvex({"convert", path("b.pdf"), "-o", path("c.eps")}).exitCode, 0);
+    const QJsonObject pdf = infoOf(path("b.pdf"))["header"].toObject();
+    const QJsonObject header = infoOf(path("c.eps"))["header"].toObject();
+    QCOMPARE(header["Title"].toString(), "The title");
+    QCOMPARE(header["For"].toString(), "The owner");
+    for (const char* key : {"Title", "Creator", "For", "CreationDate"}) QCOMPARE(header[key], pdf[key]);
+  }
+
+  void anEpsTellsItselfInPdf() {
+    const QString eps = write("a.eps", kToldEps);
+    const Ran ran = kit::norvex({"convert", eps, "-o", path("b.pdf"), "--json"}, {}, 60, {"SOURCE_DATE_EPOCH=86400"});
+    QCOMPARE(ran.exitCode, 0);
+    QCOMPARE(QJsonDocument::fromJson(ran.out).array().at(0)["metadataLost"].toArray(),
+             QJsonArray({"CreationDate", "Copyright"}));
+    const QByteArray told = run("pdfinfo", {path("b.pdf")}, {}, 60, {"TZ=UTC"}).out;
+    const auto says = [&](const QString& key, const QString& value) {
+      const QRegularExpression line("^" + key + ": +" + QRegularExpression::escape(value) + "$",
+                                    QRegularExpression::MultilineOption);
+      return line.match(QString::fromUtf8(told)).hasMatch();
+    };
+    QVERIFY(says("Title", "The title"));
+    QVERIFY(says("Author", "The owner"));
+    QVERIFY(says("Producer", "The creator"));
+    QVERIFY(says("Creator", "Norvex " NORVEX_VERSION));
+    QVERIFY(says("CreationDate", "Fri Jan  2 00:00:00 1970 UTC"));
+    const QByteArray exif = run("exiftool", {"-s3", "-Title", "-Author", "-Producer", path("b.pdf")}).out;
+    QCOMPARE(exif, QByteArray("The title\nThe owner\nThe creator\n"));
+  }
+
+  void theSameInputGivesTheSameBytes_data() {
+    QTest::addColumn<QString>("sample");
+    for (const char* name : {"lighthouse.svg", "lighthouse.pdf", "lighthouse.eps"}) QTest::newRow(name) << name;
+  }
+  void theSameInputGivesTheSameBytes() {
+    QFETCH(QString, sample);
+    const QStringList epoch{"SOURCE_DATE_EPOCH=1700000000"};
+    for (const QString& format : kFormats) {
+      if (format.startsWith("svg") && !isSvg(sample)) continue;
+      const QStringList arguments{"convert", kit::sample(sample), "-o", "-", "--format", format};
+      const Ran first = kit::norvex(arguments, {}, 60, epoch);
+      const Ran second = kit::norvex(arguments, {}, 60, epoch);
+      QCOMPARE(first.exitCode, 0);
+      QVERIFY(!first.out.isEmpty());
+      QVERIFY2(first.out == second.out, qPrintable(format));
+    }
+  }
+
+  // ---- nothing is lost ----------------------------------------------------------------------------------
+
+  void aFullDiskKeepsTheOldFile() {
+    const SmallDisk disk("64k");
+    if (!disk.isMounted()) QSKIP("mounting is not permitted here");
+    QFile old(disk.path("a.tiff"));
+    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+    old.close();
+    const Ran ran = kit::norvex({"convert", sample("lighthouse.svg"), "-o", disk.path("a.tiff"), "--force"});
+    QCOMPARE(ran.exitCode, 4);
+    QVERIFY2(ran.err.endsWith(": there is no space left to write to\n"), ran.err);
+    QCOMPARE(bytesOf(disk.path("a.tiff")), QByteArray("old"));
+    QCOMPARE(QDir(disk.folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList{"a.tiff"});
+  }
+
+  void aFullStandardOutputIsTold() {
+    const QString command = norvexProgram() + " convert " + sample("lighthouse.svg") + " -o - --format tiff > /dev/full";
+    const Ran ran = run("sh", {"-c", command});
+    QCOMPARE(ran.exitCode, 4);
+    QVERIFY(ran.err.endsWith("standard output cannot be written\n"));
+  }
+
+  void aMissingOrReadOnlyFolderIsTold() {
+    Ran ran = kit::norvex({"convert", sample("lighthouse.svg"), "-o", path("gone/a.png")});
+    QCOMPARE(ran.exitCode, 4);
+    QVERIFY(ran.err.endsWith(": the folder to write to does not exist\n"));
+    const QString file = write("a.png", "old");
+    QVERIFY(QFile::setPermissions(file, QFileDevice::ReadOwner));
+    ran = kit::norvex({"convert", sample("lighthouse.svg"), "-o", file, "--force"});
+    QCOMPARE(ran.exitCode, 4);
+    QVERIFY2(ran.err.endsWith(": the file is read-only\n"), ran.err);
+    QCOMPARE(bytesOf(file), QByteArray("old"));
+  }
+
+  void theInputIsKept() {
+    const QString file = write("a.eps", kToldEps);
+    const Ran ran = kit::norvex({"convert", file, "-o", path("../" + QFileInfo(folder_->path()).fileName() + "/a.eps"), "--force"});
+    QCOMPARE(ran.exitCode, 4);
+    QVERIFY(ran.err.endsWith(": the output would overwrite the input\n"));
+    QCOMPARE(bytesOf(file), kToldEps);
+  }
+
+  void aSuddenDeathLeavesTheOldFile() {
+    // Killed at many moments of its life; what is under the name is always whole.
+    const QString file = write("a.png", "old");
+    const Ran whole = kit::norvex({"convert", sample("lighthouse.svg"), "-o", "-", "--format", "png", "--dpi", "200"});
+    QCOMPARE(whole.exitCode, 0);
+    for (int milliseconds = 10; milliseconds < 1500; milliseconds = milliseconds * 5 / 4) {
+      QProcess process;
+      process.start(norvexProgram(), {"convert", sample("lighthouse.svg"), "-o", file, "--dpi", "200", "--force"});
+      QVERIFY(process.waitForStarted());
+      process.waitForFinished(milliseconds);
+      process.kill();
+      process.waitForFinished();
+      const QByteArray found = bytesOf(file);
+      QVERIFY2(found == "old" || found == whole.out, qPrintable(QString::number(milliseconds)));
+    }
+  }
+
+  void anInterruptionLeavesNoPartialFile() {
+    QDir(folder_->path()).mkdir("to");
+    QStringList files;
+    for (int i = 0; i < 40; ++i) {
+      const QString name = QString("%1.svg").arg(i);
+      QVERIFY(QFile::copy(sample("lighthouse.svg"), path(name)));
+      files << path(name);
+    }
+    QProcess process;
+    process.start(norvexProgram(), QStringList{"convert", "--to", path("to"), "--format", "png", "--dpi", "144", "--jobs", "2"} + files);
+    QVERIFY(process.waitForStarted());
+    // As soon as there is a result the run is in its middle.
+    const auto results = [&] { return QDir(path("to")).entryList(QDir::Files | QDir::Hidden); };
+    QTRY_VERIFY_WITH_TIMEOUT(!results().isEmpty() || process.state() != QProcess::Running, 60000);
+    ::kill(pid_t(process.processId()), SIGINT);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 130);
+    QVERIFY(results().size() < files.size());
+    for (const QString& name : results())
+      QCOMPARE(outside::complaintAbout(path("to/" + name), "png"), QString());
+    const QByteArray said = process.readAllStandardError();
+    QCOMPARE(said.count('\n'), 1);
+    QVERIFY2(said.startsWith("norvex: interrupted; ") && said.endsWith("files not converted\n"), said);
+  }
+
+  void anInterruptionEndsAnEndlessPicture() {
+    const QString file = write("a.eps", kEndless);
+    QProcess process;
+    process.start(norvexProgram(), {"convert", file, "-o", path("a.png")});
+    QVERIFY(process.waitForStarted());
+    process.waitForFinished(700);
+    ::kill(pid_t(process.processId()), SIGTERM);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 130);
+    QVERIFY(!QFile::exists(path("a.png")));
+  }
+
+  void theTimeLimitEndsAnEndlessPicture() {
+    const Ran ran = kit::norvex({"convert", write("a.eps", kEndless), "-o", path("a.png"), "--timeout", "1"});
+    QCOMPARE(ran.exitCode, 5);
+    QCOMPARE(ran.err.count('\n'), 1);
+    QVERIFY2(ran.err.contains("within 1 seconds"), ran.err);
+    QVERIFY(!QFile::exists(path("a.png")));
+  }
+
+  void twoConversionsToOneTargetLeaveOneOfThem() {
+    const QStringList forTarget{"-o", path("a.png"), "--force"};
+    const Ran one = kit::norvex({"convert", sample("lighthouse.svg"), "-o", "-", "--format", "png"});
+    const Ran two = kit::norvex({"convert", sample("lighthouse.pdf"), "-o", "-", "--format", "png"});
+    for (int i = 0; i < 5; ++i) {
+      QProcess first, second;
+      first.start(norvexProgram(), QStringList{"convert", sample("lighthouse.svg")} + forTarget);
+      second.start(norvexProgram(), QStringList{"convert", sample("lighthouse.pdf")} + forTarget);
+      QVERIFY(first.waitForFinished(60000) && second.waitForFinished(60000));
+      QCOMPARE(first.exitCode() + second.exitCode(), 0);
+      const QByteArray found = bytesOf(path("a.png"));
+      QVERIFY(found == one.out || found == two.out);
+      QCOMPARE(QDir(folder_->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList{"a.png"});
+    }
+  }
+
+ private:
+  QString path(const QString& name) const { return folder_->filePath(name); }
+  QString write(const QString& name, const QByteArray& bytes) const {
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write test data");
+    return file.fileName();
+  }
+  /// How other programs draw a sample; they are asked once.
+  QImage drawn(const QString& sample) {
+    QString format = QFileInfo(sample).suffix();
+    if (sample == "lighthouse-cs.ai") format = "pdf";
+    if (sample == "lighthouse-8.ai") format = "eps";
+    if (!drawn_.contains(sample)) drawn_.insert(sample, outside::drawnOutside(kit::sample(sample), format));
+    return drawn_.value(sample);
+  }
+
+  std::unique_ptr<QTemporaryDir> folder_;
+  QHash<QString, QImage> drawn_;
+};
+
+NORVEX_TEST(ConvertSystemTest)
+#include "convert_test.moc"

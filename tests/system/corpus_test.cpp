@@ -1,0 +1,229 @@
+// Real files by many producers, where a folder of them stands beside the project: each is told about, drawn and, when
+// it is asked for, converted into everything and back.
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+#include <QRegularExpression>
+#include <QThreadPool>
+#include <QtConcurrent>
+
+#include <algorithm>
+#include <cstdio>
+#include <numeric>
+
+#include "kit/program.h"
+#include "kit/test_main.h"
+#include "system/outside_programs.h"
+
+using namespace norvex;
+
+namespace {
+
+/// How often each thing was seen, by the kind of file.
+using Counts = QMap<QString, QMap<QString, int>>;
+
+QString kindOf(const QString& file) { return QFileInfo(QFileInfo(file).path()).fileName(); }
+
+QStringList kinds() {
+  return QDir(kit::corpusFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+void print(const QString& line) { std::printf("%s\n", qPrintable(line)); }
+
+void print(const QString& title, const Counts& counts) {
+  print(title);
+  for (auto kind = counts.begin(); kind != counts.end(); ++kind)
+    for (auto what = kind->begin(); what != kind->end(); ++what)
+      print(QString("  %1 %2  %3").arg(kind.key(), -12).arg(what.value(), 5).arg(what.key()));
+  std::fflush(stdout);
+}
+
+/// A sentence without what differs from file to file, so that it can be counted.
+QString reason(QString sentence) {
+  static const QRegularExpression number("[0-9]+");
+  static const QRegularExpression path("/\\S+");
+  return sentence.replace(path, "…").replace(number, "#").left(110);
+}
+
+QJsonArray objectsIn(const QByteArray& json) { return QJsonDocument::fromJson(json).array(); }
+
+bool isOneSentence(const QString& text) { return !text.trimmed().isEmpty() && !text.contains(u'\n'); }
+
+/// How other programs have to read a file of the corpus.
+QString formatOf(const QString& kind) {
+  if (kind == "svg" || kind == "svgz") return kind;
+  return kind == "pdf" || kind == "ai_pdf" ? "pdf" : "eps";
+}
+
+}  // namespace
+
+class CorpusTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void init() {
+    if (kit::corpusFolder().isEmpty()) QSKIP("there is no folder of real files here (NORVEX_CORPUS names one)");
+  }
+
+  void everyFileIsKnownOrToldWhyNot() {
+    const QStringList files = allFiles();
+    const kit::Ran ran = kit::norvex(QStringList{"info", "--json"} + files, {}, 240);
+    QVERIFY(!ran.crashed);
+    QVERIFY(ran.exitCode == 0 || ran.exitCode == 1);
+    const QJsonArray all = objectsIn(ran.out);
+    QCOMPARE(all.size(), files.size());
+    Counts counts;
+    const QStringList known{"SVG", "EPS", "Illustrator", "PDF", "other"};
+    for (qsizetype i = 0; i < files.size(); ++i) {
+      const QJsonObject object = all[i].toObject();
+      QCOMPARE(object["file"].toString(), files[i]);
+      const QString error = object["error"].toString();
+      QVERIFY2(object.contains("error") ? isOneSentence(error) : known.contains(object["kind"].toString()), qPrintable(files[i]));
+      QVERIFY2(!error.contains("process"), qPrintable(files[i] + ": " + error));
+      ++counts[kindOf(files[i])][error.isEmpty() ? "known as " + object["kind"].toString() : reason(error)];
+    }
+    print("information:", counts);
+  }
+
+  void everyFileIsDrawnOrToldWhyNot() {
+    Counts counts;
+    QStringList died;
+    for (const QString& kind : kinds()) {
+      const QStringList files = kit::corpusFiles(kind);
+      QTemporaryDir folder;
+      const kit::Ran ran = kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", "png", "--dpi", "24", "--timeout",
+                                                   "10", "--jobs", "2", "--to", folder.path()} + files, {}, 280);
+      QVERIFY(!ran.crashed);
+      const QJsonArray all = objectsIn(ran.out);
+      QCOMPARE(all.size(), files.size());
+      int failed = 0;
+      for (qsizetype i = 0; i < files.size(); ++i) {
+        const QJsonObject object = all[i].toObject();
+        const QString error = object["error"].toString();
+        const QByteArray png = firstBytes(object["output"].toString());
+        QVERIFY2(error.isEmpty() ? png.startsWith("\x89PNG") : png.isEmpty(), qPrintable(files[i]));
+        ++counts[kind][error.isEmpty() ? QStringLiteral("drawn") : reason(error)];
+        if (error.isEmpty()) continue;
+        ++failed;
+        QVERIFY2(isOneSentence(error), qPrintable(files[i]));
+        if (error.contains("process")) died << files[i] + ": " + error;
+      }
+      // One line a failure, no other word.
+      QCOMPARE(ran.err.count('\n'), failed);
+    }
+    print("drawn:", counts);
+    QVERIFY2(died.isEmpty(), qPrintable(died.join("\n")));
+  }
+
+  /// Takes long: NORVEX_ROUND_TRIP=1 asks for it, NORVEX_ROUND_TRIP=5 for every fifth file of each kind. Prints; fails
+  /// on results that other programs do not accept.
+  void everyFileBecomesEveryFormat() {
+    const int step = qEnvironmentVariableIntValue("NORVEX_ROUND_TRIP");
+    if (step < 1) QSKIP("takes long: NORVEX_ROUND_TRIP=1 asks for it");
+    Counts counts;
+    QStringList refused, unlike;
+    for (const QString& kind : kinds()) {
+      if (kind == "hostile") continue;
+      QStringList files;
+      const QStringList all = kit::corpusFiles(kind);
+      for (qsizetype i = 0; i < all.size(); i += step) files << all[i];
+      for (const char* format : {"eps", "eps-preview", "epsi", "pdf", "svg", "svgz", "tiff", "png", "jpeg", "gif"}) {
+        if (QLatin1String(format).startsWith(QLatin1String("svg")) && formatOf(kind) != "svg" && kind != "svgz") continue;
+        convertAll(kind, files, QLatin1String(format), counts, refused, unlike);
+      }
+    }
+    print("conversions:", counts);
+    print(QString("%1 results look unlike their source (mean difference above 3 %, of a GIF above 5 %):").arg(unlike.size()));
+    for (const QString& line : unlike) print("  " + line);
+    print(QString("%1 results are not accepted:").arg(refused.size()));
+    for (const QString& line : refused) print("  " + line);
+    std::fflush(stdout);
+    QCOMPARE(refused.size(), 0);
+  }
+
+ private:
+  struct Outcome {
+    QString complaint;
+    double different = 0;
+    bool compared = false;
+  };
+
+  static QStringList allFiles() {
+    QStringList files;
+    for (const QString& kind : kinds()) files += kit::corpusFiles(kind);
+    return files;
+  }
+
+  static QByteArray firstBytes(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(8) : QByteArray();
+  }
+
+  /// How other programs draw the files of the corpus; each is asked once.
+  const QHash<QString, QImage>& drawnSources(const QStringList& files) {
+    QStringList missing;
+    for (const QString& file : files)
+      if (!sources_.contains(file)) missing << file;
+    if (missing.isEmpty()) return sources_;
+    sources_.clear();
+    const auto images = QtConcurrent::blockingMapped<QList<QImage>>(
+        &pool_, missing, [](const QString& file) { return outside::drawnOutside(file, formatOf(kindOf(file)), 30); });
+    for (qsizetype i = 0; i < missing.size(); ++i) sources_.insert(missing[i], images[i]);
+    return sources_;
+  }
+
+  void convertAll(const QString& kind, const QStringList& files, const QString& format, Counts& counts,
+                  QStringList& refused, QStringList& unlike) {
+    pool_.setMaxThreadCount(2);
+    QTemporaryDir folder;
+    const kit::Ran ran = kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", format, "--timeout", "20", "--jobs",
+                                                 "2", "--to", folder.path()} + files, {}, 1200);
+    QVERIFY(!ran.crashed);
+    const QJsonArray all = objectsIn(ran.out);
+    QCOMPARE(all.size(), files.size());
+    const auto& sources = drawnSources(files);
+    QList<qsizetype> places(files.size());
+    std::iota(places.begin(), places.end(), 0);
+    const auto outcomes = QtConcurrent::blockingMapped<QList<Outcome>>(&pool_, places, [&](qsizetype i) {
+      const QJsonObject object = all[i].toObject();
+      Outcome outcome;
+      if (object.contains("error")) return outcome;
+      // What is handed on as it is may have the source's own faults.
+      const QString to = object["output"].toString();
+      const QString complaint = outside::complaintAbout(to, format, 30);
+      if (!complaint.isEmpty() && outside::complaintAbout(files[i], formatOf(kind), 30).isEmpty()) outcome.complaint = complaint;
+      if (sources[files[i]].isNull() || hasNoPostScript(object)) return outcome;
+      outcome.compared = true;
+      outcome.different = outside::difference(sources[files[i]], outside::drawnOutside(to, format, 30));
+      return outcome;
+    });
+    for (qsizetype i = 0; i < files.size(); ++i) {
+      const QString error = all[i].toObject()["error"].toString();
+      QString what = error.isEmpty() ? QStringLiteral("written") : reason(error);
+      if (hasNoPostScript(all[i].toObject())) what = QStringLiteral("written without PostScript");
+      ++counts[kind + " → " + format][what];
+      if (!error.isEmpty()) continue;
+      const QString name = kind + '/' + QFileInfo(files[i]).fileName() + " → " + format + ": ";
+      if (!outcomes[i].complaint.isEmpty() && !hasNoPostScript(all[i].toObject())) refused << name + outcomes[i].complaint;
+      if (!outcomes[i].compared) continue;
+      ++counts[kind + " → " + format]["compared"];
+      if (outcomes[i].different > (format == "gif" ? 0.05 : 0.03))
+        unlike << name + QString::number(outcomes[i].different * 100, 'f', 1) + " %";
+    }
+    print(QString("%1 → %2 done").arg(kind, format));
+    std::fflush(stdout);
+  }
+
+  static bool hasNoPostScript(const QJsonObject& object) {
+    for (const QJsonValue& warning : object["warnings"].toArray())
+      if (warning.toString().contains("no PostScript")) return true;
+    return false;
+  }
+
+  QThreadPool pool_;
+  QHash<QString, QImage> sources_;
+};
+
+NORVEX_TEST(CorpusTest)
+#include "corpus_test.moc"

@@ -88,4 +88,9 @@ EpsBoundingBoxes epsBoundingBoxes(QByteArrayView source) {
   return {box(text, comments, "%%BoundingBox:"), box(text, comments, "%%HiResBoundingBox:")};
 }
 
+std::optional<QRectF> epsPictureBox(const EpsBoundingBoxes& boxes) {
+  if (boxes.boundingBox || !boxes.hiResBoundingBox) return boxes.boundingBox;
+  return QRectF(boxes.hiResBoundingBox->toAlignedRect());
+}
+
 }  // namespace norvex

@@ -49,6 +49,15 @@ class EpsBoundingBoxTest : public QObject {
     QVERIFY(boxes.hiResBoundingBox);
   }
 
+  void thePictureIsShownInTheBoundingBoxOrTheHiResOneInWholePoints() {
+    const auto shown = [](const QByteArray& comments) {
+      return epsPictureBox(epsBoundingBoxes(eps(comments))).value_or(QRectF());
+    };
+    QCOMPARE(shown("%%BoundingBox: 0 0 6 6\n%%HiResBoundingBox: 0 0 5.5 5.5\n"), QRectF(0, 0, 6, 6));
+    QCOMPARE(shown("%%HiResBoundingBox: 0.5 0 5.1 5\n"), QRectF(0, 0, 6, 5));
+    QCOMPARE(shown(""), QRectF());
+  }
+
   void atEndSendsToTheLastOne() {
     const QByteArray source = eps("%%BoundingBox: (atend)\n%%HiResBoundingBox:(atend)\n") +
                               "%%BoundingBox: 1 1 2 2\n%%Trailer\n%%BoundingBox: 0 0 30 40\n"

@@ -32,12 +32,12 @@ Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureSe
   if (!beginsPostScript(postScriptOf(bytes)))
     return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
   const EpsBoundingBoxes boxes = epsBoundingBoxes(bytes);
-  if (!boxes.boundingBox && !boxes.hiResBoundingBox)
+  const std::optional<QRectF> box = epsPictureBox(boxes);
+  if (!box)
     return Error{ErrorKind::NotParsable,
                  QStringLiteral("the PostScript header states no usable bounding box")};
-  const QRectF box = boxes.boundingBox ? *boxes.boundingBox : QRectF(boxes.hiResBoundingBox->toAlignedRect());
   return shared(
-      new NSEPSImageRep(bytes, service.open(bytes, PictureKind::Eps, limits), box, boxes.hiResBoundingBox));
+      new NSEPSImageRep(bytes, service.open(bytes, PictureKind::Eps, limits), *box, boxes.hiResBoundingBox));
 }
 
 }  // namespace norvex

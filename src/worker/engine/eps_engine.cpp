@@ -76,7 +76,7 @@ Result<std::unique_ptr<DocumentEngine>> openEps(const QByteArray& bytes, EngineC
   const QByteArrayView program = postScriptOf(bytes);
   if (program.isEmpty())
     return Error{ErrorKind::NotParsable, QStringLiteral("the file holds no PostScript")};
-  const std::optional<QRectF> box = epsBoundingBoxes(bytes).boundingBox;
+  const std::optional<QRectF> box = epsPictureBox(epsBoundingBoxes(bytes));
   if (!box) return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript has no usable bounding box")};
   return std::unique_ptr<DocumentEngine>(std::make_unique<EpsEngine>(bytes, *box, context));
 }

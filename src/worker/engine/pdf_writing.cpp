@@ -27,6 +27,7 @@ void keepOnlyPage(QPDF& qpdf, QPDFObjectHandle page) {
   QPDFObjectHandle information = QPDFObjectHandle::newDictionary();
   information.replaceKey("/Producer", producerText());
   qpdf.getTrailer().replaceKey("/Info", qpdf.makeIndirectObject(information));
+  qpdf.getTrailer().removeKey("/ID");  // it names another file, and Ghostscript draws it by lot
 }
 
 QByteArray writePdf(QPDF& qpdf) {

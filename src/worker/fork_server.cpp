@@ -18,6 +18,7 @@ namespace norvex {
 namespace {
 
 constexpr int kSocket = 3;
+constexpr int kFarewells[] = {SIGTERM, SIGINT, SIGHUP};
 
 Error noChild() {
   return {ErrorKind::Died, QStringLiteral("no process for the picture could be started")};
@@ -45,6 +46,8 @@ ForkServer::ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain
     : control_(std::move(control)), scratchRoot_(std::move(scratchRoot)), childMain_(std::move(childMain)) {}
 
 void ForkServer::run() {
+  // The end of a session tells everybody to go at once. The connection tells us, after which we clean up.
+  for (int signal : kFarewells) std::signal(signal, SIG_IGN);
   bool connected = true;
   while (connected) {
     std::vector<pollfd> polls{{control_.socket(), POLLIN, 0}};
@@ -95,6 +98,7 @@ void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescrip
   ::setpgid(0, 0);
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (::getppid() != parent) ::_exit(1);  // it died before it could be followed
+  for (int signal : kFarewells) std::signal(signal, SIG_DFL);
   closeStandardStreams();
   // Everything foreign goes: the control connection and the other children's descriptors first of all.
   if (socket.get() != kSocket) ::dup2(socket.release(), kSocket);

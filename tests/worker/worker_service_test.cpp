@@ -313,6 +313,19 @@ class WorkerServiceTest : public QObject {
     QVERIFY(eventually([&] { return runtime_->entries().isEmpty(); }));
   }
 
+  void whatEndsASessionDoesNotKeepItFromCleaningUp() {
+    const int killed = inForkedChild([] {
+      WorkerService service(kStub);
+      const auto process = service.open("scratch", PictureKind::Pdf);
+      if (!process->render(drawing()).ok()) return 1;
+      ::kill(pid_t(processOf(process)), SIGTERM);
+      ::kill(pid_t(service.programProcessId()), SIGTERM);
+      return ::raise(SIGKILL);
+    });
+    QCOMPARE(killed, -1);
+    QVERIFY(eventually([&] { return runtime_->entries().isEmpty(); }));
+  }
+
   void aMissingProgramIsAnOrdinaryError() {
     WorkerService missing(QStringLiteral("/nonexistent/norvex-worker"));
     QCOMPARE(missing.start().error().kind, ErrorKind::Died);

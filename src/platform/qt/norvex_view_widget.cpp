@@ -8,6 +8,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <cmath>
 
 #include "platform/qt/checkerboard.h"
 #include "platform/qt/zooming_scroll_area.h"
@@ -38,13 +39,20 @@ void NorvexViewWidget::setBackground(const QColor& color) {
   update();
 }
 
-QPointF NorvexViewWidget::fromView(const QPointF& point) const {
-  return area_ ? area_->scrollView().documentViewToClip().map(point) : point;
+QTransform NorvexViewWidget::placement() const {
+  if (!area_) return {};
+  QTransform exact = area_->scrollView().documentViewToClip();
+  const QRectF& bounds = view_.bounds();
+  const QPointF corner = exact.map(QPointF(bounds.x(), bounds.y() + bounds.height()));
+  // A picture that is centred on half a pixel would show its straight edges blurred.
+  const double ratio = devicePixelRatioF();
+  const QPointF shift = QPointF(std::round(corner.x() * ratio), std::round(corner.y() * ratio)) / ratio - corner;
+  return exact * QTransform::fromTranslate(shift.x(), shift.y());
 }
 
-QPointF NorvexViewWidget::toView(const QPointF& point) const {
-  return area_ ? area_->scrollView().clipToDocumentView(point) : point;
-}
+QPointF NorvexViewWidget::fromView(const QPointF& point) const { return placement().map(point); }
+
+QPointF NorvexViewWidget::toView(const QPointF& point) const { return placement().inverted().map(point); }
 
 QRectF NorvexViewWidget::viewInWidget() const {
   const QRectF& bounds = view_.bounds();
@@ -113,9 +121,9 @@ void NorvexViewWidget::paintEvent(QPaintEvent* event) {
   // The system clips to what is dirty; what is asked for of the picture is all that can be seen.
   painter.setClipRect(rect());
   if (area_) {
-    const QTransform placement = area_->scrollView().documentViewToClip();
-    painter.setTransform(placement, true);
-    const QRectF dirty = placement.inverted().mapRect(QRectF(event->rect()));
+    const QTransform toClip = placement();
+    painter.setTransform(toClip, true);
+    const QRectF dirty = toClip.inverted().mapRect(QRectF(event->rect()));
     view_.drawRect(painter, dirty, DrawingDestination::Screen);
   }
   painting_ = false;

@@ -61,6 +61,8 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  /// View to widget coordinates; the view's upper left corner lies on a whole device pixel.
+  [[nodiscard]] QTransform placement() const;
   [[nodiscard]] QRectF viewInWidget() const;
   void drawBackground(QPainter& painter, const QRect& dirty);
   bool handleArrow(const QKeyEvent& event);

@@ -88,22 +88,22 @@ void MainWindowController::reloadInPlace() {
 }
 
 void MainWindowController::pdfImageRepDidLoad(bool success, const Error& error) {
-  const auto* rep = qobject_cast<ZyWebImageRep*>(sender());
-  const QString className = rep ? QStringLiteral("ZyWebImageRep") : QString();
-  const auto observed = std::dynamic_pointer_cast<ZyWebImageRep>(view()->imageRep());
   QObject::disconnect(svgObservation_);
+  const auto rep = std::dynamic_pointer_cast<ZyWebImageRep>(view()->imageRep());
+  if (!rep) return;
   if (success) {
     viewWidget_->update();
-    if (observed) previewImageView()->setImageRep(observed->valueForKey(QString::fromLatin1(ZyWebViewPDFImageRepKey)).value<std::shared_ptr<NSImageRep>>());
+    const QVariant pdf = rep->valueForKey(QString::fromLatin1(ZyWebViewPDFImageRepKey));
+    previewImageView()->setImageRep(pdf.value<std::shared_ptr<NSImageRep>>());
     return;
   }
-  if (!alerts_) return showProblem(error);
   Alert alert;
   alert.style = AlertStyle::Warning;
-  alert.messageText = error.message.isEmpty() ? className : sentence(error);
-  const QVariant url = observed ? observed->valueForKey(QString::fromLatin1(ZyWebViewFileURLKey)) : QVariant();
-  alert.informativeText = QUrl::fromPercentEncoding(url.toUrl().toEncoded());
-  alerts_->runModal(alert);
+  alert.messageText = error.message.isEmpty() ? QStringLiteral("ZyWebImageRep") : sentence(error);
+  const QUrl url = rep->valueForKey(QString::fromLatin1(ZyWebViewFileURLKey)).toUrl();
+  alert.informativeText = QUrl::fromPercentEncoding(url.toEncoded());
+  if (alerts_) alerts_->runModal(alert);
+  else messageBar_->showMessage(MessageBar::Kind::Warning, alert.messageText);
 }
 
 }  // namespace norvex

@@ -34,11 +34,11 @@ void MainWindowController::settleLayout() const {
   // A hidden window does not lay its children out when it is resized, and the rule measures them.
   if (window_->isVisible()) return;
   window_->ensurePolished();
+  window_->layout()->invalidate();
   window_->layout()->activate();
-  window_->layout()->setGeometry(window_->rect());
   if (QWidget* content = window_->centralWidget()) {
+    content->layout()->invalidate();
     content->layout()->activate();
-    content->layout()->setGeometry(content->rect());
   }
 }
 

@@ -71,7 +71,9 @@ class InterfaceFileTest : public QObject {
     QStringList nameless;
     for (QWidget* top : {static_cast<QWidget*>(c.window()), c.inspectorWindow, c.doSaveToAccessoryView})
       for (QWidget* widget : top->findChildren<QWidget*>()) {
-        if (widget->focusPolicy() == Qt::NoFocus || widget->inherits("QScrollArea") || widget->inherits("QTabWidget")) continue;
+        if (widget->focusPolicy() == Qt::NoFocus || widget->inherits("QScrollArea") || widget->inherits("QTabWidget") ||
+            !widget->isVisibleTo(top) || widget->objectName().startsWith("qt_"))
+          continue;
         QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
         if (interface && interface->text(QAccessible::Name).isEmpty() && widget->toolTip().isEmpty())
           nameless << QString::fromLatin1(widget->metaObject()->className()) + ' ' + widget->objectName() + " in " + widget->parentWidget()->objectName();

@@ -12,7 +12,7 @@ namespace {
 
 struct Dial {
   Dial() {
-    knob.resize(101, 101);
+    knob.resize(100, 100);
     field.setNumberFormat(NumberFormat(QStringLiteral("#,###.0000;0.0000;-#,##0.0000")));
     knob.setDmsTextField(&field);
   }

@@ -75,7 +75,15 @@ void SourceTextView::buildFindBar() {
   shortcut(Qt::SHIFT | Qt::Key_F3, [this] { findNext(true); });
 }
 
-void SourceTextView::setString(const QString& text) { edit_->setPlainText(text); }
+void SourceTextView::nameText() {
+  edit_->setAccessibleName(accessibleName());
+  edit_->setAccessibleDescription(toolTip());
+}
+
+void SourceTextView::setString(const QString& text) {
+  nameText();
+  edit_->setPlainText(text);
+}
 
 QString SourceTextView::string() const { return edit_->toPlainText(); }
 
@@ -123,7 +131,7 @@ void SourceTextView::keyPressEvent(QKeyEvent* event) {
 }
 
 void SourceTextView::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::ToolTipChange) edit_->setAccessibleDescription(toolTip());
+  if (event->type() == QEvent::ToolTipChange) nameText();
   QWidget::changeEvent(event);
 }
 

@@ -35,6 +35,8 @@ class SourceTextView final : public QWidget {
 
  private:
   void buildFindBar();
+  /// The text itself is what assistive technology meets: it takes this widget's name.
+  void nameText();
 
   QWidget* bar_;
   QLineEdit* needle_;

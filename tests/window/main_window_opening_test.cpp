@@ -1,0 +1,109 @@
+// Opening without waiting: the window first, the picture when it comes, Cancel in between.
+#include <QPushButton>
+#include <QSignalSpy>
+
+#include "kit/test_main.h"
+#include "platform/qt/loading_card.h"
+#include "platform/qt/message_bar.h"
+#include "platform/qt/norvex_view_widget.h"
+#include "platform/qt/zooming_scroll_area.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+class MainWindowOpeningTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void theWindowDoesNotWaitForThePicture() {
+    WindowFixture fixture;
+    std::shared_ptr<MemoryPictureProcess> process;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    QSignalSpy shown(&c, &MainWindowController::documentShown);
+    c.showWindow();
+    QVERIFY(c.window()->isVisible());
+    QVERIFY(c.isReading() && !c.view()->imageRep());
+    auto* card = c.window()->findChild<LoadingCard*>();
+    QVERIFY(card && card->isUnderWay());
+    QTRY_VERIFY(card->isVisible());
+    fixture.service.lastProcess()->release(PictureCall::Facts);
+    QTRY_COMPARE(shown.size(), 1);
+    QVERIFY(c.view()->imageRep() && !c.isReading());
+    QVERIFY(c.validateUserInterfaceItem());
+  }
+
+  void cancelEndsTheReadingAndTheWindowLivesOn() {
+    WindowFixture fixture;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.showWindow();
+    QTRY_VERIFY(fixture.service.lastProcess());
+    QVERIFY(fixture.service.lastProcess()->waitUntilHeld(PictureCall::Facts));
+    auto* card = c.window()->findChild<LoadingCard*>();
+    emit card->cancelled();
+    QVERIFY(!c.isReading() && c.window()->isVisible());
+    QCOMPARE(c.messageBar()->message(), QStringLiteral("Opening was stopped."));
+    QTRY_COMPARE(fixture.service.lastProcess()->cancelledCalls(), 1);
+    fixture.service.setPrepare({});
+    emit c.messageBar()->actionChosen();
+    QTRY_VERIFY(c.view()->imageRep());
+  }
+
+  void closingWhileReadingCancels() {
+    auto fixture = std::make_unique<WindowFixture>();
+    fixture->service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });
+    MainWindowController& c = fixture->open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    QSignalSpy closed(&fixture->document, &Document::closed);
+    c.showWindow();
+    QTRY_VERIFY(fixture->service.lastProcess());
+    const auto process = fixture->service.lastProcess();
+    c.window()->close();
+    QTRY_COMPARE(closed.size(), 1);
+    QTRY_COMPARE(process->cancelledCalls(), 1);
+  }
+
+  void aRenderingThatFailsIsToldInTheWindowAndCanBeTriedAgain() {
+    WindowFixture fixture;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) {
+      made.fail(PictureCall::Render, {ErrorKind::Died, "the picture process ended without an answer"});
+    });
+    MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
+    c.showWindow();
+    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("The picture process ended without an answer."));
+    QVERIFY(c.validateUserInterfaceItem());
+    fixture.service.lastProcess()->succeed(PictureCall::Render);
+    c.messageBar()->findChild<QPushButton*>()->click();
+    QTRY_VERIFY(c.view()->imageRep()->isSharp());
+    QCOMPARE(c.messageBar()->message(), QString());
+  }
+
+  void cancellingARenderingStopsItUntilItIsTriedAgain() {
+    WindowFixture fixture;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Render); });
+    MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
+    c.showWindow();
+    QTRY_VERIFY(c.view()->imageRep());
+    auto* card = c.window()->findChild<LoadingCard*>();
+    QTRY_VERIFY(card->isVisible());
+    emit card->cancelled();
+    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("The drawing was stopped."));
+    fixture.service.lastProcess()->release(PictureCall::Render);
+    c.messageBar()->findChild<QPushButton*>()->click();
+    QTRY_VERIFY(c.view()->imageRep()->isSharp());
+  }
+
+  void theFrameIsRemembered() {
+    WindowFixture fixture;
+    {
+      MainWindowController first;
+      first.window()->resize(613, 517);
+      first.window()->show();
+      first.window()->close();
+    }
+    MainWindowController second;
+    QCOMPARE(second.window()->size(), QSize(613, 517));
+  }
+};
+
+NORVEX_TEST(MainWindowOpeningTest)
+#include "main_window_opening_test.moc"

@@ -41,10 +41,26 @@ QTransform placement(const PageGeometry& geometry, const ComposeRequest& request
          turn(request.rotate) * QTransform::fromTranslate(-request.rect.x(), -request.rect.y());
 }
 
+bool everyFieldHasAnAppearance(QPDFObjectHandle page) {
+  QPDFObjectHandle annotations = page.getKey("/Annots");
+  if (!annotations.isArray()) return true;
+  for (int i = 0; i < annotations.getArrayNItems(); ++i) {
+    QPDFObjectHandle annotation = annotations.getArrayItem(i);
+    if (annotation.isDictionary() && annotation.getKey("/Subtype").isNameAndEquals("/Widget") &&
+        !annotation.getKey("/AP").isDictionary())
+      return false;
+  }
+  return true;
+}
+
 // Appearances of annotations and form fields become part of the page's contents, as they are shown on the screen.
-void flattenAnnotations(QPDF& qpdf) {
+// Those that the file brings are better than those that could be made here.
+void flattenAnnotations(QPDF& qpdf, QPDFObjectHandle page) {
   QPDFAcroFormDocumentHelper form(qpdf);
-  form.generateAppearancesIfNeeded();
+  if (everyFieldHasAnAppearance(page))
+    form.setNeedAppearances(false);
+  else
+    form.generateAppearancesIfNeeded();
   QPDFPageDocumentHelper(qpdf).flattenAnnotations(0, an_invisible | an_hidden | an_no_view);
 }
 
@@ -116,7 +132,7 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
     keepOnlyPage(file.qpdf(), source);
     if (source.hasKey("/Annots")) {
       if (interactiveForm.isDictionary()) file.qpdf().getRoot().replaceKey("/AcroForm", interactiveForm);
-      flattenAnnotations(file.qpdf());
+      flattenAnnotations(file.qpdf(), source);
     }
     const QPDFObjectHandle form = formOf(file.qpdf(), source, geometry.box);
     keepOnlyPage(file.qpdf(), placedPage(file.qpdf(), source, form, request, placement(geometry, request)));

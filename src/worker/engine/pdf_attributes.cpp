@@ -1,4 +1,4 @@
-// Replaces the document information of a PDF.
+// Sets entries of the document information of a PDF.
 #include <QTransform>
 
 #include "worker/engine/engine.h"
@@ -14,7 +14,8 @@ Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, 
   if (!file) return file.error();
   return guarded([&]() -> Result<QByteArray> {
     QPDF& qpdf = (*file)->qpdf();
-    QPDFObjectHandle information = QPDFObjectHandle::newDictionary();
+    QPDFObjectHandle information = qpdf.getTrailer().getKey("/Info");
+    information = information.isDictionary() ? information.shallowCopy() : QPDFObjectHandle::newDictionary();
     for (auto it = attributes.begin(); it != attributes.end(); ++it)
       information.replaceKey("/" + it.key().toStdString(),
                              QPDFObjectHandle::newUnicodeString(it.value().toStdString()));

@@ -76,6 +76,10 @@
         <translation>Dismiss</translation>
     </message>
     <message>
+        <source>Down by %1 pt</source>
+        <translation>Down by %1 pt</translation>
+    </message>
+    <message>
         <source>Drawing…</source>
         <translation>Drawing…</translation>
     </message>
@@ -108,8 +112,28 @@
         <translation>Height</translation>
     </message>
     <message>
+        <source>Higher by %1 pt</source>
+        <translation>Higher by %1 pt</translation>
+    </message>
+    <message>
         <source>Inspector</source>
         <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>Left by %1 pt</source>
+        <translation>Left by %1 pt</translation>
+    </message>
+    <message>
+        <source>Lower by %1 pt</source>
+        <translation>Lower by %1 pt</translation>
+    </message>
+    <message>
+        <source>Move Selection</source>
+        <translation>Move Selection</translation>
+    </message>
+    <message>
+        <source>Narrower by %1 pt</source>
+        <translation>Narrower by %1 pt</translation>
     </message>
     <message>
         <source>Next</source>
@@ -122,6 +146,10 @@
     <message>
         <source>Not found</source>
         <translation>Not found</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>Nothing is selected.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -196,6 +224,14 @@
         <translation>Remove from the list</translation>
     </message>
     <message>
+        <source>Resize Selection</source>
+        <translation>Resize Selection</translation>
+    </message>
+    <message>
+        <source>Right by %1 pt</source>
+        <translation>Right by %1 pt</translation>
+    </message>
+    <message>
         <source>RotateImageByMousedragg</source>
         <translation>Drag to rotate the picture. Hold Shift to snap to 15°, double-click for 0°.</translation>
     </message>
@@ -214,6 +250,10 @@
     <message>
         <source>Scroll up and down</source>
         <translation>Scroll up and down</translation>
+    </message>
+    <message>
+        <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
+        <translation>Selected from %1, %2 to %3, %4: %5 by %6 points.</translation>
     </message>
     <message>
         <source>Selected range of image data is written or displayed.</source>
@@ -248,6 +288,10 @@
         <translation>Print the selection, or what is visible.</translation>
     </message>
     <message>
+        <source>The selection starts at %1, %2.</source>
+        <translation>The selection starts at %1, %2.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for this</source>
         <translation>There is not enough memory for this</translation>
     </message>
@@ -276,12 +320,20 @@
         <translation>Untitled</translation>
     </message>
     <message>
+        <source>Up by %1 pt</source>
+        <translation>Up by %1 pt</translation>
+    </message>
+    <message>
         <source>Use</source>
         <translation>Use</translation>
     </message>
     <message>
         <source>ViewBox</source>
         <translation>View box or bounds of the picture, in its own units</translation>
+    </message>
+    <message>
+        <source>Wider by %1 pt</source>
+        <translation>Wider by %1 pt</translation>
     </message>
     <message>
         <source>Width</source>
@@ -407,8 +459,8 @@
         <translation>Description</translation>
     </message>
     <message>
-        <source>Drag twice to mark a rectangle. Arrow keys move it, Shift and arrow keys change its size, Escape removes it.</source>
-        <translation>Drag twice to mark a rectangle. Arrow keys move it, Shift and arrow keys change its size, Escape removes it.</translation>
+        <source>Nothing is selected.</source>
+        <translation>Nothing is selected.</translation>
     </message>
     <message>
         <source>Encoding:</source>

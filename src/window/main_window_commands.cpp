@@ -13,6 +13,7 @@
 #include "document/document.h"
 #include "platform/localized_string.h"
 #include "platform/qt/color_well.h"
+#include "platform/qt/copyable_label.h"
 #include "platform/qt/loading_card.h"
 #include "platform/qt/message_bar.h"
 #include "platform/qt/norvex_view_widget.h"
@@ -23,6 +24,8 @@
 #include "platform/qt/zy_dial_knob.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
+#include "window/selection_commands.h"
+#include "window/selection_description.h"
 
 namespace norvex {
 
@@ -38,6 +41,7 @@ void setShortcuts(QAction* action, const QList<QKeySequence>& keys) {
 }  // namespace
 
 void MainWindowController::connectControls() {
+  for (QLabel* field : {startPoint, endPoint}) makeCopyable(*field);
   connect(backgroundColorWell(), &ColorWell::colorChosen, this, &MainWindowController::takeColor);
   connect(useBackgroundSwitch(), &QCheckBox::stateChanged, this, &MainWindowController::useBackgroundAction);
   connect(rotateField(), &NumberField::valueEdited, this, &MainWindowController::rotateChange);
@@ -57,7 +61,8 @@ void MainWindowController::connectCommands() {
   on(ui_->closeAction, {QKeySequence::Close}, [this] { window_->close(); });
   on(ui_->quitAction, {Qt::CTRL | Qt::Key_Q}, [] { QCoreApplication::quit(); });
   on(ui_->selectAllAction, {QKeySequence::SelectAll}, [this] { view()->selectBounds(); });
-  on(ui_->deselectAction, {Qt::CTRL | Qt::SHIFT | Qt::Key_A}, [this] { view()->clearSelectRect(); });
+  on(ui_->deselectAction, {Qt::Key_Escape, Qt::CTRL | Qt::SHIFT | Qt::Key_A}, [this] { view()->clearSelectRect(); });
+  selectionCommands_ = new SelectionCommands(*ui_->editMenu, ui_->findAction, *view(), *scrollArea_, this);
   on(ui_->findAction, {QKeySequence::Find}, [this] {
     if (!inspectorWindow->isVisible()) showInspectorWindow();
     ui_->inspectorTabs->setCurrentWidget(ui_->sourcePage);
@@ -74,6 +79,7 @@ void MainWindowController::connectCommands() {
   on(inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9}, [this] { showInspectorWindow(inspectorToolbarItem); });
   on(ui_->fullScreenAction, {Qt::Key_F11}, [this](bool checked) { toggleFullScreen(checked); });
   on(ui_->aboutAction, {}, [this] { showAbout(); });
+  scrollArea_->setFocus(Qt::OtherFocusReason);  // keys are for the picture until another control is chosen
   arrangeToolbar();
   inspectorToolbarItem->setIcon(symbolicIcon(Symbol::Inspector));
   copyToolbarItem->setIcon(symbolicIcon(Symbol::Copy));
@@ -99,10 +105,17 @@ bool MainWindowController::validateUserInterfaceItem() const { return view() && 
 void MainWindowController::validateCommands() {
   const bool enabled = validateUserInterfaceItem();
   for (QAction* action : {inspectorToolbarItem, copyToolbarItem, doPrintingToolbarItem, doSaveToToolbarItem, ui_->selectAllAction,
-                          ui_->deselectAction, ui_->zoomInAction, ui_->zoomOutAction, ui_->actualSizeAction, ui_->fitAction,
+                          ui_->zoomInAction, ui_->zoomOutAction, ui_->actualSizeAction, ui_->fitAction,
                           ui_->rotateLeftAction, ui_->rotateRightAction, ui_->resetRotationAction})
     action->setEnabled(enabled);
   ui_->reloadAction->setEnabled(document_ && !document_->fileURL().isEmpty());
+  validateSelectionCommands();
+}
+
+void MainWindowController::validateSelectionCommands() {
+  // Without a selection Escape is for whoever else wants it.
+  ui_->deselectAction->setEnabled(view()->selectRect().width() > 0);
+  selectionCommands_->selectionDidChange();
 }
 
 void MainWindowController::setZoomFactor(double factor) {
@@ -117,7 +130,11 @@ void MainWindowController::rotateBy(double degrees) {
 
 bool MainWindowController::dialKnobClockwise() const { return dialKnob() && dialKnob()->clockwise(); }
 
-void MainWindowController::norvexView(NorvexView&, const QString& selectedRangeStrings, const QString& end, const QString&) {
+void MainWindowController::norvexView(NorvexView&, const QString& selectedRangeStrings, const QString& end, const QString& area) {
+  validateSelectionCommands();
+  const QString description = selectionDescription(selectedRangeStrings, end, area);
+  viewWidget_->setAccessibleDescription(description);
+  scrollArea_->setAccessibleDescription(description);  // it has the focus, and is what a screen reader reads first
   if (selectedRangeStrings.isEmpty()) {
     startPoint->clear();
     endPoint->clear();

@@ -35,6 +35,7 @@ class AlertPresenter;
 class LoadingCard;
 class MessageBar;
 class NorvexViewWidget;
+class SelectionCommands;
 class ZoomingScrollArea;
 
 /// Sets up every control of the document window and its inspector, reads the picture from the document's file, and
@@ -150,6 +151,7 @@ class MainWindowController final : public QObject,
   void connectCommands();
   void arrangeToolbar();
   void validateCommands();
+  void validateSelectionCommands();
   void rotateBy(double degrees);
   void showAbout();
   void toggleFullScreen(bool on);
@@ -177,6 +179,7 @@ class MainWindowController final : public QObject,
   NorvexViewWidget* viewWidget_ = nullptr;
   MessageBar* messageBar_ = nullptr;
   LoadingCard* loadingCard_ = nullptr;
+  SelectionCommands* selectionCommands_ = nullptr;
 
   double zoomFactor_ = 1.0;
   QColorSpace windowColorSpace_{QColorSpace::SRgb};

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QFileOpenEvent>
 #include <QIcon>
+#include <QThreadPool>
 
 #include <cstdio>
 #include <utility>
@@ -43,6 +44,10 @@ int& watchForMissingDisplay(int& argc) {
   return argc;
 }
 
+/// Qt paints large turned pictures on the global pool and waits for it. What else runs there mostly waits for picture
+/// processes: with one thread a core, a window would stand still until another one's document was read.
+constexpr int kPoolThreads = 32;
+
 }  // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(watchForMissingDisplay(argc), argv) {
@@ -53,6 +58,7 @@ Application::Application(int& argc, char** argv) : QApplication(watchForMissingD
   setApplicationVersion(QStringLiteral(NORVEX_VERSION));
   setDesktopFileName(desktopIdentifier());
   setWindowIcon(applicationIcon());
+  QThreadPool::globalInstance()->setMaxThreadCount(kPoolThreads);
   connect(this, &QGuiApplication::applicationStateChanged, &events_, &ApplicationEvents::setState);
 }
 

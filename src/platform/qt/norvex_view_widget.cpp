@@ -1,7 +1,6 @@
 #include "platform/qt/norvex_view_widget.h"
 
 #include <QElapsedTimer>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -23,7 +22,6 @@ constexpr double kLargestStep = 40;  // logical pixels
 }  // namespace
 
 NorvexViewWidget::NorvexViewWidget(QWidget* parent) : QWidget(parent) {
-  setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
   periodic_.setInterval(kPeriodMs);
   connect(&periodic_, &QTimer::timeout, this, [this] { view_.periodicEvent(toView(mapFromGlobal(pointer_))); });
@@ -90,7 +88,8 @@ void NorvexViewWidget::scrollRectToVisible(const QRectF& rect) {
 }
 
 bool NorvexViewWidget::makeFirstResponder() {
-  setFocus(Qt::MouseFocusReason);
+  // The view takes no keys itself: what surrounds it does, and scrolls.
+  if (area_) area_->setFocus(Qt::MouseFocusReason);
   return true;
 }
 
@@ -146,28 +145,6 @@ void NorvexViewWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (!tracking_ || event->button() != Qt::LeftButton) return event->ignore();
   tracking_ = false;
   view_.mouseUp(toView(event->position()));
-}
-
-bool NorvexViewWidget::handleArrow(const QKeyEvent& event) {
-  QPointF step;
-  switch (event.key()) {
-    case Qt::Key_Left: step = {-1, 0}; break;
-    case Qt::Key_Right: step = {1, 0}; break;
-    case Qt::Key_Up: step = {0, 1}; break;
-    case Qt::Key_Down: step = {0, -1}; break;
-    default: return false;
-  }
-  if (view_.selection().state() != Selection::State::Rectangle) return false;
-  if (event.modifiers() & Qt::ControlModifier) step *= 10;
-  if (event.modifiers() & Qt::ShiftModifier) view_.resizeSelection(step);
-  else view_.moveSelection(step);
-  return true;
-}
-
-void NorvexViewWidget::keyPressEvent(QKeyEvent* event) {
-  if (tracking_) return;  // a drag is under way: nothing else is handled until the button is up
-  if (event->key() == Qt::Key_Escape && view_.selectRect().width() > 0) return view_.clearSelectRect();
-  if (!handleArrow(*event)) QWidget::keyPressEvent(event);  // the scroll area scrolls
 }
 
 bool NorvexViewWidget::event(QEvent* event) {

@@ -13,9 +13,8 @@ namespace norvex {
 class ZoomingScrollArea;
 
 /// Fills the clip of its scroll area and draws there what the clip shows of the view. Owns the view and is its host.
-/// Forwards the left button as press, move and release; what they mean is the view's business. Keys: Escape clears the
-/// selection, arrows move it by a point (with Ctrl by ten), with Shift they move its upper right corner; without
-/// a rectangle they scroll. Main thread.
+/// Forwards the left button as press, move and release; what they mean is the view's business. Takes no keyboard focus:
+/// the scroll area has it. Main thread.
 class NorvexViewWidget final : public QWidget, public ViewHost {
   Q_OBJECT
  public:
@@ -55,7 +54,6 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
   bool event(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
@@ -65,7 +63,6 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   [[nodiscard]] QTransform placement() const;
   [[nodiscard]] QRectF viewInWidget() const;
   void drawBackground(QPainter& painter, const QRect& dirty);
-  bool handleArrow(const QKeyEvent& event);
   void watchScreen();
   void loseTracking();
 

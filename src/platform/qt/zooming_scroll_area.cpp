@@ -55,6 +55,7 @@ ZoomingScrollArea::ZoomingScrollArea(QWidget* parent)
   }
   fillPopUp();
   styleBars();
+  setFocusPolicy(Qt::StrongFocus);
   grabGesture(Qt::PinchGesture);
   // The notification comes before the clip view is rescaled, so what follows it must wait until that is done.
   connect(&scrollView_, &SKTZoomingScrollView::zoomingScrollViewFactorDidChange, this,
@@ -245,6 +246,7 @@ void ZoomingScrollArea::styleBars() {
 }
 
 void ZoomingScrollArea::keyPressEvent(QKeyEvent* event) {
+  if (isDragging()) return;
   switch (event->key()) {
     case Qt::Key_Left: return horizontal_->triggerAction(QAbstractSlider::SliderSingleStepSub);
     case Qt::Key_Right: return horizontal_->triggerAction(QAbstractSlider::SliderSingleStepAdd);
@@ -254,7 +256,8 @@ void ZoomingScrollArea::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_PageDown: return vertical_->triggerAction(QAbstractSlider::SliderPageStepAdd);
     case Qt::Key_Home: return vertical_->triggerAction(QAbstractSlider::SliderToMinimum);
     case Qt::Key_End: return vertical_->triggerAction(QAbstractSlider::SliderToMaximum);
-    default: QWidget::keyPressEvent(event);
+    default:
+      if (!holdSpace(*event)) QWidget::keyPressEvent(event);
   }
 }
 

@@ -19,6 +19,7 @@ class NorvexViewWidget;
 
 /// Lays out clip, bars and menu as its SKTZoomingScrollView says, and turns wheel, pinch and panning into calls of it.
 /// Wheel: scrolls; with Shift sideways; with Ctrl zooms at the pointer. Middle button or Space and left button: pan.
+/// Has the keyboard focus for its view, which takes none: arrows, page keys, Home and End scroll.
 /// The bars always keep their room, so that the window's size rule does not depend on what is scrolled. Main thread.
 class ZoomingScrollArea final : public QWidget {
   Q_OBJECT
@@ -66,6 +67,8 @@ class ZoomingScrollArea final : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -81,6 +84,8 @@ class ZoomingScrollArea final : public QWidget {
   void scrollBy(const QPointF& delta);
   bool pinch(QEvent* event);
   bool pan(QEvent* event);
+  bool holdSpace(const QKeyEvent& event);
+  [[nodiscard]] bool isDragging() const;
   void pinchTo(double factor, const QPointF& global);
 
   struct Card {

@@ -1,5 +1,6 @@
 // Wheel, pinch and panning of the scroll area.
 #include <QGestureEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QPinchGesture>
@@ -34,6 +35,11 @@ void ZoomingScrollArea::wheelEvent(QWheelEvent* event) {
 
 bool ZoomingScrollArea::event(QEvent* event) {
   if (event->type() == QEvent::Gesture && pinch(event)) return true;
+  // While a rectangle is dragged nothing else is handled: no command either.
+  if (event->type() == QEvent::ShortcutOverride && isDragging()) {
+    event->accept();
+    return true;
+  }
   return QWidget::event(event);
 }
 
@@ -71,6 +77,26 @@ bool ZoomingScrollArea::pan(QEvent* event) {
   return true;
 }
 
+bool ZoomingScrollArea::isDragging() const { return document_ && document_->view().selection().tracking(); }
+
+bool ZoomingScrollArea::holdSpace(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Space) return false;
+  if (event.isAutoRepeat()) return true;
+  spaceHeld_ = event.type() == QEvent::KeyPress;
+  if (document_ && !panFrom_) document_->setCursor(spaceHeld_ ? Qt::OpenHandCursor : Qt::CrossCursor);
+  return true;
+}
+
+void ZoomingScrollArea::keyReleaseEvent(QKeyEvent* event) {
+  if (!holdSpace(*event)) QWidget::keyReleaseEvent(event);
+}
+
+void ZoomingScrollArea::focusOutEvent(QFocusEvent* event) {
+  spaceHeld_ = false;
+  if (document_ && !panFrom_) document_->setCursor(Qt::CrossCursor);
+  QWidget::focusOutEvent(event);
+}
+
 bool ZoomingScrollArea::eventFilter(QObject* watched, QEvent* event) {
   if (watched != document_) {
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide) placeCards();
@@ -86,16 +112,6 @@ bool ZoomingScrollArea::eventFilter(QObject* watched, QEvent* event) {
       pinchTo(scrollView_.factor() * (1 + native->value()), native->globalPosition());
       return true;
     }
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease: {
-      auto* key = static_cast<QKeyEvent*>(event);
-      if (key->key() != Qt::Key_Space) return false;
-      if (key->isAutoRepeat()) return true;
-      spaceHeld_ = event->type() == QEvent::KeyPress;
-      if (!panFrom_) document_->setCursor(spaceHeld_ ? Qt::OpenHandCursor : Qt::CrossCursor);
-      return true;
-    }
-    case QEvent::FocusOut: spaceHeld_ = false; return false;
     default: return false;
   }
 }

@@ -11,19 +11,21 @@ const QList<CommandRow>& commandTable() {
       {Command::Source, "source", "FILE", 1, 1, "write the decoded source text to standard output"},
       {Command::Preview, "preview", "FILE -o OUT", 1, 1, "write the embedded preview as PNG"},
       {Command::Convert, "convert", "FILE... (-o OUT | --to DIR)", 1, -1, "write the pictures in another format"},
+      {Command::Print, "print", "FILE (--printer NAME | -o OUT.pdf)", 1, 1, "print the picture, as vectors"},
   };
   return rows;
 }
 
 const QList<OptionRow>& optionTable() {
   static const QList<Command> every{Command::Main, Command::Info, Command::Source, Command::Preview,
-                                    Command::Convert};
+                                    Command::Convert, Command::Print};
   static const QList<Command> main{Command::Main};
   static const QList<Command> convert{Command::Convert};
+  static const QList<Command> print{Command::Print};
   static const QList<OptionRow> rows{
       {Option::Json, {Command::Info, Command::Convert}, 0, "json", nullptr, nullptr,
        "one JSON array with an object for each file"},
-      {Option::Output, {Command::Preview, Command::Convert}, 'o', "output", "OUT", nullptr,
+      {Option::Output, {Command::Preview, Command::Convert, Command::Print}, 'o', "output", "OUT", nullptr,
        "the file to write; - is standard output"},
       {Option::Folder, convert, 0, "to", "DIR", nullptr, "the folder to write each file to, under its own name"},
       {Option::Format, convert, 0, "format", "F", "eps eps-preview epsi pdf svg svgz tiff png jpeg gif",
@@ -38,9 +40,15 @@ const QList<OptionRow>& optionTable() {
       {Option::Jobs, convert, 0, "jobs", "N", nullptr, "files at a time (as many as there are cores)"},
       {Option::Timeout, convert, 0, "timeout", "S", nullptr, "seconds that a picture may take (120)"},
       {Option::Memory, convert, 0, "memory", "MIB", nullptr, "memory that a picture may take (1024)"},
-      {Option::Force, {Command::Preview, Command::Convert}, 'f', "force", nullptr, nullptr,
+      {Option::Force, {Command::Preview, Command::Convert, Command::Print}, 'f', "force", nullptr, nullptr,
        "overwrite a file that exists"},
       {Option::Quiet, convert, 'q', "quiet", nullptr, nullptr, "tell nothing but errors"},
+      {Option::Printer, print, 0, "printer", "NAME", nullptr, "the printer that prints it"},
+      {Option::HeaderFooter, print, 0, "header-footer", nullptr, nullptr,
+       "the date above the picture and the file's location below it, on every page"},
+      {Option::Paper, print, 0, "paper", "NAME", nullptr, "the paper: A4, Letter ... (what the locale says)"},
+      {Option::Landscape, print, 0, "landscape", nullptr, nullptr, "the paper lies (this is the default)"},
+      {Option::Portrait, print, 0, "portrait", nullptr, nullptr, "the paper stands"},
       {Option::SandboxStatus, main, 0, "sandbox-status", nullptr, nullptr,
        "show how picture processes are confined"},
       {Option::Completion, main, 0, "completion", "SHELL", "bash zsh fish",

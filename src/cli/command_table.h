@@ -7,7 +7,7 @@
 
 namespace norvex {
 
-enum class Command { Main, Info, Source, Preview, Convert };
+enum class Command { Main, Info, Source, Preview, Convert, Print };
 
 /// What follows a command besides options.
 struct CommandRow {
@@ -38,6 +38,11 @@ enum class Option {
   Memory,
   Force,
   Quiet,
+  Printer,
+  Paper,
+  Landscape,
+  Portrait,
+  HeaderFooter,
 };
 
 /// A command takes the options of its own rows.

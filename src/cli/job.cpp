@@ -34,6 +34,8 @@ ExitCode Job::dispatch(const Arguments& arguments) {
       return preview(arguments);
     case Command::Convert:
       return convert(arguments);
+    case Command::Print:
+      return print(arguments);
     case Command::Main:
       break;  // windows are not opened here
   }

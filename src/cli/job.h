@@ -32,6 +32,7 @@ class Job {
   ExitCode source(const Arguments& arguments);
   ExitCode preview(const Arguments& arguments);
   ExitCode convert(const Arguments& arguments);
+  ExitCode print(const Arguments& arguments);
   ExitCode reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions);
   /// Tells what became of one file; of one that goes to standard output, writes it.
   ExitCode reportConversion(const ConvertPlan& plan, const ConvertTask& task, const Conversion& conversion);

@@ -1,8 +1,11 @@
 #include "document/document.h"
 
+#include <QSettings>
+
 #include <utility>
 
 #include "document/document_types.h"
+#include "document/print_settings.h"
 #include "document/unimplemented_method.h"
 #include "platform/bundle.h"
 #include "platform/localized_string.h"
@@ -11,7 +14,9 @@
 namespace norvex {
 
 Document::Document(PictureService& service, DocumentWindowControllerFactory factory, QObject* parent)
-    : QObject(parent), service_(service), factory_(std::move(factory)) {}
+    : QObject(parent), service_(service), factory_(std::move(factory)), printInfo_(newDocumentPrintInfo(QSettings())) {
+  printServices_.pictures = &service_;
+}
 
 Document::~Document() {
   if (windowController_) removeWindowController(*windowController_);

@@ -5,12 +5,15 @@
 #include <QObject>
 #include <QString>
 #include <QUrl>
+#include <QVariantMap>
 
 #include <memory>
 #include <optional>
 
 #include "document/document_error.h"
 #include "document/document_window_controller.h"
+#include "platform/print/print_info.h"
+#include "platform/print/print_operation.h"
 
 namespace norvex {
 
@@ -58,6 +61,23 @@ class Document : public QObject {
   /// Compressed SVG bytes on their way from writeToURL() to dataOfType(); otherwise nothing.
   [[nodiscard]] const std::optional<QByteArray>& compressedData() const { return compressedData_; }
 
+  // ---- printing
+  /// Of a new document: the page layout that was confirmed last, in whatever document; the defaults without one.
+  [[nodiscard]] const NSPrintInfo& printInfo() const { return printInfo_; }
+  /// Nothing of it can be undone: no undo action is registered.
+  void setPrintInfo(const NSPrintInfo& info) { printInfo_ = info; }
+  /// The printers, and who asks; the pictures are the document's own. Not owned, outlive the document.
+  void setPrintServices(const PrintServices& services);
+  /// Opens the page-layout sheet with the document's settings; when their printer is gone, with the shared ones.
+  /// Nothing happens while nobody can be asked.
+  void runPageLayout(QObject* sender = nullptr);
+  /// Return code 1 (confirmed): the sheet's settings become the document's and are remembered for later documents.
+  void pageLayoutDidEnd(const NSPrintInfo& pageLayout, int returnCode, void* contextInfo = nullptr);
+  /// Prints the picture of the window as it is turned. The given settings win over the document's; they are this job's
+  /// alone. Null without a window; `error` is never set.
+  [[nodiscard]] std::unique_ptr<NSPrintOperation> printOperationWithSettings(const QVariantMap& settings,
+                                                                             DocumentError* error = nullptr);
+
   /// Tells closed(); whoever holds the document then destroys it. Further calls do nothing.
   void close();
 
@@ -93,6 +113,8 @@ class Document : public QObject {
   QUrl fileURL_;
   QString fileType_;
   AlertPresenter* alerts_ = nullptr;
+  NSPrintInfo printInfo_;
+  PrintServices printServices_;
   bool closed_ = false;
 };
 

@@ -8,6 +8,7 @@
 namespace norvex {
 
 class Document;
+class NorvexView;
 class PictureProducers;
 
 /// What a document asks of its one window controller. Main thread only. Owned by the document.
@@ -28,6 +29,8 @@ class DocumentWindowController {
   virtual void display() = 0;
   /// What turns the shown picture into bytes; null: this controller writes nothing. Owned by the controller.
   virtual PictureProducers* producers() { return nullptr; }
+  /// The view that shows the picture; null before there is one. Owned by the controller.
+  [[nodiscard]] virtual NorvexView* imageView() { return nullptr; }
   /// The file on disk is another one than was read, and is whole: offer to reload it, quietly.
   virtual void fileDidChangeOnDisk() {}
 };

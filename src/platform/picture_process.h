@@ -56,6 +56,12 @@ class PictureService {
     Q_UNUSED(pdf) Q_UNUSED(texts) Q_UNUSED(creationDate) Q_UNUSED(cancel)
     return Error{ErrorKind::Unsupported, QStringLiteral("PDF attributes cannot be set here")};
   }
+  /// The sheets of a print job as one PDF. `pdf` is the picture: one page; empty: the sheets hold no picture. Blocks.
+  virtual Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
+                                          const CancelToken& cancel = {}) {
+    Q_UNUSED(pdf) Q_UNUSED(request) Q_UNUSED(cancel)
+    return Error{ErrorKind::Unsupported, QStringLiteral("pages cannot be composed here")};
+  }
 };
 
 }  // namespace norvex

@@ -17,6 +17,7 @@ constexpr int kMaximumMemoryMiB = 1 << 20;
 constexpr double kMaximumMegapixels = 65536;
 constexpr double kMaximumFactor = 1.0e12;  ///< of a matrix: far beyond every zoom, far below what overflows
 constexpr int kMaximumPage = 1'000'000;
+constexpr double kMaximumFontSize = 1000;
 
 Error refused() {
   return {ErrorKind::Protocol, QStringLiteral("a message to the picture process is not what was agreed")};
@@ -41,6 +42,28 @@ QCborMap mapOf(const PictureLimits& limits) {
 
 QCborArray arrayOf(const QTransform& t) {
   return {t.m11(), t.m12(), t.m13(), t.m21(), t.m22(), t.m23(), t.m31(), t.m32(), t.m33()};
+}
+
+QCborMap mapOf(const SheetLine& line) {
+  return {{Key("text"), clipped(line.text, maximumSentenceLength)}, {Key("rect"), cborFromRect(line.rect)}};
+}
+
+QCborMap mapOf(quint32 id, const PagesRequest& pages) {
+  QCborMap map = start(Key("pages"), id);
+  map.insert(Key("paper"), cborFromRect(QRectF(QPointF(0, 0), pages.paper)));
+  QCborArray rects;
+  for (const SheetPart& sheet : pages.sheets.mid(0, maximumSheets)) {
+    rects.append(cborFromRect(sheet.source));
+    rects.append(cborFromRect(sheet.target));
+  }
+  map.insert(Key("sheets"), rects);
+  map.insert(Key("title"), clipped(pages.title, maximumSentenceLength));
+  if (pages.header) map.insert(Key("header"), mapOf(*pages.header));
+  if (pages.footer) map.insert(Key("footer"), mapOf(*pages.footer));
+  map.insert(Key("font"), clipped(pages.fontFamily, maximumSentenceLength));
+  map.insert(Key("fontSize"), pages.fontSize);
+  map.insert(Key("picture"), pages.picture);
+  return map;
 }
 
 QCborMap mapOf(quint32 id, const RequestBody& body) {
@@ -89,6 +112,7 @@ QCborMap mapOf(quint32 id, const RequestBody& body) {
               map.insert(Key("date"), cborFromDate(*attributes.creationDate));
             return map;
           },
+          [&](const PagesRequest& pages) { return mapOf(id, pages); },
       },
       body);
 }
@@ -155,6 +179,41 @@ AttributesRequest attributesFrom(CborFields& fields) {
   return attributes;
 }
 
+std::optional<SheetLine> lineFrom(CborFields& outer, Key key) {
+  if (!outer.has(key)) return std::nullopt;
+  CborFields fields = outer.fields(key);
+  const SheetLine line{fields.text(Key("text"), maximumSentenceLength), fields.rect(Key("rect"), maximumCoordinate)};
+  if (!fields.complete()) outer.fail();
+  return line;
+}
+
+QList<SheetPart> sheetsFrom(CborFields& fields) {
+  const QCborArray rects = fields.array(Key("sheets"), 2 * maximumSheets);
+  QList<SheetPart> sheets;
+  if (rects.isEmpty() || rects.size() % 2 != 0) fields.fail();
+  for (qsizetype i = 0; i + 1 < rects.size(); i += 2) {
+    const auto source = rectFromCbor(rects.at(i), maximumCoordinate);
+    const auto target = rectFromCbor(rects.at(i + 1), maximumCoordinate);
+    if (!source || !target) fields.fail();
+    sheets.append({source.value_or(QRectF()), target.value_or(QRectF())});
+  }
+  return sheets;
+}
+
+PagesRequest pagesFrom(CborFields& fields) {
+  PagesRequest pages;
+  pages.paper = fields.rect(Key("paper"), maximumCoordinate).size();
+  pages.sheets = sheetsFrom(fields);
+  pages.title = fields.text(Key("title"), maximumSentenceLength);
+  pages.header = lineFrom(fields, Key("header"));
+  pages.footer = lineFrom(fields, Key("footer"));
+  pages.fontFamily = fields.text(Key("font"), maximumSentenceLength);
+  pages.fontSize = fields.number(Key("fontSize"), kMaximumFontSize);
+  pages.picture = fields.boolean(Key("picture"));
+  if (pages.paper.isEmpty() || pages.fontSize <= 0) fields.fail();
+  return pages;
+}
+
 ForkRequest forkFrom(CborFields& fields) {
   return {limitsFrom(fields), fields.boolean(Key("postScript"))};
 }
@@ -172,6 +231,7 @@ WorkerMessage messageFrom(CborFields& fields) {
   if (type == Key("compose")) return WorkerRequest{id, composeFrom(fields)};
   if (type == Key("svg")) return WorkerRequest{id, svgFrom(fields)};
   if (type == Key("attributes")) return WorkerRequest{id, attributesFrom(fields)};
+  if (type == Key("pages")) return WorkerRequest{id, pagesFrom(fields)};
   if (type != Key("preview")) fields.fail();
   return WorkerRequest{id, DecodePreviewRequest{}};
 }

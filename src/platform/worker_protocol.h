@@ -37,6 +37,7 @@ inline constexpr int maximumAttributes = 32;
 inline constexpr int maximumBoxes = 2000;             ///< of pages, in PictureFacts
 inline constexpr int maximumBitmapSide = 65535;
 inline constexpr double maximumCoordinate = 1.0e7;    ///< points
+inline constexpr int maximumSheets = 2000;            ///< of one print job
 
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
 enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
@@ -98,8 +99,32 @@ struct AttributesRequest {
   std::optional<QDateTime> creationDate;
 };
 
+/// One sheet of paper of a print job: the part of the picture's page that is drawn on it, and where. Points, y up, origins
+/// at the lower-left corners of the page and of the sheet. An empty target: a blank sheet.
+struct SheetPart {
+  QRectF source, target;
+};
+
+/// A line of text on every sheet: up to three fields between tabs, at the left end, in the middle, at the right end.
+struct SheetLine {
+  QString text;
+  QRectF rect;  ///< on the sheet; points, y up
+};
+
+/// Sheets of paper as one PDF, answered by a BytesReply. The memfd holds the picture, a one-page PDF; it becomes one
+/// form that every sheet shows through a window. Needs no open document.
+struct PagesRequest {
+  QSizeF paper;             ///< of every sheet, as it is read: points
+  QList<SheetPart> sheets;  ///< at least one
+  QString title;            ///< of the job
+  std::optional<SheetLine> header, footer;
+  QString fontFamily;    ///< of the lines
+  double fontSize = 9;   ///< points
+  bool picture = true;   ///< false: there is none, and the memfd means nothing
+};
+
 using RequestBody = std::variant<OpenRequest, RenderRequest, PdfRequest, ComposeRequest, SvgRequest, DecodePreviewRequest,
-                                 AttributesRequest>;
+                                 AttributesRequest, PagesRequest>;
 
 struct WorkerRequest {
   quint32 id = 0;  ///< from 1, never reused on one connection

@@ -10,6 +10,7 @@ EngineSet builtInEngines() {
   engines.open = engine::openDocument;
   engines.decodePreview = engine::decodeTiff;
   engines.setPdfAttributes = engine::setPdfAttributes;
+  engines.composePages = engine::composePages;
   // Reading the fonts' caches costs every document with text some milliseconds (many with many fonts), and a
   // missing cache can only be written here: a document's process may not write there.
   engines.warmUpProgram = [] { FcInit(); };

@@ -142,6 +142,15 @@ DocumentServer::Answer DocumentServer::serve(const AttributesRequest& request, F
   return answerOf(engine::EngineBytes{*bytes, {}});
 }
 
+DocumentServer::Answer DocumentServer::serve(const PagesRequest& request, FileDescriptor descriptor) {
+  if (!engines_.composePages) return {unsupported(), {}};
+  Result<SealedMemory> pdf = SealedMemory::map(std::move(descriptor), kAnySize);
+  if (!pdf) return {pdf.error(), {}};
+  Result<QByteArray> bytes = engines_.composePages(pdf->toByteArray(), request);
+  if (!bytes) return {bytes.error(), {}};
+  return answerOf(engine::EngineBytes{*bytes, {}});
+}
+
 DocumentServer::Answer DocumentServer::answerOf(Result<engine::EngineBytes> bytes) const {
   if (!bytes) return {bytes.error(), {}};
   if (bytes->bytes.size() > qsizetype(context_.limits.memoryMiB) << 20) return {noMemory(), {}};

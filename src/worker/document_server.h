@@ -36,6 +36,7 @@ class DocumentServer {
   Answer serve(const SvgRequest& request, FileDescriptor descriptor);
   Answer serve(const DecodePreviewRequest& request, FileDescriptor descriptor);
   Answer serve(const AttributesRequest& request, FileDescriptor descriptor);
+  Answer serve(const PagesRequest& request, FileDescriptor descriptor);
   [[nodiscard]] Answer answerOf(Result<engine::EngineBytes> bytes) const;
   void send(quint32 id, Answer answer);
 

@@ -20,6 +20,7 @@ struct EngineSet {
   std::function<Result<QByteArray>(const QByteArray& pdf, const QHash<QString, QString>& texts,
                                    const std::optional<QDateTime>& creationDate)>
       setPdfAttributes;
+  std::function<Result<QByteArray>(const QByteArray& pdf, const PagesRequest&)> composePages;
   std::function<void()> warmUpProgram;
   std::function<void(engine::EngineContext&)> warmUpPostScript;
 };

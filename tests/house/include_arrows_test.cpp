@@ -16,7 +16,7 @@ const QMap<QString, QStringList>& allowed() {
   static const QMap<QString, QStringList> table{
       {"platform", {}},
       {"platform/picture", {"platform", "metadata"}},
-      {"platform/qt", {"platform", "platform/picture", "metadata", "display", "encoders", "document"}},
+      {"platform/qt", {"platform", "platform/picture", "platform/print", "metadata", "display", "encoders", "document"}},
       {"platform/print", {"platform", "platform/picture", "display"}},
       {"metadata", {"platform", "platform/picture"}},
       {"display", {"platform", "platform/picture", "metadata"}},

@@ -89,4 +89,17 @@ Result<QByteArray> WorkerService::setPdfAttributes(const QByteArray& pdf,
   return bytes ? Result<QByteArray>(bytes->bytes) : Result<QByteArray>(bytes.error());
 }
 
+Result<QByteArray> WorkerService::composePages(const QByteArray& pdf, const PagesRequest& request,
+                                               const CancelToken& cancel) {
+  const auto turn = toolTurns_.take(cancel);
+  if (!turn) return cancelled();
+  PagesRequest pages = request;
+  pages.picture = !pdf.isEmpty();
+  // A message's memory cannot be empty.
+  Result<WorkerAnswer> answer = askTools(std::move(pages), pdf.isEmpty() ? QByteArray(1, ' ') : pdf, cancel);
+  Result<PictureBytes> bytes = answer ? bytesFrom(std::move(*answer), toolLimits()) : answer.error();
+  if (!bytes) tools_.reset();
+  return bytes ? Result<QByteArray>(bytes->bytes) : Result<QByteArray>(bytes.error());
+}
+
 }  // namespace norvex

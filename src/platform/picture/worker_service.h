@@ -35,6 +35,8 @@ class WorkerService final : public PictureService {
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
   Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& texts,
                                       const QDateTime& creationDate, const CancelToken& cancel = {}) override;
+  Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
+                                  const CancelToken& cancel = {}) override;
 
   /// Number of the warm program's process, 0 when it does not run.
   [[nodiscard]] qint64 programProcessId() const { return starter_->pid(); }

@@ -69,6 +69,10 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
 Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& attributes,
                                     const std::optional<QDateTime>& creationDate);
 
+/// Sheets of paper that show the first page of `pdf` through a window each: one form for all of them, nothing is drawn
+/// again. Header and footer are text.
+Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request);
+
 /// The first page of `pdf` as EPS with a DSC header of ours.
 Result<EngineBytes> epsFromPdf(const QByteArray& pdf, EngineContext& context);
 

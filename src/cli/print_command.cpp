@@ -1,0 +1,85 @@
+// `norvex print`: the picture on paper, or the pages as a PDF file.
+#include <QFileInfo>
+#include <QUrl>
+
+#include "cli/input_file.h"
+#include "cli/interruption.h"
+#include "cli/job.h"
+#include "document/print_settings.h"
+#include "document/print_titles.h"
+#include "platform/localized_string.h"
+#include "platform/picture/picture_loader.h"
+#include "platform/print/cups_spooler.h"
+#include "platform/print/print_job.h"
+
+namespace norvex {
+namespace {
+
+/// What is wrong with the arguments; empty: nothing.
+QString complaintAboutPrinting(const Arguments& arguments) {
+  if (arguments.has(Option::Printer) == arguments.has(Option::Output))
+    return QStringLiteral("give either a printer (--printer NAME) or a file to write (-o OUT.pdf)");
+  if (arguments.has(Option::Landscape) && arguments.has(Option::Portrait))
+    return QStringLiteral("the paper cannot both lie and stand");
+  if (arguments.has(Option::Paper) && !paperNamed(arguments.values.value(Option::Paper))) {
+    QStringList names;
+    for (const Paper& paper : commonPapers()) names << paper.name;
+    return QStringLiteral("there is no paper named %1; there are %2")
+        .arg(arguments.values.value(Option::Paper), names.join(u' '));
+  }
+  return {};
+}
+
+/// A run's settings are its arguments alone: what somebody chose in a window once does not change a script.
+NSPrintInfo printInfoOf(const Arguments& arguments) {
+  NSPrintInfo info = defaultDocumentPrintInfo();
+  if (arguments.has(Option::Portrait)) info.setOrientation(NSPaperOrientation::Portrait);
+  if (const auto paper = paperNamed(arguments.values.value(Option::Paper))) info.setPaper(*paper);
+  info.setPrintsHeaderAndFooter(arguments.has(Option::HeaderFooter));
+  info.setPrinterName(arguments.values.value(Option::Printer));
+  return info;
+}
+
+/// The whole picture as a view of its own, with its titles.
+PrintSource sourceOf(const std::shared_ptr<NSImageRep>& imageRep, const QUrl& fileURL) {
+  const QString untitled = localizedString("Untitled");
+  auto view = std::make_shared<NorvexRenderingView>(QRectF(QPointF(0, 0), imageRep->size()), imageRep.get());
+  view->setPrintJobTitle(printJobTitle(fileURL, untitled));
+  view->setTitle(printPageTitle(fileURL, untitled));
+  return PrintableRenderingView(view, imageRep).printSource();
+}
+
+}  // namespace
+
+ExitCode Job::print(const Arguments& arguments) {
+  if (const QString complaint = complaintAboutPrinting(arguments); !complaint.isEmpty())
+    return complain(Command::Print, complaint);
+  const QString file = arguments.files.first(), output = arguments.values.value(Option::Output);
+  const NSPrintInfo info = printInfoOf(arguments);
+  CupsSpooler spooler;
+  if (arguments.has(Option::Printer))  // told before a large picture is read in vain
+    if (const Result<Printer> printer = printerNamed(spooler, info.printerName()); !printer)
+      return fail(file, printer.error());
+  const Result<QByteArray> bytes = readInput(console_, file);
+  if (!bytes) return fail(file, bytes.error());
+  const bool isInput = file == QLatin1String("-");
+  PictureSource picture;
+  picture.bytes = *bytes;
+  picture.fileURL = isInput ? QUrl() : QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
+  picture.typeIdentifier = typeOfInput(*bytes, file).identifier();
+
+  const Interruption interruption;
+  const CancelToken cancel = interruption.token();
+  const Result<LoadedPicture> loaded = loadPicture(service_, picture, {}, cancel);
+  if (!loaded) return fail(file, loaded.error());
+  const PrintSource source = sourceOf(loaded->imageRep, picture.fileURL);
+  const Result<QByteArray> drawing = pictureOf(source, cancel);
+  if (!drawing) return fail(file, drawing.error());
+  const Result<QByteArray> pages = composeJob(source, info, service_, *drawing, cancel);
+  if (!pages) return fail(file, pages.error());
+  if (!output.isEmpty()) return writeOutput(output, *pages, arguments.has(Option::Force));
+  const Result<void> delivered = deliverJob(*pages, source.jobTitle, info, spooler, cancel);
+  return delivered ? ExitCode::Done : fail(file, delivered.error());
+}
+
+}  // namespace norvex

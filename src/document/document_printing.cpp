@@ -1,0 +1,67 @@
+// The printing half of Document: its settings, the page-layout sheet, and the print operation of its window's view.
+#include <QPointer>
+#include <QSettings>
+
+#include "display/norvex_view.h"
+#include "document/document.h"
+#include "document/print_settings.h"
+#include "document/print_titles.h"
+#include "platform/print/print_spooler.h"
+#include "platform/print/printable_view.h"
+
+namespace norvex {
+namespace {
+
+constexpr int kConfirmed = 1;
+constexpr int kPanelControls =
+    NSPrintPanelShowsPaperSize | NSPrintPanelShowsOrientation | NSPrintPanelShowsScaling;
+
+/// Settings that name no printer cannot lose one.
+bool hasItsPrinter(const NSPrintInfo& info, PrintSpooler* spooler) {
+  if (info.printerName().isEmpty()) return true;
+  return spooler && printerNamed(*spooler, info.printerName()).ok();
+}
+
+}  // namespace
+
+void Document::setPrintServices(const PrintServices& services) {
+  printServices_ = services;
+  printServices_.pictures = &service_;
+}
+
+void Document::runPageLayout(QObject* sender) {
+  Q_UNUSED(sender)
+  if (!printServices_.interaction) return;
+  NSPrintInfo info = printInfo_;
+  if (!hasItsPrinter(info, printServices_.spooler)) info = NSPrintInfo::sharedPrintInfo();
+  printServices_.interaction->beginPageLayout(
+      info, [self = QPointer<Document>(this)](const NSPrintInfo& pageLayout, int returnCode) {
+        if (self) self->pageLayoutDidEnd(pageLayout, returnCode);
+      });
+}
+
+void Document::pageLayoutDidEnd(const NSPrintInfo& pageLayout, int returnCode, void* contextInfo) {
+  Q_UNUSED(contextInfo)
+  if (returnCode != kConfirmed) return;
+  setPrintInfo(pageLayout);
+  QSettings userDefaults;
+  rememberPrintInfo(userDefaults, pageLayout);
+}
+
+std::unique_ptr<NSPrintOperation> Document::printOperationWithSettings(const QVariantMap& settings,
+                                                                       DocumentError* error) {
+  Q_UNUSED(error)
+  NorvexView* const view = windowController_ ? windowController_->imageView() : nullptr;
+  if (!view) return nullptr;
+  auto operation = NSPrintOperation::printOperationWithView(std::make_unique<PrintableNorvexView>(*view), printInfo_,
+                                                            printServices_);
+  view->setPrintJobTitle(norvex::printJobTitle(fileURL_, displayName()));
+  view->setTitle(printPageTitle(fileURL_, displayName()));
+  NSPrintPanel& panel = operation->printPanel();
+  panel.setOptions(panel.options() | kPanelControls);
+  operation->setCanSpawnSeparateThread(true);
+  operation->printInfo().addEntries(settings);
+  return operation;
+}
+
+}  // namespace norvex

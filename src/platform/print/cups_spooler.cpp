@@ -1,0 +1,168 @@
+#include "platform/print/cups_spooler.h"
+
+#include <cups/cups.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace norvex {
+namespace {
+
+constexpr int kPatienceMs = 5000;
+constexpr qsizetype kPieceBytes = 64 << 10;
+
+struct CloseConnection {
+  void operator()(http_t* http) const { httpClose(http); }
+};
+using Connection = std::unique_ptr<http_t, CloseConnection>;
+
+struct FreeInfo {
+  void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
+};
+
+/// The printers that the server knows.
+class Destinations {
+ public:
+  explicit Destinations(http_t* http) : count_(cupsGetDests2(http, &first_)) {}
+  ~Destinations() { cupsFreeDests(count_, first_); }
+  Destinations(const Destinations&) = delete;
+  Destinations& operator=(const Destinations&) = delete;
+
+  [[nodiscard]] int count() const { return count_; }
+  [[nodiscard]] cups_dest_t& at(int i) const { return first_[i]; }
+
+ private:
+  cups_dest_t* first_ = nullptr;
+  int count_;
+};
+
+class Options {
+ public:
+  ~Options() { cupsFreeOptions(count_, first_); }
+  Options() = default;
+  Options(const Options&) = delete;
+  Options& operator=(const Options&) = delete;
+
+  void add(const char* name, const QByteArray& value) { count_ = cupsAddOption(name, value.constData(), count_, &first_); }
+  [[nodiscard]] int count() const { return count_; }
+  [[nodiscard]] cups_option_t* first() const { return first_; }
+
+ private:
+  cups_option_t* first_ = nullptr;
+  int count_ = 0;
+};
+
+Connection connect() {
+  return Connection(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kPatienceMs, nullptr));
+}
+
+QString optionOf(const cups_dest_t& destination, const char* name) {
+  return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
+}
+
+/// A queue with instances is listed once for each of them; the plain one stands for all.
+bool isPlain(const cups_dest_t& destination) { return destination.instance == nullptr; }
+
+Printer printerOf(const cups_dest_t& destination) {
+  Printer printer;
+  printer.name = QString::fromUtf8(destination.name);
+  printer.description = optionOf(destination, "printer-info");
+  if (printer.description.isEmpty()) printer.description = printer.name;
+  const int state = optionOf(destination, "printer-state").toInt();
+  printer.state = state == IPP_PSTATE_STOPPED      ? PrinterState::Stopped
+                  : state == IPP_PSTATE_PROCESSING ? PrinterState::Printing
+                                                   : PrinterState::Idle;
+  printer.acceptsJobs = optionOf(destination, "printer-is-accepting-jobs") != QLatin1String("false");
+  printer.isDefault = destination.is_default != 0;
+  return printer;
+}
+
+/// What the service said last, as the rest of a sentence.
+QString lastReason() {
+  QString text = QString::fromUtf8(cupsLastErrorString()).simplified().left(200);
+  while (text.endsWith(u'.')) text.chop(1);
+  return text.isEmpty() ? QStringLiteral("no reason is given") : text;
+}
+
+Error refused(const QString& printer) {
+  return {ErrorKind::CannotWrite, QStringLiteral("the printer “%1” takes no jobs").arg(printer)};
+}
+
+Error notPrinted(const QString& printer) {
+  return {ErrorKind::CannotWrite, QStringLiteral("the printer “%1” did not take the job: %2").arg(printer, lastReason())};
+}
+
+/// The default printer when it is nobody's name.
+Result<cups_dest_t*> chosen(const Destinations& all, const QString& name) {
+  cups_dest_t* first = nullptr;
+  for (int i = 0; i < all.count(); ++i) {
+    cups_dest_t& destination = all.at(i);
+    if (!isPlain(destination)) continue;
+    if (!first) first = &destination;
+    if (name.isEmpty() ? destination.is_default != 0 : QString::fromUtf8(destination.name) == name) return &destination;
+  }
+  if (!name.isEmpty())
+    return Error{ErrorKind::CannotWrite, QStringLiteral("there is no printer named “%1”").arg(name)};
+  return Error{ErrorKind::CannotWrite,
+               first ? QStringLiteral("no printer is the default one") : QStringLiteral("there is no printer")};
+}
+
+void addTicket(Options& options, const PrintTicket& ticket) {
+  options.add(CUPS_COPIES, QByteArray::number(std::max(1, ticket.copies)));
+  if (!ticket.media.isEmpty()) options.add(CUPS_MEDIA, ticket.media.toUtf8());
+  options.add(CUPS_ORIENTATION, ticket.landscape ? CUPS_ORIENTATION_LANDSCAPE : CUPS_ORIENTATION_PORTRAIT);
+  options.add("print-scaling", "none");  // the pages have the paper's size, and a point shall stay one
+}
+
+bool sendPieces(http_t* http, const QByteArray& pdf, const CancelToken& cancel) {
+  for (qsizetype at = 0; at < pdf.size(); at += kPieceBytes) {
+    if (cancel.cancelled()) return false;
+    const qsizetype length = std::min(kPieceBytes, pdf.size() - at);
+    if (cupsWriteRequestData(http, pdf.constData() + at, size_t(length)) != HTTP_STATUS_CONTINUE) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+Result<QList<Printer>> CupsSpooler::printers() {
+  const Connection http = connect();
+  if (!http) return NullPrintSpooler::unreachable();
+  const Destinations all(http.get());
+  QList<Printer> printers;
+  for (int i = 0; i < all.count(); ++i)
+    if (isPlain(all.at(i))) printers << printerOf(all.at(i));
+  return printers;
+}
+
+Result<int> CupsSpooler::print(const PrintTicket& ticket, const QByteArray& pdf, const CancelToken& cancel) {
+  const Connection http = connect();
+  if (!http) return NullPrintSpooler::unreachable();
+  const Destinations all(http.get());
+  const Result<cups_dest_t*> destination = chosen(all, ticket.printer);
+  if (!destination) return destination.error();
+  const QString name = QString::fromUtf8((*destination)->name);
+  if (!printerOf(**destination).acceptsJobs) return refused(name);
+  const std::unique_ptr<cups_dinfo_t, FreeInfo> info(cupsCopyDestInfo(http.get(), *destination));
+  if (!info) return notPrinted(name);
+  Options options;
+  addTicket(options, ticket);
+  const QByteArray title = ticket.title.toUtf8();
+  int job = 0;
+  if (cupsCreateDestJob(http.get(), *destination, info.get(), &job, title.constData(), options.count(), options.first()) >
+      IPP_STATUS_OK_EVENTS_COMPLETE) {
+    return cupsLastError() == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS ? refused(name) : notPrinted(name);
+  }
+  const bool sent = cupsStartDestDocument(http.get(), *destination, info.get(), job, title.constData(), CUPS_FORMAT_PDF,
+                                          options.count(), options.first(), 1) == HTTP_STATUS_CONTINUE &&
+                    sendPieces(http.get(), pdf, cancel) &&
+                    cupsFinishDestDocument(http.get(), *destination, info.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
+  if (sent) return job;
+  const Error error = cancel.cancelled() ? Error{ErrorKind::Cancelled, QStringLiteral("the printing was cancelled")}
+                                         : notPrinted(name);
+  const Connection other = connect();  // the first one may wait for the rest of the document for ever
+  if (other) cupsCancelDestJob(other.get(), *destination, job);
+  return error;
+}
+
+}  // namespace norvex

@@ -48,12 +48,20 @@
         <translation>Colour space:</translation>
     </message>
     <message>
+        <source>Compressed SVG image (SVGZ)</source>
+        <translation>Compressed SVG image (SVGZ)</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Copy</translation>
     </message>
     <message>
         <source>Copy Path</source>
         <translation>Copy Path</translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation>Copying…</translation>
     </message>
     <message>
         <source>Copyright:</source>
@@ -88,6 +96,14 @@
         <translation>EPS, Illustrator, PDF and SVG pictures</translation>
     </message>
     <message>
+        <source>Encapsulated PostScript (EPS)</source>
+        <translation>Encapsulated PostScript (EPS)</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript with interchange preview (EPSI)</source>
+        <translation>Encapsulated PostScript with interchange preview (EPSI)</translation>
+    </message>
+    <message>
         <source>Encoding</source>
         <translation>Encoding of the source text</translation>
     </message>
@@ -108,8 +124,16 @@
         <translation>For:</translation>
     </message>
     <message>
+        <source>GIF image</source>
+        <translation>GIF image</translation>
+    </message>
+    <message>
         <source>Height</source>
         <translation>Height</translation>
+    </message>
+    <message>
+        <source>Hide extension</source>
+        <translation>Hide extension</translation>
     </message>
     <message>
         <source>Higher by %1 pt</source>
@@ -118,6 +142,10 @@
     <message>
         <source>Inspector</source>
         <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>JPEG image</source>
+        <translation>JPEG image</translation>
     </message>
     <message>
         <source>Left by %1 pt</source>
@@ -146,6 +174,10 @@
     <message>
         <source>Not found</source>
         <translation>Not found</translation>
+    </message>
+    <message>
+        <source>Not possible for this picture: %1</source>
+        <translation>Not possible for this picture: %1</translation>
     </message>
     <message>
         <source>Nothing is selected.</source>
@@ -192,6 +224,18 @@
         <translation>Show the colour panel</translation>
     </message>
     <message>
+        <source>PDF document</source>
+        <translation>PDF document</translation>
+    </message>
+    <message>
+        <source>PNG image</source>
+        <translation>PNG image</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
         <source>Pictures that you open are listed here.</source>
         <translation>Pictures that you open are listed here.</translation>
     </message>
@@ -224,6 +268,10 @@
         <translation>Remove from the list</translation>
     </message>
     <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
         <source>Resize Selection</source>
         <translation>Resize Selection</translation>
     </message>
@@ -234,6 +282,18 @@
     <message>
         <source>RotateImageByMousedragg</source>
         <translation>Drag to rotate the picture. Hold Shift to snap to 15°, double-click for 0°.</translation>
+    </message>
+    <message>
+        <source>SVG image</source>
+        <translation>SVG image</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Save As</translation>
+    </message>
+    <message>
+        <source>Save Selection</source>
+        <translation>Save Selection</translation>
     </message>
     <message>
         <source>SaveAs</source>
@@ -272,12 +332,24 @@
         <translation>Source text of the document</translation>
     </message>
     <message>
+        <source>TIFF image</source>
+        <translation>TIFF image</translation>
+    </message>
+    <message>
         <source>The file has changed on disk.</source>
         <translation>The file has changed on disk.</translation>
     </message>
     <message>
         <source>The picture cannot be shown.</source>
         <translation>The picture cannot be shown.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written in this format</source>
+        <translation>The picture cannot be written in this format</translation>
+    </message>
+    <message>
+        <source>The picture could not be copied. The clipboard holds what it held before.</source>
+        <translation>The picture could not be copied. The clipboard holds what it held before.</translation>
     </message>
     <message>
         <source>The range of the selection or visible rect are copied onto the paste board.</source>
@@ -332,12 +404,20 @@
         <translation>View box or bounds of the picture, in its own units</translation>
     </message>
     <message>
+        <source>What it holds will be lost.</source>
+        <translation>What it holds will be lost.</translation>
+    </message>
+    <message>
         <source>Wider by %1 pt</source>
         <translation>Wider by %1 pt</translation>
     </message>
     <message>
         <source>Width</source>
         <translation>Width</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>Writing…</translation>
     </message>
     <message>
         <source>X</source>
@@ -358,6 +438,10 @@
     <message>
         <source>“%1” could not be opened.</source>
         <translation>“%1” could not be opened.</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>“%1” exists already.</translation>
     </message>
 </context>
 <context>
@@ -573,6 +657,18 @@
     <message>
         <source>Zoom &amp;Out</source>
         <translation>Zoom &amp;Out</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Save &amp;As…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Whole Picture</source>
+        <translation>&amp;Copy Whole Picture</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format:</translation>
     </message>
 </context>
 <context>

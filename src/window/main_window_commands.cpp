@@ -59,6 +59,10 @@ void MainWindowController::connectCommands() {
   };
   on(ui_->reloadAction, {Qt::Key_F5}, [this] { if (document_) document_->revertDocumentToSaved(); });
   on(ui_->closeAction, {QKeySequence::Close}, [this] { window_->close(); });
+  on(ui_->saveAsAction, {Qt::CTRL | Qt::SHIFT | Qt::Key_S}, [this] { saveDocumentAs(); });
+  on(ui_->copyAction, {QKeySequence::Copy}, [this] { copy(); });
+  on(copyToolbarItem, {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, [this] { doCopy(copyToolbarItem); });
+  on(doSaveToToolbarItem, {Qt::CTRL | Qt::Key_E}, [this] { doSaveTo(doSaveToToolbarItem); });
   on(ui_->quitAction, {Qt::CTRL | Qt::Key_Q}, [] { QCoreApplication::quit(); });
   on(ui_->selectAllAction, {QKeySequence::SelectAll}, [this] { view()->selectBounds(); });
   on(ui_->deselectAction, {Qt::Key_Escape, Qt::CTRL | Qt::SHIFT | Qt::Key_A}, [this] { view()->clearSelectRect(); });
@@ -80,6 +84,7 @@ void MainWindowController::connectCommands() {
   on(ui_->fullScreenAction, {Qt::Key_F11}, [this](bool checked) { toggleFullScreen(checked); });
   on(ui_->aboutAction, {}, [this] { showAbout(); });
   scrollArea_->setFocus(Qt::OtherFocusReason);  // keys are for the picture until another control is chosen
+  setUpPictureMenu();
   arrangeToolbar();
   inspectorToolbarItem->setIcon(symbolicIcon(Symbol::Inspector));
   copyToolbarItem->setIcon(symbolicIcon(Symbol::Copy));
@@ -104,7 +109,8 @@ bool MainWindowController::validateUserInterfaceItem() const { return view() && 
 
 void MainWindowController::validateCommands() {
   const bool enabled = validateUserInterfaceItem();
-  for (QAction* action : {inspectorToolbarItem, copyToolbarItem, doPrintingToolbarItem, doSaveToToolbarItem, ui_->selectAllAction,
+  for (QAction* action : {inspectorToolbarItem, copyToolbarItem, doPrintingToolbarItem, doSaveToToolbarItem, ui_->saveAsAction,
+                          ui_->copyAction, ui_->selectAllAction,
                           ui_->zoomInAction, ui_->zoomOutAction, ui_->actualSizeAction, ui_->fitAction,
                           ui_->rotateLeftAction, ui_->rotateRightAction, ui_->resetRotationAction})
     action->setEnabled(enabled);

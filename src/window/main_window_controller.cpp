@@ -12,6 +12,7 @@
 #include "platform/qt/norvex_view_widget.h"
 #include "platform/qt/window_style.h"
 #include "platform/qt/zooming_scroll_area.h"
+#include "platform/save_panel.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_reading.h"
 #include "window/stoppable_process.h"
@@ -23,6 +24,7 @@ MainWindowController::MainWindowController() = default;
 MainWindowController::~MainWindowController() {
   if (view()) view()->setDelegate(nullptr);
   stopReading();
+  if (copying_) copying_->cancel();
   // Told about the controller, not about its window: who listens knows the controller.
   emit windowWillClose(this);
   QObject::disconnect(svgObservation_);

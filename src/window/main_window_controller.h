@@ -20,6 +20,8 @@
 #include "platform/result.h"
 #include "window/document_contents.h"
 #include "window/main_window_outlets.h"
+#include "window/picture_formats.h"
+#include "window/window_producers.h"
 
 class QAction;
 class QLabel;
@@ -33,8 +35,12 @@ namespace norvex {
 
 class AlertPresenter;
 class LoadingCard;
+struct DraggedFile;
 class MessageBar;
 class NorvexViewWidget;
+class NSPasteboard;
+class NSPasteboardItem;
+class NSSavePanel;
 class SelectionCommands;
 class ZoomingScrollArea;
 
@@ -90,6 +96,38 @@ class MainWindowController final : public QObject,
   /// An SVG picture's PDF form is there, or failed with `error`.
   void pdfImageRepDidLoad(bool success, const Error& error);
 
+  // ---- the picture as bytes -----------------------------------------------------------------------------------------
+  // Each blocks for the picture process and returns the bytes of the whole, unturned picture, or none.
+  PictureProducers* producers() override;
+  QByteArray postScriptData();
+  QByteArray addEPSHeader(const QByteArray& postScript);
+  QByteArray postScriptDataWithPreview();
+  QByteArray epsiData();
+  QByteArray pdfData();
+  QByteArray addPDFHeader(const QByteArray& pdf);
+  QByteArray svgData();
+  std::optional<DocRasterImage> docRasterImage(const std::shared_ptr<NSImageRep>& imageRep);
+  QByteArray tiffData(const std::shared_ptr<NSImageRep>& imageRep);
+  QByteArray pngData(const std::shared_ptr<NSImageRep>& imageRep);
+  QByteArray jpgData(const std::shared_ptr<NSImageRep>& imageRep);
+  QByteArray gifData(const std::shared_ptr<NSImageRep>& imageRep);
+
+  // ---- handing parts of the picture on ------------------------------------------------------------------------------
+  /// The formats of the selection, or of what is visible without one, as promises of their bytes. Beeps and is empty
+  /// without a picture.
+  PictureFormats pboardTypesAndDataObjects();
+  /// Copies those formats. Returns at once: they are made in the background, and then the clipboard changes in one step.
+  /// What cannot be made is left out; when nothing can, the clipboard stays as it is. copied() tells the end.
+  void doCopy(QObject* sender = nullptr);
+  /// Copies the whole picture in the formats that its representation has by itself, in the same way.
+  void copy(QObject* sender = nullptr);
+  /// Opens a sheet that writes those formats, and PNG, JPEG and GIF, to a file. savedTo() tells the end.
+  void doSaveTo(QObject* sender = nullptr);
+  /// Opens a sheet that writes the whole picture in any type that can be written.
+  void saveDocumentAs(QObject* sender = nullptr);
+  [[nodiscard]] QList<UTType> writableTypes() const;
+
+
   // NorvexViewDelegate
   [[nodiscard]] bool dialKnobClockwise() const override;
   void norvexView(NorvexView& view, const QString& selectedRangeStrings, const QString& end,
@@ -97,6 +135,11 @@ class MainWindowController final : public QObject,
 
   /// Shows the alerts of this controller; not owned, null: they are shown by the platform.
   void setAlertPresenter(AlertPresenter* presenter) { alerts_ = presenter; }
+  /// The clipboard and the save panel; not owned, null: the platform's.
+  void setPasteboard(NSPasteboard* pasteboard) { pasteboard_ = pasteboard; }
+  void setSavePanel(NSSavePanel* panel) { savePanel_ = panel; }
+  /// What is done instead of the platform's beep.
+  void setBeep(std::function<void()> beep) { beep_ = std::move(beep); }
   [[nodiscard]] ZoomingScrollArea* scrollArea() const { return scrollArea_; }
   [[nodiscard]] NorvexViewWidget* viewWidget() const { return viewWidget_; }
   [[nodiscard]] MessageBar* messageBar() const { return messageBar_; }
@@ -108,6 +151,10 @@ class MainWindowController final : public QObject,
   void windowWillClose(QObject* controller);
   /// The document was read and its contents are on the screen.
   void documentShown();
+  /// A copy has ended; false: the clipboard is as it was. A copy that a later one replaced is not told.
+  void copied(bool written);
+  /// Save To has ended after its sheet was confirmed.
+  void savedTo(const QString& path, bool written);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -165,6 +212,28 @@ class MainWindowController final : public QObject,
   void placeInspector();
   void showRotationText();
 
+  // main_window_encoding.cpp
+  WindowProducers& windowProducers();
+  // main_window_copy.cpp
+  void NSBeep() const;
+  [[nodiscard]] PictureSnapshot snapshot() const;
+  void writeWhenMade(const PictureFormats& formats, const std::shared_ptr<PromisedData>& png);
+  void write(const NSPasteboardItem& item);
+  void stopCopying();
+  // main_window_save_to.cpp, main_window_save_as.cpp
+  struct SaveToSheet;
+  [[nodiscard]] QString clipName() const;
+  NSSavePanel& savePanel();
+  void fillSaveToAccessory(const std::shared_ptr<SaveToSheet>& sheet);
+  void removeSaveToFormat(SaveToSheet& sheet, const std::shared_ptr<PromisedData>& data);
+  void saveTo(const std::shared_ptr<SaveToSheet>& sheet, const QUrl& url);
+  void saveAs(const QUrl& url, const UTType& type);
+  void showWriteFailure(const Error& error, const QString& path);
+
+  // main_window_context_menu.cpp
+  void setUpPictureMenu();
+  std::optional<DraggedFile> draggedFile();
+
   struct Reading;
 
   QPointer<Document> document_;
@@ -186,6 +255,13 @@ class MainWindowController final : public QObject,
   std::shared_ptr<Reading> reading_;  ///< null while nothing is read
   std::shared_ptr<StoppableProcess> process_;
   std::function<void()> messageAction_;
+  std::unique_ptr<WindowProducers> producers_;
+  NSPasteboard* pasteboard_ = nullptr;
+  NSSavePanel* savePanel_ = nullptr;
+  std::unique_ptr<NSSavePanel> ownSavePanel_;
+  std::function<void()> beep_;
+  std::optional<CancelToken> copying_;  ///< of the copy under way
+  int writing_ = 0;                     ///< files that are being written
   QMetaObject::Connection svgObservation_;
 };
 

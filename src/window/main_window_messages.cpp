@@ -37,7 +37,7 @@ void MainWindowController::watchPicture() {
 void MainWindowController::followRendering() {
   const NSImageRep* rep = view()->imageRep().get();
   if (rep && rep->isRendering()) loadingCard_->begin(localizedString("Drawing…"));
-  else if (!reading_) loadingCard_->end();
+  else if (!reading_ && !copying_ && writing_ == 0) loadingCard_->end();
 }
 
 void MainWindowController::showProblem(const Error& error) {
@@ -61,6 +61,7 @@ void MainWindowController::stopWork() {
     messageBar_->showMessage(MessageBar::Kind::Warning, messageBar_->message(), localizedString("Try Again"));
     return;
   }
+  if (copying_) return stopCopying();
   loadingCard_->end();
   if (process_) process_->stop();
 }

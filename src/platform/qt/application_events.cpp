@@ -21,7 +21,9 @@ bool ApplicationEvents::guard(const std::function<bool()>& deliver) {
   try {
     return deliver();
   } catch (const UnimplementedMethod& exception) {
-    reason = exception.reason();
+    // What can be done about it says more than that it is not done.
+    reason = exception.suggestion().isEmpty() ? exception.reason() : exception.suggestion();
+    if (reason.endsWith(u'.')) reason.chop(1);
   } catch (const std::bad_alloc&) {
     reason = localizedString("There is not enough memory for this");
   }

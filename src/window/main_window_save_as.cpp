@@ -1,0 +1,72 @@
+// Save As: the whole picture in any type that can be written. The document stays what it is.
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QTimer>
+
+#include <algorithm>
+
+#include "document/document.h"
+#include "platform/alert.h"
+#include "platform/localized_string.h"
+#include "platform/path_extension.h"
+#include "platform/picture/web_image_rep.h"
+#include "platform/save_panel.h"
+#include "window/main_window_controller.h"
+
+namespace norvex {
+
+namespace {
+
+QUrl urlForType(const QUrl& url, const UTType& type) {
+  const QString extension = pathExtension(url.path());
+  const auto known = UTType::typeWithFilenameExtension(extension);
+  if (known && *known == type) return url;
+  QUrl target = url;
+  // Only what names another kind of file is an extension to be replaced; "Map 1.5" keeps its name.
+  target.setPath((known ? pathWithoutExtension(url.path()) : url.path()) + u'.' + type.preferredFilenameExtension());
+  return target;
+}
+
+}  // namespace
+
+QList<UTType> MainWindowController::writableTypes() const {
+  QList<UTType> types{*UTType::typeWithIdentifier(NorvexEPSType), *UTType::typeWithIdentifier(NorvexEPSIType), UTTypePDF()};
+  if (view() && dynamic_cast<const ZyWebImageRep*>(view()->imageRep().get()))
+    types << UTTypeSVG() << *UTType::typeWithIdentifier(NorvexSVGZType);
+  return types << UTTypeTIFF() << UTTypePNG() << UTTypeJPEG() << UTTypeGIF();
+}
+
+void MainWindowController::saveDocumentAs(QObject*) {
+  if (!document_ || !validateUserInterfaceItem()) return;
+  const QList<UTType> types = writableTypes();
+  const auto own = UTType::typeWithIdentifier(document_->fileType());
+  const qsizetype at = own ? types.indexOf(*own) : -1;
+  SavePanelSettings settings;
+  settings.title = localizedString("Save As");
+  settings.allowedContentTypes = types;
+  settings.selectedContentType = std::max(0, int(at >= 0 ? at : types.indexOf(UTTypePDF())));
+  settings.allowsOtherFileTypes = false;
+  settings.canSelectHiddenExtension = true;
+  settings.directoryURL = document_->fileURL().adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
+  settings.nameFieldStringValue = pathWithoutExtension(document_->displayName());
+  settings.target = [types](const QUrl& url, int type) {
+    return type >= 0 && type < types.size() ? urlForType(url, types.at(type)) : url;
+  };
+  savePanel().beginSheetModalForWindow(window_, settings, [this, types, target = settings.target](const SavePanelAnswer& answer) {
+    if (!answer.ok || answer.contentType < 0 || answer.contentType >= types.size()) return;
+    const QUrl url = target(answer.url, answer.contentType);
+    // From the event loop: what it may throw is for the application to tell, not for the panel to end on.
+    QTimer::singleShot(0, this, [this, url, type = types.at(answer.contentType)] { saveAs(url, type); });
+  });
+}
+
+void MainWindowController::saveAs(const QUrl& url, const UTType& type) {
+  if (!document_) return;
+  document_->setAlertPresenter(alerts_);
+  DocumentError error;
+  if (document_->writeToURL(url, type.identifier(), &error)) return;
+  if (!error.recoverySuggestion.isEmpty())
+    showWriteFailure({ErrorKind::CannotWrite, error.recoverySuggestion}, url.toLocalFile());
+}
+
+}  // namespace norvex

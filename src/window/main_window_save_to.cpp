@@ -1,0 +1,145 @@
+// Save To: the selected part as a new file in one of the formats of the pasteboard and some more.
+#include "window/main_window_save_to.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPointer>
+#include <QSettings>
+#include <QtConcurrent>
+
+#include "platform/alert.h"
+#include "platform/atomic_file.h"
+#include "platform/localized_string.h"
+#include "platform/path_extension.h"
+#include "platform/qt/loading_card.h"
+#include "platform/qt/save_panel.h"
+#include "platform/qt/zy_image_view.h"
+#include "ui_MainWindowController.h"
+#include "platform/type_description.h"
+
+namespace norvex {
+
+namespace {
+
+const QString kSaveTo = QStringLiteral("SaveTo");
+
+QUrl startFolder() {
+  const QUrl last = QSettings().value(kSaveTo).toUrl();
+  return last.isLocalFile() ? last.adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash) : QUrl();
+}
+
+/// The bytes, whole or not at all; off the window's thread.
+Result<void> writeTo(const QString& path, const std::shared_ptr<PromisedData>& data) {
+  const QByteArray bytes = data->get();
+  if (bytes.isEmpty())
+    return Error{ErrorKind::CannotWrite, localizedString("The picture cannot be written in this format")};
+  return writeFileAtomically(path, bytes, IfExists::Replace);
+}
+
+}  // namespace
+
+QUrl urlWithExtension(const QUrl& url, const QString& extension) {
+  if (extension.isEmpty() || pathExtension(url.path()) == extension) return url;
+  QUrl target = url;
+  target.setPath(pathWithoutExtension(url.path()) + u'.' + extension);
+  return target;
+}
+
+QString MainWindowController::clipName() const {
+  return QStringLiteral("%1_clip").arg(pathWithoutExtension(window_->windowFilePath().section(u'/', -1)));
+}
+
+NSSavePanel& MainWindowController::savePanel() {
+  if (savePanel_) return *savePanel_;
+  if (!ownSavePanel_) ownSavePanel_ = std::make_unique<QtSavePanel>();
+  return *ownSavePanel_;
+}
+
+void MainWindowController::doSaveTo(QObject*) {
+  const PictureSnapshot shown = snapshot();
+  auto sheet = std::make_shared<SaveToSheet>();
+  sheet->formats = pboardTypesAndDataObjects();
+  appendRasterFormats(sheet->formats, shown);
+  fillSaveToAccessory(sheet);
+
+  SavePanelSettings settings;
+  settings.title = localizedString("Save Selection");
+  settings.message = localizedString("Selected range of image data is written or displayed.");
+  settings.allowedContentTypes = sheet->formats.UTIs;
+  settings.canSelectHiddenExtension = true;
+  settings.extensionHidden = true;
+  settings.allowsOtherFileTypes = false;
+  settings.directoryURL = startFolder();
+  settings.nameFieldStringValue = clipName();
+  settings.accessoryView = doSaveToAccessoryView;
+  settings.target = [sheet, popUp = doSaveToPopUp](const QUrl& url, int) {
+    const int row = popUp->currentIndex();
+    return row < 0 || row >= sheet->formats.count()
+               ? url : urlWithExtension(url, sheet->formats.UTIs.at(row).preferredFilenameExtension());
+  };
+  savePanel().beginSheetModalForWindow(window_, settings, [this, sheet](const SavePanelAnswer& answer) {
+    sheet->open = false;
+    if (answer.ok) saveTo(sheet, answer.url);
+  });
+}
+
+void MainWindowController::fillSaveToAccessory(const std::shared_ptr<SaveToSheet>& sheet) {
+  doSaveToPopUp->clear();
+  for (const UTType& type : sheet->formats.UTIs) doSaveToPopUp->addItem(localizedDescription(type));
+  if (sheet->formats.count() > 0) doSaveToPopUp->setCurrentIndex(0);
+  ui_->doSaveToNote->clear();
+  doSaveToImageView->setImage({});
+  QPointer<MainWindowController> self(this);
+  const std::weak_ptr<SaveToSheet> kept = sheet;  // a closed sheet ends the making
+  if (const auto rep = sheet->formats.pdfImageRep)
+    QtConcurrent::run([rep] { return rep->get(); }).then(qApp, [self, kept](const std::shared_ptr<NSPDFImageRep>& made) {
+      const auto shown = kept.lock();
+      if (self && shown && shown->open) self->doSaveToImageView->setImageRep(made);
+    });
+  for (const std::shared_ptr<PromisedData>& data : std::as_const(sheet->formats.DataObjects))
+    QtConcurrent::run([data] { return data->get().isEmpty(); }).then(qApp, [self, kept, data](bool missing) {
+      const auto shown = kept.lock();
+      if (missing && self && shown && shown->open) self->removeSaveToFormat(*shown, data);
+    });
+}
+
+void MainWindowController::removeSaveToFormat(SaveToSheet& sheet, const std::shared_ptr<PromisedData>& data) {
+  const qsizetype row = sheet.formats.DataObjects.indexOf(data);
+  if (row < 0) return;
+  ui_->doSaveToNote->setText(localizedString("Not possible for this picture: %1").arg(localizedDescription(sheet.formats.UTIs.at(row))));
+  const bool chosen = doSaveToPopUp->currentIndex() == row;
+  sheet.formats.removeAt(row);
+  doSaveToPopUp->removeItem(int(row));
+  if (chosen && sheet.formats.count() > 0) doSaveToPopUp->setCurrentIndex(0);
+}
+
+void MainWindowController::saveTo(const std::shared_ptr<SaveToSheet>& sheet, const QUrl& url) {
+  const int row = doSaveToPopUp->currentIndex();
+  if (row < 0 || row >= sheet->formats.count()) return;
+  const std::shared_ptr<PromisedData> data = sheet->formats.DataObjects.at(row);
+  const QString path =
+      urlWithExtension(url, sheet->formats.UTIs.at(row).preferredFilenameExtension()).toLocalFile();
+  ++writing_;
+  loadingCard_->begin(localizedString("Writing…"));
+  QPointer<MainWindowController> self(this);
+  // The sheet is held until the file is written: letting go of it ends what is being made.
+  QtConcurrent::run([path, data] { return writeTo(path, data); }).then(qApp, [self, sheet, path, url](const Result<void>& written) {
+    if (!self) return;
+    --self->writing_;
+    self->followRendering();
+    if (!written) self->showWriteFailure(written.error(), path);
+    QSettings().setValue(kSaveTo, url);
+    emit self->savedTo(path, written.ok());
+  });
+}
+
+void MainWindowController::showWriteFailure(const Error& error, const QString& path) {
+  Alert alert;
+  alert.style = AlertStyle::Warning;
+  alert.messageText = error.message;
+  alert.informativeText = path;
+  if (alerts_) alerts_->runModal(alert);
+}
+
+}  // namespace norvex

@@ -1,0 +1,386 @@
+// Save To and Save As: what the sheet is asked to show, and what is written where.
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QSettings>
+#include <QSignalSpy>
+
+#include "document/unimplemented_method.h"
+#include "kit/test_main.h"
+#include "platform/memory_save_panel.h"
+#include "platform/path_extension.h"
+#include "platform/qt/save_sheet.h"
+#include "platform/qt/zy_image_view.h"
+#include "window/main_window_save_to.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+const Error kDied{ErrorKind::Died, QStringLiteral("the picture process ended")};
+const QByteArray kSvg = "<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100'/>";
+const QStringList kEpsRows{"Encapsulated PostScript (EPS)", "PDF document", "TIFF image", "PNG image", "JPEG image", "GIF image"};
+
+class SaveToFixture : public WindowFixture {
+ public:
+  SaveToFixture() {
+    // Settings of this test's own.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.filePath("config"));
+    QSettings().remove("SaveTo");
+  }
+  MainWindowController& show(const QByteArray& bytes, const QString& name, const QString& type) {
+    MainWindowController& made = loaded(bytes, name, type);
+    made.setSavePanel(&panel);
+    made.setBeep([this] { ++beeps; });
+    return made;
+  }
+  MainWindowController& eps() { return show(epsBytes(), "pic.eps", NorvexEPSType); }
+  QUrl url(const QString& name) const { return QUrl::fromLocalFile(folder.filePath(name)); }
+  QByteArray read(const QString& name) const {
+    QFile file(folder.filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  MemorySavePanel panel;
+  int beeps = 0;
+};
+
+QStringList rows(const MainWindowController& c) {
+  QStringList all;
+  for (int i = 0; i < c.doSaveToPopUp->count(); ++i) all << c.doSaveToPopUp->itemText(i);
+  return all;
+}
+
+void choose(const MainWindowController& c, const QString& row) { c.doSaveToPopUp->setCurrentText(row); }
+
+/// Confirms the sheet and waits until the file is written; empty: it never was.
+QVariantList saved(MainWindowController& c, MemorySavePanel& panel, const QUrl& url) {
+  QSignalSpy end(&c, &MainWindowController::savedTo);
+  panel.answer({true, url, -1});
+  if (end.isEmpty() && !end.wait(20000)) return {};
+  return end.first();
+}
+
+}  // namespace
+
+class SaveToTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void theSheetOffersTheFormatsInTheirOrder_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("EPS") << epsBytes() << "a.eps" << NorvexEPSType << kEpsRows;
+    QTest::newRow("PDF") << emptyPdf({200, 100}) << "a.pdf" << "com.adobe.pdf"
+                         << QStringList{"PDF document", "Encapsulated PostScript (EPS)", "TIFF image", "PNG image", "JPEG image", "GIF image"};
+    QTest::newRow("SVG") << kSvg << "a.svg" << "public.svg-image"
+                         << QStringList{"SVG image", "PDF document", "Encapsulated PostScript (EPS)", "TIFF image", "PNG image", "JPEG image", "GIF image"};
+  }
+  void theSheetOffersTheFormatsInTheirOrder() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, name);
+    QFETCH(QString, type);
+    QFETCH(QStringList, expected);
+    SaveToFixture f;
+    MainWindowController& c = f.show(bytes, name, type);
+    c.doSaveTo();
+    QCOMPARE(rows(c), expected);
+    QCOMPARE(c.doSaveToPopUp->currentIndex(), 0);
+    QCOMPARE(f.panel.settings.allowedContentTypes.size(), expected.size());
+  }
+
+  void thePanelIsSetUp() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    QCOMPARE(f.panel.parent, c.window());
+    QVERIFY(f.panel.settings.canSelectHiddenExtension && f.panel.settings.extensionHidden);
+    QVERIFY(!f.panel.settings.allowsOtherFileTypes);
+    QCOMPARE(f.panel.settings.directoryURL, QUrl());
+    QCOMPARE(f.panel.settings.nameFieldStringValue, QString("pic_clip"));
+    QCOMPARE(f.panel.settings.message, QString("Selected range of image data is written or displayed."));
+    QCOMPARE(f.panel.settings.accessoryView, c.doSaveToAccessoryView);
+    QTRY_VERIFY(c.doSaveToImageView->imageRep());
+  }
+
+  void aWindowWithoutAFileProposesClip() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.window()->setWindowFilePath(QString());
+    c.doSaveTo();
+    QCOMPARE(f.panel.settings.nameFieldStringValue, QString("_clip"));
+  }
+
+  void onlyTheLastExtensionIsLeftOut() {
+    SaveToFixture f;
+    f.show(epsBytes(), "a.b.eps", NorvexEPSType).doSaveTo();
+    QCOMPARE(f.panel.settings.nameFieldStringValue, QString("a.b_clip"));
+  }
+
+  void theChosenFormatDecidesNotTheTypedExtension() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    choose(c, "PNG image");
+    QCOMPARE(saved(c, f.panel, f.url("out.pdf")), (QVariantList{f.folder.filePath("out.png"), true}));
+    QVERIFY(f.read("out.png").startsWith("\x89PNG"));
+    QVERIFY(!QFile::exists(f.folder.filePath("out.pdf")));
+  }
+
+  void aNameWithoutExtensionGetsTheFormatsOwn() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    choose(c, "JPEG image");
+    QCOMPARE(saved(c, f.panel, f.url("out")), (QVariantList{f.folder.filePath("out.jpeg"), true}));
+    QVERIFY(f.read("out.jpeg").startsWith("\xFF\xD8"));
+  }
+
+  void eachFormatIsWrittenAsWhatItIs() {
+    SaveToFixture f;
+    MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
+    const QList<std::pair<QString, QByteArray>> all{{"svg", "<svg"}, {"pdf", "%PDF"}, {"eps", "%!PS"}, {"tiff", "II"},
+                                                    {"png", "\x89PNG"}, {"jpeg", "\xFF\xD8"}, {"gif", "GIF89a"}};
+    for (int i = 0; i < all.size(); ++i) {
+      c.doSaveTo();
+      c.doSaveToPopUp->setCurrentIndex(i);
+      QCOMPARE(saved(c, f.panel, f.url("out")), (QVariantList{f.folder.filePath("out." + all[i].first), true}));
+      QVERIFY2(f.read("out." + all[i].first).startsWith(all[i].second), qPrintable(all[i].first));
+    }
+  }
+
+  void theNextSheetOpensWhereTheLastWas() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    QDir(f.folder.path()).mkpath("x/y");
+    c.doSaveTo();
+    choose(c, "PNG image");
+    QCOMPARE(saved(c, f.panel, f.url("x/y/out.gif")).value(1), QVariant(true));
+    // What was typed is kept, not what was written.
+    QCOMPARE(QSettings().value("SaveTo").toUrl(), f.url("x/y/out.gif"));
+    c.doSaveTo();
+    QCOMPARE(f.panel.settings.directoryURL, f.url("x/y"));
+  }
+
+  void aPlaceThatIsNoFileIsNotReturnedTo() {
+    SaveToFixture f;
+    QSettings().setValue("SaveTo", QUrl("https://example.org/x/y.png"));
+    f.eps().doSaveTo();
+    QCOMPARE(f.panel.settings.directoryURL, QUrl());
+  }
+
+  void aCancelledSheetWritesAndRemembersNothing() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    QSignalSpy end(&c, &MainWindowController::savedTo);
+    c.doSaveTo();
+    f.panel.answer({false, f.url("out.eps"), -1});
+    QTest::qWait(20);
+    QCOMPARE(end.count(), 0);
+    QVERIFY(!QFile::exists(f.folder.filePath("out.eps")));
+    QVERIFY(!QSettings().contains("SaveTo"));
+  }
+
+  void aFailedWriteIsToldWithItsPathAndRememberedAllTheSame() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    QCOMPARE(saved(c, f.panel, f.url("nowhere/out.eps")), (QVariantList{f.folder.filePath("nowhere/out.eps"), false}));
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QCOMPARE(f.alerts.shown[0].style, AlertStyle::Warning);
+    QVERIFY(!f.alerts.shown[0].messageText.isEmpty());
+    QCOMPARE(f.alerts.shown[0].informativeText, f.folder.filePath("nowhere/out.eps"));
+    QCOMPARE(QSettings().value("SaveTo").toUrl(), f.url("nowhere/out.eps"));
+  }
+
+  void withoutAPictureTheSheetOpensEmptyAndWritesNothing() {
+    SaveToFixture f;
+    MainWindowController& c = f.show("no picture", "a.eps", NorvexEPSType);
+    c.doSaveTo();
+    QCOMPARE(f.beeps, 1);
+    QVERIFY(f.panel.isOpen());
+    QCOMPARE(rows(c), QStringList());
+    f.panel.answer({true, f.url("out"), -1});
+    QTest::qWait(20);
+    QVERIFY(!QFile::exists(f.folder.filePath("out")));
+  }
+
+  void theSheetOpensBeforeAnythingIsMade() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Compose);
+    c.doSaveTo();  // a sheet that waited would never open
+    QCOMPARE(rows(c), kEpsRows);
+    QSignalSpy end(&c, &MainWindowController::savedTo);
+    f.panel.answer({true, f.url("out"), -1});
+    QVERIFY(!QFile::exists(f.folder.filePath("out.eps")));
+    process->release(PictureCall::Compose);
+    QVERIFY(end.wait(20000));
+    QVERIFY(f.read("out.eps").startsWith("%!PS"));
+  }
+
+  void aFormatThatTurnsOutMissingLosesItsRow() {
+    MemoryPicture picture;
+    picture.compose = [](const ComposeRequest& request) {
+      return request.format == VectorFormat::Pdf ? emptyPdf(request.rect.size()) : QByteArray();
+    };
+    SaveToFixture f;
+    f.service.setPicture(picture);
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    QTRY_COMPARE(rows(c), kEpsRows.mid(1));
+    QCOMPARE(c.doSaveToPopUp->currentText(), QString("PDF document"));
+    auto* note = c.doSaveToAccessoryView->findChild<QLabel*>("doSaveToNote");
+    QCOMPARE(note->text(), QString("Not possible for this picture: Encapsulated PostScript (EPS)"));
+    QCOMPARE(saved(c, f.panel, f.url("out")), (QVariantList{f.folder.filePath("out.pdf"), true}));
+    QVERIFY(f.read("out.pdf").startsWith("%PDF"));  // rows and bytes still belong together
+    c.doSaveTo();
+    QCOMPARE(note->text(), QString());
+  }
+
+  void aChoiceStaysWhenAnotherRowGoes() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Compose);
+    process->fail(PictureCall::Compose, kDied, 1);
+    c.doSaveTo();
+    choose(c, "TIFF image");
+    process->release(PictureCall::Compose);
+    QTRY_VERIFY(c.doSaveToPopUp->count() < kEpsRows.size());
+    if (rows(c).contains("TIFF image")) QCOMPARE(c.doSaveToPopUp->currentText(), QString("TIFF image"));
+    else QCOMPARE(c.doSaveToPopUp->currentIndex(), 0);
+  }
+
+  void bytesThatAreMissingInTheEndAreTold() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    const auto process = f.service.lastProcess();
+    process->fail(PictureCall::Compose, kDied);
+    process->hold(PictureCall::Compose);
+    c.doSaveTo();
+    QSignalSpy end(&c, &MainWindowController::savedTo);
+    f.panel.answer({true, f.url("out"), -1});  // before it is known
+    process->release(PictureCall::Compose);
+    QVERIFY(end.wait(20000));
+    QCOMPARE(end.first().at(1), QVariant(false));
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QVERIFY(!QFile::exists(f.folder.filePath("out.eps")));
+  }
+
+  void extensionsAreReplacedOrAppended() {
+    const auto with = [](const char* path, const char* extension) {
+      return urlWithExtension(QUrl::fromLocalFile(path), extension).toLocalFile();
+    };
+    QCOMPARE(with("/a/out.pdf", "png"), QString("/a/out.png"));
+    QCOMPARE(with("/a/out", "png"), QString("/a/out.png"));
+    QCOMPARE(with("/a/out.png", "png"), QString("/a/out.png"));
+    QCOMPARE(with("/a/out.PNG", "png"), QString("/a/out.png"));
+    QCOMPARE(with("/a.b/out", "png"), QString("/a.b/out.png"));
+    QCOMPARE(with("/a/.out", "png"), QString("/a/.out.png"));
+    QCOMPARE(with("/a/100% #1?.x", "gif"), QString("/a/100% #1?.gif"));
+    QCOMPARE(pathExtension("/a/b.c/d.e.f"), QString("f"));
+    QCOMPARE(pathWithoutExtension("/a/b.c/d"), QString("/a/b.c/d"));
+  }
+
+  // ---- the sheet itself ---------------------------------------------------------------------------------------------
+
+  void theSheetShowsItsNameWithAndWithoutExtension() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    SavePanelSettings settings = f.panel.settings;
+    settings.directoryURL = QUrl::fromLocalFile(f.folder.path());
+    settings.nameFieldStringValue = "Map 1.5_clip";
+    SaveSheet sheet(nullptr, settings);
+    auto* name = sheet.findChild<QLineEdit*>("fileNameEdit");
+    QVERIFY(name && sheet.hideExtensionBox()->isChecked());
+    QCOMPARE(name->text(), QString("Map 1.5_clip"));
+    sheet.hideExtensionBox()->setChecked(false);
+    QCOMPARE(name->text(), QString("Map 1.5_clip.eps"));
+    choose(c, "GIF image");
+    QCOMPARE(name->text(), QString("Map 1.5_clip.gif"));
+    sheet.hideExtensionBox()->setChecked(true);
+    QCOMPARE(name->text(), QString("Map 1.5_clip"));
+    QCOMPARE(f.panel.settings.target(sheet.answer().url, -1).fileName(), QString("Map 1.5_clip.gif"));
+  }
+
+  void theSheetGivesTheAccessoryBack() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    QWidget* const owner = c.doSaveToAccessoryView->parentWidget();
+    {
+      SaveSheet sheet(nullptr, f.panel.settings);
+      QVERIFY(sheet.isAncestorOf(c.doSaveToAccessoryView));
+    }
+    QCOMPARE(c.doSaveToAccessoryView->parentWidget(), owner);
+  }
+
+  // ---- Save As ------------------------------------------------------------------------------------------------------
+
+  void everyWritableTypeIsListed() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    const auto identifiers = [](const MainWindowController& shown) {
+      QStringList all;
+      for (const UTType& type : shown.writableTypes()) all << type.identifier();
+      return all;
+    };
+    const QStringList rasters{"public.tiff", "public.png", "public.jpeg", "com.compuserve.gif"};
+    QCOMPARE(identifiers(c), (QStringList{NorvexEPSType, NorvexEPSIType, "com.adobe.pdf"} + rasters));
+    SaveToFixture g;
+    MainWindowController& d = g.show(kSvg, "a.svg", "public.svg-image");
+    QCOMPARE(identifiers(d), (QStringList{NorvexEPSType, NorvexEPSIType, "com.adobe.pdf", "public.svg-image", NorvexSVGZType} + rasters));
+    d.saveDocumentAs();
+    QCOMPARE(g.panel.settings.selectedContentType, 3);
+    QCOMPARE(g.panel.settings.nameFieldStringValue, QString("a"));
+  }
+
+  void theExtensionFollowsTheType() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.saveDocumentAs();
+    const auto& target = f.panel.settings.target;
+    QCOMPARE(target(QUrl::fromLocalFile("/a/b"), 2).toLocalFile(), QString("/a/b.pdf"));
+    QCOMPARE(target(QUrl::fromLocalFile("/a/b.eps"), 2).toLocalFile(), QString("/a/b.pdf"));
+    QCOMPARE(target(QUrl::fromLocalFile("/a/b.tif"), 3).toLocalFile(), QString("/a/b.tif"));
+    QCOMPARE(target(QUrl::fromLocalFile("/a/Map 1.5"), 4).toLocalFile(), QString("/a/Map 1.5.png"));
+  }
+
+  void aDocumentIsWrittenAndStaysWhatItIs() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.saveDocumentAs();
+    f.panel.answer({true, f.url("other"), 4});  // PNG
+    QTRY_VERIFY(f.read("other.png").startsWith("\x89PNG"));
+    QCOMPARE(f.document.fileURL(), f.url("pic.eps"));
+    QCOMPARE(f.alerts.shown.size(), 0);
+  }
+
+  void compressedSvgIsCompressed() {
+    SaveToFixture f;
+    MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
+    c.saveDocumentAs();
+    f.panel.answer({true, f.url("other"), 4});
+    QTRY_VERIFY(f.read("other.svgz").startsWith("\x1F\x8B"));
+  }
+
+  void aDocumentThatCannotBeWrittenIsTold() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.saveDocumentAs();
+    f.panel.answer({true, f.url("nowhere/other"), 4});
+    QTRY_COMPARE(f.alerts.shown.size(), 1);
+    QCOMPARE(f.alerts.shown[0].informativeText, f.folder.filePath("nowhere/other.png"));
+  }
+};
+
+NORVEX_TEST(SaveToTest)
+#include "save_to_test.moc"

@@ -2,6 +2,7 @@
 
 #include <QtMath>
 
+#include "cli/input_file.h"
 #include "display/picture_geometry.h"
 #include "metadata/eps_header.h"
 #include "metadata/pdf_header.h"
@@ -21,6 +22,13 @@ HeaderDictionary headerOf(const NSImageRep& imageRep) {
   if (const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep)) return pdfHeader(pdf->facts());
   if (const auto* svg = dynamic_cast<const ZyWebImageRep*>(&imageRep))
     return svgHeader(svg->facts(), svg->colorSpace());
+  return {};
+}
+
+/// What was noticed when the document was opened.
+QStringList warningsOf(const NSImageRep& imageRep) {
+  if (const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep)) return pdf->facts().warnings;
+  if (const auto* svg = dynamic_cast<const ZyWebImageRep*>(&imageRep)) return svg->facts().warnings;
   return {};
 }
 
@@ -62,10 +70,12 @@ Conversion failed(const Error& error) {
 
 Conversion convertPicture(PictureService& service, const QByteArray& source, const QUrl& fileURL,
                           const ConversionOptions& options, const CancelToken& cancel) {
+  const UTType type = identifyType(source, fileURL.fileName());
+  if (const auto kind = pictureKindOfInput(source, type); !kind) return failed(kind.error());
   PictureSource picture;
   picture.bytes = source;
   picture.fileURL = fileURL;
-  picture.typeIdentifier = identifyType(source, fileURL.fileName()).identifier();
+  picture.typeIdentifier = type.identifier();
   picture.page = options.page.value_or(1) - 1;
   const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits, cancel);
   if (!loaded) return failed(loaded.error());
@@ -82,6 +92,7 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   conversion.bytes = encodedPicture(encoder, options.format);
   conversion.size = conversion.bytes.size();
   conversion.report = encoder.report();
+  conversion.report.warnings = warningsOf(*imageRep) + conversion.report.warnings;
   if (conversion.bytes.isEmpty() && !conversion.report.error) {
     conversion.report.error =
         Error{ErrorKind::Unsupported,

@@ -51,8 +51,8 @@ Conversion convertFile(PictureService& service, const ConvertTask& task, const C
 
   const QUrl url = isInput ? QUrl() : QUrl::fromLocalFile(QFileInfo(task.file).absoluteFilePath());
   Conversion conversion = convertPicture(service, *bytes, url, plan.options, cancel);
-  if (conversion.report.error || task.output == QLatin1String("-")) return conversion;
   if (cancel.cancelled()) return interrupted();
+  if (conversion.report.error || task.output == QLatin1String("-")) return conversion;
   const auto written =
       writeFileAtomically(task.output, conversion.bytes, plan.force ? IfExists::Replace : IfExists::Fail);
   if (!written) {

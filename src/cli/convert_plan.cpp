@@ -26,8 +26,8 @@ class ValueReader {
     if (good && std::isfinite(value) && value >= least && value <= most) return value;
     complain(QStringLiteral("--%1 is a number from %2 to %3")
                  .arg(QLatin1String(rowOf(option).name))
-                 .arg(least)
-                 .arg(most));
+                 .arg(least, 0, 'f', 0)
+                 .arg(most, 0, 'f', 0));
     return fallback;
   }
 

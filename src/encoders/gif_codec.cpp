@@ -30,49 +30,71 @@ struct Indexed {
   int transparent = -1;
 };
 
-/// Colours as they look without their transparency, opaque or not at all.
-std::vector<uchar> straightPixels(const NSBitmapImageRep& raster) {
-  std::vector<uchar> rgba(size_t(raster.pixelsWide) * size_t(raster.pixelsHigh) * 4);
-  uchar* to = rgba.data();
+/// Colours as they look without their transparency, all of them opaque.
+struct Pixels {
+  std::vector<uchar> rgba;
+  std::vector<uchar> seen;  ///< for each pixel 255, or 0 where the picture is transparent
+  bool transparency = false;
+};
+
+/// What is not seen gets the colour of its neighbour, so that it asks for no colour of its own and leaves the
+/// dithering of what is seen alone.
+Pixels pixelsOf(const NSBitmapImageRep& raster) {
+  const size_t count = size_t(raster.pixelsWide) * size_t(raster.pixelsHigh);
+  Pixels pixels{std::vector<uchar>(count * 4, 255), std::vector<uchar>(count, 255), false};
+  uchar* to = pixels.rgba.data();
+  uchar* seen = pixels.seen.data();
+  std::array<uchar, 3> colour{};
   for (int y = 0; y < raster.pixelsHigh; ++y) {
     const auto* from =
         reinterpret_cast<const uchar*>(raster.data.constData()) + qsizetype(y) * raster.bytesPerRow;
-    for (int x = 0; x < raster.pixelsWide; ++x, from += raster.samplesPerPixel, to += 4) {
+    for (int x = 0; x < raster.pixelsWide; ++x, from += raster.samplesPerPixel, to += 4, ++seen) {
       const int alpha = raster.hasAlpha ? from[3] : 255;
-      if (alpha < opaqueFrom) continue;  // all 0
-      for (int i = 0; i < 3; ++i)
-        to[i] = static_cast<uchar>(std::min(255, (from[i] * 255 + alpha / 2) / alpha));
-      to[3] = 255;
+      if (alpha < opaqueFrom) {
+        *seen = 0;
+        pixels.transparency = true;
+      } else {
+        for (size_t i = 0; i < 3; ++i)
+          colour[i] = static_cast<uchar>(std::min(255, (from[i] * 255 + alpha / 2) / alpha));
+      }
+      std::copy(colour.begin(), colour.end(), to);
     }
   }
-  return rgba;
+  return pixels;
 }
 
+/// The transparent pixels are not left to the quantiser, which would average them with others: they get an index of
+/// their own.
 Indexed quantise(const NSBitmapImageRep& raster) {
-  const std::vector<uchar> rgba = straightPixels(raster);
-  const bool transparency =
-      raster.hasAlpha &&
-      std::any_of(rgba.begin(), rgba.end(), [i = 0](uchar v) mutable { return (i++ & 3) == 3 && v == 0; });
+  const Pixels pixels = pixelsOf(raster);
   std::unique_ptr<liq_attr, AttrDeleter> attr(liq_attr_create());
   if (!attr) return {};
-  liq_set_max_colors(attr.get(), 256);
+  liq_set_max_colors(attr.get(), pixels.transparency ? 255 : 256);
   std::unique_ptr<liq_image, ImageDeleter> image(
-      liq_image_create_rgba(attr.get(), rgba.data(), raster.pixelsWide, raster.pixelsHigh, 0));
+      liq_image_create_rgba(attr.get(), pixels.rgba.data(), raster.pixelsWide, raster.pixelsHigh, 0));
+  if (!image) return {};
+  std::vector<uchar> importance = pixels.seen;
+  if (pixels.transparency)
+    liq_image_set_importance_map(image.get(), importance.data(), importance.size(), LIQ_COPY_PIXELS);
   liq_result* raw = nullptr;
-  if (!image || liq_image_quantize(image.get(), attr.get(), &raw) != LIQ_OK) return {};
+  if (liq_image_quantize(image.get(), attr.get(), &raw) != LIQ_OK) return {};
   std::unique_ptr<liq_result, ResultDeleter> result(raw);
   liq_set_dithering_level(result.get(), 1.0F);
 
   Indexed out;
-  out.indices.resize(size_t(raster.pixelsWide) * size_t(raster.pixelsHigh));
+  out.indices.resize(pixels.seen.size());
   if (liq_write_remapped_image(result.get(), image.get(), out.indices.data(), out.indices.size()) != LIQ_OK)
     return {};
   const liq_palette* palette = liq_get_palette(result.get());
   for (unsigned i = 0; i < palette->count; ++i) {
     const liq_color& c = palette->entries[i];
-    if (transparency && c.a < opaqueFrom) out.transparent = static_cast<int>(i);
     out.palette.insert(out.palette.end(), {c.r, c.g, c.b});
   }
+  if (!pixels.transparency) return out;
+  out.transparent = static_cast<int>(palette->count);
+  out.palette.insert(out.palette.end(), {255, 255, 255});
+  for (size_t i = 0; i < pixels.seen.size(); ++i)
+    if (pixels.seen[i] == 0) out.indices[i] = static_cast<uchar>(out.transparent);
   return out;
 }
 

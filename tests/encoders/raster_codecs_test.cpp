@@ -128,6 +128,36 @@ class RasterCodecsTest : public QObject {
              qPrintable(pixels));
     QVERIFY2(pixels.contains(QStringLiteral(",0)")), qPrintable(pixels));
   }
+  void softEdgesInAGifAreEitherSeenOrNot() {
+    // Many colours that fade into transparency: none of them is mixed with what is not seen.
+    QImage image(120, 90, QImage::Format_ARGB32);
+    for (int y = 0; y < 90; ++y)
+      for (int x = 0; x < 120; ++x) image.setPixelColor(x, y, QColor(40 + x, 200 - y, (x * 7) % 256, (x * 2 + y) % 256));
+    const QByteArray bytes =
+        encodeGif(NSBitmapImageRep::fromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied)), {});
+    const QImage read = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(read.size(), image.size());
+    double sum = 0;
+    int seen = 0;
+    for (int y = 0; y < 90; ++y) {
+      for (int x = 0; x < 120; ++x) {
+        const QColor before = image.pixelColor(x, y), after = read.pixelColor(x, y);
+        QCOMPARE(after.alpha(), before.alpha() >= 128 ? 255 : 0);
+        if (after.alpha() == 0) continue;
+        ++seen;
+        sum += std::abs(before.red() - after.red()) + std::abs(before.green() - after.green()) +
+               std::abs(before.blue() - after.blue());
+      }
+    }
+    QVERIFY2(sum / seen / 3 < 8, qPrintable(QString::number(sum / seen / 3)));
+  }
+  void aGifOfNothingIsTransparent() {
+    QImage image(20, 10, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    const QImage read = QImage::fromData(encodeGif(NSBitmapImageRep::fromImage(image), {}));
+    QCOMPARE(read.size(), image.size());
+    QCOMPARE(read.pixelColor(7, 7).alpha(), 0);
+  }
   void aGifOfThousandsOfColoursHas256() {
     QImage image(200, 200, QImage::Format_RGB32);
     for (int y = 0; y < 200; ++y) {

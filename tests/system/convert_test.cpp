@@ -109,6 +109,17 @@ class ConvertSystemTest : public QObject {
     }
   }
 
+  void aTransparentPictureHasNoEdgeAsEps() {
+    // Without its transparency it would be black: nothing of that may show, not even a line.
+    const QString svg = write("a.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='80' height='60'>"
+                                       "<g opacity='0.1'><rect width='80' height='60'/></g></svg>");
+    QCOMPARE(kit::norvex({"convert", svg, "-o", path("b.eps")}).exitCode, 0);
+    const QImage drawn = outside::drawnOutside(path("b.eps"), "eps");
+    QCOMPARE(drawn.size(), QSize(60, 45));
+    for (const QPoint& corner : {QPoint(0, 0), QPoint(59, 0), QPoint(0, 44), QPoint(59, 44), QPoint(30, 20)})
+      QVERIFY2(qGray(drawn.pixel(corner)) > 200, qPrintable(QString::number(corner.x())));
+  }
+
   // ---- metadata -----------------------------------------------------------------------------------------
 
   void anSvgTellsItsTitleAsEps() {

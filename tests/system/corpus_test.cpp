@@ -61,6 +61,12 @@ QString formatOf(const QString& kind) {
 
 class CorpusTest : public QObject {
   Q_OBJECT
+ public:
+  CorpusTest() {
+    // The round trip is no hang, however long it takes.
+    if (qEnvironmentVariableIsSet("NORVEX_ROUND_TRIP")) qputenv("QTEST_FUNCTION_TIMEOUT", "86400000");
+  }
+
  private slots:
   void init() {
     if (kit::corpusFolder().isEmpty()) QSKIP("there is no folder of real files here (NORVEX_CORPUS names one)");

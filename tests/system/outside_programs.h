@@ -45,9 +45,9 @@ inline QString complaintAboutBinaryEps(const QString& path, int seconds = 60) {
   const QTemporaryDir folder;
   const QString tiff = folder.filePath("preview.tiff");
   const QString eps = folder.filePath("program.eps");
-  return firstOf({complaintOf("epstool", {"--quiet", "--extract-preview", path, tiff}, seconds),
+  return firstOf({complaintOf("epstool", {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-preview", path, tiff}, seconds),
                   complaintOf("tiffinfo", {tiff}, seconds),
-                  complaintOf("epstool", {"--quiet", "--extract-postscript", path, eps}, seconds),
+                  complaintOf("epstool", {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-postscript", path, eps}, seconds),
                   complaintAboutPostScript(eps, seconds)});
 }
 
@@ -88,7 +88,7 @@ inline QImage drawnOutside(const QString& path, const QString& format, int secon
                "-dGraphicsAlphaBits=4", "-o", png, path}, {}, seconds);
   } else if (format == "eps-preview") {
     const QString eps = folder.filePath("program.eps");
-    run("epstool", {"--quiet", "--extract-postscript", path, eps}, {}, seconds);
+    run("epstool", {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-postscript", path, eps}, {}, seconds);
     return drawnOutside(eps, "eps", seconds);
   } else if (format == "pdf") {
     run("pdftocairo", {"-png", "-r", "72", "-singlefile", "-cropbox", path, png.chopped(4)}, {}, seconds);

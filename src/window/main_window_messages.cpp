@@ -62,8 +62,10 @@ void MainWindowController::stopWork() {
     return;
   }
   if (copying_) return stopCopying();
-  loadingCard_->end();
+  // A rendering that is cancelled tells nothing by itself, and the next one may never be asked for.
   if (process_) process_->stop();
+  showProblem({ErrorKind::TimedOut, localizedString("The drawing was stopped")});
+  loadingCard_->end();
 }
 
 void MainWindowController::messageActionChosen() {

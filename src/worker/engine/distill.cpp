@@ -13,8 +13,11 @@
 namespace norvex::engine {
 namespace {
 
+constexpr qsizetype kMaximumSubstitutions = 20;  // that are told
+
+// Not quiet: what it says about fonts is handed on.
 QList<QByteArray> distillerArguments() {
-  return {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-q", "-sDEVICE=pdfwrite", "-sstdout=%stderr",
+  return {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-sDEVICE=pdfwrite", "-sstdout=%stderr",
           // Nothing that the comments say may turn the page or name the document.
           "-dParseDSCComments=false", "-dParseDSCCommentsForDocInfo=false", "-dPreserveEPSInfo=false",
           "-dAutoRotatePages=/None", "-dCompatibilityLevel=1.7",
@@ -86,6 +89,20 @@ Error unexplained(const GhostscriptOutput& run) {
   return {ErrorKind::NotParsable, QStringLiteral("PostScript error: %1").arg(words)};
 }
 
+// The fonts that were neither in the document nor on this machine.
+QStringList substitutions(const QByteArray& messages) {
+  static const QRegularExpression line(QStringLiteral("Substituting font (\\S{1,100}) for (\\S{1,100})\\.\\s"));
+  QStringList warnings;
+  for (auto match = line.globalMatch(QString::fromLatin1(messages)); match.hasNext();) {
+    const QRegularExpressionMatch font = match.next();
+    const QString warning =
+        QStringLiteral("the font %1 is missing, %2 stands in for it").arg(font.captured(2), font.captured(1));
+    if (!warnings.contains(warning)) warnings << warning;
+    if (warnings.size() == kMaximumSubstitutions) break;
+  }
+  return warnings;
+}
+
 // gs rounds the page to what its device can set and may have written a blank page behind the picture's.
 Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box) {
   Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
@@ -121,7 +138,7 @@ Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, Engin
   if (run->exitStatus != 0 || !run->output.startsWith("%PDF-")) return unexplained(*run);
   Result<QByteArray> pdf = firstPage(run->output, box);
   if (!pdf) return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript draws no page")};
-  Distilled distilled{std::move(*pdf), {}};
+  Distilled distilled{std::move(*pdf), substitutions(run->messages)};
   if (stopped) distilled.warnings << QStringLiteral("what follows the picture in the file was left out");
   return distilled;
 }

@@ -10,6 +10,9 @@
 namespace norvex::engine {
 namespace {
 
+// Of the images: beyond this zlib spends much time on little.
+constexpr int kImageCompression = 6;
+
 // The page leaves operands behind now and then. Whoever places the file on a page finds the stacks as they were.
 const QByteArray kOpening =
     "3 dict begin /NorvexDictionaries countdictstack def count /NorvexOperands exch def /NorvexState save def\n";
@@ -38,7 +41,20 @@ QByteArray rectangle(const QRectF& rect) {
   return decimal(rect.x()) + ' ' + decimal(rect.y()) + ' ' + decimal(rect.width()) + ' ' + decimal(rect.height());
 }
 
-// Everything but the images' places. The images reach a little over the edge of the hole, so that no seam shows.
+// What is left to an image. The image reaches a little over the edge of the hole, so that no seam shows; but nothing
+// joins it at the edge of the page.
+QRectF holeFor(const EpsImage& image, QSizeF size) {
+  const QRectF& rect = image.rect;
+  const double inset = 0.5 * rect.width() / std::max(1, image.image.width());
+  QRectF hole = rect.adjusted(inset, inset, -inset, -inset);
+  if (rect.left() <= 0) hole.setLeft(-1);
+  if (rect.top() <= 0) hole.setTop(-1);
+  if (rect.right() >= size.width()) hole.setRight(size.width() + 1);
+  if (rect.bottom() >= size.height()) hole.setBottom(size.height() + 1);
+  return hole;
+}
+
+// Everything but the images' places.
 QByteArray clipAround(QSizeF size, const QList<EpsImage>& images) {
   const auto corners = [](const QRectF& r) {
     const QByteArray w = decimal(r.width());
@@ -47,8 +63,7 @@ QByteArray clipAround(QSizeF size, const QList<EpsImage>& images) {
   };
   QByteArray path = "newpath\n" + corners(QRectF(-1, -1, size.width() + 2, size.height() + 2));
   for (const EpsImage& image : images) {
-    const double inset = 0.5 * image.rect.width() / std::max(1, image.image.width());
-    const QRectF hole = image.rect.adjusted(inset, inset, -inset, -inset);
+    const QRectF hole = holeFor(image, size);
     if (hole.width() > 0 && hole.height() > 0) path += corners(hole);
   }
   return path + "eoclip newpath\n";
@@ -94,7 +109,7 @@ QByteArray imageText(const EpsImage& part) {
   return "gsave\n" + decimal(part.rect.x()) + ' ' + decimal(part.rect.y()) + " translate " +
          decimal(part.rect.width()) + ' ' + decimal(part.rect.height()) +
          " scale\n{ 1 dict begin /D currentfile /ASCII85Decode filter def /DeviceRGB setcolorspace\n" + dictionary +
-         " image D flushfile end } exec\n" + ascii85(qCompress(samples.bytes, 9).mid(4)) + "\ngrestore\n";
+         " image D flushfile end } exec\n" + ascii85(qCompress(samples.bytes, kImageCompression).mid(4)) + "\ngrestore\n";
 }
 
 }  // namespace

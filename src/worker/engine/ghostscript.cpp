@@ -199,8 +199,11 @@ Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadl
       return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript cannot be talked to")};
     if (watched[0].revents != 0 && !feed.writeTo(input_)) closeDescriptor(input_);
     if (watched[1].revents != 0 && !readInto(output_, collected.output, maximum)) closeDescriptor(output_);
-    if (watched[2].revents != 0 && !readInto(messages_, collected.messages, kMaximumMessages))
+    if (watched[2].revents != 0 && !readInto(messages_, collected.messages, 2 * kMaximumMessages))
       closeDescriptor(messages_);
+    // A document may print as much as it likes; how it ended comes last.
+    if (collected.messages.size() > kMaximumMessages)
+      collected.messages.remove(0, collected.messages.size() - kMaximumMessages);
     if (collected.output.size() >= maximum)
       return Error{ErrorKind::Limit, QStringLiteral("the picture is larger than the memory that it was granted")};
   }

@@ -13,7 +13,7 @@ namespace norvex::engine {
 
 struct GhostscriptOutput {
   QByteArray output;    ///< what came on standard output
-  QByteArray messages;  ///< what came on standard error, at most its first 64 KiB
+  QByteArray messages;  ///< what came on standard error, at most its last 64 KiB
   int exitStatus = 0;
 };
 

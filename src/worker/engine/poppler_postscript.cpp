@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -36,6 +37,7 @@ std::optional<QByteArray> between(const QByteArray& text, const QByteArray& begi
 
 // Comments that would be taken for this file's own, or that speak for somebody else's.
 bool isForeignComment(QByteArrayView line) {
+  if (!line.startsWith('%')) return false;
   for (const char* keyword :
        {"%%Title", "%%Creator", "%%CreationDate", "%%For:", "%%Copyright", "%%Version", "%%BoundingBox",
         "%%HiResBoundingBox", "%%EndComments", "%%Routing", "%%BeginResource", "%%EndResource", "%%EOF", "%!PS", "%!FontType"})
@@ -48,16 +50,19 @@ bool isForPrinters(QByteArrayView line) {
   return line.endsWith("pdfSetup") || line.endsWith("pdfSetupPaper") || line == QByteArrayView("{} settransfer");
 }
 
-QByteArray sevenBit(QByteArrayView line) {
-  QByteArray result;
-  for (const char c : line) {
-    const auto byte = quint8(c);
-    if (byte < 0x80)
-      result += c;
-    else
-      result += '\\' + QByteArray::number(byte, 8);
+// Pages are large: a line is copied once, and looked at byte by byte only when it has to be.
+void appendSevenBit(QByteArray& result, QByteArrayView line) {
+  const auto isHigh = [](char c) { return quint8(c) >= 0x80; };
+  if (std::none_of(line.begin(), line.end(), isHigh)) {
+    result.append(line);
+    return;
   }
-  return result;
+  for (const char c : line) {
+    if (isHigh(c))
+      result += '\\' + QByteArray::number(quint8(c), 8);
+    else
+      result += c;
+  }
 }
 
 QByteArray cleaned(const QByteArray& text) {
@@ -70,9 +75,12 @@ QByteArray cleaned(const QByteArray& text) {
     const QByteArrayView line = QByteArrayView(text).sliced(start, end - start);
     start = end + 1;
     if (isForeignComment(line) || isForPrinters(line)) continue;
-    QByteArray kept = sevenBit(line);
-    if (kept.startsWith('(')) kept.replace("%%Copyright:", "%\\045Copyright:");  // shown text that says so
-    result += kept + '\n';
+    if (line.startsWith('(') && line.contains("%%Copyright:")) {  // shown text that says so
+      appendSevenBit(result, line.toByteArray().replace("%%Copyright:", "%\\045Copyright:"));
+    } else {
+      appendSevenBit(result, line);
+    }
+    result += '\n';
   }
   return result;
 }

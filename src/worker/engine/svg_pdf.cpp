@@ -36,11 +36,26 @@ double drawingScale(const QSizeF& pixels, bool hasImageEffects) {
   return std::min(fine, std::sqrt(kEffectPixels / area));
 }
 
+/// The page as a form. cairo's contents are one stream: it becomes the form as it is, without being unpacked and packed
+/// again.
+QPDFObjectHandle formOf(QPDFPageObjectHelper& page) {
+  QPDFObjectHandle contents = page.getObjectHandle().getKey("/Contents");
+  if (!contents.isStream()) return page.getFormXObjectForPage();
+  QPDFObjectHandle form = contents.getDict();
+  form.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+  form.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
+  form.replaceKey("/BBox", page.getMediaBox());
+  form.replaceKey("/Resources", page.getAttribute("/Resources", false));
+  if (QPDFObjectHandle group = page.getAttribute("/Group", false); group.isDictionary())
+    form.replaceKey("/Group", group);
+  return contents;
+}
+
 /// The drawing becomes a form on a page of the right size: unlike a scaled page, a form takes its patterns with it.
 /// cairo's document information, which holds the time of day, is dropped.
 void fitPage(QPDF& document, double width, double height, double scale) {
   QPDFPageObjectHelper page(document.getAllPages().at(0));
-  const QPDFObjectHandle drawing = page.getFormXObjectForPage();
+  const QPDFObjectHandle drawing = formOf(page);
   const std::string small = QByteArray::number(1 / scale, 'f', 9).toStdString();
   QPDFObjectHandle objects = QPDFObjectHandle::newDictionary();
   objects.replaceKey("/Drawing", drawing);

@@ -198,6 +198,21 @@ class EpsEngineTest : public QObject {
     QVERIFY(opened->facts().ok());  // the document stays usable
   }
 
+  void anErrorIsFoundBehindAllThatADocumentPrints() {
+    Opened opened(eps("20000 { (0123456789) print } repeat nosuchoperator\n"));
+    const auto pdf = opened->pdf({});
+    QVERIFY(!pdf);
+    QCOMPARE(pdf.error().message, QStringLiteral("PostScript error: undefined in nosuchoperator"));
+  }
+
+  void aFontThatIsMissingIsTold() {
+    Opened opened(eps("/NoSuchFont findfont 12 scalefont setfont 5 5 moveto (hello) show\n"
+                      "/Helvetica findfont 12 scalefont setfont 5 20 moveto (hello) show showpage\n"));
+    const auto pdf = opened->pdf({});
+    QVERIFY(pdf);
+    QCOMPARE(pdf->report.warnings, QStringList{"the font NoSuchFont is missing, Courier stands in for it"});
+  }
+
   void anErrorBehindThePictureIsAWarning() {
     Opened opened(eps(kBody + "showpage\n%%EOF\nGarbage that is no PostScript\n"));
     QVERIFY(showsBody(opened.image()));

@@ -15,6 +15,7 @@
 #include "platform/save_panel.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_reading.h"
+#include "window/print_commands.h"
 #include "window/stoppable_process.h"
 
 namespace norvex {
@@ -22,6 +23,7 @@ namespace norvex {
 MainWindowController::MainWindowController() = default;
 
 MainWindowController::~MainWindowController() {
+  printCommands_.reset();
   if (view()) view()->setDelegate(nullptr);
   stopReading();
   if (copying_) copying_->cancel();
@@ -55,6 +57,7 @@ void MainWindowController::loadWindow() {
   scrollArea_->addCard(loadingCard_, Qt::BottomEdge);
   connectControls();
   connectCommands();
+  connectPrinting();
   restoreFrame();
 }
 

@@ -41,6 +41,7 @@ class NorvexViewWidget;
 class NSPasteboard;
 class NSPasteboardItem;
 class NSSavePanel;
+class PrintCommands;
 class SelectionCommands;
 class ZoomingScrollArea;
 
@@ -128,6 +129,15 @@ class MainWindowController final : public QObject,
   [[nodiscard]] QList<UTType> writableTypes() const;
 
 
+  // ---- printing -----------------------------------------------------------------------------------------------------
+  /// Prints the selected rectangle, or the visible one without a selection, as it is turned.
+  void doPrinting(QObject* sender = nullptr);
+  /// Prints the whole picture as it is turned: the document's own printing.
+  void printDocument(QObject* sender = nullptr);
+  /// Another print service or other panels than the platform's; not owned. What is null stays the platform's.
+  void setPrintServices(const PrintServices& services);
+  [[nodiscard]] NorvexView* imageView() override { return view(); }
+
   // NorvexViewDelegate
   [[nodiscard]] bool dialKnobClockwise() const override;
   void norvexView(NorvexView& view, const QString& selectedRangeStrings, const QString& end,
@@ -202,6 +212,9 @@ class MainWindowController final : public QObject,
   void rotateBy(double degrees);
   void showAbout();
   void toggleFullScreen(bool on);
+  // main_window_print.cpp
+  void setUpPrinting();
+  void connectPrinting();
   // main_window_sizing.cpp
   [[nodiscard]] WindowMeasures windowMeasures() const;
   void settleLayout() const;
@@ -263,6 +276,9 @@ class MainWindowController final : public QObject,
   std::optional<CancelToken> copying_;  ///< of the copy under way
   int writing_ = 0;                     ///< files that are being written
   QMetaObject::Connection svgObservation_;
+  PrintServices printServices_;
+  std::unique_ptr<PrintInteraction> ownPrintInteraction_;
+  std::unique_ptr<PrintCommands> printCommands_;  ///< ends before the interaction that it tells
 };
 
 }  // namespace norvex

@@ -1,0 +1,68 @@
+#include "platform/qt/page_layout_sheet.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "platform/localized_string.h"
+#include "platform/print/pagination.h"
+#include "platform/print/print_operation.h"
+#include "platform/qt/page_layout_controls.h"
+#include "platform/qt/page_layout_preview.h"
+#include "platform/qt/zy_page_layout_accessory.h"
+
+namespace norvex {
+namespace {
+
+/// Stands for a picture: the sheet belongs to the document, not to what will be printed of it.
+const QSizeF kSample(320, 240);
+
+}  // namespace
+
+PageLayoutSheet::PageLayoutSheet(const NSPrintInfo& info, QWidget* window)
+    : QDialog(window),
+      info_(info),
+      controls_(new PageLayoutControls(NSPrintPanelShowsPaperSize | NSPrintPanelShowsOrientation | NSPrintPanelShowsScaling)),
+      preview_(new PageLayoutPreview),
+      column_(new QVBoxLayout) {
+  setWindowTitle(localizedString("Page Setup"));
+  setWindowModality(Qt::WindowModal);
+  auto* box = new QVBoxLayout(this);
+  auto* halves = new QHBoxLayout;
+  halves->addWidget(preview_, 1);
+  halves->addLayout(column_);
+  box->addLayout(halves, 1);
+  column_->addWidget(controls_);
+  column_->addStretch(1);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+  box->addWidget(buttons);
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(controls_, &PageLayoutControls::changed, this, &PageLayoutSheet::takeChoices);
+  controls_->setPrintInfo(info_);
+  showPage();
+}
+
+void PageLayoutSheet::addAccessoryController(ZyPageLayoutAccessory* accessory) {
+  accessories_ << accessory;
+  column_->insertWidget(column_->count() - 1, accessory);
+  accessory->setPrintInfo(info_);
+  connect(accessory, &ZyPageLayoutAccessory::changed, this, &PageLayoutSheet::takeChoices);
+}
+
+void PageLayoutSheet::takeChoices() {
+  controls_->applyTo(info_);
+  for (const ZyPageLayoutAccessory* accessory : accessories_) accessory->applyTo(info_);
+  showPage();
+}
+
+void PageLayoutSheet::showPage() {
+  const bool lines = info_.printsHeaderAndFooter();
+  const Result<Pagination> pages = paginate(kSample, info_, lines, lines);
+  if (pages) return preview_->setPage(*pages, 1);
+  preview_->setProblem(localizedString("The margins leave no room on the paper."));
+}
+
+}  // namespace norvex

@@ -1,9 +1,13 @@
 #include "platform/qt/fact_field.h"
 
+#include <QAction>
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 #include "platform/qt/quiet_text.h"
+#include "platform/qt/value_copying.h"
 
 namespace norvex {
 
@@ -12,15 +16,23 @@ FactField::FactField(QWidget* parent) : QLineEdit(parent) {
   setFrame(false);
   setStyleSheet(QStringLiteral("QLineEdit { background: transparent; padding: 0; border: none; }"));
   setMinimumWidth(40);
+  makeValueCopyable(*this);
 }
 
 void FactField::paintEvent(QPaintEvent* event) {
-  const bool fits = fontMetrics().horizontalAdvance(text()) <= width() - 4;
+  const int room = width() - 4 - roomOfButtons();
+  const bool fits = fontMetrics().horizontalAdvance(text()) <= room;
   if (!text().isEmpty() && (fits || hasFocus())) return QLineEdit::paintEvent(event);
   QPainter painter(this);
   painter.setPen(text().isEmpty() ? quietTextColor(palette()) : palette().color(QPalette::Text));
-  const QString shown = text().isEmpty() ? QStringLiteral("\u2013") : fontMetrics().elidedText(text(), Qt::ElideRight, width() - 4);
+  const QString shown = text().isEmpty() ? QStringLiteral("\u2013") : fontMetrics().elidedText(text(), Qt::ElideRight, room);
   painter.drawText(rect().adjusted(2, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+}
+
+int FactField::roomOfButtons() const {
+  const QList<QAction*> all = actions();
+  const bool shown = std::any_of(all.cbegin(), all.cend(), [](const QAction* action) { return action->isVisible(); });
+  return shown ? height() : 0;  // the buttons in a line edit are as wide as it is high
 }
 
 }  // namespace norvex

@@ -5,7 +5,7 @@
 
 namespace norvex {
 
-/// Not editable and without a frame. A text that is too long ends with an ellipsis until the field has the focus; a
+/// Not editable and without a frame. Its value can be copied without selecting it. A text that is too long ends with an ellipsis until the field has the focus; a
 /// dash stands for no text. Main thread.
 class FactField final : public QLineEdit {
   Q_OBJECT
@@ -14,6 +14,9 @@ class FactField final : public QLineEdit {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  [[nodiscard]] int roomOfButtons() const;
 };
 
 }  // namespace norvex

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "platform/localized_string.h"
+#include "platform/qt/value_copying.h"
 
 namespace norvex {
 
@@ -35,6 +36,7 @@ NumberMatrix::NumberMatrix(QWidget* parent) : QWidget(parent) {
       cell->setStyleSheet(QStringLiteral("QLineEdit { background: transparent; color: black; border: none; }"));
       cell->setAccessibleName(localizedString(kNames[row][column]));
       cell->setMinimumWidth(48);
+      makeValueCopyable(*cell);
       grid->addWidget(title, row, 2 * column);
       grid->addWidget(cell, row, 2 * column + 1);
       cells_[static_cast<size_t>(row)][static_cast<size_t>(column)] = cell;

@@ -1,78 +1,26 @@
 #include "platform/qt/source_text_view.h"
 
 #include <QFontDatabase>
-#include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QShortcut>
-#include <QToolButton>
 #include <QVBoxLayout>
 
-#include "platform/localized_string.h"
+#include "platform/qt/source_find_bar.h"
+#include "platform/qt/source_text_edit.h"
 
 namespace norvex {
 
-namespace {
-
-QToolButton* barButton(QWidget* bar, const QString& sign, const QString& name) {
-  auto* button = new QToolButton(bar);
-  button->setText(sign);
-  button->setAutoRaise(true);
-  button->setAccessibleName(name);
-  button->setToolTip(name);
-  return button;
-}
-
-}  // namespace
-
 SourceTextView::SourceTextView(QWidget* parent)
-    : QWidget(parent), bar_(new QWidget(this)), needle_(new QLineEdit(bar_)), outcome_(new QLabel(bar_)),
-      edit_(new QPlainTextEdit(this)) {
+    : QWidget(parent), bar_(new SourceFindBar(this)), edit_(new SourceTextEdit(this)) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(bar_);
   column->addWidget(edit_, 1);
-  edit_->setReadOnly(true);
-  edit_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  edit_->setUndoRedoEnabled(false);
-  edit_->setFrameShape(QFrame::NoFrame);
-  edit_->setTabChangesFocus(true);
   setFocusProxy(edit_);
-  buildFindBar();
-}
-
-void SourceTextView::buildFindBar() {
-  auto* row = new QHBoxLayout(bar_);
-  row->setContentsMargins(8, 6, 6, 6);
-  row->setSpacing(4);
-  needle_->setPlaceholderText(localizedString("Find"));
-  needle_->setAccessibleName(localizedString("Find"));
-  needle_->setClearButtonEnabled(true);
-  auto* previous = barButton(bar_, QStringLiteral("\u2039"), localizedString("Previous"));
-  auto* next = barButton(bar_, QStringLiteral("\u203A"), localizedString("Next"));
-  auto* close = barButton(bar_, QStringLiteral("\u2715"), localizedString("Close the find bar"));
-  row->addWidget(needle_, 1);
-  row->addWidget(outcome_);
-  row->addWidget(previous);
-  row->addWidget(next);
-  row->addWidget(close);
   bar_->hide();
-  connect(needle_, &QLineEdit::returnPressed, this,
-          [this] { findNext(QGuiApplication::keyboardModifiers() & Qt::ShiftModifier); });
-  connect(needle_, &QLineEdit::textChanged, outcome_, &QLabel::clear);
-  connect(previous, &QToolButton::clicked, this, [this] { findNext(true); });
-  connect(next, &QToolButton::clicked, this, [this] { findNext(); });
-  connect(close, &QToolButton::clicked, this, &SourceTextView::hideFindBar);
-  const auto shortcut = [this](const QKeySequence& keys, auto slot) {
-    connect(new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut), &QShortcut::activated, this, slot);
-  };
-  shortcut(QKeySequence::Find, [this] { showFindBar(); });
-  shortcut(Qt::Key_F3, [this] { findNext(); });
-  shortcut(Qt::SHIFT | Qt::Key_F3, [this] { findNext(true); });
+  connect(bar_, &SourceFindBar::needleChanged, this, &SourceTextView::lookFor);
+  connect(bar_, &SourceFindBar::wanted, this, &SourceTextView::findNext);
+  connect(bar_, &SourceFindBar::closed, this, &SourceTextView::hideFindBar);
 }
 
 void SourceTextView::nameText() {
@@ -82,10 +30,12 @@ void SourceTextView::nameText() {
 
 void SourceTextView::setString(const QString& text) {
   nameText();
-  edit_->setPlainText(text);
+  if (bar_->isVisibleTo(this)) hideFindBar();
+  matches_ = {};
+  edit_->setSource(text);
 }
 
-QString SourceTextView::string() const { return edit_->toPlainText(); }
+QString SourceTextView::string() const { return edit_->source(); }
 
 void SourceTextView::setFixedPitchFont(double pointSize) {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -93,41 +43,70 @@ void SourceTextView::setFixedPitchFont(double pointSize) {
   edit_->setFont(font);
 }
 
-void SourceTextView::setLineWrapping(bool wrap) {
-  edit_->setLineWrapMode(wrap ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
-}
+void SourceTextView::setLineWrapping(bool wrap) { edit_->setCode(!wrap); }
 
 void SourceTextView::showFindBar() {
   const QString selected = edit_->textCursor().selectedText();
-  if (!selected.isEmpty() && !selected.contains(QChar::ParagraphSeparator)) needle_->setText(selected);
+  if (!selected.isEmpty() && !selected.contains(QChar::ParagraphSeparator)) bar_->setNeedle(selected);
   bar_->show();
-  needle_->setFocus(Qt::ShortcutFocusReason);
-  needle_->selectAll();
+  bar_->begin();
+  lookFor(bar_->needle());
 }
 
 void SourceTextView::hideFindBar() {
+  const bool typing = bar_->isAncestorOf(focusWidget());
   bar_->hide();
-  edit_->setFocus(Qt::OtherFocusReason);
+  edit_->setMatches({});
+  if (typing) edit_->setFocus(Qt::OtherFocusReason);
+}
+
+void SourceTextView::lookFor(const QString& needle) {
+  matches_ = SourceMatches(edit_->source(), needle);
+  edit_->setMatches(matches_);
+  if (const auto index = matches_.at(edit_->selectionStart())) select(*index);
+  else bar_->showOutcome(0, 0);
+}
+
+void SourceTextView::select(qsizetype index) {
+  edit_->selectSource(matches_.starts().at(index), matches_.length());
+  bar_->showOutcome(index, matches_.count());
 }
 
 bool SourceTextView::findNext(bool backward) {
-  const QString wanted = needle_->text();
-  if (wanted.isEmpty()) return false;
-  const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-  bool found = edit_->find(wanted, flags);
-  if (!found) {
-    const QTextCursor before = edit_->textCursor();
-    edit_->moveCursor(backward ? QTextCursor::End : QTextCursor::Start);
-    found = edit_->find(wanted, flags);
-    if (!found) edit_->setTextCursor(before);
+  if (bar_->needle().isEmpty()) {
+    showFindBar();
+    return false;
   }
-  outcome_->setText(found ? QString() : localizedString("Not found"));
-  return found;
+  if (matches_.length() == 0) {
+    matches_ = SourceMatches(edit_->source(), bar_->needle());  // of another text than was searched last
+    if (bar_->isVisible()) edit_->setMatches(matches_);
+  }
+  const qsizetype here = edit_->selectionStart();
+  const auto index = backward ? matches_.before(here) : edit_->textCursor().hasSelection() ? matches_.after(here) : matches_.at(here);
+  if (index) select(*index);
+  else bar_->showOutcome(0, 0);
+  return index.has_value();
+}
+
+bool SourceTextView::isOurs(const QKeyEvent& event) const {
+  if (event.key() == Qt::Key_Escape) return bar_->isVisible() && event.modifiers() == Qt::NoModifier;
+  return event.matches(QKeySequence::Find) || event.key() == Qt::Key_F3;
+}
+
+bool SourceTextView::event(QEvent* event) {
+  // The window's commands have these keys too; while the text has the keyboard they are about the text.
+  if (event->type() == QEvent::ShortcutOverride && isOurs(*static_cast<QKeyEvent*>(event))) {
+    event->accept();
+    return true;
+  }
+  return QWidget::event(event);
 }
 
 void SourceTextView::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && bar_->isVisible()) return hideFindBar();
-  QWidget::keyPressEvent(event);
+  if (!isOurs(*event)) return QWidget::keyPressEvent(event);
+  if (event->key() == Qt::Key_Escape) hideFindBar();
+  else if (event->key() == Qt::Key_F3) findNext(event->modifiers() & Qt::ShiftModifier);
+  else showFindBar();
 }
 
 void SourceTextView::changeEvent(QEvent* event) {

@@ -90,6 +90,26 @@ QPainterPath saveTo() {
   return path;
 }
 
+/// A page with a folded corner, and a pencil across its lower edge.
+QPainterPath saveAs() {
+  QPainterPath path(QPointF(10.5, 19.5));
+  path.lineTo(5, 19.5);
+  path.lineTo(5, 4.5);
+  path.lineTo(12.5, 4.5);
+  path.lineTo(17, 9);
+  path.lineTo(17, 10.5);
+  path.moveTo(12.5, 4.5);
+  path.lineTo(12.5, 9);
+  path.lineTo(17, 9);
+  path.moveTo(13.2, 19.8);
+  path.lineTo(13.7, 17.2);
+  path.lineTo(18.4, 12.5);
+  path.lineTo(20.5, 14.6);
+  path.lineTo(15.8, 19.3);
+  path.closeSubpath();
+  return path;
+}
+
 QPainterPath reload() {
   QPainterPath path;
   path.arcMoveTo(4.5, 4.5, 15, 15, 30);
@@ -117,6 +137,7 @@ QPainterPath outline(Symbol symbol) {
     case Symbol::Copy: return page(8.5, 8.5, 11, 11);
     case Symbol::Print: return printer();
     case Symbol::SaveTo: return saveTo();
+    case Symbol::SaveAs: return saveAs();
     case Symbol::ZoomOut: return lens();
     case Symbol::ZoomIn: {
       QPainterPath path = lens();

@@ -1,0 +1,118 @@
+// A CUPS server of a test's own, on loopback.
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QHostAddress>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <memory>
+
+#include "kit/program.h"
+
+namespace norvex::outside {
+
+/// Serves while it lives. Its folder, port and printers are its own; it knows nothing of the system's printers.
+class PrintServer {
+ public:
+  /// Why there is none; empty when it serves.
+  QString start() {
+    const QString program = QStandardPaths::findExecutable("cupsd", {"/usr/sbin", "/usr/bin", "/sbin"});
+    admin_ = QStandardPaths::findExecutable("lpadmin", {"/usr/sbin", "/usr/bin", "/sbin"});
+    if (program.isEmpty() || admin_.isEmpty()) return QStringLiteral("CUPS's server is not installed");
+    port_ = freePort();
+    for (const char* each : {"state/certs", "cache", "spool/tmp", "out"}) QDir(folder_.path()).mkpath(each);
+    write("cupsd.conf", QStringLiteral("LogLevel warn\nMaxLogSize 0\nListen 127.0.0.1:%1\nBrowsing Off\nDefaultAuthType None\n"
+                                       "WebInterface No\nPreserveJobFiles Yes\nPreserveJobHistory Yes\n"
+                                       "<Location />\nAllow all\n</Location>\n<Location /admin>\nAllow all\n</Location>\n"
+                                       "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n<Limit All>\nAllow all\n"
+                                       "</Limit>\n</Policy>\n")
+                            .arg(port_));
+    QString files = QStringLiteral("FileDevice Yes\nLogFilePerm 0644\nServerRoot %1\nStateDir %1/state\nCacheDir %1/cache\n"
+                                   "RequestRoot %1/spool\nTempDir %1/spool/tmp\nAccessLog %1/access_log\n"
+                                   "ErrorLog %1/error_log\nPageLog %1/page_log\n");
+    write("cups-files.conf", files.arg(folder_.path()));
+    server_.setStandardOutputFile(QProcess::nullDevice());
+    server_.setStandardErrorFile(folder_.filePath("said"));
+    server_.start(program, {"-f", "-c", folder_.filePath("cupsd.conf"), "-s", folder_.filePath("cups-files.conf")});
+    for (int i = 0; i < 200 && server_.state() != QProcess::NotRunning; ++i) {
+      QTcpSocket socket;
+      socket.connectToHost(QHostAddress::LocalHost, port_);
+      if (socket.waitForConnected(100)) return {};
+      QThread::msleep(50);
+      server_.waitForFinished(1);
+    }
+    return QStringLiteral("CUPS's server does not start here");
+  }
+  ~PrintServer() { stop(); }
+
+  void stop() {
+    if (server_.state() == QProcess::NotRunning) return;
+    server_.terminate();
+    if (!server_.waitForFinished(10000)) server_.kill();
+    server_.waitForFinished();
+  }
+
+  /// What makes CUPS's programs and libraries ask this server.
+  [[nodiscard]] QString environment() const { return QStringLiteral("CUPS_SERVER=127.0.0.1:%1").arg(port_); }
+  [[nodiscard]] QString address() const { return environment().section(u'=', 1); }
+
+  /// A queue that takes what it is given as it is.
+  [[nodiscard]] bool addPrinter(const QString& name) {
+    return tell(admin_, {"-p", name, "-E", "-v", "file:" + folder_.filePath("out/" + name)});
+  }
+  [[nodiscard]] bool makeDefault(const QString& name) { return tell(admin_, {"-d", name}); }
+  [[nodiscard]] bool removePrinter(const QString& name) { return tell(admin_, {"-x", name}); }
+  [[nodiscard]] bool refuseJobs(const QString& name) { return tell(tool("cupsreject"), {name}); }
+  [[nodiscard]] bool stopPrinter(const QString& name) { return tell(tool("cupsdisable"), {name}); }
+
+  /// What was handed over for a job, in the order of the jobs.
+  [[nodiscard]] QStringList spooledFiles() const {
+    const QDir spool(folder_.filePath("spool"));
+    QStringList paths;
+    for (const QString& name : spool.entryList({"d?????-001"}, QDir::Files, QDir::Name)) paths << spool.filePath(name);
+    return paths;
+  }
+  /// An attribute of a job as the server tells it; empty when it has none.
+  [[nodiscard]] QString jobAttribute(int job, const QString& name) const {
+    // The job's own record: strings follow their names with two bytes of length.
+    QFile record(folder_.filePath(QStringLiteral("spool/c%1").arg(job, 5, 10, QChar('0'))));
+    if (!record.open(QIODevice::ReadOnly)) return {};
+    const QByteArray bytes = record.readAll();
+    const qsizetype at = bytes.indexOf(name.toLatin1());
+    if (at < 0) return {};
+    const qsizetype value = at + name.size();
+    const int length = (uchar(bytes.at(value)) << 8) | uchar(bytes.at(value + 1));
+    return QString::fromUtf8(bytes.mid(value + 2, length));
+  }
+
+ private:
+  static quint16 freePort() {
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    return server.serverPort();
+  }
+  void write(const QString& name, const QString& text) {
+    QFile file(folder_.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) qFatal("cannot write a configuration");
+  }
+  static QString tool(const char* name) {
+    return QStandardPaths::findExecutable(QString::fromLatin1(name), {"/usr/sbin", "/usr/bin", "/sbin"});
+  }
+  bool tell(const QString& program, const QStringList& arguments) {
+    return kit::run(program, arguments, {}, 30, {environment()}).exitCode == 0;
+  }
+
+  QTemporaryDir folder_;
+  QString admin_;
+  QProcess server_;
+  quint16 port_ = 0;
+};
+
+}  // namespace norvex::outside

@@ -4,6 +4,10 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
         <source>About Norvex</source>
         <translation>About Norvex</translation>
     </message>
@@ -22,6 +26,10 @@
     <message>
         <source>Bad data.</source>
         <translation>The file holds no data that can be read.</translation>
+    </message>
+    <message>
+        <source>Bounding box:</source>
+        <translation>Bounding box:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -48,6 +56,14 @@
         <translation>Colour space:</translation>
     </message>
     <message>
+        <source>Command</source>
+        <translation>Command</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>Commands and their keys</translation>
+    </message>
+    <message>
         <source>Compressed SVG image (SVGZ)</source>
         <translation>Compressed SVG image (SVGZ)</translation>
     </message>
@@ -58,6 +74,14 @@
     <message>
         <source>Copy Path</source>
         <translation>Copy Path</translation>
+    </message>
+    <message>
+        <source>Copy Selected Text</source>
+        <translation>Copy Selected Text</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation>Copy Value</translation>
     </message>
     <message>
         <source>Copying…</source>
@@ -136,6 +160,10 @@
         <translation>Hide extension</translation>
     </message>
     <message>
+        <source>High resolution:</source>
+        <translation>High resolution:</translation>
+    </message>
+    <message>
         <source>Higher by %1 pt</source>
         <translation>Higher by %1 pt</translation>
     </message>
@@ -148,12 +176,28 @@
         <translation>JPEG image</translation>
     </message>
     <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Keyboard Shortcuts</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Keys</translation>
+    </message>
+    <message>
         <source>Left by %1 pt</source>
         <translation>Left by %1 pt</translation>
     </message>
     <message>
+        <source>Line numbers</source>
+        <translation>Line numbers</translation>
+    </message>
+    <message>
         <source>Lower by %1 pt</source>
         <translation>Lower by %1 pt</translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation>Matches</translation>
     </message>
     <message>
         <source>Move Selection</source>
@@ -296,6 +340,10 @@
         <translation>Save Selection</translation>
     </message>
     <message>
+        <source>Save To</source>
+        <translation>Save To</translation>
+    </message>
+    <message>
         <source>SaveAs</source>
         <translation>Save As…</translation>
     </message>
@@ -310,6 +358,10 @@
     <message>
         <source>Scroll up and down</source>
         <translation>Scroll up and down</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
     </message>
     <message>
         <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
@@ -382,6 +434,10 @@
     <message>
         <source>Title:</source>
         <translation>Title:</translation>
+    </message>
+    <message>
+        <source>Touch Bar</source>
+        <translation>Touch Bar</translation>
     </message>
     <message>
         <source>Try Again</source>
@@ -669,6 +725,34 @@
     <message>
         <source>Format:</source>
         <translation>Format:</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Find &amp;Next</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Find &amp;Previous</translation>
+    </message>
+    <message>
+        <source>&amp;Touch Bar</source>
+        <translation>&amp;Touch Bar</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>&amp;Keyboard Shortcuts</translation>
+    </message>
+    <message>
+        <source>What was noticed</source>
+        <translation>What was noticed</translation>
+    </message>
+    <message>
+        <source>BoundingBox:</source>
+        <translation>BoundingBox:</translation>
+    </message>
+    <message>
+        <source>HiResBoundingBox:</source>
+        <translation>HiResBoundingBox:</translation>
     </message>
 </context>
 <context>

@@ -18,6 +18,7 @@
 #include "platform/qt/message_bar.h"
 #include "platform/qt/norvex_view_widget.h"
 #include "platform/qt/number_field.h"
+#include "platform/qt/shortcut_panel.h"
 #include "platform/qt/source_text_view.h"
 #include "platform/qt/symbolic_icon.h"
 #include "platform/qt/zooming_scroll_area.h"
@@ -59,7 +60,7 @@ void MainWindowController::connectCommands() {
   };
   on(ui_->reloadAction, {Qt::Key_F5}, [this] { if (document_) document_->revertDocumentToSaved(); });
   on(ui_->closeAction, {QKeySequence::Close}, [this] { window_->close(); });
-  on(ui_->saveAsAction, {Qt::CTRL | Qt::SHIFT | Qt::Key_S}, [this] { saveDocumentAs(); });
+  on(ui_->saveAsAction, {QKeySequence::Save, Qt::CTRL | Qt::SHIFT | Qt::Key_S}, [this] { saveDocumentAs(); });
   on(ui_->copyAction, {QKeySequence::Copy}, [this] { copy(); });
   on(copyToolbarItem, {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, [this] { doCopy(copyToolbarItem); });
   on(doSaveToToolbarItem, {Qt::CTRL | Qt::Key_E}, [this] { doSaveTo(doSaveToToolbarItem); });
@@ -68,11 +69,11 @@ void MainWindowController::connectCommands() {
   on(ui_->deselectAction, {Qt::Key_Escape, Qt::CTRL | Qt::SHIFT | Qt::Key_A}, [this] { view()->clearSelectRect(); });
   selectionCommands_ = new SelectionCommands(*ui_->editMenu, ui_->findAction, *view(), *scrollArea_, this);
   on(ui_->findAction, {QKeySequence::Find}, [this] {
-    if (!inspectorWindow->isVisible()) showInspectorWindow();
-    ui_->inspectorTabs->setCurrentWidget(ui_->sourcePage);
-    inspectorWindow->activateWindow();
+    showSource();
     sourceTextView->showFindBar();
   });
+  on(ui_->findNextAction, {Qt::Key_F3}, [this] { showSource(), sourceTextView->findNext(); });
+  on(ui_->findPreviousAction, {Qt::SHIFT | Qt::Key_F3}, [this] { showSource(), sourceTextView->findNext(true); });
   on(ui_->zoomInAction, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [scroll] { scroll->zoom(1); });
   on(ui_->zoomOutAction, {Qt::CTRL | Qt::Key_Minus}, [scroll] { scroll->zoom(-1); });
   on(ui_->actualSizeAction, {Qt::CTRL | Qt::Key_0, Qt::CTRL | Qt::Key_1}, [scroll] { scroll->zoomTo(1.0); });
@@ -81,6 +82,8 @@ void MainWindowController::connectCommands() {
   on(ui_->rotateRightAction, {Qt::CTRL | Qt::Key_R}, [this] { rotateBy(-kQuarterTurn); });
   on(ui_->resetRotationAction, {}, [this] { dialKnob()->turnTo(0); });
   on(inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9}, [this] { showInspectorWindow(inspectorToolbarItem); });
+  on(ui_->touchBarAction, {}, [this](bool checked) { showTouchBar(checked); });
+  on(ui_->shortcutsAction, {QKeySequence::HelpContents}, [this] { showShortcutPanel(*window_, *ui_->menuBar); });
   on(ui_->fullScreenAction, {Qt::Key_F11}, [this](bool checked) { toggleFullScreen(checked); });
   on(ui_->aboutAction, {}, [this] { showAbout(); });
   scrollArea_->setFocus(Qt::OtherFocusReason);  // keys are for the picture until another control is chosen
@@ -110,11 +113,12 @@ bool MainWindowController::validateUserInterfaceItem() const { return view() && 
 void MainWindowController::validateCommands() {
   const bool enabled = validateUserInterfaceItem();
   for (QAction* action : {inspectorToolbarItem, copyToolbarItem, doPrintingToolbarItem, doSaveToToolbarItem, ui_->saveAsAction,
-                          ui_->copyAction, ui_->selectAllAction,
+                          ui_->copyAction, ui_->selectAllAction, ui_->findAction, ui_->findNextAction, ui_->findPreviousAction,
                           ui_->zoomInAction, ui_->zoomOutAction, ui_->actualSizeAction, ui_->fitAction,
                           ui_->rotateLeftAction, ui_->rotateRightAction, ui_->resetRotationAction})
     action->setEnabled(enabled);
   ui_->reloadAction->setEnabled(document_ && !document_->fileURL().isEmpty());
+  validateTouchStrip();
   validateSelectionCommands();
 }
 

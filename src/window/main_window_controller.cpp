@@ -7,6 +7,7 @@
 #include "display/norvex_view.h"
 #include "document/document.h"
 #include "platform/qt/color_well.h"
+#include "platform/qt/control_accessible.h"
 #include "platform/qt/loading_card.h"
 #include "platform/qt/message_bar.h"
 #include "platform/qt/norvex_view_widget.h"
@@ -43,6 +44,7 @@ QMainWindow* MainWindowController::window() {
 }
 
 void MainWindowController::loadWindow() {
+  installControlAccessibility();
   nib_ = std::make_unique<QWidget>();
   ui_ = std::make_unique<Ui::MainWindowController>();
   ui_->setupUi(nib_.get());
@@ -57,6 +59,7 @@ void MainWindowController::loadWindow() {
   scrollArea_->addCard(loadingCard_, Qt::BottomEdge);
   connectControls();
   connectCommands();
+  orderInspector();
   connectPrinting();
   restoreFrame();
 }

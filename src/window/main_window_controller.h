@@ -21,6 +21,7 @@
 #include "window/document_contents.h"
 #include "window/main_window_outlets.h"
 #include "window/picture_formats.h"
+#include "window/touch_bar.h"
 #include "window/window_producers.h"
 
 class QAction;
@@ -43,6 +44,7 @@ class NSPasteboardItem;
 class NSSavePanel;
 class PrintCommands;
 class SelectionCommands;
+class TouchStrip;
 class ZoomingScrollArea;
 
 /// Sets up every control of the document window and its inspector, reads the picture from the document's file, and
@@ -50,6 +52,7 @@ class ZoomingScrollArea;
 class MainWindowController final : public QObject,
                                    public DocumentWindowController,
                                    public NorvexViewDelegate,
+                                   public NSTouchBarDelegate,
                                    public MainWindowOutlets {
   Q_OBJECT
   Q_PROPERTY(double zoomFactor READ zoomFactor WRITE setZoomFactor NOTIFY zoomFactorDidChange)
@@ -126,8 +129,20 @@ class MainWindowController final : public QObject,
   void doSaveTo(QObject* sender = nullptr);
   /// Opens a sheet that writes the whole picture in any type that can be written.
   void saveDocumentAs(QObject* sender = nullptr);
+  /// The same under another title: both write a copy, the document stays what it is.
+  void saveDocumentTo(QObject* sender = nullptr);
   [[nodiscard]] QList<UTType> writableTypes() const;
 
+  // ---- Touch Bar ----------------------------------------------------------------------------------------------------
+  /// A new bar at each call; this controller is its delegate.
+  [[nodiscard]] NSTouchBar makeTouchBar();
+  [[nodiscard]] std::optional<NSCustomTouchBarItem> touchBar(const NSTouchBar& touchBar,
+                                                             const QString& makeItemForIdentifier) override;
+  void performTouchBarAction(TouchBarAction action);
+  /// Shows the bar as a strip of large buttons below the picture, or hides it.
+  void showTouchBar(bool on);
+  /// Null before the strip was first shown.
+  [[nodiscard]] TouchStrip* touchStrip() const { return touchStrip_; }
 
   // ---- printing -----------------------------------------------------------------------------------------------------
   /// Prints the selected rectangle, or the visible one without a selection, as it is turned.
@@ -194,6 +209,8 @@ class MainWindowController final : public QObject,
   void showHeader(const DocumentContents& contents);
   void showPreview(const DocumentContents& contents);
   void showColorSpace(const HeaderDictionary& header);
+  void showBoundingBoxes(const NSImageRep* rep);
+  void showNotes(const NSImageRep* rep);
   void resetRotationAndZoom();
   // main_window_messages.cpp
   void watchPicture();
@@ -221,7 +238,11 @@ class MainWindowController final : public QObject,
   void windowStateDidChange(const QWindowStateChangeEvent& event);
   void restoreFrame();
   void saveFrame() const;
+  // main_window_touch_bar.cpp
+  void validateTouchStrip();
   // main_window_inspector.cpp
+  void showSource();
+  void orderInspector();
   void placeInspector();
   void showRotationText();
 
@@ -240,6 +261,7 @@ class MainWindowController final : public QObject,
   void fillSaveToAccessory(const std::shared_ptr<SaveToSheet>& sheet);
   void removeSaveToFormat(SaveToSheet& sheet, const std::shared_ptr<PromisedData>& data);
   void saveTo(const std::shared_ptr<SaveToSheet>& sheet, const QUrl& url);
+  void runSavePanel(const QString& title);
   void saveAs(const QUrl& url, const UTType& type);
   void showWriteFailure(const Error& error, const QString& path);
 
@@ -262,6 +284,7 @@ class MainWindowController final : public QObject,
   MessageBar* messageBar_ = nullptr;
   LoadingCard* loadingCard_ = nullptr;
   SelectionCommands* selectionCommands_ = nullptr;
+  TouchStrip* touchStrip_ = nullptr;
 
   double zoomFactor_ = 1.0;
   QColorSpace windowColorSpace_{QColorSpace::SRgb};

@@ -5,16 +5,33 @@
 #include <QScreen>
 
 #include "display/norvex_view.h"
+#include "platform/picture/eps_image_rep.h"
+#include "platform/picture/pdf_image_rep.h"
+#include "platform/picture/web_image_rep.h"
 #include "platform/qt/color_well.h"
 #include "platform/qt/dms_angle.h"
 #include "platform/qt/number_field.h"
+#include "platform/qt/number_matrix.h"
+#include "platform/qt/source_text_edit.h"
+#include "platform/qt/source_text_view.h"
 #include "platform/qt/zooming_scroll_area.h"
 #include "platform/qt/zy_dial_knob.h"
+#include "platform/qt/zy_form.h"
 #include "platform/qt/zy_image_view.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
+
+namespace {
+
+/// As the comments of a PostScript file say it: left, bottom, right, top.
+QString corners(const QRectF& box) {
+  const auto number = [](double value) { return QString::number(value, 'g', 9); };
+  return QStringList{number(box.left()), number(box.top()), number(box.right()), number(box.bottom())}.join(u' ');
+}
+
+}  // namespace
 
 void MainWindowController::showInspectorWindow(QObject*) {
   if (inspectorWindow->windowTitle().isEmpty())
@@ -27,6 +44,43 @@ void MainWindowController::showInspectorWindow(QObject*) {
   inspectorWindow->show();
   inspectorWindow->raise();
   inspectorWindow->activateWindow();
+}
+
+void MainWindowController::showBoundingBoxes(const NSImageRep* rep) {
+  const auto* eps = qobject_cast<const NSEPSImageRep*>(rep);
+  ui_->boundingBoxForm->setVisible(eps != nullptr);
+  const auto highResolution = eps ? eps->hiResBoundingBox() : std::nullopt;
+  ui_->boundingBoxForm->setText(0, eps ? corners(eps->boundingBox()) : QString());
+  ui_->boundingBoxForm->setText(1, highResolution ? corners(*highResolution) : QString());
+}
+
+void MainWindowController::showNotes(const NSImageRep* rep) {
+  QStringList notes;
+  if (const auto* pdf = qobject_cast<const NSPDFImageRep*>(rep)) notes = pdf->facts().warnings;
+  if (const auto* svg = qobject_cast<const ZyWebImageRep*>(rep)) notes = svg->facts().warnings;
+  for (QString& note : notes) {
+    if (!note.isEmpty()) note[0] = note.at(0).toUpper();
+    if (!note.endsWith(u'.')) note += u'.';
+  }
+  ui_->noteField->setText(notes.join(u'\n'));
+  ui_->noteField->setVisible(!notes.isEmpty());
+}
+
+void MainWindowController::showSource() {
+  if (!inspectorWindow->isVisible()) showInspectorWindow();
+  ui_->inspectorTabs->setCurrentWidget(ui_->sourcePage);
+  inspectorWindow->activateWindow();
+}
+
+void MainWindowController::orderInspector() {
+  // From top to bottom, as it is read; the interface file cannot name what is inside our own controls.
+  QList<QWidget*> order{dialKnob(), rotateField(), backgroundColorWell(), useBackgroundSwitch()};
+  for (const ZyForm* form : {titleForm(), creatorForm(), creationDateForm(), forForm(), copyrightForm(), encodingForm(), colorSpaceNameForm()})
+    order << form->cellAtIndex(0);
+  for (int row = 0; row < 2; ++row)
+    for (int column = 0; column < 2; ++column) order << epsMatrix->cellAtRow(row, column);
+  order << ui_->boundingBoxForm->cellAtIndex(0) << ui_->boundingBoxForm->cellAtIndex(1) << descriptionView->textEdit();
+  for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order.at(i - 1), order.at(i));
 }
 
 void MainWindowController::placeInspector() {

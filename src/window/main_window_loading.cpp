@@ -98,6 +98,8 @@ void MainWindowController::showUntitledDocument() {
   for (ZyForm* form : {titleForm(), creatorForm(), creationDateForm(), forForm(), copyrightForm(), encodingForm()})
     form->setText(0, QString());
   descriptionView->setString(QString());
+  showBoundingBoxes(nullptr);
+  showNotes(nullptr);
   epsMatrixBox->setTitle(QString());
   for (int row = 0; row < 2; ++row)
     for (int column = 0; column < 2; ++column) epsMatrix->setText(row, column, QString());
@@ -114,6 +116,8 @@ void MainWindowController::showContents(const DocumentContents& contents) {
   if (contents.kind == DocumentKind::Svg) showSvgPicture(contents);
   else showPicture(contents);
   showHeader(contents);
+  showBoundingBoxes(contents.imageRep.get());
+  showNotes(contents.imageRep.get());
   showPreview(contents);
   showColorSpace(contents.header);
   resetRotationAndZoom();

@@ -36,13 +36,17 @@ QList<UTType> MainWindowController::writableTypes() const {
   return types << UTTypeTIFF() << UTTypePNG() << UTTypeJPEG() << UTTypeGIF();
 }
 
-void MainWindowController::saveDocumentAs(QObject*) {
+void MainWindowController::saveDocumentAs(QObject*) { runSavePanel(localizedString("Save As")); }
+
+void MainWindowController::saveDocumentTo(QObject*) { runSavePanel(localizedString("Save To")); }
+
+void MainWindowController::runSavePanel(const QString& title) {
   if (!document_ || !validateUserInterfaceItem()) return;
   const QList<UTType> types = writableTypes();
   const auto own = UTType::typeWithIdentifier(document_->fileType());
   const qsizetype at = own ? types.indexOf(*own) : -1;
   SavePanelSettings settings;
-  settings.title = localizedString("Save As");
+  settings.title = title;
   settings.allowedContentTypes = types;
   settings.selectedContentType = std::max(0, int(at >= 0 ? at : types.indexOf(UTTypePDF())));
   settings.allowsOtherFileTypes = false;

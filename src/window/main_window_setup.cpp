@@ -17,6 +17,7 @@
 #include "platform/qt/zy_dial_knob.h"
 #include "platform/qt/zy_form.h"
 #include "platform/qt/zy_image_view.h"
+#include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
@@ -103,7 +104,9 @@ void MainWindowController::setUpTexts() {
   };
   const Titled all[] = {{titleForm(), "Title:"},         {creatorForm(), "Creator:"},     {creationDateForm(), "Created:"},
                         {forForm(), "For:"},             {copyrightForm(), "Copyright:"}, {encodingForm(), "Encoding:"}};
-  QList<ZyForm*> forms{colorSpaceNameForm()};
+  ui_->boundingBoxForm->setTitle(0, localizedString("Bounding box:"));
+  ui_->boundingBoxForm->setTitle(1, localizedString("High resolution:"));
+  QList<ZyForm*> forms{colorSpaceNameForm(), ui_->boundingBoxForm};
   for (const Titled& each : all) {
     each.form->setTitle(0, localizedString(each.title));
     forms << each.form;

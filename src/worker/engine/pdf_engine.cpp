@@ -1,5 +1,6 @@
 // The engine of PDF documents and of Illustrator files that are PDF inside.
 #include "worker/engine/engine.h"
+#include "worker/engine/illustrator_notice.h"
 #include "worker/engine/pdf_facts.h"
 #include "worker/engine/pdf_file.h"
 #include "worker/engine/pdf_render.h"
@@ -74,6 +75,7 @@ Result<std::unique_ptr<DocumentEngine>> openPdf(const QByteArray& bytes, EngineC
   if (!file) return file.error();
   Result<PictureFacts> facts = pdfFacts(**file);
   if (!facts) return facts.error();
+  if (isIllustratorNotice(bytes, **file)) facts->warnings << illustratorNoticeSentence();
   return std::unique_ptr<DocumentEngine>(
       std::make_unique<PdfEngine>(bytes, std::move(*file), std::move(*facts), context));
 }

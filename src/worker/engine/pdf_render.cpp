@@ -64,4 +64,14 @@ Result<QImage> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
                     [&](cairo_t* context) { return paintPage(context, page.get(), shownSize); });
 }
 
+Result<QString> PdfRenderer::text(int page) {
+  if (const Result<void> loaded = load(); !loaded) return loaded.error();
+  const int count = poppler_document_get_n_pages(document_.get());
+  if (page < 0 || page >= count) return noSuchPage(page, count);
+  const PagePointer opened(poppler_document_get_page(document_.get(), page));
+  if (!opened) return Error{ErrorKind::NotParsable, QStringLiteral("page %1 cannot be read").arg(page + 1)};
+  const std::unique_ptr<char, decltype(&g_free)> words(poppler_page_get_text(opened.get()), &g_free);
+  return QString::fromUtf8(words.get());
+}
+
 }  // namespace norvex::engine

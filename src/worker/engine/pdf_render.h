@@ -1,9 +1,11 @@
-// Draws pages of a PDF with Poppler. Poppler is loaded with the first rendering, never for facts.
+// Draws pages of a PDF with Poppler. Poppler is loaded with the first rendering; for facts only when a short page of an
+// Illustrator file must be read.
 #pragma once
 
 #include <QByteArray>
 #include <QImage>
 #include <QSizeF>
+#include <QString>
 
 #include <memory>
 
@@ -23,6 +25,8 @@ class PdfRenderer {
   /// and pixels that the page does not paint stay transparent. Fails as paintImage() does, with NotParsable when
   /// Poppler cannot read the document and with Unsupported when there is no such page.
   [[nodiscard]] Result<QImage> render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits);
+  /// The words of a page in reading order. Fails like render().
+  [[nodiscard]] Result<QString> text(int page);
 
  private:
   [[nodiscard]] Result<void> load();

@@ -209,6 +209,30 @@ class PdfFactsTest : public QObject {
       QVERIFY(facts.ok() || !facts.error().message.isEmpty());
     }
   }
+
+  void anIllustratorFileWithoutPdfContentSaysSo_data() {
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<QByteArray>("entries");
+    QTest::addColumn<bool>("told");
+    const QByteArray notice = "BT /F1 8 Tf 10 80 Td (This is an Adobe Illustrator File that was) Tj 0 -12 Td "
+                              "[(saved with) -3 (out PDF Content.)] TJ ET";
+    const QByteArray font = "/Resources << /Font << /F1 << /Type /Font /Subtype /Type1 /BaseFont /Helvetica >> >> >> ";
+    const QByteArray data = "/PieceInfo << /Illustrator << /LastModified (D:2020) >> >> ";
+    QTest::newRow("the notice") << notice << font + data << true;
+    QTest::newRow("the notice in a file of another program") << notice << font << false;
+    QTest::newRow("artwork of Illustrator") << QByteArray("0 0 10 10 re f") << data << false;
+    QTest::newRow("a large page that cites the notice") << notice + QByteArray(20000, ' ') << font + data << false;
+  }
+  void anIllustratorFileWithoutPdfContentSaysSo() {
+    QFETCH(QByteArray, contents);
+    QFETCH(QByteArray, entries);
+    QFETCH(bool, told);
+    const auto facts = factsOf(onePage(contents, "/MediaBox [0 0 200 100] " + entries));
+    QVERIFY(facts);
+    QCOMPARE(facts->warnings.join(u'|'),
+             told ? QStringLiteral("this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork")
+                  : QString());
+  }
 };
 
 NORVEX_TEST(PdfFactsTest)

@@ -16,12 +16,14 @@ namespace norvex {
 
 namespace {
 
-/// Makes every format; those that wait for another one's bytes wait in their own thread.
+/// Makes every format, one after the other: the picture process serves one at a time, and the other threads are left to
+/// what is on the screen.
 QFuture<void> madeInBackground(const PictureFormats& formats, const std::shared_ptr<PromisedData>& fallback) {
   QList<std::shared_ptr<PromisedData>> all = formats.DataObjects;
   if (fallback) all << fallback;
-  return QtConcurrent::map(QThreadPool::globalInstance(), std::move(all),
-                           [](const std::shared_ptr<PromisedData>& data) { static_cast<void>(data->get()); });
+  return QtConcurrent::run([all] {
+    for (const std::shared_ptr<PromisedData>& data : all) static_cast<void>(data->get());
+  });
 }
 
 NSPasteboardItem itemOf(const PictureFormats& formats, const std::shared_ptr<PromisedData>& png) {

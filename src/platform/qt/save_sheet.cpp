@@ -2,13 +2,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 
 #include <utility>
 
@@ -29,6 +30,14 @@ QString nameFilter(const QString& title, const QList<UTType>& types) {
   return title + " (" + patterns.join(' ') + ')';
 }
 
+/// Where pictures are kept; the home folder where there is no such place.
+QString ownFolder() {
+  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+}
+
+constexpr QSize kSize(720, 640);
+
 }  // namespace
 
 SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
@@ -39,8 +48,9 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   setAcceptMode(QFileDialog::AcceptSave);
   setFileMode(QFileDialog::AnyFile);
   setWindowTitle(settings_.title);
-  if (settings_.directoryURL.isLocalFile()) setDirectoryUrl(settings_.directoryURL);
+  setDirectoryUrl(settings_.directoryURL.isLocalFile() ? settings_.directoryURL : QUrl::fromLocalFile(ownFolder()));
   arrange();
+  resize(kSize);
   selectFile(settings_.nameFieldStringValue);
   showName();
 }
@@ -53,6 +63,11 @@ SaveSheet::~SaveSheet() {
 
 void SaveSheet::arrange() {
   name_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  hideExtension_ = new QCheckBox(localizedString("Hide extension"), this);
+  hideExtension_->setObjectName(QStringLiteral("hideExtension"));
+  hideExtension_->setChecked(settings_.extensionHidden);
+  hideExtension_->setVisible(settings_.canSelectHiddenExtension);
+  connect(hideExtension_, &QCheckBox::toggled, this, &SaveSheet::showName);
   if (settings_.selectedContentType >= 0) {
     addTypeList();
   } else {
@@ -61,11 +76,6 @@ void SaveSheet::arrange() {
     for (const char* unused : {"fileTypeLabel", "fileTypeCombo"})
       if (auto* widget = findChild<QWidget*>(QString::fromLatin1(unused))) widget->hide();
   }
-  hideExtension_ = new QCheckBox(localizedString("Hide extension"), this);
-  hideExtension_->setObjectName(QStringLiteral("hideExtension"));
-  hideExtension_->setChecked(settings_.extensionHidden);
-  hideExtension_->setVisible(settings_.canSelectHiddenExtension);
-  connect(hideExtension_, &QCheckBox::toggled, this, &SaveSheet::showName);
   addAccessory();
   const QList<QComboBox*> lists = accessory_ ? accessory_->findChildren<QComboBox*>() : QList<QComboBox*>();
   for (QComboBox* list : lists) connect(list, &QComboBox::currentIndexChanged, this, &SaveSheet::showName);

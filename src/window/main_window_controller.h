@@ -217,6 +217,8 @@ class MainWindowController final : public QObject,
   void followRendering();
   void showProblem(const Error& error);
   void stopWork();
+  /// Draws again what failed or was stopped.
+  void retryDrawing();
   /// Reads the file again and comes back to the same zoom, angle and place.
   void reloadInPlace();
   void messageActionChosen();

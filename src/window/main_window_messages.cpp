@@ -1,4 +1,6 @@
 // What the window tells about its picture: progress, problems, a file that changed.
+#include <QTimer>
+
 #include "document/document.h"
 #include "platform/alert.h"
 #include "platform/localized_string.h"
@@ -16,6 +18,8 @@
 namespace norvex {
 
 namespace {
+
+constexpr int kStoppedEndsMs = 50;
 
 /// An error's message as a sentence of its own.
 QString sentence(const Error& error) {
@@ -45,12 +49,22 @@ void MainWindowController::showProblem(const Error& error) {
   const bool again = view()->imageRep() != nullptr;
   messageAction_ = nullptr;
   if (again)
-    messageAction_ = [this] {
-      if (process_) process_->resume();
-      if (view()->imageRep()) view()->imageRep()->retryRendering();
-      viewWidget_->update();
-    };
+    messageAction_ = [this] { retryDrawing(); };
   messageBar_->showMessage(MessageBar::Kind::Warning, sentence(error), again ? localizedString("Try Again") : QString());
+}
+
+void MainWindowController::retryDrawing() {
+  NSImageRep* rep = view()->imageRep().get();
+  if (!rep) return;
+  if (process_) process_->resume();
+  rep->retryRendering();
+  viewWidget_->update();
+  // What was stopped may end only now, and would count as this try's failure.
+  QTimer::singleShot(kStoppedEndsMs, rep, [this, rep] {
+    if (view()->imageRep().get() != rep) return;
+    const auto error = rep->renderingError();
+    if ((error && error->kind == ErrorKind::Cancelled) || (process_ && process_->isStopping())) retryDrawing();
+  });
 }
 
 void MainWindowController::stopWork() {

@@ -1,5 +1,6 @@
 #include "window/stoppable_process.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace norvex {
@@ -16,6 +17,11 @@ void StoppableProcess::stop() {
 void StoppableProcess::resume() {
   const std::lock_guard lock(mutex_);
   stopped_ = false;
+}
+
+bool StoppableProcess::isStopping() {
+  const std::lock_guard lock(mutex_);
+  return std::any_of(active_.cbegin(), active_.cend(), [](const CancelToken& token) { return token.cancelled(); });
 }
 
 Result<PictureFacts> StoppableProcess::facts(const CancelToken& cancel) {

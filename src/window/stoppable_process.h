@@ -19,6 +19,8 @@ class StoppableProcess final : public PictureProcess {
 
   void stop();
   void resume();
+  /// Whether renderings that were stopped have not ended yet.
+  [[nodiscard]] bool isStopping();
 
   Result<PictureFacts> facts(const CancelToken& cancel = {}) override;
   Result<QImage> render(const RenderRequest& request, const CancelToken& cancel = {}) override;

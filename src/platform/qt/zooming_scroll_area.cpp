@@ -116,7 +116,8 @@ int ZoomingScrollArea::stripHeight() const { return std::max(popUp_->sizeHint().
 double ZoomingScrollArea::fittingFactor() const {
   const QSizeF size = document_ ? document_->view().frame().size() : QSizeF();
   if (size.isEmpty()) return 1;
-  const double factor = std::min(clip_->width() / size.width(), clip_->height() / size.height());
+  const QSizeF room = contentSize();
+  const double factor = std::min(room.width() / size.width(), room.height() / size.height());
   return std::clamp(factor, 0.01, 16.0);
 }
 

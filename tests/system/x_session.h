@@ -1,0 +1,150 @@
+// A real X server of our own with a window manager and the built program in it, worked with mouse and keys.
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <functional>
+#include <memory>
+
+#include <csignal>
+
+#include "kit/program.h"
+
+namespace norvex::kit {
+
+/// True as soon as `what` holds; false when it does not within `seconds`.
+inline bool waitUntil(const std::function<bool()>& what, int seconds = 20) {
+  for (const QDeadlineTimer end(seconds * 1000); !end.hasExpired(); QThread::msleep(50))
+    if (what()) return true;
+  return what();
+}
+
+/// Process ids of all living descendants of `process` whose program is called `name`.
+inline QList<qint64> descendants(qint64 process, const QByteArray& name) {
+  QMultiHash<qint64, std::pair<qint64, QByteArray>> children;
+  for (const QString& entry : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(entry));
+    if (entry.toLongLong() == 0 || !stat.open(QIODevice::ReadOnly)) continue;
+    const QByteArray text = stat.readAll();
+    const qsizetype open = text.indexOf('('), close = text.lastIndexOf(')');
+    const QList<QByteArray> rest = text.mid(close + 2).split(' ');
+    if (rest.value(0) != "Z") children.insert(rest.value(1).toLongLong(), {entry.toLongLong(), text.mid(open + 1, close - open - 1)});
+  }
+  QList<qint64> found, open{process};
+  while (!open.isEmpty())
+    for (const auto& [id, called] : children.values(open.takeFirst())) {
+      open << id;
+      if (name.startsWith(called)) found << id;  // the kernel keeps 15 characters
+    }
+  return found;
+}
+
+/// X server, window manager and one run of the program. Everything that it starts ends with it.
+class XSession {
+ public:
+  /// What is missing here for a session; empty when nothing is.
+  static QString missing() {
+    for (const char* program : {"Xvfb", "openbox", "xdotool", "xclip", "import"})
+      if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty()) return QLatin1String(program);
+    return {};
+  }
+
+  XSession() {
+    server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1600x1100x24", "-nolisten", "tcp"});
+    while (server_.waitForReadyRead(20000) && !server_.canReadLine()) continue;
+    environment_ = QProcessEnvironment::systemEnvironment();
+    environment_.insert("DISPLAY", u':' + QString::fromLatin1(server_.readLine().trimmed()));
+    environment_.insert("QT_QPA_PLATFORM", "xcb");
+    environment_.insert("QT_SCALE_FACTOR", "1");
+    environment_.insert("LC_ALL", "C.UTF-8");
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
+      environment_.insert(QLatin1String(name), home_.path());
+    for (const char* name : {"WAYLAND_DISPLAY", "QT_STYLE_OVERRIDE"}) environment_.remove(QLatin1String(name));
+    manager_.setProcessEnvironment(environment_);
+    manager_.start("openbox", {});
+    waitUntil([this] { return run("xdotool", {"get_desktop"}).exitCode == 0; });
+  }
+  ~XSession() {
+    for (QProcess* process : {&program_, &manager_, &server_}) {
+      process->terminate();
+      if (!process->waitForFinished(3000)) process->kill();
+      process->waitForFinished(3000);
+    }
+  }
+  XSession(const XSession&) = delete;
+  XSession& operator=(const XSession&) = delete;
+
+  Ran run(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.setProcessEnvironment(environment_);
+    process.start(program, arguments);
+    Ran ran;
+    ran.crashed = !process.waitForFinished(20000) || process.exitStatus() == QProcess::CrashExit;
+    ran.exitCode = process.exitCode();
+    ran.out = process.readAllStandardOutput();
+    ran.err = process.readAllStandardError();
+    return ran;
+  }
+  void xdo(const QStringList& arguments) { run("xdotool", arguments); }
+
+  /// Starts the program and waits for a window whose title holds `title`.
+  bool start(const QStringList& arguments, const QString& title) {
+    program_.setProcessEnvironment(environment_);
+    program_.setProcessChannelMode(QProcess::MergedChannels);
+    program_.start(norvexProgram(), arguments);
+    return program_.waitForStarted() && activate(title);
+  }
+  /// Waits for the window and gives it the keyboard.
+  bool activate(const QString& title) {
+    const bool there = waitUntil([&] { return !windowsOf(title).isEmpty(); });
+    if (there) xdo({"windowactivate", "--sync", windowsOf(title).constLast()});
+    return there;
+  }
+  QStringList windowsOf(const QString& title) {
+    const QString escaped = QRegularExpression::escape(title);
+    // The platform adds the application's name.
+    const QString form = u'^' + escaped + QString::fromUtf8("( \xE2\x80\x94 Norvex)?$");
+    return QString::fromLatin1(run("xdotool", {"search", "--onlyvisible", "--name", form}).out)
+        .split(u'\n', Qt::SkipEmptyParts);
+  }
+  bool isAlive() { return program_.state() == QProcess::Running && !program_.waitForFinished(1); }
+  qint64 id() const { return program_.processId(); }
+  QByteArray said() { return program_.readAll(); }
+
+  // ---- hands and eyes; points are pixels of the screen
+  void key(const QString& keys) { xdo({"key", "--clearmodifiers", keys}); }
+  void click(const QPoint& at, int times = 1) {
+    xdo({"mousemove", "--sync", QString::number(at.x()), QString::number(at.y()), "click", "--repeat", QString::number(times), "--delay", "60", "1"});
+  }
+  void press(const QPoint& at) { xdo({"mousemove", "--sync", QString::number(at.x()), QString::number(at.y()), "mousedown", "1"}); }
+  void moveTo(const QPoint& at) { xdo({"mousemove", "--sync", QString::number(at.x()), QString::number(at.y())}); }
+  void release() { xdo({"mouseup", "1"}); }
+  void drag(const QPoint& from, const QPoint& to) {
+    press(from);
+    moveTo((from + to) / 2);
+    moveTo(to);
+    release();
+  }
+  QImage screen() {
+    const QImage image = QImage::fromData(run("import", {"-silent", "-window", "root", "png:-"}).out);
+    return image.convertToFormat(QImage::Format_RGB32);
+  }
+  /// What was selected last with the mouse in a text ("primary") or copied ("clipboard").
+  QString selection(const QString& which) { return QString::fromUtf8(run("xclip", {"-o", "-selection", which}).out); }
+
+ private:
+  QTemporaryDir home_;
+  QProcess server_, manager_, program_;
+  QProcessEnvironment environment_;
+};
+
+}  // namespace norvex::kit

@@ -112,6 +112,10 @@
         <translation>Down by %1 pt</translation>
     </message>
     <message>
+        <source>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</source>
+        <translation>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</translation>
+    </message>
+    <message>
         <source>Drawing…</source>
         <translation>Drawing…</translation>
     </message>

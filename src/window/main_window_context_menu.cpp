@@ -4,7 +4,7 @@
 #include <QMenu>
 #include <QtConcurrent>
 
-#include "platform/path_extension.h"
+#include "platform/localized_string.h"
 #include "platform/qt/drag_source.h"
 #include "platform/qt/norvex_view_widget.h"
 #include "ui_MainWindowController.h"
@@ -23,6 +23,8 @@ qsizetype bestFileFormat(const PictureFormats& formats) {
 }  // namespace
 
 void MainWindowController::setUpPictureMenu() {
+  viewWidget_->setWhatsThis(localizedString(
+      "Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file."));
   viewWidget_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(viewWidget_, &QWidget::customContextMenuRequested, this, [this](const QPoint& point) {
     if (!validateUserInterfaceItem()) return;

@@ -261,6 +261,7 @@ class MainWindowController final : public QObject,
   [[nodiscard]] QString clipName() const;
   NSSavePanel& savePanel();
   void fillSaveToAccessory(const std::shared_ptr<SaveToSheet>& sheet);
+  void makeSaveToFormats(const std::shared_ptr<SaveToSheet>& sheet);
   void removeSaveToFormat(SaveToSheet& sheet, const std::shared_ptr<PromisedData>& data);
   void saveTo(const std::shared_ptr<SaveToSheet>& sheet, const QUrl& url);
   void runSavePanel(const QString& title);

@@ -90,18 +90,29 @@ void MainWindowController::fillSaveToAccessory(const std::shared_ptr<SaveToSheet
   if (sheet->formats.count() > 0) doSaveToPopUp->setCurrentIndex(0);
   ui_->doSaveToNote->clear();
   doSaveToImageView->setImage({});
+  makeSaveToFormats(sheet);
+}
+
+void MainWindowController::makeSaveToFormats(const std::shared_ptr<SaveToSheet>& sheet) {
   QPointer<MainWindowController> self(this);
   const std::weak_ptr<SaveToSheet> kept = sheet;  // a closed sheet ends the making
-  if (const auto rep = sheet->formats.pdfImageRep)
-    QtConcurrent::run([rep] { return rep->get(); }).then(qApp, [self, kept](const std::shared_ptr<NSPDFImageRep>& made) {
+  const auto tell = [self, kept](const std::function<void(MainWindowController&, SaveToSheet&)>& news) {
+    QMetaObject::invokeMethod(qApp, [self, kept, news] {
       const auto shown = kept.lock();
-      if (self && shown && shown->open) self->doSaveToImageView->setImageRep(made);
+      if (self && shown && shown->open) news(*self, *shown);
     });
-  for (const std::shared_ptr<PromisedData>& data : std::as_const(sheet->formats.DataObjects))
-    QtConcurrent::run([data] { return data->get().isEmpty(); }).then(qApp, [self, kept, data](bool missing) {
-      const auto shown = kept.lock();
-      if (missing && self && shown && shown->open) self->removeSaveToFormat(*shown, data);
-    });
+  };
+  // One after the other, the preview first; a format that is to be written meanwhile does not wait for its turn.
+  static_cast<void>(QtConcurrent::run([tell, rep = sheet->formats.pdfImageRep, all = sheet->formats.DataObjects,
+                                       cancel = sheet->formats.cancel] {
+    if (rep)
+      tell([made = rep->get()](MainWindowController& c, SaveToSheet&) { c.doSaveToImageView->setImageRep(made); });
+    for (const std::shared_ptr<PromisedData>& data : all) {
+      if (cancel.cancelled()) return;
+      if (data->get().isEmpty())
+        tell([data](MainWindowController& c, SaveToSheet& shown) { c.removeSaveToFormat(shown, data); });
+    }
+  }));
 }
 
 void MainWindowController::removeSaveToFormat(SaveToSheet& sheet, const std::shared_ptr<PromisedData>& data) {

@@ -7,6 +7,7 @@
 #include "cli/job.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
+#include "platform/atomic_file.h"
 #include "platform/localized_string.h"
 #include "platform/picture/picture_loader.h"
 #include "platform/print/cups_spooler.h"
@@ -56,6 +57,8 @@ ExitCode Job::print(const Arguments& arguments) {
     return complain(Command::Print, complaint);
   const QString file = arguments.files.first(), output = arguments.values.value(Option::Output);
   const NSPrintInfo info = printInfoOf(arguments);
+  if (!output.isEmpty() && isSameFile(file, output))
+    return fail(file, {ErrorKind::CannotWrite, QStringLiteral("the output would overwrite the input")});
   CupsSpooler spooler;
   if (arguments.has(Option::Printer))  // told before a large picture is read in vain
     if (const Result<Printer> printer = printerNamed(spooler, info.printerName()); !printer)

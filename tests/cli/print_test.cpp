@@ -45,6 +45,14 @@ class PrintTest : public QObject {
     qunsetenv("CUPS_SERVER");
   }
 
+  void theInputIsKept() {
+    CommandLine line;
+    const QString file = line.write("a.pdf", kPdf);
+    QCOMPARE(line.run({"print", file, "-o", file, "--force"}), 4);
+    QCOMPARE(line.console.messages, "norvex: " + file + ": the output would overwrite the input\n");
+    QCOMPARE(line.contents("a.pdf"), kPdf);
+  }
+
   void aFileThatCannotBeReadIsTold() {
     CommandLine line;
     QCOMPARE(line.run({"print", line.path("gone.eps"), "-o", line.path("a.pdf")}), 3);

@@ -5,14 +5,13 @@
 #include <QFile>
 #include <QHostAddress>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QThread>
 
-#include <memory>
+#include <cups/cups.h>
 
 #include "kit/program.h"
 
@@ -76,20 +75,21 @@ class PrintServer {
   [[nodiscard]] QStringList spooledFiles() const {
     const QDir spool(folder_.filePath("spool"));
     QStringList paths;
-    for (const QString& name : spool.entryList({"d?????-001"}, QDir::Files, QDir::Name)) paths << spool.filePath(name);
+    for (const QString& name : spool.entryList({"d*-001"}, QDir::Files, QDir::Name)) paths << spool.filePath(name);
     return paths;
   }
-  /// An attribute of a job as the server tells it; empty when it has none.
-  [[nodiscard]] QString jobAttribute(int job, const QString& name) const {
-    // The job's own record: strings follow their names with two bytes of length.
-    QFile record(folder_.filePath(QStringLiteral("spool/c%1").arg(job, 5, 10, QChar('0'))));
-    if (!record.open(QIODevice::ReadOnly)) return {};
-    const QByteArray bytes = record.readAll();
-    const qsizetype at = bytes.indexOf(name.toLatin1());
-    if (at < 0) return {};
-    const qsizetype value = at + name.size();
-    const int length = (uchar(bytes.at(value)) << 8) | uchar(bytes.at(value + 1));
-    return QString::fromUtf8(bytes.mid(value + 2, length));
+  /// The title of a job as the server tells it; empty when there is no such job.
+  [[nodiscard]] QString jobTitle(int id) const {
+    http_t* const http = httpConnect2("127.0.0.1", port_, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1, 5000, nullptr);
+    if (!http) return {};
+    cups_job_t* jobs = nullptr;
+    const int count = cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
+    QString title;
+    for (int i = 0; i < count; ++i)
+      if (jobs[i].id == id) title = QString::fromUtf8(jobs[i].title);
+    cupsFreeJobs(count, jobs);
+    httpClose(http);
+    return title;
   }
 
  private:

@@ -63,7 +63,7 @@ class PrintSystemTest : public QObject {
   }
   void everyKindIsPrintedAsVectors() {
     QFETCH(QString, sample);
-    const Ran ran = print({kit::sample(sample), "-o", path("a.pdf"), "--paper", "A4", "--portrait"});
+    const Ran ran = print({kit::sample(sample), "-o", path("a.pdf"), "--paper", "A4"});
     QVERIFY2(ran.exitCode == 0, ran.err);
     QCOMPARE(outside::complaintAbout(path("a.pdf"), "pdf"), QString());
     QCOMPARE(fact(path("a.pdf"), "Pages"), QString("1"));
@@ -73,7 +73,7 @@ class PrintSystemTest : public QObject {
   }
 
   void whatIsPrintedIsThePicture() {
-    QVERIFY(print({sample("lighthouse.pdf"), "-o", path("a.pdf"), "--paper", "A4", "--portrait"}).exitCode == 0);
+    QVERIFY(print({sample("lighthouse.pdf"), "-o", path("a.pdf"), "--paper", "A4"}).exitCode == 0);
     const QImage whole = outside::drawnOutside(sample("lighthouse.pdf"), "pdf");
     const QImage page = outside::drawnOutside(path("a.pdf"), "pdf");
     QVERIFY(whole.width() < page.width() && whole.height() < page.height());
@@ -137,7 +137,7 @@ class PrintSystemTest : public QObject {
     QVERIFY2(ran.exitCode == 0, ran.err);
     QCOMPARE(ran.err, QByteArray());
     QCOMPARE(server_->spooledFiles().size(), 1);
-    QCOMPARE(server_->jobAttribute(1, "job-name"), QString("My Picture"));
+    QCOMPARE(server_->jobTitle(1), QString("My Picture"));
     const QString pdf = server_->spooledFiles().first();
     QCOMPARE(outside::complaintAbout(pdf, "pdf"), QString());
     QCOMPARE(fact(pdf, "Pages"), QString("1"));

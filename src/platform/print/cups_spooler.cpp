@@ -9,6 +9,7 @@ namespace norvex {
 namespace {
 
 constexpr int kPatienceMs = 5000;
+constexpr double kSilenceSeconds = 15;
 constexpr qsizetype kPieceBytes = 64 << 10;
 
 struct CloseConnection {
@@ -52,8 +53,16 @@ class Options {
   int count_ = 0;
 };
 
+/// Nobody is asked for a password: by itself the library would ask on the terminal, from whatever thread.
+const char* noPassword(const char*, http_t*, const char*, const char*, void*) { return nullptr; }
+
+int giveUp(http_t*, void*) { return 0; }
+
 Connection connect() {
-  return Connection(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kPatienceMs, nullptr));
+  cupsSetPasswordCB2(noPassword, nullptr);
+  Connection http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kPatienceMs, nullptr));
+  if (http) httpSetTimeout(http.get(), kSilenceSeconds, giveUp, nullptr);
+  return http;
 }
 
 QString optionOf(const cups_dest_t& destination, const char* name) {

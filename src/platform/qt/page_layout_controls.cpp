@@ -24,8 +24,7 @@ QString paperTitle(const Paper& paper) {
 
 }  // namespace
 
-PageLayoutControls::PageLayoutControls(int options, QWidget* parent) : QWidget(parent), form_(new QFormLayout(this)) {
-  form_->setContentsMargins(0, 0, 0, 0);
+PageLayoutControls::PageLayoutControls(int options, QFormLayout* form, QObject* parent) : QObject(parent), form_(form) {
   if (options & NSPrintPanelShowsPaperSize) addPaper();
   if (options & NSPrintPanelShowsOrientation) addOrientation();
   if (options & NSPrintPanelShowsScaling) addScaling();
@@ -37,11 +36,11 @@ void PageLayoutControls::addPaper() {
   paper_->setAccessibleName(localizedString("Paper"));
   for (const Paper& paper : commonPapers()) paper_->addItem(paperTitle(paper), paper.keyword);
   connect(paper_, &QComboBox::activated, this, &PageLayoutControls::changed);
-  form_->addRow(localizedString("P&aper:"), paper_);
+  form_->addRow(localizedString("Pap&er:"), paper_);
 }
 
 void PageLayoutControls::addOrientation() {
-  portrait_ = new QRadioButton(localizedString("Portr&ait"));
+  portrait_ = new QRadioButton(localizedString("Portra&it"));
   landscape_ = new QRadioButton(localizedString("&Landscape"));
   portrait_->setObjectName(QStringLiteral("portrait"));
   landscape_->setObjectName(QStringLiteral("landscape"));

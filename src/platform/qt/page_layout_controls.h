@@ -1,7 +1,7 @@
 // The controls of a page: paper, orientation, scaling.
 #pragma once
 
-#include <QWidget>
+#include <QObject>
 
 #include "platform/print/print_info.h"
 
@@ -14,17 +14,17 @@ class QRadioButton;
 namespace norvex {
 
 /// Part of the page-layout sheet and of the print panel. Main thread.
-class PageLayoutControls final : public QWidget {
+class PageLayoutControls final : public QObject {
   Q_OBJECT
  public:
-  /// `options`: which of the controls there are (NSPrintPanelShowsPaperSize, …Orientation, …Scaling).
-  explicit PageLayoutControls(int options, QWidget* parent = nullptr);
+  /// Adds its controls as rows to `form`, which outlives this. `options`: which of them there are
+  /// (NSPrintPanelShowsPaperSize, …Orientation, …Scaling).
+  PageLayoutControls(int options, QFormLayout* form, QObject* parent = nullptr);
 
   /// Shows these settings; changed() is not sent.
   void setPrintInfo(const NSPrintInfo& info);
   /// Writes what the controls say, and nothing else, into `info`. A factor that was not touched keeps its value.
   void applyTo(NSPrintInfo& info) const;
-  [[nodiscard]] QFormLayout* form() const { return form_; }
 
  signals:
   /// A person chose something.

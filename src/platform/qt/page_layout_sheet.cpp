@@ -1,6 +1,7 @@
 #include "platform/qt/page_layout_sheet.h"
 
 #include <QDialogButtonBox>
+#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -23,7 +24,6 @@ const QSizeF kSample(320, 240);
 PageLayoutSheet::PageLayoutSheet(const NSPrintInfo& info, QWidget* window)
     : QDialog(window),
       info_(info),
-      controls_(new PageLayoutControls(NSPrintPanelShowsPaperSize | NSPrintPanelShowsOrientation | NSPrintPanelShowsScaling)),
       preview_(new PageLayoutPreview),
       column_(new QVBoxLayout) {
   setWindowTitle(localizedString("Page Setup"));
@@ -33,7 +33,10 @@ PageLayoutSheet::PageLayoutSheet(const NSPrintInfo& info, QWidget* window)
   halves->addWidget(preview_, 1);
   halves->addLayout(column_);
   box->addLayout(halves, 1);
-  column_->addWidget(controls_);
+  auto* form = new QFormLayout;
+  controls_ = new PageLayoutControls(
+      NSPrintPanelShowsPaperSize | NSPrintPanelShowsOrientation | NSPrintPanelShowsScaling, form, this);
+  column_->addLayout(form);
   column_->addStretch(1);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   buttons->button(QDialogButtonBox::Ok)->setDefault(true);

@@ -44,7 +44,6 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
       spooler_(spooler),
       info_(operation.printInfo()),
       source_(operation.view().printSource()),
-      layout_(new PageLayoutControls(operation.printPanel().options())),
       headerAndFooter_(new QCheckBox(localizedString("Header and foo&ter"))) {
   setWindowTitle(localizedString("Print “%1”").arg(source_.jobTitle));
   setWindowModality(Qt::WindowModal);
@@ -56,7 +55,7 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   addPrinter(form);
   if (options & NSPrintPanelShowsCopies) addCopies(form);
   if (options & NSPrintPanelShowsPageRange) addPages(form);
-  form->addRow(layout_);
+  layout_ = new PageLayoutControls(options, form, this);
   headerAndFooter_->setObjectName(QStringLiteral("headerAndFooter"));
   headerAndFooter_->setChecked(info_.printsHeaderAndFooter());
   form->addRow(QString(), headerAndFooter_);
@@ -119,7 +118,7 @@ void PrintPanel::addCopies(QFormLayout* form) {
 }
 
 void PrintPanel::addPages(QFormLayout* form) {
-  allPages_ = new QRadioButton(localizedString("A&ll"));
+  allPages_ = new QRadioButton(localizedString("&All"));
   somePages_ = new QRadioButton(localizedString("Fro&m"));
   firstPage_ = new QSpinBox;
   lastPage_ = new QSpinBox;
@@ -205,7 +204,7 @@ bool PrintPanel::savesToFile() const { return printer_->currentData().toString()
 
 void PrintPanel::showState() {
   const bool file = savesToFile();
-  print_->setText(file ? localizedString("&Save…") : localizedString("&Print"));
+  print_->setText(file ? localizedString("Sa&ve…") : localizedString("&Print"));
   if (copies_) copies_->setEnabled(!file);
   bool usable = true;
   QString text = !printersKnown_               ? localizedString("Looking for printers…")

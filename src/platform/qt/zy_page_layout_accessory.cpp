@@ -50,7 +50,7 @@ void ZyPageLayoutAccessory::addMargins(QGridLayout* grid) {
     const char* name;
   };
   const Row rows[] = {{NSPrintTopMargin, "T&op:", "topMargin"},
-                      {NSPrintLeftMargin, "L&eft:", "leftMargin"},
+                      {NSPrintLeftMargin, "Left:", "leftMargin"},
                       {NSPrintBottomMargin, "&Bottom:", "bottomMargin"},
                       {NSPrintRightMargin, "&Right:", "rightMargin"}};
   int place = 0;

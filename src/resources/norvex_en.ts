@@ -4,6 +4,10 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>More</source>
+        <translation>More</translation>
+    </message>
+    <message>
         <source>%1 of %2</source>
         <translation>%1 of %2</translation>
     </message>
@@ -506,6 +510,10 @@
 </context>
 <context>
     <name>MainWindowController</name>
+    <message>
+        <source>Facts about the picture</source>
+        <translation>Facts about the picture</translation>
+    </message>
     <message>
         <source>&amp;About Norvex</source>
         <translation>&amp;About Norvex</translation>

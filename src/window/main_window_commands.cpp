@@ -59,7 +59,7 @@ void MainWindowController::connectCommands() {
     connect(action, &QAction::triggered, this, slot);
   };
   on(ui_->reloadAction, {Qt::Key_F5}, [this] { if (document_) document_->revertDocumentToSaved(); });
-  on(ui_->closeAction, {QKeySequence::Close}, [this] { window_->close(); });
+  on(ui_->closeAction, {Qt::CTRL | Qt::Key_W}, [this] { window_->close(); });
   on(ui_->saveAsAction, {QKeySequence::Save, Qt::CTRL | Qt::SHIFT | Qt::Key_S}, [this] { saveDocumentAs(); });
   on(ui_->copyAction, {QKeySequence::Copy}, [this] { copy(); });
   on(copyToolbarItem, {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, [this] { doCopy(copyToolbarItem); });
@@ -104,6 +104,8 @@ void MainWindowController::arrangeToolbar() {
   auto* gap = new QWidget(ui_->toolbar);
   gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   ui_->toolbar->insertWidget(inspectorToolbarItem, gap);
+  if (auto* more = ui_->toolbar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
+    more->setAccessibleName(localizedString("More"));
   for (QAction* action : {ui_->zoomOutAction, ui_->zoomInAction, ui_->fitAction, ui_->rotateLeftAction, ui_->rotateRightAction})
     if (auto* button = qobject_cast<QToolButton*>(ui_->toolbar->widgetForAction(action))) button->setToolButtonStyle(Qt::ToolButtonIconOnly);
 }

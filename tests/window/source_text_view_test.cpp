@@ -1,4 +1,5 @@
 // The source pane: long texts, finding, what is coloured, the keys.
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMainWindow>

@@ -45,8 +45,8 @@ class Scanner {
   QList<SourceSpan> markup() {
     qsizetype at = markupStart();
     while (wanted(at)) {
-      at = text_.indexOf(u'<', at);
-      if (at < 0 || at >= end_) break;
+      at = QStringView(text_).left(end_).indexOf(u'<', at);
+      if (at < 0) break;
       at = opened(at);
     }
     return spans_;
@@ -93,7 +93,7 @@ class Scanner {
 
   /// One past the next `close`, or the end of the part.
   [[nodiscard]] qsizetype past(qsizetype at, QStringView close) const {
-    const qsizetype found = text_.indexOf(close, at);
+    const qsizetype found = QStringView(text_).left(end_).indexOf(close, at);
     return found < 0 ? end_ : found + close.size();
   }
 
@@ -114,13 +114,14 @@ class Scanner {
 
   qsizetype tag(qsizetype at) {
     qsizetype from = at++;
-    while (at < end_ && !text_.at(at).isSpace() && text_.at(at) != u'>' && text_.at(at) != u'=') ++at;
+    if (at < end_ && text_.at(at) == u'/') ++at;
+    while (at < end_ && !text_.at(at).isSpace() && !QStringView(u">/=").contains(text_.at(at))) ++at;
     add(from, at, SourceToken::Tag);
     while (wanted(at)) {
       const QChar c = text_.at(at);
       if (c == u'"' || c == u'\'') {
         from = at;
-        const qsizetype close = text_.indexOf(c, at + 1);
+        const qsizetype close = QStringView(text_).left(end_).indexOf(c, at + 1);
         at = close < 0 ? end_ : close + 1;
         add(from, at, SourceToken::Value);
       } else if (c == u'<') {

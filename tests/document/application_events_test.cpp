@@ -6,6 +6,7 @@
 #include <new>
 
 #include "document/document.h"
+#include "document/unimplemented_method.h"
 #include "kit/test_main.h"
 #include "platform/picture/null_picture_service.h"
 #include "platform/qt/application.h"
@@ -24,6 +25,14 @@ class ApplicationEventsTest : public QObject {
     QVERIFY(failed.isEmpty());  // not in the middle of the event's handling
     QTRY_COMPARE(failed.size(), 1);
     QCOMPARE(failed.first().first().toString(), QString("readFromData:ofType:error: is unimplemented"));
+  }
+
+  void whatCanBeDoneIsToldInPlaceOfWhatIsNotDone() {
+    ApplicationEvents events;
+    QSignalSpy failed(&events, &ApplicationEvents::operationFailed);
+    events.guard([]() -> bool { throw UnimplementedMethod("dataOfType:error:", "Please retry with other format."); });
+    QTRY_COMPARE(failed.size(), 1);
+    QCOMPARE(failed.first().first().toString(), QString("Please retry with other format"));
   }
 
   void anExceptionPassesThroughSignalsAndSlots() {

@@ -35,6 +35,19 @@ RenderRequest render() {
   return {3, QTransform(2, 0.5, -0.5, 2, 10, 700), QSize(640, 480), RenderPurpose::Export};
 }
 
+PagesRequest pages() {
+  PagesRequest request;
+  request.paper = QSizeF(842, 595);
+  request.sheets = {{QRectF(0, 0, 10, 20), QRectF(1, 2, 30, 40)}, {QRectF(), QRectF()}};
+  request.title = "A job";
+  request.header = SheetLine{"\t\tdate", QRectF(1, 2, 3, 4)};
+  request.footer = SheetLine{"title\t\t", QRectF(5, 6, 7, 8)};
+  request.fontFamily = "sans-serif";
+  request.fontSize = 8.5;
+  request.picture = false;
+  return request;
+}
+
 QList<WorkerMessage> messages() {
   return {
       WorkerRequest{1, OpenRequest{PictureKind::Svg, {5, 256, 12.5}}},
@@ -48,6 +61,7 @@ QList<WorkerMessage> messages() {
       WorkerRequest{
           8, AttributesRequest{{{"Title", "t"}}, QDateTime(QDate(2001, 1, 1), QTime(1, 2, 3), Qt::UTC)}},
       CancelRequest{9},
+      WorkerRequest{10, pages()},
   };
 }
 
@@ -103,7 +117,7 @@ void forEachSpoiltMap(const QCborMap& map, const std::function<void(const QCborM
   }
 }
 
-const QStringList kOptional{"rect", "date", "viewBox", "fixedRatioX", "fixedRatioY"};
+const QStringList kOptional{"header", "footer", "rect", "date", "viewBox", "fixedRatioX", "fixedRatioY"};
 
 }  // namespace
 
@@ -275,6 +289,37 @@ class WorkerProtocolTest : public QObject {
     QVERIFY(map.contains(key));
     map.insert(key, value);
     QVERIFY(isRefused(decodeReply(cborOf(map))));
+  }
+
+  void theSheetsOfAJobAreKept() {
+    const auto read =
+        std::get<PagesRequest>(std::get<WorkerRequest>(*decodeMessage(encodeMessage(messages().last()))).body);
+    QCOMPARE(read.paper, QSizeF(842, 595));
+    QCOMPARE(read.sheets.size(), 2);
+    QCOMPARE(read.sheets.first().source, QRectF(0, 0, 10, 20));
+    QCOMPARE(read.sheets.first().target, QRectF(1, 2, 30, 40));
+    QVERIFY(read.sheets.last().target.isEmpty());
+    QCOMPARE(read.header->text, QString("\t\tdate"));
+    QCOMPARE(read.footer->rect, QRectF(5, 6, 7, 8));
+    QCOMPARE(read.title + read.fontFamily, QString("A jobsans-serif"));
+    QCOMPARE(read.fontSize, 8.5);
+    QVERIFY(!read.picture);
+  }
+
+  void unusableSheetsAreRefused() {
+    const auto refused = [](const std::function<void(PagesRequest&)>& spoil) {
+      PagesRequest request = pages();
+      spoil(request);
+      return isRefused(decodeMessage(encodeMessage(WorkerRequest{1, request})));
+    };
+    QVERIFY(!refused([](PagesRequest&) {}));
+    QVERIFY(refused([](PagesRequest& request) { request.sheets.clear(); }));
+    QVERIFY(refused([](PagesRequest& request) { request.paper = QSizeF(0, 10); }));
+    QVERIFY(refused([](PagesRequest& request) { request.paper = QSizeF(1e9, 10); }));
+    QVERIFY(refused([](PagesRequest& request) { request.fontSize = 0; }));
+    QVERIFY(refused([](PagesRequest& request) { request.fontSize = 1e6; }));
+    QVERIFY(refused([](PagesRequest& request) { request.sheets[0].target.setWidth(-1); }));
+    QVERIFY(refused([](PagesRequest& request) { request.header->rect.setX(std::numeric_limits<double>::infinity()); }));
   }
 
   void requestsOutOfRangeAreRefused() {

@@ -307,6 +307,40 @@ class PrintJobTest : public QObject {
     QVERIFY(operation->result()->ok());
   }
 
+  void aRectangleOfATurnedViewIsPrintedAsItIsThere() {
+    open({200, 100});
+    NorvexView shown;
+    shown.setImageSize({200, 100});
+    shown.setImageRep(rep_);
+    shown.setRotate(0.5235987755982988, false);  // 30 degrees
+    const QRectF rect(-40, -30, 80, 60);
+    const QByteArray pdf = shown.dataWithPDFInsideRect(rect);
+    const auto part = NSPDFImageRep::imageRepWithData(*service_, pdf);
+    QVERIFY(part.ok());
+    auto view = std::make_shared<NorvexRenderingView>(QRectF(QPointF(0, 0), rect.size()), part->get());
+    NSPrintInfo info = a4();
+    info.setJobSavingPath(path("out.pdf"));
+    MemorySpooler spooler;
+    QVERIFY(runJob(PrintableRenderingView(view, *part).printSource(), info, *service_, spooler).ok());
+    const QImage page = drawn();
+    const QPointF middle(kLong / 2, page.height() - kShort / 2);
+    int compared = 0;
+    for (double y = -35; y <= 35; y += 5) {
+      for (double x = -45; x <= 45; x += 5) {
+        // The halves meet in a line through the middle, 30 degrees left of upright. What is beside the edge between
+        // two colours is not looked at.
+        const double side = x * std::cos(0.5235987755982988) + y * std::sin(0.5235987755982988);
+        const bool inside = std::abs(x) < 40 && std::abs(y) < 30, beside = std::abs(x) == 40 || std::abs(y) == 30;
+        if (beside || std::abs(side) < 2) continue;
+        const QColor expected = !inside ? Qt::white : side < 0 ? Qt::red : Qt::blue;
+        QCOMPARE(page.pixelColor((middle + QPointF(x, -y)).toPoint()), expected);
+        ++compared;
+      }
+    }
+    QVERIFY(compared > 150);
+    QCOMPARE(run("pdfimages", {"-list", path("out.pdf")}).out.count('\n'), 2);
+  }
+
   void theTurnedPictureIsPrintedAsItIsShown() {
     open({200, 100});
     NorvexView shown;

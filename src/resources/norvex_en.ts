@@ -507,6 +507,206 @@
         <source>“%1” exists already.</source>
         <translation>“%1” exists already.</translation>
     </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;All</translation>
+    </message>
+    <message>
+        <source>&amp;Bottom:</source>
+        <translation>&amp;Bottom:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit on one page</source>
+        <translation>&amp;Fit on one page</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>&amp;Landscape</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Print</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Print…</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>&amp;Right:</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>&amp;Scaling:</translation>
+    </message>
+    <message>
+        <source>Centre &amp;horizontally</source>
+        <translation>Centre &amp;horizontally</translation>
+    </message>
+    <message>
+        <source>Centre &amp;vertically</source>
+        <translation>Centre &amp;vertically</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>First page</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m</source>
+        <translation>Fro&amp;m</translation>
+    </message>
+    <message>
+        <source>Header and foo&amp;ter</source>
+        <translation>Header and foo&amp;ter</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>Last page</translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation>Left:</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>Looking for printers…</translation>
+    </message>
+    <message>
+        <source>Makes the picture smaller until one page holds it</source>
+        <translation>Makes the picture smaller until one page holds it</translation>
+    </message>
+    <message>
+        <source>Margins</source>
+        <translation>Margins</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Next page</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientation:</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>P&amp;rinter:</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>Page Set&amp;up…</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>Page Setup</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages:</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>Pap&amp;er:</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>Portra&amp;it</source>
+        <translation>Portra&amp;it</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Preview of the page</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Previous page</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>Print “%1”</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Printer</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Printing</translation>
+    </message>
+    <message>
+        <source>Printing “%1”…</source>
+        <translation>Printing “%1”…</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Ready</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>Sa&amp;ve…</translation>
+    </message>
+    <message>
+        <source>Save as PDF file</source>
+        <translation>Save as PDF file</translation>
+    </message>
+    <message>
+        <source>Save the pages as PDF</source>
+        <translation>Save the pages as PDF</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Scaling</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Stopped</translation>
+    </message>
+    <message>
+        <source>T&amp;op:</source>
+        <translation>T&amp;op:</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>Takes no jobs</translation>
+    </message>
+    <message>
+        <source>The date above the picture and the file's location below it, on every page</source>
+        <translation>The date above the picture and the file's location below it, on every page</translation>
+    </message>
+    <message>
+        <source>The margins leave no room on the paper.</source>
+        <translation>The margins leave no room on the paper.</translation>
+    </message>
+    <message>
+        <source>The pages become a PDF file.</source>
+        <translation>The pages become a PDF file.</translation>
+    </message>
+    <message>
+        <source>There is no printer.</source>
+        <translation>There is no printer.</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>“%1” was not printed.</source>
+        <translation>“%1” was not printed.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -64,8 +64,8 @@ Result<NSBitmapImageRep> decodeTiff(const QByteArray& tiff, const PictureLimits&
 /// transform, clipped to the rectangle; nothing is drawn again. Coordinates as in ComposeRequest.
 Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& request);
 
-/// `pdf` with its document information replaced by exactly `attributes` ("Title", "Author", "Subject", "Creator",
-/// "Producer" …; the names are PDF's) and `creationDate`. Metadata that would contradict them is dropped.
+/// `pdf` with `attributes` ("Title", "Author", "Subject", "Creator", "Producer" …; the names are PDF's) and
+/// `creationDate` set in its document information; other entries stay. Metadata that would contradict them is dropped.
 Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& attributes,
                                     const std::optional<QDateTime>& creationDate);
 

@@ -72,10 +72,14 @@ function(norvex_tests folder)
   # The code under test is optimised, the tests are not: they compile in half the time.
   target_compile_options(${target}_tests PRIVATE $<$<CONFIG:Release>:-O0>)
   target_precompile_headers(${target}_tests PRIVATE ${NORVEX_PCH} <QtTest>)
+  set(timeout 300)
+  if(folder STREQUAL "system")
+    set(timeout 1200)  # whole programs over real files, on whatever machine this is
+  endif()
   foreach(case ${cases})
     get_filename_component(stem ${case} NAME_WE)
     add_test(NAME ${folder}/${stem} COMMAND ${target}_tests --case ${stem})
     set_tests_properties(${folder}/${stem} PROPERTIES
-      TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC;QT_LOGGING_RULES=qt.qpa.*=false")
+      TIMEOUT ${timeout} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC;QT_LOGGING_RULES=qt.qpa.*=false")
   endforeach()
 endfunction()

@@ -113,7 +113,8 @@ void NorvexView::mouseUp(const QPointF& point) {
 }
 
 void NorvexView::periodicEvent(const QPointF& point) {
-  if (selection_.tracking() && !visibleRect().contains(point)) trackEvent(point, true);
+  if (!selection_.tracking() || !selection_.sawDrag()) return;
+  if (!visibleRect().contains(point)) trackEvent(point, true);
 }
 
 void NorvexView::cancelTracking() {

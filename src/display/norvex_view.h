@@ -117,7 +117,8 @@ class NorvexView {
   bool mouseDown();
   void mouseDragged(const QPointF& point);
   void mouseUp(const QPointF& point);
-  /// A tick of ViewHost::setPeriodicEvents: counts as a drag while `point` lies outside the visible part.
+  /// A tick of ViewHost::setPeriodicEvents: once the pointer was dragged, counts as a drag while `point` lies
+  /// outside the visible part. A press that is only held stays a click, however long it takes.
   void periodicEvent(const QPointF& point);
   /// The pointer was lost during a drag: the selection is cleared.
   void cancelTracking();

@@ -6,8 +6,6 @@
 
 #include <algorithm>
 
-#include "metadata/full_date.h"
-
 namespace norvex {
 
 PageLine defaultPageLine() {

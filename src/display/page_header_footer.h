@@ -9,6 +9,8 @@
 
 #include <optional>
 
+#include "metadata/full_date.h"
+
 class QPainter;
 
 namespace norvex {
@@ -26,7 +28,7 @@ struct PageLine {
 /// Date and time, in full and after the user's locale and calendar, at the right end. Nothing with a null
 /// title. Any thread.
 [[nodiscard]] std::optional<PageLine> pageHeader(const QString& title, const QDateTime& now,
-                                                 const QLocale& locale = QLocale());
+                                                 const QLocale& locale = userDateLocale());
 /// The title at the left end. Nothing with a null title. Any thread.
 [[nodiscard]] std::optional<PageLine> pageFooter(const QString& title);
 

@@ -32,6 +32,9 @@ class Selection {
   /// Between press() and release() or cancel().
   [[nodiscard]] bool tracking() const { return drag_ != Drag::None; }
 
+  /// Whether the pointer has moved since the last press(); without that it is a click.
+  [[nodiscard]] bool sawDrag() const { return sawDrag_; }
+
   /// No selection, with its origin and the start point at `point`.
   void reset(const QPointF& point);
   /// The button went down. The press supplies no point; `bounds` is where tracked points are kept in.

@@ -82,6 +82,31 @@ class NorvexViewTest : public QObject {
              (QStringList{"    50.00\t    40.00", "    90.00\t    60.00", "    40.00\t    30.00"}));
   }
 
+  void theShortFormIsUsedForAStartPointInBothSenses() {
+    for (const bool clockwise : {false, true}) {
+      ViewFixture f;
+      f.delegate.clockwise = clockwise;
+      f.drag({{-49.5, -20.125}});
+      QCOMPARE(f.view.selectRect().size(), QSizeF(1, 0));
+      QCOMPARE(f.delegate.last, (QStringList{clockwise ? "50.5\t70.125" : "50.5\t29.875", "", ""}));
+    }
+  }
+
+  void whereTheSensesAgreeThePictureIsUpright() {
+    for (const bool sense : {false, true}) {
+      ViewFixture f;
+      f.delegate.clockwise = sense;
+      f.view.setFlippedCoordinate(sense);
+      f.drag({{-50, -20}});
+      f.drag({{-10, 10}});
+      QCOMPARE(f.delegate.last, (QStringList{"50\t30", "90\t60", "40\t30"}));
+      f.view.setFlippedCoordinate(!sense);
+      f.view.infoSelectedArea();
+      QCOMPARE(f.delegate.last,
+               (QStringList{"    50.00\t    40.00", "    90.00\t    60.00", "    40.00\t    30.00"}));
+    }
+  }
+
   void aFlippedTurnedPictureRotatesItsEndPointPlainly() {
     ViewFixture f;
     f.delegate.clockwise = true;

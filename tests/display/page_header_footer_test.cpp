@@ -40,10 +40,12 @@ class PageHeaderFooterTest : public QObject {
   void withoutATitleThereIsNeither() {
     QVERIFY(!pageHeader(QString(), moment));
     QVERIFY(!pageFooter(QString()));
-    const NorvexView view;
+    NorvexView view;
+    view.setPrintJobTitle("a job's title is no page's title");
     QVERIFY(!view.pageHeader());
     QVERIFY(!view.pageFooter());
-    const NorvexRenderingView rendering(QRectF(0, 0, 10, 10), nullptr);
+    NorvexRenderingView rendering(QRectF(0, 0, 10, 10), nullptr);
+    rendering.setPrintJobTitle("a job's title is no page's title");
     QVERIFY(!rendering.pageHeader());
     QVERIFY(!rendering.pageFooter());
   }
@@ -66,12 +68,34 @@ class PageHeaderFooterTest : public QObject {
     QVERIFY(japanese->text.contains(QString::fromUtf8("2014年2月3日")));
   }
 
+  void theHeaderFollowsTheCalendar() {
+    const auto thai = pageHeader("t", moment, QLocale(QLocale::Thai, QLocale::Thailand));
+    QVERIFY2(thai->text.contains("2557"), qPrintable(thai->text));  // 543 years ahead
+    QVERIFY(!thai->text.contains("2014"));
+  }
+
+  void theHeaderIsInTheLanguageOfTheUsersDates() {
+    const QByteArray before = qgetenv("LC_ALL");
+    qputenv("LC_ALL", "de_DE.UTF-8");
+    QLocale::setDefault(QLocale::system());
+    const auto german = pageHeader("t", moment);
+    QLocale::setDefault(QLocale::c());
+    if (before.isNull())
+      qunsetenv("LC_ALL");
+    else
+      qputenv("LC_ALL", before);
+    QVERIFY2(german->text.contains("Montag, 3. Februar 2014"), qPrintable(german->text));
+  }
+
   void theDateIsTakenAnewForEachRequest() {
     NorvexView view;
     view.setTitle("t");
-    const auto first = view.pageHeader();
-    QVERIFY(first && !first->text.trimmed().isEmpty());
+    NorvexRenderingView rendering(QRectF(), nullptr);
+    rendering.setTitle("t");
+    const auto first = view.pageHeader(), printed = rendering.pageHeader();
+    QVERIFY(first && !first->text.trimmed().isEmpty() && printed);
     QTRY_VERIFY_WITH_TIMEOUT(view.pageHeader()->text != first->text, 5000);  // a second goes by
+    QTRY_VERIFY_WITH_TIMEOUT(rendering.pageHeader()->text != printed->text, 5000);
   }
 
   void theFooterBeginsWithTheTitle() {

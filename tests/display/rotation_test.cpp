@@ -1,14 +1,19 @@
 // Rotation: normalisation, the view's new frame and bounds, and what becomes of the selection.
+#include <QImage>
+#include <QPainter>
 #include <QRandomGenerator>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
 
 #include "display/norvex_view.h"
 #include "display/picture_geometry.h"
 #include "display/view_fixture.h"
 #include "kit/test_main.h"
+#include "platform/picture/image_rep.h"
+#include "platform/picture/memory_picture_service.h"
 
 using namespace norvex;
 using norvex::kit::ViewFixture;
@@ -17,6 +22,29 @@ namespace {
 
 bool near(double a, double b, double slack = 1e-9) {
   return std::abs(a - b) <= slack;
+}
+
+/// Keeps the transform that it is drawn with.
+class TransformRep final : public NSImageRep {
+ public:
+  explicit TransformRep(const QSizeF& size)
+      : NSImageRep(PictureKind::Eps, QByteArray(),
+                   std::make_shared<MemoryPictureProcess>(QByteArray(), MemoryPicture())),
+        size_(size) {}
+  [[nodiscard]] QSizeF size() const override { return size_; }
+  void draw(QPainter& painter) override { used = painter.transform(); }
+
+  QTransform used;
+
+ private:
+  QSizeF size_;
+};
+
+/// The representable number `steps` after `value`, or before it where steps is negative.
+double neighbour(double value, int steps) {
+  for (; steps > 0; --steps) value = std::nextafter(value, 10.0);
+  for (; steps < 0; ++steps) value = std::nextafter(value, -10.0);
+  return value;
 }
 
 QSizeF extentOfTurnedCorners(const QSizeF& size, double angle) {
@@ -89,6 +117,18 @@ class RotationTest : public QObject {
     QVERIFY(f.host.calls.isEmpty());
   }
 
+  void theSameResultFromTheOtherSenseDoesNothingEither() {
+    ViewFixture f;
+    f.view.selectBounds();
+    f.view.setRotate(M_PI, false);
+    f.host.calls.clear();
+    const int before = f.delegate.reports;
+    f.view.setRotate(M_PI, true);  // the rest of a whole turn is as much again
+    QVERIFY(f.host.calls.isEmpty());
+    QCOMPARE(f.delegate.reports, before);
+    QCOMPARE(f.view.rotate(), M_PI);
+  }
+
   void theTestForEqualityComesBeforeNormalisation() {
     ViewFixture f;
     f.view.setRotate(0.5, false);
@@ -114,6 +154,28 @@ class RotationTest : public QObject {
     QCOMPARE(f.host.calls.size(), 3);
     QCOMPARE(f.host.calls.at(1), QString("displayRect -50,-100 100x200"));  // the whole bounds
     QVERIFY(f.host.calls.at(2).startsWith("report "));
+  }
+
+  void aCornerMovedToTheEdgeKeepsTheWidth() {
+    ViewFixture f;
+    f.drag({{-100, -40}});
+    f.drag({{-70, -20}});
+    f.view.setRotate(M_PI / 2, false);
+    QVERIFY(near(f.view.selectRect().x(), -50) && near(f.view.selectRect().width(), 30));
+    QCOMPARE(f.view.selectRect().y(), -40.0);
+    QCOMPARE(f.view.selectRect().height(), 20.0);
+  }
+
+  void aRectangleThatIsLeftNoWidthReportsThreeEmptyTexts() {
+    ViewFixture f;
+    f.drag({{60, -20}});
+    f.drag({{90, 20}});
+    f.host.calls.clear();
+    f.view.setRotate(M_PI / 2, false);
+    QVERIFY(near(f.view.selectRect().x(), 50));
+    QCOMPARE(f.view.selectRect().width(), 0.0);
+    QCOMPARE(f.view.selectRect().height(), 40.0);
+    QCOMPARE(f.host.calls.last(), QString("report ||"));
   }
 
   void aStartPointOutsideTheNewBoundsMovesToTheirEdge() {
@@ -173,7 +235,7 @@ class RotationTest : public QObject {
       // Right angles and their neighbours, where the quadrant changes, are tried as often as any other angle.
       const double angle =
           i % 2 ? random.bounded(twoPi)
-                : std::clamp(random.bounded(5) * twoPi / 4 + (random.bounded(3) - 1) * 1e-16, 0.0, twoPi);
+                : std::clamp(neighbour(random.bounded(5) * twoPi / 4, random.bounded(7) - 3), 0.0, twoPi);
       const QSizeF expected = extentOfTurnedCorners(size, angle), computed = rotatedBoundingSize(size, angle);
       QVERIFY2(
           near(computed.width(), expected.width()) && near(computed.height(), expected.height()),
@@ -188,6 +250,35 @@ class RotationTest : public QObject {
       const double angle = random.bounded(twoPi);
       const QPointF point(random.bounded(4000.0) - 2000, random.bounded(4000.0) - 2000);
       const QPointF back = viewToPicture(pictureToView(size, angle).map(point), size, angle);
+      QVERIFY(near(back.x(), point.x()) && near(back.y(), point.y()));
+    }
+  }
+
+  void theDrawingTransformUndoesViewToPicture() {
+    QRandomGenerator random(10);
+    for (int i = 0; i < 20000; ++i) {
+      const QSizeF size(random.bounded(2000.0), random.bounded(2000.0));
+      const double angle = random.bounded(twoPi);
+      const QPointF point(random.bounded(4000.0) - 2000, random.bounded(4000.0) - 2000);
+      const QPointF back = pictureToView(size, angle).map(viewToPicture(point, size, angle));
+      QVERIFY(near(back.x(), point.x()) && near(back.y(), point.y()));
+    }
+  }
+
+  void theViewDrawsWithTheInverseOfItsMapping() {
+    QRandomGenerator random(11);
+    for (int i = 0; i < 500; ++i) {
+      const QSizeF size(1 + random.bounded(2000.0), 1 + random.bounded(2000.0));
+      const auto rep = std::make_shared<TransformRep>(size);
+      NorvexView view;
+      view.setImageRep(rep);
+      view.setImageSize(size);
+      view.setRotate(random.bounded(100.0) - 50, random.bounded(2) == 1);
+      QImage image(4, 4, QImage::Format_ARGB32_Premultiplied);
+      QPainter painter(&image);
+      view.drawRect(painter, view.bounds(), DrawingDestination::Printer);
+      const QPointF point(random.bounded(4000.0) - 2000, random.bounded(4000.0) - 2000);
+      const QPointF back = viewToPicture(rep->used.map(point), size, view.rotate());
       QVERIFY(near(back.x(), point.x()) && near(back.y(), point.y()));
     }
   }

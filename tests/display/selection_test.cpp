@@ -170,6 +170,21 @@ class SelectionTest : public QObject {
     QCOMPARE(f.view.selectRect(), QRectF(100, 10, 1, 0));
   }
 
+  void aPressHeldOutsideIsStillAClick() {
+    WithRectangle f;
+    QVERIFY(f.view.mouseDown());
+    f.host.calls.clear();
+    for (int tick = 0; tick < 5; ++tick) f.view.periodicEvent({150, 10});
+    QVERIFY(f.host.calls.isEmpty());
+    f.view.mouseUp({150, 10});
+    QCOMPARE(f.view.selectRect().size(), QSizeF(0, 0));
+    QCOMPARE(f.delegate.last, (QStringList{"", "", ""}));
+    f.drag({{10, 20}});
+    QVERIFY(f.view.mouseDown());  // nor does it stretch anything
+    f.view.periodicEvent({150, 40});
+    QCOMPARE(f.view.selectRect(), QRectF(10, 20, 1, 0));
+  }
+
   void aPressNeedsAPictureAndAnAgreeingWindow() {
     ViewFixture f;
     f.host.agreesToFirstResponder = false;

@@ -52,7 +52,7 @@ void MainWindowController::setUpControls() {
 }
 
 void MainWindowController::setUpTitles() {
-  scrollArea_->setBackgroundColor(backgroundColorWell()->color());
+  backgroundColorWell()->setColor(scrollArea_->backgroundColor());
   backgroundColorWell()->setToolTip(localizedString("OrderfrontColorWell"));
   windowBackgroundColorTitle()->setText(localizedString("BackgroundColor"));
   rotateField()->setNumberFormat(NumberFormat(kAngleFormat));

@@ -112,6 +112,20 @@ class InspectorTest : public QObject {
     QCOMPARE(c.previewImageView()->backgroundColor(), QColor(Qt::red));
   }
 
+  void theSetUpGivesTheWellThePicturesBackground() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    c.backgroundColorWell()->setColor(Qt::green);
+    c.useBackgroundAction(Qt::Checked);
+    c.useBackgroundSwitch()->setCheckState(Qt::Unchecked);
+    c.backgroundColorWell()->setColor(Qt::red);
+    c.takeColor(Qt::red);  // for the preview alone
+    c.windowDidLoad();
+    QCOMPARE(c.scrollArea()->backgroundColor(), QColor(Qt::green));
+    QCOMPARE(c.backgroundColorWell()->color(), QColor(Qt::green));
+    QCOMPARE(c.previewImageView()->backgroundColor(), QColor(Qt::green));
+  }
+
   void useIsOnInEveryStateButOff_data() {
     QTest::addColumn<int>("state");
     QTest::newRow("mixed") << int(Qt::PartiallyChecked);

@@ -116,6 +116,8 @@ class MainWindowLoadingTest : public QObject {
     QVERIFY(dynamic_cast<NSEPSImageRep*>(c.view()->imageRep().get()));
     QCOMPARE(cells(c), QStringList({"10", "20", "200", "100"}));
     QCOMPARE(c.epsMatrixBox->title(), QStringLiteral("Bounds"));
+    QCOMPARE(c.previewField->text(), QStringLiteral("Include Preview"));
+    QCOMPARE(c.previewImageView()->image().size(), QSize(8, 1));
   }
 
   void anIllustratorFileThatIsPostScriptGetsTheEpsHeader() {
@@ -299,6 +301,23 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.messageBar()->message(), QStringLiteral("No XML."));
   }
 
+  void anSvgThatCannotBeLoadedAgainLeavesTheViewsNumbers() {
+    WindowFixture fixture;
+    fixture.service.setPicture(svgPicture(QRectF(1, 2, 400, 50)));
+    MainWindowController& c = fixture.loaded(kSvg, "a.svg", UTTypeSVG().identifier());
+    fixture.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Facts, {ErrorKind::NotParsable, "no XML"});
+    });
+    fixture.document.revertDocumentToSaved();
+    QVERIFY(!c.view()->imageRep());
+    QCOMPARE(c.view()->imageSize(), QSizeF(200, 100));
+    QCOMPARE(c.view()->coordinateRect(), QRectF(1, 2, 400, 50));
+    QCOMPARE(c.view()->scaleX(), 0.5);
+    QCOMPARE(c.view()->scaleY(), 2.0);
+    QVERIFY(!c.dialKnob()->clockwise());
+    QVERIFY(!c.rotateField()->isEnabled());
+  }
+
   void theFixedTextsAndNumbersOfTheSetUp() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loadedEps();
@@ -308,7 +327,15 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.rotateField()->toolTip(), QStringLiteral("D.M.S."));
     QCOMPARE(c.rotateField()->text(), QStringLiteral("0.0000"));
     QCOMPARE(c.colorSpaceNameForm()->titleAtIndex(0)->text(), QStringLiteral("ColorSpaceName:"));
-    QCOMPARE(c.startPoint->toolTip(), QStringLiteral("SelectedRectangle"));
+    for (const QLabel* point : {c.startPoint, c.endPoint}) {
+      QCOMPARE(point->toolTip(), QStringLiteral("SelectedRectangle"));
+      QCOMPARE(point->text(), QString());
+    }
+    QCOMPARE(c.titleForm()->toolTip(), QStringLiteral("Title"));
+    QCOMPARE(c.epsMatrix->toolTip(), QStringLiteral("ViewBox"));
+    QCOMPARE(c.encodingForm()->toolTip(), QStringLiteral("Encoding"));
+    QCOMPARE(c.copyToolbarItem->text(), QStringLiteral("Copy"));
+    QCOMPARE(c.doPrintingToolbarItem->text(), QStringLiteral("Print"));
     QCOMPARE(c.dialKnob()->toolTip(), QStringLiteral("RotateImageByMousedragg"));
     QCOMPARE(c.inspectorToolbarItem->text(), QStringLiteral("Inspector"));
     QCOMPARE(c.copyToolbarItem->toolTip(), QStringLiteral("The range of the selection or visible rect are copied onto the paste board."));

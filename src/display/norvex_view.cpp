@@ -52,6 +52,12 @@ void NorvexView::setImageRep(std::shared_ptr<NSImageRep> imageRep) {
   });
 }
 
+void NorvexView::setImageSize(const QSizeF& size) {
+  // Exact, unlike QSizeF's comparison.
+  if (size.width() != imageSize_.width() || size.height() != imageSize_.height()) imageSizeIsNew_ = true;
+  imageSize_ = size;
+}
+
 QRectF NorvexView::visibleRect() const {
   return host_ ? host_->visibleRect() : bounds_;
 }
@@ -64,7 +70,9 @@ void NorvexView::setFrameSize(const QSizeF& size) {
 
 void NorvexView::setRotate(double angle, bool clockwise) {
   if (clockwise != flippedCoordinate_) angle = twoPi - angle;
-  if (rotate_ == angle) return;
+  // A picture that was read again may have another size at the same angle.
+  if (rotate_ == angle && !imageSizeIsNew_) return;
+  imageSizeIsNew_ = false;
   rotate_ = normalizedAngle(angle);
   const QSizeF size = rotatedBoundingSize(imageSize_, rotate_);
   frame_.setSize(size);

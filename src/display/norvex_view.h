@@ -76,7 +76,8 @@ class NorvexView {
   void setScaleX(double scale) { scaleX_ = scale; }
   void setScaleY(double scale) { scaleY_ = scale; }
   [[nodiscard]] const QSizeF& imageSize() const { return imageSize_; }  ///< unrotated, points
-  void setImageSize(const QSizeF& size) { imageSize_ = size; }
+  /// The frame follows with the next setRotate(), be it to the angle that the view has already.
+  void setImageSize(const QSizeF& size);
   [[nodiscard]] bool flippedCoordinate() const { return flippedCoordinate_; }
   void setFlippedCoordinate(bool flipped) { flippedCoordinate_ = flipped; }
   [[nodiscard]] const std::shared_ptr<NSImageRep>& imageRep() const { return imageRep_; }
@@ -158,6 +159,7 @@ class NorvexView {
   QRectF coordinateRect_;
   double scaleX_ = 1, scaleY_ = 1;
   QSizeF imageSize_{0, 0};
+  bool imageSizeIsNew_ = false;  ///< set since the frame was last made for it
   QString arrowKeysString_;
   QPointF topLeft_, bottomRight_;
   NorvexViewDelegate* delegate_ = nullptr;

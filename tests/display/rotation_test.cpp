@@ -140,8 +140,8 @@ class RotationTest : public QObject {
     QCOMPARE(f.view.frame(), QRectF(0, 0, 50, 60));
     QCOMPARE(f.view.bounds(), QRectF(-25, -30, 50, 60));
     QCOMPARE(f.view.selectRect(), QRectF(-25, -30, 50, 50));
-    QCOMPARE(f.host.calls, (QStringList{"frameDidChange", "displayRect -25,-30 50x60",
-                                        "report 0\t0|50\t50|50\t50"}));
+    QCOMPARE(f.host.calls,
+             (QStringList{"frameDidChange", "displayRect -25,-30 50x60", "report 0\t0|50\t50|50\t50"}));
     f.view.setImageSize({50, 60});
     f.view.setRotate(0, false);
     QCOMPARE(f.host.calls.size(), 3);

@@ -41,6 +41,9 @@ QByteArray pngOf(const NSBitmapImageRep& rep) {
 ExitCode Job::preview(const Arguments& arguments) {
   const QString file = arguments.files.first();
   const QString output = arguments.values.value(Option::Output);
+  if (output != QLatin1String("-") && isSameFile(file, output)) {
+    return fail(file, {ErrorKind::CannotWrite, QStringLiteral("the output would overwrite the input")});
+  }
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
   const Result<PictureKind> kind = pictureKindOfInput(*bytes, typeOfInput(*bytes, file));

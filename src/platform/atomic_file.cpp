@@ -108,6 +108,9 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, I
   const auto old = statusOf(path);
   if (old && S_ISDIR(old->st_mode)) return cannotWrite(EISDIR);
   if (old && ifExists == IfExists::Fail) return cannotWrite(EEXIST);
+  if (old && !S_ISREG(old->st_mode)) {
+    return Error{ErrorKind::CannotWrite, QStringLiteral("it is not an ordinary file")};  // a device, a pipe
+  }
   if (old && (old->st_mode & S_IWUSR) == 0) return Error{ErrorKind::CannotWrite, QStringLiteral("the file is read-only")};
   const QString target = old ? QFileInfo(path).canonicalFilePath() : path;
 

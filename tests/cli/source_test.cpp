@@ -85,6 +85,13 @@ class SourceTest : public QObject {
     QCOMPARE(image.pixel(3, 1), qRgb(255, 255, 255));
   }
 
+  void aPreviewNeverOverwritesItsInput() {
+    CommandLine line;
+    const QString file = line.write("a.epsi", kEpsi);
+    QCOMPARE(line.run({"preview", file, "-o", file, "--force"}), 4);
+    QCOMPARE(line.contents("a.epsi"), kEpsi);
+  }
+
   void thePreviewGoesToStandardOutput() {
     CommandLine line;
     const QString file = line.write("a.epsi", kEpsi);

@@ -93,6 +93,16 @@ class AtomicFileTest : public QObject {
     QVERIFY(!refused);
     QCOMPARE(refused.error().message, QStringLiteral("there is a folder of that name"));
   }
+  void aPipeIsNotReplacedByAFile() {
+    const QString path = folder_->filePath(QStringLiteral("pipe"));
+    QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
+    const auto refused = writeFileAtomically(path, "x", IfExists::Replace);
+    QVERIFY(!refused);
+    QCOMPARE(refused.error().message, QStringLiteral("it is not an ordinary file"));
+    struct stat status{};
+    ::stat(qPrintable(path), &status);
+    QVERIFY(S_ISFIFO(status.st_mode));
+  }
   void aFullDiskLeavesTheOldFile() {
     const QString small = folder_->filePath(QStringLiteral("small"));
     QDir().mkpath(small);

@@ -51,6 +51,18 @@ MemoryPicture svgPicture() {
 class ImageRepTest : public QObject {
   Q_OBJECT
  private slots:
+  void anEpsInUtf16IsAPicture() {
+    MemoryPictureService service;
+    for (const bool little : {false, true}) {
+      QByteArray bytes = little ? QByteArray("\xFF\xFE") : QByteArray("\xFE\xFF");
+      for (const char c : QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 30 40\n%%EndComments\n"))
+        bytes += little ? QByteArray(1, c) + QByteArray(1, '\0') : QByteArray(1, '\0') + QByteArray(1, c);
+      const auto rep = NSEPSImageRep::imageRepWithData(service, bytes);
+      QVERIFY2(rep.ok(), rep ? "" : qPrintable(rep.error().message));
+      QCOMPARE((*rep)->boundingBox(), QRectF(0, 0, 30, 40));
+    }
+  }
+
   // ---- EPS
   void anEpsTellsItsBoxesWithoutAskingTheProcess() {
     MemoryPictureService service;

@@ -121,12 +121,17 @@ class XSession {
   QByteArray said() { return program_.readAll(); }
 
   // ---- hands and eyes; points are pixels of the screen
+  /// xdotool waits in vain for a pointer that is there already, so it comes from the pixel beside.
+  static QStringList pointerTo(const QPoint& at) {
+    const QString x = QString::number(at.x()), y = QString::number(at.y());
+    return {"mousemove", QString::number(at.x() + 1), y, "mousemove", "--sync", x, y};
+  }
   void key(const QString& keys) { xdo({"key", "--clearmodifiers", keys}); }
   void click(const QPoint& at, int times = 1) {
-    xdo({"mousemove", "--sync", QString::number(at.x()), QString::number(at.y()), "click", "--repeat", QString::number(times), "--delay", "60", "1"});
+    xdo(pointerTo(at) + QStringList{"click", "--repeat", QString::number(times), "--delay", "60", "1"});
   }
-  void press(const QPoint& at) { xdo({"mousemove", "--sync", QString::number(at.x()), QString::number(at.y()), "mousedown", "1"}); }
-  void moveTo(const QPoint& at) { xdo({"mousemove", "--sync", QString::number(at.x()), QString::number(at.y())}); }
+  void press(const QPoint& at) { xdo(pointerTo(at) + QStringList{"mousedown", "1"}); }
+  void moveTo(const QPoint& at) { xdo(pointerTo(at)); }
   void release() { xdo({"mouseup", "1"}); }
   void drag(const QPoint& from, const QPoint& to) {
     press(from);

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "metadata/dos_eps_header.h"
 #include "metadata/eps_bounding_box.h"
+#include "metadata/eps_program.h"
 
 namespace norvex {
 namespace {
@@ -29,7 +29,7 @@ Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureSe
                                                                        const QByteArray& bytes,
                                                                        const PictureLimits& limits) {
   if (bytes.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the file is empty")};
-  if (!beginsPostScript(postScriptOf(bytes)))
+  if (!beginsPostScript(epsProgram(bytes)))
     return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
   const EpsBoundingBoxes boxes = epsBoundingBoxes(bytes);
   const std::optional<QRectF> box = epsPictureBox(boxes);

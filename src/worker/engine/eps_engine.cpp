@@ -1,7 +1,7 @@
 // The engine of Encapsulated PostScript. Facts come from the header; the program is run once, when something is to be
 // drawn, and from then on the picture is a PDF.
-#include "metadata/dos_eps_header.h"
 #include "metadata/eps_bounding_box.h"
+#include "metadata/eps_program.h"
 #include "worker/engine/distill.h"
 #include "worker/engine/engine.h"
 #include "worker/engine/pdf_file.h"
@@ -50,9 +50,7 @@ class EpsEngine final : public DocumentEngine {
     if (page != 0) return noSuchPage(page, 1);
     if (distilled_) return {};
     if (failure_) return *failure_;
-    const QByteArrayView program = postScriptOf(bytes_);
-    Result<Distilled> distilled =
-        distill(QByteArray::fromRawData(program.data(), program.size()), box_, context_);
+    Result<Distilled> distilled = distill(epsProgram(bytes_), box_, context_);
     if (!distilled) {
       if (distilled.error().kind == ErrorKind::NotParsable) failure_ = distilled.error();
       return distilled.error();
@@ -73,8 +71,7 @@ class EpsEngine final : public DocumentEngine {
 }  // namespace
 
 Result<std::unique_ptr<DocumentEngine>> openEps(const QByteArray& bytes, EngineContext& context) {
-  const QByteArrayView program = postScriptOf(bytes);
-  if (program.isEmpty())
+  if (epsProgram(bytes).isEmpty())
     return Error{ErrorKind::NotParsable, QStringLiteral("the file holds no PostScript")};
   const std::optional<QRectF> box = epsPictureBox(epsBoundingBoxes(bytes));
   if (!box) return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript has no usable bounding box")};

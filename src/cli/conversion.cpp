@@ -4,9 +4,7 @@
 
 #include "cli/input_file.h"
 #include "display/picture_geometry.h"
-#include "metadata/eps_header.h"
-#include "metadata/pdf_header.h"
-#include "metadata/svg_header.h"
+#include "encoders/picture_header.h"
 #include "platform/picture/eps_image_rep.h"
 #include "platform/picture/pdf_image_rep.h"
 #include "platform/picture/picture_loader.h"
@@ -15,15 +13,6 @@
 
 namespace norvex {
 namespace {
-
-HeaderDictionary headerOf(const NSImageRep& imageRep) {
-  if (const auto* eps = dynamic_cast<const NSEPSImageRep*>(&imageRep))
-    return epsHeader(eps->EPSRepresentation());
-  if (const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep)) return pdfHeader(pdf->facts());
-  if (const auto* svg = dynamic_cast<const ZyWebImageRep*>(&imageRep))
-    return svgHeader(svg->facts(), svg->colorSpace());
-  return {};
-}
 
 /// What was noticed when the document was opened.
 QStringList warningsOf(const NSImageRep& imageRep) {
@@ -101,7 +90,7 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   const bool vectorOfSameKind =
       (options.format == OutputFormat::Pdf && imageRep->pictureKind() == PictureKind::Pdf) ||
       (options.format == OutputFormat::Eps && imageRep->pictureKind() == PictureKind::Eps);
-  conversion.metadataLost = metadataLost(headerOf(*imageRep), imageRep->pictureKind(), options.format,
+  conversion.metadataLost = metadataLost(pictureHeader(imageRep.get()), imageRep->pictureKind(), options.format,
                                          vectorOfSameKind && !surroundings.region && !surroundings.onePage);
   return conversion;
 }

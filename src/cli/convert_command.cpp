@@ -26,9 +26,7 @@ Conversion interrupted() {
 /// What can be known before the work is done: that its result could not be kept.
 std::optional<Conversion> refusalOf(const ConvertTask& task, const ConvertPlan& plan) {
   if (task.output == QLatin1String("-")) return std::nullopt;
-  if (isSameFile(task.file, task.output)) {
-    return refused(ErrorKind::CannotWrite, QStringLiteral("the output would overwrite the input"));
-  }
+  if (const auto error = overwritesInput(task.file, task.output)) return refused(error->kind, error->message);
   if (!plan.force && QFileInfo::exists(task.output)) {
     return refused(ErrorKind::CannotWrite,
                    QStringLiteral("%1 exists already (--force overwrites it)").arg(task.output));

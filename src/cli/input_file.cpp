@@ -1,6 +1,7 @@
 #include "cli/input_file.h"
 
 #include "metadata/dos_eps_header.h"
+#include "platform/atomic_file.h"
 #include "platform/picture/document_file.h"
 #include "platform/picture/picture_loader.h"
 #include "platform/type_identification.h"
@@ -23,6 +24,11 @@ Result<QByteArray> readInputFile(const QString& file) {
 
 Result<QByteArray> readInput(Console& console, const QString& file) {
   return file == kStandardInput ? unlessEmpty(console.input()) : readInputFile(file);
+}
+
+std::optional<Error> overwritesInput(const QString& file, const QString& output) {
+  if (!isSameFile(file, output)) return std::nullopt;
+  return Error{ErrorKind::CannotWrite, QStringLiteral("the output would overwrite the input")};
 }
 
 UTType typeOfInput(const QByteArray& bytes, const QString& file) {

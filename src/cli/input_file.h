@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 #include "cli/console.h"
 #include "platform/result.h"
 #include "platform/uniform_type.h"
@@ -15,6 +17,9 @@ namespace norvex {
 [[nodiscard]] Result<QByteArray> readInput(Console& console, const QString& file);
 /// The same for a file that is not standard input. Thread-safe.
 [[nodiscard]] Result<QByteArray> readInputFile(const QString& file);
+
+/// Why the result must not be written to `output`: it is the input itself, through whatever links.
+[[nodiscard]] std::optional<Error> overwritesInput(const QString& file, const QString& output);
 
 /// The type of an input; standard input has no name to go by.
 [[nodiscard]] UTType typeOfInput(const QByteArray& bytes, const QString& file);

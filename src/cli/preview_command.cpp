@@ -41,8 +41,8 @@ QByteArray pngOf(const NSBitmapImageRep& rep) {
 ExitCode Job::preview(const Arguments& arguments) {
   const QString file = arguments.files.first();
   const QString output = arguments.values.value(Option::Output);
-  if (output != QLatin1String("-") && isSameFile(file, output)) {
-    return fail(file, {ErrorKind::CannotWrite, QStringLiteral("the output would overwrite the input")});
+  if (output != QLatin1String("-")) {
+    if (const auto error = overwritesInput(file, output)) return fail(file, *error);
   }
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());

@@ -57,8 +57,7 @@ ExitCode Job::print(const Arguments& arguments) {
     return complain(Command::Print, complaint);
   const QString file = arguments.files.first(), output = arguments.values.value(Option::Output);
   const NSPrintInfo info = printInfoOf(arguments);
-  if (!output.isEmpty() && isSameFile(file, output))
-    return fail(file, {ErrorKind::CannotWrite, QStringLiteral("the output would overwrite the input")});
+  if (const auto error = overwritesInput(file, output)) return fail(file, *error);
   CupsSpooler spooler;
   if (arguments.has(Option::Printer))  // told before a large picture is read in vain
     if (const Result<Printer> printer = printerNamed(spooler, info.printerName()); !printer)

@@ -7,33 +7,17 @@
 #include "encoders/epsi_writer.h"
 #include "encoders/monoclome_bitmap.h"
 #include "encoders/pdf_attributes.h"
+#include "encoders/picture_header.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_header.h"
 #include "metadata/full_date.h"
-#include "metadata/pdf_header.h"
 #include "metadata/source_text.h"
-#include "metadata/svg_header.h"
 #include "platform/picture/eps_image_rep.h"
 #include "platform/picture/pdf_image_rep.h"
 #include "platform/picture/web_image_rep.h"
 
 namespace norvex {
 namespace {
-
-HeaderDictionary epsHeaderOf(const NSImageRep* imageRep) {
-  const auto* eps = dynamic_cast<const NSEPSImageRep*>(imageRep);
-  return eps ? epsHeader(eps->EPSRepresentation()) : HeaderDictionary();
-}
-
-HeaderDictionary svgHeaderOf(const NSImageRep* imageRep) {
-  const auto* svg = dynamic_cast<const ZyWebImageRep*>(imageRep);
-  return svg ? svgHeader(svg->facts(), svg->colorSpace()) : HeaderDictionary();
-}
-
-HeaderDictionary pdfHeaderOf(const NSImageRep* imageRep, const QLocale& locale) {
-  const auto* pdf = dynamic_cast<const NSPDFImageRep*>(imageRep);
-  return pdf ? pdfHeader(pdf->facts(), locale) : HeaderDictionary();
-}
 
 bool isEps(const NSImageRep* imageRep) {
   return dynamic_cast<const NSEPSImageRep*>(imageRep) != nullptr;
@@ -81,14 +65,9 @@ QByteArray PictureEncoder::postScriptData() {
 }
 
 QByteArray PictureEncoder::addEPSHeader(const QByteArray& postScript) {
-  HeaderDictionary header;
-  if (dynamic_cast<const ZyWebImageRep*>(imageRep_.get())) {
-    header = svgHeaderOf(imageRep_.get());
-  } else if (dynamic_cast<const NSPDFImageRep*>(imageRep_.get())) {
-    header = pdfHeaderOf(imageRep_.get(), surroundings_.locale);
-  } else if (surroundings_.region) {
-    header = epsHeaderOf(imageRep_.get());  // a cut EPS is a new file with the old one's facts
-  }
+  // A cut EPS is a new file with the old one's facts.
+  const bool own = isEps(imageRep_.get()) && !surroundings_.region;
+  const HeaderDictionary header = own ? HeaderDictionary() : pictureHeader(imageRep_.get(), surroundings_.locale);
   EpsHeaderDefaults defaults;
   defaults.creator = QStringLiteral("%1 by Tembrolix.").arg(QStringLiteral("MainWindowController"));
   defaults.creationDate = fullDate(surroundings_.now, surroundings_.locale);
@@ -165,15 +144,9 @@ QByteArray PictureEncoder::pdfData() {
 
 QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
   if (pdf.isEmpty()) return {};
-  HeaderDictionary header;
-  if (dynamic_cast<const ZyWebImageRep*>(imageRep_.get())) {
-    header = svgHeaderOf(imageRep_.get());
-  } else if (isEps(imageRep_.get())) {
-    header = epsHeaderOf(imageRep_.get());
-  } else if (!handsOnSource()) {
-    header = pdfHeaderOf(imageRep_.get(),
-                         surroundings_.locale);  // a cut PDF is a new file with the old one's facts
-  }
+  // A cut PDF is a new file with the old one's facts.
+  const bool own = dynamic_cast<const NSPDFImageRep*>(imageRep_.get()) && handsOnSource();
+  const HeaderDictionary header = own ? HeaderDictionary() : pictureHeader(imageRep_.get(), surroundings_.locale);
   const auto attributes =
       pdfAttributes(header, {surroundings_.applicationName, surroundings_.applicationVersion,
                              surroundings_.userFullName, surroundings_.now});

@@ -2,6 +2,7 @@
 
 #include "cli/input_file.h"
 #include "metadata/eps_header.h"
+#include "metadata/eps_resources.h"
 #include "metadata/pdf_header.h"
 #include "metadata/svg_header.h"
 #include "platform/picture/eps_image_rep.h"
@@ -35,6 +36,9 @@ void readEps(DocumentInfo& info, PictureService& service, const QByteArray& byte
   info.rectangle = (*rep)->boundingBox();
   info.hiResBoundingBox = (*rep)->hiResBoundingBox();
   info.pages = 1;
+  const EpsResources resources = epsResources(bytes);
+  info.fonts = resources.fonts;
+  info.colorSpaces = resources.colors;
 }
 
 void readFacts(DocumentInfo& info, const Result<PictureFacts>& facts) {
@@ -45,6 +49,8 @@ void readFacts(DocumentInfo& info, const Result<PictureFacts>& facts) {
   if (!facts->pageBounds.isEmpty()) info.rectangle = facts->pageBounds.first();
   info.pages = facts->pageCount;
   info.viewBox = facts->viewBox;
+  info.fonts = facts->fonts;
+  info.colorSpaces = facts->colorSpaces;
   info.warnings = facts->warnings;
 }
 

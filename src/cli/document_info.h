@@ -25,6 +25,7 @@ struct DocumentInfo {
   std::optional<QRectF> viewBox;
   std::optional<QRectF> hiResBoundingBox;
   std::optional<int> pages;
+  QStringList fonts, colorSpaces;  ///< that the picture uses, as far as that is told without drawing it
   QStringList warnings;
   std::optional<Error> error;
 };

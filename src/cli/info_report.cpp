@@ -83,6 +83,8 @@ QJsonObject infoObject(const DocumentInfo& info) {
   if (info.viewBox) insert("viewBox", arrayOf(*info.viewBox));
   if (info.hiResBoundingBox) insert("hiResBoundingBox", arrayOf(*info.hiResBoundingBox));
   if (info.pages) insert("pages", *info.pages);
+  if (!info.fonts.isEmpty()) insert("fonts", QJsonArray::fromStringList(info.fonts));
+  if (!info.colorSpaces.isEmpty()) insert("colorSpaces", QJsonArray::fromStringList(info.colorSpaces));
   if (info.error) insert("error", info.error->message);
   return object;
 }
@@ -99,6 +101,8 @@ QString infoText(const DocumentInfo& info) {
   if (info.hiResBoundingBox) text += line("HiResBoundingBox", textOf(*info.hiResBoundingBox));
   if (info.viewBox) text += line("ViewBox", textOf(*info.viewBox));
   if (info.pages) text += line("Pages", QString::number(*info.pages));
+  if (!info.fonts.isEmpty()) text += line("Fonts", info.fonts.join(QStringLiteral(", ")));
+  if (!info.colorSpaces.isEmpty()) text += line("ColorSpaces", info.colorSpaces.join(QStringLiteral(", ")));
   for (const QString& warning : info.warnings) text += line("Warning", warning);
   return text;
 }

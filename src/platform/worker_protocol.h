@@ -25,7 +25,7 @@
 
 namespace norvex {
 
-inline constexpr int workerProtocolVersion = 1;
+inline constexpr int workerProtocolVersion = 2;
 inline constexpr quint32 maximumMessageBytes = 4u << 20;
 
 // What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge title
@@ -35,6 +35,8 @@ inline constexpr int maximumSentenceLength = 1 << 10; ///< of a warning or an er
 inline constexpr int maximumWarnings = 200;
 inline constexpr int maximumAttributes = 32;
 inline constexpr int maximumBoxes = 2000;             ///< of pages, in PictureFacts
+inline constexpr int maximumNames = 100;              ///< of fonts and of colour spaces, in PictureFacts
+inline constexpr int maximumNameLength = 256;
 inline constexpr int maximumBitmapSide = 65535;
 inline constexpr double maximumCoordinate = 1.0e7;    ///< points
 inline constexpr int maximumSheets = 2000;            ///< of one print job
@@ -85,8 +87,11 @@ struct ComposeRequest {
 
 /// The document as SVG text. Only for PictureKind::Svg.
 struct SvgRequest {
-  bool pretty = true;          ///< indented source with DOCTYPE, entities, comments and CDATA; otherwise cut and turned
-  std::optional<QRectF> rect;  ///< for the cut: in the picture's flipped coordinates (origin top-left, y down), points
+  /// Indented source with DOCTYPE, entities, comments and CDATA; otherwise cut and turned, or without a rectangle and
+  /// an angle the source byte for byte, of a compressed document what it holds.
+  bool pretty = true;
+  /// For the cut: in the picture's flipped coordinates (origin top-left, y down), points. Absent: the whole picture.
+  std::optional<QRectF> rect;
   double rotate = 0;           ///< radians, clockwise as seen on the screen
 };
 
@@ -151,6 +156,8 @@ struct PictureFacts {
   int pageCount = 1;
   QHash<QString, QString> attributes;  ///< PDF document information: "Title", "Author", "Subject", "Creator", "Producer"
   std::optional<QDateTime> creationDate;
+  QStringList fonts;        ///< PDF: PostScript names, of the first page; SVG: families that its texts name
+  QStringList colorSpaces;  ///< PDF: as PDF calls them, of the first page; SVG: "sRGB"
   // SVG only
   std::optional<QRectF> viewBox;
   QString title, description, encodingName;

@@ -21,11 +21,14 @@ Error refused() {
   return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
 }
 
-QCborArray arrayOf(const QStringList& sentences) {
+QCborArray arrayOf(const QStringList& texts, int maximumCount, int maximumLength) {
   QCborArray array;
-  for (const QString& sentence : sentences.mid(0, maximumWarnings))
-    array.append(clipped(sentence, maximumSentenceLength));
+  for (const QString& text : texts.mid(0, maximumCount)) array.append(clipped(text, maximumLength));
   return array;
+}
+
+QCborArray arrayOf(const QStringList& sentences) {
+  return arrayOf(sentences, maximumWarnings, maximumSentenceLength);
 }
 
 void insertSvgFacts(QCborMap& map, const PictureFacts& facts) {
@@ -47,6 +50,8 @@ void insert(QCborMap& map, const PictureFacts& facts) {
   map.insert(Key("attributes"), cborFromNamedTexts(facts.attributes, maximumAttributes, maximumTextLength));
   if (facts.creationDate && facts.creationDate->isValid())
     map.insert(Key("date"), cborFromDate(*facts.creationDate));
+  map.insert(Key("fonts"), arrayOf(facts.fonts, maximumNames, maximumNameLength));
+  map.insert(Key("colorSpaces"), arrayOf(facts.colorSpaces, maximumNames, maximumNameLength));
   insertSvgFacts(map, facts);
   map.insert(Key("warnings"), arrayOf(facts.warnings));
 }
@@ -108,6 +113,8 @@ PictureFacts factsFrom(CborFields& fields) {
   if (facts.pageBounds.size() > facts.pageCount) fields.fail();
   facts.attributes = fields.namedTexts(Key("attributes"), maximumAttributes, maximumTextLength);
   facts.creationDate = fields.date(Key("date"));
+  facts.fonts = fields.texts(Key("fonts"), maximumNames, maximumNameLength);
+  facts.colorSpaces = fields.texts(Key("colorSpaces"), maximumNames, maximumNameLength);
   readSvgFacts(fields, facts);
   facts.warnings = fields.texts(Key("warnings"), maximumWarnings, maximumSentenceLength);
   return facts;

@@ -32,6 +32,14 @@
         <translation>The file holds no data that can be read.</translation>
     </message>
     <message>
+        <source>Fonts:</source>
+        <translation>Fonts:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Colors used:</translation>
+    </message>
+    <message>
         <source>Bounding box:</source>
         <translation>Bounding box:</translation>
     </message>

@@ -211,6 +211,7 @@ class MainWindowController final : public QObject,
   void showColorSpace(const HeaderDictionary& header);
   void showBoundingBoxes(const NSImageRep* rep);
   void showNotes(const NSImageRep* rep);
+  void showResources(const NSImageRep* rep);
   void resetRotationAndZoom();
   // main_window_messages.cpp
   void watchPicture();

@@ -5,6 +5,7 @@
 #include <QScreen>
 
 #include "display/norvex_view.h"
+#include "metadata/eps_resources.h"
 #include "platform/picture/eps_image_rep.h"
 #include "platform/picture/pdf_image_rep.h"
 #include "platform/picture/web_image_rep.h"
@@ -66,6 +67,26 @@ void MainWindowController::showNotes(const NSImageRep* rep) {
   ui_->noteField->setVisible(!notes.isEmpty());
 }
 
+void MainWindowController::showResources(const NSImageRep* rep) {
+  QStringList fonts, colors;
+  if (const auto* eps = qobject_cast<const NSEPSImageRep*>(rep)) {
+    EpsResources told = epsResources(eps->sourceBytes());
+    fonts = std::move(told.fonts);
+    colors = std::move(told.colors);
+  }
+  const PictureFacts* facts = nullptr;
+  if (const auto* pdf = qobject_cast<const NSPDFImageRep*>(rep)) facts = &pdf->facts();
+  if (const auto* svg = qobject_cast<const ZyWebImageRep*>(rep)) facts = &svg->facts();
+  if (facts) {
+    fonts = facts->fonts;
+    colors = facts->colorSpaces;
+  }
+  const QString separator = QStringLiteral(", ");
+  ui_->usesForm->setText(0, fonts.join(separator));
+  ui_->usesForm->setText(1, colors.join(separator));
+  ui_->usesForm->setVisible(!fonts.isEmpty() || !colors.isEmpty());
+}
+
 void MainWindowController::showSource() {
   if (!inspectorWindow->isVisible()) showInspectorWindow();
   ui_->inspectorTabs->setCurrentWidget(ui_->sourcePage);
@@ -79,7 +100,7 @@ void MainWindowController::orderInspector() {
     order << form->cellAtIndex(0);
   for (int row = 0; row < 2; ++row)
     for (int column = 0; column < 2; ++column) order << epsMatrix->cellAtRow(row, column);
-  order << ui_->boundingBoxForm->cellAtIndex(0) << ui_->boundingBoxForm->cellAtIndex(1) << descriptionView->textEdit();
+  order << ui_->usesForm->cellAtIndex(0) << ui_->usesForm->cellAtIndex(1) << ui_->boundingBoxForm->cellAtIndex(0) << ui_->boundingBoxForm->cellAtIndex(1) << descriptionView->textEdit();
   for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order.at(i - 1), order.at(i));
 }
 

@@ -100,6 +100,7 @@ void MainWindowController::showUntitledDocument() {
   descriptionView->setString(QString());
   showBoundingBoxes(nullptr);
   showNotes(nullptr);
+  showResources(nullptr);
   epsMatrixBox->setTitle(QString());
   for (int row = 0; row < 2; ++row)
     for (int column = 0; column < 2; ++column) epsMatrix->setText(row, column, QString());
@@ -118,6 +119,7 @@ void MainWindowController::showContents(const DocumentContents& contents) {
   showHeader(contents);
   showBoundingBoxes(contents.imageRep.get());
   showNotes(contents.imageRep.get());
+  showResources(contents.imageRep.get());
   showPreview(contents);
   showColorSpace(contents.header);
   resetRotationAndZoom();

@@ -106,7 +106,9 @@ void MainWindowController::setUpTexts() {
                         {forForm(), "For:"},             {copyrightForm(), "Copyright:"}, {encodingForm(), "Encoding:"}};
   ui_->boundingBoxForm->setTitle(0, localizedString("Bounding box:"));
   ui_->boundingBoxForm->setTitle(1, localizedString("High resolution:"));
-  QList<ZyForm*> forms{colorSpaceNameForm(), ui_->boundingBoxForm};
+  ui_->usesForm->setTitle(0, localizedString("Fonts:"));
+  ui_->usesForm->setTitle(1, localizedString("Colors used:"));
+  QList<ZyForm*> forms{colorSpaceNameForm(), ui_->usesForm, ui_->boundingBoxForm};
   for (const Titled& each : all) {
     each.form->setTitle(0, localizedString(each.title));
     forms << each.form;

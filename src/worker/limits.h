@@ -30,6 +30,11 @@ inline constexpr int maximumPages = 100'000;
 /// Pages whose boxes are told with the facts; later pages are told when they are asked for.
 inline constexpr int maximumPageBoxes = 2'000;
 
+/// Pages that are kept from being shown by the search for their fonts and colour spaces: contents that unpack to
+/// gigabytes, resources without end.
+inline constexpr qint64 maximumColourScan = 4LL << 20;
+inline constexpr int maximumResources = 20'000;
+
 /// A side of the picture in points beyond which geometry is not to be trusted.
 inline constexpr double maximumPoints = 1.0e7;
 

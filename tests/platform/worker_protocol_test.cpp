@@ -20,6 +20,8 @@ PictureFacts richFacts() {
   facts.pageCount = 5000;
   facts.attributes = {{"Title", "Größe 漢字 😀"}, {"Author", ""}};
   facts.creationDate = QDateTime(QDate(2019, 2, 28), QTime(23, 59, 58), Qt::OffsetFromUTC, -5 * 3600);
+  facts.fonts = {"Times-Roman", "漢字"};
+  facts.colorSpaces = {"DeviceCMYK", "Separation Gold"};
   facts.viewBox = QRectF(1, 2, 3, 4);
   facts.title = "t";
   facts.description = "d\nd";
@@ -180,6 +182,8 @@ class WorkerProtocolTest : public QObject {
     QCOMPARE(out.fixedRatioX, in.fixedRatioX);
     QCOMPARE(out.fixedRatioY, in.fixedRatioY);
     QCOMPARE(out.warnings, in.warnings);
+    QCOMPARE(out.fonts, in.fonts);
+    QCOMPARE(out.colorSpaces, in.colorSpaces);
     const PictureFacts none = std::get<PictureFacts>(decodeReply(encodeReply({1, PictureFacts{}}))->body);
     QVERIFY(!none.creationDate && !none.viewBox && !none.fixedRatioX && !none.fixedRatioY);
   }
@@ -352,6 +356,8 @@ class WorkerProtocolTest : public QObject {
     for (int i = 0; i < 100; ++i)
       facts.attributes.insert(QString::number(i), QString(1 << 16, QChar(0x6f22)));
     for (int i = 0; i < 1000; ++i) facts.warnings << QString(5000, QChar(0x6f22));
+    for (int i = 0; i < 1000; ++i) facts.fonts << QString(5000, QChar(0x6f22));
+    facts.colorSpaces = facts.fonts;
     facts.pageBounds = QList<QRectF>(5000, QRectF(0, 0, 1, 1));
     const QByteArray cbor = encodeReply({1, facts});
     QVERIFY(cbor.size() <= qsizetype(maximumMessageBytes));
@@ -362,12 +368,15 @@ class WorkerProtocolTest : public QObject {
     QCOMPARE(out.description.size(), maximumTextLength);
     QCOMPARE(out.attributes.size(), maximumAttributes);
     QCOMPARE(out.warnings.size(), maximumWarnings);
+    QCOMPARE(out.fonts.size(), maximumNames);
+    QCOMPARE(out.colorSpaces.size(), maximumNames);
+    QCOMPARE(out.fonts.last().size(), maximumNameLength);
     QCOMPARE(out.pageBounds.size(), maximumBoxes);
   }
 
   void taggedValuesAndIndefiniteLengthsAreRefused() {
     QVERIFY(
-        isRefused(decodeReply(QByteArray::fromHex("bf6176016269640164747970656466"
+        isRefused(decodeReply(QByteArray::fromHex("bf6176026269640164747970656466"
                                                   "6f726b6370696401ff"))));
     QByteArray cbor = encodeReply(replies()[5]);
     QVERIFY(decodeReply(cbor).ok());

@@ -264,6 +264,33 @@ class InspectorTest : public QObject {
     QVERIFY(!form->isVisibleTo(c.inspectorWindow->findChild<QWidget*>("pictureFacts")));
   }
 
+  void fontsAndColoursOfThePictureAreShownWhereTheyAreKnown() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loaded(
+        epsBytes("%%DocumentFonts: Helvetica\n%%DocumentCustomColors: (PANTONE 186 C)\n"), "a.eps", NorvexEPSType);
+    auto* form = c.inspectorWindow->findChild<ZyForm*>("usesForm");
+    const auto isShown = [&] { return form->isVisibleTo(c.inspectorWindow->findChild<QWidget*>("pictureFacts")); };
+    QVERIFY(isShown());
+    QCOMPARE(form->cellAtIndex(0)->text(), QStringLiteral("Helvetica"));
+    QCOMPARE(form->cellAtIndex(1)->text(), QStringLiteral("PANTONE 186 C"));
+    QVERIFY(form->cellAtIndex(0)->findChild<QAction*>("copyValueAction"));
+    fixture.write(epsBytes(), "a.eps");
+    fixture.document.revertDocumentToSaved();
+    QVERIFY(!isShown());
+
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(0, 0, 100, 50)};
+    picture.facts.fonts = {"Times-Roman", "Symbol"};
+    picture.facts.colorSpaces = {"DeviceRGB"};
+    fixture.service.setPicture(picture);
+    fixture.write("%PDF-1.4", "a.eps");
+    fixture.document.setFileType(UTTypePDF().identifier());
+    fixture.document.revertDocumentToSaved();
+    QVERIFY(isShown());
+    QCOMPARE(form->cellAtIndex(0)->text(), QStringLiteral("Times-Roman, Symbol"));
+    QCOMPARE(form->cellAtIndex(1)->text(), QStringLiteral("DeviceRGB"));
+  }
+
   void whatWasNoticedAtOpeningIsSaidInPlainSentences() {
     WindowFixture fixture;
     MemoryPicture picture;

@@ -36,7 +36,8 @@ bool isTightlyPacked(const PreviewReply& preview) {
 
 Result<PictureFacts> factsFrom(WorkerAnswer answer) {
   Result<PictureFacts> facts = bodyOf<PictureFacts>(answer, false);
-  if (facts) facts->warnings = plainSentences(facts->warnings);
+  if (!facts) return facts;
+  for (QStringList* texts : {&facts->warnings, &facts->fonts, &facts->colorSpaces}) *texts = plainSentences(*texts);
   return facts;
 }
 

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
+#include "worker/engine/pdf_resources.h"
 #include "worker/limits.h"
 
 namespace norvex::engine {
@@ -37,7 +39,10 @@ Result<PictureFacts> pdfFacts(PdfFile& file) {
     const int told = std::min(facts.pageCount, limits::maximumPageBoxes);
     for (int page = 0; page < told; ++page) facts.pageBounds.append(file.geometry(page).shownBounds());
     readInformation(file.qpdf().getTrailer().getKey("/Info"), facts);
-    facts.warnings = file.warnings();
+    facts.warnings = file.warnings();  // before the resources: what is left unread there counts as damage for qpdf
+    PdfResources resources = pdfResources(file, 0);
+    facts.fonts = std::move(resources.fonts);
+    facts.colorSpaces = std::move(resources.colorSpaces);
     return facts;
   });
 }

@@ -27,8 +27,9 @@ namespace {
 
 class SvgEngine final : public DocumentEngine {
  public:
-  SvgEngine(SvgText text, SvgInspection inspection, EngineContext& context)
-      : context_(context), text_(std::move(text)), inspection_(std::move(inspection)),
+  /// `source`: the document as it stands, not compressed.
+  SvgEngine(QByteArray source, SvgText text, SvgInspection inspection, EngineContext& context)
+      : context_(context), source_(std::move(source)), text_(std::move(text)), inspection_(std::move(inspection)),
         geometry_(svgGeometry(inspection_.rootAttributes)) {}
 
   /// Finds the picture's size. Call once, before anything else.
@@ -52,6 +53,7 @@ class SvgEngine final : public DocumentEngine {
   [[nodiscard]] BytesReply pdfReport() const;
 
   EngineContext& context_;
+  const QByteArray source_;
   const SvgText text_;
   const SvgInspection inspection_;
   const SvgGeometry geometry_;
@@ -115,6 +117,8 @@ Result<PictureFacts> SvgEngine::facts() {
   PictureFacts facts;
   facts.pageBounds = {QRectF(QPointF(0, 0), points())};
   facts.viewBox = geometry_.viewBox;
+  facts.fonts = inspection_.fonts;
+  facts.colorSpaces = {QStringLiteral("sRGB")};  // the colours of the format; what else a document names is not drawn
   facts.title = inspection_.title;
   facts.description = inspection_.description;
   facts.encodingName = text_.encodingName;
@@ -206,6 +210,7 @@ Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {
 Result<EngineBytes> SvgEngine::svg(const SvgRequest& request) {
   if (const Result<void> may = start(0); !may) return may.error();
   if (request.pretty) return EngineBytes{encodeSvgText(prettySvg(text_.utf8), text_), {}};
+  if (!request.rect && request.rotate == 0) return EngineBytes{source_, {}};
   const QRectF rect = request.rect.value_or(QRectF(QPointF(0, 0), points()));
   const double far = limits::maximumPoints;
   if (!(rect.width() > 0 && rect.height() > 0 && rect.width() <= far && rect.height() <= far &&
@@ -231,7 +236,7 @@ Result<std::unique_ptr<DocumentEngine>> openSvg(const QByteArray& bytes, EngineC
   if (!text) return text.error();
   Result<SvgInspection> inspection = inspectSvg(text->utf8);
   if (!inspection) return inspection.error();
-  auto engine = std::make_unique<SvgEngine>(std::move(*text), std::move(*inspection), context);
+  auto engine = std::make_unique<SvgEngine>(std::move(plain), std::move(*text), std::move(*inspection), context);
   if (const Result<void> measured = engine->measure(); !measured) return measured.error();
   return std::unique_ptr<DocumentEngine>(std::move(engine));
 }

@@ -10,7 +10,9 @@
 #include <cstring>
 #include <memory>
 #include <optional>
+#include <utility>
 
+#include "worker/engine/svg_fonts.h"
 #include "worker/engine/svg_nesting.h"
 #include "worker/limits.h"
 
@@ -62,8 +64,10 @@ class Inspector {
   std::unique_ptr<xmlParserCtxt, FreeContext> parser_;
   SvgInspection found_;
   SvgNesting nesting_;
+  SvgFonts fonts_;
+  QString styleSheet_;
   std::optional<Error> error_;
-  QString* collecting_ = nullptr;  // title or description
+  QString* collecting_ = nullptr;  // title, description or style sheet
   int collectingDepth_ = 0;
   int depth_ = 0;
   int elements_ = 0;
@@ -149,14 +153,24 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
       collectingDepth_ = depth_;
     }
   }
-  if (svg && name == QLatin1String("style")) found_.hasStyleSheet = true;
+  if (svg && name == QLatin1String("style")) {
+    found_.hasStyleSheet = true;
+    if (collecting_ == nullptr) {
+      collecting_ = &styleSheet_;
+      collectingDepth_ = depth_;
+    }
+  }
+  fonts_.element(svg ? name : QString());
   if (svg && name == QLatin1String("script")) found_.hasScript = true;
   if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set"))) found_.hasAnimation = true;
   QString id;
   for (const Attribute& attribute : attributes)
     if (attribute.name == QLatin1String("id")) id = attribute.value;
   nesting_.open(id);
-  for (const Attribute& attribute : attributes) lookAt(name, attribute);
+  for (const Attribute& attribute : attributes) {
+    lookAt(name, attribute);
+    if (svg && attribute.prefix.isEmpty()) fonts_.attribute(attribute.name, attribute.value);
+  }
 }
 
 void Inspector::lookAt(const QString& name, const Attribute& attribute) {
@@ -195,7 +209,10 @@ void Inspector::lookAtReference(const QString& element, const QString& value) {
 
 void Inspector::end() {
   textRun_ = 0;
-  if (collecting_ != nullptr && depth_ == collectingDepth_) collecting_ = nullptr;
+  if (collecting_ != nullptr && depth_ == collectingDepth_) {
+    if (collecting_ == &styleSheet_) fonts_.styleSheet(std::exchange(styleSheet_, QString()));
+    collecting_ = nullptr;
+  }
   --depth_;
   nesting_.close();
 }
@@ -262,6 +279,7 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
   if (nesting_.deepest() > limits::maximumDrawingDepth)
     return Error{ErrorKind::Limit,
                  QStringLiteral("the references of the document nest more than %1 deep").arg(limits::maximumDrawingDepth)};
+  found_.fonts = fonts_.families();
   found_.hasLayers = found_.hasLayers || found_.hasStyleSheet;
   if (!found_.title.isNull()) found_.title = found_.title.simplified();
   if (!found_.description.isNull()) found_.description = found_.description.trimmed();

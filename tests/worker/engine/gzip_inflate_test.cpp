@@ -3,29 +3,15 @@
 
 #include <QByteArray>
 
-#include <zlib.h>
-
 #include "kit/test_main.h"
+#include "worker/engine/svg_kit.h"
 #include "worker/limits.h"
 
 using namespace norvex;
 using namespace norvex::engine;
+using kit::gzipped;
 
 namespace {
-
-QByteArray gzipped(const QByteArray& plain) {
-  z_stream stream{};
-  deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, 15 + 16, 8, Z_DEFAULT_STRATEGY);
-  QByteArray result(qsizetype(deflateBound(&stream, uLong(plain.size()))) + 32, Qt::Uninitialized);
-  stream.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(plain.constData()));
-  stream.avail_in = uInt(plain.size());
-  stream.next_out = reinterpret_cast<Bytef*>(result.data());
-  stream.avail_out = uInt(result.size());
-  deflate(&stream, Z_FINISH);
-  result.truncate(qsizetype(stream.total_out));
-  deflateEnd(&stream);
-  return result;
-}
 
 QByteArray noise(qsizetype size) {
   QByteArray bytes(size, Qt::Uninitialized);

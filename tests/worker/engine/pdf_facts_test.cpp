@@ -4,6 +4,7 @@
 #include "kit/test_main.h"
 #include "worker/engine/engine.h"
 #include "worker/engine/made_pdf.h"
+#include "worker/engine/pdf_colour_operators.h"
 #include "worker/engine/pdf_facts.h"
 
 using namespace norvex;
@@ -232,6 +233,45 @@ class PdfFactsTest : public QObject {
     QCOMPARE(facts->warnings.join(u'|'),
              told ? QStringLiteral("this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork")
                   : QString());
+  }
+
+  void fontsAndColourSpacesAreThoseOfTheFirstPage() {
+    const QByteArray page =
+        "/MediaBox [0 0 9 9] /Resources << /Font << /A 5 0 R /B 6 0 R /C 5 0 R >> /XObject << /F 7 0 R /I 8 0 R >> "
+        "/ColorSpace << /S [/Separation /PANTONE#20186#20C /DeviceCMYK 9 0 R] /N [/DeviceN [/Gold /Cyan] /DeviceCMYK 9 0 "
+        "R] /X [/Indexed /DeviceGray 1 <00FF>] /P /Pattern >> /Shading << /H << /ShadingType 2 /ColorSpace [/Lab << >>] >> >> >>";
+    const PictureFacts facts = *factsOf(onePage(
+        "(0 0 1 rg \\) 0 G) Tj % 1 0 0 rg\n0 0 0 1 k /gs gs", page,
+        {"<< /Type /Font /Subtype /Type1 /BaseFont /ABCDEF+Gentium#20Book >>", "<< /Type /Font /BaseFont /Helvetica >>",
+         kit::stream("1 0 0 RG", "/Type /XObject /Subtype /Form /Resources << /Font << /D << /BaseFont /Deep >> >> "
+                                 "/XObject << /Self 7 0 R >> >>"),
+         kit::stream("x", "/Subtype /Image /ColorSpace [/ICCBased 10 0 R]"), "<< /FunctionType 2 >>",
+         kit::stream("", "/N 4")}));
+    QCOMPARE(facts.fonts, (QStringList{"Gentium Book", "Helvetica", "Deep"}));
+    QCOMPARE(facts.colorSpaces,
+             (QStringList{"DeviceCMYK", "DeviceN Gold, Cyan", "Separation PANTONE 186 C", "DeviceGray", "Lab", "DeviceRGB", "ICCBased CMYK"}));
+    QVERIFY(facts.warnings.isEmpty());
+    QVERIFY(factsOf(onePage("0 0 1 1 re"))->fonts.isEmpty());
+    QVERIFY(factsOf(onePage("0 0 1 1 re"))->colorSpaces.isEmpty());
+  }
+
+  void colourOperatorsAreFoundInContentsAlone() {
+    QCOMPARE(deviceColoursOf("BI /W 1 /CS /RGB ID \x01 0 g \x02 EI 0 0 0 1 K"), (QStringList{"DeviceRGB", "DeviceCMYK"}));
+    QCOMPARE(deviceColoursOf("/DeviceGray cs /DeviceN cs <30206b> Tj << /k 1 >> DP"), QStringList{"DeviceGray"});
+    for (const char* cut : {"(abc \\", "(abc", "<30", "/", "BI ID ", "%", "[", "0 0 0 r"})
+      QVERIFY(deviceColoursOf(cut).isEmpty());
+  }
+
+  void aPageThatUnpacksToGigabytesOpensAllTheSame() {
+    // Thirty mebibytes of blanks packed a thousand times over: no more than the limit of it is unpacked.
+    const QByteArray blanks(30 << 20, ' ');
+    const QByteArray packed = qCompress("0 g " + blanks + "1 0 0 rg", 9).mid(4);
+    const QByteArray pdf = madePdf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+                                    "<< /Type /Page /Parent 2 0 R /Contents 4 0 R /MediaBox [0 0 9 9] >>",
+                                    kit::stream(packed, "/Filter /FlateDecode")});
+    const PictureFacts facts = *factsOf(pdf);
+    QCOMPARE(facts.colorSpaces, QStringList{"DeviceGray"});
+    QVERIFY(facts.warnings.isEmpty());
   }
 };
 

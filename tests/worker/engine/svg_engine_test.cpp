@@ -9,6 +9,7 @@
 using namespace norvex;
 using namespace norvex::engine;
 using norvex::kit::drawn;
+using norvex::kit::gzipped;
 using norvex::kit::OpenSvg;
 using norvex::kit::svgOf;
 
@@ -27,6 +28,31 @@ PictureFacts factsOf(const QByteArray& svg) {
 class SvgEngineTest : public QObject {
   Q_OBJECT
  private slots:
+  void withoutARectangleTheSourceIsHandedOnByteForByte() {
+    const QByteArray odd = "\xEF\xBB\xBF<?xml version='1.0'  encoding='utf-8'?>\r\n<!--a-->\t" +
+                           svgOf("width='10' height='10'", "<rect\twidth='5' height='5'/>") + "\n<!--b-->\n\n";
+    SvgRequest request;
+    request.pretty = false;
+    OpenSvg plain(odd);
+    QCOMPARE((*plain->svg(request)).bytes, odd);
+    OpenSvg compressed(gzipped(odd));
+    QCOMPARE((*compressed->svg(request)).bytes, odd);
+    request.rotate = 1;  // turned, it is another document: the whole picture
+    QVERIFY((*plain->svg(request)).bytes.contains("matrix("));
+  }
+
+  void fontsAreThoseNamedForTexts() {
+    const PictureFacts facts = factsOf(
+        svgOf("width='10' height='10' font-family=\"Arial, 'Open  Sans', inherit\"",
+              "<style><![CDATA[ /* font-family: Old; */ text { fill: red; font-family: \"Gentium, Book\" } .a{font:italic "
+              "bold 12px/1.5 Lato, serif} .b{font:inherit;font-size:3px;font-variant:normal}]]></style>"
+              "<path style='font-family:Unused'/><g style='fill:red;font-family:Fira Sans !important'><text "
+              "style='font:small-caps 10pt Georgia'>x<tspan font-family='arial'>y</tspan></text></g>"));
+    QCOMPARE(facts.fonts, (QStringList{"Arial", "Open Sans", "Gentium, Book", "Lato", "serif", "Fira Sans", "Georgia"}));
+    QCOMPARE(facts.colorSpaces, QStringList{"sRGB"});
+    QVERIFY(factsOf(svgOf("width='10' height='10' font-family='Arial'", "<rect width='5' height='5'/>")).fonts.isEmpty());
+  }
+
   void boundsArePoints() {
     // 96 pixels are an inch, and an inch is 72 points.
     QCOMPARE(factsOf(svgOf("width='200' height='100'", "")).pageBounds.value(0), QRectF(0, 0, 150, 75));

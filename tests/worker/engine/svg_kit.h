@@ -1,7 +1,10 @@
 // Opening and drawing SVG texts in tests.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
+
+#include <zlib.h>
 
 #include <cmath>
 #include <memory>
@@ -14,6 +17,21 @@ namespace norvex::kit {
 inline QByteArray svgOf(const QByteArray& rootAttributes, const QByteArray& contents) {
   return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" " + rootAttributes +
          ">" + contents + "</svg>";
+}
+
+/// The bytes as a gzip stream.
+inline QByteArray gzipped(const QByteArray& plain) {
+  z_stream stream{};
+  deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, 15 + 16, 8, Z_DEFAULT_STRATEGY);
+  QByteArray result(qsizetype(deflateBound(&stream, uLong(plain.size()))) + 32, Qt::Uninitialized);
+  stream.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(plain.constData()));
+  stream.avail_in = uInt(plain.size());
+  stream.next_out = reinterpret_cast<Bytef*>(result.data());
+  stream.avail_out = uInt(result.size());
+  deflate(&stream, Z_FINISH);
+  result.truncate(qsizetype(stream.total_out));
+  deflateEnd(&stream);
+  return result;
 }
 
 /// An opened document together with its context.

@@ -1,0 +1,133 @@
+#include "metadata/eps_resources.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+
+#include "metadata/eps_program.h"
+#include "metadata/text_encoding.h"
+
+namespace norvex {
+namespace {
+
+constexpr int kMostNames = 200;
+constexpr qsizetype kMostTrailerBytes = 64 << 10;
+
+bool isBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '\0';
+}
+
+/// The words of a comment. A text in parentheses is one of them, without these.
+QStringList words(QByteArrayView line) {
+  QStringList found;
+  for (qsizetype at = 0; at < line.size();) {
+    if (isBlank(line[at])) {
+      ++at;
+      continue;
+    }
+    const bool text = line[at] == '(';
+    const qsizetype from = text ? at + 1 : at;
+    int depth = 1;
+    for (at = from; at < line.size(); ++at) {
+      if (text && line[at] == '(') ++depth;
+      if (text ? (line[at] == ')' && --depth == 0) : isBlank(line[at])) break;
+    }
+    const QByteArray word = line.sliced(from, at - from).toByteArray();
+    found << decodeText(word, encoding::Utf8).value_or(QString::fromLatin1(word));
+    if (text) ++at;
+  }
+  return found;
+}
+
+void add(QStringList& names, const QString& name) {
+  if (!name.isEmpty() && names.size() < kMostNames && !names.contains(name)) names << name;
+}
+
+/// The comments of one section of a file.
+class Reader {
+ public:
+  void read(QByteArrayView section, bool headerOnly);
+  [[nodiscard]] bool continuesAtEnd() const { return atEnd_; }
+
+  QStringList fonts, processColors, customColors;
+
+ private:
+  enum class Topic { None, Fonts, Resources, ProcessColors, CustomColors };
+  [[nodiscard]] static Topic topicOf(QByteArrayView keyword);
+  void take(QByteArrayView line);
+  void takeValues(QByteArrayView values);
+
+  Topic topic_ = Topic::None;
+  bool takesResource_ = false;  ///< the resources that are being listed are fonts
+  bool atEnd_ = false;
+};
+
+Reader::Topic Reader::topicOf(QByteArrayView keyword) {
+  for (const char* fonts : {"%%DocumentFonts", "%%DocumentNeededFonts", "%%DocumentSuppliedFonts"})
+    if (keyword == fonts) return Topic::Fonts;
+  for (const char* resources :
+       {"%%DocumentResources", "%%DocumentNeededResources", "%%DocumentSuppliedResources"})
+    if (keyword == resources) return Topic::Resources;
+  if (keyword == "%%DocumentProcessColors") return Topic::ProcessColors;
+  return keyword == "%%DocumentCustomColors" ? Topic::CustomColors : Topic::None;
+}
+
+void Reader::takeValues(QByteArrayView values) {
+  const QStringList all = words(values);
+  if (values.trimmed() == "(atend)") {
+    atEnd_ = true;
+    return;
+  }
+  for (const QString& word : all) {
+    if (topic_ == Topic::Fonts) add(fonts, word);
+    if (topic_ == Topic::ProcessColors) add(processColors, word);
+    if (topic_ == Topic::CustomColors) add(customColors, word);
+  }
+  if (topic_ != Topic::Resources) return;
+  // "font A B" and, on later lines, either more names or another kind of resource.
+  static const QStringList kinds{"font", "procset", "file", "encoding", "form", "pattern", "category"};
+  for (const QString& word : all) {
+    if (kinds.contains(word))
+      takesResource_ = word == u"font";
+    else if (takesResource_)
+      add(fonts, word);
+  }
+}
+
+void Reader::take(QByteArrayView line) {
+  if (line.isEmpty()) return;  // between CR and LF
+  if (line.startsWith("%%+")) return takeValues(line.sliced(3));
+  const qsizetype colon = line.indexOf(':');
+  topic_ = colon < 0 ? Topic::None : topicOf(line.first(colon));
+  takesResource_ = false;
+  if (topic_ != Topic::None) takeValues(line.sliced(colon + 1));
+}
+
+void Reader::read(QByteArrayView section, bool headerOnly) {
+  for (qsizetype at = 0; at < section.size();) {
+    qsizetype end = at;
+    while (end < section.size() && section[end] != '\n' && section[end] != '\r') ++end;
+    const QByteArrayView line = section.sliced(at, end - at);
+    if (headerOnly && (line.startsWith("%%EndComments") || (!line.isEmpty() && line[0] != '%'))) return;
+    take(line);
+    at = end + 1;
+  }
+}
+
+}  // namespace
+
+EpsResources epsResources(QByteArrayView source) {
+  const QByteArray program = epsProgram(QByteArray::fromRawData(source.data(), source.size()));
+  Reader reader;
+  reader.read(program, true);
+  const qsizetype trailer = reader.continuesAtEnd() ? program.lastIndexOf("%%Trailer") : -1;
+  if (trailer >= 0)
+    reader.read(
+        QByteArrayView(program).sliced(trailer).first(std::min(program.size() - trailer, kMostTrailerBytes)),
+        false);
+  EpsResources found{reader.fonts, reader.processColors};
+  for (const QString& ink : reader.customColors) add(found.colors, ink);
+  return found;
+}
+
+}  // namespace norvex

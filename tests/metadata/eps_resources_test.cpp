@@ -1,0 +1,61 @@
+#include "metadata/eps_resources.h"
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+EpsResources resourcesOf(const QByteArray& comments, const QByteArray& rest = {}) {
+  return epsResources("%!PS-Adobe-3.0 EPSF-3.0\n" + comments + "%%EndComments\n" + rest);
+}
+
+}  // namespace
+
+class EpsResourcesTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void fontsOfEveryComment() {
+    QCOMPARE(resourcesOf("%%DocumentFonts: Helvetica Times-Roman\r\n%%+ Symbol\r\n%%+Helvetica\r\n").fonts,
+             (QStringList{"Helvetica", "Times-Roman", "Symbol"}));
+    QCOMPARE(resourcesOf(
+                 "%%DocumentNeededResources: procset Level1 1.0 0\n%%+ font Courier Courier-Bold\n%%+ "
+                 "encoding X\n%%DocumentSuppliedResources: font (My Font)\n%%DocumentSuppliedFonts: Last\n")
+                 .fonts,
+             (QStringList{"Courier", "Courier-Bold", "My Font", "Last"}));
+  }
+
+  void inksAreProcessColoursThenCustomOnes() {
+    QCOMPARE(resourcesOf(
+                 "%%DocumentCustomColors: (PANTONE 186 C) (Dark (old) gold)\n%%DocumentProcessColors: Cyan "
+                 "Black\n")
+                 .colors,
+             (QStringList{"Cyan", "Black", "PANTONE 186 C", "Dark (old) gold"}));
+  }
+
+  void whatIsLeftToTheEndIsReadThere() {
+    QCOMPARE(resourcesOf("%%DocumentFonts: (atend)\n",
+                         "/Times findfont\n%%Trailer\n%%DocumentFonts: Times\n%%EOF\n")
+                 .fonts,
+             QStringList{"Times"});
+    QVERIFY(resourcesOf("%%DocumentFonts: (atend)\n", "show\n").fonts.isEmpty());
+    QVERIFY(resourcesOf("", "%%Trailer\n%%DocumentFonts: Times\n").fonts.isEmpty());
+  }
+
+  void onlyTheHeaderCounts() {
+    QVERIFY(resourcesOf("", "%%DocumentFonts: Embedded\n").fonts.isEmpty());
+    QVERIFY(epsResources("%!PS\nshowpage\n%%DocumentFonts: Late\n").fonts.isEmpty());
+    QVERIFY(resourcesOf("%%Title: %%DocumentFonts: No\n").fonts.isEmpty());
+    QVERIFY(epsResources("").fonts.isEmpty());
+    QVERIFY(epsResources("%%DocumentFonts:").fonts.isEmpty());
+    QVERIFY(resourcesOf("%%DocumentFonts: ()\n%%DocumentCustomColors: (open\n").fonts.isEmpty());
+  }
+
+  void namesWithoutEndAreCut() {
+    QByteArray many = "%%DocumentFonts:";
+    for (int i = 0; i < 5000; ++i) many += " F" + QByteArray::number(i);
+    QCOMPARE(resourcesOf(many + "\n").fonts.size(), 200);
+  }
+};
+
+NORVEX_TEST(EpsResourcesTest)
+#include "eps_resources_test.moc"

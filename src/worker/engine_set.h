@@ -9,7 +9,7 @@
 namespace norvex {
 
 /// All functions are called in the document's own process, on its main thread, after enterSandbox(); but
-/// warmUpProgram, which runs once in the process that forks the others, before it is given any request, and
+/// warmUpProgram, which runs once in the process that forks the others, when there is time for it, and
 /// must neither start a thread nor read anything that a document could influence. Empty functions answer
 /// Unsupported or do nothing.
 struct EngineSet {

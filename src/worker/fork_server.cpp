@@ -13,11 +13,15 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <utility>
 
 namespace norvex {
 namespace {
 
 constexpr int kSocket = 3;
+constexpr quint32 kColdChildren =
+    2;                      ///< a single picture takes one, and one more for what concerns no document
+constexpr int kIdle = 100;  ///< milliseconds without a request after which there is time to warm up
 constexpr int kFarewells[] = {SIGTERM, SIGINT, SIGHUP};
 
 Error noChild() {
@@ -42,8 +46,15 @@ void closeStandardStreams() {
 
 }  // namespace
 
-ForkServer::ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain)
-    : control_(std::move(control)), scratchRoot_(std::move(scratchRoot)), childMain_(std::move(childMain)) {}
+ForkServer::ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp)
+    : control_(std::move(control)),
+      scratchRoot_(std::move(scratchRoot)),
+      childMain_(std::move(childMain)),
+      warmUp_(std::move(warmUp)) {}
+
+void ForkServer::warmUp() {
+  if (const WarmUp todo = std::exchange(warmUp_, {})) todo();
+}
 
 void ForkServer::run() {
   // The end of a session tells everybody to go at once. The connection tells us, after which we clean up.
@@ -52,7 +63,9 @@ void ForkServer::run() {
   while (connected) {
     std::vector<pollfd> polls{{control_.socket(), POLLIN, 0}};
     for (const Child& child : children_) polls.push_back({child.pidfd.get(), POLLIN, 0});
-    if (::poll(polls.data(), polls.size(), -1) <= 0) continue;
+    const int ready = ::poll(polls.data(), polls.size(), warmUp_ ? kIdle : -1);
+    if (ready == 0) warmUp();
+    if (ready <= 0) continue;
     for (size_t i = polls.size(); i > 1; --i) {
       if (polls[i - 1].revents == 0) continue;
       bury(children_[i - 2]);
@@ -70,7 +83,7 @@ bool ForkServer::answerControl() {
   const Result<WorkerMessage> decoded = decodeMessage(message->cbor);
   const ForkRequest* request = decoded ? std::get_if<ForkRequest>(&*decoded) : nullptr;
   if (request == nullptr || !message->descriptor.valid()) return false;
-  ++forks_;
+  if (++forks_ > kColdChildren) warmUp();
   Result<Child> child = fork(*request, std::move(message->descriptor));
   if (!child) return control_.send(encodeReply({forks_, child.error()})).ok();
   const bool told = control_.send(encodeReply({forks_, ForkReply{child->pid}}), child->pidfd.get()).ok();

@@ -21,8 +21,14 @@ class ForkServer {
   using ChildMain =
       std::function<void(FileDescriptor socket, const ForkRequest&, const QString& scratchFolder)>;
 
-  /// Scratch folders are made inside `scratchRoot`, which exists and is private to the user.
-  ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain);
+  /// Initialises what children inherit. Called once, when nobody has asked for a child for a while or when
+  /// several are asked for: whoever wants a single picture is not kept waiting for what it may never need.
+  /// Starts no thread.
+  using WarmUp = std::function<void()>;
+
+  /// Scratch folders are made inside `scratchRoot`, which exists and is private to the user. `warmUp` may be
+  /// empty.
+  ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp = {});
 
   /// Serves until the control connection closes; all children are then gone.
   void run();
@@ -34,6 +40,7 @@ class ForkServer {
     QByteArray scratchFolder;
   };
   bool answerControl();
+  void warmUp();
   Result<Child> fork(const ForkRequest& request, FileDescriptor socket);
   [[noreturn]] void becomeChild(int parent, const ForkRequest& request, FileDescriptor socket,
                                 const QByteArray& scratchFolder);
@@ -42,6 +49,7 @@ class ForkServer {
   MessageChannel control_;
   QByteArray scratchRoot_;
   ChildMain childMain_;
+  WarmUp warmUp_;  ///< empty once it has been called
   std::vector<Child> children_;
   quint32 forks_ = 0;  ///< requests so far; the answer's id
 };

@@ -38,11 +38,10 @@ ForkServer::ChildMain documentChild(const EngineSet& engines) {
 
 int runWorkerProgram(int argc, char** argv, const EngineSet& engines) {
   clearEnvironment();
-  if (engines.warmUpProgram) engines.warmUpProgram();
-  return runForkServer(argc, argv, documentChild(engines));
+  return runForkServer(argc, argv, documentChild(engines), engines.warmUpProgram);
 }
 
-int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain) {
+int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp) {
   if (argc < 2 || !isSocket(kControlDescriptor)) {
     std::fputs("norvex-worker: is started by norvex, not by hand\n", stderr);
     return kUsage;
@@ -50,7 +49,7 @@ int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain) {
   ::fcntl(kControlDescriptor, F_SETFD, FD_CLOEXEC);
   std::signal(SIGPIPE, SIG_IGN);
   const QByteArray root = argv[1];
-  ForkServer(FileDescriptor(kControlDescriptor), root, std::move(childMain)).run();
+  ForkServer(FileDescriptor(kControlDescriptor), root, std::move(childMain), std::move(warmUp)).run();
   std::error_code ignored;
   std::filesystem::remove_all(root.toStdString(), ignored);
   return 0;

@@ -16,6 +16,6 @@ inline constexpr int kControlDescriptor = 3;
 /// The scratch root is removed at the end.
 int runWorkerProgram(int argc, char** argv, const EngineSet& engines);
 /// The same for other children (tests).
-int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain);
+int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp = {});
 
 }  // namespace norvex

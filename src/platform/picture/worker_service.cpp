@@ -24,9 +24,9 @@ bool sameLimits(const PictureLimits& a, const PictureLimits& b) {
 
 }  // namespace
 
-WorkerService::WorkerService(const QString& program)
-    : starter_(
-          std::make_shared<WorkerStarter>(program.isEmpty() ? WorkerStarter::defaultProgram() : program)) {}
+WorkerService::WorkerService(const QString& program, SpawnedWorker running)
+    : starter_(std::make_shared<WorkerStarter>(program.isEmpty() ? WorkerStarter::defaultProgram() : program,
+                                               std::move(running))) {}
 
 WorkerService::~WorkerService() = default;
 

@@ -1,8 +1,7 @@
 // WorkerService: the PictureService whose documents live in processes of norvex-worker.
 //
-//   WorkerService service;
-//   service.start();                                            // first thing in main(), before Qt is
-//   initialised auto process = service.open(bytes, PictureKind::Svg);       // returns at once
+//   WorkerService service({}, std::move(running));              // what main() started before anything else
+//   auto process = service.open(bytes, PictureKind::Svg);       // returns at once
 //   Result<PictureFacts> facts = process->facts();              // waits
 #pragma once
 
@@ -19,7 +18,8 @@ namespace norvex {
 class WorkerService final : public PictureService {
  public:
   /// `program`: another norvex-worker than the one beside the running program (tests). See WorkerStarter.
-  explicit WorkerService(const QString& program = {});
+  /// `running`: the warm program when it was started already.
+  explicit WorkerService(const QString& program = {}, SpawnedWorker running = {});
   ~WorkerService() override;
 
   /// Starts the warm program, which links and initialises itself while the caller goes on. Needs no

@@ -1,29 +1,18 @@
 #include "platform/picture/worker_starter.h"
 
 #include <QFile>
-#include <QFileInfo>
 
-#include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
-#include <filesystem>
-
-extern char** environ;
 
 namespace norvex {
 namespace {
 
-constexpr int kControl = 3;  ///< where the program expects its connection
-constexpr int kAboveStandard =
-    10;  ///< our own number of it must not be one that the program's start overwrites
 constexpr qint64 kFarewell = 2000;  ///< milliseconds that the program has to clean up after itself
 constexpr unsigned kPause = 1000;   ///< microseconds between two looks for an answer
 
@@ -33,61 +22,6 @@ Error notStarted() {
 Error notAnswered() {
   return {ErrorKind::Died, QStringLiteral("the program that reads pictures has ended")};
 }
-
-QByteArray makeScratchRoot() {
-  const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
-  for (const QByteArray& base : {runtime, QByteArray("/tmp")}) {
-    QByteArray folder = base + "/norvex-XXXXXX";
-    if (base.startsWith('/') && ::mkdtemp(folder.data()) != nullptr) return folder;
-  }
-  return {};
-}
-
-void removeFolder(const QByteArray& folder) {
-  std::error_code ignored;
-  if (!folder.isEmpty()) std::filesystem::remove_all(folder.toStdString(), ignored);
-}
-
-/// Descriptors 0 and 1 are nothing, 3 is the connection, everything above is closed.
-class SpawnActions {
- public:
-  explicit SpawnActions(int control) {
-    ::posix_spawn_file_actions_init(&actions_);
-    ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    ::posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    ::posix_spawn_file_actions_adddup2(&actions_, control, kControl);
-    ::posix_spawn_file_actions_addclosefrom_np(&actions_, kControl + 1);
-    ::posix_spawnattr_init(&attributes_);
-    sigset_t none, all;
-    ::sigemptyset(&none);
-    ::sigfillset(&all);
-    ::posix_spawnattr_setsigmask(&attributes_, &none);
-    ::posix_spawnattr_setsigdefault(&attributes_, &all);
-    // A group of its own: Ctrl+C in the terminal is ours to handle.
-    ::posix_spawnattr_setpgroup(&attributes_, 0);
-    ::posix_spawnattr_setflags(&attributes_,
-                               POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
-  }
-  ~SpawnActions() {
-    ::posix_spawn_file_actions_destroy(&actions_);
-    ::posix_spawnattr_destroy(&attributes_);
-  }
-  SpawnActions(const SpawnActions&) = delete;
-  SpawnActions& operator=(const SpawnActions&) = delete;
-
-  /// The process number, or 0.
-  [[nodiscard]] pid_t spawn(const QByteArray& program, const QByteArray& argument) {
-    QByteArray name = program, root = argument;
-    char* arguments[] = {name.data(), root.data(), nullptr};
-    pid_t pid = 0;
-    return ::posix_spawn(&pid, program.constData(), &actions_, &attributes_, arguments, environ) == 0 ? pid
-                                                                                                      : 0;
-  }
-
- private:
-  posix_spawn_file_actions_t actions_ = {};
-  posix_spawnattr_t attributes_ = {};
-};
 
 bool endsWithin(const FileDescriptor& pidfd, qint64 milliseconds) {
   pollfd poll = {pidfd.get(), POLLIN, 0};
@@ -100,7 +34,9 @@ bool endsWithin(const FileDescriptor& pidfd, qint64 milliseconds) {
 
 }  // namespace
 
-WorkerStarter::WorkerStarter(QString program) : program_(std::move(program)) {}
+WorkerStarter::WorkerStarter(QString program, SpawnedWorker running) : program_(std::move(program)) {
+  if (running.pid != 0) adopt(std::move(running));
+}
 
 WorkerStarter::~WorkerStarter() {
   const std::lock_guard lock(mutex_);
@@ -108,10 +44,7 @@ WorkerStarter::~WorkerStarter() {
 }
 
 QString WorkerStarter::defaultProgram() {
-  const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
-  const QString beside = folder + QStringLiteral("/norvex-worker");
-  const QString installed = folder + QStringLiteral("/../libexec/norvex/norvex-worker");
-  return !QFile::exists(beside) && QFile::exists(installed) ? installed : beside;
+  return QFile::decodeName(partOfProgram("norvex-worker").c_str());
 }
 
 qint64 WorkerStarter::pid() const {
@@ -131,17 +64,17 @@ bool WorkerStarter::runs() const {
 Result<void> WorkerStarter::startLocked() {
   if (runs()) return {};
   stopLocked();
-  auto pair = MessageChannel::makePair();
-  if (!pair) return pair.error();
-  const FileDescriptor theirs(::fcntl(pair->second.get(), F_DUPFD_CLOEXEC, kAboveStandard));
-  scratchRoot_ = makeScratchRoot();
-  if (!theirs.valid() || scratchRoot_.isEmpty()) return notStarted();
-  pid_ = SpawnActions(theirs.get()).spawn(QFile::encodeName(program_), scratchRoot_);
-  pidfd_.reset(pid_ == 0 ? -1 : int(::syscall(SYS_pidfd_open, pid_, 0)));
-  control_ = MessageChannel(std::move(pair->first));
-  if (pidfd_.valid()) return {};
-  stopLocked();
-  return notStarted();
+  SpawnedWorker spawned = spawnWorker(QFile::encodeName(program_).toStdString());
+  if (spawned.pid == 0) return notStarted();
+  adopt(std::move(spawned));
+  return {};
+}
+
+void WorkerStarter::adopt(SpawnedWorker worker) {
+  pid_ = worker.pid;
+  pidfd_ = std::move(worker.pidfd);
+  control_ = MessageChannel(std::move(worker.control));
+  scratchRoot_ = std::move(worker.scratchRoot);
 }
 
 void WorkerStarter::stopLocked() {

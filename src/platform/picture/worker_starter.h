@@ -7,8 +7,10 @@
 #include <map>
 #include <mutex>
 #include <set>
+#include <string>
 
 #include "platform/message_channel.h"
+#include "platform/picture/spawned_worker.h"
 #include "platform/worker_protocol.h"
 
 namespace norvex {
@@ -32,7 +34,8 @@ class WorkerStarter {
   /// `program` is the path of norvex-worker. It is an argument, and no environment variable can change it:
   /// whoever controls the environment of a program that opens untrusted files would otherwise choose what
   /// confines them.
-  explicit WorkerStarter(QString program);
+  /// `running`: the program when it was started already; it is then owned.
+  explicit WorkerStarter(QString program, SpawnedWorker running = {});
   /// Ends the program and with it every process that it forked, and removes what they left.
   ~WorkerStarter();
   WorkerStarter(const WorkerStarter&) = delete;
@@ -50,12 +53,12 @@ class WorkerStarter {
 
   /// Process number of the warm program, 0 when it does not run. For tests and for --sandbox-status.
   [[nodiscard]] qint64 pid() const;
-  /// The program beside the running one, or in ../libexec/norvex seen from there; the first one when neither
-  /// exists.
+  /// norvex-worker where partOfProgram() finds it.
   [[nodiscard]] static QString defaultProgram();
 
  private:
   Result<void> startLocked();
+  void adopt(SpawnedWorker worker);
   void stopLocked();
   [[nodiscard]] bool runs() const;
   Result<StartedProcess> takeNow(const Ticket& ticket);
@@ -67,7 +70,7 @@ class WorkerStarter {
   MessageChannel control_;
   qint64 pid_ = 0;
   FileDescriptor pidfd_;
-  QByteArray scratchRoot_;
+  std::string scratchRoot_;
   quint64 run_ = 0;
   quint32 requested_ = 0;
   std::map<quint32, Result<StartedProcess>> answered_;

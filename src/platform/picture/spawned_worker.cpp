@@ -1,0 +1,110 @@
+#include "platform/picture/spawned_worker.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <utility>
+
+extern char** environ;
+
+namespace norvex {
+namespace {
+
+constexpr int kControl = 3;  ///< where the program expects its connection
+constexpr int kAboveStandard =
+    10;  ///< our own number of it must not be one that the program's start overwrites
+
+std::string makeScratchRoot() {
+  const char* runtime = std::getenv("XDG_RUNTIME_DIR");
+  for (const std::string& base : {std::string(runtime == nullptr ? "" : runtime), std::string("/tmp")}) {
+    std::string folder = base + "/norvex-XXXXXX";
+    if (base.starts_with('/') && ::mkdtemp(folder.data()) != nullptr) return folder;
+  }
+  return {};
+}
+
+/// Descriptors 0 and 1 are nothing, 3 is the connection, everything above is closed.
+class SpawnActions {
+ public:
+  explicit SpawnActions(int control) {
+    ::posix_spawn_file_actions_init(&actions_);
+    ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    ::posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    ::posix_spawn_file_actions_adddup2(&actions_, control, kControl);
+    ::posix_spawn_file_actions_addclosefrom_np(&actions_, kControl + 1);
+    ::posix_spawnattr_init(&attributes_);
+    sigset_t none, all;
+    ::sigemptyset(&none);
+    ::sigfillset(&all);
+    ::posix_spawnattr_setsigmask(&attributes_, &none);
+    ::posix_spawnattr_setsigdefault(&attributes_, &all);
+    // A group of its own: Ctrl+C in the terminal is ours to handle.
+    ::posix_spawnattr_setpgroup(&attributes_, 0);
+    ::posix_spawnattr_setflags(&attributes_,
+                               POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
+  }
+  ~SpawnActions() {
+    ::posix_spawn_file_actions_destroy(&actions_);
+    ::posix_spawnattr_destroy(&attributes_);
+  }
+  SpawnActions(const SpawnActions&) = delete;
+  SpawnActions& operator=(const SpawnActions&) = delete;
+
+  /// The process number, or 0.
+  [[nodiscard]] pid_t spawn(std::string program, std::string argument) const {
+    char* arguments[] = {program.data(), argument.data(), nullptr};
+    pid_t pid = 0;
+    return ::posix_spawn(&pid, program.c_str(), &actions_, &attributes_, arguments, environ) == 0 ? pid : 0;
+  }
+
+ private:
+  posix_spawn_file_actions_t actions_ = {};
+  posix_spawnattr_t attributes_ = {};
+};
+
+}  // namespace
+
+SpawnedWorker spawnWorker(const std::string& program) {
+  SpawnedWorker worker;
+  int ends[2] = {-1, -1};
+  if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return worker;
+  worker.control.reset(ends[0]);
+  const FileDescriptor given(ends[1]);
+  const FileDescriptor theirs(::fcntl(given.get(), F_DUPFD_CLOEXEC, kAboveStandard));
+  worker.scratchRoot = makeScratchRoot();
+  if (theirs.valid() && !worker.scratchRoot.empty())
+    worker.pid = SpawnActions(theirs.get()).spawn(program, worker.scratchRoot);
+  if (worker.pid != 0) worker.pidfd.reset(int(::syscall(SYS_pidfd_open, worker.pid, 0)));
+  if (worker.pidfd.valid()) return worker;
+  if (worker.pid != 0) {
+    ::kill(worker.pid, SIGKILL);
+    while (::waitpid(worker.pid, nullptr, 0) < 0 && errno == EINTR) continue;
+  }
+  removeFolder(worker.scratchRoot);
+  return {};
+}
+
+std::string partOfProgram(const std::string& name) {
+  std::error_code ignored;
+  const std::filesystem::path folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
+  const std::filesystem::path beside = folder / name;
+  const std::filesystem::path installed = folder / "../libexec/norvex" / name;
+  const bool isInstalled =
+      !std::filesystem::exists(beside, ignored) && std::filesystem::exists(installed, ignored);
+  return isInstalled ? installed : beside;
+}
+
+void removeFolder(const std::string& folder) {
+  std::error_code ignored;
+  if (!folder.empty()) std::filesystem::remove_all(folder, ignored);
+}
+
+}  // namespace norvex

@@ -1,0 +1,33 @@
+// SpawnedWorker: the warm picture program as the system knows it, started with nothing but the C library.
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+
+#include "platform/file_descriptor.h"
+
+namespace norvex {
+
+/// A running norvex-worker and our end of the connection to it. It ends when the connection is closed; it is
+/// our child and must be waited for. pid 0: there is none.
+struct SpawnedWorker {
+  pid_t pid = 0;
+  FileDescriptor pidfd;  ///< readable once it has ended
+  FileDescriptor control;
+  std::string scratchRoot;  ///< a folder of its own, for us to remove after its end
+};
+
+/// Starts `program` without waiting until it is ready. Free of Qt, because it runs before Qt is even loaded:
+/// linking the program and linking the application then go on side by side. pid 0 when it could not be
+/// started.
+[[nodiscard]] SpawnedWorker spawnWorker(const std::string& program);
+
+/// A part of the application: the file `name` beside the running program, or in ../libexec/norvex seen from
+/// there; the first one when neither exists. No environment variable can change it: whoever controls the
+/// environment of a program that opens untrusted files would otherwise choose what confines them.
+[[nodiscard]] std::string partOfProgram(const std::string& name);
+
+void removeFolder(const std::string& folder);
+
+}  // namespace norvex

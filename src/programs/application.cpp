@@ -1,0 +1,38 @@
+// The application behind `norvex`: pictures in windows, or the command line.
+#include <memory>
+#include <utility>
+
+#include "cli/command_line.h"
+#include "platform/picture/worker_service.h"
+#include "platform/qt/alert.h"
+#include "platform/qt/application.h"
+#include "platform/qt/document_application.h"
+#include "programs/application_entry.h"
+#include "window/main_window_controller.h"
+#include "window/string_tables.h"
+
+namespace norvex {
+namespace {
+
+int runWindows(int argc, char** argv, WorkerService& service) {
+  Application application(argc, argv);
+  installStringTables();
+  QtAlertPresenter alerts;
+  DocumentApplication documents(application.events(), service, [&alerts] {
+    auto controller = std::make_unique<MainWindowController>();
+    controller->setAlertPresenter(&alerts);
+    return controller;
+  });
+  documents.start(Application::fileArguments());
+  return Application::exec();
+}
+
+}  // namespace
+}  // namespace norvex
+
+extern "C" __attribute__((visibility("default"))) int norvexApplication(int argc, char** argv,
+                                                                        norvex::SpawnedWorker* worker) {
+  using namespace norvex;
+  WorkerService service({}, std::move(*worker));
+  return isCommandLine(argc, argv) ? runCommandLine(argc, argv, service) : runWindows(argc, argv, service);
+}

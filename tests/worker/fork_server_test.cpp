@@ -1,0 +1,95 @@
+#include "worker/fork_server.h"
+
+#include <QTemporaryDir>
+
+#include "forked_check.h"
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+/// A connection of which the server sends one end into a child.
+struct Line {
+  FileDescriptor ours, theirs;
+};
+
+Line makeLine() {
+  auto pair = MessageChannel::makePair();
+  return pair ? Line{std::move(pair->first), std::move(pair->second)} : Line{};
+}
+
+/// Runs a server in a process of its own; each child tells by one letter whether it was forked warm or cold.
+/// `converse` talks to the server and gives what was heard; from `warmed` a letter can be read once the
+/// server is warm. The server ends with the connection.
+QByteArray heard(
+    const std::function<QByteArray(MessageChannel& control, const FileDescriptor& warmed)>& converse) {
+  const QTemporaryDir scratch;
+  auto pair = MessageChannel::makePair();
+  const Line warmed = makeLine();
+  if (!pair || !scratch.isValid() || !warmed.ours.valid()) return "no connection";
+  const pid_t pid = ::fork();
+  if (pid == 0) {
+    pair->first.reset();
+    char state = 'c';
+    const auto tell = [&](FileDescriptor socket, const ForkRequest&, const QString&) {
+      if (::write(socket.get(), &state, 1) != 1) ::_exit(1);
+    };
+    ForkServer(std::move(pair->second), scratch.path().toLocal8Bit(), tell, [&] {
+      state = 'w';
+      if (::write(warmed.theirs.get(), &state, 1) != 1) ::_exit(1);
+    }).run();
+    ::_exit(0);
+  }
+  pair->second.reset();
+  QByteArray letters;
+  {
+    MessageChannel control(std::move(pair->first));
+    letters = converse(control, warmed.ours);
+  }
+  ::waitpid(pid, nullptr, 0);
+  return letters;
+}
+
+char letterFrom(const FileDescriptor& socket) {
+  char letter = '?';
+  return ::read(socket.get(), &letter, 1) == 1 ? letter : '-';
+}
+
+bool ask(MessageChannel& control, Line& line) {
+  const bool sent = control.send(encodeMessage(ForkRequest{}), line.theirs.get()).ok();
+  line.theirs.reset();
+  return sent;
+}
+
+}  // namespace
+
+class ForkServerTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void theFirstTwoChildrenWaitForNothing() {
+    const QByteArray letters = heard([](MessageChannel& control, const FileDescriptor&) -> QByteArray {
+      Line lines[4] = {makeLine(), makeLine(), makeLine(), makeLine()};
+      QByteArray result;
+      // All are asked for before the first is answered, so that the server has no idle moment between them.
+      for (Line& line : lines)
+        if (!ask(control, line)) return "not sent";
+      for (Line& line : lines) result += letterFrom(line.ours);
+      return result;
+    });
+    QCOMPARE(letters, QByteArray("ccww"));
+  }
+
+  void anIdleServerWarmsUp() {
+    const QByteArray letters = heard([](MessageChannel& control, const FileDescriptor& warmed) -> QByteArray {
+      if (letterFrom(warmed) != 'w') return "not warmed";
+      Line line = makeLine();
+      if (!ask(control, line)) return "not sent";
+      return QByteArray(1, letterFrom(line.ours));
+    });
+    QCOMPARE(letters, QByteArray("w"));
+  }
+};
+
+NORVEX_TEST(ForkServerTest)
+#include "fork_server_test.moc"

@@ -40,6 +40,10 @@
         <translation>Colors used:</translation>
     </message>
     <message>
+        <source>%1 What is shown was read before.</source>
+        <translation>%1 What is shown was read before.</translation>
+    </message>
+    <message>
         <source>Bounding box:</source>
         <translation>Bounding box:</translation>
     </message>
@@ -442,6 +446,10 @@
     <message>
         <source>This is not an EPS, Illustrator, PDF or SVG picture.</source>
         <translation>This is not an EPS, Illustrator, PDF or SVG picture.</translation>
+    </message>
+    <message>
+        <source>The file's name is not text in UTF-8. Please rename the file.</source>
+        <translation>The file's name is not text in UTF-8. Please rename the file.</translation>
     </message>
     <message>
         <source>Title</source>

@@ -26,6 +26,7 @@
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 #include "window/selection_commands.h"
+#include "window/window_frames.h"
 #include "window/selection_description.h"
 
 namespace norvex {
@@ -58,7 +59,7 @@ void MainWindowController::connectCommands() {
     setShortcuts(action, keys);
     connect(action, &QAction::triggered, this, slot);
   };
-  on(ui_->reloadAction, {Qt::Key_F5}, [this] { if (document_) document_->revertDocumentToSaved(); });
+  on(ui_->reloadAction, {Qt::Key_F5}, [this] { reload(); });
   on(ui_->closeAction, {Qt::CTRL | Qt::Key_W}, [this] { window_->close(); });
   on(ui_->saveAsAction, {QKeySequence::Save, Qt::CTRL | Qt::SHIFT | Qt::Key_S}, [this] { saveDocumentAs(); });
   on(ui_->copyAction, {QKeySequence::Copy}, [this] { copy(); });
@@ -82,7 +83,10 @@ void MainWindowController::connectCommands() {
   on(ui_->rotateRightAction, {Qt::CTRL | Qt::Key_R}, [this] { rotateBy(-kQuarterTurn); });
   on(ui_->resetRotationAction, {}, [this] { dialKnob()->turnTo(0); });
   on(inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9}, [this] { showInspectorWindow(inspectorToolbarItem); });
-  on(ui_->touchBarAction, {}, [this](bool checked) { showTouchBar(checked); });
+  on(ui_->touchBarAction, {}, [this](bool checked) {
+    showTouchBar(checked);
+    saveTouchBarIsShown(checked);
+  });
   on(ui_->shortcutsAction, {QKeySequence::HelpContents}, [this] { showShortcutPanel(*window_, *ui_->menuBar); });
   on(ui_->fullScreenAction, {Qt::Key_F11}, [this](bool checked) { toggleFullScreen(checked); });
   on(ui_->aboutAction, {}, [this] { showAbout(); });

@@ -18,6 +18,7 @@
 #include "window/main_window_reading.h"
 #include "window/print_commands.h"
 #include "window/stoppable_process.h"
+#include "window/window_frames.h"
 
 namespace norvex {
 
@@ -61,6 +62,7 @@ void MainWindowController::loadWindow() {
   connectCommands();
   orderInspector();
   connectPrinting();
+  if (savedTouchBarIsShown()) showTouchBar(true);
   restoreFrame();
 }
 
@@ -133,6 +135,10 @@ void MainWindowController::closing() {
 
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event) {
   if (watched == window_) {
+    if (event->type() == QEvent::Close && closesLater()) {
+      event->ignore();
+      return true;
+    }
     if (event->type() == QEvent::Close) closing();
     if (event->type() == QEvent::WindowStateChange) windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));
   }

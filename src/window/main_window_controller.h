@@ -132,6 +132,11 @@ class MainWindowController final : public QObject,
   /// The same under another title: both write a copy, the document stays what it is.
   void saveDocumentTo(QObject* sender = nullptr);
   [[nodiscard]] QList<UTType> writableTypes() const;
+  /// Reads the file again for the user and starts over: upright, at its natural size. A file that cannot be shown any
+  /// more leaves what is shown, with a message.
+  void reload();
+  /// Whether a picture is being written by Save As. The window works on; it closes when that has ended.
+  [[nodiscard]] bool isSaving() const { return saving_.has_value(); }
 
   // ---- Touch Bar ----------------------------------------------------------------------------------------------------
   /// A new bar at each call; this controller is its delegate.
@@ -218,6 +223,11 @@ class MainWindowController final : public QObject,
   void followRendering();
   void showProblem(const Error& error);
   void stopWork();
+  /// Reads the file again as the document does. What is no picture any more is told, and what was read before stays:
+  /// then false.
+  bool readAgain();
+  [[nodiscard]] bool mayKeepPicture() const;
+  void keepPicture(const DocumentContents& contents);
   /// Draws again what failed or was stopped.
   void retryDrawing();
   /// Reads the file again and comes back to the same zoom, angle and place.
@@ -267,6 +277,9 @@ class MainWindowController final : public QObject,
   void saveTo(const std::shared_ptr<SaveToSheet>& sheet, const QUrl& url);
   void runSavePanel(const QString& title);
   void saveAs(const QUrl& url, const UTType& type);
+  void workBesideTheWindow(const std::function<void()>& work, const CancelToken& cancel);
+  /// Whether closing has to wait for a picture that is being written; its making is then stopped.
+  bool closesLater();
   void showWriteFailure(const Error& error, const QString& path);
 
   // main_window_context_menu.cpp
@@ -274,10 +287,14 @@ class MainWindowController final : public QObject,
   std::optional<DraggedFile> draggedFile();
 
   struct Reading;
+  /// Whether a file that is read again and is no picture any more leaves what is shown.
+  enum class Keeping { Forbidden, Allowed, Kept };
 
   QPointer<Document> document_;
   bool shouldCloseDocument_ = false;
   bool inspectorPlaced_ = false, observing_ = false;
+  bool holdsWindowSize_ = false;  ///< the window size rule waits
+  Keeping keeping_ = Keeping::Forbidden;
   AlertPresenter* alerts_ = nullptr;
 
   std::unique_ptr<QWidget> nib_;  ///< what the interface file makes; its windows become windows of their own
@@ -301,6 +318,8 @@ class MainWindowController final : public QObject,
   std::unique_ptr<NSSavePanel> ownSavePanel_;
   std::function<void()> beep_;
   std::optional<CancelToken> copying_;  ///< of the copy under way
+  std::optional<CancelToken> saving_;   ///< of the picture that Save As is making
+  bool closesWhenSaved_ = false;
   int writing_ = 0;                     ///< files that are being written
   QMetaObject::Connection svgObservation_;
   PrintServices printServices_;

@@ -50,10 +50,16 @@ bool isFixedOnOneAxisOnly(const HeaderDictionary& header) {
 void MainWindowController::windowDidLoad() {
   window();
   stopReading();
-  setUpControls();
   const QUrl url = document_ ? document_->fileURL() : QUrl();
-  if (url.isEmpty()) showUntitledDocument();
-  else showContents(readDocumentContents(document_->pictureService(), url, document_->fileType(), thread()));
+  if (url.isEmpty()) {
+    setUpControls();
+    showUntitledDocument();
+    return finishSetUp();
+  }
+  const DocumentContents contents = readDocumentContents(document_->pictureService(), url, document_->fileType(), thread());
+  if (!contents.imageRep && mayKeepPicture()) return keepPicture(contents);
+  setUpControls();
+  showContents(contents);
   finishSetUp();
 }
 

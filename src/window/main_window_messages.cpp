@@ -1,4 +1,5 @@
 // What the window tells about its picture: progress, problems, a file that changed.
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include "document/document.h"
@@ -75,6 +76,7 @@ void MainWindowController::stopWork() {
     messageBar_->showMessage(MessageBar::Kind::Warning, messageBar_->message(), localizedString("Try Again"));
     return;
   }
+  if (saving_) return saving_->cancel();
   if (copying_) return stopCopying();
   // A rendering that is cancelled tells nothing by itself, and the next one may never be asked for.
   if (process_) process_->stop();
@@ -92,15 +94,38 @@ void MainWindowController::fileDidChangeOnDisk() {
   messageBar_->showMessage(MessageBar::Kind::Information, localizedString("The file has changed on disk."), localizedString("Reload"));
 }
 
+bool MainWindowController::readAgain() {
+  if (!document_) return false;
+  const QScopedValueRollback keeps(keeping_, Keeping::Allowed);
+  document_->revertDocumentToSaved();
+  return keeping_ != Keeping::Kept;
+}
+
+void MainWindowController::reload() { readAgain(); }
+
+bool MainWindowController::mayKeepPicture() const { return keeping_ == Keeping::Allowed && validateUserInterfaceItem(); }
+
+void MainWindowController::keepPicture(const DocumentContents& contents) {
+  keeping_ = Keeping::Kept;
+  const Error error = contents.error.value_or(Error());
+  messageAction_ = [this] { reloadInPlace(); };
+  messageBar_->showMessage(MessageBar::Kind::Warning, localizedString("%1 What is shown was read before.").arg(sentence(error)),
+                           localizedString("Reload"));
+}
+
 void MainWindowController::reloadInPlace() {
-  if (!document_) return;
   const double angle = dialKnob()->DMSValue();
   const double factor = zoomFactor_;
   const QPointF offset = scrollArea_->scrollOffset();
-  document_->revertDocumentToSaved();
-  rotateField()->setDoubleValue(angle);
-  rotateChange(angle);
-  zoomingScrollView()->zoomTo(factor);
+  {
+    // On the way the picture is upright and of its natural size, to which the window must not shrink.
+    const QScopedValueRollback holds(holdsWindowSize_, true);
+    if (!readAgain()) return;
+    rotateField()->setDoubleValue(angle);
+    rotateChange(angle);
+    zoomingScrollView()->zoomTo(factor);
+  }
+  setWindowSize();
   scrollArea_->setScrollOffset(offset);
 }
 

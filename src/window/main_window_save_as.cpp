@@ -1,15 +1,22 @@
 // Save As: the whole picture in any type that can be written. The document stays what it is.
+#include <QEventLoop>
+#include <QFutureWatcher>
 #include <QGuiApplication>
 #include <QMainWindow>
+#include <QScopeGuard>
 #include <QTimer>
+#include <QtConcurrent>
 
 #include <algorithm>
+#include <utility>
 
 #include "document/document.h"
+#include "document/unimplemented_method.h"
 #include "platform/alert.h"
 #include "platform/localized_string.h"
 #include "platform/path_extension.h"
 #include "platform/picture/web_image_rep.h"
+#include "platform/qt/loading_card.h"
 #include "platform/save_panel.h"
 #include "window/main_window_controller.h"
 
@@ -41,7 +48,7 @@ void MainWindowController::saveDocumentAs(QObject*) { runSavePanel(localizedStri
 void MainWindowController::saveDocumentTo(QObject*) { runSavePanel(localizedString("Save To")); }
 
 void MainWindowController::runSavePanel(const QString& title) {
-  if (!document_ || !validateUserInterfaceItem()) return;
+  if (!document_ || saving_ || !validateUserInterfaceItem()) return;
   const QList<UTType> types = writableTypes();
   const auto own = UTType::typeWithIdentifier(document_->fileType());
   const qsizetype at = own ? types.indexOf(*own) : -1;
@@ -64,11 +71,49 @@ void MainWindowController::runSavePanel(const QString& title) {
   });
 }
 
+void MainWindowController::workBesideTheWindow(const std::function<void()>& work, const CancelToken& cancel) {
+  saving_ = cancel;
+  ++writing_;
+  loadingCard_->begin(localizedString("Writing…"));
+  QEventLoop loop;
+  QFutureWatcher<void> watcher;
+  connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
+  watcher.setFuture(QtConcurrent::run(work));
+  loop.exec();
+  watcher.waitForFinished();  // a program that is ending ends the loop before the work
+  --writing_;
+  saving_.reset();
+  followRendering();
+}
+
+bool MainWindowController::closesLater() {
+  if (!saving_) return false;
+  saving_->cancel();
+  closesWhenSaved_ = true;
+  return true;
+}
+
 void MainWindowController::saveAs(const QUrl& url, const UTType& type) {
-  if (!document_) return;
+  if (!document_ || saving_) return;
   document_->setAlertPresenter(alerts_);
+  bool stopped = false;
+  // The document asks, makes and writes in one go; only the making takes time.
+  windowProducers().setRunner([this, &stopped](const std::function<void()>& making, const CancelToken& cancel) {
+    if (stopped) return;  // some types are made in two steps
+    workBesideTheWindow(making, cancel);
+    stopped = cancel.cancelled();
+  });
+  const auto end = qScopeGuard([this] {
+    windowProducers().setRunner(nullptr);
+    if (std::exchange(closesWhenSaved_, false)) QTimer::singleShot(0, window_, &QWidget::close);
+  });
   DocumentError error;
-  if (document_->writeToURL(url, type.identifier(), &error)) return;
+  try {
+    if (document_->writeToURL(url, type.identifier(), &error)) return;
+  } catch (const UnimplementedMethod&) {
+    if (!stopped) throw;  // nothing is to be told about what the user stopped
+    return;
+  }
   if (!error.recoverySuggestion.isEmpty())
     showWriteFailure({ErrorKind::CannotWrite, error.recoverySuggestion}, url.toLocalFile());
 }

@@ -59,7 +59,7 @@ WindowMeasures MainWindowController::windowMeasures() const {
 QSizeF MainWindowController::calcWindowMaxSize(const QSizeF& size) const { return windowMaxSize(windowMeasures(), size); }
 
 void MainWindowController::setWindowSize() {
-  if (!window_) return;
+  if (!window_ || holdsWindowSize_) return;
   if (window_->isFullScreen()) {
     window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     return;

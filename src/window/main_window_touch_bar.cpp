@@ -37,9 +37,7 @@ void MainWindowController::performTouchBarAction(TouchBarAction action) {
   switch (action) {
     case TouchBarAction::SaveDocumentAs: return saveDocumentAs();
     case TouchBarAction::SaveDocumentTo: return saveDocumentTo();
-    case TouchBarAction::RevertDocumentToSaved:
-      if (document_) document_->revertDocumentToSaved();
-      return;
+    case TouchBarAction::RevertDocumentToSaved: return reload();
     case TouchBarAction::Copy: return copy();
     case TouchBarAction::PrintDocument: return printDocument();
   }

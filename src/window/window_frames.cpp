@@ -13,6 +13,8 @@ QSettings settings() {
   return QSettings(folder + QStringLiteral("/norvex/windows.ini"), QSettings::IniFormat);
 }
 
+const QString kTouchBar = QStringLiteral("views/touchBar");
+
 QString keyFor(const QString& autosaveName) { return QStringLiteral("frames/") + autosaveName; }
 
 }  // namespace
@@ -23,5 +25,9 @@ QRect savedWindowFrame(const QString& autosaveName) {
 }
 
 void saveWindowFrame(const QString& autosaveName, const QRect& frame) { settings().setValue(keyFor(autosaveName), frame); }
+
+bool savedTouchBarIsShown() { return settings().value(kTouchBar).toBool(); }
+
+void saveTouchBarIsShown(bool shown) { settings().setValue(kTouchBar, shown); }
 
 }  // namespace norvex

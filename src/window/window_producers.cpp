@@ -2,16 +2,20 @@
 
 namespace norvex {
 
-PictureEncoder WindowProducers::encoder() const {
+PictureEncoder WindowProducers::encoder(const CancelToken& cancel) const {
   const Shown shown = showing_();
   EncoderSurroundings surroundings = shown.service ? usualSurroundings(*shown.service) : EncoderSurroundings();
   surroundings.iccProfile = shown.colorSpace.isValid() ? shown.colorSpace.iccProfile() : QByteArray();
-  return {shown.imageRep, surroundings};
+  return {shown.imageRep, surroundings, cancel};
 }
 
 QByteArray WindowProducers::make(const std::function<QByteArray(PictureEncoder&)>& produce) {
-  PictureEncoder made = encoder();
-  const QByteArray bytes = produce(made);
+  const CancelToken cancel;
+  PictureEncoder made = encoder(cancel);
+  QByteArray bytes;
+  const auto making = [&] { bytes = produce(made); };
+  if (runner_) runner_(making, cancel);
+  else making();
   lastReport_ = made.report();
   return bytes;
 }

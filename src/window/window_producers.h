@@ -7,6 +7,7 @@
 
 #include "document/picture_producers.h"
 #include "encoders/picture_encoder.h"
+#include "platform/cancel_token.h"
 
 namespace norvex {
 
@@ -23,7 +24,13 @@ class WindowProducers final : public PictureProducers {
   };
   using Showing = std::function<Shown()>;
 
+  /// Runs the making of bytes, which ends early once the token is cancelled, and returns when it has ended.
+  using Runner = std::function<void(const std::function<void()>& making, const CancelToken& cancel)>;
+
   explicit WindowProducers(Showing showing) : showing_(std::move(showing)) {}
+
+  /// Null: bytes are made where they are asked for.
+  void setRunner(Runner runner) { runner_ = std::move(runner); }
 
   std::shared_ptr<NSImageRep> shownImageRep() override { return showing_().imageRep; }
   QByteArray postScriptData() override;
@@ -40,12 +47,13 @@ class WindowProducers final : public PictureProducers {
   [[nodiscard]] QString lastShortcoming() const override;
 
   /// The encoder of the shown picture, to be used on another thread.
-  [[nodiscard]] PictureEncoder encoder() const;
+  [[nodiscard]] PictureEncoder encoder(const CancelToken& cancel = {}) const;
 
  private:
   QByteArray make(const std::function<QByteArray(PictureEncoder&)>& produce);
 
   Showing showing_;
+  Runner runner_;
   EncodingReport lastReport_;
 };
 

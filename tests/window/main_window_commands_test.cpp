@@ -13,6 +13,7 @@
 #include "platform/qt/number_field.h"
 #include "platform/qt/zooming_scroll_area.h"
 #include "platform/qt/zy_dial_knob.h"
+#include "platform/qt/zy_form.h"
 #include "platform/qt/zy_image_view.h"
 #include "window/window_fixture.h"
 
@@ -224,6 +225,80 @@ class MainWindowCommandsTest : public QObject {
     QCOMPARE(c.view()->rotate(), rotate);
     QCOMPARE(c.zoomFactor(), 2.0);
     QCOMPARE(c.rotateField()->text(), QStringLiteral("30.0000"));
+  }
+
+  void reloadingInPlaceKeepsTheWindowsSize() {
+    WindowFixture fixture;
+    const QByteArray large = epsBytes().replace("10 20 210 120", "0 0 900 700");
+    MainWindowController& c = fixture.loaded(large, "a.eps", NorvexEPSType);
+    c.window()->show();
+    c.zoomingScrollView()->zoomTo(3.0);
+    c.window()->resize(1500, 1000);
+    QCoreApplication::processEvents();
+    const QSize size = c.window()->size();
+    c.scrollArea()->setScrollOffset(QPointF(300, 200));
+    const QPointF offset = c.scrollArea()->scrollOffset();
+    QVERIFY(size.width() > 1000);
+    c.fileDidChangeOnDisk();
+    emit c.messageBar()->actionChosen();
+    QCoreApplication::processEvents();
+    QCOMPARE(c.window()->size(), size);
+    QCOMPARE(c.scrollArea()->scrollOffset(), offset);
+    // A smaller picture still takes the window with it.
+    fixture.write(epsBytes(), "a.eps");
+    c.fileDidChangeOnDisk();
+    emit c.messageBar()->actionChosen();
+    QCoreApplication::processEvents();
+    QVERIFY(c.window()->width() < size.width());
+    QCOMPARE(c.zoomFactor(), 3.0);
+  }
+
+  void theReloadCommandStartsOver() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    c.rotateChange(30);
+    c.zoomingScrollView()->zoomTo(2.0);
+    action(c, "reloadAction")->trigger();
+    QCOMPARE(c.view()->rotate(), 0.0);
+    QCOMPARE(c.zoomFactor(), 1.0);
+  }
+
+  void whatCannotBeReadAgainLeavesThePicture_data() {
+    QTest::addColumn<bool>("deleted");
+    QTest::addColumn<bool>("inPlace");
+    for (const bool deleted : {true, false})
+      for (const bool inPlace : {true, false})
+        QTest::addRow("%s, %s", deleted ? "deleted" : "damaged", inPlace ? "from the bar" : "by the command") << deleted << inPlace;
+  }
+  void whatCannotBeReadAgainLeavesThePicture() {
+    QFETCH(bool, deleted);
+    QFETCH(bool, inPlace);
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    const auto picture = c.view()->imageRep();
+    c.rotateChange(30);
+    c.zoomingScrollView()->zoomTo(2.0);
+    if (deleted) QVERIFY(QFile::remove(fixture.folder.filePath("a.eps")));
+    else fixture.write("nothing", "a.eps");
+    if (inPlace) {
+      c.fileDidChangeOnDisk();
+      emit c.messageBar()->actionChosen();
+    } else {
+      action(c, "reloadAction")->trigger();
+    }
+    QCOMPARE(c.view()->imageRep(), picture);
+    QCOMPARE(c.titleForm()->cellAtIndex(0)->text(), QStringLiteral("A picture"));
+    QCOMPARE(c.rotateField()->text(), QStringLiteral("30.0000"));
+    QCOMPARE(c.zoomFactor(), 2.0);
+    QVERIFY(action(c, "copyToolbarItem")->isEnabled());
+    QVERIFY2(c.messageBar()->message().endsWith(". What is shown was read before."), qPrintable(c.messageBar()->message()));
+    QVERIFY(c.messageBar()->message().at(0).isUpper());
+    // Whole again, it is read.
+    fixture.write(epsBytes().replace("A picture", "Another"), "a.eps");
+    emit c.messageBar()->actionChosen();
+    QCOMPARE(c.titleForm()->cellAtIndex(0)->text(), QStringLiteral("Another"));
+    QCOMPARE(c.zoomFactor(), 2.0);
+    QVERIFY(c.messageBar()->message().isEmpty());
   }
 };
 

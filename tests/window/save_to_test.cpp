@@ -9,11 +9,15 @@
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include "document/unimplemented_method.h"
 #include "kit/test_main.h"
 #include "platform/memory_save_panel.h"
 #include "platform/path_extension.h"
+#include "platform/qt/loading_card.h"
+#include "platform/qt/message_bar.h"
+#include "platform/qt/number_field.h"
 #include "platform/qt/save_sheet.h"
 #include "platform/qt/zy_image_view.h"
 #include "window/main_window_save_to.h"
@@ -65,6 +69,18 @@ QVariantList saved(MainWindowController& c, MemorySavePanel& panel, const QUrl& 
   panel.answer({true, url, -1});
   if (end.isEmpty() && !end.wait(20000)) return {};
   return end.first();
+}
+
+/// Runs `meanwhile` once, as soon as Save As is making its bytes.
+void whileSaving(MainWindowController& c, const std::function<void()>& meanwhile) {
+  auto* timer = new QTimer(c.window());
+  QObject::connect(timer, &QTimer::timeout, timer, [timer, &c, meanwhile] {
+    if (!c.isSaving()) return;
+    timer->stop();
+    timer->deleteLater();
+    meanwhile();
+  });
+  timer->start(5);
 }
 
 }  // namespace
@@ -372,6 +388,73 @@ class SaveToTest : public QObject {
     c.saveDocumentAs();
     f.panel.answer({true, f.url("other"), 4});
     QTRY_VERIFY(f.read("other.svgz").startsWith("\x1F\x8B"));
+  }
+
+  void aDocumentIsMadeBesideTheWindow() {
+    SaveToFixture f;
+    MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Svg);
+    c.saveDocumentAs();
+    bool turned = false;
+    whileSaving(c, [&] {
+      QVERIFY(process->waitUntilHeld(PictureCall::Svg));
+      c.rotateChange(30);  // the window works on
+      turned = true;
+      c.saveDocumentAs();  // but it writes one picture at a time
+      process->release(PictureCall::Svg);
+    });
+    f.panel.answer({true, f.url("other"), 3});
+    QTRY_VERIFY(turned && !c.isSaving());
+    QCOMPARE(f.read("other.svg"), kSvg);
+    QCOMPARE(f.alerts.shown.size(), 0);
+    QCOMPARE(c.rotateField()->text(), QString("30.0000"));
+  }
+
+  void whatIsBeingMadeCanBeStopped_data() {
+    QTest::addColumn<int>("type");
+    QTest::newRow("SVG") << 3;
+    QTest::newRow("compressed SVG, which is made in two steps") << 4;
+  }
+  void whatIsBeingMadeCanBeStopped() {
+    QFETCH(int, type);
+    SaveToFixture f;
+    MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
+    const auto process = f.service.lastProcess();
+    const int before = process->calls(PictureCall::Svg);
+    process->hold(PictureCall::Svg);
+    c.saveDocumentAs();
+    bool stopped = false;
+    whileSaving(c, [&] {
+      stopped = true;
+      emit c.window()->findChild<LoadingCard*>()->cancelled();
+    });
+    f.panel.answer({true, f.url("other"), type});
+    QTRY_VERIFY(stopped && !c.isSaving());
+    QCOMPARE(process->calls(PictureCall::Svg), before + 1);
+    QCOMPARE(QDir(f.folder.path()).entryList({"other*"}), QStringList());
+    QCOMPARE(f.alerts.shown.size(), 0);
+    QVERIFY(c.messageBar()->message().isEmpty());
+  }
+
+  void aWindowThatIsClosedMeanwhileClosesAfterwards() {
+    SaveToFixture f;
+    MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
+    c.setShouldCloseDocument(true);
+    QSignalSpy closed(&f.document, &Document::closed);
+    c.window()->show();
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Svg);
+    c.saveDocumentAs();
+    bool asked = false;
+    whileSaving(c, [&] {
+      QVERIFY(!c.window()->close());
+      asked = true;
+    });
+    f.panel.answer({true, f.url("other"), 3});
+    QTRY_COMPARE(closed.size(), 1);
+    QVERIFY(asked && !c.window()->isVisible());
+    QCOMPARE(QDir(f.folder.path()).entryList({"other*"}), QStringList());
   }
 
   void aDocumentThatCannotBeWrittenIsTold() {

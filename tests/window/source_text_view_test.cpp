@@ -122,6 +122,21 @@ class SourceTextViewTest : public QObject {
     QCOMPARE(pane.view.findBar()->outcome(), QString());
   }
 
+  void whatIsNotThereLeavesNoOlderHitSelected() {
+    Pane pane(kPostScript);
+    pane.view.showFindBar();
+    QTest::keyClicks(pane.needle(), "moveto");
+    const qsizetype place = pane.view.textEdit()->selectionStart();
+    QCOMPARE(pane.selected(), QStringLiteral("moveto"));
+    QTest::keyClicks(pane.needle(), "x");
+    QCOMPARE(pane.view.findBar()->outcome(), QStringLiteral("Not found"));
+    QCOMPARE(pane.selected(), QString());
+    QCOMPARE(pane.view.textEdit()->selectionStart(), place);
+    QTest::keyClick(pane.needle(), Qt::Key_Backspace);
+    QCOMPARE(pane.selected(), QStringLiteral("moveto"));
+    QCOMPARE(pane.view.textEdit()->selectionStart(), place);
+  }
+
   void escapeClosesTheBarAndTheHitStaysSelected() {
     Pane pane(kPostScript);
     pane.view.showFindBar();

@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "kit/test_main.h"
+#include "platform/print/memory_printing.h"
 #include "platform/qt/touch_strip.h"
 #include "platform/save_panel.h"
 #include "window/touch_bar.h"
@@ -153,6 +154,38 @@ class TouchBarTest : public QObject {
     c.showTouchBar(true);
     c.touchStrip()->button(kIdentifiers.at(3))->click();
     QVERIFY(!copied.isEmpty() || copied.wait(10000));
+  }
+
+  void printIsTheDocumentsPrintingOfTheWholePicture() {
+    WindowFixture fixture;
+    kit::MemorySpooler spooler({{"Office", "Office", PrinterState::Idle, true, true}});
+    kit::ScriptedInteraction people;
+    QSizeF printed;
+    people.onPanel = [&](NSPrintOperation& operation) { printed = operation.view().printSource().size; };
+    people.printsFromPanel = false;
+    MainWindowController& c = fixture.loadedEps();
+    c.setPrintServices({nullptr, &spooler, &people});
+    c.view()->selectBounds();
+    QVERIFY(c.view()->resizeSelection(QPointF(-60, 0)));
+    c.showTouchBar(true);
+    c.touchStrip()->button(kIdentifiers.at(4))->click();
+    QTRY_COMPARE(people.panels, 1);
+    QCOMPARE(printed, QSizeF(200, 100));  // the toolbar's prints the selection
+    QVERIFY(spooler.jobs().isEmpty());
+  }
+
+  void theStripIsRememberedForLaterWindows() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    action(c, "touchBarAction")->trigger();
+    MainWindowController later;
+    later.window();
+    QVERIFY(later.touchStrip() && later.touchStrip()->isVisibleTo(later.window()));
+    QVERIFY(later.window()->findChild<QAction*>("touchBarAction")->isChecked());
+    action(c, "touchBarAction")->trigger();
+    MainWindowController last;
+    last.window();
+    QVERIFY(!last.touchStrip());
   }
 
   void withoutAPictureTheButtonsRestButForReload() {

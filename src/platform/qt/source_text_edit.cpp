@@ -136,6 +136,13 @@ void SourceTextEdit::selectSource(qsizetype start, qsizetype length) {
   if (!viewport()->rect().adjusted(0, hit.height(), 0, -hit.height()).contains(hit.center())) centerCursor();
 }
 
+void SourceTextEdit::deselect() {
+  QTextCursor cursor = textCursor();
+  if (!cursor.hasSelection()) return;
+  cursor.setPosition(cursor.selectionStart());
+  setTextCursor(cursor);
+}
+
 qsizetype SourceTextEdit::selectionStart() const {
   return blocks_ ? blocks_->textPosition(textCursor().selectionStart()) : 0;
 }

@@ -30,6 +30,8 @@ class SourceTextEdit final : public QPlainTextEdit {
   void setMatches(const SourceMatches& matches);
   /// Selects and shows a part of source().
   void selectSource(qsizetype start, qsizetype length);
+  /// Leaves the caret where the selection begins.
+  void deselect();
   /// Where the selection, or without one the caret, begins in source().
   [[nodiscard]] qsizetype selectionStart() const;
   /// Whether all of the text is in the widget's document.

@@ -64,12 +64,18 @@ void SourceTextView::lookFor(const QString& needle) {
   matches_ = SourceMatches(edit_->source(), needle);
   edit_->setMatches(matches_);
   if (const auto index = matches_.at(edit_->selectionStart())) select(*index);
-  else bar_->showOutcome(0, 0);
+  else tellNothingFound();
 }
 
 void SourceTextView::select(qsizetype index) {
   edit_->selectSource(matches_.starts().at(index), matches_.length());
   bar_->showOutcome(index, matches_.count());
+}
+
+void SourceTextView::tellNothingFound() {
+  // What was hit before is no hit of these letters; the search goes on from its place.
+  if (!bar_->needle().isEmpty()) edit_->deselect();
+  bar_->showOutcome(0, 0);
 }
 
 bool SourceTextView::findNext(bool backward) {
@@ -84,7 +90,7 @@ bool SourceTextView::findNext(bool backward) {
   const qsizetype here = edit_->selectionStart();
   const auto index = backward ? matches_.before(here) : edit_->textCursor().hasSelection() ? matches_.after(here) : matches_.at(here);
   if (index) select(*index);
-  else bar_->showOutcome(0, 0);
+  else tellNothingFound();
   return index.has_value();
 }
 

@@ -42,6 +42,7 @@ class SourceTextView final : public QWidget {
  private:
   void lookFor(const QString& needle);
   void select(qsizetype index);
+  void tellNothingFound();
   [[nodiscard]] bool isOurs(const QKeyEvent& event) const;
   /// The text itself is what assistive technology meets: it takes this widget's name.
   void nameText();

@@ -1,12 +1,12 @@
 // How long a frame takes while a picture is scrolled, zoomed and turned, and how long until it is sharp
 // again.
 //
-// usage: frame_bench [FILE] [--width PIXELS] [--height PIXELS] [--worker PROGRAM]
+// usage: frame_bench [FILE] [--only GESTURE] [--width PIXELS] [--height PIXELS] [--worker PROGRAM]
 //
 // FILE is opened by the picture process; without one a synthetic picture is shown whose every rendering takes
 // long. Prints one line a gesture: median, 99th percentile and maximum of the frames' milliseconds, and the
-// same percentile of the processor time that this program used meanwhile, on all its threads (the one to look at when
-// the machine has other work).
+// same percentile of the processor time that this program used meanwhile, on all its threads (the one to look
+// at when the machine has other work).
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -58,9 +58,11 @@ struct View {
 
 class Bench {
  public:
-  Bench(NSImageRep& rep, const QSize& size) : rep_(rep), frame_(size, QImage::Format_RGB32) {}
+  Bench(NSImageRep& rep, const QSize& size, const QString& only)
+      : rep_(rep), frame_(size, QImage::Format_RGB32), only_(only) {}
 
   void run(const char* name, const std::function<View(double part)>& gesture) {
+    if (!QString(name).startsWith(only_)) return;
     waitUntilSharp(gesture(0));
     QList<double> times;
     QList<double> processorTimes;
@@ -116,10 +118,11 @@ class Bench {
 
   NSImageRep& rep_;
   QImage frame_;
+  QString only_;
 };
 
-void runAll(NSImageRep& rep, const QSize& size) {
-  Bench bench(rep, size);
+void runAll(NSImageRep& rep, const QSize& size, const QString& only) {
+  Bench bench(rep, size, only);
   const double fit = std::min(size.width() / rep.size().width(), size.height() / rep.size().height());
   bench.run("scroll 100%", [&](double part) { return View{1, 0, {part * 400, part * -300}}; });
   bench.run("scroll 400%", [&](double part) { return View{4, 0, {part * 3000 - 1500, part * 900}}; });
@@ -140,6 +143,7 @@ int main(int argc, char** argv) {
   options.addPositionalArgument("file", "picture to show", "[FILE]");
   options.addOptions({{"width", "of the frame", "pixels", "1400"},
                       {"height", "of the frame", "pixels", "1000"},
+                      {"only", "gestures whose name begins so", "gesture"},
                       {"worker", "picture process to use", "program"}});
   options.addHelpOption();
   options.process(application);
@@ -165,6 +169,6 @@ int main(int argc, char** argv) {
   QTextStream(stdout) << QString::asprintf(
       "%d x %d frame, picture of %.0f x %.0f points, loaded in %lld ms\n", size.width(), size.height(),
       loaded->imageRep->size().width(), loaded->imageRep->size().height(), timer.elapsed());
-  runAll(*loaded->imageRep, size);
+  runAll(*loaded->imageRep, size, options.value("only"));
   return 0;
 }

@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <QSignalSpy>
+#include <QThreadPool>
 
 #include "kit/test_main.h"
 #include "platform/picture/memory_picture_service.h"
@@ -48,6 +49,21 @@ int differingPixels(const QImage& a, const QImage& b) {
   for (int y = 0; y < a.height(); ++y)
     for (int x = 0; x < a.width(); ++x) count += a.pixel(x, y) != b.pixel(x, y);
   return count;
+}
+
+/// Share of the pixels of `sharp` that look like those of `frame`.
+double nearPixels(const QImage& frame, const QImage& sharp) {
+  int near = 0;
+  int inside = 0;
+  for (int y = 0; y < sharp.height(); ++y) {
+    for (int x = 0; x < sharp.width(); ++x) {
+      if (qAlpha(sharp.pixel(x, y)) == 0) continue;
+      ++inside;
+      near += std::abs(qRed(sharp.pixel(x, y)) - qRed(frame.pixel(x, y))) < 12 &&
+              std::abs(qGreen(sharp.pixel(x, y)) - qGreen(frame.pixel(x, y))) < 12;
+    }
+  }
+  return double(near) / inside;
 }
 
 /// A picture of one size with everything that a test looks at.
@@ -166,19 +182,66 @@ class RenderedPictureTest : public QObject {
       const QImage frame = f.drawAndRequest(turned);
       QCOMPARE(blankPixels(frame, turned, kSmall), 0);
       // Position and sense are right, not only the area: most pixels are near what a sharp frame has.
-      int near = 0;
-      int inside = 0;
+      const double alike = nearPixels(frame, f.reference(turned));
+      QVERIFY2(alike > 0.95, qPrintable(QString("%1 at %2").arg(alike).arg(degrees)));
+    }
+  }
+
+  void turningOnStaysWholeAndInPlaceWhateverTheBitmapIsPaintedFrom() {
+    const Fixture f(kSmall);
+    QVERIFY(f.becomesSharp(placed(kSmall, 1.3, 0, {150, 100})));
+    f.process->hold(PictureCall::Render);
+    for (const double degrees : {30.0, 46.0, 60.0, 83.0, 90.0, 97.0, 134.0, 180.0, 226.0, 270.0, 314.0}) {
+      const QTransform turned = placed(kSmall, 1.3, degrees, {150, 100});
       const QImage sharp = f.reference(turned);
-      for (int y = 0; y < kFrame.height(); ++y) {
-        for (int x = 0; x < kFrame.width(); ++x) {
-          if (qAlpha(sharp.pixel(x, y)) == 0) continue;
-          ++inside;
-          near += std::abs(qRed(sharp.pixel(x, y)) - qRed(frame.pixel(x, y))) < 12 &&
-                  std::abs(qGreen(sharp.pixel(x, y)) - qGreen(frame.pixel(x, y))) < 12;
-        }
+      // What is prepared beside the frames is there from the second frame on, at the latest.
+      for (int frame = 0; frame < 2; ++frame) {
+        const QImage shown = f.drawAndRequest(turned);
+        QThreadPool::globalInstance()->waitForDone();
+        QCOMPARE(blankPixels(shown, turned, kSmall), 0);
+        const double alike = nearPixels(shown, sharp);
+        QVERIFY2(alike > 0.95, qPrintable(QString("%1 at %2").arg(alike).arg(degrees)));
       }
-      QVERIFY2(near > inside * 95 / 100,
-               qPrintable(QString("%1 of %2 at %3").arg(near).arg(inside).arg(degrees)));
+    }
+  }
+
+  void theBitmapOfTheNearestAngleStandsIn() {
+    MemoryPicture memory;
+    memory.paint = [](const RenderRequest& request) {
+      QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
+      image.fill(std::abs(request.pictureToDevice.m12()) < 0.1 ? Qt::red : Qt::green);
+      return image;
+    };
+    const Fixture f(kSmall, {}, memory);
+    QVERIFY(f.becomesSharp(placed(kSmall, 1, 0, {150, 100})));
+    QVERIFY(f.becomesSharp(placed(kSmall, 1, 50, {150, 100})));
+    f.process->hold(PictureCall::Render);
+    QCOMPARE(f.drawAndRequest(placed(kSmall, 1, 8, {150, 100})).pixelColor(150, 100), QColor(Qt::red));
+    QCOMPARE(f.drawAndRequest(placed(kSmall, 1, 44, {150, 100})).pixelColor(150, 100), QColor(Qt::green));
+    QCOMPARE(f.drawAndRequest(placed(kSmall, 1, 12, {150, 100})).pixelColor(150, 100), QColor(Qt::red));
+  }
+
+  void aTranslucentPictureIsNotBlendedTwiceWhileItTurns() {
+    MemoryPicture memory;
+    memory.paint = [](const RenderRequest& request) {
+      QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
+      image.fill(QColor(0, 0, 255, 100));
+      return image;
+    };
+    const Fixture f(kLarge, {}, memory);
+    QVERIFY(f.becomesSharp(placed(kLarge, 0.06, 0, {150, 100})));
+    QVERIFY(f.becomesSharp(placed(kLarge, 4, 0, {150, 100})));
+    QVERIFY(f.becomesIdle());
+    f.process->hold(PictureCall::Render);
+    for (const double degrees : {20.0, 88.0, 200.0}) {
+      const QImage frame = f.drawAndRequest(placed(kLarge, 4, degrees, {150, 100}));
+      QCOMPARE(qAlpha(frame.pixel(150, 100)), 100);  // the sharp bitmap
+      QCOMPARE(qAlpha(frame.pixel(3, 3)), 100);      // the whole picture behind it
+      const QImage fitted = f.drawAndRequest(placed(kLarge, 0.06, degrees, {150, 100}));
+      int doubled = 0;
+      for (int y = 0; y < fitted.height(); ++y)
+        for (int x = 0; x < fitted.width(); ++x) doubled += qAlpha(fitted.pixel(x, y)) > 101;
+      QCOMPARE(doubled, 0);
     }
   }
 

@@ -1,7 +1,8 @@
 #include "platform/picture/rendered_layer.h"
 
 #include <QPainter>
-#include <QPolygon>
+#include <QPolygonF>
+#include <QtConcurrent>
 
 #include <algorithm>
 #include <cmath>
@@ -14,22 +15,20 @@ QRect pixelRect(const QRectF& rect) {
   return sane.isEmpty() ? QRect() : sane.toAlignedRect();
 }
 
-namespace {
-
-/// Without its outermost pixels: along a slanted edge, rounding decides which of them are painted.
-QRegion eroded(const QRegion& region) {
-  return region & region.translated(1, 0) & region.translated(-1, 0) & region.translated(0, 1) &
-         region.translated(0, -1);
+QRegion mappedRect(const QTransform& t, const QRectF& rect, const QRegion& within) {
+  const QRectF bounds = QRectF(within.boundingRect()).adjusted(-3, -3, 3, 3);
+  if (rect.isEmpty() || within.isEmpty()) return {};
+  if (t.type() <= QTransform::TxScale) return within & pixelRect(t.mapRect(rect) & bounds);
+  const QPolygonF part = t.map(QPolygonF(rect)).intersected(QPolygonF(bounds));
+  return part.isEmpty() ? QRegion() : QRegion(part.toPolygon()) & within;
 }
 
-}  // namespace
-
-bool RenderedLayer::fits(const QTransform& t, const QSizeF& size) const {
+double RenderedLayer::distance(const QTransform& t, const QSizeF& size) const {
   const double x = std::abs(t.m11() - transform_.m11()) * size.width() +
                    std::abs(t.m21() - transform_.m21()) * size.height();
   const double y = std::abs(t.m12() - transform_.m12()) * size.width() +
                    std::abs(t.m22() - transform_.m22()) * size.height();
-  return x < 0.05 && y < 0.05;  // pixels over the whole picture
+  return std::max(x, y);
 }
 
 QPoint RenderedLayer::offset(const QTransform& t) const {
@@ -38,13 +37,13 @@ QPoint RenderedLayer::offset(const QTransform& t) const {
 
 void RenderedLayer::add(const QRect& rect, const QImage& image) {
   pieces_.removeIf([&](const Piece& piece) { return rect.contains(piece.rect); });
-  pieces_.append({rect, image});
+  pieces_.append({rect, image, {}});
   covered_ += rect;
 }
 
 qint64 RenderedLayer::bytes() const {
   qint64 sum = 0;
-  for (const Piece& piece : pieces_) sum += piece.image.sizeInBytes();
+  for (const Piece& piece : pieces_) sum += piece.bytes();
   return sum;
 }
 
@@ -57,7 +56,7 @@ void RenderedLayer::shrink(qint64 budget, const QRect& keep) {
   qint64 total = bytes();
   for (qsizetype i = pieces_.size() - 1; i >= 0 && total > budget; --i) {
     if (pieces_[i].rect.intersects(keep)) continue;
-    total -= pieces_[i].image.sizeInBytes();
+    total -= pieces_[i].bytes();
     pieces_.removeAt(i);
   }
   covered_ = {};
@@ -75,26 +74,36 @@ void RenderedLayer::paintExactly(QPainter& painter, const QPoint& offset, const 
 
 void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevice,
                                 const QRegion& wanted) const {
+  const QTransform toPainter = layerToDevice * painter.transform();
+  const double tilt = std::abs(layerToDevice.m12()), upright = std::abs(layerToDevice.m11());
   painter.save();
   painter.setClipRegion(wanted, Qt::IntersectClip);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.setTransform(layerToDevice, true);
-  for (const Piece& piece : pieces_) painter.drawImage(piece.rect.topLeft(), piece.image);
+  for (const Piece& piece : pieces_) {
+    const QRect& rect = piece.rect;
+    if (!layerToDevice.mapRect(QRectF(rect)).intersects(wanted.boundingRect())) continue;
+    if (tilt > upright / 2) piece.prepareTurned();
+    const bool turned = tilt > upright && piece.turned.isFinished();
+    const QTransform place = turned ? QTransform(0, -1, 1, 0, rect.x(), rect.y() + rect.height())
+                                    : QTransform::fromTranslate(rect.x(), rect.y());
+    painter.setTransform(place * toPainter);
+    painter.drawImage(QPoint(), turned ? piece.turned.result() : piece.image);
+  }
   painter.restore();
 }
 
-QRegion RenderedLayer::mappedRegion(const QTransform& layerToDevice, const QRegion& within) const {
-  const QRectF bounds = QRectF(within.boundingRect()).adjusted(-3, -3, 3, 3);
+void RenderedLayer::Piece::prepareTurned() const {
+  if (turned.isValid()) return;
+  turned = QtConcurrent::run([bitmap = image] { return bitmap.transformed(QTransform().rotate(90)); });
+}
+
+QRegion RenderedLayer::mappedRegion(const QTransform& layerToDevice, double margin,
+                                    const QRegion& within) const {
+  const double around = margin / std::sqrt(std::abs(layerToDevice.determinant()));
   QRegion region;
-  for (const QRect& rect : covered_) {
-    if (layerToDevice.type() <= QTransform::TxScale) {
-      region += pixelRect(layerToDevice.mapRect(QRectF(rect)) & bounds);
-      continue;
-    }
-    const QPolygonF part = layerToDevice.map(QPolygonF(QRectF(rect))).intersected(QPolygonF(bounds));
-    if (!part.isEmpty()) region += QRegion(part.toPolygon());
-  }
-  return eroded(region) & within;
+  for (const QRect& rect : covered_)
+    region += mappedRect(layerToDevice, QRectF(rect).adjusted(-around, -around, around, around), within);
+  return region;
 }
 
 }  // namespace norvex

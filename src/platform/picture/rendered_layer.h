@@ -1,6 +1,7 @@
 // RenderedLayer: the bitmaps that were rendered under one scale and angle.
 #pragma once
 
+#include <QFuture>
 #include <QImage>
 #include <QList>
 #include <QPoint>
@@ -20,9 +21,13 @@ class RenderedLayer {
   explicit RenderedLayer(const QTransform& pictureToLayer) : transform_(pictureToLayer) {}
 
   [[nodiscard]] const QTransform& transform() const { return transform_; }
-  /// Whether `pictureToDevice` has the same scale and angle, so exactly that no pixel of a picture of this
-  /// size moves visibly. Translations are not compared.
-  [[nodiscard]] bool fits(const QTransform& pictureToDevice, const QSizeF& pictureSize) const;
+  /// How far a point of a picture of this size moves at most between the layer and a view, the translation
+  /// aside; pixels.
+  [[nodiscard]] double distance(const QTransform& pictureToDevice, const QSizeF& pictureSize) const;
+  /// Whether `pictureToDevice` has the same scale and angle, so exactly that no pixel moves visibly.
+  [[nodiscard]] bool fits(const QTransform& pictureToDevice, const QSizeF& pictureSize) const {
+    return distance(pictureToDevice, pictureSize) < 0.05;
+  }
   /// Device position of layer pixel (0, 0), to the nearest whole pixel. REQUIRES fits().
   [[nodiscard]] QPoint offset(const QTransform& pictureToDevice) const;
 
@@ -38,13 +43,20 @@ class RenderedLayer {
   void paintExactly(QPainter& painter, const QPoint& offset, const QRegion& wanted) const;
   /// Scaled or turned.
   void paintMapped(QPainter& painter, const QTransform& layerToDevice, const QRegion& wanted) const;
-  /// The device pixels that paintMapped() surely fills.
-  [[nodiscard]] QRegion mappedRegion(const QTransform& layerToDevice, const QRegion& within) const;
+  /// The pixels of `within` that paintMapped() fills, each bitmap grown by `margin` device pixels.
+  [[nodiscard]] QRegion mappedRegion(const QTransform& layerToDevice, double margin,
+                                     const QRegion& within) const;
 
  private:
   struct Piece {
     QRect rect;
     QImage image;
+    /// Clockwise by a quarter. Along the columns of a bitmap, painting takes up to three times as long as
+    /// along its rows, so a picture that is being turned is painted from this from 45 degrees on. It is made
+    /// beside the frames.
+    mutable QFuture<QImage> turned;
+    void prepareTurned() const;
+    [[nodiscard]] qint64 bytes() const { return image.sizeInBytes() * (turned.isValid() ? 2 : 1); }
   };
   QTransform transform_;
   QList<Piece> pieces_;
@@ -53,5 +65,7 @@ class RenderedLayer {
 
 /// The rectangle of whole pixels around `rect`, kept in a range in which integers cannot overflow.
 [[nodiscard]] QRect pixelRect(const QRectF& rect);
+/// The pixels of `within` that the mapped rectangle fills, give or take one at a slanted edge.
+[[nodiscard]] QRegion mappedRect(const QTransform& transform, const QRectF& rect, const QRegion& within);
 
 }  // namespace norvex

@@ -7,10 +7,13 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/picture/rendered_frame.h"
+
 namespace norvex {
 namespace {
 
 constexpr int kMaximumLayers = 8;
+constexpr int kMaximumStandIns = 2;  // besides the overview: a frame has a few milliseconds
 constexpr int kMaximumFailures = 3;
 constexpr int kMaximumBlocked = 32;
 constexpr int kMaximumRects = 4;  // every rectangle costs a walk through the whole picture
@@ -64,6 +67,15 @@ const RenderedLayer* RenderedPicture::layerFitting(const QTransform& transform) 
   return nullptr;
 }
 
+QList<const RenderedLayer*> RenderedPicture::nearestLayers(const QTransform& t) const {
+  QList<const RenderedLayer*> nearest;
+  for (const RenderedLayer& layer : layers_) nearest << &layer;
+  std::stable_sort(nearest.begin(), nearest.end(), [&](const RenderedLayer* a, const RenderedLayer* b) {
+    return a->distance(t, size_) < b->distance(t, size_);
+  });
+  return nearest;
+}
+
 /// A layer that is there or on its way gives its own sub-pixel position: scrolling by parts of a pixel then
 /// moves what is rendered instead of rendering it again.
 QTransform RenderedPicture::layerTransformFor(const QTransform& t) const {
@@ -114,36 +126,14 @@ qint64 RenderedPicture::cacheBytes() const {
 
 void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& visible) {
   if (!isUsable(t)) return;
-  QRegion left(visible & pixelRect(t.mapRect(QRectF(QPointF(), size_))));
-  if (left.isEmpty()) return;
+  RenderedFrame frame(t, visible, size_);
+  for (const RenderedLayer* layer : nearestLayers(t))
+    if (frame.standIns() < kMaximumStandIns) frame.add(*layer);
+  if (overview_) frame.add(*overview_);
   painter.save();
   painter.setWorldTransform(QTransform());
   painter.setWorldTransform(painter.deviceTransform().inverted());
-
-  if (const RenderedLayer* sharp = layerFitting(t)) {
-    const QPoint offset = sharp->offset(t);
-    sharp->paintExactly(painter, offset, left & sharp->covered().translated(offset));
-    left -= sharp->covered().translated(offset);
-  }
-  // From front to back it is decided who fills what, then it is painted from back to front: along their edges
-  // the layers overlap by a pixel instead of leaving one open.
-  struct Part {
-    const RenderedLayer* layer;
-    QTransform toDevice;
-    QRegion region;
-  };
-  QList<Part> parts;
-  const auto take = [&](const RenderedLayer& layer) {
-    const QTransform toDevice = layer.transform().inverted() * t;
-    const QRegion filled = layer.mappedRegion(toDevice, left);
-    if (filled.isEmpty()) return;
-    parts.prepend({&layer, toDevice, left});
-    left -= filled;
-  };
-  for (const RenderedLayer& layer : layers_)
-    if (!left.isEmpty() && parts.size() < 2 && !layer.fits(t, size_)) take(layer);
-  if (!left.isEmpty() && overview_) take(*overview_);
-  for (const Part& part : parts) part.layer->paintMapped(painter, part.toDevice, part.region);
+  frame.paint(painter);
   painter.restore();
 }
 

@@ -87,6 +87,7 @@ class RenderedPicture final : public QObject {
   [[nodiscard]] std::optional<View> viewFor(const QTransform& pictureToDevice, const QRect& visible) const;
   [[nodiscard]] QTransform layerTransformFor(const QTransform& pictureToDevice) const;
   [[nodiscard]] const RenderedLayer* layerFitting(const QTransform& transform) const;
+  [[nodiscard]] QList<const RenderedLayer*> nearestLayers(const QTransform& pictureToDevice) const;
   [[nodiscard]] const Blocked* blockFor(const QTransform& transform) const;
   [[nodiscard]] QRect wantedRect(const View& view, bool withMargin) const;
   void plan();

@@ -1,0 +1,49 @@
+// RenderedFrame: which layer fills which pixels of one frame.
+#pragma once
+
+#include <QList>
+#include <QRect>
+#include <QRegion>
+#include <QSizeF>
+#include <QTransform>
+
+class QPainter;
+
+namespace norvex {
+
+class RenderedLayer;
+
+/// From front to back it is decided who fills what, then it is painted from back to front: along their edges
+/// the layers overlap by a pixel instead of leaving one open. Device pixels, y down. The layers must outlive
+/// it. One thread at a time.
+class RenderedFrame {
+ public:
+  RenderedFrame(const QTransform& pictureToDevice, const QRect& visibleDeviceRect, const QSizeF& pictureSize);
+
+  /// Whether a pixel of the picture is not filled yet. What is thinner than two pixels at the picture's own
+  /// edge does not count: it would cost the drawing of a whole layer.
+  [[nodiscard]] bool isOpen() const { return !missing_.isEmpty(); }
+  /// Puts a layer behind those that were added; pixel for pixel where it fits the view, otherwise scaled or
+  /// turned. Does nothing when it shows nothing that is still open.
+  void add(const RenderedLayer& layer);
+  /// How many scaled or turned layers there are.
+  [[nodiscard]] int standIns() const { return int(parts_.size()) - exact_; }
+
+  /// The painter's transform is the identity on device pixels.
+  void paint(QPainter& painter) const;
+
+ private:
+  struct Part {
+    const RenderedLayer* layer;
+    bool exact;
+    QRegion region;
+  };
+  QTransform transform_;
+  QSizeF size_;
+  QRegion open_;     ///< where something behind may be painted
+  QRegion missing_;  ///< where something must be
+  QList<Part> parts_;
+  int exact_ = 0;
+};
+
+}  // namespace norvex

@@ -37,7 +37,8 @@ class SourceBlocksTest : public QObject {
   }
 
   void aLongLineIsSeveralBlocksOfOneNumber() {
-    const QString text = QString(4500, u'x') + u'\n' + u'y';
+    constexpr int whole = SourceBlocks::longestBlock;
+    const QString text = QString(2 * whole + 100, u'x') + u'\n' + u'y';
     const SourceBlocks blocks(text);
     QCOMPARE(blocks.count(), 4);
     QCOMPARE(blocks.lineCount(), 2);
@@ -45,8 +46,8 @@ class SourceBlocksTest : public QObject {
     QCOMPARE(blocks.lineNumber(1), 0);
     QCOMPARE(blocks.lineNumber(2), 0);
     QCOMPARE(blocks.lineNumber(3), 2);
-    QCOMPARE(blocks.block(2).size(), 500);
-    QCOMPARE(blocks.copied(1990, 2010), QString(20, u'x'));
+    QCOMPARE(blocks.block(2).size(), 100);
+    QCOMPARE(blocks.copied(whole - 10, whole + 10), QString(20, u'x'));
   }
 
   void aPairOfSurrogatesIsNotTornApart() {
@@ -57,15 +58,15 @@ class SourceBlocksTest : public QObject {
   }
 
   void positionsGoThereAndBack() {
-    const QString text = QStringLiteral("ab\r\n") + QString(2500, u'x') + QStringLiteral("\r\rend");
+    const QString text = QStringLiteral("ab\r\n") + QString(SourceBlocks::longestBlock + 500, u'x') + QStringLiteral("\r\rend");
     const SourceBlocks blocks(text);
     for (qsizetype at = 0; at <= text.size(); ++at) {
       const bool insideLineEnd = at > 0 && at < text.size() && text.at(at - 1) == u'\r' && text.at(at) == u'\n';
       const qsizetype back = blocks.textPosition(blocks.shownPosition(at));
       QCOMPARE(back, insideLineEnd ? at - 1 : at);
     }
-    // "ab", a separator, 2000 of the x, a separator, one more x.
-    QCOMPARE(blocks.shownPosition(4 + 2001), qsizetype(3 + 2000 + 1 + 1));
+    // "ab", a separator, a whole block of the x, a separator, one more x.
+    QCOMPARE(blocks.shownPosition(4 + SourceBlocks::longestBlock + 1), qsizetype(3 + SourceBlocks::longestBlock + 1 + 1));
   }
 
   void whatIsCopiedIsTheTextWithPlainLineEnds() {

@@ -7,14 +7,14 @@
 
 namespace norvex {
 
-/// Text widgets lay out a paragraph as a whole, and pictures hold lines of megabytes: such a line is shown as several
-/// blocks, of which only the first has a line number. Positions "in the text" are those of the string as it was given;
-/// "shown" positions count every block plus one separator after it. Lines end with LF, CR LF, CR or the separators that
-/// Qt's documents take for one. A value; any thread.
+/// Text widgets lay out and paint a paragraph as a whole, and pictures hold lines of megabytes: such a line
+/// is shown as several blocks, of which only the first has a line number. Positions "in the text" are those
+/// of the string as it was given; "shown" positions count every block plus one separator after it. Lines end
+/// with LF, CR LF, CR or the separators that Qt's documents take for one. A value; any thread.
 class SourceBlocks {
  public:
   /// UTF-16 units.
-  static constexpr int longestBlock = 2000;
+  static constexpr int longestBlock = 500;
 
   explicit SourceBlocks(QString text = {});
 

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QImage>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -36,6 +37,9 @@ class PictureProcess {
   virtual Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) = 0;
+  /// What render() has found out so far about how the document is drawn, one plain sentence each: fonts that others
+  /// stand in for.
+  [[nodiscard]] virtual QStringList drawingRemarks() const { return {}; }
 };
 
 /// Starts picture processes. One for the whole program, owned by its main; thread-safe.

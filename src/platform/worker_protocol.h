@@ -25,7 +25,7 @@
 
 namespace norvex {
 
-inline constexpr int workerProtocolVersion = 2;
+inline constexpr int workerProtocolVersion = 3;
 inline constexpr quint32 maximumMessageBytes = 4u << 20;
 
 // What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge title
@@ -39,6 +39,7 @@ inline constexpr int maximumNames = 100;              ///< of fonts and of colou
 inline constexpr int maximumNameLength = 256;
 inline constexpr int maximumBitmapSide = 65535;
 inline constexpr double maximumCoordinate = 1.0e7;    ///< points
+inline constexpr double maximumDpi = 1.0e5;           ///< of images in a result
 inline constexpr int maximumSheets = 2000;            ///< of one print job
 
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
@@ -170,6 +171,7 @@ struct PictureFacts {
 struct BytesReply {
   int regionsRasterised = 0;       ///< parts of the page that the target format could only hold as images
   double rasterisedAreaShare = 0;  ///< 0 … 1 of the page
+  double rasterisedDpi = 0;        ///< of the coarsest of these images; 0: there is none, or it is not known
   QStringList warnings;
 };
 
@@ -177,6 +179,7 @@ struct BytesReply {
 struct BitmapReply {
   QSize pixelSize;
   int bytesPerRow = 0;
+  QStringList warnings;  ///< of the drawing: fonts that others stand in for
 };
 
 /// Reply to DecodePreviewRequest; samples in the memfd. The fields are those of NSBitmapImageRep.

@@ -60,6 +60,7 @@ void insert(QCborMap& map, const BytesReply& bytes) {
   map.insert(Key("type"), Key("bytes"));
   map.insert(Key("regions"), bytes.regionsRasterised);
   map.insert(Key("share"), bytes.rasterisedAreaShare);
+  map.insert(Key("dpi"), bytes.rasterisedDpi);
   map.insert(Key("warnings"), arrayOf(bytes.warnings));
 }
 
@@ -67,6 +68,7 @@ void insert(QCborMap& map, const BitmapReply& bitmap) {
   map.insert(Key("type"), Key("bitmap"));
   map.insert(Key("size"), QCborArray{bitmap.pixelSize.width(), bitmap.pixelSize.height()});
   map.insert(Key("rowBytes"), bitmap.bytesPerRow);
+  map.insert(Key("warnings"), arrayOf(bitmap.warnings));
 }
 
 void insert(QCborMap& map, const PreviewReply& preview) {
@@ -124,14 +126,16 @@ BytesReply bytesFrom(CborFields& fields) {
   BytesReply bytes;
   bytes.regionsRasterised = int(fields.integer(Key("regions"), 0, kMaximumRegions));
   bytes.rasterisedAreaShare = fields.number(Key("share"), 1);
-  if (bytes.rasterisedAreaShare < 0) fields.fail();
+  bytes.rasterisedDpi = fields.number(Key("dpi"), maximumDpi);
+  if (bytes.rasterisedAreaShare < 0 || bytes.rasterisedDpi < 0) fields.fail();
   bytes.warnings = fields.texts(Key("warnings"), maximumWarnings, maximumSentenceLength);
   return bytes;
 }
 
 BitmapReply bitmapFrom(CborFields& fields) {
   return {fields.size(Key("size"), maximumBitmapSide),
-          int(fields.integer(Key("rowBytes"), 4, kMaximumRowBytes))};
+          int(fields.integer(Key("rowBytes"), 4, kMaximumRowBytes)),
+          fields.texts(Key("warnings"), maximumWarnings, maximumSentenceLength)};
 }
 
 PreviewReply previewFrom(CborFields& fields) {

@@ -104,7 +104,7 @@ DocumentServer::Answer DocumentServer::serve(const RenderRequest& request, FileD
   if (image->isNull()) return {noMemory(), {}};
   Result<FileDescriptor> pixels = SealedMemory::seal(image->constBits(), image->sizeInBytes());
   if (!pixels) return {pixels.error(), {}};
-  return {BitmapReply{image->size(), int(image->bytesPerLine())}, std::move(*pixels)};
+  return {BitmapReply{image->size(), int(image->bytesPerLine()), engine_->drawingRemarks()}, std::move(*pixels)};
 }
 
 DocumentServer::Answer DocumentServer::serve(const PdfRequest& request, FileDescriptor) {

@@ -72,8 +72,8 @@ QList<WorkerReply> replies() {
   return {
       {1, richFacts()},
       {2, PictureFacts{}},
-      {3, BytesReply{2, 0.25, {"a region became an image"}}},
-      {4, BitmapReply{QSize(640, 480), 2560}},
+      {3, BytesReply{2, 0.25, 300, {"a region became an image"}}},
+      {4, BitmapReply{QSize(640, 480), 2560, {"a font is missing"}}},
       {5, preview},
       {6, ForkReply{4242}},
       {7, Error{ErrorKind::Encrypted, "the document needs a password"}},
@@ -272,6 +272,8 @@ class WorkerProtocolTest : public QObject {
     QTest::newRow("huge box") << 0 << "viewBox" << QCborValue(QCborArray{0.0, 0.0, 1.1e7, 1.0});
     QTest::newRow("share over 1") << 2 << "share" << QCborValue(1.01);
     QTest::newRow("share below 0") << 2 << "share" << QCborValue(-0.01);
+    QTest::newRow("dpi below 0") << 2 << "dpi" << QCborValue(-1.0);
+    QTest::newRow("dpi beyond belief") << 2 << "dpi" << QCborValue(1.0e5 + 1);
     QTest::newRow("side 0") << 3 << "size" << QCborValue(QCborArray{0, 1});
     QTest::newRow("side negative") << 3 << "size" << QCborValue(QCborArray{1, -1});
     QTest::newRow("side 65536") << 3 << "size" << QCborValue(QCborArray{65536, 1});

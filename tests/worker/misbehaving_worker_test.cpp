@@ -120,6 +120,14 @@ class MisbehavingWorkerTest : public QObject {
              ErrorKind::Protocol);
   }
 
+  void imagesOfAResolutionThatCannotBe() {
+    for (const char* mode : {"negative-dpi", "impossible-dpi"}) {
+      const auto process = service_->open(mode, PictureKind::Pdf, kLimits);
+      QCOMPARE(process->pdf({}).error().kind, ErrorKind::Protocol);
+      QCOMPARE(process->compose({VectorFormat::Eps, 0, QRectF(0, 0, 1, 1), 0}).error().kind, ErrorKind::Protocol);
+    }
+  }
+
   void anImageWhereBytesWereAskedFor() {
     const auto process = service_->open("unsealed-memory", PictureKind::Pdf, kLimits);
     QCOMPARE(process->pdf({}).error().kind, ErrorKind::Protocol);

@@ -62,6 +62,7 @@ class WorkerServiceTest : public QObject {
     QCOMPARE(eps->bytes, QByteArray("EPS"));
     QCOMPARE(eps->report.regionsRasterised, 1);
     QCOMPARE(eps->report.rasterisedAreaShare, 0.5);
+    QCOMPARE(eps->report.rasterisedDpi, 150.0);
     QCOMPARE(process->svg({})->bytes, QByteArray("ok 120 80"));
   }
 
@@ -99,6 +100,15 @@ class WorkerServiceTest : public QObject {
       QCOMPARE(facts.error().message, QString("a password is needed"));  // no line break reaches a terminal
       QCOMPARE(process->render(drawing()).error().kind, ErrorKind::Encrypted);
     }
+  }
+
+  void whatDrawingFindsOutIsKeptOnce() {
+    const auto process = service_->open("ok", PictureKind::Pdf);
+    QVERIFY(process->facts().ok());
+    QCOMPARE(process->drawingRemarks(), QStringList());
+    QVERIFY(process->render(drawing(1)).ok());
+    QVERIFY(process->render(drawing(2)).ok());
+    QCOMPARE(process->drawingRemarks(), QStringList{"a [31mremark about fonts"});
   }
 
   void warningsCarryNoTerminalCodes() {

@@ -134,6 +134,11 @@ Result<PictureFacts> MemoryPictureProcess::facts(const CancelToken& cancel) {
   return picture_.facts;
 }
 
+QStringList MemoryPictureProcess::drawingRemarks() const {
+  const std::lock_guard lock(mutex_);
+  return renders_.isEmpty() ? QStringList() : picture_.drawingRemarks;
+}
+
 Result<QImage> MemoryPictureProcess::render(const RenderRequest& request, const CancelToken& cancel) {
   const std::lock_guard serial(serial_);
   {
@@ -148,8 +153,8 @@ Result<QImage> MemoryPictureProcess::render(const RenderRequest& request, const 
 Result<PictureBytes> MemoryPictureProcess::pdf(const PdfRequest& request, const CancelToken& cancel) {
   const std::lock_guard serial(serial_);
   if (const auto begun = begin(PictureCall::Pdf, cancel); !begun) return begun.error();
-  if (picture_.pdf) return PictureBytes{picture_.pdf(request), {}};
-  return PictureBytes{emptyPdf(picture_.facts.pageBounds.value(request.page).size()), {}};
+  if (picture_.pdf) return PictureBytes{picture_.pdf(request), picture_.report};
+  return PictureBytes{emptyPdf(picture_.facts.pageBounds.value(request.page).size()), picture_.report};
 }
 
 Result<PictureBytes> MemoryPictureProcess::compose(const ComposeRequest& request, const CancelToken& cancel) {
@@ -159,15 +164,15 @@ Result<PictureBytes> MemoryPictureProcess::compose(const ComposeRequest& request
     composes_ << request;
   }
   if (const auto begun = begin(PictureCall::Compose, cancel); !begun) return begun.error();
-  if (picture_.compose) return PictureBytes{picture_.compose(request), {}};
+  if (picture_.compose) return PictureBytes{picture_.compose(request), picture_.report};
   const QSizeF size = request.rect.size();
-  return PictureBytes{request.format == VectorFormat::Pdf ? emptyPdf(size) : emptyEps(size), {}};
+  return PictureBytes{request.format == VectorFormat::Pdf ? emptyPdf(size) : emptyEps(size), picture_.report};
 }
 
 Result<PictureBytes> MemoryPictureProcess::svg(const SvgRequest& request, const CancelToken& cancel) {
   const std::lock_guard serial(serial_);
   if (const auto begun = begin(PictureCall::Svg, cancel); !begun) return begun.error();
-  return PictureBytes{picture_.svg ? picture_.svg(request) : bytes_, {}};
+  return PictureBytes{picture_.svg ? picture_.svg(request) : bytes_, picture_.report};
 }
 
 // ---- service

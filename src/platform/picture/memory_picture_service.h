@@ -27,6 +27,8 @@ struct MemoryPicture {
   MemoryPicture();
 
   PictureFacts facts;
+  QStringList drawingRemarks;
+  BytesReply report;                                  ///< of pdf, compose and svg
   std::function<QImage(const RenderRequest&)> paint;  ///< Default: testPattern() of the page
   std::function<QByteArray(const PdfRequest&)> pdf;   ///< Default: an empty page of the page's size
   std::function<QByteArray(const ComposeRequest&)>
@@ -71,6 +73,7 @@ class MemoryPictureProcess final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
+  [[nodiscard]] QStringList drawingRemarks() const override;
 
  private:
   struct CallState {

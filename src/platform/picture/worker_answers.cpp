@@ -41,7 +41,7 @@ Result<PictureFacts> factsFrom(WorkerAnswer answer) {
   return facts;
 }
 
-Result<QImage> imageFrom(WorkerAnswer answer, const QSize& pixelSize) {
+Result<QImage> imageFrom(WorkerAnswer answer, const QSize& pixelSize, QStringList& remarks) {
   const Result<BitmapReply> reply = bodyOf<BitmapReply>(answer, true);
   if (!reply) return reply.error();
   const qsizetype size = qsizetype(reply->bytesPerRow) * pixelSize.height();
@@ -49,6 +49,7 @@ Result<QImage> imageFrom(WorkerAnswer answer, const QSize& pixelSize) {
   Result<SealedMemory> memory = SealedMemory::map(std::move(answer.descriptor), size);
   if (!memory) return memory.error();
   if (memory->size() != size) return cannotBeTrue();
+  remarks = plainSentences(reply->warnings);
   auto* owner = new SealedMemory(*memory);
   const auto* pixels = reinterpret_cast<const uchar*>(owner->data());
   return QImage(

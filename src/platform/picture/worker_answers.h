@@ -13,8 +13,9 @@ namespace norvex {
 // has or when its numbers, its descriptor and the limits do not agree.
 
 [[nodiscard]] Result<PictureFacts> factsFrom(WorkerAnswer answer);
-/// The image's pixels are the shared memory itself, read-only: it detaches when it is changed.
-[[nodiscard]] Result<QImage> imageFrom(WorkerAnswer answer, const QSize& pixelSize);
+/// The image's pixels are the shared memory itself, read-only: it detaches when it is changed. `remarks` takes what
+/// the answer tells about the drawing.
+[[nodiscard]] Result<QImage> imageFrom(WorkerAnswer answer, const QSize& pixelSize, QStringList& remarks);
 [[nodiscard]] Result<PictureBytes> bytesFrom(WorkerAnswer answer, const PictureLimits& limits);
 [[nodiscard]] Result<NSBitmapImageRep> bitmapFrom(WorkerAnswer answer, const PictureLimits& limits);
 

@@ -3,6 +3,8 @@
 #include "platform/picture/worker_answers.h"
 #include "platform/sealed_memory.h"
 
+#include <utility>
+
 namespace norvex {
 namespace {
 
@@ -115,7 +117,18 @@ Result<QImage> WorkerClient::render(const RenderRequest& request, const CancelTo
   const auto turn = turns_.take(cancel);
   if (!turn) return cancelled();
   Result<WorkerAnswer> answer = ask(request, cancel);
-  return answer ? distrusted(imageFrom(std::move(*answer), size)) : answer.error();
+  if (!answer) return answer.error();
+  QStringList remarks;
+  Result<QImage> image = distrusted(imageFrom(std::move(*answer), size, remarks));
+  const std::lock_guard lock(outcomeMutex_);
+  for (const QString& remark : std::as_const(remarks))
+    if (!remarks_.contains(remark) && remarks_.size() < maximumWarnings) remarks_ << remark;
+  return image;
+}
+
+QStringList WorkerClient::drawingRemarks() const {
+  const std::lock_guard lock(outcomeMutex_);
+  return remarks_;
 }
 
 Result<PictureBytes> WorkerClient::askForBytes(RequestBody body, const CancelToken& cancel) {

@@ -25,6 +25,7 @@ class WorkerClient final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
+  [[nodiscard]] QStringList drawingRemarks() const override;
 
   /// Number of the process that serves the document now, 0: none. For tests.
   [[nodiscard]] qint64 processId();
@@ -51,6 +52,7 @@ class WorkerClient final : public PictureProcess {
 
   mutable std::mutex outcomeMutex_;
   std::optional<Result<PictureFacts>> outcome_;  ///< of the opening, once it is final
+  QStringList remarks_;
 };
 
 }  // namespace norvex

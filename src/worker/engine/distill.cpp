@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "worker/engine/ghostscript.h"
+#include "worker/engine/installed_fonts.h"
 #include "worker/engine/pdf_file.h"
 #include "worker/engine/pdf_numbers.h"
 #include "worker/engine/pdf_writing.h"
@@ -95,8 +96,7 @@ QStringList substitutions(const QByteArray& messages) {
   QStringList warnings;
   for (auto match = line.globalMatch(QString::fromLatin1(messages)); match.hasNext();) {
     const QRegularExpressionMatch font = match.next();
-    const QString warning =
-        QStringLiteral("the font %1 is missing, %2 stands in for it").arg(font.captured(2), font.captured(1));
+    const QString warning = missingFontSentence(font.captured(2), font.captured(1));
     if (!warnings.contains(warning)) warnings << warning;
     if (warnings.size() == kMaximumSubstitutions) break;
   }

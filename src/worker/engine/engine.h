@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QHash>
 #include <QImage>
+#include <QStringList>
 #include <QString>
 
 #include <memory>
@@ -45,6 +46,8 @@ class DocumentEngine {
   virtual Result<EngineBytes> pdf(const PdfRequest& request) = 0;
   /// A rectangle of the rotated picture as one page.
   virtual Result<EngineBytes> compose(const ComposeRequest& request) = 0;
+  /// What is known about how the document is drawn, one plain sentence each: fonts that others stand in for.
+  [[nodiscard]] virtual QStringList drawingRemarks() const { return {}; }
   /// Only SVG has it; the others answer ErrorKind::Unsupported.
   virtual Result<EngineBytes> svg(const SvgRequest& request);
 };

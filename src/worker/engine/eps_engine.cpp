@@ -30,6 +30,10 @@ class EpsEngine final : public DocumentEngine {
     return renderer_->render(request, box_.size(), context_.limits);
   }
 
+  [[nodiscard]] QStringList drawingRemarks() const override {
+    return distilled_ ? distilled_->warnings : QStringList();
+  }
+
   Result<EngineBytes> pdf(const PdfRequest& request) override {
     if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
     EngineBytes result{distilled_->pdf, {}};

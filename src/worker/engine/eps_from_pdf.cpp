@@ -69,12 +69,16 @@ Result<EpsImage> imageOf(PdfRenderer& renderer, const QRectF& region, QSizeF pag
   return EpsImage{rect, std::move(*image)};
 }
 
-Result<QList<EpsImage>> imagesOf(const QByteArray& pdf, const QList<QRectF>& regions, QSizeF pageSize,
-                                 const EngineContext& context) {
+// Pixels a point: what the limit on pixels allows for all of them.
+double imageScale(const QList<QRectF>& regions, const PictureLimits& limits) {
   double area = 0;
   for (const QRectF& region : regions) area += region.width() * region.height();
-  const double scale =
-      std::min(kImageDpi / 72, std::sqrt(context.limits.megapixels * 1e6 / 4 / std::max(1.0, area)));
+  return std::min(kImageDpi / 72, std::sqrt(limits.megapixels * 1e6 / 4 / std::max(1.0, area)));
+}
+
+Result<QList<EpsImage>> imagesOf(const QByteArray& pdf, const QList<QRectF>& regions, QSizeF pageSize,
+                                 const EngineContext& context) {
+  const double scale = imageScale(regions, context.limits);
   PdfRenderer renderer(pdf);
   QList<EpsImage> images;
   for (const QRectF& region : regions) {
@@ -94,6 +98,7 @@ Result<EngineBytes> epsFromPdf(const QByteArray& source, EngineContext& context)
   const Result<Opaque> opaque = withoutTransparency(*pdf);
   if (!opaque) return opaque.error();
   QList<EpsImage> images;
+  double dpi = 0;
   if (opaque->usedTransparency) {
     const auto regions = transparentRegions(*pdf, opaque->size, opaque->pdf,
                                             QSizeF(wholePoints(opaque->size)), context.limits);
@@ -101,11 +106,13 @@ Result<EngineBytes> epsFromPdf(const QByteArray& source, EngineContext& context)
     auto made = imagesOf(*pdf, *regions, opaque->size, context);
     if (!made) return made.error();
     images = std::move(*made);
+    if (!images.isEmpty()) dpi = imageScale(*regions, context.limits) * 72;
   }
   const Result<PagePostScript> page = postScriptOfPage(opaque->pdf, wholePoints(opaque->size), context);
   if (!page) return page.error();
   EngineBytes result{writeEps(opaque->size, *page, images), {}};
   result.report.regionsRasterised = int(images.size());
+  result.report.rasterisedDpi = dpi;
   double area = 0;
   for (const EpsImage& image : std::as_const(images)) area += image.rect.width() * image.rect.height();
   result.report.rasterisedAreaShare = std::min(1.0, area / (opaque->size.width() * opaque->size.height()));

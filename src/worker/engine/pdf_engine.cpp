@@ -1,9 +1,11 @@
 // The engine of PDF documents and of Illustrator files that are PDF inside.
 #include "worker/engine/engine.h"
 #include "worker/engine/illustrator_notice.h"
+#include "worker/engine/installed_fonts.h"
 #include "worker/engine/pdf_facts.h"
 #include "worker/engine/pdf_file.h"
 #include "worker/engine/pdf_render.h"
+#include "worker/engine/pdf_resources.h"
 #include "worker/engine/whole_page.h"
 
 #include <optional>
@@ -25,8 +27,10 @@ class PdfEngine final : public DocumentEngine {
   Result<QImage> render(const RenderRequest& request) override {
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
+    if (request.purpose == RenderPurpose::Export) noteMissingFonts(request.page);
     Result<QImage> image = renderer_.render(request, *size, context_.limits);
-    if (image || image.error().kind == ErrorKind::Limit || image.error().kind == ErrorKind::Protocol) return image;
+    if (image || image.error().kind == ErrorKind::Limit || image.error().kind == ErrorKind::Protocol)
+      return image;
     return renderRepaired(request, *size);
   }
 
@@ -37,10 +41,24 @@ class PdfEngine final : public DocumentEngine {
   }
 
   Result<EngineBytes> compose(const ComposeRequest& request) override {
-    return composePage(bytes_, request, context_);
+    Result<EngineBytes> result = composePage(bytes_, request, context_);
+    // A PDF asks for its fonts as the document did; EPS holds what is drawn instead.
+    if (!result || request.format != VectorFormat::Eps) return result;
+    noteMissingFonts(request.page);
+    result->report.warnings = missingFonts_ + result->report.warnings;
+    return result;
   }
 
+  [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_; }
+
  private:
+  void noteMissingFonts(int page) {
+    if (page < 0 || page >= file_->pageCount() || fontsOfPage_ == page) return;
+    fontsOfPage_ = page;
+    missingFonts_.clear();
+    for (const QString& font : missingFonts(*file_, page)) missingFonts_ << missingFontSentence(font);
+  }
+
   [[nodiscard]] Result<QSizeF> shownSize(int page) {
     if (page < 0 || page >= file_->pageCount()) return noSuchPage(page, file_->pageCount());
     if (page < facts_.pageBounds.size()) return facts_.pageBounds[page].size();
@@ -65,6 +83,8 @@ class PdfEngine final : public DocumentEngine {
   PdfRenderer renderer_;
   std::optional<PdfRenderer> repaired_;
   int repairedPage_ = -1;
+  QStringList missingFonts_;  ///< of the page that was handed out last, one sentence each
+  int fontsOfPage_ = -1;
   EngineContext& context_;
 };
 

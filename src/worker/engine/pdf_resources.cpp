@@ -19,10 +19,32 @@ QString nameOf(QPDFObjectHandle name) {
   return name.isName() ? QString::fromStdString(name.getName()).mid(1) : QString();
 }
 
+/// Families of the 14 fonts and the names that go for them.
+bool isStandard(const QString& name) {
+  static const QRegularExpression families(
+      QStringLiteral("^(Helvetica|Times|Times-Roman|Courier|Symbol|ZapfDingbats|Arial|ArialMT|TimesNewRoman|"
+                     "TimesNewRomanPS|TimesNewRomanPSMT|CourierNew|CourierNewPS|CourierNewPSMT)"
+                     "([,-](Bold|Italic|Oblique|BoldItalic|BoldOblique|Roman)(MT)?)?$"));
+  return families.match(name).hasMatch();
+}
+
+bool isEmbedded(QPDFObjectHandle font) {
+  if (font.getKey("/Subtype").isNameAndEquals("/Type3")) return true;
+  if (QPDFObjectHandle parts = font.getKey("/DescendantFonts"); parts.isArray() && parts.getArrayNItems() > 0)
+    font = parts.getArrayItem(0);
+  QPDFObjectHandle descriptor =
+      font.isDictionary() ? font.getKey("/FontDescriptor") : QPDFObjectHandle::newNull();
+  return descriptor.isDictionary() && (descriptor.hasKey("/FontFile") || descriptor.hasKey("/FontFile2") ||
+                                       descriptor.hasKey("/FontFile3"));
+}
+
 /// One page's walk. Every object is looked at once, however often it is used.
 class Walk {
  public:
+  explicit Walk(bool readsContents) : readsContents_(readsContents) {}
+
   PdfResources found;
+  QStringList missingFonts;
 
   void takeContents(QPDFObjectHandle contents);
   void takeResources(QPDFObjectHandle resources, int depth);
@@ -38,6 +60,7 @@ class Walk {
   template <typename Take>
   static void forEach(QPDFObjectHandle dictionary, Take&& take);
 
+  const bool readsContents_;
   std::set<QPDFObjGen> seen_;
   qint64 scanned_ = 0;
   int objects_ = 0;
@@ -59,6 +82,7 @@ void Walk::forEach(QPDFObjectHandle dictionary, Take&& take) {
 }
 
 void Walk::takeContents(QPDFObjectHandle contents) {
+  if (!readsContents_) return;
   if (contents.isArray()) {
     for (int i = 0; i < contents.getArrayNItems(); ++i) takeContents(contents.getArrayItem(i));
     return;
@@ -76,6 +100,7 @@ void Walk::takeFont(QPDFObjectHandle font, int depth) {
   QString name = nameOf(font.getKey("/BaseFont"));
   if (name.isEmpty()) name = nameOf(font.getKey("/Name"));
   add(found.fonts, name.remove(tag));
+  if (!isEmbedded(font) && !isStandard(name)) add(missingFonts, name);
   if (!font.getKey("/Subtype").isNameAndEquals("/Type3")) return;
   takeResources(font.getKey("/Resources"), depth + 1);
 }
@@ -158,7 +183,7 @@ void Walk::takeResources(QPDFObjectHandle resources, int depth) {
 }  // namespace
 
 PdfResources pdfResources(PdfFile& file, int page) {
-  Walk walk;
+  Walk walk(true);
   try {
     walk.takeContents(file.page(page).getKey("/Contents"));
     walk.takeResources(file.attribute(page, "/Resources"), 0);
@@ -166,6 +191,16 @@ PdfResources pdfResources(PdfFile& file, int page) {
     // What was found before the damage is true all the same.
   }
   return walk.found;
+}
+
+QStringList missingFonts(PdfFile& file, int page) {
+  Walk walk(false);
+  try {
+    walk.takeResources(file.attribute(page, "/Resources"), 0);
+  } catch (const std::exception&) {
+    // As above.
+  }
+  return walk.missingFonts;
 }
 
 }  // namespace norvex::engine

@@ -12,6 +12,7 @@
 #include "worker/engine/cairo_surface.h"
 #include "worker/engine/engine.h"
 #include "worker/engine/gzip_inflate.h"
+#include "worker/engine/installed_fonts.h"
 #include "worker/engine/svg_cut.h"
 #include "worker/engine/svg_inspection.h"
 #include "worker/engine/svg_length.h"
@@ -24,6 +25,11 @@
 
 namespace norvex::engine {
 namespace {
+
+/// The lower of two resolutions that are known.
+double coarser(double one, double other) {
+  return one > 0 && other > 0 ? std::min(one, other) : std::max(one, other);
+}
 
 class SvgEngine final : public DocumentEngine {
  public:
@@ -49,6 +55,7 @@ class SvgEngine final : public DocumentEngine {
   [[nodiscard]] bool hugeParser() const { return inspection_.needsHugeParser && !inspection_.hasNestedDocument; }
   [[nodiscard]] bool needsOwnDocument(const QTransform& pixelsToDevice) const;
   Result<QImage> renderAsDocument(const RenderRequest& request, const QTransform& pixelsToDevice);
+  [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_.value_or(QStringList()); }
   [[nodiscard]] QStringList warnings() const;
   [[nodiscard]] BytesReply pdfReport() const;
 
@@ -60,6 +67,7 @@ class SvgEngine final : public DocumentEngine {
   QSizeF pixels_;
   std::unique_ptr<SvgRenderer> renderer_;
   std::optional<QByteArray> pdf_;
+  std::optional<QStringList> missingFonts_;  ///< one sentence each, once something was drawn
 };
 
 Result<void> SvgEngine::start(int page) const {
@@ -74,6 +82,7 @@ Result<const SvgRenderer*> SvgEngine::renderer() {
     if (!made) return made.error();
     renderer_ = std::move(*made);
   }
+  if (!missingFonts_) missingFonts_ = missingFamilies(inspection_.fontLists);
   return renderer_.get();
 }
 
@@ -174,7 +183,9 @@ Result<QImage> SvgEngine::render(const RenderRequest& request) {
 // Counted are the elements whose own attributes ask for an effect; what style sheets ask for is not seen here.
 BytesReply SvgEngine::pdfReport() const {
   BytesReply report;
+  report.warnings = drawingRemarks();
   report.regionsRasterised = inspection_.filters + inspection_.masks;
+  if (report.regionsRasterised > 0) report.rasterisedDpi = svgEffectsDpi(pixels_);
   if (inspection_.filters > 0)
     report.warnings << QStringLiteral("What is drawn through a filter (%1 elements) is held as an image.")
                            .arg(inspection_.filters);
@@ -202,6 +213,7 @@ Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {
   Result<EngineBytes> composed = composePage(whole->bytes, request, context_);
   if (composed) {
     composed->report.regionsRasterised += whole->report.regionsRasterised;
+    composed->report.rasterisedDpi = coarser(whole->report.rasterisedDpi, composed->report.rasterisedDpi);
     composed->report.warnings = whole->report.warnings + composed->report.warnings;
   }
   return composed;

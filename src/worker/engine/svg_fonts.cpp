@@ -83,11 +83,14 @@ void SvgFonts::shorthand(QStringView value) {
 
 void SvgFonts::list(QStringView names) {
   if (const qsizetype important = names.indexOf(u'!'); important >= 0) names = names.left(important);
+  QStringList all;
   for (const QString& each : namesOf(names)) {
     const QString name = each.simplified();
     if (name.isEmpty() || isKeyword(name) || families_.size() >= maximumNames) continue;
     if (!families_.contains(name, Qt::CaseInsensitive)) families_ << name;
+    all << name;
   }
+  if (!all.isEmpty() && lists_.size() < maximumNames && !lists_.contains(all)) lists_ << all;
 }
 
 }  // namespace norvex::engine

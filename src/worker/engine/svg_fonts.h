@@ -1,6 +1,7 @@
 // The font families that an SVG document names for its texts.
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -20,6 +21,8 @@ class SvgFonts {
   /// Each family once, without quotes, as it is first named. Empty without a text: drawing programs name
   /// families on shapes too.
   [[nodiscard]] QStringList families() const { return hasText_ ? families_ : QStringList(); }
+  /// The lists that they stand in, each once: the first that is there is meant.
+  [[nodiscard]] QList<QStringList> lists() const { return hasText_ ? lists_ : QList<QStringList>(); }
 
  private:
   void declarations(QStringView css);
@@ -27,6 +30,7 @@ class SvgFonts {
   void shorthand(QStringView value);
 
   QStringList families_;
+  QList<QStringList> lists_;
   bool hasText_ = false;
   bool drawsShape_ =
       false;  ///< the element that began last is a shape or an image: what it says of fonts means nothing

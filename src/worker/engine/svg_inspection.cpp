@@ -280,6 +280,7 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
     return Error{ErrorKind::Limit,
                  QStringLiteral("the references of the document nest more than %1 deep").arg(limits::maximumDrawingDepth)};
   found_.fonts = fonts_.families();
+  found_.fontLists = fonts_.lists();
   found_.hasLayers = found_.hasLayers || found_.hasStyleSheet;
   if (!found_.title.isNull()) found_.title = found_.title.simplified();
   if (!found_.description.isNull()) found_.description = found_.description.trimmed();

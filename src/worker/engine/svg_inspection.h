@@ -17,6 +17,7 @@ struct SvgInspection {
   QHash<QString, QString> rootAttributes;  ///< those without a namespace
   QString title, description;  ///< of the root element's own children; null: there is none
   QStringList fonts;           ///< families named for texts, by attributes and style sheets of the document's own
+  QList<QStringList> fontLists;  ///< the lists that those families stand in
   int filters = 0;             ///< elements drawn through a filter, as far as their own attributes tell
   int masks = 0;               ///< elements drawn through a mask, likewise
   int outsideReferences = 0;   ///< images, styles and other things that are in other files; never loaded

@@ -85,6 +85,10 @@ Result<QByteArray> rewritten(const QByteArray& pdf, const QSizeF& pixels, double
 
 }  // namespace
 
+double svgEffectsDpi(const QSizeF& pixels) {
+  return drawingScale(pixels, true) * 72;
+}
+
 Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, bool hasImageEffects) {
   const double scale = drawingScale(pixels, hasImageEffects);
   const double units = pointsPerPixel * scale;

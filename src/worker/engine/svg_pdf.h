@@ -14,4 +14,7 @@ namespace norvex::engine {
 /// the same bytes.
 [[nodiscard]] Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, bool hasImageEffects);
 
+/// Pixels an inch of the images of filters and masks in that page.
+[[nodiscard]] double svgEffectsDpi(const QSizeF& pixels);
+
 }  // namespace norvex::engine

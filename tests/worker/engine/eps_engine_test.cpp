@@ -213,6 +213,13 @@ class EpsEngineTest : public QObject {
     QCOMPARE(pdf->report.warnings, QStringList{"the font NoSuchFont is missing, Courier stands in for it"});
   }
 
+  void aFontThatIsMissingIsToldOfImagesToo() {
+    Opened opened(eps("/NoSuchFont findfont 12 scalefont setfont 5 5 moveto (hello) show showpage\n"));
+    QCOMPARE(opened->drawingRemarks(), QStringList());  // nothing was drawn
+    QVERIFY(!opened.image().isNull());
+    QCOMPARE(opened->drawingRemarks(), QStringList{"the font NoSuchFont is missing, Courier stands in for it"});
+  }
+
   void anErrorBehindThePictureIsAWarning() {
     Opened opened(eps(kBody + "showpage\n%%EOF\nGarbage that is no PostScript\n"));
     QVERIFY(showsBody(opened.image()));

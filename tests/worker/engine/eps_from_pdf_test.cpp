@@ -202,6 +202,7 @@ class EpsFromPdfTest : public QObject {
     QCOMPARE(converted.report().regionsRasterised, 1);
     const double share = converted.report().rasterisedAreaShare;  // 60 × 50 points of 200.5 × 100.25 and an edge
     QVERIFY2(share > 0.14 && share < 0.22, qPrintable(QString::number(share)));
+    QCOMPARE(converted.report().rasterisedDpi, 300.0);
     QVERIFY(converted.eps().contains("(Hello words)"));
     QCOMPARE(converted.eps().count(" image D flushfile"), 1);
   }
@@ -209,6 +210,7 @@ class EpsFromPdfTest : public QObject {
   void withoutTransparencyThereIsNoImage() {
     Converted converted(page(kVectors));
     QCOMPARE(converted.report().regionsRasterised, 0);
+    QCOMPARE(converted.report().rasterisedDpi, 0.0);
     QCOMPARE(converted.report().rasterisedAreaShare, 0.0);
     QVERIFY(converted.eps().contains("%%LanguageLevel: 2\n"));
     QVERIFY(!converted.eps().contains(" image D flushfile"));

@@ -45,6 +45,41 @@ class PdfRenderTest : public QObject {
     QCOMPARE(image.pixel(150, 75), 0u);
   }
 
+  void fontsThatAreNotInTheFileAreTold_data() {
+    QTest::addColumn<QByteArray>("font");
+    QTest::addColumn<bool>("missing");
+    QTest::newRow("standard") << QByteArray("/Type1 /BaseFont /Helvetica-BoldOblique") << false;
+    QTest::newRow("goes for a standard one") << QByteArray("/TrueType /BaseFont /Arial,Bold") << false;
+    QTest::newRow("missing") << QByteArray("/Type1 /BaseFont /Nonesuch-Bold") << true;
+    QTest::newRow("missing, with a description")
+        << QByteArray("/TrueType /BaseFont /ABCDEF+Nonesuch-Bold /FontDescriptor << /Type /FontDescriptor /FontName /Nonesuch-Bold >>")
+        << true;
+    QTest::newRow("in the file")
+        << QByteArray("/TrueType /BaseFont /Nonesuch-Bold /FontDescriptor << /Type /FontDescriptor /FontFile2 6 0 R >>") << false;
+    QTest::newRow("made of parts, missing")
+        << QByteArray("/Type0 /BaseFont /Nonesuch-Bold /DescendantFonts [<< /Type /Font /Subtype /CIDFontType2 /BaseFont /Nonesuch-Bold >>]")
+        << true;
+    QTest::newRow("drawn by the file itself") << QByteArray("/Type3 /Name /Nonesuch-Bold") << false;
+  }
+  void fontsThatAreNotInTheFileAreTold() {
+    QFETCH(QByteArray, font);
+    QFETCH(bool, missing);
+    const QByteArray pdf = onePage("0 0 10 10 re f", "/MediaBox [0 0 200 100] /Resources << /Font << /F 5 0 R >> >>",
+                                   {"<< /Type /Font /Subtype " + font + " >>", kit::stream("no font")});
+    EngineContext context;
+    auto engine = openPdf(pdf, context);
+    QVERIFY(engine);
+    const QStringList told = missing ? QStringList{"the font Nonesuch-Bold is missing, another stands in for it"} : QStringList();
+    QVERIFY((*engine)->render(whole({200, 100})));
+    QCOMPARE((*engine)->drawingRemarks(), QStringList());  // of pictures that are handed out alone
+    RenderRequest request = whole({200, 100});
+    request.purpose = RenderPurpose::Export;
+    QVERIFY((*engine)->render(request));
+    QCOMPARE((*engine)->drawingRemarks(), told);
+    QCOMPARE((*engine)->compose({VectorFormat::Eps, 0, QRectF(-50, -50, 100, 100), 0})->report.warnings, told);
+    QCOMPARE((*engine)->compose({VectorFormat::Pdf, 0, QRectF(-50, -50, 100, 100), 0})->report.warnings, QStringList());
+  }
+
   void whiteThatIsPaintedIsWhite() {
     const QImage image = rendered(onePage("1 g 0 0 100 100 re f"), whole({200, 100}));
     QCOMPARE(image.pixel(50, 50), qRgba(255, 255, 255, 255));
@@ -124,6 +159,23 @@ class PdfRenderTest : public QObject {
     const QByteArray page = "/MediaBox [0 0 200 100] /Resources << /ExtGState << /H << /ca 0.5 >> >> >>";
     const QImage image = rendered(onePage("/H gs 1 0 0 rg 0 0 200 100 re f", page), whole({200, 100}));
     QVERIFY(std::abs(qAlpha(image.pixel(100, 50)) - 128) <= 1);
+  }
+
+  void linksHaveNoFrameAndNotesAreSeen() {
+    const QByteArray page = "/MediaBox [0 0 200 100] /Annots [5 0 R 6 0 R]";
+    const QByteArray pdf = onePage("0 1 0 rg 0 0 10 10 re f", page,
+                                   {"<< /Type /Annot /Subtype /Link /Rect [50 20 150 80] /Border [0 0 4] >>",
+                                    "<< /Type /Annot /Subtype /Square /Rect [160 20 190 80] /F 4 /C [1 0 0] /IC [1 0 0] >>"});
+    EngineContext context;
+    const auto engine = openPdf(pdf, context);
+    QVERIFY(engine);
+    for (int again = 0; again < 2; ++again) {
+      const auto image = (*engine)->render(whole({200, 100}));
+      QVERIFY(image);
+      QCOMPARE(image->pixel(5, 95), qRgb(0, 255, 0));
+      QCOMPARE(image->pixel(175, 50), kRed);
+      for (int x = 40; x < 155; ++x) QCOMPARE(image->pixel(x, 50), 0u);
+    }
   }
 
   void anotherPageIsDrawnOnRequest() {

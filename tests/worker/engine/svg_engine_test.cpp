@@ -249,7 +249,29 @@ class SvgEngineTest : public QObject {
     const Result<EngineBytes> pdf = document->pdf({});
     QVERIFY(pdf);
     QCOMPARE(pdf->report.regionsRasterised, 1);
+    QCOMPARE(pdf->report.rasterisedDpi, 300.0);
     QVERIFY(!pdf->report.warnings.isEmpty());
+  }
+
+  void aMissingFontIsToldOnceItIsDrawn_data() {
+    QTest::addColumn<QString>("families");
+    QTest::addColumn<bool>("missing");
+    QTest::newRow("missing") << "Nonesuch Sans" << true;
+    QTest::newRow("missing before a generic one") << "Nonesuch Sans, sans-serif" << true;
+    QTest::newRow("generic") << "serif" << false;
+    QTest::newRow("inherited") << "inherit" << false;
+  }
+  void aMissingFontIsToldOnceItIsDrawn() {
+    QFETCH(QString, families);
+    QFETCH(bool, missing);
+    OpenSvg document(svgOf("width='100' height='50'",
+                           "<text x='5' y='20' font-family='" + families.toUtf8() + "'>words</text>"));
+    const Result<EngineBytes> pdf = document->pdf({});
+    QVERIFY(pdf);
+    const QString begin = QStringLiteral("the font Nonesuch Sans is missing, ");
+    QCOMPARE(pdf->report.warnings.size(), missing ? 1 : 0);
+    QCOMPARE(document->drawingRemarks(), pdf->report.warnings);
+    if (missing) QVERIFY2(pdf->report.warnings.first().startsWith(begin), qPrintable(pdf->report.warnings.first()));
   }
 
   void composingGivesTheRectangle() {

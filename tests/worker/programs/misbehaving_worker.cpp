@@ -89,6 +89,8 @@ class Misbehaviour {
     if (mode == "negative-size") send(id, BitmapReply{QSize(-4, -4), 16}, pixels);
     if (mode == "negative-stride") send(id, BitmapReply{QSize(4, 4), -16}, pixels);
     if (mode == "no-descriptor") send(id, BitmapReply{QSize(4, 4), 16}, FileDescriptor());
+    if (mode == "negative-dpi") send(id, BytesReply{1, 0.5, -1, {}}, pixels);
+    if (mode == "impossible-dpi") send(id, BytesReply{1, 0.5, 1e9, {}}, pixels);
     if (mode == "error-with-descriptor") send(id, Error{ErrorKind::Limit, "x"}, pixels);
     if (mode == "twice" && !channel_.send(encodeReply({id, BitmapReply{QSize(4, 4), 16}}), pixels.get()))
       ::_exit(0);

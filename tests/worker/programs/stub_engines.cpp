@@ -80,6 +80,8 @@ class StubEngine final : public engine::DocumentEngine {
     return image;
   }
 
+  [[nodiscard]] QStringList drawingRemarks() const override { return {QStringLiteral("a \x1b[31mremark\nabout fonts")}; }
+
   Result<engine::EngineBytes> pdf(const PdfRequest& request) override {
     if (request.page == 99) return missing();
     return engine::EngineBytes{"PDF " + QByteArray::number(request.page), {}};
@@ -87,7 +89,7 @@ class StubEngine final : public engine::DocumentEngine {
 
   Result<engine::EngineBytes> compose(const ComposeRequest& request) override {
     if (request.page == 99) return missing();
-    return engine::EngineBytes{request.format == VectorFormat::Eps ? "EPS" : "PDF", {1, 0.5, {"one region"}}};
+    return engine::EngineBytes{request.format == VectorFormat::Eps ? "EPS" : "PDF", {1, 0.5, 150, {"one region"}}};
   }
 
   Result<engine::EngineBytes> svg(const SvgRequest&) override { return engine::EngineBytes{bytes_, {}}; }

@@ -2,6 +2,10 @@
 
 #include <QCommandLineParser>
 
+#include <algorithm>
+
+#include "cli/suggestion.h"
+
 namespace norvex {
 namespace {
 
@@ -36,9 +40,34 @@ QString wrongNumberOfFiles(const CommandRow& row, qsizetype count) {
   return {};
 }
 
-QString complaintOf(const QCommandLineParser& parser) {
+QString perhaps(const std::optional<QString>& meant) {
+  return meant ? QStringLiteral(", perhaps %1 is meant").arg(*meant) : QString();
+}
+
+QString unknownCommand(const QString& name) {
+  QStringList names;
+  for (const CommandRow& row : commandTable())
+    if (*row.name) names << QString::fromLatin1(row.name);
+  return QStringLiteral("there is no command %1, and no file of that name").arg(name) +
+         perhaps(nearestName(name, names));
+}
+
+/// `name` comes without the dashes that it was given with.
+QString unknownOption(const QString& name, const QStringList& given, const QList<OptionRow>& rows) {
+  const QString dashed = QStringLiteral("--") + name;
+  const bool isLong = std::any_of(given.begin(), given.end(), [&](const QString& argument) {
+    return argument == dashed || argument.startsWith(dashed + u'=');
+  });
+  if (!isLong) return QStringLiteral("there is no option -%1").arg(name);
+  QStringList names;
+  for (const OptionRow& row : rows) names << QStringLiteral("--") + QLatin1String(row.name);
+  return QStringLiteral("there is no option %1").arg(dashed) + perhaps(nearestName(dashed, names));
+}
+
+QString complaintOf(const QCommandLineParser& parser, const QStringList& given,
+                    const QList<OptionRow>& rows) {
   const QStringList unknown = parser.unknownOptionNames();
-  if (!unknown.isEmpty()) return QStringLiteral("there is no option %1").arg(unknown.first());
+  if (!unknown.isEmpty()) return unknownOption(unknown.first(), given, rows);
   QString text = parser.errorText();
   if (text.endsWith(QLatin1Char('.'))) text.chop(1);
   return text.left(1).toLower() + text.mid(1);
@@ -47,6 +76,14 @@ QString complaintOf(const QCommandLineParser& parser) {
 QString wrongValue(const OptionRow& row, const QString& value) {
   if (!row.choices || QString::fromLatin1(row.choices).split(' ').contains(value)) return {};
   return QStringLiteral("--%1 is one of: %2").arg(QLatin1String(row.name), QLatin1String(row.choices));
+}
+
+/// Of two values one would be passed over in silence.
+QString givenTwice(const QCommandLineParser& parser, const QList<OptionRow>& rows) {
+  for (const OptionRow& row : rows)
+    if (row.value && parser.values(QString::fromLatin1(row.name)).size() > 1)
+      return QStringLiteral("--%1 is given more than once").arg(QLatin1String(row.name));
+  return {};
 }
 
 /// Help and version are answered whatever else is missing.
@@ -78,12 +115,15 @@ ReadArguments readArguments(const QStringList& given) {
   if (const auto command = given.isEmpty() ? std::nullopt : commandOf(given.first())) {
     read.arguments.command = *command;
     rest.removeFirst();
+  } else if (!given.isEmpty() && !given.first().startsWith(u'-')) {
+    read.complaint = unknownCommand(given.first());
+    return read;
   }
   QCommandLineParser parser;
   const QList<OptionRow> rows = optionsOf(read.arguments.command);
   for (const OptionRow& row : rows) parser.addOption(parserOption(row));
   if (!parser.parse(QStringList{QStringLiteral("norvex")} + rest)) {
-    read.complaint = complaintOf(parser);
+    read.complaint = complaintOf(parser, rest, rows);
     return read;
   }
   Arguments full{read.arguments.command, parser.positionalArguments(), {}};
@@ -91,6 +131,7 @@ ReadArguments readArguments(const QStringList& given) {
     if (const QString name = QString::fromLatin1(row.name); parser.isSet(name))
       full.values.insert(row.id, parser.value(name));
   read.complaint = complaintAbout(full);
+  if (read.complaint.isEmpty() && !standsAlone(full)) read.complaint = givenTwice(parser, rows);
   if (read.complaint.isEmpty()) read.arguments = full;
   return read;
 }
@@ -99,6 +140,10 @@ bool asksForCommandLine(const QString& first) {
   if (commandOf(first)) return true;
   if (first == QLatin1String("-h") || first == QLatin1String("-v")) return true;
   return first.startsWith(QLatin1String("--")) && first.size() > 2 && !isWindowSystemOption(first);
+}
+
+bool looksLikeCommand(const QString& first) {
+  return !first.isEmpty() && std::all_of(first.begin(), first.end(), [](QChar c) { return c.isLetter(); });
 }
 
 }  // namespace norvex

@@ -33,4 +33,8 @@ struct ReadArguments {
 /// command, or something that begins with two dashes and is not an option of the window system.
 [[nodiscard]] bool asksForCommandLine(const QString& first);
 
+/// Whether it is written as commands are, in letters alone. Where no file of that name is there, it is a
+/// command that does not exist, and is answered as one.
+[[nodiscard]] bool looksLikeCommand(const QString& first);
+
 }  // namespace norvex

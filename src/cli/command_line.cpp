@@ -1,28 +1,30 @@
 #include "cli/command_line.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <optional>
 
 #include "cli/arguments.h"
 #include "cli/job.h"
+#include "platform/file_name.h"
 #include "platform/system_log.h"
 
 namespace norvex {
 namespace {
 
-/// File names are bytes; they become text as the file system's names do, whatever the locale.
+/// Any of them may be a file's name.
 QStringList argumentsOf(int argc, char** argv) {
   QStringList given;
-  for (int i = 1; i < argc; ++i) given << QFile::decodeName(argv[i]);
+  for (int i = 1; i < argc; ++i) given << fileNameText(argv[i]);
   return given;
 }
 
 }  // namespace
 
 bool isCommandLine(int argc, char** argv) {
-  return argc > 1 && asksForCommandLine(QFile::decodeName(argv[1]));
+  if (argc < 2) return false;
+  const QString first = fileNameText(argv[1]);
+  return asksForCommandLine(first) || (looksLikeCommand(first) && !fileExists(first));
 }
 
 int runCommandLine(int argc, char** argv, PictureService& service) {

@@ -6,7 +6,7 @@
 namespace norvex {
 
 /// Whether the arguments ask for the command line; otherwise main opens a window. Looks at the first argument
-/// alone and needs nothing to be initialised.
+/// alone, and whether it is a file; needs nothing to be initialised.
 [[nodiscard]] bool isCommandLine(int argc, char** argv);
 
 /// Runs it to its end and returns the exit code. Needs no display and no application object (it makes a

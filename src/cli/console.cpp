@@ -4,6 +4,7 @@
 
 #include <cerrno>
 
+#include "platform/file_name.h"
 #include "platform/picture/document_file.h"
 
 namespace norvex {
@@ -18,6 +19,10 @@ bool writeAll(int descriptor, const QByteArray& bytes) {
   return true;
 }
 
+QString hexadecimal(int byte) {
+  return QStringLiteral("\\x%1").arg(byte, 2, 16, QLatin1Char('0'));
+}
+
 bool commandsTheTerminal(QChar c) {
   const bool turnsDirection =
       (c >= QChar(0x202A) && c <= QChar(0x202E)) || (c >= QChar(0x2066) && c <= QChar(0x2069));
@@ -29,13 +34,17 @@ bool commandsTheTerminal(QChar c) {
 QString visible(const QString& text, bool keepLineFeeds) {
   QString shown;
   shown.reserve(text.size());
+  QChar before;
   for (const QChar c : text) {
-    if (!commandsTheTerminal(c) || (keepLineFeeds && c == QLatin1Char('\n')))
+    if (const int byte = rawByteOf(c, before); byte >= 0)
+      shown += hexadecimal(byte);
+    else if (!commandsTheTerminal(c) || (keepLineFeeds && c == QLatin1Char('\n')))
       shown += c;
     else if (c.unicode() < 0x100)
-      shown += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+      shown += hexadecimal(c.unicode());
     else
       shown += QStringLiteral("\\u{%1}").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+    before = c;
   }
   return shown;
 }

@@ -19,8 +19,8 @@ class Console {
   [[nodiscard]] virtual bool write(const QByteArray& bytes) = 0;
   /// One line; what would move the cursor or colour the terminal is made visible.
   virtual void message(const QString& line) = 0;
-  /// Replaces the line of progress at the end of standard error; the empty text takes it away. Shown on a terminal
-  /// alone.
+  /// Replaces the line of progress at the end of standard error; the empty text takes it away. Shown on a
+  /// terminal alone.
   virtual void progress(const QString& line) = 0;
   /// Whether standard output is a terminal, on which binary data would make a mess.
   [[nodiscard]] virtual bool isTerminal() const = 0;
@@ -55,8 +55,9 @@ class MemoryConsole final : public Console {
   bool full = false;  ///< every further write fails
 };
 
-/// `text` with control characters, and what turns the direction of writing, as `\xNN` or `\u{NNNN}`: names
-/// and titles come from strangers and must not command the terminal. Line feeds too, unless `keepLineFeeds`.
+/// `text` with control characters, what turns the direction of writing, and the bytes of file names that are
+/// no text (see fileNameText()) as `\xNN` or `\u{NNNN}`: names and titles come from strangers and must not
+/// command the terminal. Line feeds too, unless `keepLineFeeds`.
 [[nodiscard]] QString visible(const QString& text, bool keepLineFeeds = false);
 
 }  // namespace norvex

@@ -1,10 +1,12 @@
 #include "cli/conversion.h"
 
+#include <QPolygonF>
 #include <QtMath>
 
 #include "cli/input_file.h"
 #include "display/picture_geometry.h"
-#include "encoders/picture_header.h"
+#include "encoders/picture_encoder.h"
+#include "metadata/eps_completeness.h"
 #include "platform/picture/eps_image_rep.h"
 #include "platform/picture/pdf_image_rep.h"
 #include "platform/picture/picture_loader.h"
@@ -16,6 +18,8 @@ namespace {
 
 /// What was noticed when the document was opened.
 QStringList warningsOf(const NSImageRep& imageRep) {
+  if (const auto* eps = dynamic_cast<const NSEPSImageRep*>(&imageRep))
+    return epsMissingParts(eps->EPSRepresentation());
   if (const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep)) return pdf->facts().warnings;
   if (const auto* svg = dynamic_cast<const ZyWebImageRep*>(&imageRep)) return svg->facts().warnings;
   return {};
@@ -36,7 +40,15 @@ int pageCount(const NSImageRep& imageRep) {
   return pdf ? pdf->pageCount() : 1;
 }
 
-std::optional<Error> objection(const NSImageRep& imageRep, const ConversionOptions& options) {
+/// Whether some of the picture lies in the rectangle.
+bool showsPicture(const NSImageRep& imageRep, const PictureRegion& region) {
+  const QPolygonF outline(QRectF(QPointF(0, 0), imageRep.size()));
+  const QPolygonF turned = pictureToView(imageRep.size(), region.rotate).map(outline);
+  return !turned.intersected(QPolygonF(region.rect)).boundingRect().isEmpty();
+}
+
+std::optional<Error> objection(const NSImageRep& imageRep, const ConversionOptions& options,
+                               const std::optional<PictureRegion>& region) {
   const bool wantsSvg = options.format == OutputFormat::Svg || options.format == OutputFormat::Svgz;
   if (wantsSvg && imageRep.pictureKind() != PictureKind::Svg) {
     return Error{ErrorKind::Unsupported, QStringLiteral("only an SVG picture can be written as SVG")};
@@ -45,6 +57,14 @@ std::optional<Error> objection(const NSImageRep& imageRep, const ConversionOptio
   if (options.page.value_or(1) > pages) {
     return Error{ErrorKind::Unsupported,
                  QStringLiteral("there is no page %1, the document has %2").arg(*options.page).arg(pages)};
+  }
+  if (options.crop && region && !showsPicture(imageRep, *region)) {
+    const QSizeF size = rotatedBoundingSize(imageRep.size(), region->rotate);
+    return Error{
+        ErrorKind::Unsupported,
+        QStringLiteral("nothing of the picture lies in the rectangle of --crop; it is %1 by %2 points large")
+            .arg(size.width())
+            .arg(size.height())};
   }
   return std::nullopt;
 }
@@ -69,11 +89,12 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits, cancel);
   if (!loaded) return failed(loaded.error());
   const auto& imageRep = loaded->imageRep;
-  if (const auto error = objection(*imageRep, options)) return failed(*error);
+  const std::optional<PictureRegion> region = regionOf(*imageRep, options);
+  if (const auto error = objection(*imageRep, options, region)) return failed(*error);
 
   EncoderSurroundings surroundings = usualSurroundings(service);
   surroundings.raster = {options.dpi, options.background};
-  surroundings.region = regionOf(*imageRep, options);
+  surroundings.region = region;
   // The only page is the whole file.
   surroundings.onePage = options.page.has_value() && pageCount(*imageRep) > 1;
   PictureEncoder encoder(imageRep, surroundings, cancel);
@@ -90,7 +111,7 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   const bool vectorOfSameKind =
       (options.format == OutputFormat::Pdf && imageRep->pictureKind() == PictureKind::Pdf) ||
       (options.format == OutputFormat::Eps && imageRep->pictureKind() == PictureKind::Eps);
-  conversion.metadataLost = metadataLost(pictureHeader(imageRep.get()), imageRep->pictureKind(), options.format,
+  conversion.metadataLost = metadataLost(encoder.header(), imageRep->pictureKind(), options.format,
                                          vectorOfSameKind && !surroundings.region && !surroundings.onePage);
   return conversion;
 }

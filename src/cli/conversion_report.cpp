@@ -3,6 +3,20 @@
 #include <QJsonArray>
 
 namespace norvex {
+namespace {
+
+QString rasterRemark(const EncodingReport& report) {
+  QString remark = report.regionsRasterised == 1 ? QStringLiteral("1 part")
+                                                 : QStringLiteral("%1 parts").arg(report.regionsRasterised);
+  if (report.rasterisedAreaShare > 0)
+    remark += QStringLiteral(" (%1 % of the area)").arg(report.rasterisedAreaShare * 100, 0, 'f', 1);
+  remark +=
+      report.regionsRasterised == 1 ? QStringLiteral(" became an image") : QStringLiteral(" became images");
+  if (report.rasterisedDpi > 0) remark += QStringLiteral(" of %1 dpi").arg(report.rasterisedDpi, 0, 'f', 0);
+  return remark;
+}
+
+}  // namespace
 
 QJsonObject conversionObject(const ConvertTask& task, const ConversionOptions& options,
                              const Conversion& conversion) {
@@ -16,6 +30,7 @@ QJsonObject conversionObject(const ConvertTask& task, const ConversionOptions& o
     object.insert(QStringLiteral("bytes"), conversion.size);
     QJsonObject rasterized{{QStringLiteral("regions"), report.regionsRasterised},
                            {QStringLiteral("areaShare"), report.rasterisedAreaShare}};
+    if (report.rasterisedDpi > 0) rasterized.insert(QStringLiteral("dpi"), report.rasterisedDpi);
     if (isRaster(options.format)) {
       rasterized = {{QStringLiteral("regions"), 1},
                     {QStringLiteral("areaShare"), 1.0},
@@ -32,9 +47,7 @@ QString conversionRemarks(const ConversionOptions& options, const Conversion& co
   QStringList remarks = conversion.report.warnings;
   const EncodingReport& report = conversion.report;
   if (!isRaster(options.format) && report.regionsRasterised > 0) {
-    remarks << QStringLiteral("%1 parts (%2 % of the area) became images")
-                   .arg(report.regionsRasterised)
-                   .arg(report.rasterisedAreaShare * 100, 0, 'f', 1);
+    remarks << rasterRemark(report);
   }
   if (!isRaster(options.format) && !conversion.metadataLost.isEmpty()) {
     remarks << QStringLiteral("not in the file: %1").arg(conversion.metadataLost.join(QStringLiteral(", ")));

@@ -9,6 +9,7 @@
 #include "cli/interruption.h"
 #include "cli/job.h"
 #include "platform/atomic_file.h"
+#include "platform/file_name.h"
 
 namespace norvex {
 namespace {
@@ -27,11 +28,11 @@ Conversion interrupted() {
 std::optional<Conversion> refusalOf(const ConvertTask& task, const ConvertPlan& plan) {
   if (task.output == QLatin1String("-")) return std::nullopt;
   if (const auto error = overwritesInput(task.file, task.output)) return refused(error->kind, error->message);
-  if (!plan.force && QFileInfo::exists(task.output)) {
+  if (!plan.force && fileExists(task.output)) {
     return refused(ErrorKind::CannotWrite,
                    QStringLiteral("%1 exists already (--force overwrites it)").arg(task.output));
   }
-  if (!QFileInfo(QFileInfo(task.output).path()).isDir()) {
+  if (!folderExists(QFileInfo(task.output).path())) {
     return refused(ErrorKind::CannotWrite,
                    QStringLiteral("%1: the folder to write to does not exist").arg(task.output));
   }

@@ -15,7 +15,7 @@ ExitCode Job::complain(Command command, const QString& complaint) {
   const QString name = QString::fromLatin1(rowOf(command).name);
   const QString help =
       name.isEmpty() ? QStringLiteral("norvex --help") : QStringLiteral("norvex %1 --help").arg(name);
-  console_.message(QStringLiteral("norvex: %1 (%2 shows what there is)").arg(complaint, help));
+  console_.message(QStringLiteral("norvex: %1; %2 shows what there is").arg(complaint, help));
   return ExitCode::Usage;
 }
 
@@ -39,7 +39,7 @@ ExitCode Job::dispatch(const Arguments& arguments) {
     case Command::Main:
       break;  // windows are not opened here
   }
-  console_.message(QStringLiteral("norvex: no command is given (norvex --help shows what there is)"));
+  console_.message(QStringLiteral("norvex: no command is given; norvex --help shows what there is"));
   return ExitCode::Usage;
 }
 

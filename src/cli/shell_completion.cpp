@@ -31,10 +31,20 @@ QString quotable(const char* help) {
   return QString::fromLatin1(help).remove('\'').replace(':', ',');
 }
 
+// File names are left to the shell (-o default), which knows how to quote them: no word of the script's own
+// may be split at blanks. Behind the program's name commands and files both can stand.
 QString bash() {
   QString script = QStringLiteral(
+      "_norvex_first() {\n"
+      "  COMPREPLY=($(compgen -W \"$1\" -- \"$2\"))\n"
+      "  [ ${#COMPREPLY[@]} -eq 0 ] && return\n"
+      "  compopt -o filenames 2>/dev/null\n"
+      "  local file\n"
+      "  while IFS= read -r file; do COMPREPLY+=(\"$file\"); done < <(compgen -f -- \"$2\")\n"
+      "}\n"
       "_norvex() {\n"
       "  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} words=\n"
+      "  COMPREPLY=()\n"
       "  case $before in\n");
   for (const OptionRow& row : optionTable())
     if (row.choices)
@@ -50,10 +60,12 @@ QString bash() {
   script += QStringLiteral("  [ \"$COMP_CWORD\" -eq 1 ] && words='%1 %2'\n")
                 .arg(commandNames().join(' '), formsOf(Command::Main));
   return script + QStringLiteral(
-                      "  COMPREPLY=($(compgen -W \"$words\" -- \"$word\"))\n"
-                      "  case $word in -*) ;; *) COMPREPLY+=($(compgen -f -- \"$word\")) ;; esac\n"
+                      "  case $word in\n"
+                      "    -*) COMPREPLY=($(compgen -W \"$words\" -- \"$word\")) ;;\n"
+                      "    *) [ \"$COMP_CWORD\" -eq 1 ] && _norvex_first \"$words\" \"$word\" ;;\n"
+                      "  esac\n"
                       "}\n"
-                      "complete -o filenames -F _norvex norvex\n");
+                      "complete -o default -F _norvex norvex\n");
 }
 
 QString zshOption(const OptionRow& row) {
@@ -85,7 +97,10 @@ QString zsh() {
       script += QStringLiteral("    %1) words=(\"${words[1]}\" \"${(@)words[3,-1]}\"); (( CURRENT-- ))\n%2")
                     .arg(QLatin1String(row.name), zshArguments(row.id));
   script += QStringLiteral("    *)\n") + zshArguments(Command::Main);
-  return script + QStringLiteral("  esac\n}\ncompdef _norvex norvex\n");
+  // The shell runs the file as the function itself when it finds it among its own, otherwise it is read.
+  return script + QStringLiteral(
+                      "  esac\n}\nif [[ $funcstack[1] == _norvex ]]; then _norvex \"$@\"; "
+                      "else compdef _norvex norvex; fi\n");
 }
 
 QString fishOption(const OptionRow& row, const QString& condition) {

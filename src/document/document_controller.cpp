@@ -28,6 +28,15 @@ QString asSentence(QString text) {
   return text.endsWith('.') ? text : text + '.';
 }
 
+/// Why a file could not be read. Addresses of files are text: a name of other bytes cannot come this far
+/// unharmed.
+QString readingFailure(const QUrl& url, const Error& error) {
+  const bool nameWasHarmed =
+      url.toLocalFile().contains(QChar::ReplacementCharacter) && !QFileInfo::exists(url.toLocalFile());
+  return nameWasHarmed ? localizedString("The file's name is not text in UTF-8. Please rename the file.")
+                       : asSentence(error.message);
+}
+
 }  // namespace
 
 /// What the worker thread has to tell: a type, or a failure.
@@ -82,7 +91,7 @@ void DocumentController::openDocuments(const QList<QUrl>& urls) {
 
 DocumentController::Read DocumentController::readFile(const Document& document, const QUrl& url) {
   const Result<QByteArray> bytes = readDocumentFile(url.toLocalFile());
-  if (!bytes) return {{}, OpenFailure{url, asSentence(bytes.error().message), {}}};
+  if (!bytes) return {{}, OpenFailure{url, readingFailure(url, bytes.error()), {}}};
   const QString type = identifyType(*bytes, url.fileName()).identifier();
   try {
     DocumentError error;

@@ -4,7 +4,10 @@
 #include <unistd.h>
 
 #include <QColorSpace>
+#include <QGuiApplication>
+#include <QScreen>
 
+#include <algorithm>
 #include <vector>
 
 #include "metadata/full_date.h"
@@ -18,7 +21,19 @@ QDateTime now() {
   return given ? QDateTime::fromSecsSinceEpoch(seconds) : QDateTime::currentDateTime();
 }
 
+/// As the first screen has it; where there is none, as nearly all have it.
+NSWindowDepth screenDepth() {
+  const bool hasScreens = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+  const QScreen* screen = hasScreens ? QGuiApplication::primaryScreen() : nullptr;
+  if (!screen) return {};
+  return screen->depth() == 32 ? NSWindowDepth() : NSBestDepth(screen->depth() / 3, screen->depth());
+}
+
 }  // namespace
+
+NSWindowDepth NSBestDepth(int bitsPerSample, int bitsPerPixel) {
+  return {bitsPerSample, std::min(bitsPerPixel, 3 * bitsPerSample)};
+}
 
 QString NSFullUserName() {
   std::vector<char> buffer(1 << 14);
@@ -42,6 +57,7 @@ EncoderSurroundings usualSurroundings(PictureService& service) {
   surroundings.applicationVersion = QStringLiteral(NORVEX_VERSION);
   surroundings.now = now();
   surroundings.locale = userDateLocale();
+  surroundings.defaultDepthLimit = screenDepth();
   surroundings.iccProfile = QColorSpace(QColorSpace::SRgb).iccProfile();
   return surroundings;
 }

@@ -13,13 +13,21 @@
 
 namespace norvex {
 
+/// How many bits a window holds of each pixel.
+struct NSWindowDepth {
+  int bitsPerSample = 8;
+  int bitsPerPixel = 24;  ///< of colour
+  bool operator==(const NSWindowDepth&) const = default;
+};
+
 struct EncoderSurroundings {
   PictureService* service = nullptr;  ///< borrowed; sets the attributes of a PDF
   QString userFullName;
   QString applicationName, applicationVersion;
   QDateTime now;
   QLocale locale;
-  QByteArray iccProfile;  ///< of the output colour space; empty: none is configured
+  QByteArray iccProfile;            ///< of the output colour space; empty: none is configured
+  NSWindowDepth defaultDepthLimit;  ///< of new windows
   RasterSettings raster;
   /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
   std::optional<PictureRegion> region;
@@ -29,6 +37,9 @@ struct EncoderSurroundings {
 /// The user's, the locale's and the program's own values; the colour space is sRGB. "Now" is the
 /// SOURCE_DATE_EPOCH of the environment where it is set, so that the same input gives the same bytes.
 [[nodiscard]] EncoderSurroundings usualSurroundings(PictureService& service);
+
+/// The depth nearest to that of RGB samples in one plane: what a pixel has besides colour counts for nothing.
+[[nodiscard]] NSWindowDepth NSBestDepth(int bitsPerSample, int bitsPerPixel);
 
 /// The user's full name as the system knows it; the login name where it knows none.
 [[nodiscard]] QString NSFullUserName();

@@ -1,5 +1,7 @@
 #include "encoders/picture_encoder.h"
 
+#include <QLoggingCategory>
+
 #include "display/picture_geometry.h"
 #include "display/view_compose.h"
 #include "encoders/dos_eps_writer.h"
@@ -8,8 +10,6 @@
 #include "encoders/monoclome_bitmap.h"
 #include "encoders/pdf_attributes.h"
 #include "encoders/picture_header.h"
-#include "metadata/dos_eps_header.h"
-#include "metadata/eps_header.h"
 #include "metadata/full_date.h"
 #include "metadata/source_text.h"
 #include "platform/picture/eps_image_rep.h"
@@ -18,6 +18,8 @@
 
 namespace norvex {
 namespace {
+
+Q_LOGGING_CATEGORY(encoderLog, "norvex.encoders")
 
 bool isEps(const NSImageRep* imageRep) {
   return dynamic_cast<const NSEPSImageRep*>(imageRep) != nullptr;
@@ -43,8 +45,16 @@ QByteArray PictureEncoder::take(Result<PictureBytes> result) {
   if (!result) return fail(result.error());
   report_.regionsRasterised += result->report.regionsRasterised;
   report_.rasterisedAreaShare = std::max(report_.rasterisedAreaShare, result->report.rasterisedAreaShare);
-  report_.warnings += result->report.warnings;
+  const double dpi = result->report.rasterisedDpi;
+  if (dpi > 0) report_.rasterisedDpi = report_.rasterisedDpi > 0 ? std::min(report_.rasterisedDpi, dpi) : dpi;
+  addWarnings(result->report.warnings);
   return result->bytes;
+}
+
+/// The same may be told of the drawing and of the preview.
+void PictureEncoder::addWarnings(const QStringList& warnings) {
+  for (const QString& warning : warnings)
+    if (!report_.warnings.contains(warning)) report_.warnings << warning;
 }
 
 QByteArray PictureEncoder::composed(VectorFormat format) {
@@ -67,22 +77,34 @@ QByteArray PictureEncoder::postScriptData() {
 QByteArray PictureEncoder::addEPSHeader(const QByteArray& postScript) {
   // A cut EPS is a new file with the old one's facts.
   const bool own = isEps(imageRep_.get()) && !surroundings_.region;
-  const HeaderDictionary header = own ? HeaderDictionary() : pictureHeader(imageRep_.get(), surroundings_.locale);
+  const HeaderDictionary facts = own ? HeaderDictionary() : header();
   EpsHeaderDefaults defaults;
   defaults.creator = QStringLiteral("%1 by Tembrolix.").arg(QStringLiteral("MainWindowController"));
   defaults.creationDate = fullDate(surroundings_.now, surroundings_.locale);
   defaults.userFullName = surroundings_.userFullName;
-  return rewriteEpsHeader(postScript, header, defaults);
+  return rewriteEpsHeader(postScript, facts, defaults);
 }
 
 QString PictureEncoder::sourceTextOfEps() {
   const auto* eps = dynamic_cast<const NSEPSImageRep*>(imageRep_.get());
-  const QByteArray bytes = eps->EPSRepresentation();
-  const qint64 number = epsHeader(bytes).value(header::EncodingNumber).toLongLong();
-  return sourceText(PictureKind::Eps, bytes, number);
+  const qint64 number = header().value(header::EncodingNumber).toLongLong();
+  return sourceText(PictureKind::Eps, eps->EPSRepresentation(), number);
+}
+
+const HeaderDictionary& PictureEncoder::header() {
+  if (!header_) header_ = pictureHeader(imageRep_.get(), surroundings_.locale);
+  return *header_;
+}
+
+/// The preview is drawn all the same.
+void PictureEncoder::noteDepth(int bitsPerPixel) const {
+  if (NSBestDepth(8, bitsPerPixel) != surroundings_.defaultDepthLimit)
+    qCInfo(encoderLog, "setCacheDepthMatchesImageDepth YES.");
 }
 
 QByteArray PictureEncoder::postScriptDataWithPreview() {
+  if (!imageRep_) return {};
+  noteDepth(32);
   const auto bitmap = bitmapOf(imageRep_, previewSettings(surroundings_.raster));
   if (!bitmap) return {};
   const QByteArray tiff = encodeTiff(*bitmap, {72, {}});
@@ -117,6 +139,7 @@ QByteArray PictureEncoder::epsiData() {
     text = QString::fromUtf8(generated);
   }
   if (text.contains(QStringLiteral("%%BeginPreview:"))) return postScriptData();
+  noteDepth(24);
   const auto bitmap = bitmapOf(imageRep_, previewSettings(surroundings_.raster));
   if (!bitmap) return {};
   const auto grey = monoclomeBitmap(*bitmap);
@@ -146,10 +169,10 @@ QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
   if (pdf.isEmpty()) return {};
   // A cut PDF is a new file with the old one's facts.
   const bool own = dynamic_cast<const NSPDFImageRep*>(imageRep_.get()) && handsOnSource();
-  const HeaderDictionary header = own ? HeaderDictionary() : pictureHeader(imageRep_.get(), surroundings_.locale);
+  const HeaderDictionary facts = own ? HeaderDictionary() : header();
   const auto attributes =
-      pdfAttributes(header, {surroundings_.applicationName, surroundings_.applicationVersion,
-                             surroundings_.userFullName, surroundings_.now});
+      pdfAttributes(facts, {surroundings_.applicationName, surroundings_.applicationVersion,
+                            surroundings_.userFullName, surroundings_.now});
   if (!attributes) {
     return fail({ErrorKind::Unsupported,
                  QStringLiteral("the document has a description but no title to store with it")});
@@ -186,6 +209,7 @@ std::optional<NSBitmapImageRep> PictureEncoder::bitmapOf(const std::shared_ptr<N
   if (!image) return std::nullopt;
   Result<NSBitmapImageRep> bitmap = image->bitmap(settings, cancel_);
   if (!bitmap) report_.error = bitmap.error();
+  addWarnings(imageRep->process()->drawingRemarks());
   return bitmap ? std::optional(std::move(*bitmap)) : std::nullopt;
 }
 

@@ -20,6 +20,7 @@ namespace norvex {
 struct EncodingReport {
   int regionsRasterised = 0;       ///< parts that the target could only hold as images
   double rasterisedAreaShare = 0;  ///< 0 … 1 of the picture
+  double rasterisedDpi = 0;        ///< of the coarsest of them; 0: there is none, or it is not known
   QStringList warnings;            ///< one plain sentence each
   std::optional<Error> error;      ///< why there are no bytes
 };
@@ -53,6 +54,8 @@ class PictureEncoder {
 
   [[nodiscard]] const std::shared_ptr<NSImageRep>& imageRep() const { return imageRep_; }
   [[nodiscard]] const EncodingReport& report() const { return report_; }
+  /// The picture's header dictionary; its source is read at the first call.
+  [[nodiscard]] const HeaderDictionary& header();
 
  private:
   [[nodiscard]] bool handsOnSource() const { return !surroundings_.region && !surroundings_.onePage; }
@@ -62,12 +65,15 @@ class PictureEncoder {
   [[nodiscard]] std::optional<NSBitmapImageRep> bitmapOf(const std::shared_ptr<NSImageRep>& imageRep,
                                                          const RasterSettings& settings);
   [[nodiscard]] QString sourceTextOfEps();
+  void noteDepth(int bitsPerPixel) const;
+  void addWarnings(const QStringList& warnings);
   [[nodiscard]] RasterProperties rasterProperties() const;
 
   std::shared_ptr<NSImageRep> imageRep_;
   EncoderSurroundings surroundings_;
   CancelToken cancel_;
   EncodingReport report_;
+  std::optional<HeaderDictionary> header_;
 };
 
 }  // namespace norvex

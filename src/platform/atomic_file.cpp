@@ -4,14 +4,17 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <optional>
+
+#include "platform/file_name.h"
 
 namespace norvex {
 namespace {
@@ -36,15 +39,16 @@ Error cannotWrite(int reason) {
 /// A name beside `path` that nobody else uses.
 QByteArray hiddenNameBeside(const QString& path) {
   const QFileInfo info(path);
-  return QFile::encodeName(QStringLiteral("%1/.%2.%3").arg(info.path(), info.fileName().left(100)).arg(
-      QRandomGenerator::global()->generate64(), 16, 16, QLatin1Char('0')));
+  constexpr qsizetype enoughToRecognise = 100;  // the whole name may be as long as names can be
+  const QByteArray random = QByteArray::number(QRandomGenerator::global()->generate64(), 16);
+  return fileNameBytes(info.path()) + "/." + fileNameBytes(info.fileName()).left(enoughToRecognise) + '.' + random;
 }
 
 /// The new file while it has no name yet, or a hidden one where the file system knows no other way.
 class NewFile {
  public:
   NewFile(const QString& path, mode_t mode) : path_(path) {
-    const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
+    const QByteArray folder = fileNameBytes(QFileInfo(path).path());
     descriptor_ = ::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, mode);
     if (descriptor_ >= 0 || (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL)) return;
     hidden_ = hiddenNameBeside(path);
@@ -72,7 +76,7 @@ class NewFile {
 
   /// False with errno when it could not appear.
   [[nodiscard]] bool appear(IfExists ifExists) {
-    const QByteArray target = QFile::encodeName(path_);
+    const QByteArray target = fileNameBytes(path_);
     if (ifExists == IfExists::Fail) return linkTo(target);
     if (hidden_.isEmpty()) {
       const QByteArray name = hiddenNameBeside(path_);
@@ -98,8 +102,15 @@ class NewFile {
 
 std::optional<struct stat> statusOf(const QString& path) {
   struct stat status{};
-  if (::stat(QFile::encodeName(path).constData(), &status) != 0) return std::nullopt;
+  if (::stat(fileNameBytes(path).constData(), &status) != 0) return std::nullopt;
   return status;
+}
+
+/// The file that `path`, which exists, leads to.
+QString throughLinks(const QString& path) {
+  const std::unique_ptr<char, decltype(&std::free)> real(::realpath(fileNameBytes(path).constData(), nullptr),
+                                                         &std::free);
+  return real ? fileNameText(real.get()) : path;
 }
 
 }  // namespace
@@ -112,7 +123,7 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, I
     return Error{ErrorKind::CannotWrite, QStringLiteral("it is not an ordinary file")};  // a device, a pipe
   }
   if (old && (old->st_mode & S_IWUSR) == 0) return Error{ErrorKind::CannotWrite, QStringLiteral("the file is read-only")};
-  const QString target = old ? QFileInfo(path).canonicalFilePath() : path;
+  const QString target = old ? throughLinks(path) : path;
 
   NewFile file(target, 0666);
   if (!file.isOpen() || !file.write(bytes)) return cannotWrite(errno);

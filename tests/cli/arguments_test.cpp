@@ -9,6 +9,7 @@
 #include "cli/command_line.h"
 #include "cli/help_text.h"
 #include "cli/shell_completion.h"
+#include "cli/suggestion.h"
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -39,9 +40,22 @@ class ArgumentsTest : public QObject {
   void wrongUsage_data() {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("complaint");
-    QTest::newRow("unknown option") << QStringList{"info", "f", "--bogus"} << "there is no option bogus";
+    QTest::newRow("unknown option") << QStringList{"info", "f", "--bogus"} << "there is no option --bogus";
     QTest::newRow("option of another command")
-        << QStringList{"source", "f", "--json"} << "there is no option json";
+        << QStringList{"source", "f", "--json"} << "there is no option --json";
+    QTest::newRow("mistyped option")
+        << QStringList{"convert", "f", "--fromat=pdf"} << "there is no option --fromat, perhaps --format is meant";
+    QTest::newRow("unknown letter") << QStringList{"info", "-d", "f"} << "there is no option -d";
+    QTest::newRow("unknown long option of one letter") << QStringList{"info", "--d", "f"} << "there is no option --d";
+    QTest::newRow("value of a switch")
+        << QStringList{"info", "f", "--json=yes"} << "unexpected value after '--json'";
+    QTest::newRow("output twice")
+        << QStringList{"convert", "f", "-o", "a.pdf", "--output=b.pdf"} << "--output is given more than once";
+    QTest::newRow("mistyped command")
+        << QStringList{"convret", "f", "-o", "g.pdf"}
+        << "there is no command convret, and no file of that name, perhaps convert is meant";
+    QTest::newRow("no command") << QStringList{"frobnicate", "f"}
+                                << "there is no command frobnicate, and no file of that name";
     QTest::newRow("no file") << QStringList{"info"} << "no file is given";
     QTest::newRow("two files") << QStringList{"source", "a", "b"} << "only one file can be given";
     QTest::newRow("no output") << QStringList{"preview", "a"} << "no output is given (-o OUT)";
@@ -57,7 +71,7 @@ class ArgumentsTest : public QObject {
     CommandLine line;
     QCOMPARE(line.run(given), 2);
     QVERIFY(line.console.output.isEmpty());
-    QVERIFY(line.console.messages.startsWith("norvex: " + complaint + " ("));
+    QVERIFY2(line.console.messages.startsWith("norvex: " + complaint + "; norvex "), qPrintable(line.console.messages));
     QCOMPARE(line.console.messages.count('\n'), 1);
   }
 
@@ -66,6 +80,9 @@ class ArgumentsTest : public QObject {
     QTest::addColumn<bool>("expected");
     QTest::newRow("nothing") << QStringList{} << false;
     QTest::newRow("file") << QStringList{"a.eps"} << false;
+    QTest::newRow("missing file") << QStringList{"/nowhere/a"} << false;
+    QTest::newRow("mistyped command") << QStringList{"convret", "a.eps"} << true;
+    QTest::newRow("address") << QStringList{"file:///a"} << false;
     QTest::newRow("file named like a command") << QStringList{"./info"} << false;
     QTest::newRow("end of options") << QStringList{"--", "info"} << false;
     QTest::newRow("window system") << QStringList{"-platform", "xcb"} << false;
@@ -88,6 +105,33 @@ class ArgumentsTest : public QObject {
     QList<char*> pointers;
     for (QByteArray& argument : bytes) pointers << argument.data();
     QCOMPARE(isCommandLine(int(pointers.size()), pointers.data()), expected);
+  }
+
+  void aFileNamedLikeNoCommandIsAFile() {
+    const QTemporaryDir folder;
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder.path()));
+    QFile file("picture");
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QByteArray program("norvex"), name("picture"), missing("pictures");
+    char* there[] = {program.data(), name.data()};
+    char* notThere[] = {program.data(), missing.data()};
+    QVERIFY(!isCommandLine(2, there));
+    QVERIFY(isCommandLine(2, notThere));
+    QDir::setCurrent(before);
+  }
+
+  void theNearestNameIsSuggested() {
+    const QStringList names{"info", "source", "preview", "convert", "print"};
+    QCOMPARE(nearestName("convret", names), "convert");
+    QCOMPARE(nearestName("Convert", names), "convert");
+    QCOMPARE(nearestName("inf", names), "info");
+    QCOMPARE(nearestName("soruce", names), "source");
+    QCOMPARE(nearestName("previwe", names), "preview");
+    QVERIFY(!nearestName("open", names));
+    QVERIFY(!nearestName("in", names));
+    QVERIFY(!nearestName("", names));
+    QVERIFY(!nearestName(QString(100'000, 'x'), names));
   }
 
   void helpNamesEveryCommandAndOption() {
@@ -144,6 +188,27 @@ class ArgumentsTest : public QObject {
     QCOMPARE(complete("norvex source --j", 2), "");
     QCOMPARE(complete("norvex --completion z", 2), "zsh");
     QCOMPARE(complete("norvex --sand", 1), "--sandbox-status");
+    QCOMPARE(complete("norvex info a", 2), "");  // files are the shell's own business
+    QVERIFY(completionScript("bash").endsWith("complete -o default -F _norvex norvex\n"));
+  }
+
+  void bashKeepsNamesWithBlanksWhole() {
+    const QString bash = QStandardPaths::findExecutable("bash");
+    if (bash.isEmpty()) QSKIP("there is no bash");
+    const QTemporaryDir folder;
+    for (const char* name : {"in my hand.eps", "in * two.eps", "other.eps"}) {
+      QFile file(folder.filePath(name));
+      QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QProcess shell;
+    shell.setWorkingDirectory(folder.path());
+    shell.start(bash, {"--norc", "-c", completionScript("bash") +
+                                           "COMP_WORDS=(norvex in); COMP_CWORD=1; _norvex; printf '<%s>' \"${COMPREPLY[@]}\" | sort"});
+    QVERIFY(shell.waitForFinished());
+    const QString reply = QString::fromUtf8(shell.readAllStandardOutput()).trimmed();
+    QCOMPARE(shell.readAllStandardError(), QByteArray());
+    QCOMPARE(reply.count('<'), 3);
+    QVERIFY(reply.contains("<info>") && reply.contains("<in my hand.eps>") && reply.contains("<in * two.eps>"));
   }
 };
 

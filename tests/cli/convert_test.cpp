@@ -6,9 +6,15 @@
 #include <QJsonObject>
 
 #include <csignal>
+#include <filesystem>
+
+#include <sys/stat.h>
 
 #include "cli/cli_files.h"
 #include "kit/test_main.h"
+#include "platform/atomic_file.h"
+#include "platform/file_name.h"
+#include "platform/picture/document_file.h"
 
 using namespace norvex;
 using namespace norvex::testdata;
@@ -28,7 +34,7 @@ QString complaintOf(const QStringList& arguments) {
   const int code = line.run(QStringList{"convert"} + arguments);
   if (code != 2) return QStringLiteral("exit code %1").arg(code);
   if (line.service.openCount() != 0) return QStringLiteral("work was begun");
-  const QString end = QStringLiteral(" (norvex convert --help shows what there is)\n");
+  const QString end = QStringLiteral("; norvex convert --help shows what there is\n");
   if (!line.console.messages.startsWith("norvex: ") || !line.console.messages.endsWith(end))
     return line.console.messages;
   return line.console.messages.mid(8).chopped(end.size());
@@ -288,6 +294,33 @@ class ConvertTest : public QObject {
     QCOMPARE(request.rotate, std::acos(-1.0) / 2);
   }
 
+  void aCropBesideThePictureIsRefused_data() {
+    QTest::addColumn<QString>("rotate");
+    QTest::addColumn<QString>("crop");
+    QTest::addColumn<bool>("good");
+    QTest::newRow("inside") << "0" << "10,10,20,20" << true;
+    QTest::newRow("over an edge") << "0" << "-10,-10,11,11" << true;
+    QTest::newRow("around all") << "0" << "-10,-10,500,500" << true;
+    QTest::newRow("right of it") << "0" << "300,0,10,10" << false;
+    QTest::newRow("below it") << "0" << "0,-20,10,10" << false;
+    QTest::newRow("touches the edge") << "0" << "200,0,10,10" << false;
+    QTest::newRow("inside the turned picture alone") << "90" << "10,150,20,20" << true;
+    QTest::newRow("beside the turned picture") << "90" << "150,10,20,20" << false;
+    QTest::newRow("in an empty corner of the turned view") << "45" << "0,0,20,20" << false;
+  }
+  void aCropBesideThePictureIsRefused() {
+    QFETCH(QString, rotate);
+    QFETCH(QString, crop);
+    QFETCH(bool, good);
+    CommandLine line;
+    const QString from = line.write("a.pdf", emptyPdf({200, 100}));
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.png"), "--rotate", rotate, "--crop=" + crop}), good ? 0 : 3);
+    QCOMPARE(QFile::exists(line.path("b.png")), good);
+    const QString size = rotate == "90" ? "100 by 200" : rotate == "45" ? "212.132 by 212.132" : "200 by 100";
+    const QString sentence = "norvex: %1: nothing of the picture lies in the rectangle of --crop; it is %2 points large\n";
+    QCOMPARE(line.console.messages, good ? QString() : sentence.arg(from, size));
+  }
+
   void wholeTurnsAreNone() {
     CommandLine line;
     const QString from = line.write("a.eps", kEps);
@@ -366,6 +399,29 @@ class ConvertTest : public QObject {
     QCOMPARE(line.entries(), QStringList{"a.pdf"});
   }
 
+  void namesThatAreNoTextAreFilesLikeOthers() {
+    CommandLine line;
+    const QByteArray raw = line.path("gr").toUtf8() + "\xFC" "n";
+    const QString from = fileNameText(raw + ".eps");
+    QVERIFY(writeFileAtomically(from, kEps, IfExists::Fail));
+    const QString to = fileNameText(raw + ".gif");
+    QCOMPARE(line.run({"convert", from, "-o", to, "--json"}), 0);
+    QVERIFY(readDocumentFile(to)->startsWith("GIF89a"));
+    // JSON has a way to write what is no character; whoever reads it back has the name again.
+    QCOMPARE(jsonOf(line).at(0)["file"].toString(), from);
+    QVERIFY(line.console.output.contains("gr\\udcfcn.eps"));
+
+    QCOMPARE(line.run({"convert", from, "-o", to}), 4);
+    QVERIFY2(line.console.messages.contains("gr\\xfcn.gif exists already"), qPrintable(line.console.messages));
+    QCOMPARE(::mkdir((raw + ".d").constData(), 0700), 0);
+    QCOMPARE(line.run({"convert", from, "--to", fileNameText(raw + ".d"), "--format", "png"}), 0);
+    QVERIFY(readDocumentFile(fileNameText(raw + ".d/gr\xFC" "n.png"))->startsWith("\x89PNG"));
+    QCOMPARE(line.run({"info", fileNameText(raw + "x.eps")}), 3);
+    QVERIFY(line.console.messages.endsWith("gr\\xfcnx.eps: No such file or directory\n"));
+    for (const QString& name : {from, to, fileNameText(raw + ".d")})  // QTemporaryDir cannot
+      std::filesystem::remove_all(fileNameBytes(name).toStdString());
+  }
+
   // ---- what is told -------------------------------------------------------------------------------------
 
   void oneJsonObjectForEachFile() {
@@ -410,6 +466,20 @@ class ConvertTest : public QObject {
     QVERIFY(!QFile::exists(line.path("b.epsi")));
   }
 
+  void aFileThatIsCutOffIsTold() {
+    const QString sentence = QStringLiteral("the file seems cut off: its PostScript stops before its end");
+    CommandLine line;
+    const QByteArray program = QByteArray(kEps).replace("showpage\n", "%%BeginProlog\n/a { 0 0 move");
+    const QString from = line.write("a.eps", program);
+    for (const char* format : {"eps", "eps-preview", "epsi", "png"}) {
+      QCOMPARE(line.run({"convert", from, "-o", line.path("b"), "--format", format, "--force", "--json"}), 0);
+      QVERIFY2(line.console.messages.startsWith(QString("norvex: %1: %2").arg(from, sentence)), format);
+      QCOMPARE(jsonOf(line).at(0)["warnings"].toArray(), QJsonArray{sentence});
+    }
+    QCOMPARE(line.run({"convert", line.write("whole.eps", kEps), "-o", line.path("b.eps")}), 0);
+    QCOMPARE(line.console.messages, QString());
+  }
+
   void whatWasNoticedAtOpeningIsTold() {
     MemoryPicture picture;
     picture.facts.warnings = {"it is odd"};
@@ -419,6 +489,46 @@ class ConvertTest : public QObject {
     QCOMPARE(line.run({"convert", from, "-o", line.path("b.png"), "--json"}), 0);
     QCOMPARE(line.console.messages, QString("norvex: %1: it is odd\n").arg(from));
     QCOMPARE(jsonOf(line).at(0)["warnings"].toArray(), QJsonArray{"it is odd"});
+  }
+
+  void partsThatBecameImagesAreTold() {
+    MemoryPicture picture;
+    picture.report.regionsRasterised = 3;
+    picture.report.rasterisedAreaShare = 0.25;
+    picture.report.rasterisedDpi = 212.4;
+    CommandLine line;
+    line.service.setPicture(picture);
+    const QString from = line.write("a.pdf", emptyPdf({200, 100}));
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.eps"), "--json"}), 0);
+    QCOMPARE(line.console.messages,
+             QString("norvex: %1: 3 parts (25.0 % of the area) became images of 212 dpi\n").arg(from));
+    QCOMPARE(jsonOf(line).at(0)["rasterized"].toObject(),
+             QJsonObject({{"regions", 3}, {"areaShare", 0.25}, {"dpi", 212.4}}));
+
+    picture.report = {};
+    picture.report.regionsRasterised = 1;  // nothing else is known
+    line.service.setPicture(picture);
+    QCOMPARE(line.run({"convert", from, "-o", line.path("c.eps"), "--json"}), 0);
+    QCOMPARE(line.console.messages, QString("norvex: %1: 1 part became an image\n").arg(from));
+    QCOMPARE(jsonOf(line).at(0)["rasterized"].toObject(), QJsonObject({{"regions", 1}, {"areaShare", 0}}));
+  }
+
+  void fontsThatStandInForOthersAreToldForEveryFormat() {
+    const QString sentence = QStringLiteral("the font A is missing, B stands in for it");
+    MemoryPicture picture;
+    picture.drawingRemarks = {sentence};
+    picture.report.warnings = {sentence};
+    CommandLine line;
+    line.service.setPicture(picture);
+    const QString from = line.write("a.eps", kEps);
+    for (const char* format : {"eps-preview", "epsi", "tiff", "png", "jpeg", "gif"}) {
+      QCOMPARE(line.run({"convert", from, "-o", line.path("b"), "--force", "--format", format, "--json"}), 0);
+      QVERIFY2(line.console.messages.count(sentence) == 1, format);
+      QCOMPARE(jsonOf(line).at(0)["warnings"].toArray(), QJsonArray{sentence});
+    }
+    // Nothing is drawn, nothing stands in for anything.
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.eps"), "--json"}), 0);
+    QCOMPARE(line.console.messages, QString());
   }
 
   void metadataThatTheFormatCannotHoldIsNamed() {

@@ -26,7 +26,7 @@ class PrintTest : public QObject {
     QFETCH(QString, sentence);
     CommandLine line;
     QCOMPARE(line.run(QStringList{"print"} + arguments), 2);
-    QCOMPARE(line.console.messages, "norvex: " + sentence + " (norvex print --help shows what there is)\n");
+    QCOMPARE(line.console.messages, "norvex: " + sentence + "; norvex print --help shows what there is\n");
     QCOMPARE(line.service.openCount(), 0);
   }
 

@@ -49,6 +49,13 @@ class DocumentControllerTest : public QObject {
   }
   void cleanup() { controller_.reset(); }
 
+  void aNameThatIsNoTextIsToldAsTheReason() {
+    const QByteArray bytes = folder_->path().toUtf8() + "/gr\xFCn.eps";
+    const QUrl url = QUrl::fromLocalFile(QString::fromUtf8(bytes));
+    QCOMPARE(failureOf(url), QString("The file's name is not text in UTF-8. Please rename the file."));
+    QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->filePath("missing.eps"))), QString("No such file or directory."));
+  }
+
   void aFileBecomesADocumentWithLocationTypeAndWindow() {
     const QUrl url = write("a.eps", "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 10 10\n");
     QSignalSpy opened(controller_.get(), &DocumentController::documentOpened);

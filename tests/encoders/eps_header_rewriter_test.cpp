@@ -62,6 +62,12 @@ class EpsHeaderRewriterTest : public QObject {
     QCOMPARE(rewriteEpsHeader("a\nx %%Title: b\nc", {{header::Title, "T"}}, defaults),
              QByteArray("a\n%%Title: T\nc"));
   }
+  void eachStepSeesWhatTheStepsBeforeItWrote() {
+    // The title brings a keyword along; the creator's step finds it there first.
+    QCOMPARE(rewriteEpsHeader("%%Title: a\n%%Creator: b\n", {{header::Title, "see %%Creator: me"}, {header::Creator, "C"}},
+                              defaults),
+             QByteArray("%%Creator: C\n%%Creator: b\n"));
+  }
   void bytesThatAreNotUtf8GiveNothing() {
     QVERIFY(rewriteEpsHeader("%%Title: \xE4\n", {{header::Title, "T"}}, defaults).isEmpty());
   }

@@ -3,6 +3,9 @@
 #include <QColorSpace>
 #include <QPainter>
 
+#include <functional>
+
+#include "encoders/dos_eps_writer.h"
 #include "kit/test_main.h"
 #include "platform/picture/eps_image_rep.h"
 #include "platform/picture/memory_picture_service.h"
@@ -56,6 +59,24 @@ class AttributesService final : public PictureService {
   MemoryPictureService memory{picture()};
   QHash<QString, QString> given;
   QDateTime givenDate;
+};
+
+/// Keeps what is logged while it lives.
+class LogKeeper {
+ public:
+  LogKeeper() {
+    lines.clear();
+    earlier_ = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& message) { lines << message; });
+  }
+  ~LogKeeper() { qInstallMessageHandler(earlier_); }
+  LogKeeper(const LogKeeper&) = delete;
+  LogKeeper& operator=(const LogKeeper&) = delete;
+  [[nodiscard]] int count(const QString& line) const { return int(lines.count(line)); }
+
+ private:
+  static inline QStringList lines;
+  QtMessageHandler earlier_;
 };
 
 }  // namespace
@@ -112,6 +133,12 @@ class PictureEncoderTest : public QObject {
     const QByteArray again = encoderOf(eps(binary)).postScriptDataWithPreview();
     QCOMPARE(again, binary);
   }
+  void aPdfWithAPreviewGetsTheGeneratedPostScript() {
+    const QByteArray out = encoderOf(pdf()).postScriptDataWithPreview();
+    QCOMPARE(out.left(4).toHex(), QByteArray("c5d0d3c6"));
+    QVERIFY(out.contains("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n%%Title: Pdf Title\n%%Creator: Drawer\n"));
+    QVERIFY(out.endsWith("%%EndComments\nshowpage\n"));
+  }
   void aSourceThatIsNoTextLeavesTheSectionEmptyAndSaysSo() {
     // Invalid in UTF-8, Shift JIS, EUC-JP, non-lossy ASCII and ASCII alike.
     PictureEncoder encoder = encoderOf(eps(sourceEps + "\xFF\x80\xFD\xA0\xFF"));
@@ -135,6 +162,10 @@ class PictureEncoderTest : public QObject {
     const QByteArray source = encoderOf(eps()).epsiData();
     QCOMPARE(encoderOf(eps(source)).epsiData(), source);
   }
+  void aBinarySourceWithAnInterchangePreviewIsHandedOnWhole() {
+    const QByteArray binary = dosEpsFile("II*", encoderOf(eps()).epsiData());
+    QCOMPARE(encoderOf(eps(binary)).epsiData(), binary);
+  }
   void anSvgAsEpsiHasTheRewrittenHeader() {
     const QByteArray out = encoderOf(svg()).epsiData();
     QVERIFY(out.contains("%%Title: A Title\n"));
@@ -154,6 +185,52 @@ class PictureEncoderTest : public QObject {
     QCOMPARE(service_->given.value(QStringLiteral("Title")), QStringLiteral("(Own)"));
   }
 
+  void anotherDepthThanTheWindowsIsLogged_data() {
+    QTest::addColumn<NSWindowDepth>("limit");
+    QTest::addColumn<int>("lines");
+    QTest::newRow("8 bits") << NSWindowDepth{8, 24} << 0;
+    QTest::newRow("10 bits") << NSWindowDepth{10, 30} << 1;
+    QTest::newRow("5 bits") << NSWindowDepth{5, 15} << 1;
+  }
+  void anotherDepthThanTheWindowsIsLogged() {
+    QFETCH(NSWindowDepth, limit);
+    QFETCH(int, lines);
+    EncoderSurroundings surroundings = usual();
+    surroundings.defaultDepthLimit = limit;
+    const auto logged = [&](const std::function<QByteArray(PictureEncoder&)>& produce, const auto& rep) {
+      PictureEncoder encoder(rep, surroundings);
+      LogKeeper log;
+      (void)produce(encoder);
+      return log.count("setCacheDepthMatchesImageDepth YES.");
+    };
+    const auto withPreview = [](PictureEncoder& encoder) { return encoder.postScriptDataWithPreview(); };
+    const auto interchange = [](PictureEncoder& encoder) { return encoder.epsiData(); };
+    for (const auto& rep : {eps(), svg(), pdf()}) {
+      QCOMPARE(logged(withPreview, rep), lines);
+      QCOMPARE(logged(interchange, rep), lines);
+      QCOMPARE(logged([](PictureEncoder& encoder) { return encoder.pdfData(); }, rep), 0);
+    }
+    // No preview is made: nothing is compared.
+    QCOMPARE(logged(withPreview, std::shared_ptr<NSImageRep>()), 0);
+    QCOMPARE(logged(interchange, eps(QByteArray(sourceEps) + "%%BeginPreview: 1 1 8 1\n%00\n%%EndPreview\n")), 0);
+  }
+  void theBestDepthIsThatOfTheColours() {
+    QCOMPARE(NSBestDepth(8, 32), NSBestDepth(8, 24));
+    QVERIFY(NSBestDepth(8, 32) == NSWindowDepth());
+    QVERIFY(!(NSBestDepth(10, 32) == NSWindowDepth()));
+  }
+  void theHeaderOfASourceIsReadOnce() {
+    const auto readings = [&](const std::function<QByteArray(PictureEncoder&)>& produce) {
+      PictureEncoder encoder = encoderOf(eps("\xEF\xBB\xBF" + sourceEps));
+      LogKeeper log;
+      if (produce(encoder).isEmpty()) return -1;
+      if (encoder.header().value(header::Title) != "(Own)") return -2;
+      return log.count("complete UTF-8");  // is written by each reading
+    };
+    QCOMPARE(readings([](PictureEncoder& encoder) { return encoder.postScriptDataWithPreview(); }), 1);
+    QCOMPARE(readings([](PictureEncoder& encoder) { return encoder.epsiData(); }), 1);
+    QCOMPARE(readings([](PictureEncoder& encoder) { return encoder.pdfData(); }), 1);
+  }
   void onlyAnSvgCanBeWrittenAsSvg() {
     QCOMPARE(encoderOf(svg()).svgData(), QByteArray("<svg pretty/>"));
     QVERIFY(encoderOf(eps()).svgData().isEmpty());

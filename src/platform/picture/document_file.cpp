@@ -1,7 +1,5 @@
 #include "platform/picture/document_file.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -13,6 +11,7 @@
 #include <unistd.h>
 
 #include "platform/file_descriptor.h"
+#include "platform/file_name.h"
 
 namespace norvex {
 namespace {
@@ -99,7 +98,7 @@ std::optional<Result<QByteArray>> readOnce(const QByteArray& path, qint64 limit)
 }  // namespace
 
 Result<QByteArray> readDocumentFile(const QString& path, qint64 limit) {
-  const QByteArray name = QFile::encodeName(path);
+  const QByteArray name = fileNameBytes(path);
   if (name.isEmpty() || name.contains('\0')) return systemError(ENOENT);
   for (int attempt = 0; attempt < kAttempts; ++attempt)
     if (auto bytes = readOnce(name, limit)) return *bytes;

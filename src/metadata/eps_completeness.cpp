@@ -1,0 +1,138 @@
+#include "metadata/eps_completeness.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+
+#include "metadata/dos_eps_header.h"
+#include "metadata/eps_program.h"
+
+namespace norvex {
+namespace {
+
+constexpr char kBlanks[] = " \t\r\n\f\x04";  // and NUL; spoolers end files with 04
+
+bool isBlank(char c) {
+  return c == '\0' || std::find(std::begin(kBlanks), std::end(kBlanks) - 1, c) != std::end(kBlanks) - 1;
+}
+
+bool isDelimiter(char c) {
+  return isBlank(c) || QByteArrayView("{}[]()<>/%").contains(c);
+}
+
+QByteArrayView withoutBlanksAtEnd(QByteArrayView text) {
+  while (!text.isEmpty() && isBlank(text.back())) text.chop(1);
+  return text;
+}
+
+/// Whether a line begins with `start`.
+bool hasLine(QByteArrayView program, QByteArrayView start) {
+  for (qsizetype at = program.indexOf(start); at >= 0; at = program.indexOf(start, at + 1))
+    if (at == 0 || program[at - 1] == '\n' || program[at - 1] == '\r') return true;
+  return false;
+}
+
+bool hasOneOfLines(QByteArrayView program, std::initializer_list<const char*> starts) {
+  return std::any_of(starts.begin(), starts.end(),
+                     [&](const char* start) { return hasLine(program, start); });
+}
+
+/// Behind which the other has to follow.
+constexpr std::array<std::array<const char*, 2>, 2> kPairs{{
+    {"%AI9_PrivateDataBegin", "%AI9_PrivateDataEnd"},
+    {"%%BeginPreview", "%%EndPreview"},
+}};
+
+/// The last word that is no comment.
+QByteArrayView lastWord(QByteArrayView program) {
+  for (QByteArrayView rest = withoutBlanksAtEnd(program); !rest.isEmpty();) {
+    const qsizetype lineEnd = std::max(rest.lastIndexOf('\n'), rest.lastIndexOf('\r'));
+    const QByteArrayView line = rest.sliced(lineEnd + 1);
+    if (!line.trimmed().startsWith('%')) {
+      qsizetype from = line.size();
+      while (from > 0 && !isBlank(line[from - 1])) --from;
+      return line.sliced(from);
+    }
+    rest = withoutBlanksAtEnd(rest.first(lineEnd + 1));
+  }
+  return {};
+}
+
+/// What programs end with; some name their restore "rs" or "gr".
+bool endsPrograms(QByteArrayView word) {
+  static constexpr std::array<const char*, 12> words{"showpage",    "end",     "restore", "grestore",
+                                                     "grestoreall", "pdfmark", "quit",    "stop",
+                                                     "cleartomark", "rs",      "gr",      "pop"};
+  return std::any_of(words.begin(), words.end(),
+                     [&](const char* one) { return word == QByteArrayView(one); });
+}
+
+/// How often words stand in the program outside comments, braces among them. Strings are not told from code.
+QHash<QByteArrayView, int> countedWords(QByteArrayView program) {
+  QHash<QByteArrayView, int> counts;
+  for (qsizetype at = 0; at < program.size();) {
+    const char c = program[at];
+    qsizetype end = at + 1;
+    if (c == '%')
+      while (end < program.size() && program[end] != '\n' && program[end] != '\r') ++end;
+    else if (!isDelimiter(c))
+      while (end < program.size() && !isDelimiter(program[end])) ++end;
+    const QByteArrayView word = program.sliced(at, end - at);
+    if (c == '{' || c == '}' || word == "begin" || word == "end" || word == "gsave" || word == "grestore" ||
+        word == "grestoreall" || word == "save" || word == "restore")
+      ++counts[word];
+    at = end;
+  }
+  return counts;
+}
+
+bool leavesSomethingOpen(QByteArrayView program) {
+  const bool isText = std::all_of(program.begin(), program.end(), [](char c) { return uchar(c) < 0x80; });
+  if (!isText) return false;  // words in image data mean nothing
+  const auto counts = countedWords(program);
+  return counts.value("{") > counts.value("}") || counts.value("begin") > counts.value("end") ||
+         counts.value("gsave") > counts.value("grestore") + counts.value("grestoreall") ||
+         counts.value("save") > counts.value("restore");
+}
+
+bool stopsEarly(QByteArrayView program) {
+  for (const auto& [begin, end] : kPairs)
+    if (hasLine(program, begin) && !hasLine(program, end)) return true;
+  if (hasOneOfLines(program, {"%%EOF", "%%Trailer"}) || endsPrograms(lastWord(program))) return false;
+  const bool hasStructure = hasOneOfLines(
+      program, {"%%BeginProlog", "%%EndProlog", "%%BeginSetup", "%%EndSetup", "%%Page:", "%%BeginPageSetup"});
+  return hasStructure || leavesSomethingOpen(program);
+}
+
+/// How many of a section's bytes lie behind the source's end.
+qint64 missingBytes(QByteArrayView source, qsizetype start, quint32 offset, quint32 length) {
+  return std::clamp<qint64>(qint64(start) + offset + length - source.size(), 0, length);
+}
+
+QString missingSentence(const char* what, qint64 missing, quint32 length) {
+  return QStringLiteral("the file is cut off: %1 of the %2 bytes of %3 are missing")
+      .arg(missing)
+      .arg(length)
+      .arg(QLatin1String(what));
+}
+
+}  // namespace
+
+QStringList epsMissingParts(const QByteArray& source) {
+  QStringList missing;
+  const qsizetype start = source.startsWith("\xEF\xBB\xBF") ? 3 : 0;
+  if (const auto header = dosEpsHeader(source, start)) {
+    const qint64 postScript = missingBytes(source, start, header->postScriptOffset, header->postScriptLength);
+    const qint64 tiff = missingBytes(source, start, header->tiffOffset, header->tiffLength);
+    if (postScript > 0) missing << missingSentence("its PostScript", postScript, header->postScriptLength);
+    if (tiff > 0) missing << missingSentence("its preview", tiff, header->tiffLength);
+    if (postScript > 0) return missing;
+  }
+  if (const QByteArray program = epsProgram(source); stopsEarly(program))
+    missing << QStringLiteral("the file seems cut off: its PostScript stops before its end");
+  return missing;
+}
+
+}  // namespace norvex

@@ -1,0 +1,127 @@
+// Files that were cut off are told from whole ones.
+#include "metadata/eps_completeness.h"
+
+#include <QtEndian>
+
+#include "kit/program.h"
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+const QString kCutOff = QStringLiteral("the file seems cut off: its PostScript stops before its end");
+
+const QByteArray kHeader("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n%%EndComments\n");
+
+/// A file as generators write them.
+const QByteArray kWhole = kHeader +
+                          "%%BeginProlog\n/w { 0 0 moveto lineto stroke } def\n%%EndProlog\n%%Page: 1 1\nsave\ngsave\n"
+                          "9 9 w\n1 0 0 setrgbcolor\n5 7 w\ngrestore\nrestore\nshowpage\n%%Trailer\n%%EOF\n";
+
+QByteArray binary(const QByteArray& tiff, const QByteArray& postScript) {
+  QByteArray header(30, '\0');
+  const auto put = [&](qsizetype at, qsizetype value) { qToLittleEndian(quint32(value), header.data() + at); };
+  header.replace(0, 4, "\xC5\xD0\xD3\xC6");
+  put(4, 30 + tiff.size());
+  put(8, postScript.size());
+  put(20, 30);
+  put(24, tiff.size());
+  return header + tiff + postScript;
+}
+
+}  // namespace
+
+class EpsCompletenessTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void wholeFilesPass_data() {
+    QTest::addColumn<QByteArray>("source");
+    const auto row = [](const char* name, const QByteArray& source) { QTest::newRow(name) << source; };
+    row("as it should be", kWhole);
+    row("nothing", {});
+    row("header alone", kHeader);
+    row("no end mark", kHeader + "%%EndProlog\nsave 0 0 moveto restore\nshowpage\n");
+    row("end of transmission behind it", kHeader + "%%EndProlog\nshowpage\r\n\x04");
+    row("its last line is a comment", kHeader + "%%EndProlog\nsave\nrestore\n\n% showpage\n");
+    row("by hand, without an end of line", kHeader + "newpath 0 0 moveto 9 9 lineto stroke");
+    row("by hand, with a procedure", kHeader + "/d { moveto } def gsave 0 0 d grestore 9 9 lineto stroke\n");
+    row("drawing program's own names", kHeader + "%%Page: 1 1\n(text) col0 sh gr\n$F2psEnd\nrs\n");
+    row("private data behind the end mark", kWhole + "%AI9_PrivateDataBegin\n%abc\n%AI9_PrivateDataEnd\n");
+    row("binary data", kHeader + "gsave image\n{{{\xFF\x80 gsave");
+    row("carriage returns", QByteArray(kWhole).replace('\n', '\r'));
+    row("binary header", binary("II*", kWhole));
+    row("binary header without preview", binary({}, kWhole));
+    row("byte-order mark before the header", "\xEF\xBB\xBF" + binary("II*", kWhole));
+  }
+  void wholeFilesPass() {
+    QFETCH(QByteArray, source);
+    QCOMPARE(epsMissingParts(source), QStringList());
+  }
+
+  void aFileThatWasCutIsTold_data() {
+    QTest::addColumn<QByteArray>("source");
+    const auto upTo = [](const char* text) { return kWhole.first(kWhole.indexOf(text)); };
+    QTest::newRow("in the prolog") << upTo(" lineto stroke");
+    QTest::newRow("in the body") << upTo("setrgbcolor");
+    QTest::newRow("between two lines") << upTo("1 0 0");
+    QTest::newRow("unstructured, in a procedure") << kHeader + "/d { 0 0 moveto";
+    QTest::newRow("unstructured, in a saved state") << kHeader + "gsave 0 0 moveto 9 9 lineto\nstr";
+    QTest::newRow("in an interchange preview") << kHeader + "%%BeginPreview: 8 2 1 2\n%FF\n";
+    QTest::newRow("in private data") << kWhole + "%AI9_PrivateDataBegin\n%abc";
+    QTest::newRow("cut before it became binary") << binary("II*", upTo("setrgbcolor"));
+  }
+  void aFileThatWasCutIsTold() {
+    QFETCH(QByteArray, source);
+    QCOMPARE(epsMissingParts(source), QStringList{kCutOff});
+  }
+
+  void sectionsBehindTheEndAreCounted() {
+    const QByteArray whole = binary(QByteArray(100, 'x'), kWhole);
+    QCOMPARE(epsMissingParts(whole.chopped(1)),
+             QStringList{QString("the file is cut off: 1 of the %1 bytes of its PostScript are missing").arg(kWhole.size())});
+    const QStringList both = epsMissingParts(whole.first(90));
+    QCOMPARE(both.size(), 2);
+    QCOMPARE(both[0], QString("the file is cut off: %1 of the %1 bytes of its PostScript are missing").arg(kWhole.size()));
+    QCOMPARE(both[1], QString("the file is cut off: 40 of the 100 bytes of its preview are missing"));
+  }
+
+  void theLargestNumbersDoNotOverflow() {
+    QByteArray source = binary("II*", kWhole);
+    source.replace(4, 8, QByteArray(8, '\xFF'));
+    QCOMPARE(epsMissingParts(source),
+             QStringList{"the file is cut off: 4294967295 of the 4294967295 bytes of its PostScript are missing"});
+  }
+
+  void everyCutOfAnythingEndsWithoutHarm() {
+    const QByteArray whole = binary(QByteArray(20, 'x'), kWhole);
+    for (qsizetype size = 0; size < whole.size(); ++size) {
+      const QStringList parts = epsMissingParts(whole.first(size));
+      QVERIFY(size <= 30 || !parts.isEmpty());
+      QVERIFY(epsMissingParts(kWhole.first(std::min(size, kWhole.size()))).size() <= 1);
+    }
+  }
+
+  void realFilesAreWhole() {
+    if (kit::corpusFolder().isEmpty()) QSKIP("there is no folder of real files here");
+    QStringList told;
+    int cuts = 0, noticed = 0;
+    for (const char* kind : {"eps_text", "eps_binary", "epsi", "ai_ps"}) {
+      for (const QString& path : kit::corpusFiles(kind)) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        if (!epsMissingParts(bytes).isEmpty()) told << path;
+        for (const double part : {0.2, 0.5, 0.9}) {
+          ++cuts;
+          noticed += epsMissingParts(bytes.first(qsizetype(part * double(bytes.size())))).isEmpty() ? 0 : 1;
+        }
+      }
+    }
+    QCOMPARE(told.join(", "), QString());
+    QVERIFY2(noticed > cuts * 8 / 10, qPrintable(QString("%1 of %2").arg(noticed).arg(cuts)));
+  }
+};
+
+NORVEX_TEST(EpsCompletenessTest)
+#include "eps_completeness_test.moc"

@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Colors used:</source>
-        <translation>Colors used:</translation>
+        <translation>Colours used:</translation>
     </message>
     <message>
         <source>%1 What is shown was read before.</source>
@@ -560,12 +560,12 @@
         <translation>&amp;Scaling:</translation>
     </message>
     <message>
-        <source>Centre &amp;horizontally</source>
-        <translation>Centre &amp;horizontally</translation>
+        <source>&amp;Horizontally</source>
+        <translation>&amp;Horizontally</translation>
     </message>
     <message>
-        <source>Centre &amp;vertically</source>
-        <translation>Centre &amp;vertically</translation>
+        <source>&amp;Vertically</source>
+        <translation>&amp;Vertically</translation>
     </message>
     <message>
         <source>First page</source>
@@ -576,16 +576,36 @@
         <translation>Fro&amp;m</translation>
     </message>
     <message>
-        <source>Header and foo&amp;ter</source>
-        <translation>Header and foo&amp;ter</translation>
+        <source>Hea&amp;der and footer</source>
+        <translation>Hea&amp;der and footer</translation>
+    </message>
+    <message>
+        <source>Centred:</source>
+        <translation>Centred:</translation>
+    </message>
+    <message>
+        <source>Centred horizontally</source>
+        <translation>Centred horizontally</translation>
+    </message>
+    <message>
+        <source>Centred vertically</source>
+        <translation>Centred vertically</translation>
     </message>
     <message>
         <source>Last page</source>
         <translation>Last page</translation>
     </message>
     <message>
-        <source>Left:</source>
-        <translation>Left:</translation>
+        <source>Lef&amp;t:</source>
+        <translation>Lef&amp;t:</translation>
+    </message>
+    <message>
+        <source>This printer is no longer there.</source>
+        <translation>This printer is no longer there.</translation>
+    </message>
+    <message>
+        <source>Print Selected or Visible Pa&amp;rt…</source>
+        <translation>Print Selected or Visible Pa&amp;rt…</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
@@ -596,8 +616,8 @@
         <translation>Makes the picture smaller until one page holds it</translation>
     </message>
     <message>
-        <source>Margins</source>
-        <translation>Margins</translation>
+        <source>Margins:</source>
+        <translation>Margins:</translation>
     </message>
     <message>
         <source>Next page</source>

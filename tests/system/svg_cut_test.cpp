@@ -19,7 +19,10 @@ using namespace norvex::kit;
 
 namespace {
 
-constexpr double kLargestDifference = 0.01;  // mean of the samples, 0 … 1
+// Mean of the samples, 0 … 1. At other angles than quarter turns librsvg itself draws some things differently
+// (gradients whose stops coincide, for one), so that more is let pass there.
+constexpr double kLargestDifference = 0.01;
+constexpr double kLargestWhenTurned = 0.04;
 constexpr double kPixelsPerPoint = 4.0 / 3;
 constexpr int kFiner =
     3;  // the whole picture is drawn that many times larger, so that turning its pixels loses nothing
@@ -110,8 +113,9 @@ Outcome outcomeOf(const Job& job) {
                 .arg(right.width())
                 .arg(right.height())};
   const double difference = outside::difference(part, right);
+  const double most = std::fmod(job.degrees, 90) == 0 ? kLargestDifference : kLargestWhenTurned;
   return {true, difference,
-          difference > kLargestDifference ? QString("difference %1").arg(difference, 0, 'f', 4) : QString()};
+          difference > most ? QString("difference %1").arg(difference, 0, 'f', 4) : QString()};
 }
 
 }  // namespace
@@ -157,7 +161,10 @@ class SvgCutTest : public QObject {
     QVERIFY(outside::difference(right, turnedPart(whole, picture, picture, rect.translated(3, 0), 0)) >
             kLargestDifference);
     QVERIFY(outside::difference(right, turnedPart(whole, picture, picture, rect, 2)) > kLargestDifference);
-    QVERIFY(outside::difference(right, right.mirrored(true, false)) > kLargestDifference);
+    QVERIFY(outside::difference(right, turnedPart(whole, picture, picture, rect.translated(12, 0), 0)) >
+            kLargestWhenTurned);
+    QVERIFY(outside::difference(right, turnedPart(whole, picture, picture, rect, 10)) > kLargestWhenTurned);
+    QVERIFY(outside::difference(right, right.mirrored(true, false)) > kLargestWhenTurned);
   }
 
  private:

@@ -10,10 +10,24 @@
 namespace norvex::engine {
 namespace {
 
+constexpr qsizetype kLongestShorthand = 500;  // a match takes time that grows with the square of it
+
 /// Words that mean another element's family, not one of their own.
 bool isKeyword(const QString& name) {
   static const QSet<QString> keywords{"inherit", "initial", "unset", "revert"};
   return keywords.contains(name.toLower());
+}
+
+QString withoutComments(QStringView css) {
+  QString plain;
+  for (qsizetype at = 0; at < css.size();) {
+    const qsizetype comment = css.indexOf(u"/*", at);
+    plain += css.sliced(at, (comment < 0 ? css.size() : comment) - at);
+    const qsizetype close = comment < 0 ? -1 : css.indexOf(u"*/", comment + 2);
+    if (close < 0) break;
+    at = close + 2;
+  }
+  return plain;
 }
 
 /// The names of a list, without quotes; a comma inside quotes belongs to the name.
@@ -52,9 +66,7 @@ void SvgFonts::attribute(const QString& name, const QString& value) {
 }
 
 void SvgFonts::styleSheet(QStringView css) {
-  static const QRegularExpression comment(QStringLiteral("/\\*.*?\\*/"),
-                                          QRegularExpression::DotMatchesEverythingOption);
-  declarations(css.toString().remove(comment));
+  declarations(withoutComments(css));
 }
 
 void SvgFonts::declarations(QStringView css) {
@@ -77,6 +89,7 @@ void SvgFonts::shorthand(QStringView value) {
       QStringLiteral("(?:^|\\s)(?:[0-9.]*\\.?[0-9]+(?:[a-z]+|%)|(?:xx?-|x+)?(?:small|large)|medium|"
                      "smaller|larger)(?:\\s*/\\s*\\S+)?\\s+(.+)$"),
       QRegularExpression::CaseInsensitiveOption);
+  if (value.size() > kLongestShorthand) return;
   const QRegularExpressionMatch match = size.match(value.trimmed());
   if (match.hasMatch()) list(match.capturedView(1));
 }

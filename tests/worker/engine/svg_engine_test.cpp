@@ -50,6 +50,12 @@ class SvgEngineTest : public QObject {
               "style='font:small-caps 10pt Georgia'>x<tspan font-family='arial'>y</tspan></text></g>"));
     QCOMPARE(facts.fonts, (QStringList{"Arial", "Open Sans", "Gentium, Book", "Lato", "serif", "Fira Sans", "Georgia"}));
     QCOMPARE(facts.colorSpaces, QStringList{"sRGB"});
+    // Of hostile ones the time grows with the length, not with its square.
+    const QByteArray digits(1 << 20, '1');
+    const PictureFacts hostile = factsOf(
+        svgOf("width='10' height='10' font='" + digits + "'", "<style>" + QByteArray("/*").repeated(1 << 19) +
+                                                                   "</style><text style='font:" + digits + " A'>x</text>"));
+    QVERIFY(hostile.fonts.isEmpty() && !hostile.pageBounds.isEmpty());
     QVERIFY(factsOf(svgOf("width='10' height='10' font-family='Arial'", "<rect width='5' height='5'/>")).fonts.isEmpty());
   }
 

@@ -54,7 +54,7 @@ class Misbehaviour {
   void raw(const QByteArray& mode, quint32 id) {
     const int socket = channel_.socket();
     ::fcntl(socket, F_SETFL, ::fcntl(socket, F_GETFL) & ~O_NONBLOCK);
-    const QByteArray good = encodeReply({id, BitmapReply{QSize(4, 4), 16}});
+    const QByteArray good = encodeReply({id, BitmapReply{QSize(4, 4), 16, {}}});
     if (mode == "bad-cbor") sendRaw(socket, framed("this is no CBOR")), hang();
     if (mode == "huge-length") sendRaw(socket, QByteArray::fromHex("ffffffff")), hang();
     if (mode == "half-message") sendRaw(socket, framed(good).left(9)), ::_exit(0);
@@ -62,7 +62,7 @@ class Misbehaviour {
     if (mode == "two-descriptors") sendRaw(socket, framed(good), {0, 1}), hang();
     if (mode == "late-descriptor") sendRaw(socket, framed(good).left(4)), sendRaw(socket, good, {0}), hang();
     if (mode == "flood-zeros") flood(QByteArray(1 << 16, '\0'));
-    if (mode == "flood-messages") flood(framed(encodeReply({id + 7, BitmapReply{QSize(4, 4), 16}})));
+    if (mode == "flood-messages") flood(framed(encodeReply({id + 7, BitmapReply{QSize(4, 4), 16, {}}})));
     if (mode == "trickle") trickle();
   }
 
@@ -80,25 +80,25 @@ class Misbehaviour {
 
   void wrongReply(const QByteArray& mode, quint32 id) {
     const FileDescriptor pixels = sealed(64);
-    if (mode == "wrong-id") send(id + 1, BitmapReply{QSize(4, 4), 16}, pixels);
+    if (mode == "wrong-id") send(id + 1, BitmapReply{QSize(4, 4), 16, {}}, pixels);
     if (mode == "wrong-type") send(id, ForkReply{1}, FileDescriptor());
     if (mode == "fork-reply") send(id, ForkReply{1}, pixels);
-    if (mode == "wrong-size") send(id, BitmapReply{QSize(5, 4), 20}, sealed(80));
-    if (mode == "wrong-stride") send(id, BitmapReply{QSize(4, 4), 12}, pixels);
-    if (mode == "wide-stride") send(id, BitmapReply{QSize(4, 4), 20}, sealed(80));
-    if (mode == "negative-size") send(id, BitmapReply{QSize(-4, -4), 16}, pixels);
-    if (mode == "negative-stride") send(id, BitmapReply{QSize(4, 4), -16}, pixels);
-    if (mode == "no-descriptor") send(id, BitmapReply{QSize(4, 4), 16}, FileDescriptor());
+    if (mode == "wrong-size") send(id, BitmapReply{QSize(5, 4), 20, {}}, sealed(80));
+    if (mode == "wrong-stride") send(id, BitmapReply{QSize(4, 4), 12, {}}, pixels);
+    if (mode == "wide-stride") send(id, BitmapReply{QSize(4, 4), 20, {}}, sealed(80));
+    if (mode == "negative-size") send(id, BitmapReply{QSize(-4, -4), 16, {}}, pixels);
+    if (mode == "negative-stride") send(id, BitmapReply{QSize(4, 4), -16, {}}, pixels);
+    if (mode == "no-descriptor") send(id, BitmapReply{QSize(4, 4), 16, {}}, FileDescriptor());
     if (mode == "negative-dpi") send(id, BytesReply{1, 0.5, -1, {}}, pixels);
     if (mode == "impossible-dpi") send(id, BytesReply{1, 0.5, 1e9, {}}, pixels);
     if (mode == "error-with-descriptor") send(id, Error{ErrorKind::Limit, "x"}, pixels);
-    if (mode == "twice" && !channel_.send(encodeReply({id, BitmapReply{QSize(4, 4), 16}}), pixels.get()))
+    if (mode == "twice" && !channel_.send(encodeReply({id, BitmapReply{QSize(4, 4), 16, {}}}), pixels.get()))
       ::_exit(0);
-    if (mode == "twice") send(id, BitmapReply{QSize(4, 4), 16}, pixels);
+    if (mode == "twice") send(id, BitmapReply{QSize(4, 4), 16, {}}, pixels);
   }
 
   void wrongMemory(const QByteArray& mode, quint32 id) {
-    const BitmapReply good{QSize(4, 4), 16};
+    const BitmapReply good{QSize(4, 4), 16, {}};
     if (mode == "small-memory") send(id, good, sealed(63));
     if (mode == "large-memory") send(id, good, sealed(65));
     if (mode == "empty-memory") send(id, good, sealed(0));

@@ -3,7 +3,8 @@
 //
 // Screen and output come from different programs with different smoothing, fonts and colour conversions, so they are
 // compared after four by four pixels were averaged: how much they differ in the mean, and whether dark and light lie
-// in the same places (correlation), which is what a rectangle that is shifted, turned or mirrored fails.
+// in the same places (correlation), which is what a rectangle that is shifted, turned or mirrored fails. Small pictures
+// are drawn enlarged: of a line that is thinner than a pixel, each program makes something else.
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -34,6 +35,11 @@ struct Job {
   double degrees;
 };
 
+constexpr int kPixels = 900;  // the longer side has about so many
+
+/// Pixels a point that a rectangle is drawn with.
+int scaleFor(const QSize& points) { return std::clamp(kPixels / std::max(points.width(), points.height()), 1, 8); }
+
 struct Outcome {
   bool drawn = false;  ///< the screen shows it; otherwise there is nothing to compare
   QStringList complaints;
@@ -58,11 +64,12 @@ double correlation(const QImage& one, const QImage& other) {
   return (ab / n - a / n * b / n) / std::sqrt(va * vb);
 }
 
-QImage drawnBy(const QString& program, const QString& path, const QString& folder) {
-  const QString png = folder + u'/' + program + ".png";
-  if (program == "pdftocairo") run(program, {"-png", "-r", "72", "-singlefile", path, png.chopped(4)}, {}, 60);
-  if (program == "mutool") run(program, {"draw", "-q", "-r", "72", "-o", png, path, "1"}, {}, 60);
-  if (program == "gs") return outside::drawnOutside(path, "eps");
+QImage drawnBy(const QString& program, const QString& path, int scale, const QString& folder) {
+  const QString png = folder + u'/' + program + ".png", dpi = QString::number(72 * scale);
+  if (program == "pdftocairo") run(program, {"-png", "-r", dpi, "-singlefile", path, png.chopped(4)}, {}, 60);
+  if (program == "mutool") run(program, {"draw", "-q", "-r", dpi, "-o", png, path, "1"}, {}, 60);
+  if (program == "gs")
+    run(program, {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=png16m", "-r" + dpi, "-dTextAlphaBits=4", "-dGraphicsAlphaBits=4", "-o", png, path}, {}, 60);
   return QImage(png).convertToFormat(QImage::Format_RGB32);
 }
 
@@ -87,11 +94,11 @@ bool hasInks(const QString& pdf) {
 }
 
 /// The rectangle of the source's first page, turned and cut by mutool itself.
-QImage cutByMutool(const QString& pdf, const QRect& rect, double degrees, const QString& folder) {
+QImage cutByMutool(const QString& pdf, const QRect& rect, double degrees, int scale, const QString& folder) {
   const QString png = folder + "/source.png";
-  run("mutool", {"draw", "-q", "-r", "72", "-R", QString::number(-degrees), "-o", png, pdf, "1"}, {}, 60);
+  run("mutool", {"draw", "-q", "-r", QString::number(72 * scale), "-R", QString::number(-degrees), "-o", png, pdf, "1"}, {}, 60);
   const QImage all = QImage(png).convertToFormat(QImage::Format_RGB32);
-  return all.copy(rect.x(), all.height() - rect.y() - rect.height(), rect.width(), rect.height());
+  return all.copy(rect.x() * scale, all.height() - (rect.y() + rect.height()) * scale, rect.width() * scale, rect.height() * scale);
 }
 
 QJsonObject infoOf(const QString& path) {
@@ -145,6 +152,7 @@ Outcome outcomeOf(const Job& job) {
   Outcome outcome;
   const QTemporaryDir folder;
   const QRect rect = middleOf(sizeOf(job.file), job.degrees);
+  const int scale = scaleFor(rect.size());
   const QString crop = QString("%1,%2,%3,%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
   const auto converted = [&](const QString& name, const QStringList& more = {}) {
     const Ran ran = kit::norvex(QStringList{"convert", job.file, "-o", folder.filePath(name), "--quiet", "--rotate",
@@ -152,10 +160,10 @@ Outcome outcomeOf(const Job& job) {
     if (ran.exitCode != 0 && outcome.drawn) outcome.complaints << name + ": " + QString::fromUtf8(ran.err).trimmed();
     return ran.exitCode == 0 && !ran.crashed;
   };
-  if (!converted("screen.png", {"--background", "white"})) return outcome;
+  if (!converted("screen.png", {"--background", "white", "--dpi", QString::number(72 * scale)})) return outcome;
   outcome.drawn = true;
   const QImage screen = QImage(folder.filePath("screen.png")).convertToFormat(QImage::Format_RGB32);
-  if (screen.size() != rect.size()) outcome.complaints << QString("the screen's picture is %1 x %2").arg(screen.width()).arg(screen.height());
+  if (screen.size() != rect.size() * scale) outcome.complaints << QString("the screen's picture is %1 x %2").arg(screen.width()).arg(screen.height());
   double mostDifferent = kLargestDifference;
   if (converted("out.pdf")) {
     const QString pdf = folder.filePath("out.pdf");
@@ -165,12 +173,12 @@ Outcome outcomeOf(const Job& job) {
       if (box.size() != 4 || std::abs(box[i] - wanted[i]) > 0.01) outcome.complaints << "the page's box is not the rectangle";
     const bool inks = hasInks(pdf);
     if (inks) mostDifferent = kLargestInkDifference;
-    compare(outcome, screen, "pdftocairo", drawnBy("pdftocairo", pdf, folder.path()), kLargestDifference);
+    compare(outcome, screen, "pdftocairo", drawnBy("pdftocairo", pdf, scale, folder.path()), kLargestDifference);
     const bool beside = inks && job.file.endsWith(".pdf");
-    compare(outcome, beside ? cutByMutool(job.file, rect, job.degrees, folder.path()) : screen, "mutool",
-            drawnBy("mutool", pdf, folder.path()), beside ? kLargestDifference : mostDifferent);
+    compare(outcome, beside ? cutByMutool(job.file, rect, job.degrees, scale, folder.path()) : screen, "mutool",
+            drawnBy("mutool", pdf, scale, folder.path()), beside ? kLargestDifference : mostDifferent);
   }
-  if (converted("out.eps")) compare(outcome, screen, "gs", drawnBy("gs", folder.filePath("out.eps"), folder.path()), mostDifferent);
+  if (converted("out.eps")) compare(outcome, screen, "gs", drawnBy("gs", folder.filePath("out.eps"), scale, folder.path()), mostDifferent);
   outcome.complaints.removeAll(QString());
   return outcome;
 }

@@ -25,6 +25,19 @@ Error unreadable(GError* error) {
   return result;
 }
 
+// Poppler draws a frame around links, as a reader does in which they can be clicked. It is no part of the picture: what
+// is handed out and printed has none either.
+void hideLinks(PopplerPage* page) {
+  GList* annotations = poppler_page_get_annot_mapping(page);
+  for (GList* at = annotations; at; at = at->next) {
+    PopplerAnnot* annotation = static_cast<PopplerAnnotMapping*>(at->data)->annot;
+    if (poppler_annot_get_annot_type(annotation) != POPPLER_ANNOT_LINK) continue;
+    const unsigned hidden = unsigned(poppler_annot_get_flags(annotation)) | POPPLER_ANNOT_FLAG_HIDDEN;
+    poppler_annot_set_flags(annotation, PopplerAnnotFlag(hidden));
+  }
+  poppler_page_free_annot_mapping(annotations);
+}
+
 // Poppler draws into a space with its origin at the page's upper-left corner, y down, one unit of user space a unit;
 // the clip keeps what lies outside the page (and in a neighbouring pixel's share of its edge) unpainted.
 Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
@@ -60,6 +73,7 @@ Result<QImage> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
   if (request.page < 0 || request.page >= count) return noSuchPage(request.page, count);
   const PagePointer page(poppler_document_get_page(document_.get(), request.page));
   if (!page) return Error{ErrorKind::NotParsable, QStringLiteral("page %1 cannot be read").arg(request.page + 1)};
+  hideLinks(page.get());
   return paintImage(request, limits,
                     [&](cairo_t* context) { return paintPage(context, page.get(), shownSize); });
 }

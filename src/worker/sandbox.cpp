@@ -37,6 +37,9 @@ bool limit(__rlimit_resource resource, rlim_t value) {
   return ::setrlimit(resource, &wanted) == 0;
 }
 
+#ifdef NORVEX_SHADOW_MEMORY
+bool limitMemory(const PictureLimits&) { return true; }  // shadow memory takes terabytes of address space
+#else
 /// What the program and its libraries have mapped already: the caller's limit speaks of the document.
 rlim_t addressSpaceInUse() {
   QFile file(QStringLiteral("/proc/self/statm"));
@@ -45,15 +48,11 @@ rlim_t addressSpaceInUse() {
 }
 
 bool limitMemory(const PictureLimits& limits) {
-#ifdef NORVEX_SHADOW_MEMORY
-  Q_UNUSED(limits)
-  return true;  // shadow memory takes terabytes of address space
-#else
   // A second allocation arena would reserve 64 MiB for the thread that only reads messages.
   ::mallopt(M_ARENA_MAX, 1);
   return limit(RLIMIT_AS, addressSpaceInUse() + rlim_t(limits.memoryMiB) * kMiB);
-#endif
 }
+#endif
 
 /// Results are written to shared memory, to which this limit applies too; scratch files get as much.
 bool limitFiles(const PictureLimits& limits) {

@@ -3,6 +3,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QTemporaryDir>
 
 #include "cli/job.h"
@@ -49,5 +51,13 @@ class CommandLine {
  private:
   QTemporaryDir folder_;
 };
+
+/// The array that a run wrote to standard output.
+inline QJsonArray jsonOf(const CommandLine& line) {
+  QJsonParseError error;
+  const QJsonDocument document = QJsonDocument::fromJson(line.console.output, &error);
+  if (error.error != QJsonParseError::NoError) qWarning("not JSON: %s", line.console.output.constData());
+  return document.array();
+}
 
 }  // namespace norvex::testdata

@@ -14,13 +14,6 @@ using namespace norvex::testdata;
 
 namespace {
 
-QJsonArray jsonOf(const CommandLine& line) {
-  QJsonParseError error;
-  const QJsonDocument document = QJsonDocument::fromJson(line.console.output, &error);
-  if (error.error != QJsonParseError::NoError) qWarning("not JSON: %s", line.console.output.constData());
-  return document.array();
-}
-
 QString hashOf(const QByteArray& bytes) {
   return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
 }

@@ -216,6 +216,22 @@ class ConvertSystemTest : public QObject {
     QCOMPARE(bytesOf(file), QByteArray("old"));
   }
 
+  void aNameThatIsNoTextIsAFileLikeOthers() {
+    const QString script =
+        "n=$(printf 'gr\\374n'); cp \"$2\" \"$3/$n.eps\"; \"$1\" convert \"$3/$n.eps\" -o \"$3/$n.pdf\" && head -c 5 \"$3/$n.pdf\"; "
+        "\"$1\" convert \"$3/$n.eps\" -o \"$3/$n.pdf\"; code=$?; rm \"$3/$n.eps\" \"$3/$n.pdf\"; exit $code";
+    const Ran ran = run("sh", {"-c", script, "sh", kit::norvexProgram(), kit::sample("lighthouse.eps"), folder_->path()});
+    QCOMPARE(ran.out, QByteArray("%PDF-"));
+    QCOMPARE(ran.exitCode, 4);
+    QVERIFY2(ran.err.contains("/gr\\xfcn.pdf exists already"), ran.err);
+    QVERIFY(QDir(folder_->path()).isEmpty());
+  }
+  void aMistypedCommandNeedsNoDisplay() {
+    const Ran ran = kit::run(kit::norvexProgram(), {"convret", "x"}, {}, 60, {"DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM="});
+    QCOMPARE(ran.exitCode, 2);
+    QCOMPARE(ran.err, QByteArray("norvex: there is no command convret, and no file of that name, perhaps convert is meant; "
+                                 "norvex --help shows what there is\n"));
+  }
   void theInputIsKept() {
     const QString file = write("a.eps", kToldEps);
     const Ran ran = kit::norvex({"convert", file, "-o", path("../" + QFileInfo(folder_->path()).fileName() + "/a.eps"), "--force"});

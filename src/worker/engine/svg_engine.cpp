@@ -109,16 +109,16 @@ QStringList SvgEngine::warnings() const {
   const auto warn = [&](bool when, const QString& text) {
     if (when) list << text;
   };
-  warn(text_.handedOnAsUtf8, QStringLiteral("The text is in %1 and is handed on as UTF-8.")
+  warn(text_.handedOnAsUtf8, QStringLiteral("the text is in %1 and is handed on as UTF-8")
                                  .arg(QString::fromUtf8(text_.declaredName.left(40))));
   warn(geometry_.badWidth || geometry_.badHeight,
-       QStringLiteral("The document's width or height is not a length and is passed over."));
-  warn(geometry_.badViewBox, QStringLiteral("The document's view box is not readable and is passed over."));
+       QStringLiteral("the document's width or height is not a length and is passed over"));
+  warn(geometry_.badViewBox, QStringLiteral("the document's view box is not readable and is passed over"));
   warn(inspection_.outsideReferences > 0,
-       QStringLiteral("The document refers to other files, which are never loaded (%1 references).")
+       QStringLiteral("the document refers to other files, which are never loaded (references: %1)")
            .arg(inspection_.outsideReferences));
-  warn(inspection_.hasScript, QStringLiteral("The document has scripts, which are never run."));
-  warn(inspection_.hasAnimation, QStringLiteral("The document is animated; it is shown as it stands at rest."));
+  warn(inspection_.hasScript, QStringLiteral("the document has scripts, which are never run"));
+  warn(inspection_.hasAnimation, QStringLiteral("the document is animated and is shown as it stands at rest"));
   return list;
 }
 
@@ -187,10 +187,10 @@ BytesReply SvgEngine::pdfReport() const {
   report.regionsRasterised = inspection_.filters + inspection_.masks;
   if (report.regionsRasterised > 0) report.rasterisedDpi = svgEffectsDpi(pixels_);
   if (inspection_.filters > 0)
-    report.warnings << QStringLiteral("What is drawn through a filter (%1 elements) is held as an image.")
+    report.warnings << QStringLiteral("what is drawn through a filter (elements: %1) is held as an image")
                            .arg(inspection_.filters);
   if (inspection_.masks > 0)
-    report.warnings << QStringLiteral("The masks (%1 elements) are held as images; what they mask is not.")
+    report.warnings << QStringLiteral("masks (elements: %1) are held as images, what they mask is not")
                            .arg(inspection_.masks);
   return report;
 }

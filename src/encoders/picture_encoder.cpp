@@ -114,8 +114,9 @@ QByteArray PictureEncoder::postScriptDataWithPreview() {
   if (isEps(imageRep_.get()) && handsOnSource()) {
     postScript = sourceTextOfEps().toUtf8();
     if (postScript.isEmpty()) {
-      report_.warnings += QStringLiteral(
+      report_.shortcoming = QStringLiteral(
           "the source could not be read as text, so the file holds a preview and no PostScript");
+      addWarnings({report_.shortcoming});
     }
   } else {
     postScript = postScriptData();

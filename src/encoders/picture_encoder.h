@@ -22,6 +22,7 @@ struct EncodingReport {
   double rasterisedAreaShare = 0;  ///< 0 … 1 of the picture
   double rasterisedDpi = 0;        ///< of the coarsest of them; 0: there is none, or it is not known
   QStringList warnings;            ///< one plain sentence each
+  QString shortcoming;             ///< the warning that a part of the source is not in the bytes; empty: none
   std::optional<Error> error;      ///< why there are no bytes
 };
 

@@ -65,7 +65,7 @@ QByteArray WindowProducers::gifData(const std::shared_ptr<NSImageRep>& imageRep)
 }
 
 QString WindowProducers::lastShortcoming() const {
-  return lastReport_.warnings.join(QStringLiteral(". "));
+  return lastReport_.shortcoming;
 }
 
 }  // namespace norvex

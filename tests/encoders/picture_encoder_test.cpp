@@ -147,9 +147,22 @@ class PictureEncoderTest : public QObject {
     QCOMPARE(encoder.report().warnings,
              QStringList{QStringLiteral(
                  "the source could not be read as text, so the file holds a preview and no PostScript")});
+    QCOMPARE(encoder.report().shortcoming, encoder.report().warnings.first());
     PictureEncoder epsi = encoderOf(eps(sourceEps + "\xFF\x80\xFD\xA0\xFF"));
     QVERIFY(epsi.epsiData().isEmpty());
     QVERIFY(epsi.report().error);
+  }
+
+  void aFontThatIsMissingIsAWarningAndNothingThatTheFileLacks() {
+    MemoryPicture memory = picture();
+    memory.drawingRemarks = {"the font A is missing, B stands in for it"};
+    service_->memory.setPicture(memory);
+    const auto rep = eps();
+    PictureEncoder encoder = encoderOf(rep);
+    QVERIFY(!encoder.postScriptDataWithPreview().isEmpty());
+    QVERIFY(!encoder.pngData(rep).isEmpty());
+    QCOMPARE(encoder.report().warnings, memory.drawingRemarks);  // once
+    QCOMPARE(encoder.report().shortcoming, QString());
   }
 
   void aPreviewIsInsertedAfterTheComments() {

@@ -16,10 +16,20 @@
 namespace norvex {
 namespace {
 
+/// Whether nobody will take a PDF of that name for something else. A name without an extension says nothing.
+bool isNamedAsPdf(const QString& output) {
+  const QFileInfo file(output);
+  return file.completeBaseName().isEmpty() || file.suffix().isEmpty() ||
+         !file.suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive);
+}
+
 /// What is wrong with the arguments; empty: nothing.
 QString complaintAboutPrinting(const Arguments& arguments) {
   if (arguments.has(Option::Printer) == arguments.has(Option::Output))
     return QStringLiteral("give either a printer (--printer NAME) or a file to write (-o OUT.pdf)");
+  if (!isNamedAsPdf(arguments.values.value(Option::Output)))
+    return QStringLiteral("the pages are written as PDF: %1 needs a name that ends in .pdf")
+        .arg(arguments.values.value(Option::Output));
   if (arguments.has(Option::Landscape) && arguments.has(Option::Portrait))
     return QStringLiteral("the paper cannot both lie and stand");
   if (arguments.has(Option::Paper) && !paperNamed(arguments.values.value(Option::Paper))) {

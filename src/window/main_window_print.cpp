@@ -45,7 +45,12 @@ void MainWindowController::connectPrinting() {
   print->setObjectName(QStringLiteral("printAction"));
   print->setShortcut(QKeySequence::Print);
   connect(print, &QAction::triggered, this, [this] { printDocument(); });
-  ui_->fileMenu->insertActions(ui_->closeAction, {pageLayout, print});
+  // What the toolbar's item does, for those who have no mouse.
+  auto* printPart = new QAction(localizedString("Print Selected or Visible Pa&rt…"), window_);
+  printPart->setObjectName(QStringLiteral("printPartAction"));
+  printPart->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_P);
+  connect(printPart, &QAction::triggered, this, [this, printPart] { doPrinting(printPart); });
+  ui_->fileMenu->insertActions(ui_->closeAction, {pageLayout, print, printPart});
   ui_->fileMenu->insertSeparator(ui_->closeAction);
 }
 

@@ -13,6 +13,10 @@
 
 #include <cups/cups.h>
 
+#include <signal.h>
+
+#include <algorithm>
+
 #include "kit/program.h"
 
 namespace norvex::outside {
@@ -26,12 +30,16 @@ class PrintServer {
     admin_ = QStandardPaths::findExecutable("lpadmin", {"/usr/sbin", "/usr/bin", "/sbin"});
     if (program.isEmpty() || admin_.isEmpty()) return QStringLiteral("CUPS's server is not installed");
     port_ = freePort();
+    QFile::setPermissions(folder_.path(), QFile::permissions(folder_.path()) | QFile::ReadOther | QFile::ExeOther);  // for the filters' user
     for (const char* each : {"state/certs", "cache", "spool/tmp", "out"}) QDir(folder_.path()).mkpath(each);
-    write("cupsd.conf", QStringLiteral("LogLevel warn\nMaxLogSize 0\nListen 127.0.0.1:%1\nBrowsing Off\nDefaultAuthType None\n"
+    write("cupsd.conf", QStringLiteral("LogLevel warn\nAccessLogLevel all\nMaxLogSize 0\nListen 127.0.0.1:%1\nBrowsing Off\nDefaultAuthType None\n"
                                        "WebInterface No\nPreserveJobFiles Yes\nPreserveJobHistory Yes\n"
                                        "<Location />\nAllow all\n</Location>\n<Location /admin>\nAllow all\n</Location>\n"
                                        "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n<Limit All>\nAllow all\n"
-                                       "</Limit>\n</Policy>\n")
+                                       "</Limit>\n</Policy>\n"
+                                       "<Policy locked>\nJobPrivateAccess all\nJobPrivateValues none\n"
+                                       "<Limit Create-Job Print-Job>\nAuthType Basic\nRequire valid-user\n</Limit>\n"
+                                       "<Limit All>\nAllow all\n</Limit>\n</Policy>\n")
                             .arg(port_));
     QString files = QStringLiteral("FileDevice Yes\nLogFilePerm 0644\nServerRoot %1\nStateDir %1/state\nCacheDir %1/cache\n"
                                    "RequestRoot %1/spool\nTempDir %1/spool/tmp\nAccessLog %1/access_log\n"
@@ -53,6 +61,7 @@ class PrintServer {
 
   void stop() {
     if (server_.state() == QProcess::NotRunning) return;
+    goOn();
     server_.terminate();
     if (!server_.waitForFinished(10000)) server_.kill();
     server_.waitForFinished();
@@ -66,9 +75,18 @@ class PrintServer {
   [[nodiscard]] bool addPrinter(const QString& name) {
     return tell(admin_, {"-p", name, "-E", "-v", "file:" + folder_.filePath("out/" + name)});
   }
+  /// A queue that takes PDF as the filters for its description make it.
+  [[nodiscard]] bool addPrinter(const QString& name, const QString& description) {
+    return tell(admin_, {"-p", name, "-E", "-v", "file:" + folder_.filePath("out/" + name), "-P", description});
+  }
   [[nodiscard]] bool makeDefault(const QString& name) { return tell(admin_, {"-d", name}); }
   [[nodiscard]] bool removePrinter(const QString& name) { return tell(admin_, {"-x", name}); }
   [[nodiscard]] bool refuseJobs(const QString& name) { return tell(tool("cupsreject"), {name}); }
+  [[nodiscard]] bool wantPassword(const QString& name) { return tell(admin_, {"-p", name, "-o", "printer-op-policy=locked"}); }
+  [[nodiscard]] bool denyEverybody(const QString& name) { return tell(admin_, {"-p", name, "-u", "allow:nobody-at-all"}); }
+  /// Takes connections and answers nothing until it goes on.
+  void pause() { ::kill(pid_t(server_.processId()), SIGSTOP); }
+  void goOn() { ::kill(pid_t(server_.processId()), SIGCONT); }
   [[nodiscard]] bool stopPrinter(const QString& name) { return tell(tool("cupsdisable"), {name}); }
 
   /// What was handed over for a job, in the order of the jobs.
@@ -78,9 +96,26 @@ class PrintServer {
     for (const QString& name : spool.entryList({"d*-001"}, QDir::Files, QDir::Name)) paths << spool.filePath(name);
     return paths;
   }
+  /// What came out of a queue's printer at last.
+  [[nodiscard]] QString printed(const QString& name) const { return folder_.filePath("out/" + name); }
+  /// How often something was asked for, as the protocol calls it.
+  [[nodiscard]] int requests(const QByteArray& operation) const {
+    QFile log(folder_.filePath("access_log"));
+    return log.open(QIODevice::ReadOnly) ? int(log.readAll().count(' ' + operation + ' ')) : 0;
+  }
+  /// How many jobs there are, all or those that are not over.
+  [[nodiscard]] int jobs(int which = CUPS_WHICHJOBS_ALL) const {
+    http_t* const http = connect();
+    if (!http) return -1;
+    cups_job_t* jobs = nullptr;
+    const int count = cupsGetJobs2(http, &jobs, nullptr, 0, which);
+    cupsFreeJobs(std::max(count, 0), jobs);
+    httpClose(http);
+    return count;
+  }
   /// The title of a job as the server tells it; empty when there is no such job.
   [[nodiscard]] QString jobTitle(int id) const {
-    http_t* const http = httpConnect2("127.0.0.1", port_, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1, 5000, nullptr);
+    http_t* const http = connect();
     if (!http) return {};
     cups_job_t* jobs = nullptr;
     const int count = cupsGetJobs2(http, &jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
@@ -93,6 +128,9 @@ class PrintServer {
   }
 
  private:
+  [[nodiscard]] http_t* connect() const {
+    return httpConnect2("127.0.0.1", port_, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1, 5000, nullptr);
+  }
   static quint16 freePort() {
     QTcpServer server;
     server.listen(QHostAddress::LocalHost);

@@ -116,6 +116,37 @@ class XSession {
     return QString::fromLatin1(run("xdotool", {"search", "--onlyvisible", "--name", form}).out)
         .split(u'\n', Qt::SkipEmptyParts);
   }
+  /// Where the window is on the screen; null when there is none.
+  QRect windowRect(const QString& title) {
+    const QStringList windows = windowsOf(title);
+    if (windows.isEmpty()) return {};
+    const QString said = QString::fromLatin1(run("xdotool", {"getwindowgeometry", "--shell", windows.constLast()}).out);
+    const auto number = [&](const char* name) {
+      const QRegularExpression form(QStringLiteral("(?:^|\n)%1=(-?[0-9]+)").arg(QLatin1String(name)));
+      return form.match(said).captured(1).toInt();
+    };
+    return {number("X"), number("Y"), number("WIDTH"), number("HEIGHT")};
+  }
+  /// Types into one field of the window's inspector after the other, found with Tab as a user without a mouse would,
+  /// until `done` holds; whether it did. The inspector comes and goes beside the window.
+  bool typeInInspector(const QString& title, const QString& text, const std::function<bool()>& done) {
+    activate(title);
+    key("ctrl+i");
+    if (!activate(title + " Inspector")) return false;
+    xdo({"windowmove", "--sync", windowsOf(title + " Inspector").value(0), "20", "40"});
+    waitUntil([&] { return !done(); }, 5);
+    bool is = false;
+    for (int i = 0; i < 12 && !is; ++i) {
+      key("Tab");  // marks the whole text of a field
+      xdo({"type", text});
+      key("Return");
+      is = waitUntil(done, 1);
+    }
+    activate(title);
+    key("ctrl+i");  // away with it: it may lie over the picture
+    waitUntil([&] { return windowsOf(title + " Inspector").isEmpty(); }, 5);
+    return is;
+  }
   bool isAlive() { return program_.state() == QProcess::Running && !program_.waitForFinished(1); }
   qint64 id() const { return program_.processId(); }
   QByteArray said() { return program_.readAll(); }

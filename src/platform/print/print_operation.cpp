@@ -31,7 +31,7 @@ bool NSPrintOperation::runOperation() {
   }
   const PrintSource source = view_->printSource();
   title_ = source.jobTitle;
-  if (interaction) interaction->jobDidBegin(title_, cancel_);
+  if (interaction) job_ = interaction->jobDidBegin(title_, cancel_);
   const auto work = [source, info = printInfo_, services = services_, cancel = cancel_] {
     return runJob(source, info, *services.pictures, *services.spooler, cancel);
   };
@@ -49,7 +49,7 @@ bool NSPrintOperation::runOperation() {
 
 void NSPrintOperation::end(const Result<void>& result) {
   result_ = result;
-  if (services_.interaction) services_.interaction->jobDidEnd(title_, result);
+  if (services_.interaction) services_.interaction->jobDidEnd(job_, title_, result);
   emit finished();
 }
 

@@ -50,10 +50,11 @@ class PrintInteraction {
   /// Opens the page-layout sheet on the window with a copy of these settings and returns; `end` is told the sheet's
   /// settings and 1 when it was confirmed, 0 otherwise.
   virtual void beginPageLayout(const NSPrintInfo& printInfo, std::function<void(const NSPrintInfo&, int)> end) = 0;
-  /// A job runs now; cancelling the token ends it.
-  virtual void jobDidBegin(const QString& title, const CancelToken& cancel) = 0;
-  /// It is printed or written, or it failed with a plain sentence.
-  virtual void jobDidEnd(const QString& title, const Result<void>& result) = 0;
+  /// A job runs now; cancelling the token ends it. Gives the job a number of its own: several may run at a time, under
+  /// one title.
+  virtual int jobDidBegin(const QString& title, const CancelToken& cancel) = 0;
+  /// The job of that number is printed or written, or it failed with a plain sentence.
+  virtual void jobDidEnd(int job, const QString& title, const Result<void>& result) = 0;
 };
 
 /// What a job needs besides the view; none is owned, all outlive the operation.
@@ -105,6 +106,7 @@ class NSPrintOperation final : public QObject {
   bool showsPrintPanel_ = true, canSpawnSeparateThread_ = false;
   CancelToken cancel_;
   QString title_;
+  int job_ = 0;  ///< what the interaction calls it
   std::unique_ptr<QThread> thread_;
   std::optional<Result<void>> result_;
 };

@@ -29,14 +29,15 @@ struct PrintTicket {
   bool landscape = false;
 };
 
-/// Thread-safe. Calls block, but no longer than some seconds where nobody answers. Errors are plain sentences:
-/// CannotWrite when the service cannot be reached, there is no such printer, it takes no jobs, or the job could not be
-/// handed over whole (then there is none); Cancelled.
+/// Thread-safe. Calls block, but no longer than some seconds where nobody answers, and come back soon when they are
+/// cancelled. Errors are plain sentences: CannotWrite when the service cannot be reached or does not answer, there is
+/// no such printer, it takes no jobs, wants a password, or the job could not be handed over whole (then there is none);
+/// Cancelled.
 class PrintSpooler {
  public:
   virtual ~PrintSpooler() = default;
 
-  virtual Result<QList<Printer>> printers() = 0;
+  virtual Result<QList<Printer>> printers(const CancelToken& cancel = {}) = 0;
   /// Hands a PDF over; the job's number.
   virtual Result<int> print(const PrintTicket& ticket, const QByteArray& pdf, const CancelToken& cancel = {}) = 0;
 };
@@ -50,7 +51,7 @@ class PrintSpooler {
 /// No print service at all.
 class NullPrintSpooler final : public PrintSpooler {
  public:
-  Result<QList<Printer>> printers() override { return unreachable(); }
+  Result<QList<Printer>> printers(const CancelToken&) override { return unreachable(); }
   Result<int> print(const PrintTicket&, const QByteArray&, const CancelToken&) override { return unreachable(); }
 
   [[nodiscard]] static Error unreachable() {

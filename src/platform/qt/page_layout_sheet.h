@@ -5,6 +5,7 @@
 
 #include "platform/print/print_info.h"
 
+class QPushButton;
 class QVBoxLayout;
 
 namespace norvex {
@@ -32,6 +33,7 @@ class PageLayoutSheet final : public QDialog {
   PageLayoutControls* controls_;
   PageLayoutPreview* preview_;
   QVBoxLayout* column_;
+  QPushButton* ok_ = nullptr;
   QList<ZyPageLayoutAccessory*> accessories_;
 };
 

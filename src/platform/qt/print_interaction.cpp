@@ -1,6 +1,9 @@
 #include "platform/qt/print_interaction.h"
 
 #include <QProgressDialog>
+#include <QTimer>
+
+#include <limits>
 
 #include "platform/localized_string.h"
 #include "platform/qt/alert.h"
@@ -12,6 +15,7 @@ namespace norvex {
 namespace {
 
 constexpr int kQuickMs = 300;
+constexpr int kProgressWidth = 360;
 
 }  // namespace
 
@@ -27,29 +31,32 @@ bool QtPrintInteraction::runPrintPanel(NSPrintOperation& operation) {
   return panel.exec() == QDialog::Accepted;
 }
 
-void QtPrintInteraction::beginPageLayout(const NSPrintInfo& printInfo, std::function<void(const NSPrintInfo&, int)> end) {
+void QtPrintInteraction::beginPageLayout(const NSPrintInfo& printInfo,
+                                         std::function<void(const NSPrintInfo&, int)> end) {
   auto* sheet = new PageLayoutSheet(printInfo, window_);
   sheet->setAttribute(Qt::WA_DeleteOnClose);
   sheet->addAccessoryController(new ZyPageLayoutAccessory);
-  QObject::connect(sheet, &QDialog::finished, sheet, [sheet, end](int code) { end(sheet->printInfo(), code == QDialog::Accepted ? 1 : 0); });
+  QObject::connect(sheet, &QDialog::finished, sheet,
+                   [sheet, end](int code) { end(sheet->printInfo(), code == QDialog::Accepted ? 1 : 0); });
   sheet->open();
 }
 
-void QtPrintInteraction::jobDidBegin(const QString& title, const CancelToken& cancel) {
-  auto* dialog = new QProgressDialog(localizedString("Printing “%1”…").arg(title), localizedString("Cancel"), 0, 0, window_);
-  dialog->setWindowTitle(localizedString("Print"));
-  dialog->setMinimumDuration(kQuickMs);
+int QtPrintInteraction::jobDidBegin(const QString& title, const CancelToken& cancel) {
+  auto* dialog = new QProgressDialog(localizedString("Printing “%1”…").arg(title), localizedString("Cancel"),
+                                     0, 0, window_);
+  dialog->setWindowTitle(localizedString("Printing"));
+  dialog->setMinimumWidth(kProgressWidth);
+  // Its own patience does not count for a bar without an end.
+  dialog->setMinimumDuration(std::numeric_limits<int>::max());
+  QTimer::singleShot(kQuickMs, dialog, &QWidget::show);
   dialog->setAutoClose(false);
   QObject::connect(dialog, &QProgressDialog::canceled, dialog, [cancel] { cancel.cancel(); });
-  progress_.insert(title, dialog);
+  progress_.insert(++lastJob_, dialog);
+  return lastJob_;
 }
 
-void QtPrintInteraction::jobDidEnd(const QString& title, const Result<void>& result) {
-  if (const auto dialog = progress_.take(title)) {
-    dialog->disconnect();
-    dialog->hide();
-    dialog->deleteLater();
-  }
+void QtPrintInteraction::jobDidEnd(int job, const QString& title, const Result<void>& result) {
+  delete progress_.take(job).data();
   if (result || result.error().kind == ErrorKind::Cancelled) return;
   const QString& message = result.error().message;
   Alert alert;

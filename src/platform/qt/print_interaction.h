@@ -24,15 +24,16 @@ class QtPrintInteraction final : public PrintInteraction {
   bool runPrintPanel(NSPrintOperation& operation) override;
   void beginPageLayout(const NSPrintInfo& printInfo, std::function<void(const NSPrintInfo&, int)> end) override;
   /// Shows progress with Cancel when the job takes longer than a moment.
-  void jobDidBegin(const QString& title, const CancelToken& cancel) override;
+  int jobDidBegin(const QString& title, const CancelToken& cancel) override;
   /// Tells a failure in one alert; a cancelled job is none.
-  void jobDidEnd(const QString& title, const Result<void>& result) override;
+  void jobDidEnd(int job, const QString& title, const Result<void>& result) override;
 
  private:
   PrintSpooler& spooler_;
   QPointer<QWidget> window_;
   AlertPresenter* alerts_;
-  QMultiHash<QString, QPointer<QProgressDialog>> progress_;  ///< by the job's title
+  QHash<int, QPointer<QProgressDialog>> progress_;  ///< by the job's number
+  int lastJob_ = 0;
 };
 
 }  // namespace norvex

@@ -1,5 +1,6 @@
 #include "platform/qt/print_panel.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -23,6 +24,7 @@
 #include "platform/print/print_job.h"
 #include "platform/qt/page_layout_controls.h"
 #include "platform/qt/page_layout_preview.h"
+#include "platform/qt/quiet_text.h"
 
 namespace norvex {
 namespace {
@@ -44,7 +46,7 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
       spooler_(spooler),
       info_(operation.printInfo()),
       source_(operation.view().printSource()),
-      headerAndFooter_(new QCheckBox(localizedString("Header and foo&ter"))) {
+      headerAndFooter_(new QCheckBox(localizedString("Hea&der and footer"))) {
   setWindowTitle(localizedString("Print “%1”").arg(source_.jobTitle));
   setWindowModality(Qt::WindowModal);
   const int options = operation.printPanel().options();
@@ -64,13 +66,16 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
   print_ = buttons->addButton(localizedString("&Print"), QDialogButtonBox::AcceptRole);
   print_->setObjectName(QStringLiteral("print"));
-  print_->setDefault(true);
   box->addWidget(buttons);
+  // Only in the dialog does it become the one button for Return; Cancel shall not stand in while it is disabled.
+  print_->setDefault(true);
+  buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::accepted, this, &PrintPanel::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(layout_, &PageLayoutControls::changed, this, &PrintPanel::takeChoices);
   connect(headerAndFooter_, &QCheckBox::clicked, this, &PrintPanel::takeChoices);
-  connect(&printersWatcher_, &QFutureWatcherBase::finished, this, [this] { showPrinters(printersWatcher_.result()); });
+  connect(&printersWatcher_, &QFutureWatcherBase::finished, this,
+          [this] { showPrinters(printersWatcher_.result()); });
   connect(&drawingWatcher_, &QFutureWatcherBase::finished, this, &PrintPanel::takeDrawing);
   settle_.setSingleShot(true);
   connect(&settle_, &QTimer::timeout, this, &PrintPanel::drawPage);
@@ -100,9 +105,11 @@ void PrintPanel::addPrinter(QFormLayout* form) {
   state_ = new QLabel;
   state_->setObjectName(QStringLiteral("printerState"));
   state_->setWordWrap(true);
+  makeQuiet(*state_);
   form->addRow(localizedString("P&rinter:"), printer_);
   form->addRow(QString(), state_);
   connect(printer_, &QComboBox::activated, this, [this] {
+    chosen_ = true;
     info_.setPrinterName(savesToFile() ? QString() : printer_->currentData().toString());
     showState();
   });
@@ -132,10 +139,12 @@ void PrintPanel::addPages(QFormLayout* form) {
   auto* range = new QWidget;
   auto* row = new QHBoxLayout(range);
   row->setContentsMargins(0, 0, 0, 0);
-  for (QWidget* each : std::initializer_list<QWidget*>{allPages_, somePages_, firstPage_, new QLabel(localizedString("to")), lastPage_})
+  for (QWidget* each : std::initializer_list<QWidget*>{allPages_, somePages_, firstPage_,
+                                                       new QLabel(localizedString("to")), lastPage_})
     row->addWidget(each);
   row->addStretch();
-  for (QRadioButton* each : {allPages_, somePages_}) connect(each, &QRadioButton::clicked, this, &PrintPanel::takeChoices);
+  for (QRadioButton* each : {allPages_, somePages_})
+    connect(each, &QRadioButton::clicked, this, &PrintPanel::takeChoices);
   for (QSpinBox* each : {firstPage_, lastPage_})
     connect(each, &QSpinBox::valueChanged, this, [this] {
       somePages_->setChecked(true);
@@ -177,38 +186,55 @@ QWidget* PrintPanel::previewColumn() {
 }
 
 void PrintPanel::fetchPrinters() {
-  if (printersWatcher_.isRunning()) return;
-  printersWatcher_.setFuture(QtConcurrent::run([spooler = &spooler_] { return spooler->printers(); }));
+  if (printersWatcher_.isRunning() || printer_->view()->isVisible()) return;
+  printersWatcher_.setFuture(
+      QtConcurrent::run([spooler = &spooler_, cancel = ending_] { return spooler->printers(cancel); }));
 }
 
 void PrintPanel::showPrinters(const Result<QList<Printer>>& printers) {
+  if (printer_->view()->isVisible()) return;  // nothing moves under the pointer of somebody who chooses
   const bool first = !printersKnown_;
   const QVariant chosen = printer_->currentData();
   printers_ = printers ? *printers : QList<Printer>();
   printersProblem_ = printers ? QString() : sentence(printers.error().message);
   printersKnown_ = true;
+  const QString title = printer_->currentText();
   while (printer_->count() > 1) printer_->removeItem(0);
   int place = 0;
-  QString wanted = first ? info_.printerName() : chosen.toString();
-  for (const Printer& printer : printers_) {
-    printer_->insertItem(place++, printer.description, printer.name);
-    if (first && wanted.isEmpty() && printer.isDefault) wanted = printer.name;
+  for (const Printer& printer : printers_) printer_->insertItem(place++, printer.description, printer.name);
+  int index = printer_->findData(first && !chosen_ ? firstChoice() : chosen.toString());
+  if (index < 0 && !first) {  // nobody chose another one, so it stays until somebody does
+    printer_->insertItem(0, title, chosen);
+    index = 0;
   }
-  const int index = printer_->findData(first && wanted.isEmpty() && !printers_.isEmpty() ? printers_.first().name : wanted);
   printer_->setCurrentIndex(index < 0 ? printer_->count() - 1 : index);
   info_.setPrinterName(savesToFile() ? QString() : printer_->currentData().toString());
   showState();
 }
 
-bool PrintPanel::savesToFile() const { return printer_->currentData().toString() == kFileItem; }
+QString PrintPanel::firstChoice() const {
+  QString choice = printers_.isEmpty() ? QString() : printers_.first().name;
+  for (const Printer& printer : printers_)
+    if (printer.isDefault) choice = printer.name;
+  for (const Printer& printer : printers_)
+    if (printer.name == info_.printerName()) choice = printer.name;
+  return choice;
+}
+
+bool PrintPanel::savesToFile() const {
+  return printer_->currentData().toString() == kFileItem;
+}
 
 void PrintPanel::showState() {
   const bool file = savesToFile();
-  print_->setText(file ? localizedString("Sa&ve…") : localizedString("&Print"));
-  if (copies_) copies_->setEnabled(!file);
-  bool usable = true;
+  const bool waiting =
+      !printersKnown_ && !chosen_;  // Return shall not mean a file because the printers are slow
+  print_->setText(file && !waiting ? localizedString("Sa&ve…") : localizedString("&Print"));
+  if (copies_) copies_->setEnabled(waiting || !file);
+  bool usable = file && !waiting;
   QString text = !printersKnown_               ? localizedString("Looking for printers…")
                  : !printersProblem_.isEmpty() ? printersProblem_
+                 : !file                       ? localizedString("This printer is no longer there.")
                  : printers_.isEmpty()         ? localizedString("There is no printer.")
                                                : localizedString("The pages become a PDF file.");
   for (const Printer& printer : printers_)
@@ -233,8 +259,10 @@ void PrintPanel::takeChoices() {
       each->setRange(1, std::max(1, pageCount()));
       if (wasLast || (each == lastPage_ && allPages_->isChecked())) each->setValue(each->maximum());
     }
-    if (somePages_->isChecked()) info_.setPageRange(firstPage_->value(), std::max(firstPage_->value(), lastPage_->value()));
-    else info_.setPrintsAllPages();
+    if (somePages_->isChecked())
+      info_.setPageRange(firstPage_->value(), std::max(firstPage_->value(), lastPage_->value()));
+    else
+      info_.setPrintsAllPages();
   }
   showState();
   if (pages) return showPage(page_);
@@ -260,8 +288,8 @@ void PrintPanel::drawPage() {
   const QSize pixels = preview_->paperPixels();
   if (pixels.isEmpty()) return;
   PageImageRequest request{source_, info_, picture_, page_, pixels};
-  drawingWatcher_.setFuture(
-      QtConcurrent::run([request, pictures = operation_.services().pictures, cancel = ending_]() mutable -> Drawn {
+  drawingWatcher_.setFuture(QtConcurrent::run(
+      [request, pictures = operation_.services().pictures, cancel = ending_]() mutable -> Drawn {
         if (request.picture.isEmpty()) {
           const Result<QByteArray> picture = pictureOf(request.source, cancel);
           if (!picture) return {{}, {}, picture.error().message};
@@ -277,8 +305,15 @@ void PrintPanel::takeDrawing() {
   const Drawn drawn = drawingWatcher_.result();
   picture_ = drawn.picture;
   if (std::exchange(drawAgain_, false)) return drawPage();
-  if (drawn.problem.isEmpty()) preview_->setImage(drawn.image);
-  else preview_->setProblem(sentence(drawn.problem));
+  if (drawn.problem.isEmpty())
+    preview_->setImage(drawn.image);
+  else
+    preview_->setProblem(sentence(drawn.problem));
+}
+
+void PrintPanel::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && state_) makeQuiet(*state_);
 }
 
 void PrintPanel::accept() {

@@ -32,8 +32,9 @@ namespace norvex {
 class PageLayoutControls;
 class PageLayoutPreview;
 
-/// The operation's settings and its pages as they will be printed. What is chosen is written into the operation when
-/// the panel is accepted. The printers and the previews are fetched on other threads. Main thread.
+/// The operation's settings and its pages as they will be printed. What is chosen is written into the
+/// operation when the panel is accepted. The printers and the previews are fetched on other threads. Main
+/// thread.
 class PrintPanel final : public QDialog {
   Q_OBJECT
  public:
@@ -48,7 +49,13 @@ class PrintPanel final : public QDialog {
   /// Asks for the file in which the pages are saved; a test may put its own answer.
   std::function<QString(const QString& suggestion)> askForFile;
 
+  /// Asks for the printers again, on another thread.
+  void fetchPrinters();
+
   void accept() override;
+
+ protected:
+  void changeEvent(QEvent* event) override;
 
  private:
   struct Drawn {
@@ -60,9 +67,10 @@ class PrintPanel final : public QDialog {
   void addCopies(QFormLayout* form);
   void addPages(QFormLayout* form);
   QWidget* previewColumn();
-  void fetchPrinters();
   void showPrinters(const Result<QList<Printer>>& printers);
   void showState();
+  /// The settings' printer, where it is gone the default one, without that the first.
+  [[nodiscard]] QString firstChoice() const;
   [[nodiscard]] bool savesToFile() const;
   void takeChoices();
   void showPage(int page);
@@ -92,7 +100,7 @@ class PrintPanel final : public QDialog {
   QPushButton* print_ = nullptr;
 
   QList<Printer> printers_;
-  bool printersKnown_ = false;
+  bool printersKnown_ = false, chosen_ = false;
   QString printersProblem_;
   QFutureWatcher<Result<QList<Printer>>> printersWatcher_;
   QFutureWatcher<Drawn> drawingWatcher_;

@@ -2,12 +2,12 @@
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QFormLayout>
 #include <QGridLayout>
-#include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 #include "platform/localized_string.h"
 
@@ -17,30 +17,38 @@ namespace {
 constexpr double kPointsPerInch = 72, kPointsPerMillimetre = 72 / 25.4;
 constexpr double kLargestShown = 1000 * kPointsPerMillimetre;
 
-bool measuresInInches() { return QLocale().measurementSystem() == QLocale::ImperialUSSystem; }
+bool measuresInInches() {
+  return QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+}
 
 }  // namespace
 
 ZyPageLayoutAccessory::ZyPageLayoutAccessory(QWidget* parent)
     : QWidget(parent),
-      horizontally_(new QCheckBox(localizedString("Centre &horizontally"))),
-      vertically_(new QCheckBox(localizedString("Centre &vertically"))),
-      headerAndFooter_(new QCheckBox(localizedString("Header and foo&ter"))),
+      horizontally_(new QCheckBox(localizedString("&Horizontally"))),
+      vertically_(new QCheckBox(localizedString("&Vertically"))),
+      headerAndFooter_(new QCheckBox(localizedString("Hea&der and footer"))),
       pointsPerUnit_(measuresInInches() ? kPointsPerInch : kPointsPerMillimetre) {
-  auto* box = new QVBoxLayout(this);
-  box->setContentsMargins(0, 0, 0, 0);
-  auto* margins = new QGroupBox(localizedString("Margins"));
-  auto* grid = new QGridLayout(margins);
+  auto* form = new QFormLayout(this);
+  form->setContentsMargins(0, 0, 0, 0);
+  auto* grid = new QGridLayout;
   addMargins(grid);
-  box->addWidget(margins);
+  form->addRow(localizedString("Margins:"), grid);
+  auto* centring = new QHBoxLayout;
+  centring->addWidget(horizontally_);
+  centring->addWidget(vertically_);
+  centring->addStretch();
+  form->addRow(localizedString("Centred:"), centring);
+  form->addRow(QString(), headerAndFooter_);
   horizontally_->setObjectName(QStringLiteral("centreHorizontally"));
   vertically_->setObjectName(QStringLiteral("centreVertically"));
   headerAndFooter_->setObjectName(QStringLiteral("headerAndFooter"));
-  headerAndFooter_->setToolTip(localizedString("The date above the picture and the file's location below it, on every page"));
-  for (QCheckBox* each : {horizontally_, vertically_, headerAndFooter_}) {
+  headerAndFooter_->setToolTip(
+      localizedString("The date above the picture and the file's location below it, on every page"));
+  horizontally_->setAccessibleName(localizedString("Centred horizontally"));
+  vertically_->setAccessibleName(localizedString("Centred vertically"));
+  for (QCheckBox* each : {horizontally_, vertically_, headerAndFooter_})
     connect(each, &QCheckBox::clicked, this, &ZyPageLayoutAccessory::changed);
-    box->addWidget(each);
-  }
 }
 
 void ZyPageLayoutAccessory::addMargins(QGridLayout* grid) {
@@ -50,7 +58,7 @@ void ZyPageLayoutAccessory::addMargins(QGridLayout* grid) {
     const char* name;
   };
   const Row rows[] = {{NSPrintTopMargin, "T&op:", "topMargin"},
-                      {NSPrintLeftMargin, "Left:", "leftMargin"},
+                      {NSPrintLeftMargin, "Lef&t:", "leftMargin"},
                       {NSPrintBottomMargin, "&Bottom:", "bottomMargin"},
                       {NSPrintRightMargin, "&Right:", "rightMargin"}};
   int place = 0;

@@ -23,7 +23,7 @@ class MemorySpooler final : public PrintSpooler {
 
   explicit MemorySpooler(QList<Printer> printers = {}) : printers_(std::move(printers)) {}
 
-  Result<QList<Printer>> printers() override {
+  Result<QList<Printer>> printers(const CancelToken&) override {
     const std::lock_guard lock(mutex_);
     if (error) return *error;
     return printers_;
@@ -39,6 +39,11 @@ class MemorySpooler final : public PrintSpooler {
   [[nodiscard]] QList<Job> jobs() const {
     const std::lock_guard lock(mutex_);
     return jobs_;
+  }
+
+  void setPrinters(const QList<Printer>& printers) {
+    const std::lock_guard lock(mutex_);
+    printers_ = printers;
   }
 
   std::optional<Error> error;                     ///< set before use
@@ -65,12 +70,14 @@ class ScriptedInteraction final : public PrintInteraction {
     shownInfo = printInfo;
     endSheet = std::move(end);
   }
-  void jobDidBegin(const QString& title, const CancelToken& cancel) override {
+  int jobDidBegin(const QString& title, const CancelToken& cancel) override {
     begun << title;
     token = cancel;
+    return int(begun.size());
   }
-  void jobDidEnd(const QString& title, const Result<void>& result) override {
+  void jobDidEnd(int job, const QString& title, const Result<void>& result) override {
     ended << title;
+    endedJobs << job;
     messages << (result ? QString() : result.error().message);
   }
 
@@ -80,6 +87,7 @@ class ScriptedInteraction final : public PrintInteraction {
   NSPrintInfo shownInfo;
   std::function<void(const NSPrintInfo&, int)> endSheet;
   QStringList begun, ended, messages;
+  QList<int> endedJobs;
   CancelToken token;
 };
 

@@ -11,14 +11,17 @@ NSPrintInfo a4(NSPaperOrientation orientation) {
   NSPrintInfo info;
   info.setPaper(*paperNamed("A4"));
   info.setOrientation(orientation);
-  for (const char* margin : {NSPrintLeftMargin, NSPrintRightMargin, NSPrintTopMargin, NSPrintBottomMargin}) info.set(margin, 0.0);
+  for (const char* margin : {NSPrintLeftMargin, NSPrintRightMargin, NSPrintTopMargin, NSPrintBottomMargin})
+    info.set(margin, 0.0);
   return info;
 }
 
 constexpr double kShort = 210 * 72 / 25.4, kLong = 297 * 72 / 25.4;
 const QSizeF kLarge(3000, 2000);
 
-bool near(double a, double b) { return std::abs(a - b) < 0.001; }
+bool near(double a, double b) {
+  return std::abs(a - b) < 0.001;
+}
 
 }  // namespace
 
@@ -51,7 +54,8 @@ class PaginationTest : public QObject {
     double area = 0;
     for (const PageTile& tile : pages->tiles) {
       area += tile.source.width() * tile.source.height();
-      QVERIFY(near(tile.target.width(), tile.source.width() * scale) && near(tile.target.height(), tile.source.height() * scale));
+      QVERIFY(near(tile.target.width(), tile.source.width() * scale) &&
+              near(tile.target.height(), tile.source.height() * scale));
       QVERIFY(QRectF(QPointF(0, 0), pages->sheet).adjusted(-0.01, -0.01, 0.01, 0.01).contains(tile.target));
       QVERIFY(QRectF(QPointF(0, 0), kLarge).adjusted(-0.01, -0.01, 0.01, 0.01).contains(tile.source));
       for (const PageTile& other : pages->tiles) {
@@ -65,7 +69,8 @@ class PaginationTest : public QObject {
   void theFirstPageIsTheUpperLeftCorner() {
     const Result<Pagination> pages = paginate(kLarge, a4(NSPaperOrientation::Portrait));
     QVERIFY(near(pages->tiles.first().source.left(), 0) && near(pages->tiles.first().source.bottom(), 2000));
-    QVERIFY(near(pages->tiles.first().source.width(), kShort) && near(pages->tiles.first().source.height(), kLong));
+    QVERIFY(near(pages->tiles.first().source.width(), kShort) &&
+            near(pages->tiles.first().source.height(), kLong));
     QVERIFY(near(pages->tiles.at(1).source.left(), kShort));
     // Pages that meet begin at the paper's edges, the last ones as well.
     const PageTile& last = pages->tiles.last();
@@ -142,7 +147,8 @@ class PaginationTest : public QObject {
     info.setLeftMargin(100);
     info.setBottomMargin(200);
     const QRectF target = paginate({10, 10}, info)->tiles.first().target;
-    QVERIFY(near(target.center().x(), 100 + (kShort - 100) / 2) && near(target.center().y(), 200 + (kLong - 200) / 2));
+    QVERIFY(near(target.center().x(), 100 + (kShort - 100) / 2) &&
+            near(target.center().y(), 200 + (kLong - 200) / 2));
   }
 
   void aPictureOfThePapersSizeIsOnePage() {
@@ -160,7 +166,8 @@ class PaginationTest : public QObject {
       QVERIFY(!tile.target.intersects(*pages->header) && !tile.target.intersects(*pages->footer));
     const QRectF sheet(QPointF(0, 0), pages->sheet);
     QVERIFY(sheet.contains(*pages->header) && sheet.contains(*pages->footer));
-    QVERIFY(pages->header->top() > pages->imageable.bottom() - 0.001 && pages->footer->bottom() < pages->imageable.top() + 0.001);
+    QVERIFY(pages->header->top() > pages->imageable.bottom() - 0.001 &&
+            pages->footer->bottom() < pages->imageable.top() + 0.001);
     // Margins that are large enough hold them already.
     info.setTopMargin(90);
     info.setBottomMargin(90);

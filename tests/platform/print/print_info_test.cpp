@@ -60,8 +60,13 @@ class PrintInfoTest : public QObject {
 
   void nonsenseInTheDictionaryReadsAsTheDefault() {
     NSPrintInfo info;
-    info.addEntries({{NSPrintScalingFactor, -1.0}, {NSPrintCopies, 1e9}, {NSPrintOrientation, 7}, {NSPrintLeftMargin, "wide"},
-                     {NSPrintVerticallyCentered, 3}, {NSPrintPaperName, "no paper"}, {NSPrintHorizontalPagination, 1.5},
+    info.addEntries({{NSPrintScalingFactor, -1.0},
+                     {NSPrintCopies, 1e9},
+                     {NSPrintOrientation, 7},
+                     {NSPrintLeftMargin, "wide"},
+                     {NSPrintVerticallyCentered, 3},
+                     {NSPrintPaperName, "no paper"},
+                     {NSPrintHorizontalPagination, 1.5},
                      {NSPrintTopMargin, std::numeric_limits<double>::quiet_NaN()}});
     QCOMPARE(info.scalingFactor(), 1.0);
     QCOMPARE(info.copies(), 1);
@@ -115,7 +120,8 @@ class PrintInfoTest : public QObject {
     QTest::newRow("text") << QByteArray("PrintInfo");
     QTest::newRow("cut") << good.chopped(3);
     QTest::newRow("longer") << good + "x";
-    QTest::newRow("another version") << QCborMap{{"version", 2}, {"settings", QCborMap()}}.toCborValue().toCbor();
+    QTest::newRow("another version")
+        << QCborMap{{"version", 2}, {"settings", QCborMap()}}.toCborValue().toCbor();
     QTest::newRow("no settings") << QCborMap{{"version", 1}}.toCborValue().toCbor();
     QTest::newRow("a wrong type")
         << QCborMap{{"version", 1}, {"settings", QCborMap{{"NSLeftMargin", "wide"}}}}.toCborValue().toCbor();
@@ -134,7 +140,8 @@ class PrintInfoTest : public QObject {
 
   void anEntryOfALaterProgramIsPassedOver() {
     const QCborMap settings{{"NSLeftMargin", 5}, {"Later", QCborArray{1}}};
-    const auto read = unarchivedPrintInfo(QCborMap{{"version", 1}, {"settings", settings}}.toCborValue().toCbor());
+    const auto read =
+        unarchivedPrintInfo(QCborMap{{"version", 1}, {"settings", settings}}.toCborValue().toCbor());
     QVERIFY(read);
     QCOMPARE(read->leftMargin(), 5.0);
   }

@@ -1,9 +1,12 @@
 // Jobs from a drawing to paper or to a file, with the shipped picture program.
 #include "platform/print/print_job.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+
+#include <sys/mount.h>
 
 #include "kit/program.h"
 #include "kit/test_main.h"
@@ -27,12 +30,13 @@ QByteArray picture(const QSizeF& size) {
   const QByteArray half = QByteArray::number(size.width() / 2);
   const QByteArray contents =
       "1 0 0 rg 0 0 " + half + ' ' + h + " re f 0 0 1 rg " + half + " 0 " + half + ' ' + h + " re f";
-  const QList<QByteArray> objects{"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
-                                  "<< /Type /Page /Parent 2 0 R /Contents 4 0 R /MediaBox [0 0 " + w + ' ' + h + "] >>",
-                                  "<< /Length " + QByteArray::number(contents.size()) + " >>\nstream\n" + contents +
-                                      "\nendstream"};
+  const QList<QByteArray> objects{
+      "<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+      "<< /Type /Page /Parent 2 0 R /Contents 4 0 R /MediaBox [0 0 " + w + ' ' + h + "] >>",
+      "<< /Length " + QByteArray::number(contents.size()) + " >>\nstream\n" + contents + "\nendstream"};
   QByteArray pdf = "%PDF-1.4\n";
-  for (qsizetype i = 0; i < objects.size(); ++i) pdf += QByteArray::number(i + 1) + " 0 obj\n" + objects.at(i) + "\nendobj\n";
+  for (qsizetype i = 0; i < objects.size(); ++i)
+    pdf += QByteArray::number(i + 1) + " 0 obj\n" + objects.at(i) + "\nendobj\n";
   return pdf + "trailer << /Root 1 0 R /Size 5 >>\n%%EOF\n";
 }
 
@@ -40,7 +44,8 @@ NSPrintInfo a4(NSPaperOrientation orientation = NSPaperOrientation::Landscape) {
   NSPrintInfo info;
   info.setPaper(*paperNamed("A4"));
   info.setOrientation(orientation);
-  for (const char* margin : {NSPrintLeftMargin, NSPrintRightMargin, NSPrintTopMargin, NSPrintBottomMargin}) info.set(margin, 0.0);
+  for (const char* margin : {NSPrintLeftMargin, NSPrintRightMargin, NSPrintTopMargin, NSPrintBottomMargin})
+    info.set(margin, 0.0);
   return info;
 }
 
@@ -72,13 +77,16 @@ class PrintJobTest : public QObject {
   }
   QImage drawn(int page = 1) {
     const QString number = QString::number(page);
-    run("pdftocairo", {"-png", "-singlefile", "-r", "72", "-f", number, "-l", number, path("out.pdf"), path("page")});
+    run("pdftocairo",
+        {"-png", "-singlefile", "-r", "72", "-f", number, "-l", number, path("out.pdf"), path("page")});
     return QImage(path("page.png"));
   }
   QByteArray facts() { return run("pdfinfo", {path("out.pdf")}).out; }
 
  private slots:
-  void initTestCase() { service_ = std::make_unique<WorkerService>(QStringLiteral(NORVEX_BUILD_DIR "/norvex-worker")); }
+  void initTestCase() {
+    service_ = std::make_unique<WorkerService>(QStringLiteral(NORVEX_BUILD_DIR "/norvex-worker"));
+  }
   void cleanup() {
     view_.reset();
     rep_.reset();
@@ -135,7 +143,8 @@ class PrintJobTest : public QObject {
     QVERIFY(facts().contains("Pages:           2\n"));
     QVERIFY(facts().contains("Title:           My Picture\n"));
     for (const char* page : {"1", "2"}) {
-      const QString text = QString::fromUtf8(run("pdftotext", {"-layout", "-f", page, "-l", page, path("out.pdf"), "-"}).out);
+      const QString text =
+          QString::fromUtf8(run("pdftotext", {"-layout", "-f", page, "-l", page, path("out.pdf"), "-"}).out);
       QVERIFY2(text.contains("file:///tmp/My Picture.pdf"), qPrintable(text));
       QVERIFY2(text.contains(QString::number(QDate::currentDate().year())), qPrintable(text));
     }
@@ -186,6 +195,31 @@ class PrintJobTest : public QObject {
     QVERIFY(!gone.error().message.isEmpty() && !gone.error().message.contains('\n'));
   }
 
+  void aFullDiskIsOneSentenceAndTheSettingsAreKept() {
+    open({100, 100});
+    const QString disk = path("disk");
+    QVERIFY(QDir().mkpath(disk));
+    if (::mount("tmpfs", QFile::encodeName(disk), "tmpfs", 0, "size=4k") != 0)
+      QSKIP("mounting is not permitted here");
+    QFile filler(disk + "/filler");
+    if (filler.open(QIODevice::WriteOnly)) filler.write(QByteArray(4096, 'x'));
+    filler.close();
+    MemorySpooler spooler;
+    ScriptedInteraction people;
+    NSPrintInfo info = a4();
+    info.setJobSavingPath(disk + "/out.pdf");
+    auto operation =
+        NSPrintOperation::printOperationWithView(printable(), info, {service_.get(), &spooler, &people});
+    const bool printed = operation->runOperation();
+    const QStringList left = QDir(disk).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    ::umount(QFile::encodeName(disk));
+    QVERIFY(!printed);
+    QCOMPARE(people.messages, QStringList{"there is no space left to write to"});
+    QCOMPARE(left, QStringList{"filler"});
+    QCOMPARE(operation->printInfo(), info);
+    QVERIFY(spooler.jobs().isEmpty());
+  }
+
   void noPrintServiceAndNoPrinterAreSentences() {
     NullPrintSpooler none;
     QCOMPARE(printerNamed(none, "Office").error().message, QString("the print service cannot be reached"));
@@ -206,7 +240,8 @@ class PrintJobTest : public QObject {
     std::atomic<bool> elsewhere = false;
     spooler.wait = [&](const CancelToken&) { elsewhere = QThread::currentThread() != mainThread; };
     ScriptedInteraction people;
-    auto operation = NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, &people});
+    auto operation =
+        NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, &people});
     operation->setCanSpawnSeparateThread(true);
     QSignalSpy finished(operation.get(), &NSPrintOperation::finished);
     QVERIFY(operation->runOperation());
@@ -225,7 +260,8 @@ class PrintJobTest : public QObject {
     MemorySpooler spooler;
     ScriptedInteraction people;
     people.printsFromPanel = false;
-    auto operation = NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, &people});
+    auto operation =
+        NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, &people});
     QSignalSpy finished(operation.get(), &NSPrintOperation::finished);
     QVERIFY(!operation->runOperation());
     QCOMPARE(finished.size(), 1);
@@ -241,7 +277,8 @@ class PrintJobTest : public QObject {
       operation.printInfo().setCopies(2);
     };
     const NSPrintInfo info = a4();
-    auto operation = NSPrintOperation::printOperationWithView(printable(), info, {service_.get(), &spooler, &people});
+    auto operation =
+        NSPrintOperation::printOperationWithView(printable(), info, {service_.get(), &spooler, &people});
     QVERIFY(operation->runOperation());
     QCOMPARE(spooler.jobs().first().ticket.copies, 2);
     QCOMPARE(info.copies(), 1);
@@ -258,7 +295,8 @@ class PrintJobTest : public QObject {
     ScriptedInteraction people;
     NSPrintInfo info = a4();
     info.setPrinterName("Office");
-    auto operation = NSPrintOperation::printOperationWithView(printable(), info, {service_.get(), &spooler, &people});
+    auto operation =
+        NSPrintOperation::printOperationWithView(printable(), info, {service_.get(), &spooler, &people});
     QVERIFY(!operation->runOperation());
     QCOMPARE(people.messages, QStringList{"the printer “Office” takes no jobs"});
     QCOMPARE(operation->printInfo(), info);
@@ -271,7 +309,8 @@ class PrintJobTest : public QObject {
       while (!cancel.cancelled()) QThread::msleep(5);
     };
     ScriptedInteraction people;
-    auto operation = NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, &people});
+    auto operation =
+        NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, &people});
     operation->setCanSpawnSeparateThread(true);
     QSignalSpy finished(operation.get(), &NSPrintOperation::finished);
     QVERIFY(operation->runOperation());
@@ -281,13 +320,45 @@ class PrintJobTest : public QObject {
     QVERIFY(spooler.jobs().isEmpty());
   }
 
+  void aCancelledJobLeavesNoFile() {
+    open({3000, 2000});
+    NSPrintInfo info = a4();
+    info.setJobSavingPath(path("cancelled.pdf"));
+    ScriptedInteraction people;
+    MemorySpooler spooler;
+    // Before the pages are made, and at some moments while they are.
+    for (const int milliseconds : {0, 5, 20, 60}) {
+      auto operation =
+          NSPrintOperation::printOperationWithView(printable(), info, {service_.get(), &spooler, &people});
+      const CancelToken cancel;
+      operation->setCancelToken(cancel);
+      operation->setCanSpawnSeparateThread(true);
+      QSignalSpy finished(operation.get(), &NSPrintOperation::finished);
+      if (milliseconds == 0) cancel.cancel();
+      QVERIFY(operation->runOperation());
+      QThread::msleep(milliseconds);
+      cancel.cancel();
+      QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 30000);
+      // Either it was too late and the file is whole, or there is nothing.
+      QVERIFY(operation->result()->ok() == QFile::exists(path("cancelled.pdf")));
+      if (operation->result()->ok())
+        QCOMPARE(run("qpdf", {"--check", path("cancelled.pdf")}).exitCode, 0);
+      else
+        QCOMPARE(operation->result()->error().kind, ErrorKind::Cancelled);
+      if (milliseconds == 0) QVERIFY(!operation->result()->ok());
+      QFile::remove(path("cancelled.pdf"));
+    }
+    QCOMPARE(people.endedJobs, (QList<int>{1, 2, 3, 4}));
+  }
+
   void destroyingAnOperationEndsItsJob() {
     open({100, 100});
     MemorySpooler spooler;
     spooler.wait = [](const CancelToken& cancel) {
       while (!cancel.cancelled()) QThread::msleep(5);
     };
-    auto operation = NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, nullptr});
+    auto operation =
+        NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, nullptr});
     operation->setCanSpawnSeparateThread(true);
     QVERIFY(operation->runOperation());
     operation.reset();
@@ -297,7 +368,8 @@ class PrintJobTest : public QObject {
   void theViewMayChangeWhileItIsPrinted() {
     open({100, 100});
     MemorySpooler spooler;
-    auto operation = NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, nullptr});
+    auto operation =
+        NSPrintOperation::printOperationWithView(printable(), a4(), {service_.get(), &spooler, nullptr});
     operation->setCanSpawnSeparateThread(true);
     QSignalSpy finished(operation.get(), &NSPrintOperation::finished);
     QVERIFY(operation->runOperation());
@@ -327,10 +399,11 @@ class PrintJobTest : public QObject {
     int compared = 0;
     for (double y = -35; y <= 35; y += 5) {
       for (double x = -45; x <= 45; x += 5) {
-        // The halves meet in a line through the middle, 30 degrees left of upright. What is beside the edge between
-        // two colours is not looked at.
+        // The halves meet in a line through the middle, 30 degrees left of upright. What is beside the edge
+        // between two colours is not looked at.
         const double side = x * std::cos(0.5235987755982988) + y * std::sin(0.5235987755982988);
-        const bool inside = std::abs(x) < 40 && std::abs(y) < 30, beside = std::abs(x) == 40 || std::abs(y) == 30;
+        const bool inside = std::abs(x) < 40 && std::abs(y) < 30,
+                   beside = std::abs(x) == 40 || std::abs(y) == 30;
         if (beside || std::abs(side) < 2) continue;
         const QColor expected = !inside ? Qt::white : side < 0 ? Qt::red : Qt::blue;
         QCOMPARE(page.pixelColor((middle + QPointF(x, -y)).toPoint()), expected);

@@ -5,6 +5,7 @@
 #include <QtConcurrent>
 
 #include "platform/localized_string.h"
+#include "platform/waiting_threads.h"
 #include "platform/qt/drag_source.h"
 #include "platform/qt/norvex_view_widget.h"
 #include "ui_MainWindowController.h"
@@ -46,7 +47,7 @@ std::optional<DraggedFile> MainWindowController::draggedFile() {
   const qsizetype best = bestFileFormat(formats);
   if (best < 0) return std::nullopt;
   const std::shared_ptr<PromisedData> data = formats.DataObjects.at(best);
-  static_cast<void>(QtConcurrent::run([data] { return data->get(); }));  // the drag takes a while: use it
+  static_cast<void>(QtConcurrent::run(&waitingThreads(), [data] { return data->get(); }));  // the drag takes a while: use it
   const QString extension = formats.UTIs.at(best).preferredFilenameExtension();
   return DraggedFile{clipName() + u'.' + extension, [data] { return data->get(); }};
 }

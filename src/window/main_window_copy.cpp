@@ -6,6 +6,7 @@
 
 #include "document/document.h"
 #include "platform/localized_string.h"
+#include "platform/waiting_threads.h"
 #include "platform/qt/loading_card.h"
 #include "platform/qt/message_bar.h"
 #include "platform/qt/qt_pasteboard.h"
@@ -21,7 +22,7 @@ namespace {
 QFuture<void> madeInBackground(const PictureFormats& formats, const std::shared_ptr<PromisedData>& fallback) {
   QList<std::shared_ptr<PromisedData>> all = formats.DataObjects;
   if (fallback) all << fallback;
-  return QtConcurrent::run([all] {
+  return QtConcurrent::run(&waitingThreads(), [all] {
     for (const std::shared_ptr<PromisedData>& data : all) static_cast<void>(data->get());
   });
 }

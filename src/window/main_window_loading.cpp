@@ -8,6 +8,7 @@
 #include "document/document.h"
 #include "metadata/header_dictionary.h"
 #include "platform/localized_string.h"
+#include "platform/waiting_threads.h"
 #include "platform/picture/web_image_rep.h"
 #include "platform/qt/loading_card.h"
 #include "platform/qt/message_bar.h"
@@ -31,13 +32,6 @@ constexpr int kFrameOfPreview = 2;
 constexpr int kFrameOfPicture = 255;
 /// A quick document is on the screen together with its window; a slow one does not keep the window waiting.
 constexpr int kGraceMs = 60;
-
-/// Readings wait for picture processes and hardly compute: one that waits long must not hold up the others.
-QThreadPool& readingThreads() {
-  static QThreadPool pool;
-  pool.setMaxThreadCount(32);
-  return pool;
-}
 
 bool isFixedOnOneAxisOnly(const HeaderDictionary& header) {
   const QVariant x = header.value(QString::fromLatin1(ZyWebViewFixedRatioXKey));
@@ -74,7 +68,7 @@ void MainWindowController::startReading() {
   reading_ = std::make_shared<Reading>();
   loadingCard_->begin(localizedString("Opening…"));
   QPointer<MainWindowController> self(this);
-  readingThreads().start([self, reading = reading_, &service = document_->pictureService(), url,
+  waitingThreads().start([self, reading = reading_, &service = document_->pictureService(), url,
                           type = document_->fileType(), home = thread()] {
     reading->contents = readDocumentContents(service, url, type, home, reading->cancel);
     reading->done.release();

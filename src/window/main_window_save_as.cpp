@@ -18,6 +18,7 @@
 #include "platform/picture/web_image_rep.h"
 #include "platform/qt/loading_card.h"
 #include "platform/save_panel.h"
+#include "platform/waiting_threads.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
@@ -78,7 +79,7 @@ void MainWindowController::workBesideTheWindow(const std::function<void()>& work
   QEventLoop loop;
   QFutureWatcher<void> watcher;
   connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
-  watcher.setFuture(QtConcurrent::run(work));
+  watcher.setFuture(QtConcurrent::run(&waitingThreads(), work));
   loop.exec();
   watcher.waitForFinished();  // a program that is ending ends the loop before the work
   --writing_;

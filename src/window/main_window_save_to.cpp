@@ -17,6 +17,7 @@
 #include "platform/qt/zy_image_view.h"
 #include "ui_MainWindowController.h"
 #include "platform/type_description.h"
+#include "platform/waiting_threads.h"
 
 namespace norvex {
 
@@ -103,7 +104,7 @@ void MainWindowController::makeSaveToFormats(const std::shared_ptr<SaveToSheet>&
     });
   };
   // One after the other, the preview first; a format that is to be written meanwhile does not wait for its turn.
-  static_cast<void>(QtConcurrent::run([tell, rep = sheet->formats.pdfImageRep, all = sheet->formats.DataObjects,
+  static_cast<void>(QtConcurrent::run(&waitingThreads(), [tell, rep = sheet->formats.pdfImageRep, all = sheet->formats.DataObjects,
                                        cancel = sheet->formats.cancel] {
     if (rep)
       tell([made = rep->get()](MainWindowController& c, SaveToSheet&) { c.doSaveToImageView->setImageRep(made); });
@@ -135,7 +136,7 @@ void MainWindowController::saveTo(const std::shared_ptr<SaveToSheet>& sheet, con
   loadingCard_->begin(localizedString("Writing…"));
   QPointer<MainWindowController> self(this);
   // The sheet is held until the file is written: letting go of it ends what is being made.
-  QtConcurrent::run([path, data] { return writeTo(path, data); }).then(qApp, [self, sheet, path, url](const Result<void>& written) {
+  QtConcurrent::run(&waitingThreads(), [path, data] { return writeTo(path, data); }).then(qApp, [self, sheet, path, url](const Result<void>& written) {
     if (!self) return;
     --self->writing_;
     self->followRendering();

@@ -9,6 +9,7 @@
 #include "platform/picture/web_image_rep.h"
 #include "platform/type_identification.h"
 #include "platform/uniform_type.h"
+#include "platform/waiting_threads.h"
 
 namespace norvex {
 namespace {
@@ -66,14 +67,14 @@ Result<LoadedPicture> loadPicture(PictureService& service, const PictureSource& 
 
 QFuture<Result<LoadedPicture>> loadPictureLater(PictureService& service, const PictureSource& source,
                                                 const PictureLimits& limits) {
-  return QtConcurrent::run([home = QThread::currentThread(), &service, source, limits] {
+  return QtConcurrent::run(&waitingThreads(), [home = QThread::currentThread(), &service, source, limits] {
     return loadFor(home, service, source, limits);
   });
 }
 
 QFuture<Result<LoadedPicture>> loadPictureFile(PictureService& service, const QUrl& fileURL,
                                                const QString& typeIdentifier, const PictureLimits& limits) {
-  return QtConcurrent::run([home = QThread::currentThread(), &service, fileURL, typeIdentifier,
+  return QtConcurrent::run(&waitingThreads(), [home = QThread::currentThread(), &service, fileURL, typeIdentifier,
                             limits]() -> Result<LoadedPicture> {
     const Result<QByteArray> bytes = readDocumentFile(fileURL.toLocalFile());
     if (!bytes) return bytes.error();

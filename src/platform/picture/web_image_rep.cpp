@@ -8,6 +8,7 @@
 #include "platform/picture/document_file.h"
 #include "platform/picture/gzip_stream.h"
 #include "platform/picture/pdf_image_rep.h"
+#include "platform/waiting_threads.h"
 
 namespace norvex {
 namespace {
@@ -128,7 +129,7 @@ void ZyWebImageRep::loadPDFImageRep() {
     return;
   }
   watcher->setFuture(
-      QtConcurrent::run([open = process(), cancel = cancelPDF_] { return open->pdf({}, cancel); }));
+      QtConcurrent::run(&waitingThreads(), [open = process(), cancel = cancelPDF_] { return open->pdf({}, cancel); }));
 }
 
 void ZyWebImageRep::finishPDFImageRep(const Result<PictureBytes>& pdf) {

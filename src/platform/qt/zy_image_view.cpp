@@ -8,6 +8,7 @@
 #include "platform/picture/image_rep.h"
 #include "platform/qt/checkerboard.h"
 #include "platform/qt/quiet_text.h"
+#include "platform/waiting_threads.h"
 
 namespace norvex {
 
@@ -72,7 +73,7 @@ void ZyImageView::renderRep() {
   const double scale = fitted(size).width() * devicePixelRatioF() / size.width();
   if (!(scale > 0)) return;
   cancel_ = CancelToken();
-  watcher_.setFuture(QtConcurrent::run([rep = rep_, scale, cancel = cancel_] {
+  watcher_.setFuture(QtConcurrent::run(&waitingThreads(), [rep = rep_, scale, cancel = cancel_] {
     return rep->rasterImage(scale, RenderPurpose::Preview, cancel);
   }));
 }

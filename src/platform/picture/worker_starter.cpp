@@ -116,11 +116,7 @@ Result<StartedProcess> WorkerStarter::take(const Ticket& ticket, QDeadlineTimer 
 Result<StartedProcess> WorkerStarter::takeNow(const Ticket& ticket) {
   const std::lock_guard lock(mutex_);
   while (ticket.run == run_) {
-    if (auto found = answered_.find(ticket.number); found != answered_.end()) {
-      Result<StartedProcess> process = std::move(found->second);
-      answered_.erase(found);
-      return process;
-    }
+    if (auto answer = answered_.extract(ticket.number)) return std::move(answer.mapped());
     Result<ChannelMessage> message = control_.receive(QDeadlineTimer(0));
     if (!message && message.error().kind == ErrorKind::TimedOut) return message.error();
     const Result<WorkerReply> reply = message ? decodeReply(message->cbor) : message.error();
@@ -147,13 +143,11 @@ void WorkerStarter::keep(const WorkerReply& reply, FileDescriptor descriptor) {
 void WorkerStarter::abandon(const Ticket& ticket) {
   const std::lock_guard lock(mutex_);
   if (ticket.run != run_) return;
-  abandoned_.insert(ticket.number);
-  if (auto found = answered_.find(ticket.number); found != answered_.end()) {
-    Result<StartedProcess> process = std::move(found->second);
-    answered_.erase(found);
-    abandoned_.erase(ticket.number);
-    if (process) ::syscall(SYS_pidfd_send_signal, process->pidfd.get(), SIGKILL, nullptr, 0);
-  }
+  const auto answer = answered_.extract(ticket.number);
+  if (!answer)
+    abandoned_.insert(ticket.number);
+  else if (const Result<StartedProcess>& process = answer.mapped(); process)
+    ::syscall(SYS_pidfd_send_signal, process->pidfd.get(), SIGKILL, nullptr, 0);
 }
 
 }  // namespace norvex

@@ -48,7 +48,7 @@ inline QList<qint64> descendants(qint64 process, const QByteArray& name) {
   return found;
 }
 
-/// X server, window manager and one run of the program. Everything that it starts ends with it.
+/// X server, window manager and one run of the program at a time. Everything that it starts ends with it.
 class XSession {
  public:
   /// What is missing here for a session; empty when nothing is.
@@ -74,11 +74,7 @@ class XSession {
     waitUntil([this] { return run("xdotool", {"get_desktop"}).exitCode == 0; });
   }
   ~XSession() {
-    for (QProcess* process : {&program_, &manager_, &server_}) {
-      process->terminate();
-      if (!process->waitForFinished(3000)) process->kill();
-      process->waitForFinished(3000);
-    }
+    for (QProcess* process : {&program_, &manager_, &server_}) end(*process);
   }
   XSession(const XSession&) = delete;
   XSession& operator=(const XSession&) = delete;
@@ -102,6 +98,14 @@ class XSession {
     program_.setProcessChannelMode(QProcess::MergedChannels);
     program_.start(norvexProgram(), arguments);
     return program_.waitForStarted() && activate(title);
+  }
+  /// Ends the program and forgets what it remembered.
+  void stop() {
+    end(program_);
+    program_.readAll();
+    QDir home(home_.path());
+    home.removeRecursively();
+    home.mkpath(QStringLiteral("."));
   }
   /// Waits for the window and gives it the keyboard.
   bool activate(const QString& title) {
@@ -171,13 +175,33 @@ class XSession {
     release();
   }
   QImage screen() {
-    const QImage image = QImage::fromData(run("import", {"-silent", "-window", "root", "png:-"}).out);
+    // Not a compressed format: it would take three times as long.
+    const QImage image = QImage::fromData(run("import", {"-silent", "-window", "root", "ppm:-"}).out);
     return image.convertToFormat(QImage::Format_RGB32);
+  }
+  /// Waits until nothing on the screen changes any more for a while, or `seconds` are over.
+  void waitUntilStill(int seconds = 5) {
+    int same = 0;
+    QImage last = screen();
+    waitUntil(
+        [&] {
+          const QImage now = screen();
+          same = now == last ? same + 1 : 0;
+          last = now;
+          return same >= 5;
+        },
+        seconds);
   }
   /// What was selected last with the mouse in a text ("primary") or copied ("clipboard").
   QString selection(const QString& which) { return QString::fromUtf8(run("xclip", {"-o", "-selection", which}).out); }
 
  private:
+  static void end(QProcess& process) {
+    process.terminate();
+    if (!process.waitForFinished(3000)) process.kill();
+    process.waitForFinished(3000);
+  }
+
   QTemporaryDir home_;
   QProcess server_, manager_, program_;
   QProcessEnvironment environment_;

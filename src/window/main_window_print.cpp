@@ -50,6 +50,8 @@ void MainWindowController::connectPrinting() {
   printPart->setObjectName(QStringLiteral("printPartAction"));
   printPart->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_P);
   connect(printPart, &QAction::triggered, this, [this, printPart] { doPrinting(printPart); });
+  printPart->setEnabled(doPrintingToolbarItem->isEnabled());
+  connect(doPrintingToolbarItem, &QAction::enabledChanged, printPart, &QAction::setEnabled);
   ui_->fileMenu->insertActions(ui_->closeAction, {pageLayout, print, printPart});
   ui_->fileMenu->insertSeparator(ui_->closeAction);
 }

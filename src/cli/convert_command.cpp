@@ -88,7 +88,8 @@ ExitCode Job::convert(const Arguments& arguments) {
 
   const Interruption interruption;
   QThreadPool pool;
-  pool.setMaxThreadCount(plan.jobs);
+  // One more than are drawn at a time: another is being read or written meanwhile.
+  pool.setMaxThreadCount(plan.jobs > 1 ? plan.jobs + 1 : 1);
   const CancelToken cancel = interruption.token();
   QFuture<Conversion> conversions = QtConcurrent::mapped(&pool, plan.tasks, [&](const ConvertTask& task) {
     return convertFile(service_, task, plan, input, cancel);

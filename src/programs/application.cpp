@@ -15,6 +15,7 @@ namespace norvex {
 namespace {
 
 int runWindows(int argc, char** argv, WorkerService& service) {
+  service.yieldToWindows();
   Application application(argc, argv);
   installStringTables();
   QtAlertPresenter alerts;

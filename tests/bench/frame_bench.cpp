@@ -156,7 +156,9 @@ int main(int argc, char** argv) {
     service = std::make_unique<MemoryPictureService>(heavyPicture());
     loaded = loadPicture(*service, {"%PDF-1.7\n", "com.adobe.pdf", {}, 0});
   } else {
-    service = std::make_unique<WorkerService>(options.value("worker"));
+    auto worker = std::make_unique<WorkerService>(options.value("worker"));
+    worker->yieldToWindows();
+    service = std::move(worker);
     const QUrl url = QUrl::fromLocalFile(options.positionalArguments().first());
     loaded = loadPictureFile(*service, url).result();
     QCoreApplication::processEvents();

@@ -2,6 +2,10 @@
 
 #include <QElapsedTimer>
 
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+#include <algorithm>
 #include <csignal>
 #include <thread>
 
@@ -334,6 +338,19 @@ class WorkerServiceTest : public QObject {
     });
     QCOMPARE(killed, -1);
     QVERIFY(eventually([&] { return runtime_->entries().isEmpty(); }));
+  }
+
+  void picturesYieldToWindowsAlsoAfterARestart() {
+    WorkerService service(kStub);
+    service.yieldToWindows();
+    for (int run = 0; run < 2; ++run) {
+      QVERIFY(service.start());
+      const pid_t program = pid_t(service.programProcessId());
+      QCOMPARE(::getpriority(PRIO_PROCESS, id_t(program)), std::min(19, ::getpriority(PRIO_PROCESS, 0) + 10));
+      ::kill(program, SIGKILL);
+      siginfo_t ended = {};
+      ::waitid(P_PID, id_t(program), &ended, WEXITED | WNOWAIT);
+    }
   }
 
   void aMissingProgramIsAnOrdinaryError() {

@@ -6,6 +6,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include "platform/waiting_threads.h"
 
 namespace norvex {
 
@@ -76,25 +79,33 @@ void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevi
                                 const QRegion& wanted) const {
   const QTransform toPainter = layerToDevice * painter.transform();
   const double tilt = std::abs(layerToDevice.m12()), upright = std::abs(layerToDevice.m11());
+  QList<const Piece*> visible;
+  for (const Piece& piece : pieces_)
+    if (layerToDevice.mapRect(QRectF(piece.rect)).intersects(wanted.boundingRect())) visible << &piece;
+  if (tilt > upright / 2) prepareNextTurned(visible);
   painter.save();
   painter.setClipRegion(wanted, Qt::IntersectClip);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  for (const Piece& piece : pieces_) {
-    const QRect& rect = piece.rect;
-    if (!layerToDevice.mapRect(QRectF(rect)).intersects(wanted.boundingRect())) continue;
-    if (tilt > upright / 2) piece.prepareTurned();
-    const bool turned = tilt > upright && piece.turned.isFinished();
+  for (const Piece* piece : std::as_const(visible)) {
+    const QRect& rect = piece->rect;
+    const bool turned = tilt > upright && piece->hasTurned();
     const QTransform place = turned ? QTransform(0, -1, 1, 0, rect.x(), rect.y() + rect.height())
                                     : QTransform::fromTranslate(rect.x(), rect.y());
     painter.setTransform(place * toPainter);
-    painter.drawImage(QPoint(), turned ? piece.turned.result() : piece.image);
+    painter.drawImage(QPoint(), turned ? piece->turned.result() : piece->image);
   }
   painter.restore();
 }
 
-void RenderedLayer::Piece::prepareTurned() const {
-  if (turned.isValid()) return;
-  turned = QtConcurrent::run([bitmap = image] { return bitmap.transformed(QTransform().rotate(90)); });
+/// One at a time: frames need the processor too.
+void RenderedLayer::prepareNextTurned(const QList<const Piece*>& pieces) {
+  for (const Piece* piece : pieces) {
+    if (piece->hasTurned()) continue;
+    if (piece->turned.isValid()) return;
+    piece->turned = QtConcurrent::run(
+        &waitingThreads(), [bitmap = piece->image] { return bitmap.transformed(QTransform().rotate(90)); });
+    return;
+  }
 }
 
 QRegion RenderedLayer::mappedRegion(const QTransform& layerToDevice, double margin,

@@ -55,9 +55,11 @@ class RenderedLayer {
     /// along its rows, so a picture that is being turned is painted from this from 45 degrees on. It is made
     /// beside the frames.
     mutable QFuture<QImage> turned;
-    void prepareTurned() const;
+    [[nodiscard]] bool hasTurned() const { return turned.isValid() && turned.isFinished(); }
     [[nodiscard]] qint64 bytes() const { return image.sizeInBytes() * (turned.isValid() ? 2 : 1); }
   };
+  static void prepareNextTurned(const QList<const Piece*>& pieces);
+
   QTransform transform_;
   QList<Piece> pieces_;
   QRegion covered_;

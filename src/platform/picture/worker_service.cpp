@@ -34,6 +34,11 @@ Result<void> WorkerService::start() {
   return starter_->start();
 }
 
+void WorkerService::yieldToWindows() {
+  constexpr int nice = 10;  // a tenth of a processor is left to them where everything is busy
+  starter_->setNice(nice);
+}
+
 void WorkerService::prepare(PictureKind kind, const PictureLimits& limits) {
   auto opened = WorkerConnection::open(starter_, ForkRequest{limits, kind == PictureKind::Eps});
   const std::lock_guard lock(preparedMutex_);

@@ -26,6 +26,8 @@ class WorkerService final : public PictureService {
   /// application object and no other call before it. Optional: open() starts it as well. A failure is told
   /// again by every call.
   Result<void> start();
+  /// For programs with a window: pictures that are drawn must not take the processor from frames that are shown.
+  void yieldToWindows();
   /// Makes a process ready for a document of this kind that is expected; for PostScript its interpreter
   /// begins to start. The next open() with this kind and these limits takes it. Returns at once.
   void prepare(PictureKind kind, const PictureLimits& limits = {});

@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -75,6 +76,18 @@ void WorkerStarter::adopt(SpawnedWorker worker) {
   pidfd_ = std::move(worker.pidfd);
   control_ = MessageChannel(std::move(worker.control));
   scratchRoot_ = std::move(worker.scratchRoot);
+  applyNice();
+}
+
+void WorkerStarter::setNice(int nice) {
+  const std::lock_guard lock(mutex_);
+  nice_ = nice;
+  applyNice();
+}
+
+void WorkerStarter::applyNice() const {
+  // Where it is not possible pictures are drawn at our own priority.
+  if (pid_ != 0 && nice_ > 0) ::setpriority(PRIO_PROCESS, id_t(pid_), ::getpriority(PRIO_PROCESS, 0) + nice_);
 }
 
 void WorkerStarter::stopLocked() {

@@ -51,6 +51,10 @@ class WorkerStarter {
   /// Instead of take(): the process shall be killed as soon as it is known.
   void abandon(const Ticket& ticket);
 
+  /// Lets the program and what it forks from now on run at a lower priority than us, however often it is started
+  /// again. `nice`: 0 to 19, as setpriority(2) has it.
+  void setNice(int nice);
+
   /// Process number of the warm program, 0 when it does not run. For tests and for --sandbox-status.
   [[nodiscard]] qint64 pid() const;
   /// norvex-worker where partOfProgram() finds it.
@@ -59,6 +63,7 @@ class WorkerStarter {
  private:
   Result<void> startLocked();
   void adopt(SpawnedWorker worker);
+  void applyNice() const;
   void stopLocked();
   [[nodiscard]] bool runs() const;
   Result<StartedProcess> takeNow(const Ticket& ticket);
@@ -71,6 +76,7 @@ class WorkerStarter {
   qint64 pid_ = 0;
   FileDescriptor pidfd_;
   std::string scratchRoot_;
+  int nice_ = 0;
   quint64 run_ = 0;
   quint32 requested_ = 0;
   std::map<quint32, Result<StartedProcess>> answered_;

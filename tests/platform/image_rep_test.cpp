@@ -339,6 +339,34 @@ class ImageRepTest : public QObject {
     QVERIFY(qAlpha(expected.pixel(142, 100)) == 255);
   }
 
+  void aPictureIsDrawnWhollyAtEveryScaleFactor_data() {
+    QTest::addColumn<double>("ratio");
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) QTest::addRow("%g", ratio) << ratio;
+  }
+
+  void aPictureIsDrawnWhollyAtEveryScaleFactor() {
+    QFETCH(const double, ratio);
+    MemoryPictureService service;
+    const auto rep = *NSPDFImageRep::imageRepWithData(service, kPdf);
+    const QSize pixels = QSize(300, 200) * ratio;
+    const auto frame = [&] {
+      QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+      image.setDevicePixelRatio(ratio);
+      image.fill(Qt::transparent);
+      QPainter painter(&image);
+      painter.translate(40, 160);
+      painter.scale(1, -1);
+      rep->draw(painter);
+      return image;
+    };
+    frame();
+    QVERIFY(QTest::qWaitFor([&] { return rep->isSharp(); }, 20000));
+    QImage image = frame();
+    image.setDevicePixelRatio(1);
+    const QTransform toDevice(ratio, 0, 0, -ratio, 40 * ratio, 160 * ratio);
+    QCOMPARE(image, testPattern({0, toDevice, pixels, RenderPurpose::View}, {200, 100}));
+  }
+
   void aFailedRenderingIsToldAndCanBeRetried() {
     MemoryPictureService service;
     const auto rep = *NSPDFImageRep::imageRepWithData(service, kPdf);

@@ -18,9 +18,9 @@ QRect visibleDeviceRect(const QPainter& painter) {
   const QPaintDevice* device = painter.device();
   const double ratio = device->devicePixelRatioF();
   // A widget is painted into the middle of its window's store: device pixels are counted from the window's
-  // corner.
+  // corner. Both transforms end in device pixels.
   const QPointF corner =
-      painter.deviceTransform().map(QPointF(0, 0)) - painter.combinedTransform().map(QPointF(0, 0)) * ratio;
+      painter.deviceTransform().map(QPointF(0, 0)) - painter.combinedTransform().map(QPointF(0, 0));
   const QRect all(QPoint(int(std::floor(corner.x())), int(std::floor(corner.y()))),
                   QSize(int(std::ceil(device->width() * ratio)), int(std::ceil(device->height() * ratio))));
   if (!painter.hasClipping()) return all;

@@ -6,6 +6,7 @@ QString windowStyleSheet() {
   return QStringLiteral(
       "QToolBar { border: none; padding: 4px 8px; spacing: 2px; background: palette(window); }"
       "QToolBar QToolButton { padding: 4px 7px; border: 1px solid transparent; border-radius: 6px; }"
+      "QToolBar QToolBarExtension { padding: 0; border: none; }"
       "QToolBar QToolButton:hover:enabled { background: palette(midlight); }"
       "QToolBar QToolButton:checked { background: palette(midlight); border-color: palette(mid); }"
       "QToolBar QToolButton:pressed { background: palette(mid); }"

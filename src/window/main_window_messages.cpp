@@ -64,7 +64,7 @@ void MainWindowController::retryDrawing() {
   QTimer::singleShot(kStoppedEndsMs, rep, [this, rep] {
     if (view()->imageRep().get() != rep) return;
     const auto error = rep->renderingError();
-    if ((error && error->kind == ErrorKind::Cancelled) || (process_ && process_->isStopping())) retryDrawing();
+    if ((error && StoppableProcess::meansStopped(*error)) || (process_ && process_->isStopping())) retryDrawing();
   });
 }
 

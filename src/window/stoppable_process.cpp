@@ -4,6 +4,11 @@
 #include <utility>
 
 namespace norvex {
+namespace {
+
+Error stoppedError() { return {ErrorKind::TimedOut, QStringLiteral("the drawing was stopped")}; }
+
+}  // namespace
 
 StoppableProcess::StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading)
     : process_(std::move(process)), loading_(std::move(loading)) {}
@@ -24,6 +29,11 @@ bool StoppableProcess::isStopping() {
   return std::any_of(active_.cbegin(), active_.cend(), [](const CancelToken& token) { return token.cancelled(); });
 }
 
+bool StoppableProcess::meansStopped(const Error& error) {
+  const Error stopped = stoppedError();
+  return error.kind == ErrorKind::Cancelled || (error.kind == stopped.kind && error.message == stopped.message);
+}
+
 Result<PictureFacts> StoppableProcess::facts(const CancelToken& cancel) {
   // A token cannot listen to another, and only the loading ever waits here.
   return process_->facts(loading_.cancelled() ? cancel : loading_);
@@ -34,7 +44,7 @@ Result<QImage> StoppableProcess::render(const RenderRequest& request, const Canc
   quint64 id = 0;
   {
     const std::lock_guard lock(mutex_);
-    if (stopped_) return Error{ErrorKind::TimedOut, QStringLiteral("the drawing was stopped")};
+    if (stopped_) return stoppedError();
     id = ++lastId_;
     active_.insert(id, cancel);
   }

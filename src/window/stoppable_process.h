@@ -21,6 +21,8 @@ class StoppableProcess final : public PictureProcess {
   void resume();
   /// Whether renderings that were stopped have not ended yet.
   [[nodiscard]] bool isStopping();
+  /// Whether the error says that the drawing was stopped, not that it failed.
+  [[nodiscard]] static bool meansStopped(const Error& error);
 
   Result<PictureFacts> facts(const CancelToken& cancel = {}) override;
   Result<QImage> render(const RenderRequest& request, const CancelToken& cancel = {}) override;

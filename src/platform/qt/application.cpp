@@ -3,7 +3,6 @@
 #include <QFileInfo>
 #include <QFileOpenEvent>
 #include <QIcon>
-#include <QThreadPool>
 
 #include <cstdio>
 #include <utility>
@@ -44,10 +43,6 @@ int& watchForMissingDisplay(int& argc) {
   return argc;
 }
 
-/// Qt paints large turned pictures on the global pool and waits for it. What else runs there mostly waits for picture
-/// processes: with one thread a core, a window would stand still until another one's document was read.
-constexpr int kPoolThreads = 32;
-
 }  // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(watchForMissingDisplay(argc), argv) {
@@ -58,7 +53,6 @@ Application::Application(int& argc, char** argv) : QApplication(watchForMissingD
   setApplicationVersion(QStringLiteral(NORVEX_VERSION));
   setDesktopFileName(desktopIdentifier());
   setWindowIcon(applicationIcon());
-  QThreadPool::globalInstance()->setMaxThreadCount(kPoolThreads);
   connect(this, &QGuiApplication::applicationStateChanged, &events_, &ApplicationEvents::setState);
 }
 

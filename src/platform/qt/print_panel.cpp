@@ -25,6 +25,7 @@
 #include "platform/qt/page_layout_controls.h"
 #include "platform/qt/page_layout_preview.h"
 #include "platform/qt/quiet_text.h"
+#include "platform/waiting_threads.h"
 
 namespace norvex {
 namespace {
@@ -188,7 +189,7 @@ QWidget* PrintPanel::previewColumn() {
 void PrintPanel::fetchPrinters() {
   if (printersWatcher_.isRunning() || printer_->view()->isVisible()) return;
   printersWatcher_.setFuture(
-      QtConcurrent::run([spooler = &spooler_, cancel = ending_] { return spooler->printers(cancel); }));
+      QtConcurrent::run(&waitingThreads(), [spooler = &spooler_, cancel = ending_] { return spooler->printers(cancel); }));
 }
 
 void PrintPanel::showPrinters(const Result<QList<Printer>>& printers) {
@@ -289,6 +290,7 @@ void PrintPanel::drawPage() {
   if (pixels.isEmpty()) return;
   PageImageRequest request{source_, info_, picture_, page_, pixels};
   drawingWatcher_.setFuture(QtConcurrent::run(
+      &waitingThreads(),
       [request, pictures = operation_.services().pictures, cancel = ending_]() mutable -> Drawn {
         if (request.picture.isEmpty()) {
           const Result<QByteArray> picture = pictureOf(request.source, cancel);

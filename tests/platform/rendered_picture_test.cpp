@@ -114,6 +114,16 @@ const QSizeF kSmall(200, 100);
 const QSizeF kLarge(4000, 3000);  // at factor 4 far more than one bitmap
 const Error kDied{ErrorKind::Died, QStringLiteral("the picture process ended")};
 
+MemoryPicture translucentPicture() {
+  MemoryPicture memory;
+  memory.paint = [](const RenderRequest& request) {
+    QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(0, 0, 255, 100));
+    return image;
+  };
+  return memory;
+}
+
 }  // namespace
 
 class RenderedPictureTest : public QObject {
@@ -222,13 +232,7 @@ class RenderedPictureTest : public QObject {
   }
 
   void aTranslucentPictureIsNotBlendedTwiceWhileItTurns() {
-    MemoryPicture memory;
-    memory.paint = [](const RenderRequest& request) {
-      QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
-      image.fill(QColor(0, 0, 255, 100));
-      return image;
-    };
-    const Fixture f(kLarge, {}, memory);
+    const Fixture f(kLarge, {}, translucentPicture());
     QVERIFY(f.becomesSharp(placed(kLarge, 0.06, 0, {150, 100})));
     QVERIFY(f.becomesSharp(placed(kLarge, 4, 0, {150, 100})));
     QVERIFY(f.becomesIdle());
@@ -339,13 +343,7 @@ class RenderedPictureTest : public QObject {
   }
 
   void translucentPicturesAreNotBlendedTwiceWhereBitmapsMeet() {
-    MemoryPicture memory;
-    memory.paint = [](const RenderRequest& request) {
-      QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
-      image.fill(QColor(0, 0, 255, 100));
-      return image;
-    };
-    const Fixture f(kLarge, {}, memory);
+    const Fixture f(kLarge, {}, translucentPicture());
     for (const int x : {0, 130, 300, 470, 700}) {
       const QTransform t = placed(kLarge, 4, 0, {150.0 - x, 100.0 + x / 2});
       QVERIFY(f.becomesSharp(t));

@@ -20,9 +20,6 @@ class RenderedFrame {
  public:
   RenderedFrame(const QTransform& pictureToDevice, const QRect& visibleDeviceRect, const QSizeF& pictureSize);
 
-  /// Whether a pixel of the picture is not filled yet. What is thinner than two pixels at the picture's own
-  /// edge does not count: it would cost the drawing of a whole layer.
-  [[nodiscard]] bool isOpen() const { return !missing_.isEmpty(); }
   /// Puts a layer behind those that were added; pixel for pixel where it fits the view, otherwise scaled or
   /// turned. Does nothing when it shows nothing that is still open.
   void add(const RenderedLayer& layer);
@@ -41,7 +38,9 @@ class RenderedFrame {
   QTransform transform_;
   QSizeF size_;
   QRegion open_;     ///< where something behind may be painted
-  QRegion missing_;  ///< where something must be
+  /// Where something must be. What is thinner than two pixels at the picture's own edge does not count: it would
+  /// cost the drawing of a whole layer.
+  QRegion missing_;
   QList<Part> parts_;
   int exact_ = 0;
 };

@@ -6,11 +6,53 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "platform/waiting_threads.h"
 
 namespace norvex {
+namespace {
+
+struct Extent {
+  double from = std::numeric_limits<double>::infinity();
+  double to = -std::numeric_limits<double>::infinity();
+};
+
+Extent extentAt(const QPolygonF& convex, double y) {
+  Extent extent;
+  for (qsizetype i = 0; i < convex.size(); ++i) {
+    const QPointF a = convex[i], b = convex[(i + 1) % convex.size()];
+    if ((a.y() <= y) == (b.y() <= y)) continue;
+    const double x = a.x() + (y - a.y()) * (b.x() - a.x()) / (b.y() - a.y());
+    extent.from = std::min(extent.from, x);
+    extent.to = std::max(extent.to, x);
+  }
+  return extent;
+}
+
+/// The pixels of `bounds` whose middles lie inside. A frame asks dozens of times; QRegion takes several times
+/// as long to fill a polygon.
+QRegion insideOf(const QPolygonF& convex, const QRect& bounds) {
+  QList<QRect> rows;
+  for (int y = bounds.top(); y <= bounds.bottom(); ++y) {
+    const Extent extent = extentAt(convex, y + 0.5);
+    const double left = std::max(extent.from, double(bounds.left()));
+    const double right = std::min(extent.to, double(bounds.right() + 1));
+    if (left >= right) continue;
+    const QRect row(QPoint(int(std::ceil(left - 0.5)), y), QPoint(int(std::floor(right - 0.5)), y));
+    if (!row.isValid()) continue;
+    if (!rows.isEmpty() && rows.last().left() == row.left() && rows.last().right() == row.right())
+      rows.last().setBottom(y);
+    else
+      rows << row;
+  }
+  QRegion region;
+  region.setRects(rows.constData(), int(rows.size()));
+  return region;
+}
+
+}  // namespace
 
 QRect pixelRect(const QRectF& rect) {
   constexpr double far = 1 << 28;
@@ -19,11 +61,10 @@ QRect pixelRect(const QRectF& rect) {
 }
 
 QRegion mappedRect(const QTransform& t, const QRectF& rect, const QRegion& within) {
-  const QRectF bounds = QRectF(within.boundingRect()).adjusted(-3, -3, 3, 3);
   if (rect.isEmpty() || within.isEmpty()) return {};
-  if (t.type() <= QTransform::TxScale) return within & pixelRect(t.mapRect(rect) & bounds);
-  const QPolygonF part = t.map(QPolygonF(rect)).intersected(QPolygonF(bounds));
-  return part.isEmpty() ? QRegion() : QRegion(part.toPolygon()) & within;
+  const QRect bounds = within.boundingRect() & pixelRect(t.mapRect(rect));
+  if (t.type() <= QTransform::TxScale) return within & bounds;
+  return insideOf(t.map(QPolygonF(rect)), bounds) & within;
 }
 
 double RenderedLayer::distance(const QTransform& t, const QSizeF& size) const {

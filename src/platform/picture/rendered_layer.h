@@ -67,7 +67,7 @@ class RenderedLayer {
 
 /// The rectangle of whole pixels around `rect`, kept in a range in which integers cannot overflow.
 [[nodiscard]] QRect pixelRect(const QRectF& rect);
-/// The pixels of `within` that the mapped rectangle fills, give or take one at a slanted edge.
+/// The pixels of `within` that the mapped rectangle fills: those whose middles lie inside.
 [[nodiscard]] QRegion mappedRect(const QTransform& transform, const QRectF& rect, const QRegion& within);
 
 }  // namespace norvex

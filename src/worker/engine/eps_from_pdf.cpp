@@ -1,5 +1,5 @@
-// A PDF page as EPS: Poppler writes the vectors, the parts that need transparency are cut out and drawn as images.
-// docs/eps-generator.md tells why.
+// A PDF page as EPS: Poppler writes the vectors, the parts that need transparency are cut out and drawn as
+// images. docs/eps-generator.md tells why.
 #include <cmath>
 
 #include "worker/engine/engine.h"
@@ -27,7 +27,8 @@ QSize wholePoints(QSizeF size) {
   return QSize(int(std::ceil(size.width() - 1e-6)), int(std::ceil(size.height() - 1e-6)));
 }
 
-// The page with its corner at the origin, upright and in points: most pages are, the others are placed once more.
+// The page with its corner at the origin, upright and in points: most pages are, the others are placed once
+// more.
 Result<QByteArray> upright(const QByteArray& pdf) {
   Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
   if (!file) return file.error();
@@ -46,7 +47,8 @@ Result<Opaque> withoutTransparency(const QByteArray& pdf) {
     opaque.size = (*file)->geometry(0).shownSize();
     QPDFObjectHandle page = (*file)->page(0);
     page.removeKey("/CropBox");
-    page.replaceKey("/MediaBox", boxAtOrigin(wholePoints(opaque.size).width(), wholePoints(opaque.size).height()));
+    page.replaceKey("/MediaBox",
+                    boxAtOrigin(wholePoints(opaque.size).width(), wholePoints(opaque.size).height()));
     keepOnlyPage((*file)->qpdf(), page);
     opaque.usedTransparency = usesTransparency((*file)->qpdf());
     removeTransparency((*file)->qpdf());
@@ -82,7 +84,8 @@ Result<QList<EpsImage>> imagesOf(const QByteArray& pdf, const QList<QRectF>& reg
   PdfRenderer renderer(pdf);
   QList<EpsImage> images;
   for (const QRectF& region : regions) {
-    if (context.cancel.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
+    if (context.cancel.cancelled())
+      return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
     Result<EpsImage> image = imageOf(renderer, region, pageSize, scale, context.limits);
     if (!image) return image.error();
     images << std::move(*image);
@@ -108,7 +111,7 @@ Result<EngineBytes> epsFromPdf(const QByteArray& source, EngineContext& context)
     images = std::move(*made);
     if (!images.isEmpty()) dpi = imageScale(*regions, context.limits) * 72;
   }
-  const Result<PagePostScript> page = postScriptOfPage(opaque->pdf, wholePoints(opaque->size), context);
+  const Result<PagePostScript> page = postScriptOfPage(opaque->pdf, wholePoints(opaque->size));
   if (!page) return page.error();
   EngineBytes result{writeEps(opaque->size, *page, images), {}};
   result.report.regionsRasterised = int(images.size());

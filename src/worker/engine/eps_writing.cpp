@@ -6,7 +6,6 @@
 #include <cmath>
 
 #include "worker/engine/pdf_numbers.h"
-#include "worker/engine/smooth_shading.h"
 
 namespace norvex::engine {
 namespace {
@@ -14,9 +13,11 @@ namespace {
 // Of the images: beyond this zlib spends twice the time on a tenth of the size.
 constexpr int kImageCompression = 3;
 
-// The page leaves operands behind now and then. Whoever places the file on a page finds the stacks as they were.
+// The page leaves operands behind now and then. Whoever places the file on a page finds the stacks as they
+// were.
 const QByteArray kOpening =
-    "3 dict begin /NorvexDictionaries countdictstack def count /NorvexOperands exch def /NorvexState save def\n";
+    "3 dict begin /NorvexDictionaries countdictstack def count /NorvexOperands exch def /NorvexState save "
+    "def\n";
 const QByteArray kClosing =
     "countdictstack NorvexDictionaries sub { end } repeat count NorvexOperands sub { pop } repeat\n"
     "NorvexState end restore\n";
@@ -24,26 +25,27 @@ const QByteArray kClosing =
 QByteArray creationDate() {
   bool fixed = false;
   const qint64 epoch = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&fixed);
-  const QDateTime date = fixed ? QDateTime::fromSecsSinceEpoch(epoch, Qt::UTC) : QDateTime::currentDateTimeUtc();
+  const QDateTime date =
+      fixed ? QDateTime::fromSecsSinceEpoch(epoch, Qt::UTC) : QDateTime::currentDateTimeUtc();
   return date.toString(Qt::ISODate).toLatin1();
 }
 
-QByteArray header(QSizeF size, bool hasImages) {
+QByteArray header(QSizeF size) {
   const QByteArray wide = QByteArray::number(int(std::ceil(size.width() - 1e-6)));
   const QByteArray high = QByteArray::number(int(std::ceil(size.height() - 1e-6)));
   return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 " + wide + ' ' + high + "\n%%HiResBoundingBox: 0 0 " +
          decimal(size.width()) + ' ' + decimal(size.height()) +
          "\n%%Title: Untitled\n%%Creator: Norvex " NORVEX_VERSION "\n%%CreationDate: " + creationDate() +
-         "\n%%For: \n%%LanguageLevel: " + (hasImages ? "3" : "2") +
-         "\n%%DocumentData: Clean7Bit\n%%Pages: 1\n%%EndComments\n";
+         "\n%%For: \n%%LanguageLevel: 3\n%%DocumentData: Clean7Bit\n%%Pages: 1\n%%EndComments\n";
 }
 
 QByteArray rectangle(const QRectF& rect) {
-  return decimal(rect.x()) + ' ' + decimal(rect.y()) + ' ' + decimal(rect.width()) + ' ' + decimal(rect.height());
+  return decimal(rect.x()) + ' ' + decimal(rect.y()) + ' ' + decimal(rect.width()) + ' ' +
+         decimal(rect.height());
 }
 
-// What is left to an image. The image reaches a little over the edge of the hole, so that no seam shows; but nothing
-// joins it at the edge of the page.
+// What is left to an image. The image reaches a little over the edge of the hole, so that no seam shows; but
+// nothing joins it at the edge of the page.
 QRectF holeFor(const EpsImage& image, QSizeF size) {
   const QRectF& rect = image.rect;
   const double inset = 0.5 * rect.width() / std::max(1, image.image.width());
@@ -106,17 +108,17 @@ QByteArray imageText(const EpsImage& part) {
   const Samples samples = samplesOf(part.image);
   const QByteArray w = QByteArray::number(part.image.width());
   const QByteArray h = QByteArray::number(part.image.height());
-  const QByteArray common = "/ImageType 1 /Width " + w + " /Height " + h + " /BitsPerComponent 8 /ImageMatrix [" + w +
-                            " 0 0 -" + h + " 0 " + h + "]";
+  const QByteArray common = "/ImageType 1 /Width " + w + " /Height " + h +
+                            " /BitsPerComponent 8 /ImageMatrix [" + w + " 0 0 -" + h + " 0 " + h + "]";
   const QByteArray colours = "<< " + common + " /Decode [0 1 0 1 0 1] /DataSource D /FlateDecode filter >>";
-  const QByteArray dictionary =
-      samples.masked ? "<< /ImageType 3 /InterleaveType 1 /DataDict " + colours + " /MaskDict << " + common +
-                           " /Decode [0 1] >> >>"
-                     : colours;
+  const QByteArray dictionary = samples.masked ? "<< /ImageType 3 /InterleaveType 1 /DataDict " + colours +
+                                                     " /MaskDict << " + common + " /Decode [0 1] >> >>"
+                                               : colours;
   return "gsave\n" + decimal(part.rect.x()) + ' ' + decimal(part.rect.y()) + " translate " +
          decimal(part.rect.width()) + ' ' + decimal(part.rect.height()) +
-         " scale\n{ 1 dict begin /D currentfile /ASCII85Decode filter def /DeviceRGB setcolorspace\n" + dictionary +
-         " image D flushfile end } exec\n" + ascii85(qCompress(samples.bytes, kImageCompression).mid(4)) + "\ngrestore\n";
+         " scale\n{ 1 dict begin /D currentfile /ASCII85Decode filter def /DeviceRGB setcolorspace\n" +
+         dictionary + " image D flushfile end } exec\n" +
+         ascii85(qCompress(samples.bytes, kImageCompression).mid(4)) + "\ngrestore\n";
 }
 
 }  // namespace
@@ -148,8 +150,8 @@ QByteArray ascii85(const QByteArray& bytes) {
 }
 
 QByteArray writeEps(QSizeF size, const PagePostScript& page, const QList<EpsImage>& images) {
-  QByteArray eps = header(size, !images.isEmpty());
-  eps += "%%BeginProlog\n" + page.procedures + smoothShadingProcedures() + "%%EndProlog\n%%Page: 1 1\n" + kOpening +
+  QByteArray eps = header(size);
+  eps += "%%BeginProlog\n" + page.procedures + "%%EndProlog\n%%Page: 1 1\n" + kOpening +
          rectangle(QRectF(QPointF(0, 0), size)) + " rectclip\n";
   if (!images.isEmpty()) eps += "gsave\n" + clipAround(size, images);
   eps += page.setup + page.page;

@@ -1,27 +1,13 @@
 #include "worker/engine/poppler_postscript.h"
 
-// GIO has members called "signals", which Qt makes a macro of.
-#pragma push_macro("signals")
-#undef signals
-#include <poppler.h>
-#pragma pop_macro("signals")
-
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <QFile>
-#include <QTemporaryFile>
-
 #include <algorithm>
-#include <memory>
 #include <optional>
+
+#include "worker/engine/postscript_device.h"
+#include "worker/engine/postscript_shading.h"
 
 namespace norvex::engine {
 namespace {
-
-struct GObjectRelease {
-  void operator()(void* object) const { g_object_unref(object); }
-};
 
 const Error kUnexpected{ErrorKind::Unsupported, QStringLiteral("the page cannot be written as PostScript")};
 
@@ -38,16 +24,17 @@ std::optional<QByteArray> between(const QByteArray& text, const QByteArray& begi
 // Comments that would be taken for this file's own, or that speak for somebody else's.
 bool isForeignComment(QByteArrayView line) {
   if (!line.startsWith('%')) return false;
-  for (const char* keyword :
-       {"%%Title", "%%Creator", "%%CreationDate", "%%For:", "%%Copyright", "%%Version", "%%BoundingBox",
-        "%%HiResBoundingBox", "%%EndComments", "%%Routing", "%%BeginResource", "%%EndResource", "%%EOF", "%!PS", "%!FontType"})
+  for (const char* keyword : {"%%Title", "%%Creator", "%%CreationDate", "%%For:", "%%Copyright", "%%Version",
+                              "%%BoundingBox", "%%HiResBoundingBox", "%%EndComments", "%%Routing",
+                              "%%BeginResource", "%%EndResource", "%%EOF", "%!PS", "%!FontType"})
     if (line.startsWith(keyword)) return true;
   return false;
 }
 
 // What sets up paper or the printer has no place in a picture that is placed on somebody's page.
 bool isForPrinters(QByteArrayView line) {
-  return line.endsWith("pdfSetup") || line.endsWith("pdfSetupPaper") || line == QByteArrayView("{} settransfer");
+  return line.endsWith("pdfSetup") || line.endsWith("pdfSetupPaper") ||
+         line == QByteArrayView("{} settransfer");
 }
 
 // Pages are large: a line is copied once, and looked at byte by byte only when it has to be.
@@ -95,7 +82,7 @@ Result<PagePostScript> takeApart(const QByteArray& postScript) {
   if (!procedures || !setup || page < 0 || trailer < page) return kUnexpected;
   const qsizetype begin = page + qsizetype(sizeof "\n%%EndPageSetup\n") - 1;
   PagePostScript result;
-  result.procedures = cleaned(*procedures);
+  result.procedures = cleaned(*procedures) + shadingProcedures();
   result.setup = cleaned(*setup);
   result.page = cleaned(postScript.mid(begin, trailer + 1 - begin));
   if (!result.page.endsWith("showpage\n")) return kUnexpected;
@@ -104,28 +91,10 @@ Result<PagePostScript> takeApart(const QByteArray& postScript) {
   return result;
 }
 
-Result<PagePostScript> postScriptOfPage(const QByteArray& pdf, QSize pageSize, const EngineContext& context) {
-  QTemporaryFile file(context.scratchFolder + QStringLiteral("/page-XXXXXX.ps"));
-  if (!file.open())
-    return Error{ErrorKind::CannotWrite, QStringLiteral("the scratch folder cannot be written")};
-  {
-    GBytes* bytes = g_bytes_new_static(pdf.constData(), gsize(pdf.size()));
-    GError* error = nullptr;
-    const std::unique_ptr<PopplerDocument, GObjectRelease> document(
-        poppler_document_new_from_bytes(bytes, nullptr, &error));
-    g_bytes_unref(bytes);
-    g_clear_error(&error);
-    if (!document || poppler_document_get_n_pages(document.get()) < 1) return kUnexpected;
-    const std::unique_ptr<PopplerPage, GObjectRelease> page(poppler_document_get_page(document.get(), 0));
-    const int descriptor = ::open(QFile::encodeName(file.fileName()).constData(), O_WRONLY | O_TRUNC | O_CLOEXEC);
-    if (!page || descriptor < 0) return kUnexpected;
-    // The generator owns the descriptor and writes the end of its output when it is released.
-    const std::unique_ptr<PopplerPSFile, GObjectRelease> generator(
-        poppler_ps_file_new_fd(document.get(), descriptor, 0, 1));
-    poppler_ps_file_set_paper_size(generator.get(), pageSize.width(), pageSize.height());
-    poppler_page_render_to_ps(page.get(), generator.get());
-  }
-  return takeApart(file.readAll());
+Result<PagePostScript> postScriptOfPage(const QByteArray& pdf, QSize pageSize) {
+  const Result<QByteArray> postScript = generatedPostScript(pdf, pageSize);
+  if (!postScript) return postScript.error();
+  return takeApart(*postScript);
 }
 
 }  // namespace norvex::engine

@@ -2,6 +2,8 @@
 
 #include <QRect>
 
+#include <cairo-pdf.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -15,15 +17,18 @@ constexpr int kLongestSide = 32767;
 
 Result<void> checkRequest(const RenderRequest& request, const PictureLimits& limits) {
   const QSize size = request.pixelSize;
-  if (size.isEmpty()) return Error{ErrorKind::Protocol, QStringLiteral("an image without pixels was asked for")};
+  if (size.isEmpty())
+    return Error{ErrorKind::Protocol, QStringLiteral("an image without pixels was asked for")};
   const QTransform& m = request.pictureToDevice;
   bool finite = m.isAffine();
   for (const double value : {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), m.dy()})
     finite = finite && std::isfinite(value);
-  if (!finite) return Error{ErrorKind::Protocol, QStringLiteral("the picture cannot be drawn through this matrix")};
+  if (!finite)
+    return Error{ErrorKind::Protocol, QStringLiteral("the picture cannot be drawn through this matrix")};
   if (std::max(size.width(), size.height()) > limits::maximumSide)
-    return Error{ErrorKind::Limit,
-                 QStringLiteral("the image would have a side of more than %1 pixels").arg(limits::maximumSide)};
+    return Error{
+        ErrorKind::Limit,
+        QStringLiteral("the image would have a side of more than %1 pixels").arg(limits::maximumSide)};
   if (double(size.width()) * size.height() > limits.megapixels * 1e6)
     return Error{ErrorKind::Limit,
                  QStringLiteral("the image would have more than %1 megapixels").arg(limits.megapixels)};
@@ -32,8 +37,8 @@ Result<void> checkRequest(const RenderRequest& request, const PictureLimits& lim
 
 Result<void> paintTile(uchar* firstPixel, int stride, const QRect& tile, const QTransform& pictureToDevice,
                        const PaintPicture& paint) {
-  const CairoSurface surface(cairo_image_surface_create_for_data(firstPixel, CAIRO_FORMAT_ARGB32, tile.width(),
-                                                                 tile.height(), stride));
+  const CairoSurface surface(cairo_image_surface_create_for_data(firstPixel, CAIRO_FORMAT_ARGB32,
+                                                                 tile.width(), tile.height(), stride));
   const CairoContext context(cairo_create(surface.get()));
   const cairo_matrix_t matrix = toCairo(pictureToDevice * QTransform::fromTranslate(-tile.x(), -tile.y()));
   cairo_set_matrix(context.get(), &matrix);
@@ -49,15 +54,22 @@ Result<void> paintTile(uchar* firstPixel, int stride, const QRect& tile, const Q
   return {};
 }
 
+cairo_status_t append(void* bytes, const unsigned char* data, unsigned int length) {
+  static_cast<QByteArray*>(bytes)->append(reinterpret_cast<const char*>(data), qsizetype(length));
+  return CAIRO_STATUS_SUCCESS;
+}
+
 }  // namespace
 
 cairo_matrix_t toCairo(const QTransform& matrix) {
   cairo_matrix_t result;
-  cairo_matrix_init(&result, matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(), matrix.dy());
+  cairo_matrix_init(&result, matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(),
+                    matrix.dy());
   return result;
 }
 
-Result<QImage> paintImage(const RenderRequest& request, const PictureLimits& limits, const PaintPicture& paint) {
+Result<QImage> paintImage(const RenderRequest& request, const PictureLimits& limits,
+                          const PaintPicture& paint) {
   if (const Result<void> fit = checkRequest(request, limits); !fit) return fit.error();
   const QSize size = request.pixelSize;
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -67,7 +79,8 @@ Result<QImage> paintImage(const RenderRequest& request, const PictureLimits& lim
   if (!request.pictureToDevice.isInvertible()) return image;
   for (int y = 0; y < size.height(); y += kLongestSide) {
     for (int x = 0; x < size.width(); x += kLongestSide) {
-      const QRect tile(x, y, std::min(kLongestSide, size.width() - x), std::min(kLongestSide, size.height() - y));
+      const QRect tile(x, y, std::min(kLongestSide, size.width() - x),
+                       std::min(kLongestSide, size.height() - y));
       uchar* firstPixel = image.scanLine(y) + 4 * qsizetype(x);
       const Result<void> painted =
           paintTile(firstPixel, int(image.bytesPerLine()), tile, request.pictureToDevice, paint);
@@ -75,6 +88,20 @@ Result<QImage> paintImage(const RenderRequest& request, const PictureLimits& lim
     }
   }
   return image;
+}
+
+Result<QByteArray> paintPdf(QSizeF size, int pages, const PaintPdfPage& paint) {
+  QByteArray pdf;
+  const CairoSurface surface(cairo_pdf_surface_create_for_stream(append, &pdf, size.width(), size.height()));
+  for (int page = 0; page < pages; ++page) {
+    const CairoContext context(cairo_create(surface.get()));
+    if (const Result<void> painted = paint(context.get(), page); !painted) return painted.error();
+    cairo_show_page(context.get());
+  }
+  cairo_surface_finish(surface.get());
+  if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS)
+    return Error{ErrorKind::Unsupported, QStringLiteral("the picture cannot be written as PDF")};
+  return pdf;
 }
 
 }  // namespace norvex::engine

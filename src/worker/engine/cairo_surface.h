@@ -1,7 +1,9 @@
-// Drawing with cairo straight into the bits of a QImage, without a copy.
+// Drawing with cairo: straight into the bits of a QImage, without a copy, or into a PDF.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
+#include <QSizeF>
 #include <QTransform>
 
 #include <cairo.h>
@@ -34,5 +36,11 @@ using PaintPicture = std::function<Result<void>(cairo_t* context)>;
 /// a line or a point gives an empty image.
 [[nodiscard]] Result<QImage> paintImage(const RenderRequest& request, const PictureLimits& limits,
                                         const PaintPicture& paint);
+
+/// Paints the page of a PDF, counted from 0: points, origin at the upper-left corner, y down.
+using PaintPdfPage = std::function<Result<void>(cairo_t* context, int page)>;
+
+/// `pages` pages of `size` points each. Fails with Unsupported where cairo does, or with what `paint` fails with.
+[[nodiscard]] Result<QByteArray> paintPdf(QSizeF size, int pages, const PaintPdfPage& paint);
 
 }  // namespace norvex::engine

@@ -1,4 +1,5 @@
-// A rectangle of a turned page as a page of its own: nothing is drawn again, the page becomes a form that is placed.
+// A rectangle of a turned page as a page of its own: nothing is drawn again, the page becomes a form that is
+// placed.
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
 #include <qpdf/QPDFObjectHandle.hh>
@@ -7,6 +8,7 @@
 
 #include <cmath>
 
+#include "worker/engine/annotation_drawings.h"
 #include "worker/engine/engine.h"
 #include "worker/engine/pdf_file.h"
 #include "worker/engine/pdf_numbers.h"
@@ -18,7 +20,9 @@ namespace {
 
 bool isUsable(const ComposeRequest& request) {
   const QRectF& rect = request.rect;
-  const auto fits = [](double value) { return std::isfinite(value) && std::abs(value) <= limits::maximumPoints; };
+  const auto fits = [](double value) {
+    return std::isfinite(value) && std::abs(value) <= limits::maximumPoints;
+  };
   return fits(rect.x()) && fits(rect.y()) && fits(rect.width()) && fits(rect.height()) && rect.width() > 0 &&
          rect.height() > 0 && std::isfinite(request.rotate);
 }
@@ -41,27 +45,15 @@ QTransform placement(const PageGeometry& geometry, const ComposeRequest& request
          turn(request.rotate) * QTransform::fromTranslate(-request.rect.x(), -request.rect.y());
 }
 
-bool everyFieldHasAnAppearance(QPDFObjectHandle page) {
-  QPDFObjectHandle annotations = page.getKey("/Annots");
-  if (!annotations.isArray()) return true;
-  for (int i = 0; i < annotations.getArrayNItems(); ++i) {
-    QPDFObjectHandle annotation = annotations.getArrayItem(i);
-    if (annotation.isDictionary() && annotation.getKey("/Subtype").isNameAndEquals("/Widget") &&
-        !annotation.getKey("/AP").isDictionary())
-      return false;
-  }
-  return true;
-}
-
-// Appearances of annotations and form fields become part of the page's contents, as they are shown on the screen.
-// Those that the file brings are better than those that could be made here.
-void flattenAnnotations(QPDF& qpdf, QPDFObjectHandle page) {
-  QPDFAcroFormDocumentHelper form(qpdf);
-  if (everyFieldHasAnAppearance(page))
-    form.setNeedAppearances(false);
-  else
-    form.generateAppearancesIfNeeded();
-  QPDFPageDocumentHelper(qpdf).flattenAnnotations(0, an_invisible | an_hidden | an_no_view);
+// Annotations and form fields become part of the page's contents, as they are shown on the screen.
+Result<void> flattenAnnotations(QPDF& qpdf, QPDFObjectHandle page, const PageGeometry& geometry,
+                                QPDFObjectHandle interactiveForm) {
+  if (const Result<void> complete = completeAnnotations(qpdf, page, geometry, interactiveForm); !complete)
+    return complete;
+  if (interactiveForm.isDictionary()) qpdf.getRoot().replaceKey("/AcroForm", interactiveForm);
+  QPDFAcroFormDocumentHelper(qpdf).setNeedAppearances(false);
+  QPDFPageDocumentHelper(qpdf).flattenAnnotations(0, an_hidden | an_no_view);
+  return {};
 }
 
 // The page's attributes that may come from its ancestors, before it is cut off from them.
@@ -92,7 +84,8 @@ QPDFObjectHandle formOf(QPDF& qpdf, QPDFObjectHandle page, const QRectF& box) {
   dictionary.removeKey("/Matrix");
   dictionary.removeKey("/Group");  // it stays the page's own
   QPDFObjectHandle resources = page.getKey("/Resources");
-  dictionary.replaceKey("/Resources", resources.isDictionary() ? resources : QPDFObjectHandle::newDictionary());
+  dictionary.replaceKey("/Resources",
+                        resources.isDictionary() ? resources : QPDFObjectHandle::newDictionary());
   return form;
 }
 
@@ -131,8 +124,8 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
     QPDFObjectHandle interactiveForm = file.qpdf().getRoot().getKey("/AcroForm");
     keepOnlyPage(file.qpdf(), source);
     if (source.hasKey("/Annots")) {
-      if (interactiveForm.isDictionary()) file.qpdf().getRoot().replaceKey("/AcroForm", interactiveForm);
-      flattenAnnotations(file.qpdf(), source);
+      const Result<void> flat = flattenAnnotations(file.qpdf(), source, geometry, interactiveForm);
+      if (!flat) return flat.error();
     }
     const QPDFObjectHandle form = formOf(file.qpdf(), source, geometry.box);
     keepOnlyPage(file.qpdf(), placedPage(file.qpdf(), source, form, request, placement(geometry, request)));

@@ -25,8 +25,8 @@ Error unreadable(GError* error) {
   return result;
 }
 
-// Poppler draws a frame around links, as a reader does in which they can be clicked. It is no part of the picture: what
-// is handed out and printed has none either.
+// Poppler draws a frame around links, as a reader does in which they can be clicked. It is no part of the
+// picture: what is handed out and printed has none either.
 void hideLinks(PopplerPage* page) {
   GList* annotations = poppler_page_get_annot_mapping(page);
   for (GList* at = annotations; at; at = at->next) {
@@ -38,8 +38,9 @@ void hideLinks(PopplerPage* page) {
   poppler_page_free_annot_mapping(annotations);
 }
 
-// Poppler draws into a space with its origin at the page's upper-left corner, y down, one unit of user space a unit;
-// the clip keeps what lies outside the page (and in a neighbouring pixel's share of its edge) unpainted.
+// Poppler draws into a space with its origin at the page's upper-left corner, y down, one unit of user space
+// a unit; the clip keeps what lies outside the page (and in a neighbouring pixel's share of its edge)
+// unpainted.
 Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
   double width = 0;
   double height = 0;
@@ -53,9 +54,21 @@ Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
   return {};
 }
 
+// The page as it is shown: all that is drawn goes through here.
+Result<PagePointer> shownPage(PopplerDocument* document, int page) {
+  const int count = poppler_document_get_n_pages(document);
+  if (page < 0 || page >= count) return noSuchPage(page, count);
+  PagePointer opened(poppler_document_get_page(document, page));
+  if (!opened) return Error{ErrorKind::NotParsable, QStringLiteral("page %1 cannot be read").arg(page + 1)};
+  hideLinks(opened.get());
+  return opened;
+}
+
 }  // namespace
 
-void PdfRenderer::Release::operator()(_PopplerDocument* document) const { g_object_unref(document); }
+void PdfRenderer::Release::operator()(_PopplerDocument* document) const {
+  g_object_unref(document);
+}
 
 Result<void> PdfRenderer::load() {
   if (document_) return {};
@@ -67,15 +80,25 @@ Result<void> PdfRenderer::load() {
   return {};
 }
 
-Result<QImage> PdfRenderer::render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits) {
+Result<QImage> PdfRenderer::render(const RenderRequest& request, QSizeF shownSize,
+                                   const PictureLimits& limits) {
+  if (const Result<void> loaded = load(); !loaded) return loaded.error();
+  const Result<PagePointer> page = shownPage(document_.get(), request.page);
+  if (!page) return page.error();
+  return paintImage(request, limits,
+                    [&](cairo_t* context) { return paintPage(context, page->get(), shownSize); });
+}
+
+Result<QByteArray> PdfRenderer::vectors(QSizeF shownSize, const QTransform& pictureToSheet, QSizeF sheet) {
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
   const int count = poppler_document_get_n_pages(document_.get());
-  if (request.page < 0 || request.page >= count) return noSuchPage(request.page, count);
-  const PagePointer page(poppler_document_get_page(document_.get(), request.page));
-  if (!page) return Error{ErrorKind::NotParsable, QStringLiteral("page %1 cannot be read").arg(request.page + 1)};
-  hideLinks(page.get());
-  return paintImage(request, limits,
-                    [&](cairo_t* context) { return paintPage(context, page.get(), shownSize); });
+  return paintPdf(sheet, count, [&](cairo_t* context, int number) -> Result<void> {
+    const Result<PagePointer> page = shownPage(document_.get(), number);
+    if (!page) return page.error();
+    const cairo_matrix_t matrix = toCairo(pictureToSheet);
+    cairo_set_matrix(context, &matrix);
+    return paintPage(context, page->get(), shownSize);
+  });
 }
 
 Result<QString> PdfRenderer::text(int page) {

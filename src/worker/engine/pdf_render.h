@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QSizeF>
 #include <QString>
+#include <QTransform>
 
 #include <memory>
 
@@ -25,6 +26,10 @@ class PdfRenderer {
   /// and pixels that the page does not paint stay transparent. Fails as paintImage() does, with NotParsable when
   /// Poppler cannot read the document and with Unsupported when there is no such page.
   [[nodiscard]] Result<QImage> render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits);
+  /// Draws every page as render() does, but as vectors: a PDF of as many pages. The pages are all of the same
+  /// `shownSize`; `pictureToSheet` maps picture coordinates to the new pages (`sheet` points large, origin at the
+  /// upper-left corner, y down). A line of less than a point on the new page is a point wide. Fails like render().
+  [[nodiscard]] Result<QByteArray> vectors(QSizeF shownSize, const QTransform& pictureToSheet, QSizeF sheet);
   /// The words of a page in reading order. Fails like render().
   [[nodiscard]] Result<QString> text(int page);
 

@@ -72,8 +72,8 @@ QByteArray sheetsOf(QPDF& qpdf, const PagesRequest& request, Drawings& drawings)
   for (const SheetPart& sheet : request.sheets.mid(1))
     QPDFPageDocumentHelper(qpdf).addPage(sheetPage(qpdf, request.paper, sheet, drawings), false);
   if (!request.title.isEmpty())
-    qpdf.getTrailer().getKey("/Info").replaceKey("/Title",
-                                                 QPDFObjectHandle::newUnicodeString(request.title.toStdString()));
+    qpdf.getTrailer().getKey("/Info").replaceKey(
+        "/Title", QPDFObjectHandle::newUnicodeString(request.title.toStdString()));
   return writePdf(qpdf);
 }
 
@@ -101,8 +101,6 @@ Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& reque
     Drawings drawings;
     if (file) {
       QPDFObjectHandle page = file->page(0);
-      QPDFObjectHandle resources = file->attribute(0, "/Resources");
-      if (!resources.isNull()) page.replaceKey("/Resources", resources);
       const PageGeometry geometry = file->geometry(0);
       drawings.userToPicture = geometry.userToPicture();
       drawings.picture = formOf(page, geometry.box);

@@ -56,14 +56,6 @@ Result<void> flattenAnnotations(QPDF& qpdf, QPDFObjectHandle page, const PageGeo
   return {};
 }
 
-// The page's attributes that may come from its ancestors, before it is cut off from them.
-void keepInherited(PdfFile& file, int page) {
-  for (const char* key : {"/MediaBox", "/CropBox", "/Rotate", "/Resources"}) {
-    QPDFObjectHandle value = file.attribute(page, key);
-    if (!value.isNull()) file.page(page).replaceKey(key, value);
-  }
-}
-
 // The page's contents as a stream that can be given another dictionary. One stream keeps its compression.
 QPDFObjectHandle contentsOf(QPDF& qpdf, QPDFObjectHandle page) {
   QPDFObjectHandle contents = page.getKey("/Contents");
@@ -120,7 +112,6 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
   return guarded([&]() -> Result<QByteArray> {
     const PageGeometry geometry = file.geometry(request.page);
     QPDFObjectHandle source = file.page(request.page);
-    keepInherited(file, request.page);
     QPDFObjectHandle interactiveForm = file.qpdf().getRoot().getKey("/AcroForm");
     keepOnlyPage(file.qpdf(), source);
     if (source.hasKey("/Annots")) {

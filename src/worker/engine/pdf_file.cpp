@@ -1,13 +1,13 @@
 #include "worker/engine/pdf_file.h"
 
 #include <qpdf/QPDFExc.hh>
-#include <qpdf/QPDFPageObjectHelper.hh>
 
 #include <algorithm>
 #include <cmath>
 #include <new>
 #include <optional>
 
+#include "worker/engine/pdf_page_tree.h"
 #include "worker/limits.h"
 
 namespace norvex::engine {
@@ -58,10 +58,14 @@ QTransform PageGeometry::userToPicture() const {
   const double h = box.height();
   const QTransform toCorner = QTransform::fromTranslate(-box.x(), -box.y());
   switch (rotation) {
-    case 90: return toCorner * QTransform(0, -u, u, 0, 0, w * u);
-    case 180: return toCorner * QTransform(-u, 0, 0, -u, w * u, h * u);
-    case 270: return toCorner * QTransform(0, u, -u, 0, h * u, 0);
-    default: return toCorner * QTransform::fromScale(u, u);
+    case 90:
+      return toCorner * QTransform(0, -u, u, 0, 0, w * u);
+    case 180:
+      return toCorner * QTransform(-u, 0, 0, -u, w * u, h * u);
+    case 270:
+      return toCorner * QTransform(0, u, -u, 0, h * u, 0);
+    default:
+      return toCorner * QTransform::fromScale(u, u);
   }
 }
 
@@ -70,7 +74,8 @@ Error pdfError(const std::exception& caught) {
     if (known->getErrorCode() == qpdf_e_password)
       return {ErrorKind::Encrypted, QStringLiteral("the document is protected with a password")};
     if (known->getErrorCode() == qpdf_e_unsupported)
-      return {ErrorKind::Unsupported, QStringLiteral("the document uses an encryption that is not supported")};
+      return {ErrorKind::Unsupported,
+              QStringLiteral("the document uses an encryption that is not supported")};
     return {ErrorKind::NotParsable, QStringLiteral("the document is not a readable PDF (%1)")
                                         .arg(QString::fromStdString(known->getMessageDetail()).simplified())};
   }
@@ -90,32 +95,29 @@ Result<std::unique_ptr<PdfFile>> PdfFile::open(const QByteArray& bytes) {
     std::unique_ptr<PdfFile> file(new PdfFile(bytes));
     file->qpdf_->setSuppressWarnings(true);
     file->qpdf_->processMemoryFile("document", file->bytes_.constData(), size_t(file->bytes_.size()));
-    file->pages_ = file->qpdf_->getAllPages();
+    Result<PageTree> tree = pageTree(*file->qpdf_);
+    if (!tree) return tree.error();
+    file->pages_ = std::move(tree->pages);
+    file->treeIsDamaged_ = tree->isDamaged;
     if (file->pages_.empty())
       return Error{ErrorKind::NotParsable, QStringLiteral("the document has no pages")};
-    if (file->pages_.size() > size_t(limits::maximumPages))
-      return Error{ErrorKind::Limit,
-                   QStringLiteral("the document has more than %1 pages").arg(limits::maximumPages)};
     return file;
   });
 }
 
-QPDFObjectHandle PdfFile::attribute(int page, const char* key) const {
-  return QPDFPageObjectHelper(pages_[size_t(page)]).getAttribute(key, false);
-}
-
-PageGeometry PdfFile::geometry(int page) const {
+PageGeometry PdfFile::geometry(int number) const {
   PageGeometry geometry;
-  const QRectF media = rectangle(attribute(page, "/MediaBox")).value_or(kLetter);
-  const QRectF crop = rectangle(attribute(page, "/CropBox")).value_or(media).intersected(media);
+  QPDFObjectHandle page = this->page(number);
+  const QRectF media = rectangle(page.getKey("/MediaBox")).value_or(kLetter);
+  const QRectF crop = rectangle(page.getKey("/CropBox")).value_or(media).intersected(media);
   geometry.box = crop.isEmpty() ? media : crop;
-  geometry.rotation = rotationOf(attribute(page, "/Rotate"));
-  geometry.userUnit = userUnitOf(this->page(page).getKey("/UserUnit"));
+  geometry.rotation = rotationOf(page.getKey("/Rotate"));
+  geometry.userUnit = userUnitOf(page.getKey("/UserUnit"));
   return geometry;
 }
 
 QStringList PdfFile::warnings() const {
-  if (!qpdf_->anyWarnings()) return {};
+  if (!treeIsDamaged_ && !qpdf_->anyWarnings()) return {};
   return {QStringLiteral("the file is damaged; it was repaired as far as possible")};
 }
 

@@ -55,11 +55,9 @@ class PdfFile {
 
   [[nodiscard]] QPDF& qpdf() { return *qpdf_; }
   [[nodiscard]] int pageCount() const { return int(pages_.size()); }
-  /// REQUIRES 0 ≤ page < pageCount().
-  [[nodiscard]] QPDFObjectHandle page(int page) const { return pages_[size_t(page)]; }
-  [[nodiscard]] PageGeometry geometry(int page) const;
-  /// An attribute of a page or, where it is inherited, of the nearest ancestor that has it; null where none has.
-  [[nodiscard]] QPDFObjectHandle attribute(int page, const char* key) const;
+  /// The page's dictionary, with the attributes that it inherits. REQUIRES 0 ≤ number < pageCount().
+  [[nodiscard]] QPDFObjectHandle page(int number) const { return pages_[size_t(number)]; }
+  [[nodiscard]] PageGeometry geometry(int number) const;
   /// One plain sentence when the file is damaged and was repaired.
   [[nodiscard]] QStringList warnings() const;
 
@@ -68,6 +66,7 @@ class PdfFile {
   QByteArray bytes_;  ///< qpdf reads from it as long as it lives
   std::unique_ptr<QPDF> qpdf_;
   std::vector<QPDFObjectHandle> pages_;
+  bool treeIsDamaged_ = false;
 };
 
 /// The sentence for a page that is not there.

@@ -186,7 +186,7 @@ PdfResources pdfResources(PdfFile& file, int page) {
   Walk walk(true);
   try {
     walk.takeContents(file.page(page).getKey("/Contents"));
-    walk.takeResources(file.attribute(page, "/Resources"), 0);
+    walk.takeResources(file.page(page).getKey("/Resources"), 0);
   } catch (const std::exception&) {
     // What was found before the damage is true all the same.
   }
@@ -196,7 +196,7 @@ PdfResources pdfResources(PdfFile& file, int page) {
 QStringList missingFonts(PdfFile& file, int page) {
   Walk walk(false);
   try {
-    walk.takeResources(file.attribute(page, "/Resources"), 0);
+    walk.takeResources(file.page(page).getKey("/Resources"), 0);
   } catch (const std::exception&) {
     // As above.
   }

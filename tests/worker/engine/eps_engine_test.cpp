@@ -186,7 +186,7 @@ class EpsEngineTest : public QObject {
     QVERIFY(pdf.ok());
     auto file = PdfFile::open(pdf->bytes);
     QVERIFY(file.ok());
-    QVERIFY((*file)->attribute(0, "/Resources").hasKey("/Font"));
+    QVERIFY((*file)->page(0).getKey("/Resources").hasKey("/Font"));
   }
 
   void anErrorInTheProgramIsOneSentence() {

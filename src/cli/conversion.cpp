@@ -6,24 +6,12 @@
 #include "cli/input_file.h"
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
-#include "metadata/eps_completeness.h"
-#include "platform/picture/eps_image_rep.h"
 #include "platform/picture/pdf_image_rep.h"
 #include "platform/picture/picture_loader.h"
-#include "platform/picture/web_image_rep.h"
 #include "platform/type_identification.h"
 
 namespace norvex {
 namespace {
-
-/// What was noticed when the document was opened.
-QStringList warningsOf(const NSImageRep& imageRep) {
-  if (const auto* eps = dynamic_cast<const NSEPSImageRep*>(&imageRep))
-    return epsMissingParts(eps->EPSRepresentation());
-  if (const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep)) return pdf->facts().warnings;
-  if (const auto* svg = dynamic_cast<const ZyWebImageRep*>(&imageRep)) return svg->facts().warnings;
-  return {};
-}
 
 /// The rectangle that is asked for, in view coordinates; nothing for the whole picture as it is.
 std::optional<PictureRegion> regionOf(const NSImageRep& imageRep, const ConversionOptions& options) {
@@ -102,7 +90,7 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   conversion.bytes = encodedPicture(encoder, options.format);
   conversion.size = conversion.bytes.size();
   conversion.report = encoder.report();
-  conversion.report.warnings = warningsOf(*imageRep) + conversion.report.warnings;
+  conversion.report.warnings = imageRep->warnings() + conversion.report.warnings;
   if (conversion.bytes.isEmpty() && !conversion.report.error) {
     conversion.report.error =
         Error{ErrorKind::Unsupported,

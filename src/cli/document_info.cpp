@@ -1,7 +1,6 @@
 #include "cli/document_info.h"
 
 #include "cli/input_file.h"
-#include "metadata/eps_completeness.h"
 #include "metadata/eps_header.h"
 #include "metadata/eps_resources.h"
 #include "metadata/pdf_header.h"
@@ -37,7 +36,7 @@ void readEps(DocumentInfo& info, PictureService& service, const QByteArray& byte
   info.rectangle = (*rep)->boundingBox();
   info.hiResBoundingBox = (*rep)->hiResBoundingBox();
   info.pages = 1;
-  info.warnings += epsMissingParts(bytes);
+  info.warnings += (*rep)->warnings();
   const EpsResources resources = epsResources(bytes);
   info.fonts = resources.fonts;
   info.colorSpaces = resources.colors;

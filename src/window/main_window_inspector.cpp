@@ -56,9 +56,7 @@ void MainWindowController::showBoundingBoxes(const NSImageRep* rep) {
 }
 
 void MainWindowController::showNotes(const NSImageRep* rep) {
-  QStringList notes;
-  if (const auto* pdf = qobject_cast<const NSPDFImageRep*>(rep)) notes = pdf->facts().warnings;
-  if (const auto* svg = qobject_cast<const ZyWebImageRep*>(rep)) notes = svg->facts().warnings;
+  QStringList notes = rep ? rep->warnings() : QStringList();
   for (QString& note : notes) {
     if (!note.isEmpty()) note[0] = note.at(0).toUpper();
     if (!note.endsWith(u'.')) note += u'.';

@@ -307,6 +307,14 @@ class InspectorTest : public QObject {
     fixture.document.revertDocumentToSaved();
     QVERIFY(!note->isVisibleTo(note->parentWidget()));
   }
+
+  void anEpsThatIsCutOffIsSaidToBe() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loaded(epsBytes("%AI9_PrivateDataBegin\n"), "a.eps", NorvexEPSType);
+    auto* note = c.inspectorWindow->findChild<QLabel*>("noteField");
+    QVERIFY(note->isVisibleTo(note->parentWidget()));
+    QCOMPARE(note->text(), QStringLiteral("The file seems cut off: its PostScript stops before its end."));
+  }
 };
 
 NORVEX_TEST(InspectorTest)

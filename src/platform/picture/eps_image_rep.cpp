@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "metadata/eps_bounding_box.h"
+#include "metadata/eps_completeness.h"
 #include "metadata/eps_program.h"
 
 namespace norvex {
@@ -24,6 +25,10 @@ NSEPSImageRep::NSEPSImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> p
     : NSImageRep(PictureKind::Eps, std::move(bytes), std::move(process)),
       boundingBox_(box),
       hiResBoundingBox_(hiRes) {}
+
+QStringList NSEPSImageRep::warnings() const {
+  return epsMissingParts(sourceBytes());
+}
 
 Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureService& service,
                                                                        const QByteArray& bytes,

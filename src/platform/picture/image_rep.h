@@ -10,6 +10,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 #include <QTransform>
 
 #include <memory>
@@ -41,6 +42,10 @@ class NSImageRep : public QObject {
   [[nodiscard]] const QByteArray& sourceBytes() const { return bytes_; }
   /// The page that is shown, from 0; only PDF has more than one.
   [[nodiscard]] int page() const { return page_; }
+
+  /// What was noticed about the document, one plain sentence each: what is missing, what is passed over. Any
+  /// thread.
+  [[nodiscard]] virtual QStringList warnings() const { return {}; }
 
   /// Draws the picture at its natural size with its lower-left corner at the painter's origin; the painter's
   /// transform must map y-up picture coordinates to the device. Never waits: draws what is rendered (scaled

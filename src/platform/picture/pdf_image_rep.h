@@ -28,6 +28,7 @@ class NSPDFImageRep final : public NSImageRep {
   [[nodiscard]] int pageCount() const { return facts_.pageCount; }
   [[nodiscard]] QSizeF size() const override { return bounds().size(); }
   [[nodiscard]] const PictureFacts& facts() const { return facts_; }
+  [[nodiscard]] QStringList warnings() const override { return facts_.warnings; }
 
  private:
   NSPDFImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, PictureFacts facts, int page);

@@ -53,6 +53,7 @@ class ZyWebImageRep final : public NSImageRep {
   /// SVG's y axis points down.
   [[nodiscard]] bool isFlipped() const { return true; }
   [[nodiscard]] QSizeF size() const override { return bounds().size(); }
+  [[nodiscard]] QStringList warnings() const override { return facts_.warnings; }
   [[nodiscard]] const PictureFacts& facts() const { return facts_; }
 
   // The representations block for the picture process; empty when it has none to give. Any thread.

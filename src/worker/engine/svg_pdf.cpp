@@ -1,7 +1,5 @@
 #include "worker/engine/svg_pdf.h"
 
-#include <cairo-pdf.h>
-
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
@@ -22,13 +20,8 @@ namespace {
 constexpr double kUnitsPerInch = 300;
 constexpr double kEffectPixels = 16.0e6;  // how large an image of a filter or a mask may be at most
 
-cairo_status_t append(void* bytes, const unsigned char* data, unsigned int length) {
-  static_cast<QByteArray*>(bytes)->append(reinterpret_cast<const char*>(data), qsizetype(length));
-  return CAIRO_STATUS_SUCCESS;
-}
-
-/// librsvg places glyphs, and makes the images of filters and masks, in whole units of the target. The page is drawn
-/// larger for their sake; fitPage() makes it small again.
+/// librsvg places glyphs, and makes the images of filters and masks, in whole units of the target. The page
+/// is drawn larger for their sake; fitPage() makes it small again.
 double drawingScale(const QSizeF& pixels, bool hasImageEffects) {
   const double fine = kUnitsPerInch / 72;
   if (!hasImageEffects) return fine;
@@ -36,8 +29,8 @@ double drawingScale(const QSizeF& pixels, bool hasImageEffects) {
   return std::min(fine, std::sqrt(kEffectPixels / area));
 }
 
-/// The page as a form. cairo's contents are one stream: it becomes the form as it is, without being unpacked and packed
-/// again.
+/// The page as a form. cairo's contents are one stream: it becomes the form as it is, without being unpacked
+/// and packed again.
 QPDFObjectHandle formOf(QPDFPageObjectHelper& page) {
   QPDFObjectHandle contents = page.getObjectHandle().getKey("/Contents");
   if (!contents.isStream()) return page.getFormXObjectForPage();
@@ -51,8 +44,8 @@ QPDFObjectHandle formOf(QPDFPageObjectHelper& page) {
   return contents;
 }
 
-/// The drawing becomes a form on a page of the right size: unlike a scaled page, a form takes its patterns with it.
-/// cairo's document information, which holds the time of day, is dropped.
+/// The drawing becomes a form on a page of the right size: unlike a scaled page, a form takes its patterns
+/// with it. cairo's document information, which holds the time of day, is dropped.
 void fitPage(QPDF& document, double width, double height, double scale) {
   QPDFPageObjectHelper page(document.getAllPages().at(0));
   const QPDFObjectHandle drawing = formOf(page);
@@ -92,19 +85,12 @@ double svgEffectsDpi(const QSizeF& pixels) {
 Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, bool hasImageEffects) {
   const double scale = drawingScale(pixels, hasImageEffects);
   const double units = pointsPerPixel * scale;
-  QByteArray bytes;
-  const CairoSurface surface(cairo_pdf_surface_create_for_stream(append, &bytes, pixels.width() * units,
-                                                                 pixels.height() * units));
-  {
-    const CairoContext page(cairo_create(surface.get()));
-    cairo_scale(page.get(), units, units);
-    if (const Result<void> drawn = renderer.draw(page.get(), pixels); !drawn) return drawn.error();
-    cairo_show_page(page.get());
-  }
-  cairo_surface_finish(surface.get());
-  if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS)
-    return Error{ErrorKind::Unsupported, QStringLiteral("the picture cannot be written as PDF")};
-  return rewritten(bytes, pixels, scale);
+  const Result<QByteArray> bytes = paintPdf(pixels * units, 1, [&](cairo_t* page, int) {
+    cairo_scale(page, units, units);
+    return renderer.draw(page, pixels);
+  });
+  if (!bytes) return bytes.error();
+  return rewritten(*bytes, pixels, scale);
 }
 
 }  // namespace norvex::engine

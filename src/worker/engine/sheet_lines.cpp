@@ -92,7 +92,7 @@ Result<QByteArray> sheetLines(const PagesRequest& request) {
   svg += "</svg>";
   const auto renderer = SvgRenderer::create(svg, false);
   if (!renderer) return renderer.error();
-  return svgToPdf(**renderer, pixels, false);
+  return svgToPdf(**renderer, pixels, {});
 }
 
 }  // namespace norvex::engine

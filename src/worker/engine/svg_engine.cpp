@@ -57,6 +57,7 @@ class SvgEngine final : public DocumentEngine {
   Result<QImage> renderAsDocument(const RenderRequest& request, const QTransform& pixelsToDevice);
   [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_.value_or(QStringList()); }
   [[nodiscard]] QStringList warnings() const;
+  [[nodiscard]] SvgImageEffects imageEffects() const;
   [[nodiscard]] BytesReply pdfReport() const;
 
   EngineContext& context_;
@@ -180,12 +181,20 @@ Result<QImage> SvgEngine::render(const RenderRequest& request) {
   });
 }
 
+// The scale of the view box is all that is known of a filter's user units here.
+SvgImageEffects SvgEngine::imageEffects() const {
+  SvgImageEffects effects{inspection_.filters + inspection_.masks > 0, inspection_.morphologyRadius};
+  if (const auto& box = geometry_.viewBox; box && !box->isEmpty())
+    effects.morphologyRadius *= std::min(pixels_.width() / box->width(), pixels_.height() / box->height());
+  return effects;
+}
+
 // Counted are the elements whose own attributes ask for an effect; what style sheets ask for is not seen here.
 BytesReply SvgEngine::pdfReport() const {
   BytesReply report;
   report.warnings = drawingRemarks();
   report.regionsRasterised = inspection_.filters + inspection_.masks;
-  if (report.regionsRasterised > 0) report.rasterisedDpi = svgEffectsDpi(pixels_);
+  if (report.regionsRasterised > 0) report.rasterisedDpi = svgEffectsDpi(pixels_, imageEffects());
   if (inspection_.filters > 0)
     report.warnings << QStringLiteral("what is drawn through a filter (elements: %1) is held as an image")
                            .arg(inspection_.filters);
@@ -200,7 +209,7 @@ Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
   if (!pdf_) {
     const Result<const SvgRenderer*> loaded = renderer();
     if (!loaded) return loaded.error();
-    Result<QByteArray> made = svgToPdf(**loaded, pixels_, inspection_.filters + inspection_.masks > 0);
+    Result<QByteArray> made = svgToPdf(**loaded, pixels_, imageEffects());
     if (!made) return made.error();
     pdf_ = std::move(*made);
   }

@@ -7,6 +7,7 @@
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -53,6 +54,7 @@ class Inspector {
   void end();
   void characters(const xmlChar* bytes, int length);
   void lookAt(const QString& name, const Attribute& attribute);
+  void noteRadius(const QString& value);
   void followUrls(const QString& value);
   void lookAtReference(const QString& element, const QString& value);
   void declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId, xmlChar* content);
@@ -182,6 +184,7 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
   };
   if (isUsed(QLatin1String("filter"))) ++found_.filters;
   if (isUsed(QLatin1String("mask"))) ++found_.masks;
+  if (name == QLatin1String("feMorphology") && attribute.name == QLatin1String("radius")) noteRadius(value);
   static const QRegularExpression layer("(?:^|[;\\s])(?:opacity|filter|mask|mix-blend-mode|isolation)\\s*:");
   static const QSet<QString> layers{"opacity", "filter", "mask", "mix-blend-mode", "isolation"};
   if (layers.contains(attribute.name) || (attribute.name == QLatin1String("style") && value.contains(layer)))
@@ -189,6 +192,12 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
   if (value.contains(QLatin1String("url("))) followUrls(value);
   if (attribute.name == QLatin1String("href") && value.trimmed().startsWith('#')) nesting_.refer(value.trimmed().mid(1));
   if (attribute.name == QLatin1String("href")) lookAtReference(name, value.trimmed());
+}
+
+/// One number, or one for each direction.
+void Inspector::noteRadius(const QString& value) {
+  for (const QString& number : QString(value).replace(',', ' ').simplified().split(' '))
+    found_.morphologyRadius = std::max(found_.morphologyRadius, number.toDouble());
 }
 
 void Inspector::followUrls(const QString& value) {

@@ -20,6 +20,7 @@ struct SvgInspection {
   QList<QStringList> fontLists;  ///< the lists that those families stand in
   int filters = 0;             ///< elements drawn through a filter, as far as their own attributes tell
   int masks = 0;               ///< elements drawn through a mask, likewise
+  double morphologyRadius = 0;  ///< the largest by which a filter thickens or thins, in user units
   int outsideReferences = 0;   ///< images, styles and other things that are in other files; never loaded
   /// Something is drawn on a layer of its own: group opacity, filters, masks, blending. True also where a style sheet
   /// might ask for it.

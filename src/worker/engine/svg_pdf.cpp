@@ -19,14 +19,17 @@ namespace {
 
 constexpr double kUnitsPerInch = 300;
 constexpr double kEffectPixels = 16.0e6;  // how large an image of a filter or a mask may be at most
+constexpr double kMorphologyReach = 10;   // librsvg cuts feMorphology's radius to so many units of the target
 
 /// librsvg places glyphs, and makes the images of filters and masks, in whole units of the target. The page
 /// is drawn larger for their sake; fitPage() makes it small again.
-double drawingScale(const QSizeF& pixels, bool hasImageEffects) {
+double drawingScale(const QSizeF& pixels, const SvgImageEffects& effects) {
   const double fine = kUnitsPerInch / 72;
-  if (!hasImageEffects) return fine;
+  if (!effects.any) return fine;
   const double area = pixels.width() * pixels.height() * pointsPerPixel * pointsPerPixel;
-  return std::min(fine, std::sqrt(kEffectPixels / area));
+  const double reach = effects.morphologyRadius * pointsPerPixel;
+  const double withinReach = reach > 0 ? std::max(1.0, kMorphologyReach / reach) : fine;
+  return std::min({fine, withinReach, std::sqrt(kEffectPixels / area)});
 }
 
 /// The page as a form. cairo's contents are one stream: it becomes the form as it is, without being unpacked
@@ -78,12 +81,13 @@ Result<QByteArray> rewritten(const QByteArray& pdf, const QSizeF& pixels, double
 
 }  // namespace
 
-double svgEffectsDpi(const QSizeF& pixels) {
-  return drawingScale(pixels, true) * 72;
+double svgEffectsDpi(const QSizeF& pixels, const SvgImageEffects& effects) {
+  return drawingScale(pixels, effects) * 72;
 }
 
-Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, bool hasImageEffects) {
-  const double scale = drawingScale(pixels, hasImageEffects);
+Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
+                            const SvgImageEffects& effects) {
+  const double scale = drawingScale(pixels, effects);
   const double units = pointsPerPixel * scale;
   const Result<QByteArray> bytes = paintPdf(pixels * units, 1, [&](cairo_t* page, int) {
     cairo_scale(page, units, units);

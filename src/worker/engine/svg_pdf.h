@@ -9,12 +9,19 @@
 
 namespace norvex::engine {
 
-/// A page of exactly the picture's size in points. Vectors stay vectors and text stays text; what is drawn through a
-/// filter or a mask becomes an image, and `hasImageEffects` says that there is such a thing. The same picture gives
-/// the same bytes.
-[[nodiscard]] Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, bool hasImageEffects);
+/// What of a picture becomes images in a PDF.
+struct SvgImageEffects {
+  bool any = false;             ///< there are filters or masks
+  double morphologyRadius = 0;  ///< the largest by which a filter thickens or thins, in pixels
+};
 
-/// Pixels an inch of the images of filters and masks in that page.
-[[nodiscard]] double svgEffectsDpi(const QSizeF& pixels);
+/// A page of exactly the picture's size in points. Vectors stay vectors and text stays text. The same picture
+/// gives the same bytes.
+[[nodiscard]] Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
+                                          const SvgImageEffects& effects);
+
+/// Pixels an inch of the images of filters and masks in that page: 300, fewer where the images would be too
+/// large or where a filter's radius would be out of the renderer's reach.
+[[nodiscard]] double svgEffectsDpi(const QSizeF& pixels, const SvgImageEffects& effects);
 
 }  // namespace norvex::engine

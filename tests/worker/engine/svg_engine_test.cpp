@@ -259,6 +259,37 @@ class SvgEngineTest : public QObject {
     QVERIFY(!pdf->report.warnings.isEmpty());
   }
 
+  // The renderer cuts a radius at ten units of what it draws on.
+  void aFilterThatThickensKeepsItsRadiusInThePdf_data() {
+    QTest::addColumn<QByteArray>("root");
+    QTest::addColumn<double>("radius");
+    QTest::addColumn<double>("dpi");
+    QTest::newRow("small") << QByteArray("width='100' height='100'") << 2.0 << 300.0;
+    QTest::newRow("large") << QByteArray("width='100' height='100'") << 8.0 << 120.0;
+    QTest::newRow("in a view box") << QByteArray("width='200' height='200' viewBox='0 0 100 100'") << 4.0 << 120.0;
+    QTest::newRow("too large at any resolution") << QByteArray("width='100' height='100'") << 40.0 << 72.0;
+  }
+  void aFilterThatThickensKeepsItsRadiusInThePdf() {
+    QFETCH(QByteArray, root);
+    QFETCH(double, radius);
+    QFETCH(double, dpi);
+    OpenSvg document(svgOf(root, "<filter id='f' x='-100%' width='300%' y='0' height='100%'><feMorphology "
+                                 "operator='dilate' radius='" + QByteArray::number(radius) + "'/></filter>"
+                                 "<rect x='40' y='20' width='20' height='60' filter='url(#f)'/>"));
+    const Result<EngineBytes> pdf = document->pdf({});
+    QVERIFY(pdf);
+    QCOMPARE(pdf->report.rasterisedDpi, dpi);
+    if (dpi == 72) return;
+    EngineContext context;
+    const auto page = openPdf(pdf->bytes, context);
+    QVERIFY(page);
+    const QImage shown = *drawn(**page, 4);
+    const double scale = shown.width() / 100.0;
+    const auto isBlack = [&](double x) { return qAlpha(shown.pixel(int(x * scale), shown.height() / 2)) > 200; };
+    QVERIFY(isBlack(40 - radius + 0.7) && isBlack(60 + radius - 0.7));
+    QVERIFY(!isBlack(40 - radius - 0.7) && !isBlack(60 + radius + 0.7));
+  }
+
   void aMissingFontIsToldOnceItIsDrawn_data() {
     QTest::addColumn<QString>("families");
     QTest::addColumn<bool>("missing");

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "cli/arguments.h"
-#include "cli/job.h"
 #include "platform/file_name.h"
 #include "platform/system_log.h"
 
@@ -27,13 +26,12 @@ bool isCommandLine(int argc, char** argv) {
   return asksForCommandLine(first) || (looksLikeCommand(first) && !fileExists(first));
 }
 
-int runCommandLine(int argc, char** argv, PictureService& service) {
+int runCommandLine(int argc, char** argv, Job& job) {
   const QStringList given = argumentsOf(argc, argv);
   sendMessagesToSystemLog();  // first: the application object has things to say about locales
   std::optional<QCoreApplication> application;
   if (!QCoreApplication::instance()) application.emplace(argc, argv);
-  StandardConsole console;
-  return int(Job(console, service).run(given));
+  return int(job.run(given));
 }
 
 }  // namespace norvex

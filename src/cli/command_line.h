@@ -1,7 +1,7 @@
 // The program without a window.
 #pragma once
 
-#include "platform/picture_process.h"
+#include "cli/job.h"
 
 namespace norvex {
 
@@ -9,8 +9,8 @@ namespace norvex {
 /// alone, and whether it is a file; needs nothing to be initialised.
 [[nodiscard]] bool isCommandLine(int argc, char** argv);
 
-/// Runs it to its end and returns the exit code. Needs no display and no application object (it makes a
+/// Runs the job to its end and returns the exit code. Needs no display and no application object (it makes a
 /// QCoreApplication of its own when there is none). Diagnostics go to the system log.
-int runCommandLine(int argc, char** argv, PictureService& service);
+int runCommandLine(int argc, char** argv, Job& job);
 
 }  // namespace norvex

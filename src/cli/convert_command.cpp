@@ -73,6 +73,13 @@ QString doubleTarget(const QList<ConvertTask>& tasks) {
   return {};
 }
 
+PictureUse useFor(const ConversionOptions& options) {
+  const bool isText = options.format == OutputFormat::Svg || options.format == OutputFormat::Svgz;
+  if (isRaster(options.format) || isText) return PictureUse::Drawing;
+  const bool isWhole = options.rotateDegrees == 0 && !options.crop;
+  return options.format == OutputFormat::Pdf && isWhole ? PictureUse::WholePdf : PictureUse::Everything;
+}
+
 }  // namespace
 
 ExitCode Job::convert(const Arguments& arguments) {
@@ -82,6 +89,7 @@ ExitCode Job::convert(const Arguments& arguments) {
   if (const QString path = doubleTarget(plan.tasks); !path.isEmpty()) {
     return complain(Command::Convert, QStringLiteral("more than one file would become %1").arg(path));
   }
+  service_.openOnlyFor(useFor(plan.options));
   const bool fromInput = arguments.files.contains(QStringLiteral("-"));
   const Result<QByteArray> input =
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());

@@ -29,6 +29,7 @@ ExitCode Job::info(const Arguments& arguments) {
   const bool fromInput = arguments.files.contains(QStringLiteral("-"));
   const Result<QByteArray> input =
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());
+  service_.openOnlyFor(PictureUse::Drawing);
   const QFuture<Finding> findings = QtConcurrent::mapped(arguments.files, [&](const QString& file) {
     const bool isInput = file == QLatin1String("-");
     return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file)), json);

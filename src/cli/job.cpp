@@ -43,6 +43,10 @@ ExitCode Job::dispatch(const Arguments& arguments) {
   return ExitCode::Usage;
 }
 
+ExitCode Job::print(const Arguments&) {
+  return complain(Command::Print, QStringLiteral("this program does not print"));
+}
+
 ExitCode Job::sandboxStatus() {
   (void)show(QStringLiteral(
       "Sandbox: none. Pictures are parsed in a process of their own, but this build confines it by no "

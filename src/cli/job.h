@@ -22,24 +22,14 @@ namespace norvex {
 class Job {
  public:
   Job(Console& console, PictureService& service) : console_(console), service_(service) {}
+  virtual ~Job() = default;
 
   /// `given`: the arguments behind the program's name.
   ExitCode run(const QStringList& given);
 
- private:
-  ExitCode dispatch(const Arguments& arguments);
-  ExitCode info(const Arguments& arguments);
-  ExitCode source(const Arguments& arguments);
-  ExitCode preview(const Arguments& arguments);
-  ExitCode convert(const Arguments& arguments);
-  ExitCode print(const Arguments& arguments);
-  ExitCode reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions);
-  /// Tells what became of one file; of one that goes to standard output, writes it.
-  ExitCode reportConversion(const ConvertPlan& plan, const ConvertTask& task, const Conversion& conversion);
-  ExitCode sandboxStatus();
-
-  /// Text to standard output.
-  ExitCode show(const QString& text);
+ protected:
+  /// See PrintingJob; a job of this class says that it does not print.
+  virtual ExitCode print(const Arguments& arguments);
   /// Bytes of a result to a file, or to standard output for "-".
   ExitCode writeOutput(const QString& output, const QByteArray& bytes, bool force);
   /// Tells on standard error that the arguments are wrong.
@@ -49,6 +39,20 @@ class Job {
 
   Console& console_;
   PictureService& service_;
+
+ private:
+  ExitCode dispatch(const Arguments& arguments);
+  ExitCode info(const Arguments& arguments);
+  ExitCode source(const Arguments& arguments);
+  ExitCode preview(const Arguments& arguments);
+  ExitCode convert(const Arguments& arguments);
+  ExitCode reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions);
+  /// Tells what became of one file; of one that goes to standard output, writes it.
+  ExitCode reportConversion(const ConvertPlan& plan, const ConvertTask& task, const Conversion& conversion);
+  ExitCode sandboxStatus();
+
+  /// Text to standard output.
+  ExitCode show(const QString& text);
 };
 
 }  // namespace norvex

@@ -4,7 +4,7 @@
 
 #include "cli/input_file.h"
 #include "cli/interruption.h"
-#include "cli/job.h"
+#include "cli/printing_job.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
 #include "platform/atomic_file.h"
@@ -62,7 +62,7 @@ PrintSource sourceOf(const std::shared_ptr<NSImageRep>& imageRep, const QUrl& fi
 
 }  // namespace
 
-ExitCode Job::print(const Arguments& arguments) {
+ExitCode PrintingJob::print(const Arguments& arguments) {
   if (const QString complaint = complaintAboutPrinting(arguments); !complaint.isEmpty())
     return complain(Command::Print, complaint);
   const QString file = arguments.files.first(), output = arguments.values.value(Option::Output);

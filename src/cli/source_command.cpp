@@ -15,6 +15,7 @@ Result<QString> textOrError(PictureKind kind, const QByteArray& bytes, const Hea
 }
 
 Result<QString> svgText(PictureService& service, const QByteArray& bytes) {
+  service.openOnlyFor(PictureUse::Drawing);
   const auto process = service.open(bytes, PictureKind::Svg);
   const Result<PictureFacts> facts = process->facts();
   if (!facts) return facts.error();

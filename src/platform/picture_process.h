@@ -11,6 +11,7 @@
 
 #include "platform/bitmap_image_rep.h"
 #include "platform/cancel_token.h"
+#include "platform/picture_needs.h"
 #include "platform/result.h"
 #include "platform/worker_protocol.h"
 
@@ -47,6 +48,9 @@ class PictureService {
  public:
   virtual ~PictureService() = default;
 
+  /// Tells that every picture from now on is opened for this alone: its process need not be able to do more, and
+  /// starts sooner for it.
+  virtual void openOnlyFor(PictureUse use) { Q_UNUSED(use) }
   /// Begins to open `bytes` as `kind` and returns at once; a failure shows in the first call on the result.
   /// The caller owns the result; the bytes are shared until it is destroyed.
   virtual std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,

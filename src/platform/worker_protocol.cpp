@@ -215,7 +215,8 @@ PagesRequest pagesFrom(CborFields& fields) {
 }
 
 ForkRequest forkFrom(CborFields& fields) {
-  return {limitsFrom(fields), fields.boolean(Key("postScript"))};
+  return {limitsFrom(fields), fields.boolean(Key("postScript")),
+          PictureNeeds(fields.integer(Key("needs"), 0, allPictureNeeds))};
 }
 
 WorkerMessage messageFrom(CborFields& fields) {
@@ -246,7 +247,8 @@ QByteArray encodeMessage(const WorkerMessage& message) {
                        return QCborMap{{Key("v"), workerProtocolVersion},
                                        {Key("type"), Key("fork")},
                                        {Key("limits"), mapOf(fork.limits)},
-                                       {Key("postScript"), fork.postScript}};
+                                       {Key("postScript"), fork.postScript},
+                                       {Key("needs"), qint64(fork.needs)}};
                      },
                      [](const CancelRequest& cancel) { return start(Key("cancel"), cancel.id); },
                  },

@@ -21,11 +21,12 @@
 #include <optional>
 #include <variant>
 
+#include "platform/picture_needs.h"
 #include "platform/result.h"
 
 namespace norvex {
 
-inline constexpr int workerProtocolVersion = 3;
+inline constexpr int workerProtocolVersion = 4;
 inline constexpr quint32 maximumMessageBytes = 4u << 20;
 
 // What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge title
@@ -142,6 +143,7 @@ struct WorkerRequest {
 struct ForkRequest {
   PictureLimits limits;
   bool postScript = false;  ///< the child will need Ghostscript: let it be started at once
+  PictureNeeds needs = allPictureNeeds;  ///< what the child will be asked for; the rest it may refuse
 };
 
 /// No answer is given to it: the cancelled request itself answers (ErrorKind::Cancelled) or was already answered.

@@ -1,8 +1,9 @@
-// The application behind `norvex`: pictures in windows, or the command line.
+// The application behind `norvex`: pictures in windows, or the whole command line.
 #include <memory>
 #include <utility>
 
 #include "cli/command_line.h"
+#include "cli/printing_job.h"
 #include "platform/picture/worker_service.h"
 #include "platform/qt/alert.h"
 #include "platform/qt/application.h"
@@ -35,5 +36,8 @@ extern "C" __attribute__((visibility("default"))) int norvexApplication(int argc
                                                                         norvex::SpawnedWorker* worker) {
   using namespace norvex;
   WorkerService service({}, std::move(*worker));
-  return isCommandLine(argc, argv) ? runCommandLine(argc, argv, service) : runWindows(argc, argv, service);
+  if (!isCommandLine(argc, argv)) return runWindows(argc, argv, service);
+  StandardConsole console;
+  PrintingJob job(console, service);
+  return runCommandLine(argc, argv, job);
 }

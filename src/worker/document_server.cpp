@@ -48,12 +48,12 @@ PreviewReply replyFor(const NSBitmapImageRep& bitmap) {
 
 }  // namespace
 
-DocumentServer::DocumentServer(FileDescriptor socket, const EngineSet& engines, const PictureLimits& limits,
-                               const QString& scratchFolder, std::optional<Error> refusal)
-    : channel_(std::move(socket)), engines_(engines), refusal_(std::move(refusal)) {
-  context_.limits = limits;
-  context_.scratchFolder = scratchFolder;
-}
+DocumentServer::DocumentServer(FileDescriptor socket, const EngineSet& engines, engine::EngineContext context,
+                               std::optional<Error> refusal)
+    : channel_(std::move(socket)),
+      engines_(engines),
+      context_(std::move(context)),
+      refusal_(std::move(refusal)) {}
 
 void DocumentServer::run() {
   auto* queue = new RequestQueue(channel_);  // its thread uses it until the process ends
@@ -104,7 +104,8 @@ DocumentServer::Answer DocumentServer::serve(const RenderRequest& request, FileD
   if (image->isNull()) return {noMemory(), {}};
   Result<FileDescriptor> pixels = SealedMemory::seal(image->constBits(), image->sizeInBytes());
   if (!pixels) return {pixels.error(), {}};
-  return {BitmapReply{image->size(), int(image->bytesPerLine()), engine_->drawingRemarks()}, std::move(*pixels)};
+  return {BitmapReply{image->size(), int(image->bytesPerLine()), engine_->drawingRemarks()},
+          std::move(*pixels)};
 }
 
 DocumentServer::Answer DocumentServer::serve(const PdfRequest& request, FileDescriptor) {

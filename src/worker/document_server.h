@@ -14,11 +14,9 @@ namespace norvex {
 class DocumentServer {
  public:
   /// Borrows the engines. With a refusal every request is answered with it.
-  DocumentServer(FileDescriptor socket, const EngineSet& engines, const PictureLimits& limits,
-                 const QString& scratchFolder, std::optional<Error> refusal);
+  DocumentServer(FileDescriptor socket, const EngineSet& engines, engine::EngineContext context,
+                 std::optional<Error> refusal);
 
-  /// For warming up before the first request.
-  [[nodiscard]] engine::EngineContext& context() { return context_; }
   /// Serves; the process ends with the connection.
   [[noreturn]] void run();
 

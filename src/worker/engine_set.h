@@ -22,10 +22,6 @@ struct EngineSet {
       setPdfAttributes;
   std::function<Result<QByteArray>(const QByteArray& pdf, const PagesRequest&)> composePages;
   std::function<void()> warmUpProgram;
-  std::function<void(engine::EngineContext&)> warmUpPostScript;
 };
-
-/// The engines of the program as it is shipped.
-[[nodiscard]] EngineSet builtInEngines();
 
 }  // namespace norvex

@@ -46,11 +46,13 @@ void closeStandardStreams() {
 
 }  // namespace
 
-ForkServer::ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp)
+ForkServer::ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp,
+                       Prepare prepare)
     : control_(std::move(control)),
       scratchRoot_(std::move(scratchRoot)),
       childMain_(std::move(childMain)),
-      warmUp_(std::move(warmUp)) {}
+      warmUp_(std::move(warmUp)),
+      prepare_(std::move(prepare)) {}
 
 void ForkServer::warmUp() {
   if (const WarmUp todo = std::exchange(warmUp_, {})) todo();
@@ -84,6 +86,7 @@ bool ForkServer::answerControl() {
   const ForkRequest* request = decoded ? std::get_if<ForkRequest>(&*decoded) : nullptr;
   if (request == nullptr || !message->descriptor.valid()) return false;
   if (++forks_ > kColdChildren) warmUp();
+  if (prepare_) prepare_(*request);
   Result<Child> child = fork(*request, std::move(message->descriptor));
   if (!child) return control_.send(encodeReply({forks_, child.error()})).ok();
   const bool told = control_.send(encodeReply({forks_, ForkReply{child->pid}}), child->pidfd.get()).ok();

@@ -26,9 +26,13 @@ class ForkServer {
   /// Starts no thread.
   using WarmUp = std::function<void()>;
 
-  /// Scratch folders are made inside `scratchRoot`, which exists and is private to the user. `warmUp` may be
-  /// empty.
-  ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp = {});
+  /// Loads what children like this one need and inherit, before the first of them is forked.
+  using Prepare = std::function<void(const ForkRequest&)>;
+
+  /// Scratch folders are made inside `scratchRoot`, which exists and is private to the user. `warmUp` and
+  /// `prepare` may be empty.
+  ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp = {},
+             Prepare prepare = {});
 
   /// Serves until the control connection closes; all children are then gone.
   void run();
@@ -50,6 +54,7 @@ class ForkServer {
   QByteArray scratchRoot_;
   ChildMain childMain_;
   WarmUp warmUp_;  ///< empty once it has been called
+  Prepare prepare_;
   std::vector<Child> children_;
   quint32 forks_ = 0;  ///< requests so far; the answer's id
 };

@@ -25,8 +25,13 @@
 namespace norvex {
 namespace {
 
+Error notConfined() {
+  return {ErrorKind::NoSandbox, QStringLiteral("the picture process could not be confined")};
+}
+
 constexpr rlim_t kOpenFiles = 128;  ///< Ghostscript, fonts and pipes stay far below
 constexpr rlim_t kMiB = 1 << 20;
+constexpr rlim_t kLibraries = 192 * kMiB;  ///< more than all of ours take
 
 bool limit(__rlimit_resource resource, rlim_t value) {
   rlimit current = {};
@@ -38,7 +43,9 @@ bool limit(__rlimit_resource resource, rlim_t value) {
 }
 
 #ifdef NORVEX_SHADOW_MEMORY
-bool limitMemory(const PictureLimits&) { return true; }  // shadow memory takes terabytes of address space
+bool limitAddressSpace(const PictureLimits&, rlim_t) {
+  return true;
+}  // shadow memory takes terabytes of address space
 #else
 /// What the program and its libraries have mapped already: the caller's limit speaks of the document.
 rlim_t addressSpaceInUse() {
@@ -47,10 +54,10 @@ rlim_t addressSpaceInUse() {
   return file.readAll().split(' ').first().toULongLong() * rlim_t(::sysconf(_SC_PAGESIZE));
 }
 
-bool limitMemory(const PictureLimits& limits) {
+bool limitAddressSpace(const PictureLimits& limits, rlim_t more) {
   // A second allocation arena would reserve 64 MiB for the thread that only reads messages.
   ::mallopt(M_ARENA_MAX, 1);
-  return limit(RLIMIT_AS, addressSpaceInUse() + rlim_t(limits.memoryMiB) * kMiB);
+  return limit(RLIMIT_AS, addressSpaceInUse() + rlim_t(limits.memoryMiB) * kMiB + more);
 }
 #endif
 
@@ -71,11 +78,16 @@ void volunteerWhenMemoryRunsOut() {
 
 }  // namespace
 
-Result<void> enterSandbox(const PictureLimits& limits, const QString& scratchFolder) {
+Result<void> limitMemory(const PictureLimits& limits) {
+  return limitAddressSpace(limits, 0) ? Result<void>() : notConfined();
+}
+
+Result<void> enterSandbox(const PictureLimits& limits, const QString& scratchFolder, bool librariesToCome) {
   volunteerWhenMemoryRunsOut();
   ::setenv("TMPDIR", QFile::encodeName(scratchFolder).constData(), 1);
-  if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || !limitFiles(limits) || !limitMemory(limits))
-    return Error{ErrorKind::NoSandbox, QStringLiteral("the picture process could not be confined")};
+  if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || !limitFiles(limits) ||
+      !limitAddressSpace(limits, librariesToCome ? kLibraries : 0))
+    return notConfined();
   return {};
 }
 

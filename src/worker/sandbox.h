@@ -17,6 +17,12 @@ namespace norvex {
 /// the user can read.
 ///
 /// Fails with NoSandbox; the process must then refuse every request.
-[[nodiscard]] Result<void> enterSandbox(const PictureLimits& limits, const QString& scratchFolder);
+///
+/// `librariesToCome`: libraries are loaded afterwards; there is room for them until limitMemory() is called.
+[[nodiscard]] Result<void> enterSandbox(const PictureLimits& limits, const QString& scratchFolder,
+                                        bool librariesToCome = false);
+
+/// The limit on address space, from what is in use now; once the libraries are loaded. It can only fall.
+[[nodiscard]] Result<void> limitMemory(const PictureLimits& limits);
 
 }  // namespace norvex

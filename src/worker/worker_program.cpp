@@ -7,7 +7,10 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
+#include <optional>
+#include <utility>
 
 #include "worker/document_server.h"
 #include "worker/environment.h"
@@ -25,23 +28,39 @@ bool isSocket(int fd) {
 
 }  // namespace
 
-ForkServer::ChildMain documentChild(const EngineSet& engines) {
+ForkServer::ChildMain documentChild(const WorkerEngines& engines) {
   return [engines](FileDescriptor socket, const ForkRequest& request, const QString& scratchFolder) {
-    const Result<void> confined = enterSandbox(request.limits, scratchFolder);
-    DocumentServer server(std::move(socket), engines, request.limits, scratchFolder,
-                          confined ? std::nullopt : std::optional<Error>(confined.error()));
-    if (confined && request.postScript && engines.warmUpPostScript)
-      engines.warmUpPostScript(server.context());
-    server.run();
+    engine::EngineContext context;
+    context.limits = request.limits;
+    context.scratchFolder = scratchFolder;
+    Result<void> confined = enterSandbox(request.limits, scratchFolder, true);
+    // It takes longest: it starts while the engines, where they are not there yet, are loaded.
+    if (confined && request.postScript && engines.startPostScript) engines.startPostScript(context);
+    const EngineSet none;
+    const Result<const EngineSet*> found = engines.source(request.needs);
+    if (confined) confined = limitMemory(request.limits);
+    std::optional<Error> refusal;
+    if (!found) refusal = found.error();
+    if (!confined) refusal = confined.error();
+    DocumentServer(std::move(socket), found ? **found : none, std::move(context), refusal).run();
   };
 }
 
-int runWorkerProgram(int argc, char** argv, const EngineSet& engines) {
+int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines) {
   clearEnvironment();
-  return runForkServer(argc, argv, documentChild(engines), engines.warmUpProgram);
+  if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
+      expected != 0)
+    (void)engines.source(expected & allPictureNeeds);
+  const auto prepare = [source = engines.source, isFirst = true](const ForkRequest& request) mutable {
+    const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
+    // The first child of all, when it starts an interpreter, loads what it needs itself meanwhile.
+    if (!startsPostScript) (void)source(request.needs);
+  };
+  return runForkServer(argc, argv, documentChild(engines), engines.warmUp, prepare);
 }
 
-int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp) {
+int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp,
+                  ForkServer::Prepare prepare) {
   if (argc < 2 || !isSocket(kControlDescriptor)) {
     std::fputs("norvex-worker: is started by norvex, not by hand\n", stderr);
     return kUsage;
@@ -49,7 +68,9 @@ int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkSe
   ::fcntl(kControlDescriptor, F_SETFD, FD_CLOEXEC);
   std::signal(SIGPIPE, SIG_IGN);
   const QByteArray root = argv[1];
-  ForkServer(FileDescriptor(kControlDescriptor), root, std::move(childMain), std::move(warmUp)).run();
+  ForkServer(FileDescriptor(kControlDescriptor), root, std::move(childMain), std::move(warmUp),
+             std::move(prepare))
+      .run();
   std::error_code ignored;
   std::filesystem::remove_all(root.toStdString(), ignored);
   return 0;

@@ -1,6 +1,8 @@
 // The main function of a picture process, apart from the engines that it is given.
 #pragma once
 
+#include <functional>
+
 #include "worker/engine_set.h"
 #include "worker/fork_server.h"
 
@@ -9,13 +11,30 @@ namespace norvex {
 /// Descriptor of the control connection in a picture process.
 inline constexpr int kControlDescriptor = 3;
 
-/// What the child for one document does: confines itself and serves.
-[[nodiscard]] ForkServer::ChildMain documentChild(const EngineSet& engines);
+/// Gives engines that can do what is needed, which stay where they are. Asked in the process that forks the
+/// others, before a child that needs them is forked, so that later children share them; and in the child
+/// before the first byte of a document is read.
+using EngineSource = std::function<Result<const EngineSet*>(PictureNeeds)>;
 
-/// Runs `norvex-worker SCRATCH_ROOT` with the control connection as descriptor 3; gives the exit code.
-/// The scratch root is removed at the end.
-int runWorkerProgram(int argc, char** argv, const EngineSet& engines);
+/// What a picture process works with.
+struct WorkerEngines {
+  EngineSource source;
+  /// Starts the interpreter of PostScript in a child that will need it, before its engines are asked for; may
+  /// be empty.
+  std::function<void(engine::EngineContext&)> startPostScript;
+  ForkServer::WarmUp warmUp;  ///< may be empty
+};
+
+/// What the child for one document does: confines itself and serves. Without engines it answers why there are
+/// none.
+[[nodiscard]] ForkServer::ChildMain documentChild(const WorkerEngines& engines);
+
+/// Runs `norvex-worker SCRATCH_ROOT NEEDS` with the control connection as descriptor 3; gives the exit code.
+/// NEEDS is the number of the PictureNeeds that are expected, whose engines are asked for at once; 0: nobody
+/// knows. The scratch root is removed at the end.
+int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines);
 /// The same for other children (tests).
-int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp = {});
+int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp = {},
+                  ForkServer::Prepare prepare = {});
 
 }  // namespace norvex

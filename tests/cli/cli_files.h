@@ -7,7 +7,7 @@
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
-#include "cli/job.h"
+#include "cli/printing_job.h"
 #include "platform/picture/memory_picture_service.h"
 
 namespace norvex::testdata {
@@ -42,7 +42,7 @@ class CommandLine {
   int run(const QStringList& arguments) {
     console.output.clear();
     console.messages.clear();
-    return int(Job(console, service).run(arguments));
+    return int(PrintingJob(console, service).run(arguments));
   }
 
   MemoryConsole console;

@@ -59,8 +59,8 @@ class SpawnActions {
   SpawnActions& operator=(const SpawnActions&) = delete;
 
   /// The process number, or 0.
-  [[nodiscard]] pid_t spawn(std::string program, std::string argument) const {
-    char* arguments[] = {program.data(), argument.data(), nullptr};
+  [[nodiscard]] pid_t spawn(std::string program, std::string scratchRoot, std::string expected) const {
+    char* arguments[] = {program.data(), scratchRoot.data(), expected.data(), nullptr};
     pid_t pid = 0;
     return ::posix_spawn(&pid, program.c_str(), &actions_, &attributes_, arguments, environ) == 0 ? pid : 0;
   }
@@ -72,7 +72,7 @@ class SpawnActions {
 
 }  // namespace
 
-SpawnedWorker spawnWorker(const std::string& program) {
+SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected) {
   SpawnedWorker worker;
   int ends[2] = {-1, -1};
   if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return worker;
@@ -81,7 +81,7 @@ SpawnedWorker spawnWorker(const std::string& program) {
   const FileDescriptor theirs(::fcntl(given.get(), F_DUPFD_CLOEXEC, kAboveStandard));
   worker.scratchRoot = makeScratchRoot();
   if (theirs.valid() && !worker.scratchRoot.empty())
-    worker.pid = SpawnActions(theirs.get()).spawn(program, worker.scratchRoot);
+    worker.pid = SpawnActions(theirs.get()).spawn(program, worker.scratchRoot, std::to_string(expected));
   if (worker.pid != 0) worker.pidfd.reset(int(::syscall(SYS_pidfd_open, worker.pid, 0)));
   if (worker.pidfd.valid()) return worker;
   if (worker.pid != 0) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/file_descriptor.h"
+#include "platform/picture_needs.h"
 
 namespace norvex {
 
@@ -20,8 +21,8 @@ struct SpawnedWorker {
 
 /// Starts `program` without waiting until it is ready. Free of Qt, because it runs before Qt is even loaded:
 /// linking the program and linking the application then go on side by side. pid 0 when it could not be
-/// started.
-[[nodiscard]] SpawnedWorker spawnWorker(const std::string& program);
+/// started. `expected`: what its pictures will probably need, to be loaded at once; 0: nobody knows.
+[[nodiscard]] SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected = 0);
 
 /// A part of the application: the file `name` beside the running program, or in ../libexec/norvex seen from
 /// there; the first one when neither exists. No environment variable can change it: whoever controls the

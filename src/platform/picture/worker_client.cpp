@@ -25,11 +25,11 @@ bool isFinal(ErrorKind kind) {
 }  // namespace
 
 WorkerClient::WorkerClient(std::shared_ptr<WorkerStarter> starter, QByteArray bytes, PictureKind kind,
-                           const PictureLimits& limits, std::unique_ptr<WorkerConnection> connection)
+                           const ForkRequest& process, std::unique_ptr<WorkerConnection> connection)
     : starter_(std::move(starter)),
       bytes_(std::move(bytes)),
       kind_(kind),
-      limits_(limits),
+      process_(process),
       connection_(std::move(connection)) {
   (void)beginToOpen();  // the first call tries again and tells why not
 }
@@ -37,19 +37,19 @@ WorkerClient::WorkerClient(std::shared_ptr<WorkerStarter> starter, QByteArray by
 WorkerClient::~WorkerClient() = default;
 
 QDeadlineTimer WorkerClient::deadline() const {
-  return QDeadlineTimer(qint64(limits_.seconds) * 1000 + kGrace);
+  return QDeadlineTimer(qint64(process_.limits.seconds) * 1000 + kGrace);
 }
 
 Result<void> WorkerClient::beginToOpen() {
   if (!connection_ || !connection_->isUsable()) {
     connection_.reset();
-    auto opened = WorkerConnection::open(starter_, ForkRequest{limits_, kind_ == PictureKind::Eps});
+    auto opened = WorkerConnection::open(starter_, process_);
     if (!opened) return opened.error();
     connection_ = std::move(*opened);
   }
   const Result<FileDescriptor> memory = SealedMemory::seal(bytes_);
   if (!memory) return memory.error();
-  const Result<quint32> id = connection_->post(OpenRequest{kind_, limits_}, *memory);
+  const Result<quint32> id = connection_->post(OpenRequest{kind_, process_.limits}, *memory);
   if (!id) return connection_.reset(), id.error();
   opening_ = *id;
   openDeadline_ = deadline();
@@ -112,7 +112,7 @@ Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& canc
 
 Result<QImage> WorkerClient::render(const RenderRequest& request, const CancelToken& cancel) {
   const QSize size = request.pixelSize;
-  if (double(size.width()) * size.height() > limits_.megapixels * 1.0e6)
+  if (double(size.width()) * size.height() > process_.limits.megapixels * 1.0e6)
     return Error{ErrorKind::Limit, QStringLiteral("the picture would have more pixels than it is allowed")};
   const auto turn = turns_.take(cancel);
   if (!turn) return cancelled();
@@ -135,7 +135,7 @@ Result<PictureBytes> WorkerClient::askForBytes(RequestBody body, const CancelTok
   const auto turn = turns_.take(cancel);
   if (!turn) return cancelled();
   Result<WorkerAnswer> answer = ask(std::move(body), cancel);
-  return answer ? distrusted(bytesFrom(std::move(*answer), limits_)) : answer.error();
+  return answer ? distrusted(bytesFrom(std::move(*answer), process_.limits)) : answer.error();
 }
 
 Result<PictureBytes> WorkerClient::pdf(const PdfRequest& request, const CancelToken& cancel) {

@@ -15,9 +15,10 @@ namespace norvex {
 /// again.
 class WorkerClient final : public PictureProcess {
  public:
-  /// Begins to open the bytes at once and returns. `connection`: a process that waits already, or null.
+  /// Begins to open the bytes at once and returns. `process`: what the document needs. `connection`: a
+  /// process that waits already, or null.
   WorkerClient(std::shared_ptr<WorkerStarter> starter, QByteArray bytes, PictureKind kind,
-               const PictureLimits& limits, std::unique_ptr<WorkerConnection> connection = nullptr);
+               const ForkRequest& process, std::unique_ptr<WorkerConnection> connection = nullptr);
   ~WorkerClient() override;
 
   Result<PictureFacts> facts(const CancelToken& cancel = {}) override;
@@ -43,7 +44,7 @@ class WorkerClient final : public PictureProcess {
   const std::shared_ptr<WorkerStarter> starter_;
   const QByteArray bytes_;
   const PictureKind kind_;
-  const PictureLimits limits_;
+  const ForkRequest process_;
   TurnTaking turns_;
   // Used by the thread whose turn it is.
   std::unique_ptr<WorkerConnection> connection_;

@@ -18,8 +18,11 @@ Error cancelled() {
   return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
 }
 
-bool sameLimits(const PictureLimits& a, const PictureLimits& b) {
-  return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels;
+/// Whether what was prepared will do for what is wanted now.
+bool fits(const ForkRequest& prepared, const ForkRequest& wanted) {
+  const PictureLimits &a = prepared.limits, &b = wanted.limits;
+  return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels &&
+         prepared.postScript == wanted.postScript && (wanted.needs & ~prepared.needs) == 0;
 }
 
 }  // namespace
@@ -39,29 +42,43 @@ void WorkerService::yieldToWindows() {
   starter_->setNice(nice);
 }
 
+ForkRequest WorkerService::processFor(PictureKind kind, const PictureLimits& limits) const {
+  return {limits, kind == PictureKind::Eps, kind == PictureKind::Svg ? svgNeeds(use_) : NeedPages};
+}
+
 void WorkerService::prepare(PictureKind kind, const PictureLimits& limits) {
-  auto opened = WorkerConnection::open(starter_, ForkRequest{limits, kind == PictureKind::Eps});
+  auto opened = WorkerConnection::open(starter_, processFor(kind, limits));
   const std::lock_guard lock(preparedMutex_);
   if (opened) prepared_ = std::move(*opened);
 }
 
 std::shared_ptr<PictureProcess> WorkerService::open(const QByteArray& bytes, PictureKind kind,
                                                     const PictureLimits& limits) {
+  const ForkRequest process = processFor(kind, limits);
   std::unique_ptr<WorkerConnection> connection;
   {
     const std::lock_guard lock(preparedMutex_);
-    const bool fits = prepared_ && prepared_->request().postScript == (kind == PictureKind::Eps) &&
-                      sameLimits(prepared_->request().limits, limits);
-    if (fits) connection = std::move(prepared_);
+    if (prepared_ && fits(prepared_->request(), process)) connection = std::move(prepared_);
   }
-  return std::make_shared<WorkerClient>(starter_, bytes, kind, limits, std::move(connection));
+  auto client = std::make_shared<WorkerClient>(starter_, bytes, kind, process, std::move(connection));
+  if (use_ == PictureUse::WholePdf) prepareTools();  // a PDF is given its attributes when it is done
+  return client;
 }
 
-Result<WorkerAnswer> WorkerService::askTools(RequestBody body, const QByteArray& bytes,
+void WorkerService::prepareTools() {
+  if (toolsPrepared_.exchange(true)) return;
+  const auto turn = toolTurns_.take({});
+  if (!turn || tools_) return;
+  // Whoever asks it first tells why there is none.
+  if (auto opened = WorkerConnection::open(starter_, ForkRequest{toolLimits(), false, NeedTools}); opened)
+    tools_ = std::move(*opened);
+}
+
+Result<WorkerAnswer> WorkerService::askTools(PictureNeed need, RequestBody body, const QByteArray& bytes,
                                              const CancelToken& cancel) {
-  if (tools_ && !tools_->isUsable()) tools_.reset();
+  if (tools_ && ((tools_->request().needs & need) == 0 || !tools_->isUsable())) tools_.reset();
   if (!tools_) {
-    auto opened = WorkerConnection::open(starter_, ForkRequest{toolLimits(), false});
+    auto opened = WorkerConnection::open(starter_, ForkRequest{toolLimits(), false, need});
     if (!opened) return opened.error();
     tools_ = std::move(*opened);
   }
@@ -75,7 +92,7 @@ Result<WorkerAnswer> WorkerService::askTools(RequestBody body, const QByteArray&
 Result<NSBitmapImageRep> WorkerService::decodePreview(const QByteArray& tiff, const CancelToken& cancel) {
   const auto turn = toolTurns_.take(cancel);
   if (!turn) return cancelled();
-  Result<WorkerAnswer> answer = askTools(DecodePreviewRequest{}, tiff, cancel);
+  Result<WorkerAnswer> answer = askTools(NeedTools, DecodePreviewRequest{}, tiff, cancel);
   Result<NSBitmapImageRep> bitmap = answer ? bitmapFrom(std::move(*answer), toolLimits()) : answer.error();
   // A process that one document has made fail shall not see the next one.
   if (!bitmap) tools_.reset();
@@ -88,7 +105,7 @@ Result<QByteArray> WorkerService::setPdfAttributes(const QByteArray& pdf,
   const auto turn = toolTurns_.take(cancel);
   if (!turn) return cancelled();
   AttributesRequest request{texts, creationDate.isValid() ? std::optional(creationDate) : std::nullopt};
-  Result<WorkerAnswer> answer = askTools(std::move(request), pdf, cancel);
+  Result<WorkerAnswer> answer = askTools(NeedTools, std::move(request), pdf, cancel);
   Result<PictureBytes> bytes = answer ? bytesFrom(std::move(*answer), toolLimits()) : answer.error();
   if (!bytes) tools_.reset();
   return bytes ? Result<QByteArray>(bytes->bytes) : Result<QByteArray>(bytes.error());
@@ -101,7 +118,8 @@ Result<QByteArray> WorkerService::composePages(const QByteArray& pdf, const Page
   PagesRequest pages = request;
   pages.picture = !pdf.isEmpty();
   // A message's memory cannot be empty.
-  Result<WorkerAnswer> answer = askTools(std::move(pages), pdf.isEmpty() ? QByteArray(1, ' ') : pdf, cancel);
+  Result<WorkerAnswer> answer =
+      askTools(NeedSheets, std::move(pages), pdf.isEmpty() ? QByteArray(1, ' ') : pdf, cancel);
   Result<PictureBytes> bytes = answer ? bytesFrom(std::move(*answer), toolLimits()) : answer.error();
   if (!bytes) tools_.reset();
   return bytes ? Result<QByteArray>(bytes->bytes) : Result<QByteArray>(bytes.error());

@@ -5,6 +5,7 @@
 //   Result<PictureFacts> facts = process->facts();              // waits
 #pragma once
 
+#include <atomic>
 #include <mutex>
 
 #include "platform/picture/turn_taking.h"
@@ -26,12 +27,14 @@ class WorkerService final : public PictureService {
   /// application object and no other call before it. Optional: open() starts it as well. A failure is told
   /// again by every call.
   Result<void> start();
-  /// For programs with a window: pictures that are drawn must not take the processor from frames that are shown.
+  /// For programs with a window: pictures that are drawn must not take the processor from frames that are
+  /// shown.
   void yieldToWindows();
   /// Makes a process ready for a document of this kind that is expected; for PostScript its interpreter
   /// begins to start. The next open() with this kind and these limits takes it. Returns at once.
   void prepare(PictureKind kind, const PictureLimits& limits = {});
 
+  void openOnlyFor(PictureUse use) override { use_ = use; }
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
@@ -44,11 +47,18 @@ class WorkerService final : public PictureService {
   [[nodiscard]] qint64 programProcessId() const { return starter_->pid(); }
 
  private:
-  Result<WorkerAnswer> askTools(RequestBody body, const QByteArray& bytes, const CancelToken& cancel);
+  [[nodiscard]] ForkRequest processFor(PictureKind kind, const PictureLimits& limits) const;
+  /// Lets the process for tools start while the first picture is worked on.
+  void prepareTools();
+  /// `need`: what the process must be able to do.
+  Result<WorkerAnswer> askTools(PictureNeed need, RequestBody body, const QByteArray& bytes,
+                                const CancelToken& cancel);
 
   std::shared_ptr<WorkerStarter> starter_;
+  std::atomic<PictureUse> use_ = PictureUse::Everything;
   std::mutex preparedMutex_;
   std::unique_ptr<WorkerConnection> prepared_;
+  std::atomic<bool> toolsPrepared_ = false;
   TurnTaking toolTurns_;
   /// Serves what belongs to no open document, one after the other; replaced after any failure. Used by the
   /// thread whose turn it is.

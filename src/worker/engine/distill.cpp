@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "worker/engine/distiller.h"
 #include "worker/engine/ghostscript.h"
 #include "worker/engine/installed_fonts.h"
 #include "worker/engine/pdf_file.h"
@@ -15,23 +16,6 @@ namespace norvex::engine {
 namespace {
 
 constexpr qsizetype kMaximumSubstitutions = 20;  // that are told
-
-// Not quiet: what it says about fonts is handed on.
-QList<QByteArray> distillerArguments() {
-  return {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-sDEVICE=pdfwrite", "-sstdout=%stderr",
-          // No memory is reclaimed before the document runs: a tenth of the start. The prolog lets it begin.
-          "-dNOGC",
-          // Nothing that the comments say may turn the page or name the document.
-          "-dParseDSCComments=false", "-dParseDSCCommentsForDocInfo=false", "-dPreserveEPSInfo=false",
-          "-dAutoRotatePages=/None", "-dCompatibilityLevel=1.7",
-          // Colours and images as they are in the document.
-          "-sColorConversionStrategy=LeaveColorUnchanged", "-dDownsampleColorImages=false",
-          "-dDownsampleGrayImages=false", "-dDownsampleMonoImages=false", "-dAutoFilterColorImages=false",
-          "-dAutoFilterGrayImages=false", "-dColorImageFilter=/FlateEncode", "-dGrayImageFilter=/FlateEncode",
-          "-dPassThroughJPEGImages=true", "-dPreserveOverprintSettings=true", "-dPreserveSeparation=true",
-          "-dPreserveDeviceN=true", "-dUCRandBGInfo=/Preserve", "-dTransferFunctionInfo=/Preserve",
-          "-dEmbedAllFonts=true", "-dSubsetFonts=true", "-dMaxSubsetPct=100", "-o", "-", "-_"};
-}
 
 // Runs before the document, whose program follows it in the same stream. The page is set once and for all: what a
 // document may do to it (setpagedevice) does nothing, and the operators that go back to the page's own coordinates
@@ -120,16 +104,10 @@ Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box) {
 
 }  // namespace
 
-void warmUpGhostscript(EngineContext& context) {
-  if (context.warmGhostscript) return;
-  if (auto child = GhostscriptChild::start(distillerArguments(), context.scratchFolder))
-    context.warmGhostscript = std::move(*child);
-}
-
 Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
   std::shared_ptr<GhostscriptChild> child = std::exchange(context.warmGhostscript, nullptr);
   if (!child) {
-    auto started = GhostscriptChild::start(distillerArguments(), context.scratchFolder);
+    auto started = startDistiller(context);
     if (!started) return started.error();
     child = std::move(*started);
   }

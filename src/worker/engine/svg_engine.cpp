@@ -1,4 +1,5 @@
-// The engine for SVG documents, plain or gzip-compressed.
+#include "worker/engine/svg_engine.h"
+
 #include <QRectF>
 #include <QSizeF>
 #include <QTransform>
@@ -10,17 +11,14 @@
 #include <utility>
 
 #include "worker/engine/cairo_surface.h"
-#include "worker/engine/engine.h"
 #include "worker/engine/gzip_inflate.h"
 #include "worker/engine/installed_fonts.h"
 #include "worker/engine/svg_cut.h"
 #include "worker/engine/svg_inspection.h"
 #include "worker/engine/svg_length.h"
-#include "worker/engine/svg_pdf.h"
 #include "worker/engine/svg_pretty.h"
 #include "worker/engine/svg_renderer.h"
 #include "worker/engine/svg_text.h"
-#include "worker/engine/whole_page.h"
 #include "worker/limits.h"
 
 namespace norvex::engine {
@@ -34,8 +32,9 @@ double coarser(double one, double other) {
 class SvgEngine final : public DocumentEngine {
  public:
   /// `source`: the document as it stands, not compressed.
-  SvgEngine(QByteArray source, SvgText text, SvgInspection inspection, EngineContext& context)
-      : context_(context), source_(std::move(source)), text_(std::move(text)), inspection_(std::move(inspection)),
+  SvgEngine(QByteArray source, SvgText text, SvgInspection inspection, const SvgVectors& vectors,
+            EngineContext& context)
+      : context_(context), vectors_(vectors), source_(std::move(source)), text_(std::move(text)), inspection_(std::move(inspection)),
         geometry_(svgGeometry(inspection_.rootAttributes)) {}
 
   /// Finds the picture's size. Call once, before anything else.
@@ -61,6 +60,7 @@ class SvgEngine final : public DocumentEngine {
   [[nodiscard]] BytesReply pdfReport() const;
 
   EngineContext& context_;
+  const SvgVectors vectors_;
   const QByteArray source_;
   const SvgText text_;
   const SvgInspection inspection_;
@@ -194,7 +194,7 @@ BytesReply SvgEngine::pdfReport() const {
   BytesReply report;
   report.warnings = drawingRemarks();
   report.regionsRasterised = inspection_.filters + inspection_.masks;
-  if (report.regionsRasterised > 0) report.rasterisedDpi = svgEffectsDpi(pixels_, imageEffects());
+  if (report.regionsRasterised > 0) report.rasterisedDpi = vectors_.effectsDpi(pixels_, imageEffects());
   if (inspection_.filters > 0)
     report.warnings << QStringLiteral("what is drawn through a filter (elements: %1) is held as an image")
                            .arg(inspection_.filters);
@@ -206,10 +206,11 @@ BytesReply SvgEngine::pdfReport() const {
 
 Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
   if (const Result<void> may = start(request.page); !may) return may.error();
+  if (!vectors_.toPdf) return Error{ErrorKind::Unsupported, QStringLiteral("this picture was opened to be drawn")};
   if (!pdf_) {
     const Result<const SvgRenderer*> loaded = renderer();
     if (!loaded) return loaded.error();
-    Result<QByteArray> made = svgToPdf(**loaded, pixels_, imageEffects());
+    Result<QByteArray> made = vectors_.toPdf(**loaded, pixels_, imageEffects());
     if (!made) return made.error();
     pdf_ = std::move(*made);
   }
@@ -217,9 +218,11 @@ Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
 }
 
 Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {
+  if (!vectors_.compose)
+    return Error{ErrorKind::Unsupported, QStringLiteral("this picture was opened to be drawn or to become a PDF")};
   Result<EngineBytes> whole = pdf({request.page});
   if (!whole) return whole;
-  Result<EngineBytes> composed = composePage(whole->bytes, request, context_);
+  Result<EngineBytes> composed = vectors_.compose(whole->bytes, request, context_);
   if (composed) {
     composed->report.regionsRasterised += whole->report.regionsRasterised;
     composed->report.rasterisedDpi = coarser(whole->report.rasterisedDpi, composed->report.rasterisedDpi);
@@ -243,7 +246,8 @@ Result<EngineBytes> SvgEngine::svg(const SvgRequest& request) {
 
 }  // namespace
 
-Result<std::unique_ptr<DocumentEngine>> openSvg(const QByteArray& bytes, EngineContext& context) {
+Result<std::unique_ptr<DocumentEngine>> openSvgWith(const SvgVectors& vectors, const QByteArray& bytes,
+                                                    EngineContext& context) {
   QByteArray plain = bytes;
   if (isGzip(bytes)) {
     Result<QByteArray> inflated = inflateGzip(bytes);
@@ -257,7 +261,7 @@ Result<std::unique_ptr<DocumentEngine>> openSvg(const QByteArray& bytes, EngineC
   if (!text) return text.error();
   Result<SvgInspection> inspection = inspectSvg(text->utf8);
   if (!inspection) return inspection.error();
-  auto engine = std::make_unique<SvgEngine>(std::move(plain), std::move(*text), std::move(*inspection), context);
+  auto engine = std::make_unique<SvgEngine>(std::move(plain), std::move(*text), std::move(*inspection), vectors, context);
   if (const Result<void> measured = engine->measure(); !measured) return measured.error();
   return std::unique_ptr<DocumentEngine>(std::move(engine));
 }

@@ -6,6 +6,7 @@
 
 #include "kit/test_main.h"
 #include "worker/engine/distill.h"
+#include "worker/engine/distiller.h"
 #include "worker/engine/engine.h"
 #include "worker/engine/ghostscript.h"
 #include "worker/engine/pdf_file.h"

@@ -3,5 +3,6 @@
 #include "worker/worker_program.h"
 
 int main(int argc, char** argv) {
-  return norvex::runWorkerProgram(argc, argv, norvex::kit::stubEngines());
+  const norvex::EngineSet engines = norvex::kit::stubEngines();
+  return norvex::runWorkerProgram(argc, argv, {[&](norvex::PictureNeeds) { return &engines; }, {}, {}});
 }

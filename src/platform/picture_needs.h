@@ -1,0 +1,29 @@
+// What a picture process must be able to do: only what that takes is loaded into it. Free of Qt, because it
+// is also guessed before Qt is loaded.
+#pragma once
+
+namespace norvex {
+
+/// Bits of PictureNeeds.
+enum PictureNeed : unsigned {
+  NeedSvgDrawing = 1,  ///< open an SVG picture, draw it, hand on its text
+  NeedSvgPdf = 2,      ///< … and give the whole picture as PDF
+  NeedSvgParts = 4,    ///< … and as EPS, and a part of it or a turned picture as either
+  NeedPages = 8,       ///< everything that is done with PDF and PostScript
+  NeedTools = 16,      ///< previews of EPS files, attributes of results
+  NeedSheets = 32,     ///< the pages of print jobs
+};
+using PictureNeeds = unsigned;
+
+inline constexpr PictureNeeds allPictureNeeds = 63;
+
+/// What the pictures of a run are opened for.
+enum class PictureUse { Everything, Drawing, WholePdf };
+
+constexpr PictureNeeds svgNeeds(PictureUse use) {
+  if (use == PictureUse::Drawing) return NeedSvgDrawing;
+  if (use == PictureUse::WholePdf) return NeedSvgDrawing | NeedSvgPdf;
+  return NeedSvgDrawing | NeedSvgPdf | NeedSvgParts;
+}
+
+}  // namespace norvex

@@ -1,0 +1,16 @@
+// The commands behind `norvex` that open no window and print nothing, without what windows and printers take.
+#include <utility>
+
+#include "cli/command_line.h"
+#include "cli/job.h"
+#include "platform/picture/worker_service.h"
+#include "programs/application_entry.h"
+
+extern "C" __attribute__((visibility("default"))) int norvexApplication(int argc, char** argv,
+                                                                        norvex::SpawnedWorker* worker) {
+  using namespace norvex;
+  WorkerService service({}, std::move(*worker));
+  StandardConsole console;
+  Job job(console, service);
+  return runCommandLine(argc, argv, job);
+}

@@ -1,0 +1,76 @@
+#include "programs/expected_pictures.h"
+
+#include <strings.h>
+
+#include <initializer_list>
+#include <string_view>
+
+namespace norvex {
+namespace {
+
+using Text = std::string_view;
+
+bool isOneOf(Text text, std::initializer_list<Text> names) {
+  for (const Text name : names)
+    if (text.size() == name.size() && ::strncasecmp(text.data(), name.data(), name.size()) == 0) return true;
+  return false;
+}
+
+/// Behind the last dot.
+Text extensionOf(Text name) {
+  const size_t dot = name.rfind('.');
+  return dot == Text::npos ? Text() : name.substr(dot + 1);
+}
+
+PictureUse useFor(Text format) {
+  if (isOneOf(format, {"png", "jpeg", "jpg", "tiff", "tif", "gif", "svg", "svgz"}))
+    return PictureUse::Drawing;
+  return isOneOf(format, {"pdf"}) ? PictureUse::WholePdf : PictureUse::Everything;
+}
+
+PictureNeeds needsOfFile(Text name, PictureUse use) {
+  if (isOneOf(extensionOf(name), {"svg", "svgz"})) return svgNeeds(use);
+  // What PostScript needs is loaded while Ghostscript starts, which takes longer.
+  return isOneOf(extensionOf(name), {"pdf", "ai"}) ? PictureNeeds(NeedPages) : 0;
+}
+
+/// The value of the option at `i` when that is one of `names`: behind a "=", or the next argument, to which
+/// `i` then moves.
+bool readOption(int argc, const char* const* argv, int& i, std::initializer_list<Text> names, Text& value) {
+  const Text argument = argv[i];
+  for (const Text name : names) {
+    if (argument == name && i + 1 < argc) return value = argv[++i], true;
+    if (argument.starts_with(name) && argument.substr(name.size()).starts_with('='))
+      return value = argument.substr(name.size() + 1), true;
+  }
+  return false;
+}
+
+PictureNeeds needsOfConversions(int argc, const char* const* argv) {
+  Text format, output, part;
+  for (int i = 2; i < argc; ++i)
+    if (!readOption(argc, argv, i, {"--format"}, format) &&
+        !readOption(argc, argv, i, {"-o", "--output"}, output))
+      readOption(argc, argv, i, {"--crop", "--rotate"}, part);
+  PictureUse use = useFor(format.empty() ? extensionOf(output) : format);
+  if (use == PictureUse::WholePdf && !part.empty()) use = PictureUse::Everything;
+  PictureNeeds needs = 0;
+  for (int i = 2; i < argc; ++i) {
+    Text passedOver;
+    if (!readOption(argc, argv, i, {"-o", "--output"}, passedOver)) needs |= needsOfFile(argv[i], use);
+  }
+  return needs;
+}
+
+}  // namespace
+
+PictureNeeds expectedNeeds(int argc, const char* const* argv) {
+  const Text command = argc > 1 ? argv[1] : "";
+  if (command == "convert") return needsOfConversions(argc, argv);
+  if (command != "info" && command != "source") return command == "preview" ? 0 : allPictureNeeds;
+  PictureNeeds needs = 0;
+  for (int i = 2; i < argc; ++i) needs |= needsOfFile(argv[i], PictureUse::Drawing);
+  return needs;
+}
+
+}  // namespace norvex

@@ -1,0 +1,13 @@
+// What the arguments of a run let expect of its pictures, before any of them is read.
+#pragma once
+
+#include "platform/picture_needs.h"
+
+namespace norvex {
+
+/// A guess from commands and file names, so that what is probably needed is loaded while the application
+/// loads. Names may lie: what a file holds is found out later, and what it then needs is loaded then. 0:
+/// nothing can be guessed.
+[[nodiscard]] PictureNeeds expectedNeeds(int argc, const char* const* argv);
+
+}  // namespace norvex

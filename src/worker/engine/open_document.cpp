@@ -1,0 +1,26 @@
+#include "worker/engine/engine.h"
+#include "worker/engine/svg_engine.h"
+#include "worker/engine/svg_pdf.h"
+#include "worker/engine/whole_page.h"
+
+// Apart from engine.cpp, which every engine needs: whoever links this links all of them.
+namespace norvex::engine {
+
+Result<std::unique_ptr<DocumentEngine>> openSvg(const QByteArray& bytes, EngineContext& context) {
+  return openSvgWith({svgToPdf, svgEffectsDpi, composePage}, bytes, context);
+}
+
+Result<std::unique_ptr<DocumentEngine>> openDocument(PictureKind kind, const QByteArray& bytes,
+                                                     EngineContext& context) {
+  switch (kind) {
+    case PictureKind::Eps:
+      return openEps(bytes, context);
+    case PictureKind::Pdf:
+      return openPdf(bytes, context);
+    case PictureKind::Svg:
+      return openSvg(bytes, context);
+  }
+  return Error{ErrorKind::Protocol, QStringLiteral("unknown kind of picture")};
+}
+
+}  // namespace norvex::engine

@@ -1,0 +1,52 @@
+// EngineModules: the engines, each with the libraries that it takes, as files beside the program that are
+// loaded when the first picture needs them.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "platform/picture_needs.h"
+#include "platform/result.h"
+#include "worker/engine_set.h"
+
+namespace norvex {
+
+/// The one function of a module: it fills in what the module offers.
+using EngineModuleEntry = void(EngineSet* engines);
+inline constexpr char kEngineModuleEntry[] = "norvexEngines";
+
+struct EngineModule {
+  const char* file;
+  PictureNeeds offers;
+};
+
+/// Every module, what is needed most often first. What two of them offer is the same code.
+inline constexpr std::array<EngineModule, 4> engineModules{{
+    {"norvex-engine-svg.so", NeedSvgDrawing},
+    {"norvex-engine-pages.so", NeedPages | NeedTools},
+    {"norvex-engine-svg-pdf.so", NeedSvgDrawing | NeedSvgPdf | NeedTools | NeedSheets},
+    {"norvex-engine-all.so", allPictureNeeds},
+}};
+
+/// Loaded modules stay loaded. Single-threaded. Forked processes share what was loaded before.
+class EngineModules {
+ public:
+  /// `folder`: where the files are; empty: where the running program is.
+  explicit EngineModules(std::string folder = {});
+
+  /// Engines that can do all of `needs`: those of a module that is loaded already, else the first that can.
+  /// Fails with CannotRead when the module is missing or damaged.
+  Result<const EngineSet*> engines(PictureNeeds needs);
+  /// Initialises what every picture may use; where nothing was loaded so far, everything is.
+  void warmUp();
+
+ private:
+  struct Slot {
+    bool loaded = false;
+    EngineSet engines;
+  };
+  std::string folder_;
+  std::array<Slot, engineModules.size()> slots_;
+};
+
+}  // namespace norvex

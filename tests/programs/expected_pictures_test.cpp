@@ -1,0 +1,50 @@
+#include "programs/expected_pictures.h"
+
+#include <QStringList>
+
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+class ExpectedPicturesTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void commandsAndNamesLetExpect_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<uint>("needs");
+    const uint drawing = NeedSvgDrawing, pdf = drawing | NeedSvgPdf, parts = pdf | NeedSvgParts;
+    QTest::newRow("window") << QStringList{} << uint(allPictureNeeds);
+    QTest::newRow("window with a file") << QStringList{"a.svg"} << uint(allPictureNeeds);
+    QTest::newRow("print") << QStringList{"print", "a.svg", "-o", "a.pdf"} << uint(allPictureNeeds);
+    QTest::newRow("SVG to PNG") << QStringList{"convert", "a.svg", "-o", "a.png"} << drawing;
+    QTest::newRow("letter case") << QStringList{"convert", "A.SVGZ", "-o", "A.PNG"} << drawing;
+    QTest::newRow("format wins") << QStringList{"convert", "--format", "png", "a.svg", "-o", "a.pdf"}
+                                 << drawing;
+    QTest::newRow("format with =") << QStringList{"convert", "--format=jpeg", "a.svg", "--to=x"} << drawing;
+    QTest::newRow("SVG to PDF") << QStringList{"convert", "a.svg", "-o", "a.pdf"} << pdf;
+    QTest::newRow("turned") << QStringList{"convert", "a.svg", "--rotate", "9", "-o", "a.pdf"} << parts;
+    QTest::newRow("cut") << QStringList{"convert", "a.svg", "--crop=0,0,1,1", "-o", "a.pdf"} << parts;
+    QTest::newRow("SVG to EPS") << QStringList{"convert", "a.svg", "--output=a.eps"} << parts;
+    QTest::newRow("PDF") << QStringList{"convert", "a.pdf", "-o", "a.png"} << uint(NeedPages);
+    QTest::newRow("mixed") << QStringList{"convert", "a.pdf", "b.svg", "--format", "gif", "--to", "x"}
+                           << (NeedPages | drawing);
+    QTest::newRow("EPS") << QStringList{"convert", "a.eps", "-o", "a.pdf"} << 0u;
+    QTest::newRow("no name") << QStringList{"convert", "-", "-o", "-", "--format", "pdf"} << 0u;
+    QTest::newRow("a format is no file") << QStringList{"convert", "a", "--format", "pdf", "--to", "x"} << 0u;
+    QTest::newRow("option without its value") << QStringList{"convert", "a.svg", "-o"} << parts;
+    QTest::newRow("info") << QStringList{"info", "--json", "a.svg"} << drawing;
+    QTest::newRow("preview") << QStringList{"preview", "a.eps"} << 0u;
+  }
+  void commandsAndNamesLetExpect() {
+    QFETCH(QStringList, arguments);
+    QFETCH(uint, needs);
+    QByteArrayList bytes{"norvex"};
+    for (const QString& argument : arguments) bytes << argument.toUtf8();
+    std::vector<const char*> pointers;
+    for (const QByteArray& argument : bytes) pointers.push_back(argument.constData());
+    QCOMPARE(uint(expectedNeeds(int(pointers.size()), pointers.data())), needs);
+  }
+};
+
+NORVEX_TEST(ExpectedPicturesTest)
+#include "expected_pictures_test.moc"

@@ -1,0 +1,141 @@
+// The programs and their parts: where they are looked for, and what happens when one of them is not there.
+#include <QTemporaryDir>
+
+#include "kit/program.h"
+#include "kit/test_main.h"
+
+using namespace norvex;
+using namespace norvex::kit;
+
+namespace {
+
+const QStringList kParts{"norvex",
+                         "norvex-worker",
+                         "norvex-application.so",
+                         "norvex-commands.so",
+                         "norvex-engine-svg.so",
+                         "norvex-engine-svg-pdf.so",
+                         "norvex-engine-pages.so",
+                         "norvex-engine-all.so"};
+
+}  // namespace
+
+class PartsTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void init() { folder_ = std::make_unique<QTemporaryDir>(); }
+
+  void namesThatLieAreConverted_data() {
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("format");
+    const QHash<QString, QString> names{
+        {"lighthouse.svg", "a.pdf"}, {"lighthouse.pdf", "a.svg"}, {"lighthouse.eps", "a.svg"}};
+    for (auto i = names.begin(); i != names.end(); ++i)
+      for (const char* format : {"png", "pdf", "eps"})
+        QTest::addRow("%s as %s to %s", qPrintable(i.key()), qPrintable(i.value()), format)
+            << i.key() << i.value() << QString(format);
+  }
+  void namesThatLieAreConverted() {
+    QFETCH(QString, sample);
+    QFETCH(QString, name);
+    QFETCH(QString, format);
+    QVERIFY(QFile::copy(kit::sample(sample), path(name)));
+    const Ran ran = kit::norvex({"convert", path(name), "-o", path("out." + format), "--quiet"});
+    QCOMPARE(ran.err, QByteArray());
+    QCOMPARE(ran.exitCode, 0);
+    const Ran told = kit::norvex({"convert", kit::sample(sample), "-o", path("told." + format), "--quiet"});
+    QCOMPARE(told.exitCode, 0);
+    if (format == "png") QCOMPARE(bytesOf(path("out.png")), bytesOf(path("told.png")));
+  }
+
+  void oneRunConvertsPicturesOfEveryKind() {
+    const Ran ran =
+        kit::norvex({"convert", sample("lighthouse.svg"), sample("lighthouse-preview.eps"),
+                     sample("lighthouse-cs.ai"), "--format", "png", "--to", folder_->path(), "--quiet"});
+    QCOMPARE(ran.err, QByteArray());
+    QCOMPARE(ran.exitCode, 0);
+    QCOMPARE(QDir(folder_->path()).entryList(QDir::Files).size(), 3);
+  }
+
+  void aMissingEngineIsToldInOneSentence_data() {
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QString>("format");
+    QTest::newRow("SVG to PNG") << "norvex-engine-svg.so"
+                                << "lighthouse.svg"
+                                << "png";
+    QTest::newRow("SVG to PDF") << "norvex-engine-svg-pdf.so"
+                                << "lighthouse.svg"
+                                << "pdf";
+    QTest::newRow("SVG to EPS") << "norvex-engine-all.so"
+                                << "lighthouse.svg"
+                                << "eps";
+    QTest::newRow("PDF to PNG") << "norvex-engine-pages.so"
+                                << "lighthouse.pdf"
+                                << "png";
+    QTest::newRow("EPS to PDF") << "norvex-engine-pages.so"
+                                << "lighthouse.eps"
+                                << "pdf";
+  }
+  void aMissingEngineIsToldInOneSentence() {
+    QFETCH(QString, part);
+    QFETCH(QString, sample);
+    QFETCH(QString, format);
+    copyPartsBut(part);
+    const QString file = kit::sample(sample), out = path("out." + format);
+    const Ran missing = kit::run(path("norvex"), {"convert", file, "-o", out}, {}, 30);
+    const QByteArray told =
+        "norvex: " + file.toUtf8() +
+        ": the part of norvex that this picture needs is missing or damaged: " + part.toUtf8() + "\n";
+    QCOMPARE(missing.err, told);
+    QCOMPARE(missing.exitCode, 3);
+    QVERIFY(!QFile::exists(out));
+    QFile damaged(path(part));
+    QVERIFY(damaged.open(QIODevice::WriteOnly));
+    damaged.write("no module");
+    damaged.close();
+    QCOMPARE(kit::run(path("norvex"), {"convert", file, "-o", out}, {}, 30).err, told);
+  }
+
+  void missingCommandsAreToldInOneSentence() {
+    copyPartsBut("norvex-commands.so");
+    const Ran ran =
+        kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png")}, {}, 30);
+    QVERIFY2(ran.err.startsWith("norvex: the application could not be loaded ("), ran.err);
+    QCOMPARE(ran.err.count('\n'), 1);
+    QCOMPARE(ran.exitCode, 1);
+  }
+
+  void theInstalledTreeWorks() {
+    const Ran installed = kit::run("cmake", {"--install", NORVEX_BUILD_DIR, "--prefix", path("tree")});
+    QVERIFY2(installed.exitCode == 0, installed.err);
+    const QString program = path("tree/bin/norvex");
+    for (const char* name : {"lighthouse.svg", "lighthouse.pdf", "lighthouse.eps"})
+      for (const char* format : {"png", "pdf", "eps"}) {
+        const QString out = path(QStringLiteral("%1.%2").arg(name, format));
+        const Ran ran = kit::run(program, {"convert", sample(name), "-o", out, "--quiet"});
+        QVERIFY2(ran.exitCode == 0, ran.err);
+        QVERIFY(QFile::exists(out));
+      }
+    const Ran printed = kit::run(program, {"print", sample("lighthouse.svg"), "-o", path("sheet.pdf")});
+    QVERIFY2(printed.exitCode == 0, printed.err);
+  }
+
+ private:
+  QString path(const QString& name) const { return folder_->filePath(name); }
+  static QByteArray bytesOf(const QString& file) {
+    QFile opened(file);
+    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
+  }
+  void copyPartsBut(const QString& missing) const {
+    const QDir built = QFileInfo(norvexProgram()).dir();
+    for (const QString& part : kParts)
+      if (part != missing && !QFile::copy(built.filePath(part), path(part))) qFatal("cannot copy a part");
+  }
+
+  std::unique_ptr<QTemporaryDir> folder_;
+};
+
+NORVEX_TEST(PartsTest)
+#include "parts_test.moc"

@@ -1,6 +1,8 @@
 // A PDF page as EPS: Poppler writes the vectors, the parts that need transparency are cut out and drawn as
 // images. docs/eps-generator.md tells why.
+#include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "worker/engine/engine.h"
 #include "worker/engine/eps_writing.h"
@@ -16,6 +18,8 @@ namespace norvex::engine {
 namespace {
 
 constexpr double kImageDpi = 300;
+constexpr double kMostTogether = 16e6;  // pixels
+constexpr double kSamePixel = 1e-4;     // what is lost in counting
 
 struct Opaque {
   QSizeF size;
@@ -57,20 +61,6 @@ Result<Opaque> withoutTransparency(const QByteArray& pdf) {
   });
 }
 
-// The part of the page with its transparency, at 300 pixels an inch or what the limit on pixels allows.
-Result<EpsImage> imageOf(PdfRenderer& renderer, const QRectF& region, QSizeF pageSize, double scale,
-                         const PictureLimits& limits) {
-  RenderRequest request;
-  request.purpose = RenderPurpose::Export;
-  request.pixelSize = QSize(std::max(1, int(std::ceil(region.width() * scale))),
-                            std::max(1, int(std::ceil(region.height() * scale))));
-  const QRectF rect(region.topLeft(), QSizeF(request.pixelSize) / scale);  // a whole number of pixels
-  request.pictureToDevice = QTransform(scale, 0, 0, -scale, -rect.left() * scale, rect.bottom() * scale);
-  Result<QImage> image = renderer.render(request, pageSize, limits);
-  if (!image) return image.error();
-  return EpsImage{rect, std::move(*image)};
-}
-
 // Pixels a point: what the limit on pixels allows for all of them.
 double imageScale(const QList<QRectF>& regions, const PictureLimits& limits) {
   double area = 0;
@@ -78,14 +68,62 @@ double imageScale(const QList<QRectF>& regions, const PictureLimits& limits) {
   return std::min(kImageDpi / 72, std::sqrt(limits.megapixels * 1e6 / 4 / std::max(1.0, area)));
 }
 
+// A part of the page with its transparency: a whole number of pixels from its upper-left corner.
+Result<EpsImage> imageOf(PdfRenderer& renderer, const QRectF& region, QSizeF pageSize, double scale,
+                         const PictureLimits& limits) {
+  RenderRequest request;
+  request.purpose = RenderPurpose::Export;
+  request.pixelSize = QSize(std::max(1, int(std::ceil(region.width() * scale - kSamePixel))),
+                            std::max(1, int(std::ceil(region.height() * scale - kSamePixel))));
+  const QSizeF size = QSizeF(request.pixelSize) / scale;
+  const QRectF rect(QPointF(region.left(), region.bottom() - size.height()), size);
+  request.pictureToDevice = QTransform(scale, 0, 0, -scale, -rect.left() * scale, rect.bottom() * scale);
+  Result<QImage> image = renderer.render(request, pageSize, limits);
+  if (!image) return image.error();
+  return EpsImage{rect, std::move(*image)};
+}
+
+// The pixels of `whole` that `region` touches.
+EpsImage cutOut(const EpsImage& whole, const QRectF& region, double scale) {
+  const QRectF there((region.left() - whole.rect.left()) * scale,
+                     (whole.rect.bottom() - region.bottom()) * scale, region.width() * scale,
+                     region.height() * scale);
+  const double s = kSamePixel;
+  const QRect pixels = there.adjusted(s, s, -s, -s).toAlignedRect() & whole.image.rect();
+  return {QRectF(whole.rect.left() + pixels.left() / scale,
+                 whole.rect.bottom() - (pixels.top() + pixels.height()) / scale, pixels.width() / scale,
+                 pixels.height() / scale),
+          whole.image.copy(pixels)};
+}
+
+// Every drawing reads the page and its images anew: as long as not too much lies between the regions, one
+// does for all.
+bool drawnTogether(const QList<QRectF>& regions, const QRectF& around, double scale,
+                   const PictureLimits& limits) {
+  const double pixels = around.width() * around.height() * scale * scale;
+  return regions.size() > 1 && pixels <= std::min(kMostTogether, limits.megapixels * 1e6 / 4);
+}
+
 Result<QList<EpsImage>> imagesOf(const QByteArray& pdf, const QList<QRectF>& regions, QSizeF pageSize,
                                  const EngineContext& context) {
   const double scale = imageScale(regions, context.limits);
   PdfRenderer renderer(pdf);
+  QRectF around;
+  for (const QRectF& region : regions) around |= region;
+  std::optional<EpsImage> together;
+  if (drawnTogether(regions, around, scale, context.limits)) {
+    Result<EpsImage> image = imageOf(renderer, around, pageSize, scale, context.limits);
+    if (!image) return image.error();
+    together = std::move(*image);
+  }
   QList<EpsImage> images;
   for (const QRectF& region : regions) {
     if (context.cancel.cancelled())
       return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
+    if (together) {
+      images << cutOut(*together, region, scale);
+      continue;
+    }
     Result<EpsImage> image = imageOf(renderer, region, pageSize, scale, context.limits);
     if (!image) return image.error();
     images << std::move(*image);

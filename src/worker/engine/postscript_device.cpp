@@ -1,5 +1,5 @@
-// The only file that uses Poppler's own headers instead of its GLib interface: there a generator can be
-// neither given another output than a file nor told to paint gradients differently.
+// This file and shown_glyphs.cpp use Poppler's own headers instead of its GLib interface: there a generator
+// can be neither given another output than a file nor told to paint gradients differently.
 #include "worker/engine/postscript_device.h"
 
 #include <GlobalParams.h>
@@ -10,9 +10,11 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <list>
 #include <utility>
 
 #include "worker/engine/postscript_shading.h"
+#include "worker/engine/shown_glyphs.h"
 
 namespace norvex::engine {
 namespace {
@@ -63,9 +65,9 @@ void copyColour(const GfxColor& colour, int components, double* to) {
 
 class PageDevice : public PSOutputDev {
  public:
-  PageDevice(Sink& sink, PDFDoc& document, QSize size)
+  PageDevice(Sink& sink, PDFDoc& document, QSize size, PSForceRasterize rasterize)
       : PSOutputDev(&Sink::write, &sink, nullptr, &document, {1}, psModePS, size.width(), size.height(),
-                    false, true, 0, 0, 0, 0, psRasterizeWhenNeeded, false, nullptr, nullptr, psLevel3),
+                    false, true, 0, 0, 0, 0, rasterize, false, nullptr, nullptr, psLevel3),
         sink_(sink) {}
 
   // Where a pattern's colour is that of the moment, a gradient has none to bring.
@@ -240,11 +242,17 @@ void ignoreComplaint(ErrorCategory, Goffset, const char*) {}
 Result<QByteArray> generatedPostScript(const QByteArray& pdf, QSize pageSize) {
   const Error refused{ErrorKind::Unsupported, QStringLiteral("the page cannot be written as PostScript")};
   const GlobalParamsIniter parameters(ignoreComplaint);
+  std::list<QByteArray> fonts;  // of the document, which must go before them
   PDFDoc document(new MemStream(pdf.constData(), 0, pdf.size(), Object(objNull)));
   if (!document.isOk() || document.getNumPages() < 1) return refused;
+  keepShownGlyphs(document, fonts);
+  // Poppler would draw the page once more to look for transparency. Annotations alone may bring some.
+  const bool annotated = document.getPage(1) && document.getPage(1)->getAnnotsObject().isArray();
   Sink sink;
   {
-    PageDevice device(sink, document, pageSize);  // writes the end when it is released
+    PageDevice device(
+        sink, document, pageSize,
+        annotated ? psRasterizeWhenNeeded : psNeverRasterize);  // writes the end when it is released
     if (!device.isOk()) return refused;
     document.displayPage(&device, 1, 72, 72, 0, false, true, false);
   }

@@ -111,6 +111,29 @@ bool stillGives(const std::vector<double>& all, size_t step, size_t components,
   return true;
 }
 
+// The same in both directions of the square of kPlacesOfTwo.
+bool stillGivesPlane(const std::vector<double>& all, int step, size_t components,
+                     const std::vector<Range>& ranges) {
+  constexpr int side = kPlacesOfTwo + 1;
+  for (int y = 0; y < side; ++y)
+    for (int x = 0; x < side; ++x) {
+      const int left = std::min(x / step * step, kPlacesOfTwo - step);
+      const int low = std::min(y / step * step, kPlacesOfTwo - step);
+      const double across = double(x - left) / step;
+      const double up = double(y - low) / step;
+      for (size_t c = 0; c < components; ++c) {
+        const auto at = [&](int column, int row) {
+          return all[(size_t(row) * side + size_t(column)) * components + c];
+        };
+        const double below = at(left, low) * (1 - across) + at(left + step, low) * across;
+        const double above = at(left, low + step) * (1 - across) + at(left + step, low + step) * across;
+        if (std::abs(below * (1 - up) + above * up - at(x, y)) > kUnseen * (ranges[c].high - ranges[c].low))
+          return false;
+      }
+    }
+  return true;
+}
+
 }  // namespace
 
 // A shading that the interpreter refuses leaves its place unpainted instead of ending the job. An array of
@@ -151,14 +174,25 @@ QByteArray sampledFunction(double domain0, double domain1, int components, const
 
 QByteArray sampledFunction(const double (&domain)[4], int components, const ColourAt& colour) {
   constexpr int side = kPlacesOfTwo + 1;
-  std::vector<double> samples(size_t(side) * side * size_t(components));
-  double* to = samples.data();
+  const auto count = size_t(components);
+  std::vector<double> all(size_t(side) * side * count);
+  double* to = all.data();
   for (int y = 0; y < side; ++y)
     for (int x = 0; x < side; ++x, to += components)
       colour(double(x) / kPlacesOfTwo, double(y) / kPlacesOfTwo, to);
-  for (double& value : samples) value = finite(value);
-  return functionText(numbers({{domain[0], domain[1]}, {domain[2], domain[3]}}),
-                      QByteArray::number(side) + ' ' + QByteArray::number(side), components, samples);
+  for (double& value : all) value = finite(value);
+  const std::vector<Range> ranges = rangesOf(all, components);
+  int step = kPlacesOfTwo;
+  while (step > 1 && !stillGivesPlane(all, step, count, ranges)) step /= 2;
+  std::vector<double> samples;
+  for (int y = 0; y < side; y += step)
+    for (int x = 0; x < side; x += step) {
+      const double* place = &all[(size_t(y) * side + size_t(x)) * count];
+      samples.insert(samples.end(), place, place + count);
+    }
+  const QByteArray size = QByteArray::number(kPlacesOfTwo / step + 1);
+  return functionText(numbers({{domain[0], domain[1]}, {domain[2], domain[3]}}), size + ' ' + size,
+                      components, samples);
 }
 
 void ShadingMesh::add(const double* points, const double* colours) {

@@ -1,21 +1,21 @@
 #include <QFile>
 #include <QImage>
-#include <QPainter>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
-
-#include <cmath>
 
 #include "kit/test_main.h"
 #include "metadata/eps_bounding_box.h"
 #include "worker/engine/engine.h"
+#include "worker/engine/eps_kit.h"
 #include "worker/engine/eps_writing.h"
 #include "worker/engine/made_pdf.h"
 #include "worker/engine/transparent_regions.h"
 
 using namespace norvex;
 using namespace norvex::engine;
+using kit::Converted;
+using kit::difference;
+using kit::drawn;
 using kit::onePage;
 
 namespace {
@@ -23,81 +23,13 @@ namespace {
 const QByteArray kHelvetica = "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>";
 
 // A page of 200.5 × 100.25 points with a font /F, half opacity /H and more resources.
-QByteArray page(const QByteArray& contents, const QByteArray& resources = {}, const QList<QByteArray>& more = {},
-                const QByteArray& entries = {}) {
+QByteArray page(const QByteArray& contents, const QByteArray& resources = {},
+                const QList<QByteArray>& more = {}, const QByteArray& entries = {}) {
   return onePage(contents,
                  "/MediaBox [0 0 200.5 100.25] " + entries +
-                     " /Resources << /Font << /F 5 0 R >> /ExtGState << /H << /ca 0.5 >> >> " + resources + " >>",
+                     " /Resources << /Font << /F 5 0 R >> /ExtGState << /H << /ca 0.5 >> >> " + resources +
+                     " >>",
                  QList<QByteArray>{kHelvetica} + more);
-}
-
-class Converted {
- public:
-  explicit Converted(const QByteArray& pdf) {
-    context_.scratchFolder = folder_.path();
-    auto eps = epsFromPdf(pdf, context_);
-    if (eps)
-      result_ = std::move(*eps);
-    else
-      error_ = eps.error();
-  }
-  [[nodiscard]] const QByteArray& eps() const { return result_.bytes; }
-  [[nodiscard]] const BytesReply& report() const { return result_.report; }
-  [[nodiscard]] const Error& error() const { return error_; }
-
-  /// Drawn by gs on white, two pixels a point; null when gs has anything to complain of.
-  QImage byGhostscript() {
-    const QString path = folder_.filePath("converted.eps");
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(eps()) != eps().size()) return {};
-    file.close();
-    QProcess gs;
-    gs.setProcessChannelMode(QProcess::MergedChannels);
-    const QString png = folder_.filePath("converted.png");
-    gs.start("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=png16m", "-r144",
-                    "-dGraphicsAlphaBits=4", "-dTextAlphaBits=4", "-o", png, path});
-    if (!gs.waitForFinished(60000) || gs.exitCode() != 0) return {};
-    const QByteArray said = gs.readAll();
-    if (!said.isEmpty()) qWarning("%s", said.constData());
-    return said.isEmpty() ? QImage(png).convertToFormat(QImage::Format_RGB32) : QImage();
-  }
-
- private:
-  QTemporaryDir folder_;
-  EngineContext context_;
-  EngineBytes result_;
-  Error error_;
-};
-
-QImage drawn(const QByteArray& pdf) {
-  EngineContext context;
-  auto engine = openPdf(pdf, context);
-  if (!engine) return {};
-  const QSizeF size = (*engine)->facts()->pageBounds.first().size();
-  RenderRequest request;
-  request.pixelSize = QSize(int(std::round(size.width() * 2)), int(std::round(size.height() * 2)));
-  request.pictureToDevice = QTransform(2, 0, 0, -2, 0, size.height() * 2);
-  auto image = (*engine)->render(request);
-  if (!image) return {};
-  QImage onWhite(image->size(), QImage::Format_RGB32);
-  onWhite.fill(Qt::white);
-  QPainter(&onWhite).drawImage(0, 0, *image);
-  return onWhite;
-}
-
-// Mean difference of a channel, 0 … 255; 255 when the sizes differ by more than a pixel.
-double difference(const QImage& a, const QImage& b) {
-  if (a.isNull() || b.isNull() || std::abs(a.width() - b.width()) > 1 || std::abs(a.height() - b.height()) > 1)
-    return 255;
-  double sum = 0;
-  const QSize size = a.size().boundedTo(b.size());
-  for (int y = 0; y < size.height(); ++y)
-    for (int x = 0; x < size.width(); ++x) {
-      const QRgb p = a.pixel(x, y);
-      const QRgb q = b.pixel(x, y);
-      sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) + std::abs(qBlue(p) - qBlue(q));
-    }
-  return sum / (3.0 * size.width() * size.height());
 }
 
 int lines(const QByteArray& text, const QByteArray& beginning) {
@@ -117,7 +49,8 @@ class EpsFromPdfTest : public QObject {
  private slots:
   void theHeaderHasEveryLineOnce() {
     const QByteArray eps = Converted(page(kVectors)).eps();
-    QVERIFY(eps.startsWith("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 201 101\n%%HiResBoundingBox: 0 0 200.5 100.25\n"));
+    QVERIFY(eps.startsWith(
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 201 101\n%%HiResBoundingBox: 0 0 200.5 100.25\n"));
     for (const char* line : {"%!", "%%BoundingBox:", "%%HiResBoundingBox:", "%%Title: ", "%%Creator: ",
                              "%%CreationDate: ", "%%For: ", "%%LanguageLevel: ", "%%EndComments", "%%EOF"})
       QCOMPARE(std::pair(QByteArray(line), lines(eps, line)), std::pair(QByteArray(line), 1));
@@ -132,7 +65,8 @@ class EpsFromPdfTest : public QObject {
   }
 
   void itIsSevenBitText() {
-    const QByteArray eps = Converted(page("BT /F 18 Tf 10 10 Td (caf\\351 \x80\xff) Tj ET " + kTransparent)).eps();
+    const QByteArray eps =
+        Converted(page("BT /F 18 Tf 10 10 Td (caf\\351 \x80\xff) Tj ET " + kTransparent)).eps();
     QVERIFY(!eps.isEmpty());
     QVERIFY(std::all_of(eps.begin(), eps.end(), [](char c) { return quint8(c) < 0x80 && c != '\0'; }));
   }
@@ -146,8 +80,8 @@ class EpsFromPdfTest : public QObject {
     QCOMPARE(first, second);
   }
 
-  // Drawn by gs and by Poppler: text and lines are smoothed differently, so the mean may differ a little; a missing
-  // or moved part is far above the bound.
+  // Drawn by gs and by Poppler: text and lines are smoothed differently, so the mean may differ a little; a
+  // missing or moved part is far above the bound.
   void itLooksTheSame_data() {
     QTest::addColumn<QByteArray>("pdf");
     QTest::addColumn<int>("regions");
@@ -158,32 +92,42 @@ class EpsFromPdfTest : public QObject {
     QTest::newRow("turned") << page(kVectors, {}, {}, "/Rotate 90") << 0;
     QTest::newRow("cropped") << page(kVectors + kTransparent, {}, {}, "/CropBox [20 10 170 90]") << 1;
     QTest::newRow("turned and transparent") << page(kVectors + kTransparent, {}, {}, "/Rotate 270") << 1;
-    QTest::newRow("a gradient") << page(
-        "q 10 10 150 60 re W n /S sh Q " + kVectors,
-        "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 200 0] /Function << /FunctionType 2 "
-        "/Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>") << 0;
-    QTest::newRow("a radial gradient") << page(
-        "q /S sh Q " + kVectors,
-        "/Shading << /S << /ShadingType 3 /ColorSpace /DeviceRGB /Coords [60 50 10 120 50 40] /Extend [true false] "
-        "/Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>") << 0;
-    QTest::newRow("a gradient between the same points") << page(
-        "q /S sh Q " + kVectors,
-        "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceRGB /Coords [60 50 60 50] /Extend [false false] "
-        "/Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>") << 0;
-    QTest::newRow("a soft image")
-        << page(kVectors + "q 60 0 0 60 100 20 cm /I Do Q", "/XObject << /I 6 0 R >>",
-                {kit::stream(QByteArray(3, '\x20'), "/Type /XObject /Subtype /Image /Width 1 /Height 1 "
-                                                    "/BitsPerComponent 8 /ColorSpace /DeviceRGB /SMask 7 0 R"),
-                 kit::stream(QByteArray("\x00\x80\xff\x40", 4), "/Type /XObject /Subtype /Image /Width 2 /Height 2 "
-                                                            "/BitsPerComponent 8 /ColorSpace /DeviceGray")})
-        << 1;
-    QTest::newRow("a blend mode") << page("1 0 0 rg 0 0 100 100 re f /M gs 0 1 1 rg 50 20 40 40 re f " + kVectors,
+    QTest::newRow("a gradient") << page("q 10 10 150 60 re W n /S sh Q " + kVectors,
+                                        "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 "
+                                        "0 200 0] /Function << /FunctionType 2 "
+                                        "/Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>")
+                                << 0;
+    QTest::newRow("a radial gradient")
+        << page("q /S sh Q " + kVectors,
+                "/Shading << /S << /ShadingType 3 /ColorSpace /DeviceRGB /Coords [60 50 10 120 50 40] "
+                "/Extend [true false] "
+                "/Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>")
+        << 0;
+    QTest::newRow("a gradient between the same points")
+        << page("q /S sh Q " + kVectors,
+                "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceRGB /Coords [60 50 60 50] /Extend "
+                "[false false] "
+                "/Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>")
+        << 0;
+    QTest::newRow("a soft image") << page(kVectors + "q 60 0 0 60 100 20 cm /I Do Q",
+                                          "/XObject << /I 6 0 R >>",
+                                          {kit::stream(
+                                               QByteArray(3, '\x20'),
+                                               "/Type /XObject /Subtype /Image /Width 1 /Height 1 "
+                                               "/BitsPerComponent 8 /ColorSpace /DeviceRGB /SMask 7 0 R"),
+                                           kit::stream(QByteArray("\x00\x80\xff\x40", 4),
+                                                       "/Type /XObject /Subtype /Image /Width 2 /Height 2 "
+                                                       "/BitsPerComponent 8 /ColorSpace /DeviceGray")})
+                                  << 1;
+    QTest::newRow("a blend mode") << page("1 0 0 rg 0 0 100 100 re f /M gs 0 1 1 rg 50 20 40 40 re f " +
+                                              kVectors,
                                           "/ExtGState << /M << /BM /Multiply >> >>")
                                   << 1;
     QTest::newRow("a group without effect")
         << page(kVectors + "/G Do", "/XObject << /G 6 0 R >>",
-                {kit::stream("0 0.5 0 rg 100 20 40 40 re f", "/Type /XObject /Subtype /Form /BBox [0 0 200 100] "
-                                                             "/Group << /S /Transparency /I true >>")})
+                {kit::stream("0 0.5 0 rg 100 20 40 40 re f",
+                             "/Type /XObject /Subtype /Form /BBox [0 0 200 100] "
+                             "/Group << /S /Transparency /I true >>")})
         << 0;
     QTest::newRow("opacity that is never used") << page(kVectors + "/H gs") << 0;
   }
@@ -200,7 +144,8 @@ class EpsFromPdfTest : public QObject {
   void onlyWhatIsTransparentIsAnImage() {
     Converted converted(page(kVectors + kTransparent));
     QCOMPARE(converted.report().regionsRasterised, 1);
-    const double share = converted.report().rasterisedAreaShare;  // 60 × 50 points of 200.5 × 100.25 and an edge
+    const double share =
+        converted.report().rasterisedAreaShare;  // 60 × 50 points of 200.5 × 100.25 and an edge
     QVERIFY2(share > 0.14 && share < 0.22, qPrintable(QString::number(share)));
     QCOMPARE(converted.report().rasterisedDpi, 300.0);
     QVERIFY(converted.eps().contains("(Hello words)"));
@@ -217,22 +162,25 @@ class EpsFromPdfTest : public QObject {
   }
 
   void coloursStayWhatTheyAre() {
-    const QByteArray eps = Converted(page("0.1 0.2 0.3 0.4 k 10 10 30 30 re f /Sp cs 0.7 scn 60 10 60 60 re f",
-                                          "/ColorSpace << /Sp [/Separation /Spot#20Green /DeviceCMYK << "
-                                          "/FunctionType 2 /Domain [0 1] /C0 [0 0 0 0] /C1 [1 0 1 0] /N 1 >> ] >>"))
-                               .eps();
+    const QByteArray eps =
+        Converted(page("0.1 0.2 0.3 0.4 k 10 10 30 30 re f /Sp cs 0.7 scn 60 10 60 60 re f",
+                       "/ColorSpace << /Sp [/Separation /Spot#20Green /DeviceCMYK << "
+                       "/FunctionType 2 /Domain [0 1] /C0 [0 0 0 0] /C1 [1 0 1 0] /N 1 >> ] >>"))
+            .eps();
     QVERIFY(eps.contains("[0.1 0.2 0.3 0.4] sc"));
     QVERIFY(eps.contains("[/Separation (Spot Green) /DeviceCMYK"));
     QVERIFY(eps.contains("[0.7] sc"));
   }
 
   void gradientsAreLeftToTheInterpreter() {
-    const QByteArray eps = Converted(page("/S sh", "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceCMYK /Coords "
-                                                   "[0 0 200 0] /Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0 0] "
-                                                   "/C1 [0 1 0 0] /N 1 >> >> >>"))
-                               .eps();
-    QVERIFY(eps.contains("<< /ColorSpace pdfFillCS /ShadingType 2 /Coords [0 0 200 0] /Extend [false false]"));
-    QVERIFY(!eps.contains("axialSH\n"));
+    const QByteArray eps =
+        Converted(page("/S sh",
+                       "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceCMYK /Coords "
+                       "[0 0 200 0] /Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0 0] "
+                       "/C1 [0 1 0 0] /N 1 >> >> >>"))
+            .eps();
+    QVERIFY(
+        eps.contains("<< /ColorSpace pdfFillCS /ShadingType 2 /Coords [0 0 200 0] /Extend [false false]"));
     QVERIFY(eps.size() < 20000);
   }
 
@@ -250,11 +198,12 @@ class EpsFromPdfTest : public QObject {
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(converted.eps());
     file.close();
-    const QByteArray program = "/showpage {} def 42 countdictstack /depth exch def\n(" + QFile::encodeName(file.fileName()) +
-                               ") run\ncountdictstack depth eq { (dictionaries ) print } if 42 eq { (operands) print } if flush\n";
+    const QByteArray program =
+        "/showpage {} def 42 countdictstack /depth exch def\n(" + QFile::encodeName(file.fileName()) +
+        ") run\ncountdictstack depth eq { (dictionaries ) print } if 42 eq { (operands) print } if flush\n";
     QProcess gs;
-    gs.start("gs", {"-q", "-dBATCH", "-dNOPAUSE", "-dSAFER", "--permit-file-read=" + folder.path() + "/", "-sDEVICE=nullpage",
-                    "-"});
+    gs.start("gs", {"-q", "-dBATCH", "-dNOPAUSE", "-dSAFER", "--permit-file-read=" + folder.path() + "/",
+                    "-sDEVICE=nullpage", "-"});
     QVERIFY(gs.waitForStarted());
     gs.write(program);
     gs.closeWriteChannel();
@@ -312,7 +261,8 @@ class EpsFromPdfTest : public QObject {
     }
     const QList<QRect> regions = differingRegions(one, other);
     for (const QPoint& mark : marks)
-      QCOMPARE(std::count_if(regions.begin(), regions.end(), [&](const QRect& r) { return r.contains(mark); }), 1);
+      QCOMPARE(
+          std::count_if(regions.begin(), regions.end(), [&](const QRect& r) { return r.contains(mark); }), 1);
     for (const QRect& region : regions) QVERIFY(one.rect().contains(region));
   }
 

@@ -1,5 +1,9 @@
 // The shipped picture program, from the bytes of a document to its answers.
+#include <unistd.h>
+
+#include <memory>
 #include <thread>
+#include <vector>
 
 #include "kit/test_main.h"
 #include "platform/picture/worker_service.h"
@@ -66,6 +70,19 @@ class RealWorkerTest : public QObject {
     const auto composed = process->compose({VectorFormat::Pdf, 0, QRectF(-10, -5, 20, 10), 0});
     QVERIFY2(composed.ok(), composed.ok() ? "" : qPrintable(composed.error().message));
     QVERIFY(composed->bytes.startsWith("%PDF-"));
+  }
+
+  // A process with more could not fork.
+  void theProgramHasOneThreadOnceItIsWarm() {
+    std::vector<std::shared_ptr<PictureProcess>> open;
+    for (int i = 0; i < 3; ++i) {  // a third picture is not begun before the program is warm
+      open.push_back(service_->open(kSvg, PictureKind::Svg));
+      QVERIFY(open.back()->facts().ok());
+    }
+    const QList<qint64> programs = childrenOf(::getpid());
+    QCOMPARE(programs.size(), 1);
+    const QDir threads(QStringLiteral("/proc/%1/task").arg(programs.first()));
+    QCOMPARE(threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
   }
 
   void aPreparedInterpreterIsUsed() {

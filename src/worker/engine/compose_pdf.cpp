@@ -120,7 +120,7 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
     }
     const QPDFObjectHandle form = formOf(file.qpdf(), source, geometry.box);
     keepOnlyPage(file.qpdf(), placedPage(file.qpdf(), source, form, request, placement(geometry, request)));
-    return writePdf(file.qpdf());
+    return request.format == VectorFormat::Eps ? writePdfToDraw(file.qpdf()) : writePdf(file.qpdf());
   });
 }
 

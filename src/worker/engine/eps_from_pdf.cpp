@@ -1,7 +1,10 @@
 // A PDF page as EPS: Poppler writes the vectors, the parts that need transparency are cut out and drawn as
 // images. docs/eps-generator.md tells why.
+#include <qpdf/Buffer.hh>
+
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <optional>
 
 #include "worker/engine/engine.h"
@@ -43,6 +46,19 @@ Result<QByteArray> upright(const QByteArray& pdf) {
   });
 }
 
+// Images reach the EPS as they are here.
+void compressImages(QPDF& qpdf) {
+  for (QPDFObjectHandle object : qpdf.getAllObjects()) {
+    if (!object.isStream() || object.getDict().hasKey("/Filter") ||
+        !object.getDict().getKey("/Subtype").isNameAndEquals("/Image"))
+      continue;
+    const std::shared_ptr<Buffer> data = object.getRawStreamData();
+    const QByteArray packed = qCompress(data->getBuffer(), int(data->getSize())).mid(4);
+    object.replaceStreamData(packed.toStdString(), QPDFObjectHandle::newName("/FlateDecode"),
+                             QPDFObjectHandle::newNull());
+  }
+}
+
 Result<Opaque> withoutTransparency(const QByteArray& pdf) {
   Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
   if (!file) return file.error();
@@ -56,7 +72,8 @@ Result<Opaque> withoutTransparency(const QByteArray& pdf) {
     keepOnlyPage((*file)->qpdf(), page);
     opaque.usedTransparency = usesTransparency((*file)->qpdf());
     removeTransparency((*file)->qpdf());
-    opaque.pdf = writePdf((*file)->qpdf());
+    compressImages((*file)->qpdf());
+    opaque.pdf = writePdfToDraw((*file)->qpdf());
     return opaque;
   });
 }

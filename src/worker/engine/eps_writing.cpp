@@ -10,8 +10,9 @@
 namespace norvex::engine {
 namespace {
 
-// Of the images: beyond this zlib spends twice the time on a tenth of the size.
-constexpr int kImageCompression = 3;
+// Of the images: beyond this zlib spends more time on photographs than the last hundredths of the size are
+// worth.
+constexpr int kImageCompression = 1;
 
 // The page leaves operands behind now and then. Whoever places the file on a page finds the stacks as they
 // were.

@@ -10,6 +10,17 @@
 #include "worker/engine/pdf_numbers.h"
 
 namespace norvex::engine {
+namespace {
+
+QByteArray written(QPDFWriter& writer) {
+  writer.setOutputMemory();
+  writer.setPreserveEncryption(false);
+  writer.write();
+  const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
+  return QByteArray(reinterpret_cast<const char*>(buffer->getBuffer()), qsizetype(buffer->getSize()));
+}
+
+}  // namespace
 
 void keepOnlyPage(QPDF& qpdf, QPDFObjectHandle page) {
   QPDFObjectHandle root = qpdf.getRoot();
@@ -32,21 +43,27 @@ void keepOnlyPage(QPDF& qpdf, QPDFObjectHandle page) {
 
 QByteArray writePdf(QPDF& qpdf) {
   QPDFWriter writer(qpdf);
-  writer.setOutputMemory();
-  writer.setPreserveEncryption(false);
   writer.setDeterministicID(true);
-  writer.write();
-  const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
-  return QByteArray(reinterpret_cast<const char*>(buffer->getBuffer()), qsizetype(buffer->getSize()));
+  return written(writer);
+}
+
+QByteArray writePdfToDraw(QPDF& qpdf) {
+  QPDFWriter writer(qpdf);
+  writer.setStreamDataMode(qpdf_s_preserve);
+  writer.setObjectStreamMode(qpdf_o_disable);
+  writer.setStaticID(true);
+  return written(writer);
 }
 
 QPDFObjectHandle boxAtOrigin(double width, double height) {
-  return QPDFObjectHandle::newArray(std::vector<QPDFObjectHandle>{
-      QPDFObjectHandle::newInteger(0), QPDFObjectHandle::newInteger(0),
-      QPDFObjectHandle::newReal(decimal(width).toStdString()),
-      QPDFObjectHandle::newReal(decimal(height).toStdString())});
+  return QPDFObjectHandle::newArray(
+      std::vector<QPDFObjectHandle>{QPDFObjectHandle::newInteger(0), QPDFObjectHandle::newInteger(0),
+                                    QPDFObjectHandle::newReal(decimal(width).toStdString()),
+                                    QPDFObjectHandle::newReal(decimal(height).toStdString())});
 }
 
-QPDFObjectHandle producerText() { return QPDFObjectHandle::newUnicodeString("Norvex " NORVEX_VERSION); }
+QPDFObjectHandle producerText() {
+  return QPDFObjectHandle::newUnicodeString("Norvex " NORVEX_VERSION);
+}
 
 }  // namespace norvex::engine

@@ -9,13 +9,18 @@
 
 namespace norvex::engine {
 
-/// Makes `page` the only page and drops from the catalogue and the trailer whatever drawing does not need (outlines,
-/// forms, names, metadata, document information); layers and output intents stay. The dropped objects are not
-/// written.
+/// Makes `page` the only page and drops from the catalogue and the trailer whatever drawing does not need
+/// (outlines, forms, names, metadata, document information); layers and output intents stay. The dropped
+/// objects are not written.
 void keepOnlyPage(QPDF& qpdf, QPDFObjectHandle page);
 
-/// Streams that are compressed already are copied as they are. The file's identifier depends on its contents alone.
+/// Streams that are compressed already are copied as they are. The file's identifier depends on its contents
+/// alone.
 [[nodiscard]] QByteArray writePdf(QPDF& qpdf);
+
+/// For a file that is drawn at once and handed to nobody: nothing is compressed that was not, and it has no
+/// identifier of its own.
+[[nodiscard]] QByteArray writePdfToDraw(QPDF& qpdf);
 
 /// [0 0 width height], for page boxes, in points.
 [[nodiscard]] QPDFObjectHandle boxAtOrigin(double width, double height);

@@ -173,8 +173,10 @@ class ArgumentsTest : public QObject {
   void bashCompletesFromTheScript() {
     const QString bash = QStandardPaths::findExecutable("bash");
     if (bash.isEmpty()) QSKIP("there is no bash");
+    const QTemporaryDir empty;  // names of files are offered too
     const auto complete = [&](const QString& words, int index) {
       QProcess shell;
+      shell.setWorkingDirectory(empty.path());
       shell.start(bash, {"--norc", "-c",
                          completionScript("bash") +
                              QString("COMP_WORDS=(%1); COMP_CWORD=%2; _norvex; echo \"${COMPREPLY[@]}\"")

@@ -34,15 +34,21 @@ QSize wholePoints(QSizeF size) {
   return QSize(int(std::ceil(size.width() - 1e-6)), int(std::ceil(size.height() - 1e-6)));
 }
 
-// The page with its corner at the origin, upright and in points: most pages are, the others are placed once
-// more.
-Result<QByteArray> upright(const QByteArray& pdf) {
-  Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
+using OpenedPdf = std::unique_ptr<PdfFile>;
+
+// The page with its corner at the origin, upright and in points, in `pdf` as well: most pages are, the others
+// are placed once more.
+Result<OpenedPdf> upright(QByteArray& pdf) {
+  Result<OpenedPdf> file = PdfFile::open(pdf);
   if (!file) return file.error();
-  return guarded([&]() -> Result<QByteArray> {
+  return guarded([&]() -> Result<OpenedPdf> {
     const PageGeometry geometry = (*file)->geometry(0);
-    if (geometry.rotation == 0 && geometry.userUnit == 1 && geometry.box.topLeft().isNull()) return pdf;
-    return composePdf(pdf, wholePage(0, geometry.shownSize(), VectorFormat::Pdf));
+    if (geometry.rotation == 0 && geometry.userUnit == 1 && geometry.box.topLeft().isNull())
+      return std::move(*file);
+    Result<QByteArray> placed = composePdf(pdf, wholePage(0, geometry.shownSize(), VectorFormat::Eps));
+    if (!placed) return placed.error();
+    pdf = std::move(*placed);
+    return PdfFile::open(pdf);
   });
 }
 
@@ -59,21 +65,20 @@ void compressImages(QPDF& qpdf) {
   }
 }
 
-Result<Opaque> withoutTransparency(const QByteArray& pdf) {
-  Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
-  if (!file) return file.error();
+Result<Opaque> withoutTransparency(PdfFile& file) {
   return guarded([&]() -> Result<Opaque> {
+    QPDF& qpdf = file.qpdf();
     Opaque opaque;
-    opaque.size = (*file)->geometry(0).shownSize();
-    QPDFObjectHandle page = (*file)->page(0);
+    opaque.size = file.geometry(0).shownSize();
+    QPDFObjectHandle page = file.page(0);
     page.removeKey("/CropBox");
     page.replaceKey("/MediaBox",
                     boxAtOrigin(wholePoints(opaque.size).width(), wholePoints(opaque.size).height()));
-    keepOnlyPage((*file)->qpdf(), page);
-    opaque.usedTransparency = usesTransparency((*file)->qpdf());
-    removeTransparency((*file)->qpdf());
-    compressImages((*file)->qpdf());
-    opaque.pdf = writePdfToDraw((*file)->qpdf());
+    keepOnlyPage(qpdf, page);
+    opaque.usedTransparency = usesTransparency(qpdf);
+    removeTransparency(qpdf);
+    compressImages(qpdf);
+    opaque.pdf = writePdfToDraw(qpdf);
     return opaque;
   });
 }
@@ -151,17 +156,18 @@ Result<QList<EpsImage>> imagesOf(const QByteArray& pdf, const QList<QRectF>& reg
 }  // namespace
 
 Result<EngineBytes> epsFromPdf(const QByteArray& source, EngineContext& context) {
-  const Result<QByteArray> pdf = upright(source);
-  if (!pdf) return pdf.error();
-  const Result<Opaque> opaque = withoutTransparency(*pdf);
+  QByteArray pdf = source;
+  const Result<OpenedPdf> file = upright(pdf);
+  if (!file) return file.error();
+  const Result<Opaque> opaque = withoutTransparency(**file);
   if (!opaque) return opaque.error();
   QList<EpsImage> images;
   double dpi = 0;
   if (opaque->usedTransparency) {
-    const auto regions = transparentRegions(*pdf, opaque->size, opaque->pdf,
-                                            QSizeF(wholePoints(opaque->size)), context.limits);
+    const auto regions =
+        transparentRegions(pdf, opaque->size, opaque->pdf, QSizeF(wholePoints(opaque->size)), context.limits);
     if (!regions) return regions.error();
-    auto made = imagesOf(*pdf, *regions, opaque->size, context);
+    auto made = imagesOf(pdf, *regions, opaque->size, context);
     if (!made) return made.error();
     images = std::move(*made);
     if (!images.isEmpty()) dpi = imageScale(*regions, context.limits) * 72;

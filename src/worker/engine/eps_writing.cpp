@@ -155,10 +155,14 @@ QByteArray writeEps(QSizeF size, const PagePostScript& page, const QList<EpsImag
   eps += "%%BeginProlog\n" + page.procedures + "%%EndProlog\n%%Page: 1 1\n" + kOpening +
          rectangle(QRectF(QPointF(0, 0), size)) + " rectclip\n";
   if (!images.isEmpty()) eps += "gsave\n" + clipAround(size, images);
-  eps += page.setup + page.page;
+  eps.reserve(eps.size() + page.setup.size() + page.page.size() + 1000);
+  eps += page.setup;
+  eps += page.page;
   if (!images.isEmpty()) eps += "grestore\n";
   for (const EpsImage& image : images) eps += imageText(image);
-  return eps + kClosing + "showpage\n%%Trailer\n%%EOF\n";
+  eps += kClosing;
+  eps += "showpage\n%%Trailer\n%%EOF\n";
+  return eps;
 }
 
 }  // namespace norvex::engine

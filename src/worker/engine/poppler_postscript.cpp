@@ -12,13 +12,14 @@ namespace {
 const Error kUnexpected{ErrorKind::Unsupported, QStringLiteral("the page cannot be written as PostScript")};
 
 // The text between the lines `begin` and `end`; nothing when one is missing.
-std::optional<QByteArray> between(const QByteArray& text, const QByteArray& begin, const QByteArray& end) {
+std::optional<QByteArrayView> between(const QByteArray& text, const QByteArray& begin,
+                                      const QByteArray& end) {
   const qsizetype from = text.indexOf('\n' + begin + '\n');
   if (from < 0) return std::nullopt;
   const qsizetype start = from + begin.size() + 2;
   const qsizetype stop = text.indexOf('\n' + end + '\n', start - 1);
   if (stop < 0) return std::nullopt;
-  return text.mid(start, std::max<qsizetype>(0, stop + 1 - start));
+  return QByteArrayView(text).sliced(start, std::max<qsizetype>(0, stop + 1 - start));
 }
 
 // Comments that would be taken for this file's own, or that speak for somebody else's.
@@ -52,14 +53,13 @@ void appendSevenBit(QByteArray& result, QByteArrayView line) {
   }
 }
 
-QByteArray cleaned(const QByteArray& text) {
-  QByteArray result;
-  result.reserve(text.size());
+void appendCleaned(QByteArray& result, QByteArrayView text) {
+  result.reserve(result.size() + text.size() + 100);
   qsizetype start = 0;
   while (start < text.size()) {
     qsizetype end = text.indexOf('\n', start);
     if (end < 0) end = text.size();
-    const QByteArrayView line = QByteArrayView(text).sliced(start, end - start);
+    const QByteArrayView line = text.sliced(start, end - start);
     start = end + 1;
     if (isForeignComment(line) || isForPrinters(line)) continue;
     if (line.startsWith('(') && line.contains("%%Copyright:")) {  // shown text that says so
@@ -69,7 +69,6 @@ QByteArray cleaned(const QByteArray& text) {
     }
     result += '\n';
   }
-  return result;
 }
 
 }  // namespace
@@ -82,12 +81,15 @@ Result<PagePostScript> takeApart(const QByteArray& postScript) {
   if (!procedures || !setup || page < 0 || trailer < page) return kUnexpected;
   const qsizetype begin = page + qsizetype(sizeof "\n%%EndPageSetup\n") - 1;
   PagePostScript result;
-  result.procedures = cleaned(*procedures) + shadingProcedures();
-  result.setup = cleaned(*setup);
-  result.page = cleaned(postScript.mid(begin, trailer + 1 - begin));
+  appendCleaned(result.procedures, *procedures);
+  result.procedures += shadingProcedures();
+  appendCleaned(result.setup, *setup);
+  result.page = "pdfStartPage\n";
+  appendCleaned(result.page,
+                QByteArrayView(postScript).sliced(begin, std::max<qsizetype>(0, trailer + 1 - begin)));
   if (!result.page.endsWith("showpage\n")) return kUnexpected;
   result.page.chop(qsizetype(sizeof "showpage\n") - 1);
-  result.page = "pdfStartPage\n" + result.page + "pdfEndPage\nend\n";
+  result.page += "pdfEndPage\nend\n";
   return result;
 }
 

@@ -11,13 +11,17 @@
 #include <array>
 #include <cmath>
 #include <list>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include "worker/engine/postscript_shading.h"
 #include "worker/engine/shown_glyphs.h"
 
 namespace norvex::engine {
 namespace {
+
+constexpr int kReadAtOnce = 1 << 20;  // bytes of an image
 
 // Image data comes one byte a call.
 class Sink {
@@ -81,6 +85,27 @@ class PageDevice : public PSOutputDev {
         PSOutputDev::tilingPatternFill(state, gfx, catalog, pattern, matrix, x0, y0, x1, y1, xStep, yStep);
     uncoloured_ = before;
     return filled;
+  }
+
+  // PostScript knows no JPEG 2000. Poppler would deflate what it holds a byte a call and as hard as zlib can.
+  void drawImage(GfxState* state, Object* ref, Stream* data, int width, int height, GfxImageColorMap* colours,
+                 bool interpolate, const int* maskColours, bool isInline) override {
+    if (data->getKind() != strJPX || isInline) {
+      PSOutputDev::drawImage(state, ref, data, width, height, colours, interpolate, maskColours, isInline);
+      return;
+    }
+    const std::vector<unsigned char> samples = data->toUnsignedChars(kReadAtOnce, kReadAtOnce);
+    data->close();
+    if (samples.empty()) return;
+    const QByteArray packed = qCompress(samples.data(), int(samples.size()), 1).mid(4);
+    Object entries(new Dict(static_cast<XRef*>(nullptr)));
+    entries.getDict()->set("Length", Object(int(packed.size())));
+    entries.getDict()->set("Filter", Object(objName, "FlateDecode"));
+    Object filters = entries.copy();
+    auto* bytes = new MemStream(packed.constData(), 0, packed.size(), std::move(entries));
+    const std::unique_ptr<Stream> deflated(bytes->addFilters(filters.getDict()));
+    PSOutputDev::drawImage(state, ref, deflated.get(), width, height, colours, interpolate, maskColours,
+                           isInline);
   }
 
   bool functionShadedFill(GfxState*, GfxFunctionShading* shading) override {

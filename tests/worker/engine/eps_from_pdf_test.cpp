@@ -141,6 +141,33 @@ class EpsFromPdfTest : public QObject {
     QVERIFY2(away < 3, qPrintable(QString::number(away)));
   }
 
+  // From red above to blue below; PostScript has no JPEG 2000.
+  void jpeg2000IsDeflated() {
+    const QByteArray picture = QByteArray::fromBase64(
+        "AAAADGpQICANCocKAAAAFGZ0eXBqcDIgAAAAAGpwMiAAAAAtanAyaAAAABZpaGRyAAAACAAAAAgAAwcHAAAAAAAPY29scgEAAAAA"
+        "ABAAAADQanAy"
+        "Y/9P/1EALwAAAAAACAAAAAgAAAAAAAAAAAAAAAgAAAAIAAAAAAAAAAAAAwcBAQcBAQcBAf9SAAwAAAABAQMEBAAB/"
+        "1wADUBASEhQSEhQSEhQ/2QA"
+        "JQABQ3JlYXRlZCBieSBPcGVuSlBFRyB2ZXJzaW9uIDIuNS4w/5AACgAAAAAATwAB/5PPtAgHX8+0CAK/"
+        "34AQAw+Ap+AEAr+n4AQFb4Cj7QUACzxj"
+        "sY+j7QQADBc154Ch9QOAA3/dUUIDp6H1AoAAz9VSP//Z");
+    for (const qsizetype length : {picture.size(), picture.size() / 2, qsizetype(0)}) {
+      const QByteArray pdf = page("q 80 0 0 80 60 10 cm /I Do Q", "/XObject << /I 6 0 R >>",
+                                  {kit::stream(picture.left(length),
+                                               "/Type /XObject /Subtype /Image /Width 8 /Height 8 "
+                                               "/Filter /JPXDecode /ColorSpace /DeviceRGB "
+                                               "/BitsPerComponent 8")});
+      Converted converted(pdf);
+      const QImage image = converted.byGhostscript();
+      QVERIFY(!image.isNull());
+      if (length < picture.size()) continue;
+      QVERIFY(converted.eps().contains("/FlateDecode filter\n"));
+      const QRgb above = image.pixel(200, 30);
+      const QRgb below = image.pixel(200, 170);
+      QVERIFY(qRed(above) > 230 && qBlue(above) < 30 && qRed(below) < 30 && qBlue(below) > 230);
+    }
+  }
+
   void onlyWhatIsTransparentIsAnImage() {
     Converted converted(page(kVectors + kTransparent));
     QCOMPARE(converted.report().regionsRasterised, 1);

@@ -14,6 +14,7 @@
 #include "worker/engine/pdf_transparency.h"
 #include "worker/engine/pdf_writing.h"
 #include "worker/engine/poppler_postscript.h"
+#include "worker/engine/postscript_device.h"
 #include "worker/engine/transparent_regions.h"
 #include "worker/engine/whole_page.h"
 
@@ -161,6 +162,7 @@ Result<EngineBytes> epsFromPdf(const QByteArray& source, EngineContext& context)
   if (!file) return file.error();
   const Result<Opaque> opaque = withoutTransparency(**file);
   if (!opaque) return opaque.error();
+  keepPopplerSettings();
   QList<EpsImage> images;
   double dpi = 0;
   if (opaque->usedTransparency) {

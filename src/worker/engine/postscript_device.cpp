@@ -264,9 +264,14 @@ void ignoreComplaint(ErrorCategory, Goffset, const char*) {}
 
 }  // namespace
 
+void keepPopplerSettings() {
+  static const auto* settings = new GlobalParamsIniter(ignoreComplaint);
+  Q_UNUSED(settings)
+}
+
 Result<QByteArray> generatedPostScript(const QByteArray& pdf, QSize pageSize) {
   const Error refused{ErrorKind::Unsupported, QStringLiteral("the page cannot be written as PostScript")};
-  const GlobalParamsIniter parameters(ignoreComplaint);
+  keepPopplerSettings();
   std::list<QByteArray> fonts;  // of the document, which must go before them
   PDFDoc document(new MemStream(pdf.constData(), 0, pdf.size(), Object(objNull)));
   if (!document.isOk() || document.getNumPages() < 1) return refused;

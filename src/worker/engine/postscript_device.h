@@ -8,6 +8,10 @@
 
 namespace norvex::engine {
 
+/// Poppler reads its settings and lists of encodings whenever a document is opened while no other is. From
+/// now on it has them as long as the process lives.
+void keepPopplerSettings();
+
 /// The first page of `pdf` as Poppler's generator writes it, document structure and all, Level 3. `pageSize`
 /// in points. Gradients of every type call shadingProcedures(). Fails with Unsupported when Poppler has no
 /// such page.

@@ -55,12 +55,12 @@ void appendSevenBit(QByteArray& result, QByteArrayView line) {
 
 void appendCleaned(QByteArray& result, QByteArrayView text) {
   result.reserve(result.size() + text.size() + 100);
-  qsizetype start = 0;
-  while (start < text.size()) {
-    qsizetype end = text.indexOf('\n', start);
-    if (end < 0) end = text.size();
-    const QByteArrayView line = text.sliced(start, end - start);
-    start = end + 1;
+  // Fonts bring their own line ends: those of old Macintosh fonts are carriage returns.
+  const auto endsLine = [](char c) { return c == '\n' || c == '\r'; };
+  for (auto start = text.begin(); start != text.end();) {
+    const auto end = std::find_if(start, text.end(), endsLine);
+    const QByteArrayView line(start, end);
+    start = end == text.end() ? end : end + 1;
     if (isForeignComment(line) || isForPrinters(line)) continue;
     if (line.startsWith('(') && line.contains("%%Copyright:")) {  // shown text that says so
       appendSevenBit(result, line.toByteArray().replace("%%Copyright:", "%\\045Copyright:"));

@@ -217,6 +217,22 @@ class EpsFromPdfTest : public QObject {
     QVERIFY(!eps.contains("%%Copyright"));
   }
 
+  void anEmbeddedFontWithReturnsAsLineEndsStaysWhole() {
+    const QByteArray clear =
+        "%!PS-AdobeFont-1.0: Made\r11 dict begin\r/FontName /Made def\rcurrentfile eexec\r";
+    const QByteArray program = clear + QByteArray(64, 'x');
+    const QByteArray font = "<< /Type /Font /Subtype /Type1 /BaseFont /Made /FontDescriptor 7 0 R >>";
+    const QByteArray descriptor = "<< /Type /FontDescriptor /FontName /Made /Flags 4 /FontFile 8 0 R >>";
+    const QByteArray file = "<< /Length " + QByteArray::number(program.size()) + " /Length1 " +
+                            QByteArray::number(clear.size()) + " /Length2 64 /Length3 0 >> stream\n" +
+                            program + "\nendstream";
+    const QByteArray eps =
+        Converted(page("BT /G 18 Tf 50 70 Td (A) Tj ET", "/Font << /G 6 0 R >>", {font, descriptor, file}))
+            .eps();
+    QCOMPARE(eps.count("%!PS"), 1);
+    QVERIFY(eps.contains("\n11 dict begin\n/FontName /Made def\ncurrentfile eexec\n"));
+  }
+
   void whatIsPlacedInsideLeavesNothingBehind() {
     // Put on a page twice, with a mark between and a check that stacks and graphics state are as before.
     Converted converted(page(kVectors + kTransparent));

@@ -118,10 +118,6 @@ const std::array<Colour, 4> kCmyk{Colour{0, 0, 0, 1}, Colour{0, 0, 0, 0}, Colour
                                   Colour{0, 0, 0, 0.2}};
 const std::array<Colour, 4> kOne{Colour{0}, Colour{0.4}, Colour{1}, Colour{0.7}};
 
-int literalsOf(const QByteArray& eps, const QByteArray& word) {
-  return int(eps.count(word));
-}
-
 }  // namespace
 
 class EpsShadingTest : public QObject {

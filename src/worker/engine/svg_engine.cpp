@@ -183,7 +183,8 @@ Result<QImage> SvgEngine::render(const RenderRequest& request) {
 
 // The scale of the view box is all that is known of a filter's user units here.
 SvgImageEffects SvgEngine::imageEffects() const {
-  SvgImageEffects effects{inspection_.filters + inspection_.masks > 0, inspection_.morphologyRadius};
+  SvgImageEffects effects{inspection_.filters + inspection_.masks > 0, inspection_.morphologyRadius,
+                          inspection_.stretchedText};
   if (const auto& box = geometry_.viewBox; box && !box->isEmpty())
     effects.morphologyRadius *= std::min(pixels_.width() / box->width(), pixels_.height() / box->height());
   return effects;

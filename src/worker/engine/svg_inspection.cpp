@@ -15,6 +15,7 @@
 
 #include "worker/engine/svg_fonts.h"
 #include "worker/engine/svg_nesting.h"
+#include "worker/engine/svg_stretching.h"
 #include "worker/limits.h"
 
 namespace norvex::engine {
@@ -67,6 +68,7 @@ class Inspector {
   SvgInspection found_;
   SvgNesting nesting_;
   SvgFonts fonts_;
+  SvgStretching stretching_;
   QString styleSheet_;
   std::optional<Error> error_;
   QString* collecting_ = nullptr;  // title, description or style sheet
@@ -165,10 +167,13 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
   fonts_.element(svg ? name : QString());
   if (svg && name == QLatin1String("script")) found_.hasScript = true;
   if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set"))) found_.hasAnimation = true;
-  QString id;
-  for (const Attribute& attribute : attributes)
-    if (attribute.name == QLatin1String("id")) id = attribute.value;
-  nesting_.open(id);
+  const auto valueOf = [&](QLatin1String wanted) {
+    const auto at = std::find_if(attributes.begin(), attributes.end(), [&](const Attribute& a) { return a.name == wanted; });
+    return at == attributes.end() ? QString() : at->value;
+  };
+  nesting_.open(valueOf(QLatin1String("id")));
+  stretching_.open(svg ? name : QString(), valueOf(QLatin1String("transform")),
+                   valueOf(QLatin1String("preserveAspectRatio")));
   for (const Attribute& attribute : attributes) {
     lookAt(name, attribute);
     if (svg && attribute.prefix.isEmpty()) fonts_.attribute(attribute.name, attribute.value);
@@ -224,6 +229,7 @@ void Inspector::end() {
   }
   --depth_;
   nesting_.close();
+  stretching_.close();
 }
 
 void Inspector::characters(const xmlChar* bytes, int length) {
@@ -289,6 +295,7 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
     return Error{ErrorKind::Limit,
                  QStringLiteral("the references of the document nest more than %1 deep").arg(limits::maximumDrawingDepth)};
   found_.fonts = fonts_.families();
+  found_.stretchedText = stretching_.reachesText();
   found_.fontLists = fonts_.lists();
   found_.hasLayers = found_.hasLayers || found_.hasStyleSheet;
   if (!found_.title.isNull()) found_.title = found_.title.simplified();

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -79,6 +80,19 @@ Result<QByteArray> rewritten(const QByteArray& pdf, const QSizeF& pixels, double
   }
 }
 
+/// Onto a surface of which librsvg does not know that it ends in a PDF: it draws outlines there. As text,
+/// glyphs would stand as far apart as if nothing were stretched.
+Result<void> drawOutlined(cairo_t* page, const QSizeF& size,
+                          const std::function<Result<void>(cairo_t*)>& draw) {
+  const cairo_rectangle_t extents{0, 0, size.width(), size.height()};
+  const CairoSurface recording(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
+  const CairoContext context(cairo_create(recording.get()));
+  if (const Result<void> drawn = draw(context.get()); !drawn) return drawn;
+  cairo_set_source_surface(page, recording.get(), 0, 0);
+  cairo_paint(page);
+  return {};
+}
+
 }  // namespace
 
 double svgEffectsDpi(const QSizeF& pixels, const SvgImageEffects& effects) {
@@ -89,9 +103,12 @@ Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
                             const SvgImageEffects& effects) {
   const double scale = drawingScale(pixels, effects);
   const double units = pointsPerPixel * scale;
+  const auto draw = [&](cairo_t* target) {
+    cairo_scale(target, units, units);
+    return renderer.draw(target, pixels);
+  };
   const Result<QByteArray> bytes = paintPdf(pixels * units, 1, [&](cairo_t* page, int) {
-    cairo_scale(page, units, units);
-    return renderer.draw(page, pixels);
+    return effects.stretchedText ? drawOutlined(page, pixels * units, draw) : draw(page);
   });
   if (!bytes) return bytes.error();
   return rewritten(*bytes, pixels, scale);

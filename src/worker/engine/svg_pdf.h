@@ -9,14 +9,15 @@
 
 namespace norvex::engine {
 
-/// What of a picture becomes images in a PDF.
+/// What of a picture cannot stay what it is in a PDF.
 struct SvgImageEffects {
   bool any = false;             ///< there are filters or masks
   double morphologyRadius = 0;  ///< the largest by which a filter thickens or thins, in pixels
+  bool stretchedText = false;   ///< text is drawn under a transform that is more than a similarity
 };
 
-/// A page of exactly the picture's size in points. Vectors stay vectors and text stays text. The same picture
-/// gives the same bytes.
+/// A page of exactly the picture's size in points. Vectors stay vectors and text stays text, but for outlines
+/// where text is stretched. The same picture gives the same bytes.
 [[nodiscard]] Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
                                           const SvgImageEffects& effects);
 

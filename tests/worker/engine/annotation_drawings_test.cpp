@@ -7,11 +7,13 @@
 
 #include "kit/test_main.h"
 #include "worker/engine/engine.h"
+#include "worker/engine/eps_kit.h"
 #include "worker/engine/made_pdf.h"
 #include "worker/engine/pdf_file.h"
 
 using namespace norvex;
 using namespace norvex::engine;
+using kit::difference;
 
 namespace {
 
@@ -83,22 +85,6 @@ QByteArray written(const QByteArray& pdf, const ComposeRequest& request) {
 
 QByteArray written(const QByteArray& pdf, VectorFormat format = VectorFormat::Pdf) {
   return written(pdf, whole(pdf, format));
-}
-
-// Mean difference of a channel, 0 … 255; 255 when the sizes differ by more than a pixel.
-double difference(const QImage& a, const QImage& b) {
-  if (a.isNull() || b.isNull() || std::abs(a.width() - b.width()) > 1 ||
-      std::abs(a.height() - b.height()) > 1)
-    return 255;
-  double sum = 0;
-  const QSize size = a.size().boundedTo(b.size());
-  for (int y = 0; y < size.height(); ++y)
-    for (int x = 0; x < size.width(); ++x) {
-      const QRgb p = a.pixel(x, y);
-      const QRgb q = b.pixel(x, y);
-      sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) + std::abs(qBlue(p) - qBlue(q));
-    }
-  return sum / (3.0 * size.width() * size.height());
 }
 
 }  // namespace

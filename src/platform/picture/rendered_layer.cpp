@@ -9,7 +9,7 @@
 #include <limits>
 #include <utility>
 
-#include "platform/waiting_threads.h"
+#include "platform/yielding_thread.h"
 
 namespace norvex {
 namespace {
@@ -144,7 +144,7 @@ void RenderedLayer::prepareNextTurned(const QList<const Piece*>& pieces) {
     if (piece->hasTurned()) continue;
     if (piece->turned.isValid()) return;
     piece->turned = QtConcurrent::run(
-        &waitingThreads(), [bitmap = piece->image] { return bitmap.transformed(QTransform().rotate(90)); });
+        &yieldingThread(), [bitmap = piece->image] { return bitmap.transformed(QTransform().rotate(90)); });
     return;
   }
 }

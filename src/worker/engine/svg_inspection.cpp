@@ -167,13 +167,14 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
   fonts_.element(svg ? name : QString());
   if (svg && name == QLatin1String("script")) found_.hasScript = true;
   if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set"))) found_.hasAnimation = true;
-  const auto valueOf = [&](QLatin1String wanted) {
-    const auto at = std::find_if(attributes.begin(), attributes.end(), [&](const Attribute& a) { return a.name == wanted; });
-    return at == attributes.end() ? QString() : at->value;
-  };
-  nesting_.open(valueOf(QLatin1String("id")));
-  stretching_.open(svg ? name : QString(), valueOf(QLatin1String("transform")),
-                   valueOf(QLatin1String("preserveAspectRatio")));
+  QString id, transform, preserveAspectRatio;
+  for (const Attribute& attribute : attributes) {
+    if (attribute.name == QLatin1String("id")) id = attribute.value;
+    if (attribute.name == QLatin1String("transform")) transform = attribute.value;
+    if (attribute.name == QLatin1String("preserveAspectRatio")) preserveAspectRatio = attribute.value;
+  }
+  nesting_.open(id);
+  stretching_.open(svg ? name : QString(), transform, preserveAspectRatio);
   for (const Attribute& attribute : attributes) {
     lookAt(name, attribute);
     if (svg && attribute.prefix.isEmpty()) fonts_.attribute(attribute.name, attribute.value);

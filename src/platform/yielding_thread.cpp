@@ -7,13 +7,11 @@
 namespace norvex {
 namespace {
 
-constexpr int kNice = 10;
-
 void prepare(QThreadPool& pool) {
   pool.setMaxThreadCount(1);
   pool.setExpiryTimeout(-1);
-  pool.start(
-      [] { ::setpriority(PRIO_PROCESS, 0, ::getpriority(PRIO_PROCESS, 0) + kNice); });  // of this thread
+  // Linux has a priority for each thread: this is the pool's only one.
+  pool.start([] { ::setpriority(PRIO_PROCESS, 0, ::getpriority(PRIO_PROCESS, 0) + kNicerThanFrames); });
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "platform/picture/worker_answers.h"
 #include "platform/picture/worker_client.h"
 #include "platform/sealed_memory.h"
+#include "platform/yielding_thread.h"
 
 namespace norvex {
 namespace {
@@ -38,8 +39,7 @@ Result<void> WorkerService::start() {
 }
 
 void WorkerService::yieldToWindows() {
-  constexpr int nice = 10;  // a tenth of a processor is left to them where everything is busy
-  starter_->setNice(nice);
+  starter_->setNice(kNicerThanFrames);
 }
 
 ForkRequest WorkerService::processFor(PictureKind kind, const PictureLimits& limits) const {

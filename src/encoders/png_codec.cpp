@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "encoders/raster_codecs.h"
 
@@ -29,6 +30,15 @@ void unpremultiplyRow(const uchar* from, uchar* to, int pixels) {
   }
 }
 
+/// Trying every filter on a row takes longer than packing it, and much of a drawing is paper: an empty row is left
+/// as it is, and one like the row above it is nothing but zeros as the difference from it. The first row (nothing
+/// is above it) must not do with less: libpng only keeps what the filters of that one take.
+int filtersFor(const uchar* row, const uchar* rowAbove, size_t bytes) {
+  if (rowAbove == nullptr) return PNG_ALL_FILTERS;
+  if (row[0] == 0 && std::memcmp(row, row + 1, bytes - 1) == 0) return PNG_FILTER_NONE;
+  return std::memcmp(row, rowAbove, bytes) == 0 ? PNG_FILTER_UP : PNG_ALL_FILTERS;
+}
+
 /// What is alive across libpng's long jumps is owned by the caller of this function, not by its frame.
 bool writePng(png_structp png, png_infop info, const NSBitmapImageRep& raster,
               const RasterProperties& properties, QByteArray& row) {
@@ -46,9 +56,12 @@ bool writePng(png_structp png, png_infop info, const NSBitmapImageRep& raster,
                  static_cast<png_uint_32>(properties.iccProfile.size()));
   }
   png_write_info(png, info);
+  const auto rowBytes = static_cast<size_t>(row.size());
   for (int y = 0; y < raster.pixelsHigh; ++y) {
     const auto* source =
         reinterpret_cast<const uchar*>(raster.data.constData()) + qsizetype(y) * raster.bytesPerRow;
+    const uchar* above = y == 0 ? nullptr : source - raster.bytesPerRow;
+    png_set_filter(png, PNG_FILTER_TYPE_BASE, filtersFor(source, above, rowBytes));
     if (raster.hasAlpha) unpremultiplyRow(source, reinterpret_cast<uchar*>(row.data()), raster.pixelsWide);
     png_write_row(png, raster.hasAlpha ? reinterpret_cast<png_const_bytep>(row.constData()) : source);
   }

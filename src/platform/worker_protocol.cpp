@@ -40,8 +40,8 @@ QCborMap mapOf(const PictureLimits& limits) {
           {Key("megapixels"), limits.megapixels}};
 }
 
-QCborArray arrayOf(const QTransform& t) {
-  return {t.m11(), t.m12(), t.m13(), t.m21(), t.m22(), t.m23(), t.m31(), t.m32(), t.m33()};
+QCborArray arrayOf(const AffineTransform& t) {
+  return {t.m11(), t.m12(), t.m21(), t.m22(), t.dx(), t.dy()};
 }
 
 QCborMap mapOf(const SheetLine& line) {
@@ -127,16 +127,15 @@ PictureLimits limitsFrom(CborFields& outer) {
   return limits;
 }
 
-QTransform matrixFrom(CborFields& fields) {
-  const QCborArray numbers = fields.array(Key("matrix"), 9);
-  double m[9] = {};
-  for (qsizetype i = 0; i < 9; ++i) {
+AffineTransform matrixFrom(CborFields& fields) {
+  const QCborArray numbers = fields.array(Key("matrix"), 6);
+  double m[6] = {};
+  for (qsizetype i = 0; i < 6; ++i) {
     const QCborValue number = numbers.at(i);
     m[i] = number.toDouble();
     if (!number.isDouble() || !(m[i] >= -kMaximumFactor && m[i] <= kMaximumFactor)) fields.fail();
   }
-  if (m[2] != 0 || m[5] != 0 || m[8] != 1) fields.fail();  // no perspective
-  return QTransform(m[0], m[1], m[2], m[3], m[4], m[5], m[6], m[7], m[8]);
+  return {m[0], m[1], m[2], m[3], m[4], m[5]};
 }
 
 OpenRequest openFrom(CborFields& fields) {

@@ -16,17 +16,17 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
-#include <QTransform>
 
 #include <optional>
 #include <variant>
 
+#include "platform/affine_transform.h"
 #include "platform/picture_needs.h"
 #include "platform/result.h"
 
 namespace norvex {
 
-inline constexpr int workerProtocolVersion = 4;
+inline constexpr int workerProtocolVersion = 5;
 inline constexpr quint32 maximumMessageBytes = 4u << 20;
 
 // What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge title
@@ -66,7 +66,7 @@ enum class RenderPurpose { View = 1, Preview = 2, Export = 3, Print = 4 };
 /// Draws a part of a page. Picture coordinates: points, origin at the lower-left corner of the unrotated page, y up.
 struct RenderRequest {
   int page = 0;                ///< from 0
-  QTransform pictureToDevice;  ///< picture coordinates → pixels of the result (origin top-left, y down)
+  AffineTransform pictureToDevice;  ///< picture coordinates → pixels of the result (origin top-left, y down)
   QSize pixelSize;             ///< size of the result; pixels outside the page stay transparent
   RenderPurpose purpose = RenderPurpose::View;
 };

@@ -96,15 +96,12 @@ DocumentServer::Answer DocumentServer::serve(const OpenRequest& request, FileDes
 
 DocumentServer::Answer DocumentServer::serve(const RenderRequest& request, FileDescriptor) {
   if (!engine_) return {notOpen(), {}};
-  Result<QImage> image = engine_->render(request);
+  Result<engine::Bitmap> image = engine_->render(request);
   if (!image) return {image.error(), {}};
   if (image->size() != request.pixelSize) return {notDone(), {}};
-  if (image->format() != QImage::Format_ARGB32_Premultiplied)
-    image->convertTo(QImage::Format_ARGB32_Premultiplied);
-  if (image->isNull()) return {noMemory(), {}};
-  Result<FileDescriptor> pixels = SealedMemory::seal(image->constBits(), image->sizeInBytes());
+  Result<FileDescriptor> pixels = SealedMemory::seal(image->row(0), image->byteCount());
   if (!pixels) return {pixels.error(), {}};
-  return {BitmapReply{image->size(), int(image->bytesPerLine()), engine_->drawingRemarks()},
+  return {BitmapReply{image->size(), image->bytesPerRow(), engine_->drawingRemarks()},
           std::move(*pixels)};
 }
 

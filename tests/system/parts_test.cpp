@@ -58,6 +58,18 @@ class PartsTest : public QObject {
     QCOMPARE(QDir(folder_->path()).entryList(QDir::Files).size(), 3);
   }
 
+  /// Every library that is linked costs time before a small picture is drawn.
+  void theyLinkNoMoreThanTheyMust() {
+    for (const QString& part : kParts) {
+      const QByteArray names = bytesOf(QStringLiteral(NORVEX_BUILD_DIR "/") + part);
+      QVERIFY2(names.size() > 1000, qPrintable(part));
+      if (part == "norvex") QVERIFY(!names.contains("libQt6"));
+      if (part.startsWith("norvex-worker") || part.startsWith("norvex-engine"))
+        QVERIFY2(!names.contains("libQt6Gui.so"), qPrintable(part));
+      if (part != "norvex-application.so") QVERIFY2(!names.contains("libQt6Widgets.so"), qPrintable(part));
+    }
+  }
+
   void aMissingEngineIsToldInOneSentence_data() {
     QTest::addColumn<QString>("part");
     QTest::addColumn<QString>("sample");

@@ -1,7 +1,5 @@
 #include "platform/picture/memory_picture_service.h"
 
-#include <QTransform>
-
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -16,9 +14,8 @@ MemoryPicture::MemoryPicture() {
 QImage testPattern(const RenderRequest& request, const QSizeF& pageSize) {
   QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
-  bool invertible = false;
-  const QTransform back = request.pictureToDevice.inverted(&invertible);
-  if (!invertible || image.isNull()) return image;
+  if (!request.pictureToDevice.isInvertible() || image.isNull()) return image;
+  const AffineTransform back = request.pictureToDevice.inverted();
   for (int y = 0; y < image.height(); ++y) {
     auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
     for (int x = 0; x < image.width(); ++x) {

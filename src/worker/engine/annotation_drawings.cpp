@@ -110,8 +110,8 @@ Result<std::vector<QPDFObjectHandle>> drawn(QPDF& qpdf, const QByteArray& sheets
                                             const PageGeometry& geometry) {
   const QRectF& box = geometry.box;
   const double scale = std::min(kUnitsPerPoint, kLongestSide / std::max(box.width(), box.height()));
-  const QTransform userToSheet =
-      QTransform::fromTranslate(-box.left(), -box.bottom()) * QTransform::fromScale(scale, -scale);
+  const AffineTransform userToSheet =
+      AffineTransform::fromTranslate(-box.left(), -box.bottom()) * AffineTransform::fromScale(scale, -scale);
   PdfRenderer renderer(sheets);
   const Result<QByteArray> vectors = renderer.vectors(
       geometry.shownSize(), geometry.userToPicture().inverted() * userToSheet, box.size() * scale);
@@ -125,8 +125,8 @@ Result<std::vector<QPDFObjectHandle>> drawn(QPDF& qpdf, const QByteArray& sheets
     QPDFObjectHandle form = qpdf.copyForeignObject(QPDFPageObjectHelper(page).getFormXObjectForPage(false));
     QPDFObjectHandle dictionary = form.getDict();
     dictionary.removeKey("/Group");  // a highlight multiplies with what is below it
-    const QTransform sheetToUser =
-        QTransform::fromScale(1 / scale, 1 / scale) * QTransform::fromTranslate(box.left(), box.top());
+    const AffineTransform sheetToUser =
+        AffineTransform::fromScale(1 / scale, 1 / scale) * AffineTransform::fromTranslate(box.left(), box.top());
     dictionary.replaceKey("/Matrix",
                           QPDFObjectHandle::parse("[" + matrixText(sheetToUser).toStdString() + "]"));
     forms.push_back(form);

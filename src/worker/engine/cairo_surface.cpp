@@ -19,11 +19,7 @@ Result<void> checkRequest(const RenderRequest& request, const PictureLimits& lim
   const QSize size = request.pixelSize;
   if (size.isEmpty())
     return Error{ErrorKind::Protocol, QStringLiteral("an image without pixels was asked for")};
-  const QTransform& m = request.pictureToDevice;
-  bool finite = m.isAffine();
-  for (const double value : {m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), m.dy()})
-    finite = finite && std::isfinite(value);
-  if (!finite)
+  if (!request.pictureToDevice.isFinite())
     return Error{ErrorKind::Protocol, QStringLiteral("the picture cannot be drawn through this matrix")};
   if (std::max(size.width(), size.height()) > limits::maximumSide)
     return Error{
@@ -35,12 +31,12 @@ Result<void> checkRequest(const RenderRequest& request, const PictureLimits& lim
   return {};
 }
 
-Result<void> paintTile(uchar* firstPixel, int stride, const QRect& tile, const QTransform& pictureToDevice,
+Result<void> paintTile(QRgb* firstPixel, int stride, const QRect& tile, const AffineTransform& pictureToDevice,
                        const PaintPicture& paint) {
-  const CairoSurface surface(cairo_image_surface_create_for_data(firstPixel, CAIRO_FORMAT_ARGB32,
-                                                                 tile.width(), tile.height(), stride));
+  const CairoSurface surface(cairo_image_surface_create_for_data(
+      reinterpret_cast<uchar*>(firstPixel), CAIRO_FORMAT_ARGB32, tile.width(), tile.height(), stride));
   const CairoContext context(cairo_create(surface.get()));
-  const cairo_matrix_t matrix = toCairo(pictureToDevice * QTransform::fromTranslate(-tile.x(), -tile.y()));
+  const cairo_matrix_t matrix = toCairo(pictureToDevice * AffineTransform::fromTranslate(-tile.x(), -tile.y()));
   cairo_set_matrix(context.get(), &matrix);
   const Result<void> painted = paint(context.get());
   const cairo_status_t status = cairo_status(context.get());
@@ -61,29 +57,25 @@ cairo_status_t append(void* bytes, const unsigned char* data, unsigned int lengt
 
 }  // namespace
 
-cairo_matrix_t toCairo(const QTransform& matrix) {
+cairo_matrix_t toCairo(const AffineTransform& matrix) {
   cairo_matrix_t result;
   cairo_matrix_init(&result, matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(),
                     matrix.dy());
   return result;
 }
 
-Result<QImage> paintImage(const RenderRequest& request, const PictureLimits& limits,
+Result<Bitmap> paintImage(const RenderRequest& request, const PictureLimits& limits,
                           const PaintPicture& paint) {
   if (const Result<void> fit = checkRequest(request, limits); !fit) return fit.error();
   const QSize size = request.pixelSize;
-  QImage image(size, QImage::Format_ARGB32_Premultiplied);
-  if (image.isNull())
-    return Error{ErrorKind::Limit, QStringLiteral("there is not enough memory to draw the picture")};
-  image.fill(0);
-  if (!request.pictureToDevice.isInvertible()) return image;
+  Result<Bitmap> image = Bitmap::create(size);
+  if (!image || !request.pictureToDevice.isInvertible()) return image;
   for (int y = 0; y < size.height(); y += kLongestSide) {
     for (int x = 0; x < size.width(); x += kLongestSide) {
       const QRect tile(x, y, std::min(kLongestSide, size.width() - x),
                        std::min(kLongestSide, size.height() - y));
-      uchar* firstPixel = image.scanLine(y) + 4 * qsizetype(x);
       const Result<void> painted =
-          paintTile(firstPixel, int(image.bytesPerLine()), tile, request.pictureToDevice, paint);
+          paintTile(image->row(y) + x, image->bytesPerRow(), tile, request.pictureToDevice, paint);
       if (!painted) return painted.error();
     }
   }

@@ -1,18 +1,18 @@
-// Drawing with cairo: straight into the bits of a QImage, without a copy, or into a PDF.
+// Drawing with cairo: straight into the pixels of a Bitmap, without a copy, or into a PDF.
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 #include <QSizeF>
-#include <QTransform>
 
 #include <cairo.h>
 
 #include <functional>
 #include <memory>
 
+#include "platform/affine_transform.h"
 #include "platform/result.h"
 #include "platform/worker_protocol.h"
+#include "worker/engine/bitmap.h"
 
 namespace norvex::engine {
 
@@ -23,18 +23,18 @@ struct CairoRelease {
 using CairoContext = std::unique_ptr<cairo_t, CairoRelease>;
 using CairoSurface = std::unique_ptr<cairo_surface_t, CairoRelease>;
 
-/// The same affine map as cairo holds it. REQUIRES matrix.isAffine().
-[[nodiscard]] cairo_matrix_t toCairo(const QTransform& matrix);
+/// The same map as cairo holds it.
+[[nodiscard]] cairo_matrix_t toCairo(const AffineTransform& matrix);
 
 /// Paints in picture coordinates (points, origin lower-left, y up); the context's matrix is request.pictureToDevice
 /// already. May be called several times, each time with another clip, and must paint the same each time.
 using PaintPicture = std::function<Result<void>(cairo_t* context)>;
 
-/// Premultiplied ARGB32 of exactly request.pixelSize, transparent where `paint` leaves it alone.
+/// Exactly request.pixelSize, transparent where `paint` leaves it alone.
 /// Fails with Limit (more megapixels than granted, a side over limits::maximumSide), Protocol (an empty size or a
-/// matrix that is not affine or not finite) or with what `paint` fails with. A matrix that flattens the picture to
+/// matrix that is not finite) or with what `paint` fails with. A matrix that flattens the picture to
 /// a line or a point gives an empty image.
-[[nodiscard]] Result<QImage> paintImage(const RenderRequest& request, const PictureLimits& limits,
+[[nodiscard]] Result<Bitmap> paintImage(const RenderRequest& request, const PictureLimits& limits,
                                         const PaintPicture& paint);
 
 /// Paints the page of a PDF, counted from 0: points, origin at the upper-left corner, y down.

@@ -18,7 +18,7 @@ namespace {
 /// What the sheets draw; a null handle is not drawn.
 struct Drawings {
   QPDFObjectHandle picture, lines, group;
-  QTransform userToPicture;
+  AffineTransform userToPicture;
 };
 
 QPDFObjectHandle formOf(QPDFObjectHandle page, const QRectF& box) {
@@ -32,11 +32,11 @@ QPDFObjectHandle formOf(QPDFObjectHandle page, const QRectF& box) {
 }
 
 /// Source coordinates → the sheet.
-QTransform window(const SheetPart& sheet) {
+AffineTransform window(const SheetPart& sheet) {
   const double x = sheet.source.width() > 0 ? sheet.target.width() / sheet.source.width() : 1;
   const double y = sheet.source.height() > 0 ? sheet.target.height() / sheet.source.height() : 1;
-  return QTransform::fromTranslate(-sheet.source.left(), -sheet.source.top()) * QTransform::fromScale(x, y) *
-         QTransform::fromTranslate(sheet.target.left(), sheet.target.top());
+  return AffineTransform::fromTranslate(-sheet.source.left(), -sheet.source.top()) * AffineTransform::fromScale(x, y) *
+         AffineTransform::fromTranslate(sheet.target.left(), sheet.target.top());
 }
 
 QByteArray contentsOf(const SheetPart& sheet, Drawings& drawings) {

@@ -28,21 +28,21 @@ bool isUsable(const ComposeRequest& request) {
 }
 
 // Sine and cosine that are exact at quarter turns, so that an upright page stays upright to the last digit.
-QTransform turn(double radians) {
+AffineTransform turn(double radians) {
   const auto snapped = [](double value) {
     const double whole = std::round(value);
     return std::abs(value - whole) < 1e-12 ? whole : value;
   };
   const double c = snapped(std::cos(radians));
   const double s = snapped(std::sin(radians));
-  return QTransform(c, s, -s, c, 0, 0);
+  return AffineTransform(c, s, -s, c, 0, 0);
 }
 
 // The page's user space → the new page, whose origin is the rectangle's lower-left corner.
-QTransform placement(const PageGeometry& geometry, const ComposeRequest& request) {
+AffineTransform placement(const PageGeometry& geometry, const ComposeRequest& request) {
   const QSizeF size = geometry.shownSize();
-  return geometry.userToPicture() * QTransform::fromTranslate(-size.width() / 2, -size.height() / 2) *
-         turn(request.rotate) * QTransform::fromTranslate(-request.rect.x(), -request.rect.y());
+  return geometry.userToPicture() * AffineTransform::fromTranslate(-size.width() / 2, -size.height() / 2) *
+         turn(request.rotate) * AffineTransform::fromTranslate(-request.rect.x(), -request.rect.y());
 }
 
 // Annotations and form fields become part of the page's contents, as they are shown on the screen.
@@ -82,7 +82,7 @@ QPDFObjectHandle formOf(QPDF& qpdf, QPDFObjectHandle page, const QRectF& box) {
 }
 
 QPDFObjectHandle placedPage(QPDF& qpdf, QPDFObjectHandle source, QPDFObjectHandle form,
-                            const ComposeRequest& request, const QTransform& matrix) {
+                            const ComposeRequest& request, const AffineTransform& matrix) {
   const double width = request.rect.width();
   const double height = request.rect.height();
   const QByteArray contents = "q 0 0 " + decimal(width) + ' ' + decimal(height) + " re W n " +

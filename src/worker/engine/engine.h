@@ -4,7 +4,6 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QHash>
-#include <QImage>
 #include <QStringList>
 #include <QString>
 
@@ -15,6 +14,7 @@
 #include "platform/cancel_token.h"
 #include "platform/result.h"
 #include "platform/worker_protocol.h"
+#include "worker/engine/bitmap.h"
 
 namespace norvex::engine {
 
@@ -40,8 +40,8 @@ class DocumentEngine {
  public:
   virtual ~DocumentEngine() = default;
   virtual Result<PictureFacts> facts() = 0;
-  /// Premultiplied ARGB32 of exactly request.pixelSize.
-  virtual Result<QImage> render(const RenderRequest& request) = 0;
+  /// Exactly request.pixelSize.
+  virtual Result<Bitmap> render(const RenderRequest& request) = 0;
   /// The whole, unrotated page as a one-page PDF whose box is the picture's bounds.
   virtual Result<EngineBytes> pdf(const PdfRequest& request) = 0;
   /// A rectangle of the rotated picture as one page.

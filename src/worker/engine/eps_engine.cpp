@@ -25,7 +25,7 @@ class EpsEngine final : public DocumentEngine {
     return facts;
   }
 
-  Result<QImage> render(const RenderRequest& request) override {
+  Result<Bitmap> render(const RenderRequest& request) override {
     if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
     return renderer_->render(request, box_.size(), context_.limits);
   }

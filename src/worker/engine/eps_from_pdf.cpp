@@ -100,23 +100,25 @@ Result<EpsImage> imageOf(PdfRenderer& renderer, const QRectF& region, QSizeF pag
                             std::max(1, int(std::ceil(region.height() * scale - kSamePixel))));
   const QSizeF size = QSizeF(request.pixelSize) / scale;
   const QRectF rect(QPointF(region.left(), region.bottom() - size.height()), size);
-  request.pictureToDevice = QTransform(scale, 0, 0, -scale, -rect.left() * scale, rect.bottom() * scale);
-  Result<QImage> image = renderer.render(request, pageSize, limits);
+  request.pictureToDevice = AffineTransform(scale, 0, 0, -scale, -rect.left() * scale, rect.bottom() * scale);
+  Result<Bitmap> image = renderer.render(request, pageSize, limits);
   if (!image) return image.error();
   return EpsImage{rect, std::move(*image)};
 }
 
 // The pixels of `whole` that `region` touches.
-EpsImage cutOut(const EpsImage& whole, const QRectF& region, double scale) {
+Result<EpsImage> cutOut(const EpsImage& whole, const QRectF& region, double scale) {
   const QRectF there((region.left() - whole.rect.left()) * scale,
                      (whole.rect.bottom() - region.bottom()) * scale, region.width() * scale,
                      region.height() * scale);
   const double s = kSamePixel;
   const QRect pixels = there.adjusted(s, s, -s, -s).toAlignedRect() & whole.image.rect();
-  return {QRectF(whole.rect.left() + pixels.left() / scale,
-                 whole.rect.bottom() - (pixels.top() + pixels.height()) / scale, pixels.width() / scale,
-                 pixels.height() / scale),
-          whole.image.copy(pixels)};
+  const QRectF rect(whole.rect.left() + pixels.left() / scale,
+                    whole.rect.bottom() - (pixels.top() + pixels.height()) / scale, pixels.width() / scale,
+                    pixels.height() / scale);
+  Result<Bitmap> image = whole.image.copy(pixels);
+  if (!image) return image.error();
+  return EpsImage{rect, std::move(*image)};
 }
 
 // Every drawing reads the page and its images anew: as long as not too much lies between the regions, one
@@ -143,11 +145,8 @@ Result<QList<EpsImage>> imagesOf(const QByteArray& pdf, const QList<QRectF>& reg
   for (const QRectF& region : regions) {
     if (context.cancel.cancelled())
       return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
-    if (together) {
-      images << cutOut(*together, region, scale);
-      continue;
-    }
-    Result<EpsImage> image = imageOf(renderer, region, pageSize, scale, context.limits);
+    Result<EpsImage> image = together ? cutOut(*together, region, scale)
+                                      : imageOf(renderer, region, pageSize, scale, context.limits);
     if (!image) return image.error();
     images << std::move(*image);
   }

@@ -85,15 +85,15 @@ struct Samples {
   bool masked = false;
 };
 
-bool hasClearPixel(const QImage& image) {
+bool hasClearPixel(const Bitmap& image) {
   for (int y = 0; y < image.height(); ++y) {
-    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    const QRgb* row = image.row(y);
     if (std::any_of(row, row + image.width(), [](QRgb pixel) { return qAlpha(pixel) == 0; })) return true;
   }
   return false;
 }
 
-Samples samplesOf(const QImage& image) {
+Samples samplesOf(const Bitmap& image) {
   Samples result;
   result.masked = hasClearPixel(image);
   const size_t first = result.masked ? 0 : 1;
@@ -101,7 +101,7 @@ Samples samplesOf(const QImage& image) {
   result.bytes.resize((image.width() * qsizetype(4 - first) + 1) * image.height());
   char* to = result.bytes.data();
   for (int y = 0; y < image.height(); ++y) {
-    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    const QRgb* row = image.row(y);
     *to++ = kUp;
     for (int x = 0; x < image.width(); ++x) {
       const int white = 255 - qAlpha(row[x]);

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 #include <QList>
 #include <QRectF>
 #include <QSizeF>
 
+#include "worker/engine/bitmap.h"
 #include "worker/engine/poppler_postscript.h"
 
 namespace norvex::engine {
@@ -16,7 +16,7 @@ namespace norvex::engine {
 /// white.
 struct EpsImage {
   QRectF rect;
-  QImage image;
+  Bitmap image;
 };
 
 /// The whole file, 7-bit text. Its header holds the lines %%BoundingBox, %%HiResBoundingBox, %%Title, %%Creator,

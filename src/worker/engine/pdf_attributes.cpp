@@ -1,5 +1,4 @@
 // Sets entries of the document information of a PDF.
-#include <QTransform>
 
 #include "worker/engine/engine.h"
 #include "worker/engine/pdf_facts.h"

@@ -24,11 +24,11 @@ class PdfEngine final : public DocumentEngine {
 
   Result<PictureFacts> facts() override { return facts_; }
 
-  Result<QImage> render(const RenderRequest& request) override {
+  Result<Bitmap> render(const RenderRequest& request) override {
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
     if (request.purpose == RenderPurpose::Export) noteMissingFonts(request.page);
-    Result<QImage> image = renderer_.render(request, *size, context_.limits);
+    Result<Bitmap> image = renderer_.render(request, *size, context_.limits);
     if (image || image.error().kind == ErrorKind::Limit || image.error().kind == ErrorKind::Protocol)
       return image;
     return renderRepaired(request, *size);
@@ -66,7 +66,7 @@ class PdfEngine final : public DocumentEngine {
   }
 
   // Of damaged files qpdf finds pages that Poppler misses: it is given the page alone, written anew.
-  [[nodiscard]] Result<QImage> renderRepaired(RenderRequest request, QSizeF size) {
+  [[nodiscard]] Result<Bitmap> renderRepaired(RenderRequest request, QSizeF size) {
     if (!repaired_ || repairedPage_ != request.page) {
       Result<QByteArray> page = composePdf(bytes_, wholePage(request.page, size, VectorFormat::Pdf));
       if (!page) return page.error();

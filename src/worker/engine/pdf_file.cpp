@@ -52,20 +52,20 @@ QRectF PageGeometry::shownBounds() const {
   return QRectF(box.topLeft() * userUnit, shownSize());
 }
 
-QTransform PageGeometry::userToPicture() const {
+AffineTransform PageGeometry::userToPicture() const {
   const double u = userUnit;
   const double w = box.width();
   const double h = box.height();
-  const QTransform toCorner = QTransform::fromTranslate(-box.x(), -box.y());
+  const AffineTransform toCorner = AffineTransform::fromTranslate(-box.x(), -box.y());
   switch (rotation) {
     case 90:
-      return toCorner * QTransform(0, -u, u, 0, 0, w * u);
+      return toCorner * AffineTransform(0, -u, u, 0, 0, w * u);
     case 180:
-      return toCorner * QTransform(-u, 0, 0, -u, w * u, h * u);
+      return toCorner * AffineTransform(-u, 0, 0, -u, w * u, h * u);
     case 270:
-      return toCorner * QTransform(0, u, -u, 0, h * u, 0);
+      return toCorner * AffineTransform(0, u, -u, 0, h * u, 0);
     default:
-      return toCorner * QTransform::fromScale(u, u);
+      return toCorner * AffineTransform::fromScale(u, u);
   }
 }
 

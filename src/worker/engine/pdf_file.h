@@ -6,7 +6,6 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QStringList>
-#include <QTransform>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
@@ -16,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/affine_transform.h"
 #include "platform/result.h"
 
 namespace norvex::engine {
@@ -31,7 +31,7 @@ struct PageGeometry {
   /// The page as it is shown: the box's lower-left corner and the shown size, points.
   [[nodiscard]] QRectF shownBounds() const;
   /// The page's user space → picture coordinates (points, origin at the shown page's lower-left corner, y up).
-  [[nodiscard]] QTransform userToPicture() const;
+  [[nodiscard]] AffineTransform userToPicture() const;
 };
 
 /// What an exception of qpdf means; without `caught` being one of its kinds, NotParsable with a general sentence.

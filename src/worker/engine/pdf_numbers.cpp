@@ -11,7 +11,7 @@ QByteArray decimal(double value, int decimals) {
   return text == "-0" ? QByteArray("0") : text;
 }
 
-QByteArray matrixText(const QTransform& matrix) {
+QByteArray matrixText(const AffineTransform& matrix) {
   QByteArray text;
   for (const double entry : {matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22()})
     text += decimal(entry, 9) + ' ';

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QTransform>
+
+#include "platform/affine_transform.h"
 
 namespace norvex::engine {
 
@@ -11,6 +12,6 @@ namespace norvex::engine {
 
 /// The six numbers of an affine matrix, blanks between them: the linear part with nine decimals (0.01 point at the
 /// far end of the largest page), the offset with five.
-[[nodiscard]] QByteArray matrixText(const QTransform& matrix);
+[[nodiscard]] QByteArray matrixText(const AffineTransform& matrix);
 
 }  // namespace norvex::engine

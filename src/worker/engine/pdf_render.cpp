@@ -80,7 +80,7 @@ Result<void> PdfRenderer::load() {
   return {};
 }
 
-Result<QImage> PdfRenderer::render(const RenderRequest& request, QSizeF shownSize,
+Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSize,
                                    const PictureLimits& limits) {
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
   const Result<PagePointer> page = shownPage(document_.get(), request.page);
@@ -89,7 +89,7 @@ Result<QImage> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
                     [&](cairo_t* context) { return paintPage(context, page->get(), shownSize); });
 }
 
-Result<QByteArray> PdfRenderer::vectors(QSizeF shownSize, const QTransform& pictureToSheet, QSizeF sheet) {
+Result<QByteArray> PdfRenderer::vectors(QSizeF shownSize, const AffineTransform& pictureToSheet, QSizeF sheet) {
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
   const int count = poppler_document_get_n_pages(document_.get());
   return paintPdf(sheet, count, [&](cairo_t* context, int number) -> Result<void> {

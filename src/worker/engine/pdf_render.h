@@ -3,15 +3,14 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 #include <QSizeF>
 #include <QString>
-#include <QTransform>
 
 #include <memory>
 
 #include "platform/result.h"
 #include "platform/worker_protocol.h"
+#include "worker/engine/bitmap.h"
 
 struct _PopplerDocument;
 
@@ -25,11 +24,11 @@ class PdfRenderer {
   /// Draws request.page. `shownSize` is the page's size in picture coordinates (points); pixels outside the page
   /// and pixels that the page does not paint stay transparent. Fails as paintImage() does, with NotParsable when
   /// Poppler cannot read the document and with Unsupported when there is no such page.
-  [[nodiscard]] Result<QImage> render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits);
+  [[nodiscard]] Result<Bitmap> render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits);
   /// Draws every page as render() does, but as vectors: a PDF of as many pages. The pages are all of the same
   /// `shownSize`; `pictureToSheet` maps picture coordinates to the new pages (`sheet` points large, origin at the
   /// upper-left corner, y down). A line of less than a point on the new page is a point wide. Fails like render().
-  [[nodiscard]] Result<QByteArray> vectors(QSizeF shownSize, const QTransform& pictureToSheet, QSizeF sheet);
+  [[nodiscard]] Result<QByteArray> vectors(QSizeF shownSize, const AffineTransform& pictureToSheet, QSizeF sheet);
   /// The words of a page in reading order. Fails like render().
   [[nodiscard]] Result<QString> text(int page);
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QTransform>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>

@@ -27,7 +27,7 @@ QByteArray rectangle(double x, double y, double width, double height) {
   return number(x) + ' ' + number(y) + ' ' + number(width) + ' ' + number(height);
 }
 
-QByteArray matrixOf(const QTransform& m) {
+QByteArray matrixOf(const AffineTransform& m) {
   return "matrix(" + number(m.m11()) + ' ' + number(m.m12()) + ' ' + number(m.m21()) + ' ' + number(m.m22()) + ' ' +
          number(m.dx()) + ' ' + number(m.dy()) + ')';
 }
@@ -117,12 +117,12 @@ QByteArray Wrapper::rootTag() const {
 
 }  // namespace
 
-QTransform turnedInItsBox(const QSizeF& picture, double rotate) {
+AffineTransform turnedInItsBox(const QSizeF& picture, double rotate) {
   if (rotate == 0) return {};
   const double w = picture.width() / 2, h = picture.height() / 2;
   const double c = std::cos(rotate), s = std::sin(rotate);
-  return QTransform::fromTranslate(-w, -h) * QTransform(c, s, -s, c, 0, 0) *
-         QTransform::fromTranslate(std::abs(c) * w + std::abs(s) * h, std::abs(s) * w + std::abs(c) * h);
+  return AffineTransform::fromTranslate(-w, -h) * AffineTransform(c, s, -s, c, 0, 0) *
+         AffineTransform::fromTranslate(std::abs(c) * w + std::abs(s) * h, std::abs(s) * w + std::abs(c) * h);
 }
 
 QByteArray cutSvg(const QByteArray& utf8, const SvgCut& cut) {

@@ -2,7 +2,6 @@
 
 #include <QRectF>
 #include <QSizeF>
-#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -41,7 +40,7 @@ class SvgEngine final : public DocumentEngine {
   Result<void> measure();
 
   Result<PictureFacts> facts() override;
-  Result<QImage> render(const RenderRequest& request) override;
+  Result<Bitmap> render(const RenderRequest& request) override;
   Result<EngineBytes> pdf(const PdfRequest& request) override;
   Result<EngineBytes> compose(const ComposeRequest& request) override;
   Result<EngineBytes> svg(const SvgRequest& request) override;
@@ -52,8 +51,8 @@ class SvgEngine final : public DocumentEngine {
   [[nodiscard]] QSizeF points() const { return pixels_ * pointsPerPixel; }
   // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
   [[nodiscard]] bool hugeParser() const { return inspection_.needsHugeParser && !inspection_.hasNestedDocument; }
-  [[nodiscard]] bool needsOwnDocument(const QTransform& pixelsToDevice) const;
-  Result<QImage> renderAsDocument(const RenderRequest& request, const QTransform& pixelsToDevice);
+  [[nodiscard]] bool needsOwnDocument(const AffineTransform& pixelsToDevice) const;
+  Result<Bitmap> renderAsDocument(const RenderRequest& request, const AffineTransform& pixelsToDevice);
   [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_.value_or(QStringList()); }
   [[nodiscard]] QStringList warnings() const;
   [[nodiscard]] SvgImageEffects imageEffects() const;
@@ -140,7 +139,7 @@ Result<PictureFacts> SvgEngine::facts() {
 }
 
 // librsvg makes layers as large as the whole picture on the device, and makes them wrong when the picture is turned.
-bool SvgEngine::needsOwnDocument(const QTransform& pixelsToDevice) const {
+bool SvgEngine::needsOwnDocument(const AffineTransform& pixelsToDevice) const {
   constexpr double largestLayer = 32.0e6, longestSide = 16'000;
   if (!inspection_.hasLayers) return false;
   const double width = pixels_.width() * pixelsToDevice.m11(), height = pixels_.height() * pixelsToDevice.m22();
@@ -150,11 +149,11 @@ bool SvgEngine::needsOwnDocument(const QTransform& pixelsToDevice) const {
 
 /// The part of the picture that is asked for becomes a document, and that is drawn upright: its layers are as large
 /// as the image.
-Result<QImage> SvgEngine::renderAsDocument(const RenderRequest& request, const QTransform& pixelsToDevice) {
-  const QTransform placing = QTransform::fromScale(1 / pointsPerPixel, 1 / pointsPerPixel) * pixelsToDevice;
+Result<Bitmap> SvgEngine::renderAsDocument(const RenderRequest& request, const AffineTransform& pixelsToDevice) {
+  const AffineTransform placing = AffineTransform::fromScale(1 / pointsPerPixel, 1 / pointsPerPixel) * pixelsToDevice;
   const SvgCut part{points(), QRectF(QPointF(0, 0), QSizeF(request.pixelSize)), placing, inspection_.hasStyleSheet};
   RenderRequest upright = request;
-  upright.pictureToDevice = QTransform();
+  upright.pictureToDevice = AffineTransform();
   std::unique_ptr<SvgRenderer> drawing;
   return paintImage(upright, context_.limits, [&](cairo_t* context) -> Result<void> {
     if (!drawing) {
@@ -166,13 +165,13 @@ Result<QImage> SvgEngine::renderAsDocument(const RenderRequest& request, const Q
   });
 }
 
-Result<QImage> SvgEngine::render(const RenderRequest& request) {
+Result<Bitmap> SvgEngine::render(const RenderRequest& request) {
   if (const Result<void> may = start(request.page); !may) return may.error();
   const Result<const SvgRenderer*> loaded = renderer();
   if (!loaded) return loaded.error();
-  const QTransform pixelsToPicture(pointsPerPixel, 0, 0, -pointsPerPixel, 0, points().height());
-  const QTransform pixelsToDevice = pixelsToPicture * request.pictureToDevice;
-  if (request.pictureToDevice.isAffine() && request.pictureToDevice.isInvertible() && needsOwnDocument(pixelsToDevice))
+  const AffineTransform pixelsToPicture(pointsPerPixel, 0, 0, -pointsPerPixel, 0, points().height());
+  const AffineTransform pixelsToDevice = pixelsToPicture * request.pictureToDevice;
+  if (request.pictureToDevice.isInvertible() && needsOwnDocument(pixelsToDevice))
     return renderAsDocument(request, pixelsToDevice);
   return paintImage(request, context_.limits, [&](cairo_t* context) {
     const cairo_matrix_t matrix = toCairo(pixelsToPicture);

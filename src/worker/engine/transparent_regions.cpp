@@ -23,12 +23,12 @@ bool differs(QRgb a, QRgb b) {
 
 class Grid {
  public:
-  Grid(const QImage& one, const QImage& other)
+  Grid(const Bitmap& one, const Bitmap& other)
       : columns_((one.width() + kCell - 1) / kCell), rows_((one.height() + kCell - 1) / kCell) {
     cells_.assign(size_t(columns_) * size_t(rows_), false);
     for (int y = 0; y < one.height(); ++y) {
-      const auto* a = reinterpret_cast<const QRgb*>(one.constScanLine(y));
-      const auto* b = reinterpret_cast<const QRgb*>(other.constScanLine(y));
+      const QRgb* a = one.row(y);
+      const QRgb* b = other.row(y);
       for (int x = 0; x < one.width(); ++x)
         if (differs(a[x], b[x])) cells_[index(x / kCell, y / kCell)] = true;
     }
@@ -85,8 +85,8 @@ QList<QRect> disjoint(QList<QRect> boxes) {
 
 }  // namespace
 
-QList<QRect> differingRegions(const QImage& one, const QImage& other) {
-  if (one.size() != other.size() || one.isNull()) return {};
+QList<QRect> differingRegions(const Bitmap& one, const Bitmap& other) {
+  if (one.size() != other.size() || one.isEmpty()) return {};
   QList<QRect> boxes;
   for (const QRect& group : Grid(one, other).groups())
     boxes << QRect(group.topLeft() * kCell, group.size() * kCell).adjusted(-2, -2, 2, 2);
@@ -112,14 +112,14 @@ Result<QList<QRectF>> transparentRegions(const QByteArray& pdf, QSizeF pageSize,
   RenderRequest request;
   request.pixelSize = QSize(std::max(1, int(std::ceil(pageSize.width() * scale))),
                             std::max(1, int(std::ceil(pageSize.height() * scale))));
-  request.pictureToDevice = QTransform(scale, 0, 0, -scale, 0, pageSize.height() * scale);
+  request.pictureToDevice = AffineTransform(scale, 0, 0, -scale, 0, pageSize.height() * scale);
   request.purpose = RenderPurpose::Export;
-  const Result<QImage> withIt = PdfRenderer(pdf).render(request, pageSize, limits);
+  const Result<Bitmap> withIt = PdfRenderer(pdf).render(request, pageSize, limits);
   if (!withIt) return withIt.error();
-  const Result<QImage> without = PdfRenderer(opaquePdf).render(request, opaqueSize, limits);
+  const Result<Bitmap> without = PdfRenderer(opaquePdf).render(request, opaqueSize, limits);
   if (!without) return without.error();
   QList<QRectF> regions;
-  const QTransform back = request.pictureToDevice.inverted();
+  const AffineTransform back = request.pictureToDevice.inverted();
   for (const QRect& box : differingRegions(*withIt, *without))
     regions << back.mapRect(QRectF(box)).intersected(QRectF(QPointF(0, 0), pageSize));
   return regions;

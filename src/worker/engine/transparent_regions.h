@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 #include <QList>
 #include <QRect>
 #include <QRectF>
@@ -11,12 +10,13 @@
 
 #include "platform/result.h"
 #include "platform/worker_protocol.h"
+#include "worker/engine/bitmap.h"
 
 namespace norvex::engine {
 
 /// Disjoint rectangles that cover every pixel in which two images of one size differ visibly, grown by a little so
 /// that soft edges lie inside. In pixels, inside the images.
-[[nodiscard]] QList<QRect> differingRegions(const QImage& one, const QImage& other);
+[[nodiscard]] QList<QRect> differingRegions(const Bitmap& one, const Bitmap& other);
 
 /// Draws the first page of both files (premultiplied, nothing behind it) and compares. Rectangles in points, origin at
 /// the page's lower-left corner, y up.

@@ -44,7 +44,7 @@ QImage drawn(DocumentEngine& engine, QSizeF size, const QTransform& toDevice = {
   RenderRequest request;
   request.pixelSize = (size * scale).toSize();
   request.pictureToDevice = toDevice * QTransform(scale, 0, 0, -scale, 0, size.height() * scale);
-  auto image = engine.render(request);
+  const auto image = kit::imageOf(engine.render(request));
   if (!image) return {};
   QImage onWhite(image->size(), QImage::Format_RGB32);
   onWhite.fill(Qt::white);

@@ -8,6 +8,7 @@
 #include <numbers>
 
 #include "kit/test_main.h"
+#include "worker/engine/bitmap_images.h"
 #include "worker/engine/engine.h"
 #include "worker/engine/made_pdf.h"
 #include "worker/engine/pdf_file.h"
@@ -79,7 +80,7 @@ QImage byOurselves(const QByteArray& pdf, QSizeF size, double scale, const QTran
   RenderRequest wanted;
   wanted.pixelSize = (size * scale).toSize();
   wanted.pictureToDevice = toDevice * QTransform(scale, 0, 0, -scale, 0, size.height() * scale);
-  auto image = (*engine)->render(wanted);
+  const auto image = kit::imageOf((*engine)->render(wanted));
   if (!image) return {};
   QImage onWhite(image->size(), QImage::Format_RGB32);
   onWhite.fill(Qt::white);

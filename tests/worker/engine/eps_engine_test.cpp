@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "kit/test_main.h"
+#include "worker/engine/bitmap_images.h"
 #include "worker/engine/distill.h"
 #include "worker/engine/distiller.h"
 #include "worker/engine/engine.h"
@@ -40,7 +41,7 @@ class Opened {
     RenderRequest request;
     request.pixelSize = box.size().toSize();
     request.pictureToDevice = QTransform(1, 0, 0, -1, 0, box.height());
-    auto result = engine_->render(request);
+    const auto result = kit::imageOf(engine_->render(request));
     if (result) return *result;
     error_ = result.error();
     return {};

@@ -276,31 +276,30 @@ class EpsFromPdfTest : public QObject {
   }
 
   void differencesAreGathered() {
-    QImage one(100, 80, QImage::Format_ARGB32_Premultiplied);
-    one.fill(0);
-    QImage other = one;
+    const Bitmap one = *Bitmap::create({100, 80});
+    Bitmap other = *Bitmap::create(one.size());
+    const auto mark = [&](int x, int y) { other.row(y)[x] = 0xff000000; };
     QVERIFY(differingRegions(one, other).isEmpty());
-    other.setPixel(10, 10, 0xff000000);
-    other.setPixel(90, 70, 0xff000000);
+    mark(10, 10);
+    mark(90, 70);
     const QList<QRect> two = differingRegions(one, other);
     QCOMPARE(two.size(), 2);
     QVERIFY(two[0].contains(10, 10) && two[1].contains(90, 70));
     QVERIFY(!two[0].intersects(two[1]));
-    for (int i = 10; i < 70; ++i) other.setPixel(i, i, 0xff000000);  // a diagonal bridges them
+    for (int i = 10; i < 70; ++i) mark(i, i);  // a diagonal bridges them
     QCOMPARE(differingRegions(one, other).size(), 2);
-    QVERIFY(differingRegions(one, QImage(1, 1, QImage::Format_ARGB32_Premultiplied)).isEmpty());
+    QVERIFY(differingRegions(one, *Bitmap::create({1, 1})).isEmpty());
   }
 
   void regionsAreDisjointAndCoverEveryDifference() {
-    QImage one(300, 200, QImage::Format_ARGB32_Premultiplied);
-    one.fill(0);
-    QImage other = one;
+    const Bitmap one = *Bitmap::create({300, 200});
+    Bitmap other = *Bitmap::create(one.size());
     quint32 seed = 12345;
     QList<QPoint> marks;
     for (int i = 0; i < 60; ++i) {
       seed = seed * 1664525u + 1013904223u;
       marks << QPoint(int(seed >> 8) % 300, int(seed >> 20) % 200);
-      other.setPixel(marks.last(), 0x80808080);
+      other.row(marks.last().y())[marks.last().x()] = 0x80808080;
     }
     const QList<QRect> regions = differingRegions(one, other);
     for (const QPoint& mark : marks)

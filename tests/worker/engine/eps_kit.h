@@ -12,6 +12,7 @@
 #include <cmath>
 #include <utility>
 
+#include "worker/engine/bitmap_images.h"
 #include "worker/engine/engine.h"
 
 namespace norvex::kit {
@@ -61,7 +62,7 @@ inline QImage drawn(const QByteArray& pdf) {
   RenderRequest request;
   request.pixelSize = QSize(int(std::round(size.width() * 2)), int(std::round(size.height() * 2)));
   request.pictureToDevice = QTransform(2, 0, 0, -2, 0, size.height() * 2);
-  auto image = (*opened)->render(request);
+  const auto image = kit::imageOf((*opened)->render(request));
   if (!image) return {};
   QImage onWhite(image->size(), QImage::Format_RGB32);
   onWhite.fill(Qt::white);

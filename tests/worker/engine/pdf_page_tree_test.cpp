@@ -1,6 +1,7 @@
 #include <QImage>
 
 #include "kit/test_main.h"
+#include "worker/engine/bitmap_images.h"
 #include "worker/engine/engine.h"
 #include "worker/engine/made_pdf.h"
 #include "worker/engine/pdf_file.h"
@@ -40,7 +41,7 @@ char drawn(DocumentEngine& engine, int page) {
   request.page = page;
   request.pixelSize = {9, 9};
   request.pictureToDevice = QTransform(1, 0, 0, -1, 0, 9);
-  const auto image = engine.render(request);
+  const auto image = kit::imageOf(engine.render(request));
   return image ? colourOf(*image) : '!';
 }
 

@@ -10,6 +10,7 @@
 using namespace norvex;
 using namespace norvex::engine;
 using norvex::kit::drawn;
+using norvex::kit::imageOf;
 using norvex::kit::largestDifference;
 using norvex::kit::OpenSvg;
 using norvex::kit::svgOf;
@@ -43,7 +44,7 @@ QImage expected(OpenSvg& document, const QRectF& rect, double rotate, double sca
   RenderRequest request;
   request.pictureToDevice = toDevice;
   request.pixelSize = QSize(qRound(rect.width() * scale), qRound(rect.height() * scale));
-  const Result<QImage> image = document->render(request);
+  const Result<QImage> image = imageOf(document->render(request));
   if (!image) qWarning("%s", qPrintable(image.error().message));
   return image.ok() ? *image : QImage();
 }

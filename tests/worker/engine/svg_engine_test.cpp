@@ -10,6 +10,7 @@ using namespace norvex;
 using namespace norvex::engine;
 using norvex::kit::drawn;
 using norvex::kit::gzipped;
+using norvex::kit::imageOf;
 using norvex::kit::OpenSvg;
 using norvex::kit::svgOf;
 
@@ -111,8 +112,7 @@ class SvgEngineTest : public QObject {
     RenderRequest request;
     request.pixelSize = QSize(75, 38);
     request.pictureToDevice = QTransform();  // y up: row 0 shows the bottom of the picture
-    const QImage image = *document->render(request);
-    QCOMPARE(image.format(), QImage::Format_ARGB32_Premultiplied);
+    const QImage image = imageOf(*document->render(request));
     QCOMPARE(image.size(), QSize(75, 38));
     QCOMPARE(image.pixel(10, 30), 0xffff0000u);
     QCOMPARE(image.pixel(10, 15), 0u);
@@ -124,7 +124,7 @@ class SvgEngineTest : public QObject {
     RenderRequest request;  // the picture in the middle of a larger image
     request.pixelSize = QSize(200, 150);
     request.pictureToDevice = QTransform(4.0 / 3, 0, 0, -4.0 / 3, 50, 100);
-    const QImage image = *document->render(request);
+    const QImage image = imageOf(*document->render(request));
     QCOMPARE(image.pixel(50, 50), 0xff0000ffu);
     QCOMPARE(image.pixel(149, 69), 0xff0000ffu);
     for (const QPoint& outside : {QPoint(49, 60), QPoint(150, 60), QPoint(100, 49), QPoint(100, 71), QPoint(0, 0)})
@@ -136,7 +136,7 @@ class SvgEngineTest : public QObject {
     RenderRequest request;  // a quarter turn clockwise: (x, y) → (y, x) with y up becomes right
     request.pixelSize = QSize(50, 100);
     request.pictureToDevice = QTransform(0, 4.0 / 3, 4.0 / 3, 0, 0, 0);
-    const QImage image = *document->render(request);
+    const QImage image = imageOf(*document->render(request));
     QCOMPARE(image.pixel(49, 0), 0xffff0000u);
     QCOMPARE(image.pixel(31, 49), 0xffff0000u);
     QCOMPARE(image.pixel(29, 10), 0u);
@@ -150,9 +150,9 @@ class SvgEngineTest : public QObject {
       request.pixelSize = QSize(120, 120);
       request.pictureToDevice = QTransform::fromTranslate(-36, -36) * QTransform().rotate(degrees) *
                                 QTransform::fromScale(1, -1) * QTransform::fromTranslate(60, 60);
-      const Result<QImage> image = document->render(request);
+      const Result<QImage> image = imageOf(document->render(request));
       QVERIFY2(image, qPrintable(QString::number(degrees)));
-      const QTransform back = request.pictureToDevice.inverted();
+      const AffineTransform back = request.pictureToDevice.inverted();
       for (int y = 0; y < 120; y += 3) {
         for (int x = 0; x < 120; x += 3) {
           const QPointF at = back.map(QPointF(x + 0.5, y + 0.5));
@@ -170,7 +170,7 @@ class SvgEngineTest : public QObject {
     request.pixelSize = QSize(100, 100);
     const double scale = 64 * 4.0 / 3;
     request.pictureToDevice = QTransform(scale, 0, 0, -scale, 50 - 750 * scale, 50 + 750 * scale);
-    const Result<QImage> image = document->render(request);
+    const Result<QImage> image = imageOf(document->render(request));
     QVERIFY2(image, image ? "" : qPrintable(image.error().message));
     QCOMPARE(image->pixel(45, 50), 0xff0000ffu);
     QCOMPARE(image->pixel(54, 50), 0u);

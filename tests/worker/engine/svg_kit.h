@@ -9,6 +9,7 @@
 #include <cmath>
 #include <memory>
 
+#include "worker/engine/bitmap_images.h"
 #include "worker/engine/engine.h"
 
 namespace norvex::kit {
@@ -51,7 +52,7 @@ inline Result<QImage> drawn(engine::DocumentEngine& document, double scale) {
   RenderRequest request;
   request.pixelSize = QSize(int(std::ceil(size.width() * scale - 1e-6)), int(std::ceil(size.height() * scale - 1e-6)));
   request.pictureToDevice = QTransform(scale, 0, 0, -scale, 0, size.height() * scale);
-  return document.render(request);
+  return imageOf(document.render(request));
 }
 
 /// The largest difference of any sample of two images of one size; 256: the sizes differ.

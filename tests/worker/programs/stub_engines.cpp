@@ -71,12 +71,12 @@ class StubEngine final : public engine::DocumentEngine {
     return facts;
   }
 
-  Result<QImage> render(const RenderRequest& request) override {
+  Result<engine::Bitmap> render(const RenderRequest& request) override {
     if (request.page == 99) return missing();
     misbehave(bytes_.split(' ').first());
     if (context_.cancel.cancelled()) return cancelled();
-    QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(0, 0, request.page));
+    Result<engine::Bitmap> image = engine::Bitmap::create(request.pixelSize);
+    if (image) std::fill_n(image->row(0), size_t(image->width()) * size_t(image->height()), qRgb(0, 0, request.page));
     return image;
   }
 

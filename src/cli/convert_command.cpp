@@ -99,9 +99,11 @@ ExitCode Job::convert(const Arguments& arguments) {
   // One more than are drawn at a time: another is being read or written meanwhile.
   pool.setMaxThreadCount(plan.jobs > 1 ? plan.jobs + 1 : 1);
   const CancelToken cancel = interruption.token();
-  QFuture<Conversion> conversions = QtConcurrent::mapped(&pool, plan.tasks, [&](const ConvertTask& task) {
-    return convertFile(service_, task, plan, input, cancel);
-  });
+  const auto convertTask = [&](const ConvertTask& task) { return convertFile(service_, task, plan, input, cancel); };
+  // A single file is not worth a thread.
+  QFuture<Conversion> conversions = plan.tasks.size() == 1
+                                        ? QtFuture::makeReadyFuture(convertTask(plan.tasks.first()))
+                                        : QtConcurrent::mapped(&pool, plan.tasks, convertTask);
   const ExitCode code = reportConversions(plan, conversions);
   conversions.waitForFinished();
   return cancel.cancelled() ? ExitCode::Interrupted : code;

@@ -21,7 +21,7 @@ struct NSWindowDepth {
 };
 
 struct EncoderSurroundings {
-  PictureService* service = nullptr;  ///< borrowed; sets the attributes of a PDF
+  PictureService* service = nullptr;  ///< borrowed; opens what a format is made of on the way
   QString userFullName;
   QString applicationName, applicationVersion;
   QDateTime now;

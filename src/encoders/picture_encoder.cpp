@@ -167,7 +167,7 @@ QByteArray PictureEncoder::pdfData() {
 }
 
 QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
-  if (pdf.isEmpty()) return {};
+  if (pdf.isEmpty() || !imageRep_) return {};
   // A cut PDF is a new file with the old one's facts.
   const bool own = dynamic_cast<const NSPDFImageRep*>(imageRep_.get()) && handsOnSource();
   const HeaderDictionary facts = own ? HeaderDictionary() : header();
@@ -178,11 +178,7 @@ QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
     return fail({ErrorKind::Unsupported,
                  QStringLiteral("the document has a description but no title to store with it")});
   }
-  if (!surroundings_.service)
-    return fail({ErrorKind::Unsupported, QStringLiteral("there is no picture process")});
-  Result<QByteArray> result =
-      surroundings_.service->setPdfAttributes(pdf, attributes->texts, attributes->creationDate, cancel_);
-  return result ? *result : fail(result.error());
+  return take(imageRep_->process()->setPdfAttributes(pdf, {attributes->texts, attributes->creationDate}, cancel_));
 }
 
 // ---- SVG and raster ---------------------------------------------------------------------------------------

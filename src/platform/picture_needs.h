@@ -7,10 +7,10 @@ namespace norvex {
 /// Bits of PictureNeeds.
 enum PictureNeed : unsigned {
   NeedSvgDrawing = 1,  ///< open an SVG picture, draw it, hand on its text
-  NeedSvgPdf = 2,      ///< … and give the whole picture as PDF
+  NeedSvgPdf = 2,      ///< … and give the whole picture as PDF, with attributes
   NeedSvgParts = 4,    ///< … and as EPS, and a part of it or a turned picture as either
-  NeedPages = 8,       ///< everything that is done with PDF and PostScript
-  NeedTools = 16,      ///< previews of EPS files, attributes of results
+  NeedPages = 8,       ///< everything that is done with PDF and PostScript documents
+  NeedPreviews = 16,   ///< previews of EPS files
   NeedSheets = 32,     ///< the pages of print jobs
 };
 using PictureNeeds = unsigned;

@@ -38,6 +38,9 @@ class PictureProcess {
   virtual Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) = 0;
+  /// `pdf`, which was made of this document, with these entries of its document information set; the others stay.
+  virtual Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+                                                const CancelToken& cancel = {}) = 0;
   /// What render() has found out so far about how the document is drawn, one plain sentence each: fonts that others
   /// stand in for.
   [[nodiscard]] virtual QStringList drawingRemarks() const { return {}; }
@@ -57,13 +60,6 @@ class PictureService {
                                                const PictureLimits& limits = {}) = 0;
   /// A TIFF file's first image as samples, uncompressed, rows without padding. Blocks.
   virtual Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) = 0;
-  /// `pdf` with these entries of its document information dictionary ("Title", "Author" …) and its creation date set;
-  /// the others stay. Blocks.
-  virtual Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& texts,
-                                              const QDateTime& creationDate, const CancelToken& cancel = {}) {
-    Q_UNUSED(pdf) Q_UNUSED(texts) Q_UNUSED(creationDate) Q_UNUSED(cancel)
-    return Error{ErrorKind::Unsupported, QStringLiteral("PDF attributes cannot be set here")};
-  }
   /// The sheets of a print job as one PDF. `pdf` is the picture: one page; empty: the sheets hold no picture. Blocks.
   virtual Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
                                           const CancelToken& cancel = {}) {

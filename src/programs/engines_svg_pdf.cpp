@@ -10,7 +10,6 @@ void norvexEngines(norvex::EngineSet* engines) {
                ? engine::openSvgWith({engine::svgToPdf, engine::svgEffectsDpi}, bytes, context)
                : notOfThisModule();
   };
-  engines->decodePreview = engine::decodeTiff;
   engines->setPdfAttributes = engine::setPdfAttributes;
   engines->composePages = engine::composePages;
   engines->warmUpProgram = warmUpFonts;

@@ -66,6 +66,11 @@ Result<PictureBytes> StoppableProcess::svg(const SvgRequest& request, const Canc
   return process_->svg(request, cancel);
 }
 
+Result<PictureBytes> StoppableProcess::setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+                                                        const CancelToken& cancel) {
+  return process_->setPdfAttributes(pdf, attributes, cancel);
+}
+
 std::shared_ptr<PictureProcess> StoppableService::open(const QByteArray& bytes, PictureKind kind,
                                                        const PictureLimits& limits) {
   return std::make_shared<StoppableProcess>(service_.open(bytes, kind, limits), loading_);

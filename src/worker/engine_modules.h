@@ -23,8 +23,8 @@ struct EngineModule {
 /// Every module, what is needed most often first. What two of them offer is the same code.
 inline constexpr std::array<EngineModule, 4> engineModules{{
     {"norvex-engine-svg.so", NeedSvgDrawing},
-    {"norvex-engine-pages.so", NeedPages | NeedTools},
-    {"norvex-engine-svg-pdf.so", NeedSvgDrawing | NeedSvgPdf | NeedTools | NeedSheets},
+    {"norvex-engine-pages.so", NeedPages | NeedPreviews},
+    {"norvex-engine-svg-pdf.so", NeedSvgDrawing | NeedSvgPdf | NeedSheets},
     {"norvex-engine-all.so", allPictureNeeds},
 }};
 

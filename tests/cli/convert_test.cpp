@@ -207,7 +207,11 @@ class ConvertTest : public QObject {
   void standardInputToAFolderIsCalledPicture() {
     CommandLine line;
     line.console.standardInput = kEps;
-    QCOMPARE(line.run({"convert", "-", "--to", line.path("."), "--format", "pdf"}), 3);  // no attributes in memory
+    line.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Attributes, {ErrorKind::Unsupported, "no attributes"});
+    });
+    QCOMPARE(line.run({"convert", "-", "--to", line.path("."), "--format", "pdf"}), 3);
+    QCOMPARE(line.console.messages, QString("norvex: -: no attributes\n"));
     line.console.standardInput = kEps;
     QCOMPARE(line.run({"convert", "-", "--to", line.path("."), "--format", "png"}), 0);
     QCOMPARE(line.entries(), QStringList{"picture.png"});

@@ -40,9 +40,17 @@ MemoryPicture picture() {
   return memory;
 }
 
-/// A picture service that remembers the attributes it was given.
+/// A picture service that remembers the attributes that its pictures were given.
 class AttributesService final : public PictureService {
  public:
+  AttributesService() {
+    MemoryPicture remembering = picture();
+    remembering.setAttributes = [this](const QByteArray& pdf, const AttributesRequest& attributes) {
+      given = attributes;
+      return QByteArray(pdf + "+attributes");
+    };
+    memory.setPicture(remembering);
+  }
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits) override {
     return memory.open(bytes, kind, limits);
@@ -50,15 +58,8 @@ class AttributesService final : public PictureService {
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel) override {
     return memory.decodePreview(tiff, cancel);
   }
-  Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& texts,
-                                      const QDateTime& date, const CancelToken&) override {
-    given = texts;
-    givenDate = date;
-    return pdf + "+attributes";
-  }
-  MemoryPictureService memory{picture()};
-  QHash<QString, QString> given;
-  QDateTime givenDate;
+  MemoryPictureService memory;
+  AttributesRequest given;
 };
 
 /// Keeps what is logged while it lives.
@@ -188,14 +189,14 @@ class PictureEncoderTest : public QObject {
   void aPdfSourceIsHandedOnAsItIs() { QCOMPARE(encoderOf(pdf()).pdfData(), QByteArray("%PDF-source")); }
   void anSvgAsPdfGetsAttributes() {
     QCOMPARE(encoderOf(svg()).pdfData(), QByteArray("%PDF-whole+attributes"));
-    QCOMPARE(service_->given.value(QStringLiteral("Title")), QStringLiteral("A Title"));
-    QCOMPARE(service_->given.value(QStringLiteral("Creator")), QStringLiteral("Norvex 1.0"));
-    QCOMPARE(service_->givenDate, now_);
+    QCOMPARE(service_->given.texts.value(QStringLiteral("Title")), QStringLiteral("A Title"));
+    QCOMPARE(service_->given.texts.value(QStringLiteral("Creator")), QStringLiteral("Norvex 1.0"));
+    QCOMPARE(service_->given.creationDate.value_or(QDateTime()), now_);
   }
   void anEpsAsPdfGetsTheUserAsAuthorWhenItsOwnerIsEmpty() {
     QCOMPARE(encoderOf(eps()).pdfData(), QByteArray("%PDF-composed+attributes"));
-    QCOMPARE(service_->given.value(QStringLiteral("Author")), QStringLiteral("Ann User"));
-    QCOMPARE(service_->given.value(QStringLiteral("Title")), QStringLiteral("(Own)"));
+    QCOMPARE(service_->given.texts.value(QStringLiteral("Author")), QStringLiteral("Ann User"));
+    QCOMPARE(service_->given.texts.value(QStringLiteral("Title")), QStringLiteral("(Own)"));
   }
 
   void anotherDepthThanTheWindowsIsLogged_data() {

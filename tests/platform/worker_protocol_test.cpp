@@ -59,7 +59,7 @@ QList<WorkerMessage> messages() {
       WorkerRequest{5, SvgRequest{false, QRectF(1, 2, 3, 4), -1.5}},
       WorkerRequest{6, SvgRequest{}},
       WorkerRequest{0xffffffff, DecodePreviewRequest{}},
-      ForkRequest{{1, 2, 3}, true, NeedPages | NeedTools},
+      ForkRequest{{1, 2, 3}, true, NeedPages | NeedPreviews},
       WorkerRequest{
           8, AttributesRequest{{{"Title", "t"}}, QDateTime(QDate(2001, 1, 1), QTime(1, 2, 3), Qt::UTC)}},
       CancelRequest{9},
@@ -162,7 +162,7 @@ class WorkerProtocolTest : public QObject {
     const auto fork = std::get<ForkRequest>(*decodeMessage(encodeMessage(messages()[7])));
     QVERIFY(fork.postScript);
     QCOMPARE(fork.limits.memoryMiB, 2);
-    QCOMPARE(fork.needs, PictureNeeds(NeedPages | NeedTools));
+    QCOMPARE(fork.needs, PictureNeeds(NeedPages | NeedPreviews));
   }
 
   void theFactsAreKept() {

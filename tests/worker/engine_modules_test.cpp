@@ -43,8 +43,8 @@ class EngineModulesTest : public QObject {
     const auto engines = modules.engines(module.offers);
     QVERIFY2(engines.ok(), engines.ok() ? "" : qPrintable(engines.error().message));
     QVERIFY((*engines)->open != nullptr);
-    QCOMPARE((*engines)->decodePreview != nullptr, (module.offers & NeedTools) != 0);
-    QCOMPARE((*engines)->setPdfAttributes != nullptr, (module.offers & NeedTools) != 0);
+    QCOMPARE((*engines)->decodePreview != nullptr, (module.offers & NeedPreviews) != 0);
+    QCOMPARE((*engines)->setPdfAttributes != nullptr, (module.offers & (NeedPages | NeedSvgPdf)) != 0);
     QCOMPARE((*engines)->composePages != nullptr, (module.offers & NeedSheets) != 0);
   }
 
@@ -53,7 +53,7 @@ class EngineModulesTest : public QObject {
     const auto all = modules.engines(allPictureNeeds);
     QVERIFY(all.ok());
     QCOMPARE(*modules.engines(NeedSvgDrawing), *all);
-    QCOMPARE(*modules.engines(NeedPages | NeedTools), *all);
+    QCOMPARE(*modules.engines(NeedPages | NeedPreviews), *all);
   }
 
   void aMissingModuleIsTold() {

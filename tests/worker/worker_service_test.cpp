@@ -409,11 +409,16 @@ class WorkerServiceTest : public QObject {
     QCOMPARE(service_->decodePreview("klm")->data, QByteArray("klm"));
   }
 
-  void attributesAreSetInTheSharedProcess() {
+  void attributesAreSetInThePicturesOwnProcess() {
     const QDateTime date(QDate(2020, 1, 2), QTime(3, 4, 5), Qt::UTC);
-    QCOMPARE(*service_->setPdfAttributes("%PDF", {{"Title", "Größe"}}, date),
+    const auto picture = service_->open("ok", PictureKind::Svg);
+    QVERIFY(picture->facts().ok());
+    const QList<qint64> children = childrenOf(service_->programProcessId());
+    QCOMPARE(picture->setPdfAttributes("%PDF", {{{"Title", "Größe"}}, date})->bytes,
              QByteArray("%PDF Größe 2020-01-02T03:04:05Z"));
-    QCOMPARE(*service_->setPdfAttributes("%PDF", {}, {}), QByteArray("%PDF  never"));
+    QCOMPARE(picture->setPdfAttributes("%PDF", {})->bytes, QByteArray("%PDF  never"));
+    QCOMPARE(childrenOf(service_->programProcessId()), children);
+    QVERIFY(picture->render({0, {}, {1, 1}, RenderPurpose::View}).ok());
   }
 
   void openingIsCheap() {

@@ -172,6 +172,14 @@ Result<PictureBytes> MemoryPictureProcess::svg(const SvgRequest& request, const 
   return PictureBytes{picture_.svg ? picture_.svg(request) : bytes_, picture_.report};
 }
 
+Result<PictureBytes> MemoryPictureProcess::setPdfAttributes(const QByteArray& pdf,
+                                                            const AttributesRequest& attributes,
+                                                            const CancelToken& cancel) {
+  const std::lock_guard serial(serial_);
+  if (const auto begun = begin(PictureCall::Attributes, cancel); !begun) return begun.error();
+  return PictureBytes{picture_.setAttributes ? picture_.setAttributes(pdf, attributes) : pdf, {}};
+}
+
 // ---- service
 // --------------------------------------------------------------------------------------------------------
 

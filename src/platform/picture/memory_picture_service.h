@@ -18,7 +18,7 @@
 namespace norvex {
 
 /// The calls of a PictureProcess, to count them and to make them fail.
-enum class PictureCall { Facts, Render, Pdf, Compose, Svg };
+enum class PictureCall { Facts, Render, Pdf, Compose, Svg, Attributes };
 
 /// What the answers of a memory process are. Every function may be replaced; it runs on the caller's thread,
 /// and several threads never run it at the same time.
@@ -34,6 +34,7 @@ struct MemoryPicture {
   std::function<QByteArray(const ComposeRequest&)>
       compose;                                       ///< Default: an empty page of the rectangle's size
   std::function<QByteArray(const SvgRequest&)> svg;  ///< Default: the bytes that were opened
+  std::function<QByteArray(const QByteArray& pdf, const AttributesRequest&)> setAttributes;  ///< Default: the PDF
 };
 
 /// A picture whose colour tells where it is: red grows with x from 0 to 255 over the page, green with y
@@ -73,6 +74,8 @@ class MemoryPictureProcess final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+                                        const CancelToken& cancel = {}) override;
   [[nodiscard]] QStringList drawingRemarks() const override;
 
  private:
@@ -92,7 +95,7 @@ class MemoryPictureProcess final : public PictureProcess {
   mutable std::mutex mutex_;  ///< of everything below
   std::mutex serial_;         ///< one answer at a time, as a real process gives them
   std::condition_variable changed_;
-  CallState states_[5];
+  CallState states_[6];
   int cancelled_ = 0;
   QList<RenderRequest> renders_;
   QList<ComposeRequest> composes_;

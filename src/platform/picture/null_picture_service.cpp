@@ -13,6 +13,9 @@ class NullPictureProcess final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest&, const CancelToken&) override { return error_; }
   Result<PictureBytes> compose(const ComposeRequest&, const CancelToken&) override { return error_; }
   Result<PictureBytes> svg(const SvgRequest&, const CancelToken&) override { return error_; }
+  Result<PictureBytes> setPdfAttributes(const QByteArray&, const AttributesRequest&, const CancelToken&) override {
+    return error_;
+  }
 
  private:
   const Error error_;

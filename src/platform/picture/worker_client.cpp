@@ -93,7 +93,7 @@ Result<PictureFacts> WorkerClient::facts(const CancelToken& cancel) {
 }
 
 /// REQUIRES the caller's turn.
-Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& cancel) {
+Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory) {
   if (auto outcome = known(); outcome && !*outcome) return outcome->error();
   if (cancel.cancelled()) return cancelled();
   if (connection_ && opening_ == 0 && !connection_->isUsable()) connection_.reset();
@@ -103,7 +103,7 @@ Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& canc
   if (opening_ != 0) {
     if (auto facts = finishOpening(cancel); !facts) return facts.error();
   }
-  const Result<quint32> id = connection_->post(std::move(body));
+  const Result<quint32> id = connection_->post(std::move(body), memory);
   if (!id) return id.error();
   Result<WorkerAnswer> answer = connection_->wait(*id, deadline(), cancel);
   if (!answer && !connection_->isUsable()) connection_.reset();
@@ -131,10 +131,11 @@ QStringList WorkerClient::drawingRemarks() const {
   return remarks_;
 }
 
-Result<PictureBytes> WorkerClient::askForBytes(RequestBody body, const CancelToken& cancel) {
+Result<PictureBytes> WorkerClient::askForBytes(RequestBody body, const CancelToken& cancel,
+                                               const FileDescriptor& memory) {
   const auto turn = turns_.take(cancel);
   if (!turn) return cancelled();
-  Result<WorkerAnswer> answer = ask(std::move(body), cancel);
+  Result<WorkerAnswer> answer = ask(std::move(body), cancel, memory);
   return answer ? distrusted(bytesFrom(std::move(*answer), process_.limits)) : answer.error();
 }
 
@@ -148,6 +149,12 @@ Result<PictureBytes> WorkerClient::compose(const ComposeRequest& request, const 
 
 Result<PictureBytes> WorkerClient::svg(const SvgRequest& request, const CancelToken& cancel) {
   return askForBytes(request, cancel);
+}
+
+Result<PictureBytes> WorkerClient::setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+                                                    const CancelToken& cancel) {
+  const Result<FileDescriptor> memory = SealedMemory::seal(pdf);
+  return memory ? askForBytes(attributes, cancel, *memory) : Result<PictureBytes>(memory.error());
 }
 
 qint64 WorkerClient::processId() {

@@ -26,6 +26,8 @@ class WorkerClient final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+                                        const CancelToken& cancel = {}) override;
   [[nodiscard]] QStringList drawingRemarks() const override;
 
   /// Number of the process that serves the document now, 0: none. For tests.
@@ -34,8 +36,8 @@ class WorkerClient final : public PictureProcess {
  private:
   Result<void> beginToOpen();
   Result<PictureFacts> finishOpening(const CancelToken& cancel);
-  Result<WorkerAnswer> ask(RequestBody body, const CancelToken& cancel);
-  Result<PictureBytes> askForBytes(RequestBody body, const CancelToken& cancel);
+  Result<WorkerAnswer> ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory = {});
+  Result<PictureBytes> askForBytes(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory = {});
   template <typename T>
   Result<T> distrusted(Result<T> result);
   [[nodiscard]] std::optional<Result<PictureFacts>> known() const;

@@ -8,7 +8,7 @@
 namespace norvex {
 namespace {
 
-/// A preview or a change of attributes takes milliseconds; what takes longer is an attack.
+/// A preview takes milliseconds; what takes longer is an attack.
 PictureLimits toolLimits() {
   PictureLimits limits;
   limits.seconds = 20;
@@ -60,18 +60,7 @@ std::shared_ptr<PictureProcess> WorkerService::open(const QByteArray& bytes, Pic
     const std::lock_guard lock(preparedMutex_);
     if (prepared_ && fits(prepared_->request(), process)) connection = std::move(prepared_);
   }
-  auto client = std::make_shared<WorkerClient>(starter_, bytes, kind, process, std::move(connection));
-  if (use_ == PictureUse::WholePdf) prepareTools();  // a PDF is given its attributes when it is done
-  return client;
-}
-
-void WorkerService::prepareTools() {
-  if (toolsPrepared_.exchange(true)) return;
-  const auto turn = toolTurns_.take({});
-  if (!turn || tools_) return;
-  // Whoever asks it first tells why there is none.
-  if (auto opened = WorkerConnection::open(starter_, ForkRequest{toolLimits(), false, NeedTools}); opened)
-    tools_ = std::move(*opened);
+  return std::make_shared<WorkerClient>(starter_, bytes, kind, process, std::move(connection));
 }
 
 Result<WorkerAnswer> WorkerService::askTools(PictureNeed need, RequestBody body, const QByteArray& bytes,
@@ -92,23 +81,11 @@ Result<WorkerAnswer> WorkerService::askTools(PictureNeed need, RequestBody body,
 Result<NSBitmapImageRep> WorkerService::decodePreview(const QByteArray& tiff, const CancelToken& cancel) {
   const auto turn = toolTurns_.take(cancel);
   if (!turn) return cancelled();
-  Result<WorkerAnswer> answer = askTools(NeedTools, DecodePreviewRequest{}, tiff, cancel);
+  Result<WorkerAnswer> answer = askTools(NeedPreviews, DecodePreviewRequest{}, tiff, cancel);
   Result<NSBitmapImageRep> bitmap = answer ? bitmapFrom(std::move(*answer), toolLimits()) : answer.error();
   // A process that one document has made fail shall not see the next one.
   if (!bitmap) tools_.reset();
   return bitmap;
-}
-
-Result<QByteArray> WorkerService::setPdfAttributes(const QByteArray& pdf,
-                                                   const QHash<QString, QString>& texts,
-                                                   const QDateTime& creationDate, const CancelToken& cancel) {
-  const auto turn = toolTurns_.take(cancel);
-  if (!turn) return cancelled();
-  AttributesRequest request{texts, creationDate.isValid() ? std::optional(creationDate) : std::nullopt};
-  Result<WorkerAnswer> answer = askTools(NeedTools, std::move(request), pdf, cancel);
-  Result<PictureBytes> bytes = answer ? bytesFrom(std::move(*answer), toolLimits()) : answer.error();
-  if (!bytes) tools_.reset();
-  return bytes ? Result<QByteArray>(bytes->bytes) : Result<QByteArray>(bytes.error());
 }
 
 Result<QByteArray> WorkerService::composePages(const QByteArray& pdf, const PagesRequest& request,

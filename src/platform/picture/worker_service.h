@@ -38,8 +38,6 @@ class WorkerService final : public PictureService {
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
-  Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& texts,
-                                      const QDateTime& creationDate, const CancelToken& cancel = {}) override;
   Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
                                   const CancelToken& cancel = {}) override;
 
@@ -48,8 +46,6 @@ class WorkerService final : public PictureService {
 
  private:
   [[nodiscard]] ForkRequest processFor(PictureKind kind, const PictureLimits& limits) const;
-  /// Lets the process for tools start while the first picture is worked on.
-  void prepareTools();
   /// `need`: what the process must be able to do.
   Result<WorkerAnswer> askTools(PictureNeed need, RequestBody body, const QByteArray& bytes,
                                 const CancelToken& cancel);
@@ -58,7 +54,6 @@ class WorkerService final : public PictureService {
   std::atomic<PictureUse> use_ = PictureUse::Everything;
   std::mutex preparedMutex_;
   std::unique_ptr<WorkerConnection> prepared_;
-  std::atomic<bool> toolsPrepared_ = false;
   TurnTaking toolTurns_;
   /// Serves what belongs to no open document, one after the other; replaced after any failure. Used by the
   /// thread whose turn it is.

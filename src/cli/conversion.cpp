@@ -6,6 +6,7 @@
 #include "cli/input_file.h"
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
+#include "metadata/full_date.h"
 #include "platform/picture/pdf_image_rep.h"
 #include "platform/picture/picture_loader.h"
 #include "platform/type_identification.h"
@@ -74,15 +75,18 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   picture.fileURL = fileURL;
   picture.typeIdentifier = type.identifier();
   picture.page = options.page.value_or(1) - 1;
+  // While the picture process starts there is time for what is needed later.
+  EncoderSurroundings surroundings = usualSurroundings(service);
+  if (isPostScript(options.format)) surroundings.fullNow = fullDate(surroundings.now, surroundings.locale);
   const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits, cancel);
   if (!loaded) return failed(loaded.error());
   const auto& imageRep = loaded->imageRep;
   const std::optional<PictureRegion> region = regionOf(*imageRep, options);
   if (const auto error = objection(*imageRep, options, region)) return failed(*error);
 
-  EncoderSurroundings surroundings = usualSurroundings(service);
   surroundings.raster = {options.dpi, options.background};
   surroundings.region = region;
+  surroundings.once = true;
   // The only page is the whole file.
   surroundings.onePage = options.page.has_value() && pageCount(*imageRep) > 1;
   PictureEncoder encoder(imageRep, surroundings, cancel);

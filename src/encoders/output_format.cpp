@@ -83,6 +83,10 @@ bool isRaster(OutputFormat format) {
   return rowOf(format).raster;
 }
 
+bool isPostScript(OutputFormat format) {
+  return format == OutputFormat::Eps || format == OutputFormat::EpsPreview || format == OutputFormat::Epsi;
+}
+
 std::optional<OutputFormat> outputFormatNamed(const QString& name) {
   return firstRow([&name](const FormatRow& row) { return name == QLatin1String(row.name); });
 }

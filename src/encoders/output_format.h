@@ -24,6 +24,8 @@ enum class OutputFormat { Eps, EpsPreview, Epsi, Pdf, Svg, Svgz, Tiff, Png, Jpeg
 /// Without the dot.
 [[nodiscard]] QString extensionOf(OutputFormat format);
 [[nodiscard]] bool isRaster(OutputFormat format);
+/// Plain EPS or one of those with a preview.
+[[nodiscard]] bool isPostScript(OutputFormat format);
 
 /// The bytes of the encoder's picture in `format`; none: the encoder's report says why.
 [[nodiscard]] QByteArray encodedPicture(PictureEncoder& encoder, OutputFormat format);

@@ -51,6 +51,11 @@ QByteArray PictureEncoder::take(Result<PictureBytes> result) {
   return result->bytes;
 }
 
+/// Nothing is left to ask of the picture.
+void PictureEncoder::retire() const {
+  if (surroundings_.once) imageRep_->process()->retire();
+}
+
 /// The same may be told of the drawing and of the preview.
 void PictureEncoder::addWarnings(const QStringList& warnings) {
   for (const QString& warning : warnings)
@@ -80,7 +85,8 @@ QByteArray PictureEncoder::addEPSHeader(const QByteArray& postScript) {
   const HeaderDictionary facts = own ? HeaderDictionary() : header();
   EpsHeaderDefaults defaults;
   defaults.creator = QStringLiteral("%1 by Tembrolix.").arg(QStringLiteral("MainWindowController"));
-  defaults.creationDate = fullDate(surroundings_.now, surroundings_.locale);
+  defaults.creationDate = surroundings_.fullNow.isEmpty() ? fullDate(surroundings_.now, surroundings_.locale)
+                                                          : surroundings_.fullNow;
   defaults.userFullName = surroundings_.userFullName;
   return rewriteEpsHeader(postScript, facts, defaults);
 }
@@ -178,7 +184,10 @@ QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
     return fail({ErrorKind::Unsupported,
                  QStringLiteral("the document has a description but no title to store with it")});
   }
-  return take(imageRep_->process()->setPdfAttributes(pdf, {attributes->texts, attributes->creationDate}, cancel_));
+  const AttributesRequest request{attributes->texts, attributes->creationDate};
+  const QByteArray finished = take(imageRep_->process()->setPdfAttributes(pdf, request, cancel_));
+  retire();
+  return finished;
 }
 
 // ---- SVG and raster ---------------------------------------------------------------------------------------
@@ -210,28 +219,34 @@ std::optional<NSBitmapImageRep> PictureEncoder::bitmapOf(const std::shared_ptr<N
   return bitmap ? std::optional(std::move(*bitmap)) : std::nullopt;
 }
 
+std::optional<NSBitmapImageRep> PictureEncoder::rasterOf(const std::shared_ptr<NSImageRep>& imageRep) {
+  auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  if (imageRep && imageRep == imageRep_) retire();
+  return bitmap;
+}
+
 RasterProperties PictureEncoder::rasterProperties() const {
   return {surroundings_.raster.dpi, surroundings_.iccProfile};
 }
 
 QByteArray PictureEncoder::tiffData(const std::shared_ptr<NSImageRep>& imageRep) {
-  const auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  const auto bitmap = rasterOf(imageRep);
   return bitmap ? encodeTiff(*bitmap, rasterProperties()) : QByteArray();
 }
 
 QByteArray PictureEncoder::pngData(const std::shared_ptr<NSImageRep>& imageRep) {
-  const auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  const auto bitmap = rasterOf(imageRep);
   return bitmap ? encodePng(*bitmap, rasterProperties()) : QByteArray();
 }
 
 QByteArray PictureEncoder::jpgData(const std::shared_ptr<NSImageRep>& imageRep) {
   constexpr float quality = 0.9F;
-  const auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  const auto bitmap = rasterOf(imageRep);
   return bitmap ? encodeJpeg(*bitmap, rasterProperties(), quality) : QByteArray();
 }
 
 QByteArray PictureEncoder::gifData(const std::shared_ptr<NSImageRep>& imageRep) {
-  const auto bitmap = bitmapOf(imageRep, surroundings_.raster);
+  const auto bitmap = rasterOf(imageRep);
   return bitmap ? encodeGif(*bitmap, rasterProperties()) : QByteArray();
 }
 

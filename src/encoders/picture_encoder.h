@@ -62,9 +62,11 @@ class PictureEncoder {
   [[nodiscard]] bool handsOnSource() const { return !surroundings_.region && !surroundings_.onePage; }
   [[nodiscard]] QByteArray composed(VectorFormat format);
   [[nodiscard]] QByteArray take(Result<PictureBytes> result);
+  void retire() const;
   [[nodiscard]] QByteArray fail(const Error& error);
   [[nodiscard]] std::optional<NSBitmapImageRep> bitmapOf(const std::shared_ptr<NSImageRep>& imageRep,
                                                          const RasterSettings& settings);
+  [[nodiscard]] std::optional<NSBitmapImageRep> rasterOf(const std::shared_ptr<NSImageRep>& imageRep);
   [[nodiscard]] QString sourceTextOfEps();
   void noteDepth(int bitsPerPixel) const;
   void addWarnings(const QStringList& warnings);

@@ -17,6 +17,12 @@ using PictureNeeds = unsigned;
 
 inline constexpr PictureNeeds allPictureNeeds = 63;
 
+/// What a run will probably ask of its pictures, guessed before any of them is read.
+struct ExpectedPictures {
+  PictureNeeds needs = 0;  ///< 0: nobody knows
+  bool single = false;     ///< there is one, without PostScript: it gets a process of its own at once
+};
+
 /// What the pictures of a run are opened for.
 enum class PictureUse { Everything, Drawing, WholePdf };
 

@@ -33,9 +33,9 @@ int runWindows(int argc, char** argv, WorkerService& service) {
 }  // namespace norvex
 
 extern "C" __attribute__((visibility("default"))) int norvexApplication(int argc, char** argv,
-                                                                        norvex::SpawnedWorker* worker) {
+                                                                        norvex::StartedPrograms* started) {
   using namespace norvex;
-  WorkerService service({}, std::move(*worker));
+  WorkerService service({}, std::move(started->worker), std::move(started->picture));
   if (!isCommandLine(argc, argv)) return runWindows(argc, argv, service);
   StandardConsole console;
   PrintingJob job(console, service);

@@ -5,8 +5,14 @@
 
 namespace norvex {
 
-/// Runs the window or the command line and gives the exit code. Takes the picture process out of `worker`.
-using ApplicationEntry = int(int argc, char** argv, SpawnedWorker* worker);
+/// What runs already: one of the two, or none.
+struct StartedPrograms {
+  SpawnedWorker worker;
+  SpawnedPicture picture;
+};
+
+/// Runs the window or the command line and gives the exit code. Takes over what was started.
+using ApplicationEntry = int(int argc, char** argv, StartedPrograms* started);
 
 inline constexpr char kApplicationEntry[] = "norvexApplication";
 inline constexpr int kNotLoaded = 1;  ///< exit code: parts of the program are missing

@@ -7,9 +7,9 @@
 #include "programs/application_entry.h"
 
 extern "C" __attribute__((visibility("default"))) int norvexApplication(int argc, char** argv,
-                                                                        norvex::SpawnedWorker* worker) {
+                                                                        norvex::StartedPrograms* started) {
   using namespace norvex;
-  WorkerService service({}, std::move(*worker));
+  WorkerService service({}, std::move(started->worker), std::move(started->picture));
   StandardConsole console;
   Job job(console, service);
   return runCommandLine(argc, argv, job);

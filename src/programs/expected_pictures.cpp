@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 #include <string_view>
+#include <vector>
 
 namespace norvex {
 namespace {
@@ -34,6 +35,11 @@ PictureNeeds needsOfFile(Text name, PictureUse use) {
   return isOneOf(extensionOf(name), {"pdf", "ai"}) ? PictureNeeds(NeedPages) : 0;
 }
 
+/// An Illustrator file may be either.
+bool isWithoutPostScript(Text name) {
+  return isOneOf(extensionOf(name), {"svg", "svgz", "pdf"});
+}
+
 /// The value of the option at `i` when that is one of `names`: behind a "=", or the next argument, to which
 /// `i` then moves.
 bool readOption(int argc, const char* const* argv, int& i, std::initializer_list<Text> names, Text& value) {
@@ -46,31 +52,37 @@ bool readOption(int argc, const char* const* argv, int& i, std::initializer_list
   return false;
 }
 
-PictureNeeds needsOfConversions(int argc, const char* const* argv) {
-  Text format, output, part;
-  for (int i = 2; i < argc; ++i)
-    if (!readOption(argc, argv, i, {"--format"}, format) &&
-        !readOption(argc, argv, i, {"-o", "--output"}, output))
-      readOption(argc, argv, i, {"--crop", "--rotate"}, part);
+ExpectedPictures expectedConversions(int argc, const char* const* argv) {
+  Text format, output, part, limit, other;
+  std::vector<Text> files;
+  for (int i = 2; i < argc; ++i) {
+    if (readOption(argc, argv, i, {"--format"}, format) || readOption(argc, argv, i, {"-o", "--output"}, output) ||
+        readOption(argc, argv, i, {"--crop", "--rotate"}, part) ||
+        readOption(argc, argv, i, {"--timeout", "--memory"}, limit) ||
+        readOption(argc, argv, i, {"--to", "--page", "--dpi", "--background", "--jobs"}, other))
+      continue;
+    if (argv[i][0] != '-') files.push_back(argv[i]);
+  }
   PictureUse use = useFor(format.empty() ? extensionOf(output) : format);
   if (use == PictureUse::WholePdf && !part.empty()) use = PictureUse::Everything;
-  PictureNeeds needs = 0;
-  for (int i = 2; i < argc; ++i) {
-    Text passedOver;
-    if (!readOption(argc, argv, i, {"-o", "--output"}, passedOver)) needs |= needsOfFile(argv[i], use);
-  }
-  return needs;
+  ExpectedPictures expected;
+  for (const Text file : files) expected.needs |= needsOfFile(file, use);
+  // The process that is started for a single picture has the usual limits.
+  expected.single = files.size() == 1 && isWithoutPostScript(files[0]) && limit.empty();
+  return expected;
 }
 
 }  // namespace
 
-PictureNeeds expectedNeeds(int argc, const char* const* argv) {
+ExpectedPictures expectedPictures(int argc, const char* const* argv) {
   const Text command = argc > 1 ? argv[1] : "";
-  if (command == "convert") return needsOfConversions(argc, argv);
-  if (command != "info" && command != "source") return command == "preview" ? 0 : allPictureNeeds;
-  PictureNeeds needs = 0;
-  for (int i = 2; i < argc; ++i) needs |= needsOfFile(argv[i], PictureUse::Drawing);
-  return needs;
+  if (command == "convert") return expectedConversions(argc, argv);
+  if (command == "preview") return {};
+  ExpectedPictures expected;
+  if (command != "info" && command != "source") expected.needs = allPictureNeeds;
+  else
+    for (int i = 2; i < argc; ++i) expected.needs |= needsOfFile(argv[i], PictureUse::Drawing);
+  return expected;
 }
 
 }  // namespace norvex

@@ -6,8 +6,7 @@
 namespace norvex {
 
 /// A guess from commands and file names, so that what is probably needed is loaded while the application
-/// loads. Names may lie: what a file holds is found out later, and what it then needs is loaded then. 0:
-/// nothing can be guessed.
-[[nodiscard]] PictureNeeds expectedNeeds(int argc, const char* const* argv);
+/// loads. Names may lie: what a file holds is found out later, and what it then needs is loaded then.
+[[nodiscard]] ExpectedPictures expectedPictures(int argc, const char* const* argv);
 
 }  // namespace norvex

@@ -2,15 +2,20 @@
 // loading the application takes as long as loading the picture process, and this way the two go on side by
 // side.
 #include <dlfcn.h>
+#include <unistd.h>
 
 #include <cstdio>
+#include <string>
 #include <string_view>
 
 #include "platform/picture/spawned_worker.h"
 #include "programs/application_entry.h"
 #include "programs/expected_pictures.h"
+#include "worker/engine_parts_table.h"
 
 namespace {
+
+constexpr char kCommands[] = "norvex-commands.so";
 
 /// What is only asked about the program itself needs no picture process.
 bool mayNeedPictures(int argc, char** argv) {
@@ -21,22 +26,44 @@ bool mayNeedPictures(int argc, char** argv) {
 const char* partFor(int argc, char** argv) {
   const std::string_view first = argc > 1 ? argv[1] : "";
   for (const char* command : {"convert", "info", "preview", "source", "--version", "--help"})
-    if (first == command) return "norvex-commands.so";
+    if (first == command) return kCommands;
   return "norvex-application.so";
+}
+
+/// The only picture of a run gets a process of its own, others a program that forks one for each.
+norvex::StartedPrograms startPrograms(const norvex::ExpectedPictures& expected) {
+  using namespace norvex;
+  StartedPrograms started;
+  if (expected.single) {
+    const EnginePart& part = engineParts[enginePartFor(expected.needs)];
+    started.picture = spawnPicture(partOfProgram(std::string("norvex-picture-") + part.name), part.offers);
+  }
+  if (started.picture.pid == 0) started.worker = spawnWorker(partOfProgram("norvex-worker"), expected.needs);
+  return started;
+}
+
+/// The end of a command. Its files are closed by now, and what libraries would still tidy up goes with their memory.
+int leave(int code) {
+#ifndef NORVEX_INSTRUMENTED  // leaks and coverage are told on the way out
+  std::fflush(nullptr);
+  ::_exit(code);
+#endif
+  return code;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   using namespace norvex;
-  SpawnedWorker worker;
-  if (mayNeedPictures(argc, argv))
-    worker = spawnWorker(partOfProgram("norvex-worker"), expectedNeeds(argc, argv));
-  void* application = ::dlopen(partOfProgram(partFor(argc, argv)).c_str(), RTLD_LAZY | RTLD_LOCAL);
+  StartedPrograms started;
+  if (mayNeedPictures(argc, argv)) started = startPrograms(expectedPictures(argc, argv));
+  const char* part = partFor(argc, argv);
+  void* application = ::dlopen(partOfProgram(part).c_str(), RTLD_LAZY | RTLD_LOCAL);
   void* entry = application == nullptr ? nullptr : ::dlsym(application, kApplicationEntry);
   if (entry == nullptr) {
     std::fprintf(stderr, "norvex: the application could not be loaded (%s)\n", ::dlerror());
     return kNotLoaded;
   }
-  return reinterpret_cast<ApplicationEntry*>(entry)(argc, argv, &worker);
+  const int code = reinterpret_cast<ApplicationEntry*>(entry)(argc, argv, &started);
+  return part == std::string_view(kCommands) ? leave(code) : code;
 }

@@ -29,6 +29,7 @@ class StoppableProcess final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
+  void retire() override { process_->retire(); }
   Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
                                         const CancelToken& cancel = {}) override;
 

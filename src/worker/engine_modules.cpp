@@ -26,10 +26,10 @@ std::string folderOfProgram() {
   return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
 }
 
-Error notLoaded(const char* file) {
+Error notLoaded(const std::string& file) {
   return {ErrorKind::CannotRead,
           QStringLiteral("the part of norvex that this picture needs is missing or damaged: %1")
-              .arg(QString::fromLatin1(file))};
+              .arg(QString::fromStdString(file))};
 }
 
 }  // namespace
@@ -38,12 +38,10 @@ EngineModules::EngineModules(std::string folder)
     : folder_(folder.empty() ? folderOfProgram() : std::move(folder)) {}
 
 Result<const EngineSet*> EngineModules::engines(PictureNeeds needs) {
-  const auto can = [&](size_t i) { return (needs & ~engineModules[i].offers) == 0; };
   for (size_t i = 0; i < slots_.size(); ++i)
-    if (slots_[i].loaded && can(i)) return &slots_[i].engines;
-  size_t first = 0;
-  while (!can(first) && first + 1 < slots_.size()) ++first;
-  const char* file = engineModules[first].file;
+    if (slots_[i].loaded && (needs & ~engineParts[i].offers) == 0) return &slots_[i].engines;
+  const size_t first = enginePartFor(needs);
+  const std::string file = std::string("norvex-engine-") + engineParts[first].name + ".so";
   void* module = ::dlopen((folder_ + '/' + file).c_str(), kBinding);
   void* entry = module == nullptr ? nullptr : ::dlsym(module, kEngineModuleEntry);
   if (entry == nullptr) return notLoaded(file);

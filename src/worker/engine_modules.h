@@ -5,8 +5,8 @@
 #include <array>
 #include <string>
 
-#include "platform/picture_needs.h"
 #include "platform/result.h"
+#include "worker/engine_parts_table.h"
 #include "worker/engine_set.h"
 
 namespace norvex {
@@ -14,19 +14,6 @@ namespace norvex {
 /// The one function of a module: it fills in what the module offers.
 using EngineModuleEntry = void(EngineSet* engines);
 inline constexpr char kEngineModuleEntry[] = "norvexEngines";
-
-struct EngineModule {
-  const char* file;
-  PictureNeeds offers;
-};
-
-/// Every module, what is needed most often first. What two of them offer is the same code.
-inline constexpr std::array<EngineModule, 4> engineModules{{
-    {"norvex-engine-svg.so", NeedSvgDrawing},
-    {"norvex-engine-pages.so", NeedPages | NeedPreviews},
-    {"norvex-engine-svg-pdf.so", NeedSvgDrawing | NeedSvgPdf | NeedSheets},
-    {"norvex-engine-all.so", allPictureNeeds},
-}};
 
 /// Loaded modules stay loaded. Single-threaded. Forked processes share what was loaded before.
 class EngineModules {
@@ -46,7 +33,7 @@ class EngineModules {
     EngineSet engines;
   };
   std::string folder_;
-  std::array<Slot, engineModules.size()> slots_;
+  std::array<Slot, engineParts.size()> slots_;
 };
 
 }  // namespace norvex

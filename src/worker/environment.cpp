@@ -1,5 +1,8 @@
 #include "worker/environment.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cstdlib>
 #include <utility>
 #include <vector>
@@ -33,6 +36,16 @@ void clearEnvironment() {
   // GIO must not load modules that talk to services of the desktop.
   ::setenv("GIO_USE_VFS", "local", 1);
   ::setenv("GSETTINGS_BACKEND", "memory", 1);
+}
+
+void closeStandardStreams() {
+  const int null = ::open("/dev/null", O_RDWR | O_CLOEXEC);
+  ::dup2(null, STDIN_FILENO);
+  ::dup2(null, STDOUT_FILENO);
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+  ::dup2(null, STDERR_FILENO);
+#endif
+  ::close(null);
 }
 
 }  // namespace norvex

@@ -12,4 +12,8 @@ void clearEnvironment();
 /// The names that are kept when they are set.
 [[nodiscard]] QByteArrayList keptVariables();
 
+/// Input and output are nobody's business in a picture process. Messages of libraries would be mixed into those of
+/// the program, and a terminal in the hands of a hostile document is a keyboard; sanitizers keep their voice.
+void closeStandardStreams();
+
 }  // namespace norvex

@@ -15,6 +15,8 @@
 #include <filesystem>
 #include <utility>
 
+#include "worker/environment.h"
+
 namespace norvex {
 namespace {
 
@@ -31,17 +33,6 @@ Error noChild() {
 void removeFolder(const QByteArray& folder) {
   std::error_code ignored;  // what cannot be removed now goes with the root folder
   std::filesystem::remove_all(folder.toStdString(), ignored);
-}
-
-/// Input and output are nobody's business in a child. Messages of libraries would be mixed into those of the
-/// program, and a terminal in the hands of a hostile document is a keyboard; sanitizers keep their voice.
-void closeStandardStreams() {
-  const int null = ::open("/dev/null", O_RDWR | O_CLOEXEC);
-  ::dup2(null, STDIN_FILENO);
-  ::dup2(null, STDOUT_FILENO);
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-  ::dup2(null, STDERR_FILENO);
-#endif
 }
 
 }  // namespace

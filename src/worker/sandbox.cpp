@@ -84,7 +84,7 @@ Result<void> limitMemory(const PictureLimits& limits) {
 
 Result<void> enterSandbox(const PictureLimits& limits, const QString& scratchFolder, bool librariesToCome) {
   volunteerWhenMemoryRunsOut();
-  ::setenv("TMPDIR", QFile::encodeName(scratchFolder).constData(), 1);
+  if (!scratchFolder.isEmpty()) ::setenv("TMPDIR", QFile::encodeName(scratchFolder).constData(), 1);
   if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || !limitFiles(limits) ||
       !limitAddressSpace(limits, librariesToCome ? kLibraries : 0))
     return notConfined();

@@ -1,6 +1,7 @@
 #include "worker/worker_program.h"
 
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -24,6 +25,11 @@ constexpr int kUsage = 2;
 bool isSocket(int fd) {
   struct stat status = {};
   return ::fstat(fd, &status) == 0 && S_ISSOCK(status.st_mode);
+}
+
+int startedByHand(const char* program) {
+  std::fprintf(stderr, "%s: is started by norvex, not by hand\n", program);
+  return kUsage;
 }
 
 }  // namespace
@@ -59,12 +65,21 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines) {
   return runForkServer(argc, argv, documentChild(engines), engines.warmUp, prepare);
 }
 
+int runPictureProgram(const EngineSet& engines) {
+  if (!isSocket(kControlDescriptor)) return startedByHand("norvex-picture");
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  ::fcntl(kControlDescriptor, F_SETFD, FD_CLOEXEC);
+  clearEnvironment();
+  closeStandardStreams();
+  WorkerEngines all;
+  all.source = [&engines](PictureNeeds) { return &engines; };
+  documentChild(all)(FileDescriptor(kControlDescriptor), ForkRequest(), QString());
+  return 0;
+}
+
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp,
                   ForkServer::Prepare prepare) {
-  if (argc < 2 || !isSocket(kControlDescriptor)) {
-    std::fputs("norvex-worker: is started by norvex, not by hand\n", stderr);
-    return kUsage;
-  }
+  if (argc < 2 || !isSocket(kControlDescriptor)) return startedByHand("norvex-worker");
   ::fcntl(kControlDescriptor, F_SETFD, FD_CLOEXEC);
   std::signal(SIGPIPE, SIG_IGN);
   const QByteArray root = argv[1];

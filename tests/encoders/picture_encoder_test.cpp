@@ -187,6 +187,21 @@ class PictureEncoderTest : public QObject {
   }
 
   void aPdfSourceIsHandedOnAsItIs() { QCOMPARE(encoderOf(pdf()).pdfData(), QByteArray("%PDF-source")); }
+  void theProcessMayGoWhenOnlyOneFormatIsAskedFor() {
+    for (const bool once : {false, true}) {
+      EncoderSurroundings surroundings = usual();
+      surroundings.once = once;
+      const auto rep = svg();
+      const auto process = service_->memory.lastProcess();
+      QVERIFY(!PictureEncoder(rep, surroundings).pngData(rep).isEmpty());
+      QCOMPARE(process->retirements(), once ? 1 : 0);
+      QVERIFY(!PictureEncoder(rep, surroundings).pdfData().isEmpty());
+      QCOMPARE(process->retirements(), once ? 2 : 0);
+      QVERIFY(!PictureEncoder(rep, surroundings).epsiData().isEmpty());  // it asks for two things
+      QCOMPARE(process->retirements(), once ? 2 : 0);
+    }
+  }
+
   void anSvgAsPdfGetsAttributes() {
     QCOMPARE(encoderOf(svg()).pdfData(), QByteArray("%PDF-whole+attributes"));
     QCOMPARE(service_->given.texts.value(QStringLiteral("Title")), QStringLiteral("A Title"));

@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include "kit/test_main.h"
+#include "worker/engine_parts_table.h"
 
 using namespace norvex;
 
@@ -38,11 +39,46 @@ class ExpectedPicturesTest : public QObject {
   void commandsAndNamesLetExpect() {
     QFETCH(QStringList, arguments);
     QFETCH(uint, needs);
+    QCOMPARE(uint(expected(arguments).needs), needs);
+  }
+
+  void theOnlyPictureOfARunIsKnown_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("single");
+    QTest::newRow("SVG") << QStringList{"convert", "a.svg", "-o", "a.png"} << true;
+    QTest::newRow("compressed") << QStringList{"convert", "--force", "a.SVGZ", "--to", "b.svg", "--format=eps"} << true;
+    QTest::newRow("PDF") << QStringList{"convert", "--dpi", "300", "a.pdf", "-o", "a.png"} << true;
+    QTest::newRow("two") << QStringList{"convert", "a.svg", "b.svg", "--to", "c", "--format", "png"} << false;
+    QTest::newRow("PostScript") << QStringList{"convert", "a.eps", "-o", "a.pdf"} << false;
+    QTest::newRow("may be PostScript") << QStringList{"convert", "a.ai", "-o", "a.pdf"} << false;
+    QTest::newRow("standard input") << QStringList{"convert", "-", "-o", "a.svg"} << false;
+    QTest::newRow("other limits") << QStringList{"convert", "--memory", "99", "a.svg", "-o", "a.png"} << false;
+    QTest::newRow("other time") << QStringList{"convert", "--timeout=9", "a.svg", "-o", "a.png"} << false;
+    QTest::newRow("no file") << QStringList{"convert", "-o", "a.svg"} << false;
+    QTest::newRow("window") << QStringList{"a.svg"} << false;
+    QTest::newRow("info") << QStringList{"info", "a.svg"} << false;
+  }
+  void theOnlyPictureOfARunIsKnown() {
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, single);
+    QCOMPARE(expected(arguments).single, single);
+  }
+
+  void everyNeedHasAPart() {
+    for (const PictureNeeds needs : {PictureNeeds(NeedSvgDrawing), svgNeeds(PictureUse::WholePdf),
+                                     svgNeeds(PictureUse::Everything), PictureNeeds(NeedPages), allPictureNeeds})
+      QCOMPARE(needs & ~engineParts[enginePartFor(needs)].offers, 0u);
+    QCOMPARE(engineParts[enginePartFor(NeedSvgDrawing)].name, "svg");
+    QCOMPARE(engineParts[enginePartFor(NeedPages)].name, "pages");
+  }
+
+ private:
+  static ExpectedPictures expected(const QStringList& arguments) {
     QByteArrayList bytes{"norvex"};
     for (const QString& argument : arguments) bytes << argument.toUtf8();
     std::vector<const char*> pointers;
     for (const QByteArray& argument : bytes) pointers.push_back(argument.constData());
-    QCOMPARE(uint(expectedNeeds(int(pointers.size()), pointers.data())), needs);
+    return expectedPictures(int(pointers.size()), pointers.data());
   }
 };
 

@@ -11,6 +11,7 @@
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "system/outside_programs.h"
+#include "worker/process_watch.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -254,6 +255,20 @@ class ConvertSystemTest : public QObject {
       process.waitForFinished();
       const QByteArray found = bytesOf(file);
       QVERIFY2(found == "old" || found == whole.out, qPrintable(QString::number(milliseconds)));
+    }
+  }
+
+  void aSuddenDeathTakesThePictureProcessAlong() {
+    for (const char* name : {"lighthouse.svg", "lighthouse.pdf", "lighthouse.eps"}) {
+      QProcess process;
+      process.start(norvexProgram(), {"convert", sample(name), "-o", path("a.png"), "--dpi", "1200", "--force"});
+      QVERIFY(process.waitForStarted());
+      QList<qint64> children;
+      QVERIFY2(eventually([&] { return !(children = childrenOf(process.processId())).isEmpty(); }), name);
+      process.kill();
+      process.waitForFinished();
+      for (const qint64 child : children)
+        QVERIFY2(eventually([&] { return stateOf(child) == 0 || stateOf(child) == 'Z'; }), name);
     }
   }
 

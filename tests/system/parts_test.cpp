@@ -16,7 +16,11 @@ const QStringList kParts{"norvex",
                          "norvex-engine-svg.so",
                          "norvex-engine-svg-pdf.so",
                          "norvex-engine-pages.so",
-                         "norvex-engine-all.so"};
+                         "norvex-engine-all.so",
+                         "norvex-picture-svg",
+                         "norvex-picture-svg-pdf",
+                         "norvex-picture-pages",
+                         "norvex-picture-all"};
 
 }  // namespace
 
@@ -64,7 +68,7 @@ class PartsTest : public QObject {
       const QByteArray names = bytesOf(QStringLiteral(NORVEX_BUILD_DIR "/") + part);
       QVERIFY2(names.size() > 1000, qPrintable(part));
       if (part == "norvex") QVERIFY(!names.contains("libQt6"));
-      if (part.startsWith("norvex-worker") || part.startsWith("norvex-engine"))
+      if (part.startsWith("norvex-worker") || part.startsWith("norvex-engine") || part.startsWith("norvex-picture"))
         QVERIFY2(!names.contains("libQt6Gui.so"), qPrintable(part));
       if (part != "norvex-application.so") QVERIFY2(!names.contains("libQt6Widgets.so"), qPrintable(part));
     }
@@ -108,6 +112,32 @@ class PartsTest : public QObject {
     damaged.write("no module");
     damaged.close();
     QCOMPARE(kit::run(path("norvex"), {"convert", file, "-o", out}, {}, 30).err, told);
+  }
+
+  void theOnlyPictureNeedsNoProgramThatForks() {
+    copyPartsBut("norvex-worker");
+    for (const char* name : {"lighthouse.svg", "lighthouse.pdf"})
+      for (const char* format : {"png", "pdf", "eps"}) {
+        const QString out = path(QStringLiteral("%1.%2").arg(name, format));
+        const Ran ran = kit::run(path("norvex"), {"convert", sample(name), "-o", out, "--quiet"}, {}, 30);
+        QCOMPARE(ran.err, QByteArray());
+        QVERIFY(QFile::exists(out));
+      }
+  }
+
+  void withoutAProgramForItTheOnlyPictureIsForked_data() {
+    QTest::addColumn<bool>("damaged");
+    QTest::newRow("missing") << false;
+    QTest::newRow("damaged") << true;
+  }
+  void withoutAProgramForItTheOnlyPictureIsForked() {
+    QFETCH(bool, damaged);
+    copyPartsBut("norvex-picture-svg");
+    if (damaged) QVERIFY(QFile::copy("/bin/false", path("norvex-picture-svg")));
+    const Ran ran =
+        kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {}, 30);
+    QCOMPARE(ran.err, QByteArray());
+    QCOMPARE(ran.exitCode, 0);
   }
 
   void missingCommandsAreToldInOneSentence() {

@@ -33,12 +33,11 @@ class EngineModulesTest : public QObject {
 
   void everyModuleOffersWhatTheTableSays_data() {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(engineModules.size()); ++row)
-      QTest::newRow(engineModules[size_t(row)].file) << row;
+    for (int row = 0; row < int(engineParts.size()); ++row) QTest::newRow(engineParts[size_t(row)].name) << row;
   }
   void everyModuleOffersWhatTheTableSays() {
     QFETCH(int, row);
-    const EngineModule& module = engineModules[size_t(row)];
+    const EnginePart& module = engineParts[size_t(row)];
     EngineModules modules(kBuilt.toStdString());
     const auto engines = modules.engines(module.offers);
     QVERIFY2(engines.ok(), engines.ok() ? "" : qPrintable(engines.error().message));

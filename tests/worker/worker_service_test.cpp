@@ -421,6 +421,16 @@ class WorkerServiceTest : public QObject {
     QVERIFY(picture->render({0, {}, {1, 1}, RenderPurpose::View}).ok());
   }
 
+  void aRetiredProcessGoesAndComesAgainWhenItIsAsked() {
+    const auto picture = service_->open("ok", PictureKind::Svg);
+    QVERIFY(picture->facts().ok());
+    picture->retire();
+    QTRY_COMPARE(childrenOf(service_->programProcessId()), QList<qint64>());
+    QVERIFY(picture->facts().ok());  // they are known
+    QCOMPARE(childrenOf(service_->programProcessId()), QList<qint64>());
+    QVERIFY(picture->render({0, {}, {1, 1}, RenderPurpose::View}).ok());
+  }
+
   void openingIsCheap() {
     QVERIFY(service_->open("ok", PictureKind::Pdf)->facts().ok());
     QElapsedTimer timer;

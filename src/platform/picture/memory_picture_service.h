@@ -7,6 +7,7 @@
 #include <QList>
 #include <QRectF>
 
+#include <atomic>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -76,6 +77,8 @@ class MemoryPictureProcess final : public PictureProcess {
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
                                         const CancelToken& cancel = {}) override;
+  void retire() override { ++retirements_; }
+  [[nodiscard]] int retirements() const { return retirements_; }
   [[nodiscard]] QStringList drawingRemarks() const override;
 
  private:
@@ -97,6 +100,7 @@ class MemoryPictureProcess final : public PictureProcess {
   std::condition_variable changed_;
   CallState states_[6];
   int cancelled_ = 0;
+  std::atomic<int> retirements_ = 0;
   QList<RenderRequest> renders_;
   QList<ComposeRequest> composes_;
 };

@@ -12,13 +12,14 @@
 #include <cstdlib>
 #include <filesystem>
 #include <utility>
+#include <vector>
 
 extern char** environ;
 
 namespace norvex {
 namespace {
 
-constexpr int kControl = 3;  ///< where the program expects its connection
+constexpr int kConnection = 3;  ///< where the programs expect it
 constexpr int kAboveStandard =
     10;  ///< our own number of it must not be one that the program's start overwrites
 
@@ -31,15 +32,20 @@ std::string makeScratchRoot() {
   return {};
 }
 
+enum class Messages { LikeOurs, Nowhere };
+
 /// Descriptors 0 and 1 are nothing, 3 is the connection, everything above is closed.
 class SpawnActions {
  public:
-  explicit SpawnActions(int control) {
+  SpawnActions(int connection, [[maybe_unused]] Messages messages) {
     ::posix_spawn_file_actions_init(&actions_);
     ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     ::posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    ::posix_spawn_file_actions_adddup2(&actions_, control, kControl);
-    ::posix_spawn_file_actions_addclosefrom_np(&actions_, kControl + 1);
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    if (messages == Messages::Nowhere) ::posix_spawn_file_actions_adddup2(&actions_, STDOUT_FILENO, STDERR_FILENO);
+#endif
+    ::posix_spawn_file_actions_adddup2(&actions_, connection, kConnection);
+    ::posix_spawn_file_actions_addclosefrom_np(&actions_, kConnection + 1);
     ::posix_spawnattr_init(&attributes_);
     sigset_t none, all;
     ::sigemptyset(&none);
@@ -59,10 +65,12 @@ class SpawnActions {
   SpawnActions& operator=(const SpawnActions&) = delete;
 
   /// The process number, or 0.
-  [[nodiscard]] pid_t spawn(std::string program, std::string scratchRoot, std::string expected) const {
-    char* arguments[] = {program.data(), scratchRoot.data(), expected.data(), nullptr};
+  [[nodiscard]] pid_t spawn(const std::string& program, std::vector<std::string> arguments) const {
+    std::vector<char*> pointers{const_cast<char*>(program.c_str())};
+    for (std::string& argument : arguments) pointers.push_back(argument.data());
+    pointers.push_back(nullptr);
     pid_t pid = 0;
-    return ::posix_spawn(&pid, program.c_str(), &actions_, &attributes_, arguments, environ) == 0 ? pid : 0;
+    return ::posix_spawn(&pid, program.c_str(), &actions_, &attributes_, pointers.data(), environ) == 0 ? pid : 0;
   }
 
  private:
@@ -70,26 +78,43 @@ class SpawnActions {
   posix_spawnattr_t attributes_ = {};
 };
 
+struct Spawned {
+  pid_t pid = 0;
+  FileDescriptor pidfd, connection;
+};
+
+/// Nothing at all when it fails.
+Spawned spawn(const std::string& program, std::vector<std::string> arguments, Messages messages) {
+  Spawned spawned;
+  int ends[2] = {-1, -1};
+  if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return {};
+  spawned.connection.reset(ends[0]);
+  const FileDescriptor given(ends[1]);
+  const FileDescriptor theirs(::fcntl(given.get(), F_DUPFD_CLOEXEC, kAboveStandard));
+  if (!theirs.valid()) return {};
+  spawned.pid = SpawnActions(theirs.get(), messages).spawn(program, std::move(arguments));
+  if (spawned.pid == 0) return {};
+  spawned.pidfd.reset(int(::syscall(SYS_pidfd_open, spawned.pid, 0)));
+  if (spawned.pidfd.valid()) return spawned;
+  ::kill(spawned.pid, SIGKILL);
+  while (::waitpid(spawned.pid, nullptr, 0) < 0 && errno == EINTR) continue;
+  return {};
+}
+
 }  // namespace
 
 SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected) {
-  SpawnedWorker worker;
-  int ends[2] = {-1, -1};
-  if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return worker;
-  worker.control.reset(ends[0]);
-  const FileDescriptor given(ends[1]);
-  const FileDescriptor theirs(::fcntl(given.get(), F_DUPFD_CLOEXEC, kAboveStandard));
-  worker.scratchRoot = makeScratchRoot();
-  if (theirs.valid() && !worker.scratchRoot.empty())
-    worker.pid = SpawnActions(theirs.get()).spawn(program, worker.scratchRoot, std::to_string(expected));
-  if (worker.pid != 0) worker.pidfd.reset(int(::syscall(SYS_pidfd_open, worker.pid, 0)));
-  if (worker.pidfd.valid()) return worker;
-  if (worker.pid != 0) {
-    ::kill(worker.pid, SIGKILL);
-    while (::waitpid(worker.pid, nullptr, 0) < 0 && errno == EINTR) continue;
-  }
-  removeFolder(worker.scratchRoot);
-  return {};
+  std::string scratchRoot = makeScratchRoot();
+  if (scratchRoot.empty()) return {};
+  Spawned spawned = spawn(program, {scratchRoot, std::to_string(expected)}, Messages::LikeOurs);
+  if (spawned.pid == 0) return removeFolder(scratchRoot), SpawnedWorker();
+  return {spawned.pid, std::move(spawned.pidfd), std::move(spawned.connection), std::move(scratchRoot)};
+}
+
+SpawnedPicture spawnPicture(const std::string& program, PictureNeeds needs) {
+  // What the linker may say about it is told in a sentence by the program that is then started instead.
+  Spawned spawned = spawn(program, {}, Messages::Nowhere);
+  return {spawned.pid, std::move(spawned.pidfd), std::move(spawned.connection), needs};
 }
 
 std::string partOfProgram(const std::string& name) {

@@ -1,4 +1,4 @@
-// SpawnedWorker: the warm picture program as the system knows it, started with nothing but the C library.
+// The programs that draw pictures as the system knows them, started with nothing but the C library.
 #pragma once
 
 #include <sys/types.h>
@@ -19,10 +19,22 @@ struct SpawnedWorker {
   std::string scratchRoot;  ///< a folder of its own, for us to remove after its end
 };
 
+/// A running norvex-picture-…. It ends when its line is closed; it is our child and must be waited for. pid 0:
+/// there is none.
+struct SpawnedPicture {
+  pid_t pid = 0;
+  FileDescriptor pidfd;
+  FileDescriptor line;     ///< to the process, which serves one document, with PictureLimits as they are by default
+  PictureNeeds needs = 0;  ///< what it can do
+};
+
 /// Starts `program` without waiting until it is ready. Free of Qt, because it runs before Qt is even loaded:
 /// linking the program and linking the application then go on side by side. pid 0 when it could not be
 /// started. `expected`: what its pictures will probably need, to be loaded at once; 0: nobody knows.
 [[nodiscard]] SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected = 0);
+
+/// Starts `program`, a norvex-picture-… that offers `needs`, likewise.
+[[nodiscard]] SpawnedPicture spawnPicture(const std::string& program, PictureNeeds needs);
 
 /// A part of the application: the file `name` beside the running program, or in ../libexec/norvex seen from
 /// there; the first one when neither exists. No environment variable can change it: whoever controls the

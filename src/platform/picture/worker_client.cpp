@@ -66,6 +66,12 @@ Result<T> WorkerClient::distrusted(Result<T> result) {
 
 Result<PictureFacts> WorkerClient::finishOpening(const CancelToken& cancel) {
   Result<WorkerAnswer> answer = connection_->wait(opening_, openDeadline_, cancel);
+  if (!answer && answer.error().kind == ErrorKind::Died && connection_->isUnproven()) {
+    // Another one will tell why, or do better.
+    connection_.reset();
+    if (auto begun = beginToOpen(); !begun) return begun.error();
+    answer = connection_->wait(opening_, openDeadline_, cancel);
+  }
   Result<PictureFacts> facts = answer ? distrusted(factsFrom(std::move(*answer))) : answer.error();
   opening_ = 0;
   if (!facts) connection_.reset();  // also after an obeyed cancel: the document is not open there
@@ -155,6 +161,12 @@ Result<PictureBytes> WorkerClient::setPdfAttributes(const QByteArray& pdf, const
                                                     const CancelToken& cancel) {
   const Result<FileDescriptor> memory = SealedMemory::seal(pdf);
   return memory ? askForBytes(attributes, cancel, *memory) : Result<PictureBytes>(memory.error());
+}
+
+void WorkerClient::retire() {
+  const auto turn = turns_.take({});
+  connection_.reset();
+  opening_ = 0;
 }
 
 qint64 WorkerClient::processId() {

@@ -28,6 +28,7 @@ class WorkerClient final : public PictureProcess {
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
                                         const CancelToken& cancel = {}) override;
+  void retire() override;
   [[nodiscard]] QStringList drawingRemarks() const override;
 
   /// Number of the process that serves the document now, 0: none. For tests.

@@ -46,6 +46,15 @@ Result<std::unique_ptr<WorkerConnection>> WorkerConnection::open(std::shared_ptr
       new WorkerConnection(std::move(starter), request, *ticket, std::move(pair->first)));
 }
 
+std::unique_ptr<WorkerConnection> WorkerConnection::to(SpawnedPicture picture) {
+  std::unique_ptr<WorkerConnection> connection(
+      new WorkerConnection({}, {PictureLimits(), false, picture.needs}, {}, std::move(picture.line)));
+  connection->ticket_.reset();
+  connection->process_ = {picture.pid, std::move(picture.pidfd)};
+  connection->isUnproven_ = true;
+  return connection;
+}
+
 WorkerConnection::WorkerConnection(std::shared_ptr<WorkerStarter> starter, const ForkRequest& request,
                                    WorkerStarter::Ticket ticket, FileDescriptor socket)
     : starter_(std::move(starter)), request_(request), ticket_(ticket), channel_(std::move(socket)) {}
@@ -108,6 +117,7 @@ Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline,
   while (true) {
     Result<ChannelMessage> message = channel_.receive(std::min({QDeadlineTimer(kSlice), deadline, obey}));
     if (message) {
+      isUnproven_ = false;
       Result<WorkerAnswer> answer = understand(id, std::move(*message));
       return obey.isForever() || !answer ? std::move(answer) : Result<WorkerAnswer>(cancelled());
     }

@@ -26,11 +26,16 @@ class WorkerConnection {
   /// Asks for a process and returns without waiting for it. Fails with Died.
   static Result<std::unique_ptr<WorkerConnection>> open(std::shared_ptr<WorkerStarter> starter,
                                                         const ForkRequest& request);
+  /// Uses a process that runs already; whoever started it waits for its end.
+  static std::unique_ptr<WorkerConnection> to(SpawnedPicture picture);
   ~WorkerConnection();
   WorkerConnection(const WorkerConnection&) = delete;
   WorkerConnection& operator=(const WorkerConnection&) = delete;
 
   [[nodiscard]] const ForkRequest& request() const { return request_; }
+  /// Whether the process was started before anybody had asked for it, and has not answered so far: if it ends, it may
+  /// not have come up at all.
+  [[nodiscard]] bool isUnproven() const { return isUnproven_; }
   /// Whether the process lives and nothing unexpected has come from it.
   [[nodiscard]] bool isUsable() const;
 
@@ -58,6 +63,7 @@ class WorkerConnection {
   ForkRequest request_;
   std::optional<WorkerStarter::Ticket> ticket_;  ///< until the process is known
   StartedProcess process_;
+  bool isUnproven_ = false;
   MessageChannel channel_;
   quint32 lastId_ = 0;
 };

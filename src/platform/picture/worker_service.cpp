@@ -1,5 +1,10 @@
 #include "platform/picture/worker_service.h"
 
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <csignal>
+
 #include "platform/picture/worker_answers.h"
 #include "platform/picture/worker_client.h"
 #include "platform/sealed_memory.h"
@@ -28,11 +33,19 @@ bool fits(const ForkRequest& prepared, const ForkRequest& wanted) {
 
 }  // namespace
 
-WorkerService::WorkerService(const QString& program, SpawnedWorker running)
+WorkerService::WorkerService(const QString& program, SpawnedWorker running, SpawnedPicture picture)
     : starter_(std::make_shared<WorkerStarter>(program.isEmpty() ? WorkerStarter::defaultProgram() : program,
-                                               std::move(running))) {}
+                                               std::move(running))) {
+  spawned_ = picture.pid;
+  if (spawned_ != 0) prepared_ = WorkerConnection::to(std::move(picture));
+}
 
-WorkerService::~WorkerService() = default;
+WorkerService::~WorkerService() {
+  if (spawned_ == 0) return;
+  // It has been told to go long ago; nobody may be there to bury it after us.
+  ::kill(spawned_, SIGKILL);
+  while (::waitpid(spawned_, nullptr, 0) < 0 && errno == EINTR) continue;
+}
 
 Result<void> WorkerService::start() {
   return starter_->start();

@@ -19,8 +19,9 @@ namespace norvex {
 class WorkerService final : public PictureService {
  public:
   /// `program`: another norvex-worker than the one beside the running program (tests). See WorkerStarter.
-  /// `running`: the warm program when it was started already.
-  explicit WorkerService(const QString& program = {}, SpawnedWorker running = {});
+  /// `running`: the warm program when it was started already. `picture`: a process for the first document that it
+  /// will do for, which ends with this service at the latest; the program is then started when it does not, or when there are more.
+  explicit WorkerService(const QString& program = {}, SpawnedWorker running = {}, SpawnedPicture picture = {});
   ~WorkerService() override;
 
   /// Starts the warm program, which links and initialises itself while the caller goes on. Needs no
@@ -54,6 +55,7 @@ class WorkerService final : public PictureService {
   std::atomic<PictureUse> use_ = PictureUse::Everything;
   std::mutex preparedMutex_;
   std::unique_ptr<WorkerConnection> prepared_;
+  pid_t spawned_ = 0;  ///< our own child among the picture processes, 0: there is none
   TurnTaking toolTurns_;
   /// Serves what belongs to no open document, one after the other; replaced after any failure. Used by the
   /// thread whose turn it is.

@@ -29,7 +29,7 @@ struct EngineBytes {
 /// What an engine is given besides the document.
 struct EngineContext {
   PictureLimits limits;
-  QString scratchFolder;  ///< exists, private to this process, removed with it
+  QString scratchFolder;  ///< exists, private to this process, removed with it; empty where no PostScript is expected
   CancelToken cancel;     ///< of the running request; engines with loops or children look at it
   std::shared_ptr<GhostscriptChild> warmGhostscript;  ///< waiting for its first document; see ghostscript.h
 };

@@ -1,0 +1,12 @@
+// norvex-picture-…: the process of the only picture of a run, with the engines of norvex-engine-… linked, which takes
+// less time than to load them and to fork. See worker/worker_program.h.
+#include "worker/engine_modules.h"
+#include "worker/worker_program.h"
+
+extern "C" norvex::EngineModuleEntry norvexEngines;
+
+int main() {
+  norvex::EngineSet engines;
+  norvexEngines(&engines);
+  return norvex::runPictureProgram(engines);
+}

@@ -75,9 +75,9 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   picture.fileURL = fileURL;
   picture.typeIdentifier = type.identifier();
   picture.page = options.page.value_or(1) - 1;
-  // While the picture process starts there is time for what is needed later.
+  // While the picture process starts there is time for what is needed later; ICU reads its tables at the first date.
   EncoderSurroundings surroundings = usualSurroundings(service);
-  if (isPostScript(options.format)) surroundings.fullNow = fullDate(surroundings.now, surroundings.locale);
+  if (isPostScript(options.format)) (void)fullDate(surroundings.now, surroundings.locale);
   const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits, cancel);
   if (!loaded) return failed(loaded.error());
   const auto& imageRep = loaded->imageRep;
@@ -86,7 +86,7 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
 
   surroundings.raster = {options.dpi, options.background};
   surroundings.region = region;
-  surroundings.once = true;
+  surroundings.isLastUse = true;
   // The only page is the whole file.
   surroundings.onePage = options.page.has_value() && pageCount(*imageRep) > 1;
   PictureEncoder encoder(imageRep, surroundings, cancel);

@@ -26,13 +26,12 @@ struct EncoderSurroundings {
   QString applicationName, applicationVersion;
   QDateTime now;
   QLocale locale;
-  QString fullNow;  ///< `now` as a full date of `locale`; empty: it is made when it is needed
   QByteArray iccProfile;            ///< of the output colour space; empty: none is configured
   NSWindowDepth defaultDepthLimit;  ///< of new windows
   RasterSettings raster;
   /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
   std::optional<PictureRegion> region;
-  bool once = false;     ///< no other format is asked for: the picture's process may go when nothing is left to ask
+  bool isLastUse = false;  ///< of the picture: its process may go when nothing is left to ask
   bool onePage = false;  ///< hand out the shown page of a PDF, not the whole file
 };
 

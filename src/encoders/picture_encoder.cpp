@@ -53,7 +53,7 @@ QByteArray PictureEncoder::take(Result<PictureBytes> result) {
 
 /// Nothing is left to ask of the picture.
 void PictureEncoder::retire() const {
-  if (surroundings_.once) imageRep_->process()->retire();
+  if (surroundings_.isLastUse) imageRep_->process()->retire();
 }
 
 /// The same may be told of the drawing and of the preview.
@@ -85,8 +85,7 @@ QByteArray PictureEncoder::addEPSHeader(const QByteArray& postScript) {
   const HeaderDictionary facts = own ? HeaderDictionary() : header();
   EpsHeaderDefaults defaults;
   defaults.creator = QStringLiteral("%1 by Tembrolix.").arg(QStringLiteral("MainWindowController"));
-  defaults.creationDate = surroundings_.fullNow.isEmpty() ? fullDate(surroundings_.now, surroundings_.locale)
-                                                          : surroundings_.fullNow;
+  defaults.creationDate = fullDate(surroundings_.now, surroundings_.locale);
   defaults.userFullName = surroundings_.userFullName;
   return rewriteEpsHeader(postScript, facts, defaults);
 }

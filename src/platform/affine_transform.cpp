@@ -13,7 +13,7 @@ bool AffineTransform::isFinite() const {
 
 AffineTransform AffineTransform::inverted() const {
   if (!isInvertible()) return {};
-  // Scales and quarter turns apart keep their factors exact.
+  // Where nothing is turned the factors stay exact.
   if (m12_ == 0 && m21_ == 0) return {1 / m11_, 0, 0, 1 / m22_, -dx_ / m11_, -dy_ / m22_};
   const double d = determinant();
   return {m22_ / d,  -m12_ / d, -m21_ / d, m11_ / d, (m21_ * dy_ - m22_ * dx_) / d, (m12_ * dx_ - m11_ * dy_) / d};

@@ -1,9 +1,10 @@
-// AffineTransform: what maps a picture onto pixels or points. Used where QTransform would be, were it not for Qt Gui,
-// which the picture process does not load: linking it takes longer than drawing a small picture.
+// AffineTransform: what maps a picture onto pixels or points, where QTransform would be used were it not part of Qt
+// Gui. The picture process does not load that: linking it takes longer than drawing a small picture.
 #pragma once
 
 #include <QPointF>
 #include <QRectF>
+#include <QtNumeric>
 
 #include <concepts>
 
@@ -37,7 +38,7 @@ class AffineTransform {
   [[nodiscard]] constexpr double determinant() const { return m11_ * m22_ - m12_ * m21_; }
   /// Whether every number is finite.
   [[nodiscard]] bool isFinite() const;
-  /// Whether it maps the plane onto the plane, not onto a line or a point.
+  /// Whether it maps the plane onto the plane, not onto a line or a point; exactly, however flat.
   [[nodiscard]] constexpr bool isInvertible() const { return determinant() != 0; }
   [[nodiscard]] constexpr bool isIdentity() const { return *this == AffineTransform(); }
   constexpr bool operator==(const AffineTransform&) const = default;

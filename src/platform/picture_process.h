@@ -42,8 +42,8 @@ class PictureProcess {
   virtual Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
                                                 const CancelToken& cancel = {}) = 0;
   /// Tells that nothing more will be asked, so that the process can go while its results are worked on. A call all the
-  /// same starts another.
-  virtual void retire() {}
+  /// same starts another. Waits for a call under way.
+  virtual void retire() = 0;
   /// What render() has found out so far about how the document is drawn, one plain sentence each: fonts that others
   /// stand in for.
   [[nodiscard]] virtual QStringList drawingRemarks() const { return {}; }

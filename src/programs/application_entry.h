@@ -1,4 +1,4 @@
-// The one function through which the program `norvex` enters its application, norvex-application.so.
+// The one function through which the program `norvex` enters norvex-application.so or norvex-commands.so.
 #pragma once
 
 #include "platform/picture/spawned_worker.h"

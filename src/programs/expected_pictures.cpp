@@ -55,13 +55,18 @@ bool readOption(int argc, const char* const* argv, int& i, std::initializer_list
 ExpectedPictures expectedConversions(int argc, const char* const* argv) {
   Text format, output, part, limit, other;
   std::vector<Text> files;
+  bool onlyFiles = false;
   for (int i = 2; i < argc; ++i) {
-    if (readOption(argc, argv, i, {"--format"}, format) || readOption(argc, argv, i, {"-o", "--output"}, output) ||
-        readOption(argc, argv, i, {"--crop", "--rotate"}, part) ||
-        readOption(argc, argv, i, {"--timeout", "--memory"}, limit) ||
-        readOption(argc, argv, i, {"--to", "--page", "--dpi", "--background", "--jobs"}, other))
-      continue;
-    if (argv[i][0] != '-') files.push_back(argv[i]);
+    const Text argument = argv[i];
+    if (onlyFiles || argument == "-" || !argument.starts_with('-'))
+      files.push_back(argument);
+    else if (argument == "--")
+      onlyFiles = true;
+    else if (!readOption(argc, argv, i, {"--format"}, format) &&
+             !readOption(argc, argv, i, {"-o", "--output"}, output) &&
+             !readOption(argc, argv, i, {"--crop", "--rotate"}, part) &&
+             !readOption(argc, argv, i, {"--timeout", "--memory"}, limit))
+      readOption(argc, argv, i, {"--to", "--page", "--dpi", "--background", "--jobs"}, other);
   }
   PictureUse use = useFor(format.empty() ? extensionOf(output) : format);
   if (use == PictureUse::WholePdf && !part.empty()) use = PictureUse::Everything;

@@ -1,7 +1,8 @@
-// norvex: starts the picture process, then becomes the application. It links nothing but the C++ library:
+// norvex: starts the picture process, then becomes the application. It links nothing but the C library:
 // loading the application takes as long as loading the picture process, and this way the two go on side by
 // side.
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -16,6 +17,13 @@
 namespace {
 
 constexpr char kCommands[] = "norvex-commands.so";
+
+/// Whoever starts us may have closed them. Nothing that we open shall get their numbers, and their use shall fail as
+/// that of closed ones does.
+void occupyStandardStreams() {
+  for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream)
+    if (::fcntl(stream, F_GETFD) < 0) (void)::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
 
 /// What is only asked about the program itself needs no picture process.
 bool mayNeedPictures(int argc, char** argv) {
@@ -42,7 +50,7 @@ norvex::StartedPrograms startPrograms(const norvex::ExpectedPictures& expected) 
   return started;
 }
 
-/// The end of a command. Its files are closed by now, and what libraries would still tidy up goes with their memory.
+/// The end of a command. Its files are closed by now; what libraries would still tidy up goes with their memory.
 int leave(int code) {
 #ifndef NORVEX_INSTRUMENTED  // leaks and coverage are told on the way out
   std::fflush(nullptr);
@@ -55,6 +63,7 @@ int leave(int code) {
 
 int main(int argc, char** argv) {
   using namespace norvex;
+  occupyStandardStreams();
   StartedPrograms started;
   if (mayNeedPictures(argc, argv)) started = startPrograms(expectedPictures(argc, argv));
   const char* part = partFor(argc, argv);
@@ -62,6 +71,8 @@ int main(int argc, char** argv) {
   void* entry = application == nullptr ? nullptr : ::dlsym(application, kApplicationEntry);
   if (entry == nullptr) {
     std::fprintf(stderr, "norvex: the application could not be loaded (%s)\n", ::dlerror());
+    started.worker.control.reset();  // it ends, and cleans up unless it is broken, too
+    removeFolder(started.worker.scratchRoot);
     return kNotLoaded;
   }
   const int code = reinterpret_cast<ApplicationEntry*>(entry)(argc, argv, &started);

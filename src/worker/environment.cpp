@@ -45,7 +45,7 @@ void closeStandardStreams() {
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
   ::dup2(null, STDERR_FILENO);
 #endif
-  ::close(null);
+  if (null > STDERR_FILENO) ::close(null);
 }
 
 }  // namespace norvex

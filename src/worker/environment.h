@@ -6,7 +6,8 @@
 namespace norvex {
 
 /// Removes every variable but the few that the libraries need and sets those that make results the same on
-/// every desktop. Called once, first thing in main(), by a process with one thread.
+/// every desktop. Called once, first thing in main(), by a process with one thread; only what is linked has seen the
+/// others by then.
 void clearEnvironment();
 
 /// The names that are kept when they are set.

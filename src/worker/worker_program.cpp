@@ -68,13 +68,14 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines) {
 int runPictureProgram(const EngineSet& engines) {
   if (!isSocket(kControlDescriptor)) return startedByHand("norvex-picture");
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  std::signal(SIGPIPE, SIG_IGN);
   ::fcntl(kControlDescriptor, F_SETFD, FD_CLOEXEC);
   clearEnvironment();
   closeStandardStreams();
   WorkerEngines all;
   all.source = [&engines](PictureNeeds) { return &engines; };
   documentChild(all)(FileDescriptor(kControlDescriptor), ForkRequest(), QString());
-  return 0;
+  return 0;  // the line was cut, at which it has ended before
 }
 
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp,

@@ -187,18 +187,18 @@ class PictureEncoderTest : public QObject {
   }
 
   void aPdfSourceIsHandedOnAsItIs() { QCOMPARE(encoderOf(pdf()).pdfData(), QByteArray("%PDF-source")); }
-  void theProcessMayGoWhenOnlyOneFormatIsAskedFor() {
-    for (const bool once : {false, true}) {
+  void theProcessMayGoAfterItsLastUse() {
+    for (const bool last : {false, true}) {
       EncoderSurroundings surroundings = usual();
-      surroundings.once = once;
+      surroundings.isLastUse = last;
       const auto rep = svg();
       const auto process = service_->memory.lastProcess();
       QVERIFY(!PictureEncoder(rep, surroundings).pngData(rep).isEmpty());
-      QCOMPARE(process->retirements(), once ? 1 : 0);
+      QCOMPARE(process->retirements(), last ? 1 : 0);
       QVERIFY(!PictureEncoder(rep, surroundings).pdfData().isEmpty());
-      QCOMPARE(process->retirements(), once ? 2 : 0);
+      QCOMPARE(process->retirements(), last ? 2 : 0);
       QVERIFY(!PictureEncoder(rep, surroundings).epsiData().isEmpty());  // it asks for two things
-      QCOMPARE(process->retirements(), once ? 2 : 0);
+      QCOMPARE(process->retirements(), last ? 2 : 0);
     }
   }
 

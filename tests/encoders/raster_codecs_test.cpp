@@ -2,6 +2,7 @@
 
 #include <QColorSpace>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include "kit/test_main.h"
@@ -104,6 +105,32 @@ class RasterCodecsTest : public QObject {
     QCOMPARE(back.pixelColor(1, 1).alpha(), 128);
     QVERIFY(std::abs(back.pixelColor(1, 1).green() - 200) <= 1);
     QCOMPARE(back.pixelColor(2, 0).alpha(), 0);
+  }
+  void pngKeepsRowsOfEverySort_data() {
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("alpha");
+    for (const QSize size : {QSize(1, 1), QSize(1, 9), QSize(9, 1), QSize(40, 64)})
+      for (const bool alpha : {false, true})
+        QTest::addRow("%d x %d, alpha %d", size.width(), size.height(), alpha) << size << alpha;
+  }
+  void pngKeepsRowsOfEverySort() {
+    QFETCH(QSize, size);
+    QFETCH(bool, alpha);
+    QRandomGenerator random(5);
+    for (int round = 0; round < 20; ++round) {
+      QImage image(size, alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+      for (int y = 0; y < size.height(); ++y) {
+        const quint32 sort = random.bounded(4);  // clear or black, like the row above, one colour, any
+        const QRgb colour = random.generate() | 0xff000000;
+        for (int x = 0; x < size.width(); ++x)
+          image.setPixel(x, y, sort == 0             ? (alpha ? 0 : 0xff000000)
+                               : sort == 1 && y != 0 ? image.pixel(x, y - 1)
+                               : sort == 2           ? colour
+                                                     : random.generate() | 0xff000000);
+      }
+      const QImage back = QImage::fromData(encodePng(NSBitmapImageRep::fromImage(image), {}));
+      QCOMPARE(back.convertToFormat(image.format()), image);
+    }
   }
   void opaquePngHasNoAlpha() { QVERIFY(!QImage::fromData(encodePng(sample(false), {})).hasAlphaChannel()); }
   void jpegHasFullColourResolutionAndWhitePaper() {

@@ -54,6 +54,9 @@ class ExpectedPicturesTest : public QObject {
     QTest::newRow("standard input") << QStringList{"convert", "-", "-o", "a.svg"} << false;
     QTest::newRow("other limits") << QStringList{"convert", "--memory", "99", "a.svg", "-o", "a.png"} << false;
     QTest::newRow("other time") << QStringList{"convert", "--timeout=9", "a.svg", "-o", "a.png"} << false;
+    QTest::newRow("standard input and a file") << QStringList{"convert", "-", "a.svg", "--to", "b"} << false;
+    QTest::newRow("names like options") << QStringList{"convert", "a.svg", "--to", "b", "--", "-c.svg"} << false;
+    QTest::newRow("a name like an option") << QStringList{"convert", "--to", "b", "--", "--dpi.svg"} << true;
     QTest::newRow("no file") << QStringList{"convert", "-o", "a.svg"} << false;
     QTest::newRow("window") << QStringList{"a.svg"} << false;
     QTest::newRow("info") << QStringList{"info", "a.svg"} << false;

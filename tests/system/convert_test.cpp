@@ -241,6 +241,29 @@ class ConvertSystemTest : public QObject {
     QCOMPARE(bytesOf(file), kToldEps);
   }
 
+  void closedStandardStreamsAreNoneOfOurs_data() {
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<int>("exitCode");
+    for (const char* name : {"lighthouse.svg", "lighthouse.pdf", "lighthouse.eps"})
+      for (const char* closed : {"<&-", ">&-", "2>&-", "<&- >&- 2>&-"})
+        QTest::addRow("%s %s", name, closed)
+            << QStringLiteral("convert '%1' -o a.png %2").arg(sample(name), closed) << 0;
+    QTest::newRow("no input") << "convert - -o a.png <&-" << 3;
+    QTest::newRow("no output") << QStringLiteral("convert '%1' -o - --format png >&-").arg(sample("lighthouse.svg")) << 4;
+    QTest::newRow("no output for facts") << QStringLiteral("info '%1' >&-").arg(sample("lighthouse.svg")) << 4;
+    QTest::newRow("no output for text") << QStringLiteral("source '%1' >&-").arg(sample("lighthouse.svg")) << 4;
+  }
+  void closedStandardStreamsAreNoneOfOurs() {
+    QFETCH(QString, command);
+    QFETCH(int, exitCode);
+    const QString line = QStringLiteral("cd '%1' && exec '%2' %3").arg(folder_->path(), norvexProgram(), command);
+    const Ran ran = kit::run("sh", {"-c", line}, {}, 30);
+    QCOMPARE(ran.exitCode, exitCode);
+    const bool made = exitCode == 0;
+    QCOMPARE(QDir(folder_->path()).entryList(QDir::Files | QDir::Hidden), made ? QStringList{"a.png"} : QStringList{});
+    if (made) QCOMPARE(outside::complaintAbout(path("a.png"), "png"), QString());
+  }
+
   void aSuddenDeathLeavesTheOldFile() {
     // Killed at many moments of its life; what is under the name is always whole.
     const QString file = write("a.png", "old");

@@ -140,6 +140,32 @@ class PartsTest : public QObject {
     QCOMPARE(ran.exitCode, 0);
   }
 
+  void aPictureThatKillsItsProcessIsOpenedOnce() {
+    copyPartsBut("norvex-picture-svg");
+    QFile program(path("norvex-picture-svg"));
+    QVERIFY(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\nhead -c 4 <&3 >/dev/null\nkill -SEGV $$\n");
+    program.close();
+    QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    const Ran ran = kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png")}, {}, 30);
+    QVERIFY2(ran.err.contains("ended without an answer"), ran.err);
+    QCOMPARE(ran.exitCode, 3);
+    QVERIFY(!QFile::exists(path("a.png")));
+  }
+
+  void aPictureProgramThatEndsByItselfIsReplaced() {
+    copyPartsBut("norvex-picture-svg");
+    QFile program(path("norvex-picture-svg"));
+    QVERIFY(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\nhead -c 4 <&3 >/dev/null\nexit 127\n");
+    program.close();
+    QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    const Ran ran =
+        kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {}, 30);
+    QCOMPARE(ran.err, QByteArray());
+    QCOMPARE(ran.exitCode, 0);
+  }
+
   void missingCommandsAreToldInOneSentence() {
     copyPartsBut("norvex-commands.so");
     const Ran ran =
@@ -160,6 +186,13 @@ class PartsTest : public QObject {
         QVERIFY2(ran.exitCode == 0, ran.err);
         QVERIFY(QFile::exists(out));
       }
+    // Single pictures take a program of their own, which must be there as well.
+    QVERIFY(QFile::remove(path("tree/libexec/norvex/norvex-worker")));
+    for (const char* format : {"png", "pdf", "eps"}) {
+      const Ran ran = kit::run(program, {"convert", sample("lighthouse.svg"), "-o", path("b." + QString(format))});
+      QCOMPARE(ran.exitCode, 0);
+    }
+    QVERIFY(QFile::copy(NORVEX_BUILD_DIR "/norvex-worker", path("tree/libexec/norvex/norvex-worker")));
     const Ran printed = kit::run(program, {"print", sample("lighthouse.svg"), "-o", path("sheet.pdf")});
     QVERIFY2(printed.exitCode == 0, printed.err);
   }

@@ -16,6 +16,7 @@ class NullPictureProcess final : public PictureProcess {
   Result<PictureBytes> setPdfAttributes(const QByteArray&, const AttributesRequest&, const CancelToken&) override {
     return error_;
   }
+  void retire() override {}
 
  private:
   const Error error_;

@@ -129,7 +129,8 @@ std::string partOfProgram(const std::string& name) {
 
 void removeFolder(const std::string& folder) {
   std::error_code ignored;
-  if (!folder.empty()) std::filesystem::remove_all(folder, ignored);
+  if (folder.empty() || ::rmdir(folder.c_str()) == 0) return;  // most are empty, and this takes no descriptor
+  std::filesystem::remove_all(folder, ignored);
 }
 
 }  // namespace norvex

@@ -66,10 +66,12 @@ Result<T> WorkerClient::distrusted(Result<T> result) {
 
 Result<PictureFacts> WorkerClient::finishOpening(const CancelToken& cancel) {
   Result<WorkerAnswer> answer = connection_->wait(opening_, openDeadline_, cancel);
-  if (!answer && answer.error().kind == ErrorKind::Died && connection_->isUnproven()) {
+  if (!answer && connection_->hasNotComeUp()) {
     // Another one will tell why, or do better.
+    const QDeadlineTimer first = openDeadline_;
     connection_.reset();
     if (auto begun = beginToOpen(); !begun) return begun.error();
+    openDeadline_ = first;
     answer = connection_->wait(opening_, openDeadline_, cancel);
   }
   Result<PictureFacts> facts = answer ? distrusted(factsFrom(std::move(*answer))) : answer.error();

@@ -2,6 +2,7 @@
 
 #include <poll.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -23,6 +24,14 @@ Error timedOut() {
 }
 Error cannotBeTrue() {
   return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
+}
+
+/// Of a child that has cut the line: whether it was not a signal that ended it, such as a document can provoke.
+bool exitsByItself(const FileDescriptor& pidfd) {
+  pollfd poll = {pidfd.get(), POLLIN, 0};
+  siginfo_t info = {};
+  return ::poll(&poll, 1, int(kFarewell)) > 0 &&
+         ::waitid(P_PIDFD, id_t(pidfd.get()), &info, WEXITED | WNOWAIT | WNOHANG) == 0 && info.si_code == CLD_EXITED;
 }
 
 }  // namespace
@@ -51,7 +60,7 @@ std::unique_ptr<WorkerConnection> WorkerConnection::to(SpawnedPicture picture) {
       new WorkerConnection({}, {PictureLimits(), false, picture.needs}, {}, std::move(picture.line)));
   connection->ticket_.reset();
   connection->process_ = {picture.pid, std::move(picture.pidfd)};
-  connection->isUnproven_ = true;
+  connection->isOwnChild_ = true;
   return connection;
 }
 
@@ -96,6 +105,7 @@ bool WorkerConnection::isUsable() const {
 }
 
 Error WorkerConnection::failed(Error error) {
+  if (error.kind == ErrorKind::Died && isOwnChild_ && !hasAnswered_) hasNotComeUp_ = exitsByItself(process_.pidfd);
   end();
   return error;
 }
@@ -117,7 +127,7 @@ Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline,
   while (true) {
     Result<ChannelMessage> message = channel_.receive(std::min({QDeadlineTimer(kSlice), deadline, obey}));
     if (message) {
-      isUnproven_ = false;
+      hasAnswered_ = true;
       Result<WorkerAnswer> answer = understand(id, std::move(*message));
       return obey.isForever() || !answer ? std::move(answer) : Result<WorkerAnswer>(cancelled());
     }

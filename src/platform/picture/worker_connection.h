@@ -33,9 +33,10 @@ class WorkerConnection {
   WorkerConnection& operator=(const WorkerConnection&) = delete;
 
   [[nodiscard]] const ForkRequest& request() const { return request_; }
-  /// Whether the process was started before anybody had asked for it, and has not answered so far: if it ends, it may
-  /// not have come up at all.
-  [[nodiscard]] bool isUnproven() const { return isUnproven_; }
+  /// Whether the process is our own child, started before anybody had asked for it.
+  [[nodiscard]] bool isOwnChild() const { return isOwnChild_; }
+  /// Whether such a process has ended by itself and without an answer: it could not be loaded, most likely.
+  [[nodiscard]] bool hasNotComeUp() const { return hasNotComeUp_; }
   /// Whether the process lives and nothing unexpected has come from it.
   [[nodiscard]] bool isUsable() const;
 
@@ -63,7 +64,9 @@ class WorkerConnection {
   ForkRequest request_;
   std::optional<WorkerStarter::Ticket> ticket_;  ///< until the process is known
   StartedProcess process_;
-  bool isUnproven_ = false;
+  bool isOwnChild_ = false;
+  bool hasAnswered_ = false;
+  bool hasNotComeUp_ = false;
   MessageChannel channel_;
   quint32 lastId_ = 0;
 };

@@ -1,6 +1,9 @@
 #include "platform/picture/worker_service.h"
 
+#include <fcntl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
@@ -36,15 +39,16 @@ bool fits(const ForkRequest& prepared, const ForkRequest& wanted) {
 WorkerService::WorkerService(const QString& program, SpawnedWorker running, SpawnedPicture picture)
     : starter_(std::make_shared<WorkerStarter>(program.isEmpty() ? WorkerStarter::defaultProgram() : program,
                                                std::move(running))) {
-  spawned_ = picture.pid;
-  if (spawned_ != 0) prepared_ = WorkerConnection::to(std::move(picture));
+  if (picture.pid == 0) return;
+  spawned_.reset(::fcntl(picture.pidfd.get(), F_DUPFD_CLOEXEC, 0));
+  prepared_ = WorkerConnection::to(std::move(picture));
 }
 
 WorkerService::~WorkerService() {
-  if (spawned_ == 0) return;
+  if (!spawned_.valid()) return;
   // It has been told to go long ago; nobody may be there to bury it after us.
-  ::kill(spawned_, SIGKILL);
-  while (::waitpid(spawned_, nullptr, 0) < 0 && errno == EINTR) continue;
+  ::syscall(SYS_pidfd_send_signal, spawned_.get(), SIGKILL, nullptr, 0);
+  while (::waitid(P_PIDFD, id_t(spawned_.get()), nullptr, WEXITED) < 0 && errno == EINTR) continue;
 }
 
 Result<void> WorkerService::start() {
@@ -72,6 +76,8 @@ std::shared_ptr<PictureProcess> WorkerService::open(const QByteArray& bytes, Pic
   {
     const std::lock_guard lock(preparedMutex_);
     if (prepared_ && fits(prepared_->request(), process)) connection = std::move(prepared_);
+    // It was made for the first document and will not do for another either.
+    if (prepared_ && prepared_->isOwnChild()) prepared_.reset();
   }
   return std::make_shared<WorkerClient>(starter_, bytes, kind, process, std::move(connection));
 }

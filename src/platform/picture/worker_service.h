@@ -1,4 +1,4 @@
-// WorkerService: the PictureService whose documents live in processes of norvex-worker.
+// WorkerService: the PictureService whose documents live in processes of norvex-worker (or in a norvex-picture-…).
 //
 //   WorkerService service({}, std::move(running));              // what main() started before anything else
 //   auto process = service.open(bytes, PictureKind::Svg);       // returns at once
@@ -6,6 +6,7 @@
 #pragma once
 
 #include <atomic>
+#include <memory>
 #include <mutex>
 
 #include "platform/picture/turn_taking.h"
@@ -14,13 +15,14 @@
 
 namespace norvex {
 
-/// See PictureService. Processes that were opened may outlive the service; the warm program ends with the
-/// last of them.
+/// See PictureService. Processes that were opened may outlive the service, but for the one it was given; the warm
+/// program ends with the last of them.
 class WorkerService final : public PictureService {
  public:
   /// `program`: another norvex-worker than the one beside the running program (tests). See WorkerStarter.
-  /// `running`: the warm program when it was started already. `picture`: a process for the first document that it
-  /// will do for, which ends with this service at the latest; the program is then started when it does not, or when there are more.
+  /// `running`: the warm program when it was started already. `picture`: a process for the first document, if it
+  /// will do for that; it ends with this service at the latest. The program is then started when it does not do, or
+  /// when there are more documents.
   explicit WorkerService(const QString& program = {}, SpawnedWorker running = {}, SpawnedPicture picture = {});
   ~WorkerService() override;
 
@@ -55,7 +57,7 @@ class WorkerService final : public PictureService {
   std::atomic<PictureUse> use_ = PictureUse::Everything;
   std::mutex preparedMutex_;
   std::unique_ptr<WorkerConnection> prepared_;
-  pid_t spawned_ = 0;  ///< our own child among the picture processes, 0: there is none
+  FileDescriptor spawned_;  ///< pidfd of our own child among the picture processes, or none
   TurnTaking toolTurns_;
   /// Serves what belongs to no open document, one after the other; replaced after any failure. Used by the
   /// thread whose turn it is.

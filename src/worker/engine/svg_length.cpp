@@ -1,7 +1,7 @@
 #include "worker/engine/svg_length.h"
 
 #include <QList>
-#include <QRegularExpression>
+#include <QStringView>
 
 #include <algorithm>
 #include <cmath>
@@ -9,7 +9,52 @@
 namespace norvex::engine {
 namespace {
 
-const QString kNumber = QStringLiteral("[+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?");
+// Most pictures hold two lengths and a view box: to compile regular expressions for them takes longer than to open
+// a small picture.
+
+bool isSpace(QChar c) { return c == u' ' || (c >= u'\t' && c <= u'\r'); }
+
+bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+
+QStringView trimmed(QStringView text) {
+  while (!text.isEmpty() && isSpace(text.front())) text = text.mid(1);
+  while (!text.isEmpty() && isSpace(text.back())) text.chop(1);
+  return text;
+}
+
+/// The number that `text` begins with; it is taken away.
+std::optional<double> takeNumber(QStringView& text) {
+  qsizetype end = 0;
+  const auto isAt = [&](QStringView any) { return end < text.size() && any.contains(text[end]); };
+  const auto passDigits = [&] {
+    const qsizetype start = end;
+    while (end < text.size() && isDigit(text[end])) ++end;
+    return end > start;
+  };
+  if (isAt(u"+-")) ++end;
+  const bool whole = passDigits();
+  if (isAt(u".")) {
+    ++end;
+    if (!passDigits() && !whole) return std::nullopt;
+  } else if (!whole) {
+    return std::nullopt;
+  }
+  if (const qsizetype mantissa = end; isAt(u"eE")) {
+    ++end;
+    if (isAt(u"+-")) ++end;
+    if (!passDigits()) end = mantissa;  // what follows is a unit
+  }
+  const double number = text.left(end).toDouble();
+  text = text.mid(end);
+  return number;
+}
+
+/// Takes away what stands between two numbers; false: nothing does.
+bool takeSeparator(QStringView& text) {
+  const qsizetype before = text.size();
+  while (!text.isEmpty() && (isSpace(text.front()) || text.front() == u',')) text = text.mid(1);
+  return text.size() < before;
+}
 
 std::optional<double> pixelsPerUnit(const QString& unit, double fontSize) {
   static const QHash<QString, double> absolute{
@@ -40,28 +85,26 @@ QString declared(const QString& style, const QString& property) {
 }  // namespace
 
 std::optional<SvgLength> parseSvgLength(const QString& text, double fontSize) {
-  static const QRegularExpression form("^\\s*(" + kNumber + ")(%|[a-zA-Z]*)\\s*$");
-  const QRegularExpressionMatch match = form.match(text);
-  if (!match.hasMatch()) return std::nullopt;
-  const double number = match.captured(1).toDouble();
-  if (!std::isfinite(number)) return std::nullopt;
-  const QString unit = match.captured(2).toLower();
-  if (unit == QLatin1String("%")) return SvgLength{0, number, true};
+  QStringView rest = trimmed(text);
+  const std::optional<double> number = takeNumber(rest);
+  if (!number || !std::isfinite(*number)) return std::nullopt;
+  const QString unit = rest.toString().toLower();
+  if (unit == QLatin1String("%")) return SvgLength{0, *number, true};
   const std::optional<double> factor = pixelsPerUnit(unit, fontSize);
-  if (!factor || !std::isfinite(number * *factor)) return std::nullopt;
-  return SvgLength{number * *factor, 0, false};
+  if (!factor || !std::isfinite(*number * *factor)) return std::nullopt;
+  return SvgLength{*number * *factor, 0, false};
 }
 
 std::optional<QRectF> parseViewBox(const QString& text) {
-  static const QRegularExpression form("^\\s*(" + kNumber + ")[\\s,]+(" + kNumber + ")[\\s,]+(" + kNumber + ")[\\s,]+(" +
-                                       kNumber + ")\\s*$");
-  const QRegularExpressionMatch match = form.match(text);
-  if (!match.hasMatch()) return std::nullopt;
+  QStringView rest = trimmed(text);
   double values[4];
   for (int i = 0; i < 4; ++i) {
-    values[i] = match.captured(i + 1).toDouble();
-    if (!std::isfinite(values[i])) return std::nullopt;
+    if (i > 0 && !takeSeparator(rest)) return std::nullopt;
+    const std::optional<double> number = takeNumber(rest);
+    if (!number || !std::isfinite(*number)) return std::nullopt;
+    values[i] = *number;
   }
+  if (!rest.isEmpty()) return std::nullopt;
   if (values[2] < 0 || values[3] < 0) return std::nullopt;
   return QRectF(values[0], values[1], values[2], values[3]);
 }

@@ -1,6 +1,9 @@
 // Lengths, view boxes and the size of a picture.
 #include "worker/engine/svg_length.h"
 
+#include <QRandomGenerator>
+#include <QRegularExpression>
+
 #include "kit/test_main.h"
 
 using namespace norvex::engine;
@@ -26,6 +29,9 @@ class SvgLengthTest : public QObject {
     QTest::newRow("no digit before the point") << ".5in" << 48.0;
     QTest::newRow("negative") << "-10" << -10.0;
     QTest::newRow("exponent or em") << "1em" << 12.0;
+    QTest::newRow("exponent and em") << "1e1em" << 120.0;
+    QTest::newRow("plus") << "+10" << 10.0;
+    QTest::newRow("point at the end") << "10.px" << 10.0;
   }
   void unitsAreThoseOfCss() {
     QFETCH(QString, text);
@@ -46,7 +52,7 @@ class SvgLengthTest : public QObject {
 
   void whatIsNoLengthIsNothing_data() {
     QTest::addColumn<QString>("text");
-    for (const char* text : {"", "px", "10 px", "10furlong", "1e999", "nan", "inf", "10;", "--1", "1.2.3"})
+    for (const char* text : {"", "px", "10 px", "10furlong", "1e999", "nan", "inf", "10;", "--1", "1.2.3", ".", "+", "+.", "e5", "1e+", "1%%"})
       QTest::newRow(text) << QString::fromLatin1(text);
   }
   void whatIsNoLengthIsNothing() {
@@ -60,6 +66,34 @@ class SvgLengthTest : public QObject {
     QCOMPARE(*parseViewBox("0 0 0 50"), QRectF(0, 0, 0, 50));
     for (const char* text : {"", "0 0 100", "0 0 100 50 1", "0 0 -1 50", "0 0 100 x", "0 0 1e999 1"})
       QVERIFY2(!parseViewBox(text), text);
+  }
+
+  /// Whatever the text: what the grammar says in one line is taken, and nothing else.
+  void numbersAreThoseOfTheGrammar() {
+    const QString number = "[+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?";
+    const QRegularExpression length("^\\s*(" + number + ")(px|em|%|)\\s*$");
+    const QRegularExpression box("^\\s*" + number + "(?:[\\s,]+" + number + "){3}\\s*$");
+    const QRegularExpression outOfRange("[eE][+-]?[0-9]{3}");
+    const QStringList pieces{"0", "7", "12", ".", "+", "-", "e", "E", "px", "em", "%", " ", ",", "\n", QChar(0xa0)};
+    QRandomGenerator random(3);
+    int lengths = 0, boxes = 0;
+    for (int round = 0; round < 200'000; ++round) {
+      QString text;
+      for (quint32 left = random.bounded(1u, 14u); left > 0; --left) text += pieces[random.bounded(int(pieces.size()))];
+      if (text.contains(outOfRange)) continue;
+      const bool isLength = length.match(text).hasMatch();
+      QVERIFY2(parseSvgLength(text).has_value() == isLength, qPrintable(text));
+      lengths += isLength;
+      text = random.bounded(2) ? "1" + text + " 2,3" : "0 0" + text + "4 5";
+      const auto parsed = parseViewBox(text);
+      const bool isBox = box.match(text).hasMatch();
+      if (parsed) QVERIFY2(isBox, qPrintable(text));
+      if (isBox && !text.contains('-') && !text.contains('e', Qt::CaseInsensitive))
+        QVERIFY2(parsed, qPrintable(text));
+      boxes += parsed.has_value();
+    }
+    QVERIFY(lengths > 500);
+    QVERIFY(boxes > 500);
   }
 
   void theSizeOfThePicture_data() {

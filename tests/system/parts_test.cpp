@@ -140,28 +140,16 @@ class PartsTest : public QObject {
     QCOMPARE(ran.exitCode, 0);
   }
 
-  void aPictureThatKillsItsProcessIsOpenedOnce() {
-    copyPartsBut("norvex-picture-svg");
-    QFile program(path("norvex-picture-svg"));
-    QVERIFY(program.open(QIODevice::WriteOnly));
-    program.write("#!/bin/sh\nhead -c 4 <&3 >/dev/null\nkill -SEGV $$\n");
-    program.close();
-    QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    const Ran ran = kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png")}, {}, 30);
+  /// Such as a document provokes.
+  void aPictureProcessThatIsKilledIsNotTriedAgain() {
+    const Ran ran = convertWithPictureProgram("head -c 4 <&3 >/dev/null; kill -SEGV $$");
     QVERIFY2(ran.err.contains("ended without an answer"), ran.err);
     QCOMPARE(ran.exitCode, 3);
     QVERIFY(!QFile::exists(path("a.png")));
   }
 
-  void aPictureProgramThatEndsByItselfIsReplaced() {
-    copyPartsBut("norvex-picture-svg");
-    QFile program(path("norvex-picture-svg"));
-    QVERIFY(program.open(QIODevice::WriteOnly));
-    program.write("#!/bin/sh\nhead -c 4 <&3 >/dev/null\nexit 127\n");
-    program.close();
-    QVERIFY(program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    const Ran ran =
-        kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {}, 30);
+  void aPictureProcessThatEndsByItselfIsReplaced() {
+    const Ran ran = convertWithPictureProgram("head -c 4 <&3 >/dev/null; exit 127");
     QCOMPARE(ran.err, QByteArray());
     QCOMPARE(ran.exitCode, 0);
   }
@@ -202,6 +190,16 @@ class PartsTest : public QObject {
   static QByteArray bytesOf(const QString& file) {
     QFile opened(file);
     return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
+  }
+  /// Converts an SVG to a.png with a shell script in place of the program for single pictures.
+  Ran convertWithPictureProgram(const QByteArray& script) {
+    copyPartsBut("norvex-picture-svg");
+    QFile program(path("norvex-picture-svg"));
+    if (!program.open(QIODevice::WriteOnly) || program.write("#!/bin/sh\n" + script + '\n') < 0)
+      qFatal("cannot write a script");
+    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    program.close();
+    return kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {}, 30);
   }
   void copyPartsBut(const QString& missing) const {
     const QDir built = QFileInfo(norvexProgram()).dir();

@@ -15,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "worker/engine/postscript_path.h"
 #include "worker/engine/postscript_shading.h"
 #include "worker/engine/shown_glyphs.h"
 
@@ -73,6 +74,21 @@ class PageDevice : public PSOutputDev {
       : PSOutputDev(&Sink::write, &sink, nullptr, &document, {1}, psModePS, size.width(), size.height(),
                     false, true, 0, 0, 0, 0, rasterize, false, nullptr, nullptr, psLevel3),
         sink_(sink) {}
+
+  // Before the page there are glyphs that are pages of their own, whose output Poppler keeps back.
+  void startPage(int number, GfxState* state, XRef* references) override {
+    PSOutputDev::startPage(number, state, references);
+    onPage_ = true;
+  }
+
+  void stroke(GfxState* state) override { onPage_ ? paint(state, "S\n") : PSOutputDev::stroke(state); }
+  void fill(GfxState* state) override { onPage_ ? paint(state, "f\n") : PSOutputDev::fill(state); }
+  void eoFill(GfxState* state) override { onPage_ ? paint(state, "f*\n") : PSOutputDev::eoFill(state); }
+  void clip(GfxState* state) override { onPage_ ? paint(state, "W\n") : PSOutputDev::clip(state); }
+  void eoClip(GfxState* state) override { onPage_ ? paint(state, "W*\n") : PSOutputDev::eoClip(state); }
+  void clipToStrokePath(GfxState* state) override {
+    onPage_ ? paint(state, "Ws\n") : PSOutputDev::clipToStrokePath(state);
+  }
 
   // Where a pattern's colour is that of the moment, a gradient has none to bring.
   bool useShadedFills(int) override { return !uncoloured_; }
@@ -196,6 +212,13 @@ class PageDevice : public PSOutputDev {
   }
 
  private:
+  void paint(GfxState* state, const char* procedure) {
+    path_.resize(0);
+    appendPath(path_, *state->getPath());
+    path_ += procedure;
+    sink_.write(path_);
+  }
+
   // The colours of a mesh's corners. Indices become the colours that they stand for: between two of them lies
   // a mix of the two colours, not the colours of the indices between.
   struct MeshColours {
@@ -256,6 +279,8 @@ class PageDevice : public PSOutputDev {
     if (!entries.isEmpty()) sink_.write("<< /ColorSpace pdfFillCS " + entries + " >> NorvexShade\n");
   }
 
+  QByteArray path_;  ///< its memory is used again
+  bool onPage_ = false;
   Sink& sink_;
   bool uncoloured_ = false;
 };

@@ -6,7 +6,6 @@
 #include "cli/input_file.h"
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
-#include "metadata/full_date.h"
 #include "platform/picture/pdf_image_rep.h"
 #include "platform/picture/picture_loader.h"
 #include "platform/type_identification.h"
@@ -75,9 +74,8 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   picture.fileURL = fileURL;
   picture.typeIdentifier = type.identifier();
   picture.page = options.page.value_or(1) - 1;
-  // While the picture process starts there is time for what is needed later; ICU reads its tables at the first date.
+  // While the picture process starts there is time for what is needed later.
   EncoderSurroundings surroundings = usualSurroundings(service);
-  if (isPostScript(options.format)) (void)fullDate(surroundings.now, surroundings.locale);
   const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits, cancel);
   if (!loaded) return failed(loaded.error());
   const auto& imageRep = loaded->imageRep;

@@ -8,6 +8,7 @@
 #include "cli/input_file.h"
 #include "cli/interruption.h"
 #include "cli/job.h"
+#include "metadata/full_date.h"
 #include "platform/atomic_file.h"
 #include "platform/file_name.h"
 
@@ -90,6 +91,8 @@ ExitCode Job::convert(const Arguments& arguments) {
     return complain(Command::Convert, QStringLiteral("more than one file would become %1").arg(path));
   }
   service_.openOnlyFor(useFor(plan.options));
+  // ICU reads its tables at the first date of all: now the picture process starts, later somebody waits.
+  if (isPostScript(plan.options.format)) (void)fullDate(QDateTime::currentDateTime(), userDateLocale());
   const bool fromInput = arguments.files.contains(QStringLiteral("-"));
   const Result<QByteArray> input =
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());

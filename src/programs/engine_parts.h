@@ -19,5 +19,3 @@ inline Error notOfThisModule() {
 }
 
 }  // namespace norvex
-
-extern "C" __attribute__((visibility("default"))) norvex::EngineModuleEntry norvexEngines;

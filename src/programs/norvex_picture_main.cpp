@@ -3,8 +3,6 @@
 #include "worker/engine_modules.h"
 #include "worker/worker_program.h"
 
-extern "C" norvex::EngineModuleEntry norvexEngines;
-
 int main() {
   norvex::EngineSet engines;
   norvexEngines(&engines);

@@ -37,3 +37,6 @@ class EngineModules {
 };
 
 }  // namespace norvex
+
+/// The entry for whoever defines it, or links a module.
+extern "C" __attribute__((visibility("default"))) norvex::EngineModuleEntry norvexEngines;

@@ -56,16 +56,14 @@ Result<std::unique_ptr<WorkerConnection>> WorkerConnection::open(std::shared_ptr
 }
 
 std::unique_ptr<WorkerConnection> WorkerConnection::to(SpawnedPicture picture) {
-  std::unique_ptr<WorkerConnection> connection(
-      new WorkerConnection({}, {PictureLimits(), false, picture.needs}, {}, std::move(picture.line)));
-  connection->ticket_.reset();
+  std::unique_ptr<WorkerConnection> connection(new WorkerConnection(
+      nullptr, {PictureLimits(), false, picture.needs}, std::nullopt, std::move(picture.line)));
   connection->process_ = {picture.pid, std::move(picture.pidfd)};
-  connection->isOwnChild_ = true;
   return connection;
 }
 
 WorkerConnection::WorkerConnection(std::shared_ptr<WorkerStarter> starter, const ForkRequest& request,
-                                   WorkerStarter::Ticket ticket, FileDescriptor socket)
+                                   std::optional<WorkerStarter::Ticket> ticket, FileDescriptor socket)
     : starter_(std::move(starter)), request_(request), ticket_(ticket), channel_(std::move(socket)) {}
 
 WorkerConnection::~WorkerConnection() {
@@ -105,7 +103,7 @@ bool WorkerConnection::isUsable() const {
 }
 
 Error WorkerConnection::failed(Error error) {
-  if (error.kind == ErrorKind::Died && isOwnChild_ && !hasAnswered_) hasNotComeUp_ = exitsByItself(process_.pidfd);
+  if (error.kind == ErrorKind::Died && isOwnChild() && !hasAnswered_) hasNotComeUp_ = exitsByItself(process_.pidfd);
   end();
   return error;
 }

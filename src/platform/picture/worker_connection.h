@@ -34,7 +34,7 @@ class WorkerConnection {
 
   [[nodiscard]] const ForkRequest& request() const { return request_; }
   /// Whether the process is our own child, started before anybody had asked for it.
-  [[nodiscard]] bool isOwnChild() const { return isOwnChild_; }
+  [[nodiscard]] bool isOwnChild() const { return starter_ == nullptr; }
   /// Whether such a process has ended by itself and without an answer: it could not be loaded, most likely.
   [[nodiscard]] bool hasNotComeUp() const { return hasNotComeUp_; }
   /// Whether the process lives and nothing unexpected has come from it.
@@ -55,16 +55,15 @@ class WorkerConnection {
 
  private:
   WorkerConnection(std::shared_ptr<WorkerStarter> starter, const ForkRequest& request,
-                   WorkerStarter::Ticket ticket, FileDescriptor socket);
+                   std::optional<WorkerStarter::Ticket> ticket, FileDescriptor socket);
   bool learnProcess(QDeadlineTimer deadline);
   Error failed(Error error);
   Result<WorkerAnswer> understand(quint32 id, ChannelMessage message);
 
-  std::shared_ptr<WorkerStarter> starter_;
+  std::shared_ptr<WorkerStarter> starter_;  ///< null for our own child
   ForkRequest request_;
   std::optional<WorkerStarter::Ticket> ticket_;  ///< until the process is known
   StartedProcess process_;
-  bool isOwnChild_ = false;
   bool hasAnswered_ = false;
   bool hasNotComeUp_ = false;
   MessageChannel channel_;

@@ -1,7 +1,6 @@
 #include "worker/engine/svg_length.h"
 
 #include <QList>
-#include <QStringView>
 
 #include <algorithm>
 #include <cmath>
@@ -20,33 +19,6 @@ QStringView trimmed(QStringView text) {
   while (!text.isEmpty() && isSpace(text.front())) text = text.mid(1);
   while (!text.isEmpty() && isSpace(text.back())) text.chop(1);
   return text;
-}
-
-/// The number that `text` begins with; it is taken away.
-std::optional<double> takeNumber(QStringView& text) {
-  qsizetype end = 0;
-  const auto isAt = [&](QStringView any) { return end < text.size() && any.contains(text[end]); };
-  const auto passDigits = [&] {
-    const qsizetype start = end;
-    while (end < text.size() && isDigit(text[end])) ++end;
-    return end > start;
-  };
-  if (isAt(u"+-")) ++end;
-  const bool whole = passDigits();
-  if (isAt(u".")) {
-    ++end;
-    if (!passDigits() && !whole) return std::nullopt;
-  } else if (!whole) {
-    return std::nullopt;
-  }
-  if (const qsizetype mantissa = end; isAt(u"eE")) {
-    ++end;
-    if (isAt(u"+-")) ++end;
-    if (!passDigits()) end = mantissa;  // what follows is a unit
-  }
-  const double number = text.left(end).toDouble();
-  text = text.mid(end);
-  return number;
 }
 
 /// Takes away what stands between two numbers; false: nothing does.
@@ -84,9 +56,35 @@ QString declared(const QString& style, const QString& property) {
 
 }  // namespace
 
+std::optional<double> takeSvgNumber(QStringView& text) {
+  qsizetype end = 0;
+  const auto isAt = [&](QStringView any) { return end < text.size() && any.contains(text[end]); };
+  const auto passDigits = [&] {
+    const qsizetype start = end;
+    while (end < text.size() && isDigit(text[end])) ++end;
+    return end > start;
+  };
+  if (isAt(u"+-")) ++end;
+  const bool whole = passDigits();
+  if (isAt(u".")) {
+    ++end;
+    if (!passDigits() && !whole) return std::nullopt;
+  } else if (!whole) {
+    return std::nullopt;
+  }
+  if (const qsizetype mantissa = end; isAt(u"eE")) {
+    ++end;
+    if (isAt(u"+-")) ++end;
+    if (!passDigits()) end = mantissa;  // what follows is a unit
+  }
+  const double number = text.left(end).toDouble();
+  text = text.mid(end);
+  return number;
+}
+
 std::optional<SvgLength> parseSvgLength(const QString& text, double fontSize) {
   QStringView rest = trimmed(text);
-  const std::optional<double> number = takeNumber(rest);
+  const std::optional<double> number = takeSvgNumber(rest);
   if (!number || !std::isfinite(*number)) return std::nullopt;
   const QString unit = rest.toString().toLower();
   if (unit == QLatin1String("%")) return SvgLength{0, *number, true};
@@ -100,7 +98,7 @@ std::optional<QRectF> parseViewBox(const QString& text) {
   double values[4];
   for (int i = 0; i < 4; ++i) {
     if (i > 0 && !takeSeparator(rest)) return std::nullopt;
-    const std::optional<double> number = takeNumber(rest);
+    const std::optional<double> number = takeSvgNumber(rest);
     if (!number || !std::isfinite(*number)) return std::nullopt;
     values[i] = *number;
   }

@@ -5,6 +5,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
+#include <QStringView>
 
 #include <functional>
 #include <optional>
@@ -21,6 +22,10 @@ struct SvgLength {
   double percent = 0;  ///< 100: all of it
   bool isPercentage = false;
 };
+
+/// The number, as SVG writes them, that `text` begins with, which is taken away; it may be infinite. Nothing: `text`
+/// begins with none, and stays.
+[[nodiscard]] std::optional<double> takeSvgNumber(QStringView& text);
 
 /// A number with px, pt, pc, mm, cm, in, em, ex, % or no unit (pixels), blanks around it allowed. Nothing: not a
 /// length, or not finite.

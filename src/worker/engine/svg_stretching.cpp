@@ -4,17 +4,23 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+
+#include "worker/engine/svg_length.h"
 
 namespace norvex::engine {
 namespace {
 
 constexpr double kNoticeable = 1e-3;
 
-QList<double> numbersIn(const QString& list) {
-  static const QRegularExpression number(QStringLiteral("[-+]?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][-+]?\\d+)?"));
+QList<double> numbersIn(QStringView list) {
   QList<double> numbers;
-  for (auto match = number.globalMatch(list); match.hasNext() && numbers.size() < 6;)
-    numbers << match.next().captured().toDouble();
+  while (!list.isEmpty() && numbers.size() < 6) {
+    if (const std::optional<double> number = takeSvgNumber(list))
+      numbers << *number;
+    else
+      list = list.mid(1);  // it stands between numbers
+  }
   return numbers;
 }
 
@@ -33,7 +39,7 @@ bool stretches(const QString& transform) {
   for (auto match = function.globalMatch(transform); match.hasNext();) {
     const QRegularExpressionMatch found = match.next();
     const QString name = found.captured(1);
-    const QList<double> n = numbersIn(found.captured(2));
+    const QList<double> n = numbersIn(found.capturedView(2));
     if (name == QLatin1String("matrix") && n.size() >= 4 && differ(n[0], n[1], n[2], n[3])) return true;
     if (name == QLatin1String("scale") && n.size() >= 2 && differ(n[0], 0, 0, n[1])) return true;
     if (name.startsWith(QLatin1String("skew")) && !n.isEmpty() && std::abs(n[0]) > kNoticeable) return true;

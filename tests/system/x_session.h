@@ -109,9 +109,10 @@ class XSession {
   }
   /// Waits for the window and gives it the keyboard.
   bool activate(const QString& title) {
-    const bool there = waitUntil([&] { return !windowsOf(title).isEmpty(); });
-    if (there) xdo({"windowactivate", "--sync", windowsOf(title).constLast()});
-    return there;
+    QStringList windows;
+    if (!waitUntil([&] { return !(windows = windowsOf(title)).isEmpty(); })) return false;
+    xdo({"windowactivate", "--sync", windows.constLast()});
+    return true;
   }
   QStringList windowsOf(const QString& title) {
     const QString escaped = QRegularExpression::escape(title);

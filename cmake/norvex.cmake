@@ -16,7 +16,6 @@ target_compile_options(norvex_flags INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 target_compile_definitions(norvex_flags INTERFACE
   NORVEX_VERSION="${PROJECT_VERSION}" QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
-target_include_directories(norvex_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(NORVEX_SANITIZE)
   target_compile_options(norvex_flags INTERFACE
     -fsanitize=${NORVEX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
@@ -27,23 +26,47 @@ if(NORVEX_COVERAGE)
   target_link_options(norvex_flags INTERFACE --coverage)
 endif()
 
-set(NORVEX_PCH <algorithm> <functional> <memory> <optional> <vector>
+set(NORVEX_PCH_CORE <algorithm> <functional> <memory> <optional> <vector>
     <QByteArray> <QHash> <QList> <QRectF> <QString> <QVariant>)
 
-# norvex_library(NAME FOLDER LINK lib…): every .cpp directly in src/FOLDER becomes the static library NAME.
-function(norvex_library name folder)
-  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp
-       ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
-  if(NOT sources)
-    add_library(${name} INTERFACE)
-    target_link_libraries(${name} INTERFACE norvex_flags ${ARG_LINK})
-    return()
-  endif()
+# norvex_folder(FOLDER NEEDS folder… LINK lib…): every .cpp directly in src/FOLDER becomes the static library
+# norvex_FOLDER (slashes as underscores). Its headers are in sight, by their paths from src/, of itself and of those who
+# link it, and of nobody else: an include against the arrows does not compile.
+function(norvex_folder folder)
+  cmake_parse_arguments(ARG "" "" "NEEDS;LINK" ${ARGN})
+  string(REPLACE "/" "_" name norvex_${folder})
+  set(source ${PROJECT_SOURCE_DIR}/src/${folder})
+  file(GLOB sources CONFIGURE_DEPENDS ${source}/*.cpp ${source}/*.h)
+  file(GLOB headers CONFIGURE_DEPENDS ${source}/*.h)
+  set(room ${CMAKE_BINARY_DIR}/rooms/${name})
+  file(REMOVE_RECURSE ${room})
+  file(MAKE_DIRECTORY ${room}/${folder})
+  foreach(header ${headers})
+    get_filename_component(base ${header} NAME)
+    file(CREATE_LINK ${header} ${room}/${folder}/${base} SYMBOLIC)
+  endforeach()
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
-  target_link_libraries(${name} PUBLIC norvex_flags ${ARG_LINK})
-  target_precompile_headers(${name} PRIVATE ${NORVEX_PCH})
+  target_include_directories(${name} PUBLIC ${room})
+  list(TRANSFORM ARG_NEEDS PREPEND norvex_)
+  list(TRANSFORM ARG_NEEDS REPLACE "/" "_")
+  target_link_libraries(${name} PUBLIC norvex_flags ${ARG_NEEDS} ${ARG_LINK})
+  target_precompile_headers(${name} PRIVATE ${NORVEX_PCH_CORE})
+endfunction()
+
+# norvex_folders(TABLE): a library for each line "FOLDER | folders that it may include | other libraries".
+function(norvex_folders table)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${table})
+  file(STRINGS ${table} lines)
+  foreach(line ${lines})
+    if(line MATCHES "^#" OR NOT line MATCHES "^([^|]+)[|]([^|]*)[|](.*)$")
+      continue()
+    endif()
+    string(STRIP "${CMAKE_MATCH_1}" folder)
+    separate_arguments(needs UNIX_COMMAND "${CMAKE_MATCH_2}")
+    separate_arguments(libraries UNIX_COMMAND "${CMAKE_MATCH_3}")
+    norvex_folder(${folder} NEEDS ${needs} LINK ${libraries})
+  endforeach()
 endfunction()
 
 # norvex_tests(FOLDER APP core|gui|widgets LINK lib…): tests/FOLDER/*_test.cpp become the program FOLDER_tests;
@@ -71,7 +94,7 @@ function(norvex_tests folder)
     NORVEX_SOURCE_DIR="${PROJECT_SOURCE_DIR}" NORVEX_BUILD_DIR="${CMAKE_BINARY_DIR}")
   # The code under test is optimised, the tests are not: they compile in half the time.
   target_compile_options(${target}_tests PRIVATE $<$<CONFIG:Release>:-O0>)
-  target_precompile_headers(${target}_tests PRIVATE ${NORVEX_PCH} <QtTest>)
+  target_precompile_headers(${target}_tests PRIVATE ${NORVEX_PCH_CORE} <QtTest>)
   set(timeout 300)
   if(folder STREQUAL "system")
     set(timeout 1200)  # whole programs over real files, on whatever machine this is

@@ -4,8 +4,8 @@
 
 #include <cerrno>
 
-#include "platform/file_name.h"
-#include "platform/picture/document_file.h"
+#include "base/file_name.h"
+#include "picture/document_file.h"
 
 namespace norvex {
 namespace {

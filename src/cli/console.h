@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "platform/result.h"
+#include "base/result.h"
 
 namespace norvex {
 

@@ -6,9 +6,9 @@
 #include "cli/input_file.h"
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
-#include "platform/picture/pdf_image_rep.h"
-#include "platform/picture/picture_loader.h"
-#include "platform/type_identification.h"
+#include "picture/pdf_image_rep.h"
+#include "picture/picture_loader.h"
+#include "types/type_identification.h"
 
 namespace norvex {
 namespace {

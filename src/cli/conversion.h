@@ -9,8 +9,8 @@
 #include <optional>
 
 #include "encoders/output_format.h"
-#include "platform/cancel_token.h"
-#include "platform/picture_process.h"
+#include "base/cancel_token.h"
+#include "picture/process/picture_process.h"
 
 namespace norvex {
 

@@ -9,8 +9,8 @@
 #include "cli/interruption.h"
 #include "cli/job.h"
 #include "metadata/full_date.h"
-#include "platform/atomic_file.h"
-#include "platform/file_name.h"
+#include "base/atomic_file.h"
+#include "base/file_name.h"
 
 namespace norvex {
 namespace {

@@ -4,7 +4,7 @@
 #include <QList>
 #include <QString>
 
-#include "cli/arguments.h"
+#include "cli/arguments/arguments.h"
 #include "cli/conversion.h"
 
 namespace norvex {

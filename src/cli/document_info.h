@@ -9,8 +9,8 @@
 #include <optional>
 
 #include "metadata/header_dictionary.h"
-#include "platform/picture_process.h"
-#include "platform/result.h"
+#include "picture/process/picture_process.h"
+#include "base/result.h"
 
 namespace norvex {
 

@@ -3,7 +3,7 @@
 
 #include <QList>
 
-#include "platform/result.h"
+#include "base/result.h"
 
 namespace norvex {
 

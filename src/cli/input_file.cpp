@@ -1,10 +1,10 @@
 #include "cli/input_file.h"
 
 #include "metadata/dos_eps_header.h"
-#include "platform/atomic_file.h"
-#include "platform/picture/document_file.h"
-#include "platform/picture/picture_loader.h"
-#include "platform/type_identification.h"
+#include "base/atomic_file.h"
+#include "picture/document_file.h"
+#include "picture/picture_loader.h"
+#include "types/type_identification.h"
 
 namespace norvex {
 namespace {

@@ -7,9 +7,9 @@
 #include <optional>
 
 #include "cli/console.h"
-#include "platform/result.h"
-#include "platform/uniform_type.h"
-#include "platform/worker_protocol.h"
+#include "base/result.h"
+#include "types/uniform_type.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex {
 

@@ -1,7 +1,7 @@
 // Ctrl-C and a polite kill while files are being converted.
 #pragma once
 
-#include "platform/cancel_token.h"
+#include "base/cancel_token.h"
 
 namespace norvex {
 

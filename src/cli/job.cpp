@@ -1,7 +1,7 @@
 #include "cli/job.h"
 
-#include "cli/help_text.h"
-#include "cli/shell_completion.h"
+#include "cli/arguments/help_text.h"
+#include "cli/arguments/shell_completion.h"
 
 namespace norvex {
 

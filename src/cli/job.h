@@ -6,13 +6,13 @@
 #include <QString>
 #include <QStringList>
 
-#include "cli/arguments.h"
+#include "cli/arguments/arguments.h"
 #include "cli/console.h"
 #include "cli/conversion.h"
 #include "cli/convert_plan.h"
 #include "cli/document_info.h"
 #include "cli/exit_code.h"
-#include "platform/picture_process.h"
+#include "picture/process/picture_process.h"
 
 namespace norvex {
 

@@ -5,7 +5,8 @@
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "metadata/eps_header.h"
-#include "platform/atomic_file.h"
+#include "base/atomic_file.h"
+#include "picture/bitmap_image.h"
 
 namespace norvex {
 namespace {
@@ -27,7 +28,7 @@ Result<std::optional<NSBitmapImageRep>> embeddedPreview(PictureService& service,
 
 /// Grey stays grey. Empty for samples that cannot be shown.
 QByteArray pngOf(const NSBitmapImageRep& rep) {
-  QImage image = rep.toImage();
+  QImage image = toImage(rep);
   const bool grey = rep.colorSpaceName == QLatin1String(NSCalibratedWhiteColorSpace) && !rep.hasAlpha;
   if (grey) image = image.convertToFormat(QImage::Format_Grayscale8);
   QByteArray png;

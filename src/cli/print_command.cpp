@@ -7,11 +7,11 @@
 #include "cli/printing_job.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
-#include "platform/atomic_file.h"
-#include "platform/localized_string.h"
-#include "platform/picture/picture_loader.h"
-#include "platform/print/cups_spooler.h"
-#include "platform/print/print_job.h"
+#include "base/atomic_file.h"
+#include "base/localized_string.h"
+#include "picture/picture_loader.h"
+#include "print/cups_spooler.h"
+#include "print/print_job.h"
 
 namespace norvex {
 namespace {

@@ -3,7 +3,7 @@
 #include "cli/job.h"
 #include "metadata/eps_header.h"
 #include "metadata/source_text.h"
-#include "metadata/svg_header.h"
+#include "picture/svg_header.h"
 
 namespace norvex {
 namespace {

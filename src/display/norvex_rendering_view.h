@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "display/page_header_footer.h"
-#include "platform/picture/image_rep.h"
+#include "picture/image_rep.h"
 
 class QPainter;
 

@@ -14,7 +14,7 @@
 
 #include "display/page_header_footer.h"
 #include "display/selection.h"
-#include "platform/picture/image_rep.h"
+#include "picture/image_rep.h"
 
 class QPainter;
 

@@ -4,7 +4,7 @@
 #include <QPointF>
 #include <QRectF>
 
-#include "platform/picture/image_rep.h"
+#include "picture/image_rep.h"
 
 namespace norvex {
 

@@ -7,9 +7,9 @@
 #include "document/document_types.h"
 #include "document/print_settings.h"
 #include "document/unimplemented_method.h"
-#include "platform/bundle.h"
-#include "platform/localized_string.h"
-#include "platform/picture/document_file.h"
+#include "base/bundle.h"
+#include "base/localized_string.h"
+#include "picture/document_file.h"
 
 namespace norvex {
 

@@ -12,8 +12,8 @@
 
 #include "document/document_error.h"
 #include "document/document_window_controller.h"
-#include "platform/print/print_info.h"
-#include "platform/print/print_operation.h"
+#include "print/print_info.h"
+#include "print/print_operation.h"
 
 namespace norvex {
 

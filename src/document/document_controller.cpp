@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "document/unimplemented_method.h"
-#include "platform/localized_string.h"
-#include "platform/picture/document_file.h"
-#include "platform/type_identification.h"
+#include "base/localized_string.h"
+#include "picture/document_file.h"
+#include "types/type_identification.h"
 
 namespace norvex {
 namespace {

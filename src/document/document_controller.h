@@ -9,7 +9,7 @@
 #include <QUrl>
 
 #include "document/document.h"
-#include "platform/cancel_token.h"
+#include "base/cancel_token.h"
 
 namespace norvex {
 

@@ -6,8 +6,8 @@
 #include "document/document.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
-#include "platform/print/print_spooler.h"
-#include "platform/print/printable_view.h"
+#include "print/print_spooler.h"
+#include "print/printable_view.h"
 
 namespace norvex {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "platform/uniform_type.h"
+#include "types/uniform_type.h"
 
 namespace norvex {
 

@@ -6,12 +6,12 @@
 #include "document/document.h"
 #include "document/picture_producers.h"
 #include "document/unimplemented_method.h"
-#include "platform/alert.h"
-#include "platform/atomic_file.h"
-#include "platform/bundle.h"
-#include "platform/localized_string.h"
-#include "platform/picture/web_image_rep.h"
-#include "platform/uniform_type.h"
+#include "desktop/alert.h"
+#include "base/atomic_file.h"
+#include "base/bundle.h"
+#include "base/localized_string.h"
+#include "picture/web_image_rep.h"
+#include "types/uniform_type.h"
 
 namespace norvex {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QSettings>
 
-#include "platform/print/print_info_archive.h"
+#include "print/print_info_archive.h"
 
 namespace norvex {
 

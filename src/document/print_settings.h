@@ -1,7 +1,7 @@
 // The print settings of a new document, and the page layout that is remembered from one document to the next.
 #pragma once
 
-#include "platform/print/print_info.h"
+#include "print/print_info.h"
 
 class QSettings;
 

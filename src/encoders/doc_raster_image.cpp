@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "display/picture_geometry.h"
+#include "picture/bitmap_image.h"
 
 namespace norvex {
 namespace {
@@ -57,7 +58,7 @@ Result<NSBitmapImageRep> DocRasterImage::bitmap(const RasterSettings& settings,
   QImage image = std::move(*rendered);
   if (settings.background.isValid()) paintBehind(image, settings.background);
   if (isOpaque(image)) image = image.convertToFormat(QImage::Format_RGB32);
-  NSBitmapImageRep bitmap = NSBitmapImageRep::fromImage(image);
+  NSBitmapImageRep bitmap = bitmapFromImage(image);
   bitmap.pointsWide = rect.width();
   bitmap.pointsHigh = rect.height();
   return bitmap;

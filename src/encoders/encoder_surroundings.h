@@ -9,7 +9,7 @@
 #include <optional>
 
 #include "encoders/doc_raster_image.h"
-#include "platform/picture_process.h"
+#include "picture/process/picture_process.h"
 
 namespace norvex {
 

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "platform/bitmap_image_rep.h"
+#include "protocol/bitmap_image_rep.h"
 
 namespace norvex {
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "platform/picture/web_image_rep.h"
+#include "picture/web_image_rep.h"
 
 namespace norvex {
 namespace {

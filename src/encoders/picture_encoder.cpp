@@ -12,9 +12,9 @@
 #include "encoders/picture_header.h"
 #include "metadata/full_date.h"
 #include "metadata/source_text.h"
-#include "platform/picture/eps_image_rep.h"
-#include "platform/picture/pdf_image_rep.h"
-#include "platform/picture/web_image_rep.h"
+#include "picture/eps_image_rep.h"
+#include "picture/pdf_image_rep.h"
+#include "picture/web_image_rep.h"
 
 namespace norvex {
 namespace {

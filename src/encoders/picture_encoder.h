@@ -12,7 +12,7 @@
 #include "encoders/encoder_surroundings.h"
 #include "encoders/raster_codecs.h"
 #include "metadata/header_dictionary.h"
-#include "platform/picture/image_rep.h"
+#include "picture/image_rep.h"
 
 namespace norvex {
 

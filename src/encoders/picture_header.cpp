@@ -2,10 +2,10 @@
 
 #include "metadata/eps_header.h"
 #include "metadata/pdf_header.h"
-#include "metadata/svg_header.h"
-#include "platform/picture/eps_image_rep.h"
-#include "platform/picture/pdf_image_rep.h"
-#include "platform/picture/web_image_rep.h"
+#include "picture/svg_header.h"
+#include "picture/eps_image_rep.h"
+#include "picture/pdf_image_rep.h"
+#include "picture/web_image_rep.h"
 
 namespace norvex {
 

@@ -5,7 +5,7 @@
 
 #include "metadata/full_date.h"
 #include "metadata/header_dictionary.h"
-#include "platform/picture/image_rep.h"
+#include "picture/image_rep.h"
 
 namespace norvex {
 

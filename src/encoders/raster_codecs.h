@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 
-#include "platform/bitmap_image_rep.h"
+#include "protocol/bitmap_image_rep.h"
 
 namespace norvex {
 

@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "metadata/header_dictionary.h"
-#include "platform/bitmap_image_rep.h"
+#include "protocol/bitmap_image_rep.h"
 
 namespace norvex {
 

@@ -5,8 +5,8 @@
 
 #include "metadata/full_date.h"
 #include "metadata/header_dictionary.h"
-#include "platform/result.h"
-#include "platform/worker_protocol.h"
+#include "base/result.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex {
 

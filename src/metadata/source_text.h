@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "platform/worker_protocol.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex {
 

@@ -4,13 +4,13 @@
 
 #include "cli/command_line.h"
 #include "cli/printing_job.h"
-#include "platform/picture/worker_service.h"
-#include "platform/qt/alert.h"
-#include "platform/qt/application.h"
-#include "platform/qt/document_application.h"
+#include "picture/client/worker_service.h"
+#include "ui/panels/alert_box.h"
+#include "application/application.h"
+#include "application/document_application.h"
 #include "programs/application_entry.h"
 #include "window/main_window_controller.h"
-#include "window/string_tables.h"
+#include "application/string_tables.h"
 
 namespace norvex {
 namespace {

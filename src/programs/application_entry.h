@@ -1,7 +1,7 @@
 // The one function through which the program `norvex` enters norvex-application.so or norvex-commands.so.
 #pragma once
 
-#include "platform/picture/spawned_worker.h"
+#include "picture/client/spawned_worker.h"
 
 namespace norvex {
 

@@ -3,7 +3,7 @@
 
 #include "cli/command_line.h"
 #include "cli/job.h"
-#include "platform/picture/worker_service.h"
+#include "picture/client/worker_service.h"
 #include "programs/application_entry.h"
 
 extern "C" __attribute__((visibility("default"))) int norvexApplication(int argc, char** argv,

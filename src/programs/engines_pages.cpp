@@ -1,5 +1,9 @@
 // norvex-engine-pages.so: PDF and PostScript.
 #include "programs/engine_parts.h"
+#include "worker/pages/pdf_engine.h"
+#include "worker/pdf/pdf_attributes.h"
+#include "worker/postscript/eps_engine.h"
+#include "worker/tiff/tiff_preview.h"
 
 void norvexEngines(norvex::EngineSet* engines) {
   using namespace norvex;

@@ -1,6 +1,6 @@
 // norvex-engine-svg.so: draws SVG pictures.
 #include "programs/engine_parts.h"
-#include "worker/engine/svg_engine.h"
+#include "worker/svg/svg_engine.h"
 
 void norvexEngines(norvex::EngineSet* engines) {
   using namespace norvex;

@@ -1,7 +1,9 @@
 // norvex-engine-svg-pdf.so: draws SVG pictures, makes them PDF, and does what is done with a finished PDF.
 #include "programs/engine_parts.h"
-#include "worker/engine/svg_engine.h"
-#include "worker/engine/svg_pdf.h"
+#include "worker/pages/compose_pages.h"
+#include "worker/pdf/pdf_attributes.h"
+#include "worker/svg/svg_engine.h"
+#include "worker/svg/svg_pdf.h"
 
 void norvexEngines(norvex::EngineSet* engines) {
   using namespace norvex;

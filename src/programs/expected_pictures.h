@@ -1,7 +1,7 @@
 // What the arguments of a run let expect of its pictures, before any of them is read.
 #pragma once
 
-#include "platform/picture_needs.h"
+#include "protocol/picture_needs.h"
 
 namespace norvex {
 

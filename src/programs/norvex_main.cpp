@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/picture/spawned_worker.h"
+#include "picture/client/spawned_worker.h"
 #include "programs/application_entry.h"
 #include "programs/expected_pictures.h"
 #include "worker/engine_parts_table.h"

@@ -1,5 +1,5 @@
 // norvex-worker: the picture process. See worker/worker_program.h.
-#include "worker/engine/distiller.h"
+#include "worker/postscript/distiller.h"
 #include "worker/engine_modules.h"
 #include "worker/worker_program.h"
 

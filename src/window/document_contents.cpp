@@ -3,12 +3,12 @@
 #include "metadata/eps_header.h"
 #include "metadata/pdf_header.h"
 #include "metadata/source_text.h"
-#include "metadata/svg_header.h"
-#include "platform/picture/document_file.h"
-#include "platform/picture/eps_image_rep.h"
-#include "platform/picture/pdf_image_rep.h"
-#include "platform/picture/web_image_rep.h"
-#include "window/stoppable_process.h"
+#include "picture/svg_header.h"
+#include "picture/document_file.h"
+#include "picture/eps_image_rep.h"
+#include "picture/pdf_image_rep.h"
+#include "picture/web_image_rep.h"
+#include "picture/process/stoppable_process.h"
 
 namespace norvex {
 

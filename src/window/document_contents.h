@@ -10,10 +10,10 @@
 #include <optional>
 
 #include "metadata/header_dictionary.h"
-#include "platform/cancel_token.h"
-#include "platform/picture/image_rep.h"
-#include "platform/picture_process.h"
-#include "window/document_kind.h"
+#include "base/cancel_token.h"
+#include "picture/image_rep.h"
+#include "picture/process/picture_process.h"
+#include "types/document_kind.h"
 
 namespace norvex {
 

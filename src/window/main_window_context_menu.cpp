@@ -4,10 +4,10 @@
 #include <QMenu>
 #include <QtConcurrent>
 
-#include "platform/localized_string.h"
-#include "platform/waiting_threads.h"
-#include "platform/qt/drag_source.h"
-#include "platform/qt/norvex_view_widget.h"
+#include "base/localized_string.h"
+#include "base/waiting_threads.h"
+#include "ui/picture/drag_source.h"
+#include "ui/picture/norvex_view_widget.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 

@@ -5,12 +5,12 @@
 #include <QtConcurrent>
 
 #include "document/document.h"
-#include "platform/localized_string.h"
-#include "platform/waiting_threads.h"
-#include "platform/qt/loading_card.h"
-#include "platform/qt/message_bar.h"
-#include "platform/qt/qt_pasteboard.h"
-#include "platform/qt/zy_dial_knob.h"
+#include "base/localized_string.h"
+#include "base/waiting_threads.h"
+#include "ui/picture/loading_card.h"
+#include "ui/picture/message_bar.h"
+#include "ui/panels/qt_pasteboard.h"
+#include "ui/controls/zy_dial_knob.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {

@@ -7,19 +7,20 @@
 
 #include "document/document.h"
 #include "metadata/header_dictionary.h"
-#include "platform/localized_string.h"
-#include "platform/waiting_threads.h"
-#include "platform/picture/web_image_rep.h"
-#include "platform/qt/loading_card.h"
-#include "platform/qt/message_bar.h"
-#include "platform/qt/norvex_view_widget.h"
-#include "platform/qt/number_field.h"
-#include "platform/qt/number_matrix.h"
-#include "platform/qt/source_text_view.h"
-#include "platform/qt/zooming_scroll_area.h"
-#include "platform/qt/zy_dial_knob.h"
-#include "platform/qt/zy_form.h"
-#include "platform/qt/zy_image_view.h"
+#include "base/localized_string.h"
+#include "base/waiting_threads.h"
+#include "picture/bitmap_image.h"
+#include "picture/web_image_rep.h"
+#include "ui/picture/loading_card.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/controls/number_field.h"
+#include "ui/controls/number_matrix.h"
+#include "ui/source/source_text_view.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/controls/zy_form.h"
+#include "ui/picture/zy_image_view.h"
 #include "window/main_window_reading.h"
 
 namespace norvex {
@@ -185,7 +186,7 @@ void MainWindowController::showPreview(const DocumentContents& contents) {
     previewField->setText(QStringLiteral("Include Preview"));
     previewImageView()->setCompositingOperation(ZyImageView::SourceOver);
     previewImageView()->setImageFrameStyle(kFrameOfPreview);
-    previewImageView()->setImage(preview.value<NSBitmapImageRep>().toImage());
+    previewImageView()->setImage(toImage(preview.value<NSBitmapImageRep>()));
     return;
   }
   previewField->setText(QStringLiteral("Image"));

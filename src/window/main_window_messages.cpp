@@ -3,18 +3,18 @@
 #include <QTimer>
 
 #include "document/document.h"
-#include "platform/alert.h"
-#include "platform/localized_string.h"
-#include "platform/picture/web_image_rep.h"
-#include "platform/qt/loading_card.h"
-#include "platform/qt/message_bar.h"
-#include "platform/qt/norvex_view_widget.h"
-#include "platform/qt/number_field.h"
-#include "platform/qt/zooming_scroll_area.h"
-#include "platform/qt/zy_dial_knob.h"
-#include "platform/qt/zy_image_view.h"
+#include "desktop/alert.h"
+#include "base/localized_string.h"
+#include "picture/web_image_rep.h"
+#include "ui/picture/loading_card.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/controls/number_field.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/picture/zy_image_view.h"
 #include "window/main_window_controller.h"
-#include "window/stoppable_process.h"
+#include "picture/process/stoppable_process.h"
 
 namespace norvex {
 

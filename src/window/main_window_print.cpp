@@ -5,9 +5,9 @@
 
 #include "display/norvex_view.h"
 #include "document/document.h"
-#include "platform/localized_string.h"
-#include "platform/print/cups_spooler.h"
-#include "platform/qt/print_interaction.h"
+#include "base/localized_string.h"
+#include "print/cups_spooler.h"
+#include "ui/print/print_interaction.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 #include "window/print_commands.h"

@@ -5,7 +5,7 @@
 
 #include <mutex>
 
-#include "platform/cancel_token.h"
+#include "base/cancel_token.h"
 #include "window/document_contents.h"
 #include "window/main_window_controller.h"
 

@@ -12,13 +12,13 @@
 
 #include "document/document.h"
 #include "document/unimplemented_method.h"
-#include "platform/alert.h"
-#include "platform/localized_string.h"
-#include "platform/path_extension.h"
-#include "platform/picture/web_image_rep.h"
-#include "platform/qt/loading_card.h"
-#include "platform/save_panel.h"
-#include "platform/waiting_threads.h"
+#include "desktop/alert.h"
+#include "base/localized_string.h"
+#include "base/path_extension.h"
+#include "picture/web_image_rep.h"
+#include "ui/picture/loading_card.h"
+#include "desktop/save_panel.h"
+#include "base/waiting_threads.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {

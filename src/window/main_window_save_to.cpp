@@ -8,16 +8,16 @@
 #include <QSettings>
 #include <QtConcurrent>
 
-#include "platform/alert.h"
-#include "platform/atomic_file.h"
-#include "platform/localized_string.h"
-#include "platform/path_extension.h"
-#include "platform/qt/loading_card.h"
-#include "platform/qt/save_panel.h"
-#include "platform/qt/zy_image_view.h"
+#include "desktop/alert.h"
+#include "base/atomic_file.h"
+#include "base/localized_string.h"
+#include "base/path_extension.h"
+#include "ui/picture/loading_card.h"
+#include "ui/panels/sheet_save_panel.h"
+#include "ui/picture/zy_image_view.h"
 #include "ui_MainWindowController.h"
-#include "platform/type_description.h"
-#include "platform/waiting_threads.h"
+#include "types/type_description.h"
+#include "base/waiting_threads.h"
 
 namespace norvex {
 

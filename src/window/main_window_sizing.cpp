@@ -9,7 +9,7 @@
 #include <QToolBar>
 
 #include "display/norvex_view.h"
-#include "platform/qt/zooming_scroll_area.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 #include "window/window_frames.h"

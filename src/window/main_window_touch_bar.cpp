@@ -4,8 +4,8 @@
 #include <QMainWindow>
 
 #include "document/document.h"
-#include "platform/qt/symbolic_icon.h"
-#include "platform/qt/touch_strip.h"
+#include "ui/style/symbolic_icon.h"
+#include "ui/controls/touch_strip.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 

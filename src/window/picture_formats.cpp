@@ -4,8 +4,8 @@
 
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
-#include "platform/picture/eps_image_rep.h"
-#include "platform/picture/web_image_rep.h"
+#include "picture/eps_image_rep.h"
+#include "picture/web_image_rep.h"
 
 namespace norvex {
 namespace {

@@ -9,11 +9,11 @@
 
 #include "display/view_compose.h"
 #include "encoders/encoder_surroundings.h"
-#include "platform/cancel_token.h"
-#include "platform/picture/image_rep.h"
-#include "platform/picture/pdf_image_rep.h"
-#include "platform/promised_value.h"
-#include "platform/uniform_type.h"
+#include "base/cancel_token.h"
+#include "picture/image_rep.h"
+#include "picture/pdf_image_rep.h"
+#include "base/promised_value.h"
+#include "types/uniform_type.h"
 
 namespace norvex {
 

@@ -6,8 +6,8 @@
 #include "display/norvex_view.h"
 #include "document/document.h"
 #include "document/print_titles.h"
-#include "platform/picture/pdf_image_rep.h"
-#include "platform/print/printable_view.h"
+#include "picture/pdf_image_rep.h"
+#include "print/printable_view.h"
 
 namespace norvex {
 namespace {

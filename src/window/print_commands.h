@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/print/print_operation.h"
+#include "print/print_operation.h"
 
 namespace norvex {
 

@@ -3,8 +3,8 @@
 #include <QMenu>
 
 #include "display/norvex_view.h"
-#include "platform/localized_string.h"
-#include "platform/qt/zooming_scroll_area.h"
+#include "base/localized_string.h"
+#include "ui/picture/zooming_scroll_area.h"
 
 namespace norvex {
 

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "platform/localized_string.h"
+#include "base/localized_string.h"
 
 namespace norvex {
 

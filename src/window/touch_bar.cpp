@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "platform/localized_string.h"
+#include "base/localized_string.h"
 
 namespace norvex {
 

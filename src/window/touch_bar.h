@@ -1,5 +1,5 @@
 // The Touch Bar of a document window as values: which buttons it has, in which order, and what each of them asks whom.
-// No widgets: a strip on the screen shows it (platform/qt/touch_strip.h), a test needs none.
+// No widgets: a strip on the screen shows it (ui/controls/touch_strip.h), a test needs none.
 #pragma once
 
 #include <QList>

@@ -7,7 +7,7 @@
 
 #include "document/picture_producers.h"
 #include "encoders/picture_encoder.h"
-#include "platform/cancel_token.h"
+#include "base/cancel_token.h"
 
 namespace norvex {
 

@@ -6,7 +6,7 @@
 #include <limits>
 #include <new>
 
-#include "platform/sealed_memory.h"
+#include "protocol/sealed_memory.h"
 
 namespace norvex {
 namespace {

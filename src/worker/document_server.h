@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "platform/message_channel.h"
+#include "protocol/message_channel.h"
 #include "worker/engine_set.h"
 #include "worker/request_queue.h"
 

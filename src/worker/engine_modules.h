@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-#include "platform/result.h"
+#include "base/result.h"
 #include "worker/engine_parts_table.h"
 #include "worker/engine_set.h"
 

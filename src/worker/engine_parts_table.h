@@ -5,7 +5,7 @@
 #include <array>
 #include <cstddef>
 
-#include "platform/picture_needs.h"
+#include "protocol/picture_needs.h"
 
 namespace norvex {
 

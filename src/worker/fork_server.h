@@ -6,8 +6,8 @@
 #include <functional>
 #include <vector>
 
-#include "platform/message_channel.h"
-#include "platform/worker_protocol.h"
+#include "protocol/message_channel.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex {
 

@@ -8,9 +8,9 @@
 #include <optional>
 #include <thread>
 
-#include "platform/cancel_token.h"
-#include "platform/message_channel.h"
-#include "platform/worker_protocol.h"
+#include "base/cancel_token.h"
+#include "protocol/message_channel.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex {
 

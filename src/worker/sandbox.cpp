@@ -12,7 +12,7 @@
 #include <csignal>
 #include <cstdlib>
 
-#include "platform/file_descriptor.h"
+#include "base/file_descriptor.h"
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define NORVEX_SHADOW_MEMORY 1

@@ -3,8 +3,8 @@
 
 #include <QString>
 
-#include "platform/result.h"
-#include "platform/worker_protocol.h"
+#include "base/result.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex {
 

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 
 #include "cli/printing_job.h"
-#include "platform/picture/memory_picture_service.h"
+#include "picture/process/memory_picture_service.h"
 
 namespace norvex::testdata {
 

@@ -12,9 +12,9 @@
 
 #include "cli/cli_files.h"
 #include "kit/test_main.h"
-#include "platform/atomic_file.h"
-#include "platform/file_name.h"
-#include "platform/picture/document_file.h"
+#include "base/atomic_file.h"
+#include "base/file_name.h"
+#include "picture/document_file.h"
 
 using namespace norvex;
 using namespace norvex::testdata;

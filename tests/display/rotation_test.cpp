@@ -12,8 +12,8 @@
 #include "display/picture_geometry.h"
 #include "display/view_fixture.h"
 #include "kit/test_main.h"
-#include "platform/picture/image_rep.h"
-#include "platform/picture/memory_picture_service.h"
+#include "picture/image_rep.h"
+#include "picture/process/memory_picture_service.h"
 
 using namespace norvex;
 using norvex::kit::ViewFixture;

@@ -12,8 +12,8 @@
 #include "display/memory_view_host.h"
 #include "display/norvex_view.h"
 #include "display/norvex_view_delegate.h"
-#include "platform/picture/image_rep.h"
-#include "platform/picture/memory_picture_service.h"
+#include "picture/image_rep.h"
+#include "picture/process/memory_picture_service.h"
 
 namespace norvex::kit {
 

@@ -6,7 +6,7 @@
 #include "document/document_controller.h"
 #include "document/memory_window_controller.h"
 #include "kit/test_main.h"
-#include "platform/picture/null_picture_service.h"
+#include "picture/process/null_picture_service.h"
 
 using namespace norvex;
 

@@ -10,9 +10,9 @@
 #include "document/print_settings.h"
 #include "document/print_titles.h"
 #include "kit/test_main.h"
-#include "platform/picture/null_picture_service.h"
-#include "platform/print/memory_printing.h"
-#include "platform/print/print_info_archive.h"
+#include "picture/process/null_picture_service.h"
+#include "print/memory_printing.h"
+#include "print/print_info_archive.h"
 
 using namespace norvex;
 using kit::MemorySpooler;

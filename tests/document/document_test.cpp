@@ -8,9 +8,9 @@
 #include "document/memory_window_controller.h"
 #include "document/unimplemented_method.h"
 #include "kit/test_main.h"
-#include "platform/bundle.h"
-#include "platform/picture/null_picture_service.h"
-#include "platform/uniform_type.h"
+#include "base/bundle.h"
+#include "picture/process/null_picture_service.h"
+#include "types/uniform_type.h"
 
 using namespace norvex;
 

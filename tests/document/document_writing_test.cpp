@@ -7,9 +7,9 @@
 #include "document/picture_producers.h"
 #include "document/unimplemented_method.h"
 #include "kit/test_main.h"
-#include "platform/alert.h"
-#include "platform/picture/image_rep.h"
-#include "platform/picture/null_picture_service.h"
+#include "desktop/alert.h"
+#include "picture/image_rep.h"
+#include "picture/process/null_picture_service.h"
 
 using namespace norvex;
 

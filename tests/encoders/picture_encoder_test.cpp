@@ -7,10 +7,10 @@
 
 #include "encoders/dos_eps_writer.h"
 #include "kit/test_main.h"
-#include "platform/picture/eps_image_rep.h"
-#include "platform/picture/memory_picture_service.h"
-#include "platform/picture/pdf_image_rep.h"
-#include "platform/picture/web_image_rep.h"
+#include "picture/eps_image_rep.h"
+#include "picture/process/memory_picture_service.h"
+#include "picture/pdf_image_rep.h"
+#include "picture/web_image_rep.h"
 
 using namespace norvex;
 

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "kit/test_main.h"
+#include "picture/bitmap_image.h"
 
 using namespace norvex;
 
@@ -19,7 +20,7 @@ NSBitmapImageRep sample(bool alpha) {
     image.setPixelColor(1, y, alpha ? QColor(0, 200, 0, 128) : QColor(0, 200, 0));
     image.setPixelColor(2, y, alpha ? QColor(0, 0, 0, 0) : QColor(9, 9, 9));
   }
-  return NSBitmapImageRep::fromImage(image);
+  return bitmapFromImage(image);
 }
 
 QByteArray sRGB() {
@@ -128,7 +129,7 @@ class RasterCodecsTest : public QObject {
                                : sort == 2           ? colour
                                                      : random.generate() | 0xff000000);
       }
-      const QImage back = QImage::fromData(encodePng(NSBitmapImageRep::fromImage(image), {}));
+      const QImage back = QImage::fromData(encodePng(bitmapFromImage(image), {}));
       QCOMPARE(back.convertToFormat(image.format()), image);
     }
   }
@@ -161,7 +162,7 @@ class RasterCodecsTest : public QObject {
     for (int y = 0; y < 90; ++y)
       for (int x = 0; x < 120; ++x) image.setPixelColor(x, y, QColor(40 + x, 200 - y, (x * 7) % 256, (x * 2 + y) % 256));
     const QByteArray bytes =
-        encodeGif(NSBitmapImageRep::fromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied)), {});
+        encodeGif(bitmapFromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied)), {});
     const QImage read = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32);
     QCOMPARE(read.size(), image.size());
     double sum = 0;
@@ -181,7 +182,7 @@ class RasterCodecsTest : public QObject {
   void aGifOfNothingIsTransparent() {
     QImage image(20, 10, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    const QImage read = QImage::fromData(encodeGif(NSBitmapImageRep::fromImage(image), {}));
+    const QImage read = QImage::fromData(encodeGif(bitmapFromImage(image), {}));
     QCOMPARE(read.size(), image.size());
     QCOMPARE(read.pixelColor(7, 7).alpha(), 0);
   }
@@ -190,7 +191,7 @@ class RasterCodecsTest : public QObject {
     for (int y = 0; y < 200; ++y) {
       for (int x = 0; x < 200; ++x) image.setPixelColor(x, y, QColor(x, y, (x * y) % 256));
     }
-    const QByteArray bytes = encodeGif(NSBitmapImageRep::fromImage(image), {});
+    const QByteArray bytes = encodeGif(bitmapFromImage(image), {});
     const QString said = say(bytes, QStringLiteral("gif"), {QStringLiteral("identify")});
     QVERIFY2(said.contains(QStringLiteral("200x200")) && said.contains(QStringLiteral("256c")),
              qPrintable(said));

@@ -10,7 +10,7 @@
 #include "metadata/eps_header.h"
 #include "metadata/source_text.h"
 #include "metadata/text_encoding.h"
-#include "platform/type_identification.h"
+#include "types/type_identification.h"
 
 namespace norvex::fuzz {
 

@@ -11,7 +11,7 @@
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "system/outside_programs.h"
-#include "worker/process_watch.h"
+#include "kit/process_watch.h"
 
 using namespace norvex;
 using namespace norvex::kit;

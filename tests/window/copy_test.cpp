@@ -6,12 +6,12 @@
 #include <QUrl>
 
 #include "kit/test_main.h"
-#include "platform/memory_pasteboard.h"
-#include "platform/picture/web_image_rep.h"
-#include "platform/qt/dragged_file_data.h"
-#include "platform/qt/message_bar.h"
-#include "platform/qt/norvex_view_widget.h"
-#include "platform/qt/qt_pasteboard.h"
+#include "desktop/memory_pasteboard.h"
+#include "picture/web_image_rep.h"
+#include "ui/picture/dragged_file_data.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/panels/qt_pasteboard.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

@@ -7,14 +7,14 @@
 
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
-#include "platform/qt/color_well.h"
-#include "platform/qt/message_bar.h"
-#include "platform/qt/norvex_view_widget.h"
-#include "platform/qt/number_field.h"
-#include "platform/qt/zooming_scroll_area.h"
-#include "platform/qt/zy_dial_knob.h"
-#include "platform/qt/zy_form.h"
-#include "platform/qt/zy_image_view.h"
+#include "ui/controls/color_well.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/controls/number_field.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/controls/zy_form.h"
+#include "ui/picture/zy_image_view.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

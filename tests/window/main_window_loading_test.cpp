@@ -11,19 +11,20 @@
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
 #include "metadata/binary_eps.h"
-#include "platform/picture/eps_image_rep.h"
-#include "platform/picture/pdf_image_rep.h"
-#include "platform/picture/web_image_rep.h"
-#include "platform/qt/color_well.h"
-#include "platform/qt/message_bar.h"
-#include "platform/qt/norvex_view_widget.h"
-#include "platform/qt/number_field.h"
-#include "platform/qt/number_matrix.h"
-#include "platform/qt/path_control.h"
-#include "platform/qt/source_text_view.h"
-#include "platform/qt/zy_dial_knob.h"
-#include "platform/qt/zy_form.h"
-#include "platform/qt/zy_image_view.h"
+#include "picture/bitmap_image.h"
+#include "picture/eps_image_rep.h"
+#include "picture/pdf_image_rep.h"
+#include "picture/web_image_rep.h"
+#include "ui/controls/color_well.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/controls/number_field.h"
+#include "ui/controls/number_matrix.h"
+#include "ui/controls/path_control.h"
+#include "ui/source/source_text_view.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/controls/zy_form.h"
+#include "ui/picture/zy_image_view.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -49,7 +50,7 @@ QStringList formTexts(const MainWindowController& c) {
 NSBitmapImageRep smallPreview() {
   QImage image(4, 3, QImage::Format_RGB32);
   image.fill(Qt::red);
-  return NSBitmapImageRep::fromImage(image);
+  return bitmapFromImage(image);
 }
 
 MemoryPicture svgPicture(std::optional<QRectF> viewBox, std::optional<bool> fixedX = {}, std::optional<bool> fixedY = {}) {

@@ -3,10 +3,10 @@
 #include <QSignalSpy>
 
 #include "kit/test_main.h"
-#include "platform/qt/loading_card.h"
-#include "platform/qt/message_bar.h"
-#include "platform/qt/norvex_view_widget.h"
-#include "platform/qt/zooming_scroll_area.h"
+#include "ui/picture/loading_card.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

@@ -6,8 +6,8 @@
 
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
-#include "platform/print/memory_printing.h"
-#include "platform/qt/norvex_view_widget.h"
+#include "print/memory_printing.h"
+#include "ui/picture/norvex_view_widget.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "kit/test_main.h"
-#include "platform/picture/eps_image_rep.h"
-#include "platform/picture/memory_picture_service.h"
-#include "platform/picture/web_image_rep.h"
+#include "picture/eps_image_rep.h"
+#include "picture/process/memory_picture_service.h"
+#include "picture/web_image_rep.h"
 #include "window/picture_formats.h"
 
 using namespace norvex;

@@ -1,5 +1,5 @@
 // What somebody at the screen sees of printing: progress, failures, the sheet, printers that come and go.
-#include "platform/qt/print_interaction.h"
+#include "ui/print/print_interaction.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -15,12 +15,12 @@
 #include <cmath>
 
 #include "kit/test_main.h"
-#include "platform/picture/null_picture_service.h"
-#include "platform/print/memory_printing.h"
-#include "platform/qt/page_layout_preview.h"
-#include "platform/qt/page_layout_sheet.h"
-#include "platform/qt/print_panel.h"
-#include "platform/qt/zy_page_layout_accessory.h"
+#include "picture/process/null_picture_service.h"
+#include "print/memory_printing.h"
+#include "ui/print/page_layout_preview.h"
+#include "ui/print/page_layout_sheet.h"
+#include "ui/print/print_panel.h"
+#include "ui/print/zy_page_layout_accessory.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

@@ -2,8 +2,8 @@
 #include "display/norvex_view.h"
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
-#include "platform/qt/message_bar.h"
-#include "platform/qt/zooming_scroll_area.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

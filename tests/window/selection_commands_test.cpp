@@ -10,8 +10,8 @@
 #include <QTest>
 
 #include "kit/test_main.h"
-#include "platform/qt/norvex_view_widget.h"
-#include "platform/qt/zooming_scroll_area.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "window/selection_description.h"
 #include "window/window_fixture.h"
 

@@ -5,9 +5,9 @@
 #include <QToolButton>
 
 #include "kit/test_main.h"
-#include "platform/print/memory_printing.h"
-#include "platform/qt/touch_strip.h"
-#include "platform/save_panel.h"
+#include "print/memory_printing.h"
+#include "ui/controls/touch_strip.h"
+#include "desktop/save_panel.h"
 #include "window/touch_bar.h"
 #include "window/window_fixture.h"
 

@@ -9,9 +9,9 @@
 #include <memory>
 
 #include "document/document.h"
-#include "platform/alert.h"
-#include "platform/picture/memory_picture_service.h"
-#include "platform/uniform_type.h"
+#include "desktop/alert.h"
+#include "picture/process/memory_picture_service.h"
+#include "types/uniform_type.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {

@@ -3,7 +3,7 @@
 
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
-#include "platform/qt/zooming_scroll_area.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

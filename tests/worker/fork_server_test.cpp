@@ -2,7 +2,7 @@
 
 #include <QTemporaryDir>
 
-#include "forked_check.h"
+#include "kit/forked_check.h"
 #include "kit/test_main.h"
 
 using namespace norvex;

@@ -7,7 +7,7 @@
 
 #include <cerrno>
 
-#include "forked_check.h"
+#include "kit/forked_check.h"
 #include "kit/test_main.h"
 
 using namespace norvex;

@@ -10,8 +10,8 @@
 #include <csignal>
 
 #include "kit/raw_message.h"
-#include "platform/message_channel.h"
-#include "platform/sealed_memory.h"
+#include "protocol/message_channel.h"
+#include "protocol/sealed_memory.h"
 #include "worker/worker_program.h"
 
 using namespace norvex;

@@ -1,0 +1,44 @@
+#include "application/application_events.h"
+
+#include <new>
+
+#include "document/unimplemented_method.h"
+#include "base/localized_string.h"
+
+namespace norvex {
+
+ApplicationEvents::ApplicationEvents(QObject* parent) : QObject(parent) {
+  handOver_.setSingleShot(true);
+  handOver_.setInterval(handOverMilliseconds);
+  connect(&handOver_, &QTimer::timeout, this, [this] {
+    wasActive_ = false;
+    emit didResignActive();
+  });
+}
+
+bool ApplicationEvents::guard(const std::function<bool()>& deliver) {
+  QString reason;
+  try {
+    return deliver();
+  } catch (const UnimplementedMethod& exception) {
+    // What can be done about it says more than that it is not done.
+    reason = exception.suggestion().isEmpty() ? exception.reason() : exception.suggestion();
+    if (reason.endsWith(u'.')) reason.chop(1);
+  } catch (const std::bad_alloc&) {
+    reason = localizedString("There is not enough memory for this");
+  }
+  QMetaObject::invokeMethod(
+      this, [this, reason] { emit operationFailed(reason); }, Qt::QueuedConnection);
+  return true;
+}
+
+void ApplicationEvents::setState(Qt::ApplicationState state) {
+  if (state == Qt::ApplicationActive) {
+    wasActive_ = true;
+    handOver_.stop();
+  } else if (wasActive_) {
+    handOver_.start();
+  }
+}
+
+}  // namespace norvex

@@ -1,0 +1,75 @@
+// DocumentApplication: joins the documents, the start panel and the desktop.
+#pragma once
+
+#include <QCoreApplication>
+#include <QList>
+#include <QObject>
+#include <QSettings>
+#include <QUrl>
+
+#include <memory>
+
+#include "document/app_delegate.h"
+#include "document/document_controller.h"
+#include "desktop/alert.h"
+#include "application/application_events.h"
+#include "application/dropped_files.h"
+#include "application/recent_files.h"
+#include "application/start_panel.h"
+
+class QMainWindow;
+class QMenu;
+
+namespace norvex {
+
+/// Stands where the platform's document machinery would: opens what is asked for, remembers it, watches it on
+/// disk, shows the start panel while nothing is open, and tells failures in plain sentences. Main thread.
+class DocumentApplication final : public QObject {
+  Q_OBJECT
+ public:
+  /// The events, the service and what `factory` refers to must outlive this object.
+  DocumentApplication(
+      ApplicationEvents& events, PictureService& service, DocumentWindowControllerFactory factory,
+      AppDelegate::Terminate terminate = [](QObject*) { QCoreApplication::quit(); });
+  ~DocumentApplication() override;
+
+  /// Opens the files; without any, shows the start panel.
+  void start(const QList<QUrl>& files);
+  /// Asks for files and opens them.
+  void runOpenPanel();
+
+  [[nodiscard]] DocumentController& documents() { return documents_; }
+  [[nodiscard]] StartPanel& startPanel() { return *startPanel_; }
+  [[nodiscard]] RecentFiles& recentFiles() { return recent_; }
+  /// Who shows alerts; a test may put its own. Not owned.
+  void setAlertPresenter(AlertPresenter* presenter) { alerts_ = presenter; }
+
+ private:
+  void connectParts();
+  void documentDidOpen(Document* document);
+  void documentDidClose(Document* document);
+  void showFailure(const OpenFailure& failure);
+  void showOperationFailure(const QString& reason);
+  void runModal(const Alert& alert);
+  void applicationDidResignActive();
+  void startPanelDismissed();
+  /// The panel is there exactly while nothing else is.
+  void updateStartPanel();
+  /// Gives a document's window what the platform's menu bar would hold for every document, and makes it take
+  /// files.
+  void equipWindow(QMainWindow* window);
+  void fillRecentMenu(QMenu* menu);
+
+  ApplicationEvents& events_;
+  QSettings settings_;
+  RecentFiles recent_;
+  DocumentController documents_;
+  AppDelegate delegate_;
+  FileDropTarget drops_;
+  std::unique_ptr<StartPanel> startPanel_;
+  std::unique_ptr<AlertPresenter> ownAlerts_;
+  AlertPresenter* alerts_;
+  int modal_ = 0;  ///< panels and alerts on the screen
+};
+
+}  // namespace norvex

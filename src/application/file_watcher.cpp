@@ -1,0 +1,89 @@
+#include "application/file_watcher.h"
+
+#include <QCryptographicHash>
+#include <QFileInfo>
+
+#include "picture/document_file.h"
+
+namespace norvex {
+namespace {
+
+/// Whether a file that is still being written could look like this. Only what every whole file of its kind
+/// has is asked for: a PDF's end mark, an SVG's last bracket.
+bool looksWhole(const QByteArray& bytes) {
+  if (bytes.isEmpty()) return false;
+  if (bytes.startsWith("%PDF-")) return bytes.last(qMin<qsizetype>(bytes.size(), 1024)).contains("%%EOF");
+  if (bytes.startsWith('<')) return bytes.trimmed().endsWith('>');
+  return true;
+}
+
+}  // namespace
+
+/// What one reading of the file found.
+struct FileWatcher::Look {
+  QByteArray digest;  ///< empty when the file cannot be read now
+  bool whole = false;
+};
+
+FileWatcher::FileWatcher(const QString& path, int settlingMilliseconds, QObject* parent)
+    : QObject(parent), path_(path) {
+  thread_.setMaxThreadCount(1);
+  settling_.setSingleShot(true);
+  settling_.setInterval(settlingMilliseconds);
+  connect(&settling_, &QTimer::timeout, this, &FileWatcher::look);
+  const auto touched = [this] {
+    watchAgain();
+    ++turn_;
+    settling_.start();
+  };
+  connect(&watcher_, &QFileSystemWatcher::fileChanged, this, touched);
+  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this, touched] {
+    // A folder changes for many reasons; only the file's coming back is news.
+    if (!watcher_.files().contains(path_) && QFileInfo::exists(path_)) touched();
+  });
+  watchAgain();
+  look();
+}
+
+FileWatcher::~FileWatcher() {
+  thread_.clear();
+  thread_.waitForDone();
+}
+
+void FileWatcher::watchAgain() {
+  const QString folder = QFileInfo(path_).absolutePath();
+  if (!watcher_.directories().contains(folder)) watcher_.addPath(folder);
+  if (!watcher_.files().contains(path_) && QFileInfo::exists(path_)) watcher_.addPath(path_);
+}
+
+void FileWatcher::acknowledge() {
+  acknowledging_ = true;
+  look();
+}
+
+void FileWatcher::look() {
+  const int turn = ++turn_;
+  thread_.start([this, turn, path = path_] {
+    Look result;
+    if (const Result<QByteArray> bytes = readDocumentFile(path))
+      result = {QCryptographicHash::hash(*bytes, QCryptographicHash::Sha1), looksWhole(*bytes)};
+    QMetaObject::invokeMethod(
+        this, [this, result, turn] { finishLook(result, turn); }, Qt::QueuedConnection);
+  });
+}
+
+void FileWatcher::finishLook(const Look& look, int turn) {
+  if (turn != turn_) return;  // the file was touched again; a later look follows
+  watchAgain();
+  if (acknowledging_) {
+    acknowledging_ = false;
+    known_ = look.digest;
+    return;
+  }
+  if (!look.whole || look.digest == known_)
+    return;  // gone, half written (its next part is told), or only touched
+  known_ = look.digest;
+  emit fileDidChange();
+}
+
+}  // namespace norvex

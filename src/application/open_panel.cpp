@@ -1,0 +1,36 @@
+#include "application/open_panel.h"
+
+#include <QDir>
+#include <QFileDialog>
+
+#include "document/document_types.h"
+#include "base/localized_string.h"
+
+namespace norvex {
+namespace {
+
+/// "Title (*.eps *.EPS)": the panel's patterns tell letter cases apart, files from old disks are in capitals.
+QString filter(const char* title, const QStringList& extensions) {
+  QStringList patterns;
+  for (const QString& extension : extensions) patterns << "*." + extension << "*." + extension.toUpper();
+  return localizedString(title) + " (" + patterns.join(' ') + ')';
+}
+
+}  // namespace
+
+QStringList openPanelFilters() {
+  return {filter("Pictures", documentFilenameExtensions()),
+          filter("Encapsulated PostScript", {"eps", "epsi", "epsf"}),
+          filter("Illustrator", {"ai"}),
+          filter("PDF", {"pdf"}),
+          filter("SVG", {"svg", "svgz"}),
+          localizedString("All files") + " (*)"};
+}
+
+QList<QUrl> runOpenPanel(QWidget* parent, const QString& folder) {
+  return QFileDialog::getOpenFileUrls(parent, localizedString("Open"),
+                                      QUrl::fromLocalFile(folder.isEmpty() ? QDir::homePath() : folder),
+                                      openPanelFilters().join(";;"), nullptr, {}, {"file"});
+}
+
+}  // namespace norvex

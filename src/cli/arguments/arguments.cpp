@@ -1,0 +1,149 @@
+#include "cli/arguments/arguments.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+
+#include "cli/arguments/suggestion.h"
+
+namespace norvex {
+namespace {
+
+/// The options that the window system's library takes off the arguments, with one dash or two.
+bool isWindowSystemOption(const QString& argument) {
+  static const QStringList names{"platform",        "platformpluginpath",
+                                 "platformtheme",   "plugin",
+                                 "qwindowgeometry", "qwindowicon",
+                                 "qwindowtitle",    "reverse",
+                                 "session",         "style",
+                                 "stylesheet",      "display",
+                                 "qmljsdebugger",   "widgetcount"};
+  return names.contains(argument.mid(2).section(QLatin1Char('='), 0, 0));
+}
+
+std::optional<Command> commandOf(const QString& name) {
+  for (const CommandRow& row : commandTable())
+    if (*row.name && name == QLatin1String(row.name)) return row.id;
+  return {};
+}
+
+QCommandLineOption parserOption(const OptionRow& row) {
+  QStringList names{QString::fromLatin1(row.name)};
+  if (row.letter) names.prepend(QString(QLatin1Char(row.letter)));
+  return row.value ? QCommandLineOption(names, {}, QString::fromLatin1(row.value))
+                   : QCommandLineOption(names);
+}
+
+QString wrongNumberOfFiles(const CommandRow& row, qsizetype count) {
+  if (count < row.fewestFiles) return QStringLiteral("no file is given");
+  if (row.mostFiles >= 0 && count > row.mostFiles) return QStringLiteral("only one file can be given");
+  return {};
+}
+
+QString perhaps(const std::optional<QString>& meant) {
+  return meant ? QStringLiteral(", perhaps %1 is meant").arg(*meant) : QString();
+}
+
+QString unknownCommand(const QString& name) {
+  QStringList names;
+  for (const CommandRow& row : commandTable())
+    if (*row.name) names << QString::fromLatin1(row.name);
+  return QStringLiteral("there is no command %1, and no file of that name").arg(name) +
+         perhaps(nearestName(name, names));
+}
+
+/// `name` comes without the dashes that it was given with.
+QString unknownOption(const QString& name, const QStringList& given, const QList<OptionRow>& rows) {
+  const QString dashed = QStringLiteral("--") + name;
+  const bool isLong = std::any_of(given.begin(), given.end(), [&](const QString& argument) {
+    return argument == dashed || argument.startsWith(dashed + u'=');
+  });
+  if (!isLong) return QStringLiteral("there is no option -%1").arg(name);
+  QStringList names;
+  for (const OptionRow& row : rows) names << QStringLiteral("--") + QLatin1String(row.name);
+  return QStringLiteral("there is no option %1").arg(dashed) + perhaps(nearestName(dashed, names));
+}
+
+QString complaintOf(const QCommandLineParser& parser, const QStringList& given,
+                    const QList<OptionRow>& rows) {
+  const QStringList unknown = parser.unknownOptionNames();
+  if (!unknown.isEmpty()) return unknownOption(unknown.first(), given, rows);
+  QString text = parser.errorText();
+  if (text.endsWith(QLatin1Char('.'))) text.chop(1);
+  return text.left(1).toLower() + text.mid(1);
+}
+
+QString wrongValue(const OptionRow& row, const QString& value) {
+  if (!row.choices || QString::fromLatin1(row.choices).split(' ').contains(value)) return {};
+  return QStringLiteral("--%1 is one of: %2").arg(QLatin1String(row.name), QLatin1String(row.choices));
+}
+
+/// Of two values one would be passed over in silence.
+QString givenTwice(const QCommandLineParser& parser, const QList<OptionRow>& rows) {
+  for (const OptionRow& row : rows)
+    if (row.value && parser.values(QString::fromLatin1(row.name)).size() > 1)
+      return QStringLiteral("--%1 is given more than once").arg(QLatin1String(row.name));
+  return {};
+}
+
+/// Help and version are answered whatever else is missing.
+bool standsAlone(const Arguments& arguments) {
+  for (const Option option : {Option::Help, Option::Version, Option::SandboxStatus, Option::Completion})
+    if (arguments.has(option)) return true;
+  return false;
+}
+
+QString complaintAbout(const Arguments& arguments) {
+  for (auto it = arguments.values.begin(); it != arguments.values.end(); ++it)
+    if (const QString wrong = wrongValue(rowOf(it.key()), it.value()); !wrong.isEmpty()) return wrong;
+  if (standsAlone(arguments)) return {};
+  if (const QString wrong = wrongNumberOfFiles(rowOf(arguments.command), arguments.files.size());
+      !wrong.isEmpty())
+    return wrong;
+  if (arguments.files.count(QStringLiteral("-")) > 1)
+    return QStringLiteral("standard input can be read only once");
+  if (arguments.command == Command::Preview && !arguments.has(Option::Output))
+    return QStringLiteral("no output is given (-o OUT)");
+  return {};
+}
+
+}  // namespace
+
+ReadArguments readArguments(const QStringList& given) {
+  ReadArguments read;
+  QStringList rest = given;
+  if (const auto command = given.isEmpty() ? std::nullopt : commandOf(given.first())) {
+    read.arguments.command = *command;
+    rest.removeFirst();
+  } else if (!given.isEmpty() && !given.first().startsWith(u'-')) {
+    read.complaint = unknownCommand(given.first());
+    return read;
+  }
+  QCommandLineParser parser;
+  const QList<OptionRow> rows = optionsOf(read.arguments.command);
+  for (const OptionRow& row : rows) parser.addOption(parserOption(row));
+  if (!parser.parse(QStringList{QStringLiteral("norvex")} + rest)) {
+    read.complaint = complaintOf(parser, rest, rows);
+    return read;
+  }
+  Arguments full{read.arguments.command, parser.positionalArguments(), {}};
+  for (const OptionRow& row : rows)
+    if (const QString name = QString::fromLatin1(row.name); parser.isSet(name))
+      full.values.insert(row.id, parser.value(name));
+  read.complaint = complaintAbout(full);
+  if (read.complaint.isEmpty() && !standsAlone(full)) read.complaint = givenTwice(parser, rows);
+  if (read.complaint.isEmpty()) read.arguments = full;
+  return read;
+}
+
+bool asksForCommandLine(const QString& first) {
+  if (commandOf(first)) return true;
+  if (first == QLatin1String("-h") || first == QLatin1String("-v")) return true;
+  return first.startsWith(QLatin1String("--")) && first.size() > 2 && !isWindowSystemOption(first);
+}
+
+bool looksLikeCommand(const QString& first) {
+  return !first.isEmpty() && std::all_of(first.begin(), first.end(), [](QChar c) { return c.isLetter(); });
+}
+
+}  // namespace norvex

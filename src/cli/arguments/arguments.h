@@ -1,0 +1,40 @@
+// The arguments of one run, read against the table.
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+#include "cli/arguments/command_table.h"
+
+namespace norvex {
+
+/// What a run is asked to do. A value.
+struct Arguments {
+  Command command = Command::Main;
+  QStringList files;  ///< as they were given; "-" is standard input
+  QHash<Option, QString> values;
+
+  [[nodiscard]] bool has(Option option) const { return values.contains(option); }
+};
+
+/// Arguments, or why they are wrong in one sentence.
+struct ReadArguments {
+  Arguments arguments;  ///< when wrong: the command alone
+  QString complaint;    ///< empty: nothing is wrong
+};
+
+/// Reads the arguments behind the program's name. Options may stand before and behind files, "--" ends them.
+[[nodiscard]] ReadArguments readArguments(const QStringList& given);
+
+/// Whether `first`, the argument behind the program's name, asks for the command line and not for a window: a
+/// command, or something that begins with two dashes and is not an option of the window system.
+[[nodiscard]] bool asksForCommandLine(const QString& first);
+
+/// Whether it is written as commands are, in letters alone. Where no file of that name is there, it is a
+/// command that does not exist, and is answered as one.
+[[nodiscard]] bool looksLikeCommand(const QString& first);
+
+}  // namespace norvex

@@ -1,0 +1,73 @@
+#include "cli/arguments/help_text.h"
+
+namespace norvex {
+namespace {
+
+constexpr char kEnd[] =
+    "\nFILE and OUT may be -: standard input or output.\n"
+    "\nExit codes: 0 all done, 1 some file failed, 2 wrong usage, 3 cannot read or parse,\n"
+    "4 cannot write, 5 a limit was reached, 6 no sandbox could be set up, 130 interrupted.\n";
+
+/// `help` beside a column of names, broken at blanks so that lines stay narrow.
+QString besideNames(const QString& names, int column, const QString& help) {
+  constexpr int widest = 96;
+  QString text = QStringLiteral("  %1").arg(names, -column);
+  qsizetype used = text.size();
+  for (const QString& word : help.split(QLatin1Char(' '))) {
+    if (used + 1 + word.size() > widest) {
+      text += QLatin1Char('\n') + QString(column + 2, QLatin1Char(' '));
+      used = column + 2;
+    }
+    text += QLatin1Char(' ') + word;
+    used += 1 + word.size();
+  }
+  return text + QLatin1Char('\n');
+}
+
+QString usageOf(const CommandRow& row) {
+  QString line = QStringLiteral("norvex");
+  if (*row.name) line += QLatin1Char(' ') + QLatin1String(row.name);
+  return line + QLatin1Char(' ') + QLatin1String(row.operands);
+}
+
+QString formsOf(const OptionRow& row) {
+  QString forms = row.letter ? QStringLiteral("-%1, ").arg(QLatin1Char(row.letter)) : QStringLiteral("    ");
+  forms += QStringLiteral("--%1").arg(QLatin1String(row.name));
+  if (row.value) forms += QLatin1Char(' ') + QLatin1String(row.value);
+  return forms;
+}
+
+QString optionLines(Command command) {
+  QString lines = QStringLiteral("\nOptions:\n");
+  for (const OptionRow& row : optionsOf(command)) {
+    QString help = QLatin1String(row.help);
+    if (row.choices) help += QStringLiteral(" (%1)").arg(QString::fromLatin1(row.choices).replace(' ', ", "));
+    lines += besideNames(formsOf(row), 24, help);
+  }
+  return lines;
+}
+
+}  // namespace
+
+QString helpText(Command command) {
+  QString text;
+  if (command != Command::Main) {
+    const CommandRow& row = rowOf(command);
+    text = QStringLiteral("Usage: %1 [options]\n%2.\n").arg(usageOf(row), QString::fromLatin1(row.help));
+    text[text.indexOf('\n') + 1] = text[text.indexOf('\n') + 1].toUpper();
+    return text + optionLines(command) + QLatin1String(kEnd);
+  }
+  text = QStringLiteral(
+      "Norvex shows EPS, Illustrator, PDF and SVG pictures and hands out parts of them as vectors.\n\n");
+  text += QStringLiteral("Usage:\n");
+  for (const CommandRow& row : commandTable()) text += besideNames(usageOf(row), 28, QLatin1String(row.help));
+  text += optionLines(command);
+  text += QStringLiteral("\nnorvex COMMAND --help shows the options of a command.\n");
+  return text + QLatin1String(kEnd);
+}
+
+QString versionText() {
+  return QStringLiteral("norvex %1\n").arg(QLatin1String(NORVEX_VERSION));
+}
+
+}  // namespace norvex

@@ -1,0 +1,179 @@
+#include "picture/client/worker_client.h"
+
+#include "picture/client/worker_answers.h"
+#include "protocol/sealed_memory.h"
+
+#include <utility>
+
+namespace norvex {
+namespace {
+
+/// Engines that watch the time themselves get this long to say so before their process is killed, in
+/// milliseconds.
+constexpr qint64 kGrace = 1000;
+
+Error cancelled() {
+  return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
+}
+
+/// Whether the document itself is the reason, so that another try would end the same way.
+bool isFinal(ErrorKind kind) {
+  return kind != ErrorKind::TimedOut && kind != ErrorKind::Cancelled && kind != ErrorKind::Died &&
+         kind != ErrorKind::Protocol;
+}
+
+}  // namespace
+
+WorkerClient::WorkerClient(std::shared_ptr<WorkerStarter> starter, QByteArray bytes, PictureKind kind,
+                           const ForkRequest& process, std::unique_ptr<WorkerConnection> connection)
+    : starter_(std::move(starter)),
+      bytes_(std::move(bytes)),
+      kind_(kind),
+      process_(process),
+      connection_(std::move(connection)) {
+  (void)beginToOpen();  // the first call tries again and tells why not
+}
+
+WorkerClient::~WorkerClient() = default;
+
+QDeadlineTimer WorkerClient::deadline() const {
+  return QDeadlineTimer(qint64(process_.limits.seconds) * 1000 + kGrace);
+}
+
+Result<void> WorkerClient::beginToOpen() {
+  if (!connection_ || !connection_->isUsable()) {
+    connection_.reset();
+    auto opened = WorkerConnection::open(starter_, process_);
+    if (!opened) return opened.error();
+    connection_ = std::move(*opened);
+  }
+  const Result<FileDescriptor> memory = SealedMemory::seal(bytes_);
+  if (!memory) return memory.error();
+  const Result<quint32> id = connection_->post(OpenRequest{kind_, process_.limits}, *memory);
+  if (!id) return connection_.reset(), id.error();
+  opening_ = *id;
+  openDeadline_ = deadline();
+  return {};
+}
+
+template <typename T>
+Result<T> WorkerClient::distrusted(Result<T> result) {
+  // What has lied once, or has died, is not asked again.
+  if (!result && (result.error().kind == ErrorKind::Protocol || result.error().kind == ErrorKind::Died))
+    connection_.reset();
+  return result;
+}
+
+Result<PictureFacts> WorkerClient::finishOpening(const CancelToken& cancel) {
+  Result<WorkerAnswer> answer = connection_->wait(opening_, openDeadline_, cancel);
+  if (!answer && connection_->hasNotComeUp()) {
+    // Another one will tell why, or do better.
+    const QDeadlineTimer first = openDeadline_;
+    connection_.reset();
+    if (auto begun = beginToOpen(); !begun) return begun.error();
+    openDeadline_ = first;
+    answer = connection_->wait(opening_, openDeadline_, cancel);
+  }
+  Result<PictureFacts> facts = answer ? distrusted(factsFrom(std::move(*answer))) : answer.error();
+  opening_ = 0;
+  if (!facts) connection_.reset();  // also after an obeyed cancel: the document is not open there
+  if (facts || isFinal(facts.error().kind)) {
+    const std::lock_guard lock(outcomeMutex_);
+    if (!outcome_) outcome_ = facts;
+  }
+  return facts;
+}
+
+std::optional<Result<PictureFacts>> WorkerClient::known() const {
+  const std::lock_guard lock(outcomeMutex_);
+  return outcome_;
+}
+
+Result<PictureFacts> WorkerClient::facts(const CancelToken& cancel) {
+  if (auto outcome = known()) return *outcome;
+  const auto turn = turns_.take(cancel);
+  if (!turn) return cancelled();
+  if (auto outcome = known()) return *outcome;
+  if (!connection_) {
+    if (auto begun = beginToOpen(); !begun) return begun.error();
+  }
+  return finishOpening(cancel);
+}
+
+/// REQUIRES the caller's turn.
+Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory) {
+  if (auto outcome = known(); outcome && !*outcome) return outcome->error();
+  if (cancel.cancelled()) return cancelled();
+  if (connection_ && opening_ == 0 && !connection_->isUsable()) connection_.reset();
+  if (!connection_) {
+    if (auto begun = beginToOpen(); !begun) return begun.error();
+  }
+  if (opening_ != 0) {
+    if (auto facts = finishOpening(cancel); !facts) return facts.error();
+  }
+  const Result<quint32> id = connection_->post(std::move(body), memory);
+  if (!id) return id.error();
+  Result<WorkerAnswer> answer = connection_->wait(*id, deadline(), cancel);
+  if (!answer && !connection_->isUsable()) connection_.reset();
+  return answer;
+}
+
+Result<QImage> WorkerClient::render(const RenderRequest& request, const CancelToken& cancel) {
+  const QSize size = request.pixelSize;
+  if (double(size.width()) * size.height() > process_.limits.megapixels * 1.0e6)
+    return Error{ErrorKind::Limit, QStringLiteral("the picture would have more pixels than it is allowed")};
+  const auto turn = turns_.take(cancel);
+  if (!turn) return cancelled();
+  Result<WorkerAnswer> answer = ask(request, cancel);
+  if (!answer) return answer.error();
+  QStringList remarks;
+  Result<QImage> image = distrusted(imageFrom(std::move(*answer), size, remarks));
+  const std::lock_guard lock(outcomeMutex_);
+  for (const QString& remark : std::as_const(remarks))
+    if (!remarks_.contains(remark) && remarks_.size() < maximumWarnings) remarks_ << remark;
+  return image;
+}
+
+QStringList WorkerClient::drawingRemarks() const {
+  const std::lock_guard lock(outcomeMutex_);
+  return remarks_;
+}
+
+Result<PictureBytes> WorkerClient::askForBytes(RequestBody body, const CancelToken& cancel,
+                                               const FileDescriptor& memory) {
+  const auto turn = turns_.take(cancel);
+  if (!turn) return cancelled();
+  Result<WorkerAnswer> answer = ask(std::move(body), cancel, memory);
+  return answer ? distrusted(bytesFrom(std::move(*answer), process_.limits)) : answer.error();
+}
+
+Result<PictureBytes> WorkerClient::pdf(const PdfRequest& request, const CancelToken& cancel) {
+  return askForBytes(request, cancel);
+}
+
+Result<PictureBytes> WorkerClient::compose(const ComposeRequest& request, const CancelToken& cancel) {
+  return askForBytes(request, cancel);
+}
+
+Result<PictureBytes> WorkerClient::svg(const SvgRequest& request, const CancelToken& cancel) {
+  return askForBytes(request, cancel);
+}
+
+Result<PictureBytes> WorkerClient::setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+                                                    const CancelToken& cancel) {
+  const Result<FileDescriptor> memory = SealedMemory::seal(pdf);
+  return memory ? askForBytes(attributes, cancel, *memory) : Result<PictureBytes>(memory.error());
+}
+
+void WorkerClient::retire() {
+  const auto turn = turns_.take({});
+  connection_.reset();
+  opening_ = 0;
+}
+
+qint64 WorkerClient::processId() {
+  const auto turn = turns_.take({});
+  return connection_ ? connection_->processId() : 0;
+}
+
+}  // namespace norvex

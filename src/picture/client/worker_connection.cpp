@@ -1,0 +1,153 @@
+#include "picture/client/worker_connection.h"
+
+#include <poll.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+
+namespace norvex {
+namespace {
+
+constexpr qint64 kCancelGrace = 300;  ///< milliseconds that a cancelled request has to answer
+constexpr qint64 kSlice = 10;         ///< milliseconds after which a cancel is noticed
+constexpr qint64 kFarewell = 200;     ///< milliseconds to learn a process's number, only to kill it
+
+Error cancelled() {
+  return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
+}
+Error timedOut() {
+  return {ErrorKind::TimedOut,
+          QStringLiteral("the picture was not ready within the time that it is allowed")};
+}
+Error cannotBeTrue() {
+  return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
+}
+
+/// Of a child that has cut the line: whether it was not a signal that ended it, such as a document can provoke.
+bool exitsByItself(const FileDescriptor& pidfd) {
+  pollfd poll = {pidfd.get(), POLLIN, 0};
+  siginfo_t info = {};
+  return ::poll(&poll, 1, int(kFarewell)) > 0 &&
+         ::waitid(P_PIDFD, id_t(pidfd.get()), &info, WEXITED | WNOWAIT | WNOHANG) == 0 && info.si_code == CLD_EXITED;
+}
+
+}  // namespace
+
+QString plainSentence(const QString& text) {
+  QString plain;
+  for (const uint point : text.toUcs4()) {
+    const char32_t character = point;
+    plain += QChar::isPrint(character) ? QString::fromUcs4(&character, 1) : QStringLiteral(" ");
+  }
+  return plain.simplified();
+}
+
+Result<std::unique_ptr<WorkerConnection>> WorkerConnection::open(std::shared_ptr<WorkerStarter> starter,
+                                                                 const ForkRequest& request) {
+  auto pair = MessageChannel::makePair();
+  if (!pair) return pair.error();
+  Result<WorkerStarter::Ticket> ticket = starter->request(request, pair->second);
+  if (!ticket) return ticket.error();
+  return std::unique_ptr<WorkerConnection>(
+      new WorkerConnection(std::move(starter), request, *ticket, std::move(pair->first)));
+}
+
+std::unique_ptr<WorkerConnection> WorkerConnection::to(SpawnedPicture picture) {
+  std::unique_ptr<WorkerConnection> connection(new WorkerConnection(
+      nullptr, {PictureLimits(), false, picture.needs}, std::nullopt, std::move(picture.line)));
+  connection->process_ = {picture.pid, std::move(picture.pidfd)};
+  return connection;
+}
+
+WorkerConnection::WorkerConnection(std::shared_ptr<WorkerStarter> starter, const ForkRequest& request,
+                                   std::optional<WorkerStarter::Ticket> ticket, FileDescriptor socket)
+    : starter_(std::move(starter)), request_(request), ticket_(ticket), channel_(std::move(socket)) {}
+
+WorkerConnection::~WorkerConnection() {
+  end();
+}
+
+bool WorkerConnection::learnProcess(QDeadlineTimer deadline) {
+  if (!ticket_) return process_.pidfd.valid();
+  Result<StartedProcess> process = starter_->take(*ticket_, deadline);
+  if (process) process_ = std::move(*process);
+  if (process || process.error().kind != ErrorKind::TimedOut) ticket_.reset();
+  return process_.pidfd.valid();
+}
+
+void WorkerConnection::end() {
+  if (!channel_.valid()) return;
+  // A process that behaves ends by itself when the line is cut.
+  channel_ = MessageChannel();
+  if (learnProcess(QDeadlineTimer(kFarewell)))
+    ::syscall(SYS_pidfd_send_signal, process_.pidfd.get(), SIGKILL, nullptr, 0);
+  else if (ticket_)
+    starter_->abandon(*ticket_);
+  ticket_.reset();
+  process_ = {};
+}
+
+qint64 WorkerConnection::processId() {
+  learnProcess(QDeadlineTimer(kFarewell));
+  return process_.pid;
+}
+
+bool WorkerConnection::isUsable() const {
+  if (!channel_.isConnected()) return false;
+  // Between two requests nothing may come.
+  pollfd poll = {channel_.socket(), POLLIN, 0};
+  return ::poll(&poll, 1, 0) == 0;
+}
+
+Error WorkerConnection::failed(Error error) {
+  if (error.kind == ErrorKind::Died && isOwnChild() && !hasAnswered_) hasNotComeUp_ = exitsByItself(process_.pidfd);
+  end();
+  return error;
+}
+
+Result<quint32> WorkerConnection::post(RequestBody body, const FileDescriptor& memory) {
+  const quint32 id = ++lastId_;
+  const QByteArray cbor = encodeMessage(WorkerRequest{id, std::move(body)});
+  if (!decodeMessage(cbor))
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the picture cannot be made in this size or at this place")};
+  if (auto sent = channel_.send(cbor, memory.get(), QDeadlineTimer(qint64(request_.limits.seconds) * 1000));
+      !sent)
+    return failed(sent.error());
+  return id;
+}
+
+Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline, const CancelToken& cancel) {
+  QDeadlineTimer obey(QDeadlineTimer::Forever);
+  while (true) {
+    Result<ChannelMessage> message = channel_.receive(std::min({QDeadlineTimer(kSlice), deadline, obey}));
+    if (message) {
+      hasAnswered_ = true;
+      Result<WorkerAnswer> answer = understand(id, std::move(*message));
+      return obey.isForever() || !answer ? std::move(answer) : Result<WorkerAnswer>(cancelled());
+    }
+    if (message.error().kind != ErrorKind::TimedOut) return failed(message.error());
+    if (obey.hasExpired()) return failed(cancelled());
+    if (deadline.hasExpired()) return failed(timedOut());
+    if (!cancel.cancelled() || !obey.isForever()) continue;
+    obey = QDeadlineTimer(kCancelGrace);
+    if (auto sent = channel_.send(encodeMessage(CancelRequest{id}), -1, obey); !sent)
+      return failed(sent.error());
+  }
+}
+
+Result<WorkerAnswer> WorkerConnection::understand(quint32 id, ChannelMessage message) {
+  Result<WorkerReply> reply = decodeReply(message.cbor);
+  if (!reply) return failed(reply.error());
+  if (reply->id != id) return failed(cannotBeTrue());
+  if (auto* error = std::get_if<Error>(&reply->body)) {
+    if (message.descriptor.valid()) return failed(cannotBeTrue());
+    error->message = plainSentence(error->message);
+  }
+  return WorkerAnswer{std::move(reply->body), std::move(message.descriptor)};
+}
+
+}  // namespace norvex

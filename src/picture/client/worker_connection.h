@@ -1,0 +1,76 @@
+// WorkerConnection: one picture process and the line to it, until one of the two is broken.
+#pragma once
+
+#include <QDeadlineTimer>
+
+#include <memory>
+#include <optional>
+
+#include "base/cancel_token.h"
+#include "protocol/message_channel.h"
+#include "picture/client/worker_starter.h"
+#include "protocol/worker_protocol.h"
+
+namespace norvex {
+
+/// What came back for a request. Every number in the body is within the protocol's limits and nothing more is
+/// known: whoever uses it compares it with what was asked and with the descriptor.
+struct WorkerAnswer {
+  ReplyBody body;
+  FileDescriptor descriptor;
+};
+
+/// Not thread-safe: its owner serves one call after the other. The destructor kills the process.
+class WorkerConnection {
+ public:
+  /// Asks for a process and returns without waiting for it. Fails with Died.
+  static Result<std::unique_ptr<WorkerConnection>> open(std::shared_ptr<WorkerStarter> starter,
+                                                        const ForkRequest& request);
+  /// Uses a process that runs already; whoever started it waits for its end.
+  static std::unique_ptr<WorkerConnection> to(SpawnedPicture picture);
+  ~WorkerConnection();
+  WorkerConnection(const WorkerConnection&) = delete;
+  WorkerConnection& operator=(const WorkerConnection&) = delete;
+
+  [[nodiscard]] const ForkRequest& request() const { return request_; }
+  /// Whether the process is our own child, started before anybody had asked for it.
+  [[nodiscard]] bool isOwnChild() const { return starter_ == nullptr; }
+  /// Whether such a process has ended by itself and without an answer: it could not be loaded, most likely.
+  [[nodiscard]] bool hasNotComeUp() const { return hasNotComeUp_; }
+  /// Whether the process lives and nothing unexpected has come from it.
+  [[nodiscard]] bool isUsable() const;
+
+  /// Sends a request and gives its id. Fails with Limit when it is out of the protocol's range, else as the
+  /// channel.
+  Result<quint32> post(RequestBody body, const FileDescriptor& memory = FileDescriptor());
+  /// Waits for the answer to the request posted last. An Error in the answer is a failure of the picture, and
+  /// the process lives on. The failures that end it: TimedOut, Died, Protocol, and Cancelled when the process
+  /// did not obey the cancel at once; isUsable() tells.
+  Result<WorkerAnswer> wait(quint32 id, QDeadlineTimer deadline, const CancelToken& cancel);
+
+  /// Kills the process.
+  void end();
+  /// Its number, 0 while it is not known. Waits for a moment.
+  [[nodiscard]] qint64 processId();
+
+ private:
+  WorkerConnection(std::shared_ptr<WorkerStarter> starter, const ForkRequest& request,
+                   std::optional<WorkerStarter::Ticket> ticket, FileDescriptor socket);
+  bool learnProcess(QDeadlineTimer deadline);
+  Error failed(Error error);
+  Result<WorkerAnswer> understand(quint32 id, ChannelMessage message);
+
+  std::shared_ptr<WorkerStarter> starter_;  ///< null for our own child
+  ForkRequest request_;
+  std::optional<WorkerStarter::Ticket> ticket_;  ///< until the process is known
+  StartedProcess process_;
+  bool hasAnswered_ = false;
+  bool hasNotComeUp_ = false;
+  MessageChannel channel_;
+  quint32 lastId_ = 0;
+};
+
+/// The message without anything that a terminal or a label would take for more than text.
+[[nodiscard]] QString plainSentence(const QString& text);
+
+}  // namespace norvex

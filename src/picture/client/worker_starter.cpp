@@ -1,0 +1,166 @@
+#include "picture/client/worker_starter.h"
+
+#include <QFile>
+
+#include <poll.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+
+namespace norvex {
+namespace {
+
+constexpr qint64 kFarewell = 2000;  ///< milliseconds that the program has to clean up after itself
+constexpr unsigned kPause = 1000;   ///< microseconds between two looks for an answer
+
+Error notStarted() {
+  return {ErrorKind::Died, QStringLiteral("the program that reads pictures could not be started")};
+}
+Error notAnswered() {
+  return {ErrorKind::Died, QStringLiteral("the program that reads pictures has ended")};
+}
+
+bool endsWithin(const FileDescriptor& pidfd, qint64 milliseconds) {
+  pollfd poll = {pidfd.get(), POLLIN, 0};
+  int ready = 0;
+  do {
+    ready = ::poll(&poll, 1, int(milliseconds));
+  } while (ready < 0 && errno == EINTR);
+  return ready > 0;
+}
+
+}  // namespace
+
+WorkerStarter::WorkerStarter(QString program, SpawnedWorker running) : program_(std::move(program)) {
+  if (running.pid != 0) adopt(std::move(running));
+}
+
+WorkerStarter::~WorkerStarter() {
+  const std::lock_guard lock(mutex_);
+  stopLocked();
+}
+
+QString WorkerStarter::defaultProgram() {
+  return QFile::decodeName(partOfProgram("norvex-worker").c_str());
+}
+
+qint64 WorkerStarter::pid() const {
+  const std::lock_guard lock(mutex_);
+  return pid_;
+}
+
+Result<void> WorkerStarter::start() {
+  const std::lock_guard lock(mutex_);
+  return startLocked();
+}
+
+bool WorkerStarter::runs() const {
+  return pid_ != 0 && control_.isConnected() && !endsWithin(pidfd_, 0);
+}
+
+Result<void> WorkerStarter::startLocked() {
+  if (runs()) return {};
+  stopLocked();
+  SpawnedWorker spawned = spawnWorker(QFile::encodeName(program_).toStdString());
+  if (spawned.pid == 0) return notStarted();
+  adopt(std::move(spawned));
+  return {};
+}
+
+void WorkerStarter::adopt(SpawnedWorker worker) {
+  pid_ = worker.pid;
+  pidfd_ = std::move(worker.pidfd);
+  control_ = MessageChannel(std::move(worker.control));
+  scratchRoot_ = std::move(worker.scratchRoot);
+  applyNice();
+}
+
+void WorkerStarter::setNice(int nice) {
+  const std::lock_guard lock(mutex_);
+  nice_ = nice;
+  applyNice();
+}
+
+void WorkerStarter::applyNice() const {
+  // Where it is not possible pictures are drawn at our own priority.
+  if (pid_ != 0 && nice_ > 0) ::setpriority(PRIO_PROCESS, id_t(pid_), ::getpriority(PRIO_PROCESS, 0) + nice_);
+}
+
+void WorkerStarter::stopLocked() {
+  control_ = MessageChannel();
+  if (pid_ != 0) {
+    // The closed connection tells it to end; what it cannot do any more is done for it.
+    if (!endsWithin(pidfd_, kFarewell)) ::kill(pid_t(pid_), SIGKILL);
+    while (::waitpid(pid_t(pid_), nullptr, 0) < 0 && errno == EINTR) continue;
+  }
+  removeFolder(std::exchange(scratchRoot_, {}));
+  pid_ = 0;
+  pidfd_.reset();
+  ++run_;
+  requested_ = 0;
+  answered_.clear();
+  abandoned_.clear();
+}
+
+Result<WorkerStarter::Ticket> WorkerStarter::request(const ForkRequest& request,
+                                                     const FileDescriptor& socket) {
+  const std::lock_guard lock(mutex_);
+  if (auto started = startLocked(); !started) return started.error();
+  if (auto sent = control_.send(encodeMessage(request), socket.get(), QDeadlineTimer(kFarewell)); !sent) {
+    stopLocked();
+    return notAnswered();
+  }
+  return Ticket{run_, ++requested_};
+}
+
+Result<StartedProcess> WorkerStarter::take(const Ticket& ticket, QDeadlineTimer deadline) {
+  while (true) {
+    Result<StartedProcess> process = takeNow(ticket);
+    if (process || process.error().kind != ErrorKind::TimedOut || deadline.hasExpired()) return process;
+    // Not under the lock: another thread may want to open a document, and the window must not wait for this.
+    ::usleep(kPause);
+  }
+}
+
+Result<StartedProcess> WorkerStarter::takeNow(const Ticket& ticket) {
+  const std::lock_guard lock(mutex_);
+  while (ticket.run == run_) {
+    if (auto answer = answered_.extract(ticket.number)) return std::move(answer.mapped());
+    Result<ChannelMessage> message = control_.receive(QDeadlineTimer(0));
+    if (!message && message.error().kind == ErrorKind::TimedOut) return message.error();
+    const Result<WorkerReply> reply = message ? decodeReply(message->cbor) : message.error();
+    if (reply)
+      keep(*reply, std::move(message->descriptor));
+    else
+      stopLocked();  // and with it this run
+  }
+  return notAnswered();
+}
+
+void WorkerStarter::keep(const WorkerReply& reply, FileDescriptor descriptor) {
+  const auto* forked = std::get_if<ForkReply>(&reply.body);
+  if (abandoned_.erase(reply.id) > 0) {
+    if (descriptor.valid()) ::syscall(SYS_pidfd_send_signal, descriptor.get(), SIGKILL, nullptr, 0);
+    return;
+  }
+  if (forked != nullptr && descriptor.valid())
+    answered_.emplace(reply.id, StartedProcess{forked->pid, std::move(descriptor)});
+  else
+    answered_.emplace(reply.id, notStarted());
+}
+
+void WorkerStarter::abandon(const Ticket& ticket) {
+  const std::lock_guard lock(mutex_);
+  if (ticket.run != run_) return;
+  const auto answer = answered_.extract(ticket.number);
+  if (!answer)
+    abandoned_.insert(ticket.number);
+  else if (const Result<StartedProcess>& process = answer.mapped(); process)
+    ::syscall(SYS_pidfd_send_signal, process->pidfd.get(), SIGKILL, nullptr, 0);
+}
+
+}  // namespace norvex

@@ -1,0 +1,86 @@
+// WorkerStarter: owns the warm picture program and has it fork one process after the other.
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QString>
+
+#include <map>
+#include <mutex>
+#include <set>
+#include <string>
+
+#include "protocol/message_channel.h"
+#include "picture/client/spawned_worker.h"
+#include "protocol/worker_protocol.h"
+
+namespace norvex {
+
+/// A process that was forked for us. It is not our child: the warm program waits for its end.
+struct StartedProcess {
+  qint64 pid = 0;
+  FileDescriptor
+      pidfd;  ///< readable once the process has ended; signals sent through it hit no other process
+};
+
+/// Thread-safe. Needs no application object, so that it can run as the first thing in main().
+class WorkerStarter {
+ public:
+  /// A promise of a process. Starting it costs no waiting; take() waits.
+  struct Ticket {
+    quint64 run = 0;  ///< which start of the warm program it belongs to
+    quint32 number = 0;
+  };
+
+  /// `program` is the path of norvex-worker. It is an argument, and no environment variable can change it:
+  /// whoever controls the environment of a program that opens untrusted files would otherwise choose what
+  /// confines them.
+  /// `running`: the program when it was started already; it is then owned.
+  explicit WorkerStarter(QString program, SpawnedWorker running = {});
+  /// Ends the program and with it every process that it forked, and removes what they left.
+  ~WorkerStarter();
+  WorkerStarter(const WorkerStarter&) = delete;
+  WorkerStarter& operator=(const WorkerStarter&) = delete;
+
+  /// Starts the program unless it runs; does not wait until it is ready. Fails with Died.
+  Result<void> start();
+  /// Asks for a process that serves `socket`, which is sent away. Starts the program (again) when it does not
+  /// run.
+  Result<Ticket> request(const ForkRequest& request, const FileDescriptor& socket);
+  /// The process of a ticket, once for each ticket. Fails with TimedOut (the ticket stays good) or Died.
+  Result<StartedProcess> take(const Ticket& ticket, QDeadlineTimer deadline);
+  /// Instead of take(): the process shall be killed as soon as it is known.
+  void abandon(const Ticket& ticket);
+
+  /// Lets the program and what it forks from now on run at a lower priority than us, however often it is started
+  /// again. `nice`: 0 to 19, as setpriority(2) has it.
+  void setNice(int nice);
+
+  /// Process number of the warm program, 0 when it does not run. For tests and for --sandbox-status.
+  [[nodiscard]] qint64 pid() const;
+  /// norvex-worker where partOfProgram() finds it.
+  [[nodiscard]] static QString defaultProgram();
+
+ private:
+  Result<void> startLocked();
+  void adopt(SpawnedWorker worker);
+  void applyNice() const;
+  void stopLocked();
+  [[nodiscard]] bool runs() const;
+  Result<StartedProcess> takeNow(const Ticket& ticket);
+  void keep(const WorkerReply& reply, FileDescriptor descriptor);
+
+  const QString program_;
+  mutable std::mutex mutex_;
+  // Guarded by the mutex.
+  MessageChannel control_;
+  qint64 pid_ = 0;
+  FileDescriptor pidfd_;
+  std::string scratchRoot_;
+  int nice_ = 0;
+  quint64 run_ = 0;
+  quint32 requested_ = 0;
+  std::map<quint32, Result<StartedProcess>> answered_;
+  std::set<quint32> abandoned_;
+};
+
+}  // namespace norvex

@@ -1,0 +1,83 @@
+#include "picture/process/stoppable_process.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace norvex {
+namespace {
+
+Error stoppedError() { return {ErrorKind::TimedOut, QStringLiteral("the drawing was stopped")}; }
+
+}  // namespace
+
+StoppableProcess::StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading)
+    : process_(std::move(process)), loading_(std::move(loading)) {}
+
+void StoppableProcess::stop() {
+  const std::lock_guard lock(mutex_);
+  stopped_ = true;
+  for (const CancelToken& token : std::as_const(active_)) token.cancel();
+}
+
+void StoppableProcess::resume() {
+  const std::lock_guard lock(mutex_);
+  stopped_ = false;
+}
+
+bool StoppableProcess::isStopping() {
+  const std::lock_guard lock(mutex_);
+  return std::any_of(active_.cbegin(), active_.cend(), [](const CancelToken& token) { return token.cancelled(); });
+}
+
+bool StoppableProcess::meansStopped(const Error& error) {
+  const Error stopped = stoppedError();
+  return error.kind == ErrorKind::Cancelled || (error.kind == stopped.kind && error.message == stopped.message);
+}
+
+Result<PictureFacts> StoppableProcess::facts(const CancelToken& cancel) {
+  // A token cannot listen to another, and only the loading ever waits here.
+  return process_->facts(loading_.cancelled() ? cancel : loading_);
+}
+
+Result<QImage> StoppableProcess::render(const RenderRequest& request, const CancelToken& cancel) {
+  // A fresh token would hide the caller's, so the caller's own is what stop() cancels.
+  quint64 id = 0;
+  {
+    const std::lock_guard lock(mutex_);
+    if (stopped_) return stoppedError();
+    id = ++lastId_;
+    active_.insert(id, cancel);
+  }
+  Result<QImage> result = process_->render(request, cancel);
+  const std::lock_guard lock(mutex_);
+  active_.remove(id);
+  return result;
+}
+
+Result<PictureBytes> StoppableProcess::pdf(const PdfRequest& request, const CancelToken& cancel) {
+  return process_->pdf(request, cancel);
+}
+
+Result<PictureBytes> StoppableProcess::compose(const ComposeRequest& request, const CancelToken& cancel) {
+  return process_->compose(request, cancel);
+}
+
+Result<PictureBytes> StoppableProcess::svg(const SvgRequest& request, const CancelToken& cancel) {
+  return process_->svg(request, cancel);
+}
+
+Result<PictureBytes> StoppableProcess::setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+                                                        const CancelToken& cancel) {
+  return process_->setPdfAttributes(pdf, attributes, cancel);
+}
+
+std::shared_ptr<PictureProcess> StoppableService::open(const QByteArray& bytes, PictureKind kind,
+                                                       const PictureLimits& limits) {
+  return std::make_shared<StoppableProcess>(service_.open(bytes, kind, limits), loading_);
+}
+
+Result<NSBitmapImageRep> StoppableService::decodePreview(const QByteArray& tiff, const CancelToken& cancel) {
+  return service_.decodePreview(tiff, cancel);
+}
+
+}  // namespace norvex

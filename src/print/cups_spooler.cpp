@@ -1,0 +1,249 @@
+#include "print/cups_spooler.h"
+
+#include <cups/cups.h>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+namespace norvex {
+namespace {
+
+constexpr int kPatienceMs = 5000;
+constexpr double kLookSeconds = 0.25;  // how often a call that waits looks whether it is still wanted
+constexpr int kMostLooks = 60;         // that nothing is heard: 15 seconds
+constexpr qsizetype kPieceBytes = 64 << 10;
+
+/// Nobody is asked for a password: by itself the library would ask on the terminal, from whatever thread.
+const char* noPassword(const char*, http_t*, const char*, const char*, void*) {
+  return nullptr;
+}
+
+/// One connection, and how long it is waited for.
+class Connection {
+ public:
+  explicit Connection(const CancelToken& cancel) : cancel_(cancel) {
+    cupsSetPasswordCB2(noPassword, nullptr);
+    http_ =
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kPatienceMs, nullptr);
+    if (http_) httpSetTimeout(http_, kLookSeconds, &Connection::waitOn, this);
+  }
+  ~Connection() {
+    if (http_) httpClose(http_);
+  }
+  Connection(const Connection&) = delete;
+  Connection& operator=(const Connection&) = delete;
+
+  [[nodiscard]] bool isOpen() const { return http_ != nullptr; }
+  [[nodiscard]] http_t* http() const { return http_; }
+  /// Something was heard.
+  void beginStep() { looks_ = 0; }
+  /// The step that follows is not broken off by cancelling: what it began would be left without an owner.
+  void finishWhatIsBegun(bool finish) { finishes_ = finish; }
+  /// Why an answer is missing; nothing when it is not for waiting.
+  [[nodiscard]] std::optional<Error> whatBrokeIt() const {
+    if (cancel_.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the printing was cancelled")};
+    if (looks_ >= kMostLooks)
+      return Error{ErrorKind::CannotWrite, QStringLiteral("the print service does not answer")};
+    return std::nullopt;
+  }
+
+ private:
+  static int waitOn(http_t*, void* self) {
+    auto* const connection = static_cast<Connection*>(self);
+    if (connection->cancel_.cancelled() && !connection->finishes_) return 0;
+    return ++connection->looks_ < kMostLooks ? 1 : 0;
+  }
+
+  CancelToken cancel_;
+  http_t* http_ = nullptr;
+  int looks_ = 0;
+  bool finishes_ = false;
+};
+
+struct FreeInfo {
+  void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
+};
+
+/// The printers that the server knows.
+class Destinations {
+ public:
+  explicit Destinations(http_t* http) : count_(cupsGetDests2(http, &first_)) {}
+  ~Destinations() { cupsFreeDests(count_, first_); }
+  Destinations(const Destinations&) = delete;
+  Destinations& operator=(const Destinations&) = delete;
+
+  [[nodiscard]] int count() const { return count_; }
+  [[nodiscard]] cups_dest_t& at(int i) const { return first_[i]; }
+
+ private:
+  cups_dest_t* first_ = nullptr;
+  int count_;
+};
+
+class Options {
+ public:
+  ~Options() { cupsFreeOptions(count_, first_); }
+  Options() = default;
+  Options(const Options&) = delete;
+  Options& operator=(const Options&) = delete;
+
+  void add(const char* name, const QByteArray& value) {
+    count_ = cupsAddOption(name, value.constData(), count_, &first_);
+  }
+  [[nodiscard]] int count() const { return count_; }
+  [[nodiscard]] cups_option_t* first() const { return first_; }
+
+ private:
+  cups_option_t* first_ = nullptr;
+  int count_ = 0;
+};
+
+QString optionOf(const cups_dest_t& destination, const char* name) {
+  return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
+}
+
+/// A queue with instances is listed once for each of them; the plain one stands for all.
+bool isPlain(const cups_dest_t& destination) {
+  return destination.instance == nullptr;
+}
+
+Printer printerOf(const cups_dest_t& destination) {
+  Printer printer;
+  printer.name = QString::fromUtf8(destination.name);
+  printer.description = optionOf(destination, "printer-info");
+  if (printer.description.isEmpty()) printer.description = printer.name;
+  const int state = optionOf(destination, "printer-state").toInt();
+  printer.state = state == IPP_PSTATE_STOPPED      ? PrinterState::Stopped
+                  : state == IPP_PSTATE_PROCESSING ? PrinterState::Printing
+                                                   : PrinterState::Idle;
+  printer.acceptsJobs = optionOf(destination, "printer-is-accepting-jobs") != QLatin1String("false");
+  printer.isDefault = destination.is_default != 0;
+  return printer;
+}
+
+/// What the service said last, as the rest of a sentence.
+QString lastReason() {
+  QString text = QString::fromUtf8(cupsLastErrorString()).simplified().left(200);
+  while (text.endsWith(u'.')) text.chop(1);
+  return text.isEmpty() ? QStringLiteral("no reason is given") : text;
+}
+
+Error refused(const QString& printer) {
+  return {ErrorKind::CannotWrite, QStringLiteral("the printer “%1” takes no jobs").arg(printer)};
+}
+
+/// Why a printer did not take a job, from what the service said last.
+Error notPrinted(const QString& printer) {
+  switch (cupsLastError()) {
+    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+      return refused(printer);
+    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+    case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
+      return {
+          ErrorKind::CannotWrite,
+          QStringLiteral("the printer “%1” wants a user name and a password, which are not asked for here")
+              .arg(printer)};
+    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+    case IPP_STATUS_ERROR_FORBIDDEN:
+      return {ErrorKind::CannotWrite,
+              QStringLiteral("the printer “%1” is not open to this user").arg(printer)};
+    default:
+      break;
+  }
+  return {ErrorKind::CannotWrite,
+          QStringLiteral("the printer “%1” did not take the job: %2").arg(printer, lastReason())};
+}
+
+/// The default printer when it is nobody's name.
+Result<cups_dest_t*> chosen(const Destinations& all, const QString& name) {
+  cups_dest_t* first = nullptr;
+  for (int i = 0; i < all.count(); ++i) {
+    cups_dest_t& destination = all.at(i);
+    if (!isPlain(destination)) continue;
+    if (!first) first = &destination;
+    if (name.isEmpty() ? destination.is_default != 0 : QString::fromUtf8(destination.name) == name)
+      return &destination;
+  }
+  if (!name.isEmpty())
+    return Error{ErrorKind::CannotWrite, QStringLiteral("there is no printer named “%1”").arg(name)};
+  return Error{ErrorKind::CannotWrite, first ? QStringLiteral("no printer is the default one")
+                                             : QStringLiteral("there is no printer")};
+}
+
+void addTicket(Options& options, const PrintTicket& ticket) {
+  options.add(CUPS_COPIES, QByteArray::number(std::max(1, ticket.copies)));
+  if (!ticket.media.isEmpty()) options.add(CUPS_MEDIA, ticket.media.toUtf8());
+  options.add(CUPS_ORIENTATION, ticket.landscape ? CUPS_ORIENTATION_LANDSCAPE : CUPS_ORIENTATION_PORTRAIT);
+  options.add("print-scaling", "none");  // the pages have the paper's size, and a point shall stay one
+}
+
+bool sendPieces(Connection& connection, const QByteArray& pdf, const CancelToken& cancel) {
+  for (qsizetype at = 0; at < pdf.size(); at += kPieceBytes) {
+    if (cancel.cancelled()) return false;
+    connection.beginStep();
+    const qsizetype length = std::min(kPieceBytes, pdf.size() - at);
+    if (cupsWriteRequestData(connection.http(), pdf.constData() + at, size_t(length)) != HTTP_STATUS_CONTINUE)
+      return false;
+  }
+  connection.beginStep();
+  return !cancel.cancelled();
+}
+
+/// The job's pages, once it has been made.
+bool sendDocument(Connection& connection, cups_dest_t* destination, cups_dinfo_t* info, int job,
+                  const QByteArray& title, const Options& options, const QByteArray& pdf,
+                  const CancelToken& cancel) {
+  http_t* const http = connection.http();
+  connection.beginStep();
+  return cupsStartDestDocument(http, destination, info, job, title.constData(), CUPS_FORMAT_PDF,
+                               options.count(), options.first(), 1) == HTTP_STATUS_CONTINUE &&
+         sendPieces(connection, pdf, cancel) &&
+         cupsFinishDestDocument(http, destination, info) <= IPP_STATUS_OK_EVENTS_COMPLETE;
+}
+
+}  // namespace
+
+Result<QList<Printer>> CupsSpooler::printers(const CancelToken& cancel) {
+  const Connection connection(cancel);
+  if (!connection.isOpen()) return NullPrintSpooler::unreachable();
+  const Destinations all(connection.http());
+  if (const auto broken = connection.whatBrokeIt()) return *broken;
+  QList<Printer> printers;
+  for (int i = 0; i < all.count(); ++i)
+    if (isPlain(all.at(i))) printers << printerOf(all.at(i));
+  return printers;
+}
+
+Result<int> CupsSpooler::print(const PrintTicket& ticket, const QByteArray& pdf, const CancelToken& cancel) {
+  Connection connection(cancel);
+  if (!connection.isOpen()) return NullPrintSpooler::unreachable();
+  http_t* const http = connection.http();
+  const Destinations all(http);
+  if (const auto broken = connection.whatBrokeIt()) return *broken;
+  const Result<cups_dest_t*> destination = chosen(all, ticket.printer);
+  if (!destination) return destination.error();
+  const QString name = QString::fromUtf8((*destination)->name);
+  if (!printerOf(**destination).acceptsJobs) return refused(name);
+  connection.beginStep();
+  const std::unique_ptr<cups_dinfo_t, FreeInfo> info(cupsCopyDestInfo(http, *destination));
+  if (const auto broken = connection.whatBrokeIt()) return *broken;
+  if (!info) return notPrinted(name);
+  Options options;
+  addTicket(options, ticket);
+  const QByteArray title = ticket.title.toUtf8();
+  int job = 0;
+  connection.beginStep();
+  connection.finishWhatIsBegun(true);
+  if (cupsCreateDestJob(http, *destination, info.get(), &job, title.constData(), options.count(),
+                        options.first()) > IPP_STATUS_OK_EVENTS_COMPLETE)
+    return connection.whatBrokeIt().value_or(notPrinted(name));
+  connection.finishWhatIsBegun(false);
+  if (sendDocument(connection, *destination, info.get(), job, title, options, pdf, cancel)) return job;
+  const Error error = connection.whatBrokeIt().value_or(notPrinted(name));
+  const Connection other{CancelToken()};  // the first one may wait for the rest of the document for ever
+  if (other.isOpen()) cupsCancelDestJob(other.http(), *destination, job);
+  return error;
+}
+
+}  // namespace norvex

@@ -1,0 +1,27 @@
+// A page of a job as it will be printed, for previews.
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+
+#include "picture/process/picture_process.h"
+#include "print/print_info.h"
+#include "print/printable_view.h"
+
+namespace norvex {
+
+/// What one preview shows. A value.
+struct PageImageRequest {
+  PrintSource source;
+  NSPrintInfo info;
+  QByteArray picture;  ///< what pictureOf(source) gave
+  int page = 1;        ///< of all pages, whatever the settings' range
+  QSize pixels;        ///< the sheet fills it
+};
+
+/// The same sheet that would be printed, opened again and drawn, on white. Any thread; blocks.
+[[nodiscard]] Result<QImage> pageImage(const PageImageRequest& request, PictureService& service,
+                                       const CancelToken& cancel = {});
+
+}  // namespace norvex

@@ -1,0 +1,56 @@
+#include "print/print_operation.h"
+
+#include <QThread>
+
+#include "print/print_job.h"
+
+namespace norvex {
+
+NSPrintOperation::NSPrintOperation(std::unique_ptr<PrintableView> view, const NSPrintInfo& printInfo,
+                                   const PrintServices& services)
+    : view_(std::move(view)), printInfo_(printInfo), services_(services) {}
+
+std::unique_ptr<NSPrintOperation> NSPrintOperation::printOperationWithView(std::unique_ptr<PrintableView> view,
+                                                                           const NSPrintInfo& printInfo,
+                                                                           const PrintServices& services) {
+  return std::unique_ptr<NSPrintOperation>(new NSPrintOperation(std::move(view), printInfo, services));
+}
+
+NSPrintOperation::~NSPrintOperation() {
+  if (!thread_) return;
+  cancel_.cancel();
+  thread_->wait();
+}
+
+bool NSPrintOperation::runOperation() {
+  PrintInteraction* const interaction = services_.interaction;
+  if (showsPrintPanel_ && interaction && !interaction->runPrintPanel(*this)) {
+    result_ = Error{ErrorKind::Cancelled, QStringLiteral("the printing was cancelled")};
+    emit finished();
+    return false;
+  }
+  const PrintSource source = view_->printSource();
+  title_ = source.jobTitle;
+  if (interaction) job_ = interaction->jobDidBegin(title_, cancel_);
+  const auto work = [source, info = printInfo_, services = services_, cancel = cancel_] {
+    return runJob(source, info, *services.pictures, *services.spooler, cancel);
+  };
+  if (!canSpawnSeparateThread_) {
+    end(work());
+    return result_->ok();
+  }
+  thread_.reset(QThread::create([this, work] {
+    const Result<void> result = work();
+    QMetaObject::invokeMethod(this, [this, result] { end(result); }, Qt::QueuedConnection);
+  }));
+  thread_->start();
+  return true;
+}
+
+void NSPrintOperation::end(const Result<void>& result) {
+  result_ = result;
+  if (services_.interaction) services_.interaction->jobDidEnd(job_, title_, result);
+  emit finished();
+}
+
+}  // namespace norvex

@@ -1,0 +1,61 @@
+// MessageChannel: whole messages, each with at most one file descriptor, over a connected stream socket.
+#pragma once
+
+#include <QByteArray>
+#include <QDeadlineTimer>
+
+#include <utility>
+
+#include "base/file_descriptor.h"
+#include "base/result.h"
+
+struct msghdr;
+
+namespace norvex {
+
+/// One message as it arrived.
+struct ChannelMessage {
+  QByteArray cbor;
+  FileDescriptor descriptor;  ///< not valid: none came with it
+};
+
+/// See worker_protocol.h for the form on the wire. Never raises SIGPIPE. One thread may send while another
+/// receives; two threads must not do the same. Failures: TimedOut (the channel stays usable, a half received
+/// message is continued by the next receive), Died (the other side has closed), Protocol (a length over the
+/// limit, more than one descriptor, a descriptor after the length). After Died or Protocol the channel is of
+/// no use any more.
+class MessageChannel {
+ public:
+  MessageChannel() = default;
+  /// Takes a connected SOCK_STREAM socket and makes it non-blocking.
+  explicit MessageChannel(FileDescriptor socket);
+
+  /// Both ends of a new connection; both are closed on exec.
+  static Result<std::pair<FileDescriptor, FileDescriptor>> makePair();
+
+  /// Sends the message with a copy of `descriptor` (-1: none); the caller's own descriptor stays open.
+  Result<void> send(const QByteArray& cbor, int descriptor = -1,
+                    QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever));
+  Result<ChannelMessage> receive(QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever));
+
+  /// Whether the other side still holds its end. True also while unread bytes wait.
+  [[nodiscard]] bool isConnected() const;
+  [[nodiscard]] int socket() const { return socket_.get(); }
+  [[nodiscard]] bool valid() const { return socket_.valid(); }
+
+ private:
+  Result<void> waitFor(short events, QDeadlineTimer deadline) const;
+  Result<void> fill(char* target, qsizetype& have, qsizetype want, bool descriptorAllowed,
+                    QDeadlineTimer deadline);
+  Result<void> adoptDescriptors(msghdr& header, bool allowed);
+
+  FileDescriptor socket_;
+  // The message that is arriving.
+  char length_[4] = {};
+  qsizetype haveLength_ = 0;
+  QByteArray body_;
+  qsizetype haveBody_ = 0;
+  FileDescriptor arriving_;
+};
+
+}  // namespace norvex

@@ -1,0 +1,87 @@
+#include "ui/controls/number_matrix.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPaintEvent>
+
+#include <cmath>
+
+#include "base/localized_string.h"
+#include "ui/controls/value_copying.h"
+
+namespace norvex {
+
+namespace {
+
+constexpr const char* kNames[2][2] = {{QT_TRANSLATE_NOOP("Localizable", "X"), QT_TRANSLATE_NOOP("Localizable", "Width")},
+                                      {QT_TRANSLATE_NOOP("Localizable", "Y"), QT_TRANSLATE_NOOP("Localizable", "Height")}};
+constexpr const char* kTitles[2][2] = {{"x", "w"}, {"y", "h"}};
+
+}  // namespace
+
+NumberMatrix::NumberMatrix(QWidget* parent) : QWidget(parent) {
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(10, 6, 10, 6);
+  grid->setHorizontalSpacing(6);
+  grid->setVerticalSpacing(2);
+  for (int row = 0; row < 2; ++row) {
+    for (int column = 0; column < 2; ++column) {
+      auto* title = new QLabel(QString::fromLatin1(kTitles[row][column]), this);
+      title->setStyleSheet(QStringLiteral("color: #5c6b5c;"));
+      auto* cell = new QLineEdit(this);
+      cell->setReadOnly(true);
+      cell->setFrame(false);
+      cell->setStyleSheet(QStringLiteral("QLineEdit { background: transparent; color: black; border: none; }"));
+      cell->setAccessibleName(localizedString(kNames[row][column]));
+      cell->setMinimumWidth(48);
+      makeValueCopyable(*cell);
+      grid->addWidget(title, row, 2 * column);
+      grid->addWidget(cell, row, 2 * column + 1);
+      cells_[static_cast<size_t>(row)][static_cast<size_t>(column)] = cell;
+    }
+  }
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QLineEdit* NumberMatrix::cellAtRow(int row, int column) const {
+  return cells_.at(static_cast<size_t>(row)).at(static_cast<size_t>(column));
+}
+
+void NumberMatrix::setText(int row, int column, const QString& text) {
+  QLineEdit* cell = cellAtRow(row, column);
+  cell->setText(text);
+  cell->setCursorPosition(0);
+}
+
+void NumberMatrix::setFloat(int row, int column, float value) {
+  QString text = QString::number(static_cast<double>(value), 'g', 9);
+  for (int digits = 6; digits < 9; ++digits) {
+    const QString shorter = QString::number(static_cast<double>(value), 'g', digits);
+    if (shorter.toFloat() == value) {
+      text = shorter;
+      break;
+    }
+  }
+  setText(row, column, text);
+}
+
+void NumberMatrix::setBackgroundColor(const QColor& color) {
+  background_ = color;
+  update();
+}
+
+void NumberMatrix::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QColor line = palette().color(QPalette::WindowText);
+  line.setAlphaF(0.15f);
+  painter.setPen(line);
+  painter.setBrush(background_.isValid() ? background_ : QColor(Qt::white));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
+}
+
+}  // namespace norvex

@@ -1,0 +1,46 @@
+#include "ui/panels/alert_box.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "base/localized_string.h"
+
+namespace norvex {
+namespace {
+
+QMessageBox::Icon iconOf(AlertStyle style) {
+  switch (style) {
+    case AlertStyle::Informational:
+      return QMessageBox::Information;
+    case AlertStyle::Critical:
+      return QMessageBox::Critical;
+    case AlertStyle::Warning:
+      break;
+  }
+  return QMessageBox::Warning;
+}
+
+}  // namespace
+
+int QtAlertPresenter::runModal(const Alert& alert) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setIcon(iconOf(alert.style));
+  box.setTextFormat(Qt::PlainText);  // a file's name is no markup
+  box.setText(alert.messageText);
+  box.setInformativeText(alert.informativeText);
+  const QString cancel = localizedString("Cancel");
+  QList<QAbstractButton*> buttons;
+  for (const QString& title : alert.buttons.isEmpty() ? QStringList{localizedString("OK")} : alert.buttons) {
+    QPushButton* button =
+        box.addButton(title, title == cancel ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
+    if (buttons.isEmpty()) box.setDefaultButton(button);
+    if (title == cancel) box.setEscapeButton(button);
+    buttons << button;
+  }
+  if (buttons.size() == 1) box.setEscapeButton(buttons.first());
+  box.exec();
+  return int(buttons.indexOf(box.clickedButton()));
+}
+
+}  // namespace norvex

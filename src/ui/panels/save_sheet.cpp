@@ -1,0 +1,160 @@
+#include "ui/panels/save_sheet.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStandardPaths>
+
+#include <utility>
+
+#include "base/localized_string.h"
+#include "base/path_extension.h"
+#include "types/type_description.h"
+
+namespace norvex {
+namespace {
+
+/// "Title (*.eps *.EPS)": the patterns tell letter cases apart.
+QString nameFilter(const QString& title, const QList<UTType>& types) {
+  QStringList patterns;
+  for (const UTType& type : types) {
+    const QString extension = type.preferredFilenameExtension();
+    patterns << "*." + extension << "*." + extension.toUpper();
+  }
+  return title + " (" + patterns.join(' ') + ')';
+}
+
+/// Where pictures are kept; the home folder where there is no such place.
+QString ownFolder() {
+  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+}
+
+constexpr QSize kSize(720, 640);
+
+}  // namespace
+
+SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
+    : QFileDialog(window), settings_(std::move(settings)), accessory_(settings_.accessoryView) {
+  // The platform's own dialog has no room for an accessory view.
+  setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+  setWindowModality(Qt::WindowModal);
+  setAcceptMode(QFileDialog::AcceptSave);
+  setFileMode(QFileDialog::AnyFile);
+  setWindowTitle(settings_.title);
+  setDirectoryUrl(settings_.directoryURL.isLocalFile() ? settings_.directoryURL : QUrl::fromLocalFile(ownFolder()));
+  arrange();
+  resize(kSize);
+  selectFile(settings_.nameFieldStringValue);
+  showName();
+}
+
+SaveSheet::~SaveSheet() {
+  if (!accessory_) return;
+  accessory_->hide();
+  accessory_->setParent(accessoryParent_);
+}
+
+void SaveSheet::arrange() {
+  name_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  hideExtension_ = new QCheckBox(localizedString("Hide extension"), this);
+  hideExtension_->setObjectName(QStringLiteral("hideExtension"));
+  hideExtension_->setChecked(settings_.extensionHidden);
+  hideExtension_->setVisible(settings_.canSelectHiddenExtension);
+  connect(hideExtension_, &QCheckBox::toggled, this, &SaveSheet::showName);
+  if (settings_.selectedContentType >= 0) {
+    addTypeList();
+  } else {
+    if (!settings_.allowsOtherFileTypes && !settings_.allowedContentTypes.isEmpty())
+      setNameFilter(nameFilter(localizedString("Pictures"), settings_.allowedContentTypes));
+    for (const char* unused : {"fileTypeLabel", "fileTypeCombo"})
+      if (auto* widget = findChild<QWidget*>(QString::fromLatin1(unused))) widget->hide();
+  }
+  addAccessory();
+  const QList<QComboBox*> lists = accessory_ ? accessory_->findChildren<QComboBox*>() : QList<QComboBox*>();
+  for (QComboBox* list : lists) connect(list, &QComboBox::currentIndexChanged, this, &SaveSheet::showName);
+}
+
+void SaveSheet::addTypeList() {
+  QStringList filters;
+  for (const UTType& type : settings_.allowedContentTypes) filters << nameFilter(localizedDescription(type), {type});
+  setNameFilters(filters);
+  selectNameFilter(filters.value(settings_.selectedContentType));
+  connect(this, &QFileDialog::filterSelected, this, [this, filters](const QString& chosen) {
+    settings_.selectedContentType = int(filters.indexOf(chosen));
+    showName();
+  });
+}
+
+void SaveSheet::addAccessory() {
+  auto* below = new QWidget(this);
+  auto* column = new QVBoxLayout(below);
+  column->setContentsMargins(0, 6, 0, 0);
+  if (!settings_.message.isEmpty()) {
+    auto* message = new QLabel(settings_.message, below);
+    message->setTextFormat(Qt::PlainText);
+    message->setWordWrap(true);
+    column->addWidget(message);
+  }
+  if (accessory_) {
+    accessoryParent_ = accessory_->parentWidget();
+    column->addWidget(accessory_);
+    accessory_->show();
+  }
+  column->addWidget(hideExtension_);
+  if (auto* grid = qobject_cast<QGridLayout*>(layout())) grid->addWidget(below, grid->rowCount(), 0, 1, -1);
+}
+
+bool SaveSheet::isAllowedExtension(const QString& extension) const {
+  const auto type = UTType::typeWithFilenameExtension(extension);
+  return type && settings_.allowedContentTypes.contains(*type);
+}
+
+QUrl SaveSheet::typedURL() const {
+  QString path = selectedFiles().value(0);
+  // "Map 1.5" names no type: with such a name the extension of the first type goes after it.
+  if (!settings_.allowsOtherFileTypes && !settings_.allowedContentTypes.isEmpty() && !pathExtension(path).isEmpty() &&
+      !isAllowedExtension(pathExtension(path)))
+    path += u'.' + settings_.allowedContentTypes.first().preferredFilenameExtension();
+  return QUrl::fromLocalFile(path);
+}
+
+SavePanelAnswer SaveSheet::answer() const { return {false, typedURL(), settings_.selectedContentType}; }
+
+QUrl SaveSheet::target() const {
+  return settings_.target ? settings_.target(typedURL(), settings_.selectedContentType) : typedURL();
+}
+
+void SaveSheet::showName() {
+  if (!name_ || !settings_.canSelectHiddenExtension || name_->text().isEmpty()) return;
+  if (!hideExtension_->isChecked()) return name_->setText(target().fileName());
+  if (isAllowedExtension(pathExtension(name_->text()))) name_->setText(pathWithoutExtension(name_->text()));
+}
+
+bool SaveSheet::mayReplace(const QString& path) {
+  if (!QFileInfo::exists(path)) return true;
+  QMessageBox question(this);
+  question.setIcon(QMessageBox::Warning);
+  question.setTextFormat(Qt::PlainText);
+  question.setText(localizedString("“%1” exists already.").arg(QFileInfo(path).fileName()));
+  question.setInformativeText(localizedString("What it holds will be lost."));
+  QPushButton* replace = question.addButton(localizedString("Replace"), QMessageBox::DestructiveRole);
+  question.setDefaultButton(question.addButton(QMessageBox::Cancel));
+  question.exec();
+  return question.clickedButton() == replace;
+}
+
+void SaveSheet::accept() {
+  const QString typed = selectedFiles().value(0);
+  // A folder is gone into; anything else is where the file will be.
+  if (!name_ || name_->text().isEmpty() || QFileInfo(typed).isDir()) return QFileDialog::accept();
+  if (mayReplace(target().toLocalFile())) QFileDialog::accept();
+}
+
+}  // namespace norvex

@@ -1,0 +1,180 @@
+#include "ui/picture/norvex_view_widget.h"
+
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWindow>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ui/style/checkerboard.h"
+#include "ui/picture/zooming_scroll_area.h"
+
+namespace norvex {
+
+namespace {
+
+constexpr int kPeriodMs = 40;
+constexpr double kLargestStep = 40;  // logical pixels
+
+}  // namespace
+
+NorvexViewWidget::NorvexViewWidget(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  periodic_.setInterval(kPeriodMs);
+  connect(&periodic_, &QTimer::timeout, this, [this] { view_.periodicEvent(toView(mapFromGlobal(pointer_))); });
+  view_.setHost(this);
+}
+
+NorvexViewWidget::~NorvexViewWidget() { view_.setHost(nullptr); }
+
+void NorvexViewWidget::setScrollArea(ZoomingScrollArea* area) { area_ = area; }
+
+void NorvexViewWidget::setBackground(const QColor& color) {
+  background_ = color;
+  update();
+}
+
+QTransform NorvexViewWidget::placement() const {
+  if (!area_) return {};
+  QTransform exact = area_->scrollView().documentViewToClip();
+  const QRectF& bounds = view_.bounds();
+  const QPointF corner = exact.map(QPointF(bounds.x(), bounds.y() + bounds.height()));
+  // A picture that is centred on half a pixel would show its straight edges blurred.
+  const double ratio = devicePixelRatioF();
+  const QPointF shift = QPointF(std::round(corner.x() * ratio), std::round(corner.y() * ratio)) / ratio - corner;
+  return exact * QTransform::fromTranslate(shift.x(), shift.y());
+}
+
+QPointF NorvexViewWidget::fromView(const QPointF& point) const { return placement().map(point); }
+
+QPointF NorvexViewWidget::toView(const QPointF& point) const { return placement().inverted().map(point); }
+
+QRectF NorvexViewWidget::viewInWidget() const {
+  const QRectF& bounds = view_.bounds();
+  return QRectF(fromView(bounds.topLeft()), fromView(bounds.bottomRight())).normalized();
+}
+
+QRectF NorvexViewWidget::visibleRect() const {
+  return area_ ? area_->scrollView().documentViewVisibleRect() : view_.bounds();
+}
+
+void NorvexViewWidget::displayRect(const QRectF& rect) {
+  const QRectF device = QRectF(fromView(rect.topLeft()), fromView(rect.bottomRight())).normalized();
+  const QRect dirty = device.toAlignedRect().adjusted(-2, -2, 2, 2) & this->rect();
+  if (!isVisible() || painting_) update(dirty);
+  else repaint(dirty);
+}
+
+void NorvexViewWidget::frameDidChange() {
+  if (area_) area_->documentFrameDidChange();
+  view_.resetCursorRects();
+  update();
+}
+
+bool NorvexViewWidget::autoscroll(const QPointF& point) {
+  if (!area_) return false;
+  const QPointF at = fromView(point);
+  // However far outside the pointer is, one step shows only a little more: the user must be able to stop in time.
+  const QPointF near(std::clamp(at.x(), -kLargestStep, width() + kLargestStep),
+                     std::clamp(at.y(), -kLargestStep, height() + kLargestStep));
+  return area_->showPoint(near);
+}
+
+void NorvexViewWidget::scrollRectToVisible(const QRectF& rect) {
+  if (area_) area_->showRect(QRectF(fromView(rect.topLeft()), fromView(rect.bottomRight())).normalized());
+}
+
+bool NorvexViewWidget::makeFirstResponder() {
+  // The view takes no keys itself: what surrounds it does, and scrolls.
+  if (area_) area_->setFocus(Qt::MouseFocusReason);
+  return true;
+}
+
+void NorvexViewWidget::setPeriodicEvents(bool on) {
+  if (on) periodic_.start();
+  else periodic_.stop();
+}
+
+void NorvexViewWidget::addCrosshairCursorRect(const QRectF&) { setCursor(Qt::CrossCursor); }
+
+void NorvexViewWidget::drawBackground(QPainter& painter, const QRect& dirty) {
+  if (background_.isValid()) {
+    painter.fillRect(dirty, background_);
+    return;
+  }
+  painter.fillRect(dirty, palette().color(QPalette::Window));
+  const QRectF view = viewInWidget();
+  painter.setBrushOrigin(view.topLeft());
+  if (view_.imageRep()) drawCheckerboard(painter, view & QRectF(dirty), palette());
+}
+
+void NorvexViewWidget::paintEvent(QPaintEvent* event) {
+  QElapsedTimer clock;
+  clock.start();
+  painting_ = true;
+  QPainter painter(this);
+  drawBackground(painter, event->rect());
+  // The system clips to what is dirty; what is asked for of the picture is all that can be seen.
+  painter.setClipRect(rect());
+  if (area_) {
+    const QTransform toClip = placement();
+    painter.setTransform(toClip, true);
+    const QRectF dirty = toClip.inverted().mapRect(QRectF(event->rect()));
+    view_.drawRect(painter, dirty, DrawingDestination::Screen);
+  }
+  painting_ = false;
+  emit drawn(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+}
+
+void NorvexViewWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  pointer_ = event->globalPosition();
+  tracking_ = view_.mouseDown();
+}
+
+void NorvexViewWidget::mouseMoveEvent(QMouseEvent* event) {
+  if (!tracking_ || !(event->buttons() & Qt::LeftButton)) return event->ignore();
+  pointer_ = event->globalPosition();
+  view_.mouseDragged(toView(event->position()));
+}
+
+void NorvexViewWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (!tracking_ || event->button() != Qt::LeftButton) return event->ignore();
+  tracking_ = false;
+  view_.mouseUp(toView(event->position()));
+}
+
+bool NorvexViewWidget::event(QEvent* event) {
+  if (event->type() == QEvent::WindowDeactivate) loseTracking();
+  return QWidget::event(event);
+}
+
+void NorvexViewWidget::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  watchScreen();
+  view_.resetCursorRects();
+}
+
+void NorvexViewWidget::hideEvent(QHideEvent* event) {
+  loseTracking();
+  QWidget::hideEvent(event);
+}
+
+void NorvexViewWidget::loseTracking() {
+  if (!tracking_) return;
+  tracking_ = false;
+  view_.cancelTracking();
+}
+
+void NorvexViewWidget::watchScreen() {
+  QWindow* handle = window()->windowHandle();
+  if (!handle || screenWatched_) return;
+  screenWatched_ = true;
+  // Another screen may have another scale factor: what is rendered for the old one would be blurred.
+  connect(handle, &QWindow::screenChanged, this, qOverload<>(&QWidget::update));
+}
+
+}  // namespace norvex

@@ -1,0 +1,119 @@
+// Wheel, pinch and panning of the scroll area.
+#include <QGestureEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QPinchGesture>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
+
+namespace norvex {
+
+namespace {
+
+constexpr double kSmallestFactor = 0.01, kLargestFactor = 16;
+constexpr double kPixelsPerNotch = 72;
+
+}  // namespace
+
+void ZoomingScrollArea::wheelEvent(QWheelEvent* event) {
+  event->accept();
+  const QPoint angle = event->angleDelta();
+  if (event->modifiers() & Qt::ControlModifier) {
+    scrollView_.wheelZoom(angle.y() != 0 ? angle.y() : angle.x(), clip_->mapFrom(this, event->position()));
+    synchronize();
+    return;
+  }
+  QPointF delta = event->pixelDelta().isNull() ? QPointF(angle) * (kPixelsPerNotch / 120.0) : QPointF(event->pixelDelta());
+  if (event->modifiers() & Qt::ShiftModifier && delta.x() == 0) delta = QPointF(delta.y(), 0);
+  scrollBy(-delta);
+}
+
+bool ZoomingScrollArea::event(QEvent* event) {
+  if (event->type() == QEvent::Gesture && pinch(event)) return true;
+  // While a rectangle is dragged nothing else is handled: no command either.
+  if (event->type() == QEvent::ShortcutOverride && isDragging()) {
+    event->accept();
+    return true;
+  }
+  return QWidget::event(event);
+}
+
+void ZoomingScrollArea::pinchTo(double factor, const QPointF& global) {
+  scrollView_.zoomTo(std::clamp(factor, kSmallestFactor, kLargestFactor), clip_->mapFromGlobal(global));
+  synchronize();
+}
+
+bool ZoomingScrollArea::pinch(QEvent* event) {
+  auto* gesture = static_cast<QGestureEvent*>(event)->gesture(Qt::PinchGesture);
+  if (!gesture) return false;
+  const auto* pinching = static_cast<QPinchGesture*>(gesture);
+  if (pinching->changeFlags() & QPinchGesture::ScaleFactorChanged)
+    pinchTo(scrollView_.factor() * pinching->scaleFactor(), pinching->hotSpot());
+  static_cast<QGestureEvent*>(event)->accept(gesture);
+  return true;
+}
+
+bool ZoomingScrollArea::pan(QEvent* event) {
+  auto* mouse = static_cast<QMouseEvent*>(event);
+  if (event->type() == QEvent::MouseButtonPress) {
+    const bool wanted = mouse->button() == Qt::MiddleButton || (spaceHeld_ && mouse->button() == Qt::LeftButton);
+    if (!wanted) return false;
+    panFrom_ = mouse->position();
+    document_->setCursor(Qt::ClosedHandCursor);
+    return true;
+  }
+  if (!panFrom_) return false;
+  scrollBy(*panFrom_ - mouse->position());
+  panFrom_ = mouse->position();
+  if (event->type() == QEvent::MouseButtonRelease) {
+    panFrom_.reset();
+    document_->setCursor(spaceHeld_ ? Qt::OpenHandCursor : Qt::CrossCursor);
+  }
+  return true;
+}
+
+bool ZoomingScrollArea::isDragging() const { return document_ && document_->view().selection().tracking(); }
+
+bool ZoomingScrollArea::holdSpace(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Space) return false;
+  if (event.isAutoRepeat()) return true;
+  spaceHeld_ = event.type() == QEvent::KeyPress;
+  if (document_ && !panFrom_) document_->setCursor(spaceHeld_ ? Qt::OpenHandCursor : Qt::CrossCursor);
+  return true;
+}
+
+void ZoomingScrollArea::keyReleaseEvent(QKeyEvent* event) {
+  if (!holdSpace(*event)) QWidget::keyReleaseEvent(event);
+}
+
+void ZoomingScrollArea::focusOutEvent(QFocusEvent* event) {
+  spaceHeld_ = false;
+  if (document_ && !panFrom_) document_->setCursor(Qt::CrossCursor);
+  QWidget::focusOutEvent(event);
+}
+
+bool ZoomingScrollArea::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != document_) {
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide) placeCards();
+    return QWidget::eventFilter(watched, event);
+  }
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease: return pan(event);
+    case QEvent::NativeGesture: {
+      auto* native = static_cast<QNativeGestureEvent*>(event);
+      if (native->gestureType() != Qt::ZoomNativeGesture) return false;
+      pinchTo(scrollView_.factor() * (1 + native->value()), native->globalPosition());
+      return true;
+    }
+    default: return false;
+  }
+}
+
+}  // namespace norvex

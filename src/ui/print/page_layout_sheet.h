@@ -1,0 +1,40 @@
+// The page-layout sheet.
+#pragma once
+
+#include <QDialog>
+
+#include "print/print_info.h"
+
+class QPushButton;
+class QVBoxLayout;
+
+namespace norvex {
+
+class PageLayoutControls;
+class PageLayoutPreview;
+class ZyPageLayoutAccessory;
+
+/// Paper, orientation and scaling, what its accessories add, and a drawn page. Main thread.
+class PageLayoutSheet final : public QDialog {
+  Q_OBJECT
+ public:
+  PageLayoutSheet(const NSPrintInfo& info, QWidget* window);
+
+  /// Adds controls below the sheet's own; taken over.
+  void addAccessoryController(ZyPageLayoutAccessory* accessory);
+  /// What the sheet was given, with everything that was chosen.
+  [[nodiscard]] const NSPrintInfo& printInfo() const { return info_; }
+
+ private:
+  void takeChoices();
+  void showPage();
+
+  NSPrintInfo info_;
+  PageLayoutControls* controls_;
+  PageLayoutPreview* preview_;
+  QVBoxLayout* column_;
+  QPushButton* ok_ = nullptr;
+  QList<ZyPageLayoutAccessory*> accessories_;
+};
+
+}  // namespace norvex

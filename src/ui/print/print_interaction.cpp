@@ -1,0 +1,69 @@
+#include "ui/print/print_interaction.h"
+
+#include <QProgressDialog>
+#include <QTimer>
+
+#include <limits>
+
+#include "base/localized_string.h"
+#include "ui/panels/alert_box.h"
+#include "ui/print/page_layout_sheet.h"
+#include "ui/print/print_panel.h"
+#include "ui/print/zy_page_layout_accessory.h"
+
+namespace norvex {
+namespace {
+
+constexpr int kQuickMs = 300;
+constexpr int kProgressWidth = 360;
+
+}  // namespace
+
+QtPrintInteraction::QtPrintInteraction(PrintSpooler& spooler, QWidget* window, AlertPresenter* alerts)
+    : spooler_(spooler), window_(window), alerts_(alerts) {}
+
+QtPrintInteraction::~QtPrintInteraction() {
+  for (const auto& dialog : progress_) delete dialog.data();
+}
+
+bool QtPrintInteraction::runPrintPanel(NSPrintOperation& operation) {
+  PrintPanel panel(operation, spooler_, window_);
+  return panel.exec() == QDialog::Accepted;
+}
+
+void QtPrintInteraction::beginPageLayout(const NSPrintInfo& printInfo,
+                                         std::function<void(const NSPrintInfo&, int)> end) {
+  auto* sheet = new PageLayoutSheet(printInfo, window_);
+  sheet->setAttribute(Qt::WA_DeleteOnClose);
+  sheet->addAccessoryController(new ZyPageLayoutAccessory);
+  QObject::connect(sheet, &QDialog::finished, sheet,
+                   [sheet, end](int code) { end(sheet->printInfo(), code == QDialog::Accepted ? 1 : 0); });
+  sheet->open();
+}
+
+int QtPrintInteraction::jobDidBegin(const QString& title, const CancelToken& cancel) {
+  auto* dialog = new QProgressDialog(localizedString("Printing “%1”…").arg(title), localizedString("Cancel"),
+                                     0, 0, window_);
+  dialog->setWindowTitle(localizedString("Printing"));
+  dialog->setMinimumWidth(kProgressWidth);
+  // Its own patience does not count for a bar without an end.
+  dialog->setMinimumDuration(std::numeric_limits<int>::max());
+  QTimer::singleShot(kQuickMs, dialog, &QWidget::show);
+  dialog->setAutoClose(false);
+  QObject::connect(dialog, &QProgressDialog::canceled, dialog, [cancel] { cancel.cancel(); });
+  progress_.insert(++lastJob_, dialog);
+  return lastJob_;
+}
+
+void QtPrintInteraction::jobDidEnd(int job, const QString& title, const Result<void>& result) {
+  delete progress_.take(job).data();
+  if (result || result.error().kind == ErrorKind::Cancelled) return;
+  const QString& message = result.error().message;
+  Alert alert;
+  alert.messageText = localizedString("“%1” was not printed.").arg(title);
+  alert.informativeText = message.isEmpty() ? QString() : message.at(0).toUpper() + message.mid(1) + u'.';
+  QtAlertPresenter own;
+  (alerts_ ? *alerts_ : static_cast<AlertPresenter&>(own)).runModal(alert);
+}
+
+}  // namespace norvex

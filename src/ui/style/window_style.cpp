@@ -1,0 +1,27 @@
+#include "ui/style/window_style.h"
+
+namespace norvex {
+
+QString windowStyleSheet() {
+  return QStringLiteral(
+      "QToolBar { border: none; padding: 4px 8px; spacing: 2px; background: palette(window); }"
+      "QToolBar QToolButton { padding: 4px 7px; border: 1px solid transparent; border-radius: 6px; }"
+      "QToolBar QToolBarExtension { padding: 0; border: none; }"
+      "QToolBar QToolButton:hover:enabled { background: palette(midlight); }"
+      "QToolBar QToolButton:checked { background: palette(midlight); border-color: palette(mid); }"
+      "QToolBar QToolButton:pressed { background: palette(mid); }"
+      "QToolBar QToolButton:focus { border-color: palette(highlight); }"
+      "QToolBar::separator { width: 1px; margin: 6px 6px; background: palette(mid); }"
+      "QMenuBar { background: palette(window); border: none; padding: 1px 4px; }"
+      "QTabWidget::pane { border: none; border-top: 1px solid palette(mid); top: -1px; }"
+      "QTabBar { qproperty-drawBase: 0; }"
+      "QTabBar::tab { padding: 9px 18px 7px 18px; border: none; border-bottom: 2px solid transparent; }"
+      "QTabBar::tab:selected { border-bottom: 2px solid palette(highlight); }"
+      "QTabBar::tab:!selected { color: palette(placeholder-text); }"
+      "QGroupBox { border: none; margin-top: 1.7em; padding: 0; }"
+      "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0; left: -2px; }"
+      "#descriptionView QPlainTextEdit { border: 1px solid palette(mid); border-radius: 6px; background: palette(base); }"
+      "Line { color: palette(mid); }");
+}
+
+}  // namespace norvex

@@ -1,0 +1,106 @@
+#include "worker/pages/pdf_engine.h"
+
+// The engine of PDF documents and of Illustrator files that are PDF inside.
+#include "worker/pages/compose_page.h"
+#include "worker/pdf/compose_pdf.h"
+#include "worker/pdf/illustrator_notice.h"
+#include "worker/drawing/installed_fonts.h"
+#include "worker/pdf/pdf_facts.h"
+#include "worker/pdf/pdf_file.h"
+#include "worker/pdf/pdf_render.h"
+#include "worker/pdf/pdf_resources.h"
+#include "worker/pdf/whole_page.h"
+
+#include <optional>
+
+namespace norvex::engine {
+namespace {
+
+class PdfEngine final : public DocumentEngine {
+ public:
+  PdfEngine(QByteArray bytes, std::unique_ptr<PdfFile> file, PictureFacts facts, EngineContext& context)
+      : bytes_(std::move(bytes)),
+        file_(std::move(file)),
+        facts_(std::move(facts)),
+        renderer_(bytes_),
+        context_(context) {}
+
+  Result<PictureFacts> facts() override { return facts_; }
+
+  Result<Bitmap> render(const RenderRequest& request) override {
+    const Result<QSizeF> size = shownSize(request.page);
+    if (!size) return size.error();
+    if (request.purpose == RenderPurpose::Export) noteMissingFonts(request.page);
+    Result<Bitmap> image = renderer_.render(request, *size, context_.limits);
+    if (image || image.error().kind == ErrorKind::Limit || image.error().kind == ErrorKind::Protocol)
+      return image;
+    return renderRepaired(request, *size);
+  }
+
+  Result<EngineBytes> pdf(const PdfRequest& request) override {
+    const Result<QSizeF> size = shownSize(request.page);
+    if (!size) return size.error();
+    return composePage(bytes_, wholePage(request.page, *size, VectorFormat::Pdf), context_);
+  }
+
+  Result<EngineBytes> compose(const ComposeRequest& request) override {
+    Result<EngineBytes> result = composePage(bytes_, request, context_);
+    // A PDF asks for its fonts as the document did; EPS holds what is drawn instead.
+    if (!result || request.format != VectorFormat::Eps) return result;
+    noteMissingFonts(request.page);
+    result->report.warnings = missingFonts_ + result->report.warnings;
+    return result;
+  }
+
+  [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_; }
+
+ private:
+  void noteMissingFonts(int page) {
+    if (page < 0 || page >= file_->pageCount() || fontsOfPage_ == page) return;
+    fontsOfPage_ = page;
+    missingFonts_.clear();
+    for (const QString& font : missingFonts(*file_, page)) missingFonts_ << missingFontSentence(font);
+  }
+
+  [[nodiscard]] Result<QSizeF> shownSize(int page) {
+    if (page < 0 || page >= file_->pageCount()) return noSuchPage(page, file_->pageCount());
+    if (page < facts_.pageBounds.size()) return facts_.pageBounds[page].size();
+    return guarded([&]() -> Result<QSizeF> { return file_->geometry(page).shownSize(); });
+  }
+
+  // Of damaged files qpdf finds pages that Poppler misses: it is given the page alone, written anew.
+  [[nodiscard]] Result<Bitmap> renderRepaired(RenderRequest request, QSizeF size) {
+    if (!repaired_ || repairedPage_ != request.page) {
+      Result<QByteArray> page = composePdf(bytes_, wholePage(request.page, size, VectorFormat::Pdf));
+      if (!page) return page.error();
+      repaired_.emplace(std::move(*page));
+      repairedPage_ = request.page;
+    }
+    request.page = 0;
+    return repaired_->render(request, size, context_.limits);
+  }
+
+  QByteArray bytes_;
+  std::unique_ptr<PdfFile> file_;
+  PictureFacts facts_;
+  PdfRenderer renderer_;
+  std::optional<PdfRenderer> repaired_;
+  int repairedPage_ = -1;
+  QStringList missingFonts_;  ///< of the page that was handed out last, one sentence each
+  int fontsOfPage_ = -1;
+  EngineContext& context_;
+};
+
+}  // namespace
+
+Result<std::unique_ptr<DocumentEngine>> openPdf(const QByteArray& bytes, EngineContext& context) {
+  Result<std::unique_ptr<PdfFile>> file = PdfFile::open(bytes);
+  if (!file) return file.error();
+  Result<PictureFacts> facts = pdfFacts(**file);
+  if (!facts) return facts.error();
+  if (isIllustratorNotice(bytes, **file)) facts->warnings << illustratorNoticeSentence();
+  return std::unique_ptr<DocumentEngine>(
+      std::make_unique<PdfEngine>(bytes, std::move(*file), std::move(*facts), context));
+}
+
+}  // namespace norvex::engine

@@ -1,0 +1,42 @@
+#include "worker/pdf/illustrator_notice.h"
+
+#include <QRegularExpression>
+
+#include "worker/pdf/pdf_file.h"
+#include "worker/pdf/pdf_render.h"
+
+namespace norvex::engine {
+namespace {
+
+/// Bytes of the page's contents as they are stored. The notice takes about a tenth of it, compressed.
+constexpr long long kLongestNotice = 16 * 1024;
+
+bool mayHoldNotice(const PdfFile& file) {
+  if (file.pageCount() != 1) return false;
+  QPDFObjectHandle page = file.page(0);
+  QPDFObjectHandle pieces = page.getKey("/PieceInfo");
+  if (!pieces.isDictionary() || !pieces.hasKey("/Illustrator")) return false;
+  long long stored = 0;
+  for (QPDFObjectHandle& contents : page.getPageContents()) {
+    QPDFObjectHandle length = contents.getDict().getKey("/Length");
+    stored += length.isInteger() ? length.getIntValue() : kLongestNotice + 1;
+  }
+  return stored <= kLongestNotice;
+}
+
+}  // namespace
+
+bool isIllustratorNotice(const QByteArray& bytes, const PdfFile& file) {
+  const Result<bool> possible = guarded([&]() -> Result<bool> { return mayHoldNotice(file); });
+  if (!possible || !*possible) return false;
+  static const QRegularExpression notice(QStringLiteral("saved\\s+without\\s+PDF\\s+Content"),
+                                         QRegularExpression::CaseInsensitiveOption);
+  const Result<QString> text = PdfRenderer(bytes).text(0);
+  return text && text->contains(notice);
+}
+
+QString illustratorNoticeSentence() {
+  return QStringLiteral("this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork");
+}
+
+}  // namespace norvex::engine

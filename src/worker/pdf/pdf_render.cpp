@@ -1,0 +1,114 @@
+#include "worker/pdf/pdf_render.h"
+
+// GIO has members called "signals", which Qt makes a macro of.
+#pragma push_macro("signals")
+#undef signals
+#include <poppler.h>
+#pragma pop_macro("signals")
+
+#include "worker/drawing/cairo_surface.h"
+#include "worker/pdf/pdf_file.h"
+
+namespace norvex::engine {
+namespace {
+
+struct GObjectRelease {
+  void operator()(void* object) const { g_object_unref(object); }
+};
+using PagePointer = std::unique_ptr<PopplerPage, GObjectRelease>;
+
+Error unreadable(GError* error) {
+  Error result{ErrorKind::NotParsable, QStringLiteral("the document is not a readable PDF")};
+  if (error && g_error_matches(error, POPPLER_ERROR, POPPLER_ERROR_ENCRYPTED))
+    result = {ErrorKind::Encrypted, QStringLiteral("the document is protected with a password")};
+  g_clear_error(&error);
+  return result;
+}
+
+// Poppler draws a frame around links, as a reader does in which they can be clicked. It is no part of the
+// picture: what is handed out and printed has none either.
+void hideLinks(PopplerPage* page) {
+  GList* annotations = poppler_page_get_annot_mapping(page);
+  for (GList* at = annotations; at; at = at->next) {
+    PopplerAnnot* annotation = static_cast<PopplerAnnotMapping*>(at->data)->annot;
+    if (poppler_annot_get_annot_type(annotation) != POPPLER_ANNOT_LINK) continue;
+    const unsigned hidden = unsigned(poppler_annot_get_flags(annotation)) | POPPLER_ANNOT_FLAG_HIDDEN;
+    poppler_annot_set_flags(annotation, PopplerAnnotFlag(hidden));
+  }
+  poppler_page_free_annot_mapping(annotations);
+}
+
+// Poppler draws into a space with its origin at the page's upper-left corner, y down, one unit of user space
+// a unit; the clip keeps what lies outside the page (and in a neighbouring pixel's share of its edge)
+// unpainted.
+Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
+  double width = 0;
+  double height = 0;
+  poppler_page_get_size(page, &width, &height);
+  if (!(width > 0) || !(height > 0)) return {};
+  cairo_rectangle(context, 0, 0, shownSize.width(), shownSize.height());
+  cairo_clip(context);
+  cairo_translate(context, 0, shownSize.height());
+  cairo_scale(context, shownSize.width() / width, -shownSize.height() / height);
+  poppler_page_render(page, context);
+  return {};
+}
+
+// The page as it is shown: all that is drawn goes through here.
+Result<PagePointer> shownPage(PopplerDocument* document, int page) {
+  const int count = poppler_document_get_n_pages(document);
+  if (page < 0 || page >= count) return noSuchPage(page, count);
+  PagePointer opened(poppler_document_get_page(document, page));
+  if (!opened) return Error{ErrorKind::NotParsable, QStringLiteral("page %1 cannot be read").arg(page + 1)};
+  hideLinks(opened.get());
+  return opened;
+}
+
+}  // namespace
+
+void PdfRenderer::Release::operator()(_PopplerDocument* document) const {
+  g_object_unref(document);
+}
+
+Result<void> PdfRenderer::load() {
+  if (document_) return {};
+  GBytes* bytes = g_bytes_new_static(pdf_.constData(), gsize(pdf_.size()));
+  GError* error = nullptr;
+  document_.reset(poppler_document_new_from_bytes(bytes, nullptr, &error));
+  g_bytes_unref(bytes);
+  if (!document_) return unreadable(error);
+  return {};
+}
+
+Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSize,
+                                   const PictureLimits& limits) {
+  if (const Result<void> loaded = load(); !loaded) return loaded.error();
+  const Result<PagePointer> page = shownPage(document_.get(), request.page);
+  if (!page) return page.error();
+  return paintImage(request, limits,
+                    [&](cairo_t* context) { return paintPage(context, page->get(), shownSize); });
+}
+
+Result<QByteArray> PdfRenderer::vectors(QSizeF shownSize, const AffineTransform& pictureToSheet, QSizeF sheet) {
+  if (const Result<void> loaded = load(); !loaded) return loaded.error();
+  const int count = poppler_document_get_n_pages(document_.get());
+  return paintPdf(sheet, count, [&](cairo_t* context, int number) -> Result<void> {
+    const Result<PagePointer> page = shownPage(document_.get(), number);
+    if (!page) return page.error();
+    const cairo_matrix_t matrix = toCairo(pictureToSheet);
+    cairo_set_matrix(context, &matrix);
+    return paintPage(context, page->get(), shownSize);
+  });
+}
+
+Result<QString> PdfRenderer::text(int page) {
+  if (const Result<void> loaded = load(); !loaded) return loaded.error();
+  const int count = poppler_document_get_n_pages(document_.get());
+  if (page < 0 || page >= count) return noSuchPage(page, count);
+  const PagePointer opened(poppler_document_get_page(document_.get(), page));
+  if (!opened) return Error{ErrorKind::NotParsable, QStringLiteral("page %1 cannot be read").arg(page + 1)};
+  const std::unique_ptr<char, decltype(&g_free)> words(poppler_page_get_text(opened.get()), &g_free);
+  return QString::fromUtf8(words.get());
+}
+
+}  // namespace norvex::engine

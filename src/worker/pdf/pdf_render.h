@@ -1,0 +1,44 @@
+// Draws pages of a PDF with Poppler. Poppler is loaded with the first rendering; for facts only when a short page of an
+// Illustrator file must be read.
+#pragma once
+
+#include <QByteArray>
+#include <QSizeF>
+#include <QString>
+
+#include <memory>
+
+#include "base/result.h"
+#include "protocol/worker_protocol.h"
+#include "worker/drawing/bitmap.h"
+
+struct _PopplerDocument;
+
+namespace norvex::engine {
+
+/// Single-threaded; keeps the parsed document for the next rendering.
+class PdfRenderer {
+ public:
+  explicit PdfRenderer(QByteArray pdf) : pdf_(std::move(pdf)) {}
+
+  /// Draws request.page. `shownSize` is the page's size in picture coordinates (points); pixels outside the page
+  /// and pixels that the page does not paint stay transparent. Fails as paintImage() does, with NotParsable when
+  /// Poppler cannot read the document and with Unsupported when there is no such page.
+  [[nodiscard]] Result<Bitmap> render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits);
+  /// Draws every page as render() does, but as vectors: a PDF of as many pages. The pages are all of the same
+  /// `shownSize`; `pictureToSheet` maps picture coordinates to the new pages (`sheet` points large, origin at the
+  /// upper-left corner, y down). A line of less than a point on the new page is a point wide. Fails like render().
+  [[nodiscard]] Result<QByteArray> vectors(QSizeF shownSize, const AffineTransform& pictureToSheet, QSizeF sheet);
+  /// The words of a page in reading order. Fails like render().
+  [[nodiscard]] Result<QString> text(int page);
+
+ private:
+  [[nodiscard]] Result<void> load();
+  struct Release {
+    void operator()(_PopplerDocument* document) const;
+  };
+  QByteArray pdf_;
+  std::unique_ptr<_PopplerDocument, Release> document_;
+};
+
+}  // namespace norvex::engine

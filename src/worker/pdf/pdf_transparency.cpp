@@ -1,0 +1,84 @@
+#include "worker/pdf/pdf_transparency.h"
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <functional>
+#include <string>
+
+namespace norvex::engine {
+namespace {
+
+constexpr int kDeepest = 64;  // direct objects within direct objects
+
+using Visit = std::function<void(QPDFObjectHandle dictionary)>;
+
+// Every dictionary of the file, those of streams and those inside other objects included, each once.
+void visitDirect(QPDFObjectHandle object, const Visit& visit, int depth) {
+  if (depth > kDeepest) return;
+  if (object.isStream()) object = object.getDict();
+  if (object.isDictionary()) {
+    visit(object);
+    for (const std::string& key : object.getKeys()) {
+      QPDFObjectHandle value = object.getKey(key);
+      if (!value.isIndirect()) visitDirect(value, visit, depth + 1);
+    }
+  } else if (object.isArray()) {
+    for (int i = 0; i < object.getArrayNItems(); ++i) {
+      QPDFObjectHandle item = object.getArrayItem(i);
+      if (!item.isIndirect()) visitDirect(item, visit, depth + 1);
+    }
+  }
+}
+
+void visitAll(QPDF& qpdf, const Visit& visit) {
+  for (QPDFObjectHandle object : qpdf.getAllObjects()) visitDirect(object, visit, 0);
+}
+
+bool isLessThanOne(QPDFObjectHandle value) { return value.isNumber() && value.getNumericValue() < 1; }
+
+bool isBlending(QPDFObjectHandle mode) {
+  if (mode.isArray() && mode.getArrayNItems() > 0) mode = mode.getArrayItem(0);
+  return mode.isName() && mode.getName() != "/Normal" && mode.getName() != "/Compatible";
+}
+
+// Graphics states are told by where they hang, images and groups by what they hold.
+void visitGraphicsStates(QPDFObjectHandle dictionary, const Visit& visit) {
+  QPDFObjectHandle states = dictionary.getKey("/ExtGState");
+  if (!states.isDictionary()) return;
+  for (const std::string& name : states.getKeys())
+    if (QPDFObjectHandle state = states.getKey(name); state.isDictionary()) visit(state);
+}
+
+bool isImage(QPDFObjectHandle dictionary) { return dictionary.getKey("/Subtype").isNameAndEquals("/Image"); }
+
+}  // namespace
+
+bool usesTransparency(QPDF& qpdf) {
+  bool found = false;
+  visitAll(qpdf, [&](QPDFObjectHandle dictionary) {
+    if (found) return;
+    if (isImage(dictionary) &&
+        (dictionary.getKey("/SMask").isStream() || dictionary.getKey("/SMaskInData").isInteger()))
+      found = true;
+    visitGraphicsStates(dictionary, [&](QPDFObjectHandle state) {
+      found = found || isLessThanOne(state.getKey("/ca")) || isLessThanOne(state.getKey("/CA")) ||
+              isBlending(state.getKey("/BM")) || state.getKey("/SMask").isDictionary();
+    });
+  });
+  return found;
+}
+
+void removeTransparency(QPDF& qpdf) {
+  visitAll(qpdf, [](QPDFObjectHandle dictionary) {
+    if (isImage(dictionary)) {
+      dictionary.removeKey("/SMask");
+      dictionary.removeKey("/SMaskInData");
+    }
+    if (dictionary.getKey("/Group").isDictionary()) dictionary.removeKey("/Group");
+    visitGraphicsStates(dictionary, [](QPDFObjectHandle state) {
+      for (const char* key : {"/ca", "/CA", "/BM", "/SMask", "/AIS"}) state.removeKey(key);
+    });
+  });
+}
+
+}  // namespace norvex::engine

@@ -1,0 +1,126 @@
+#include "worker/postscript/distill.h"
+
+#include <QRegularExpression>
+
+#include <optional>
+#include <utility>
+
+#include "worker/postscript/distiller.h"
+#include "worker/postscript/ghostscript.h"
+#include "worker/drawing/installed_fonts.h"
+#include "worker/pdf/pdf_file.h"
+#include "worker/pdf/pdf_numbers.h"
+#include "worker/pdf/pdf_writing.h"
+
+namespace norvex::engine {
+namespace {
+
+constexpr qsizetype kMaximumSubstitutions = 20;  // that are told
+
+// Runs before the document, whose program follows it in the same stream. The page is set once and for all: what a
+// document may do to it (setpagedevice) does nothing, and the operators that go back to the page's own coordinates
+// go back to the box's. The document runs inside `stopped`, so that its end is known: on an error one line with the
+// count of finished pages and the error's name is written, otherwise a last showpage makes up for a missing one (a
+// page too many is dropped later). Names are bound early: documents redefine operators.
+QByteArray prolog(const QRectF& box) {
+  const QByteArray offset = decimal(-box.x(), 6) + ' ' + decimal(-box.y(), 6);
+  const QByteArray size = decimal(box.width(), 6) + ' ' + decimal(box.height(), 6);
+  return "%!\n0 vmreclaim << /NeverEmbed [ ] >> setdistillerparams\n<< /PageSize [" + size +
+         "] /ImagingBBox null >> setpagedevice\n" + offset +
+         " translate\n"
+         "userdict begin\n"
+         "/setpagedevice { pop } def\n"
+         "/defaultmatrix { systemdict /defaultmatrix get exec " +
+         offset +
+         " matrix translate exch dup concatmatrix } bind def\n"
+         "/initmatrix { matrix defaultmatrix setmatrix } bind def\n"
+         "/initgraphics { systemdict /initgraphics get exec initmatrix } bind def\n"
+         "/quit { stop } bind def\n"
+         "end\n"
+         "{ currentfile cvx stopped $error /newerror get and\n"
+         "  { (%stderr) (w) file dup (norvex-error: ) writestring\n"
+         "    dup currentpagedevice /PageCount get =string cvs writestring dup ( ) writestring\n"
+         "    dup $error /errorname get =string cvs writestring dup ( ) writestring\n"
+         "    dup $error /command get =string cvs writestring dup (\\n) writestring flushfile }\n"
+         "  { systemdict /showpage get exec } ifelse systemdict /quit get exec } bind exec\n";
+}
+
+struct ProgramError {
+  int finishedPages = 0;
+  QString name;
+  QString command;
+};
+
+std::optional<ProgramError> programError(const QByteArray& messages) {
+  static const QRegularExpression line(QStringLiteral("norvex-error: (\\d+) (\\S+) ([^\\n]*)"));
+  const QRegularExpressionMatch match = line.match(QString::fromLatin1(messages));
+  if (!match.hasMatch()) return std::nullopt;
+  return ProgramError{match.captured(1).toInt(), match.captured(2), match.captured(3).simplified().left(80)};
+}
+
+Error sentence(const ProgramError& error) {
+  if (error.name == u"VMerror")
+    return {ErrorKind::Limit, QStringLiteral("the PostScript needs more memory than it was granted")};
+  const QString where = error.command.isEmpty() ? QString() : QStringLiteral(" in %1").arg(error.command);
+  return {ErrorKind::NotParsable, QStringLiteral("PostScript error: %1%2").arg(error.name, where)};
+}
+
+// For errors outside the document's own program: gs's words for them.
+Error unexplained(const GhostscriptOutput& run) {
+  static const QRegularExpression line(QStringLiteral("Error: /?([^\\n]+)"));
+  const QRegularExpressionMatch match = line.match(QString::fromLatin1(run.messages));
+  const QString words = match.hasMatch() ? match.captured(1).simplified().left(120)
+                                         : QStringLiteral("it draws no page");
+  if (words.contains(u"VMerror"))
+    return {ErrorKind::Limit, QStringLiteral("the PostScript needs more memory than it was granted")};
+  return {ErrorKind::NotParsable, QStringLiteral("PostScript error: %1").arg(words)};
+}
+
+// The fonts that were neither in the document nor on this machine.
+QStringList substitutions(const QByteArray& messages) {
+  static const QRegularExpression line(QStringLiteral("Substituting font (\\S{1,100}) for (\\S{1,100})\\.\\s"));
+  QStringList warnings;
+  for (auto match = line.globalMatch(QString::fromLatin1(messages)); match.hasNext();) {
+    const QRegularExpressionMatch font = match.next();
+    const QString warning = missingFontSentence(font.captured(2), font.captured(1));
+    if (!warnings.contains(warning)) warnings << warning;
+    if (warnings.size() == kMaximumSubstitutions) break;
+  }
+  return warnings;
+}
+
+// gs rounds the page to what its device can set and may have written a blank page behind the picture's.
+Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box) {
+  Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
+  if (!file) return file.error();
+  return guarded([&]() -> Result<QByteArray> {
+    QPDFObjectHandle page = (*file)->page(0);
+    for (const char* key : {"/CropBox", "/TrimBox", "/BleedBox", "/ArtBox", "/Rotate"}) page.removeKey(key);
+    page.replaceKey("/MediaBox", boxAtOrigin(box.width(), box.height()));
+    keepOnlyPage((*file)->qpdf(), page);
+    return writePdf((*file)->qpdf());
+  });
+}
+
+}  // namespace
+
+Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
+  std::shared_ptr<GhostscriptChild> child = std::exchange(context.warmGhostscript, nullptr);
+  if (!child) {
+    auto started = startDistiller(context);
+    if (!started) return started.error();
+    child = std::move(*started);
+  }
+  const Result<GhostscriptOutput> run = child->run({prolog(box), postScript}, context);
+  if (!run) return run.error();
+  const std::optional<ProgramError> stopped = programError(run->messages);
+  if (stopped && stopped->finishedPages == 0) return sentence(*stopped);
+  if (run->exitStatus != 0 || !run->output.startsWith("%PDF-")) return unexplained(*run);
+  Result<QByteArray> pdf = firstPage(run->output, box);
+  if (!pdf) return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript draws no page")};
+  Distilled distilled{std::move(*pdf), substitutions(run->messages)};
+  if (stopped) distilled.warnings << QStringLiteral("what follows the picture in the file was left out");
+  return distilled;
+}
+
+}  // namespace norvex::engine

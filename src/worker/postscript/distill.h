@@ -1,0 +1,26 @@
+// PostScript to PDF, once for each document: the one place where a document's program is run.
+#pragma once
+
+#include <QByteArray>
+#include <QRectF>
+#include <QStringList>
+
+#include "base/result.h"
+#include "worker/engine/engine.h"
+
+namespace norvex::engine {
+
+struct Distilled {
+  QByteArray pdf;        ///< one page, media box [0 0 width height] of the picture's box
+  QStringList warnings;  ///< one plain sentence each
+};
+
+/// Runs `postScript` (no binary header) and gives what it draws inside `box` (default user space, points) as
+/// a page of exactly that size with the box's lower-left corner at its origin. The document cannot change the
+/// page; a missing showpage is made up for; only the first page counts. Colours, fonts and images are kept as
+/// they are. Uses up context.warmGhostscript. Fails with NotParsable and the interpreter's error in one
+/// sentence when an error stops the program before it has finished a page, and as GhostscriptChild::run().
+[[nodiscard]] Result<Distilled> distill(const QByteArray& postScript, const QRectF& box,
+                                        EngineContext& context);
+
+}  // namespace norvex::engine

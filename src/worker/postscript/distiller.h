@@ -1,0 +1,21 @@
+// Ghostscript as it is started to turn PostScript into PDF. Apart from distill.h, so that it can be started
+// before the libraries that the result needs are even loaded.
+#pragma once
+
+#include <memory>
+
+#include "base/result.h"
+#include "worker/engine/engine.h"
+#include "worker/postscript/ghostscript.h"
+
+namespace norvex::engine {
+
+/// A child that waits for its program. Fails as GhostscriptChild::start().
+[[nodiscard]] Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& context);
+
+/// Starts Ghostscript in the context's warmGhostscript so that it has initialised itself by the time the
+/// document's bytes arrive. The message server calls it in a child that was told ForkRequest::postScript.
+/// Harmless when gs cannot be started or the document needs none.
+void warmUpGhostscript(EngineContext& context);
+
+}  // namespace norvex::engine

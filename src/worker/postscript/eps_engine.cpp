@@ -1,0 +1,87 @@
+#include "worker/postscript/eps_engine.h"
+
+// The engine of Encapsulated PostScript. Facts come from the header; the program is run once, when something is to be
+// drawn, and from then on the picture is a PDF.
+#include "metadata/eps_bounding_box.h"
+#include "metadata/eps_program.h"
+#include "worker/pages/compose_page.h"
+#include "worker/postscript/distill.h"
+#include "worker/pdf/pdf_file.h"
+#include "worker/pdf/pdf_render.h"
+#include "worker/pdf/whole_page.h"
+
+#include <optional>
+
+namespace norvex::engine {
+namespace {
+
+class EpsEngine final : public DocumentEngine {
+ public:
+  EpsEngine(const QByteArray& bytes, const QRectF& box, EngineContext& context)
+      : bytes_(bytes), box_(box), context_(context) {}
+
+  Result<PictureFacts> facts() override {
+    PictureFacts facts;
+    facts.pageBounds = {box_};
+    facts.pageCount = 1;
+    return facts;
+  }
+
+  Result<Bitmap> render(const RenderRequest& request) override {
+    if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
+    return renderer_->render(request, box_.size(), context_.limits);
+  }
+
+  [[nodiscard]] QStringList drawingRemarks() const override {
+    return distilled_ ? distilled_->warnings : QStringList();
+  }
+
+  Result<EngineBytes> pdf(const PdfRequest& request) override {
+    if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
+    EngineBytes result{distilled_->pdf, {}};
+    result.report.warnings = distilled_->warnings;
+    return result;
+  }
+
+  Result<EngineBytes> compose(const ComposeRequest& request) override {
+    if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
+    Result<EngineBytes> result = composePage(distilled_->pdf, request, context_);
+    if (result) result->report.warnings = distilled_->warnings + result->report.warnings;
+    return result;
+  }
+
+ private:
+  // Distils at the first call. A failure that lies in the document is remembered: it would fail again.
+  [[nodiscard]] Result<void> prepare(int page) {
+    if (page != 0) return noSuchPage(page, 1);
+    if (distilled_) return {};
+    if (failure_) return *failure_;
+    Result<Distilled> distilled = distill(epsProgram(bytes_), box_, context_);
+    if (!distilled) {
+      if (distilled.error().kind == ErrorKind::NotParsable) failure_ = distilled.error();
+      return distilled.error();
+    }
+    distilled_ = std::move(*distilled);
+    renderer_.emplace(distilled_->pdf);
+    return {};
+  }
+
+  QByteArray bytes_;
+  QRectF box_;
+  EngineContext& context_;
+  std::optional<Distilled> distilled_;
+  std::optional<Error> failure_;
+  std::optional<PdfRenderer> renderer_;
+};
+
+}  // namespace
+
+Result<std::unique_ptr<DocumentEngine>> openEps(const QByteArray& bytes, EngineContext& context) {
+  if (epsProgram(bytes).isEmpty())
+    return Error{ErrorKind::NotParsable, QStringLiteral("the file holds no PostScript")};
+  const std::optional<QRectF> box = epsPictureBox(epsBoundingBoxes(bytes));
+  if (!box) return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript has no usable bounding box")};
+  return std::unique_ptr<DocumentEngine>(std::make_unique<EpsEngine>(bytes, *box, context));
+}
+
+}  // namespace norvex::engine

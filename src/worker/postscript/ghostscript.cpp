@@ -1,0 +1,226 @@
+#include "worker/postscript/ghostscript.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <utility>
+#include <vector>
+
+namespace norvex::engine {
+namespace {
+
+constexpr int kLookMilliseconds = 50;          // how often the cancel token is looked at
+constexpr qsizetype kMaximumMessages = 64 << 10;
+
+struct Pipe {
+  int end[2] = {-1, -1};
+  [[nodiscard]] bool open() { return ::pipe2(end, O_CLOEXEC) == 0; }
+  void close(int which) {
+    if (end[which] >= 0) ::close(end[which]);
+    end[which] = -1;
+  }
+  int take(int which) { return std::exchange(end[which], -1); }
+  ~Pipe() { close(0), close(1); }
+};
+
+const char* program() {
+  for (const char* path : {"/usr/bin/gs", "/usr/local/bin/gs"})
+    if (::access(path, X_OK) == 0) return path;
+  return nullptr;
+}
+
+int descriptorLimit() {
+  rlimit limit{};
+  if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return 1024;
+  return int(std::min<rlim_t>(limit.rlim_cur, 4096));
+}
+
+// Runs between fork and exec: nothing here may allocate or lock.
+[[noreturn]] void becomeGhostscript(const char* path, char* const* arguments, char* const* environment,
+                                    const std::array<int, 3>& standard, int descriptors, pid_t parent) {
+  ::setpgid(0, 0);
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  if (::getppid() != parent) ::_exit(127);
+  for (int i = 0; i < 3; ++i)
+    if (::dup2(standard[size_t(i)], i) < 0) ::_exit(127);
+  for (int descriptor = 3; descriptor < descriptors; ++descriptor) ::close(descriptor);
+  ::signal(SIGPIPE, SIG_DFL);
+  ::execve(path, arguments, environment);
+  ::_exit(127);
+}
+
+std::vector<char*> pointers(QList<QByteArray>& texts) {
+  std::vector<char*> result;
+  for (QByteArray& text : texts) result.push_back(text.data());
+  result.push_back(nullptr);
+  return result;
+}
+
+void closeDescriptor(int& descriptor) {
+  if (descriptor >= 0) ::close(descriptor);
+  descriptor = -1;
+}
+
+// Reads what is there; false at the end of the stream.
+bool readInto(int descriptor, QByteArray& target, qsizetype maximum) {
+  char buffer[65536];
+  const ssize_t got = ::read(descriptor, buffer, sizeof buffer);
+  if (got < 0) return errno == EINTR || errno == EAGAIN;
+  target.append(buffer, std::min<qsizetype>(got, std::max<qsizetype>(0, maximum - target.size())));
+  return got > 0;
+}
+
+// The pieces of the input and how far they are written.
+class Feed {
+ public:
+  explicit Feed(const QList<QByteArray>& pieces) : pieces_(pieces) { skipEmpty(); }
+  [[nodiscard]] bool done() const { return piece_ == pieces_.size(); }
+  /// False when the reader is gone.
+  bool writeTo(int descriptor) {
+    const QByteArray& piece = pieces_[piece_];
+    const ssize_t put = ::write(descriptor, piece.constData() + offset_, size_t(piece.size() - offset_));
+    if (put < 0) return errno == EINTR || errno == EAGAIN;
+    offset_ += put;
+    if (offset_ == piece.size()) ++piece_, offset_ = 0, skipEmpty();
+    return true;
+  }
+
+ private:
+  void skipEmpty() {
+    while (!done() && pieces_[piece_].isEmpty()) ++piece_;
+  }
+  const QList<QByteArray>& pieces_;
+  qsizetype piece_ = 0;
+  qsizetype offset_ = 0;
+};
+
+qint64 milliseconds() {
+  QElapsedTimer timer;
+  timer.start();
+  return timer.msecsSinceReference();
+}
+
+// Nothing while work may go on.
+Result<void> checkPatience(qint64 deadline, const EngineContext& context) {
+  if (context.cancel.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
+  if (milliseconds() >= deadline)
+    return Error{ErrorKind::TimedOut,
+                 QStringLiteral("the PostScript did not end within %1 seconds").arg(context.limits.seconds)};
+  return {};
+}
+
+}  // namespace
+
+Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::start(const QList<QByteArray>& arguments,
+                                                                  const QString& scratchFolder) {
+  const char* path = program();
+  if (!path) return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript (gs) is not installed")};
+  const Error failed{ErrorKind::Unsupported, QStringLiteral("Ghostscript (gs) cannot be started")};
+  Pipe input;
+  Pipe output;
+  Pipe messages;
+  if (!input.open() || !output.open() || !messages.open()) return failed;
+  QList<QByteArray> argumentTexts{QByteArrayLiteral("gs")};
+  argumentTexts += arguments;
+  QList<QByteArray> environmentTexts{"TMPDIR=" + QFile::encodeName(scratchFolder), "LC_ALL=C",
+                                     "PATH=/usr/bin:/bin"};
+  const std::vector<char*> argv = pointers(argumentTexts);
+  const std::vector<char*> environment = pointers(environmentTexts);
+  const int descriptors = descriptorLimit();
+  const pid_t parent = ::getpid();
+  ::signal(SIGPIPE, SIG_IGN);
+  const pid_t pid = ::fork();
+  if (pid == 0)
+    becomeGhostscript(path, argv.data(), environment.data(), {input.end[0], output.end[1], messages.end[1]},
+                      descriptors, parent);
+  if (pid < 0) return failed;
+  ::setpgid(pid, pid);  // both sides do it: whoever comes first
+  std::shared_ptr<GhostscriptChild> child(new GhostscriptChild);
+  child->pid_ = pid;
+  child->input_ = input.take(1);
+  child->output_ = output.take(0);
+  child->messages_ = messages.take(0);
+  for (const int descriptor : {child->input_, child->output_, child->messages_})
+    ::fcntl(descriptor, F_SETFL, ::fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+  return child;
+}
+
+GhostscriptChild::~GhostscriptChild() { end(); }
+
+void GhostscriptChild::end() {
+  closeDescriptor(input_);
+  closeDescriptor(output_);
+  closeDescriptor(messages_);
+  if (pid_ < 0) return;
+  ::kill(-pid_, SIGKILL);
+  ::kill(pid_, SIGKILL);
+  while (::waitpid(pid_, nullptr, 0) < 0 && errno == EINTR) {
+  }
+  pid_ = -1;
+}
+
+Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input, const EngineContext& context) {
+  GhostscriptOutput collected;
+  const qint64 deadline = milliseconds() + 1000LL * context.limits.seconds;
+  const Result<void> pumped = pump(input, deadline, context, collected);
+  if (!pumped) return end(), pumped.error();
+  const Result<int> status = reap(deadline, context);
+  end();
+  if (!status) return status.error();
+  if (WIFEXITED(*status)) {
+    collected.exitStatus = WEXITSTATUS(*status);
+    return collected;
+  }
+  if (const int signal = WTERMSIG(*status); signal == SIGKILL || signal == SIGXCPU || signal == SIGXFSZ)
+    return Error{ErrorKind::Limit, QStringLiteral("the PostScript used up the time or memory that it was granted")};
+  return Error{ErrorKind::NotParsable, QStringLiteral("Ghostscript failed on the PostScript")};
+}
+
+Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadline, const EngineContext& context,
+                                    GhostscriptOutput& collected) {
+  const qsizetype maximum = qsizetype(context.limits.memoryMiB) << 20;
+  Feed feed(input);
+  while (output_ >= 0 || messages_ >= 0) {
+    if (feed.done()) closeDescriptor(input_);
+    if (const Result<void> patience = checkPatience(deadline, context); !patience) return patience;
+    pollfd watched[3] = {{input_, POLLOUT, 0}, {output_, POLLIN, 0}, {messages_, POLLIN, 0}};
+    if (::poll(watched, 3, kLookMilliseconds) < 0 && errno != EINTR)
+      return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript cannot be talked to")};
+    if (watched[0].revents != 0 && !feed.writeTo(input_)) closeDescriptor(input_);
+    if (watched[1].revents != 0 && !readInto(output_, collected.output, maximum)) closeDescriptor(output_);
+    if (watched[2].revents != 0 && !readInto(messages_, collected.messages, 2 * kMaximumMessages))
+      closeDescriptor(messages_);
+    // A document may print as much as it likes; how it ended comes last.
+    if (collected.messages.size() > kMaximumMessages)
+      collected.messages.remove(0, collected.messages.size() - kMaximumMessages);
+    if (collected.output.size() >= maximum)
+      return Error{ErrorKind::Limit, QStringLiteral("the picture is larger than the memory that it was granted")};
+  }
+  return {};
+}
+
+// Its pipes are closed, so it is as good as gone; a child of its own that kept them open would not be waited for.
+Result<int> GhostscriptChild::reap(qint64 deadline, const EngineContext& context) {
+  int status = 0;
+  for (;;) {
+    const pid_t got = ::waitpid(pid_, &status, WNOHANG);
+    if (got == pid_) return pid_ = -1, status;
+    if (got < 0 && errno != EINTR)
+      return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript cannot be waited for")};
+    if (const Result<void> patience = checkPatience(deadline, context); !patience) return patience.error();
+    ::poll(nullptr, 0, 1);
+  }
+}
+
+}  // namespace norvex::engine

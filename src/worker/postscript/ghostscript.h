@@ -1,0 +1,50 @@
+// Ghostscript as a child process: started, fed on its standard input, read from its standard output, ended.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+#include <memory>
+
+#include "base/result.h"
+#include "worker/engine/engine.h"
+
+namespace norvex::engine {
+
+struct GhostscriptOutput {
+  QByteArray output;    ///< what came on standard output
+  QByteArray messages;  ///< what came on standard error, at most its last 64 KiB
+  int exitStatus = 0;
+};
+
+/// One run of gs. A started child initialises itself (about 100 ms) and then waits for its input, so it can be started
+/// before its document is there. It gets a process group of its own, ends with this process and inherits its limits
+/// and its confinement; the destructor kills the group. What it needs besides pipes: fork, execve of gs, prctl,
+/// setpgid, kill, wait4. Single-threaded. Sets SIGPIPE to be ignored in this process.
+class GhostscriptChild {
+ public:
+  /// `arguments` follow the program's name. TMPDIR is the context's scratch folder; the environment is empty besides.
+  /// Fails with Unsupported when gs cannot be started.
+  [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> start(const QList<QByteArray>& arguments,
+                                                                       const QString& scratchFolder);
+  GhostscriptChild(const GhostscriptChild&) = delete;
+  GhostscriptChild& operator=(const GhostscriptChild&) = delete;
+  ~GhostscriptChild();
+
+  /// Feeds `input`, piece after piece, and collects until gs ends. Once only. Fails with TimedOut (limits.seconds),
+  /// Cancelled, Limit (more output than limits.memoryMiB, or killed for what it used up) or NotParsable (gs crashed).
+  [[nodiscard]] Result<GhostscriptOutput> run(const QList<QByteArray>& input, const EngineContext& context);
+
+ private:
+  GhostscriptChild() = default;
+  [[nodiscard]] Result<void> pump(const QList<QByteArray>& input, qint64 deadline, const EngineContext& context,
+                                  GhostscriptOutput& collected);
+  [[nodiscard]] Result<int> reap(qint64 deadline, const EngineContext& context);
+  void end();
+  int pid_ = -1;
+  int input_ = -1;
+  int output_ = -1;
+  int messages_ = -1;
+};
+
+}  // namespace norvex::engine

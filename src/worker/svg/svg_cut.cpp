@@ -1,0 +1,142 @@
+#include "worker/svg/svg_cut.h"
+
+#include <QByteArrayView>
+#include <QSet>
+#include <QString>
+
+#include <algorithm>
+#include <cmath>
+
+#include "worker/svg/svg_length.h"
+#include "worker/svg/svg_tokens.h"
+
+namespace norvex::engine {
+namespace {
+
+// Inline declarations win over rules like svg { opacity: 0.5 }, which are meant for the document's own root.
+constexpr char kNeutral[] =
+    "display:inline;opacity:1;transform:none;filter:none;mask:none;clip-path:none;mix-blend-mode:normal;";
+
+QByteArray number(double value) { return QByteArray::number(std::abs(value) < 1e-9 ? 0.0 : value, 'g', 12); }
+
+QByteArray attribute(const char* name, const QByteArray& value) {
+  return QByteArray(" ") + name + "=\"" + value + '"';
+}
+
+QByteArray rectangle(double x, double y, double width, double height) {
+  return number(x) + ' ' + number(y) + ' ' + number(width) + ' ' + number(height);
+}
+
+QByteArray matrixOf(const AffineTransform& m) {
+  return "matrix(" + number(m.m11()) + ' ' + number(m.m12()) + ' ' + number(m.m21()) + ' ' + number(m.m22()) + ' ' +
+         number(m.dx()) + ' ' + number(m.dy()) + ')';
+}
+
+/// Writes the tags around the old root, and its own start tag anew.
+class Wrapper {
+ public:
+  Wrapper(const QByteArray& text, const SvgToken& root, const SvgCut& cut)
+      : text_(text), root_(root), cut_(cut), name_(tagName(text, root).toByteArray()) {
+    const qsizetype colon = name_.indexOf(':');
+    if (colon > 0) prefix_ = name_.left(colon + 1);
+  }
+  [[nodiscard]] QByteArray before() const;
+  [[nodiscard]] QByteArray rootTag() const;
+  [[nodiscard]] QByteArray after() const;
+
+ private:
+  [[nodiscard]] bool turned() const { return !cut_.placing.isIdentity(); }
+  // A switch draws its only child as a group does, but no rule for "g" or "svg > g" reaches it.
+  [[nodiscard]] QByteArray group() const { return prefix_ + (cut_.styled ? "switch" : "g"); }
+  [[nodiscard]] QByteArray sizeStyle(const QSizeF& size) const {
+    return "width:" + number(size.width()) + "px;height:" + number(size.height()) + "px;overflow:hidden;";
+  }
+  [[nodiscard]] QByteArray innerStyle(QByteArrayView old, bool present) const;
+
+  const QByteArray& text_;
+  const SvgToken& root_;
+  const SvgCut& cut_;
+  QByteArray name_, prefix_;
+};
+
+QByteArray Wrapper::before() const {
+  const QByteArray space = prefix_.isEmpty() ? QByteArray("xmlns") : "xmlns:" + prefix_.chopped(1);
+  const QRectF& r = cut_.rect;
+  QByteArray tag = '<' + name_ + attribute(space, "http://www.w3.org/2000/svg") + attribute("version", "1.1") +
+                   attribute("width", number(r.width()) + "pt") + attribute("height", number(r.height()) + "pt") +
+                   attribute("viewBox", rectangle(r.x(), r.y(), r.width(), r.height()));
+  if (cut_.styled)
+    tag += attribute("style", kNeutral + ("width:" + number(r.width()) + "pt;height:" + number(r.height()) + "pt;"));
+  tag += ">\n";
+  if (!turned()) return tag;
+  tag += '<' + group() + attribute("transform", matrixOf(cut_.placing)) + ">\n";
+  return tag;
+}
+
+QByteArray Wrapper::after() const {
+  QByteArray tags = "\n";
+  if (turned()) tags += "</" + group() + ">\n";
+  return tags + "</" + name_ + ">";
+}
+
+QByteArray Wrapper::innerStyle(QByteArrayView old, bool present) const {
+  if (!present && !cut_.styled) return {};
+  QByteArray style = old.toByteArray();
+  if (!style.trimmed().isEmpty() && !style.trimmed().endsWith(';')) style += ';';
+  return style + sizeStyle(cut_.picture);
+}
+
+QByteArray Wrapper::rootTag() const {
+  static const QSet<QByteArray> replaced{"x", "y", "width", "height", "overflow", "style"};
+  QByteArray tag = '<' + name_;
+  QByteArray style;
+  bool hasStyle = false;
+  bool hasViewBox = false;
+  for (const SvgAttribute& old : tagAttributes(text_, root_)) {
+    if (old.name == "style") {
+      style = old.value.toByteArray();
+      hasStyle = true;
+      style.replace('"', "&quot;");
+    }
+    if (replaced.contains(old.name.toByteArray())) continue;
+    if (old.name == "viewBox") {
+      if (!parseViewBox(QString::fromUtf8(old.value))) continue;
+      hasViewBox = true;
+    }
+    tag += ' ' + old.all.toByteArray();
+  }
+  tag += attribute("x", "0") + attribute("y", "0") + attribute("width", number(cut_.picture.width())) +
+         attribute("height", number(cut_.picture.height())) + attribute("overflow", "hidden");
+  if (!hasViewBox)
+    tag += attribute("viewBox", rectangle(0, 0, cut_.picture.width() / pointsPerPixel,
+                                          cut_.picture.height() / pointsPerPixel));
+  const QByteArray inner = innerStyle(style, hasStyle);
+  if (!inner.isEmpty()) tag += attribute("style", inner);
+  return tag + (root_.kind == SvgTokenKind::EmptyTag ? "/>" : ">");
+}
+
+}  // namespace
+
+AffineTransform turnedInItsBox(const QSizeF& picture, double rotate) {
+  if (rotate == 0) return {};
+  const double w = picture.width() / 2, h = picture.height() / 2;
+  const double c = std::cos(rotate), s = std::sin(rotate);
+  return AffineTransform::fromTranslate(-w, -h) * AffineTransform(c, s, -s, c, 0, 0) *
+         AffineTransform::fromTranslate(std::abs(c) * w + std::abs(s) * h, std::abs(s) * w + std::abs(c) * h);
+}
+
+QByteArray cutSvg(const QByteArray& utf8, const SvgCut& cut) {
+  const QList<SvgToken> tokens = tokenizeSvg(utf8);
+  const auto root = std::find_if(tokens.begin(), tokens.end(), [](const SvgToken& token) {
+    return token.kind == SvgTokenKind::StartTag || token.kind == SvgTokenKind::EmptyTag;
+  });
+  if (root == tokens.end()) return {};
+  const Wrapper wrapper(utf8, *root, cut);
+  const qsizetype rootTagEnd = root->start + root->length;
+  const SvgToken& last = tokens[root->end];
+  const qsizetype rootEnd = last.start + last.length;
+  return utf8.left(root->start) + wrapper.before() + wrapper.rootTag() + utf8.mid(rootTagEnd, rootEnd - rootTagEnd) +
+         wrapper.after() + utf8.mid(rootEnd);
+}
+
+}  // namespace norvex::engine

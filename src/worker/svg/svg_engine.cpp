@@ -1,0 +1,269 @@
+#include "worker/svg/svg_engine.h"
+
+#include <QRectF>
+#include <QSizeF>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "worker/drawing/cairo_surface.h"
+#include "worker/svg/gzip_inflate.h"
+#include "worker/drawing/installed_fonts.h"
+#include "worker/svg/svg_cut.h"
+#include "worker/svg/svg_inspection.h"
+#include "worker/svg/svg_length.h"
+#include "worker/svg/svg_pretty.h"
+#include "worker/svg/svg_renderer.h"
+#include "worker/svg/svg_text.h"
+#include "protocol/limits.h"
+
+namespace norvex::engine {
+namespace {
+
+/// The lower of two resolutions that are known.
+double coarser(double one, double other) {
+  return one > 0 && other > 0 ? std::min(one, other) : std::max(one, other);
+}
+
+class SvgEngine final : public DocumentEngine {
+ public:
+  /// `source`: the document as it stands, not compressed.
+  SvgEngine(QByteArray source, SvgText text, SvgInspection inspection, const SvgVectors& vectors,
+            EngineContext& context)
+      : context_(context), vectors_(vectors), source_(std::move(source)), text_(std::move(text)), inspection_(std::move(inspection)),
+        geometry_(svgGeometry(inspection_.rootAttributes)) {}
+
+  /// Finds the picture's size. Call once, before anything else.
+  Result<void> measure();
+
+  Result<PictureFacts> facts() override;
+  Result<Bitmap> render(const RenderRequest& request) override;
+  Result<EngineBytes> pdf(const PdfRequest& request) override;
+  Result<EngineBytes> compose(const ComposeRequest& request) override;
+  Result<EngineBytes> svg(const SvgRequest& request) override;
+
+ private:
+  Result<void> start(int page) const;
+  Result<const SvgRenderer*> renderer();
+  [[nodiscard]] QSizeF points() const { return pixels_ * pointsPerPixel; }
+  // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
+  [[nodiscard]] bool hugeParser() const { return inspection_.needsHugeParser && !inspection_.hasNestedDocument; }
+  [[nodiscard]] bool needsOwnDocument(const AffineTransform& pixelsToDevice) const;
+  Result<Bitmap> renderAsDocument(const RenderRequest& request, const AffineTransform& pixelsToDevice);
+  [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_.value_or(QStringList()); }
+  [[nodiscard]] QStringList warnings() const;
+  [[nodiscard]] SvgImageEffects imageEffects() const;
+  [[nodiscard]] BytesReply pdfReport() const;
+
+  EngineContext& context_;
+  const SvgVectors vectors_;
+  const QByteArray source_;
+  const SvgText text_;
+  const SvgInspection inspection_;
+  const SvgGeometry geometry_;
+  QSizeF pixels_;
+  std::unique_ptr<SvgRenderer> renderer_;
+  std::optional<QByteArray> pdf_;
+  std::optional<QStringList> missingFonts_;  ///< one sentence each, once something was drawn
+};
+
+Result<void> SvgEngine::start(int page) const {
+  if (context_.cancel.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the request was cancelled")};
+  if (page != 0) return Error{ErrorKind::Protocol, QStringLiteral("an SVG picture has one page")};
+  return {};
+}
+
+Result<const SvgRenderer*> SvgEngine::renderer() {
+  if (!renderer_) {
+    auto made = SvgRenderer::create(withDeclaredEncoding(text_.utf8, "UTF-8"), hugeParser());
+    if (!made) return made.error();
+    renderer_ = std::move(*made);
+  }
+  if (!missingFonts_) missingFonts_ = missingFamilies(inspection_.fontLists);
+  return renderer_.get();
+}
+
+Result<void> SvgEngine::measure() {
+  std::optional<Error> failed;
+  pixels_ = svgPixelSize(geometry_, [&]() -> QSizeF {
+    const Result<const SvgRenderer*> loaded = renderer();
+    if (loaded) return (*loaded)->drawnExtent();
+    failed = loaded.error();
+    return {};
+  });
+  if (failed) return *failed;
+  const QSizeF size = points();
+  if (!(size.width() > 0 && size.height() > 0))
+    return Error{ErrorKind::Unsupported, QStringLiteral("the picture is empty: its width or height is zero")};
+  if (!(size.width() <= limits::maximumPoints && size.height() <= limits::maximumPoints))
+    return Error{ErrorKind::Limit, QStringLiteral("the picture is wider or higher than %1 points")
+                                       .arg(limits::maximumPoints, 0, 'f', 0)};
+  return {};
+}
+
+QStringList SvgEngine::warnings() const {
+  QStringList list;
+  const auto warn = [&](bool when, const QString& text) {
+    if (when) list << text;
+  };
+  warn(text_.handedOnAsUtf8, QStringLiteral("the text is in %1 and is handed on as UTF-8")
+                                 .arg(QString::fromUtf8(text_.declaredName.left(40))));
+  warn(geometry_.badWidth || geometry_.badHeight,
+       QStringLiteral("the document's width or height is not a length and is passed over"));
+  warn(geometry_.badViewBox, QStringLiteral("the document's view box is not readable and is passed over"));
+  warn(inspection_.outsideReferences > 0,
+       QStringLiteral("the document refers to other files, which are never loaded (references: %1)")
+           .arg(inspection_.outsideReferences));
+  warn(inspection_.hasScript, QStringLiteral("the document has scripts, which are never run"));
+  warn(inspection_.hasAnimation, QStringLiteral("the document is animated and is shown as it stands at rest"));
+  return list;
+}
+
+Result<PictureFacts> SvgEngine::facts() {
+  PictureFacts facts;
+  facts.pageBounds = {QRectF(QPointF(0, 0), points())};
+  facts.viewBox = geometry_.viewBox;
+  facts.fonts = inspection_.fonts;
+  facts.colorSpaces = {QStringLiteral("sRGB")};  // the colours of the format; what else a document names is not drawn
+  facts.title = inspection_.title;
+  facts.description = inspection_.description;
+  facts.encodingName = text_.encodingName;
+  facts.encodingNumber = text_.encodingNumber;
+  if (geometry_.width) facts.fixedRatioX = !geometry_.width->isPercentage;
+  if (geometry_.height) facts.fixedRatioY = !geometry_.height->isPercentage;
+  facts.warnings = warnings();
+  return facts;
+}
+
+// librsvg makes layers as large as the whole picture on the device, and makes them wrong when the picture is turned.
+bool SvgEngine::needsOwnDocument(const AffineTransform& pixelsToDevice) const {
+  constexpr double largestLayer = 32.0e6, longestSide = 16'000;
+  if (!inspection_.hasLayers) return false;
+  const double width = pixels_.width() * pixelsToDevice.m11(), height = pixels_.height() * pixelsToDevice.m22();
+  const bool upright = pixelsToDevice.m12() == 0 && pixelsToDevice.m21() == 0 && width > 0 && height > 0;
+  return !upright || std::max(width, height) > longestSide || width * height > largestLayer;
+}
+
+/// The part of the picture that is asked for becomes a document, and that is drawn upright: its layers are as large
+/// as the image.
+Result<Bitmap> SvgEngine::renderAsDocument(const RenderRequest& request, const AffineTransform& pixelsToDevice) {
+  const AffineTransform placing = AffineTransform::fromScale(1 / pointsPerPixel, 1 / pointsPerPixel) * pixelsToDevice;
+  const SvgCut part{points(), QRectF(QPointF(0, 0), QSizeF(request.pixelSize)), placing, inspection_.hasStyleSheet};
+  RenderRequest upright = request;
+  upright.pictureToDevice = AffineTransform();
+  std::unique_ptr<SvgRenderer> drawing;
+  return paintImage(upright, context_.limits, [&](cairo_t* context) -> Result<void> {
+    if (!drawing) {
+      auto made = SvgRenderer::create(withDeclaredEncoding(cutSvg(text_.utf8, part), "UTF-8"), hugeParser());
+      if (!made) return made.error();
+      drawing = std::move(*made);
+    }
+    return drawing->draw(context, QSizeF(request.pixelSize));
+  });
+}
+
+Result<Bitmap> SvgEngine::render(const RenderRequest& request) {
+  if (const Result<void> may = start(request.page); !may) return may.error();
+  const Result<const SvgRenderer*> loaded = renderer();
+  if (!loaded) return loaded.error();
+  const AffineTransform pixelsToPicture(pointsPerPixel, 0, 0, -pointsPerPixel, 0, points().height());
+  const AffineTransform pixelsToDevice = pixelsToPicture * request.pictureToDevice;
+  if (request.pictureToDevice.isInvertible() && needsOwnDocument(pixelsToDevice))
+    return renderAsDocument(request, pixelsToDevice);
+  return paintImage(request, context_.limits, [&](cairo_t* context) {
+    const cairo_matrix_t matrix = toCairo(pixelsToPicture);
+    cairo_transform(context, &matrix);
+    return (*loaded)->draw(context, pixels_);
+  });
+}
+
+// The scale of the view box is all that is known of a filter's user units here.
+SvgImageEffects SvgEngine::imageEffects() const {
+  SvgImageEffects effects{inspection_.filters + inspection_.masks > 0, inspection_.morphologyRadius,
+                          inspection_.stretchedText};
+  if (const auto& box = geometry_.viewBox; box && !box->isEmpty())
+    effects.morphologyRadius *= std::min(pixels_.width() / box->width(), pixels_.height() / box->height());
+  return effects;
+}
+
+// Counted are the elements whose own attributes ask for an effect; what style sheets ask for is not seen here.
+BytesReply SvgEngine::pdfReport() const {
+  BytesReply report;
+  report.warnings = drawingRemarks();
+  report.regionsRasterised = inspection_.filters + inspection_.masks;
+  if (report.regionsRasterised > 0) report.rasterisedDpi = vectors_.effectsDpi(pixels_, imageEffects());
+  if (inspection_.filters > 0)
+    report.warnings << QStringLiteral("what is drawn through a filter (elements: %1) is held as an image")
+                           .arg(inspection_.filters);
+  if (inspection_.masks > 0)
+    report.warnings << QStringLiteral("masks (elements: %1) are held as images, what they mask is not")
+                           .arg(inspection_.masks);
+  return report;
+}
+
+Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
+  if (const Result<void> may = start(request.page); !may) return may.error();
+  if (!vectors_.toPdf) return Error{ErrorKind::Unsupported, QStringLiteral("this picture was opened to be drawn")};
+  if (!pdf_) {
+    const Result<const SvgRenderer*> loaded = renderer();
+    if (!loaded) return loaded.error();
+    Result<QByteArray> made = vectors_.toPdf(**loaded, pixels_, imageEffects());
+    if (!made) return made.error();
+    pdf_ = std::move(*made);
+  }
+  return EngineBytes{*pdf_, pdfReport()};
+}
+
+Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {
+  if (!vectors_.compose)
+    return Error{ErrorKind::Unsupported, QStringLiteral("this picture was opened to be drawn or to become a PDF")};
+  Result<EngineBytes> whole = pdf({request.page});
+  if (!whole) return whole;
+  Result<EngineBytes> composed = vectors_.compose(whole->bytes, request, context_);
+  if (composed) {
+    composed->report.regionsRasterised += whole->report.regionsRasterised;
+    composed->report.rasterisedDpi = coarser(whole->report.rasterisedDpi, composed->report.rasterisedDpi);
+    composed->report.warnings = whole->report.warnings + composed->report.warnings;
+  }
+  return composed;
+}
+
+Result<EngineBytes> SvgEngine::svg(const SvgRequest& request) {
+  if (const Result<void> may = start(0); !may) return may.error();
+  if (request.pretty) return EngineBytes{encodeSvgText(prettySvg(text_.utf8), text_), {}};
+  if (!request.rect && request.rotate == 0) return EngineBytes{source_, {}};
+  const QRectF rect = request.rect.value_or(QRectF(QPointF(0, 0), points()));
+  const double far = limits::maximumPoints;
+  if (!(rect.width() > 0 && rect.height() > 0 && rect.width() <= far && rect.height() <= far &&
+        std::abs(rect.x()) <= far && std::abs(rect.y()) <= far && std::isfinite(request.rotate)))
+    return Error{ErrorKind::Protocol, QStringLiteral("the rectangle to cut out is empty or out of reach")};
+  const SvgCut cut{points(), rect, turnedInItsBox(points(), request.rotate), inspection_.hasStyleSheet};
+  return EngineBytes{encodeSvgText(cutSvg(text_.utf8, cut), text_), {}};
+}
+
+}  // namespace
+
+Result<std::unique_ptr<DocumentEngine>> openSvgWith(const SvgVectors& vectors, const QByteArray& bytes,
+                                                    EngineContext& context) {
+  QByteArray plain = bytes;
+  if (isGzip(bytes)) {
+    Result<QByteArray> inflated = inflateGzip(bytes);
+    if (!inflated) return inflated.error();
+    plain = std::move(*inflated);
+  }
+  if (plain.size() > limits::maximumInflatedBytes)
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the document is larger than %1 MiB").arg(limits::maximumInflatedBytes >> 20)};
+  Result<SvgText> text = decodeSvgText(plain);
+  if (!text) return text.error();
+  Result<SvgInspection> inspection = inspectSvg(text->utf8);
+  if (!inspection) return inspection.error();
+  auto engine = std::make_unique<SvgEngine>(std::move(plain), std::move(*text), std::move(*inspection), vectors, context);
+  if (const Result<void> measured = engine->measure(); !measured) return measured.error();
+  return std::unique_ptr<DocumentEngine>(std::move(engine));
+}
+
+}  // namespace norvex::engine

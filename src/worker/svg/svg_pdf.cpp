@@ -1,0 +1,117 @@
+#include "worker/svg/svg_pdf.h"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "worker/drawing/cairo_surface.h"
+#include "worker/pdf/pdf_writing.h"
+#include "worker/svg/svg_length.h"
+
+namespace norvex::engine {
+namespace {
+
+constexpr double kUnitsPerInch = 300;
+constexpr double kEffectPixels = 16.0e6;  // how large an image of a filter or a mask may be at most
+constexpr double kMorphologyReach = 10;   // librsvg cuts feMorphology's radius to so many units of the target
+
+/// librsvg places glyphs, and makes the images of filters and masks, in whole units of the target. The page
+/// is drawn larger for their sake; fitPage() makes it small again.
+double drawingScale(const QSizeF& pixels, const SvgImageEffects& effects) {
+  const double fine = kUnitsPerInch / 72;
+  if (!effects.any) return fine;
+  const double area = pixels.width() * pixels.height() * pointsPerPixel * pointsPerPixel;
+  const double reach = effects.morphologyRadius * pointsPerPixel;
+  const double withinReach = reach > 0 ? std::max(1.0, kMorphologyReach / reach) : fine;
+  return std::min({fine, withinReach, std::sqrt(kEffectPixels / area)});
+}
+
+/// The page as a form. cairo's contents are one stream: it becomes the form as it is, without being unpacked
+/// and packed again.
+QPDFObjectHandle formOf(QPDFPageObjectHelper& page) {
+  QPDFObjectHandle contents = page.getObjectHandle().getKey("/Contents");
+  if (!contents.isStream()) return page.getFormXObjectForPage();
+  QPDFObjectHandle form = contents.getDict();
+  form.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+  form.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
+  form.replaceKey("/BBox", page.getMediaBox());
+  form.replaceKey("/Resources", page.getAttribute("/Resources", false));
+  if (QPDFObjectHandle group = page.getAttribute("/Group", false); group.isDictionary())
+    form.replaceKey("/Group", group);
+  return contents;
+}
+
+/// The drawing becomes a form on a page of the right size: unlike a scaled page, a form takes its patterns
+/// with it. cairo's document information, which holds the time of day, is dropped.
+void fitPage(QPDF& document, double width, double height, double scale) {
+  QPDFPageObjectHelper page(document.getAllPages().at(0));
+  const QPDFObjectHandle drawing = formOf(page);
+  const std::string small = QByteArray::number(1 / scale, 'f', 9).toStdString();
+  QPDFObjectHandle objects = QPDFObjectHandle::newDictionary();
+  objects.replaceKey("/Drawing", drawing);
+  QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
+  resources.replaceKey("/XObject", objects);
+  // A new page: the form reads the old one's contents when the file is written.
+  QPDFObjectHandle shown = document.makeIndirectObject(QPDFObjectHandle::newDictionary());
+  shown.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+  shown.replaceKey("/MediaBox", boxAtOrigin(width, height));
+  shown.replaceKey("/Resources", resources);
+  shown.replaceKey("/Contents", QPDFObjectHandle::newStream(
+                                    &document, "q " + small + " 0 0 " + small + " 0 0 cm /Drawing Do Q\n"));
+  keepOnlyPage(document, shown);
+}
+
+Result<QByteArray> rewritten(const QByteArray& pdf, const QSizeF& pixels, double scale) {
+  try {
+    QPDF document;
+    document.setSuppressWarnings(true);
+    document.processMemoryFile("picture", pdf.constData(), size_t(pdf.size()));
+    fitPage(document, pixels.width() * pointsPerPixel, pixels.height() * pointsPerPixel, scale);
+    return writePdf(document);
+  } catch (const std::exception&) {
+    return Error{ErrorKind::Unsupported, QStringLiteral("the picture cannot be written as PDF")};
+  }
+}
+
+/// Onto a surface of which librsvg does not know that it ends in a PDF: it draws outlines there. As text,
+/// glyphs would stand as far apart as if nothing were stretched.
+Result<void> drawOutlined(cairo_t* page, const QSizeF& size,
+                          const std::function<Result<void>(cairo_t*)>& draw) {
+  const cairo_rectangle_t extents{0, 0, size.width(), size.height()};
+  const CairoSurface recording(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
+  const CairoContext context(cairo_create(recording.get()));
+  if (const Result<void> drawn = draw(context.get()); !drawn) return drawn;
+  cairo_set_source_surface(page, recording.get(), 0, 0);
+  cairo_paint(page);
+  return {};
+}
+
+}  // namespace
+
+double svgEffectsDpi(const QSizeF& pixels, const SvgImageEffects& effects) {
+  return drawingScale(pixels, effects) * 72;
+}
+
+Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
+                            const SvgImageEffects& effects) {
+  const double scale = drawingScale(pixels, effects);
+  const double units = pointsPerPixel * scale;
+  const auto draw = [&](cairo_t* target) {
+    cairo_scale(target, units, units);
+    return renderer.draw(target, pixels);
+  };
+  const Result<QByteArray> bytes = paintPdf(pixels * units, 1, [&](cairo_t* page, int) {
+    return effects.stretchedText ? drawOutlined(page, pixels * units, draw) : draw(page);
+  });
+  if (!bytes) return bytes.error();
+  return rewritten(*bytes, pixels, scale);
+}
+
+}  // namespace norvex::engine

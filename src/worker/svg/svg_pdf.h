@@ -1,0 +1,28 @@
+// An SVG picture as a one-page PDF.
+#pragma once
+
+#include <QByteArray>
+#include <QSizeF>
+
+#include "base/result.h"
+#include "worker/svg/svg_renderer.h"
+
+namespace norvex::engine {
+
+/// What of a picture cannot stay what it is in a PDF.
+struct SvgImageEffects {
+  bool any = false;             ///< there are filters or masks
+  double morphologyRadius = 0;  ///< the largest by which a filter thickens or thins, in pixels
+  bool stretchedText = false;   ///< text is drawn under a transform that is more than a similarity
+};
+
+/// A page of exactly the picture's size in points. Vectors stay vectors and text stays text, but for outlines
+/// where text is stretched. The same picture gives the same bytes.
+[[nodiscard]] Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
+                                          const SvgImageEffects& effects);
+
+/// Pixels an inch of the images of filters and masks in that page: 300, fewer where the images would be too
+/// large or where a filter's radius would be out of the renderer's reach.
+[[nodiscard]] double svgEffectsDpi(const QSizeF& pixels, const SvgImageEffects& effects);
+
+}  // namespace norvex::engine

@@ -1,0 +1,38 @@
+// librsvg's view of a document: loaded once, drawn as often as wanted.
+#pragma once
+
+#include <QByteArray>
+#include <QSizeF>
+
+#include <cairo.h>
+
+#include <memory>
+
+#include "base/result.h"
+
+namespace norvex::engine {
+
+/// Loads nothing from outside the document: images in data: references work, files and network do not.
+class SvgRenderer {
+ public:
+  /// `utf8` has passed inspectSvg(), which also says whether it needs the parser without its fixed bounds.
+  /// Fails with NotParsable or Limit.
+  static Result<std::unique_ptr<SvgRenderer>> create(const QByteArray& utf8, bool hugeParser);
+  ~SvgRenderer();
+  SvgRenderer(const SvgRenderer&) = delete;
+  SvgRenderer& operator=(const SvgRenderer&) = delete;
+
+  /// The lower right corner of what is drawn, in pixels from the origin; empty where nothing is.
+  [[nodiscard]] QSizeF drawnExtent() const;
+
+  /// Draws the document into the rectangle (0, 0, pixels) of the context's user space, y down, clipped to it.
+  /// Fails with Unsupported or Limit.
+  [[nodiscard]] Result<void> draw(cairo_t* context, const QSizeF& pixels) const;
+
+ private:
+  struct Handle;
+  explicit SvgRenderer(std::unique_ptr<Handle> handle);
+  std::unique_ptr<Handle> handle_;
+};
+
+}  // namespace norvex::engine

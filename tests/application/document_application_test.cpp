@@ -1,0 +1,238 @@
+#include "application/document_application.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include "document/memory_window_controller.h"
+#include "kit/test_main.h"
+#include "picture/process/null_picture_service.h"
+
+using namespace norvex;
+
+namespace {
+
+class MemoryAlerts final : public AlertPresenter {
+ public:
+  int runModal(const Alert& alert) override {
+    shown << alert;
+    return 0;
+  }
+  QList<Alert> shown;
+};
+
+/// Drags the files onto the widget and drops them; whether they were taken.
+bool dropFiles(QWidget* widget, const QList<QUrl>& urls) {
+  QMimeData data;
+  data.setUrls(urls);
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  enter.ignore();
+  QCoreApplication::sendEvent(widget, &enter);
+  if (!enter.isAccepted()) return false;
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  drop.ignore();
+  QCoreApplication::sendEvent(widget, &drop);
+  return drop.isAccepted();
+}
+
+}  // namespace
+
+class DocumentApplicationTest : public QObject {
+  Q_OBJECT
+
+  NullPictureService service_;
+  QStringList log_;
+  std::unique_ptr<QTemporaryDir> folder_;
+  std::unique_ptr<ApplicationEvents> events_;
+  MemoryAlerts alerts_;
+  int terminated_ = 0;
+  std::unique_ptr<DocumentApplication> application_;
+
+  QUrl write(const QString& name, const QByteArray& bytes) {
+    QFile file(folder_->filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write test data");
+    return QUrl::fromLocalFile(file.fileName());
+  }
+  QUrl writePdf(const QString& name) { return write(name, "%PDF-1.4\n%%EOF\n"); }
+  bool start(const QList<QUrl>& urls) {
+    QSignalSpy finished(&application_->documents(), &DocumentController::readingFinished);
+    application_->start(urls);
+    return urls.isEmpty() || !finished.isEmpty() || finished.wait(20000);
+  }
+  bool finishReading() {
+    return QTest::qWaitFor([this] { return !application_->documents().isReading(); }, 20000);
+  }
+
+ private slots:
+  void initTestCase() {
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setOrganizationName("NorvexTest");
+    QCoreApplication::setApplicationName("document_application_test");
+  }
+  void init() {
+    log_.clear();
+    alerts_.shown.clear();
+    terminated_ = 0;
+    QSettings().clear();
+    folder_ = std::make_unique<QTemporaryDir>();
+    events_ = std::make_unique<ApplicationEvents>();
+    application_ = std::make_unique<DocumentApplication>(*events_, service_, kit::loggingFactory(&log_),
+                                                         [this](QObject*) { ++terminated_; });
+    application_->setAlertPresenter(&alerts_);
+  }
+  void cleanup() { application_.reset(); }
+
+  void startedWithoutAFileItShowsTheStartPanelAndNoDocument() {
+    QVERIFY(start({}));
+    QVERIFY(application_->startPanel().isVisible());
+    QVERIFY(application_->documents().documents().isEmpty());
+    QVERIFY(log_.isEmpty());
+    QCOMPARE(terminated_, 0);
+  }
+
+  void startedWithoutAFileItQuitsWhenItIsDeactivated() {
+    QVERIFY(start({}));
+    emit events_->didResignActive();
+    QCOMPARE(terminated_, 1);
+  }
+
+  void startedWithFilesItShowsThemAndNoPanel() {
+    QVERIFY(start({writePdf("a.pdf"), writePdf("b.pdf")}));
+    QCOMPARE(application_->documents().documents().size(), 2);
+    QVERIFY(!application_->startPanel().isVisible());
+    QCOMPARE(log_.count("shown"), 2);
+  }
+
+  void deactivatingWithADocumentOpenKeepsItRunning() {
+    QVERIFY(start({writePdf("a.pdf")}));
+    emit events_->didResignActive();
+    QCOMPARE(terminated_, 0);
+  }
+
+  void aFileOnItsWayIsAsGoodAsOpen() {
+    application_->start({writePdf("a.pdf")});
+    emit events_->didResignActive();
+    QCOMPARE(terminated_, 0);
+    QVERIFY(finishReading());
+  }
+
+  void closingTheLastDocumentBringsTheStartPanelBackAndLeavingThenQuits() {
+    QVERIFY(start({writePdf("a.pdf")}));
+    application_->documents().documents().first()->close();
+    QVERIFY(application_->startPanel().isVisible());
+    QCOMPARE(terminated_, 0);
+    emit events_->didResignActive();
+    QCOMPARE(terminated_, 1);
+  }
+
+  void closingTheStartPanelWithNothingElseOpenQuits() {
+    QVERIFY(start({}));
+    application_->startPanel().close();
+    QTRY_COMPARE(terminated_, 1);
+  }
+
+  void aMissingFileIsToldInAPlainSentence() {
+    QVERIFY(start({QUrl::fromLocalFile(folder_->filePath("none.eps"))}));
+    QCOMPARE(alerts_.shown.size(), 1);
+    QCOMPARE(alerts_.shown.first().messageText, QString("“none.eps” could not be opened."));
+    QCOMPARE(alerts_.shown.first().informativeText, QString("No such file or directory."));
+    QVERIFY(application_->startPanel().isVisible());
+    QCOMPARE(terminated_, 0);
+  }
+
+  void aFileOfAnotherKindIsToldWithTheReason() {
+    QVERIFY(start({write("notes.txt", "milk")}));
+    QCOMPARE(alerts_.shown.size(), 1);
+    QCOMPARE(alerts_.shown.first().informativeText,
+             QString("This is not an EPS, Illustrator, PDF or SVG picture.\n\n(readFromData:ofType:error: is unimplemented)"));
+  }
+
+  void anOperationThatFailedIsToldAndEverythingGoesOn() {
+    QVERIFY(start({writePdf("a.pdf")}));
+    emit events_->operationFailed("dataOfType:error: is unimplemented");
+    QCOMPARE(alerts_.shown.size(), 1);
+    QCOMPARE(alerts_.shown.first().informativeText, QString("dataOfType:error: is unimplemented."));
+    QCOMPARE(application_->documents().documents().size(), 1);
+  }
+
+  void openedFilesBecomeRecentAndMissingOnesAreForgotten() {
+    const QUrl gone = QUrl::fromLocalFile(folder_->filePath("gone.pdf"));
+    application_->recentFiles().add(gone);
+    const QUrl url = writePdf("a.pdf");
+    QVERIFY(start({url, gone}));
+    QCOMPARE(application_->recentFiles().urls(), (QList<QUrl>{url}));
+  }
+
+  void aRecentFileOpensFromThePanel() {
+    application_->recentFiles().add(writePdf("a.pdf"));
+    QVERIFY(start({}));
+    QListWidget* list = application_->startPanel().recentList();
+    QCOMPARE(list->count(), 1);
+    QCOMPARE(list->item(0)->text(), QString("a.pdf"));
+    emit list->itemActivated(list->item(0));
+    QVERIFY(finishReading());
+    QCOMPARE(application_->documents().documents().size(), 1);
+    QVERIFY(!application_->startPanel().isVisible());
+  }
+
+  void filesDroppedOnThePanelOpen() {
+    QVERIFY(start({}));
+    QVERIFY(dropFiles(&application_->startPanel(), {writePdf("a.pdf"), writePdf("b.pdf")}));
+    QVERIFY(finishReading());
+    QCOMPARE(application_->documents().documents().size(), 2);
+  }
+
+  void whatIsNoLocalFileIsNotTaken() {
+    QVERIFY(start({}));
+    QVERIFY(!dropFiles(&application_->startPanel(), {QUrl("https://example.org/a.svg")}));
+    QVERIFY(!dropFiles(&application_->startPanel(), {}));
+  }
+
+  void aDocumentWindowTakesFilesAndHasOpenInItsMenu() {
+    QMainWindow window;
+    auto* file = window.menuBar()->addMenu("File");
+    file->setObjectName("fileMenu");
+    file->addAction("Close");
+    QVERIFY(start({writePdf("a.pdf")}));
+    QCOMPARE(file->actions().first()->objectName(), QString("openAction"));
+    QCOMPARE(file->actions().first()->shortcut(), QKeySequence(QKeySequence::Open));
+    QVERIFY(dropFiles(&window, {writePdf("b.pdf")}));
+    QVERIFY(finishReading());
+    QCOMPARE(application_->documents().documents().size(), 2);
+    QCOMPARE(file->actions().count(), 4);  // equipped once: Open, Open Recent, separator, Close
+    QMenu* recent = file->actions().at(1)->menu();
+    emit recent->aboutToShow();
+    QCOMPARE(recent->actions().first()->text(), QString("b.pdf"));
+    QCOMPARE(recent->actions().count(), 4);
+  }
+
+  void aChangeOnDiskReachesTheWindow() {
+    const QUrl url = writePdf("a.pdf");
+    QVERIFY(start({url}));
+    QTest::qWait(200);
+    write("a.pdf", "%PDF-1.4\n% another\n%%EOF\n");
+    QVERIFY(QTest::qWaitFor([this] { return log_.contains("changed on disk"); }, 20000));
+  }
+
+  void everyControlOfThePanelHasAName() {
+    QVERIFY(start({}));
+    for (QWidget* widget : application_->startPanel().findChildren<QWidget*>()) {
+      if (widget->focusPolicy() == Qt::NoFocus || qobject_cast<QScrollBar*>(widget)) continue;
+      if (!widget->isVisibleTo(&application_->startPanel())) continue;
+      const auto* button = qobject_cast<QPushButton*>(widget);
+      QVERIFY2(!widget->accessibleName().isEmpty() || (button && !button->text().isEmpty()),
+               widget->metaObject()->className());
+    }
+  }
+};
+
+NORVEX_TEST(DocumentApplicationTest)
+#include "document_application_test.moc"

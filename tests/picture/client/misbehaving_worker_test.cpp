@@ -1,0 +1,168 @@
+// Every lie and every death that a picture process in the hands of a hostile document can think of.
+#include <thread>
+
+#include "kit/test_main.h"
+#include "picture/client/worker_client.h"
+#include "picture/client/worker_service.h"
+#include "kit/process_watch.h"
+
+using namespace norvex;
+using namespace norvex::kit;
+
+namespace {
+
+const QString kProgram = QStringLiteral(NORVEX_BUILD_DIR "/norvex-misbehaving-worker");
+
+struct Mode {
+  const char* name;
+  ErrorKind atRequest;
+};
+
+const Mode kModes[] = {
+    {"hang", ErrorKind::TimedOut},
+    {"exit", ErrorKind::Died},
+    {"crash", ErrorKind::Died},
+    {"close", ErrorKind::Died},
+    {"half-message", ErrorKind::Died},
+    {"half-and-hang", ErrorKind::TimedOut},
+    {"trickle", ErrorKind::TimedOut},
+    {"bad-cbor", ErrorKind::Protocol},
+    {"huge-length", ErrorKind::Protocol},
+    {"two-descriptors", ErrorKind::Protocol},
+    {"late-descriptor", ErrorKind::Protocol},
+    {"flood-zeros", ErrorKind::Protocol},
+    {"flood-messages", ErrorKind::Protocol},
+    {"wrong-id", ErrorKind::Protocol},
+    {"wrong-type", ErrorKind::Protocol},
+    {"fork-reply", ErrorKind::Protocol},
+    {"wrong-size", ErrorKind::Protocol},
+    {"wrong-stride", ErrorKind::Protocol},
+    {"wide-stride", ErrorKind::Protocol},
+    {"negative-size", ErrorKind::Protocol},
+    {"negative-stride", ErrorKind::Protocol},
+    {"no-descriptor", ErrorKind::Protocol},
+    {"error-with-descriptor", ErrorKind::Protocol},
+    {"small-memory", ErrorKind::Protocol},
+    {"large-memory", ErrorKind::Protocol},
+    {"empty-memory", ErrorKind::Protocol},
+    {"unsealed-memory", ErrorKind::Protocol},
+    {"file", ErrorKind::Protocol},
+    {"socket", ErrorKind::Protocol},
+};
+
+RenderRequest drawing() {
+  RenderRequest request;
+  request.pixelSize = QSize(4, 4);
+  return request;
+}
+
+constexpr PictureLimits kLimits{1, 256, 10};
+
+}  // namespace
+
+class MisbehavingWorkerTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void init() {
+    runtime_ = std::make_unique<RuntimeFolder>();
+    descriptors_ = openDescriptors();
+    service_ = std::make_unique<WorkerService>(kProgram);
+  }
+  void cleanup() {
+    const qint64 program = service_->programProcessId();
+    QVERIFY(eventually([&] { return childrenOf(program).isEmpty(); }));
+    QVERIFY(eventually([&] { return runtime_->scratchFolders().isEmpty(); }));
+    service_.reset();
+    QVERIFY(hasNoChildren());
+    QCOMPARE(runtime_->entries(), QStringList());
+    QCOMPARE(openDescriptors(), descriptors_);
+    runtime_.reset();
+  }
+
+  void atARequest_data() { addModes(); }
+  void atARequest() {
+    QFETCH(QByteArray, mode);
+    QFETCH(ErrorKind, kind);
+    const auto process = service_->open(mode, PictureKind::Pdf, kLimits);
+    QVERIFY(process->facts().ok());
+    const auto image = process->render(drawing());
+    QVERIFY(!image.ok());
+    QCOMPARE(image.error().kind, kind);
+    QVERIFY(!image.error().message.isEmpty());
+    // A fresh process answers the opening again, and then lies again.
+    QCOMPARE(process->render(drawing()).error().kind, kind);
+  }
+
+  void whileOpening_data() { addModes(); }
+  void whileOpening() {
+    QFETCH(QByteArray, mode);
+    QFETCH(ErrorKind, kind);
+    const auto process = service_->open("at-open " + mode, PictureKind::Pdf, kLimits);
+    QCOMPARE(process->facts().error().kind, kind);
+    QVERIFY(!process->render(drawing()).ok());
+  }
+
+  void twoAnswersToOneRequest() {
+    const auto process = service_->open("twice", PictureKind::Pdf, kLimits);
+    QVERIFY(process->render(drawing()).ok());
+    const qint64 liar = static_cast<WorkerClient&>(*process).processId();
+    // The second answer costs the process its life. It costs the next caller an error only if it comes so late that
+    // it is taken for his.
+    const auto next = process->render(drawing());
+    QVERIFY(next.ok() || next.error().kind == ErrorKind::Protocol);
+    QVERIFY(eventually([&] { return stateOf(liar) == 0; }));
+  }
+
+  void moreBytesThanTheLimit() {
+    const auto process = service_->open("huge-bytes", PictureKind::Pdf, kLimits);
+    QCOMPARE(process->pdf({}).error().kind, ErrorKind::Protocol);
+    QCOMPARE(process->compose({VectorFormat::Pdf, 0, QRectF(0, 0, 1, 1), 0}).error().kind,
+             ErrorKind::Protocol);
+  }
+
+  void imagesOfAResolutionThatCannotBe() {
+    for (const char* mode : {"negative-dpi", "impossible-dpi"}) {
+      const auto process = service_->open(mode, PictureKind::Pdf, kLimits);
+      QCOMPARE(process->pdf({}).error().kind, ErrorKind::Protocol);
+      QCOMPARE(process->compose({VectorFormat::Eps, 0, QRectF(0, 0, 1, 1), 0}).error().kind, ErrorKind::Protocol);
+    }
+  }
+
+  void anImageWhereBytesWereAskedFor() {
+    const auto process = service_->open("unsealed-memory", PictureKind::Pdf, kLimits);
+    QCOMPARE(process->pdf({}).error().kind, ErrorKind::Protocol);
+    QCOMPARE(process->svg({}).error().kind, ErrorKind::Protocol);
+  }
+
+  void aPreviewIsNotBelievedEither() {
+    for (const char* mode :
+         {"at-open small-memory", "at-open unsealed-memory", "at-open bad-cbor", "at-open wrong-id"})
+      QCOMPARE(service_->decodePreview(mode).error().kind, ErrorKind::Protocol);
+    QCOMPARE(service_->decodePreview("at-open crash").error().kind, ErrorKind::Died);
+  }
+
+  void aCancelEndsWhatDoesNotAnswer() {
+    for (const char* mode : {"hang", "trickle", "half-and-hang"}) {
+      const auto process = service_->open(mode, PictureKind::Pdf);
+      QVERIFY(process->facts().ok());
+      const CancelToken token;
+      std::thread canceller([&] { QThread::msleep(20), token.cancel(); });
+      QCOMPARE(process->render(drawing(), token).error().kind, ErrorKind::Cancelled);
+      canceller.join();
+    }
+  }
+
+ private:
+  static void addModes() {
+    QTest::addColumn<QByteArray>("mode");
+    QTest::addColumn<ErrorKind>("kind");
+    for (const Mode& mode : kModes) QTest::newRow(mode.name) << QByteArray(mode.name) << mode.atRequest;
+  }
+
+  std::unique_ptr<RuntimeFolder> runtime_;
+  std::unique_ptr<WorkerService> service_;
+  qsizetype descriptors_ = 0;
+};
+
+NORVEX_TEST(MisbehavingWorkerTest)
+#include "misbehaving_worker_test.moc"

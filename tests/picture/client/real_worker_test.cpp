@@ -1,0 +1,137 @@
+// The shipped picture program, from the bytes of a document to its answers.
+#include <unistd.h>
+
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include "kit/test_main.h"
+#include "picture/client/worker_service.h"
+#include "kit/process_watch.h"
+
+using namespace norvex;
+using namespace norvex::kit;
+
+namespace {
+
+const QString kProgram = QStringLiteral(NORVEX_BUILD_DIR "/norvex-worker");
+
+const char kSvg[] =
+    "<svg xmlns='http://www.w3.org/2000/svg' width='40pt' height='20pt' viewBox='0 0 40 "
+    "20'><title>Two</title>"
+    "<rect width='20' height='20' fill='#ff0000'/><rect x='20' width='20' height='20' fill='#0000ff'/></svg>";
+
+const char kEps[] =
+    "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 40 20\n%%EndComments\n"
+    "1 0 0 setrgbcolor 0 0 20 20 rectfill 0 0 1 setrgbcolor 20 0 20 20 rectfill showpage\n%%EOF\n";
+
+/// Pixels of the whole 40 × 20 picture, one for each point.
+RenderRequest wholePicture() {
+  RenderRequest request;
+  request.pixelSize = QSize(40, 20);
+  request.pictureToDevice = QTransform(1, 0, 0, -1, 0, 20);
+  return request;
+}
+
+}  // namespace
+
+class RealWorkerTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void init() {
+    runtime_ = std::make_unique<RuntimeFolder>();
+    service_ = std::make_unique<WorkerService>(kProgram);
+  }
+  void cleanup() {
+    service_.reset();
+    QVERIFY(hasNoChildren());
+    QCOMPARE(runtime_->entries(), QStringList());
+    runtime_.reset();
+  }
+
+  void everyKindIsOpenedAndDrawn_data() {
+    QTest::addColumn<PictureKind>("kind");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("SVG") << PictureKind::Svg << QByteArray(kSvg);
+    QTest::newRow("EPS") << PictureKind::Eps << QByteArray(kEps);
+    QTest::newRow("PDF") << PictureKind::Pdf << pdf();
+  }
+  void everyKindIsOpenedAndDrawn() {
+    QFETCH(PictureKind, kind);
+    QFETCH(QByteArray, bytes);
+    const auto process = service_->open(bytes, kind);
+    const auto facts = process->facts();
+    QVERIFY2(facts.ok(), facts.ok() ? "" : qPrintable(facts.error().message));
+    QCOMPARE(facts->pageCount, 1);
+    const auto image = process->render(wholePicture());
+    QVERIFY2(image.ok(), image.ok() ? "" : qPrintable(image.error().message));
+    QCOMPARE(image->pixelColor(5, 10), QColor(Qt::red));
+    QCOMPARE(image->pixelColor(35, 10), QColor(Qt::blue));
+    const auto composed = process->compose({VectorFormat::Pdf, 0, QRectF(-10, -5, 20, 10), 0});
+    QVERIFY2(composed.ok(), composed.ok() ? "" : qPrintable(composed.error().message));
+    QVERIFY(composed->bytes.startsWith("%PDF-"));
+  }
+
+  // A process with more could not fork.
+  void theProgramHasOneThreadOnceItIsWarm() {
+    std::vector<std::shared_ptr<PictureProcess>> open;
+    for (int i = 0; i < 3; ++i) {  // a third picture is not begun before the program is warm
+      open.push_back(service_->open(kSvg, PictureKind::Svg));
+      QVERIFY(open.back()->facts().ok());
+    }
+    const QList<qint64> programs = childrenOf(::getpid());
+    QCOMPARE(programs.size(), 1);
+    const QDir threads(QStringLiteral("/proc/%1/task").arg(programs.first()));
+    QCOMPARE(threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+  }
+
+  void aPreparedInterpreterIsUsed() {
+    service_->prepare(PictureKind::Eps);
+    QVERIFY(service_->open(kEps, PictureKind::Eps)->render(wholePicture()).ok());
+  }
+
+  void bytesOfAnotherKindAreAnOrdinaryError_data() {
+    QTest::addColumn<PictureKind>("kind");
+    QTest::newRow("SVG") << PictureKind::Svg;
+    QTest::newRow("PDF") << PictureKind::Pdf;
+  }
+  void bytesOfAnotherKindAreAnOrdinaryError() {
+    QFETCH(PictureKind, kind);
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("nothing of the kind"), QByteArray(1000, '\0')}) {
+      const auto facts = service_->open(bytes, kind)->facts();
+      QVERIFY(!facts.ok());
+      QCOMPARE(facts.error().kind, ErrorKind::NotParsable);
+    }
+    QCOMPARE(service_->decodePreview("no TIFF").error().kind, ErrorKind::NotParsable);
+  }
+
+  void anEndlessProgramIsStopped() {
+    const QByteArray endless = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 40 20\n%%EndComments\n{} loop\n";
+    const auto process = service_->open(endless, PictureKind::Eps, PictureLimits{2, 512, 10});
+    QCOMPARE(process->render(wholePicture()).error().kind, ErrorKind::TimedOut);
+  }
+
+  void anEndlessProgramCanBeCancelled() {
+    const QByteArray endless = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 40 20\n%%EndComments\n{} loop\n";
+    const auto process = service_->open(endless, PictureKind::Eps);
+    const CancelToken token;
+    std::thread canceller([&] { QThread::msleep(300), token.cancel(); });
+    QCOMPARE(process->render(wholePicture(), token).error().kind, ErrorKind::Cancelled);
+    canceller.join();
+  }
+
+ private:
+  /// Made by the program itself from the SVG.
+  QByteArray pdf() {
+    WorkerService service(kProgram);
+    const auto made = service.open(kSvg, PictureKind::Svg)->pdf({});
+    return made ? made->bytes : QByteArray();
+  }
+
+  std::unique_ptr<RuntimeFolder> runtime_;
+  std::unique_ptr<WorkerService> service_;
+};
+
+NORVEX_TEST(RealWorkerTest)
+#include "real_worker_test.moc"

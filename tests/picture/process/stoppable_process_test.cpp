@@ -1,0 +1,65 @@
+// Stopping what a window waits for.
+#include <QtConcurrent>
+
+#include "kit/test_main.h"
+#include "picture/process/memory_picture_service.h"
+#include "picture/process/stoppable_process.h"
+
+using namespace norvex;
+
+namespace {
+
+RenderRequest small() {
+  RenderRequest request;
+  request.pixelSize = {4, 4};
+  return request;
+}
+
+}  // namespace
+
+class StoppableProcessTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void everyCallIsForwarded() {
+    MemoryPictureService service;
+    StoppableService stoppable(service, CancelToken());
+    const auto process = stoppable.open("bytes", PictureKind::Pdf);
+    QVERIFY(process->facts() && process->pdf({}) && process->compose({}) && process->svg({}));
+    QVERIFY(process->render(small()));
+    for (PictureCall call : {PictureCall::Facts, PictureCall::Pdf, PictureCall::Compose, PictureCall::Svg, PictureCall::Render})
+      QCOMPARE(service.lastProcess()->calls(call), 1);
+    QCOMPARE(service.openedKinds(), QList<PictureKind>{PictureKind::Pdf});
+  }
+
+  void stopEndsRenderingsAndRefusesLaterOnes() {
+    MemoryPictureService service;
+    StoppableService stoppable(service, CancelToken());
+    const auto process = std::dynamic_pointer_cast<StoppableProcess>(stoppable.open("bytes", PictureKind::Pdf));
+    QVERIFY(process);
+    service.lastProcess()->hold(PictureCall::Render);
+    auto first = QtConcurrent::run([&] { return process->render(small()); });
+    QVERIFY(service.lastProcess()->waitUntilHeld(PictureCall::Render));
+    process->stop();
+    QCOMPARE(first.result().error().kind, ErrorKind::Cancelled);
+    QCOMPARE(process->render(small()).error().kind, ErrorKind::TimedOut);
+    QVERIFY(process->facts());
+    service.lastProcess()->release(PictureCall::Render);
+    process->resume();
+    QVERIFY(process->render(small()));
+  }
+
+  void theLoadingsTokenEndsTheWaitForFacts() {
+    MemoryPictureService service;
+    service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });
+    const CancelToken loading;
+    StoppableService stoppable(service, loading);
+    const auto process = stoppable.open("bytes", PictureKind::Pdf);
+    auto facts = QtConcurrent::run([&] { return process->facts(); });
+    QVERIFY(service.lastProcess()->waitUntilHeld(PictureCall::Facts));
+    loading.cancel();
+    QCOMPARE(facts.result().error().kind, ErrorKind::Cancelled);
+  }
+};
+
+NORVEX_TEST(StoppableProcessTest)
+#include "stoppable_process_test.moc"

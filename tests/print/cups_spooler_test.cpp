@@ -1,0 +1,148 @@
+// Jobs for a CUPS server of the test's own: what arrives, what is told when nothing does, and what is left
+// behind.
+#include "print/cups_spooler.h"
+
+#include <optional>
+#include <thread>
+
+#include "kit/test_main.h"
+#include "system/print_server.h"
+
+using namespace norvex;
+
+namespace {
+
+PrintTicket ticketFor(const QString& printer) {
+  PrintTicket ticket;
+  ticket.printer = printer;
+  ticket.title = "My Picture";
+  ticket.media = "iso_a4_210x297mm";
+  return ticket;
+}
+
+const QByteArray kPdf = "%PDF-1.4\n% what a queue of files takes as it is\n%%EOF\n";
+
+}  // namespace
+
+class CupsSpoolerTest : public QObject {
+  Q_OBJECT
+
+  std::unique_ptr<outside::PrintServer> server_;
+  CupsSpooler spooler_;
+
+  /// What is said of a job that is not taken; empty when it is.
+  QString complaint(const QString& printer) {
+    const Result<int> job = spooler_.print(ticketFor(printer), kPdf);
+    return job ? QString() : job.error().message;
+  }
+
+ private slots:
+  void init() {
+    server_ = std::make_unique<outside::PrintServer>();
+    if (const QString why = server_->start(); !why.isEmpty()) QSKIP(qPrintable(why));
+    QVERIFY(server_->addPrinter("Office"));
+    // The library remembers a server for each thread, and looks into the environment in new ones.
+    qputenv("CUPS_SERVER", server_->address().toUtf8());
+    ::cupsSetServer(qPrintable(server_->address()));
+  }
+  void cleanup() {
+    server_.reset();
+    ::cupsSetServer(nullptr);
+    qunsetenv("CUPS_SERVER");
+  }
+
+  void theJobIsTakenWithItsTitle() {
+    const Result<int> job = spooler_.print(ticketFor("Office"), kPdf);
+    QVERIFY2(job.ok(), job ? "" : qPrintable(job.error().message));
+    QCOMPARE(server_->jobTitle(*job), QString("My Picture"));
+    QCOMPARE(server_->spooledFiles().size(), 1);
+    QFile spooled(server_->spooledFiles().first());
+    QVERIFY(spooled.open(QIODevice::ReadOnly));
+    QCOMPARE(spooled.readAll(), kPdf);
+  }
+
+  void thePrintersAreListedWithTheirStates() {
+    QVERIFY(server_->addPrinter("Attic") && server_->addPrinter("Hall"));
+    QVERIFY(server_->makeDefault("Attic") && server_->refuseJobs("Hall") && server_->stopPrinter("Office"));
+    const Result<QList<Printer>> printers = spooler_.printers();
+    QVERIFY(printers.ok());
+    QStringList told;
+    for (const Printer& printer : *printers)
+      told << printer.name + ": " + stateText(printer) + (printer.isDefault ? " (default)" : "");
+    told.sort();
+    QCOMPARE(told, (QStringList{"Attic: Ready (default)", "Hall: Takes no jobs", "Office: Stopped"}));
+  }
+
+  // ---- what must not happen ------------------------------------------------------------
+
+  void aPrinterThatWasRemovedAfterItWasListedIsTold() {
+    QCOMPARE(spooler_.printers()->size(), 1);
+    QVERIFY(server_->removePrinter("Office"));
+    QCOMPARE(complaint("Office"), QString("there is no printer named “Office”"));
+    QCOMPARE(complaint(""), QString("there is no printer"));
+    QCOMPARE(server_->jobs(), 0);
+  }
+
+  void aPrinterThatRefusesIsTold() {
+    QVERIFY(server_->refuseJobs("Office"));
+    QCOMPARE(complaint("Office"), QString("the printer “Office” takes no jobs"));
+    QCOMPARE(server_->jobs(), 0);
+  }
+
+  void aPrinterThatWantsAPasswordIsTold() {
+    QVERIFY(server_->wantPassword("Office"));
+    QCOMPARE(complaint("Office"),
+             QString("the printer “Office” wants a user name and a password, which are not asked for here"));
+    QCOMPARE(server_->jobs(), 0);
+    QVERIFY(server_->addPrinter("Attic"));
+    QCOMPARE(complaint("Attic"), QString());
+  }
+
+  void aPrinterForOthersAloneIsTold() {
+    QVERIFY(server_->denyEverybody("Office"));
+    QCOMPARE(complaint("Office"), QString("the printer “Office” is not open to this user"));
+    QCOMPARE(server_->jobs(), 0);
+  }
+
+  void aServerThatIsGoneIsTold() {
+    server_->stop();
+    QCOMPARE(complaint("Office"), QString("the print service cannot be reached"));
+    QCOMPARE(spooler_.printers().error().message, QString("the print service cannot be reached"));
+  }
+
+  void cancellingWhileNobodyAnswersLeavesNoJob() {
+    server_->pause();
+    const CancelToken cancel;
+    std::optional<Result<int>> job;
+    std::thread printing([&] { job = spooler_.print(ticketFor("Office"), kPdf, cancel); });
+    std::optional<Result<QList<Printer>>> printers;
+    std::thread listing([&] { printers = spooler_.printers(cancel); });
+    QThread::msleep(300);  // until both wait; cancelled before that, they end as well
+    cancel.cancel();
+    printing.join();
+    listing.join();
+    QCOMPARE(job->error().kind, ErrorKind::Cancelled);
+    QCOMPARE(printers->error().kind, ErrorKind::Cancelled);
+    server_->goOn();
+    QCOMPARE(server_->jobs(), 0);
+    QCOMPARE(complaint("Office"), QString());
+  }
+
+  void cancellingWhileThePagesAreSentLeavesNoJob() {
+    QVERIFY(server_->addPrinter("Attic"));
+    const QByteArray large = kPdf + QByteArray(64 << 20, '%');
+    const CancelToken cancel;
+    std::optional<Result<int>> job;
+    std::thread printing([&] { job = spooler_.print(ticketFor("Attic"), large, cancel); });
+    for (int i = 0; i < 2000 && server_->jobs() == 0; ++i) QThread::msleep(5);
+    cancel.cancel();
+    printing.join();
+    QCOMPARE(job->error().kind, ErrorKind::Cancelled);
+    QCOMPARE(server_->jobs(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(server_->jobs(CUPS_WHICHJOBS_ACTIVE), 0, 20000);
+    QVERIFY(!QFile::exists(server_->printed("Attic")) || QFileInfo(server_->printed("Attic")).size() == 0);
+  }
+};
+
+NORVEX_TEST(CupsSpoolerTest)
+#include "cups_spooler_test.moc"

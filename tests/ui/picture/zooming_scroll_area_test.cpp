@@ -1,0 +1,140 @@
+// Layout of bars and menu, wheel, keys, panning and what is painted.
+#include <QComboBox>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <cmath>
+
+#include "kit/test_main.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
+
+using namespace norvex;
+
+namespace {
+
+/// An area of 500 × 400 around a view of 1000 × 800.
+struct Area {
+  Area() {
+    area.setDocumentWidget(widget);
+    widget->view().setImageSize({1000, 800});
+    widget->view().setRotate(0, false);
+    area.resize(500, 400);
+    area.show();
+    if (!QTest::qWaitForWindowExposed(&area)) qFatal("no window");
+    area.scrollView().setFactor(1);
+    area.scrollToTop();
+  }
+  void wheel(QPoint angle, Qt::KeyboardModifiers modifiers, QPointF at = {100, 50}) {
+    QWheelEvent event(at, area.mapToGlobal(at), {}, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&area, &event);
+  }
+  ZoomingScrollArea area;
+  NorvexViewWidget* widget = new NorvexViewWidget;
+};
+
+}  // namespace
+
+class ZoomingScrollAreaTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void theMenuHasElevenTitles() {
+    Area a;
+    QCOMPARE(a.area.popUp()->count(), 11);
+    QCOMPARE(a.area.popUp()->itemText(0), QStringLiteral("10%"));
+    QCOMPARE(a.area.popUp()->itemData(0).toDouble(), 0.10000000149011612);
+    QCOMPARE(a.area.popUp()->itemText(10), QStringLiteral("1600%"));
+  }
+
+  void theMenuStandsLeftOfTheBarAndHidesWhenThereIsNoRoom() {
+    Area a;
+    QVERIFY(a.area.popUp()->x() >= 0);
+    QVERIFY(a.area.horizontalBar()->x() >= a.area.popUp()->geometry().right());
+    a.area.resize(a.area.popUp()->width() + 60, 400);
+    QCoreApplication::processEvents();
+    QVERIFY(a.area.popUp()->geometry().right() < 0);
+    QCOMPARE(a.area.horizontalBar()->x(), 0);
+  }
+
+  void barsFollowTheViewAndMoveIt() {
+    Area a;
+    const QSizeF room = a.area.contentSize();
+    QCOMPARE(a.area.horizontalBar()->maximum(), int(1000 - room.width()));
+    QCOMPARE(a.area.verticalBar()->maximum(), int(800 - room.height()));
+    QCOMPARE(a.widget->toView({0, 0}), QPointF(-500, 400));
+    a.area.horizontalBar()->setValue(30);
+    a.area.verticalBar()->setValue(40);
+    QCOMPARE(a.widget->toView({0, 0}), QPointF(-470, 360));
+    QCOMPARE(a.widget->fromView({-470, 360}), QPointF(0, 0));
+    QCOMPARE(a.widget->visibleRect(), QRectF(-470, 360 - room.height(), room.width(), room.height()));
+  }
+
+  void wheelScrollsAndShiftMakesItSideways() {
+    Area a;
+    a.wheel({0, -120}, Qt::NoModifier);
+    QCOMPARE(a.area.verticalBar()->value(), 72);
+    a.wheel({0, -120}, Qt::ShiftModifier);
+    QCOMPARE(a.area.horizontalBar()->value(), 72);
+    a.wheel({0, 240}, Qt::NoModifier);
+    QCOMPARE(a.area.verticalBar()->value(), 0);
+  }
+
+  void controlWheelZoomsAtThePointer() {
+    Area a;
+    a.area.verticalBar()->setValue(200);
+    a.area.horizontalBar()->setValue(200);
+    const QPointF under = a.widget->toView({100, 50});
+    a.wheel({0, 120}, Qt::ControlModifier);
+    QCOMPARE(a.area.scrollView().factor(), 1.25);
+    const QPointF now = a.widget->toView({100, 50});
+    QVERIFY(std::abs(now.x() - under.x()) <= 0.5 && std::abs(now.y() - under.y()) <= 0.5);
+  }
+
+  void theMiddleButtonPans() {
+    Area a;
+    a.area.verticalBar()->setValue(200);
+    QTest::mousePress(a.widget, Qt::MiddleButton, {}, {100, 100});
+    QTest::mouseMove(a.widget, {90, 70});
+    QTest::mouseRelease(a.widget, Qt::MiddleButton, {}, {90, 70});
+    QCOMPARE(a.area.verticalBar()->value(), 230);
+    QCOMPARE(a.area.horizontalBar()->value(), 10);
+  }
+
+  void arrowsScrollWhereNothingIsSelected() {
+    Area a;
+    QTest::keyClick(a.widget, Qt::Key_Down);
+    QCOMPARE(a.area.verticalBar()->value(), 24);
+    QTest::keyClick(a.widget, Qt::Key_End);
+    QCOMPARE(a.area.verticalBar()->value(), a.area.verticalBar()->maximum());
+  }
+
+  void aSmallViewIsCentredOnWholePixels() {
+    Area a;
+    a.widget->view().setImageSize({101, 51});
+    a.widget->view().setRotate(0.1, false);
+    a.widget->view().setRotate(0, false);
+    const QPointF corner = a.widget->fromView({-50.5, 25.5});
+    QCOMPARE(corner, QPointF(corner.toPoint()));
+    const QSizeF room = a.area.contentSize();
+    QVERIFY(std::abs(corner.x() - (room.width() - 101) / 2) <= 0.5);
+  }
+
+  void theBackgroundIsAColourOrACheckerboard() {
+    Area a;
+    a.area.setBackgroundColor(QColor(10, 200, 30));
+    QCOMPARE(a.widget->grab().toImage().pixelColor(200, 200), QColor(10, 200, 30));
+    a.area.setDrawsBackground(false);
+    QVERIFY(a.widget->grab().toImage().pixelColor(200, 200) != QColor(10, 200, 30));
+    QCOMPARE(a.area.backgroundColor(), QColor(10, 200, 30));
+  }
+
+  void aPointOutsideScrollsOnlyALittle() {
+    Area a;
+    QVERIFY(a.widget->autoscroll(a.widget->toView({5000, 100})));
+    QCOMPARE(a.area.horizontalBar()->value(), 40);
+    QVERIFY(!a.widget->autoscroll(a.widget->toView({100, 100})));
+  }
+};
+
+NORVEX_TEST(ZoomingScrollAreaTest)
+#include "zooming_scroll_area_test.moc"

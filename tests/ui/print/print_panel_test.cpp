@@ -1,0 +1,224 @@
+// The print panel and the page-layout sheet as people use them.
+#include "ui/print/print_panel.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolButton>
+
+#include "kit/test_main.h"
+#include "picture/process/null_picture_service.h"
+#include "print/memory_printing.h"
+#include "ui/print/page_layout_sheet.h"
+#include "ui/print/zy_page_layout_accessory.h"
+
+using namespace norvex;
+using kit::MemorySpooler;
+
+namespace {
+
+class Drawing final : public PrintableView {
+ public:
+  explicit Drawing(const QSizeF& size) : size_(size) {}
+  [[nodiscard]] PrintSource printSource() const override {
+    PrintSource source;
+    source.size = size_;
+    source.jobTitle = "A drawing";
+    source.header = [] { return std::optional(defaultPageLine()); };
+    source.footer = [] { return std::optional(defaultPageLine()); };
+    return source;
+  }
+
+ private:
+  QSizeF size_;
+};
+
+NSPrintInfo a4() {
+  NSPrintInfo info;
+  info.setPaper(*paperNamed("A4"));
+  for (const char* margin : {NSPrintLeftMargin, NSPrintRightMargin, NSPrintTopMargin, NSPrintBottomMargin}) info.set(margin, 0.0);
+  return info;
+}
+
+const QList<Printer> kPrinters{{"office", "Office laser", PrinterState::Idle, true, false},
+                               {"hall", "Hall", PrinterState::Stopped, true, true},
+                               {"attic", "Attic", PrinterState::Idle, false, false}};
+
+}  // namespace
+
+class PrintPanelTest : public QObject {
+  Q_OBJECT
+
+  NullPictureService service_;
+  std::unique_ptr<MemorySpooler> spooler_;
+  std::unique_ptr<NSPrintOperation> operation_;
+  std::unique_ptr<PrintPanel> panel_;
+
+  void open(const QSizeF& size, const QList<Printer>& printers = kPrinters, const NSPrintInfo& info = a4()) {
+    panel_.reset();
+    spooler_ = std::make_unique<MemorySpooler>(printers);
+    operation_ = NSPrintOperation::printOperationWithView(std::make_unique<Drawing>(size), info,
+                                                          {&service_, spooler_.get(), nullptr});
+    operation_->printPanel().setOptions(operation_->printPanel().options() | 28);
+    panel_ = std::make_unique<PrintPanel>(*operation_, *spooler_, nullptr);
+    panel_->show();
+    QTRY_VERIFY(state() != "Looking for printers…");
+  }
+  template <typename T>
+  T* child(const char* name) {
+    T* found = panel_->findChild<T*>(QString::fromLatin1(name));
+    if (!found) qFatal("no %s", name);
+    return found;
+  }
+  QString state() { return child<QLabel>("printerState")->text(); }
+  void choose(const char* combo, const QString& data) {
+    auto* box = child<QComboBox>(combo);
+    box->setCurrentIndex(box->findData(data));
+    emit box->activated(box->currentIndex());
+  }
+
+ private slots:
+  void cleanup() { panel_.reset(); }
+
+  void theDefaultPrinterIsChosenAndItsStateIsTold() {
+    open({100, 100});
+    QCOMPARE(child<QComboBox>("printer")->currentText(), QString("Hall"));
+    QCOMPARE(state(), QString("Stopped"));
+    choose("printer", "office");
+    QCOMPARE(state(), QString("Ready"));
+    QVERIFY(child<QPushButton>("print")->isEnabled());
+    choose("printer", "attic");
+    QCOMPARE(state(), QString("Takes no jobs"));
+    QVERIFY(!child<QPushButton>("print")->isEnabled());
+  }
+
+  void withoutPrintersThePagesCanStillBeSaved() {
+    open({100, 100}, {});
+    QCOMPARE(child<QComboBox>("printer")->count(), 1);
+    QCOMPARE(state(), QString("There is no printer."));
+    QVERIFY(child<QPushButton>("print")->isEnabled());
+    QString suggested;
+    panel_->askForFile = [&suggested](const QString& suggestion) {
+      suggested = suggestion;
+      return QString("/tmp/somewhere.pdf");
+    };
+    panel_->accept();
+    QCOMPARE(suggested, QString("A drawing.pdf"));
+    QCOMPARE(operation_->printInfo().jobSavingPath(), QString("/tmp/somewhere.pdf"));
+    QCOMPARE(panel_->result(), int(QDialog::Accepted));
+  }
+
+  void aFileThatIsNotChosenLeavesThePanelOpen() {
+    open({100, 100}, {});
+    panel_->askForFile = [](const QString&) { return QString(); };
+    panel_->accept();
+    QVERIFY(panel_->isVisible());
+    QVERIFY(operation_->printInfo().jobSavingPath().isEmpty());
+  }
+
+  void whatIsChosenIsTheOperationsWhenItIsAccepted() {
+    open({3000, 2000});
+    choose("printer", "office");
+    child<QSpinBox>("copies")->setValue(4);
+    child<QRadioButton>("landscape")->click();
+    child<QDoubleSpinBox>("scaling")->setValue(50);
+    child<QCheckBox>("headerAndFooter")->click();
+    choose("paper", "na_letter_8.5x11in");
+    QCOMPARE(operation_->printInfo(), a4());  // nothing yet
+    panel_->accept();
+    const NSPrintInfo& info = operation_->printInfo();
+    QCOMPARE(info.printerName(), QString("office"));
+    QCOMPARE(info.copies(), 4);
+    QCOMPARE(info.orientation(), NSPaperOrientation::Landscape);
+    QCOMPARE(info.scalingFactor(), 0.5);
+    QVERIFY(info.printsHeaderAndFooter());
+    QCOMPARE(info.paper().name, QString("Letter"));
+    QVERIFY(info.printsAllPages());
+  }
+
+  void thePagesAreCountedAndTurned() {
+    open({3000, 2000});
+    QCOMPARE(panel_->pageCount(), 18);
+    auto* label = child<QLabel>("pageLabel");
+    QCOMPARE(label->text(), QString("1 of 18"));
+    QVERIFY(!child<QToolButton>("previousPage")->isEnabled());
+    child<QToolButton>("nextPage")->click();
+    QCOMPARE(label->text(), QString("2 of 18"));
+    child<QRadioButton>("landscape")->click();
+    QCOMPARE(label->text(), QString("2 of 16"));
+    child<QCheckBox>("fit")->click();
+    QCOMPARE(label->text(), QString("1 of 1"));
+    QVERIFY(!child<QToolButton>("nextPage")->isEnabled());
+  }
+
+  void aRangeOfPagesCanBeChosen() {
+    open({3000, 2000});
+    child<QSpinBox>("firstPage")->setValue(3);
+    child<QSpinBox>("lastPage")->setValue(5);
+    QVERIFY(child<QRadioButton>("somePages")->isChecked());
+    panel_->accept();
+    QCOMPARE(operation_->printInfo().firstPage(), 3);
+    QCOMPARE(operation_->printInfo().lastPage(), 5);
+    QCOMPARE(child<QSpinBox>("lastPage")->maximum(), 18);
+  }
+
+  void marginsWithoutRoomAreToldInThePreview() {
+    NSPrintInfo info = a4();
+    info.setLeftMargin(600);
+    open({100, 100}, kPrinters, info);
+    QCOMPARE(panel_->pageCount(), 0);
+    QVERIFY(!child<QPushButton>("print")->isEnabled());
+  }
+
+  void aPanelMayBeClosedWhileItIsDrawing() {
+    for (int i = 0; i < 5; ++i) {
+      open({3000, 2000});
+      QTest::qWait(90);
+      panel_.reset();
+    }
+  }
+
+  // ---- the page-layout sheet ----------------------------------------------------------------------------
+
+  void theSheetChangesWhatIsChosenAndNothingElse() {
+    NSPrintInfo info = a4();
+    info.set("SomebodysEntry", 5);
+    info.setLeftMargin(12.3456);
+    info.setScalingFactor(1.0 / 3);
+    PageLayoutSheet sheet(info, nullptr);
+    sheet.addAccessoryController(new ZyPageLayoutAccessory);
+    sheet.findChild<QRadioButton*>("landscape")->click();
+    sheet.findChild<QDoubleSpinBox*>("topMargin")->setValue(10);
+    sheet.findChild<QCheckBox*>("headerAndFooter")->click();
+    sheet.findChild<QCheckBox*>("centreVertically")->click();
+    const NSPrintInfo& chosen = sheet.printInfo();
+    QCOMPARE(chosen.orientation(), NSPaperOrientation::Landscape);
+    QVERIFY(std::abs(chosen.topMargin() - 10 * 72 / 25.4) < 1e-9);
+    QCOMPARE(chosen.leftMargin(), 12.3456);
+    QCOMPARE(chosen.scalingFactor(), 1.0 / 3);
+    QVERIFY(chosen.printsHeaderAndFooter() && !chosen.isVerticallyCentered() && chosen.isHorizontallyCentered());
+    QCOMPARE(chosen.dictionary().value("SomebodysEntry"), QVariant(5));
+  }
+
+  void theSheetShowsTheSettings() {
+    NSPrintInfo info = a4();
+    info.setPaper(*paperNamed("A5"));
+    info.setScalingFactor(0.75);
+    info.setRightMargin(72);
+    info.setHorizontallyCentered(false);
+    PageLayoutSheet sheet(info, nullptr);
+    sheet.addAccessoryController(new ZyPageLayoutAccessory);
+    QCOMPARE(sheet.findChild<QComboBox*>("paper")->currentData().toString(), QString("iso_a5_148x210mm"));
+    QVERIFY(sheet.findChild<QRadioButton*>("portrait")->isChecked());
+    QCOMPARE(sheet.findChild<QDoubleSpinBox*>("scaling")->value(), 75.0);
+    QCOMPARE(sheet.findChild<QDoubleSpinBox*>("rightMargin")->value(), 25.4);
+    QVERIFY(!sheet.findChild<QCheckBox*>("centreHorizontally")->isChecked());
+  }
+};
+
+NORVEX_TEST(PrintPanelTest)
+#include "print_panel_test.moc"

@@ -2,8 +2,8 @@
 
 #include <new>
 
-#include "document/unimplemented_method.h"
 #include "base/localized_string.h"
+#include "document/unimplemented_method.h"
 
 namespace norvex {
 

@@ -10,10 +10,10 @@
 
 #include <utility>
 
-#include "base/localized_string.h"
-#include "ui/panels/alert_box.h"
 #include "application/file_watcher.h"
 #include "application/open_panel.h"
+#include "base/localized_string.h"
+#include "ui/panels/alert_box.h"
 
 namespace norvex {
 

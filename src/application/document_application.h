@@ -9,13 +9,13 @@
 
 #include <memory>
 
-#include "document/app_delegate.h"
-#include "document/document_controller.h"
-#include "desktop/alert.h"
 #include "application/application_events.h"
 #include "application/dropped_files.h"
 #include "application/recent_files.h"
 #include "application/start_panel.h"
+#include "desktop/alert.h"
+#include "document/app_delegate.h"
+#include "document/document_controller.h"
 
 class QMainWindow;
 class QMenu;

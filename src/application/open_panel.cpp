@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QFileDialog>
 
-#include "document/document_types.h"
 #include "base/localized_string.h"
+#include "document/document_types.h"
 
 namespace norvex {
 namespace {

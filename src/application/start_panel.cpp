@@ -14,11 +14,11 @@
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
-#include "base/localized_string.h"
 #include "application/dropped_files.h"
-#include "ui/style/quiet_text.h"
 #include "application/recent_file_delegate.h"
 #include "application/recent_files.h"
+#include "base/localized_string.h"
+#include "ui/style/quiet_text.h"
 
 namespace norvex {
 namespace {

@@ -3,8 +3,8 @@
 
 namespace norvex {
 
-/// Installs the table of the user's language, or else the English one, into the application. Call once after the
-/// application object was made and before the first window; texts fetched earlier are the plain keys.
+/// Installs the table of the user's language, or else the English one, into the application. Call once after
+/// the application object was made and before the first window; texts fetched earlier are the plain keys.
 void installStringTables();
 
 }  // namespace norvex

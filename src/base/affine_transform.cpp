@@ -16,7 +16,8 @@ AffineTransform AffineTransform::inverted() const {
   // Where nothing is turned the factors stay exact.
   if (m12_ == 0 && m21_ == 0) return {1 / m11_, 0, 0, 1 / m22_, -dx_ / m11_, -dy_ / m22_};
   const double d = determinant();
-  return {m22_ / d,  -m12_ / d, -m21_ / d, m11_ / d, (m21_ * dy_ - m22_ * dx_) / d, (m12_ * dx_ - m11_ * dy_) / d};
+  return {
+      m22_ / d, -m12_ / d, -m21_ / d, m11_ / d, (m21_ * dy_ - m22_ * dx_) / d, (m12_ * dx_ - m11_ * dy_) / d};
 }
 
 QPointF AffineTransform::map(const QPointF& point) const {
@@ -24,7 +25,8 @@ QPointF AffineTransform::map(const QPointF& point) const {
 }
 
 QRectF AffineTransform::mapRect(const QRectF& rect) const {
-  const std::array corners{map(rect.topLeft()), map(rect.topRight()), map(rect.bottomLeft()), map(rect.bottomRight())};
+  const std::array corners{map(rect.topLeft()), map(rect.topRight()), map(rect.bottomLeft()),
+                           map(rect.bottomRight())};
   const auto [left, right] =
       std::minmax_element(corners.begin(), corners.end(), [](QPointF a, QPointF b) { return a.x() < b.x(); });
   const auto [top, bottom] =
@@ -34,8 +36,12 @@ QRectF AffineTransform::mapRect(const QRectF& rect) const {
 
 AffineTransform operator*(const AffineTransform& a, const AffineTransform& b) {
   const QPointF origin = b.map({a.dx(), a.dy()});
-  return {a.m11() * b.m11() + a.m12() * b.m21(), a.m11() * b.m12() + a.m12() * b.m22(),
-          a.m21() * b.m11() + a.m22() * b.m21(), a.m21() * b.m12() + a.m22() * b.m22(), origin.x(), origin.y()};
+  return {a.m11() * b.m11() + a.m12() * b.m21(),
+          a.m11() * b.m12() + a.m12() * b.m22(),
+          a.m21() * b.m11() + a.m22() * b.m21(),
+          a.m21() * b.m12() + a.m22() * b.m22(),
+          origin.x(),
+          origin.y()};
 }
 
 }  // namespace norvex

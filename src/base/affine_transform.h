@@ -1,5 +1,5 @@
-// AffineTransform: what maps a picture onto pixels or points, where QTransform would be used were it not part of Qt
-// Gui. The picture process does not load that: linking it takes longer than drawing a small picture.
+// AffineTransform: what maps a picture onto pixels or points, where QTransform would be used were it not part
+// of Qt Gui. The picture process does not load that: linking it takes longer than drawing a small picture.
 #pragma once
 
 #include <QPointF>
@@ -18,15 +18,17 @@ class AffineTransform {
       : m11_(m11), m12_(m12), m21_(m21), m22_(m22), dx_(dx), dy_(dy) {}
   /// A QTransform. One with a perspective is no affine map: its numbers become NaN, which nobody accepts.
   template <typename Matrix>
-    requires requires(const Matrix& matrix) {
-      { matrix.isAffine() } -> std::same_as<bool>;
-    }
+  requires requires(const Matrix& matrix) {
+    { matrix.isAffine() } -> std::same_as<bool>;
+  }
   AffineTransform(const Matrix& m)
       : AffineTransform(m.isAffine()
                             ? AffineTransform(m.m11(), m.m12(), m.m21(), m.m22(), m.dx(), m.dy())
                             : AffineTransform(qQNaN(), qQNaN(), qQNaN(), qQNaN(), qQNaN(), qQNaN())) {}
 
-  [[nodiscard]] static constexpr AffineTransform fromTranslate(double dx, double dy) { return {1, 0, 0, 1, dx, dy}; }
+  [[nodiscard]] static constexpr AffineTransform fromTranslate(double dx, double dy) {
+    return {1, 0, 0, 1, dx, dy};
+  }
   [[nodiscard]] static constexpr AffineTransform fromScale(double x, double y) { return {x, 0, 0, y, 0, 0}; }
 
   [[nodiscard]] constexpr double m11() const { return m11_; }

@@ -21,18 +21,23 @@ namespace {
 
 Error cannotWrite(int reason) {
   switch (reason) {
-    case EEXIST: return {ErrorKind::CannotWrite, QStringLiteral("the file exists already")};
+    case EEXIST:
+      return {ErrorKind::CannotWrite, QStringLiteral("the file exists already")};
     case ENOENT:
-    case ENOTDIR: return {ErrorKind::CannotWrite, QStringLiteral("the folder to write to does not exist")};
-    case EISDIR: return {ErrorKind::CannotWrite, QStringLiteral("there is a folder of that name")};
+    case ENOTDIR:
+      return {ErrorKind::CannotWrite, QStringLiteral("the folder to write to does not exist")};
+    case EISDIR:
+      return {ErrorKind::CannotWrite, QStringLiteral("there is a folder of that name")};
     case ENOSPC:
-    case EDQUOT: return {ErrorKind::CannotWrite, QStringLiteral("there is no space left to write to")};
+    case EDQUOT:
+      return {ErrorKind::CannotWrite, QStringLiteral("there is no space left to write to")};
     case EROFS:
     case EACCES:
-    case EPERM: return {ErrorKind::CannotWrite, QStringLiteral("writing there is not permitted")};
+    case EPERM:
+      return {ErrorKind::CannotWrite, QStringLiteral("writing there is not permitted")};
     default:
-      return {ErrorKind::CannotWrite,
-              QStringLiteral("the file could not be written (%1)").arg(QString::fromLocal8Bit(std::strerror(reason)))};
+      return {ErrorKind::CannotWrite, QStringLiteral("the file could not be written (%1)")
+                                          .arg(QString::fromLocal8Bit(std::strerror(reason)))};
   }
 }
 
@@ -41,7 +46,8 @@ QByteArray hiddenNameBeside(const QString& path) {
   const QFileInfo info(path);
   constexpr qsizetype enoughToRecognise = 100;  // the whole name may be as long as names can be
   const QByteArray random = QByteArray::number(QRandomGenerator::global()->generate64(), 16);
-  return fileNameBytes(info.path()) + "/." + fileNameBytes(info.fileName()).left(enoughToRecognise) + '.' + random;
+  return fileNameBytes(info.path()) + "/." + fileNameBytes(info.fileName()).left(enoughToRecognise) + '.' +
+         random;
 }
 
 /// The new file while it has no name yet, or a hidden one where the file system knows no other way.
@@ -67,7 +73,8 @@ class NewFile {
 
   [[nodiscard]] bool write(const QByteArray& bytes) const {
     for (qsizetype done = 0; done < bytes.size();) {
-      const ssize_t count = ::write(descriptor_, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
+      const ssize_t count =
+          ::write(descriptor_, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
       if (count < 0 && errno != EINTR) return false;
       if (count > 0) done += count;
     }
@@ -101,7 +108,7 @@ class NewFile {
 };
 
 std::optional<struct stat> statusOf(const QString& path) {
-  struct stat status{};
+  struct stat status {};
   if (::stat(fileNameBytes(path).constData(), &status) != 0) return std::nullopt;
   return status;
 }
@@ -122,7 +129,8 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, I
   if (old && !S_ISREG(old->st_mode)) {
     return Error{ErrorKind::CannotWrite, QStringLiteral("it is not an ordinary file")};  // a device, a pipe
   }
-  if (old && (old->st_mode & S_IWUSR) == 0) return Error{ErrorKind::CannotWrite, QStringLiteral("the file is read-only")};
+  if (old && (old->st_mode & S_IWUSR) == 0)
+    return Error{ErrorKind::CannotWrite, QStringLiteral("the file is read-only")};
   const QString target = old ? throughLinks(path) : path;
 
   NewFile file(target, 0666);

@@ -10,11 +10,12 @@ namespace norvex {
 
 enum class IfExists { Fail, Replace };
 
-/// Writes `bytes` to `path`. Until the last moment they are in a file without a name in the same folder, which the
-/// system drops if the program is killed; then they appear under `path` in one step. A file that was there before stays
-/// whole until then, keeps its permissions when it is replaced, and is found through a symbolic link. A file that is
-/// marked read-only is not replaced. Where folders cannot hold files without names, a hidden one is used and removed on
-/// failure. ErrorKind::CannotWrite with one plain sentence. Any thread.
+/// Writes `bytes` to `path`. Until the last moment they are in a file without a name in the same folder,
+/// which the system drops if the program is killed; then they appear under `path` in one step. A file that
+/// was there before stays whole until then, keeps its permissions when it is replaced, and is found through a
+/// symbolic link. A file that is marked read-only is not replaced. Where folders cannot hold files without
+/// names, a hidden one is used and removed on failure. ErrorKind::CannotWrite with one plain sentence. Any
+/// thread.
 Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, IfExists ifExists);
 
 /// Whether both paths lead to one existing file, through whatever links.

@@ -9,8 +9,9 @@
 
 namespace norvex {
 
-/// Whoever asks first makes the value, on his own thread; whoever asks meanwhile waits for it. Making must not ask for
-/// the value itself. A default-made T stands for "could not be made", memory that ran out included. Thread-safe.
+/// Whoever asks first makes the value, on his own thread; whoever asks meanwhile waits for it. Making must
+/// not ask for the value itself. A default-made T stands for "could not be made", memory that ran out
+/// included. Thread-safe.
 template <typename T>
 class PromisedValue {
  public:

@@ -5,9 +5,9 @@ class QThreadPool;
 
 namespace norvex {
 
-/// Qt paints on the global pool and waits for it: work that waits must run elsewhere, or a window stands still until
-/// another one's picture is made. One that waits long does not hold up the others. Thread-safe; lives as long as the
-/// program.
+/// Qt paints on the global pool and waits for it: work that waits must run elsewhere, or a window stands
+/// still until another one's picture is made. One that waits long does not hold up the others. Thread-safe;
+/// lives as long as the program.
 [[nodiscard]] QThreadPool& waitingThreads();
 
 }  // namespace norvex

@@ -4,9 +4,9 @@
 
 #include <optional>
 
-#include "cli/arguments/arguments.h"
 #include "base/file_name.h"
 #include "base/system_log.h"
+#include "cli/arguments/arguments.h"
 
 namespace norvex {
 namespace {

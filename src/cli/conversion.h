@@ -8,8 +8,8 @@
 
 #include <optional>
 
-#include "encoders/output_format.h"
 #include "base/cancel_token.h"
+#include "encoders/output_format.h"
 #include "picture/process/picture_process.h"
 
 namespace norvex {

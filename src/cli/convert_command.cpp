@@ -4,13 +4,13 @@
 #include <QThreadPool>
 #include <QtConcurrent>
 
+#include "base/atomic_file.h"
+#include "base/file_name.h"
 #include "cli/conversion_report.h"
 #include "cli/input_file.h"
 #include "cli/interruption.h"
 #include "cli/job.h"
 #include "metadata/full_date.h"
-#include "base/atomic_file.h"
-#include "base/file_name.h"
 
 namespace norvex {
 namespace {
@@ -102,7 +102,9 @@ ExitCode Job::convert(const Arguments& arguments) {
   // One more than are drawn at a time: another is being read or written meanwhile.
   pool.setMaxThreadCount(plan.jobs > 1 ? plan.jobs + 1 : 1);
   const CancelToken cancel = interruption.token();
-  const auto convertTask = [&](const ConvertTask& task) { return convertFile(service_, task, plan, input, cancel); };
+  const auto convertTask = [&](const ConvertTask& task) {
+    return convertFile(service_, task, plan, input, cancel);
+  };
   // A single file is not worth a thread.
   QFuture<Conversion> conversions = plan.tasks.size() == 1
                                         ? QtFuture::makeReadyFuture(convertTask(plan.tasks.first()))

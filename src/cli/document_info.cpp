@@ -4,9 +4,9 @@
 #include "metadata/eps_header.h"
 #include "metadata/eps_resources.h"
 #include "metadata/pdf_header.h"
-#include "picture/svg_header.h"
 #include "picture/eps_image_rep.h"
 #include "picture/process/null_picture_service.h"
+#include "picture/svg_header.h"
 
 namespace norvex {
 namespace {

@@ -8,9 +8,9 @@
 
 #include <optional>
 
+#include "base/result.h"
 #include "metadata/header_dictionary.h"
 #include "picture/process/picture_process.h"
-#include "base/result.h"
 
 namespace norvex {
 

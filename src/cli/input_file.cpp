@@ -1,7 +1,7 @@
 #include "cli/input_file.h"
 
-#include "metadata/dos_eps_header.h"
 #include "base/atomic_file.h"
+#include "metadata/dos_eps_header.h"
 #include "picture/document_file.h"
 #include "picture/picture_loader.h"
 #include "types/type_identification.h"

@@ -6,10 +6,10 @@
 
 #include <optional>
 
-#include "cli/console.h"
 #include "base/result.h"
-#include "types/uniform_type.h"
+#include "cli/console.h"
 #include "protocol/worker_protocol.h"
+#include "types/uniform_type.h"
 
 namespace norvex {
 

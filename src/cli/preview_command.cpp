@@ -2,10 +2,10 @@
 #include <QBuffer>
 #include <QImage>
 
+#include "base/atomic_file.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "metadata/eps_header.h"
-#include "base/atomic_file.h"
 #include "picture/bitmap_image.h"
 
 namespace norvex {

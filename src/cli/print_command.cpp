@@ -2,13 +2,13 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include "base/atomic_file.h"
+#include "base/localized_string.h"
 #include "cli/input_file.h"
 #include "cli/interruption.h"
 #include "cli/printing_job.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
-#include "base/atomic_file.h"
-#include "base/localized_string.h"
 #include "picture/picture_loader.h"
 #include "print/cups_spooler.h"
 #include "print/print_job.h"

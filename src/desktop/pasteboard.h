@@ -1,5 +1,5 @@
-// The seam before the clipboard: so that copying is tested without a display, and so that what is offered stands in one
-// place.
+// The seam before the clipboard: so that copying is tested without a display, and so that what is offered
+// stands in one place.
 #pragma once
 
 #include <QByteArray>
@@ -32,8 +32,8 @@ class NSPasteboardItem {
   }
   [[nodiscard]] const QList<Representation>& representations() const { return representations_; }
 
-  /// A format for programs that take none of the others. It is not one of types(): an item of such formats alone has
-  /// nothing to say.
+  /// A format for programs that take none of the others. It is not one of types(): an item of such formats
+  /// alone has nothing to say.
   void setFallback(const QByteArray& data, const QString& forType) { put(fallbacks_, data, forType); }
   [[nodiscard]] const QList<Representation>& fallbacks() const { return fallbacks_; }
 

@@ -4,17 +4,20 @@
 
 #include <utility>
 
+#include "base/bundle.h"
+#include "base/localized_string.h"
 #include "document/document_types.h"
 #include "document/print_settings.h"
 #include "document/unimplemented_method.h"
-#include "base/bundle.h"
-#include "base/localized_string.h"
 #include "picture/document_file.h"
 
 namespace norvex {
 
 Document::Document(PictureService& service, DocumentWindowControllerFactory factory, QObject* parent)
-    : QObject(parent), service_(service), factory_(std::move(factory)), printInfo_(newDocumentPrintInfo(QSettings())) {
+    : QObject(parent),
+      service_(service),
+      factory_(std::move(factory)),
+      printInfo_(newDocumentPrintInfo(QSettings())) {
   printServices_.pictures = &service_;
 }
 

@@ -49,32 +49,35 @@ class Document : public QObject {
   /// A file that can no longer be read is the set-up's business.
   void revertDocumentToSaved();
 
-  /// Writes the shown picture to `url`, whole or not at all: under an SVG type with the compressed extension gzip
-  /// bytes, otherwise what dataOfType() returns. Throws UnimplementedMethod like it; false (with `error`) when the
-  /// bytes could not be written. The document keeps its own file and type.
+  /// Writes the shown picture to `url`, whole or not at all: under an SVG type with the compressed extension
+  /// gzip bytes, otherwise what dataOfType() returns. Throws UnimplementedMethod like it; false (with
+  /// `error`) when the bytes could not be written. The document keeps its own file and type.
   bool writeToURL(const QUrl& url, const QString& ofType, DocumentError* error = nullptr);
-  /// The shown picture as bytes of a type. For EPS it asks whether a preview is wanted. Every failure (no bytes, a type
-  /// that is not written, "Cancel") throws UnimplementedMethod; `error` is never delivered.
+  /// The shown picture as bytes of a type. For EPS it asks whether a preview is wanted. Every failure (no
+  /// bytes, a type that is not written, "Cancel") throws UnimplementedMethod; `error` is never delivered.
   QByteArray dataOfType(const QString& type, DocumentError* error = nullptr);
-  /// Shows the questions; not owned, outlives the document. Null: nobody can be asked, which counts as "Cancel".
+  /// Shows the questions; not owned, outlives the document. Null: nobody can be asked, which counts as
+  /// "Cancel".
   void setAlertPresenter(AlertPresenter* presenter) { alerts_ = presenter; }
   /// Compressed SVG bytes on their way from writeToURL() to dataOfType(); otherwise nothing.
   [[nodiscard]] const std::optional<QByteArray>& compressedData() const { return compressedData_; }
 
   // ---- printing
-  /// Of a new document: the page layout that was confirmed last, in whatever document; the defaults without one.
+  /// Of a new document: the page layout that was confirmed last, in whatever document; the defaults without
+  /// one.
   [[nodiscard]] const NSPrintInfo& printInfo() const { return printInfo_; }
   /// Nothing of it can be undone: no undo action is registered.
   void setPrintInfo(const NSPrintInfo& info) { printInfo_ = info; }
   /// The printers, and who asks; the pictures are the document's own. Not owned, outlive the document.
   void setPrintServices(const PrintServices& services);
-  /// Opens the page-layout sheet with the document's settings; when their printer is gone, with the shared ones.
-  /// Nothing happens while nobody can be asked.
+  /// Opens the page-layout sheet with the document's settings; when their printer is gone, with the shared
+  /// ones. Nothing happens while nobody can be asked.
   void runPageLayout(QObject* sender = nullptr);
-  /// Return code 1 (confirmed): the sheet's settings become the document's and are remembered for later documents.
+  /// Return code 1 (confirmed): the sheet's settings become the document's and are remembered for later
+  /// documents.
   void pageLayoutDidEnd(const NSPrintInfo& pageLayout, int returnCode, void* contextInfo = nullptr);
-  /// Prints the picture of the window as it is turned. The given settings win over the document's; they are this job's
-  /// alone. Null without a window; `error` is never set.
+  /// Prints the picture of the window as it is turned. The given settings win over the document's; they are
+  /// this job's alone. Null without a window; `error` is never set.
   [[nodiscard]] std::unique_ptr<NSPrintOperation> printOperationWithSettings(const QVariantMap& settings,
                                                                              DocumentError* error = nullptr);
 

@@ -6,8 +6,8 @@
 #include <optional>
 #include <utility>
 
-#include "document/unimplemented_method.h"
 #include "base/localized_string.h"
+#include "document/unimplemented_method.h"
 #include "picture/document_file.h"
 #include "types/type_identification.h"
 

@@ -8,8 +8,8 @@
 #include <QThreadPool>
 #include <QUrl>
 
-#include "document/document.h"
 #include "base/cancel_token.h"
+#include "document/document.h"
 
 namespace norvex {
 

@@ -1,4 +1,5 @@
-// The printing half of Document: its settings, the page-layout sheet, and the print operation of its window's view.
+// The printing half of Document: its settings, the page-layout sheet, and the print operation of its window's
+// view.
 #include <QPointer>
 #include <QSettings>
 
@@ -53,8 +54,8 @@ std::unique_ptr<NSPrintOperation> Document::printOperationWithSettings(const QVa
   Q_UNUSED(error)
   NorvexView* const view = windowController_ ? windowController_->imageView() : nullptr;
   if (!view) return nullptr;
-  auto operation = NSPrintOperation::printOperationWithView(std::make_unique<PrintableNorvexView>(*view), printInfo_,
-                                                            printServices_);
+  auto operation = NSPrintOperation::printOperationWithView(std::make_unique<PrintableNorvexView>(*view),
+                                                            printInfo_, printServices_);
   view->setPrintJobTitle(norvex::printJobTitle(fileURL_, displayName()));
   view->setTitle(printPageTitle(fileURL_, displayName()));
   NSPrintPanel& panel = operation->printPanel();

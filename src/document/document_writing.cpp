@@ -3,13 +3,13 @@
 
 #include <array>
 
-#include "document/document.h"
-#include "document/picture_producers.h"
-#include "document/unimplemented_method.h"
-#include "desktop/alert.h"
 #include "base/atomic_file.h"
 #include "base/bundle.h"
 #include "base/localized_string.h"
+#include "desktop/alert.h"
+#include "document/document.h"
+#include "document/picture_producers.h"
+#include "document/unimplemented_method.h"
 #include "picture/web_image_rep.h"
 #include "types/uniform_type.h"
 
@@ -39,7 +39,9 @@ QByteArray plainFormat(PictureProducers& producers, const QString& type) {
 
 }  // namespace
 
-PictureProducers* Document::producers() const { return windowController_ ? windowController_->producers() : nullptr; }
+PictureProducers* Document::producers() const {
+  return windowController_ ? windowController_->producers() : nullptr;
+}
 
 bool Document::writeToURL(const QUrl& url, const QString& ofType, DocumentError* error) {
   const QString extension = QFileInfo(url.path()).suffix().toLower();
@@ -51,7 +53,8 @@ bool Document::writeToURL(const QUrl& url, const QString& ofType, DocumentError*
   const QByteArray bytes = dataOfType(ofType, error);
   if (!mayReplace(url)) return false;
   const Result<void> written = writeFileAtomically(url.toLocalFile(), bytes, IfExists::Replace);
-  if (!written && error) *error = {errorDomain(), int(DocumentErrorCode::NoDataProduced), written.error().message};
+  if (!written && error)
+    *error = {errorDomain(), int(DocumentErrorCode::NoDataProduced), written.error().message};
   return written.ok();
 }
 
@@ -88,9 +91,13 @@ QByteArray Document::encapsulatedPostScript(PictureProducers& made, QString* fai
   question.informativeText = localizedString("Is the preview added the occasion where it writes out?");
   question.buttons = {localizedString(plain), localizedString("Cancel"), localizedString("With preview")};
   switch (alerts_ ? alerts_->runModal(question) : Cancel) {
-    case Cancel: *failure = localizedString("Canceled."); return {};
-    case WithPreview: return made.postScriptDataWithPreview();
-    default: return made.postScriptData();
+    case Cancel:
+      *failure = localizedString("Canceled.");
+      return {};
+    case WithPreview:
+      return made.postScriptDataWithPreview();
+    default:
+      return made.postScriptData();
   }
 }
 

@@ -1,5 +1,5 @@
-// The seam between document writing and what turns the shown picture into bytes: so that writing is tested without a
-// picture. The operations are the window controller's; each returns the bytes, or none.
+// The seam between document writing and what turns the shown picture into bytes: so that writing is tested
+// without a picture. The operations are the window controller's; each returns the bytes, or none.
 #pragma once
 
 #include <QByteArray>

@@ -7,9 +7,9 @@
 #include <memory>
 #include <optional>
 
-#include "protocol/bitmap_image_rep.h"
 #include "base/cancel_token.h"
 #include "picture/image_rep.h"
+#include "protocol/bitmap_image_rep.h"
 
 namespace norvex {
 

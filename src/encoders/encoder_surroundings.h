@@ -32,7 +32,7 @@ struct EncoderSurroundings {
   /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
   std::optional<PictureRegion> region;
   bool isLastUse = false;  ///< of the picture: its process may go when nothing is left to ask
-  bool onePage = false;  ///< hand out the shown page of a PDF, not the whole file
+  bool onePage = false;    ///< hand out the shown page of a PDF, not the whole file
 };
 
 /// The user's, the locale's and the program's own values; the colour space is sRGB. "Now" is the

@@ -63,8 +63,8 @@ Pixels pixelsOf(const NSBitmapImageRep& raster) {
   return pixels;
 }
 
-/// The transparent pixels are not left to the quantiser, which would average them with others: they get an index of
-/// their own.
+/// The transparent pixels are not left to the quantiser, which would average them with others: they get an
+/// index of their own.
 Indexed quantise(const NSBitmapImageRep& raster) {
   const Pixels pixels = pixelsOf(raster);
   std::unique_ptr<liq_attr, AttrDeleter> attr(liq_attr_create());

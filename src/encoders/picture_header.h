@@ -9,8 +9,9 @@
 
 namespace norvex {
 
-/// Read afresh from the picture's source or facts; no preview is decoded. Empty for no picture. `locale` words the
-/// dates of a PDF. Thread-safe.
-[[nodiscard]] HeaderDictionary pictureHeader(const NSImageRep* imageRep, const QLocale& locale = userDateLocale());
+/// Read afresh from the picture's source or facts; no preview is decoded. Empty for no picture. `locale`
+/// words the dates of a PDF. Thread-safe.
+[[nodiscard]] HeaderDictionary pictureHeader(const NSImageRep* imageRep,
+                                             const QLocale& locale = userDateLocale());
 
 }  // namespace norvex

@@ -30,9 +30,9 @@ void unpremultiplyRow(const uchar* from, uchar* to, int pixels) {
   }
 }
 
-/// Trying every filter on a row takes longer than packing it, and much of a drawing is paper: an empty row is left
-/// as it is, and one like the row above it is nothing but zeros as the difference from it. The first row (nothing
-/// is above it) must not do with less: libpng only keeps what the filters of that one take.
+/// Trying every filter on a row takes longer than packing it, and much of a drawing is paper: an empty row is
+/// left as it is, and one like the row above it is nothing but zeros as the difference from it. The first row
+/// (nothing is above it) must not do with less: libpng only keeps what the filters of that one take.
 int filtersFor(const uchar* row, const uchar* rowAbove, size_t bytes) {
   if (rowAbove == nullptr) return PNG_ALL_FILTERS;
   if (row[0] == 0 && std::memcmp(row, row + 1, bytes - 1) == 0) return PNG_FILTER_NONE;

@@ -20,8 +20,8 @@ struct EpsBoundingBoxes {
 /// comment falls back to the first one anywhere. Corners in the wrong order are put right. Thread-safe.
 [[nodiscard]] EpsBoundingBoxes epsBoundingBoxes(QByteArrayView source);
 
-/// The box in which a picture with these boxes is shown: %%BoundingBox, in its absence %%HiResBoundingBox grown to
-/// whole points.
+/// The box in which a picture with these boxes is shown: %%BoundingBox, in its absence %%HiResBoundingBox
+/// grown to whole points.
 [[nodiscard]] std::optional<QRectF> epsPictureBox(const EpsBoundingBoxes& boxes);
 
 }  // namespace norvex

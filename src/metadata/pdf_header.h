@@ -3,9 +3,9 @@
 
 #include <QLocale>
 
+#include "base/result.h"
 #include "metadata/full_date.h"
 #include "metadata/header_dictionary.h"
-#include "base/result.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex {

@@ -1,4 +1,5 @@
-// A raster as an image of the screen, and back. Apart from NSBitmapImageRep: the picture process does without Qt Gui.
+// A raster as an image of the screen, and back. Apart from NSBitmapImageRep: the picture process does without
+// Qt Gui.
 #pragma once
 
 #include <QImage>

@@ -3,13 +3,13 @@
 #include <QThread>
 #include <QtConcurrent>
 
+#include "base/waiting_threads.h"
 #include "picture/document_file.h"
 #include "picture/eps_image_rep.h"
 #include "picture/pdf_image_rep.h"
 #include "picture/web_image_rep.h"
 #include "types/type_identification.h"
 #include "types/uniform_type.h"
-#include "base/waiting_threads.h"
 
 namespace norvex {
 namespace {
@@ -74,15 +74,16 @@ QFuture<Result<LoadedPicture>> loadPictureLater(PictureService& service, const P
 
 QFuture<Result<LoadedPicture>> loadPictureFile(PictureService& service, const QUrl& fileURL,
                                                const QString& typeIdentifier, const PictureLimits& limits) {
-  return QtConcurrent::run(&waitingThreads(), [home = QThread::currentThread(), &service, fileURL, typeIdentifier,
+  return QtConcurrent::run(&waitingThreads(),
+                           [home = QThread::currentThread(), &service, fileURL, typeIdentifier,
                             limits]() -> Result<LoadedPicture> {
-    const Result<QByteArray> bytes = readDocumentFile(fileURL.toLocalFile());
-    if (!bytes) return bytes.error();
-    PictureSource source{*bytes, typeIdentifier, fileURL, 0};
-    if (typeIdentifier.isEmpty())
-      source.typeIdentifier = identifyType(*bytes, fileURL.fileName()).identifier();
-    return loadFor(home, service, source, limits);
-  });
+                             const Result<QByteArray> bytes = readDocumentFile(fileURL.toLocalFile());
+                             if (!bytes) return bytes.error();
+                             PictureSource source{*bytes, typeIdentifier, fileURL, 0};
+                             if (typeIdentifier.isEmpty())
+                               source.typeIdentifier = identifyType(*bytes, fileURL.fileName()).identifier();
+                             return loadFor(home, service, source, limits);
+                           });
 }
 
 }  // namespace norvex

@@ -5,8 +5,8 @@
 
 #include <optional>
 
-#include "metadata/header_dictionary.h"
 #include "base/result.h"
+#include "metadata/header_dictionary.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex {

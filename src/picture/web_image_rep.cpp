@@ -5,10 +5,10 @@
 
 #include <utility>
 
+#include "base/waiting_threads.h"
 #include "picture/document_file.h"
 #include "picture/gzip_stream.h"
 #include "picture/pdf_image_rep.h"
-#include "base/waiting_threads.h"
 
 namespace norvex {
 namespace {
@@ -128,8 +128,8 @@ void ZyWebImageRep::loadPDFImageRep() {
         QtFuture::makeReadyFuture(Result<PictureBytes>(PictureBytes{pdfImageRep_->sourceBytes(), {}})));
     return;
   }
-  watcher->setFuture(
-      QtConcurrent::run(&waitingThreads(), [open = process(), cancel = cancelPDF_] { return open->pdf({}, cancel); }));
+  watcher->setFuture(QtConcurrent::run(
+      &waitingThreads(), [open = process(), cancel = cancelPDF_] { return open->pdf({}, cancel); }));
 }
 
 void ZyWebImageRep::finishPDFImageRep(const Result<PictureBytes>& pdf) {

@@ -6,7 +6,8 @@
 
 namespace norvex {
 
-Result<QImage> pageImage(const PageImageRequest& request, PictureService& service, const CancelToken& cancel) {
+Result<QImage> pageImage(const PageImageRequest& request, PictureService& service,
+                         const CancelToken& cancel) {
   NSPrintInfo info = request.info;
   info.setPageRange(request.page, request.page);
   const Result<QByteArray> sheet = composeJob(request.source, info, service, request.picture, cancel);

@@ -8,11 +8,11 @@
 namespace norvex {
 namespace {
 
-constexpr double kTolerance = 0.01;   // points on paper that make no page of their own
-constexpr double kLineBand = 36;      // what a header or footer takes of the paper at least
+constexpr double kTolerance = 0.01;  // points on paper that make no page of their own
+constexpr double kLineBand = 36;     // what a header or footer takes of the paper at least
 constexpr double kLineHeight = 12;
-constexpr double kLineInset = 18;     // from the sheet's edge, where the margin is smaller
-constexpr double kLeastRoom = 1;      // points
+constexpr double kLineInset = 18;  // from the sheet's edge, where the margin is smaller
+constexpr double kLeastRoom = 1;   // points
 
 /// One direction: of the picture in points, with the room on a page.
 struct Axis {
@@ -45,7 +45,8 @@ Span spanOf(const Axis& axis, double scale, int pages, int page) {
 PageTile tileOf(const Span& x, const Span& y, const QRectF& imageable, double pictureHeight, double scale) {
   const QSizeF size(x.sourceLength, y.sourceLength);
   const QPointF source(x.sourceStart, pictureHeight - y.sourceStart - y.sourceLength);
-  const QPointF target(imageable.left() + x.targetStart, imageable.bottom() - y.targetStart - size.height() * scale);
+  const QPointF target(imageable.left() + x.targetStart,
+                       imageable.bottom() - y.targetStart - size.height() * scale);
   return {QRectF(source, size), QRectF(target, size * scale)};
 }
 
@@ -77,17 +78,21 @@ Result<Pagination> paginate(const QSizeF& picture, const NSPrintInfo& info, bool
     pages.tiles = {PageTile{}};
     return pages;
   }
-  const Axis x{picture.width(), pages.imageable.width(), info.horizontalPagination(), info.isHorizontallyCentered()};
-  const Axis y{picture.height(), pages.imageable.height(), info.verticalPagination(), info.isVerticallyCentered()};
+  const Axis x{picture.width(), pages.imageable.width(), info.horizontalPagination(),
+               info.isHorizontallyCentered()};
+  const Axis y{picture.height(), pages.imageable.height(), info.verticalPagination(),
+               info.isVerticallyCentered()};
   pages.scale = std::min({info.scalingFactor(), x.fittingScale(), y.fittingScale()});
   if (x.pages(pages.scale) * y.pages(pages.scale) > maximumSheets)
-    return Error{ErrorKind::Limit, QStringLiteral("the picture would take more than %1 sheets of paper").arg(maximumSheets)};
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the picture would take more than %1 sheets of paper").arg(maximumSheets)};
   pages.columns = int(x.pages(pages.scale));
   pages.rows = int(y.pages(pages.scale));
   for (int row = 0; row < pages.rows; ++row)
     for (int column = 0; column < pages.columns; ++column)
-      pages.tiles << tileOf(spanOf(x, pages.scale, pages.columns, column), spanOf(y, pages.scale, pages.rows, row),
-                            pages.imageable, picture.height(), pages.scale);
+      pages.tiles << tileOf(spanOf(x, pages.scale, pages.columns, column),
+                            spanOf(y, pages.scale, pages.rows, row), pages.imageable, picture.height(),
+                            pages.scale);
   return pages;
 }
 

@@ -7,13 +7,13 @@
 
 #include <optional>
 
-#include "print/print_info.h"
 #include "base/result.h"
+#include "print/print_info.h"
 
 namespace norvex {
 
-/// One page: `source` of the picture is drawn as `target` of the sheet. Points, y up, origins at the lower-left corners
-/// of the picture and of the sheet. A page without anything on it has an empty target.
+/// One page: `source` of the picture is drawn as `target` of the sheet. Points, y up, origins at the
+/// lower-left corners of the picture and of the sheet. A page without anything on it has an empty target.
 struct PageTile {
   QRectF source, target;
 };
@@ -28,12 +28,13 @@ struct Pagination {
   std::optional<QRectF> header, footer;  ///< where the lines are, when there are any
 };
 
-/// Automatic pagination makes as many pages as the picture takes, whose edges meet; Fit makes the picture smaller
-/// (never larger) until that direction takes one page; Clip leaves out what is beyond the first page. A direction that
-/// takes one page is centred when the settings ask for it; otherwise the picture begins at the left and at the top. The
-/// page range of the settings is not looked at. Without a picture (an empty size) there is one blank page.
-/// Fails when the margins leave no room, and for more than maximumSheets pages.
-[[nodiscard]] Result<Pagination> paginate(const QSizeF& picture, const NSPrintInfo& info, bool hasHeader = false,
-                                          bool hasFooter = false);
+/// Automatic pagination makes as many pages as the picture takes, whose edges meet; Fit makes the picture
+/// smaller (never larger) until that direction takes one page; Clip leaves out what is beyond the first page.
+/// A direction that takes one page is centred when the settings ask for it; otherwise the picture begins at
+/// the left and at the top. The page range of the settings is not looked at. Without a picture (an empty
+/// size) there is one blank page. Fails when the margins leave no room, and for more than maximumSheets
+/// pages.
+[[nodiscard]] Result<Pagination> paginate(const QSizeF& picture, const NSPrintInfo& info,
+                                          bool hasHeader = false, bool hasFooter = false);
 
 }  // namespace norvex

@@ -16,7 +16,9 @@ constexpr double kPointsPerUnit = 72.0 / 2540;  // a unit is a hundredth of a mi
 constexpr double kSameSize = 1.5;               // points
 constexpr int kLetterMillimetres = 279;
 
-QSizeF upright(const QSizeF& size) { return size.width() > size.height() ? size.transposed() : size; }
+QSizeF upright(const QSizeF& size) {
+  return size.width() > size.height() ? size.transposed() : size;
+}
 
 Paper paperOf(const pwg_media_t& media, const QString& name) {
   const QSizeF size(media.width * kPointsPerUnit, media.length * kPointsPerUnit);
@@ -32,7 +34,8 @@ bool isSameSize(const QSizeF& a, const QSizeF& b) {
 const QList<Paper>& commonPapers() {
   static const QList<Paper> papers = [] {
     QList<Paper> made;
-    for (const char* name : {"A4", "A3", "A5", "A6", "A2", "A1", "A0", "Letter", "Legal", "Tabloid", "Executive", "B4", "B5"})
+    for (const char* name :
+         {"A4", "A3", "A5", "A6", "A2", "A1", "A0", "Letter", "Legal", "Tabloid", "Executive", "B4", "B5"})
       if (const pwg_media_t* media = pwgMediaForPPD(name)) made << paperOf(*media, QString::fromLatin1(name));
     return made;
   }();
@@ -42,7 +45,9 @@ const QList<Paper>& commonPapers() {
 std::optional<Paper> paperNamed(const QString& name) {
   const QString wanted = name.trimmed();
   for (const Paper& paper : commonPapers())
-    if (!paper.name.compare(wanted, Qt::CaseInsensitive) || !paper.keyword.compare(wanted, Qt::CaseInsensitive)) return paper;
+    if (!paper.name.compare(wanted, Qt::CaseInsensitive) ||
+        !paper.keyword.compare(wanted, Qt::CaseInsensitive))
+      return paper;
   if (!wanted.contains(u'_') || wanted.size() > 100) return std::nullopt;
   const pwg_media_t* media = pwgMediaForPWG(wanted.toLower().toLatin1().constData());
   if (!media || media->width <= 0 || media->length <= 0) return std::nullopt;
@@ -54,7 +59,8 @@ Paper paperOfSize(const QSizeF& points) {
   for (const Paper& paper : commonPapers())
     if (isSameSize(paper.size, size)) return paper;
   const auto millimetres = [](double value) { return qRound(value / kPointsPerUnit / 100); };
-  const QString measures = QStringLiteral("%1x%2mm").arg(millimetres(size.width())).arg(millimetres(size.height()));
+  const QString measures =
+      QStringLiteral("%1x%2mm").arg(millimetres(size.width())).arg(millimetres(size.height()));
   return {measures, QStringLiteral("custom_norvex_") + measures, size};
 }
 

@@ -19,12 +19,12 @@ struct Paper {
 /// The sizes that every print panel offers, the usual ones first.
 [[nodiscard]] const QList<Paper>& commonPapers();
 
-/// The paper of that name or keyword, whatever its case ("a4", "iso_a4_210x297mm", "custom_x_100x200mm"). Nothing for
-/// a name that is none.
+/// The paper of that name or keyword, whatever its case ("a4", "iso_a4_210x297mm", "custom_x_100x200mm").
+/// Nothing for a name that is none.
 [[nodiscard]] std::optional<Paper> paperNamed(const QString& name);
 
-/// The common paper of that size (upright or lying, to within half a millimetre), otherwise one without a name of its
-/// own.
+/// The common paper of that size (upright or lying, to within half a millimetre), otherwise one without a
+/// name of its own.
 [[nodiscard]] Paper paperOfSize(const QSizeF& points);
 
 /// What the user's locale (LC_ALL, LC_PAPER, LANG) says of paper: A4 or Letter.

@@ -47,17 +47,24 @@ bool NSPrintInfo::flag(const char* key, bool otherwise) const {
 }
 
 NSPrintingPaginationMode NSPrintInfo::mode(const char* key) const {
-  return NSPrintingPaginationMode(integer(key, int(NSPrintingPaginationMode::Automatic), int(NSPrintingPaginationMode::Clip),
+  return NSPrintingPaginationMode(integer(key, int(NSPrintingPaginationMode::Automatic),
+                                          int(NSPrintingPaginationMode::Clip),
                                           int(NSPrintingPaginationMode::Automatic)));
 }
 
-NSPaperOrientation NSPrintInfo::orientation() const { return NSPaperOrientation(integer(NSPrintOrientation, 0, 1, 0)); }
+NSPaperOrientation NSPrintInfo::orientation() const {
+  return NSPaperOrientation(integer(NSPrintOrientation, 0, 1, 0));
+}
 
-void NSPrintInfo::setOrientation(NSPaperOrientation orientation) { set(NSPrintOrientation, int(orientation)); }
+void NSPrintInfo::setOrientation(NSPaperOrientation orientation) {
+  set(NSPrintOrientation, int(orientation));
+}
 
 QMarginsF NSPrintInfo::margins() const {
-  return {number(NSPrintLeftMargin, 0, largestMargin, kSideMargin), number(NSPrintTopMargin, 0, largestMargin, kOtherMargin),
-          number(NSPrintRightMargin, 0, largestMargin, kSideMargin), number(NSPrintBottomMargin, 0, largestMargin, kOtherMargin)};
+  return {number(NSPrintLeftMargin, 0, largestMargin, kSideMargin),
+          number(NSPrintTopMargin, 0, largestMargin, kOtherMargin),
+          number(NSPrintRightMargin, 0, largestMargin, kSideMargin),
+          number(NSPrintBottomMargin, 0, largestMargin, kOtherMargin)};
 }
 
 Paper NSPrintInfo::paper() const {
@@ -70,13 +77,21 @@ QSizeF NSPrintInfo::paperSize() const {
   return orientation() == NSPaperOrientation::Landscape ? size.transposed() : size;
 }
 
-double NSPrintInfo::scalingFactor() const { return number(NSPrintScalingFactor, smallestScalingFactor, largestScalingFactor, 1); }
+double NSPrintInfo::scalingFactor() const {
+  return number(NSPrintScalingFactor, smallestScalingFactor, largestScalingFactor, 1);
+}
 
-QString NSPrintInfo::printerName() const { return value(NSPrintPrinterName).toString(); }
+QString NSPrintInfo::printerName() const {
+  return value(NSPrintPrinterName).toString();
+}
 
-int NSPrintInfo::copies() const { return integer(NSPrintCopies, 1, largestCopies, 1); }
+int NSPrintInfo::copies() const {
+  return integer(NSPrintCopies, 1, largestCopies, 1);
+}
 
-int NSPrintInfo::firstPage() const { return printsAllPages() ? 1 : integer(NSPrintFirstPage, 1, kMostPages, 1); }
+int NSPrintInfo::firstPage() const {
+  return printsAllPages() ? 1 : integer(NSPrintFirstPage, 1, kMostPages, 1);
+}
 
 int NSPrintInfo::lastPage() const {
   return printsAllPages() ? kMostPages : integer(NSPrintLastPage, 1, kMostPages, kMostPages);
@@ -88,7 +103,9 @@ void NSPrintInfo::setPageRange(int first, int last) {
   set(NSPrintLastPage, last);
 }
 
-QString NSPrintInfo::jobSavingPath() const { return value(NSPrintJobSavingPath).toString(); }
+QString NSPrintInfo::jobSavingPath() const {
+  return value(NSPrintJobSavingPath).toString();
+}
 
 void NSPrintInfo::addEntries(const QVariantMap& entries) {
   for (auto it = entries.begin(); it != entries.end(); ++it) dictionary_.insert(it.key(), it.value());

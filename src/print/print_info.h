@@ -34,16 +34,17 @@ inline constexpr char NSPrintLastPage[] = "NSLastPage";
 inline constexpr char NSPrintAllPages[] = "NSPrintAllPages";
 inline constexpr char NSPrintJobSavingPath[] = "NSJobSavingPath";
 
-/// A value. The dictionary is the state; the accessors read and write it. A key that is absent, or whose value is of
-/// another type or out of its range, reads as its default, whatever was merged into the dictionary.
+/// A value. The dictionary is the state; the accessors read and write it. A key that is absent, or whose
+/// value is of another type or out of its range, reads as its default, whatever was merged into the
+/// dictionary.
 class NSPrintInfo {
  public:
   static constexpr double smallestScalingFactor = 0.01, largestScalingFactor = 100;
   static constexpr int largestCopies = 999;
   static constexpr double largestMargin = 10000;
 
-  /// The platform's own settings: the locale's paper, upright, a margin of 72 points at the sides and of 90 above and
-  /// below, not scaled, automatic pagination, no header and footer.
+  /// The platform's own settings: the locale's paper, upright, a margin of 72 points at the sides and of 90
+  /// above and below, not scaled, automatic pagination, no header and footer.
   NSPrintInfo() = default;
 
   /// The settings that everything without settings of its own begins with. Main thread only.
@@ -66,9 +67,13 @@ class NSPrintInfo {
   void setVerticallyCentered(bool centered) { set(NSPrintVerticallyCentered, centered); }
   [[nodiscard]] bool isHorizontallyCentered() const { return flag(NSPrintHorizontallyCentered, true); }
   void setHorizontallyCentered(bool centered) { set(NSPrintHorizontallyCentered, centered); }
-  [[nodiscard]] NSPrintingPaginationMode verticalPagination() const { return mode(NSPrintVerticalPagination); }
+  [[nodiscard]] NSPrintingPaginationMode verticalPagination() const {
+    return mode(NSPrintVerticalPagination);
+  }
   void setVerticalPagination(NSPrintingPaginationMode mode) { set(NSPrintVerticalPagination, int(mode)); }
-  [[nodiscard]] NSPrintingPaginationMode horizontalPagination() const { return mode(NSPrintHorizontalPagination); }
+  [[nodiscard]] NSPrintingPaginationMode horizontalPagination() const {
+    return mode(NSPrintHorizontalPagination);
+  }
   void setHorizontalPagination(NSPrintingPaginationMode mode) { set(NSPrintHorizontalPagination, int(mode)); }
   [[nodiscard]] bool printsHeaderAndFooter() const { return flag(NSPrintHeaderAndFooter, false); }
   void setPrintsHeaderAndFooter(bool prints) { set(NSPrintHeaderAndFooter, prints); }
@@ -101,7 +106,9 @@ class NSPrintInfo {
   void addEntries(const QVariantMap& entries);
   void set(const char* key, const QVariant& value) { dictionary_.insert(QString::fromLatin1(key), value); }
 
-  friend bool operator==(const NSPrintInfo& a, const NSPrintInfo& b) { return a.dictionary_ == b.dictionary_; }
+  friend bool operator==(const NSPrintInfo& a, const NSPrintInfo& b) {
+    return a.dictionary_ == b.dictionary_;
+  }
 
  private:
   [[nodiscard]] QVariant value(const char* key) const { return dictionary_.value(QString::fromLatin1(key)); }

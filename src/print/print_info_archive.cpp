@@ -20,12 +20,18 @@ struct Entry {
   Type type;
 };
 constexpr Entry kEntries[] = {
-    {NSPrintOrientation, Type::Number},         {NSPrintLeftMargin, Type::Number},
-    {NSPrintRightMargin, Type::Number},         {NSPrintTopMargin, Type::Number},
-    {NSPrintBottomMargin, Type::Number},        {NSPrintVerticallyCentered, Type::Flag},
-    {NSPrintHorizontallyCentered, Type::Flag},  {NSPrintVerticalPagination, Type::Number},
-    {NSPrintHorizontalPagination, Type::Number}, {NSPrintHeaderAndFooter, Type::Flag},
-    {NSPrintPaperName, Type::Text},             {NSPrintScalingFactor, Type::Number},
+    {NSPrintOrientation, Type::Number},
+    {NSPrintLeftMargin, Type::Number},
+    {NSPrintRightMargin, Type::Number},
+    {NSPrintTopMargin, Type::Number},
+    {NSPrintBottomMargin, Type::Number},
+    {NSPrintVerticallyCentered, Type::Flag},
+    {NSPrintHorizontallyCentered, Type::Flag},
+    {NSPrintVerticalPagination, Type::Number},
+    {NSPrintHorizontalPagination, Type::Number},
+    {NSPrintHeaderAndFooter, Type::Flag},
+    {NSPrintPaperName, Type::Text},
+    {NSPrintScalingFactor, Type::Number},
     {NSPrintPrinterName, Type::Text},
 };
 
@@ -57,7 +63,8 @@ std::optional<NSPrintInfo> unarchivedPrintInfo(const QByteArray& archive) {
   if (archive.isEmpty() || archive.size() > kMostBytes) return std::nullopt;
   QCborParserError error;
   const QCborValue root = QCborValue::fromCbor(archive, &error);
-  if (error.error != QCborError::NoError || error.offset != archive.size() || !root.isMap()) return std::nullopt;
+  if (error.error != QCborError::NoError || error.offset != archive.size() || !root.isMap())
+    return std::nullopt;
   const QCborMap map = root.toMap();
   if (map.value(kVersionKey) != QCborValue(kVersion) || !map.value(kSettingsKey).isMap()) return std::nullopt;
   const QCborMap settings = map.value(kSettingsKey).toMap();

@@ -7,7 +7,9 @@
 namespace norvex {
 namespace {
 
-Error cancelled() { return {ErrorKind::Cancelled, QStringLiteral("the printing was cancelled")}; }
+Error cancelled() {
+  return {ErrorKind::Cancelled, QStringLiteral("the printing was cancelled")};
+}
 
 struct Lines {
   std::optional<PageLine> header, footer;
@@ -68,10 +70,11 @@ Result<QByteArray> composeJob(const PrintSource& source, const NSPrintInfo& info
   return service.composePages(picture, request, cancel);
 }
 
-Result<void> deliverJob(const QByteArray& pdf, const QString& title, const NSPrintInfo& info, PrintSpooler& spooler,
-                        const CancelToken& cancel) {
+Result<void> deliverJob(const QByteArray& pdf, const QString& title, const NSPrintInfo& info,
+                        PrintSpooler& spooler, const CancelToken& cancel) {
   if (cancel.cancelled()) return cancelled();
-  if (!info.jobSavingPath().isEmpty()) return writeFileAtomically(info.jobSavingPath(), pdf, IfExists::Replace);
+  if (!info.jobSavingPath().isEmpty())
+    return writeFileAtomically(info.jobSavingPath(), pdf, IfExists::Replace);
   PrintTicket ticket;
   ticket.printer = info.printerName();
   ticket.title = title;
@@ -82,8 +85,8 @@ Result<void> deliverJob(const QByteArray& pdf, const QString& title, const NSPri
   return job ? Result<void>() : Result<void>(job.error());
 }
 
-Result<void> runJob(const PrintSource& source, const NSPrintInfo& info, PictureService& service, PrintSpooler& spooler,
-                    const CancelToken& cancel) {
+Result<void> runJob(const PrintSource& source, const NSPrintInfo& info, PictureService& service,
+                    PrintSpooler& spooler, const CancelToken& cancel) {
   const Result<QByteArray> picture = pictureOf(source, cancel);
   if (!picture) return picture.error();
   const Result<QByteArray> pdf = composeJob(source, info, service, *picture, cancel);

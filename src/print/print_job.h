@@ -11,18 +11,20 @@
 
 namespace norvex {
 
-/// Where the job's pages are, header and footer included when the settings ask for them and the drawing has them.
+/// Where the job's pages are, header and footer included when the settings ask for them and the drawing has
+/// them.
 [[nodiscard]] Result<Pagination> paginationOf(const PrintSource& source, const NSPrintInfo& info);
 
 /// The drawing's PDF; empty when there is no picture.
 [[nodiscard]] Result<QByteArray> pictureOf(const PrintSource& source, const CancelToken& cancel = {});
 
 /// The pages of the settings' range as one PDF, vectors and text. `picture` is what pictureOf() gave.
-[[nodiscard]] Result<QByteArray> composeJob(const PrintSource& source, const NSPrintInfo& info, PictureService& service,
-                                            const QByteArray& picture, const CancelToken& cancel = {});
+[[nodiscard]] Result<QByteArray> composeJob(const PrintSource& source, const NSPrintInfo& info,
+                                            PictureService& service, const QByteArray& picture,
+                                            const CancelToken& cancel = {});
 
-/// Hands the pages to the printer or writes them to the file that the settings name (whole or not at all; a file that
-/// is there is replaced).
+/// Hands the pages to the printer or writes them to the file that the settings name (whole or not at all; a
+/// file that is there is replaced).
 [[nodiscard]] Result<void> deliverJob(const QByteArray& pdf, const QString& title, const NSPrintInfo& info,
                                       PrintSpooler& spooler, const CancelToken& cancel = {});
 

@@ -10,9 +10,8 @@ NSPrintOperation::NSPrintOperation(std::unique_ptr<PrintableView> view, const NS
                                    const PrintServices& services)
     : view_(std::move(view)), printInfo_(printInfo), services_(services) {}
 
-std::unique_ptr<NSPrintOperation> NSPrintOperation::printOperationWithView(std::unique_ptr<PrintableView> view,
-                                                                           const NSPrintInfo& printInfo,
-                                                                           const PrintServices& services) {
+std::unique_ptr<NSPrintOperation> NSPrintOperation::printOperationWithView(
+    std::unique_ptr<PrintableView> view, const NSPrintInfo& printInfo, const PrintServices& services) {
   return std::unique_ptr<NSPrintOperation>(new NSPrintOperation(std::move(view), printInfo, services));
 }
 
@@ -41,7 +40,8 @@ bool NSPrintOperation::runOperation() {
   }
   thread_.reset(QThread::create([this, work] {
     const Result<void> result = work();
-    QMetaObject::invokeMethod(this, [this, result] { end(result); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, result] { end(result); }, Qt::QueuedConnection);
   }));
   thread_->start();
   return true;

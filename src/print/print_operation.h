@@ -9,9 +9,9 @@
 #include <optional>
 
 #include "base/cancel_token.h"
+#include "base/result.h"
 #include "print/print_info.h"
 #include "print/printable_view.h"
-#include "base/result.h"
 
 class QThread;
 
@@ -47,11 +47,12 @@ class PrintInteraction {
 
   /// Lets a person change the operation's settings. False: the job shall not be printed.
   virtual bool runPrintPanel(NSPrintOperation& operation) = 0;
-  /// Opens the page-layout sheet on the window with a copy of these settings and returns; `end` is told the sheet's
-  /// settings and 1 when it was confirmed, 0 otherwise.
-  virtual void beginPageLayout(const NSPrintInfo& printInfo, std::function<void(const NSPrintInfo&, int)> end) = 0;
-  /// A job runs now; cancelling the token ends it. Gives the job a number of its own: several may run at a time, under
-  /// one title.
+  /// Opens the page-layout sheet on the window with a copy of these settings and returns; `end` is told the
+  /// sheet's settings and 1 when it was confirmed, 0 otherwise.
+  virtual void beginPageLayout(const NSPrintInfo& printInfo,
+                               std::function<void(const NSPrintInfo&, int)> end) = 0;
+  /// A job runs now; cancelling the token ends it. Gives the job a number of its own: several may run at a
+  /// time, under one title.
   virtual int jobDidBegin(const QString& title, const CancelToken& cancel) = 0;
   /// The job of that number is printed or written, or it failed with a plain sentence.
   virtual void jobDidEnd(int job, const QString& title, const Result<void>& result) = 0;
@@ -85,18 +86,21 @@ class NSPrintOperation final : public QObject {
   void setCanSpawnSeparateThread(bool can) { canSpawnSeparateThread_ = can; }
   void setCancelToken(const CancelToken& cancel) { cancel_ = cancel; }
 
-  /// Shows the panel (where there is somebody to ask) and runs the job. False: it was dismissed in the panel, or failed
-  /// here and now. With a thread of its own it returns when that has begun; finished() tells the end. Call once.
+  /// Shows the panel (where there is somebody to ask) and runs the job. False: it was dismissed in the panel,
+  /// or failed here and now. With a thread of its own it returns when that has begun; finished() tells the
+  /// end. Call once.
   bool runOperation();
   /// How the job ended; nothing before it has.
   [[nodiscard]] const std::optional<Result<void>>& result() const { return result_; }
 
  signals:
-  /// The job is over (or was dismissed in the panel). The operation may be destroyed from here with deleteLater().
+  /// The job is over (or was dismissed in the panel). The operation may be destroyed from here with
+  /// deleteLater().
   void finished();
 
  private:
-  NSPrintOperation(std::unique_ptr<PrintableView> view, const NSPrintInfo& printInfo, const PrintServices& services);
+  NSPrintOperation(std::unique_ptr<PrintableView> view, const NSPrintInfo& printInfo,
+                   const PrintServices& services);
   void end(const Result<void>& result);
 
   std::unique_ptr<PrintableView> view_;

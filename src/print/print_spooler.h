@@ -1,4 +1,5 @@
-// The seam before the print service: so that printing is tested without one, and so that nothing above it knows CUPS.
+// The seam before the print service: so that printing is tested without one, and so that nothing above it
+// knows CUPS.
 #pragma once
 
 #include <QByteArray>
@@ -29,17 +30,18 @@ struct PrintTicket {
   bool landscape = false;
 };
 
-/// Thread-safe. Calls block, but no longer than some seconds where nobody answers, and come back soon when they are
-/// cancelled. Errors are plain sentences: CannotWrite when the service cannot be reached or does not answer, there is
-/// no such printer, it takes no jobs, wants a password, or the job could not be handed over whole (then there is none);
-/// Cancelled.
+/// Thread-safe. Calls block, but no longer than some seconds where nobody answers, and come back soon when
+/// they are cancelled. Errors are plain sentences: CannotWrite when the service cannot be reached or does not
+/// answer, there is no such printer, it takes no jobs, wants a password, or the job could not be handed over
+/// whole (then there is none); Cancelled.
 class PrintSpooler {
  public:
   virtual ~PrintSpooler() = default;
 
   virtual Result<QList<Printer>> printers(const CancelToken& cancel = {}) = 0;
   /// Hands a PDF over; the job's number.
-  virtual Result<int> print(const PrintTicket& ticket, const QByteArray& pdf, const CancelToken& cancel = {}) = 0;
+  virtual Result<int> print(const PrintTicket& ticket, const QByteArray& pdf,
+                            const CancelToken& cancel = {}) = 0;
 };
 
 /// The printer of that identifier (empty: the default one); why there is none otherwise.
@@ -52,7 +54,9 @@ class PrintSpooler {
 class NullPrintSpooler final : public PrintSpooler {
  public:
   Result<QList<Printer>> printers(const CancelToken&) override { return unreachable(); }
-  Result<int> print(const PrintTicket&, const QByteArray&, const CancelToken&) override { return unreachable(); }
+  Result<int> print(const PrintTicket&, const QByteArray&, const CancelToken&) override {
+    return unreachable();
+  }
 
   [[nodiscard]] static Error unreachable() {
     return {ErrorKind::CannotWrite, QStringLiteral("the print service cannot be reached")};

@@ -13,8 +13,8 @@
 
 namespace norvex {
 
-/// A view as it is at one moment: what a job prints does not change while it runs. A value; the functions run on any
-/// thread.
+/// A view as it is at one moment: what a job prints does not change while it runs. A value; the functions run
+/// on any thread.
 struct PrintSource {
   QSizeF size;  ///< of the drawing, points; empty: there is none
   QString jobTitle;

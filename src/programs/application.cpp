@@ -2,15 +2,15 @@
 #include <memory>
 #include <utility>
 
+#include "application/application.h"
+#include "application/document_application.h"
+#include "application/string_tables.h"
 #include "cli/command_line.h"
 #include "cli/printing_job.h"
 #include "picture/client/worker_service.h"
-#include "ui/panels/alert_box.h"
-#include "application/application.h"
-#include "application/document_application.h"
 #include "programs/application_entry.h"
+#include "ui/panels/alert_box.h"
 #include "window/main_window_controller.h"
-#include "application/string_tables.h"
 
 namespace norvex {
 namespace {

@@ -84,7 +84,8 @@ ExpectedPictures expectedPictures(int argc, const char* const* argv) {
   if (command == "convert") return expectedConversions(argc, argv);
   if (command == "preview") return {};
   ExpectedPictures expected;
-  if (command != "info" && command != "source") expected.needs = allPictureNeeds;
+  if (command != "info" && command != "source")
+    expected.needs = allPictureNeeds;
   else
     for (int i = 2; i < argc; ++i) expected.needs |= needsOfFile(argv[i], PictureUse::Drawing);
   return expected;

@@ -18,8 +18,8 @@ namespace {
 
 constexpr char kCommands[] = "norvex-commands.so";
 
-/// Whoever starts us may have closed them. Nothing that we open shall get their numbers, and their use shall fail as
-/// that of closed ones does.
+/// Whoever starts us may have closed them. Nothing that we open shall get their numbers, and their use shall
+/// fail as that of closed ones does.
 void occupyStandardStreams() {
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream)
     if (::fcntl(stream, F_GETFD) < 0) (void)::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
@@ -50,7 +50,8 @@ norvex::StartedPrograms startPrograms(const norvex::ExpectedPictures& expected) 
   return started;
 }
 
-/// The end of a command. Its files are closed by now; what libraries would still tidy up goes with their memory.
+/// The end of a command. Its files are closed by now; what libraries would still tidy up goes with their
+/// memory.
 int leave(int code) {
 #ifndef NORVEX_INSTRUMENTED  // leaks and coverage are told on the way out
   std::fflush(nullptr);

@@ -1,6 +1,6 @@
 // norvex-worker: the picture process. See worker/worker_program.h.
-#include "worker/postscript/distiller.h"
 #include "worker/engine_modules.h"
+#include "worker/postscript/distiller.h"
 #include "worker/worker_program.h"
 
 int main(int argc, char** argv) {

@@ -2,7 +2,9 @@
 
 namespace norvex {
 
-qsizetype NSBitmapImageRep::bytesPerPlane() const { return qsizetype(bytesPerRow) * pixelsHigh; }
+qsizetype NSBitmapImageRep::bytesPerPlane() const {
+  return qsizetype(bytesPerRow) * pixelsHigh;
+}
 
 bool NSBitmapImageRep::isConsistent() const {
   if (pixelsWide <= 0 || pixelsHigh <= 0 || bytesPerRow <= 0) return false;

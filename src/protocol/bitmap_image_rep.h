@@ -12,9 +12,9 @@ inline constexpr char NSCalibratedWhiteColorSpace[] = "NSCalibratedWhiteColorSpa
 inline constexpr char NSCalibratedRGBColorSpace[] = "NSCalibratedRGBColorSpace";
 inline constexpr char NSDeviceCMYKColorSpace[] = "NSDeviceCMYKColorSpace";
 
-/// A raster: a value, cheap to copy (the bytes are shared). Rows run top to bottom; the samples of a pixel are
-/// interleaved (planar is told by isPlanar, and only readers of foreign data ever meet it).
-/// INVARIANT after isConsistent(): data.size() >= bytesPerRow × pixelsHigh × (isPlanar ? samplesPerPixel : 1).
+/// A raster: a value, cheap to copy (the bytes are shared). Rows run top to bottom; the samples of a pixel
+/// are interleaved (planar is told by isPlanar, and only readers of foreign data ever meet it). INVARIANT
+/// after isConsistent(): data.size() >= bytesPerRow × pixelsHigh × (isPlanar ? samplesPerPixel : 1).
 struct NSBitmapImageRep {
   int pixelsWide = 0;
   int pixelsHigh = 0;

@@ -181,7 +181,8 @@ AttributesRequest attributesFrom(CborFields& fields) {
 std::optional<SheetLine> lineFrom(CborFields& outer, Key key) {
   if (!outer.has(key)) return std::nullopt;
   CborFields fields = outer.fields(key);
-  const SheetLine line{fields.text(Key("text"), maximumSentenceLength), fields.rect(Key("rect"), maximumCoordinate)};
+  const SheetLine line{fields.text(Key("text"), maximumSentenceLength),
+                       fields.rect(Key("rect"), maximumCoordinate)};
   if (!fields.complete()) outer.fail();
   return line;
 }

@@ -1,10 +1,11 @@
-// The line between the window (or the command line) and the picture process: every request and reply there is.
+// The line between the window (or the command line) and the picture process: every request and reply there
+// is.
 //
-// Transport: a SOCK_STREAM socket pair. A message is a 4-byte little-endian length (of the CBOR that follows, at most
-// maximumMessageBytes) and one CBOR map. Everything large (document bytes, bitmaps, PDF and EPS results) travels as
-// a sealed memfd whose descriptor is sent with the message's first byte; a message carries at most one.
-// The parent treats every reply as hostile: decodeReply() and the checks in the client compare every size, count and
-// string with its limit and with the descriptor's real size before use.
+// Transport: a SOCK_STREAM socket pair. A message is a 4-byte little-endian length (of the CBOR that follows,
+// at most maximumMessageBytes) and one CBOR map. Everything large (document bytes, bitmaps, PDF and EPS
+// results) travels as a sealed memfd whose descriptor is sent with the message's first byte; a message
+// carries at most one. The parent treats every reply as hostile: decodeReply() and the checks in the client
+// compare every size, count and string with its limit and with the descriptor's real size before use.
 #pragma once
 
 #include <QByteArray>
@@ -21,39 +22,40 @@
 #include <variant>
 
 #include "base/affine_transform.h"
-#include "protocol/picture_needs.h"
 #include "base/result.h"
+#include "protocol/picture_needs.h"
 
 namespace norvex {
 
 inline constexpr int workerProtocolVersion = 5;
 inline constexpr quint32 maximumMessageBytes = 4u << 20;
 
-// What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge title
-// is shown with a shorter one; the decoders refuse more. Together they stay below maximumMessageBytes.
-inline constexpr int maximumTextLength = 16 << 10;    ///< UTF-16 units of a fact
-inline constexpr int maximumSentenceLength = 1 << 10; ///< of a warning or an error message
+// What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge
+// title is shown with a shorter one; the decoders refuse more. Together they stay below maximumMessageBytes.
+inline constexpr int maximumTextLength = 16 << 10;     ///< UTF-16 units of a fact
+inline constexpr int maximumSentenceLength = 1 << 10;  ///< of a warning or an error message
 inline constexpr int maximumWarnings = 200;
 inline constexpr int maximumAttributes = 32;
-inline constexpr int maximumBoxes = 2000;             ///< of pages, in PictureFacts
-inline constexpr int maximumNames = 100;              ///< of fonts and of colour spaces, in PictureFacts
+inline constexpr int maximumBoxes = 2000;  ///< of pages, in PictureFacts
+inline constexpr int maximumNames = 100;   ///< of fonts and of colour spaces, in PictureFacts
 inline constexpr int maximumNameLength = 256;
 inline constexpr int maximumBitmapSide = 65535;
-inline constexpr double maximumCoordinate = 1.0e7;    ///< points
-inline constexpr double maximumDpi = 1.0e5;           ///< of images in a result
-inline constexpr int maximumSheets = 2000;            ///< of one print job
+inline constexpr double maximumCoordinate = 1.0e7;  ///< points
+inline constexpr double maximumDpi = 1.0e5;         ///< of images in a result
+inline constexpr int maximumSheets = 2000;          ///< of one print job
 
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
 enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
 
 /// What an engine may use up for one document. See worker/limits.h for the attacks that they stop.
 struct PictureLimits {
-  int seconds = 120;         ///< wall time of one request; Default: 120
-  int memoryMiB = 1024;      ///< address space of the process and its child. Default: 1024
-  double megapixels = 100;   ///< largest bitmap. Default: 100
+  int seconds = 120;        ///< wall time of one request; Default: 120
+  int memoryMiB = 1024;     ///< address space of the process and its child. Default: 1024
+  double megapixels = 100;  ///< largest bitmap. Default: 100
 };
 
-// ---- requests -------------------------------------------------------------------------------------------------------
+// ---- requests
+// -------------------------------------------------------------------------------------------------------
 
 /// First request of every document; its bytes travel as the message's memfd.
 struct OpenRequest {
@@ -63,11 +65,12 @@ struct OpenRequest {
 
 enum class RenderPurpose { View = 1, Preview = 2, Export = 3, Print = 4 };
 
-/// Draws a part of a page. Picture coordinates: points, origin at the lower-left corner of the unrotated page, y up.
+/// Draws a part of a page. Picture coordinates: points, origin at the lower-left corner of the unrotated
+/// page, y up.
 struct RenderRequest {
-  int page = 0;                ///< from 0
+  int page = 0;                     ///< from 0
   AffineTransform pictureToDevice;  ///< picture coordinates → pixels of the result (origin top-left, y down)
-  QSize pixelSize;             ///< size of the result; pixels outside the page stay transparent
+  QSize pixelSize;                  ///< size of the result; pixels outside the page stay transparent
   RenderPurpose purpose = RenderPurpose::View;
 };
 
@@ -89,75 +92,82 @@ struct ComposeRequest {
 
 /// The document as SVG text. Only for PictureKind::Svg.
 struct SvgRequest {
-  /// Indented source with DOCTYPE, entities, comments and CDATA; otherwise cut and turned, or without a rectangle and
-  /// an angle the source byte for byte, of a compressed document what it holds.
+  /// Indented source with DOCTYPE, entities, comments and CDATA; otherwise cut and turned, or without a
+  /// rectangle and an angle the source byte for byte, of a compressed document what it holds.
   bool pretty = true;
-  /// For the cut: in the picture's flipped coordinates (origin top-left, y down), points. Absent: the whole picture.
+  /// For the cut: in the picture's flipped coordinates (origin top-left, y down), points. Absent: the whole
+  /// picture.
   std::optional<QRectF> rect;
-  double rotate = 0;           ///< radians, clockwise as seen on the screen
+  double rotate = 0;  ///< radians, clockwise as seen on the screen
 };
 
 /// A TIFF section (the message's memfd) to a bitmap. Needs no open document.
 struct DecodePreviewRequest {};
 
-/// A PDF (the message's memfd) with other document information, answered by a BytesReply. Needs no open document.
+/// A PDF (the message's memfd) with other document information, answered by a BytesReply. Needs no open
+/// document.
 struct AttributesRequest {
   QHash<QString, QString> texts;  ///< "Title", "Author" …
   std::optional<QDateTime> creationDate;
 };
 
-/// One sheet of paper of a print job: the part of the picture's page that is drawn on it, and where. Points, y up, origins
-/// at the lower-left corners of the page and of the sheet. An empty target: a blank sheet.
+/// One sheet of paper of a print job: the part of the picture's page that is drawn on it, and where. Points,
+/// y up, origins at the lower-left corners of the page and of the sheet. An empty target: a blank sheet.
 struct SheetPart {
   QRectF source, target;
 };
 
-/// A line of text on every sheet: up to three fields between tabs, at the left end, in the middle, at the right end.
+/// A line of text on every sheet: up to three fields between tabs, at the left end, in the middle, at the
+/// right end.
 struct SheetLine {
   QString text;
   QRectF rect;  ///< on the sheet; points, y up
 };
 
-/// Sheets of paper as one PDF, answered by a BytesReply. The memfd holds the picture, a one-page PDF; it becomes one
-/// form that every sheet shows through a window. Needs no open document.
+/// Sheets of paper as one PDF, answered by a BytesReply. The memfd holds the picture, a one-page PDF; it
+/// becomes one form that every sheet shows through a window. Needs no open document.
 struct PagesRequest {
   QSizeF paper;             ///< of every sheet, as it is read: points
   QList<SheetPart> sheets;  ///< at least one
   QString title;            ///< of the job
   std::optional<SheetLine> header, footer;
-  QString fontFamily;    ///< of the lines
-  double fontSize = 9;   ///< points
-  bool picture = true;   ///< false: there is none, and the memfd means nothing
+  QString fontFamily;   ///< of the lines
+  double fontSize = 9;  ///< points
+  bool picture = true;  ///< false: there is none, and the memfd means nothing
 };
 
-using RequestBody = std::variant<OpenRequest, RenderRequest, PdfRequest, ComposeRequest, SvgRequest, DecodePreviewRequest,
-                                 AttributesRequest, PagesRequest>;
+using RequestBody = std::variant<OpenRequest, RenderRequest, PdfRequest, ComposeRequest, SvgRequest,
+                                 DecodePreviewRequest, AttributesRequest, PagesRequest>;
 
 struct WorkerRequest {
   quint32 id = 0;  ///< from 1, never reused on one connection
   RequestBody body;
 };
 
-/// Told to the process that warms up: fork a child that serves the socket travelling with the message (in the place
-/// of the memfd). The answer is a ForkReply whose descriptor is a pidfd of the child.
+/// Told to the process that warms up: fork a child that serves the socket travelling with the message (in the
+/// place of the memfd). The answer is a ForkReply whose descriptor is a pidfd of the child.
 struct ForkRequest {
   PictureLimits limits;
-  bool postScript = false;  ///< the child will need Ghostscript: let it be started at once
+  bool postScript = false;               ///< the child will need Ghostscript: let it be started at once
   PictureNeeds needs = allPictureNeeds;  ///< what the child will be asked for; the rest it may refuse
 };
 
-/// No answer is given to it: the cancelled request itself answers (ErrorKind::Cancelled) or was already answered.
+/// No answer is given to it: the cancelled request itself answers (ErrorKind::Cancelled) or was already
+/// answered.
 struct CancelRequest {
   quint32 id = 0;
 };
 
-// ---- replies --------------------------------------------------------------------------------------------------------
+// ---- replies
+// --------------------------------------------------------------------------------------------------------
 
 /// The facts of an opened document.
 struct PictureFacts {
-  QList<QRectF> pageBounds;   ///< as shown: crop box with the page's own rotation applied, points; one for each page read
+  QList<QRectF> pageBounds;  ///< as shown: crop box with the page's own rotation applied, points; one for
+                             ///< each page read
   int pageCount = 1;
-  QHash<QString, QString> attributes;  ///< PDF document information: "Title", "Author", "Subject", "Creator", "Producer"
+  QHash<QString, QString>
+      attributes;  ///< PDF document information: "Title", "Author", "Subject", "Creator", "Producer"
   std::optional<QDateTime> creationDate;
   QStringList fonts;        ///< PDF: PostScript names, of the first page; SVG: families that its texts name
   QStringList colorSpaces;  ///< PDF: as PDF calls them, of the first page; SVG: "sRGB"
@@ -165,7 +175,8 @@ struct PictureFacts {
   std::optional<QRectF> viewBox;
   QString title, description, encodingName;
   int encodingNumber = 0;
-  std::optional<bool> fixedRatioX, fixedRatioY;  ///< true: an absolute length, false: a percentage, absent: no attribute
+  std::optional<bool> fixedRatioX,
+      fixedRatioY;       ///< true: an absolute length, false: a percentage, absent: no attribute
   QStringList warnings;  ///< one plain sentence each
 };
 
@@ -203,9 +214,10 @@ struct WorkerReply {
   ReplyBody body;
 };
 
-// ---- CBOR -----------------------------------------------------------------------------------------------------------
-// encode… never fails. decode… fails (ErrorKind::Protocol) on a wrong type, a missing field, a number out of range,
-// a string or list over its limit, or another protocol version.
+// ---- CBOR
+// -----------------------------------------------------------------------------------------------------------
+// encode… never fails. decode… fails (ErrorKind::Protocol) on a wrong type, a missing field, a number out of
+// range, a string or list over its limit, or another protocol version.
 
 using WorkerMessage = std::variant<WorkerRequest, ForkRequest, CancelRequest>;
 

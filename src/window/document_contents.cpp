@@ -3,12 +3,12 @@
 #include "metadata/eps_header.h"
 #include "metadata/pdf_header.h"
 #include "metadata/source_text.h"
-#include "picture/svg_header.h"
 #include "picture/document_file.h"
 #include "picture/eps_image_rep.h"
 #include "picture/pdf_image_rep.h"
-#include "picture/web_image_rep.h"
 #include "picture/process/stoppable_process.h"
+#include "picture/svg_header.h"
+#include "picture/web_image_rep.h"
 
 namespace norvex {
 
@@ -64,12 +64,21 @@ struct Reader {
   void take() {
     bool made = false;
     switch (contents.kind) {
-      case DocumentKind::Svg: made = takeSvg(); break;
-      case DocumentKind::Eps: made = takeEps(); break;
+      case DocumentKind::Svg:
+        made = takeSvg();
+        break;
+      case DocumentKind::Eps:
+        made = takeEps();
+        break;
       // Illustrator writes PostScript or PDF; only trying tells.
-      case DocumentKind::Illustrator: made = takeEps() || takePdf(); break;
-      case DocumentKind::Pdf: made = takePdf(); break;
-      case DocumentKind::Other: break;
+      case DocumentKind::Illustrator:
+        made = takeEps() || takePdf();
+        break;
+      case DocumentKind::Pdf:
+        made = takePdf();
+        break;
+      case DocumentKind::Other:
+        break;
     }
     if (made) contents.error.reset();
   }
@@ -104,7 +113,8 @@ DocumentContents readDocumentContents(PictureService& service, const QUrl& fileU
   reader.readSourceText();
   if (reader.contents.imageRep) {
     reader.contents.imageRep->moveToThread(home);
-    reader.contents.process = std::dynamic_pointer_cast<StoppableProcess>(reader.contents.imageRep->process());
+    reader.contents.process =
+        std::dynamic_pointer_cast<StoppableProcess>(reader.contents.imageRep->process());
   }
   return reader.contents;
 }

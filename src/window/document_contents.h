@@ -9,8 +9,8 @@
 #include <memory>
 #include <optional>
 
-#include "metadata/header_dictionary.h"
 #include "base/cancel_token.h"
+#include "metadata/header_dictionary.h"
 #include "picture/image_rep.h"
 #include "picture/process/picture_process.h"
 #include "types/document_kind.h"
@@ -27,12 +27,12 @@ struct DocumentContents {
   QRectF pictureRectangle{0, 0, 0, 0};   ///< bounding box, PDF bounds or SVG bounds; zero without a picture
   std::optional<QRectF> viewBox;         ///< SVG only; nothing: the document has none
   QString sourceText;
-  std::optional<Error> error;            ///< why there is no picture
+  std::optional<Error> error;                 ///< why there is no picture
   std::shared_ptr<StoppableProcess> process;  ///< what renders; null without a picture
 };
 
-/// Reads the file again from its place. Blocks for the picture process (until `cancel`), never throws; any thread.
-/// The image rep is handed to `home`, in which it may be drawn and dies.
+/// Reads the file again from its place. Blocks for the picture process (until `cancel`), never throws; any
+/// thread. The image rep is handed to `home`, in which it may be drawn and dies.
 [[nodiscard]] DocumentContents readDocumentContents(PictureService& service, const QUrl& fileURL,
                                                     const QString& fileType, QThread* home,
                                                     const CancelToken& cancel = {});

@@ -9,25 +9,25 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
-#include "base/localized_string.h"
 #include "ui/controls/color_well.h"
 #include "ui/controls/copyable_label.h"
+#include "ui/controls/number_field.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/panels/shortcut_panel.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
-#include "ui/controls/number_field.h"
-#include "ui/panels/shortcut_panel.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "ui/source/source_text_view.h"
 #include "ui/style/symbolic_icon.h"
-#include "ui/picture/zooming_scroll_area.h"
-#include "ui/controls/zy_dial_knob.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 #include "window/selection_commands.h"
-#include "window/window_frames.h"
 #include "window/selection_description.h"
+#include "window/window_frames.h"
 
 namespace norvex {
 
@@ -48,7 +48,8 @@ void MainWindowController::connectControls() {
   connect(useBackgroundSwitch(), &QCheckBox::stateChanged, this, &MainWindowController::useBackgroundAction);
   connect(rotateField(), &NumberField::valueEdited, this, &MainWindowController::rotateChange);
   connect(dialKnob(), &ZyDialKnob::turned, this, &MainWindowController::doRotateFromKnob);
-  connect(viewWidget_, &NorvexViewWidget::drawn, this, &MainWindowController::followRendering, Qt::QueuedConnection);
+  connect(viewWidget_, &NorvexViewWidget::drawn, this, &MainWindowController::followRendering,
+          Qt::QueuedConnection);
   connect(loadingCard_, &LoadingCard::cancelled, this, &MainWindowController::stopWork);
   connect(messageBar_, &MessageBar::actionChosen, this, &MainWindowController::messageActionChosen);
 }
@@ -67,27 +68,32 @@ void MainWindowController::connectCommands() {
   on(doSaveToToolbarItem, {Qt::CTRL | Qt::Key_E}, [this] { doSaveTo(doSaveToToolbarItem); });
   on(ui_->quitAction, {Qt::CTRL | Qt::Key_Q}, [] { QCoreApplication::quit(); });
   on(ui_->selectAllAction, {QKeySequence::SelectAll}, [this] { view()->selectBounds(); });
-  on(ui_->deselectAction, {Qt::Key_Escape, Qt::CTRL | Qt::SHIFT | Qt::Key_A}, [this] { view()->clearSelectRect(); });
+  on(ui_->deselectAction, {Qt::Key_Escape, Qt::CTRL | Qt::SHIFT | Qt::Key_A},
+     [this] { view()->clearSelectRect(); });
   selectionCommands_ = new SelectionCommands(*ui_->editMenu, ui_->findAction, *view(), *scrollArea_, this);
   on(ui_->findAction, {QKeySequence::Find}, [this] {
     showSource();
     sourceTextView->showFindBar();
   });
   on(ui_->findNextAction, {Qt::Key_F3}, [this] { showSource(), sourceTextView->findNext(); });
-  on(ui_->findPreviousAction, {Qt::SHIFT | Qt::Key_F3}, [this] { showSource(), sourceTextView->findNext(true); });
+  on(ui_->findPreviousAction, {Qt::SHIFT | Qt::Key_F3},
+     [this] { showSource(), sourceTextView->findNext(true); });
   on(ui_->zoomInAction, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [scroll] { scroll->zoom(1); });
   on(ui_->zoomOutAction, {Qt::CTRL | Qt::Key_Minus}, [scroll] { scroll->zoom(-1); });
   on(ui_->actualSizeAction, {Qt::CTRL | Qt::Key_0, Qt::CTRL | Qt::Key_1}, [scroll] { scroll->zoomTo(1.0); });
-  on(ui_->fitAction, {Qt::CTRL | Qt::Key_9}, [this] { zoomingScrollView()->zoomTo(scrollArea_->fittingFactor()); });
+  on(ui_->fitAction, {Qt::CTRL | Qt::Key_9},
+     [this] { zoomingScrollView()->zoomTo(scrollArea_->fittingFactor()); });
   on(ui_->rotateLeftAction, {Qt::CTRL | Qt::SHIFT | Qt::Key_R}, [this] { rotateBy(kQuarterTurn); });
   on(ui_->rotateRightAction, {Qt::CTRL | Qt::Key_R}, [this] { rotateBy(-kQuarterTurn); });
   on(ui_->resetRotationAction, {}, [this] { dialKnob()->turnTo(0); });
-  on(inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9}, [this] { showInspectorWindow(inspectorToolbarItem); });
+  on(inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9},
+     [this] { showInspectorWindow(inspectorToolbarItem); });
   on(ui_->touchBarAction, {}, [this](bool checked) {
     showTouchBar(checked);
     saveTouchBarIsShown(checked);
   });
-  on(ui_->shortcutsAction, {QKeySequence::HelpContents}, [this] { showShortcutPanel(*window_, *ui_->menuBar); });
+  on(ui_->shortcutsAction, {QKeySequence::HelpContents},
+     [this] { showShortcutPanel(*window_, *ui_->menuBar); });
   on(ui_->fullScreenAction, {Qt::Key_F11}, [this](bool checked) { toggleFullScreen(checked); });
   on(ui_->aboutAction, {}, [this] { showAbout(); });
   scrollArea_->setFocus(Qt::OtherFocusReason);  // keys are for the picture until another control is chosen
@@ -110,18 +116,23 @@ void MainWindowController::arrangeToolbar() {
   ui_->toolbar->insertWidget(inspectorToolbarItem, gap);
   if (auto* more = ui_->toolbar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
     more->setAccessibleName(localizedString("More"));
-  for (QAction* action : {ui_->zoomOutAction, ui_->zoomInAction, ui_->fitAction, ui_->rotateLeftAction, ui_->rotateRightAction})
-    if (auto* button = qobject_cast<QToolButton*>(ui_->toolbar->widgetForAction(action))) button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  for (QAction* action :
+       {ui_->zoomOutAction, ui_->zoomInAction, ui_->fitAction, ui_->rotateLeftAction, ui_->rotateRightAction})
+    if (auto* button = qobject_cast<QToolButton*>(ui_->toolbar->widgetForAction(action)))
+      button->setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
-bool MainWindowController::validateUserInterfaceItem() const { return view() && view()->imageRep() != nullptr; }
+bool MainWindowController::validateUserInterfaceItem() const {
+  return view() && view()->imageRep() != nullptr;
+}
 
 void MainWindowController::validateCommands() {
   const bool enabled = validateUserInterfaceItem();
-  for (QAction* action : {inspectorToolbarItem, copyToolbarItem, doPrintingToolbarItem, doSaveToToolbarItem, ui_->saveAsAction,
-                          ui_->copyAction, ui_->selectAllAction, ui_->findAction, ui_->findNextAction, ui_->findPreviousAction,
-                          ui_->zoomInAction, ui_->zoomOutAction, ui_->actualSizeAction, ui_->fitAction,
-                          ui_->rotateLeftAction, ui_->rotateRightAction, ui_->resetRotationAction})
+  for (QAction* action :
+       {inspectorToolbarItem, copyToolbarItem, doPrintingToolbarItem, doSaveToToolbarItem, ui_->saveAsAction,
+        ui_->copyAction, ui_->selectAllAction, ui_->findAction, ui_->findNextAction, ui_->findPreviousAction,
+        ui_->zoomInAction, ui_->zoomOutAction, ui_->actualSizeAction, ui_->fitAction, ui_->rotateLeftAction,
+        ui_->rotateRightAction, ui_->resetRotationAction})
     action->setEnabled(enabled);
   ui_->reloadAction->setEnabled(document_ && !document_->fileURL().isEmpty());
   validateTouchStrip();
@@ -144,13 +155,17 @@ void MainWindowController::rotateBy(double degrees) {
   dialKnob()->turnTo(dialKnob()->degreeValue() + (dialKnob()->clockwise() ? -degrees : degrees));
 }
 
-bool MainWindowController::dialKnobClockwise() const { return dialKnob() && dialKnob()->clockwise(); }
+bool MainWindowController::dialKnobClockwise() const {
+  return dialKnob() && dialKnob()->clockwise();
+}
 
-void MainWindowController::norvexView(NorvexView&, const QString& selectedRangeStrings, const QString& end, const QString& area) {
+void MainWindowController::norvexView(NorvexView&, const QString& selectedRangeStrings, const QString& end,
+                                      const QString& area) {
   validateSelectionCommands();
   const QString description = selectionDescription(selectedRangeStrings, end, area);
   viewWidget_->setAccessibleDescription(description);
-  scrollArea_->setAccessibleDescription(description);  // it has the focus, and is what a screen reader reads first
+  scrollArea_->setAccessibleDescription(
+      description);  // it has the focus, and is what a screen reader reads first
   if (selectedRangeStrings.isEmpty()) {
     startPoint->clear();
     endPoint->clear();
@@ -185,7 +200,8 @@ void MainWindowController::showAbout() {
   about.setWindowTitle(localizedString("About Norvex"));
   about.setTextFormat(Qt::PlainText);
   about.setText(QStringLiteral("Norvex %1").arg(QStringLiteral(NORVEX_VERSION)));
-  about.setInformativeText(localizedString("Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors."));
+  about.setInformativeText(localizedString(
+      "Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors."));
   about.exec();
 }
 

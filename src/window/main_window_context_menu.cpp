@@ -24,8 +24,9 @@ qsizetype bestFileFormat(const PictureFormats& formats) {
 }  // namespace
 
 void MainWindowController::setUpPictureMenu() {
-  viewWidget_->setWhatsThis(localizedString(
-      "Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file."));
+  viewWidget_->setWhatsThis(
+      localizedString("Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another "
+                      "program as a file."));
   viewWidget_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(viewWidget_, &QWidget::customContextMenuRequested, this, [this](const QPoint& point) {
     if (!validateUserInterfaceItem()) return;
@@ -39,7 +40,8 @@ void MainWindowController::setUpPictureMenu() {
     menu->addActions({ui_->rotateLeftAction, ui_->rotateRightAction, ui_->resetRotationAction});
     menu->popup(viewWidget_->mapToGlobal(point));
   });
-  new DragSource(*viewWidget_, [this] { return draggedFile(); }, this);
+  new DragSource(
+      *viewWidget_, [this] { return draggedFile(); }, this);
 }
 
 std::optional<DraggedFile> MainWindowController::draggedFile() {
@@ -47,7 +49,8 @@ std::optional<DraggedFile> MainWindowController::draggedFile() {
   const qsizetype best = bestFileFormat(formats);
   if (best < 0) return std::nullopt;
   const std::shared_ptr<PromisedData> data = formats.DataObjects.at(best);
-  static_cast<void>(QtConcurrent::run(&waitingThreads(), [data] { return data->get(); }));  // the drag takes a while: use it
+  static_cast<void>(QtConcurrent::run(&waitingThreads(),
+                                      [data] { return data->get(); }));  // the drag takes a while: use it
   const QString extension = formats.UTIs.at(best).preferredFilenameExtension();
   return DraggedFile{clipName() + u'.' + extension, [data] { return data->get(); }};
 }

@@ -4,20 +4,20 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include "desktop/save_panel.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
+#include "picture/process/stoppable_process.h"
 #include "ui/controls/color_well.h"
 #include "ui/controls/control_accessible.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
-#include "ui/style/window_style.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "desktop/save_panel.h"
+#include "ui/style/window_style.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_reading.h"
 #include "window/print_commands.h"
-#include "picture/process/stoppable_process.h"
 #include "window/window_frames.h"
 
 namespace norvex {
@@ -37,7 +37,9 @@ MainWindowController::~MainWindowController() {
   delete window_.data();
 }
 
-void MainWindowController::setDocument(Document* document) { document_ = document; }
+void MainWindowController::setDocument(Document* document) {
+  document_ = document;
+}
 
 QMainWindow* MainWindowController::window() {
   if (!window_) loadWindow();
@@ -69,7 +71,8 @@ void MainWindowController::loadWindow() {
 void MainWindowController::takeOutlets() {
   window_ = ui_->window;
   window_->setParent(nullptr, Qt::Window);
-  window_->setAttribute(Qt::WA_Moved, false);  // the interface file's origin is no wish for a place on the screen
+  window_->setAttribute(Qt::WA_Moved,
+                        false);  // the interface file's origin is no wish for a place on the screen
   scrollArea_ = ui_->zoomingScrollView;
   viewWidget_ = ui_->view;
   scrollArea_->setDocumentWidget(viewWidget_);
@@ -140,7 +143,8 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
     if (event->type() == QEvent::Close) closing();
-    if (event->type() == QEvent::WindowStateChange) windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));
+    if (event->type() == QEvent::WindowStateChange)
+      windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));
   }
   if (watched == inspectorWindow && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
     inspectorToolbarItem->setChecked(event->type() == QEvent::Show);

@@ -11,13 +11,13 @@
 #include <functional>
 #include <memory>
 
+#include "base/cancel_token.h"
+#include "base/result.h"
 #include "display/norvex_view.h"
 #include "display/norvex_view_delegate.h"
 #include "display/window_sizing.h"
 #include "document/document.h"
 #include "document/document_window_controller.h"
-#include "base/cancel_token.h"
-#include "base/result.h"
 #include "window/document_contents.h"
 #include "window/main_window_outlets.h"
 #include "window/picture_formats.h"
@@ -47,8 +47,8 @@ class SelectionCommands;
 class TouchStrip;
 class ZoomingScrollArea;
 
-/// Sets up every control of the document window and its inspector, reads the picture from the document's file, and
-/// shows what was read. Main thread only; owns its windows.
+/// Sets up every control of the document window and its inspector, reads the picture from the document's
+/// file, and shows what was read. Main thread only; owns its windows.
 class MainWindowController final : public QObject,
                                    public DocumentWindowController,
                                    public NorvexViewDelegate,
@@ -64,7 +64,8 @@ class MainWindowController final : public QObject,
   // DocumentWindowController
   void setDocument(Document* document) override;
   void setShouldCloseDocument(bool close) override { shouldCloseDocument_ = close; }
-  /// The window appears at once; the file is read on another thread, and windowDidLoad()'s second half follows.
+  /// The window appears at once; the file is read on another thread, and windowDidLoad()'s second half
+  /// follows.
   void showWindow() override;
   void windowDidLoad() override;
   void display() override;
@@ -81,13 +82,15 @@ class MainWindowController final : public QObject,
   [[nodiscard]] double zoomFactor() const { return zoomFactor_; }
   void setZoomFactor(double factor);
 
-  // ---- window size --------------------------------------------------------------------------------------------------
+  // ---- window size
+  // --------------------------------------------------------------------------------------------------
   /// The maximum window size for a wanted visible size of the picture.
   [[nodiscard]] QSizeF calcWindowMaxSize(const QSizeF& size) const;
   /// Gives the window its maximum size and shrinks it to that. Never enlarges it.
   void setWindowSize();
 
-  // ---- inspector ----------------------------------------------------------------------------------------------------
+  // ---- inspector
+  // ----------------------------------------------------------------------------------------------------
   void showInspectorWindow(QObject* sender = nullptr);
   void takeColor(const QColor& color);
   /// `state` as of a check box: 0 off, 1 mixed, 2 on.
@@ -100,8 +103,9 @@ class MainWindowController final : public QObject,
   /// An SVG picture's PDF form is there, or failed with `error`.
   void pdfImageRepDidLoad(bool success, const Error& error);
 
-  // ---- the picture as bytes -----------------------------------------------------------------------------------------
-  // Each blocks for the picture process and returns the bytes of the whole, unturned picture, or none.
+  // ---- the picture as bytes
+  // ----------------------------------------------------------------------------------------- Each blocks for
+  // the picture process and returns the bytes of the whole, unturned picture, or none.
   PictureProducers* producers() override;
   QByteArray postScriptData();
   QByteArray addEPSHeader(const QByteArray& postScript);
@@ -116,12 +120,14 @@ class MainWindowController final : public QObject,
   QByteArray jpgData(const std::shared_ptr<NSImageRep>& imageRep);
   QByteArray gifData(const std::shared_ptr<NSImageRep>& imageRep);
 
-  // ---- handing parts of the picture on ------------------------------------------------------------------------------
-  /// The formats of the selection, or of what is visible without one, as promises of their bytes. Beeps and is empty
-  /// without a picture.
+  // ---- handing parts of the picture on
+  // ------------------------------------------------------------------------------
+  /// The formats of the selection, or of what is visible without one, as promises of their bytes. Beeps and
+  /// is empty without a picture.
   PictureFormats pboardTypesAndDataObjects();
-  /// Copies those formats. Returns at once: they are made in the background, and then the clipboard changes in one step.
-  /// What cannot be made is left out; when nothing can, the clipboard stays as it is. copied() tells the end.
+  /// Copies those formats. Returns at once: they are made in the background, and then the clipboard changes
+  /// in one step. What cannot be made is left out; when nothing can, the clipboard stays as it is. copied()
+  /// tells the end.
   void doCopy(QObject* sender = nullptr);
   /// Copies the whole picture in the formats that its representation has by itself, in the same way.
   void copy(QObject* sender = nullptr);
@@ -132,13 +138,14 @@ class MainWindowController final : public QObject,
   /// The same under another title: both write a copy, the document stays what it is.
   void saveDocumentTo(QObject* sender = nullptr);
   [[nodiscard]] QList<UTType> writableTypes() const;
-  /// Reads the file again for the user and starts over: upright, at its natural size. A file that cannot be shown any
-  /// more leaves what is shown, with a message.
+  /// Reads the file again for the user and starts over: upright, at its natural size. A file that cannot be
+  /// shown any more leaves what is shown, with a message.
   void reload();
   /// Whether a picture is being written by Save As. The window works on; it closes when that has ended.
   [[nodiscard]] bool isSaving() const { return saving_.has_value(); }
 
-  // ---- Touch Bar ----------------------------------------------------------------------------------------------------
+  // ---- Touch Bar
+  // ----------------------------------------------------------------------------------------------------
   /// A new bar at each call; this controller is its delegate.
   [[nodiscard]] NSTouchBar makeTouchBar();
   [[nodiscard]] std::optional<NSCustomTouchBarItem> touchBar(const NSTouchBar& touchBar,
@@ -149,7 +156,8 @@ class MainWindowController final : public QObject,
   /// Null before the strip was first shown.
   [[nodiscard]] TouchStrip* touchStrip() const { return touchStrip_; }
 
-  // ---- printing -----------------------------------------------------------------------------------------------------
+  // ---- printing
+  // -----------------------------------------------------------------------------------------------------
   /// Prints the selected rectangle, or the visible one without a selection, as it is turned.
   void doPrinting(QObject* sender = nullptr);
   /// Prints the whole picture as it is turned: the document's own printing.
@@ -223,8 +231,8 @@ class MainWindowController final : public QObject,
   void followRendering();
   void showProblem(const Error& error);
   void stopWork();
-  /// Reads the file again as the document does. What is no picture any more is told, and what was read before stays:
-  /// then false.
+  /// Reads the file again as the document does. What is no picture any more is told, and what was read before
+  /// stays: then false.
   bool readAgain();
   [[nodiscard]] bool mayKeepPicture() const;
   void keepPicture(const DocumentContents& contents);
@@ -320,7 +328,7 @@ class MainWindowController final : public QObject,
   std::optional<CancelToken> copying_;  ///< of the copy under way
   std::optional<CancelToken> saving_;   ///< of the picture that Save As is making
   bool closesWhenSaved_ = false;
-  int writing_ = 0;                     ///< files that are being written
+  int writing_ = 0;  ///< files that are being written
   QMetaObject::Connection svgObservation_;
   PrintServices printServices_;
   std::unique_ptr<PrintInteraction> ownPrintInteraction_;

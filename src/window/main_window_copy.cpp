@@ -1,24 +1,25 @@
-// Copy: what the picture offers to other programs, made in the background and put on the clipboard in one step.
+// Copy: what the picture offers to other programs, made in the background and put on the clipboard in one
+// step.
 #include <QApplication>
 #include <QFuture>
 #include <QPointer>
 #include <QtConcurrent>
 
-#include "document/document.h"
 #include "base/localized_string.h"
 #include "base/waiting_threads.h"
+#include "document/document.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/panels/qt_pasteboard.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
-#include "ui/panels/qt_pasteboard.h"
-#include "ui/controls/zy_dial_knob.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
 
 namespace {
 
-/// Makes every format, one after the other: the picture process serves one at a time, and the other threads are left to
-/// what is on the screen.
+/// Makes every format, one after the other: the picture process serves one at a time, and the other threads
+/// are left to what is on the screen.
 QFuture<void> madeInBackground(const PictureFormats& formats, const std::shared_ptr<PromisedData>& fallback) {
   QList<std::shared_ptr<PromisedData>> all = formats.DataObjects;
   if (fallback) all << fallback;
@@ -41,15 +42,18 @@ NSPasteboardItem itemOf(const PictureFormats& formats, const std::shared_ptr<Pro
 }  // namespace
 
 void MainWindowController::NSBeep() const {
-  if (beep_) beep_();
-  else QApplication::beep();
+  if (beep_)
+    beep_();
+  else
+    QApplication::beep();
 }
 
 PictureSnapshot MainWindowController::snapshot() const {
   PictureSnapshot shown;
   if (!view()) return shown;
   shown.imageRep = view()->imageRep();
-  shown.placement = {QPointF(view()->imageSize().width() * 0.5, view()->imageSize().height() * 0.5), view()->rotate()};
+  shown.placement = {QPointF(view()->imageSize().width() * 0.5, view()->imageSize().height() * 0.5),
+                     view()->rotate()};
   const QRectF& selected = view()->selectRect();
   shown.rect = selected.width() > 0 && selected.height() > 0 ? selected : view()->visibleRect();
   shown.frame = view()->frame();
@@ -80,7 +84,8 @@ void MainWindowController::copy(QObject*) {
   writeWhenMade(wholePictureFormats(shown), nullptr);
 }
 
-void MainWindowController::writeWhenMade(const PictureFormats& formats, const std::shared_ptr<PromisedData>& png) {
+void MainWindowController::writeWhenMade(const PictureFormats& formats,
+                                         const std::shared_ptr<PromisedData>& png) {
   stopCopying();  // what was copied last counts
   if (formats.count() == 0) return;
   copying_ = formats.cancel;
@@ -103,8 +108,9 @@ void MainWindowController::write(const NSPasteboardItem& item) {
     written = pasteboard.writeObjects({item});
   }
   if (!written)
-    messageBar_->showMessage(MessageBar::Kind::Warning,
-                             localizedString("The picture could not be copied. The clipboard holds what it held before."));
+    messageBar_->showMessage(
+        MessageBar::Kind::Warning,
+        localizedString("The picture could not be copied. The clipboard holds what it held before."));
   emit copied(written);
 }
 

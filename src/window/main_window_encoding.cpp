@@ -15,25 +15,40 @@ WindowProducers& MainWindowController::windowProducers() {
   return *producers_;
 }
 
-PictureProducers* MainWindowController::producers() { return &windowProducers(); }
+PictureProducers* MainWindowController::producers() {
+  return &windowProducers();
+}
 
-QByteArray MainWindowController::postScriptData() { return windowProducers().postScriptData(); }
+QByteArray MainWindowController::postScriptData() {
+  return windowProducers().postScriptData();
+}
 
 QByteArray MainWindowController::addEPSHeader(const QByteArray& postScript) {
   return windowProducers().addEPSHeader(postScript);
 }
 
-QByteArray MainWindowController::postScriptDataWithPreview() { return windowProducers().postScriptDataWithPreview(); }
+QByteArray MainWindowController::postScriptDataWithPreview() {
+  return windowProducers().postScriptDataWithPreview();
+}
 
-QByteArray MainWindowController::epsiData() { return windowProducers().epsiData(); }
+QByteArray MainWindowController::epsiData() {
+  return windowProducers().epsiData();
+}
 
-QByteArray MainWindowController::pdfData() { return windowProducers().pdfData(); }
+QByteArray MainWindowController::pdfData() {
+  return windowProducers().pdfData();
+}
 
-QByteArray MainWindowController::addPDFHeader(const QByteArray& pdf) { return windowProducers().addPDFHeader(pdf); }
+QByteArray MainWindowController::addPDFHeader(const QByteArray& pdf) {
+  return windowProducers().addPDFHeader(pdf);
+}
 
-QByteArray MainWindowController::svgData() { return windowProducers().svgData(); }
+QByteArray MainWindowController::svgData() {
+  return windowProducers().svgData();
+}
 
-std::optional<DocRasterImage> MainWindowController::docRasterImage(const std::shared_ptr<NSImageRep>& imageRep) {
+std::optional<DocRasterImage> MainWindowController::docRasterImage(
+    const std::shared_ptr<NSImageRep>& imageRep) {
   return norvex::docRasterImage(imageRep);
 }
 

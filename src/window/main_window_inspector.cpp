@@ -13,12 +13,12 @@
 #include "ui/controls/dms_angle.h"
 #include "ui/controls/number_field.h"
 #include "ui/controls/number_matrix.h"
-#include "ui/source/source_text_edit.h"
-#include "ui/source/source_text_view.h"
-#include "ui/picture/zooming_scroll_area.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
+#include "ui/source/source_text_edit.h"
+#include "ui/source/source_text_view.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 
@@ -29,14 +29,16 @@ namespace {
 /// As the comments of a PostScript file say it: left, bottom, right, top.
 QString corners(const QRectF& box) {
   const auto number = [](double value) { return QString::number(value, 'g', 9); };
-  return QStringList{number(box.left()), number(box.top()), number(box.right()), number(box.bottom())}.join(u' ');
+  return QStringList{number(box.left()), number(box.top()), number(box.right()), number(box.bottom())}.join(
+      u' ');
 }
 
 }  // namespace
 
 void MainWindowController::showInspectorWindow(QObject*) {
   if (inspectorWindow->windowTitle().isEmpty())
-    inspectorWindow->setWindowTitle(QStringLiteral("%1 %2").arg(window_->windowTitle(), QStringLiteral("Inspector")));
+    inspectorWindow->setWindowTitle(
+        QStringLiteral("%1 %2").arg(window_->windowTitle(), QStringLiteral("Inspector")));
   if (inspectorWindow->isVisible()) {
     inspectorWindow->hide();
     return;
@@ -94,11 +96,14 @@ void MainWindowController::showSource() {
 void MainWindowController::orderInspector() {
   // From top to bottom, as it is read; the interface file cannot name what is inside our own controls.
   QList<QWidget*> order{dialKnob(), rotateField(), backgroundColorWell(), useBackgroundSwitch()};
-  for (const ZyForm* form : {titleForm(), creatorForm(), creationDateForm(), forForm(), copyrightForm(), encodingForm(), colorSpaceNameForm()})
+  for (const ZyForm* form : {titleForm(), creatorForm(), creationDateForm(), forForm(), copyrightForm(),
+                             encodingForm(), colorSpaceNameForm()})
     order << form->cellAtIndex(0);
   for (int row = 0; row < 2; ++row)
     for (int column = 0; column < 2; ++column) order << epsMatrix->cellAtRow(row, column);
-  order << ui_->usesForm->cellAtIndex(0) << ui_->usesForm->cellAtIndex(1) << ui_->boundingBoxForm->cellAtIndex(0) << ui_->boundingBoxForm->cellAtIndex(1) << descriptionView->textEdit();
+  order << ui_->usesForm->cellAtIndex(0) << ui_->usesForm->cellAtIndex(1)
+        << ui_->boundingBoxForm->cellAtIndex(0) << ui_->boundingBoxForm->cellAtIndex(1)
+        << descriptionView->textEdit();
   for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order.at(i - 1), order.at(i));
 }
 
@@ -112,7 +117,8 @@ void MainWindowController::placeInspector() {
   int x = beside.right() + 8;
   if (x + size.width() > screen.right()) x = beside.left() - size.width() - 8;
   if (x < screen.left()) x = screen.right() - size.width() - 8;
-  inspectorWindow->move(x, std::clamp(beside.top(), screen.top(), std::max(screen.top(), screen.bottom() - size.height() - 40)));
+  inspectorWindow->move(x, std::clamp(beside.top(), screen.top(),
+                                      std::max(screen.top(), screen.bottom() - size.height() - 40)));
 }
 
 void MainWindowController::takeColor(const QColor& color) {
@@ -143,6 +149,8 @@ void MainWindowController::doRotateFromKnob() {
   setWindowSize();
 }
 
-void MainWindowController::showRotationText() { ui_->rotateReadout->setText(dms::text(dialKnob()->DMSValue())); }
+void MainWindowController::showRotationText() {
+  ui_->rotateReadout->setText(dms::text(dialKnob()->DMSValue()));
+}
 
 }  // namespace norvex

@@ -5,22 +5,22 @@
 #include <QThreadPool>
 #include <QTimer>
 
-#include "document/document.h"
-#include "metadata/header_dictionary.h"
 #include "base/localized_string.h"
 #include "base/waiting_threads.h"
+#include "document/document.h"
+#include "metadata/header_dictionary.h"
 #include "picture/bitmap_image.h"
 #include "picture/web_image_rep.h"
+#include "ui/controls/number_field.h"
+#include "ui/controls/number_matrix.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/controls/zy_form.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
-#include "ui/controls/number_field.h"
-#include "ui/controls/number_matrix.h"
-#include "ui/source/source_text_view.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "ui/controls/zy_dial_knob.h"
-#include "ui/controls/zy_form.h"
 #include "ui/picture/zy_image_view.h"
+#include "ui/source/source_text_view.h"
 #include "window/main_window_reading.h"
 
 namespace norvex {
@@ -51,7 +51,8 @@ void MainWindowController::windowDidLoad() {
     showUntitledDocument();
     return finishSetUp();
   }
-  const DocumentContents contents = readDocumentContents(document_->pictureService(), url, document_->fileType(), thread());
+  const DocumentContents contents =
+      readDocumentContents(document_->pictureService(), url, document_->fileType(), thread());
   if (!contents.imageRep && mayKeepPicture()) return keepPicture(contents);
   setUpControls();
   showContents(contents);
@@ -96,7 +97,8 @@ void MainWindowController::stopReading() {
 }
 
 void MainWindowController::showUntitledDocument() {
-  for (ZyForm* form : {titleForm(), creatorForm(), creationDateForm(), forForm(), copyrightForm(), encodingForm()})
+  for (ZyForm* form :
+       {titleForm(), creatorForm(), creationDateForm(), forForm(), copyrightForm(), encodingForm()})
     form->setText(0, QString());
   descriptionView->setString(QString());
   showBoundingBoxes(nullptr);
@@ -115,8 +117,10 @@ void MainWindowController::showContents(const DocumentContents& contents) {
   messageBar_->clearMessage();
   process_ = contents.process;
   view()->setImageRep(contents.imageRep);
-  if (contents.kind == DocumentKind::Svg) showSvgPicture(contents);
-  else showPicture(contents);
+  if (contents.kind == DocumentKind::Svg)
+    showSvgPicture(contents);
+  else
+    showPicture(contents);
   showHeader(contents);
   showBoundingBoxes(contents.imageRep.get());
   showNotes(contents.imageRep.get());
@@ -137,7 +141,8 @@ void MainWindowController::showMatrix(const QRectF& rect) {
 
 void MainWindowController::showPicture(const DocumentContents& contents) {
   if (contents.kind != DocumentKind::Other) {
-    if (contents.kind == DocumentKind::Eps && contents.imageRep) view()->setFrameSize(contents.pictureRectangle.size());
+    if (contents.kind == DocumentKind::Eps && contents.imageRep)
+      view()->setFrameSize(contents.pictureRectangle.size());
     dialKnob()->setClockwise(false);
     view()->setFlippedCoordinate(false);
   }
@@ -161,7 +166,8 @@ void MainWindowController::showSvgPicture(const DocumentContents& contents) {
     view()->setScaleY(size.height() / viewBox.height());
     view()->setCoordinateRect(viewBox);
     if (QThread::currentThread() == qApp->thread())
-      svgObservation_ = connect(rep.get(), &ZyWebImageRep::pdfImageRepDidLoad, this, &MainWindowController::pdfImageRepDidLoad);
+      svgObservation_ = connect(rep.get(), &ZyWebImageRep::pdfImageRepDidLoad, this,
+                                &MainWindowController::pdfImageRepDidLoad);
   }
   dialKnob()->setClockwise(rep && rep->isFlipped());
   view()->setFlippedCoordinate(false);
@@ -191,8 +197,10 @@ void MainWindowController::showPreview(const DocumentContents& contents) {
   }
   previewField->setText(QStringLiteral("Image"));
   previewImageView()->setImageFrameStyle(kFrameOfPicture);
-  if (contents.kind != DocumentKind::Svg) previewImageView()->setImageRep(contents.imageRep);
-  else previewImageView()->setImage({});  // comes with the PDF form
+  if (contents.kind != DocumentKind::Svg)
+    previewImageView()->setImageRep(contents.imageRep);
+  else
+    previewImageView()->setImage({});  // comes with the PDF form
   if (const auto rep = std::dynamic_pointer_cast<ZyWebImageRep>(contents.imageRep)) rep->loadPDFImageRep();
 }
 

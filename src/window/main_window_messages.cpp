@@ -2,19 +2,19 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
-#include "document/document.h"
-#include "desktop/alert.h"
 #include "base/localized_string.h"
+#include "desktop/alert.h"
+#include "document/document.h"
+#include "picture/process/stoppable_process.h"
 #include "picture/web_image_rep.h"
+#include "ui/controls/number_field.h"
+#include "ui/controls/zy_dial_knob.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
-#include "ui/controls/number_field.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "ui/controls/zy_dial_knob.h"
 #include "ui/picture/zy_image_view.h"
 #include "window/main_window_controller.h"
-#include "picture/process/stoppable_process.h"
 
 namespace norvex {
 
@@ -36,22 +36,25 @@ void MainWindowController::watchPicture() {
   NSImageRep* rep = view()->imageRep().get();
   if (!rep) return;
   connect(rep, &NSImageRep::renderingFailed, this, &MainWindowController::showProblem, Qt::UniqueConnection);
-  connect(rep, &NSImageRep::renderingArrived, this, &MainWindowController::followRendering, Qt::UniqueConnection);
+  connect(rep, &NSImageRep::renderingArrived, this, &MainWindowController::followRendering,
+          Qt::UniqueConnection);
 }
 
 void MainWindowController::followRendering() {
   const NSImageRep* rep = view()->imageRep().get();
-  if (rep && rep->isRendering()) loadingCard_->begin(localizedString("Drawing…"));
-  else if (!reading_ && !copying_ && writing_ == 0) loadingCard_->end();
+  if (rep && rep->isRendering())
+    loadingCard_->begin(localizedString("Drawing…"));
+  else if (!reading_ && !copying_ && writing_ == 0)
+    loadingCard_->end();
 }
 
 void MainWindowController::showProblem(const Error& error) {
   followRendering();
   const bool again = view()->imageRep() != nullptr;
   messageAction_ = nullptr;
-  if (again)
-    messageAction_ = [this] { retryDrawing(); };
-  messageBar_->showMessage(MessageBar::Kind::Warning, sentence(error), again ? localizedString("Try Again") : QString());
+  if (again) messageAction_ = [this] { retryDrawing(); };
+  messageBar_->showMessage(MessageBar::Kind::Warning, sentence(error),
+                           again ? localizedString("Try Again") : QString());
 }
 
 void MainWindowController::retryDrawing() {
@@ -64,7 +67,8 @@ void MainWindowController::retryDrawing() {
   QTimer::singleShot(kStoppedEndsMs, rep, [this, rep] {
     if (view()->imageRep().get() != rep) return;
     const auto error = rep->renderingError();
-    if ((error && StoppableProcess::meansStopped(*error)) || (process_ && process_->isStopping())) retryDrawing();
+    if ((error && StoppableProcess::meansStopped(*error)) || (process_ && process_->isStopping()))
+      retryDrawing();
   });
 }
 
@@ -91,7 +95,8 @@ void MainWindowController::messageActionChosen() {
 void MainWindowController::fileDidChangeOnDisk() {
   if (!window_ || !document_) return;
   messageAction_ = [this] { reloadInPlace(); };
-  messageBar_->showMessage(MessageBar::Kind::Information, localizedString("The file has changed on disk."), localizedString("Reload"));
+  messageBar_->showMessage(MessageBar::Kind::Information, localizedString("The file has changed on disk."),
+                           localizedString("Reload"));
 }
 
 bool MainWindowController::readAgain() {
@@ -101,15 +106,20 @@ bool MainWindowController::readAgain() {
   return keeping_ != Keeping::Kept;
 }
 
-void MainWindowController::reload() { readAgain(); }
+void MainWindowController::reload() {
+  readAgain();
+}
 
-bool MainWindowController::mayKeepPicture() const { return keeping_ == Keeping::Allowed && validateUserInterfaceItem(); }
+bool MainWindowController::mayKeepPicture() const {
+  return keeping_ == Keeping::Allowed && validateUserInterfaceItem();
+}
 
 void MainWindowController::keepPicture(const DocumentContents& contents) {
   keeping_ = Keeping::Kept;
   const Error error = contents.error.value_or(Error());
   messageAction_ = [this] { reloadInPlace(); };
-  messageBar_->showMessage(MessageBar::Kind::Warning, localizedString("%1 What is shown was read before.").arg(sentence(error)),
+  messageBar_->showMessage(MessageBar::Kind::Warning,
+                           localizedString("%1 What is shown was read before.").arg(sentence(error)),
                            localizedString("Reload"));
 }
 
@@ -144,8 +154,10 @@ void MainWindowController::pdfImageRepDidLoad(bool success, const Error& error) 
   alert.messageText = error.message.isEmpty() ? QStringLiteral("ZyWebImageRep") : sentence(error);
   const QUrl url = rep->valueForKey(QString::fromLatin1(ZyWebViewFileURLKey)).toUrl();
   alert.informativeText = QUrl::fromPercentEncoding(url.toEncoded());
-  if (alerts_) alerts_->runModal(alert);
-  else messageBar_->showMessage(MessageBar::Kind::Warning, alert.messageText);
+  if (alerts_)
+    alerts_->runModal(alert);
+  else
+    messageBar_->showMessage(MessageBar::Kind::Warning, alert.messageText);
 }
 
 }  // namespace norvex

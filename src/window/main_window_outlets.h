@@ -22,23 +22,23 @@ class ZyDialKnob;
 class ZyForm;
 class ZyImageView;
 
-/// References into the interface file's widgets, set when the window is loaded and null before. None is owned.
-/// The last seventeen are properties; setters store the value unchanged.
+/// References into the interface file's widgets, set when the window is loaded and null before. None is
+/// owned. The last seventeen are properties; setters store the value unchanged.
 class MainWindowOutlets {
  public:
-  QLabel* startPoint = nullptr;                ///< start of the selection
-  QLabel* endPoint = nullptr;                  ///< end of the selection
+  QLabel* startPoint = nullptr;  ///< start of the selection
+  QLabel* endPoint = nullptr;    ///< end of the selection
   QAction* inspectorToolbarItem = nullptr;
   QAction* copyToolbarItem = nullptr;
   QAction* doPrintingToolbarItem = nullptr;
   QAction* doSaveToToolbarItem = nullptr;
-  QWidget* inspectorWindow = nullptr;          ///< a window of its own beside the document's
+  QWidget* inspectorWindow = nullptr;  ///< a window of its own beside the document's
   PathControl* pathControl = nullptr;
   SourceTextView* descriptionView = nullptr;
   SourceTextView* sourceTextView = nullptr;
-  NumberMatrix* epsMatrix = nullptr;           ///< the picture rectangle: x, y, width, height
-  QGroupBox* epsMatrixBox = nullptr;           ///< its title says what the rectangle is
-  QLabel* previewField = nullptr;              ///< "Include Preview" or "Image"
+  NumberMatrix* epsMatrix = nullptr;  ///< the picture rectangle: x, y, width, height
+  QGroupBox* epsMatrixBox = nullptr;  ///< its title says what the rectangle is
+  QLabel* previewField = nullptr;     ///< "Include Preview" or "Image"
   QComboBox* doSaveToPopUp = nullptr;
   ZyImageView* doSaveToImageView = nullptr;
   QWidget* doSaveToAccessoryView = nullptr;

@@ -1,11 +1,12 @@
-// Printing from the document window: the rectangle that is selected or visible, the whole picture, the page layout.
+// Printing from the document window: the rectangle that is selected or visible, the whole picture, the page
+// layout.
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
 
+#include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
-#include "base/localized_string.h"
 #include "print/cups_spooler.h"
 #include "ui/print/print_interaction.h"
 #include "ui_MainWindowController.h"

@@ -10,15 +10,15 @@
 #include <algorithm>
 #include <utility>
 
-#include "document/document.h"
-#include "document/unimplemented_method.h"
-#include "desktop/alert.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
+#include "base/waiting_threads.h"
+#include "desktop/alert.h"
+#include "desktop/save_panel.h"
+#include "document/document.h"
+#include "document/unimplemented_method.h"
 #include "picture/web_image_rep.h"
 #include "ui/picture/loading_card.h"
-#include "desktop/save_panel.h"
-#include "base/waiting_threads.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
@@ -31,22 +31,28 @@ QUrl urlForType(const QUrl& url, const UTType& type) {
   if (known && *known == type) return url;
   QUrl target = url;
   // Only what names another kind of file is an extension to be replaced; "Map 1.5" keeps its name.
-  target.setPath((known ? pathWithoutExtension(url.path()) : url.path()) + u'.' + type.preferredFilenameExtension());
+  target.setPath((known ? pathWithoutExtension(url.path()) : url.path()) + u'.' +
+                 type.preferredFilenameExtension());
   return target;
 }
 
 }  // namespace
 
 QList<UTType> MainWindowController::writableTypes() const {
-  QList<UTType> types{*UTType::typeWithIdentifier(NorvexEPSType), *UTType::typeWithIdentifier(NorvexEPSIType), UTTypePDF()};
+  QList<UTType> types{*UTType::typeWithIdentifier(NorvexEPSType), *UTType::typeWithIdentifier(NorvexEPSIType),
+                      UTTypePDF()};
   if (view() && dynamic_cast<const ZyWebImageRep*>(view()->imageRep().get()))
     types << UTTypeSVG() << *UTType::typeWithIdentifier(NorvexSVGZType);
   return types << UTTypeTIFF() << UTTypePNG() << UTTypeJPEG() << UTTypeGIF();
 }
 
-void MainWindowController::saveDocumentAs(QObject*) { runSavePanel(localizedString("Save As")); }
+void MainWindowController::saveDocumentAs(QObject*) {
+  runSavePanel(localizedString("Save As"));
+}
 
-void MainWindowController::saveDocumentTo(QObject*) { runSavePanel(localizedString("Save To")); }
+void MainWindowController::saveDocumentTo(QObject*) {
+  runSavePanel(localizedString("Save To"));
+}
 
 void MainWindowController::runSavePanel(const QString& title) {
   if (!document_ || saving_ || !validateUserInterfaceItem()) return;
@@ -64,12 +70,13 @@ void MainWindowController::runSavePanel(const QString& title) {
   settings.target = [types](const QUrl& url, int type) {
     return type >= 0 && type < types.size() ? urlForType(url, types.at(type)) : url;
   };
-  savePanel().beginSheetModalForWindow(window_, settings, [this, types, target = settings.target](const SavePanelAnswer& answer) {
-    if (!answer.ok || answer.contentType < 0 || answer.contentType >= types.size()) return;
-    const QUrl url = target(answer.url, answer.contentType);
-    // From the event loop: what it may throw is for the application to tell, not for the panel to end on.
-    QTimer::singleShot(0, this, [this, url, type = types.at(answer.contentType)] { saveAs(url, type); });
-  });
+  savePanel().beginSheetModalForWindow(
+      window_, settings, [this, types, target = settings.target](const SavePanelAnswer& answer) {
+        if (!answer.ok || answer.contentType < 0 || answer.contentType >= types.size()) return;
+        const QUrl url = target(answer.url, answer.contentType);
+        // From the event loop: what it may throw is for the application to tell, not for the panel to end on.
+        QTimer::singleShot(0, this, [this, url, type = types.at(answer.contentType)] { saveAs(url, type); });
+      });
 }
 
 void MainWindowController::workBesideTheWindow(const std::function<void()>& work, const CancelToken& cancel) {
@@ -99,11 +106,12 @@ void MainWindowController::saveAs(const QUrl& url, const UTType& type) {
   document_->setAlertPresenter(alerts_);
   bool stopped = false;
   // The document asks, makes and writes in one go; only the making takes time.
-  windowProducers().setRunner([this, &stopped](const std::function<void()>& making, const CancelToken& cancel) {
-    if (stopped) return;  // some types are made in two steps
-    workBesideTheWindow(making, cancel);
-    stopped = cancel.cancelled();
-  });
+  windowProducers().setRunner(
+      [this, &stopped](const std::function<void()>& making, const CancelToken& cancel) {
+        if (stopped) return;  // some types are made in two steps
+        workBesideTheWindow(making, cancel);
+        stopped = cancel.cancelled();
+      });
   const auto end = qScopeGuard([this] {
     windowProducers().setRunner(nullptr);
     if (std::exchange(closesWhenSaved_, false)) QTimer::singleShot(0, window_, &QWidget::close);

@@ -8,16 +8,16 @@
 #include <QSettings>
 #include <QtConcurrent>
 
-#include "desktop/alert.h"
 #include "base/atomic_file.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "ui/picture/loading_card.h"
+#include "base/waiting_threads.h"
+#include "desktop/alert.h"
+#include "types/type_description.h"
 #include "ui/panels/sheet_save_panel.h"
+#include "ui/picture/loading_card.h"
 #include "ui/picture/zy_image_view.h"
 #include "ui_MainWindowController.h"
-#include "types/type_description.h"
-#include "base/waiting_threads.h"
 
 namespace norvex {
 
@@ -77,7 +77,8 @@ void MainWindowController::doSaveTo(QObject*) {
   settings.target = [sheet, popUp = doSaveToPopUp](const QUrl& url, int) {
     const int row = popUp->currentIndex();
     return row < 0 || row >= sheet->formats.count()
-               ? url : urlWithExtension(url, sheet->formats.UTIs.at(row).preferredFilenameExtension());
+               ? url
+               : urlWithExtension(url, sheet->formats.UTIs.at(row).preferredFilenameExtension());
   };
   savePanel().beginSheetModalForWindow(window_, settings, [this, sheet](const SavePanelAnswer& answer) {
     sheet->open = false;
@@ -103,23 +104,28 @@ void MainWindowController::makeSaveToFormats(const std::shared_ptr<SaveToSheet>&
       if (self && shown && shown->open) news(*self, *shown);
     });
   };
-  // One after the other, the preview first; a format that is to be written meanwhile does not wait for its turn.
-  static_cast<void>(QtConcurrent::run(&waitingThreads(), [tell, rep = sheet->formats.pdfImageRep, all = sheet->formats.DataObjects,
-                                       cancel = sheet->formats.cancel] {
-    if (rep)
-      tell([made = rep->get()](MainWindowController& c, SaveToSheet&) { c.doSaveToImageView->setImageRep(made); });
-    for (const std::shared_ptr<PromisedData>& data : all) {
-      if (cancel.cancelled()) return;
-      if (data->get().isEmpty())
-        tell([data](MainWindowController& c, SaveToSheet& shown) { c.removeSaveToFormat(shown, data); });
-    }
-  }));
+  // One after the other, the preview first; a format that is to be written meanwhile does not wait for its
+  // turn.
+  static_cast<void>(QtConcurrent::run(
+      &waitingThreads(), [tell, rep = sheet->formats.pdfImageRep, all = sheet->formats.DataObjects,
+                          cancel = sheet->formats.cancel] {
+        if (rep)
+          tell([made = rep->get()](MainWindowController& c, SaveToSheet&) {
+            c.doSaveToImageView->setImageRep(made);
+          });
+        for (const std::shared_ptr<PromisedData>& data : all) {
+          if (cancel.cancelled()) return;
+          if (data->get().isEmpty())
+            tell([data](MainWindowController& c, SaveToSheet& shown) { c.removeSaveToFormat(shown, data); });
+        }
+      }));
 }
 
 void MainWindowController::removeSaveToFormat(SaveToSheet& sheet, const std::shared_ptr<PromisedData>& data) {
   const qsizetype row = sheet.formats.DataObjects.indexOf(data);
   if (row < 0) return;
-  ui_->doSaveToNote->setText(localizedString("Not possible for this picture: %1").arg(localizedDescription(sheet.formats.UTIs.at(row))));
+  ui_->doSaveToNote->setText(localizedString("Not possible for this picture: %1")
+                                 .arg(localizedDescription(sheet.formats.UTIs.at(row))));
   const bool chosen = doSaveToPopUp->currentIndex() == row;
   sheet.formats.removeAt(row);
   doSaveToPopUp->removeItem(int(row));
@@ -136,7 +142,9 @@ void MainWindowController::saveTo(const std::shared_ptr<SaveToSheet>& sheet, con
   loadingCard_->begin(localizedString("Writing…"));
   QPointer<MainWindowController> self(this);
   // The sheet is held until the file is written: letting go of it ends what is being made.
-  QtConcurrent::run(&waitingThreads(), [path, data] { return writeTo(path, data); }).then(qApp, [self, sheet, path, url](const Result<void>& written) {
+  QtConcurrent::run(&waitingThreads(), [path, data] {
+    return writeTo(path, data);
+  }).then(qApp, [self, sheet, path, url](const Result<void>& written) {
     if (!self) return;
     --self->writing_;
     self->followRendering();

@@ -5,18 +5,18 @@
 #include <QLabel>
 #include <QMainWindow>
 
-#include "document/document.h"
 #include "base/localized_string.h"
+#include "document/document.h"
 #include "ui/controls/color_well.h"
 #include "ui/controls/number_field.h"
 #include "ui/controls/number_matrix.h"
 #include "ui/controls/path_control.h"
-#include "ui/style/quiet_text.h"
-#include "ui/source/source_text_view.h"
-#include "ui/picture/zooming_scroll_area.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
+#include "ui/source/source_text_view.h"
+#include "ui/style/quiet_text.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 
@@ -74,14 +74,16 @@ void MainWindowController::setUpTitles() {
 
 void MainWindowController::setUpToolbarItems() {
   setUpItem(*inspectorToolbarItem, "Inspector", nullptr);
-  setUpItem(*copyToolbarItem, "Copy", "The range of the selection or visible rect are copied onto the paste board.");
+  setUpItem(*copyToolbarItem, "Copy",
+            "The range of the selection or visible rect are copied onto the paste board.");
   setUpItem(*doPrintingToolbarItem, "Print", "The range of the selection or visible rect are printed.");
   setUpItem(*doSaveToToolbarItem, "SaveTo", "Selected range of image data is written or displayed.");
 }
 
 void MainWindowController::applyBackgroundState(int state) {
   scrollArea_->setDrawsBackground(state != Qt::Unchecked);
-  // There are no windows to see through here: where the background is clear a checkerboard stands for what is behind.
+  // There are no windows to see through here: where the background is clear a checkerboard stands for what is
+  // behind.
   window_->setProperty("opaque", state != Qt::Unchecked);
 }
 
@@ -102,8 +104,9 @@ void MainWindowController::setUpTexts() {
     ZyForm* form;
     const char* title;
   };
-  const Titled all[] = {{titleForm(), "Title:"},         {creatorForm(), "Creator:"},     {creationDateForm(), "Created:"},
-                        {forForm(), "For:"},             {copyrightForm(), "Copyright:"}, {encodingForm(), "Encoding:"}};
+  const Titled all[] = {{titleForm(), "Title:"},          {creatorForm(), "Creator:"},
+                        {creationDateForm(), "Created:"}, {forForm(), "For:"},
+                        {copyrightForm(), "Copyright:"},  {encodingForm(), "Encoding:"}};
   ui_->boundingBoxForm->setTitle(0, localizedString("Bounding box:"));
   ui_->boundingBoxForm->setTitle(1, localizedString("High resolution:"));
   ui_->usesForm->setTitle(0, localizedString("Fonts:"));

@@ -1,5 +1,4 @@
 // The document window's size.
-#include <QWindowStateChangeEvent>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -7,6 +6,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QToolBar>
+#include <QWindowStateChangeEvent>
 
 #include "display/norvex_view.h"
 #include "ui/picture/zooming_scroll_area.h"
@@ -19,14 +19,19 @@ namespace norvex {
 namespace {
 
 /// y down on the screen, y up in the rule.
-QRectF upright(const QRect& rect) { return {double(rect.x()), double(-(rect.y() + rect.height())), double(rect.width()), double(rect.height())}; }
+QRectF upright(const QRect& rect) {
+  return {double(rect.x()), double(-(rect.y() + rect.height())), double(rect.width()), double(rect.height())};
+}
 
 QRect onScreen(const QRectF& rect) {
   const int height = static_cast<int>(std::ceil(rect.height() - 1e-6));
-  return {static_cast<int>(rect.x()), static_cast<int>(-rect.y()) - height, static_cast<int>(std::ceil(rect.width() - 1e-6)), height};
+  return {static_cast<int>(rect.x()), static_cast<int>(-rect.y()) - height,
+          static_cast<int>(std::ceil(rect.width() - 1e-6)), height};
 }
 
-int limited(double length) { return static_cast<int>(std::ceil(std::min(length, double(QWIDGETSIZE_MAX)) - 1e-6)); }
+int limited(double length) {
+  return static_cast<int>(std::ceil(std::min(length, double(QWIDGETSIZE_MAX)) - 1e-6));
+}
 
 }  // namespace
 
@@ -50,13 +55,16 @@ WindowMeasures MainWindowController::windowMeasures() const {
   measures.minimum = window_->minimumSize();
   measures.visibleArea = scrollArea_->contentSize();
   const QWidget* content = window_->centralWidget();
-  const int contentRectHeight = window_->height() - (ui_->menuBar->isVisibleTo(window_) ? ui_->menuBar->height() : 0);
+  const int contentRectHeight =
+      window_->height() - (ui_->menuBar->isVisibleTo(window_) ? ui_->menuBar->height() : 0);
   measures.toolbarHeight = toolbarHeight(ui_->toolbar->isVisibleTo(window_), contentRectHeight,
                                          content ? std::optional<double>(content->height()) : std::nullopt);
   return measures;
 }
 
-QSizeF MainWindowController::calcWindowMaxSize(const QSizeF& size) const { return windowMaxSize(windowMeasures(), size); }
+QSizeF MainWindowController::calcWindowMaxSize(const QSizeF& size) const {
+  return windowMaxSize(windowMeasures(), size);
+}
 
 void MainWindowController::setWindowSize() {
   if (!window_ || holdsWindowSize_) return;
@@ -68,11 +76,14 @@ void MainWindowController::setWindowSize() {
   const QSizeF viewSize = view() ? view()->frame().size() : QSizeF(0, 0);
   const WindowSize rule = windowSize(measures, viewSize, zoomFactor_);
   // This platform's maximum counts the toolbar, the rule's does not.
-  window_->setMaximumSize(limited(rule.maximum.width()), limited(rule.maximum.height() + measures.toolbarHeight));
+  window_->setMaximumSize(limited(rule.maximum.width()),
+                          limited(rule.maximum.height() + measures.toolbarHeight));
   if (rule.frame == measures.frame || window_->isMaximized()) return;
   // Before the window is on the screen its place is the window manager's to choose.
-  if (window_->isVisible()) window_->setGeometry(onScreen(rule.frame));
-  else window_->resize(onScreen(rule.frame).size());
+  if (window_->isVisible())
+    window_->setGeometry(onScreen(rule.frame));
+  else
+    window_->resize(onScreen(rule.frame).size());
 }
 
 void MainWindowController::windowStateDidChange(const QWindowStateChangeEvent& event) {

@@ -4,8 +4,8 @@
 #include <QMainWindow>
 
 #include "document/document.h"
-#include "ui/style/symbolic_icon.h"
 #include "ui/controls/touch_strip.h"
+#include "ui/style/symbolic_icon.h"
 #include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 
@@ -15,18 +15,25 @@ namespace {
 
 QIcon iconFor(TouchBarAction action) {
   switch (action) {
-    case TouchBarAction::SaveDocumentAs: return symbolicIcon(Symbol::SaveAs);
-    case TouchBarAction::SaveDocumentTo: return symbolicIcon(Symbol::SaveTo);
-    case TouchBarAction::RevertDocumentToSaved: return symbolicIcon(Symbol::Reload);
-    case TouchBarAction::Copy: return symbolicIcon(Symbol::Copy);
-    case TouchBarAction::PrintDocument: return symbolicIcon(Symbol::Print);
+    case TouchBarAction::SaveDocumentAs:
+      return symbolicIcon(Symbol::SaveAs);
+    case TouchBarAction::SaveDocumentTo:
+      return symbolicIcon(Symbol::SaveTo);
+    case TouchBarAction::RevertDocumentToSaved:
+      return symbolicIcon(Symbol::Reload);
+    case TouchBarAction::Copy:
+      return symbolicIcon(Symbol::Copy);
+    case TouchBarAction::PrintDocument:
+      return symbolicIcon(Symbol::Print);
   }
   return {};
 }
 
 }  // namespace
 
-NSTouchBar MainWindowController::makeTouchBar() { return mainWindowTouchBar(*this); }
+NSTouchBar MainWindowController::makeTouchBar() {
+  return mainWindowTouchBar(*this);
+}
 
 std::optional<NSCustomTouchBarItem> MainWindowController::touchBar(const NSTouchBar& touchBar,
                                                                    const QString& makeItemForIdentifier) {
@@ -35,11 +42,16 @@ std::optional<NSCustomTouchBarItem> MainWindowController::touchBar(const NSTouch
 
 void MainWindowController::performTouchBarAction(TouchBarAction action) {
   switch (action) {
-    case TouchBarAction::SaveDocumentAs: return saveDocumentAs();
-    case TouchBarAction::SaveDocumentTo: return saveDocumentTo();
-    case TouchBarAction::RevertDocumentToSaved: return reload();
-    case TouchBarAction::Copy: return copy();
-    case TouchBarAction::PrintDocument: return printDocument();
+    case TouchBarAction::SaveDocumentAs:
+      return saveDocumentAs();
+    case TouchBarAction::SaveDocumentTo:
+      return saveDocumentTo();
+    case TouchBarAction::RevertDocumentToSaved:
+      return reload();
+    case TouchBarAction::Copy:
+      return copy();
+    case TouchBarAction::PrintDocument:
+      return printDocument();
   }
 }
 

@@ -16,7 +16,9 @@ const QString kPasteboardTypeTIFF = QStringLiteral("public.tiff");
 
 using Raster = QByteArray (PictureEncoder::*)(const std::shared_ptr<NSImageRep>&);
 
-UTType epsType() { return *UTType::typeWithIdentifier(NorvexEPSType); }
+UTType epsType() {
+  return *UTType::typeWithIdentifier(NorvexEPSType);
+}
 
 /// An encoder of one task: an encoder serves one thread at a time.
 QByteArray encoded(const PictureSnapshot& snapshot, const CancelToken& cancel, Raster raster,
@@ -46,7 +48,8 @@ std::shared_ptr<NSPDFImageRep> pdfImageRepOf(const PictureSnapshot& snapshot, co
 }
 
 bool hasRect(const PictureSnapshot& snapshot) {
-  return snapshot.imageRep && isFinite(snapshot.rect) && snapshot.rect.width() > 0 && snapshot.rect.height() > 0;
+  return snapshot.imageRep && isFinite(snapshot.rect) && snapshot.rect.width() > 0 &&
+         snapshot.rect.height() > 0;
 }
 
 std::shared_ptr<PromisedData> appendPdf(PictureFormats& formats, const PictureSnapshot& snapshot) {
@@ -60,13 +63,15 @@ std::shared_ptr<PromisedData> appendPdf(PictureFormats& formats, const PictureSn
 }
 
 /// `needed`: bytes without which this format is left out; null: none.
-void appendEps(PictureFormats& formats, const PictureSnapshot& snapshot, const std::shared_ptr<PromisedData>& needed) {
+void appendEps(PictureFormats& formats, const PictureSnapshot& snapshot,
+               const std::shared_ptr<PromisedData>& needed) {
   formats.append(NorvexEPSType, epsType(), [snapshot, needed, cancel = formats.cancel] {
     return needed && needed->get().isEmpty() ? QByteArray() : insideRect(snapshot, cancel, VectorFormat::Eps);
   });
 }
 
-std::function<QByteArray()> rasterOfPdf(const PictureFormats& formats, const PictureSnapshot& snapshot, Raster raster) {
+std::function<QByteArray()> rasterOfPdf(const PictureFormats& formats, const PictureSnapshot& snapshot,
+                                        Raster raster) {
   return [snapshot, raster, rep = formats.pdfImageRep, cancel = formats.cancel] {
     return encoded(snapshot, cancel, raster, rep->get());
   };
@@ -79,8 +84,9 @@ std::function<QByteArray()> tiffOfSvg(const PictureFormats& formats, const Pictu
     const auto& source = static_cast<const ZyWebImageRep&>(*snapshot.imageRep);
     const QByteArray svg = cut->get();
     if (svg.isEmpty() || !snapshot.surroundings.service) return QByteArray();
-    const auto rep = ZyWebImageRep::imageRepWithData(*snapshot.surroundings.service, svg,
-                                                     source.valueForKey(QStringLiteral("fileURL")).toUrl(), {}, cancel);
+    const auto rep =
+        ZyWebImageRep::imageRepWithData(*snapshot.surroundings.service, svg,
+                                        source.valueForKey(QStringLiteral("fileURL")).toUrl(), {}, cancel);
     if (!rep) return QByteArray();
     const QByteArray tiff = encoded(snapshot, cancel, &PictureEncoder::tiffData, *rep);
     return tiff.isEmpty() ? encoded(snapshot, cancel, &PictureEncoder::tiffData, pdf->get()) : tiff;
@@ -100,7 +106,8 @@ void appendSvgFormats(PictureFormats& formats, const PictureSnapshot& snapshot) 
 
 }  // namespace
 
-void PictureFormats::append(const QString& pasteboardType, const UTType& type, std::function<QByteArray()> make) {
+void PictureFormats::append(const QString& pasteboardType, const UTType& type,
+                            std::function<QByteArray()> make) {
   Types << pasteboardType;
   UTIs << type;
   DataObjects << std::make_shared<PromisedData>(std::move(make));
@@ -139,7 +146,8 @@ PictureFormats selectionFormats(const PictureSnapshot& snapshot) {
   } else {
     return formats;
   }
-  formats.append(kPasteboardTypeTIFF, UTTypeTIFF(), rasterOfPdf(formats, snapshot, &PictureEncoder::tiffData));
+  formats.append(kPasteboardTypeTIFF, UTTypeTIFF(),
+                 rasterOfPdf(formats, snapshot, &PictureEncoder::tiffData));
   return formats;
 }
 
@@ -147,7 +155,8 @@ PictureFormats wholePictureFormats(const PictureSnapshot& snapshot) {
   PictureFormats formats;
   const std::shared_ptr<NSImageRep>& rep = snapshot.imageRep;
   if (const auto svg = std::dynamic_pointer_cast<ZyWebImageRep>(rep)) {
-    formats.append(QString::fromLatin1(ZySVGPboardType), *UTType::typeWithIdentifier(QString::fromLatin1(ZySVGDocumentTypeName)),
+    formats.append(QString::fromLatin1(ZySVGPboardType),
+                   *UTType::typeWithIdentifier(QString::fromLatin1(ZySVGDocumentTypeName)),
                    [svg] { return svg->SVGRepresentation(); });
     formats.append(kPasteboardTypePDF, UTTypePDF(), [svg] { return svg->PDFRepresentation(); });
     formats.append(NorvexEPSType, epsType(), [svg] { return svg->EPSRepresentation(); });
@@ -164,9 +173,12 @@ PictureFormats wholePictureFormats(const PictureSnapshot& snapshot) {
 
 void appendRasterFormats(PictureFormats& formats, const PictureSnapshot& snapshot) {
   if (!formats.pdfImageRep) return;
-  formats.append(UTTypePNG().identifier(), UTTypePNG(), rasterOfPdf(formats, snapshot, &PictureEncoder::pngData));
-  formats.append(UTTypeJPEG().identifier(), UTTypeJPEG(), rasterOfPdf(formats, snapshot, &PictureEncoder::jpgData));
-  formats.append(UTTypeGIF().identifier(), UTTypeGIF(), rasterOfPdf(formats, snapshot, &PictureEncoder::gifData));
+  formats.append(UTTypePNG().identifier(), UTTypePNG(),
+                 rasterOfPdf(formats, snapshot, &PictureEncoder::pngData));
+  formats.append(UTTypeJPEG().identifier(), UTTypeJPEG(),
+                 rasterOfPdf(formats, snapshot, &PictureEncoder::jpgData));
+  formats.append(UTTypeGIF().identifier(), UTTypeGIF(),
+                 rasterOfPdf(formats, snapshot, &PictureEncoder::gifData));
 }
 
 std::shared_ptr<PromisedData> pngOf(const PictureFormats& formats, const PictureSnapshot& snapshot) {

@@ -7,29 +7,30 @@
 
 #include <memory>
 
+#include "base/cancel_token.h"
+#include "base/promised_value.h"
 #include "display/view_compose.h"
 #include "encoders/encoder_surroundings.h"
-#include "base/cancel_token.h"
 #include "picture/image_rep.h"
 #include "picture/pdf_image_rep.h"
-#include "base/promised_value.h"
 #include "types/uniform_type.h"
 
 namespace norvex {
 
-/// Bytes of one format. Asking for them blocks for the picture process; empty: they could not be made. Any thread.
+/// Bytes of one format. Asking for them blocks for the picture process; empty: they could not be made. Any
+/// thread.
 using PromisedData = PromisedValue<QByteArray>;
 
-/// What is handed on: the picture as the window showed it at one moment. Later changes of the view change nothing in
-/// it. A value; any thread.
+/// What is handed on: the picture as the window showed it at one moment. Later changes of the view change
+/// nothing in it. A value; any thread.
 struct PictureSnapshot {
   std::shared_ptr<NSImageRep> imageRep;  ///< null: no picture
-  PicturePlacement placement;            ///< how the view placed it; the angle is the view's, radians 0 … 2π
-  QRectF rect;                           ///< what is handed on; view coordinates (y up), points
-  QRectF frame;                          ///< the view's
-  bool clockwise = false;                ///< of the dial
-  bool flippedCoordinate = false;        ///< of the view
-  EncoderSurroundings surroundings;      ///< of the rasters; the service in it outlives every use
+  PicturePlacement placement;        ///< how the view placed it; the angle is the view's, radians 0 … 2π
+  QRectF rect;                       ///< what is handed on; view coordinates (y up), points
+  QRectF frame;                      ///< the view's
+  bool clockwise = false;            ///< of the dial
+  bool flippedCoordinate = false;    ///< of the view
+  EncoderSurroundings surroundings;  ///< of the rasters; the service in it outlives every use
 };
 
 /// Where an SVG document is cut, and how far it is turned.
@@ -42,11 +43,11 @@ struct SvgCut {
 
 /// A growable list of formats: the elements of the same index of the three lists belong together.
 struct PictureFormats {
-  QStringList Types;                                ///< pasteboard types
-  QList<UTType> UTIs;                               ///< types of the bytes as files
+  QStringList Types;   ///< pasteboard types
+  QList<UTType> UTIs;  ///< types of the bytes as files
   QList<std::shared_ptr<PromisedData>> DataObjects;
-  /// The picture of the PDF format, made from its bytes and living in the main thread; null without a PDF format, its
-  /// value null when there are no bytes. Any thread may ask.
+  /// The picture of the PDF format, made from its bytes and living in the main thread; null without a PDF
+  /// format, its value null when there are no bytes. Any thread may ask.
   std::shared_ptr<PromisedValue<std::shared_ptr<NSPDFImageRep>>> pdfImageRep;
   /// Ends what is being made for this list.
   CancelToken cancel;
@@ -58,18 +59,20 @@ struct PictureFormats {
   [[nodiscard]] qsizetype indexOf(const UTType& type) const { return UTIs.indexOf(type); }
 };
 
-/// The formats of the snapshot's rectangle, best first: EPS, PDF, TIFF of an EPS picture; PDF, EPS, TIFF of a PDF; SVG,
-/// PDF, EPS, TIFF of an SVG; none of others. Makes no bytes yet; leaves out at once what is known to have none.
+/// The formats of the snapshot's rectangle, best first: EPS, PDF, TIFF of an EPS picture; PDF, EPS, TIFF of a
+/// PDF; SVG, PDF, EPS, TIFF of an SVG; none of others. Makes no bytes yet; leaves out at once what is known
+/// to have none.
 [[nodiscard]] PictureFormats selectionFormats(const PictureSnapshot& snapshot);
 
-/// The formats of the whole, unturned picture that its representation has by itself: SVG, PDF, EPS, TIFF of an SVG;
-/// EPS of an EPS; PDF of a PDF.
+/// The formats of the whole, unturned picture that its representation has by itself: SVG, PDF, EPS, TIFF of
+/// an SVG; EPS of an EPS; PDF of a PDF.
 [[nodiscard]] PictureFormats wholePictureFormats(const PictureSnapshot& snapshot);
 
 /// Adds PNG, JPEG and GIF of the list's PDF format; nothing without one.
 void appendRasterFormats(PictureFormats& formats, const PictureSnapshot& snapshot);
 
 /// PNG of the list's PDF format, for programs that take nothing better; null without one.
-[[nodiscard]] std::shared_ptr<PromisedData> pngOf(const PictureFormats& formats, const PictureSnapshot& snapshot);
+[[nodiscard]] std::shared_ptr<PromisedData> pngOf(const PictureFormats& formats,
+                                                  const PictureSnapshot& snapshot);
 
 }  // namespace norvex

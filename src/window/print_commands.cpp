@@ -18,7 +18,8 @@ constexpr int kPanelControls =
 }  // namespace
 
 std::unique_ptr<NSPrintOperation> PrintCommands::rectangleOperation(NorvexView& view, const QRectF& rect,
-                                                                    Document& document, const QString& windowTitle,
+                                                                    Document& document,
+                                                                    const QString& windowTitle,
                                                                     PrintServices services) {
   services.pictures = &document.pictureService();
   std::shared_ptr<NSImageRep> imageRep;
@@ -41,7 +42,8 @@ void PrintCommands::run(std::unique_ptr<NSPrintOperation> operation) {
   NSPrintOperation* const running = operation.get();
   operations_.push_back(std::move(operation));
   // Queued: the operation must not be destroyed from inside its own runOperation().
-  connect(running, &NSPrintOperation::finished, this, [this, running] { drop(running); }, Qt::QueuedConnection);
+  connect(
+      running, &NSPrintOperation::finished, this, [this, running] { drop(running); }, Qt::QueuedConnection);
   running->runOperation();
 }
 

@@ -13,15 +13,18 @@ namespace norvex {
 class Document;
 class NorvexView;
 
-/// Keeps the operations of a window until their jobs are over. Main thread; destroying it cancels what still runs.
+/// Keeps the operations of a window until their jobs are over. Main thread; destroying it cancels what still
+/// runs.
 class PrintCommands final : public QObject {
   Q_OBJECT
  public:
   explicit PrintCommands(QObject* parent = nullptr) : QObject(parent) {}
 
   /// The part `rect` of `view` (view coordinates) as a view of its own, with its own picture of it.
-  [[nodiscard]] static std::unique_ptr<NSPrintOperation> rectangleOperation(NorvexView& view, const QRectF& rect,
-                                                                            Document& document, const QString& windowTitle,
+  [[nodiscard]] static std::unique_ptr<NSPrintOperation> rectangleOperation(NorvexView& view,
+                                                                            const QRectF& rect,
+                                                                            Document& document,
+                                                                            const QString& windowTitle,
                                                                             PrintServices services);
   /// Runs the operation and keeps it as long as it takes. Null is nothing.
   void run(std::unique_ptr<NSPrintOperation> operation);

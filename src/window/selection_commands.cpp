@@ -2,8 +2,8 @@
 
 #include <QMenu>
 
-#include "display/norvex_view.h"
 #include "base/localized_string.h"
+#include "display/norvex_view.h"
 #include "ui/picture/zooming_scroll_area.h"
 
 namespace norvex {
@@ -21,7 +21,8 @@ constexpr double kSmallStep = 1, kLargeStep = 10;  // points
 
 }  // namespace
 
-SelectionCommands::SelectionCommands(QMenu& menu, QAction* before, NorvexView& view, ZoomingScrollArea& area, QObject* parent)
+SelectionCommands::SelectionCommands(QMenu& menu, QAction* before, NorvexView& view, ZoomingScrollArea& area,
+                                     QObject* parent)
     : QObject(parent), view_(view), area_(area) {
   addMenu(menu, before, Deed::Move);
   addMenu(menu, before, Deed::Resize);
@@ -36,7 +37,8 @@ void SelectionCommands::addMenu(QMenu& menu, QAction* before, Deed deed) {
       {"Down by %1 pt", "Lower by %1 pt", Qt::Key_Down, {0, -1}},
   };
   auto* made = new QMenu(localizedString(deed == Deed::Move ? "Move Selection" : "Resize Selection"), &menu);
-  made->menuAction()->setObjectName(deed == Deed::Move ? QStringLiteral("moveSelectionMenu") : QStringLiteral("resizeSelectionMenu"));
+  made->menuAction()->setObjectName(deed == Deed::Move ? QStringLiteral("moveSelectionMenu")
+                                                       : QStringLiteral("resizeSelectionMenu"));
   menu.insertMenu(before, made);
   for (const double points : {kSmallStep, kLargeStep}) {
     for (const Direction& direction : directions) addCommand(*made, deed, direction, points);
@@ -55,8 +57,10 @@ void SelectionCommands::addCommand(QMenu& menu, Deed deed, const Direction& dire
   area_.addAction(command);
   const QPointF step = direction.unit * points;
   connect(command, &QAction::triggered, this, [this, deed, step] {
-    if (deed == Deed::Move) view_.moveSelection(step);
-    else view_.resizeSelection(step);
+    if (deed == Deed::Move)
+      view_.moveSelection(step);
+    else
+      view_.resizeSelection(step);
   });
   commands_ << command;
 }

@@ -5,8 +5,8 @@
 
 namespace norvex {
 
-/// A sentence in the user's language from the three texts of a selection report: pairs of numbers separated by white
-/// space, or empty. Pure; any thread.
+/// A sentence in the user's language from the three texts of a selection report: pairs of numbers separated
+/// by white space, or empty. Pure; any thread.
 [[nodiscard]] QString selectionDescription(const QString& start, const QString& end, const QString& area);
 
 }  // namespace norvex

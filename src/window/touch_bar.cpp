@@ -16,11 +16,15 @@ struct Row {
 };
 
 constexpr std::array<Row, 5> kRows{{
-    {"com.Norvex.mainWindowController.saveas", "SaveAs", TouchBarTarget::Document, TouchBarAction::SaveDocumentAs},
-    {"com.Norvex.mainWindowController.saveto", "SaveTo", TouchBarTarget::Document, TouchBarAction::SaveDocumentTo},
-    {"com.Norvex.mainWindowController.reload", "Reload", TouchBarTarget::Document, TouchBarAction::RevertDocumentToSaved},
+    {"com.Norvex.mainWindowController.saveas", "SaveAs", TouchBarTarget::Document,
+     TouchBarAction::SaveDocumentAs},
+    {"com.Norvex.mainWindowController.saveto", "SaveTo", TouchBarTarget::Document,
+     TouchBarAction::SaveDocumentTo},
+    {"com.Norvex.mainWindowController.reload", "Reload", TouchBarTarget::Document,
+     TouchBarAction::RevertDocumentToSaved},
     {"com.Norvex.mainWindowController.copy", "Copy", TouchBarTarget::Controller, TouchBarAction::Copy},
-    {"com.Norvex.mainWindowController.print", "Print", TouchBarTarget::Document, TouchBarAction::PrintDocument},
+    {"com.Norvex.mainWindowController.print", "Print", TouchBarTarget::Document,
+     TouchBarAction::PrintDocument},
 }};
 
 }  // namespace
@@ -40,11 +44,13 @@ NSTouchBar mainWindowTouchBar(NSTouchBarDelegate& delegate) {
   return bar;
 }
 
-std::optional<NSCustomTouchBarItem> mainWindowTouchBarItem(const NSTouchBar& touchBar, const QString& identifier) {
+std::optional<NSCustomTouchBarItem> mainWindowTouchBarItem(const NSTouchBar& touchBar,
+                                                           const QString& identifier) {
   const qsizetype index = touchBar.defaultItemIdentifiers.indexOf(identifier);
   if (index < 0 || index >= qsizetype(kRows.size())) return std::nullopt;
   const Row& row = kRows.at(size_t(index));
-  return NSCustomTouchBarItem{QString::fromLatin1(row.identifier), localizedString(row.titleKey), row.target, row.action, 0.0F};
+  return NSCustomTouchBarItem{QString::fromLatin1(row.identifier), localizedString(row.titleKey), row.target,
+                              row.action, 0.0F};
 }
 
 }  // namespace norvex

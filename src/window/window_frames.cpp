@@ -15,7 +15,9 @@ QSettings settings() {
 
 const QString kTouchBar = QStringLiteral("views/touchBar");
 
-QString keyFor(const QString& autosaveName) { return QStringLiteral("frames/") + autosaveName; }
+QString keyFor(const QString& autosaveName) {
+  return QStringLiteral("frames/") + autosaveName;
+}
 
 }  // namespace
 
@@ -24,10 +26,16 @@ QRect savedWindowFrame(const QString& autosaveName) {
   return frame.width() >= 100 && frame.height() >= 100 ? frame : QRect();
 }
 
-void saveWindowFrame(const QString& autosaveName, const QRect& frame) { settings().setValue(keyFor(autosaveName), frame); }
+void saveWindowFrame(const QString& autosaveName, const QRect& frame) {
+  settings().setValue(keyFor(autosaveName), frame);
+}
 
-bool savedTouchBarIsShown() { return settings().value(kTouchBar).toBool(); }
+bool savedTouchBarIsShown() {
+  return settings().value(kTouchBar).toBool();
+}
 
-void saveTouchBarIsShown(bool shown) { settings().setValue(kTouchBar, shown); }
+void saveTouchBarIsShown(bool shown) {
+  settings().setValue(kTouchBar, shown);
+}
 
 }  // namespace norvex

@@ -10,7 +10,8 @@ namespace norvex {
 [[nodiscard]] QRect savedWindowFrame(const QString& autosaveName);
 void saveWindowFrame(const QString& autosaveName, const QRect& frame);
 
-/// Whether new windows show the touch strip; it is remembered in the same place. False before it was ever shown.
+/// Whether new windows show the touch strip; it is remembered in the same place. False before it was ever
+/// shown.
 [[nodiscard]] bool savedTouchBarIsShown();
 void saveTouchBarIsShown(bool shown);
 

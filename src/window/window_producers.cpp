@@ -4,7 +4,8 @@ namespace norvex {
 
 PictureEncoder WindowProducers::encoder(const CancelToken& cancel) const {
   const Shown shown = showing_();
-  EncoderSurroundings surroundings = shown.service ? usualSurroundings(*shown.service) : EncoderSurroundings();
+  EncoderSurroundings surroundings =
+      shown.service ? usualSurroundings(*shown.service) : EncoderSurroundings();
   surroundings.iccProfile = shown.colorSpace.isValid() ? shown.colorSpace.iccProfile() : QByteArray();
   return {shown.imageRep, surroundings, cancel};
 }
@@ -14,8 +15,10 @@ QByteArray WindowProducers::make(const std::function<QByteArray(PictureEncoder&)
   PictureEncoder made = encoder(cancel);
   QByteArray bytes;
   const auto making = [&] { bytes = produce(made); };
-  if (runner_) runner_(making, cancel);
-  else making();
+  if (runner_)
+    runner_(making, cancel);
+  else
+    making();
   lastReport_ = made.report();
   return bytes;
 }

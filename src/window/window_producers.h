@@ -5,9 +5,9 @@
 
 #include <functional>
 
+#include "base/cancel_token.h"
 #include "document/picture_producers.h"
 #include "encoders/picture_encoder.h"
-#include "base/cancel_token.h"
 
 namespace norvex {
 

@@ -101,8 +101,7 @@ DocumentServer::Answer DocumentServer::serve(const RenderRequest& request, FileD
   if (image->size() != request.pixelSize) return {notDone(), {}};
   Result<FileDescriptor> pixels = SealedMemory::seal(image->row(0), image->byteCount());
   if (!pixels) return {pixels.error(), {}};
-  return {BitmapReply{image->size(), image->bytesPerRow(), engine_->drawingRemarks()},
-          std::move(*pixels)};
+  return {BitmapReply{image->size(), image->bytesPerRow(), engine_->drawingRemarks()}, std::move(*pixels)};
 }
 
 DocumentServer::Answer DocumentServer::serve(const PdfRequest& request, FileDescriptor) {

@@ -1,5 +1,5 @@
-// The parts into which the engines are cut, each with the libraries that it takes. Free of Qt, because the program
-// that starts a picture process looks into it before Qt is loaded.
+// The parts into which the engines are cut, each with the libraries that it takes. Free of Qt, because the
+// program that starts a picture process looks into it before Qt is loaded.
 #pragma once
 
 #include <array>

@@ -5,9 +5,9 @@
 
 namespace norvex {
 
-/// Opens pictures of our own, draws them and writes them in other formats, as far as the engines can: libraries
-/// then have their types registered, their expressions compiled and their tables made, and forked processes
-/// inherit that. Starts no thread: the SVG has neither text nor filters.
+/// Opens pictures of our own, draws them and writes them in other formats, as far as the engines can:
+/// libraries then have their types registered, their expressions compiled and their tables made, and forked
+/// processes inherit that. Starts no thread: the SVG has neither text nor filters.
 void rehearse(const EngineSet& engines);
 
 }  // namespace norvex

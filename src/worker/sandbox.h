@@ -12,9 +12,9 @@ namespace norvex {
 /// one thread, before the first byte of a document is read.
 ///
 /// Built so far: no new privileges; no core files; limits on address space, file size and open files; the
-/// scratch folder (empty: none) as temporary folder; first choice of the system when memory runs out. NOT built
-/// yet: the Landlock rules and the seccomp filter. Until they are, a document that takes over an engine can read
-/// what the user can read.
+/// scratch folder (empty: none) as temporary folder; first choice of the system when memory runs out. NOT
+/// built yet: the Landlock rules and the seccomp filter. Until they are, a document that takes over an engine
+/// can read what the user can read.
 ///
 /// Fails with NoSandbox; the process must then refuse every request.
 ///

@@ -33,8 +33,9 @@ struct WorkerEngines {
 /// NEEDS is the number of the PictureNeeds that are expected, whose engines are asked for at once; 0: nobody
 /// knows. The scratch root is removed at the end.
 int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines);
-/// Runs `norvex-picture-…` with the line to the only picture of a run as descriptor 3: what a forked child does, but
-/// that nobody forked it and that it gets no scratch folder. Ends with the line, or with the thread that started it.
+/// Runs `norvex-picture-…` with the line to the only picture of a run as descriptor 3: what a forked child
+/// does, but that nobody forked it and that it gets no scratch folder. Ends with the line, or with the thread
+/// that started it.
 int runPictureProgram(const EngineSet& engines);
 /// The same as runWorkerProgram() for other children (tests).
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp = {},

@@ -5,11 +5,11 @@
 
 #include <new>
 
+#include "application/application.h"
 #include "document/document.h"
 #include "document/unimplemented_method.h"
 #include "kit/test_main.h"
 #include "picture/process/null_picture_service.h"
-#include "application/application.h"
 
 using namespace norvex;
 
@@ -30,7 +30,8 @@ class ApplicationEventsTest : public QObject {
   void whatCanBeDoneIsToldInPlaceOfWhatIsNotDone() {
     ApplicationEvents events;
     QSignalSpy failed(&events, &ApplicationEvents::operationFailed);
-    events.guard([]() -> bool { throw UnimplementedMethod("dataOfType:error:", "Please retry with other format."); });
+    events.guard(
+        []() -> bool { throw UnimplementedMethod("dataOfType:error:", "Please retry with other format."); });
     QTRY_COMPARE(failed.size(), 1);
     QCOMPARE(failed.first().first().toString(), QString("Please retry with other format"));
   }
@@ -41,7 +42,8 @@ class ApplicationEventsTest : public QObject {
     NullPictureService service;
     const Document document(service, nullptr);
     QPushButton button;
-    connect(&button, &QPushButton::clicked, &button, [&] { document.readFromData(QByteArray("x"), "public.gif"); });
+    connect(&button, &QPushButton::clicked, &button,
+            [&] { document.readFromData(QByteArray("x"), "public.gif"); });
     bool wentOn = false;
     events.guard([&] {
       button.click();
@@ -98,7 +100,8 @@ class ApplicationEventsTest : public QObject {
   }
 
   void fileArgumentsArePathsOrAddresses() {
-    const QList<QUrl> urls = fileURLs({"norvex", "/tmp/a%20b.eps", "file:///tmp/c%20d.eps", "e.svg", "--", "--odd.pdf", "--"});
+    const QList<QUrl> urls =
+        fileURLs({"norvex", "/tmp/a%20b.eps", "file:///tmp/c%20d.eps", "e.svg", "--", "--odd.pdf", "--"});
     QCOMPARE(urls.size(), 5);
     QCOMPARE(urls[0].toLocalFile(), QString("/tmp/a%20b.eps"));
     QCOMPARE(urls[1].toLocalFile(), QString("/tmp/c d.eps"));

@@ -58,7 +58,8 @@ class DocumentApplicationTest : public QObject {
 
   QUrl write(const QString& name, const QByteArray& bytes) {
     QFile file(folder_->filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write test data");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+      qFatal("cannot write test data");
     return QUrl::fromLocalFile(file.fileName());
   }
   QUrl writePdf(const QString& name) { return write(name, "%PDF-1.4\n%%EOF\n"); }
@@ -152,7 +153,8 @@ class DocumentApplicationTest : public QObject {
     QVERIFY(start({write("notes.txt", "milk")}));
     QCOMPARE(alerts_.shown.size(), 1);
     QCOMPARE(alerts_.shown.first().informativeText,
-             QString("This is not an EPS, Illustrator, PDF or SVG picture.\n\n(readFromData:ofType:error: is unimplemented)"));
+             QString("This is not an EPS, Illustrator, PDF or SVG picture.\n\n(readFromData:ofType:error: is "
+                     "unimplemented)"));
   }
 
   void anOperationThatFailedIsToldAndEverythingGoesOn() {

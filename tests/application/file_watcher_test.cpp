@@ -19,7 +19,8 @@ class FileWatcherTest : public QObject {
 
   void write(const QByteArray& bytes) {
     QFile file(path_);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write test data");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+      qFatal("cannot write test data");
   }
   /// A watcher that has taken note of what is there.
   std::unique_ptr<FileWatcher> watch() {
@@ -80,7 +81,8 @@ class FileWatcherTest : public QObject {
     QTest::addColumn<QByteArray>("half");
     QTest::addColumn<QByteArray>("whole");
     QTest::newRow("emptied") << QByteArray("") << QByteArray("%!PS other");
-    QTest::newRow("pdf") << QByteArray("%PDF-1.4\n1 0 obj") << QByteArray("%PDF-1.4\n1 0 obj\nendobj\n%%EOF\n");
+    QTest::newRow("pdf") << QByteArray("%PDF-1.4\n1 0 obj")
+                         << QByteArray("%PDF-1.4\n1 0 obj\nendobj\n%%EOF\n");
     QTest::newRow("svg") << QByteArray("<svg><path d='M0") << QByteArray("<svg><path d='M0 0'/></svg>\n");
   }
   void aHalfWrittenFileIsWaitedFor() {

@@ -4,8 +4,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include "kit/test_main.h"
 #include "application/open_panel.h"
+#include "kit/test_main.h"
 
 using namespace norvex;
 

@@ -33,7 +33,8 @@ class AffineTransformTest : public QObject {
       const QTransform a = anyMap(random), b = anyMap(random);
       const AffineTransform mine = AffineTransform(a) * AffineTransform(b), inverse = mine.inverted();
       const QTransform theirs = a * b;
-      const QRectF rect(random.bounded(100.0), random.bounded(100.0), random.bounded(100.0), random.bounded(100.0));
+      const QRectF rect(random.bounded(100.0), random.bounded(100.0), random.bounded(100.0),
+                        random.bounded(100.0));
       QVERIFY(near(mine.map(rect.center()), theirs.map(rect.center())));
       QVERIFY(near(inverse.map(mine.map(rect.center())), rect.center()));
       QVERIFY(near(mine.mapRect(rect).topLeft(), theirs.mapRect(rect).topLeft()));
@@ -48,7 +49,8 @@ class AffineTransformTest : public QObject {
   }
 
   void whatIsFlatHasNoInverse() {
-    for (const AffineTransform& flat : {AffineTransform(0, 0, 0, 1, 5, 5), AffineTransform(1, 2, 2, 4, 0, 0)}) {
+    for (const AffineTransform& flat :
+         {AffineTransform(0, 0, 0, 1, 5, 5), AffineTransform(1, 2, 2, 4, 0, 0)}) {
       QVERIFY(!flat.isInvertible());
       QVERIFY(flat.inverted().isIdentity());
     }

@@ -38,7 +38,7 @@ class AtomicFileTest : public QObject {
     ::umask(mask);
     QVERIFY(writeFileAtomically(path, "abc", IfExists::Fail));
     QCOMPARE(contentOf(path), QByteArray("abc"));
-    struct stat status{};
+    struct stat status {};
     QCOMPARE(::stat(qPrintable(path), &status), 0);
     QCOMPARE(status.st_mode & 0777, 0666 & ~mask);
     QCOMPARE(allIn(folder_->path()), QStringList{QStringLiteral("a.eps")});
@@ -60,7 +60,7 @@ class AtomicFileTest : public QObject {
     QVERIFY(writeFileAtomically(path, "old", IfExists::Fail));
     ::chmod(qPrintable(path), 0640);
     QVERIFY(writeFileAtomically(path, "new", IfExists::Replace));
-    struct stat status{};
+    struct stat status {};
     ::stat(qPrintable(path), &status);
     QCOMPARE(status.st_mode & 0777, 0640u);
   }
@@ -84,7 +84,8 @@ class AtomicFileTest : public QObject {
     QCOMPARE(contentOf(path), QByteArray("new"));
   }
   void aMissingFolderIsSaid() {
-    const auto refused = writeFileAtomically(folder_->filePath(QStringLiteral("no/such/a")), "x", IfExists::Replace);
+    const auto refused =
+        writeFileAtomically(folder_->filePath(QStringLiteral("no/such/a")), "x", IfExists::Replace);
     QVERIFY(!refused);
     QCOMPARE(refused.error().message, QStringLiteral("the folder to write to does not exist"));
   }
@@ -99,14 +100,15 @@ class AtomicFileTest : public QObject {
     const auto refused = writeFileAtomically(path, "x", IfExists::Replace);
     QVERIFY(!refused);
     QCOMPARE(refused.error().message, QStringLiteral("it is not an ordinary file"));
-    struct stat status{};
+    struct stat status {};
     ::stat(qPrintable(path), &status);
     QVERIFY(S_ISFIFO(status.st_mode));
   }
   void aFullDiskLeavesTheOldFile() {
     const QString small = folder_->filePath(QStringLiteral("small"));
     QDir().mkpath(small);
-    if (::mount("tmpfs", qPrintable(small), "tmpfs", 0, "size=64k") != 0) QSKIP("mounting is not permitted here");
+    if (::mount("tmpfs", qPrintable(small), "tmpfs", 0, "size=64k") != 0)
+      QSKIP("mounting is not permitted here");
     const QString path = small + QStringLiteral("/a");
     QVERIFY(writeFileAtomically(path, "old", IfExists::Fail));
     const auto refused = writeFileAtomically(path, QByteArray(1 << 20, 'x'), IfExists::Replace);

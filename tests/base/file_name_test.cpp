@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "kit/test_main.h"
 #include "base/atomic_file.h"
+#include "kit/test_main.h"
 #include "picture/document_file.h"
 
 using namespace norvex;
@@ -20,15 +20,25 @@ class FileNameTest : public QObject {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("ASCII") << QByteArray("a.eps");
-    QTest::newRow("text") << QByteArray("gr\xC3\xBC\xC3\x9F" "e \xE2\x82\xAC \xF0\x9F\x96\xBC.eps");
-    QTest::newRow("Latin-1") << QByteArray("gr\xFC\xDF" "e.eps");
+    QTest::newRow("text") << QByteArray(
+        "gr\xC3\xBC\xC3\x9F"
+        "e \xE2\x82\xAC \xF0\x9F\x96\xBC.eps");
+    QTest::newRow("Latin-1") << QByteArray(
+        "gr\xFC\xDF"
+        "e.eps");
     QTest::newRow("Shift JIS") << QByteArray("\x90\x7D\x96\xCA.eps");
     QTest::newRow("cut character") << QByteArray("a\xE2\x82");
     QTest::newRow("broken inside") << QByteArray("a\xE2(\xA1.eps");
-    QTest::newRow("overlong slash") << QByteArray("a\xC0\xAF" "b");
-    QTest::newRow("encoded surrogate") << QByteArray("a\xED\xB2\x80" "b");
+    QTest::newRow("overlong slash") << QByteArray(
+        "a\xC0\xAF"
+        "b");
+    QTest::newRow("encoded surrogate") << QByteArray(
+        "a\xED\xB2\x80"
+        "b");
     QTest::newRow("beyond Unicode") << QByteArray("\xF4\x90\x80\x80");
-    QTest::newRow("byte-order mark") << QByteArray("\xEF\xBB\xBF" "a");
+    QTest::newRow("byte-order mark") << QByteArray(
+        "\xEF\xBB\xBF"
+        "a");
     QTest::newRow("raw byte behind a character of two units") << QByteArray("\xF0\x9F\x96\xBC\xFF");
   }
   void everyNameComesBackAsItsBytes() {
@@ -38,14 +48,18 @@ class FileNameTest : public QObject {
 
   void everyByteComesBackInAnyPlace() {
     for (int byte = 1; byte < 256; ++byte) {
-      for (const QByteArray& name : {QByteArray(1, char(byte)), "x" + QByteArray(1, char(byte)) + "y",
-                                     "\xC3" + QByteArray(1, char(byte)), QByteArray(3, char(byte)) + "\xC3\xBC"})
+      for (const QByteArray& name :
+           {QByteArray(1, char(byte)), "x" + QByteArray(1, char(byte)) + "y",
+            "\xC3" + QByteArray(1, char(byte)), QByteArray(3, char(byte)) + "\xC3\xBC"})
         QCOMPARE(fileNameBytes(fileNameText(name)), name);
     }
   }
 
   void textStaysText() {
-    QCOMPARE(fileNameText("gr\xC3\xBC\xC3\x9F" "e.eps"), QString::fromUtf8("gr\xC3\xBC\xC3\x9F" "e.eps"));
+    QCOMPARE(fileNameText("gr\xC3\xBC\xC3\x9F"
+                          "e.eps"),
+             QString::fromUtf8("gr\xC3\xBC\xC3\x9F"
+                               "e.eps"));
     QCOMPARE(fileNameBytes(QString::fromUtf8("\xF0\x9F\x96\xBC")), QByteArray("\xF0\x9F\x96\xBC"));
     QCOMPARE(fileNameText("a\xFF").size(), 2);
     QCOMPARE(rawByteOf(fileNameText("a\xFF")[1], u'a'), 0xFF);
@@ -54,7 +68,9 @@ class FileNameTest : public QObject {
 
   void filesOfAnyNameAreWrittenReadAndFound() {
     const QTemporaryDir folder;
-    const QByteArray bytes = folder.path().toUtf8() + "/gr\xFC\xDF" "e";
+    const QByteArray bytes = folder.path().toUtf8() +
+                             "/gr\xFC\xDF"
+                             "e";
     const QString name = fileNameText(bytes);
     QVERIFY(!fileExists(name));
     QVERIFY(writeFileAtomically(name, "one", IfExists::Fail));

@@ -22,11 +22,11 @@
 #include <vector>
 
 #include "document/document.h"
-#include "picture/image_rep.h"
 #include "picture/client/worker_service.h"
-#include "ui/picture/norvex_view_widget.h"
-#include "ui/panels/qt_pasteboard.h"
+#include "picture/image_rep.h"
 #include "types/uniform_type.h"
+#include "ui/panels/qt_pasteboard.h"
+#include "ui/picture/norvex_view_widget.h"
 #include "window/main_window_controller.h"
 
 using namespace norvex;

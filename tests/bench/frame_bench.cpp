@@ -21,9 +21,9 @@
 #include <functional>
 #include <memory>
 
-#include "picture/process/memory_picture_service.h"
-#include "picture/picture_loader.h"
 #include "picture/client/worker_service.h"
+#include "picture/picture_loader.h"
+#include "picture/process/memory_picture_service.h"
 
 using namespace norvex;
 

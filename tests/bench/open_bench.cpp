@@ -1,10 +1,10 @@
-// From command to complete picture on screen: starts each program in turn on the same file, looks at the whole screen
-// until it no longer changes, and tells when it changed last.
+// From command to complete picture on screen: starts each program in turn on the same file, looks at the
+// whole screen until it no longer changes, and tells when it changed last.
 //
 //   xvfb-run -s "-screen 0 1600x1100x24" open_bench FILE ROUNDS PROGRAM [PROGRAM…]
 //
-// Prints the median of each program in milliseconds and the ratio to the first one's. Run it with a window manager
-// when the programs need one.
+// Prints the median of each program in milliseconds and the ratio to the first one's. Run it with a window
+// manager when the programs need one.
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QHash>
@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int stillMilliseconds = 1500;   // no change for so long: the picture is complete
+constexpr int stillMilliseconds = 1500;  // no change for so long: the picture is complete
 constexpr int longestMilliseconds = 30000;
 
 size_t screenHash() {
@@ -33,7 +33,8 @@ double millisecondsToCompletePicture(const QString& program, const QString& file
   clock.start();
   process.start(program, {file});
   double changed = 0;
-  while (clock.elapsed() < longestMilliseconds && (changed == 0 || clock.elapsed() - changed < stillMilliseconds)) {
+  while (clock.elapsed() < longestMilliseconds &&
+         (changed == 0 || clock.elapsed() - changed < stillMilliseconds)) {
     const double now = double(clock.nsecsElapsed()) / 1e6;
     const size_t hash = screenHash();
     if (hash != last) changed = now;
@@ -59,7 +60,8 @@ int main(int argc, char** argv) {
   const QStringList programs = given.mid(3);
   QHash<QString, QList<double>> times;
   for (int round = 0; round < given[2].toInt(); ++round)
-    for (const QString& program : programs) times[program] << millisecondsToCompletePicture(program, given[1]);
+    for (const QString& program : programs)
+      times[program] << millisecondsToCompletePicture(program, given[1]);
   double first = 0;
   for (const QString& program : programs) {
     QList<double> all = times[program];

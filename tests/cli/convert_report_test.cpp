@@ -15,7 +15,9 @@ class ConvertReportTest : public QObject {
     CommandLine line;
     const QString good = line.write("a.eps", kEps);
     const QString bad = line.path("missing.eps");
-    QCOMPARE(line.run({"convert", good, bad, "--to", QFileInfo(good).path(), "--format", "png", "--dpi", "144", "--json"}), 1);
+    QCOMPARE(line.run({"convert", good, bad, "--to", QFileInfo(good).path(), "--format", "png", "--dpi",
+                       "144", "--json"}),
+             1);
     const QJsonArray all = jsonOf(line);
     QCOMPARE(all.size(), 2);
     QCOMPARE(all[0].toObject(),

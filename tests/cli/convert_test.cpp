@@ -10,10 +10,10 @@
 
 #include <sys/stat.h>
 
-#include "cli/cli_files.h"
-#include "kit/test_main.h"
 #include "base/atomic_file.h"
 #include "base/file_name.h"
+#include "cli/cli_files.h"
+#include "kit/test_main.h"
 #include "picture/document_file.h"
 
 using namespace norvex;
@@ -69,7 +69,8 @@ class ConvertTest : public QObject {
     row({"a.eps", "-o", "b.png", "--memory", "1"}, "--memory is a number from 64 to 1048576");
     row({"a.eps", "-o", "b.png", "--background", "nocolour"}, "--background is a colour: a name or #rrggbb");
     const QString crop = "--crop is X,Y,W,H: four numbers of points with W and H above 0";
-    for (const char* value : {"1,2,3", "1,2,3,4,5", "1,2,0,4", "1,2,3,-4", "a,b,c,d", "1,2,nan,4", "1,2,3,1e9", ""})
+    for (const char* value :
+         {"1,2,3", "1,2,3,4,5", "1,2,0,4", "1,2,3,-4", "a,b,c,d", "1,2,nan,4", "1,2,3,1e9", ""})
       row({"a.eps", "-o", "b.png", "--crop", value}, crop);
     row({"x/a.eps", "y/a.eps", "--to", "d", "--format", "pdf"}, "more than one file would become d/a.pdf");
     row({"x/a.eps", "y/a.pdf", "--to", "d/", "--format", "png"}, "more than one file would become d/a.png");
@@ -133,7 +134,9 @@ class ConvertTest : public QObject {
     const QStringList files{line.write("a.b.eps", kEps), line.write("c.pdf", emptyPdf({9, 9})),
                             line.write(".d", kEps)};
     QVERIFY(QDir(line.path(".")).mkdir("to"));
-    QCOMPARE(line.run(QStringList{"convert"} + files + QStringList{"--to", line.path("to"), "--format", "png"}), 0);
+    QCOMPARE(
+        line.run(QStringList{"convert"} + files + QStringList{"--to", line.path("to"), "--format", "png"}),
+        0);
     const QDir::Filters all = QDir::Files | QDir::Hidden;
     QCOMPARE(QDir(line.path("to")).entryList(all, QDir::Name), QStringList({".d.png", "a.b.png", "c.png"}));
   }
@@ -284,7 +287,8 @@ class ConvertTest : public QObject {
   void aCropOfATurnedPictureIsInTheTurnedView() {
     CommandLine line;
     const QString from = line.write("a.svg", kSvg);
-    QCOMPARE(line.run({"convert", from, "-o", line.path("b.eps"), "--rotate", "90", "--crop", "10,20,30,40"}), 0);
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.eps"), "--rotate", "90", "--crop", "10,20,30,40"}),
+             0);
     const ComposeRequest request = line.service.lastProcess()->composeRequests().value(0);
     // Turned, the picture is 100 wide and 200 high about the view's origin.
     QCOMPARE(request.rect, QRectF(10 - 50, 20 - 100, 30, 40));
@@ -295,15 +299,24 @@ class ConvertTest : public QObject {
     QTest::addColumn<QString>("rotate");
     QTest::addColumn<QString>("crop");
     QTest::addColumn<bool>("good");
-    QTest::newRow("inside") << "0" << "10,10,20,20" << true;
-    QTest::newRow("over an edge") << "0" << "-10,-10,11,11" << true;
-    QTest::newRow("around all") << "0" << "-10,-10,500,500" << true;
-    QTest::newRow("right of it") << "0" << "300,0,10,10" << false;
-    QTest::newRow("below it") << "0" << "0,-20,10,10" << false;
-    QTest::newRow("touches the edge") << "0" << "200,0,10,10" << false;
-    QTest::newRow("inside the turned picture alone") << "90" << "10,150,20,20" << true;
-    QTest::newRow("beside the turned picture") << "90" << "150,10,20,20" << false;
-    QTest::newRow("in an empty corner of the turned view") << "45" << "0,0,20,20" << false;
+    QTest::newRow("inside") << "0"
+                            << "10,10,20,20" << true;
+    QTest::newRow("over an edge") << "0"
+                                  << "-10,-10,11,11" << true;
+    QTest::newRow("around all") << "0"
+                                << "-10,-10,500,500" << true;
+    QTest::newRow("right of it") << "0"
+                                 << "300,0,10,10" << false;
+    QTest::newRow("below it") << "0"
+                              << "0,-20,10,10" << false;
+    QTest::newRow("touches the edge") << "0"
+                                      << "200,0,10,10" << false;
+    QTest::newRow("inside the turned picture alone") << "90"
+                                                     << "10,150,20,20" << true;
+    QTest::newRow("beside the turned picture") << "90"
+                                               << "150,10,20,20" << false;
+    QTest::newRow("in an empty corner of the turned view") << "45"
+                                                           << "0,0,20,20" << false;
   }
   void aCropBesideThePictureIsRefused() {
     QFETCH(QString, rotate);
@@ -311,10 +324,12 @@ class ConvertTest : public QObject {
     QFETCH(bool, good);
     CommandLine line;
     const QString from = line.write("a.pdf", emptyPdf({200, 100}));
-    QCOMPARE(line.run({"convert", from, "-o", line.path("b.png"), "--rotate", rotate, "--crop=" + crop}), good ? 0 : 3);
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.png"), "--rotate", rotate, "--crop=" + crop}),
+             good ? 0 : 3);
     QCOMPARE(QFile::exists(line.path("b.png")), good);
     const QString size = rotate == "90" ? "100 by 200" : rotate == "45" ? "212.132 by 212.132" : "200 by 100";
-    const QString sentence = "norvex: %1: nothing of the picture lies in the rectangle of --crop; it is %2 points large\n";
+    const QString sentence =
+        "norvex: %1: nothing of the picture lies in the rectangle of --crop; it is %2 points large\n";
     QCOMPARE(line.console.messages, good ? QString() : sentence.arg(from, size));
   }
 
@@ -339,7 +354,9 @@ class ConvertTest : public QObject {
     QCOMPARE(line.run({"convert", from, "-o", line.path("b.png"), "--crop=-10,0,20,20"}), 0);
     QCOMPARE(qAlpha(pictureIn(line, "b.png").pixel(0, 0)), 0);
     QCOMPARE(qAlpha(pictureIn(line, "b.png").pixel(19, 0)), 255);
-    QCOMPARE(line.run({"convert", from, "-o", line.path("c.png"), "--crop=-10,0,20,20", "--background", "#102030"}), 0);
+    QCOMPARE(line.run({"convert", from, "-o", line.path("c.png"), "--crop=-10,0,20,20", "--background",
+                       "#102030"}),
+             0);
     QCOMPARE(pictureIn(line, "c.png").pixel(0, 0), qRgb(0x10, 0x20, 0x30));
     QVERIFY(!pictureIn(line, "c.png").hasAlphaChannel());
   }
@@ -398,7 +415,9 @@ class ConvertTest : public QObject {
 
   void namesThatAreNoTextAreFilesLikeOthers() {
     CommandLine line;
-    const QByteArray raw = line.path("gr").toUtf8() + "\xFC" "n";
+    const QByteArray raw = line.path("gr").toUtf8() +
+                           "\xFC"
+                           "n";
     const QString from = fileNameText(raw + ".eps");
     QVERIFY(writeFileAtomically(from, kEps, IfExists::Fail));
     const QString to = fileNameText(raw + ".gif");
@@ -409,10 +428,13 @@ class ConvertTest : public QObject {
     QVERIFY(line.console.output.contains("gr\\udcfcn.eps"));
 
     QCOMPARE(line.run({"convert", from, "-o", to}), 4);
-    QVERIFY2(line.console.messages.contains("gr\\xfcn.gif exists already"), qPrintable(line.console.messages));
+    QVERIFY2(line.console.messages.contains("gr\\xfcn.gif exists already"),
+             qPrintable(line.console.messages));
     QCOMPARE(::mkdir((raw + ".d").constData(), 0700), 0);
     QCOMPARE(line.run({"convert", from, "--to", fileNameText(raw + ".d"), "--format", "png"}), 0);
-    QVERIFY(readDocumentFile(fileNameText(raw + ".d/gr\xFC" "n.png"))->startsWith("\x89PNG"));
+    QVERIFY(readDocumentFile(fileNameText(raw + ".d/gr\xFC"
+                                                "n.png"))
+                ->startsWith("\x89PNG"));
     QCOMPARE(line.run({"info", fileNameText(raw + "x.eps")}), 3);
     QVERIFY(line.console.messages.endsWith("gr\\xfcnx.eps: No such file or directory\n"));
     for (const QString& name : {from, to, fileNameText(raw + ".d")})  // QTemporaryDir cannot
@@ -437,7 +459,10 @@ class ConvertTest : public QObject {
     CommandLine line;
     QStringList files;
     for (int i = 0; i < 60; ++i) files << line.write(QString::number(i) + ".eps", kEps);
-    QCOMPARE(line.run(QStringList{"convert", "--json", "--jobs", "4", "--to", line.path("."), "--format", "gif"} + files), 0);
+    QCOMPARE(
+        line.run(QStringList{"convert", "--json", "--jobs", "4", "--to", line.path("."), "--format", "gif"} +
+                 files),
+        0);
     const QJsonArray all = jsonOf(line);
     QCOMPARE(all.size(), files.size());
     for (int i = 0; i < files.size(); ++i) QCOMPARE(all[i]["file"].toString(), files[i]);
@@ -467,7 +492,8 @@ class ConvertTest : public QObject {
     CommandLine line;
     const QString from = line.write("a.txt", "hello");
     QCOMPARE(line.run({"convert", from, "-o", line.path("b.png")}), 3);
-    QCOMPARE(line.console.messages, QString("norvex: %1: this is not an EPS, Illustrator, PDF or SVG picture\n").arg(from));
+    QCOMPARE(line.console.messages,
+             QString("norvex: %1: this is not an EPS, Illustrator, PDF or SVG picture\n").arg(from));
   }
 
   void anInterruptionEndsTheRun() {
@@ -481,7 +507,8 @@ class ConvertTest : public QObject {
       return testPattern(request, {30, 40});
     };
     line.service.setPicture(picture);
-    QCOMPARE(line.run({"convert", first, second, "--to", line.path("."), "--format", "png", "--jobs", "1"}), 130);
+    QCOMPARE(line.run({"convert", first, second, "--to", line.path("."), "--format", "png", "--jobs", "1"}),
+             130);
     QCOMPARE(line.console.messages, QString("norvex: interrupted; 2 of 2 files not converted\n"));
     QCOMPARE(line.entries(), QStringList({"a.eps", "b.eps"}));
     QCOMPARE(line.service.openCount(), 1);

@@ -19,7 +19,8 @@ class PrintTest : public QObject {
     row({"a.eps", "--printer", "Office", "-o", "b.pdf"}, where);
     row({"a.eps", "-o", "b.pdf", "--landscape", "--portrait"}, "the paper cannot both lie and stand");
     row({"a.eps", "-o", "b.pdf", "--paper", "Napkin"},
-        "there is no paper named Napkin; there are A4 A3 A5 A6 A2 A1 A0 Letter Legal Tabloid Executive B4 B5");
+        "there is no paper named Napkin; there are A4 A3 A5 A6 A2 A1 A0 Letter Legal Tabloid Executive B4 "
+        "B5");
   }
   void wrongArgumentsAreToldInOneSentence() {
     QFETCH(QStringList, arguments);
@@ -40,7 +41,8 @@ class PrintTest : public QObject {
     qputenv("CUPS_SERVER", "127.0.0.1:9");  // nobody is there
     CommandLine line;
     QCOMPARE(line.run({"print", line.write("a.eps", kEps), "--printer", "Office"}), 4);
-    QCOMPARE(line.console.messages, "norvex: " + line.path("a.eps") + ": the print service cannot be reached\n");
+    QCOMPARE(line.console.messages,
+             "norvex: " + line.path("a.eps") + ": the print service cannot be reached\n");
     QCOMPARE(line.service.openCount(), 0);
     qunsetenv("CUPS_SERVER");
   }

@@ -6,8 +6,8 @@
 
 #include "display/view_fixture.h"
 #include "kit/test_main.h"
-#include "picture/process/memory_picture_service.h"
 #include "picture/pdf_image_rep.h"
+#include "picture/process/memory_picture_service.h"
 
 using namespace norvex;
 using norvex::kit::QuarteredImageRep;

@@ -33,7 +33,8 @@ class AppDelegateTest : public QObject {
   void init() {
     terminated_.clear();
     documents_ = std::make_unique<DocumentController>(service_, kit::loggingFactory(&log_));
-    delegate_ = std::make_unique<AppDelegate>(documents_.get(), [this](QObject* sender) { terminated_ << sender; });
+    delegate_ =
+        std::make_unique<AppDelegate>(documents_.get(), [this](QObject* sender) { terminated_ << sender; });
   }
   void cleanup() {
     delegate_.reset();
@@ -42,7 +43,9 @@ class AppDelegateTest : public QObject {
 
   void noUntitledDocumentIsEverOpened() { QVERIFY(!delegate_->applicationShouldOpenUntitledFile()); }
 
-  void theLastWindowsClosingDoesNotQuit() { QVERIFY(!delegate_->applicationShouldTerminateAfterLastWindowClosed()); }
+  void theLastWindowsClosingDoesNotQuit() {
+    QVERIFY(!delegate_->applicationShouldTerminateAfterLastWindowClosed());
+  }
 
   void launchedWithoutAFileItStaysUntilItIsDeactivated() {
     delegate_->applicationDidFinishLaunching();

@@ -23,7 +23,8 @@ class DocumentControllerTest : public QObject {
 
   QUrl write(const QString& name, const QByteArray& bytes) {
     QFile file(folder_->filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write test data");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+      qFatal("cannot write test data");
     return QUrl::fromLocalFile(file.fileName());
   }
   bool open(const QList<QUrl>& urls) {
@@ -35,7 +36,8 @@ class DocumentControllerTest : public QObject {
   QString failureOf(const QUrl& url) {
     failures_.clear();
     if (!open({url})) return "no answer";
-    return failures_.size() == 1 && controller_->documents().isEmpty() ? failures_.first().sentence : "it was opened";
+    return failures_.size() == 1 && controller_->documents().isEmpty() ? failures_.first().sentence
+                                                                       : "it was opened";
   }
 
  private slots:
@@ -53,7 +55,8 @@ class DocumentControllerTest : public QObject {
     const QByteArray bytes = folder_->path().toUtf8() + "/gr\xFCn.eps";
     const QUrl url = QUrl::fromLocalFile(QString::fromUtf8(bytes));
     QCOMPARE(failureOf(url), QString("The file's name is not text in UTF-8. Please rename the file."));
-    QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->filePath("missing.eps"))), QString("No such file or directory."));
+    QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->filePath("missing.eps"))),
+             QString("No such file or directory."));
   }
 
   void aFileBecomesADocumentWithLocationTypeAndWindow() {
@@ -107,7 +110,8 @@ class DocumentControllerTest : public QObject {
     const QUrl url = write("a.pdf", "%PDF-1.4\n");
     QVERIFY(open({url}));
     QSignalSpy closed(controller_.get(), &DocumentController::documentClosed);
-    auto* window = static_cast<kit::MemoryWindowController*>(controller_->documents().first()->windowController());
+    auto* window =
+        static_cast<kit::MemoryWindowController*>(controller_->documents().first()->windowController());
     log_.clear();
     window->closeWindow();
     QVERIFY(controller_->documents().isEmpty());
@@ -118,7 +122,8 @@ class DocumentControllerTest : public QObject {
   }
 
   void aMissingFile() {
-    QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->filePath("none.eps"))), QString("No such file or directory."));
+    QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->filePath("none.eps"))),
+             QString("No such file or directory."));
   }
 
   void aLinkToNowhere() {
@@ -127,13 +132,12 @@ class DocumentControllerTest : public QObject {
              QString("No such file or directory."));
   }
 
-  void aFolder() {
-    QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->path())), QString("It is a folder."));
-  }
+  void aFolder() { QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->path())), QString("It is a folder.")); }
 
   void aPipeIsNotWaitedFor() {
     QCOMPARE(mkfifo(qPrintable(folder_->filePath("pipe.eps")), 0600), 0);
-    QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->filePath("pipe.eps"))), QString("It is a pipe, not an ordinary file."));
+    QCOMPARE(failureOf(QUrl::fromLocalFile(folder_->filePath("pipe.eps"))),
+             QString("It is a pipe, not an ordinary file."));
   }
 
   void anUnreadableFile() {
@@ -163,12 +167,14 @@ class DocumentControllerTest : public QObject {
   }
 
   void anAddressOnTheNetIsNotFetched() {
-    QCOMPARE(failureOf(QUrl("https://example.org/a.svg")), QString("Only files on this computer can be opened."));
+    QCOMPARE(failureOf(QUrl("https://example.org/a.svg")),
+             QString("Only files on this computer can be opened."));
   }
 
   void endingWhileFilesAreBeingReadWaitsForThem() {
     QList<QUrl> urls;
-    for (int i = 0; i < 40; ++i) urls << write(QString("p%1.pdf").arg(i), QByteArray("%PDF-1.4\n").repeated(20000));
+    for (int i = 0; i < 40; ++i)
+      urls << write(QString("p%1.pdf").arg(i), QByteArray("%PDF-1.4\n").repeated(20000));
     controller_->openDocuments(urls);
     controller_.reset();
     QCoreApplication::processEvents();

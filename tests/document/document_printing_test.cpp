@@ -35,7 +35,9 @@ class ViewController final : public DocumentWindowController {
   NorvexView* view_;
 };
 
-void remember(const QVariant& value) { QSettings().setValue("PrintInfo", value); }
+void remember(const QVariant& value) {
+  QSettings().setValue("PrintInfo", value);
+}
 
 }  // namespace
 
@@ -49,7 +51,8 @@ class DocumentPrintingTest : public QObject {
   std::unique_ptr<ScriptedInteraction> people_;
 
   std::unique_ptr<Document> make() {
-    auto document = std::make_unique<Document>(service_, [this] { return std::make_unique<ViewController>(&view_); });
+    auto document =
+        std::make_unique<Document>(service_, [this] { return std::make_unique<ViewController>(&view_); });
     document->setPrintServices({nullptr, &spooler_, people_.get()});
     return document;
   }
@@ -137,7 +140,13 @@ class DocumentPrintingTest : public QObject {
 
   void aCancelledLayoutChangesNothing() {
     const auto document = make();
-    document->pageLayoutDidEnd([] { NSPrintInfo info; info.setScalingFactor(2); return info; }(), 1);
+    document->pageLayoutDidEnd(
+        [] {
+          NSPrintInfo info;
+          info.setScalingFactor(2);
+          return info;
+        }(),
+        1);
     const QVariant remembered = QSettings().value("PrintInfo");
     const NSPrintInfo before = document->printInfo();
     document->runPageLayout();
@@ -191,12 +200,23 @@ class DocumentPrintingTest : public QObject {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("job");
     QTest::addColumn<QString>("page");
-    QTest::newRow("blank") << "/tmp/My Pictures/a.eps" << "a" << "file:///tmp/My Pictures/a.eps";
-    QTest::newRow("name") << "/tmp/My Picture.eps" << "My Picture" << "file:///tmp/My Picture.eps";
-    QTest::newRow("dots") << "/tmp/a.b.eps" << "a.b" << "file:///tmp/a.b.eps";
-    QTest::newRow("no extension") << "/tmp/picture" << "picture" << "file:///tmp/picture";
-    QTest::newRow("hidden") << "/tmp/.eps" << ".eps" << "file:///tmp/.eps";
-    QTest::newRow("letters") << QString::fromUtf8("/tmp/\xC3\xA9t\xC3\xA9 100%.eps") << QString::fromUtf8("\xC3\xA9t\xC3\xA9 100%")
+    QTest::newRow("blank") << "/tmp/My Pictures/a.eps"
+                           << "a"
+                           << "file:///tmp/My Pictures/a.eps";
+    QTest::newRow("name") << "/tmp/My Picture.eps"
+                          << "My Picture"
+                          << "file:///tmp/My Picture.eps";
+    QTest::newRow("dots") << "/tmp/a.b.eps"
+                          << "a.b"
+                          << "file:///tmp/a.b.eps";
+    QTest::newRow("no extension") << "/tmp/picture"
+                                  << "picture"
+                                  << "file:///tmp/picture";
+    QTest::newRow("hidden") << "/tmp/.eps"
+                            << ".eps"
+                            << "file:///tmp/.eps";
+    QTest::newRow("letters") << QString::fromUtf8("/tmp/\xC3\xA9t\xC3\xA9 100%.eps")
+                             << QString::fromUtf8("\xC3\xA9t\xC3\xA9 100%")
                              << QString::fromUtf8("file:///tmp/\xC3\xA9t\xC3\xA9 100%.eps");
   }
   void aFileGivesTheTitles() {

@@ -4,11 +4,11 @@
 #include <QTemporaryDir>
 #include <QtConcurrent>
 
+#include "base/bundle.h"
 #include "document/document_types.h"
 #include "document/memory_window_controller.h"
 #include "document/unimplemented_method.h"
 #include "kit/test_main.h"
-#include "base/bundle.h"
 #include "picture/process/null_picture_service.h"
 #include "types/uniform_type.h"
 
@@ -19,15 +19,18 @@ class DocumentTest : public QObject {
 
   NullPictureService service_;
   QStringList log_;
-  std::unique_ptr<Document> make() { return std::make_unique<Document>(service_, kit::loggingFactory(&log_)); }
+  std::unique_ptr<Document> make() {
+    return std::make_unique<Document>(service_, kit::loggingFactory(&log_));
+  }
 
  private slots:
   void init() { log_.clear(); }
 
   void theFiveTypesAreAccepted_data() {
     QTest::addColumn<QString>("type");
-    for (const char* type : {"com.adobe.encapsulated-postscript", "com.Tembrolix.epsi", "com.adobe.illustrator.ai-image",
-                             "com.adobe.pdf", "public.svg-image", "com.Tembrolix.svgz"})
+    for (const char* type :
+         {"com.adobe.encapsulated-postscript", "com.Tembrolix.epsi", "com.adobe.illustrator.ai-image",
+          "com.adobe.pdf", "public.svg-image", "com.Tembrolix.svgz"})
       QTest::newRow(type) << type;
   }
   void theFiveTypesAreAccepted() {
@@ -44,7 +47,8 @@ class DocumentTest : public QObject {
 
   void anUnacceptedTypeRaisesUnimplementedMethod_data() {
     QTest::addColumn<QString>("type");
-    for (const char* type : {"public.png", "public.plain-text", "com.adobe.postscript", "public.data", "org.example.unknown"})
+    for (const char* type :
+         {"public.png", "public.plain-text", "com.adobe.postscript", "public.data", "org.example.unknown"})
       QTest::newRow(type) << type;
     QTest::newRow("no type") << QString();
   }
@@ -93,7 +97,8 @@ class DocumentTest : public QObject {
   }
 
   void everyTypeMayBeReadConcurrently() {
-    for (const QString& type : acceptedDocumentTypes()) QVERIFY(Document::canConcurrentlyReadDocumentsOfType(type));
+    for (const QString& type : acceptedDocumentTypes())
+      QVERIFY(Document::canConcurrentlyReadDocumentsOfType(type));
     QVERIFY(Document::canConcurrentlyReadDocumentsOfType("public.plain-text"));
   }
 
@@ -104,8 +109,11 @@ class DocumentTest : public QObject {
     const QList<int> answers = QtConcurrent::blockingMapped(numbers, [&](int i) {
       DocumentError error;
       try {
-        if (i % 3 == 2) return document->readFromData(std::nullopt, "com.adobe.pdf", &error) ? -1 : error.code;
-        return document->readFromData(QByteArray("x"), i % 3 ? "public.png" : "public.svg-image", &error) ? 100 : -1;
+        if (i % 3 == 2)
+          return document->readFromData(std::nullopt, "com.adobe.pdf", &error) ? -1 : error.code;
+        return document->readFromData(QByteArray("x"), i % 3 ? "public.png" : "public.svg-image", &error)
+                   ? 100
+                   : -1;
       } catch (const UnimplementedMethod&) {
         return 200;
       }

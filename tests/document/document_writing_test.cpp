@@ -2,12 +2,12 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "desktop/alert.h"
 #include "document/document.h"
 #include "document/memory_window_controller.h"
 #include "document/picture_producers.h"
 #include "document/unimplemented_method.h"
 #include "kit/test_main.h"
-#include "desktop/alert.h"
 #include "picture/image_rep.h"
 #include "picture/process/null_picture_service.h"
 
@@ -108,7 +108,8 @@ class DocumentWritingTest : public QObject {
     expectUnimplemented(eps_, QStringLiteral("Canceled."));
   }
   void theIllustratorTypeFailsTheSameWay() {
-    expectUnimplemented(QStringLiteral("com.adobe.illustrator.ai-image"), QStringLiteral("Please retry with other format."));
+    expectUnimplemented(QStringLiteral("com.adobe.illustrator.ai-image"),
+                        QStringLiteral("Please retry with other format."));
   }
   void noBytesFailTheSameWay() {
     producers_.produce = false;
@@ -129,7 +130,8 @@ class DocumentWritingTest : public QObject {
   void aFailedSaveLeavesTheOldFile() {
     QVERIFY(document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));
     producers_.produce = false;
-    QVERIFY_EXCEPTION_THROWN(document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")), UnimplementedMethod);
+    QVERIFY_EXCEPTION_THROWN(document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")),
+                             UnimplementedMethod);
     QCOMPARE(contentOf(folder_->filePath(QStringLiteral("a.pdf"))), QByteArray("pdfData"));
   }
   void whatCannotBeWrittenIsAnError() {
@@ -163,7 +165,9 @@ class DocumentWritingTest : public QObject {
     }
     QCOMPARE(error.code, 77);
   }
-  [[nodiscard]] QUrl url(const char* name) const { return QUrl::fromLocalFile(folder_->filePath(QLatin1String(name))); }
+  [[nodiscard]] QUrl url(const char* name) const {
+    return QUrl::fromLocalFile(folder_->filePath(QLatin1String(name)));
+  }
   static QByteArray contentOf(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

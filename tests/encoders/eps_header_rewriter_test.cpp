@@ -64,8 +64,8 @@ class EpsHeaderRewriterTest : public QObject {
   }
   void eachStepSeesWhatTheStepsBeforeItWrote() {
     // The title brings a keyword along; the creator's step finds it there first.
-    QCOMPARE(rewriteEpsHeader("%%Title: a\n%%Creator: b\n", {{header::Title, "see %%Creator: me"}, {header::Creator, "C"}},
-                              defaults),
+    QCOMPARE(rewriteEpsHeader("%%Title: a\n%%Creator: b\n",
+                              {{header::Title, "see %%Creator: me"}, {header::Creator, "C"}}, defaults),
              QByteArray("%%Creator: C\n%%Creator: b\n"));
   }
   void bytesThatAreNotUtf8GiveNothing() {

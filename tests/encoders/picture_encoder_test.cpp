@@ -8,8 +8,8 @@
 #include "encoders/dos_eps_writer.h"
 #include "kit/test_main.h"
 #include "picture/eps_image_rep.h"
-#include "picture/process/memory_picture_service.h"
 #include "picture/pdf_image_rep.h"
+#include "picture/process/memory_picture_service.h"
 #include "picture/web_image_rep.h"
 
 using namespace norvex;
@@ -137,7 +137,8 @@ class PictureEncoderTest : public QObject {
   void aPdfWithAPreviewGetsTheGeneratedPostScript() {
     const QByteArray out = encoderOf(pdf()).postScriptDataWithPreview();
     QCOMPARE(out.left(4).toHex(), QByteArray("c5d0d3c6"));
-    QVERIFY(out.contains("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n%%Title: Pdf Title\n%%Creator: Drawer\n"));
+    QVERIFY(out.contains(
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n%%Title: Pdf Title\n%%Creator: Drawer\n"));
     QVERIFY(out.endsWith("%%EndComments\nshowpage\n"));
   }
   void aSourceThatIsNoTextLeavesTheSectionEmptyAndSaysSo() {
@@ -241,7 +242,8 @@ class PictureEncoderTest : public QObject {
     }
     // No preview is made: nothing is compared.
     QCOMPARE(logged(withPreview, std::shared_ptr<NSImageRep>()), 0);
-    QCOMPARE(logged(interchange, eps(QByteArray(sourceEps) + "%%BeginPreview: 1 1 8 1\n%00\n%%EndPreview\n")), 0);
+    QCOMPARE(logged(interchange, eps(QByteArray(sourceEps) + "%%BeginPreview: 1 1 8 1\n%00\n%%EndPreview\n")),
+             0);
   }
   void theBestDepthIsThatOfTheColours() {
     QCOMPARE(NSBestDepth(8, 32), NSBestDepth(8, 24));

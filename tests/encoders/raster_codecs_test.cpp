@@ -124,10 +124,11 @@ class RasterCodecsTest : public QObject {
         const quint32 sort = random.bounded(4);  // clear or black, like the row above, one colour, any
         const QRgb colour = random.generate() | 0xff000000;
         for (int x = 0; x < size.width(); ++x)
-          image.setPixel(x, y, sort == 0             ? (alpha ? 0 : 0xff000000)
-                               : sort == 1 && y != 0 ? image.pixel(x, y - 1)
-                               : sort == 2           ? colour
-                                                     : random.generate() | 0xff000000);
+          image.setPixel(x, y,
+                         sort == 0             ? (alpha ? 0 : 0xff000000)
+                         : sort == 1 && y != 0 ? image.pixel(x, y - 1)
+                         : sort == 2           ? colour
+                                               : random.generate() | 0xff000000);
       }
       const QImage back = QImage::fromData(encodePng(bitmapFromImage(image), {}));
       QCOMPARE(back.convertToFormat(image.format()), image);
@@ -160,7 +161,8 @@ class RasterCodecsTest : public QObject {
     // Many colours that fade into transparency: none of them is mixed with what is not seen.
     QImage image(120, 90, QImage::Format_ARGB32);
     for (int y = 0; y < 90; ++y)
-      for (int x = 0; x < 120; ++x) image.setPixelColor(x, y, QColor(40 + x, 200 - y, (x * 7) % 256, (x * 2 + y) % 256));
+      for (int x = 0; x < 120; ++x)
+        image.setPixelColor(x, y, QColor(40 + x, 200 - y, (x * 7) % 256, (x * 2 + y) % 256));
     const QByteArray bytes =
         encodeGif(bitmapFromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied)), {});
     const QImage read = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32);

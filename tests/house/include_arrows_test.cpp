@@ -44,7 +44,9 @@ QSet<QString> reach(const QString& folder) {
   return seen;
 }
 
-QString folderOf(const QString& path) { return path.section('/', 0, -2); }
+QString folderOf(const QString& path) {
+  return path.section('/', 0, -2);
+}
 
 template <typename Visit>
 void forEachInclude(Visit visit) {
@@ -61,7 +63,9 @@ void forEachInclude(Visit visit) {
   }
 }
 
-bool isWorker(const QString& folder) { return folder == "worker" || folder.startsWith("worker/"); }
+bool isWorker(const QString& folder) {
+  return folder == "worker" || folder.startsWith("worker/");
+}
 
 }  // namespace
 
@@ -85,7 +89,8 @@ class IncludeArrowsTest : public QObject {
     forEachInclude([&](const QString& path, const QString& header, bool own) {
       const QString from = folderOf(path);
       const QString to = folderOf(header);
-      if (!own || to.isEmpty() || from == "programs") return;  // moc and uic results; programs stand above all
+      if (!own || to.isEmpty() || from == "programs")
+        return;  // moc and uic results; programs stand above all
       ++seen;
       if (from != to && !reach(from).contains(to)) wrong << path + " -> " + header;
     });
@@ -119,7 +124,8 @@ class IncludeArrowsTest : public QObject {
     const QSet<QString> shared{"base", "protocol", "types", "metadata"};
     for (const QString& folder : table().keys())
       for (const QString& next : reach(folder))
-        if (isWorker(folder)) QVERIFY2(isWorker(next) || shared.contains(next), qPrintable(folder + " -> " + next));
+        if (isWorker(folder))
+          QVERIFY2(isWorker(next) || shared.contains(next), qPrintable(folder + " -> " + next));
   }
 
   void enginesAreSeenInThePictureProcessAlone() {
@@ -128,7 +134,8 @@ class IncludeArrowsTest : public QObject {
     QStringList wrong;
     forEachInclude([&](const QString& path, const QString& header, bool) {
       const bool writesTiff = path.startsWith("encoders/") && header.startsWith("tiffio");
-      if (engine.match(header).hasMatch() && !path.startsWith("worker/") && !writesTiff) wrong << path + " -> " + header;
+      if (engine.match(header).hasMatch() && !path.startsWith("worker/") && !writesTiff)
+        wrong << path + " -> " + header;
     });
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
   }

@@ -9,7 +9,8 @@ namespace {
 
 QStringList files(const QString& folder, const QStringList& patterns) {
   QStringList all;
-  QDirIterator it(QStringLiteral(NORVEX_SOURCE_DIR "/") + folder, patterns, QDir::Files, QDirIterator::Subdirectories);
+  QDirIterator it(QStringLiteral(NORVEX_SOURCE_DIR "/") + folder, patterns, QDir::Files,
+                  QDirIterator::Subdirectories);
   while (it.hasNext()) all << it.next();
   all.sort();
   return all;

@@ -17,11 +17,12 @@ struct Ran {
 };
 
 /// Runs to the end (or kills it after `seconds`, which counts as a crash).
-inline Ran run(const QString& program, const QStringList& arguments, const QByteArray& input = {}, int seconds = 120,
-               const QStringList& environment = {}) {
+inline Ran run(const QString& program, const QStringList& arguments, const QByteArray& input = {},
+               int seconds = 120, const QStringList& environment = {}) {
   QProcess process;
   QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-  for (const QString& variable : environment) variables.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+  for (const QString& variable : environment)
+    variables.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
   process.setProcessEnvironment(variables);
   process.start(program, arguments);
   process.write(input);
@@ -50,7 +51,9 @@ inline Ran norvex(const QStringList& arguments, const QByteArray& input = {}, in
   return run(norvexProgram(), arguments, input, seconds, environment);
 }
 
-inline QString sample(const QString& name) { return QStringLiteral(NORVEX_SOURCE_DIR "/samples/") + name; }
+inline QString sample(const QString& name) {
+  return QStringLiteral(NORVEX_SOURCE_DIR "/samples/") + name;
+}
 
 /// The folder of real files by many producers beside the project; empty where it is absent.
 inline QString corpusFolder() {

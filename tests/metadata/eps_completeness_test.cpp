@@ -15,13 +15,16 @@ const QString kCutOff = QStringLiteral("the file seems cut off: its PostScript s
 const QByteArray kHeader("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n%%EndComments\n");
 
 /// A file as generators write them.
-const QByteArray kWhole = kHeader +
-                          "%%BeginProlog\n/w { 0 0 moveto lineto stroke } def\n%%EndProlog\n%%Page: 1 1\nsave\ngsave\n"
-                          "9 9 w\n1 0 0 setrgbcolor\n5 7 w\ngrestore\nrestore\nshowpage\n%%Trailer\n%%EOF\n";
+const QByteArray kWhole =
+    kHeader +
+    "%%BeginProlog\n/w { 0 0 moveto lineto stroke } def\n%%EndProlog\n%%Page: 1 1\nsave\ngsave\n"
+    "9 9 w\n1 0 0 setrgbcolor\n5 7 w\ngrestore\nrestore\nshowpage\n%%Trailer\n%%EOF\n";
 
 QByteArray binary(const QByteArray& tiff, const QByteArray& postScript) {
   QByteArray header(30, '\0');
-  const auto put = [&](qsizetype at, qsizetype value) { qToLittleEndian(quint32(value), header.data() + at); };
+  const auto put = [&](qsizetype at, qsizetype value) {
+    qToLittleEndian(quint32(value), header.data() + at);
+  };
   header.replace(0, 4, "\xC5\xD0\xD3\xC6");
   put(4, 30 + tiff.size());
   put(8, postScript.size());
@@ -79,18 +82,22 @@ class EpsCompletenessTest : public QObject {
   void sectionsBehindTheEndAreCounted() {
     const QByteArray whole = binary(QByteArray(100, 'x'), kWhole);
     QCOMPARE(epsMissingParts(whole.chopped(1)),
-             QStringList{QString("the file is cut off: 1 of the %1 bytes of its PostScript are missing").arg(kWhole.size())});
+             QStringList{QString("the file is cut off: 1 of the %1 bytes of its PostScript are missing")
+                             .arg(kWhole.size())});
     const QStringList both = epsMissingParts(whole.first(90));
     QCOMPARE(both.size(), 2);
-    QCOMPARE(both[0], QString("the file is cut off: %1 of the %1 bytes of its PostScript are missing").arg(kWhole.size()));
+    QCOMPARE(
+        both[0],
+        QString("the file is cut off: %1 of the %1 bytes of its PostScript are missing").arg(kWhole.size()));
     QCOMPARE(both[1], QString("the file is cut off: 40 of the 100 bytes of its preview are missing"));
   }
 
   void theLargestNumbersDoNotOverflow() {
     QByteArray source = binary("II*", kWhole);
     source.replace(4, 8, QByteArray(8, '\xFF'));
-    QCOMPARE(epsMissingParts(source),
-             QStringList{"the file is cut off: 4294967295 of the 4294967295 bytes of its PostScript are missing"});
+    QCOMPARE(
+        epsMissingParts(source),
+        QStringList{"the file is cut off: 4294967295 of the 4294967295 bytes of its PostScript are missing"});
   }
 
   void everyCutOfAnythingEndsWithoutHarm() {

@@ -14,11 +14,14 @@ class EpsProgramTest : public QObject {
     QCOMPARE(bigEndian.left(2).toHex(), QByteArray("feff"));
     QCOMPARE(epsProgram(bigEndian), program.toUtf8());
     QByteArray littleEndian = bigEndian;
-    for (qsizetype i = 0; i + 1 < littleEndian.size(); i += 2) std::swap(littleEndian[i], littleEndian[i + 1]);
+    for (qsizetype i = 0; i + 1 < littleEndian.size(); i += 2)
+      std::swap(littleEndian[i], littleEndian[i + 1]);
     QCOMPARE(epsProgram(littleEndian), program.toUtf8());
   }
   void aUtf8MarkIsLeftOut() { QCOMPARE(epsProgram("\xEF\xBB\xBF%!PS\n"), QByteArray("%!PS\n")); }
-  void bytesOfNoEncodingStay() { QCOMPARE(epsProgram("%!PS\n\xFF\xFE\x80"), QByteArray("%!PS\n\xFF\xFE\x80")); }
+  void bytesOfNoEncodingStay() {
+    QCOMPARE(epsProgram("%!PS\n\xFF\xFE\x80"), QByteArray("%!PS\n\xFF\xFE\x80"));
+  }
   void aMarkAloneHoldsNoProgram() { QVERIFY(epsProgram("\xFE\xFF").isEmpty()); }
 };
 

@@ -7,9 +7,9 @@
 #include "kit/test_main.h"
 #include "picture/eps_image_rep.h"
 #include "picture/gzip_stream.h"
+#include "picture/pdf_image_rep.h"
 #include "picture/process/memory_picture_service.h"
 #include "picture/process/null_picture_service.h"
-#include "picture/pdf_image_rep.h"
 #include "picture/web_image_rep.h"
 
 using namespace norvex;

@@ -46,8 +46,8 @@ class MemorySpooler final : public PrintSpooler {
     printers_ = printers;
   }
 
-  std::optional<Error> error;                     ///< set before use
-  std::function<void(const CancelToken&)> wait;   ///< runs before a job is taken
+  std::optional<Error> error;                    ///< set before use
+  std::function<void(const CancelToken&)> wait;  ///< runs before a job is taken
 
  private:
   mutable std::mutex mutex_;
@@ -65,7 +65,8 @@ class ScriptedInteraction final : public PrintInteraction {
     if (onPanel) onPanel(operation);
     return printsFromPanel;
   }
-  void beginPageLayout(const NSPrintInfo& printInfo, std::function<void(const NSPrintInfo&, int)> end) override {
+  void beginPageLayout(const NSPrintInfo& printInfo,
+                       std::function<void(const NSPrintInfo&, int)> end) override {
     ++sheets;
     shownInfo = printInfo;
     endSheet = std::move(end);

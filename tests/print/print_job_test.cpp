@@ -10,8 +10,8 @@
 
 #include "kit/program.h"
 #include "kit/test_main.h"
-#include "picture/pdf_image_rep.h"
 #include "picture/client/worker_service.h"
+#include "picture/pdf_image_rep.h"
 #include "print/memory_printing.h"
 #include "print/print_operation.h"
 

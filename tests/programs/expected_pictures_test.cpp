@@ -46,16 +46,20 @@ class ExpectedPicturesTest : public QObject {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<bool>("single");
     QTest::newRow("SVG") << QStringList{"convert", "a.svg", "-o", "a.png"} << true;
-    QTest::newRow("compressed") << QStringList{"convert", "--force", "a.SVGZ", "--to", "b.svg", "--format=eps"} << true;
+    QTest::newRow("compressed") << QStringList{"convert", "--force", "a.SVGZ",
+                                               "--to",    "b.svg",   "--format=eps"}
+                                << true;
     QTest::newRow("PDF") << QStringList{"convert", "--dpi", "300", "a.pdf", "-o", "a.png"} << true;
     QTest::newRow("two") << QStringList{"convert", "a.svg", "b.svg", "--to", "c", "--format", "png"} << false;
     QTest::newRow("PostScript") << QStringList{"convert", "a.eps", "-o", "a.pdf"} << false;
     QTest::newRow("may be PostScript") << QStringList{"convert", "a.ai", "-o", "a.pdf"} << false;
     QTest::newRow("standard input") << QStringList{"convert", "-", "-o", "a.svg"} << false;
-    QTest::newRow("other limits") << QStringList{"convert", "--memory", "99", "a.svg", "-o", "a.png"} << false;
+    QTest::newRow("other limits") << QStringList{"convert", "--memory", "99", "a.svg", "-o", "a.png"}
+                                  << false;
     QTest::newRow("other time") << QStringList{"convert", "--timeout=9", "a.svg", "-o", "a.png"} << false;
     QTest::newRow("standard input and a file") << QStringList{"convert", "-", "a.svg", "--to", "b"} << false;
-    QTest::newRow("names like options") << QStringList{"convert", "a.svg", "--to", "b", "--", "-c.svg"} << false;
+    QTest::newRow("names like options")
+        << QStringList{"convert", "a.svg", "--to", "b", "--", "-c.svg"} << false;
     QTest::newRow("a name like an option") << QStringList{"convert", "--to", "b", "--", "--dpi.svg"} << true;
     QTest::newRow("no file") << QStringList{"convert", "-o", "a.svg"} << false;
     QTest::newRow("window") << QStringList{"a.svg"} << false;
@@ -68,8 +72,9 @@ class ExpectedPicturesTest : public QObject {
   }
 
   void everyNeedHasAPart() {
-    for (const PictureNeeds needs : {PictureNeeds(NeedSvgDrawing), svgNeeds(PictureUse::WholePdf),
-                                     svgNeeds(PictureUse::Everything), PictureNeeds(NeedPages), allPictureNeeds})
+    for (const PictureNeeds needs :
+         {PictureNeeds(NeedSvgDrawing), svgNeeds(PictureUse::WholePdf), svgNeeds(PictureUse::Everything),
+          PictureNeeds(NeedPages), allPictureNeeds})
       QCOMPARE(needs & ~engineParts[enginePartFor(needs)].offers, 0u);
     QCOMPARE(engineParts[enginePartFor(NeedSvgDrawing)].name, "svg");
     QCOMPARE(engineParts[enginePartFor(NeedPages)].name, "pages");

@@ -299,8 +299,8 @@ class WorkerProtocolTest : public QObject {
   }
 
   void theSheetsOfAJobAreKept() {
-    const auto read =
-        std::get<PagesRequest>(std::get<WorkerRequest>(*decodeMessage(encodeMessage(messages().last()))).body);
+    const auto read = std::get<PagesRequest>(
+        std::get<WorkerRequest>(*decodeMessage(encodeMessage(messages().last()))).body);
     QCOMPARE(read.paper, QSizeF(842, 595));
     QCOMPARE(read.sheets.size(), 2);
     QCOMPARE(read.sheets.first().source, QRectF(0, 0, 10, 20));
@@ -326,7 +326,8 @@ class WorkerProtocolTest : public QObject {
     QVERIFY(refused([](PagesRequest& request) { request.fontSize = 0; }));
     QVERIFY(refused([](PagesRequest& request) { request.fontSize = 1e6; }));
     QVERIFY(refused([](PagesRequest& request) { request.sheets[0].target.setWidth(-1); }));
-    QVERIFY(refused([](PagesRequest& request) { request.header->rect.setX(std::numeric_limits<double>::infinity()); }));
+    QVERIFY(refused(
+        [](PagesRequest& request) { request.header->rect.setX(std::numeric_limits<double>::infinity()); }));
   }
 
   void requestsOutOfRangeAreRefused() {

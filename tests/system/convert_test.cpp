@@ -1,4 +1,5 @@
-// The built program converts the samples into every format, and programs that we did not write accept the results.
+// The built program converts the samples into every format, and programs that we did not write accept the
+// results.
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -8,18 +9,19 @@
 
 #include <sys/mount.h>
 
+#include "kit/process_watch.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "system/outside_programs.h"
-#include "kit/process_watch.h"
 
 using namespace norvex;
 using namespace norvex::kit;
 
 namespace {
 
-const QStringList kSamples{"lighthouse.svg",        "lighthouse.svgz", "lighthouse.pdf",    "lighthouse.eps",
-                           "lighthouse-preview.eps", "lighthouse.epsi", "lighthouse-8.ai", "lighthouse-cs.ai"};
+const QStringList kSamples{"lighthouse.svg",  "lighthouse.svgz",        "lighthouse.pdf",
+                           "lighthouse.eps",  "lighthouse-preview.eps", "lighthouse.epsi",
+                           "lighthouse-8.ai", "lighthouse-cs.ai"};
 const QStringList kFormats{"eps", "eps-preview", "epsi", "pdf", "svg", "svgz", "tiff", "png", "jpeg", "gif"};
 
 /// An SVG with everything that a header can say.
@@ -34,7 +36,9 @@ const QByteArray kToldEps =
 /// Never ends.
 const QByteArray kEndless = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n%%EndComments\n{} loop\n";
 
-bool isSvg(const QString& sample) { return sample.contains(".svg"); }
+bool isSvg(const QString& sample) {
+  return sample.contains(".svg");
+}
 
 QByteArray bytesOf(const QString& path) {
   QFile file(path);
@@ -94,17 +98,20 @@ class ConvertSystemTest : public QObject {
     }
     QVERIFY2(ran.exitCode == 0 && !ran.crashed, ran.err);
     QCOMPARE(outside::complaintAbout(to, format), QString());
-    // Drawn by other programs, source and result look alike. A GIF has but 256 colours, and CMYK has no one look.
+    // Drawn by other programs, source and result look alike. A GIF has but 256 colours, and CMYK has no one
+    // look.
     const QImage before = drawn(sample);
     QVERIFY(!before.isNull());
     const double different = outside::difference(before, outside::drawnOutside(to, format));
-    QVERIFY2(different < (format == "gif" || sample == "lighthouse-8.ai" ? 0.04 : 0.02), qPrintable(QString::number(different)));
+    QVERIFY2(different < (format == "gif" || sample == "lighthouse-8.ai" ? 0.04 : 0.02),
+             qPrintable(QString::number(different)));
   }
 
   void structuredPostScriptIsWellBehaved() {
     for (const char* name : {"told.svg", "told.pdf"}) {
       const QString svg = write("told.svg", kTold);
-      if (QString(name).endsWith("pdf")) QCOMPARE(kit::norvex({"convert", svg, "-o", path("told.pdf")}).exitCode, 0);
+      if (QString(name).endsWith("pdf"))
+        QCOMPARE(kit::norvex({"convert", svg, "-o", path("told.pdf")}).exitCode, 0);
       QCOMPARE(kit::norvex({"convert", path(name), "-o", path("out.eps"), "--force"}).exitCode, 0);
       QCOMPARE(outside::complaintOf("epstool", {"--quiet", "--test-eps", path("out.eps")}), QString());
     }
@@ -112,8 +119,9 @@ class ConvertSystemTest : public QObject {
 
   void aTransparentPictureHasNoEdgeAsEps() {
     // Without its transparency it would be black: nothing of that may show, not even a line.
-    const QString svg = write("a.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='80' height='60'>"
-                                       "<g opacity='0.1'><rect width='80' height='60'/></g></svg>");
+    const QString svg = write("a.svg",
+                              "<svg xmlns='http://www.w3.org/2000/svg' width='80' height='60'>"
+                              "<g opacity='0.1'><rect width='80' height='60'/></g></svg>");
     QCOMPARE(kit::norvex({"convert", svg, "-o", path("b.eps")}).exitCode, 0);
     const QImage drawn = outside::drawnOutside(path("b.eps"), "eps");
     QCOMPARE(drawn.size(), QSize(60, 45));
@@ -146,7 +154,8 @@ class ConvertSystemTest : public QObject {
 
   void anEpsTellsItselfInPdf() {
     const QString eps = write("a.eps", kToldEps);
-    const Ran ran = kit::norvex({"convert", eps, "-o", path("b.pdf"), "--json"}, {}, 60, {"SOURCE_DATE_EPOCH=86400"});
+    const Ran ran =
+        kit::norvex({"convert", eps, "-o", path("b.pdf"), "--json"}, {}, 60, {"SOURCE_DATE_EPOCH=86400"});
     QCOMPARE(ran.exitCode, 0);
     QCOMPARE(QJsonDocument::fromJson(ran.out).array().at(0)["metadataLost"].toArray(),
              QJsonArray({"CreationDate", "Copyright"}));
@@ -167,7 +176,8 @@ class ConvertSystemTest : public QObject {
 
   void theSameInputGivesTheSameBytes_data() {
     QTest::addColumn<QString>("sample");
-    for (const char* name : {"lighthouse.svg", "lighthouse.pdf", "lighthouse.eps"}) QTest::newRow(name) << name;
+    for (const char* name : {"lighthouse.svg", "lighthouse.pdf", "lighthouse.eps"})
+      QTest::newRow(name) << name;
   }
   void theSameInputGivesTheSameBytes() {
     QFETCH(QString, sample);
@@ -195,11 +205,13 @@ class ConvertSystemTest : public QObject {
     QCOMPARE(ran.exitCode, 4);
     QVERIFY2(ran.err.endsWith(": there is no space left to write to\n"), ran.err);
     QCOMPARE(bytesOf(disk.path("a.tiff")), QByteArray("old"));
-    QCOMPARE(QDir(disk.folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList{"a.tiff"});
+    QCOMPARE(QDir(disk.folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{"a.tiff"});
   }
 
   void aFullStandardOutputIsTold() {
-    const QString command = norvexProgram() + " convert " + sample("lighthouse.svg") + " -o - --format tiff > /dev/full";
+    const QString command =
+        norvexProgram() + " convert " + sample("lighthouse.svg") + " -o - --format tiff > /dev/full";
     const Ran ran = run("sh", {"-c", command});
     QCOMPARE(ran.exitCode, 4);
     QVERIFY(ran.err.endsWith("standard output cannot be written\n"));
@@ -219,23 +231,29 @@ class ConvertSystemTest : public QObject {
 
   void aNameThatIsNoTextIsAFileLikeOthers() {
     const QString script =
-        "n=$(printf 'gr\\374n'); cp \"$2\" \"$3/$n.eps\"; \"$1\" convert \"$3/$n.eps\" -o \"$3/$n.pdf\" && head -c 5 \"$3/$n.pdf\"; "
+        "n=$(printf 'gr\\374n'); cp \"$2\" \"$3/$n.eps\"; \"$1\" convert \"$3/$n.eps\" -o \"$3/$n.pdf\" && "
+        "head -c 5 \"$3/$n.pdf\"; "
         "\"$1\" convert \"$3/$n.eps\" -o \"$3/$n.pdf\"; code=$?; rm \"$3/$n.eps\" \"$3/$n.pdf\"; exit $code";
-    const Ran ran = run("sh", {"-c", script, "sh", kit::norvexProgram(), kit::sample("lighthouse.eps"), folder_->path()});
+    const Ran ran =
+        run("sh", {"-c", script, "sh", kit::norvexProgram(), kit::sample("lighthouse.eps"), folder_->path()});
     QCOMPARE(ran.out, QByteArray("%PDF-"));
     QCOMPARE(ran.exitCode, 4);
     QVERIFY2(ran.err.contains("/gr\\xfcn.pdf exists already"), ran.err);
     QVERIFY(QDir(folder_->path()).isEmpty());
   }
   void aMistypedCommandNeedsNoDisplay() {
-    const Ran ran = kit::run(kit::norvexProgram(), {"convret", "x"}, {}, 60, {"DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM="});
+    const Ran ran = kit::run(kit::norvexProgram(), {"convret", "x"}, {}, 60,
+                             {"DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM="});
     QCOMPARE(ran.exitCode, 2);
-    QCOMPARE(ran.err, QByteArray("norvex: there is no command convret, and no file of that name, perhaps convert is meant; "
-                                 "norvex --help shows what there is\n"));
+    QCOMPARE(
+        ran.err,
+        QByteArray("norvex: there is no command convret, and no file of that name, perhaps convert is meant; "
+                   "norvex --help shows what there is\n"));
   }
   void theInputIsKept() {
     const QString file = write("a.eps", kToldEps);
-    const Ran ran = kit::norvex({"convert", file, "-o", path("../" + QFileInfo(folder_->path()).fileName() + "/a.eps"), "--force"});
+    const Ran ran = kit::norvex(
+        {"convert", file, "-o", path("../" + QFileInfo(folder_->path()).fileName() + "/a.eps"), "--force"});
     QCOMPARE(ran.exitCode, 4);
     QVERIFY(ran.err.endsWith(": the output would overwrite the input\n"));
     QCOMPARE(bytesOf(file), kToldEps);
@@ -249,29 +267,36 @@ class ConvertSystemTest : public QObject {
         QTest::addRow("%s %s", name, closed)
             << QStringLiteral("convert '%1' -o a.png %2").arg(sample(name), closed) << 0;
     QTest::newRow("no input") << "convert - -o a.png <&-" << 3;
-    QTest::newRow("no output") << QStringLiteral("convert '%1' -o - --format png >&-").arg(sample("lighthouse.svg")) << 4;
-    QTest::newRow("no output for facts") << QStringLiteral("info '%1' >&-").arg(sample("lighthouse.svg")) << 4;
-    QTest::newRow("no output for text") << QStringLiteral("source '%1' >&-").arg(sample("lighthouse.svg")) << 4;
+    QTest::newRow("no output")
+        << QStringLiteral("convert '%1' -o - --format png >&-").arg(sample("lighthouse.svg")) << 4;
+    QTest::newRow("no output for facts")
+        << QStringLiteral("info '%1' >&-").arg(sample("lighthouse.svg")) << 4;
+    QTest::newRow("no output for text")
+        << QStringLiteral("source '%1' >&-").arg(sample("lighthouse.svg")) << 4;
   }
   void closedStandardStreamsAreNoneOfOurs() {
     QFETCH(QString, command);
     QFETCH(int, exitCode);
-    const QString line = QStringLiteral("cd '%1' && exec '%2' %3").arg(folder_->path(), norvexProgram(), command);
+    const QString line =
+        QStringLiteral("cd '%1' && exec '%2' %3").arg(folder_->path(), norvexProgram(), command);
     const Ran ran = kit::run("sh", {"-c", line}, {}, 30);
     QCOMPARE(ran.exitCode, exitCode);
     const bool made = exitCode == 0;
-    QCOMPARE(QDir(folder_->path()).entryList(QDir::Files | QDir::Hidden), made ? QStringList{"a.png"} : QStringList{});
+    QCOMPARE(QDir(folder_->path()).entryList(QDir::Files | QDir::Hidden),
+             made ? QStringList{"a.png"} : QStringList{});
     if (made) QCOMPARE(outside::complaintAbout(path("a.png"), "png"), QString());
   }
 
   void aSuddenDeathLeavesTheOldFile() {
     // Killed at many moments of its life; what is under the name is always whole.
     const QString file = write("a.png", "old");
-    const Ran whole = kit::norvex({"convert", sample("lighthouse.svg"), "-o", "-", "--format", "png", "--dpi", "200"});
+    const Ran whole =
+        kit::norvex({"convert", sample("lighthouse.svg"), "-o", "-", "--format", "png", "--dpi", "200"});
     QCOMPARE(whole.exitCode, 0);
     for (int milliseconds = 10; milliseconds < 1500; milliseconds = milliseconds * 5 / 4) {
       QProcess process;
-      process.start(norvexProgram(), {"convert", sample("lighthouse.svg"), "-o", file, "--dpi", "200", "--force"});
+      process.start(norvexProgram(),
+                    {"convert", sample("lighthouse.svg"), "-o", file, "--dpi", "200", "--force"});
       QVERIFY(process.waitForStarted());
       process.waitForFinished(milliseconds);
       process.kill();
@@ -284,7 +309,8 @@ class ConvertSystemTest : public QObject {
   void aSuddenDeathTakesThePictureProcessAlong() {
     for (const char* name : {"lighthouse.svg", "lighthouse.pdf", "lighthouse.eps"}) {
       QProcess process;
-      process.start(norvexProgram(), {"convert", sample(name), "-o", path("a.png"), "--dpi", "1200", "--force"});
+      process.start(norvexProgram(),
+                    {"convert", sample(name), "-o", path("a.png"), "--dpi", "1200", "--force"});
       QVERIFY(process.waitForStarted());
       QList<qint64> children;
       QVERIFY2(eventually([&] { return !(children = childrenOf(process.processId())).isEmpty(); }), name);
@@ -304,7 +330,9 @@ class ConvertSystemTest : public QObject {
       files << path(name);
     }
     QProcess process;
-    process.start(norvexProgram(), QStringList{"convert", "--to", path("to"), "--format", "png", "--dpi", "144", "--jobs", "2"} + files);
+    process.start(
+        norvexProgram(),
+        QStringList{"convert", "--to", path("to"), "--format", "png", "--dpi", "144", "--jobs", "2"} + files);
     QVERIFY(process.waitForStarted());
     // As soon as there is a result the run is in its middle.
     const auto results = [&] { return QDir(path("to")).entryList(QDir::Files | QDir::Hidden); };
@@ -353,7 +381,8 @@ class ConvertSystemTest : public QObject {
       QCOMPARE(first.exitCode() + second.exitCode(), 0);
       const QByteArray found = bytesOf(path("a.png"));
       QVERIFY(found == one.out || found == two.out);
-      QCOMPARE(QDir(folder_->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList{"a.png"});
+      QCOMPARE(QDir(folder_->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+               QStringList{"a.png"});
     }
   }
 
@@ -361,7 +390,8 @@ class ConvertSystemTest : public QObject {
   QString path(const QString& name) const { return folder_->filePath(name); }
   QString write(const QString& name, const QByteArray& bytes) const {
     QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write test data");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+      qFatal("cannot write test data");
     return file.fileName();
   }
   /// How other programs draw a sample; they are asked once.

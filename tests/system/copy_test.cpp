@@ -1,5 +1,5 @@
-// The built program in a real X server: a rectangle is selected with the mouse, copied, and other programs take every
-// format of it from the clipboard.
+// The built program in a real X server: a rectangle is selected with the mouse, copied, and other programs
+// take every format of it from the clipboard.
 #include <QFile>
 #include <QSet>
 
@@ -19,20 +19,28 @@ namespace {
 const QByteArray kQuartersSvg =
     "<svg xmlns='http://www.w3.org/2000/svg' width='300pt' height='200pt' viewBox='0 0 300 200'>"
     "<rect width='150' height='100' fill='#d02020'/><rect x='150' width='150' height='100' fill='#20a020'/>"
-    "<rect y='100' width='150' height='100' fill='#2030d0'/><rect x='150' y='100' width='150' height='100' fill='#e0c020'/></svg>";
+    "<rect y='100' width='150' height='100' fill='#2030d0'/><rect x='150' y='100' width='150' height='100' "
+    "fill='#e0c020'/></svg>";
 const QByteArray kQuartersEps =
     "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 300 200\n%%EndComments\n"
-    "0.816 0.125 0.125 setrgbcolor 0 100 150 100 rectfill\n0.125 0.627 0.125 setrgbcolor 150 100 150 100 rectfill\n"
-    "0.125 0.188 0.816 setrgbcolor 0 0 150 100 rectfill\n0.878 0.753 0.125 setrgbcolor 150 0 150 100 rectfill\n%%EOF\n";
+    "0.816 0.125 0.125 setrgbcolor 0 100 150 100 rectfill\n0.125 0.627 0.125 setrgbcolor 150 100 150 100 "
+    "rectfill\n"
+    "0.125 0.188 0.816 setrgbcolor 0 0 150 100 rectfill\n0.878 0.753 0.125 setrgbcolor 150 0 150 100 "
+    "rectfill\n%%EOF\n";
 const QSize kSelected(100, 60);
 
 struct Target {
   const char* name;
   const char* format;  ///< as outside_programs.h names it
 };
-const QList<Target> kTargets{{"image/svg+xml", "svg"},        {"application/pdf", "pdf"},      {"image/x-eps", "eps"},
-                             {"application/postscript", "eps"}, {"image/x-e-postscript", "eps"}, {"application/eps", "eps"},
-                             {"image/png", "png"},            {"image/tiff", "tiff"}};
+const QList<Target> kTargets{{"image/svg+xml", "svg"},
+                             {"application/pdf", "pdf"},
+                             {"image/x-eps", "eps"},
+                             {"application/postscript", "eps"},
+                             {"image/x-e-postscript", "eps"},
+                             {"application/eps", "eps"},
+                             {"image/png", "png"},
+                             {"image/tiff", "tiff"}};
 
 const QList<QRgb> kColours{0xd02020, 0x20a020, 0x2030d0, 0xe0c020};
 
@@ -59,7 +67,8 @@ class Shown {
  public:
   Shown(const QByteArray& bytes, const QString& name) {
     QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write the test's file");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+      qFatal("cannot write the test's file");
     file.close();
     isThere = session.start({file.fileName()}, name);
   }
@@ -109,7 +118,8 @@ class CopyTest : public QObject {
  private slots:
   void initTestCase() {
     QString missing = XSession::missing();
-    for (const char* program : {"qpdf", "gs", "rsvg-convert", "tiffinfo", "pngcheck", "pdftocairo", "convert", "identify"})
+    for (const char* program :
+         {"qpdf", "gs", "rsvg-convert", "tiffinfo", "pngcheck", "pdftocairo", "convert", "identify"})
       if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty()) missing = QLatin1String(program);
     if (!missing.isEmpty()) QSKIP(qPrintable("not installed: " + missing));
   }
@@ -140,8 +150,10 @@ class CopyTest : public QObject {
       const QString complaint = complaintAbout(path, target.format);
       QVERIFY2(complaint.isEmpty(), qPrintable(complaint));
       const QImage drawn = drawnOutside(path, target.format);
-      QVERIFY2(std::abs(drawn.width() - kSelected.width()) <= 2 && std::abs(drawn.height() - kSelected.height()) <= 2,
-               qPrintable(QStringLiteral("%1: %2 × %3").arg(target.name).arg(drawn.width()).arg(drawn.height())));
+      QVERIFY2(
+          std::abs(drawn.width() - kSelected.width()) <= 2 &&
+              std::abs(drawn.height() - kSelected.height()) <= 2,
+          qPrintable(QStringLiteral("%1: %2 × %3").arg(target.name).arg(drawn.width()).arg(drawn.height())));
       QCOMPARE(quartersIn(drawn), 4);  // the middle of the picture is in it
       if (first.isNull()) first = drawn;
       QVERIFY2(difference(first, drawn) < 0.05, target.name);
@@ -165,7 +177,8 @@ class CopyTest : public QObject {
   void aPictureThatCannotBeShownIsNotCopied() {
     Shown f("%!PS-Adobe-3.0 EPSF-3.0\n%%Title: no box\n%%EndComments\n", "broken.eps");
     QVERIFY(f.isThere);
-    f.session.run("xclip", {"-selection", "clipboard", "-i", QStringLiteral(NORVEX_SOURCE_DIR "/CMakeLists.txt")});
+    f.session.run("xclip",
+                  {"-selection", "clipboard", "-i", QStringLiteral(NORVEX_SOURCE_DIR "/CMakeLists.txt")});
     QVERIFY(kit::waitUntil([&] { return f.targets().contains("UTF8_STRING"); }));
     const QString before = f.session.selection("clipboard");
     f.session.key("ctrl+shift+c");

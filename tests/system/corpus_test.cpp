@@ -1,5 +1,5 @@
-// Real files by many producers, where a folder of them stands beside the project: each is told about, drawn and, when
-// it is asked for, converted into everything and back.
+// Real files by many producers, where a folder of them stands beside the project: each is told about, drawn
+// and, when it is asked for, converted into everything and back.
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,13 +24,17 @@ namespace {
 /// How often each thing was seen, by the kind of file.
 using Counts = QMap<QString, QMap<QString, int>>;
 
-QString kindOf(const QString& file) { return QFileInfo(QFileInfo(file).path()).fileName(); }
+QString kindOf(const QString& file) {
+  return QFileInfo(QFileInfo(file).path()).fileName();
+}
 
 QStringList kinds() {
   return QDir(kit::corpusFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-void print(const QString& line) { std::printf("%s\n", qPrintable(line)); }
+void print(const QString& line) {
+  std::printf("%s\n", qPrintable(line));
+}
 
 void print(const QString& title, const Counts& counts) {
   print(title);
@@ -47,9 +51,13 @@ QString reason(QString sentence) {
   return sentence.replace(path, "…").replace(number, "#").left(110);
 }
 
-QJsonArray objectsIn(const QByteArray& json) { return QJsonDocument::fromJson(json).array(); }
+QJsonArray objectsIn(const QByteArray& json) {
+  return QJsonDocument::fromJson(json).array();
+}
 
-bool isOneSentence(const QString& text) { return !text.trimmed().isEmpty() && !text.contains(u'\n'); }
+bool isOneSentence(const QString& text) {
+  return !text.trimmed().isEmpty() && !text.contains(u'\n');
+}
 
 /// How other programs have to read a file of the corpus.
 QString formatOf(const QString& kind) {
@@ -69,7 +77,8 @@ class CorpusTest : public QObject {
 
  private slots:
   void init() {
-    if (kit::corpusFolder().isEmpty()) QSKIP("there is no folder of real files here (NORVEX_CORPUS names one)");
+    if (kit::corpusFolder().isEmpty())
+      QSKIP("there is no folder of real files here (NORVEX_CORPUS names one)");
   }
 
   void everyFileIsKnownOrToldWhyNot() {
@@ -85,7 +94,8 @@ class CorpusTest : public QObject {
       const QJsonObject object = all[i].toObject();
       QCOMPARE(object["file"].toString(), files[i]);
       const QString error = object["error"].toString();
-      QVERIFY2(object.contains("error") ? isOneSentence(error) : known.contains(object["kind"].toString()), qPrintable(files[i]));
+      QVERIFY2(object.contains("error") ? isOneSentence(error) : known.contains(object["kind"].toString()),
+               qPrintable(files[i]));
       QVERIFY2(!error.contains("process"), qPrintable(files[i] + ": " + error));
       ++counts[kindOf(files[i])][error.isEmpty() ? "known as " + object["kind"].toString() : reason(error)];
     }
@@ -98,8 +108,11 @@ class CorpusTest : public QObject {
     for (const QString& kind : kinds()) {
       const QStringList files = kit::corpusFiles(kind);
       QTemporaryDir folder;
-      const kit::Ran ran = kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", "png", "--dpi", "24", "--timeout",
-                                                   "10", "--jobs", "2", "--to", folder.path()} + files, {}, 280);
+      const kit::Ran ran =
+          kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", "png", "--dpi", "24",
+                                  "--timeout", "10", "--jobs", "2", "--to", folder.path()} +
+                          files,
+                      {}, 280);
       QVERIFY(!ran.crashed);
       const QJsonArray all = objectsIn(ran.out);
       QCOMPARE(all.size(), files.size());
@@ -122,8 +135,8 @@ class CorpusTest : public QObject {
     QVERIFY2(died.isEmpty(), qPrintable(died.join("\n")));
   }
 
-  /// Takes long: NORVEX_ROUND_TRIP=1 asks for it, NORVEX_ROUND_TRIP=5 for every fifth file of each kind. Prints; fails
-  /// on results that other programs do not accept.
+  /// Takes long: NORVEX_ROUND_TRIP=1 asks for it, NORVEX_ROUND_TRIP=5 for every fifth file of each kind.
+  /// Prints; fails on results that other programs do not accept.
   void everyFileBecomesEveryFormat() {
     const int step = qEnvironmentVariableIntValue("NORVEX_ROUND_TRIP");
     if (step < 1) QSKIP("takes long: NORVEX_ROUND_TRIP=1 asks for it");
@@ -134,13 +147,17 @@ class CorpusTest : public QObject {
       QStringList files;
       const QStringList all = kit::corpusFiles(kind);
       for (qsizetype i = 0; i < all.size(); i += step) files << all[i];
-      for (const char* format : {"eps", "eps-preview", "epsi", "pdf", "svg", "svgz", "tiff", "png", "jpeg", "gif"}) {
-        if (QLatin1String(format).startsWith(QLatin1String("svg")) && formatOf(kind) != "svg" && kind != "svgz") continue;
+      for (const char* format :
+           {"eps", "eps-preview", "epsi", "pdf", "svg", "svgz", "tiff", "png", "jpeg", "gif"}) {
+        if (QLatin1String(format).startsWith(QLatin1String("svg")) && formatOf(kind) != "svg" &&
+            kind != "svgz")
+          continue;
         convertAll(kind, files, QLatin1String(format), counts, refused, unlike);
       }
     }
     print("conversions:", counts);
-    print(QString("%1 results look unlike their source (mean difference above 3 %, of a GIF above 5 %):").arg(unlike.size()));
+    print(QString("%1 results look unlike their source (mean difference above 3 %, of a GIF above 5 %):")
+              .arg(unlike.size()));
     for (const QString& line : unlike) print("  " + line);
     print(QString("%1 results are not accepted:").arg(refused.size()));
     for (const QString& line : refused) print("  " + line);
@@ -173,16 +190,19 @@ class CorpusTest : public QObject {
       if (!sources_.contains(file)) missing << file;
     if (missing.isEmpty()) return sources_;
     sources_.clear();
-    const auto images = QtConcurrent::blockingMapped<QList<QImage>>(
-        &pool_, missing, [](const QString& file) { return outside::drawnOutside(file, formatOf(kindOf(file)), 30); });
+    const auto images = QtConcurrent::blockingMapped<QList<QImage>>(&pool_, missing, [](const QString& file) {
+      return outside::drawnOutside(file, formatOf(kindOf(file)), 30);
+    });
     for (qsizetype i = 0; i < missing.size(); ++i) sources_.insert(missing[i], images[i]);
     return sources_;
   }
 
   /// What those that judge the result say of the source.
-  static QString complaintAboutSource(const QString& file, const QString& format, const QString& resultFormat) {
+  static QString complaintAboutSource(const QString& file, const QString& format,
+                                      const QString& resultFormat) {
     if (format == "eps" && resultFormat == "eps-preview")
-      if (const QString refused = outside::complaintOf("epstool", {"--quiet", "--test-eps", file}, 30); !refused.isEmpty())
+      if (const QString refused = outside::complaintOf("epstool", {"--quiet", "--test-eps", file}, 30);
+          !refused.isEmpty())
         return refused;
     return outside::complaintAbout(file, format, 30);
   }
@@ -191,8 +211,10 @@ class CorpusTest : public QObject {
                   QStringList& refused, QStringList& unlike) {
     pool_.setMaxThreadCount(2);
     QTemporaryDir folder;
-    const kit::Ran ran = kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", format, "--timeout", "20", "--jobs",
-                                                 "2", "--to", folder.path()} + files, {}, 1200);
+    const kit::Ran ran = kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", format,
+                                                 "--timeout", "20", "--jobs", "2", "--to", folder.path()} +
+                                         files,
+                                     {}, 1200);
     QVERIFY(!ran.crashed);
     const QJsonArray all = objectsIn(ran.out);
     QCOMPARE(all.size(), files.size());
@@ -206,7 +228,8 @@ class CorpusTest : public QObject {
       // What is handed on as it is may have the source's own faults.
       const QString to = object["output"].toString();
       const QString complaint = outside::complaintAbout(to, format, 30);
-      if (!complaint.isEmpty() && complaintAboutSource(files[i], formatOf(kind), format).isEmpty()) outcome.complaint = complaint;
+      if (!complaint.isEmpty() && complaintAboutSource(files[i], formatOf(kind), format).isEmpty())
+        outcome.complaint = complaint;
       if (sources[files[i]].isNull() || hasNoPostScript(object)) return outcome;
       outcome.compared = true;
       outcome.different = outside::difference(sources[files[i]], outside::drawnOutside(to, format, 30));
@@ -219,7 +242,8 @@ class CorpusTest : public QObject {
       ++counts[kind + " → " + format][what];
       if (!error.isEmpty()) continue;
       const QString name = kind + '/' + QFileInfo(files[i]).fileName() + " → " + format + ": ";
-      if (!outcomes[i].complaint.isEmpty() && !hasNoPostScript(all[i].toObject())) refused << name + outcomes[i].complaint;
+      if (!outcomes[i].complaint.isEmpty() && !hasNoPostScript(all[i].toObject()))
+        refused << name + outcomes[i].complaint;
       if (!outcomes[i].compared) continue;
       ++counts[kind + " → " + format]["compared"];
       if (outcomes[i].different > (format == "gif" ? 0.05 : 0.03))

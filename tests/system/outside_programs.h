@@ -34,10 +34,13 @@ inline QString firstOf(const QStringList& complaints) {
 
 /// Whether Ghostscript runs the PostScript to its end without an error.
 inline QString complaintAboutPostScript(const QString& path, int seconds = 60) {
-  const Ran ran = run("gs", {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-q", "-dEPSCrop", "-sDEVICE=nullpage", path}, {}, seconds);
+  const Ran ran = run("gs", {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-q", "-dEPSCrop", "-sDEVICE=nullpage", path},
+                      {}, seconds);
   const bool error = ran.out.contains("Error:") || ran.err.contains("Error:");
   if (!ran.crashed && ran.exitCode == 0 && !error) return {};
-  return QStringLiteral("gs (%1): %2").arg(ran.exitCode).arg(QString::fromUtf8((ran.out + ran.err).simplified().left(300)));
+  return QStringLiteral("gs (%1): %2")
+      .arg(ran.exitCode)
+      .arg(QString::fromUtf8((ran.out + ran.err).simplified().left(300)));
 }
 
 /// The preview of a binary EPS as a TIFF reader sees it, and the PostScript as Ghostscript does.
@@ -45,17 +48,25 @@ inline QString complaintAboutBinaryEps(const QString& path, int seconds = 60) {
   const QTemporaryDir folder;
   const QString tiff = folder.filePath("preview.tiff");
   const QString eps = folder.filePath("program.eps");
-  return firstOf({complaintOf("epstool", {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-preview", path, tiff}, seconds),
-                  complaintOf("tiffinfo", {tiff}, seconds),
-                  complaintOf("epstool", {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-postscript", path, eps}, seconds),
-                  complaintAboutPostScript(eps, seconds)});
+  return firstOf(
+      {complaintOf("epstool",
+                   {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-preview", path, tiff},
+                   seconds),
+       complaintOf("tiffinfo", {tiff}, seconds),
+       complaintOf("epstool",
+                   {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-postscript", path, eps},
+                   seconds),
+       complaintAboutPostScript(eps, seconds)});
 }
 
 inline QString complaintAboutSvgz(const QString& path, int seconds = 60) {
-  const Ran plain = run("gzip", {"-dc"}, [&] {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }(), seconds);
+  const Ran plain = run(
+      "gzip", {"-dc"},
+      [&] {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+      }(),
+      seconds);
   if (plain.exitCode != 0) return QStringLiteral("gzip: ") + QString::fromUtf8(plain.err);
   const Ran xml = run("xmllint", {"--noout", "--nonet", "--huge", "-"}, plain.out, seconds);
   if (xml.exitCode != 0) return QStringLiteral("xmllint: ") + QString::fromUtf8(xml.err.left(300));
@@ -67,7 +78,8 @@ inline QString complaintAbout(const QString& path, const QString& format, int se
   if (format == "eps" || format == "epsi") return complaintAboutPostScript(path, seconds);
   if (format == "eps-preview") return complaintAboutBinaryEps(path, seconds);
   if (format == "pdf")
-    return firstOf({complaintOf("qpdf", {"--check", path}, seconds), complaintOf("pdfinfo", {path}, seconds)});
+    return firstOf(
+        {complaintOf("qpdf", {"--check", path}, seconds), complaintOf("pdfinfo", {path}, seconds)});
   if (format == "svg")
     return firstOf({complaintOf("xmllint", {"--noout", "--nonet", "--huge", path}, seconds),
                     complaintOf("rsvg-convert", {"--unlimited", path}, seconds)});
@@ -79,21 +91,26 @@ inline QString complaintAbout(const QString& path, const QString& format, int se
   return identified;
 }
 
-/// The picture over white at 72 pixels an inch, drawn by Ghostscript, Poppler, librsvg or ImageMagick. Null on failure.
+/// The picture over white at 72 pixels an inch, drawn by Ghostscript, Poppler, librsvg or ImageMagick. Null
+/// on failure.
 inline QImage drawnOutside(const QString& path, const QString& format, int seconds = 60) {
   const QTemporaryDir folder;
   const QString png = folder.filePath("drawn.png");
   if (format == "eps" || format == "epsi") {
-    run("gs", {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-q", "-dEPSCrop", "-sDEVICE=png16m", "-r72", "-dTextAlphaBits=4",
-               "-dGraphicsAlphaBits=4", "-o", png, path}, {}, seconds);
+    run("gs",
+        {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-q", "-dEPSCrop", "-sDEVICE=png16m", "-r72", "-dTextAlphaBits=4",
+         "-dGraphicsAlphaBits=4", "-o", png, path},
+        {}, seconds);
   } else if (format == "eps-preview") {
     const QString eps = folder.filePath("program.eps");
-    run("epstool", {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-postscript", path, eps}, {}, seconds);
+    run("epstool", {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-postscript", path, eps}, {},
+        seconds);
     return drawnOutside(eps, "eps", seconds);
   } else if (format == "pdf") {
     run("pdftocairo", {"-png", "-r", "72", "-singlefile", "-cropbox", path, png.chopped(4)}, {}, seconds);
   } else if (format == "svg" || format == "svgz") {
-    run("rsvg-convert", {"--unlimited", "--background-color=white", "--zoom=0.75", "-o", png, path}, {}, seconds);
+    run("rsvg-convert", {"--unlimited", "--background-color=white", "--zoom=0.75", "-o", png, path}, {},
+        seconds);
   } else {
     run("convert", {path, "-background", "white", "-alpha", "remove", "png24:" + png}, {}, seconds);
   }
@@ -101,8 +118,8 @@ inline QImage drawnOutside(const QString& path, const QString& format, int secon
   return drawn.convertToFormat(QImage::Format_RGB32);
 }
 
-/// Mean difference of the samples, 0 … 1, after the smaller picture was brought to the other's size; 1 when a picture
-/// is missing or the sizes differ by more than two pixels and a hundredth.
+/// Mean difference of the samples, 0 … 1, after the smaller picture was brought to the other's size; 1 when a
+/// picture is missing or the sizes differ by more than two pixels and a hundredth.
 inline double difference(QImage one, QImage other) {
   if (one.isNull() || other.isNull()) return 1;
   const auto near = [](int a, int b) { return std::abs(a - b) <= 2 + std::max(a, b) / 100; };

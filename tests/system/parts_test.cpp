@@ -68,7 +68,8 @@ class PartsTest : public QObject {
       const QByteArray names = bytesOf(QStringLiteral(NORVEX_BUILD_DIR "/") + part);
       QVERIFY2(names.size() > 1000, qPrintable(part));
       if (part == "norvex") QVERIFY(!names.contains("libQt6"));
-      if (part.startsWith("norvex-worker") || part.startsWith("norvex-engine") || part.startsWith("norvex-picture"))
+      if (part.startsWith("norvex-worker") || part.startsWith("norvex-engine") ||
+          part.startsWith("norvex-picture"))
         QVERIFY2(!names.contains("libQt6Gui.so"), qPrintable(part));
       if (part != "norvex-application.so") QVERIFY2(!names.contains("libQt6Widgets.so"), qPrintable(part));
     }
@@ -134,8 +135,8 @@ class PartsTest : public QObject {
     QFETCH(bool, damaged);
     copyPartsBut("norvex-picture-svg");
     if (damaged) QVERIFY(QFile::copy("/bin/false", path("norvex-picture-svg")));
-    const Ran ran =
-        kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {}, 30);
+    const Ran ran = kit::run(path("norvex"),
+                             {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {}, 30);
     QCOMPARE(ran.err, QByteArray());
     QCOMPARE(ran.exitCode, 0);
   }
@@ -177,7 +178,8 @@ class PartsTest : public QObject {
     // Single pictures take a program of their own, which must be there as well.
     QVERIFY(QFile::remove(path("tree/libexec/norvex/norvex-worker")));
     for (const char* format : {"png", "pdf", "eps"}) {
-      const Ran ran = kit::run(program, {"convert", sample("lighthouse.svg"), "-o", path("b." + QString(format))});
+      const Ran ran =
+          kit::run(program, {"convert", sample("lighthouse.svg"), "-o", path("b." + QString(format))});
       QCOMPARE(ran.exitCode, 0);
     }
     QVERIFY(QFile::copy(NORVEX_BUILD_DIR "/norvex-worker", path("tree/libexec/norvex/norvex-worker")));
@@ -199,7 +201,8 @@ class PartsTest : public QObject {
       qFatal("cannot write a script");
     program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     program.close();
-    return kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {}, 30);
+    return kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {},
+                    30);
   }
   void copyPartsBut(const QString& missing) const {
     const QDir built = QFileInfo(norvexProgram()).dir();

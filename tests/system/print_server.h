@@ -21,7 +21,8 @@
 
 namespace norvex::outside {
 
-/// Serves while it lives. Its folder, port and printers are its own; it knows nothing of the system's printers.
+/// Serves while it lives. Its folder, port and printers are its own; it knows nothing of the system's
+/// printers.
 class PrintServer {
  public:
   /// Why there is none; empty when it serves.
@@ -30,24 +31,30 @@ class PrintServer {
     admin_ = QStandardPaths::findExecutable("lpadmin", {"/usr/sbin", "/usr/bin", "/sbin"});
     if (program.isEmpty() || admin_.isEmpty()) return QStringLiteral("CUPS's server is not installed");
     port_ = freePort();
-    QFile::setPermissions(folder_.path(), QFile::permissions(folder_.path()) | QFile::ReadOther | QFile::ExeOther);  // for the filters' user
+    QFile::setPermissions(folder_.path(), QFile::permissions(folder_.path()) | QFile::ReadOther |
+                                              QFile::ExeOther);  // for the filters' user
     for (const char* each : {"state/certs", "cache", "spool/tmp", "out"}) QDir(folder_.path()).mkpath(each);
-    write("cupsd.conf", QStringLiteral("LogLevel warn\nAccessLogLevel all\nMaxLogSize 0\nListen 127.0.0.1:%1\nBrowsing Off\nDefaultAuthType None\n"
-                                       "WebInterface No\nPreserveJobFiles Yes\nPreserveJobHistory Yes\n"
-                                       "<Location />\nAllow all\n</Location>\n<Location /admin>\nAllow all\n</Location>\n"
-                                       "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n<Limit All>\nAllow all\n"
-                                       "</Limit>\n</Policy>\n"
-                                       "<Policy locked>\nJobPrivateAccess all\nJobPrivateValues none\n"
-                                       "<Limit Create-Job Print-Job>\nAuthType Basic\nRequire valid-user\n</Limit>\n"
-                                       "<Limit All>\nAllow all\n</Limit>\n</Policy>\n")
-                            .arg(port_));
-    QString files = QStringLiteral("FileDevice Yes\nLogFilePerm 0644\nServerRoot %1\nStateDir %1/state\nCacheDir %1/cache\n"
-                                   "RequestRoot %1/spool\nTempDir %1/spool/tmp\nAccessLog %1/access_log\n"
-                                   "ErrorLog %1/error_log\nPageLog %1/page_log\n");
+    write("cupsd.conf",
+          QStringLiteral(
+              "LogLevel warn\nAccessLogLevel all\nMaxLogSize 0\nListen 127.0.0.1:%1\nBrowsing "
+              "Off\nDefaultAuthType None\n"
+              "WebInterface No\nPreserveJobFiles Yes\nPreserveJobHistory Yes\n"
+              "<Location />\nAllow all\n</Location>\n<Location /admin>\nAllow all\n</Location>\n"
+              "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\n<Limit All>\nAllow all\n"
+              "</Limit>\n</Policy>\n"
+              "<Policy locked>\nJobPrivateAccess all\nJobPrivateValues none\n"
+              "<Limit Create-Job Print-Job>\nAuthType Basic\nRequire valid-user\n</Limit>\n"
+              "<Limit All>\nAllow all\n</Limit>\n</Policy>\n")
+              .arg(port_));
+    QString files = QStringLiteral(
+        "FileDevice Yes\nLogFilePerm 0644\nServerRoot %1\nStateDir %1/state\nCacheDir %1/cache\n"
+        "RequestRoot %1/spool\nTempDir %1/spool/tmp\nAccessLog %1/access_log\n"
+        "ErrorLog %1/error_log\nPageLog %1/page_log\n");
     write("cups-files.conf", files.arg(folder_.path()));
     server_.setStandardOutputFile(QProcess::nullDevice());
     server_.setStandardErrorFile(folder_.filePath("said"));
-    server_.start(program, {"-f", "-c", folder_.filePath("cupsd.conf"), "-s", folder_.filePath("cups-files.conf")});
+    server_.start(program,
+                  {"-f", "-c", folder_.filePath("cupsd.conf"), "-s", folder_.filePath("cups-files.conf")});
     for (int i = 0; i < 200 && server_.state() != QProcess::NotRunning; ++i) {
       QTcpSocket socket;
       socket.connectToHost(QHostAddress::LocalHost, port_);
@@ -77,13 +84,18 @@ class PrintServer {
   }
   /// A queue that takes PDF as the filters for its description make it.
   [[nodiscard]] bool addPrinter(const QString& name, const QString& description) {
-    return tell(admin_, {"-p", name, "-E", "-v", "file:" + folder_.filePath("out/" + name), "-P", description});
+    return tell(admin_,
+                {"-p", name, "-E", "-v", "file:" + folder_.filePath("out/" + name), "-P", description});
   }
   [[nodiscard]] bool makeDefault(const QString& name) { return tell(admin_, {"-d", name}); }
   [[nodiscard]] bool removePrinter(const QString& name) { return tell(admin_, {"-x", name}); }
   [[nodiscard]] bool refuseJobs(const QString& name) { return tell(tool("cupsreject"), {name}); }
-  [[nodiscard]] bool wantPassword(const QString& name) { return tell(admin_, {"-p", name, "-o", "printer-op-policy=locked"}); }
-  [[nodiscard]] bool denyEverybody(const QString& name) { return tell(admin_, {"-p", name, "-u", "allow:nobody-at-all"}); }
+  [[nodiscard]] bool wantPassword(const QString& name) {
+    return tell(admin_, {"-p", name, "-o", "printer-op-policy=locked"});
+  }
+  [[nodiscard]] bool denyEverybody(const QString& name) {
+    return tell(admin_, {"-p", name, "-u", "allow:nobody-at-all"});
+  }
   /// Takes connections and answers nothing until it goes on.
   void pause() { ::kill(pid_t(server_.processId()), SIGSTOP); }
   void goOn() { ::kill(pid_t(server_.processId()), SIGCONT); }
@@ -93,7 +105,8 @@ class PrintServer {
   [[nodiscard]] QStringList spooledFiles() const {
     const QDir spool(folder_.filePath("spool"));
     QStringList paths;
-    for (const QString& name : spool.entryList({"d*-001"}, QDir::Files, QDir::Name)) paths << spool.filePath(name);
+    for (const QString& name : spool.entryList({"d*-001"}, QDir::Files, QDir::Name))
+      paths << spool.filePath(name);
     return paths;
   }
   /// What came out of a queue's printer at last.
@@ -129,7 +142,8 @@ class PrintServer {
 
  private:
   [[nodiscard]] http_t* connect() const {
-    return httpConnect2("127.0.0.1", port_, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1, 5000, nullptr);
+    return httpConnect2("127.0.0.1", port_, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1, 5000,
+                        nullptr);
   }
   static quint16 freePort() {
     QTcpServer server;
@@ -138,7 +152,8 @@ class PrintServer {
   }
   void write(const QString& name, const QString& text) {
     QFile file(folder_.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) qFatal("cannot write a configuration");
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0)
+      qFatal("cannot write a configuration");
   }
   static QString tool(const char* name) {
     return QStandardPaths::findExecutable(QString::fromLatin1(name), {"/usr/sbin", "/usr/bin", "/sbin"});

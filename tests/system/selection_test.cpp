@@ -17,12 +17,22 @@ namespace {
 // Small enough to be seen whole at every angle in the smallest window.
 constexpr double kWidth = 160, kHeight = 120;
 /// One colour all over, and one that no theme has.
-const QByteArray kEps = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 160 120\n%%EndComments\n1 0.9 0.2 setrgbcolor 0 0 160 120 rectfill\n%%EOF\n";
-const QByteArray kSvg = "<svg xmlns='http://www.w3.org/2000/svg' width='160pt' height='120pt'><rect width='100%' height='100%' fill='#ffe633'/></svg>";
+const QByteArray kEps =
+    "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 160 120\n%%EndComments\n1 0.9 0.2 setrgbcolor 0 0 160 120 "
+    "rectfill\n%%EOF\n";
+const QByteArray kSvg =
+    "<svg xmlns='http://www.w3.org/2000/svg' width='160pt' height='120pt'><rect width='100%' height='100%' "
+    "fill='#ffe633'/></svg>";
 
-bool isPaper(QRgb c) { return std::abs(qRed(c) - 255) < 12 && std::abs(qGreen(c) - 230) < 12 && std::abs(qBlue(c) - 51) < 16; }
-bool isBlue(QRgb c) { return qBlue(c) > 180 && qRed(c) < 110 && qGreen(c) < 110; }
-bool isRed(QRgb c) { return qRed(c) > 200 && qGreen(c) < 110 && qBlue(c) < 110; }
+bool isPaper(QRgb c) {
+  return std::abs(qRed(c) - 255) < 12 && std::abs(qGreen(c) - 230) < 12 && std::abs(qBlue(c) - 51) < 16;
+}
+bool isBlue(QRgb c) {
+  return qBlue(c) > 180 && qRed(c) < 110 && qGreen(c) < 110;
+}
+bool isRed(QRgb c) {
+  return qRed(c) > 200 && qGreen(c) < 110 && qBlue(c) < 110;
+}
 
 QRect boundsOf(const QRect& within, const std::function<bool(int, int)>& counts) {
   QRect box;
@@ -51,7 +61,8 @@ QRect paperIn(const QImage& image) {
       for (qsizetype i = 0; i < piece.size(); ++i) {
         const QPoint at = piece[i];
         box |= QRect(at, QSize(1, 1));
-        for (const QPoint& step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) visit(piece, at.x() + step.x(), at.y() + step.y());
+        for (const QPoint& step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
+          visit(piece, at.x() + step.x(), at.y() + step.y());
       }
       if (piece.size() > most) most = piece.size(), largest = box;
     }
@@ -66,19 +77,25 @@ int count(const QImage& image, const QRect& within, bool (*is)(QRgb)) {
 }
 
 /// Whether a pixel of this colour is at the point or beside it.
-bool near(const QImage& image, const QPoint& at, bool (*is)(QRgb)) { return count(image, QRect(at, at).adjusted(-1, -1, 1, 1), is) > 0; }
+bool near(const QImage& image, const QPoint& at, bool (*is)(QRgb)) {
+  return count(image, QRect(at, at).adjusted(-1, -1, 1, 1), is) > 0;
+}
 
 /// The two numbers of a field, "(    50.00,    30.00)".
 QPointF numbersOf(const QString& field) {
-  static const QRegularExpression form(QStringLiteral("^\\( *(-?[0-9]+\\.[0-9]{2}), *(-?[0-9]+\\.[0-9]{2})\\)$"));
+  static const QRegularExpression form(
+      QStringLiteral("^\\( *(-?[0-9]+\\.[0-9]{2}), *(-?[0-9]+\\.[0-9]{2})\\)$"));
   const auto match = form.match(field.trimmed());
-  return match.hasMatch() ? QPointF(match.captured(1).toDouble(), match.captured(2).toDouble()) : QPointF(qQNaN(), qQNaN());
+  return match.hasMatch() ? QPointF(match.captured(1).toDouble(), match.captured(2).toDouble())
+                          : QPointF(qQNaN(), qQNaN());
 }
 
 /// The same points as the fields have to tell them, from a rectangle in view coordinates.
 std::pair<QPointF, QPointF> told(const QRectF& r, double degrees, bool flipped) {
   const double t = degrees * M_PI / 180, c = std::cos(t), s = std::sin(t);
-  const auto plain = [&](double x, double y) { return QPointF(kWidth / 2 + c * x + s * y, kHeight / 2 - s * x + c * y); };
+  const auto plain = [&](double x, double y) {
+    return QPointF(kWidth / 2 + c * x + s * y, kHeight / 2 - s * x + c * y);
+  };
   if (!flipped) return {plain(r.left(), r.top()), plain(r.right(), r.bottom())};
   const double upper = r.bottom(), right = r.right();
   return {QPointF(kWidth / 2 + c * r.left() + s * upper, kHeight / 2 + s * r.left() - c * upper),
@@ -103,7 +120,8 @@ class SelectionSystemTest : public QObject {
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("degrees");
     for (const char* name : {"a.eps", "a.svg"})
-      for (const double degrees : {0.0, 90.0, 33.3}) QTest::addRow("%s at %g", name, degrees) << QString(name) << degrees;
+      for (const double degrees : {0.0, 90.0, 33.3})
+        QTest::addRow("%s at %g", name, degrees) << QString(name) << degrees;
   }
   void twoDragsMarkARectangleAndAClickRemovesIt() {
     QFETCH(QString, name);
@@ -116,9 +134,11 @@ class SelectionSystemTest : public QObject {
                         std::abs(kWidth * std::sin(t)) + std::abs(kHeight * std::cos(t)));
     const auto sized = [&] {
       const QRect paper = paperIn(session_->screen());
-      return std::abs(paper.width() - turned.width()) < 6 && std::abs(paper.height() - turned.height()) < 6;  // smooth corners fade
+      return std::abs(paper.width() - turned.width()) < 6 &&
+             std::abs(paper.height() - turned.height()) < 6;  // smooth corners fade
     };
-    QVERIFY2(kit::waitUntil(sized), qPrintable(QString("the picture has not the size of one turned by %1").arg(degrees)));
+    QVERIFY2(kit::waitUntil(sized),
+             qPrintable(QString("the picture has not the size of one turned by %1").arg(degrees)));
     const QImage before = session_->screen();
     const QRect paper = paperIn(before);
     const QPointF middle = QRectF(paper).center();
@@ -138,15 +158,18 @@ class SelectionSystemTest : public QObject {
     const QImage marked = session_->screen();
     const QRect box = QRect(start, end).normalized();
     for (const double part : {0.1, 0.3, 0.5, 0.7, 0.9}) {
-      const int x = int(std::lround(start.x() + part * (end.x() - start.x()))), y = int(std::lround(start.y() + part * (end.y() - start.y())));
-      for (const QPoint& at : {QPoint(x, start.y()), QPoint(x, end.y()), QPoint(start.x(), y), QPoint(end.x(), y)})
+      const int x = int(std::lround(start.x() + part * (end.x() - start.x()))),
+                y = int(std::lround(start.y() + part * (end.y() - start.y())));
+      for (const QPoint& at :
+           {QPoint(x, start.y()), QPoint(x, end.y()), QPoint(start.x(), y), QPoint(end.x(), y)})
         QVERIFY2(near(marked, at, isBlue), qPrintable(QString("no blue at %1, %2").arg(at.x()).arg(at.y())));
     }
     QCOMPARE(count(marked, box.adjusted(3, 3, -3, -3), isBlue), 0);
     QCOMPARE(count(marked, paper, isRed), 0);
 
     // Neither turned nor flipped, screen points are view points counted from the middle.
-    const QRectF inView(QPointF(std::min(start.x(), end.x()) - middle.x() - 0.5, middle.y() + 0.5 - std::max(start.y(), end.y())),
+    const QRectF inView(QPointF(std::min(start.x(), end.x()) - middle.x() - 0.5,
+                                middle.y() + 0.5 - std::max(start.y(), end.y())),
                         QSizeF(60, 57));
     // The dial of an SVG picture turns clockwise; the command turns as seen.
     const bool flipped = name.endsWith(".svg");
@@ -183,7 +206,8 @@ class SelectionSystemTest : public QObject {
     QCOMPARE(count(session_->screen(), paper, isBlue), 0);
   }
 
-  // ---- what must not happen ---------------------------------------------------------------------------------------
+  // ---- what must not happen
+  // ---------------------------------------------------------------------------------------
 
   void anAngleThatIsNoNumberLeavesThePictureAsItIs_data() {
     QTest::addColumn<QString>("typed");
@@ -200,11 +224,27 @@ class SelectionSystemTest : public QObject {
   void aPictureThatCannotBeReadLeavesAUsableWindow_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("name");
-    QTest::newRow("no PostScript") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 300 200\n%%EndComments\nthis is no operator\n") << "b.eps";
-    QTest::newRow("no size, EPS") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 5 5 5 5\n%%EndComments\n0 0 9 9 rectfill\n") << "b.eps";
-    QTest::newRow("no size, SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='0' height='0'><rect width='9' height='9'/></svg>") << "b.svg";
-    QTest::newRow("a billion points") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 1000000000 1000000000\n%%EndComments\n1 0.9 0.2 setrgbcolor 0 0 1000000000 1000000000 rectfill\n%%EOF\n") << "b.eps";
-    QTest::newRow("a billion points of SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='1000000000pt' height='1000000000pt'><rect width='100%' height='100%' fill='#ffe633'/></svg>") << "b.svg";
+    QTest::newRow("no PostScript")
+        << QByteArray(
+               "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 300 200\n%%EndComments\nthis is no operator\n")
+        << "b.eps";
+    QTest::newRow("no size, EPS")
+        << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 5 5 5 5\n%%EndComments\n0 0 9 9 rectfill\n")
+        << "b.eps";
+    QTest::newRow("no size, SVG") << QByteArray(
+                                         "<svg xmlns='http://www.w3.org/2000/svg' width='0' height='0'><rect "
+                                         "width='9' height='9'/></svg>")
+                                  << "b.svg";
+    QTest::newRow("a billion points")
+        << QByteArray(
+               "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 1000000000 1000000000\n%%EndComments\n1 0.9 0.2 "
+               "setrgbcolor 0 0 1000000000 1000000000 rectfill\n%%EOF\n")
+        << "b.eps";
+    QTest::newRow("a billion points of SVG")
+        << QByteArray(
+               "<svg xmlns='http://www.w3.org/2000/svg' width='1000000000pt' height='1000000000pt'><rect "
+               "width='100%' height='100%' fill='#ffe633'/></svg>")
+        << "b.svg";
   }
   void aPictureThatCannotBeReadLeavesAUsableWindow() {
     QFETCH(QByteArray, bytes);
@@ -216,7 +256,9 @@ class SelectionSystemTest : public QObject {
     session_->drag(middle, middle + QPoint(-60, 40));
     session_->drag(middle, middle + QPoint(60, -40));
     session_->key("ctrl+a");
-    for (const char* keys : {"Left", "ctrl+Up", "ctrl+shift+r", "ctrl+plus", "ctrl+9", "ctrl+minus", "Escape"}) session_->key(keys);
+    for (const char* keys :
+         {"Left", "ctrl+Up", "ctrl+shift+r", "ctrl+plus", "ctrl+9", "ctrl+minus", "Escape"})
+      session_->key(keys);
     session_->click(middle);
     QVERIFY2(session_->isAlive(), session_->said());
     // What is worked with keys answers: the inspector comes.
@@ -255,13 +297,14 @@ class SelectionSystemTest : public QObject {
 
   bool open(const QString& name) {
     return session_->start({write(name, name.endsWith(".svg") ? kSvg : kEps)}, name) &&
-           kit::waitUntil([this] { return paperIn(session_->screen()).size() == QSize(int(kWidth), int(kHeight)); });
+           kit::waitUntil(
+               [this] { return paperIn(session_->screen()).size() == QSize(int(kWidth), int(kHeight)); });
   }
 
   QPoint middleOfWindow(const QString& title) { return session_->windowRect(title).center(); }
 
-  /// Types the angle into the field of the inspector, found with Tab as a user without a mouse would; `before` it, a
-  /// text that must not do anything. Whether the picture turned.
+  /// Types the angle into the field of the inspector, found with Tab as a user without a mouse would;
+  /// `before` it, a text that must not do anything. Whether the picture turned.
   bool turnInTheInspector(const QString& title, const QString& angle, const QString& before = {}) {
     // Of the window alone: the inspector shows the picture too, unturned. It must not lie over the window.
     session_->xdo({"windowmove", "--sync", session_->windowsOf(title).value(0), "1100", "300"});
@@ -307,7 +350,9 @@ class SelectionSystemTest : public QObject {
   static QRect changed(const QImage& before, const QImage& after) {
     const QRect paper = paperIn(before);
     const QRect below(0, paper.bottom() + 10, before.width(), before.height() - paper.bottom() - 10);
-    return boundsOf(below, [&](int x, int y) { return before.pixel(x, y) != after.pixel(x, y) && !isRed(after.pixel(x, y)); });
+    return boundsOf(below, [&](int x, int y) {
+      return before.pixel(x, y) != after.pixel(x, y) && !isRed(after.pixel(x, y));
+    });
   }
 
   QString copiedFrom(const QPoint& at) {
@@ -316,8 +361,8 @@ class SelectionSystemTest : public QObject {
     return session_->selection("clipboard");
   }
 
-  /// The numbers of the start and the end field, copied out of them. The end field is the last in its bar, the start
-  /// field stands to the left of what becomes marked when the end field is clicked.
+  /// The numbers of the start and the end field, copied out of them. The end field is the last in its bar,
+  /// the start field stands to the left of what becomes marked when the end field is clicked.
   std::pair<QPointF, QPointF> fieldsAfter(const QImage& before) {
     std::pair<QPointF, QPointF> found{{qQNaN(), qQNaN()}, {qQNaN(), qQNaN()}};
     const QImage told = session_->screen();
@@ -329,7 +374,9 @@ class SelectionSystemTest : public QObject {
     return found;
   }
 
-  static double apart(const QPointF& one, const QPointF& other) { return std::hypot(one.x() - other.x(), one.y() - other.y()); }
+  static double apart(const QPointF& one, const QPointF& other) {
+    return std::hypot(one.x() - other.x(), one.y() - other.y());
+  }
   static QString shown(const QPointF& is, const QPointF& should) {
     return QString("(%1, %2) instead of (%3, %4)").arg(is.x()).arg(is.y()).arg(should.x()).arg(should.y());
   }

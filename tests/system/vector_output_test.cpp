@@ -1,10 +1,11 @@
-// A rectangle of a turned picture, handed out as vectors, is the rectangle that the screen shows, says every other
-// program that draws it; and it still is vectors, in the source's own colours and fonts.
+// A rectangle of a turned picture, handed out as vectors, is the rectangle that the screen shows, says every
+// other program that draws it; and it still is vectors, in the source's own colours and fonts.
 //
-// Screen and output come from different programs with different smoothing, fonts and colour conversions, so they are
-// compared after four by four pixels were averaged: how much they differ in the mean, and whether dark and light lie
-// in the same places (correlation), which is what a rectangle that is shifted, turned or mirrored fails. Small pictures
-// are drawn enlarged: of a line that is thinner than a pixel, each program makes something else.
+// Screen and output come from different programs with different smoothing, fonts and colour conversions, so
+// they are compared after four by four pixels were averaged: how much they differ in the mean, and whether
+// dark and light lie in the same places (correlation), which is what a rectangle that is shifted, turned or
+// mirrored fails. Small pictures are drawn enlarged: of a line that is thinner than a pixel, each program
+// makes something else.
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -25,8 +26,9 @@ namespace {
 
 constexpr double kLargestDifference = 0.04;   // mean of the samples, 0 … 1
 constexpr double kSmallestCorrelation = 0.9;  // of the brightness
-constexpr double kLargestInkDifference = 0.15;  // inks have no one look: each program converts them in its own way
-constexpr double kPlain = 0.01;               // standard deviation below which a picture has no places to compare
+constexpr double kLargestInkDifference =
+    0.15;                        // inks have no one look: each program converts them in its own way
+constexpr double kPlain = 0.01;  // standard deviation below which a picture has no places to compare
 
 const QString kPictures = QStringLiteral(NORVEX_SOURCE_DIR "/tests/data/pdf/");
 
@@ -38,7 +40,9 @@ struct Job {
 constexpr int kPixels = 900;  // the longer side has about so many
 
 /// Pixels a point that a rectangle is drawn with.
-int scaleFor(const QSize& points) { return std::clamp(kPixels / std::max(points.width(), points.height()), 1, 8); }
+int scaleFor(const QSize& points) {
+  return std::clamp(kPixels / std::max(points.width(), points.height()), 1, 8);
+}
 
 struct Outcome {
   bool drawn = false;  ///< the screen shows it; otherwise there is nothing to compare
@@ -47,7 +51,9 @@ struct Outcome {
 };
 
 QImage averaged(const QImage& image) {
-  return image.scaled(std::max(1, image.width() / 4), std::max(1, image.height() / 4), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+  return image
+      .scaled(std::max(1, image.width() / 4), std::max(1, image.height() / 4), Qt::IgnoreAspectRatio,
+              Qt::SmoothTransformation)
       .convertToFormat(QImage::Format_RGB32);
 }
 
@@ -69,14 +75,24 @@ QImage drawnBy(const QString& program, const QString& path, int scale, const QSt
   if (program == "pdftocairo") run(program, {"-png", "-r", dpi, "-singlefile", path, png.chopped(4)}, {}, 60);
   if (program == "mutool") run(program, {"draw", "-q", "-r", dpi, "-o", png, path, "1"}, {}, 60);
   if (program == "gs")
-    run(program, {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=png16m", "-r" + dpi, "-dTextAlphaBits=4", "-dGraphicsAlphaBits=4", "-o", png, path}, {}, 60);
+    run(program,
+        {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=png16m", "-r" + dpi,
+         "-dTextAlphaBits=4", "-dGraphicsAlphaBits=4", "-o", png, path},
+        {}, 60);
   return QImage(png).convertToFormat(QImage::Format_RGB32);
 }
 
 /// Adds what is wrong with `drawn` beside the picture of it that is right.
-void compare(Outcome& outcome, const QImage& right, const QString& program, const QImage& drawn, double mostDifferent) {
-  if (drawn.isNull() || std::abs(drawn.width() - right.width()) > 1 || std::abs(drawn.height() - right.height()) > 1) {
-    outcome.complaints << QString("%1 draws %2 x %3 instead of %4 x %5").arg(program).arg(drawn.width()).arg(drawn.height()).arg(right.width()).arg(right.height());
+void compare(Outcome& outcome, const QImage& right, const QString& program, const QImage& drawn,
+             double mostDifferent) {
+  if (drawn.isNull() || std::abs(drawn.width() - right.width()) > 1 ||
+      std::abs(drawn.height() - right.height()) > 1) {
+    outcome.complaints << QString("%1 draws %2 x %3 instead of %4 x %5")
+                              .arg(program)
+                              .arg(drawn.width())
+                              .arg(drawn.height())
+                              .arg(right.width())
+                              .arg(right.height());
     return;
   }
   const QImage small = averaged(right), other = averaged(drawn.copy(right.rect()));
@@ -84,21 +100,28 @@ void compare(Outcome& outcome, const QImage& right, const QString& program, cons
   outcome.difference = std::max(outcome.difference, different);
   outcome.correlation = std::min(outcome.correlation, alike);
   if (different > mostDifferent || alike < kSmallestCorrelation)
-    outcome.complaints << QString("%1: difference %2, correlation %3").arg(program).arg(different, 0, 'f', 3).arg(alike, 0, 'f', 3);
+    outcome.complaints << QString("%1: difference %2, correlation %3")
+                              .arg(program)
+                              .arg(different, 0, 'f', 3)
+                              .arg(alike, 0, 'f', 3);
 }
 
 /// Whether the document paints with inks instead of light.
 bool hasInks(const QString& pdf) {
-  static const QRegularExpression inks(QStringLiteral("/(DeviceCMYK|Separation|DeviceN)\\b|[0-9.]+( [0-9.]+){3} [kK]\\b"));
+  static const QRegularExpression inks(
+      QStringLiteral("/(DeviceCMYK|Separation|DeviceN)\\b|[0-9.]+( [0-9.]+){3} [kK]\\b"));
   return QString::fromLatin1(run("qpdf", {"--qdf", "--object-streams=disable", pdf, "-"}).out).contains(inks);
 }
 
 /// The rectangle of the source's first page, turned and cut by mutool itself.
 QImage cutByMutool(const QString& pdf, const QRect& rect, double degrees, int scale, const QString& folder) {
   const QString png = folder + "/source.png";
-  run("mutool", {"draw", "-q", "-r", QString::number(72 * scale), "-R", QString::number(-degrees), "-o", png, pdf, "1"}, {}, 60);
+  run("mutool",
+      {"draw", "-q", "-r", QString::number(72 * scale), "-R", QString::number(-degrees), "-o", png, pdf, "1"},
+      {}, 60);
   const QImage all = QImage(png).convertToFormat(QImage::Format_RGB32);
-  return all.copy(rect.x() * scale, all.height() - (rect.y() + rect.height()) * scale, rect.width() * scale, rect.height() * scale);
+  return all.copy(rect.x() * scale, all.height() - (rect.y() + rect.height()) * scale, rect.width() * scale,
+                  rect.height() * scale);
 }
 
 QJsonObject infoOf(const QString& path) {
@@ -114,8 +137,10 @@ QSizeF sizeOf(const QString& file) {
 QRect middleOf(const QSizeF& size, double degrees) {
   const double t = degrees * M_PI / 180, c = std::abs(std::cos(t)), s = std::abs(std::sin(t));
   const QSizeF view(size.width() * c + size.height() * s, size.width() * s + size.height() * c);
-  const QSize wanted(std::clamp(int(view.width() * 0.6), 8, 900), std::clamp(int(view.height() * 0.7), 8, 900));
-  return {QPoint(int((view.width() - wanted.width()) / 2), int((view.height() - wanted.height()) / 2)), wanted};
+  const QSize wanted(std::clamp(int(view.width() * 0.6), 8, 900),
+                     std::clamp(int(view.height() * 0.7), 8, 900));
+  return {QPoint(int((view.width() - wanted.width()) / 2), int((view.height() - wanted.height()) / 2)),
+          wanted};
 }
 
 /// The page's box as pdfinfo tells it; x, y, right, top.
@@ -133,9 +158,13 @@ int imagesPaintedBy(const QString& postScript) {
   QFile prolog(folder.filePath("prolog.ps"));
   if (!prolog.open(QIODevice::WriteOnly)) return -1;
   for (const char* name : {"image", "imagemask", "colorimage"})
-    prolog.write(QByteArray("userdict /NAME {(\\nPAINTS\\n) print systemdict /NAME get exec} put\n").replace("NAME", name));
+    prolog.write(QByteArray("userdict /NAME {(\\nPAINTS\\n) print systemdict /NAME get exec} put\n")
+                     .replace("NAME", name));
   prolog.close();
-  const Ran ran = run("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=nullpage", prolog.fileName(), postScript}, {}, 60);
+  const Ran ran = run("gs",
+                      {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=nullpage",
+                       prolog.fileName(), postScript},
+                      {}, 60);
   return ran.exitCode == 0 && !ran.out.contains("Error:") ? int(ran.out.count("\nPAINTS\n")) : -1;
 }
 
@@ -153,32 +182,43 @@ Outcome outcomeOf(const Job& job) {
   const QTemporaryDir folder;
   const QRect rect = middleOf(sizeOf(job.file), job.degrees);
   const int scale = scaleFor(rect.size());
-  const QString crop = QString("%1,%2,%3,%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
+  const QString crop =
+      QString("%1,%2,%3,%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
   const auto converted = [&](const QString& name, const QStringList& more = {}) {
-    const Ran ran = kit::norvex(QStringList{"convert", job.file, "-o", folder.filePath(name), "--quiet", "--rotate",
-                                            QString::number(job.degrees), "--crop", crop, "--timeout", "40"} + more);
-    if (ran.exitCode != 0 && outcome.drawn) outcome.complaints << name + ": " + QString::fromUtf8(ran.err).trimmed();
+    const Ran ran =
+        kit::norvex(QStringList{"convert", job.file, "-o", folder.filePath(name), "--quiet", "--rotate",
+                                QString::number(job.degrees), "--crop", crop, "--timeout", "40"} +
+                    more);
+    if (ran.exitCode != 0 && outcome.drawn)
+      outcome.complaints << name + ": " + QString::fromUtf8(ran.err).trimmed();
     return ran.exitCode == 0 && !ran.crashed;
   };
-  if (!converted("screen.png", {"--background", "white", "--dpi", QString::number(72 * scale)})) return outcome;
+  if (!converted("screen.png", {"--background", "white", "--dpi", QString::number(72 * scale)}))
+    return outcome;
   outcome.drawn = true;
   const QImage screen = QImage(folder.filePath("screen.png")).convertToFormat(QImage::Format_RGB32);
-  if (screen.size() != rect.size() * scale) outcome.complaints << QString("the screen's picture is %1 x %2").arg(screen.width()).arg(screen.height());
+  if (screen.size() != rect.size() * scale)
+    outcome.complaints << QString("the screen's picture is %1 x %2").arg(screen.width()).arg(screen.height());
   double mostDifferent = kLargestDifference;
   if (converted("out.pdf")) {
     const QString pdf = folder.filePath("out.pdf");
     outcome.complaints += outside::complaintOf("qpdf", {"--check", pdf});
     const QList<double> box = pageBox(pdf), wanted{0, 0, double(rect.width()), double(rect.height())};
     for (int i = 0; i < 4; ++i)
-      if (box.size() != 4 || std::abs(box[i] - wanted[i]) > 0.01) outcome.complaints << "the page's box is not the rectangle";
+      if (box.size() != 4 || std::abs(box[i] - wanted[i]) > 0.01)
+        outcome.complaints << "the page's box is not the rectangle";
     const bool inks = hasInks(pdf);
     if (inks) mostDifferent = kLargestInkDifference;
-    compare(outcome, screen, "pdftocairo", drawnBy("pdftocairo", pdf, scale, folder.path()), kLargestDifference);
+    compare(outcome, screen, "pdftocairo", drawnBy("pdftocairo", pdf, scale, folder.path()),
+            kLargestDifference);
     const bool beside = inks && job.file.endsWith(".pdf");
-    compare(outcome, beside ? cutByMutool(job.file, rect, job.degrees, scale, folder.path()) : screen, "mutool",
-            drawnBy("mutool", pdf, scale, folder.path()), beside ? kLargestDifference : mostDifferent);
+    compare(outcome, beside ? cutByMutool(job.file, rect, job.degrees, scale, folder.path()) : screen,
+            "mutool", drawnBy("mutool", pdf, scale, folder.path()),
+            beside ? kLargestDifference : mostDifferent);
   }
-  if (converted("out.eps")) compare(outcome, screen, "gs", drawnBy("gs", folder.filePath("out.eps"), scale, folder.path()), mostDifferent);
+  if (converted("out.eps"))
+    compare(outcome, screen, "gs", drawnBy("gs", folder.filePath("out.eps"), scale, folder.path()),
+            mostDifferent);
   outcome.complaints.removeAll(QString());
   return outcome;
 }
@@ -192,14 +232,18 @@ class VectorOutputTest : public QObject {
  private slots:
   void initTestCase() {
     for (const char* program : {"pdftocairo", "mutool", "gs", "qpdf", "pdfinfo", "pdffonts"})
-      if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty()) QSKIP(qPrintable(QLatin1String(program) + QString(" is not installed")));
+      if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty())
+        QSKIP(qPrintable(QLatin1String(program) + QString(" is not installed")));
   }
 
   void samplesAreHandedOutAsTheyAreShown() {
     QStringList files;
-    for (const char* name : {"lighthouse.svg", "lighthouse.eps", "lighthouse.pdf", "lighthouse-preview.eps", "lighthouse-cs.ai"}) files << kit::sample(name);
+    for (const char* name :
+         {"lighthouse.svg", "lighthouse.eps", "lighthouse.pdf", "lighthouse-preview.eps", "lighthouse-cs.ai"})
+      files << kit::sample(name);
     // Not shading.pdf: a gradient between two inks of like brightness has as many looks as programs draw it.
-    for (const char* name : {"paths.pdf", "spot.pdf", "cmyk_text.pdf", "image_cmyk.pdf", "transparent.pdf"}) files << kPictures + name;
+    for (const char* name : {"paths.pdf", "spot.pdf", "cmyk_text.pdf", "image_cmyk.pdf", "transparent.pdf"})
+      files << kPictures + name;
     const int drawn = check("samples", files);
     QCOMPARE(drawn, files.size() * kAngles.size());
   }
@@ -207,22 +251,28 @@ class VectorOutputTest : public QObject {
   /// Two files of each kind; NORVEX_VECTOR_FILES=10 asks for ten. Files that cannot be shown are passed over.
   void realFilesAreHandedOutAsTheyAreShown_data() {
     QTest::addColumn<QString>("kind");
-    for (const char* kind : {"eps_text", "eps_binary", "epsi", "ai_ps", "ai_pdf", "pdf", "svg", "svgz"}) QTest::newRow(kind) << QString(kind);
+    for (const char* kind : {"eps_text", "eps_binary", "epsi", "ai_ps", "ai_pdf", "pdf", "svg", "svgz"})
+      QTest::newRow(kind) << QString(kind);
   }
   void realFilesAreHandedOutAsTheyAreShown() {
-    if (kit::corpusFolder().isEmpty()) QSKIP("there is no folder of real files here (NORVEX_CORPUS names one)");
+    if (kit::corpusFolder().isEmpty())
+      QSKIP("there is no folder of real files here (NORVEX_CORPUS names one)");
     QFETCH(QString, kind);
-    const int wanted = qEnvironmentVariableIsSet("NORVEX_VECTOR_FILES") ? qEnvironmentVariableIntValue("NORVEX_VECTOR_FILES") : 2;
+    const int wanted = qEnvironmentVariableIsSet("NORVEX_VECTOR_FILES")
+                           ? qEnvironmentVariableIntValue("NORVEX_VECTOR_FILES")
+                           : 2;
     const QStringList all = kit::corpusFiles(kind);
     QStringList files;
-    for (qsizetype i = 0; i < std::min<qsizetype>(wanted, all.size()); ++i) files << all[i * all.size() / std::min<qsizetype>(wanted, all.size())];
+    for (qsizetype i = 0; i < std::min<qsizetype>(wanted, all.size()); ++i)
+      files << all[i * all.size() / std::min<qsizetype>(wanted, all.size())];
     check(kind, files);
   }
 
   void coloursStayWhatTheyAre_data() {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QByteArray>("pattern");
-    QTest::newRow("text and paths in CMYK") << kPictures + "cmyk_text.pdf" << QByteArray("[0-9.]+( [0-9.]+){3} k\\b");
+    QTest::newRow("text and paths in CMYK")
+        << kPictures + "cmyk_text.pdf" << QByteArray("[0-9.]+( [0-9.]+){3} k\\b");
     QTest::newRow("an image in CMYK") << kPictures + "image_cmyk.pdf" << QByteArray("/DeviceCMYK");
     QTest::newRow("a spot colour") << kPictures + "spot.pdf" << QByteArray("/Separation");
   }
@@ -232,8 +282,12 @@ class VectorOutputTest : public QObject {
     const QTemporaryDir folder;
     for (const double degrees : kAngles) {
       const QString pdf = folder.filePath(QString("%1.pdf").arg(degrees));
-      QCOMPARE(kit::norvex({"convert", file, "-o", pdf, "--rotate", QString::number(degrees), "--crop", "10,10,60,60"}).exitCode, 0);
-      const QString text = QString::fromLatin1(run("qpdf", {"--qdf", "--object-streams=disable", pdf, "-"}).out);
+      QCOMPARE(kit::norvex({"convert", file, "-o", pdf, "--rotate", QString::number(degrees), "--crop",
+                            "10,10,60,60"})
+                   .exitCode,
+               0);
+      const QString text =
+          QString::fromLatin1(run("qpdf", {"--qdf", "--object-streams=disable", pdf, "-"}).out);
       QVERIFY(text.contains(QRegularExpression(QString::fromLatin1(pattern))));
       QVERIFY(!text.contains(QRegularExpression(QStringLiteral("[0-9.]+( [0-9.]+){2} (rg|RG)\\b"))));
     }
@@ -243,27 +297,40 @@ class VectorOutputTest : public QObject {
     const QTemporaryDir folder;
     QFile source(folder.filePath("a.eps"));
     QVERIFY(source.open(QIODevice::WriteOnly));
-    source.write("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 90 60\n%%EndComments\n0.1 0.7 0.2 0.05 setcmykcolor 10 10 40 30 rectfill\n%%EOF\n");
+    source.write(
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 90 60\n%%EndComments\n0.1 0.7 0.2 0.05 setcmykcolor 10 "
+        "10 40 30 rectfill\n%%EOF\n");
     source.close();
     for (const char* name : {"b.pdf", "b.eps"})
-      QCOMPARE(kit::norvex({"convert", source.fileName(), "-o", folder.filePath(name), "--rotate", "33.3", "--crop", "5,5,60,60"}).exitCode, 0);
-    const QByteArray pdf = run("qpdf", {"--qdf", "--object-streams=disable", folder.filePath("b.pdf"), "-"}).out;
-    static const QRegularExpression ink(QStringLiteral("0?\\.1[0-9]* 0?\\.(7|69)[0-9]* 0?\\.(2|19)[0-9]* 0?\\.0(5|49)[0-9]* k\\b"));
+      QCOMPARE(kit::norvex({"convert", source.fileName(), "-o", folder.filePath(name), "--rotate", "33.3",
+                            "--crop", "5,5,60,60"})
+                   .exitCode,
+               0);
+    const QByteArray pdf =
+        run("qpdf", {"--qdf", "--object-streams=disable", folder.filePath("b.pdf"), "-"}).out;
+    static const QRegularExpression ink(
+        QStringLiteral("0?\\.1[0-9]* 0?\\.(7|69)[0-9]* 0?\\.(2|19)[0-9]* 0?\\.0(5|49)[0-9]* k\\b"));
     QVERIFY(QString::fromLatin1(pdf).contains(ink));
     // What Ghostscript finds on the way back are the same four inks.
-    const Ran inks = run("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=pdfwrite", "-dCompressPages=false", "-o", folder.filePath("c.pdf"), folder.filePath("b.eps")});
+    const Ran inks =
+        run("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=pdfwrite",
+                   "-dCompressPages=false", "-o", folder.filePath("c.pdf"), folder.filePath("b.eps")});
     QCOMPARE(inks.exitCode, 0);
-    QVERIFY(QString::fromLatin1(run("qpdf", {"--qdf", "--object-streams=disable", folder.filePath("c.pdf"), "-"}).out).contains(ink));
+    QVERIFY(QString::fromLatin1(
+                run("qpdf", {"--qdf", "--object-streams=disable", folder.filePath("c.pdf"), "-"}).out)
+                .contains(ink));
   }
 
   void anOpaquePictureHasNoMoreImagesAsEps_data() {
     QTest::addColumn<QString>("file");
     // Not shading.pdf: a gradient between two inks of like brightness has as many looks as programs draw it.
-    for (const char* name : {"paths.pdf", "spot.pdf", "cmyk_text.pdf"}) QTest::newRow(name) << kPictures + name;
+    for (const char* name : {"paths.pdf", "spot.pdf", "cmyk_text.pdf"})
+      QTest::newRow(name) << kPictures + name;
     QTest::newRow("lighthouse.eps") << kit::sample("lighthouse.eps");
     int taken = 0;
     for (const QString& file : kit::corpusFolder().isEmpty() ? QStringList() : kit::corpusFiles("eps_text"))
-      if (taken < 10 && imagesPaintedBy(file) == 0 && ++taken) QTest::newRow(qPrintable(QFileInfo(file).fileName())) << file;
+      if (taken < 10 && imagesPaintedBy(file) == 0 && ++taken)
+        QTest::newRow(qPrintable(QFileInfo(file).fileName())) << file;
   }
   void anOpaquePictureHasNoMoreImagesAsEps() {
     QFETCH(QString, file);
@@ -272,8 +339,9 @@ class VectorOutputTest : public QObject {
     for (const double degrees : kAngles) {
       const QRect rect = middleOf(sizeOf(file), degrees);
       const QString eps = folder.filePath(QString("%1.eps").arg(degrees));
-      const Ran ran = kit::norvex({"convert", file, "-o", eps, "--rotate", QString::number(degrees), "--crop",
-                                   QString("%1,%2,%3,%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height())});
+      const Ran ran = kit::norvex(
+          {"convert", file, "-o", eps, "--rotate", QString::number(degrees), "--crop",
+           QString("%1,%2,%3,%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height())});
       if (ran.exitCode == 3) QSKIP("cannot be shown");
       QVERIFY2(ran.exitCode == 0, ran.err);
       QCOMPARE(imagesPaintedBy(eps), 0);
@@ -283,7 +351,8 @@ class VectorOutputTest : public QObject {
   void aPictureThatIsAnImageIsFoundOut() {
     // That the counting above can fail at all.
     const QTemporaryDir folder;
-    QCOMPARE(kit::norvex({"convert", kPictures + "image_cmyk.pdf", "-o", folder.filePath("a.eps")}).exitCode, 0);
+    QCOMPARE(kit::norvex({"convert", kPictures + "image_cmyk.pdf", "-o", folder.filePath("a.eps")}).exitCode,
+             0);
     QVERIFY(imagesPaintedBy(folder.filePath("a.eps")) > 0);
   }
 
@@ -292,16 +361,19 @@ class VectorOutputTest : public QObject {
     QTest::newRow("lighthouse.pdf") << kit::sample("lighthouse.pdf");
     QTest::newRow("cmyk_text.pdf") << kPictures + "cmyk_text.pdf";
     const QStringList all = kit::corpusFolder().isEmpty() ? QStringList() : kit::corpusFiles("pdf");
-    for (qsizetype i = 0; i < all.size(); i += std::max<qsizetype>(1, all.size() / 10)) QTest::newRow(qPrintable(QFileInfo(all[i]).fileName())) << all[i];
+    for (qsizetype i = 0; i < all.size(); i += std::max<qsizetype>(1, all.size() / 10))
+      QTest::newRow(qPrintable(QFileInfo(all[i]).fileName())) << all[i];
   }
   void fontsSurvive() {
     QFETCH(QString, file);
     const QTemporaryDir folder;
     const QString pdf = folder.filePath("a.pdf");
-    if (kit::norvex({"convert", file, "-o", pdf, "--rotate", "33.3", "--page", "1"}).exitCode != 0) QSKIP("cannot be shown");
+    if (kit::norvex({"convert", file, "-o", pdf, "--rotate", "33.3", "--page", "1"}).exitCode != 0)
+      QSKIP("cannot be shown");
     const QSet<QString> before = fontsOf(file), after = fontsOf(pdf);
     // Those of forms and notes come in addition: they are not on the page itself until it is placed.
-    QVERIFY2((before - after).isEmpty(), qPrintable(QStringList((before - after).values()).join(", ") + " went"));
+    QVERIFY2((before - after).isEmpty(),
+             qPrintable(QStringList((before - after).values()).join(", ") + " went"));
   }
 
  private:
@@ -319,9 +391,13 @@ class VectorOutputTest : public QObject {
       difference = std::max(difference, outcomes[i].difference);
       correlation = std::min(correlation, outcomes[i].correlation);
       for (const QString& complaint : outcomes[i].complaints)
-        complaints << QString("%1 at %2: %3").arg(QFileInfo(jobs[i].file).fileName()).arg(jobs[i].degrees).arg(complaint);
+        complaints << QString("%1 at %2: %3")
+                          .arg(QFileInfo(jobs[i].file).fileName())
+                          .arg(jobs[i].degrees)
+                          .arg(complaint);
     }
-    std::printf("%s: %d of %d drawn, largest difference %.4f, smallest correlation %.3f\n", qPrintable(kind), drawn, int(jobs.size()), difference, correlation);
+    std::printf("%s: %d of %d drawn, largest difference %.4f, smallest correlation %.3f\n", qPrintable(kind),
+                drawn, int(jobs.size()), difference, correlation);
     std::fflush(stdout);
     if (!complaints.isEmpty()) QTest::qFail(qPrintable(complaints.join("\n")), __FILE__, __LINE__);
     return drawn;

@@ -37,7 +37,8 @@ inline QList<qint64> descendants(qint64 process, const QByteArray& name) {
     const QByteArray text = stat.readAll();
     const qsizetype open = text.indexOf('('), close = text.lastIndexOf(')');
     const QList<QByteArray> rest = text.mid(close + 2).split(' ');
-    if (rest.value(0) != "Z") children.insert(rest.value(1).toLongLong(), {entry.toLongLong(), text.mid(open + 1, close - open - 1)});
+    if (rest.value(0) != "Z")
+      children.insert(rest.value(1).toLongLong(), {entry.toLongLong(), text.mid(open + 1, close - open - 1)});
   }
   QList<qint64> found, open{process};
   while (!open.isEmpty())
@@ -68,7 +69,8 @@ class XSession {
     environment_.insert("LC_ALL", "C.UTF-8");
     for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
       environment_.insert(QLatin1String(name), home_.path());
-    for (const char* name : {"WAYLAND_DISPLAY", "QT_STYLE_OVERRIDE"}) environment_.remove(QLatin1String(name));
+    for (const char* name : {"WAYLAND_DISPLAY", "QT_STYLE_OVERRIDE"})
+      environment_.remove(QLatin1String(name));
     manager_.setProcessEnvironment(environment_);
     manager_.start("openbox", {});
     waitUntil([this] { return run("xdotool", {"get_desktop"}).exitCode == 0; });
@@ -125,15 +127,16 @@ class XSession {
   QRect windowRect(const QString& title) {
     const QStringList windows = windowsOf(title);
     if (windows.isEmpty()) return {};
-    const QString said = QString::fromLatin1(run("xdotool", {"getwindowgeometry", "--shell", windows.constLast()}).out);
+    const QString said =
+        QString::fromLatin1(run("xdotool", {"getwindowgeometry", "--shell", windows.constLast()}).out);
     const auto number = [&](const char* name) {
       const QRegularExpression form(QStringLiteral("(?:^|\n)%1=(-?[0-9]+)").arg(QLatin1String(name)));
       return form.match(said).captured(1).toInt();
     };
     return {number("X"), number("Y"), number("WIDTH"), number("HEIGHT")};
   }
-  /// Types into one field of the window's inspector after the other, found with Tab as a user without a mouse would,
-  /// until `done` holds; whether it did. The inspector comes and goes beside the window.
+  /// Types into one field of the window's inspector after the other, found with Tab as a user without a mouse
+  /// would, until `done` holds; whether it did. The inspector comes and goes beside the window.
   bool typeInInspector(const QString& title, const QString& text, const std::function<bool()>& done) {
     activate(title);
     key("ctrl+i");
@@ -194,7 +197,9 @@ class XSession {
         seconds);
   }
   /// What was selected last with the mouse in a text ("primary") or copied ("clipboard").
-  QString selection(const QString& which) { return QString::fromUtf8(run("xclip", {"-o", "-selection", which}).out); }
+  QString selection(const QString& which) {
+    return QString::fromUtf8(run("xclip", {"-o", "-selection", which}).out);
+  }
 
  private:
   static void end(QProcess& process) {

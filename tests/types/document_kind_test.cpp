@@ -31,7 +31,8 @@ class DocumentKindTest : public QObject {
   void aSubtypeHasTheKindThatIsTestedFirst() {
     UTType::exportedTypeWithIdentifier("org.example.kind-of-ai", {"com.adobe.illustrator.ai-image"});
     QCOMPARE(documentKind("org.example.kind-of-ai"), DocumentKind::Illustrator);
-    UTType::exportedTypeWithIdentifier("org.example.eps-and-ai", {"com.adobe.illustrator.ai-image", "com.adobe.encapsulated-postscript"});
+    UTType::exportedTypeWithIdentifier(
+        "org.example.eps-and-ai", {"com.adobe.illustrator.ai-image", "com.adobe.encapsulated-postscript"});
     QCOMPARE(documentKind("org.example.eps-and-ai"), DocumentKind::Eps);
   }
 };

@@ -7,14 +7,14 @@
 
 #include "kit/test_main.h"
 #include "ui/controls/color_well.h"
-#include "ui/picture/norvex_view_widget.h"
 #include "ui/controls/number_field.h"
-#include "ui/source/source_text_edit.h"
-#include "ui/source/source_text_view.h"
-#include "ui/picture/zooming_scroll_area.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
+#include "ui/source/source_text_edit.h"
+#include "ui/source/source_text_view.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -36,8 +36,10 @@ bool isOperated(QAccessible::Role role) {
     case QAccessible::MenuItem:
     case QAccessible::PageTab:
     case QAccessible::Graphic:
-    case QAccessible::Link: return true;
-    default: return false;
+    case QAccessible::Link:
+      return true;
+    default:
+      return false;
   }
 }
 
@@ -49,12 +51,14 @@ QString described(QAccessibleInterface* interface) {
       .arg(int(interface->role()), 0, 16);
 }
 
-/// Complains about what is operated and has no name, and about what takes the keyboard and does not say what it is.
+/// Complains about what is operated and has no name, and about what takes the keyboard and does not say what
+/// it is.
 void walk(QAccessibleInterface* interface, QStringList& complaints, int depth = 0) {
   if (!interface || depth > 24 || interface->state().invisible) return;
   const auto* widget = qobject_cast<const QWidget*>(interface->object());
   if (interface->role() == QAccessible::NoRole) complaints << "no role: " + described(interface);
-  if (isOperated(interface->role()) && interface->text(QAccessible::Name).isEmpty()) complaints << "no name: " + described(interface);
+  if (isOperated(interface->role()) && interface->text(QAccessible::Name).isEmpty())
+    complaints << "no name: " + described(interface);
   const bool takesKeys = widget && (widget->focusPolicy() & Qt::TabFocus);
   if (takesKeys && interface->role() == QAccessible::Client && interface->text(QAccessible::Name).isEmpty())
     complaints << "keyboard, but nothing is said: " + described(interface);
@@ -67,14 +71,17 @@ QStringList complaintsAbout(QWidget* top) {
   return complaints;
 }
 
-QAccessibleInterface* interfaceOf(QObject* object) { return QAccessible::queryAccessibleInterface(object); }
+QAccessibleInterface* interfaceOf(QObject* object) {
+  return QAccessible::queryAccessibleInterface(object);
+}
 
 /// The widgets that Tab goes to, from one on, until it would leave `page`.
 QList<QWidget*> tabOrder(QWidget* first, QWidget* page) {
   QList<QWidget*> order;
   QWidget* widget = first;
   do {
-    if ((widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() && page->isAncestorOf(widget) && widget->isVisibleTo(page))
+    if ((widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() && page->isAncestorOf(widget) &&
+        widget->isVisibleTo(page))
       order << widget;
     widget = widget->nextInFocusChain();
   } while (widget != first);
@@ -165,8 +172,8 @@ class AccessibilityTest : public QObject {
     QCoreApplication::processEvents();
     auto* page = c.inspectorWindow->findChild<QWidget*>("pictureFacts");
     const QList<QWidget*> order = tabOrder(c.dialKnob(), page);
-    const QList<QWidget*> wanted{c.dialKnob(), c.rotateField(), c.backgroundColorWell(), c.useBackgroundSwitch(),
-                                 c.titleForm()->cellAtIndex(0)};
+    const QList<QWidget*> wanted{c.dialKnob(), c.rotateField(), c.backgroundColorWell(),
+                                 c.useBackgroundSwitch(), c.titleForm()->cellAtIndex(0)};
     QCOMPARE(order.mid(0, 5), wanted);
     QVERIFY(order.size() >= 15);
     QCOMPARE(order.last(), static_cast<QWidget*>(c.descriptionView->textEdit()));
@@ -187,7 +194,8 @@ class AccessibilityTest : public QObject {
     const QList<QWidget*> order = tabOrder(c.scrollArea(), c.window());
     QVERIFY(order.contains(c.scrollArea()));
     int buttons = 0;
-    for (const QWidget* widget : order) buttons += widget->parentWidget()->objectName() == QLatin1String("touchStrip");
+    for (const QWidget* widget : order)
+      buttons += widget->parentWidget()->objectName() == QLatin1String("touchStrip");
     QCOMPARE(buttons, 5);
   }
 };

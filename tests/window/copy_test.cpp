@@ -5,13 +5,13 @@
 #include <QSignalSpy>
 #include <QUrl>
 
-#include "kit/test_main.h"
 #include "desktop/memory_pasteboard.h"
+#include "kit/test_main.h"
 #include "picture/web_image_rep.h"
+#include "ui/panels/qt_pasteboard.h"
 #include "ui/picture/dragged_file_data.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
-#include "ui/panels/qt_pasteboard.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -33,7 +33,9 @@ class CopyFixture : public WindowFixture {
   MainWindowController& eps() { return show(epsBytes(), "a.eps", NorvexEPSType); }
   MainWindowController& pdf() { return show(emptyPdf({200, 100}), "a.pdf", "com.adobe.pdf"); }
   MainWindowController& svg() { return show(kSvg, "a.svg", "public.svg-image"); }
-  QStringList types() const { return pasteboard.objects.isEmpty() ? QStringList() : pasteboard.objects.first().types(); }
+  QStringList types() const {
+    return pasteboard.objects.isEmpty() ? QStringList() : pasteboard.objects.first().types();
+  }
 
   MemoryPasteboard pasteboard;
   int beeps = 0;
@@ -202,7 +204,8 @@ class CopyTest : public QObject {
     process->release(PictureCall::Compose);
     QVERIFY(end.wait(20000));
     QCOMPARE(f.types().size(), 3);
-    for (const ComposeRequest& each : process->composeRequests()) QVERIFY(each.rect != QRectF(-50, -20, 40, 30));
+    for (const ComposeRequest& each : process->composeRequests())
+      QVERIFY(each.rect != QRectF(-50, -20, 40, 30));
   }
 
   void theLastCopyCounts() {
@@ -231,7 +234,8 @@ class CopyTest : public QObject {
   void theItemsOfToolbarAndMenuCopy() {
     CopyFixture f;
     MainWindowController& c = f.eps();
-    QVERIFY(c.copyToolbarItem->isEnabled() && c.copyToolbarItem->isVisible() && c.doSaveToToolbarItem->isVisible());
+    QVERIFY(c.copyToolbarItem->isEnabled() && c.copyToolbarItem->isVisible() &&
+            c.doSaveToToolbarItem->isVisible());
     QCOMPARE(copied(c, [&] { c.copyToolbarItem->trigger(); }), QVariant(true));
     QCOMPARE(f.types().size(), 3);
     auto* whole = c.window()->findChild<QAction*>("copyAction");
@@ -271,9 +275,9 @@ class CopyTest : public QObject {
     item.setFallback("G", "public.png");
     const auto mime = mimeDataOf(item);
     QCOMPARE(mime->formats(),
-             (QStringList{"image/svg+xml", "application/pdf", "image/x-eps", "application/postscript", "image/x-e-postscript",
-                          "application/eps", "image/png", "image/tiff", "public.tiff", kEpsType, "com.adobe.pdf",
-                          "public.svg-image"}));
+             (QStringList{"image/svg+xml", "application/pdf", "image/x-eps", "application/postscript",
+                          "image/x-e-postscript", "application/eps", "image/png", "image/tiff", "public.tiff",
+                          kEpsType, "com.adobe.pdf", "public.svg-image"}));
     QCOMPARE(mime->data("image/x-e-postscript"), QByteArray("E"));
     QCOMPARE(mime->data("image/png"), QByteArray("G"));
     QCOMPARE(mime->data("com.adobe.pdf"), QByteArray("P"));

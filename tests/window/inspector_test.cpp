@@ -11,12 +11,12 @@
 
 #include "kit/test_main.h"
 #include "ui/controls/color_well.h"
-#include "ui/picture/norvex_view_widget.h"
 #include "ui/controls/number_field.h"
 #include "ui/controls/number_matrix.h"
-#include "ui/picture/zooming_scroll_area.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
 #include "window/window_fixture.h"
 
@@ -165,11 +165,16 @@ class InspectorTest : public QObject {
   void anglesAreShownByTheirFormat_data() {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("negative") << "-12.3" << "-12.3000";
-    QTest::newRow("negative below 1") << "-0.5" << "-0.5000";
-    QTest::newRow("positive below 1") << "0.5" << ".5000";
-    QTest::newRow("zero") << "0" << "0.0000";
-    QTest::newRow("thousands") << "1080" << "1,080.0000";
+    QTest::newRow("negative") << "-12.3"
+                              << "-12.3000";
+    QTest::newRow("negative below 1") << "-0.5"
+                                      << "-0.5000";
+    QTest::newRow("positive below 1") << "0.5"
+                                      << ".5000";
+    QTest::newRow("zero") << "0"
+                          << "0.0000";
+    QTest::newRow("thousands") << "1080"
+                               << "1,080.0000";
   }
   void anglesAreShownByTheirFormat() {
     QFETCH(QString, typed);
@@ -214,16 +219,21 @@ class InspectorTest : public QObject {
     c.window()->show();
     c.showInspectorWindow();
     QLineEdit* title = c.titleForm()->cellAtIndex(0);
-    QCOMPARE(copied(title, [&] { title->findChild<QAction*>("copyValueAction")->trigger(); }), QStringLiteral("A picture"));
+    QCOMPARE(copied(title, [&] { title->findChild<QAction*>("copyValueAction")->trigger(); }),
+             QStringLiteral("A picture"));
     title->setFocus();
     title->deselect();
-    QCOMPARE(copied(title, [&] { QTest::keyClick(title, Qt::Key_C, Qt::ControlModifier); }), QStringLiteral("A picture"));
+    QCOMPARE(copied(title, [&] { QTest::keyClick(title, Qt::Key_C, Qt::ControlModifier); }),
+             QStringLiteral("A picture"));
     title->setSelection(2, 7);
-    QCOMPARE(copied(title, [&] { QTest::keyClick(title, Qt::Key_C, Qt::ControlModifier); }), QStringLiteral("picture"));
-    for (const ZyForm* form : {c.titleForm(), c.creatorForm(), c.creationDateForm(), c.forForm(), c.copyrightForm(), c.encodingForm(), c.colorSpaceNameForm()})
+    QCOMPARE(copied(title, [&] { QTest::keyClick(title, Qt::Key_C, Qt::ControlModifier); }),
+             QStringLiteral("picture"));
+    for (const ZyForm* form : {c.titleForm(), c.creatorForm(), c.creationDateForm(), c.forForm(),
+                               c.copyrightForm(), c.encodingForm(), c.colorSpaceNameForm()})
       QVERIFY(form->cellAtIndex(0)->findChild<QAction*>("copyValueAction"));
     QLineEdit* width = c.epsMatrix->cellAtRow(0, 1);
-    QCOMPARE(copied(width, [&] { width->findChild<QAction*>("copyValueAction")->trigger(); }), QStringLiteral("200"));
+    QCOMPARE(copied(width, [&] { width->findChild<QAction*>("copyValueAction")->trigger(); }),
+             QStringLiteral("200"));
   }
 
   void theCopyButtonIsThereWhileTheFieldIsInUseAndHasAValue() {
@@ -246,7 +256,8 @@ class InspectorTest : public QObject {
 
   void anEpsFileShowsBothBoundingBoxes() {
     WindowFixture fixture;
-    MainWindowController& c = fixture.loaded(epsBytes("%%HiResBoundingBox: 10.25 20.5 209.75 119.125\n"), "a.eps", NorvexEPSType);
+    MainWindowController& c =
+        fixture.loaded(epsBytes("%%HiResBoundingBox: 10.25 20.5 209.75 119.125\n"), "a.eps", NorvexEPSType);
     auto* form = c.inspectorWindow->findChild<ZyForm*>("boundingBoxForm");
     QVERIFY(form->isVisibleTo(c.inspectorWindow->findChild<QWidget*>("pictureFacts")));
     QCOMPARE(form->cellAtIndex(0)->text(), QStringLiteral("10 20 210 120"));
@@ -266,10 +277,13 @@ class InspectorTest : public QObject {
 
   void fontsAndColoursOfThePictureAreShownWhereTheyAreKnown() {
     WindowFixture fixture;
-    MainWindowController& c = fixture.loaded(
-        epsBytes("%%DocumentFonts: Helvetica\n%%DocumentCustomColors: (PANTONE 186 C)\n"), "a.eps", NorvexEPSType);
+    MainWindowController& c =
+        fixture.loaded(epsBytes("%%DocumentFonts: Helvetica\n%%DocumentCustomColors: (PANTONE 186 C)\n"),
+                       "a.eps", NorvexEPSType);
     auto* form = c.inspectorWindow->findChild<ZyForm*>("usesForm");
-    const auto isShown = [&] { return form->isVisibleTo(c.inspectorWindow->findChild<QWidget*>("pictureFacts")); };
+    const auto isShown = [&] {
+      return form->isVisibleTo(c.inspectorWindow->findChild<QWidget*>("pictureFacts"));
+    };
     QVERIFY(isShown());
     QCOMPARE(form->cellAtIndex(0)->text(), QStringLiteral("Helvetica"));
     QCOMPARE(form->cellAtIndex(1)->text(), QStringLiteral("PANTONE 186 C"));
@@ -295,13 +309,14 @@ class InspectorTest : public QObject {
     WindowFixture fixture;
     MemoryPicture picture;
     picture.facts.pageBounds = {QRectF(0, 0, 100, 50)};
-    picture.facts.warnings = {"this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork"};
+    picture.facts.warnings = {
+        "this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork"};
     fixture.service.setPicture(picture);
     MainWindowController& c = fixture.loaded("%PDF-1.4", "a.ai", NorvexIllustratorType);
     auto* note = c.inspectorWindow->findChild<QLabel*>("noteField");
     QVERIFY(note->isVisibleTo(note->parentWidget()));
-    QCOMPARE(note->text(),
-             QStringLiteral("This Illustrator file was saved without PDF content, so it shows a notice instead of the artwork."));
+    QCOMPARE(note->text(), QStringLiteral("This Illustrator file was saved without PDF content, so it shows "
+                                          "a notice instead of the artwork."));
     picture.facts.warnings.clear();
     fixture.service.setPicture(picture);
     fixture.document.revertDocumentToSaved();

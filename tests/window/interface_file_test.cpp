@@ -20,8 +20,10 @@ QHash<QString, QString> namesInFile() {
   while (!xml.atEnd()) {
     xml.readNext();
     if (!xml.isStartElement()) continue;
-    if (xml.name() == QLatin1String("widget")) names.insert(xml.attributes().value("name").toString(), xml.attributes().value("class").toString());
-    if (xml.name() == QLatin1String("action")) names.insert(xml.attributes().value("name").toString(), QStringLiteral("QAction"));
+    if (xml.name() == QLatin1String("widget"))
+      names.insert(xml.attributes().value("name").toString(), xml.attributes().value("class").toString());
+    if (xml.name() == QLatin1String("action"))
+      names.insert(xml.attributes().value("name").toString(), QStringLiteral("QAction"));
   }
   return xml.hasError() ? QHash<QString, QString>() : names;
 }
@@ -34,17 +36,38 @@ class InterfaceFileTest : public QObject {
   void everyFieldIsAControlOfTheFile_data() {
     QTest::addColumn<QString>("cls");
     const QList<std::pair<const char*, const char*>> fields{
-        {"startPoint", "QLabel"}, {"endPoint", "QLabel"}, {"inspectorToolbarItem", "QAction"}, {"copyToolbarItem", "QAction"},
-        {"doPrintingToolbarItem", "QAction"}, {"doSaveToToolbarItem", "QAction"}, {"inspectorWindow", "QWidget"},
-        {"pathControl", "norvex::PathControl"}, {"descriptionView", "norvex::SourceTextView"},
-        {"sourceTextView", "norvex::SourceTextView"}, {"epsMatrix", "norvex::NumberMatrix"}, {"epsMatrixBox", "QGroupBox"},
-        {"previewField", "QLabel"}, {"doSaveToPopUp", "QComboBox"}, {"doSaveToImageView", "norvex::ZyImageView"},
-        {"doSaveToAccessoryView", "QWidget"}, {"useBackgroundSwitch", "QCheckBox"}, {"windowBackgroundColorTitle", "QLabel"},
-        {"rotateTitle", "QLabel"}, {"rotateField", "norvex::NumberField"}, {"backgroundColorWell", "norvex::ColorWell"},
-        {"dialKnob", "norvex::ZyDialKnob"}, {"previewImageView", "norvex::ZyImageView"}, {"colorSpaceNameForm", "norvex::ZyForm"},
-        {"encodingForm", "norvex::ZyForm"}, {"titleForm", "norvex::ZyForm"}, {"creatorForm", "norvex::ZyForm"},
-        {"creationDateForm", "norvex::ZyForm"}, {"forForm", "norvex::ZyForm"}, {"copyrightForm", "norvex::ZyForm"},
-        {"view", "norvex::NorvexViewWidget"}, {"zoomingScrollView", "norvex::ZoomingScrollArea"}};
+        {"startPoint", "QLabel"},
+        {"endPoint", "QLabel"},
+        {"inspectorToolbarItem", "QAction"},
+        {"copyToolbarItem", "QAction"},
+        {"doPrintingToolbarItem", "QAction"},
+        {"doSaveToToolbarItem", "QAction"},
+        {"inspectorWindow", "QWidget"},
+        {"pathControl", "norvex::PathControl"},
+        {"descriptionView", "norvex::SourceTextView"},
+        {"sourceTextView", "norvex::SourceTextView"},
+        {"epsMatrix", "norvex::NumberMatrix"},
+        {"epsMatrixBox", "QGroupBox"},
+        {"previewField", "QLabel"},
+        {"doSaveToPopUp", "QComboBox"},
+        {"doSaveToImageView", "norvex::ZyImageView"},
+        {"doSaveToAccessoryView", "QWidget"},
+        {"useBackgroundSwitch", "QCheckBox"},
+        {"windowBackgroundColorTitle", "QLabel"},
+        {"rotateTitle", "QLabel"},
+        {"rotateField", "norvex::NumberField"},
+        {"backgroundColorWell", "norvex::ColorWell"},
+        {"dialKnob", "norvex::ZyDialKnob"},
+        {"previewImageView", "norvex::ZyImageView"},
+        {"colorSpaceNameForm", "norvex::ZyForm"},
+        {"encodingForm", "norvex::ZyForm"},
+        {"titleForm", "norvex::ZyForm"},
+        {"creatorForm", "norvex::ZyForm"},
+        {"creationDateForm", "norvex::ZyForm"},
+        {"forForm", "norvex::ZyForm"},
+        {"copyrightForm", "norvex::ZyForm"},
+        {"view", "norvex::NorvexViewWidget"},
+        {"zoomingScrollView", "norvex::ZoomingScrollArea"}};
     for (const auto& [name, cls] : fields) QTest::newRow(name) << QString::fromLatin1(cls);
   }
   void everyFieldIsAControlOfTheFile() {
@@ -57,11 +80,15 @@ class InterfaceFileTest : public QObject {
     MainWindowController& c = fixture.controller();
     QVERIFY(!c.isWindowLoaded());
     c.window();
-    QVERIFY(c.startPoint && c.endPoint && c.inspectorToolbarItem && c.copyToolbarItem && c.doPrintingToolbarItem && c.doSaveToToolbarItem);
-    QVERIFY(c.inspectorWindow && c.pathControl && c.descriptionView && c.sourceTextView && c.epsMatrix && c.epsMatrixBox);
+    QVERIFY(c.startPoint && c.endPoint && c.inspectorToolbarItem && c.copyToolbarItem &&
+            c.doPrintingToolbarItem && c.doSaveToToolbarItem);
+    QVERIFY(c.inspectorWindow && c.pathControl && c.descriptionView && c.sourceTextView && c.epsMatrix &&
+            c.epsMatrixBox);
     QVERIFY(c.previewField && c.doSaveToPopUp && c.doSaveToImageView && c.doSaveToAccessoryView);
-    QVERIFY(c.useBackgroundSwitch() && c.windowBackgroundColorTitle() && c.rotateTitle() && c.rotateField() && c.backgroundColorWell());
-    QVERIFY(c.dialKnob() && c.previewImageView() && c.colorSpaceNameForm() && c.encodingForm() && c.titleForm() && c.creatorForm());
+    QVERIFY(c.useBackgroundSwitch() && c.windowBackgroundColorTitle() && c.rotateTitle() && c.rotateField() &&
+            c.backgroundColorWell());
+    QVERIFY(c.dialKnob() && c.previewImageView() && c.colorSpaceNameForm() && c.encodingForm() &&
+            c.titleForm() && c.creatorForm());
     QVERIFY(c.creationDateForm() && c.forForm() && c.copyrightForm() && c.view() && c.zoomingScrollView());
   }
 
@@ -71,12 +98,14 @@ class InterfaceFileTest : public QObject {
     QStringList nameless;
     for (QWidget* top : {static_cast<QWidget*>(c.window()), c.inspectorWindow, c.doSaveToAccessoryView})
       for (QWidget* widget : top->findChildren<QWidget*>()) {
-        if (widget->focusPolicy() == Qt::NoFocus || widget->inherits("QScrollArea") || widget->inherits("QTabWidget") ||
-            !widget->isVisibleTo(top) || widget->objectName().startsWith("qt_"))
+        if (widget->focusPolicy() == Qt::NoFocus || widget->inherits("QScrollArea") ||
+            widget->inherits("QTabWidget") || !widget->isVisibleTo(top) ||
+            widget->objectName().startsWith("qt_"))
           continue;
         QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
         if (interface && interface->text(QAccessible::Name).isEmpty() && widget->toolTip().isEmpty())
-          nameless << QString::fromLatin1(widget->metaObject()->className()) + ' ' + widget->objectName() + " in " + widget->parentWidget()->objectName();
+          nameless << QString::fromLatin1(widget->metaObject()->className()) + ' ' + widget->objectName() +
+                          " in " + widget->parentWidget()->objectName();
       }
     QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join('\n')));
   }

@@ -8,12 +8,12 @@
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
 #include "ui/controls/color_well.h"
-#include "ui/picture/message_bar.h"
-#include "ui/picture/norvex_view_widget.h"
 #include "ui/controls/number_field.h"
-#include "ui/picture/zooming_scroll_area.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
 #include "window/window_fixture.h"
 
@@ -21,7 +21,9 @@ using namespace norvex;
 
 namespace {
 
-QAction* action(MainWindowController& c, const char* name) { return c.window()->findChild<QAction*>(QString::fromLatin1(name)); }
+QAction* action(MainWindowController& c, const char* name) {
+  return c.window()->findChild<QAction*>(QString::fromLatin1(name));
+}
 
 void drag(NorvexViewWidget* widget, QPoint from, QPoint to) {
   QTest::mousePress(widget, Qt::LeftButton, {}, from);
@@ -31,7 +33,9 @@ void drag(NorvexViewWidget* widget, QPoint from, QPoint to) {
 }
 
 /// A widget point of a point of the view.
-QPoint at(MainWindowController& c, double x, double y) { return c.viewWidget()->fromView({x, y}).toPoint(); }
+QPoint at(MainWindowController& c, double x, double y) {
+  return c.viewWidget()->fromView({x, y}).toPoint();
+}
 
 }  // namespace
 
@@ -208,7 +212,8 @@ class MainWindowCommandsTest : public QObject {
   void withoutAPictureEveryCommandOfTheControllerIsDisabled() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loaded("nothing", "a.eps", NorvexEPSType);
-    for (const char* name : {"inspectorToolbarItem", "copyToolbarItem", "doPrintingToolbarItem", "doSaveToToolbarItem", "zoomInAction", "selectAllAction"})
+    for (const char* name : {"inspectorToolbarItem", "copyToolbarItem", "doPrintingToolbarItem",
+                             "doSaveToToolbarItem", "zoomInAction", "selectAllAction"})
       QVERIFY2(!action(c, name)->isEnabled(), name);
   }
 
@@ -268,7 +273,8 @@ class MainWindowCommandsTest : public QObject {
     QTest::addColumn<bool>("inPlace");
     for (const bool deleted : {true, false})
       for (const bool inPlace : {true, false})
-        QTest::addRow("%s, %s", deleted ? "deleted" : "damaged", inPlace ? "from the bar" : "by the command") << deleted << inPlace;
+        QTest::addRow("%s, %s", deleted ? "deleted" : "damaged", inPlace ? "from the bar" : "by the command")
+            << deleted << inPlace;
   }
   void whatCannotBeReadAgainLeavesThePicture() {
     QFETCH(bool, deleted);
@@ -278,8 +284,10 @@ class MainWindowCommandsTest : public QObject {
     const auto picture = c.view()->imageRep();
     c.rotateChange(30);
     c.zoomingScrollView()->zoomTo(2.0);
-    if (deleted) QVERIFY(QFile::remove(fixture.folder.filePath("a.eps")));
-    else fixture.write("nothing", "a.eps");
+    if (deleted)
+      QVERIFY(QFile::remove(fixture.folder.filePath("a.eps")));
+    else
+      fixture.write("nothing", "a.eps");
     if (inPlace) {
       c.fileDidChangeOnDisk();
       emit c.messageBar()->actionChosen();
@@ -291,7 +299,8 @@ class MainWindowCommandsTest : public QObject {
     QCOMPARE(c.rotateField()->text(), QStringLiteral("30.0000"));
     QCOMPARE(c.zoomFactor(), 2.0);
     QVERIFY(action(c, "copyToolbarItem")->isEnabled());
-    QVERIFY2(c.messageBar()->message().endsWith(". What is shown was read before."), qPrintable(c.messageBar()->message()));
+    QVERIFY2(c.messageBar()->message().endsWith(". What is shown was read before."),
+             qPrintable(c.messageBar()->message()));
     QVERIFY(c.messageBar()->message().at(0).isUpper());
     // Whole again, it is read.
     fixture.write(epsBytes().replace("A picture", "Another"), "a.eps");

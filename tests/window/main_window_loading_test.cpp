@@ -16,15 +16,15 @@
 #include "picture/pdf_image_rep.h"
 #include "picture/web_image_rep.h"
 #include "ui/controls/color_well.h"
-#include "ui/picture/message_bar.h"
-#include "ui/picture/norvex_view_widget.h"
 #include "ui/controls/number_field.h"
 #include "ui/controls/number_matrix.h"
 #include "ui/controls/path_control.h"
-#include "ui/source/source_text_view.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zy_image_view.h"
+#include "ui/source/source_text_view.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -36,13 +36,14 @@ const QColor kPink = QColor::fromRgbF(1.0f, 0.913725f, 0.949019f);
 const QByteArray kSvg = "<svg xmlns='http://www.w3.org/2000/svg'/>";
 
 QStringList cells(const MainWindowController& c) {
-  return {c.epsMatrix->cellAtRow(0, 0)->text(), c.epsMatrix->cellAtRow(1, 0)->text(), c.epsMatrix->cellAtRow(0, 1)->text(),
-          c.epsMatrix->cellAtRow(1, 1)->text()};
+  return {c.epsMatrix->cellAtRow(0, 0)->text(), c.epsMatrix->cellAtRow(1, 0)->text(),
+          c.epsMatrix->cellAtRow(0, 1)->text(), c.epsMatrix->cellAtRow(1, 1)->text()};
 }
 
 QStringList formTexts(const MainWindowController& c) {
   QStringList all;
-  for (ZyForm* form : {c.titleForm(), c.creatorForm(), c.creationDateForm(), c.forForm(), c.copyrightForm(), c.encodingForm()})
+  for (ZyForm* form : {c.titleForm(), c.creatorForm(), c.creationDateForm(), c.forForm(), c.copyrightForm(),
+                       c.encodingForm()})
     all << form->cellAtIndex(0)->text();
   return all;
 }
@@ -53,7 +54,8 @@ NSBitmapImageRep smallPreview() {
   return bitmapFromImage(image);
 }
 
-MemoryPicture svgPicture(std::optional<QRectF> viewBox, std::optional<bool> fixedX = {}, std::optional<bool> fixedY = {}) {
+MemoryPicture svgPicture(std::optional<QRectF> viewBox, std::optional<bool> fixedX = {},
+                         std::optional<bool> fixedY = {}) {
   MemoryPicture picture;
   picture.facts.viewBox = viewBox;
   picture.facts.fixedRatioX = fixedX;
@@ -79,8 +81,9 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.previewImageView()->imageFrameStyle(), 2);
     QVERIFY(c.previewImageView()->image().isNull());
     QCOMPARE(c.rotateField()->text(), QString());
-    for (QWidget* control : {static_cast<QWidget*>(c.dialKnob()), static_cast<QWidget*>(c.rotateField()),
-                             static_cast<QWidget*>(c.useBackgroundSwitch()), static_cast<QWidget*>(c.backgroundColorWell())})
+    for (QWidget* control :
+         {static_cast<QWidget*>(c.dialKnob()), static_cast<QWidget*>(c.rotateField()),
+          static_cast<QWidget*>(c.useBackgroundSwitch()), static_cast<QWidget*>(c.backgroundColorWell())})
       QVERIFY(!control->isEnabled());
     QCOMPARE(c.window()->size(), before);
     QVERIFY(!c.validateUserInterfaceItem());
@@ -107,13 +110,15 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.view()->rotate(), 0.0);
     QCOMPARE(c.zoomFactor(), 1.0);
     QCOMPARE(c.pathControl->url(), fixture.document.fileURL());
-    QVERIFY(c.dialKnob()->isEnabled() && c.rotateField()->isEnabled() && c.useBackgroundSwitch()->isEnabled());
+    QVERIFY(c.dialKnob()->isEnabled() && c.rotateField()->isEnabled() &&
+            c.useBackgroundSwitch()->isEnabled());
     QVERIFY(c.validateUserInterfaceItem());
   }
 
   void anEpsiFileIsTreatedAsEps() {
     WindowFixture fixture;
-    MainWindowController& c = fixture.loaded(epsBytes("%%BeginPreview: 8 1 1 1\n% FF\n%%EndPreview\n"), "a.epsi", NorvexEPSIType);
+    MainWindowController& c =
+        fixture.loaded(epsBytes("%%BeginPreview: 8 1 1 1\n% FF\n%%EndPreview\n"), "a.epsi", NorvexEPSIType);
     QVERIFY(dynamic_cast<NSEPSImageRep*>(c.view()->imageRep().get()));
     QCOMPARE(cells(c), QStringList({"10", "20", "200", "100"}));
     QCOMPARE(c.epsMatrixBox->title(), QStringLiteral("Bounds"));
@@ -180,7 +185,9 @@ class MainWindowLoadingTest : public QObject {
     QFETCH(int, x);
     QFETCH(int, y);
     QFETCH(QColor, color);
-    const auto key = [](int value) { return value < 0 ? std::optional<bool>() : std::optional<bool>(value == 1); };
+    const auto key = [](int value) {
+      return value < 0 ? std::optional<bool>() : std::optional<bool>(value == 1);
+    };
     WindowFixture fixture;
     fixture.service.setPicture(svgPicture(QRectF(0, 0, 1, 1), key(x), key(y)));
     MainWindowController& c = fixture.loaded(kSvg, "a.svg", UTTypeSVG().identifier());
@@ -226,7 +233,8 @@ class MainWindowLoadingTest : public QObject {
     QTRY_COMPARE(fixture.alerts.shown.size(), 1);
     QCOMPARE(fixture.alerts.shown.first().style, AlertStyle::Warning);
     QCOMPARE(fixture.alerts.shown.first().messageText, QStringLiteral("The filter is unknown."));
-    QCOMPARE(fixture.alerts.shown.first().informativeText, "file://" + fixture.folder.filePath("a picture.svg"));
+    QCOMPARE(fixture.alerts.shown.first().informativeText,
+             "file://" + fixture.folder.filePath("a picture.svg"));
     QVERIFY(fixture.alerts.shown.first().buttons.isEmpty());
     QVERIFY(!c.previewImageView()->imageRep());
     std::static_pointer_cast<ZyWebImageRep>(c.view()->imageRep())->loadPDFImageRep();
@@ -241,7 +249,8 @@ class MainWindowLoadingTest : public QObject {
     c.rotateChange(30);
     c.zoomingScrollView()->zoomTo(2.0);
     c.inspectorWindow->setWindowTitle("something");
-    fixture.write("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 50 60\n%%Title: Another\n%%EndComments\n", "a.eps");
+    fixture.write("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 50 60\n%%Title: Another\n%%EndComments\n",
+                  "a.eps");
     fixture.document.revertDocumentToSaved();
     QCOMPARE(c.view()->rotate(), 0.0);
     QCOMPARE(c.zoomFactor(), 1.0);
@@ -339,14 +348,18 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.doPrintingToolbarItem->text(), QStringLiteral("Print"));
     QCOMPARE(c.dialKnob()->toolTip(), QStringLiteral("RotateImageByMousedragg"));
     QCOMPARE(c.inspectorToolbarItem->text(), QStringLiteral("Inspector"));
-    QCOMPARE(c.copyToolbarItem->toolTip(), QStringLiteral("The range of the selection or visible rect are copied onto the paste board."));
-    QCOMPARE(c.doPrintingToolbarItem->toolTip(), QStringLiteral("The range of the selection or visible rect are printed."));
-    QCOMPARE(c.doSaveToToolbarItem->toolTip(), QStringLiteral("Selected range of image data is written or displayed."));
+    QCOMPARE(c.copyToolbarItem->toolTip(),
+             QStringLiteral("The range of the selection or visible rect are copied onto the paste board."));
+    QCOMPARE(c.doPrintingToolbarItem->toolTip(),
+             QStringLiteral("The range of the selection or visible rect are printed."));
+    QCOMPARE(c.doSaveToToolbarItem->toolTip(),
+             QStringLiteral("Selected range of image data is written or displayed."));
     QCOMPARE(c.doSaveToToolbarItem->text(), QStringLiteral("SaveTo"));
     QCOMPARE(c.useBackgroundSwitch()->text(), QStringLiteral("Use"));
     QCOMPARE(c.pathControl->toolTip(), QStringLiteral("Filename"));
     QCOMPARE(c.sourceTextView->toolTip(), QStringLiteral("SourceCode"));
-    QCOMPARE(c.viewWidget()->toolTip(), QStringLiteral("Selection is determined by dragging the mouse twice."));
+    QCOMPARE(c.viewWidget()->toolTip(),
+             QStringLiteral("Selection is determined by dragging the mouse twice."));
     QCOMPARE(c.inspectorWindow->windowTitle(), QString());
   }
 

@@ -19,13 +19,15 @@ namespace {
 /// A picture service that composes pages by writing down what it was asked.
 class PagesService final : public PictureService {
  public:
-  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind, const PictureLimits& limits) override {
+  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
+                                       const PictureLimits& limits) override {
     return pictures.open(bytes, kind, limits);
   }
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel) override {
     return pictures.decodePreview(tiff, cancel);
   }
-  Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request, const CancelToken&) override {
+  Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
+                                  const CancelToken&) override {
     const std::lock_guard lock(mutex);
     asked << request;
     picturesGiven << pdf;
@@ -39,7 +41,8 @@ class PagesService final : public PictureService {
 };
 
 struct PrintFixture {
-  PrintFixture() : document(service, [this] {
+  PrintFixture()
+      : document(service, [this] {
           auto made = std::make_unique<MainWindowController>();
           made->setAlertPresenter(&alerts);
           made->setPrintServices({nullptr, &spooler, &people});
@@ -49,7 +52,8 @@ struct PrintFixture {
   }
   MainWindowController& load(const QString& name, const QByteArray& bytes = epsBytes()) {
     QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write the test's file");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+      qFatal("cannot write the test's file");
     file.close();
     document.setFileURL(QUrl::fromLocalFile(folder.filePath(name)));
     document.setFileType(NorvexEPSType);
@@ -190,7 +194,9 @@ class MainWindowPrintTest : public QObject {
     auto* action = c.window()->findChild<QAction*>("printAction");
     QVERIFY(action && action->shortcut() == QKeySequence(QKeySequence::Print));
     QSizeF size;
-    fixture.people.onPanel = [&size](NSPrintOperation& operation) { size = operation.view().printSource().size; };
+    fixture.people.onPanel = [&size](NSPrintOperation& operation) {
+      size = operation.view().printSource().size;
+    };
     action->trigger();
     QCOMPARE(size, turned);
     QVERIFY(size.height() > size.width());

@@ -33,9 +33,12 @@ QList<bool> made(const PictureFormats& formats) {
 /// A snapshot of a picture of 200 × 100 points, unturned, with the rectangle (-50, -20, 40, 30).
 struct Shown {
   explicit Shown(PictureKind kind) {
-    if (kind == PictureKind::Eps) snapshot.imageRep = *NSEPSImageRep::imageRepWithData(service, kEps);
-    else if (kind == PictureKind::Svg) snapshot.imageRep = *ZyWebImageRep::imageRepWithData(service, kSvg, QUrl("file:///a/b.svg"));
-    else snapshot.imageRep = *NSPDFImageRep::imageRepWithData(service, emptyPdf({200, 100}));
+    if (kind == PictureKind::Eps)
+      snapshot.imageRep = *NSEPSImageRep::imageRepWithData(service, kEps);
+    else if (kind == PictureKind::Svg)
+      snapshot.imageRep = *ZyWebImageRep::imageRepWithData(service, kSvg, QUrl("file:///a/b.svg"));
+    else
+      snapshot.imageRep = *NSPDFImageRep::imageRepWithData(service, emptyPdf({200, 100}));
     process = service.lastProcess();
     snapshot.placement = {QPointF(100, 50), 0};
     snapshot.rect = QRectF(-50, -20, 40, 30);
@@ -55,25 +58,30 @@ class PictureFormatsTest : public QObject {
   void anEpsPictureYieldsEpsPdfTiff() {
     Shown f(PictureKind::Eps);
     const PictureFormats formats = selectionFormats(f.snapshot);
-    QCOMPARE(identifiers(formats), (QStringList{"com.adobe.encapsulated-postscript", "com.adobe.pdf", "public.tiff"}));
-    QCOMPARE(formats.Types, (QStringList{"com.adobe.encapsulated-postscript", "com.adobe.pdf", "public.tiff"}));
+    QCOMPARE(identifiers(formats),
+             (QStringList{"com.adobe.encapsulated-postscript", "com.adobe.pdf", "public.tiff"}));
+    QCOMPARE(formats.Types,
+             (QStringList{"com.adobe.encapsulated-postscript", "com.adobe.pdf", "public.tiff"}));
     QCOMPARE(made(formats), (QList<bool>{true, true, true}));
-    QVERIFY(formats.DataObjects[0]->get().startsWith("%!PS") && formats.DataObjects[1]->get().startsWith("%PDF"));
-    QVERIFY(formats.DataObjects[2]->get().startsWith("II*") || formats.DataObjects[2]->get().startsWith("MM"));
+    QVERIFY(formats.DataObjects[0]->get().startsWith("%!PS") &&
+            formats.DataObjects[1]->get().startsWith("%PDF"));
+    QVERIFY(formats.DataObjects[2]->get().startsWith("II*") ||
+            formats.DataObjects[2]->get().startsWith("MM"));
   }
 
   void aPdfPictureYieldsPdfFirst() {
     Shown f(PictureKind::Pdf);
     const PictureFormats formats = selectionFormats(f.snapshot);
-    QCOMPARE(identifiers(formats), (QStringList{"com.adobe.pdf", "com.adobe.encapsulated-postscript", "public.tiff"}));
+    QCOMPARE(identifiers(formats),
+             (QStringList{"com.adobe.pdf", "com.adobe.encapsulated-postscript", "public.tiff"}));
     QCOMPARE(made(formats), (QList<bool>{true, true, true}));
   }
 
   void anSvgPictureYieldsSvgPdfEpsTiff() {
     Shown f(PictureKind::Svg);
     const PictureFormats formats = selectionFormats(f.snapshot);
-    QCOMPARE(identifiers(formats),
-             (QStringList{"public.svg-image", "com.adobe.pdf", "com.adobe.encapsulated-postscript", "public.tiff"}));
+    QCOMPARE(identifiers(formats), (QStringList{"public.svg-image", "com.adobe.pdf",
+                                                "com.adobe.encapsulated-postscript", "public.tiff"}));
     QCOMPARE(formats.Types.first(), QString::fromLatin1(ZySVGPboardType));
     QCOMPARE(made(formats), (QList<bool>{true, true, true, true}));
   }
@@ -149,7 +157,8 @@ class PictureFormatsTest : public QObject {
     QVERIFY(!cuts[0].pretty);
     QCOMPARE(cuts[0].rect, std::optional(QRectF(50, 40, 40, 30)));
     QCOMPARE(cuts[0].rotate, kFullTurn - 1);
-    for (const ComposeRequest& each : f.process->composeRequests()) QCOMPARE(each.rect, QRectF(-50, -20, 40, 30));
+    for (const ComposeRequest& each : f.process->composeRequests())
+      QCOMPARE(each.rect, QRectF(-50, -20, 40, 30));
   }
 
   void nothingIsMadeBeforeItIsAskedForAndThenOnce() {
@@ -251,8 +260,8 @@ class PictureFormatsTest : public QObject {
     QCOMPARE(formats.DataObjects[0]->get(), emptyPdf({200, 100}));
     Shown svg(PictureKind::Svg);
     formats = wholePictureFormats(svg.snapshot);
-    QCOMPARE(identifiers(formats),
-             (QStringList{ZySVGDocumentTypeName, "com.adobe.pdf", "com.adobe.encapsulated-postscript", "public.tiff"}));
+    QCOMPARE(identifiers(formats), (QStringList{ZySVGDocumentTypeName, "com.adobe.pdf",
+                                                "com.adobe.encapsulated-postscript", "public.tiff"}));
     QCOMPARE(formats.DataObjects[0]->get(), kSvg);
     QCOMPARE(made(formats), (QList<bool>{true, true, true, true}));
   }

@@ -11,14 +11,14 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+#include "base/path_extension.h"
+#include "desktop/memory_save_panel.h"
 #include "document/unimplemented_method.h"
 #include "kit/test_main.h"
-#include "desktop/memory_save_panel.h"
-#include "base/path_extension.h"
-#include "ui/picture/loading_card.h"
-#include "ui/picture/message_bar.h"
 #include "ui/controls/number_field.h"
 #include "ui/panels/save_sheet.h"
+#include "ui/picture/loading_card.h"
+#include "ui/picture/message_bar.h"
 #include "ui/picture/zy_image_view.h"
 #include "window/main_window_save_to.h"
 #include "window/window_fixture.h"
@@ -29,7 +29,8 @@ namespace {
 
 const Error kDied{ErrorKind::Died, QStringLiteral("the picture process ended")};
 const QByteArray kSvg = "<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100'/>";
-const QStringList kEpsRows{"Encapsulated PostScript (EPS)", "PDF document", "TIFF image", "PNG image", "JPEG image", "GIF image"};
+const QStringList kEpsRows{
+    "Encapsulated PostScript (EPS)", "PDF document", "TIFF image", "PNG image", "JPEG image", "GIF image"};
 
 class SaveToFixture : public WindowFixture {
  public:
@@ -61,7 +62,9 @@ QStringList rows(const MainWindowController& c) {
   return all;
 }
 
-void choose(const MainWindowController& c, const QString& row) { c.doSaveToPopUp->setCurrentText(row); }
+void choose(const MainWindowController& c, const QString& row) {
+  c.doSaveToPopUp->setCurrentText(row);
+}
 
 /// Confirms the sheet and waits until the file is written; empty: it never was.
 QVariantList saved(MainWindowController& c, MemorySavePanel& panel, const QUrl& url) {
@@ -94,10 +97,15 @@ class SaveToTest : public QObject {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("EPS") << epsBytes() << "a.eps" << NorvexEPSType << kEpsRows;
-    QTest::newRow("PDF") << emptyPdf({200, 100}) << "a.pdf" << "com.adobe.pdf"
-                         << QStringList{"PDF document", "Encapsulated PostScript (EPS)", "TIFF image", "PNG image", "JPEG image", "GIF image"};
-    QTest::newRow("SVG") << kSvg << "a.svg" << "public.svg-image"
-                         << QStringList{"SVG image", "PDF document", "Encapsulated PostScript (EPS)", "TIFF image", "PNG image", "JPEG image", "GIF image"};
+    QTest::newRow("PDF") << emptyPdf({200, 100}) << "a.pdf"
+                         << "com.adobe.pdf" << QStringList{"PDF document", "Encapsulated PostScript (EPS)",
+                                                           "TIFF image",   "PNG image",
+                                                           "JPEG image",   "GIF image"};
+    QTest::newRow("SVG") << kSvg << "a.svg"
+                         << "public.svg-image"
+                         << QStringList{"SVG image",  "PDF document", "Encapsulated PostScript (EPS)",
+                                        "TIFF image", "PNG image",    "JPEG image",
+                                        "GIF image"};
   }
   void theSheetOffersTheFormatsInTheirOrder() {
     QFETCH(QByteArray, bytes);
@@ -162,12 +170,14 @@ class SaveToTest : public QObject {
   void eachFormatIsWrittenAsWhatItIs() {
     SaveToFixture f;
     MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
-    const QList<std::pair<QString, QByteArray>> all{{"svg", "<svg"}, {"pdf", "%PDF"}, {"eps", "%!PS"}, {"tiff", "II"},
-                                                    {"png", "\x89PNG"}, {"jpeg", "\xFF\xD8"}, {"gif", "GIF89a"}};
+    const QList<std::pair<QString, QByteArray>> all{
+        {"svg", "<svg"},    {"pdf", "%PDF"},      {"eps", "%!PS"},  {"tiff", "II"},
+        {"png", "\x89PNG"}, {"jpeg", "\xFF\xD8"}, {"gif", "GIF89a"}};
     for (int i = 0; i < all.size(); ++i) {
       c.doSaveTo();
       c.doSaveToPopUp->setCurrentIndex(i);
-      QCOMPARE(saved(c, f.panel, f.url("out")), (QVariantList{f.folder.filePath("out." + all[i].first), true}));
+      QCOMPARE(saved(c, f.panel, f.url("out")),
+               (QVariantList{f.folder.filePath("out." + all[i].first), true}));
       QVERIFY2(f.read("out." + all[i].first).startsWith(all[i].second), qPrintable(all[i].first));
     }
   }
@@ -208,7 +218,8 @@ class SaveToTest : public QObject {
     SaveToFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
-    QCOMPARE(saved(c, f.panel, f.url("nowhere/out.eps")), (QVariantList{f.folder.filePath("nowhere/out.eps"), false}));
+    QCOMPARE(saved(c, f.panel, f.url("nowhere/out.eps")),
+             (QVariantList{f.folder.filePath("nowhere/out.eps"), false}));
     QCOMPARE(f.alerts.shown.size(), 1);
     QCOMPARE(f.alerts.shown[0].style, AlertStyle::Warning);
     QVERIFY(!f.alerts.shown[0].messageText.isEmpty());
@@ -272,8 +283,10 @@ class SaveToTest : public QObject {
     choose(c, "TIFF image");
     process->release(PictureCall::Compose);
     QTRY_VERIFY(c.doSaveToPopUp->count() < kEpsRows.size());
-    if (rows(c).contains("TIFF image")) QCOMPARE(c.doSaveToPopUp->currentText(), QString("TIFF image"));
-    else QCOMPARE(c.doSaveToPopUp->currentIndex(), 0);
+    if (rows(c).contains("TIFF image"))
+      QCOMPARE(c.doSaveToPopUp->currentText(), QString("TIFF image"));
+    else
+      QCOMPARE(c.doSaveToPopUp->currentIndex(), 0);
   }
 
   void bytesThatAreMissingInTheEndAreTold() {
@@ -307,7 +320,8 @@ class SaveToTest : public QObject {
     QCOMPARE(pathWithoutExtension("/a/b.c/d"), QString("/a/b.c/d"));
   }
 
-  // ---- the sheet itself ---------------------------------------------------------------------------------------------
+  // ---- the sheet itself
+  // ---------------------------------------------------------------------------------------------
 
   void theSheetShowsItsNameWithAndWithoutExtension() {
     SaveToFixture f;
@@ -341,7 +355,8 @@ class SaveToTest : public QObject {
     QCOMPARE(c.doSaveToAccessoryView->parentWidget(), owner);
   }
 
-  // ---- Save As ------------------------------------------------------------------------------------------------------
+  // ---- Save As
+  // ------------------------------------------------------------------------------------------------------
 
   void everyWritableTypeIsListed() {
     SaveToFixture f;
@@ -355,7 +370,9 @@ class SaveToTest : public QObject {
     QCOMPARE(identifiers(c), (QStringList{NorvexEPSType, NorvexEPSIType, "com.adobe.pdf"} + rasters));
     SaveToFixture g;
     MainWindowController& d = g.show(kSvg, "a.svg", "public.svg-image");
-    QCOMPARE(identifiers(d), (QStringList{NorvexEPSType, NorvexEPSIType, "com.adobe.pdf", "public.svg-image", NorvexSVGZType} + rasters));
+    QCOMPARE(identifiers(d), (QStringList{NorvexEPSType, NorvexEPSIType, "com.adobe.pdf", "public.svg-image",
+                                          NorvexSVGZType} +
+                              rasters));
     d.saveDocumentAs();
     QCOMPARE(g.panel.settings.selectedContentType, 3);
     QCOMPARE(g.panel.settings.nameFieldStringValue, QString("a"));

@@ -35,7 +35,9 @@ struct Shown {
     c.view()->resizeSelection({-160, -70});
     c.view()->moveSelection({50, 30});
   }
-  [[nodiscard]] QAction* find(const char* name) const { return c.window()->findChild<QAction*>(QString::fromLatin1(name)); }
+  [[nodiscard]] QAction* find(const char* name) const {
+    return c.window()->findChild<QAction*>(QString::fromLatin1(name));
+  }
 
   WindowFixture fixture;
   MainWindowController& c;
@@ -78,8 +80,8 @@ class SelectionCommandsTest : public QObject {
     QCOMPARE(shown.c.view()->selectRect(), after);
     // The picture is 200 × 100 points: its corner is 100 and 50 points from the middle.
     QCOMPARE(shown.c.startPoint->text(), QString::asprintf("(%9.2f,%9.2f)", after.x() + 100, after.y() + 50));
-    QCOMPARE(shown.c.endPoint->text(),
-             QString::asprintf("(%9.2f,%9.2f)", after.x() + after.width() + 100, after.y() + after.height() + 50));
+    QCOMPARE(shown.c.endPoint->text(), QString::asprintf("(%9.2f,%9.2f)", after.x() + after.width() + 100,
+                                                         after.y() + after.height() + 50));
   }
 
   void controlAMarksAndEscapeRemoves() {
@@ -186,10 +188,12 @@ class SelectionCommandsTest : public QObject {
 
   void theWordsFollowTheReport() {
     QCOMPARE(selectionDescription({}, {}, {}), QStringLiteral("Nothing is selected."));
-    QCOMPARE(selectionDescription(QStringLiteral("50\t30"), {}, {}), QStringLiteral("The selection starts at 50, 30."));
-    QCOMPARE(selectionDescription(QStringLiteral("    50.00\t    40.00"), QStringLiteral("    90.00\t    60.00"),
-                                  QStringLiteral("    40.00\t    30.00")),
-             QStringLiteral("Selected from 50.00, 40.00 to 90.00, 60.00: 40.00 by 30.00 points."));
+    QCOMPARE(selectionDescription(QStringLiteral("50\t30"), {}, {}),
+             QStringLiteral("The selection starts at 50, 30."));
+    QCOMPARE(
+        selectionDescription(QStringLiteral("    50.00\t    40.00"), QStringLiteral("    90.00\t    60.00"),
+                             QStringLiteral("    40.00\t    30.00")),
+        QStringLiteral("Selected from 50.00, 40.00 to 90.00, 60.00: 40.00 by 30.00 points."));
   }
 };
 

@@ -4,10 +4,10 @@
 #include <QSignalSpy>
 #include <QToolButton>
 
+#include "desktop/save_panel.h"
 #include "kit/test_main.h"
 #include "print/memory_printing.h"
 #include "ui/controls/touch_strip.h"
-#include "desktop/save_panel.h"
 #include "window/touch_bar.h"
 #include "window/window_fixture.h"
 
@@ -16,8 +16,9 @@ using namespace norvex;
 namespace {
 
 const QStringList kIdentifiers{
-    "com.Norvex.mainWindowController.saveas", "com.Norvex.mainWindowController.saveto", "com.Norvex.mainWindowController.reload",
-    "com.Norvex.mainWindowController.copy", "com.Norvex.mainWindowController.print"};
+    "com.Norvex.mainWindowController.saveas", "com.Norvex.mainWindowController.saveto",
+    "com.Norvex.mainWindowController.reload", "com.Norvex.mainWindowController.copy",
+    "com.Norvex.mainWindowController.print"};
 
 /// Keeps what it was asked and answers nothing.
 class ClosedPanel final : public NSSavePanel {
@@ -29,7 +30,9 @@ class ClosedPanel final : public NSSavePanel {
   QStringList titles;
 };
 
-QAction* action(MainWindowController& c, const char* name) { return c.window()->findChild<QAction*>(QString::fromLatin1(name)); }
+QAction* action(MainWindowController& c, const char* name) {
+  return c.window()->findChild<QAction*>(QString::fromLatin1(name));
+}
 
 }  // namespace
 
@@ -40,7 +43,8 @@ class TouchBarTest : public QObject {
     WindowFixture fixture;
     MainWindowController& c = fixture.controller();
     NSTouchBar bar = c.makeTouchBar();
-    QCOMPARE(bar.defaultItemIdentifiers, kIdentifiers + QStringList{"NSTouchBarItemIdentifierOtherItemsProxy"});
+    QCOMPARE(bar.defaultItemIdentifiers,
+             kIdentifiers + QStringList{"NSTouchBarItemIdentifierOtherItemsProxy"});
     QVERIFY(bar.delegate == &c);
     bar.defaultItemIdentifiers.clear();
     QCOMPARE(c.makeTouchBar().defaultItemIdentifiers.size(), qsizetype(6));
@@ -93,7 +97,8 @@ class TouchBarTest : public QObject {
     QCOMPARE(item->identifier, QStringLiteral("com.Norvex.mainWindowController.saveas"));
     QCOMPARE(int(item->action), int(TouchBarAction::SaveDocumentAs));
     bar.defaultItemIdentifiers.prepend("something.else");
-    QCOMPARE(c.touchBar(bar, "something.else")->identifier, QStringLiteral("com.Norvex.mainWindowController.saveas"));
+    QCOMPARE(c.touchBar(bar, "something.else")->identifier,
+             QStringLiteral("com.Norvex.mainWindowController.saveas"));
     QVERIFY(!c.touchBar(bar, "com.Norvex.mainWindowController.saveas"));  // now the sixth
   }
 
@@ -118,7 +123,8 @@ class TouchBarTest : public QObject {
 
   void thePictureStillFitsExactlyBesideTheStrip() {
     WindowFixture fixture;
-    MainWindowController& c = fixture.loaded(epsBytes().replace("10 20 210 120", "0 0 700 500"), "a.eps", NorvexEPSType);
+    MainWindowController& c =
+        fixture.loaded(epsBytes().replace("10 20 210 120", "0 0 700 500"), "a.eps", NorvexEPSType);
     c.window()->show();
     const int before = c.window()->maximumHeight();
     action(c, "touchBarAction")->trigger();

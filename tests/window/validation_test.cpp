@@ -13,11 +13,12 @@ using namespace norvex;
 
 namespace {
 
-/// Commands of the menus and toolbars whose target is not the window controller: the document's, the application's and
-/// those about the window itself. The commands in submenus are about the selection and follow it.
-const QStringList kOthers{"openAction",       "saveAsAction",     "reloadAction",    "closeAction",     "quitAction",
-                          "pageLayoutAction", "printAction",      "deselectAction",  "touchBarAction",  "fullScreenAction",
-                          "shortcutsAction",  "aboutAction"};
+/// Commands of the menus and toolbars whose target is not the window controller: the document's, the
+/// application's and those about the window itself. The commands in submenus are about the selection and
+/// follow it.
+const QStringList kOthers{"openAction",     "saveAsAction",     "reloadAction",    "closeAction",
+                          "quitAction",     "pageLayoutAction", "printAction",     "deselectAction",
+                          "touchBarAction", "fullScreenAction", "shortcutsAction", "aboutAction"};
 
 QList<QAction*> commandsOf(const QMenu& menu) {
   QList<QAction*> all;
@@ -38,7 +39,9 @@ QList<QAction*> controllerCommands(MainWindowController& c) {
   QList<QAction*> all = menuCommands(c);
   for (QToolBar* bar : c.window()->findChildren<QToolBar*>())
     for (QAction* action : bar->actions())
-      if (!action->isSeparator() && bar->widgetForAction(action)->inherits("QToolButton") && !all.contains(action)) all << action;
+      if (!action->isSeparator() && bar->widgetForAction(action)->inherits("QToolButton") &&
+          !all.contains(action))
+        all << action;
   all.removeIf([](const QAction* action) { return kOthers.contains(action->objectName()); });
   return all;
 }
@@ -51,7 +54,9 @@ QStringList not_(bool enabled, MainWindowController& c) {
   return wrong;
 }
 
-bool hasMnemonic(QString text) { return text.remove(QStringLiteral("&&")).contains(u'&'); }
+bool hasMnemonic(QString text) {
+  return text.remove(QStringLiteral("&&")).contains(u'&');
+}
 
 }  // namespace
 
@@ -63,7 +68,8 @@ class ValidationTest : public QObject {
     MainWindowController& c = fixture.loadedEps();
     QVERIFY(c.validateUserInterfaceItem());
     QVERIFY(controllerCommands(c).size() >= 12);
-    for (QAction* item : {c.inspectorToolbarItem, c.copyToolbarItem, c.doPrintingToolbarItem, c.doSaveToToolbarItem})
+    for (QAction* item :
+         {c.inspectorToolbarItem, c.copyToolbarItem, c.doPrintingToolbarItem, c.doSaveToToolbarItem})
       QVERIFY(controllerCommands(c).contains(item));
     QCOMPARE(not_(true, c), QStringList());
   }
@@ -96,7 +102,8 @@ class ValidationTest : public QObject {
   void whatIsNotTheControllersStaysAvailable() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loaded("nothing", "a.eps", NorvexEPSType);
-    for (const char* name : {"reloadAction", "closeAction", "quitAction", "fullScreenAction", "touchBarAction", "shortcutsAction", "aboutAction"}) {
+    for (const char* name : {"reloadAction", "closeAction", "quitAction", "fullScreenAction",
+                             "touchBarAction", "shortcutsAction", "aboutAction"}) {
       const auto* action = c.window()->findChild<QAction*>(QString::fromLatin1(name));
       QVERIFY2(action && action->isEnabled(), name);
     }

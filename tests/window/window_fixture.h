@@ -8,8 +8,8 @@
 
 #include <memory>
 
-#include "document/document.h"
 #include "desktop/alert.h"
+#include "document/document.h"
 #include "picture/process/memory_picture_service.h"
 #include "types/uniform_type.h"
 #include "window/main_window_controller.h"
@@ -28,13 +28,14 @@ class RecordingAlerts final : public AlertPresenter {
 
 /// An EPS file whose box is (10, 20, 200, 100).
 inline QByteArray epsBytes(const QByteArray& comments = {}) {
-  return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 10 20 210 120\n%%Title: A picture\n%%Creator: By hand\n" + comments +
-         "%%EndComments\n0 setgray 10 20 200 100 rectfill\n%%EOF\n";
+  return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 10 20 210 120\n%%Title: A picture\n%%Creator: By hand\n" +
+         comments + "%%EndComments\n0 setgray 10 20 200 100 rectfill\n%%EOF\n";
 }
 
 class WindowFixture {
  public:
-  WindowFixture() : document(service, [this] {
+  WindowFixture()
+      : document(service, [this] {
           auto made = std::make_unique<MainWindowController>();
           made->setAlertPresenter(&alerts);
           return made;
@@ -52,7 +53,8 @@ class WindowFixture {
   }
   void write(const QByteArray& bytes, const QString& name) {
     QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write the test's file");
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+      qFatal("cannot write the test's file");
   }
   MainWindowController& controller() {
     document.makeWindowControllers();

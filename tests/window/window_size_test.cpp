@@ -11,7 +11,8 @@ using namespace norvex;
 namespace {
 
 QByteArray epsOfSize(int width, int height) {
-  return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 " + QByteArray::number(width) + ' ' + QByteArray::number(height) + "\n%%EndComments\n";
+  return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 " + QByteArray::number(width) + ' ' +
+         QByteArray::number(height) + "\n%%EndComments\n";
 }
 
 }  // namespace

@@ -34,7 +34,8 @@ class EngineModulesTest : public QObject {
 
   void everyModuleOffersWhatTheTableSays_data() {
     QTest::addColumn<int>("row");
-    for (int row = 0; row < int(engineParts.size()); ++row) QTest::newRow(engineParts[size_t(row)].name) << row;
+    for (int row = 0; row < int(engineParts.size()); ++row)
+      QTest::newRow(engineParts[size_t(row)].name) << row;
   }
   void everyModuleOffersWhatTheTableSays() {
     QFETCH(int, row);

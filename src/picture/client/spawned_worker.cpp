@@ -42,7 +42,8 @@ class SpawnActions {
     ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     ::posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-    if (messages == Messages::Nowhere) ::posix_spawn_file_actions_adddup2(&actions_, STDOUT_FILENO, STDERR_FILENO);
+    if (messages == Messages::Nowhere)
+      ::posix_spawn_file_actions_adddup2(&actions_, STDOUT_FILENO, STDERR_FILENO);
 #endif
     ::posix_spawn_file_actions_adddup2(&actions_, connection, kConnection);
     ::posix_spawn_file_actions_addclosefrom_np(&actions_, kConnection + 1);
@@ -70,7 +71,8 @@ class SpawnActions {
     for (std::string& argument : arguments) pointers.push_back(argument.data());
     pointers.push_back(nullptr);
     pid_t pid = 0;
-    return ::posix_spawn(&pid, program.c_str(), &actions_, &attributes_, pointers.data(), environ) == 0 ? pid : 0;
+    return ::posix_spawn(&pid, program.c_str(), &actions_, &attributes_, pointers.data(), environ) == 0 ? pid
+                                                                                                        : 0;
   }
 
  private:

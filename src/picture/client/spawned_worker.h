@@ -19,12 +19,13 @@ struct SpawnedWorker {
   std::string scratchRoot;  ///< a folder of its own, for us to remove after its end
 };
 
-/// A running norvex-picture-…. It ends when its line is closed; it is our child and must be waited for. pid 0:
-/// there is none.
+/// A running norvex-picture-…. It ends when its line is closed; it is our child and must be waited for. pid
+/// 0: there is none.
 struct SpawnedPicture {
   pid_t pid = 0;
   FileDescriptor pidfd;
-  FileDescriptor line;     ///< to the process, which serves one document, with PictureLimits as they are by default
+  FileDescriptor
+      line;  ///< to the process, which serves one document, with PictureLimits as they are by default
   PictureNeeds needs = 0;  ///< what it can do
 };
 

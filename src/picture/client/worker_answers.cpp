@@ -37,7 +37,8 @@ bool isTightlyPacked(const PreviewReply& preview) {
 Result<PictureFacts> factsFrom(WorkerAnswer answer) {
   Result<PictureFacts> facts = bodyOf<PictureFacts>(answer, false);
   if (!facts) return facts;
-  for (QStringList* texts : {&facts->warnings, &facts->fonts, &facts->colorSpaces}) *texts = plainSentences(*texts);
+  for (QStringList* texts : {&facts->warnings, &facts->fonts, &facts->colorSpaces})
+    *texts = plainSentences(*texts);
   return facts;
 }
 

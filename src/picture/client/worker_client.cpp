@@ -101,7 +101,8 @@ Result<PictureFacts> WorkerClient::facts(const CancelToken& cancel) {
 }
 
 /// REQUIRES the caller's turn.
-Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory) {
+Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& cancel,
+                                       const FileDescriptor& memory) {
   if (auto outcome = known(); outcome && !*outcome) return outcome->error();
   if (cancel.cancelled()) return cancelled();
   if (connection_ && opening_ == 0 && !connection_->isUsable()) connection_.reset();
@@ -159,7 +160,8 @@ Result<PictureBytes> WorkerClient::svg(const SvgRequest& request, const CancelTo
   return askForBytes(request, cancel);
 }
 
-Result<PictureBytes> WorkerClient::setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+Result<PictureBytes> WorkerClient::setPdfAttributes(const QByteArray& pdf,
+                                                    const AttributesRequest& attributes,
                                                     const CancelToken& cancel) {
   const Result<FileDescriptor> memory = SealedMemory::seal(pdf);
   return memory ? askForBytes(attributes, cancel, *memory) : Result<PictureBytes>(memory.error());

@@ -38,7 +38,8 @@ class WorkerClient final : public PictureProcess {
   Result<void> beginToOpen();
   Result<PictureFacts> finishOpening(const CancelToken& cancel);
   Result<WorkerAnswer> ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory = {});
-  Result<PictureBytes> askForBytes(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory = {});
+  Result<PictureBytes> askForBytes(RequestBody body, const CancelToken& cancel,
+                                   const FileDescriptor& memory = {});
   template <typename T>
   Result<T> distrusted(Result<T> result);
   [[nodiscard]] std::optional<Result<PictureFacts>> known() const;

@@ -26,12 +26,14 @@ Error cannotBeTrue() {
   return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
 }
 
-/// Of a child that has cut the line: whether it was not a signal that ended it, such as a document can provoke.
+/// Of a child that has cut the line: whether it was not a signal that ended it, such as a document can
+/// provoke.
 bool exitsByItself(const FileDescriptor& pidfd) {
   pollfd poll = {pidfd.get(), POLLIN, 0};
   siginfo_t info = {};
   return ::poll(&poll, 1, int(kFarewell)) > 0 &&
-         ::waitid(P_PIDFD, id_t(pidfd.get()), &info, WEXITED | WNOWAIT | WNOHANG) == 0 && info.si_code == CLD_EXITED;
+         ::waitid(P_PIDFD, id_t(pidfd.get()), &info, WEXITED | WNOWAIT | WNOHANG) == 0 &&
+         info.si_code == CLD_EXITED;
 }
 
 }  // namespace
@@ -103,7 +105,8 @@ bool WorkerConnection::isUsable() const {
 }
 
 Error WorkerConnection::failed(Error error) {
-  if (error.kind == ErrorKind::Died && isOwnChild() && !hasAnswered_) hasNotComeUp_ = exitsByItself(process_.pidfd);
+  if (error.kind == ErrorKind::Died && isOwnChild() && !hasAnswered_)
+    hasNotComeUp_ = exitsByItself(process_.pidfd);
   end();
   return error;
 }

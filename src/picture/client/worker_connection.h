@@ -7,8 +7,8 @@
 #include <optional>
 
 #include "base/cancel_token.h"
-#include "protocol/message_channel.h"
 #include "picture/client/worker_starter.h"
+#include "protocol/message_channel.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex {

@@ -8,10 +8,10 @@
 #include <cerrno>
 #include <csignal>
 
+#include "base/yielding_thread.h"
 #include "picture/client/worker_answers.h"
 #include "picture/client/worker_client.h"
 #include "protocol/sealed_memory.h"
-#include "base/yielding_thread.h"
 
 namespace norvex {
 namespace {

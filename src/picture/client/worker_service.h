@@ -1,4 +1,5 @@
-// WorkerService: the PictureService whose documents live in processes of norvex-worker (or in a norvex-picture-…).
+// WorkerService: the PictureService whose documents live in processes of norvex-worker (or in a
+// norvex-picture-…).
 //
 //   WorkerService service({}, std::move(running));              // what main() started before anything else
 //   auto process = service.open(bytes, PictureKind::Svg);       // returns at once
@@ -15,15 +16,16 @@
 
 namespace norvex {
 
-/// See PictureService. Processes that were opened may outlive the service, but for the one it was given; the warm
-/// program ends with the last of them.
+/// See PictureService. Processes that were opened may outlive the service, but for the one it was given; the
+/// warm program ends with the last of them.
 class WorkerService final : public PictureService {
  public:
   /// `program`: another norvex-worker than the one beside the running program (tests). See WorkerStarter.
-  /// `running`: the warm program when it was started already. `picture`: a process for the first document, if it
-  /// will do for that; it ends with this service at the latest. The program is then started when it does not do, or
-  /// when there are more documents.
-  explicit WorkerService(const QString& program = {}, SpawnedWorker running = {}, SpawnedPicture picture = {});
+  /// `running`: the warm program when it was started already. `picture`: a process for the first document, if
+  /// it will do for that; it ends with this service at the latest. The program is then started when it does
+  /// not do, or when there are more documents.
+  explicit WorkerService(const QString& program = {}, SpawnedWorker running = {},
+                         SpawnedPicture picture = {});
   ~WorkerService() override;
 
   /// Starts the warm program, which links and initialises itself while the caller goes on. Needs no

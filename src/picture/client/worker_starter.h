@@ -9,8 +9,8 @@
 #include <set>
 #include <string>
 
-#include "protocol/message_channel.h"
 #include "picture/client/spawned_worker.h"
+#include "protocol/message_channel.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex {
@@ -51,8 +51,8 @@ class WorkerStarter {
   /// Instead of take(): the process shall be killed as soon as it is known.
   void abandon(const Ticket& ticket);
 
-  /// Lets the program and what it forks from now on run at a lower priority than us, however often it is started
-  /// again. `nice`: 0 to 19, as setpriority(2) has it.
+  /// Lets the program and what it forks from now on run at a lower priority than us, however often it is
+  /// started again. `nice`: 0 to 19, as setpriority(2) has it.
   void setNice(int nice);
 
   /// Process number of the warm program, 0 when it does not run. For tests and for --sandbox-status.

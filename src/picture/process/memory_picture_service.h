@@ -35,7 +35,8 @@ struct MemoryPicture {
   std::function<QByteArray(const ComposeRequest&)>
       compose;                                       ///< Default: an empty page of the rectangle's size
   std::function<QByteArray(const SvgRequest&)> svg;  ///< Default: the bytes that were opened
-  std::function<QByteArray(const QByteArray& pdf, const AttributesRequest&)> setAttributes;  ///< Default: the PDF
+  std::function<QByteArray(const QByteArray& pdf, const AttributesRequest&)>
+      setAttributes;  ///< Default: the PDF
 };
 
 /// A picture whose colour tells where it is: red grows with x from 0 to 255 over the page, green with y

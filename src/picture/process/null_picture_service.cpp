@@ -13,7 +13,8 @@ class NullPictureProcess final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest&, const CancelToken&) override { return error_; }
   Result<PictureBytes> compose(const ComposeRequest&, const CancelToken&) override { return error_; }
   Result<PictureBytes> svg(const SvgRequest&, const CancelToken&) override { return error_; }
-  Result<PictureBytes> setPdfAttributes(const QByteArray&, const AttributesRequest&, const CancelToken&) override {
+  Result<PictureBytes> setPdfAttributes(const QByteArray&, const AttributesRequest&,
+                                        const CancelToken&) override {
     return error_;
   }
   void retire() override {}

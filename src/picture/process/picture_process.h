@@ -1,5 +1,5 @@
-// The seam before the picture process: so that tests run without a child program, and so that nothing above it knows
-// how documents are parsed or that it happens elsewhere.
+// The seam before the picture process: so that tests run without a child program, and so that nothing above
+// it knows how documents are parsed or that it happens elsewhere.
 #pragma once
 
 #include <QByteArray>
@@ -9,10 +9,10 @@
 
 #include <memory>
 
-#include "protocol/bitmap_image_rep.h"
 #include "base/cancel_token.h"
-#include "protocol/picture_needs.h"
 #include "base/result.h"
+#include "protocol/bitmap_image_rep.h"
+#include "protocol/picture_needs.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex {
@@ -23,10 +23,10 @@ struct PictureBytes {
   BytesReply report;
 };
 
-/// One document in a process of its own. Every call blocks until the answer, the time limit, the cancel or the death
-/// of the process; each of them is an ordinary Result. After a death or a cancel that cost the process its life the
-/// next call starts a fresh process and opens the document again.
-/// Thread-safe: calls from several threads are served one after the other.
+/// One document in a process of its own. Every call blocks until the answer, the time limit, the cancel or
+/// the death of the process; each of them is an ordinary Result. After a death or a cancel that cost the
+/// process its life the next call starts a fresh process and opens the document again. Thread-safe: calls
+/// from several threads are served one after the other.
 class PictureProcess {
  public:
   virtual ~PictureProcess() = default;
@@ -38,14 +38,15 @@ class PictureProcess {
   virtual Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) = 0;
-  /// `pdf`, which was made of this document, with these entries of its document information set; the others stay.
+  /// `pdf`, which was made of this document, with these entries of its document information set; the others
+  /// stay.
   virtual Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
                                                 const CancelToken& cancel = {}) = 0;
-  /// Tells that nothing more will be asked, so that the process can go while its results are worked on. A call all the
-  /// same starts another. Waits for a call under way.
+  /// Tells that nothing more will be asked, so that the process can go while its results are worked on. A
+  /// call all the same starts another. Waits for a call under way.
   virtual void retire() = 0;
-  /// What render() has found out so far about how the document is drawn, one plain sentence each: fonts that others
-  /// stand in for.
+  /// What render() has found out so far about how the document is drawn, one plain sentence each: fonts that
+  /// others stand in for.
   [[nodiscard]] virtual QStringList drawingRemarks() const { return {}; }
 };
 
@@ -54,8 +55,8 @@ class PictureService {
  public:
   virtual ~PictureService() = default;
 
-  /// Tells that every picture from now on is opened for this alone: its process need not be able to do more, and
-  /// starts sooner for it.
+  /// Tells that every picture from now on is opened for this alone: its process need not be able to do more,
+  /// and starts sooner for it.
   virtual void openOnlyFor(PictureUse use) { Q_UNUSED(use) }
   /// Begins to open `bytes` as `kind` and returns at once; a failure shows in the first call on the result.
   /// The caller owns the result; the bytes are shared until it is destroyed.
@@ -63,10 +64,13 @@ class PictureService {
                                                const PictureLimits& limits = {}) = 0;
   /// A TIFF file's first image as samples, uncompressed, rows without padding. Blocks.
   virtual Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) = 0;
-  /// The sheets of a print job as one PDF. `pdf` is the picture: one page; empty: the sheets hold no picture. Blocks.
+  /// The sheets of a print job as one PDF. `pdf` is the picture: one page; empty: the sheets hold no picture.
+  /// Blocks.
   virtual Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
                                           const CancelToken& cancel = {}) {
-    Q_UNUSED(pdf) Q_UNUSED(request) Q_UNUSED(cancel)
+    Q_UNUSED(pdf)
+    Q_UNUSED(request)
+    Q_UNUSED(cancel)
     return Error{ErrorKind::Unsupported, QStringLiteral("pages cannot be composed here")};
   }
 };

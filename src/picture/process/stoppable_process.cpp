@@ -6,7 +6,9 @@
 namespace norvex {
 namespace {
 
-Error stoppedError() { return {ErrorKind::TimedOut, QStringLiteral("the drawing was stopped")}; }
+Error stoppedError() {
+  return {ErrorKind::TimedOut, QStringLiteral("the drawing was stopped")};
+}
 
 }  // namespace
 
@@ -26,12 +28,14 @@ void StoppableProcess::resume() {
 
 bool StoppableProcess::isStopping() {
   const std::lock_guard lock(mutex_);
-  return std::any_of(active_.cbegin(), active_.cend(), [](const CancelToken& token) { return token.cancelled(); });
+  return std::any_of(active_.cbegin(), active_.cend(),
+                     [](const CancelToken& token) { return token.cancelled(); });
 }
 
 bool StoppableProcess::meansStopped(const Error& error) {
   const Error stopped = stoppedError();
-  return error.kind == ErrorKind::Cancelled || (error.kind == stopped.kind && error.message == stopped.message);
+  return error.kind == ErrorKind::Cancelled ||
+         (error.kind == stopped.kind && error.message == stopped.message);
 }
 
 Result<PictureFacts> StoppableProcess::facts(const CancelToken& cancel) {
@@ -66,7 +70,8 @@ Result<PictureBytes> StoppableProcess::svg(const SvgRequest& request, const Canc
   return process_->svg(request, cancel);
 }
 
-Result<PictureBytes> StoppableProcess::setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+Result<PictureBytes> StoppableProcess::setPdfAttributes(const QByteArray& pdf,
+                                                        const AttributesRequest& attributes,
                                                         const CancelToken& cancel) {
   return process_->setPdfAttributes(pdf, attributes, cancel);
 }

@@ -11,8 +11,8 @@
 
 namespace norvex {
 
-/// Forwards every call. stop() ends the renderings under way and makes later ones fail at once, until resume().
-/// Reading the facts ends when the loading's own token is cancelled. Thread-safe.
+/// Forwards every call. stop() ends the renderings under way and makes later ones fail at once, until
+/// resume(). Reading the facts ends when the loading's own token is cancelled. Thread-safe.
 class StoppableProcess final : public PictureProcess {
  public:
   StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading);
@@ -36,7 +36,7 @@ class StoppableProcess final : public PictureProcess {
  private:
   const std::shared_ptr<PictureProcess> process_;
   const CancelToken loading_;
-  std::mutex mutex_;           ///< of everything below
+  std::mutex mutex_;                    ///< of everything below
   QHash<quint64, CancelToken> active_;  ///< of the renderings under way
   quint64 lastId_ = 0;
   bool stopped_ = false;
@@ -45,7 +45,8 @@ class StoppableProcess final : public PictureProcess {
 /// Opens documents in stoppable processes. `service` must outlive it; thread-safe.
 class StoppableService final : public PictureService {
  public:
-  StoppableService(PictureService& service, CancelToken loading) : service_(service), loading_(std::move(loading)) {}
+  StoppableService(PictureService& service, CancelToken loading)
+      : service_(service), loading_(std::move(loading)) {}
 
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;

@@ -37,9 +37,9 @@ class RenderedFrame {
   };
   QTransform transform_;
   QSizeF size_;
-  QRegion open_;     ///< where something behind may be painted
-  /// Where something must be. What is thinner than two pixels at the picture's own edge does not count: it would
-  /// cost the drawing of a whole layer.
+  QRegion open_;  ///< where something behind may be painted
+  /// Where something must be. What is thinner than two pixels at the picture's own edge does not count: it
+  /// would cost the drawing of a whole layer.
   QRegion missing_;
   QList<Part> parts_;
   int exact_ = 0;

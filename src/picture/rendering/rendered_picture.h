@@ -12,9 +12,9 @@
 #include <memory>
 #include <optional>
 
+#include "picture/process/picture_process.h"
 #include "picture/rendering/render_queue.h"
 #include "picture/rendering/rendered_layer.h"
-#include "picture/process/picture_process.h"
 
 class QPainter;
 

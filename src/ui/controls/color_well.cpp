@@ -3,8 +3,8 @@
 #include <QColorDialog>
 #include <QDragEnterEvent>
 #include <QMimeData>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 
 #include "ui/style/checkerboard.h"
 
@@ -64,6 +64,8 @@ void ColorWell::dragEnterEvent(QDragEnterEvent* event) {
   if (isEnabled() && event->mimeData()->hasColor()) event->acceptProposedAction();
 }
 
-void ColorWell::dropEvent(QDropEvent* event) { choose(event->mimeData()->colorData().value<QColor>()); }
+void ColorWell::dropEvent(QDropEvent* event) {
+  choose(event->mimeData()->colorData().value<QColor>());
+}
 
 }  // namespace norvex

@@ -9,8 +9,8 @@ class QColorDialog;
 
 namespace norvex {
 
-/// Click, Return or Space opens the colour dialog, which stays open beside the work and is applied as it changes.
-/// A colour can be dropped on it. Main thread.
+/// Click, Return or Space opens the colour dialog, which stays open beside the work and is applied as it
+/// changes. A colour can be dropped on it. Main thread.
 class ColorWell final : public QAbstractButton {
   Q_OBJECT
  public:

@@ -25,8 +25,10 @@ class ColorWellAccessible final : public QAccessibleWidget {
     return names;
   }
   void doAction(const QString& name) override {
-    if (name == pressAction()) well()->click();
-    else QAccessibleWidget::doAction(name);
+    if (name == pressAction())
+      well()->click();
+    else
+      QAccessibleWidget::doAction(name);
   }
 
  private:
@@ -49,7 +51,8 @@ constexpr std::array<RoleOf, 7> kRoles{{{"norvex::NorvexViewWidget", QAccessible
 QAccessibleInterface* make(const QString& className, QObject* object) {
   auto* widget = qobject_cast<QWidget*>(object);
   if (!widget) return nullptr;
-  if (auto* well = qobject_cast<ColorWell*>(widget)) return new ColorWellAccessible(well);  // Qt takes ownership
+  if (auto* well = qobject_cast<ColorWell*>(widget))
+    return new ColorWellAccessible(well);  // Qt takes ownership
   for (const RoleOf& each : kRoles)
     if (className == QLatin1String(each.className)) return new QAccessibleWidget(widget, each.role);
   return nullptr;

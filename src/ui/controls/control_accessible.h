@@ -1,10 +1,11 @@
-// What assistive technology learns about our own controls: what they are, what they show, what can be done with them.
+// What assistive technology learns about our own controls: what they are, what they show, what can be done
+// with them.
 #pragma once
 
 namespace norvex {
 
-/// Registers our controls with Qt; harmless when repeated. To be called before the first window is made. Pictures are
-/// graphics, colour wells are buttons with their colour as value, groups of cells are groups.
+/// Registers our controls with Qt; harmless when repeated. To be called before the first window is made.
+/// Pictures are graphics, colour wells are buttons with their colour as value, groups of cells are groups.
 void installControlAccessibility();
 
 }  // namespace norvex

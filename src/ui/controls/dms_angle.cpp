@@ -11,10 +11,12 @@ namespace {
 
 /// A millionth of a second: fine enough for every angle, coarse enough to absorb what binary fractions add.
 constexpr double kTicksPerSecond = 1e6;
-constexpr double kLargest = 1e6;  // degrees; beyond it seconds no longer fit into a double with ticks to spare
+constexpr double kLargest =
+    1e6;  // degrees; beyond it seconds no longer fit into a double with ticks to spare
 
 double magnitudeToDegrees(double packed) {
-  const auto ticks = static_cast<long long>(std::llround(std::fmod(packed, kLargest) * 1e4 * kTicksPerSecond));
+  const auto ticks =
+      static_cast<long long>(std::llround(std::fmod(packed, kLargest) * 1e4 * kTicksPerSecond));
   const auto perMinute = static_cast<long long>(100 * kTicksPerSecond);
   const double seconds = static_cast<double>(ticks % perMinute) / kTicksPerSecond;
   const double minutes = static_cast<double>(ticks / perMinute % 100);
@@ -37,15 +39,20 @@ double fromDegrees(double degrees) {
   return seconds == 0 ? 0.0 : std::copysign(packed, degrees);
 }
 
-double toRadians(double packed) { return toDegrees(packed) * std::numbers::pi / 180.0; }
+double toRadians(double packed) {
+  return toDegrees(packed) * std::numbers::pi / 180.0;
+}
 
-double fromRadians(double radians) { return fromDegrees(radians * 180.0 / std::numbers::pi); }
+double fromRadians(double radians) {
+  return fromDegrees(radians * 180.0 / std::numbers::pi);
+}
 
 QString text(double packed) {
   const double exact = fromDegrees(toDegrees(packed));
   const long long digits = std::llround(std::abs(exact) * 10000.0);
   const long long degrees = digits / 10000, minutes = digits / 100 % 100, seconds = digits % 100;
-  QString result = (exact < 0 ? QStringLiteral("\u2212") : QString()) + QString::number(degrees) + QChar(0x00B0);
+  QString result =
+      (exact < 0 ? QStringLiteral("\u2212") : QString()) + QString::number(degrees) + QChar(0x00B0);
   if (minutes != 0 || seconds != 0) result += QStringLiteral(" %1\u2032").arg(minutes, 2, 10, QChar('0'));
   if (seconds != 0) result += QStringLiteral(" %1\u2033").arg(seconds, 2, 10, QChar('0'));
   return result;

@@ -7,9 +7,9 @@
 
 namespace norvex {
 
-/// The packed notation: the whole part counts degrees, the first two decimals minutes, the next two seconds, anything
-/// after them parts of a second. 12.3045 is 12° 30′ 45″; the sign belongs to all of it. Minutes and seconds of 60 and
-/// more carry over (12.75 is 12° 75′, which is 13° 15′).
+/// The packed notation: the whole part counts degrees, the first two decimals minutes, the next two seconds,
+/// anything after them parts of a second. 12.3045 is 12° 30′ 45″; the sign belongs to all of it. Minutes and
+/// seconds of 60 and more carry over (12.75 is 12° 75′, which is 13° 15′).
 namespace dms {
 
 /// Packed notation → decimal degrees. Not a number or infinite: 0.

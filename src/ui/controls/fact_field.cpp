@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-#include "ui/style/quiet_text.h"
 #include "ui/controls/value_copying.h"
+#include "ui/style/quiet_text.h"
 
 namespace norvex {
 
@@ -25,13 +25,16 @@ void FactField::paintEvent(QPaintEvent* event) {
   if (!text().isEmpty() && (fits || hasFocus())) return QLineEdit::paintEvent(event);
   QPainter painter(this);
   painter.setPen(text().isEmpty() ? quietTextColor(palette()) : palette().color(QPalette::Text));
-  const QString shown = text().isEmpty() ? QStringLiteral("\u2013") : fontMetrics().elidedText(text(), Qt::ElideRight, room);
-  painter.drawText(rect().adjusted(2, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+  const QString shown =
+      text().isEmpty() ? QStringLiteral("\u2013") : fontMetrics().elidedText(text(), Qt::ElideRight, room);
+  painter.drawText(rect().adjusted(2, 0, -2, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                   shown);
 }
 
 int FactField::roomOfButtons() const {
   const QList<QAction*> all = actions();
-  const bool shown = std::any_of(all.cbegin(), all.cend(), [](const QAction* action) { return action->isVisible(); });
+  const bool shown =
+      std::any_of(all.cbegin(), all.cend(), [](const QAction* action) { return action->isVisible(); });
   return shown ? height() : 0;  // the buttons in a line edit are as wide as it is high
 }
 

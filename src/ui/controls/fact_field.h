@@ -5,8 +5,8 @@
 
 namespace norvex {
 
-/// Not editable and without a frame. Its value can be copied without selecting it. A text that is too long ends with an ellipsis until the field has the focus; a
-/// dash stands for no text. Main thread.
+/// Not editable and without a frame. Its value can be copied without selecting it. A text that is too long
+/// ends with an ellipsis until the field has the focus; a dash stands for no text. Main thread.
 class FactField final : public QLineEdit {
   Q_OBJECT
  public:

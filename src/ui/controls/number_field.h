@@ -7,8 +7,8 @@
 
 namespace norvex {
 
-/// Shows its value by a NumberFormat and reads what is typed: a plain number or an angle with signs (12° 30′ 45″).
-/// Text that is no number is taken back when editing ends. Main thread.
+/// Shows its value by a NumberFormat and reads what is typed: a plain number or an angle with signs (12° 30′
+/// 45″). Text that is no number is taken back when editing ends. Main thread.
 class NumberField final : public QLineEdit {
   Q_OBJECT
  public:
@@ -22,7 +22,8 @@ class NumberField final : public QLineEdit {
   void clearValue();
 
  signals:
-  /// A person typed another number and ended the edit (Return, Tab, focus elsewhere). Not sent by the setters.
+  /// A person typed another number and ended the edit (Return, Tab, focus elsewhere). Not sent by the
+  /// setters.
   void valueEdited(double value);
 
  private:

@@ -25,8 +25,10 @@ NumberFormat::Part NumberFormat::parse(const QString& pattern) {
   for (const QChar c : pattern) {
     if (c == QChar('#') || c == QChar('0')) {
       digits = true;
-      if (point) ++part.decimals;
-      else if (c == QChar('0')) ++part.minimumDigits;
+      if (point)
+        ++part.decimals;
+      else if (c == QChar('0'))
+        ++part.minimumDigits;
     } else if (c == QChar(',') && !point) {
       part.grouped = digits = true;
     } else if (c == QChar('.') && !point) {
@@ -60,8 +62,10 @@ std::optional<double> NumberFormat::number(const QString& text) {
   QString plain;
   for (const QChar c : text)
     if (!c.isSpace()) plain += c == QChar(0x2212) ? QChar('-') : c;
-  if (plain.contains(QChar('.'))) plain.remove(QChar(','));
-  else plain.replace(QChar(','), QChar('.'));
+  if (plain.contains(QChar('.')))
+    plain.remove(QChar(','));
+  else
+    plain.replace(QChar(','), QChar('.'));
   bool ok = false;
   const double value = plain.toDouble(&ok);
   if (!ok || !std::isfinite(value)) return std::nullopt;

@@ -3,8 +3,8 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 
 #include <cmath>
 
@@ -15,8 +15,9 @@ namespace norvex {
 
 namespace {
 
-constexpr const char* kNames[2][2] = {{QT_TRANSLATE_NOOP("Localizable", "X"), QT_TRANSLATE_NOOP("Localizable", "Width")},
-                                      {QT_TRANSLATE_NOOP("Localizable", "Y"), QT_TRANSLATE_NOOP("Localizable", "Height")}};
+constexpr const char* kNames[2][2] = {
+    {QT_TRANSLATE_NOOP("Localizable", "X"), QT_TRANSLATE_NOOP("Localizable", "Width")},
+    {QT_TRANSLATE_NOOP("Localizable", "Y"), QT_TRANSLATE_NOOP("Localizable", "Height")}};
 constexpr const char* kTitles[2][2] = {{"x", "w"}, {"y", "h"}};
 
 }  // namespace
@@ -33,7 +34,8 @@ NumberMatrix::NumberMatrix(QWidget* parent) : QWidget(parent) {
       auto* cell = new QLineEdit(this);
       cell->setReadOnly(true);
       cell->setFrame(false);
-      cell->setStyleSheet(QStringLiteral("QLineEdit { background: transparent; color: black; border: none; }"));
+      cell->setStyleSheet(
+          QStringLiteral("QLineEdit { background: transparent; color: black; border: none; }"));
       cell->setAccessibleName(localizedString(kNames[row][column]));
       cell->setMinimumWidth(48);
       makeValueCopyable(*cell);

@@ -11,8 +11,9 @@ class QLineEdit;
 
 namespace norvex {
 
-/// Row 0 holds x and width, row 1 y and height. Cells are for reading; their text can be selected and copied. The
-/// background colour lies behind the cells and is drawn as it is in light and dark schemes, with black text on it.
+/// Row 0 holds x and width, row 1 y and height. Cells are for reading; their text can be selected and copied.
+/// The background colour lies behind the cells and is drawn as it is in light and dark schemes, with black
+/// text on it.
 class NumberMatrix final : public QWidget {
   Q_OBJECT
  public:

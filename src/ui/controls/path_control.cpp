@@ -7,8 +7,8 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 
 #include "base/localized_string.h"
 #include "ui/style/quiet_text.h"
@@ -32,9 +32,13 @@ void PathControl::setUrl(const QUrl& url) {
   update();
 }
 
-QSize PathControl::sizeHint() const { return {240, fontMetrics().height() + 6}; }
+QSize PathControl::sizeHint() const {
+  return {240, fontMetrics().height() + 6};
+}
 
-QSize PathControl::minimumSizeHint() const { return {60, fontMetrics().height() + 6}; }
+QSize PathControl::minimumSizeHint() const {
+  return {60, fontMetrics().height() + 6};
+}
 
 QStringList PathControl::partsFitting(int width) const {
   const QFontMetrics metrics = fontMetrics();
@@ -59,7 +63,8 @@ void PathControl::paintEvent(QPaintEvent*) {
   if (parts.isEmpty()) return;
   QPainter painter(this);
   const QString name = parts.last();
-  const QString folders = parts.size() > 1 ? parts.mid(0, parts.size() - 1).join(kSeparator) + kSeparator : QString();
+  const QString folders =
+      parts.size() > 1 ? parts.mid(0, parts.size() - 1).join(kSeparator) + kSeparator : QString();
   painter.setPen(quietTextColor(palette()));
   painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, folders);
   const int offset = fontMetrics().horizontalAdvance(folders);
@@ -78,10 +83,13 @@ void PathControl::contextMenuEvent(QContextMenuEvent* event) {
   menu.exec(event->globalPos());
 }
 
-void PathControl::mouseDoubleClickEvent(QMouseEvent*) { openFolder(); }
+void PathControl::mouseDoubleClickEvent(QMouseEvent*) {
+  openFolder();
+}
 
 void PathControl::openFolder() {
-  if (url_.isLocalFile()) QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(url_.toLocalFile()).path()));
+  if (url_.isLocalFile())
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(url_.toLocalFile()).path()));
 }
 
 }  // namespace norvex

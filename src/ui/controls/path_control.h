@@ -6,7 +6,8 @@
 
 namespace norvex {
 
-/// Shows the file's name after the folders above it, as many as fit; the menu copies the path or opens the folder.
+/// Shows the file's name after the folders above it, as many as fit; the menu copies the path or opens the
+/// folder.
 class PathControl final : public QWidget {
   Q_OBJECT
  public:
@@ -23,7 +24,8 @@ class PathControl final : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
-  /// Folder names above the file that fit into `width` together with it, the nearest last, then the file's name.
+  /// Folder names above the file that fit into `width` together with it, the nearest last, then the file's
+  /// name.
   [[nodiscard]] QStringList partsFitting(int width) const;
   void openFolder();
 

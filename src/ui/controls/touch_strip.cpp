@@ -15,7 +15,8 @@ constexpr int kIconSide = 22;
 
 QString buttonStyle() {
   return QStringLiteral(
-      "QToolButton { border: 1px solid palette(mid); border-radius: 9px; padding: 4px 6px; background: palette(button); }"
+      "QToolButton { border: 1px solid palette(mid); border-radius: 9px; padding: 4px 6px; background: "
+      "palette(button); }"
       "QToolButton:hover:enabled { background: palette(midlight); }"
       "QToolButton:pressed { background: palette(mid); }"
       "QToolButton:focus { border: 2px solid palette(highlight); padding: 3px 5px; }"

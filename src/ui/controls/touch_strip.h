@@ -13,8 +13,8 @@ class QToolButton;
 
 namespace norvex {
 
-/// All buttons are equally wide and at least 48 logical pixels high, more than what a fingertip covers. With a keyboard
-/// they are reached with Tab. Main thread; owns its buttons.
+/// All buttons are equally wide and at least 48 logical pixels high, more than what a fingertip covers. With
+/// a keyboard they are reached with Tab. Main thread; owns its buttons.
 class TouchStrip final : public QWidget {
   Q_OBJECT
  public:
@@ -23,7 +23,8 @@ class TouchStrip final : public QWidget {
   explicit TouchStrip(QWidget* parent = nullptr);
 
   /// Appends a button; `pressed` is called when it is tapped or clicked.
-  void addButton(const QString& identifier, const QString& title, const QIcon& icon, std::function<void()> pressed);
+  void addButton(const QString& identifier, const QString& title, const QIcon& icon,
+                 std::function<void()> pressed);
   /// Null for an identifier without a button.
   [[nodiscard]] QToolButton* button(const QString& identifier) const { return buttons_.value(identifier); }
   void setButtonEnabled(const QString& identifier, bool enabled);

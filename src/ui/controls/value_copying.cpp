@@ -18,7 +18,8 @@ namespace {
 class ValueCopying final : public QObject {
  public:
   explicit ValueCopying(QLineEdit& field)
-      : QObject(&field), field_(field),
+      : QObject(&field),
+        field_(field),
         button_(field.addAction(symbolicIcon(Symbol::Copy), QLineEdit::TrailingPosition)) {
     button_->setText(localizedString("Copy Value"));
     button_->setToolTip(button_->text());
@@ -32,24 +33,36 @@ class ValueCopying final : public QObject {
  protected:
   bool eventFilter(QObject*, QEvent* event) override {
     switch (event->type()) {
-      case QEvent::Enter: under_ = true; return arrange(), false;
-      case QEvent::Leave: under_ = false; return arrange(), false;
-      case QEvent::FocusIn: focused_ = true; return arrange(), false;
-      case QEvent::FocusOut: focused_ = false; return arrange(), false;
-      case QEvent::ShortcutOverride: return isCopy(event) && (event->accept(), true);
+      case QEvent::Enter:
+        under_ = true;
+        return arrange(), false;
+      case QEvent::Leave:
+        under_ = false;
+        return arrange(), false;
+      case QEvent::FocusIn:
+        focused_ = true;
+        return arrange(), false;
+      case QEvent::FocusOut:
+        focused_ = false;
+        return arrange(), false;
+      case QEvent::ShortcutOverride:
+        return isCopy(event) && (event->accept(), true);
       case QEvent::KeyPress:
         if (!isCopy(event)) return false;
         copy();
         return true;
-      case QEvent::ContextMenu: return showMenu(*static_cast<QContextMenuEvent*>(event));
-      default: return false;
+      case QEvent::ContextMenu:
+        return showMenu(*static_cast<QContextMenuEvent*>(event));
+      default:
+        return false;
     }
   }
 
  private:
   /// With a selection the field itself copies that.
   [[nodiscard]] bool isCopy(QEvent* event) const {
-    return static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) && !field_.hasSelectedText() && !field_.text().isEmpty();
+    return static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) && !field_.hasSelectedText() &&
+           !field_.text().isEmpty();
   }
 
   void arrange() { button_->setVisible((under_ || focused_) && !field_.text().isEmpty()); }
@@ -76,6 +89,8 @@ class ValueCopying final : public QObject {
 
 }  // namespace
 
-void makeValueCopyable(QLineEdit& field) { new ValueCopying(field); }
+void makeValueCopyable(QLineEdit& field) {
+  new ValueCopying(field);
+}
 
 }  // namespace norvex

@@ -25,7 +25,9 @@ double withinOneTurn(double degrees) {
   return turn >= 360.0 ? 0.0 : turn;
 }
 
-double roundedTo(double step, double degrees) { return std::round(degrees / step) * step; }
+double roundedTo(double step, double degrees) {
+  return std::round(degrees / step) * step;
+}
 
 /// A pixel at the rim turns far more than a pixel ten times as far out, so distance buys precision.
 double stepAtDistance(double distance) {
@@ -63,7 +65,9 @@ void ZyDialKnob::setEditable(bool editable) {
   setFocusPolicy(editable ? Qt::WheelFocus : Qt::NoFocus);
 }
 
-void ZyDialKnob::setDmsTextField(NumberField* field) { field_ = field; }
+void ZyDialKnob::setDmsTextField(NumberField* field) {
+  field_ = field;
+}
 
 void ZyDialKnob::setClockwise(bool clockwise) {
   if (clockwise_ == clockwise) return;
@@ -76,9 +80,13 @@ void ZyDialKnob::setDMSValue(double packed) {
   announce();
 }
 
-double ZyDialKnob::degreeValue() const { return dms::toDegrees(packed_); }
+double ZyDialKnob::degreeValue() const {
+  return dms::toDegrees(packed_);
+}
 
-double ZyDialKnob::radianValue() const { return dms::toRadians(packed_); }
+double ZyDialKnob::radianValue() const {
+  return dms::toRadians(packed_);
+}
 
 void ZyDialKnob::turnTo(double degrees) {
   const double packed = dms::fromDegrees(withinOneTurn(degrees));
@@ -94,7 +102,9 @@ void ZyDialKnob::announce() {
   QAccessible::updateAccessibility(&event);
 }
 
-QSize ZyDialKnob::sizeHint() const { return {92, 92}; }
+QSize ZyDialKnob::sizeHint() const {
+  return {92, 92};
+}
 
 double ZyDialKnob::degreesAt(QPointF position) const {
   const QPointF arm = position - QRectF(rect()).center();
@@ -154,13 +164,19 @@ void ZyDialKnob::keyPressEvent(QKeyEvent* event) {
   const double step = stepFor(event->modifiers());
   switch (event->key()) {
     case Qt::Key_Up:
-    case Qt::Key_Right: return turnTo(degreeValue() + step);
+    case Qt::Key_Right:
+      return turnTo(degreeValue() + step);
     case Qt::Key_Down:
-    case Qt::Key_Left: return turnTo(degreeValue() - step);
-    case Qt::Key_PageUp: return turnTo(degreeValue() + kSnap);
-    case Qt::Key_PageDown: return turnTo(degreeValue() - kSnap);
-    case Qt::Key_Home: return turnTo(0);
-    default: QWidget::keyPressEvent(event);
+    case Qt::Key_Left:
+      return turnTo(degreeValue() - step);
+    case Qt::Key_PageUp:
+      return turnTo(degreeValue() + kSnap);
+    case Qt::Key_PageDown:
+      return turnTo(degreeValue() - kSnap);
+    case Qt::Key_Home:
+      return turnTo(0);
+    default:
+      QWidget::keyPressEvent(event);
   }
 }
 

@@ -1,4 +1,5 @@
-// ZyDialKnob: a rotary dial for an angle, linked to a field that shows the angle in degrees, minutes and seconds.
+// ZyDialKnob: a rotary dial for an angle, linked to a field that shows the angle in degrees, minutes and
+// seconds.
 #pragma once
 
 #include <QColor>
@@ -11,18 +12,18 @@ namespace norvex {
 
 class NumberField;
 
-/// Zero is at the top. The needle turns counter-clockwise for growing angles unless clockwise() is set. The angle is
-/// kept in the packed notation of dms_angle.h, exactly as it was set: a negative one or one beyond a full turn stays
-/// what it is. Turning by mouse, wheel or keys gives angles from 0 to below 360 degrees.
-/// Mouse: drag (finer the farther from the middle; Shift snaps to 15°), double click for 0. Wheel and arrows: 1°, with
-/// Shift 15°, with Ctrl one minute; Page Up and Down: 15°; Home: 0. Main thread.
+/// Zero is at the top. The needle turns counter-clockwise for growing angles unless clockwise() is set. The
+/// angle is kept in the packed notation of dms_angle.h, exactly as it was set: a negative one or one beyond a
+/// full turn stays what it is. Turning by mouse, wheel or keys gives angles from 0 to below 360 degrees.
+/// Mouse: drag (finer the farther from the middle; Shift snaps to 15°), double click for 0. Wheel and arrows:
+/// 1°, with Shift 15°, with Ctrl one minute; Page Up and Down: 15°; Home: 0. Main thread.
 class ZyDialKnob final : public QWidget {
   Q_OBJECT
  public:
   explicit ZyDialKnob(QWidget* parent = nullptr);
 
-  /// Marks around the face, `width` logical pixels long. Black marks follow the palette's text colour in dark schemes;
-  /// no background: the window shows through.
+  /// Marks around the face, `width` logical pixels long. Black marks follow the palette's text colour in dark
+  /// schemes; no background: the window shows through.
   void setTickMarks(const QColor& marks, const std::optional<QColor>& background, double width);
   void setBordered(bool bordered);
   /// Whether the user may turn it.
@@ -73,8 +74,9 @@ class ZyDialKnob final : public QWidget {
   QColor marks_ = Qt::black;
   std::optional<QColor> background_;
   double markLength_ = 4;
-  std::optional<double> grab_;  ///< while dragging: the knob's angle minus the pointer's when it was pressed, degrees
-  double wheelRest_ = 0;        ///< eighths of a degree of wheel turning not yet spent
+  std::optional<double>
+      grab_;  ///< while dragging: the knob's angle minus the pointer's when it was pressed, degrees
+  double wheelRest_ = 0;  ///< eighths of a degree of wheel turning not yet spent
   QPointer<NumberField> field_;
 };
 

@@ -16,7 +16,9 @@ QAccessibleInterface* make(const QString&, QObject* object) {
 
 DialKnobAccessible::DialKnobAccessible(ZyDialKnob* knob) : QAccessibleWidget(knob, QAccessible::Dial) {}
 
-ZyDialKnob* DialKnobAccessible::knob() const { return static_cast<ZyDialKnob*>(object()); }
+ZyDialKnob* DialKnobAccessible::knob() const {
+  return static_cast<ZyDialKnob*>(object());
+}
 
 void* DialKnobAccessible::interface_cast(QAccessible::InterfaceType type) {
   if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
@@ -27,9 +29,13 @@ QString DialKnobAccessible::text(QAccessible::Text kind) const {
   return kind == QAccessible::Value ? dms::text(knob()->DMSValue()) : QAccessibleWidget::text(kind);
 }
 
-QVariant DialKnobAccessible::currentValue() const { return knob()->degreeValue(); }
+QVariant DialKnobAccessible::currentValue() const {
+  return knob()->degreeValue();
+}
 
-void DialKnobAccessible::setCurrentValue(const QVariant& value) { knob()->turnTo(value.toDouble()); }
+void DialKnobAccessible::setCurrentValue(const QVariant& value) {
+  knob()->turnTo(value.toDouble());
+}
 
 void installDialKnobAccessibility() {
   static const bool installed = (QAccessible::installFactory(&make), true);

@@ -7,7 +7,8 @@ namespace norvex {
 
 class ZyDialKnob;
 
-/// The dial as a value from 0 to 360 degrees in steps of 1; its text is the angle in degrees, minutes and seconds.
+/// The dial as a value from 0 to 360 degrees in steps of 1; its text is the angle in degrees, minutes and
+/// seconds.
 class DialKnobAccessible final : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit DialKnobAccessible(ZyDialKnob* knob);

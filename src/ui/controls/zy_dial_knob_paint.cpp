@@ -1,12 +1,12 @@
 // How the dial looks.
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 
 #include <cmath>
 #include <numbers>
 
-#include "ui/style/quiet_text.h"
 #include "ui/controls/zy_dial_knob.h"
+#include "ui/style/quiet_text.h"
 
 namespace norvex {
 
@@ -40,7 +40,10 @@ void ZyDialKnob::drawMarks(QPainter& painter, QPointF middle, double radius) con
   for (int degrees = 0; degrees < 360; degrees += 15) {
     const bool quarter = degrees % 90 == 0, half = degrees % 45 == 0;
     const double length = quarter ? markLength_ : markLength_ * (half ? 0.8 : 0.6);
-    painter.setPen(QPen(withAlpha(color, quarter ? 0.85 : half ? 0.55 : 0.3), quarter ? 1.6 : 1.2, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(withAlpha(color, quarter ? 0.85
+                                         : half  ? 0.55
+                                                 : 0.3),
+                        quarter ? 1.6 : 1.2, Qt::SolidLine, Qt::RoundCap));
     const double turn = degrees * std::numbers::pi / 180.0;
     const QPointF out(std::sin(turn), -std::cos(turn));
     painter.drawLine(middle + out * (radius - 0.8), middle + out * (radius - length));
@@ -68,7 +71,8 @@ void ZyDialKnob::drawNeedle(QPainter& painter, QPointF middle, double radius) co
   const double degrees = clockwise_ ? degreeValue() : -degreeValue();
   const double turn = degrees * std::numbers::pi / 180.0;
   const QPointF out(std::sin(turn), -std::cos(turn));
-  const QColor accent = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Highlight);
+  const QColor accent =
+      palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Highlight);
   painter.setPen(QPen(accent, 3, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(middle + out * (radius * 0.42), middle + out * (radius - 5));
 }

@@ -70,7 +70,9 @@ int ZyForm::widestTitle() const {
   return widest;
 }
 
-void ZyForm::calcSize() { alignTitles({this}); }
+void ZyForm::calcSize() {
+  alignTitles({this});
+}
 
 void ZyForm::alignTitles(const QList<ZyForm*>& forms) {
   int widest = 0;

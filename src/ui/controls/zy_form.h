@@ -11,8 +11,8 @@ class QLineEdit;
 
 namespace norvex {
 
-/// Titles stand right-aligned in one column, entries in the next. Entries are for reading: their text can be selected
-/// and copied, not changed. Starts with one row. Main thread; owns its rows.
+/// Titles stand right-aligned in one column, entries in the next. Entries are for reading: their text can be
+/// selected and copied, not changed. Starts with one row. Main thread; owns its rows.
 class ZyForm final : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QStringList titles READ titles WRITE setTitles)
@@ -27,7 +27,8 @@ class ZyForm final : public QWidget {
   /// The entry and the title of a row. REQUIRES 0 <= index < rowCount().
   [[nodiscard]] QLineEdit* cellAtIndex(int index) const { return rows_.at(index).entry; }
   [[nodiscard]] QLabel* titleAtIndex(int index) const { return rows_.at(index).title; }
-  /// Puts a text into a row's entry and shows its beginning; the whole text becomes the tooltip when it is long.
+  /// Puts a text into a row's entry and shows its beginning; the whole text becomes the tooltip when it is
+  /// long.
   void setText(int index, const QString& text);
   void setTitle(int index, const QString& title);
 

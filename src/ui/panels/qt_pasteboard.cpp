@@ -14,8 +14,8 @@ struct Target {
   QStringList names;
 };
 
-/// In the order in which programs that paste whatever comes first should meet them: what stays sharp before what does
-/// not.
+/// In the order in which programs that paste whatever comes first should meet them: what stays sharp before
+/// what does not.
 const QList<Target>& targets() {
   static const QList<Target> table{
       {UTTypeSVG().identifier(), {"image/svg+xml"}},

@@ -11,12 +11,12 @@ class QMimeData;
 
 namespace norvex {
 
-/// The names under which other programs of this desktop ask for a type, the preferred one first; empty for a type that
-/// they do not know.
+/// The names under which other programs of this desktop ask for a type, the preferred one first; empty for a
+/// type that they do not know.
 [[nodiscard]] QStringList clipboardTargets(const QString& typeIdentifier);
 
-/// The item as other programs see it: SVG, PDF, EPS (under each of its names), PNG, TIFF, whichever of them it has, then
-/// everything again under its type identifier.
+/// The item as other programs see it: SVG, PDF, EPS (under each of its names), PNG, TIFF, whichever of them
+/// it has, then everything again under its type identifier.
 [[nodiscard]] std::unique_ptr<QMimeData> mimeDataOf(const NSPasteboardItem& item);
 
 /// The general pasteboard. All bytes are handed over when they are written: a clipboard manager that asks for

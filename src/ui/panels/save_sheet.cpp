@@ -48,7 +48,8 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   setAcceptMode(QFileDialog::AcceptSave);
   setFileMode(QFileDialog::AnyFile);
   setWindowTitle(settings_.title);
-  setDirectoryUrl(settings_.directoryURL.isLocalFile() ? settings_.directoryURL : QUrl::fromLocalFile(ownFolder()));
+  setDirectoryUrl(settings_.directoryURL.isLocalFile() ? settings_.directoryURL
+                                                       : QUrl::fromLocalFile(ownFolder()));
   arrange();
   resize(kSize);
   selectFile(settings_.nameFieldStringValue);
@@ -83,7 +84,8 @@ void SaveSheet::arrange() {
 
 void SaveSheet::addTypeList() {
   QStringList filters;
-  for (const UTType& type : settings_.allowedContentTypes) filters << nameFilter(localizedDescription(type), {type});
+  for (const UTType& type : settings_.allowedContentTypes)
+    filters << nameFilter(localizedDescription(type), {type});
   setNameFilters(filters);
   selectNameFilter(filters.value(settings_.selectedContentType));
   connect(this, &QFileDialog::filterSelected, this, [this, filters](const QString& chosen) {
@@ -119,13 +121,15 @@ bool SaveSheet::isAllowedExtension(const QString& extension) const {
 QUrl SaveSheet::typedURL() const {
   QString path = selectedFiles().value(0);
   // "Map 1.5" names no type: with such a name the extension of the first type goes after it.
-  if (!settings_.allowsOtherFileTypes && !settings_.allowedContentTypes.isEmpty() && !pathExtension(path).isEmpty() &&
-      !isAllowedExtension(pathExtension(path)))
+  if (!settings_.allowsOtherFileTypes && !settings_.allowedContentTypes.isEmpty() &&
+      !pathExtension(path).isEmpty() && !isAllowedExtension(pathExtension(path)))
     path += u'.' + settings_.allowedContentTypes.first().preferredFilenameExtension();
   return QUrl::fromLocalFile(path);
 }
 
-SavePanelAnswer SaveSheet::answer() const { return {false, typedURL(), settings_.selectedContentType}; }
+SavePanelAnswer SaveSheet::answer() const {
+  return {false, typedURL(), settings_.selectedContentType};
+}
 
 QUrl SaveSheet::target() const {
   return settings_.target ? settings_.target(typedURL(), settings_.selectedContentType) : typedURL();

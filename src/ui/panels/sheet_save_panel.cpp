@@ -8,7 +8,8 @@
 
 namespace norvex {
 
-void QtSavePanel::beginSheetModalForWindow(QWidget* window, const SavePanelSettings& settings, Completion completion) {
+void QtSavePanel::beginSheetModalForWindow(QWidget* window, const SavePanelSettings& settings,
+                                           Completion completion) {
   auto* sheet = new SaveSheet(window, settings);
   sheet->setAttribute(Qt::WA_DeleteOnClose);
   QObject::connect(sheet, &QDialog::finished, window, [sheet, then = std::move(completion)](int result) {

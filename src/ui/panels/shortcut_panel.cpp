@@ -32,7 +32,8 @@ QString keysOf(const QAction& action) {
 
 void addCommands(QTreeWidgetItem& group, const QMenu& menu, const QString& before) {
   for (const QAction* action : menu.actions()) {
-    if (const QMenu* more = action->menu()) addCommands(group, *more, plain(action->text()) + QStringLiteral(": "));
+    if (const QMenu* more = action->menu())
+      addCommands(group, *more, plain(action->text()) + QStringLiteral(": "));
     else if (!action->isSeparator() && !action->shortcuts().isEmpty())
       new QTreeWidgetItem(&group, {before + plain(action->text()), keysOf(*action)});
   }

@@ -20,8 +20,9 @@ namespace {
 QString newFolder() {
   static std::vector<std::unique_ptr<QTemporaryDir>> folders;  // removed when the program ends
   const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-  auto folder = runtime.isEmpty() ? std::make_unique<QTemporaryDir>()
-                                  : std::make_unique<QTemporaryDir>(runtime + QStringLiteral("/norvex-XXXXXX"));
+  auto folder = runtime.isEmpty()
+                    ? std::make_unique<QTemporaryDir>()
+                    : std::make_unique<QTemporaryDir>(runtime + QStringLiteral("/norvex-XXXXXX"));
   if (!folder->isValid()) folder = std::make_unique<QTemporaryDir>();
   if (!folder->isValid()) return {};
   folders.push_back(std::move(folder));
@@ -72,7 +73,8 @@ bool DragSource::press(const QMouseEvent& event) {
 
 bool DragSource::move(const QMouseEvent& event) {
   if (!pressed_) return false;
-  if ((event.position().toPoint() - *pressed_).manhattanLength() < QApplication::startDragDistance()) return true;
+  if ((event.position().toPoint() - *pressed_).manhattanLength() < QApplication::startDragDistance())
+    return true;
   pressed_.reset();
   if (std::optional<DraggedFile> file = offer_()) {
     auto* drag = new QDrag(&widget_);

@@ -15,12 +15,14 @@ namespace norvex {
 
 /// A file that exists only once it has been dropped.
 struct DraggedFile {
-  QString name;                       ///< without a folder
-  std::function<QByteArray()> bytes;  ///< asked when the file is dropped; may wait; empty: there is no file after all
+  QString name;  ///< without a folder
+  std::function<QByteArray()>
+      bytes;  ///< asked when the file is dropped; may wait; empty: there is no file after all
 };
 
-/// Watches a widget: a drag with the Control key held drags a file out of it, and the widget sees nothing of that drag.
-/// Without the key nothing changes, so that drags inside the widget keep their meaning. Main thread.
+/// Watches a widget: a drag with the Control key held drags a file out of it, and the widget sees nothing of
+/// that drag. Without the key nothing changes, so that drags inside the widget keep their meaning. Main
+/// thread.
 class DragSource final : public QObject {
   Q_OBJECT
  public:

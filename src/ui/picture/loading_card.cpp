@@ -2,8 +2,8 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -12,7 +12,8 @@
 
 namespace norvex {
 
-LoadingCard::LoadingCard(QWidget* parent) : QFrame(parent), what_(new QLabel(this)), bar_(new QProgressBar(this)) {
+LoadingCard::LoadingCard(QWidget* parent)
+    : QFrame(parent), what_(new QLabel(this)), bar_(new QProgressBar(this)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(16, 10, 10, 10);
   row->setSpacing(12);

@@ -17,7 +17,8 @@ class LoadingCard final : public QFrame {
 
   explicit LoadingCard(QWidget* parent = nullptr);
 
-  /// Work has begun (again): what it is, in a few words. Calls while the same work goes on do not start the wait anew.
+  /// Work has begun (again): what it is, in a few words. Calls while the same work goes on do not start the
+  /// wait anew.
   void begin(const QString& what);
   /// Work has ended: hides the card.
   void end();

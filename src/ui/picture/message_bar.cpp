@@ -3,8 +3,8 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
@@ -64,7 +64,9 @@ void MessageBar::clearMessage() {
   hide();
 }
 
-QString MessageBar::message() const { return text_->text(); }
+QString MessageBar::message() const {
+  return text_->text();
+}
 
 void MessageBar::paintEvent(QPaintEvent*) {
   QPainter painter(this);

@@ -12,7 +12,8 @@ class QToolButton;
 
 namespace norvex {
 
-/// Hidden until a message is shown; a later message replaces the earlier one. Announced to screen readers as an alert.
+/// Hidden until a message is shown; a later message replaces the earlier one. Announced to screen readers as
+/// an alert.
 class MessageBar final : public QFrame {
   Q_OBJECT
  public:

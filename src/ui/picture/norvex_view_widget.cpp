@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/style/checkerboard.h"
 #include "ui/picture/zooming_scroll_area.h"
+#include "ui/style/checkerboard.h"
 
 namespace norvex {
 
@@ -24,13 +24,18 @@ constexpr double kLargestStep = 40;  // logical pixels
 NorvexViewWidget::NorvexViewWidget(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   periodic_.setInterval(kPeriodMs);
-  connect(&periodic_, &QTimer::timeout, this, [this] { view_.periodicEvent(toView(mapFromGlobal(pointer_))); });
+  connect(&periodic_, &QTimer::timeout, this,
+          [this] { view_.periodicEvent(toView(mapFromGlobal(pointer_))); });
   view_.setHost(this);
 }
 
-NorvexViewWidget::~NorvexViewWidget() { view_.setHost(nullptr); }
+NorvexViewWidget::~NorvexViewWidget() {
+  view_.setHost(nullptr);
+}
 
-void NorvexViewWidget::setScrollArea(ZoomingScrollArea* area) { area_ = area; }
+void NorvexViewWidget::setScrollArea(ZoomingScrollArea* area) {
+  area_ = area;
+}
 
 void NorvexViewWidget::setBackground(const QColor& color) {
   background_ = color;
@@ -44,13 +49,18 @@ QTransform NorvexViewWidget::placement() const {
   const QPointF corner = exact.map(QPointF(bounds.x(), bounds.y() + bounds.height()));
   // A picture that is centred on half a pixel would show its straight edges blurred.
   const double ratio = devicePixelRatioF();
-  const QPointF shift = QPointF(std::round(corner.x() * ratio), std::round(corner.y() * ratio)) / ratio - corner;
+  const QPointF shift =
+      QPointF(std::round(corner.x() * ratio), std::round(corner.y() * ratio)) / ratio - corner;
   return exact * QTransform::fromTranslate(shift.x(), shift.y());
 }
 
-QPointF NorvexViewWidget::fromView(const QPointF& point) const { return placement().map(point); }
+QPointF NorvexViewWidget::fromView(const QPointF& point) const {
+  return placement().map(point);
+}
 
-QPointF NorvexViewWidget::toView(const QPointF& point) const { return placement().inverted().map(point); }
+QPointF NorvexViewWidget::toView(const QPointF& point) const {
+  return placement().inverted().map(point);
+}
 
 QRectF NorvexViewWidget::viewInWidget() const {
   const QRectF& bounds = view_.bounds();
@@ -64,8 +74,10 @@ QRectF NorvexViewWidget::visibleRect() const {
 void NorvexViewWidget::displayRect(const QRectF& rect) {
   const QRectF device = QRectF(fromView(rect.topLeft()), fromView(rect.bottomRight())).normalized();
   const QRect dirty = device.toAlignedRect().adjusted(-2, -2, 2, 2) & this->rect();
-  if (!isVisible() || painting_) update(dirty);
-  else repaint(dirty);
+  if (!isVisible() || painting_)
+    update(dirty);
+  else
+    repaint(dirty);
 }
 
 void NorvexViewWidget::frameDidChange() {
@@ -77,7 +89,8 @@ void NorvexViewWidget::frameDidChange() {
 bool NorvexViewWidget::autoscroll(const QPointF& point) {
   if (!area_) return false;
   const QPointF at = fromView(point);
-  // However far outside the pointer is, one step shows only a little more: the user must be able to stop in time.
+  // However far outside the pointer is, one step shows only a little more: the user must be able to stop in
+  // time.
   const QPointF near(std::clamp(at.x(), -kLargestStep, width() + kLargestStep),
                      std::clamp(at.y(), -kLargestStep, height() + kLargestStep));
   return area_->showPoint(near);
@@ -94,11 +107,15 @@ bool NorvexViewWidget::makeFirstResponder() {
 }
 
 void NorvexViewWidget::setPeriodicEvents(bool on) {
-  if (on) periodic_.start();
-  else periodic_.stop();
+  if (on)
+    periodic_.start();
+  else
+    periodic_.stop();
 }
 
-void NorvexViewWidget::addCrosshairCursorRect(const QRectF&) { setCursor(Qt::CrossCursor); }
+void NorvexViewWidget::addCrosshairCursorRect(const QRectF&) {
+  setCursor(Qt::CrossCursor);
+}
 
 void NorvexViewWidget::drawBackground(QPainter& painter, const QRect& dirty) {
   if (background_.isValid()) {

@@ -12,9 +12,9 @@ namespace norvex {
 
 class ZoomingScrollArea;
 
-/// Fills the clip of its scroll area and draws there what the clip shows of the view. Owns the view and is its host.
-/// Forwards the left button as press, move and release; what they mean is the view's business. Takes no keyboard focus:
-/// the scroll area has it. Main thread.
+/// Fills the clip of its scroll area and draws there what the clip shows of the view. Owns the view and is
+/// its host. Forwards the left button as press, move and release; what they mean is the view's business.
+/// Takes no keyboard focus: the scroll area has it. Main thread.
 class NorvexViewWidget final : public QWidget, public ViewHost {
   Q_OBJECT
  public:
@@ -26,11 +26,12 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   /// The scroll area around it, which calls this. Not owned.
   void setScrollArea(ZoomingScrollArea* area);
 
-  /// What lies under the picture: a colour over the whole clip, or (an invalid colour) a checkerboard where the view
-  /// is and the window's colour around it.
+  /// What lies under the picture: a colour over the whole clip, or (an invalid colour) a checkerboard where
+  /// the view is and the window's colour around it.
   void setBackground(const QColor& color);
 
-  /// A view point as a point of this widget and back; a widget point is in logical pixels from its top-left corner.
+  /// A view point as a point of this widget and back; a widget point is in logical pixels from its top-left
+  /// corner.
   [[nodiscard]] QPointF fromView(const QPointF& point) const;
   [[nodiscard]] QPointF toView(const QPointF& point) const;
 

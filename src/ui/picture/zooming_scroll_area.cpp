@@ -11,8 +11,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "display/norvex_view.h"
 #include "base/localized_string.h"
+#include "display/norvex_view.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/style/quiet_text.h"
 
@@ -44,8 +44,11 @@ QString barStyle(const QPalette& palette) {
 }  // namespace
 
 ZoomingScrollArea::ZoomingScrollArea(QWidget* parent)
-    : QWidget(parent), clip_(new QWidget(this)), horizontal_(new QScrollBar(Qt::Horizontal, this)),
-      vertical_(new QScrollBar(Qt::Vertical, this)), popUp_(new QComboBox(this)) {
+    : QWidget(parent),
+      clip_(new QWidget(this)),
+      horizontal_(new QScrollBar(Qt::Horizontal, this)),
+      vertical_(new QScrollBar(Qt::Vertical, this)),
+      popUp_(new QComboBox(this)) {
   horizontal_->setAccessibleName(localizedString("Scroll sideways"));
   vertical_->setAccessibleName(localizedString("Scroll up and down"));
   for (QScrollBar* bar : {horizontal_, vertical_}) {
@@ -111,7 +114,9 @@ QSizeF ZoomingScrollArea::contentSize() const {
   return QSizeF(std::max(0, width() - kBarExtent), std::max(0, height() - stripHeight()));
 }
 
-int ZoomingScrollArea::stripHeight() const { return std::max(popUp_->sizeHint().height() + 4, kBarExtent + 8); }
+int ZoomingScrollArea::stripHeight() const {
+  return std::max(popUp_->sizeHint().height() + 4, kBarExtent + 8);
+}
 
 double ZoomingScrollArea::fittingFactor() const {
   const QSizeF size = document_ ? document_->view().frame().size() : QSizeF();
@@ -135,12 +140,15 @@ void ZoomingScrollArea::placeCards() {
     const int room = std::min(clip_->width() - 2 * kCardMargin, kWidestCard);
     const bool atTop = card.edge == Qt::TopEdge;
     const int width = atTop ? room : std::min(room, card.widget->sizeHint().width());
-    const int height = card.widget->hasHeightForWidth() ? card.widget->heightForWidth(width) : card.widget->sizeHint().height();
+    const int height = card.widget->hasHeightForWidth() ? card.widget->heightForWidth(width)
+                                                        : card.widget->sizeHint().height();
     const int y = atTop ? top : bottom - height;
     card.widget->setGeometry((clip_->width() - width) / 2, y, width, height);
     card.widget->raise();
-    if (atTop) top += height + kCardMargin;
-    else bottom -= height + kCardMargin;
+    if (atTop)
+      top += height + kCardMargin;
+    else
+      bottom -= height + kCardMargin;
   }
 }
 
@@ -195,7 +203,9 @@ void ZoomingScrollArea::scrolled() {
   if (document_) document_->update();
 }
 
-void ZoomingScrollArea::scrollToTop() { setScrollOffset({0, 0}); }
+void ZoomingScrollArea::scrollToTop() {
+  setScrollOffset({0, 0});
+}
 
 QPointF ZoomingScrollArea::scrollOffset() {
   const ClipView* clipView = scrollView_.clipView();
@@ -225,7 +235,9 @@ bool ZoomingScrollArea::showPoint(const QPointF& point) {
 void ZoomingScrollArea::showRect(const QRectF& rect) {
   ClipView* clipView = scrollView_.clipView();
   if (!clipView) return;
-  const QRectF document = QRectF(clipView->frameToDocument(rect.topLeft()), clipView->frameToDocument(rect.bottomRight())).normalized();
+  const QRectF document =
+      QRectF(clipView->frameToDocument(rect.topLeft()), clipView->frameToDocument(rect.bottomRight()))
+          .normalized();
   if (clipView->scrollRectToVisible(document)) synchronize();
 }
 
@@ -249,14 +261,22 @@ void ZoomingScrollArea::styleBars() {
 void ZoomingScrollArea::keyPressEvent(QKeyEvent* event) {
   if (isDragging()) return;
   switch (event->key()) {
-    case Qt::Key_Left: return horizontal_->triggerAction(QAbstractSlider::SliderSingleStepSub);
-    case Qt::Key_Right: return horizontal_->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    case Qt::Key_Up: return vertical_->triggerAction(QAbstractSlider::SliderSingleStepSub);
-    case Qt::Key_Down: return vertical_->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    case Qt::Key_PageUp: return vertical_->triggerAction(QAbstractSlider::SliderPageStepSub);
-    case Qt::Key_PageDown: return vertical_->triggerAction(QAbstractSlider::SliderPageStepAdd);
-    case Qt::Key_Home: return vertical_->triggerAction(QAbstractSlider::SliderToMinimum);
-    case Qt::Key_End: return vertical_->triggerAction(QAbstractSlider::SliderToMaximum);
+    case Qt::Key_Left:
+      return horizontal_->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    case Qt::Key_Right:
+      return horizontal_->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    case Qt::Key_Up:
+      return vertical_->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    case Qt::Key_Down:
+      return vertical_->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    case Qt::Key_PageUp:
+      return vertical_->triggerAction(QAbstractSlider::SliderPageStepSub);
+    case Qt::Key_PageDown:
+      return vertical_->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    case Qt::Key_Home:
+      return vertical_->triggerAction(QAbstractSlider::SliderToMinimum);
+    case Qt::Key_End:
+      return vertical_->triggerAction(QAbstractSlider::SliderToMaximum);
     default:
       if (!holdSpace(*event)) QWidget::keyPressEvent(event);
   }

@@ -28,7 +28,8 @@ void ZoomingScrollArea::wheelEvent(QWheelEvent* event) {
     synchronize();
     return;
   }
-  QPointF delta = event->pixelDelta().isNull() ? QPointF(angle) * (kPixelsPerNotch / 120.0) : QPointF(event->pixelDelta());
+  QPointF delta = event->pixelDelta().isNull() ? QPointF(angle) * (kPixelsPerNotch / 120.0)
+                                               : QPointF(event->pixelDelta());
   if (event->modifiers() & Qt::ShiftModifier && delta.x() == 0) delta = QPointF(delta.y(), 0);
   scrollBy(-delta);
 }
@@ -61,7 +62,8 @@ bool ZoomingScrollArea::pinch(QEvent* event) {
 bool ZoomingScrollArea::pan(QEvent* event) {
   auto* mouse = static_cast<QMouseEvent*>(event);
   if (event->type() == QEvent::MouseButtonPress) {
-    const bool wanted = mouse->button() == Qt::MiddleButton || (spaceHeld_ && mouse->button() == Qt::LeftButton);
+    const bool wanted =
+        mouse->button() == Qt::MiddleButton || (spaceHeld_ && mouse->button() == Qt::LeftButton);
     if (!wanted) return false;
     panFrom_ = mouse->position();
     document_->setCursor(Qt::ClosedHandCursor);
@@ -77,7 +79,9 @@ bool ZoomingScrollArea::pan(QEvent* event) {
   return true;
 }
 
-bool ZoomingScrollArea::isDragging() const { return document_ && document_->view().selection().tracking(); }
+bool ZoomingScrollArea::isDragging() const {
+  return document_ && document_->view().selection().tracking();
+}
 
 bool ZoomingScrollArea::holdSpace(const QKeyEvent& event) {
   if (event.key() != Qt::Key_Space) return false;
@@ -105,14 +109,16 @@ bool ZoomingScrollArea::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease: return pan(event);
+    case QEvent::MouseButtonRelease:
+      return pan(event);
     case QEvent::NativeGesture: {
       auto* native = static_cast<QNativeGestureEvent*>(event);
       if (native->gestureType() != Qt::ZoomNativeGesture) return false;
       pinchTo(scrollView_.factor() * (1 + native->value()), native->globalPosition());
       return true;
     }
-    default: return false;
+    default:
+      return false;
   }
 }
 

@@ -5,10 +5,10 @@
 #include <QPainterPath>
 #include <QtConcurrent>
 
+#include "base/waiting_threads.h"
 #include "picture/image_rep.h"
 #include "ui/style/checkerboard.h"
 #include "ui/style/quiet_text.h"
-#include "base/waiting_threads.h"
 
 namespace norvex {
 
@@ -23,7 +23,9 @@ ZyImageView::ZyImageView(QWidget* parent) : QWidget(parent) {
   connect(&watcher_, &QFutureWatcherBase::finished, this, &ZyImageView::takeRendering);
 }
 
-ZyImageView::~ZyImageView() { cancel_.cancel(); }
+ZyImageView::~ZyImageView() {
+  cancel_.cancel();
+}
 
 void ZyImageView::setUseBackgroundColor(bool use) {
   useBackground_ = use;
@@ -98,8 +100,10 @@ void ZyImageView::paintEvent(QPaintEvent*) {
   QPainterPath outline;
   outline.addRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
   painter.setClipPath(outline);
-  if (useBackground_) painter.fillRect(rect(), background_);
-  else drawCheckerboard(painter, rect(), palette());
+  if (useBackground_)
+    painter.fillRect(rect(), background_);
+  else
+    drawCheckerboard(painter, rect(), palette());
   if (!image_.isNull()) {
     if (operation_ == Copy) painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(fitted(rep_ ? rep_->size() : QSizeF(image_.size())), image_);

@@ -15,8 +15,8 @@ namespace norvex {
 
 class NSImageRep;
 
-/// Shows either an image or a picture that it has rendered in the background at its own size. Where neither paints,
-/// its background colour shows, or a checkerboard when it uses none. Main thread.
+/// Shows either an image or a picture that it has rendered in the background at its own size. Where neither
+/// paints, its background colour shows, or a checkerboard when it uses none. Main thread.
 class ZyImageView final : public QWidget {
   Q_OBJECT
  public:

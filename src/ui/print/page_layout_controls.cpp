@@ -24,7 +24,8 @@ QString paperTitle(const Paper& paper) {
 
 }  // namespace
 
-PageLayoutControls::PageLayoutControls(int options, QFormLayout* form, QObject* parent) : QObject(parent), form_(form) {
+PageLayoutControls::PageLayoutControls(int options, QFormLayout* form, QObject* parent)
+    : QObject(parent), form_(form) {
   if (options & NSPrintPanelShowsPaperSize) addPaper();
   if (options & NSPrintPanelShowsOrientation) addOrientation();
   if (options & NSPrintPanelShowsScaling) addScaling();
@@ -82,7 +83,8 @@ void PageLayoutControls::setPrintInfo(const NSPrintInfo& info) {
     }
     paper_->setCurrentIndex(index);
   }
-  if (portrait_) (info.orientation() == NSPaperOrientation::Landscape ? landscape_ : portrait_)->setChecked(true);
+  if (portrait_)
+    (info.orientation() == NSPaperOrientation::Landscape ? landscape_ : portrait_)->setChecked(true);
   if (scaling_) {
     factor_ = info.scalingFactor();
     scaling_->setValue(factor_ * 100);
@@ -96,7 +98,8 @@ void PageLayoutControls::applyTo(NSPrintInfo& info) const {
   if (paper_)
     if (const auto paper = paperNamed(paper_->currentData().toString())) info.setPaper(*paper);
   if (portrait_)
-    info.setOrientation(landscape_->isChecked() ? NSPaperOrientation::Landscape : NSPaperOrientation::Portrait);
+    info.setOrientation(landscape_->isChecked() ? NSPaperOrientation::Landscape
+                                                : NSPaperOrientation::Portrait);
   if (!scaling_) return;
   info.setScalingFactor(scaling_->value() == shownThen_ ? factor_ : scaling_->value() / 100);
   const auto fitted = [this](NSPrintingPaginationMode mode) {

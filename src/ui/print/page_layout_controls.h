@@ -23,7 +23,8 @@ class PageLayoutControls final : public QObject {
 
   /// Shows these settings; changed() is not sent.
   void setPrintInfo(const NSPrintInfo& info);
-  /// Writes what the controls say, and nothing else, into `info`. A factor that was not touched keeps its value.
+  /// Writes what the controls say, and nothing else, into `info`. A factor that was not touched keeps its
+  /// value.
   void applyTo(NSPrintInfo& info) const;
 
  signals:

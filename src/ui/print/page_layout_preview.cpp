@@ -55,12 +55,17 @@ QRectF PageLayoutPreview::paperRect() const {
   if (pages_.sheet.isEmpty() || room.isEmpty()) return {};
   const QSizeF size = pages_.sheet.scaled(room.size(), Qt::KeepAspectRatio);
   const QPointF corner = room.center() - QPointF(size.width() / 2, size.height() / 2);
-  return QRectF(QPointF(std::round(corner.x()), std::round(corner.y())), QSizeF(std::round(size.width()), std::round(size.height())));
+  return QRectF(QPointF(std::round(corner.x()), std::round(corner.y())),
+                QSizeF(std::round(size.width()), std::round(size.height())));
 }
 
-QSize PageLayoutPreview::paperPixels() const { return (paperRect().size() * devicePixelRatioF()).toSize(); }
+QSize PageLayoutPreview::paperPixels() const {
+  return (paperRect().size() * devicePixelRatioF()).toSize();
+}
 
-void PageLayoutPreview::resizeEvent(QResizeEvent*) { emit resized(); }
+void PageLayoutPreview::resizeEvent(QResizeEvent*) {
+  emit resized();
+}
 
 void PageLayoutPreview::drawSketch(QPainter& painter, const QRectF& paper) const {
   const QTransform place = sheetToWidget(paper, pages_.sheet);
@@ -79,7 +84,8 @@ void PageLayoutPreview::drawSketch(QPainter& painter, const QRectF& paper) const
     drawn.setTop(drawn.center().y() - 1);
     drawn.setHeight(2);
     const double length = drawn.width() * 0.4;
-    painter.fillRect(atRight ? QRectF(drawn.right() - length, drawn.top(), length, 2) : QRectF(drawn.left(), drawn.top(), length, 2),
+    painter.fillRect(atRight ? QRectF(drawn.right() - length, drawn.top(), length, 2)
+                             : QRectF(drawn.left(), drawn.top(), length, 2),
                      kLine);
   };
   line(pages_.header, true);
@@ -95,11 +101,14 @@ void PageLayoutPreview::paintEvent(QPaintEvent*) {
   }
   painter.fillRect(paper.translated(2, 3), kShadow);
   painter.fillRect(paper, Qt::white);
-  if (image_.isNull()) drawSketch(painter, paper);
-  else painter.drawImage(paper, image_);
+  if (image_.isNull())
+    drawSketch(painter, paper);
+  else
+    painter.drawImage(paper, image_);
   painter.setPen(QPen(kMargin, 0, Qt::DashLine));
   const QRectF imageable = sheetToWidget(paper, pages_.sheet).mapRect(pages_.imageable);
-  if (imageable.width() < paper.width() - 1 || imageable.height() < paper.height() - 1) painter.drawRect(imageable);
+  if (imageable.width() < paper.width() - 1 || imageable.height() < paper.height() - 1)
+    painter.drawRect(imageable);
   painter.setPen(QPen(kEdge, 0));
   painter.drawRect(paper);
 }

@@ -8,8 +8,8 @@
 
 namespace norvex {
 
-/// Shows one page: the paper with its shadow, the margins as a thin dashed line, header and footer as grey lines, and
-/// where the picture goes; or, once there is one, the page's image. Main thread.
+/// Shows one page: the paper with its shadow, the margins as a thin dashed line, header and footer as grey
+/// lines, and where the picture goes; or, once there is one, the page's image. Main thread.
 class PageLayoutPreview final : public QWidget {
   Q_OBJECT
  public:

@@ -22,7 +22,8 @@ class QtPrintInteraction final : public PrintInteraction {
   ~QtPrintInteraction() override;
 
   bool runPrintPanel(NSPrintOperation& operation) override;
-  void beginPageLayout(const NSPrintInfo& printInfo, std::function<void(const NSPrintInfo&, int)> end) override;
+  void beginPageLayout(const NSPrintInfo& printInfo,
+                       std::function<void(const NSPrintInfo&, int)> end) override;
   /// Shows progress with Cancel when the job takes longer than a moment.
   int jobDidBegin(const QString& title, const CancelToken& cancel) override;
   /// Tells a failure in one alert; a cancelled job is none.

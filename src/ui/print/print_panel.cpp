@@ -20,12 +20,12 @@
 #include <utility>
 
 #include "base/localized_string.h"
+#include "base/waiting_threads.h"
 #include "print/page_image.h"
 #include "print/print_job.h"
 #include "ui/print/page_layout_controls.h"
 #include "ui/print/page_layout_preview.h"
 #include "ui/style/quiet_text.h"
-#include "base/waiting_threads.h"
 
 namespace norvex {
 namespace {
@@ -68,7 +68,8 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   print_ = buttons->addButton(localizedString("&Print"), QDialogButtonBox::AcceptRole);
   print_->setObjectName(QStringLiteral("print"));
   box->addWidget(buttons);
-  // Only in the dialog does it become the one button for Return; Cancel shall not stand in while it is disabled.
+  // Only in the dialog does it become the one button for Return; Cancel shall not stand in while it is
+  // disabled.
   print_->setDefault(true);
   buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::accepted, this, &PrintPanel::accept);
@@ -188,8 +189,8 @@ QWidget* PrintPanel::previewColumn() {
 
 void PrintPanel::fetchPrinters() {
   if (printersWatcher_.isRunning() || printer_->view()->isVisible()) return;
-  printersWatcher_.setFuture(
-      QtConcurrent::run(&waitingThreads(), [spooler = &spooler_, cancel = ending_] { return spooler->printers(cancel); }));
+  printersWatcher_.setFuture(QtConcurrent::run(
+      &waitingThreads(), [spooler = &spooler_, cancel = ending_] { return spooler->printers(cancel); }));
 }
 
 void PrintPanel::showPrinters(const Result<QList<Printer>>& printers) {

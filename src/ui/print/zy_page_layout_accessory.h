@@ -11,8 +11,8 @@ class QGridLayout;
 
 namespace norvex {
 
-/// Margins, centring, header and footer. Lengths are shown in millimetres or, where the locale measures so, in inches.
-/// Main thread.
+/// Margins, centring, header and footer. Lengths are shown in millimetres or, where the locale measures so,
+/// in inches. Main thread.
 class ZyPageLayoutAccessory final : public QWidget {
   Q_OBJECT
  public:
@@ -20,8 +20,8 @@ class ZyPageLayoutAccessory final : public QWidget {
 
   /// Shows these settings; changed() is not sent.
   void setPrintInfo(const NSPrintInfo& info);
-  /// Writes what the controls say, and nothing else, into `info`. A margin that was not touched keeps its value to the
-  /// last digit.
+  /// Writes what the controls say, and nothing else, into `info`. A margin that was not touched keeps its
+  /// value to the last digit.
   void applyTo(NSPrintInfo& info) const;
 
  signals:

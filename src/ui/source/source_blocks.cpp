@@ -12,8 +12,10 @@ bool endsLine(QChar c) {
     case '\r':
     case 0x2029:
     case 0xfdd0:
-    case 0xfdd1: return true;
-    default: return false;
+    case 0xfdd1:
+      return true;
+    default:
+      return false;
   }
 }
 
@@ -50,8 +52,9 @@ QStringView SourceBlocks::block(int block) const {
 }
 
 int SourceBlocks::blockAt(qsizetype textPosition) const {
-  const auto after = std::upper_bound(blocks_.cbegin(), blocks_.cend(), textPosition,
-                                      [](qsizetype position, const Block& block) { return position < block.start; });
+  const auto after =
+      std::upper_bound(blocks_.cbegin(), blocks_.cend(), textPosition,
+                       [](qsizetype position, const Block& block) { return position < block.start; });
   return std::max(0, static_cast<int>(after - blocks_.cbegin()) - 1);
 }
 
@@ -61,8 +64,9 @@ qsizetype SourceBlocks::shownPosition(qsizetype textPosition) const {
 }
 
 qsizetype SourceBlocks::textPosition(qsizetype shownPosition) const {
-  const auto after = std::upper_bound(blocks_.cbegin(), blocks_.cend(), shownPosition,
-                                      [](qsizetype position, const Block& block) { return position < block.shown; });
+  const auto after =
+      std::upper_bound(blocks_.cbegin(), blocks_.cend(), shownPosition,
+                       [](qsizetype position, const Block& block) { return position < block.shown; });
   const Block& block = blocks_.at(std::max<qsizetype>(0, after - blocks_.cbegin() - 1));
   return block.start + std::clamp<qsizetype>(shownPosition - block.shown, 0, block.length);
 }

@@ -10,7 +10,9 @@ namespace {
 
 constexpr qsizetype kLookBack = 64 * 1024;
 
-bool isLineEnd(QChar c) { return c == u'\n' || c == u'\r'; }
+bool isLineEnd(QChar c) {
+  return c == u'\n' || c == u'\r';
+}
 
 /// Collects spans of a part of a text.
 class Scanner {
@@ -30,11 +32,15 @@ class Scanner {
         ++at;
         continue;
       }
-      if (c == u'%' && depth == 0) at = percent(at, first);
+      if (c == u'%' && depth == 0)
+        at = percent(at, first);
       else {
-        if (c == u'\\' && depth > 0) ++at;
-        else if (c == u'(') ++depth;
-        else if (c == u')' && depth > 0) --depth;
+        if (c == u'\\' && depth > 0)
+          ++at;
+        else if (c == u'(')
+          ++depth;
+        else if (c == u')' && depth > 0)
+          --depth;
         ++at;
       }
       first = false;
@@ -82,7 +88,8 @@ class Scanner {
       const qsizetype opened = before.lastIndexOf(open);
       return opened >= 0 && before.indexOf(close, opened + open.size()) < 0 ? farthest + opened : -1;
     };
-    for (const auto& [open, close] : {std::pair(u"<!--", u"-->"), std::pair(u"<![CDATA[", u"]]>"), std::pair(u"<", u">")})
+    for (const auto& [open, close] :
+         {std::pair(u"<!--", u"-->"), std::pair(u"<![CDATA[", u"]]>"), std::pair(u"<", u">")})
       if (const qsizetype at = holding(open, close); at >= 0) return at;
     return start_;
   }
@@ -147,18 +154,24 @@ class Scanner {
 
 SourceLanguage sourceLanguage(const QString& text) {
   qsizetype at = 0;
-  while (at < std::min<qsizetype>(text.size(), 1024) && (text.at(at).isSpace() || text.at(at) == QChar::ByteOrderMark)) ++at;
+  while (at < std::min<qsizetype>(text.size(), 1024) &&
+         (text.at(at).isSpace() || text.at(at) == QChar::ByteOrderMark))
+    ++at;
   if (at >= text.size()) return SourceLanguage::Plain;
   if (text.at(at) == u'%') return SourceLanguage::PostScript;
   return text.at(at) == u'<' ? SourceLanguage::Markup : SourceLanguage::Plain;
 }
 
-QList<SourceSpan> sourceSpans(const QString& text, SourceLanguage language, qsizetype start, qsizetype end, int limit) {
+QList<SourceSpan> sourceSpans(const QString& text, SourceLanguage language, qsizetype start, qsizetype end,
+                              int limit) {
   Scanner scanner(text, start, end, limit);
   switch (language) {
-    case SourceLanguage::PostScript: return scanner.postScript();
-    case SourceLanguage::Markup: return scanner.markup();
-    case SourceLanguage::Plain: break;
+    case SourceLanguage::PostScript:
+      return scanner.postScript();
+    case SourceLanguage::Markup:
+      return scanner.markup();
+    case SourceLanguage::Plain:
+      break;
   }
   return {};
 }

@@ -24,9 +24,10 @@ struct SourceSpan {
 /// Told by how the text begins.
 [[nodiscard]] SourceLanguage sourceLanguage(const QString& text);
 
-/// The spans that touch [start, end), in order, at most `limit` of them. Looks back no farther than 64 Ki units to find
-/// out what the part begins in, so that its cost does not depend on the length of the text: a comment that began earlier
-/// is not recognised. A percent sign inside a PostScript string is no comment if the string began in the same line.
+/// The spans that touch [start, end), in order, at most `limit` of them. Looks back no farther than 64 Ki
+/// units to find out what the part begins in, so that its cost does not depend on the length of the text: a
+/// comment that began earlier is not recognised. A percent sign inside a PostScript string is no comment if
+/// the string began in the same line.
 [[nodiscard]] QList<SourceSpan> sourceSpans(const QString& text, SourceLanguage language, qsizetype start,
                                             qsizetype end, int limit = 3000);
 

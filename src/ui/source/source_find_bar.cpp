@@ -28,8 +28,11 @@ QToolButton* barButton(QWidget* bar, const QString& name) {
 }  // namespace
 
 SourceFindBar::SourceFindBar(QWidget* parent)
-    : QWidget(parent), needle_(new QLineEdit(this)), outcome_(new QLabel(this)),
-      previous_(barButton(this, localizedString("Previous"))), next_(barButton(this, localizedString("Next"))) {
+    : QWidget(parent),
+      needle_(new QLineEdit(this)),
+      outcome_(new QLabel(this)),
+      previous_(barButton(this, localizedString("Previous"))),
+      next_(barButton(this, localizedString("Next"))) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(8, 6, 6, 7);
   row->setSpacing(4);
@@ -57,11 +60,17 @@ SourceFindBar::SourceFindBar(QWidget* parent)
   connect(close, &QToolButton::clicked, this, &SourceFindBar::closed);
 }
 
-QString SourceFindBar::needle() const { return needle_->text(); }
+QString SourceFindBar::needle() const {
+  return needle_->text();
+}
 
-void SourceFindBar::setNeedle(const QString& text) { needle_->setText(text); }
+void SourceFindBar::setNeedle(const QString& text) {
+  needle_->setText(text);
+}
 
-QString SourceFindBar::outcome() const { return outcome_->text(); }
+QString SourceFindBar::outcome() const {
+  return outcome_->text();
+}
 
 void SourceFindBar::begin() {
   needle_->setFocus(Qt::ShortcutFocusReason);
@@ -70,9 +79,12 @@ void SourceFindBar::begin() {
 
 void SourceFindBar::showOutcome(qsizetype index, qsizetype count) {
   const QLocale locale;
-  if (needle().isEmpty()) outcome_->clear();
-  else if (count == 0) outcome_->setText(localizedString("Not found"));
-  else outcome_->setText(localizedString("%1 of %2").arg(locale.toString(index + 1), locale.toString(count)));
+  if (needle().isEmpty())
+    outcome_->clear();
+  else if (count == 0)
+    outcome_->setText(localizedString("Not found"));
+  else
+    outcome_->setText(localizedString("%1 of %2").arg(locale.toString(index + 1), locale.toString(count)));
   makeQuiet(*outcome_);
   previous_->setEnabled(count > 0);
   next_->setEnabled(count > 0);

@@ -9,7 +9,8 @@ class QToolButton;
 
 namespace norvex {
 
-/// Return goes to the next place, Shift+Return to the previous one. What is found is its owner's business. Main thread.
+/// Return goes to the next place, Shift+Return to the previous one. What is found is its owner's business.
+/// Main thread.
 class SourceFindBar final : public QWidget {
   Q_OBJECT
  public:

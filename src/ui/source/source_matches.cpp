@@ -9,7 +9,8 @@ namespace norvex {
 SourceMatches::SourceMatches(const QString& text, const QString& needle) : length_(needle.size()) {
   if (needle.isEmpty()) return;
   const QStringMatcher matcher(needle, Qt::CaseInsensitive);
-  for (qsizetype at = matcher.indexIn(text); at >= 0; at = matcher.indexIn(text, at + length_)) starts_.append(at);
+  for (qsizetype at = matcher.indexIn(text); at >= 0; at = matcher.indexIn(text, at + length_))
+    starts_.append(at);
 }
 
 std::optional<qsizetype> SourceMatches::at(qsizetype position) const {

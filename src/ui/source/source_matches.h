@@ -8,8 +8,8 @@
 
 namespace norvex {
 
-/// Where `needle` stands in `text`, in order, whatever the case of letters; matches do not overlap. None for an empty
-/// needle. A value; any thread.
+/// Where `needle` stands in `text`, in order, whatever the case of letters; matches do not overlap. None for
+/// an empty needle. A value; any thread.
 class SourceMatches {
  public:
   SourceMatches() = default;
@@ -19,7 +19,8 @@ class SourceMatches {
   [[nodiscard]] qsizetype length() const { return length_; }
   [[nodiscard]] const QList<qsizetype>& starts() const { return starts_; }
 
-  /// Indices; going round at the ends, none without a match. at(): the first match that begins at `position` or later.
+  /// Indices; going round at the ends, none without a match. at(): the first match that begins at `position`
+  /// or later.
   [[nodiscard]] std::optional<qsizetype> at(qsizetype position) const;
   [[nodiscard]] std::optional<qsizetype> after(qsizetype position) const { return at(position + 1); }
   [[nodiscard]] std::optional<qsizetype> before(qsizetype position) const;

@@ -2,8 +2,8 @@
 
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTimerEvent>
@@ -38,17 +38,22 @@ class LineNumbers final : public QWidget {
 /// Colours with a contrast of more than 4.5 : 1 on the usual grounds of texts.
 QColor tokenColor(SourceToken token, bool dark) {
   switch (token) {
-    case SourceToken::Comment: return dark ? QColor(0x8f, 0xb0, 0x8a) : QColor(0x4f, 0x72, 0x48);
-    case SourceToken::Structure: return dark ? QColor(0x7c, 0xc4, 0xc9) : QColor(0x0b, 0x6b, 0x75);
-    case SourceToken::Tag: return dark ? QColor(0x82, 0xb4, 0xf0) : QColor(0x1d, 0x57, 0xa8);
-    case SourceToken::Value: return dark ? QColor(0xe0, 0xa8, 0x76) : QColor(0x96, 0x4b, 0x0d);
+    case SourceToken::Comment:
+      return dark ? QColor(0x8f, 0xb0, 0x8a) : QColor(0x4f, 0x72, 0x48);
+    case SourceToken::Structure:
+      return dark ? QColor(0x7c, 0xc4, 0xc9) : QColor(0x0b, 0x6b, 0x75);
+    case SourceToken::Tag:
+      return dark ? QColor(0x82, 0xb4, 0xf0) : QColor(0x1d, 0x57, 0xa8);
+    case SourceToken::Value:
+      return dark ? QColor(0xe0, 0xa8, 0x76) : QColor(0x96, 0x4b, 0x0d);
   }
   return {};
 }
 
 }  // namespace
 
-SourceTextEdit::SourceTextEdit(QWidget* parent) : QPlainTextEdit(parent), lineNumbers_(new LineNumbers(*this)) {
+SourceTextEdit::SourceTextEdit(QWidget* parent)
+    : QPlainTextEdit(parent), lineNumbers_(new LineNumbers(*this)) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setUndoRedoEnabled(false);
@@ -56,8 +61,10 @@ SourceTextEdit::SourceTextEdit(QWidget* parent) : QPlainTextEdit(parent), lineNu
   setTabChangesFocus(true);
   lineNumbers_->hide();
   connect(this, &QPlainTextEdit::updateRequest, lineNumbers_, [this](const QRect& rect, int dy) {
-    if (dy != 0) lineNumbers_->scroll(0, dy);
-    else lineNumbers_->update(0, rect.y(), lineNumbers_->width(), rect.height());
+    if (dy != 0)
+      lineNumbers_->scroll(0, dy);
+    else
+      lineNumbers_->update(0, rect.y(), lineNumbers_->width(), rect.height());
   });
   keepHitsVisible();
 }
@@ -99,8 +106,10 @@ void SourceTextEdit::fill(int atLeast) {
     filled_ = end;
   }
   arrangeLineNumbers();
-  if (filled_ < all.count()) filling_.start(0, this);
-  else filling_.stop();
+  if (filled_ < all.count())
+    filling_.start(0, this);
+  else
+    filling_.stop();
 }
 
 void SourceTextEdit::timerEvent(QTimerEvent* event) {
@@ -151,7 +160,8 @@ QMimeData* SourceTextEdit::createMimeDataFromSelection() const {
   auto* mime = new QMimeData;
   const QTextCursor cursor = textCursor();
   if (blocks_)
-    mime->setText(blocks_->copied(blocks_->textPosition(cursor.selectionStart()), blocks_->textPosition(cursor.selectionEnd())));
+    mime->setText(blocks_->copied(blocks_->textPosition(cursor.selectionStart()),
+                                  blocks_->textPosition(cursor.selectionEnd())));
   return mime;
 }
 
@@ -189,7 +199,8 @@ void SourceTextEdit::addMatches(QList<QTextEdit::ExtraSelection>& marks, qsizety
     marks << mark(std::max(*each, from), std::min(*each + matches_.length(), to), format);
 }
 
-QTextEdit::ExtraSelection SourceTextEdit::mark(qsizetype start, qsizetype end, const QTextCharFormat& format) const {
+QTextEdit::ExtraSelection SourceTextEdit::mark(qsizetype start, qsizetype end,
+                                               const QTextCharFormat& format) const {
   QTextEdit::ExtraSelection marked;
   marked.format = format;
   marked.cursor = QTextCursor(document());
@@ -228,7 +239,8 @@ void SourceTextEdit::paintLineNumbers(QPaintEvent& event, QWidget& column) {
     const double height = blockBoundingRect(block).height();
     const int line = blocks_->lineNumber(block.blockNumber());
     if (line > 0 && top + height >= event.rect().top())
-      painter.drawText(QRectF(0, top, column.width() - 10, height), Qt::AlignRight | Qt::AlignVCenter, QString::number(line));
+      painter.drawText(QRectF(0, top, column.width() - 10, height), Qt::AlignRight | Qt::AlignVCenter,
+                       QString::number(line));
     top += height;
     block = block.next();
   }
@@ -240,7 +252,8 @@ void SourceTextEdit::keepHitsVisible() {
   const QColor active = own.color(QPalette::Active, QPalette::Highlight);
   if (own.color(QPalette::Inactive, QPalette::Highlight) == active) return;
   own.setColor(QPalette::Inactive, QPalette::Highlight, active);
-  own.setColor(QPalette::Inactive, QPalette::HighlightedText, own.color(QPalette::Active, QPalette::HighlightedText));
+  own.setColor(QPalette::Inactive, QPalette::HighlightedText,
+               own.color(QPalette::Active, QPalette::HighlightedText));
   setPalette(own);
 }
 

@@ -12,9 +12,9 @@
 
 namespace norvex {
 
-/// For reading. A text of many megabytes is there at once: nothing is laid out before the widget is first shown, the
-/// rest of the text follows piece by piece while the user already reads, and only what is visible is coloured. Main
-/// thread.
+/// For reading. A text of many megabytes is there at once: nothing is laid out before the widget is first
+/// shown, the rest of the text follows piece by piece while the user already reads, and only what is visible
+/// is coloured. Main thread.
 class SourceTextEdit final : public QPlainTextEdit {
   Q_OBJECT
  public:
@@ -57,7 +57,8 @@ class SourceTextEdit final : public QPlainTextEdit {
   void arrangeLineNumbers();
   void markVisibleParts();
   void addMatches(QList<QTextEdit::ExtraSelection>& marks, qsizetype from, qsizetype to);
-  [[nodiscard]] QTextEdit::ExtraSelection mark(qsizetype start, qsizetype end, const QTextCharFormat& format) const;
+  [[nodiscard]] QTextEdit::ExtraSelection mark(qsizetype start, qsizetype end,
+                                               const QTextCharFormat& format) const;
   void keepHitsVisible();
 
   QString text_;

@@ -35,7 +35,9 @@ void SourceTextView::setString(const QString& text) {
   edit_->setSource(text);
 }
 
-QString SourceTextView::string() const { return edit_->source(); }
+QString SourceTextView::string() const {
+  return edit_->source();
+}
 
 void SourceTextView::setFixedPitchFont(double pointSize) {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -43,7 +45,9 @@ void SourceTextView::setFixedPitchFont(double pointSize) {
   edit_->setFont(font);
 }
 
-void SourceTextView::setLineWrapping(bool wrap) { edit_->setCode(!wrap); }
+void SourceTextView::setLineWrapping(bool wrap) {
+  edit_->setCode(!wrap);
+}
 
 void SourceTextView::showFindBar() {
   const QString selected = edit_->textCursor().selectedText();
@@ -63,8 +67,10 @@ void SourceTextView::hideFindBar() {
 void SourceTextView::lookFor(const QString& needle) {
   matches_ = SourceMatches(edit_->source(), needle);
   edit_->setMatches(matches_);
-  if (const auto index = matches_.at(edit_->selectionStart())) select(*index);
-  else tellNothingFound();
+  if (const auto index = matches_.at(edit_->selectionStart()))
+    select(*index);
+  else
+    tellNothingFound();
 }
 
 void SourceTextView::select(qsizetype index) {
@@ -88,9 +94,13 @@ bool SourceTextView::findNext(bool backward) {
     if (bar_->isVisible()) edit_->setMatches(matches_);
   }
   const qsizetype here = edit_->selectionStart();
-  const auto index = backward ? matches_.before(here) : edit_->textCursor().hasSelection() ? matches_.after(here) : matches_.at(here);
-  if (index) select(*index);
-  else tellNothingFound();
+  const auto index = backward                             ? matches_.before(here)
+                     : edit_->textCursor().hasSelection() ? matches_.after(here)
+                                                          : matches_.at(here);
+  if (index)
+    select(*index);
+  else
+    tellNothingFound();
   return index.has_value();
 }
 
@@ -110,9 +120,12 @@ bool SourceTextView::event(QEvent* event) {
 
 void SourceTextView::keyPressEvent(QKeyEvent* event) {
   if (!isOurs(*event)) return QWidget::keyPressEvent(event);
-  if (event->key() == Qt::Key_Escape) hideFindBar();
-  else if (event->key() == Qt::Key_F3) findNext(event->modifiers() & Qt::ShiftModifier);
-  else showFindBar();
+  if (event->key() == Qt::Key_Escape)
+    hideFindBar();
+  else if (event->key() == Qt::Key_F3)
+    findNext(event->modifiers() & Qt::ShiftModifier);
+  else
+    showFindBar();
 }
 
 void SourceTextView::changeEvent(QEvent* event) {

@@ -10,9 +10,9 @@ namespace norvex {
 class SourceFindBar;
 class SourceTextEdit;
 
-/// Selectable, not editable. Ctrl+F opens the find bar, F3 and Shift+F3 (or Return and Shift+Return in the bar) go to
-/// the next and the previous hit, Escape closes it. Finding is instant and looks at the text itself, so that a hit
-/// across the pieces of a very long line is one. Main thread.
+/// Selectable, not editable. Ctrl+F opens the find bar, F3 and Shift+F3 (or Return and Shift+Return in the
+/// bar) go to the next and the previous hit, Escape closes it. Finding is instant and looks at the text
+/// itself, so that a hit across the pieces of a very long line is one. Main thread.
 class SourceTextView final : public QWidget {
   Q_OBJECT
  public:
@@ -31,7 +31,8 @@ class SourceTextView final : public QWidget {
   /// Opens the find bar with the selected text.
   void showFindBar();
   void hideFindBar();
-  /// Selects the next hit, going round at the end; false when there is none. Opens the bar when nothing is looked for.
+  /// Selects the next hit, going round at the end; false when there is none. Opens the bar when nothing is
+  /// looked for.
   bool findNext(bool backward = false);
 
  protected:

@@ -9,7 +9,8 @@ QColor quietTextColor(const QPalette& palette) {
   const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
   const QColor ground = palette.color(QPalette::Active, QPalette::Window);
   const auto mix = [](int a, int b) { return (2 * a + b) / 3; };
-  return QColor(mix(text.red(), ground.red()), mix(text.green(), ground.green()), mix(text.blue(), ground.blue()));
+  return QColor(mix(text.red(), ground.red()), mix(text.green(), ground.green()),
+                mix(text.blue(), ground.blue()));
 }
 
 void makeQuiet(QWidget& widget) {
@@ -21,6 +22,8 @@ void makeQuiet(QWidget& widget) {
   widget.setPalette(palette);
 }
 
-bool isDarkScheme(const QPalette& palette) { return palette.color(QPalette::Window).lightnessF() < 0.5; }
+bool isDarkScheme(const QPalette& palette) {
+  return palette.color(QPalette::Window).lightnessF() < 0.5;
+}
 
 }  // namespace norvex

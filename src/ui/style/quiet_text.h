@@ -8,7 +8,8 @@ class QWidget;
 
 namespace norvex {
 
-/// Text colour mixed two to one with the window colour; keeps a contrast of more than 4.5 : 1 in both schemes.
+/// Text colour mixed two to one with the window colour; keeps a contrast of more than 4.5 : 1 in both
+/// schemes.
 [[nodiscard]] QColor quietTextColor(const QPalette& palette);
 /// Gives the widget that colour. Call again from changeEvent() when the palette of its parent changed.
 void makeQuiet(QWidget& widget);

@@ -133,23 +133,34 @@ QPainterPath open() {
 
 QPainterPath outline(Symbol symbol) {
   switch (symbol) {
-    case Symbol::Inspector: return inspector();
-    case Symbol::Copy: return page(8.5, 8.5, 11, 11);
-    case Symbol::Print: return printer();
-    case Symbol::SaveTo: return saveTo();
-    case Symbol::SaveAs: return saveAs();
-    case Symbol::ZoomOut: return lens();
+    case Symbol::Inspector:
+      return inspector();
+    case Symbol::Copy:
+      return page(8.5, 8.5, 11, 11);
+    case Symbol::Print:
+      return printer();
+    case Symbol::SaveTo:
+      return saveTo();
+    case Symbol::SaveAs:
+      return saveAs();
+    case Symbol::ZoomOut:
+      return lens();
     case Symbol::ZoomIn: {
       QPainterPath path = lens();
       path.moveTo(10.5, 7.5);
       path.lineTo(10.5, 13.5);
       return path;
     }
-    case Symbol::Fit: return fit();
-    case Symbol::RotateLeft: return turnLeft();
-    case Symbol::RotateRight: return QTransform(-1, 0, 0, 1, 24, 0).map(turnLeft());
-    case Symbol::Open: return open();
-    case Symbol::Reload: return reload();
+    case Symbol::Fit:
+      return fit();
+    case Symbol::RotateLeft:
+      return turnLeft();
+    case Symbol::RotateRight:
+      return QTransform(-1, 0, 0, 1, 24, 0).map(turnLeft());
+    case Symbol::Open:
+      return open();
+    case Symbol::Reload:
+      return reload();
   }
   return {};
 }
@@ -159,7 +170,8 @@ class SymbolEngine final : public QIconEngine {
   explicit SymbolEngine(Symbol symbol) : symbol_(symbol) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    QColor color = QGuiApplication::palette().color(QPalette::Active, mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText);
+    QColor color = QGuiApplication::palette().color(
+        QPalette::Active, mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText);
     color.setAlphaF(mode == QIcon::Disabled ? 0.35f : 0.85f);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
@@ -201,6 +213,8 @@ class SymbolEngine final : public QIconEngine {
 
 }  // namespace
 
-QIcon symbolicIcon(Symbol symbol) { return QIcon(new SymbolEngine(symbol)); }  // the icon owns its engine
+QIcon symbolicIcon(Symbol symbol) {
+  return QIcon(new SymbolEngine(symbol));
+}  // the icon owns its engine
 
 }  // namespace norvex

@@ -5,7 +5,20 @@
 
 namespace norvex {
 
-enum class Symbol { Inspector, Copy, Print, SaveTo, SaveAs, ZoomIn, ZoomOut, Fit, RotateLeft, RotateRight, Open, Reload };
+enum class Symbol {
+  Inspector,
+  Copy,
+  Print,
+  SaveTo,
+  SaveAs,
+  ZoomIn,
+  ZoomOut,
+  Fit,
+  RotateLeft,
+  RotateRight,
+  Open,
+  Reload
+};
 
 /// Drawn when it is shown, in the application palette's text colour, paler when disabled.
 [[nodiscard]] QIcon symbolicIcon(Symbol symbol);

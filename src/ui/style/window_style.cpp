@@ -20,7 +20,8 @@ QString windowStyleSheet() {
       "QTabBar::tab:!selected { color: palette(placeholder-text); }"
       "QGroupBox { border: none; margin-top: 1.7em; padding: 0; }"
       "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0; left: -2px; }"
-      "#descriptionView QPlainTextEdit { border: 1px solid palette(mid); border-radius: 6px; background: palette(base); }"
+      "#descriptionView QPlainTextEdit { border: 1px solid palette(mid); border-radius: 6px; background: "
+      "palette(base); }"
       "Line { color: palette(mid); }");
 }
 

@@ -5,7 +5,8 @@
 
 namespace norvex {
 
-/// Style sheet for a document window and for an inspector. Colours are the palette's, so both schemes are served.
+/// Style sheet for a document window and for an inspector. Colours are the palette's, so both schemes are
+/// served.
 [[nodiscard]] QString windowStyleSheet();
 
 }  // namespace norvex

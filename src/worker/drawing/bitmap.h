@@ -11,8 +11,8 @@
 
 namespace norvex::engine {
 
-/// Premultiplied ARGB32 in native byte order, rows top to bottom without padding. A value whose copies share their
-/// pixels.
+/// Premultiplied ARGB32 in native byte order, rows top to bottom without padding. A value whose copies share
+/// their pixels.
 class Bitmap {
  public:
   /// Of no size.

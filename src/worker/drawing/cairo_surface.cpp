@@ -31,12 +31,13 @@ Result<void> checkRequest(const RenderRequest& request, const PictureLimits& lim
   return {};
 }
 
-Result<void> paintTile(QRgb* firstPixel, int stride, const QRect& tile, const AffineTransform& pictureToDevice,
-                       const PaintPicture& paint) {
+Result<void> paintTile(QRgb* firstPixel, int stride, const QRect& tile,
+                       const AffineTransform& pictureToDevice, const PaintPicture& paint) {
   const CairoSurface surface(cairo_image_surface_create_for_data(
       reinterpret_cast<uchar*>(firstPixel), CAIRO_FORMAT_ARGB32, tile.width(), tile.height(), stride));
   const CairoContext context(cairo_create(surface.get()));
-  const cairo_matrix_t matrix = toCairo(pictureToDevice * AffineTransform::fromTranslate(-tile.x(), -tile.y()));
+  const cairo_matrix_t matrix =
+      toCairo(pictureToDevice * AffineTransform::fromTranslate(-tile.x(), -tile.y()));
   cairo_set_matrix(context.get(), &matrix);
   const Result<void> painted = paint(context.get());
   const cairo_status_t status = cairo_status(context.get());

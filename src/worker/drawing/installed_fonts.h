@@ -10,8 +10,9 @@ namespace norvex::engine {
 /// How it is told that a font is missing. `standIn` null: it is not known which font is used.
 [[nodiscard]] QString missingFontSentence(const QString& font, const QString& standIn = {});
 
-/// For each list of families of which none is installed, one sentence about the first: the rest of a list is the
-/// author's own choice of what stands in. Generic names ("serif") are always there. At most maximumWarnings.
+/// For each list of families of which none is installed, one sentence about the first: the rest of a list is
+/// the author's own choice of what stands in. Generic names ("serif") are always there. At most
+/// maximumWarnings.
 [[nodiscard]] QStringList missingFamilies(const QList<QStringList>& lists);
 
 }  // namespace norvex::engine

@@ -2,14 +2,14 @@
 #pragma once
 
 #include <QByteArray>
-#include <QStringList>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
-#include "protocol/bitmap_image_rep.h"
 #include "base/cancel_token.h"
 #include "base/result.h"
+#include "protocol/bitmap_image_rep.h"
 #include "protocol/worker_protocol.h"
 #include "worker/drawing/bitmap.h"
 
@@ -26,7 +26,8 @@ struct EngineBytes {
 /// What an engine is given besides the document.
 struct EngineContext {
   PictureLimits limits;
-  QString scratchFolder;  ///< exists, private to this process, removed with it; empty where no PostScript is expected
+  QString scratchFolder;  ///< exists, private to this process, removed with it; empty where no PostScript is
+                          ///< expected
   CancelToken cancel;     ///< of the running request; engines with loops or children look at it
   std::shared_ptr<GhostscriptChild> warmGhostscript;  ///< waiting for its first document; see ghostscript.h
 };

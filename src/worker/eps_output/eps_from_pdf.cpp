@@ -10,14 +10,14 @@
 #include <optional>
 
 #include "worker/eps_output/eps_writing.h"
+#include "worker/eps_output/poppler_postscript.h"
+#include "worker/eps_output/postscript_device.h"
+#include "worker/eps_output/transparent_regions.h"
 #include "worker/pdf/compose_pdf.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/pdf_transparency.h"
 #include "worker/pdf/pdf_writing.h"
-#include "worker/eps_output/poppler_postscript.h"
-#include "worker/eps_output/postscript_device.h"
-#include "worker/eps_output/transparent_regions.h"
 #include "worker/pdf/whole_page.h"
 
 namespace norvex::engine {

@@ -38,7 +38,8 @@ bool appendRectangle(QByteArray& text, const GfxSubpath& subpath) {
   const bool upFirst = x[0] == x[1] && x[2] == x[3] && y[0] == y[3] && y[1] == y[2];
   const bool acrossFirst = x[0] == x[3] && x[1] == x[2] && y[0] == y[1] && y[2] == y[3];
   if (x[4] != x[0] || y[4] != y[0] || !(upFirst || acrossFirst)) return false;
-  appendLine(text, {std::min(x[0], x[2]), std::min(y[0], y[2]), std::abs(x[2] - x[0]), std::abs(y[2] - y[0])}, "re");
+  appendLine(text, {std::min(x[0], x[2]), std::min(y[0], y[2]), std::abs(x[2] - x[0]), std::abs(y[2] - y[0])},
+             "re");
   return true;
 }
 
@@ -48,8 +49,8 @@ void appendSubpath(QByteArray& text, const GfxSubpath& subpath) {
   for (int i = 1; i < points;) {
     if (subpath.getCurve(i) && i + 2 < points) {
       appendLine(text,
-                 {subpath.getX(i), subpath.getY(i), subpath.getX(i + 1), subpath.getY(i + 1), subpath.getX(i + 2),
-                  subpath.getY(i + 2)},
+                 {subpath.getX(i), subpath.getY(i), subpath.getX(i + 1), subpath.getY(i + 1),
+                  subpath.getX(i + 2), subpath.getY(i + 2)},
                  "c");
       i += 3;
     } else {

@@ -10,8 +10,8 @@
 namespace norvex::engine {
 namespace {
 
-constexpr int kCell = 8;             // pixels a side of the grid on which differences are gathered
-constexpr int kInvisible = 6;        // of 255: what smoothing makes of the same edge drawn twice
+constexpr int kCell = 8;       // pixels a side of the grid on which differences are gathered
+constexpr int kInvisible = 6;  // of 255: what smoothing makes of the same edge drawn twice
 constexpr double kLookDpi = 150;
 constexpr double kLookPixels = 6e6;  // larger pages are compared more coarsely
 constexpr qsizetype kMostRegions = 100;

@@ -1,10 +1,10 @@
 #include "worker/every_engine/open_document.h"
 
 #include "worker/pages/pdf_engine.h"
+#include "worker/pdf/whole_page.h"
 #include "worker/postscript/eps_engine.h"
 #include "worker/svg/svg_engine.h"
 #include "worker/svg/svg_pdf.h"
-#include "worker/pdf/whole_page.h"
 
 // Apart from engine.cpp, which every engine needs: whoever links this links all of them.
 namespace norvex::engine {

@@ -8,7 +8,8 @@
 namespace norvex::engine {
 
 /// Opens `bytes`. The context is borrowed and must outlive the result.
-Result<std::unique_ptr<DocumentEngine>> openDocument(PictureKind kind, const QByteArray& bytes, EngineContext& context);
+Result<std::unique_ptr<DocumentEngine>> openDocument(PictureKind kind, const QByteArray& bytes,
+                                                     EngineContext& context);
 
 /// An SVG engine that can do everything. Otherwise as openDocument().
 Result<std::unique_ptr<DocumentEngine>> openSvg(const QByteArray& bytes, EngineContext& context);

@@ -5,7 +5,8 @@
 
 namespace norvex::engine {
 
-Result<EngineBytes> composePage(const QByteArray& pdf, const ComposeRequest& request, EngineContext& context) {
+Result<EngineBytes> composePage(const QByteArray& pdf, const ComposeRequest& request,
+                                EngineContext& context) {
   Result<QByteArray> composed = composePdf(pdf, request);
   if (!composed) return composed.error();
   if (request.format == VectorFormat::Eps) return epsFromPdf(*composed, context);

@@ -8,10 +8,10 @@
 
 #include <optional>
 
+#include "worker/pages/sheet_lines.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_numbers.h"
 #include "worker/pdf/pdf_writing.h"
-#include "worker/pages/sheet_lines.h"
 
 namespace norvex::engine {
 namespace {
@@ -36,7 +36,8 @@ QPDFObjectHandle formOf(QPDFObjectHandle page, const QRectF& box) {
 AffineTransform window(const SheetPart& sheet) {
   const double x = sheet.source.width() > 0 ? sheet.target.width() / sheet.source.width() : 1;
   const double y = sheet.source.height() > 0 ? sheet.target.height() / sheet.source.height() : 1;
-  return AffineTransform::fromTranslate(-sheet.source.left(), -sheet.source.top()) * AffineTransform::fromScale(x, y) *
+  return AffineTransform::fromTranslate(-sheet.source.left(), -sheet.source.top()) *
+         AffineTransform::fromScale(x, y) *
          AffineTransform::fromTranslate(sheet.target.left(), sheet.target.top());
 }
 

@@ -1,10 +1,10 @@
 #include "worker/pages/pdf_engine.h"
 
 // The engine of PDF documents and of Illustrator files that are PDF inside.
+#include "worker/drawing/installed_fonts.h"
 #include "worker/pages/compose_page.h"
 #include "worker/pdf/compose_pdf.h"
 #include "worker/pdf/illustrator_notice.h"
-#include "worker/drawing/installed_fonts.h"
 #include "worker/pdf/pdf_facts.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_render.h"

@@ -1,4 +1,5 @@
-// Laid out by the library that lays out the text of pictures: every script, right to left, fonts that help out.
+// Laid out by the library that lays out the text of pictures: every script, right to left, fonts that help
+// out.
 #include "worker/pages/sheet_lines.h"
 
 #include <QList>
@@ -21,13 +22,16 @@ const char* const kAnchors[] = {"start", "middle", "end"};
 /// What XML cannot hold becomes a blank.
 QString escaped(const QString& text) {
   QString plain;
-  for (const QChar c : text) plain += c < QChar(0x20) || c == QChar(0xfffe) || c == QChar(0xffff) ? QChar(' ') : c;
+  for (const QChar c : text)
+    plain += c < QChar(0x20) || c == QChar(0xfffe) || c == QChar(0xffff) ? QChar(' ') : c;
   return plain.toHtmlEscaped();
 }
 
 QByteArray textElement(const PagesRequest& request, const QString& text, double x, double y, double size,
                        const char* anchor) {
-  return QStringLiteral("<text x='%1' y='%2' font-size='%3' font-family='%4' text-anchor='%5' xml:space='preserve'>%6</text>")
+  return QStringLiteral(
+             "<text x='%1' y='%2' font-size='%3' font-family='%4' text-anchor='%5' "
+             "xml:space='preserve'>%6</text>")
       .arg(x, 0, 'f', 3)
       .arg(y, 0, 'f', 3)
       .arg(size, 0, 'f', 3)
@@ -65,14 +69,16 @@ QString fitting(const PagesRequest& request, const QString& text, double room) {
 
 QByteArray lineElements(const PagesRequest& request, const SheetLine& line) {
   const QStringList fields = line.text.split(u'\t').mid(0, 3);
-  const auto filled = std::count_if(fields.begin(), fields.end(), [](const QString& f) { return !f.isEmpty(); });
+  const auto filled =
+      std::count_if(fields.begin(), fields.end(), [](const QString& f) { return !f.isEmpty(); });
   const double room = filled > 1 ? line.rect.width() / double(filled) : line.rect.width();
   const double y = request.paper.height() - line.rect.center().y() + kBaselineShare * request.fontSize;
   QByteArray elements;
   for (qsizetype i = 0; i < fields.size(); ++i) {
     if (fields.at(i).isEmpty()) continue;
     const double x = line.rect.left() + line.rect.width() * 0.5 * double(i);
-    elements += textElement(request, fitting(request, fields.at(i), room), x, y, request.fontSize, kAnchors[i]);
+    elements +=
+        textElement(request, fitting(request, fields.at(i), room), x, y, request.fontSize, kAnchors[i]);
   }
   return elements;
 }
@@ -81,12 +87,13 @@ QByteArray lineElements(const PagesRequest& request, const SheetLine& line) {
 
 Result<QByteArray> sheetLines(const PagesRequest& request) {
   const QSizeF pixels = request.paper / pointsPerPixel;
-  QByteArray svg = QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' width='%1' height='%2' viewBox='0 0 %3 %4'>")
-                       .arg(pixels.width(), 0, 'f', 4)
-                       .arg(pixels.height(), 0, 'f', 4)
-                       .arg(request.paper.width(), 0, 'f', 4)
-                       .arg(request.paper.height(), 0, 'f', 4)
-                       .toLatin1();
+  QByteArray svg =
+      QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' width='%1' height='%2' viewBox='0 0 %3 %4'>")
+          .arg(pixels.width(), 0, 'f', 4)
+          .arg(pixels.height(), 0, 'f', 4)
+          .arg(request.paper.width(), 0, 'f', 4)
+          .arg(request.paper.height(), 0, 'f', 4)
+          .toLatin1();
   if (request.header) svg += lineElements(request, *request.header);
   if (request.footer) svg += lineElements(request, *request.footer);
   svg += "</svg>";

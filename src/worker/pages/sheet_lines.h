@@ -8,8 +8,8 @@
 
 namespace norvex::engine {
 
-/// A page of the size of the paper with nothing but the header and the footer of `request`, as text. A field that has
-/// not the room is shortened in its middle.
+/// A page of the size of the paper with nothing but the header and the footer of `request`, as text. A field
+/// that has not the room is shortened in its middle.
 [[nodiscard]] Result<QByteArray> sheetLines(const PagesRequest& request);
 
 }  // namespace norvex::engine

@@ -125,8 +125,8 @@ Result<std::vector<QPDFObjectHandle>> drawn(QPDF& qpdf, const QByteArray& sheets
     QPDFObjectHandle form = qpdf.copyForeignObject(QPDFPageObjectHelper(page).getFormXObjectForPage(false));
     QPDFObjectHandle dictionary = form.getDict();
     dictionary.removeKey("/Group");  // a highlight multiplies with what is below it
-    const AffineTransform sheetToUser =
-        AffineTransform::fromScale(1 / scale, 1 / scale) * AffineTransform::fromTranslate(box.left(), box.top());
+    const AffineTransform sheetToUser = AffineTransform::fromScale(1 / scale, 1 / scale) *
+                                        AffineTransform::fromTranslate(box.left(), box.top());
     dictionary.replaceKey("/Matrix",
                           QPDFObjectHandle::parse("[" + matrixText(sheetToUser).toStdString() + "]"));
     forms.push_back(form);

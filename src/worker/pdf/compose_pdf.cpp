@@ -10,11 +10,11 @@
 
 #include <cmath>
 
+#include "protocol/limits.h"
 #include "worker/pdf/annotation_drawings.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_numbers.h"
 #include "worker/pdf/pdf_writing.h"
-#include "protocol/limits.h"
 
 namespace norvex::engine {
 namespace {

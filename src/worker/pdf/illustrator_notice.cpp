@@ -36,7 +36,8 @@ bool isIllustratorNotice(const QByteArray& bytes, const PdfFile& file) {
 }
 
 QString illustratorNoticeSentence() {
-  return QStringLiteral("this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork");
+  return QStringLiteral(
+      "this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork");
 }
 
 }  // namespace norvex::engine

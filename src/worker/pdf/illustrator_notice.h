@@ -8,10 +8,10 @@ namespace norvex::engine {
 
 class PdfFile;
 
-/// Illustrator can leave out the PDF form of a picture. The file is a PDF all the same, with one page that holds a
-/// notice in English instead. Illustrator's private data are in files with and without the PDF form; so what tells is
-/// the page's text, and it is read only where there are such data and the page is as short as a notice: the facts of
-/// artwork cost no interpretation of its page. False for what cannot be read.
+/// Illustrator can leave out the PDF form of a picture. The file is a PDF all the same, with one page that
+/// holds a notice in English instead. Illustrator's private data are in files with and without the PDF form;
+/// so what tells is the page's text, and it is read only where there are such data and the page is as short
+/// as a notice: the facts of artwork cost no interpretation of its page. False for what cannot be read.
 [[nodiscard]] bool isIllustratorNotice(const QByteArray& bytes, const PdfFile& file);
 
 /// What the user is told then; one plain sentence.

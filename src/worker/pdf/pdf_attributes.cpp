@@ -20,7 +20,8 @@ Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, 
       information.replaceKey("/" + it.key().toStdString(),
                              QPDFObjectHandle::newUnicodeString(it.value().toStdString()));
     if (creationDate)
-      information.replaceKey("/CreationDate", QPDFObjectHandle::newString(pdfDate(*creationDate).toStdString()));
+      information.replaceKey("/CreationDate",
+                             QPDFObjectHandle::newString(pdfDate(*creationDate).toStdString()));
     qpdf.getTrailer().replaceKey("/Info", qpdf.makeIndirectObject(information));
     qpdf.getRoot().removeKey("/Metadata");  // it would go on telling the old ones
     return writePdf(qpdf);

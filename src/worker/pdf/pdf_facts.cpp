@@ -7,13 +7,14 @@
 #include <cstdlib>
 #include <utility>
 
-#include "worker/pdf/pdf_resources.h"
 #include "protocol/limits.h"
+#include "worker/pdf/pdf_resources.h"
 
 namespace norvex::engine {
 namespace {
 
-constexpr int kMaximumInformationCharacters = 64 * 1024;  // a text of the document information is a line or two
+constexpr int kMaximumInformationCharacters =
+    64 * 1024;  // a text of the document information is a line or two
 
 std::optional<QString> textOf(QPDFObjectHandle value) {
   if (!value.isString()) return std::nullopt;
@@ -39,7 +40,8 @@ Result<PictureFacts> pdfFacts(PdfFile& file) {
     const int told = std::min(facts.pageCount, limits::maximumPageBoxes);
     for (int page = 0; page < told; ++page) facts.pageBounds.append(file.geometry(page).shownBounds());
     readInformation(file.qpdf().getTrailer().getKey("/Info"), facts);
-    facts.warnings = file.warnings();  // before the resources: what is left unread there counts as damage for qpdf
+    facts.warnings =
+        file.warnings();  // before the resources: what is left unread there counts as damage for qpdf
     PdfResources resources = pdfResources(file, 0);
     facts.fonts = std::move(resources.fonts);
     facts.colorSpaces = std::move(resources.colorSpaces);
@@ -48,9 +50,9 @@ Result<PictureFacts> pdfFacts(PdfFile& file) {
 }
 
 std::optional<QDateTime> parsePdfDate(const QString& text) {
-  static const QRegularExpression form(QStringLiteral(
-      "^\\s*(?:D:)?(\\d{4})(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(\\d\\d)?)?)?)?)?"
-      "\\s*(?:(Z)|([+-])(\\d\\d)(?:'?(\\d\\d)'?)?)?"));
+  static const QRegularExpression form(
+      QStringLiteral("^\\s*(?:D:)?(\\d{4})(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(\\d\\d)?)?)?)?)?"
+                     "\\s*(?:(Z)|([+-])(\\d\\d)(?:'?(\\d\\d)'?)?)?"));
   const QRegularExpressionMatch match = form.match(text);
   if (!match.hasMatch()) return std::nullopt;
   const auto number = [&](int group, int otherwise) {

@@ -15,8 +15,8 @@ namespace norvex::engine {
 /// The facts of an opened file. Boxes are told for the first limits::maximumPageBoxes pages.
 [[nodiscard]] Result<PictureFacts> pdfFacts(PdfFile& file);
 
-/// A date of the document information, "D:YYYYMMDDHHmmSSOHH'mm'" with everything after the year optional and the
-/// leading "D:" optional. Without a zone the time is taken as UTC. Nothing when it is no date.
+/// A date of the document information, "D:YYYYMMDDHHmmSSOHH'mm'" with everything after the year optional and
+/// the leading "D:" optional. Without a zone the time is taken as UTC. Nothing when it is no date.
 [[nodiscard]] std::optional<QDateTime> parsePdfDate(const QString& text);
 
 /// The other way: "D:20240131235959+01'00'", "Z" for UTC.

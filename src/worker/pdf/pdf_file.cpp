@@ -7,8 +7,8 @@
 #include <new>
 #include <optional>
 
-#include "worker/pdf/pdf_page_tree.h"
 #include "protocol/limits.h"
+#include "worker/pdf/pdf_page_tree.h"
 
 namespace norvex::engine {
 namespace {

@@ -1,5 +1,5 @@
-// A PDF read with qpdf: its pages, their boxes, what qpdf had to repair. qpdf throws; nothing gets past this file's
-// guarded().
+// A PDF read with qpdf: its pages, their boxes, what qpdf had to repair. qpdf throws; nothing gets past this
+// file's guarded().
 #pragma once
 
 #include <QByteArray>
@@ -30,11 +30,13 @@ struct PageGeometry {
   [[nodiscard]] QSizeF shownSize() const;
   /// The page as it is shown: the box's lower-left corner and the shown size, points.
   [[nodiscard]] QRectF shownBounds() const;
-  /// The page's user space → picture coordinates (points, origin at the shown page's lower-left corner, y up).
+  /// The page's user space → picture coordinates (points, origin at the shown page's lower-left corner, y
+  /// up).
   [[nodiscard]] AffineTransform userToPicture() const;
 };
 
-/// What an exception of qpdf means; without `caught` being one of its kinds, NotParsable with a general sentence.
+/// What an exception of qpdf means; without `caught` being one of its kinds, NotParsable with a general
+/// sentence.
 [[nodiscard]] Error pdfError(const std::exception& caught);
 
 /// Runs `work`, which returns a Result, and turns every exception into an Error.
@@ -50,7 +52,8 @@ auto guarded(Work&& work) -> decltype(work()) {
 /// An opened PDF with at least one page. Single-threaded. Members may throw; call them inside guarded().
 class PdfFile {
  public:
-  /// Fails with Encrypted (a password is needed), NotParsable or Limit (more than limits::maximumPages pages).
+  /// Fails with Encrypted (a password is needed), NotParsable or Limit (more than limits::maximumPages
+  /// pages).
   [[nodiscard]] static Result<std::unique_ptr<PdfFile>> open(const QByteArray& bytes);
 
   [[nodiscard]] QPDF& qpdf() { return *qpdf_; }

@@ -89,7 +89,8 @@ Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
                     [&](cairo_t* context) { return paintPage(context, page->get(), shownSize); });
 }
 
-Result<QByteArray> PdfRenderer::vectors(QSizeF shownSize, const AffineTransform& pictureToSheet, QSizeF sheet) {
+Result<QByteArray> PdfRenderer::vectors(QSizeF shownSize, const AffineTransform& pictureToSheet,
+                                        QSizeF sheet) {
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
   const int count = poppler_document_get_n_pages(document_.get());
   return paintPdf(sheet, count, [&](cairo_t* context, int number) -> Result<void> {

@@ -1,5 +1,5 @@
-// Draws pages of a PDF with Poppler. Poppler is loaded with the first rendering; for facts only when a short page of an
-// Illustrator file must be read.
+// Draws pages of a PDF with Poppler. Poppler is loaded with the first rendering; for facts only when a short
+// page of an Illustrator file must be read.
 #pragma once
 
 #include <QByteArray>
@@ -21,14 +21,17 @@ class PdfRenderer {
  public:
   explicit PdfRenderer(QByteArray pdf) : pdf_(std::move(pdf)) {}
 
-  /// Draws request.page. `shownSize` is the page's size in picture coordinates (points); pixels outside the page
-  /// and pixels that the page does not paint stay transparent. Fails as paintImage() does, with NotParsable when
-  /// Poppler cannot read the document and with Unsupported when there is no such page.
-  [[nodiscard]] Result<Bitmap> render(const RenderRequest& request, QSizeF shownSize, const PictureLimits& limits);
+  /// Draws request.page. `shownSize` is the page's size in picture coordinates (points); pixels outside the
+  /// page and pixels that the page does not paint stay transparent. Fails as paintImage() does, with
+  /// NotParsable when Poppler cannot read the document and with Unsupported when there is no such page.
+  [[nodiscard]] Result<Bitmap> render(const RenderRequest& request, QSizeF shownSize,
+                                      const PictureLimits& limits);
   /// Draws every page as render() does, but as vectors: a PDF of as many pages. The pages are all of the same
-  /// `shownSize`; `pictureToSheet` maps picture coordinates to the new pages (`sheet` points large, origin at the
-  /// upper-left corner, y down). A line of less than a point on the new page is a point wide. Fails like render().
-  [[nodiscard]] Result<QByteArray> vectors(QSizeF shownSize, const AffineTransform& pictureToSheet, QSizeF sheet);
+  /// `shownSize`; `pictureToSheet` maps picture coordinates to the new pages (`sheet` points large, origin at
+  /// the upper-left corner, y down). A line of less than a point on the new page is a point wide. Fails like
+  /// render().
+  [[nodiscard]] Result<QByteArray> vectors(QSizeF shownSize, const AffineTransform& pictureToSheet,
+                                           QSizeF sheet);
   /// The words of a page in reading order. Fails like render().
   [[nodiscard]] Result<QString> text(int page);
 

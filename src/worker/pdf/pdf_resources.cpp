@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <set>
 
+#include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 #include "worker/pdf/pdf_colour_operators.h"
-#include "protocol/limits.h"
 
 namespace norvex::engine {
 namespace {

@@ -18,8 +18,8 @@ struct PdfResources {
 /// is damaged is passed over. REQUIRES 0 <= page < file.pageCount().
 [[nodiscard]] PdfResources pdfResources(PdfFile& file, int page);
 
-/// The fonts of the page that are not in the file and are none of the 14 that every reader has: others stand in for
-/// them when the page is drawn. Contents are not read. REQUIRES as above.
+/// The fonts of the page that are not in the file and are none of the 14 that every reader has: others stand
+/// in for them when the page is drawn. Contents are not read. REQUIRES as above.
 [[nodiscard]] QStringList missingFonts(PdfFile& file, int page);
 
 }  // namespace norvex::engine

@@ -34,7 +34,9 @@ void visitAll(QPDF& qpdf, const Visit& visit) {
   for (QPDFObjectHandle object : qpdf.getAllObjects()) visitDirect(object, visit, 0);
 }
 
-bool isLessThanOne(QPDFObjectHandle value) { return value.isNumber() && value.getNumericValue() < 1; }
+bool isLessThanOne(QPDFObjectHandle value) {
+  return value.isNumber() && value.getNumericValue() < 1;
+}
 
 bool isBlending(QPDFObjectHandle mode) {
   if (mode.isArray() && mode.getArrayNItems() > 0) mode = mode.getArrayItem(0);
@@ -49,7 +51,9 @@ void visitGraphicsStates(QPDFObjectHandle dictionary, const Visit& visit) {
     if (QPDFObjectHandle state = states.getKey(name); state.isDictionary()) visit(state);
 }
 
-bool isImage(QPDFObjectHandle dictionary) { return dictionary.getKey("/Subtype").isNameAndEquals("/Image"); }
+bool isImage(QPDFObjectHandle dictionary) {
+  return dictionary.getKey("/Subtype").isNameAndEquals("/Image");
+}
 
 }  // namespace
 

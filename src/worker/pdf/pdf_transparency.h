@@ -5,8 +5,8 @@
 
 namespace norvex::engine {
 
-/// Whether anything in the file may be painted other than opaquely: constant opacity, blend modes, soft masks.
-/// Transparency groups alone do not count. May throw; call it inside guarded().
+/// Whether anything in the file may be painted other than opaquely: constant opacity, blend modes, soft
+/// masks. Transparency groups alone do not count. May throw; call it inside guarded().
 [[nodiscard]] bool usesTransparency(QPDF& qpdf);
 
 /// Makes everything opaque: opacity, blend modes, soft masks and groups are dropped from every dictionary.

@@ -5,23 +5,24 @@
 #include <optional>
 #include <utility>
 
-#include "worker/postscript/distiller.h"
-#include "worker/postscript/ghostscript.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_numbers.h"
 #include "worker/pdf/pdf_writing.h"
+#include "worker/postscript/distiller.h"
+#include "worker/postscript/ghostscript.h"
 
 namespace norvex::engine {
 namespace {
 
 constexpr qsizetype kMaximumSubstitutions = 20;  // that are told
 
-// Runs before the document, whose program follows it in the same stream. The page is set once and for all: what a
-// document may do to it (setpagedevice) does nothing, and the operators that go back to the page's own coordinates
-// go back to the box's. The document runs inside `stopped`, so that its end is known: on an error one line with the
-// count of finished pages and the error's name is written, otherwise a last showpage makes up for a missing one (a
-// page too many is dropped later). Names are bound early: documents redefine operators.
+// Runs before the document, whose program follows it in the same stream. The page is set once and for all:
+// what a document may do to it (setpagedevice) does nothing, and the operators that go back to the page's own
+// coordinates go back to the box's. The document runs inside `stopped`, so that its end is known: on an error
+// one line with the count of finished pages and the error's name is written, otherwise a last showpage makes
+// up for a missing one (a page too many is dropped later). Names are bound early: documents redefine
+// operators.
 QByteArray prolog(const QRectF& box) {
   const QByteArray offset = decimal(-box.x(), 6) + ' ' + decimal(-box.y(), 6);
   const QByteArray size = decimal(box.width(), 6) + ' ' + decimal(box.height(), 6);
@@ -69,8 +70,8 @@ Error sentence(const ProgramError& error) {
 Error unexplained(const GhostscriptOutput& run) {
   static const QRegularExpression line(QStringLiteral("Error: /?([^\\n]+)"));
   const QRegularExpressionMatch match = line.match(QString::fromLatin1(run.messages));
-  const QString words = match.hasMatch() ? match.captured(1).simplified().left(120)
-                                         : QStringLiteral("it draws no page");
+  const QString words =
+      match.hasMatch() ? match.captured(1).simplified().left(120) : QStringLiteral("it draws no page");
   if (words.contains(u"VMerror"))
     return {ErrorKind::Limit, QStringLiteral("the PostScript needs more memory than it was granted")};
   return {ErrorKind::NotParsable, QStringLiteral("PostScript error: %1").arg(words)};
@@ -78,7 +79,8 @@ Error unexplained(const GhostscriptOutput& run) {
 
 // The fonts that were neither in the document nor on this machine.
 QStringList substitutions(const QByteArray& messages) {
-  static const QRegularExpression line(QStringLiteral("Substituting font (\\S{1,100}) for (\\S{1,100})\\.\\s"));
+  static const QRegularExpression line(
+      QStringLiteral("Substituting font (\\S{1,100}) for (\\S{1,100})\\.\\s"));
   QStringList warnings;
   for (auto match = line.globalMatch(QString::fromLatin1(messages)); match.hasNext();) {
     const QRegularExpressionMatch font = match.next();

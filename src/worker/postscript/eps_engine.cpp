@@ -1,14 +1,14 @@
 #include "worker/postscript/eps_engine.h"
 
-// The engine of Encapsulated PostScript. Facts come from the header; the program is run once, when something is to be
-// drawn, and from then on the picture is a PDF.
+// The engine of Encapsulated PostScript. Facts come from the header; the program is run once, when something
+// is to be drawn, and from then on the picture is a PDF.
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_program.h"
 #include "worker/pages/compose_page.h"
-#include "worker/postscript/distill.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/whole_page.h"
+#include "worker/postscript/distill.h"
 
 #include <optional>
 

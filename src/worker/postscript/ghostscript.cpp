@@ -20,7 +20,7 @@
 namespace norvex::engine {
 namespace {
 
-constexpr int kLookMilliseconds = 50;          // how often the cancel token is looked at
+constexpr int kLookMilliseconds = 50;  // how often the cancel token is looked at
 constexpr qsizetype kMaximumMessages = 64 << 10;
 
 struct Pipe {
@@ -113,7 +113,8 @@ qint64 milliseconds() {
 
 // Nothing while work may go on.
 Result<void> checkPatience(qint64 deadline, const EngineContext& context) {
-  if (context.cancel.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
+  if (context.cancel.cancelled())
+    return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
   if (milliseconds() >= deadline)
     return Error{ErrorKind::TimedOut,
                  QStringLiteral("the PostScript did not end within %1 seconds").arg(context.limits.seconds)};
@@ -156,7 +157,9 @@ Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::start(const QList<QB
   return child;
 }
 
-GhostscriptChild::~GhostscriptChild() { end(); }
+GhostscriptChild::~GhostscriptChild() {
+  end();
+}
 
 void GhostscriptChild::end() {
   closeDescriptor(input_);
@@ -170,7 +173,8 @@ void GhostscriptChild::end() {
   pid_ = -1;
 }
 
-Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input, const EngineContext& context) {
+Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
+                                                const EngineContext& context) {
   GhostscriptOutput collected;
   const qint64 deadline = milliseconds() + 1000LL * context.limits.seconds;
   const Result<void> pumped = pump(input, deadline, context, collected);
@@ -183,12 +187,13 @@ Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input, 
     return collected;
   }
   if (const int signal = WTERMSIG(*status); signal == SIGKILL || signal == SIGXCPU || signal == SIGXFSZ)
-    return Error{ErrorKind::Limit, QStringLiteral("the PostScript used up the time or memory that it was granted")};
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the PostScript used up the time or memory that it was granted")};
   return Error{ErrorKind::NotParsable, QStringLiteral("Ghostscript failed on the PostScript")};
 }
 
-Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadline, const EngineContext& context,
-                                    GhostscriptOutput& collected) {
+Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadline,
+                                    const EngineContext& context, GhostscriptOutput& collected) {
   const qsizetype maximum = qsizetype(context.limits.memoryMiB) << 20;
   Feed feed(input);
   while (output_ >= 0 || messages_ >= 0) {
@@ -205,12 +210,14 @@ Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadl
     if (collected.messages.size() > kMaximumMessages)
       collected.messages.remove(0, collected.messages.size() - kMaximumMessages);
     if (collected.output.size() >= maximum)
-      return Error{ErrorKind::Limit, QStringLiteral("the picture is larger than the memory that it was granted")};
+      return Error{ErrorKind::Limit,
+                   QStringLiteral("the picture is larger than the memory that it was granted")};
   }
   return {};
 }
 
-// Its pipes are closed, so it is as good as gone; a child of its own that kept them open would not be waited for.
+// Its pipes are closed, so it is as good as gone; a child of its own that kept them open would not be waited
+// for.
 Result<int> GhostscriptChild::reap(qint64 deadline, const EngineContext& context) {
   int status = 0;
   for (;;) {

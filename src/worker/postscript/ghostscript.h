@@ -17,28 +17,30 @@ struct GhostscriptOutput {
   int exitStatus = 0;
 };
 
-/// One run of gs. A started child initialises itself (about 100 ms) and then waits for its input, so it can be started
-/// before its document is there. It gets a process group of its own, ends with this process and inherits its limits
-/// and its confinement; the destructor kills the group. What it needs besides pipes: fork, execve of gs, prctl,
-/// setpgid, kill, wait4. Single-threaded. Sets SIGPIPE to be ignored in this process.
+/// One run of gs. A started child initialises itself (about 100 ms) and then waits for its input, so it can
+/// be started before its document is there. It gets a process group of its own, ends with this process and
+/// inherits its limits and its confinement; the destructor kills the group. What it needs besides pipes:
+/// fork, execve of gs, prctl, setpgid, kill, wait4. Single-threaded. Sets SIGPIPE to be ignored in this
+/// process.
 class GhostscriptChild {
  public:
-  /// `arguments` follow the program's name. TMPDIR is the context's scratch folder; the environment is empty besides.
-  /// Fails with Unsupported when gs cannot be started.
+  /// `arguments` follow the program's name. TMPDIR is the context's scratch folder; the environment is empty
+  /// besides. Fails with Unsupported when gs cannot be started.
   [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> start(const QList<QByteArray>& arguments,
                                                                        const QString& scratchFolder);
   GhostscriptChild(const GhostscriptChild&) = delete;
   GhostscriptChild& operator=(const GhostscriptChild&) = delete;
   ~GhostscriptChild();
 
-  /// Feeds `input`, piece after piece, and collects until gs ends. Once only. Fails with TimedOut (limits.seconds),
-  /// Cancelled, Limit (more output than limits.memoryMiB, or killed for what it used up) or NotParsable (gs crashed).
+  /// Feeds `input`, piece after piece, and collects until gs ends. Once only. Fails with TimedOut
+  /// (limits.seconds), Cancelled, Limit (more output than limits.memoryMiB, or killed for what it used up) or
+  /// NotParsable (gs crashed).
   [[nodiscard]] Result<GhostscriptOutput> run(const QList<QByteArray>& input, const EngineContext& context);
 
  private:
   GhostscriptChild() = default;
-  [[nodiscard]] Result<void> pump(const QList<QByteArray>& input, qint64 deadline, const EngineContext& context,
-                                  GhostscriptOutput& collected);
+  [[nodiscard]] Result<void> pump(const QList<QByteArray>& input, qint64 deadline,
+                                  const EngineContext& context, GhostscriptOutput& collected);
   [[nodiscard]] Result<int> reap(qint64 deadline, const EngineContext& context);
   void end();
   int pid_ = -1;

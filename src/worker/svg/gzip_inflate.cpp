@@ -32,12 +32,15 @@ class Inflater {
   QByteArray result_;
 };
 
-Error damaged() { return {ErrorKind::NotParsable, QStringLiteral("the compressed data is damaged")}; }
+Error damaged() {
+  return {ErrorKind::NotParsable, QStringLiteral("the compressed data is damaged")};
+}
 
 Result<void> Inflater::checkSize(qsizetype compressed) const {
   if (result_.size() > limits::maximumInflatedBytes)
-    return Error{ErrorKind::Limit, QStringLiteral("the compressed data holds more than %1 MiB")
-                                       .arg(limits::maximumInflatedBytes >> 20)};
+    return Error{
+        ErrorKind::Limit,
+        QStringLiteral("the compressed data holds more than %1 MiB").arg(limits::maximumInflatedBytes >> 20)};
   if (result_.size() > (1 << 20) && result_.size() / limits::maximumInflateRatio > compressed)
     return Error{ErrorKind::Limit, QStringLiteral("the compressed data grows to more than %1 times its size")
                                        .arg(limits::maximumInflateRatio)};
@@ -54,10 +57,12 @@ bool Inflater::nextMember() {
 }
 
 Result<QByteArray> Inflater::run(const QByteArray& bytes) {
-  if (!ready_) return Error{ErrorKind::Limit, QStringLiteral("there is not enough memory to inflate the data")};
+  if (!ready_)
+    return Error{ErrorKind::Limit, QStringLiteral("there is not enough memory to inflate the data")};
   if (bytes.size() > limits::maximumInflatedBytes)
-    return Error{ErrorKind::Limit, QStringLiteral("the compressed data is larger than %1 MiB")
-                                       .arg(limits::maximumInflatedBytes >> 20)};
+    return Error{
+        ErrorKind::Limit,
+        QStringLiteral("the compressed data is larger than %1 MiB").arg(limits::maximumInflatedBytes >> 20)};
   QByteArray chunk(kChunk, Qt::Uninitialized);
   stream_.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(bytes.constData()));
   stream_.avail_in = uInt(bytes.size());
@@ -80,7 +85,9 @@ Result<QByteArray> Inflater::run(const QByteArray& bytes) {
 
 }  // namespace
 
-bool isGzip(const QByteArray& bytes) { return bytes.startsWith("\x1f\x8b"); }
+bool isGzip(const QByteArray& bytes) {
+  return bytes.startsWith("\x1f\x8b");
+}
 
 Result<QByteArray> inflateGzip(const QByteArray& bytes) {
   Inflater inflater;

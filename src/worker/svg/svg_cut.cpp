@@ -17,7 +17,9 @@ namespace {
 constexpr char kNeutral[] =
     "display:inline;opacity:1;transform:none;filter:none;mask:none;clip-path:none;mix-blend-mode:normal;";
 
-QByteArray number(double value) { return QByteArray::number(std::abs(value) < 1e-9 ? 0.0 : value, 'g', 12); }
+QByteArray number(double value) {
+  return QByteArray::number(std::abs(value) < 1e-9 ? 0.0 : value, 'g', 12);
+}
 
 QByteArray attribute(const char* name, const QByteArray& value) {
   return QByteArray(" ") + name + "=\"" + value + '"';
@@ -28,8 +30,8 @@ QByteArray rectangle(double x, double y, double width, double height) {
 }
 
 QByteArray matrixOf(const AffineTransform& m) {
-  return "matrix(" + number(m.m11()) + ' ' + number(m.m12()) + ' ' + number(m.m21()) + ' ' + number(m.m22()) + ' ' +
-         number(m.dx()) + ' ' + number(m.dy()) + ')';
+  return "matrix(" + number(m.m11()) + ' ' + number(m.m12()) + ' ' + number(m.m21()) + ' ' + number(m.m22()) +
+         ' ' + number(m.dx()) + ' ' + number(m.dy()) + ')';
 }
 
 /// Writes the tags around the old root, and its own start tag anew.
@@ -62,11 +64,13 @@ class Wrapper {
 QByteArray Wrapper::before() const {
   const QByteArray space = prefix_.isEmpty() ? QByteArray("xmlns") : "xmlns:" + prefix_.chopped(1);
   const QRectF& r = cut_.rect;
-  QByteArray tag = '<' + name_ + attribute(space, "http://www.w3.org/2000/svg") + attribute("version", "1.1") +
-                   attribute("width", number(r.width()) + "pt") + attribute("height", number(r.height()) + "pt") +
+  QByteArray tag = '<' + name_ + attribute(space, "http://www.w3.org/2000/svg") +
+                   attribute("version", "1.1") + attribute("width", number(r.width()) + "pt") +
+                   attribute("height", number(r.height()) + "pt") +
                    attribute("viewBox", rectangle(r.x(), r.y(), r.width(), r.height()));
   if (cut_.styled)
-    tag += attribute("style", kNeutral + ("width:" + number(r.width()) + "pt;height:" + number(r.height()) + "pt;"));
+    tag += attribute("style",
+                     kNeutral + ("width:" + number(r.width()) + "pt;height:" + number(r.height()) + "pt;"));
   tag += ">\n";
   if (!turned()) return tag;
   tag += '<' + group() + attribute("transform", matrixOf(cut_.placing)) + ">\n";
@@ -135,8 +139,8 @@ QByteArray cutSvg(const QByteArray& utf8, const SvgCut& cut) {
   const qsizetype rootTagEnd = root->start + root->length;
   const SvgToken& last = tokens[root->end];
   const qsizetype rootEnd = last.start + last.length;
-  return utf8.left(root->start) + wrapper.before() + wrapper.rootTag() + utf8.mid(rootTagEnd, rootEnd - rootTagEnd) +
-         wrapper.after() + utf8.mid(rootEnd);
+  return utf8.left(root->start) + wrapper.before() + wrapper.rootTag() +
+         utf8.mid(rootTagEnd, rootEnd - rootTagEnd) + wrapper.after() + utf8.mid(rootEnd);
 }
 
 }  // namespace norvex::engine

@@ -10,19 +10,20 @@
 namespace norvex::engine {
 
 struct SvgCut {
-  QSizeF picture;      ///< size of the whole picture, points
-  QRectF rect;         ///< what the new document shows, points, y down
-  AffineTransform placing;  ///< from the picture (points, origin top-left, y down) to the space of `rect`; affine
+  QSizeF picture;  ///< size of the whole picture, points
+  QRectF rect;     ///< what the new document shows, points, y down
+  AffineTransform
+      placing;          ///< from the picture (points, origin top-left, y down) to the space of `rect`; affine
   bool styled = false;  ///< the document has style sheets, which must not take hold of what is put around it
 };
 
-/// Turns the picture clockwise (as seen on the screen, radians) about its centre, and moves it so that its bounding
-/// box has its top-left corner at the origin. Points, y down.
+/// Turns the picture clockwise (as seen on the screen, radians) about its centre, and moves it so that its
+/// bounding box has its top-left corner at the origin. Points, y down.
 [[nodiscard]] AffineTransform turnedInItsBox(const QSizeF& picture, double rotate);
 
-/// The document's own root becomes an inner <svg> as large as the whole picture, in a new root whose size and view
-/// box are the rectangle in points. Everything before, inside and behind the old root stays as written: document
-/// type, entities, definitions, styles, comments. REQUIRES text that inspectSvg() accepted.
+/// The document's own root becomes an inner <svg> as large as the whole picture, in a new root whose size and
+/// view box are the rectangle in points. Everything before, inside and behind the old root stays as written:
+/// document type, entities, definitions, styles, comments. REQUIRES text that inspectSvg() accepted.
 [[nodiscard]] QByteArray cutSvg(const QByteArray& utf8, const SvgCut& cut);
 
 }  // namespace norvex::engine

@@ -9,16 +9,16 @@
 #include <optional>
 #include <utility>
 
+#include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"
-#include "worker/svg/gzip_inflate.h"
 #include "worker/drawing/installed_fonts.h"
+#include "worker/svg/gzip_inflate.h"
 #include "worker/svg/svg_cut.h"
 #include "worker/svg/svg_inspection.h"
 #include "worker/svg/svg_length.h"
 #include "worker/svg/svg_pretty.h"
 #include "worker/svg/svg_renderer.h"
 #include "worker/svg/svg_text.h"
-#include "protocol/limits.h"
 
 namespace norvex::engine {
 namespace {
@@ -33,7 +33,11 @@ class SvgEngine final : public DocumentEngine {
   /// `source`: the document as it stands, not compressed.
   SvgEngine(QByteArray source, SvgText text, SvgInspection inspection, const SvgVectors& vectors,
             EngineContext& context)
-      : context_(context), vectors_(vectors), source_(std::move(source)), text_(std::move(text)), inspection_(std::move(inspection)),
+      : context_(context),
+        vectors_(vectors),
+        source_(std::move(source)),
+        text_(std::move(text)),
+        inspection_(std::move(inspection)),
         geometry_(svgGeometry(inspection_.rootAttributes)) {}
 
   /// Finds the picture's size. Call once, before anything else.
@@ -50,7 +54,9 @@ class SvgEngine final : public DocumentEngine {
   Result<const SvgRenderer*> renderer();
   [[nodiscard]] QSizeF points() const { return pixels_ * pointsPerPixel; }
   // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
-  [[nodiscard]] bool hugeParser() const { return inspection_.needsHugeParser && !inspection_.hasNestedDocument; }
+  [[nodiscard]] bool hugeParser() const {
+    return inspection_.needsHugeParser && !inspection_.hasNestedDocument;
+  }
   [[nodiscard]] bool needsOwnDocument(const AffineTransform& pixelsToDevice) const;
   Result<Bitmap> renderAsDocument(const RenderRequest& request, const AffineTransform& pixelsToDevice);
   [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_.value_or(QStringList()); }
@@ -71,7 +77,8 @@ class SvgEngine final : public DocumentEngine {
 };
 
 Result<void> SvgEngine::start(int page) const {
-  if (context_.cancel.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the request was cancelled")};
+  if (context_.cancel.cancelled())
+    return Error{ErrorKind::Cancelled, QStringLiteral("the request was cancelled")};
   if (page != 0) return Error{ErrorKind::Protocol, QStringLiteral("an SVG picture has one page")};
   return {};
 }
@@ -118,7 +125,8 @@ QStringList SvgEngine::warnings() const {
        QStringLiteral("the document refers to other files, which are never loaded (references: %1)")
            .arg(inspection_.outsideReferences));
   warn(inspection_.hasScript, QStringLiteral("the document has scripts, which are never run"));
-  warn(inspection_.hasAnimation, QStringLiteral("the document is animated and is shown as it stands at rest"));
+  warn(inspection_.hasAnimation,
+       QStringLiteral("the document is animated and is shown as it stands at rest"));
   return list;
 }
 
@@ -127,7 +135,8 @@ Result<PictureFacts> SvgEngine::facts() {
   facts.pageBounds = {QRectF(QPointF(0, 0), points())};
   facts.viewBox = geometry_.viewBox;
   facts.fonts = inspection_.fonts;
-  facts.colorSpaces = {QStringLiteral("sRGB")};  // the colours of the format; what else a document names is not drawn
+  facts.colorSpaces = {
+      QStringLiteral("sRGB")};  // the colours of the format; what else a document names is not drawn
   facts.title = inspection_.title;
   facts.description = inspection_.description;
   facts.encodingName = text_.encodingName;
@@ -138,20 +147,25 @@ Result<PictureFacts> SvgEngine::facts() {
   return facts;
 }
 
-// librsvg makes layers as large as the whole picture on the device, and makes them wrong when the picture is turned.
+// librsvg makes layers as large as the whole picture on the device, and makes them wrong when the picture is
+// turned.
 bool SvgEngine::needsOwnDocument(const AffineTransform& pixelsToDevice) const {
   constexpr double largestLayer = 32.0e6, longestSide = 16'000;
   if (!inspection_.hasLayers) return false;
-  const double width = pixels_.width() * pixelsToDevice.m11(), height = pixels_.height() * pixelsToDevice.m22();
+  const double width = pixels_.width() * pixelsToDevice.m11(),
+               height = pixels_.height() * pixelsToDevice.m22();
   const bool upright = pixelsToDevice.m12() == 0 && pixelsToDevice.m21() == 0 && width > 0 && height > 0;
   return !upright || std::max(width, height) > longestSide || width * height > largestLayer;
 }
 
-/// The part of the picture that is asked for becomes a document, and that is drawn upright: its layers are as large
-/// as the image.
-Result<Bitmap> SvgEngine::renderAsDocument(const RenderRequest& request, const AffineTransform& pixelsToDevice) {
-  const AffineTransform placing = AffineTransform::fromScale(1 / pointsPerPixel, 1 / pointsPerPixel) * pixelsToDevice;
-  const SvgCut part{points(), QRectF(QPointF(0, 0), QSizeF(request.pixelSize)), placing, inspection_.hasStyleSheet};
+/// The part of the picture that is asked for becomes a document, and that is drawn upright: its layers are as
+/// large as the image.
+Result<Bitmap> SvgEngine::renderAsDocument(const RenderRequest& request,
+                                           const AffineTransform& pixelsToDevice) {
+  const AffineTransform placing =
+      AffineTransform::fromScale(1 / pointsPerPixel, 1 / pointsPerPixel) * pixelsToDevice;
+  const SvgCut part{points(), QRectF(QPointF(0, 0), QSizeF(request.pixelSize)), placing,
+                    inspection_.hasStyleSheet};
   RenderRequest upright = request;
   upright.pictureToDevice = AffineTransform();
   std::unique_ptr<SvgRenderer> drawing;
@@ -189,7 +203,8 @@ SvgImageEffects SvgEngine::imageEffects() const {
   return effects;
 }
 
-// Counted are the elements whose own attributes ask for an effect; what style sheets ask for is not seen here.
+// Counted are the elements whose own attributes ask for an effect; what style sheets ask for is not seen
+// here.
 BytesReply SvgEngine::pdfReport() const {
   BytesReply report;
   report.warnings = drawingRemarks();
@@ -206,7 +221,8 @@ BytesReply SvgEngine::pdfReport() const {
 
 Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
   if (const Result<void> may = start(request.page); !may) return may.error();
-  if (!vectors_.toPdf) return Error{ErrorKind::Unsupported, QStringLiteral("this picture was opened to be drawn")};
+  if (!vectors_.toPdf)
+    return Error{ErrorKind::Unsupported, QStringLiteral("this picture was opened to be drawn")};
   if (!pdf_) {
     const Result<const SvgRenderer*> loaded = renderer();
     if (!loaded) return loaded.error();
@@ -219,7 +235,8 @@ Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
 
 Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {
   if (!vectors_.compose)
-    return Error{ErrorKind::Unsupported, QStringLiteral("this picture was opened to be drawn or to become a PDF")};
+    return Error{ErrorKind::Unsupported,
+                 QStringLiteral("this picture was opened to be drawn or to become a PDF")};
   Result<EngineBytes> whole = pdf({request.page});
   if (!whole) return whole;
   Result<EngineBytes> composed = vectors_.compose(whole->bytes, request, context_);
@@ -255,13 +272,15 @@ Result<std::unique_ptr<DocumentEngine>> openSvgWith(const SvgVectors& vectors, c
     plain = std::move(*inflated);
   }
   if (plain.size() > limits::maximumInflatedBytes)
-    return Error{ErrorKind::Limit,
-                 QStringLiteral("the document is larger than %1 MiB").arg(limits::maximumInflatedBytes >> 20)};
+    return Error{
+        ErrorKind::Limit,
+        QStringLiteral("the document is larger than %1 MiB").arg(limits::maximumInflatedBytes >> 20)};
   Result<SvgText> text = decodeSvgText(plain);
   if (!text) return text.error();
   Result<SvgInspection> inspection = inspectSvg(text->utf8);
   if (!inspection) return inspection.error();
-  auto engine = std::make_unique<SvgEngine>(std::move(plain), std::move(*text), std::move(*inspection), vectors, context);
+  auto engine = std::make_unique<SvgEngine>(std::move(plain), std::move(*text), std::move(*inspection),
+                                            vectors, context);
   if (const Result<void> measured = engine->measure(); !measured) return measured.error();
   return std::unique_ptr<DocumentEngine>(std::move(engine));
 }

@@ -13,20 +13,23 @@
 #include <optional>
 #include <utility>
 
+#include "protocol/limits.h"
 #include "worker/svg/svg_fonts.h"
 #include "worker/svg/svg_nesting.h"
 #include "worker/svg/svg_stretching.h"
-#include "protocol/limits.h"
 
 namespace norvex::engine {
 namespace {
 
 constexpr char kSvgNamespace[] = "http://www.w3.org/2000/svg";
-// Below libxml2's own bounds (10 million bytes, 256 levels), so that a document near them is told as needing more.
+// Below libxml2's own bounds (10 million bytes, 256 levels), so that a document near them is told as needing
+// more.
 constexpr qsizetype kOrdinaryText = 9'000'000;
 constexpr int kOrdinaryDepth = 240;
 
-QString text(const xmlChar* utf8) { return QString::fromUtf8(reinterpret_cast<const char*>(utf8)); }
+QString text(const xmlChar* utf8) {
+  return QString::fromUtf8(reinterpret_cast<const char*>(utf8));
+}
 
 struct FreeDocument {
   void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
@@ -51,14 +54,16 @@ class Inspector {
   static void startElement(void* user, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int,
                            const xmlChar**, int count, int, const xmlChar** attributes);
 
-  void start(const QString& name, const QString& prefix, const QString& uri, const QList<Attribute>& attributes);
+  void start(const QString& name, const QString& prefix, const QString& uri,
+             const QList<Attribute>& attributes);
   void end();
   void characters(const xmlChar* bytes, int length);
   void lookAt(const QString& name, const Attribute& attribute);
   void noteRadius(const QString& value);
   void followUrls(const QString& value);
   void lookAtReference(const QString& element, const QString& value);
-  void declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId, xmlChar* content);
+  void declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
+               xmlChar* content);
   xmlEntity* expand(xmlEntity* entity);
   void stop(ErrorKind kind, const QString& message);
   [[nodiscard]] Error parserError() const;
@@ -96,7 +101,8 @@ void Inspector::declare(const xmlChar* name, int type, const xmlChar* publicId, 
   xmlChar nothing[] = "";
   const bool parameter = type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY;
   if (!internal) ++found_.outsideReferences;
-  xmlAddDocEntity(entities_.get(), name, parameter ? XML_INTERNAL_PARAMETER_ENTITY : XML_INTERNAL_GENERAL_ENTITY,
+  xmlAddDocEntity(entities_.get(), name,
+                  parameter ? XML_INTERNAL_PARAMETER_ENTITY : XML_INTERNAL_GENERAL_ENTITY,
                   internal ? publicId : nullptr, internal ? systemId : nullptr, internal ? content : nothing);
 }
 
@@ -134,8 +140,9 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
   if (error_) return;
   textRun_ = 0;
   if (++depth_ > limits::maximumXmlDepth)
-    return stop(ErrorKind::Limit,
-                QStringLiteral("the elements of the document nest more than %1 deep").arg(limits::maximumXmlDepth));
+    return stop(
+        ErrorKind::Limit,
+        QStringLiteral("the elements of the document nest more than %1 deep").arg(limits::maximumXmlDepth));
   if (++elements_ > limits::maximumXmlElements)
     return stop(ErrorKind::Limit,
                 QStringLiteral("the document has more than %1 elements").arg(limits::maximumXmlElements));
@@ -166,7 +173,8 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
   }
   fonts_.element(svg ? name : QString());
   if (svg && name == QLatin1String("script")) found_.hasScript = true;
-  if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set"))) found_.hasAnimation = true;
+  if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set")))
+    found_.hasAnimation = true;
   QString id, transform, preserveAspectRatio;
   for (const Attribute& attribute : attributes) {
     if (attribute.name == QLatin1String("id")) id = attribute.value;
@@ -196,7 +204,8 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
   if (layers.contains(attribute.name) || (attribute.name == QLatin1String("style") && value.contains(layer)))
     found_.hasLayers = true;
   if (value.contains(QLatin1String("url("))) followUrls(value);
-  if (attribute.name == QLatin1String("href") && value.trimmed().startsWith('#')) nesting_.refer(value.trimmed().mid(1));
+  if (attribute.name == QLatin1String("href") && value.trimmed().startsWith('#'))
+    nesting_.refer(value.trimmed().mid(1));
   if (attribute.name == QLatin1String("href")) lookAtReference(name, value.trimmed());
 }
 
@@ -208,16 +217,17 @@ void Inspector::noteRadius(const QString& value) {
 
 void Inspector::followUrls(const QString& value) {
   static const QRegularExpression url("url\\(\\s*['\"]?#([^)'\"]*)");
-  for (auto match = url.globalMatch(value); match.hasNext();) nesting_.refer(match.next().captured(1).trimmed());
+  for (auto match = url.globalMatch(value); match.hasNext();)
+    nesting_.refer(match.next().captured(1).trimmed());
 }
 
 void Inspector::lookAtReference(const QString& element, const QString& value) {
   if (element == QLatin1String("a") || value.isEmpty() || value.startsWith('#')) return;
   if (!value.startsWith(QLatin1String("data:"), Qt::CaseInsensitive)) {
     ++found_.outsideReferences;
-  } else if (const QString type = value.left(64).toLower();
-             element == QLatin1String("include") || type.contains(QLatin1String("svg")) ||
-             type.contains(QLatin1String("xml"))) {
+  } else if (const QString type = value.left(64).toLower(); element == QLatin1String("include") ||
+                                                            type.contains(QLatin1String("svg")) ||
+                                                            type.contains(QLatin1String("xml"))) {
     found_.hasNestedDocument = true;
   }
 }
@@ -237,7 +247,8 @@ void Inspector::characters(const xmlChar* bytes, int length) {
   if (error_) return;
   textRun_ += length;
   if (textRun_ > kOrdinaryText) found_.needsHugeParser = true;
-  if (collecting_ != nullptr) collecting_->append(QString::fromUtf8(reinterpret_cast<const char*>(bytes), length));
+  if (collecting_ != nullptr)
+    collecting_->append(QString::fromUtf8(reinterpret_cast<const char*>(bytes), length));
 }
 
 xmlSAXHandler Inspector::handler() {
@@ -248,7 +259,8 @@ xmlSAXHandler Inspector::handler() {
   sax.characters = [](void* user, const xmlChar* bytes, int length) { self(user).characters(bytes, length); };
   sax.ignorableWhitespace = sax.characters;
   sax.cdataBlock = sax.characters;
-  sax.entityDecl = [](void* user, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
+  sax.entityDecl = [](void* user, const xmlChar* name, int type, const xmlChar* publicId,
+                      const xmlChar* systemId,
                       xmlChar* content) { self(user).declare(name, type, publicId, systemId, content); };
   sax.getEntity = [](void* user, const xmlChar* name) {
     return self(user).expand(xmlGetDocEntity(self(user).entities_.get(), name));
@@ -266,11 +278,13 @@ xmlSAXHandler Inspector::handler() {
 
 Error Inspector::parserError() const {
   const xmlError* error = xmlCtxtGetLastError(parser_.get());
-  if (error == nullptr) return {ErrorKind::NotParsable, QStringLiteral("the document is not well-formed XML")};
+  if (error == nullptr)
+    return {ErrorKind::NotParsable, QStringLiteral("the document is not well-formed XML")};
   if (error->code == XML_ERR_NO_MEMORY)
     return {ErrorKind::Limit, QStringLiteral("there is not enough memory to read the document")};
   if (error->code == XML_ERR_ENTITY_LOOP)
-    return {ErrorKind::Limit, QStringLiteral("the entities of the document refer to one another without end")};
+    return {ErrorKind::Limit,
+            QStringLiteral("the entities of the document refer to one another without end")};
   if (error->code == XML_ERR_DOCUMENT_EMPTY)
     return {ErrorKind::NotParsable, QStringLiteral("the document is not XML")};
   const QString reason = QString::fromUtf8(error->message).simplified().left(160);
@@ -281,20 +295,23 @@ Error Inspector::parserError() const {
 Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
   if (utf8.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the document is empty")};
   parser_.reset(xmlCreateMemoryParserCtxt(utf8.constData(), int(utf8.size())));
-  if (!parser_) return Error{ErrorKind::Limit, QStringLiteral("there is not enough memory to read the document")};
+  if (!parser_)
+    return Error{ErrorKind::Limit, QStringLiteral("there is not enough memory to read the document")};
   *parser_->sax = handler();
   parser_->userData = this;
-  // HUGE lifts libxml2's fixed bounds; ours are checked above instead. Neither the network, nor the external DTD
-  // subset, nor any external entity is ever loaded; and the text is UTF-8 whatever its declaration says.
+  // HUGE lifts libxml2's fixed bounds; ours are checked above instead. Neither the network, nor the external
+  // DTD subset, nor any external entity is ever loaded; and the text is UTF-8 whatever its declaration says.
   xmlCtxtUseOptions(parser_.get(), XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_IGNORE_ENC);
-  parser_->replaceEntities = 1;  // in attribute values too; the option of that name would load external entities
+  parser_->replaceEntities =
+      1;  // in attribute values too; the option of that name would load external entities
   xmlParseDocument(parser_.get());
   if (error_) return *error_;
   if (parser_->wellFormed == 0) return parserError();
-  if (found_.rootName.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the document is not XML")};
+  if (found_.rootName.isEmpty())
+    return Error{ErrorKind::NotParsable, QStringLiteral("the document is not XML")};
   if (nesting_.deepest() > limits::maximumDrawingDepth)
-    return Error{ErrorKind::Limit,
-                 QStringLiteral("the references of the document nest more than %1 deep").arg(limits::maximumDrawingDepth)};
+    return Error{ErrorKind::Limit, QStringLiteral("the references of the document nest more than %1 deep")
+                                       .arg(limits::maximumDrawingDepth)};
   found_.fonts = fonts_.families();
   found_.stretchedText = stretching_.reachesText();
   found_.fontLists = fonts_.lists();
@@ -306,6 +323,8 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
 
 }  // namespace
 
-Result<SvgInspection> inspectSvg(const QByteArray& utf8) { return Inspector().run(utf8); }
+Result<SvgInspection> inspectSvg(const QByteArray& utf8) {
+  return Inspector().run(utf8);
+}
 
 }  // namespace norvex::engine

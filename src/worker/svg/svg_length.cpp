@@ -8,12 +8,16 @@
 namespace norvex::engine {
 namespace {
 
-// Most pictures hold two lengths and a view box: to compile regular expressions for them takes longer than to open
-// a small picture.
+// Most pictures hold two lengths and a view box: to compile regular expressions for them takes longer than to
+// open a small picture.
 
-bool isSpace(QChar c) { return c == u' ' || (c >= u'\t' && c <= u'\r'); }
+bool isSpace(QChar c) {
+  return c == u' ' || (c >= u'\t' && c <= u'\r');
+}
 
-bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+bool isDigit(QChar c) {
+  return c >= u'0' && c <= u'9';
+}
 
 QStringView trimmed(QStringView text) {
   while (!text.isEmpty() && isSpace(text.front())) text = text.mid(1);
@@ -29,8 +33,9 @@ bool takeSeparator(QStringView& text) {
 }
 
 std::optional<double> pixelsPerUnit(const QString& unit, double fontSize) {
-  static const QHash<QString, double> absolute{
-      {"", 1.0}, {"px", 1.0}, {"pt", 96.0 / 72.0}, {"pc", 16.0}, {"mm", 96.0 / 25.4}, {"cm", 96.0 / 2.54}, {"in", 96.0}};
+  static const QHash<QString, double> absolute{{"", 1.0},    {"px", 1.0},         {"pt", 96.0 / 72.0},
+                                               {"pc", 16.0}, {"mm", 96.0 / 25.4}, {"cm", 96.0 / 2.54},
+                                               {"in", 96.0}};
   if (unit == QLatin1String("em")) return fontSize;
   if (unit == QLatin1String("ex")) return fontSize / 2;
   const auto found = absolute.constFind(unit);
@@ -43,13 +48,16 @@ double side(const std::optional<SvgLength>& length, double whole) {
   return length->isPercentage ? whole * length->percent / 100.0 : length->pixels;
 }
 
-bool isAbsolute(const std::optional<SvgLength>& length) { return length && !length->isPercentage; }
+bool isAbsolute(const std::optional<SvgLength>& length) {
+  return length && !length->isPercentage;
+}
 
 /// The value of a property in a style attribute's declarations; empty: it is not there.
 QString declared(const QString& style, const QString& property) {
   for (const QString& declaration : style.split(';')) {
     const qsizetype colon = declaration.indexOf(':');
-    if (colon > 0 && declaration.left(colon).trimmed().toLower() == property) return declaration.mid(colon + 1).trimmed();
+    if (colon > 0 && declaration.left(colon).trimmed().toLower() == property)
+      return declaration.mid(colon + 1).trimmed();
   }
   return {};
 }

@@ -23,12 +23,12 @@ struct SvgLength {
   bool isPercentage = false;
 };
 
-/// The number, as SVG writes them, that `text` begins with, which is taken away; it may be infinite. Nothing: `text`
-/// begins with none, and stays.
+/// The number, as SVG writes them, that `text` begins with, which is taken away; it may be infinite. Nothing:
+/// `text` begins with none, and stays.
 [[nodiscard]] std::optional<double> takeSvgNumber(QStringView& text);
 
-/// A number with px, pt, pc, mm, cm, in, em, ex, % or no unit (pixels), blanks around it allowed. Nothing: not a
-/// length, or not finite.
+/// A number with px, pt, pc, mm, cm, in, em, ex, % or no unit (pixels), blanks around it allowed. Nothing:
+/// not a length, or not finite.
 [[nodiscard]] std::optional<SvgLength> parseSvgLength(const QString& text, double fontSize = defaultFontSize);
 
 /// Four numbers, separated by blanks or commas. Nothing: fewer or more, not finite, or a negative size.
@@ -38,13 +38,14 @@ struct SvgLength {
 struct SvgGeometry {
   std::optional<SvgLength> width, height;  ///< nothing: absent, or no length (SVG 1.1: "100%")
   std::optional<QRectF> viewBox;           ///< user units
-  bool badWidth = false, badHeight = false, badViewBox = false;  ///< there, but not readable and so passed over
+  bool badWidth = false, badHeight = false,
+       badViewBox = false;  ///< there, but not readable and so passed over
 };
 [[nodiscard]] SvgGeometry svgGeometry(const QHash<QString, QString>& rootAttributes);
 
-/// The picture's size in pixels. A percentage, like an absent length, is a share of what the picture would have by
-/// itself: the view box's size (in its proportion where the other side is absolute), without one the extent of what
-/// is drawn (`drawn`, called only then), and 300 × 150 where nothing is drawn.
+/// The picture's size in pixels. A percentage, like an absent length, is a share of what the picture would
+/// have by itself: the view box's size (in its proportion where the other side is absolute), without one the
+/// extent of what is drawn (`drawn`, called only then), and 300 × 150 where nothing is drawn.
 [[nodiscard]] QSizeF svgPixelSize(const SvgGeometry& geometry, const std::function<QSizeF()>& drawn);
 
 }  // namespace norvex::engine

@@ -10,11 +10,12 @@ struct Edge {
   qint64 weight = 0;
 };
 
-/// Longest way through a graph whose cycles count as what can be walked in them at most. Tarjan's components, without recursion:
-/// the graph is as deep as a hostile document makes it.
+/// Longest way through a graph whose cycles count as what can be walked in them at most. Tarjan's components,
+/// without recursion: the graph is as deep as a hostile document makes it.
 class LongestWay {
  public:
-  LongestWay(QList<QList<Edge>> edges, QList<qint64> ends) : edges_(std::move(edges)), ends_(std::move(ends)) {
+  LongestWay(QList<QList<Edge>> edges, QList<qint64> ends)
+      : edges_(std::move(edges)), ends_(std::move(ends)) {
     const qsizetype count = edges_.size();
     index_.fill(-1, count);
     low_.fill(0, count);
@@ -60,7 +61,8 @@ void LongestWay::closeComponent(int root) {
       }
     }
   }
-  // The renderer follows every reference once on its way, and between two of them it may pass all that is around.
+  // The renderer follows every reference once on its way, and between two of them it may pass all that is
+  // around.
   longest_.append(inside * edgesInside + beyond);
 }
 
@@ -96,11 +98,14 @@ void SvgNesting::open(const QString& id) {
     enclosing_ = element;
   }
   open_.append(element);
-  for (int around = enclosing_; around >= 0 && elements_[around].deepestInside < depth_; around = elements_[around].enclosing)
+  for (int around = enclosing_; around >= 0 && elements_[around].deepestInside < depth_;
+       around = elements_[around].enclosing)
     elements_[around].deepestInside = depth_;
 }
 
-void SvgNesting::refer(const QString& id) { references_.append({enclosing_, depth_, id}); }
+void SvgNesting::refer(const QString& id) {
+  references_.append({enclosing_, depth_, id});
+}
 
 void SvgNesting::close() {
   if (open_.isEmpty()) return;
@@ -124,7 +129,8 @@ qint64 SvgNesting::deepest() const {
   }
   for (const Reference& reference : references_) {
     const auto to = byId_.constFind(reference.to);
-    if (to != byId_.cend()) edges[reference.from + 1].append({*to + 1, reference.depth - depthOf(reference.from) + 1});
+    if (to != byId_.cend())
+      edges[reference.from + 1].append({*to + 1, reference.depth - depthOf(reference.from) + 1});
   }
   return LongestWay(std::move(edges), std::move(ends)).from(0);
 }

@@ -7,16 +7,17 @@
 
 namespace norvex::engine {
 
-/// Fed with the elements in document order; asked once at the end. The renderer draws by recursion, so that a chain
-/// of references, each into another deep group, uses up its stack although no element of the document is deep.
+/// Fed with the elements in document order; asked once at the end. The renderer draws by recursion, so that a
+/// chain of references, each into another deep group, uses up its stack although no element of the document
+/// is deep.
 class SvgNesting {
  public:
-  void open(const QString& id);  ///< an element begins; `id` is empty where it has none
+  void open(const QString& id);   ///< an element begins; `id` is empty where it has none
   void refer(const QString& id);  ///< the element that began last refers to another one
   void close();
 
-  /// An upper bound of the levels: exact without cycles; on a cycle every reference is followed once on one way, as
-  /// the renderer does, and the bound is generous.
+  /// An upper bound of the levels: exact without cycles; on a cycle every reference is followed once on one
+  /// way, as the renderer does, and the bound is generous.
   [[nodiscard]] qint64 deepest() const;
 
  private:

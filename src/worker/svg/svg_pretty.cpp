@@ -13,8 +13,9 @@ namespace {
 
 /// Elements whose white space is drawn, shown or executed.
 bool keepsContent(QByteArrayView name) {
-  static const QSet<QByteArray> names{"text",  "tspan",  "textPath", "tref",          "altGlyph", "title",    "desc",
-                                      "style", "script", "flowRoot", "foreignObject", "flowPara", "flowSpan", "pre"};
+  static const QSet<QByteArray> names{"text",          "tspan",    "textPath", "tref",   "altGlyph",
+                                      "title",         "desc",     "style",    "script", "flowRoot",
+                                      "foreignObject", "flowPara", "flowSpan", "pre"};
   const qsizetype colon = name.lastIndexOf(':');
   return names.contains(name.sliced(colon + 1).toByteArray());
 }
@@ -69,7 +70,8 @@ bool Indenter::isLeaf(qsizetype index) const {
 }
 
 bool Indenter::staysWhole(qsizetype index) const {
-  return mixed_[index] || isLeaf(index) || keepsContent(tagName(text_, tokens_[index])) || preserves(tokens_[index]);
+  return mixed_[index] || isLeaf(index) || keepsContent(tagName(text_, tokens_[index])) ||
+         preserves(tokens_[index]);
 }
 
 void Indenter::line(QByteArrayView content) {
@@ -107,6 +109,8 @@ QByteArray Indenter::run() {
 
 }  // namespace
 
-QByteArray prettySvg(const QByteArray& utf8) { return Indenter(utf8).run(); }
+QByteArray prettySvg(const QByteArray& utf8) {
+  return Indenter(utf8).run();
+}
 
 }  // namespace norvex::engine

@@ -51,16 +51,17 @@ Result<std::unique_ptr<SvgRenderer>> SvgRenderer::create(const QByteArray& utf8,
   // The stream has no base file, and so no reference to another file can be resolved, let alone read.
   const std::unique_ptr<GInputStream, Unreference> stream(
       g_memory_input_stream_new_from_data(utf8.constData(), utf8.size(), nullptr));
-  // Images keep their compressed form, so that a PDF holds the JPEG itself. Without the fixed bounds of the parser
-  // (texts over 10 MB, nesting over 256) only what has passed our own limits is parsed.
+  // Images keep their compressed form, so that a PDF holds the JPEG itself. Without the fixed bounds of the
+  // parser (texts over 10 MB, nesting over 256) only what has passed our own limits is parsed.
   const int flags = RSVG_HANDLE_FLAG_KEEP_IMAGE_DATA | (hugeParser ? RSVG_HANDLE_FLAG_UNLIMITED : 0);
   GError* error = nullptr;
   auto handle = std::make_unique<Handle>();
-  handle->rsvg.reset(rsvg_handle_new_from_stream_sync(stream.get(), nullptr, static_cast<RsvgHandleFlags>(flags),
-                                                      nullptr, &error));
+  handle->rsvg.reset(rsvg_handle_new_from_stream_sync(stream.get(), nullptr,
+                                                      static_cast<RsvgHandleFlags>(flags), nullptr, &error));
   if (!handle->rsvg) {
     const QString why = reason(error);
-    return Error{kindOf(why, ErrorKind::NotParsable), QStringLiteral("the picture cannot be read: %1").arg(why)};
+    return Error{kindOf(why, ErrorKind::NotParsable),
+                 QStringLiteral("the picture cannot be read: %1").arg(why)};
   }
   rsvg_handle_set_dpi(handle->rsvg.get(), 96.0);
   return std::unique_ptr<SvgRenderer>(new SvgRenderer(std::move(handle)));
@@ -91,7 +92,8 @@ Result<void> SvgRenderer::draw(cairo_t* context, const QSizeF& pixels) const {
   cairo_restore(context);
   if (drawn) return {};
   const QString why = reason(error);
-  return Error{kindOf(why, ErrorKind::Unsupported), QStringLiteral("the picture cannot be drawn: %1").arg(why)};
+  return Error{kindOf(why, ErrorKind::Unsupported),
+               QStringLiteral("the picture cannot be drawn: %1").arg(why)};
 }
 
 }  // namespace norvex::engine

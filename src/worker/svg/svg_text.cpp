@@ -94,11 +94,14 @@ std::optional<QByteArray> toUtf8(const QByteArray& bytes, xmlCharEncodingHandler
     if (now == left) return std::nullopt;  // an incomplete character at the end
     left = now;
   }
-  return QByteArray(reinterpret_cast<const char*>(xmlBufferContent(output.get())), xmlBufferLength(output.get()));
+  return QByteArray(reinterpret_cast<const char*>(xmlBufferContent(output.get())),
+                    xmlBufferLength(output.get()));
 }
 
 // Whether the escapes of non-lossy ASCII could mistake a part of the text for one of theirs.
-bool isPlainAscii(const QByteArray& text) { return !text.contains('\\'); }
+bool isPlainAscii(const QByteArray& text) {
+  return !text.contains('\\');
+}
 
 void nameEncoding(SvgText& text) {
   const QByteArray name = text.declaredName.toLower();
@@ -108,7 +111,8 @@ void nameEncoding(SvgText& text) {
   };
   if (name == "euc-jp") return is("euc-jp", encoding::EucJp);
   if (name == "shift_jis" || name == "sjis" || name == "x-sjis") return is("shift_jis", encoding::ShiftJis);
-  if ((name == "us-ascii" || name == "ascii") && isPlainAscii(text.utf8)) return is("us-ascii", encoding::NonLossyAscii);
+  if ((name == "us-ascii" || name == "ascii") && isPlainAscii(text.utf8))
+    return is("us-ascii", encoding::NonLossyAscii);
   is("utf-8", encoding::Utf8);
   text.handedOnAsUtf8 = name != "utf-8" && name != "utf8" && name != "us-ascii" && name != "ascii";
 }
@@ -122,17 +126,20 @@ Result<SvgText> decodeSvgText(const QByteArray& bytes) {
   text.byteOrderMark = family.markBytes > 0;
   const QByteArray body = bytes.mid(family.markBytes);
   text.declaredName = declaredEncoding(body);
-  // A mark is stronger than the declaration; and 8-bit text that claims to be UTF-16 is a converter's left-over.
+  // A mark is stronger than the declaration; and 8-bit text that claims to be UTF-16 is a converter's
+  // left-over.
   const QByteArray upper = text.declaredName.toUpper();
-  if (text.byteOrderMark || upper.isEmpty() || upper == "UTF8" || upper.startsWith("UTF-16") || upper.startsWith("UCS-"))
+  if (text.byteOrderMark || upper.isEmpty() || upper == "UTF8" || upper.startsWith("UTF-16") ||
+      upper.startsWith("UCS-"))
     text.declaredName = "UTF-8";
   if (text.declaredName.toUpper() == "UTF-8") {
     text.utf8 = body;  // the XML parser refuses what is not UTF-8
   } else {
     Handler handler(xmlFindCharEncodingHandler(text.declaredName.constData()));
     if (!handler)
-      return Error{ErrorKind::NotParsable,
-                   QStringLiteral("the encoding %1 is not known").arg(QString::fromUtf8(text.declaredName.left(40)))};
+      return Error{
+          ErrorKind::NotParsable,
+          QStringLiteral("the encoding %1 is not known").arg(QString::fromUtf8(text.declaredName.left(40)))};
     const std::optional<QByteArray> decoded = toUtf8(body, handler.get());
     if (!decoded) return notText(text.declaredName);
     text.utf8 = *decoded;
@@ -154,7 +161,8 @@ QByteArray encodeSvgText(const QByteArray& utf8, const SvgText& like) {
       xmlOutputBufferCreateBuffer(target.get(), xmlFindCharEncodingHandler(like.declaredName.constData()));
   xmlOutputBufferWrite(output, int(utf8.size()), utf8.constData());
   xmlOutputBufferClose(output);
-  return QByteArray(reinterpret_cast<const char*>(xmlBufferContent(target.get())), xmlBufferLength(target.get()));
+  return QByteArray(reinterpret_cast<const char*>(xmlBufferContent(target.get())),
+                    xmlBufferLength(target.get()));
 }
 
 QByteArray withDeclaredEncoding(const QByteArray& utf8, const QByteArray& encoding) {

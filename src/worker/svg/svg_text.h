@@ -11,26 +11,26 @@ namespace norvex::engine {
 /// A document's text as UTF-8 without a byte-order mark, and what is needed to write it out as it came.
 struct SvgText {
   QByteArray utf8;  ///< the XML declaration, where there is one, still names the encoding of the bytes
-  /// One of the encoding names and its number (see metadata/header_dictionary.h). An encoding that has none there is
-  /// handed on as UTF-8, and encodeSvgText() writes it so.
+  /// One of the encoding names and its number (see metadata/header_dictionary.h). An encoding that has none
+  /// there is handed on as UTF-8, and encodeSvgText() writes it so.
   QString encodingName;
   int encodingNumber = 0;
-  QByteArray declaredName;   ///< as the document calls its encoding; "UTF-8" where it says nothing
+  QByteArray declaredName;      ///< as the document calls its encoding; "UTF-8" where it says nothing
   bool handedOnAsUtf8 = false;  ///< the document's own encoding is none of ours
   bool byteOrderMark = false;
   bool littleEndian = false;  ///< UTF-16 only
 };
 
-/// REQUIRES bytes that are not compressed. Fails with NotParsable: an encoding that nobody knows, or bytes that are
-/// not text in the encoding that they claim.
+/// REQUIRES bytes that are not compressed. Fails with NotParsable: an encoding that nobody knows, or bytes
+/// that are not text in the encoding that they claim.
 [[nodiscard]] Result<SvgText> decodeSvgText(const QByteArray& bytes);
 
-/// `utf8` in the encoding of `like`, with its byte-order mark; UTF-16 always gets one. A character that the encoding
-/// lacks becomes a character reference. Empty only when `utf8` is.
+/// `utf8` in the encoding of `like`, with its byte-order mark; UTF-16 always gets one. A character that the
+/// encoding lacks becomes a character reference. Empty only when `utf8` is.
 [[nodiscard]] QByteArray encodeSvgText(const QByteArray& utf8, const SvgText& like);
 
-/// The text with an XML declaration that names `encoding`, in the place of the one that it has; a text without a
-/// declaration, or with one that names no encoding, stays as it is.
+/// The text with an XML declaration that names `encoding`, in the place of the one that it has; a text
+/// without a declaration, or with one that names no encoding, stays as it is.
 [[nodiscard]] QByteArray withDeclaredEncoding(const QByteArray& utf8, const QByteArray& encoding);
 
 }  // namespace norvex::engine

@@ -6,7 +6,9 @@
 namespace norvex::engine {
 namespace {
 
-bool isSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+bool isSpace(char c) {
+  return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
 
 /// Cuts one token after the other from the text.
 class Scanner {
@@ -85,8 +87,9 @@ SvgToken Scanner::next() {
     end = documentTypeEnd();
   } else if (at("<")) {
     end = tagEnd();
-    token.kind = at("</") ? SvgTokenKind::EndTag
-                          : (end - at_ > 2 && text_[end - 2] == '/' ? SvgTokenKind::EmptyTag : SvgTokenKind::StartTag);
+    token.kind =
+        at("</") ? SvgTokenKind::EndTag
+                 : (end - at_ > 2 && text_[end - 2] == '/' ? SvgTokenKind::EmptyTag : SvgTokenKind::StartTag);
   } else {
     const qsizetype found = text_.indexOf('<', at_);
     end = found < 0 ? text_.size() : found;
@@ -112,7 +115,9 @@ QList<SvgToken> Scanner::run() {
 
 }  // namespace
 
-QList<SvgToken> tokenizeSvg(const QByteArray& utf8) { return Scanner(utf8).run(); }
+QList<SvgToken> tokenizeSvg(const QByteArray& utf8) {
+  return Scanner(utf8).run();
+}
 
 QByteArrayView tagName(const QByteArray& utf8, const SvgToken& token) {
   const QByteArrayView tag = QByteArrayView(utf8).sliced(token.start, token.length);
@@ -136,11 +141,14 @@ QList<SvgAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token)
     if (i >= tag.size() || nameEnd == name || (tag[i] != '"' && tag[i] != '\'')) return attributes;
     const qsizetype close = tag.indexOf(tag[i], i + 1);
     if (close < 0) return attributes;
-    attributes.append({tag.sliced(name, nameEnd - name), tag.sliced(i + 1, close - i - 1), tag.sliced(name, close + 1 - name)});
+    attributes.append({tag.sliced(name, nameEnd - name), tag.sliced(i + 1, close - i - 1),
+                       tag.sliced(name, close + 1 - name)});
     i = close + 1;
   }
 }
 
-bool isBlank(QByteArrayView text) { return std::all_of(text.begin(), text.end(), isSpace); }
+bool isBlank(QByteArrayView text) {
+  return std::all_of(text.begin(), text.end(), isSpace);
+}
 
 }  // namespace norvex::engine

@@ -7,7 +7,17 @@
 
 namespace norvex::engine {
 
-enum class SvgTokenKind { Declaration, DocumentType, Instruction, Comment, CharacterData, StartTag, EndTag, EmptyTag, Text };
+enum class SvgTokenKind {
+  Declaration,
+  DocumentType,
+  Instruction,
+  Comment,
+  CharacterData,
+  StartTag,
+  EndTag,
+  EmptyTag,
+  Text
+};
 
 /// A piece of the text, [start, start + length).
 struct SvgToken {
@@ -18,8 +28,8 @@ struct SvgToken {
   qsizetype end = 0;
 };
 
-/// REQUIRES text that inspectSvg() found well-formed (any other text is cut somehow, but within its bounds). All the
-/// tokens together are the text. Entity references are not looked into; they are part of a Text.
+/// REQUIRES text that inspectSvg() found well-formed (any other text is cut somehow, but within its bounds).
+/// All the tokens together are the text. Entity references are not looked into; they are part of a Text.
 [[nodiscard]] QList<SvgToken> tokenizeSvg(const QByteArray& utf8);
 
 /// Of a tag: the element's name as written, with its prefix.
@@ -28,8 +38,8 @@ struct SvgToken {
 /// One attribute of a tag, as written.
 struct SvgAttribute {
   QByteArrayView name;
-  QByteArrayView value;      ///< without the quotes
-  QByteArrayView all;        ///< from the name to the closing quote
+  QByteArrayView value;  ///< without the quotes
+  QByteArrayView all;    ///< from the name to the closing quote
 };
 [[nodiscard]] QList<SvgAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token);
 

@@ -16,14 +16,17 @@
 namespace norvex::engine {
 namespace {
 
-// ---- libtiff on bytes in memory ----------------------------------------------------------------------------------
+// ---- libtiff on bytes in memory
+// ----------------------------------------------------------------------------------
 
 struct Source {
   const QByteArray& bytes;
   quint64 position = 0;
 };
 
-Source& sourceOf(thandle_t handle) { return *static_cast<Source*>(handle); }
+Source& sourceOf(thandle_t handle) {
+  return *static_cast<Source*>(handle);
+}
 
 tmsize_t readSource(thandle_t handle, void* target, tmsize_t wanted) {
   Source& source = sourceOf(handle);
@@ -35,7 +38,9 @@ tmsize_t readSource(thandle_t handle, void* target, tmsize_t wanted) {
   return tmsize_t(count);
 }
 
-tmsize_t writeNothing(thandle_t, void*, tmsize_t) { return 0; }
+tmsize_t writeNothing(thandle_t, void*, tmsize_t) {
+  return 0;
+}
 
 toff_t seekSource(thandle_t handle, toff_t offset, int whence) {
   Source& source = sourceOf(handle);
@@ -44,8 +49,12 @@ toff_t seekSource(thandle_t handle, toff_t offset, int whence) {
   return source.position = offset;
 }
 
-int closeNothing(thandle_t) { return 0; }
-toff_t sizeOfSource(thandle_t handle) { return toff_t(sourceOf(handle).bytes.size()); }
+int closeNothing(thandle_t) {
+  return 0;
+}
+toff_t sizeOfSource(thandle_t handle) {
+  return toff_t(sourceOf(handle).bytes.size());
+}
 
 struct TiffClose {
   void operator()(TIFF* tiff) const { TIFFClose(tiff); }
@@ -56,7 +65,9 @@ struct OptionsFree {
   void operator()(TIFFOpenOptions* options) const { TIFFOpenOptionsFree(options); }
 };
 
-int keepSilent(TIFF*, void*, const char*, const char*, va_list) { return 1; }
+int keepSilent(TIFF*, void*, const char*, const char*, va_list) {
+  return 1;
+}
 
 TiffPointer openTiff(Source& source, qint64 maximumAllocation) {
   const std::unique_ptr<TIFFOpenOptions, OptionsFree> options(TIFFOpenOptionsAlloc());
@@ -64,11 +75,12 @@ TiffPointer openTiff(Source& source, qint64 maximumAllocation) {
   TIFFOpenOptionsSetErrorHandlerExtR(options.get(), keepSilent, nullptr);
   TIFFOpenOptionsSetWarningHandlerExtR(options.get(), keepSilent, nullptr);
   // "m": not mapped, the bytes are copied from memory that is there already.
-  return TiffPointer(TIFFClientOpenExt("preview", "rm", &source, readSource, writeNothing, seekSource, closeNothing,
-                                       sizeOfSource, nullptr, nullptr, options.get()));
+  return TiffPointer(TIFFClientOpenExt("preview", "rm", &source, readSource, writeNothing, seekSource,
+                                       closeNothing, sizeOfSource, nullptr, nullptr, options.get()));
 }
 
-// ---- the layout --------------------------------------------------------------------------------------------------
+// ---- the layout
+// --------------------------------------------------------------------------------------------------
 
 struct Layout {
   quint32 width = 0, height = 0;
@@ -100,17 +112,24 @@ Layout layoutOf(TIFF* tiff) {
   return layout;
 }
 
-// Colour samples of the layouts whose samples are taken as they are; nothing for the others, which libtiff is asked to
-// turn into RGB.
+// Colour samples of the layouts whose samples are taken as they are; nothing for the others, which libtiff is
+// asked to turn into RGB.
 std::optional<int> plainColours(const Layout& layout) {
   if (layout.format != SAMPLEFORMAT_UINT || layout.orientation != ORIENTATION_TOPLEFT) return std::nullopt;
   int colours = 0;
   switch (layout.photometric) {
     case PHOTOMETRIC_MINISWHITE:
-    case PHOTOMETRIC_MINISBLACK: colours = 1; break;
-    case PHOTOMETRIC_RGB: colours = 3; break;
-    case PHOTOMETRIC_SEPARATED: colours = 4; break;
-    default: return std::nullopt;
+    case PHOTOMETRIC_MINISBLACK:
+      colours = 1;
+      break;
+    case PHOTOMETRIC_RGB:
+      colours = 3;
+      break;
+    case PHOTOMETRIC_SEPARATED:
+      colours = 4;
+      break;
+    default:
+      return std::nullopt;
   }
   const bool grey = colours == 1 && layout.samples == 1;
   const bool depthIsKnown = layout.bits == 8 || layout.bits == 16 ||
@@ -125,7 +144,8 @@ const char* colourSpaceName(int colours) {
   return colours == 4 ? NSDeviceCMYKColorSpace : NSCalibratedRGBColorSpace;
 }
 
-// ---- samples as they are -----------------------------------------------------------------------------------------
+// ---- samples as they are
+// -----------------------------------------------------------------------------------------
 
 class SampleReader {
  public:
@@ -154,8 +174,8 @@ class SampleReader {
   [[nodiscard]] int planes() const { return layout_.planar == PLANARCONFIG_SEPARATE ? layout_.samples : 1; }
   [[nodiscard]] int samplesTogether() const { return planes() == 1 ? layout_.samples : 1; }
 
-  // Copies `count` pixels of a decoded row to (x, y). Depths below a byte come with one sample only, where the
-  // decoded row is the image's row.
+  // Copies `count` pixels of a decoded row to (x, y). Depths below a byte come with one sample only, where
+  // the decoded row is the image's row.
   void place(NSBitmapImageRep& image, const char* from, int plane, qint64 x, qint64 y, qint64 count) {
     char* row = image.data.data() + y * image.bytesPerRow;
     const int size = layout_.bits / 8;
@@ -167,7 +187,8 @@ class SampleReader {
     for (qint64 i = 0; i < count; ++i)
       for (int s = 0; s < together; ++s)
         if (const int target = plane + s; target < kept_)
-          std::memcpy(row + ((x + i) * kept_ + target) * size, from + (i * together + s) * size, size_t(size));
+          std::memcpy(row + ((x + i) * kept_ + target) * size, from + (i * together + s) * size,
+                      size_t(size));
   }
 
   bool readStrips(NSBitmapImageRep& image) {
@@ -200,7 +221,8 @@ class SampleReader {
           const quint64 columns = std::min<quint64>(tileWidth, layout_.width - x);
           const quint64 rows = std::min<quint64>(tileHeight, layout_.height - y);
           for (quint64 r = 0; r < rows && tmsize_t((r + 1) * quint64(rowSize)) <= size; ++r)
-            place(image, tile.constData() + r * quint64(rowSize), plane, qint64(x), qint64(y + r), qint64(columns));
+            place(image, tile.constData() + r * quint64(rowSize), plane, qint64(x), qint64(y + r),
+                  qint64(columns));
         }
     return true;
   }
@@ -217,8 +239,10 @@ class SampleReader {
   void premultiplySamples(NSBitmapImageRep& image) const {
     auto* pixel = reinterpret_cast<Sample*>(image.data.data());
     const quint64 full = std::numeric_limits<Sample>::max();
-    for (qsizetype i = 0, n = image.data.size() / qsizetype(sizeof(Sample)) / kept_; i < n; ++i, pixel += kept_)
-      for (int c = 0; c < colours_; ++c) pixel[c] = Sample((pixel[c] * quint64(pixel[colours_]) + full / 2) / full);
+    for (qsizetype i = 0, n = image.data.size() / qsizetype(sizeof(Sample)) / kept_; i < n;
+         ++i, pixel += kept_)
+      for (int c = 0; c < colours_; ++c)
+        pixel[c] = Sample((pixel[c] * quint64(pixel[colours_]) + full / 2) / full);
   }
   void premultiply(NSBitmapImageRep& image) const {
     layout_.bits == 16 ? premultiplySamples<quint16>(image) : premultiplySamples<quint8>(image);
@@ -230,7 +254,8 @@ class SampleReader {
   int kept_;  ///< samples of a pixel in the result: colours and alpha
 };
 
-// ---- everything else, by way of libtiff's RGB ---------------------------------------------------------------------
+// ---- everything else, by way of libtiff's RGB
+// ---------------------------------------------------------------------
 
 // libtiff gives premultiplied pixels, red in the lowest byte.
 bool readAsRgb(TIFF* tiff, const Layout& layout, NSBitmapImageRep& image, qint64 maximumBytes) {
@@ -238,8 +263,8 @@ bool readAsRgb(TIFF* tiff, const Layout& layout, NSBitmapImageRep& image, qint64
   const qint64 pixels = qint64(layout.width) * layout.height;
   if (pixels * 8 > maximumBytes || !TIFFRGBAImageOK(tiff, reason)) return false;
   QByteArray raster(pixels * 4, '\0');
-  if (!TIFFReadRGBAImageOriented(tiff, layout.width, layout.height, reinterpret_cast<uint32_t*>(raster.data()),
-                                 ORIENTATION_TOPLEFT, 1))
+  if (!TIFFReadRGBAImageOriented(tiff, layout.width, layout.height,
+                                 reinterpret_cast<uint32_t*>(raster.data()), ORIENTATION_TOPLEFT, 1))
     return false;
   image.hasAlpha = layout.hasAlpha;
   image.samplesPerPixel = layout.hasAlpha ? 4 : 3;
@@ -285,7 +310,8 @@ Result<NSBitmapImageRep> decodeTiff(const QByteArray& tiff, const PictureLimits&
   if (layout.width == 0 || layout.height == 0) return unreadable;
   if (layout.width > quint32(limits::maximumSide) || layout.height > quint32(limits::maximumSide) ||
       double(layout.width) * layout.height > limits.megapixels * 1e6)
-    return Error{ErrorKind::Limit, QStringLiteral("the preview has more than %1 megapixels").arg(limits.megapixels)};
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the preview has more than %1 megapixels").arg(limits.megapixels)};
   NSBitmapImageRep image;
   image.pixelsWide = int(layout.width);
   image.pixelsHigh = int(layout.height);

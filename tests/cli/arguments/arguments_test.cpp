@@ -5,11 +5,11 @@
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
-#include "cli/cli_files.h"
-#include "cli/command_line.h"
 #include "cli/arguments/help_text.h"
 #include "cli/arguments/shell_completion.h"
 #include "cli/arguments/suggestion.h"
+#include "cli/cli_files.h"
+#include "cli/command_line.h"
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -43,14 +43,15 @@ class ArgumentsTest : public QObject {
     QTest::newRow("unknown option") << QStringList{"info", "f", "--bogus"} << "there is no option --bogus";
     QTest::newRow("option of another command")
         << QStringList{"source", "f", "--json"} << "there is no option --json";
-    QTest::newRow("mistyped option")
-        << QStringList{"convert", "f", "--fromat=pdf"} << "there is no option --fromat, perhaps --format is meant";
+    QTest::newRow("mistyped option") << QStringList{"convert", "f", "--fromat=pdf"}
+                                     << "there is no option --fromat, perhaps --format is meant";
     QTest::newRow("unknown letter") << QStringList{"info", "-d", "f"} << "there is no option -d";
-    QTest::newRow("unknown long option of one letter") << QStringList{"info", "--d", "f"} << "there is no option --d";
+    QTest::newRow("unknown long option of one letter")
+        << QStringList{"info", "--d", "f"} << "there is no option --d";
     QTest::newRow("value of a switch")
         << QStringList{"info", "f", "--json=yes"} << "unexpected value after '--json'";
-    QTest::newRow("output twice")
-        << QStringList{"convert", "f", "-o", "a.pdf", "--output=b.pdf"} << "--output is given more than once";
+    QTest::newRow("output twice") << QStringList{"convert", "f", "-o", "a.pdf", "--output=b.pdf"}
+                                  << "--output is given more than once";
     QTest::newRow("mistyped command")
         << QStringList{"convret", "f", "-o", "g.pdf"}
         << "there is no command convret, and no file of that name, perhaps convert is meant";
@@ -71,7 +72,8 @@ class ArgumentsTest : public QObject {
     CommandLine line;
     QCOMPARE(line.run(given), 2);
     QVERIFY(line.console.output.isEmpty());
-    QVERIFY2(line.console.messages.startsWith("norvex: " + complaint + "; norvex "), qPrintable(line.console.messages));
+    QVERIFY2(line.console.messages.startsWith("norvex: " + complaint + "; norvex "),
+             qPrintable(line.console.messages));
     QCOMPARE(line.console.messages.count('\n'), 1);
   }
 
@@ -204,13 +206,17 @@ class ArgumentsTest : public QObject {
     }
     QProcess shell;
     shell.setWorkingDirectory(folder.path());
-    shell.start(bash, {"--norc", "-c", completionScript("bash") +
-                                           "COMP_WORDS=(norvex in); COMP_CWORD=1; _norvex; printf '<%s>' \"${COMPREPLY[@]}\" | sort"});
+    shell.start(
+        bash,
+        {"--norc", "-c",
+         completionScript("bash") +
+             "COMP_WORDS=(norvex in); COMP_CWORD=1; _norvex; printf '<%s>' \"${COMPREPLY[@]}\" | sort"});
     QVERIFY(shell.waitForFinished());
     const QString reply = QString::fromUtf8(shell.readAllStandardOutput()).trimmed();
     QCOMPARE(shell.readAllStandardError(), QByteArray());
     QCOMPARE(reply.count('<'), 3);
-    QVERIFY(reply.contains("<info>") && reply.contains("<in my hand.eps>") && reply.contains("<in * two.eps>"));
+    QVERIFY(reply.contains("<info>") && reply.contains("<in my hand.eps>") &&
+            reply.contains("<in * two.eps>"));
   }
 };
 

@@ -1,10 +1,10 @@
 // Every lie and every death that a picture process in the hands of a hostile document can think of.
 #include <thread>
 
+#include "kit/process_watch.h"
 #include "kit/test_main.h"
 #include "picture/client/worker_client.h"
 #include "picture/client/worker_service.h"
-#include "kit/process_watch.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -106,8 +106,8 @@ class MisbehavingWorkerTest : public QObject {
     const auto process = service_->open("twice", PictureKind::Pdf, kLimits);
     QVERIFY(process->render(drawing()).ok());
     const qint64 liar = static_cast<WorkerClient&>(*process).processId();
-    // The second answer costs the process its life. It costs the next caller an error only if it comes so late that
-    // it is taken for his.
+    // The second answer costs the process its life. It costs the next caller an error only if it comes so
+    // late that it is taken for his.
     const auto next = process->render(drawing());
     QVERIFY(next.ok() || next.error().kind == ErrorKind::Protocol);
     QVERIFY(eventually([&] { return stateOf(liar) == 0; }));
@@ -124,7 +124,8 @@ class MisbehavingWorkerTest : public QObject {
     for (const char* mode : {"negative-dpi", "impossible-dpi"}) {
       const auto process = service_->open(mode, PictureKind::Pdf, kLimits);
       QCOMPARE(process->pdf({}).error().kind, ErrorKind::Protocol);
-      QCOMPARE(process->compose({VectorFormat::Eps, 0, QRectF(0, 0, 1, 1), 0}).error().kind, ErrorKind::Protocol);
+      QCOMPARE(process->compose({VectorFormat::Eps, 0, QRectF(0, 0, 1, 1), 0}).error().kind,
+               ErrorKind::Protocol);
     }
   }
 

@@ -5,9 +5,9 @@
 #include <thread>
 #include <vector>
 
+#include "kit/process_watch.h"
 #include "kit/test_main.h"
 #include "picture/client/worker_service.h"
-#include "kit/process_watch.h"
 
 using namespace norvex;
 using namespace norvex::kit;

@@ -10,9 +10,9 @@
 #include <thread>
 
 #include "kit/forked_check.h"
+#include "kit/process_watch.h"
 #include "kit/test_main.h"
 #include "picture/client/worker_client.h"
-#include "kit/process_watch.h"
 
 using namespace norvex;
 using namespace norvex::kit;

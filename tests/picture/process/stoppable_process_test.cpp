@@ -26,7 +26,8 @@ class StoppableProcessTest : public QObject {
     const auto process = stoppable.open("bytes", PictureKind::Pdf);
     QVERIFY(process->facts() && process->pdf({}) && process->compose({}) && process->svg({}));
     QVERIFY(process->render(small()));
-    for (PictureCall call : {PictureCall::Facts, PictureCall::Pdf, PictureCall::Compose, PictureCall::Svg, PictureCall::Render})
+    for (PictureCall call :
+         {PictureCall::Facts, PictureCall::Pdf, PictureCall::Compose, PictureCall::Svg, PictureCall::Render})
       QCOMPARE(service.lastProcess()->calls(call), 1);
     QCOMPARE(service.openedKinds(), QList<PictureKind>{PictureKind::Pdf});
   }
@@ -34,7 +35,8 @@ class StoppableProcessTest : public QObject {
   void stopEndsRenderingsAndRefusesLaterOnes() {
     MemoryPictureService service;
     StoppableService stoppable(service, CancelToken());
-    const auto process = std::dynamic_pointer_cast<StoppableProcess>(stoppable.open("bytes", PictureKind::Pdf));
+    const auto process =
+        std::dynamic_pointer_cast<StoppableProcess>(stoppable.open("bytes", PictureKind::Pdf));
     QVERIFY(process);
     service.lastProcess()->hold(PictureCall::Render);
     auto first = QtConcurrent::run([&] { return process->render(small()); });

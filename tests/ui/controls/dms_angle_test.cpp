@@ -1,6 +1,6 @@
 // Angles packed into the digits of a number.
-#include "kit/test_main.h"
 #include "ui/controls/dms_angle.h"
+#include "kit/test_main.h"
 
 using namespace norvex;
 
@@ -28,7 +28,8 @@ class DmsAngleTest : public QObject {
   void everySecondOfATurnComesBackExactly() {
     for (int seconds = -360 * 3600; seconds <= 360 * 3600; seconds += 7) {
       const double degrees = seconds / 3600.0;
-      QVERIFY2(std::abs(dms::toDegrees(dms::fromDegrees(degrees)) - degrees) < 1e-9, qPrintable(QString::number(seconds)));
+      QVERIFY2(std::abs(dms::toDegrees(dms::fromDegrees(degrees)) - degrees) < 1e-9,
+               qPrintable(QString::number(seconds)));
     }
   }
 

@@ -1,6 +1,6 @@
 // Numbers by a three-part pattern, and the field that shows them.
-#include "kit/test_main.h"
 #include "ui/controls/number_field.h"
+#include "kit/test_main.h"
 #include "ui/controls/number_format.h"
 
 using namespace norvex;
@@ -41,11 +41,13 @@ class NumberFieldTest : public QObject {
     QCOMPARE(NumberFormat::number("12,5").value(), 12.5);
     QCOMPARE(NumberFormat::number(" -.5 ").value(), -0.5);
     QCOMPARE(NumberFormat::number("\u22123").value(), -3.0);
-    for (const char* wrong : {"", "abc", "nan", "inf", "1e999", "1.2.3"}) QVERIFY2(!NumberFormat::number(wrong), wrong);
+    for (const char* wrong : {"", "abc", "nan", "inf", "1e999", "1.2.3"})
+      QVERIFY2(!NumberFormat::number(wrong), wrong);
   }
 
   void everyShownNumberReadsBack() {
-    for (double value : {0.0, 0.1, -0.1, 12.3045, -359.5959, 123456.7891}) QCOMPARE(NumberFormat::number(kAngle.string(value)).value(), value);
+    for (double value : {0.0, 0.1, -0.1, 12.3045, -359.5959, 123456.7891})
+      QCOMPARE(NumberFormat::number(kAngle.string(value)).value(), value);
   }
 
   void typingTellsOnceAndNonsenseIsTakenBack() {

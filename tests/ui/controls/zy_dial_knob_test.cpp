@@ -17,7 +17,8 @@ struct Dial {
     knob.setDmsTextField(&field);
   }
   void wheel(int notches, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QWheelEvent event(QPointF(50, 50), knob.mapToGlobal(QPointF(50, 50)), {}, {0, 120 * notches}, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QWheelEvent event(QPointF(50, 50), knob.mapToGlobal(QPointF(50, 50)), {}, {0, 120 * notches},
+                      Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&knob, &event);
   }
   ZyDialKnob knob;
@@ -44,7 +45,8 @@ class ZyDialKnobTest : public QObject {
   void aPressOnTheRimTurnsTheKnobThere() {
     Dial dial;
     QSignalSpy turned(&dial.knob, &ZyDialKnob::turned);
-    QTest::mouseClick(&dial.knob, Qt::LeftButton, {}, {5, 50});  // at the left: a quarter turn counter-clockwise
+    QTest::mouseClick(&dial.knob, Qt::LeftButton, {},
+                      {5, 50});  // at the left: a quarter turn counter-clockwise
     QCOMPARE(dial.knob.DMSValue(), 90.0);
     QCOMPARE(dial.field.doubleValue(), 90.0);
     QCOMPARE(turned.size(), 1);
@@ -123,7 +125,9 @@ class ZyDialKnobTest : public QObject {
     const QColor accent = dial.knob.palette().color(QPalette::Highlight);
     const auto needleAt = [&](QPoint point) {
       const QColor seen = dial.knob.grab().toImage().pixelColor(point);
-      return std::abs(seen.red() - accent.red()) + std::abs(seen.green() - accent.green()) + std::abs(seen.blue() - accent.blue()) < 60;
+      return std::abs(seen.red() - accent.red()) + std::abs(seen.green() - accent.green()) +
+                 std::abs(seen.blue() - accent.blue()) <
+             60;
     };
     QVERIFY(needleAt({50, 22}));
     dial.knob.setDMSValue(90);

@@ -40,7 +40,8 @@ class Drawing final : public PrintableView {
 NSPrintInfo a4() {
   NSPrintInfo info;
   info.setPaper(*paperNamed("A4"));
-  for (const char* margin : {NSPrintLeftMargin, NSPrintRightMargin, NSPrintTopMargin, NSPrintBottomMargin}) info.set(margin, 0.0);
+  for (const char* margin : {NSPrintLeftMargin, NSPrintRightMargin, NSPrintTopMargin, NSPrintBottomMargin})
+    info.set(margin, 0.0);
   return info;
 }
 
@@ -200,7 +201,8 @@ class PrintPanelTest : public QObject {
     QVERIFY(std::abs(chosen.topMargin() - 10 * 72 / 25.4) < 1e-9);
     QCOMPARE(chosen.leftMargin(), 12.3456);
     QCOMPARE(chosen.scalingFactor(), 1.0 / 3);
-    QVERIFY(chosen.printsHeaderAndFooter() && !chosen.isVerticallyCentered() && chosen.isHorizontallyCentered());
+    QVERIFY(chosen.printsHeaderAndFooter() && !chosen.isVerticallyCentered() &&
+            chosen.isHorizontallyCentered());
     QCOMPARE(chosen.dictionary().value("SomebodysEntry"), QVariant(5));
   }
 

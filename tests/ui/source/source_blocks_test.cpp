@@ -1,6 +1,6 @@
 // Source texts in pieces, their colours, and finding in them.
-#include "kit/test_main.h"
 #include "ui/source/source_blocks.h"
+#include "kit/test_main.h"
 #include "ui/source/source_colouring.h"
 #include "ui/source/source_matches.h"
 
@@ -58,15 +58,18 @@ class SourceBlocksTest : public QObject {
   }
 
   void positionsGoThereAndBack() {
-    const QString text = QStringLiteral("ab\r\n") + QString(SourceBlocks::longestBlock + 500, u'x') + QStringLiteral("\r\rend");
+    const QString text = QStringLiteral("ab\r\n") + QString(SourceBlocks::longestBlock + 500, u'x') +
+                         QStringLiteral("\r\rend");
     const SourceBlocks blocks(text);
     for (qsizetype at = 0; at <= text.size(); ++at) {
-      const bool insideLineEnd = at > 0 && at < text.size() && text.at(at - 1) == u'\r' && text.at(at) == u'\n';
+      const bool insideLineEnd =
+          at > 0 && at < text.size() && text.at(at - 1) == u'\r' && text.at(at) == u'\n';
       const qsizetype back = blocks.textPosition(blocks.shownPosition(at));
       QCOMPARE(back, insideLineEnd ? at - 1 : at);
     }
     // "ab", a separator, a whole block of the x, a separator, one more x.
-    QCOMPARE(blocks.shownPosition(4 + SourceBlocks::longestBlock + 1), qsizetype(3 + SourceBlocks::longestBlock + 1 + 1));
+    QCOMPARE(blocks.shownPosition(4 + SourceBlocks::longestBlock + 1),
+             qsizetype(3 + SourceBlocks::longestBlock + 1 + 1));
   }
 
   void whatIsCopiedIsTheTextWithPlainLineEnds() {
@@ -93,8 +96,8 @@ class SourceBlocksTest : public QObject {
 
   void tagsValuesAndCommentsOfMarkup() {
     QCOMPARE(coloured(QStringLiteral("<?xml version=\"1.0\"?><g id='a>b'>t<!-- <x> --></g><b/>")),
-             QStringList({"Tag:<?xml", "Value:\"1.0\"", "Tag:?>", "Tag:<g", "Value:'a>b'", "Tag:>", "Comment:<!-- <x> -->", "Tag:</g",
-                          "Tag:>", "Tag:<b", "Tag:/>"}));
+             QStringList({"Tag:<?xml", "Value:\"1.0\"", "Tag:?>", "Tag:<g", "Value:'a>b'", "Tag:>",
+                          "Comment:<!-- <x> -->", "Tag:</g", "Tag:>", "Tag:<b", "Tag:/>"}));
   }
 
   void aPartInsideATagOrACommentKnowsWhereItIs() {
@@ -111,7 +114,8 @@ class SourceBlocksTest : public QObject {
 
   void unfinishedMarkupEndsWithThePart() {
     for (const char* text : {"<", "<a", "<a b=\"", "<!--", "<![CDATA[", "<a b='<'", "<a <b"})
-      for (const SourceSpan& span : sourceSpans(QString::fromLatin1(text), SourceLanguage::Markup, 0, qstrlen(text)))
+      for (const SourceSpan& span :
+           sourceSpans(QString::fromLatin1(text), SourceLanguage::Markup, 0, qstrlen(text)))
         QVERIFY2(span.start >= 0 && span.start + span.length <= qsizetype(qstrlen(text)), text);
   }
 

@@ -16,7 +16,8 @@ using namespace norvex;
 
 namespace {
 
-const QString kPostScript = QStringLiteral("%!PS-Adobe-3.0\n%%Title: Box\n0 0 moveto\n10 0 LINETO\n0 10 lineto % up\nlineto\n");
+const QString kPostScript =
+    QStringLiteral("%!PS-Adobe-3.0\n%%Title: Box\n0 0 moveto\n10 0 LINETO\n0 10 lineto % up\nlineto\n");
 
 struct Pane {
   explicit Pane(const QString& text) {

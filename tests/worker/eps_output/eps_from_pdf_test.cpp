@@ -6,10 +6,10 @@
 #include "kit/test_main.h"
 #include "metadata/eps_bounding_box.h"
 #include "worker/engine/engine.h"
-#include "worker/kit/eps_kit.h"
 #include "worker/eps_output/eps_writing.h"
-#include "worker/kit/made_pdf.h"
 #include "worker/eps_output/transparent_regions.h"
+#include "worker/kit/eps_kit.h"
+#include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
 
 using namespace norvex;

@@ -5,9 +5,9 @@
 #include <functional>
 
 #include "kit/test_main.h"
+#include "worker/eps_output/postscript_shading.h"
 #include "worker/kit/eps_kit.h"
 #include "worker/kit/made_pdf.h"
-#include "worker/eps_output/postscript_shading.h"
 
 using namespace norvex;
 using namespace norvex::engine;

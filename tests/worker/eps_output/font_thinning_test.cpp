@@ -1,8 +1,8 @@
 #include <QFile>
 
 #include "kit/test_main.h"
-#include "worker/kit/eps_kit.h"
 #include "worker/eps_output/font_thinning.h"
+#include "worker/kit/eps_kit.h"
 #include "worker/kit/made_pdf.h"
 
 using namespace norvex;

@@ -28,7 +28,8 @@ QByteArray written(const GfxPath& path) {
 QByteArray polygon(std::initializer_list<QPointF> corners) {
   GfxPath path;
   path.moveTo(corners.begin()->x(), corners.begin()->y());
-  for (auto corner = corners.begin() + 1; corner != corners.end(); ++corner) path.lineTo(corner->x(), corner->y());
+  for (auto corner = corners.begin() + 1; corner != corners.end(); ++corner)
+    path.lineTo(corner->x(), corner->y());
   path.close();
   return written(path);
 }

@@ -12,9 +12,9 @@
 #include <cmath>
 #include <utility>
 
+#include "worker/engine/engine.h"
 #include "worker/eps_output/eps_from_pdf.h"
 #include "worker/kit/bitmap_images.h"
-#include "worker/engine/engine.h"
 #include "worker/pages/pdf_engine.h"
 
 namespace norvex::kit {

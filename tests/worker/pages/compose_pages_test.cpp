@@ -19,16 +19,18 @@ namespace {
 
 /// Left half red, right half blue, a word in the middle; the page's box does not begin at the origin.
 QByteArray picture() {
-  return onePage("1 0 0 rg 50 50 100 100 re f 0 0 1 rg 150 50 100 100 re f BT /F 12 Tf 60 90 Td (Inside) Tj ET",
-                 "/MediaBox [50 50 250 150] /Resources << /Font << /F 5 0 R >> >>",
-                 {"<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>"});
+  return onePage(
+      "1 0 0 rg 50 50 100 100 re f 0 0 1 rg 150 50 100 100 re f BT /F 12 Tf 60 90 Td (Inside) Tj ET",
+      "/MediaBox [50 50 250 150] /Resources << /Font << /F 5 0 R >> >>",
+      {"<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>"});
 }
 
 PagesRequest twoSheets() {
   PagesRequest request;
   request.paper = QSizeF(300, 400);
   request.title = "A job";
-  request.sheets = {{QRectF(0, 0, 100, 100), QRectF(10, 20, 100, 100)}, {QRectF(100, 0, 100, 100), QRectF(10, 20, 200, 200)}};
+  request.sheets = {{QRectF(0, 0, 100, 100), QRectF(10, 20, 100, 100)},
+                    {QRectF(100, 0, 100, 100), QRectF(10, 20, 200, 200)}};
   return request;
 }
 
@@ -48,7 +50,8 @@ class ComposePagesTest : public QObject {
   /// One pixel a point, the first row at the sheet's upper edge.
   QImage drawn(const QString& path, int page) {
     const QString number = QString::number(page);
-    run("pdftocairo", {"-png", "-singlefile", "-r", "72", "-f", number, "-l", number, path, folder_.filePath("page")});
+    run("pdftocairo",
+        {"-png", "-singlefile", "-r", "72", "-f", number, "-l", number, path, folder_.filePath("page")});
     return QImage(folder_.filePath("page.png"));
   }
 
@@ -82,7 +85,8 @@ class ComposePagesTest : public QObject {
   void headerAndFooterAreText() {
     PagesRequest request = twoSheets();
     request.fontFamily = "sans-serif";
-    request.header = SheetLine{QString::fromUtf8("\t\tFriday, 3 M\xC3\xA4rz & <co>"), QRectF(20, 370, 260, 12)};
+    request.header =
+        SheetLine{QString::fromUtf8("\t\tFriday, 3 M\xC3\xA4rz & <co>"), QRectF(20, 370, 260, 12)};
     request.footer = SheetLine{"file:///tmp/My Pictures/a.eps\t\t", QRectF(20, 10, 260, 12)};
     const Result<QByteArray> pdf = composePages(picture(), request);
     QVERIFY2(pdf.ok(), pdf.ok() ? "" : qPrintable(pdf.error().message));
@@ -107,10 +111,12 @@ class ComposePagesTest : public QObject {
   void aLongLineIsShortenedInItsMiddle() {
     PagesRequest request = twoSheets();
     request.fontFamily = "sans-serif";
-    request.footer = SheetLine{"file:///begin/" + QString(200, 'x') + "/end.eps\t\t", QRectF(20, 10, 260, 12)};
+    request.footer =
+        SheetLine{"file:///begin/" + QString(200, 'x') + "/end.eps\t\t", QRectF(20, 10, 260, 12)};
     const QString path = written(*composePages(picture(), request));
     const QString text = QString::fromUtf8(run("pdftotext", {"-layout", path, "-"}).out);
-    QVERIFY2(text.contains("file:///begin/x") && text.contains("x/end.eps") && text.contains(QChar(0x2026)), qPrintable(text));
+    QVERIFY2(text.contains("file:///begin/x") && text.contains("x/end.eps") && text.contains(QChar(0x2026)),
+             qPrintable(text));
     const QImage page = drawn(path, 1);
     for (int y = 375; y < 395; ++y)
       for (int x = 282; x < 300; ++x) QVERIFY(qGray(page.pixel(x, y)) > 200);
@@ -137,7 +143,9 @@ class ComposePagesTest : public QObject {
     QVERIFY(!composePages(picture(), request).ok());
   }
 
-  void theSameSheetsAreTheSameBytes() { QCOMPARE(*composePages(picture(), twoSheets()), *composePages(picture(), twoSheets())); }
+  void theSameSheetsAreTheSameBytes() {
+    QCOMPARE(*composePages(picture(), twoSheets()), *composePages(picture(), twoSheets()));
+  }
 };
 
 NORVEX_TEST(ComposePagesTest)

@@ -8,8 +8,8 @@
 #include <numbers>
 
 #include "kit/test_main.h"
-#include "worker/kit/bitmap_images.h"
 #include "worker/engine/engine.h"
+#include "worker/kit/bitmap_images.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/pdf/compose_pdf.h"
@@ -22,14 +22,16 @@ using kit::onePage;
 namespace {
 
 const QByteArray kResources =
-    "/Resources << /Font << /F 5 0 R >> /Shading << /S 6 0 R >> /ExtGState << /H << /ca 0.5 /BM /Multiply >> >> >>";
+    "/Resources << /Font << /F 5 0 R >> /Shading << /S 6 0 R >> /ExtGState << /H << /ca 0.5 /BM /Multiply >> "
+    ">> >>";
 const QList<QByteArray> kObjects{
     "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>",
     "<< /ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 100 0] /Function << /FunctionType 2 /Domain [0 1] "
     "/C0 [0 1 1] /C1 [1 0 1] /N 1 >> >>"};
 // A gradient, text, a line and two half-transparent squares: something of everything, nothing symmetrical.
 const QByteArray kPicture =
-    "q 20 20 80 60 re W n 1 0 0 1 20 0 cm /S sh Q BT /F 24 Tf 30 40 Td (Gauge) Tj ET 2 w 0 0 1 RG 10 10 m 190 90 l S "
+    "q 20 20 80 60 re W n 1 0 0 1 20 0 cm /S sh Q BT /F 24 Tf 30 40 Td (Gauge) Tj ET 2 w 0 0 1 RG 10 10 m "
+    "190 90 l S "
     "/H gs 1 0 0 rg 120 20 40 40 re f 0 1 0 rg 140 40 40 40 re f";
 
 QByteArray picture(const QByteArray& more = {}) {
@@ -98,7 +100,8 @@ QImage byOurselves(const QByteArray& pdf, QSizeF size, double scale, const QTran
 
 // Mean difference of a channel, 0 … 255; 255 when the sizes differ by more than a pixel.
 double difference(const QImage& a, const QImage& b) {
-  if (a.isNull() || b.isNull() || std::abs(a.width() - b.width()) > 1 || std::abs(a.height() - b.height()) > 1)
+  if (a.isNull() || b.isNull() || std::abs(a.width() - b.width()) > 1 ||
+      std::abs(a.height() - b.height()) > 1)
     return 255;
   double sum = 0;
   const int w = std::min(a.width(), b.width());
@@ -147,14 +150,14 @@ class ComposePdfTest : public QObject {
     const QString path = written(folder, "composed.pdf", *pdf);
     const Run check = run("qpdf", {"--check", path});
     QVERIFY2(check.status == 0, check.output.constData());
-    QVERIFY(run("pdffonts", {path}).output.contains("Helvetica"));   // text is still text
+    QVERIFY(run("pdffonts", {path}).output.contains("Helvetica"));  // text is still text
     QVERIFY(!run("pdfimages", {"-list", path}).output.contains("image "));
     QVERIFY(run("pdfinfo", {path}).output.contains("Pages:           1"));
   }
 
-  // The composed page, drawn by three programs, against the turned whole page drawn by this one. Text and lines
-  // are smoothed differently by each program; a picture that is off by a pixel, or lost a part, differs by more
-  // than 5 in the mean.
+  // The composed page, drawn by three programs, against the turned whole page drawn by this one. Text and
+  // lines are smoothed differently by each program; a picture that is off by a pixel, or lost a part, differs
+  // by more than 5 in the mean.
   void itLooksLikeTheTurnedPage_data() {
     QTest::addColumn<double>("degrees");
     QTest::addColumn<QRectF>("rect");
@@ -171,9 +174,10 @@ class ComposePdfTest : public QObject {
     QVERIFY(pdf.ok());
     const QString path = written(folder, "composed.pdf", *pdf);
     const double angle = degrees * std::numbers::pi / 180;
-    const QTransform toRect = QTransform::fromTranslate(-100, -50) *
-                              QTransform(std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0) *
-                              QTransform::fromTranslate(-rect.x(), -rect.y());
+    const QTransform toRect =
+        QTransform::fromTranslate(-100, -50) *
+        QTransform(std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0) *
+        QTransform::fromTranslate(-rect.x(), -rect.y());
     const QImage expected = byOurselves(picture(), rect.size(), 2, toRect);
     QVERIFY(difference(expected, byOurselves(*pdf, rect.size(), 2)) < 0.5);
     QVERIFY2(difference(expected, byPoppler(folder, path)) < 3,
@@ -240,7 +244,8 @@ class ComposePdfTest : public QObject {
     const QByteArray page = "/MediaBox [0 0 200 100] /Resources << /Properties << /L 5 0 R >> >>";
     const QByteArray pdf = kit::madePdf(
         {"<< /Type /Catalog /Pages 2 0 R /OCProperties << /OCGs [5 0 R] /D << /OFF [5 0 R] >> >> >>",
-         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>", "<< /Type /Page /Parent 2 0 R /Contents 4 0 R " + page + " >>",
+         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+         "<< /Type /Page /Parent 2 0 R /Contents 4 0 R " + page + " >>",
          kit::stream("/OC /L BDC 1 0 0 rg 0 0 200 100 re f EMC 0 0 1 rg 0 0 50 100 re f"),
          "<< /Type /OCG /Name (hidden) >>"});
     const auto composed = composePdf(pdf, request(QRectF(-100, -50, 200, 100)));
@@ -258,11 +263,13 @@ class ComposePdfTest : public QObject {
   }
 
   void otherPagesAndTheirThingsAreLeftBehind() {
-    const QByteArray pdf = kit::madePdf(
-        {"<< /Type /Catalog /Pages 2 0 R /Outlines 6 0 R >>", "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 /MediaBox [0 0 9 9] >>",
-         "<< /Type /Page /Parent 2 0 R /Contents 5 0 R >>", "<< /Type /Page /Parent 2 0 R >>",
-         kit::stream(QByteArray(9000, ' ')), "<< /Type /Outlines /Secret (left behind) >>", "<< /Title (old title) >>"},
-        "/Info 7 0 R");
+    const QByteArray pdf =
+        kit::madePdf({"<< /Type /Catalog /Pages 2 0 R /Outlines 6 0 R >>",
+                      "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 /MediaBox [0 0 9 9] >>",
+                      "<< /Type /Page /Parent 2 0 R /Contents 5 0 R >>", "<< /Type /Page /Parent 2 0 R >>",
+                      kit::stream(QByteArray(9000, ' ')), "<< /Type /Outlines /Secret (left behind) >>",
+                      "<< /Title (old title) >>"},
+                     "/Info 7 0 R");
     ComposeRequest second = request(QRectF(-4.5, -4.5, 9, 9));
     second.page = 1;
     const auto composed = composePdf(pdf, second);

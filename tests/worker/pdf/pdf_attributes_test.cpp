@@ -1,8 +1,8 @@
+#include "worker/pdf/pdf_attributes.h"
 #include "kit/test_main.h"
 #include "worker/engine/engine.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
-#include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_facts.h"
 
 using namespace norvex;
@@ -23,10 +23,14 @@ class PdfAttributesTest : public QObject {
   Q_OBJECT
  private slots:
   void theGivenOnesAreSetAndTheOthersStay() {
-    const QByteArray old = onePage("", "/MediaBox [0 0 31 41]",
-                                   {"<< /Title (Old) /Keywords (kept) /CreationDate (D:1999) >>"}, "/Info 5 0 R");
+    const QByteArray old =
+        onePage("", "/MediaBox [0 0 31 41]", {"<< /Title (Old) /Keywords (kept) /CreationDate (D:1999) >>"},
+                "/Info 5 0 R");
     const QHash<QString, QString> attributes{{"Title", QString::fromUtf8("Über 日本 (x)")},
-                                             {"Author", "A"}, {"Subject", ""}, {"Producer", "P"}, {"Creator", "C 1.0"}};
+                                             {"Author", "A"},
+                                             {"Subject", ""},
+                                             {"Producer", "P"},
+                                             {"Creator", "C 1.0"}};
     const QDateTime date(QDate(2024, 2, 3), QTime(4, 5, 6), Qt::OffsetFromUTC, 3600);
     const auto changed = setPdfAttributes(old, attributes, date);
     QVERIFY(changed.ok());

@@ -31,7 +31,8 @@ QByteArray encrypted(const QByteArray& pdf, const char* userPassword) {
   qpdf.processMemoryFile("test", pdf.constData(), size_t(pdf.size()));
   QPDFWriter writer(qpdf);
   writer.setOutputMemory();
-  writer.setR6EncryptionParameters(userPassword, "owner", true, true, true, true, true, true, qpdf_r3p_full, true);
+  writer.setR6EncryptionParameters(userPassword, "owner", true, true, true, true, true, true, qpdf_r3p_full,
+                                   true);
   writer.write();
   const auto buffer = writer.getBufferSharedPointer();
   return QByteArray(reinterpret_cast<const char*>(buffer->getBuffer()), qsizetype(buffer->getSize()));
@@ -48,24 +49,31 @@ class PdfFactsTest : public QObject {
     QTest::newRow("media box") << QByteArray("/MediaBox [0 0 200 100]") << QRectF(0, 0, 200, 100);
     QTest::newRow("fractions and a negative origin")
         << QByteArray("/MediaBox [-10.5 -20.25 100.5 50]") << QRectF(-10.5, -20.25, 111, 70.25);
-    QTest::newRow("corners in the wrong order") << QByteArray("/MediaBox [200 100 0 0]") << QRectF(0, 0, 200, 100);
+    QTest::newRow("corners in the wrong order")
+        << QByteArray("/MediaBox [200 100 0 0]") << QRectF(0, 0, 200, 100);
     QTest::newRow("crop box") << QByteArray("/MediaBox [0 0 200 100] /CropBox [10 20 60 50]")
                               << QRectF(10, 20, 50, 30);
     QTest::newRow("crop box beyond the media box")
         << QByteArray("/MediaBox [0 0 200 100] /CropBox [-50 20 500 50]") << QRectF(0, 20, 200, 30);
     QTest::newRow("crop box outside the media box")
         << QByteArray("/MediaBox [0 0 200 100] /CropBox [300 300 400 400]") << QRectF(0, 0, 200, 100);
-    QTest::newRow("turned by 90") << QByteArray("/MediaBox [0 0 200 100] /Rotate 90") << QRectF(0, 0, 100, 200);
-    QTest::newRow("turned by -90") << QByteArray("/MediaBox [0 0 200 100] /Rotate -90") << QRectF(0, 0, 100, 200);
-    QTest::newRow("turned by 180") << QByteArray("/MediaBox [0 0 200 100] /Rotate 180") << QRectF(0, 0, 200, 100);
-    QTest::newRow("turned by 450") << QByteArray("/MediaBox [0 0 200 100] /Rotate 450") << QRectF(0, 0, 100, 200);
+    QTest::newRow("turned by 90") << QByteArray("/MediaBox [0 0 200 100] /Rotate 90")
+                                  << QRectF(0, 0, 100, 200);
+    QTest::newRow("turned by -90") << QByteArray("/MediaBox [0 0 200 100] /Rotate -90")
+                                   << QRectF(0, 0, 100, 200);
+    QTest::newRow("turned by 180") << QByteArray("/MediaBox [0 0 200 100] /Rotate 180")
+                                   << QRectF(0, 0, 200, 100);
+    QTest::newRow("turned by 450") << QByteArray("/MediaBox [0 0 200 100] /Rotate 450")
+                                   << QRectF(0, 0, 100, 200);
     QTest::newRow("turned by 45 is not turned")
         << QByteArray("/MediaBox [0 0 200 100] /Rotate 45") << QRectF(0, 0, 200, 100);
-    QTest::newRow("user unit") << QByteArray("/MediaBox [10 0 210 100] /UserUnit 2") << QRectF(20, 0, 400, 200);
+    QTest::newRow("user unit") << QByteArray("/MediaBox [10 0 210 100] /UserUnit 2")
+                               << QRectF(20, 0, 400, 200);
     QTest::newRow("no box at all") << QByteArray("") << QRectF(0, 0, 612, 792);
     QTest::newRow("an empty box") << QByteArray("/MediaBox [5 5 5 5]") << QRectF(0, 0, 612, 792);
     QTest::newRow("a box of words") << QByteArray("/MediaBox [/a /b /c /d]") << QRectF(0, 0, 612, 792);
-    QTest::newRow("a box of absurd numbers") << QByteArray("/MediaBox [0 0 1e30 99999999999]") << QRectF(0, 0, 612, 792);
+    QTest::newRow("a box of absurd numbers")
+        << QByteArray("/MediaBox [0 0 1e30 99999999999]") << QRectF(0, 0, 612, 792);
   }
   void boundsAreTheShownBox() {
     QFETCH(QByteArray, page);
@@ -76,10 +84,11 @@ class PdfFactsTest : public QObject {
   }
 
   void pagesInheritTheirBoxes() {
-    const auto facts = factsOf(madePdf({"<< /Type /Catalog /Pages 2 0 R >>",
-                                        "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 /MediaBox [0 0 50 60] /Rotate 90 >>",
-                                        "<< /Type /Page /Parent 2 0 R >>",
-                                        "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 7 8] /Rotate 0 >>"}));
+    const auto facts =
+        factsOf(madePdf({"<< /Type /Catalog /Pages 2 0 R >>",
+                         "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 /MediaBox [0 0 50 60] /Rotate 90 >>",
+                         "<< /Type /Page /Parent 2 0 R >>",
+                         "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 7 8] /Rotate 0 >>"}));
     QVERIFY(facts.ok());
     QCOMPARE(facts->pageCount, 2);
     QCOMPARE(facts->pageBounds, (QList<QRectF>{QRectF(0, 0, 60, 50), QRectF(0, 0, 7, 8)}));
@@ -112,7 +121,8 @@ class PdfFactsTest : public QObject {
   }
 
   void valuesThatAreNoTextAreLeftOut() {
-    const auto facts = factsOf(withInformation("<< /Title 7 /Author [ (x) ] /Subject /Name /Creator null >>"));
+    const auto facts =
+        factsOf(withInformation("<< /Title 7 /Author [ (x) ] /Subject /Name /Creator null >>"));
     QVERIFY(facts.ok());
     QVERIFY(facts->attributes.isEmpty());
   }
@@ -120,18 +130,30 @@ class PdfFactsTest : public QObject {
   void dates_data() {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");  // empty: no date
-    QTest::newRow("with a zone") << "D:20240229101112+05'30'" << "2024-02-29T10:11:12+05:30";
-    QTest::newRow("without a closing apostrophe") << "D:20240229101112-08'00" << "2024-02-29T10:11:12-08:00";
-    QTest::newRow("without apostrophes") << "D:20240229101112-0800" << "2024-02-29T10:11:12-08:00";
-    QTest::newRow("Z") << "D:20240229101112Z" << "2024-02-29T10:11:12Z";
-    QTest::newRow("Z and zeros") << "D:20240229101112Z00'00'" << "2024-02-29T10:11:12Z";
-    QTest::newRow("no zone") << "D:20240229101112" << "2024-02-29T10:11:12Z";
-    QTest::newRow("no D:") << "20240229101112" << "2024-02-29T10:11:12Z";
-    QTest::newRow("year only") << "D:1999" << "1999-01-01T00:00:00Z";
-    QTest::newRow("to the minute") << "D:199912312359" << "1999-12-31T23:59:00Z";
-    QTest::newRow("no such day") << "D:20230229" << "";
-    QTest::newRow("words") << "Thursday" << "";
-    QTest::newRow("empty") << "" << "";
+    QTest::newRow("with a zone") << "D:20240229101112+05'30'"
+                                 << "2024-02-29T10:11:12+05:30";
+    QTest::newRow("without a closing apostrophe") << "D:20240229101112-08'00"
+                                                  << "2024-02-29T10:11:12-08:00";
+    QTest::newRow("without apostrophes") << "D:20240229101112-0800"
+                                         << "2024-02-29T10:11:12-08:00";
+    QTest::newRow("Z") << "D:20240229101112Z"
+                       << "2024-02-29T10:11:12Z";
+    QTest::newRow("Z and zeros") << "D:20240229101112Z00'00'"
+                                 << "2024-02-29T10:11:12Z";
+    QTest::newRow("no zone") << "D:20240229101112"
+                             << "2024-02-29T10:11:12Z";
+    QTest::newRow("no D:") << "20240229101112"
+                           << "2024-02-29T10:11:12Z";
+    QTest::newRow("year only") << "D:1999"
+                               << "1999-01-01T00:00:00Z";
+    QTest::newRow("to the minute") << "D:199912312359"
+                                   << "1999-12-31T23:59:00Z";
+    QTest::newRow("no such day") << "D:20230229"
+                                 << "";
+    QTest::newRow("words") << "Thursday"
+                           << "";
+    QTest::newRow("empty") << ""
+                           << "";
   }
   void dates() {
     QFETCH(QString, text);
@@ -216,14 +238,17 @@ class PdfFactsTest : public QObject {
     QTest::addColumn<QByteArray>("contents");
     QTest::addColumn<QByteArray>("entries");
     QTest::addColumn<bool>("told");
-    const QByteArray notice = "BT /F1 8 Tf 10 80 Td (This is an Adobe Illustrator File that was) Tj 0 -12 Td "
-                              "[(saved with) -3 (out PDF Content.)] TJ ET";
-    const QByteArray font = "/Resources << /Font << /F1 << /Type /Font /Subtype /Type1 /BaseFont /Helvetica >> >> >> ";
+    const QByteArray notice =
+        "BT /F1 8 Tf 10 80 Td (This is an Adobe Illustrator File that was) Tj 0 -12 Td "
+        "[(saved with) -3 (out PDF Content.)] TJ ET";
+    const QByteArray font =
+        "/Resources << /Font << /F1 << /Type /Font /Subtype /Type1 /BaseFont /Helvetica >> >> >> ";
     const QByteArray data = "/PieceInfo << /Illustrator << /LastModified (D:2020) >> >> ";
     QTest::newRow("the notice") << notice << font + data << true;
     QTest::newRow("the notice in a file of another program") << notice << font << false;
     QTest::newRow("artwork of Illustrator") << QByteArray("0 0 10 10 re f") << data << false;
-    QTest::newRow("a large page that cites the notice") << notice + QByteArray(20000, ' ') << font + data << false;
+    QTest::newRow("a large page that cites the notice")
+        << notice + QByteArray(20000, ' ') << font + data << false;
   }
   void anIllustratorFileWithoutPdfContentSaysSo() {
     QFETCH(QByteArray, contents);
@@ -232,33 +257,41 @@ class PdfFactsTest : public QObject {
     const auto facts = factsOf(onePage(contents, "/MediaBox [0 0 200 100] " + entries));
     QVERIFY(facts);
     QCOMPARE(facts->warnings.join(u'|'),
-             told ? QStringLiteral("this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork")
+             told ? QStringLiteral("this Illustrator file was saved without PDF content, so it shows a "
+                                   "notice instead of the artwork")
                   : QString());
   }
 
   void fontsAndColourSpacesAreThoseOfTheFirstPage() {
     const QByteArray page =
-        "/MediaBox [0 0 9 9] /Resources << /Font << /A 5 0 R /B 6 0 R /C 5 0 R >> /XObject << /F 7 0 R /I 8 0 R >> "
-        "/ColorSpace << /S [/Separation /PANTONE#20186#20C /DeviceCMYK 9 0 R] /N [/DeviceN [/Gold /Cyan] /DeviceCMYK 9 0 "
-        "R] /X [/Indexed /DeviceGray 1 <00FF>] /P /Pattern >> /Shading << /H << /ShadingType 2 /ColorSpace [/Lab << >>] >> >> >>";
+        "/MediaBox [0 0 9 9] /Resources << /Font << /A 5 0 R /B 6 0 R /C 5 0 R >> /XObject << /F 7 0 R /I 8 "
+        "0 R >> "
+        "/ColorSpace << /S [/Separation /PANTONE#20186#20C /DeviceCMYK 9 0 R] /N [/DeviceN [/Gold /Cyan] "
+        "/DeviceCMYK 9 0 "
+        "R] /X [/Indexed /DeviceGray 1 <00FF>] /P /Pattern >> /Shading << /H << /ShadingType 2 /ColorSpace "
+        "[/Lab << >>] >> >> >>";
     const PictureFacts facts = *factsOf(onePage(
         "(0 0 1 rg \\) 0 G) Tj % 1 0 0 rg\n0 0 0 1 k /gs gs", page,
-        {"<< /Type /Font /Subtype /Type1 /BaseFont /ABCDEF+Gentium#20Book >>", "<< /Type /Font /BaseFont /Helvetica >>",
-         kit::stream("1 0 0 RG", "/Type /XObject /Subtype /Form /Resources << /Font << /D << /BaseFont /Deep >> >> "
-                                 "/XObject << /Self 7 0 R >> >>"),
+        {"<< /Type /Font /Subtype /Type1 /BaseFont /ABCDEF+Gentium#20Book >>",
+         "<< /Type /Font /BaseFont /Helvetica >>",
+         kit::stream("1 0 0 RG",
+                     "/Type /XObject /Subtype /Form /Resources << /Font << /D << /BaseFont /Deep >> >> "
+                     "/XObject << /Self 7 0 R >> >>"),
          kit::stream("x", "/Subtype /Image /ColorSpace [/ICCBased 10 0 R]"), "<< /FunctionType 2 >>",
          kit::stream("", "/N 4")}));
     QCOMPARE(facts.fonts, (QStringList{"Gentium Book", "Helvetica", "Deep"}));
-    QCOMPARE(facts.colorSpaces,
-             (QStringList{"DeviceCMYK", "DeviceN Gold, Cyan", "Separation PANTONE 186 C", "DeviceGray", "Lab", "DeviceRGB", "ICCBased CMYK"}));
+    QCOMPARE(facts.colorSpaces, (QStringList{"DeviceCMYK", "DeviceN Gold, Cyan", "Separation PANTONE 186 C",
+                                             "DeviceGray", "Lab", "DeviceRGB", "ICCBased CMYK"}));
     QVERIFY(facts.warnings.isEmpty());
     QVERIFY(factsOf(onePage("0 0 1 1 re"))->fonts.isEmpty());
     QVERIFY(factsOf(onePage("0 0 1 1 re"))->colorSpaces.isEmpty());
   }
 
   void colourOperatorsAreFoundInContentsAlone() {
-    QCOMPARE(deviceColoursOf("BI /W 1 /CS /RGB ID \x01 0 g \x02 EI 0 0 0 1 K"), (QStringList{"DeviceRGB", "DeviceCMYK"}));
-    QCOMPARE(deviceColoursOf("/DeviceGray cs /DeviceN cs <30206b> Tj << /k 1 >> DP"), QStringList{"DeviceGray"});
+    QCOMPARE(deviceColoursOf("BI /W 1 /CS /RGB ID \x01 0 g \x02 EI 0 0 0 1 K"),
+             (QStringList{"DeviceRGB", "DeviceCMYK"}));
+    QCOMPARE(deviceColoursOf("/DeviceGray cs /DeviceN cs <30206b> Tj << /k 1 >> DP"),
+             QStringList{"DeviceGray"});
     for (const char* cut : {"(abc \\", "(abc", "<30", "/", "BI ID ", "%", "[", "0 0 0 r"})
       QVERIFY(deviceColoursOf(cut).isEmpty());
   }
@@ -267,9 +300,10 @@ class PdfFactsTest : public QObject {
     // Thirty mebibytes of blanks packed a thousand times over: no more than the limit of it is unpacked.
     const QByteArray blanks(30 << 20, ' ');
     const QByteArray packed = qCompress("0 g " + blanks + "1 0 0 rg", 9).mid(4);
-    const QByteArray pdf = madePdf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
-                                    "<< /Type /Page /Parent 2 0 R /Contents 4 0 R /MediaBox [0 0 9 9] >>",
-                                    kit::stream(packed, "/Filter /FlateDecode")});
+    const QByteArray pdf =
+        madePdf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+                 "<< /Type /Page /Parent 2 0 R /Contents 4 0 R /MediaBox [0 0 9 9] >>",
+                 kit::stream(packed, "/Filter /FlateDecode")});
     const PictureFacts facts = *factsOf(pdf);
     QCOMPARE(facts.colorSpaces, QStringList{"DeviceGray"});
     QVERIFY(facts.warnings.isEmpty());

@@ -1,8 +1,8 @@
 #include <QImage>
 
 #include "kit/test_main.h"
-#include "worker/kit/bitmap_images.h"
 #include "worker/engine/engine.h"
+#include "worker/kit/bitmap_images.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/pdf/pdf_file.h"

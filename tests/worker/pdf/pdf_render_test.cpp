@@ -1,6 +1,6 @@
 #include "kit/test_main.h"
-#include "worker/kit/bitmap_images.h"
 #include "worker/engine/engine.h"
+#include "worker/kit/bitmap_images.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
 
@@ -53,32 +53,42 @@ class PdfRenderTest : public QObject {
     QTest::newRow("goes for a standard one") << QByteArray("/TrueType /BaseFont /Arial,Bold") << false;
     QTest::newRow("missing") << QByteArray("/Type1 /BaseFont /Nonesuch-Bold") << true;
     QTest::newRow("missing, with a description")
-        << QByteArray("/TrueType /BaseFont /ABCDEF+Nonesuch-Bold /FontDescriptor << /Type /FontDescriptor /FontName /Nonesuch-Bold >>")
+        << QByteArray(
+               "/TrueType /BaseFont /ABCDEF+Nonesuch-Bold /FontDescriptor << /Type /FontDescriptor /FontName "
+               "/Nonesuch-Bold >>")
         << true;
-    QTest::newRow("in the file")
-        << QByteArray("/TrueType /BaseFont /Nonesuch-Bold /FontDescriptor << /Type /FontDescriptor /FontFile2 6 0 R >>") << false;
+    QTest::newRow("in the file") << QByteArray(
+                                        "/TrueType /BaseFont /Nonesuch-Bold /FontDescriptor << /Type "
+                                        "/FontDescriptor /FontFile2 6 0 R >>")
+                                 << false;
     QTest::newRow("made of parts, missing")
-        << QByteArray("/Type0 /BaseFont /Nonesuch-Bold /DescendantFonts [<< /Type /Font /Subtype /CIDFontType2 /BaseFont /Nonesuch-Bold >>]")
+        << QByteArray(
+               "/Type0 /BaseFont /Nonesuch-Bold /DescendantFonts [<< /Type /Font /Subtype /CIDFontType2 "
+               "/BaseFont /Nonesuch-Bold >>]")
         << true;
     QTest::newRow("drawn by the file itself") << QByteArray("/Type3 /Name /Nonesuch-Bold") << false;
   }
   void fontsThatAreNotInTheFileAreTold() {
     QFETCH(QByteArray, font);
     QFETCH(bool, missing);
-    const QByteArray pdf = onePage("0 0 10 10 re f", "/MediaBox [0 0 200 100] /Resources << /Font << /F 5 0 R >> >>",
-                                   {"<< /Type /Font /Subtype " + font + " >>", kit::stream("no font")});
+    const QByteArray pdf =
+        onePage("0 0 10 10 re f", "/MediaBox [0 0 200 100] /Resources << /Font << /F 5 0 R >> >>",
+                {"<< /Type /Font /Subtype " + font + " >>", kit::stream("no font")});
     EngineContext context;
     auto engine = openPdf(pdf, context);
     QVERIFY(engine);
-    const QStringList told = missing ? QStringList{"the font Nonesuch-Bold is missing, another stands in for it"} : QStringList();
+    const QStringList told =
+        missing ? QStringList{"the font Nonesuch-Bold is missing, another stands in for it"} : QStringList();
     QVERIFY((*engine)->render(whole({200, 100})));
     QCOMPARE((*engine)->drawingRemarks(), QStringList());  // of pictures that are handed out alone
     RenderRequest request = whole({200, 100});
     request.purpose = RenderPurpose::Export;
     QVERIFY((*engine)->render(request));
     QCOMPARE((*engine)->drawingRemarks(), told);
-    QCOMPARE((*engine)->compose({VectorFormat::Eps, 0, QRectF(-50, -50, 100, 100), 0})->report.warnings, told);
-    QCOMPARE((*engine)->compose({VectorFormat::Pdf, 0, QRectF(-50, -50, 100, 100), 0})->report.warnings, QStringList());
+    QCOMPARE((*engine)->compose({VectorFormat::Eps, 0, QRectF(-50, -50, 100, 100), 0})->report.warnings,
+             told);
+    QCOMPARE((*engine)->compose({VectorFormat::Pdf, 0, QRectF(-50, -50, 100, 100), 0})->report.warnings,
+             QStringList());
   }
 
   void whiteThatIsPaintedIsWhite() {
@@ -108,7 +118,8 @@ class PdfRenderTest : public QObject {
   }
 
   void theMatrixIsExact() {
-    // Ten times enlarged around the border between the quarters: picture point (100, 50) is at pixel (10, 10).
+    // Ten times enlarged around the border between the quarters: picture point (100, 50) is at pixel (10,
+    // 10).
     RenderRequest request;
     request.pixelSize = QSize(20, 20);
     request.pictureToDevice = QTransform(10, 0, 0, -10, 10 - 1000, 10 + 500);
@@ -151,7 +162,8 @@ class PdfRenderTest : public QObject {
   }
 
   void aUserUnitEnlargesThePage() {
-    const QImage image = rendered(onePage(kQuarters, "/MediaBox [0 0 200 100] /UserUnit 2"), whole({400, 200}));
+    const QImage image =
+        rendered(onePage(kQuarters, "/MediaBox [0 0 200 100] /UserUnit 2"), whole({400, 200}));
     QCOMPARE(image.pixel(199, 101), kRed);
     QCOMPARE(image.pixel(201, 98), kBlue);
   }
@@ -164,9 +176,10 @@ class PdfRenderTest : public QObject {
 
   void linksHaveNoFrameAndNotesAreSeen() {
     const QByteArray page = "/MediaBox [0 0 200 100] /Annots [5 0 R 6 0 R]";
-    const QByteArray pdf = onePage("0 1 0 rg 0 0 10 10 re f", page,
-                                   {"<< /Type /Annot /Subtype /Link /Rect [50 20 150 80] /Border [0 0 4] >>",
-                                    "<< /Type /Annot /Subtype /Square /Rect [160 20 190 80] /F 4 /C [1 0 0] /IC [1 0 0] >>"});
+    const QByteArray pdf =
+        onePage("0 1 0 rg 0 0 10 10 re f", page,
+                {"<< /Type /Annot /Subtype /Link /Rect [50 20 150 80] /Border [0 0 4] >>",
+                 "<< /Type /Annot /Subtype /Square /Rect [160 20 190 80] /F 4 /C [1 0 0] /IC [1 0 0] >>"});
     EngineContext context;
     const auto engine = openPdf(pdf, context);
     QVERIFY(engine);
@@ -180,10 +193,11 @@ class PdfRenderTest : public QObject {
   }
 
   void anotherPageIsDrawnOnRequest() {
-    const QByteArray pdf = kit::madePdf(
-        {"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 /MediaBox [0 0 9 9] >>",
-         "<< /Type /Page /Parent 2 0 R >>", "<< /Type /Page /Parent 2 0 R /Contents 5 0 R >>",
-         kit::stream("1 0 0 rg 0 0 9 9 re f")});
+    const QByteArray pdf =
+        kit::madePdf({"<< /Type /Catalog /Pages 2 0 R >>",
+                      "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 /MediaBox [0 0 9 9] >>",
+                      "<< /Type /Page /Parent 2 0 R >>", "<< /Type /Page /Parent 2 0 R /Contents 5 0 R >>",
+                      kit::stream("1 0 0 rg 0 0 9 9 re f")});
     RenderRequest request = whole({9, 9});
     QCOMPARE(rendered(pdf, request).pixel(4, 4), 0u);
     request.page = 1;

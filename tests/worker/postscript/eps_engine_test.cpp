@@ -5,13 +5,13 @@
 #include <cmath>
 
 #include "kit/test_main.h"
+#include "worker/engine/engine.h"
 #include "worker/kit/bitmap_images.h"
+#include "worker/pdf/pdf_file.h"
 #include "worker/postscript/distill.h"
 #include "worker/postscript/distiller.h"
-#include "worker/engine/engine.h"
 #include "worker/postscript/eps_engine.h"
 #include "worker/postscript/ghostscript.h"
-#include "worker/pdf/pdf_file.h"
 
 using namespace norvex;
 using namespace norvex::engine;
@@ -59,7 +59,8 @@ QByteArray eps(const QByteArray& body, const QByteArray& box = "%%BoundingBox: 0
   return "%!PS-Adobe-3.0 EPSF-3.0\n" + box + "\n%%EndComments\n" + body;
 }
 
-// Left half red, a blue square in the upper right corner, in a box of 60 × 40 whose lower-left corner is the origin.
+// Left half red, a blue square in the upper right corner, in a box of 60 × 40 whose lower-left corner is the
+// origin.
 const QByteArray kBody = "1 0 0 setrgbcolor 0 0 30 40 rectfill 0 0 1 setrgbcolor 50 30 10 10 rectfill\n";
 const QRgb kRed = qRgba(255, 0, 0, 255);
 const QRgb kBlue = qRgba(0, 0, 255, 255);
@@ -91,8 +92,10 @@ class EpsEngineTest : public QObject {
     QTest::newRow("reals and a negative origin")
         << eps(never, "%%BoundingBox: -10.5 -20 30.25 40") << QRectF(-10.5, -20, 40.75, 60);
     QTest::newRow("the finer box is not taken")
-        << eps(never, "%%BoundingBox: 0 0 60 40\n%%HiResBoundingBox: 0.5 0.5 59.5 39.5") << QRectF(0, 0, 60, 40);
-    QTest::newRow("at the end") << eps(never + "%%Trailer\n%%BoundingBox: 1 2 61 42\n%%EOF\n", "%%BoundingBox: (atend)")
+        << eps(never, "%%BoundingBox: 0 0 60 40\n%%HiResBoundingBox: 0.5 0.5 59.5 39.5")
+        << QRectF(0, 0, 60, 40);
+    QTest::newRow("at the end") << eps(never + "%%Trailer\n%%BoundingBox: 1 2 61 42\n%%EOF\n",
+                                       "%%BoundingBox: (atend)")
                                 << QRectF(1, 2, 60, 40);
     QTest::newRow("binary") << dosEps(eps(never)) << QRectF(0, 0, 60, 40);
   }
@@ -131,18 +134,22 @@ class EpsEngineTest : public QObject {
     QTest::newRow("ended by quit") << eps(kBody + "quit\nwhat follows is never read (((");
     QTest::newRow("control D around it") << '\x04' + eps(kBody + "showpage\n") + '\x04';
     QTest::newRow("carriage returns") << eps(kBody + "showpage\n").replace('\n', '\r');
-    QTest::newRow("box at the end")
-        << eps(kBody + "showpage\n%%Trailer\n%%BoundingBox: 0 0 60 40\n", "%%BoundingBox: (atend)");
-    QTest::newRow("sets its own page") << eps("<< /PageSize [500 500] >> setpagedevice\n" + kBody + "showpage\n");
-    QTest::newRow("goes back to the page's coordinates") << eps("7 7 scale initgraphics\n" + kBody + "showpage\n");
+    QTest::newRow("box at the end") << eps(kBody + "showpage\n%%Trailer\n%%BoundingBox: 0 0 60 40\n",
+                                           "%%BoundingBox: (atend)");
+    QTest::newRow("sets its own page")
+        << eps("<< /PageSize [500 500] >> setpagedevice\n" + kBody + "showpage\n");
+    QTest::newRow("goes back to the page's coordinates")
+        << eps("7 7 scale initgraphics\n" + kBody + "showpage\n");
     QTest::newRow("its own showpage") << eps("/showpage {} def\n" + kBody + "showpage\n");
-    QTest::newRow("speaks to standard output") << eps("(%PDF- hello) print flush\n" + kBody + "(%PDF-) = showpage\n");
+    QTest::newRow("speaks to standard output")
+        << eps("(%PDF- hello) print flush\n" + kBody + "(%PDF-) = showpage\n");
     QTest::newRow("leaves a full stack behind") << eps("1 2 3 << /a 1 >> begin\n" + kBody + "showpage 4 5\n");
     QTest::newRow("zeros after the end") << eps(kBody + "showpage\n%%EOF\n") + QByteArray(600, '\0');
     QTest::newRow("binary, with something behind the section") << dosEps(eps(kBody + "showpage\n"));
     QTest::newRow("moved") << eps("-100 -200 translate 70 150 translate\n" + kBody + "showpage\n",
                                   "%%BoundingBox: -30 -50 30 -10");
-    QTest::newRow("paints beyond its box") << eps("0 0 1 setrgbcolor 1000 1000 9 9 rectfill\n" + kBody + "showpage\n");
+    QTest::newRow("paints beyond its box")
+        << eps("0 0 1 setrgbcolor 1000 1000 9 9 rectfill\n" + kBody + "showpage\n");
   }
   void itIsDrawn() {
     QFETCH(QByteArray, source);
@@ -164,9 +171,10 @@ class EpsEngineTest : public QObject {
   }
 
   void coloursStayWhatTheyAre() {
-    Opened opened(eps("0.1 0.2 0.3 0.4 setcmykcolor 0 0 10 10 rectfill\n"
-                      "[/Separation (Spot Green) /DeviceCMYK {dup 0 exch 0}] setcolorspace 0.5 setcolor 10 10 9 9 "
-                      "rectfill showpage\n"));
+    Opened opened(
+        eps("0.1 0.2 0.3 0.4 setcmykcolor 0 0 10 10 rectfill\n"
+            "[/Separation (Spot Green) /DeviceCMYK {dup 0 exch 0}] setcolorspace 0.5 setcolor 10 10 9 9 "
+            "rectfill showpage\n"));
     const auto pdf = opened->pdf({});
     QVERIFY(pdf.ok());
     auto file = PdfFile::open(pdf->bytes);
@@ -175,7 +183,8 @@ class EpsEngineTest : public QObject {
     const QByteArray contents(reinterpret_cast<const char*>(data->getBuffer()), qsizetype(data->getSize()));
     const QRegularExpression cmyk("([\\d.]+) ([\\d.]+) ([\\d.]+) ([\\d.]+) k\\s");
     const auto match = cmyk.match(QString::fromLatin1(contents));
-    for (int i = 1; i <= 4; ++i) QVERIFY2(std::abs(match.captured(i).toDouble() - 0.1 * i) < 0.001, contents.constData());
+    for (int i = 1; i <= 4; ++i)
+      QVERIFY2(std::abs(match.captured(i).toDouble() - 0.1 * i) < 0.001, contents.constData());
     bool spot = false;
     for (auto& object : (*file)->qpdf().getAllObjects())
       spot = spot || (object.isArray() && object.getArrayNItems() == 4 && object.getArrayItem(1).isName() &&
@@ -209,8 +218,9 @@ class EpsEngineTest : public QObject {
   }
 
   void aFontThatIsMissingIsTold() {
-    Opened opened(eps("/NoSuchFont findfont 12 scalefont setfont 5 5 moveto (hello) show\n"
-                      "/Helvetica findfont 12 scalefont setfont 5 20 moveto (hello) show showpage\n"));
+    Opened opened(
+        eps("/NoSuchFont findfont 12 scalefont setfont 5 5 moveto (hello) show\n"
+            "/Helvetica findfont 12 scalefont setfont 5 20 moveto (hello) show showpage\n"));
     const auto pdf = opened->pdf({});
     QVERIFY(pdf);
     QCOMPARE(pdf->report.warnings, QStringList{"the font NoSuchFont is missing, Courier stands in for it"});
@@ -220,7 +230,8 @@ class EpsEngineTest : public QObject {
     Opened opened(eps("/NoSuchFont findfont 12 scalefont setfont 5 5 moveto (hello) show showpage\n"));
     QCOMPARE(opened->drawingRemarks(), QStringList());  // nothing was drawn
     QVERIFY(!opened.image().isNull());
-    QCOMPARE(opened->drawingRemarks(), QStringList{"the font NoSuchFont is missing, Courier stands in for it"});
+    QCOMPARE(opened->drawingRemarks(),
+             QStringList{"the font NoSuchFont is missing, Courier stands in for it"});
   }
 
   void anErrorBehindThePictureIsAWarning() {

@@ -76,11 +76,14 @@ class StubEngine final : public engine::DocumentEngine {
     misbehave(bytes_.split(' ').first());
     if (context_.cancel.cancelled()) return cancelled();
     Result<engine::Bitmap> image = engine::Bitmap::create(request.pixelSize);
-    if (image) std::fill_n(image->row(0), size_t(image->width()) * size_t(image->height()), qRgb(0, 0, request.page));
+    if (image)
+      std::fill_n(image->row(0), size_t(image->width()) * size_t(image->height()), qRgb(0, 0, request.page));
     return image;
   }
 
-  [[nodiscard]] QStringList drawingRemarks() const override { return {QStringLiteral("a \x1b[31mremark\nabout fonts")}; }
+  [[nodiscard]] QStringList drawingRemarks() const override {
+    return {QStringLiteral("a \x1b[31mremark\nabout fonts")};
+  }
 
   Result<engine::EngineBytes> pdf(const PdfRequest& request) override {
     if (request.page == 99) return missing();
@@ -89,7 +92,8 @@ class StubEngine final : public engine::DocumentEngine {
 
   Result<engine::EngineBytes> compose(const ComposeRequest& request) override {
     if (request.page == 99) return missing();
-    return engine::EngineBytes{request.format == VectorFormat::Eps ? "EPS" : "PDF", {1, 0.5, 150, {"one region"}}};
+    return engine::EngineBytes{request.format == VectorFormat::Eps ? "EPS" : "PDF",
+                               {1, 0.5, 150, {"one region"}}};
   }
 
   Result<engine::EngineBytes> svg(const SvgRequest&) override { return engine::EngineBytes{bytes_, {}}; }

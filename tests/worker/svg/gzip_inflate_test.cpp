@@ -4,8 +4,8 @@
 #include <QByteArray>
 
 #include "kit/test_main.h"
-#include "worker/svg/svg_kit.h"
 #include "protocol/limits.h"
+#include "worker/svg/svg_kit.h"
 
 using namespace norvex;
 using namespace norvex::engine;
@@ -90,7 +90,8 @@ class GzipInflateTest : public QObject {
     const Result<QByteArray> inflated = inflateGzip(inner);
     QVERIFY(!inflated);
     QCOMPARE(inflated.error().kind, ErrorKind::Limit);
-    QCOMPARE(inflated.error().message, QStringLiteral("the compressed data grows to more than 1000 times its size"));
+    QCOMPARE(inflated.error().message,
+             QStringLiteral("the compressed data grows to more than 1000 times its size"));
   }
 
   void aHighRatioBelowOneMebibyteIsFine() {

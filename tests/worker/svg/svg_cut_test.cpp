@@ -30,7 +30,8 @@ Result<EngineBytes> cut(OpenSvg& document, const QRectF& rect, double rotate) {
   return document->svg(request);
 }
 
-/// What the picture, turned clockwise, shows in a rectangle of its bounding box (y down), drawn by the engine itself.
+/// What the picture, turned clockwise, shows in a rectangle of its bounding box (y down), drawn by the engine
+/// itself.
 QImage expected(OpenSvg& document, const QRectF& rect, double rotate, double scale) {
   const QSizeF size = document->facts()->pageBounds.value(0).size();
   const double c = std::cos(rotate), s = std::sin(rotate);
@@ -57,8 +58,9 @@ class SvgCutTest : public QObject {
   void sizeAndViewBoxAreTheRectangle() {
     OpenSvg document(svgOf("width='200' height='100'", "<rect width='10' height='10'/>"));
     const QByteArray bytes = cut(document, QRectF(10, 20, 30.5, 40), 0)->bytes;
-    QVERIFY(bytes.startsWith("<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" width=\"30.5pt\" "
-                             "height=\"40pt\" viewBox=\"10 20 30.5 40\">"));
+    QVERIFY(
+        bytes.startsWith("<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" width=\"30.5pt\" "
+                         "height=\"40pt\" viewBox=\"10 20 30.5 40\">"));
     OpenSvg again(bytes);
     QVERIFY(again.ok());
     QCOMPARE(again->facts()->pageBounds.value(0), QRectF(0, 0, 30.5, 40));
@@ -107,12 +109,14 @@ class SvgCutTest : public QObject {
     const QImage whole = expected(document, rect, qDegreesToRadians(degrees), 2);
     QCOMPARE(shown.size(), whole.size());
     // Clips that are not on the pixel grid are rounded a little differently by the inner viewport.
-    QVERIFY2(largestDifference(shown, whole) <= 12, qPrintable(QString::number(largestDifference(shown, whole))));
+    QVERIFY2(largestDifference(shown, whole) <= 12,
+             qPrintable(QString::number(largestDifference(shown, whole))));
   }
 
   void whatIsOutsideThePictureStaysEmpty() {
-    OpenSvg document(svgOf("width='96' height='96' style='overflow:visible'", "<rect x='-200' y='-200' width='999' "
-                                                                              "height='999' fill='#f00'/>"));
+    OpenSvg document(svgOf("width='96' height='96' style='overflow:visible'",
+                           "<rect x='-200' y='-200' width='999' "
+                           "height='999' fill='#f00'/>"));
     OpenSvg again(cut(document, QRectF(-10, -10, 92, 92), 0)->bytes);
     const QImage shown = *drawn(*again.result->get(), 1);
     QCOMPARE(shown.pixel(5, 5), 0u);
@@ -121,9 +125,10 @@ class SvgCutTest : public QObject {
   }
 
   void styleRulesForTheRootTakeHoldOnce() {
-    OpenSvg document(svgOf("width='96' height='96'",
-                           "<style>svg{opacity:0.5} g{opacity:0.5} svg > g{fill:#00f}</style><g><rect width='96' "
-                           "height='96'/></g><rect width='10' height='10'/>"));
+    OpenSvg document(
+        svgOf("width='96' height='96'",
+              "<style>svg{opacity:0.5} g{opacity:0.5} svg > g{fill:#00f}</style><g><rect width='96' "
+              "height='96'/></g><rect width='10' height='10'/>"));
     for (const double degrees : {0.0, 90.0}) {
       OpenSvg again(cut(document, QRectF(0, 0, 72, 72), qDegreesToRadians(degrees))->bytes);
       const QImage shown = *drawn(*again.result->get(), 1);
@@ -148,7 +153,8 @@ class SvgCutTest : public QObject {
 
   void impossibleRectanglesAreRefused() {
     OpenSvg document(svgOf("width='10' height='10'", ""));
-    for (const QRectF& rect : {QRectF(0, 0, 0, 10), QRectF(0, 0, 10, -1), QRectF(0, 0, qQNaN(), 1), QRectF(1e9, 0, 1, 1)})
+    for (const QRectF& rect :
+         {QRectF(0, 0, 0, 10), QRectF(0, 0, 10, -1), QRectF(0, 0, qQNaN(), 1), QRectF(1e9, 0, 1, 1)})
       QCOMPARE(cut(document, rect, 0).error().kind, ErrorKind::Protocol);
     QCOMPARE(cut(document, QRectF(0, 0, 1, 1), qInf()).error().kind, ErrorKind::Protocol);
   }

@@ -2,10 +2,10 @@
 #include <QtMath>
 
 #include "kit/test_main.h"
+#include "protocol/limits.h"
+#include "worker/engine/engine.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/svg/svg_kit.h"
-#include "worker/engine/engine.h"
-#include "protocol/limits.h"
 
 using namespace norvex;
 using namespace norvex::engine;
@@ -32,7 +32,8 @@ class SvgEngineTest : public QObject {
  private slots:
   void withoutARectangleTheSourceIsHandedOnByteForByte() {
     const QByteArray odd = "\xEF\xBB\xBF<?xml version='1.0'  encoding='utf-8'?>\r\n<!--a-->\t" +
-                           svgOf("width='10' height='10'", "<rect\twidth='5' height='5'/>") + "\n<!--b-->\n\n";
+                           svgOf("width='10' height='10'", "<rect\twidth='5' height='5'/>") +
+                           "\n<!--b-->\n\n";
     SvgRequest request;
     request.pretty = false;
     OpenSvg plain(odd);
@@ -46,19 +47,22 @@ class SvgEngineTest : public QObject {
   void fontsAreThoseNamedForTexts() {
     const PictureFacts facts = factsOf(
         svgOf("width='10' height='10' font-family=\"Arial, 'Open  Sans', inherit\"",
-              "<style><![CDATA[ /* font-family: Old; */ text { fill: red; font-family: \"Gentium, Book\" } .a{font:italic "
+              "<style><![CDATA[ /* font-family: Old; */ text { fill: red; font-family: \"Gentium, Book\" } "
+              ".a{font:italic "
               "bold 12px/1.5 Lato, serif} .b{font:inherit;font-size:3px;font-variant:normal}]]></style>"
               "<path style='font-family:Unused'/><g style='fill:red;font-family:Fira Sans !important'><text "
               "style='font:small-caps 10pt Georgia'>x<tspan font-family='arial'>y</tspan></text></g>"));
-    QCOMPARE(facts.fonts, (QStringList{"Arial", "Open Sans", "Gentium, Book", "Lato", "serif", "Fira Sans", "Georgia"}));
+    QCOMPARE(facts.fonts,
+             (QStringList{"Arial", "Open Sans", "Gentium, Book", "Lato", "serif", "Fira Sans", "Georgia"}));
     QCOMPARE(facts.colorSpaces, QStringList{"sRGB"});
     // Of hostile ones the time grows with the length, not with its square.
     const QByteArray digits(1 << 20, '1');
-    const PictureFacts hostile = factsOf(
-        svgOf("width='10' height='10' font='" + digits + "'", "<style>" + QByteArray("/*").repeated(1 << 19) +
-                                                                   "</style><text style='font:" + digits + " A'>x</text>"));
+    const PictureFacts hostile = factsOf(svgOf("width='10' height='10' font='" + digits + "'",
+                                               "<style>" + QByteArray("/*").repeated(1 << 19) +
+                                                   "</style><text style='font:" + digits + " A'>x</text>"));
     QVERIFY(hostile.fonts.isEmpty() && !hostile.pageBounds.isEmpty());
-    QVERIFY(factsOf(svgOf("width='10' height='10' font-family='Arial'", "<rect width='5' height='5'/>")).fonts.isEmpty());
+    QVERIFY(factsOf(svgOf("width='10' height='10' font-family='Arial'", "<rect width='5' height='5'/>"))
+                .fonts.isEmpty());
   }
 
   void boundsArePoints() {
@@ -85,10 +89,10 @@ class SvgEngineTest : public QObject {
   }
 
   void titleAndDescriptionAreTheRootsOwn() {
-    const QByteArray svg =
-        "<!DOCTYPE svg [<!ENTITY who 'Ada &amp; Eve'>]>" +
-        svgOf("width='1' height='1'",
-              "<g><title>inner</title></g><title>\n  By &who;,\n twice </title><title>second</title><desc>\n a\n b </desc>");
+    const QByteArray svg = "<!DOCTYPE svg [<!ENTITY who 'Ada &amp; Eve'>]>" +
+                           svgOf("width='1' height='1'",
+                                 "<g><title>inner</title></g><title>\n  By &who;,\n twice "
+                                 "</title><title>second</title><desc>\n a\n b </desc>");
     const PictureFacts facts = factsOf(svg);
     QCOMPARE(facts.title, QStringLiteral("By Ada & Eve, twice"));
     QCOMPARE(facts.description, QStringLiteral("a\n b"));
@@ -100,10 +104,12 @@ class SvgEngineTest : public QObject {
   }
 
   void warningsAreSentences() {
-    const PictureFacts facts = factsOf(
-        svgOf("width='wide' viewBox='0 0 1 1'", "<image href='http://example.org/a.png'/><script>1</script><set/>"));
+    const PictureFacts facts =
+        factsOf(svgOf("width='wide' viewBox='0 0 1 1'",
+                      "<image href='http://example.org/a.png'/><script>1</script><set/>"));
     QCOMPARE(facts.warnings.size(), 4);
-    for (const QString& warning : facts.warnings) QVERIFY(warning.startsWith("the document") && !warning.endsWith('.'));
+    for (const QString& warning : facts.warnings)
+      QVERIFY(warning.startsWith("the document") && !warning.endsWith('.'));
     QVERIFY(factsOf(svgOf("width='1' height='1'", kRedLeftTop)).warnings.isEmpty());
   }
 
@@ -121,14 +127,16 @@ class SvgEngineTest : public QObject {
   }
 
   void whatIsNotPaintedStaysTransparent() {
-    OpenSvg document(svgOf("width='100' height='50'", "<rect x='-50' width='1000' height='20' fill='#0000ff'/>"));
+    OpenSvg document(
+        svgOf("width='100' height='50'", "<rect x='-50' width='1000' height='20' fill='#0000ff'/>"));
     RenderRequest request;  // the picture in the middle of a larger image
     request.pixelSize = QSize(200, 150);
     request.pictureToDevice = QTransform(4.0 / 3, 0, 0, -4.0 / 3, 50, 100);
     const QImage image = imageOf(*document->render(request));
     QCOMPARE(image.pixel(50, 50), 0xff0000ffu);
     QCOMPARE(image.pixel(149, 69), 0xff0000ffu);
-    for (const QPoint& outside : {QPoint(49, 60), QPoint(150, 60), QPoint(100, 49), QPoint(100, 71), QPoint(0, 0)})
+    for (const QPoint& outside :
+         {QPoint(49, 60), QPoint(150, 60), QPoint(100, 49), QPoint(100, 71), QPoint(0, 0)})
       QCOMPARE(image.pixel(outside), 0u);
   }
 
@@ -145,7 +153,8 @@ class SvgEngineTest : public QObject {
   }
 
   void layersAreRightAtEveryAngle() {
-    OpenSvg document(svgOf("width='96' height='96'", "<g opacity='0.5'><rect width='96' height='96' fill='#f00'/></g>"));
+    OpenSvg document(
+        svgOf("width='96' height='96'", "<g opacity='0.5'><rect width='96' height='96' fill='#f00'/></g>"));
     for (int degrees = 0; degrees < 360; degrees += 15) {
       RenderRequest request;
       request.pixelSize = QSize(120, 120);
@@ -165,8 +174,9 @@ class SvgEngineTest : public QObject {
   }
 
   void aFilterIsDrawnHoweverLargeThePicture() {
-    OpenSvg document(svgOf("width='2000' height='2000'", "<filter id='f'><feOffset dx='0' dy='0'/></filter>"
-                                                         "<rect width='1000' height='2000' filter='url(#f)' fill='#00f'/>"));
+    OpenSvg document(svgOf("width='2000' height='2000'",
+                           "<filter id='f'><feOffset dx='0' dy='0'/></filter>"
+                           "<rect width='1000' height='2000' filter='url(#f)' fill='#00f'/>"));
     RenderRequest request;  // 64 times as large: 128000 pixels a side, of which the middle is asked for
     request.pixelSize = QSize(100, 100);
     const double scale = 64 * 4.0 / 3;
@@ -231,10 +241,11 @@ class SvgEngineTest : public QObject {
   }
 
   void thePdfShowsThePicture() {
-    const QByteArray svg = svgOf("width='100' height='50'", kRedLeftTop + "<rect x='60' y='30' width='40' height='20' "
-                                                                         "fill='url(#p)'/><pattern id='p' width='10' "
-                                                                         "height='10' patternUnits='userSpaceOnUse'>"
-                                                                         "<rect width='5' height='10'/></pattern>");
+    const QByteArray svg = svgOf("width='100' height='50'", kRedLeftTop +
+                                                                "<rect x='60' y='30' width='40' height='20' "
+                                                                "fill='url(#p)'/><pattern id='p' width='10' "
+                                                                "height='10' patternUnits='userSpaceOnUse'>"
+                                                                "<rect width='5' height='10'/></pattern>");
     OpenSvg document(svg);
     const Result<EngineBytes> pdf = document->pdf({});
     QVERIFY(pdf);
@@ -244,15 +255,16 @@ class SvgEngineTest : public QObject {
     const QImage shown = *drawn(**page, 4);
     const QImage expected = *drawn(*document.result->get(), 4);
     QCOMPARE(shown.size(), QSize(300, 150));
-    for (const QPoint& at : {QPoint(20, 20), QPoint(148, 58), QPoint(152, 20), QPoint(20, 62), QPoint(187, 120),
-                             QPoint(203, 120), QPoint(290, 140)})
+    for (const QPoint& at : {QPoint(20, 20), QPoint(148, 58), QPoint(152, 20), QPoint(20, 62),
+                             QPoint(187, 120), QPoint(203, 120), QPoint(290, 140)})
       QCOMPARE(shown.pixel(at), expected.pixel(at));
     QCOMPARE(shown.pixel(187, 120), 0xff000000u);
   }
 
   void effectsInThePdfAreCounted() {
-    OpenSvg document(svgOf("width='100' height='50'", "<filter id='f'><feGaussianBlur stdDeviation='3'/></filter>"
-                                                      "<rect x='20' y='10' width='50' height='20' filter='url(#f)'/>"));
+    OpenSvg document(svgOf("width='100' height='50'",
+                           "<filter id='f'><feGaussianBlur stdDeviation='3'/></filter>"
+                           "<rect x='20' y='10' width='50' height='20' filter='url(#f)'/>"));
     const Result<EngineBytes> pdf = document->pdf({});
     QVERIFY(pdf);
     QCOMPARE(pdf->report.regionsRasterised, 1);
@@ -267,16 +279,20 @@ class SvgEngineTest : public QObject {
     QTest::addColumn<double>("dpi");
     QTest::newRow("small") << QByteArray("width='100' height='100'") << 2.0 << 300.0;
     QTest::newRow("large") << QByteArray("width='100' height='100'") << 8.0 << 120.0;
-    QTest::newRow("in a view box") << QByteArray("width='200' height='200' viewBox='0 0 100 100'") << 4.0 << 120.0;
+    QTest::newRow("in a view box") << QByteArray("width='200' height='200' viewBox='0 0 100 100'") << 4.0
+                                   << 120.0;
     QTest::newRow("too large at any resolution") << QByteArray("width='100' height='100'") << 40.0 << 72.0;
   }
   void aFilterThatThickensKeepsItsRadiusInThePdf() {
     QFETCH(QByteArray, root);
     QFETCH(double, radius);
     QFETCH(double, dpi);
-    OpenSvg document(svgOf(root, "<filter id='f' x='-100%' width='300%' y='0' height='100%'><feMorphology "
-                                 "operator='dilate' radius='" + QByteArray::number(radius) + "'/></filter>"
-                                 "<rect x='40' y='20' width='20' height='60' filter='url(#f)'/>"));
+    OpenSvg document(svgOf(root,
+                           "<filter id='f' x='-100%' width='300%' y='0' height='100%'><feMorphology "
+                           "operator='dilate' radius='" +
+                               QByteArray::number(radius) +
+                               "'/></filter>"
+                               "<rect x='40' y='20' width='20' height='60' filter='url(#f)'/>"));
     const Result<EngineBytes> pdf = document->pdf({});
     QVERIFY(pdf);
     QCOMPARE(pdf->report.rasterisedDpi, dpi);
@@ -286,7 +302,9 @@ class SvgEngineTest : public QObject {
     QVERIFY(page);
     const QImage shown = *drawn(**page, 4);
     const double scale = shown.width() / 100.0;
-    const auto isBlack = [&](double x) { return qAlpha(shown.pixel(int(x * scale), shown.height() / 2)) > 200; };
+    const auto isBlack = [&](double x) {
+      return qAlpha(shown.pixel(int(x * scale), shown.height() / 2)) > 200;
+    };
     QVERIFY(isBlack(40 - radius + 0.7) && isBlack(60 + radius - 0.7));
     QVERIFY(!isBlack(40 - radius - 0.7) && !isBlack(60 + radius + 0.7));
   }
@@ -309,7 +327,8 @@ class SvgEngineTest : public QObject {
     const QString begin = QStringLiteral("the font Nonesuch Sans is missing, ");
     QCOMPARE(pdf->report.warnings.size(), missing ? 1 : 0);
     QCOMPARE(document->drawingRemarks(), pdf->report.warnings);
-    if (missing) QVERIFY2(pdf->report.warnings.first().startsWith(begin), qPrintable(pdf->report.warnings.first()));
+    if (missing)
+      QVERIFY2(pdf->report.warnings.first().startsWith(begin), qPrintable(pdf->report.warnings.first()));
   }
 
   void composingGivesTheRectangle() {
@@ -339,7 +358,8 @@ class SvgEngineTest : public QObject {
     row("another namespace", "<svg xmlns='http://example.org/'/>");
     row("cut off", "<svg xmlns='http://www.w3.org/2000/svg'><g>");
     row("not UTF-8", "<svg xmlns='http://www.w3.org/2000/svg'><title>\xff\xfe</title></svg>");
-    row("unknown encoding", "<?xml version='1.0' encoding='klingon'?><svg xmlns='http://www.w3.org/2000/svg'/>");
+    row("unknown encoding",
+        "<?xml version='1.0' encoding='klingon'?><svg xmlns='http://www.w3.org/2000/svg'/>");
     row("a gzip header alone", QByteArray("\x1f\x8b\x08\0\0\0\0\0\0\x03", 10));
     row("no extent", svgOf("width='0' height='10'", ""), ErrorKind::Unsupported);
     row("beyond all points", svgOf("width='1e9' height='10'", ""), ErrorKind::Limit);

@@ -2,8 +2,8 @@
 #include "worker/svg/svg_inspection.h"
 
 #include "kit/test_main.h"
-#include "worker/svg/svg_kit.h"
 #include "protocol/limits.h"
+#include "worker/svg/svg_kit.h"
 
 using namespace norvex;
 using namespace norvex::engine;
@@ -25,7 +25,8 @@ QByteArray nested(int depth, const QByteArray& inside = {}) {
 QByteArray laughs(int times, const QByteArray& use, const QByteArray& first = "hahahahaha") {
   QByteArray subset = "<!ENTITY l0 '" + first + "'>";
   for (int i = 1; i < 10; ++i)
-    subset += "<!ENTITY l" + QByteArray::number(i) + " '" + ("&l" + QByteArray::number(i - 1) + ";").repeated(times) + "'>";
+    subset += "<!ENTITY l" + QByteArray::number(i) + " '" +
+              ("&l" + QByteArray::number(i - 1) + ";").repeated(times) + "'>";
   return "<!DOCTYPE svg [" + subset + "]>" + use;
 }
 
@@ -54,7 +55,8 @@ class SvgInspectionTest : public QObject {
   }
   void expansionIsLimited() {
     QFETCH(QByteArray, use);
-    QCOMPARE(limitMessage(laughs(10, use)), QStringLiteral("the document uses entities more than 200000 times"));
+    QCOMPARE(limitMessage(laughs(10, use)),
+             QStringLiteral("the document uses entities more than 200000 times"));
     QCOMPARE(limitMessage(laughs(10, use, QByteArray(4000, 'x'))),
              QStringLiteral("the entities of the document expand to more than 64 MiB"));
     QVERIFY(inspectSvg(laughs(2, use)));
@@ -63,7 +65,8 @@ class SvgInspectionTest : public QObject {
   void elementsFromEntitiesCount() {
     QByteArray subset = "<!ENTITY e0 '<g/><g/><g/><g/><g/><g/><g/><g/><g/><g/>'>";
     for (int i = 1; i < 6; ++i)
-      subset += "<!ENTITY e" + QByteArray::number(i) + " '" + ("&e" + QByteArray::number(i - 1) + ";").repeated(10) + "'>";
+      subset += "<!ENTITY e" + QByteArray::number(i) + " '" +
+                ("&e" + QByteArray::number(i - 1) + ";").repeated(10) + "'>";
     QCOMPARE(limitMessage("<!DOCTYPE svg [" + subset + "]>" + svgOf("", "&e5;")),
              QStringLiteral("the document has more than 1000000 elements"));
   }
@@ -80,23 +83,28 @@ class SvgInspectionTest : public QObject {
     const auto chain = [](int groups) {
       QByteArray all;
       for (int i = 0; i < groups; ++i)
-        all += "<g id='g" + QByteArray::number(i) + "'>" + nested(99, "<use xlink:href='#g" + QByteArray::number(i - 1) + "'/>") + "</g>";
+        all += "<g id='g" + QByteArray::number(i) + "'>" +
+               nested(99, "<use xlink:href='#g" + QByteArray::number(i - 1) + "'/>") + "</g>";
       return svgOf("", "<defs>" + all + "</defs><use href='#g" + QByteArray::number(groups - 1) + "'/>");
     };
     QVERIFY(inspectSvg(chain(9)));
-    QCOMPARE(limitMessage(chain(12)), QStringLiteral("the references of the document nest more than 1000 deep"));
+    QCOMPARE(limitMessage(chain(12)),
+             QStringLiteral("the references of the document nest more than 1000 deep"));
   }
 
   void masksAndPatternsAreReferencesToo() {
     QByteArray all;
     for (int i = 0; i < 12; ++i)
-      all += "<mask id='m" + QByteArray::number(i) + "'>" + nested(99, "<rect style='fill:red;mask : url( \"#m" + QByteArray::number(i + 1) + "\" )'/>") + "</mask>";
+      all += "<mask id='m" + QByteArray::number(i) + "'>" +
+             nested(99, "<rect style='fill:red;mask : url( \"#m" + QByteArray::number(i + 1) + "\" )'/>") +
+             "</mask>";
     QCOMPARE(limitMessage(svgOf("", all + "<rect mask='url(#m0)'/>")),
              QStringLiteral("the references of the document nest more than 1000 deep"));
   }
 
   void manyUsesOfOneShapeAreFine() {
-    QVERIFY(inspectSvg(svgOf("", "<g id='a'><rect/></g>" + QByteArray("<g><use href='#a'/></g>").repeated(20'000))));
+    QVERIFY(inspectSvg(
+        svgOf("", "<g id='a'><rect/></g>" + QByteArray("<g><use href='#a'/></g>").repeated(20'000))));
   }
 
   void aSmallCycleIsLeftToTheRenderer() {
@@ -118,16 +126,17 @@ class SvgInspectionTest : public QObject {
   }
 
   void parameterEntitiesInsideWork() {
-    const Result<SvgInspection> inspection =
-        inspectSvg("<!DOCTYPE svg [<!ENTITY % all '<!ENTITY t \"word\">'> %all;]>" + svgOf("", "<title>&t;</title>"));
+    const Result<SvgInspection> inspection = inspectSvg(
+        "<!DOCTYPE svg [<!ENTITY % all '<!ENTITY t \"word\">'> %all;]>" + svgOf("", "<title>&t;</title>"));
     QVERIFY(inspection);
     QCOMPARE(inspection->title, QStringLiteral("word"));
   }
 
   void referencesToTheOutsideAreCounted() {
     const Result<SvgInspection> inspection =
-        inspectSvg(svgOf("", "<image href='a.png'/><image xlink:href='file:///b.png'/><use href='#c'/>"
-                             "<image href='data:image/png;base64,'/><a href='http://example.org'/>"));
+        inspectSvg(svgOf("",
+                         "<image href='a.png'/><image xlink:href='file:///b.png'/><use href='#c'/>"
+                         "<image href='data:image/png;base64,'/><a href='http://example.org'/>"));
     QCOMPARE(inspection->outsideReferences, 2);
     QVERIFY(!inspection->hasNestedDocument);
     QVERIFY(inspectSvg(svgOf("", "<image href='data:image/svg+xml,'/>"))->hasNestedDocument);
@@ -142,13 +151,15 @@ class SvgInspectionTest : public QObject {
 
   void layersAreSeen() {
     QVERIFY(!inspectSvg(svgOf("", "<g style='fill-opacity:0.5' stroke-opacity='0.5'/>"))->hasLayers);
-    for (const char* contents : {"<g opacity='0.5'/>", "<g style='fill:red;opacity : 0.5'/>", "<g filter='url(#f)'/>",
-                                 "<g style='mix-blend-mode:screen'/>", "<style>g{}</style>"})
+    for (const char* contents :
+         {"<g opacity='0.5'/>", "<g style='fill:red;opacity : 0.5'/>", "<g filter='url(#f)'/>",
+          "<g style='mix-blend-mode:screen'/>", "<style>g{}</style>"})
       QVERIFY2(inspectSvg(svgOf("", contents))->hasLayers, contents);
   }
 
   void brokenXmlTellsItsLine() {
-    const Result<SvgInspection> inspection = inspectSvg("<svg xmlns='http://www.w3.org/2000/svg'>\n<g>\n</svg>");
+    const Result<SvgInspection> inspection =
+        inspectSvg("<svg xmlns='http://www.w3.org/2000/svg'>\n<g>\n</svg>");
     QVERIFY(!inspection);
     QCOMPARE(inspection.error().kind, ErrorKind::NotParsable);
     QVERIFY(inspection.error().message.startsWith("the document is not well-formed XML (line 3: "));

@@ -9,16 +9,16 @@
 #include <cmath>
 #include <memory>
 
+#include "worker/engine/engine.h"
 #include "worker/every_engine/open_document.h"
 #include "worker/kit/bitmap_images.h"
-#include "worker/engine/engine.h"
 
 namespace norvex::kit {
 
 /// An SVG document of the usual namespace with these attributes of the root and these contents.
 inline QByteArray svgOf(const QByteArray& rootAttributes, const QByteArray& contents) {
-  return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" " + rootAttributes +
-         ">" + contents + "</svg>";
+  return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" " +
+         rootAttributes + ">" + contents + "</svg>";
 }
 
 /// The bytes as a gzip stream.
@@ -51,7 +51,8 @@ inline Result<QImage> drawn(engine::DocumentEngine& document, double scale) {
   const Result<PictureFacts> facts = document.facts();
   const QSizeF size = facts->pageBounds.value(0).size();
   RenderRequest request;
-  request.pixelSize = QSize(int(std::ceil(size.width() * scale - 1e-6)), int(std::ceil(size.height() * scale - 1e-6)));
+  request.pixelSize =
+      QSize(int(std::ceil(size.width() * scale - 1e-6)), int(std::ceil(size.height() * scale - 1e-6)));
   request.pictureToDevice = QTransform(scale, 0, 0, -scale, 0, size.height() * scale);
   return imageOf(document.render(request));
 }

@@ -52,7 +52,8 @@ class SvgLengthTest : public QObject {
 
   void whatIsNoLengthIsNothing_data() {
     QTest::addColumn<QString>("text");
-    for (const char* text : {"", "px", "10 px", "10furlong", "1e999", "nan", "inf", "10;", "--1", "1.2.3", ".", "+", "+.", "e5", "1e+", "1%%"})
+    for (const char* text : {"", "px", "10 px", "10furlong", "1e999", "nan", "inf", "10;", "--1", "1.2.3",
+                             ".", "+", "+.", "e5", "1e+", "1%%"})
       QTest::newRow(text) << QString::fromLatin1(text);
   }
   void whatIsNoLengthIsNothing() {
@@ -74,12 +75,14 @@ class SvgLengthTest : public QObject {
     const QRegularExpression length("^\\s*(" + number + ")(px|em|%|)\\s*$");
     const QRegularExpression box("^\\s*" + number + "(?:[\\s,]+" + number + "){3}\\s*$");
     const QRegularExpression outOfRange("[eE][+-]?[0-9]{3}");
-    const QStringList pieces{"0", "7", "12", ".", "+", "-", "e", "E", "px", "em", "%", " ", ",", "\n", QChar(0xa0)};
+    const QStringList pieces{"0",  "7",  "12", ".", "+", "-",  "e",        "E",
+                             "px", "em", "%",  " ", ",", "\n", QChar(0xa0)};
     QRandomGenerator random(3);
     int lengths = 0, boxes = 0;
     for (int round = 0; round < 200'000; ++round) {
       QString text;
-      for (quint32 left = random.bounded(1u, 14u); left > 0; --left) text += pieces[random.bounded(int(pieces.size()))];
+      for (quint32 left = random.bounded(1u, 14u); left > 0; --left)
+        text += pieces[random.bounded(int(pieces.size()))];
       if (text.contains(outOfRange)) continue;
       const bool isLength = length.match(text).hasMatch();
       QVERIFY2(parseSvgLength(text).has_value() == isLength, qPrintable(text));
@@ -103,20 +106,37 @@ class SvgLengthTest : public QObject {
     QTest::addColumn<QSizeF>("size");
     const QSizeF whole(400, 100);  // the view box of most rows
     const QString box = "0 0 400 100";
-    QTest::newRow("both absolute") << "200" << "1in" << box << QSizeF(200, 96);
-    QTest::newRow("both absent") << "" << "" << box << whole;
-    QTest::newRow("both 100%") << "100%" << "100%" << box << whole;
-    QTest::newRow("both 50%") << "50%" << "50%" << box << QSizeF(200, 50);
-    QTest::newRow("width alone keeps the proportion") << "200" << "" << box << QSizeF(200, 50);
-    QTest::newRow("height alone keeps the proportion") << "" << "50" << box << QSizeF(200, 50);
-    QTest::newRow("width and a percentage") << "200" << "50%" << box << QSizeF(200, 25);
-    QTest::newRow("nothing at all: what is drawn") << "" << "" << "" << QSizeF(70, 30);
-    QTest::newRow("width alone, no view box") << "200" << "" << "" << QSizeF(200, 30);
-    QTest::newRow("an empty view box counts as none") << "" << "" << "0 0 0 10" << QSizeF(70, 30);
-    QTest::newRow("negative counts as absent") << "-1" << "" << box << whole;
-    QTest::newRow("unreadable counts as absent") << "wide" << "" << box << whole;
-    QTest::newRow("auto") << "auto" << "auto" << box << whole;
-    QTest::newRow("zero stays zero") << "0" << "10" << box << QSizeF(0, 10);
+    QTest::newRow("both absolute") << "200"
+                                   << "1in" << box << QSizeF(200, 96);
+    QTest::newRow("both absent") << ""
+                                 << "" << box << whole;
+    QTest::newRow("both 100%") << "100%"
+                               << "100%" << box << whole;
+    QTest::newRow("both 50%") << "50%"
+                              << "50%" << box << QSizeF(200, 50);
+    QTest::newRow("width alone keeps the proportion") << "200"
+                                                      << "" << box << QSizeF(200, 50);
+    QTest::newRow("height alone keeps the proportion") << ""
+                                                       << "50" << box << QSizeF(200, 50);
+    QTest::newRow("width and a percentage") << "200"
+                                            << "50%" << box << QSizeF(200, 25);
+    QTest::newRow("nothing at all: what is drawn") << ""
+                                                   << ""
+                                                   << "" << QSizeF(70, 30);
+    QTest::newRow("width alone, no view box") << "200"
+                                              << ""
+                                              << "" << QSizeF(200, 30);
+    QTest::newRow("an empty view box counts as none") << ""
+                                                      << ""
+                                                      << "0 0 0 10" << QSizeF(70, 30);
+    QTest::newRow("negative counts as absent") << "-1"
+                                               << "" << box << whole;
+    QTest::newRow("unreadable counts as absent") << "wide"
+                                                 << "" << box << whole;
+    QTest::newRow("auto") << "auto"
+                          << "auto" << box << whole;
+    QTest::newRow("zero stays zero") << "0"
+                                     << "10" << box << QSizeF(0, 10);
   }
   void theSizeOfThePicture() {
     QFETCH(QString, width);

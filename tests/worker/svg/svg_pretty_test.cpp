@@ -22,7 +22,8 @@ QStringList canonical(const QByteArray& svg) {
   while (!reader.atEnd()) {
     const auto token = reader.readNext();
     if (token == QXmlStreamReader::Characters && reader.isWhitespace()) continue;
-    QString item = reader.tokenString() + ' ' + reader.qualifiedName().toString() + ' ' + reader.text().toString();
+    QString item =
+        reader.tokenString() + ' ' + reader.qualifiedName().toString() + ' ' + reader.text().toString();
     for (const QXmlStreamAttribute& attribute : reader.attributes())
       item += ' ' + attribute.qualifiedName().toString() + '=' + attribute.value().toString();
     items << item;
@@ -59,7 +60,8 @@ class SvgPrettyTest : public QObject {
   void whatIsBeforeTheRootStays() {
     const QByteArray prolog =
         "<?xml version=\"1.0\" standalone='no'?>\n<!-- a\n  b -->\n"
-        "<!DOCTYPE svg PUBLIC \"a>b\" \"c\" [\n\t<!ENTITY ns 'http://x/'>\n  <!-- ]> -->\n]>\n<?php 1 > 2 ?>\n";
+        "<!DOCTYPE svg PUBLIC \"a>b\" \"c\" [\n\t<!ENTITY ns 'http://x/'>\n  <!-- ]> -->\n]>\n<?php 1 > 2 "
+        "?>\n";
     QCOMPARE(prettySvg(prolog + "<svg/>"), prolog + "<svg/>\n");
   }
 

@@ -1,7 +1,7 @@
 // Text that is drawn wider than high, or slanted, becomes outlines: in its PDF it stands where the screen
 // shows it.
-#include "worker/pages/pdf_engine.h"
 #include "worker/svg/svg_stretching.h"
+#include "worker/pages/pdf_engine.h"
 
 #include "kit/test_main.h"
 #include "worker/svg/svg_inspection.h"

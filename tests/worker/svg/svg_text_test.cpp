@@ -13,7 +13,8 @@ using norvex::kit::OpenSvg;
 
 namespace {
 
-const QString kBody = QStringLiteral("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1\" height=\"1\"><title>%1</title></svg>");
+const QString kBody = QStringLiteral(
+    "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1\" height=\"1\"><title>%1</title></svg>");
 
 QString declaration(const char* encoding) {
   return QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?>").arg(QString::fromLatin1(encoding));
@@ -36,29 +37,35 @@ class SvgTextTest : public QObject {
     QTest::addColumn<QString>("title");
     const QString plain = kBody.arg("abc");
     const QString japanese = QStringLiteral("日本語");
-    const auto row = [](const char* what, const QByteArray& bytes, const char* name, qint64 number, const QString& title) {
+    const auto row = [](const char* what, const QByteArray& bytes, const char* name, qint64 number,
+                        const QString& title) {
       QTest::newRow(what) << bytes << QString::fromLatin1(name) << number << title;
     };
     row("nothing said", plain.toUtf8(), "utf-8", encoding::Utf8, "abc");
     row("UTF-8", (declaration("UTF-8") + kBody.arg(japanese)).toUtf8(), "utf-8", encoding::Utf8, japanese);
     row("UTF-8 mark", "\xef\xbb\xbf" + kBody.arg(japanese).toUtf8(), "utf-8", encoding::Utf8, japanese);
-    row("UTF-8 mark against the declaration", "\xef\xbb\xbf" + (declaration("shift_jis") + kBody.arg(japanese)).toUtf8(),
-        "utf-8", encoding::Utf8, japanese);
-    row("8-bit text that claims UTF-16", (declaration("UTF-16") + plain).toUtf8(), "utf-8", encoding::Utf8, "abc");
-    row("UTF-16 FE FF", utf16(kBody.arg(japanese), QStringConverter::Utf16BE, true), "utf-16", encoding::Utf16, japanese);
-    row("UTF-16 FF FE", utf16(kBody.arg(japanese), QStringConverter::Utf16LE, true), "utf-16", encoding::Utf16, japanese);
-    row("UTF-16 without mark", utf16(declaration("UTF-16") + plain, QStringConverter::Utf16LE, false), "utf-16",
-        encoding::Utf16, "abc");
-    row("Shift JIS", (declaration("Shift_JIS") + kBody).toLatin1().replace("%1", "\x93\xfa\x96\x7b\x8c\xea"), "shift_jis",
-        encoding::ShiftJis, japanese);
-    row("EUC-JP", (declaration("EUC-JP") + kBody).toLatin1().replace("%1", "\xc6\xfc\xcb\xdc\xb8\xec"), "euc-jp",
-        encoding::EucJp, japanese);
+    row("UTF-8 mark against the declaration",
+        "\xef\xbb\xbf" + (declaration("shift_jis") + kBody.arg(japanese)).toUtf8(), "utf-8", encoding::Utf8,
+        japanese);
+    row("8-bit text that claims UTF-16", (declaration("UTF-16") + plain).toUtf8(), "utf-8", encoding::Utf8,
+        "abc");
+    row("UTF-16 FE FF", utf16(kBody.arg(japanese), QStringConverter::Utf16BE, true), "utf-16",
+        encoding::Utf16, japanese);
+    row("UTF-16 FF FE", utf16(kBody.arg(japanese), QStringConverter::Utf16LE, true), "utf-16",
+        encoding::Utf16, japanese);
+    row("UTF-16 without mark", utf16(declaration("UTF-16") + plain, QStringConverter::Utf16LE, false),
+        "utf-16", encoding::Utf16, "abc");
+    row("Shift JIS", (declaration("Shift_JIS") + kBody).toLatin1().replace("%1", "\x93\xfa\x96\x7b\x8c\xea"),
+        "shift_jis", encoding::ShiftJis, japanese);
+    row("EUC-JP", (declaration("EUC-JP") + kBody).toLatin1().replace("%1", "\xc6\xfc\xcb\xdc\xb8\xec"),
+        "euc-jp", encoding::EucJp, japanese);
     row("ASCII", (declaration("us-ascii") + plain).toLatin1(), "us-ascii", encoding::NonLossyAscii, "abc");
-    row("ASCII with a backslash", (declaration("us-ascii") + kBody.arg("a\\142c")).toLatin1(), "utf-8", encoding::Utf8,
-        "a\\142c");
-    row("Latin 1", (declaration("iso-8859-1") + kBody).toLatin1().replace("%1", "\xe9t\xe9"), "utf-8", encoding::Utf8,
-        QStringLiteral("été"));
-    row("UTF-32", utf16(kBody.arg(japanese), QStringConverter::Utf32LE, true), "utf-8", encoding::Utf8, japanese);
+    row("ASCII with a backslash", (declaration("us-ascii") + kBody.arg("a\\142c")).toLatin1(), "utf-8",
+        encoding::Utf8, "a\\142c");
+    row("Latin 1", (declaration("iso-8859-1") + kBody).toLatin1().replace("%1", "\xe9t\xe9"), "utf-8",
+        encoding::Utf8, QStringLiteral("été"));
+    row("UTF-32", utf16(kBody.arg(japanese), QStringConverter::Utf32LE, true), "utf-8", encoding::Utf8,
+        japanese);
   }
   void everyEncodingHasItsNameAndNumber() {
     QFETCH(QByteArray, bytes);
@@ -82,9 +89,10 @@ class SvgTextTest : public QObject {
   }
 
   void bytesComeBackAsTheyWere() {
-    for (const QByteArray& bytes : {utf16(kBody, QStringConverter::Utf16LE, true), utf16(kBody, QStringConverter::Utf16BE, true),
-                                    "\xef\xbb\xbf" + kBody.toUtf8(), kBody.toUtf8(),
-                                    QByteArray("<?xml version='1.0' encoding='EUC-JP'?><svg>\xc6\xfc</svg>")}) {
+    for (const QByteArray& bytes :
+         {utf16(kBody, QStringConverter::Utf16LE, true), utf16(kBody, QStringConverter::Utf16BE, true),
+          "\xef\xbb\xbf" + kBody.toUtf8(), kBody.toUtf8(),
+          QByteArray("<?xml version='1.0' encoding='EUC-JP'?><svg>\xc6\xfc</svg>")}) {
       const Result<SvgText> text = decodeSvgText(bytes);
       QVERIFY(text);
       QCOMPARE(encodeSvgText(text->utf8, *text), bytes);
@@ -100,8 +108,9 @@ class SvgTextTest : public QObject {
   }
 
   void whatIsNoTextIsRefused() {
-    for (const QByteArray& bytes : {QByteArray("<?xml version='1.0' encoding='EUC-JP'?><svg>\xc6</svg>"),
-                                    QByteArray("<?xml version='1.0' encoding='no-such'?><svg/>"), QByteArray("\xfe\xff\0", 3)}) {
+    for (const QByteArray& bytes :
+         {QByteArray("<?xml version='1.0' encoding='EUC-JP'?><svg>\xc6</svg>"),
+          QByteArray("<?xml version='1.0' encoding='no-such'?><svg/>"), QByteArray("\xfe\xff\0", 3)}) {
       const Result<SvgText> text = decodeSvgText(bytes);
       QVERIFY(!text);
       QCOMPARE(text.error().kind, ErrorKind::NotParsable);

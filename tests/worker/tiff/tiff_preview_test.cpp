@@ -70,7 +70,8 @@ QByteArray madeTiff(const Made& made, const QByteArray& rows, const QList<quint1
     QByteArray copy = rows;
     for (int plane = 0; plane < planes; ++plane)
       for (int y = 0; y < made.height; ++y)
-        TIFFWriteScanline(file, copy.data() + (plane * made.height + y) * rowBytes, uint32_t(y), uint16_t(plane));
+        TIFFWriteScanline(file, copy.data() + (plane * made.height + y) * rowBytes, uint32_t(y),
+                          uint16_t(plane));
   }
   TIFFClose(file);
   QFile result(path);
@@ -82,7 +83,9 @@ NSBitmapImageRep decoded(const QByteArray& bytes) {
   return image ? *image : NSBitmapImageRep{};
 }
 
-QByteArray hex(const char* digits) { return QByteArray::fromHex(digits); }
+QByteArray hex(const char* digits) {
+  return QByteArray::fromHex(digits);
+}
 
 }  // namespace
 
@@ -96,12 +99,14 @@ class TiffPreviewTest : public QObject {
     QTest::addColumn<int>("bits");
     QTest::addColumn<int>("samples");
     QTest::addColumn<int>("bytesPerRow");
-    const QString grey = NSCalibratedWhiteColorSpace, rgb = NSCalibratedRGBColorSpace, cmyk = NSDeviceCMYKColorSpace;
+    const QString grey = NSCalibratedWhiteColorSpace, rgb = NSCalibratedRGBColorSpace,
+                  cmyk = NSDeviceCMYKColorSpace;
     const QByteArray eight = hex("0010207f 80f0ff01");
     QTest::newRow("grey") << madeTiff({}, eight) << eight << grey << 8 << 1 << 4;
     Made made;
     made.photometric = PHOTOMETRIC_MINISWHITE;
-    QTest::newRow("grey, white is zero") << madeTiff(made, eight) << hex("ffefdf80 7f0f00fe") << grey << 8 << 1 << 4;
+    QTest::newRow("grey, white is zero")
+        << madeTiff(made, eight) << hex("ffefdf80 7f0f00fe") << grey << 8 << 1 << 4;
     made = {};
     made.bits = 1, made.width = 12;
     QTest::newRow("one bit") << madeTiff(made, hex("a5f0 1230")) << hex("a5f0 1230") << grey << 1 << 1 << 2;
@@ -118,13 +123,15 @@ class TiffPreviewTest : public QObject {
     made.compression = COMPRESSION_PACKBITS;
     QTest::newRow("RGB, PackBits") << madeTiff(made, colours) << colours << rgb << 8 << 3 << 6;
     made.compression = COMPRESSION_NONE, made.planar = PLANARCONFIG_SEPARATE;
-    QTest::newRow("RGB in planes") << madeTiff(made, hex("ff00 0010 00ff 0020 0000 ff30")) << colours << rgb << 8 << 3 << 6;
+    QTest::newRow("RGB in planes") << madeTiff(made, hex("ff00 0010 00ff 0020 0000 ff30")) << colours << rgb
+                                   << 8 << 3 << 6;
     made = {};
     made.samples = 4, made.photometric = PHOTOMETRIC_SEPARATED, made.width = 1;
-    QTest::newRow("CMYK") << madeTiff(made, hex("01020304 05060708")) << hex("01020304 05060708") << cmyk << 8 << 4 << 4;
+    QTest::newRow("CMYK") << madeTiff(made, hex("01020304 05060708")) << hex("01020304 05060708") << cmyk << 8
+                          << 4 << 4;
     made.photometric = PHOTOMETRIC_RGB, made.extra = EXTRASAMPLE_ASSOCALPHA;
-    QTest::newRow("RGB with opacity") << madeTiff(made, hex("10203040 ffffffff")) << hex("10203040 ffffffff") << rgb << 8
-                                      << 4 << 4;
+    QTest::newRow("RGB with opacity")
+        << madeTiff(made, hex("10203040 ffffffff")) << hex("10203040 ffffffff") << rgb << 8 << 4 << 4;
     made.extra = EXTRASAMPLE_UNASSALPHA;
     QTest::newRow("RGB with opacity, not premultiplied")
         << madeTiff(made, hex("ff804080 11223300")) << hex("80402080 00000000") << rgb << 8 << 4 << 4;
@@ -200,8 +207,8 @@ class TiffPreviewTest : public QObject {
   }
 
   void whatIsNoTiffIsAnError() {
-    for (const QByteArray& bytes : {QByteArray(), QByteArray("II*"), QByteArray("II*\0\x08\0\0\0", 8), QByteArray("GIF89a"),
-                                    QByteArray(1000, '\xff')}) {
+    for (const QByteArray& bytes : {QByteArray(), QByteArray("II*"), QByteArray("II*\0\x08\0\0\0", 8),
+                                    QByteArray("GIF89a"), QByteArray(1000, '\xff')}) {
       const auto image = decodeTiff(bytes, {});
       QVERIFY(!image.ok());
       QCOMPARE(image.error().kind, ErrorKind::NotParsable);

@@ -4,6 +4,7 @@
 #include <QCborMap>
 #include <QCborValue>
 #include <QRandomGenerator>
+#include <QTransform>
 
 #include <limits>
 

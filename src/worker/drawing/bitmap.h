@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QRect>
-#include <QRgb>
 #include <QSize>
 
 #include <memory>
@@ -10,6 +9,13 @@
 #include "base/result.h"
 
 namespace norvex::engine {
+
+/// A pixel 0xAARRGGBB, like QRgb, which is part of Qt Gui.
+using Argb32 = quint32;
+[[nodiscard]] inline int alpha(Argb32 pixel) { return int(pixel >> 24); }
+[[nodiscard]] inline int red(Argb32 pixel) { return int(pixel >> 16 & 0xFF); }
+[[nodiscard]] inline int green(Argb32 pixel) { return int(pixel >> 8 & 0xFF); }
+[[nodiscard]] inline int blue(Argb32 pixel) { return int(pixel & 0xFF); }
 
 /// Premultiplied ARGB32 in native byte order, rows top to bottom without padding. A value whose copies share
 /// their pixels.
@@ -25,17 +31,17 @@ class Bitmap {
   [[nodiscard]] int height() const { return size_.height(); }
   [[nodiscard]] QRect rect() const { return {{0, 0}, size_}; }
   [[nodiscard]] bool isEmpty() const { return size_.isEmpty(); }
-  [[nodiscard]] int bytesPerRow() const { return width() * int(sizeof(QRgb)); }
+  [[nodiscard]] int bytesPerRow() const { return width() * int(sizeof(Argb32)); }
   [[nodiscard]] qsizetype byteCount() const { return qsizetype(bytesPerRow()) * height(); }
   /// width() pixels. REQUIRES 0 <= y < height().
-  [[nodiscard]] QRgb* row(int y) { return pixels_.get() + qsizetype(y) * width(); }
-  [[nodiscard]] const QRgb* row(int y) const { return pixels_.get() + qsizetype(y) * width(); }
+  [[nodiscard]] Argb32* row(int y) { return pixels_.get() + qsizetype(y) * width(); }
+  [[nodiscard]] const Argb32* row(int y) const { return pixels_.get() + qsizetype(y) * width(); }
   /// The pixels within `part` as a bitmap of their own. REQUIRES that rect() contains it.
   [[nodiscard]] Result<Bitmap> copy(const QRect& part) const;
 
  private:
   QSize size_{0, 0};
-  std::shared_ptr<QRgb[]> pixels_;
+  std::shared_ptr<Argb32[]> pixels_;
 };
 
 }  // namespace norvex::engine

@@ -31,7 +31,7 @@ Result<void> checkRequest(const RenderRequest& request, const PictureLimits& lim
   return {};
 }
 
-Result<void> paintTile(QRgb* firstPixel, int stride, const QRect& tile,
+Result<void> paintTile(Argb32* firstPixel, int stride, const QRect& tile,
                        const AffineTransform& pictureToDevice, const PaintPicture& paint) {
   const CairoSurface surface(cairo_image_surface_create_for_data(
       reinterpret_cast<uchar*>(firstPixel), CAIRO_FORMAT_ARGB32, tile.width(), tile.height(), stride));

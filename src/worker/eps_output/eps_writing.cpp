@@ -87,8 +87,8 @@ struct Samples {
 
 bool hasClearPixel(const Bitmap& image) {
   for (int y = 0; y < image.height(); ++y) {
-    const QRgb* row = image.row(y);
-    if (std::any_of(row, row + image.width(), [](QRgb pixel) { return qAlpha(pixel) == 0; })) return true;
+    const Argb32* row = image.row(y);
+    if (std::any_of(row, row + image.width(), [](Argb32 pixel) { return alpha(pixel) == 0; })) return true;
   }
   return false;
 }
@@ -101,12 +101,12 @@ Samples samplesOf(const Bitmap& image) {
   result.bytes.resize((image.width() * qsizetype(4 - first) + 1) * image.height());
   char* to = result.bytes.data();
   for (int y = 0; y < image.height(); ++y) {
-    const QRgb* row = image.row(y);
+    const Argb32* row = image.row(y);
     *to++ = kUp;
     for (int x = 0; x < image.width(); ++x) {
-      const int white = 255 - qAlpha(row[x]);
-      const std::array<quint8, 4> pixel{quint8(white == 255 ? 255 : 0), quint8(qRed(row[x]) + white),
-                                        quint8(qGreen(row[x]) + white), quint8(qBlue(row[x]) + white)};
+      const int white = 255 - alpha(row[x]);
+      const std::array<quint8, 4> pixel{quint8(white == 255 ? 255 : 0), quint8(red(row[x]) + white),
+                                        quint8(green(row[x]) + white), quint8(blue(row[x]) + white)};
       for (size_t i = first; i < pixel.size(); ++i) *to++ = char(pixel[i] - above[size_t(x)][i]);
       above[size_t(x)] = pixel;
     }

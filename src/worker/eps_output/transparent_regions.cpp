@@ -16,9 +16,9 @@ constexpr double kLookDpi = 150;
 constexpr double kLookPixels = 6e6;  // larger pages are compared more coarsely
 constexpr qsizetype kMostRegions = 100;
 
-bool differs(QRgb a, QRgb b) {
-  return std::abs(qRed(a) - qRed(b)) > kInvisible || std::abs(qGreen(a) - qGreen(b)) > kInvisible ||
-         std::abs(qBlue(a) - qBlue(b)) > kInvisible || std::abs(qAlpha(a) - qAlpha(b)) > kInvisible;
+bool differs(Argb32 a, Argb32 b) {
+  return std::abs(red(a) - red(b)) > kInvisible || std::abs(green(a) - green(b)) > kInvisible ||
+         std::abs(blue(a) - blue(b)) > kInvisible || std::abs(alpha(a) - alpha(b)) > kInvisible;
 }
 
 class Grid {
@@ -27,8 +27,8 @@ class Grid {
       : columns_((one.width() + kCell - 1) / kCell), rows_((one.height() + kCell - 1) / kCell) {
     cells_.assign(size_t(columns_) * size_t(rows_), false);
     for (int y = 0; y < one.height(); ++y) {
-      const QRgb* a = one.row(y);
-      const QRgb* b = other.row(y);
+      const Argb32* a = one.row(y);
+      const Argb32* b = other.row(y);
       for (int x = 0; x < one.width(); ++x)
         if (differs(a[x], b[x])) cells_[index(x / kCell, y / kCell)] = true;
     }

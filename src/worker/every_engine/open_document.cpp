@@ -1,5 +1,6 @@
 #include "worker/every_engine/open_document.h"
 
+#include "worker/pages/compose_page.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/pdf/whole_page.h"
 #include "worker/postscript/eps_engine.h"

@@ -77,7 +77,7 @@ class StubEngine final : public engine::DocumentEngine {
     if (context_.cancel.cancelled()) return cancelled();
     Result<engine::Bitmap> image = engine::Bitmap::create(request.pixelSize);
     if (image)
-      std::fill_n(image->row(0), size_t(image->width()) * size_t(image->height()), qRgb(0, 0, request.page));
+      std::fill_n(image->row(0), size_t(image->width()) * size_t(image->height()), 0xFF000000 + request.page);
     return image;
   }
 

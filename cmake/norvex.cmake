@@ -34,7 +34,7 @@ set(NORVEX_TEST_OPTIONS $<$<CONFIG:Release>:-O0>)
 # Sources include what they need all the same; a build without precompiled headers shows it.
 set(NORVEX_PCH <algorithm> <functional> <memory> <optional> <vector>
     <QByteArray> <QHash> <QList> <QRectF> <QString> <QVariant>)
-file(WRITE ${CMAKE_BINARY_DIR}/pch/folder.cpp "")
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/pch/folder.cpp CONTENT "")
 add_library(norvex_pch STATIC ${CMAKE_BINARY_DIR}/pch/folder.cpp)
 target_link_libraries(norvex_pch PRIVATE norvex_flags Qt6::Core)
 target_precompile_headers(norvex_pch PRIVATE ${NORVEX_PCH})

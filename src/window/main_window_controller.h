@@ -224,6 +224,9 @@ class MainWindowController final : public QObject,
   void showColorSpace(const HeaderDictionary& header);
   void showBoundingBoxes(const NSImageRep* rep);
   void showNotes(const NSImageRep* rep);
+  /// Fonts that others stand in for are known once something was drawn.
+  void showDrawingRemarks();
+  void addNotes(const QStringList& sentences);
   void showResources(const NSImageRep* rep);
   void resetRotationAndZoom();
   // main_window_messages.cpp

@@ -58,13 +58,26 @@ void MainWindowController::showBoundingBoxes(const NSImageRep* rep) {
 }
 
 void MainWindowController::showNotes(const NSImageRep* rep) {
-  QStringList notes = rep ? rep->warnings() : QStringList();
-  for (QString& note : notes) {
+  ui_->noteField->clear();
+  ui_->noteField->hide();
+  addNotes(rep ? rep->warnings() : QStringList());
+  showDrawingRemarks();
+}
+
+void MainWindowController::showDrawingRemarks() {
+  if (const NSImageRep* rep = view()->imageRep().get()) addNotes(rep->process()->drawingRemarks());
+}
+
+void MainWindowController::addNotes(const QStringList& sentences) {
+  if (sentences.isEmpty()) return;
+  QStringList notes = ui_->noteField->text().split(u'\n', Qt::SkipEmptyParts);
+  for (QString note : sentences) {
     if (!note.isEmpty()) note[0] = note.at(0).toUpper();
     if (!note.endsWith(u'.')) note += u'.';
+    if (!notes.contains(note)) notes << note;
   }
   ui_->noteField->setText(notes.join(u'\n'));
-  ui_->noteField->setVisible(!notes.isEmpty());
+  ui_->noteField->show();
 }
 
 void MainWindowController::showResources(const NSImageRep* rep) {

@@ -41,6 +41,7 @@ void MainWindowController::watchPicture() {
 }
 
 void MainWindowController::followRendering() {
+  showDrawingRemarks();
   const NSImageRep* rep = view()->imageRep().get();
   if (rep && rep->isRendering())
     loadingCard_->begin(localizedString("Drawing…"));

@@ -9,6 +9,7 @@
 #include "kit/test_main.h"
 #include "picture/eps_image_rep.h"
 #include "picture/pdf_image_rep.h"
+#include "picture/process/forwarding_process.h"
 #include "picture/process/memory_picture_service.h"
 #include "picture/web_image_rep.h"
 
@@ -41,22 +42,15 @@ MemoryPicture picture() {
 }
 
 /// A picture service that remembers the attributes that its pictures were given.
-class AttributesService final : public PictureService {
+class AttributesService final : public ForwardingService {
  public:
-  AttributesService() {
+  AttributesService() : ForwardingService(memory) {
     MemoryPicture remembering = picture();
     remembering.setAttributes = [this](const QByteArray& pdf, const AttributesRequest& attributes) {
       given = attributes;
       return QByteArray(pdf + "+attributes");
     };
     memory.setPicture(remembering);
-  }
-  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
-                                       const PictureLimits& limits) override {
-    return memory.open(bytes, kind, limits);
-  }
-  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel) override {
-    return memory.decodePreview(tiff, cancel);
   }
   MemoryPictureService memory;
   AttributesRequest given;

@@ -323,6 +323,19 @@ class InspectorTest : public QObject {
     QVERIFY(!note->isVisibleTo(note->parentWidget()));
   }
 
+  void fontsThatOthersStandInForAreToldOnceThePictureIsDrawn() {
+    WindowFixture fixture;
+    MemoryPicture picture;
+    picture.drawingRemarks = {"the font A is missing, B stands in for it"};
+    fixture.service.setPicture(picture);
+    MainWindowController& c = fixture.loadedEps();
+    auto* note = c.inspectorWindow->findChild<QLabel*>("noteField");
+    QVERIFY(!note->isVisibleTo(note->parentWidget()));
+    c.window()->show();
+    QTRY_COMPARE(note->text(), QStringLiteral("The font A is missing, B stands in for it."));
+    QVERIFY(note->isVisibleTo(note->parentWidget()));
+  }
+
   void anEpsThatIsCutOffIsSaidToBe() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loaded(epsBytes("%AI9_PrivateDataBegin\n"), "a.eps", NorvexEPSType);

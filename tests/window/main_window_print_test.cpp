@@ -6,6 +6,7 @@
 
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
+#include "picture/process/forwarding_process.h"
 #include "print/memory_printing.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "window/window_fixture.h"
@@ -17,15 +18,9 @@ using kit::ScriptedInteraction;
 namespace {
 
 /// A picture service that composes pages by writing down what it was asked.
-class PagesService final : public PictureService {
+class PagesService final : public ForwardingService {
  public:
-  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
-                                       const PictureLimits& limits) override {
-    return pictures.open(bytes, kind, limits);
-  }
-  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel) override {
-    return pictures.decodePreview(tiff, cancel);
-  }
+  PagesService() : ForwardingService(pictures) {}
   Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
                                   const CancelToken&) override {
     const std::lock_guard lock(mutex);

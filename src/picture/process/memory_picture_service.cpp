@@ -207,6 +207,11 @@ int MemoryPictureService::previewCount() const {
   return previews_;
 }
 
+PictureUse MemoryPictureService::use() const {
+  const std::lock_guard lock(mutex_);
+  return use_;
+}
+
 QList<PictureKind> MemoryPictureService::openedKinds() const {
   const std::lock_guard lock(mutex_);
   return kinds_;
@@ -215,6 +220,11 @@ QList<PictureKind> MemoryPictureService::openedKinds() const {
 std::shared_ptr<MemoryPictureProcess> MemoryPictureService::lastProcess() const {
   const std::lock_guard lock(mutex_);
   return last_;
+}
+
+void MemoryPictureService::openOnlyFor(PictureUse use) {
+  const std::lock_guard lock(mutex_);
+  use_ = use;
 }
 
 std::shared_ptr<PictureProcess> MemoryPictureService::open(const QByteArray& bytes, PictureKind kind,
@@ -232,6 +242,11 @@ Result<NSBitmapImageRep> MemoryPictureService::decodePreview(const QByteArray&, 
   if (cancel.cancelled())
     return Error{ErrorKind::Cancelled, QStringLiteral("the answer is no longer wanted")};
   return preview_;
+}
+
+Result<QByteArray> MemoryPictureService::composePages(const QByteArray&, const PagesRequest&,
+                                                      const CancelToken&) {
+  return Error{ErrorKind::Unsupported, QStringLiteral("pages cannot be composed here")};
 }
 
 }  // namespace norvex

@@ -106,7 +106,7 @@ class MemoryPictureProcess final : public PictureProcess {
   QList<ComposeRequest> composes_;
 };
 
-/// Opens every document as the same MemoryPicture. Thread-safe.
+/// Opens every document as the same MemoryPicture; composes no pages. Thread-safe.
 class MemoryPictureService final : public PictureService {
  public:
   explicit MemoryPictureService(MemoryPicture picture = {}) : picture_(std::move(picture)) {}
@@ -119,13 +119,18 @@ class MemoryPictureService final : public PictureService {
 
   [[nodiscard]] int openCount() const;
   [[nodiscard]] int previewCount() const;
+  /// The last that was told; Everything before.
+  [[nodiscard]] PictureUse use() const;
   [[nodiscard]] QList<PictureKind> openedKinds() const;
   /// The process that was opened last; null before the first.
   [[nodiscard]] std::shared_ptr<MemoryPictureProcess> lastProcess() const;
 
+  void openOnlyFor(PictureUse use) override;
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
+  Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
+                                  const CancelToken& cancel = {}) override;
 
  private:
   mutable std::mutex mutex_;
@@ -134,6 +139,7 @@ class MemoryPictureService final : public PictureService {
   std::function<void(MemoryPictureProcess&)> prepare_;
   QList<PictureKind> kinds_;
   int previews_ = 0;
+  PictureUse use_ = PictureUse::Everything;
   std::shared_ptr<MemoryPictureProcess> last_;
 };
 

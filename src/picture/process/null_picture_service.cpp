@@ -18,6 +18,7 @@ class NullPictureProcess final : public PictureProcess {
     return error_;
   }
   void retire() override {}
+  [[nodiscard]] QStringList drawingRemarks() const override { return {}; }
 
  private:
   const Error error_;
@@ -33,6 +34,11 @@ std::shared_ptr<PictureProcess> NullPictureService::open(const QByteArray&, Pict
 }
 
 Result<NSBitmapImageRep> NullPictureService::decodePreview(const QByteArray&, const CancelToken&) {
+  return error_;
+}
+
+Result<QByteArray> NullPictureService::composePages(const QByteArray&, const PagesRequest&,
+                                                    const CancelToken&) {
   return error_;
 }
 

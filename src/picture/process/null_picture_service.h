@@ -12,9 +12,12 @@ class NullPictureService final : public PictureService {
   explicit NullPictureService(Error error = {ErrorKind::Died,
                                              QStringLiteral("the picture process is not there")});
 
+  void openOnlyFor(PictureUse) override {}
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
+  Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
+                                  const CancelToken& cancel = {}) override;
 
  private:
   const Error error_;

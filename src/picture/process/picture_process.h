@@ -1,5 +1,6 @@
 // The seam before the picture process: so that tests run without a child program, and so that nothing above
-// it knows how documents are parsed or that it happens elsewhere.
+// it knows how documents are parsed or that it happens elsewhere. Whoever wraps one of the two derives from
+// its forwarding class (picture/process/forwarding_process.h), which drops nothing.
 #pragma once
 
 #include <QByteArray>
@@ -47,7 +48,7 @@ class PictureProcess {
   virtual void retire() = 0;
   /// What render() has found out so far about how the document is drawn, one plain sentence each: fonts that
   /// others stand in for.
-  [[nodiscard]] virtual QStringList drawingRemarks() const { return {}; }
+  [[nodiscard]] virtual QStringList drawingRemarks() const = 0;
 };
 
 /// Starts picture processes. One for the whole program, owned by its main; thread-safe.
@@ -57,7 +58,7 @@ class PictureService {
 
   /// Tells that every picture from now on is opened for this alone: its process need not be able to do more,
   /// and starts sooner for it.
-  virtual void openOnlyFor(PictureUse use) { Q_UNUSED(use) }
+  virtual void openOnlyFor(PictureUse use) = 0;
   /// Begins to open `bytes` as `kind` and returns at once; a failure shows in the first call on the result.
   /// The caller owns the result; the bytes are shared until it is destroyed.
   virtual std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
@@ -67,12 +68,7 @@ class PictureService {
   /// The sheets of a print job as one PDF. `pdf` is the picture: one page; empty: the sheets hold no picture.
   /// Blocks.
   virtual Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
-                                          const CancelToken& cancel = {}) {
-    Q_UNUSED(pdf)
-    Q_UNUSED(request)
-    Q_UNUSED(cancel)
-    return Error{ErrorKind::Unsupported, QStringLiteral("pages cannot be composed here")};
-  }
+                                          const CancelToken& cancel = {}) = 0;
 };
 
 }  // namespace norvex

@@ -13,7 +13,7 @@ Error stoppedError() {
 }  // namespace
 
 StoppableProcess::StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading)
-    : process_(std::move(process)), loading_(std::move(loading)) {}
+    : ForwardingProcess(std::move(process)), loading_(std::move(loading)) {}
 
 void StoppableProcess::stop() {
   const std::lock_guard lock(mutex_);
@@ -40,7 +40,7 @@ bool StoppableProcess::meansStopped(const Error& error) {
 
 Result<PictureFacts> StoppableProcess::facts(const CancelToken& cancel) {
   // A token cannot listen to another, and only the loading ever waits here.
-  return process_->facts(loading_.cancelled() ? cancel : loading_);
+  return ForwardingProcess::facts(loading_.cancelled() ? cancel : loading_);
 }
 
 Result<QImage> StoppableProcess::render(const RenderRequest& request, const CancelToken& cancel) {
@@ -52,37 +52,15 @@ Result<QImage> StoppableProcess::render(const RenderRequest& request, const Canc
     id = ++lastId_;
     active_.insert(id, cancel);
   }
-  Result<QImage> result = process_->render(request, cancel);
+  Result<QImage> result = ForwardingProcess::render(request, cancel);
   const std::lock_guard lock(mutex_);
   active_.remove(id);
   return result;
 }
 
-Result<PictureBytes> StoppableProcess::pdf(const PdfRequest& request, const CancelToken& cancel) {
-  return process_->pdf(request, cancel);
-}
-
-Result<PictureBytes> StoppableProcess::compose(const ComposeRequest& request, const CancelToken& cancel) {
-  return process_->compose(request, cancel);
-}
-
-Result<PictureBytes> StoppableProcess::svg(const SvgRequest& request, const CancelToken& cancel) {
-  return process_->svg(request, cancel);
-}
-
-Result<PictureBytes> StoppableProcess::setPdfAttributes(const QByteArray& pdf,
-                                                        const AttributesRequest& attributes,
-                                                        const CancelToken& cancel) {
-  return process_->setPdfAttributes(pdf, attributes, cancel);
-}
-
 std::shared_ptr<PictureProcess> StoppableService::open(const QByteArray& bytes, PictureKind kind,
                                                        const PictureLimits& limits) {
-  return std::make_shared<StoppableProcess>(service_.open(bytes, kind, limits), loading_);
-}
-
-Result<NSBitmapImageRep> StoppableService::decodePreview(const QByteArray& tiff, const CancelToken& cancel) {
-  return service_.decodePreview(tiff, cancel);
+  return std::make_shared<StoppableProcess>(ForwardingService::open(bytes, kind, limits), loading_);
 }
 
 }  // namespace norvex

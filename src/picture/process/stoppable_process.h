@@ -7,13 +7,13 @@
 #include <mutex>
 
 #include "base/cancel_token.h"
-#include "picture/process/picture_process.h"
+#include "picture/process/forwarding_process.h"
 
 namespace norvex {
 
-/// Forwards every call. stop() ends the renderings under way and makes later ones fail at once, until
+/// stop() ends the renderings under way and makes later ones fail at once, until
 /// resume(). Reading the facts ends when the loading's own token is cancelled. Thread-safe.
-class StoppableProcess final : public PictureProcess {
+class StoppableProcess final : public ForwardingProcess {
  public:
   StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading);
 
@@ -26,15 +26,8 @@ class StoppableProcess final : public PictureProcess {
 
   Result<PictureFacts> facts(const CancelToken& cancel = {}) override;
   Result<QImage> render(const RenderRequest& request, const CancelToken& cancel = {}) override;
-  Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
-  Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
-  Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
-  void retire() override { process_->retire(); }
-  Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
-                                        const CancelToken& cancel = {}) override;
 
  private:
-  const std::shared_ptr<PictureProcess> process_;
   const CancelToken loading_;
   std::mutex mutex_;                    ///< of everything below
   QHash<quint64, CancelToken> active_;  ///< of the renderings under way
@@ -43,17 +36,15 @@ class StoppableProcess final : public PictureProcess {
 };
 
 /// Opens documents in stoppable processes. `service` must outlive it; thread-safe.
-class StoppableService final : public PictureService {
+class StoppableService final : public ForwardingService {
  public:
   StoppableService(PictureService& service, CancelToken loading)
-      : service_(service), loading_(std::move(loading)) {}
+      : ForwardingService(service), loading_(std::move(loading)) {}
 
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
-  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
 
  private:
-  PictureService& service_;
   const CancelToken loading_;
 };
 

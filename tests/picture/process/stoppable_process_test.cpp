@@ -25,11 +25,35 @@ class StoppableProcessTest : public QObject {
     StoppableService stoppable(service, CancelToken());
     const auto process = stoppable.open("bytes", PictureKind::Pdf);
     QVERIFY(process->facts() && process->pdf({}) && process->compose({}) && process->svg({}));
-    QVERIFY(process->render(small()));
-    for (PictureCall call :
-         {PictureCall::Facts, PictureCall::Pdf, PictureCall::Compose, PictureCall::Svg, PictureCall::Render})
+    QVERIFY(process->render(small()) && process->setPdfAttributes("pdf", {}));
+    process->retire();
+    for (PictureCall call : {PictureCall::Facts, PictureCall::Pdf, PictureCall::Compose, PictureCall::Svg,
+                             PictureCall::Render, PictureCall::Attributes})
       QCOMPARE(service.lastProcess()->calls(call), 1);
+    QCOMPARE(service.lastProcess()->retirements(), 1);
     QCOMPARE(service.openedKinds(), QList<PictureKind>{PictureKind::Pdf});
+  }
+
+  void whatTheDrawingFoundOutIsTold() {
+    MemoryPicture picture;
+    picture.drawingRemarks = {"the font A is missing, B stands in for it"};
+    MemoryPictureService service(picture);
+    StoppableService stoppable(service, CancelToken());
+    const auto process = stoppable.open("bytes", PictureKind::Pdf);
+    QCOMPARE(process->drawingRemarks(), QStringList());
+    QVERIFY(process->render(small()));
+    QCOMPARE(process->drawingRemarks(), picture.drawingRemarks);
+  }
+
+  void everyCallOfTheServiceIsForwarded() {
+    MemoryPictureService service;
+    StoppableService stoppable(service, CancelToken());
+    stoppable.openOnlyFor(PictureUse::Drawing);
+    QCOMPARE(service.use(), PictureUse::Drawing);
+    QVERIFY(!stoppable.decodePreview("tiff"));
+    QCOMPARE(service.previewCount(), 1);
+    QCOMPARE(stoppable.composePages("pdf", {}).error().message,
+             service.composePages("pdf", {}).error().message);
   }
 
   void stopEndsRenderingsAndRefusesLaterOnes() {

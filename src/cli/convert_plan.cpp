@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
 
@@ -45,7 +47,7 @@ class ValueReader {
     for (const QString& text : texts) {
       bool good = false;
       const double value = text.trimmed().toDouble(&good);
-      if (good && std::abs(value) <= maximumCoordinate) numbers << value;
+      if (good && std::abs(value) <= limits::maximumPoints) numbers << value;
     }
     if (texts.size() == 4 && numbers.size() == 4 && numbers[2] > 0 && numbers[3] > 0) {
       return QRectF(numbers[0], numbers[1], numbers[2], numbers[3]);

@@ -7,7 +7,8 @@
 namespace norvex {
 
 Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& placement, VectorFormat format,
-                                 const QRectF& rect, const CancelToken& cancel) {
+                                 const QRectF& rect, const CancelToken& cancel,
+                                 const std::optional<PdfAttributes>& attributes) {
   if (!imageRep) return Error{ErrorKind::CannotRead, QStringLiteral("there is no picture")};
   if (rect.isEmpty() || !isFinite(rect) || !std::isfinite(placement.rotate))
     return Error{ErrorKind::Unsupported, QStringLiteral("the rectangle is empty or out of range")};
@@ -23,6 +24,7 @@ Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& p
   request.page = imageRep->page();
   request.rect = rect.translated(shift);
   request.rotate = placement.rotate;
+  request.attributes = attributes;
   return imageRep->process()->compose(request, cancel);
 }
 

@@ -4,6 +4,8 @@
 #include <QPointF>
 #include <QRectF>
 
+#include <optional>
+
 #include "picture/image_rep.h"
 
 namespace norvex {
@@ -16,9 +18,10 @@ struct PicturePlacement {
 };
 
 /// `rect` is in the view's coordinates. Fails without a picture, for a rectangle that is empty or not finite,
-/// and where the picture process does. Blocks; any thread.
+/// and where the picture process does. A PDF gets the attributes. Blocks; any thread.
 [[nodiscard]] Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& placement,
                                                VectorFormat format, const QRectF& rect,
-                                               const CancelToken& cancel = {});
+                                               const CancelToken& cancel = {},
+                                               const std::optional<PdfAttributes>& attributes = {});
 
 }  // namespace norvex

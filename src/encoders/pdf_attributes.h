@@ -2,21 +2,14 @@
 #pragma once
 
 #include <QDateTime>
-#include <QHash>
 #include <QString>
 
 #include <optional>
 
 #include "metadata/header_dictionary.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex {
-
-/// Values for the PDF document information dictionary (PDF 32000-1, 14.3.3). A key that is absent is left as
-/// it is.
-struct PdfAttributes {
-  QHash<QString, QString> texts;  ///< "Title", "Author", "Subject", "Creator", "Producer"
-  QDateTime creationDate;
-};
 
 struct PdfAttributeDefaults {
   QString applicationName;     ///< the bundle's name

@@ -62,10 +62,11 @@ void PictureEncoder::addWarnings(const QStringList& warnings) {
     if (!report_.warnings.contains(warning)) report_.warnings << warning;
 }
 
-QByteArray PictureEncoder::composed(VectorFormat format) {
+QByteArray PictureEncoder::composed(VectorFormat format, const std::optional<PdfAttributes>& attributes) {
   const PictureRegion region = surroundings_.region.value_or(wholePicture(*imageRep_));
   const QPointF centre(imageRep_->size().width() / 2, imageRep_->size().height() / 2);
-  return take(composeView(imageRep_.get(), {centre, region.rotate}, format, region.rect, cancel_));
+  return take(
+      composeView(imageRep_.get(), {centre, region.rotate}, format, region.rect, cancel_, attributes));
 }
 
 // ---- EPS --------------------------------------------------------------------------------------------------
@@ -166,27 +167,29 @@ QByteArray PictureEncoder::pdfData() {
     return pdf->PDFRepresentation();
   }
   const bool wholeSvg = imageRep_->pictureKind() == PictureKind::Svg && handsOnSource();
-  const QByteArray generated =
-      wholeSvg ? take(imageRep_->process()->pdf({imageRep_->page()}, cancel_)) : composed(VectorFormat::Pdf);
-  return addPDFHeader(generated);
+  const std::optional<PdfAttributes> attributes = attributesFrom(header());
+  if (!attributes) return {};
+  const QByteArray made = wholeSvg ? take(imageRep_->process()->pdf({imageRep_->page(), attributes}, cancel_))
+                                   : composed(VectorFormat::Pdf, attributes);
+  retire();
+  return made;
 }
 
 QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
   if (pdf.isEmpty() || !imageRep_) return {};
-  // A cut PDF is a new file with the old one's facts.
-  const bool own = dynamic_cast<const NSPDFImageRep*>(imageRep_.get()) && handsOnSource();
-  const HeaderDictionary facts = own ? HeaderDictionary() : header();
-  const auto attributes =
-      pdfAttributes(facts, {surroundings_.applicationName, surroundings_.applicationVersion,
-                            surroundings_.userFullName, surroundings_.now});
-  if (!attributes) {
-    return fail({ErrorKind::Unsupported,
-                 QStringLiteral("the document has a description but no title to store with it")});
-  }
-  const AttributesRequest request{attributes->texts, attributes->creationDate};
-  const QByteArray finished = take(imageRep_->process()->setPdfAttributes(pdf, request, cancel_));
-  retire();
-  return finished;
+  const bool own = imageRep_->pictureKind() == PictureKind::Pdf && handsOnSource();
+  const std::optional<PdfAttributes> attributes = attributesFrom(own ? HeaderDictionary() : header());
+  if (!attributes) return {};
+  return take(imageRep_->process()->setPdfAttributes(pdf, *attributes, cancel_));
+}
+
+std::optional<PdfAttributes> PictureEncoder::attributesFrom(const HeaderDictionary& facts) {
+  auto attributes = pdfAttributes(facts, {surroundings_.applicationName, surroundings_.applicationVersion,
+                                          surroundings_.userFullName, surroundings_.now});
+  if (!attributes)
+    fail({ErrorKind::Unsupported,
+          QStringLiteral("the document has a description but no title to store with it")});
+  return attributes;
 }
 
 // ---- SVG and raster ---------------------------------------------------------------------------------------

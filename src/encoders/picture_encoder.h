@@ -60,7 +60,9 @@ class PictureEncoder {
 
  private:
   [[nodiscard]] bool handsOnSource() const { return !surroundings_.region && !surroundings_.onePage; }
-  [[nodiscard]] QByteArray composed(VectorFormat format);
+  [[nodiscard]] QByteArray composed(VectorFormat format, const std::optional<PdfAttributes>& attributes = {});
+  /// Nothing, and the reason in the report: they cannot be stored.
+  [[nodiscard]] std::optional<PdfAttributes> attributesFrom(const HeaderDictionary& facts);
   [[nodiscard]] QByteArray take(Result<PictureBytes> result);
   void retire() const;
   [[nodiscard]] QByteArray fail(const Error& error);

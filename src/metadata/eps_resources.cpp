@@ -6,12 +6,10 @@
 
 #include "metadata/eps_program.h"
 #include "metadata/text_encoding.h"
+#include "protocol/limits.h"
 
 namespace norvex {
 namespace {
-
-constexpr int kMostNames = 200;
-constexpr qsizetype kMostTrailerBytes = 64 << 10;
 
 bool isBlank(char c) {
   return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '\0';
@@ -40,7 +38,7 @@ QStringList words(QByteArrayView line) {
 }
 
 void add(QStringList& names, const QString& name) {
-  if (!name.isEmpty() && names.size() < kMostNames && !names.contains(name)) names << name;
+  if (!name.isEmpty() && names.size() < limits::maximumResourceNames && !names.contains(name)) names << name;
 }
 
 /// The comments of one section of a file.
@@ -122,9 +120,9 @@ EpsResources epsResources(QByteArrayView source) {
   reader.read(program, true);
   const qsizetype trailer = reader.continuesAtEnd() ? program.lastIndexOf("%%Trailer") : -1;
   if (trailer >= 0)
-    reader.read(
-        QByteArrayView(program).sliced(trailer).first(std::min(program.size() - trailer, kMostTrailerBytes)),
-        false);
+    reader.read(QByteArrayView(program).sliced(trailer).first(
+                    std::min(program.size() - trailer, limits::maximumTrailerBytes)),
+                false);
   EpsResources found{reader.fonts, reader.processColors};
   for (const QString& ink : reader.customColors) add(found.colors, ink);
   return found;

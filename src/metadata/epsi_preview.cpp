@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
 
@@ -89,7 +91,7 @@ std::optional<NSBitmapImageRep> epsiPreview(QByteArrayView behindKeyword) {
   const auto depth = height ? scanner.wholeNumber() : std::nullopt;
   const auto lines = depth ? scanner.wholeNumber() : std::nullopt;
   if (!lines || *width <= 0 || *height <= 0 || !isDepth(*depth)) return {};
-  if (*width > maximumPreviewPixels || *height > maximumPreviewPixels / *width) return {};
+  if (*width > limits::maximumPreviewPixels || *height > limits::maximumPreviewPixels / *width) return {};
 
   NSBitmapImageRep rep;
   rep.pixelsWide = int(*width);

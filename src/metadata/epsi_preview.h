@@ -9,9 +9,6 @@
 
 namespace norvex {
 
-/// A hostile file asks for a bitmap of gigabytes in a line of twenty characters.
-inline constexpr qint64 maximumPreviewPixels = 100'000'000;
-
 /// Reads the preview from the text just behind "%%BeginPreview:": width, height, depth and the number of
 /// lines (which is not used), then lines that begin with "%". The text is in any encoding that keeps ASCII
 /// bytes as they are. The bitmap has one grey sample a pixel, 0 black. Bytes that the lines do not give stay

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "picture/rendering/rendered_picture.h"
+#include "protocol/limits.h"
 
 namespace norvex {
 namespace {
@@ -86,9 +87,10 @@ Result<QImage> NSImageRep::rasterImage(double scale, RenderPurpose purpose, cons
     return Error{ErrorKind::Unsupported, QStringLiteral("the picture has no area to be drawn")};
   const double wide = pixelsFor(points.width(), scale);
   const double high = pixelsFor(points.height(), scale);
-  if (wide > maximumBitmapSide || high > maximumBitmapSide)
-    return Error{ErrorKind::Limit,
-                 QStringLiteral("the bitmap would have more than %1 pixels in a row").arg(maximumBitmapSide)};
+  if (wide > limits::maximumSide || high > limits::maximumSide)
+    return Error{
+        ErrorKind::Limit,
+        QStringLiteral("the bitmap would have more than %1 pixels in a row").arg(limits::maximumSide)};
   RenderRequest request;
   request.page = page_;
   request.purpose = purpose;

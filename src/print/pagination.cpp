@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex {
@@ -83,9 +84,10 @@ Result<Pagination> paginate(const QSizeF& picture, const NSPrintInfo& info, bool
   const Axis y{picture.height(), pages.imageable.height(), info.verticalPagination(),
                info.isVerticallyCentered()};
   pages.scale = std::min({info.scalingFactor(), x.fittingScale(), y.fittingScale()});
-  if (x.pages(pages.scale) * y.pages(pages.scale) > maximumSheets)
-    return Error{ErrorKind::Limit,
-                 QStringLiteral("the picture would take more than %1 sheets of paper").arg(maximumSheets)};
+  if (x.pages(pages.scale) * y.pages(pages.scale) > limits::maximumSheets)
+    return Error{
+        ErrorKind::Limit,
+        QStringLiteral("the picture would take more than %1 sheets of paper").arg(limits::maximumSheets)};
   pages.columns = int(x.pages(pages.scale));
   pages.rows = int(y.pages(pages.scale));
   for (int row = 0; row < pages.rows; ++row)

@@ -32,8 +32,8 @@ struct Pagination {
 /// smaller (never larger) until that direction takes one page; Clip leaves out what is beyond the first page.
 /// A direction that takes one page is centred when the settings ask for it; otherwise the picture begins at
 /// the left and at the top. The page range of the settings is not looked at. Without a picture (an empty
-/// size) there is one blank page. Fails when the margins leave no room, and for more than maximumSheets
-/// pages.
+/// size) there is one blank page. Fails when the margins leave no room, and for more than
+/// limits::maximumSheets pages.
 [[nodiscard]] Result<Pagination> paginate(const QSizeF& picture, const NSPrintInfo& info,
                                           bool hasHeader = false, bool hasFooter = false);
 

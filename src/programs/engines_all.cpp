@@ -9,7 +9,7 @@ void norvexEngines(norvex::EngineSet* engines) {
   using namespace norvex;
   engines->open = engine::openDocument;
   engines->decodePreview = engine::decodeTiff;
-  engines->setPdfAttributes = engine::setPdfAttributes;
+  engines->setPdfAttributes = engine::withPdfAttributes;
   engines->composePages = engine::composePages;
   engines->warmUpProgram = warmUpFonts;
 }

@@ -14,6 +14,6 @@ void norvexEngines(norvex::EngineSet* engines) {
     return notOfThisModule();
   };
   engines->decodePreview = engine::decodeTiff;
-  engines->setPdfAttributes = engine::setPdfAttributes;
+  engines->setPdfAttributes = engine::withPdfAttributes;
   engines->warmUpProgram = warmUpFonts;
 }

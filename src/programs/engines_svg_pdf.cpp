@@ -12,7 +12,7 @@ void norvexEngines(norvex::EngineSet* engines) {
                ? engine::openSvgWith({engine::svgToPdf, engine::svgEffectsDpi}, bytes, context)
                : notOfThisModule();
   };
-  engines->setPdfAttributes = engine::setPdfAttributes;
+  engines->setPdfAttributes = engine::withPdfAttributes;
   engines->composePages = engine::composePages;
   engines->warmUpProgram = warmUpFonts;
 }

@@ -1,19 +1,101 @@
-// Every limit of the picture process in one place, each with the attack that it stops.
-// What the caller may choose for a document (time, memory, megapixels) is PictureLimits in
-// protocol/worker_protocol.h.
+// Every limit that a hostile document, a hostile picture process or a hostile file can run into, in one
+// place, each with the attack that it stops. What the caller may choose for a document (time, memory,
+// megapixels) is PictureLimits in protocol/worker_protocol.h; what the system enforces is worker/sandbox.cpp.
 #pragma once
 
 #include <QtGlobal>
 
+#include <cstddef>
+
 namespace norvex::limits {
+
+// ---- bitmaps and geometry
+// -------------------------------------------------------------------------------------------
 
 /// A document of some kilobytes that asks for a bitmap of gigabytes (a huge page at a high zoom, a hostile
 /// request).
 inline constexpr int maximumSide = 65535;
+/// Rows so long that their length times their number overflows: five samples of two bytes, and some room.
+inline constexpr int maximumRowBytes = maximumSide * 16;
+/// A coordinate or a side of the picture in points beyond which geometry is not to be trusted.
+inline constexpr double maximumPoints = 1.0e7;
+/// Matrices whose products overflow; far beyond every zoom.
+inline constexpr double maximumFactor = 1.0e12;
+/// Resolutions from which a size in pixels is worked out that overflows.
+inline constexpr double maximumDpi = 1.0e5;
 
+// ---- the line to the picture process
+// --------------------------------------------------------------------------------
+
+/// A length before a message that makes the other side wait for, and keep, gigabytes.
+inline constexpr quint32 maximumMessageBytes = 4u << 20;
+/// The same with bytes that never come: room is made as they arrive.
+inline constexpr qsizetype messageGrowth = 64 << 10;
+/// Maps within maps within maps, which a parser follows until its stack is gone.
+inline constexpr int maximumMessageDepth = 4;
+/// A caller that posts without waiting for answers until the memory is full.
+inline constexpr size_t maximumWaitingRequests = 16;
+// What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge
+// title is shown with a shorter one; the decoders refuse more: texts and lists that fill the window's memory
+// or keep it busy laying them out. Together they stay below maximumMessageBytes.
+inline constexpr int maximumTextLength = 16 << 10;     ///< UTF-16 units of a fact
+inline constexpr int maximumSentenceLength = 1 << 10;  ///< of a warning or an error message
+inline constexpr int maximumWarnings = 200;
+inline constexpr int maximumAttributes = 32;
+inline constexpr int maximumNames = 100;  ///< of fonts and of colour spaces, in PictureFacts
+inline constexpr int maximumNameLength = 256;
+inline constexpr int maximumTypeLength = 16;  ///< of the word that tells what a message is
+/// Counts that overflow when they are worked with, and process numbers that would kill another process.
+inline constexpr int maximumToldPages = 10'000'000;
+inline constexpr int maximumPageNumber = 1'000'000;  ///< that may be asked for
+inline constexpr int maximumRegions = 1'000'000;
+inline constexpr qint64 maximumProcessId = 1 << 22;  ///< the system's own upper limit
+/// Moments that no calendar holds: the years 0 to 9999, in milliseconds from 1970, and the widest zone.
+inline constexpr qint64 firstInstant = -62167219200000;
+inline constexpr qint64 lastInstant = 253402300799999;
+inline constexpr int maximumZoneSeconds = 14 * 60 * 60;
+/// PictureLimits that are none.
+inline constexpr int maximumSeconds = 24 * 60 * 60;
+inline constexpr int maximumMemoryMiB = 1 << 20;
+inline constexpr double maximumMegapixels = 65536;
+/// A picture at a tiny scale on endless paper: a print job that fills the disk.
+inline constexpr int maximumSheets = 2000;
+inline constexpr double maximumFontSize = 1000;  ///< of a sheet's lines, points
+
+// ---- waiting for a picture process, in milliseconds
+// -----------------------------------------------------------------
+
+/// A process that hangs: engines that watch the time themselves get this long to say so before they are
+/// killed.
+inline constexpr qint64 answerGrace = 1000;
+/// A process that does not hear a cancel: it is killed.
+inline constexpr qint64 cancelGrace = 300;
+/// A program that does not end with its line, or does not tell a process's number that is only to be killed.
+inline constexpr qint64 programFarewell = 2000;
+inline constexpr qint64 processFarewell = 200;
+/// Seconds for a preview or the sheets of a job: what takes longer is an attack.
+inline constexpr int toolSeconds = 20;
+
+// ---- files
+// ----------------------------------------------------------------------------------------------------------
+
+/// A file or a pipe without an end: its bytes are held in memory, in both processes.
+inline constexpr qint64 maximumDocumentBytes = 512LL << 20;
 /// A gzip bomb: some kilobytes of compressed SVG that inflate to gigabytes.
 inline constexpr qint64 maximumInflatedBytes = 256LL << 20;
 inline constexpr int maximumInflateRatio = 1000;  ///< checked beyond the first MiB
+
+// ---- comments and previews of EPS files
+// -----------------------------------------------------------------------------
+
+/// An interchange preview that asks for a bitmap of gigabytes in a line of twenty characters.
+inline constexpr qint64 maximumPreviewPixels = 100'000'000;
+/// Resource comments by the million, and a trailer that is the whole file.
+inline constexpr int maximumResourceNames = 200;
+inline constexpr qsizetype maximumTrailerBytes = 64 << 10;
+
+// ---- SVG
+// ------------------------------------------------------------------------------------------------------------
 
 /// XML that nests until the parser's or the drawing's stack is gone.
 inline constexpr int maximumXmlDepth = 512;
@@ -27,18 +109,33 @@ inline constexpr qint64 maximumEntityExpansion = 64LL << 20;
 /// Entities of a few bytes that are used millions of times: each use costs the parser far more than its
 /// bytes.
 inline constexpr int maximumEntityUses = 200'000;
+/// A font shorthand made to be matched for ever: a match takes time that grows with the square of its length.
+inline constexpr qsizetype maximumFontShorthand = 500;
+/// Layers as large as the whole picture on the device, at a high zoom: pixels, and pixels a side.
+inline constexpr double maximumLayerPixels = 32.0e6;
+inline constexpr double maximumLayerSide = 16'000;
+/// Filters and masks over a huge picture: pixels of the image that each becomes in a PDF.
+inline constexpr double maximumEffectPixels = 16.0e6;
+
+// ---- PDF
+// ------------------------------------------------------------------------------------------------------------
 
 /// A page tree made to be walked for ever.
 inline constexpr int maximumPages = 100'000;
 /// Pages whose boxes are told with the facts; later pages are told when they are asked for.
 inline constexpr int maximumPageBoxes = 2'000;
-
 /// Pages that are kept from being shown by the search for their fonts and colour spaces: contents that unpack
 /// to gigabytes, resources without end.
 inline constexpr qint64 maximumColourScan = 4LL << 20;
 inline constexpr int maximumResources = 20'000;
-
-/// A side of the picture in points beyond which geometry is not to be trusted.
-inline constexpr double maximumPoints = 1.0e7;
+/// Colour spaces within colour spaces and forms within forms, until the stack is gone.
+inline constexpr int maximumResourceDepth = 32;
+/// Direct objects within direct objects, likewise.
+inline constexpr int maximumObjectDepth = 64;
+/// A text of the document information, which is a line or two, of megabytes.
+inline constexpr int maximumInformationLength = 64 * 1024;
+/// An annotation as large as a country: units of the sheet that it is drawn on, what cairo's coordinates
+/// hold.
+inline constexpr double maximumAnnotationSheet = 1.0e6;
 
 }  // namespace norvex::limits

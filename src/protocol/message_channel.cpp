@@ -12,13 +12,11 @@
 #include <cstring>
 #include <limits>
 
+#include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex {
 namespace {
-
-/// A hostile length must not make us reserve memory for bytes that never come.
-constexpr qsizetype kGrowth = 64 << 10;
 
 Error died() {
   return {ErrorKind::Died, QStringLiteral("the picture process ended without an answer")};
@@ -76,7 +74,7 @@ Result<void> MessageChannel::waitFor(short events, QDeadlineTimer deadline) cons
 
 Result<void> MessageChannel::send(const QByteArray& cbor, int descriptor, QDeadlineTimer deadline) {
   if (!socket_.valid()) return died();
-  if (cbor.size() > qsizetype(maximumMessageBytes)) return cannotBeTrue();
+  if (cbor.size() > qsizetype(limits::maximumMessageBytes)) return cannotBeTrue();
   QByteArray wire(4, Qt::Uninitialized);
   qToLittleEndian(quint32(cbor.size()), wire.data());
   wire += cbor;
@@ -147,9 +145,9 @@ Result<ChannelMessage> MessageChannel::receive(QDeadlineTimer deadline) {
   if (!socket_.valid()) return died();
   if (auto filled = fill(length_, haveLength_, 4, true, deadline); !filled) return filled.error();
   const quint32 length = qFromLittleEndian<quint32>(length_);
-  if (length == 0 || length > maximumMessageBytes) return cannotBeTrue();
+  if (length == 0 || length > limits::maximumMessageBytes) return cannotBeTrue();
   while (haveBody_ < qsizetype(length)) {
-    const qsizetype want = std::min(qsizetype(length), haveBody_ + kGrowth);
+    const qsizetype want = std::min(qsizetype(length), haveBody_ + limits::messageGrowth);
     body_.resize(want);
     if (auto filled = fill(body_.data(), haveBody_, want, false, deadline); !filled) return filled.error();
   }

@@ -2,8 +2,8 @@
 // is.
 //
 // Transport: a SOCK_STREAM socket pair. A message is a 4-byte little-endian length (of the CBOR that follows,
-// at most maximumMessageBytes) and one CBOR map. Everything large (document bytes, bitmaps, PDF and EPS
-// results) travels as a sealed memfd whose descriptor is sent with the message's first byte; a message
+// at most limits::maximumMessageBytes) and one CBOR map. Everything large (document bytes, bitmaps, PDF and
+// EPS results) travels as a sealed memfd whose descriptor is sent with the message's first byte; a message
 // carries at most one. The parent treats every reply as hostile: decodeReply() and the checks in the client
 // compare every size, count and string with its limit and with the descriptor's real size before use.
 #pragma once
@@ -27,27 +27,12 @@
 
 namespace norvex {
 
-inline constexpr int workerProtocolVersion = 5;
-inline constexpr quint32 maximumMessageBytes = 4u << 20;
-
-// What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge
-// title is shown with a shorter one; the decoders refuse more. Together they stay below maximumMessageBytes.
-inline constexpr int maximumTextLength = 16 << 10;     ///< UTF-16 units of a fact
-inline constexpr int maximumSentenceLength = 1 << 10;  ///< of a warning or an error message
-inline constexpr int maximumWarnings = 200;
-inline constexpr int maximumAttributes = 32;
-inline constexpr int maximumBoxes = 2000;  ///< of pages, in PictureFacts
-inline constexpr int maximumNames = 100;   ///< of fonts and of colour spaces, in PictureFacts
-inline constexpr int maximumNameLength = 256;
-inline constexpr int maximumBitmapSide = 65535;
-inline constexpr double maximumCoordinate = 1.0e7;  ///< points
-inline constexpr double maximumDpi = 1.0e5;         ///< of images in a result
-inline constexpr int maximumSheets = 2000;          ///< of one print job
+inline constexpr int workerProtocolVersion = 6;
 
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
 enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
 
-/// What an engine may use up for one document. See worker/limits.h for the attacks that they stop.
+/// What an engine may use up for one document. What bounds the rest is protocol/limits.h.
 struct PictureLimits {
   int seconds = 120;        ///< wall time of one request; Default: 120
   int memoryMiB = 1024;     ///< address space of the process and its child. Default: 1024
@@ -74,9 +59,17 @@ struct RenderRequest {
   RenderPurpose purpose = RenderPurpose::View;
 };
 
+/// Entries of the document information of a PDF (PDF 32000-1, 14.3.3) that are set; the others stay as they
+/// are.
+struct PdfAttributes {
+  QHash<QString, QString> texts;  ///< "Title", "Author", "Subject", "Creator", "Producer"
+  std::optional<QDateTime> creationDate;
+};
+
 /// The whole, unrotated page as a one-page PDF.
 struct PdfRequest {
   int page = 0;
+  std::optional<PdfAttributes> attributes = {};  ///< of the new PDF
 };
 
 enum class VectorFormat { Pdf = 1, Eps = 2 };
@@ -88,6 +81,7 @@ struct ComposeRequest {
   int page = 0;
   QRectF rect;        ///< view coordinates, points; x and y are its lower-left corner
   double rotate = 0;  ///< radians, counter-clockwise positive
+  std::optional<PdfAttributes> attributes = {};  ///< of the new PDF; an EPS has none
 };
 
 /// The document as SVG text. Only for PictureKind::Svg.
@@ -104,11 +98,10 @@ struct SvgRequest {
 /// A TIFF section (the message's memfd) to a bitmap. Needs no open document.
 struct DecodePreviewRequest {};
 
-/// A PDF (the message's memfd) with other document information, answered by a BytesReply. Needs no open
-/// document.
+/// A finished PDF (the message's memfd) with other document information, answered by a BytesReply. Needs no
+/// open document. A PDF that is yet to be made takes its attributes with the request that makes it.
 struct AttributesRequest {
-  QHash<QString, QString> texts;  ///< "Title", "Author" …
-  std::optional<QDateTime> creationDate;
+  PdfAttributes attributes;
 };
 
 /// One sheet of paper of a print job: the part of the picture's page that is drawn on it, and where. Points,

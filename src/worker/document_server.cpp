@@ -133,8 +133,7 @@ DocumentServer::Answer DocumentServer::serve(const AttributesRequest& request, F
   if (!engines_.setPdfAttributes) return {unsupported(), {}};
   Result<SealedMemory> pdf = SealedMemory::map(std::move(descriptor), kAnySize);
   if (!pdf) return {pdf.error(), {}};
-  Result<QByteArray> bytes =
-      engines_.setPdfAttributes(pdf->toByteArray(), request.texts, request.creationDate);
+  Result<QByteArray> bytes = engines_.setPdfAttributes(pdf->toByteArray(), request.attributes);
   if (!bytes) return {bytes.error(), {}};
   return answerOf(engine::EngineBytes{*bytes, {}});
 }

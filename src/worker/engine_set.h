@@ -17,9 +17,7 @@ struct EngineSet {
                                                                 engine::EngineContext&)>
       open;
   std::function<Result<NSBitmapImageRep>(const QByteArray& tiff, const PictureLimits&)> decodePreview;
-  std::function<Result<QByteArray>(const QByteArray& pdf, const QHash<QString, QString>& texts,
-                                   const std::optional<QDateTime>& creationDate)>
-      setPdfAttributes;
+  std::function<Result<QByteArray>(const QByteArray& pdf, const PdfAttributes&)> setPdfAttributes;
   std::function<Result<QByteArray>(const QByteArray& pdf, const PagesRequest&)> composePages;
   std::function<void()> warmUpProgram;
 };

@@ -44,8 +44,7 @@ void rehearse(const EngineSet& engines) {
   engine::EngineContext context;
   if (const auto svg = engines.open(PictureKind::Svg, kSvg, context)) {
     (void)(*svg)->render(smallDrawing());
-    const Result<engine::EngineBytes> pdf = (*svg)->pdf({});
-    if (pdf && engines.setPdfAttributes) (void)engines.setPdfAttributes(pdf->bytes, {}, {});
+    (void)(*svg)->pdf({0, PdfAttributes()});
   }
   if (const auto page = engines.open(PictureKind::Pdf, kPdf, context)) {
     (void)(*page)->render(smallDrawing());

@@ -2,11 +2,10 @@
 
 #include <unistd.h>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
-
-/// The caller sends one request after the other; more than a few waiting ones are not from it.
-constexpr size_t kMaximumWaiting = 16;
 
 constexpr int kClosed = 0;
 constexpr int kNotUnderstood = 2;
@@ -45,7 +44,7 @@ void RequestQueue::readMessages() {
 
 void RequestQueue::accept(WorkerRequest request, FileDescriptor descriptor) {
   const std::lock_guard lock(mutex_);
-  if (waiting_.size() >= kMaximumWaiting) ::_exit(kNotUnderstood);
+  if (waiting_.size() >= limits::maximumWaitingRequests) ::_exit(kNotUnderstood);
   waiting_.push_back({std::move(request), std::move(descriptor), CancelToken()});
   arrived_.notify_one();
 }

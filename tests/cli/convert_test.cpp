@@ -211,10 +211,10 @@ class ConvertTest : public QObject {
     CommandLine line;
     line.console.standardInput = kEps;
     line.service.setPrepare([](MemoryPictureProcess& process) {
-      process.fail(PictureCall::Attributes, {ErrorKind::Unsupported, "no attributes"});
+      process.fail(PictureCall::Compose, {ErrorKind::Unsupported, "no vectors"});
     });
     QCOMPARE(line.run({"convert", "-", "--to", line.path("."), "--format", "pdf"}), 3);
-    QCOMPARE(line.console.messages, QString("norvex: -: no attributes\n"));
+    QCOMPARE(line.console.messages, QString("norvex: -: no vectors\n"));
     line.console.standardInput = kEps;
     QCOMPARE(line.run({"convert", "-", "--to", line.path("."), "--format", "png"}), 0);
     QCOMPARE(line.entries(), QStringList{"picture.png"});

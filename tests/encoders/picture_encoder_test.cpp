@@ -46,14 +46,26 @@ class AttributesService final : public ForwardingService {
  public:
   AttributesService() : ForwardingService(memory) {
     MemoryPicture remembering = picture();
-    remembering.setAttributes = [this](const QByteArray& pdf, const AttributesRequest& attributes) {
-      given = attributes;
-      return QByteArray(pdf + "+attributes");
+    remembering.pdf = [this, whole = remembering.pdf](const PdfRequest& request) {
+      return with(request.attributes, whole(request));
+    };
+    remembering.compose = [this, composed = remembering.compose](const ComposeRequest& request) {
+      return with(request.attributes, composed(request));
+    };
+    remembering.setAttributes = [this](const QByteArray& pdf, const PdfAttributes& attributes) {
+      return with(attributes, pdf);
     };
     memory.setPicture(remembering);
   }
   MemoryPictureService memory;
-  AttributesRequest given;
+  PdfAttributes given;
+
+ private:
+  QByteArray with(const std::optional<PdfAttributes>& attributes, const QByteArray& made) {
+    if (!attributes) return made;
+    given = *attributes;
+    return made + "+attributes";
+  }
 };
 
 /// Keeps what is logged while it lives.

@@ -83,7 +83,7 @@ class DocumentFileTest : public QObject {
     QCOMPARE(read.error().kind, ErrorKind::Limit);
     // Sparse: refused by its size, not by reading it.
     const QString sparse = write("sparse", "x");
-    QVERIFY(QFile(sparse).resize(maximumDocumentBytes + 1));
+    QVERIFY(QFile(sparse).resize(limits::maximumDocumentBytes + 1));
     QCOMPARE(readDocumentFile(sparse).error().kind, ErrorKind::Limit);
     QCOMPARE(readDocumentFile(sparse).error().message, QStringLiteral("it is larger than 512 MiB"));
   }

@@ -52,7 +52,7 @@ class MessageChannelTest : public QObject {
   void aMessageOfTheLargestSizeArrives() {
     auto pair = MessageChannel::makePair();
     MessageChannel a(std::move(pair->first)), b(std::move(pair->second));
-    const QByteArray large(maximumMessageBytes, 'y');
+    const QByteArray large(limits::maximumMessageBytes, 'y');
     std::thread sender([&] { QVERIFY(a.send(large).ok()); });
     const auto message = b.receive();
     sender.join();
@@ -104,7 +104,7 @@ class MessageChannelTest : public QObject {
   void lengthsOutOfRangeAreRefused_data() {
     QTest::addColumn<quint32>("length");
     QTest::newRow("0") << 0u;
-    QTest::newRow("limit + 1") << maximumMessageBytes + 1;
+    QTest::newRow("limit + 1") << limits::maximumMessageBytes + 1;
     QTest::newRow("2 GiB") << 0x80000000u;
     QTest::newRow("4 GiB - 1") << 0xffffffffu;
   }
@@ -160,10 +160,11 @@ class MessageChannelTest : public QObject {
 
   void sendingStopsAtTheDeadline() {
     Pair pair = makePair();
-    const QByteArray large(maximumMessageBytes, 'y');
+    const QByteArray large(limits::maximumMessageBytes, 'y');
     QVERIFY(!pair.ours.send(large, -1, QDeadlineTimer(20)).ok());
   }
 };
 
 NORVEX_TEST(MessageChannelTest)
 #include "message_channel_test.moc"
+#include "protocol/limits.h"

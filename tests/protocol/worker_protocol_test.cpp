@@ -1,4 +1,5 @@
 #include "protocol/worker_protocol.h"
+#include "protocol/limits.h"
 
 #include <QCborArray>
 #include <QCborMap>
@@ -51,6 +52,10 @@ PagesRequest pages() {
   return request;
 }
 
+PdfAttributes attributes() {
+  return {{{"Title", "t"}}, QDateTime(QDate(2001, 1, 1), QTime(1, 2, 3), Qt::UTC)};
+}
+
 QList<WorkerMessage> messages() {
   return {
       WorkerRequest{1, OpenRequest{PictureKind::Svg, {5, 256, 12.5}}},
@@ -61,9 +66,10 @@ QList<WorkerMessage> messages() {
       WorkerRequest{6, SvgRequest{}},
       WorkerRequest{0xffffffff, DecodePreviewRequest{}},
       ForkRequest{{1, 2, 3}, true, NeedPages | NeedPreviews},
-      WorkerRequest{
-          8, AttributesRequest{{{"Title", "t"}}, QDateTime(QDate(2001, 1, 1), QTime(1, 2, 3), Qt::UTC)}},
+      WorkerRequest{8, AttributesRequest{attributes()}},
       CancelRequest{9},
+      WorkerRequest{11, PdfRequest{7, attributes()}},
+      WorkerRequest{12, ComposeRequest{VectorFormat::Pdf, 1, QRectF(0, 0, 1, 1), 0, attributes()}},
       WorkerRequest{10, pages()},
   };
 }
@@ -120,7 +126,8 @@ void forEachSpoiltMap(const QCborMap& map, const std::function<void(const QCborM
   }
 }
 
-const QStringList kOptional{"header", "footer", "rect", "date", "viewBox", "fixedRatioX", "fixedRatioY"};
+const QStringList kOptional{"header", "footer",  "information", "rect",
+                            "date",   "viewBox", "fixedRatioX", "fixedRatioY"};
 
 }  // namespace
 
@@ -164,6 +171,21 @@ class WorkerProtocolTest : public QObject {
     QVERIFY(fork.postScript);
     QCOMPARE(fork.limits.memoryMiB, 2);
     QCOMPARE(fork.needs, PictureNeeds(NeedPages | NeedPreviews));
+  }
+
+  void theAttributesOfAPdfToBeMadeAreKept() {
+    const auto again = [](const RequestBody& body) {
+      return std::get<WorkerRequest>(*decodeMessage(encodeMessage(WorkerRequest{1, body}))).body;
+    };
+    const auto isSame = [](const std::optional<PdfAttributes>& read) {
+      return read && read->texts == attributes().texts && read->creationDate == attributes().creationDate;
+    };
+    QVERIFY(isSame(std::get<PdfRequest>(again(PdfRequest{0, attributes()})).attributes));
+    ComposeRequest compose{VectorFormat::Pdf, 0, QRectF(0, 0, 1, 1), 0, attributes()};
+    QVERIFY(isSame(std::get<ComposeRequest>(again(compose)).attributes));
+    compose.attributes.reset();
+    QVERIFY(!std::get<ComposeRequest>(again(compose)).attributes);
+    QVERIFY(!std::get<PdfRequest>(again(PdfRequest{})).attributes);
   }
 
   void theFactsAreKept() {
@@ -286,8 +308,9 @@ class WorkerProtocolTest : public QObject {
     QTest::newRow("process -1") << 5 << "pid" << QCborValue(-1);
     QTest::newRow("kind of error") << 6 << "kind" << QCborValue(int(ErrorKind::NoSandbox) + 1);
     QTest::newRow("id 0") << 6 << "id" << QCborValue(0);
-    QTest::newRow("long message") << 6 << "message" << QCborValue(QString(maximumSentenceLength + 1, 'x'));
-    QTest::newRow("long title") << 0 << "title" << QCborValue(QString(maximumTextLength + 1, 'x'));
+    QTest::newRow("long message") << 6 << "message"
+                                  << QCborValue(QString(limits::maximumSentenceLength + 1, 'x'));
+    QTest::newRow("long title") << 0 << "title" << QCborValue(QString(limits::maximumTextLength + 1, 'x'));
   }
   void numbersOutOfRangeAreRefused() {
     QFETCH(int, reply);
@@ -355,8 +378,8 @@ class WorkerProtocolTest : public QObject {
 
   void longTextsAreClippedSoThatTheMessageIsAccepted() {
     PictureFacts facts = richFacts();
-    facts.title =
-        QString(maximumTextLength - 1, 'x') + QStringLiteral("😀");  // the pair would straddle the limit
+    facts.title = QString(limits::maximumTextLength - 1, 'x') +
+                  QStringLiteral("😀");  // the pair would straddle the limit
     facts.description = QString(1 << 20, QChar(0x6f22));
     for (int i = 0; i < 100; ++i)
       facts.attributes.insert(QString::number(i), QString(1 << 16, QChar(0x6f22)));
@@ -365,18 +388,18 @@ class WorkerProtocolTest : public QObject {
     facts.colorSpaces = facts.fonts;
     facts.pageBounds = QList<QRectF>(5000, QRectF(0, 0, 1, 1));
     const QByteArray cbor = encodeReply({1, facts});
-    QVERIFY(cbor.size() <= qsizetype(maximumMessageBytes));
+    QVERIFY(cbor.size() <= qsizetype(limits::maximumMessageBytes));
     const auto decoded = decodeReply(cbor);
     QVERIFY(decoded.ok());
     const auto out = std::get<PictureFacts>(decoded->body);
-    QCOMPARE(out.title, QString(maximumTextLength - 1, 'x'));
-    QCOMPARE(out.description.size(), maximumTextLength);
-    QCOMPARE(out.attributes.size(), maximumAttributes);
-    QCOMPARE(out.warnings.size(), maximumWarnings);
-    QCOMPARE(out.fonts.size(), maximumNames);
-    QCOMPARE(out.colorSpaces.size(), maximumNames);
-    QCOMPARE(out.fonts.last().size(), maximumNameLength);
-    QCOMPARE(out.pageBounds.size(), maximumBoxes);
+    QCOMPARE(out.title, QString(limits::maximumTextLength - 1, 'x'));
+    QCOMPARE(out.description.size(), limits::maximumTextLength);
+    QCOMPARE(out.attributes.size(), limits::maximumAttributes);
+    QCOMPARE(out.warnings.size(), limits::maximumWarnings);
+    QCOMPARE(out.fonts.size(), limits::maximumNames);
+    QCOMPARE(out.colorSpaces.size(), limits::maximumNames);
+    QCOMPARE(out.fonts.last().size(), limits::maximumNameLength);
+    QCOMPARE(out.pageBounds.size(), limits::maximumPageBoxes);
   }
 
   void taggedValuesAndIndefiniteLengthsAreRefused() {

@@ -1,16 +1,13 @@
 #include "picture/client/worker_client.h"
 
 #include "picture/client/worker_answers.h"
+#include "protocol/limits.h"
 #include "protocol/sealed_memory.h"
 
 #include <utility>
 
 namespace norvex {
 namespace {
-
-/// Engines that watch the time themselves get this long to say so before their process is killed, in
-/// milliseconds.
-constexpr qint64 kGrace = 1000;
 
 Error cancelled() {
   return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
@@ -37,7 +34,7 @@ WorkerClient::WorkerClient(std::shared_ptr<WorkerStarter> starter, QByteArray by
 WorkerClient::~WorkerClient() = default;
 
 QDeadlineTimer WorkerClient::deadline() const {
-  return QDeadlineTimer(qint64(process_.limits.seconds) * 1000 + kGrace);
+  return QDeadlineTimer(qint64(process_.limits.seconds) * 1000 + limits::answerGrace);
 }
 
 Result<void> WorkerClient::beginToOpen() {
@@ -131,7 +128,7 @@ Result<QImage> WorkerClient::render(const RenderRequest& request, const CancelTo
   Result<QImage> image = distrusted(imageFrom(std::move(*answer), size, remarks));
   const std::lock_guard lock(outcomeMutex_);
   for (const QString& remark : std::as_const(remarks))
-    if (!remarks_.contains(remark) && remarks_.size() < maximumWarnings) remarks_ << remark;
+    if (!remarks_.contains(remark) && remarks_.size() < limits::maximumWarnings) remarks_ << remark;
   return image;
 }
 
@@ -160,11 +157,11 @@ Result<PictureBytes> WorkerClient::svg(const SvgRequest& request, const CancelTo
   return askForBytes(request, cancel);
 }
 
-Result<PictureBytes> WorkerClient::setPdfAttributes(const QByteArray& pdf,
-                                                    const AttributesRequest& attributes,
+Result<PictureBytes> WorkerClient::setPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes,
                                                     const CancelToken& cancel) {
   const Result<FileDescriptor> memory = SealedMemory::seal(pdf);
-  return memory ? askForBytes(attributes, cancel, *memory) : Result<PictureBytes>(memory.error());
+  return memory ? askForBytes(AttributesRequest{attributes}, cancel, *memory)
+                : Result<PictureBytes>(memory.error());
 }
 
 void WorkerClient::retire() {

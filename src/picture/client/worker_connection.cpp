@@ -8,12 +8,12 @@
 #include <algorithm>
 #include <csignal>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
 
-constexpr qint64 kCancelGrace = 300;  ///< milliseconds that a cancelled request has to answer
-constexpr qint64 kSlice = 10;         ///< milliseconds after which a cancel is noticed
-constexpr qint64 kFarewell = 200;     ///< milliseconds to learn a process's number, only to kill it
+constexpr qint64 kSlice = 10;  ///< milliseconds after which a cancel is noticed
 
 Error cancelled() {
   return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
@@ -31,7 +31,7 @@ Error cannotBeTrue() {
 bool exitsByItself(const FileDescriptor& pidfd) {
   pollfd poll = {pidfd.get(), POLLIN, 0};
   siginfo_t info = {};
-  return ::poll(&poll, 1, int(kFarewell)) > 0 &&
+  return ::poll(&poll, 1, int(limits::processFarewell)) > 0 &&
          ::waitid(P_PIDFD, id_t(pidfd.get()), &info, WEXITED | WNOWAIT | WNOHANG) == 0 &&
          info.si_code == CLD_EXITED;
 }
@@ -84,7 +84,7 @@ void WorkerConnection::end() {
   if (!channel_.valid()) return;
   // A process that behaves ends by itself when the line is cut.
   channel_ = MessageChannel();
-  if (learnProcess(QDeadlineTimer(kFarewell)))
+  if (learnProcess(QDeadlineTimer(limits::processFarewell)))
     ::syscall(SYS_pidfd_send_signal, process_.pidfd.get(), SIGKILL, nullptr, 0);
   else if (ticket_)
     starter_->abandon(*ticket_);
@@ -93,7 +93,7 @@ void WorkerConnection::end() {
 }
 
 qint64 WorkerConnection::processId() {
-  learnProcess(QDeadlineTimer(kFarewell));
+  learnProcess(QDeadlineTimer(limits::processFarewell));
   return process_.pid;
 }
 
@@ -136,7 +136,7 @@ Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline,
     if (obey.hasExpired()) return failed(cancelled());
     if (deadline.hasExpired()) return failed(timedOut());
     if (!cancel.cancelled() || !obey.isForever()) continue;
-    obey = QDeadlineTimer(kCancelGrace);
+    obey = QDeadlineTimer(limits::cancelGrace);
     if (auto sent = channel_.send(encodeMessage(CancelRequest{id}), -1, obey); !sent)
       return failed(sent.error());
   }

@@ -11,16 +11,16 @@
 #include "base/yielding_thread.h"
 #include "picture/client/worker_answers.h"
 #include "picture/client/worker_client.h"
+#include "protocol/limits.h"
 #include "protocol/sealed_memory.h"
 
 namespace norvex {
 namespace {
 
-/// A preview takes milliseconds; what takes longer is an attack.
 PictureLimits toolLimits() {
-  PictureLimits limits;
-  limits.seconds = 20;
-  return limits;
+  PictureLimits few;
+  few.seconds = limits::toolSeconds;
+  return few;
 }
 
 Error cancelled() {

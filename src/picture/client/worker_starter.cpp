@@ -11,11 +11,12 @@
 #include <cerrno>
 #include <csignal>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
 
-constexpr qint64 kFarewell = 2000;  ///< milliseconds that the program has to clean up after itself
-constexpr unsigned kPause = 1000;   ///< microseconds between two looks for an answer
+constexpr unsigned kPause = 1000;  ///< microseconds between two looks for an answer
 
 Error notStarted() {
   return {ErrorKind::Died, QStringLiteral("the program that reads pictures could not be started")};
@@ -94,7 +95,7 @@ void WorkerStarter::stopLocked() {
   control_ = MessageChannel();
   if (pid_ != 0) {
     // The closed connection tells it to end; what it cannot do any more is done for it.
-    if (!endsWithin(pidfd_, kFarewell)) ::kill(pid_t(pid_), SIGKILL);
+    if (!endsWithin(pidfd_, limits::programFarewell)) ::kill(pid_t(pid_), SIGKILL);
     while (::waitpid(pid_t(pid_), nullptr, 0) < 0 && errno == EINTR) continue;
   }
   removeFolder(std::exchange(scratchRoot_, {}));
@@ -110,7 +111,9 @@ Result<WorkerStarter::Ticket> WorkerStarter::request(const ForkRequest& request,
                                                      const FileDescriptor& socket) {
   const std::lock_guard lock(mutex_);
   if (auto started = startLocked(); !started) return started.error();
-  if (auto sent = control_.send(encodeMessage(request), socket.get(), QDeadlineTimer(kFarewell)); !sent) {
+  if (auto sent =
+          control_.send(encodeMessage(request), socket.get(), QDeadlineTimer(limits::programFarewell));
+      !sent) {
     stopLocked();
     return notAnswered();
   }

@@ -23,7 +23,7 @@ Result<PictureBytes> ForwardingProcess::svg(const SvgRequest& request, const Can
 }
 
 Result<PictureBytes> ForwardingProcess::setPdfAttributes(const QByteArray& pdf,
-                                                         const AttributesRequest& attributes,
+                                                         const PdfAttributes& attributes,
                                                          const CancelToken& cancel) {
   return process_->setPdfAttributes(pdf, attributes, cancel);
 }

@@ -173,7 +173,7 @@ Result<PictureBytes> MemoryPictureProcess::svg(const SvgRequest& request, const 
 }
 
 Result<PictureBytes> MemoryPictureProcess::setPdfAttributes(const QByteArray& pdf,
-                                                            const AttributesRequest& attributes,
+                                                            const PdfAttributes& attributes,
                                                             const CancelToken& cancel) {
   const std::lock_guard serial(serial_);
   if (const auto begun = begin(PictureCall::Attributes, cancel); !begun) return begun.error();

@@ -35,8 +35,7 @@ struct MemoryPicture {
   std::function<QByteArray(const ComposeRequest&)>
       compose;                                       ///< Default: an empty page of the rectangle's size
   std::function<QByteArray(const SvgRequest&)> svg;  ///< Default: the bytes that were opened
-  std::function<QByteArray(const QByteArray& pdf, const AttributesRequest&)>
-      setAttributes;  ///< Default: the PDF
+  std::function<QByteArray(const QByteArray& pdf, const PdfAttributes&)> setAttributes;  ///< Default: the PDF
 };
 
 /// A picture whose colour tells where it is: red grows with x from 0 to 255 over the page, green with y
@@ -76,7 +75,7 @@ class MemoryPictureProcess final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
-  Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+  Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes,
                                         const CancelToken& cancel = {}) override;
   void retire() override { ++retirements_; }
   [[nodiscard]] int retirements() const { return retirements_; }

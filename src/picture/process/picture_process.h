@@ -39,9 +39,8 @@ class PictureProcess {
   virtual Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) = 0;
-  /// `pdf`, which was made of this document, with these entries of its document information set; the others
-  /// stay.
-  virtual Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const AttributesRequest& attributes,
+  /// `pdf`, a finished one, with these attributes. What is yet to be made takes them with its request.
+  virtual Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes,
                                                 const CancelToken& cancel = {}) = 0;
   /// Tells that nothing more will be asked, so that the process can go while its results are worked on. A
   /// call all the same starts another. Waits for a call under way.

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex::engine {
@@ -64,7 +65,7 @@ QStringList missingFamilies(const QList<QStringList>& lists) {
     });
     if (list.isEmpty() || isThere) continue;
     const QString sentence = missingFontSentence(list.first(), standInFor(list.first()));
-    if (!sentences.contains(sentence) && sentences.size() < maximumWarnings) sentences << sentence;
+    if (!sentences.contains(sentence) && sentences.size() < limits::maximumWarnings) sentences << sentence;
   }
   return sentences;
 }

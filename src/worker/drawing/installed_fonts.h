@@ -12,7 +12,7 @@ namespace norvex::engine {
 
 /// For each list of families of which none is installed, one sentence about the first: the rest of a list is
 /// the author's own choice of what stands in. Generic names ("serif") are always there. At most
-/// maximumWarnings.
+/// limits::maximumWarnings.
 [[nodiscard]] QStringList missingFamilies(const QList<QStringList>& lists);
 
 }  // namespace norvex::engine

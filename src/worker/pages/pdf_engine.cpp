@@ -40,7 +40,9 @@ class PdfEngine final : public DocumentEngine {
   Result<EngineBytes> pdf(const PdfRequest& request) override {
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
-    return composePage(bytes_, wholePage(request.page, *size, VectorFormat::Pdf), context_);
+    ComposeRequest whole = wholePage(request.page, *size, VectorFormat::Pdf);
+    whole.attributes = request.attributes;
+    return composePage(bytes_, whole, context_);
   }
 
   Result<EngineBytes> compose(const ComposeRequest& request) override {

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "protocol/limits.h"
 #include "worker/pdf/pdf_numbers.h"
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/pdf_writing.h"
@@ -18,7 +19,6 @@ namespace norvex::engine {
 namespace {
 
 constexpr double kUnitsPerPoint = 100;  // lines are drawn at least a unit wide
-constexpr double kLongestSide = 1.0e6;  // of a sheet, in units: what cairo's coordinates hold
 
 using Annotations = std::vector<QPDFObjectHandle>;
 
@@ -109,7 +109,8 @@ class Sheets {
 Result<std::vector<QPDFObjectHandle>> drawn(QPDF& qpdf, const QByteArray& sheets,
                                             const PageGeometry& geometry) {
   const QRectF& box = geometry.box;
-  const double scale = std::min(kUnitsPerPoint, kLongestSide / std::max(box.width(), box.height()));
+  const double scale =
+      std::min(kUnitsPerPoint, limits::maximumAnnotationSheet / std::max(box.width(), box.height()));
   const AffineTransform userToSheet =
       AffineTransform::fromTranslate(-box.left(), -box.bottom()) * AffineTransform::fromScale(scale, -scale);
   PdfRenderer renderer(sheets);

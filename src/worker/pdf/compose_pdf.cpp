@@ -12,6 +12,7 @@
 
 #include "protocol/limits.h"
 #include "worker/pdf/annotation_drawings.h"
+#include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_numbers.h"
 #include "worker/pdf/pdf_writing.h"
@@ -121,6 +122,7 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
     }
     const QPDFObjectHandle form = formOf(file.qpdf(), source, geometry.box);
     keepOnlyPage(file.qpdf(), placedPage(file.qpdf(), source, form, request, placement(geometry, request)));
+    if (request.attributes) setPdfAttributes(file.qpdf(), *request.attributes);
     return request.format == VectorFormat::Eps ? writePdfToDraw(file.qpdf()) : writePdf(file.qpdf());
   });
 }

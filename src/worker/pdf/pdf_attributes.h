@@ -2,20 +2,19 @@
 #pragma once
 
 #include <QByteArray>
-#include <QDateTime>
-#include <QHash>
-#include <QString>
 
-#include <optional>
+#include <qpdf/QPDF.hh>
 
 #include "base/result.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex::engine {
 
-/// `pdf` with `attributes` ("Title", "Author", "Subject", "Creator", "Producer" …; the names are PDF's) and
-/// `creationDate` set in its document information; other entries stay. Metadata that would contradict them is
-/// dropped.
-Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& attributes,
-                                    const std::optional<QDateTime>& creationDate);
+/// Sets the attributes in the document information of what is about to be written; other entries stay.
+/// Metadata that would contradict them is dropped. Throws as qpdf does.
+void setPdfAttributes(QPDF& qpdf, const PdfAttributes& attributes);
+
+/// The same for a finished PDF. Fails as PdfFile::open() does.
+Result<QByteArray> withPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes);
 
 }  // namespace norvex::engine

@@ -13,12 +13,9 @@
 namespace norvex::engine {
 namespace {
 
-constexpr int kMaximumInformationCharacters =
-    64 * 1024;  // a text of the document information is a line or two
-
 std::optional<QString> textOf(QPDFObjectHandle value) {
   if (!value.isString()) return std::nullopt;
-  QString text = QString::fromStdString(value.getUTF8Value()).left(kMaximumInformationCharacters);
+  QString text = QString::fromStdString(value.getUTF8Value()).left(limits::maximumInformationLength);
   while (text.endsWith(QChar(0))) text.chop(1);
   return text;
 }

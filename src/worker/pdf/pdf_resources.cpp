@@ -13,8 +13,6 @@
 namespace norvex::engine {
 namespace {
 
-constexpr int kDeepest = 32;  // colour spaces within colour spaces, forms within forms
-
 QString nameOf(QPDFObjectHandle name) {
   return name.isName() ? QString::fromStdString(name.getName()).mid(1) : QString();
 }
@@ -72,7 +70,7 @@ bool Walk::isNew(QPDFObjectHandle object) {
 }
 
 void Walk::add(QStringList& names, const QString& name) {
-  if (!name.isEmpty() && names.size() < maximumNames && !names.contains(name)) names << name;
+  if (!name.isEmpty() && names.size() < limits::maximumNames && !names.contains(name)) names << name;
 }
 
 template <typename Take>
@@ -138,7 +136,7 @@ void Walk::takeGraphicsState(QPDFObjectHandle state, int depth) {
 }
 
 void Walk::takeColorSpace(QPDFObjectHandle space, int depth) {
-  if (depth > kDeepest || !isNew(space)) return;
+  if (depth > limits::maximumResourceDepth || !isNew(space)) return;
   if (space.isName()) {
     if (!space.isNameAndEquals("/Pattern")) add(found.colorSpaces, nameOf(space));
     return;
@@ -168,7 +166,7 @@ void Walk::takeColorSpace(QPDFObjectHandle space, int depth) {
 }
 
 void Walk::takeResources(QPDFObjectHandle resources, int depth) {
-  if (depth > kDeepest || !resources.isDictionary() || !isNew(resources)) return;
+  if (depth > limits::maximumResourceDepth || !resources.isDictionary() || !isNew(resources)) return;
   forEach(resources.getKey("/Font"), [&](QPDFObjectHandle font) { takeFont(font, depth); });
   forEach(resources.getKey("/ColorSpace"), [&](QPDFObjectHandle space) { takeColorSpace(space, depth); });
   forEach(resources.getKey("/Shading"), [&](QPDFObjectHandle shading) {

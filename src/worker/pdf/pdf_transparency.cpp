@@ -5,16 +5,16 @@
 #include <functional>
 #include <string>
 
+#include "protocol/limits.h"
+
 namespace norvex::engine {
 namespace {
-
-constexpr int kDeepest = 64;  // direct objects within direct objects
 
 using Visit = std::function<void(QPDFObjectHandle dictionary)>;
 
 // Every dictionary of the file, those of streams and those inside other objects included, each once.
 void visitDirect(QPDFObjectHandle object, const Visit& visit, int depth) {
-  if (depth > kDeepest) return;
+  if (depth > limits::maximumObjectDepth) return;
   if (object.isStream()) object = object.getDict();
   if (object.isDictionary()) {
     visit(object);

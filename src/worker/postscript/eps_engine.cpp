@@ -5,6 +5,7 @@
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_program.h"
 #include "worker/pages/compose_page.h"
+#include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/whole_page.h"
@@ -39,6 +40,11 @@ class EpsEngine final : public DocumentEngine {
   Result<EngineBytes> pdf(const PdfRequest& request) override {
     if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
     EngineBytes result{distilled_->pdf, {}};
+    if (request.attributes) {
+      Result<QByteArray> titled = withPdfAttributes(result.bytes, *request.attributes);
+      if (!titled) return titled.error();
+      result.bytes = std::move(*titled);
+    }
     result.report.warnings = distilled_->warnings;
     return result;
   }

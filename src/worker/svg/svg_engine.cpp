@@ -72,7 +72,7 @@ class SvgEngine final : public DocumentEngine {
   const SvgGeometry geometry_;
   QSizeF pixels_;
   std::unique_ptr<SvgRenderer> renderer_;
-  std::optional<QByteArray> pdf_;
+  std::optional<QByteArray> pdf_;            ///< without attributes: what every rectangle is cut from
   std::optional<QStringList> missingFonts_;  ///< one sentence each, once something was drawn
 };
 
@@ -150,12 +150,12 @@ Result<PictureFacts> SvgEngine::facts() {
 // librsvg makes layers as large as the whole picture on the device, and makes them wrong when the picture is
 // turned.
 bool SvgEngine::needsOwnDocument(const AffineTransform& pixelsToDevice) const {
-  constexpr double largestLayer = 32.0e6, longestSide = 16'000;
   if (!inspection_.hasLayers) return false;
   const double width = pixels_.width() * pixelsToDevice.m11(),
                height = pixels_.height() * pixelsToDevice.m22();
   const bool upright = pixelsToDevice.m12() == 0 && pixelsToDevice.m21() == 0 && width > 0 && height > 0;
-  return !upright || std::max(width, height) > longestSide || width * height > largestLayer;
+  return !upright || std::max(width, height) > limits::maximumLayerSide ||
+         width * height > limits::maximumLayerPixels;
 }
 
 /// The part of the picture that is asked for becomes a document, and that is drawn upright: its layers are as
@@ -223,14 +223,13 @@ Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
   if (const Result<void> may = start(request.page); !may) return may.error();
   if (!vectors_.toPdf)
     return Error{ErrorKind::Unsupported, QStringLiteral("this picture was opened to be drawn")};
-  if (!pdf_) {
-    const Result<const SvgRenderer*> loaded = renderer();
-    if (!loaded) return loaded.error();
-    Result<QByteArray> made = vectors_.toPdf(**loaded, pixels_, imageEffects());
-    if (!made) return made.error();
-    pdf_ = std::move(*made);
-  }
-  return EngineBytes{*pdf_, pdfReport()};
+  if (pdf_ && !request.attributes) return EngineBytes{*pdf_, pdfReport()};
+  const Result<const SvgRenderer*> loaded = renderer();
+  if (!loaded) return loaded.error();
+  Result<QByteArray> made = vectors_.toPdf(**loaded, pixels_, imageEffects(), request.attributes);
+  if (!made) return made.error();
+  if (!request.attributes) pdf_ = *made;
+  return EngineBytes{std::move(*made), pdfReport()};
 }
 
 Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {

@@ -5,6 +5,7 @@
 #include <QSizeF>
 
 #include <memory>
+#include <optional>
 
 #include "base/result.h"
 #include "worker/engine/engine.h"
@@ -18,7 +19,8 @@ namespace norvex::engine {
 /// without compose compose() does.
 struct SvgVectors {
   Result<QByteArray> (*toPdf)(const SvgRenderer& renderer, const QSizeF& pixels,
-                              const SvgImageEffects& effects) = nullptr;
+                              const SvgImageEffects& effects,
+                              const std::optional<PdfAttributes>& attributes) = nullptr;
   /// Goes with toPdf.
   double (*effectsDpi)(const QSizeF& pixels, const SvgImageEffects& effects) = nullptr;
   Result<EngineBytes> (*compose)(const QByteArray& pdf, const ComposeRequest& request,

@@ -5,12 +5,11 @@
 
 #include <algorithm>
 
+#include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex::engine {
 namespace {
-
-constexpr qsizetype kLongestShorthand = 500;  // a match takes time that grows with the square of it
 
 /// Words that mean another element's family, not one of their own.
 bool isKeyword(const QString& name) {
@@ -89,7 +88,7 @@ void SvgFonts::shorthand(QStringView value) {
       QStringLiteral("(?:^|\\s)(?:[0-9.]*\\.?[0-9]+(?:[a-z]+|%)|(?:xx?-|x+)?(?:small|large)|medium|"
                      "smaller|larger)(?:\\s*/\\s*\\S+)?\\s+(.+)$"),
       QRegularExpression::CaseInsensitiveOption);
-  if (value.size() > kLongestShorthand) return;
+  if (value.size() > limits::maximumFontShorthand) return;
   const QRegularExpressionMatch match = size.match(value.trimmed());
   if (match.hasMatch()) list(match.capturedView(1));
 }
@@ -99,11 +98,11 @@ void SvgFonts::list(QStringView names) {
   QStringList all;
   for (const QString& each : namesOf(names)) {
     const QString name = each.simplified();
-    if (name.isEmpty() || isKeyword(name) || families_.size() >= maximumNames) continue;
+    if (name.isEmpty() || isKeyword(name) || families_.size() >= limits::maximumNames) continue;
     if (!families_.contains(name, Qt::CaseInsensitive)) families_ << name;
     all << name;
   }
-  if (!all.isEmpty() && lists_.size() < maximumNames && !lists_.contains(all)) lists_ << all;
+  if (!all.isEmpty() && lists_.size() < limits::maximumNames && !lists_.contains(all)) lists_ << all;
 }
 
 }  // namespace norvex::engine

@@ -11,7 +11,9 @@
 #include <memory>
 #include <string>
 
+#include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"
+#include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_writing.h"
 #include "worker/svg/svg_length.h"
 
@@ -19,8 +21,7 @@ namespace norvex::engine {
 namespace {
 
 constexpr double kUnitsPerInch = 300;
-constexpr double kEffectPixels = 16.0e6;  // how large an image of a filter or a mask may be at most
-constexpr double kMorphologyReach = 10;   // librsvg cuts feMorphology's radius to so many units of the target
+constexpr double kMorphologyReach = 10;  // librsvg cuts feMorphology's radius to so many units of the target
 
 /// librsvg places glyphs, and makes the images of filters and masks, in whole units of the target. The page
 /// is drawn larger for their sake; fitPage() makes it small again.
@@ -30,7 +31,7 @@ double drawingScale(const QSizeF& pixels, const SvgImageEffects& effects) {
   const double area = pixels.width() * pixels.height() * pointsPerPixel * pointsPerPixel;
   const double reach = effects.morphologyRadius * pointsPerPixel;
   const double withinReach = reach > 0 ? std::max(1.0, kMorphologyReach / reach) : fine;
-  return std::min({fine, withinReach, std::sqrt(kEffectPixels / area)});
+  return std::min({fine, withinReach, std::sqrt(limits::maximumEffectPixels / area)});
 }
 
 /// The page as a form. cairo's contents are one stream: it becomes the form as it is, without being unpacked
@@ -68,12 +69,14 @@ void fitPage(QPDF& document, double width, double height, double scale) {
   keepOnlyPage(document, shown);
 }
 
-Result<QByteArray> rewritten(const QByteArray& pdf, const QSizeF& pixels, double scale) {
+Result<QByteArray> rewritten(const QByteArray& pdf, const QSizeF& pixels, double scale,
+                             const std::optional<PdfAttributes>& attributes) {
   try {
     QPDF document;
     document.setSuppressWarnings(true);
     document.processMemoryFile("picture", pdf.constData(), size_t(pdf.size()));
     fitPage(document, pixels.width() * pointsPerPixel, pixels.height() * pointsPerPixel, scale);
+    if (attributes) setPdfAttributes(document, *attributes);
     return writePdf(document);
   } catch (const std::exception&) {
     return Error{ErrorKind::Unsupported, QStringLiteral("the picture cannot be written as PDF")};
@@ -99,8 +102,8 @@ double svgEffectsDpi(const QSizeF& pixels, const SvgImageEffects& effects) {
   return drawingScale(pixels, effects) * 72;
 }
 
-Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
-                            const SvgImageEffects& effects) {
+Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, const SvgImageEffects& effects,
+                            const std::optional<PdfAttributes>& attributes) {
   const double scale = drawingScale(pixels, effects);
   const double units = pointsPerPixel * scale;
   const auto draw = [&](cairo_t* target) {
@@ -111,7 +114,7 @@ Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
     return effects.stretchedText ? drawOutlined(page, pixels * units, draw) : draw(page);
   });
   if (!bytes) return bytes.error();
-  return rewritten(*bytes, pixels, scale);
+  return rewritten(*bytes, pixels, scale, attributes);
 }
 
 }  // namespace norvex::engine

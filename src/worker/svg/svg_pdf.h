@@ -4,7 +4,10 @@
 #include <QByteArray>
 #include <QSizeF>
 
+#include <optional>
+
 #include "base/result.h"
+#include "protocol/worker_protocol.h"
 #include "worker/svg/svg_renderer.h"
 
 namespace norvex::engine {
@@ -17,9 +20,10 @@ struct SvgImageEffects {
 };
 
 /// A page of exactly the picture's size in points. Vectors stay vectors and text stays text, but for outlines
-/// where text is stretched. The same picture gives the same bytes.
+/// where text is stretched. The same picture with the same attributes gives the same bytes.
 [[nodiscard]] Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels,
-                                          const SvgImageEffects& effects);
+                                          const SvgImageEffects& effects,
+                                          const std::optional<PdfAttributes>& attributes = {});
 
 /// Pixels an inch of the images of filters and masks in that page: 300, fewer where the images would be too
 /// large or where a filter's radius would be out of the renderer's reach.

@@ -3,6 +3,7 @@
 #include "worker/engine/engine.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
+#include "worker/pdf/compose_pdf.h"
 #include "worker/pdf/pdf_facts.h"
 
 using namespace norvex;
@@ -32,7 +33,7 @@ class PdfAttributesTest : public QObject {
                                              {"Producer", "P"},
                                              {"Creator", "C 1.0"}};
     const QDateTime date(QDate(2024, 2, 3), QTime(4, 5, 6), Qt::OffsetFromUTC, 3600);
-    const auto changed = setPdfAttributes(old, attributes, date);
+    const auto changed = withPdfAttributes(old, {attributes, date});
     QVERIFY(changed.ok());
     const PictureFacts facts = factsOf(*changed);
     QCOMPARE(facts.attributes, attributes);
@@ -43,21 +44,38 @@ class PdfAttributesTest : public QObject {
   }
 
   void withoutADateThereIsNone() {
-    const auto changed = setPdfAttributes(onePage(""), {{"Title", "T"}}, std::nullopt);
+    const auto changed = withPdfAttributes(onePage(""), {{{"Title", "T"}}, {}});
     QVERIFY(changed.ok());
     QVERIFY(!factsOf(*changed).creationDate);
   }
 
   void everythingElseStays() {
     const QByteArray pdf = onePage("1 0 0 rg 0 0 9 9 re f", "/MediaBox [0 0 9 9] /Rotate 90 /Marker (kept)");
-    const auto changed = setPdfAttributes(pdf, {}, std::nullopt);
+    const auto changed = withPdfAttributes(pdf, {});
     QVERIFY(changed.ok());
     QVERIFY(changed->contains("kept"));
     QVERIFY(factsOf(*changed).attributes.isEmpty());
   }
 
+  void aRectangleOfAPageIsMadeWithThem() {
+    ComposeRequest request{VectorFormat::Pdf, 0, QRectF(-5, -5, 10, 10), 0};
+    const auto bare = composePdf(onePage(""), request);
+    QVERIFY(bare.ok());
+    request.attributes = {{{"Title", "T"}, {"Creator", "C"}},
+                          QDateTime(QDate(2024, 2, 3), QTime(4, 5, 6), Qt::UTC)};
+    const auto made = composePdf(onePage(""), request);
+    QVERIFY(made.ok());
+    const PictureFacts facts = factsOf(*made), without = factsOf(*bare);
+    QCOMPARE(facts.attributes.value("Title"), QString("T"));
+    QCOMPARE(facts.attributes.value("Creator"), QString("C"));
+    QCOMPARE(facts.attributes.value("Producer"), without.attributes.value("Producer"));
+    QCOMPARE(facts.creationDate, request.attributes->creationDate);
+    QCOMPARE(facts.pageBounds, without.pageBounds);
+    QVERIFY(!without.attributes.contains("Title"));
+  }
+
   void whatIsNoPdfIsAnError() {
-    const auto changed = setPdfAttributes("no PDF", {}, std::nullopt);
+    const auto changed = withPdfAttributes("no PDF", {});
     QVERIFY(!changed.ok());
     QCOMPARE(changed.error().kind, ErrorKind::NotParsable);
   }

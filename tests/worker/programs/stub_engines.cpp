@@ -137,10 +137,9 @@ Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const PictureLimi
   return bitmap;
 }
 
-Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const QHash<QString, QString>& texts,
-                                    const std::optional<QDateTime>& date) {
-  return pdf + ' ' + texts.value("Title").toUtf8() + ' ' +
-         (date ? date->toString(Qt::ISODate).toLatin1() : "never");
+Result<QByteArray> setPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes) {
+  return pdf + ' ' + attributes.texts.value("Title").toUtf8() + ' ' +
+         (attributes.creationDate ? attributes.creationDate->toString(Qt::ISODate).toLatin1() : "never");
 }
 
 }  // namespace

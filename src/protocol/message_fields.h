@@ -1,0 +1,41 @@
+// How the messages of worker_protocol.h are read and written by one list of fields each:
+//
+//   template <typename V>
+//   void fields(V& v, Of<V, PdfRequest>& pdf) {
+//     v.integer(Key("page"), pdf.page, 0, limits::maximumPageNumber);
+//   }
+//
+// V is CborReader, which fills the message in, or CborWriter, which is given a constant one.
+#pragma once
+
+#include <QLatin1String>
+#include <QString>
+
+#include <type_traits>
+#include <variant>
+
+#include "protocol/cbor_reader.h"
+#include "protocol/cbor_writer.h"
+
+namespace norvex {
+
+template <typename V, typename Message>
+using Of = std::conditional_t<V::writes, const Message, Message>;
+
+/// The word that tells what a message is; specialised for each.
+template <typename Message>
+inline constexpr const char* typeOf = nullptr;
+
+/// Whether `type` is the word of one of the messages that `message` may be. That is then read into it.
+template <typename... Messages>
+bool readOneOf(CborReader& reader, const QString& type, std::variant<Messages...>& message) {
+  const auto isThis = [&](auto read) {
+    if (type != QLatin1String(typeOf<decltype(read)>)) return false;
+    fields(reader, read);
+    message = std::move(read);
+    return true;
+  };
+  return (isThis(Messages()) || ...);
+}
+
+}  // namespace norvex

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 #include <limits>
 
 #include "protocol/limits.h"
@@ -23,6 +24,9 @@ Error died() {
 }
 Error timedOut() {
   return {ErrorKind::TimedOut, QStringLiteral("the picture process did not answer in time")};
+}
+Error interrupted() {
+  return {ErrorKind::Cancelled, QStringLiteral("the answer is no longer waited for")};
 }
 Error cannotBeTrue() {
   return {ErrorKind::Protocol, QStringLiteral("the picture process sent something that is not a message")};
@@ -60,13 +64,15 @@ Result<std::pair<FileDescriptor, FileDescriptor>> MessageChannel::makePair() {
   return std::pair{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
 }
 
-Result<void> MessageChannel::waitFor(short events, QDeadlineTimer deadline) const {
+Result<void> MessageChannel::waitFor(short events, QDeadlineTimer deadline, int interruption) const {
   while (true) {
-    pollfd poll = {socket_.get(), events, 0};
+    pollfd polls[] = {{socket_.get(), events, 0}, {interruption, POLLIN, 0}};  // poll passes over -1
     const qint64 left = deadline.remainingTime();  // -1: for ever, which poll spells the same way
     const int wait = left < 0 ? -1 : int(std::min<qint64>(left, std::numeric_limits<int>::max()));
-    const int ready = ::poll(&poll, 1, wait);
-    if (ready > 0) return (poll.revents & POLLNVAL) != 0 ? Result<void>(died()) : Result<void>();
+    const int ready = ::poll(polls, std::size(polls), wait);
+    if (polls[0].revents != 0 && ready > 0)
+      return (polls[0].revents & POLLNVAL) != 0 ? Result<void>(died()) : Result<void>();
+    if (ready > 0) return interrupted();
     if (ready < 0 && errno != EINTR) return died();
     if (deadline.hasExpired()) return timedOut();
   }
@@ -119,7 +125,7 @@ Result<void> MessageChannel::adoptDescriptors(msghdr& header, bool allowed) {
 }
 
 Result<void> MessageChannel::fill(char* target, qsizetype& have, qsizetype want, bool descriptorAllowed,
-                                  QDeadlineTimer deadline) {
+                                  QDeadlineTimer deadline, int interruption) {
   while (have < want) {
     iovec part = {target + have, size_t(want - have)};
     OneDescriptor room;
@@ -134,22 +140,24 @@ Result<void> MessageChannel::fill(char* target, qsizetype& have, qsizetype want,
       have += got;
     } else if (got == 0 || !isTemporary(errno)) {
       return died();
-    } else if (auto ready = waitFor(POLLIN, deadline); !ready) {
+    } else if (auto ready = waitFor(POLLIN, deadline, interruption); !ready) {
       return ready;
     }
   }
   return {};
 }
 
-Result<ChannelMessage> MessageChannel::receive(QDeadlineTimer deadline) {
+Result<ChannelMessage> MessageChannel::receive(QDeadlineTimer deadline, int interruption) {
   if (!socket_.valid()) return died();
-  if (auto filled = fill(length_, haveLength_, 4, true, deadline); !filled) return filled.error();
+  if (auto filled = fill(length_, haveLength_, 4, true, deadline, interruption); !filled)
+    return filled.error();
   const quint32 length = qFromLittleEndian<quint32>(length_);
   if (length == 0 || length > limits::maximumMessageBytes) return cannotBeTrue();
   while (haveBody_ < qsizetype(length)) {
     const qsizetype want = std::min(qsizetype(length), haveBody_ + limits::messageGrowth);
     body_.resize(want);
-    if (auto filled = fill(body_.data(), haveBody_, want, false, deadline); !filled) return filled.error();
+    if (auto filled = fill(body_.data(), haveBody_, want, false, deadline, interruption); !filled)
+      return filled.error();
   }
   haveLength_ = haveBody_ = 0;
   return ChannelMessage{std::exchange(body_, {}), std::move(arriving_)};

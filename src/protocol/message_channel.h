@@ -20,10 +20,10 @@ struct ChannelMessage {
 };
 
 /// See worker_protocol.h for the form on the wire. Never raises SIGPIPE. One thread may send while another
-/// receives; two threads must not do the same. Failures: TimedOut (the channel stays usable, a half received
-/// message is continued by the next receive), Died (the other side has closed), Protocol (a length over the
-/// limit, more than one descriptor, a descriptor after the length). After Died or Protocol the channel is of
-/// no use any more.
+/// receives; two threads must not do the same. Failures: TimedOut and Cancelled (the channel stays usable, a
+/// half received message is continued by the next receive), Died (the other side has closed), Protocol (a
+/// length over the limit, more than one descriptor, a descriptor after the length). After Died or Protocol
+/// the channel is of no use any more.
 class MessageChannel {
  public:
   MessageChannel() = default;
@@ -36,7 +36,10 @@ class MessageChannel {
   /// Sends the message with a copy of `descriptor` (-1: none); the caller's own descriptor stays open.
   Result<void> send(const QByteArray& cbor, int descriptor = -1,
                     QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever));
-  Result<ChannelMessage> receive(QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever));
+  /// `interruption`: a descriptor that becomes readable when the wait shall end early, which then fails with
+  /// Cancelled; a message that is there is given all the same. -1: none.
+  Result<ChannelMessage> receive(QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever),
+                                 int interruption = -1);
 
   /// Whether the other side still holds its end. True also while unread bytes wait.
   [[nodiscard]] bool isConnected() const;
@@ -44,9 +47,9 @@ class MessageChannel {
   [[nodiscard]] bool valid() const { return socket_.valid(); }
 
  private:
-  Result<void> waitFor(short events, QDeadlineTimer deadline) const;
+  Result<void> waitFor(short events, QDeadlineTimer deadline, int interruption = -1) const;
   Result<void> fill(char* target, qsizetype& have, qsizetype want, bool descriptorAllowed,
-                    QDeadlineTimer deadline);
+                    QDeadlineTimer deadline, int interruption);
   Result<void> adoptDescriptors(msghdr& header, bool allowed);
 
   FileDescriptor socket_;

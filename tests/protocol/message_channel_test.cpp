@@ -1,9 +1,11 @@
 #include "protocol/message_channel.h"
+#include "protocol/limits.h"
 
 #include <QDir>
 #include <QtEndian>
 
 #include <fcntl.h>
+#include <sys/eventfd.h>
 #include <unistd.h>
 
 #include <thread>
@@ -91,6 +93,18 @@ class MessageChannelTest : public QObject {
     QCOMPARE(pair.ours.receive(QDeadlineTimer(0))->cbor, QByteArray("slowly"));
   }
 
+  void anInterruptionEndsTheWaitAndTheChannelStaysUsable() {
+    Pair pair = makePair();
+    const FileDescriptor wake(::eventfd(1, EFD_CLOEXEC));
+    QVERIFY(sendRaw(pair.theirs.get(), framed("whole").left(6)));
+    const auto early = pair.ours.receive(QDeadlineTimer(QDeadlineTimer::Forever), wake.get());
+    QVERIFY(!early.ok());
+    QCOMPARE(early.error().kind, ErrorKind::Cancelled);
+    QVERIFY(sendRaw(pair.theirs.get(), framed("whole").mid(6)));
+    QCOMPARE(pair.ours.receive(QDeadlineTimer(QDeadlineTimer::Forever), wake.get())->cbor,
+             QByteArray("whole"));
+  }
+
   void theOtherSideCloses() {
     Pair pair = makePair();
     QVERIFY(pair.ours.isConnected());
@@ -167,4 +181,3 @@ class MessageChannelTest : public QObject {
 
 NORVEX_TEST(MessageChannelTest)
 #include "message_channel_test.moc"
-#include "protocol/limits.h"

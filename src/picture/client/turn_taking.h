@@ -2,7 +2,6 @@
 // wanted.
 #pragma once
 
-#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -18,12 +17,13 @@ class TurnTaking {
   /// The turn ends with the object; nothing: cancelled while waiting.
   using Turn = std::unique_ptr<void, std::function<void(void*)>>;
   [[nodiscard]] Turn take(const CancelToken& cancel) {
+    const CancelListener listener(cancel, [this] {
+      const std::lock_guard lock(mutex_);
+      free_.notify_all();
+    });
     std::unique_lock lock(mutex_);
-    while (busy_) {
-      if (cancel.cancelled()) return nullptr;
-      // A token has no way to wake us, so it is looked at now and then.
-      free_.wait_for(lock, std::chrono::milliseconds(10));
-    }
+    free_.wait(lock, [&] { return !busy_ || cancel.cancelled(); });
+    if (busy_) return nullptr;
     busy_ = true;
     return Turn(this, [this](void*) { end(); });
   }

@@ -1,6 +1,7 @@
 #include "picture/client/worker_connection.h"
 
 #include <poll.h>
+#include <sys/eventfd.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -13,14 +14,16 @@
 namespace norvex {
 namespace {
 
-constexpr qint64 kSlice = 10;  ///< milliseconds after which a cancel is noticed
-
 Error cancelled() {
   return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
 }
 Error timedOut() {
   return {ErrorKind::TimedOut,
           QStringLiteral("the picture was not ready within the time that it is allowed")};
+}
+Error noDescriptor() {
+  return {ErrorKind::Died,
+          QStringLiteral("the picture process cannot be waited for: too many files are open")};
 }
 Error cannotBeTrue() {
   return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
@@ -124,22 +127,24 @@ Result<quint32> WorkerConnection::post(RequestBody body, const FileDescriptor& m
 }
 
 Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline, const CancelToken& cancel) {
-  QDeadlineTimer obey(QDeadlineTimer::Forever);
-  while (true) {
-    Result<ChannelMessage> message = channel_.receive(std::min({QDeadlineTimer(kSlice), deadline, obey}));
-    if (message) {
-      hasAnswered_ = true;
-      Result<WorkerAnswer> answer = understand(id, std::move(*message));
-      return obey.isForever() || !answer ? std::move(answer) : Result<WorkerAnswer>(cancelled());
-    }
-    if (message.error().kind != ErrorKind::TimedOut) return failed(message.error());
-    if (obey.hasExpired()) return failed(cancelled());
-    if (deadline.hasExpired()) return failed(timedOut());
-    if (!cancel.cancelled() || !obey.isForever()) continue;
-    obey = QDeadlineTimer(limits::cancelGrace);
+  const FileDescriptor wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+  if (!wake.valid()) return failed(noDescriptor());
+  const CancelListener listener(cancel, [&] { ::eventfd_write(wake.get(), 1); });
+  Result<ChannelMessage> message = channel_.receive(deadline, wake.get());
+  const bool wanted = message || message.error().kind != ErrorKind::Cancelled;
+  if (!wanted) {
+    const QDeadlineTimer obey(limits::cancelGrace);
     if (auto sent = channel_.send(encodeMessage(CancelRequest{id}), -1, obey); !sent)
       return failed(sent.error());
+    message = channel_.receive(std::min(obey, deadline));
   }
+  if (message) {
+    hasAnswered_ = true;
+    Result<WorkerAnswer> answer = understand(id, std::move(*message));
+    return wanted || !answer ? std::move(answer) : Result<WorkerAnswer>(cancelled());
+  }
+  if (message.error().kind != ErrorKind::TimedOut) return failed(message.error());
+  return failed(wanted ? timedOut() : cancelled());
 }
 
 Result<WorkerAnswer> WorkerConnection::understand(quint32 id, ChannelMessage message) {

@@ -106,13 +106,16 @@ QList<ComposeRequest> MemoryPictureProcess::composeRequests() const {
 }
 
 Result<void> MemoryPictureProcess::begin(PictureCall call, const CancelToken& cancel) {
+  const CancelListener listener(cancel, [this] {
+    const std::lock_guard lock(mutex_);
+    changed_.notify_all();
+  });
   std::unique_lock lock(mutex_);
   CallState& now = state(call);
   ++now.count;
   ++now.waiting;
   changed_.notify_all();
-  // A token cannot wake a sleeper, so the wait looks at it from time to time.
-  while (now.held && !cancel.cancelled()) changed_.wait_for(lock, std::chrono::milliseconds(1));
+  changed_.wait(lock, [&] { return !now.held || cancel.cancelled(); });
   --now.waiting;
   if (cancel.cancelled()) {
     ++cancelled_;

@@ -39,8 +39,11 @@ bool StoppableProcess::meansStopped(const Error& error) {
 }
 
 Result<PictureFacts> StoppableProcess::facts(const CancelToken& cancel) {
-  // A token cannot listen to another, and only the loading ever waits here.
-  return ForwardingProcess::facts(loading_.cancelled() ? cancel : loading_);
+  if (loading_.cancelled()) return ForwardingProcess::facts(cancel);
+  const CancelToken either;
+  const CancelListener loading(loading_, [&] { either.cancel(); });
+  const CancelListener caller(cancel, [&] { either.cancel(); });
+  return ForwardingProcess::facts(either);
 }
 
 Result<QImage> StoppableProcess::render(const RenderRequest& request, const CancelToken& cancel) {

@@ -5,6 +5,7 @@
 
 #include "base/localized_string.h"
 #include "document/document_types.h"
+#include "types/document_kind.h"
 
 namespace norvex {
 namespace {
@@ -20,10 +21,10 @@ QString filter(const char* title, const QStringList& extensions) {
 
 QStringList openPanelFilters() {
   return {filter("Pictures", documentFilenameExtensions()),
-          filter("Encapsulated PostScript", {"eps", "epsi", "epsf"}),
-          filter("Illustrator", {"ai"}),
-          filter("PDF", {"pdf"}),
-          filter("SVG", {"svg", "svgz"}),
+          filter("Encapsulated PostScript", extensionsOf(DocumentKind::Eps)),
+          filter("Illustrator", extensionsOf(DocumentKind::Illustrator)),
+          filter("PDF", extensionsOf(DocumentKind::Pdf)),
+          filter("SVG", extensionsOf(DocumentKind::Svg)),
           localizedString("All files") + " (*)"};
 }
 

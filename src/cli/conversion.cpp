@@ -3,6 +3,7 @@
 #include <QPolygonF>
 #include <QtMath>
 
+#include "base/latin1_text.h"
 #include "cli/input_file.h"
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
@@ -37,8 +38,7 @@ bool showsPicture(const NSImageRep& imageRep, const PictureRegion& region) {
 
 std::optional<Error> objection(const NSImageRep& imageRep, const ConversionOptions& options,
                                const std::optional<PictureRegion>& region) {
-  const bool wantsSvg = options.format == OutputFormat::Svg || options.format == OutputFormat::Svgz;
-  if (wantsSvg && imageRep.pictureKind() != PictureKind::Svg) {
+  if (rowOf(options.format).kind == DocumentKind::Svg && imageRep.pictureKind() != PictureKind::Svg) {
     return Error{ErrorKind::Unsupported, QStringLiteral("only an SVG picture can be written as SVG")};
   }
   const int pages = pageCount(imageRep);
@@ -96,11 +96,11 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   if (conversion.bytes.isEmpty() && !conversion.report.error) {
     conversion.report.error =
         Error{ErrorKind::Unsupported,
-              QStringLiteral("the picture cannot be written as %1").arg(nameOf(options.format))};
+              QStringLiteral("the picture cannot be written as %1").arg(latin1(rowOf(options.format).name))};
   }
   const bool vectorOfSameKind =
-      (options.format == OutputFormat::Pdf && imageRep->pictureKind() == PictureKind::Pdf) ||
-      (options.format == OutputFormat::Eps && imageRep->pictureKind() == PictureKind::Eps);
+      (options.format == PictureFormat::Pdf && imageRep->pictureKind() == PictureKind::Pdf) ||
+      (options.format == PictureFormat::Eps && imageRep->pictureKind() == PictureKind::Eps);
   conversion.metadataLost = metadataLost(encoder.header(), imageRep->pictureKind(), options.format,
                                          vectorOfSameKind && !surroundings.region && !surroundings.onePage);
   return conversion;

@@ -9,13 +9,13 @@
 #include <optional>
 
 #include "base/cancel_token.h"
-#include "encoders/output_format.h"
+#include "encoders/encoded_picture.h"
 #include "picture/process/picture_process.h"
 
 namespace norvex {
 
 struct ConversionOptions {
-  OutputFormat format = OutputFormat::Pdf;
+  PictureFormat format = PictureFormat::Pdf;
   double rotateDegrees = 0;    ///< counter-clockwise
   std::optional<QRectF> crop;  ///< points in the rotated view, origin at its lower-left corner, y up
   std::optional<int> page;     ///< from 1

@@ -2,6 +2,8 @@
 
 #include <QJsonArray>
 
+#include "base/latin1_text.h"
+
 namespace norvex {
 namespace {
 
@@ -23,7 +25,7 @@ QJsonObject conversionObject(const ConvertTask& task, const ConversionOptions& o
   const EncodingReport& report = conversion.report;
   QJsonObject object{{QStringLiteral("file"), task.file},
                      {QStringLiteral("output"), task.output},
-                     {QStringLiteral("format"), nameOf(options.format)}};
+                     {QStringLiteral("format"), latin1(rowOf(options.format).name)}};
   if (report.error) {
     object.insert(QStringLiteral("error"), report.error->message);
   } else {

@@ -75,10 +75,10 @@ QString doubleTarget(const QList<ConvertTask>& tasks) {
 }
 
 PictureUse useFor(const ConversionOptions& options) {
-  const bool isText = options.format == OutputFormat::Svg || options.format == OutputFormat::Svgz;
-  if (isRaster(options.format) || isText) return PictureUse::Drawing;
+  const DocumentKind kind = rowOf(options.format).kind;
+  if (kind == DocumentKind::Other || kind == DocumentKind::Svg) return PictureUse::Drawing;
   const bool isWhole = options.rotateDegrees == 0 && !options.crop;
-  return options.format == OutputFormat::Pdf && isWhole ? PictureUse::WholePdf : PictureUse::Everything;
+  return kind == DocumentKind::Pdf && isWhole ? PictureUse::WholePdf : PictureUse::Everything;
 }
 
 }  // namespace
@@ -92,7 +92,8 @@ ExitCode Job::convert(const Arguments& arguments) {
   }
   service_.openOnlyFor(useFor(plan.options));
   // ICU reads its tables at the first date of all: now the picture process starts, later somebody waits.
-  if (isPostScript(plan.options.format)) (void)fullDate(QDateTime::currentDateTime(), userDateLocale());
+  if (rowOf(plan.options.format).kind == DocumentKind::Eps)
+    (void)fullDate(QDateTime::currentDateTime(), userDateLocale());
   const bool fromInput = arguments.files.contains(QStringLiteral("-"));
   const Result<QByteArray> input =
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());

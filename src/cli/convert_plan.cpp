@@ -6,6 +6,7 @@
 
 #include <cmath>
 
+#include "base/latin1_text.h"
 #include "protocol/limits.h"
 
 namespace norvex {
@@ -81,16 +82,18 @@ ConversionOptions optionsOf(const Arguments& arguments, ValueReader& values) {
   return options;
 }
 
-std::optional<OutputFormat> formatOf(const Arguments& arguments) {
-  if (arguments.has(Option::Format)) return outputFormatNamed(arguments.values.value(Option::Format));
-  return outputFormatOfFileName(arguments.values.value(Option::Output));
+std::optional<PictureFormat> formatOf(const Arguments& arguments) {
+  if (arguments.has(Option::Format)) return formatNamed(arguments.values.value(Option::Format).toStdString());
+  const auto format =
+      formatOfExtension(QFileInfo(arguments.values.value(Option::Output)).suffix().toStdString());
+  return format && isWritten(rowOf(*format)) ? format : std::nullopt;
 }
 
-QString inFolder(const QString& folder, const QString& file, OutputFormat format) {
+QString inFolder(const QString& folder, const QString& file, PictureFormat format) {
   const QFileInfo info(file);
   QString name = file == QLatin1String("-") ? QStringLiteral("picture") : info.completeBaseName();
   if (name.isEmpty()) name = info.fileName();  // all of it follows a dot
-  return QDir(folder).filePath(name + u'.' + extensionOf(format));
+  return QDir(folder).filePath(name + u'.' + latin1(writtenExtension(format)));
 }
 
 QString complaintAboutTargets(const Arguments& arguments) {

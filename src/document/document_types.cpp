@@ -3,13 +3,23 @@
 #include <algorithm>
 #include <optional>
 
+#include "types/document_kind.h"
 #include "types/uniform_type.h"
 
 namespace norvex {
 
 const QStringList& acceptedDocumentTypes() {
-  static const QStringList types{NorvexEPSType, NorvexEPSIType, NorvexIllustratorType,
-                                 UTTypePDF().identifier(), UTTypeSVG().identifier()};
+  static const QStringList types = [] {
+    QStringList accepted;
+    for (const FormatRow& row : formatTable) {
+      const UTType type = typeOf(row.id);
+      // A kind of an accepted type, as compressed SVG is of SVG, needs no line of its own.
+      const bool isThere = std::any_of(accepted.begin(), accepted.end(),
+                                       [&](const QString& known) { return type.conformsToType(known); });
+      if (row.kind != DocumentKind::Other && !isThere) accepted << type.identifier();
+    }
+    return accepted;
+  }();
   return types;
 }
 
@@ -22,7 +32,9 @@ bool isAcceptedDocumentType(const QString& typeIdentifier) {
 }
 
 const QStringList& documentFilenameExtensions() {
-  static const QStringList extensions{"eps", "epsi", "epsf", "ai", "pdf", "svg", "svgz"};
+  static const QStringList extensions = extensionsOf(DocumentKind::Eps) +
+                                        extensionsOf(DocumentKind::Illustrator) +
+                                        extensionsOf(DocumentKind::Pdf) + extensionsOf(DocumentKind::Svg);
   return extensions;
 }
 

@@ -155,7 +155,8 @@ void insertExtensions(QByteArray& file, const QByteArray& extensions) {
 
 }  // namespace
 
-QByteArray encodeGif(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+QByteArray encodeRaster(CodecOf<PictureFormat::Gif>, const NSBitmapImageRep& raster,
+                        const RasterProperties& properties) {
   if (!isEncodable(raster) || raster.pixelsWide > maximumSide || raster.pixelsHigh > maximumSide) return {};
   Indexed indexed = quantise(raster);
   if (indexed.indices.empty() || indexed.palette.empty()) return {};

@@ -11,6 +11,8 @@
 namespace norvex {
 namespace {
 
+constexpr int quality = 90;  // of 100
+
 struct FailureHandler {
   jpeg_error_mgr manager;
   std::jmp_buf whereToGo;
@@ -28,8 +30,7 @@ void overWhiteRow(const uchar* from, uchar* to, int pixels) {
   }
 }
 
-void setUp(jpeg_compress_struct& codec, const NSBitmapImageRep& raster, const RasterProperties& properties,
-           int quality) {
+void setUp(jpeg_compress_struct& codec, const NSBitmapImageRep& raster, const RasterProperties& properties) {
   codec.image_width = static_cast<JDIMENSION>(raster.pixelsWide);
   codec.image_height = static_cast<JDIMENSION>(raster.pixelsHigh);
   codec.input_components = 3;
@@ -46,9 +47,9 @@ void setUp(jpeg_compress_struct& codec, const NSBitmapImageRep& raster, const Ra
 
 /// What is alive across libjpeg's long jumps is owned by the caller of this function, not by its frame.
 bool writeJpeg(jpeg_compress_struct& codec, FailureHandler& failure, const NSBitmapImageRep& raster,
-               const RasterProperties& properties, int quality, QByteArray& row) {
+               const RasterProperties& properties, QByteArray& row) {
   if (setjmp(failure.whereToGo)) return false;
-  setUp(codec, raster, properties, quality);
+  setUp(codec, raster, properties);
   jpeg_start_compress(&codec, TRUE);
   if (!properties.iccProfile.isEmpty()) {
     jpeg_write_icc_profile(&codec, reinterpret_cast<const JOCTET*>(properties.iccProfile.constData()),
@@ -72,7 +73,8 @@ bool writeJpeg(jpeg_compress_struct& codec, FailureHandler& failure, const NSBit
 
 }  // namespace
 
-QByteArray encodeJpeg(const NSBitmapImageRep& raster, const RasterProperties& properties, float quality) {
+QByteArray encodeRaster(CodecOf<PictureFormat::Jpeg>, const NSBitmapImageRep& raster,
+                        const RasterProperties& properties) {
   if (!isEncodable(raster) || raster.pixelsWide > JPEG_MAX_DIMENSION ||
       raster.pixelsHigh > JPEG_MAX_DIMENSION)
     return {};
@@ -86,8 +88,7 @@ QByteArray encodeJpeg(const NSBitmapImageRep& raster, const RasterProperties& pr
   unsigned long length = 0;
   jpeg_create_compress(&codec);
   jpeg_mem_dest(&codec, &memory, &length);
-  const bool good =
-      writeJpeg(codec, failure, raster, properties, static_cast<int>(std::lround(quality * 100)), row);
+  const bool good = writeJpeg(codec, failure, raster, properties, row);
   QByteArray file;
   if (good) file = QByteArray(reinterpret_cast<const char*>(memory), static_cast<qsizetype>(length));
   jpeg_destroy_compress(&codec);

@@ -113,7 +113,7 @@ QByteArray PictureEncoder::postScriptDataWithPreview() {
   noteDepth(32);
   const auto bitmap = bitmapOf(imageRep_, previewSettings(surroundings_.raster));
   if (!bitmap) return {};
-  const QByteArray tiff = encodeTiff(*bitmap, {72, {}});
+  const QByteArray tiff = encodeRaster(PictureFormat::Tiff, *bitmap, {72, {}});
   if (tiff.isEmpty())
     return fail({ErrorKind::Unsupported, QStringLiteral("the preview could not be written as TIFF")});
   QByteArray postScript;
@@ -231,25 +231,25 @@ RasterProperties PictureEncoder::rasterProperties() const {
   return {surroundings_.raster.dpi, surroundings_.iccProfile};
 }
 
-QByteArray PictureEncoder::tiffData(const std::shared_ptr<NSImageRep>& imageRep) {
+QByteArray PictureEncoder::rasterData(PictureFormat format, const std::shared_ptr<NSImageRep>& imageRep) {
   const auto bitmap = rasterOf(imageRep);
-  return bitmap ? encodeTiff(*bitmap, rasterProperties()) : QByteArray();
+  return bitmap ? encodeRaster(format, *bitmap, rasterProperties()) : QByteArray();
+}
+
+QByteArray PictureEncoder::tiffData(const std::shared_ptr<NSImageRep>& imageRep) {
+  return rasterData(PictureFormat::Tiff, imageRep);
 }
 
 QByteArray PictureEncoder::pngData(const std::shared_ptr<NSImageRep>& imageRep) {
-  const auto bitmap = rasterOf(imageRep);
-  return bitmap ? encodePng(*bitmap, rasterProperties()) : QByteArray();
+  return rasterData(PictureFormat::Png, imageRep);
 }
 
 QByteArray PictureEncoder::jpgData(const std::shared_ptr<NSImageRep>& imageRep) {
-  constexpr float quality = 0.9F;
-  const auto bitmap = rasterOf(imageRep);
-  return bitmap ? encodeJpeg(*bitmap, rasterProperties(), quality) : QByteArray();
+  return rasterData(PictureFormat::Jpeg, imageRep);
 }
 
 QByteArray PictureEncoder::gifData(const std::shared_ptr<NSImageRep>& imageRep) {
-  const auto bitmap = rasterOf(imageRep);
-  return bitmap ? encodeGif(*bitmap, rasterProperties()) : QByteArray();
+  return rasterData(PictureFormat::Gif, imageRep);
 }
 
 }  // namespace norvex

@@ -13,6 +13,7 @@
 #include "encoders/raster_codecs.h"
 #include "metadata/header_dictionary.h"
 #include "picture/image_rep.h"
+#include "types/picture_format.h"
 
 namespace norvex {
 
@@ -46,6 +47,8 @@ class PictureEncoder {
   /// `pdf` with its document attributes set from the header dictionary; none for none.
   [[nodiscard]] QByteArray addPDFHeader(const QByteArray& pdf);
 
+  /// The pixels of any picture in a raster format of the table.
+  [[nodiscard]] QByteArray rasterData(PictureFormat format, const std::shared_ptr<NSImageRep>& imageRep);
   [[nodiscard]] QByteArray tiffData(const std::shared_ptr<NSImageRep>& imageRep);
   [[nodiscard]] QByteArray pngData(const std::shared_ptr<NSImageRep>& imageRep);
   [[nodiscard]] QByteArray jpgData(const std::shared_ptr<NSImageRep>& imageRep);

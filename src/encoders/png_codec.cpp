@@ -71,7 +71,8 @@ bool writePng(png_structp png, png_infop info, const NSBitmapImageRep& raster,
 
 }  // namespace
 
-QByteArray encodePng(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+QByteArray encodeRaster(CodecOf<PictureFormat::Png>, const NSBitmapImageRep& raster,
+                        const RasterProperties& properties) {
   if (!isEncodable(raster)) return {};
   QByteArray file;
   QByteArray row(raster.pixelsWide * raster.samplesPerPixel, Qt::Uninitialized);

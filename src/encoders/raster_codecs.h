@@ -5,6 +5,7 @@
 #include <QByteArray>
 
 #include "protocol/bitmap_image_rep.h"
+#include "types/picture_format.h"
 
 namespace norvex {
 
@@ -14,20 +15,24 @@ struct RasterProperties {
   QByteArray iccProfile;  ///< of the samples' colour space; empty: none is embedded
 };
 
-// Each takes 8-bit interleaved RGB, with associated (premultiplied) alpha or without, rows top to bottom, and
-// returns the file's bytes; empty for any other layout, for a size that the format cannot hold, or when the
-// codec fails.
+/// The codec of each raster format of the table is the function encodeRaster() that takes CodecOf<its
+/// format>, and stands in a file of its own; a format without one does not link.
+///
+/// Each takes 8-bit interleaved RGB, with associated (premultiplied) alpha or without, rows top to bottom,
+/// and returns the file's bytes; empty for any other layout, for a size that the format cannot hold, or when
+/// the codec fails.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-template-friend"  // a plain function for each format is what is meant
+template <PictureFormat format>
+struct CodecOf {
+  friend QByteArray encodeRaster(CodecOf codec, const NSBitmapImageRep& raster,
+                                 const RasterProperties& properties);
+};
+#pragma GCC diagnostic pop
 
-/// TIFF 6, uncompressed; transparency as associated alpha.
-[[nodiscard]] QByteArray encodeTiff(const NSBitmapImageRep& raster, const RasterProperties& properties);
-/// PNG, not interlaced; transparency as alpha.
-[[nodiscard]] QByteArray encodePng(const NSBitmapImageRep& raster, const RasterProperties& properties);
-/// JPEG (JFIF), full colour resolution; transparent areas over white. `quality` 0 … 1.
-[[nodiscard]] QByteArray encodeJpeg(const NSBitmapImageRep& raster, const RasterProperties& properties,
-                                    float quality);
-/// GIF 89a with at most 256 colours, dithered; pixels more than half transparent become the transparent
-/// index.
-[[nodiscard]] QByteArray encodeGif(const NSBitmapImageRep& raster, const RasterProperties& properties);
+/// The same with the codec of `format`; empty when that is no raster format.
+[[nodiscard]] QByteArray encodeRaster(PictureFormat format, const NSBitmapImageRep& raster,
+                                      const RasterProperties& properties);
 
 /// Whether the codecs take this layout.
 [[nodiscard]] bool isEncodable(const NSBitmapImageRep& raster);

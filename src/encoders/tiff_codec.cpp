@@ -69,7 +69,8 @@ void setFields(TIFF* tiff, const NSBitmapImageRep& raster, const RasterPropertie
 
 }  // namespace
 
-QByteArray encodeTiff(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+QByteArray encodeRaster(CodecOf<PictureFormat::Tiff>, const NSBitmapImageRep& raster,
+                        const RasterProperties& properties) {
   if (!isEncodable(raster)) return {};
   MemoryFile file;
   file.bytes.reserve(raster.bytesPerPlane() + 4096);

@@ -2,12 +2,18 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+
+#include "types/picture_format.h"
 
 namespace norvex {
 
-enum class DocumentKind { Svg, Eps, Illustrator, Pdf, Other };
-
-/// By conformance, in this order, first match: SVG, EPS or EPSI, Illustrator, PDF; anything else is Other.
+/// By conformance to the types of the table's rows, in the order of DocumentKind, first match; anything else
+/// is Other.
 [[nodiscard]] DocumentKind documentKind(const QString& typeIdentifier);
+
+/// Extensions, without the dot, under which files of that kind usually come: each format's own, then the
+/// rest.
+[[nodiscard]] QStringList extensionsOf(DocumentKind kind);
 
 }  // namespace norvex

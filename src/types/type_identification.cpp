@@ -107,12 +107,18 @@ UTType typeOfGzip(QByteArrayView bytes, const QString& fileName, const std::opti
                                                              : QStringLiteral("org.gnu.gnu-zip-archive"));
 }
 
+/// `?` stands for any byte.
+bool beginsWith(QByteArrayView bytes, std::string_view mark) {
+  if (mark.empty() || bytes.size() < qsizetype(mark.size())) return false;
+  for (size_t i = 0; i < mark.size(); ++i)
+    if (mark[i] != '?' && mark[i] != bytes[qsizetype(i)]) return false;
+  return true;
+}
+
 std::optional<UTType> typeOfRaster(QByteArrayView bytes) {
-  if (bytes.startsWith("\x89PNG\r\n\x1A\n")) return UTTypePNG();
-  if (bytes.startsWith("\xFF\xD8\xFF")) return UTTypeJPEG();
-  if (bytes.startsWith("GIF87a") || bytes.startsWith("GIF89a")) return UTTypeGIF();
-  if (bytes.startsWith(QByteArrayView("II*\0", 4)) || bytes.startsWith(QByteArrayView("MM\0*", 4)))
-    return UTTypeTIFF();
+  for (const FormatRow& row : formatTable)
+    for (const std::string_view mark : row.begins)
+      if (beginsWith(bytes, mark)) return typeOf(row.id);
   return {};
 }
 

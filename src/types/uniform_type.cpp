@@ -6,6 +6,8 @@
 
 #include <vector>
 
+#include "base/latin1_text.h"
+
 namespace norvex {
 namespace {
 
@@ -20,7 +22,8 @@ struct Declaration {
 const char kData[] = "public.data";
 const char kImage[] = "public.image";
 
-std::vector<Declaration> builtInTypes() {
+/// The types above those of the formats.
+std::vector<Declaration> kindsOfTypes() {
   return {
       {"public.item", {}, {}, {}},
       {kData, {"public.item"}, {}, {"application/octet-stream"}},
@@ -36,34 +39,22 @@ std::vector<Declaration> builtInTypes() {
        {kData, "public.composite-content"},
        {"ps"},
        {"application/postscript", "application/x-postscript"}},
-      {NorvexEPSType,
-       {PostScriptType, kImage},
-       {"eps", "epsf"},
-       {"image/x-eps", "image/x-e-postscript", "application/eps", "application/x-eps", "image/eps"}},
-      // Not a kind of EPS: saving as EPSI and saving as EPS are two things, and the type chooses between
-      // them.
-      {NorvexEPSIType, {PostScriptType, kImage}, {"epsi", "epi"}, {}},
-      {NorvexIllustratorType,
-       {kImage},
-       {"ai"},
-       {"application/illustrator", "application/vnd.adobe.illustrator", "image/x-adobe-illustrator"}},
-      {"com.adobe.pdf",
-       {kData, "public.composite-content"},
-       {"pdf"},
-       {"application/pdf", "application/x-pdf", "image/pdf", "application/acrobat", "application/nappdf"}},
-      {"public.svg-image", {kImage, "public.xml"}, {"svg"}, {"image/svg+xml", "image/svg"}},
-      {NorvexSVGZType, {"public.svg-image"}, {"svgz"}, {"image/svg+xml-compressed"}},
-      {"public.tiff", {kImage}, {"tiff", "tif"}, {"image/tiff"}},
-      {"public.png", {kImage}, {"png"}, {"image/png"}},
-      {"public.jpeg", {kImage}, {"jpeg", "jpg", "jpe"}, {"image/jpeg", "image/jpg"}},
-      {"com.compuserve.gif", {kImage}, {"gif"}, {"image/gif"}},
   };
+}
+
+QStringList listOf(std::string_view words) {
+  QStringList list;
+  forEachWord(words, [&](std::string_view word) { list << latin1(word); });
+  return list;
 }
 
 class TypeRegistry {
  public:
   TypeRegistry() {
-    for (Declaration& type : builtInTypes()) insert(std::move(type));
+    for (Declaration& type : kindsOfTypes()) insert(std::move(type));
+    for (const FormatRow& row : formatTable)
+      insert({latin1(row.type), listOf(row.parents), listOf(row.extensions) + listOf(row.otherExtensions),
+              listOf(row.mimeTypes)});
   }
 
   void declare(Declaration type) {
@@ -150,23 +141,27 @@ QString UTType::preferredMIMEType() const {
   return registry().find(identifier_).mimeTypes.value(0);
 }
 
+UTType typeOf(PictureFormat format) {
+  return *UTType::typeWithIdentifier(latin1(rowOf(format).type));
+}
+
 UTType UTTypePDF() {
-  return *UTType::typeWithIdentifier(QStringLiteral("com.adobe.pdf"));
+  return typeOf(PictureFormat::Pdf);
 }
 UTType UTTypeSVG() {
-  return *UTType::typeWithIdentifier(QStringLiteral("public.svg-image"));
+  return typeOf(PictureFormat::Svg);
 }
 UTType UTTypeTIFF() {
-  return *UTType::typeWithIdentifier(QStringLiteral("public.tiff"));
+  return typeOf(PictureFormat::Tiff);
 }
 UTType UTTypePNG() {
-  return *UTType::typeWithIdentifier(QStringLiteral("public.png"));
+  return typeOf(PictureFormat::Png);
 }
 UTType UTTypeJPEG() {
-  return *UTType::typeWithIdentifier(QStringLiteral("public.jpeg"));
+  return typeOf(PictureFormat::Jpeg);
 }
 UTType UTTypeGIF() {
-  return *UTType::typeWithIdentifier(QStringLiteral("com.compuserve.gif"));
+  return typeOf(PictureFormat::Gif);
 }
 UTType UTTypeData() {
   return *UTType::typeWithIdentifier(QLatin1String(kData));

@@ -7,6 +7,9 @@
 
 #include <optional>
 
+#include "base/latin1_text.h"
+#include "types/picture_format.h"
+
 namespace norvex {
 
 /// A type of data. A value; two are equal when their identifiers are (letter case does not count, as
@@ -41,11 +44,14 @@ class UTType {
 };
 
 /// Identifiers of the types that Norvex reads or writes. Use them with UTType::typeWithIdentifier().
-inline const QString NorvexEPSType = QStringLiteral("com.adobe.encapsulated-postscript");
-inline const QString NorvexEPSIType = QStringLiteral("com.Tembrolix.epsi");
-inline const QString NorvexIllustratorType = QStringLiteral("com.adobe.illustrator.ai-image");
-inline const QString NorvexSVGZType = QStringLiteral("com.Tembrolix.svgz");
+inline const QString NorvexEPSType = latin1(rowOf(PictureFormat::Eps).type);
+inline const QString NorvexEPSIType = latin1(rowOf(PictureFormat::Epsi).type);
+inline const QString NorvexIllustratorType = latin1(rowOf(PictureFormat::Illustrator).type);
+inline const QString NorvexSVGZType = latin1(rowOf(PictureFormat::Svgz).type);
 inline const QString PostScriptType = QStringLiteral("com.adobe.postscript");
+
+/// The type of a format's files.
+[[nodiscard]] UTType typeOf(PictureFormat format);
 
 /// The platform's own types.
 [[nodiscard]] UTType UTTypePDF();

@@ -5,8 +5,10 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
+#include "base/latin1_text.h"
 #include "kit/test_main.h"
 #include "picture/bitmap_image.h"
+#include "types/type_identification.h"
 
 using namespace norvex;
 
@@ -27,9 +29,17 @@ QByteArray sRGB() {
   return QColorSpace(QColorSpace::SRgb).iccProfile();
 }
 
-using Encode = QByteArray (*)(const NSBitmapImageRep&, const RasterProperties&);
-QByteArray jpeg90(const NSBitmapImageRep& raster, const RasterProperties& properties) {
-  return encodeJpeg(raster, properties, 0.9F);
+QByteArray encodeTiff(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+  return encodeRaster(PictureFormat::Tiff, raster, properties);
+}
+QByteArray encodePng(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+  return encodeRaster(PictureFormat::Png, raster, properties);
+}
+QByteArray encodeJpeg(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+  return encodeRaster(PictureFormat::Jpeg, raster, properties);
+}
+QByteArray encodeGif(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+  return encodeRaster(PictureFormat::Gif, raster, properties);
 }
 
 /// What another program says about the bytes.
@@ -49,37 +59,37 @@ QString say(const QByteArray& bytes, const QString& suffix, QStringList command)
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Encode)
-
 class RasterCodecsTest : public QObject {
   Q_OBJECT
  private slots:
-  void theProfileIsEmbedded_data() {
-    QTest::addColumn<Encode>("encode");
-    QTest::addColumn<QString>("suffix");
-    QTest::newRow("tiff") << &encodeTiff << "tiff";
-    QTest::newRow("png") << &encodePng << "png";
-    QTest::newRow("jpeg") << &jpeg90 << "jpg";
-    QTest::newRow("gif") << &encodeGif << "gif";
+  void everyRasterFormatOfTheTableHasItsOwnCodec_data() { rasterFormats(); }
+  void everyRasterFormatOfTheTableHasItsOwnCodec() {
+    QFETCH(PictureFormat, format);
+    const QByteArray bytes = encodeRaster(format, sample(true), {});
+    QCOMPARE(identifyType(bytes, {}).identifier(), typeOf(format).identifier());
   }
+  void otherFormatsHaveNone() {
+    for (const FormatRow& row : formatTable)
+      if (!isRaster(row.id)) QVERIFY2(encodeRaster(row.id, sample(false), {}).isEmpty(), row.title);
+  }
+  void theProfileIsEmbedded_data() { rasterFormats(); }
   void theProfileIsEmbedded() {
-    QFETCH(Encode, encode);
-    QFETCH(QString, suffix);
+    QFETCH(PictureFormat, format);
+    const QString suffix = latin1(writtenExtension(format));
     const QStringList ask = {QStringLiteral("exiftool"), QStringLiteral("-icc_profile"),
                              QStringLiteral("-b")};
-    const QString with = say(encode(sample(true), {72, sRGB()}), suffix, ask);
+    const QString with = say(encodeRaster(format, sample(true), {72, sRGB()}), suffix, ask);
     QVERIFY2(with.contains(QStringLiteral("acsp")), qPrintable(with));
-    const QByteArray bare = encode(sample(true), {72, {}});
+    const QByteArray bare = encodeRaster(format, sample(true), {72, {}});
     QVERIFY(!bare.isEmpty());
     QVERIFY(!say(bare, suffix, ask).contains(QStringLiteral("acsp")));
   }
   void layoutsThatNoCodecTakesGiveNothing() {
     NSBitmapImageRep grey = sample(false);
     grey.samplesPerPixel = 1;
-    QVERIFY(encodeTiff(grey, {}).isEmpty());
-    QVERIFY(encodePng({}, {}).isEmpty());
-    QVERIFY(encodeJpeg(grey, {}, 0.9F).isEmpty());
-    QVERIFY(encodeGif(grey, {}).isEmpty());
+    for (const FormatRow& row : formatTable)
+      for (const NSBitmapImageRep& raster : {grey, NSBitmapImageRep()})
+        QVERIFY2(encodeRaster(row.id, raster, {}).isEmpty(), row.title);
   }
   void tiffIsUncompressedWithAssociatedAlpha() {
     const QString said =
@@ -136,7 +146,7 @@ class RasterCodecsTest : public QObject {
   }
   void opaquePngHasNoAlpha() { QVERIFY(!QImage::fromData(encodePng(sample(false), {})).hasAlphaChannel()); }
   void jpegHasFullColourResolutionAndWhitePaper() {
-    const QByteArray bytes = jpeg90(sample(true), {72, {}});
+    const QByteArray bytes = encodeJpeg(sample(true), {72, {}});
     const QString said =
         say(bytes, QStringLiteral("jpg"), {QStringLiteral("identify"), QStringLiteral("-verbose")});
     QVERIFY2(said.contains(QStringLiteral("sampling-factor: 1x1,1x1,1x1")), qPrintable(said));
@@ -197,6 +207,13 @@ class RasterCodecsTest : public QObject {
     const QString said = say(bytes, QStringLiteral("gif"), {QStringLiteral("identify")});
     QVERIFY2(said.contains(QStringLiteral("200x200")) && said.contains(QStringLiteral("256c")),
              qPrintable(said));
+  }
+
+ private:
+  static void rasterFormats() {
+    QTest::addColumn<PictureFormat>("format");
+    for (const FormatRow& row : formatTable)
+      if (isRaster(row.id)) QTest::newRow(row.name.data()) << row.id;
   }
 };
 

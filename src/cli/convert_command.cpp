@@ -6,6 +6,7 @@
 
 #include "base/atomic_file.h"
 #include "base/file_name.h"
+#include "cli/arguments/conversion_use.h"
 #include "cli/conversion_report.h"
 #include "cli/input_file.h"
 #include "cli/interruption.h"
@@ -74,13 +75,6 @@ QString doubleTarget(const QList<ConvertTask>& tasks) {
   return {};
 }
 
-PictureUse useFor(const ConversionOptions& options) {
-  const DocumentKind kind = rowOf(options.format).kind;
-  if (kind == DocumentKind::Other || kind == DocumentKind::Svg) return PictureUse::Drawing;
-  const bool isWhole = options.rotateDegrees == 0 && !options.crop;
-  return kind == DocumentKind::Pdf && isWhole ? PictureUse::WholePdf : PictureUse::Everything;
-}
-
 }  // namespace
 
 ExitCode Job::convert(const Arguments& arguments) {
@@ -90,7 +84,8 @@ ExitCode Job::convert(const Arguments& arguments) {
   if (const QString path = doubleTarget(plan.tasks); !path.isEmpty()) {
     return complain(Command::Convert, QStringLiteral("more than one file would become %1").arg(path));
   }
-  service_.openOnlyFor(useFor(plan.options));
+  const bool isWhole = plan.options.rotateDegrees == 0 && !plan.options.crop;
+  service_.openOnlyFor(useOfConversion(plan.options.format, isWhole));
   // ICU reads its tables at the first date of all: now the picture process starts, later somebody waits.
   if (rowOf(plan.options.format).kind == DocumentKind::Eps)
     (void)fullDate(QDateTime::currentDateTime(), userDateLocale());

@@ -28,7 +28,7 @@ class ValueReader {
     const double value = arguments_.values.value(option).toDouble(&good);
     if (good && std::isfinite(value) && value >= least && value <= most) return value;
     complain(QStringLiteral("--%1 is a number from %2 to %3")
-                 .arg(QLatin1String(rowOf(option).name))
+                 .arg(latin1(rowOf(option).name))
                  .arg(least, 0, 'f', 0)
                  .arg(most, 0, 'f', 0));
     return fallback;
@@ -37,7 +37,7 @@ class ValueReader {
   int integer(Option option, int fallback, int least, int most) {
     const double value = number(option, fallback, least, most);
     if (value != std::floor(value))
-      complain(QStringLiteral("--%1 is a whole number").arg(QLatin1String(rowOf(option).name)));
+      complain(QStringLiteral("--%1 is a whole number").arg(latin1(rowOf(option).name)));
     return static_cast<int>(value);
   }
 

@@ -1,5 +1,6 @@
 #include "cli/job.h"
 
+#include "base/latin1_text.h"
 #include "cli/arguments/help_text.h"
 #include "cli/arguments/shell_completion.h"
 
@@ -12,7 +13,7 @@ ExitCode Job::run(const QStringList& given) {
 }
 
 ExitCode Job::complain(Command command, const QString& complaint) {
-  const QString name = QString::fromLatin1(rowOf(command).name);
+  const QString name = latin1(rowOf(command).name);
   const QString help =
       name.isEmpty() ? QStringLiteral("norvex --help") : QStringLiteral("norvex %1 --help").arg(name);
   console_.message(QStringLiteral("norvex: %1; %2 shows what there is").arg(complaint, help));

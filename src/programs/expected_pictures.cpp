@@ -1,21 +1,16 @@
 #include "programs/expected_pictures.h"
 
-#include <strings.h>
-
-#include <initializer_list>
+#include <array>
 #include <string_view>
 #include <vector>
+
+#include "cli/arguments/command_table.h"
+#include "cli/arguments/conversion_use.h"
 
 namespace norvex {
 namespace {
 
 using Text = std::string_view;
-
-bool isOneOf(Text text, std::initializer_list<Text> names) {
-  for (const Text name : names)
-    if (text.size() == name.size() && ::strncasecmp(text.data(), name.data(), name.size()) == 0) return true;
-  return false;
-}
 
 /// Behind the last dot.
 Text extensionOf(Text name) {
@@ -23,71 +18,123 @@ Text extensionOf(Text name) {
   return dot == Text::npos ? Text() : name.substr(dot + 1);
 }
 
-PictureUse useFor(Text format) {
-  if (isOneOf(format, {"png", "jpeg", "jpg", "tiff", "tif", "gif", "svg", "svgz"}))
-    return PictureUse::Drawing;
-  return isOneOf(format, {"pdf"}) ? PictureUse::WholePdf : PictureUse::Everything;
+/// As its name has it.
+DocumentKind kindOfFile(Text name) {
+  const auto format = formatOfExtension(extensionOf(name));
+  return format ? rowOf(*format).kind : DocumentKind::Other;
 }
 
 PictureNeeds needsOfFile(Text name, PictureUse use) {
-  if (isOneOf(extensionOf(name), {"svg", "svgz"})) return svgNeeds(use);
-  // What PostScript needs is loaded while Ghostscript starts, which takes longer.
-  return isOneOf(extensionOf(name), {"pdf", "ai"}) ? PictureNeeds(NeedPages) : 0;
+  switch (kindOfFile(name)) {
+    case DocumentKind::Svg:
+      return svgNeeds(use);
+    case DocumentKind::Pdf:
+    case DocumentKind::Illustrator:
+      return NeedPages;
+    default:
+      return 0;  // what PostScript needs is loaded while Ghostscript starts, which takes longer
+  }
 }
 
 /// An Illustrator file may be either.
 bool isWithoutPostScript(Text name) {
-  return isOneOf(extensionOf(name), {"svg", "svgz", "pdf"});
+  const DocumentKind kind = kindOfFile(name);
+  return kind == DocumentKind::Svg || kind == DocumentKind::Pdf;
 }
 
-/// The value of the option at `i` when that is one of `names`: behind a "=", or the next argument, to which
-/// `i` then moves.
-bool readOption(int argc, const char* const* argv, int& i, std::initializer_list<Text> names, Text& value) {
-  const Text argument = argv[i];
-  for (const Text name : names) {
-    if (argument == name && i + 1 < argc) return value = argv[++i], true;
-    if (argument.starts_with(name) && argument.substr(name.size()).starts_with('='))
-      return value = argument.substr(name.size() + 1), true;
+const OptionRow* optionNamed(Command command, Text name) {
+  for (const OptionRow& row : optionTable)
+    if ((row.commands & only(command)) && row.name == name) return &row;
+  return nullptr;
+}
+
+const OptionRow* optionWithLetter(Command command, char letter) {
+  for (const OptionRow& row : optionTable)
+    if ((row.commands & only(command)) && row.letter == letter) return &row;
+  return nullptr;
+}
+
+/// The arguments behind a command, as far as they can be read: what is wrong with them is told later.
+class Reading {
+ public:
+  Reading(Command command, int argc, const char* const* argv) : command_(command), argc_(argc), argv_(argv) {
+    bool onlyFiles = false;
+    for (at_ = 2; at_ < argc_; ++at_) {
+      const Text argument = argv_[at_];
+      if (onlyFiles || argument == "-" || !argument.starts_with('-'))
+        files.push_back(argument);
+      else if (argument == "--")
+        onlyFiles = true;
+      else if (argument.starts_with("--"))
+        readName(argument.substr(2));
+      else
+        readLetters(argument.substr(1));
+    }
   }
-  return false;
-}
 
-ExpectedPictures expectedConversions(int argc, const char* const* argv) {
-  Text format, output, part, limit, other;
   std::vector<Text> files;
-  bool onlyFiles = false;
-  for (int i = 2; i < argc; ++i) {
-    const Text argument = argv[i];
-    if (onlyFiles || argument == "-" || !argument.starts_with('-'))
-      files.push_back(argument);
-    else if (argument == "--")
-      onlyFiles = true;
-    else if (!readOption(argc, argv, i, {"--format"}, format) &&
-             !readOption(argc, argv, i, {"-o", "--output"}, output) &&
-             !readOption(argc, argv, i, {"--crop", "--rotate"}, part) &&
-             !readOption(argc, argv, i, {"--timeout", "--memory"}, limit))
-      readOption(argc, argv, i, {"--to", "--page", "--dpi", "--background", "--jobs"}, other);
+
+  [[nodiscard]] bool has(Option option) const { return given_[size_t(option)]; }
+  /// Empty where it is not given.
+  [[nodiscard]] Text value(Option option) const { return values_[size_t(option)]; }
+
+ private:
+  void readName(Text name) {
+    const size_t end = name.find('=');
+    if (const OptionRow* row = optionNamed(command_, name.substr(0, end)))
+      take(*row, end == Text::npos ? Text() : name.substr(end));
   }
-  PictureUse use = useFor(format.empty() ? extensionOf(output) : format);
-  if (use == PictureUse::WholePdf && !part.empty()) use = PictureUse::Everything;
+
+  /// Several switches may share a dash; the first option with a value has the rest.
+  void readLetters(Text letters) {
+    for (; !letters.empty(); letters.remove_prefix(1)) {
+      const OptionRow* row = optionWithLetter(command_, letters[0]);
+      if (!row) continue;
+      if (!row->value.empty()) return take(*row, letters.substr(1));
+      take(*row, {});
+    }
+  }
+
+  /// `rest`: the value in the same argument, perhaps behind a "="; empty: it is the next argument.
+  void take(const OptionRow& row, Text rest) {
+    const bool isNext = rest.empty() && !row.value.empty();
+    if (isNext && at_ + 1 >= argc_) return;
+    given_[size_t(row.id)] = true;
+    if (isNext) rest = argv_[++at_];
+    values_[size_t(row.id)] = !isNext && rest.starts_with('=') ? rest.substr(1) : rest;
+  }
+
+  const Command command_;
+  const int argc_;
+  const char* const* const argv_;
+  int at_ = 0;
+  std::array<bool, optionTable.size()> given_{};
+  std::array<Text, optionTable.size()> values_{};
+};
+
+ExpectedPictures expectedConversions(const Reading& run) {
+  const Text name = run.value(Option::Format);
+  const auto format =
+      name.empty() ? formatOfExtension(extensionOf(run.value(Option::Output))) : formatNamed(name);
+  const PictureUse use = useOfConversion(format, !run.has(Option::Crop) && !run.has(Option::Rotate));
   ExpectedPictures expected;
-  for (const Text file : files) expected.needs |= needsOfFile(file, use);
+  for (const Text file : run.files) expected.needs |= needsOfFile(file, use);
   // The process that is started for a single picture has the usual limits.
-  expected.single = files.size() == 1 && isWithoutPostScript(files[0]) && limit.empty();
+  const bool usualLimits = !run.has(Option::Timeout) && !run.has(Option::Memory);
+  expected.single = run.files.size() == 1 && isWithoutPostScript(run.files[0]) && usualLimits;
   return expected;
 }
 
 }  // namespace
 
 ExpectedPictures expectedPictures(int argc, const char* const* argv) {
-  const Text command = argc > 1 ? argv[1] : "";
-  if (command == "convert") return expectedConversions(argc, argv);
-  if (command == "preview") return {};
+  const auto command = commandNamed(argc > 1 ? argv[1] : "");
+  if (!command || !rowOf(*command).isLight) return {.needs = allPictureNeeds};
+  const Reading run(*command, argc, argv);
+  if (*command == Command::Convert) return expectedConversions(run);
   ExpectedPictures expected;
-  if (command != "info" && command != "source")
-    expected.needs = allPictureNeeds;
-  else
-    for (int i = 2; i < argc; ++i) expected.needs |= needsOfFile(argv[i], PictureUse::Drawing);
+  if (*command == Command::Preview) return expected;
+  for (const Text file : run.files) expected.needs |= needsOfFile(file, PictureUse::Drawing);
   return expected;
 }
 

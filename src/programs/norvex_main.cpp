@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "cli/arguments/command_table.h"
 #include "picture/client/spawned_worker.h"
 #include "programs/application_entry.h"
 #include "programs/expected_pictures.h"
@@ -32,10 +33,7 @@ bool mayNeedPictures(int argc, char** argv) {
 
 /// The lightest part that can do what is asked for; each of them tells of every mistake.
 const char* partFor(int argc, char** argv) {
-  const std::string_view first = argc > 1 ? argv[1] : "";
-  for (const char* command : {"convert", "info", "preview", "source", "--version", "--help"})
-    if (first == command) return kCommands;
-  return "norvex-application.so";
+  return argc > 1 && norvex::asksForLightCommand(argv[1]) ? kCommands : "norvex-application.so";
 }
 
 /// The only picture of a run gets a process of its own, others a program that forks one for each.

@@ -2,9 +2,12 @@
 #include "cli/arguments/arguments.h"
 
 #include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
+#include "base/latin1_text.h"
 #include "cli/arguments/help_text.h"
 #include "cli/arguments/shell_completion.h"
 #include "cli/arguments/suggestion.h"
@@ -138,14 +141,51 @@ class ArgumentsTest : public QObject {
 
   void helpNamesEveryCommandAndOption() {
     const QString main = helpText(Command::Main);
-    for (const CommandRow& row : commandTable())
-      QVERIFY(main.contains(QString("norvex %1").arg(row.name).trimmed()));
-    for (const CommandRow& row : commandTable())
+    for (const CommandRow& row : commandTable)
+      QVERIFY(main.contains(QString("norvex %1").arg(latin1(row.name)).trimmed()));
+    for (const CommandRow& row : commandTable)
       for (const OptionRow& option : optionsOf(row.id))
-        QVERIFY(helpText(row.id).contains(QString("--%1").arg(option.name)));
-    for (const CommandRow& row : commandTable())
+        QVERIFY(helpText(row.id).contains(QString("--%1").arg(latin1(option.name))));
+    for (const CommandRow& row : commandTable)
       for (const QString& textLine : helpText(row.id).split('\n'))
         QVERIFY2(textLine.size() <= 100, qPrintable(textLine));
+  }
+
+  void everyFormatThatIsWrittenIsOfferedEverywhere() {
+    QFile file(QStringLiteral(NORVEX_SOURCE_DIR "/README.md"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString readme = QString::fromUtf8(file.readAll());
+    QStringList texts{helpText(Command::Convert),
+                      readme.mid(readme.indexOf("`convert` writes")).section("\n\n", 0, 0)};
+    for (const char* shell : {"bash", "zsh", "fish"}) texts << completionScript(shell);
+    int offered = 0;
+    for (const FormatRow& row : formatTable) {
+      if (!isWritten(row)) continue;
+      ++offered;
+      const QRegularExpression word(QString("(?<![-\\w])%1(?![-\\w])").arg(latin1(row.name)));
+      for (const QString& text : texts)
+        QVERIFY2(text.contains(word), qPrintable(latin1(row.name) + " in " + text));
+    }
+    QVERIFY(offered > 5);
+    QVERIFY(readArguments({"convert", "f", "-o", "g", "--format", "ai"})
+                .complaint.startsWith("--format is one of: eps "));
+  }
+
+  void noCommandAndNoOptionIsToldTwice() {
+    QSet<QString> names;
+    for (const CommandRow& row : commandTable) {
+      QVERIFY2(!names.contains(latin1(row.name)), row.name.data());
+      names << latin1(row.name);
+      QSet<QString> options;
+      for (const OptionRow& option : optionsOf(row.id)) {
+        QStringList forms{latin1(option.name)};
+        if (option.letter) forms << QString(QLatin1Char(option.letter));
+        for (const QString& form : forms) {
+          QVERIFY2(!options.contains(form), qPrintable(form));
+          options << form;
+        }
+      }
+    }
   }
 
   void helpAndVersionGoToStandardOutput() {
@@ -163,8 +203,9 @@ class ArgumentsTest : public QObject {
   void everyOptionAndCommandIsCompleted() {
     for (const QString& shell : {QString("bash"), QString("zsh"), QString("fish")}) {
       const QString script = completionScript(shell);
-      for (const OptionRow& option : optionTable()) QVERIFY2(script.contains(option.name), option.name);
-      for (const CommandRow& row : commandTable()) QVERIFY2(script.contains(row.name), row.name);
+      for (const OptionRow& option : optionTable)
+        QVERIFY2(script.contains(latin1(option.name)), option.name.data());
+      for (const CommandRow& row : commandTable) QVERIFY2(script.contains(latin1(row.name)), row.name.data());
       CommandLine line;
       QCOMPARE(line.run({"--completion", shell}), 0);
       QCOMPARE(line.console.output, script.toUtf8());

@@ -3,7 +3,9 @@
 #include <QCommandLineParser>
 
 #include <algorithm>
+#include <vector>
 
+#include "base/latin1_text.h"
 #include "cli/arguments/suggestion.h"
 
 namespace norvex {
@@ -22,16 +24,13 @@ bool isWindowSystemOption(const QString& argument) {
 }
 
 std::optional<Command> commandOf(const QString& name) {
-  for (const CommandRow& row : commandTable())
-    if (*row.name && name == QLatin1String(row.name)) return row.id;
-  return {};
+  return commandNamed(name.toStdString());
 }
 
 QCommandLineOption parserOption(const OptionRow& row) {
-  QStringList names{QString::fromLatin1(row.name)};
+  QStringList names{latin1(row.name)};
   if (row.letter) names.prepend(QString(QLatin1Char(row.letter)));
-  return row.value ? QCommandLineOption(names, {}, QString::fromLatin1(row.value))
-                   : QCommandLineOption(names);
+  return row.value.empty() ? QCommandLineOption(names) : QCommandLineOption(names, {}, latin1(row.value));
 }
 
 QString wrongNumberOfFiles(const CommandRow& row, qsizetype count) {
@@ -46,26 +45,26 @@ QString perhaps(const std::optional<QString>& meant) {
 
 QString unknownCommand(const QString& name) {
   QStringList names;
-  for (const CommandRow& row : commandTable())
-    if (*row.name) names << QString::fromLatin1(row.name);
+  for (const CommandRow& row : commandTable)
+    if (!row.name.empty()) names << latin1(row.name);
   return QStringLiteral("there is no command %1, and no file of that name").arg(name) +
          perhaps(nearestName(name, names));
 }
 
 /// `name` comes without the dashes that it was given with.
-QString unknownOption(const QString& name, const QStringList& given, const QList<OptionRow>& rows) {
+QString unknownOption(const QString& name, const QStringList& given, const std::vector<OptionRow>& rows) {
   const QString dashed = QStringLiteral("--") + name;
   const bool isLong = std::any_of(given.begin(), given.end(), [&](const QString& argument) {
     return argument == dashed || argument.startsWith(dashed + u'=');
   });
   if (!isLong) return QStringLiteral("there is no option -%1").arg(name);
   QStringList names;
-  for (const OptionRow& row : rows) names << QStringLiteral("--") + QLatin1String(row.name);
+  for (const OptionRow& row : rows) names << QStringLiteral("--") + latin1(row.name);
   return QStringLiteral("there is no option %1").arg(dashed) + perhaps(nearestName(dashed, names));
 }
 
 QString complaintOf(const QCommandLineParser& parser, const QStringList& given,
-                    const QList<OptionRow>& rows) {
+                    const std::vector<OptionRow>& rows) {
   const QStringList unknown = parser.unknownOptionNames();
   if (!unknown.isEmpty()) return unknownOption(unknown.first(), given, rows);
   QString text = parser.errorText();
@@ -74,15 +73,15 @@ QString complaintOf(const QCommandLineParser& parser, const QStringList& given,
 }
 
 QString wrongValue(const OptionRow& row, const QString& value) {
-  if (!row.choices || QString::fromLatin1(row.choices).split(' ').contains(value)) return {};
-  return QStringLiteral("--%1 is one of: %2").arg(QLatin1String(row.name), QLatin1String(row.choices));
+  if (row.choices.empty() || QString(latin1(row.choices)).split(' ').contains(value)) return {};
+  return QStringLiteral("--%1 is one of: %2").arg(latin1(row.name), latin1(row.choices));
 }
 
 /// Of two values one would be passed over in silence.
-QString givenTwice(const QCommandLineParser& parser, const QList<OptionRow>& rows) {
+QString givenTwice(const QCommandLineParser& parser, const std::vector<OptionRow>& rows) {
   for (const OptionRow& row : rows)
-    if (row.value && parser.values(QString::fromLatin1(row.name)).size() > 1)
-      return QStringLiteral("--%1 is given more than once").arg(QLatin1String(row.name));
+    if (!row.value.empty() && parser.values(latin1(row.name)).size() > 1)
+      return QStringLiteral("--%1 is given more than once").arg(latin1(row.name));
   return {};
 }
 
@@ -120,7 +119,7 @@ ReadArguments readArguments(const QStringList& given) {
     return read;
   }
   QCommandLineParser parser;
-  const QList<OptionRow> rows = optionsOf(read.arguments.command);
+  const std::vector<OptionRow> rows = optionsOf(read.arguments.command);
   for (const OptionRow& row : rows) parser.addOption(parserOption(row));
   if (!parser.parse(QStringList{QStringLiteral("norvex")} + rest)) {
     read.complaint = complaintOf(parser, rest, rows);
@@ -128,7 +127,7 @@ ReadArguments readArguments(const QStringList& given) {
   }
   Arguments full{read.arguments.command, parser.positionalArguments(), {}};
   for (const OptionRow& row : rows)
-    if (const QString name = QString::fromLatin1(row.name); parser.isSet(name))
+    if (const QString name = latin1(row.name); parser.isSet(name))
       full.values.insert(row.id, parser.value(name));
   read.complaint = complaintAbout(full);
   if (read.complaint.isEmpty() && !standsAlone(full)) read.complaint = givenTwice(parser, rows);
@@ -138,7 +137,8 @@ ReadArguments readArguments(const QStringList& given) {
 
 bool asksForCommandLine(const QString& first) {
   if (commandOf(first)) return true;
-  if (first == QLatin1String("-h") || first == QLatin1String("-v")) return true;
+  for (const OptionRow& row : optionsOf(Command::Main))
+    if (row.letter && first == QStringLiteral("-") + QLatin1Char(row.letter)) return true;
   return first.startsWith(QLatin1String("--")) && first.size() > 2 && !isWindowSystemOption(first);
 }
 

@@ -1,5 +1,7 @@
 #include "cli/arguments/help_text.h"
 
+#include "base/latin1_text.h"
+
 namespace norvex {
 namespace {
 
@@ -26,22 +28,23 @@ QString besideNames(const QString& names, int column, const QString& help) {
 
 QString usageOf(const CommandRow& row) {
   QString line = QStringLiteral("norvex");
-  if (*row.name) line += QLatin1Char(' ') + QLatin1String(row.name);
-  return line + QLatin1Char(' ') + QLatin1String(row.operands);
+  if (!row.name.empty()) line += QLatin1Char(' ') + latin1(row.name);
+  return line + QLatin1Char(' ') + latin1(row.operands);
 }
 
 QString formsOf(const OptionRow& row) {
   QString forms = row.letter ? QStringLiteral("-%1, ").arg(QLatin1Char(row.letter)) : QStringLiteral("    ");
-  forms += QStringLiteral("--%1").arg(QLatin1String(row.name));
-  if (row.value) forms += QLatin1Char(' ') + QLatin1String(row.value);
+  forms += QStringLiteral("--%1").arg(latin1(row.name));
+  if (!row.value.empty()) forms += QLatin1Char(' ') + latin1(row.value);
   return forms;
 }
 
 QString optionLines(Command command) {
   QString lines = QStringLiteral("\nOptions:\n");
   for (const OptionRow& row : optionsOf(command)) {
-    QString help = QLatin1String(row.help);
-    if (row.choices) help += QStringLiteral(" (%1)").arg(QString::fromLatin1(row.choices).replace(' ', ", "));
+    QString help = latin1(row.help);
+    if (!row.choices.empty())
+      help += QStringLiteral(" (%1)").arg(QString(latin1(row.choices)).replace(' ', ", "));
     lines += besideNames(formsOf(row), 24, help);
   }
   return lines;
@@ -53,14 +56,14 @@ QString helpText(Command command) {
   QString text;
   if (command != Command::Main) {
     const CommandRow& row = rowOf(command);
-    text = QStringLiteral("Usage: %1 [options]\n%2.\n").arg(usageOf(row), QString::fromLatin1(row.help));
+    text = QStringLiteral("Usage: %1 [options]\n%2.\n").arg(usageOf(row), latin1(row.help));
     text[text.indexOf('\n') + 1] = text[text.indexOf('\n') + 1].toUpper();
     return text + optionLines(command) + QLatin1String(kEnd);
   }
   text = QStringLiteral(
       "Norvex shows EPS, Illustrator, PDF and SVG pictures and hands out parts of them as vectors.\n\n");
   text += QStringLiteral("Usage:\n");
-  for (const CommandRow& row : commandTable()) text += besideNames(usageOf(row), 28, QLatin1String(row.help));
+  for (const CommandRow& row : commandTable) text += besideNames(usageOf(row), 28, latin1(row.help));
   text += optionLines(command);
   text += QStringLiteral("\nnorvex COMMAND --help shows the options of a command.\n");
   return text + QLatin1String(kEnd);

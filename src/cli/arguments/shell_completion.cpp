@@ -2,6 +2,9 @@
 
 #include <QStringList>
 
+#include <string_view>
+
+#include "base/latin1_text.h"
 #include "cli/arguments/command_table.h"
 
 namespace norvex {
@@ -9,13 +12,13 @@ namespace {
 
 QStringList commandNames() {
   QStringList names;
-  for (const CommandRow& row : commandTable())
-    if (*row.name) names << QString::fromLatin1(row.name);
+  for (const CommandRow& row : commandTable)
+    if (!row.name.empty()) names << latin1(row.name);
   return names;
 }
 
 QStringList forms(const OptionRow& row) {
-  QStringList all{QStringLiteral("--") + QLatin1String(row.name)};
+  QStringList all{QStringLiteral("--") + latin1(row.name)};
   if (row.letter) all.prepend(QStringLiteral("-") + QLatin1Char(row.letter));
   return all;
 }
@@ -27,8 +30,8 @@ QString formsOf(Command command) {
 }
 
 /// The help as it may stand between single quotes, and in zsh's descriptions.
-QString quotable(const char* help) {
-  return QString::fromLatin1(help).remove('\'').replace(':', ',');
+QString quotable(std::string_view help) {
+  return QString(latin1(help)).remove('\'').replace(':', ',');
 }
 
 // File names are left to the shell (-o default), which knows how to quote them: no word of the script's own
@@ -46,14 +49,14 @@ QString bash() {
       "  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} words=\n"
       "  COMPREPLY=()\n"
       "  case $before in\n");
-  for (const OptionRow& row : optionTable())
-    if (row.choices)
+  for (const OptionRow& row : optionTable)
+    if (!row.choices.empty())
       script += QStringLiteral("    %1) COMPREPLY=($(compgen -W '%2' -- \"$word\")); return ;;\n")
-                    .arg(forms(row).join('|'), QLatin1String(row.choices));
+                    .arg(forms(row).join('|'), latin1(row.choices));
   script += QStringLiteral("  esac\n  case ${COMP_WORDS[1]} in\n");
   for (const QString& name : commandNames()) {
-    for (const CommandRow& row : commandTable())
-      if (name == QLatin1String(row.name))
+    for (const CommandRow& row : commandTable)
+      if (name == latin1(row.name))
         script += QStringLiteral("    %1) words='%2' ;;\n").arg(name, formsOf(row.id));
   }
   script += QStringLiteral("    *) words='%1' ;;\n  esac\n").arg(formsOf(Command::Main));
@@ -70,10 +73,10 @@ QString bash() {
 
 QString zshOption(const OptionRow& row) {
   QString value;
-  if (row.choices)
-    value = QStringLiteral(":%1:(%2)").arg(QLatin1String(row.value), QLatin1String(row.choices));
-  else if (row.value)
-    value = QStringLiteral(":%1:_files").arg(QLatin1String(row.value));
+  if (!row.choices.empty())
+    value = QStringLiteral(":%1:(%2)").arg(latin1(row.value), latin1(row.choices));
+  else if (!row.value.empty())
+    value = QStringLiteral(":%1:_files").arg(latin1(row.value));
   QString lines;
   for (const QString& form : forms(row))
     lines += QStringLiteral(" \\\n        '%1[%2]%3'").arg(form, quotable(row.help), value);
@@ -88,14 +91,15 @@ QString zshArguments(Command command) {
 
 QString zsh() {
   QString script = QStringLiteral("#compdef norvex\n_norvex() {\n  local -a commands\n  commands=(\n");
-  for (const CommandRow& row : commandTable())
-    if (*row.name) script += QStringLiteral("    '%1:%2'\n").arg(QLatin1String(row.name), quotable(row.help));
+  for (const CommandRow& row : commandTable)
+    if (!row.name.empty())
+      script += QStringLiteral("    '%1:%2'\n").arg(latin1(row.name), quotable(row.help));
   script += QStringLiteral(
       "  )\n  if (( CURRENT == 2 )); then _describe command commands; fi\n  case $words[2] in\n");
-  for (const CommandRow& row : commandTable())
-    if (*row.name)
+  for (const CommandRow& row : commandTable)
+    if (!row.name.empty())
       script += QStringLiteral("    %1) words=(\"${words[1]}\" \"${(@)words[3,-1]}\"); (( CURRENT-- ))\n%2")
-                    .arg(QLatin1String(row.name), zshArguments(row.id));
+                    .arg(latin1(row.name), zshArguments(row.id));
   script += QStringLiteral("    *)\n") + zshArguments(Command::Main);
   // The shell runs the file as the function itself when it finds it among its own, otherwise it is read.
   return script + QStringLiteral(
@@ -104,25 +108,25 @@ QString zsh() {
 }
 
 QString fishOption(const OptionRow& row, const QString& condition) {
-  QString line = QStringLiteral("complete -c norvex -n '%1' -l %2").arg(condition, QLatin1String(row.name));
+  QString line = QStringLiteral("complete -c norvex -n '%1' -l %2").arg(condition, latin1(row.name));
   if (row.letter) line += QStringLiteral(" -s %1").arg(QLatin1Char(row.letter));
-  if (row.choices)
-    line += QStringLiteral(" -x -a '%1'").arg(QLatin1String(row.choices));
-  else if (row.value)
+  if (!row.choices.empty())
+    line += QStringLiteral(" -x -a '%1'").arg(latin1(row.choices));
+  else if (!row.value.empty())
     line += QStringLiteral(" -r");
   return line + QStringLiteral(" -d '%1'\n").arg(quotable(row.help));
 }
 
 QString fish() {
   QString script;
-  for (const CommandRow& row : commandTable()) {
-    const bool main = !*row.name;
+  for (const CommandRow& row : commandTable) {
+    const bool main = row.name.empty();
     const QString condition =
         main ? QStringLiteral("not __fish_seen_subcommand_from %1").arg(commandNames().join(' '))
-             : QStringLiteral("__fish_seen_subcommand_from %1").arg(QLatin1String(row.name));
+             : QStringLiteral("__fish_seen_subcommand_from %1").arg(latin1(row.name));
     if (!main)
       script += QStringLiteral("complete -c norvex -n __fish_use_subcommand -a %1 -d '%2'\n")
-                    .arg(QLatin1String(row.name), quotable(row.help));
+                    .arg(latin1(row.name), quotable(row.help));
     for (const OptionRow& option : optionsOf(row.id)) script += fishOption(option, condition);
   }
   return script;

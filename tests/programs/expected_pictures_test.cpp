@@ -2,6 +2,9 @@
 
 #include <QStringList>
 
+#include "base/latin1_text.h"
+#include "cli/arguments/command_table.h"
+#include "cli/arguments/conversion_use.h"
 #include "kit/test_main.h"
 #include "worker/engine_parts_table.h"
 
@@ -33,6 +36,13 @@ class ExpectedPicturesTest : public QObject {
     QTest::newRow("no name") << QStringList{"convert", "-", "-o", "-", "--format", "pdf"} << 0u;
     QTest::newRow("a format is no file") << QStringList{"convert", "a", "--format", "pdf", "--to", "x"} << 0u;
     QTest::newRow("option without its value") << QStringList{"convert", "a.svg", "-o"} << parts;
+    QTest::newRow("value of an option that says nothing")
+        << QStringList{"convert", "--background", "a.svg", "b.pdf", "-o", "b.png"} << uint(NeedPages);
+    QTest::newRow("letter with its value") << QStringList{"convert", "a.svg", "-oa.pdf"} << pdf;
+    QTest::newRow("letters together") << QStringList{"convert", "a.svg", "-fqo", "a.png"} << drawing;
+    QTest::newRow("no value behind =") << QStringList{"convert", "a.svg", "--output="} << parts;
+    QTest::newRow("format that is only opened")
+        << QStringList{"convert", "a.svg", "--format", "ai", "--to", "x"} << parts;
     QTest::newRow("info") << QStringList{"info", "--json", "a.svg"} << drawing;
     QTest::newRow("preview") << QStringList{"preview", "a.eps"} << 0u;
   }
@@ -40,6 +50,35 @@ class ExpectedPicturesTest : public QObject {
     QFETCH(QStringList, arguments);
     QFETCH(uint, needs);
     QCOMPARE(uint(expected(arguments).needs), needs);
+  }
+
+  void aFormatIsExpectedAsItIsConverted() {
+    for (const FormatRow& row : formatTable) {
+      if (!isWritten(row)) continue;
+      const QStringList arguments{"convert", "a.svg", "--to", "x", "--format", QString(latin1(row.name))};
+      QCOMPARE(expected(arguments).needs, svgNeeds(useOfConversion(row.id, true)));
+    }
+    QCOMPARE(useOfConversion(PictureFormat::Png, false), PictureUse::Drawing);
+    QCOMPARE(useOfConversion(PictureFormat::Pdf, false), PictureUse::Everything);
+    QCOMPARE(useOfConversion({}, true), PictureUse::Everything);
+  }
+
+  void everyOptionOfTheTableIsRead() {
+    for (const OptionRow& row : optionTable) {
+      if (!(row.commands & only(Command::Convert))) continue;
+      const QString name = "--" + latin1(row.name);
+      const QStringList given = row.value.empty() ? QStringList{name} : QStringList{name, "a.pdf"};
+      // What follows is the only file.
+      const uint needs = expected(QStringList{"convert"} + given + QStringList{"b.svg"}).needs;
+      QVERIFY2((needs & NeedSvgDrawing) && !(needs & NeedPages), qPrintable(name));
+    }
+  }
+
+  void lightCommandsAreKnown() {
+    for (const char* first : {"info", "source", "preview", "convert", "--version", "--help", "--completion"})
+      QVERIFY2(asksForLightCommand(first), first);
+    for (const char* first : {"", "print", "a.eps", "convret", "--", "--platform=xcb", "--json", "-h"})
+      QVERIFY2(!asksForLightCommand(first), first);
   }
 
   void theOnlyPictureOfARunIsKnown_data() {

@@ -147,12 +147,9 @@ class CorpusTest : public QObject {
       QStringList files;
       const QStringList all = kit::corpusFiles(kind);
       for (qsizetype i = 0; i < all.size(); i += step) files << all[i];
-      for (const char* format :
-           {"eps", "eps-preview", "epsi", "pdf", "svg", "svgz", "tiff", "png", "jpeg", "gif"}) {
-        if (QLatin1String(format).startsWith(QLatin1String("svg")) && formatOf(kind) != "svg" &&
-            kind != "svgz")
-          continue;
-        convertAll(kind, files, QLatin1String(format), counts, refused, unlike);
+      for (const QString& format : outside::writtenFormats()) {
+        if (format.startsWith(QLatin1String("svg")) && formatOf(kind) != "svg" && kind != "svgz") continue;
+        convertAll(kind, files, format, counts, refused, unlike);
       }
     }
     print("conversions:", counts);

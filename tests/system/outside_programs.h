@@ -10,7 +10,9 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "base/latin1_text.h"
 #include "kit/program.h"
+#include "types/picture_format.h"
 
 namespace norvex::outside {
 
@@ -71,6 +73,14 @@ inline QString complaintAboutSvgz(const QString& path, int seconds = 60) {
   const Ran xml = run("xmllint", {"--noout", "--nonet", "--huge", "-"}, plain.out, seconds);
   if (xml.exitCode != 0) return QStringLiteral("xmllint: ") + QString::fromUtf8(xml.err.left(300));
   return complaintOf("rsvg-convert", {"--unlimited", path}, seconds);
+}
+
+/// As --format names them.
+inline QStringList writtenFormats() {
+  QStringList names;
+  for (const FormatRow& row : formatTable)
+    if (isWritten(row)) names << latin1(row.name);
+  return names;
 }
 
 /// Empty when every program that knows the format accepts the file. `format`: as --format names them.

@@ -83,6 +83,7 @@ Conversion convertPicture(PictureService& service, const QByteArray& source, con
   if (const auto error = objection(*imageRep, options, region)) return failed(*error);
 
   surroundings.raster = {options.dpi, options.background};
+  surroundings.quality = options.quality;
   surroundings.region = region;
   surroundings.isLastUse = true;
   // The only page is the whole file.

@@ -20,7 +20,8 @@ struct ConversionOptions {
   std::optional<QRectF> crop;  ///< points in the rotated view, origin at its lower-left corner, y up
   std::optional<int> page;     ///< from 1
   double dpi = 72;
-  QColor background;  ///< invalid: what is not painted stays transparent
+  std::optional<int> quality;  ///< 1 … 100; nothing: the format's own
+  QColor background;           ///< invalid: what is not painted stays transparent
   PictureLimits limits;
 };
 

@@ -77,6 +77,7 @@ ConversionOptions optionsOf(const Arguments& arguments, ValueReader& values) {
   if (arguments.has(Option::Page)) options.page = values.integer(Option::Page, 1, 1, manyDays);
   options.dpi = values.number(Option::Dpi, 72, 1, 9600);
   options.background = values.background();
+  if (arguments.has(Option::Quality)) options.quality = values.integer(Option::Quality, 1, 1, 100);
   options.limits.seconds = values.integer(Option::Timeout, options.limits.seconds, 1, manyDays);
   options.limits.memoryMiB = values.integer(Option::Memory, options.limits.memoryMiB, 64, 1 << 20);
   return options;
@@ -118,6 +119,8 @@ ReadPlan readConvertPlan(const Arguments& arguments) {
   ValueReader values(arguments);
   plan.options = optionsOf(arguments, values);
   plan.options.format = *formatOf(arguments);
+  if (plan.options.quality && rowOf(plan.options.format).quality == NoQuality)
+    values.complain(QStringLiteral("--quality goes with one of: %1").arg(latin1(qualityFormatNames.text())));
   plan.jobs = values.integer(Option::Jobs, QThread::idealThreadCount(), 1, 256);
   plan.force = arguments.has(Option::Force);
   plan.json = arguments.has(Option::Json);

@@ -29,6 +29,7 @@ struct EncoderSurroundings {
   QByteArray iccProfile;            ///< of the output colour space; empty: none is configured
   NSWindowDepth defaultDepthLimit;  ///< of new windows
   RasterSettings raster;
+  std::optional<int> quality;  ///< of formats that can lose some, 1 … 100; nothing: the format's own
   /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
   std::optional<PictureRegion> region;
   bool isLastUse = false;  ///< of the picture: its process may go when nothing is left to ask

@@ -11,8 +11,6 @@
 namespace norvex {
 namespace {
 
-constexpr int quality = 90;  // of 100
-
 struct FailureHandler {
   jpeg_error_mgr manager;
   std::jmp_buf whereToGo;
@@ -36,7 +34,7 @@ void setUp(jpeg_compress_struct& codec, const NSBitmapImageRep& raster, const Ra
   codec.input_components = 3;
   codec.in_color_space = JCS_RGB;
   jpeg_set_defaults(&codec);
-  jpeg_set_quality(&codec, quality, TRUE);
+  jpeg_set_quality(&codec, properties.quality.value_or(rowOf(PictureFormat::Jpeg).quality), TRUE);
   for (int i = 0; i < codec.num_components; ++i) {  // drawings have thin coloured lines: no subsampling
     codec.comp_info[i].h_samp_factor = codec.comp_info[i].v_samp_factor = 1;
   }

@@ -228,7 +228,7 @@ std::optional<NSBitmapImageRep> PictureEncoder::rasterOf(const std::shared_ptr<N
 }
 
 RasterProperties PictureEncoder::rasterProperties() const {
-  return {surroundings_.raster.dpi, surroundings_.iccProfile};
+  return {surroundings_.raster.dpi, surroundings_.iccProfile, surroundings_.quality};
 }
 
 QByteArray PictureEncoder::rasterData(PictureFormat format, const std::shared_ptr<NSImageRep>& imageRep) {

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <optional>
+
 #include "protocol/bitmap_image_rep.h"
 #include "types/picture_format.h"
 
@@ -13,6 +15,8 @@ namespace norvex {
 struct RasterProperties {
   double dpi = 72;        ///< resolution; Default: one pixel a point
   QByteArray iccProfile;  ///< of the samples' colour space; empty: none is embedded
+  /// 1 … 100, of formats that can lose some; nothing: as the table of formats has it.
+  std::optional<int> quality = {};
 };
 
 /// The codec of each raster format of the table is the function encodeRaster() that takes CodecOf<its

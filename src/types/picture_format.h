@@ -16,6 +16,9 @@ enum class DocumentKind { Svg, Eps, Illustrator, Pdf, Other };
 
 enum class PictureFormat { Eps, EpsPreview, Epsi, Illustrator, Pdf, Svg, Svgz, Tiff, Png, Jpeg, Gif };
 
+/// What --quality is for a format where it is not given; otherwise 1 to 100.
+enum Quality : int { NoQuality = -1, Lossless = 0 };
+
 /// Lists of words are separated by single blanks.
 struct FormatRow {
   PictureFormat id;
@@ -28,6 +31,7 @@ struct FormatRow {
   std::string_view parents = {};          ///< types that the type is a kind of; empty: another row tells them
   std::string_view mimeTypes = {};        ///< the usual one first
   const char* title = "";                 ///< key of the localized description; empty: there is none
+  int quality = NoQuality;                ///< where none is asked for; NoQuality: none can be asked for
   /// How files begin, ? for any byte; none: that takes a closer look.
   std::array<std::string_view, 2> begins = {};
 };
@@ -114,6 +118,7 @@ inline constexpr auto formatTable = std::to_array<FormatRow>({
      .parents = "public.image",
      .mimeTypes = "image/jpeg image/jpg",
      .title = "JPEG image",
+     .quality = 90,
      .begins = {"\xFF\xD8\xFF"}},
     {.id = PictureFormat::Gif,
      .kind = DocumentKind::Other,

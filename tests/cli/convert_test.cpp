@@ -12,6 +12,8 @@
 
 #include "base/atomic_file.h"
 #include "base/file_name.h"
+#include "base/latin1_text.h"
+#include "cli/arguments/format_words.h"
 #include "cli/cli_files.h"
 #include "kit/test_main.h"
 #include "picture/document_file.h"
@@ -64,6 +66,13 @@ class ConvertTest : public QObject {
     row({"a.eps", "-o", "b.png", "--rotate", "inf"}, "--rotate is a number from -36000 to 36000");
     row({"a.eps", "-o", "b.png", "--page", "0"}, "--page is a number from 1 to 10000000");
     row({"a.eps", "-o", "b.png", "--page", "1.5"}, "--page is a whole number");
+    row({"a.eps", "-o", "b.jpg", "--quality", "0"}, "--quality is a number from 1 to 100");
+    row({"a.eps", "-o", "b.jpg", "--quality", "101"}, "--quality is a number from 1 to 100");
+    row({"a.eps", "-o", "b.jpg", "--quality", "8.5"}, "--quality is a whole number");
+    for (const FormatRow& format : formatTable)
+      if (isWritten(format) && format.quality == NoQuality)
+        row({"a.eps", "-o", "b", "--quality", "50", "--format", QString(latin1(format.name))},
+            "--quality goes with one of: " + QString(latin1(qualityFormatNames.text())));
     row({"a.eps", "-o", "b.png", "--jobs", "0"}, "--jobs is a number from 1 to 256");
     row({"a.eps", "-o", "b.png", "--timeout", "-1"}, "--timeout is a number from 1 to 10000000");
     row({"a.eps", "-o", "b.png", "--memory", "1"}, "--memory is a number from 64 to 1048576");
@@ -115,6 +124,17 @@ class ConvertTest : public QObject {
     const QString from = line.write("a.pdf", emptyPdf({200, 100}));
     QCOMPARE(line.run({"convert", from, "-o", line.path("b.pdf"), "--format", "gif"}), 0);
     QVERIFY(line.contents("b.pdf").startsWith("GIF89a"));
+  }
+
+  void theQualityOfAJpegCanBeChosen() {
+    CommandLine line;
+    const QString from = line.write("a.pdf", emptyPdf({200, 100}));
+    for (const QString& quality : {QString("5"), QString("90"), QString("100")})
+      QCOMPARE(line.run({"convert", from, "-o", line.path(quality + ".jpg"), "--quality", quality}), 0);
+    QCOMPARE(line.run({"convert", from, "-o", line.path("usual.jpg")}), 0);
+    QCOMPARE(line.contents("90.jpg"), line.contents("usual.jpg"));
+    QVERIFY(line.contents("5.jpg") != line.contents("usual.jpg"));
+    QVERIFY(line.contents("100.jpg") != line.contents("usual.jpg"));
   }
 
   void epsAndEpsWithPreviewShareAnExtension() {

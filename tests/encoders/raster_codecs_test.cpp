@@ -155,6 +155,29 @@ class RasterCodecsTest : public QObject {
     const QColor clear = QImage::fromData(bytes).pixelColor(2, 0);
     QVERIFY2(clear.lightness() > 215, qPrintable(clear.name()));
   }
+  void lessQualityTakesLessRoom_data() {
+    QTest::addColumn<PictureFormat>("format");
+    for (const FormatRow& row : formatTable)
+      if (row.quality != NoQuality) QTest::newRow(row.name.data()) << row.id;
+  }
+  void lessQualityTakesLessRoom() {
+    QFETCH(PictureFormat, format);
+    QRandomGenerator random(7);
+    QImage image(64, 64, QImage::Format_RGB32);
+    for (int y = 0; y < 64; ++y)
+      for (int x = 0; x < 64; ++x) image.setPixel(x, y, 0xff000000 | random.generate());
+    const NSBitmapImageRep raster = bitmapFromImage(image);
+    const auto sizeWith = [&](std::optional<int> quality) {
+      return encodeRaster(format, raster, {72, {}, quality}).size();
+    };
+    QVERIFY(sizeWith(10) > 0);
+    QVERIFY(sizeWith(10) < sizeWith(60) && sizeWith(60) < sizeWith(100));
+    if (rowOf(format).quality > 0)
+      QCOMPARE(encodeRaster(format, raster, {72, {}, rowOf(format).quality}),
+               encodeRaster(format, raster, {72, {}, {}}));
+    else
+      QVERIFY(sizeWith({}) > sizeWith(90));
+  }
   void gifKeepsTransparency() {
     const QByteArray bytes = encodeGif(sample(true), {72, {}});
     const QString said = say(bytes, QStringLiteral("gif"), {QStringLiteral("giftext")});

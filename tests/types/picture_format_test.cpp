@@ -95,6 +95,14 @@ class PictureFormatTest : public QObject {
     QCOMPARE(extensionsOf(DocumentKind::Svg), QStringList({"svg", "svgz"}));
   }
 
+  void onlyPixelsMayLoseQuality() {
+    for (const FormatRow& row : formatTable) {
+      QVERIFY2(row.quality == NoQuality || isRaster(row.id), row.title);
+      QVERIFY2(row.quality >= NoQuality && row.quality <= 100, row.title);
+    }
+    QCOMPARE(rowOf(PictureFormat::Jpeg).quality, 90);
+  }
+
   void theCommandLineGivesTheUsualExtension() {
     QCOMPARE(writtenExtension(PictureFormat::EpsPreview), "eps");
     QCOMPARE(writtenExtension(PictureFormat::Jpeg), "jpg");

@@ -1,6 +1,5 @@
 #include <png.h>
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -18,17 +17,6 @@ void append(png_structp png, png_bytep bytes, png_size_t count) {
 }
 
 void flushNothing(png_structp) {}
-
-/// PNG stores colours that are not multiplied by their opacity.
-void unpremultiplyRow(const uchar* from, uchar* to, int pixels) {
-  for (int x = 0; x < pixels; ++x, from += 4, to += 4) {
-    const int alpha = from[3];
-    for (int i = 0; i < 3; ++i) {
-      to[i] = alpha == 0 ? 0 : static_cast<uchar>(std::min(255, (from[i] * 255 + alpha / 2) / alpha));
-    }
-    to[3] = static_cast<uchar>(alpha);
-  }
-}
 
 /// Trying every filter on a row takes longer than packing it, and much of a drawing is paper: an empty row is
 /// left as it is, and one like the row above it is nothing but zeros as the difference from it. The first row

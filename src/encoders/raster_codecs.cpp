@@ -1,5 +1,6 @@
 #include "encoders/raster_codecs.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -32,6 +33,16 @@ QByteArray encodeRaster(PictureFormat format, const NSBitmapImageRep& raster,
   for (size_t row = 0; row < codecs.size(); ++row)
     if (formatTable[row].id == format && codecs[row]) return codecs[row](raster, properties);
   return {};
+}
+
+void unpremultiplyRow(const uchar* from, uchar* to, int pixels) {
+  for (int x = 0; x < pixels; ++x, from += 4, to += 4) {
+    const int alpha = from[3];
+    for (int i = 0; i < 3; ++i) {
+      to[i] = alpha == 0 ? 0 : static_cast<uchar>(std::min(255, (from[i] * 255 + alpha / 2) / alpha));
+    }
+    to[3] = static_cast<uchar>(alpha);
+  }
 }
 
 bool isEncodable(const NSBitmapImageRep& raster) {

@@ -41,4 +41,8 @@ struct CodecOf {
 /// Whether the codecs take this layout.
 [[nodiscard]] bool isEncodable(const NSBitmapImageRep& raster);
 
+/// RGBA with colours that are not multiplied by their opacity, as most formats store them; clear pixels are
+/// black.
+void unpremultiplyRow(const uchar* from, uchar* to, int pixels);
+
 }  // namespace norvex

@@ -14,7 +14,7 @@ namespace norvex {
 /// What is in a document. Other: pixels, which are written and not opened.
 enum class DocumentKind { Svg, Eps, Illustrator, Pdf, Other };
 
-enum class PictureFormat { Eps, EpsPreview, Epsi, Illustrator, Pdf, Svg, Svgz, Tiff, Png, Jpeg, Gif };
+enum class PictureFormat { Eps, EpsPreview, Epsi, Illustrator, Pdf, Svg, Svgz, Tiff, Png, Jpeg, Gif, Webp };
 
 /// What --quality is for a format where it is not given; otherwise 1 to 100.
 enum Quality : int { NoQuality = -1, Lossless = 0 };
@@ -129,6 +129,16 @@ inline constexpr auto formatTable = std::to_array<FormatRow>({
      .mimeTypes = "image/gif",
      .title = "GIF image",
      .begins = {"GIF87a", "GIF89a"}},
+    {.id = PictureFormat::Webp,
+     .kind = DocumentKind::Other,
+     .name = "webp",
+     .type = "org.webmproject.webp",
+     .extensions = "webp",
+     .parents = "public.image",
+     .mimeTypes = "image/webp",
+     .title = "WebP image",
+     .quality = Lossless,
+     .begins = {"RIFF????WEBP"}},
 });
 
 // ---- words of the table

@@ -105,6 +105,7 @@ class ConvertTest : public QObject {
     QTest::newRow("jpg") << "b.jpg" << QByteArray("\xFF\xD8\xFF");
     QTest::newRow("JPEG") << "b.JPEG" << QByteArray("\xFF\xD8\xFF");
     QTest::newRow("gif") << "b.gif" << QByteArray("GIF89a");
+    QTest::newRow("webp") << "b.webp" << QByteArray("RIFF");
   }
   void theExtensionDecidesTheFormat() {
     QFETCH(QString, name);

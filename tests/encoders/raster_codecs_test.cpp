@@ -42,6 +42,19 @@ QByteArray encodeGif(const NSBitmapImageRep& raster, const RasterProperties& pro
   return encodeRaster(PictureFormat::Gif, raster, properties);
 }
 
+QByteArray encodeWebp(const NSBitmapImageRep& raster, const RasterProperties& properties) {
+  return encodeRaster(PictureFormat::Webp, raster, properties);
+}
+
+QImage webpAsDwebpReads(const QByteArray& bytes) {
+  const QTemporaryDir folder;
+  QFile file(folder.filePath("a.webp"));
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) return {};
+  file.close();
+  QProcess::execute("dwebp", {"-quiet", file.fileName(), "-o", folder.filePath("a.png")});
+  return QImage(folder.filePath("a.png"));
+}
+
 /// What another program says about the bytes.
 QString say(const QByteArray& bytes, const QString& suffix, QStringList command) {
   QTemporaryDir folder;
@@ -213,6 +226,43 @@ class RasterCodecsTest : public QObject {
       }
     }
     QVERIFY2(sum / seen / 3 < 8, qPrintable(QString::number(sum / seen / 3)));
+  }
+  void webpWithoutAQualityKeepsEveryPixel() {
+    QRandomGenerator random(11);
+    for (const bool alpha : {false, true}) {
+      QImage image(37, 23, alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+      for (int y = 0; y < 23; ++y)
+        for (int x = 0; x < 37; ++x) image.setPixel(x, y, 0xff000000 | random.generate());
+      if (alpha) image.setPixelColor(3, 4, QColor(0, 200, 0, 128));
+      if (alpha) image.setPixelColor(5, 6, Qt::transparent);
+      const QByteArray bytes = encodeWebp(bitmapFromImage(image), {72, sRGB()});
+      const QString said = say(bytes, "webp", {"webpinfo"});
+      QVERIFY2(said.contains("Format: Lossless") && said.contains("Chunk ICCP") && said.endsWith("exit 0"),
+               qPrintable(said));
+      const QImage back = webpAsDwebpReads(bytes);
+      QCOMPARE(back.size(), image.size());
+      QCOMPARE(back.hasAlphaChannel(), alpha);
+      for (int y = 0; y < 23; ++y)
+        for (int x = 0; x < 37; ++x)
+          if (qAlpha(image.pixel(x, y)) == 255) QCOMPARE(back.pixelColor(x, y), image.pixelColor(x, y));
+      QCOMPARE(back.pixelColor(3, 4).alpha(), alpha ? 128 : 255);
+      QCOMPARE(back.pixelColor(5, 6).alpha(), alpha ? 0 : 255);
+    }
+  }
+  void webpWithAQualityIsLossyAndTransparentAllTheSame() {
+    const QByteArray bytes = encodeWebp(sample(true), {72, {}, 80});
+    const QString said = say(bytes, "webp", {"webpinfo"});
+    QVERIFY2(said.contains("Format: Lossy") && said.endsWith("exit 0"), qPrintable(said));
+    const QImage back = webpAsDwebpReads(bytes);
+    QCOMPARE(back.pixelColor(0, 0).alpha(), 255);
+    QCOMPARE(back.pixelColor(1, 1).alpha(), 128);
+    QCOMPARE(back.pixelColor(2, 0).alpha(), 0);
+  }
+  void aWebpIsNoWiderThanItsFormatAllows() {
+    QImage image(16384, 1, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(encodeWebp(bitmapFromImage(image), {}).isEmpty());
+    QVERIFY(!encodeWebp(bitmapFromImage(image.copy(0, 0, 16383, 1)), {}).isEmpty());
   }
   void aGifOfNothingIsTransparent() {
     QImage image(20, 10, QImage::Format_ARGB32_Premultiplied);

@@ -98,6 +98,7 @@ inline QString complaintAbout(const QString& path, const QString& format, int se
   if (format == "tiff") return firstOf({complaintOf("tiffinfo", {path}, seconds), identified});
   if (format == "png") return firstOf({complaintOf("pngcheck", {"-q", path}, seconds), identified});
   if (format == "gif") return firstOf({complaintOf("giftext", {path}, seconds), identified});
+  if (format == "webp") return firstOf({complaintOf("webpinfo", {"-quiet", path}, seconds), identified});
   return identified;
 }
 

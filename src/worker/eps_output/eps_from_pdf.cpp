@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "worker/eps_output/eps_writing.h"
+#include "worker/eps_output/harmless_fonts.h"
 #include "worker/eps_output/poppler_postscript.h"
 #include "worker/eps_output/postscript_device.h"
 #include "worker/eps_output/transparent_regions.h"
@@ -31,6 +32,7 @@ struct Opaque {
   QSizeF size;
   bool usedTransparency = false;
   QByteArray pdf;  ///< without transparency, its page grown to whole points
+  QStringList warnings;
 };
 
 QSize wholePoints(QSizeF size) {
@@ -80,6 +82,7 @@ Result<Opaque> withoutTransparency(PdfFile& file) {
     keepOnlyPage(qpdf, page);
     opaque.usedTransparency = usesTransparency(qpdf);
     removeTransparency(qpdf);
+    opaque.warnings = makeFontsHarmless(qpdf);
     compressImages(qpdf);
     opaque.pdf = writePdfToDraw(qpdf);
     return opaque;
@@ -178,6 +181,9 @@ Result<EngineBytes> epsFromPdf(const QByteArray& source, EngineContext& context)
   const Result<PagePostScript> page = postScriptOfPage(opaque->pdf, wholePoints(opaque->size));
   if (!page) return page.error();
   EngineBytes result{writeEps(opaque->size, *page, images), {}};
+  result.report.warnings = opaque->warnings;
+  if (page->leftOutPrograms)
+    result.report.warnings << QStringLiteral("PostScript programs that the document holds were left out");
   result.report.regionsRasterised = int(images.size());
   result.report.rasterisedDpi = dpi;
   double area = 0;

@@ -5,31 +5,12 @@
 #include <algorithm>
 #include <vector>
 
+#include "worker/eps_output/cff_index.h"
+
 namespace norvex::engine {
 namespace {
 
 constexpr char kEndOfCharstring = 14;  // an outline without anything
-
-// Big-endian numbers at places that may lie outside; then it is told once and for all.
-class Reader {
- public:
-  explicit Reader(const QByteArray& bytes) : bytes_(bytes) {}
-  [[nodiscard]] quint32 number(qsizetype at, int size) {
-    if (at < 0 || at > bytes_.size() - size) return valid_ = false, 0;
-    quint32 value = 0;
-    for (int i = 0; i < size; ++i) value = (value << 8) | quint8(bytes_[at + i]);
-    return value;
-  }
-  [[nodiscard]] bool valid() const { return valid_; }
-
- private:
-  const QByteArray& bytes_;
-  bool valid_ = true;
-};
-
-void put(QByteArray& bytes, qsizetype at, int size, quint32 value) {
-  for (int i = size - 1; i >= 0; --i, value >>= 8) bytes[at + i] = char(value);
-}
 
 struct Table {
   qsizetype entry = 0;  ///< where the directory tells of it
@@ -38,7 +19,7 @@ struct Table {
 };
 
 std::optional<QHash<QByteArray, Table>> tablesOf(const QByteArray& font) {
-  Reader read(font);
+  ByteReader read(font);
   QHash<QByteArray, Table> tables;
   const auto count = int(read.number(4, 2));
   for (int i = 0; i < count && read.valid(); ++i) {
@@ -85,8 +66,8 @@ class Outlines {
     QByteArray outlines;
     QByteArray places((left + 1) * places_, '\0');
     for (int glyph = 0; glyph <= left; ++glyph) {
-      put(places, qsizetype(glyph) * places_, places_,
-          quint32(places_ == 2 ? outlines.size() / 2 : outlines.size()));
+      putNumber(places, qsizetype(glyph) * places_, places_,
+                quint32(places_ == 2 ? outlines.size() / 2 : outlines.size()));
       if (glyph == left || !kept[size_t(glyph)]) continue;
       outlines += font_.mid(begin(glyph), end(glyph) - begin(glyph));
       while (outlines.size() % 4 != 0) outlines += '\0';
@@ -95,7 +76,7 @@ class Outlines {
     QByteArray result = font_;
     replaceTable(result, glyf_, outlines);
     replaceTable(result, loca_, places);
-    put(result, maxp_.offset + 4, 2, quint32(left));
+    putNumber(result, maxp_.offset + 4, 2, quint32(left));
     shortenMetrics(result, left);
     return result;
   }
@@ -103,7 +84,7 @@ class Outlines {
  private:
   static void replaceTable(QByteArray& font, const Table& table, const QByteArray& bytes) {
     font.replace(table.offset, bytes.size(), bytes);
-    put(font, table.entry + 12, 4, quint32(bytes.size()));
+    putNumber(font, table.entry + 12, 4, quint32(bytes.size()));
   }
 
   // Wholly listed metrics alone: where the last ones share a width, the list is short.
@@ -111,8 +92,8 @@ class Outlines {
     if (hhea_.length < 36 || hmtx_.length < 4 * qsizetype(left) ||
         int(read_.number(hhea_.offset + 34, 2)) < left)
       return;
-    put(font, hhea_.offset + 34, 2, quint32(left));
-    put(font, hmtx_.entry + 12, 4, quint32(4 * left));
+    putNumber(font, hhea_.offset + 34, 2, quint32(left));
+    putNumber(font, hmtx_.entry + 12, 4, quint32(4 * left));
   }
 
   [[nodiscard]] qsizetype place(int glyph) {
@@ -136,7 +117,7 @@ class Outlines {
   }
 
   const QByteArray& font_;
-  Reader read_;
+  ByteReader read_;
   Table glyf_;
   Table loca_;
   Table maxp_;
@@ -146,38 +127,8 @@ class Outlines {
   int count_ = 0;
 };
 
-// CFF's lists of byte strings.
-struct Index {
-  qsizetype start = 0;
-  int count = 0;
-  int offsetSize = 0;
-  qsizetype end = 0;
-
-  [[nodiscard]] qsizetype offset(Reader& read, int item) const {
-    const qsizetype base =
-        start + 2 + qsizetype(count + 1) * offsetSize;  // offsets count from the byte before the data
-    return base + qsizetype(read.number(start + 3 + qsizetype(item) * offsetSize, offsetSize));
-  }
-};
-
-std::optional<Index> indexAt(Reader& read, qsizetype start) {
-  Index index{start, int(read.number(start, 2)), 0, start + 2};
-  if (!read.valid()) return {};
-  if (index.count == 0) return index;
-  index.offsetSize = int(read.number(start + 2, 1));
-  if (index.offsetSize < 1 || index.offsetSize > 4) return {};
-  qsizetype before = start + 3 + qsizetype(index.count + 1) * index.offsetSize;
-  for (int i = 0; i <= index.count; ++i) {
-    const qsizetype at = index.offset(read, i);
-    if (!read.valid() || at < before) return {};
-    before = at;
-  }
-  index.end = before;
-  return index;
-}
-
 // The operand of the operator "CharStrings" of a font's dictionary.
-std::optional<qsizetype> charstringsPlace(Reader& read, qsizetype at, qsizetype end) {
+std::optional<qsizetype> charstringsPlace(ByteReader& read, qsizetype at, qsizetype end) {
   qint64 operand = -1;
   while (at < end && read.valid()) {
     const auto first = int(read.number(at, 1));
@@ -203,19 +154,20 @@ std::optional<qsizetype> charstringsPlace(Reader& read, qsizetype at, qsizetype 
 }
 
 std::optional<QByteArray> thinnedCff(const QByteArray& cff, const std::set<int>& glyphs) {
-  Reader read(cff);
-  const auto names = indexAt(read, qsizetype(read.number(2, 1)));
+  ByteReader read(cff);
+  const auto names = cffIndexAt(read, qsizetype(read.number(2, 1)));
   if (!names) return {};
-  const auto fonts = indexAt(read, names->end);
+  const auto fonts = cffIndexAt(read, names->end);
   if (!fonts || fonts->count != 1 || fonts->end > cff.size()) return {};
   const auto place = charstringsPlace(read, fonts->offset(read, 0), fonts->offset(read, 1));
   if (!place) return {};
-  const auto outlines = indexAt(read, *place);
+  const auto outlines = cffIndexAt(read, *place);
   if (!outlines || outlines->count == 0 || outlines->end > cff.size()) return {};
   QByteArray data;
   QByteArray offsets((outlines->count + 1) * outlines->offsetSize, '\0');
   for (int glyph = 0; glyph <= outlines->count; ++glyph) {
-    put(offsets, qsizetype(glyph) * outlines->offsetSize, outlines->offsetSize, quint32(data.size() + 1));
+    putNumber(offsets, qsizetype(glyph) * outlines->offsetSize, outlines->offsetSize,
+              quint32(data.size() + 1));
     if (glyph == outlines->count) break;
     const qsizetype from = outlines->offset(read, glyph);
     const qsizetype length = outlines->offset(read, glyph + 1) - from;

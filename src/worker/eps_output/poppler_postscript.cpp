@@ -32,6 +32,16 @@ bool isForeignComment(QByteArrayView line) {
   return false;
 }
 
+// Beside its comments, the generator's lines may begin like that in two more places: in a string that goes on
+// in the next line, and in the digits of an image, which hold no blank and seldom are as short.
+bool looksLikeComment(QByteArrayView line) {
+  return line.startsWith("%%") || line.startsWith("%!");
+}
+
+bool isComment(QByteArrayView line) {
+  return looksLikeComment(line) && (line.contains(' ') || line == QByteArrayView("%%EndResource"));
+}
+
 // What sets up paper or the printer has no place in a picture that is placed on somebody's page.
 bool isForPrinters(QByteArrayView line) {
   return line.endsWith("pdfSetup") || line.endsWith("pdfSetupPaper") ||
@@ -57,17 +67,25 @@ void appendCleaned(QByteArray& result, QByteArrayView text) {
   result.reserve(result.size() + text.size() + 100);
   // Fonts bring their own line ends: those of old Macintosh fonts are carriage returns.
   const auto endsLine = [](char c) { return c == '\n' || c == '\r'; };
+  bool inString = false;  // a string goes on behind a backslash at the end of a line
   for (auto start = text.begin(); start != text.end();) {
     const auto end = std::find_if(start, text.end(), endsLine);
     const QByteArrayView line(start, end);
     start = end == text.end() ? end : end + 1;
-    if (isForeignComment(line) || isForPrinters(line)) continue;
-    if (line.startsWith('(') && line.contains("%%Copyright:")) {  // shown text that says so
+    if (!inString && ((isComment(line) && isForeignComment(line)) || isForPrinters(line))) continue;
+    if (inString && line.startsWith('%')) {
+      result += "\\045";
+      appendSevenBit(result, line.sliced(1));
+    } else if (!inString && looksLikeComment(line) && !isComment(line)) {
+      result += ' ';
+      appendSevenBit(result, line);
+    } else if (line.startsWith('(') && line.contains("%%Copyright:")) {  // shown text that says so
       appendSevenBit(result, line.toByteArray().replace("%%Copyright:", "%\\045Copyright:"));
     } else {
       appendSevenBit(result, line);
     }
     result += '\n';
+    inString = line.endsWith('\\') && (inString || line.contains('('));
   }
 }
 
@@ -94,9 +112,11 @@ Result<PagePostScript> takeApart(const QByteArray& postScript) {
 }
 
 Result<PagePostScript> postScriptOfPage(const QByteArray& pdf, QSize pageSize) {
-  const Result<QByteArray> postScript = generatedPostScript(pdf, pageSize);
+  const Result<GeneratedPostScript> postScript = generatedPostScript(pdf, pageSize);
   if (!postScript) return postScript.error();
-  return takeApart(*postScript);
+  Result<PagePostScript> page = takeApart(postScript->text);
+  if (page) page->leftOutPrograms = postScript->leftOutPrograms;
+  return page;
 }
 
 }  // namespace norvex::engine

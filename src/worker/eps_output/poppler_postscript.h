@@ -15,6 +15,7 @@ struct PagePostScript {
   QByteArray procedures;
   QByteArray setup;  ///< fonts and forms
   QByteArray page;   ///< default user space, the page's lower-left corner at the origin; no showpage
+  bool leftOutPrograms = false;  ///< the page holds PostScript of its own, which is not in it
 };
 
 /// The first page of `pdf`, whose box is [0 0 width height] in whole points. Transparency that is left in it

@@ -124,6 +124,10 @@ class PageDevice : public PSOutputDev {
                            isInline);
   }
 
+  // A program of the document's own, which no screen shows: it would run wherever the page goes.
+  void psXObject(Stream*, Stream*) override { leftOutPrograms_ = true; }
+  [[nodiscard]] bool leftOutPrograms() const { return leftOutPrograms_; }
+
   bool functionShadedFill(GfxState*, GfxFunctionShading* shading) override {
     double domain[4];
     shading->getDomain(&domain[0], &domain[2], &domain[1], &domain[3]);
@@ -283,6 +287,7 @@ class PageDevice : public PSOutputDev {
   bool onPage_ = false;
   Sink& sink_;
   bool uncoloured_ = false;
+  bool leftOutPrograms_ = false;
 };
 
 void ignoreComplaint(ErrorCategory, Goffset, const char*) {}
@@ -294,7 +299,7 @@ void keepPopplerSettings() {
   Q_UNUSED(settings)
 }
 
-Result<QByteArray> generatedPostScript(const QByteArray& pdf, QSize pageSize) {
+Result<GeneratedPostScript> generatedPostScript(const QByteArray& pdf, QSize pageSize) {
   const Error refused{ErrorKind::Unsupported, QStringLiteral("the page cannot be written as PostScript")};
   keepPopplerSettings();
   std::list<QByteArray> fonts;  // of the document, which must go before them
@@ -304,14 +309,17 @@ Result<QByteArray> generatedPostScript(const QByteArray& pdf, QSize pageSize) {
   // Poppler would draw the page once more to look for transparency. Annotations alone may bring some.
   const bool annotated = document.getPage(1) && document.getPage(1)->getAnnotsObject().isArray();
   Sink sink;
+  GeneratedPostScript generated;
   {
     PageDevice device(
         sink, document, pageSize,
         annotated ? psRasterizeWhenNeeded : psNeverRasterize);  // writes the end when it is released
     if (!device.isOk()) return refused;
     document.displayPage(&device, 1, 72, 72, 0, false, true, false);
+    generated.leftOutPrograms = device.leftOutPrograms();
   }
-  return sink.take();
+  generated.text = sink.take();
+  return generated;
 }
 
 }  // namespace norvex::engine

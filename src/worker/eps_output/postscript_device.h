@@ -12,9 +12,15 @@ namespace norvex::engine {
 /// now on it has them as long as the process lives.
 void keepPopplerSettings();
 
+struct GeneratedPostScript {
+  QByteArray text;
+  bool leftOutPrograms = false;  ///< the page holds PostScript of its own
+};
+
 /// The first page of `pdf` as Poppler's generator writes it, document structure and all, Level 3. `pageSize`
-/// in points. Gradients of every type call shadingProcedures(). Fails with Unsupported when Poppler has no
+/// in points. Gradients of every type call shadingProcedures(). PostScript that the page
+/// holds is left out. Fails with Unsupported when Poppler has no
 /// such page.
-[[nodiscard]] Result<QByteArray> generatedPostScript(const QByteArray& pdf, QSize pageSize);
+[[nodiscard]] Result<GeneratedPostScript> generatedPostScript(const QByteArray& pdf, QSize pageSize);
 
 }  // namespace norvex::engine

@@ -5,34 +5,12 @@
 #include <functional>
 #include <string>
 
-#include "protocol/limits.h"
+#include "worker/pdf/pdf_dictionaries.h"
 
 namespace norvex::engine {
 namespace {
 
 using Visit = std::function<void(QPDFObjectHandle dictionary)>;
-
-// Every dictionary of the file, those of streams and those inside other objects included, each once.
-void visitDirect(QPDFObjectHandle object, const Visit& visit, int depth) {
-  if (depth > limits::maximumObjectDepth) return;
-  if (object.isStream()) object = object.getDict();
-  if (object.isDictionary()) {
-    visit(object);
-    for (const std::string& key : object.getKeys()) {
-      QPDFObjectHandle value = object.getKey(key);
-      if (!value.isIndirect()) visitDirect(value, visit, depth + 1);
-    }
-  } else if (object.isArray()) {
-    for (int i = 0; i < object.getArrayNItems(); ++i) {
-      QPDFObjectHandle item = object.getArrayItem(i);
-      if (!item.isIndirect()) visitDirect(item, visit, depth + 1);
-    }
-  }
-}
-
-void visitAll(QPDF& qpdf, const Visit& visit) {
-  for (QPDFObjectHandle object : qpdf.getAllObjects()) visitDirect(object, visit, 0);
-}
 
 bool isLessThanOne(QPDFObjectHandle value) {
   return value.isNumber() && value.getNumericValue() < 1;
@@ -59,7 +37,7 @@ bool isImage(QPDFObjectHandle dictionary) {
 
 bool usesTransparency(QPDF& qpdf) {
   bool found = false;
-  visitAll(qpdf, [&](QPDFObjectHandle dictionary) {
+  visitDictionaries(qpdf, [&](QPDFObjectHandle dictionary) {
     if (found) return;
     if (isImage(dictionary) &&
         (dictionary.getKey("/SMask").isStream() || dictionary.getKey("/SMaskInData").isInteger()))
@@ -73,7 +51,7 @@ bool usesTransparency(QPDF& qpdf) {
 }
 
 void removeTransparency(QPDF& qpdf) {
-  visitAll(qpdf, [](QPDFObjectHandle dictionary) {
+  visitDictionaries(qpdf, [](QPDFObjectHandle dictionary) {
     if (isImage(dictionary)) {
       dictionary.removeKey("/SMask");
       dictionary.removeKey("/SMaskInData");

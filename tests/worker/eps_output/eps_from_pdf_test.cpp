@@ -10,6 +10,7 @@
 #include "worker/eps_output/transparent_regions.h"
 #include "worker/kit/eps_kit.h"
 #include "worker/kit/made_pdf.h"
+#include "worker/kit/made_type1.h"
 #include "worker/pages/pdf_engine.h"
 
 using namespace norvex;
@@ -219,19 +220,19 @@ class EpsFromPdfTest : public QObject {
   }
 
   void anEmbeddedFontWithReturnsAsLineEndsStaysWhole() {
-    const QByteArray clear =
-        "%!PS-AdobeFont-1.0: Made\r11 dict begin\r/FontName /Made def\rcurrentfile eexec\r";
-    const QByteArray program = clear + QByteArray(64, 'x');
-    const QByteArray font = "<< /Type /Font /Subtype /Type1 /BaseFont /Made /FontDescriptor 7 0 R >>";
-    const QByteArray descriptor = "<< /Type /FontDescriptor /FontName /Made /Flags 4 /FontFile 8 0 R >>";
-    const QByteArray file = "<< /Length " + QByteArray::number(program.size()) + " /Length1 " +
-                            QByteArray::number(clear.size()) + " /Length2 64 /Length3 0 >> stream\n" +
-                            program + "\nendstream";
+    const kit::Type1Parts made = kit::madeType1();
+    const QByteArray clear = QByteArray(made.clear).replace('\n', '\r');
+    const QByteArray font = "<< /Type /Font /Subtype /Type1 /BaseFont /Square /FontDescriptor 7 0 R >>";
+    const QByteArray descriptor = "<< /Type /FontDescriptor /FontName /Square /Flags 4 /FontFile 8 0 R >>";
+    const QByteArray file =
+        kit::stream(clear + made.encrypted, "/Length1 " + QByteArray::number(clear.size()) + " /Length2 " +
+                                                QByteArray::number(made.encrypted.size()) + " /Length3 0");
     const QByteArray eps =
         Converted(page("BT /G 18 Tf 50 70 Td (A) Tj ET", "/Font << /G 6 0 R >>", {font, descriptor, file}))
             .eps();
     QCOMPARE(eps.count("%!PS"), 1);
-    QVERIFY(eps.contains("\n11 dict begin\n/FontName /Made def\ncurrentfile eexec\n"));
+    QVERIFY(eps.contains("\n/FontName /Square def\n"));
+    QVERIFY(eps.contains("\ncurrentdict end\ncurrentfile eexec\n"));
   }
 
   void whatIsPlacedInsideLeavesNothingBehind() {

@@ -1,0 +1,43 @@
+// The numbers and lists that font files are made of.
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace norvex::engine {
+
+/// Big-endian numbers at places that may lie outside; then it is told once and for all. `bytes` must outlive
+/// it.
+class ByteReader {
+ public:
+  explicit ByteReader(const QByteArray& bytes) : bytes_(bytes) {}
+  [[nodiscard]] quint32 number(qsizetype at, int size);
+  [[nodiscard]] bool valid() const { return valid_; }
+
+ private:
+  const QByteArray& bytes_;
+  bool valid_ = true;
+};
+
+void putNumber(QByteArray& bytes, qsizetype at, int size, quint32 value);
+
+/// A list of byte strings in a CFF font.
+struct CffIndex {
+  qsizetype start = 0;
+  int count = 0;
+  int offsetSize = 0;
+  qsizetype end = 0;  ///< behind it
+
+  /// Where `item` begins and the one before it ends, 0 ≤ item ≤ count.
+  [[nodiscard]] qsizetype offset(ByteReader& read, int item) const;
+};
+
+/// The list at `start`; nothing when it is damaged. Its end may lie outside the file.
+[[nodiscard]] std::optional<CffIndex> cffIndexAt(ByteReader& read, qsizetype start);
+
+/// The CFF font `cff` with plain names (plainName()) in place of its texts, glyph names above all: whoever
+/// writes them into a program writes no program of the font's. Nothing when its lists are damaged.
+[[nodiscard]] std::optional<QByteArray> withPlainTexts(const QByteArray& cff);
+
+}  // namespace norvex::engine

@@ -72,6 +72,14 @@ std::optional<QByteArray> plainOpenType(const QByteArray& file) {
   return result;
 }
 
+// `name` perhaps with the tag of a subset.
+QString leftOutSentence(const QString& name) {
+  const QString font = name.mid(name.indexOf(u'+') == 6 ? 7 : 0);
+  return font.isEmpty()
+             ? QStringLiteral("a font cannot be taken over; another stands in for it")
+             : QStringLiteral("the font %1 cannot be taken over; another stands in for it").arg(font);
+}
+
 class Cleaner {
  public:
   explicit Cleaner(QPDF& qpdf) : qpdf_(qpdf) {}
@@ -95,8 +103,7 @@ class Cleaner {
       descriptor.replaceKey(key, known->second);
     } else {
       descriptor.removeKey(key);
-      const QString sentence = QStringLiteral("the font %1 cannot be taken over; another stands in for it")
-                                   .arg(QString::fromStdString(place.second).mid(1));
+      const QString sentence = leftOutSentence(QString::fromStdString(place.second).mid(1));
       if (!warnings_.contains(sentence)) warnings_ << sentence;
     }
   }

@@ -7,10 +7,15 @@ namespace norvex::engine {
 
 Result<EngineBytes> composePage(const QByteArray& pdf, const ComposeRequest& request,
                                 EngineContext& context) {
-  Result<QByteArray> composed = composePdf(pdf, request);
+  const bool toEps = request.format == VectorFormat::Eps;
+  QStringList leftOut;
+  // Nobody expects actions of an EPS: that it has none is not worth a sentence.
+  Result<QByteArray> composed =
+      composePdf(pdf, request, toEps ? DocumentActions::Keep : DocumentActions::LeaveOut, &leftOut);
   if (!composed) return composed.error();
-  if (request.format == VectorFormat::Eps) return epsFromPdf(*composed, context);
-  return EngineBytes{std::move(*composed), {}};
+  Result<EngineBytes> result = toEps ? epsFromPdf(*composed, context) : EngineBytes{std::move(*composed), {}};
+  if (result) result->report.warnings = leftOut + result->report.warnings;
+  return result;
 }
 
 }  // namespace norvex::engine

@@ -104,7 +104,8 @@ QPDFObjectHandle placedPage(QPDF& qpdf, QPDFObjectHandle source, QPDFObjectHandl
 
 }  // namespace
 
-Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& request) {
+Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& request, DocumentActions actions,
+                              QStringList* leftOut) {
   if (!isUsable(request))
     return Error{ErrorKind::Protocol, QStringLiteral("the rectangle that was asked for is not usable")};
   Result<std::unique_ptr<PdfFile>> opened = PdfFile::open(pdf);
@@ -115,13 +116,17 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
     const PageGeometry geometry = file.geometry(request.page);
     QPDFObjectHandle source = file.page(request.page);
     QPDFObjectHandle interactiveForm = file.qpdf().getRoot().getKey("/AcroForm");
+    const PageActions found = takeActions(file.qpdf(), source, actions);
+    if (leftOut) *leftOut = found.leftOut;
     keepOnlyPage(file.qpdf(), source);
     if (source.hasKey("/Annots")) {
       const Result<void> flat = flattenAnnotations(file.qpdf(), source, geometry, interactiveForm);
       if (!flat) return flat.error();
     }
     const QPDFObjectHandle form = formOf(file.qpdf(), source, geometry.box);
-    keepOnlyPage(file.qpdf(), placedPage(file.qpdf(), source, form, request, placement(geometry, request)));
+    QPDFObjectHandle page = placedPage(file.qpdf(), source, form, request, placement(geometry, request));
+    keepOnlyPage(file.qpdf(), page);
+    putBack(found, file.qpdf(), page);
     if (request.attributes) setPdfAttributes(file.qpdf(), *request.attributes);
     return request.format == VectorFormat::Eps ? writePdfToDraw(file.qpdf()) : writePdf(file.qpdf());
   });

@@ -1,0 +1,32 @@
+// What a PDF does beside being drawn: actions at opening and at clicks, scripts, files that it points to.
+#pragma once
+
+#include <QStringList>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace norvex::engine {
+
+enum class DocumentActions { LeaveOut, Keep };
+
+/// What was found in a document, and what of it goes into the new one.
+struct PageActions {
+  QStringList leftOut;  ///< one sentence for each kind
+  std::vector<std::pair<std::string, QPDFObjectHandle>> ofDocument, ofPage;
+};
+
+/// Looks at the catalogue and at `page`; whatever the page draws loses its references to other files and to
+/// PostScript. With DocumentActions::Keep actions at opening, scripts and the page's own actions are kept for
+/// putBack(); files that take the place of what is drawn never are, nor what clicks do, for what is clicked
+/// becomes part of the drawing. Throws as qpdf does.
+[[nodiscard]] PageActions takeActions(QPDF& qpdf, QPDFObjectHandle page, DocumentActions actions);
+
+/// Into the catalogue of `qpdf` and its only page.
+void putBack(const PageActions& actions, QPDF& qpdf, QPDFObjectHandle page);
+
+}  // namespace norvex::engine

@@ -2,6 +2,8 @@
 
 #include <QStringDecoder>
 
+#include "encoders/comment_value.h"
+
 namespace norvex {
 namespace {
 
@@ -26,14 +28,22 @@ void replaceLine(QString& text, const QString& keyword, const QString& value) {
   const qsizetype at = text.indexOf(keyword);
   if (at < 0) return;
   const qsizetype start = lineStart(text, at);
-  text.replace(start, lineEnd(text, at) - start, keyword + u' ' + value + u'\n');
+  text.replace(start, lineEnd(text, at) - start, keyword + u' ' + commentValue(value) + u'\n');
+}
+
+/// The line that ends the comments; a title may hold the same word.
+qsizetype endOfComments(const QString& text) {
+  const QString keyword = QStringLiteral("%%EndComments");
+  for (qsizetype at = text.indexOf(keyword); at >= 0; at = text.indexOf(keyword, at + 1))
+    if (lineStart(text, at) == at) return at;
+  return text.indexOf(keyword);
 }
 
 void insertCopyright(QString& text, const HeaderDictionary& header) {
   const QString keyword = QStringLiteral("%%Copyright:");
   if (text.contains(keyword) || !header.contains(header::Copyright)) return;
-  const qsizetype at = text.indexOf(QStringLiteral("%%EndComments"));
-  if (at >= 0) text.insert(at, keyword + u' ' + header.value(header::Copyright).toString() + u'\n');
+  const QString line = keyword + u' ' + commentValue(header.value(header::Copyright).toString()) + u'\n';
+  if (const qsizetype at = endOfComments(text); at >= 0) text.insert(at, line);
 }
 
 }  // namespace

@@ -17,9 +17,10 @@ struct EpsHeaderDefaults {
 
 /// `postScript` (UTF-8) with the first line that holds "%%Title:", "%%Creator:", "%%CreationDate:" and
 /// "%%For:" replaced by keyword, blank, value, LF. A keyword that is absent adds nothing, but a Copyright
-/// value is inserted before the first "%%EndComments" unless the text has a "%%Copyright:" already. The
-/// search is plain and not limited to the comment section: generated PostScript has each keyword once, and
-/// where a body holds it again only the first counts. Empty when the bytes are not valid UTF-8.
+/// value is inserted before the line "%%EndComments" unless the text has a "%%Copyright:" already. Values are
+/// written as commentValue() makes them: none can end its line. The search is plain and not limited to the
+/// comment section: generated PostScript has each keyword once, and where a body holds it again only the
+/// first counts. Empty when the bytes are not valid UTF-8.
 [[nodiscard]] QByteArray rewriteEpsHeader(const QByteArray& postScript, const HeaderDictionary& header,
                                           const EpsHeaderDefaults& defaults);
 

@@ -4,59 +4,88 @@
 #include <limits>
 #include <optional>
 
+#include "metadata/eps_lines.h"
+
 namespace norvex {
 namespace {
 
 constexpr int bitsThatStayOneLine = 1024;
 constexpr int bytesInALine = 127;
 
+bool isSpace(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
 /// Scans a decimal integer after white space, as the values of DSC comments are written. Leaves `at` alone
 /// when there is none. Numbers beyond 32 bits stop at the limit.
-std::optional<int> scanInteger(const QString& text, qsizetype& at) {
+std::optional<int> scanInteger(QByteArrayView text, qsizetype& at) {
   qsizetype i = at;
-  while (i < text.size() && text.at(i).isSpace()) ++i;
-  const bool negative = i < text.size() && text.at(i) == u'-';
-  if (i < text.size() && (text.at(i) == u'-' || text.at(i) == u'+')) ++i;
+  while (i < text.size() && isSpace(text[i])) ++i;
+  const bool negative = i < text.size() && text[i] == '-';
+  if (i < text.size() && (text[i] == '-' || text[i] == '+')) ++i;
   qint64 value = 0;
   const qsizetype firstDigit = i;
-  for (; i < text.size() && text.at(i) >= u'0' && text.at(i) <= u'9'; ++i) {
-    value = std::min<qint64>(value * 10 + (text.at(i).unicode() - u'0'), qint64(1) << 40);
-  }
+  for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i)
+    value = std::min<qint64>(value * 10 + (text[i] - '0'), qint64(1) << 40);
   if (i == firstDigit) return std::nullopt;
   at = i;
   return static_cast<int>(std::clamp<qint64>(negative ? -value : value, std::numeric_limits<int>::min(),
                                              std::numeric_limits<int>::max()));
 }
 
-/// The text before the preview; `rest` becomes the position where the source goes on. Null: no place for a
-/// preview.
-QString headOf(const QString& source, qsizetype& rest) {
-  const QString endComments = QStringLiteral("%%EndComments");
-  const qsizetype end = source.indexOf(endComments);
-  if (end >= 0) {
-    rest = end + endComments.size();
-    return source.left(rest);
-  }
-  const QString boundingBox = QStringLiteral("%%BoundingBox:");
-  const qsizetype box = source.indexOf(boundingBox);
-  if (box < 0) return {};
-  rest = box + boundingBox.size();
-  QString head = source.left(rest);
-  int value = 0;  // one that cannot be read repeats the one before
-  for (int i = 0; i < 4; ++i) {
-    value = scanInteger(source, rest).value_or(value);
-    head += QStringLiteral(" %1").arg(value);
-  }
-  return head + u'\n' + endComments;
+/// Where a keyword begins its line, otherwise where it stands at all; -1 without one.
+qsizetype placeOf(QByteArrayView source, QByteArrayView keyword) {
+  const qsizetype line = lineBeginningWith(source, keyword);
+  return line >= 0 ? line : source.indexOf(keyword);
 }
 
-void appendHexLine(QString& out, const QByteArray& data, qsizetype at, int count) {
+/// The head of a source without "%%EndComments", up to the box and with an end of our own.
+QByteArray headUpToBox(QByteArrayView source, qsizetype behindKeyword, qsizetype& rest) {
+  rest = behindKeyword;
+  QByteArray head = source.first(rest).toByteArray();
+  std::optional<int> value = scanInteger(source, rest);
+  if (!value) {  // "(atend)": the box stands elsewhere
+    rest = lineEndOf(source, rest);
+    return source.first(rest).toByteArray() + "\n%%EndComments";
+  }
+  head += ' ' + QByteArray::number(*value);
+  for (int i = 0; i < 3; ++i) {
+    if (const auto next = scanInteger(source, rest)) value = next;  // otherwise the one before again
+    head += ' ' + QByteArray::number(*value);
+  }
+  return head + "\n%%EndComments";
+}
+
+/// The bytes before the preview; `rest` becomes the position where the source goes on. Null: no place for a
+/// preview.
+QByteArray headOf(QByteArrayView source, qsizetype& rest) {
+  const QByteArrayView endComments("%%EndComments");
+  const QByteArrayView boundingBox("%%BoundingBox:");
+  const qsizetype box = placeOf(source, boundingBox);
+  qsizetype end = lineBeginningWith(source, endComments);
+  // Within a line the word belongs to something else, as long as there is another place.
+  if (end < 0 && box < 0) end = source.indexOf(endComments);
+  if (end >= 0) {
+    rest = end + endComments.size();
+    return source.first(rest).toByteArray();
+  }
+  return box < 0 ? QByteArray() : headUpToBox(source, box + boundingBox.size(), rest);
+}
+
+/// Whether the rest of a comment would be run, now that a line end stands before it.
+bool wouldRun(QByteArrayView source, qsizetype rest) {
+  const QByteArrayView line = source.sliced(rest, lineEndOf(source, rest) - rest);
+  return !std::all_of(line.begin(), line.end(),
+                      [](char c) { return isSpace(c) || QByteArrayView("0123456789.+-").contains(c); });
+}
+
+void appendHexLine(QByteArray& out, const QByteArray& data, qsizetype at, int count) {
   static constexpr char digits[] = "0123456789ABCDEF";
-  out += QStringLiteral("\n%");
+  out += "\n%";
   for (qsizetype i = at; i < at + count; ++i) {
     const int inverted = 255 - (i < data.size() ? static_cast<uchar>(data.at(i)) : 0);
-    out += QLatin1Char(digits[inverted >> 4]);
-    out += QLatin1Char(digits[inverted & 15]);
+    out += digits[inverted >> 4];
+    out += digits[inverted & 15];
   }
 }
 
@@ -70,18 +99,17 @@ EpsiRowLayout epsiRowLayout(int bitsPerRow) {
   return {divisor, row / divisor, row % divisor};
 }
 
-QString insertEpsiPreview(const QString& source, const NSBitmapImageRep& grey) {
+QByteArray insertEpsiPreview(const QByteArray& source, const NSBitmapImageRep& grey) {
   qsizetype rest = 0;
-  QString out = headOf(source, rest);
+  QByteArray out = headOf(source, rest);
   if (out.isNull()) return {};
 
   const EpsiRowLayout layout = epsiRowLayout(grey.samplesPerPixel * grey.bitsPerSample * grey.pixelsWide);
   out.reserve(source.size() + qsizetype(grey.pixelsWide) * grey.pixelsHigh * 2 + 4096);
-  out += QStringLiteral("\n%%BeginPreview: %1 %2 %3 %4")
-             .arg(grey.pixelsWide)
-             .arg(grey.pixelsHigh)
-             .arg(grey.bitsPerSample)
-             .arg(qint64(grey.pixelsHigh) * layout.linesInAll());
+  out += "\n%%BeginPreview:";
+  for (const qint64 number : {qint64(grey.pixelsWide), qint64(grey.pixelsHigh), qint64(grey.bitsPerSample),
+                              qint64(grey.pixelsHigh) * layout.linesInAll()})
+    out += ' ' + QByteArray::number(number);
   qsizetype at = 0;
   for (int row = 0; row < grey.pixelsHigh; ++row) {
     for (int line = 0; line < layout.lines; ++line, at += layout.bytes)
@@ -89,8 +117,9 @@ QString insertEpsiPreview(const QString& source, const NSBitmapImageRep& grey) {
     if (layout.rest > 0) appendHexLine(out, grey.data, at, layout.rest);
     at += layout.rest;
   }
-  out += QStringLiteral("\n%%EndPreview\n");
-  out += QStringView(source).mid(rest);
+  out += "\n%%EndPreview\n";
+  if (wouldRun(source, rest)) out += '%';
+  out += QByteArrayView(source).sliced(rest);
   return out;
 }
 

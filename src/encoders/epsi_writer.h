@@ -1,7 +1,7 @@
 // Insertion of an interchange preview (EPSI: DSC "%%BeginPreview:") into PostScript text.
 #pragma once
 
-#include <QString>
+#include <QByteArray>
 
 #include "protocol/bitmap_image_rep.h"
 
@@ -19,9 +19,11 @@ struct EpsiRowLayout {
 /// DSC allows 255 characters a line: a "%" and 127 bytes of two digits. Rows below 1024 bits stay one line.
 [[nodiscard]] EpsiRowLayout epsiRowLayout(int bitsPerRow);
 
-/// `source` with the bitmap as comment lines after the first "%%EndComments" (or, where there is none, after
-/// the four integers of the first "%%BoundingBox:", followed by an "%%EndComments" of our own). The bits are
-/// inverted: 1 means black in a preview. A null string when the text has neither keyword.
-[[nodiscard]] QString insertEpsiPreview(const QString& source, const NSBitmapImageRep& grey);
+/// `source` with the bitmap as comment lines behind the line "%%EndComments" (or, where there is none, behind
+/// the four integers of "%%BoundingBox:", followed by an "%%EndComments" of our own). A keyword at the start
+/// of a line goes before one within a line, such as a title's. What follows on the keyword's line stays a
+/// comment unless it is the rest of a number. Every other byte goes over as it is. The bits are inverted: 1
+/// means black in a preview. Null when the source has neither keyword.
+[[nodiscard]] QByteArray insertEpsiPreview(const QByteArray& source, const NSBitmapImageRep& grey);
 
 }  // namespace norvex

@@ -10,8 +10,9 @@
 #include "encoders/monoclome_bitmap.h"
 #include "encoders/pdf_attributes.h"
 #include "encoders/picture_header.h"
+#include "metadata/eps_lines.h"
+#include "metadata/eps_utf8_comments.h"
 #include "metadata/full_date.h"
-#include "metadata/source_text.h"
 #include "picture/eps_image_rep.h"
 #include "picture/pdf_image_rep.h"
 #include "picture/web_image_rep.h"
@@ -91,10 +92,10 @@ QByteArray PictureEncoder::addEPSHeader(const QByteArray& postScript) {
   return rewriteEpsHeader(postScript, facts, defaults);
 }
 
-QString PictureEncoder::sourceTextOfEps() {
+QByteArray PictureEncoder::programOfEps() {
   const auto* eps = dynamic_cast<const NSEPSImageRep*>(imageRep_.get());
   const qint64 number = header().value(header::EncodingNumber).toLongLong();
-  return sourceText(PictureKind::Eps, eps->EPSRepresentation(), number);
+  return epsWithUtf8Comments(eps->EPSRepresentation(), number);
 }
 
 const HeaderDictionary& PictureEncoder::header() {
@@ -118,10 +119,10 @@ QByteArray PictureEncoder::postScriptDataWithPreview() {
     return fail({ErrorKind::Unsupported, QStringLiteral("the preview could not be written as TIFF")});
   QByteArray postScript;
   if (isEps(imageRep_.get()) && handsOnSource()) {
-    postScript = sourceTextOfEps().toUtf8();
+    postScript = programOfEps();
     if (postScript.isEmpty()) {
-      report_.shortcoming = QStringLiteral(
-          "the source could not be read as text, so the file holds a preview and no PostScript");
+      report_.shortcoming =
+          QStringLiteral("the source has no PostScript, so the file holds a preview and nothing else");
       addWarnings({report_.shortcoming});
     }
   } else {
@@ -133,30 +134,23 @@ QByteArray PictureEncoder::postScriptDataWithPreview() {
 
 QByteArray PictureEncoder::epsiData() {
   if (!imageRep_) return {};
-  QString text;
-  if (isEps(imageRep_.get()) && handsOnSource()) {
-    text = sourceTextOfEps();
-    if (text.isEmpty()) {
-      return fail({ErrorKind::Unsupported,
-                   QStringLiteral("the source could not be read as text, so it cannot be written as EPSI")});
-    }
-  } else {
-    const QByteArray generated = postScriptData();
-    if (generated.isEmpty()) return {};
-    text = QString::fromUtf8(generated);
+  const bool own = isEps(imageRep_.get()) && handsOnSource();
+  const QByteArray program = own ? programOfEps() : postScriptData();
+  if (program.isEmpty()) {
+    return own ? fail({ErrorKind::Unsupported, QStringLiteral("the source has no PostScript")}) : program;
   }
-  if (text.contains(QStringLiteral("%%BeginPreview:"))) return postScriptData();
+  if (lineBeginningWith(program, "%%BeginPreview:") >= 0) return own ? postScriptData() : program;
   noteDepth(24);
   const auto bitmap = bitmapOf(imageRep_, previewSettings(surroundings_.raster));
   if (!bitmap) return {};
   const auto grey = monoclomeBitmap(*bitmap);
   if (!grey) return {};
-  const QString out = insertEpsiPreview(text, *grey);
+  const QByteArray out = insertEpsiPreview(program, *grey);
   if (out.isNull()) {
     return fail(
         {ErrorKind::Unsupported, QStringLiteral("the source has no comments that a preview could follow")});
   }
-  return out.toUtf8();
+  return out;
 }
 
 // ---- PDF --------------------------------------------------------------------------------------------------

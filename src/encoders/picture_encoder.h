@@ -72,7 +72,7 @@ class PictureEncoder {
   [[nodiscard]] std::optional<NSBitmapImageRep> bitmapOf(const std::shared_ptr<NSImageRep>& imageRep,
                                                          const RasterSettings& settings);
   [[nodiscard]] std::optional<NSBitmapImageRep> rasterOf(const std::shared_ptr<NSImageRep>& imageRep);
-  [[nodiscard]] QString sourceTextOfEps();
+  [[nodiscard]] QByteArray programOfEps();
   void noteDepth(int bitsPerPixel) const;
   void addWarnings(const QStringList& warnings);
   [[nodiscard]] RasterProperties rasterProperties() const;

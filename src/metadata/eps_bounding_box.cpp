@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "metadata/dos_eps_header.h"
+#include "metadata/eps_lines.h"
 #include "metadata/text_encoding.h"
 
 namespace norvex {
@@ -11,15 +12,10 @@ namespace {
 bool isBlank(char c) {
   return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '\0';
 }
-bool isLineEnd(char c) {
-  return c == '\n' || c == '\r';
-}
 
 /// The rest of the line that begins at `from`.
 QByteArrayView lineAt(QByteArrayView text, qsizetype from) {
-  qsizetype end = from;
-  while (end < text.size() && !isLineEnd(text[end])) ++end;
-  return text.sliced(from, end - from);
+  return text.sliced(from, lineEndOf(text, from) - from);
 }
 
 /// The next number of a line, in the C notation whatever the locale; moves `at` behind it.
@@ -49,14 +45,13 @@ std::optional<QRectF> boxOf(QByteArrayView line) {
 
 /// Position behind `keyword` at the start of a line, from `from` on; -1 when there is none.
 qsizetype behindKeyword(QByteArrayView text, QByteArrayView keyword, qsizetype from) {
-  for (qsizetype at = from; (at = text.indexOf(keyword, at)) >= 0; ++at)
-    if (at == 0 || isLineEnd(text[at - 1])) return at + keyword.size();
-  return -1;
+  const qsizetype at = lineBeginningWith(text, keyword, from);
+  return at < 0 ? at : at + keyword.size();
 }
 
 std::optional<QRectF> lastBox(QByteArrayView text, QByteArrayView keyword) {
   for (qsizetype at = text.lastIndexOf(keyword); at >= 0; at = text.lastIndexOf(keyword, at - 1)) {
-    if (at == 0 || isLineEnd(text[at - 1]))
+    if (beginsLine(text, at))
       if (const auto box = boxOf(lineAt(text, at + keyword.size()))) return box;
     if (at == 0) break;
   }

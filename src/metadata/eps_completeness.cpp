@@ -7,6 +7,7 @@
 #include <initializer_list>
 
 #include "metadata/dos_eps_header.h"
+#include "metadata/eps_lines.h"
 #include "metadata/eps_program.h"
 
 namespace norvex {
@@ -27,11 +28,8 @@ QByteArrayView withoutBlanksAtEnd(QByteArrayView text) {
   return text;
 }
 
-/// Whether a line begins with `start`.
 bool hasLine(QByteArrayView program, QByteArrayView start) {
-  for (qsizetype at = program.indexOf(start); at >= 0; at = program.indexOf(start, at + 1))
-    if (at == 0 || program[at - 1] == '\n' || program[at - 1] == '\r') return true;
-  return false;
+  return lineBeginningWith(program, start) >= 0;
 }
 
 bool hasOneOfLines(QByteArrayView program, std::initializer_list<const char*> starts) {

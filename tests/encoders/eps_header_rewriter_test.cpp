@@ -68,6 +68,27 @@ class EpsHeaderRewriterTest : public QObject {
                               {{header::Title, "see %%Creator: me"}, {header::Creator, "C"}}, defaults),
              QByteArray("%%Creator: C\n%%Creator: b\n"));
   }
+  void aLineEndInAValueIsABlank() {
+    for (const char* end : {"\n", "\r", "\r\n", "\v", "\f", "\u0085", "\u2028", "\u2029", "\t"}) {
+      const QString value = QStringLiteral("a%1quit").arg(QString::fromUtf8(end));
+      const HeaderDictionary all{{header::Title, value}, {header::Copyright, value}};
+      QCOMPARE(rewriteEpsHeader("%%Title: x\n%%Creator: x\n%%CreationDate: x\n%%For: x\n%%EndComments\n", all,
+                                {value, value, value}),
+               QByteArray("%%Title: a quit\n%%Creator: a quit\n%%CreationDate: a quit\n%%For: a quit\n"
+                          "%%Copyright: a quit\n%%EndComments\n"));
+    }
+  }
+  void controlCharactersAreLeftOut() {
+    const QString value = QString::fromUtf8("a") + QChar(0) + QChar(0x1B) + QChar(0x7F) + QChar(0x9B) +
+                          QString::fromUtf8("  ü\u202E\u00A0😀 b\n\n");
+    QCOMPARE(rewriteEpsHeader("%%Title: x\n", {{header::Title, value}}, defaults),
+             QByteArray("%%Title: a  ü\u202E\u00A0😀 b  \n"));
+  }
+  void theEndOfTheCommentsIsALineOfItsOwn() {
+    const HeaderDictionary values{{header::Title, "a %%EndComments b"}, {header::Copyright, "C"}};
+    QCOMPARE(rewriteEpsHeader("%%Title: x\n%%EndComments\n", values, defaults),
+             QByteArray("%%Title: a %%EndComments b\n%%Copyright: C\n%%EndComments\n"));
+  }
   void bytesThatAreNotUtf8GiveNothing() {
     QVERIFY(rewriteEpsHeader("%%Title: \xE4\n", {{header::Title, "T"}}, defaults).isEmpty());
   }

@@ -16,9 +16,9 @@ NSBitmapImageRep grey(int width, int height, char value = '\xFF') {
   return rep;
 }
 
-QStringList previewLines(int width, int height) {
-  const QString text = insertEpsiPreview(QStringLiteral("%!PS\n%%EndComments\nx"), grey(width, height));
-  return text.split(u'\n').mid(2);
+QByteArrayList previewLines(int width, int height) {
+  const QByteArray text = insertEpsiPreview(QByteArray("%!PS\n%%EndComments\nx"), grey(width, height));
+  return text.split('\n').mid(2);
 }
 
 }  // namespace
@@ -27,13 +27,13 @@ class EpsiWriterTest : public QObject {
   Q_OBJECT
  private slots:
   void aRowBelow1024BitsIsOneLine() {
-    const QStringList lines = previewLines(100, 2);
-    QCOMPARE(lines.at(0), QStringLiteral("%%BeginPreview: 100 2 8 2"));
-    QCOMPARE(lines.at(1), u'%' + QString(200, u'0'));
-    QCOMPARE(lines.at(2), u'%' + QString(200, u'0'));
-    QCOMPARE(lines.at(3), QStringLiteral("%%EndPreview"));
-    QCOMPARE(lines.at(4), QString());
-    QCOMPARE(lines.at(5), QStringLiteral("x"));
+    const QByteArrayList lines = previewLines(100, 2);
+    QCOMPARE(lines.at(0), QByteArray("%%BeginPreview: 100 2 8 2"));
+    QCOMPARE(lines.at(1), '%' + QByteArray(200, '0'));
+    QCOMPARE(lines.at(2), '%' + QByteArray(200, '0'));
+    QCOMPARE(lines.at(3), QByteArray("%%EndPreview"));
+    QCOMPARE(lines.at(4), QByteArray());
+    QCOMPARE(lines.at(5), QByteArray("x"));
   }
   void aRowIsSplitIntoEqualLines_data() {
     QTest::addColumn<int>("width");
@@ -47,13 +47,14 @@ class EpsiWriterTest : public QObject {
     QFETCH(int, width);
     QFETCH(QList<int>, bytesOfTheLines);
     const int height = 3;
-    const QStringList lines = previewLines(width, height);
+    const QByteArrayList lines = previewLines(width, height);
     const qsizetype count = height * bytesOfTheLines.size();
-    QCOMPARE(lines.at(0), QStringLiteral("%%BeginPreview: %1 3 8 %2").arg(width).arg(count));
+    QCOMPARE(lines.at(0),
+             "%%BeginPreview: " + QByteArray::number(width) + " 3 8 " + QByteArray::number(count));
     for (qsizetype i = 0; i < count; ++i) {
       QCOMPARE(lines.at(1 + i).size(), 1 + 2 * bytesOfTheLines.at(i % bytesOfTheLines.size()));
     }
-    QCOMPARE(lines.at(1 + count), QStringLiteral("%%EndPreview"));
+    QCOMPARE(lines.at(1 + count), QByteArray("%%EndPreview"));
   }
   void noLineIsLongerThan255Characters() {
     for (int width = 1; width < 3000; ++width) {
@@ -65,35 +66,57 @@ class EpsiWriterTest : public QObject {
   void bitsAreInverted() {
     NSBitmapImageRep rep = grey(3, 1);
     rep.data = QByteArray("\xFF\x00\x5A", 3);
-    QVERIFY(insertEpsiPreview(QStringLiteral("%%EndComments"), rep).contains(QStringLiteral("\n%00FFA5\n")));
+    QVERIFY(insertEpsiPreview(QByteArray("%%EndComments"), rep).contains(QByteArray("\n%00FFA5\n")));
   }
   void withoutEndCommentsTheBoundingBoxIsTheHead() {
-    const QString out =
-        insertEpsiPreview(QStringLiteral("%!PS\n%%BoundingBox: 0 0 612 792\nbody"), grey(1, 1));
+    const QByteArray out =
+        insertEpsiPreview(QByteArray("%!PS\n%%BoundingBox: 0 0 612 792\nbody"), grey(1, 1));
     QCOMPARE(
         out,
-        QStringLiteral(
+        QByteArray(
             "%!PS\n%%BoundingBox: 0 0 612 792\n%%EndComments\n%%BeginPreview: 1 1 8 1\n%00\n%%EndPreview\n"
             "\nbody"));
   }
   void aRealBoundingBoxStopsAtItsPoint() {
-    const QString out = insertEpsiPreview(QStringLiteral("%%BoundingBox: 1 2 30.5 40\n"), grey(1, 1));
-    QVERIFY2(out.startsWith(QStringLiteral("%%BoundingBox: 1 2 30 30\n%%EndComments\n")), qPrintable(out));
-    QVERIFY2(out.endsWith(QStringLiteral("%%EndPreview\n.5 40\n")), qPrintable(out));
+    const QByteArray out = insertEpsiPreview(QByteArray("%%BoundingBox: 1 2 30.5 40\n"), grey(1, 1));
+    QVERIFY2(out.startsWith(QByteArray("%%BoundingBox: 1 2 30 30\n%%EndComments\n")), out.constData());
+    QVERIFY2(out.endsWith(QByteArray("%%EndPreview\n.5 40\n")), out.constData());
   }
   void aTextWithoutAPlaceGivesNothing() {
-    QVERIFY(insertEpsiPreview(QStringLiteral("%!PS\n"), grey(1, 1)).isNull());
+    QVERIFY(insertEpsiPreview(QByteArray("%!PS\n"), grey(1, 1)).isNull());
   }
   void numbersBeyond32BitsDoNotOverflow() {
-    const QString out =
-        insertEpsiPreview(QStringLiteral("%%BoundingBox: 99999999999999999999 0 1 1"), grey(1, 1));
-    QVERIFY(out.startsWith(QStringLiteral("%%BoundingBox: 2147483647 0 1 1\n")));
+    const QByteArray out =
+        insertEpsiPreview(QByteArray("%%BoundingBox: 99999999999999999999 0 1 1"), grey(1, 1));
+    QVERIFY(out.startsWith(QByteArray("%%BoundingBox: 2147483647 0 1 1\n")));
+  }
+  void aKeywordWithinALineDoesNotMoveThePreview() {
+    const QByteArray head = "%!PS\n%%Title: a %%BoundingBox: 7 7 8 8 %%EndComments quit\n";
+    QVERIFY(insertEpsiPreview(head + "%%EndComments\nx", grey(1, 1))
+                .startsWith(head + "%%EndComments\n%%BeginPreview: 1 1 8 1\n"));
+    QVERIFY(insertEpsiPreview(head + "%%BoundingBox: 0 0 1 1\nx", grey(1, 1))
+                .startsWith(head + "%%BoundingBox: 0 0 1 1\n%%EndComments\n%%BeginPreview: 1 1 8 1\n"));
+  }
+  void whatFollowsOnTheLineStaysAComment() {
+    QVERIFY(insertEpsiPreview("%%EndComments quit\nx", grey(1, 1)).endsWith("%%EndPreview\n% quit\nx"));
+    QVERIFY(insertEpsiPreview("%%BoundingBox: 0 0 1 1 quit\rx", grey(1, 1)).endsWith("\n% quit\rx"));
+    QVERIFY(insertEpsiPreview("%!PS\n%%Title: a %%EndComments quit", grey(1, 1)).endsWith("\n% quit"));
+  }
+  void aBoxThatStandsAtTheEndStaysThere() {
+    const QByteArray head = "%!PS\n%%BoundingBox: (atend)";
+    const QByteArray out = insertEpsiPreview(head + "\nx\n%%BoundingBox: 0 0 9 9\n", grey(1, 1));
+    QVERIFY2(out.startsWith(head + "\n%%EndComments\n%%BeginPreview: 1 1 8 1\n"), out.constData());
+    QVERIFY(out.endsWith("%%EndPreview\n\nx\n%%BoundingBox: 0 0 9 9\n"));
+  }
+  void bytesOfNoEncodingGoOver() {
+    const QByteArray program("\n(\xFF\x80\xFD) show\n\0\x81", 20);
+    QVERIFY(
+        insertEpsiPreview("%!PS\n%%EndComments" + program, grey(1, 1)).endsWith("%%EndPreview\n" + program));
   }
   void dataThatAreTooShortAreNotReadBeyond() {
     NSBitmapImageRep rep = grey(2, 2);
     rep.data.truncate(1);
-    QVERIFY(
-        insertEpsiPreview(QStringLiteral("%%EndComments"), rep).contains(QStringLiteral("%00FF\n%FFFF\n")));
+    QVERIFY(insertEpsiPreview(QByteArray("%%EndComments"), rep).contains(QByteArray("%00FF\n%FFFF\n")));
   }
 };
 

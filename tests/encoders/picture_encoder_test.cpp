@@ -147,18 +147,26 @@ class PictureEncoderTest : public QObject {
         "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n%%Title: Pdf Title\n%%Creator: Drawer\n"));
     QVERIFY(out.endsWith("%%EndComments\nshowpage\n"));
   }
-  void aSourceThatIsNoTextLeavesTheSectionEmptyAndSaysSo() {
+  void aSourceThatIsNoTextGoesOverByteForByte() {
     // Invalid in UTF-8, Shift JIS, EUC-JP, non-lossy ASCII and ASCII alike.
-    PictureEncoder encoder = encoderOf(eps(sourceEps + "\xFF\x80\xFD\xA0\xFF"));
+    const QByteArray source = sourceEps + QByteArray("\xFF\x80\xFD\xA0\0\xFF", 6);
+    PictureEncoder encoder = encoderOf(eps(source));
     const QByteArray out = encoder.postScriptDataWithPreview();
-    QCOMPARE(out.mid(8, 4), QByteArray(4, '\0'));
-    QCOMPARE(encoder.report().warnings,
-             QStringList{QStringLiteral(
-                 "the source could not be read as text, so the file holds a preview and no PostScript")});
-    QCOMPARE(encoder.report().shortcoming, encoder.report().warnings.first());
-    PictureEncoder epsi = encoderOf(eps(sourceEps + "\xFF\x80\xFD\xA0\xFF"));
-    QVERIFY(epsi.epsiData().isEmpty());
-    QVERIFY(epsi.report().error);
+    QVERIFY(out.endsWith(source));
+    QCOMPARE(out.mid(8, 4), char(source.size()) + QByteArray(3, '\0'));
+    QCOMPARE(encoder.report().warnings, QStringList());
+    PictureEncoder epsi = encoderOf(eps(source));
+    const QByteArray interchange = epsi.epsiData();
+    const qsizetype behindComments = source.indexOf("%%EndComments") + 13;
+    QVERIFY(interchange.startsWith(source.first(behindComments) + "\n%%BeginPreview: 200 100 8 200\n"));
+    QVERIFY(interchange.endsWith("\n%%EndPreview\n" + source.sliced(behindComments)));
+  }
+  void aPreviewInATitleIsNone() {
+    MemoryPicture memory = picture();
+    memory.facts.title = QStringLiteral("a %%BeginPreview: 1 1 1 1 %%EndComments quit");
+    service_->memory.setPicture(memory);
+    const QByteArray out = encoderOf(svg()).epsiData();
+    QVERIFY(out.contains("\n%%EndComments\n%%BeginPreview: 200 100 8 200\n"));
   }
 
   void aFontThatIsMissingIsAWarningAndNothingThatTheFileLacks() {

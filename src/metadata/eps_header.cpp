@@ -62,15 +62,21 @@ qint64 declaredEncoding(const DscComments& comments, qint64 current) {
   return current;
 }
 
-void insertPreview(HeaderDictionary& dictionary, const std::optional<NSBitmapImageRep>& preview) {
-  if (preview) dictionary.insert(header::Preview, QVariant::fromValue(*preview));
+void insertPreview(HeaderDictionary& dictionary, const NSBitmapImageRep& preview) {
+  dictionary.insert(header::Preview, QVariant::fromValue(preview));
+}
+
+void insertInterchangePreview(HeaderDictionary& dictionary, QByteArrayView behindKeyword) {
+  if (const auto preview = epsiPreview(behindKeyword)) insertPreview(dictionary, *preview);
 }
 
 void insertTiffPreview(HeaderDictionary& dictionary, QByteArrayView tiff, const TiffDecoder& decodeTiff) {
   if (!decodeTiff) return;
   const auto preview = tiff.isEmpty() ? std::nullopt : decodeTiff(tiff.toByteArray());
-  if (!preview) qCInfo(metadataLog, "EPS preview image is nil in Corvane");
-  insertPreview(dictionary, preview);
+  if (preview)
+    insertPreview(dictionary, *preview);
+  else
+    qCInfo(metadataLog, "EPS preview image is nil in Corvane");
 }
 
 void insertEncoding(HeaderDictionary& dictionary, qint64 number) {
@@ -92,20 +98,28 @@ void insertNoText(HeaderDictionary& dictionary, qint64 number) {
   qCInfo(metadataLog, "Corvane can't get EPSHeader because string encoding is bad.");
 }
 
+/// A preview is digits in comment lines, which every encoding of a program leaves readable.
+void insertNoText(HeaderDictionary& dictionary, qint64 number, QByteArrayView source) {
+  insertNoText(dictionary, number);
+  const QByteArrayView keyword("%%BeginPreview:");
+  if (const qsizetype at = source.indexOf(keyword); at >= 0)
+    insertInterchangePreview(dictionary, source.sliced(at + keyword.size()));
+}
+
 void readPlain(HeaderDictionary& dictionary, QByteArrayView source, const Start& start) {
   const FoundText text = plainText(source, start);
-  if (!text.decoded) return insertNoText(dictionary, text.encodingNumber);
+  if (!text.decoded) return insertNoText(dictionary, text.encodingNumber, source);
   std::optional<DscComments> comments(std::in_place, text.bytes, text.encodingNumber);
   const qint64 declared = declaredEncoding(*comments, text.encodingNumber);
   if (declared != text.encodingNumber) {
     // The whole source again, its byte-order mark included.
-    if (!isDecodable(source, declared)) return insertNoText(dictionary, declared);
+    if (!isDecodable(source, declared)) return insertNoText(dictionary, declared, source);
     comments.emplace(source, declared);
   }
   insertEncoding(dictionary, declared);
   insertComments(dictionary, *comments);
   if (comments->contains(DscKeyword::BeginPreview))
-    insertPreview(dictionary, epsiPreview(comments->textBehind(DscKeyword::BeginPreview)));
+    insertInterchangePreview(dictionary, comments->textBehind(DscKeyword::BeginPreview));
 }
 
 void readBinary(HeaderDictionary& dictionary, QByteArrayView source, const DosEpsHeader& header,

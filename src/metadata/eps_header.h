@@ -18,8 +18,9 @@ using TiffDecoder = std::function<std::optional<NSBitmapImageRep>(const QByteArr
 /// Header dictionary of an EPS, EPSI or PostScript-based Illustrator source. "Encoding" and "EncodingNumber"
 /// are always there when there are bytes; Title, Creator, CreationDate, For, Copyright and Description are
 /// all there (perhaps empty) when the text could be decoded and all absent when not. "Preview" is the TIFF
-/// section through `decodeTiff` (none passed: no TIFF preview is looked for) or an interchange preview. Never
-/// fails: no bytes give the empty dictionary. Thread-safe as far as `decodeTiff` is.
+/// section through `decodeTiff` (none passed: no TIFF preview is looked for) or the interchange preview of a
+/// plain source, decoded or not. Never fails: no bytes give the empty dictionary. Thread-safe as far as
+/// `decodeTiff` is.
 [[nodiscard]] HeaderDictionary epsHeader(const QByteArray& source, const TiffDecoder& decodeTiff = {});
 
 }  // namespace norvex

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "protocol/limits.h"
 
@@ -84,14 +85,16 @@ qint64 epsiBytesPerRow(qint64 width, qint64 depth) {
   return width * depth / 8 + (depth % 8 != 0 && width % 8 != 0 ? 1 : 0);
 }
 
-std::optional<NSBitmapImageRep> epsiPreview(QByteArrayView behindKeyword) {
+Result<NSBitmapImageRep> epsiPreview(QByteArrayView behindKeyword) {
   Scanner scanner(behindKeyword);
   const auto width = scanner.wholeNumber();
   const auto height = width ? scanner.wholeNumber() : std::nullopt;
   const auto depth = height ? scanner.wholeNumber() : std::nullopt;
   const auto lines = depth ? scanner.wholeNumber() : std::nullopt;
-  if (!lines || *width <= 0 || *height <= 0 || !isDepth(*depth)) return {};
-  if (*width > limits::maximumPreviewPixels || *height > limits::maximumPreviewPixels / *width) return {};
+  if (!lines || *width <= 0 || *height <= 0 || !isDepth(*depth))
+    return Error{ErrorKind::NotParsable, QStringLiteral("the embedded preview is malformed")};
+  if (*width > limits::maximumPreviewPixels || *height > limits::maximumPreviewPixels / *width)
+    return Error{ErrorKind::Limit, QStringLiteral("the embedded preview is too large")};
 
   NSBitmapImageRep rep;
   rep.pixelsWide = int(*width);

@@ -167,6 +167,10 @@ bool isDecodable(QByteArrayView bytes, qint64 encodingNumber) {
   }
 }
 
+std::optional<QString> decodeNamedText(QByteArrayView bytes, const char* name) {
+  return convert(bytes, name);
+}
+
 std::optional<QByteArray> encodeText(QStringView text, qint64 encodingNumber) {
   switch (encodingNumber) {
     case encoding::Ascii: {

@@ -21,6 +21,10 @@ namespace norvex {
 /// Whether decodeText() would give a text, for less work where the encoding allows it. Thread-safe.
 [[nodiscard]] bool isDecodable(QByteArrayView bytes, qint64 encodingNumber);
 
+/// The text of `bytes` in an encoding of ICU's by name ("macintosh"), for readings that no encoding number
+/// stands for. All or nothing, as above; nothing for an unknown name. Thread-safe.
+[[nodiscard]] std::optional<QString> decodeNamedText(QByteArrayView bytes, const char* name);
+
 /// The bytes of `text` in the encoding of that number. All or nothing: a character that the encoding cannot
 /// say gives nothing. UTF-16 is written big-endian behind a mark. Thread-safe.
 [[nodiscard]] std::optional<QByteArray> encodeText(QStringView text, qint64 encodingNumber);

@@ -10,7 +10,8 @@ Result<Bitmap> Bitmap::create(QSize size) {
   bitmap.size_ = size;
   if (size.isEmpty()) return bitmap;
   // Paper that nothing is drawn on costs no memory this way.
-  auto* pixels = static_cast<Argb32*>(std::calloc(size_t(size.width()) * size_t(size.height()), sizeof(Argb32)));
+  auto* pixels =
+      static_cast<Argb32*>(std::calloc(size_t(size.width()) * size_t(size.height()), sizeof(Argb32)));
   if (pixels == nullptr)
     return Error{ErrorKind::Limit, QStringLiteral("there is not enough memory to draw the picture")};
   bitmap.pixels_ = std::shared_ptr<Argb32[]>(pixels, &std::free);

@@ -12,10 +12,18 @@ namespace norvex::engine {
 
 /// A pixel 0xAARRGGBB, like QRgb, which is part of Qt Gui.
 using Argb32 = quint32;
-[[nodiscard]] inline int alpha(Argb32 pixel) { return int(pixel >> 24); }
-[[nodiscard]] inline int red(Argb32 pixel) { return int(pixel >> 16 & 0xFF); }
-[[nodiscard]] inline int green(Argb32 pixel) { return int(pixel >> 8 & 0xFF); }
-[[nodiscard]] inline int blue(Argb32 pixel) { return int(pixel & 0xFF); }
+[[nodiscard]] inline int alpha(Argb32 pixel) {
+  return int(pixel >> 24);
+}
+[[nodiscard]] inline int red(Argb32 pixel) {
+  return int(pixel >> 16 & 0xFF);
+}
+[[nodiscard]] inline int green(Argb32 pixel) {
+  return int(pixel >> 8 & 0xFF);
+}
+[[nodiscard]] inline int blue(Argb32 pixel) {
+  return int(pixel & 0xFF);
+}
 
 /// Premultiplied ARGB32 in native byte order, rows top to bottom without padding. A value whose copies share
 /// their pixels.

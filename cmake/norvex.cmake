@@ -12,8 +12,10 @@ endif()
 add_library(norvex_flags INTERFACE)
 target_compile_options(norvex_flags INTERFACE
   -Wall -Wextra -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Wpedantic
-  $<$<BOOL:${NORVEX_WERROR}>:-Werror>
-  $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+  $<$<BOOL:${NORVEX_WERROR}>:-Werror>)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
+  target_compile_options(norvex_flags INTERFACE -fpch-preprocess)  # what ccache asks for
+endif()
 target_compile_definitions(norvex_flags INTERFACE
   NORVEX_VERSION="${PROJECT_VERSION}" QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
 if(NORVEX_SANITIZE)
@@ -61,6 +63,29 @@ function(norvex_folder folder)
   list(TRANSFORM ARG_NEEDS REPLACE "/" "_")
   target_link_libraries(${name} PUBLIC norvex_flags ${ARG_NEEDS} ${ARG_LINK})
   target_precompile_headers(${name} REUSE_FROM norvex_pch)
+  if(NORVEX_HEADERS_ALONE)
+    norvex_headers_alone(${folder} ${name} ${headers})
+  endif()
+endfunction()
+
+# norvex_headers_alone(FOLDER LIBRARY header…): each header that no source of its own name includes first is compiled
+# by itself, with what its folder sees.
+function(norvex_headers_alone folder library)
+  set(sources)
+  foreach(header ${ARGN})
+    get_filename_component(stem ${header} NAME_WE)
+    get_filename_component(place ${header} DIRECTORY)
+    if(NOT EXISTS ${place}/${stem}.cpp)
+      set(source ${CMAKE_BINARY_DIR}/headers/${folder}/${stem}.cpp)
+      file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${folder}/${stem}.h\"\n")
+      list(APPEND sources ${source})
+    endif()
+  endforeach()
+  if(sources)
+    add_library(${library}_headers OBJECT ${sources})
+    target_link_libraries(${library}_headers PRIVATE ${library})
+    set_target_properties(${library}_headers PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+  endif()
 endfunction()
 
 # norvex_folders(TABLE): a library for each line "FOLDER | folders that it may include | other libraries".

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cassert>
+#include <cstddef>
 #include <utility>
 #include <variant>
 
@@ -38,15 +39,23 @@ class [[nodiscard]] Result {
 
   [[nodiscard]] bool ok() const { return state_.index() == 0; }
   explicit operator bool() const { return ok(); }
-  [[nodiscard]] T& value() { return assert(ok()), *std::get_if<0>(&state_); }
-  [[nodiscard]] const T& value() const { return assert(ok()), *std::get_if<0>(&state_); }
-  [[nodiscard]] const Error& error() const { return assert(!ok()), *std::get_if<1>(&state_); }
+  [[nodiscard]] T& value() { return held<0>(state_); }
+  [[nodiscard]] const T& value() const { return held<0>(state_); }
+  [[nodiscard]] const Error& error() const { return held<1>(state_); }
   T& operator*() { return value(); }
   const T& operator*() const { return value(); }
   T* operator->() { return &value(); }
   const T* operator->() const { return &value(); }
 
  private:
+  /// Asserts the pointer rather than the index: whoever reasons about the code sees that it is not null.
+  template <std::size_t index, typename State>
+  static auto& held(State& state) {
+    auto* const alternative = std::get_if<index>(&state);
+    assert(alternative);
+    return *alternative;
+  }
+
   std::variant<T, Error> state_;
 };
 

@@ -1,7 +1,7 @@
 // Sizes and forms that every source keeps.
 #include <QDirIterator>
 #include <QFile>
-#include <QProcess>
+#include <QRegularExpression>
 
 #include "kit/test_main.h"
 
@@ -13,6 +13,15 @@ QStringList files(const QString& folder, const QStringList& patterns) {
                   QDirIterator::Subdirectories);
   while (it.hasNext()) all << it.next();
   all.sort();
+  return all;
+}
+
+/// What is written by hand at the root of the tree.
+QStringList rootFiles() {
+  QStringList all;
+  const QDir root(QStringLiteral(NORVEX_SOURCE_DIR));
+  const QStringList named{"run", "test", "*.md", "CMake*", ".clang-*", ".git?*"};
+  for (const QFileInfo& file : root.entryInfoList(named, QDir::Files | QDir::Hidden)) all << file.filePath();
   return all;
 }
 
@@ -42,8 +51,25 @@ class SourcesTest : public QObject {
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
   }
 
+  /// What is written down must hold on every machine and for every reader.
+  void nothingNamesThePlaceWhereItWasWrittenOrAListThatOnlyItsAuthorSees() {
+    const QByteArray here = QByteArray(NORVEX_SOURCE_DIR) + '/';
+    static const QRegularExpression numbered(QStringLiteral("\\w #[0-9]{1,4}\\b"));
+    QStringList wrong;
+    const QStringList all = files("src", {"*.h", "*.cpp", "*.txt"}) +
+                            files("tests", {"*.h", "*.cpp", "*.txt"}) + files("scripts", {"*"}) +
+                            files("cmake", {"*"}) + files("docs", {"*.md"}) + files(".ci", {"*"}) +
+                            rootFiles();
+    for (const QString& path : all) {
+      const QByteArray text = contents(path);
+      if (text.contains(here) || numbered.match(QString::fromUtf8(text)).hasMatch()) wrong << path;
+    }
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+  }
+
   void everyScriptIsExecutable() {
-    for (const char* script : {"run", "test", ".ci/run", "scripts/install-packages"})
+    for (const char* script : {"run", "test", ".ci/run", "scripts/install-packages", "scripts/check-format",
+                               "scripts/check-headers", "scripts/check-tidy", "scripts/draw-folders"})
       QVERIFY2(QFileInfo(QStringLiteral(NORVEX_SOURCE_DIR "/") + script).isExecutable(), script);
   }
 };

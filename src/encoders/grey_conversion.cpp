@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <memory>
 #include <vector>
 
 namespace norvex {
@@ -81,7 +83,7 @@ void GreyConversion::fromCalibratedRGB(const double* rgb, double* white, int cou
 
 bool GreyConversion::fromDeviceCMYK(const double* cmyk, double* white, int count) const {
   if (!transforms_->cmykToXYZ) return false;
-  std::vector<double> percent(cmyk, cmyk + qsizetype(count) * 4);
+  std::vector<double> percent(cmyk, cmyk + std::ptrdiff_t(count) * 4);
   for (double& ink : percent) ink *= 100;
   std::vector<cmsCIEXYZ> xyz(static_cast<size_t>(count));
   cmsDoTransform(transforms_->cmykToXYZ.get(), percent.data(), xyz.data(),

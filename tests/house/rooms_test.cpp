@@ -68,6 +68,23 @@ class RoomsTest : public QObject {
     const QByteArray said = drawing.readAllStandardError();
     QVERIFY2(drawing.exitStatus() == QProcess::NormalExit && drawing.exitCode() == 0, said.constData());
   }
+
+  void theFilesThatThePagesNameAreThere() {
+    static const QRegularExpression named(
+        QStringLiteral("`((?:src|tests|scripts|docs|cmake|\\.ci)/[a-z0-9_/.-]+)`"));
+    QStringList wrong;
+    int seen = 0;
+    for (const char* page : {"ARCHITECTURE.md", "CONTRIBUTING.md", "README.md"}) {
+      QFile file(kRoot + page);
+      QVERIFY(file.open(QIODevice::ReadOnly));
+      auto matches = named.globalMatch(QString::fromUtf8(file.readAll()));
+      for (; matches.hasNext(); ++seen)
+        if (const QString path = matches.next().captured(1); !QFileInfo::exists(kRoot + path))
+          wrong << page + QStringLiteral(": ") + path;
+    }
+    QVERIFY(seen > 30);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+  }
 };
 
 NORVEX_TEST(RoomsTest)

@@ -114,6 +114,11 @@ void NorvexView::mouseDragged(const QPointF& point) {
 void NorvexView::mouseUp(const QPointF& point) {
   if (!selection_.tracking()) return;
   trackEvent(point, false);
+  endTracking();
+}
+
+void NorvexView::endTracking() {
+  if (!selection_.tracking()) return;
   const Selection::Ending ending = selection_.release();
   if (host_) host_->setPeriodicEvents(false);
   if (ending == Selection::Ending::Clear) clearSelectRect();
@@ -123,13 +128,6 @@ void NorvexView::mouseUp(const QPointF& point) {
 void NorvexView::periodicEvent(const QPointF& point) {
   if (!selection_.tracking() || !selection_.sawDrag()) return;
   if (!visibleRect().contains(point)) trackEvent(point, true);
-}
-
-void NorvexView::cancelTracking() {
-  if (!selection_.tracking()) return;
-  selection_.cancel();
-  if (host_) host_->setPeriodicEvents(false);
-  clearSelectRect();
 }
 
 void NorvexView::trackEvent(const QPointF& point, bool dragged) {

@@ -121,8 +121,9 @@ class NorvexView {
   /// A tick of ViewHost::setPeriodicEvents: once the pointer was dragged, counts as a drag while `point` lies
   /// outside the visible part. A press that is only held stays a click, however long it takes.
   void periodicEvent(const QPointF& point);
-  /// The pointer was lost during a drag: the selection is cleared.
-  void cancelTracking();
+  /// The pointer was lost during a drag: the drag ends as if the button had been released where it was last
+  /// seen.
+  void endTracking();
   void clearSelectRect();
   void selectBounds();
   /// Draws the overlay in picture coordinates and refreshes topLeft and bottomRight. The number is not used.

@@ -44,9 +44,6 @@ class Selection {
   void track(const QPointF& point, bool dragged);
   /// After the track() of the button going up.
   Ending release();
-  /// The drag is over without a release, for instance because the window lost the pointer.
-  void cancel() { drag_ = Drag::None; }
-
   /// False, and nothing done, with a width of 0 or less. The origin stays.
   bool clear();
   void select(const QRectF& rect) { rect_ = rect; }

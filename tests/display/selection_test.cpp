@@ -235,18 +235,29 @@ class SelectionTest : public QObject {
     QCOMPARE(f.delegate.last, (QStringList{"50\t30", "90\t60", "40\t30"}));
   }
 
-  void aLostPointerClearsTheSelection() {
+  void aLostPointerEndsTheDragWhereItWasLastSeen() {
     ViewFixture f;
     QVERIFY(f.view.mouseDown());
     f.view.mouseDragged({10, 10});
-    f.view.cancelTracking();
-    QCOMPARE(f.view.selection().state(), Selection::State::None);
-    QCOMPARE(f.host.calls.last(), QString("report ||"));
+    f.view.endTracking();
+    QCOMPARE(f.view.selectRect(), QRectF(10, 10, 1, 0));
     QVERIFY(f.host.calls.contains("periodicEvents off"));
     f.host.calls.clear();
     f.view.mouseUp({20, 20});
-    f.view.cancelTracking();
+    f.view.endTracking();
     QVERIFY(f.host.calls.isEmpty());
+    QVERIFY(f.view.mouseDown());
+    f.view.mouseDragged({30, 40});
+    f.view.endTracking();
+    QCOMPARE(f.view.selectRect(), QRectF(10, 10, 20, 30));
+  }
+
+  void aPointerLostBeforeTheSecondDragMovedLeavesTheStartPoint() {
+    ViewFixture f;
+    f.drag({{-50, -20}});
+    QVERIFY(f.view.mouseDown());
+    f.view.endTracking();
+    QCOMPARE(f.view.selectRect(), QRectF(-50, -20, 1, 0));
   }
 
   void aReloadDuringADragKeepsTheSelectionInTheNewBounds() {

@@ -1,5 +1,7 @@
 #include "ui/picture/norvex_view_widget.h"
 
+#include <QApplication>
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -19,10 +21,33 @@ namespace {
 constexpr int kPeriodMs = 40;
 constexpr double kLargestStep = 40;  // logical pixels
 
+/// What a person does other than moving the pointer and letting go of the left button.
+bool isOtherInput(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::Wheel:
+    case QEvent::Gesture:
+    case QEvent::GestureOverride:
+    case QEvent::NativeGesture:
+    case QEvent::ContextMenu:
+      return true;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+      return static_cast<const QMouseEvent&>(event).button() != Qt::LeftButton;
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 NorvexViewWidget::NorvexViewWidget(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);  // the crosshair is the view's, and the view may be smaller than this widget
   periodic_.setInterval(kPeriodMs);
   connect(&periodic_, &QTimer::timeout, this,
           [this] { view_.periodicEvent(toView(mapFromGlobal(pointer_))); });
@@ -113,8 +138,24 @@ void NorvexViewWidget::setPeriodicEvents(bool on) {
     periodic_.stop();
 }
 
-void NorvexViewWidget::addCrosshairCursorRect(const QRectF&) {
-  setCursor(Qt::CrossCursor);
+void NorvexViewWidget::addCrosshairCursorRect(const QRectF& rect) {
+  crosshair_ = rect;
+  showPointer(mapFromGlobal(QPointF(QCursor::pos())));
+}
+
+void NorvexViewWidget::setPointer(std::optional<Qt::CursorShape> shape) {
+  shape_ = shape;
+  view_.resetCursorRects();
+}
+
+void NorvexViewWidget::showPointer(const QPointF& at) {
+  if (shape_) return setCursor(*shape_);
+  const QRectF device =
+      QRectF(fromView(crosshair_.topLeft()), fromView(crosshair_.bottomRight())).normalized();
+  if (tracking_ || device.contains(at))
+    setCursor(Qt::CrossCursor);
+  else
+    unsetCursor();
 }
 
 void NorvexViewWidget::drawBackground(QPainter& painter, const QRect& dirty) {
@@ -147,26 +188,43 @@ void NorvexViewWidget::paintEvent(QPaintEvent* event) {
 }
 
 void NorvexViewWidget::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return event->ignore();
+  if (event->button() != Qt::LeftButton || !viewInWidget().contains(event->position()))
+    return event->ignore();
   pointer_ = event->globalPosition();
-  tracking_ = view_.mouseDown();
+  track(view_.mouseDown());
 }
 
 void NorvexViewWidget::mouseMoveEvent(QMouseEvent* event) {
-  if (!tracking_ || !(event->buttons() & Qt::LeftButton)) return event->ignore();
+  // The release was for somebody else, who had taken the pointer.
+  if (tracking_ && !(event->buttons() & Qt::LeftButton)) loseTracking();
+  if (!tracking_) {
+    view_.resetCursorRects();
+    showPointer(event->position());
+    return event->ignore();
+  }
   pointer_ = event->globalPosition();
   view_.mouseDragged(toView(event->position()));
 }
 
 void NorvexViewWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (!tracking_ || event->button() != Qt::LeftButton) return event->ignore();
-  tracking_ = false;
+  track(false);
   view_.mouseUp(toView(event->position()));
+  showPointer(event->position());
 }
 
-bool NorvexViewWidget::event(QEvent* event) {
-  if (event->type() == QEvent::WindowDeactivate) loseTracking();
-  return QWidget::event(event);
+void NorvexViewWidget::track(bool on) {
+  tracking_ = on;
+  qApp->removeEventFilter(this);
+  if (on) qApp->installEventFilter(this);
+}
+
+bool NorvexViewWidget::eventFilter(QObject* watched, QEvent* event) {
+  // A modal window of our own gets the release that this one will never see.
+  if (event->type() == QEvent::WindowBlocked && watched == window()) loseTracking();
+  if (!tracking_ || !isOtherInput(*event)) return QWidget::eventFilter(watched, event);
+  event->accept();
+  return true;
 }
 
 void NorvexViewWidget::showEvent(QShowEvent* event) {
@@ -182,8 +240,8 @@ void NorvexViewWidget::hideEvent(QHideEvent* event) {
 
 void NorvexViewWidget::loseTracking() {
   if (!tracking_) return;
-  tracking_ = false;
-  view_.cancelTracking();
+  track(false);
+  view_.endTracking();
 }
 
 void NorvexViewWidget::watchScreen() {

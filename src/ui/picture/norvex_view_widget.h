@@ -5,6 +5,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
+
 #include "display/norvex_view.h"
 #include "display/view_host.h"
 
@@ -13,8 +15,10 @@ namespace norvex {
 class ZoomingScrollArea;
 
 /// Fills the clip of its scroll area and draws there what the clip shows of the view. Owns the view and is
-/// its host. Forwards the left button as press, move and release; what they mean is the view's business.
-/// Takes no keyboard focus: the scroll area has it. Main thread.
+/// its host. Forwards the left button as press, move and release where the view is, not beside it; what they
+/// mean is the view's business. While such a drag lasts the application handles no other key, wheel, gesture
+/// or button, and losing the focus does not end it. Takes no keyboard focus: the scroll area has it. Main
+/// thread.
 class NorvexViewWidget final : public QWidget, public ViewHost {
   Q_OBJECT
  public:
@@ -46,6 +50,10 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   void setPeriodicEvents(bool on) override;
   void addCrosshairCursorRect(const QRectF& rect) override;
 
+  /// A pointer for the whole widget while something else than selecting is done with it; nothing: the view's
+  /// crosshair over the part of the view that can be seen, and the usual pointer beside it.
+  void setPointer(std::optional<Qt::CursorShape> shape);
+
  signals:
   /// A drawing was made; tells in what time, in milliseconds (for measurements).
   void drawn(double milliseconds);
@@ -55,7 +63,7 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
-  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
 
@@ -66,13 +74,17 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   void drawBackground(QPainter& painter, const QRect& dirty);
   void watchScreen();
   void loseTracking();
+  void track(bool on);
+  void showPointer(const QPointF& at);
 
   NorvexView view_;
   QPointer<ZoomingScrollArea> area_;
   QColor background_;
   bool tracking_ = false, painting_ = false, screenWatched_ = false;
   QTimer periodic_;
-  QPointF pointer_;  ///< where the pointer was last seen during a drag; global, logical pixels
+  QPointF pointer_;   ///< where the pointer was last seen during a drag; global, logical pixels
+  QRectF crosshair_;  ///< where the crosshair is shown; view coordinates
+  std::optional<Qt::CursorShape> shape_;
 };
 
 }  // namespace norvex

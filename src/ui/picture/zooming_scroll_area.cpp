@@ -259,7 +259,6 @@ void ZoomingScrollArea::styleBars() {
 }
 
 void ZoomingScrollArea::keyPressEvent(QKeyEvent* event) {
-  if (isDragging()) return;
   switch (event->key()) {
     case Qt::Key_Left:
       return horizontal_->triggerAction(QAbstractSlider::SliderSingleStepSub);

@@ -86,7 +86,7 @@ class ZoomingScrollArea final : public QWidget {
   bool pinch(QEvent* event);
   bool pan(QEvent* event);
   bool holdSpace(const QKeyEvent& event);
-  [[nodiscard]] bool isDragging() const;
+  void showHand();
   void pinchTo(double factor, const QPointF& global);
 
   struct Card {

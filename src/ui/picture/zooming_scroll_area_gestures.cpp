@@ -36,11 +36,6 @@ void ZoomingScrollArea::wheelEvent(QWheelEvent* event) {
 
 bool ZoomingScrollArea::event(QEvent* event) {
   if (event->type() == QEvent::Gesture && pinch(event)) return true;
-  // While a rectangle is dragged nothing else is handled: no command either.
-  if (event->type() == QEvent::ShortcutOverride && isDragging()) {
-    event->accept();
-    return true;
-  }
   return QWidget::event(event);
 }
 
@@ -66,7 +61,7 @@ bool ZoomingScrollArea::pan(QEvent* event) {
         mouse->button() == Qt::MiddleButton || (spaceHeld_ && mouse->button() == Qt::LeftButton);
     if (!wanted) return false;
     panFrom_ = mouse->position();
-    document_->setCursor(Qt::ClosedHandCursor);
+    document_->setPointer(Qt::ClosedHandCursor);
     return true;
   }
   if (!panFrom_) return false;
@@ -74,20 +69,21 @@ bool ZoomingScrollArea::pan(QEvent* event) {
   panFrom_ = mouse->position();
   if (event->type() == QEvent::MouseButtonRelease) {
     panFrom_.reset();
-    document_->setCursor(spaceHeld_ ? Qt::OpenHandCursor : Qt::CrossCursor);
+    showHand();
   }
   return true;
 }
 
-bool ZoomingScrollArea::isDragging() const {
-  return document_ && document_->view().selection().tracking();
+void ZoomingScrollArea::showHand() {
+  if (!document_ || panFrom_) return;
+  document_->setPointer(spaceHeld_ ? std::optional(Qt::OpenHandCursor) : std::nullopt);
 }
 
 bool ZoomingScrollArea::holdSpace(const QKeyEvent& event) {
   if (event.key() != Qt::Key_Space) return false;
   if (event.isAutoRepeat()) return true;
   spaceHeld_ = event.type() == QEvent::KeyPress;
-  if (document_ && !panFrom_) document_->setCursor(spaceHeld_ ? Qt::OpenHandCursor : Qt::CrossCursor);
+  showHand();
   return true;
 }
 
@@ -97,7 +93,7 @@ void ZoomingScrollArea::keyReleaseEvent(QKeyEvent* event) {
 
 void ZoomingScrollArea::focusOutEvent(QFocusEvent* event) {
   spaceHeld_ = false;
-  if (document_ && !panFrom_) document_->setCursor(Qt::CrossCursor);
+  showHand();
   QWidget::focusOutEvent(event);
 }
 

@@ -6,6 +6,8 @@
 #include <cmath>
 
 #include "kit/test_main.h"
+#include "picture/pdf_image_rep.h"
+#include "picture/process/memory_picture_service.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
 
@@ -28,6 +30,21 @@ struct Area {
   void wheel(QPoint angle, Qt::KeyboardModifiers modifiers, QPointF at = {100, 50}) {
     QWheelEvent event(at, area.mapToGlobal(at), {}, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&area, &event);
+  }
+  /// A picture that can be selected from, of that size.
+  void givePicture(const QSizeF& size = {1000, 800}) {
+    static MemoryPictureService pictures;
+    const auto made = NSPDFImageRep::imageRepWithData(pictures, emptyPdf(size));
+    if (!made) qFatal("no picture");
+    widget->view().setImageRep(*made);
+    widget->view().setImageSize(size);
+    widget->view().setRotate(0, false);
+    area.scrollToTop();
+  }
+  void drag(QPoint from, QPoint to) {
+    QTest::mousePress(widget, Qt::LeftButton, {}, from);
+    QTest::mouseMove(widget, to);
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
   }
   ZoomingScrollArea area;
   NorvexViewWidget* widget = new NorvexViewWidget;
@@ -126,6 +143,69 @@ class ZoomingScrollAreaTest : public QObject {
     a.area.setDrawsBackground(false);
     QVERIFY(a.widget->grab().toImage().pixelColor(200, 200) != QColor(10, 200, 30));
     QCOMPARE(a.area.backgroundColor(), QColor(10, 200, 30));
+  }
+
+  // ---- the left button, which is the view's
+
+  void whileADragLastsNothingElseIsHandled() {
+    Area a;
+    a.givePicture();
+    QTest::mousePress(a.widget, Qt::LeftButton, {}, {100, 100});
+    QTest::mouseMove(a.widget, {150, 120});
+    a.wheel({0, 120}, Qt::ControlModifier);
+    a.wheel({0, -120}, Qt::NoModifier);
+    QTest::keyClick(&a.area, Qt::Key_PageDown);
+    QTest::mousePress(a.widget, Qt::MiddleButton, {}, {150, 120});
+    QTest::mouseMove(a.widget, {150, 100});
+    QTest::mouseRelease(a.widget, Qt::MiddleButton, {}, {150, 100});
+    QCOMPARE(a.area.scrollView().factor(), 1.0);
+    QCOMPARE(a.area.scrollOffset(), QPointF(0, 0));
+    QTest::mouseRelease(a.widget, Qt::LeftButton, {}, {150, 100});
+    QCOMPARE(a.widget->view().selectRect().size(), QSizeF(1, 0));
+    a.wheel({0, 120}, Qt::ControlModifier);
+    QCOMPARE(a.area.scrollView().factor(), 1.25);
+  }
+
+  void losingTheFocusDoesNotEndADrag() {
+    Area a;
+    a.givePicture();
+    a.drag({100, 100}, {150, 120});
+    QTest::mousePress(a.widget, Qt::LeftButton, {}, {10, 10});
+    QTest::mouseMove(a.widget, {200, 200});
+    QEvent deactivate(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(a.widget, &deactivate);
+    QTest::mouseMove(a.widget, {250, 180});
+    QTest::mouseRelease(a.widget, Qt::LeftButton, {}, {250, 180});
+    QCOMPARE(a.widget->view().selectRect(), QRectF(a.widget->toView({150, 180}), QSizeF(100, 60)));
+  }
+
+  void pressesBesideThePictureAreNoneOfTheViews() {
+    Area a;
+    a.givePicture({100, 80});
+    const QPoint beside(20, 20), inside = a.widget->rect().center();
+    a.drag(beside, beside + QPoint(10, 10));
+    QCOMPARE(a.widget->view().selectRect().size(), QSizeF(0, 0));
+    a.widget->view().selectBounds();
+    QTest::mouseClick(a.widget, Qt::LeftButton, {}, beside);
+    QCOMPARE(a.widget->view().selectRect(), a.widget->view().bounds());
+    QTest::mouseClick(a.widget, Qt::LeftButton, {}, inside);
+    QCOMPARE(a.widget->view().selectRect().size(), QSizeF(0, 0));
+    // A drag that began on the picture may leave it.
+    a.drag(inside, beside);
+    QCOMPARE(a.widget->view().selectRect(), QRectF(QPointF(-50, 40), QSizeF(1, 0)));
+  }
+
+  void theCrosshairIsShownOverThePictureAlone() {
+    Area a;
+    a.givePicture({100, 80});
+    const QPoint inside = a.widget->rect().center();
+    QTest::mouseMove(a.widget, inside);
+    QCOMPARE(a.widget->cursor().shape(), Qt::CrossCursor);
+    QTest::mouseMove(a.widget, QPoint(20, 20));
+    QCOMPARE(a.widget->cursor().shape(), Qt::ArrowCursor);
+    a.area.scrollView().setFactor(4);
+    QTest::mouseMove(a.widget, QPoint(60, 60));
+    QCOMPARE(a.widget->cursor().shape(), Qt::CrossCursor);
   }
 
   void aPointOutsideScrollsOnlyALittle() {

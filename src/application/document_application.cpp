@@ -99,8 +99,9 @@ void DocumentApplication::startPanelDismissed() {
 }
 
 void DocumentApplication::applicationDidResignActive() {
-  // A panel of the desktop's own is another program, and a file on its way is as good as open.
-  if (modal_ > 0 || documents_.isReading()) return;
+  // A panel of the desktop's own is another program, a file on its way is as good as open, and the start
+  // panel waits for files that are dragged from another window: leaving it for a moment leaves nothing.
+  if (modal_ > 0 || documents_.isReading() || startPanel_->isVisible()) return;
   delegate_.applicationDidResignActive(this);
 }
 
@@ -108,10 +109,9 @@ void DocumentApplication::showFailure(const OpenFailure& failure) {
   const QFileInfo file(failure.url.toLocalFile());
   if (!file.exists()) recent_.remove(failure.url);
   const QString name = failure.url.isLocalFile() ? file.fileName() : failure.url.toDisplayString();
-  QStringList text{failure.sentence};
-  if (!failure.detail.isEmpty()) text << '(' + failure.detail + ')';
+  if (!failure.detail.isEmpty()) qInfo("%s: %s", qUtf8Printable(name), qUtf8Printable(failure.detail));
   runModal(
-      {AlertStyle::Warning, localizedString("“%1” could not be opened.").arg(name), text.join("\n\n"), {}});
+      {AlertStyle::Warning, localizedString("“%1” could not be opened.").arg(name), failure.sentence, {}});
 }
 
 void DocumentApplication::showOperationFailure(const QString& reason) {

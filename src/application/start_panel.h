@@ -14,8 +14,9 @@ namespace norvex {
 
 class RecentFiles;
 
-/// Open, the recent files and a drop area. Closing it ends the application when nothing else is open; that is
-/// its owner's business, told by dismissed().
+/// Open, the recent files and a drop area. A window like any other: it stays while another program has the
+/// focus. Closing it ends the application when nothing else is open; that is its owner's business, told by
+/// dismissed().
 class StartPanel final : public QWidget {
   Q_OBJECT
  public:

@@ -17,7 +17,7 @@ namespace norvex {
 struct OpenFailure {
   QUrl url;
   QString sentence;  ///< what is wrong, a plain sentence with its full stop, in the user's language
-  QString detail;    ///< the reason of an exception, or empty
+  QString detail;    ///< the reason of an exception, for the log, or empty
 };
 
 /// Reads files on worker threads, several at once, and makes their documents. Owns the documents. Main thread

@@ -99,8 +99,21 @@ class DocumentApplicationTest : public QObject {
     QCOMPARE(terminated_, 0);
   }
 
-  void startedWithoutAFileItQuitsWhenItIsDeactivated() {
+  void theStartPanelStaysWhileAnotherProgramHasTheFocus() {
     QVERIFY(start({}));
+    emit events_->didResignActive();
+    QCoreApplication::processEvents();
+    QCOMPARE(terminated_, 0);
+    QVERIFY(application_->startPanel().isVisible());
+    // What it stayed for.
+    QVERIFY(dropFiles(&application_->startPanel(), {writePdf("a.pdf")}));
+    QVERIFY(finishReading());
+    QCOMPARE(application_->documents().documents().size(), 1);
+  }
+
+  void withNothingOnTheScreenDeactivatingQuits() {
+    QVERIFY(start({}));
+    application_->startPanel().hide();
     emit events_->didResignActive();
     QCOMPARE(terminated_, 1);
   }
@@ -125,13 +138,13 @@ class DocumentApplicationTest : public QObject {
     QVERIFY(finishReading());
   }
 
-  void closingTheLastDocumentBringsTheStartPanelBackAndLeavingThenQuits() {
+  void closingTheLastDocumentBringsTheStartPanelBackAndClosingThatQuits() {
     QVERIFY(start({writePdf("a.pdf")}));
     application_->documents().documents().first()->close();
     QVERIFY(application_->startPanel().isVisible());
     QCOMPARE(terminated_, 0);
-    emit events_->didResignActive();
-    QCOMPARE(terminated_, 1);
+    application_->startPanel().close();
+    QTRY_COMPARE(terminated_, 1);
   }
 
   void closingTheStartPanelWithNothingElseOpenQuits() {
@@ -149,12 +162,15 @@ class DocumentApplicationTest : public QObject {
     QCOMPARE(terminated_, 0);
   }
 
-  void aFileOfAnotherKindIsToldWithTheReason() {
-    QVERIFY(start({write("notes.txt", "milk")}));
+  void aFileOfAnotherKindIsToldInAPlainSentence() {
+    QVERIFY(start({}));
+    QVERIFY(dropFiles(&application_->startPanel(), {write("notes.txt", "milk")}));
+    QVERIFY(finishReading());
     QCOMPARE(alerts_.shown.size(), 1);
+    QCOMPARE(alerts_.shown.first().messageText, QString("“notes.txt” could not be opened."));
     QCOMPARE(alerts_.shown.first().informativeText,
-             QString("This is not an EPS, Illustrator, PDF or SVG picture.\n\n(readFromData:ofType:error: is "
-                     "unimplemented)"));
+             QString("This is not an EPS, Illustrator, PDF or SVG picture."));
+    QVERIFY(application_->startPanel().isVisible());
   }
 
   void anOperationThatFailedIsToldAndEverythingGoesOn() {

@@ -5,6 +5,7 @@
 #include "application/application.h"
 #include "application/document_application.h"
 #include "application/string_tables.h"
+#include "base/system_log.h"
 #include "cli/command_line.h"
 #include "cli/printing_job.h"
 #include "picture/client/worker_service.h"
@@ -16,6 +17,7 @@ namespace norvex {
 namespace {
 
 int runWindows(int argc, char** argv, WorkerService& service) {
+  sendMessagesToSystemLog();  // whoever started the window from a terminal is not to read along
   service.yieldToWindows();
   Application application(argc, argv);
   installStringTables();

@@ -138,4 +138,16 @@ ExpectedPictures expectedPictures(int argc, const char* const* argv) {
   return expected;
 }
 
+bool expectPostScript(int argc, const char* const* argv) {
+  const Text command = argc > 1 ? argv[1] : "";
+  if (isOneOf(command, {"info", "source", "preview"})) return false;
+  for (int i = 1; i < argc; ++i) {
+    const Text argument = argv[i];
+    const Text before = argv[i - 1];
+    const bool isTarget = before == "-o" || before == "--output" || argument.starts_with('-');
+    if (!isTarget && isOneOf(extensionOf(argument), {"eps", "epsf", "epsi", "epi", "ps"})) return true;
+  }
+  return false;
+}
+
 }  // namespace norvex

@@ -9,4 +9,8 @@ namespace norvex {
 /// loads. Names may lie: what a file holds is found out later, and what it then needs is loaded then.
 [[nodiscard]] ExpectedPictures expectedPictures(int argc, const char* const* argv);
 
+/// The same guess for an interpreter of PostScript: whether a picture that is to be drawn is named as such a
+/// file is.
+[[nodiscard]] bool expectPostScript(int argc, const char* const* argv);
+
 }  // namespace norvex

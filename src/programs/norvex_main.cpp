@@ -37,14 +37,15 @@ const char* partFor(int argc, char** argv) {
 }
 
 /// The only picture of a run gets a process of its own, others a program that forks one for each.
-norvex::StartedPrograms startPrograms(const norvex::ExpectedPictures& expected) {
+norvex::StartedPrograms startPrograms(const norvex::ExpectedPictures& expected, bool postScript) {
   using namespace norvex;
   StartedPrograms started;
   if (expected.single) {
     const EnginePart& part = engineParts[enginePartFor(expected.needs)];
     started.picture = spawnPicture(partOfProgram(std::string("norvex-picture-") + part.name), part.offers);
   }
-  if (started.picture.pid == 0) started.worker = spawnWorker(partOfProgram("norvex-worker"), expected.needs);
+  if (started.picture.pid == 0)
+    started.worker = spawnWorker(partOfProgram("norvex-worker"), expected.needs, postScript);
   return started;
 }
 
@@ -64,7 +65,8 @@ int main(int argc, char** argv) {
   using namespace norvex;
   occupyStandardStreams();
   StartedPrograms started;
-  if (mayNeedPictures(argc, argv)) started = startPrograms(expectedPictures(argc, argv));
+  if (mayNeedPictures(argc, argv))
+    started = startPrograms(expectedPictures(argc, argv), expectPostScript(argc, argv));
   const char* part = partFor(argc, argv);
   void* application = ::dlopen(partOfProgram(part).c_str(), RTLD_LAZY | RTLD_LOCAL);
   void* entry = application == nullptr ? nullptr : ::dlsym(application, kApplicationEntry);

@@ -77,20 +77,20 @@ bool ForkServer::answerControl() {
   const ForkRequest* request = decoded ? std::get_if<ForkRequest>(&*decoded) : nullptr;
   if (request == nullptr || !message->descriptor.valid()) return false;
   if (++forks_ > kColdChildren) warmUp();
-  if (prepare_) prepare_(*request);
-  Result<Child> child = fork(*request, std::move(message->descriptor));
+  const int shared = prepare_ ? prepare_(*request) : -1;
+  Result<Child> child = fork(*request, std::move(message->descriptor), shared);
   if (!child) return control_.send(encodeReply({forks_, child.error()})).ok();
   const bool told = control_.send(encodeReply({forks_, ForkReply{child->pid}}), child->pidfd.get()).ok();
   children_.push_back(std::move(*child));
   return told;
 }
 
-Result<ForkServer::Child> ForkServer::fork(const ForkRequest& request, FileDescriptor socket) {
+Result<ForkServer::Child> ForkServer::fork(const ForkRequest& request, FileDescriptor socket, int shared) {
   QByteArray folder = scratchRoot_ + "/XXXXXX";
   if (::mkdtemp(folder.data()) == nullptr) return noChild();
   const pid_t self = ::getpid();
   const pid_t pid = ::fork();
-  if (pid == 0) becomeChild(self, request, std::move(socket), folder);
+  if (pid == 0) becomeChild(self, request, std::move(socket), shared, folder);
   // No race: until we bury it the number cannot be given to another process.
   Child child{pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1), folder};
   if (pid > 0) ::setpgid(pid, pid);
@@ -100,7 +100,7 @@ Result<ForkServer::Child> ForkServer::fork(const ForkRequest& request, FileDescr
   return noChild();
 }
 
-void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescriptor socket,
+void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescriptor socket, int shared,
                              const QByteArray& scratchFolder) {
   ::setpgid(0, 0);
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -108,10 +108,12 @@ void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescrip
   for (int signal : kFarewells) std::signal(signal, SIG_DFL);
   closeStandardStreams();
   // Everything foreign goes: the control connection and the other children's descriptors first of all.
+  const int kept = shared < 0 ? -1 : ::fcntl(shared, F_DUPFD_CLOEXEC, kSharedDescriptor + 1);
   if (socket.get() != kSocket) ::dup2(socket.release(), kSocket);
   (void)socket.release();
   ::fcntl(kSocket, F_SETFD, FD_CLOEXEC);
-  ::syscall(SYS_close_range, kSocket + 1, ~0u, 0);
+  if (kept >= 0) ::dup3(kept, kSharedDescriptor, O_CLOEXEC);
+  ::syscall(SYS_close_range, kept >= 0 ? kSharedDescriptor + 1 : kSharedDescriptor, ~0u, 0);
   childMain_(FileDescriptor(kSocket), request, QFile::decodeName(scratchFolder));
   ::_exit(0);
 }

@@ -26,8 +26,10 @@ class ForkServer {
   /// Starts no thread.
   using WarmUp = std::function<void()>;
 
-  /// Loads what children like this one need and inherit, before the first of them is forked.
-  using Prepare = std::function<void(const ForkRequest&)>;
+  /// Loads what children like this one need and inherit, before the first of them is forked. Gives a
+  /// descriptor that this child shall have as kSharedDescriptor, which stays the caller's; -1: none.
+  using Prepare = std::function<int(const ForkRequest&)>;
+  static constexpr int kSharedDescriptor = 4;  ///< not open in a child that got none
 
   /// Scratch folders are made inside `scratchRoot`, which exists and is private to the user. `warmUp` and
   /// `prepare` may be empty.
@@ -45,8 +47,8 @@ class ForkServer {
   };
   bool answerControl();
   void warmUp();
-  Result<Child> fork(const ForkRequest& request, FileDescriptor socket);
-  [[noreturn]] void becomeChild(int parent, const ForkRequest& request, FileDescriptor socket,
+  Result<Child> fork(const ForkRequest& request, FileDescriptor socket, int shared);
+  [[noreturn]] void becomeChild(int parent, const ForkRequest& request, FileDescriptor socket, int shared,
                                 const QByteArray& scratchFolder);
   void bury(Child& child);
 

@@ -11,20 +11,28 @@
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
+#include <string_view>
 #include <utility>
 
 #include "worker/document_server.h"
 #include "worker/environment.h"
+#include "worker/interpreter_program.h"
 #include "worker/sandbox.h"
 
 namespace norvex {
 namespace {
 
 constexpr int kUsage = 2;
+constexpr std::string_view kExpectPostScript = "postscript";
 
 bool isSocket(int fd) {
   struct stat status = {};
   return ::fstat(fd, &status) == 0 && S_ISSOCK(status.st_mode);
+}
+
+void removeScratchRoot(const char* root) {
+  std::error_code ignored;
+  std::filesystem::remove_all(root, ignored);
 }
 
 int startedByHand(const char* program) {
@@ -39,6 +47,8 @@ ForkServer::ChildMain documentChild(const WorkerEngines& engines) {
     engine::EngineContext context;
     context.limits = request.limits;
     context.scratchFolder = scratchFolder;
+    if (::fcntl(ForkServer::kSharedDescriptor, F_GETFD) >= 0)
+      context.interpreters = ForkServer::kSharedDescriptor;
     Result<void> confined = enterSandbox(request.limits, scratchFolder, true);
     // It takes longest: it starts while the engines, where they are not there yet, are loaded.
     if (confined && request.postScript && engines.startPostScript) engines.startPostScript(context);
@@ -54,15 +64,23 @@ ForkServer::ChildMain documentChild(const WorkerEngines& engines) {
 
 int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines) {
   clearEnvironment();
+  InterpreterProgram interpreter(argc > 1 ? argv[1] : "");
+  // Before anything else: it takes longest.
+  if (argc > 3 && argv[3] == kExpectPostScript) interpreter.start();
   if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
       expected != 0)
     (void)engines.source(expected & allPictureNeeds);
-  const auto prepare = [source = engines.source, isFirst = true](const ForkRequest& request) mutable {
+  const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
+    if (request.postScript) interpreter.start();
     const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
-    // The first child of all, when it starts an interpreter, loads what it needs itself meanwhile.
-    if (!startsPostScript) (void)source(request.needs);
+    // The first child of all, when it asks for an interpreter, loads what it needs itself meanwhile.
+    if (!startsPostScript) (void)engines.source(request.needs);
+    return request.postScript ? interpreter.asking() : -1;
   };
-  return runForkServer(argc, argv, documentChild(engines), engines.warmUp, prepare);
+  const int code = runForkServer(argc, argv, documentChild(engines), engines.warmUp, prepare);
+  interpreter.stop();
+  if (argc > 1) removeScratchRoot(argv[1]);  // interpreters may have left something
+  return code;
 }
 
 int runPictureProgram(const EngineSet& engines) {
@@ -87,8 +105,7 @@ int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkSe
   ForkServer(FileDescriptor(kControlDescriptor), root, std::move(childMain), std::move(warmUp),
              std::move(prepare))
       .run();
-  std::error_code ignored;
-  std::filesystem::remove_all(root.toStdString(), ignored);
+  removeScratchRoot(root.constData());
   return 0;
 }
 

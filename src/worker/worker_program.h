@@ -29,9 +29,10 @@ struct WorkerEngines {
 /// none.
 [[nodiscard]] ForkServer::ChildMain documentChild(const WorkerEngines& engines);
 
-/// Runs `norvex-worker SCRATCH_ROOT NEEDS` with the control connection as descriptor 3; gives the exit code.
-/// NEEDS is the number of the PictureNeeds that are expected, whose engines are asked for at once; 0: nobody
-/// knows. The scratch root is removed at the end.
+/// Runs `norvex-worker SCRATCH_ROOT NEEDS [postscript]` with the control connection as descriptor 3; gives
+/// the exit code. NEEDS is the number of the PictureNeeds that are expected, whose engines are asked for at
+/// once; 0: nobody knows. With `postscript` norvex-postscript is started at once, else with the first
+/// document that needs it. The scratch root is removed at the end.
 int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines);
 /// Runs `norvex-picture-…` with the line to the only picture of a run as descriptor 3: what a forked child
 /// does, but that nobody forked it and that it gets no scratch folder. Ends with the line, or with the thread

@@ -110,6 +110,32 @@ class ExpectedPicturesTest : public QObject {
     QCOMPARE(expected(arguments).single, single);
   }
 
+  void postScriptIsExpected_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("postScript");
+    QTest::newRow("EPS") << QStringList{"convert", "a.eps", "-o", "a.pdf"} << true;
+    QTest::newRow("letter case") << QStringList{"convert", "A.EPS", "-o", "a.pdf"} << true;
+    QTest::newRow("EPSI behind others") << QStringList{"convert", "a.svg", "b.epsi", "--to", "x"} << true;
+    QTest::newRow("a window") << QStringList{"a.eps"} << true;
+    QTest::newRow("print") << QStringList{"print", "a.ps", "-o", "a.pdf"} << true;
+    QTest::newRow("EPS comes out") << QStringList{"convert", "a.svg", "-o", "a.eps"} << false;
+    QTest::newRow("EPS comes out, long") << QStringList{"convert", "a.svg", "--output=a.eps"} << false;
+    QTest::newRow("no picture is drawn") << QStringList{"info", "a.eps"} << false;
+    QTest::newRow("the embedded picture") << QStringList{"preview", "a.eps", "-o", "a.png"} << false;
+    QTest::newRow("Illustrator is PDF mostly") << QStringList{"convert", "a.ai", "-o", "a.pdf"} << false;
+    QTest::newRow("a folder") << QStringList{"convert", "a.eps/b.svg", "-o", "a.pdf"} << false;
+    QTest::newRow("nothing") << QStringList{} << false;
+  }
+  void postScriptIsExpected() {
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, postScript);
+    QByteArrayList bytes{"norvex"};
+    for (const QString& argument : arguments) bytes << argument.toUtf8();
+    std::vector<const char*> pointers;
+    for (const QByteArray& argument : bytes) pointers.push_back(argument.constData());
+    QCOMPARE(expectPostScript(int(pointers.size()), pointers.data()), postScript);
+  }
+
   void everyNeedHasAPart() {
     for (const PictureNeeds needs :
          {PictureNeeds(NeedSvgDrawing), svgNeeds(PictureUse::WholePdf), svgNeeds(PictureUse::Everything),

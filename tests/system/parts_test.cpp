@@ -11,6 +11,7 @@ namespace {
 
 const QStringList kParts{"norvex",
                          "norvex-worker",
+                         "norvex-postscript",
                          "norvex-application.so",
                          "norvex-commands.so",
                          "norvex-engine-svg.so",

@@ -89,6 +89,48 @@ class ForkServerTest : public QObject {
     });
     QCOMPARE(letters, QByteArray("w"));
   }
+
+  void aChildHasWhatWasPreparedForIt() {
+    const Line shared = makeLine();
+    const QByteArray letters = lettersWith(
+        [&](const ForkRequest& request) { return request.postScript ? shared.theirs.get() : -1; });
+    QCOMPARE(letters, QByteArray("+-"));
+    QCOMPARE(letterFrom(shared.ours), 's');
+  }
+
+ private:
+  /// '+' for a child with a shared descriptor, to which it wrote, '-' for one without: of a request with
+  /// postScript and of one without.
+  static QByteArray lettersWith(const ForkServer::Prepare& prepare) {
+    const QTemporaryDir scratch;
+    auto pair = MessageChannel::makePair();
+    if (!pair || !scratch.isValid()) return "no connection";
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+      pair->first.reset();
+      const auto tell = [](FileDescriptor socket, const ForkRequest&, const QString&) {
+        const bool has = ::write(ForkServer::kSharedDescriptor, "s", 1) == 1;
+        if (::write(socket.get(), has ? "+" : "-", 1) != 1) ::_exit(1);
+      };
+      ForkServer(std::move(pair->second), scratch.path().toLocal8Bit(), tell, {}, prepare).run();
+      ::_exit(0);
+    }
+    pair->second.reset();
+    QByteArray letters;
+    {
+      MessageChannel control(std::move(pair->first));
+      for (const bool postScript : {true, false}) {
+        Line line = makeLine();
+        ForkRequest request;
+        request.postScript = postScript;
+        if (!control.send(encodeMessage(request), line.theirs.get())) return "not sent";
+        line.theirs.reset();
+        letters += letterFrom(line.ours);
+      }
+    }
+    ::waitpid(pid, nullptr, 0);
+    return letters;
+  }
 };
 
 NORVEX_TEST(ForkServerTest)

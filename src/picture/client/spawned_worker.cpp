@@ -105,10 +105,12 @@ Spawned spawn(const std::string& program, std::vector<std::string> arguments, Me
 
 }  // namespace
 
-SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected) {
+SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected, bool postScript) {
   std::string scratchRoot = makeScratchRoot();
   if (scratchRoot.empty()) return {};
-  Spawned spawned = spawn(program, {scratchRoot, std::to_string(expected)}, Messages::LikeOurs);
+  std::vector<std::string> arguments{scratchRoot, std::to_string(expected)};
+  if (postScript) arguments.emplace_back("postscript");
+  Spawned spawned = spawn(program, std::move(arguments), Messages::LikeOurs);
   if (spawned.pid == 0) return removeFolder(scratchRoot), SpawnedWorker();
   return {spawned.pid, std::move(spawned.pidfd), std::move(spawned.connection), std::move(scratchRoot)};
 }

@@ -32,7 +32,9 @@ struct SpawnedPicture {
 /// Starts `program` without waiting until it is ready. Free of Qt, because it runs before Qt is even loaded:
 /// linking the program and linking the application then go on side by side. pid 0 when it could not be
 /// started. `expected`: what its pictures will probably need, to be loaded at once; 0: nobody knows.
-[[nodiscard]] SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected = 0);
+/// `postScript`: whether that is an interpreter of PostScript, too.
+[[nodiscard]] SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected = 0,
+                                        bool postScript = false);
 
 /// Starts `program`, a norvex-picture-… that offers `needs`, likewise.
 [[nodiscard]] SpawnedPicture spawnPicture(const std::string& program, PictureNeeds needs);

@@ -29,6 +29,8 @@ struct EngineContext {
   QString scratchFolder;  ///< exists, private to this process, removed with it; empty where no PostScript is
                           ///< expected
   CancelToken cancel;     ///< of the running request; engines with loops or children look at it
+  int interpreters = -1;  ///< where norvex-postscript is asked for interpreters, see
+                          ///< protocol/interpreter_request.h; -1: gs is started. Not owned
   std::shared_ptr<GhostscriptChild> warmGhostscript;  ///< waiting for its first document; see ghostscript.h
 };
 

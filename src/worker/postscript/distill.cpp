@@ -91,6 +91,21 @@ QStringList substitutions(const QByteArray& messages) {
   return warnings;
 }
 
+// With the child that waits already, if there is one.
+Result<GhostscriptOutput> runDistiller(const QList<QByteArray>& program, EngineContext& context) {
+  while (true) {
+    std::shared_ptr<GhostscriptChild> child = std::exchange(context.warmGhostscript, nullptr);
+    if (!child) {
+      auto started = startDistiller(context);
+      if (!started) return started.error();
+      child = std::move(*started);
+    }
+    Result<GhostscriptOutput> run = child->run(program, context);
+    if (run || run.error().kind != ErrorKind::Unsupported || context.interpreters < 0) return run;
+    context.interpreters = -1;  // nobody forks interpreters here: gs is started from now on
+  }
+}
+
 // gs rounds the page to what its device can set and may have written a blank page behind the picture's.
 Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box) {
   Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
@@ -107,13 +122,7 @@ Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box) {
 }  // namespace
 
 Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
-  std::shared_ptr<GhostscriptChild> child = std::exchange(context.warmGhostscript, nullptr);
-  if (!child) {
-    auto started = startDistiller(context);
-    if (!started) return started.error();
-    child = std::move(*started);
-  }
-  const Result<GhostscriptOutput> run = child->run({prolog(box), postScript}, context);
+  const Result<GhostscriptOutput> run = runDistiller({prolog(box), postScript}, context);
   if (!run) return run.error();
   const std::optional<ProgramError> stopped = programError(run->messages);
   if (stopped && stopped->finishedPages == 0) return sentence(*stopped);

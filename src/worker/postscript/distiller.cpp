@@ -4,29 +4,24 @@
 
 #include <utility>
 
+#include "worker/engine/distiller_arguments.h"
+
 namespace norvex::engine {
 namespace {
 
-// Not quiet: what it says about fonts is handed on.
 QList<QByteArray> distillerArguments() {
-  return {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-sDEVICE=pdfwrite", "-sstdout=%stderr",
-          // No memory is reclaimed before the document runs: a tenth of the start. The prolog lets it begin.
-          "-dNOGC",
-          // Nothing that the comments say may turn the page or name the document.
-          "-dParseDSCComments=false", "-dParseDSCCommentsForDocInfo=false", "-dPreserveEPSInfo=false",
-          "-dAutoRotatePages=/None", "-dCompatibilityLevel=1.7",
-          // Colours and images as they are in the document.
-          "-sColorConversionStrategy=LeaveColorUnchanged", "-dDownsampleColorImages=false",
-          "-dDownsampleGrayImages=false", "-dDownsampleMonoImages=false", "-dAutoFilterColorImages=false",
-          "-dAutoFilterGrayImages=false", "-dColorImageFilter=/FlateEncode", "-dGrayImageFilter=/FlateEncode",
-          "-dPassThroughJPEGImages=true", "-dPreserveOverprintSettings=true", "-dPreserveSeparation=true",
-          "-dPreserveDeviceN=true", "-dUCRandBGInfo=/Preserve", "-dTransferFunctionInfo=/Preserve",
-          "-dEmbedAllFonts=true", "-dSubsetFonts=true", "-dMaxSubsetPct=100", "-o", "-", "-_"};
+  QList<QByteArray> arguments;
+  for (const char* option : distillerOptions) arguments << option;
+  arguments << QByteArray("-sDEVICE=") + distillerDevice;
+  for (const char* stream : distillerStreams) arguments << stream;
+  return arguments;
 }
 
 }  // namespace
 
 Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& context) {
+  if (context.interpreters >= 0)
+    if (auto child = GhostscriptChild::fork(context.interpreters, context.limits)) return child;
   return GhostscriptChild::start(distillerArguments(), context.scratchFolder);
 }
 

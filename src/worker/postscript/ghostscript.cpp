@@ -14,8 +14,11 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstring>
 #include <utility>
 #include <vector>
+
+#include "protocol/interpreter_request.h"
 
 namespace norvex::engine {
 namespace {
@@ -149,11 +152,7 @@ Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::start(const QList<QB
   ::setpgid(pid, pid);  // both sides do it: whoever comes first
   std::shared_ptr<GhostscriptChild> child(new GhostscriptChild);
   child->pid_ = pid;
-  child->input_ = input.take(1);
-  child->output_ = output.take(0);
-  child->messages_ = messages.take(0);
-  for (const int descriptor : {child->input_, child->output_, child->messages_})
-    ::fcntl(descriptor, F_SETFL, ::fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+  child->talkThrough(input.take(1), output.take(0), messages.take(0));
   return child;
 }
 
@@ -165,6 +164,7 @@ void GhostscriptChild::end() {
   closeDescriptor(input_);
   closeDescriptor(output_);
   closeDescriptor(messages_);
+  closeDescriptor(outcome_);
   if (pid_ < 0) return;
   ::kill(-pid_, SIGKILL);
   ::kill(pid_, SIGKILL);
@@ -173,15 +173,41 @@ void GhostscriptChild::end() {
   pid_ = -1;
 }
 
+Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::fork(int interpreters,
+                                                                 const PictureLimits& limits) {
+  Pipe input, output, messages, outcome;
+  if (!input.open() || !output.open() || !messages.open() || !outcome.open())
+    return Error{ErrorKind::Died, QStringLiteral("there is no way to talk to Ghostscript")};
+  const InterpreterRequest request{limits, FileDescriptor(input.take(0)), FileDescriptor(output.take(1)),
+                                   FileDescriptor(messages.take(1)), FileDescriptor(outcome.take(1))};
+  if (const Result<void> sent = sendInterpreterRequest(interpreters, request); !sent) return sent.error();
+  ::signal(SIGPIPE, SIG_IGN);
+  std::shared_ptr<GhostscriptChild> child(new GhostscriptChild);
+  child->talkThrough(input.take(1), output.take(0), messages.take(0));
+  child->outcome_ = outcome.take(0);
+  return child;
+}
+
+void GhostscriptChild::talkThrough(int input, int output, int messages) {
+  input_ = input;
+  output_ = output;
+  messages_ = messages;
+  for (const int descriptor : {input_, output_, messages_})
+    ::fcntl(descriptor, F_SETFL, ::fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+}
+
 Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
                                                 const EngineContext& context) {
   GhostscriptOutput collected;
   const qint64 deadline = milliseconds() + 1000LL * context.limits.seconds;
   const Result<void> pumped = pump(input, deadline, context, collected);
   if (!pumped) return end(), pumped.error();
-  const Result<int> status = reap(deadline, context);
+  const bool isForked = outcome_ >= 0;
+  const Result<int> status = isForked ? awaitOutcome(deadline, context) : reap(deadline, context);
   end();
   if (!status) return status.error();
+  if (isForked && WIFEXITED(*status) && WEXITSTATUS(*status) == kInterpreterNotConfined)
+    return Error{ErrorKind::NoSandbox, QStringLiteral("the interpreter of PostScript could not be confined")};
   if (WIFEXITED(*status)) {
     collected.exitStatus = WEXITSTATUS(*status);
     return collected;
@@ -228,6 +254,25 @@ Result<int> GhostscriptChild::reap(qint64 deadline, const EngineContext& context
     if (const Result<void> patience = checkPatience(deadline, context); !patience) return patience.error();
     ::poll(nullptr, 0, 1);
   }
+}
+
+// Both messages are told in one piece each, into a pipe that nobody else writes to.
+Result<int> GhostscriptChild::awaitOutcome(qint64 deadline, const EngineContext& context) {
+  QByteArray told;
+  constexpr qsizetype kAll = sizeof kInterpreterBegun + sizeof(InterpreterOutcome);
+  while (told.size() < kAll) {
+    if (const Result<void> patience = checkPatience(deadline, context); !patience) return patience.error();
+    pollfd watched = {outcome_, POLLIN, 0};
+    if (::poll(&watched, 1, kLookMilliseconds) <= 0) continue;
+    if (!readInto(outcome_, told, kAll)) break;
+  }
+  InterpreterOutcome status = 0;
+  if (told.isEmpty())
+    return Error{ErrorKind::Unsupported, QStringLiteral("there is no interpreter of PostScript")};
+  if (told.size() < kAll)
+    return Error{ErrorKind::Died, QStringLiteral("the interpreter of PostScript has ended")};
+  std::memcpy(&status, told.constData() + sizeof kInterpreterBegun, sizeof status);
+  return status;
 }
 
 }  // namespace norvex::engine

@@ -1,4 +1,5 @@
-// Ghostscript as a child process: started, fed on its standard input, read from its standard output, ended.
+// Ghostscript as a process for one document: started or forked for us, fed on its standard input, read from
+// its standard output, ended.
 #pragma once
 
 #include <QByteArray>
@@ -28,22 +29,33 @@ class GhostscriptChild {
   /// besides. Fails with Unsupported when gs cannot be started.
   [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> start(const QList<QByteArray>& arguments,
                                                                        const QString& scratchFolder);
+  /// The same from norvex-postscript, which has it initialised and gives it limits, a confinement and a
+  /// scratch folder of its own; what it writes is PDF. `interpreters` is asked for it, see
+  /// protocol/interpreter_request.h. It takes no fork and no execve here. Never waits. Fails with Died when
+  /// nobody listens there.
+  [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> fork(int interpreters,
+                                                                      const PictureLimits& limits);
   GhostscriptChild(const GhostscriptChild&) = delete;
   GhostscriptChild& operator=(const GhostscriptChild&) = delete;
   ~GhostscriptChild();
 
   /// Feeds `input`, piece after piece, and collects until gs ends. Once only. Fails with TimedOut
   /// (limits.seconds), Cancelled, Limit (more output than limits.memoryMiB, or killed for what it used up) or
-  /// NotParsable (gs crashed).
+  /// NotParsable (gs crashed); a forked one with Unsupported when there never was one, and with NoSandbox
+  /// when it could not be confined, in which cases nobody has read the input.
   [[nodiscard]] Result<GhostscriptOutput> run(const QList<QByteArray>& input, const EngineContext& context);
 
  private:
   GhostscriptChild() = default;
+  void talkThrough(int input, int output, int messages);
   [[nodiscard]] Result<void> pump(const QList<QByteArray>& input, qint64 deadline,
                                   const EngineContext& context, GhostscriptOutput& collected);
+  /// Its status as waitpid() gives it.
   [[nodiscard]] Result<int> reap(qint64 deadline, const EngineContext& context);
+  [[nodiscard]] Result<int> awaitOutcome(qint64 deadline, const EngineContext& context);
   void end();
-  int pid_ = -1;
+  int pid_ = -1;      ///< of a started one
+  int outcome_ = -1;  ///< of a forked one: the pipe that tells its status, and its life line
   int input_ = -1;
   int output_ = -1;
   int messages_ = -1;

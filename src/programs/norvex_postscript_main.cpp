@@ -1,0 +1,47 @@
+// norvex-postscript SCRATCH_ROOT: the interpreter of PostScript, ready before there is a document. The only
+// program that links libgs. Requests are taken at descriptor 3; see protocol/interpreter_request.h.
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "worker/engine/distiller_arguments.h"
+#include "worker/interpreter/interpreter_server.h"
+#include "worker/interpreter/postscript_interpreter.h"
+#include "worker/worker_program.h"
+
+namespace {
+
+bool isSocket(int fd) {
+  struct stat status = {};
+  return ::fstat(fd, &status) == 0 && S_ISSOCK(status.st_mode);
+}
+
+void setEnvironment(const std::string& scratchRoot) {
+  ::clearenv();
+  for (const char* variable : norvex::engine::distillerEnvironment) ::putenv(const_cast<char*>(variable));
+  // Temporary files of everybody would be everybody's: each document gets the right to its own folder alone.
+  ::setenv("TMPDIR", (scratchRoot + "/none").c_str(), 1);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using namespace norvex;
+  if (argc < 2 || !isSocket(kControlDescriptor)) {
+    std::fputs("norvex-postscript: is started by norvex, not by hand\n", stderr);
+    return 2;
+  }
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  std::signal(SIGPIPE, SIG_IGN);
+  setEnvironment(argv[1]);
+  InterpreterServer server(FileDescriptor(kControlDescriptor), argv[1]);
+  PostScriptInterpreter interpreter([&server] { return server.serve(); });
+  const int code = interpreter.run();
+  std::fflush(nullptr);
+  ::_exit(code);  // the memory of a document is given back as a whole
+}

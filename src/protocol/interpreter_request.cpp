@@ -1,0 +1,107 @@
+#include "protocol/interpreter_request.h"
+
+#include <sys/socket.h>
+#include <sys/uio.h>
+
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+namespace norvex {
+namespace {
+
+constexpr size_t kDescriptors = 4;
+constexpr qsizetype kMaximumSize = 4096;  ///< of the limits as CBOR
+
+/// Room for the descriptors beside a message, aligned as the kernel wants it.
+union DescriptorSpace {
+  cmsghdr alignment;
+  char bytes[CMSG_SPACE(kDescriptors * sizeof(int))];
+};
+
+Error noMore() {
+  return {ErrorKind::Died, QStringLiteral("the interpreter of PostScript cannot be reached")};
+}
+Error noRequest() {
+  return {ErrorKind::Protocol, QStringLiteral("this asks for no interpreter of PostScript")};
+}
+
+msghdr messageOf(iovec& part, DescriptorSpace& space) {
+  msghdr message = {};
+  message.msg_iov = &part;
+  message.msg_iovlen = 1;
+  message.msg_control = &space;
+  message.msg_controllen = sizeof space;
+  return message;
+}
+
+/// Gives all of them to `request`, or closes them.
+bool adoptDescriptors(msghdr& message, InterpreterRequest& request) {
+  FileDescriptor* const places[kDescriptors] = {&request.program, &request.output, &request.messages,
+                                                &request.outcome};
+  size_t got = 0;
+  for (cmsghdr* header = CMSG_FIRSTHDR(&message); header != nullptr; header = CMSG_NXTHDR(&message, header)) {
+    if (header->cmsg_level != SOL_SOCKET || header->cmsg_type != SCM_RIGHTS) continue;
+    const size_t count = (header->cmsg_len - CMSG_LEN(0)) / sizeof(int);
+    for (size_t i = 0; i < count; ++i, ++got) {
+      int descriptor = -1;
+      std::memcpy(&descriptor, CMSG_DATA(header) + i * sizeof(int), sizeof(int));
+      FileDescriptor owned(descriptor);
+      if (got < kDescriptors) *places[got] = std::move(owned);
+    }
+  }
+  return got == kDescriptors;
+}
+
+}  // namespace
+
+Result<InterpreterConnection> makeInterpreterConnection() {
+  int ends[2] = {-1, -1};
+  // Messages stay whole, so that several can send, and their end is told.
+  if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0) return noMore();
+  return InterpreterConnection{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+}
+
+Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request) {
+  ForkRequest limits;
+  limits.limits = request.limits;
+  QByteArray cbor = encodeMessage(limits);
+  const int descriptors[kDescriptors] = {request.program.get(), request.output.get(), request.messages.get(),
+                                         request.outcome.get()};
+  iovec part = {cbor.data(), size_t(cbor.size())};
+  DescriptorSpace space = {};
+  msghdr message = messageOf(part, space);
+  cmsghdr* header = CMSG_FIRSTHDR(&message);
+  header->cmsg_level = SOL_SOCKET;
+  header->cmsg_type = SCM_RIGHTS;
+  header->cmsg_len = CMSG_LEN(sizeof descriptors);
+  std::memcpy(CMSG_DATA(header), descriptors, sizeof descriptors);
+  ssize_t sent = -1;
+  do {
+    sent = ::sendmsg(asking, &message, MSG_NOSIGNAL | MSG_DONTWAIT);
+  } while (sent < 0 && errno == EINTR);
+  return sent == cbor.size() ? Result<void>() : noMore();
+}
+
+Result<InterpreterRequest> receiveInterpreterRequest(int taking) {
+  QByteArray cbor(kMaximumSize, Qt::Uninitialized);
+  iovec part = {cbor.data(), size_t(cbor.size())};
+  DescriptorSpace space = {};
+  msghdr message = messageOf(part, space);
+  ssize_t got = -1;
+  do {
+    got = ::recvmsg(taking, &message, MSG_CMSG_CLOEXEC);
+  } while (got < 0 && errno == EINTR);
+  if (got <= 0) return noMore();
+  InterpreterRequest request;
+  const bool complete =
+      adoptDescriptors(message, request) && (message.msg_flags & (MSG_TRUNC | MSG_CTRUNC)) == 0;
+  cbor.truncate(got);
+  const Result<WorkerMessage> decoded = decodeMessage(cbor);
+  const ForkRequest* limits = decoded ? std::get_if<ForkRequest>(&*decoded) : nullptr;
+  if (!complete || limits == nullptr) return noRequest();
+  request.limits = limits->limits;
+  return request;
+}
+
+}  // namespace norvex

@@ -1,0 +1,42 @@
+// How a document's process asks norvex-postscript for an interpreter of its own.
+#pragma once
+
+#include "base/file_descriptor.h"
+#include "base/result.h"
+#include "protocol/worker_protocol.h"
+
+namespace norvex {
+
+/// What one interpreter works with. Nothing in it names a file: whoever asks has read a document already.
+struct InterpreterRequest {
+  PictureLimits limits;
+  FileDescriptor program;   ///< the PostScript, to be read to its end
+  FileDescriptor output;    ///< where the PDF goes
+  FileDescriptor messages;  ///< where the program and the interpreter speak to
+  /// A pipe for kInterpreterBegun and then, once the interpreter has ended, an InterpreterOutcome. When
+  /// nobody reads it any more, the interpreter is killed.
+  FileDescriptor outcome;
+};
+
+/// Written as soon as there is an interpreter. A pipe that ends without it: nobody took the request.
+inline constexpr char kInterpreterBegun = 'b';
+/// As waitpid() gives it.
+using InterpreterOutcome = int;
+/// The exit code of an interpreter that could not be confined and therefore has read nothing.
+inline constexpr int kInterpreterNotConfined = 125;
+
+/// A connection at which requests are made, by any number of processes at once, and the end that takes them.
+/// The latter is at its end when nobody has the former any more. Fails with Died.
+struct InterpreterConnection {
+  FileDescriptor asking, taking;
+};
+[[nodiscard]] Result<InterpreterConnection> makeInterpreterConnection();
+
+/// Sends copies of the descriptors; never waits. Fails with Died when nobody listens or too many wait.
+[[nodiscard]] Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request);
+
+/// Waits for the next request. Fails with Died when there will be none any more, with Protocol when it is no
+/// request (others may follow).
+[[nodiscard]] Result<InterpreterRequest> receiveInterpreterRequest(int taking);
+
+}  // namespace norvex

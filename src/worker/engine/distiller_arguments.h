@@ -1,0 +1,32 @@
+// How Ghostscript is set up to turn PostScript into PDF, whether it is started for a document or waits for
+// it.
+#pragma once
+
+#include <array>
+
+namespace norvex::engine {
+
+/// Options of gs besides the device. Not quiet: what it says about fonts is handed on.
+inline constexpr std::array distillerOptions{
+    "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dNOPROMPT", "-sstdout=%stderr",
+    // No memory is reclaimed before the document runs: a tenth of the start. The prolog lets it begin.
+    "-dNOGC",
+    // Nothing that the comments say may turn the page or name the document.
+    "-dParseDSCComments=false", "-dParseDSCCommentsForDocInfo=false", "-dPreserveEPSInfo=false",
+    "-dAutoRotatePages=/None", "-dCompatibilityLevel=1.7",
+    // Colours and images as they are in the document.
+    "-sColorConversionStrategy=LeaveColorUnchanged", "-dDownsampleColorImages=false",
+    "-dDownsampleGrayImages=false", "-dDownsampleMonoImages=false", "-dAutoFilterColorImages=false",
+    "-dAutoFilterGrayImages=false", "-dColorImageFilter=/FlateEncode", "-dGrayImageFilter=/FlateEncode",
+    "-dPassThroughJPEGImages=true", "-dPreserveOverprintSettings=true", "-dPreserveSeparation=true",
+    "-dPreserveDeviceN=true", "-dUCRandBGInfo=/Preserve", "-dTransferFunctionInfo=/Preserve",
+    "-dEmbedAllFonts=true", "-dSubsetFonts=true", "-dMaxSubsetPct=100"};
+
+inline constexpr const char* distillerDevice = "pdfwrite";
+/// Behind all others: the result goes to standard output, the program comes from standard input.
+inline constexpr std::array distillerStreams{"-o", "-", "-_"};
+
+/// The whole environment of the interpreter besides TMPDIR.
+inline constexpr std::array distillerEnvironment{"LC_ALL=C", "PATH=/usr/bin:/bin"};
+
+}  // namespace norvex::engine

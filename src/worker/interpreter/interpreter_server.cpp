@@ -1,0 +1,114 @@
+#include "worker/interpreter/interpreter_server.h"
+
+#include <QFile>
+
+#include <poll.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <utility>
+
+#include "worker/sandbox.h"
+
+namespace norvex {
+namespace {
+
+/// More than a run ever works on at once: a process that has been taken over by its document cannot fill the
+/// machine with interpreters.
+constexpr size_t kMaximumChildren = 64;
+
+void removeFolder(const QByteArray& folder) {
+  std::error_code ignored;  // what cannot be removed now goes with the root folder
+  std::filesystem::remove_all(folder.toStdString(), ignored);
+}
+
+template <typename Value>
+void tell(const FileDescriptor& outcome, const Value& value) {
+  // Whoever has gone meanwhile need not know.
+  if (::write(outcome.get(), &value, sizeof value) < 0) return;
+}
+
+}  // namespace
+
+InterpreterServer::InterpreterServer(FileDescriptor taking, QByteArray scratchRoot)
+    : taking_(std::move(taking)), scratchRoot_(std::move(scratchRoot)) {}
+
+QByteArray InterpreterServer::serve() {
+  while (true) {
+    std::vector<pollfd> polls{{taking_.get(), POLLIN, 0}};
+    for (const Child& child : children_) {
+      polls.push_back({child.pidfd.get(), POLLIN, 0});
+      polls.push_back({child.outcome.get(), 0, 0});  // an error is told unasked: nobody reads it any more
+    }
+    if (::poll(polls.data(), polls.size(), -1) <= 0) continue;
+    for (size_t i = children_.size(); i > 0; --i) {
+      if (polls[2 * i - 1].revents == 0 && polls[2 * i].revents == 0) continue;
+      bury(children_[i - 1]);
+      children_.erase(children_.begin() + std::ptrdiff_t(i - 1));
+    }
+    if (polls[0].revents == 0) continue;
+    if (const QByteArray folder = takeRequest(); !folder.isEmpty()) return folder;
+  }
+}
+
+QByteArray InterpreterServer::takeRequest() {
+  Result<InterpreterRequest> request = receiveInterpreterRequest(taking_.get());
+  if (request) return children_.size() < kMaximumChildren ? fork(std::move(*request)) : QByteArray();
+  if (request.error().kind == ErrorKind::Protocol) return {};
+  for (Child& child : children_) bury(child);
+  ::_exit(0);
+}
+
+QByteArray InterpreterServer::fork(InterpreterRequest request) {
+  QByteArray folder = scratchRoot_ + "/XXXXXX";
+  if (::mkdtemp(folder.data()) == nullptr) return {};
+  const pid_t self = ::getpid();
+  const pid_t pid = ::fork();
+  if (pid == 0) {
+    becomeInterpreter(self, request, folder);
+    return folder;
+  }
+  Child child{pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1),
+              std::move(request.outcome), folder};
+  if (pid > 0) ::setpgid(pid, pid);
+  if (child.pidfd.valid()) {
+    tell(child.outcome, kInterpreterBegun);
+    children_.push_back(std::move(child));
+  } else if (pid > 0) {
+    bury(child);
+  } else {
+    removeFolder(folder);
+  }
+  return {};
+}
+
+void InterpreterServer::becomeInterpreter(int parent, const InterpreterRequest& request,
+                                          const QByteArray& scratchFolder) {
+  ::setpgid(0, 0);
+  ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+  if (::getppid() != parent) ::_exit(1);  // it died before it could be followed
+  std::signal(SIGPIPE, SIG_DFL);
+  ::dup2(request.program.get(), STDIN_FILENO);
+  ::dup2(request.output.get(), STDOUT_FILENO);
+  ::dup2(request.messages.get(), STDERR_FILENO);
+  ::syscall(SYS_close_range, STDERR_FILENO + 1, ~0u, 0);
+  if (!enterSandbox(request.limits, QFile::decodeName(scratchFolder))) ::_exit(kInterpreterNotConfined);
+}
+
+void InterpreterServer::bury(Child& child) {
+  // One that has ended by itself stays a zombie until it is waited for: the signals cannot hit another.
+  ::kill(-child.pid, SIGKILL);
+  ::kill(child.pid, SIGKILL);
+  InterpreterOutcome status = 0;
+  while (::waitpid(child.pid, &status, 0) < 0 && errno == EINTR) continue;
+  removeFolder(child.scratchFolder);
+  tell(child.outcome, status);
+}
+
+}  // namespace norvex

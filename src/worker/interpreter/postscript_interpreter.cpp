@@ -1,0 +1,97 @@
+#include "worker/interpreter/postscript_interpreter.h"
+
+#include <ghostscript/iapi.h>
+#include <ghostscript/ierrors.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+#include <vector>
+
+#include "worker/engine/distiller_arguments.h"
+
+namespace norvex {
+namespace {
+
+constexpr int kFatal = 1;
+constexpr int kOtherError = 255;
+
+// What the start of gs does with a device that writes PDF, done now and in its order: the paper and those
+// options of the command line that are parameters of the device; the halftone and what goes with it; the
+// default settings as far as no option replaces them; the state of graphics. The parameters are asked for
+// last because setpagedevice goes by those that it has seen before.
+constexpr char kSelectDevice[] =
+    "/pdfwrite finddevice dup getdeviceprops counttomark 2 idiv\n"
+    "{ systemdict 2 index known { pop dup load counttomark 2 roll } { pop pop } ifelse } repeat\n"
+    "/PageSize currentpagedevice /PageSize get counttomark 2 add -1 roll putdeviceprops setdevice\n"
+    ".setdefaultscreen\n"
+    ".distillersettings /default get dup length .distillercommon length add dict begin\n"
+    ".distillercommon 2 { { systemdict 2 index known { pop pop } { def } ifelse } forall } repeat\n"
+    "currentdict end setdistillerparams\n"
+    "newpath fill currentpagedevice pop\n";
+
+std::vector<char*> initialArguments() {
+  std::vector<const char*> arguments{"gs"};
+  arguments.insert(arguments.end(), engine::distillerOptions.begin(), engine::distillerOptions.end());
+  // It draws nothing, and what every text of a PDF needs is there nevertheless.
+  arguments.insert(arguments.end(), {"-sDEVICE=nullpage", "-dProvideUnicode"});
+  arguments.insert(arguments.end(), engine::distillerStreams.begin(), engine::distillerStreams.end());
+  std::vector<char*> result;
+  for (const char* argument : arguments) result.push_back(const_cast<char*>(argument));  // it only reads them
+  return result;
+}
+
+}  // namespace
+
+int PostScriptInterpreter::run() {
+  if (::gsapi_new_instance(&instance_, this) < 0) return kFatal;
+  ::gsapi_set_arg_encoding(instance_, GS_ARG_ENCODING_UTF8);
+  ::gsapi_set_stdio(instance_, readProgram, writeMessage, writeMessage);
+  std::vector<char*> arguments = initialArguments();
+  int code = ::gsapi_init_with_args(instance_, int(arguments.size()), arguments.data());
+  const int closing = ::gsapi_exit(instance_);  // finishes the PDF
+  if (code == 0 || code == gs_error_Quit) code = closing;
+  ::gsapi_delete_instance(instance_);
+  if (code == 0 || code == gs_error_Info || code == gs_error_Quit) return 0;
+  return code == gs_error_Fatal ? kFatal : kOtherError;
+}
+
+// Whoever asks for the first byte of the program is initialised: this is where documents are waited for.
+int PostScriptInterpreter::readProgram(void* self, char* buffer, int size) {
+  auto* interpreter = static_cast<PostScriptInterpreter*>(self);
+  if (!std::exchange(interpreter->forked_, true)) interpreter->beginDocument();
+  QByteArray& unread = interpreter->unread_;
+  if (!unread.isEmpty()) {
+    const auto piece = std::min<qsizetype>(size, unread.size());
+    std::memcpy(buffer, unread.constData(), size_t(piece));
+    unread.remove(0, piece);
+    return int(piece);
+  }
+  ssize_t got = -1;
+  do {
+    got = ::read(STDIN_FILENO, buffer, size_t(size));
+  } while (got < 0 && errno == EINTR);
+  return int(got);
+}
+
+// The program's own words and the interpreter's; of the initialisation nobody wants to hear.
+int PostScriptInterpreter::writeMessage(void* self, const char* text, int size) {
+  if (!static_cast<PostScriptInterpreter*>(self)->forked_) return size;
+  for (int written = 0; written < size;) {
+    const ssize_t put = ::write(STDERR_FILENO, text + written, size_t(size - written));
+    if (put < 0 && errno != EINTR) break;
+    written += int(std::max<ssize_t>(put, 0));
+  }
+  return size;
+}
+
+void PostScriptInterpreter::beginDocument() {
+  const QByteArray ownFiles = serve_() + "/*";
+  for (const int right : {GS_PERMIT_FILE_READING, GS_PERMIT_FILE_WRITING, GS_PERMIT_FILE_CONTROL})
+    ::gsapi_add_control_path(instance_, right, ownFiles.constData());
+  unread_ = kSelectDevice;
+}
+
+}  // namespace norvex

@@ -1,0 +1,39 @@
+// PostScriptInterpreter: Ghostscript as a library, initialised once and then forked for each document.
+#pragma once
+
+#include <QByteArray>
+
+#include <functional>
+
+namespace norvex {
+
+/// The only code that libgs is linked for. Initialised as the gs that is started for a document is, but with
+/// a device that writes nothing; it becomes the device of that gs when there is a document. A program and
+/// what it changes are seen in its own process only. One in a process; single-threaded.
+class PostScriptInterpreter {
+ public:
+  /// Called when everything is initialised. It forks as often as it likes and returns in the forked processes
+  /// only, each with the folder for its temporary files; the original process ends within it. A returned
+  /// process has standard input for the program, standard output for the PDF, standard error for messages.
+  using Serve = std::function<QByteArray()>;
+
+  explicit PostScriptInterpreter(Serve serve) : serve_(std::move(serve)) {}
+  PostScriptInterpreter(const PostScriptInterpreter&) = delete;
+  PostScriptInterpreter& operator=(const PostScriptInterpreter&) = delete;
+  ~PostScriptInterpreter() = default;
+
+  /// Gives the exit code that gs would have: of a forked process when its document is done, of the original
+  /// one when the interpreter cannot be initialised.
+  int run();
+
+ private:
+  static int readProgram(void* self, char* buffer, int size);
+  static int writeMessage(void* self, const char* text, int size);
+  void beginDocument();
+  Serve serve_;
+  void* instance_ = nullptr;
+  bool forked_ = false;
+  QByteArray unread_;  ///< of what is run before the document's own program
+};
+
+}  // namespace norvex

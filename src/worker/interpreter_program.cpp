@@ -1,0 +1,76 @@
+#include "worker/interpreter_program.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "protocol/interpreter_request.h"
+#include "worker/worker_program.h"
+
+extern char** environ;
+
+namespace norvex {
+namespace {
+
+constexpr int kMaximumStarts = 4;   ///< one that dies as often is broken
+constexpr int kAboveStandard = 10;  ///< must not be a number that the program's start overwrites
+
+std::string programBesideOurs() {
+  std::error_code ignored;
+  return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "norvex-postscript";
+}
+
+/// Standard streams are ours, which are nothing; everything but the connection is closed.
+pid_t spawn(const std::string& program, const std::string& scratchRoot, int taking) {
+  posix_spawn_file_actions_t actions;
+  ::posix_spawn_file_actions_init(&actions);
+  ::posix_spawn_file_actions_adddup2(&actions, taking, kControlDescriptor);
+  ::posix_spawn_file_actions_addclosefrom_np(&actions, kControlDescriptor + 1);
+  char* arguments[] = {const_cast<char*>(program.c_str()), const_cast<char*>(scratchRoot.c_str()), nullptr};
+  pid_t pid = 0;
+  const int failure = ::posix_spawn(&pid, program.c_str(), &actions, nullptr, arguments, environ);
+  ::posix_spawn_file_actions_destroy(&actions);
+  return failure == 0 ? pid : 0;
+}
+
+}  // namespace
+
+InterpreterProgram::InterpreterProgram(std::string scratchRoot, std::string program)
+    : scratchRoot_(std::move(scratchRoot)),
+      program_(program.empty() ? programBesideOurs() : std::move(program)) {}
+
+void InterpreterProgram::stop() {
+  asking_.reset();
+  if (pid_ == 0) return;
+  ::kill(pid_, SIGKILL);  // whom it forked dies with it
+  while (::waitpid(pid_, nullptr, 0) < 0 && errno == EINTR) continue;
+  pid_ = 0;
+}
+
+bool InterpreterProgram::runs() {
+  if (pid_ != 0 && ::waitpid(pid_, nullptr, WNOHANG) == 0) return true;
+  pid_ = 0;
+  asking_.reset();
+  return false;
+}
+
+void InterpreterProgram::start() {
+  if (runs() || starts_ == kMaximumStarts) return;
+  Result<InterpreterConnection> connection = makeInterpreterConnection();
+  if (!connection) return;
+  const FileDescriptor taking(::fcntl(connection->taking.get(), F_DUPFD_CLOEXEC, kAboveStandard));
+  connection->taking.reset();
+  if (!taking.valid()) return;
+  ++starts_;
+  pid_ = spawn(program_, scratchRoot_, taking.get());
+  if (pid_ != 0) asking_ = std::move(connection->asking);
+}
+
+}  // namespace norvex

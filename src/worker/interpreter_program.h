@@ -1,0 +1,40 @@
+// InterpreterProgram: norvex-postscript as the picture process starts it, once for all of its documents.
+#pragma once
+
+#include <string>
+
+#include "base/file_descriptor.h"
+
+namespace norvex {
+
+/// Single-threaded. The program ends with us and with all who inherited asking(); it is not waited for
+/// before.
+class InterpreterProgram {
+ public:
+  /// `program`: empty for norvex-postscript beside the running program. `scratchRoot`: where it makes the
+  /// folders of its documents.
+  explicit InterpreterProgram(std::string scratchRoot, std::string program = {});
+  InterpreterProgram(const InterpreterProgram&) = delete;
+  InterpreterProgram& operator=(const InterpreterProgram&) = delete;
+  ~InterpreterProgram() { stop(); }
+
+  /// Starts it unless it runs, and does not wait until it is ready. After it has died some times in a row it
+  /// is not started any more.
+  void start();
+  /// Ends it with all that it has forked.
+  void stop();
+  /// Where interpreters are asked for (protocol/interpreter_request.h); -1: the program does not run. Not
+  /// ready is no failure, a program that cannot run is noticed by whoever asks.
+  [[nodiscard]] int asking() const { return asking_.get(); }
+  /// Process number; 0: it does not run.
+  [[nodiscard]] int pid() const { return pid_; }
+
+ private:
+  [[nodiscard]] bool runs();
+  std::string scratchRoot_, program_;
+  FileDescriptor asking_;
+  int pid_ = 0;
+  int starts_ = 0;
+};
+
+}  // namespace norvex

@@ -1,0 +1,102 @@
+#include "protocol/interpreter_request.h"
+
+#include <sys/socket.h>
+
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+FileDescriptor somePipe(FileDescriptor& reading) {
+  int ends[2] = {-1, -1};
+  if (::pipe(ends) != 0) return {};
+  reading.reset(ends[0]);
+  return FileDescriptor(ends[1]);
+}
+
+InterpreterRequest someRequest(FileDescriptor (&reading)[4]) {
+  InterpreterRequest request;
+  request.limits.seconds = 7;
+  request.limits.memoryMiB = 123;
+  request.program = somePipe(reading[0]);
+  request.output = somePipe(reading[1]);
+  request.messages = somePipe(reading[2]);
+  request.outcome = somePipe(reading[3]);
+  return request;
+}
+
+}  // namespace
+
+class InterpreterRequestTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void limitsAndDescriptorsArrive() {
+    auto connection = makeInterpreterConnection();
+    QVERIFY(connection.ok());
+    FileDescriptor reading[4];
+    QVERIFY(sendInterpreterRequest(connection->asking.get(), someRequest(reading)).ok());
+    const auto request = receiveInterpreterRequest(connection->taking.get());
+    QVERIFY(request.ok());
+    QCOMPARE(request->limits.seconds, 7);
+    QCOMPARE(request->limits.memoryMiB, 123);
+    const FileDescriptor* arrived[4] = {&request->program, &request->output, &request->messages,
+                                        &request->outcome};
+    for (int i = 0; i < 4; ++i) {
+      const char letter = char('a' + i);
+      char read = 0;
+      QCOMPARE(::write(arrived[i]->get(), &letter, 1), ssize_t(1));
+      QCOMPARE(::read(reading[i].get(), &read, 1), ssize_t(1));
+      QCOMPARE(read, letter);
+    }
+  }
+
+  void theEndComesWhenTheLastAskerIsGone() {
+    auto connection = makeInterpreterConnection();
+    QVERIFY(connection.ok());
+    FileDescriptor other(::dup(connection->asking.get()));
+    connection->asking.reset();
+    FileDescriptor reading[4];
+    QVERIFY(sendInterpreterRequest(other.get(), someRequest(reading)).ok());
+    QVERIFY(receiveInterpreterRequest(connection->taking.get()).ok());
+    other.reset();
+    QCOMPARE(receiveInterpreterRequest(connection->taking.get()).error().kind, ErrorKind::Died);
+  }
+
+  void whoeverAsksNobodyIsToldAtOnce() {
+    auto connection = makeInterpreterConnection();
+    QVERIFY(connection.ok());
+    connection->taking.reset();
+    FileDescriptor reading[4];
+    QCOMPARE(sendInterpreterRequest(connection->asking.get(), someRequest(reading)).error().kind,
+             ErrorKind::Died);
+  }
+
+  void aRequestThatNobodyTookEndsItsPipes() {
+    auto connection = makeInterpreterConnection();
+    QVERIFY(connection.ok());
+    FileDescriptor reading[4];
+    QVERIFY(sendInterpreterRequest(connection->asking.get(), someRequest(reading)).ok());
+    connection->taking.reset();
+    char letter = 0;
+    QCOMPARE(::read(reading[3].get(), &letter, 1), ssize_t(0));
+  }
+
+  void rubbishIsNoRequest_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("not CBOR") << QByteArray("rubbish");
+    QTest::newRow("another message") << encodeMessage(CancelRequest{1});
+    QTest::newRow("without descriptors") << encodeMessage(ForkRequest{});
+    QTest::newRow("long") << QByteArray(100'000, 'x');
+  }
+  void rubbishIsNoRequest() {
+    QFETCH(QByteArray, bytes);
+    auto connection = makeInterpreterConnection();
+    QVERIFY(connection.ok());
+    QCOMPARE(::send(connection->asking.get(), bytes.constData(), size_t(bytes.size()), 0), bytes.size());
+    QCOMPARE(receiveInterpreterRequest(connection->taking.get()).error().kind, ErrorKind::Protocol);
+  }
+};
+
+NORVEX_TEST(InterpreterRequestTest)
+#include "interpreter_request_test.moc"

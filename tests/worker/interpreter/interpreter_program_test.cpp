@@ -1,0 +1,281 @@
+#include "worker/interpreter_program.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <sys/socket.h>
+
+#include <csignal>
+
+#include "kit/process_watch.h"
+#include "kit/test_main.h"
+#include "worker/postscript/distill.h"
+#include "worker/postscript/distiller.h"
+#include "worker/postscript/ghostscript.h"
+
+using namespace norvex;
+using namespace norvex::engine;
+
+namespace {
+
+const QByteArray kDrawing =
+    "/Helvetica findfont 12 scalefont setfont 5 5 moveto (words) show\n"
+    "0.1 0.2 0.3 0.4 setcmykcolor 0 0 30 20 rectfill\n";
+const QRectF kBox(0, 0, 60, 40);
+
+class Interpreters {
+ public:
+  explicit Interpreters(const std::string& program = NORVEX_BUILD_DIR "/norvex-postscript")
+      : program_(root_.path().toStdString(), program) {
+    program_.start();
+    context_.interpreters = program_.asking();
+    context_.scratchFolder = root_.path();
+    context_.limits.seconds = 60;
+  }
+  EngineContext& context() { return context_; }
+  InterpreterProgram& program() { return program_; }
+  [[nodiscard]] QStringList folders() const {
+    return QDir(root_.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries);
+  }
+  /// What a program says, run by an interpreter of its own.
+  Result<GhostscriptOutput> run(const QByteArray& program) {
+    auto child = GhostscriptChild::fork(program_.asking(), context_.limits);
+    if (!child) return child.error();
+    return (*child)->run({program}, context_);
+  }
+  QByteArray saidBy(const QByteArray& program) {
+    const auto run = this->run(program + "\nflush quit\n");
+    return run ? run->messages : run.error().message.toUtf8();
+  }
+  [[nodiscard]] bool stillWork() {
+    const int before = program_.pid();
+    program_.start();  // starts it again if it does not run
+    return program_.pid() == before && distill(kDrawing, kBox, context_).ok() && context_.interpreters >= 0;
+  }
+
+ private:
+  QTemporaryDir root_;
+  EngineContext context_;
+  InterpreterProgram program_;
+};
+
+Error errorOf(const Result<Distilled>& distilled) {
+  return distilled ? Error{ErrorKind::Unsupported, QStringLiteral("no error")} : distilled.error();
+}
+
+}  // namespace
+
+class InterpreterProgramTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void whatItMakesIsWhatGsMakes_data() {
+    QTest::addColumn<QByteArray>("program");
+    QTest::newRow("a drawing") << kDrawing;
+    QTest::newRow("an image") << QByteArray("30 30 scale 2 2 8 [2 0 0 2 0 0] {<00FF80C0>} image showpage\n");
+    QTest::newRow("a shading") << QByteArray(
+        "<< /ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 60 0] /Function << /FunctionType 2 /Domain [0 "
+        "1] "
+        "/C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> shfill\n");
+    QTest::newRow("a missing font") << QByteArray(
+        "/NoSuchFont findfont 9 scalefont setfont 5 5 moveto (words) show\n");
+    QTest::newRow("an error behind the page") << kDrawing + "showpage nosuch\n";
+    QTest::newRow("distiller parameters of the document")
+        << QByteArray("<< /CompressPages false /Optimize true >> setdistillerparams\n") + kDrawing;
+  }
+  void whatItMakesIsWhatGsMakes() {
+    QFETCH(QByteArray, program);
+    Interpreters interpreters;
+    const auto forked = distill(program, kBox, interpreters.context());
+    QVERIFY2(forked.ok(), qPrintable(errorOf(forked).message));
+    QVERIFY(interpreters.context().interpreters >= 0);
+    interpreters.context().interpreters = -1;
+    const auto started = distill(program, kBox, interpreters.context());
+    QVERIFY2(started.ok(), qPrintable(errorOf(started).message));
+    QCOMPARE(forked->pdf, started->pdf);
+    QCOMPARE(forked->warnings, started->warnings);
+  }
+
+  void whatItRefusesIsWhatGsRefuses_data() {
+    QTest::addColumn<QByteArray>("program");
+    QTest::newRow("an unknown operator") << QByteArray("nosuchoperator\n");
+    QTest::newRow("an open string") << QByteArray("(no end");
+    QTest::newRow("a file of the machine") << QByteArray("(/etc/passwd) (r) file\n");
+    QTest::newRow("a new file") << QByteArray("(/tmp/norvex-new) (w) file\n");
+    QTest::newRow("a pipe") << QByteArray("(%pipe%id) (r) file\n");
+    QTest::newRow("another file for the result")
+        << QByteArray("<< /OutputFile (/tmp/norvex-new) >> systemdict /setpagedevice get exec\n");
+    QTest::newRow("another device") << QByteArray(
+        "<< /OutputDevice /png16m /OutputFile (/tmp/norvex-new) >> systemdict /setpagedevice get exec\n");
+    QTest::newRow("the environment") << QByteArray("(PATH) getenv { nosuch } if pop nothing\n");
+  }
+  void whatItRefusesIsWhatGsRefuses() {
+    QFETCH(QByteArray, program);
+    Interpreters interpreters;
+    const Error forked = errorOf(distill(program, kBox, interpreters.context()));
+    interpreters.context().interpreters = -1;
+    const Error started = errorOf(distill(program, kBox, interpreters.context()));
+    QCOMPARE(forked.message, started.message);
+    QCOMPARE(forked.kind, started.kind);
+    QVERIFY(!QFile::exists("/tmp/norvex-new"));
+  }
+
+  void aDocumentSeesNothingOfTheOneBefore() {
+    Interpreters interpreters;
+    const QByteArray look =
+        "userdict /left known = globaldict /left known = /Left /ProcSet resourcestatus { pop pop true } { "
+        "false } "
+        "ifelse = FontDirectory /Helvetica known = { 1 2 add } exec = ";
+    const QByteArray leave =
+        "userdict /left 1 put true setglobal globaldict /left 1 put /Left << >> /ProcSet defineresource pop "
+        "false setglobal /Helvetica findfont pop userdict /add { mul } put ";
+    QVERIFY(interpreters.saidBy(leave + look).contains("true\ntrue\ntrue\ntrue\n2\n"));
+    QVERIFY(interpreters.saidBy(look).contains("false\nfalse\nfalse\nfalse\n3\n"));
+  }
+
+  void standardOutputOfTheProgramIsNoPartOfThePdf() {
+    Interpreters interpreters;
+    const auto run = interpreters.run(
+        "(spoken1) print flush (%stdout) (w) file dup (spoken2) writestring flushfile (%stderr) (w) file dup "
+        "(spoken3) writestring flushfile 0 0 9 9 rectfill showpage (spoken4) = flush quit\n");
+    QVERIFY(run.ok());
+    QVERIFY(run->output.startsWith("%PDF-"));
+    QVERIFY(run->output.trimmed().endsWith("%%EOF"));
+    QVERIFY(!run->output.contains("spoken"));
+    for (const char* words : {"spoken1", "spoken2", "spoken3", "spoken4"})
+      QVERIFY(run->messages.contains(words));
+  }
+
+  void severalWorkAtOnce() {
+    Interpreters interpreters;
+    warmUpGhostscript(interpreters.context());
+    const auto waiting = std::exchange(interpreters.context().warmGhostscript, nullptr);
+    QVERIFY(waiting != nullptr);
+    QVERIFY(interpreters.saidBy("(second) =").contains("second\n"));
+    const auto first = waiting->run({"(first) = flush quit\n"}, interpreters.context());
+    QVERIFY(first.ok() && first->messages.contains("first\n"));
+  }
+
+  void aCancelledProgramIsKilled() {
+    Interpreters interpreters;
+    EngineContext& context = interpreters.context();
+    const int server = interpreters.program().pid();
+    std::unique_ptr<QThread> canceller(QThread::create([token = context.cancel, server] {
+      (void)kit::eventually([server] { return !kit::childrenOf(server).isEmpty(); });
+      token.cancel();
+    }));
+    canceller->start();
+    QCOMPARE(errorOf(distill("{} loop\n", kBox, context)).kind, ErrorKind::Cancelled);
+    canceller->wait();
+    QVERIFY(kit::eventually([server] { return kit::childrenOf(server).isEmpty(); }));
+    QVERIFY(kit::eventually([&] { return interpreters.folders().isEmpty(); }));
+    context.cancel = CancelToken();
+    QVERIFY(interpreters.stillWork());
+  }
+
+  void anEndlessProgramIsStoppedInTime() {
+    Interpreters interpreters;
+    interpreters.context().limits.seconds = 1;
+    QCOMPARE(errorOf(distill("{} loop\n", kBox, interpreters.context())).kind, ErrorKind::TimedOut);
+    interpreters.context().limits.seconds = 60;
+    QVERIFY(interpreters.stillWork());
+  }
+
+  void aProgramWithoutBoundsReachesItsLimitOfMemory() {
+    Interpreters interpreters;
+    interpreters.context().limits.memoryMiB = 64;
+    const Error error = errorOf(distill("[ { 60000 string } loop\n", kBox, interpreters.context()));
+    QCOMPARE(error.kind, ErrorKind::Limit);
+    QVERIFY(interpreters.stillWork());
+  }
+
+  void oneThatCrashesTakesNobodyAlong() {
+    Interpreters interpreters;
+    const int server = interpreters.program().pid();
+    std::unique_ptr<QThread> killer(QThread::create([server] {
+      (void)kit::eventually([server] { return !kit::childrenOf(server).isEmpty(); });
+      for (const qint64 pid : kit::childrenOf(server)) ::kill(pid_t(pid), SIGSEGV);
+    }));
+    killer->start();
+    QCOMPARE(errorOf(distill("{} loop\n", kBox, interpreters.context())).kind, ErrorKind::NotParsable);
+    killer->wait();
+    QVERIFY(interpreters.stillWork());
+  }
+
+  void rubbishInPlaceOfARequestIsPassedOver() {
+    Interpreters interpreters;
+    QCOMPARE(::send(interpreters.program().asking(), "rubbish", 7, MSG_NOSIGNAL), 7);
+    QVERIFY(interpreters.stillWork());
+  }
+
+  void whatADocumentLeftInItsFolderIsRemoved() {
+    Interpreters interpreters;
+    QVERIFY(interpreters.saidBy("null (w) .tempfile (something) writestring = ")
+                .contains(interpreters.context().scratchFolder.toUtf8()));
+    QVERIFY(kit::eventually([&] { return interpreters.folders().isEmpty(); }));
+  }
+
+  void withoutTheProgramGsIsStarted_data() {
+    QTest::addColumn<std::string>("program");
+    QTest::newRow("there is none") << std::string("/nowhere/norvex-postscript");
+    QTest::newRow("it ends at once") << std::string("/bin/false");
+    QTest::newRow("it takes nothing") << std::string("/bin/true");
+  }
+  void withoutTheProgramGsIsStarted() {
+    QFETCH(std::string, program);
+    Interpreters interpreters(program);
+    warmUpGhostscript(interpreters.context());
+    const auto distilled = distill(kDrawing, kBox, interpreters.context());
+    QVERIFY2(distilled.ok(), qPrintable(errorOf(distilled).message));
+    QVERIFY(distilled->pdf.startsWith("%PDF-"));
+  }
+
+  void aBrokenProgramIsNotStartedForEver() {
+    Interpreters interpreters("/bin/false");
+    int starts = 1;
+    for (int before = interpreters.program().pid(); starts < 20; ++starts) {
+      (void)kit::eventually([before] { return kit::stateOf(before) == 'Z' || kit::stateOf(before) == 0; });
+      interpreters.program().start();
+      if (interpreters.program().pid() == 0) break;
+      before = interpreters.program().pid();
+    }
+    QVERIFY(starts < 20);
+    QCOMPARE(interpreters.program().asking(), -1);
+  }
+
+  void oneThatDiedIsStartedAgain() {
+    Interpreters interpreters;
+    const int before = interpreters.program().pid();
+    ::kill(before, SIGKILL);
+    QVERIFY(kit::eventually([before] { return kit::stateOf(before) == 'Z'; }));
+    interpreters.program().start();
+    QVERIFY(interpreters.program().pid() != before);
+    interpreters.context().interpreters = interpreters.program().asking();
+    QVERIFY(interpreters.stillWork());
+  }
+
+  void nobodyIsLeftWhenWhoStartedItDies() {
+    int ends[2];
+    QCOMPARE(::pipe(ends), 0);
+    const pid_t parent = ::fork();
+    if (parent == 0) {
+      Interpreters interpreters;
+      auto child = GhostscriptChild::fork(interpreters.program().asking(), {});
+      const int server = interpreters.program().pid();
+      (void)kit::eventually([server] { return !kit::childrenOf(server).isEmpty(); });
+      const qint64 pids[2] = {server, kit::childrenOf(server).value(0)};
+      if (::write(ends[1], pids, sizeof pids) < 0) ::_exit(1);
+      ::pause();
+    }
+    qint64 pids[2] = {};
+    QCOMPARE(::read(ends[0], pids, sizeof pids), ssize_t(sizeof pids));
+    QVERIFY(pids[0] > 0 && pids[1] > 0);
+    ::kill(parent, SIGKILL);
+    ::waitpid(parent, nullptr, 0);
+    for (const qint64 pid : pids)
+      QVERIFY(kit::eventually([pid] { return kit::stateOf(pid) == 0 || kit::stateOf(pid) == 'Z'; }));
+  }
+};
+
+NORVEX_TEST(InterpreterProgramTest)
+#include "interpreter_program_test.moc"

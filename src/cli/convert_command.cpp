@@ -6,6 +6,7 @@
 
 #include "base/atomic_file.h"
 #include "base/file_name.h"
+#include "base/time_limit.h"
 #include "cli/arguments/conversion_use.h"
 #include "cli/conversion_report.h"
 #include "cli/input_file.h"
@@ -24,6 +25,11 @@ Conversion refused(ErrorKind kind, const QString& message) {
 
 Conversion interrupted() {
   return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
+}
+
+Conversion tookTooLong() {
+  return refused(ErrorKind::TimedOut,
+                 QStringLiteral("the picture was not ready within the time that it is allowed"));
 }
 
 /// What can be known before the work is done: that its result could not be kept.
@@ -51,8 +57,10 @@ Conversion convertFile(PictureService& service, const ConvertTask& task, const C
   if (!bytes) return refused(bytes.error().kind, bytes.error().message);
 
   const QUrl url = isInput ? QUrl() : QUrl::fromLocalFile(QFileInfo(task.file).absoluteFilePath());
-  Conversion conversion = convertPicture(service, *bytes, url, plan.options, cancel);
+  const TimeLimit limit(std::chrono::seconds(plan.options.limits.seconds), cancel);
+  Conversion conversion = convertPicture(service, *bytes, url, plan.options, limit.token());
   if (cancel.cancelled()) return interrupted();
+  if (limit.isOver() && conversion.report.error) return tookTooLong();
   if (conversion.report.error || task.output == QLatin1String("-")) return conversion;
   const auto written =
       writeFileAtomically(task.output, conversion.bytes, plan.force ? IfExists::Replace : IfExists::Fail);

@@ -4,82 +4,22 @@
 #include <QFileInfo>
 #include <QThread>
 
-#include <cmath>
-
 #include "base/latin1_text.h"
-#include "protocol/limits.h"
+#include "cli/value_reader.h"
 
 namespace norvex {
 namespace {
 
-/// Reads option values one after the other and keeps the first complaint.
-class ValueReader {
- public:
-  explicit ValueReader(const Arguments& arguments) : arguments_(arguments) {}
-
-  [[nodiscard]] const QString& complaint() const { return complaint_; }
-  void complain(const QString& sentence) {
-    if (complaint_.isEmpty()) complaint_ = sentence;
-  }
-
-  double number(Option option, double fallback, double least, double most) {
-    if (!arguments_.has(option)) return fallback;
-    bool good = false;
-    const double value = arguments_.values.value(option).toDouble(&good);
-    if (good && std::isfinite(value) && value >= least && value <= most) return value;
-    complain(QStringLiteral("--%1 is a number from %2 to %3")
-                 .arg(latin1(rowOf(option).name))
-                 .arg(least, 0, 'f', 0)
-                 .arg(most, 0, 'f', 0));
-    return fallback;
-  }
-
-  int integer(Option option, int fallback, int least, int most) {
-    const double value = number(option, fallback, least, most);
-    if (value != std::floor(value))
-      complain(QStringLiteral("--%1 is a whole number").arg(latin1(rowOf(option).name)));
-    return static_cast<int>(value);
-  }
-
-  std::optional<QRectF> crop() {
-    if (!arguments_.has(Option::Crop)) return std::nullopt;
-    const QStringList texts = arguments_.values.value(Option::Crop).split(u',');
-    QList<double> numbers;
-    for (const QString& text : texts) {
-      bool good = false;
-      const double value = text.trimmed().toDouble(&good);
-      if (good && std::abs(value) <= limits::maximumPoints) numbers << value;
-    }
-    if (texts.size() == 4 && numbers.size() == 4 && numbers[2] > 0 && numbers[3] > 0) {
-      return QRectF(numbers[0], numbers[1], numbers[2], numbers[3]);
-    }
-    complain(QStringLiteral("--crop is X,Y,W,H: four numbers of points with W and H above 0"));
-    return std::nullopt;
-  }
-
-  QColor background() {
-    if (!arguments_.has(Option::Background)) return {};
-    const QColor color(arguments_.values.value(Option::Background));
-    if (!color.isValid()) complain(QStringLiteral("--background is a colour: a name or #rrggbb"));
-    return color;
-  }
-
- private:
-  const Arguments& arguments_;
-  QString complaint_;
-};
-
 ConversionOptions optionsOf(const Arguments& arguments, ValueReader& values) {
-  constexpr int manyDays = 10'000'000;
+  constexpr int manyPages = 10'000'000;
   ConversionOptions options;
   options.rotateDegrees = values.number(Option::Rotate, 0, -36000, 36000);
   options.crop = values.crop();
-  if (arguments.has(Option::Page)) options.page = values.integer(Option::Page, 1, 1, manyDays);
+  if (arguments.has(Option::Page)) options.page = values.integer(Option::Page, 1, 1, manyPages);
   options.dpi = values.number(Option::Dpi, 72, 1, 9600);
   options.background = values.background();
   if (arguments.has(Option::Quality)) options.quality = values.integer(Option::Quality, 1, 1, 100);
-  options.limits.seconds = values.integer(Option::Timeout, options.limits.seconds, 1, manyDays);
-  options.limits.memoryMiB = values.integer(Option::Memory, options.limits.memoryMiB, 64, 1 << 20);
+  options.limits = values.limits();
   return options;
 }
 

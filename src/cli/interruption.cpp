@@ -1,15 +1,21 @@
 #include "cli/interruption.h"
 
+#include <sys/eventfd.h>
+
+#include <cerrno>
 #include <csignal>
 
 namespace norvex {
 namespace {
 
-/// Set while an Interruption lives; the handler may touch nothing but its atomic flag.
-const CancelToken* current = nullptr;
+/// Where the handler writes while an Interruption lives. Cancelling wakes whoever waits, which a signal
+/// handler may not do: it would take locks that the interrupted thread holds.
+volatile std::sig_atomic_t current = -1;
 
-void cancelCurrent(int) {
-  if (current) current->cancel();
+void tellCurrent(int) {
+  const int before = errno;
+  if (current >= 0) (void)::eventfd_write(current, 1);
+  errno = before;
 }
 
 void setHandler(void (*handler)(int), int flags) {
@@ -22,14 +28,24 @@ void setHandler(void (*handler)(int), int flags) {
 
 }  // namespace
 
-Interruption::Interruption() {
-  current = &token_;
-  setHandler(cancelCurrent, static_cast<int>(SA_RESETHAND));
+Interruption::Interruption() : signalled_(::eventfd(0, EFD_CLOEXEC)) {
+  listener_ = std::thread([this] {
+    eventfd_t count = 0;
+    int failed = 0;
+    do failed = ::eventfd_read(signalled_.get(), &count);
+    while (failed != 0 && errno == EINTR);
+    if (failed == 0 && !ended_) token_.cancel();
+  });
+  current = signalled_.get();
+  setHandler(tellCurrent, static_cast<int>(SA_RESETHAND));
 }
 
 Interruption::~Interruption() {
   setHandler(SIG_DFL, 0);
-  current = nullptr;
+  current = -1;
+  ended_ = true;
+  (void)::eventfd_write(signalled_.get(), 1);
+  listener_.join();
 }
 
 }  // namespace norvex

@@ -1,7 +1,11 @@
 // Ctrl-C and a polite kill while files are being converted.
 #pragma once
 
+#include <atomic>
+#include <thread>
+
 #include "base/cancel_token.h"
+#include "base/file_descriptor.h"
 
 namespace norvex {
 
@@ -19,6 +23,9 @@ class Interruption {
 
  private:
   CancelToken token_;
+  FileDescriptor signalled_;
+  std::atomic<bool> ended_ = false;
+  std::thread listener_;
 };
 
 }  // namespace norvex

@@ -1,6 +1,8 @@
 // `norvex source`: the decoded source text, in UTF-8.
+#include "base/time_limit.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
+#include "cli/value_reader.h"
 #include "metadata/eps_header.h"
 #include "metadata/source_text.h"
 #include "picture/svg_header.h"
@@ -14,12 +16,13 @@ Result<QString> textOrError(PictureKind kind, const QByteArray& bytes, const Hea
   return Error{ErrorKind::NotParsable, QStringLiteral("the text is in no encoding that is known")};
 }
 
-Result<QString> svgText(PictureService& service, const QByteArray& bytes) {
+Result<QString> svgText(PictureService& service, const QByteArray& bytes, const PictureLimits& limits) {
+  const TimeLimit time(std::chrono::seconds(limits.seconds), {});
   service.openOnlyFor(PictureUse::Drawing);
-  const auto process = service.open(bytes, PictureKind::Svg);
-  const Result<PictureFacts> facts = process->facts();
+  const auto process = service.open(bytes, PictureKind::Svg, limits);
+  const Result<PictureFacts> facts = process->facts(time.token());
   if (!facts) return facts.error();
-  const Result<PictureBytes> pretty = process->svg({});
+  const Result<PictureBytes> pretty = process->svg({}, time.token());
   if (!pretty) return pretty.error();
   return textOrError(PictureKind::Svg, pretty->bytes, svgHeader(facts));
 }
@@ -28,6 +31,9 @@ Result<QString> svgText(PictureService& service, const QByteArray& bytes) {
 
 ExitCode Job::source(const Arguments& arguments) {
   const QString file = arguments.files.first();
+  ValueReader values(arguments);
+  const PictureLimits limits = values.limits();
+  if (!values.complaint().isEmpty()) return complain(Command::Source, values.complaint());
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
   const Result<PictureKind> kind = pictureKindOfInput(*bytes, typeOfInput(*bytes, file));
@@ -37,7 +43,7 @@ ExitCode Job::source(const Arguments& arguments) {
     return ExitCode::SomeFailed;
   }
   const Result<QString> text =
-      *kind == PictureKind::Svg ? svgText(service_, *bytes) : textOrError(*kind, *bytes, epsHeader(*bytes));
+      *kind == PictureKind::Svg ? svgText(service_, *bytes, limits) : textOrError(*kind, *bytes, epsHeader(*bytes));
   if (!text) return fail(file, text.error());
   // A terminal is not to be commanded by a document; a file or a pipe gets the text as it is.
   return show(console_.isTerminal() ? visible(*text, true) : *text);

@@ -1,5 +1,6 @@
 #include "programs/expected_pictures.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 #include <vector>
@@ -59,7 +60,7 @@ class Reading {
  public:
   Reading(Command command, int argc, const char* const* argv) : command_(command), argc_(argc), argv_(argv) {
     bool onlyFiles = false;
-    for (at_ = 2; at_ < argc_; ++at_) {
+    for (at_ = command == Command::Main ? 1 : 2; at_ < argc_; ++at_) {
       const Text argument = argv_[at_];
       if (onlyFiles || argument == "-" || !argument.starts_with('-'))
         files.push_back(argument);
@@ -139,15 +140,13 @@ ExpectedPictures expectedPictures(int argc, const char* const* argv) {
 }
 
 bool expectPostScript(int argc, const char* const* argv) {
-  const Text command = argc > 1 ? argv[1] : "";
-  if (isOneOf(command, {"info", "source", "preview"})) return false;
-  for (int i = 1; i < argc; ++i) {
-    const Text argument = argv[i];
-    const Text before = argv[i - 1];
-    const bool isTarget = before == "-o" || before == "--output" || argument.starts_with('-');
-    if (!isTarget && isOneOf(extensionOf(argument), {"eps", "epsf", "epsi", "epi", "ps"})) return true;
-  }
-  return false;
+  const auto command = commandNamed(argc > 1 ? argv[1] : "");
+  // A window is given files alone, where a command stands in front of its own.
+  const Command given = command.value_or(Command::Main);
+  if (command && rowOf(given).isLight && given != Command::Convert) return false;
+  const Reading run(given, argc, argv);
+  return std::any_of(run.files.begin(), run.files.end(),
+                     [](Text file) { return kindOfFile(file) == DocumentKind::Eps; });
 }
 
 }  // namespace norvex

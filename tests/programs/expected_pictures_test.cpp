@@ -117,7 +117,7 @@ class ExpectedPicturesTest : public QObject {
     QTest::newRow("letter case") << QStringList{"convert", "A.EPS", "-o", "a.pdf"} << true;
     QTest::newRow("EPSI behind others") << QStringList{"convert", "a.svg", "b.epsi", "--to", "x"} << true;
     QTest::newRow("a window") << QStringList{"a.eps"} << true;
-    QTest::newRow("print") << QStringList{"print", "a.ps", "-o", "a.pdf"} << true;
+    QTest::newRow("print") << QStringList{"print", "a.eps", "-o", "a.pdf"} << true;
     QTest::newRow("EPS comes out") << QStringList{"convert", "a.svg", "-o", "a.eps"} << false;
     QTest::newRow("EPS comes out, long") << QStringList{"convert", "a.svg", "--output=a.eps"} << false;
     QTest::newRow("no picture is drawn") << QStringList{"info", "a.eps"} << false;

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "metadata/non_lossy_ascii.h"
+#include "protocol/limits.h"
 
 namespace norvex {
 namespace {
@@ -86,11 +87,10 @@ Converter strictConverter(const char* name) {
   return U_SUCCESS(status) ? std::move(converter) : Converter{};
 }
 
-constexpr qsizetype kLargestConversion = std::numeric_limits<int32_t>::max() / 4;
-
 std::optional<QString> convert(QByteArrayView bytes, const char* name) {
   if (bytes.isEmpty()) return QString("");
-  const Converter converter = bytes.size() <= kLargestConversion ? strictConverter(name) : Converter{};
+  const Converter converter =
+      bytes.size() <= limits::maximumConvertedLength ? strictConverter(name) : Converter{};
   if (!converter) return {};
   QString text(bytes.size() + 1, Qt::Uninitialized);  // no decoder here gives more units than it takes bytes
   UErrorCode status = U_ZERO_ERROR;
@@ -103,7 +103,8 @@ std::optional<QString> convert(QByteArrayView bytes, const char* name) {
 
 std::optional<QByteArray> convertBack(QStringView text, const char* name) {
   if (text.isEmpty()) return QByteArray("");
-  const Converter converter = text.size() <= kLargestConversion ? strictConverter(name) : Converter{};
+  const Converter converter =
+      text.size() <= limits::maximumConvertedLength ? strictConverter(name) : Converter{};
   if (!converter) return {};
   QByteArray bytes(text.size() * 4, Qt::Uninitialized);
   UErrorCode status = U_ZERO_ERROR;

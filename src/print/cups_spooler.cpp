@@ -6,12 +6,11 @@
 #include <memory>
 #include <optional>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
 
-constexpr int kPatienceMs = 5000;
-constexpr double kLookSeconds = 0.25;  // how often a call that waits looks whether it is still wanted
-constexpr int kMostLooks = 60;         // that nothing is heard: 15 seconds
 constexpr qsizetype kPieceBytes = 64 << 10;
 
 /// Nobody is asked for a password: by itself the library would ask on the terminal, from whatever thread.
@@ -24,9 +23,9 @@ class Connection {
  public:
   explicit Connection(const CancelToken& cancel) : cancel_(cancel) {
     cupsSetPasswordCB2(noPassword, nullptr);
-    http_ =
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kPatienceMs, nullptr);
-    if (http_) httpSetTimeout(http_, kLookSeconds, &Connection::waitOn, this);
+    http_ = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                         limits::printerConnects, nullptr);
+    if (http_) httpSetTimeout(http_, limits::printerLookSeconds, &Connection::waitOn, this);
   }
   ~Connection() {
     if (http_) httpClose(http_);
@@ -43,7 +42,7 @@ class Connection {
   /// Why an answer is missing; nothing when it is not for waiting.
   [[nodiscard]] std::optional<Error> whatBrokeIt() const {
     if (cancel_.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the printing was cancelled")};
-    if (looks_ >= kMostLooks)
+    if (looks_ >= limits::maximumPrinterLooks)
       return Error{ErrorKind::CannotWrite, QStringLiteral("the print service does not answer")};
     return std::nullopt;
   }
@@ -52,7 +51,7 @@ class Connection {
   static int waitOn(http_t*, void* self) {
     auto* const connection = static_cast<Connection*>(self);
     if (connection->cancel_.cancelled() && !connection->finishes_) return 0;
-    return ++connection->looks_ < kMostLooks ? 1 : 0;
+    return ++connection->looks_ < limits::maximumPrinterLooks ? 1 : 0;
   }
 
   CancelToken cancel_;

@@ -5,12 +5,12 @@
 
 #include <cmath>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
 
 constexpr int kVersion = 1;
-constexpr qsizetype kMostBytes = 64 << 10;
-constexpr qsizetype kLongestText = 1000;
 
 const QLatin1String kVersionKey("version"), kSettingsKey("settings");
 
@@ -42,7 +42,7 @@ bool isOf(const QCborValue& value, Type type) {
     case Type::Flag:
       return value.isBool();
     case Type::Text:
-      return value.isString() && value.toString().size() <= kLongestText;
+      return value.isString() && value.toString().size() <= limits::maximumSettingsText;
   }
   return false;
 }
@@ -60,7 +60,7 @@ QByteArray archivedPrintInfo(const NSPrintInfo& info) {
 }
 
 std::optional<NSPrintInfo> unarchivedPrintInfo(const QByteArray& archive) {
-  if (archive.isEmpty() || archive.size() > kMostBytes) return std::nullopt;
+  if (archive.isEmpty() || archive.size() > limits::maximumSettingsBytes) return std::nullopt;
   QCborParserError error;
   const QCborValue root = QCborValue::fromCbor(archive, &error);
   if (error.error != QCborError::NoError || error.offset != archive.size() || !root.isMap())

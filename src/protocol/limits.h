@@ -9,8 +9,7 @@
 
 namespace norvex::limits {
 
-// ---- bitmaps and geometry
-// -------------------------------------------------------------------------------------------
+// ---- bitmaps and geometry ----
 
 /// A document of some kilobytes that asks for a bitmap of gigabytes (a huge page at a high zoom, a hostile
 /// request).
@@ -24,8 +23,7 @@ inline constexpr double maximumFactor = 1.0e12;
 /// Resolutions from which a size in pixels is worked out that overflows.
 inline constexpr double maximumDpi = 1.0e5;
 
-// ---- the line to the picture process
-// --------------------------------------------------------------------------------
+// ---- the line to the picture process ----
 
 /// A length before a message that makes the other side wait for, and keep, gigabytes.
 inline constexpr quint32 maximumMessageBytes = 4u << 20;
@@ -62,8 +60,7 @@ inline constexpr double maximumMegapixels = 65536;
 inline constexpr int maximumSheets = 2000;
 inline constexpr double maximumFontSize = 1000;  ///< of a sheet's lines, points
 
-// ---- waiting for a picture process, in milliseconds
-// -----------------------------------------------------------------
+// ---- waiting for a picture process, in milliseconds ----
 
 /// A process that hangs: engines that watch the time themselves get this long to say so before they are
 /// killed.
@@ -76,17 +73,20 @@ inline constexpr qint64 processFarewell = 200;
 /// Seconds for a preview or the sheets of a job: what takes longer is an attack.
 inline constexpr int toolSeconds = 20;
 
-// ---- files
-// ----------------------------------------------------------------------------------------------------------
+// ---- files ----
 
 /// A file or a pipe without an end: its bytes are held in memory, in both processes.
 inline constexpr qint64 maximumDocumentBytes = 512LL << 20;
 /// A gzip bomb: some kilobytes of compressed SVG that inflate to gigabytes.
 inline constexpr qint64 maximumInflatedBytes = 256LL << 20;
 inline constexpr int maximumInflateRatio = 1000;  ///< checked beyond the first MiB
+/// A text so long that its converted form is beyond what the converter can count.
+inline constexpr qsizetype maximumConvertedLength = 0x7fffffff / 4;
+/// Print settings that somebody else has written: a value of megabytes, texts without end.
+inline constexpr qsizetype maximumSettingsBytes = 64 << 10;
+inline constexpr qsizetype maximumSettingsText = 1000;
 
-// ---- comments and previews of EPS files
-// -----------------------------------------------------------------------------
+// ---- comments and previews of EPS files ----
 
 /// An interchange preview that asks for a bitmap of gigabytes in a line of twenty characters.
 inline constexpr qint64 maximumPreviewPixels = 100'000'000;
@@ -94,8 +94,7 @@ inline constexpr qint64 maximumPreviewPixels = 100'000'000;
 inline constexpr int maximumResourceNames = 200;
 inline constexpr qsizetype maximumTrailerBytes = 64 << 10;
 
-// ---- SVG
-// ------------------------------------------------------------------------------------------------------------
+// ---- SVG ----
 
 /// XML that nests until the parser's or the drawing's stack is gone.
 inline constexpr int maximumXmlDepth = 512;
@@ -117,8 +116,7 @@ inline constexpr double maximumLayerSide = 16'000;
 /// Filters and masks over a huge picture: pixels of the image that each becomes in a PDF.
 inline constexpr double maximumEffectPixels = 16.0e6;
 
-// ---- PDF
-// ------------------------------------------------------------------------------------------------------------
+// ---- PDF ----
 
 /// A page tree made to be walked for ever.
 inline constexpr int maximumPages = 100'000;
@@ -137,5 +135,28 @@ inline constexpr int maximumInformationLength = 64 * 1024;
 /// An annotation as large as a country: units of the sheet that it is drawn on, what cairo's coordinates
 /// hold.
 inline constexpr double maximumAnnotationSheet = 1.0e6;
+
+/// Pages that are taken for the notice of an Illustrator file without PDF content: bytes of their contents as
+/// they are stored, of which the notice takes about a tenth.
+inline constexpr long long maximumNoticeBytes = 16 * 1024;
+
+// ---- EPS output ----
+
+/// Files of so many objects that a walk through them costs more than thinned fonts spare.
+inline constexpr int maximumThinnedObjects = 20'000;
+/// Transparency in thousands of places: regions that become images, and pixels of those that are drawn
+/// together.
+inline constexpr qsizetype maximumImageRegions = 100;
+inline constexpr double maximumPixelsTogether = 16.0e6;
+/// Huge pages, whose search for these regions would take minutes: pixels; they are compared more coarsely.
+inline constexpr double maximumComparedPixels = 6.0e6;
+
+// ---- printers ----
+
+/// A print service that does not answer: milliseconds until it is connected, and seconds of each of so many
+/// looks while nothing is heard from it.
+inline constexpr int printerConnects = 5000;
+inline constexpr double printerLookSeconds = 0.25;
+inline constexpr int maximumPrinterLooks = 60;
 
 }  // namespace norvex::limits

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+#include "protocol/limits.h"
 #include "worker/eps_output/eps_writing.h"
 #include "worker/eps_output/harmless_fonts.h"
 #include "worker/eps_output/poppler_postscript.h"
@@ -25,8 +26,7 @@ namespace norvex::engine {
 namespace {
 
 constexpr double kImageDpi = 300;
-constexpr double kMostTogether = 16e6;  // pixels
-constexpr double kSamePixel = 1e-4;     // what is lost in counting
+constexpr double kSamePixel = 1e-4;  // what is lost in counting
 
 struct Opaque {
   QSizeF size;
@@ -131,7 +131,7 @@ Result<EpsImage> cutOut(const EpsImage& whole, const QRectF& region, double scal
 bool drawnTogether(const QList<QRectF>& regions, const QRectF& around, double scale,
                    const PictureLimits& limits) {
   const double pixels = around.width() * around.height() * scale * scale;
-  return regions.size() > 1 && pixels <= std::min(kMostTogether, limits.megapixels * 1e6 / 4);
+  return regions.size() > 1 && pixels <= std::min(limits::maximumPixelsTogether, limits.megapixels * 1e6 / 4);
 }
 
 Result<QList<EpsImage>> imagesOf(const QByteArray& pdf, const QList<QRectF>& regions, QSizeF pageSize,

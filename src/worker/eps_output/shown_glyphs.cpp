@@ -16,12 +16,12 @@
 #include <set>
 #include <vector>
 
+#include "protocol/limits.h"
 #include "worker/eps_output/font_thinning.h"
 
 namespace norvex::engine {
 namespace {
 
-constexpr int kMostObjects = 20000;  // looking at more of them would cost more than it spares
 constexpr CharCode kMostCodes = 0x10000;
 
 // The font files of a document: where they hang, and whether a tiling pattern may show text.
@@ -196,7 +196,7 @@ void shortenMaps(XRef& objects, const std::map<const GfxFont*, TextListener::Sho
 
 void keepShownGlyphs(PDFDoc& document, std::list<QByteArray>& store) {
   XRef& objects = *document.getXRef();
-  if (objects.getNumObjects() > kMostObjects) return;
+  if (objects.getNumObjects() > limits::maximumThinnedObjects) return;
   FontFiles files = fontFilesOf(objects);
   if (files.streams.empty()) return;
   TextListener listener(files.textInPatterns);

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <vector>
 
+#include "protocol/limits.h"
 #include "worker/pdf/pdf_render.h"
 
 namespace norvex::engine {
@@ -13,8 +14,6 @@ namespace {
 constexpr int kCell = 8;       // pixels a side of the grid on which differences are gathered
 constexpr int kInvisible = 6;  // of 255: what smoothing makes of the same edge drawn twice
 constexpr double kLookDpi = 150;
-constexpr double kLookPixels = 6e6;  // larger pages are compared more coarsely
-constexpr qsizetype kMostRegions = 100;
 
 bool differs(Argb32 a, Argb32 b) {
   return std::abs(red(a) - red(b)) > kInvisible || std::abs(green(a) - green(b)) > kInvisible ||
@@ -90,13 +89,13 @@ QList<QRect> differingRegions(const Bitmap& one, const Bitmap& other) {
   QList<QRect> boxes;
   for (const QRect& group : Grid(one, other).groups())
     boxes << QRect(group.topLeft() * kCell, group.size() * kCell).adjusted(-2, -2, 2, 2);
-  if (boxes.size() > 20 * kMostRegions) {
+  if (boxes.size() > 20 * limits::maximumImageRegions) {
     QRect all;
     for (const QRect& box : std::as_const(boxes)) all |= box;
     boxes = {all};
   }
   boxes = disjoint(boxes);
-  while (boxes.size() > kMostRegions) {
+  while (boxes.size() > limits::maximumImageRegions) {
     for (QRect& box : boxes) box.adjust(-kCell, -kCell, kCell, kCell);
     boxes = disjoint(boxes);
   }
@@ -106,7 +105,7 @@ QList<QRect> differingRegions(const Bitmap& one, const Bitmap& other) {
 
 Result<QList<QRectF>> transparentRegions(const QByteArray& pdf, QSizeF pageSize, const QByteArray& opaquePdf,
                                          QSizeF opaqueSize, const PictureLimits& limits) {
-  const double most = std::min(kLookPixels, limits.megapixels * 1e6 / 2);
+  const double most = std::min(limits::maximumComparedPixels, limits.megapixels * 1e6 / 2);
   const double scale =
       std::min(kLookDpi / 72, std::sqrt(most / std::max(1.0, pageSize.width() * pageSize.height())));
   RenderRequest request;

@@ -2,14 +2,12 @@
 
 #include <QRegularExpression>
 
+#include "protocol/limits.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_render.h"
 
 namespace norvex::engine {
 namespace {
-
-/// Bytes of the page's contents as they are stored. The notice takes about a tenth of it, compressed.
-constexpr long long kLongestNotice = 16 * 1024;
 
 bool mayHoldNotice(const PdfFile& file) {
   if (file.pageCount() != 1) return false;
@@ -19,9 +17,9 @@ bool mayHoldNotice(const PdfFile& file) {
   long long stored = 0;
   for (QPDFObjectHandle& contents : page.getPageContents()) {
     QPDFObjectHandle length = contents.getDict().getKey("/Length");
-    stored += length.isInteger() ? length.getIntValue() : kLongestNotice + 1;
+    stored += length.isInteger() ? length.getIntValue() : limits::maximumNoticeBytes + 1;
   }
-  return stored <= kLongestNotice;
+  return stored <= limits::maximumNoticeBytes;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 #include "protocol/picture_needs.h"
 
@@ -28,6 +29,13 @@ constexpr size_t enginePartFor(PictureNeeds needs) {
   size_t first = 0;
   while ((needs & ~engineParts[first].offers) != 0 && first + 1 < engineParts.size()) ++first;
   return first;
+}
+
+/// What the part of this name offers, for the part itself; a name that is not in the table does not compile.
+consteval PictureNeeds offersOfPart(std::string_view name) {
+  size_t row = 0;
+  while (engineParts[row].name != name) ++row;
+  return engineParts[row].offers;
 }
 
 }  // namespace norvex

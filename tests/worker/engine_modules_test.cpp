@@ -49,6 +49,18 @@ class EngineModulesTest : public QObject {
     QCOMPARE((*engines)->composePages != nullptr, (module.offers & NeedSheets) != 0);
   }
 
+  void aModuleRefusesTheDocumentsOfOthers() {
+    EngineModules modules(kBuilt.toStdString());
+    engine::EngineContext context;
+    const auto opened = [&](PictureNeeds needs, PictureKind kind) {
+      return (*modules.engines(needs))->open(kind, "no document", context).error().kind;
+    };
+    QCOMPARE(opened(NeedSvgDrawing, PictureKind::Pdf), ErrorKind::Unsupported);
+    QCOMPARE(opened(NeedSvgDrawing, PictureKind::Svg), ErrorKind::NotParsable);
+    QCOMPARE(opened(NeedPages, PictureKind::Svg), ErrorKind::Unsupported);
+    QCOMPARE(opened(NeedPages, PictureKind::Pdf), ErrorKind::NotParsable);
+  }
+
   void aLoadedModuleThatCanIsTakenAgain() {
     EngineModules modules(kBuilt.toStdString());
     const auto all = modules.engines(allPictureNeeds);

@@ -2,16 +2,13 @@
 
 #include <cmath>
 
+#include "base/blanks.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_lines.h"
 #include "metadata/text_encoding.h"
 
 namespace norvex {
 namespace {
-
-bool isBlank(char c) {
-  return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '\0';
-}
 
 /// The rest of the line that begins at `from`.
 QByteArrayView lineAt(QByteArrayView text, qsizetype from) {
@@ -20,9 +17,9 @@ QByteArrayView lineAt(QByteArrayView text, qsizetype from) {
 
 /// The next number of a line, in the C notation whatever the locale; moves `at` behind it.
 std::optional<double> nextNumber(QByteArrayView line, qsizetype& at) {
-  while (at < line.size() && isBlank(line[at])) ++at;
+  while (at < line.size() && isCommentBlank(line[at])) ++at;
   const qsizetype from = at;
-  while (at < line.size() && !isBlank(line[at])) ++at;
+  while (at < line.size() && !isCommentBlank(line[at])) ++at;
   bool ok = false;
   const double value = line.sliced(from, at - from).toByteArray().toDouble(&ok);
   if (!ok || !std::isfinite(value)) return {};

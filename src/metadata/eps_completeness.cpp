@@ -6,6 +6,7 @@
 #include <array>
 #include <initializer_list>
 
+#include "base/blanks.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_lines.h"
 #include "metadata/eps_program.h"
@@ -13,10 +14,8 @@
 namespace norvex {
 namespace {
 
-constexpr char kBlanks[] = " \t\r\n\f\x04";  // and NUL; spoolers end files with 04
-
 bool isBlank(char c) {
-  return c == '\0' || std::find(std::begin(kBlanks), std::end(kBlanks) - 1, c) != std::end(kBlanks) - 1;
+  return isPostScriptSpace(c) || c == '\x04';  // spoolers end files with it
 }
 
 bool isDelimiter(char c) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "base/blanks.h"
 #include "metadata/eps_program.h"
 #include "metadata/text_encoding.h"
 #include "protocol/limits.h"
@@ -11,15 +12,11 @@
 namespace norvex {
 namespace {
 
-bool isBlank(char c) {
-  return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '\0';
-}
-
 /// The words of a comment. A text in parentheses is one of them, without these.
 QStringList words(QByteArrayView line) {
   QStringList found;
   for (qsizetype at = 0; at < line.size();) {
-    if (isBlank(line[at])) {
+    if (isCommentBlank(line[at])) {
       ++at;
       continue;
     }
@@ -28,7 +25,7 @@ QStringList words(QByteArrayView line) {
     int depth = 1;
     for (at = from; at < line.size(); ++at) {
       if (text && line[at] == '(') ++depth;
-      if (text ? (line[at] == ')' && --depth == 0) : isBlank(line[at])) break;
+      if (text ? (line[at] == ')' && --depth == 0) : isCommentBlank(line[at])) break;
     }
     const QByteArray word = line.sliced(from, at - from).toByteArray();
     found << decodeText(word, encoding::Utf8).value_or(QString::fromLatin1(word));

@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "base/blanks.h"
 #include "protocol/limits.h"
 
 namespace norvex {
@@ -12,9 +13,6 @@ namespace {
 bool isBlank(char c) {
   return c == ' ' || c == '\t';
 }
-bool isSpace(char c) {
-  return isBlank(c) || (c >= '\n' && c <= '\r');
-}
 
 /// Reads from the front of a borrowed text.
 class Scanner {
@@ -22,7 +20,7 @@ class Scanner {
   explicit Scanner(QByteArrayView text) : at_(text.begin()), end_(text.end()) {}
 
   std::optional<qint64> wholeNumber() {
-    skip(isSpace);
+    skip(isWhiteSpace);
     const bool negative = at_ < end_ && *at_ == '-';
     if (at_ < end_ && (*at_ == '-' || *at_ == '+')) ++at_;
     if (at_ == end_ || *at_ < '0' || *at_ > '9') return {};
@@ -35,7 +33,7 @@ class Scanner {
   /// The digits of the next line that begins with "%"; empty at the end of the preview. Tools write a blank
   /// behind the percent sign or none.
   QByteArrayView dataLine() {
-    skip(isSpace);
+    skip(isWhiteSpace);
     if (at_ == end_ || *at_ != '%') return {};
     ++at_;
     skip(isBlank);

@@ -52,8 +52,4 @@ std::optional<QByteArray> gzipStream(const QByteArray& bytes) {
   return out;
 }
 
-bool isGzip(const QByteArray& bytes) {
-  return bytes.startsWith("\x1f\x8b");
-}
-
 }  // namespace norvex

@@ -10,7 +10,4 @@ namespace norvex {
 /// `bytes` as one gzip member; its header has no time, no name and names no system, so that equal bytes give
 /// equal streams everywhere. Nothing when memory is short. Thread-safe.
 [[nodiscard]] std::optional<QByteArray> gzipStream(const QByteArray& bytes);
-/// Whether bytes begin as a gzip stream does.
-[[nodiscard]] bool isGzip(const QByteArray& bytes);
-
 }  // namespace norvex

@@ -9,6 +9,7 @@
 #include "picture/document_file.h"
 #include "picture/gzip_stream.h"
 #include "picture/pdf_image_rep.h"
+#include "types/gzip_mark.h"
 
 namespace norvex {
 namespace {

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/remove_folder.h"
 #include "cli/arguments/command_table.h"
 #include "picture/client/spawned_worker.h"
 #include "programs/application_entry.h"

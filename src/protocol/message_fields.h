@@ -16,11 +16,19 @@
 
 #include "protocol/cbor_reader.h"
 #include "protocol/cbor_writer.h"
+#include "protocol/worker_protocol.h"
 
 namespace norvex {
 
 template <typename V, typename Message>
 using Of = std::conditional_t<V::writes, const Message, Message>;
+
+/// Another version of the protocol is refused.
+template <typename V>
+void version(V& v) {
+  Of<V, int> same = workerProtocolVersion;
+  v.integer(QLatin1String("v"), same, workerProtocolVersion, workerProtocolVersion);
+}
 
 /// The word that tells what a message is; specialised for each.
 template <typename Message>

@@ -125,12 +125,6 @@ void fields(V& v, Of<V, ForkRequest>& fork) {
 namespace {
 
 template <typename V>
-void version(V& v) {
-  Of<V, int> same = workerProtocolVersion;
-  v.integer(Key("v"), same, workerProtocolVersion, workerProtocolVersion);
-}
-
-template <typename V>
 void head(V& v, const QString& type, Of<V, quint32>& id) {
   version(v);
   if constexpr (V::writes) v.text(Key("type"), type, limits::maximumTypeLength);

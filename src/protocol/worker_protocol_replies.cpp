@@ -3,6 +3,7 @@
 #include "protocol/bitmap_image_rep.h"
 #include "protocol/limits.h"
 #include "protocol/message_fields.h"
+#include "protocol/shared_errors.h"
 #include "protocol/worker_protocol.h"
 
 // The replies: what comes back from a process that may be in the hands of a hostile document.
@@ -24,10 +25,6 @@ template <>
 inline constexpr const char* typeOf<Error> = "error";
 
 namespace {
-
-Error refused() {
-  return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
-}
 
 template <typename V, typename Sentences>
 void warnings(V& v, Sentences& sentences) {
@@ -108,8 +105,7 @@ namespace {
 
 template <typename V>
 void head(V& v, Of<V, quint32>& id) {
-  Of<V, int> version = workerProtocolVersion;
-  v.integer(Key("v"), version, workerProtocolVersion, workerProtocolVersion);
+  version(v);
   v.integer(Key("id"), id, 1, std::numeric_limits<quint32>::max());
 }
 
@@ -129,14 +125,14 @@ QByteArray encodeReply(const WorkerReply& reply) {
 }
 
 Result<WorkerReply> decodeReply(const QByteArray& cbor) {
-  if (cbor.size() > qsizetype(limits::maximumMessageBytes)) return refused();
+  if (cbor.size() > qsizetype(limits::maximumMessageBytes)) return untrueAnswer();
   CborReader reader = CborReader::parse(cbor);
   WorkerReply reply;
   QString type;
   head(reader, reply.id);
   reader.text(Key("type"), type, limits::maximumTypeLength);
   reader.require(readOneOf(reader, type, reply.body));
-  if (!reader.complete()) return refused();
+  if (!reader.complete()) return untrueAnswer();
   return reply;
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/blanks.h"
 #include "types/xml_root.h"
 
 namespace norvex {
@@ -24,10 +25,6 @@ bool isType(const std::optional<UTType>& type, const QString& identifier) {
   return type && *type == typeOf(identifier);
 }
 
-bool isSpace(char c) {
-  return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
 /// PostScript for a printer may come behind a control-D or a change of the printer's language, and tools
 /// leave blank lines; UTF-16 is seen through its ASCII half.
 QByteArray postScriptStart(QByteArrayView bytes) {
@@ -41,7 +38,7 @@ QByteArray postScriptStart(QByteArrayView bytes) {
   qsizetype from = bytes.startsWith("\xEF\xBB\xBF") ? 3 : 0;
   if (bytes.startsWith("\x1B%-12345X"))
     from = std::max<qsizetype>(0, bytes.first(std::min(bytes.size(), enough)).indexOf("%!"));
-  while (from < bytes.size() && from < 64 && (isSpace(bytes[from]) || bytes[from] == '\x04')) ++from;
+  while (from < bytes.size() && from < 64 && (isWhiteSpace(bytes[from]) || bytes[from] == '\x04')) ++from;
   return bytes.sliced(from, std::min(enough, bytes.size() - from)).toByteArray();
 }
 
@@ -62,7 +59,7 @@ bool announcesPreview(QByteArrayView text) {
   const qsizetype at = text.indexOf("%%BeginPreview:");
   for (qsizetype i = 0; i < at; ++i) {
     const bool lineStart = i == 0 || text[i - 1] == '\n' || text[i - 1] == '\r';
-    if (lineStart && text[i] != '%' && !isSpace(text[i])) return false;
+    if (lineStart && text[i] != '%' && !isWhiteSpace(text[i])) return false;
   }
   return at >= 0;
 }

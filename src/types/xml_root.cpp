@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+#include "base/blanks.h"
+
 namespace norvex {
 namespace {
 
@@ -15,10 +17,6 @@ QByteArray narrowed(QByteArrayView wide, bool littleEndian) {
     narrow.append(high == 0 && uchar(low) < 0x80 ? low : '?');
   }
   return narrow;
-}
-
-bool isSpace(char c) {
-  return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
 /// Position behind the first `mark` from `from` on; the end of the text when there is none.
@@ -51,7 +49,7 @@ qsizetype behindDoctype(QByteArrayView text, qsizetype from) {
 
 QString nameAt(QByteArrayView text, qsizetype from) {
   qsizetype end = from;
-  while (end < text.size() && !isSpace(text[end]) && text[end] != '>' && text[end] != '/') ++end;
+  while (end < text.size() && !isWhiteSpace(text[end]) && text[end] != '>' && text[end] != '/') ++end;
   if (end == text.size()) return {};
   QByteArrayView name = text.sliced(from, end - from);
   return QString::fromUtf8(name.sliced(name.indexOf(':') + 1));
@@ -60,7 +58,7 @@ QString nameAt(QByteArrayView text, qsizetype from) {
 QString rootOf(QByteArrayView text) {
   for (qsizetype at = 0; at < text.size();) {
     const QByteArrayView rest = text.sliced(at);
-    if (isSpace(rest[0]))
+    if (isWhiteSpace(rest[0]))
       ++at;
     else if (rest.startsWith("<!--"))
       at = behind(text, "-->", at + 4);

@@ -7,6 +7,7 @@
 #include <new>
 
 #include "protocol/sealed_memory.h"
+#include "protocol/shared_errors.h"
 
 namespace norvex {
 namespace {
@@ -18,9 +19,6 @@ Error notOpen() {
 }
 Error noMemory() {
   return {ErrorKind::Limit, QStringLiteral("the picture needs more memory than it is allowed")};
-}
-Error cancelled() {
-  return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
 }
 Error notDone() {
   return {ErrorKind::NotParsable, QStringLiteral("the picture could not be processed")};
@@ -67,7 +65,7 @@ void DocumentServer::run() {
 DocumentServer::Answer DocumentServer::answer(ArrivedRequest& arrived) {
   if (refusal_) return {*refusal_, {}};
   context_.cancel = arrived.cancel;
-  if (context_.cancel.cancelled()) return {cancelled(), {}};
+  if (context_.cancel.cancelled()) return {workCancelled(), {}};
   try {
     return std::visit([&](const auto& body) { return serve(body, std::move(arrived.descriptor)); },
                       arrived.request.body);

@@ -12,15 +12,15 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
-#include <filesystem>
 #include <utility>
 
+#include "base/remove_folder.h"
+#include "protocol/control_descriptor.h"
 #include "worker/environment.h"
 
 namespace norvex {
 namespace {
 
-constexpr int kSocket = 3;
 constexpr quint32 kColdChildren =
     2;                      ///< a single picture takes one, and one more for what concerns no document
 constexpr int kIdle = 100;  ///< milliseconds without a request after which there is time to warm up
@@ -28,11 +28,6 @@ constexpr int kFarewells[] = {SIGTERM, SIGINT, SIGHUP};
 
 Error noChild() {
   return {ErrorKind::Died, QStringLiteral("no process for the picture could be started")};
-}
-
-void removeFolder(const QByteArray& folder) {
-  std::error_code ignored;  // what cannot be removed now goes with the root folder
-  std::filesystem::remove_all(folder.toStdString(), ignored);
 }
 
 }  // namespace
@@ -96,7 +91,7 @@ Result<ForkServer::Child> ForkServer::fork(const ForkRequest& request, FileDescr
   if (pid > 0) ::setpgid(pid, pid);
   if (pid > 0 && child.pidfd.valid()) return child;
   if (pid > 0) bury(child);
-  removeFolder(folder);
+  removeFolder(folder.toStdString());
   return noChild();
 }
 
@@ -109,12 +104,12 @@ void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescrip
   closeStandardStreams();
   // Everything foreign goes: the control connection and the other children's descriptors first of all.
   const int kept = shared < 0 ? -1 : ::fcntl(shared, F_DUPFD_CLOEXEC, kSharedDescriptor + 1);
-  if (socket.get() != kSocket) ::dup2(socket.release(), kSocket);
+  if (socket.get() != controlDescriptor) ::dup2(socket.release(), controlDescriptor);
   (void)socket.release();
-  ::fcntl(kSocket, F_SETFD, FD_CLOEXEC);
+  ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
   if (kept >= 0) ::dup3(kept, kSharedDescriptor, O_CLOEXEC);
   ::syscall(SYS_close_range, kept >= 0 ? kSharedDescriptor + 1 : kSharedDescriptor, ~0u, 0);
-  childMain_(FileDescriptor(kSocket), request, QFile::decodeName(scratchFolder));
+  childMain_(FileDescriptor(controlDescriptor), request, QFile::decodeName(scratchFolder));
   ::_exit(0);
 }
 
@@ -123,7 +118,7 @@ void ForkServer::bury(Child& child) {
   ::kill(-child.pid, SIGKILL);
   ::kill(child.pid, SIGKILL);
   while (::waitpid(child.pid, nullptr, 0) < 0 && errno == EINTR) continue;
-  removeFolder(child.scratchFolder);
+  removeFolder(child.scratchFolder.toStdString());
 }
 
 }  // namespace norvex

@@ -9,11 +9,12 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <optional>
 #include <string_view>
 #include <utility>
 
+#include "base/remove_folder.h"
+#include "protocol/control_descriptor.h"
 #include "worker/document_server.h"
 #include "worker/environment.h"
 #include "worker/interpreter_program.h"
@@ -28,11 +29,6 @@ constexpr std::string_view kExpectPostScript = "postscript";
 bool isSocket(int fd) {
   struct stat status = {};
   return ::fstat(fd, &status) == 0 && S_ISSOCK(status.st_mode);
-}
-
-void removeScratchRoot(const char* root) {
-  std::error_code ignored;
-  std::filesystem::remove_all(root, ignored);
 }
 
 int startedByHand(const char* program) {
@@ -79,33 +75,33 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines) {
   };
   const int code = runForkServer(argc, argv, documentChild(engines), engines.warmUp, prepare);
   interpreter.stop();
-  if (argc > 1) removeScratchRoot(argv[1]);  // interpreters may have left something
+  if (argc > 1) removeFolder(argv[1]);  // interpreters may have left something
   return code;
 }
 
 int runPictureProgram(const EngineSet& engines) {
-  if (!isSocket(kControlDescriptor)) return startedByHand("norvex-picture");
+  if (!isSocket(controlDescriptor)) return startedByHand("norvex-picture");
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   std::signal(SIGPIPE, SIG_IGN);
-  ::fcntl(kControlDescriptor, F_SETFD, FD_CLOEXEC);
+  ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
   clearEnvironment();
   closeStandardStreams();
   WorkerEngines all;
   all.source = [&engines](PictureNeeds) { return &engines; };
-  documentChild(all)(FileDescriptor(kControlDescriptor), ForkRequest(), QString());
+  documentChild(all)(FileDescriptor(controlDescriptor), ForkRequest(), QString());
   return 0;  // the line was cut, at which it has ended before
 }
 
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp,
                   ForkServer::Prepare prepare) {
-  if (argc < 2 || !isSocket(kControlDescriptor)) return startedByHand("norvex-worker");
-  ::fcntl(kControlDescriptor, F_SETFD, FD_CLOEXEC);
+  if (argc < 2 || !isSocket(controlDescriptor)) return startedByHand("norvex-worker");
+  ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
   std::signal(SIGPIPE, SIG_IGN);
   const QByteArray root = argv[1];
-  ForkServer(FileDescriptor(kControlDescriptor), root, std::move(childMain), std::move(warmUp),
+  ForkServer(FileDescriptor(controlDescriptor), root, std::move(childMain), std::move(warmUp),
              std::move(prepare))
       .run();
-  removeScratchRoot(root.constData());
+  removeFolder(root.toStdString());
   return 0;
 }
 

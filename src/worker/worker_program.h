@@ -8,9 +8,6 @@
 
 namespace norvex {
 
-/// Descriptor of the control connection in a picture process.
-inline constexpr int kControlDescriptor = 3;
-
 /// Gives engines that can do what is needed, which stay where they are. Asked in the process that forks the
 /// others, before a child that needs them is forked, so that later children share them; and in the child
 /// before the first byte of a document is read.
@@ -29,14 +26,14 @@ struct WorkerEngines {
 /// none.
 [[nodiscard]] ForkServer::ChildMain documentChild(const WorkerEngines& engines);
 
-/// Runs `norvex-worker SCRATCH_ROOT NEEDS [postscript]` with the control connection as descriptor 3; gives
+/// Runs `norvex-worker SCRATCH_ROOT NEEDS [postscript]` with the control connection as controlDescriptor; gives
 /// the exit code. NEEDS is the number of the PictureNeeds that are expected, whose engines are asked for at
 /// once; 0: nobody knows. With `postscript` norvex-postscript is started at once, else with the first
 /// document that needs it. The scratch root is removed at the end.
 int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines);
-/// Runs `norvex-picture-…` with the line to the only picture of a run as descriptor 3: what a forked child
-/// does, but that nobody forked it and that it gets no scratch folder. Ends with the line, or with the thread
-/// that started it.
+/// Runs `norvex-picture-…` with the line to the only picture of a run as controlDescriptor: what a forked
+/// child does, but that nobody forked it and that it gets no scratch folder. Ends with the line, or with the
+/// thread that started it.
 int runPictureProgram(const EngineSet& engines);
 /// The same as runWorkerProgram() for other children (tests).
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp = {},

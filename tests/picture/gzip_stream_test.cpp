@@ -6,6 +6,7 @@
 
 #include "kit/test_main.h"
 #include "picture/web_image_rep.h"
+#include "types/gzip_mark.h"
 
 using namespace norvex;
 

@@ -14,12 +14,14 @@
 #include <utility>
 #include <vector>
 
+#include "base/remove_folder.h"
+#include "protocol/control_descriptor.h"
+
 extern char** environ;
 
 namespace norvex {
 namespace {
 
-constexpr int kConnection = 3;  ///< where the programs expect it
 constexpr int kAboveStandard =
     10;  ///< our own number of it must not be one that the program's start overwrites
 
@@ -45,8 +47,8 @@ class SpawnActions {
     if (messages == Messages::Nowhere)
       ::posix_spawn_file_actions_adddup2(&actions_, STDOUT_FILENO, STDERR_FILENO);
 #endif
-    ::posix_spawn_file_actions_adddup2(&actions_, connection, kConnection);
-    ::posix_spawn_file_actions_addclosefrom_np(&actions_, kConnection + 1);
+    ::posix_spawn_file_actions_adddup2(&actions_, connection, controlDescriptor);
+    ::posix_spawn_file_actions_addclosefrom_np(&actions_, controlDescriptor + 1);
     ::posix_spawnattr_init(&attributes_);
     sigset_t none, all;
     ::sigemptyset(&none);
@@ -129,12 +131,6 @@ std::string partOfProgram(const std::string& name) {
   const bool isInstalled =
       !std::filesystem::exists(beside, ignored) && std::filesystem::exists(installed, ignored);
   return isInstalled ? installed : beside;
-}
-
-void removeFolder(const std::string& folder) {
-  std::error_code ignored;
-  if (folder.empty() || ::rmdir(folder.c_str()) == 0) return;  // most are empty, and this takes no descriptor
-  std::filesystem::remove_all(folder, ignored);
 }
 
 }  // namespace norvex

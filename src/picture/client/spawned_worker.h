@@ -44,6 +44,4 @@ struct SpawnedPicture {
 /// environment of a program that opens untrusted files would otherwise choose what confines them.
 [[nodiscard]] std::string partOfProgram(const std::string& name);
 
-void removeFolder(const std::string& folder);
-
 }  // namespace norvex

@@ -1,13 +1,10 @@
 #include "picture/client/worker_answers.h"
 
 #include "protocol/sealed_memory.h"
+#include "protocol/shared_errors.h"
 
 namespace norvex {
 namespace {
-
-Error cannotBeTrue() {
-  return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
-}
 
 QStringList plainSentences(const QStringList& sentences) {
   QStringList plain;
@@ -20,7 +17,7 @@ template <typename Body>
 Result<Body> bodyOf(const WorkerAnswer& answer, bool withMemory) {
   if (const auto* error = std::get_if<Error>(&answer.body)) return *error;
   const auto* body = std::get_if<Body>(&answer.body);
-  if (body == nullptr || answer.descriptor.valid() != withMemory) return cannotBeTrue();
+  if (body == nullptr || answer.descriptor.valid() != withMemory) return untrueAnswer();
   return *body;
 }
 
@@ -46,10 +43,10 @@ Result<QImage> imageFrom(WorkerAnswer answer, const QSize& pixelSize, QStringLis
   const Result<BitmapReply> reply = bodyOf<BitmapReply>(answer, true);
   if (!reply) return reply.error();
   const qsizetype size = qsizetype(reply->bytesPerRow) * pixelSize.height();
-  if (reply->pixelSize != pixelSize || reply->bytesPerRow != pixelSize.width() * 4) return cannotBeTrue();
+  if (reply->pixelSize != pixelSize || reply->bytesPerRow != pixelSize.width() * 4) return untrueAnswer();
   Result<SealedMemory> memory = SealedMemory::map(std::move(answer.descriptor), size);
   if (!memory) return memory.error();
-  if (memory->size() != size) return cannotBeTrue();
+  if (memory->size() != size) return untrueAnswer();
   remarks = plainSentences(reply->warnings);
   auto* owner = new SealedMemory(*memory);
   const auto* pixels = reinterpret_cast<const uchar*>(owner->data());
@@ -72,11 +69,11 @@ Result<NSBitmapImageRep> bitmapFrom(WorkerAnswer answer, const PictureLimits& li
   const Result<PreviewReply> reply = bodyOf<PreviewReply>(answer, true);
   if (!reply) return reply.error();
   const double pixels = double(reply->pixelsWide) * reply->pixelsHigh;
-  if (!isTightlyPacked(*reply) || pixels > limits.megapixels * 1.0e6) return cannotBeTrue();
+  if (!isTightlyPacked(*reply) || pixels > limits.megapixels * 1.0e6) return untrueAnswer();
   const qsizetype size = qsizetype(reply->bytesPerRow) * reply->pixelsHigh;
   const Result<SealedMemory> memory = SealedMemory::map(std::move(answer.descriptor), size);
   if (!memory) return memory.error();
-  if (memory->size() != size) return cannotBeTrue();
+  if (memory->size() != size) return untrueAnswer();
   NSBitmapImageRep bitmap;
   bitmap.pixelsWide = reply->pixelsWide;
   bitmap.pixelsHigh = reply->pixelsHigh;
@@ -89,7 +86,7 @@ Result<NSBitmapImageRep> bitmapFrom(WorkerAnswer answer, const PictureLimits& li
   bitmap.pointsWide = reply->pointsWide;
   bitmap.pointsHigh = reply->pointsHigh;
   bitmap.data = memory->toByteArray();
-  return bitmap.isConsistent() ? Result<NSBitmapImageRep>(bitmap) : Result<NSBitmapImageRep>(cannotBeTrue());
+  return bitmap.isConsistent() ? Result<NSBitmapImageRep>(bitmap) : Result<NSBitmapImageRep>(untrueAnswer());
 }
 
 }  // namespace norvex

@@ -3,15 +3,12 @@
 #include "picture/client/worker_answers.h"
 #include "protocol/limits.h"
 #include "protocol/sealed_memory.h"
+#include "protocol/shared_errors.h"
 
 #include <utility>
 
 namespace norvex {
 namespace {
-
-Error cancelled() {
-  return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
-}
 
 /// Whether the document itself is the reason, so that another try would end the same way.
 bool isFinal(ErrorKind kind) {
@@ -89,7 +86,7 @@ std::optional<Result<PictureFacts>> WorkerClient::known() const {
 Result<PictureFacts> WorkerClient::facts(const CancelToken& cancel) {
   if (auto outcome = known()) return *outcome;
   const auto turn = turns_.take(cancel);
-  if (!turn) return cancelled();
+  if (!turn) return workCancelled();
   if (auto outcome = known()) return *outcome;
   if (!connection_) {
     if (auto begun = beginToOpen(); !begun) return begun.error();
@@ -101,7 +98,7 @@ Result<PictureFacts> WorkerClient::facts(const CancelToken& cancel) {
 Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& cancel,
                                        const FileDescriptor& memory) {
   if (auto outcome = known(); outcome && !*outcome) return outcome->error();
-  if (cancel.cancelled()) return cancelled();
+  if (cancel.cancelled()) return workCancelled();
   if (connection_ && opening_ == 0 && !connection_->isUsable()) connection_.reset();
   if (!connection_) {
     if (auto begun = beginToOpen(); !begun) return begun.error();
@@ -121,7 +118,7 @@ Result<QImage> WorkerClient::render(const RenderRequest& request, const CancelTo
   if (double(size.width()) * size.height() > process_.limits.megapixels * 1.0e6)
     return Error{ErrorKind::Limit, QStringLiteral("the picture would have more pixels than it is allowed")};
   const auto turn = turns_.take(cancel);
-  if (!turn) return cancelled();
+  if (!turn) return workCancelled();
   Result<WorkerAnswer> answer = ask(request, cancel);
   if (!answer) return answer.error();
   QStringList remarks;
@@ -140,7 +137,7 @@ QStringList WorkerClient::drawingRemarks() const {
 Result<PictureBytes> WorkerClient::askForBytes(RequestBody body, const CancelToken& cancel,
                                                const FileDescriptor& memory) {
   const auto turn = turns_.take(cancel);
-  if (!turn) return cancelled();
+  if (!turn) return workCancelled();
   Result<WorkerAnswer> answer = ask(std::move(body), cancel, memory);
   return answer ? distrusted(bytesFrom(std::move(*answer), process_.limits)) : answer.error();
 }

@@ -10,13 +10,11 @@
 #include <csignal>
 
 #include "protocol/limits.h"
+#include "protocol/shared_errors.h"
 
 namespace norvex {
 namespace {
 
-Error cancelled() {
-  return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
-}
 Error timedOut() {
   return {ErrorKind::TimedOut,
           QStringLiteral("the picture was not ready within the time that it is allowed")};
@@ -25,10 +23,6 @@ Error noDescriptor() {
   return {ErrorKind::Died,
           QStringLiteral("the picture process cannot be waited for: too many files are open")};
 }
-Error cannotBeTrue() {
-  return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
-}
-
 /// Of a child that has cut the line: whether it was not a signal that ended it, such as a document can
 /// provoke.
 bool exitsByItself(const FileDescriptor& pidfd) {
@@ -141,18 +135,18 @@ Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline,
   if (message) {
     hasAnswered_ = true;
     Result<WorkerAnswer> answer = understand(id, std::move(*message));
-    return wanted || !answer ? std::move(answer) : Result<WorkerAnswer>(cancelled());
+    return wanted || !answer ? std::move(answer) : Result<WorkerAnswer>(workCancelled());
   }
   if (message.error().kind != ErrorKind::TimedOut) return failed(message.error());
-  return failed(wanted ? timedOut() : cancelled());
+  return failed(wanted ? timedOut() : workCancelled());
 }
 
 Result<WorkerAnswer> WorkerConnection::understand(quint32 id, ChannelMessage message) {
   Result<WorkerReply> reply = decodeReply(message.cbor);
   if (!reply) return failed(reply.error());
-  if (reply->id != id) return failed(cannotBeTrue());
+  if (reply->id != id) return failed(untrueAnswer());
   if (auto* error = std::get_if<Error>(&reply->body)) {
-    if (message.descriptor.valid()) return failed(cannotBeTrue());
+    if (message.descriptor.valid()) return failed(untrueAnswer());
     error->message = plainSentence(error->message);
   }
   return WorkerAnswer{std::move(reply->body), std::move(message.descriptor)};

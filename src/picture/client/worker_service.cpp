@@ -13,6 +13,7 @@
 #include "picture/client/worker_client.h"
 #include "protocol/limits.h"
 #include "protocol/sealed_memory.h"
+#include "protocol/shared_errors.h"
 
 namespace norvex {
 namespace {
@@ -21,10 +22,6 @@ PictureLimits toolLimits() {
   PictureLimits few;
   few.seconds = limits::toolSeconds;
   return few;
-}
-
-Error cancelled() {
-  return {ErrorKind::Cancelled, QStringLiteral("the work on the picture was cancelled")};
 }
 
 /// Whether what was prepared will do for what is wanted now.
@@ -99,7 +96,7 @@ Result<WorkerAnswer> WorkerService::askTools(PictureNeed need, RequestBody body,
 
 Result<NSBitmapImageRep> WorkerService::decodePreview(const QByteArray& tiff, const CancelToken& cancel) {
   const auto turn = toolTurns_.take(cancel);
-  if (!turn) return cancelled();
+  if (!turn) return workCancelled();
   Result<WorkerAnswer> answer = askTools(NeedPreviews, DecodePreviewRequest{}, tiff, cancel);
   Result<NSBitmapImageRep> bitmap = answer ? bitmapFrom(std::move(*answer), toolLimits()) : answer.error();
   // A process that one document has made fail shall not see the next one.
@@ -110,7 +107,7 @@ Result<NSBitmapImageRep> WorkerService::decodePreview(const QByteArray& tiff, co
 Result<QByteArray> WorkerService::composePages(const QByteArray& pdf, const PagesRequest& request,
                                                const CancelToken& cancel) {
   const auto turn = toolTurns_.take(cancel);
-  if (!turn) return cancelled();
+  if (!turn) return workCancelled();
   PagesRequest pages = request;
   pages.picture = !pdf.isEmpty();
   // A message's memory cannot be empty.

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <csignal>
 
+#include "base/remove_folder.h"
 #include "protocol/limits.h"
 
 namespace norvex {

@@ -18,6 +18,7 @@
 #include "worker/eps_output/postscript_path.h"
 #include "worker/eps_output/postscript_shading.h"
 #include "worker/eps_output/shown_glyphs.h"
+#include "worker/pdf/pdf_numbers.h"
 
 namespace norvex::engine {
 namespace {
@@ -56,7 +57,7 @@ class Sink {
 
 QByteArray numberArray(std::initializer_list<double> values) {
   QByteArray text = "[";
-  for (const double value : values) text += QByteArray::number(value, 'g', 9) + ' ';
+  for (const double value : values) text += significant(value) + ' ';
   return text.replace(text.size() - 1, 1, "]");
 }
 

@@ -5,17 +5,12 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <initializer_list>
-#include <limits>
+
+#include "worker/pdf/pdf_numbers.h"
 
 namespace norvex::engine {
 namespace {
-
-constexpr std::int64_t kUnits = 1'000'000;  // of the last decimal
-constexpr int kDecimals = 6;
-constexpr double kLargestInUnits = 9e12;
 
 void appendLine(QByteArray& text, std::initializer_list<double> numbers, const char* procedure) {
   for (const double number : numbers) {
@@ -62,29 +57,6 @@ void appendSubpath(QByteArray& text, const GfxSubpath& subpath) {
 }
 
 }  // namespace
-
-void appendNumber(QByteArray& text, double number) {
-  if (!(std::abs(number) <= double(std::numeric_limits<float>::max()))) number = 0;
-  if (std::abs(number) > kLargestInUnits) {
-    text += QByteArray::number(number, 'g', 9);
-    return;
-  }
-  std::int64_t units = std::llround(number * double(kUnits));
-  if (units < 0) text += '-';
-  units = std::abs(units);
-  std::array<char, 24> digits{};
-  char* first = digits.data() + digits.size();
-  std::int64_t fraction = units % kUnits, whole = units / kUnits;
-  if (fraction != 0) {
-    int decimals = kDecimals;
-    for (; fraction % 10 == 0; fraction /= 10) --decimals;
-    for (; decimals > 0; --decimals, fraction /= 10) *--first = char('0' + fraction % 10);
-    *--first = '.';
-  }
-  do *--first = char('0' + whole % 10);
-  while ((whole /= 10) != 0);
-  text.append(first, digits.data() + digits.size() - first);
-}
 
 void appendPath(QByteArray& text, const GfxPath& path) {
   const int count = path.getNumSubpaths();

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "worker/eps_output/eps_writing.h"
+#include "worker/pdf/pdf_numbers.h"
 
 namespace norvex::engine {
 namespace {
@@ -20,13 +21,9 @@ struct Range {
   double high = 1;
 };
 
-QByteArray number(double value) {
-  return QByteArray::number(value, 'g', 9);
-}
-
 QByteArray numbers(const std::vector<Range>& ranges) {
   QByteArray text = "[";
-  for (const Range& range : ranges) text += number(range.low) + ' ' + number(range.high) + ' ';
+  for (const Range& range : ranges) text += significant(range.low) + ' ' + significant(range.high) + ' ';
   return text.replace(text.size() - 1, 1, "]");
 }
 

@@ -9,6 +9,8 @@
 #include <optional>
 
 #include "worker/pages/sheet_lines.h"
+#include "worker/pdf/page_form.h"
+#include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_numbers.h"
 #include "worker/pdf/pdf_writing.h"
@@ -21,16 +23,6 @@ struct Drawings {
   QPDFObjectHandle picture, lines, group;
   AffineTransform userToPicture;
 };
-
-QPDFObjectHandle formOf(QPDFObjectHandle page, const QRectF& box) {
-  QPDFObjectHandle form = QPDFPageObjectHelper(page).getFormXObjectForPage(false);
-  QPDFObjectHandle dictionary = form.getDict();
-  dictionary.replaceKey(
-      "/BBox", QPDFObjectHandle::newFromRectangle({box.left(), box.top(), box.right(), box.bottom()}));
-  dictionary.removeKey("/Matrix");
-  dictionary.removeKey("/Group");  // it stays the page's own
-  return form;
-}
 
 /// Source coordinates → the sheet.
 AffineTransform window(const SheetPart& sheet) {
@@ -54,16 +46,9 @@ QByteArray contentsOf(const SheetPart& sheet, Drawings& drawings) {
 }
 
 QPDFObjectHandle sheetPage(QPDF& qpdf, const QSizeF& paper, const SheetPart& sheet, Drawings& drawings) {
-  QPDFObjectHandle objects = QPDFObjectHandle::newDictionary();
-  if (drawings.picture.isStream()) objects.replaceKey("/Picture", drawings.picture);
-  if (drawings.lines.isStream()) objects.replaceKey("/Lines", drawings.lines);
-  QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
-  resources.replaceKey("/XObject", objects);
-  QPDFObjectHandle page = qpdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-  page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
-  page.replaceKey("/MediaBox", boxAtOrigin(paper.width(), paper.height()));
-  page.replaceKey("/Resources", resources);
-  page.replaceKey("/Contents", QPDFObjectHandle::newStream(&qpdf, contentsOf(sheet, drawings).toStdString()));
+  QPDFObjectHandle page =
+      pageOfForms(qpdf, paper.width(), paper.height(),
+                  {{"/Picture", drawings.picture}, {"/Lines", drawings.lines}}, contentsOf(sheet, drawings));
   if (drawings.group.isDictionary()) page.replaceKey("/Group", drawings.group);
   return page;
 }
@@ -73,9 +58,7 @@ QByteArray sheetsOf(QPDF& qpdf, const PagesRequest& request, Drawings& drawings)
   keepOnlyPage(qpdf, sheetPage(qpdf, request.paper, request.sheets.first(), drawings));
   for (const SheetPart& sheet : request.sheets.mid(1))
     QPDFPageDocumentHelper(qpdf).addPage(sheetPage(qpdf, request.paper, sheet, drawings), false);
-  if (!request.title.isEmpty())
-    qpdf.getTrailer().getKey("/Info").replaceKey(
-        "/Title", QPDFObjectHandle::newUnicodeString(request.title.toStdString()));
+  if (!request.title.isEmpty()) setPdfAttributes(qpdf, {{{QStringLiteral("Title"), request.title}}, {}});
   return writePdf(qpdf);
 }
 
@@ -105,7 +88,7 @@ Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& reque
       QPDFObjectHandle page = file->page(0);
       const PageGeometry geometry = file->geometry(0);
       drawings.userToPicture = geometry.userToPicture();
-      drawings.picture = formOf(page, geometry.box);
+      drawings.picture = pageAsForm(qpdf, page, geometry.box);
       drawings.group = page.getKey("/Group");
     }
     if (!lines.isEmpty()) {

@@ -6,12 +6,12 @@
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
-#include <qpdf/QPDFPageObjectHelper.hh>
 
 #include <cmath>
 
 #include "protocol/limits.h"
 #include "worker/pdf/annotation_drawings.h"
+#include "worker/pdf/page_form.h"
 #include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_numbers.h"
@@ -58,46 +58,13 @@ Result<void> flattenAnnotations(QPDF& qpdf, QPDFObjectHandle page, const PageGeo
   return {};
 }
 
-// The page's contents as a stream that can be given another dictionary. One stream keeps its compression.
-QPDFObjectHandle contentsOf(QPDF& qpdf, QPDFObjectHandle page) {
-  QPDFObjectHandle contents = page.getKey("/Contents");
-  if (!contents.isStream()) return QPDFPageObjectHelper(page).getFormXObjectForPage(false);
-  QPDFObjectHandle stream = QPDFObjectHandle::newStream(&qpdf);
-  stream.replaceStreamData(contents.getRawStreamData(), contents.getDict().getKey("/Filter"),
-                           contents.getDict().getKey("/DecodeParms"));
-  return stream;
-}
-
-QPDFObjectHandle formOf(QPDF& qpdf, QPDFObjectHandle page, const QRectF& box) {
-  QPDFObjectHandle form = contentsOf(qpdf, page);
-  QPDFObjectHandle dictionary = form.getDict();
-  dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
-  dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
-  dictionary.replaceKey(
-      "/BBox", QPDFObjectHandle::newFromRectangle({box.left(), box.top(), box.right(), box.bottom()}));
-  dictionary.removeKey("/Matrix");
-  dictionary.removeKey("/Group");  // it stays the page's own
-  QPDFObjectHandle resources = page.getKey("/Resources");
-  dictionary.replaceKey("/Resources",
-                        resources.isDictionary() ? resources : QPDFObjectHandle::newDictionary());
-  return form;
-}
-
 QPDFObjectHandle placedPage(QPDF& qpdf, QPDFObjectHandle source, QPDFObjectHandle form,
                             const ComposeRequest& request, const AffineTransform& matrix) {
   const double width = request.rect.width();
   const double height = request.rect.height();
   const QByteArray contents = "q 0 0 " + decimal(width) + ' ' + decimal(height) + " re W n " +
                               matrixText(matrix) + " cm /Picture Do Q\n";
-  QPDFObjectHandle xobjects = QPDFObjectHandle::newDictionary();
-  xobjects.replaceKey("/Picture", form);
-  QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
-  resources.replaceKey("/XObject", xobjects);
-  QPDFObjectHandle page = qpdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-  page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
-  page.replaceKey("/MediaBox", boxAtOrigin(width, height));
-  page.replaceKey("/Resources", resources);
-  page.replaceKey("/Contents", QPDFObjectHandle::newStream(&qpdf, contents.toStdString()));
+  QPDFObjectHandle page = pageOfForms(qpdf, width, height, {{"/Picture", form}}, contents);
   if (source.getKey("/Group").isDictionary()) page.replaceKey("/Group", source.getKey("/Group"));
   return page;
 }
@@ -123,7 +90,7 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
       const Result<void> flat = flattenAnnotations(file.qpdf(), source, geometry, interactiveForm);
       if (!flat) return flat.error();
     }
-    const QPDFObjectHandle form = formOf(file.qpdf(), source, geometry.box);
+    const QPDFObjectHandle form = pageAsForm(file.qpdf(), source, geometry.box);
     QPDFObjectHandle page = placedPage(file.qpdf(), source, form, request, placement(geometry, request));
     keepOnlyPage(file.qpdf(), page);
     putBack(found, file.qpdf(), page);

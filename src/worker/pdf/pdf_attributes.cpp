@@ -14,7 +14,7 @@ void setPdfAttributes(QPDF& qpdf, const PdfAttributes& attributes) {
   QPDFObjectHandle information = qpdf.getTrailer().getKey("/Info");
   information = information.isDictionary() ? information.shallowCopy() : QPDFObjectHandle::newDictionary();
   for (auto it = attributes.texts.begin(); it != attributes.texts.end(); ++it)
-    information.replaceKey("/" + it.key().toStdString(),
+    information.replaceKey(QString(u'/' + it.key()).toStdString(),
                            QPDFObjectHandle::newUnicodeString(it.value().toStdString()));
   if (attributes.creationDate)
     information.replaceKey("/CreationDate",

@@ -6,12 +6,11 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "base/blanks.h"
+
 namespace norvex::engine {
 namespace {
 
-bool isBlank(char c) {
-  return c == ' ' || c == '\n' || c == '\r' || c == '\t' || c == '\f' || c == '\0';
-}
 bool isDelimiter(char c) {
   return c != '\0' && std::strchr("()<>[]{}/%", c) != nullptr;
 }
@@ -64,7 +63,8 @@ void Scanner::skipTo(char last) {
 // The samples end with EI between blanks; their own bytes may look like anything.
 void Scanner::skipInlineSamples() {
   for (; end_ - at_ >= 3; ++at_)
-    if (isBlank(at_[0]) && at_[1] == 'E' && at_[2] == 'I' && (end_ - at_ == 3 || isBlank(at_[3]))) {
+    if (isPostScriptSpace(at_[0]) && at_[1] == 'E' && at_[2] == 'I' &&
+        (end_ - at_ == 3 || isPostScriptSpace(at_[3]))) {
       at_ += 3;
       return;
     }
@@ -73,7 +73,7 @@ void Scanner::skipInlineSamples() {
 
 QByteArrayView Scanner::word() {
   const char* const from = at_;
-  while (at_ < end_ && !isBlank(*at_) && !isDelimiter(*at_)) ++at_;
+  while (at_ < end_ && !isPostScriptSpace(*at_) && !isDelimiter(*at_)) ++at_;
   return {from, at_ - from};
 }
 
@@ -103,7 +103,7 @@ void Scanner::takeOperator(QByteArrayView name) {
 QStringList Scanner::run() {
   while (at_ < end_) {
     const char c = *at_;
-    if (isBlank(c))
+    if (isPostScriptSpace(c))
       ++at_;
     else if (c == '(')
       skipString();

@@ -85,10 +85,6 @@ Result<QByteArray> Inflater::run(const QByteArray& bytes) {
 
 }  // namespace
 
-bool isGzip(const QByteArray& bytes) {
-  return bytes.startsWith("\x1f\x8b");
-}
-
 Result<QByteArray> inflateGzip(const QByteArray& bytes) {
   Inflater inflater;
   return inflater.run(bytes);

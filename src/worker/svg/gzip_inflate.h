@@ -7,9 +7,6 @@
 
 namespace norvex::engine {
 
-/// Whether the bytes start as gzip data (RFC 1952) do.
-[[nodiscard]] bool isGzip(const QByteArray& bytes);
-
 /// The inflated bytes of one or several gzip members; zero bytes after the last member are padding and
 /// ignored. Fails with NotParsable (damaged, cut off, something else behind the data) or Limit (over
 /// limits::maximumInflatedBytes, or over limits::maximumInflateRatio beyond the first MiB).

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "worker/pdf/pdf_numbers.h"
 #include "worker/svg/svg_length.h"
 #include "worker/svg/svg_tokens.h"
 
@@ -18,7 +19,7 @@ constexpr char kNeutral[] =
     "display:inline;opacity:1;transform:none;filter:none;mask:none;clip-path:none;mix-blend-mode:normal;";
 
 QByteArray number(double value) {
-  return QByteArray::number(std::abs(value) < 1e-9 ? 0.0 : value, 'g', 12);
+  return significant(std::abs(value) < 1e-9 ? 0.0 : value, 12);
 }
 
 QByteArray attribute(const char* name, const QByteArray& value) {

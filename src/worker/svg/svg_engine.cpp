@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "protocol/limits.h"
+#include "types/gzip_mark.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/svg/gzip_inflate.h"

@@ -9,10 +9,10 @@
 #include <exception>
 #include <functional>
 #include <memory>
-#include <string>
 
 #include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"
+#include "worker/pdf/page_form.h"
 #include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_writing.h"
 #include "worker/svg/svg_length.h"
@@ -53,20 +53,9 @@ QPDFObjectHandle formOf(QPDFPageObjectHelper& page) {
 /// with it. cairo's document information, which holds the time of day, is dropped.
 void fitPage(QPDF& document, double width, double height, double scale) {
   QPDFPageObjectHelper page(document.getAllPages().at(0));
-  const QPDFObjectHandle drawing = formOf(page);
-  const std::string small = QByteArray::number(1 / scale, 'f', 9).toStdString();
-  QPDFObjectHandle objects = QPDFObjectHandle::newDictionary();
-  objects.replaceKey("/Drawing", drawing);
-  QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
-  resources.replaceKey("/XObject", objects);
-  // A new page: the form reads the old one's contents when the file is written.
-  QPDFObjectHandle shown = document.makeIndirectObject(QPDFObjectHandle::newDictionary());
-  shown.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
-  shown.replaceKey("/MediaBox", boxAtOrigin(width, height));
-  shown.replaceKey("/Resources", resources);
-  shown.replaceKey("/Contents", QPDFObjectHandle::newStream(
-                                    &document, "q " + small + " 0 0 " + small + " 0 0 cm /Drawing Do Q\n"));
-  keepOnlyPage(document, shown);
+  const QByteArray small = QByteArray::number(1 / scale, 'f', 9);
+  keepOnlyPage(document, pageOfForms(document, width, height, {{"/Drawing", formOf(page)}},
+                                     "q " + small + " 0 0 " + small + " 0 0 cm /Drawing Do Q\n"));
 }
 
 Result<QByteArray> rewritten(const QByteArray& pdf, const QSizeF& pixels, double scale,

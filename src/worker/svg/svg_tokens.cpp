@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/blanks.h"
+
 namespace norvex::engine {
 namespace {
-
-bool isSpace(char c) {
-  return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
 
 /// Cuts one token after the other from the text.
 class Scanner {
@@ -73,7 +71,7 @@ SvgToken Scanner::next() {
   SvgToken token;
   qsizetype end = 0;
   if (at("<?")) {
-    const bool declaration = at_ == 0 && at("<?xml") && text_.size() > 5 && isSpace(text_[5]);
+    const bool declaration = at_ == 0 && at("<?xml") && text_.size() > 5 && isXmlSpace(text_[5]);
     token.kind = declaration ? SvgTokenKind::Declaration : SvgTokenKind::Instruction;
     end = behind("?>", at_);
   } else if (at("<!--")) {
@@ -124,7 +122,7 @@ QByteArrayView tagName(const QByteArray& utf8, const SvgToken& token) {
   qsizetype from = tag.startsWith("</") ? 2 : 1;
   from = std::min(from, tag.size());
   qsizetype to = from;
-  while (to < tag.size() && !isSpace(tag[to]) && tag[to] != '/' && tag[to] != '>') ++to;
+  while (to < tag.size() && !isXmlSpace(tag[to]) && tag[to] != '/' && tag[to] != '>') ++to;
   return tag.sliced(from, to - from);
 }
 
@@ -133,11 +131,11 @@ QList<SvgAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token)
   QList<SvgAttribute> attributes;
   qsizetype i = 1 + tagName(utf8, token).size();
   for (;;) {
-    while (i < tag.size() && isSpace(tag[i])) ++i;
+    while (i < tag.size() && isXmlSpace(tag[i])) ++i;
     const qsizetype name = i;
-    while (i < tag.size() && !isSpace(tag[i]) && tag[i] != '=' && tag[i] != '>' && tag[i] != '/') ++i;
+    while (i < tag.size() && !isXmlSpace(tag[i]) && tag[i] != '=' && tag[i] != '>' && tag[i] != '/') ++i;
     const qsizetype nameEnd = i;
-    while (i < tag.size() && (isSpace(tag[i]) || tag[i] == '=')) ++i;
+    while (i < tag.size() && (isXmlSpace(tag[i]) || tag[i] == '=')) ++i;
     if (i >= tag.size() || nameEnd == name || (tag[i] != '"' && tag[i] != '\'')) return attributes;
     const qsizetype close = tag.indexOf(tag[i], i + 1);
     if (close < 0) return attributes;
@@ -148,7 +146,7 @@ QList<SvgAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token)
 }
 
 bool isBlank(QByteArrayView text) {
-  return std::all_of(text.begin(), text.end(), isSpace);
+  return std::all_of(text.begin(), text.end(), isXmlSpace);
 }
 
 }  // namespace norvex::engine

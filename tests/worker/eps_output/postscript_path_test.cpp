@@ -1,4 +1,5 @@
 #include "worker/eps_output/postscript_path.h"
+#include "worker/pdf/pdf_numbers.h"
 
 #include <GfxState.h>
 

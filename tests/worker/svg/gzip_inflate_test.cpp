@@ -5,6 +5,7 @@
 
 #include "kit/test_main.h"
 #include "protocol/limits.h"
+#include "types/gzip_mark.h"
 #include "worker/svg/svg_kit.h"
 
 using namespace norvex;

@@ -1,0 +1,19 @@
+// Removing a folder of ours with what is left in it. Free of Qt, because it also runs before Qt is loaded.
+#pragma once
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace norvex {
+
+/// What cannot be removed stays. An empty name: nothing is done.
+inline void removeFolder(const std::string& folder) {
+  std::error_code ignored;
+  if (folder.empty() || ::rmdir(folder.c_str()) == 0) return;  // most are empty, and this takes no descriptor
+  std::filesystem::remove_all(folder, ignored);
+}
+
+}  // namespace norvex

@@ -4,12 +4,9 @@
 #include <QtMath>
 
 #include "base/latin1_text.h"
-#include "cli/input_file.h"
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
 #include "picture/pdf_image_rep.h"
-#include "picture/picture_loader.h"
-#include "types/type_identification.h"
 
 namespace norvex {
 namespace {
@@ -65,20 +62,16 @@ Conversion failed(const Error& error) {
 
 }  // namespace
 
-Conversion convertPicture(PictureService& service, const QByteArray& source, const QUrl& fileURL,
-                          const ConversionOptions& options, const CancelToken& cancel) {
-  const UTType type = identifyType(source, fileURL.fileName());
-  if (const auto kind = pictureKindOfInput(source, type); !kind) return failed(kind.error());
-  PictureSource picture;
-  picture.bytes = source;
-  picture.fileURL = fileURL;
-  picture.typeIdentifier = type.identifier();
-  picture.page = options.page.value_or(1) - 1;
+Conversion convertPicture(PictureService& service, PictureSource source, const ConversionOptions& options,
+                          const CancelToken& cancel) {
+  if (const auto kind = pictureKindOf(source.bytes, source.typeIdentifier); !kind)
+    return failed(kind.error());
+  source.page = options.page.value_or(1) - 1;
   // While the picture process starts there is time for what is needed later.
   EncoderSurroundings surroundings = usualSurroundings(service);
-  const Result<LoadedPicture> loaded = loadPicture(service, picture, options.limits, cancel);
-  if (!loaded) return failed(loaded.error());
-  const auto& imageRep = loaded->imageRep;
+  const auto opened = openPicture(service, source, options.limits, cancel);
+  if (!opened) return failed(opened.error());
+  const std::shared_ptr<NSImageRep>& imageRep = *opened;
   const std::optional<PictureRegion> region = regionOf(*imageRep, options);
   if (const auto error = objection(*imageRep, options, region)) return failed(*error);
 

@@ -10,6 +10,7 @@
 
 #include "base/cancel_token.h"
 #include "encoders/encoded_picture.h"
+#include "picture/open_picture.h"
 #include "picture/process/picture_process.h"
 
 namespace norvex {
@@ -33,9 +34,8 @@ struct Conversion {
   QStringList metadataLost;  ///< keys of the header dictionary
 };
 
-/// Blocks for the picture process. `fileURL` tells the type where the bytes leave it open. Thread-safe.
-[[nodiscard]] Conversion convertPicture(PictureService& service, const QByteArray& source,
-                                        const QUrl& fileURL, const ConversionOptions& options,
-                                        const CancelToken& cancel = {});
+/// Blocks for the picture process. The page is that of the options. Thread-safe.
+[[nodiscard]] Conversion convertPicture(PictureService& service, PictureSource source,
+                                        const ConversionOptions& options, const CancelToken& cancel = {});
 
 }  // namespace norvex

@@ -56,9 +56,9 @@ Conversion convertFile(PictureService& service, const ConvertTask& task, const C
   const Result<QByteArray> bytes = isInput ? input : readInputFile(task.file);
   if (!bytes) return refused(bytes.error().kind, bytes.error().message);
 
-  const QUrl url = isInput ? QUrl() : QUrl::fromLocalFile(QFileInfo(task.file).absoluteFilePath());
   const TimeLimit limit(std::chrono::seconds(plan.options.limits.seconds), cancel);
-  Conversion conversion = convertPicture(service, *bytes, url, plan.options, limit.token());
+  Conversion conversion =
+      convertPicture(service, sourceOfInput(*bytes, task.file), plan.options, limit.token());
   if (cancel.cancelled()) return interrupted();
   if (limit.isOver() && conversion.report.error) return tookTooLong();
   if (conversion.report.error || task.output == QLatin1String("-")) return conversion;

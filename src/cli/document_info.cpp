@@ -1,31 +1,39 @@
 #include "cli/document_info.h"
 
 #include "cli/input_file.h"
-#include "metadata/eps_header.h"
 #include "metadata/eps_resources.h"
-#include "metadata/pdf_header.h"
 #include "picture/eps_image_rep.h"
+#include "picture/picture_header.h"
 #include "picture/process/null_picture_service.h"
-#include "picture/svg_header.h"
+#include "types/document_kind.h"
 
 namespace norvex {
 namespace {
 
-QString kindOf(const UTType& type) {
-  if (type.conformsToType(UTTypeSVG())) return QStringLiteral("SVG");
-  if (type.conformsToType(NorvexEPSType) || type.conformsToType(NorvexEPSIType)) return QStringLiteral("EPS");
-  if (type.conformsToType(NorvexIllustratorType)) return QStringLiteral("Illustrator");
-  if (type.conformsToType(UTTypePDF())) return QStringLiteral("PDF");
+QString nameOf(DocumentKind kind) {
+  switch (kind) {
+    case DocumentKind::Svg:
+      return QStringLiteral("SVG");
+    case DocumentKind::Eps:
+      return QStringLiteral("EPS");
+    case DocumentKind::Illustrator:
+      return QStringLiteral("Illustrator");
+    case DocumentKind::Pdf:
+      return QStringLiteral("PDF");
+    case DocumentKind::Other:
+      break;
+  }
   return QStringLiteral("other");
 }
 
 void readEps(DocumentInfo& info, PictureService& service, const QByteArray& bytes) {
-  info.header = epsHeader(bytes, [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
+  const TiffDecoder decodeTiff = [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
     const Result<NSBitmapImageRep> preview = service.decodePreview(tiff);
     if (preview) return *preview;
     info.warnings << preview.error().message;
     return std::nullopt;
-  });
+  };
+  info.header = pictureHeader(PictureKind::Eps, bytes, PictureFacts(), decodeTiff);
   // The header is all that the representation reads; without a service it starts no process for the drawing.
   NullPictureService undrawn;
   const auto rep = NSEPSImageRep::imageRepWithData(undrawn, bytes);
@@ -60,7 +68,7 @@ void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, 
   if (kind == PictureKind::Eps) return readEps(info, service, bytes);
   const Result<PictureFacts> facts = service.open(bytes, kind)->facts();
   readFacts(info, facts);
-  info.header = kind == PictureKind::Pdf ? pdfHeader(facts) : svgHeader(facts);
+  info.header = pictureHeader(kind, bytes, facts);
 }
 
 }  // namespace
@@ -72,10 +80,9 @@ DocumentInfo documentInfo(PictureService& service, const QString& file, const Re
     info.error = bytes.error();
     return info;
   }
-  const UTType type = typeOfInput(*bytes, file);
-  info.typeIdentifier = type.identifier();
-  info.kind = kindOf(type);
-  const Result<PictureKind> kind = pictureKindOfInput(*bytes, type);
+  info.typeIdentifier = sourceOfInput(*bytes, file).typeIdentifier;
+  info.kind = nameOf(documentKind(info.typeIdentifier));
+  const Result<PictureKind> kind = pictureKindOf(*bytes, info.typeIdentifier);
   if (kind)
     readPicture(info, service, *kind, *bytes);
   else

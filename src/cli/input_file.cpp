@@ -1,9 +1,10 @@
 #include "cli/input_file.h"
 
+#include <QFileInfo>
+#include <QUrl>
+
 #include "base/atomic_file.h"
-#include "metadata/dos_eps_header.h"
 #include "picture/document_file.h"
-#include "picture/picture_loader.h"
 #include "types/type_identification.h"
 
 namespace norvex {
@@ -31,17 +32,13 @@ std::optional<Error> overwritesInput(const QString& file, const QString& output)
   return Error{ErrorKind::CannotWrite, QStringLiteral("the output would overwrite the input")};
 }
 
-UTType typeOfInput(const QByteArray& bytes, const QString& file) {
-  return identifyType(bytes, file == kStandardInput ? QString() : file);
-}
-
-Result<PictureKind> pictureKindOfInput(const QByteArray& bytes, const UTType& type) {
-  const QList<PictureKind> kinds = pictureKindsForType(type.identifier());
-  if (kinds.isEmpty())
-    return Error{ErrorKind::Unsupported,
-                 QStringLiteral("this is not an EPS, Illustrator, PDF or SVG picture")};
-  const bool isPdf = identifyType(bytes, QStringLiteral("x.pdf")).conformsToType(UTTypePDF());
-  return kinds.contains(PictureKind::Pdf) && isPdf ? PictureKind::Pdf : kinds.first();
+PictureSource sourceOfInput(const QByteArray& bytes, const QString& file) {
+  const bool isFile = file != kStandardInput;
+  PictureSource source;
+  source.bytes = bytes;
+  source.typeIdentifier = identifyType(bytes, isFile ? file : QString()).identifier();
+  if (isFile) source.fileURL = QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
+  return source;
 }
 
 }  // namespace norvex

@@ -8,8 +8,7 @@
 
 #include "base/result.h"
 #include "cli/console.h"
-#include "protocol/worker_protocol.h"
-#include "types/uniform_type.h"
+#include "picture/open_picture.h"
 
 namespace norvex {
 
@@ -21,11 +20,7 @@ namespace norvex {
 /// Why the result must not be written to `output`: it is the input itself, through whatever links.
 [[nodiscard]] std::optional<Error> overwritesInput(const QString& file, const QString& output);
 
-/// The type of an input; standard input has no name to go by.
-[[nodiscard]] UTType typeOfInput(const QByteArray& bytes, const QString& file);
-
-/// The engine that an input needs: for an Illustrator file PostScript where the bytes are that, PDF
-/// otherwise. Fails (Unsupported) for a type that is not a picture.
-[[nodiscard]] Result<PictureKind> pictureKindOfInput(const QByteArray& bytes, const UTType& type);
+/// An input as a picture is opened from it. Standard input has no name to tell the type by.
+[[nodiscard]] PictureSource sourceOfInput(const QByteArray& bytes, const QString& file);
 
 }  // namespace norvex

@@ -47,7 +47,7 @@ ExitCode Job::preview(const Arguments& arguments) {
   }
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
-  const Result<PictureKind> kind = pictureKindOfInput(*bytes, typeOfInput(*bytes, file));
+  const Result<PictureKind> kind = pictureKindOf(*bytes, sourceOfInput(*bytes, file).typeIdentifier);
   if (!kind) return fail(file, kind.error());
 
   Result<std::optional<NSBitmapImageRep>> preview = std::optional<NSBitmapImageRep>();

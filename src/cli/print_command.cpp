@@ -9,7 +9,7 @@
 #include "cli/printing_job.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
-#include "picture/picture_loader.h"
+#include "picture/open_picture.h"
 #include "print/cups_spooler.h"
 #include "print/print_job.h"
 
@@ -74,17 +74,13 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
       return fail(file, printer.error());
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
-  const bool isInput = file == QLatin1String("-");
-  PictureSource picture;
-  picture.bytes = *bytes;
-  picture.fileURL = isInput ? QUrl() : QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
-  picture.typeIdentifier = typeOfInput(*bytes, file).identifier();
+  const PictureSource picture = sourceOfInput(*bytes, file);
 
   const Interruption interruption;
   const CancelToken cancel = interruption.token();
-  const Result<LoadedPicture> loaded = loadPicture(service_, picture, {}, cancel);
-  if (!loaded) return fail(file, loaded.error());
-  const PrintSource source = sourceOf(loaded->imageRep, picture.fileURL);
+  const auto opened = openPicture(service_, picture, {}, cancel);
+  if (!opened) return fail(file, opened.error());
+  const PrintSource source = sourceOf(*opened, picture.fileURL);
   const Result<QByteArray> drawing = pictureOf(source, cancel);
   if (!drawing) return fail(file, drawing.error());
   const Result<QByteArray> pages = composeJob(source, info, service_, *drawing, cancel);

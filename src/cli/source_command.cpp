@@ -3,9 +3,8 @@
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "cli/value_reader.h"
-#include "metadata/eps_header.h"
 #include "metadata/source_text.h"
-#include "picture/svg_header.h"
+#include "picture/picture_header.h"
 
 namespace norvex {
 namespace {
@@ -24,7 +23,7 @@ Result<QString> svgText(PictureService& service, const QByteArray& bytes, const 
   if (!facts) return facts.error();
   const Result<PictureBytes> pretty = process->svg({}, time.token());
   if (!pretty) return pretty.error();
-  return textOrError(PictureKind::Svg, pretty->bytes, svgHeader(facts));
+  return textOrError(PictureKind::Svg, pretty->bytes, pictureHeader(PictureKind::Svg, bytes, facts));
 }
 
 }  // namespace
@@ -36,14 +35,15 @@ ExitCode Job::source(const Arguments& arguments) {
   if (!values.complaint().isEmpty()) return complain(Command::Source, values.complaint());
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
-  const Result<PictureKind> kind = pictureKindOfInput(*bytes, typeOfInput(*bytes, file));
+  const Result<PictureKind> kind = pictureKindOf(*bytes, sourceOfInput(*bytes, file).typeIdentifier);
   if (!kind) return fail(file, kind.error());
   if (*kind == PictureKind::Pdf) {
     (void)fail(file, {ErrorKind::Unsupported, QStringLiteral("a PDF has no source text")});
     return ExitCode::SomeFailed;
   }
-  const Result<QString> text =
-      *kind == PictureKind::Svg ? svgText(service_, *bytes, limits) : textOrError(*kind, *bytes, epsHeader(*bytes));
+  const Result<QString> text = *kind == PictureKind::Svg
+                                   ? svgText(service_, *bytes, limits)
+                                   : textOrError(*kind, *bytes, pictureHeader(*kind, *bytes, PictureFacts()));
   if (!text) return fail(file, text.error());
   // A terminal is not to be commanded by a document; a file or a pipe gets the text as it is.
   return show(console_.isTerminal() ? visible(*text, true) : *text);

@@ -15,6 +15,7 @@
 #include "metadata/full_date.h"
 #include "picture/eps_image_rep.h"
 #include "picture/pdf_image_rep.h"
+#include "picture/picture_header.h"
 #include "picture/web_image_rep.h"
 
 namespace norvex {
@@ -99,7 +100,7 @@ QByteArray PictureEncoder::programOfEps() {
 }
 
 const HeaderDictionary& PictureEncoder::header() {
-  if (!header_) header_ = pictureHeader(imageRep_.get(), surroundings_.locale);
+  if (!header_) header_ = pictureHeader(imageRep_.get(), {}, surroundings_.locale);
   return *header_;
 }
 

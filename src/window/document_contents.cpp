@@ -1,13 +1,12 @@
 #include "window/document_contents.h"
 
-#include "metadata/eps_header.h"
-#include "metadata/pdf_header.h"
 #include "metadata/source_text.h"
 #include "picture/document_file.h"
 #include "picture/eps_image_rep.h"
+#include "picture/open_picture.h"
 #include "picture/pdf_image_rep.h"
+#include "picture/picture_header.h"
 #include "picture/process/stoppable_process.h"
-#include "picture/svg_header.h"
 #include "picture/web_image_rep.h"
 
 namespace norvex {
@@ -22,65 +21,31 @@ struct Reader {
   CancelToken cancel;
   DocumentContents contents;
 
-  bool takeEps() {
-    const auto made = NSEPSImageRep::imageRepWithData(service, bytes);
-    if (!made) return fail(made.error());
-    contents.imageRep = *made;
-    contents.pictureRectangle = (*made)->boundingBox();
-    contents.header = epsHeader(bytes, [this](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
-      const auto preview = service.decodePreview(tiff, cancel);
-      if (!preview) return std::nullopt;
-      return *preview;
-    });
-    return true;
-  }
-
-  bool takePdf() {
-    const auto made = NSPDFImageRep::imageRepWithData(service, bytes);
-    if (!made) return fail(made.error());
-    contents.imageRep = *made;
-    contents.pictureRectangle = (*made)->bounds();
-    contents.header = pdfHeader(Result<PictureFacts>((*made)->facts()));
-    return true;
-  }
-
-  bool takeSvg() {
-    const auto made = ZyWebImageRep::imageRepWithData(service, bytes, fileURL);
-    if (!made) return fail(made.error());
-    const std::shared_ptr<ZyWebImageRep>& rep = *made;
-    contents.imageRep = rep;
-    contents.pictureRectangle = rep->bounds();
-    const QVariant viewBox = rep->valueForKey(QStringLiteral("viewBox"));
-    if (viewBox.isValid()) contents.viewBox = viewBox.toRectF();
-    contents.header = svgHeader(Result<PictureFacts>(rep->facts()), rep->colorSpace());
-    return true;
-  }
-
-  bool fail(const Error& error) {
-    contents.error = error;
-    return false;
-  }
-
-  void take() {
-    bool made = false;
-    switch (contents.kind) {
-      case DocumentKind::Svg:
-        made = takeSvg();
-        break;
-      case DocumentKind::Eps:
-        made = takeEps();
-        break;
-      // Illustrator writes PostScript or PDF; only trying tells.
-      case DocumentKind::Illustrator:
-        made = takeEps() || takePdf();
-        break;
-      case DocumentKind::Pdf:
-        made = takePdf();
-        break;
-      case DocumentKind::Other:
-        break;
+  void take(const QString& typeIdentifier) {
+    const auto opened = openPicture(service, {bytes, typeIdentifier, fileURL, 0});
+    if (!opened) {
+      if (contents.kind != DocumentKind::Other) contents.error = opened.error();
+      return;
     }
-    if (made) contents.error.reset();
+    contents.imageRep = *opened;
+    takeRectangles(contents.imageRep.get());
+    contents.header = pictureHeader(contents.imageRep.get(),
+                                    [this](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
+                                      const auto preview = service.decodePreview(tiff, cancel);
+                                      if (!preview) return std::nullopt;
+                                      return *preview;
+                                    });
+  }
+
+  void takeRectangles(const NSImageRep* rep) {
+    if (const auto* eps = qobject_cast<const NSEPSImageRep*>(rep))
+      contents.pictureRectangle = eps->boundingBox();
+    if (const auto* pdf = qobject_cast<const NSPDFImageRep*>(rep)) contents.pictureRectangle = pdf->bounds();
+    const auto* svg = qobject_cast<const ZyWebImageRep*>(rep);
+    if (!svg) return;
+    contents.pictureRectangle = svg->bounds();
+    const QVariant viewBox = svg->valueForKey(QStringLiteral("viewBox"));
+    if (viewBox.isValid()) contents.viewBox = viewBox.toRectF();
   }
 
   void readSourceText() {
@@ -109,7 +74,7 @@ DocumentContents readDocumentContents(PictureService& service, const QUrl& fileU
     return reader.contents;
   }
   reader.bytes = *file;
-  reader.take();
+  reader.take(fileType);
   reader.readSourceText();
   if (reader.contents.imageRep) {
     reader.contents.imageRep->moveToThread(home);

@@ -22,8 +22,10 @@
 #include <memory>
 
 #include "picture/client/worker_service.h"
-#include "picture/picture_loader.h"
+#include "picture/document_file.h"
+#include "picture/open_picture.h"
 #include "picture/process/memory_picture_service.h"
+#include "types/type_identification.h"
 
 using namespace norvex;
 
@@ -149,28 +151,32 @@ int main(int argc, char** argv) {
   options.process(application);
 
   std::unique_ptr<PictureService> service;
-  Result<LoadedPicture> loaded = Error{};
+  Result<std::shared_ptr<NSImageRep>> opened = Error{};
   QElapsedTimer timer;
   timer.start();
   if (options.positionalArguments().isEmpty()) {
     service = std::make_unique<MemoryPictureService>(heavyPicture());
-    loaded = loadPicture(*service, {"%PDF-1.7\n", "com.adobe.pdf", {}, 0});
+    opened = openPicture(*service, {"%PDF-1.7\n", "com.adobe.pdf", {}, 0});
   } else {
     auto worker = std::make_unique<WorkerService>(options.value("worker"));
     worker->yieldToWindows();
     service = std::move(worker);
-    const QUrl url = QUrl::fromLocalFile(options.positionalArguments().first());
-    loaded = loadPictureFile(*service, url).result();
-    QCoreApplication::processEvents();
+    const QString path = options.positionalArguments().first();
+    const Result<QByteArray> bytes = readDocumentFile(path);
+    if (bytes)
+      opened = openPicture(*service,
+                           {*bytes, identifyType(*bytes, path).identifier(), QUrl::fromLocalFile(path), 0});
+    else
+      opened = bytes.error();
   }
-  if (!loaded) {
-    QTextStream(stderr) << "frame_bench: " << loaded.error().message << '\n';
+  if (!opened) {
+    QTextStream(stderr) << "frame_bench: " << opened.error().message << '\n';
     return 1;
   }
   const QSize size(options.value("width").toInt(), options.value("height").toInt());
   QTextStream(stdout) << QString::asprintf(
       "%d x %d frame, picture of %.0f x %.0f points, loaded in %lld ms\n", size.width(), size.height(),
-      loaded->imageRep->size().width(), loaded->imageRep->size().height(), timer.elapsed());
-  runAll(*loaded->imageRep, size, options.value("only"));
+      (*opened)->size().width(), (*opened)->size().height(), timer.elapsed());
+  runAll(**opened, size, options.value("only"));
   return 0;
 }

@@ -24,8 +24,9 @@ QString hexadecimal(int byte) {
 }
 
 bool commandsTheTerminal(QChar c) {
-  const bool turnsDirection =
-      (c >= QChar(0x202A) && c <= QChar(0x202E)) || (c >= QChar(0x2066) && c <= QChar(0x2069));
+  const bool turnsDirection = (c >= QChar(0x202A) && c <= QChar(0x202E)) ||
+                              (c >= QChar(0x2066) && c <= QChar(0x2069)) || c == QChar(0x200E) ||
+                              c == QChar(0x200F) || c == QChar(0x061C);
   return turnsDirection || c.category() == QChar::Other_Control || c == QChar(0x2028) || c == QChar(0x2029);
 }
 

@@ -4,6 +4,8 @@
 #include <QtMath>
 
 #include "base/latin1_text.h"
+#include "cli/conversion_check.h"
+#include "cli/input_file.h"
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
 #include "picture/pdf_image_rep.h"
@@ -79,6 +81,7 @@ Conversion convertPicture(PictureService& service, PictureSource source, const C
   surroundings.quality = options.quality;
   surroundings.region = region;
   surroundings.isLastUse = true;
+  surroundings.subjectMayBeLeftOut = true;
   // The only page is the whole file.
   surroundings.onePage = options.page.has_value() && pageCount(*imageRep) > 1;
   PictureEncoder encoder(imageRep, surroundings, cancel);
@@ -97,6 +100,7 @@ Conversion convertPicture(PictureService& service, PictureSource source, const C
       (options.format == PictureFormat::Eps && imageRep->pictureKind() == PictureKind::Eps);
   conversion.metadataLost = metadataLost(encoder.header(), imageRep->pictureKind(), options.format,
                                          vectorOfSameKind && !surroundings.region && !surroundings.onePage);
+  checkConversion(conversion, encoder, source, !surroundings.region && !surroundings.onePage);
   return conversion;
 }
 

@@ -3,6 +3,7 @@
 #include <QJsonArray>
 
 #include "base/latin1_text.h"
+#include "cli/json_output.h"
 
 namespace norvex {
 namespace {
@@ -27,7 +28,7 @@ QJsonObject conversionObject(const ConvertTask& task, const ConversionOptions& o
                      {QStringLiteral("output"), task.output},
                      {QStringLiteral("format"), latin1(rowOf(options.format).name)}};
   if (report.error) {
-    object.insert(QStringLiteral("error"), report.error->message);
+    insertError(object, *report.error);
   } else {
     object.insert(QStringLiteral("bytes"), conversion.size);
     QJsonObject rasterized{{QStringLiteral("regions"), report.regionsRasterised},

@@ -10,7 +10,7 @@
 namespace norvex {
 
 /// `file`, `output`, `format`, `bytes`, `rasterized` {`regions`, `areaShare`, `dpi`}, `metadataLost`,
-/// `warnings`; `error` where it failed.
+/// `warnings`; `error` and perhaps `details` where it failed.
 [[nodiscard]] QJsonObject conversionObject(const ConvertTask& task, const ConversionOptions& options,
                                            const Conversion& conversion);
 

@@ -12,6 +12,7 @@
 #include "cli/input_file.h"
 #include "cli/interruption.h"
 #include "cli/job.h"
+#include "cli/json_output.h"
 #include "metadata/full_date.h"
 
 namespace norvex {
@@ -136,7 +137,7 @@ ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<Conversio
     console_.message(
         QStringLiteral("norvex: interrupted; %1 of %2 files not converted").arg(undone).arg(count));
   }
-  if (plan.json && !console_.write(QJsonDocument(objects).toJson(QJsonDocument::Indented))) {
+  if (plan.json && !console_.write(jsonOutput(QJsonDocument(objects)))) {
     return fail(QStringLiteral("-"),
                 {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
   }

@@ -2,6 +2,8 @@
 
 #include "cli/input_file.h"
 #include "metadata/eps_resources.h"
+#include "metadata/other_preview.h"
+#include "metadata/pdf_header.h"
 #include "picture/eps_image_rep.h"
 #include "picture/picture_header.h"
 #include "picture/process/null_picture_service.h"
@@ -34,6 +36,9 @@ void readEps(DocumentInfo& info, PictureService& service, const QByteArray& byte
     return std::nullopt;
   };
   info.header = pictureHeader(PictureKind::Eps, bytes, PictureFacts(), decodeTiff);
+  info.guessed = guessedHeader(bytes, info.header);
+  if (!info.header.contains(header::Preview) && info.warnings.isEmpty())
+    if (const auto other = otherPreview(bytes); !other) info.warnings << other.error().message;
   // The header is all that the representation reads; without a service it starts no process for the drawing.
   NullPictureService undrawn;
   const auto rep = NSEPSImageRep::imageRepWithData(undrawn, bytes);

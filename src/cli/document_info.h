@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "base/result.h"
+#include "metadata/guessed_header.h"
 #include "metadata/header_dictionary.h"
 #include "picture/process/picture_process.h"
 
@@ -20,8 +21,9 @@ struct DocumentInfo {
   QString kind;  ///< "SVG", "EPS", "Illustrator", "PDF" or "other"; empty when the file could not be read
   QString typeIdentifier;
   HeaderDictionary header;
-  std::optional<QRectF> rectangle;  ///< bounding box (EPS) or bounds (PDF, SVG), points
-  QString rectangleTitle;           ///< "Bounds", or "ViewBox" for SVG
+  std::optional<GuessedHeader> guessed;  ///< of a source that decodes in no encoding
+  std::optional<QRectF> rectangle;       ///< bounding box (EPS) or bounds (PDF, SVG), points
+  QString rectangleTitle;                ///< "Bounds", or "ViewBox" for SVG
   std::optional<QRectF> viewBox;
   std::optional<QRectF> hiResBoundingBox;
   std::optional<int> pages;

@@ -5,6 +5,7 @@
 #include "cli/info_report.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
+#include "cli/json_output.h"
 
 namespace norvex {
 namespace {
@@ -16,7 +17,7 @@ struct Finding {
 };
 
 Finding findingOf(const DocumentInfo& info, bool json) {
-  if (json) return {QJsonDocument(infoObject(info)).toJson(QJsonDocument::Indented).trimmed(), info.error};
+  if (json) return {jsonOutput(QJsonDocument(infoObject(info))).trimmed(), info.error};
   const bool silent = info.error && info.header.isEmpty();  // nothing to tell but what is wrong
   return {silent ? QByteArray() : infoText(info).toUtf8(), info.error};
 }

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 
 #include "cli/console.h"
+#include "cli/json_output.h"
 
 namespace norvex {
 namespace {
@@ -13,10 +14,19 @@ QJsonArray arrayOf(const QRectF& rect) {
   return {rect.x(), rect.y(), rect.width(), rect.height()};
 }
 
+/// Lower left and upper right.
+QJsonArray cornersOf(const QRectF& rect) {
+  return {rect.left(), rect.top(), rect.right(), rect.bottom()};
+}
+
+QString textOf(const QJsonArray& numbers) {
+  QStringList texts;
+  for (const QJsonValue& number : numbers) texts << QString::number(number.toDouble(), 'g', 10);
+  return texts.join(QLatin1Char(' '));
+}
+
 QString textOf(const QRectF& rect) {
-  const auto number = [](double value) { return QString::number(value, 'g', 10); };
-  return QStringLiteral("%1 %2 %3 %4")
-      .arg(number(rect.x()), number(rect.y()), number(rect.width()), number(rect.height()));
+  return textOf(arrayOf(rect));
 }
 
 QString nameOf(const QColorSpace& space) {
@@ -50,6 +60,12 @@ QString textOf(const QVariant& value) {
   return value.typeId() == QMetaType::QColorSpace ? nameOf(value.value<QColorSpace>()) : value.toString();
 }
 
+QJsonObject guessObject(const GuessedHeader& guess) {
+  QJsonObject object = QJsonObject::fromVariantMap(guess.values);
+  object.insert(QStringLiteral("Encoding"), guess.encodingName);
+  return object;
+}
+
 QString line(const QString& name, const QString& value) {
   return QStringLiteral("  %1 %2\n").arg(name + QLatin1Char(':'), -22).arg(visible(value));
 }
@@ -81,11 +97,12 @@ QJsonObject infoObject(const DocumentInfo& info) {
   if (info.rectangle) insert("rectangle", arrayOf(*info.rectangle));
   if (info.rectangle) insert("rectangleTitle", info.rectangleTitle);
   if (info.viewBox) insert("viewBox", arrayOf(*info.viewBox));
-  if (info.hiResBoundingBox) insert("hiResBoundingBox", arrayOf(*info.hiResBoundingBox));
+  if (info.hiResBoundingBox) insert("hiResBoundingBox", cornersOf(*info.hiResBoundingBox));
   if (info.pages) insert("pages", *info.pages);
   if (!info.fonts.isEmpty()) insert("fonts", QJsonArray::fromStringList(info.fonts));
   if (!info.colorSpaces.isEmpty()) insert("colorSpaces", QJsonArray::fromStringList(info.colorSpaces));
-  if (info.error) insert("error", info.error->message);
+  if (info.guessed) insert("guessedHeader", guessObject(*info.guessed));
+  if (info.error) insertError(object, *info.error);
   return object;
 }
 
@@ -97,8 +114,13 @@ QString infoText(const DocumentInfo& info) {
        {header::Title, header::Creator, header::CreationDate, header::For, header::Copyright,
         header::Description, header::Encoding, header::Preview, header::ColorSpace})
     if (const QString value = textOf(info.header.value(key)); !value.isEmpty()) text += line(key, value);
+  if (info.guessed)
+    for (auto it = info.guessed->values.begin(); it != info.guessed->values.end(); ++it)
+      text +=
+          line(it.key() + QLatin1Char('?'),
+               QStringLiteral("%1 (a guess: read as %2)").arg(it->toString(), info.guessed->encodingName));
   if (info.rectangle) text += line("Bounds", textOf(*info.rectangle));
-  if (info.hiResBoundingBox) text += line("HiResBoundingBox", textOf(*info.hiResBoundingBox));
+  if (info.hiResBoundingBox) text += line("HiResBoundingBox", textOf(cornersOf(*info.hiResBoundingBox)));
   if (info.viewBox) text += line("ViewBox", textOf(*info.viewBox));
   if (info.pages) text += line("Pages", QString::number(*info.pages));
   if (!info.fonts.isEmpty()) text += line("Fonts", info.fonts.join(QStringLiteral(", ")));

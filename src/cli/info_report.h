@@ -9,8 +9,10 @@
 
 namespace norvex {
 
-/// An object of the array that `info --json` writes. Rectangles are [x, y, width, height]; a preview is told
+/// An object of the array that `info --json` writes. Rectangles are [x, y, width, height], the
+/// high-resolution bounding box is [left, bottom, right, top] as in the file; a preview is told
 /// by its layout and a hash of its samples; what is not known is left out, warnings alone are always there.
+/// `guessedHeader` holds what a source in no encoding seems to say, and its own "Encoding".
 [[nodiscard]] QJsonObject infoObject(const DocumentInfo& info);
 
 /// Lines to read: the file's name and one line for each thing that is known.

@@ -3,6 +3,7 @@
 #include "base/latin1_text.h"
 #include "cli/arguments/help_text.h"
 #include "cli/arguments/shell_completion.h"
+#include "picture/told_error.h"
 
 namespace norvex {
 
@@ -62,7 +63,9 @@ ExitCode Job::show(const QString& text) {
 }
 
 ExitCode Job::fail(const QString& file, const Error& error) {
-  console_.message(QStringLiteral("norvex: %1: %2").arg(file, error.message));
+  const ToldError told = toldError(error);
+  const QString details = told.details.isEmpty() ? QString() : QStringLiteral(". Details: ") + told.details;
+  console_.message(QStringLiteral("norvex: %1: %2").arg(file, told.sentence + details));
   return exitCodeOf(error);
 }
 

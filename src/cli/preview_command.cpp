@@ -6,6 +6,7 @@
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "metadata/eps_header.h"
+#include "metadata/other_preview.h"
 #include "picture/bitmap_image.h"
 
 namespace norvex {
@@ -22,7 +23,7 @@ Result<std::optional<NSBitmapImageRep>> embeddedPreview(PictureService& service,
         return std::nullopt;
       });
   if (unreadable) return *unreadable;
-  if (!dictionary.contains(header::Preview)) return std::optional<NSBitmapImageRep>();
+  if (!dictionary.contains(header::Preview)) return otherPreview(bytes);
   return std::optional(dictionary.value(header::Preview).value<NSBitmapImageRep>());
 }
 

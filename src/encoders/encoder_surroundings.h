@@ -34,6 +34,9 @@ struct EncoderSurroundings {
   std::optional<PictureRegion> region;
   bool isLastUse = false;  ///< of the picture: its process may go when nothing is left to ask
   bool onePage = false;    ///< hand out the shown page of a PDF, not the whole file
+  /// A PDF of a picture with a description and no title is made without a subject, with a warning; otherwise
+  /// it is not made.
+  bool subjectMayBeLeftOut = false;
 };
 
 /// The user's, the locale's and the program's own values; the colour space is sRGB. "Now" is the

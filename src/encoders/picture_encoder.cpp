@@ -179,8 +179,15 @@ QByteArray PictureEncoder::addPDFHeader(const QByteArray& pdf) {
 }
 
 std::optional<PdfAttributes> PictureEncoder::attributesFrom(const HeaderDictionary& facts) {
-  auto attributes = pdfAttributes(facts, {surroundings_.applicationName, surroundings_.applicationVersion,
-                                          surroundings_.userFullName, surroundings_.now});
+  const PdfAttributeDefaults defaults{surroundings_.applicationName, surroundings_.applicationVersion,
+                                      surroundings_.userFullName, surroundings_.now};
+  auto attributes = pdfAttributes(facts, defaults);
+  if (!attributes && surroundings_.subjectMayBeLeftOut) {
+    HeaderDictionary undescribed = facts;
+    undescribed.remove(header::Description);
+    attributes = pdfAttributes(undescribed, defaults);
+    addWarnings({QStringLiteral("the PDF has no subject, because the document has a description but no title")});
+  }
   if (!attributes)
     fail({ErrorKind::Unsupported,
           QStringLiteral("the document has a description but no title to store with it")});

@@ -34,25 +34,89 @@ class ConvertReportTest : public QObject {
     QCOMPARE(line.console.messages, QString("norvex: %1: No such file or directory\n").arg(bad));
   }
 
-  void aSourceThatIsNotTextIsTold() {
-    // Binary data in the body: bytes that are neither UTF-8 nor anything else that the header could declare.
+  void aSourceThatIsNotTextGoesOverAndWhatItSaysIsLostElsewhere() {
+    // Bytes that are neither UTF-8 nor anything else that the header could declare.
     QByteArray binary = kEps;
     binary.insert(binary.indexOf("showpage"), QByteArray("\x81\xFF\xFE\x00\x8D", 5));
     CommandLine line;
     const QString from = line.write("a.eps", binary);
-    const QString to = line.path("b.eps");
-    QCOMPARE(line.run({"convert", from, "-o", to, "--format", "eps-preview", "--json"}), 0);
-    const QString sentence =
-        QStringLiteral("the source could not be read as text, so the file holds a preview and no PostScript");
-    QCOMPARE(line.console.messages, QString("norvex: %1: %2\n").arg(from, sentence));
-    QCOMPARE(jsonOf(line).at(0)["warnings"].toArray(), QJsonArray{sentence});
+    for (const char* format : {"eps", "eps-preview", "epsi"}) {
+      QCOMPARE(line.run({"convert", from, "-o", line.path("b"), "--format", format, "--force", "--json"}), 0);
+      QVERIFY(line.contents("b").endsWith(binary.sliced(binary.indexOf("%%EndComments") + 13)));
+      QCOMPARE(jsonOf(line).at(0)["metadataLost"].toArray(), QJsonArray());
+    }
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.pdf"), "--json"}), 0);
+    QCOMPARE(jsonOf(line).at(0)["metadataLost"].toArray(), QJsonArray({"Title", "Creator"}));
+  }
 
-    QCOMPARE(line.run({"convert", from, "-o", line.path("b.epsi"), "--json"}), 3);
-    const QString refusal =
-        QStringLiteral("the source could not be read as text, so it cannot be written as EPSI");
-    QCOMPARE(line.console.messages, QString("norvex: %1: %2\n").arg(from, refusal));
-    QCOMPARE(jsonOf(line).at(0)["error"].toString(), refusal);
-    QVERIFY(!QFile::exists(line.path("b.epsi")));
+  void whatAnEpsSaysStaysInAnEps() {
+    const QByteArray eps = QByteArray(kEps).replace("%%EndComments", "%%Routing: r\n%%EndComments");
+    CommandLine line;
+    const QString from = line.write("a.eps", eps);
+    for (const char* format : {"eps", "eps-preview", "epsi"}) {
+      QCOMPARE(line.run({"convert", from, "-o", line.path("b"), "--format", format, "--force", "--json"}), 0);
+      QCOMPARE(jsonOf(line).at(0)["metadataLost"].toArray(), QJsonArray());
+    }
+    // A new file with the old one's facts: it has no line for the routing.
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.eps"), "--crop", "0,0,9,9", "--json"}), 0);
+    QCOMPARE(jsonOf(line).at(0)["metadataLost"].toArray(), QJsonArray({"Description"}));
+  }
+
+  void aTitleThatItsLineDidNotTakeIsLost() {
+    MemoryPicture picture;
+    picture.facts.title = "a\n%%Creator: b";  // the creator takes the first line that holds its keyword
+    CommandLine line;
+    line.service.setPicture(picture);
+    const QString from = line.write("a.svg", kSvg);
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.eps"), "--json"}), 0);
+    QCOMPARE(jsonOf(line).at(0)["metadataLost"].toArray(), QJsonArray({"Title"}));
+    picture.facts.title = "a\r\nb";
+    line.service.setPicture(picture);
+    QCOMPARE(line.run({"convert", from, "-o", line.path("c.eps"), "--json"}), 0);
+    QVERIFY(line.contents("c.eps").contains("%%Title: a b\n"));
+    QCOMPARE(jsonOf(line).at(0)["metadataLost"].toArray(), QJsonArray());
+  }
+
+  void aResultThatCouldNotBeOpenedAgainIsNotWritten() {
+    MemoryPicture picture;
+    picture.compose = [](const ComposeRequest&) { return QByteArray("%!PS\n%%EndComments\nshowpage\n"); };
+    CommandLine line;
+    line.service.setPicture(picture);
+    const QString from = line.write("a.pdf", emptyPdf({200, 100}));
+    const QString to = line.write("b.eps", "old");
+    QCOMPARE(line.run({"convert", from, "-o", to, "--force"}), 3);
+    QCOMPARE(
+        line.console.messages,
+        QString("norvex: %1: the result could not be opened again: the PostScript header states no usable "
+                "bounding box\n")
+            .arg(from));
+    QCOMPARE(line.contents("b.eps"), QByteArray("old"));
+  }
+
+  void aDescriptionWithoutATitleCostsTheSubjectAlone() {
+    MemoryPicture picture;
+    picture.facts.description = "d";
+    CommandLine line;
+    line.service.setPicture(picture);
+    QCOMPARE(line.run({"convert", line.write("a.svg", kSvg), "-o", line.path("b.pdf"), "--json"}), 0);
+    QCOMPARE(jsonOf(line).at(0)["warnings"].toArray(),
+             QJsonArray{"the PDF has no subject, because the document has a description but no title"});
+    QCOMPARE(jsonOf(line).at(0)["metadataLost"].toArray(), QJsonArray({"Description"}));
+  }
+
+  void aLibrarysWordsAreDetails() {
+    CommandLine line;
+    line.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Render, {ErrorKind::NotParsable, "PostScript error: undefined in \u009Bx"});
+    });
+    const QString from = line.write("a.eps", kEps);
+    QCOMPARE(line.run({"convert", from, "-o", line.path("b.png"), "--json"}), 3);
+    QCOMPARE(line.console.messages,
+             QString("norvex: %1: the PostScript program stops with an error. Details: undefined in \\x9bx\n")
+                 .arg(from));
+    QCOMPARE(jsonOf(line).at(0)["error"].toString(), "the PostScript program stops with an error");
+    QCOMPARE(jsonOf(line).at(0)["details"].toString(), "undefined in \u009Bx");
+    QVERIFY(line.console.output.contains("undefined in \\u009bx"));
   }
 
   void aFileThatIsCutOffIsTold() {

@@ -35,7 +35,7 @@ class InfoTest : public QObject {
     QCOMPARE(object["type"].toString(), "com.adobe.encapsulated-postscript");
     QCOMPARE(object["rectangle"].toArray(), QJsonArray({0, 0, 30, 40}));
     QCOMPARE(object["rectangleTitle"].toString(), "Bounds");
-    QCOMPARE(object["hiResBoundingBox"].toArray(), QJsonArray({0, 0.5, 29.5, 39.5}));
+    QCOMPARE(object["hiResBoundingBox"].toArray(), QJsonArray({0, 0.5, 29.5, 40}));
     QCOMPARE(object["pages"].toInt(), 1);
     QCOMPARE(object["warnings"].toArray(), QJsonArray());
     QVERIFY(!object.contains("error"));
@@ -46,6 +46,47 @@ class InfoTest : public QObject {
     QCOMPARE(header["Copyright"], QJsonValue(""));
     QCOMPARE(line.service.openCount(), 0);
     QVERIFY(line.console.messages.isEmpty());
+  }
+
+  void theHighResolutionBoxIsToldByItsCorners() {
+    CommandLine line;
+    QCOMPARE(line.run({"info", line.write("a.eps",
+                                          "%!PS\n%%BoundingBox: 10 20 40 60\n%%HiResBoundingBox: 10.5 20.5 "
+                                          "39.5 59.5\n%%EndComments\n")}),
+             0);
+    QVERIFY2(line.console.output.contains("HiResBoundingBox:      10.5 20.5 39.5 59.5\n"),
+             line.console.output);
+    QVERIFY2(line.console.output.contains("Bounds:                10 20 30 40\n"), line.console.output);
+  }
+
+  void whatASourceInNoEncodingSaysIsAGuess() {
+    CommandLine line;
+    const QString file =
+        line.write("a.eps", QByteArray(kEps).replace("hand", "Ren\x8E") + "(\xFF\x80\xFD\xA0\xFF) pop\n");
+    QCOMPARE(line.run({"info", "--json", file}), 0);
+    const QJsonObject object = jsonOf(line)[0].toObject();
+    QCOMPARE(object["header"].toObject().keys(), QStringList({"Encoding", "EncodingNumber"}));
+    QCOMPARE(object["guessedHeader"].toObject(),
+             QJsonObject({{"Encoding", "macintosh"}, {"Title", "(My picture)"}, {"Creator", "René"}}));
+    QCOMPARE(line.run({"info", file}), 0);
+    QVERIFY(line.console.output.contains("Creator?:              René (a guess: read as macintosh)\n"));
+    QCOMPARE(line.run({"info", "--json", line.write("b.eps", kEps)}), 0);
+    QVERIFY(!jsonOf(line)[0].toObject().contains("guessedHeader"));
+  }
+
+  void controlCharactersAreEscapedInJson() {
+    CommandLine line;
+    const QByteArray title = "a\x1B[31m\x7F\xC2\x80\xC2\x9F\xC2\xA0ü";
+    const QString file = line.write("a.eps", QByteArray(kEps).replace("(My picture)", title));
+    QCOMPARE(line.run({"info", "--json", file}), 0);
+    QCOMPARE(jsonOf(line).at(0)["header"]["Title"].toString(), QString::fromUtf8(title));
+    QVERIFY2(line.console.output.contains("a\\u001b[31m\\u007f\\u0080\\u009f\xC2\xA0ü"), line.console.output);
+  }
+
+  void writingThatTurnsIsMadeVisible() {
+    for (const char16_t c : {u'\u061C', u'\u200E', u'\u200F', u'\u202A', u'\u202E', u'\u2066', u'\u2069'})
+      QCOMPARE(visible(QString(QChar(c))), QStringLiteral("\\u{%1}").arg(uint(c), 4, 16, QLatin1Char('0')));
+    QCOMPARE(visible("\x1B\x7F\u009B\n"), QStringLiteral("\\x1b\\x7f\\x9b\\x0a"));
   }
 
   void aPdfAsJson() {

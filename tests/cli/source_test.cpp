@@ -114,6 +114,31 @@ class SourceTest : public QObject {
     QCOMPARE(line.entries(), QStringList({"a.epsi", "out.png"}));
   }
 
+  void whyAPreviewIsNotShownIsTold() {
+    CommandLine line;
+    const auto told = [&](const QByteArray& bytes) {
+      const QString file = line.write("a.eps", bytes);
+      (void)line.run({"preview", file, "-o", line.path("out.png")});
+      return line.console.messages.sliced(QString("norvex: %1: ").arg(file).size()).trimmed();
+    };
+    QCOMPARE(told(QByteArray(kEpsi).replace("8 2 1 2", "8 2 3 2")), "the embedded preview is malformed");
+    QCOMPARE(told(QByteArray(kEpsi).replace("8 2 1 2", "65536 65536 8 2")),
+             "the embedded preview is too large");
+    QByteArray binary("\xC5\xD0\xD3\xC6", 4);
+    for (const quint32 value : {38u, quint32(kEps.size()), 30u, 8u, 0u, 0u})
+      for (int shift = 0; shift < 32; shift += 8) binary.append(char(value >> shift));
+    QCOMPARE(told(binary + "\xFF\xFFmetafile" + kEps),
+             "the embedded preview is a Windows metafile, which cannot be shown");
+    QVERIFY(!line.entries().contains("out.png"));
+  }
+
+  void aPreviewIsFoundInASourceOfNoEncoding() {
+    CommandLine line;
+    const QString file = line.write("a.epsi", kEpsi + "(\xFF\x80\xFD\xA0\xFF) pop\n");
+    QCOMPARE(line.run({"preview", file, "-o", line.path("out.png")}), 0);
+    QVERIFY(line.contents("out.png").startsWith("\x89PNG"));
+  }
+
   void aFileWithoutPreviewEndsWithOneAndWritesNothing() {
     CommandLine line;
     for (const QString& file :

@@ -229,6 +229,26 @@ class PictureEncoderTest : public QObject {
     QCOMPARE(service_->given.texts.value(QStringLiteral("Title")), QStringLiteral("(Own)"));
   }
 
+  void aDescriptionWithoutATitleHasNoSubjectToStore() {
+    MemoryPicture memory = picture();
+    memory.facts.title = QString();
+    memory.facts.description = QStringLiteral("d");
+    memory.setAttributes = [this](const QByteArray& pdf, const AttributesRequest& attributes) {
+      service_->given = attributes;
+      return QByteArray(pdf + "+attributes");
+    };
+    service_->memory.setPicture(memory);
+    PictureEncoder strict = encoderOf(svg());
+    QVERIFY(strict.pdfData().isEmpty());
+    QVERIFY(strict.report().error);
+    EncoderSurroundings surroundings = usual();
+    surroundings.subjectMayBeLeftOut = true;
+    PictureEncoder lenient(svg(), surroundings);
+    QCOMPARE(lenient.pdfData(), QByteArray("%PDF-whole+attributes"));
+    QCOMPARE(lenient.report().warnings.size(), 1);
+    QVERIFY(!service_->given.texts.contains(QStringLiteral("Subject")));
+  }
+
   void anotherDepthThanTheWindowsIsLogged_data() {
     QTest::addColumn<NSWindowDepth>("limit");
     QTest::addColumn<int>("lines");

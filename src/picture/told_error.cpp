@@ -1,0 +1,41 @@
+#include "picture/told_error.h"
+
+#include <QLatin1String>
+
+#include <array>
+
+namespace norvex {
+namespace {
+
+/// How the picture process quotes a library, and what is said instead.
+struct Quotation {
+  QLatin1String before, behind;
+  QLatin1String sentence;
+};
+
+constexpr std::array kQuotations{
+    Quotation{QLatin1String("PostScript error: "), QLatin1String(""),
+              QLatin1String("the PostScript program stops with an error")},
+    Quotation{QLatin1String("the document is not a readable PDF ("), QLatin1String(")"),
+              QLatin1String("the document is damaged and cannot be read as PDF")},
+    Quotation{QLatin1String("the document is not well-formed XML ("), QLatin1String(")"),
+              QLatin1String("the document is not well-formed XML")},
+    Quotation{QLatin1String("the picture cannot be read: "), QLatin1String(""),
+              QLatin1String("the picture cannot be read")},
+    Quotation{QLatin1String("the picture cannot be drawn: "), QLatin1String(""),
+              QLatin1String("the picture holds something that cannot be drawn")},
+};
+
+}  // namespace
+
+ToldError toldError(const Error& error) {
+  const QString& message = error.message;
+  for (const Quotation& quotation : kQuotations) {
+    if (!message.startsWith(quotation.before) || !message.endsWith(quotation.behind)) continue;
+    const qsizetype length = message.size() - quotation.before.size() - quotation.behind.size();
+    if (length > 0) return {quotation.sentence, message.mid(quotation.before.size(), length)};
+  }
+  return {message, {}};
+}
+
+}  // namespace norvex

@@ -1,0 +1,48 @@
+// What is ours in a message and what a library said.
+#include "picture/told_error.h"
+
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+class ToldErrorTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void aLibrarysWordsAreDetails_data() {
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("sentence");
+    QTest::addColumn<QString>("details");
+    QTest::newRow("interpreter") << "PostScript error: undefined in Adobe_packedarray"
+                                 << "the PostScript program stops with an error"
+                                 << "undefined in Adobe_packedarray";
+    QTest::newRow("PDF") << "the document is not a readable PDF (unable to find trailer dictionary (twice))"
+                         << "the document is damaged and cannot be read as PDF"
+                         << "unable to find trailer dictionary (twice)";
+    QTest::newRow("XML") << "the document is not well-formed XML (line 3: Extra content)"
+                         << "the document is not well-formed XML"
+                         << "line 3: Extra content";
+    QTest::newRow("SVG") << "the picture cannot be drawn: InvalidMatrix"
+                         << "the picture holds something that cannot be drawn"
+                         << "InvalidMatrix";
+  }
+  void aLibrarysWordsAreDetails() {
+    QFETCH(QString, message);
+    QFETCH(QString, sentence);
+    QFETCH(QString, details);
+    const ToldError told = toldError({ErrorKind::NotParsable, message});
+    QCOMPARE(told.sentence, sentence);
+    QCOMPARE(told.details, details);
+  }
+  void ourOwnSentencesStay() {
+    for (const char* message :
+         {"the file is empty", "PostScript error: ", "the document is not a readable PDF (",
+          "the document is not well-formed XML", ""}) {
+      const ToldError told = toldError({ErrorKind::NotParsable, message});
+      QCOMPARE(told.sentence, message);
+      QCOMPARE(told.details, QString());
+    }
+  }
+};
+
+NORVEX_TEST(ToldErrorTest)
+#include "told_error_test.moc"

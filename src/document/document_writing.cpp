@@ -10,6 +10,8 @@
 #include "document/document.h"
 #include "document/picture_producers.h"
 #include "document/unimplemented_method.h"
+#include "encoders/output_check.h"
+#include "picture/image_rep.h"
 #include "picture/web_image_rep.h"
 #include "types/uniform_type.h"
 
@@ -51,6 +53,12 @@ bool Document::writeToURL(const QUrl& url, const QString& ofType, DocumentError*
     if (!svg.isEmpty()) compressedData_ = ZyWebImageRep::gzip(svg);
   }
   const QByteArray bytes = dataOfType(ofType, error);
+  const auto shown = producers() ? producers()->shownImageRep() : nullptr;
+  const bool handedOn = shown && shown->sourceBytes() == bytes;  // it was opened already
+  if (const Result<void> opens = checkOutput(bytes); !opens && !handedOn) {
+    if (error) *error = {errorDomain(), int(DocumentErrorCode::NoDataProduced), opens.error().message};
+    return false;
+  }
   if (!mayReplace(url)) return false;
   const Result<void> written = writeFileAtomically(url.toLocalFile(), bytes, IfExists::Replace);
   if (!written && error)

@@ -30,7 +30,11 @@ class NamingProducers final : public PictureProducers {
   QByteArray gifData(const std::shared_ptr<NSImageRep>&) override { return of("gifData"); }
   QString lastShortcoming() const override { return shortcoming; }
 
-  QByteArray of(const char* name) { return produce ? QByteArray(name) : QByteArray(); }
+  QByteArray of(const char* name) {
+    if (!produce) return {};
+    return bytes.isEmpty() ? QByteArray(name) : bytes;
+  }
+  QByteArray bytes;  ///< empty: the producer's name
   bool produce = true;
   QString shortcoming;
 };
@@ -139,6 +143,14 @@ class DocumentWritingTest : public QObject {
     QVERIFY(!document_->writeToURL(url("no/such/folder/a.pdf"), QStringLiteral("com.adobe.pdf"), &error));
     QCOMPARE(error.domain, QStringLiteral("com.Norvex.ErrorDomain"));
     QCOMPARE(error.recoverySuggestion, QStringLiteral("the folder to write to does not exist"));
+  }
+  void whatCouldNotBeOpenedAgainReplacesNothing() {
+    QVERIFY(document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));
+    producers_.bytes = "%PDF-1.7\n1 0 obj";
+    DocumentError error;
+    QVERIFY(!document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf"), &error));
+    QCOMPARE(error.recoverySuggestion, QStringLiteral("the result could not be opened again: it has no end"));
+    QCOMPARE(contentOf(folder_->filePath(QStringLiteral("a.pdf"))), QByteArray("pdfData"));
   }
   void aFileThatLacksSomethingReplacesAnotherOnlyWhenTheUserSaysSo() {
     QVERIFY(document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));

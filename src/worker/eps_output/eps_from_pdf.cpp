@@ -2,16 +2,16 @@
 
 // A PDF page as EPS: Poppler writes the vectors, the parts that need transparency are cut out and drawn as
 // images. docs/eps-generator.md tells why.
-#include <qpdf/Buffer.hh>
-
 #include <algorithm>
 #include <cmath>
 #include <memory>
 #include <optional>
 
 #include "protocol/limits.h"
+#include "worker/eps_output/colour_space_mending.h"
 #include "worker/eps_output/eps_writing.h"
 #include "worker/eps_output/harmless_fonts.h"
+#include "worker/eps_output/image_streams.h"
 #include "worker/eps_output/poppler_postscript.h"
 #include "worker/eps_output/postscript_device.h"
 #include "worker/eps_output/transparent_regions.h"
@@ -57,19 +57,6 @@ Result<OpenedPdf> upright(QByteArray& pdf) {
   });
 }
 
-// Images reach the EPS as they are here.
-void compressImages(QPDF& qpdf) {
-  for (QPDFObjectHandle object : qpdf.getAllObjects()) {
-    if (!object.isStream() || object.getDict().hasKey("/Filter") ||
-        !object.getDict().getKey("/Subtype").isNameAndEquals("/Image"))
-      continue;
-    const std::shared_ptr<Buffer> data = object.getRawStreamData();
-    const QByteArray packed = qCompress(data->getBuffer(), int(data->getSize())).mid(4);
-    object.replaceStreamData(packed.toStdString(), QPDFObjectHandle::newName("/FlateDecode"),
-                             QPDFObjectHandle::newNull());
-  }
-}
-
 Result<Opaque> withoutTransparency(PdfFile& file) {
   return guarded([&]() -> Result<Opaque> {
     QPDF& qpdf = file.qpdf();
@@ -83,7 +70,8 @@ Result<Opaque> withoutTransparency(PdfFile& file) {
     opaque.usedTransparency = usesTransparency(qpdf);
     removeTransparency(qpdf);
     opaque.warnings = makeFontsHarmless(qpdf);
-    compressImages(qpdf);
+    mendColourSpaces(qpdf);
+    prepareImages(qpdf);
     opaque.pdf = writePdfToDraw(qpdf);
     return opaque;
   });

@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -119,7 +120,8 @@ class Cleaner {
     if (isCff(bytes)) return replaced(file, bytes, withPlainTexts(bytes));
     auto font = readType1Font(bytes);
     if (!font) return QPDFObjectHandle::newNull();
-    if (name.size() > 1) font->name = QByteArray::fromStdString(name.substr(1));
+    if (font->name.isEmpty()) font->name = QByteArray::fromStdString(name).mid(1);
+    font->name = unusedName(font->name);
     return type1Stream(writeType1Font(*font));
   }
 
@@ -129,6 +131,13 @@ class Cleaner {
     if (*after != before)
       file.replaceStreamData(after->toStdString(), QPDFObjectHandle::newNull(), QPDFObjectHandle::newNull());
     return file;
+  }
+
+  // Of fonts with the same name the generator writes the first one alone.
+  QByteArray unusedName(const QByteArray& name) {
+    QByteArray unused = name;
+    for (int i = 2; !names_.insert(unused).second; ++i) unused = name + '-' + QByteArray::number(i);
+    return unused;
   }
 
   QPDFObjectHandle type1Stream(const Type1Program& program) {
@@ -143,6 +152,7 @@ class Cleaner {
 
   QPDF& qpdf_;
   std::map<std::pair<QPDFObjGen, std::string>, QPDFObjectHandle> made_;
+  std::set<QByteArray> names_;  ///< of Type 1 fonts
   QStringList warnings_;
 };
 

@@ -68,10 +68,12 @@ void appendCleaned(QByteArray& result, QByteArrayView text) {
   // Fonts bring their own line ends: those of old Macintosh fonts are carriage returns.
   const auto endsLine = [](char c) { return c == '\n' || c == '\r'; };
   bool inString = false;  // a string goes on behind a backslash at the end of a line
+  bool inData = false;    // of an image
   for (auto start = text.begin(); start != text.end();) {
     const auto end = std::find_if(start, text.end(), endsLine);
     const QByteArrayView line(start, end);
     start = end == text.end() ? end : end + 1;
+    if (line == QByteArrayView("%-EOD-")) inData = false;
     if (!inString && ((isComment(line) && isForeignComment(line)) || isForPrinters(line))) continue;
     if (inString && line.startsWith('%')) {
       result += "\\045";
@@ -85,7 +87,8 @@ void appendCleaned(QByteArray& result, QByteArrayView text) {
       appendSevenBit(result, line);
     }
     result += '\n';
-    inString = line.endsWith('\\') && (inString || line.contains('('));
+    if (!inString && line.startsWith("pdfIm")) inData = true;
+    inString = !inData && line.endsWith('\\');
   }
 }
 

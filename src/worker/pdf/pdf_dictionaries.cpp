@@ -7,13 +7,13 @@
 namespace norvex::engine {
 namespace {
 
-using Visit = std::function<void(QPDFObjectHandle dictionary)>;
+using Visit = std::function<void(QPDFObjectHandle container)>;
 
 void visitDirect(QPDFObjectHandle object, const Visit& visit, int depth) {
   if (depth > limits::maximumObjectDepth) return;
   if (object.isStream()) object = object.getDict();
+  if (object.isDictionary() || object.isArray()) visit(object);
   if (object.isDictionary()) {
-    visit(object);
     for (const std::string& key : object.getKeys()) {
       QPDFObjectHandle value = object.getKey(key);
       if (!value.isIndirect()) visitDirect(value, visit, depth + 1);
@@ -26,10 +26,22 @@ void visitDirect(QPDFObjectHandle object, const Visit& visit, int depth) {
   }
 }
 
+void visitAll(QPDF& qpdf, const Visit& visit) {
+  for (QPDFObjectHandle object : qpdf.getAllObjects()) visitDirect(object, visit, 0);
+}
+
 }  // namespace
 
 void visitDictionaries(QPDF& qpdf, const Visit& visit) {
-  for (QPDFObjectHandle object : qpdf.getAllObjects()) visitDirect(object, visit, 0);
+  visitAll(qpdf, [&](QPDFObjectHandle container) {
+    if (container.isDictionary()) visit(container);
+  });
+}
+
+void visitArrays(QPDF& qpdf, const Visit& visit) {
+  visitAll(qpdf, [&](QPDFObjectHandle container) {
+    if (container.isArray()) visit(container);
+  });
 }
 
 }  // namespace norvex::engine

@@ -1,4 +1,4 @@
-// Every dictionary of a PDF.
+// Every dictionary and every array of a PDF.
 #pragma once
 
 #include <qpdf/QPDF.hh>
@@ -12,5 +12,8 @@ namespace norvex::engine {
 /// each once; whether anything refers to it does not matter. What is very deeply nested is passed over.
 /// Throws as qpdf does.
 void visitDictionaries(QPDF& qpdf, const std::function<void(QPDFObjectHandle dictionary)>& visit);
+
+/// The same for every array.
+void visitArrays(QPDF& qpdf, const std::function<void(QPDFObjectHandle array)>& visit);
 
 }  // namespace norvex::engine

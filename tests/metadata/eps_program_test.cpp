@@ -22,6 +22,14 @@ class EpsProgramTest : public QObject {
   void bytesOfNoEncodingStay() {
     QCOMPARE(epsProgram("%!PS\n\xFF\xFE\x80"), QByteArray("%!PS\n\xFF\xFE\x80"));
   }
+  void whatAPrinterIsToldAroundItIsLeftOut() {
+    const QByteArray change("\x1B%-12345X");
+    const QByteArray program("%!PS-Adobe-3.0\n%%BoundingBox: 0 0 1 1\nshowpage\n");
+    const QByteArray before = change + "@PJL JOB\r\n@PJL ENTER LANGUAGE = POSTSCRIPT\r\n";
+    QCOMPARE(epsProgram(before + program + change + "@PJL EOJ\r\n" + change), program);
+    QCOMPARE(epsProgram(before + program), program);
+    QCOMPARE(epsProgram(before), before);
+  }
   void aMarkAloneHoldsNoProgram() { QVERIFY(epsProgram("\xFE\xFF").isEmpty()); }
 };
 

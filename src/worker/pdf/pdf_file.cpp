@@ -41,6 +41,41 @@ double userUnitOf(QPDFObjectHandle value) {
   return std::isfinite(unit) && unit > 0 && unit < 1.0e4 ? unit : 1;
 }
 
+// What is drawn is not encrypted where the filters of streams and of strings are that of the identity: then
+// the password is for attached files alone. qpdf has read everything else when it finds none.
+bool drawsWithoutPassword(QPDF& qpdf) {
+  QPDFObjectHandle trailer = qpdf.getTrailer();
+  QPDFObjectHandle encryption =
+      trailer.isDictionary() ? trailer.getKey("/Encrypt") : QPDFObjectHandle::newNull();
+  if (!encryption.isDictionary()) return false;
+  QPDFObjectHandle version = encryption.getKey("/V");
+  if (!version.isInteger() || version.getIntValue() < 4) return false;
+  for (const char* key : {"/StmF", "/StrF"})
+    if (QPDFObjectHandle filter = encryption.getKey(key);
+        !filter.isNull() && !filter.isNameAndEquals("/Identity"))
+      return false;
+  return true;
+}
+
+// The objects are all there, and only what says which of them is the catalogue is missing or damaged.
+std::optional<QByteArray> withTrailer(const QByteArray& bytes, QPDF& qpdf) {
+  QByteArray catalogue;
+  size_t count = 0;
+  for (QPDFObjectHandle object : qpdf.getAllObjects()) {
+    count = std::max(count, size_t(object.getObjectID()) + 1);
+    if (object.isDictionaryOfType("/Catalog") && object.getKey("/Pages").isDictionary())
+      catalogue = QByteArray::fromStdString(object.unparse());
+  }
+  if (catalogue.isEmpty()) return std::nullopt;
+  QByteArray mended = bytes;
+  for (qsizetype at = 0; (at = mended.indexOf("\ntrailer", at)) >= 0; ++at)
+    mended.replace(at + 1, 7, "       ");
+  for (qsizetype at = 0; (at = mended.indexOf("\nstartxref", at)) >= 0; ++at)
+    mended.replace(at + 1, 9, "         ");
+  return mended + "\ntrailer\n<< /Size " + QByteArray::number(qsizetype(count)) + " /Root " + catalogue +
+         " >>\nstartxref\n0\n%%EOF\n";
+}
+
 }  // namespace
 
 QSizeF PageGeometry::shownSize() const {
@@ -93,8 +128,7 @@ Error noSuchPage(int page, int pageCount) {
 Result<std::unique_ptr<PdfFile>> PdfFile::open(const QByteArray& bytes) {
   return guarded([&]() -> Result<std::unique_ptr<PdfFile>> {
     std::unique_ptr<PdfFile> file(new PdfFile(bytes));
-    file->qpdf_->setSuppressWarnings(true);
-    file->qpdf_->processMemoryFile("document", file->bytes_.constData(), size_t(file->bytes_.size()));
+    file->read();
     Result<PageTree> tree = pageTree(*file->qpdf_);
     if (!tree) return tree.error();
     file->pages_ = std::move(tree->pages);
@@ -103,6 +137,24 @@ Result<std::unique_ptr<PdfFile>> PdfFile::open(const QByteArray& bytes) {
       return Error{ErrorKind::NotParsable, QStringLiteral("the document has no pages")};
     return file;
   });
+}
+
+void PdfFile::read() {
+  const auto process = [this] {
+    qpdf_->setSuppressWarnings(true);
+    qpdf_->processMemoryFile("document", bytes_.constData(), size_t(bytes_.size()));
+  };
+  try {
+    process();
+  } catch (const QPDFExc& caught) {
+    if (caught.getErrorCode() == qpdf_e_password && drawsWithoutPassword(*qpdf_)) return;
+    if (caught.getErrorCode() != qpdf_e_damaged_pdf || qpdf_->getTrailer().isDictionary()) throw;
+    const std::optional<QByteArray> mended = withTrailer(bytes_, *qpdf_);
+    if (!mended) throw;
+    qpdf_ = std::make_unique<QPDF>();
+    bytes_ = *mended;
+    process();
+  }
 }
 
 PageGeometry PdfFile::geometry(int number) const {

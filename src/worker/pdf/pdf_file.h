@@ -52,8 +52,8 @@ auto guarded(Work&& work) -> decltype(work()) {
 /// An opened PDF with at least one page. Single-threaded. Members may throw; call them inside guarded().
 class PdfFile {
  public:
-  /// Fails with Encrypted (a password is needed), NotParsable or Limit (more than limits::maximumPages
-  /// pages).
+  /// Fails with Encrypted (a password is needed for what is drawn, not only for files that are attached),
+  /// NotParsable or Limit (more than limits::maximumPages pages).
   [[nodiscard]] static Result<std::unique_ptr<PdfFile>> open(const QByteArray& bytes);
 
   [[nodiscard]] QPDF& qpdf() { return *qpdf_; }
@@ -65,6 +65,7 @@ class PdfFile {
   [[nodiscard]] QStringList warnings() const;
 
  private:
+  void read();
   explicit PdfFile(QByteArray bytes) : bytes_(std::move(bytes)), qpdf_(std::make_unique<QPDF>()) {}
   QByteArray bytes_;  ///< qpdf reads from it as long as it lives
   std::unique_ptr<QPDF> qpdf_;

@@ -200,7 +200,9 @@ SvgImageEffects SvgEngine::imageEffects() const {
   SvgImageEffects effects{inspection_.filters + inspection_.masks > 0, inspection_.morphologyRadius,
                           inspection_.stretchedText};
   if (const auto& box = geometry_.viewBox; box && !box->isEmpty())
-    effects.morphologyRadius *= std::min(pixels_.width() / box->width(), pixels_.height() / box->height());
+    effects.userScale = std::min(pixels_.width() / box->width(), pixels_.height() / box->height());
+  effects.morphologyRadius *= effects.userScale;
+  effects.largestFont = inspection_.largestFont;
   return effects;
 }
 

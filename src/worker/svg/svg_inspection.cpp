@@ -17,6 +17,7 @@
 #include "worker/svg/svg_fonts.h"
 #include "worker/svg/svg_nesting.h"
 #include "worker/svg/svg_stretching.h"
+#include "worker/svg/svg_style_facts.h"
 
 namespace norvex::engine {
 namespace {
@@ -26,6 +27,13 @@ constexpr char kSvgNamespace[] = "http://www.w3.org/2000/svg";
 // more.
 constexpr qsizetype kOrdinaryText = 9'000'000;
 constexpr int kOrdinaryDepth = 240;
+// Selectors within selectors (":not(:not(…") that use up the stack of who reads style sheets.
+constexpr int kDeepestSelector = 500;
+constexpr double kOrdinaryFont = 16;  // what a text without a size has
+// Letters whose outlines and shapes use up the memory; in user units, or in what the number stands before.
+constexpr double kLargestFont = 1.0e6;
+// Beyond it librsvg gives a filter's matrix up, and itself with it.
+constexpr double kLargestMatrix = 400;
 
 QString text(const xmlChar* utf8) {
   return QString::fromUtf8(reinterpret_cast<const char*>(utf8));
@@ -61,6 +69,8 @@ class Inspector {
   void lookAt(const QString& name, const Attribute& attribute);
   void noteRadius(const QString& value);
   void followUrls(const QString& value);
+  void lookAtStyleSheet(const QString& css);
+  void checkFontSize(double size);
   void lookAtReference(const QString& element, const QString& value);
   void declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
                xmlChar* content);
@@ -83,6 +93,8 @@ class Inspector {
   qint64 expanded_ = 0;
   int uses_ = 0;
   qsizetype textRun_ = 0;
+  double largestFont_ = kOrdinaryFont;
+  bool hasText_ = false;
 };
 
 Inspector::Inspector() : entities_(xmlNewDoc(nullptr)) {
@@ -172,6 +184,7 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
     }
   }
   fonts_.element(svg ? name : QString());
+  hasText_ = hasText_ || (svg && name == QLatin1String("text"));
   if (svg && name == QLatin1String("script")) found_.hasScript = true;
   if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set")))
     found_.hasAnimation = true;
@@ -203,7 +216,17 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
   static const QSet<QString> layers{"opacity", "filter", "mask", "mix-blend-mode", "isolation"};
   if (layers.contains(attribute.name) || (attribute.name == QLatin1String("style") && value.contains(layer)))
     found_.hasLayers = true;
-  if (value.contains(QLatin1String("url("))) followUrls(value);
+  if (attribute.name == QLatin1String("style") || value.contains(QLatin1String("url("))) {
+    const SvgStyleFacts style = svgStyleFacts(value);
+    found_.outsideReferences += style.outsideReferences;
+    checkFontSize(style.largestFont);
+    followUrls(value);
+  }
+  if (attribute.name == QLatin1String("font-size")) checkFontSize(largestNumber(value));
+  if (name == QLatin1String("feConvolveMatrix") && attribute.name == QLatin1String("order") &&
+      matrixSize(value) > kLargestMatrix)
+    stop(ErrorKind::Limit, QStringLiteral("the document has a filter with a matrix of more than %1 numbers")
+                               .arg(kLargestMatrix));
   if (attribute.name == QLatin1String("href") && value.trimmed().startsWith('#'))
     nesting_.refer(value.trimmed().mid(1));
   if (attribute.name == QLatin1String("href")) lookAtReference(name, value.trimmed());
@@ -221,6 +244,24 @@ void Inspector::followUrls(const QString& value) {
     nesting_.refer(match.next().captured(1).trimmed());
 }
 
+void Inspector::lookAtStyleSheet(const QString& css) {
+  fonts_.styleSheet(css);
+  const SvgStyleFacts style = svgStyleFacts(css);
+  found_.outsideReferences += style.outsideReferences;
+  checkFontSize(style.largestFont);
+  if (style.deepestBrackets > kDeepestSelector)
+    stop(ErrorKind::Limit,
+         QStringLiteral("the selectors of the document's style sheets nest more than %1 deep")
+             .arg(kDeepestSelector));
+}
+
+void Inspector::checkFontSize(double size) {
+  largestFont_ = std::max(largestFont_, size);
+  if (size > kLargestFont)
+    stop(ErrorKind::Limit,
+         QStringLiteral("the document has text of more than %1 units in size").arg(kLargestFont, 0, 'f', 0));
+}
+
 void Inspector::lookAtReference(const QString& element, const QString& value) {
   if (element == QLatin1String("a") || value.isEmpty() || value.startsWith('#')) return;
   if (!value.startsWith(QLatin1String("data:"), Qt::CaseInsensitive)) {
@@ -235,7 +276,7 @@ void Inspector::lookAtReference(const QString& element, const QString& value) {
 void Inspector::end() {
   textRun_ = 0;
   if (collecting_ != nullptr && depth_ == collectingDepth_) {
-    if (collecting_ == &styleSheet_) fonts_.styleSheet(std::exchange(styleSheet_, QString()));
+    if (collecting_ == &styleSheet_) lookAtStyleSheet(std::exchange(styleSheet_, QString()));
     collecting_ = nullptr;
   }
   --depth_;
@@ -313,6 +354,7 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
     return Error{ErrorKind::Limit, QStringLiteral("the references of the document nest more than %1 deep")
                                        .arg(limits::maximumDrawingDepth)};
   found_.fonts = fonts_.families();
+  if (hasText_) found_.largestFont = largestFont_;
   found_.stretchedText = stretching_.reachesText();
   found_.fontLists = fonts_.lists();
   found_.hasLayers = found_.hasLayers || found_.hasStyleSheet;

@@ -21,6 +21,7 @@ namespace norvex::engine {
 namespace {
 
 constexpr double kUnitsPerInch = 300;
+constexpr double kLargestLetter = 60'000;
 constexpr double kMorphologyReach = 10;  // librsvg cuts feMorphology's radius to so many units of the target
 
 /// librsvg places glyphs, and makes the images of filters and masks, in whole units of the target. The page
@@ -32,6 +33,13 @@ double drawingScale(const QSizeF& pixels, const SvgImageEffects& effects) {
   const double reach = effects.morphologyRadius * pointsPerPixel;
   const double withinReach = reach > 0 ? std::max(1.0, kMorphologyReach / reach) : fine;
   return std::min({fine, withinReach, std::sqrt(limits::maximumEffectPixels / area)});
+}
+
+/// For text that stays text librsvg loads letters at their size times the scale of the target once more.
+/// FreeType refuses some 65,000 pixels, and whoever has asked for them gets nothing of that font any more.
+bool isTooLarge(const SvgImageEffects& effects, double units) {
+  const double scale = effects.userScale * units;
+  return effects.largestFont * scale * scale > kLargestLetter;
 }
 
 /// The page as a form. cairo's contents are one stream: it becomes the form as it is, without being unpacked
@@ -99,8 +107,9 @@ Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, c
     cairo_scale(target, units, units);
     return renderer.draw(target, pixels);
   };
+  const bool outlined = effects.stretchedText || isTooLarge(effects, units);
   const Result<QByteArray> bytes = paintPdf(pixels * units, 1, [&](cairo_t* page, int) {
-    return effects.stretchedText ? drawOutlined(page, pixels * units, draw) : draw(page);
+    return outlined ? drawOutlined(page, pixels * units, draw) : draw(page);
   });
   if (!bytes) return bytes.error();
   return rewritten(*bytes, pixels, scale, attributes);

@@ -1,0 +1,23 @@
+// What a style sheet, or a style attribute, says that matters before anything is drawn.
+#pragma once
+
+#include <QString>
+
+namespace norvex::engine {
+
+struct SvgStyleFacts {
+  int outsideReferences = 0;  ///< "@import" and url() of other files, each of which is never loaded
+  int deepestBrackets = 0;    ///< round ones: functions and selectors within one another
+  double largestFont = 0;     ///< the largest number after "font-size" and "font", whatever its unit
+};
+
+/// Comments count for nothing; strings are not looked into.
+[[nodiscard]] SvgStyleFacts svgStyleFacts(const QString& css);
+
+/// The largest number in `text`, 0 without any; what is too large for a number is none.
+[[nodiscard]] double largestNumber(const QString& text);
+
+/// How many numbers the matrix of a filter has whose "order" is `order`: one number, or one for each side.
+[[nodiscard]] double matrixSize(const QString& order);
+
+}  // namespace norvex::engine

@@ -50,10 +50,10 @@ ExitCode Job::print(const Arguments&) {
 }
 
 ExitCode Job::sandboxStatus() {
-  (void)show(QStringLiteral(
-      "Sandbox: none. Pictures are parsed in a process of their own, but this build confines it by no "
-      "means of the system.\n"));
-  return ExitCode::NoSandbox;
+  // Alone, it is answered by the program that reads pictures: see norvex_main.cpp.
+  console_.message(
+      QStringLiteral("norvex: --sandbox-status stands alone, and needs the program that reads pictures"));
+  return ExitCode::Usage;
 }
 
 ExitCode Job::show(const QString& text) {

@@ -60,11 +60,18 @@ int leave(int code) {
   return code;
 }
 
+/// Only what reads documents knows what confines it; nothing when it cannot be started.
+void becomeSandboxStatus() {
+  const std::string program = norvex::partOfProgram("norvex-worker");
+  ::execl(program.c_str(), program.c_str(), "--sandbox-status", static_cast<char*>(nullptr));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   using namespace norvex;
   occupyStandardStreams();
+  if (argc == 2 && argv[1] == std::string_view("--sandbox-status")) becomeSandboxStatus();
   StartedPrograms started;
   if (mayNeedPictures(argc, argv))
     started = startPrograms(expectedPictures(argc, argv), expectPostScript(argc, argv));

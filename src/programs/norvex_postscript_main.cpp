@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "worker/confinement/sandbox.h"
 #include "worker/engine/distiller_arguments.h"
 #include "worker/interpreter/interpreter_server.h"
 #include "worker/interpreter/postscript_interpreter.h"
@@ -39,6 +40,7 @@ int main(int argc, char** argv) {
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   std::signal(SIGPIPE, SIG_IGN);
   setEnvironment(argv[1]);
+  prepareSandboxes(argv[1]);
   InterpreterServer server(FileDescriptor(kControlDescriptor), argv[1]);
   PostScriptInterpreter interpreter([&server] { return server.serve(); });
   const int code = interpreter.run();

@@ -118,6 +118,10 @@ inline constexpr double maximumEffectPixels = 16.0e6;
 
 // ---- PDF ----
 
+/// PostScript that fills the disk with files, or with the number of them.
+inline constexpr qint64 maximumScratchBytes = 1LL << 30;
+inline constexpr int maximumScratchFiles = 1000;
+
 /// A page tree made to be walked for ever.
 inline constexpr int maximumPages = 100'000;
 /// Pages whose boxes are told with the facts; later pages are told when they are asked for.

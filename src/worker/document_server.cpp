@@ -8,6 +8,7 @@
 
 #include "protocol/sealed_memory.h"
 #include "protocol/shared_errors.h"
+#include "worker/confinement/resource_limits.h"
 
 namespace norvex {
 namespace {
@@ -66,6 +67,7 @@ DocumentServer::Answer DocumentServer::answer(ArrivedRequest& arrived) {
   if (refusal_) return {*refusal_, {}};
   context_.cancel = arrived.cancel;
   if (context_.cancel.cancelled()) return {workCancelled(), {}};
+  (void)limitProcessorTime(context_.limits.seconds);  // where it cannot be granted, the last grant holds
   try {
     return std::visit([&](const auto& body) { return serve(body, std::move(arrived.descriptor)); },
                       arrived.request.body);

@@ -15,10 +15,12 @@
 
 #include "base/remove_folder.h"
 #include "protocol/control_descriptor.h"
+#include "worker/confinement/confinement_status.h"
+#include "worker/confinement/file_view.h"
+#include "worker/confinement/sandbox.h"
 #include "worker/document_server.h"
 #include "worker/environment.h"
 #include "worker/interpreter_program.h"
-#include "worker/sandbox.h"
 
 namespace norvex {
 namespace {
@@ -38,19 +40,24 @@ int startedByHand(const char* program) {
 
 }  // namespace
 
-ForkServer::ChildMain documentChild(const WorkerEngines& engines) {
-  return [engines](FileDescriptor socket, const ForkRequest& request, const QString& scratchFolder) {
+ForkServer::ChildMain documentChild(const WorkerEngines& engines, const ConfinementLayers& layers) {
+  return [engines, layers](FileDescriptor socket, const ForkRequest& request, const QString& scratchFolder) {
     engine::EngineContext context;
     context.limits = request.limits;
     context.scratchFolder = scratchFolder;
     if (::fcntl(ForkServer::kSharedDescriptor, F_GETFD) >= 0)
       context.interpreters = ForkServer::kSharedDescriptor;
-    Result<void> confined = enterSandbox(request.limits, scratchFolder, true);
+    SandboxPolicy policy;
+    policy.limits = request.limits;
+    policy.scratchFolder = scratchFolder;
+    policy.preparationToCome = true;
+    policy.layers = layers;
+    Result<void> confined = enterSandbox(policy);
     // It takes longest: it starts while the engines, where they are not there yet, are loaded.
     if (confined && request.postScript && engines.startPostScript) engines.startPostScript(context);
     const EngineSet none;
     const Result<const EngineSet*> found = engines.source(request.needs);
-    if (confined) confined = limitMemory(request.limits);
+    if (confined) confined = sealSandbox(policy);
     std::optional<Error> refusal;
     if (!found) refusal = found.error();
     if (!confined) refusal = confined.error();
@@ -58,24 +65,25 @@ ForkServer::ChildMain documentChild(const WorkerEngines& engines) {
   };
 }
 
-int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines) {
+int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const ConfinementLayers& layers) {
   clearEnvironment();
+  if (argc == 2 && std::string_view(argv[1]) == "--sandbox-status") return tellConfinement();
   InterpreterProgram interpreter(argc > 1 ? argv[1] : "");
-  // Before anything else: it takes longest.
+  // Before anything else: it takes longest, and it makes a view of the files of its own.
   if (argc > 3 && argv[3] == kExpectPostScript) interpreter.start();
+  if (argc > 1 && isSocket(controlDescriptor)) prepareSandboxes(argv[1], layers);
   if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
       expected != 0)
     (void)engines.source(expected & allPictureNeeds);
   const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
-    if (request.postScript) interpreter.start();
+    if (request.postScript && !isInFileView()) interpreter.start();  // nothing is started from within it
     const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
     // The first child of all, when it asks for an interpreter, loads what it needs itself meanwhile.
     if (!startsPostScript) (void)engines.source(request.needs);
     return request.postScript ? interpreter.asking() : -1;
   };
-  const int code = runForkServer(argc, argv, documentChild(engines), engines.warmUp, prepare);
+  const int code = runForkServer(argc, argv, documentChild(engines, layers), engines.warmUp, prepare);
   interpreter.stop();
-  if (argc > 1) removeFolder(argv[1]);  // interpreters may have left something
   return code;
 }
 
@@ -86,6 +94,7 @@ int runPictureProgram(const EngineSet& engines) {
   ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
   clearEnvironment();
   closeStandardStreams();
+  prepareSandboxes({});
   WorkerEngines all;
   all.source = [&engines](PictureNeeds) { return &engines; };
   documentChild(all)(FileDescriptor(controlDescriptor), ForkRequest(), QString());
@@ -101,7 +110,10 @@ int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkSe
   ForkServer(FileDescriptor(controlDescriptor), root, std::move(childMain), std::move(warmUp),
              std::move(prepare))
       .run();
-  removeFolder(root.toStdString());
+  if (isInFileView())
+    removeScratchRootOfView();
+  else
+    removeFolder(root.toStdString());
   return 0;
 }
 

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "worker/confinement/layers.h"
 #include "worker/engine_set.h"
 #include "worker/fork_server.h"
 
@@ -24,13 +25,17 @@ struct WorkerEngines {
 
 /// What the child for one document does: confines itself and serves. Without engines it answers why there are
 /// none.
-[[nodiscard]] ForkServer::ChildMain documentChild(const WorkerEngines& engines);
+[[nodiscard]] ForkServer::ChildMain documentChild(const WorkerEngines& engines,
+                                                  const ConfinementLayers& layers = {});
 
 /// Runs `norvex-worker SCRATCH_ROOT NEEDS [postscript]` with the control connection as controlDescriptor; gives
 /// the exit code. NEEDS is the number of the PictureNeeds that are expected, whose engines are asked for at
 /// once; 0: nobody knows. With `postscript` norvex-postscript is started at once, else with the first
 /// document that needs it. The scratch root is removed at the end.
-int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines);
+/// `layers`: less than all of them in programs for tests.
+/// `norvex-worker --sandbox-status` tells what this system confines documents with, and 6 when it is nothing.
+int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines,
+                     const ConfinementLayers& layers = {});
 /// Runs `norvex-picture-…` with the line to the only picture of a run as controlDescriptor: what a forked
 /// child does, but that nobody forked it and that it gets no scratch folder. Ends with the line, or with the
 /// thread that started it.

@@ -14,7 +14,8 @@
 #include <filesystem>
 #include <utility>
 
-#include "worker/sandbox.h"
+#include "worker/confinement/process_files.h"
+#include "worker/confinement/sandbox.h"
 
 namespace norvex {
 namespace {
@@ -97,8 +98,13 @@ void InterpreterServer::becomeInterpreter(int parent, const InterpreterRequest& 
   ::dup2(request.program.get(), STDIN_FILENO);
   ::dup2(request.output.get(), STDOUT_FILENO);
   ::dup2(request.messages.get(), STDERR_FILENO);
-  ::syscall(SYS_close_range, STDERR_FILENO + 1, ~0u, 0);
-  if (!enterSandbox(request.limits, QFile::decodeName(scratchFolder))) ::_exit(kInterpreterNotConfined);
+  const int foreign = moveProcessFiles(STDERR_FILENO + 1);
+  ::syscall(SYS_close_range, foreign, ~0u, 0);
+  SandboxPolicy policy;
+  policy.limits = request.limits;
+  policy.scratchFolder = QFile::decodeName(scratchFolder);
+  policy.writesScratchFiles = true;
+  if (!enterSandbox(policy)) ::_exit(kInterpreterNotConfined);
 }
 
 void InterpreterServer::bury(Child& child) {

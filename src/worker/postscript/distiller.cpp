@@ -7,8 +7,7 @@
 #include "worker/engine/distiller_arguments.h"
 
 namespace norvex::engine {
-namespace {
-
+// Not quiet: what it says about fonts is handed on.
 QList<QByteArray> distillerArguments() {
   QList<QByteArray> arguments;
   for (const char* option : distillerOptions) arguments << option;
@@ -17,12 +16,10 @@ QList<QByteArray> distillerArguments() {
   return arguments;
 }
 
-}  // namespace
-
 Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& context) {
   if (context.interpreters >= 0)
     if (auto child = GhostscriptChild::fork(context.interpreters, context.limits)) return child;
-  return GhostscriptChild::start(distillerArguments(), context.scratchFolder);
+  return GhostscriptChild::start(distillerArguments(), context.scratchFolder, context.limits.seconds);
 }
 
 void warmUpGhostscript(EngineContext& context) {

@@ -2,6 +2,9 @@
 // before the libraries that the result needs are even loaded.
 #pragma once
 
+#include <QByteArray>
+#include <QList>
+
 #include <memory>
 
 #include "base/result.h"
@@ -10,8 +13,10 @@
 
 namespace norvex::engine {
 
-/// A child that waits for its program: forked where there is a program that does it, else gs itself. Fails as
-/// GhostscriptChild::start().
+/// What gs is told, behind its name.
+[[nodiscard]] QList<QByteArray> distillerArguments();
+
+/// A child that waits for its program: forked where there is a program that does it, else gs itself. Fails as GhostscriptChild::start().
 [[nodiscard]] Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& context);
 
 /// Starts Ghostscript in the context's warmGhostscript so that it has initialised itself by the time the

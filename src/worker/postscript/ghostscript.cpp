@@ -5,6 +5,7 @@
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,6 +20,8 @@
 #include <vector>
 
 #include "protocol/interpreter_request.h"
+#include "worker/confinement/sandbox.h"
+#include "worker/confinement/scratch_watch.h"
 
 namespace norvex::engine {
 namespace {
@@ -51,7 +54,8 @@ int descriptorLimit() {
 
 // Runs between fork and exec: nothing here may allocate or lock.
 [[noreturn]] void becomeGhostscript(const char* path, char* const* arguments, char* const* environment,
-                                    const std::array<int, 3>& standard, int descriptors, pid_t parent) {
+                                    const std::array<int, 3>& standard, int descriptors, pid_t parent,
+                                    int seconds) {
   ::setpgid(0, 0);
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (::getppid() != parent) ::_exit(127);
@@ -59,6 +63,7 @@ int descriptorLimit() {
     if (::dup2(standard[size_t(i)], i) < 0) ::_exit(127);
   for (int descriptor = 3; descriptor < descriptors; ++descriptor) ::close(descriptor);
   ::signal(SIGPIPE, SIG_DFL);
+  if (!sealStartedProgram(seconds)) ::_exit(127);
   ::execve(path, arguments, environment);
   ::_exit(127);
 }
@@ -127,7 +132,7 @@ Result<void> checkPatience(qint64 deadline, const EngineContext& context) {
 }  // namespace
 
 Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::start(const QList<QByteArray>& arguments,
-                                                                  const QString& scratchFolder) {
+                                                                  const QString& scratchFolder, int seconds) {
   const char* path = program();
   if (!path) return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript (gs) is not installed")};
   const Error failed{ErrorKind::Unsupported, QStringLiteral("Ghostscript (gs) cannot be started")};
@@ -147,11 +152,12 @@ Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::start(const QList<QB
   const pid_t pid = ::fork();
   if (pid == 0)
     becomeGhostscript(path, argv.data(), environment.data(), {input.end[0], output.end[1], messages.end[1]},
-                      descriptors, parent);
+                      descriptors, parent, seconds);
   if (pid < 0) return failed;
   ::setpgid(pid, pid);  // both sides do it: whoever comes first
   std::shared_ptr<GhostscriptChild> child(new GhostscriptChild);
   child->pid_ = pid;
+  child->process_.reset(int(::syscall(SYS_pidfd_open, pid, 0)));
   child->talkThrough(input.take(1), output.take(0), messages.take(0));
   return child;
 }
@@ -166,6 +172,7 @@ void GhostscriptChild::end() {
   closeDescriptor(messages_);
   closeDescriptor(outcome_);
   if (pid_ < 0) return;
+  if (process_.valid()) ::syscall(SYS_pidfd_send_signal, process_.get(), SIGKILL, nullptr, 0);
   ::kill(-pid_, SIGKILL);
   ::kill(pid_, SIGKILL);
   while (::waitpid(pid_, nullptr, 0) < 0 && errno == EINTR) {
@@ -222,9 +229,11 @@ Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadl
                                     const EngineContext& context, GhostscriptOutput& collected) {
   const qsizetype maximum = qsizetype(context.limits.memoryMiB) << 20;
   Feed feed(input);
+  ScratchWatch scratch(context.scratchFolder);
   while (output_ >= 0 || messages_ >= 0) {
     if (feed.done()) closeDescriptor(input_);
     if (const Result<void> patience = checkPatience(deadline, context); !patience) return patience;
+    if (const Result<void> room = scratch.look(); !room) return room;
     pollfd watched[3] = {{input_, POLLOUT, 0}, {output_, POLLIN, 0}, {messages_, POLLIN, 0}};
     if (::poll(watched, 3, kLookMilliseconds) < 0 && errno != EINTR)
       return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript cannot be talked to")};

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "base/file_descriptor.h"
 #include "base/result.h"
 #include "worker/engine/engine.h"
 
@@ -20,15 +21,16 @@ struct GhostscriptOutput {
 
 /// One run of gs. A started child initialises itself (about 100 ms) and then waits for its input, so it can
 /// be started before its document is there. It gets a process group of its own, ends with this process and
-/// inherits its limits and its confinement; the destructor kills the group. What it needs besides pipes:
-/// fork, execve of gs, prctl, setpgid, kill, wait4. Single-threaded. Sets SIGPIPE to be ignored in this
-/// process.
+/// inherits its limits and its confinement, and seals itself as sealStartedProgram() says; the destructor
+/// kills the group. What it needs besides pipes: fork, execve of gs, prctl, setpgid, pidfd_send_signal,
+/// wait4. Single-threaded. Sets SIGPIPE to be ignored in this process.
 class GhostscriptChild {
  public:
-  /// `arguments` follow the program's name. TMPDIR is the context's scratch folder; the environment is empty
-  /// besides. Fails with Unsupported when gs cannot be started.
+  /// `arguments` follow the program's name; `seconds` of wall time will be granted. TMPDIR is the context's
+  /// scratch folder; the environment is empty besides. Fails with Unsupported when gs cannot be started.
   [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> start(const QList<QByteArray>& arguments,
-                                                                       const QString& scratchFolder);
+                                                                       const QString& scratchFolder,
+                                                                       int seconds = 120);
   /// The same from norvex-postscript, which has it initialised and gives it limits, a confinement and a
   /// scratch folder of its own; what it writes is PDF. `interpreters` is asked for it, see
   /// protocol/interpreter_request.h. It takes no fork and no execve here. Never waits. Fails with Died when
@@ -56,6 +58,7 @@ class GhostscriptChild {
   void end();
   int pid_ = -1;      ///< of a started one
   int outcome_ = -1;  ///< of a forked one: the pipe that tells its status, and its life line
+  FileDescriptor process_;  ///< of pid_: a confined process signals nobody by number
   int input_ = -1;
   int output_ = -1;
   int messages_ = -1;

@@ -4,5 +4,7 @@
 
 int main(int argc, char** argv) {
   const norvex::EngineSet engines = norvex::kit::stubEngines();
-  return norvex::runWorkerProgram(argc, argv, {[&](norvex::PictureNeeds) { return &engines; }, {}, {}});
+  // They parse nothing, and do what no confined process can: fork, litter, look around.
+  constexpr norvex::ConfinementLayers none{false, false, false, false};
+  return norvex::runWorkerProgram(argc, argv, {[&](norvex::PictureNeeds) { return &engines; }, {}, {}}, none);
 }

@@ -1,4 +1,6 @@
-#include "worker/sandbox.h"
+#include "worker/confinement/sandbox.h"
+
+#include <QTemporaryDir>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -6,6 +8,7 @@
 #include <sys/resource.h>
 
 #include <cerrno>
+#include <ctime>
 
 #include "kit/forked_check.h"
 #include "kit/test_main.h"
@@ -15,11 +18,16 @@ using namespace norvex::kit;
 
 namespace {
 
+SandboxPolicy policyOf(const PictureLimits& limits, const QString& scratch = "/nonexistent/scratch") {
+  SandboxPolicy policy;
+  policy.limits = limits;
+  policy.scratchFolder = scratch;
+  return policy;
+}
+
 /// Runs the check after the process has been confined with 64 MiB and 1 megapixel; 100: it could not be.
 int inSandbox(const std::function<int()>& check) {
-  return inForkedChild([&] {
-    return enterSandbox(PictureLimits{10, 64, 1}, "/nonexistent/scratch") ? check() : 100;
-  });
+  return inForkedChild([&] { return enterSandbox(policyOf({10, 64, 1})) ? check() : 100; });
 }
 
 rlim_t limitOf(__rlimit_resource resource) {
@@ -44,12 +52,20 @@ class SandboxTest : public QObject {
   }
 
   void limitsCannotBeRaisedAgain() {
-    if (::geteuid() == 0) QSKIP("the superuser may");
     QCOMPARE(inSandbox([] {
                const rlimit more = {4096, 4096};
                return ::setrlimit(RLIMIT_NOFILE, &more) == 0 ? 0 : errno;
              }),
              EPERM);
+  }
+
+  void processorTimeBeyondTheGrantIsTheEnd() {
+    const int granted = inSandbox([] {
+      rlimit limit = {};
+      ::getrlimit(RLIMIT_CPU, &limit);
+      return int(limit.rlim_cur);
+    });
+    QVERIFY2(granted >= 10 && granted <= 60, qPrintable(QString::number(granted)));
   }
 
   void aFileThatIsTooLargeIsAnErrorNotADeath() {
@@ -63,7 +79,7 @@ class SandboxTest : public QObject {
 
   void largeBitmapsFitIntoTheFileLimit() {
     const int fits = inForkedChild([] {
-      if (!enterSandbox(PictureLimits{10, 64, 100}, "/nonexistent")) return 100;
+      if (!enterSandbox(policyOf({10, 64, 100}))) return 100;
       return limitOf(RLIMIT_FSIZE) >= 400'000'000u ? 1 : 0;
     });
     QCOMPARE(fits, 1);
@@ -83,6 +99,49 @@ class SandboxTest : public QObject {
 
   void temporaryFilesGoToTheScratchFolder() {
     QCOMPARE(inSandbox([] { return qgetenv("TMPDIR") == "/nonexistent/scratch" ? 1 : 0; }), 1);
+  }
+
+  void onlyWhoSaysSoWritesIntoItsScratchFolder() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("builds with sanitizers leave layers out");
+#endif
+    const QTemporaryDir scratch;
+    const QByteArray file = QFile::encodeName(scratch.filePath("file"));
+    const auto write = [&](bool writes) {
+      return inForkedChild([&] {
+        SandboxPolicy policy = policyOf({10, 64, 1}, scratch.path());
+        policy.writesScratchFiles = writes;
+        if (!enterSandbox(policy)) return 100;
+        return ::open(file.constData(), O_RDWR | O_CREAT, 0600) < 0 ? errno : 0;
+      });
+    };
+    QCOMPARE(write(false), EPERM);
+    QCOMPARE(write(true), 0);
+  }
+
+  void librariesMayBeOpenedBeforeItIsSealed() {
+    QCOMPARE(inForkedChild([] {
+               SandboxPolicy policy = policyOf({10, 64, 1});
+               policy.preparationToCome = true;
+               if (!enterSandbox(policy)) return 100;
+               return ::open("/etc/ld.so.cache", O_RDONLY) < 0 ? errno : 0;
+             }),
+             0);
+  }
+
+  void withoutALayerThatKeepsFilesItIsRefused() {
+    const auto refused = [](ConfinementLayers layers) {
+      return inForkedChild([&] {
+        prepareSandboxes({}, layers);
+        SandboxPolicy policy = policyOf({10, 64, 1});
+        policy.layers = layers;
+        const Result<void> entered = enterSandbox(policy);
+        return !entered && entered.error().kind == ErrorKind::NoSandbox ? 1 : 0;
+      });
+    };
+    QCOMPARE(refused({false, false, false}), 1);
+    QCOMPARE(refused({false, true, false}), 1);
+    QCOMPARE(refused({true, false, false}), 0);
   }
 };
 

@@ -1,0 +1,54 @@
+#include "worker/confinement/process_files.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdlib>
+
+#include "base/file_descriptor.h"
+
+namespace norvex {
+namespace {
+
+int folder = -1;
+
+FileDescriptor openOwn(const char* name, int flags) {
+  openProcessFiles();
+  return FileDescriptor(::openat(folder, name, flags | O_CLOEXEC));
+}
+
+}  // namespace
+
+void openProcessFiles() {
+  if (folder < 0) folder = ::open("/proc", O_PATH | O_DIRECTORY | O_CLOEXEC);
+}
+
+int moveProcessFiles(int descriptor) {
+  if (folder < 0) return descriptor;
+  if (folder != descriptor) {
+    const int moved = ::dup3(folder, descriptor, O_CLOEXEC);
+    ::close(folder);
+    folder = moved;
+  }
+  return descriptor + 1;
+}
+
+void closeProcessFiles() {
+  if (folder >= 0) ::close(folder);
+  folder = -1;
+}
+
+uint64_t mappedBytes() {
+  const FileDescriptor file = openOwn("self/statm", O_RDONLY);
+  char text[64] = {};
+  if (!file.valid() || ::read(file.get(), text, sizeof text - 1) <= 0) return 0;
+  return std::strtoull(text, nullptr, 10) * uint64_t(::sysconf(_SC_PAGESIZE));
+}
+
+void volunteerWhenMemoryRunsOut() {
+  const FileDescriptor score = openOwn("self/oom_score_adj", O_WRONLY);
+  // Not being allowed to is no loss of confinement.
+  if (score.valid() && ::write(score.get(), "500", 3) < 0) return;
+}
+
+}  // namespace norvex

@@ -1,0 +1,21 @@
+// What a process looks up about itself in /proc, from where there is no /proc.
+#pragma once
+
+#include <cstdint>
+
+namespace norvex {
+
+/// Opens /proc for later. Called before a file view is entered, and once more harmless.
+void openProcessFiles();
+/// Moves what openProcessFiles() opened, if it did, to this number, and gives the first number behind it: for
+/// a process that closes everything from there on. The other functions still find it.
+[[nodiscard]] int moveProcessFiles(int descriptor);
+/// Closes it: called before a document is read.
+void closeProcessFiles();
+
+/// Bytes of address space that this process has mapped; 0: not to be found out.
+[[nodiscard]] uint64_t mappedBytes();
+/// Makes this process the first choice when the system's memory runs out, as far as it may.
+void volunteerWhenMemoryRunsOut();
+
+}  // namespace norvex

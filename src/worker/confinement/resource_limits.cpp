@@ -1,0 +1,62 @@
+#include "worker/confinement/resource_limits.h"
+
+#include <malloc.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+
+#include "worker/confinement/instrumented.h"
+#include "worker/confinement/process_files.h"
+
+namespace norvex {
+namespace {
+
+constexpr rlim_t kOpenFiles = 128;  ///< Ghostscript, fonts and pipes stay far below
+constexpr rlim_t kMiB = 1 << 20;
+constexpr rlim_t kUnknown = 512 * kMiB;  ///< taken for what is mapped where that cannot be found out
+constexpr int kSpareSeconds = 30;
+
+bool limit(__rlimit_resource resource, rlim_t value) {
+  rlimit current = {};
+  if (::getrlimit(resource, &current) != 0) return false;
+  // A limit that is already lower stays: raising it is not ours to do.
+  const rlim_t both = std::min(value, current.rlim_max);
+  const rlimit wanted = {both, both};
+  return ::setrlimit(resource, &wanted) == 0;
+}
+
+rlim_t usedSeconds() {
+  rusage usage = {};
+  ::getrusage(RUSAGE_SELF, &usage);
+  return rlim_t(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) + 1;
+}
+
+}  // namespace
+
+bool limitFiles(const PictureLimits& limits) {
+  const rlim_t bitmap = rlim_t(limits.megapixels * 4.0e6) + kMiB;
+  std::signal(SIGXFSZ, SIG_IGN);
+  return limit(RLIMIT_FSIZE, std::max(bitmap, rlim_t(limits.memoryMiB) * kMiB)) &&
+         limit(RLIMIT_NOFILE, kOpenFiles) && limit(RLIMIT_CORE, 0);
+}
+
+bool limitAddressSpace(const PictureLimits& limits, quint64 more) {
+  if (isInstrumented) return true;  // shadow memory takes terabytes of address space
+  // A second allocation arena would reserve 64 MiB for the thread that only reads messages.
+  ::mallopt(M_ARENA_MAX, 1);
+  const rlim_t mapped = mappedBytes();
+  return limit(RLIMIT_AS, (mapped != 0 ? mapped : kUnknown) + rlim_t(limits.memoryMiB) * kMiB + more);
+}
+
+bool limitProcessorTime(int seconds, bool forGood) {
+  rlimit current = {};
+  if (::getrlimit(RLIMIT_CPU, &current) != 0) return false;
+  const rlim_t wanted = usedSeconds() + rlim_t(seconds) + kSpareSeconds;
+  current.rlim_cur = std::min(wanted, current.rlim_max);
+  if (forGood) current.rlim_max = current.rlim_cur;
+  return ::setrlimit(RLIMIT_CPU, &current) == 0;
+}
+
+}  // namespace norvex

@@ -1,0 +1,25 @@
+// What a picture process may use up, as far as the system keeps account of it.
+#pragma once
+
+#include "protocol/worker_protocol.h"
+
+namespace norvex {
+
+/// Files and descriptors. Results are written to shared memory, to which the limit on files applies too;
+/// scratch files get as much. No core files. Exceeding the size of a file is an error of the write. False:
+/// the system refused.
+[[nodiscard]] bool limitFiles(const PictureLimits& limits);
+
+/// Address space beyond what is mapped now: the caller's limit speaks of the document. `more`: bytes on top,
+/// for libraries that are still to be loaded. It can only fall. Builds with sanitizers have no such limit.
+[[nodiscard]] bool limitAddressSpace(const PictureLimits& limits, quint64 more = 0);
+
+/// Room for all libraries of ours.
+inline constexpr quint64 roomForLibraries = 192ULL << 20;
+
+/// Processor seconds from now on, beyond the wall time that is granted: what stops a process whose clock
+/// nobody watches any more. Its end is a signal. May be called again before the next request. `forGood`: and
+/// never again. False: the system refused.
+bool limitProcessorTime(int seconds, bool forGood = false);
+
+}  // namespace norvex

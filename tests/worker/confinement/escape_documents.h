@@ -1,0 +1,153 @@
+// Documents that try to get out, each in one way. In their text $SECRET is a file of the user's, $HOME the
+// folder that holds it, $NEW a file there that does not exist yet, $FIFO one that whoever opens it waits at
+// for ever.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+namespace norvex::kit {
+
+/// What a program calls, and the secret says, when it got out.
+inline constexpr char kEscaped[] = "ESCAPED";
+
+struct EscapeDocument {
+  const char* name;
+  QByteArray text;
+  bool stoppedElsewhere = false;  ///< before the confinement is asked
+};
+
+/// A program that calls kEscaped when `attack` was carried out without an error.
+inline QByteArray programThat(const QByteArray& attack) {
+  return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n{ " + attack +
+         " } stopped not { ESCAPED } if\nclear 0 0 9 9 rectfill showpage\n%%EOF\n";
+}
+
+/// A program whose attack calls kEscaped itself when it was carried out.
+inline QByteArray programItself(const QByteArray& attack) {
+  return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n" + attack + "\nshowpage\n%%EOF\n";
+}
+
+inline QList<EscapeDocument> escapePrograms() {
+  return {
+      {"reads a file", programThat("($SECRET) (r) file closefile")},
+      {"writes a file", programThat("($NEW) (w) file dup (x) writestring closefile")},
+      {"appends to a file", programThat("($SECRET) (a) file dup (x) writestring closefile")},
+      {"removes a file", programThat("($SECRET) deletefile")},
+      {"renames a file", programThat("($SECRET) ($NEW) renamefile")},
+      {"runs a file", programItself("($SECRET) run")},
+      {"lists a folder",
+       programThat("false ($HOME/*) { pop pop true } 256 string filenameforall not { stop } if")},
+      {"starts a program to read from", programThat("(%pipe%touch $NEW) (r) file closefile")},
+      {"starts a program to write to",
+       programThat("(%pipe%cat > $NEW) (w) file dup (x) writestring closefile")},
+      {"makes a temporary file elsewhere", programThat("($HOME/x) (w) .tempfile closefile pop")},
+      {"sends its page to a file",
+       programThat("<< /OutputFile ($NEW) >> systemdict /setpagedevice get exec showpage stop")},
+      {"sends its page to a program",
+       programThat("<< /OutputFile (%pipe%cat > $NEW) >> systemdict /setpagedevice get exec showpage stop")},
+      {"puts a file into its device",
+       programThat("mark /OutputFile ($NEW) currentdevice putdeviceprops setdevice showpage stop")},
+      {"permits itself every file",
+       programThat("<< /PermitFileReading [(*)] /PermitFileControl [(*)] >> setuserparams ($SECRET) (r) file "
+                   "closefile")},
+      {"restores what was before the permissions",
+       programThat("save { << /LockFilePermissions false >> setuserparams } stopped pop restore ($SECRET) "
+                   "(r) file closefile")},
+      {"finds a library file", programThat("($SECRET) findlibfile not { stop } if closefile pop")},
+      {"finds a resource",
+       programItself("<< /GenericResourceDir ($HOME/) >> setsystemparams /secret /Encoding "
+                     "findresource pop")},
+      {"climbs out of the resources",
+       programThat("(/usr/share/ghostscript/../../..$SECRET) (r) file closefile")},
+      {"looks at the environment", programThat("(NORVEX_TEST_SECRET) getenv not { stop } if pop"), true},
+  };
+}
+
+/// A drawing that shows red where what it refers to was read.
+inline QByteArray drawing(const QByteArray& prolog, const QByteArray& body) {
+  return prolog +
+         "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
+         "xmlns:xi='http://www.w3.org/2001/XInclude' width='9' height='9' viewBox='0 0 9 9'>" +
+         body + "</svg>";
+}
+
+inline QList<EscapeDocument> escapeDrawings() {
+  return {
+      {"an entity from a file", drawing("<!DOCTYPE svg [<!ENTITY x SYSTEM 'file://$HOME/red.xml'>]>", "&x;")},
+      {"a parameter entity from a file",
+       drawing("<!DOCTYPE svg [<!ENTITY % x SYSTEM 'file://$HOME/red.dtd'> %x;]>", "&red;")},
+      {"a document type from a file", drawing("<!DOCTYPE svg SYSTEM 'file://$HOME/red.dtd'>", "&red;")},
+      {"an inclusion", drawing({}, "<xi:include href='file://$HOME/red.svg'/>")},
+      {"an inclusion as text",
+       drawing({},
+               "<style><xi:include parse='text' href='file://$HOME/red.css'/></style><rect class='r' "
+               "fill='none' width='9' height='9'/>")},
+      {"an image from a file",
+       drawing({}, "<image width='9' height='9' xlink:href='file://$HOME/red.svg'/>")},
+      {"an image by its path", drawing({}, "<image width='9' height='9' href='$HOME/red.svg'/>")},
+      {"an image by a way up",
+       drawing({}, "<image width='9' height='9' href='../../../../../..$HOME/red.svg'/>")},
+      {"a use of a file", drawing({}, "<use xlink:href='file://$HOME/red.svg#r'/>")},
+      {"a filter's image", drawing({},
+                                   "<filter id='f'><feImage href='file://$HOME/red.svg'/></filter><rect "
+                                   "width='9' height='9' filter='url(#f)'/>")},
+      {"an imported style sheet",
+       drawing({},
+               "<style>@import url('file://$HOME/red.css');</style><rect class='r' fill='none' width='9' "
+               "height='9'/>")},
+      {"a style sheet by instruction",
+       drawing("<?xml-stylesheet type='text/css' href='file://$HOME/red.css'?>",
+               "<rect class='r' fill='none' width='9' height='9'/>")},
+      {"a font from a file",
+       drawing({},
+               "<style>@font-face { font-family: x; src: url('file://$FIFO') }</style><text y='9' "
+               "font-family='x'>a</text>")},
+  };
+}
+
+/// A PDF of one page with this resource dictionary and content.
+inline QByteArray pageWith(const QByteArray& resources, const QByteArray& content,
+                           const QByteArray& others = {}, const QByteArray& catalogue = {}) {
+  return "%PDF-1.7\n1 0 obj<</Type/Catalog/Pages 2 0 R" + catalogue +
+         ">>endobj\n2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+         "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 9]/Contents 4 0 R/Resources<<" +
+         resources + ">>>>endobj\n4 0 obj<</Length " + QByteArray::number(content.size()) + ">>stream\n" +
+         content + "\nendstream endobj\n" + others + "trailer<</Root 1 0 R>>\n%%EOF\n";
+}
+
+/// In a name a slash is written #2F. The first path is that of a CMap beside Poppler's own.
+inline QList<EscapeDocument> escapePages() {
+  const QByteArray text = "BT /F 9 Tf <0001> Tj ET";
+  const auto font = [](const QByteArray& encoding, const QByteArray& descendant) {
+    return "5 0 obj<</Type/Font/Subtype/Type0/BaseFont/X/Encoding" + encoding +
+           "/DescendantFonts[6 0 R]>>endobj\n6 0 "
+           "obj<</Type/Font/Subtype/CIDFontType2/BaseFont/X/CIDSystemInfo"
+           "<</Registry(Adobe)/Ordering(Japan1)/Supplement 1>>/FontDescriptor 7 0 R>>endobj\n"
+           "7 0 obj<</Type/FontDescriptor/FontName/X/Flags 4" +
+           descendant + ">>endobj\n";
+  };
+  return {
+      {"a character map by a way up",
+       pageWith("/Font<</F 5 0 R>>", text, font("/..#2F..#2F..#2F..#2F..#2F..#2F..#2F..$FIFO_AS_NAME", {}))},
+      {"a character map by its path", pageWith("/Font<</F 5 0 R>>", text, font("/$FIFO_AS_NAME", {}))},
+      {"a font in another file", pageWith("/Font<</F 5 0 R>>", text,
+                                          font("/Identity-H", "/FontFile2 8 0 R") +
+                                              "8 0 obj<</Length 0/F($FIFO)>>stream\n\nendstream endobj\n")},
+      {"a picture in another file",
+       pageWith(
+           "/XObject<</I 5 0 R>>", "9 0 0 9 0 0 cm /I Do",
+           "5 0 obj<</Type/XObject/Subtype/Image/Width 1/Height 1/BitsPerComponent 8/ColorSpace/DeviceGray"
+           "/Length 0/F<</Type/Filespec/F($FIFO)>>>>stream\n\nendstream endobj\n")},
+      {"a page in another file",
+       pageWith(
+           "/XObject<</X 5 0 R>>", "/X Do",
+           "5 0 obj<</Type/XObject/Subtype/Form/BBox[0 0 9 9]/Ref<</F($FIFO)/Page 0>>/Length 0>>stream\n\n"
+           "endstream endobj\n")},
+      {"a program to be launched",
+       pageWith({}, "0 0 9 9 re f", {}, "/OpenAction<</S/Launch/F(touch)/Unix<</F(touch $NEW)>>>>")},
+      {"a file to be gone to", pageWith({}, "0 0 9 9 re f", {}, "/OpenAction<</S/GoToR/F($FIFO)/D[0/Fit]>>")},
+  };
+}
+
+}  // namespace norvex::kit

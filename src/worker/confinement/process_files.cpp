@@ -10,11 +10,17 @@
 namespace norvex {
 namespace {
 
-int folder = -1;
+int folder = -1;  ///< /proc
+int size = -1;    ///< what tells the size of this process, once it was asked for
 
 FileDescriptor openOwn(const char* name, int flags) {
   openProcessFiles();
   return FileDescriptor(::openat(folder, name, flags | O_CLOEXEC));
+}
+
+void closeFile(int& descriptor) {
+  if (descriptor >= 0) ::close(descriptor);
+  descriptor = -1;
 }
 
 }  // namespace
@@ -34,14 +40,14 @@ int moveProcessFiles(int descriptor) {
 }
 
 void closeProcessFiles() {
-  if (folder >= 0) ::close(folder);
-  folder = -1;
+  closeFile(folder);
+  closeFile(size);
 }
 
 uint64_t mappedBytes() {
-  const FileDescriptor file = openOwn("self/statm", O_RDONLY);
+  if (size < 0) size = openOwn("self/statm", O_RDONLY).release();
   char text[64] = {};
-  if (!file.valid() || ::read(file.get(), text, sizeof text - 1) <= 0) return 0;
+  if (size < 0 || ::pread(size, text, sizeof text - 1, 0) <= 0) return 0;
   return std::strtoull(text, nullptr, 10) * uint64_t(::sysconf(_SC_PAGESIZE));
 }
 

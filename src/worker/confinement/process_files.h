@@ -13,7 +13,8 @@ void openProcessFiles();
 /// Closes it: called before a document is read.
 void closeProcessFiles();
 
-/// Bytes of address space that this process has mapped; 0: not to be found out.
+/// Bytes of address space that this process has mapped; 0: not to be found out. Asked once before files are
+/// out of reach it can be asked until closeProcessFiles(); a process that forks others does not ask.
 [[nodiscard]] uint64_t mappedBytes();
 /// Makes this process the first choice when the system's memory runs out, as far as it may.
 void volunteerWhenMemoryRunsOut();

@@ -38,7 +38,8 @@ void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& l
   openProcessFiles();
   if (wantsSystemCalls(layers)) {
     (void)SystemCallList::shared(CallsFor::Engines);
-    (void)SystemCallList::shared(CallsFor::Program);
+    // Who has no scratch files starts no interpreter.
+    if (!scratchRoot.empty()) (void)SystemCallList::shared(CallsFor::Program);
   }
   if (layers.fileView && !isInstrumented) (void)enterFileView(scratchRoot);
 }

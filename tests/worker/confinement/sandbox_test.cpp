@@ -97,6 +97,27 @@ class SandboxTest : public QObject {
     QCOMPARE(inSandbox([&] { return map(80) ? 1 : 0; }), 0);
   }
 
+  void theMemoryLimitCountsFromWhenItIsSealed() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers need more address space than any limit");
+#endif
+    const auto mapAfter = [](size_t mebibytes) {
+      return inForkedChild([&] {
+        SandboxPolicy policy = policyOf({10, 64, 1});
+        policy.preparationToCome = true;
+        if (!enterSandbox(policy)) return 100;
+        const auto map = [](size_t size) {
+          return ::mmap(nullptr, size << 20, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) !=
+                 MAP_FAILED;
+        };
+        if (!map(64) || !sealSandbox(policy)) return 101;
+        return map(mebibytes) ? 1 : 0;
+      });
+    };
+    QCOMPARE(mapAfter(48), 1);
+    QCOMPARE(mapAfter(80), 0);
+  }
+
   void temporaryFilesGoToTheScratchFolder() {
     QCOMPARE(inSandbox([] { return qgetenv("TMPDIR") == "/nonexistent/scratch" ? 1 : 0; }), 1);
   }

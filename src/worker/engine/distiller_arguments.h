@@ -26,6 +26,10 @@ inline constexpr const char* distillerDevice = "pdfwrite";
 /// Behind all others: the result goes to standard output, the program comes from standard input.
 inline constexpr std::array distillerStreams{"-o", "-", "-_"};
 
+/// Another name of the same output. A program that makes it the device's completes what it has drawn so far,
+/// and a waiting interpreter then ends at once.
+inline constexpr const char* distilledOutput = "%stdout";
+
 /// The whole environment of the interpreter besides TMPDIR.
 inline constexpr std::array distillerEnvironment{"LC_ALL=C", "PATH=/usr/bin:/bin"};
 

@@ -23,13 +23,16 @@ class PostScriptInterpreter {
   ~PostScriptInterpreter() = default;
 
   /// Gives the exit code that gs would have: of a forked process when its document is done, of the original
-  /// one when the interpreter cannot be initialised.
+  /// one when the interpreter cannot be initialised. The memory is left for the end of the process, which
+  /// must flush the C library's streams.
   int run();
 
  private:
   static int readProgram(void* self, char* buffer, int size);
   static int writeMessage(void* self, const char* text, int size);
   void beginDocument();
+  /// Completes the PDF. Gives gs's code, as run() needs it.
+  int closeDevice();
   Serve serve_;
   void* instance_ = nullptr;
   bool forked_ = false;

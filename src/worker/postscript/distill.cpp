@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "worker/drawing/installed_fonts.h"
+#include "worker/engine/distiller_arguments.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_numbers.h"
 #include "worker/pdf/pdf_writing.h"
@@ -22,8 +23,8 @@ constexpr qsizetype kMaximumSubstitutions = 20;  // that are told
 // coordinates go back to the box's. The document runs inside `stopped`, so that its end is known: on an error
 // one line with the count of finished pages and the error's name is written, otherwise a last showpage makes
 // up for a missing one (a page too many is dropped later). Names are bound early: documents redefine
-// operators.
-QByteArray prolog(const QRectF& box) {
+// operators. With `complete` the PDF is completed here and now, as a forked interpreter has it.
+QByteArray prolog(const QRectF& box, bool complete) {
   const QByteArray offset = decimal(-box.x(), 6) + ' ' + decimal(-box.y(), 6);
   const QByteArray size = decimal(box.width(), 6) + ' ' + decimal(box.height(), 6);
   return "%!\n0 vmreclaim << /NeverEmbed [ ] >> setdistillerparams\n<< /PageSize [" + size +
@@ -43,7 +44,11 @@ QByteArray prolog(const QRectF& box) {
          "    dup currentpagedevice /PageCount get =string cvs writestring dup ( ) writestring\n"
          "    dup $error /errorname get =string cvs writestring dup ( ) writestring\n"
          "    dup $error /command get =string cvs writestring dup (\\n) writestring flushfile }\n"
-         "  { systemdict /showpage get exec } ifelse systemdict /quit get exec } bind exec\n";
+         "  { systemdict /showpage get exec } ifelse\n" +
+         (complete ? QByteArray("  { << /OutputFile (") + distilledOutput +
+                         ") >> systemdict /setpagedevice get exec } stopped pop\n"
+                   : QByteArray()) +
+         "  systemdict /quit get exec } bind exec\n";
 }
 
 struct ProgramError {
@@ -92,7 +97,8 @@ QStringList substitutions(const QByteArray& messages) {
 }
 
 // With the child that waits already, if there is one.
-Result<GhostscriptOutput> runDistiller(const QList<QByteArray>& program, EngineContext& context) {
+Result<GhostscriptOutput> runDistiller(const QByteArray& postScript, const QRectF& box,
+                                       EngineContext& context) {
   while (true) {
     std::shared_ptr<GhostscriptChild> child = std::exchange(context.warmGhostscript, nullptr);
     if (!child) {
@@ -100,7 +106,7 @@ Result<GhostscriptOutput> runDistiller(const QList<QByteArray>& program, EngineC
       if (!started) return started.error();
       child = std::move(*started);
     }
-    Result<GhostscriptOutput> run = child->run(program, context);
+    Result<GhostscriptOutput> run = child->run({prolog(box, child->isForked()), postScript}, context);
     if (run || run.error().kind != ErrorKind::Unsupported || context.interpreters < 0) return run;
     context.interpreters = -1;  // nobody forks interpreters here: gs is started from now on
   }
@@ -122,7 +128,7 @@ Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box) {
 }  // namespace
 
 Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
-  const Result<GhostscriptOutput> run = runDistiller({prolog(box), postScript}, context);
+  const Result<GhostscriptOutput> run = runDistiller(postScript, box, context);
   if (!run) return run.error();
   const std::optional<ProgramError> stopped = programError(run->messages);
   if (stopped && stopped->finishedPages == 0) return sentence(*stopped);

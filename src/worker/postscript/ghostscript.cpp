@@ -209,11 +209,11 @@ Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
   const qint64 deadline = milliseconds() + 1000LL * context.limits.seconds;
   const Result<void> pumped = pump(input, deadline, context, collected);
   if (!pumped) return end(), pumped.error();
-  const bool isForked = outcome_ >= 0;
-  const Result<int> status = isForked ? awaitOutcome(deadline, context) : reap(deadline, context);
+  const bool wasForked = isForked();
+  const Result<int> status = wasForked ? awaitOutcome(deadline, context) : reap(deadline, context);
   end();
   if (!status) return status.error();
-  if (isForked && WIFEXITED(*status) && WEXITSTATUS(*status) == kInterpreterNotConfined)
+  if (wasForked && WIFEXITED(*status) && WEXITSTATUS(*status) == kInterpreterNotConfined)
     return Error{ErrorKind::NoSandbox, QStringLiteral("the interpreter of PostScript could not be confined")};
   if (WIFEXITED(*status)) {
     collected.exitStatus = WEXITSTATUS(*status);

@@ -41,6 +41,7 @@ class GhostscriptChild {
   GhostscriptChild& operator=(const GhostscriptChild&) = delete;
   ~GhostscriptChild();
 
+  [[nodiscard]] bool isForked() const { return outcome_ >= 0; }
   /// Feeds `input`, piece after piece, and collects until gs ends. Once only. Fails with TimedOut
   /// (limits.seconds), Cancelled, Limit (more output than limits.memoryMiB, or killed for what it used up) or
   /// NotParsable (gs crashed); a forked one with Unsupported when there never was one, and with NoSandbox

@@ -80,6 +80,15 @@ class InterpreterProgramTest : public QObject {
     QTest::newRow("a missing font") << QByteArray(
         "/NoSuchFont findfont 9 scalefont setfont 5 5 moveto (words) show\n");
     QTest::newRow("an error behind the page") << kDrawing + "showpage nosuch\n";
+    QTest::newRow("marks behind the page") << kDrawing + "showpage 3 3 9 9 rectfill nosuch\n";
+    QTest::newRow("binary rubbish behind the page")
+        << kDrawing + "showpage\n%%EOF\n" + QByteArray("II*\0\x08\0\0\0\x14\0((<<", 14);
+    QTest::newRow("its own operators everywhere")
+        << kDrawing + "/<< {} def /mark {} def /exec {} def /stopped {} def /get {} def showpage\n";
+    QTest::newRow("two pages") << kDrawing + "showpage 3 3 9 9 rectfill showpage\n";
+    QTest::newRow("ended away from the device") << kDrawing + "showpage nulldevice stop\n";
+    QTest::newRow("an unfinished string of outlines")
+        << kDrawing + "save 1 0 0 setrgbcolor 3 3 moveto 9 9 lineto gsave showpage\n";
     QTest::newRow("distiller parameters of the document")
         << QByteArray("<< /CompressPages false /Optimize true >> setdistillerparams\n") + kDrawing;
   }

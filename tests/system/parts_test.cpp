@@ -156,6 +156,25 @@ class PartsTest : public QObject {
     QCOMPARE(ran.exitCode, 0);
   }
 
+  void withoutItsOwnInterpreterPostScriptIsRunByGs_data() {
+    QTest::addColumn<bool>("damaged");
+    QTest::newRow("missing") << false;
+    QTest::newRow("damaged") << true;
+  }
+  void withoutItsOwnInterpreterPostScriptIsRunByGs() {
+    QFETCH(bool, damaged);
+    copyPartsBut("norvex-postscript");
+    if (damaged) QVERIFY(QFile::copy("/bin/false", path("norvex-postscript")));
+    const QString file = kit::sample("lighthouse.eps");
+    const Ran ran = kit::run(path("norvex"), {"convert", file, "-o", path("gs.png"), "--quiet"}, {}, 60);
+    QCOMPARE(ran.err, QByteArray());
+    QCOMPARE(ran.exitCode, 0);
+    const Ran forked =
+        kit::run(NORVEX_BUILD_DIR "/norvex", {"convert", file, "-o", path("own.png"), "--quiet"}, {}, 60);
+    QCOMPARE(forked.exitCode, 0);
+    QCOMPARE(bytesOf(path("gs.png")), bytesOf(path("own.png")));
+  }
+
   void missingCommandsAreToldInOneSentence() {
     copyPartsBut("norvex-commands.so");
     const Ran ran =

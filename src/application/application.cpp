@@ -78,6 +78,11 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 bool Application::event(QEvent* event) {
+  if (event->type() == QEvent::Quit) {
+    const bool handled = QApplication::event(event);
+    if (!event->isAccepted()) emit events_.quitRefused();
+    return handled;
+  }
   if (event->type() != QEvent::FileOpen) return QApplication::event(event);
   emit events_.fileOpenRequested(static_cast<QFileOpenEvent*>(event)->url());
   return true;

@@ -32,6 +32,8 @@ class ApplicationEvents final : public QObject {
   void didResignActive();
   /// The desktop asks to open a file.
   void fileOpenRequested(const QUrl& url);
+  /// The program was asked to end, and a window that did not close kept it.
+  void quitRefused();
   /// An operation ended with an exception; `reason` has no full stop.
   void operationFailed(const QString& reason);
 

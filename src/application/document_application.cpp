@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <utility>
 
 #include "application/file_watcher.h"
@@ -23,7 +24,8 @@ DocumentApplication::DocumentApplication(ApplicationEvents& events, PictureServi
     : events_(events),
       recent_(settings_),
       documents_(service, std::move(factory)),
-      delegate_(&documents_, std::move(terminate)),
+      terminate_(std::move(terminate)),
+      delegate_(&documents_, terminate_),
       startPanel_(std::make_unique<StartPanel>(recent_)),
       ownAlerts_(std::make_unique<QtAlertPresenter>()),
       alerts_(ownAlerts_.get()) {
@@ -46,6 +48,7 @@ void DocumentApplication::connectParts() {
   connect(&events_, &ApplicationEvents::fileOpenRequested, this, [open](const QUrl& url) { open({url}); });
   connect(&events_, &ApplicationEvents::didResignActive, this,
           &DocumentApplication::applicationDidResignActive);
+  connect(&events_, &ApplicationEvents::quitRefused, this, &DocumentApplication::quitRefused);
   connect(&events_, &ApplicationEvents::operationFailed, this, &DocumentApplication::showOperationFailure);
   connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
           [this] { delegate_.applicationWillTerminate(); });
@@ -71,6 +74,9 @@ void DocumentApplication::documentDidOpen(Document* document) {
   connect(watcher, &FileWatcher::fileDidChange, document, [document] {
     if (document->windowController()) document->windowController()->fileDidChangeOnDisk();
   });
+  connect(watcher, &FileWatcher::fileDidDisappear, document, [document] {
+    if (document->windowController()) document->windowController()->fileDidDisappear();
+  });
   connect(document, &Document::reverted, watcher, &FileWatcher::acknowledge);
   for (QWidget* widget : QApplication::topLevelWidgets())
     if (auto* window = qobject_cast<QMainWindow*>(widget)) equipWindow(window);
@@ -78,7 +84,21 @@ void DocumentApplication::documentDidOpen(Document* document) {
 }
 
 void DocumentApplication::documentDidClose(Document*) {
+  if (quitting_) {
+    // What the quitting had to wait for; another window may have to be waited for still.
+    quitting_ = false;
+    QMetaObject::invokeMethod(
+        this, [this] { terminate_(this); }, Qt::QueuedConnection);
+    return;
+  }
   updateStartPanel();
+}
+
+void DocumentApplication::quitRefused() {
+  const QList<Document*> open = documents_.documents();
+  quitting_ = std::any_of(open.cbegin(), open.cend(), [](const Document* document) {
+    return document->windowController() && document->windowController()->closesWhenDone();
+  });
 }
 
 void DocumentApplication::updateStartPanel() {

@@ -13,6 +13,7 @@
 #include "application/dropped_files.h"
 #include "application/recent_files.h"
 #include "application/start_panel.h"
+#include "base/waiting_threads.h"
 #include "desktop/alert.h"
 #include "document/app_delegate.h"
 #include "document/document_controller.h"
@@ -31,6 +32,8 @@ class DocumentApplication final : public QObject {
   DocumentApplication(
       ApplicationEvents& events, PictureService& service, DocumentWindowControllerFactory factory,
       AppDelegate::Terminate terminate = [](QObject*) { QCoreApplication::quit(); });
+  /// Closes every document and waits until nothing of what their windows had begun runs any more: neither the
+  /// service nor the application object is asked for anything afterwards.
   ~DocumentApplication() override;
 
   /// Opens the files; without any, shows the start panel.
@@ -48,6 +51,8 @@ class DocumentApplication final : public QObject {
   void connectParts();
   void documentDidOpen(Document* document);
   void documentDidClose(Document* document);
+  /// A window did not close when the program was to end: when it closes later, the program ends after all.
+  void quitRefused();
   void showFailure(const OpenFailure& failure);
   void showOperationFailure(const QString& reason);
   void runModal(const Alert& alert);
@@ -60,16 +65,19 @@ class DocumentApplication final : public QObject {
   void equipWindow(QMainWindow* window);
   void fillRecentMenu(QMenu* menu);
 
+  WaitingThreadsEnd threadsEnd_;  ///< first, so that it ends last
   ApplicationEvents& events_;
   QSettings settings_;
   RecentFiles recent_;
   DocumentController documents_;
+  AppDelegate::Terminate terminate_;
   AppDelegate delegate_;
   FileDropTarget drops_;
   std::unique_ptr<StartPanel> startPanel_;
   std::unique_ptr<AlertPresenter> ownAlerts_;
   AlertPresenter* alerts_;
   int modal_ = 0;  ///< panels and alerts on the screen
+  bool quitting_ = false;
 };
 
 }  // namespace norvex

@@ -80,8 +80,13 @@ void FileWatcher::finishLook(const Look& look, int turn) {
     known_ = look.digest;
     return;
   }
+  if (look.digest.isEmpty() && !known_.isEmpty() && !QFileInfo::exists(path_)) {
+    known_.clear();  // so that its coming back is news, whatever it holds then
+    emit fileDidDisappear();
+    return;
+  }
   if (!look.whole || look.digest == known_)
-    return;  // gone, half written (its next part is told), or only touched
+    return;  // cannot be read now, half written (its next part is told), or only touched
   known_ = look.digest;
   emit fileDidChange();
 }

@@ -28,6 +28,8 @@ class FileWatcher final : public QObject {
 
  signals:
   void fileDidChange();
+  /// The file was deleted or moved away, and nothing took its place meanwhile. Its coming back is a change.
+  void fileDidDisappear();
 
  private:
   struct Look;

@@ -16,4 +16,8 @@ QThreadPool& waitingThreads() {
   return pool;
 }
 
+WaitingThreadsEnd::~WaitingThreadsEnd() {
+  waitingThreads().waitForDone();
+}
+
 }  // namespace norvex

@@ -10,4 +10,13 @@ namespace norvex {
 /// lives as long as the program.
 [[nodiscard]] QThreadPool& waitingThreads();
 
+/// Put before what that work uses, it waits at its end until all of it is over. What shall end soon must have
+/// been cancelled.
+struct WaitingThreadsEnd {
+  WaitingThreadsEnd() = default;
+  ~WaitingThreadsEnd();
+  WaitingThreadsEnd(const WaitingThreadsEnd&) = delete;
+  WaitingThreadsEnd& operator=(const WaitingThreadsEnd&) = delete;
+};
+
 }  // namespace norvex

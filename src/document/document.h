@@ -37,8 +37,8 @@ class Document : public QObject {
   /// Checks that the type is accepted and that there are bytes (zero of them are bytes; nothing is not).
   /// Stores nothing. Throws UnimplementedMethod for an unaccepted type and then leaves `error` alone;
   /// otherwise false with code 1 when `data` is absent. Touches no shared state.
-  bool readFromData(const std::optional<QByteArray>& data, const QString& ofType,
-                    DocumentError* error = nullptr) const;
+  virtual bool readFromData(const std::optional<QByteArray>& data, const QString& ofType,
+                            DocumentError* error = nullptr) const;
 
   /// Makes the one window controller. Call once, after reading.
   void makeWindowControllers();

@@ -33,6 +33,10 @@ class DocumentWindowController {
   [[nodiscard]] virtual NorvexView* imageView() { return nullptr; }
   /// The file on disk is another one than was read, and is whole: offer to reload it, quietly.
   virtual void fileDidChangeOnDisk() {}
+  /// There is no file any more where it was.
+  virtual void fileDidDisappear() {}
+  /// Whether the window was to close and does so by itself when its work has ended.
+  [[nodiscard]] virtual bool closesWhenDone() const { return false; }
 };
 
 /// Makes a window controller with its plain initialiser.

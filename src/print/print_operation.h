@@ -51,6 +51,12 @@ class PrintInteraction {
   /// sheet's settings and 1 when it was confirmed, 0 otherwise.
   virtual void beginPageLayout(const NSPrintInfo& printInfo,
                                std::function<void(const NSPrintInfo&, int)> end) = 0;
+  /// The picture of a job to come is being made, before its panel; cancelling the token ends that. Gives it a
+  /// number of its own.
+  virtual int preparationDidBegin(const QString& title, const CancelToken& cancel) = 0;
+  /// The picture of that number is made; or it could not be, for a reason in a plain sentence, and no job
+  /// follows.
+  virtual void preparationDidEnd(int number, const QString& title, const Result<void>& result) = 0;
   /// A job runs now; cancelling the token ends it. Gives the job a number of its own: several may run at a
   /// time, under one title.
   virtual int jobDidBegin(const QString& title, const CancelToken& cancel) = 0;

@@ -408,6 +408,42 @@
         <translation>TIFF image</translation>
     </message>
     <message>
+        <source>The picture is still being printed.</source>
+        <translation>The picture is still being printed.</translation>
+    </message>
+    <message>
+        <source>A file is still being written.</source>
+        <translation>A file is still being written.</translation>
+    </message>
+    <message>
+        <source>Close When Finished</source>
+        <translation>Close When Finished</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>Stop and Close</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Keep Open</translation>
+    </message>
+    <message>
+        <source>The writing was stopped</source>
+        <translation>The writing was stopped</translation>
+    </message>
+    <message>
+        <source>The file was deleted or moved. What is shown was read before.</source>
+        <translation>The file was deleted or moved. What is shown was read before.</translation>
+    </message>
+    <message>
+        <source>Preparing “%1” for printing…</source>
+        <translation>Preparing “%1” for printing…</translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Do you want to replace it?</source>
+        <translation>“%1” exists already. Do you want to replace it?</translation>
+    </message>
+    <message>
         <source>The file has changed on disk.</source>
         <translation>The file has changed on disk.</translation>
     </message>

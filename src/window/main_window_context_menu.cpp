@@ -52,7 +52,9 @@ std::optional<DraggedFile> MainWindowController::draggedFile() {
   static_cast<void>(QtConcurrent::run(&waitingThreads(),
                                       [data] { return data->get(); }));  // the drag takes a while: use it
   const QString extension = formats.UTIs.at(best).preferredFilenameExtension();
-  return DraggedFile{clipName() + u'.' + extension, [data] { return data->get(); }};
+  // When nobody can ask for the file any more its making ends.
+  const std::shared_ptr<void> asked(nullptr, [cancel = formats.cancel](void*) { cancel.cancel(); });
+  return DraggedFile{clipName() + u'.' + extension, [data, asked] { return data->get(); }};
 }
 
 }  // namespace norvex

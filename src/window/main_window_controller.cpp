@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QMainWindow>
-#include <QTimer>
 
 #include "desktop/save_panel.h"
 #include "display/norvex_view.h"
@@ -28,7 +27,7 @@ MainWindowController::~MainWindowController() {
   printCommands_.reset();
   if (view()) view()->setDelegate(nullptr);
   stopReading();
-  if (copying_) copying_->cancel();
+  work_.cancelAll();
   // Told about the controller, not about its window: who listens knows the controller.
   emit windowWillClose(this);
   QObject::disconnect(svgObservation_);
@@ -60,6 +59,8 @@ void MainWindowController::loadWindow() {
   loadingCard_ = new LoadingCard(scrollArea_);
   scrollArea_->addCard(messageBar_, Qt::TopEdge);
   scrollArea_->addCard(loadingCard_, Qt::BottomEdge);
+  connect(&work_, &WindowWork::changed, this, &MainWindowController::followRendering);
+  connect(&work_, &WindowWork::changed, this, &MainWindowController::closeIfDone);
   connectControls();
   connectCommands();
   orderInspector();
@@ -125,15 +126,6 @@ void MainWindowController::showWindow() {
 
 void MainWindowController::display() {
   if (window_ && window_->isVisible()) window_->repaint();
-}
-
-void MainWindowController::closing() {
-  saveFrame();
-  stopReading();
-  inspectorWindow->hide();
-  // The document destroys this controller; that must wait until the window has finished closing.
-  if (shouldCloseDocument_ && document_)
-    QTimer::singleShot(0, document_.data(), [document = document_.data()] { document->close(); });
 }
 
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event) {

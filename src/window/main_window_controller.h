@@ -23,6 +23,7 @@
 #include "window/picture_formats.h"
 #include "window/touch_bar.h"
 #include "window/window_producers.h"
+#include "window/window_work.h"
 
 class QAction;
 class QLabel;
@@ -70,6 +71,8 @@ class MainWindowController final : public QObject,
   void windowDidLoad() override;
   void display() override;
   void fileDidChangeOnDisk() override;
+  void fileDidDisappear() override;
+  [[nodiscard]] bool closesWhenDone() const override { return closesWhenDone_; }
 
   [[nodiscard]] Document* document() const { return document_; }
   /// Loads the interface file on the first call; does not show it and does not read the document.
@@ -131,6 +134,9 @@ class MainWindowController final : public QObject,
   void doCopy(QObject* sender = nullptr);
   /// Copies the whole picture in the formats that its representation has by itself, in the same way.
   void copy(QObject* sender = nullptr);
+  /// The best of those formats as a file for another program, which begins to be made; none without a
+  /// picture.
+  std::optional<DraggedFile> draggedFile();
   /// Opens a sheet that writes those formats, and PNG, JPEG and GIF, to a file. savedTo() tells the end.
   void doSaveTo(QObject* sender = nullptr);
   /// Opens a sheet that writes the whole picture in any type that can be written.
@@ -139,10 +145,10 @@ class MainWindowController final : public QObject,
   void saveDocumentTo(QObject* sender = nullptr);
   [[nodiscard]] QList<UTType> writableTypes() const;
   /// Reads the file again for the user and starts over: upright, at its natural size. A file that cannot be
-  /// shown any more leaves what is shown, with a message.
+  /// shown any more, or no longer draws, leaves what is shown, with a message.
   void reload();
-  /// Whether a picture is being written by Save As. The window works on; it closes when that has ended.
-  [[nodiscard]] bool isSaving() const { return saving_.has_value(); }
+  /// Whether a picture is being written by Save As. The window works on.
+  [[nodiscard]] bool isSaving() const { return saving_; }
 
   // ---- Touch Bar
   // ----------------------------------------------------------------------------------------------------
@@ -201,6 +207,13 @@ class MainWindowController final : public QObject,
   // main_window_controller.cpp
   void loadWindow();
   void takeOutlets();
+  // main_window_closing.cpp
+  /// Whether a file is being written, or something printed, that would be lost with the window.
+  [[nodiscard]] bool wouldLoseWork() const;
+  void stopEverything();
+  /// Whether the window stays for now: the user wants that, or it closes when its work has ended.
+  bool closesLater();
+  void closeIfDone();
   void closing();
   // main_window_setup.cpp: windowDidLoad's first half and last step
   void setUpControls();
@@ -214,6 +227,8 @@ class MainWindowController final : public QObject,
   void startReading();
   void takeReading();
   void stopReading();
+  /// Shows what was read; what is no picture any more leaves the one that is shown.
+  void take(const DocumentContents& contents, bool again);
   void showUntitledDocument();
   void showContents(const DocumentContents& contents);
   void showPicture(const DocumentContents& contents);
@@ -234,15 +249,9 @@ class MainWindowController final : public QObject,
   void followRendering();
   void showProblem(const Error& error);
   void stopWork();
-  /// Reads the file again as the document does. What is no picture any more is told, and what was read before
-  /// stays: then false.
-  bool readAgain();
-  [[nodiscard]] bool mayKeepPicture() const;
-  void keepPicture(const DocumentContents& contents);
+  void tellThatPictureStays(const Error& error);
   /// Draws again what failed or was stopped.
   void retryDrawing();
-  /// Reads the file again and comes back to the same zoom, angle and place.
-  void reloadInPlace();
   void messageActionChosen();
   // main_window_commands.cpp
   void connectControls();
@@ -265,6 +274,7 @@ class MainWindowController final : public QObject,
   // main_window_touch_bar.cpp
   void validateTouchStrip();
   // main_window_inspector.cpp
+  void titleInspector();
   void showSource();
   void orderInspector();
   void placeInspector();
@@ -289,23 +299,16 @@ class MainWindowController final : public QObject,
   void runSavePanel(const QString& title);
   void saveAs(const QUrl& url, const UTType& type);
   void workBesideTheWindow(const std::function<void()>& work, const CancelToken& cancel);
-  /// Whether closing has to wait for a picture that is being written; its making is then stopped.
-  bool closesLater();
   void showWriteFailure(const Error& error, const QString& path);
 
   // main_window_context_menu.cpp
   void setUpPictureMenu();
-  std::optional<DraggedFile> draggedFile();
-
   struct Reading;
-  /// Whether a file that is read again and is no picture any more leaves what is shown.
-  enum class Keeping { Forbidden, Allowed, Kept };
 
   QPointer<Document> document_;
   bool shouldCloseDocument_ = false;
   bool inspectorPlaced_ = false, observing_ = false;
-  bool holdsWindowSize_ = false;  ///< the window size rule waits
-  Keeping keeping_ = Keeping::Forbidden;
+  bool closesWhenDone_ = false, askingToClose_ = false;
   AlertPresenter* alerts_ = nullptr;
 
   std::unique_ptr<QWidget> nib_;  ///< what the interface file makes; its windows become windows of their own
@@ -328,10 +331,10 @@ class MainWindowController final : public QObject,
   NSSavePanel* savePanel_ = nullptr;
   std::unique_ptr<NSSavePanel> ownSavePanel_;
   std::function<void()> beep_;
+  WindowWork work_;
   std::optional<CancelToken> copying_;  ///< of the copy under way
-  std::optional<CancelToken> saving_;   ///< of the picture that Save As is making
-  bool closesWhenSaved_ = false;
-  int writing_ = 0;  ///< files that are being written
+  int copyingNumber_ = 0;               ///< what the work calls it
+  bool saving_ = false;                 ///< Save As is making its picture or writing it
   QMetaObject::Connection svgObservation_;
   PrintServices printServices_;
   std::unique_ptr<PrintInteraction> ownPrintInteraction_;

@@ -10,7 +10,6 @@
 #include "document/document.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/panels/qt_pasteboard.h"
-#include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "window/main_window_controller.h"
 
@@ -60,6 +59,7 @@ PictureSnapshot MainWindowController::snapshot() const {
   shown.clockwise = dialKnobClockwise();
   shown.flippedCoordinate = view()->flippedCoordinate();
   if (document_) shown.surroundings = usualSurroundings(document_->pictureService());
+  shown.home = thread();
   shown.surroundings.iccProfile = windowColorSpace_.isValid() ? windowColorSpace_.iccProfile() : QByteArray();
   return shown;
 }
@@ -89,12 +89,12 @@ void MainWindowController::writeWhenMade(const PictureFormats& formats,
   stopCopying();  // what was copied last counts
   if (formats.count() == 0) return;
   copying_ = formats.cancel;
-  loadingCard_->begin(localizedString("Copying…"));
+  copyingNumber_ = work_.begin(WindowWork::Kind::Copying, localizedString("Copying…"), formats.cancel);
   QPointer<MainWindowController> self(this);
   madeInBackground(formats, png).then(qApp, [self, formats, png] {
     if (!self || formats.cancel.cancelled()) return;
     self->copying_.reset();
-    self->followRendering();
+    self->work_.end(self->copyingNumber_);
     self->write(itemOf(formats, png));
   });
 }
@@ -118,7 +118,7 @@ void MainWindowController::stopCopying() {
   if (!copying_) return;
   copying_->cancel();
   copying_.reset();
-  followRendering();
+  work_.end(copyingNumber_);
 }
 
 }  // namespace norvex

@@ -35,10 +35,14 @@ QString corners(const QRectF& box) {
 
 }  // namespace
 
-void MainWindowController::showInspectorWindow(QObject*) {
+void MainWindowController::titleInspector() {
   if (inspectorWindow->windowTitle().isEmpty())
     inspectorWindow->setWindowTitle(
         QStringLiteral("%1 %2").arg(window_->windowTitle(), QStringLiteral("Inspector")));
+}
+
+void MainWindowController::showInspectorWindow(QObject*) {
+  titleInspector();
   if (inspectorWindow->isVisible()) {
     inspectorWindow->hide();
     return;

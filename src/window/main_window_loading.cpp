@@ -1,9 +1,15 @@
 // The second half of windowDidLoad(): what the file holds, on the screen.
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMainWindow>
+#include <QPointer>
 #include <QThread>
 #include <QThreadPool>
 #include <QTimer>
+
+#include <algorithm>
+#include <utility>
 
 #include "base/localized_string.h"
 #include "base/waiting_threads.h"
@@ -31,6 +37,8 @@ const QColor kPaleGreen = QColor::fromRgbF(0.917645f, 1.0f, 0.909804f);
 const QColor kPalePink = QColor::fromRgbF(1.0f, 0.913725f, 0.949019f);
 constexpr int kFrameOfPreview = 2;
 constexpr int kFrameOfPicture = 255;
+/// Enough of a picture to know whether its program still draws; pixels.
+constexpr double kTrialSide = 64;
 /// A quick document is on the screen together with its window; a slow one does not keep the window waiting.
 constexpr int kGraceMs = 60;
 
@@ -38,6 +46,19 @@ bool isFixedOnOneAxisOnly(const HeaderDictionary& header) {
   const QVariant x = header.value(QString::fromLatin1(ZyWebViewFixedRatioXKey));
   const QVariant y = header.value(QString::fromLatin1(ZyWebViewFixedRatioYKey));
   return x.isValid() && y.isValid() && !(x.toBool() && y.toBool());
+}
+
+/// A program that fails only when it is drawn takes its picture with it. Any thread.
+void tryDrawing(DocumentContents& contents, const CancelToken& cancel) {
+  if (!contents.imageRep) return;
+  const QSizeF size = contents.imageRep->size();
+  const double side = std::max(size.width(), size.height());
+  if (!(side > 0)) return;
+  const auto drawn =
+      contents.imageRep->rasterImage(std::min(1.0, kTrialSide / side), RenderPurpose::Preview, cancel);
+  if (drawn) return;
+  contents.error = drawn.error();
+  contents.imageRep.reset();
 }
 
 }  // namespace
@@ -51,9 +72,17 @@ void MainWindowController::windowDidLoad() {
     showUntitledDocument();
     return finishSetUp();
   }
-  const DocumentContents contents =
+  if (window_->isVisible()) return startReading();
+  const bool again = validateUserInterfaceItem();
+  DocumentContents contents =
       readDocumentContents(document_->pictureService(), url, document_->fileType(), thread());
-  if (!contents.imageRep && mayKeepPicture()) return keepPicture(contents);
+  if (again) tryDrawing(contents, {});
+  take(contents, again);
+}
+
+void MainWindowController::take(const DocumentContents& contents, bool again) {
+  if (again && !contents.imageRep)
+    return tellThatPictureStays(contents.error.value_or(Error{ErrorKind::CannotRead, {}}));
   setUpControls();
   showContents(contents);
   finishSetUp();
@@ -68,32 +97,34 @@ void MainWindowController::startReading() {
   }
   finishSetUp();
   reading_ = std::make_shared<Reading>();
-  loadingCard_->begin(localizedString("Opening…"));
+  reading_->again = validateUserInterfaceItem();
+  reading_->number = work_.begin(WindowWork::Kind::Reading, localizedString("Opening…"), reading_->cancel);
   QPointer<MainWindowController> self(this);
-  waitingThreads().start([self, reading = reading_, &service = document_->pictureService(), url,
-                          type = document_->fileType(), home = thread()] {
+  waitingThreads().start([self, application = QPointer<QCoreApplication>(qApp), reading = reading_,
+                          &service = document_->pictureService(), url, type = document_->fileType(),
+                          home = thread()] {
     reading->contents = readDocumentContents(service, url, type, home, reading->cancel);
+    if (reading->again) tryDrawing(reading->contents, reading->cancel);
     reading->done.release();
-    QMetaObject::invokeMethod(qApp, [self, reading] {
-      if (self && self->reading_ == reading) self->takeReading();
-    });
+    if (application)
+      QMetaObject::invokeMethod(application.data(), [self, reading] {
+        if (self && self->reading_ == reading) self->takeReading();
+      });
   });
   if (reading_->done.tryAcquire(1, kGraceMs)) takeReading();
 }
 
 void MainWindowController::takeReading() {
   const std::shared_ptr<Reading> reading = std::exchange(reading_, nullptr);
-  loadingCard_->end();
-  showContents(reading->contents);
-  finishSetUp();
+  work_.end(reading->number);
+  take(reading->contents, reading->again);
   emit documentShown();
 }
 
 void MainWindowController::stopReading() {
   if (!reading_) return;
   reading_->cancel.cancel();
-  reading_.reset();
-  loadingCard_->end();
+  work_.end(std::exchange(reading_, nullptr)->number);
 }
 
 void MainWindowController::showUntitledDocument() {

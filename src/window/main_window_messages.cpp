@@ -1,5 +1,4 @@
 // What the window tells about its picture: progress, problems, a file that changed.
-#include <QScopedValueRollback>
 #include <QTimer>
 
 #include "base/localized_string.h"
@@ -43,9 +42,11 @@ void MainWindowController::watchPicture() {
 void MainWindowController::followRendering() {
   showDrawingRemarks();
   const NSImageRep* rep = view()->imageRep().get();
-  if (rep && rep->isRendering())
+  if (work_.isUnderWay())
+    loadingCard_->begin(work_.text());
+  else if (rep && rep->isRendering())
     loadingCard_->begin(localizedString("Drawing…"));
-  else if (!reading_ && !copying_ && writing_ == 0)
+  else
     loadingCard_->end();
 }
 
@@ -81,8 +82,8 @@ void MainWindowController::stopWork() {
     messageBar_->showMessage(MessageBar::Kind::Warning, messageBar_->message(), localizedString("Try Again"));
     return;
   }
-  if (saving_) return saving_->cancel();
   if (copying_) return stopCopying();
+  if (work_.cancelNewest()) return;
   // A rendering that is cancelled tells nothing by itself, and the next one may never be asked for.
   if (process_) process_->stop();
   showProblem({ErrorKind::TimedOut, localizedString("The drawing was stopped")});
@@ -95,49 +96,27 @@ void MainWindowController::messageActionChosen() {
 
 void MainWindowController::fileDidChangeOnDisk() {
   if (!window_ || !document_) return;
-  messageAction_ = [this] { reloadInPlace(); };
+  messageAction_ = [this] { reload(); };
   messageBar_->showMessage(MessageBar::Kind::Information, localizedString("The file has changed on disk."),
                            localizedString("Reload"));
 }
 
-bool MainWindowController::readAgain() {
-  if (!document_) return false;
-  const QScopedValueRollback keeps(keeping_, Keeping::Allowed);
-  document_->revertDocumentToSaved();
-  return keeping_ != Keeping::Kept;
+void MainWindowController::fileDidDisappear() {
+  if (!window_ || !validateUserInterfaceItem()) return;
+  messageAction_ = nullptr;
+  messageBar_->showMessage(MessageBar::Kind::Warning,
+                           localizedString("The file was deleted or moved. What is shown was read before."));
 }
 
 void MainWindowController::reload() {
-  readAgain();
+  if (document_) document_->revertDocumentToSaved();
 }
 
-bool MainWindowController::mayKeepPicture() const {
-  return keeping_ == Keeping::Allowed && validateUserInterfaceItem();
-}
-
-void MainWindowController::keepPicture(const DocumentContents& contents) {
-  keeping_ = Keeping::Kept;
-  const Error error = contents.error.value_or(Error());
-  messageAction_ = [this] { reloadInPlace(); };
+void MainWindowController::tellThatPictureStays(const Error& error) {
+  messageAction_ = [this] { reload(); };
   messageBar_->showMessage(MessageBar::Kind::Warning,
                            localizedString("%1 What is shown was read before.").arg(sentence(error)),
                            localizedString("Reload"));
-}
-
-void MainWindowController::reloadInPlace() {
-  const double angle = dialKnob()->DMSValue();
-  const double factor = zoomFactor_;
-  const QPointF offset = scrollArea_->scrollOffset();
-  {
-    // On the way the picture is upright and of its natural size, to which the window must not shrink.
-    const QScopedValueRollback holds(holdsWindowSize_, true);
-    if (!readAgain()) return;
-    rotateField()->setDoubleValue(angle);
-    rotateChange(angle);
-    zoomingScrollView()->zoomTo(factor);
-  }
-  setWindowSize();
-  scrollArea_->setScrollOffset(offset);
 }
 
 void MainWindowController::pdfImageRepDidLoad(bool success, const Error& error) {

@@ -21,7 +21,13 @@ void MainWindowController::setPrintServices(const PrintServices& services) {
 }
 
 void MainWindowController::setUpPrinting() {
-  if (!printCommands_) printCommands_ = std::make_unique<PrintCommands>();
+  if (!printCommands_) {
+    printCommands_ = std::make_unique<PrintCommands>();
+    connect(printCommands_.get(), &PrintCommands::ended, this, [this](bool printed) {
+      if (!printed) closesWhenDone_ = false;  // what failed can be tried again as long as there is a window
+      closeIfDone();
+    });
+  }
   if (!printServices_.spooler) {
     static CupsSpooler spooler;
     printServices_.spooler = &spooler;
@@ -64,8 +70,7 @@ void MainWindowController::doPrinting(QObject* sender) {
   QRectF rect = view()->visibleRect();
   const QRectF& selected = view()->selectRect();
   if (selected.width() > 0 && selected.height() > 0) rect = selected;
-  printCommands_->run(
-      PrintCommands::rectangleOperation(*view(), rect, *document_, window_->windowTitle(), printServices_));
+  printCommands_->printRectangle(*view(), rect, *document_, window_->windowTitle(), printServices_);
 }
 
 void MainWindowController::printDocument(QObject* sender) {

@@ -14,6 +14,8 @@ namespace norvex {
 /// Shared by the controller and the reading thread; what is left when the controller has lost interest.
 struct MainWindowController::Reading {
   CancelToken cancel;
+  bool again = false;         ///< there is a picture already, which stays unless this one draws
+  int number = 0;             ///< what the window's work calls it
   QSemaphore done;            ///< released once contents are there
   DocumentContents contents;  ///< belongs to the reader until then, to the main thread afterwards
 };

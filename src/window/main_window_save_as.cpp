@@ -18,7 +18,6 @@
 #include "document/document.h"
 #include "document/unimplemented_method.h"
 #include "picture/web_image_rep.h"
-#include "ui/picture/loading_card.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
@@ -80,30 +79,20 @@ void MainWindowController::runSavePanel(const QString& title) {
 }
 
 void MainWindowController::workBesideTheWindow(const std::function<void()>& work, const CancelToken& cancel) {
-  saving_ = cancel;
-  ++writing_;
-  loadingCard_->begin(localizedString("Writing…"));
+  const int number = work_.begin(WindowWork::Kind::Writing, localizedString("Writing…"), cancel);
   QEventLoop loop;
   QFutureWatcher<void> watcher;
   connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
   watcher.setFuture(QtConcurrent::run(&waitingThreads(), work));
   loop.exec();
   watcher.waitForFinished();  // a program that is ending ends the loop before the work
-  --writing_;
-  saving_.reset();
-  followRendering();
-}
-
-bool MainWindowController::closesLater() {
-  if (!saving_) return false;
-  saving_->cancel();
-  closesWhenSaved_ = true;
-  return true;
+  work_.end(number);
 }
 
 void MainWindowController::saveAs(const QUrl& url, const UTType& type) {
   if (!document_ || saving_) return;
   document_->setAlertPresenter(alerts_);
+  saving_ = true;
   bool stopped = false;
   // The document asks, makes and writes in one go; only the making takes time.
   windowProducers().setRunner(
@@ -114,14 +103,16 @@ void MainWindowController::saveAs(const QUrl& url, const UTType& type) {
       });
   const auto end = qScopeGuard([this] {
     windowProducers().setRunner(nullptr);
-    if (std::exchange(closesWhenSaved_, false)) QTimer::singleShot(0, window_, &QWidget::close);
+    saving_ = false;
+    closeIfDone();
   });
   DocumentError error;
   try {
     if (document_->writeToURL(url, type.identifier(), &error)) return;
   } catch (const UnimplementedMethod&) {
-    if (!stopped) throw;  // nothing is to be told about what the user stopped
-    return;
+    if (stopped) return;  // nothing is to be told about what the user stopped
+    closesWhenDone_ = false;
+    throw;
   }
   if (!error.recoverySuggestion.isEmpty())
     showWriteFailure({ErrorKind::CannotWrite, error.recoverySuggestion}, url.toLocalFile());

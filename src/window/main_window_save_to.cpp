@@ -2,6 +2,7 @@
 #include "window/main_window_save_to.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
@@ -31,8 +32,10 @@ QUrl startFolder() {
 }
 
 /// The bytes, whole or not at all; off the window's thread.
-Result<void> writeTo(const QString& path, const std::shared_ptr<PromisedData>& data) {
+Result<void> writeTo(const QString& path, const std::shared_ptr<PromisedData>& data,
+                     const CancelToken& cancel) {
   const QByteArray bytes = data->get();
+  if (cancel.cancelled()) return Error{ErrorKind::Cancelled, localizedString("The writing was stopped")};
   if (bytes.isEmpty())
     return Error{ErrorKind::CannotWrite, localizedString("The picture cannot be written in this format")};
   return writeFileAtomically(path, bytes, IfExists::Replace);
@@ -98,8 +101,12 @@ void MainWindowController::fillSaveToAccessory(const std::shared_ptr<SaveToSheet
 void MainWindowController::makeSaveToFormats(const std::shared_ptr<SaveToSheet>& sheet) {
   QPointer<MainWindowController> self(this);
   const std::weak_ptr<SaveToSheet> kept = sheet;  // a closed sheet ends the making
-  const auto tell = [self, kept](const std::function<void(MainWindowController&, SaveToSheet&)>& news) {
-    QMetaObject::invokeMethod(qApp, [self, kept, news] {
+  // The program may have ended by the time that there is something to tell.
+  const QPointer<QCoreApplication> application(qApp);
+  const auto tell = [self, kept,
+                     application](const std::function<void(MainWindowController&, SaveToSheet&)>& news) {
+    if (!application) return;
+    QMetaObject::invokeMethod(application.data(), [self, kept, news] {
       const auto shown = kept.lock();
       if (self && shown && shown->open) news(*self, *shown);
     });
@@ -138,23 +145,24 @@ void MainWindowController::saveTo(const std::shared_ptr<SaveToSheet>& sheet, con
   const std::shared_ptr<PromisedData> data = sheet->formats.DataObjects.at(row);
   const QString path =
       urlWithExtension(url, sheet->formats.UTIs.at(row).preferredFilenameExtension()).toLocalFile();
-  ++writing_;
-  loadingCard_->begin(localizedString("Writing…"));
+  const CancelToken cancel = sheet->formats.cancel;
+  const int number = work_.begin(WindowWork::Kind::Writing, localizedString("Writing…"), cancel);
   QPointer<MainWindowController> self(this);
   // The sheet is held until the file is written: letting go of it ends what is being made.
-  QtConcurrent::run(&waitingThreads(), [path, data] {
-    return writeTo(path, data);
-  }).then(qApp, [self, sheet, path, url](const Result<void>& written) {
+  QtConcurrent::run(&waitingThreads(), [path, data, cancel] {
+    return writeTo(path, data, cancel);
+  }).then(qApp, [self, sheet, path, url, number](const Result<void>& written) {
     if (!self) return;
-    --self->writing_;
-    self->followRendering();
     if (!written) self->showWriteFailure(written.error(), path);
+    self->work_.end(number);
     QSettings().setValue(kSaveTo, url);
     emit self->savedTo(path, written.ok());
   });
 }
 
 void MainWindowController::showWriteFailure(const Error& error, const QString& path) {
+  if (error.kind == ErrorKind::Cancelled) return;
+  closesWhenDone_ = false;  // what could not be written can be tried again as long as there is a window
   Alert alert;
   alert.style = AlertStyle::Warning;
   alert.messageText = error.message;

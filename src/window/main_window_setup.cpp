@@ -49,6 +49,7 @@ void MainWindowController::setUpControls() {
   window_->setWindowFilePath(url.toLocalFile());
   previewImageView()->setEditable(false);
   previewImageView()->setUseBackgroundColor(true);
+  if (inspectorWindow->isVisible()) titleInspector();  // otherwise when it is shown
 }
 
 void MainWindowController::setUpTitles() {

@@ -1,4 +1,5 @@
 // The document window's size.
+#include <QApplication>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -17,6 +18,8 @@
 namespace norvex {
 
 namespace {
+
+const QString kFrameName = QStringLiteral("MainWindowController");
 
 /// y down on the screen, y up in the rule.
 QRectF upright(const QRect& rect) {
@@ -67,7 +70,7 @@ QSizeF MainWindowController::calcWindowMaxSize(const QSizeF& size) const {
 }
 
 void MainWindowController::setWindowSize() {
-  if (!window_ || holdsWindowSize_) return;
+  if (!window_) return;
   if (window_->isFullScreen()) {
     window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     return;
@@ -94,13 +97,22 @@ void MainWindowController::windowStateDidChange(const QWindowStateChangeEvent& e
 }
 
 void MainWindowController::restoreFrame() {
-  const QRect frame = savedWindowFrame(QStringLiteral("MainWindowController"));
-  if (frame.isValid()) window_->resize(frame.size());
+  const QRect frame = savedWindowFrame(kFrameName);
+  if (!frame.isValid()) return;
+  QList<QRect> screens;
+  for (const QScreen* screen : QGuiApplication::screens()) screens << screen->availableGeometry();
+  QList<QPoint> taken;
+  for (const QWidget* other : QApplication::topLevelWidgets())
+    if (other != window_ && other->isVisible() && qobject_cast<const QMainWindow*>(other))
+      taken << other->pos();
+  const QRect place = placedOnScreens(frame, screens, taken);
+  window_->resize(place.size());
+  window_->move(place.topLeft());
 }
 
 void MainWindowController::saveFrame() const {
   if (window_->isFullScreen() || window_->isMaximized()) return;
-  saveWindowFrame(QStringLiteral("MainWindowController"), window_->geometry());
+  saveWindowFrame(kFrameName, QRect(window_->pos(), window_->size()));
 }
 
 }  // namespace norvex

@@ -1,7 +1,5 @@
 #include "window/picture_formats.h"
 
-#include <QCoreApplication>
-
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
 #include "picture/eps_image_rep.h"
@@ -43,7 +41,7 @@ std::shared_ptr<NSPDFImageRep> pdfImageRepOf(const PictureSnapshot& snapshot, co
   const auto rep = NSPDFImageRep::imageRepWithData(*snapshot.surroundings.service, pdf, {}, 0, cancel);
   if (!rep) return nullptr;
   // Whichever thread asks first makes it, but threads of a pool deliver no events.
-  (*rep)->moveToThread(QCoreApplication::instance()->thread());
+  if (snapshot.home) (*rep)->moveToThread(snapshot.home);
   return *rep;
 }
 

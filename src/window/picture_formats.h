@@ -15,6 +15,8 @@
 #include "picture/pdf_image_rep.h"
 #include "types/uniform_type.h"
 
+class QThread;
+
 namespace norvex {
 
 /// Bytes of one format. Asking for them blocks for the picture process; empty: they could not be made. Any
@@ -31,6 +33,7 @@ struct PictureSnapshot {
   bool clockwise = false;            ///< of the dial
   bool flippedCoordinate = false;    ///< of the view
   EncoderSurroundings surroundings;  ///< of the rasters; the service in it outlives every use
+  QThread* home = nullptr;           ///< where the pictures that are made of it live; the main thread
 };
 
 /// Where an SVG document is cut, and how far it is turned.

@@ -1,12 +1,16 @@
 #include "window/print_commands.h"
 
+#include <QThread>
+#include <QtConcurrent>
+
 #include <algorithm>
 
+#include "base/waiting_threads.h"
 #include "display/norvex_rendering_view.h"
 #include "display/norvex_view.h"
+#include "display/view_compose.h"
 #include "document/document.h"
 #include "document/print_titles.h"
-#include "picture/pdf_image_rep.h"
 #include "print/printable_view.h"
 
 namespace norvex {
@@ -15,32 +19,78 @@ namespace {
 constexpr int kPanelControls =
     NSPrintPanelShowsPaperSize | NSPrintPanelShowsOrientation | NSPrintPanelShowsScaling;
 
+bool wasPrinted(const Result<void>& result) {
+  return result.ok() || result.error().kind == ErrorKind::Cancelled;
+}
+
 }  // namespace
 
-std::unique_ptr<NSPrintOperation> PrintCommands::rectangleOperation(NorvexView& view, const QRectF& rect,
-                                                                    Document& document,
-                                                                    const QString& windowTitle,
-                                                                    PrintServices services) {
+PrintCommands::~PrintCommands() {
+  cancelAll();
+  if (preparing_) preparing_->picture.waitForFinished();
+}
+
+void PrintCommands::cancelAll() {
+  if (preparing_) preparing_->cancel.cancel();
+  for (const CancelToken& cancel : cancels_) cancel.cancel();
+}
+
+void PrintCommands::printRectangle(const NorvexView& view, const QRectF& rect, Document& document,
+                                   const QString& windowTitle, PrintServices services) {
+  if (preparing_) return;
   services.pictures = &document.pictureService();
-  std::shared_ptr<NSImageRep> imageRep;
-  const QByteArray pdf = view.dataWithPDFInsideRect(rect);
-  if (!pdf.isEmpty())
-    if (const auto made = NSPDFImageRep::imageRepWithData(document.pictureService(), pdf)) imageRep = *made;
-  auto printed = std::make_shared<NorvexRenderingView>(QRectF(QPointF(0, 0), rect.size()), imageRep.get());
-  printed->setPrintJobTitle(printJobTitle(document.fileURL(), document.displayName()));
-  printed->setTitle(printPageTitle(document.fileURL(), windowTitle));
+  const Part part{rect.size(), printJobTitle(document.fileURL(), document.displayName()),
+                  printPageTitle(document.fileURL(), windowTitle), document.printInfo(), services};
+  if (!view.imageRep()) return runPart(part, nullptr);
+  preparing_ = std::make_unique<Preparing>();
+  preparing_->part = part;
+  if (services.interaction)
+    preparing_->number = services.interaction->preparationDidBegin(part.jobTitle, preparing_->cancel);
+  connect(&preparing_->picture, &QFutureWatcherBase::finished, this, &PrintCommands::takePicture);
+  const QSizeF size = view.imageSize();
+  const PicturePlacement placement{QPointF(size.width() * 0.5, size.height() * 0.5), view.rotate()};
+  preparing_->picture.setFuture(QtConcurrent::run(
+      &waitingThreads(),
+      [rep = view.imageRep(), placement, rect, pictures = services.pictures, cancel = preparing_->cancel,
+       home = thread()]() -> Picture {
+        const auto pdf = composeView(rep.get(), placement, VectorFormat::Pdf, rect, cancel);
+        if (!pdf) return pdf.error();
+        Picture made = NSPDFImageRep::imageRepWithData(*pictures, pdf->bytes, {}, 0, cancel);
+        if (made) (*made)->moveToThread(home);
+        return made;
+      }));
+}
+
+void PrintCommands::takePicture() {
+  const std::unique_ptr<Preparing> done = std::move(preparing_);
+  const Picture picture = done->picture.result();
+  const Result<void> result = picture ? Result<void>() : Result<void>(picture.error());
+  if (PrintInteraction* const interaction = done->part.services.interaction)
+    interaction->preparationDidEnd(done->number, done->part.jobTitle, result);
+  // It may have been stopped when it was as good as made.
+  if (picture && !done->cancel.cancelled()) return runPart(done->part, *picture);
+  emit ended(wasPrinted(result));
+}
+
+void PrintCommands::runPart(const Part& part, const std::shared_ptr<NSImageRep>& picture) {
+  auto printed = std::make_shared<NorvexRenderingView>(QRectF(QPointF(0, 0), part.size), picture.get());
+  printed->setPrintJobTitle(part.jobTitle);
+  printed->setTitle(part.pageTitle);
   auto operation = NSPrintOperation::printOperationWithView(
-      std::make_unique<PrintableRenderingView>(printed, imageRep), document.printInfo(), services);
+      std::make_unique<PrintableRenderingView>(printed, picture), part.info, part.services);
   NSPrintPanel& panel = operation->printPanel();
   panel.setOptions(panel.options() | kPanelControls);
   operation->setCanSpawnSeparateThread(true);
-  return operation;
+  run(std::move(operation));
 }
 
 void PrintCommands::run(std::unique_ptr<NSPrintOperation> operation) {
   if (!operation) return;
   NSPrintOperation* const running = operation.get();
+  const CancelToken cancel;
+  running->setCancelToken(cancel);
   operations_.push_back(std::move(operation));
+  cancels_.push_back(cancel);
   // Queued: the operation must not be destroyed from inside its own runOperation().
   connect(
       running, &NSPrintOperation::finished, this, [this, running] { drop(running); }, Qt::QueuedConnection);
@@ -48,9 +98,13 @@ void PrintCommands::run(std::unique_ptr<NSPrintOperation> operation) {
 }
 
 void PrintCommands::drop(NSPrintOperation* operation) {
-  const auto ended = std::find_if(operations_.begin(), operations_.end(),
-                                  [operation](const auto& each) { return each.get() == operation; });
-  if (ended != operations_.end()) operations_.erase(ended);
+  const auto done = std::find_if(operations_.begin(), operations_.end(),
+                                 [operation](const auto& each) { return each.get() == operation; });
+  if (done == operations_.end()) return;
+  const bool printed = !operation->result() || wasPrinted(*operation->result());
+  cancels_.erase(cancels_.begin() + (done - operations_.begin()));
+  operations_.erase(done);
+  emit ended(printed);
 }
 
 }  // namespace norvex

@@ -1,14 +1,23 @@
 // How windows were when they were closed.
 #pragma once
 
+#include <QList>
+#include <QPoint>
 #include <QRect>
 #include <QString>
 
 namespace norvex {
 
-/// Kept in the user's state folder, apart from settings. An invalid rectangle: none was saved.
+/// Kept in the user's state folder, apart from settings: the upper left corner of the window with its
+/// decoration, and the size without. An invalid rectangle: none was saved.
 [[nodiscard]] QRect savedWindowFrame(const QString& autosaveName);
 void saveWindowFrame(const QString& autosaveName, const QRect& frame);
+
+/// The frame, moved wholly onto the screen that is nearest to it and made smaller where it has no room there,
+/// and a step aside from the corners that are taken: windows do not hide each other. Without screens as it
+/// is.
+[[nodiscard]] QRect placedOnScreens(QRect frame, const QList<QRect>& screens,
+                                    const QList<QPoint>& taken = {});
 
 /// Whether new windows show the touch strip; it is remembered in the same place. False before it was ever
 /// shown.

@@ -153,6 +153,24 @@ class DocumentApplicationTest : public QObject {
     QTRY_COMPARE(terminated_, 1);
   }
 
+  void aWindowThatClosesLaterEndsTheProgramThatItKept() {
+    QVERIFY(start({writePdf("a.pdf"), writePdf("b.pdf")}));
+    const QList<Document*> open = application_->documents().documents();
+    static_cast<kit::MemoryWindowController*>(open[0]->windowController())->waits = true;
+    emit events_->quitRefused();
+    QCOMPARE(terminated_, 0);
+    open[0]->close();
+    QTRY_COMPARE(terminated_, 1);
+  }
+
+  void aWindowThatIsToStayOpenKeepsTheProgram() {
+    QVERIFY(start({writePdf("a.pdf"), writePdf("b.pdf")}));
+    emit events_->quitRefused();
+    application_->documents().documents().first()->close();
+    QTest::qWait(20);
+    QCOMPARE(terminated_, 0);
+  }
+
   void aMissingFileIsToldInAPlainSentence() {
     QVERIFY(start({QUrl::fromLocalFile(folder_->filePath("none.eps"))}));
     QCOMPARE(alerts_.shown.size(), 1);
@@ -238,6 +256,8 @@ class DocumentApplicationTest : public QObject {
     QTest::qWait(200);
     write("a.pdf", "%PDF-1.4\n% another\n%%EOF\n");
     QVERIFY(QTest::qWaitFor([this] { return log_.contains("changed on disk"); }, 20000));
+    QVERIFY(QFile::remove(url.toLocalFile()));
+    QVERIFY(QTest::qWaitFor([this] { return log_.contains("gone from disk"); }, 20000));
   }
 
   void everyControlOfThePanelHasAName() {

@@ -46,9 +46,21 @@ class FileWatcherTest : public QObject {
     QCOMPARE(changed.size(), 2);
   }
 
+  void aDeletedFileIsToldAndItsComingBackIsAChange() {
+    const auto watcher = watch();
+    QSignalSpy changed(watcher.get(), &FileWatcher::fileDidChange);
+    QSignalSpy gone(watcher.get(), &FileWatcher::fileDidDisappear);
+    QVERIFY(QFile::remove(path_));
+    QVERIFY(gone.wait(kLongEnough));
+    write("%!PS-Adobe-3.0 EPSF-3.0\n");  // as it was
+    QVERIFY(changed.wait(kLongEnough));
+    QCOMPARE(gone.size(), 1);
+  }
+
   void aFileThatIsReplacedByRenamingIsStillWatched() {
     const auto watcher = watch();
     QSignalSpy changed(watcher.get(), &FileWatcher::fileDidChange);
+    QSignalSpy gone(watcher.get(), &FileWatcher::fileDidDisappear);
     for (int i = 0; i < 3; ++i) {
       QSaveFile file(path_);
       QVERIFY(file.open(QIODevice::WriteOnly));
@@ -56,6 +68,7 @@ class FileWatcherTest : public QObject {
       QVERIFY(file.commit());
       QVERIFY(changed.wait(kLongEnough));
     }
+    QVERIFY(gone.isEmpty());
     QCOMPARE(changed.size(), 3);
   }
 

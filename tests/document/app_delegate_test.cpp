@@ -41,8 +41,6 @@ class AppDelegateTest : public QObject {
     documents_.reset();
   }
 
-  void noUntitledDocumentIsEverOpened() { QVERIFY(!delegate_->applicationShouldOpenUntitledFile()); }
-
   void theLastWindowsClosingDoesNotQuit() {
     QVERIFY(!delegate_->applicationShouldTerminateAfterLastWindowClosed());
   }
@@ -74,11 +72,6 @@ class AppDelegateTest : public QObject {
     AppDelegate delegate(nullptr, [this](QObject* sender) { terminated_ << sender; });
     delegate.applicationDidResignActive(nullptr);
     QCOMPARE(terminated_, (QList<QObject*>{nullptr}));
-  }
-
-  void endingDoesNothing() {
-    delegate_->applicationWillTerminate();
-    QVERIFY(terminated_.isEmpty());
   }
 };
 

@@ -164,6 +164,37 @@ class DocumentTest : public QObject {
     QCOMPARE(log_, (QStringList{"loaded", "displayed"}));
   }
 
+  void revertHandsTheBytesAndTheTypeOver() {
+    class Reading final : public Document {
+     public:
+      using Document::Document;
+      bool readFromData(const std::optional<QByteArray>& data, const QString& ofType,
+                        DocumentError* error) const override {
+        given << std::pair(data, ofType);
+        return Document::readFromData(data, ofType, error);
+      }
+      mutable QList<std::pair<std::optional<QByteArray>, QString>> given;
+    };
+    QTemporaryDir folder;
+    QFile file(folder.filePath("a.pdf"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QByteArray bytes("%PDF-1.4\n\0\xFF", 11);
+    file.write(bytes);
+    file.close();
+    Reading document(service_, kit::loggingFactory(&log_));
+    document.setFileURL(QUrl::fromLocalFile(file.fileName()));
+    document.setFileType("com.adobe.pdf");
+    document.makeWindowControllers();
+    document.revertDocumentToSaved();
+    QCOMPARE(document.given.size(), 1);
+    QCOMPARE(document.given[0].first, std::optional(bytes));
+    QCOMPARE(document.given[0].second, QString("com.adobe.pdf"));
+    QVERIFY(file.remove());
+    document.revertDocumentToSaved();
+    QCOMPARE(document.given[1].first, std::optional<QByteArray>());
+    QCOMPARE(document.given[1].second, QString("com.adobe.pdf"));
+  }
+
   void revertOfAFileThatIsGoneLoadsAgainAndAsksNothing() {
     auto document = make();
     document->setFileURL(QUrl::fromLocalFile("/nonexistent/gone.eps"));

@@ -30,6 +30,8 @@ class MemoryWindowController final : public DocumentWindowController {
     if (onLoad) onLoad();
   }
   void display() override { log_->append("displayed"); }
+  void fileDidDisappear() override { log_->append("gone from disk"); }
+  [[nodiscard]] bool closesWhenDone() const override { return waits; }
   void fileDidChangeOnDisk() override { log_->append("changed on disk"); }
   PictureProducers* producers() override { return pictureProducers; }
 
@@ -40,6 +42,7 @@ class MemoryWindowController final : public DocumentWindowController {
 
   std::function<void()> onLoad;
   PictureProducers* pictureProducers = nullptr;
+  bool waits = false;  ///< the window was to close and is still writing
 
  private:
   QStringList* log_;

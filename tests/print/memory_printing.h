@@ -71,6 +71,15 @@ class ScriptedInteraction final : public PrintInteraction {
     shownInfo = printInfo;
     endSheet = std::move(end);
   }
+  int preparationDidBegin(const QString& title, const CancelToken& cancel) override {
+    prepared << title;
+    preparation = cancel;
+    return int(prepared.size());
+  }
+  void preparationDidEnd(int number, const QString&, const Result<void>& result) override {
+    endedPreparations << number;
+    preparationMessages << (result ? QString() : result.error().message);
+  }
   int jobDidBegin(const QString& title, const CancelToken& cancel) override {
     begun << title;
     token = cancel;
@@ -88,8 +97,9 @@ class ScriptedInteraction final : public PrintInteraction {
   NSPrintInfo shownInfo;
   std::function<void(const NSPrintInfo&, int)> endSheet;
   QStringList begun, ended, messages;
-  QList<int> endedJobs;
-  CancelToken token;
+  QList<int> endedJobs, endedPreparations;
+  QStringList prepared, preparationMessages;
+  CancelToken token, preparation;
 };
 
 }  // namespace norvex::kit

@@ -226,9 +226,14 @@ class CopyTest : public QObject {
   }
 
   void aWindowThatGoesAwayTakesItsCopyWithIt() {
-    CopyFixture f;
-    f.eps().doCopy();
-    f.document.close();
+    auto f = std::make_unique<CopyFixture>();
+    MainWindowController& c = f->eps();
+    const auto process = f->service.lastProcess();
+    process->hold(PictureCall::Compose);
+    c.doCopy();
+    QVERIFY(process->waitUntilHeld(PictureCall::Compose));
+    f.reset();  // comes back: nothing waits for the latch any more
+    QVERIFY(process->cancelledCalls() > 0);
   }
 
   void theItemsOfToolbarAndMenuCopy() {

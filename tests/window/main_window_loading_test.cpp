@@ -251,7 +251,7 @@ class MainWindowLoadingTest : public QObject {
     c.inspectorWindow->setWindowTitle("something");
     fixture.write("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 50 60\n%%Title: Another\n%%EndComments\n",
                   "a.eps");
-    fixture.document.revertDocumentToSaved();
+    fixture.revert();
     QCOMPARE(c.view()->rotate(), 0.0);
     QCOMPARE(c.zoomFactor(), 1.0);
     QCOMPARE(c.zoomingScrollView()->factor(), 1.0);
@@ -261,15 +261,48 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.inspectorWindow->windowTitle(), QString());
   }
 
-  void revertingToAnUnreadableFileLeavesTheWindow() {
+  void revertingWithAFileThatIsGoneLeavesThePictureAndSaysSoOnce() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loadedEps();
+    const auto picture = c.view()->imageRep();
     QVERIFY(QFile::remove(fixture.folder.filePath("a.eps")));
-    fixture.document.revertDocumentToSaved();
-    QVERIFY(!c.view()->imageRep());
-    QVERIFY(!c.dialKnob()->isEnabled());
-    QVERIFY(!c.messageBar()->message().isEmpty());
+    fixture.revert();
+    QCOMPARE(c.view()->imageRep(), picture);
+    QVERIFY(c.dialKnob()->isEnabled());
+    QCOMPARE(c.messageBar()->message(),
+             QStringLiteral("No such file or directory. What is shown was read before."));
     QVERIFY(fixture.alerts.shown.isEmpty());
+  }
+
+  void aProgramThatNoLongerDrawsLeavesThePicture() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    const auto picture = c.view()->imageRep();
+    c.rotateChange(30);
+    fixture.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Render, {ErrorKind::NotParsable, "there is an error in the program"});
+    });
+    fixture.write(epsBytes().replace("A picture", "Another"), "a.eps");
+    fixture.revert();
+    QCOMPARE(c.view()->imageRep(), picture);
+    QCOMPARE(c.rotateField()->text(), QStringLiteral("30.0000"));
+    QCOMPARE(c.titleForm()->cellAtIndex(0)->text(), QStringLiteral("A picture"));
+    QCOMPARE(c.messageBar()->message(),
+             QStringLiteral("There is an error in the program. What is shown was read before."));
+    fixture.service.setPrepare({});
+    emit c.messageBar()->actionChosen();
+    QCOMPARE(c.titleForm()->cellAtIndex(0)->text(), QStringLiteral("Another"));
+    QCOMPARE(c.view()->rotate(), 0.0);
+    QVERIFY(c.messageBar()->message().isEmpty());
+  }
+
+  void aFileThatWentAwayIsTold() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    c.fileDidDisappear();
+    QCOMPARE(c.messageBar()->message(),
+             QStringLiteral("The file was deleted or moved. What is shown was read before."));
+    QVERIFY(c.view()->imageRep());
   }
 
   void anotherTypeLoadsNothing() {
@@ -311,21 +344,20 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.messageBar()->message(), QStringLiteral("No XML."));
   }
 
-  void anSvgThatCannotBeLoadedAgainLeavesTheViewsNumbers() {
+  void anSvgThatCannotBeLoadedAgainLeavesThePicture() {
     WindowFixture fixture;
     fixture.service.setPicture(svgPicture(QRectF(1, 2, 400, 50)));
     MainWindowController& c = fixture.loaded(kSvg, "a.svg", UTTypeSVG().identifier());
     fixture.service.setPrepare([](MemoryPictureProcess& process) {
       process.fail(PictureCall::Facts, {ErrorKind::NotParsable, "no XML"});
     });
-    fixture.document.revertDocumentToSaved();
-    QVERIFY(!c.view()->imageRep());
+    fixture.revert();
+    QVERIFY(c.view()->imageRep());
     QCOMPARE(c.view()->imageSize(), QSizeF(200, 100));
     QCOMPARE(c.view()->coordinateRect(), QRectF(1, 2, 400, 50));
     QCOMPARE(c.view()->scaleX(), 0.5);
     QCOMPARE(c.view()->scaleY(), 2.0);
-    QVERIFY(!c.dialKnob()->clockwise());
-    QVERIFY(!c.rotateField()->isEnabled());
+    QVERIFY(c.rotateField()->isEnabled());
   }
 
   void theFixedTextsAndNumbersOfTheSetUp() {

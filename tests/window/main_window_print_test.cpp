@@ -1,8 +1,11 @@
 // Printing from the document window.
 #include <QAction>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTemporaryDir>
+
+#include <atomic>
 
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
@@ -67,6 +70,7 @@ struct PrintFixture {
   RecordingAlerts alerts;
   MemorySpooler spooler{{{"Office", "Office", PrinterState::Idle, true, true}}};
   ScriptedInteraction people;
+  WaitingThreadsEnd threadsEnd;  ///< what a window leaves behind still asks the service
   Document document;
 };
 
@@ -89,7 +93,9 @@ class MainWindowPrintTest : public QObject {
       const PrintSource source = operation.view().printSource();
       printed = {source.size, source.jobTitle, source.footer() ? source.footer()->text : QString()};
     };
+    const int before = fixture.people.panels;
     c.doPrinting();
+    if (!QTest::qWaitFor([&] { return fixture.people.panels > before; }, 20000)) qFatal("no panel");
     return printed;
   }
 
@@ -178,6 +184,69 @@ class MainWindowPrintTest : public QObject {
     QCOMPARE(fixture.people.messages, QStringList{QString()});
     QCOMPARE(fixture.service.picturesGiven, QByteArrayList{QByteArray()});
     QVERIFY(fixture.alerts.shown.isEmpty());
+  }
+
+  void thePictureIsMadeBesideTheWindow() {
+    PrintFixture fixture;
+    MainWindowController& c = fixture.load("a.eps");
+    const auto process = fixture.service.pictures.lastProcess();
+    process->hold(PictureCall::Compose);
+    c.doPrinting();
+    QCOMPARE(fixture.people.prepared, QStringList{"a"});
+    QCOMPARE(fixture.people.panels, 0);
+    c.doPrinting();      // one at a time
+    c.rotateChange(30);  // the window works on
+    QVERIFY(process->waitUntilHeld(PictureCall::Compose));
+    process->release(PictureCall::Compose);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.people.ended.size(), 1, 20000);
+    QCOMPARE(fixture.people.panels, 1);
+    QCOMPARE(fixture.people.endedPreparations, QList<int>{1});
+    QCOMPARE(fixture.people.preparationMessages, QStringList{QString()});
+  }
+
+  void aPictureThatCannotBeMadeIsToldAndThereIsNoPanel() {
+    PrintFixture fixture;
+    MainWindowController& c = fixture.load("a.eps");
+    fixture.service.pictures.lastProcess()->fail(PictureCall::Compose,
+                                                 {ErrorKind::TimedOut, "the picture takes too long"});
+    c.doPrinting();
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.people.endedPreparations.size(), 1, 20000);
+    QCOMPARE(fixture.people.preparationMessages, QStringList{"the picture takes too long"});
+    QTest::qWait(20);
+    QCOMPARE(fixture.people.panels, 0);
+    QVERIFY(fixture.spooler.jobs().isEmpty());
+  }
+
+  void thePreparationCanBeCancelled() {
+    PrintFixture fixture;
+    MainWindowController& c = fixture.load("a.eps");
+    fixture.service.pictures.lastProcess()->hold(PictureCall::Compose);
+    c.doPrinting();
+    fixture.people.preparation.cancel();
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.people.endedPreparations.size(), 1, 20000);
+    QTest::qWait(20);
+    QCOMPARE(fixture.people.panels, 0);
+  }
+
+  void closingTheWindowLetsARunningJobFinish() {
+    PrintFixture fixture;
+    std::atomic<bool> held = true;
+    fixture.spooler.wait = [&held](const CancelToken&) {
+      while (held) QThread::msleep(5);
+    };
+    MainWindowController& c = fixture.load("a.eps");
+    c.window()->show();
+    c.printDocument();
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.people.begun.size(), 1, 20000);
+    QSignalSpy closed(&fixture.document, &Document::closed);
+    fixture.alerts.answer = 0;
+    QVERIFY(!c.window()->close());
+    QCOMPARE(fixture.alerts.shown.size(), 1);
+    QCOMPARE(fixture.alerts.shown[0].messageText, QString("The picture is still being printed."));
+    QVERIFY(c.window()->isVisible() && closed.isEmpty());
+    held = false;
+    QTRY_COMPARE_WITH_TIMEOUT(closed.size(), 1, 20000);
+    QCOMPARE(fixture.spooler.jobs().size(), 1);
   }
 
   void theMenuPrintsTheWholeTurnedPicture() {

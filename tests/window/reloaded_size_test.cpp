@@ -61,8 +61,9 @@ class ReloadedSizeTest : public QObject {
     if (inPlace) {
       c.fileDidChangeOnDisk();
       emit c.messageBar()->actionChosen();
+      QTRY_VERIFY(!c.isReading());
     } else {
-      fixture.document.revertDocumentToSaved();
+      fixture.revert();
     }
     QCoreApplication::processEvents();
     QCOMPARE(c.view()->rotate(), angle);

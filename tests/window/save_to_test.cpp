@@ -86,6 +86,52 @@ void whileSaving(MainWindowController& c, const std::function<void()>& meanwhile
   timer->start(5);
 }
 
+/// A window on the screen whose SVG is being written as "other.svg"; its picture process keeps it waiting.
+class WritingWindow : public SaveToFixture {
+ public:
+  explicit WritingWindow(bool saveAs, const QString& name = "other")
+      : c(show(kSvg, "a.svg", "public.svg-image")),
+        process(service.lastProcess()),
+        closed(&document, &Document::closed),
+        ended(&c, &MainWindowController::savedTo),
+        saveAs_(saveAs) {
+    c.setShouldCloseDocument(true);
+    c.window()->show();
+    process->hold(PictureCall::Svg);
+    if (saveAs) {
+      c.saveDocumentAs();
+      name_ = name;
+    } else {
+      c.doSaveTo();
+      panel.answer({true, url(name), -1});
+    }
+  }
+  /// Closes the window while the file is being written and lets that end; whether the window is closed then.
+  bool closeMeanwhile() {
+    bool tried = false;
+    const auto meanwhile = [&] {
+      tried = !c.window()->close() && c.window()->isVisible();
+      process->release(PictureCall::Svg);
+    };
+    if (saveAs_) {
+      whileSaving(c, meanwhile);
+      panel.answer({true, url(name_), 3});
+    } else {
+      meanwhile();
+    }
+    return QTest::qWaitFor([&] { return tried && !c.isSaving() && (saveAs_ || !ended.isEmpty()); }, 20000) &&
+           QTest::qWaitFor([&] { return !closed.isEmpty(); }, alerts.answer == 0 ? 2000 : 100);
+  }
+
+  MainWindowController& c;
+  std::shared_ptr<MemoryPictureProcess> process;
+  QSignalSpy closed, ended;
+
+ private:
+  bool saveAs_;
+  QString name_;
+};
+
 }  // namespace
 
 class SaveToTest : public QObject {
@@ -274,19 +320,21 @@ class SaveToTest : public QObject {
   }
 
   void aChoiceStaysWhenAnotherRowGoes() {
+    MemoryPicture picture;
+    picture.compose = [](const ComposeRequest& request) {
+      return request.format == VectorFormat::Pdf ? emptyPdf(request.rect.size()) : QByteArray();
+    };
     SaveToFixture f;
+    f.service.setPicture(picture);
     MainWindowController& c = f.eps();
     const auto process = f.service.lastProcess();
     process->hold(PictureCall::Compose);
-    process->fail(PictureCall::Compose, kDied, 1);
     c.doSaveTo();
     choose(c, "TIFF image");
     process->release(PictureCall::Compose);
-    QTRY_VERIFY(c.doSaveToPopUp->count() < kEpsRows.size());
-    if (rows(c).contains("TIFF image"))
-      QCOMPARE(c.doSaveToPopUp->currentText(), QString("TIFF image"));
-    else
-      QCOMPARE(c.doSaveToPopUp->currentIndex(), 0);
+    QTRY_COMPARE(rows(c), kEpsRows.mid(1));  // PDF and what is made of it stay, EPS goes
+    QCOMPARE(c.doSaveToPopUp->currentText(), QString("TIFF image"));
+    QCOMPARE(saved(c, f.panel, f.url("out")), (QVariantList{f.folder.filePath("out.tiff"), true}));
   }
 
   void bytesThatAreMissingInTheEndAreTold() {
@@ -454,7 +502,67 @@ class SaveToTest : public QObject {
     QVERIFY(c.messageBar()->message().isEmpty());
   }
 
-  void aWindowThatIsClosedMeanwhileClosesAfterwards() {
+  void aWindowThatIsClosedMeanwhileAsksAndClosesWhenTheFileIsThere_data() {
+    QTest::addColumn<bool>("saveAs");
+    QTest::newRow("Save As") << true;
+    QTest::newRow("Save To") << false;
+  }
+  void aWindowThatIsClosedMeanwhileAsksAndClosesWhenTheFileIsThere() {
+    QFETCH(bool, saveAs);
+    WritingWindow f(saveAs);
+    f.alerts.answer = 0;  // "Close When Finished"
+    QVERIFY(f.closeMeanwhile());
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QCOMPARE(f.alerts.shown[0].messageText, QString("A file is still being written."));
+    QCOMPARE(f.alerts.shown[0].buttons, (QStringList{"Close When Finished", "Stop and Close", "Keep Open"}));
+    QCOMPARE(f.closed.size(), 1);
+    QCOMPARE(f.read("other.svg"), kSvg);
+  }
+
+  void aWindowThatIsToStayOpenDoes_data() {
+    aWindowThatIsClosedMeanwhileAsksAndClosesWhenTheFileIsThere_data();
+  }
+  void aWindowThatIsToStayOpenDoes() {
+    QFETCH(bool, saveAs);
+    WritingWindow f(saveAs);
+    f.alerts.answer = 2;  // "Keep Open"; dismissing the question is the same
+    QVERIFY(!f.closeMeanwhile());
+    QCOMPARE(f.read("other.svg"), kSvg);
+    f.alerts.answer = -1;
+    QVERIFY(f.c.window()->isVisible() && f.closed.isEmpty());
+    QVERIFY(f.c.window()->close());  // nothing is being written any more
+    QCOMPARE(f.alerts.shown.size(), 1);
+  }
+
+  void anEndDuringTheQuestionNeedsNoFurtherWaiting() {
+    WritingWindow f(false);
+    f.alerts.answer = 0;
+    f.alerts.whileShown = [&f] {
+      f.process->release(PictureCall::Svg);
+      QVERIFY(QTest::qWaitFor([&f] { return !f.ended.isEmpty(); }, 20000));
+    };
+    QVERIFY(f.c.window()->close());
+    QCOMPARE(f.read("other.svg"), kSvg);
+  }
+
+  void whatCouldNotBeWrittenKeepsTheWindowOpen() {
+    WritingWindow f(false, "nowhere/other");
+    f.alerts.answer = 0;
+    QVERIFY(!f.closeMeanwhile());
+    QCOMPARE(f.alerts.shown.size(), 2);
+    QCOMPARE(f.alerts.shown[1].informativeText, f.folder.filePath("nowhere/other.svg"));
+    QVERIFY(f.c.window()->isVisible());
+  }
+
+  void aSaveToCanBeStopped() {
+    WritingWindow f(false);
+    emit f.c.window()->findChild<LoadingCard*>()->cancelled();
+    QTRY_COMPARE(f.ended.size(), 1);
+    QCOMPARE(QDir(f.folder.path()).entryList({"other*"}), QStringList());
+    QCOMPARE(f.alerts.shown.size(), 0);
+  }
+
+  void aWindowThatIsStoppedAndClosedWritesNothing() {
     SaveToFixture f;
     MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
     c.setShouldCloseDocument(true);
@@ -462,6 +570,7 @@ class SaveToTest : public QObject {
     c.window()->show();
     const auto process = f.service.lastProcess();
     process->hold(PictureCall::Svg);
+    f.alerts.answer = 1;  // "Stop and Close"
     c.saveDocumentAs();
     bool asked = false;
     whileSaving(c, [&] {

@@ -90,12 +90,14 @@ class ValidationTest : public QObject {
 
   void theStateFollowsThePictureThroughReverts() {
     WindowFixture fixture;
-    MainWindowController& c = fixture.loadedEps();
-    fixture.write("nothing", "a.eps");
-    fixture.document.revertDocumentToSaved();
+    MainWindowController& c = fixture.loaded("nothing", "a.eps", NorvexEPSType);
     QCOMPARE(not_(false, c), QStringList());
     fixture.write(epsBytes(), "a.eps");
-    fixture.document.revertDocumentToSaved();
+    fixture.revert();
+    QCOMPARE(not_(true, c), QStringList());
+    // The picture stays, and so does what can be done with it.
+    fixture.write("nothing", "a.eps");
+    fixture.revert();
     QCOMPARE(not_(true, c), QStringList());
   }
 

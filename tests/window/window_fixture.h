@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 
+#include "base/waiting_threads.h"
 #include "desktop/alert.h"
 #include "document/document.h"
 #include "picture/process/memory_picture_service.h"
@@ -21,9 +24,12 @@ class RecordingAlerts final : public AlertPresenter {
  public:
   int runModal(const Alert& alert) override {
     shown << alert;
-    return -1;
+    if (whileShown) whileShown();
+    return answer;
   }
   QList<Alert> shown;
+  int answer = -1;
+  std::function<void()> whileShown;
 };
 
 /// An EPS file whose box is (10, 20, 200, 100).
@@ -66,10 +72,16 @@ class WindowFixture {
     made.windowDidLoad();
     return made;
   }
+  /// Reads the file again and waits until that is done.
+  void revert() {
+    document.revertDocumentToSaved();
+    if (!QTest::qWaitFor([this] { return !controller().isReading(); }, 20000)) qFatal("never read");
+  }
   MainWindowController& loadedEps() { return loaded(epsBytes(), "a.eps", NorvexEPSType); }
 
   QTemporaryDir folder;
   MemoryPictureService service;
+  WaitingThreadsEnd threadsEnd;  ///< what a window leaves behind still asks the service
   RecordingAlerts alerts;
   Document document;
 };

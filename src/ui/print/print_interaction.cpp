@@ -41,9 +41,20 @@ void QtPrintInteraction::beginPageLayout(const NSPrintInfo& printInfo,
   sheet->open();
 }
 
+int QtPrintInteraction::preparationDidBegin(const QString& title, const CancelToken& cancel) {
+  return showProgress(localizedString("Preparing “%1” for printing…").arg(title), cancel);
+}
+
+void QtPrintInteraction::preparationDidEnd(int number, const QString& title, const Result<void>& result) {
+  jobDidEnd(number, title, result);
+}
+
 int QtPrintInteraction::jobDidBegin(const QString& title, const CancelToken& cancel) {
-  auto* dialog = new QProgressDialog(localizedString("Printing “%1”…").arg(title), localizedString("Cancel"),
-                                     0, 0, window_);
+  return showProgress(localizedString("Printing “%1”…").arg(title), cancel);
+}
+
+int QtPrintInteraction::showProgress(const QString& text, const CancelToken& cancel) {
+  auto* dialog = new QProgressDialog(text, localizedString("Cancel"), 0, 0, window_);
   dialog->setWindowTitle(localizedString("Printing"));
   dialog->setMinimumWidth(kProgressWidth);
   // Its own patience does not count for a bar without an end.

@@ -24,12 +24,17 @@ class QtPrintInteraction final : public PrintInteraction {
   bool runPrintPanel(NSPrintOperation& operation) override;
   void beginPageLayout(const NSPrintInfo& printInfo,
                        std::function<void(const NSPrintInfo&, int)> end) override;
+  /// As with a job.
+  int preparationDidBegin(const QString& title, const CancelToken& cancel) override;
+  void preparationDidEnd(int number, const QString& title, const Result<void>& result) override;
   /// Shows progress with Cancel when the job takes longer than a moment.
   int jobDidBegin(const QString& title, const CancelToken& cancel) override;
   /// Tells a failure in one alert; a cancelled job is none.
   void jobDidEnd(int job, const QString& title, const Result<void>& result) override;
 
  private:
+  int showProgress(const QString& text, const CancelToken& cancel);
+
   PrintSpooler& spooler_;
   QPointer<QWidget> window_;
   AlertPresenter* alerts_;

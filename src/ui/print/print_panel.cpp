@@ -5,9 +5,11 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -32,6 +34,7 @@ namespace {
 
 constexpr int kSettleMs = 80;
 constexpr int kRefreshMs = 5000;
+const QString kSuffix = QStringLiteral("pdf");
 const QString kFileItem = QStringLiteral("\n");  // no printer can be called that
 
 QString sentence(const QString& message) {
@@ -83,8 +86,17 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   connect(&settle_, &QTimer::timeout, this, &PrintPanel::drawPage);
   connect(&refresh_, &QTimer::timeout, this, &PrintPanel::fetchPrinters);
   askForFile = [this](const QString& suggestion) {
-    return QFileDialog::getSaveFileName(this, localizedString("Save the pages as PDF"), suggestion,
-                                        localizedString("PDF") + QStringLiteral(" (*.pdf)"));
+    QFileDialog dialog(this, localizedString("Save the pages as PDF"), {},
+                       localizedString("PDF") + QStringLiteral(" (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(kSuffix);
+    dialog.selectFile(suggestion);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+  };
+  mayReplace = [this](const QString& path) {
+    return QMessageBox::question(this, windowTitle(),
+                                 localizedString("“%1” exists already. Do you want to replace it?")
+                                     .arg(QFileInfo(path).fileName())) == QMessageBox::Yes;
   };
   layout_->setPrintInfo(info_);
   refresh_.start(kRefreshMs);
@@ -322,9 +334,13 @@ void PrintPanel::changeEvent(QEvent* event) {
 void PrintPanel::accept() {
   info_.setJobSavingPath(QString());
   if (savesToFile()) {
-    const QString path = askForFile(source_.jobTitle + QStringLiteral(".pdf"));
+    const QString path = askForFile(source_.jobTitle + u'.' + kSuffix);
     if (path.isEmpty()) return;
-    info_.setJobSavingPath(path);
+    // Whatever was typed, a PDF is called one; and the question about another file's name says nothing here.
+    const bool isCalledPdf = path.endsWith(u'.' + kSuffix, Qt::CaseInsensitive);
+    const QString target = isCalledPdf ? path : path + u'.' + kSuffix;
+    if (!isCalledPdf && QFileInfo::exists(target) && !mayReplace(target)) return;
+    info_.setJobSavingPath(target);
   }
   operation_.printInfo() = info_;
   QDialog::accept();

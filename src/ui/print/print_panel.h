@@ -48,6 +48,8 @@ class PrintPanel final : public QDialog {
   [[nodiscard]] int pageCount() const { return pages_ ? int(pages_->tiles.size()) : 0; }
   /// Asks for the file in which the pages are saved; a test may put its own answer.
   std::function<QString(const QString& suggestion)> askForFile;
+  /// Asks whether that file, which nobody named like this, may be replaced; a test may put its own answer.
+  std::function<bool(const QString& path)> mayReplace;
 
   /// Asks for the printers again, on another thread.
   void fetchPrinters();

@@ -8,7 +8,11 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
+#include <QThread>
 #include <QToolButton>
+
+#include <atomic>
 
 #include "kit/test_main.h"
 #include "picture/process/null_picture_service.h"
@@ -23,10 +27,12 @@ namespace {
 
 class Drawing final : public PrintableView {
  public:
-  explicit Drawing(const QSizeF& size) : size_(size) {}
+  using Picture = std::function<Result<PictureBytes>(const CancelToken&)>;
+  explicit Drawing(const QSizeF& size, Picture picture = {}) : size_(size), picture_(std::move(picture)) {}
   [[nodiscard]] PrintSource printSource() const override {
     PrintSource source;
     source.size = size_;
+    source.picture = picture_;
     source.jobTitle = "A drawing";
     source.header = [] { return std::optional(defaultPageLine()); };
     source.footer = [] { return std::optional(defaultPageLine()); };
@@ -35,6 +41,7 @@ class Drawing final : public PrintableView {
 
  private:
   QSizeF size_;
+  Picture picture_;
 };
 
 NSPrintInfo a4() {
@@ -58,11 +65,12 @@ class PrintPanelTest : public QObject {
   std::unique_ptr<MemorySpooler> spooler_;
   std::unique_ptr<NSPrintOperation> operation_;
   std::unique_ptr<PrintPanel> panel_;
+  Drawing::Picture picture_;  ///< of the next panel; none: blank pages
 
   void open(const QSizeF& size, const QList<Printer>& printers = kPrinters, const NSPrintInfo& info = a4()) {
     panel_.reset();
     spooler_ = std::make_unique<MemorySpooler>(printers);
-    operation_ = NSPrintOperation::printOperationWithView(std::make_unique<Drawing>(size), info,
+    operation_ = NSPrintOperation::printOperationWithView(std::make_unique<Drawing>(size, picture_), info,
                                                           {&service_, spooler_.get(), nullptr});
     operation_->printPanel().setOptions(operation_->printPanel().options() | 28);
     panel_ = std::make_unique<PrintPanel>(*operation_, *spooler_, nullptr);
@@ -83,7 +91,10 @@ class PrintPanelTest : public QObject {
   }
 
  private slots:
-  void cleanup() { panel_.reset(); }
+  void cleanup() {
+    panel_.reset();
+    picture_ = {};
+  }
 
   void theDefaultPrinterIsChosenAndItsStateIsTold() {
     open({100, 100});
@@ -111,6 +122,44 @@ class PrintPanelTest : public QObject {
     QCOMPARE(suggested, QString("A drawing.pdf"));
     QCOMPARE(operation_->printInfo().jobSavingPath(), QString("/tmp/somewhere.pdf"));
     QCOMPARE(panel_->result(), int(QDialog::Accepted));
+  }
+
+  void aFileOfPagesIsCalledPdf_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("written");
+    QTest::newRow("no extension") << "pages"
+                                  << "pages.pdf";
+    QTest::newRow("another one") << "pages.txt"
+                                 << "pages.txt.pdf";
+    QTest::newRow("its own") << "pages.PDF"
+                             << "pages.PDF";
+  }
+  void aFileOfPagesIsCalledPdf() {
+    QFETCH(QString, typed);
+    QFETCH(QString, written);
+    QTemporaryDir folder;
+    open({100, 100}, {});
+    panel_->askForFile = [&](const QString&) { return folder.filePath(typed); };
+    panel_->accept();
+    QCOMPARE(operation_->printInfo().jobSavingPath(), folder.filePath(written));
+  }
+
+  void aFileThatNobodyNamedIsNotReplacedUnasked() {
+    QTemporaryDir folder;
+    QFile there(folder.filePath("pages.pdf"));
+    QVERIFY(there.open(QIODevice::WriteOnly));
+    open({100, 100}, {});
+    panel_->askForFile = [&](const QString&) { return folder.filePath("pages"); };
+    QStringList asked;
+    panel_->mayReplace = [&asked](const QString& path) {
+      asked << path;
+      return asked.size() > 1;
+    };
+    panel_->accept();
+    QVERIFY(panel_->isVisible() && operation_->printInfo().jobSavingPath().isEmpty());
+    panel_->accept();
+    QCOMPARE(asked, (QStringList{there.fileName(), there.fileName()}));
+    QCOMPARE(operation_->printInfo().jobSavingPath(), there.fileName());
   }
 
   void aFileThatIsNotChosenLeavesThePanelOpen() {
@@ -176,11 +225,18 @@ class PrintPanelTest : public QObject {
   }
 
   void aPanelMayBeClosedWhileItIsDrawing() {
-    for (int i = 0; i < 5; ++i) {
-      open({3000, 2000});
-      QTest::qWait(90);
-      panel_.reset();
-    }
+    std::atomic<int> drawings = 0;
+    std::atomic<bool> stopped = false;
+    picture_ = [&](const CancelToken& cancel) -> Result<PictureBytes> {
+      ++drawings;
+      while (!cancel.cancelled()) QThread::msleep(2);
+      stopped = true;
+      return Error{ErrorKind::Cancelled, "stopped"};
+    };
+    open({3000, 2000});
+    QTRY_COMPARE(drawings.load(), 1);
+    panel_.reset();  // comes back, and with it the drawing
+    QVERIFY(stopped);
   }
 
   // ---- the page-layout sheet ----------------------------------------------------------------------------

@@ -30,13 +30,6 @@ class ViewComposeTest : public QObject {
     QCOMPARE(requests[1].rect, QRectF(1, 2, 3, 4));
   }
 
-  void theSelectionIsNoPartOfTheOutput() {
-    ViewFixture f;
-    const QByteArray plain = f.view.dataWithPDFInsideRect(f.view.bounds());
-    f.view.selectBounds();
-    QCOMPARE(f.view.dataWithPDFInsideRect(f.view.bounds()), plain);
-  }
-
   void theRenderingViewHasThePicturesCornerAtItsOrigin() {
     QuarteredImageRep rep({200, 100});
     const NorvexRenderingView view(QRectF(0, 0, 200, 100), &rep);

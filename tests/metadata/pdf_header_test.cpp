@@ -1,8 +1,9 @@
 // The header dictionaries of PDF and SVG documents.
 #include "metadata/pdf_header.h"
 
+#include <QTimeZone>
+
 #include "kit/test_main.h"
-#include "metadata/full_date.h"
 
 using namespace norvex;
 
@@ -44,11 +45,13 @@ class PdfHeaderTest : public QObject {
 
   void theCreationDateIsShownInFull() {
     PictureFacts facts;
-    facts.creationDate = QDateTime(QDate(2014, 2, 3), QTime(9, 7, 5), Qt::UTC);
+    facts.creationDate = QDateTime(QDate(2014, 2, 3), QTime(9, 7, 5), QTimeZone::systemTimeZone());
     const QLocale english(QLocale::English, QLocale::UnitedStates);
     const QString date = pdfHeader(facts, english).value(header::CreationDate).toString();
-    QCOMPARE(date, fullDate(*facts.creationDate, english));
-    QVERIFY(date.contains("Monday"));
+    // Day, date, time to the second and the zone; between date and time it depends on the release of ICU.
+    QVERIFY2(date.startsWith("Monday, February 3, 2014"), qPrintable(date));
+    QVERIFY2(date.contains("9:07:05"), qPrintable(date));
+    QVERIFY2(date.size() > date.indexOf("9:07:05") + 10, qPrintable(date));
   }
 };
 

@@ -54,11 +54,14 @@ class Outlines {
     std::vector<bool> kept(size_t(count_), false);
     std::vector<int> open(glyphs.begin(), glyphs.end());
     open.push_back(0);
+    qsizetype needed = 0;  // outlines that lie over each other would add up to gigabytes
     while (!open.empty()) {
       const int glyph = open.back();
       open.pop_back();
       if (glyph < 0 || glyph >= count_ || kept[size_t(glyph)]) continue;
       kept[size_t(glyph)] = true;
+      needed += end(glyph) - begin(glyph);
+      if (needed >= glyf_.length) return {};
       addParts(glyph, open);
     }
     // Glyphs behind the last one that is left are as if they had never been.

@@ -1,31 +1,22 @@
+#include <sys/resource.h>
+
 #include <QFile>
 
+#include <algorithm>
+#include <set>
+
+#include "kit/forked_check.h"
 #include "kit/test_main.h"
 #include "worker/eps_output/font_thinning.h"
 #include "worker/kit/eps_kit.h"
+#include "worker/kit/made_font.h"
 #include "worker/kit/made_pdf.h"
 
 using namespace norvex;
 using namespace norvex::engine;
+using kit::cff, kit::composed, kit::outline, kit::trueType;
 
 namespace {
-
-QByteArray number(quint32 value, int bytes) {
-  QByteArray text;
-  for (int i = bytes - 1; i >= 0; --i) text += char(value >> (8 * i));
-  return text;
-}
-
-// An outline of 16 bytes with one contour, or one composed of `parts`.
-QByteArray outline(char mark) {
-  return number(1, 2) + QByteArray(14, mark);
-}
-QByteArray composed(const QList<int>& parts) {
-  QByteArray text = number(0xffff, 2) + QByteArray(8, '\0');
-  for (qsizetype i = 0; i < parts.size(); ++i)
-    text += number(i + 1 < parts.size() ? 0x21 : 0x1, 2) + number(quint32(parts[i]), 2) + QByteArray(4, '\0');
-  return text + QByteArray(text.size() % 2, '\0');
-}
 
 QByteArray tableOf(const QByteArray& font, const char* tag) {
   const int count = quint8(font[5]);
@@ -38,55 +29,11 @@ QByteArray tableOf(const QByteArray& font, const char* tag) {
   return {};
 }
 
-QByteArray trueType(const QList<QByteArray>& outlines) {
-  QByteArray places;
-  QByteArray glyf;
-  for (const QByteArray& one : outlines) {
-    places += number(quint32(glyf.size()), 4);
-    glyf += one;
-  }
-  places += number(quint32(glyf.size()), 4);
-  const QList<std::pair<QByteArray, QByteArray>> tables{
-      {"glyf", glyf},
-      {"head", QByteArray(50, '\0') + number(1, 2) + number(0, 2)},
-      {"hhea", QByteArray(34, '\0') + number(quint32(outlines.size()), 2)},
-      {"hmtx", QByteArray(4 * outlines.size(), '\7')},
-      {"loca", places},
-      {"maxp", number(0x10000, 4) + number(quint32(outlines.size()), 2)}};
-  QByteArray font = number(0x10000, 4) + number(quint32(tables.size()), 2) + QByteArray(6, '\0');
-  qsizetype offset = 12 + 16 * tables.size();
-  for (const auto& [tag, bytes] : tables) {
-    font += tag + number(0, 4) + number(quint32(offset), 4) + number(quint32(bytes.size()), 4);
-    offset += bytes.size();
-  }
-  for (const auto& [tag, bytes] : tables) font += bytes;
-  return font;
-}
-
-QByteArray indexOf(const QList<QByteArray>& items) {
-  if (items.isEmpty()) return number(0, 2);
-  QByteArray text = number(quint32(items.size()), 2) + number(2, 1);
-  quint32 offset = 1;
-  for (const QByteArray& item : items) {
-    text += number(offset, 2);
-    offset += quint32(item.size());
-  }
-  text += number(offset, 2);
-  for (const QByteArray& item : items) text += item;
-  return text;
-}
-
-// A CFF font whose dictionary has a number in each of the ways in which they are written before the one that
-// counts.
-QByteArray cff(const QList<QByteArray>& charstrings) {
-  const QByteArray opening = QByteArray("\1\0\4\1", 4) + indexOf({"Name"});
-  const auto fontIndex = [](qsizetype place) {
-    return indexOf({QByteArray("\x1e\x12\x3f\x05\x8b\x01\xf7\x10\x02\xfb\x10\x03\x0c\x07", 14) + '\x1c' +
-                    number(7, 2) + '\4' + '\x1d' + number(quint32(place), 4) + char(17)});
-  };
-  const QByteArray rest = indexOf({}) + indexOf({});
-  const qsizetype place = opening.size() + fontIndex(0).size() + rest.size();
-  return opening + fontIndex(place) + rest + indexOf(charstrings);
+/// The most memory that this process had so far, KiB.
+qint64 peakMemory() {
+  rusage usage{};
+  ::getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss;
 }
 
 const QList<QByteArray> kOutlines{outline('a'), outline('b'), composed({1, 4}),
@@ -101,11 +48,11 @@ class FontThinningTest : public QObject {
     const auto thin = thinnedFont(trueType(kOutlines), {3});
     QVERIFY(thin);
     QCOMPARE(tableOf(*thin, "glyf"), kOutlines[0] + kOutlines[3]);
-    QCOMPARE(tableOf(*thin, "loca"),
-             number(0, 4) + number(16, 4) + number(16, 4) + number(16, 4) + number(32, 4));
-    QCOMPARE(tableOf(*thin, "maxp"), number(0x10000, 4) + number(4, 2));
+    QCOMPARE(tableOf(*thin, "loca"), kit::bigEndian(0, 4) + kit::bigEndian(16, 4) + kit::bigEndian(16, 4) +
+                                         kit::bigEndian(16, 4) + kit::bigEndian(32, 4));
+    QCOMPARE(tableOf(*thin, "maxp"), kit::bigEndian(0x10000, 4) + kit::bigEndian(4, 2));
     QCOMPARE(tableOf(*thin, "hmtx").size(), 16);
-    QCOMPARE(tableOf(*thin, "hhea").right(2), number(4, 2));
+    QCOMPARE(tableOf(*thin, "hhea").right(2), kit::bigEndian(4, 2));
   }
 
   void partsOfOutlinesStay() {
@@ -120,10 +67,27 @@ class FontThinningTest : public QObject {
     QVERIFY(thinnedFont(trueType({outline('a'), composed({2}), composed({1, 70}), outline('d')}), {1}));
   }
 
+  // Two thousand glyphs whose outlines are all the same megabyte.
+  void outlinesThatLieOverEachOtherAreNotAddedUp() {
+    QByteArray font =
+        trueType(QList<QByteArray>(2000, QByteArray()) + QList<QByteArray>{QByteArray(1 << 20, 'a')});
+    const qsizetype places = font.indexOf(tableOf(font, "loca"));
+    for (int glyph = 1; glyph < 2001; glyph += 2)
+      font.replace(places + 4 * glyph, 4, kit::bigEndian(1 << 20, 4));
+    std::set<int> shown;
+    for (int glyph = 0; glyph < 2000; ++glyph) shown.insert(glyph);
+    const int megabytes = kit::inForkedChild([&] {
+      const qint64 before = peakMemory();
+      if (thinnedFont(font, shown)) return 255;
+      return int(std::min<qint64>(254, (peakMemory() - before) >> 10));
+    });
+    QVERIFY2(megabytes >= 0 && megabytes < 100, qPrintable(QString::number(megabytes)));
+  }
+
   void charstringsThatAreNotShownAreEmptied() {
     const auto thin = thinnedFont(cff({"none", "first", "second", "third"}), {2, 900});
     QVERIFY(thin);
-    const QByteArray expected = indexOf({"none", "\x0e", "second", "\x0e"});
+    const QByteArray expected = kit::cffIndex({"none", "\x0e", "second", "\x0e"});
     QVERIFY(thin->contains(expected));
     QCOMPARE(thin->size(), cff({"none", "first", "second", "third"}).size());
   }

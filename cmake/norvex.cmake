@@ -18,6 +18,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
 endif()
 target_compile_definitions(norvex_flags INTERFACE
   NORVEX_VERSION="${PROJECT_VERSION}" QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+  target_compile_options(norvex_flags INTERFACE -pthread)  # some libraries ask for it; one precompiled header serves all
+endif()
 if(NORVEX_SANITIZE)
   target_compile_options(norvex_flags INTERFACE
     -fsanitize=${NORVEX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

@@ -1,10 +1,10 @@
-// The files of tests/data/metadata, what they hold, and what is left of them when they are cut or damaged.
-#include <QDir>
+// The files of tests/data/metadata and what they hold; tests/fuzz cuts and damages them.
+#include <QFile>
 #include <QLoggingCategory>
-#include <QRandomGenerator>
 
-#include "fuzz/metadata_targets.h"
 #include "kit/test_main.h"
+#include "metadata/eps_header.h"
+#include "metadata/source_text.h"
 
 using namespace norvex;
 
@@ -15,10 +15,6 @@ const QString kFolder = QStringLiteral(NORVEX_SOURCE_DIR "/tests/data/metadata/"
 QByteArray contents(const QString& name) {
   QFile file(kFolder + name);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void runAllTargets(const QByteArray& bytes) {
-  for (const fuzz::Target& target : fuzz::metadataTargets) target.run(bytes);
 }
 
 }  // namespace
@@ -69,30 +65,6 @@ class HostileFilesTest : public QObject {
     const QString text =
         sourceText(PictureKind::Eps, bytes, dictionary.value(header::EncodingNumber).toLongLong());
     QCOMPARE(text.contains("%%Title: " + title), !title.isEmpty());
-  }
-
-  void everyFileIsReadWithoutHarm() {
-    const QStringList names = QDir(kFolder).entryList(QDir::Files);
-    QVERIFY(names.size() > 15);
-    for (const QString& name : names) runAllTargets(contents(name));
-  }
-
-  void everyFileIsReadWithoutHarmWhereverItIsCut() {
-    for (const QString& name : QDir(kFolder).entryList(QDir::Files)) {
-      const QByteArray bytes = contents(name);
-      for (int part = 0; part < 256; ++part) runAllTargets(bytes.first(bytes.size() * part / 256));
-    }
-  }
-
-  void everyFileIsReadWithoutHarmWhateverIsDamaged() {
-    QRandomGenerator random(20140203);
-    for (const QString& name : QDir(kFolder).entryList(QDir::Files))
-      for (int round = 0; round < 200; ++round) {
-        QByteArray bytes = contents(name);
-        for (int change = 0; change < 4; ++change)
-          bytes[random.bounded(qsizetype(bytes.size()))] = char(random.bounded(256));
-        runAllTargets(bytes);
-      }
   }
 };
 

@@ -62,8 +62,9 @@ Result<SvgText> decodeWide(const QByteArray& bytes, const Family& family) {
   const bool sixteen = *family.wide == QStringConverter::Utf16LE || *family.wide == QStringConverter::Utf16BE;
   text.declaredName = sixteen ? "UTF-16" : "UTF-32";
   QStringDecoder decoder(*family.wide, QStringConverter::Flag::ConvertInitialBom);
-  const QString wide = decoder.decode(bytes.mid(family.markBytes));
+  QString wide = decoder.decode(bytes.mid(family.markBytes));
   if (decoder.hasError() || bytes.size() % (sixteen ? 2 : 4) != 0) return notText(text.declaredName);
+  while (wide.startsWith(QChar::ByteOrderMark)) wide.remove(0, 1);  // a converter's left-over
   text.utf8 = wide.toUtf8();
   text.handedOnAsUtf8 = !sixteen;
   text.encodingName = sixteen ? QStringLiteral("utf-16") : QStringLiteral("utf-8");

@@ -38,9 +38,9 @@ class AffineTransform {
   [[nodiscard]] constexpr double dx() const { return dx_; }
   [[nodiscard]] constexpr double dy() const { return dy_; }
   [[nodiscard]] constexpr double determinant() const { return m11_ * m22_ - m12_ * m21_; }
-  /// Whether every number is finite.
+  /// True when every number is finite.
   [[nodiscard]] bool isFinite() const;
-  /// Whether it maps the plane onto the plane, not onto a line or a point; exactly, however flat.
+  /// True when it maps the plane onto the plane, not onto a line or a point; exactly, however flat.
   [[nodiscard]] constexpr bool isInvertible() const { return determinant() != 0; }
   [[nodiscard]] constexpr bool isIdentity() const { return *this == AffineTransform(); }
   constexpr bool operator==(const AffineTransform&) const = default;

@@ -18,7 +18,7 @@ enum class IfExists { Fail, Replace };
 /// thread.
 Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, IfExists ifExists);
 
-/// Whether both paths lead to one existing file, through whatever links.
+/// True when both paths lead to one existing file, through whatever links.
 [[nodiscard]] bool isSameFile(const QString& path, const QString& other);
 
 }  // namespace norvex

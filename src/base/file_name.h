@@ -18,9 +18,9 @@ namespace norvex {
 /// character in front of it, a null one at the start.
 [[nodiscard]] int rawByteOf(QChar character, QChar before);
 
-/// Whether something is there under that name, a link that leads nowhere excepted.
+/// True when something is there under that name, a link that leads nowhere excepted.
 [[nodiscard]] bool fileExists(const QString& name);
-/// Whether it is a folder, or a link to one.
+/// True for a folder, or a link to one.
 [[nodiscard]] bool folderExists(const QString& name);
 
 }  // namespace norvex

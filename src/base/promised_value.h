@@ -32,7 +32,7 @@ class PromisedValue {
     });
     return value_;
   }
-  /// Whether get() returns at once.
+  /// True when get() returns at once.
   [[nodiscard]] bool isMade() const { return made_; }
 
  private:

@@ -31,7 +31,7 @@ class DscComments {
  public:
   DscComments(QByteArrayView bytes, qint64 encodingNumber);
 
-  /// Whether the keyword occurs anywhere in the text, in comments or not.
+  /// True when the keyword occurs anywhere in the text, in comments or not.
   [[nodiscard]] bool contains(DscKeyword keyword) const { return behind(keyword) >= 0; }
   /// The value behind the keyword's first occurrence: blanks and line breaks skipped, then everything up to a
   /// line feed, a carriage return or a percent sign; trailing blanks stay. Empty when there is none.

@@ -1,4 +1,4 @@
-// Whether an EPS source is all there. A transfer that broke off leaves a file that still opens and draws a
+// The completeness of an EPS source: a transfer that broke off leaves a file that still opens and draws a
 // part.
 #pragma once
 

@@ -18,7 +18,7 @@ namespace norvex {
 /// bytes stand at the text's start, and when they tell nothing it is big-endian. Thread-safe.
 [[nodiscard]] std::optional<QString> decodeText(QByteArrayView bytes, qint64 encodingNumber);
 
-/// Whether decodeText() would give a text, for less work where the encoding allows it. Thread-safe.
+/// True when decodeText() would give a text, for less work where the encoding allows it. Thread-safe.
 [[nodiscard]] bool isDecodable(QByteArrayView bytes, qint64 encodingNumber);
 
 /// The text of `bytes` in an encoding of ICU's by name ("macintosh"), for readings that no encoding number

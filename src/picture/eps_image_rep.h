@@ -22,7 +22,7 @@ class NSEPSImageRep final : public NSImageRep {
   /// `%%HiResBoundingBox` where the header has one.
   [[nodiscard]] std::optional<QRectF> hiResBoundingBox() const { return hiResBoundingBox_; }
   [[nodiscard]] QSizeF size() const override { return boundingBox_.size(); }
-  /// What a file that is cut off lacks. Looks through the whole program.
+  /// The parts that a file that is cut off lacks. Looks through the whole program.
   [[nodiscard]] QStringList warnings() const override;
 
  private:

@@ -43,8 +43,7 @@ class NSImageRep : public QObject {
   /// The page that is shown, from 0; only PDF has more than one.
   [[nodiscard]] int page() const { return page_; }
 
-  /// What was noticed about the document, one plain sentence each: what is missing, what is passed over. Any
-  /// thread.
+  /// Remarks about the document, one plain sentence each: what is missing, what is passed over. Any thread.
   [[nodiscard]] virtual QStringList warnings() const { return {}; }
 
   /// Draws the picture at its natural size with its lower-left corner at the painter's origin; the painter's
@@ -53,10 +52,10 @@ class NSImageRep : public QObject {
   /// the device is the painter's clip, or all of it without one: set the clip to the visible part of a
   /// scrolled view.
   virtual void draw(QPainter& painter);
-  /// Whether what the last draw() showed is sharp and complete by now (tests, benchmarks and the progress bar
-  /// ask).
+  /// True when the picture that the last draw() showed is sharp and complete by now (tests, benchmarks and
+  /// the progress bar ask).
   [[nodiscard]] bool isSharp() const;
-  /// Whether a visible part is being rendered.
+  /// True while a visible part is being rendered.
   [[nodiscard]] bool isRendering() const;
   /// Why what the last draw() showed does not become sharp; nothing: it does or will.
   [[nodiscard]] std::optional<Error> renderingError() const;

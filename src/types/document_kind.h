@@ -1,4 +1,4 @@
-// What kind of document a type identifier stands for.
+// The kind of document that a type identifier stands for.
 #pragma once
 
 #include <QString>

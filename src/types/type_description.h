@@ -1,4 +1,4 @@
-// What the formats are called in lists that people choose from.
+// The names of the formats in lists that people choose from.
 #pragma once
 
 #include <QString>

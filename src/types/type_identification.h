@@ -1,4 +1,4 @@
-// What a file is: by its content first, by its name where the content leaves a choice or tells nothing.
+// The type of a file: by its content first, by its name where the content leaves a choice or tells nothing.
 #pragma once
 
 #include <QByteArrayView>

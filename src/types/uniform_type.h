@@ -27,7 +27,7 @@ class UTType {
   static UTType exportedTypeWithIdentifier(const QString& identifier, const QStringList& parents);
 
   [[nodiscard]] const QString& identifier() const { return identifier_; }
-  /// Whether this is `other` or one of the kinds of it, however far down.
+  /// True when this is `other` or one of the kinds of it, however far down.
   [[nodiscard]] bool conformsToType(const UTType& other) const;
   [[nodiscard]] bool conformsToType(const QString& identifier) const;
   /// Without the dot; empty for a type that no file has.

@@ -90,6 +90,7 @@ QList<QByteArray> annotationSeeds() {
 QList<QByteArray> contents() {
   return {"1 0 0 rg 0 0 9 9 re f 0.5 G /Cs1 cs 0 1 0 0 k",
           "BT (a (b) \\) rg) Tj ET <3c3e> Tj % k\n/DeviceRGB CS << /K (x) >> BDC",
+          "/DeviceA cs /DeviceB CS /DeviceC cs /DeviceD cs",
           "BI /W 2 /H 1 /CS /CMYK /BPC 8 ID 12345678 EI 1 g"};
 }
 

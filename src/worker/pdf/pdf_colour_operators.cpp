@@ -28,6 +28,7 @@ class Scanner {
   QByteArrayView word();
   void takeName(QByteArrayView name);
   void takeOperator(QByteArrayView name);
+  void addChosen();
   void add(const char* space);
 
   const char* at_;
@@ -87,6 +88,12 @@ void Scanner::takeName(QByteArrayView name) {
   lastName_ = name;
 }
 
+// Names of three spaces alone: contents can choose as many that do not exist as they like.
+void Scanner::addChosen() {
+  for (const char* space : {"DeviceGray", "DeviceRGB", "DeviceCMYK"})
+    if (lastName_ == QByteArrayView(space)) add(space);
+}
+
 void Scanner::takeOperator(QByteArrayView name) {
   if (name == "g" || name == "G")
     add("DeviceGray");
@@ -94,8 +101,8 @@ void Scanner::takeOperator(QByteArrayView name) {
     add("DeviceRGB");
   else if (name == "k" || name == "K")
     add("DeviceCMYK");
-  else if ((name == "cs" || name == "CS") && lastName_.startsWith("Device") && lastName_ != "DeviceN")
-    add(lastName_.toByteArray().constData());
+  else if (name == "cs" || name == "CS")
+    addChosen();
   else if (name == "ID")
     skipInlineSamples();
 }

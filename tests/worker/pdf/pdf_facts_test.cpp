@@ -287,6 +287,11 @@ class PdfFactsTest : public QObject {
     QVERIFY(factsOf(onePage("0 0 1 1 re"))->colorSpaces.isEmpty());
   }
 
+  void colourSpacesThatDoNotExistAreNotNamed() {
+    QVERIFY(deviceColoursOf("/DeviceA cs /DeviceLab CS /Devices cs").isEmpty());
+    QCOMPARE(deviceColoursOf("/DeviceRGB cs /DeviceX CS"), QStringList{"DeviceRGB"});
+  }
+
   void colourOperatorsAreFoundInContentsAlone() {
     QCOMPARE(deviceColoursOf("BI /W 1 /CS /RGB ID \x01 0 g \x02 EI 0 0 0 1 K"),
              (QStringList{"DeviceRGB", "DeviceCMYK"}));

@@ -43,7 +43,11 @@ struct FreeDocument {
   void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
 };
 struct FreeContext {
-  void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+  void operator()(xmlParserCtxt* context) const {
+    // Of libxml2's own making, for entities; it is left behind where the text breaks off.
+    xmlFreeDoc(context->myDoc);
+    xmlFreeParserCtxt(context);
+  }
 };
 
 /// The parser's events come here.

@@ -34,11 +34,10 @@ Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureSe
                                                                        const QByteArray& bytes,
                                                                        const PictureLimits& limits) {
   if (bytes.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the file is empty")};
+  if (!beginsPostScript(epsProgram(bytes)))
+    return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
   const EpsBoundingBoxes boxes = epsBoundingBoxes(bytes);
   const std::optional<QRectF> box = epsPictureBox(boxes);
-  // Where only the first line is missing, the box tells what the file is.
-  if (!box && !beginsPostScript(epsProgram(bytes)))
-    return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
   if (!box)
     return Error{ErrorKind::NotParsable,
                  QStringLiteral("the PostScript header states no usable bounding box")};

@@ -194,7 +194,8 @@ class WorkerServiceTest : public QObject {
     QVERIFY(process->facts().ok());
     const qint64 pid = processOf(process);
     const CancelToken token;
-    std::thread canceller([&] { QThread::msleep(30), token.cancel(); });
+    // Late enough to find it drawing: what has not been begun is not done, and costs no process its life.
+    std::thread canceller([&] { QThread::msleep(300), token.cancel(); });
     QCOMPARE(process->render(drawing(), token).error().kind, ErrorKind::Cancelled);
     canceller.join();
     QVERIFY(eventually([&] { return stateOf(pid) == 0; }));

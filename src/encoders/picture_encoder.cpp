@@ -9,7 +9,7 @@
 #include "encoders/epsi_writer.h"
 #include "encoders/monoclome_bitmap.h"
 #include "encoders/pdf_attributes.h"
-#include "encoders/picture_header.h"
+#include "picture/picture_header.h"
 #include "metadata/eps_lines.h"
 #include "metadata/eps_utf8_comments.h"
 #include "metadata/full_date.h"

@@ -9,11 +9,11 @@
 #include <cstdlib>
 #include <string>
 
+#include "protocol/control_descriptor.h"
 #include "worker/confinement/sandbox.h"
 #include "worker/engine/distiller_arguments.h"
 #include "worker/interpreter/interpreter_server.h"
 #include "worker/interpreter/postscript_interpreter.h"
-#include "worker/worker_program.h"
 
 namespace {
 
@@ -33,7 +33,7 @@ void setEnvironment(const std::string& scratchRoot) {
 
 int main(int argc, char** argv) {
   using namespace norvex;
-  if (argc < 2 || !isSocket(kControlDescriptor)) {
+  if (argc < 2 || !isSocket(controlDescriptor)) {
     std::fputs("norvex-postscript: is started by norvex, not by hand\n", stderr);
     return 2;
   }
@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);
   setEnvironment(argv[1]);
   prepareSandboxes(argv[1]);
-  InterpreterServer server(FileDescriptor(kControlDescriptor), argv[1]);
+  InterpreterServer server(FileDescriptor(controlDescriptor), argv[1]);
   PostScriptInterpreter interpreter([&server] { return server.serve(); });
   const int code = interpreter.run();
   std::fflush(nullptr);

@@ -24,10 +24,10 @@
 #include "ui/source/source_text_view.h"
 #include "ui/style/symbolic_icon.h"
 #include "ui_MainWindowController.h"
+#include "window/commands/window_frames.h"
 #include "window/main_window_controller.h"
 #include "window/selection_commands.h"
 #include "window/selection_description.h"
-#include "window/window_frames.h"
 
 namespace norvex {
 
@@ -48,10 +48,10 @@ void MainWindowController::connectControls() {
   connect(useBackgroundSwitch(), &QCheckBox::stateChanged, this, &MainWindowController::useBackgroundAction);
   connect(rotateField(), &NumberField::valueEdited, this, &MainWindowController::rotateChange);
   connect(dialKnob(), &ZyDialKnob::turned, this, &MainWindowController::doRotateFromKnob);
-  connect(viewWidget_, &NorvexViewWidget::drawn, this, &MainWindowController::followRendering,
+  connect(viewWidget_, &NorvexViewWidget::drawn, &messages_, &MessagesCommand::followRendering,
           Qt::QueuedConnection);
   connect(loadingCard_, &LoadingCard::cancelled, this, &MainWindowController::stopWork);
-  connect(messageBar_, &MessageBar::actionChosen, this, &MainWindowController::messageActionChosen);
+  connect(messageBar_, &MessageBar::actionChosen, &messages_, &MessagesCommand::actionChosen);
 }
 
 void MainWindowController::connectCommands() {
@@ -122,10 +122,6 @@ void MainWindowController::arrangeToolbar() {
       button->setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
-bool MainWindowController::validateUserInterfaceItem() const {
-  return view() && view()->imageRep() != nullptr;
-}
-
 void MainWindowController::validateCommands() {
   const bool enabled = validateUserInterfaceItem();
   for (QAction* action :
@@ -135,7 +131,7 @@ void MainWindowController::validateCommands() {
         ui_->rotateRightAction, ui_->resetRotationAction})
     action->setEnabled(enabled);
   ui_->reloadAction->setEnabled(document_ && !document_->fileURL().isEmpty());
-  validateTouchStrip();
+  touchBar_.validate(ui_->reloadAction->isEnabled());
   validateSelectionCommands();
 }
 
@@ -187,6 +183,46 @@ void MainWindowController::norvexView(NorvexView&, const QString& selectedRangeS
   if (end.isEmpty()) return endPoint->clear();
   read(end);
   endPoint->setText(shown());
+}
+
+void MainWindowController::showSource() {
+  inspector_.showSource();
+}
+
+void MainWindowController::saveDocumentAs(QObject*) {
+  savingAs_.run(localizedString("Save As"));
+}
+
+void MainWindowController::saveDocumentTo(QObject*) {
+  savingAs_.run(localizedString("Save To"));
+}
+
+std::optional<NSCustomTouchBarItem> MainWindowController::touchBar(const NSTouchBar& bar,
+                                                                   const QString& makeItemForIdentifier) {
+  return mainWindowTouchBarItem(bar, makeItemForIdentifier);
+}
+
+void MainWindowController::performTouchBarAction(TouchBarAction action) {
+  switch (action) {
+    case TouchBarAction::SaveDocumentAs:
+      return saveDocumentAs();
+    case TouchBarAction::SaveDocumentTo:
+      return saveDocumentTo();
+    case TouchBarAction::RevertDocumentToSaved:
+      return reload();
+    case TouchBarAction::Copy:
+      return copy();
+    case TouchBarAction::PrintDocument:
+      return printDocument();
+  }
+}
+
+void MainWindowController::showTouchBar(bool on) {
+  touchBar_.show(on);
+  touchBar_.validate(ui_->reloadAction->isEnabled());
+  ui_->touchBarAction->setChecked(on);
+  // The strip is part of what surrounds the picture: the largest window is another one now.
+  if (touchStrip()) setWindowSize();
 }
 
 void MainWindowController::toggleFullScreen(bool on) {

@@ -2,11 +2,11 @@
 
 #include <QCloseEvent>
 #include <QMainWindow>
+#include <QTimer>
+#include <QWindowStateChangeEvent>
 
-#include "desktop/save_panel.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
-#include "picture/process/stoppable_process.h"
 #include "ui/controls/color_well.h"
 #include "ui/controls/control_accessible.h"
 #include "ui/picture/loading_card.h"
@@ -15,19 +15,23 @@
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/style/window_style.h"
 #include "ui_MainWindowController.h"
-#include "window/main_window_reading.h"
-#include "window/print_commands.h"
-#include "window/window_frames.h"
+#include "window/commands/window_frames.h"
 
 namespace norvex {
 
-MainWindowController::MainWindowController() = default;
+MainWindowController::MainWindowController()
+    : producers_([this] {
+        return WindowProducers::Shown{view() ? view()->imageRep() : nullptr,
+                                      document_ ? &document_->pictureService() : nullptr, windowColorSpace_};
+      }) {
+  connectParts();
+}
 
 MainWindowController::~MainWindowController() {
-  printCommands_.reset();
+  printing_.end();
   if (view()) view()->setDelegate(nullptr);
-  stopReading();
-  work_.cancelAll();
+  loading_.stop();
+  work().cancelAll();
   // Told about the controller, not about its window: who listens knows the controller.
   emit windowWillClose(this);
   QObject::disconnect(svgObservation_);
@@ -36,8 +40,25 @@ MainWindowController::~MainWindowController() {
   delete window_.data();
 }
 
-void MainWindowController::setDocument(Document* document) {
-  document_ = document;
+void MainWindowController::connectParts() {
+  connect(&work(), &WindowWork::changed, this, [this] {
+    if (window_) messages_.followRendering();
+    closing_.closeIfDone();
+  });
+  connect(&loading_, &LoadingCommand::finished, this, &MainWindowController::take);
+  connect(&messages_, &MessagesCommand::reloadChosen, this, &MainWindowController::reload);
+  connect(&messages_, &MessagesCommand::drawingChanged, &inspector_, &InspectorCommand::showDrawingRemarks);
+  connect(&messages_, &MessagesCommand::openingChosen, &loading_, &LoadingCommand::start);
+  connect(&inspector_, &InspectorCommand::turned, this, &MainWindowController::setWindowSize);
+  connect(&copying_, &CopyCommand::ended, this, &MainWindowController::copied);
+  connect(&savingTo_, &SaveToCommand::ended, this, &MainWindowController::savedTo);
+  connect(&savingTo_, &SaveToCommand::failed, &closing_, &ClosingCommand::stay);
+  connect(&savingAs_, &SaveAsCommand::failed, &closing_, &ClosingCommand::stay);
+  connect(&savingAs_, &SaveAsCommand::ended, &closing_, &ClosingCommand::closeIfDone);
+  connect(&printing_, &PrintingCommand::ended, &closing_, [this](bool printed) {
+    if (!printed) closing_.stay();
+    closing_.closeIfDone();
+  });
 }
 
 QMainWindow* MainWindowController::window() {
@@ -59,14 +80,12 @@ void MainWindowController::loadWindow() {
   loadingCard_ = new LoadingCard(scrollArea_);
   scrollArea_->addCard(messageBar_, Qt::TopEdge);
   scrollArea_->addCard(loadingCard_, Qt::BottomEdge);
-  connect(&work_, &WindowWork::changed, this, &MainWindowController::followRendering);
-  connect(&work_, &WindowWork::changed, this, &MainWindowController::closeIfDone);
   connectControls();
   connectCommands();
-  orderInspector();
+  inspector_.order();
   connectPrinting();
   if (savedTouchBarIsShown()) showTouchBar(true);
-  restoreFrame();
+  sizing_.restoreFrame();
 }
 
 void MainWindowController::takeOutlets() {
@@ -94,6 +113,15 @@ void MainWindowController::takeOutlets() {
   doSaveToPopUp = ui_->doSaveToPopUp;
   doSaveToImageView = ui_->doSaveToImageView;
   doSaveToAccessoryView = ui_->doSaveToAccessoryView;
+  menuBar = ui_->menuBar;
+  toolbar = ui_->toolbar;
+  inspectorTabs = ui_->inspectorTabs;
+  sourcePage = ui_->sourcePage;
+  boundingBoxForm = ui_->boundingBoxForm;
+  usesForm = ui_->usesForm;
+  noteField = ui_->noteField;
+  rotateReadout = ui_->rotateReadout;
+  doSaveToNote = ui_->doSaveToNote;
   setUseBackgroundSwitch(ui_->useBackgroundSwitch);
   setWindowBackgroundColorTitle(ui_->windowBackgroundColorTitle);
   setRotateTitle(ui_->rotateTitle);
@@ -117,26 +145,71 @@ void MainWindowController::showWindow() {
   QMainWindow* shown = window();
   if (first) {
     setUpControls();
-    startReading();
+    const bool untitled = !document_ || document_->fileURL().isEmpty();
+    if (untitled) contents_.showUntitled();
+    finishSetUp();
+    if (!untitled) loading_.start();
   }
   shown->show();
   shown->raise();
   shown->activateWindow();
 }
 
-void MainWindowController::display() {
-  if (window_ && window_->isVisible()) window_->repaint();
+void MainWindowController::windowDidLoad() {
+  window();
+  loading_.stop();
+  if (!document_ || document_->fileURL().isEmpty()) {
+    setUpControls();
+    contents_.showUntitled();
+    return finishSetUp();
+  }
+  if (window_->isVisible())
+    loading_.start();
+  else
+    loading_.readNow();
+}
+
+void MainWindowController::reload() {
+  if (document_) document_->revertDocumentToSaved();
+}
+
+void MainWindowController::fileDidChangeOnDisk() {
+  if (window_ && document_) messages_.fileDidChange();
+}
+
+void MainWindowController::fileDidDisappear() {
+  if (window_ && validateUserInterfaceItem()) messages_.fileDidDisappear();
+}
+
+void MainWindowController::stopWork() {
+  if (loading_.stop()) return messages_.openingWasStopped();
+  if (copying_.stop() || work().cancelNewest()) return;
+  messages_.stopDrawing();
+}
+
+void MainWindowController::closing() {
+  sizing_.saveFrame();
+  loading_.stop();
+  copying_.stop();
+  work().cancelAll();
+  printing_.cancelAll();
+  inspectorWindow->hide();
+  // The document destroys this controller; that must wait until the window has finished closing.
+  if (shouldCloseDocument_ && document_)
+    QTimer::singleShot(0, document_.data(), [document = document_.data()] { document->close(); });
 }
 
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event) {
   if (watched == window_) {
-    if (event->type() == QEvent::Close && closesLater()) {
+    if (event->type() == QEvent::Close && closing_.closesLater()) {
       event->ignore();
       return true;
     }
     if (event->type() == QEvent::Close) closing();
-    if (event->type() == QEvent::WindowStateChange)
-      windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));
+    if (event->type() == QEvent::WindowStateChange) {
+      ui_->fullScreenAction->setChecked(window_->isFullScreen());
+      sizing_.windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));
+    }
   }
   if (watched == inspectorWindow && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
     inspectorToolbarItem->setChecked(event->type() == QEvent::Show);

@@ -1,23 +1,30 @@
-// The first half of windowDidLoad(): every control, whatever the document; and its last step.
+// The set-up: every control, whatever the document; what was read of the file; and the last step.
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMainWindow>
+#include <QThread>
 
 #include "base/localized_string.h"
+#include "display/skt_zooming_scroll_view.h"
 #include "document/document.h"
+#include "picture/web_image_rep.h"
 #include "ui/controls/color_well.h"
 #include "ui/controls/number_field.h"
 #include "ui/controls/number_matrix.h"
 #include "ui/controls/path_control.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/picture/message_bar.h"
+#include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
 #include "ui/source/source_text_view.h"
 #include "ui/style/quiet_text.h"
 #include "ui_MainWindowController.h"
+#include "window/document_contents.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
@@ -40,7 +47,9 @@ void setUpItem(QAction& item, const char* label, const char* tip) {
 void MainWindowController::setUpControls() {
   setUpTitles();
   setUpToolbarItems();
-  setUpBackground();
+  useBackgroundSwitch()->setText(localizedString("Use"));
+  inspector_.applyBackground(useBackgroundSwitch()->checkState());
+  previewImageView()->setBackgroundColor(scrollArea_->backgroundColor());
   setUpTexts();
   const QUrl url = document_ ? document_->fileURL() : QUrl();
   pathControl->setToolTip(localizedString("Filename"));
@@ -49,7 +58,7 @@ void MainWindowController::setUpControls() {
   window_->setWindowFilePath(url.toLocalFile());
   previewImageView()->setEditable(false);
   previewImageView()->setUseBackgroundColor(true);
-  if (inspectorWindow->isVisible()) titleInspector();  // otherwise when it is shown
+  if (inspectorWindow->isVisible()) inspector_.title();  // otherwise when it is shown
 }
 
 void MainWindowController::setUpTitles() {
@@ -81,19 +90,6 @@ void MainWindowController::setUpToolbarItems() {
   setUpItem(*doSaveToToolbarItem, "SaveTo", "Selected range of image data is written or displayed.");
 }
 
-void MainWindowController::applyBackgroundState(int state) {
-  scrollArea_->setDrawsBackground(state != Qt::Unchecked);
-  // There are no windows to see through here: where the background is clear a checkerboard stands for what is
-  // behind.
-  window_->setProperty("opaque", state != Qt::Unchecked);
-}
-
-void MainWindowController::setUpBackground() {
-  useBackgroundSwitch()->setText(localizedString("Use"));
-  applyBackgroundState(useBackgroundSwitch()->checkState());
-  previewImageView()->setBackgroundColor(scrollArea_->backgroundColor());
-}
-
 void MainWindowController::setUpTexts() {
   titleForm()->setToolTip(localizedString("Title"));
   epsMatrix->setToolTip(localizedString("ViewBox"));
@@ -119,6 +115,58 @@ void MainWindowController::setUpTexts() {
   }
   ZyForm::alignTitles(forms);
   makeQuiet(*previewField);
+}
+
+void MainWindowController::take(const DocumentContents& contents, bool again) {
+  if (again && !contents.imageRep) {
+    messages_.pictureStays(contents.error.value_or(Error{ErrorKind::CannotRead, {}}));
+    return;
+  }
+  setUpControls();
+  showContents(contents);
+  finishSetUp();
+  emit documentShown();
+}
+
+void MainWindowController::showContents(const DocumentContents& contents) {
+  messageBar_->clearMessage();
+  if (contents.kind == DocumentKind::Svg) QObject::disconnect(svgObservation_);
+  const auto svg = std::dynamic_pointer_cast<ZyWebImageRep>(contents.imageRep);
+  if (svg && QThread::currentThread() == qApp->thread())
+    svgObservation_ = connect(svg.get(), &ZyWebImageRep::pdfImageRepDidLoad, this,
+                              &MainWindowController::pdfImageRepDidLoad);
+  contents_.show(contents);
+  if (const auto space = ContentsDisplay::colorSpace(contents.header)) windowColorSpace_ = *space;
+  colorSpaceNameForm()->setText(0, windowColorSpace_.description());
+  resetRotationAndZoom();
+  messages_.watchPicture(contents.process);
+  if (contents.error) messages_.showProblem(*contents.error);
+}
+
+void MainWindowController::pdfImageRepDidLoad(bool success, const Error& error) {
+  QObject::disconnect(svgObservation_);
+  const auto rep = std::dynamic_pointer_cast<ZyWebImageRep>(view()->imageRep());
+  if (!rep) return;
+  if (!success) return messages_.showPdfFailure(error);
+  viewWidget_->update();
+  const QVariant pdf = rep->valueForKey(QString::fromLatin1(ZyWebViewPDFImageRepKey));
+  previewImageView()->setImageRep(pdf.value<std::shared_ptr<NSImageRep>>());
+}
+
+void MainWindowController::resetRotationAndZoom() {
+  rotateField()->setDoubleValue(0.0);
+  rotateChange(0.0);
+  viewWidget_->setToolTip(localizedString("Selection is determined by dragging the mouse twice."));
+  if (!observing_) {
+    observing_ = true;
+    // While the factor changes the clip is still scaled as before; the rule needs the factor alone.
+    connect(zoomingScrollView(), &SKTZoomingScrollView::zoomingScrollViewFactorDidChange, this,
+            &MainWindowController::setWindowSize);
+  }
+  setZoomFactor(1.0);
+  setWindowSize();
+  zoomingScrollView()->bind(factorBindingName, this, "zoomFactor");
+  scrollArea_->scrollToTop();
 }
 
 void MainWindowController::finishSetUp() {

@@ -11,8 +11,8 @@
 #include <system_error>
 #include <utility>
 
+#include "protocol/control_descriptor.h"
 #include "protocol/interpreter_request.h"
-#include "worker/worker_program.h"
 
 extern char** environ;
 
@@ -31,8 +31,8 @@ std::string programBesideOurs() {
 pid_t spawn(const std::string& program, const std::string& scratchRoot, int taking) {
   posix_spawn_file_actions_t actions;
   ::posix_spawn_file_actions_init(&actions);
-  ::posix_spawn_file_actions_adddup2(&actions, taking, kControlDescriptor);
-  ::posix_spawn_file_actions_addclosefrom_np(&actions, kControlDescriptor + 1);
+  ::posix_spawn_file_actions_adddup2(&actions, taking, controlDescriptor);
+  ::posix_spawn_file_actions_addclosefrom_np(&actions, controlDescriptor + 1);
   char* arguments[] = {const_cast<char*>(program.c_str()), const_cast<char*>(scratchRoot.c_str()), nullptr};
   pid_t pid = 0;
   const int failure = ::posix_spawn(&pid, program.c_str(), &actions, nullptr, arguments, environ);

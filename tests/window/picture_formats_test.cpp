@@ -7,7 +7,7 @@
 #include "picture/eps_image_rep.h"
 #include "picture/process/memory_picture_service.h"
 #include "picture/web_image_rep.h"
-#include "window/picture_formats.h"
+#include "window/commands/picture_formats.h"
 
 using namespace norvex;
 

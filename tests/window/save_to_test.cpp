@@ -20,7 +20,7 @@
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/zy_image_view.h"
-#include "window/main_window_save_to.h"
+#include "window/commands/save_to_command.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

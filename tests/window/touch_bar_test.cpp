@@ -8,7 +8,7 @@
 #include "kit/test_main.h"
 #include "print/memory_printing.h"
 #include "ui/controls/touch_strip.h"
-#include "window/touch_bar.h"
+#include "window/commands/touch_bar.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

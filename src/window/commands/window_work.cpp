@@ -1,4 +1,4 @@
-#include "window/window_work.h"
+#include "window/commands/window_work.h"
 
 #include <algorithm>
 

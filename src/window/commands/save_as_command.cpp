@@ -1,4 +1,5 @@
-// Save As: the whole picture in any type that can be written. The document stays what it is.
+#include "window/commands/save_as_command.h"
+
 #include <QEventLoop>
 #include <QFutureWatcher>
 #include <QGuiApplication>
@@ -15,10 +16,12 @@
 #include "base/waiting_threads.h"
 #include "desktop/alert.h"
 #include "desktop/save_panel.h"
+#include "display/norvex_view.h"
 #include "document/document.h"
 #include "document/unimplemented_method.h"
 #include "picture/web_image_rep.h"
-#include "window/main_window_controller.h"
+#include "window/commands/window_parts.h"
+#include "window/commands/window_producers.h"
 
 namespace norvex {
 
@@ -37,26 +40,20 @@ QUrl urlForType(const QUrl& url, const UTType& type) {
 
 }  // namespace
 
-QList<UTType> MainWindowController::writableTypes() const {
+QList<UTType> SaveAsCommand::writableTypes() const {
   QList<UTType> types{*UTType::typeWithIdentifier(NorvexEPSType), *UTType::typeWithIdentifier(NorvexEPSIType),
                       UTTypePDF()};
-  if (view() && dynamic_cast<const ZyWebImageRep*>(view()->imageRep().get()))
+  const NorvexView* const view = parts_.view();
+  if (view && dynamic_cast<const ZyWebImageRep*>(view->imageRep().get()))
     types << UTTypeSVG() << *UTType::typeWithIdentifier(NorvexSVGZType);
   return types << UTTypeTIFF() << UTTypePNG() << UTTypeJPEG() << UTTypeGIF();
 }
 
-void MainWindowController::saveDocumentAs(QObject*) {
-  runSavePanel(localizedString("Save As"));
-}
-
-void MainWindowController::saveDocumentTo(QObject*) {
-  runSavePanel(localizedString("Save To"));
-}
-
-void MainWindowController::runSavePanel(const QString& title) {
-  if (!document_ || saving_ || !validateUserInterfaceItem()) return;
+void SaveAsCommand::run(const QString& title) {
+  Document* const document = parts_.document();
+  if (!document || saving_ || !parts_.validateUserInterfaceItem()) return;
   const QList<UTType> types = writableTypes();
-  const auto own = UTType::typeWithIdentifier(document_->fileType());
+  const auto own = UTType::typeWithIdentifier(document->fileType());
   const qsizetype at = own ? types.indexOf(*own) : -1;
   SavePanelSettings settings;
   settings.title = title;
@@ -64,58 +61,59 @@ void MainWindowController::runSavePanel(const QString& title) {
   settings.selectedContentType = std::max(0, int(at >= 0 ? at : types.indexOf(UTTypePDF())));
   settings.allowsOtherFileTypes = false;
   settings.canSelectHiddenExtension = true;
-  settings.directoryURL = document_->fileURL().adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
-  settings.nameFieldStringValue = pathWithoutExtension(document_->displayName());
+  settings.directoryURL = document->fileURL().adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
+  settings.nameFieldStringValue = pathWithoutExtension(document->displayName());
   settings.target = [types](const QUrl& url, int type) {
     return type >= 0 && type < types.size() ? urlForType(url, types.at(type)) : url;
   };
-  savePanel().beginSheetModalForWindow(
-      window_, settings, [this, types, target = settings.target](const SavePanelAnswer& answer) {
+  parts_.savePanel().beginSheetModalForWindow(
+      parts_.mainWindow(), settings, [this, types, target = settings.target](const SavePanelAnswer& answer) {
         if (!answer.ok || answer.contentType < 0 || answer.contentType >= types.size()) return;
         const QUrl url = target(answer.url, answer.contentType);
         // From the event loop: what it may throw is for the application to tell, not for the panel to end on.
-        QTimer::singleShot(0, this, [this, url, type = types.at(answer.contentType)] { saveAs(url, type); });
+        QTimer::singleShot(0, this, [this, url, type = types.at(answer.contentType)] { write(url, type); });
       });
 }
 
-void MainWindowController::workBesideTheWindow(const std::function<void()>& work, const CancelToken& cancel) {
-  const int number = work_.begin(WindowWork::Kind::Writing, localizedString("Writing…"), cancel);
+void SaveAsCommand::workBesideTheWindow(const std::function<void()>& work, const CancelToken& cancel) {
+  const int number = parts_.work().begin(WindowWork::Kind::Writing, localizedString("Writing…"), cancel);
   QEventLoop loop;
   QFutureWatcher<void> watcher;
   connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
   watcher.setFuture(QtConcurrent::run(&waitingThreads(), work));
   loop.exec();
   watcher.waitForFinished();  // a program that is ending ends the loop before the work
-  work_.end(number);
+  parts_.work().end(number);
 }
 
-void MainWindowController::saveAs(const QUrl& url, const UTType& type) {
-  if (!document_ || saving_) return;
-  document_->setAlertPresenter(alerts_);
+void SaveAsCommand::write(const QUrl& url, const UTType& type) {
+  Document* const document = parts_.document();
+  if (!document || saving_) return;
+  document->setAlertPresenter(parts_.alerts());
   saving_ = true;
   bool stopped = false;
   // The document asks, makes and writes in one go; only the making takes time.
-  windowProducers().setRunner(
-      [this, &stopped](const std::function<void()>& making, const CancelToken& cancel) {
-        if (stopped) return;  // some types are made in two steps
-        workBesideTheWindow(making, cancel);
-        stopped = cancel.cancelled();
-      });
+  producers_.setRunner([this, &stopped](const std::function<void()>& making, const CancelToken& cancel) {
+    if (stopped) return;  // some types are made in two steps
+    workBesideTheWindow(making, cancel);
+    stopped = cancel.cancelled();
+  });
   const auto end = qScopeGuard([this] {
-    windowProducers().setRunner(nullptr);
+    producers_.setRunner(nullptr);
     saving_ = false;
-    closeIfDone();
+    emit ended();
   });
   DocumentError error;
   try {
-    if (document_->writeToURL(url, type.identifier(), &error)) return;
+    if (document->writeToURL(url, type.identifier(), &error)) return;
   } catch (const UnimplementedMethod&) {
     if (stopped) return;  // nothing is to be told about what the user stopped
-    closesWhenDone_ = false;
+    emit failed();
     throw;
   }
+  emit failed();
   if (!error.recoverySuggestion.isEmpty())
-    showWriteFailure({ErrorKind::CannotWrite, error.recoverySuggestion}, url.toLocalFile());
+    parts_.showWriteFailure({ErrorKind::CannotWrite, error.recoverySuggestion}, url.toLocalFile());
 }
 
 }  // namespace norvex

@@ -1,4 +1,4 @@
-#include "window/picture_formats.h"
+#include "window/commands/picture_formats.h"
 
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"

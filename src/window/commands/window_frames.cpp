@@ -1,4 +1,4 @@
-#include "window/window_frames.h"
+#include "window/commands/window_frames.h"
 
 #include <QDir>
 #include <QSettings>

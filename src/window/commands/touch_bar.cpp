@@ -1,4 +1,4 @@
-#include "window/touch_bar.h"
+#include "window/commands/touch_bar.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "window/print_commands.h"
+#include "window/commands/print_commands.h"
 
 #include <QThread>
 #include <QtConcurrent>

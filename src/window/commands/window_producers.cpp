@@ -1,4 +1,4 @@
-#include "window/window_producers.h"
+#include "window/commands/window_producers.h"
 
 namespace norvex {
 

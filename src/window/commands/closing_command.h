@@ -1,0 +1,38 @@
+// Closing a window: at once, or when what is being written or printed has ended.
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+namespace norvex {
+
+class PrintingCommand;
+class SaveAsCommand;
+class WindowParts;
+
+/// Asks before a file or a print job is lost with the window. All are borrowed and outlive this. Main thread.
+class ClosingCommand final : public QObject {
+  Q_OBJECT
+ public:
+  ClosingCommand(WindowParts& parts, const SaveAsCommand& saving, PrintingCommand& printing);
+
+  /// Whether the window stays for now: the user wants that, or it closes by itself when its work has ended.
+  bool closesLater();
+  /// Whether it was to close and does so by itself when its work has ended.
+  [[nodiscard]] bool closesWhenDone() const { return closesWhenDone_; }
+  /// Something ended: closes the window if it waited for that.
+  void closeIfDone();
+  /// Something failed, and can be tried again as long as there is a window.
+  void stay() { closesWhenDone_ = false; }
+
+ private:
+  [[nodiscard]] bool wouldLoseWork() const;
+
+  WindowParts& parts_;
+  const SaveAsCommand& saving_;
+  PrintingCommand& printing_;
+  bool closesWhenDone_ = false, asking_ = false;
+};
+
+}  // namespace norvex

@@ -1,0 +1,145 @@
+#include "window/commands/copy_command.h"
+
+#include <QApplication>
+#include <QFuture>
+#include <QPointer>
+#include <QtConcurrent>
+
+#include "base/localized_string.h"
+#include "base/waiting_threads.h"
+#include "display/norvex_view.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/panels/qt_pasteboard.h"
+#include "ui/picture/drag_source.h"
+#include "ui/picture/message_bar.h"
+#include "window/commands/window_parts.h"
+
+namespace norvex {
+
+namespace {
+
+/// Makes every format, one after the other: the picture process serves one at a time, and the other threads
+/// are left to what is on the screen.
+QFuture<void> madeInBackground(const PictureFormats& formats, const std::shared_ptr<PromisedData>& fallback) {
+  QList<std::shared_ptr<PromisedData>> all = formats.DataObjects;
+  if (fallback) all << fallback;
+  return QtConcurrent::run(&waitingThreads(), [all] {
+    for (const std::shared_ptr<PromisedData>& data : all) static_cast<void>(data->get());
+  });
+}
+
+NSPasteboardItem itemOf(const PictureFormats& formats, const std::shared_ptr<PromisedData>& png) {
+  NSPasteboardItem item;
+  for (qsizetype i = 0; i < formats.count(); ++i) {
+    const QByteArray bytes = formats.DataObjects.at(i)->get();
+    if (!bytes.isEmpty()) item.setData(bytes, formats.UTIs.at(i).identifier());
+  }
+  const QByteArray pixels = png ? png->get() : QByteArray();
+  if (!pixels.isEmpty()) item.setFallback(pixels, UTTypePNG().identifier());
+  return item;
+}
+
+/// The best format that other programs take as a file: SVG where there is one, otherwise PDF.
+qsizetype bestFileFormat(const PictureFormats& formats) {
+  const qsizetype svg = formats.indexOf(UTTypeSVG());
+  return svg >= 0 ? svg : formats.indexOf(UTTypePDF());
+}
+
+}  // namespace
+
+void CopyCommand::beep() const {
+  if (beep_)
+    beep_();
+  else
+    QApplication::beep();
+}
+
+PictureSnapshot CopyCommand::snapshot() const {
+  PictureSnapshot shown;
+  const NorvexView* const view = parts_.view();
+  if (!view) return shown;
+  shown.imageRep = view->imageRep();
+  shown.placement = {QPointF(view->imageSize().width() * 0.5, view->imageSize().height() * 0.5),
+                     view->rotate()};
+  shown.rect = parts_.chosenRect();
+  shown.frame = view->frame();
+  shown.clockwise = parts_.dialKnob() && parts_.dialKnob()->clockwise();
+  shown.flippedCoordinate = view->flippedCoordinate();
+  if (parts_.document()) shown.surroundings = usualSurroundings(parts_.document()->pictureService());
+  shown.home = thread();
+  const QColorSpace& space = parts_.windowColorSpace();
+  shown.surroundings.iccProfile = space.isValid() ? space.iccProfile() : QByteArray();
+  return shown;
+}
+
+PictureFormats CopyCommand::formats() const {
+  const PictureSnapshot shown = snapshot();
+  if (!shown.imageRep) {
+    beep();
+    return {};
+  }
+  return selectionFormats(shown);
+}
+
+void CopyCommand::copyPart() {
+  const PictureFormats made = formats();
+  writeWhenMade(made, pngOf(made, snapshot()));
+}
+
+void CopyCommand::copyWhole() {
+  const PictureSnapshot shown = snapshot();
+  if (!shown.imageRep) return beep();
+  writeWhenMade(wholePictureFormats(shown), nullptr);
+}
+
+void CopyCommand::writeWhenMade(const PictureFormats& formats, const std::shared_ptr<PromisedData>& png) {
+  stop();  // what was copied last counts
+  if (formats.count() == 0) return;
+  copying_ = formats.cancel;
+  number_ = parts_.work().begin(WindowWork::Kind::Copying, localizedString("Copying…"), formats.cancel);
+  QPointer<CopyCommand> self(this);
+  madeInBackground(formats, png).then(qApp, [self, formats, png] {
+    if (!self || formats.cancel.cancelled()) return;
+    self->copying_.reset();
+    self->parts_.work().end(self->number_);
+    self->write(itemOf(formats, png));
+  });
+}
+
+void CopyCommand::write(const NSPasteboardItem& item) {
+  QtPasteboard general;
+  NSPasteboard& pasteboard = pasteboard_ ? *pasteboard_ : general;
+  bool written = false;
+  if (!item.types().isEmpty()) {
+    pasteboard.clearContents();
+    written = pasteboard.writeObjects({item});
+  }
+  if (!written)
+    parts_.messageBar()->showMessage(
+        MessageBar::Kind::Warning,
+        localizedString("The picture could not be copied. The clipboard holds what it held before."));
+  emit ended(written);
+}
+
+bool CopyCommand::stop() {
+  if (!copying_) return false;
+  copying_->cancel();
+  copying_.reset();
+  parts_.work().end(number_);
+  return true;
+}
+
+std::optional<DraggedFile> CopyCommand::draggedFile() const {
+  const PictureFormats offered = formats();
+  const qsizetype best = bestFileFormat(offered);
+  if (best < 0) return std::nullopt;
+  const std::shared_ptr<PromisedData> data = offered.DataObjects.at(best);
+  static_cast<void>(QtConcurrent::run(&waitingThreads(),
+                                      [data] { return data->get(); }));  // the drag takes a while: use it
+  const QString extension = offered.UTIs.at(best).preferredFilenameExtension();
+  // When nobody can ask for the file any more its making ends.
+  const std::shared_ptr<void> asked(nullptr, [cancel = offered.cancel](void*) { cancel.cancel(); });
+  return DraggedFile{parts_.clipName() + u'.' + extension, [data, asked] { return data->get(); }};
+}
+
+}  // namespace norvex

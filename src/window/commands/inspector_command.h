@@ -1,0 +1,59 @@
+// The inspector: its window, rotation, background, and what it tells about a picture.
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QStringList>
+
+namespace norvex {
+
+class NSImageRep;
+class WindowParts;
+
+/// The parts outlive it. Main thread.
+class InspectorCommand final : public QObject {
+  Q_OBJECT
+ public:
+  explicit InspectorCommand(WindowParts& parts) : parts_(parts) {}
+
+  /// Once the window is loaded: the order of its controls for the keyboard, from top to bottom.
+  void order();
+  /// Shows the inspector's window, beside the document's at first, or hides it.
+  void toggle();
+  /// Gives the inspector its title where it has none.
+  void title();
+  /// Shows the source text, whatever was shown.
+  void showSource();
+
+  void takeColor(const QColor& color);
+  /// `state` as of a check box: 0 off, 1 mixed, 2 on.
+  void useBackground(int state);
+  /// The window draws its background unless `state` is off.
+  void applyBackground(int state);
+
+  /// Turns dial and view to an angle in the dial's notation.
+  void rotateChange(double dmsValue);
+  /// Turns the view to the angle of the dial.
+  void rotateFromKnob();
+
+  /// Bounding boxes, notes, fonts and colours; null: of no picture.
+  void showFacts(const NSImageRep* rep);
+  /// Adds the fonts that others stand in for, which are known once something was drawn.
+  void showDrawingRemarks();
+
+ signals:
+  /// The view has another angle: the window may need another size.
+  void turned();
+
+ private:
+  void place();
+  void showBoundingBoxes(const NSImageRep* rep);
+  void showNotes(const NSImageRep* rep);
+  void addNotes(const QStringList& sentences);
+  void showResources(const NSImageRep* rep);
+
+  WindowParts& parts_;
+  bool placed_ = false;
+};
+
+}  // namespace norvex

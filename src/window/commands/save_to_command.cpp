@@ -1,0 +1,163 @@
+#include "window/commands/save_to_command.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPointer>
+#include <QSettings>
+#include <QtConcurrent>
+
+#include "base/atomic_file.h"
+#include "base/localized_string.h"
+#include "base/path_extension.h"
+#include "base/waiting_threads.h"
+#include "desktop/save_panel.h"
+#include "types/type_description.h"
+#include "ui/picture/zy_image_view.h"
+#include "window/commands/copy_command.h"
+#include "window/commands/picture_formats.h"
+#include "window/commands/window_parts.h"
+
+namespace norvex {
+
+namespace {
+
+const QString kSaveTo = QStringLiteral("SaveTo");
+
+QUrl startFolder() {
+  const QUrl last = QSettings().value(kSaveTo).toUrl();
+  return last.isLocalFile() ? last.adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash) : QUrl();
+}
+
+/// The bytes, whole or not at all; off the window's thread.
+Result<void> writeTo(const QString& path, const std::shared_ptr<PromisedData>& data,
+                     const CancelToken& cancel) {
+  const QByteArray bytes = data->get();
+  if (cancel.cancelled()) return Error{ErrorKind::Cancelled, localizedString("The writing was stopped")};
+  if (bytes.isEmpty())
+    return Error{ErrorKind::CannotWrite, localizedString("The picture cannot be written in this format")};
+  return writeFileAtomically(path, bytes, IfExists::Replace);
+}
+
+}  // namespace
+
+/// Shared by the sheet and what is made for it in the background. Main thread.
+struct SaveToCommand::Sheet {
+  PictureFormats formats;  ///< the rows of the pop-up list, in its order
+  bool open = true;        ///< the sheet is on the screen
+  ~Sheet() { formats.cancel.cancel(); }
+};
+
+QUrl urlWithExtension(const QUrl& url, const QString& extension) {
+  if (extension.isEmpty() || pathExtension(url.path()) == extension) return url;
+  QUrl target = url;
+  target.setPath(pathWithoutExtension(url.path()) + u'.' + extension);
+  return target;
+}
+
+void SaveToCommand::run() {
+  const PictureSnapshot shown = copying_.snapshot();
+  auto sheet = std::make_shared<Sheet>();
+  sheet->formats = copying_.formats();
+  appendRasterFormats(sheet->formats, shown);
+  fillAccessory(sheet);
+
+  SavePanelSettings settings;
+  settings.title = localizedString("Save Selection");
+  settings.message = localizedString("Selected range of image data is written or displayed.");
+  settings.allowedContentTypes = sheet->formats.UTIs;
+  settings.canSelectHiddenExtension = true;
+  settings.extensionHidden = true;
+  settings.allowsOtherFileTypes = false;
+  settings.directoryURL = startFolder();
+  settings.nameFieldStringValue = parts_.clipName();
+  settings.accessoryView = parts_.doSaveToAccessoryView;
+  settings.target = [sheet, popUp = parts_.doSaveToPopUp](const QUrl& url, int) {
+    const int row = popUp->currentIndex();
+    return row < 0 || row >= sheet->formats.count()
+               ? url
+               : urlWithExtension(url, sheet->formats.UTIs.at(row).preferredFilenameExtension());
+  };
+  parts_.savePanel().beginSheetModalForWindow(parts_.mainWindow(), settings,
+                                              [this, sheet](const SavePanelAnswer& answer) {
+                                                sheet->open = false;
+                                                if (answer.ok) write(sheet, answer.url);
+                                              });
+}
+
+void SaveToCommand::fillAccessory(const std::shared_ptr<Sheet>& sheet) {
+  parts_.doSaveToPopUp->clear();
+  for (const UTType& type : sheet->formats.UTIs) parts_.doSaveToPopUp->addItem(localizedDescription(type));
+  if (sheet->formats.count() > 0) parts_.doSaveToPopUp->setCurrentIndex(0);
+  parts_.doSaveToNote->clear();
+  parts_.doSaveToImageView->setImage({});
+  makeFormats(sheet);
+}
+
+void SaveToCommand::makeFormats(const std::shared_ptr<Sheet>& sheet) {
+  QPointer<SaveToCommand> self(this);
+  const std::weak_ptr<Sheet> kept = sheet;  // a closed sheet ends the making
+  // The program may have ended by the time that there is something to tell.
+  const QPointer<QCoreApplication> application(qApp);
+  const auto tell = [self, kept, application](const std::function<void(SaveToCommand&, Sheet&)>& news) {
+    if (!application) return;
+    QMetaObject::invokeMethod(application.data(), [self, kept, news] {
+      const auto shown = kept.lock();
+      if (self && shown && shown->open) news(*self, *shown);
+    });
+  };
+  // One after the other, the preview first; a format that is to be written meanwhile does not wait for its
+  // turn.
+  static_cast<void>(QtConcurrent::run(&waitingThreads(), [tell, rep = sheet->formats.pdfImageRep,
+                                                          all = sheet->formats.DataObjects,
+                                                          cancel = sheet->formats.cancel] {
+    if (rep)
+      tell([made = rep->get()](SaveToCommand& c, Sheet&) { c.parts_.doSaveToImageView->setImageRep(made); });
+    for (const std::shared_ptr<PromisedData>& data : all) {
+      if (cancel.cancelled()) return;
+      if (data->get().isEmpty())
+        tell([data](SaveToCommand& c, Sheet& shown) {
+          c.removeFormat(shown, shown.formats.DataObjects.indexOf(data));
+        });
+    }
+  }));
+}
+
+void SaveToCommand::removeFormat(Sheet& sheet, qsizetype row) {
+  if (row < 0) return;
+  parts_.doSaveToNote->setText(localizedString("Not possible for this picture: %1")
+                                   .arg(localizedDescription(sheet.formats.UTIs.at(row))));
+  QComboBox& popUp = *parts_.doSaveToPopUp;
+  const bool chosen = popUp.currentIndex() == row;
+  sheet.formats.removeAt(row);
+  popUp.removeItem(int(row));
+  if (chosen && sheet.formats.count() > 0) popUp.setCurrentIndex(0);
+}
+
+void SaveToCommand::write(const std::shared_ptr<Sheet>& sheet, const QUrl& url) {
+  const int row = parts_.doSaveToPopUp->currentIndex();
+  if (row < 0 || row >= sheet->formats.count()) return;
+  const std::shared_ptr<PromisedData> data = sheet->formats.DataObjects.at(row);
+  const QString path =
+      urlWithExtension(url, sheet->formats.UTIs.at(row).preferredFilenameExtension()).toLocalFile();
+  const CancelToken cancel = sheet->formats.cancel;
+  const int number = parts_.work().begin(WindowWork::Kind::Writing, localizedString("Writing…"), cancel);
+  QPointer<SaveToCommand> self(this);
+  // The sheet is held until the file is written: letting go of it ends what is being made.
+  QtConcurrent::run(&waitingThreads(), [path, data, cancel] {
+    return writeTo(path, data, cancel);
+  }).then(qApp, [self, sheet, path, url, number](const Result<void>& written) {
+    if (!self) return;
+    if (!written && written.error().kind != ErrorKind::Cancelled) {
+      self->parts_.showWriteFailure(written.error(), path);
+      if (!self) return;  // while the message was on the screen
+      emit self->failed();
+    }
+    self->parts_.work().end(number);
+    QSettings().setValue(kSaveTo, url);
+    emit self->ended(path, written.ok());
+  });
+}
+
+}  // namespace norvex

@@ -1,0 +1,58 @@
+// Menus that the interface file does not hold: printing, and what can be done with the picture where the
+// mouse is.
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QMenu>
+
+#include "base/localized_string.h"
+#include "ui/picture/drag_source.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui_MainWindowController.h"
+#include "window/main_window_controller.h"
+
+namespace norvex {
+
+void MainWindowController::connectPrinting() {
+  printing_.setUp();
+  connect(doPrintingToolbarItem, &QAction::triggered, this, [this] { doPrinting(doPrintingToolbarItem); });
+  auto* pageLayout = new QAction(localizedString("Page Set&up…"), window_);
+  pageLayout->setObjectName(QStringLiteral("pageLayoutAction"));
+  pageLayout->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_P);
+  connect(pageLayout, &QAction::triggered, &printing_, &PrintingCommand::runPageLayout);
+  auto* print = new QAction(localizedString("&Print…"), window_);
+  print->setObjectName(QStringLiteral("printAction"));
+  print->setShortcut(QKeySequence::Print);
+  connect(print, &QAction::triggered, this, [this] { printDocument(); });
+  // What the toolbar's item does, for those who have no mouse.
+  auto* printPart = new QAction(localizedString("Print Selected or Visible Pa&rt…"), window_);
+  printPart->setObjectName(QStringLiteral("printPartAction"));
+  printPart->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_P);
+  connect(printPart, &QAction::triggered, this, [this, printPart] { doPrinting(printPart); });
+  printPart->setEnabled(doPrintingToolbarItem->isEnabled());
+  connect(doPrintingToolbarItem, &QAction::enabledChanged, printPart, &QAction::setEnabled);
+  ui_->fileMenu->insertActions(ui_->closeAction, {pageLayout, print, printPart});
+  ui_->fileMenu->insertSeparator(ui_->closeAction);
+}
+
+void MainWindowController::setUpPictureMenu() {
+  viewWidget_->setWhatsThis(
+      localizedString("Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another "
+                      "program as a file."));
+  viewWidget_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(viewWidget_, &QWidget::customContextMenuRequested, this, [this](const QPoint& point) {
+    if (!validateUserInterfaceItem()) return;
+    auto* menu = new QMenu(viewWidget_);
+    menu->setObjectName(QStringLiteral("pictureMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions({copyToolbarItem, doSaveToToolbarItem});
+    menu->addSeparator();
+    menu->addActions({ui_->selectAllAction, ui_->deselectAction});
+    menu->addSeparator();
+    menu->addActions({ui_->rotateLeftAction, ui_->rotateRightAction, ui_->resetRotationAction});
+    menu->popup(viewWidget_->mapToGlobal(point));
+  });
+  new DragSource(
+      *viewWidget_, [this] { return draggedFile(); }, this);
+}
+
+}  // namespace norvex

@@ -14,7 +14,7 @@ namespace norvex {
 inline void removeFolder(const std::string& folder) {
   std::error_code ignored;
   if (folder.empty() || ::rmdir(folder.c_str()) == 0) return;  // most are empty, and this takes no descriptor
-  ::chmod(folder.c_str(), S_IRWXU);  // nobody may list it while documents are read
+  ::chmod(folder.c_str(), S_IRWXU);                            // nobody may list it while documents are read
   std::filesystem::remove_all(folder, ignored);
 }
 

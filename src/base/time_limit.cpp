@@ -16,4 +16,10 @@ TimeLimit::TimeLimit(std::chrono::milliseconds time, const CancelToken& outer)
         token_.cancel();
       }) {}
 
+Error TimeLimit::explained(const Error& error) const {
+  if (!over_) return error;
+  return {ErrorKind::TimedOut,
+          QStringLiteral("the picture was not ready within the time that it is allowed")};
+}
+
 }  // namespace norvex

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "base/cancel_token.h"
+#include "base/result.h"
 
 namespace norvex {
 
@@ -18,6 +19,8 @@ class TimeLimit {
   [[nodiscard]] const CancelToken& token() const { return token_; }
   /// The time is over, whether or not somebody else cancelled as well.
   [[nodiscard]] bool isOver() const { return over_; }
+  /// What to tell of work that failed under the token: that its time was over, where it was.
+  [[nodiscard]] Error explained(const Error& error) const;
 
  private:
   CancelToken token_;

@@ -100,7 +100,7 @@ Conversion convertPicture(PictureService& service, PictureSource source, const C
       (options.format == PictureFormat::Eps && imageRep->pictureKind() == PictureKind::Eps);
   conversion.metadataLost = metadataLost(encoder.header(), imageRep->pictureKind(), options.format,
                                          vectorOfSameKind && !surroundings.region && !surroundings.onePage);
-  checkConversion(conversion, encoder, source, !surroundings.region && !surroundings.onePage);
+  checkConversion(conversion, encoder, source.bytes, !surroundings.region && !surroundings.onePage);
   return conversion;
 }
 

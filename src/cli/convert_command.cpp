@@ -28,11 +28,6 @@ Conversion interrupted() {
   return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
 }
 
-Conversion tookTooLong() {
-  return refused(ErrorKind::TimedOut,
-                 QStringLiteral("the picture was not ready within the time that it is allowed"));
-}
-
 /// What can be known before the work is done: that its result could not be kept.
 std::optional<Conversion> refusalOf(const ConvertTask& task, const ConvertPlan& plan) {
   if (task.output == QLatin1String("-")) return std::nullopt;
@@ -61,7 +56,7 @@ Conversion convertFile(PictureService& service, const ConvertTask& task, const C
   Conversion conversion =
       convertPicture(service, sourceOfInput(*bytes, task.file), plan.options, limit.token());
   if (cancel.cancelled()) return interrupted();
-  if (limit.isOver() && conversion.report.error) return tookTooLong();
+  if (conversion.report.error) conversion.report.error = limit.explained(*conversion.report.error);
   if (conversion.report.error || task.output == QLatin1String("-")) return conversion;
   const auto written =
       writeFileAtomically(task.output, conversion.bytes, plan.force ? IfExists::Replace : IfExists::Fail);

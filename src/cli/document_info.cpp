@@ -1,5 +1,6 @@
 #include "cli/document_info.h"
 
+#include "base/time_limit.h"
 #include "cli/input_file.h"
 #include "metadata/eps_resources.h"
 #include "metadata/other_preview.h"
@@ -28,9 +29,10 @@ QString nameOf(DocumentKind kind) {
   return QStringLiteral("other");
 }
 
-void readEps(DocumentInfo& info, PictureService& service, const QByteArray& bytes) {
+void readEps(DocumentInfo& info, PictureService& service, const QByteArray& bytes,
+             const CancelToken& cancel) {
   const TiffDecoder decodeTiff = [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
-    const Result<NSBitmapImageRep> preview = service.decodePreview(tiff);
+    const Result<NSBitmapImageRep> preview = service.decodePreview(tiff, cancel);
     if (preview) return *preview;
     info.warnings << preview.error().message;
     return std::nullopt;
@@ -68,17 +70,21 @@ void readFacts(DocumentInfo& info, const Result<PictureFacts>& facts) {
   info.warnings = facts->warnings;
 }
 
-void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, const QByteArray& bytes) {
+void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, const QByteArray& bytes,
+                 const PictureLimits& limits) {
+  const TimeLimit time(std::chrono::seconds(limits.seconds), {});
   info.rectangleTitle = kind == PictureKind::Svg ? QStringLiteral("ViewBox") : QStringLiteral("Bounds");
-  if (kind == PictureKind::Eps) return readEps(info, service, bytes);
-  const Result<PictureFacts> facts = service.open(bytes, kind)->facts();
+  if (kind == PictureKind::Eps) return readEps(info, service, bytes, time.token());
+  const Result<PictureFacts> facts = service.open(bytes, kind, limits)->facts(time.token());
   readFacts(info, facts);
+  if (info.error) info.error = time.explained(*info.error);
   info.header = pictureHeader(kind, bytes, facts);
 }
 
 }  // namespace
 
-DocumentInfo documentInfo(PictureService& service, const QString& file, const Result<QByteArray>& bytes) {
+DocumentInfo documentInfo(PictureService& service, const QString& file, const Result<QByteArray>& bytes,
+                          const PictureLimits& limits) {
   DocumentInfo info;
   info.file = file;
   if (!bytes) {
@@ -89,7 +95,7 @@ DocumentInfo documentInfo(PictureService& service, const QString& file, const Re
   info.kind = nameOf(documentKind(info.typeIdentifier));
   const Result<PictureKind> kind = pictureKindOf(*bytes, info.typeIdentifier);
   if (kind)
-    readPicture(info, service, *kind, *bytes);
+    readPicture(info, service, *kind, *bytes, limits);
   else
     info.error = kind.error();
   return info;

@@ -35,6 +35,6 @@ struct DocumentInfo {
 /// Finds everything out about a file that was read. PostScript is looked at here; PDF and SVG are opened by
 /// `service`, and so is the TIFF preview of binary EPS. Blocks; may be called by several threads.
 [[nodiscard]] DocumentInfo documentInfo(PictureService& service, const QString& file,
-                                        const Result<QByteArray>& bytes);
+                                        const Result<QByteArray>& bytes, const PictureLimits& limits = {});
 
 }  // namespace norvex

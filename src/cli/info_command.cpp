@@ -6,6 +6,7 @@
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "cli/json_output.h"
+#include "cli/value_reader.h"
 
 namespace norvex {
 namespace {
@@ -26,6 +27,9 @@ Finding findingOf(const DocumentInfo& info, bool json) {
 
 ExitCode Job::info(const Arguments& arguments) {
   const bool json = arguments.has(Option::Json);
+  ValueReader values(arguments);
+  const PictureLimits limits = values.limits();
+  if (!values.complaint().isEmpty()) return complain(Command::Info, values.complaint());
   // Standard input is read here: it can be read once, and a terminal may take its time.
   const bool fromInput = arguments.files.contains(QStringLiteral("-"));
   const Result<QByteArray> input =
@@ -33,7 +37,7 @@ ExitCode Job::info(const Arguments& arguments) {
   service_.openOnlyFor(PictureUse::Drawing);
   const QFuture<Finding> findings = QtConcurrent::mapped(arguments.files, [&](const QString& file) {
     const bool isInput = file == QLatin1String("-");
-    return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file)), json);
+    return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file), limits), json);
   });
 
   QList<ExitCode> codes;

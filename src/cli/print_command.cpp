@@ -4,9 +4,11 @@
 
 #include "base/atomic_file.h"
 #include "base/localized_string.h"
+#include "base/time_limit.h"
 #include "cli/input_file.h"
 #include "cli/interruption.h"
 #include "cli/printing_job.h"
+#include "cli/value_reader.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
 #include "picture/open_picture.h"
@@ -65,6 +67,9 @@ PrintSource sourceOf(const std::shared_ptr<NSImageRep>& imageRep, const QUrl& fi
 ExitCode PrintingJob::print(const Arguments& arguments) {
   if (const QString complaint = complaintAboutPrinting(arguments); !complaint.isEmpty())
     return complain(Command::Print, complaint);
+  ValueReader values(arguments);
+  const PictureLimits limits = values.limits();
+  if (!values.complaint().isEmpty()) return complain(Command::Print, values.complaint());
   const QString file = arguments.files.first(), output = arguments.values.value(Option::Output);
   const NSPrintInfo info = printInfoOf(arguments);
   if (const auto error = overwritesInput(file, output)) return fail(file, *error);
@@ -78,13 +83,14 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
 
   const Interruption interruption;
   const CancelToken cancel = interruption.token();
-  const auto opened = openPicture(service_, picture, {}, cancel);
-  if (!opened) return fail(file, opened.error());
+  const TimeLimit time(std::chrono::seconds(limits.seconds), cancel);
+  const auto opened = openPicture(service_, picture, limits, time.token());
+  if (!opened) return fail(file, time.explained(opened.error()));
   const PrintSource source = sourceOf(*opened, picture.fileURL);
-  const Result<QByteArray> drawing = pictureOf(source, cancel);
-  if (!drawing) return fail(file, drawing.error());
-  const Result<QByteArray> pages = composeJob(source, info, service_, *drawing, cancel);
-  if (!pages) return fail(file, pages.error());
+  const Result<QByteArray> drawing = pictureOf(source, time.token());
+  if (!drawing) return fail(file, time.explained(drawing.error()));
+  const Result<QByteArray> pages = composeJob(source, info, service_, *drawing, time.token());
+  if (!pages) return fail(file, time.explained(pages.error()));
   if (!output.isEmpty()) return writeOutput(output, *pages, arguments.has(Option::Force));
   const Result<void> delivered = deliverJob(*pages, source.jobTitle, info, spooler, cancel);
   return delivered ? ExitCode::Done : fail(file, delivered.error());

@@ -20,9 +20,9 @@ Result<QString> svgText(PictureService& service, const QByteArray& bytes, const 
   service.openOnlyFor(PictureUse::Drawing);
   const auto process = service.open(bytes, PictureKind::Svg, limits);
   const Result<PictureFacts> facts = process->facts(time.token());
-  if (!facts) return facts.error();
+  if (!facts) return time.explained(facts.error());
   const Result<PictureBytes> pretty = process->svg({}, time.token());
-  if (!pretty) return pretty.error();
+  if (!pretty) return time.explained(pretty.error());
   return textOrError(PictureKind::Svg, pretty->bytes, pictureHeader(PictureKind::Svg, bytes, facts));
 }
 

@@ -9,7 +9,6 @@
 #include "encoders/epsi_writer.h"
 #include "encoders/monoclome_bitmap.h"
 #include "encoders/pdf_attributes.h"
-#include "picture/picture_header.h"
 #include "metadata/eps_lines.h"
 #include "metadata/eps_utf8_comments.h"
 #include "metadata/full_date.h"
@@ -186,7 +185,8 @@ std::optional<PdfAttributes> PictureEncoder::attributesFrom(const HeaderDictiona
     HeaderDictionary undescribed = facts;
     undescribed.remove(header::Description);
     attributes = pdfAttributes(undescribed, defaults);
-    addWarnings({QStringLiteral("the PDF has no subject, because the document has a description but no title")});
+    addWarnings(
+        {QStringLiteral("the PDF has no subject, because the document has a description but no title")});
   }
   if (!attributes)
     fail({ErrorKind::Unsupported,

@@ -17,6 +17,7 @@ class TimeLimitTest : public QObject {
     const CancelListener listener(limit.token(), [&] { heard.set_value(); });
     heard.get_future().wait();  // for ever, where nothing is told
     QVERIFY(limit.isOver());
+    QCOMPARE(limit.explained({ErrorKind::Cancelled, "x"}).kind, ErrorKind::TimedOut);
     QVERIFY(limit.token().cancelled());
   }
 
@@ -27,6 +28,7 @@ class TimeLimitTest : public QObject {
     outer.cancel();
     QVERIFY(limit.token().cancelled());
     QVERIFY(!limit.isOver());
+    QCOMPARE(limit.explained({ErrorKind::Cancelled, "x"}).message, QStringLiteral("x"));
   }
 
   void itsEndDoesNotWaitForTheTime() {

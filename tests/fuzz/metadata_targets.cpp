@@ -91,12 +91,9 @@ QList<QByteArray> seeds() {
 }  // namespace
 
 QList<Target> metadataTargets() {
-  return {{"eps_header", epsHeaders, seeds},
-          {"eps_source", epsSource, seeds},
-          {"bounding_box", boundingBox, seeds},
-          {"source_text", sourceTexts, seeds},
-          {"text_encoding", textEncoding, seeds},
-          {"type_identification", typeIdentification, seeds}};
+  return {{"eps_header", epsHeaders, seeds},      {"eps_source", epsSource, seeds},
+          {"bounding_box", boundingBox, seeds},   {"source_text", sourceTexts, seeds},
+          {"text_encoding", textEncoding, seeds}, {"type_identification", typeIdentification, seeds}};
 }
 
 }  // namespace norvex::fuzz

@@ -7,8 +7,8 @@
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "window/window_fixture.h"
 #include "window/commands/window_frames.h"
+#include "window/window_fixture.h"
 
 using namespace norvex;
 

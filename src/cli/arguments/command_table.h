@@ -58,7 +58,9 @@ using Commands = unsigned;
   return 1u << unsigned(command);
 }
 inline constexpr Commands everyCommand = (only(Command::Print) << 1) - 1;
-inline constexpr Commands everyFileCommand = everyCommand & ~only(Command::Main);
+/// Those that have a picture process open a document.
+inline constexpr Commands openingCommands =
+    only(Command::Info) | only(Command::Source) | only(Command::Convert) | only(Command::Print);
 
 /// A command takes the options of its own rows.
 struct OptionRow {
@@ -104,8 +106,8 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Quality, only(Command::Convert), 0, "quality", "N", "", qualityHelp.text()},
     {Option::Jobs, only(Command::Convert), 0, "jobs", "N", "",
      "files at a time (as many as there are cores)"},
-    {Option::Timeout, everyFileCommand, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
-    {Option::Memory, everyFileCommand, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},
+    {Option::Timeout, openingCommands, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
+    {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},
     {Option::Force, only(Command::Preview) | only(Command::Convert) | only(Command::Print), 'f', "force", "",
      "", "overwrite a file that exists"},
     {Option::Quiet, only(Command::Convert), 'q', "quiet", "", "", "tell nothing but errors"},

@@ -16,7 +16,8 @@ namespace norvex::engine {
 /// What gs is told, behind its name.
 [[nodiscard]] QList<QByteArray> distillerArguments();
 
-/// A child that waits for its program: forked where there is a program that does it, else gs itself. Fails as GhostscriptChild::start().
+/// A child that waits for its program: forked where there is a program that does it, else gs itself. Fails as
+/// GhostscriptChild::start().
 [[nodiscard]] Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& context);
 
 /// Starts Ghostscript in the context's warmGhostscript so that it has initialised itself by the time the

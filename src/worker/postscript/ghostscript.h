@@ -57,8 +57,8 @@ class GhostscriptChild {
   [[nodiscard]] Result<int> reap(qint64 deadline, const EngineContext& context);
   [[nodiscard]] Result<int> awaitOutcome(qint64 deadline, const EngineContext& context);
   void end();
-  int pid_ = -1;      ///< of a started one
-  int outcome_ = -1;  ///< of a forked one: the pipe that tells its status, and its life line
+  int pid_ = -1;            ///< of a started one
+  int outcome_ = -1;        ///< of a forked one: the pipe that tells its status, and its life line
   FileDescriptor process_;  ///< of pid_: a confined process signals nobody by number
   int input_ = -1;
   int output_ = -1;

@@ -15,13 +15,12 @@ const QByteArray kSquare = "0 0.5 0 rg 20 20 60 60 re f";
 // Encrypted with a password that nobody knows, as `filters` say.
 QByteArray encrypted(const QByteArray& filters) {
   const auto random = [](int count, char c) { return '<' + QByteArray(count, c).toHex() + '>'; };
-  return onePage(kSquare, "/MediaBox [0 0 200 100]",
-                 {"<< /Filter /Standard /V 5 /R 6 /Length 256 /P -4 /O " + random(48, 'o') + " /U " +
-                  random(48, 'u') + " /OE " + random(32, 'e') + " /UE " + random(32, 'f') + " /Perms " +
-                  random(16, 'p') +
-                  " /CF << /StdCF << /AuthEvent /EFOpen /CFM /AESV3 /Length 32 >> >> /EFF /StdCF " + filters +
-                  " >>"},
-                 "/Encrypt 5 0 R /ID [<00> <00>]");
+  return onePage(
+      kSquare, "/MediaBox [0 0 200 100]",
+      {"<< /Filter /Standard /V 5 /R 6 /Length 256 /P -4 /O " + random(48, 'o') + " /U " + random(48, 'u') +
+       " /OE " + random(32, 'e') + " /UE " + random(32, 'f') + " /Perms " + random(16, 'p') +
+       " /CF << /StdCF << /AuthEvent /EFOpen /CFM /AESV3 /Length 32 >> >> /EFF /StdCF " + filters + " >>"},
+      "/Encrypt 5 0 R /ID [<00> <00>]");
 }
 
 // Green where the square is.

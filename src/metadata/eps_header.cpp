@@ -2,10 +2,10 @@
 
 #include <initializer_list>
 
+#include "base/metadata_log.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/dsc_comments.h"
 #include "metadata/epsi_preview.h"
-#include "metadata/metadata_log.h"
 #include "metadata/text_encoding.h"
 
 namespace norvex {

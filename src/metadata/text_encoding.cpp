@@ -6,7 +6,7 @@
 #include <limits>
 #include <memory>
 
-#include "metadata/non_lossy_ascii.h"
+#include "base/non_lossy_ascii.h"
 #include "protocol/limits.h"
 
 namespace norvex {

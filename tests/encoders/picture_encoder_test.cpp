@@ -233,9 +233,9 @@ class PictureEncoderTest : public QObject {
     MemoryPicture memory = picture();
     memory.facts.title = QString();
     memory.facts.description = QStringLiteral("d");
-    memory.setAttributes = [this](const QByteArray& pdf, const AttributesRequest& attributes) {
-      service_->given = attributes;
-      return QByteArray(pdf + "+attributes");
+    memory.pdf = [this](const PdfRequest& request) {
+      if (request.attributes) service_->given = *request.attributes;
+      return QByteArray(request.attributes ? "%PDF-whole+attributes" : "%PDF-whole");
     };
     service_->memory.setPicture(memory);
     PictureEncoder strict = encoderOf(svg());

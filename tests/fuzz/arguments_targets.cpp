@@ -22,7 +22,7 @@ bool arguments(const QByteArray& bytes) {
           "no more files than the command takes");
   require(files <= given.size(), "each file was given");
   for (const Option option : read.arguments.values.keys())
-    require(rowOf(option).commands.contains(read.arguments.command), "options are the command's own");
+    require((rowOf(option).commands & only(read.arguments.command)) != 0, "options are the command's own");
   return fine && asksForCommandLine(given.first());
 }
 

@@ -8,7 +8,9 @@
 #include <initializer_list>
 
 #include "fuzz/targets.h"
-#include "protocol/cbor_fields.h"
+#include "protocol/cbor_reader.h"
+#include "protocol/cbor_writer.h"
+#include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex::fuzz {
@@ -18,7 +20,7 @@ bool messages(const QByteArray& bytes) {
   const auto message = decodeMessage(bytes);
   if (!message) return false;
   const QByteArray again = encodeMessage(*message);
-  require(quint32(again.size()) <= maximumMessageBytes, "a message is within its limit");
+  require(quint32(again.size()) <= limits::maximumMessageBytes, "a message is within its limit");
   require(decodeMessage(again).ok(), "what was read can be sent and read again");
   return true;
 }
@@ -27,31 +29,63 @@ bool replies(const QByteArray& bytes) {
   const auto reply = decodeReply(bytes);
   if (!reply) return false;
   const QByteArray again = encodeReply(*reply);
-  require(quint32(again.size()) <= maximumMessageBytes, "a reply is within its limit");
+  require(quint32(again.size()) <= limits::maximumMessageBytes, "a reply is within its limit");
   require(decodeReply(again).ok(), "what was read can be sent and read again");
   return true;
 }
 
-bool cborFields(const QByteArray& bytes) {
-  CborFields fields = CborFields::parse(bytes);
-  const qint64 integer = fields.integer(QLatin1String("integer"), -5, 5);
-  require(integer >= -5 && integer <= 5, "integers keep their bounds");
-  require(std::abs(fields.number(QLatin1String("number"), 100)) <= 100, "numbers keep their bounds");
-  fields.boolean(QLatin1String("boolean"));
-  require(fields.text(QLatin1String("text"), 8).size() <= 8, "texts keep their length");
-  require(fields.texts(QLatin1String("texts"), 3, 8).size() <= 3, "lists keep their count");
-  const QRectF rect = fields.rect(QLatin1String("rect"), 100);
-  require(rect.width() >= 0 && rect.height() >= 0 && std::abs(rect.x()) <= 100, "rectangles are upright");
-  require(fields.size(QLatin1String("size"), 10).width() <= 10, "sizes keep their bounds");
-  require(fields.array(QLatin1String("array"), 4).size() <= 4, "arrays keep their count");
-  require(fields.namedTexts(QLatin1String("named"), 3, 8).size() <= 3, "named texts keep their count");
-  if (fields.has(QLatin1String("date"))) {
-    const auto date = fields.date(QLatin1String("date"));
-    require(!fields.complete() || (date && date->isValid()), "a date that was taken is one");
+/// A value of every form that a field has.
+struct Inner {
+  QString text;
+};
+struct Everything {
+  int integer = 0;
+  double number = 0;
+  bool boolean = false;
+  QString text;
+  QStringList texts;
+  QRectF rect;
+  QSize size;
+  QHash<QString, QString> named;
+  std::optional<QDateTime> date;
+  QList<QRectF> rects;
+  Inner inner;
+};
+
+template <typename Visitor, typename Value>
+void fields(Visitor& v, Value& value) {
+  if constexpr (requires { value.inner; }) {
+    v.integer(QLatin1String("integer"), value.integer, -5, 5);
+    v.number(QLatin1String("number"), value.number, -100, 100);
+    v.boolean(QLatin1String("boolean"), value.boolean);
+    v.text(QLatin1String("text"), value.text, 8);
+    v.texts(QLatin1String("texts"), value.texts, 3, 8);
+    v.rect(QLatin1String("rect"), value.rect, 100);
+    v.size(QLatin1String("size"), value.size, 10);
+    v.namedTexts(QLatin1String("named"), value.named, 3, 8);
+    v.date(QLatin1String("date"), value.date);
+    v.rects(QLatin1String("rects"), value.rects, 4, 100);
+    v.nested(QLatin1String("inner"), value.inner);
+  } else {
+    v.text(QLatin1String("text"), value.text, 8);
   }
-  CborFields inner = fields.fields(QLatin1String("inner"));
-  inner.text(QLatin1String("text"), 8);
-  return inner.complete() && fields.complete();
+}
+
+bool cborFields(const QByteArray& bytes) {
+  CborReader reader = CborReader::parse(bytes);
+  Everything all;
+  fields(reader, all);
+  require(all.integer >= -5 && all.integer <= 5, "integers keep their bounds");
+  require(std::abs(all.number) <= 100, "numbers keep their bounds");
+  require(all.text.size() <= 8, "texts keep their length");
+  require(all.texts.size() <= 3, "lists keep their count");
+  require(all.rect.width() >= 0 && all.rect.height() >= 0 && std::abs(all.rect.x()) <= 100,
+          "rectangles are upright");
+  require(all.size.width() <= 10, "sizes keep their bounds");
+  require(all.named.size() <= 3, "named texts keep their count");
+  require(all.rects.size() <= 4, "rectangles keep their count");
+  require(!reader.complete() || !all.date || all.date->isValid(), "a date that was taken is one");
+  return reader.complete();
 }
 
 QList<QByteArray> messageSeeds() {
@@ -64,8 +98,8 @@ QList<QByteArray> messageSeeds() {
   SvgRequest svg;
   svg.rect = rect;
   AttributesRequest attributes;
-  attributes.texts = {{QStringLiteral("Title"), QStringLiteral("A title")}};
-  attributes.creationDate = QDateTime(QDate(2020, 2, 3), QTime(4, 5, 6), Qt::UTC);
+  attributes.attributes.texts = {{QStringLiteral("Title"), QStringLiteral("A title")}};
+  attributes.attributes.creationDate = QDateTime(QDate(2020, 2, 3), QTime(4, 5, 6), Qt::UTC);
   PagesRequest pages;
   pages.paper = {595, 842};
   pages.sheets = {{rect, rect}};
@@ -104,20 +138,24 @@ QList<QByteArray> replySeeds() {
 }
 
 QList<QByteArray> fieldSeeds() {
-  const QDateTime date(QDate(2020, 2, 3), QTime(4, 5, 6), Qt::UTC);
-  QCborMap map{{QLatin1String("integer"), 3},
-               {QLatin1String("number"), 2.5},
-               {QLatin1String("boolean"), true},
-               {QLatin1String("text"), QLatin1String("text")},
-               {QLatin1String("texts"), QCborArray{QLatin1String("a"), QLatin1String("b")}},
-               {QLatin1String("rect"), cborFromRect(QRectF(1, 2, 3, 4))},
-               {QLatin1String("size"), QCborArray{3, 4}},
-               {QLatin1String("array"), QCborArray{1, 2.5}},
-               {QLatin1String("named"), QCborMap{{QLatin1String("a"), QLatin1String("b")}}},
-               {QLatin1String("inner"), QCborMap{{QLatin1String("text"), QLatin1String("in")}}}};
-  const QByteArray plain = QCborValue(map).toCbor();
-  map.insert(QLatin1String("date"), cborFromDate(date));
-  return {plain, QCborValue(map).toCbor(), plain.chopped(3)};
+  Everything all;
+  all.integer = 3;
+  all.number = 2.5;
+  all.text = QStringLiteral("text");
+  all.texts = {QStringLiteral("a"), QStringLiteral("b")};
+  all.rect = QRectF(1, 2, 3, 4);
+  all.size = {3, 4};
+  all.named = {{QStringLiteral("a"), QStringLiteral("b")}};
+  all.rects = {all.rect, all.rect};
+  all.inner.text = QStringLiteral("in");
+  const auto written = [](const Everything& value) {
+    CborWriter writer;
+    fields(writer, value);
+    return QCborValue(writer.map()).toCbor();
+  };
+  const QByteArray plain = written(all);
+  all.date = QDateTime(QDate(2020, 2, 3), QTime(4, 5, 6), Qt::UTC);
+  return {plain, written(all), plain.chopped(3)};
 }
 
 }  // namespace

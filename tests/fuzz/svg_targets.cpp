@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "fuzz/targets.h"
+#include "types/gzip_mark.h"
 #include "worker/svg/gzip_inflate.h"
 #include "worker/svg/svg_cut.h"
 #include "worker/svg/svg_inspection.h"

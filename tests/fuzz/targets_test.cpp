@@ -68,12 +68,28 @@ class TargetsTest : public QObject {
   void everyParserOfBytesFromOutsideIsFed() {
     QSet<QByteArray> names;
     for (const Target& target : allTargets()) names << target.name;
-    for (const char* name :
-         {"messages",           "replies",     "cbor_fields",         "svg_inspection",   "gzip_inflate",
-          "font_thinning",      "page_tree",   "annotation_drawings", "colour_operators", "svg_text",
-          "svg_tokens",         "svg_cutting", "svg_stretching",      "tiff_preview",     "print_settings",
-          "arguments",          "eps_header",  "bounding_box",        "source_text",      "text_encoding",
-          "type_identification"})
+    for (const char* name : {"messages",
+                             "replies",
+                             "cbor_fields",
+                             "svg_inspection",
+                             "gzip_inflate",
+                             "font_thinning",
+                             "page_tree",
+                             "annotation_drawings",
+                             "colour_operators",
+                             "svg_text",
+                             "svg_tokens",
+                             "svg_cutting",
+                             "svg_stretching",
+                             "tiff_preview",
+                             "print_settings",
+                             "arguments",
+                             "eps_header",
+                             "bounding_box",
+                             "source_text",
+                             "text_encoding",
+                             "type_identification",
+                             "eps_source"})
       QVERIFY2(names.remove(name), name);
     QVERIFY(names.isEmpty());
   }

@@ -1,8 +1,8 @@
 // The header dictionary of PostScript sources that are text.
 #include "metadata/eps_header.h"
 
+#include "base/metadata_log.h"
 #include "kit/test_main.h"
-#include "metadata/metadata_log.h"
 #include "metadata/text_encoding.h"
 
 using namespace norvex;

@@ -1,8 +1,8 @@
 // The decoders and encoders behind the encoding numbers.
 #include "metadata/text_encoding.h"
 
+#include "base/non_lossy_ascii.h"
 #include "kit/test_main.h"
-#include "metadata/non_lossy_ascii.h"
 
 using namespace norvex;
 

@@ -1,4 +1,4 @@
-#include "metadata/metadata_log.h"
+#include "base/metadata_log.h"
 
 namespace norvex {
 

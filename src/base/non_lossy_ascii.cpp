@@ -1,4 +1,4 @@
-#include "metadata/non_lossy_ascii.h"
+#include "base/non_lossy_ascii.h"
 
 namespace norvex {
 namespace {

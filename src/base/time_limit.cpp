@@ -6,7 +6,9 @@
 namespace norvex {
 
 TimeLimit::TimeLimit(std::chrono::milliseconds time, const CancelToken& outer)
-    : outer_(outer, [token = token_] { token.cancel(); }), clock_([this, time](const std::stop_token& done) {
+    : time_(time),
+      outer_(outer, [token = token_] { token.cancel(); }),
+      clock_([this, time](const std::stop_token& done) {
         std::mutex mutex;
         std::condition_variable_any never;
         std::unique_lock lock(mutex);
@@ -18,8 +20,8 @@ TimeLimit::TimeLimit(std::chrono::milliseconds time, const CancelToken& outer)
 
 Error TimeLimit::explained(const Error& error) const {
   if (!over_) return error;
-  return {ErrorKind::TimedOut,
-          QStringLiteral("the picture was not ready within the time that it is allowed")};
+  return {ErrorKind::TimedOut, QStringLiteral("the picture was not ready within %1 seconds")
+                                   .arg(std::chrono::duration_cast<std::chrono::seconds>(time_).count())};
 }
 
 }  // namespace norvex

@@ -23,6 +23,7 @@ class TimeLimit {
   [[nodiscard]] Error explained(const Error& error) const;
 
  private:
+  std::chrono::milliseconds time_;
   CancelToken token_;
   std::atomic<bool> over_ = false;
   CancelListener outer_;

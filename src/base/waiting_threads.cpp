@@ -1,5 +1,6 @@
 #include "base/waiting_threads.h"
 
+#include <QCoreApplication>
 #include <QThreadPool>
 
 namespace norvex {
@@ -18,6 +19,10 @@ QThreadPool& waitingThreads() {
 
 WaitingThreadsEnd::~WaitingThreadsEnd() {
   waitingThreads().waitForDone();
+  // What the work posted last is taken now, by nobody: left behind, it would be destroyed with the
+  // application's queue, under a lock that the objects in it want.
+  if (QCoreApplication* application = QCoreApplication::instance())
+    QCoreApplication::sendPostedEvents(application, QEvent::MetaCall);
 }
 
 }  // namespace norvex

@@ -10,8 +10,8 @@ namespace norvex {
 /// lives as long as the program.
 [[nodiscard]] QThreadPool& waitingThreads();
 
-/// Put before what that work uses, it waits at its end until all of it is over. What shall end soon must have
-/// been cancelled.
+/// Put before what that work uses, it waits at its end until all of it is over, and takes what it told the
+/// application. What shall end soon must have been cancelled. Main thread.
 struct WaitingThreadsEnd {
   WaitingThreadsEnd() = default;
   ~WaitingThreadsEnd();

@@ -21,6 +21,15 @@ class TimeLimitTest : public QObject {
     QVERIFY(limit.token().cancelled());
   }
 
+  void whatFailedUnderItIsToldAsTheTime() {
+    const TimeLimit limit(0ms, {});
+    std::promise<void> heard;
+    const CancelListener listener(limit.token(), [&] { heard.set_value(); });
+    heard.get_future().wait();
+    QCOMPARE(limit.explained({ErrorKind::Cancelled, "x"}).message,
+             QStringLiteral("the picture was not ready within 0 seconds"));
+  }
+
   void whoCancelsOutsideCancelsItToo() {
     const CancelToken outer;
     const TimeLimit limit(24h, outer);

@@ -521,13 +521,12 @@ class ConvertTest : public QObject {
     CommandLine line;
     const QString first = line.write("a.eps", kEps);
     const QString second = line.write("b.eps", kEps);
-    // The signal comes while the first picture is drawn: it ends without a result, the second is not begun.
-    MemoryPicture picture;
-    picture.paint = [](const RenderRequest& request) {
+    // The signal comes before the first picture is drawn, which then ends without a result; the second is not
+    // begun.
+    line.service.setPrepare([](MemoryPictureProcess& process) {
+      process.hold(PictureCall::Render);
       ::raise(SIGINT);
-      return testPattern(request, {30, 40});
-    };
-    line.service.setPicture(picture);
+    });
     QCOMPARE(line.run({"convert", first, second, "--to", line.path("."), "--format", "png", "--jobs", "1"}),
              130);
     QCOMPARE(line.console.messages, QString("norvex: interrupted; 2 of 2 files not converted\n"));

@@ -11,9 +11,9 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <filesystem>
 #include <utility>
 
+#include "base/remove_folder.h"
 #include "worker/confinement/process_files.h"
 #include "worker/confinement/sandbox.h"
 
@@ -23,11 +23,6 @@ namespace {
 /// More than a run ever works on at once: a process that has been taken over by its document cannot fill the
 /// machine with interpreters.
 constexpr size_t kMaximumChildren = 64;
-
-void removeFolder(const QByteArray& folder) {
-  std::error_code ignored;  // what cannot be removed now goes with the root folder
-  std::filesystem::remove_all(folder.toStdString(), ignored);
-}
 
 template <typename Value>
 void tell(const FileDescriptor& outcome, const Value& value) {
@@ -84,7 +79,7 @@ QByteArray InterpreterServer::fork(InterpreterRequest request) {
   } else if (pid > 0) {
     bury(child);
   } else {
-    removeFolder(folder);
+    removeFolder(folder.toStdString());
   }
   return {};
 }
@@ -113,7 +108,7 @@ void InterpreterServer::bury(Child& child) {
   ::kill(child.pid, SIGKILL);
   InterpreterOutcome status = 0;
   while (::waitpid(child.pid, &status, 0) < 0 && errno == EINTR) continue;
-  removeFolder(child.scratchFolder);
+  removeFolder(child.scratchFolder.toStdString());
   tell(child.outcome, status);
 }
 

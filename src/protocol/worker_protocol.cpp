@@ -21,6 +21,8 @@ inline constexpr const char* typeOf<ComposeRequest> = "compose";
 template <>
 inline constexpr const char* typeOf<SvgRequest> = "svg";
 template <>
+inline constexpr const char* typeOf<ExamineRequest> = "examine";
+template <>
 inline constexpr const char* typeOf<DecodePreviewRequest> = "preview";
 template <>
 inline constexpr const char* typeOf<AttributesRequest> = "attributes";
@@ -69,15 +71,18 @@ template <typename V>
 void fields(V& v, Of<V, PdfRequest>& pdf) {
   v.integer(Key("page"), pdf.page, 0, limits::maximumPageNumber);
   v.optional(Key("information"), pdf.attributes, [&](auto& some) { v.nested(Key("information"), some); });
+  v.boolean(Key("keepActions"), pdf.keepActions);
 }
 
 template <typename V>
 void fields(V& v, Of<V, ComposeRequest>& compose) {
-  v.oneOf(Key("format"), compose.format, VectorFormat::Pdf, VectorFormat::Eps);
+  v.oneOf(Key("format"), compose.format, VectorFormat::Pdf, VectorFormat::Svg);
   v.integer(Key("page"), compose.page, 0, limits::maximumPageNumber);
   v.rect(Key("rect"), compose.rect, limits::maximumPoints);
   v.number(Key("rotate"), compose.rotate, -limits::maximumPoints, limits::maximumPoints);
   v.optional(Key("information"), compose.attributes, [&](auto& some) { v.nested(Key("information"), some); });
+  v.boolean(Key("keepActions"), compose.keepActions);
+  v.boolean(Key("keepText"), compose.keepText);
 }
 
 template <typename V>
@@ -85,6 +90,14 @@ void fields(V& v, Of<V, SvgRequest>& svg) {
   v.boolean(Key("pretty"), svg.pretty);
   v.optional(Key("rect"), svg.rect, [&](auto& rect) { v.rect(Key("rect"), rect, limits::maximumPoints); });
   v.number(Key("rotate"), svg.rotate, -limits::maximumPoints, limits::maximumPoints);
+}
+
+template <typename V>
+void fields(V& v, Of<V, ExamineRequest>& examine) {
+  v.oneOf(Key("what"), examine.what, Examination::Contents, Examination::Text);
+  v.integer(Key("page"), examine.page, 0, limits::maximumPageNumber);
+  v.number(Key("dpi"), examine.dpi, 1, limits::maximumDpi);
+  v.boolean(Key("overprint"), examine.overprint);
 }
 
 template <typename V>

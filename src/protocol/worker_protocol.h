@@ -27,7 +27,7 @@
 
 namespace norvex {
 
-inline constexpr int workerProtocolVersion = 6;
+inline constexpr int workerProtocolVersion = 7;
 
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
 enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
@@ -70,9 +70,10 @@ struct PdfAttributes {
 struct PdfRequest {
   int page = 0;
   std::optional<PdfAttributes> attributes = {};  ///< of the new PDF
+  bool keepActions = false;  ///< of a PDF: launching, scripts, actions, files elsewhere stay in it
 };
 
-enum class VectorFormat { Pdf = 1, Eps = 2 };
+enum class VectorFormat { Pdf = 1, Eps = 2, Svg = 3 };
 
 /// A rectangle of the rotated picture as one page whose box is that rectangle.
 /// View coordinates: origin at the picture's centre, y up, the picture turned by `rotate` about that centre.
@@ -82,6 +83,8 @@ struct ComposeRequest {
   QRectF rect;        ///< view coordinates, points; x and y are its lower-left corner
   double rotate = 0;  ///< radians, counter-clockwise positive
   std::optional<PdfAttributes> attributes = {};  ///< of the new PDF; an EPS has none
+  bool keepActions = false;                      ///< as in PdfRequest
+  bool keepText = false;  ///< Svg: text stays text with its fonts embedded; otherwise it becomes outlines
 };
 
 /// The document as SVG text. Only for PictureKind::Svg.
@@ -93,6 +96,16 @@ struct SvgRequest {
   /// picture.
   std::optional<QRectF> rect;
   double rotate = 0;  ///< radians, clockwise as seen on the screen
+};
+
+enum class Examination { Contents = 1, Drawn = 2, Inks = 3, Text = 4 };
+
+/// What is in a page: answered by a BytesReply whose memfd holds one CBOR map, see the reader of each.
+struct ExamineRequest {
+  Examination what = Examination::Contents;
+  int page = 0;
+  double dpi = 72;         ///< of the pixels that are looked at: Drawn, Inks
+  bool overprint = false;  ///< Inks: overprinting is simulated
 };
 
 /// A TIFF section (the message's memfd) to a bitmap. Needs no open document.
@@ -130,7 +143,7 @@ struct PagesRequest {
 };
 
 using RequestBody = std::variant<OpenRequest, RenderRequest, PdfRequest, ComposeRequest, SvgRequest,
-                                 DecodePreviewRequest, AttributesRequest, PagesRequest>;
+                                 ExamineRequest, DecodePreviewRequest, AttributesRequest, PagesRequest>;
 
 struct WorkerRequest {
   quint32 id = 0;  ///< from 1, never reused on one connection
@@ -171,6 +184,8 @@ struct PictureFacts {
   std::optional<bool> fixedRatioX,
       fixedRatioY;       ///< true: an absolute length, false: a percentage, absent: no attribute
   QStringList warnings;  ///< one plain sentence each
+  QString stoppedBy;  ///< PostScript: why the program ended before its end, one plain sentence; the picture
+                      ///< is what it had drawn. Empty: it ran to its end
 };
 
 /// Reply with bytes in the message's memfd.

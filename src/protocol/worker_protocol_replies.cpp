@@ -58,6 +58,7 @@ void fields(V& v, Of<V, PictureFacts>& facts) {
   v.texts(Key("colorSpaces"), facts.colorSpaces, limits::maximumNames, limits::maximumNameLength);
   svgFields(v, facts);
   warnings(v, facts.warnings);
+  v.text(Key("stoppedBy"), facts.stoppedBy, limits::maximumSentenceLength);
 }
 
 template <typename V>

@@ -116,6 +116,10 @@ DocumentServer::Answer DocumentServer::serve(const SvgRequest& request, FileDesc
   return engine_ ? answerOf(engine_->svg(request)) : Answer{notOpen(), {}};
 }
 
+DocumentServer::Answer DocumentServer::serve(const ExamineRequest& request, FileDescriptor) {
+  return engine_ ? answerOf(engine_->examine(request)) : Answer{notOpen(), {}};
+}
+
 DocumentServer::Answer DocumentServer::serve(const DecodePreviewRequest&, FileDescriptor descriptor) {
   if (!engines_.decodePreview) return {unsupported(), {}};
   Result<SealedMemory> tiff = SealedMemory::map(std::move(descriptor), kAnySize);

@@ -32,6 +32,7 @@ class DocumentServer {
   Answer serve(const PdfRequest& request, FileDescriptor descriptor);
   Answer serve(const ComposeRequest& request, FileDescriptor descriptor);
   Answer serve(const SvgRequest& request, FileDescriptor descriptor);
+  Answer serve(const ExamineRequest& request, FileDescriptor descriptor);
   Answer serve(const DecodePreviewRequest& request, FileDescriptor descriptor);
   Answer serve(const AttributesRequest& request, FileDescriptor descriptor);
   Answer serve(const PagesRequest& request, FileDescriptor descriptor);

@@ -105,8 +105,9 @@ QList<QByteArray> messageSeeds() {
   pages.sheets = {{rect, rect}};
   pages.header = SheetLine{QStringLiteral("left\tmiddle\tright"), rect};
   pages.fontFamily = QStringLiteral("Sans");
-  for (const RequestBody& body : std::initializer_list<RequestBody>{
-           OpenRequest{}, render, PdfRequest{}, compose, svg, DecodePreviewRequest{}, attributes, pages})
+  for (const RequestBody& body :
+       std::initializer_list<RequestBody>{OpenRequest{}, render, PdfRequest{}, compose, svg, ExamineRequest{},
+                                          DecodePreviewRequest{}, attributes, pages})
     all << WorkerRequest{quint32(all.size()), body};
   QList<QByteArray> seeds;
   for (const WorkerMessage& message : all) seeds << encodeMessage(message);

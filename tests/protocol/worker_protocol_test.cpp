@@ -71,6 +71,7 @@ QList<WorkerMessage> messages() {
       WorkerRequest{11, PdfRequest{7, attributes()}},
       WorkerRequest{12, ComposeRequest{VectorFormat::Pdf, 1, QRectF(0, 0, 1, 1), 0, attributes()}},
       WorkerRequest{10, pages()},
+      WorkerRequest{13, ExamineRequest{Examination::Inks, 2, 144, true}},
   };
 }
 
@@ -167,6 +168,12 @@ class WorkerProtocolTest : public QObject {
         std::get<SvgRequest>(std::get<WorkerRequest>(*decodeMessage(encodeMessage(messages()[4]))).body);
     QVERIFY(!svg.pretty);
     QCOMPARE(*svg.rect, QRectF(1, 2, 3, 4));
+    const auto examine = std::get<ExamineRequest>(
+        std::get<WorkerRequest>(*decodeMessage(encodeMessage(messages().last()))).body);
+    QCOMPARE(examine.what, Examination::Inks);
+    QCOMPARE(examine.page, 2);
+    QCOMPARE(examine.dpi, 144.0);
+    QVERIFY(examine.overprint);
     const auto fork = std::get<ForkRequest>(*decodeMessage(encodeMessage(messages()[7])));
     QVERIFY(fork.postScript);
     QCOMPARE(fork.limits.memoryMiB, 2);

@@ -154,6 +154,10 @@ Result<PictureBytes> WorkerClient::svg(const SvgRequest& request, const CancelTo
   return askForBytes(request, cancel);
 }
 
+Result<PictureBytes> WorkerClient::examine(const ExamineRequest& request, const CancelToken& cancel) {
+  return askForBytes(request, cancel);
+}
+
 Result<PictureBytes> WorkerClient::setPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes,
                                                     const CancelToken& cancel) {
   const Result<FileDescriptor> memory = SealedMemory::seal(pdf);

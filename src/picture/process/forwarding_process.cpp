@@ -22,6 +22,10 @@ Result<PictureBytes> ForwardingProcess::svg(const SvgRequest& request, const Can
   return process_->svg(request, cancel);
 }
 
+Result<PictureBytes> ForwardingProcess::examine(const ExamineRequest& request, const CancelToken& cancel) {
+  return process_->examine(request, cancel);
+}
+
 Result<PictureBytes> ForwardingProcess::setPdfAttributes(const QByteArray& pdf,
                                                          const PdfAttributes& attributes,
                                                          const CancelToken& cancel) {

@@ -19,6 +19,7 @@ class ForwardingProcess : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> examine(const ExamineRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes,
                                         const CancelToken& cancel = {}) override;
   void retire() override;

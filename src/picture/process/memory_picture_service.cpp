@@ -175,6 +175,12 @@ Result<PictureBytes> MemoryPictureProcess::svg(const SvgRequest& request, const 
   return PictureBytes{picture_.svg ? picture_.svg(request) : bytes_, picture_.report};
 }
 
+Result<PictureBytes> MemoryPictureProcess::examine(const ExamineRequest& request, const CancelToken& cancel) {
+  const std::lock_guard serial(serial_);
+  if (const auto begun = begin(PictureCall::Examine, cancel); !begun) return begun.error();
+  return PictureBytes{picture_.examine ? picture_.examine(request) : QByteArray("\xa0"), picture_.report};
+}
+
 Result<PictureBytes> MemoryPictureProcess::setPdfAttributes(const QByteArray& pdf,
                                                             const PdfAttributes& attributes,
                                                             const CancelToken& cancel) {

@@ -19,7 +19,7 @@
 namespace norvex {
 
 /// The calls of a PictureProcess, to count them and to make them fail.
-enum class PictureCall { Facts, Render, Pdf, Compose, Svg, Attributes };
+enum class PictureCall { Facts, Render, Pdf, Compose, Svg, Examine, Attributes };
 
 /// What the answers of a memory process are. Every function may be replaced; it runs on the caller's thread,
 /// and several threads never run it at the same time.
@@ -35,6 +35,7 @@ struct MemoryPicture {
   std::function<QByteArray(const ComposeRequest&)>
       compose;                                       ///< Default: an empty page of the rectangle's size
   std::function<QByteArray(const SvgRequest&)> svg;  ///< Default: the bytes that were opened
+  std::function<QByteArray(const ExamineRequest&)> examine;  ///< Default: an empty CBOR map
   std::function<QByteArray(const QByteArray& pdf, const PdfAttributes&)> setAttributes;  ///< Default: the PDF
 };
 
@@ -75,6 +76,7 @@ class MemoryPictureProcess final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> examine(const ExamineRequest& request, const CancelToken& cancel = {}) override;
   Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes,
                                         const CancelToken& cancel = {}) override;
   void retire() override { ++retirements_; }

@@ -13,6 +13,7 @@ class NullPictureProcess final : public PictureProcess {
   Result<PictureBytes> pdf(const PdfRequest&, const CancelToken&) override { return error_; }
   Result<PictureBytes> compose(const ComposeRequest&, const CancelToken&) override { return error_; }
   Result<PictureBytes> svg(const SvgRequest&, const CancelToken&) override { return error_; }
+  Result<PictureBytes> examine(const ExamineRequest&, const CancelToken&) override { return error_; }
   Result<PictureBytes> setPdfAttributes(const QByteArray&, const PdfAttributes&,
                                         const CancelToken&) override {
     return error_;

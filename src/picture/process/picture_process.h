@@ -39,6 +39,8 @@ class PictureProcess {
   virtual Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) = 0;
   virtual Result<PictureBytes> svg(const SvgRequest& request, const CancelToken& cancel = {}) = 0;
+  /// One CBOR map. Nothing of it is checked: its reader does.
+  virtual Result<PictureBytes> examine(const ExamineRequest& request, const CancelToken& cancel = {}) = 0;
   /// `pdf`, a finished one, with these attributes. What is yet to be made takes them with its request.
   virtual Result<PictureBytes> setPdfAttributes(const QByteArray& pdf, const PdfAttributes& attributes,
                                                 const CancelToken& cancel = {}) = 0;

@@ -6,4 +6,8 @@ Result<EngineBytes> DocumentEngine::svg(const SvgRequest&) {
   return Error{ErrorKind::Unsupported, QStringLiteral("only an SVG picture can be given as SVG")};
 }
 
+Result<EngineBytes> DocumentEngine::examine(const ExamineRequest&) {
+  return Error{ErrorKind::Unsupported, QStringLiteral("this cannot be examined in a picture of this kind")};
+}
+
 }  // namespace norvex::engine

@@ -50,6 +50,8 @@ class DocumentEngine {
   [[nodiscard]] virtual QStringList drawingRemarks() const { return {}; }
   /// Only SVG has it; the others answer ErrorKind::Unsupported.
   virtual Result<EngineBytes> svg(const SvgRequest& request);
+  /// Where an engine cannot look at that, it answers ErrorKind::Unsupported.
+  virtual Result<EngineBytes> examine(const ExamineRequest& request);
 };
 
 }  // namespace norvex::engine

@@ -24,11 +24,12 @@ class StoppableProcessTest : public QObject {
     MemoryPictureService service;
     StoppableService stoppable(service, CancelToken());
     const auto process = stoppable.open("bytes", PictureKind::Pdf);
-    QVERIFY(process->facts() && process->pdf({}) && process->compose({}) && process->svg({}));
+    QVERIFY(process->facts() && process->pdf({}) && process->compose({}) && process->svg({}) &&
+            process->examine({}));
     QVERIFY(process->render(small()) && process->setPdfAttributes("pdf", {}));
     process->retire();
     for (PictureCall call : {PictureCall::Facts, PictureCall::Pdf, PictureCall::Compose, PictureCall::Svg,
-                             PictureCall::Render, PictureCall::Attributes})
+                             PictureCall::Render, PictureCall::Examine, PictureCall::Attributes})
       QCOMPARE(service.lastProcess()->calls(call), 1);
     QCOMPARE(service.lastProcess()->retirements(), 1);
     QCOMPARE(service.openedKinds(), QList<PictureKind>{PictureKind::Pdf});

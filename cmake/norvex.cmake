@@ -32,9 +32,10 @@ if(NORVEX_COVERAGE)
 endif()
 
 # The code under test is optimised, the tests are not: they compile in half the time.
-set(NORVEX_TEST_OPTIONS $<$<CONFIG:Release>:-O0>)
+# What changes a macro that Qt's test header reads is the same for all of them: their precompiled header serves nobody else.
+set(NORVEX_TEST_OPTIONS $<$<CONFIG:Release>:-O0> -pthread -UQT_NETWORK_LIB)
 
-# One precompiled header for all folders and one for all tests (tests/CMakeLists.txt): each takes longer to make than
+# One precompiled header for all folders and one for each kind of tests (tests/CMakeLists.txt): each takes longer to make than
 # most sources.
 # Sources include what they need all the same; a build without precompiled headers shows it.
 set(NORVEX_PCH <algorithm> <functional> <memory> <optional> <vector>
@@ -106,10 +107,23 @@ function(norvex_folders table)
   endforeach()
 endfunction()
 
-# norvex_tests(FOLDER APP core|gui|widgets LINK lib…): tests/FOLDER/*_test.cpp become the program FOLDER_tests;
-# each file is a ctest case of its own, so a hang or a crash names its file.
+# norvex_tests_header(KIND lib…): the precompiled header of all tests that see Qt's libraries up to KIND.
+function(norvex_tests_header kind)
+  set(name norvex_${kind}_test_pch)
+  add_executable(${name} ${CMAKE_CURRENT_BINARY_DIR}/pch.cpp)
+  target_link_libraries(${name} PRIVATE norvex_flags Qt6::Test ${ARGN})
+  target_compile_options(${name} PRIVATE ${NORVEX_TEST_OPTIONS})
+  target_precompile_headers(${name} PRIVATE ${NORVEX_PCH} <QtTest>)
+endfunction()
+
+# norvex_tests(FOLDER APP core|gui|widgets [HEADER core|gui|widgets] LINK lib…): tests/FOLDER/*_test.cpp become the
+# program FOLDER_tests; each file is a ctest case of its own, so a hang or a crash names its file. HEADER is the
+# precompiled header where what it links sees more of Qt than its application object is made of.
 function(norvex_tests folder)
-  cmake_parse_arguments(ARG "" "APP" "LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "APP;HEADER" "LINK" ${ARGN})
+  if(NOT ARG_HEADER)
+    set(ARG_HEADER ${ARG_APP})
+  endif()
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*.cpp
        ${PROJECT_SOURCE_DIR}/tests/${folder}/*.h)
   file(GLOB cases CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*_test.cpp)
@@ -130,7 +144,7 @@ function(norvex_tests folder)
   target_compile_definitions(${target}_tests PRIVATE
     NORVEX_SOURCE_DIR="${PROJECT_SOURCE_DIR}" NORVEX_BUILD_DIR="${CMAKE_BINARY_DIR}")
   target_compile_options(${target}_tests PRIVATE ${NORVEX_TEST_OPTIONS})
-  target_precompile_headers(${target}_tests REUSE_FROM norvex_test_pch)
+  target_precompile_headers(${target}_tests REUSE_FROM norvex_${ARG_HEADER}_test_pch)
   set(timeout 300)
   if(folder STREQUAL "system")
     set(timeout 1200)  # whole programs over real files, on whatever machine this is

@@ -70,8 +70,8 @@ QList<WorkerMessage> messages() {
       CancelRequest{9},
       WorkerRequest{11, PdfRequest{7, attributes()}},
       WorkerRequest{12, ComposeRequest{VectorFormat::Pdf, 1, QRectF(0, 0, 1, 1), 0, attributes()}},
-      WorkerRequest{10, pages()},
       WorkerRequest{13, ExamineRequest{Examination::Inks, 2, 144, true}},
+      WorkerRequest{10, pages()},
   };
 }
 
@@ -168,8 +168,8 @@ class WorkerProtocolTest : public QObject {
         std::get<SvgRequest>(std::get<WorkerRequest>(*decodeMessage(encodeMessage(messages()[4]))).body);
     QVERIFY(!svg.pretty);
     QCOMPARE(*svg.rect, QRectF(1, 2, 3, 4));
-    const auto examine = std::get<ExamineRequest>(
-        std::get<WorkerRequest>(*decodeMessage(encodeMessage(messages().last()))).body);
+    const auto examine =
+        std::get<ExamineRequest>(std::get<WorkerRequest>(*decodeMessage(encodeMessage(messages()[12]))).body);
     QCOMPARE(examine.what, Examination::Inks);
     QCOMPARE(examine.page, 2);
     QCOMPARE(examine.dpi, 144.0);

@@ -35,9 +35,10 @@ struct SvgInspection {
   bool needsHugeParser = false;
 };
 
-/// Entities are expanded as they are used; external ones, the external DTD subset included, are never loaded.
-/// Fails with NotParsable (not well-formed, no SVG root) or Limit (maximumXmlDepth, maximumDrawingDepth,
-/// maximumXmlElements, maximumEntityExpansion, maximumEntityUses).
+/// REQUIRES text without NUL, as decodeSvgText() gives it. Entities are expanded as they are used; external
+/// ones, the external DTD subset included, are never loaded. Fails with NotParsable (not well-formed, no SVG
+/// root) or Limit (maximumXmlDepth, maximumDrawingDepth, maximumXmlElements, maximumEntityExpansion,
+/// maximumEntityUses).
 [[nodiscard]] Result<SvgInspection> inspectSvg(const QByteArray& utf8);
 
 }  // namespace norvex::engine

@@ -57,6 +57,14 @@ Error notText(const QByteArray& encoding) {
           QStringLiteral("the bytes are not text in the encoding %1").arg(QString::fromLatin1(encoding))};
 }
 
+// NUL is no character of XML, and the parser takes it for the end: what stands behind it is no part of the
+// document.
+QByteArray untilNul(QByteArray text) {
+  const qsizetype nul = text.indexOf('\0');
+  if (nul >= 0) text.truncate(nul);
+  return text;
+}
+
 Result<SvgText> decodeWide(const QByteArray& bytes, const Family& family) {
   SvgText text;
   const bool sixteen = *family.wide == QStringConverter::Utf16LE || *family.wide == QStringConverter::Utf16BE;
@@ -65,7 +73,7 @@ Result<SvgText> decodeWide(const QByteArray& bytes, const Family& family) {
   QString wide = decoder.decode(bytes.mid(family.markBytes));
   if (decoder.hasError() || bytes.size() % (sixteen ? 2 : 4) != 0) return notText(text.declaredName);
   while (wide.startsWith(QChar::ByteOrderMark)) wide.remove(0, 1);  // a converter's left-over
-  text.utf8 = wide.toUtf8();
+  text.utf8 = untilNul(wide.toUtf8());
   text.handedOnAsUtf8 = !sixteen;
   text.encodingName = sixteen ? QStringLiteral("utf-16") : QStringLiteral("utf-8");
   text.encodingNumber = int(sixteen ? encoding::Utf16 : encoding::Utf8);
@@ -134,7 +142,7 @@ Result<SvgText> decodeSvgText(const QByteArray& bytes) {
       upper.startsWith("UCS-"))
     text.declaredName = "UTF-8";
   if (text.declaredName.toUpper() == "UTF-8") {
-    text.utf8 = body;  // the XML parser refuses what is not UTF-8
+    text.utf8 = untilNul(body);  // the XML parser refuses what is not UTF-8
   } else {
     Handler handler(xmlFindCharEncodingHandler(text.declaredName.constData()));
     if (!handler)
@@ -143,7 +151,7 @@ Result<SvgText> decodeSvgText(const QByteArray& bytes) {
           QStringLiteral("the encoding %1 is not known").arg(QString::fromUtf8(text.declaredName.left(40)))};
     const std::optional<QByteArray> decoded = toUtf8(body, handler.get());
     if (!decoded) return notText(text.declaredName);
-    text.utf8 = *decoded;
+    text.utf8 = untilNul(*decoded);
   }
   nameEncoding(text);
   return text;

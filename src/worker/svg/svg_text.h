@@ -8,7 +8,8 @@
 
 namespace norvex::engine {
 
-/// A document's text as UTF-8 without a byte-order mark, and what is needed to write it out as it came.
+/// A document's text as UTF-8 without a byte-order mark and up to the first NUL, and what is needed to write
+/// it out as it came.
 struct SvgText {
   QByteArray utf8;  ///< the XML declaration, where there is one, still names the encoding of the bytes
   /// One of the encoding names and its number (see metadata/header_dictionary.h). An encoding that has none

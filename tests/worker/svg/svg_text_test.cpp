@@ -107,6 +107,24 @@ class SvgTextTest : public QObject {
     QCOMPARE(withDeclaredEncoding("<a/>", "UTF-8"), QByteArray("<a/>"));
   }
 
+  void theTextEndsAtTheFirstNul() {
+    const QString padded = kBody + QChar(0) + QStringLiteral("</x><rubbish");
+    for (const QByteArray& bytes : {padded.toUtf8(), utf16(padded, QStringConverter::Utf16LE, true),
+                                    (declaration("EUC-JP") + padded).toLatin1()}) {
+      const Result<SvgText> text = decodeSvgText(bytes);
+      QVERIFY(text);
+      QVERIFY(text->utf8.endsWith("</svg>"));
+    }
+    OpenSvg document(padded.toUtf8());
+    SvgRequest request;
+    request.rotate = 1;
+    for (const bool pretty : {true, false}) {
+      request.pretty = pretty;
+      OpenSvg again(document->svg(request)->bytes);
+      QVERIFY(again->facts());
+    }
+  }
+
   void whatIsNoTextIsRefused() {
     for (const QByteArray& bytes :
          {QByteArray("<?xml version='1.0' encoding='EUC-JP'?><svg>\xc6</svg>"),

@@ -9,13 +9,15 @@
 namespace norvex {
 namespace {
 
-/// Whether PostScript begins here. Spoolers leave an end-of-transmission byte or blanks before it.
-bool beginsPostScript(QByteArrayView postScript) {
+/// Spoolers leave an end-of-transmission byte or blanks before the first line, and some writers forget its
+/// mark: then comments begin the file, and its bounding box (EPSF 3.0, 2.1) has to speak for it.
+bool beginsPostScript(QByteArrayView postScript, bool statesBox) {
   qsizetype at = 0;
   while (at < postScript.size() && at < 64 &&
          (postScript[at] == '\x04' || QByteArrayView(" \t\r\n").contains(postScript[at])))
     ++at;
-  return postScript.sliced(at).startsWith("%!");
+  const QByteArrayView first = postScript.sliced(at);
+  return first.startsWith("%!") || (statesBox && first.startsWith("%") && !first.startsWith("%PDF-"));
 }
 
 }  // namespace
@@ -34,10 +36,10 @@ Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureSe
                                                                        const QByteArray& bytes,
                                                                        const PictureLimits& limits) {
   if (bytes.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the file is empty")};
-  if (!beginsPostScript(epsProgram(bytes)))
-    return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
   const EpsBoundingBoxes boxes = epsBoundingBoxes(bytes);
   const std::optional<QRectF> box = epsPictureBox(boxes);
+  if (!beginsPostScript(epsProgram(bytes), box.has_value()))
+    return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
   if (!box)
     return Error{ErrorKind::NotParsable,
                  QStringLiteral("the PostScript header states no usable bounding box")};

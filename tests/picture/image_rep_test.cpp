@@ -64,6 +64,19 @@ class ImageRepTest : public QObject {
   }
 
   // ---- EPS
+  void commentsWithABoundingBoxDoWithoutTheMark() {
+    MemoryPictureService service;
+    for (const QByteArray& start : {QByteArray("%%%%%%%%\n% a form's field\n%!PS-Adobe-3.0 EPSF-3.0\n"),
+                                    QByteArray("\n%%Creator: one that forgets it\n")}) {
+      const auto rep =
+          NSEPSImageRep::imageRepWithData(service, start + "%%BoundingBox: 0 0 300 30\n0 0 9 9 rectfill\n");
+      QVERIFY(rep);
+      QCOMPARE((*rep)->boundingBox(), QRectF(0, 0, 300, 30));
+      QVERIFY(!NSEPSImageRep::imageRepWithData(service, start + "0 0 9 9 rectfill\n"));
+    }
+    QVERIFY(!NSEPSImageRep::imageRepWithData(service, "a text\n%%BoundingBox: 0 0 300 30\n"));
+  }
+
   void anEpsTellsItsBoxesWithoutAskingTheProcess() {
     MemoryPictureService service;
     const auto rep = NSEPSImageRep::imageRepWithData(service, kEps);
@@ -99,7 +112,7 @@ class ImageRepTest : public QObject {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("pdf") << QByteArray("%PDF-1.4\n%%BoundingBox: 0 0 10 10\n");
-    QTest::newRow("text") << QByteArray("%%BoundingBox: 0 0 10 10\n");
+    QTest::newRow("text") << QByteArray("a text\n%%BoundingBox: 0 0 10 10\n");
     QTest::newRow("no box") << QByteArray("%!PS-Adobe-3.0 EPSF-3.0\n%%EndComments\n");
     QTest::newRow("flat box") << QByteArray(
         "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 5 5 5 90\n%%EndComments\n");

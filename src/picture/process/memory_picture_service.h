@@ -100,7 +100,7 @@ class MemoryPictureProcess final : public PictureProcess {
   mutable std::mutex mutex_;  ///< of everything below
   std::mutex serial_;         ///< one answer at a time, as a real process gives them
   std::condition_variable changed_;
-  CallState states_[6];
+  CallState states_[int(PictureCall::Attributes) + 1];
   int cancelled_ = 0;
   std::atomic<int> retirements_ = 0;
   QList<RenderRequest> renders_;

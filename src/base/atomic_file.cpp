@@ -1,5 +1,6 @@
 #include "base/atomic_file.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -7,6 +8,7 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -41,13 +43,29 @@ Error cannotWrite(int reason) {
   }
 }
 
+/// What the hidden name of a file begins with.
+QByteArray hiddenBegin(const QByteArray& name) {
+  constexpr qsizetype enoughToRecognise = 100;  // the whole name may be as long as names can be
+  return '.' + name.left(enoughToRecognise) + '.';
+}
+
+constexpr int kRandomDigits = 16;
+
 /// A name beside `path` that nobody else uses.
 QByteArray hiddenNameBeside(const QString& path) {
   const QFileInfo info(path);
-  constexpr qsizetype enoughToRecognise = 100;  // the whole name may be as long as names can be
   const QByteArray random = QByteArray::number(QRandomGenerator::global()->generate64(), 16);
-  return fileNameBytes(info.path()) + "/." + fileNameBytes(info.fileName()).left(enoughToRecognise) + '.' +
-         random;
+  return fileNameBytes(info.path()) + '/' + hiddenBegin(fileNameBytes(info.fileName())) +
+         random.rightJustified(kRandomDigits, '0');
+}
+
+/// What hiddenNameBeside() put in front of the random digits; empty: it is no such name.
+QByteArray beginOfHidden(const QByteArray& name) {
+  const qsizetype begin = name.size() - kRandomDigits;
+  if (begin < 2 || name[0] != '.' || name[begin - 1] != '.') return {};
+  const bool random = std::all_of(name.begin() + begin, name.end(),
+                                  [](char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f'); });
+  return random ? name.left(begin) : QByteArray();
 }
 
 /// The new file while it has no name yet, or a hidden one where the file system knows no other way.
@@ -138,6 +156,14 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, I
   if (old) file.setMode(old->st_mode & 07777);
   if (!file.appear(ifExists)) return cannotWrite(errno);
   return {};
+}
+
+void removeUnfinishedFiles(const QByteArray& folder, const QSet<QByteArray>& names) {
+  QSet<QByteArray> begins;
+  for (const QByteArray& name : names) begins.insert(hiddenBegin(name));
+  const std::unique_ptr<DIR, int (*)(DIR*)> opened(::opendir(folder.constData()), &::closedir);
+  while (const dirent* entry = opened ? ::readdir(opened.get()) : nullptr)
+    if (begins.contains(beginOfHidden(entry->d_name))) ::unlinkat(::dirfd(opened.get()), entry->d_name, 0);
 }
 
 bool isSameFile(const QString& path, const QString& other) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSet>
 #include <QString>
 
 #include "base/result.h"
@@ -17,6 +18,10 @@ enum class IfExists { Fail, Replace };
 /// names, a hidden one is used and removed on failure. ErrorKind::CannotWrite with one plain sentence. Any
 /// thread.
 Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, IfExists ifExists);
+
+/// Removes the hidden files that a killed program left in `folder` while it wrote files of these names.
+/// Nothing happens to those of others. `names` and `folder` are bytes, as the system has them.
+void removeUnfinishedFiles(const QByteArray& folder, const QSet<QByteArray>& names);
 
 /// True when both paths lead to one existing file, through whatever links.
 [[nodiscard]] bool isSameFile(const QString& path, const QString& other);

@@ -65,7 +65,7 @@ void StandardConsole::message(const QString& line) {
 
 void StandardConsole::progress(const QString& line) {
   constexpr char takeAway[] = "\r\033[K";
-  if (::isatty(STDERR_FILENO) != 1 || (line.isEmpty() && !progressShown_)) return;
+  if (!showsProgress() || (line.isEmpty() && !progressShown_)) return;
   constexpr int widest = 78;  // a line that wraps could not be taken away
   writeAll(STDERR_FILENO, takeAway + visible(line).left(widest).toUtf8());
   progressShown_ = !line.isEmpty();
@@ -73,6 +73,10 @@ void StandardConsole::progress(const QString& line) {
 
 bool StandardConsole::isTerminal() const {
   return ::isatty(STDOUT_FILENO) == 1;
+}
+
+bool StandardConsole::showsProgress() const {
+  return ::isatty(STDERR_FILENO) == 1;
 }
 
 bool MemoryConsole::write(const QByteArray& bytes) {

@@ -24,6 +24,8 @@ class Console {
   virtual void progress(const QString& line) = 0;
   /// Whether standard output is a terminal, on which binary data would make a mess.
   [[nodiscard]] virtual bool isTerminal() const = 0;
+  /// Whether standard error is a terminal, where progress is shown. In a log a line now and then tells of it.
+  [[nodiscard]] virtual bool showsProgress() const = 0;
 };
 
 /// The process's own standard streams.
@@ -34,6 +36,7 @@ class StandardConsole final : public Console {
   void message(const QString& line) override;
   void progress(const QString& line) override;
   bool isTerminal() const override;
+  bool showsProgress() const override;
 
  private:
   bool progressShown_ = false;
@@ -47,6 +50,7 @@ class MemoryConsole final : public Console {
   void message(const QString& line) override;
   void progress(const QString& line) override;
   bool isTerminal() const override { return terminal; }
+  bool showsProgress() const override { return true; }
 
   QByteArray standardInput, output;
   QString messages;  ///< lines with their ends

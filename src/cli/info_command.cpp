@@ -35,10 +35,14 @@ ExitCode Job::info(const Arguments& arguments) {
   const Result<QByteArray> input =
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());
   service_.openOnlyFor(PictureUse::Drawing);
-  const QFuture<Finding> findings = QtConcurrent::mapped(arguments.files, [&](const QString& file) {
+  const auto find = [&](const QString& file) {
     const bool isInput = file == QLatin1String("-");
     return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file), limits), json);
-  });
+  };
+  // A single file is not worth a thread.
+  const QFuture<Finding> findings = arguments.files.size() == 1
+                                        ? QtFuture::makeReadyFuture(find(arguments.files.first()))
+                                        : QtConcurrent::mapped(arguments.files, find);
 
   QList<ExitCode> codes;
   bool written = !json || console_.write("[\n");

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <mutex>
 
 namespace norvex {
 namespace {
@@ -11,6 +12,9 @@ namespace {
 /// Where the handler writes while an Interruption lives. Cancelling wakes whoever waits, which a signal
 /// handler may not do: it would take locks that the interrupted thread holds.
 volatile std::sig_atomic_t current = -1;
+
+std::mutex outermostMutex;
+const CancelToken* outermost = nullptr;  ///< of the object that hears the signals, or null
 
 void tellCurrent(int) {
   const int before = errno;
@@ -28,7 +32,16 @@ void setHandler(void (*handler)(int), int flags) {
 
 }  // namespace
 
-Interruption::Interruption() : signalled_(::eventfd(0, EFD_CLOEXEC)) {
+Interruption::Interruption() {
+  {
+    const std::lock_guard lock(outermostMutex);
+    if (outermost) {
+      token_ = *outermost;
+      return;
+    }
+    outermost = &token_;
+  }
+  signalled_.reset(::eventfd(0, EFD_CLOEXEC));
   listener_ = std::thread([this] {
     eventfd_t count = 0;
     int failed = 0;
@@ -41,6 +54,11 @@ Interruption::Interruption() : signalled_(::eventfd(0, EFD_CLOEXEC)) {
 }
 
 Interruption::~Interruption() {
+  if (!listener_.joinable()) return;  // another hears the signals
+  {
+    const std::lock_guard lock(outermostMutex);
+    outermost = nullptr;
+  }
   setHandler(SIG_DFL, 0);
   current = -1;
   ended_ = true;

@@ -10,8 +10,8 @@
 namespace norvex {
 
 /// While an object lives, SIGINT and SIGTERM cancel its token instead of ending the program at once, so that
-/// what is half done is dropped and said; a second signal ends the program. One object at a time. Main
-/// thread.
+/// what is half done is dropped and said; a second signal ends the program. Main thread. An object that is
+/// made while another lives, on any thread, hears what that one hears and must end before it.
 class Interruption {
  public:
   Interruption();

@@ -27,6 +27,7 @@ ExitCode Job::dispatch(const Arguments& arguments) {
   if (arguments.has(Option::Completion))
     return show(completionScript(arguments.values.value(Option::Completion)));
   if (arguments.has(Option::SandboxStatus)) return sandboxStatus();
+  if (arguments.asksForArchive()) return archive(arguments);
   switch (arguments.command) {
     case Command::Info:
       return info(arguments);
@@ -38,6 +39,8 @@ ExitCode Job::dispatch(const Arguments& arguments) {
       return convert(arguments);
     case Command::Print:
       return print(arguments);
+    case Command::Status:
+      return archive(arguments);
     case Command::Main:
       break;  // windows are not opened here
   }
@@ -47,6 +50,10 @@ ExitCode Job::dispatch(const Arguments& arguments) {
 
 ExitCode Job::print(const Arguments&) {
   return complain(Command::Print, QStringLiteral("this program does not print"));
+}
+
+ExitCode Job::archive(const Arguments& arguments) {
+  return complain(arguments.command, QStringLiteral("this program takes no archives"));
 }
 
 ExitCode Job::sandboxStatus() {

@@ -30,18 +30,22 @@ class Job {
  protected:
   /// See PrintingJob; a job of this class says that it does not print.
   virtual ExitCode print(const Arguments& arguments);
+  /// Does a command with every file of an archive, or tells of a state. See cli/archive/archive_job.h; a job
+  /// of this class says that it takes no archives.
+  virtual ExitCode archive(const Arguments& arguments);
+  /// Arguments in which nothing is wrong.
+  ExitCode dispatch(const Arguments& arguments);
   /// Bytes of a result to a file, or to standard output for "-".
   ExitCode writeOutput(const QString& output, const QByteArray& bytes, bool force);
   /// Tells on standard error that the arguments are wrong.
   ExitCode complain(Command command, const QString& complaint);
   /// Tells on standard error that something is wrong with a file.
-  ExitCode fail(const QString& file, const Error& error);
+  virtual ExitCode fail(const QString& file, const Error& error);
 
   Console& console_;
   PictureService& service_;
 
  private:
-  ExitCode dispatch(const Arguments& arguments);
   ExitCode info(const Arguments& arguments);
   ExitCode source(const Arguments& arguments);
   ExitCode preview(const Arguments& arguments);

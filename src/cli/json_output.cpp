@@ -3,9 +3,10 @@
 #include "picture/told_error.h"
 
 namespace norvex {
+namespace {
 
-QByteArray jsonOutput(const QJsonDocument& document) {
-  const QByteArray written = document.toJson(QJsonDocument::Indented);  // it escapes C0 and nothing else
+/// `written`: JSON in which C0 alone is escaped.
+QByteArray withoutControls(const QByteArray& written) {
   QByteArray escaped;
   escaped.reserve(written.size());
   const auto append = [&](uchar unit) { escaped += "\\u00" + QByteArray::number(unit, 16); };
@@ -22,6 +23,16 @@ QByteArray jsonOutput(const QJsonDocument& document) {
     }
   }
   return escaped;
+}
+
+}  // namespace
+
+QByteArray jsonOutput(const QJsonDocument& document) {
+  return withoutControls(document.toJson(QJsonDocument::Indented));
+}
+
+QByteArray jsonLine(const QJsonObject& object) {
+  return withoutControls(QJsonDocument(object).toJson(QJsonDocument::Compact)) + '\n';
 }
 
 void insertError(QJsonObject& object, const Error& error) {

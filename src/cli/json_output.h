@@ -13,6 +13,9 @@ namespace norvex {
 /// others are `\uNNNN`, so that a terminal may be shown it.
 [[nodiscard]] QByteArray jsonOutput(const QJsonDocument& document);
 
+/// The same on one line, which ends with the only line feed.
+[[nodiscard]] QByteArray jsonLine(const QJsonObject& object);
+
 /// `error`: a sentence; `details`: what a library said, where it said something.
 void insertError(QJsonObject& object, const Error& error);
 

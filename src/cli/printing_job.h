@@ -6,11 +6,11 @@
 namespace norvex {
 
 /// Apart from Job, so that a program which does not print need not load what printing takes.
-class PrintingJob final : public Job {
+class PrintingJob : public Job {
  public:
   using Job::Job;
 
- private:
+ protected:
   ExitCode print(const Arguments& arguments) override;
 };
 

@@ -6,6 +6,7 @@
 #include "application/document_application.h"
 #include "application/string_tables.h"
 #include "base/system_log.h"
+#include "cli/archive/archive_job.h"
 #include "cli/command_line.h"
 #include "cli/printing_job.h"
 #include "picture/client/worker_service.h"
@@ -40,6 +41,6 @@ extern "C" __attribute__((visibility("default"))) int norvexApplication(int argc
   WorkerService service({}, std::move(started->worker), std::move(started->picture));
   if (!isCommandLine(argc, argv)) return runWindows(argc, argv, service);
   StandardConsole console;
-  PrintingJob job(console, service);
+  ArchiveJob<PrintingJob> job(console, service);
   return runCommandLine(argc, argv, job);
 }

@@ -76,6 +76,11 @@ class Reading {
   std::vector<Text> files;
 
   [[nodiscard]] bool has(Option option) const { return given_[size_t(option)]; }
+  [[nodiscard]] bool asksForArchive() const {
+    for (const OptionRow& row : optionTable)
+      if (isAboutArchives(row.id) && has(row.id)) return true;
+    return false;
+  }
   /// Empty where it is not given.
   [[nodiscard]] Text value(Option option) const { return values_[size_t(option)]; }
 
@@ -122,7 +127,8 @@ ExpectedPictures expectedConversions(const Reading& run) {
   for (const Text file : run.files) expected.needs |= needsOfFile(file, use);
   // The process that is started for a single picture has the usual limits.
   const bool usualLimits = !run.has(Option::Timeout) && !run.has(Option::Memory);
-  expected.single = run.files.size() == 1 && isWithoutPostScript(run.files[0]) && usualLimits;
+  expected.single =
+      run.files.size() == 1 && isWithoutPostScript(run.files[0]) && usualLimits && !run.asksForArchive();
   return expected;
 }
 

@@ -29,7 +29,7 @@ void occupyStandardStreams() {
 
 /// What is only asked about the program itself needs no picture process.
 bool mayNeedPictures(int argc, char** argv) {
-  return argc < 2 || argv[1][0] != '-';
+  return argc < 2 || (argv[1][0] != '-' && norvex::commandNamed(argv[1]) != norvex::Command::Status);
 }
 
 /// The lightest part that can do what is asked for; each of them tells of every mistake.

@@ -229,7 +229,7 @@ class ArgumentsTest : public QObject {
       return QString::fromUtf8(shell.readAllStandardOutput()).trimmed();
     };
     QCOMPARE(complete("norvex in", 1), "info");
-    QCOMPARE(complete("norvex info --j", 2), "--json");
+    QCOMPARE(complete("norvex info --j", 2), "--json --jobs --json-lines");
     QCOMPARE(complete("norvex source --j", 2), "");
     QCOMPARE(complete("norvex --completion z", 2), "zsh");
     QCOMPARE(complete("norvex --sand", 1), "--sandbox-status");

@@ -80,7 +80,7 @@ QString wrongValue(const OptionRow& row, const QString& value) {
 /// Of two values one would be passed over in silence.
 QString givenTwice(const QCommandLineParser& parser, const std::vector<OptionRow>& rows) {
   for (const OptionRow& row : rows)
-    if (!row.value.empty() && parser.values(latin1(row.name)).size() > 1)
+    if (!row.value.empty() && !row.repeats && parser.values(latin1(row.name)).size() > 1)
       return QStringLiteral("--%1 is given more than once").arg(latin1(row.name));
   return {};
 }
@@ -92,10 +92,37 @@ bool standsAlone(const Arguments& arguments) {
   return false;
 }
 
+/// Names come from elsewhere, and go elsewhere than one output.
+QString complaintAboutArchive(const Arguments& arguments) {
+  const bool listed = arguments.has(Option::FilesFrom), tree = arguments.has(Option::Recursive);
+  if (!listed && !tree && arguments.files.isEmpty()) return QStringLiteral("no file is given");
+  if (arguments.files.contains(QStringLiteral("-")))
+    return QStringLiteral("standard input is not one of the files of an archive (--files-from - lists them)");
+  if (arguments.has(Option::Output)) return QStringLiteral("-o takes one file, --to DIR takes several");
+  if (arguments.has(Option::Json)) return QStringLiteral("an archive is told line by line: --json-lines");
+  if (arguments.has(Option::Null) && !listed) return QStringLiteral("--null goes with --files-from");
+  if (!tree && (arguments.has(Option::Include) || arguments.has(Option::Exclude)))
+    return QStringLiteral("--include and --exclude go with --recursive");
+  if (arguments.has(Option::ShardBy) && !arguments.has(Option::Shard))
+    return QStringLiteral("--shard-by goes with --shard");
+  if (!arguments.has(Option::State) && (arguments.has(Option::RetryFailed) || arguments.has(Option::Report)))
+    return QStringLiteral("--retry-failed and --report go with --state");
+  return {};
+}
+
+QString complaintAboutStatus(const Arguments& arguments) {
+  if (arguments.files.size() > 1 && !arguments.has(Option::Merge))
+    return QStringLiteral("only one state is told of (--merge takes others into it)");
+  return {};
+}
+
 QString complaintAbout(const Arguments& arguments) {
   for (auto it = arguments.values.begin(); it != arguments.values.end(); ++it)
     if (const QString wrong = wrongValue(rowOf(it.key()), it.value()); !wrong.isEmpty()) return wrong;
   if (standsAlone(arguments)) return {};
+  if (arguments.command == Command::Status && !arguments.files.isEmpty())
+    return complaintAboutStatus(arguments);
+  if (arguments.asksForArchive()) return complaintAboutArchive(arguments);
   if (const QString wrong = wrongNumberOfFiles(rowOf(arguments.command), arguments.files.size());
       !wrong.isEmpty())
     return wrong;
@@ -103,10 +130,18 @@ QString complaintAbout(const Arguments& arguments) {
     return QStringLiteral("standard input can be read only once");
   if (arguments.command == Command::Preview && !arguments.has(Option::Output))
     return QStringLiteral("no output is given (-o OUT)");
+  if (arguments.command == Command::Preview && arguments.has(Option::Folder))
+    return QStringLiteral("-o takes one file, --to DIR takes several");
+  if (arguments.command != Command::Convert && arguments.has(Option::Jobs))
+    return QStringLiteral("--jobs goes with --files-from, --recursive or --state");
   return {};
 }
 
 }  // namespace
+
+bool Arguments::asksForArchive() const {
+  return std::any_of(values.keyBegin(), values.keyEnd(), isAboutArchives) && command != Command::Status;
+}
 
 ReadArguments readArguments(const QStringList& given) {
   ReadArguments read;
@@ -125,10 +160,12 @@ ReadArguments readArguments(const QStringList& given) {
     read.complaint = complaintOf(parser, rest, rows);
     return read;
   }
-  Arguments full{read.arguments.command, parser.positionalArguments(), {}};
+  Arguments full{read.arguments.command, parser.positionalArguments(), {}, {}};
   for (const OptionRow& row : rows)
-    if (const QString name = latin1(row.name); parser.isSet(name))
+    if (const QString name = latin1(row.name); parser.isSet(name)) {
       full.values.insert(row.id, parser.value(name));
+      if (row.repeats) full.lists.insert(row.id, parser.values(name));
+    }
   read.complaint = complaintAbout(full);
   if (read.complaint.isEmpty() && !standsAlone(full)) read.complaint = givenTwice(parser, rows);
   if (read.complaint.isEmpty()) read.arguments = full;

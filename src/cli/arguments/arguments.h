@@ -17,7 +17,11 @@ struct Arguments {
   QStringList files;  ///< as they were given; "-" is standard input
   QHash<Option, QString> values;
 
+  QHash<Option, QStringList> lists;  ///< all values of the options that may be given more than once
+
   [[nodiscard]] bool has(Option option) const { return values.contains(option); }
+  /// Whether the files are those of an archive: told by lists, trees or a state.
+  [[nodiscard]] bool asksForArchive() const;
 };
 
 /// Arguments, or why they are wrong in one sentence.

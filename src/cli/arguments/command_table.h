@@ -12,7 +12,7 @@
 
 namespace norvex {
 
-enum class Command { Main, Info, Source, Preview, Convert, Print };
+enum class Command { Main, Info, Source, Preview, Convert, Print, Status };
 
 /// What follows a command besides options.
 struct CommandRow {
@@ -50,6 +50,22 @@ enum class Option {
   Landscape,
   Portrait,
   HeaderFooter,
+  // Of runs over archives: see asksForArchive().
+  FilesFrom,
+  Null,
+  Recursive,
+  Include,
+  Exclude,
+  Base,
+  JsonLines,
+  Unordered,
+  State,
+  RetryFailed,
+  MemoryTotal,
+  Shard,
+  ShardBy,
+  Report,
+  Merge,
 };
 
 /// Bits of commands.
@@ -57,10 +73,14 @@ using Commands = unsigned;
 [[nodiscard]] constexpr Commands only(Command command) {
   return 1u << unsigned(command);
 }
-inline constexpr Commands everyCommand = (only(Command::Print) << 1) - 1;
+inline constexpr Commands everyCommand = (only(Command::Status) << 1) - 1;
 /// Those that have a picture process open a document.
 inline constexpr Commands openingCommands =
     only(Command::Info) | only(Command::Source) | only(Command::Convert) | only(Command::Print);
+/// Those that do one thing with each file. A run over an archive is such a command for each of its files, so
+/// that a command gets lists, trees, states and the rest by standing here.
+inline constexpr Commands archiveCommands =
+    only(Command::Info) | only(Command::Preview) | only(Command::Convert);
 
 /// A command takes the options of its own rows.
 struct OptionRow {
@@ -71,6 +91,7 @@ struct OptionRow {
   std::string_view value;    ///< as the help shows it; empty: a switch
   std::string_view choices;  ///< blank-separated values that are the only ones; empty: any value
   std::string_view help;
+  bool repeats = false;  ///< may be given more than once, and all values count
 };
 
 inline constexpr auto commandTable = std::to_array<CommandRow>({
@@ -83,14 +104,15 @@ inline constexpr auto commandTable = std::to_array<CommandRow>({
      "write the pictures in another format"},
     {Command::Print, "print", "FILE (--printer NAME | -o OUT.pdf)", 1, 1, false,
      "print the picture, as vectors"},
+    {Command::Status, "status", "STATE", 1, -1, true, "tell how far a run with --state has come"},
 });
 
 inline constexpr auto optionTable = std::to_array<OptionRow>({
-    {Option::Json, only(Command::Info) | only(Command::Convert), 0, "json", "", "",
+    {Option::Json, only(Command::Info) | only(Command::Convert) | only(Command::Status), 0, "json", "", "",
      "one JSON array with an object for each file"},
     {Option::Output, only(Command::Preview) | only(Command::Convert) | only(Command::Print), 'o', "output",
      "OUT", "", "the file to write; - is standard output"},
-    {Option::Folder, only(Command::Convert), 0, "to", "DIR", "",
+    {Option::Folder, only(Command::Convert) | only(Command::Preview), 0, "to", "DIR", "",
      "the folder to write each file to, under its own name"},
     {Option::Format, only(Command::Convert), 0, "format", "F", writtenFormatNames.text(),
      "the format; without it the extension of OUT decides"},
@@ -104,7 +126,7 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Background, only(Command::Convert), 0, "background", "COLOR", "",
      "fills what the picture leaves unpainted, in the raster formats"},
     {Option::Quality, only(Command::Convert), 0, "quality", "N", "", qualityHelp.text()},
-    {Option::Jobs, only(Command::Convert), 0, "jobs", "N", "",
+    {Option::Jobs, only(Command::Convert) | archiveCommands, 0, "jobs", "N", "",
      "files at a time (as many as there are cores)"},
     {Option::Timeout, openingCommands, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
     {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},
@@ -118,6 +140,33 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
      "the paper: A4, Letter ... (what the locale says)"},
     {Option::Landscape, only(Command::Print), 0, "landscape", "", "", "the paper lies (this is the default)"},
     {Option::Portrait, only(Command::Print), 0, "portrait", "", "", "the paper stands"},
+    {Option::FilesFrom, archiveCommands, 0, "files-from", "LIST", "",
+     "take the names of files from a list, one a line; - is standard input"},
+    {Option::Null, archiveCommands, 0, "null", "", "", "the names of --files-from end with a NUL"},
+    {Option::Recursive, archiveCommands, 0, "recursive", "DIR", "",
+     "take the pictures below a folder, whose folders are made again below --to"},
+    {Option::Include, archiveCommands, 0, "include", "GLOB", "",
+     "of --recursive: these names alone (those of pictures); may be given more than once", true},
+    {Option::Exclude, archiveCommands, 0, "exclude", "GLOB", "",
+     "of --recursive: not these names, and nothing below folders of these names", true},
+    {Option::Base, archiveCommands, 0, "base", "DIR", "",
+     "files that are listed lie below this folder and keep their folders below --to"},
+    {Option::JsonLines, archiveCommands, 0, "json-lines", "", "",
+     "a JSON object a file, on a line of its own, as soon as it is done"},
+    {Option::Unordered, archiveCommands, 0, "unordered", "", "",
+     "tell of each file when it is done and not in the order of the names"},
+    {Option::State, archiveCommands, 0, "state", "FILE", "",
+     "keep what is done in this file, and do only what it does not hold"},
+    {Option::RetryFailed, archiveCommands, 0, "retry-failed", "", "", "do what has failed again"},
+    {Option::MemoryTotal, archiveCommands, 0, "memory-total", "MIB", "",
+     "memory that all pictures together may take"},
+    {Option::Shard, archiveCommands, 0, "shard", "I/N", "", "do part I of N alone, from 1"},
+    {Option::ShardBy, archiveCommands, 0, "shard-by", "WHAT", "name content",
+     "what puts a file into a part: its name, or what it holds"},
+    {Option::Report, archiveCommands | only(Command::Status), 0, "report", "FILE", "",
+     "write what the state holds: .html for people, .jsonl for programs"},
+    {Option::Merge, only(Command::Status), 0, "merge", "STATE", "",
+     "take what another state holds into this one; may be given more than once", true},
     {Option::SandboxStatus, only(Command::Main), 0, "sandbox-status", "", "",
      "show how picture processes are confined"},
     {Option::Completion, only(Command::Main), 0, "completion", "SHELL", "bash zsh fish",
@@ -136,6 +185,11 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
   size_t row = 0;
   while (optionTable[row].id != option) ++row;
   return optionTable[row];
+}
+
+/// An option that makes a run go over an archive: file by file, as a stream.
+[[nodiscard]] constexpr bool isAboutArchives(Option option) {
+  return option >= Option::FilesFrom && option <= Option::Report;
 }
 
 /// Nothing for a name that no command has.

@@ -1,0 +1,72 @@
+#include "cli/archive/archive_command.h"
+
+#include "base/atomic_file.h"
+#include "base/file_name.h"
+#include "cli/archive/archive_run.h"
+#include "cli/archive/file_job.h"
+#include "cli/archive/state/state_summary.h"
+#include "cli/archive/state_report.h"
+#include "cli/interruption.h"
+#include "cli/json_output.h"
+
+namespace norvex {
+namespace {
+
+/// What the command says to its own options: tried with a file that is not there and no output, so that it
+/// shows before anything is read or written. Empty: nothing.
+QString complaintOfCommand(PictureService& service, const Arguments& arguments) {
+  Arguments sample = argumentsForFile(arguments, {}, {}, false);
+  sample.values.remove(Option::Json);
+  if (rowOf(Option::Output).commands & only(arguments.command))
+    sample.values.insert(Option::Output, QStringLiteral("-"));
+  const FileAnswer answer = doWithFile(service, sample);
+  return answer.code == ExitCode::Usage ? answer.messages.trimmed() : QString();
+}
+
+}  // namespace
+
+ExitCode ArchiveCommand::start(const Arguments& arguments) {
+  if (arguments.command == Command::Status) return status(arguments);
+  const ReadArchivePlan read = readArchivePlan(arguments);
+  if (!read.complaint.isEmpty()) return complain(arguments.command, read.complaint);
+  if (const QString wrong = complaintOfCommand(service_, arguments); !wrong.isEmpty()) {
+    console_.message(wrong);
+    return ExitCode::Usage;
+  }
+  const Interruption interruption;
+  const ExitCode code = ArchiveRun(console_, service_, read.plan, interruption.token()).run();
+  if (read.plan.report.isEmpty() || code == ExitCode::Usage) return code;
+  const ExitCode reported = writeReport(read.plan.state, read.plan.report);
+  return reported == ExitCode::Done ? code : reported;
+}
+
+ExitCode ArchiveCommand::status(const Arguments& arguments) {
+  const QString file = arguments.files.first();
+  const QByteArray path = fileNameBytes(file);
+  QStringList others = arguments.lists.value(Option::Merge) + arguments.files.mid(1);
+  auto state = others.isEmpty() ? RunState::openToRead(path) : RunState::openForRun(path);
+  if (!state) return fail(file, {ErrorKind::CannotRead, state.error().message});
+  for (const QString& other : others)
+    if (const auto merged = (*state)->merge(fileNameBytes(other)); !merged)
+      return fail(other, merged.error());
+  const StateSummary summary = summaryOf((*state)->database());
+  const QByteArray text = arguments.has(Option::Json) ? jsonOutput(QJsonDocument(summaryObject(summary)))
+                                                      : summaryText(summary).toUtf8();
+  if (!console_.write(text))
+    return fail(QStringLiteral("-"),
+                {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+  state->reset();
+  const QByteArray report = fileNameBytes(arguments.values.value(Option::Report));
+  return report.isEmpty() ? ExitCode::Done : writeReport(path, report);
+}
+
+ExitCode ArchiveCommand::writeReport(const QByteArray& state, const QByteArray& report) {
+  if (!report.endsWith(".html") && !report.endsWith(".jsonl"))
+    return complain(Command::Status, QStringLiteral("a report ends in .html or .jsonl"));
+  const auto opened = RunState::openToRead(state);
+  if (!opened) return fail(fileNameText(state), {ErrorKind::CannotRead, opened.error().message});
+  const Result<void> written = writeStateReport((*opened)->database(), service_, report);
+  return written ? ExitCode::Done : fail(fileNameText(report), written.error());
+}
+
+}  // namespace norvex

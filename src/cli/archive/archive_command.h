@@ -1,0 +1,19 @@
+// A command over an archive, and `norvex status`.
+#pragma once
+
+#include "cli/job.h"
+
+namespace norvex {
+
+/// See Job. Main thread.
+class ArchiveCommand final : public Job {
+ public:
+  using Job::Job;
+  ExitCode start(const Arguments& arguments);
+
+ private:
+  ExitCode status(const Arguments& arguments);
+  ExitCode writeReport(const QByteArray& state, const QByteArray& report);
+};
+
+}  // namespace norvex

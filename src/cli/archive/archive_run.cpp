@@ -1,0 +1,332 @@
+#include "cli/archive/archive_run.h"
+
+#include <algorithm>
+#include <thread>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "base/file_name.h"
+#include "cli/archive/file_work.h"
+#include "cli/archive/result_line.h"
+
+namespace norvex {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr qsizetype kBegunAtOnce = 128;  ///< files that are begun with one write to the disk
+constexpr qsizetype kKeptAtOnce = 1024;  ///< results that are kept with one
+constexpr std::chrono::seconds kKeptAfter{1};
+constexpr std::chrono::seconds kLogEvery{60};
+constexpr std::chrono::milliseconds kShownEvery{200};
+constexpr int kToldCollisions = 20;
+
+FileResult passedOver(const PassedOver& listed, qint64 number) {
+  FileResult result;
+  result.number = number;
+  result.verdict = listed.isFailure ? Verdict::Failed : Verdict::PassedOver;
+  result.code = listed.isFailure ? ExitCode::CannotRead : ExitCode::Done;
+  result.path = listed.path;
+  result.sentence = listed.reason;
+  result.messages = QStringLiteral("norvex: %1: %2%3\n")
+                        .arg(visible(fileNameText(listed.path)), listed.reason,
+                             listed.isFailure ? QString() : QStringLiteral("; passed over"));
+  return result;
+}
+
+FileResult refused(const FileTask& task, Verdict verdict, ExitCode code, const QString& sentence) {
+  FileResult result;
+  result.number = task.number;
+  result.verdict = verdict;
+  result.code = code;
+  result.path = task.name.path;
+  result.sentence = sentence;
+  if (!sentence.isEmpty())
+    result.messages = QStringLiteral("norvex: %1: %2\n").arg(visible(fileNameText(task.name.path)), sentence);
+  return result;
+}
+
+QString collision(const QByteArray& output, const QByteArray& other) {
+  return QStringLiteral("more than one file would become %1, the other is %2")
+      .arg(fileNameText(output), fileNameText(other));
+}
+
+}  // namespace
+
+ArchiveRun::ArchiveRun(Console& console, PictureService& service, const ArchivePlan& plan,
+                       const CancelToken& cancel, const RunSizes& sizes)
+    : console_(console),
+      service_(service),
+      plan_(plan),
+      cancel_(cancel),
+      sizes_(sizes),
+      // One more than are drawn at a time: another is being read or written meanwhile.
+      places_({plan.jobs > 1 ? plan.jobs + 1 : 1, plan.memoryTotalMiB, sizes.slowAfter}),
+      window_(!plan.unordered, sizes.window) {}
+
+void ArchiveRun::message(const QByteArray& path, const QString& sentence) {
+  console_.message(QStringLiteral("norvex: %1: %2").arg(fileNameText(path), sentence));
+}
+
+bool ArchiveRun::isOurs(const ListedName& name) const {
+  if (plan_.shard.count == 1) return true;
+  if (!plan_.shard.byContent) return plan_.shard.holds(name.below);
+  return plan_.shard.holds(contentHash(name.path).value_or(name.below));
+}
+
+/// Goes through names that can be gone through again: counts them, and finds those whose results would meet.
+ExitCode ArchiveRun::checkNames() {
+  const auto names = plan_.names(cancel_);
+  if (!names) {
+    console_.message(QStringLiteral("norvex: ") + names.error().message);
+    return ExitCode::CannotRead;
+  }
+  qint64 count = 0;
+  int collisions = 0;
+  while (const auto listed = (*names)->next()) {
+    const auto* name = std::get_if<ListedName>(&*listed);
+    if (!name || plan_.shard.byContent || isOurs(*name)) ++count;
+    if (!name || !plan_.outputs) continue;
+    const QByteArray output = plan_.outputs->outputOf(*name);
+    const auto claimed = claims_->claim(output, name->path);
+    if (!claimed) {
+      message(output, claimed.error().message);
+      return ExitCode::CannotWrite;
+    }
+    if (!*claimed) continue;
+    if (++collisions <= kToldCollisions) message(name->path, collision(output, **claimed));
+  }
+  if (collisions > 0) {
+    console_.message(QStringLiteral("norvex: %1 names collide; nothing is written").arg(collisions));
+    return ExitCode::Usage;
+  }
+  if (!plan_.shard.byContent) total_ = count;
+  return ExitCode::Done;
+}
+
+ExitCode ArchiveRun::openState() {
+  if (plan_.state.isEmpty()) return ExitCode::Done;
+  auto opened = RunState::openForRun(plan_.state);
+  Result<void> noted = opened ? (*opened)->noteTotal(total_) : Result<void>(opened.error());
+  if (!noted) {
+    message(plan_.state, noted.error().message);
+    return ExitCode::CannotWrite;
+  }
+  state_ = std::move(*opened);
+  return ExitCode::Done;
+}
+
+ExitCode ArchiveRun::run() {
+  if (plan_.outputs) {
+    auto claims = OutputRegister::make();
+    if (!claims) {
+      message("-", claims.error().message);
+      return ExitCode::CannotWrite;
+    }
+    claims_.emplace(std::move(*claims));
+  }
+  if (plan_.isRewindable()) {
+    if (const ExitCode checked = checkNames(); checked != ExitCode::Done) return checked;
+    claims_.reset();
+  }
+  if (const ExitCode opened = openState(); opened != ExitCode::Done) return opened;
+  const auto names = plan_.names(ending_);
+  if (!names) {
+    console_.message(QStringLiteral("norvex: ") + names.error().message);
+    return ExitCode::CannotRead;
+  }
+  const CancelListener interrupted(cancel_, [this] {
+    ending_.cancel();
+    window_.stop();
+  });
+  std::vector<std::jthread> threads;
+  threads.emplace_back([&] { feed(**names); });
+  // Twice as many as places: what takes long gives its place up and keeps its thread.
+  for (int i = 0; i < 2 * (plan_.jobs + 1); ++i) threads.emplace_back([this] { work(); });
+  const ExitCode code = tell();
+  ending_.cancel();
+  threads.clear();
+  return code;
+}
+
+// ---- the thread that reads names -----------------------------------------------------------------------
+
+void ArchiveRun::feed(NameSource& names) {
+  while (feedSome(names)) continue;
+  window_.close();
+}
+
+/// As many names as are there without waiting, begun with one write to the disk. False at the end.
+bool ArchiveRun::feedSome(NameSource& names) {
+  std::vector<std::variant<FileTask, FileResult>> some;
+  QList<RunEntry> begun;
+  bool more = true;
+  while (some.size() < kBegunAtOnce && (some.empty() || !names.wouldWait())) {
+    const auto listed = names.next();
+    if (!listed) more = false;
+    if (!listed) break;
+    const auto* name = std::get_if<ListedName>(&*listed);
+    if (!name) {
+      some.emplace_back(passedOver(std::get<PassedOver>(*listed), ++number_));
+      continue;
+    }
+    if (!isOurs(*name)) continue;
+    FileTask task{++number_, *name, plan_.outputs ? plan_.outputs->outputOf(*name) : QByteArray(), false};
+    if (auto known = knownBefore(task)) {
+      some.emplace_back(std::move(*known));
+      continue;
+    }
+    // What is there and is not ours will be refused, and must not become ours by being begun.
+    const bool isFree =
+        task.replace || plan_.arguments.has(Option::Force) || task.output.isEmpty() || !stampOf(task.output);
+    if (state_ && isFree) begun << begunEntry(plan_, task);
+    some.emplace_back(std::move(task));
+  }
+  if (state_) {
+    if (const auto written = state_->begin(begun); !written) {
+      breakOff(written.error(), plan_.state);
+      return false;
+    }
+  }
+  for (auto& one : some) {
+    auto* task = std::get_if<FileTask>(&one);
+    const bool wanted =
+        task ? window_.put(std::move(*task)) : window_.putResult(std::move(std::get<FileResult>(one)));
+    if (!wanted) return false;
+  }
+  return more;
+}
+
+/// What can be told without work. May find that the output is ours.
+std::optional<FileResult> ArchiveRun::knownBefore(FileTask& task) {
+  if (claims_) {
+    const auto claimed = claims_->claim(task.output, task.name.path);
+    if (!claimed) return refused(task, Verdict::Unwritten, ExitCode::CannotWrite, claimed.error().message);
+    if (*claimed)
+      return refused(task, Verdict::Unwritten, ExitCode::CannotWrite, collision(task.output, **claimed));
+  }
+  return state_ ? stateAnswer(task) : std::nullopt;
+}
+
+std::optional<FileResult> ArchiveRun::stateAnswer(FileTask& task) {
+  const RunEntry wanted = begunEntry(plan_, task);
+  const auto found = state_->find(wanted.path);
+  if (!found) {
+    breakOff(found.error(), plan_.state);
+    return refused(task, Verdict::Interrupted, ExitCode::Interrupted, {});
+  }
+  if (!*found) return std::nullopt;
+  const RunEntry& entry = **found;
+  const bool isOurOutput = !wanted.output.isNull() && entry.output == wanted.output;
+  task.replace = isOurOutput;
+  if (entry.outcome == Outcome::Begun || entry.settings != wanted.settings) return std::nullopt;
+  const auto stamp = stampOf(task.name.path);
+  if (!stamp) return std::nullopt;
+  const bool isSameFile = *stamp == entry.stamp ||
+                          (stamp->size == entry.stamp.size && contentHash(task.name.path) == entry.content);
+  if (!isSameFile) return std::nullopt;
+  if (entry.outcome != Outcome::Done) {
+    if (plan_.retryFailed) return std::nullopt;
+    return refused(task, Verdict::KnownFailed, ExitCode::SomeFailed, entry.sentence);
+  }
+  if (wanted.output.isNull()) return refused(task, Verdict::Unchanged, ExitCode::Done, {});
+  const auto output = stampOf(task.output);
+  const bool isThere = isOurOutput && output &&
+                       (*output == entry.outputStamp || contentHash(task.output) == entry.outputContent);
+  if (!isThere) return std::nullopt;
+  return refused(task, Verdict::Unchanged, ExitCode::Done, {});
+}
+
+// ---- those that work -----------------------------------------------------------------------------------
+
+void ArchiveRun::work() {
+  const FileWork work(service_, plan_, places_, cancel_);
+  while (auto task = window_.take()) window_.done(work.run(*task));
+}
+
+// ---- the thread that tells -----------------------------------------------------------------------------
+
+ExitCode ArchiveRun::tell() {
+  tally_.emplace(total_, Clock::now());
+  lastKept_ = lastTold_ = Clock::now();
+  while (!window_.isOver()) {
+    if (const auto result = window_.next(kShownEvery); result && !tellOne(*result)) window_.stop();
+    if (Clock::now() - lastKept_ >= kKeptAfter && !keepWhatWaits()) window_.stop();
+    tellProgress();
+  }
+  (void)keepWhatWaits();
+  console_.progress({});
+  const std::lock_guard lock(breakMutex_);
+  if (broken_) message(broken_->first, broken_->second.message);
+  if (!plan_.quiet)
+    console_.message(
+        QStringLiteral("norvex: %1%2")
+            .arg(cancel_.cancelled() ? QStringLiteral("interrupted; ") : QString(), tally_->summary()));
+  if (cancel_.cancelled()) return ExitCode::Interrupted;
+  return broken_ ? exitCodeOf(broken_->second) : tally_->code();
+}
+
+/// False: the run is to end.
+bool ArchiveRun::tellOne(const FileResult& result) {
+  tally_->count(result);
+  const bool isAdvice = plan_.quiet && (result.code == ExitCode::Done);
+  if (!isAdvice)
+    for (const QString& line : result.messages.split(u'\n', Qt::SkipEmptyParts)) console_.message(line);
+  if (result.code == ExitCode::Usage) {
+    breakOff({ErrorKind::CannotWrite, QStringLiteral("the arguments are wrong")}, result.path);
+    return false;
+  }
+  const bool kept = keep(result);
+  const QByteArray text = plan_.jsonLines ? resultLine(result) : plan_.outputs ? QByteArray() : result.text;
+  if (!text.isEmpty() && !console_.write(text)) {
+    breakOff({ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")}, "-");
+    return false;
+  }
+  brokenInARow_ = result.verdict == Verdict::Unwritten ? brokenInARow_ + 1 : 0;
+  if (brokenInARow_ < sizes_.brokenInARow) return kept;
+  breakOff({ErrorKind::CannotWrite,
+            QStringLiteral("%1 results in a row could not be written; the run ends").arg(brokenInARow_)},
+           result.path);
+  return false;
+}
+
+void ArchiveRun::tellProgress() {
+  if (plan_.quiet) return;
+  const auto now = Clock::now();
+  const bool shown = console_.showsProgress();
+  if (now - lastTold_ <
+      (shown ? std::chrono::milliseconds(kShownEvery) : std::chrono::milliseconds(kLogEvery)))
+    return;
+  lastTold_ = now;
+  const QString line = tally_->progress(now);
+  if (shown)
+    console_.progress(line);
+  else
+    console_.message(QStringLiteral("norvex: ") + line);
+}
+
+bool ArchiveRun::keep(const FileResult& result) {
+  const bool isOutcome = result.verdict == Verdict::Done || result.verdict == Verdict::SetAside ||
+                         (result.verdict == Verdict::Failed && !result.entry.path.isEmpty());
+  if (state_ && isOutcome) unkept_ << result.entry;
+  return unkept_.size() < kKeptAtOnce || keepWhatWaits();
+}
+
+bool ArchiveRun::keepWhatWaits() {
+  lastKept_ = Clock::now();
+  if (!state_ || unkept_.isEmpty()) return true;
+  const Result<void> kept = state_->finish(std::exchange(unkept_, {}));
+  if (!kept) breakOff(kept.error(), plan_.state);
+  return kept.ok();
+}
+
+void ArchiveRun::breakOff(const Error& error, const QByteArray& path) {
+  {
+    const std::lock_guard lock(breakMutex_);
+    if (!broken_) broken_.emplace(path, error);
+  }
+  window_.stop();
+}
+
+}  // namespace norvex

@@ -1,0 +1,28 @@
+// A command done with one file of an archive, and everything kept that it would have said.
+#pragma once
+
+#include <optional>
+
+#include "cli/archive/file_result.h"
+#include "cli/job.h"
+
+namespace norvex {
+
+/// What a command says for one file.
+struct FileAnswer {
+  ExitCode code = ExitCode::Done;
+  std::optional<Error> error;  ///< of the file, where the command told one
+  QByteArray output;
+  QString messages;
+};
+
+/// Does a command as if it were called with this file alone: a command works over archives without knowing of
+/// them. Any thread. The arguments name one file, and standard input holds nothing for them.
+[[nodiscard]] FileAnswer doWithFile(PictureService& service, const Arguments& arguments);
+
+/// The arguments of a run over an archive without what makes it one: those for each of its files. With an
+/// output for a command that writes one; empty: it writes none.
+[[nodiscard]] Arguments argumentsForFile(const Arguments& run, const QByteArray& path,
+                                         const QByteArray& output, bool replace);
+
+}  // namespace norvex

@@ -1,0 +1,162 @@
+#include "cli/archive/file_work.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <chrono>
+
+#include "base/file_descriptor.h"
+#include "base/file_name.h"
+#include "picture/told_error.h"
+#include "types/picture_format.h"
+
+namespace norvex {
+namespace {
+
+constexpr int kAttempts = 3;  ///< with a file that changes
+
+bool hasDied(const FileAnswer& answer) {
+  return answer.error && (answer.error->kind == ErrorKind::Died || answer.error->kind == ErrorKind::Protocol);
+}
+
+/// Whether one process alone will work on it: PostScript takes an interpreter besides.
+bool needsOneProcess(const QByteArray& path) {
+  const FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  char begin[8] = {};
+  const ssize_t count = file.valid() ? ::pread(file.get(), begin, sizeof begin, 0) : 0;
+  const QByteArrayView bytes(begin, qsizetype(std::max<ssize_t>(count, 0)));
+  return bytes.startsWith("%PDF-") || bytes.startsWith("<") || bytes.startsWith("\x1F\x8B") ||
+         bytes.startsWith("\xEF\xBB\xBF<");
+}
+
+Verdict verdictOf(const FileAnswer& answer) {
+  if (answer.code == ExitCode::Done) return Verdict::Done;
+  if (answer.code == ExitCode::Interrupted) return Verdict::Interrupted;
+  if (hasDied(answer)) return Verdict::SetAside;
+  const bool isElsewhere = answer.code == ExitCode::CannotWrite || answer.code == ExitCode::NoSandbox ||
+                           answer.code == ExitCode::Usage;
+  return isElsewhere ? Verdict::Unwritten : Verdict::Failed;
+}
+
+Outcome outcomeOf(Verdict verdict) {
+  switch (verdict) {
+    case Verdict::Done:
+      return Outcome::Done;
+    case Verdict::Failed:
+      return Outcome::Failed;
+    case Verdict::SetAside:
+      return Outcome::SetAside;
+    default:
+      return Outcome::Begun;
+  }
+}
+
+/// The share of the area that a conversion to vectors had to turn into an image.
+double changedShare(const QByteArray& report) {
+  const QJsonObject told = QJsonDocument::fromJson(report).array().first().toObject();
+  const auto format = formatNamed(told.value(u"format").toString().toStdString());
+  if (!format || isRaster(*format)) return 0;
+  return told.value(u"rasterized").toObject().value(u"areaShare").toDouble();
+}
+
+}  // namespace
+
+RunEntry begunEntry(const ArchivePlan& plan, const FileTask& task) {
+  RunEntry entry;
+  entry.path = absolutePath(task.name.path);
+  entry.settings = plan.settings;
+  if (!task.output.isEmpty()) entry.output = absolutePath(task.output);
+  return entry;
+}
+
+int FileWork::memoryOf(const QByteArray& path) const {
+  if (plan_.memoryTotalMiB == 0) return 0;
+  return needsOneProcess(path) ? plan_.memoryMiB : 2 * plan_.memoryMiB;
+}
+
+FileAnswer FileWork::attempt(const FileTask& task, bool replace) const {
+  Arguments arguments = argumentsForFile(plan_.arguments, task.name.path, task.output, replace);
+  const bool reports = (rowOf(Option::Json).commands & only(arguments.command)) != 0;
+  if (plan_.outputs && reports) arguments.values.insert(Option::Json, {});
+  {
+    const WorkPlaces::Turn turn = places_.take(memoryOf(task.name.path));
+    const FileAnswer answer = doWithFile(service_, arguments);
+    if (!hasDied(answer) || cancel_.cancelled()) return answer;
+  }
+  const WorkPlaces::Turn turn = places_.takeAlone();
+  return doWithFile(service_, arguments);
+}
+
+FileResult FileWork::run(const FileTask& task) const {
+  FileResult result;
+  result.number = task.number;
+  result.path = task.name.path;
+  result.entry = begunEntry(plan_, task);
+  const auto begun = std::chrono::steady_clock::now();
+  FileAnswer answer;
+  if (const auto made = plan_.outputs ? plan_.outputs->makeFoldersOf(task.output) : Result<void>(); !made) {
+    answer = {ExitCode::CannotWrite, made.error(), {}, {}};
+    answer.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.output), made.error().message);
+    judge(result, answer);
+    return result;
+  }
+  bool changes = true;
+  for (int i = 0; i < kAttempts && changes && !cancel_.cancelled(); ++i) {
+    const auto before = stampOf(task.name.path);
+    if (!plan_.state.isEmpty()) result.entry.content = contentHash(task.name.path).value_or(QByteArray());
+    answer = attempt(task, task.replace || i > 0);
+    changes = before != stampOf(task.name.path);
+    result.entry.stamp = before.value_or(FileStamp());
+  }
+  if (changes && answer.code == ExitCode::Done) {
+    if (!task.output.isEmpty()) ::unlink(task.output.constData());  // it shows what the file was
+    const QString sentence = QStringLiteral("it is being changed by another program");
+    answer = {ExitCode::CannotRead, Error{ErrorKind::CannotRead, sentence}, {}, {}};
+    answer.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.name.path), sentence);
+    result.entry.stamp = {};
+  }
+  if (cancel_.cancelled() && answer.code != ExitCode::Done) answer.code = ExitCode::Interrupted;
+  judge(result, answer);
+  result.entry.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begun).count();
+  result.entry.finished = QDateTime::currentSecsSinceEpoch();
+  keepOutput(result, task, answer);
+  return result;
+}
+
+void FileWork::judge(FileResult& result, const FileAnswer& answer) const {
+  result.code = answer.code;
+  result.verdict = verdictOf(answer);
+  result.messages = result.verdict == Verdict::Interrupted ? QString() : answer.messages;
+  result.text = answer.output;
+  if (answer.error) result.sentence = toldError(*answer.error).sentence;
+  // One reason is one reason, whatever file it hits.
+  result.sentence.remove(fileNameText(result.entry.output) + QStringLiteral(": "));
+  result.entry.outcome = outcomeOf(result.verdict);
+  result.entry.sentence = result.sentence;
+}
+
+void FileWork::keepOutput(FileResult& result, const FileTask& task, const FileAnswer& answer) const {
+  if (result.verdict != Verdict::Done) result.entry.output = QByteArray();
+  if (plan_.state.isEmpty() || result.verdict != Verdict::Done || task.output.isEmpty()) return;
+  result.entry.changed = changedShare(answer.output);
+  const auto stamp = stampOf(task.output);
+  const auto hash = contentHash(task.output);
+  if (stamp && hash) {
+    result.entry.outputStamp = *stamp;
+    result.entry.outputContent = *hash;
+  } else {
+    result.verdict = Verdict::Unwritten;  // it has gone already
+    result.code = ExitCode::CannotWrite;
+    result.sentence = QStringLiteral("the result has disappeared");
+    result.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.output), result.sentence);
+    result.entry.outcome = Outcome::Begun;
+  }
+}
+
+}  // namespace norvex

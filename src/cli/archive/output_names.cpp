@@ -1,0 +1,58 @@
+#include "cli/archive/output_names.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "base/file_name.h"
+#include "types/picture_format.h"
+
+namespace norvex {
+namespace {
+
+/// Of what a command writes; empty: the kind of file that it reads.
+QByteArray writtenExtensionOf(const Arguments& arguments) {
+  if (arguments.command == Command::Preview) return "png";
+  if (arguments.command != Command::Convert) return {};
+  const auto format = formatNamed(arguments.values.value(Option::Format).toStdString());
+  if (!format) return {};
+  const auto extension = writtenExtension(*format);
+  return QByteArray(extension.data(), qsizetype(extension.size()));
+}
+
+Error cannotMake(int code) {
+  return {ErrorKind::CannotWrite, QStringLiteral("the folder to write to cannot be made (%1)")
+                                      .arg(QString::fromLocal8Bit(std::strerror(code)))};
+}
+
+}  // namespace
+
+std::optional<OutputNames> OutputNames::of(const Arguments& arguments) {
+  if (!arguments.has(Option::Folder)) return std::nullopt;
+  return OutputNames(fileNameBytes(arguments.values.value(Option::Folder)), writtenExtensionOf(arguments));
+}
+
+QByteArray OutputNames::outputOf(const ListedName& name) const {
+  const qsizetype slash = name.below.lastIndexOf('/');
+  const qsizetype dot = name.below.lastIndexOf('.');
+  const bool hasExtension = dot > slash + 1;  // a name may begin with a dot
+  if (extension_.isEmpty()) return pathBelow(folder_, name.below);
+  return pathBelow(folder_, hasExtension ? name.below.left(dot) : name.below) + '.' + extension_;
+}
+
+Result<void> OutputNames::makeFoldersOf(const QByteArray& output) const {
+  const qsizetype last = output.lastIndexOf('/');
+  qsizetype slash = pathBelow(folder_, {}).size() - 1;
+  struct stat status {};
+  if (last < 0 || ::stat(output.left(std::max<qsizetype>(last, 1)).constData(), &status) == 0) return {};
+  if (::stat(folder_.constData(), &status) != 0)
+    return Error{ErrorKind::CannotWrite, QStringLiteral("the folder to write to does not exist")};
+  while ((slash = output.indexOf('/', slash + 1)) >= 0) {
+    if (::mkdir(output.left(slash).constData(), 0777) != 0 && errno != EEXIST) return cannotMake(errno);
+  }
+  return {};
+}
+
+}  // namespace norvex

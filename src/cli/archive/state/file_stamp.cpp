@@ -1,0 +1,37 @@
+#include "cli/archive/state/file_stamp.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QCryptographicHash>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "base/file_descriptor.h"
+
+namespace norvex {
+
+std::optional<FileStamp> stampOf(const QByteArray& path) {
+  struct stat status {};
+  if (::stat(path.constData(), &status) != 0) return std::nullopt;
+  return FileStamp{status.st_size, qint64(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec};
+}
+
+std::optional<QByteArray> contentHash(const QByteArray& path) {
+  const FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  struct stat status {};
+  if (!file.valid() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+  QCryptographicHash hash(QCryptographicHash::Sha256);
+  QByteArray piece(qsizetype(std::clamp<off_t>(status.st_size, 1, 1 << 18)), Qt::Uninitialized);
+  for (;;) {
+    const ssize_t count = ::read(file.get(), piece.data(), size_t(piece.size()));
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return std::nullopt;
+    if (count == 0) return hash.result();
+    hash.addData(QByteArrayView(piece).first(count));
+  }
+}
+
+}  // namespace norvex

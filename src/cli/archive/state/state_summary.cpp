@@ -1,0 +1,104 @@
+#include "cli/archive/state/state_summary.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+#include "base/file_name.h"
+#include "cli/archive/state/run_entry.h"
+#include "cli/console.h"
+
+namespace norvex {
+namespace {
+
+void readCounts(Database& state, StateSummary& summary) {
+  Statement rows =
+      state.prepare("SELECT outcome, count(*), sum(seconds), max(memory) FROM entry GROUP BY outcome");
+  while (rows.step()) {
+    const qint64 count = rows.number(1);
+    switch (Outcome(rows.number(0))) {
+      case Outcome::Begun:
+        summary.begun = count;
+        break;
+      case Outcome::Done:
+        summary.done = count;
+        break;
+      case Outcome::Failed:
+        summary.failed = count;
+        break;
+      case Outcome::SetAside:
+        summary.setAside = count;
+        break;
+    }
+    summary.seconds += rows.real(2);
+    summary.memoryKiB = std::max(summary.memoryKiB, rows.number(3));
+  }
+}
+
+void readRate(Database& state, StateSummary& summary) {
+  Statement run = state.prepare("SELECT started, total, total IS NULL FROM run ORDER BY rowid DESC LIMIT 1");
+  if (!run.step()) return;
+  if (run.number(2) == 0)
+    summary.rest = std::max<qint64>(0, run.number(1) - summary.done - summary.failed - summary.setAside);
+  Statement since =
+      state.prepare("SELECT count(*), max(finished) FROM entry WHERE outcome <> 0 AND finished >= ?");
+  if (!since.bind(0, run.number(0)).step()) return;
+  const qint64 seconds = since.number(1) - run.number(0);
+  if (since.number(0) > 0)
+    summary.filesASecond = double(since.number(0)) / double(std::max<qint64>(seconds, 1));
+}
+
+}  // namespace
+
+StateSummary summaryOf(Database& state) {
+  StateSummary summary;
+  readCounts(state, summary);
+  readRate(state, summary);
+  Statement failures = state.prepare(
+      "SELECT sentence, count(*) AS often, min(path) FROM entry WHERE outcome <> 1 AND outcome <> 0"
+      " GROUP BY sentence ORDER BY often DESC, sentence LIMIT 10");
+  while (failures.step()) summary.failures.append({failures.text(0), failures.number(1), failures.bytes(2)});
+  return summary;
+}
+
+QString summaryText(const StateSummary& summary) {
+  QString text;
+  const auto line = [&](const char* name, const QString& value) {
+    text += QStringLiteral("%1 %2\n").arg(QLatin1String(name), -13).arg(value);
+  };
+  line("done:", QString::number(summary.done));
+  line("failed:", QString::number(summary.failed));
+  line("set aside:", QString::number(summary.setAside));
+  line("begun:", QString::number(summary.begun));
+  if (summary.rest) line("rest:", QString::number(*summary.rest));
+  if (summary.filesASecond > 0)
+    line("rate:", QStringLiteral("%1 files a second").arg(summary.filesASecond, 0, 'f', 1));
+  line("work:", QStringLiteral("%1 s").arg(summary.seconds, 0, 'f', 1));
+  if (summary.memoryKiB > 0)
+    line("memory:", QStringLiteral("%1 MiB at most").arg((summary.memoryKiB + 1023) / 1024));
+  for (const StateSummary::Failure& failure : summary.failures)
+    text += QStringLiteral("%1 x %2, for example %3\n")
+                .arg(QString::number(failure.count), visible(failure.sentence),
+                     visible(fileNameText(failure.example)));
+  return text;
+}
+
+QJsonObject summaryObject(const StateSummary& summary) {
+  QJsonObject object{{"done", summary.done},
+                     {"failed", summary.failed},
+                     {"setAside", summary.setAside},
+                     {"begun", summary.begun},
+                     {"seconds", summary.seconds}};
+  if (summary.rest) object.insert(u"rest", *summary.rest);
+  if (summary.filesASecond > 0) object.insert(u"filesASecond", summary.filesASecond);
+  if (summary.memoryKiB > 0) object.insert(u"memoryKiB", summary.memoryKiB);
+  QJsonArray failures;
+  for (const StateSummary::Failure& failure : summary.failures)
+    failures.append(QJsonObject{{"sentence", failure.sentence},
+                                {"count", failure.count},
+                                {"example", QString::fromUtf8(failure.example)}});
+  object.insert(u"failures", failures);
+  return object;
+}
+
+}  // namespace norvex

@@ -7,12 +7,11 @@
 
 #include <csignal>
 
-#include <sys/mount.h>
-
 #include "kit/process_watch.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "system/outside_programs.h"
+#include "system/small_disk.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -48,27 +47,6 @@ QJsonObject infoOf(const QString& path) {
   const Ran ran = kit::norvex({"info", "--json", path});
   return QJsonDocument::fromJson(ran.out).array().at(0).toObject();
 }
-
-/// A small file system of its own; empty where mounting is not permitted.
-class SmallDisk {
- public:
-  explicit SmallDisk(const char* size) {
-    const QByteArray options = QByteArray("size=") + size;
-    mounted_ = ::mount("tmpfs", QFile::encodeName(folder_.path()), "tmpfs", 0, options.constData()) == 0;
-  }
-  ~SmallDisk() {
-    if (mounted_) ::umount(QFile::encodeName(folder_.path()));
-  }
-  SmallDisk(const SmallDisk&) = delete;
-  SmallDisk& operator=(const SmallDisk&) = delete;
-  [[nodiscard]] bool isMounted() const { return mounted_; }
-  [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
-  [[nodiscard]] QString folder() const { return folder_.path(); }
-
- private:
-  QTemporaryDir folder_;
-  bool mounted_ = false;
-};
 
 }  // namespace
 

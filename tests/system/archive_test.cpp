@@ -1,0 +1,263 @@
+// The built program over archives: killed, unplugged, out of space; in the same memory for any number of
+// files.
+#include <QDir>
+#include <QDirIterator>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <csignal>
+
+#include "kit/process_watch.h"
+#include "kit/program.h"
+#include "kit/test_main.h"
+#include "system/small_disk.h"
+
+using namespace norvex;
+using namespace norvex::kit;
+
+namespace {
+
+QByteArray svg(int number) {
+  return QStringLiteral(
+             "<svg xmlns='http://www.w3.org/2000/svg' width='20' height='20'><rect width='%1' height='9' "
+             "fill='#%2'/></svg>")
+      .arg(1 + number % 19)
+      .arg(number % 4096, 3, 16, QLatin1Char('0'))
+      .toUtf8();
+}
+
+QByteArray eps(int number) {
+  return QStringLiteral(
+             "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 30 30\n%%EndComments\n0 0 %1 9 rectfill showpage\n")
+      .arg(1 + number % 29)
+      .toUtf8();
+}
+
+void write(const QString& path, const QByteArray& bytes) {
+  QDir().mkpath(QFileInfo(path).path());
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write");
+}
+
+/// Every file below a folder by its path, hidden ones and all.
+QMap<QString, QByteArray> contentsOf(const QString& folder) {
+  QMap<QString, QByteArray> contents;
+  QDirIterator it(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+  while (it.hasNext()) {
+    QFile file(it.next());
+    if (file.open(QIODevice::ReadOnly))
+      contents.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
+  }
+  return contents;
+}
+
+/// A tree of small pictures, and what an undisturbed run makes of it.
+class Tree {
+ public:
+  explicit Tree(int count) {
+    for (int i = 0; i < count; ++i) {
+      const QString name = path(QStringLiteral("in/%1/%2").arg(i % 7).arg(i));
+      i % 25 == 3 ? write(name + ".eps", eps(i)) : write(name + ".svg", svg(i));
+    }
+    write(path("in/broken.svg"), "<svg");
+    const Ran ran = run(arguments("undisturbed", "undisturbed.state"));
+    if (ran.exitCode != 1) qFatal("%s", ran.err.constData());
+    undisturbed = contentsOf(path("undisturbed"));
+    if (undisturbed.size() != count) qFatal("not all were converted: %s", ran.err.constData());
+  }
+
+  [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
+  [[nodiscard]] QStringList arguments(const QString& to, const QString& state) const {
+    QDir().mkpath(path(to));
+    return {"convert",  "--recursive", path("in"), "--to",     path(to),
+            "--format", "pdf",         "--state",  path(state)};
+  }
+  [[nodiscard]] static Ran run(const QStringList& arguments) {
+    return kit::norvex(arguments, {}, 600, {"SOURCE_DATE_EPOCH=1000000000"});
+  }
+  /// Starts a run; the caller has it end.
+  static void start(QProcess& process, const QStringList& arguments) {
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.insert("SOURCE_DATE_EPOCH", "1000000000");
+    process.setProcessEnvironment(variables);
+    process.start(norvexProgram(), arguments);
+    if (!process.waitForStarted()) qFatal("not started");
+  }
+
+  QMap<QString, QByteArray> undisturbed;
+
+ private:
+  QTemporaryDir folder_;
+};
+
+QString differences(const QMap<QString, QByteArray>& got, const QMap<QString, QByteArray>& wanted) {
+  QStringList wrong;
+  for (auto it = wanted.begin(); it != wanted.end(); ++it)
+    if (got.value(it.key()) != it.value()) wrong << it.key();
+  for (const QString& name : got.keys())
+    if (!wanted.contains(name)) wrong << "too much: " + name;
+  return wrong.mid(0, 5).join(u' ');
+}
+
+qint64 residentKiB(qint64 pid) {
+  QFile file(QStringLiteral("/proc/%1/status").arg(pid));
+  if (!file.open(QIODevice::ReadOnly)) return -1;
+  const QByteArray status = file.readAll();
+  const qsizetype at = status.indexOf("VmRSS:");
+  return status.mid(at + 6, 20).simplified().split(' ').first().toLongLong();
+}
+
+}  // namespace
+
+class ArchiveSystemTest : public QObject {
+  Q_OBJECT
+ private slots:
+  /// NORVEX_KILLS=50 for a longer look.
+  void aRunThatIsKilledAtAnyMomentEndsAsAnUndisturbedOne() {
+    const Tree tree(150);
+    bool given = false;
+    const int kills = std::max(1, qEnvironmentVariableIntValue("NORVEX_KILLS", &given));
+    QRandomGenerator random(20'26);
+    int killed = 0, ended = 0;
+    for (int round = 0; killed < (given ? kills : 4) && round < 1000; ++round) {
+      QProcess run;
+      Tree::start(run, tree.arguments("out", "state"));
+      const bool atOnce = run.waitForFinished(random.bounded(1, 900));
+      if (!atOnce) {
+        run.kill();
+        QVERIFY(run.waitForFinished());
+        ++killed;
+        continue;
+      }
+      ++ended;
+      QCOMPARE(differences(contentsOf(tree.path("out")), tree.undisturbed), QString());
+      QVERIFY(QDir(tree.path("out")).removeRecursively());
+      QVERIFY(QFile::remove(tree.path("state")));
+    }
+    const Ran last = Tree::run(tree.arguments("out", "state"));
+    QVERIFY2(last.exitCode == 1, last.err.constData());
+    QCOMPARE(differences(contentsOf(tree.path("out")), tree.undisturbed), QString());
+    QVERIFY2(!QFile::exists(tree.path("state-wal")) && !QFile::exists(tree.path("state-shm")), "left behind");
+    qInfo("killed %d times, %d runs ended in between", killed, ended);
+  }
+
+  void anInterruptedRunGoesOnWhereItWas() {
+    const Tree tree(100);
+    QProcess run;
+    Tree::start(run, tree.arguments("out", "state") << "--json-lines");
+    QVERIFY(run.waitForReadyRead(60'000));
+    run.terminate();
+    QVERIFY(run.waitForFinished(60'000));
+    QVERIFY2(run.exitCode() == 130 || run.exitCode() == 1, run.readAllStandardError().constData());
+    QCOMPARE(Tree::run(tree.arguments("out", "state")).exitCode, 1);
+    QCOMPARE(differences(contentsOf(tree.path("out")), tree.undisturbed), QString());
+  }
+
+  void aFullDiskLeavesNothingHalfAndTheNextRunEndsAsAnUndisturbedOne() {
+    const Tree tree(150);
+    SmallDisk disk("200k");
+    if (!disk.isMounted()) QSKIP("a small disk cannot be mounted here");
+    const auto arguments = [&](const QString& state) {
+      QStringList all = tree.arguments("unused", "unused.state");
+      all[4] = disk.path("out");
+      all[8] = state;
+      QDir().mkpath(all[4]);
+      return all;
+    };
+    // The state beside the results, on the full disk as well; and somewhere else.
+    for (const QString& state : {disk.path("state"), tree.path("elsewhere.state")}) {
+      const Ran full = Tree::run(arguments(state));
+      QVERIFY2(full.exitCode == 4, full.err.constData());
+      const auto written = contentsOf(disk.path("out"));
+      QVERIFY(written.size() < tree.undisturbed.size());
+      for (auto it = written.begin(); it != written.end(); ++it)
+        QVERIFY2(tree.undisturbed.value(it.key()) == it.value(), qPrintable(it.key()));
+      QVERIFY(disk.resize("20m"));
+      const Ran again = Tree::run(arguments(state));
+      QVERIFY2(again.exitCode == 1, again.err.constData());
+      QCOMPARE(differences(contentsOf(disk.path("out")), tree.undisturbed), QString());
+      QVERIFY(QDir(disk.path("out")).removeRecursively());
+      QFile::remove(disk.path("state"));
+      QVERIFY(disk.resize("200k"));
+    }
+  }
+
+  void aFolderOfResultsThatVanishesEndsTheRunAndNothingTakesItsPlace() {
+    const Tree tree(150);
+    QProcess run;
+    Tree::start(run, tree.arguments("out", "state") << "--json-lines");
+    QVERIFY(run.waitForReadyRead(60'000));
+    QVERIFY(QFile::rename(tree.path("out"), tree.path("away")));
+    QVERIFY(run.waitForFinished(120'000));
+    QVERIFY(!QFile::exists(tree.path("out")));
+    QVERIFY(QFile::rename(tree.path("away"), tree.path("out")));
+    QCOMPARE(Tree::run(tree.arguments("out", "state")).exitCode, 1);
+    QCOMPARE(differences(contentsOf(tree.path("out")), tree.undisturbed), QString());
+  }
+
+  void theMemoryOfARunDoesNotGrowWithItsFiles() {
+    constexpr int count = 3000;
+    const QTemporaryDir folder;
+    for (int i = 0; i < 50; ++i) write(folder.filePath(QStringLiteral("in/%1.svg").arg(i)), svg(i));
+    QProcess filter;
+    filter.start(norvexProgram(), {"info", "--files-from", "-", "--json-lines", "--state",
+                                   folder.filePath("state"), "--retry-failed", "--jobs", "2"});
+    QVERIFY(filter.waitForStarted());
+    qint64 early = 0, late = 0;
+    int answered = 0, asked = 0;
+    while (answered < count) {
+      for (; asked < std::min(count, answered + 100); ++asked) {
+        // Names that the state does not know: the same files by other paths.
+        const QString detour = QStringLiteral("/./").repeated(1 + asked / 50);
+        filter.write((folder.filePath("in") + detour + QStringLiteral("%1.svg\n").arg(asked % 50)).toUtf8());
+      }
+      QVERIFY(filter.waitForReadyRead(60'000));
+      while (filter.canReadLine()) {
+        const QJsonObject line = QJsonDocument::fromJson(filter.readLine()).object();
+        QCOMPARE(line.value("line").toInt(), ++answered);
+        QCOMPARE(line.value("outcome").toString(), "done");
+        if (answered == count / 6) early = residentKiB(filter.processId());
+      }
+    }
+    late = residentKiB(filter.processId());
+    filter.closeWriteChannel();
+    QVERIFY(filter.waitForFinished(60'000));
+    QCOMPARE(filter.exitCode(), 0);
+    qInfo("resident: %lld KiB after %d files, %lld KiB after %d", early, count / 6, late, count);
+    QVERIFY(early > 0);
+    QVERIFY2(late - early < 5 * 1024, qPrintable(QStringLiteral("%1 to %2 KiB").arg(early).arg(late)));
+  }
+
+  void aPictureProcessThatIsKilledCostsNoFile() {
+    const QTemporaryDir folder;
+    QByteArray list;
+    for (int i = 0; i < 60; ++i) {
+      write(folder.filePath(QStringLiteral("in/%1.eps").arg(i)), eps(i));
+      list += folder.filePath(QStringLiteral("in/%1.eps\n").arg(i)).toUtf8();
+    }
+    QDir(folder.path()).mkdir("out");
+    QProcess filter;
+    filter.start(norvexProgram(), {"convert", "--files-from", "-", "--to", folder.filePath("out"), "--format",
+                                   "png", "--json-lines", "--unordered"});
+    filter.write(list);
+    filter.closeWriteChannel();
+    int deaths = 0;
+    while (!filter.waitForFinished(40) && deaths == 0)  // once: what is tried again is not killed again
+      for (const qint64 worker : childrenOf(filter.processId()))
+        for (const qint64 picture : childrenOf(worker))
+          if (::kill(pid_t(picture), SIGKILL) == 0) ++deaths;
+    QVERIFY(filter.state() == QProcess::NotRunning || filter.waitForFinished(120'000));
+    const QByteArray lines = filter.readAllStandardOutput();
+    QCOMPARE(lines.count('\n'), 60);
+    QVERIFY2(filter.exitCode() == 0, lines.constData());
+  }
+};
+
+NORVEX_TEST(ArchiveSystemTest)
+#include "archive_test.moc"

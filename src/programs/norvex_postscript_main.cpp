@@ -1,5 +1,6 @@
 // norvex-postscript SCRATCH_ROOT: the interpreter of PostScript, ready before there is a document. The only
 // program that links libgs. Requests are taken at descriptor 3; see protocol/interpreter_request.h.
+// Descriptor 4 is /proc where it is started within a view of the files.
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -10,10 +11,12 @@
 #include <string>
 
 #include "protocol/control_descriptor.h"
+#include "worker/confinement/process_files.h"
 #include "worker/confinement/sandbox.h"
 #include "worker/engine/distiller_arguments.h"
 #include "worker/interpreter/interpreter_server.h"
 #include "worker/interpreter/postscript_interpreter.h"
+#include "worker/interpreter_program.h"
 
 namespace {
 
@@ -40,6 +43,7 @@ int main(int argc, char** argv) {
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   std::signal(SIGPIPE, SIG_IGN);
   setEnvironment(argv[1]);
+  adoptProcessFiles(interpreterProcessFiles);
   prepareSandboxes(argv[1]);
   InterpreterServer server(FileDescriptor(controlDescriptor), argv[1]);
   PostScriptInterpreter interpreter([&server] { return server.serve(); });

@@ -13,6 +13,7 @@
 
 #include "protocol/control_descriptor.h"
 #include "protocol/interpreter_request.h"
+#include "worker/confinement/process_files.h"
 
 extern char** environ;
 
@@ -27,12 +28,15 @@ std::string programBesideOurs() {
   return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "norvex-postscript";
 }
 
-/// Standard streams are ours, which are nothing; everything but the connection is closed.
-pid_t spawn(const std::string& program, const std::string& scratchRoot, int taking) {
+/// Both are numbers that nothing is put in place of. Standard streams are ours, which are nothing; everything
+/// but the two is closed.
+pid_t spawn(const std::string& program, const std::string& scratchRoot, int taking, int processFiles) {
   posix_spawn_file_actions_t actions;
   ::posix_spawn_file_actions_init(&actions);
   ::posix_spawn_file_actions_adddup2(&actions, taking, controlDescriptor);
-  ::posix_spawn_file_actions_addclosefrom_np(&actions, controlDescriptor + 1);
+  if (processFiles >= 0) ::posix_spawn_file_actions_adddup2(&actions, processFiles, interpreterProcessFiles);
+  ::posix_spawn_file_actions_addclosefrom_np(
+      &actions, processFiles >= 0 ? interpreterProcessFiles + 1 : interpreterProcessFiles);
   char* arguments[] = {const_cast<char*>(program.c_str()), const_cast<char*>(scratchRoot.c_str()), nullptr};
   pid_t pid = 0;
   const int failure = ::posix_spawn(&pid, program.c_str(), &actions, nullptr, arguments, environ);
@@ -68,8 +72,10 @@ void InterpreterProgram::start() {
   const FileDescriptor taking(::fcntl(connection->taking.get(), F_DUPFD_CLOEXEC, kAboveStandard));
   connection->taking.reset();
   if (!taking.valid()) return;
+  const int opened = openedProcessFiles();
+  const FileDescriptor processFiles(opened < 0 ? -1 : ::fcntl(opened, F_DUPFD_CLOEXEC, kAboveStandard));
   ++starts_;
-  pid_ = spawn(program_, scratchRoot_, taking.get());
+  pid_ = spawn(program_, scratchRoot_, taking.get(), processFiles.get());
   if (pid_ != 0) asking_ = std::move(connection->asking);
 }
 

@@ -4,8 +4,12 @@
 #include <string>
 
 #include "base/file_descriptor.h"
+#include "protocol/control_descriptor.h"
 
 namespace norvex {
+
+/// Where the program finds /proc, when it is started from within a view of the files that has none.
+inline constexpr int interpreterProcessFiles = controlDescriptor + 1;
 
 /// Single-threaded. The program ends with us and with all who inherited asking(); it is not waited for
 /// before.
@@ -18,7 +22,8 @@ class InterpreterProgram {
   InterpreterProgram& operator=(const InterpreterProgram&) = delete;
   ~InterpreterProgram() { stop(); }
 
-  /// Starts it unless it runs, and does not wait until it is ready. After it has died some times in a row it
+  /// Starts it unless it runs, and does not wait until it is ready. From within a view of the files it shares
+  /// that view, otherwise it makes one of its own. After it has died some times in a row it
   /// is not started any more.
   void start();
   /// Ends it with all that it has forked.

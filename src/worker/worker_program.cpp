@@ -69,14 +69,14 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   clearEnvironment();
   if (argc == 2 && std::string_view(argv[1]) == "--sandbox-status") return tellConfinement();
   InterpreterProgram interpreter(argc > 1 ? argv[1] : "");
-  // Before anything else: it takes longest, and it makes a view of the files of its own.
+  // Before anything else: it takes longest.
   if (argc > 3 && argv[3] == kExpectPostScript) interpreter.start();
   if (argc > 1 && isSocket(controlDescriptor)) prepareSandboxes(argv[1], layers);
   if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
       expected != 0)
     (void)engines.source(expected & allPictureNeeds);
   const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
-    if (request.postScript && !isInFileView()) interpreter.start();  // nothing is started from within it
+    if (request.postScript) interpreter.start();
     const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
     // The first child of all, when it asks for an interpreter, loads what it needs itself meanwhile.
     if (!startsPostScript) (void)engines.source(request.needs);

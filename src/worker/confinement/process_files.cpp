@@ -29,6 +29,14 @@ void openProcessFiles() {
   if (folder < 0) folder = ::open("/proc", O_PATH | O_DIRECTORY | O_CLOEXEC);
 }
 
+int openedProcessFiles() {
+  return folder;
+}
+
+void adoptProcessFiles(int descriptor) {
+  if (folder < 0 && ::fcntl(descriptor, F_SETFD, FD_CLOEXEC) == 0) folder = descriptor;
+}
+
 int moveProcessFiles(int descriptor) {
   if (folder < 0) return descriptor;
   if (folder != descriptor) {

@@ -7,6 +7,10 @@ namespace norvex {
 
 /// Opens /proc for later. Called before a file view is entered, and once more harmless.
 void openProcessFiles();
+/// What openProcessFiles() opened, for a program that is started from where there is no /proc; -1: nothing.
+[[nodiscard]] int openedProcessFiles();
+/// In such a program: takes over the descriptor that it was given, if it was.
+void adoptProcessFiles(int descriptor);
 /// Moves what openProcessFiles() opened, if it did, to this number, and gives the first number behind it: for
 /// a process that closes everything from there on. The other functions still find it.
 [[nodiscard]] int moveProcessFiles(int descriptor);

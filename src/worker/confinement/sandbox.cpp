@@ -41,7 +41,7 @@ void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& l
     // Who has no scratch files starts no interpreter.
     if (!scratchRoot.empty()) (void)SystemCallList::shared(CallsFor::Program);
   }
-  if (layers.fileView && !isInstrumented) (void)enterFileView(scratchRoot);
+  if (layers.fileView && !isInstrumented && !isInFileView()) (void)enterFileView(scratchRoot);
 }
 
 Result<void> enterSandbox(const SandboxPolicy& policy) {

@@ -1,4 +1,5 @@
 // The shipped picture program, from the bytes of a document to its answers.
+#include <signal.h>
 #include <unistd.h>
 
 #include <memory>
@@ -7,6 +8,7 @@
 
 #include "kit/process_watch.h"
 #include "kit/test_main.h"
+#include "picture/client/worker_client.h"
 #include "picture/client/worker_service.h"
 
 using namespace norvex;
@@ -88,6 +90,33 @@ class RealWorkerTest : public QObject {
   void aPreparedInterpreterIsUsed() {
     service_->prepare(PictureKind::Eps);
     QVERIFY(service_->open(kEps, PictureKind::Eps)->render(wholePicture()).ok());
+  }
+
+  // Who is confined has no other files than the engines', and no program can be started that needs more.
+  void theInterpreterIsStartedAlsoWhenNoPostScriptWasExpected() {
+    QVERIFY(service_->open(kSvg, PictureKind::Svg)->facts().ok());
+    const auto interpreters = [this] {
+      QList<qint64> running;
+      for (const qint64 pid : childrenOf(service_->programProcessId())) {
+        QFile name(QStringLiteral("/proc/%1/comm").arg(pid));
+        if (name.open(QIODevice::ReadOnly) &&
+            QByteArray("norvex-postscript").startsWith(name.readAll().trimmed()) && stateOf(pid) != 'Z')
+          running << pid;
+      }
+      return running;
+    };
+    QCOMPARE(interpreters(), QList<qint64>());
+    for (int round = 0; round < 2; ++round) {
+      const auto process = service_->open(kEps, PictureKind::Eps);
+      const auto image = process->render(wholePicture());
+      QVERIFY2(image.ok(), image.ok() ? "" : qPrintable(image.error().message));
+      QCOMPARE(image->pixelColor(35, 10), QColor(Qt::blue));
+      QCOMPARE(interpreters().size(), 1);
+      // A started gs would be a child of the document's process.
+      QCOMPARE(childrenOf(std::static_pointer_cast<WorkerClient>(process)->processId()), QList<qint64>());
+      ::kill(pid_t(interpreters().first()), SIGKILL);
+      QVERIFY(eventually([&] { return interpreters().isEmpty(); }));
+    }
   }
 
   void bytesOfAnotherKindAreAnOrdinaryError_data() {

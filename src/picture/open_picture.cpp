@@ -4,6 +4,7 @@
 
 #include "picture/eps_image_rep.h"
 #include "picture/pdf_image_rep.h"
+#include "picture/process/finished_pictures.h"
 #include "picture/web_image_rep.h"
 #include "types/document_kind.h"
 #include "types/type_identification.h"
@@ -61,9 +62,11 @@ Result<PictureKind> pictureKindOf(const QByteArray& bytes, const QString& typeId
 
 Result<std::shared_ptr<NSImageRep>> openPicture(PictureService& service, const PictureSource& source,
                                                 const PictureLimits& limits, const CancelToken& cancel) {
+  FinishedPicturesService finishedAlone(service);
+  PictureService& accepted = source.acceptPartial ? service : finishedAlone;
   Error error{ErrorKind::Unsupported, QStringLiteral("this type of document cannot be shown")};
   for (const PictureKind kind : pictureKindsForType(source.typeIdentifier)) {
-    auto rep = makeRep(service, kind, source, limits, cancel);
+    auto rep = makeRep(accepted, kind, source, limits, cancel);
     if (rep) return rep;
     error = rep.error();
   }

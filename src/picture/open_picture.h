@@ -22,6 +22,9 @@ struct PictureSource {
   QString typeIdentifier;  ///< decides which representation is tried
   QUrl fileURL;            ///< where the bytes are from; may be empty
   int page = 0;            ///< from 0; only PDF has more than one
+  /// What a PostScript program had drawn when it stopped is a picture, too; PictureFacts::stoppedBy of the
+  /// representation's process tells why from its first drawing on. Otherwise such drawings fail.
+  bool acceptPartial = false;
 };
 
 /// The engines that can show a type, in the order in which they are tried. Empty for types that are not

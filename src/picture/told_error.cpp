@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "protocol/program_stop.h"
+
 namespace norvex {
 namespace {
 
@@ -14,7 +16,7 @@ struct Quotation {
 };
 
 constexpr std::array kQuotations{
-    Quotation{QLatin1String("PostScript error: "), QLatin1String(""),
+    Quotation{kProgramStopped, QLatin1String(""),
               QLatin1String("the PostScript program stops with an error")},
     Quotation{QLatin1String("the document is not a readable PDF ("), QLatin1String(")"),
               QLatin1String("the document is damaged and cannot be read as PDF")},

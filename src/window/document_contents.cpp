@@ -6,6 +6,7 @@
 #include "picture/open_picture.h"
 #include "picture/pdf_image_rep.h"
 #include "picture/picture_header.h"
+#include "picture/process/finished_pictures.h"
 #include "picture/process/stoppable_process.h"
 #include "picture/web_image_rep.h"
 
@@ -22,7 +23,7 @@ struct Reader {
   DocumentContents contents;
 
   void take(const QString& typeIdentifier) {
-    const auto opened = openPicture(service, {bytes, typeIdentifier, fileURL, 0});
+    const auto opened = openPicture(service, {bytes, typeIdentifier, fileURL, 0, true});
     if (!opened) {
       if (contents.kind != DocumentKind::Other) contents.error = opened.error();
       return;
@@ -65,7 +66,8 @@ struct Reader {
 
 DocumentContents readDocumentContents(PictureService& service, const QUrl& fileURL, const QString& fileType,
                                       QThread* home, const CancelToken& cancel) {
-  Reader reader{StoppableService(service, cancel), fileURL, {}, cancel, {}};
+  FinishedPicturesService finishedAlone(service);
+  Reader reader{StoppableService(finishedAlone, cancel), fileURL, {}, cancel, {}};
   reader.contents.kind = documentKind(fileType);
   const Result<QByteArray> file = readDocumentFile(fileURL.toLocalFile());
   if (!file) {

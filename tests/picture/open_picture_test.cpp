@@ -77,6 +77,32 @@ class OpenPictureTest : public QObject {
     QCOMPARE(pictureKindOf(kPdf, "public.png").error().kind, ErrorKind::Unsupported);
   }
 
+  void whatAProgramHadDrawnIsAPictureForWhoAcceptsIt() {
+    const QString stop = QStringLiteral("PostScript error: undefined in nosuch");
+    MemoryPicture picture;
+    picture.facts.stoppedBy = stop;
+    MemoryPictureService service;
+    service.setPicture(picture);
+    PictureSource source{kEps, NorvexEPSType, {}, 0};
+    const auto whole = openPicture(service, source);
+    QVERIFY(whole);
+    const auto fails = [&](const auto& result) {
+      return !result && result.error().kind == ErrorKind::NotParsable && result.error().message == stop;
+    };
+    RenderRequest drawing;
+    drawing.pixelSize = QSize(9, 9);
+    QVERIFY(fails((*whole)->process()->render(drawing)));
+    QVERIFY(fails((*whole)->process()->pdf({})));
+    QVERIFY(fails((*whole)->process()->compose({})));
+    QVERIFY(fails((*whole)->process()->examine({})));
+    source.acceptPartial = true;
+    const auto partial = openPicture(service, source);
+    QVERIFY(partial);
+    QVERIFY((*partial)->process()->render(drawing).ok());
+    QVERIFY((*partial)->process()->pdf({}).ok());
+    QCOMPARE((*partial)->process()->facts()->stoppedBy, stop);
+  }
+
   void aPictureLivesInTheThreadThatOpensIt() {
     MemoryPictureService service;
     std::shared_ptr<NSImageRep> rep;

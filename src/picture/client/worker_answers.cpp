@@ -36,6 +36,7 @@ Result<PictureFacts> factsFrom(WorkerAnswer answer) {
   if (!facts) return facts;
   for (QStringList* texts : {&facts->warnings, &facts->fonts, &facts->colorSpaces})
     *texts = plainSentences(*texts);
+  facts->stoppedBy = plainSentence(facts->stoppedBy);
   return facts;
 }
 

@@ -2,6 +2,7 @@
 
 #include "picture/client/worker_answers.h"
 #include "protocol/limits.h"
+#include "protocol/program_stop.h"
 #include "protocol/sealed_memory.h"
 #include "protocol/shared_errors.h"
 
@@ -123,6 +124,7 @@ Result<QImage> WorkerClient::render(const RenderRequest& request, const CancelTo
   if (!answer) return answer.error();
   QStringList remarks;
   Result<QImage> image = distrusted(imageFrom(std::move(*answer), size, remarks));
+  noteStop(remarks);
   const std::lock_guard lock(outcomeMutex_);
   for (const QString& remark : std::as_const(remarks))
     if (!remarks_.contains(remark) && remarks_.size() < limits::maximumWarnings) remarks_ << remark;
@@ -139,7 +141,17 @@ Result<PictureBytes> WorkerClient::askForBytes(RequestBody body, const CancelTok
   const auto turn = turns_.take(cancel);
   if (!turn) return workCancelled();
   Result<WorkerAnswer> answer = ask(std::move(body), cancel, memory);
-  return answer ? distrusted(bytesFrom(std::move(*answer), process_.limits)) : answer.error();
+  if (!answer) return answer.error();
+  Result<PictureBytes> bytes = distrusted(bytesFrom(std::move(*answer), process_.limits));
+  if (bytes) noteStop(bytes->report.warnings);
+  return bytes;
+}
+
+/// The program runs with the first drawing, when the facts have long been told: they learn it from there.
+void WorkerClient::noteStop(QStringList& warnings) {
+  const QString stop = takeProgramStop(warnings);
+  const std::lock_guard lock(outcomeMutex_);
+  if (!stop.isEmpty() && outcome_ && *outcome_) (*outcome_)->stoppedBy = stop;
 }
 
 Result<PictureBytes> WorkerClient::pdf(const PdfRequest& request, const CancelToken& cancel) {

@@ -39,6 +39,7 @@ class WorkerClient final : public PictureProcess {
   Result<void> beginToOpen();
   Result<PictureFacts> finishOpening(const CancelToken& cancel);
   Result<WorkerAnswer> ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory = {});
+  void noteStop(QStringList& warnings);
   Result<PictureBytes> askForBytes(RequestBody body, const CancelToken& cancel,
                                    const FileDescriptor& memory = {});
   template <typename T>

@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "protocol/program_stop.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/engine/distiller_arguments.h"
 #include "worker/pdf/pdf_file.h"
@@ -12,6 +13,7 @@
 #include "worker/pdf/pdf_writing.h"
 #include "worker/postscript/distiller.h"
 #include "worker/postscript/ghostscript.h"
+#include "worker/postscript/page_marks.h"
 
 namespace norvex::engine {
 namespace {
@@ -21,7 +23,8 @@ constexpr qsizetype kMaximumSubstitutions = 20;  // that are told
 // Runs before the document, whose program follows it in the same stream. The page is set once and for all:
 // what a document may do to it (setpagedevice) does nothing, and the operators that go back to the page's own
 // coordinates go back to the box's. The document runs inside `stopped`, so that its end is known: on an error
-// one line with the count of finished pages and the error's name is written, otherwise a last showpage makes
+// one line with the count of finished pages and the error's name is written, and without a page the one that
+// was begun is shown, from wherever the program had gone; otherwise a last showpage makes
 // up for a missing one (a page too many is dropped later). Names are bound early: documents redefine
 // operators. With `complete` the PDF is completed here and now, as a forked interpreter has it.
 QByteArray prolog(const QRectF& box, bool complete) {
@@ -38,12 +41,16 @@ QByteArray prolog(const QRectF& box, bool complete) {
          "/initmatrix { matrix defaultmatrix setmatrix } bind def\n"
          "/initgraphics { systemdict /initgraphics get exec initmatrix } bind def\n"
          "/quit { stop } bind def\n"
+         "/norvexPage gstate def\n"
          "end\n"
          "{ currentfile cvx stopped $error /newerror get and\n"
-         "  { (%stderr) (w) file dup (norvex-error: ) writestring\n"
+         "  { { //userdict /norvexPage get setgstate } stopped pop\n"
+         "    (%stderr) (w) file dup (norvex-error: ) writestring\n"
          "    dup currentpagedevice /PageCount get =string cvs writestring dup ( ) writestring\n"
          "    dup $error /errorname get =string cvs writestring dup ( ) writestring\n"
-         "    dup $error /command get =string cvs writestring dup (\\n) writestring flushfile }\n"
+         "    dup $error /command get =string cvs writestring dup (\\n) writestring flushfile\n"
+         "    clear currentpagedevice /PageCount get 0 eq\n"
+         "    { { systemdict /showpage get exec } stopped pop } if }\n"
          "  { systemdict /showpage get exec } ifelse\n" +
          (complete ? QByteArray("  { << /OutputFile (") + distilledOutput +
                          ") >> systemdict /setpagedevice get exec } stopped pop\n"
@@ -68,7 +75,7 @@ Error sentence(const ProgramError& error) {
   if (error.name == u"VMerror")
     return {ErrorKind::Limit, QStringLiteral("the PostScript needs more memory than it was granted")};
   const QString where = error.command.isEmpty() ? QString() : QStringLiteral(" in %1").arg(error.command);
-  return {ErrorKind::NotParsable, QStringLiteral("PostScript error: %1%2").arg(error.name, where)};
+  return {ErrorKind::NotParsable, kProgramStopped + error.name + where};
 }
 
 // For errors outside the document's own program: gs's words for them.
@@ -79,7 +86,7 @@ Error unexplained(const GhostscriptOutput& run) {
       match.hasMatch() ? match.captured(1).simplified().left(120) : QStringLiteral("it draws no page");
   if (words.contains(u"VMerror"))
     return {ErrorKind::Limit, QStringLiteral("the PostScript needs more memory than it was granted")};
-  return {ErrorKind::NotParsable, QStringLiteral("PostScript error: %1").arg(words)};
+  return {ErrorKind::NotParsable, kProgramStopped + words};
 }
 
 // The fonts that were neither in the document nor on this machine.
@@ -112,12 +119,18 @@ Result<GhostscriptOutput> runDistiller(const QByteArray& postScript, const QRect
   }
 }
 
+Error noPage() {
+  return {ErrorKind::NotParsable, QStringLiteral("the PostScript draws no page")};
+}
+
 // gs rounds the page to what its device can set and may have written a blank page behind the picture's.
-Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box) {
+// `unlessBlank`: a page without a mark is none.
+Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box, bool unlessBlank) {
   Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
   if (!file) return file.error();
   return guarded([&]() -> Result<QByteArray> {
     QPDFObjectHandle page = (*file)->page(0);
+    if (unlessBlank && !hasMarks(page)) return noPage();
     for (const char* key : {"/CropBox", "/TrimBox", "/BleedBox", "/ArtBox", "/Rotate"}) page.removeKey(key);
     page.replaceKey("/MediaBox", boxAtOrigin(box.width(), box.height()));
     keepOnlyPage((*file)->qpdf(), page);
@@ -131,12 +144,16 @@ Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, Engin
   const Result<GhostscriptOutput> run = runDistiller(postScript, box, context);
   if (!run) return run.error();
   const std::optional<ProgramError> stopped = programError(run->messages);
-  if (stopped && stopped->finishedPages == 0) return sentence(*stopped);
-  if (run->exitStatus != 0 || !run->output.startsWith("%PDF-")) return unexplained(*run);
-  Result<QByteArray> pdf = firstPage(run->output, box);
-  if (!pdf) return Error{ErrorKind::NotParsable, QStringLiteral("the PostScript draws no page")};
-  Distilled distilled{std::move(*pdf), substitutions(run->messages)};
-  if (stopped) distilled.warnings << QStringLiteral("what follows the picture in the file was left out");
+  const bool unfinished = stopped && stopped->finishedPages == 0;
+  if (unfinished && sentence(*stopped).kind != ErrorKind::NotParsable) return sentence(*stopped);
+  if (!unfinished && (run->exitStatus != 0 || !run->output.startsWith("%PDF-"))) return unexplained(*run);
+  Result<QByteArray> pdf = firstPage(run->output, box, unfinished);
+  if (!pdf) return unfinished ? sentence(*stopped) : noPage();
+  Distilled distilled{std::move(*pdf), substitutions(run->messages), {}};
+  if (unfinished)
+    distilled.stoppedBy = sentence(*stopped).message;
+  else if (stopped)
+    distilled.warnings << QStringLiteral("what follows the picture in the file was left out");
   return distilled;
 }
 

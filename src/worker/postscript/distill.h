@@ -13,13 +13,22 @@ namespace norvex::engine {
 struct Distilled {
   QByteArray pdf;        ///< one page, media box [0 0 width height] of the picture's box
   QStringList warnings;  ///< one plain sentence each
+  /// Why the program stopped before it had finished the page, as takeProgramStop() finds it; the page then
+  /// shows what it had drawn. Empty: the page is finished.
+  QString stoppedBy;
+
+  /// stoppedBy, where there is one, and the warnings.
+  [[nodiscard]] QStringList remarks() const {
+    return stoppedBy.isEmpty() ? warnings : QStringList(stoppedBy) + warnings;
+  }
 };
 
 /// Runs `postScript` (no binary header) and gives what it draws inside `box` (default user space, points) as
 /// a page of exactly that size with the box's lower-left corner at its origin. The document cannot change the
 /// page; a missing showpage is made up for; only the first page counts. Colours, fonts and images are kept as
 /// they are. Uses up context.warmGhostscript. Fails with NotParsable and the interpreter's error in one
-/// sentence when an error stops the program before it has finished a page, and as GhostscriptChild::run().
+/// sentence when an error stops the program before it has drawn anything, with Limit when that is a lack of
+/// memory, and as GhostscriptChild::run().
 [[nodiscard]] Result<Distilled> distill(const QByteArray& postScript, const QRectF& box,
                                         EngineContext& context);
 

@@ -25,6 +25,7 @@ class EpsEngine final : public DocumentEngine {
     PictureFacts facts;
     facts.pageBounds = {box_};
     facts.pageCount = 1;
+    if (distilled_) facts.stoppedBy = distilled_->stoppedBy;
     return facts;
   }
 
@@ -34,7 +35,7 @@ class EpsEngine final : public DocumentEngine {
   }
 
   [[nodiscard]] QStringList drawingRemarks() const override {
-    return distilled_ ? distilled_->warnings : QStringList();
+    return distilled_ ? distilled_->remarks() : QStringList();
   }
 
   Result<EngineBytes> pdf(const PdfRequest& request) override {
@@ -45,14 +46,14 @@ class EpsEngine final : public DocumentEngine {
       if (!titled) return titled.error();
       result.bytes = std::move(*titled);
     }
-    result.report.warnings = distilled_->warnings;
+    result.report.warnings = distilled_->remarks();
     return result;
   }
 
   Result<EngineBytes> compose(const ComposeRequest& request) override {
     if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
     Result<EngineBytes> result = composePage(distilled_->pdf, request, context_);
-    if (result) result->report.warnings = distilled_->warnings + result->report.warnings;
+    if (result) result->report.warnings = distilled_->remarks() + result->report.warnings;
     return result;
   }
 

@@ -135,6 +135,20 @@ class RealWorkerTest : public QObject {
     QCOMPARE(service_->decodePreview("no TIFF").error().kind, ErrorKind::NotParsable);
   }
 
+  void whatAProgramHadDrawnWhenItStoppedIsShownAndTold() {
+    QByteArray stopping = kEps;
+    stopping.replace("showpage", "nosuch showpage");
+    const auto process = service_->open(stopping, PictureKind::Eps);
+    QCOMPARE(process->facts()->stoppedBy, QString());  // nothing has been run
+    const auto image = process->render(wholePicture());
+    QVERIFY2(image.ok(), image.ok() ? "" : qPrintable(image.error().message));
+    QCOMPARE(image->pixelColor(35, 10), QColor(Qt::blue));
+    const QString told = QStringLiteral("PostScript error: undefined in nosuch");
+    QCOMPARE(process->facts()->stoppedBy, told);
+    QCOMPARE(process->drawingRemarks(), QStringList());
+    QCOMPARE(process->pdf({})->report.warnings, QStringList());
+  }
+
   void anEndlessProgramIsStopped() {
     const QByteArray endless = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 40 20\n%%EndComments\n{} loop\n";
     const auto process = service_->open(endless, PictureKind::Eps, PictureLimits{2, 512, 10});

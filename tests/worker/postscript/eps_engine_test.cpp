@@ -202,12 +202,61 @@ class EpsEngineTest : public QObject {
   }
 
   void anErrorInTheProgramIsOneSentence() {
-    Opened opened(eps(kBody + "nosuchoperator showpage\n"));
+    Opened opened(eps("nosuchoperator\n" + kBody + "showpage\n"));
     QVERIFY(opened.ok());
     QVERIFY(opened.image().isNull());
     QCOMPARE(opened.error().kind, ErrorKind::NotParsable);
     QCOMPARE(opened.error().message, QString("PostScript error: undefined in nosuchoperator"));
     QVERIFY(opened->facts().ok());  // the document stays usable
+  }
+
+  void whatWasDrawnBeforeAnErrorIsShown_data() {
+    QTest::addColumn<QByteArray>("end");
+    QTest::newRow("at once") << QByteArray("nosuchoperator showpage\n");
+    QTest::newRow("within saved states") << QByteArray("gsave save 9 9 scale gsave nosuchoperator\n");
+    QTest::newRow("away from the device") << QByteArray("gsave nulldevice nosuchoperator\n");
+    QTest::newRow("in a glyph") << QByteArray(
+        "9 dict begin /FontType 3 def /FontMatrix [1 0 0 1 0 0] def /FontBBox [0 0 1 1] def /Encoding "
+        "StandardEncoding def /BuildChar { pop pop 1 0 setcharwidth nosuchoperator } def currentdict end /F "
+        "exch definefont 9 scalefont setfont 1 1 moveto (a) show\n");
+    QTest::newRow("with full stacks")
+        << QByteArray("/nosuchoperator load stop\n").replace("stop", "0 1 9999999 { } for");
+    QTest::newRow("its own operators")
+        << QByteArray("/showpage {} def /grestoreall {} def /clear {} def nosuchoperator\n");
+    QTest::newRow("in a clip") << QByteArray("0 0 1 1 rectclip nosuchoperator\n");
+  }
+  void whatWasDrawnBeforeAnErrorIsShown() {
+    QFETCH(QByteArray, end);
+    Opened opened(eps(kBody + end));
+    QVERIFY2(showsBody(opened.image()), qPrintable(opened.error().message));
+    const auto facts = opened->facts();
+    QVERIFY(facts.ok());
+    QVERIFY2(facts->stoppedBy.startsWith("PostScript error: "), qPrintable(facts->stoppedBy));
+    QCOMPARE(opened->drawingRemarks(), QStringList{facts->stoppedBy});
+    const auto pdf = opened->pdf({});
+    QVERIFY(pdf.ok());
+    QCOMPARE(pdf->report.warnings, QStringList{facts->stoppedBy});
+  }
+
+  void onlyWhatStoppedIsToldSo() {
+    Opened opened(eps(kBody + "showpage nosuchoperator\n"));
+    QVERIFY(showsBody(opened.image()));
+    QCOMPARE(opened->facts()->stoppedBy, QString());
+  }
+
+  void withoutAMarkAnErrorIsAnError_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::newRow("a path alone") << QByteArray(
+        "3 3 moveto 9 9 lineto gsave 9 setlinewidth nosuchoperator\n");
+    QTest::newRow("a clip and a colour") << QByteArray("0 0 9 9 rectclip 1 0 0 setrgbcolor nosuchoperator\n");
+    QTest::newRow("an erased page") << QByteArray("erasepage nosuchoperator\n");
+  }
+  void withoutAMarkAnErrorIsAnError() {
+    QFETCH(QByteArray, body);
+    Opened opened(eps(body));
+    QVERIFY(opened.image().isNull());
+    QCOMPARE(opened.error().message, QString("PostScript error: undefined in nosuchoperator"));
+    QCOMPARE(opened->facts()->stoppedBy, QString());
   }
 
   void anErrorIsFoundBehindAllThatADocumentPrints() {

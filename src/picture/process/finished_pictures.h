@@ -1,0 +1,34 @@
+// FinishedPictures: a picture process for those who take a whole picture or none.
+#pragma once
+
+#include "picture/process/forwarding_process.h"
+
+namespace norvex {
+
+/// What a PostScript program had drawn when it stopped is no picture here: a call that would give it fails
+/// with NotParsable and PictureFacts::stoppedBy as its sentence.
+class FinishedPictures final : public ForwardingProcess {
+ public:
+  explicit FinishedPictures(std::shared_ptr<PictureProcess> process)
+      : ForwardingProcess(std::move(process)) {}
+
+  Result<QImage> render(const RenderRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> pdf(const PdfRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> compose(const ComposeRequest& request, const CancelToken& cancel = {}) override;
+  Result<PictureBytes> examine(const ExamineRequest& request, const CancelToken& cancel = {}) override;
+
+ private:
+  template <typename T>
+  Result<T> unlessStopped(Result<T> result);
+};
+
+/// Opens PostScript in such processes. `service` must outlive it; thread-safe.
+class FinishedPicturesService final : public ForwardingService {
+ public:
+  explicit FinishedPicturesService(PictureService& service) : ForwardingService(service) {}
+
+  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
+                                       const PictureLimits& limits = {}) override;
+};
+
+}  // namespace norvex

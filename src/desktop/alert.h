@@ -13,7 +13,8 @@ struct Alert {
   AlertStyle style = AlertStyle::Warning;
   QString messageText;
   QString informativeText;
-  QStringList buttons;  ///< titles in the order in which they were added; none: one default button
+  QStringList buttons;   ///< titles in the order in which they were added; none: one default button
+  QString details = {};  ///< a library's own words, shown when they are asked for; empty: there are none
 };
 
 /// Shows alerts. Main thread only.

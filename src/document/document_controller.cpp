@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/localized_string.h"
+#include "base/sentence.h"
 #include "document/unimplemented_method.h"
 #include "picture/document_file.h"
 #include "types/type_identification.h"
@@ -19,13 +20,6 @@ QString keyOf(const QUrl& url) {
   const QFileInfo info(url.toLocalFile());
   const QString canonical = info.canonicalFilePath();
   return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
-}
-
-/// "the file does not exist" → "The file does not exist."
-QString asSentence(QString text) {
-  if (text.isEmpty()) return text;
-  text[0] = text[0].toUpper();
-  return text.endsWith('.') ? text : text + '.';
 }
 
 /// Why a file could not be read. Addresses of files are text: a name of other bytes cannot come this far

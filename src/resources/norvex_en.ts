@@ -12,6 +12,62 @@
         <translation>%1 of %2</translation>
     </message>
     <message>
+        <source>Read as:</source>
+        <translation>Read as:</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>The encoding in which comments and source text are read</source>
+        <translation>The encoding in which comments and source text are read</translation>
+    </message>
+    <message>
+        <source>The source is not valid in %1.</source>
+        <translation>The source is not valid in %1.</translation>
+    </message>
+    <message>
+        <source>A guess, as nothing says how the source is encoded. Read as %1:</source>
+        <translation>A guess, as nothing says how the source is encoded. Read as %1:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Description:</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>What the library that reads the picture says</source>
+        <translation>What the library that reads the picture says</translation>
+    </message>
+    <message>
+        <source>Is the preview added the occasion where it writes out?</source>
+        <translation>Shall a preview for programs that cannot draw EPS be added to the file?</translation>
+    </message>
+    <message>
+        <source>With preview</source>
+        <translation>With Preview</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>None preview</source>
+        <translation>Without Preview</translation>
+    </message>
+    <message>
+        <source>The new file would hold less than the picture does.</source>
+        <translation>The new file would hold less than the picture does.</translation>
+    </message>
+    <message>
+        <source>The drawing was stopped</source>
+        <translation>The drawing was stopped</translation>
+    </message>
+    <message>
         <source>About Norvex</source>
         <translation>About Norvex</translation>
     </message>
@@ -782,6 +838,26 @@
 </context>
 <context>
     <name>MainWindowController</name>
+    <message>
+        <source>Fonts:</source>
+        <translation>Fonts:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Colours used:</translation>
+    </message>
+    <message>
+        <source>Encoding of the source</source>
+        <translation>Encoding of the source</translation>
+    </message>
+    <message>
+        <source>About the encoding</source>
+        <translation>About the encoding</translation>
+    </message>
+    <message>
+        <source>What the source seems to say</source>
+        <translation>What the source seems to say</translation>
+    </message>
     <message>
         <source>Facts about the picture</source>
         <translation>Facts about the picture</translation>

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QToolButton>
 
 #include <cmath>
 
@@ -294,6 +295,28 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.titleForm()->cellAtIndex(0)->text(), QStringLiteral("Another"));
     QCOMPARE(c.view()->rotate(), 0.0);
     QVERIFY(c.messageBar()->message().isEmpty());
+  }
+
+  void wordsOfALibraryStandBehindDetails() {
+    WindowFixture fixture;
+    fixture.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Facts, {ErrorKind::NotParsable, "PostScript error: undefined in x"});
+    });
+    MainWindowController& c = fixture.loaded("nothing", "a.svg", UTTypeSVG().identifier());
+    c.window()->show();
+    QCOMPARE(c.messageBar()->message(), QStringLiteral("The PostScript program stops with an error."));
+    QCOMPARE(c.messageBar()->details(), QStringLiteral("undefined in x"));
+    auto* button = c.messageBar()->findChild<QToolButton*>("detailsButton");
+    QLabel* details = nullptr;
+    for (QLabel* label : c.messageBar()->findChildren<QLabel*>())
+      if (label->text() == c.messageBar()->details()) details = label;
+    QVERIFY(button->isVisible() && details && !details->isVisible());
+    const int closed = c.messageBar()->height();
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(details->isVisible());
+    QTRY_VERIFY(c.messageBar()->height() > closed);
+    c.messageBar()->showMessage(MessageBar::Kind::Information, "Something else.");
+    QVERIFY(!button->isVisible() && !details->isVisible());
   }
 
   void aFileThatWentAwayIsTold() {

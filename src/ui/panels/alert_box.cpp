@@ -29,6 +29,7 @@ int QtAlertPresenter::runModal(const Alert& alert) {
   box.setTextFormat(Qt::PlainText);  // a file's name is no markup
   box.setText(alert.messageText);
   box.setInformativeText(alert.informativeText);
+  box.setDetailedText(alert.details);
   const QString cancel = localizedString("Cancel");
   QList<QAbstractButton*> buttons;
   for (const QString& title : alert.buttons.isEmpty() ? QStringList{localizedString("OK")} : alert.buttons) {

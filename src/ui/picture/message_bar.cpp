@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include "base/localized_string.h"
 #include "ui/style/floating_card.h"
@@ -25,15 +26,35 @@ QColor barColor(MessageBar::Kind kind, bool dark) {
 }  // namespace
 
 MessageBar::MessageBar(QWidget* parent)
-    : QFrame(parent), text_(new QLabel(this)), action_(new QPushButton(this)), close_(new QToolButton(this)) {
+    : QFrame(parent),
+      text_(new QLabel(this)),
+      details_(new QLabel(this)),
+      showDetails_(new QToolButton(this)),
+      action_(new QPushButton(this)),
+      close_(new QToolButton(this)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(14, 8, 8, 8);
   row->setSpacing(10);
-  text_->setWordWrap(true);
-  text_->setTextFormat(Qt::PlainText);
-  text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  row->addWidget(text_, 1);
+  for (QLabel* label : {text_, details_}) {
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  }
+  makeQuiet(*details_);
+  details_->hide();
+  auto* texts = new QVBoxLayout;
+  texts->setSpacing(4);
+  texts->addWidget(text_);
+  texts->addWidget(details_);
+  row->addLayout(texts, 1);
+  row->addWidget(showDetails_);
   row->addWidget(action_);
+  showDetails_->setObjectName(QStringLiteral("detailsButton"));
+  showDetails_->setText(localizedString("Details"));
+  showDetails_->setToolTip(localizedString("What the library that reads the picture says"));
+  showDetails_->setCheckable(true);
+  showDetails_->setAutoRaise(true);
+  connect(showDetails_, &QToolButton::toggled, details_, &QWidget::setVisible);
   row->addWidget(close_);
   close_->setText(QStringLiteral("\u2715"));
   close_->setAutoRaise(true);
@@ -47,9 +68,12 @@ MessageBar::MessageBar(QWidget* parent)
   hide();
 }
 
-void MessageBar::showMessage(Kind kind, const QString& text, const QString& action) {
+void MessageBar::showMessage(Kind kind, const QString& text, const QString& action, const QString& details) {
   kind_ = kind;
   text_->setText(text);
+  showDetails_->setChecked(false);
+  showDetails_->setVisible(!details.isEmpty());
+  details_->setText(details);
   action_->setText(action);
   action_->setVisible(!action.isEmpty());
   setAccessibleName(text);
@@ -61,7 +85,12 @@ void MessageBar::showMessage(Kind kind, const QString& text, const QString& acti
 
 void MessageBar::clearMessage() {
   text_->clear();
+  details_->clear();
   hide();
+}
+
+QString MessageBar::details() const {
+  return details_->text();
 }
 
 QString MessageBar::message() const {

@@ -22,9 +22,11 @@ class MessageBar final : public QFrame {
   explicit MessageBar(QWidget* parent = nullptr);
 
   /// `action` is the title of a button (empty: none) whose press sends actionChosen() and hides the bar.
-  void showMessage(Kind kind, const QString& text, const QString& action = {});
+  /// `details` are a library's own words (empty: none), which the button "Details" shows below the text.
+  void showMessage(Kind kind, const QString& text, const QString& action = {}, const QString& details = {});
   void clearMessage();
   [[nodiscard]] QString message() const;
+  [[nodiscard]] QString details() const;
 
  signals:
   void actionChosen();
@@ -35,6 +37,8 @@ class MessageBar final : public QFrame {
  private:
   Kind kind_ = Kind::Information;
   QLabel* text_;
+  QLabel* details_;
+  QToolButton* showDetails_;
   QPushButton* action_;
   QToolButton* close_;
 };

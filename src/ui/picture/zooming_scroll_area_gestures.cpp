@@ -99,7 +99,9 @@ void ZoomingScrollArea::focusOutEvent(QFocusEvent* event) {
 
 bool ZoomingScrollArea::eventFilter(QObject* watched, QEvent* event) {
   if (watched != document_) {
-    if (event->type() == QEvent::Show || event->type() == QEvent::Hide) placeCards();
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide ||
+        event->type() == QEvent::LayoutRequest)  // it wants another height
+      placeCards();
     return QWidget::eventFilter(watched, event);
   }
   switch (event->type()) {

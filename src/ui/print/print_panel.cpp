@@ -22,7 +22,9 @@
 #include <utility>
 
 #include "base/localized_string.h"
+#include "base/sentence.h"
 #include "base/waiting_threads.h"
+#include "picture/told_error.h"
 #include "print/page_image.h"
 #include "print/print_job.h"
 #include "ui/print/page_layout_controls.h"
@@ -36,11 +38,6 @@ constexpr int kSettleMs = 80;
 constexpr int kRefreshMs = 5000;
 const QString kSuffix = QStringLiteral("pdf");
 const QString kFileItem = QStringLiteral("\n");  // no printer can be called that
-
-QString sentence(const QString& message) {
-  if (message.isEmpty()) return {};
-  return message.at(0).toUpper() + message.mid(1) + u'.';
-}
 
 }  // namespace
 
@@ -210,7 +207,7 @@ void PrintPanel::showPrinters(const Result<QList<Printer>>& printers) {
   const bool first = !printersKnown_;
   const QVariant chosen = printer_->currentData();
   printers_ = printers ? *printers : QList<Printer>();
-  printersProblem_ = printers ? QString() : sentence(printers.error().message);
+  printersProblem_ = printers ? QString() : asSentence(printers.error().message);
   printersKnown_ = true;
   const QString title = printer_->currentText();
   while (printer_->count() > 1) printer_->removeItem(0);
@@ -280,7 +277,7 @@ void PrintPanel::takeChoices() {
   }
   showState();
   if (pages) return showPage(page_);
-  if (preview_) preview_->setProblem(sentence(pages.error().message));
+  if (preview_) preview_->setProblem(asSentence(toldError(pages.error()).sentence));
 }
 
 void PrintPanel::showPage(int page) {
@@ -307,11 +304,11 @@ void PrintPanel::drawPage() {
       [request, pictures = operation_.services().pictures, cancel = ending_]() mutable -> Drawn {
         if (request.picture.isEmpty()) {
           const Result<QByteArray> picture = pictureOf(request.source, cancel);
-          if (!picture) return {{}, {}, picture.error().message};
+          if (!picture) return {{}, {}, toldError(picture.error()).sentence};
           request.picture = *picture;
         }
         const Result<QImage> image = pageImage(request, *pictures, cancel);
-        if (!image) return {request.picture, {}, image.error().message};
+        if (!image) return {request.picture, {}, toldError(image.error()).sentence};
         return {request.picture, *image, {}};
       }));
 }
@@ -323,7 +320,7 @@ void PrintPanel::takeDrawing() {
   if (drawn.problem.isEmpty())
     preview_->setImage(drawn.image);
   else
-    preview_->setProblem(sentence(drawn.problem));
+    preview_->setProblem(asSentence(drawn.problem));
 }
 
 void PrintPanel::changeEvent(QEvent* event) {

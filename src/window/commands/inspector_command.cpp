@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/sentence.h"
 #include "display/norvex_view.h"
 #include "metadata/eps_resources.h"
 #include "picture/eps_image_rep.h"
@@ -79,11 +80,8 @@ void InspectorCommand::showDrawingRemarks() {
 void InspectorCommand::addNotes(const QStringList& sentences) {
   if (sentences.isEmpty()) return;
   QStringList notes = parts_.noteField->text().split(u'\n', Qt::SkipEmptyParts);
-  for (QString note : sentences) {
-    if (!note.isEmpty()) note[0] = note.at(0).toUpper();
-    if (!note.endsWith(u'.')) note += u'.';
-    if (!notes.contains(note)) notes << note;
-  }
+  for (const QString& sentence : sentences)
+    if (const QString note = asSentence(sentence); !note.isEmpty() && !notes.contains(note)) notes << note;
   parts_.noteField->setText(notes.join(u'\n'));
   parts_.noteField->show();
 }

@@ -5,9 +5,11 @@
 #include <utility>
 
 #include "base/localized_string.h"
+#include "base/sentence.h"
 #include "desktop/alert.h"
 #include "display/norvex_view.h"
 #include "picture/process/stoppable_process.h"
+#include "picture/told_error.h"
 #include "picture/web_image_rep.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
@@ -22,10 +24,12 @@ constexpr int kStoppedEndsMs = 50;
 
 /// An error's message as a sentence of its own.
 QString sentence(const Error& error) {
-  QString text = error.message.trimmed();
-  if (text.isEmpty()) return localizedString("The picture cannot be shown.");
-  text[0] = text.at(0).toUpper();
-  return text.endsWith(QChar('.')) ? text : text + QChar('.');
+  const QString text = asSentence(toldError(error).sentence);
+  return text.isEmpty() ? localizedString("The picture cannot be shown.") : text;
+}
+
+QString details(const Error& error) {
+  return toldError(error).details;
 }
 
 }  // namespace
@@ -55,7 +59,7 @@ void MessagesCommand::showProblem(const Error& error) {
   action_ = nullptr;
   if (again) action_ = [this] { retryDrawing(); };
   parts_.messageBar()->showMessage(MessageBar::Kind::Warning, sentence(error),
-                                   again ? localizedString("Try Again") : QString());
+                                   again ? localizedString("Try Again") : QString(), details(error));
 }
 
 void MessagesCommand::openingWasStopped() {
@@ -110,7 +114,7 @@ void MessagesCommand::pictureStays(const Error& error) {
   action_ = [this] { emit reloadChosen(); };
   parts_.messageBar()->showMessage(MessageBar::Kind::Warning,
                                    localizedString("%1 What is shown was read before.").arg(sentence(error)),
-                                   localizedString("Reload"));
+                                   localizedString("Reload"), details(error));
 }
 
 void MessagesCommand::showPdfFailure(const Error& error) {
@@ -119,12 +123,13 @@ void MessagesCommand::showPdfFailure(const Error& error) {
   Alert alert;
   alert.style = AlertStyle::Warning;
   alert.messageText = error.message.isEmpty() ? QStringLiteral("ZyWebImageRep") : sentence(error);
+  alert.details = details(error);
   const QUrl url = rep->valueForKey(QString::fromLatin1(ZyWebViewFileURLKey)).toUrl();
   alert.informativeText = QUrl::fromPercentEncoding(url.toEncoded());
   if (parts_.alerts())
     parts_.alerts()->runModal(alert);
   else
-    parts_.messageBar()->showMessage(MessageBar::Kind::Warning, alert.messageText);
+    parts_.messageBar()->showMessage(MessageBar::Kind::Warning, alert.messageText, {}, alert.details);
 }
 
 }  // namespace norvex

@@ -2,10 +2,13 @@
 
 #include "base/path_extension.h"
 #include "base/result.h"
+#include "base/sentence.h"
 #include "desktop/alert.h"
 #include "desktop/save_panel.h"
 #include "display/norvex_view.h"
+#include "picture/told_error.h"
 #include "ui/panels/sheet_save_panel.h"
+#include "ui/picture/message_bar.h"
 
 namespace norvex {
 
@@ -35,10 +38,19 @@ NSSavePanel& WindowParts::savePanel() {
   return *ownSavePanel_;
 }
 
+void WindowParts::tell(const QStringList& sentences) {
+  QStringList told;
+  for (const QString& sentence : sentences) told << asSentence(sentence);
+  if (messageBar_ && !told.isEmpty())
+    messageBar_->showMessage(MessageBar::Kind::Information, told.join(u' '));
+}
+
 void WindowParts::showWriteFailure(const Error& error, const QString& path) {
   Alert alert;
   alert.style = AlertStyle::Warning;
-  alert.messageText = error.message;
+  const ToldError told = toldError(error);
+  alert.messageText = told.sentence;
+  alert.details = told.details;
   alert.informativeText = path;
   if (alerts_) alerts_->runModal(alert);
 }

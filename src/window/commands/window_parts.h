@@ -62,6 +62,9 @@ class WindowParts : public MainWindowOutlets {
   /// Not owned; null: the platform's.
   void setSavePanel(NSSavePanel* panel) { savePanel_ = panel; }
   [[nodiscard]] NSSavePanel& savePanel();
+  /// Tells in the window's bar what there is to know about something that was done; nothing without
+  /// sentences.
+  void tell(const QStringList& sentences);
   /// Tells that the file at `path` could not be written.
   void showWriteFailure(const Error& error, const QString& path);
 

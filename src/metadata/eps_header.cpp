@@ -144,4 +144,15 @@ HeaderDictionary epsHeader(const QByteArray& source, const TiffDecoder& decodeTi
   return dictionary;
 }
 
+std::optional<HeaderDictionary> epsHeaderReadAs(const QString& encodingName, const QByteArray& source,
+                                                const HeaderDictionary& found) {
+  const auto text = decodeNamedText(postScriptOf(source), encodingName.toLatin1().constData());
+  if (!text) return std::nullopt;
+  const QByteArray utf8 = text->toUtf8();
+  HeaderDictionary dictionary = found;
+  dictionary.insert(header::Encoding, encodingName);
+  insertComments(dictionary, DscComments(utf8, encoding::Utf8));
+  return dictionary;
+}
+
 }  // namespace norvex

@@ -23,4 +23,11 @@ using TiffDecoder = std::function<std::optional<NSBitmapImageRep>(const QByteArr
 /// `decodeTiff` is.
 [[nodiscard]] HeaderDictionary epsHeader(const QByteArray& source, const TiffDecoder& decodeTiff = {});
 
+/// `found`, the header dictionary of `source`, with the name of the encoding and the six texts as they read
+/// in an encoding of encodingNames(), whatever the source declares. The number stays: there is none for most
+/// names. Nothing when the source is not valid in it. Thread-safe.
+[[nodiscard]] std::optional<HeaderDictionary> epsHeaderReadAs(const QString& encodingName,
+                                                              const QByteArray& source,
+                                                              const HeaderDictionary& found);
+
 }  // namespace norvex

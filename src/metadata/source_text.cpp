@@ -14,4 +14,8 @@ QString sourceText(std::optional<PictureKind> kind, QByteArrayView bytes, qint64
   return decodeText(text, encodingNumber).value_or(QString(""));
 }
 
+std::optional<QString> epsTextReadAs(const QString& encodingName, QByteArrayView source) {
+  return decodeNamedText(postScriptOf(source), encodingName.toLatin1().constData());
+}
+
 }  // namespace norvex

@@ -17,4 +17,8 @@ namespace norvex {
 [[nodiscard]] QString sourceText(std::optional<PictureKind> kind, QByteArrayView bytes,
                                  qint64 encodingNumber);
 
+/// The text of an EPS source in an encoding of encodingNames(). Nothing when the source is not valid in it.
+/// Thread-safe.
+[[nodiscard]] std::optional<QString> epsTextReadAs(const QString& encodingName, QByteArrayView source);
+
 }  // namespace norvex

@@ -92,10 +92,18 @@ std::optional<QString> convert(QByteArrayView bytes, const char* name) {
   const Converter converter =
       bytes.size() <= limits::maximumConvertedLength ? strictConverter(name) : Converter{};
   if (!converter) return {};
-  QString text(bytes.size() + 1, Qt::Uninitialized);  // no decoder here gives more units than it takes bytes
+  QString text(bytes.size() + 1, Qt::Uninitialized);
   UErrorCode status = U_ZERO_ERROR;
-  const int32_t length = ucnv_toUChars(converter.get(), reinterpret_cast<UChar*>(text.data()),
-                                       int32_t(text.size()), bytes.data(), int32_t(bytes.size()), &status);
+  const auto decode = [&] {
+    status = U_ZERO_ERROR;
+    return ucnv_toUChars(converter.get(), reinterpret_cast<UChar*>(text.data()), int32_t(text.size()),
+                         bytes.data(), int32_t(bytes.size()), &status);
+  };
+  int32_t length = decode();
+  if (status == U_BUFFER_OVERFLOW_ERROR) {  // compressed forms give more units than they take bytes
+    text.resize(qsizetype(length) + 1);
+    length = decode();
+  }
   if (U_FAILURE(status)) return {};
   text.truncate(length);
   return text;
@@ -135,6 +143,18 @@ std::optional<QString> decodeUtf16(QByteArrayView bytes) {
   return convert(bytes, looksLittleEndian(bytes) ? "UTF-16LE" : "UTF-16BE");
 }
 
+/// A name that leads back to the converter, the best known first.
+QString registeredName(const char* converter) {
+  for (const char* const registry : {"MIME", "IANA"}) {
+    UErrorCode status = U_ZERO_ERROR;
+    const char* const name = ucnv_getStandardName(converter, registry, &status);
+    if (!name || U_FAILURE(status)) continue;
+    const char* const meant = ucnv_getAlias(name, 0, &status);
+    if (meant && U_SUCCESS(status) && qstrcmp(meant, converter) == 0) return QString::fromLatin1(name);
+  }
+  return QString::fromLatin1(converter);
+}
+
 }  // namespace
 
 std::optional<QString> decodeText(QByteArrayView bytes, qint64 encodingNumber) {
@@ -170,6 +190,17 @@ bool isDecodable(QByteArrayView bytes, qint64 encodingNumber) {
 
 std::optional<QString> decodeNamedText(QByteArrayView bytes, const char* name) {
   return convert(bytes, name);
+}
+
+const QStringList& encodingNames() {
+  static const QStringList names = [] {
+    QStringList all;
+    for (int32_t i = 0; i < ucnv_countAvailable(); ++i) all << registeredName(ucnv_getAvailableName(i));
+    all.removeDuplicates();
+    all.sort(Qt::CaseInsensitive);
+    return all;
+  }();
+  return names;
 }
 
 std::optional<QByteArray> encodeText(QStringView text, qint64 encodingNumber) {

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <optional>
@@ -24,6 +25,10 @@ namespace norvex {
 /// The text of `bytes` in an encoding of ICU's by name ("macintosh"), for readings that no encoding number
 /// stands for. All or nothing, as above; nothing for an unknown name. Thread-safe.
 [[nodiscard]] std::optional<QString> decodeNamedText(QByteArrayView bytes, const char* name);
+
+/// The names of all encodings that decodeNamedText() knows, in alphabetical order: the one of the internet's
+/// registries where an encoding has one, ICU's own otherwise. Thread-safe.
+[[nodiscard]] const QStringList& encodingNames();
 
 /// The bytes of `text` in the encoding of that number. All or nothing: a character that the encoding cannot
 /// say gives nothing. UTF-16 is written big-endian behind a mark. Thread-safe.

@@ -47,7 +47,7 @@ void ContentsDisplay::show(const DocumentContents& contents) {
     showSvgPicture(contents);
   else
     showPicture(contents);
-  showHeader(contents);
+  showTexts(contents.header, contents.sourceText);
   inspector_.showFacts(contents.imageRep.get());
   showPreview(contents);
 }
@@ -105,8 +105,8 @@ void ContentsDisplay::showSvgPicture(const DocumentContents& contents) {
   parts_.epsMatrixBox->setTitle(QStringLiteral("ViewBox"));
 }
 
-void ContentsDisplay::showHeader(const DocumentContents& contents) {
-  const auto text = [&](const QString& key) { return contents.header.value(key).toString(); };
+void ContentsDisplay::showTexts(const HeaderDictionary& header, const QString& sourceText) {
+  const auto text = [&](const QString& key) { return header.value(key).toString(); };
   parts_.titleForm()->setText(0, text(header::Title));
   parts_.creatorForm()->setText(0, text(header::Creator));
   parts_.creationDateForm()->setText(0, text(header::CreationDate));
@@ -114,7 +114,7 @@ void ContentsDisplay::showHeader(const DocumentContents& contents) {
   parts_.copyrightForm()->setText(0, text(header::Copyright));
   parts_.encodingForm()->setText(0, text(header::Encoding));
   parts_.descriptionView->setString(text(header::Description));
-  parts_.sourceTextView->setString(contents.sourceText);
+  parts_.sourceTextView->setString(sourceText);
 }
 
 void ContentsDisplay::showPreview(const DocumentContents& contents) {

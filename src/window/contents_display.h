@@ -21,6 +21,8 @@ class ContentsDisplay final {
   ContentsDisplay(WindowParts& parts, InspectorCommand& inspector) : parts_(parts), inspector_(inspector) {}
 
   void show(const DocumentContents& contents);
+  /// The texts of a header dictionary, and of the source.
+  void showTexts(const HeaderDictionary& header, const QString& sourceText);
   /// Empty fields for a document without a file.
   void showUntitled();
   /// The colour space that the header names; nothing: it names none.
@@ -30,7 +32,6 @@ class ContentsDisplay final {
   void showPicture(const DocumentContents& contents);
   void showSvgPicture(const DocumentContents& contents);
   void showMatrix(const QRectF& rect);
-  void showHeader(const DocumentContents& contents);
   void showPreview(const DocumentContents& contents);
 
   WindowParts& parts_;

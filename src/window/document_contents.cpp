@@ -9,6 +9,8 @@
 #include "picture/process/finished_pictures.h"
 #include "picture/process/stoppable_process.h"
 #include "picture/web_image_rep.h"
+#include "window/inspector/chosen_encodings.h"
+#include "window/inspector/source_reading.h"
 
 namespace norvex {
 
@@ -59,6 +61,21 @@ struct Reader {
       text = svg ? svg->SVGPrettyRepresentation() : rep->sourceBytes();
     }
     contents.sourceText = sourceText(kind, text, number);
+    if (kind == PictureKind::Eps) readAsChosen(text);
+  }
+
+  void readAsChosen(const QByteArray& source) {
+    const QString chosen = chosenEncoding(fileURL.toLocalFile());
+    if (!chosen.isEmpty()) {
+      const SourceReading reading = readSource(source, chosen, contents.header);
+      if (reading.isValid) {
+        contents.chosenEncoding = chosen;
+        contents.header = reading.header;
+        contents.sourceText = reading.text;
+        return;
+      }
+    }
+    contents.guess = guessedHeader(source, contents.header);
   }
 };
 

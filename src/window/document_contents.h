@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "base/cancel_token.h"
+#include "metadata/guessed_header.h"
 #include "metadata/header_dictionary.h"
 #include "picture/image_rep.h"
 #include "picture/process/picture_process.h"
@@ -27,6 +28,8 @@ struct DocumentContents {
   QRectF pictureRectangle{0, 0, 0, 0};   ///< bounding box, PDF bounds or SVG bounds; zero without a picture
   std::optional<QRectF> viewBox;         ///< SVG only; nothing: the document has none
   QString sourceText;
+  QString chosenEncoding;  ///< in which header and text are read; empty: in the one that was found
+  std::optional<GuessedHeader> guess;         ///< of a source in no encoding
   std::optional<Error> error;                 ///< why there is no picture
   std::shared_ptr<StoppableProcess> process;  ///< what renders; null without a picture
 };

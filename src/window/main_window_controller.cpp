@@ -50,6 +50,8 @@ void MainWindowController::connectParts() {
   connect(&messages_, &MessagesCommand::drawingChanged, &inspector_, &InspectorCommand::showDrawingRemarks);
   connect(&messages_, &MessagesCommand::openingChosen, &loading_, &LoadingCommand::start);
   connect(&inspector_, &InspectorCommand::turned, this, &MainWindowController::setWindowSize);
+  connect(&encoding_, &EncodingCommand::reread, this,
+          [this](const HeaderDictionary& header, const QString& text) { contents_.showTexts(header, text); });
   connect(&copying_, &CopyCommand::ended, this, &MainWindowController::copied);
   connect(&savingTo_, &SaveToCommand::ended, this, &MainWindowController::savedTo);
   connect(&savingTo_, &SaveToCommand::failed, &closing_, &ClosingCommand::stay);
@@ -84,6 +86,8 @@ void MainWindowController::loadWindow() {
   connectCommands();
   inspector_.order();
   connectPrinting();
+  encoding_.setUp(
+      {ui_->encodingChoice, ui_->encodingTitle, ui_->encodingPopUp, ui_->encodingNote, ui_->guessForm});
   if (savedTouchBarIsShown()) showTouchBar(true);
   sizing_.restoreFrame();
 }

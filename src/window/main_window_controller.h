@@ -23,6 +23,7 @@
 #include "window/commands/window_producers.h"
 #include "window/commands/window_sizing_command.h"
 #include "window/contents_display.h"
+#include "window/inspector/encoding_command.h"
 #include "window/loading_command.h"
 
 namespace Ui {
@@ -175,6 +176,7 @@ class MainWindowController final : public QObject,
   WindowProducers producers_;
   InspectorCommand inspector_{*this};
   ContentsDisplay contents_{*this, inspector_};
+  EncodingCommand encoding_{*this};
   LoadingCommand loading_{*this};
   MessagesCommand messages_{*this};
   CopyCommand copying_{*this};

@@ -108,12 +108,13 @@ void MainWindowController::setUpTexts() {
   ui_->boundingBoxForm->setTitle(1, localizedString("High resolution:"));
   ui_->usesForm->setTitle(0, localizedString("Fonts:"));
   ui_->usesForm->setTitle(1, localizedString("Colors used:"));
-  QList<ZyForm*> forms{colorSpaceNameForm(), ui_->usesForm, ui_->boundingBoxForm};
+  QList<ZyForm*> forms{colorSpaceNameForm(), ui_->usesForm, ui_->boundingBoxForm, ui_->guessForm};
   for (const Titled& each : all) {
     each.form->setTitle(0, localizedString(each.title));
     forms << each.form;
   }
   ZyForm::alignTitles(forms);
+  ui_->encodingTitle->setMinimumWidth(titleForm()->titleAtIndex(0)->minimumWidth());
   makeQuiet(*previewField);
 }
 
@@ -136,6 +137,7 @@ void MainWindowController::showContents(const DocumentContents& contents) {
     svgObservation_ = connect(svg.get(), &ZyWebImageRep::pdfImageRepDidLoad, this,
                               &MainWindowController::pdfImageRepDidLoad);
   contents_.show(contents);
+  encoding_.show(contents.imageRep, contents.chosenEncoding, contents.guess);
   if (const auto space = ContentsDisplay::colorSpace(contents.header)) windowColorSpace_ = *space;
   colorSpaceNameForm()->setText(0, windowColorSpace_.description());
   resetRotationAndZoom();

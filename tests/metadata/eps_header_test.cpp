@@ -215,6 +215,46 @@ class EpsHeaderTest : public QObject {
     QCOMPARE(text(dictionary, header::Title), "");  // pairs of letters make no keyword
   }
 
+  void whatIsDecodedAgainBeginsWithItsMark() {
+    // With the three bytes of the mark there are pairs; without them one byte would be left over, and there
+    // would be no text.
+    QByteArray source = eps("%APL_DSC_Encoding: UTF16\n%%Title: t\n");
+    if (source.size() % 2 == 0) source.append('\n');
+    QTest::ignoreMessage(QtInfoMsg, "complete UTF-8");
+    const HeaderDictionary even = epsHeader(kUtf8Mark + source);
+    QCOMPARE(number(even), 10);
+    QCOMPARE(text(even, header::Title), "");
+    QTest::ignoreMessage(QtInfoMsg, "complete UTF-8");
+    QTest::ignoreMessage(QtInfoMsg, "Corvane can't get EPSHeader because string encoding is bad.");
+    const HeaderDictionary odd = epsHeader(kUtf8Mark + source + '\n');
+    QCOMPARE(number(odd), 10);
+    QCOMPARE(text(odd, header::Title), "(absent)");
+  }
+
+  void theFirstDecodingOfUtf16SeesTheBytesAfterTheMark() {
+    // The bytes behind the mark tell their own order; with the mark they would be read in the other one.
+    QByteArray big = encoded(QString::fromLatin1(eps("%%Title: t\n")), encoding::Utf16);
+    const HeaderDictionary dictionary = epsHeader(big.replace(0, 2, "\xFF\xFE"));
+    QCOMPARE(number(dictionary), 10);
+    QCOMPARE(text(dictionary, header::Title), "t");
+  }
+
+  void aSourceReadsInAnEncodingThatIsChosen() {
+    const QByteArray source = eps("%APL_DSC_Encoding: UTF8\n%%Title: R\x8Esum\x8E\n%%For: x\n");
+    HeaderDictionary found = epsHeader(source);
+    found.insert(header::Preview, 7);  // whatever else is known stays
+    const auto read = epsHeaderReadAs("macintosh", source, found);
+    QVERIFY(read);
+    QCOMPARE(text(*read, header::Title), QString::fromUtf8("Résumé"));
+    QCOMPARE(text(*read, header::For), "x");
+    QCOMPARE(text(*read, header::Copyright), "");
+    QCOMPARE(text(*read, header::Encoding), "macintosh");
+    QCOMPARE(number(*read), number(found));
+    QCOMPARE(read->value(header::Preview), QVariant(7));
+    QVERIFY(!epsHeaderReadAs("UTF-8", source, found));
+    QVERIFY(!epsHeaderReadAs("no such encoding", source, found));
+  }
+
   void shortSourcesAreTexts() {
     for (const char* bytes : {"%", "%!", "a", "\xC5\xD0"}) {
       QVERIFY(epsHeader(QByteArray(bytes)).contains(header::EncodingNumber));

@@ -76,6 +76,13 @@ class SourceTextTest : public QObject {
     QCOMPARE(sourceText(PictureKind::Eps, euc, encoding::Utf8), "");
   }
 
+  void aSourceReadsInAnEncodingThatIsChosen() {
+    QCOMPARE(epsTextReadAs("macintosh", "% \x8E\n").value_or("-"), QString::fromUtf8("% é\n"));
+    QCOMPARE(epsTextReadAs("macintosh", testdata::binaryEps("% \x8E\n", "II*")).value_or("-"),
+             QString::fromUtf8("% é\n"));
+    QVERIFY(!epsTextReadAs("Shift_JIS", "% \x8E\n"));
+  }
+
   void lineEndsStayAsTheyAre() {
     QCOMPARE(sourceText(PictureKind::Eps, "a\rb\r\nc\n", encoding::Utf8), "a\rb\r\nc\n");
   }

@@ -1,6 +1,8 @@
 // The decoders and encoders behind the encoding numbers.
 #include "metadata/text_encoding.h"
 
+#include <QSet>
+
 #include "base/non_lossy_ascii.h"
 #include "kit/test_main.h"
 
@@ -47,6 +49,21 @@ class TextEncodingTest : public QObject {
       QVERIFY(encodingName(number).isEmpty());
     }
     QVERIFY(!encodingNumberOf(u"latin1"));
+  }
+
+  void everyEncodingOfTheListDecodesAndIsThereOnce() {
+    const QStringList& names = encodingNames();
+    for (const char* known : {"UTF-8", "ISO-8859-1", "windows-1252", "macintosh", "Shift_JIS", "EUC-JP"})
+      QVERIFY2(names.contains(QLatin1String(known)), known);
+    QCOMPARE(QSet<QString>(names.begin(), names.end()).size(), names.size());
+    for (const QString& name : names)
+      QVERIFY2(decodeNamedText("", name.toLatin1()) && !name.contains(' '), qPrintable(name));
+  }
+  void aNameThatNobodyKnowsDecodesNothing() { QVERIFY(!decodeNamedText("abc", "no such encoding")); }
+  void aTextMayBeLongerThanItsBytes() {
+    // A window of SCSU beyond the first plane: each byte is a character of two units.
+    const auto text = decodeNamedText(bytes({0x0B, 0x01, 0xEC}) + QByteArray(40, char(0x80)), "SCSU");
+    QCOMPARE(text.value_or(QString()), QString::fromUcs4(U"\U0001F600", 1).repeated(40));
   }
 
   void emptyBytesAreTheEmptyTextInEveryEncoding() {

@@ -64,6 +64,11 @@ void ZyForm::setText(int index, const QString& text) {
   entry->setToolTip(text.size() > 24 ? QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()) : QString());
 }
 
+void ZyForm::setRowVisible(int index, bool visible) {
+  titleAtIndex(index)->setVisible(visible);
+  cellAtIndex(index)->setVisible(visible);
+}
+
 int ZyForm::widestTitle() const {
   int widest = 0;
   for (const Row& row : rows_) widest = std::max(widest, row.title->sizeHint().width());

@@ -31,6 +31,7 @@ class ZyForm final : public QWidget {
   /// long.
   void setText(int index, const QString& text);
   void setTitle(int index, const QString& title);
+  void setRowVisible(int index, bool visible);
 
   /// Makes the title column as wide as its widest title needs.
   void calcSize();

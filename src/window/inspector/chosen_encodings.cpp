@@ -1,0 +1,57 @@
+#include "window/inspector/chosen_encodings.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStringList>
+
+#include "metadata/text_encoding.h"
+
+namespace norvex {
+namespace {
+
+constexpr qsizetype kKept = 200;
+const QString kFiles = QStringLiteral("files");
+
+QSettings settings() {
+  QString folder = qEnvironmentVariable("XDG_STATE_HOME");
+  if (!QDir::isAbsolutePath(folder)) folder = QDir::homePath() + QStringLiteral("/.local/state");
+  return QSettings(folder + QStringLiteral("/norvex/encodings.ini"), QSettings::IniFormat);
+}
+
+/// Entries are "NAME PATH": names have no blanks.
+QString pathOf(const QString& entry) {
+  return entry.section(u' ', 1);
+}
+
+QString place(const QString& path) {
+  const QFileInfo file(path);
+  const QString canonical = file.canonicalFilePath();
+  return canonical.isEmpty() ? file.absoluteFilePath() : canonical;
+}
+
+}  // namespace
+
+QString chosenEncoding(const QString& path) {
+  if (path.isEmpty()) return {};
+  const QString wanted = place(path);
+  const QStringList entries = settings().value(kFiles).toStringList();
+  for (const QString& entry : entries) {
+    if (pathOf(entry) != wanted) continue;
+    const QString name = entry.section(u' ', 0, 0);
+    return encodingNames().contains(name) ? name : QString();
+  }
+  return {};
+}
+
+void rememberEncoding(const QString& path, const QString& encodingName) {
+  if (path.isEmpty()) return;
+  const QString wanted = place(path);
+  QSettings file = settings();
+  QStringList entries = file.value(kFiles).toStringList();
+  entries.removeIf([&](const QString& entry) { return pathOf(entry) == wanted; });
+  if (!encodingName.isEmpty()) entries.prepend(encodingName + u' ' + wanted);
+  file.setValue(kFiles, entries.mid(0, kKept));
+}
+
+}  // namespace norvex

@@ -1,0 +1,175 @@
+// The encoding in which the source of an EPS file is read: guessed, chosen, remembered.
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QWheelEvent>
+
+#include "kit/test_main.h"
+#include "metadata/text_encoding.h"
+#include "ui/controls/zy_form.h"
+#include "ui/source/source_text_view.h"
+#include "window/inspector/chosen_encodings.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+/// Decodes in none of the encodings that are tried; as Mac Roman the title is "Résumé".
+const QByteArray kInNoEncoding = epsBytes()
+                                     .replace("A picture", "R\x8Esum\x8E")
+                                     .replace("By hand", "")
+                                     .replace("%%EOF", "% \xFF\x80\xFD\xA0\xFF\n%%EOF");
+
+class EncodingFixture : public WindowFixture {
+ public:
+  MainWindowController& show(const QByteArray& bytes, const QString& name = QStringLiteral("a.eps")) {
+    MainWindowController& made = loaded(bytes, name, NorvexEPSType);
+    page = made.inspectorWindow->findChild<QWidget*>(QStringLiteral("pictureFacts"));
+    popUp = made.inspectorWindow->findChild<QComboBox*>(QStringLiteral("encodingPopUp"));
+    note = made.inspectorWindow->findChild<QLabel*>(QStringLiteral("encodingNote"));
+    guess = made.inspectorWindow->findChild<ZyForm*>(QStringLiteral("guessForm"));
+    return made;
+  }
+  void choose(const QString& name) const {
+    popUp->setCurrentText(name);
+    emit popUp->activated(popUp->currentIndex());
+  }
+  [[nodiscard]] bool isShown(const QWidget* widget) const { return widget->isVisibleTo(page); }
+
+  QWidget* page = nullptr;
+  QComboBox* popUp = nullptr;
+  QLabel* note = nullptr;
+  ZyForm* guess = nullptr;
+};
+
+QString title(const MainWindowController& c) {
+  return c.titleForm()->cellAtIndex(0)->text();
+}
+
+}  // namespace
+
+class EncodingChoiceTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void aGuessStandsApartAndIsMarkedAsOne() {
+    EncodingFixture f;
+    const MainWindowController& c = f.show(kInNoEncoding);
+    QCOMPARE(title(c), QString());
+    QCOMPARE(c.sourceTextView->string(), QString());
+    QVERIFY(f.isShown(f.guess) && f.isShown(f.note));
+    QCOMPARE(f.note->text(),
+             QStringLiteral("A guess, as nothing says how the source is encoded. Read as macintosh:"));
+    QCOMPARE(f.guess->cellAtIndex(0)->text(), QStringLiteral("Résumé"));
+    QVERIFY(f.isShown(f.guess->cellAtIndex(0)));
+    QVERIFY(!f.isShown(f.guess->cellAtIndex(1)));  // no creator
+  }
+
+  void aSourceThatDecodesNeedsNoGuess() {
+    EncodingFixture f;
+    f.show(epsBytes());
+    QVERIFY(!f.isShown(f.guess) && !f.isShown(f.note));
+    QVERIFY(f.isShown(f.popUp));
+    QCOMPARE(f.popUp->currentText(), QStringLiteral("Automatic"));
+  }
+
+  void everyEncodingCanBeChosen() {
+    EncodingFixture f;
+    f.show(epsBytes());
+    for (const QString& name : encodingNames()) QVERIFY2(f.popUp->findData(name) > 0, qPrintable(name));
+    QVERIFY(encodingNames().size() > 150);
+  }
+
+  void aChoiceReadsHeaderAndTextAgain() {
+    EncodingFixture f;
+    const MainWindowController& c = f.show(kInNoEncoding);
+    f.choose("macintosh");
+    QCOMPARE(title(c), QStringLiteral("Résumé"));
+    QCOMPARE(c.encodingForm()->cellAtIndex(0)->text(), QStringLiteral("macintosh"));
+    QVERIFY(c.sourceTextView->string().contains(QStringLiteral("%%Title: Résumé\n")));
+    QVERIFY(!f.isShown(f.guess) && !f.isShown(f.note));
+    f.choose("ISO-8859-1");
+    QCOMPARE(title(c), QString::fromLatin1("R\x8Esum\x8E"));
+  }
+
+  void whatIsNotValidInAnEncodingStaysAsItWas() {
+    EncodingFixture f;
+    const MainWindowController& c = f.show(kInNoEncoding);
+    f.choose("macintosh");
+    f.choose("Shift_JIS");
+    QCOMPARE(f.note->text(), QStringLiteral("The source is not valid in Shift_JIS."));
+    QVERIFY(f.isShown(f.note));
+    QCOMPARE(f.popUp->currentText(), QStringLiteral("macintosh"));
+    QCOMPARE(title(c), QStringLiteral("Résumé"));
+    QCOMPARE(chosenEncoding(f.document.fileURL().toLocalFile()), QStringLiteral("macintosh"));
+  }
+
+  void aChoiceIsRememberedForThatFileAlone() {
+    EncodingFixture f;
+    f.show(kInNoEncoding);
+    f.choose("macintosh");
+    f.revert();
+    QCOMPARE(title(f.controller()), QStringLiteral("Résumé"));
+    QCOMPARE(f.popUp->currentText(), QStringLiteral("macintosh"));
+    f.document.setFileURL(QUrl::fromLocalFile(f.folder.filePath("b.eps")));
+    f.write(kInNoEncoding, "b.eps");
+    f.revert();
+    QCOMPARE(title(f.controller()), QString());
+    QCOMPARE(f.popUp->currentText(), QStringLiteral("Automatic"));
+  }
+
+  void automaticForgetsTheChoice() {
+    EncodingFixture f;
+    const MainWindowController& c = f.show(kInNoEncoding);
+    f.choose("macintosh");
+    f.choose("Automatic");
+    QCOMPARE(title(c), QString());
+    QVERIFY(f.isShown(f.guess));
+    QCOMPARE(chosenEncoding(f.document.fileURL().toLocalFile()), QString());
+    f.revert();
+    QCOMPARE(title(c), QString());
+  }
+
+  void aChoiceThatNoLongerFitsIsPassedOver() {
+    EncodingFixture f;
+    const MainWindowController& c = f.show(epsBytes());
+    rememberEncoding(f.document.fileURL().toLocalFile(), "UTF-8");
+    f.write(kInNoEncoding, "a.eps");
+    f.revert();
+    QCOMPARE(title(c), QString());
+    QVERIFY(f.isShown(f.guess));
+  }
+
+  void onlyTheLatestChoicesAreKept() {
+    EncodingFixture f;
+    f.show(epsBytes());
+    for (int i = 0; i < 201; ++i) rememberEncoding(QStringLiteral("/nowhere/%1 x.eps").arg(i), "UTF-8");
+    QCOMPARE(chosenEncoding("/nowhere/0 x.eps"), QString());
+    QCOMPARE(chosenEncoding("/nowhere/1 x.eps"), QStringLiteral("UTF-8"));
+    QCOMPARE(chosenEncoding("/nowhere/200 x.eps"), QStringLiteral("UTF-8"));
+  }
+
+  void otherPicturesHaveNoEncodingToChoose() {
+    EncodingFixture f;
+    f.show(epsBytes());
+    f.write("%PDF-1.4", "a.eps");
+    f.document.setFileType(UTTypePDF().identifier());
+    f.revert();
+    QVERIFY(!f.isShown(f.popUp) && !f.isShown(f.guess));
+  }
+
+  void theWheelScrollsOverTheListWithoutChoosing() {
+    EncodingFixture f;
+    MainWindowController& c = f.show(epsBytes());
+    c.window()->show();
+    c.showInspectorWindow();
+    QWheelEvent wheel({5, 5}, f.popUp->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(f.popUp, &wheel);
+    QCOMPARE(f.popUp->currentText(), QStringLiteral("Automatic"));
+  }
+};
+
+NORVEX_TEST(EncodingChoiceTest)
+#include "encoding_choice_test.moc"

@@ -11,6 +11,7 @@ enum class DocumentErrorCode {
   UnacceptedType =
       3,  ///< reserved: an unaccepted type raises UnimplementedMethod before it could be delivered
   NoDataProduced = 4,  ///< reserved in the same way for writing
+  NotWritten = 5,      ///< there were bytes, but they did not become the file
 };
 
 struct DocumentError {

@@ -56,13 +56,13 @@ bool Document::writeToURL(const QUrl& url, const QString& ofType, DocumentError*
   const auto shown = producers() ? producers()->shownImageRep() : nullptr;
   const bool handedOn = shown && shown->sourceBytes() == bytes;  // it was opened already
   if (const Result<void> opens = checkOutput(bytes); !opens && !handedOn) {
-    if (error) *error = {errorDomain(), int(DocumentErrorCode::NoDataProduced), opens.error().message};
+    if (error) *error = {errorDomain(), int(DocumentErrorCode::NotWritten), opens.error().message};
     return false;
   }
   if (!mayReplace(url)) return false;
   const Result<void> written = writeFileAtomically(url.toLocalFile(), bytes, IfExists::Replace);
   if (!written && error)
-    *error = {errorDomain(), int(DocumentErrorCode::NoDataProduced), written.error().message};
+    *error = {errorDomain(), int(DocumentErrorCode::NotWritten), written.error().message};
   return written.ok();
 }
 
@@ -98,7 +98,7 @@ QByteArray Document::encapsulatedPostScript(PictureProducers& made, QString* fai
   question.messageText = QStringLiteral("EPS");
   question.informativeText = localizedString("Is the preview added the occasion where it writes out?");
   question.buttons = {localizedString(plain), localizedString("Cancel"), localizedString("With preview")};
-  switch (alerts_ ? alerts_->runModal(question) : Cancel) {
+  switch (alerts_ ? alerts_->runModal(question) : Plain) {  // nobody to ask is no refusal
     case Cancel:
       *failure = localizedString("Canceled.");
       return {};

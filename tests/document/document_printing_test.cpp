@@ -93,6 +93,34 @@ class DocumentPrintingTest : public QObject {
     QCOMPARE(info.dictionary().value("NSPrintHeaderAndFooter"), QVariant(false));
   }
 
+  void eachDefaultIsSetByItself_data() {
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("shared");
+    QTest::addColumn<QVariant>("expected");
+    QTest::newRow("orientation") << QString(NSPrintOrientation) << QVariant(0) << QVariant(1);
+    QTest::newRow("left margin") << QString(NSPrintLeftMargin) << QVariant(33.0) << QVariant(0.0);
+    QTest::newRow("right margin") << QString(NSPrintRightMargin) << QVariant(33.0) << QVariant(0.0);
+    QTest::newRow("top margin") << QString(NSPrintTopMargin) << QVariant(33.0) << QVariant(0.0);
+    QTest::newRow("bottom margin") << QString(NSPrintBottomMargin) << QVariant(33.0) << QVariant(0.0);
+    QTest::newRow("vertically centred")
+        << QString(NSPrintVerticallyCentered) << QVariant(false) << QVariant(true);
+    QTest::newRow("horizontally centred")
+        << QString(NSPrintHorizontallyCentered) << QVariant(false) << QVariant(true);
+    QTest::newRow("vertical pagination") << QString(NSPrintVerticalPagination) << QVariant(2) << QVariant(0);
+    QTest::newRow("horizontal pagination")
+        << QString(NSPrintHorizontalPagination) << QVariant(2) << QVariant(0);
+    QTest::newRow("header and footer")
+        << QString(NSPrintHeaderAndFooter) << QVariant(true) << QVariant(false);
+  }
+  void eachDefaultIsSetByItself() {
+    QFETCH(QString, key);
+    QFETCH(QVariant, shared);
+    QFETCH(QVariant, expected);
+    NSPrintInfo::sharedPrintInfo() = NSPrintInfo();
+    NSPrintInfo::sharedPrintInfo().set(key.toLatin1().constData(), shared);
+    QCOMPARE(make()->printInfo().dictionary().value(key), expected);
+  }
+
   void whatTheTableLeavesOpenIsTheSharedSettings() {
     NSPrintInfo::sharedPrintInfo().setScalingFactor(0.5);
     NSPrintInfo::sharedPrintInfo().setLeftMargin(33);

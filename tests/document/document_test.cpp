@@ -45,6 +45,24 @@ class DocumentTest : public QObject {
     QVERIFY(make()->readFromData(QByteArray("%!PS"), "org.example.kind-of-kind-of-eps"));
   }
 
+  void theTypesAreTriedInTheirOrder() {
+    QCOMPARE(acceptedDocumentTypes(),
+             (QStringList{"com.adobe.encapsulated-postscript", "com.Tembrolix.epsi",
+                          "com.adobe.illustrator.ai-image", "com.adobe.pdf", "public.svg-image"}));
+  }
+
+  void aSubtypeOfEachAcceptedTypeIsAccepted_data() {
+    QTest::addColumn<QString>("type");
+    for (const QString& type : acceptedDocumentTypes()) QTest::newRow(qPrintable(type)) << type;
+  }
+  void aSubtypeOfEachAcceptedTypeIsAccepted() {
+    QFETCH(QString, type);
+    const QString kind = QStringLiteral("org.example.kind-of.") + type.toLower();
+    QVERIFY_EXCEPTION_THROWN((void)make()->readFromData(QByteArray("x"), kind), UnimplementedMethod);
+    UTType::exportedTypeWithIdentifier(kind, {type});
+    QVERIFY(make()->readFromData(QByteArray("x"), kind));
+  }
+
   void anUnacceptedTypeRaisesUnimplementedMethod_data() {
     QTest::addColumn<QString>("type");
     for (const char* type :

@@ -8,6 +8,7 @@
 #include "document/picture_producers.h"
 #include "document/unimplemented_method.h"
 #include "kit/test_main.h"
+#include "picture/eps_image_rep.h"
 #include "picture/image_rep.h"
 #include "picture/process/null_picture_service.h"
 
@@ -18,22 +19,27 @@ namespace {
 /// Bytes that name their producer.
 class NamingProducers final : public PictureProducers {
  public:
-  std::shared_ptr<NSImageRep> shownImageRep() override { return nullptr; }
+  std::shared_ptr<NSImageRep> shownImageRep() override { return shown; }
   QByteArray postScriptData() override { return of("postScriptData"); }
   QByteArray postScriptDataWithPreview() override { return of("postScriptDataWithPreview"); }
   QByteArray epsiData() override { return of("epsiData"); }
   QByteArray pdfData() override { return of("pdfData"); }
   QByteArray svgData() override { return of("svgData"); }
-  QByteArray tiffData(const std::shared_ptr<NSImageRep>&) override { return of("tiffData"); }
-  QByteArray pngData(const std::shared_ptr<NSImageRep>&) override { return of("pngData"); }
-  QByteArray jpgData(const std::shared_ptr<NSImageRep>&) override { return of("jpgData"); }
-  QByteArray gifData(const std::shared_ptr<NSImageRep>&) override { return of("gifData"); }
+  QByteArray tiffData(const std::shared_ptr<NSImageRep>& rep) override { return ofRep("tiffData", rep); }
+  QByteArray pngData(const std::shared_ptr<NSImageRep>& rep) override { return ofRep("pngData", rep); }
+  QByteArray jpgData(const std::shared_ptr<NSImageRep>& rep) override { return ofRep("jpgData", rep); }
+  QByteArray gifData(const std::shared_ptr<NSImageRep>& rep) override { return ofRep("gifData", rep); }
   QString lastShortcoming() const override { return shortcoming; }
 
   QByteArray of(const char* name) {
     if (!produce) return {};
     return bytes.isEmpty() ? QByteArray(name) : bytes;
   }
+  QByteArray ofRep(const char* name, const std::shared_ptr<NSImageRep>& rep) {
+    given = rep;
+    return of(name);
+  }
+  std::shared_ptr<NSImageRep> shown, given;
   QByteArray bytes;  ///< empty: the producer's name
   bool produce = true;
   QString shortcoming;
@@ -85,6 +91,21 @@ class DocumentWritingTest : public QObject {
     QVERIFY(answers_->shown.isEmpty());
   }
 
+  void rasterFormatsAreMadeOfTheShownRepresentation_data() {
+    QTest::addColumn<QString>("type");
+    for (const char* type : {"public.tiff", "public.png", "public.jpeg", "com.compuserve.gif"})
+      QTest::newRow(type) << type;
+  }
+  void rasterFormatsAreMadeOfTheShownRepresentation() {
+    QFETCH(QString, type);
+    const auto rep = NSEPSImageRep::imageRepWithData(
+        service_, "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 20 10\n%%EndComments\n");
+    QVERIFY(rep.ok());
+    producers_.shown = *rep;
+    (void)document_->dataOfType(type);
+    QVERIFY(producers_.given && producers_.given == producers_.shown);
+  }
+
   void anEpsSourceOffersOriginal() {
     document_->setFileType(QStringLiteral("com.adobe.encapsulated-postscript"));
     QCOMPARE(document_->dataOfType(eps_), QByteArray("postScriptData"));
@@ -105,6 +126,10 @@ class DocumentWritingTest : public QObject {
   }
   void anyOtherAnswerAddsNone() {
     answers_->answer = -1;
+    QCOMPARE(document_->dataOfType(eps_), QByteArray("postScriptData"));
+  }
+  void withNobodyToAskNoPreviewIsAdded() {
+    document_->setAlertPresenter(nullptr);
     QCOMPARE(document_->dataOfType(eps_), QByteArray("postScriptData"));
   }
   void cancelFailsThroughTheException() {
@@ -142,6 +167,7 @@ class DocumentWritingTest : public QObject {
     DocumentError error;
     QVERIFY(!document_->writeToURL(url("no/such/folder/a.pdf"), QStringLiteral("com.adobe.pdf"), &error));
     QCOMPARE(error.domain, QStringLiteral("com.Norvex.ErrorDomain"));
+    QCOMPARE(error.code, 5);  // 4 is for bytes that are not there
     QCOMPARE(error.recoverySuggestion, QStringLiteral("the folder to write to does not exist"));
   }
   void whatCouldNotBeOpenedAgainReplacesNothing() {
@@ -150,6 +176,7 @@ class DocumentWritingTest : public QObject {
     DocumentError error;
     QVERIFY(!document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf"), &error));
     QCOMPARE(error.recoverySuggestion, QStringLiteral("the result could not be opened again: it has no end"));
+    QCOMPARE(error.code, 5);
     QCOMPARE(contentOf(folder_->filePath(QStringLiteral("a.pdf"))), QByteArray("pdfData"));
   }
   void aFileThatLacksSomethingReplacesAnotherOnlyWhenTheUserSaysSo() {

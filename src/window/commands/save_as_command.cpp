@@ -105,7 +105,7 @@ void SaveAsCommand::write(const QUrl& url, const UTType& type) {
   });
   DocumentError error;
   try {
-    if (document->writeToURL(url, type.identifier(), &error)) return;
+    if (document->writeToURL(url, type.identifier(), &error)) return parts_.tell(producers_.lastWarnings());
   } catch (const UnimplementedMethod&) {
     if (stopped) return;  // nothing is to be told about what the user stopped
     emit failed();

@@ -13,6 +13,7 @@
 #include "base/path_extension.h"
 #include "base/waiting_threads.h"
 #include "desktop/save_panel.h"
+#include "encoders/output_check.h"
 #include "types/type_description.h"
 #include "ui/picture/zy_image_view.h"
 #include "window/commands/copy_command.h"
@@ -37,6 +38,7 @@ Result<void> writeTo(const QString& path, const std::shared_ptr<PromisedData>& d
   if (cancel.cancelled()) return Error{ErrorKind::Cancelled, localizedString("The writing was stopped")};
   if (bytes.isEmpty())
     return Error{ErrorKind::CannotWrite, localizedString("The picture cannot be written in this format")};
+  if (const Result<void> opens = checkOutput(bytes); !opens) return opens.error();
   return writeFileAtomically(path, bytes, IfExists::Replace);
 }
 

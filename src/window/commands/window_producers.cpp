@@ -7,6 +7,7 @@ PictureEncoder WindowProducers::encoder(const CancelToken& cancel) const {
   EncoderSurroundings surroundings =
       shown.service ? usualSurroundings(*shown.service) : EncoderSurroundings();
   surroundings.iccProfile = shown.colorSpace.isValid() ? shown.colorSpace.iccProfile() : QByteArray();
+  surroundings.subjectMayBeLeftOut = true;
   return {shown.imageRep, surroundings, cancel};
 }
 

@@ -68,6 +68,10 @@
         <translation>The drawing was stopped</translation>
     </message>
     <message>
+        <source>WebP image</source>
+        <translation>WebP image</translation>
+    </message>
+    <message>
         <source>About Norvex</source>
         <translation>About Norvex</translation>
     </message>

@@ -10,6 +10,7 @@
 #include "ui/controls/zy_form.h"
 #include "ui/source/source_text_view.h"
 #include "window/inspector/chosen_encodings.h"
+#include "window/inspector/usual_encodings.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -78,6 +79,7 @@ class EncodingChoiceTest : public QObject {
     EncodingFixture f;
     f.show(epsBytes());
     for (const QString& name : encodingNames()) QVERIFY2(f.popUp->findData(name) > 0, qPrintable(name));
+    for (const char* usual : usualEncodings) QVERIFY2(encodingNames().contains(QLatin1String(usual)), usual);
     QVERIFY(encodingNames().size() > 150);
   }
 

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
 
 #include "base/localized_string.h"
 #include "metadata/text_encoding.h"
@@ -12,13 +13,11 @@
 #include "window/commands/window_parts.h"
 #include "window/inspector/chosen_encodings.h"
 #include "window/inspector/source_reading.h"
+#include "window/inspector/usual_encodings.h"
 
 namespace norvex {
 namespace {
 
-/// What PostScript files are mostly in, before the list of all.
-constexpr const char* kUsual[] = {"UTF-8",   "ISO-8859-1", "windows-1252", "macintosh", "Shift_JIS", "EUC-JP",
-                                  "GB18030", "Big5",       "EUC-KR",       "KOI8-R",    "UTF-16"};
 constexpr int kVisibleItems = 20;
 
 struct GuessedRow {
@@ -64,7 +63,7 @@ void EncodingCommand::fill() {
   popUp.addItem(localizedString("Automatic"), QString());
   popUp.insertSeparator(popUp.count());
   const QStringList& all = encodingNames();
-  for (const char* usual : kUsual)
+  for (const char* usual : usualEncodings)
     if (const QString name = QString::fromLatin1(usual); all.contains(name)) popUp.addItem(name, name);
   popUp.insertSeparator(popUp.count());
   for (const QString& name : all)

@@ -1,0 +1,11 @@
+// The encodings that are offered first.
+#pragma once
+
+namespace norvex {
+
+/// What PostScript files are mostly in; names of encodingNames().
+inline constexpr const char* usualEncodings[] = {"UTF-8",     "ISO-8859-1", "windows-1252", "macintosh",
+                                                 "Shift_JIS", "EUC-JP",     "GB18030",      "Big5",
+                                                 "EUC-KR",    "KOI8-R",     "UTF-16"};
+
+}  // namespace norvex

@@ -27,7 +27,11 @@ bool holdsComment(const QByteArray& bytes, const QString& key, const QString& va
 
 void checkConversion(Conversion& conversion, PictureEncoder& encoder, const QByteArray& source,
                      bool handedOn) {
-  if (conversion.report.error) return;
+  if (conversion.report.error) {  // what there is lacks its main part
+    conversion.bytes.clear();
+    conversion.size = 0;
+    return;
+  }
   // What was handed on was opened already.
   if (const Result<void> opens = checkOutput(conversion.bytes); !opens && conversion.bytes != source) {
     conversion.report.error = opens.error();

@@ -11,7 +11,15 @@ namespace norvex {
 namespace {
 
 constexpr int maximumSide = 65535;  // 16-bit sizes
-constexpr int opaqueFrom = 128;     // GIF pixels are transparent or not, nothing between
+
+/// GIF pixels are transparent or not, nothing between: of an area of some opacity as many are seen as the
+/// opacity tells, in the even pattern of an ordered dither (Bayer, 8 × 8). Opaque pixels always are, clear
+/// ones never.
+constexpr bool isSeen(int x, int y, int alpha) {
+  int rank = 0;
+  for (int bit = 0; bit < 3; ++bit) rank = rank << 2 | (((x ^ y) >> bit & 1) << 1) | (y >> bit & 1);
+  return alpha == 255 || alpha > 4 * rank + 2;
+}
 
 struct AttrDeleter {
   void operator()(liq_attr* p) const { liq_attr_destroy(p); }
@@ -50,7 +58,7 @@ Pixels pixelsOf(const NSBitmapImageRep& raster) {
         reinterpret_cast<const uchar*>(raster.data.constData()) + qsizetype(y) * raster.bytesPerRow;
     for (int x = 0; x < raster.pixelsWide; ++x, from += raster.samplesPerPixel, to += 4, ++seen) {
       const int alpha = raster.hasAlpha ? from[3] : 255;
-      if (alpha < opaqueFrom) {
+      if (!isSeen(x, y, alpha)) {
         *seen = 0;
         pixels.transparency = true;
       } else {

@@ -117,17 +117,14 @@ QByteArray PictureEncoder::postScriptDataWithPreview() {
   const QByteArray tiff = encodeRaster(PictureFormat::Tiff, *bitmap, {72, {}});
   if (tiff.isEmpty())
     return fail({ErrorKind::Unsupported, QStringLiteral("the preview could not be written as TIFF")});
-  QByteArray postScript;
-  if (isEps(imageRep_.get()) && handsOnSource()) {
-    postScript = programOfEps();
-    if (postScript.isEmpty()) {
-      report_.shortcoming =
-          QStringLiteral("the source has no PostScript, so the file holds a preview and nothing else");
-      addWarnings({report_.shortcoming});
-    }
-  } else {
-    postScript = postScriptData();
-    if (postScript.isEmpty()) return {};
+  const bool own = isEps(imageRep_.get()) && handsOnSource();
+  const QByteArray postScript = own ? programOfEps() : postScriptData();
+  if (cancel_.cancelled()) return {};
+  if (postScript.isEmpty()) {
+    report_.shortcoming =
+        own ? QStringLiteral("the source has no PostScript, so the file holds a preview and nothing else")
+            : QStringLiteral("the picture gives no PostScript, so the file holds a preview and nothing else");
+    addWarnings({report_.shortcoming});
   }
   return dosEpsFile(tiff, postScript);
 }

@@ -38,7 +38,8 @@ class PictureEncoder {
   [[nodiscard]] QByteArray postScriptData();
   /// `postScript` (UTF-8) with its comments rewritten from the header dictionary.
   [[nodiscard]] QByteArray addEPSHeader(const QByteArray& postScript);
-  /// Binary EPS with an uncompressed TIFF preview.
+  /// Binary EPS with an uncompressed TIFF preview. Where there is no PostScript its section is empty, and the
+  /// report tells of the shortcoming.
   [[nodiscard]] QByteArray postScriptDataWithPreview();
   /// EPS with an interchange preview.
   [[nodiscard]] QByteArray epsiData();

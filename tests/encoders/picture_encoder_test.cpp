@@ -2,6 +2,7 @@
 
 #include <QColorSpace>
 #include <QPainter>
+#include <QtEndian>
 
 #include <functional>
 
@@ -147,6 +148,58 @@ class PictureEncoderTest : public QObject {
         "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n%%Title: Pdf Title\n%%Creator: Drawer\n"));
     QVERIFY(out.endsWith("%%EndComments\nshowpage\n"));
   }
+  void withoutPostScriptThePreviewStandsAlone_data() {
+    QTest::addColumn<bool>("isPdf");
+    QTest::newRow("PDF") << true;
+    QTest::newRow("SVG") << false;
+  }
+  void withoutPostScriptThePreviewStandsAlone() {
+    QFETCH(bool, isPdf);
+    const auto rep = isPdf ? std::shared_ptr<NSImageRep>(pdf()) : svg();
+    service_->memory.lastProcess()->fail(PictureCall::Compose, {ErrorKind::Died, QStringLiteral("it died")});
+    PictureEncoder encoder = encoderOf(rep);
+    const QByteArray out = encoder.postScriptDataWithPreview();
+    QCOMPARE(out.left(4).toHex(), QByteArray("c5d0d3c6"));
+    QCOMPARE(out.mid(8, 4), QByteArray(4, '\0'));
+    const auto tiffLength = qFromLittleEndian<quint32>(out.constData() + 24);
+    QCOMPARE(out.size(), 30 + qsizetype(tiffLength));
+    QVERIFY(encoder.report().error && !encoder.report().shortcoming.isEmpty());
+  }
+  void whatIsCancelledIsNoPreviewWithoutPostScript() {
+    const CancelToken cancel;
+    const auto rep = svg();
+    MemoryPicture memory = picture();
+    memory.compose = [cancel](const ComposeRequest&) {
+      cancel.cancel();
+      return QByteArray();
+    };
+    service_->memory.setPicture(memory);
+    QVERIFY(PictureEncoder(svg(), usual(), cancel).postScriptDataWithPreview().isEmpty());
+  }
+
+  void theProfileReachesEveryRasterFormatThatWritesOne_data() {
+    QTest::addColumn<PictureFormat>("format");
+    for (const PictureFormat format :
+         {PictureFormat::Tiff, PictureFormat::Png, PictureFormat::Jpeg, PictureFormat::Gif})
+      QTest::newRow(rowOf(format).name.data()) << format;
+  }
+  void theProfileReachesEveryRasterFormatThatWritesOne() {
+    QFETCH(PictureFormat, format);
+    const auto rep = svg();
+    for (const bool given : {true, false}) {
+      EncoderSurroundings surroundings = usual();
+      surroundings.iccProfile = given ? QColorSpace(QColorSpace::AdobeRgb).iccProfile() : QByteArray();
+      const QByteArray bytes = PictureEncoder(rep, surroundings).rasterData(format, rep);
+      QVERIFY(!bytes.isEmpty());
+      if (format == PictureFormat::Png)
+        QCOMPARE(bytes.contains("iCCP"), given);
+      else if (format == PictureFormat::Gif)
+        QCOMPARE(bytes.contains("ICCRGBG1012"), given);
+      else
+        QCOMPARE(bytes.contains(QColorSpace(QColorSpace::AdobeRgb).iccProfile()), given);
+    }
+  }
+
   void aSourceThatIsNoTextGoesOverByteForByte() {
     // Invalid in UTF-8, Shift JIS, EUC-JP, non-lossy ASCII and ASCII alike.
     const QByteArray source = sourceEps + QByteArray("\xFF\x80\xFD\xA0\0\xFF", 6);

@@ -203,8 +203,35 @@ class RasterCodecsTest : public QObject {
              qPrintable(pixels));
     QVERIFY2(pixels.contains(QStringLiteral(",0)")), qPrintable(pixels));
   }
-  void softEdgesInAGifAreEitherSeenOrNot() {
-    // Many colours that fade into transparency: none of them is mixed with what is not seen.
+  void transparencyOfAGifIsAPattern_data() {
+    QTest::addColumn<int>("alpha");
+    QTest::addColumn<int>("seenOf64");
+    QTest::newRow("clear") << 0 << 0;
+    QTest::newRow("an eighth") << 32 << 8;
+    QTest::newRow("a quarter") << 64 << 16;
+    QTest::newRow("half") << 128 << 32;
+    QTest::newRow("three quarters") << 192 << 48;
+    QTest::newRow("opaque") << 255 << 64;
+  }
+  void transparencyOfAGifIsAPattern() {
+    QFETCH(int, alpha);
+    QFETCH(int, seenOf64);
+    QImage image(64, 64, QImage::Format_ARGB32);
+    image.fill(QColor(200, 40, 90, alpha));
+    const QByteArray bytes =
+        encodeGif(bitmapFromImage(image.convertToFormat(QImage::Format_ARGB32_Premultiplied)), {});
+    const QImage read = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(read.size(), image.size());
+    // The same share in every square, not a heap here and a hole there.
+    for (int top = 0; top < 64; top += 8)
+      for (int left = 0; left < 64; left += 8) {
+        int seen = 0;
+        for (int y = top; y < top + 8; ++y)
+          for (int x = left; x < left + 8; ++x) seen += read.pixelColor(x, y).alpha() == 255;
+        QCOMPARE(seen, seenOf64);
+      }
+  }
+  void coloursThatFadeInAGifAreNotMixedWithWhatIsNotSeen() {
     QImage image(120, 90, QImage::Format_ARGB32);
     for (int y = 0; y < 90; ++y)
       for (int x = 0; x < 120; ++x)
@@ -218,8 +245,9 @@ class RasterCodecsTest : public QObject {
     for (int y = 0; y < 90; ++y) {
       for (int x = 0; x < 120; ++x) {
         const QColor before = image.pixelColor(x, y), after = read.pixelColor(x, y);
-        QCOMPARE(after.alpha(), before.alpha() >= 128 ? 255 : 0);
-        if (after.alpha() == 0) continue;
+        QVERIFY(after.alpha() == 255 || (after.alpha() == 0 && before.alpha() < 255));
+        // A colour that is hardly there has lost its exact value before it comes to the encoder.
+        if (after.alpha() == 0 || before.alpha() < 64) continue;
         ++seen;
         sum += std::abs(before.red() - after.red()) + std::abs(before.green() - after.green()) +
                std::abs(before.blue() - after.blue());

@@ -21,10 +21,14 @@ struct SavePanelSettings {
   bool allowsOtherFileTypes = true;
   bool canSelectHiddenExtension = false, extensionHidden = false;
   QUrl directoryURL;                 ///< where the panel begins; empty: its own choice
+  QUrl ownDirectoryURL;              ///< that choice, where there is a better one than the pictures' folder
   QString nameFieldStringValue;      ///< proposed name
   QWidget* accessoryView = nullptr;  ///< shown in the panel, given back to its parent afterwards; not owned
   /// With no accessory view: the place in allowedContentTypes that a list of types begins with; -1: no list.
   int selectedContentType = -1;
+  /// Told when the extension of a type is typed after the name, so that a list of types can follow. May be
+  /// unset; a list of the panel's own follows by itself.
+  std::function<void(const UTType& type)> typed;
   /// Where the file will really be for the URL and the type chosen at that moment; what is there is replaced
   /// only after a question. Unset: at the URL.
   std::function<QUrl(const QUrl& url, int contentType)> target;

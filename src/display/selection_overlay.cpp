@@ -86,6 +86,16 @@ void drawSelectionOutline(QPainter& painter, const OverlayFrame& frame, const QP
   if (right > left + t && bottom > top + t)
     outline.addRect(left + t, top + t, right - left - t, bottom - top - t);
   painter.fillPath(outline, QColor::fromRgbF(0, 0, 1, 0.75f));
+  // Beside the line, not under it: its colour stays its own, and on dark art it is seen all the same.
+  const QRectF outer(left, top, right + t - left, bottom + t - top);
+  QPainterPath halo;
+  halo.addRect(outer.adjusted(-t, -t, t, t) & view);
+  halo.addRect(outer);
+  if (right - left > 3 * t && bottom - top > 3 * t) {
+    halo.addRect(outer.adjusted(t, t, -t, -t));
+    halo.addRect(outer.adjusted(2 * t, 2 * t, -2 * t, -2 * t));
+  }
+  painter.fillPath(halo, QColor::fromRgbF(1, 1, 1, 0.75f));
 }
 
 void drawSelectionCrosshair(QPainter& painter, const OverlayFrame& frame, const QPointF& point) {

@@ -9,9 +9,11 @@
 #include "cli/archive/archive_job.h"
 #include "cli/command_line.h"
 #include "cli/printing_job.h"
+#include "picture/client/spawned_worker.h"
 #include "picture/client/worker_service.h"
 #include "programs/application_entry.h"
 #include "ui/panels/alert_box.h"
+#include "ui/panels/clipboard_keeper.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
@@ -29,7 +31,9 @@ int runWindows(int argc, char** argv, WorkerService& service) {
     return controller;
   });
   documents.start(Application::fileArguments());
-  return Application::exec();
+  const int code = Application::exec();
+  leaveClipboardTo(partOfProgram("norvex-clipboard"));
+  return code;
 }
 
 }  // namespace

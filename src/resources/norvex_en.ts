@@ -80,6 +80,190 @@
         <translation>All files</translation>
     </message>
     <message>
+        <source>Copied %1 pt</source>
+        <translation>Copied %1 pt</translation>
+    </message>
+    <message>
+        <source>Other Folder…</source>
+        <translation>Other Folder…</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Folder for the exported file</source>
+        <translation>Folder for the exported file</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>EPS with TIFF preview</source>
+        <translation>EPS with TIFF preview</translation>
+    </message>
+    <message>
+        <source>This page</source>
+        <translation>This page</translation>
+    </message>
+    <message>
+        <source>Part:</source>
+        <translation>Part:</translation>
+    </message>
+    <message>
+        <source> pixels an inch</source>
+        <translation> pixels an inch</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Width in pixels</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Height in pixels</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Resolution:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>Fill with</source>
+        <translation>Fill with</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>Background:</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Lossless</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Quality:</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Making a preview…</source>
+        <translation>Making a preview…</translation>
+    </message>
+    <message>
+        <source>File size: %1</source>
+        <translation>File size: %1</translation>
+    </message>
+    <message>
+        <source>Not possible</source>
+        <translation>Not possible</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xport…</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>The picture is too large.</translation>
+    </message>
+    <message>
+        <source>Exported “%1”</source>
+        <translation>Exported “%1”</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Selection</translation>
+    </message>
+    <message>
+        <source>Visible part</source>
+        <translation>Visible part</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Whole picture</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>All pages</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>Previous Page</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Next Page</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>of %1</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Go</translation>
+    </message>
+    <message>
+        <source>Page &amp;Thumbnails</source>
+        <translation>Page &amp;Thumbnails</translation>
+    </message>
+    <message>
+        <source>Page %1 has no area.</source>
+        <translation>Page %1 has no area.</translation>
+    </message>
+    <message>
+        <source>Where the pointer is in the picture. Click for another unit.</source>
+        <translation>Where the pointer is in the picture. Click for another unit.</translation>
+    </message>
+    <message>
+        <source>Unit of lengths</source>
+        <translation>Unit of lengths</translation>
+    </message>
+    <message>
+        <source>&amp;Next Page</source>
+        <translation>&amp;Next Page</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Page</source>
+        <translation>&amp;Previous Page</translation>
+    </message>
+    <message>
+        <source>&amp;First Page</source>
+        <translation>&amp;First Page</translation>
+    </message>
+    <message>
+        <source>&amp;Last Page</source>
+        <translation>&amp;Last Page</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Page…</source>
+        <translation>&amp;Go to Page…</translation>
+    </message>
+    <message>
         <source>AngleOfRotation</source>
         <translation>Rotation</translation>
     </message>

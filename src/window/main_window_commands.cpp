@@ -94,7 +94,7 @@ void MainWindowController::connectCommands() {
   });
   on(ui_->shortcutsAction, {QKeySequence::HelpContents},
      [this] { showShortcutPanel(*window_, *ui_->menuBar); });
-  on(ui_->fullScreenAction, {Qt::Key_F11}, [this](bool checked) { toggleFullScreen(checked); });
+  setShortcuts(ui_->fullScreenAction, {Qt::Key_F11});  // window/viewing does it
   on(ui_->aboutAction, {}, [this] { showAbout(); });
   scrollArea_->setFocus(Qt::OtherFocusReason);  // keys are for the picture until another control is chosen
   setUpPictureMenu();
@@ -223,12 +223,6 @@ void MainWindowController::showTouchBar(bool on) {
   ui_->touchBarAction->setChecked(on);
   // The strip is part of what surrounds the picture: the largest window is another one now.
   if (touchStrip()) setWindowSize();
-}
-
-void MainWindowController::toggleFullScreen(bool on) {
-  if (!on) return window_->showNormal();
-  window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  window_->showFullScreen();
 }
 
 void MainWindowController::showAbout() {

@@ -165,7 +165,7 @@ class MainWindowController final : public QObject,
   void rotateBy(double degrees);
   void showSource();
   void showAbout();
-  void toggleFullScreen(bool on);
+  void setUpViewing();
 
   bool shouldCloseDocument_ = false, observing_ = false;
   std::unique_ptr<QWidget> nib_;  ///< what the interface file makes; its windows become windows of their own

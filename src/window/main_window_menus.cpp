@@ -5,10 +5,15 @@
 #include <QMenu>
 
 #include "base/localized_string.h"
+#include "picture/process/stoppable_process.h"
 #include "ui/picture/drag_source.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui_MainWindowController.h"
+#include "window/export/export_command.h"
 #include "window/main_window_controller.h"
+#include "window/viewing/full_screen.h"
+#include "window/viewing/pages_command.h"
+#include "window/viewing/pointer_readout.h"
 
 namespace norvex {
 
@@ -30,11 +35,20 @@ void MainWindowController::connectPrinting() {
   connect(printPart, &QAction::triggered, this, [this, printPart] { doPrinting(printPart); });
   printPart->setEnabled(doPrintingToolbarItem->isEnabled());
   connect(doPrintingToolbarItem, &QAction::enabledChanged, printPart, &QAction::setEnabled);
+  auto* exporting = new ExportCommand(*this, copying_, this);
+  auto* exportAction = new QAction(localizedString("E&xport…"), window_);
+  exportAction->setObjectName(QStringLiteral("exportAction"));
+  exportAction->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_E);
+  connect(exportAction, &QAction::triggered, exporting, &ExportCommand::run);
+  exportAction->setEnabled(doSaveToToolbarItem->isEnabled());
+  connect(doSaveToToolbarItem, &QAction::enabledChanged, exportAction, &QAction::setEnabled);
+  ui_->fileMenu->insertAction(ui_->reloadAction, exportAction);
   ui_->fileMenu->insertActions(ui_->closeAction, {pageLayout, print, printPart});
   ui_->fileMenu->insertSeparator(ui_->closeAction);
 }
 
 void MainWindowController::setUpPictureMenu() {
+  setUpViewing();
   viewWidget_->setWhatsThis(
       localizedString("Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another "
                       "program as a file."));
@@ -53,6 +67,24 @@ void MainWindowController::setUpPictureMenu() {
   });
   new DragSource(
       *viewWidget_, [this] { return draggedFile(); }, this);
+}
+
+void MainWindowController::setUpViewing() {
+  auto* go = new QMenu(localizedString("&Go"), menuBar);
+  go->setObjectName(QStringLiteral("goMenu"));
+  menuBar->insertMenu(ui_->helpMenu->menuAction(), go);
+  auto* pages = new PagesCommand(*this, this);
+  pages->setUp(*go);
+  connect(this, &MainWindowController::documentShown, pages, &PagesCommand::documentDidChange);
+  connect(pages, &PagesCommand::pageDidChange, this, [this] {
+    messages_.watchPicture(std::dynamic_pointer_cast<StoppableProcess>(view()->imageRep()->process()));
+    setWindowSize();
+  });
+  auto* readout = new PointerReadout(*this, this);
+  readout->setUp();
+  auto* fullScreen = new FullScreen(*this, this);
+  fullScreen->setUp(*ui_->deselectAction);
+  connect(ui_->fullScreenAction, &QAction::triggered, fullScreen, &FullScreen::set);
 }
 
 }  // namespace norvex

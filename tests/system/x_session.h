@@ -157,6 +157,7 @@ class XSession {
   }
   bool isAlive() { return program_.state() == QProcess::Running && !program_.waitForFinished(1); }
   qint64 id() const { return program_.processId(); }
+  QString display() const { return environment_.value("DISPLAY"); }
   QByteArray said() { return program_.readAll(); }
 
   // ---- hands and eyes; points are pixels of the screen

@@ -9,9 +9,11 @@
 #include "kit/test_main.h"
 #include "picture/web_image_rep.h"
 #include "ui/panels/qt_pasteboard.h"
+#include "ui/picture/brief_note.h"
 #include "ui/picture/dragged_file_data.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -151,6 +153,32 @@ class CopyTest : public QObject {
     QCOMPARE(copied(d, [&] { d.copy(); }), QVariant(true));
     QCOMPARE(g.types(), (QStringList{"com.adobe.pdf"}));
     QCOMPARE(g.pasteboard.objects.first().dataForType("com.adobe.pdf"), emptyPdf({200, 100}));
+  }
+
+  void whatWasCopiedIsToldWithItsSize() {
+    CopyFixture f;
+    MainWindowController& c = f.eps();
+    select(*c.view(), {-50, -20}, {-10, 10});
+    QCOMPARE(copied(c, [&] { c.doCopy(); }), QVariant(true));
+    auto* note = c.scrollArea()->findChild<BriefNote*>();
+    QVERIFY(note);
+    QCOMPARE(note->text(), QString("Copied 40 × 30 pt"));
+    QCOMPARE(copied(c, [&] { c.copy(); }), QVariant(true));
+    QCOMPARE(note->text(), QString("Copied 200 × 100 pt"));
+    QCOMPARE(c.scrollArea()->findChildren<BriefNote*>().size(), 1);
+    QVERIFY(!note->isHidden());
+    QTRY_VERIFY(note->isHidden());
+  }
+
+  void aWholeEpsIsThereAsPdfAndPixelsForOthers() {
+    CopyFixture f;
+    MainWindowController& c = f.eps();
+    QCOMPARE(copied(c, [&] { c.copy(); }), QVariant(true));
+    const auto mime = mimeDataOf(f.pasteboard.objects.first());
+    QVERIFY(mime->data("application/pdf").startsWith("%PDF"));
+    QVERIFY(mime->data("image/png").startsWith("\x89PNG"));
+    QCOMPARE(mime->data("image/x-eps"), epsBytes());
+    QVERIFY(!mime->hasFormat("image/svg+xml"));  // this picture process makes none
   }
 
   void theWholeSvgIsCopiedInFourFormats() {

@@ -246,7 +246,7 @@ class PictureFormatsTest : public QObject {
     PictureFormats none;
     appendRasterFormats(none, f.snapshot);
     QCOMPARE(none.count(), 0);
-    QVERIFY(!pngOf(none, f.snapshot));
+    QCOMPARE(translatedFormats(none, f.snapshot).count(), 0);
   }
 
   void wholePicturesAreHandedOnAsTheyAre() {
@@ -264,6 +264,42 @@ class PictureFormatsTest : public QObject {
                                                 "com.adobe.encapsulated-postscript", "public.tiff"}));
     QCOMPARE(formats.DataObjects[0]->get(), kSvg);
     QCOMPARE(made(formats), (QList<bool>{true, true, true, true}));
+  }
+
+  void otherProgramsFindWhatIsNotOffered() {
+    Shown eps(PictureKind::Eps);
+    const PictureFormats selected = selectionFormats(eps.snapshot);
+    QCOMPARE(identifiers(translatedFormats(selected, eps.snapshot)),
+             (QStringList{"public.svg-image", "public.png"}));
+    const PictureFormats whole = wholePictureFormats(eps.snapshot);
+    QCOMPARE(identifiers(translatedFormats(whole, wholeOf(eps.snapshot))),
+             (QStringList{"public.svg-image", "com.adobe.pdf", "public.png"}));
+    Shown pdf(PictureKind::Pdf);
+    QCOMPARE(identifiers(translatedFormats(wholePictureFormats(pdf.snapshot), wholeOf(pdf.snapshot))),
+             (QStringList{"public.svg-image", "com.adobe.encapsulated-postscript", "public.png"}));
+    Shown svg(PictureKind::Svg);
+    for (const PictureFormats& offered :
+         {selectionFormats(svg.snapshot), wholePictureFormats(svg.snapshot)}) {
+      const PictureFormats translated = translatedFormats(offered, wholeOf(svg.snapshot));
+      QCOMPARE(identifiers(translated), (QStringList{"public.png"}));
+      QCOMPARE(made(translated), (QList<bool>{true}));
+    }
+  }
+
+  void anEngineWithoutSvgOffersNone() {
+    Shown f(PictureKind::Eps);
+    const PictureFormats offered = selectionFormats(f.snapshot);
+    QCOMPARE(made(translatedFormats(offered, f.snapshot)), (QList<bool>{false, true}));
+    QCOMPARE(f.process->composeRequests().first().format, VectorFormat::Svg);
+    QCOMPARE(f.process->composeRequests().first().rect, f.snapshot.rect);
+  }
+
+  void theWholeIsUprightAndCentred() {
+    Shown f(PictureKind::Eps);
+    f.snapshot.placement.rotate = 1;
+    const PictureSnapshot whole = wholeOf(f.snapshot);
+    QCOMPARE(whole.rect, QRectF(-100, -50, 200, 100));
+    QCOMPARE(whole.placement.rotate, 0.0);
   }
 };
 

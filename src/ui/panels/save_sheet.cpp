@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QStandardPaths>
 
 #include <utility>
@@ -36,6 +37,12 @@ QString ownFolder() {
   return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
 }
 
+QUrl startOf(const SavePanelSettings& settings) {
+  for (const QUrl& url : {settings.directoryURL, settings.ownDirectoryURL})
+    if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir()) return url;
+  return QUrl::fromLocalFile(ownFolder());
+}
+
 constexpr QSize kSize(720, 640);
 
 }  // namespace
@@ -48,8 +55,7 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   setAcceptMode(QFileDialog::AcceptSave);
   setFileMode(QFileDialog::AnyFile);
   setWindowTitle(settings_.title);
-  setDirectoryUrl(settings_.directoryURL.isLocalFile() ? settings_.directoryURL
-                                                       : QUrl::fromLocalFile(ownFolder()));
+  setDirectoryUrl(startOf(settings_));
   arrange();
   resize(kSize);
   selectFile(settings_.nameFieldStringValue);
@@ -64,6 +70,7 @@ SaveSheet::~SaveSheet() {
 
 void SaveSheet::arrange() {
   name_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  if (name_) connect(name_, &QLineEdit::textEdited, this, &SaveSheet::takeTyped);
   hideExtension_ = new QCheckBox(localizedString("Hide extension"), this);
   hideExtension_->setObjectName(QStringLiteral("hideExtension"));
   hideExtension_->setChecked(settings_.extensionHidden);
@@ -135,7 +142,20 @@ QUrl SaveSheet::target() const {
   return settings_.target ? settings_.target(typedURL(), settings_.selectedContentType) : typedURL();
 }
 
+void SaveSheet::takeTyped(const QString& name) {
+  const QString extension = pathExtension(name);
+  if (!isAllowedExtension(extension)) return;
+  const UTType type = *UTType::typeWithFilenameExtension(extension);
+  const QScopedValueRollback<bool> typing(typing_, true);  // the name is the user's
+  if (settings_.typed) settings_.typed(type);
+  const qsizetype row = settings_.allowedContentTypes.indexOf(type);
+  if (settings_.selectedContentType < 0 || row == settings_.selectedContentType) return;
+  selectNameFilter(nameFilters().value(row));
+  settings_.selectedContentType = int(row);
+}
+
 void SaveSheet::showName() {
+  if (typing_) return;
   if (!name_ || !settings_.canSelectHiddenExtension || name_->text().isEmpty()) return;
   if (!hideExtension_->isChecked()) return name_->setText(target().fileName());
   if (isAllowedExtension(pathExtension(name_->text()))) name_->setText(pathWithoutExtension(name_->text()));

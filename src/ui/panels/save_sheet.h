@@ -31,6 +31,8 @@ class SaveSheet final : public QFileDialog {
   void addAccessory();
   /// Makes the name in the field show its extension, or not, for the type that is chosen now.
   void showName();
+  /// Makes the list of types follow an extension that is typed.
+  void takeTyped(const QString& name);
   [[nodiscard]] bool isAllowedExtension(const QString& extension) const;
   [[nodiscard]] QUrl typedURL() const;
   [[nodiscard]] QUrl target() const;
@@ -40,6 +42,7 @@ class SaveSheet final : public QFileDialog {
   QPointer<QWidget> accessory_, accessoryParent_;
   QLineEdit* name_ = nullptr;
   QCheckBox* hideExtension_ = nullptr;
+  bool typing_ = false;
 };
 
 }  // namespace norvex

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/picture/selection_label.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/style/checkerboard.h"
 
@@ -64,6 +65,12 @@ void NorvexViewWidget::setScrollArea(ZoomingScrollArea* area) {
 
 void NorvexViewWidget::setBackground(const QColor& color) {
   background_ = color;
+  update();
+}
+
+void NorvexViewWidget::setLengthUnit(LengthUnit unit) {
+  if (unit_ == unit) return;
+  unit_ = unit;
   update();
 }
 
@@ -169,6 +176,14 @@ void NorvexViewWidget::drawBackground(QPainter& painter, const QRect& dirty) {
   if (view_.imageRep()) drawCheckerboard(painter, view & QRectF(dirty), palette());
 }
 
+void NorvexViewWidget::drawLabel(QPainter& painter) const {
+  if (view_.selection().state() != Selection::State::Rectangle) return;
+  const QRectF& selected = view_.selectRect();
+  const QRectF device = QRectF(fromView(selected.topLeft()), fromView(selected.bottomRight())).normalized();
+  drawSelectionLabel(painter, device, viewInWidget() & QRectF(rect()),
+                     sizeText(selected.size(), unit_) + u' ' + unitName(unit_));
+}
+
 void NorvexViewWidget::paintEvent(QPaintEvent* event) {
   QElapsedTimer clock;
   clock.start();
@@ -182,6 +197,8 @@ void NorvexViewWidget::paintEvent(QPaintEvent* event) {
     painter.setTransform(toClip, true);
     const QRectF dirty = toClip.inverted().mapRect(QRectF(event->rect()));
     view_.drawRect(painter, dirty, DrawingDestination::Screen);
+    painter.resetTransform();
+    drawLabel(painter);
   }
   painting_ = false;
   emit drawn(static_cast<double>(clock.nsecsElapsed()) / 1e6);

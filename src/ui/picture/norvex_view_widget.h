@@ -7,6 +7,7 @@
 
 #include <optional>
 
+#include "display/length_text.h"
 #include "display/norvex_view.h"
 #include "display/view_host.h"
 
@@ -33,6 +34,9 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   /// What lies under the picture: a colour over the whole clip, or (an invalid colour) a checkerboard where
   /// the view is and the window's colour around it.
   void setBackground(const QColor& color);
+
+  /// What the size of the selection is written in beside it.
+  void setLengthUnit(LengthUnit unit);
 
   /// A view point as a point of this widget and back; a widget point is in logical pixels from its top-left
   /// corner.
@@ -71,6 +75,7 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   /// View to widget coordinates; the view's upper left corner lies on a whole device pixel.
   [[nodiscard]] QTransform placement() const;
   [[nodiscard]] QRectF viewInWidget() const;
+  void drawLabel(QPainter& painter) const;
   void drawBackground(QPainter& painter, const QRect& dirty);
   void watchScreen();
   void loseTracking();
@@ -80,6 +85,7 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   NorvexView view_;
   QPointer<ZoomingScrollArea> area_;
   QColor background_;
+  LengthUnit unit_ = LengthUnit::Points;
   bool tracking_ = false, painting_ = false, screenWatched_ = false;
   QTimer periodic_;
   QPointF pointer_;   ///< where the pointer was last seen during a drag; global, logical pixels

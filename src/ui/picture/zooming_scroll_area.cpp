@@ -109,7 +109,16 @@ void ZoomingScrollArea::applyBackground() {
   if (document_) document_->setBackground(drawsBackground_ ? background_ : QColor());
 }
 
+void ZoomingScrollArea::setBare(bool bare) {
+  bare_ = bare;
+  for (QWidget* widget :
+       {static_cast<QWidget*>(horizontal_), static_cast<QWidget*>(vertical_), static_cast<QWidget*>(popUp_)})
+    widget->setVisible(!bare);
+  layOut();
+}
+
 QSizeF ZoomingScrollArea::contentSize() const {
+  if (bare_) return size();
   // From this widget's own size, which is known before a hidden window lays its grandchildren out.
   return QSizeF(std::max(0, width() - kBarExtent), std::max(0, height() - stripHeight()));
 }

@@ -38,6 +38,9 @@ class ZoomingScrollArea final : public QWidget {
   void setDrawsBackground(bool draws);
   [[nodiscard]] bool drawsBackground() const { return drawsBackground_; }
 
+  /// Nothing but the picture: neither bars nor menu.
+  void setBare(bool bare);
+
   /// Size of the clip, logical pixels.
   [[nodiscard]] QSizeF contentSize() const;
   [[nodiscard]] QWidget* clip() const { return clip_; }
@@ -103,6 +106,7 @@ class ZoomingScrollArea final : public QWidget {
   QColor background_ = Qt::white;
   bool drawsBackground_ = true;
   QList<Card> cards_;
+  bool bare_ = false;
   bool spaceHeld_ = false;
   std::optional<QPointF> panFrom_;  ///< where the pointer was; clip coordinates
 };

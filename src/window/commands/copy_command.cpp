@@ -7,9 +7,11 @@
 
 #include "base/localized_string.h"
 #include "base/waiting_threads.h"
+#include "display/length_text.h"
 #include "display/norvex_view.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/panels/qt_pasteboard.h"
+#include "ui/picture/brief_note.h"
 #include "ui/picture/drag_source.h"
 #include "ui/picture/message_bar.h"
 #include "window/commands/window_parts.h"
@@ -20,22 +22,23 @@ namespace {
 
 /// Makes every format, one after the other: the picture process serves one at a time, and the other threads
 /// are left to what is on the screen.
-QFuture<void> madeInBackground(const PictureFormats& formats, const std::shared_ptr<PromisedData>& fallback) {
-  QList<std::shared_ptr<PromisedData>> all = formats.DataObjects;
-  if (fallback) all << fallback;
+QFuture<void> madeInBackground(const PictureFormats& formats, const PictureFormats& translated) {
+  const QList<std::shared_ptr<PromisedData>> all = formats.DataObjects + translated.DataObjects;
   return QtConcurrent::run(&waitingThreads(), [all] {
     for (const std::shared_ptr<PromisedData>& data : all) static_cast<void>(data->get());
   });
 }
 
-NSPasteboardItem itemOf(const PictureFormats& formats, const std::shared_ptr<PromisedData>& png) {
+NSPasteboardItem itemOf(const PictureFormats& formats, const PictureFormats& translated) {
   NSPasteboardItem item;
   for (qsizetype i = 0; i < formats.count(); ++i) {
     const QByteArray bytes = formats.DataObjects.at(i)->get();
     if (!bytes.isEmpty()) item.setData(bytes, formats.UTIs.at(i).identifier());
   }
-  const QByteArray pixels = png ? png->get() : QByteArray();
-  if (!pixels.isEmpty()) item.setFallback(pixels, UTTypePNG().identifier());
+  for (qsizetype i = 0; i < translated.count(); ++i) {
+    const QByteArray bytes = translated.DataObjects.at(i)->get();
+    if (!bytes.isEmpty()) item.setFallback(bytes, translated.UTIs.at(i).identifier());
+  }
   return item;
 }
 
@@ -83,30 +86,31 @@ PictureFormats CopyCommand::formats() const {
 
 void CopyCommand::copyPart() {
   const PictureFormats made = formats();
-  writeWhenMade(made, pngOf(made, snapshot()));
+  writeWhenMade(made, snapshot());
 }
 
 void CopyCommand::copyWhole() {
-  const PictureSnapshot shown = snapshot();
+  const PictureSnapshot shown = wholeOf(snapshot());
   if (!shown.imageRep) return beep();
-  writeWhenMade(wholePictureFormats(shown), nullptr);
+  writeWhenMade(wholePictureFormats(shown), shown);
 }
 
-void CopyCommand::writeWhenMade(const PictureFormats& formats, const std::shared_ptr<PromisedData>& png) {
+void CopyCommand::writeWhenMade(const PictureFormats& formats, const PictureSnapshot& shown) {
   stop();  // what was copied last counts
   if (formats.count() == 0) return;
+  const PictureFormats translated = translatedFormats(formats, shown);
   copying_ = formats.cancel;
   number_ = parts_.work().begin(WindowWork::Kind::Copying, localizedString("Copying…"), formats.cancel);
   QPointer<CopyCommand> self(this);
-  madeInBackground(formats, png).then(qApp, [self, formats, png] {
+  madeInBackground(formats, translated).then(qApp, [self, formats, translated, size = shown.rect.size()] {
     if (!self || formats.cancel.cancelled()) return;
     self->copying_.reset();
     self->parts_.work().end(self->number_);
-    self->write(itemOf(formats, png));
+    self->write(itemOf(formats, translated), size);
   });
 }
 
-void CopyCommand::write(const NSPasteboardItem& item) {
+void CopyCommand::write(const NSPasteboardItem& item, const QSizeF& size) {
   QtPasteboard general;
   NSPasteboard& pasteboard = pasteboard_ ? *pasteboard_ : general;
   bool written = false;
@@ -114,7 +118,9 @@ void CopyCommand::write(const NSPasteboardItem& item) {
     pasteboard.clearContents();
     written = pasteboard.writeObjects({item});
   }
-  if (!written)
+  if (written)
+    BriefNote::tell(*parts_.scrollArea(), localizedString("Copied %1 pt").arg(sizeText(size)));
+  else
     parts_.messageBar()->showMessage(
         MessageBar::Kind::Warning,
         localizedString("The picture could not be copied. The clipboard holds what it held before."));

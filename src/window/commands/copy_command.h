@@ -16,8 +16,8 @@ class NSPasteboard;
 class NSPasteboardItem;
 class WindowParts;
 
-/// Makes the formats in the background and puts them on the clipboard in one step. The parts outlive it. Main
-/// thread.
+/// Makes the formats, and what other programs may take instead of them, in the background and puts them on
+/// the clipboard in one step; a note tells the size of what was copied. The parts outlive it. Main thread.
 class CopyCommand final : public QObject {
   Q_OBJECT
  public:
@@ -48,8 +48,8 @@ class CopyCommand final : public QObject {
 
  private:
   void beep() const;
-  void writeWhenMade(const PictureFormats& formats, const std::shared_ptr<PromisedData>& png);
-  void write(const NSPasteboardItem& item);
+  void writeWhenMade(const PictureFormats& formats, const PictureSnapshot& shown);
+  void write(const NSPasteboardItem& item, const QSizeF& size);
 
   WindowParts& parts_;
   NSPasteboard* pasteboard_ = nullptr;

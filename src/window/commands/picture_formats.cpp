@@ -179,9 +179,32 @@ void appendRasterFormats(PictureFormats& formats, const PictureSnapshot& snapsho
                  rasterOfPdf(formats, snapshot, &PictureEncoder::gifData));
 }
 
-std::shared_ptr<PromisedData> pngOf(const PictureFormats& formats, const PictureSnapshot& snapshot) {
-  if (!formats.pdfImageRep) return nullptr;
-  return std::make_shared<PromisedData>(rasterOfPdf(formats, snapshot, &PictureEncoder::pngData));
+PictureFormats translatedFormats(const PictureFormats& offered, const PictureSnapshot& snapshot) {
+  PictureFormats made;
+  made.cancel = offered.cancel;
+  made.pdfImageRep = offered.pdfImageRep;
+  if (offered.count() == 0 || !hasRect(snapshot)) return made;
+  if (offered.indexOf(UTTypeSVG()) < 0)
+    made.append(QString::fromLatin1(ZySVGPboardType), UTTypeSVG(), [snapshot, cancel = offered.cancel] {
+      const QByteArray svg = insideRect(snapshot, cancel, VectorFormat::Svg);
+      return svg.contains("<svg") ? svg : QByteArray();  // an engine that has no SVG may answer with its own
+    });
+  if (offered.indexOf(UTTypePDF()) < 0) appendPdf(made, snapshot);
+  if (offered.indexOf(epsType()) < 0) appendEps(made, snapshot, nullptr);
+  made.append(
+      UTTypePNG().identifier(), UTTypePNG(),
+      made.pdfImageRep ? rasterOfPdf(made, snapshot, &PictureEncoder::pngData)
+                       : [snapshot, cancel = offered.cancel] {
+                           return encoded(snapshot, cancel, &PictureEncoder::pngData, snapshot.imageRep);
+                         });
+  return made;
+}
+
+PictureSnapshot wholeOf(PictureSnapshot snapshot) {
+  const QPointF pivot = snapshot.placement.pivot;
+  snapshot.placement.rotate = 0;
+  snapshot.rect = snapshot.frame = QRectF(-pivot.x(), -pivot.y(), 2 * pivot.x(), 2 * pivot.y());
+  return snapshot;
 }
 
 }  // namespace norvex

@@ -74,8 +74,12 @@ struct PictureFormats {
 /// Adds PNG, JPEG and GIF of the list's PDF format; nothing without one.
 void appendRasterFormats(PictureFormats& formats, const PictureSnapshot& snapshot);
 
-/// PNG of the list's PDF format, for programs that take nothing better; null without one.
-[[nodiscard]] std::shared_ptr<PromisedData> pngOf(const PictureFormats& formats,
-                                                  const PictureSnapshot& snapshot);
+/// The same part of the picture for programs that take none of the `offered` formats: SVG, PDF, EPS and PNG,
+/// those of them that are not offered; nothing where nothing is. Cancelled with `offered`.
+[[nodiscard]] PictureFormats translatedFormats(const PictureFormats& offered,
+                                               const PictureSnapshot& snapshot);
+
+/// The snapshot with the whole, unturned picture in the place of its rectangle.
+[[nodiscard]] PictureSnapshot wholeOf(PictureSnapshot snapshot);
 
 }  // namespace norvex

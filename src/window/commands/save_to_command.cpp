@@ -13,6 +13,7 @@
 #include "base/path_extension.h"
 #include "base/waiting_threads.h"
 #include "desktop/save_panel.h"
+#include "document/document.h"
 #include "encoders/output_check.h"
 #include "types/type_description.h"
 #include "ui/picture/zy_image_view.h"
@@ -73,8 +74,15 @@ void SaveToCommand::run() {
   settings.extensionHidden = true;
   settings.allowsOtherFileTypes = false;
   settings.directoryURL = startFolder();
+  if (parts_.document())
+    settings.ownDirectoryURL =
+        parts_.document()->fileURL().adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
   settings.nameFieldStringValue = parts_.clipName();
   settings.accessoryView = parts_.doSaveToAccessoryView;
+  settings.typed = [sheet, popUp = parts_.doSaveToPopUp](const UTType& type) {
+    const qsizetype row = sheet->formats.indexOf(type);
+    if (row >= 0) popUp->setCurrentIndex(int(row));
+  };
   settings.target = [sheet, popUp = parts_.doSaveToPopUp](const QUrl& url, int) {
     const int row = popUp->currentIndex();
     return row < 0 || row >= sheet->formats.count()

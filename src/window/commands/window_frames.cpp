@@ -75,4 +75,20 @@ void saveTouchBarIsShown(bool shown) {
   settings().setValue(kTouchBar, shown);
 }
 
+bool savedView(const QString& name, bool otherwise) {
+  return settings().value(name, otherwise).toBool();
+}
+
+void saveView(const QString& name, bool on) {
+  settings().setValue(name, on);
+}
+
+QString savedViewText(const QString& name) {
+  return settings().value(name).toString();
+}
+
+void saveViewText(const QString& name, const QString& text) {
+  settings().setValue(name, text);
+}
+
 }  // namespace norvex

@@ -24,4 +24,10 @@ void saveWindowFrame(const QString& autosaveName, const QRect& frame);
 [[nodiscard]] bool savedTouchBarIsShown();
 void saveTouchBarIsShown(bool shown);
 
+/// A choice of what windows show, kept from one to the next; `otherwise` where none was made.
+[[nodiscard]] bool savedView(const QString& name, bool otherwise);
+void saveView(const QString& name, bool on);
+[[nodiscard]] QString savedViewText(const QString& name);
+void saveViewText(const QString& name, const QString& text);
+
 }  // namespace norvex

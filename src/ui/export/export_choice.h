@@ -1,0 +1,39 @@
+// What of a picture is written, and how.
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QSizeF>
+#include <QString>
+
+#include <optional>
+
+#include "types/picture_format.h"
+
+namespace norvex {
+
+/// Page: the shown page, turned as it is shown. Document: every page, as the file has them.
+enum class ExportArea { Selection, Visible, Page, Document };
+
+struct ExportChoice {
+  PictureFormat format = PictureFormat::Png;
+  ExportArea area = ExportArea::Page;
+  double dpi = 144;            ///< pixels an inch, of formats that hold pixels
+  QColor background;           ///< of pixels; invalid: what is not painted stays transparent
+  std::optional<int> quality;  ///< 1 … 100, of formats that can lose some; nothing: the format's own
+  bool operator==(const ExportChoice&) const = default;
+};
+
+/// What there is to choose from.
+struct ExportOffer {
+  struct Area {
+    ExportArea area;
+    QSizeF size;  ///< points
+  };
+  QList<PictureFormat> formats;  ///< at least one
+  QList<Area> areas;             ///< at least one
+  QString folder;                ///< absolute; where the file goes at first
+  QString name;                  ///< proposed, without extension
+};
+
+}  // namespace norvex

@@ -1,0 +1,233 @@
+#include "ui/export/export_options.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QStandardItemModel>
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/localized_string.h"
+#include "display/length_text.h"
+#include "types/type_description.h"
+#include "types/uniform_type.h"
+#include "ui/controls/color_well.h"
+
+namespace norvex {
+namespace {
+
+constexpr double kPointsPerInch = 72;
+constexpr double kLeastDpi = 1, kMostDpi = 4800;
+constexpr int kMostPixels = 100'000;
+constexpr int kUsualQuality = 90;
+
+QString formatTitle(PictureFormat format) {
+  const FormatRow& row = rowOf(format);
+  if (format == PictureFormat::EpsPreview) return localizedString("EPS with TIFF preview");
+  return localizedString(row.title);
+}
+
+/// Exact enough for a number of pixels that was typed, and shown without the decimals of that.
+class ResolutionField final : public QDoubleSpinBox {
+ public:
+  explicit ResolutionField(QWidget* parent) : QDoubleSpinBox(parent) { setDecimals(4); }
+  [[nodiscard]] QString textFromValue(double value) const override {
+    return locale().toString(std::round(value * 10) / 10, 'f', QLocale::FloatingPointShortest);
+  }
+};
+
+const char* areaTitle(ExportArea area) {
+  switch (area) {
+    case ExportArea::Selection:
+      return "Selection";
+    case ExportArea::Visible:
+      return "Visible part";
+    case ExportArea::Page:
+      return "Whole picture";
+    case ExportArea::Document:
+      return "All pages";
+  }
+  return "";
+}
+
+QWidget* inRow(std::initializer_list<QWidget*> widgets, QWidget* parent) {
+  auto* row = new QWidget(parent);
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* widget : widgets) layout->addWidget(widget);
+  layout->addStretch();
+  return row;
+}
+
+}  // namespace
+
+ExportOptions::ExportOptions(const ExportOffer& offer, const ExportChoice& first, QWidget* parent)
+    : QWidget(parent), offer_(offer), form_(new QFormLayout(this)) {
+  form_->setContentsMargins(0, 0, 0, 0);
+  form_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+  addFormats(first);
+  addAreas(first);
+  addPixels(first);
+  addBackground(first);
+  addQuality(first);
+  formatChosen();
+}
+
+void ExportOptions::addFormats(const ExportChoice& first) {
+  formats_ = new QComboBox(this);
+  formats_->setObjectName(QStringLiteral("exportFormat"));
+  for (const PictureFormat each : offer_.formats) formats_->addItem(formatTitle(each));
+  formats_->setCurrentIndex(std::max(0, int(offer_.formats.indexOf(first.format))));
+  formats_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  formats_->setMinimumContentsLength(22);
+  form_->addRow(localizedString("Format:"), formats_);
+  connect(formats_, &QComboBox::currentIndexChanged, this, &ExportOptions::formatChosen);
+}
+
+void ExportOptions::addAreas(const ExportChoice& first) {
+  areas_ = new QComboBox(this);
+  areas_->setObjectName(QStringLiteral("exportArea"));
+  const bool pages = std::any_of(offer_.areas.cbegin(), offer_.areas.cend(),
+                                 [](const auto& each) { return each.area == ExportArea::Document; });
+  int chosen = 0;
+  for (qsizetype i = 0; i < offer_.areas.size(); ++i) {
+    const ExportOffer::Area& each = offer_.areas.at(i);
+    const bool onePage = each.area == ExportArea::Page && pages;
+    const QString title = onePage ? localizedString("This page") : localizedString(areaTitle(each.area));
+    areas_->addItem(each.area == ExportArea::Document
+                        ? title
+                        : QStringLiteral("%1 (%2 pt)").arg(title, sizeText(each.size)));
+    if (each.area == first.area) chosen = int(i);
+  }
+  areas_->setCurrentIndex(chosen);
+  form_->addRow(localizedString("Part:"), areas_);
+  connect(areas_, &QComboBox::currentIndexChanged, this, &ExportOptions::formatChosen);
+}
+
+void ExportOptions::addPixels(const ExportChoice& first) {
+  dpi_ = new ResolutionField(this);
+  dpi_->setObjectName(QStringLiteral("exportDpi"));
+  dpi_->setRange(kLeastDpi, kMostDpi);
+  dpi_->setValue(first.dpi);
+  dpi_->setSuffix(localizedString(" pixels an inch"));
+  wide_ = new QSpinBox(this);
+  wide_->setObjectName(QStringLiteral("exportWidth"));
+  wide_->setAccessibleName(localizedString("Width in pixels"));
+  high_ = new QSpinBox(this);
+  high_->setObjectName(QStringLiteral("exportHeight"));
+  high_->setAccessibleName(localizedString("Height in pixels"));
+  for (QSpinBox* field : {wide_, high_}) {
+    field->setRange(1, kMostPixels);
+    field->setKeyboardTracking(false);  // a number that is being typed is none yet
+  }
+  dpi_->setKeyboardTracking(false);
+  pixels_ = inRow(
+      {wide_, new QLabel(QStringLiteral("×"), this), high_, new QLabel(localizedString("pixels"), this)},
+      this);
+  form_->addRow(localizedString("Resolution:"), dpi_);
+  form_->addRow(localizedString("Size:"), pixels_);
+  connect(dpi_, &QDoubleSpinBox::valueChanged, this, [this] {
+    showPixels();
+    emit changed();
+  });
+  connect(wide_, &QSpinBox::valueChanged, this, [this](int n) { takePixels(n, size().width()); });
+  connect(high_, &QSpinBox::valueChanged, this, [this](int n) { takePixels(n, size().height()); });
+}
+
+void ExportOptions::addBackground(const ExportChoice& first) {
+  filled_ = new QCheckBox(localizedString("Fill with"), this);
+  filled_->setObjectName(QStringLiteral("exportFilled"));
+  filled_->setChecked(first.background.isValid());
+  color_ = new ColorWell(this);
+  color_->setAccessibleName(localizedString("Background"));
+  color_->setColor(first.background.isValid() ? first.background : QColor(Qt::white));
+  color_->setEnabled(filled_->isChecked());
+  ground_ = inRow({filled_, color_}, this);
+  form_->addRow(localizedString("Background:"), ground_);
+  connect(filled_, &QCheckBox::toggled, this, [this](bool on) {
+    color_->setEnabled(on);
+    emit changed();
+  });
+  connect(color_, &ColorWell::colorChosen, this, &ExportOptions::changed);
+}
+
+void ExportOptions::addQuality(const ExportChoice& first) {
+  quality_ = new QSpinBox(this);
+  quality_->setObjectName(QStringLiteral("exportQuality"));
+  quality_->setRange(1, 100);
+  quality_->setKeyboardTracking(false);
+  quality_->setValue(first.quality.value_or(kUsualQuality));
+  lossless_ = new QCheckBox(localizedString("Lossless"), this);
+  lossless_->setObjectName(QStringLiteral("exportLossless"));
+  lossless_->setChecked(!first.quality);
+  losing_ = inRow({quality_, lossless_}, this);
+  form_->addRow(localizedString("Quality:"), losing_);
+  connect(quality_, &QSpinBox::valueChanged, this, &ExportOptions::changed);
+  connect(lossless_, &QCheckBox::toggled, this, &ExportOptions::formatChosen);
+}
+
+PictureFormat ExportOptions::format() const {
+  return offer_.formats.at(std::max(0, formats_->currentIndex()));
+}
+
+QSizeF ExportOptions::size() const {
+  return offer_.areas.at(std::max(0, areas_->currentIndex())).size;
+}
+
+ExportChoice ExportOptions::choice() const {
+  const PictureFormat chosen = format();
+  const int own = rowOf(chosen).quality;
+  ExportChoice choice{.format = chosen,
+                      .area = offer_.areas.at(std::max(0, areas_->currentIndex())).area,
+                      .dpi = dpi_->value(),
+                      .background = filled_->isChecked() ? color_->color() : QColor(),
+                      .quality = std::nullopt};
+  if (own > 0 || (own == Lossless && !lossless_->isChecked())) choice.quality = quality_->value();
+  return choice;
+}
+
+bool ExportOptions::setFormat(PictureFormat format) {
+  const qsizetype at = offer_.formats.indexOf(format);
+  if (at >= 0) formats_->setCurrentIndex(int(at));
+  return at >= 0;
+}
+
+void ExportOptions::formatChosen() {
+  const bool raster = isRaster(format());
+  const int own = rowOf(format()).quality;
+  for (QWidget* row : {static_cast<QWidget*>(dpi_), pixels_, ground_}) form_->setRowVisible(row, raster);
+  form_->setRowVisible(losing_, own != NoQuality);
+  lossless_->setVisible(own == Lossless);
+  allowDocument(format() == PictureFormat::Pdf);
+  quality_->setEnabled(own != Lossless || !lossless_->isChecked());
+  showPixels();
+  emit changed();
+}
+
+void ExportOptions::allowDocument(bool allowed) {
+  for (qsizetype i = 0; i < offer_.areas.size(); ++i) {
+    if (offer_.areas.at(i).area != ExportArea::Document) continue;
+    if (auto* model = qobject_cast<QStandardItemModel*>(areas_->model()))
+      model->item(int(i))->setEnabled(allowed);
+    const QSignalBlocker quiet(areas_);
+    if (!allowed && areas_->currentIndex() == i) areas_->setCurrentIndex(0);
+  }
+}
+
+void ExportOptions::showPixels() {
+  const double scale = dpi_->value() / kPointsPerInch;
+  const QSignalBlocker wide(wide_), high(high_);
+  wide_->setValue(int(std::ceil(size().width() * scale - 1e-6)));
+  high_->setValue(int(std::ceil(size().height() * scale - 1e-6)));
+}
+
+void ExportOptions::takePixels(int pixels, double points) {
+  if (points > 0) dpi_->setValue(pixels * kPointsPerInch / points);
+}
+
+}  // namespace norvex

@@ -1,0 +1,57 @@
+// The controls of an export: format, part of the picture, and what belongs to the format.
+#pragma once
+
+#include <QWidget>
+
+#include "ui/export/export_choice.h"
+
+class QCheckBox;
+class QComboBox;
+class QDoubleSpinBox;
+class QFormLayout;
+class QSpinBox;
+
+namespace norvex {
+
+class ColorWell;
+
+/// Shows the controls that mean something for the format that is chosen. Main thread.
+class ExportOptions final : public QWidget {
+  Q_OBJECT
+ public:
+  /// What `first` chooses and `offer` does not have is the first that it has.
+  ExportOptions(const ExportOffer& offer, const ExportChoice& first, QWidget* parent);
+
+  [[nodiscard]] ExportChoice choice() const;
+  /// False: that format is not offered, and nothing changed.
+  bool setFormat(PictureFormat format);
+  /// Of the chosen part; points.
+  [[nodiscard]] QSizeF size() const;
+
+ signals:
+  void changed();
+
+ private:
+  void addFormats(const ExportChoice& first);
+  void addAreas(const ExportChoice& first);
+  void addPixels(const ExportChoice& first);
+  void addBackground(const ExportChoice& first);
+  void addQuality(const ExportChoice& first);
+  [[nodiscard]] PictureFormat format() const;
+  void formatChosen();
+  /// Only a PDF holds several pages.
+  void allowDocument(bool allowed);
+  void showPixels();
+  void takePixels(int pixels, double points);
+
+  ExportOffer offer_;
+  QFormLayout* form_;
+  QComboBox *formats_, *areas_;
+  QDoubleSpinBox* dpi_;
+  QSpinBox *wide_, *high_, *quality_;
+  QWidget *pixels_, *ground_, *losing_;
+  QCheckBox *filled_, *lossless_;
+  ColorWell* color_;
+};
+
+}  // namespace norvex

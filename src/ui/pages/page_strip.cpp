@@ -1,0 +1,104 @@
+#include "ui/pages/page_strip.h"
+
+#include <QPainter>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include <cstdlib>
+#include <limits>
+
+#include "base/localized_string.h"
+
+namespace norvex {
+namespace {
+
+constexpr int kRoom = 20;  // logical pixels below a thumbnail, for its number
+
+/// On paper of its own, as pages have no background.
+QPixmap onPaper(const QImage& image, double ratio) {
+  QPixmap made((QSizeF(PageStrip::side, PageStrip::side) * ratio).toSize());
+  made.setDevicePixelRatio(ratio);
+  made.fill(Qt::transparent);
+  QPainter painter(&made);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  const QRectF room(0.5, 0.5, PageStrip::side - 1, PageStrip::side - 1);
+  QRectF page(QPointF(), QSizeF(image.size()).scaled(room.size(), Qt::KeepAspectRatio));
+  page.moveCenter(room.center());
+  painter.fillRect(page, Qt::white);
+  painter.drawImage(page, image);
+  painter.setPen(QColor(0, 0, 0, 70));
+  painter.drawRect(page);
+  return made;
+}
+
+}  // namespace
+
+PageStrip::PageStrip(QWidget* parent) : QListWidget(parent) {
+  setObjectName(QStringLiteral("pageStrip"));
+  setAccessibleName(localizedString("Pages"));
+  setViewMode(QListView::IconMode);
+  setFlow(QListView::TopToBottom);
+  setWrapping(false);
+  setMovement(QListView::Static);
+  setResizeMode(QListView::Adjust);
+  setUniformItemSizes(true);
+  setIconSize({side, side});
+  setGridSize({side + 16, side + kRoom + 8});
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setMinimumWidth(side + 36);
+  connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) emit pageChosen(row);
+  });
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &PageStrip::scrolled);
+}
+
+void PageStrip::setCount(int count) {
+  const QSignalBlocker quiet(this);
+  clear();
+  made_.fill(false, count);
+  QPixmap blank(side, side);
+  blank.fill(Qt::transparent);
+  for (int page = 0; page < count; ++page) {
+    auto* item = new QListWidgetItem(QIcon(blank), QString::number(page + 1), this);
+    item->setTextAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    item->setData(Qt::AccessibleTextRole, localizedString("Page %1").arg(page + 1));
+  }
+}
+
+void PageStrip::setShownPage(int page) {
+  const QSignalBlocker quiet(this);
+  setCurrentRow(page);
+  if (QListWidgetItem* shown = item(page)) scrollToItem(shown);
+}
+
+void PageStrip::setThumbnail(int page, const QImage& image) {
+  if (page < 0 || page >= made_.size()) return;
+  made_[page] = true;
+  if (!image.isNull()) item(page)->setIcon(QIcon(onPaper(image, devicePixelRatioF())));
+}
+
+int PageStrip::nextWanted() const {
+  const int height = gridSize().height();
+  const int middle = (verticalScrollBar()->value() + viewport()->height() / 2) / height;
+  int best = -1, distance = std::numeric_limits<int>::max();
+  for (int page = 0; page < made_.size(); ++page) {
+    if (made_.at(page) || std::abs(page - middle) >= distance) continue;
+    best = page;
+    distance = std::abs(page - middle);
+  }
+  return best;
+}
+
+void PageStrip::showEvent(QShowEvent* event) {
+  QListWidget::showEvent(event);
+  emit scrolled();
+}
+
+void PageStrip::resizeEvent(QResizeEvent* event) {
+  QListWidget::resizeEvent(event);
+  emit scrolled();
+}
+
+}  // namespace norvex

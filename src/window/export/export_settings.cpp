@@ -1,0 +1,52 @@
+#include "window/export/export_settings.h"
+
+#include <QDir>
+#include <QSettings>
+
+#include <algorithm>
+
+#include "base/latin1_text.h"
+
+namespace norvex {
+namespace {
+
+QSettings settings() {
+  QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
+  if (!QDir::isAbsolutePath(folder)) folder = QDir::homePath() + QStringLiteral("/.config");
+  return QSettings(folder + QStringLiteral("/norvex/export.ini"), QSettings::IniFormat);
+}
+
+constexpr double kLeastDpi = 1, kMostDpi = 4800;
+
+}  // namespace
+
+ExportChoice storedExportChoice() {
+  const QSettings stored = settings();
+  ExportChoice choice;
+  if (const auto format = formatNamed(stored.value(QStringLiteral("format")).toString().toStdString()))
+    choice.format = *format;
+  bool ok = false;
+  const double dpi = stored.value(QStringLiteral("pixelsPerInch")).toDouble(&ok);
+  if (ok && dpi >= kLeastDpi && dpi <= kMostDpi) choice.dpi = dpi;
+  choice.background = QColor(stored.value(QStringLiteral("background")).toString());
+  const int quality = stored.value(QStringLiteral("quality")).toInt(&ok);
+  if (ok && quality >= 1 && quality <= 100) choice.quality = quality;
+  return choice;
+}
+
+void storeExportChoice(const ExportChoice& choice) {
+  QSettings stored = settings();
+  stored.setValue(QStringLiteral("format"), QString(latin1(rowOf(choice.format).name)));
+  if (isRaster(choice.format)) {
+    stored.setValue(QStringLiteral("pixelsPerInch"), choice.dpi);
+    stored.setValue(QStringLiteral("background"),
+                    choice.background.isValid() ? choice.background.name(QColor::HexArgb) : QString());
+  }
+  if (rowOf(choice.format).quality == NoQuality) return;
+  if (choice.quality)
+    stored.setValue(QStringLiteral("quality"), *choice.quality);
+  else
+    stored.remove(QStringLiteral("quality"));
+}
+
+}  // namespace norvex

@@ -1,0 +1,87 @@
+#include "window/export/exported_picture.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/localized_string.h"
+#include "display/picture_geometry.h"
+#include "encoders/encoded_picture.h"
+#include "encoders/output_check.h"
+#include "picture/bitmap_image.h"
+
+namespace norvex {
+namespace {
+
+constexpr double kPointsPerInch = 72;
+
+/// The snapshot's rectangle about the centre of the representation; nothing where that is the whole picture
+/// as it stands, which a source may be handed on for.
+std::optional<PictureRegion> regionOf(const PictureSnapshot& snapshot, ExportArea area) {
+  if (area == ExportArea::Document) return std::nullopt;
+  if (area == ExportArea::Page && snapshot.placement.rotate == 0) return std::nullopt;
+  const QSizeF page = snapshot.imageRep->size();
+  const double s = std::sin(snapshot.placement.rotate), c = std::cos(snapshot.placement.rotate);
+  const QPointF offset = snapshot.placement.pivot - QPointF(page.width() * 0.5, page.height() * 0.5);
+  const QPointF shift(c * offset.x() - s * offset.y(), s * offset.x() + c * offset.y());
+  return PictureRegion{snapshot.rect.translated(shift), snapshot.placement.rotate};
+}
+
+bool hasPages(const NSImageRep& rep) {
+  const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&rep);
+  return pdf && pdf->pageCount() > 1;
+}
+
+/// Formats that the platform reads with what it always brings.
+bool isReadHere(PictureFormat format) {
+  return format == PictureFormat::Png || format == PictureFormat::Jpeg || format == PictureFormat::Gif;
+}
+
+QImage fitted(const QImage& image, int side) {
+  return image.width() <= side && image.height() <= side
+             ? image
+             : image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+}  // namespace
+
+ExportedPicture exportedPicture(const PictureSnapshot& snapshot, const ExportChoice& choice,
+                                const CancelToken& cancel) {
+  EncoderSurroundings surroundings = snapshot.surroundings;
+  surroundings.raster = {choice.dpi, choice.background};
+  surroundings.quality = choice.quality;
+  surroundings.region = regionOf(snapshot, choice.area);
+  surroundings.onePage = choice.area != ExportArea::Document && hasPages(*snapshot.imageRep);
+  surroundings.subjectMayBeLeftOut = true;
+  PictureEncoder encoder(snapshot.imageRep, surroundings, cancel);
+  ExportedPicture made;
+  made.bytes = encodedPicture(encoder, choice.format);
+  made.remarks = encoder.report().warnings;
+  made.error = encoder.report().error;
+  if (made.bytes.isEmpty()) {
+    if (!made.error)
+      made.error =
+          Error{ErrorKind::Unsupported, localizedString("The picture cannot be written in this format")};
+  } else if (const auto good = checkOutput(made.bytes); !good) {
+    made.error = good.error();
+    made.bytes.clear();
+  }
+  return made;
+}
+
+QImage previewOf(const ExportedPicture& exported, const PictureSnapshot& snapshot, const ExportChoice& choice,
+                 int side, const CancelToken& cancel) {
+  if (exported.bytes.isEmpty()) return {};
+  if (isReadHere(choice.format)) {
+    const QImage read = QImage::fromData(exported.bytes);
+    if (!read.isNull()) return fitted(read, side);
+  }
+  const auto region = regionOf(snapshot, choice.area);
+  const auto image = docRasterImage(snapshot.imageRep, region);
+  if (!image) return {};
+  const double longest = std::max({image->size().width(), image->size().height(), 1e-3});
+  const QColor ground = isRaster(choice.format) ? choice.background : QColor();
+  const auto drawn = image->bitmap({side * kPointsPerInch / longest, ground}, cancel);
+  return drawn ? toImage(*drawn) : QImage();
+}
+
+}  // namespace norvex

@@ -1,0 +1,173 @@
+// The Export dialog: what follows what, and what it asks for.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QStandardItemModel>
+
+#include "kit/test_main.h"
+#include "ui/export/export_dialog.h"
+
+using namespace norvex;
+
+namespace {
+
+ExportOffer offer() {
+  ExportOffer made;
+  for (const FormatRow& row : formatTable)
+    if (isWritten(row)) made.formats << row.id;
+  made.areas = {
+      {ExportArea::Selection, {40, 30}}, {ExportArea::Page, {200, 100}}, {ExportArea::Document, {200, 100}}};
+  made.folder = "/pictures";
+  made.name = "Map 1.5";
+  return made;
+}
+
+struct Shown {
+  explicit Shown(const ExportChoice& first = {}) : dialog(nullptr, offer(), first) {}
+  template <typename Widget>
+  Widget* find(const char* name) {
+    return dialog.findChild<Widget*>(QLatin1String(name));
+  }
+  void choose(PictureFormat format) {
+    find<QComboBox>("exportFormat")->setCurrentIndex(int(offer().formats.indexOf(format)));
+  }
+  void type(const QString& name) {
+    find<QLineEdit>("exportName")->clear();
+    QTest::keyClicks(find<QLineEdit>("exportName"), name);
+  }
+  ExportDialog dialog;
+};
+
+}  // namespace
+
+class ExportDialogTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void theExtensionFollowsTheFormat() {
+    Shown f;
+    QCOMPARE(f.dialog.path(), QString("/pictures/Map 1.5.png"));
+    f.choose(PictureFormat::Jpeg);
+    QCOMPARE(f.dialog.path(), QString("/pictures/Map 1.5.jpg"));
+    f.choose(PictureFormat::EpsPreview);
+    QCOMPARE(f.dialog.path(), QString("/pictures/Map 1.5.eps"));
+  }
+
+  void aTypedExtensionChoosesTheFormat() {
+    Shown f;
+    f.type("out2.svg");
+    QCOMPARE(f.dialog.choice().format, PictureFormat::Svg);
+    f.type("out2.jpeg");
+    QCOMPARE(f.dialog.choice().format, PictureFormat::Jpeg);
+    QCOMPARE(f.dialog.path(), QString("/pictures/out2.jpeg"));  // as good as .jpg
+    f.choose(PictureFormat::EpsPreview);
+    f.type("out2.eps");
+    QCOMPARE(f.dialog.choice().format, PictureFormat::EpsPreview);  // it is named so, too
+    f.type("out2.xyz");
+    QCOMPARE(f.dialog.path(), QString("/pictures/out2.xyz.eps"));
+  }
+
+  void withoutANameNothingIsExported() {
+    Shown f;
+    f.type("  ");
+    QVERIFY(f.dialog.path().isEmpty());
+    QVERIFY(!f.find<QPushButton>("exportButton")->isEnabled());
+    f.type("a");
+    QVERIFY(f.find<QPushButton>("exportButton")->isEnabled());
+  }
+
+  void pixelsFollowTheResolutionAndTheOtherWay() {
+    Shown f;
+    f.find<QComboBox>("exportArea")->setCurrentIndex(0);  // 40 × 30 points at 144
+    QCOMPARE(f.find<QSpinBox>("exportWidth")->value(), 80);
+    QCOMPARE(f.find<QSpinBox>("exportHeight")->value(), 60);
+    f.find<QSpinBox>("exportWidth")->setValue(1000);
+    QCOMPARE(f.find<QSpinBox>("exportWidth")->value(), 1000);
+    QCOMPARE(f.find<QSpinBox>("exportHeight")->value(), 750);
+    QCOMPARE(f.dialog.choice().dpi, 1800.0);
+    f.find<QComboBox>("exportArea")->setCurrentIndex(1);
+    QCOMPARE(f.find<QSpinBox>("exportWidth")->value(), 5000);
+  }
+
+  void onlyWhatMeansSomethingIsShown() {
+    Shown f;
+    const auto shown = [&] {
+      return QList<bool>{!f.find<QDoubleSpinBox>("exportDpi")->isHidden(),
+                         !f.find<QSpinBox>("exportQuality")->parentWidget()->isHidden(),
+                         !f.find<QCheckBox>("exportLossless")->isHidden()};
+    };
+    f.choose(PictureFormat::Pdf);
+    QCOMPARE(shown(), (QList<bool>{false, false, false}));
+    f.choose(PictureFormat::Png);
+    QCOMPARE(shown(), (QList<bool>{true, false, false}));
+    f.choose(PictureFormat::Jpeg);
+    QCOMPARE(shown(), (QList<bool>{true, true, false}));
+    f.choose(PictureFormat::Webp);
+    QCOMPARE(shown(), (QList<bool>{true, true, true}));
+  }
+
+  void qualityIsAskedForWhereThereIsOne() {
+    Shown f;
+    QVERIFY(!f.dialog.choice().quality);
+    f.choose(PictureFormat::Jpeg);
+    QCOMPARE(f.dialog.choice().quality, std::optional<int>(90));
+    f.choose(PictureFormat::Webp);
+    QVERIFY(!f.dialog.choice().quality);
+    f.find<QCheckBox>("exportLossless")->setChecked(false);
+    f.find<QSpinBox>("exportQuality")->setValue(60);
+    QCOMPARE(f.dialog.choice().quality, std::optional<int>(60));
+  }
+
+  void allPagesGoIntoAPdfOnly() {
+    Shown f;
+    auto* areas = f.find<QComboBox>("exportArea");
+    const auto* model = qobject_cast<QStandardItemModel*>(areas->model());
+    QVERIFY(!model->item(2)->isEnabled());
+    f.choose(PictureFormat::Pdf);
+    QVERIFY(model->item(2)->isEnabled());
+    areas->setCurrentIndex(2);
+    QCOMPARE(f.dialog.choice().area, ExportArea::Document);
+    f.choose(PictureFormat::Png);
+    QCOMPARE(f.dialog.choice().area, ExportArea::Selection);
+  }
+
+  void whatIsChosenIsTold() {
+    Shown f;
+    QSignalSpy changed(&f.dialog, &ExportDialog::changed);
+    f.find<QDoubleSpinBox>("exportDpi")->setValue(300);
+    f.find<QCheckBox>("exportFilled")->setChecked(true);
+    QCOMPARE(changed.size(), 2);
+    QCOMPARE(f.dialog.choice().dpi, 300.0);
+    QCOMPARE(f.dialog.choice().background, QColor(Qt::white));
+  }
+
+  void theLastChoiceIsTheFirst() {
+    const ExportChoice first{.format = PictureFormat::Webp,
+                             .area = ExportArea::Page,
+                             .dpi = 96,
+                             .background = Qt::red,
+                             .quality = 40};
+    QCOMPARE(Shown(first).dialog.choice(), first);
+    ExportChoice other = first;
+    other.format = PictureFormat::Illustrator;  // cannot be written
+    QCOMPARE(Shown(other).dialog.choice().format, PictureFormat::Eps);
+  }
+
+  void whatCannotBeMadeIsNotExported() {
+    Shown f;
+    f.dialog.showProblem("Only an SVG picture can be written as SVG.");
+    QVERIFY(!f.find<QPushButton>("exportButton")->isEnabled());
+    QCOMPARE(f.find<QLabel>("exportRemarks")->text(), QString("Only an SVG picture can be written as SVG."));
+    f.dialog.showMade(QImage(4, 4, QImage::Format_RGB32), 2300, {});
+    QVERIFY(f.find<QPushButton>("exportButton")->isEnabled());
+    QCOMPARE(f.find<QLabel>("exportExpected")->text(), QString("File size: 2.2 KiB"));
+    QVERIFY(f.find<QLabel>("exportRemarks")->isHidden());
+  }
+};
+
+NORVEX_TEST(ExportDialogTest)
+#include "export_dialog_test.moc"

@@ -1,0 +1,166 @@
+// Several pages: what is shown is what every command acts on.
+#include <QAction>
+#include <QDockWidget>
+#include <QScrollBar>
+#include <QSpinBox>
+
+#include "desktop/memory_pasteboard.h"
+#include "kit/test_main.h"
+#include "ui/controls/number_matrix.h"
+#include "ui/pages/page_strip.h"
+#include "ui/pages/page_switch.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "window/viewing/pages_command.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+/// Three pages: 200 × 100, 300 × 400 at (10, 20), and one without area.
+class PagesFixture : public WindowFixture {
+ public:
+  explicit PagesFixture(int pages = 3) : c(made(pages)), pages(*c.findChild<PagesCommand*>()) {}
+  MainWindowController& made(int count) {
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(10, 20, 300, 400), QRectF()};
+    picture.facts.pageBounds.resize(count);
+    picture.facts.pageCount = count;
+    service.setPicture(picture);
+    MainWindowController& opened = open(emptyPdf({200, 100}), "a.pdf", "com.adobe.pdf");
+    opened.window();
+    opened.windowDidLoad();
+    return opened;
+  }
+  [[nodiscard]] QAction* action(const char* name) const {
+    return c.window()->findChild<QAction*>(QString::fromLatin1(name));
+  }
+  [[nodiscard]] PageSwitch* pageSwitch() const { return c.window()->findChild<PageSwitch*>(); }
+
+  MainWindowController& c;
+  PagesCommand& pages;
+};
+
+}  // namespace
+
+class PagesTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void anotherPageTakesThePlaceOfTheShownOne() {
+    PagesFixture f;
+    QCOMPARE(f.pages.count(), 3);
+    f.action("nextPageAction")->trigger();
+    QCOMPARE(f.pages.shown(), 1);
+    QCOMPARE(f.c.view()->imageRep()->page(), 1);
+    QCOMPARE(f.c.view()->imageSize(), QSizeF(300, 400));
+    QCOMPARE(f.c.view()->bounds(), QRectF(-150, -200, 300, 400));
+    QCOMPARE(f.c.epsMatrix->text(1, 0).toDouble(), 20.0);
+    QCOMPARE(f.pageSwitch()->numberField()->value(), 2);
+    f.action("previousPageAction")->trigger();
+    QCOMPARE(f.pages.shown(), 0);
+    QCOMPARE(f.c.view()->imageSize(), QSizeF(200, 100));
+  }
+
+  void angleAndZoomStay() {
+    PagesFixture f;
+    f.c.rotateChange(90);
+    f.c.setZoomFactor(2);
+    f.pages.show(1);
+    QCOMPARE(f.c.view()->bounds().size(), QSizeF(400, 300));
+    QCOMPARE(f.c.zoomFactor(), 2.0);
+  }
+
+  void aSelectionOfAnotherPageGoes() {
+    PagesFixture f;
+    f.c.view()->selectBounds();
+    f.pages.show(1);
+    QCOMPARE(f.c.view()->selectRect().width(), 0.0);
+  }
+
+  void whatIsCopiedIsOfTheShownPage() {
+    PagesFixture f;
+    MemoryPasteboard pasteboard;
+    f.c.setPasteboard(&pasteboard);
+    f.pages.show(1);
+    const auto process = f.service.lastProcess();
+    QSignalSpy copied(&f.c, &MainWindowController::copied);
+    f.c.doCopy();
+    QVERIFY(!copied.isEmpty() || copied.wait(20000));
+    for (const ComposeRequest& request : process->composeRequests()) QCOMPARE(request.page, 1);
+  }
+
+  void aPageWithoutAreaStaysUnshown() {
+    PagesFixture f;
+    f.pages.show(2);
+    QCOMPARE(f.pages.shown(), 0);
+    QCOMPARE(f.pageSwitch()->numberField()->value(), 1);
+    f.pages.show(7);
+    f.pages.show(-1);
+    QCOMPARE(f.pages.shown(), 0);
+  }
+
+  void aTypedNumberIsGoneTo() {
+    PagesFixture f(2);
+    f.pageSwitch()->numberField()->setValue(2);
+    QCOMPARE(f.pages.shown(), 1);
+    QVERIFY(!f.action("nextPageAction")->isEnabled());
+    QVERIFY(f.action("previousPageAction")->isEnabled());
+  }
+
+  void onePageShowsNothingOfPages() {
+    PagesFixture f(1);
+    QVERIFY(f.pageSwitch()->isHidden());
+    for (const char* name :
+         {"nextPageAction", "previousPageAction", "goToPageAction", "pageThumbnailsAction"})
+      QVERIFY(!f.action(name)->isEnabled());
+    QVERIFY(!f.c.window()->findChild<QDockWidget*>("pagesDock")->isVisible());
+  }
+
+  void pageKeysGoOnWhereAPageEnds() {
+    PagesFixture f(2);
+    f.c.window()->show();
+    QScrollBar* bar = f.c.scrollArea()->verticalBar();
+    bar->setValue(bar->maximum());
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_PageDown);
+    QCOMPARE(f.pages.shown(), 1);
+    f.c.setZoomFactor(4);  // now there is more below: the key scrolls
+    bar->setValue(0);
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_PageDown);
+    QCOMPARE(f.pages.shown(), 1);
+    QVERIFY(bar->value() > 0);
+    bar->setValue(0);
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_PageUp);
+    QCOMPARE(f.pages.shown(), 0);
+  }
+
+  void theStripShowsThumbnailsAndIsRemembered() {
+    PagesFixture f(2);
+    f.c.window()->show();
+    auto* strip = f.c.window()->findChild<PageStrip*>();
+    QVERIFY(!strip->isVisible());
+    f.action("pageThumbnailsAction")->trigger();
+    QVERIFY(strip->isVisible());
+    QCOMPARE(strip->count(), 2);
+    QTRY_COMPARE(strip->nextWanted(), -1);  // every page has its picture
+    QSet<int> drawn;
+    for (const RenderRequest& request : f.service.lastProcess()->renderRequests())
+      if (request.purpose == RenderPurpose::Preview) drawn << request.page;
+    QVERIFY(drawn.contains(0) && drawn.contains(1));
+    strip->setCurrentRow(1);
+    QCOMPARE(f.pages.shown(), 1);
+    QFile stored(f.folder.filePath("norvex/windows.ini"));
+    QVERIFY(stored.open(QIODevice::ReadOnly));
+    QVERIFY(stored.readAll().contains("pages=true"));
+  }
+
+  void reloadingBeginsWithTheFirstPage() {
+    PagesFixture f(2);
+    f.pages.show(1);
+    f.revert();
+    QCOMPARE(f.pages.shown(), 0);
+    QCOMPARE(f.pageSwitch()->numberField()->value(), 1);
+  }
+};
+
+NORVEX_TEST(PagesTest)
+#include "pages_test.moc"

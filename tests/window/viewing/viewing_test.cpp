@@ -1,0 +1,136 @@
+// Where the pointer is, how large the selection is, and the picture alone on the screen.
+#include <QAction>
+#include <QLocale>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "kit/test_main.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "window/viewing/pointer_readout.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+struct Shown {
+  explicit Shown(bool svg = false)
+      : c(svg ? fixture.loaded("<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100'/>", "a.svg",
+                               "public.svg-image")
+              : fixture.loadedEps()) {
+    QLocale::setDefault(QLocale::c());
+    c.window()->show();
+  }
+  /// A point of the view, its centre being (0, 0).
+  void pointAt(const QPointF& point) {
+    const QPointF at = c.viewWidget()->fromView(point);
+    QMouseEvent move(QEvent::MouseMove, at, c.viewWidget()->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(c.viewWidget(), &move);
+  }
+  [[nodiscard]] QToolButton* field() const { return c.findChild<PointerReadout*>()->field(); }
+  [[nodiscard]] QString readout() const { return field()->text(); }
+
+  WindowFixture fixture;
+  MainWindowController& c;
+};
+
+}  // namespace
+
+class ViewingTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void thePointersPlaceIsToldInPictureCoordinates() {
+    Shown f;
+    QCOMPARE(f.readout(), QString("pt"));
+    f.pointAt({0, 0});
+    QCOMPARE(f.readout(), QString("100, 50 pt"));
+    f.pointAt({-40, 20});
+    QCOMPARE(f.readout(), QString("60, 70 pt"));
+    f.c.rotateChange(90);
+    f.pointAt({-20, 60});  // the picture point (60, -20) from the centre
+    QCOMPARE(f.readout(), QString("160, 70 pt"));
+    f.pointAt({-60, 0});  // beside the picture
+    QCOMPARE(f.readout(), QString("pt"));
+  }
+
+  void anSvgIsCountedFromItsTop() {
+    Shown f(true);
+    if (!f.c.dialKnobClockwise()) QSKIP("this picture does not count from its top");
+    f.pointAt({-40, 20});
+    QCOMPARE(f.readout(), QString("60, 30 pt"));
+  }
+
+  void aClickChangesTheUnitWhichIsRemembered() {
+    Shown f;
+    f.pointAt({-28, 22});  // (72, 72)
+    QStringList shown;
+    for (int i = 0; i < 4; ++i) {
+      f.field()->click();
+      shown << f.readout();
+    }
+    QCOMPARE(shown, (QStringList{"25.4, 25.4 mm", "1, 1 in", "6, 6 pc", "72, 72 pt"}));
+    f.field()->click();
+    QFile stored(f.fixture.folder.filePath("norvex/windows.ini"));
+    QVERIFY(stored.open(QIODevice::ReadOnly));
+    QVERIFY(stored.readAll().contains("unit=mm"));
+  }
+
+  void theSelectionCarriesItsSize() {
+    Shown f;
+    f.c.view()->selectBounds();
+    f.c.view()->resizeSelection({-100, -40});
+    const QImage with = f.c.viewWidget()->grab().toImage();
+    f.field()->click();  // written in another unit
+    const QImage other = f.c.viewWidget()->grab().toImage();
+    QVERIFY(with != other);
+    f.c.view()->clearSelectRect();
+    QVERIFY(f.c.viewWidget()->grab().toImage() != other);
+  }
+
+  void fullScreenShowsThePictureAlone() {
+    Shown f;
+    auto* action = f.c.window()->findChild<QAction*>("fullScreenAction");
+    action->trigger();
+    QTRY_VERIFY(f.c.window()->isFullScreen());
+    QTRY_COMPARE(f.c.viewWidget()->size(), f.c.window()->size());
+    QVERIFY(!f.c.toolbar->isVisible() && !f.c.scrollArea()->horizontalBar()->isVisible());
+    QVERIFY(action->isChecked());
+    // The menus' keys are still there.
+    QTest::keyClick(f.c.window(), Qt::Key_A, Qt::ControlModifier);
+    QTRY_VERIFY(f.c.view()->selectRect().width() > 0);
+    QTest::keyClick(f.c.window(), Qt::Key_Escape);  // is for the selection first
+    QTRY_COMPARE(f.c.view()->selectRect().width(), 0.0);
+    QVERIFY(f.c.window()->isFullScreen());
+    QTest::keyClick(f.c.window(), Qt::Key_Escape);
+    QTRY_VERIFY(!f.c.window()->isFullScreen());
+    QVERIFY(f.c.toolbar->isVisible() && f.c.scrollArea()->horizontalBar()->isVisible());
+    QVERIFY(f.c.menuBar->height() > 0);
+  }
+
+  void theUpperEdgeBringsTheBars() {
+    Shown f;
+    f.c.window()->findChild<QAction*>("fullScreenAction")->trigger();
+    QTRY_VERIFY(f.c.window()->isFullScreen());
+    const auto pointAtRow = [&](int y) {
+      const QPointF at(50, y);
+      QMouseEvent move(QEvent::MouseMove, f.c.viewWidget()->mapFromGlobal(f.c.window()->mapToGlobal(at)),
+                       f.c.window()->mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+      QCoreApplication::sendEvent(f.c.viewWidget(), &move);
+    };
+    pointAtRow(200);
+    QVERIFY(!f.c.toolbar->isVisible());
+    pointAtRow(0);
+    QVERIFY(f.c.toolbar->isVisible());
+    pointAtRow(f.c.window()->height() - 5);
+    QVERIFY(!f.c.toolbar->isVisible());
+  }
+};
+
+NORVEX_TEST(ViewingTest)
+#include "viewing_test.moc"

@@ -41,6 +41,8 @@ ExitCode Job::dispatch(const Arguments& arguments) {
       return print(arguments);
     case Command::Status:
       return archive(arguments);
+    case Command::Thumbnail:
+      return thumbnail(arguments);
     case Command::Main:
       break;  // windows are not opened here
   }

@@ -49,6 +49,7 @@ class Job {
   ExitCode info(const Arguments& arguments);
   ExitCode source(const Arguments& arguments);
   ExitCode preview(const Arguments& arguments);
+  ExitCode thumbnail(const Arguments& arguments);
   ExitCode convert(const Arguments& arguments);
   ExitCode reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions);
   /// Tells what became of one file; of one that goes to standard output, writes it.

@@ -5,27 +5,11 @@
 #include "base/atomic_file.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
-#include "metadata/eps_header.h"
-#include "metadata/other_preview.h"
+#include "cli/previews/embedded_preview.h"
 #include "picture/bitmap_image.h"
 
 namespace norvex {
 namespace {
-
-/// What stands in the file as a preview; nothing when there is none.
-Result<std::optional<NSBitmapImageRep>> embeddedPreview(PictureService& service, const QByteArray& bytes) {
-  std::optional<Error> unreadable;
-  const HeaderDictionary dictionary =
-      epsHeader(bytes, [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
-        Result<NSBitmapImageRep> preview = service.decodePreview(tiff);
-        if (preview) return *preview;
-        unreadable = preview.error();
-        return std::nullopt;
-      });
-  if (unreadable) return *unreadable;
-  if (!dictionary.contains(header::Preview)) return otherPreview(bytes);
-  return std::optional(dictionary.value(header::Preview).value<NSBitmapImageRep>());
-}
 
 /// Grey stays grey. Empty for samples that cannot be shown.
 QByteArray pngOf(const NSBitmapImageRep& rep) {

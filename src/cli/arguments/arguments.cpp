@@ -34,8 +34,11 @@ QCommandLineOption parserOption(const OptionRow& row) {
 }
 
 QString wrongNumberOfFiles(const CommandRow& row, qsizetype count) {
+  if (count > 0 && count < row.fewestFiles) return QStringLiteral("no output is given");
   if (count < row.fewestFiles) return QStringLiteral("no file is given");
-  if (row.mostFiles >= 0 && count > row.mostFiles) return QStringLiteral("only one file can be given");
+  if (row.mostFiles >= 0 && count > row.mostFiles)
+    return row.mostFiles == 1 ? QStringLiteral("only one file can be given")
+                              : QStringLiteral("one file and one output can be given");
   return {};
 }
 
@@ -173,6 +176,7 @@ ReadArguments readArguments(const QStringList& given) {
 }
 
 bool asksForCommandLine(const QString& first) {
+  if (asksForDesktopService(first.toStdString())) return false;
   if (commandOf(first)) return true;
   for (const OptionRow& row : optionsOf(Command::Main))
     if (row.letter && first == QStringLiteral("-") + QLatin1Char(row.letter)) return true;

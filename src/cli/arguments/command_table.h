@@ -12,7 +12,7 @@
 
 namespace norvex {
 
-enum class Command { Main, Info, Source, Preview, Convert, Print, Status };
+enum class Command { Main, Info, Source, Preview, Convert, Print, Status, Thumbnail };
 
 /// What follows a command besides options.
 struct CommandRow {
@@ -66,6 +66,9 @@ enum class Option {
   ShardBy,
   Report,
   Merge,
+  Size,
+  Uri,
+  DBusService,
 };
 
 /// Bits of commands.
@@ -73,7 +76,7 @@ using Commands = unsigned;
 [[nodiscard]] constexpr Commands only(Command command) {
   return 1u << unsigned(command);
 }
-inline constexpr Commands everyCommand = (only(Command::Status) << 1) - 1;
+inline constexpr Commands everyCommand = (only(Command::Thumbnail) << 1) - 1;
 /// Those that have a picture process open a document.
 inline constexpr Commands openingCommands =
     only(Command::Info) | only(Command::Source) | only(Command::Convert) | only(Command::Print);
@@ -105,6 +108,7 @@ inline constexpr auto commandTable = std::to_array<CommandRow>({
     {Command::Print, "print", "FILE (--printer NAME | -o OUT.pdf)", 1, 1, false,
      "print the picture, as vectors"},
     {Command::Status, "status", "STATE", 1, -1, true, "tell how far a run with --state has come"},
+    {Command::Thumbnail, "thumbnail", "FILE OUT", 2, 2, true, "write a small PNG, as file managers show it"},
 });
 
 inline constexpr auto optionTable = std::to_array<OptionRow>({
@@ -167,10 +171,15 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
      "write what the state holds: .html for people, .jsonl for programs"},
     {Option::Merge, only(Command::Status), 0, "merge", "STATE", "",
      "take what another state holds into this one; may be given more than once", true},
+    {Option::Size, only(Command::Thumbnail), 's', "size", "N", "", "pixels of the longer side (128)"},
+    {Option::Uri, only(Command::Thumbnail), 0, "uri", "URI", "",
+     "the file's address, which is noted in the PNG with the time of its last change"},
     {Option::SandboxStatus, only(Command::Main), 0, "sandbox-status", "", "",
      "show how picture processes are confined"},
     {Option::Completion, only(Command::Main), 0, "completion", "SHELL", "bash zsh fish",
      "write a completion script for a shell"},
+    {Option::DBusService, only(Command::Main), 0, "dbus-service", "", "",
+     "wait for the files that the desktop sends (the session bus starts it so)"},
     {Option::Version, only(Command::Main), 'v', "version", "", "", "show the version"},
     {Option::Help, everyCommand, 'h', "help", "", "", "show this help"},
 });
@@ -207,11 +216,16 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
   return own;
 }
 
+/// Whether `first`, the first argument, makes a program with windows that shows none before it is asked to.
+[[nodiscard]] constexpr bool asksForDesktopService(std::string_view first) {
+  return first.starts_with("--") && first.substr(2) == rowOf(Option::DBusService).name;
+}
+
 /// Whether a run whose first argument is `first` takes neither windows nor printers: it is a light command,
 /// or an option about the program itself.
 [[nodiscard]] constexpr bool asksForLightCommand(std::string_view first) {
   if (const auto command = commandNamed(first)) return rowOf(*command).isLight;
-  if (!first.starts_with("--")) return false;
+  if (!first.starts_with("--") || asksForDesktopService(first)) return false;
   for (const OptionRow& row : optionTable)
     if ((row.commands & only(Command::Main)) && row.name == first.substr(2)) return true;
   return false;

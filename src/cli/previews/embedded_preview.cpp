@@ -1,0 +1,23 @@
+#include "cli/previews/embedded_preview.h"
+
+#include "metadata/eps_header.h"
+#include "metadata/other_preview.h"
+
+namespace norvex {
+
+Result<std::optional<NSBitmapImageRep>> embeddedPreview(PictureService& service, const QByteArray& bytes,
+                                                        const CancelToken& cancel) {
+  std::optional<Error> unreadable;
+  const HeaderDictionary dictionary =
+      epsHeader(bytes, [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
+        Result<NSBitmapImageRep> preview = service.decodePreview(tiff, cancel);
+        if (preview) return *preview;
+        unreadable = preview.error();
+        return std::nullopt;
+      });
+  if (unreadable) return *unreadable;
+  if (!dictionary.contains(header::Preview)) return otherPreview(bytes);
+  return std::optional(dictionary.value(header::Preview).value<NSBitmapImageRep>());
+}
+
+}  // namespace norvex

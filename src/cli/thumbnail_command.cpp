@@ -1,0 +1,55 @@
+// `norvex thumbnail`: what a desktop's file manager runs for each file that it shows.
+#include <QBuffer>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QImage>
+
+#include "base/atomic_file.h"
+#include "cli/input_file.h"
+#include "cli/job.h"
+#include "cli/previews/thumbnail.h"
+#include "cli/value_reader.h"
+
+namespace norvex {
+namespace {
+
+constexpr int kUsualSide = 128;
+constexpr int kLargestSide = 2048;
+
+/// With what the thumbnails of a desktop carry, by which it tells whether they are still right.
+void describe(QImage& image, const QString& uri, const QString& file) {
+  image.setText(QStringLiteral("Thumb::URI"), uri);
+  image.setText(QStringLiteral("Thumb::MTime"),
+                QString::number(QFileInfo(file).lastModified().toSecsSinceEpoch()));
+  image.setText(QStringLiteral("Software"), QStringLiteral("Norvex"));
+}
+
+QByteArray pngOf(const QImage& image) {
+  QByteArray png;
+  QBuffer buffer(&png);
+  return buffer.open(QIODevice::WriteOnly) && image.save(&buffer, "PNG") ? png : QByteArray();
+}
+
+}  // namespace
+
+ExitCode Job::thumbnail(const Arguments& arguments) {
+  const QString &file = arguments.files[0], &output = arguments.files[1];
+  ValueReader values(arguments);
+  const int side = values.integer(Option::Size, kUsualSide, 1, kLargestSide);
+  if (!values.complaint().isEmpty()) return complain(Command::Thumbnail, values.complaint());
+  if (const auto error = overwritesInput(file, output)) return fail(file, *error);
+  const Result<QByteArray> bytes = readInput(console_, file);
+  if (!bytes) return fail(file, bytes.error());
+  service_.openOnlyFor(PictureUse::Drawing);
+  const Result<QImage> thumbnail = thumbnailOf(service_, sourceOfInput(*bytes, file), side);
+  if (!thumbnail) return fail(file, thumbnail.error());
+  QImage image = *thumbnail;
+  if (arguments.has(Option::Uri)) describe(image, arguments.values.value(Option::Uri), file);
+  const QByteArray png = pngOf(image);
+  if (png.isEmpty())
+    return fail(file, {ErrorKind::Unsupported, QStringLiteral("the picture cannot be written as PNG")});
+  // Desktops make an empty file first and give its name.
+  return writeOutput(output, png, true);
+}
+
+}  // namespace norvex

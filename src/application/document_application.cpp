@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -60,6 +61,26 @@ void DocumentApplication::start(const QList<QUrl>& files) {
   documents_.openDocuments(files);
 }
 
+void DocumentApplication::startForDesktop(int patienceMilliseconds) {
+  delegate_.applicationDidFinishLaunching();
+  QTimer::singleShot(patienceMilliseconds, this, [this] {
+    if (!startPanel_->isVisible() && documents_.documents().isEmpty() && !documents_.isReading())
+      terminate_(this);
+  });
+}
+
+void DocumentApplication::activate() {
+  if (documents_.documents().isEmpty()) return showStartPanel();
+  Document* last = documents_.documents().constLast();
+  if (last->windowController()) last->windowController()->showWindow();
+}
+
+void DocumentApplication::showStartPanel() {
+  startPanel_->show();
+  startPanel_->raise();
+  startPanel_->activateWindow();
+}
+
 void DocumentApplication::runOpenPanel() {
   if (modal_ > 0) return;
   const QScopedValueRollback<int> guard(modal_, modal_ + 1);
@@ -103,11 +124,7 @@ void DocumentApplication::quitRefused() {
 
 void DocumentApplication::updateStartPanel() {
   const bool wanted = documents_.documents().isEmpty() && !documents_.isReading();
-  if (wanted && !startPanel_->isVisible()) {
-    startPanel_->show();
-    startPanel_->raise();
-    startPanel_->activateWindow();
-  }
+  if (wanted && !startPanel_->isVisible()) showStartPanel();
   if (!documents_.documents().isEmpty()) startPanel_->hide();
 }
 

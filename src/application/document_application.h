@@ -38,6 +38,12 @@ class DocumentApplication final : public QObject {
 
   /// Opens the files; without any, shows the start panel.
   void start(const QList<QUrl>& files);
+  /// Shows nothing before the desktop asks for something; ends when it does not.
+  void startForDesktop(int patienceMilliseconds);
+  void openFiles(const QList<QUrl>& files) { documents_.openDocuments(files); }
+  /// Asked for without a file: the window used last comes to the front, the start panel where there is none.
+  void activate();
+  void showStartPanel();
   /// Asks for files and opens them.
   void runOpenPanel();
 

@@ -3,10 +3,12 @@
 #include <utility>
 
 #include "application/application.h"
+#include "application/desktop_service.h"
 #include "application/document_application.h"
 #include "application/string_tables.h"
 #include "base/system_log.h"
 #include "cli/archive/archive_job.h"
+#include "cli/arguments/command_table.h"
 #include "cli/command_line.h"
 #include "cli/printing_job.h"
 #include "picture/client/spawned_worker.h"
@@ -19,6 +21,13 @@
 namespace norvex {
 namespace {
 
+void answerDesktop(DesktopService& desktop, DocumentApplication& documents) {
+  QObject::connect(&desktop, &DesktopService::activated, &documents, &DocumentApplication::activate);
+  QObject::connect(&desktop, &DesktopService::filesOpened, &documents, &DocumentApplication::openFiles);
+  QObject::connect(&desktop, &DesktopService::startPanelRequested, &documents,
+                   &DocumentApplication::showStartPanel);
+}
+
 int runWindows(int argc, char** argv, WorkerService& service) {
   sendMessagesToSystemLog();  // whoever started the window from a terminal is not to read along
   service.yieldToWindows();
@@ -30,7 +39,15 @@ int runWindows(int argc, char** argv, WorkerService& service) {
     controller->setAlertPresenter(&alerts);
     return controller;
   });
-  documents.start(Application::fileArguments());
+  DesktopService desktop;
+  answerDesktop(desktop, documents);
+  if (argc > 1 && asksForDesktopService(argv[1])) {
+    if (!desktop.offer()) return kNotLoaded;
+    documents.startForDesktop(DesktopService::patienceMilliseconds);
+  } else {
+    documents.start(Application::fileArguments());
+    QMetaObject::invokeMethod(&desktop, &DesktopService::offer, Qt::QueuedConnection);
+  }
   const int code = Application::exec();
   leaveClipboardTo(partOfProgram("norvex-clipboard"));
   return code;

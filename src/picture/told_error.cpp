@@ -28,6 +28,9 @@ constexpr std::array kQuotations{
               QLatin1String("the picture holds something that cannot be drawn")},
 };
 
+/// How an interpreter calls it that a program wants to read, write or start something.
+constexpr QLatin1String kForbiddenFile("invalidfileaccess");
+
 }  // namespace
 
 ToldError toldError(const Error& error) {
@@ -35,7 +38,11 @@ ToldError toldError(const Error& error) {
   for (const Quotation& quotation : kQuotations) {
     if (!message.startsWith(quotation.before) || !message.endsWith(quotation.behind)) continue;
     const qsizetype length = message.size() - quotation.before.size() - quotation.behind.size();
-    if (length > 0) return {quotation.sentence, message.mid(quotation.before.size(), length)};
+    if (length <= 0) continue;
+    const QString details = message.mid(quotation.before.size(), length);
+    if (details.startsWith(kForbiddenFile))
+      return {QStringLiteral("the PostScript program tries to use a file, which no picture may"), details};
+    return {quotation.sentence, details};
   }
   return {message, {}};
 }

@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);
   setEnvironment(argv[1]);
   adoptProcessFiles(interpreterProcessFiles);
-  prepareSandboxes(argv[1]);
+  prepareSandboxes(argv[1], {}, true);
   InterpreterServer server(FileDescriptor(controlDescriptor), argv[1]);
   PostScriptInterpreter interpreter([&server] { return server.serve(); });
   const int code = interpreter.run();

@@ -20,7 +20,7 @@ struct InterpreterRequest {
 
 /// Written as soon as there is an interpreter. A pipe that ends without it: nobody took the request.
 inline constexpr char kInterpreterBegun = 'b';
-/// As waitpid() gives it.
+/// As waitpid() gives it. SIGXFSZ as the signal: its temporary files were too many or too large.
 using InterpreterOutcome = int;
 /// The exit code of an interpreter that could not be confined and therefore has read nothing.
 inline constexpr int kInterpreterNotConfined = 125;

@@ -6,6 +6,7 @@
 #include <limits>
 #include <new>
 
+#include "protocol/process_end.h"
 #include "protocol/sealed_memory.h"
 #include "protocol/shared_errors.h"
 #include "worker/confinement/resource_limits.h"
@@ -17,9 +18,6 @@ constexpr qsizetype kAnySize = std::numeric_limits<qsizetype>::max();
 
 Error notOpen() {
   return {ErrorKind::Protocol, QStringLiteral("no picture has been opened")};
-}
-Error noMemory() {
-  return {ErrorKind::Limit, QStringLiteral("the picture needs more memory than it is allowed")};
 }
 Error notDone() {
   return {ErrorKind::NotParsable, QStringLiteral("the picture could not be processed")};
@@ -72,7 +70,7 @@ DocumentServer::Answer DocumentServer::answer(ArrivedRequest& arrived) {
     return std::visit([&](const auto& body) { return serve(body, std::move(arrived.descriptor)); },
                       arrived.request.body);
   } catch (const std::bad_alloc&) {
-    return {noMemory(), {}};
+    return {memoryUsedUp(), {}};
   } catch (const std::exception&) {
     return {notDone(), {}};
   }
@@ -153,7 +151,7 @@ DocumentServer::Answer DocumentServer::serve(const PagesRequest& request, FileDe
 
 DocumentServer::Answer DocumentServer::answerOf(Result<engine::EngineBytes> bytes) const {
   if (!bytes) return {bytes.error(), {}};
-  if (bytes->bytes.size() > qsizetype(context_.limits.memoryMiB) << 20) return {noMemory(), {}};
+  if (bytes->bytes.size() > qsizetype(context_.limits.memoryMiB) << 20) return {memoryUsedUp(), {}};
   Result<FileDescriptor> memory = SealedMemory::seal(bytes->bytes);
   if (!memory) return {memory.error(), {}};
   return {std::move(bytes->report), std::move(*memory)};

@@ -16,6 +16,7 @@
 
 #include "base/remove_folder.h"
 #include "protocol/control_descriptor.h"
+#include "protocol/process_end.h"
 #include "worker/confinement/process_files.h"
 #include "worker/environment.h"
 
@@ -57,7 +58,7 @@ void ForkServer::run() {
     if (ready <= 0) continue;
     for (size_t i = polls.size(); i > 1; --i) {
       if (polls[i - 1].revents == 0) continue;
-      bury(children_[i - 2]);
+      tellEnd(children_[i - 2].number, bury(children_[i - 2]));
       children_.erase(children_.begin() + std::ptrdiff_t(i - 2));
     }
     if (polls[0].revents != 0) connected = answerControl();
@@ -88,7 +89,7 @@ Result<ForkServer::Child> ForkServer::fork(const ForkRequest& request, FileDescr
   const pid_t pid = ::fork();
   if (pid == 0) becomeChild(self, request, std::move(socket), shared, folder);
   // No race: until we bury it the number cannot be given to another process.
-  Child child{pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1), folder};
+  Child child{forks_, pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1), folder};
   if (pid > 0) ::setpgid(pid, pid);
   if (pid > 0 && child.pidfd.valid()) return child;
   if (pid > 0) bury(child);
@@ -115,12 +116,22 @@ void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescrip
   ::_exit(0);
 }
 
-void ForkServer::bury(Child& child) {
+void ForkServer::tellEnd(quint32 number, int status) {
+  if (WIFEXITED(status) && WEXITSTATUS(status) == 0) return;
+  // Whoever does not listen need not know.
+  pollfd room = {control_.socket(), POLLOUT, 0};
+  if (::poll(&room, 1, 0) == 1 && room.revents == POLLOUT)
+    (void)control_.send(encodeReply({number, errorOfEnd(status)}));
+}
+
+int ForkServer::bury(Child& child) {
   // First the group, which still bears the number of the unburied child.
   ::kill(-child.pid, SIGKILL);
   ::kill(child.pid, SIGKILL);
-  while (::waitpid(child.pid, nullptr, 0) < 0 && errno == EINTR) continue;
+  int status = 0;
+  while (::waitpid(child.pid, &status, 0) < 0 && errno == EINTR) continue;
   removeFolder(child.scratchFolder.toStdString());
+  return status;
 }
 
 }  // namespace norvex

@@ -36,11 +36,13 @@ class ForkServer {
   ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp = {},
              Prepare prepare = {});
 
+  /// A child that does not end by itself and well is told, too: an Error with the number of its request.
   /// Serves until the control connection closes; all children are then gone.
   void run();
 
  private:
   struct Child {
+    quint32 number = 0;  ///< of its request
     int pid = 0;
     FileDescriptor pidfd;
     QByteArray scratchFolder;
@@ -50,7 +52,10 @@ class ForkServer {
   Result<Child> fork(const ForkRequest& request, FileDescriptor socket, int shared);
   [[noreturn]] void becomeChild(int parent, const ForkRequest& request, FileDescriptor socket, int shared,
                                 const QByteArray& scratchFolder);
-  void bury(Child& child);
+  /// Its status, as waitpid() gives it.
+  static int bury(Child& child);
+  /// Tells a second answer to the request: the child ended before its time.
+  void tellEnd(quint32 number, int status);
 
   MessageChannel control_;
   QByteArray scratchRoot_;

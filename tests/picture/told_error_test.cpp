@@ -15,6 +15,10 @@ class ToldErrorTest : public QObject {
     QTest::newRow("interpreter") << "PostScript error: undefined in Adobe_packedarray"
                                  << "the PostScript program stops with an error"
                                  << "undefined in Adobe_packedarray";
+    QTest::newRow("interpreter, of files")
+        << "PostScript error: invalidfileaccess in setpagedevice"
+        << "the PostScript program tries to use a file, which no picture may"
+        << "invalidfileaccess in setpagedevice";
     QTest::newRow("PDF") << "the document is not a readable PDF (unable to find trailer dictionary (twice))"
                          << "the document is damaged and cannot be read as PDF"
                          << "unable to find trailer dictionary (twice)";

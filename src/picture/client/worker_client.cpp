@@ -69,10 +69,13 @@ Result<PictureFacts> WorkerClient::finishOpening(const CancelToken& cancel) {
     openDeadline_ = first;
     answer = connection_->wait(opening_, openDeadline_, cancel);
   }
+  // A process that has died may have found less memory than another one will: nothing is final without an
+  // answer.
+  const bool answered = answer.ok();
   Result<PictureFacts> facts = answer ? distrusted(factsFrom(std::move(*answer))) : answer.error();
   opening_ = 0;
   if (!facts) connection_.reset();  // also after an obeyed cancel: the document is not open there
-  if (facts || isFinal(facts.error().kind)) {
+  if (answered && (facts || isFinal(facts.error().kind))) {
     const std::lock_guard lock(outcomeMutex_);
     if (!outcome_) outcome_ = facts;
   }

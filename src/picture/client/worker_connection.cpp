@@ -10,6 +10,7 @@
 #include <csignal>
 
 #include "protocol/limits.h"
+#include "protocol/process_end.h"
 #include "protocol/shared_errors.h"
 
 namespace norvex {
@@ -23,14 +24,19 @@ Error noDescriptor() {
   return {ErrorKind::Died,
           QStringLiteral("the picture process cannot be waited for: too many files are open")};
 }
-/// Of a child that has cut the line: whether it was not a signal that ended it, such as a document can
-/// provoke.
-bool exitsByItself(const FileDescriptor& pidfd) {
+/// Of a child that has cut the line: its status as waitpid() gives it, which it keeps; nothing: it lives.
+std::optional<int> statusOf(const FileDescriptor& pidfd) {
   pollfd poll = {pidfd.get(), POLLIN, 0};
   siginfo_t info = {};
-  return ::poll(&poll, 1, int(limits::processFarewell)) > 0 &&
-         ::waitid(P_PIDFD, id_t(pidfd.get()), &info, WEXITED | WNOWAIT | WNOHANG) == 0 &&
-         info.si_code == CLD_EXITED;
+  if (::poll(&poll, 1, int(limits::processFarewell)) <= 0 ||
+      ::waitid(P_PIDFD, id_t(pidfd.get()), &info, WEXITED | WNOWAIT | WNOHANG) != 0 || info.si_pid == 0)
+    return std::nullopt;
+  return info.si_code == CLD_EXITED ? W_EXITCODE(info.si_status, 0) : W_EXITCODE(0, info.si_status);
+}
+
+/// Of an end that is no answer: whether a limit was reached.
+std::optional<Error> limitIn(const std::optional<Error>& end) {
+  return end && end->kind == ErrorKind::Limit ? end : std::nullopt;
 }
 
 }  // namespace
@@ -73,6 +79,7 @@ bool WorkerConnection::learnProcess(QDeadlineTimer deadline) {
   if (!ticket_) return process_.pidfd.valid();
   Result<StartedProcess> process = starter_->take(*ticket_, deadline);
   if (process) process_ = std::move(*process);
+  if (process) known_ = ticket_;
   if (process || process.error().kind != ErrorKind::TimedOut) ticket_.reset();
   return process_.pidfd.valid();
 }
@@ -85,6 +92,8 @@ void WorkerConnection::end() {
     ::syscall(SYS_pidfd_send_signal, process_.pidfd.get(), SIGKILL, nullptr, 0);
   else if (ticket_)
     starter_->abandon(*ticket_);
+  if (known_) starter_->forget(*known_);
+  known_.reset();
   ticket_.reset();
   process_ = {};
 }
@@ -102,10 +111,24 @@ bool WorkerConnection::isUsable() const {
 }
 
 Error WorkerConnection::failed(Error error) {
-  if (error.kind == ErrorKind::Died && isOwnChild() && !hasAnswered_)
-    hasNotComeUp_ = exitsByItself(process_.pidfd);
+  std::optional<Error> limit;
+  if (error.kind == ErrorKind::Died) limit = limitThatEndedIt();
   end();
-  return error;
+  return limit.value_or(error);
+}
+
+std::optional<Error> WorkerConnection::limitThatEndedIt() {
+  if (!isOwnChild()) {
+    const QDeadlineTimer soon(limits::processFarewell);
+    if (!learnProcess(soon) || !known_) return std::nullopt;
+    return limitIn(starter_->endOf(*known_, soon));
+  }
+  const std::optional<int> status = statusOf(process_.pidfd);
+  if (!status) return std::nullopt;
+  const std::optional<Error> limit = limitIn(errorOfEnd(*status));
+  // What a document cannot provoke is another's failure: of the linker, most likely.
+  if (!limit && !hasAnswered_) hasNotComeUp_ = WIFEXITED(*status);
+  return limit;
 }
 
 Result<quint32> WorkerConnection::post(RequestBody body, const FileDescriptor& memory) {

@@ -58,11 +58,14 @@ class WorkerConnection {
                    std::optional<WorkerStarter::Ticket> ticket, FileDescriptor socket);
   bool learnProcess(QDeadlineTimer deadline);
   Error failed(Error error);
+  /// The limit that ended the process, if it was one.
+  [[nodiscard]] std::optional<Error> limitThatEndedIt();
   Result<WorkerAnswer> understand(quint32 id, ChannelMessage message);
 
   std::shared_ptr<WorkerStarter> starter_;  ///< null for our own child
   ForkRequest request_;
   std::optional<WorkerStarter::Ticket> ticket_;  ///< until the process is known
+  std::optional<WorkerStarter::Ticket> known_;   ///< the same, from then on
   StartedProcess process_;
   bool hasAnswered_ = false;
   bool hasNotComeUp_ = false;

@@ -26,6 +26,10 @@ Error notAnswered() {
   return {ErrorKind::Died, QStringLiteral("the program that reads pictures has ended")};
 }
 
+Error notYetAnswered() {
+  return {ErrorKind::TimedOut, QStringLiteral("the program that reads pictures has not answered yet")};
+}
+
 bool endsWithin(const FileDescriptor& pidfd, qint64 milliseconds) {
   pollfd poll = {pidfd.get(), POLLIN, 0};
   int ready = 0;
@@ -106,6 +110,9 @@ void WorkerStarter::stopLocked() {
   requested_ = 0;
   answered_.clear();
   abandoned_.clear();
+  heard_ = 0;
+  living_.clear();
+  ends_.clear();
 }
 
 Result<WorkerStarter::Ticket> WorkerStarter::request(const ForkRequest& request,
@@ -134,33 +141,69 @@ Result<StartedProcess> WorkerStarter::takeNow(const Ticket& ticket) {
   const std::lock_guard lock(mutex_);
   while (ticket.run == run_) {
     if (auto answer = answered_.extract(ticket.number)) return std::move(answer.mapped());
-    Result<ChannelMessage> message = control_.receive(QDeadlineTimer(0));
-    if (!message && message.error().kind == ErrorKind::TimedOut) return message.error();
-    const Result<WorkerReply> reply = message ? decodeReply(message->cbor) : message.error();
-    if (reply)
-      keep(*reply, std::move(message->descriptor));
-    else
-      stopLocked();  // and with it this run
+    if (!hearNow() && ticket.run == run_) return notYetAnswered();
   }
   return notAnswered();
 }
 
+bool WorkerStarter::hearNow() {
+  Result<ChannelMessage> message = control_.receive(QDeadlineTimer(0));
+  if (!message && message.error().kind == ErrorKind::TimedOut) return false;
+  const Result<WorkerReply> reply = message ? decodeReply(message->cbor) : message.error();
+  if (reply)
+    keep(*reply, std::move(message->descriptor));
+  else
+    stopLocked();
+  return reply.ok();
+}
+
+std::optional<Error> WorkerStarter::endOf(const Ticket& ticket, QDeadlineTimer deadline) {
+  while (true) {
+    {
+      const std::lock_guard lock(mutex_);
+      while (ticket.run == run_ && !ends_.contains(ticket.number) && hearNow()) continue;
+      if (ticket.run != run_) return std::nullopt;
+      if (const auto end = ends_.find(ticket.number); end != ends_.end()) return end->second;
+    }
+    if (deadline.hasExpired()) return std::nullopt;
+    ::usleep(kPause);
+  }
+}
+
+void WorkerStarter::forget(const Ticket& ticket) {
+  const std::lock_guard lock(mutex_);
+  if (ticket.run != run_) return;
+  living_.erase(ticket.number);
+  ends_.erase(ticket.number);
+}
+
 void WorkerStarter::keep(const WorkerReply& reply, FileDescriptor descriptor) {
+  // Requests are answered in their order; what comes after that is the end of a process.
+  if (reply.id <= heard_) {
+    if (const auto* end = std::get_if<Error>(&reply.body); end && living_.contains(reply.id))
+      ends_.emplace(reply.id, *end);
+    return;
+  }
+  heard_ = reply.id;
   const auto* forked = std::get_if<ForkReply>(&reply.body);
   if (abandoned_.erase(reply.id) > 0) {
     if (descriptor.valid()) ::syscall(SYS_pidfd_send_signal, descriptor.get(), SIGKILL, nullptr, 0);
     return;
   }
-  if (forked != nullptr && descriptor.valid())
+  if (forked != nullptr && descriptor.valid()) {
     answered_.emplace(reply.id, StartedProcess{forked->pid, std::move(descriptor)});
-  else
+    living_.insert(reply.id);
+  } else {
     answered_.emplace(reply.id, notStarted());
+  }
 }
 
 void WorkerStarter::abandon(const Ticket& ticket) {
   const std::lock_guard lock(mutex_);
   if (ticket.run != run_) return;
   const auto answer = answered_.extract(ticket.number);
+  living_.erase(ticket.number);
+  ends_.erase(ticket.number);
   if (!answer)
     abandoned_.insert(ticket.number);
   else if (const Result<StartedProcess>& process = answer.mapped(); process)

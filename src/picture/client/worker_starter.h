@@ -6,6 +6,7 @@
 
 #include <map>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -48,6 +49,11 @@ class WorkerStarter {
   Result<Ticket> request(const ForkRequest& request, const FileDescriptor& socket);
   /// The process of a ticket, once for each ticket. Fails with TimedOut (the ticket stays good) or Died.
   Result<StartedProcess> take(const Ticket& ticket, QDeadlineTimer deadline);
+  /// Why a process that was taken has ended: the limit that it had reached, or Died. Nothing: it lives, or is
+  /// not told by the deadline.
+  [[nodiscard]] std::optional<Error> endOf(const Ticket& ticket, QDeadlineTimer deadline);
+  /// Nobody will ask for the end of this process.
+  void forget(const Ticket& ticket);
   /// Instead of take(): the process shall be killed as soon as it is known.
   void abandon(const Ticket& ticket);
 
@@ -67,6 +73,8 @@ class WorkerStarter {
   void stopLocked();
   [[nodiscard]] bool runs() const;
   Result<StartedProcess> takeNow(const Ticket& ticket);
+  /// Takes a message that is there; false: there is none, or the program has ended and with it this run.
+  bool hearNow();
   void keep(const WorkerReply& reply, FileDescriptor descriptor);
 
   const QString program_;
@@ -81,6 +89,9 @@ class WorkerStarter {
   quint32 requested_ = 0;
   std::map<quint32, Result<StartedProcess>> answered_;
   std::set<quint32> abandoned_;
+  quint32 heard_ = 0;              ///< number of the last request that was answered
+  std::set<quint32> living_;       ///< processes that somebody may ask for the end of
+  std::map<quint32, Error> ends_;  ///< of these
 };
 
 }  // namespace norvex

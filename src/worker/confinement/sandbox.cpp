@@ -7,6 +7,7 @@
 #include "worker/confinement/file_view.h"
 #include "worker/confinement/instrumented.h"
 #include "worker/confinement/landlock.h"
+#include "worker/confinement/last_words.h"
 #include "worker/confinement/privileges.h"
 #include "worker/confinement/process_files.h"
 #include "worker/confinement/resource_limits.h"
@@ -34,12 +35,13 @@ CallsFor callsFor(const SandboxPolicy& policy) {
 
 }  // namespace
 
-void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& layers) {
+void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& layers,
+                      bool writeScratchFiles) {
   openProcessFiles();
   if (wantsSystemCalls(layers)) {
-    (void)SystemCallList::shared(CallsFor::Engines);
-    // Who has no scratch files starts no interpreter.
-    if (!scratchRoot.empty()) (void)SystemCallList::shared(CallsFor::Program);
+    (void)SystemCallList::shared(writeScratchFiles ? CallsFor::Interpreter : CallsFor::Engines);
+    // Who has no scratch files starts no interpreter, and an interpreter starts nothing.
+    if (!scratchRoot.empty() && !writeScratchFiles) (void)SystemCallList::shared(CallsFor::Program);
   }
   if (layers.fileView && !isInstrumented && !isInFileView()) (void)enterFileView(scratchRoot);
 }
@@ -64,6 +66,7 @@ Result<void> enterSandbox(const SandboxPolicy& policy) {
 Result<void> sealSandbox(const SandboxPolicy& policy) {
   if (policy.preparationToCome && !limitAddressSpace(policy.limits)) return notConfined();
   closeProcessFiles();
+  tellWhatEndsUs(policy.limits);
   if (listsSystemCalls && !SystemCallList::shared(callsFor(policy)).enter()) return notConfined();
   return {};
 }

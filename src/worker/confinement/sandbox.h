@@ -23,8 +23,10 @@ struct SandboxPolicy {
 
 /// Called once, first thing, by a process that others are forked from, while it has one thread: a view of the
 /// file system, which they inherit, and what is made once for all. `scratchRoot` is where their scratch
-/// folders will be made; empty: there will be none. What the system refuses is left out.
-void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& layers = {});
+/// folders will be made; empty: there will be none. `writeScratchFiles`: as SandboxPolicy of theirs has it.
+/// What the system refuses is left out.
+void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& layers = {},
+                      bool writeScratchFiles = false);
 
 /// Gives up, for ever, what a document's process does not need: privileges, memory, files and time beyond
 /// limits; files but those that engines need (Landlock); and, unless preparation is to come, system calls

@@ -13,10 +13,13 @@
 namespace norvex {
 namespace {
 
-constexpr qint64 kPause = 40;  ///< milliseconds
 constexpr qint64 kBlock = 512;
 
 }  // namespace
+
+Error tooManyScratchFiles() {
+  return {ErrorKind::Limit, QStringLiteral("the picture needs more temporary files than it is allowed")};
+}
 
 ScratchWatch::ScratchWatch(const QString& folder) : folder_(QFile::encodeName(folder)) {}
 
@@ -35,7 +38,7 @@ Result<void> ScratchWatch::look() {
     ++files;
   }
   if (bytes <= limits::maximumScratchBytes && files <= limits::maximumScratchFiles) return {};
-  return Error{ErrorKind::Limit, QStringLiteral("the picture needs more temporary files than it is allowed")};
+  return tooManyScratchFiles();
 }
 
 }  // namespace norvex

@@ -42,14 +42,23 @@ QByteArray InterpreterServer::serve() {
       polls.push_back({child.pidfd.get(), POLLIN, 0});
       polls.push_back({child.outcome.get(), 0, 0});  // an error is told unasked: nobody reads it any more
     }
-    if (::poll(polls.data(), polls.size(), -1) <= 0) continue;
-    for (size_t i = children_.size(); i > 0; --i) {
-      if (polls[2 * i - 1].revents == 0 && polls[2 * i].revents == 0) continue;
-      bury(children_[i - 1]);
-      children_.erase(children_.begin() + std::ptrdiff_t(i - 1));
-    }
+    if (::poll(polls.data(), polls.size(), children_.empty() ? -1 : ScratchWatch::kPause) < 0) continue;
+    buryWhoMustGo(polls);
     if (polls[0].revents == 0) continue;
     if (const QByteArray folder = takeRequest(); !folder.isEmpty()) return folder;
+  }
+}
+
+void InterpreterServer::buryWhoMustGo(const std::vector<pollfd>& polls) {
+  for (size_t i = children_.size(); i > 0; --i) {
+    Child& child = children_[i - 1];
+    if (polls[2 * i - 1].revents != 0 || polls[2 * i].revents != 0)
+      bury(child);
+    else if (!child.scratch.look())
+      bury(child, W_EXITCODE(0, SIGXFSZ));
+    else
+      continue;
+    children_.erase(children_.begin() + std::ptrdiff_t(i - 1));
   }
 }
 
@@ -71,7 +80,7 @@ QByteArray InterpreterServer::fork(InterpreterRequest request) {
     return folder;
   }
   Child child{pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1),
-              std::move(request.outcome), folder};
+              std::move(request.outcome), folder, ScratchWatch(QFile::decodeName(folder))};
   if (pid > 0) ::setpgid(pid, pid);
   if (child.pidfd.valid()) {
     tell(child.outcome, kInterpreterBegun);
@@ -102,14 +111,14 @@ void InterpreterServer::becomeInterpreter(int parent, const InterpreterRequest& 
   if (!enterSandbox(policy)) ::_exit(kInterpreterNotConfined);
 }
 
-void InterpreterServer::bury(Child& child) {
+void InterpreterServer::bury(Child& child, std::optional<InterpreterOutcome> told) {
   // One that has ended by itself stays a zombie until it is waited for: the signals cannot hit another.
   ::kill(-child.pid, SIGKILL);
   ::kill(child.pid, SIGKILL);
   InterpreterOutcome status = 0;
   while (::waitpid(child.pid, &status, 0) < 0 && errno == EINTR) continue;
   removeFolder(child.scratchFolder.toStdString());
-  tell(child.outcome, status);
+  tell(child.outcome, told.value_or(status));
 }
 
 }  // namespace norvex

@@ -3,14 +3,19 @@
 
 #include <QByteArray>
 
+#include <poll.h>
+
+#include <optional>
 #include <vector>
 
 #include "protocol/interpreter_request.h"
+#include "worker/confinement/scratch_watch.h"
 
 namespace norvex {
 
 /// Reads no byte of a document, has one thread, ends when nobody can ask any more. An interpreter is killed
-/// when nobody waits for its outcome any more, and its scratch folder is removed, whichever way it ended.
+/// when nobody waits for its outcome any more or when its folder holds too much, and its scratch folder is
+/// removed, whichever way it ended.
 class InterpreterServer {
  public:
   /// `taking`: of an InterpreterConnection. Scratch folders are made inside `scratchRoot`, which exists and
@@ -26,13 +31,18 @@ class InterpreterServer {
     int pid = 0;
     FileDescriptor pidfd, outcome;
     QByteArray scratchFolder;
+    ScratchWatch scratch;
   };
   /// The scratch folder in a forked process; empty in the server.
   QByteArray takeRequest();
   QByteArray fork(InterpreterRequest request);
   static void becomeInterpreter(int parent, const InterpreterRequest& request,
                                 const QByteArray& scratchFolder);
-  static void bury(Child& child);
+  /// Ends it. `told`: what whoever waits is told in place of its status.
+  static void bury(Child& child, std::optional<InterpreterOutcome> told = std::nullopt);
+  /// Those that have ended, that nobody waits for, or that fill the disk. `polls`: two for each child, behind
+  /// the first.
+  void buryWhoMustGo(const std::vector<pollfd>& polls);
 
   FileDescriptor taking_;
   QByteArray scratchRoot_;

@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "protocol/interpreter_request.h"
+#include "protocol/process_end.h"
 #include "worker/confinement/sandbox.h"
 #include "worker/confinement/scratch_watch.h"
 
@@ -215,11 +216,13 @@ Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
   if (!status) return status.error();
   if (wasForked && WIFEXITED(*status) && WEXITSTATUS(*status) == kInterpreterNotConfined)
     return Error{ErrorKind::NoSandbox, QStringLiteral("the interpreter of PostScript could not be confined")};
+  if (const Error end = errorOfEnd(*status); end.kind == ErrorKind::Limit) return end;
   if (WIFEXITED(*status)) {
     collected.exitStatus = WEXITSTATUS(*status);
     return collected;
   }
-  if (const int signal = WTERMSIG(*status); signal == SIGKILL || signal == SIGXCPU || signal == SIGXFSZ)
+  if (WTERMSIG(*status) == SIGXFSZ) return tooManyScratchFiles();
+  if (WTERMSIG(*status) == SIGKILL)
     return Error{ErrorKind::Limit,
                  QStringLiteral("the PostScript used up the time or memory that it was granted")};
   return Error{ErrorKind::NotParsable, QStringLiteral("Ghostscript failed on the PostScript")};

@@ -33,7 +33,7 @@ QString reason(GError* raw) {
 
 // librsvg tells the kinds of its failures in their texts alone.
 ErrorKind kindOf(const QString& reason, ErrorKind otherwise) {
-  for (const char* sign : {"limit", "too many", "exceed", "out of memory", "No memory"})
+  for (const char* sign : {"limit", "too many", "exceed", "out of memory", "No memory", "NoMemory"})
     if (reason.contains(QLatin1String(sign), Qt::CaseInsensitive)) return ErrorKind::Limit;
   return otherwise;
 }

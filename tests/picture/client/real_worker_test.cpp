@@ -149,6 +149,22 @@ class RealWorkerTest : public QObject {
     QCOMPARE(process->pdf({})->report.warnings, QStringList());
   }
 
+  void memoryThatADrawingLacksIsALimit() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers need more address space than any limit");
+#endif
+    const QByteArray blurred =
+        "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='20'><filter id='f'><feGaussianBlur "
+        "stdDeviation='1'/><feMorphology radius='1'/></filter><rect width='40' height='20' "
+        "filter='url(#f)'/></svg>";
+    const auto process = service_->open(blurred, PictureKind::Svg, PictureLimits{60, 72, 100});
+    RenderRequest large = wholePicture();
+    large.pixelSize *= 90;
+    large.pictureToDevice = QTransform(90, 0, 0, -90, 0, 1800);
+    QCOMPARE(process->render(large).error().kind, ErrorKind::Limit);
+    QVERIFY(process->render(wholePicture()).ok());
+  }
+
   void anEndlessProgramIsStopped() {
     const QByteArray endless = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 40 20\n%%EndComments\n{} loop\n";
     const auto process = service_->open(endless, PictureKind::Eps, PictureLimits{2, 512, 10});

@@ -263,6 +263,39 @@ class WorkerServiceTest : public QObject {
     QVERIFY(process->pdf({}).ok());
   }
 
+  void whatUsesUpTheProcessIsToldAsALimit_data() {
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<QString>("sentence");
+    const QString memory = QStringLiteral("the picture needs more memory than it is allowed");
+    QTest::newRow("recursion") << QByteArray("deep")
+                               << QStringLiteral("the picture nests deeper than can be drawn");
+    QTest::newRow("an abort without memory") << QByteArray("aborting") << memory;
+    QTest::newRow("a null pointer without memory") << QByteArray("careless") << memory;
+  }
+  void whatUsesUpTheProcessIsToldAsALimit() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers tell crashes themselves");
+#endif
+    QFETCH(QByteArray, document);
+    QFETCH(QString, sentence);
+    const auto process = service_->open(document, PictureKind::Pdf, PictureLimits{10, 64, 1});
+    for (int i = 0; i < 2; ++i) {
+      const Error error = process->render(drawing()).error();
+      QCOMPARE(error.kind, ErrorKind::Limit);
+      QCOMPARE(error.message, sentence);
+      QVERIFY(process->pdf({}).ok());
+    }
+  }
+
+  void anotherCrashIsNoLimit() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers tell crashes themselves");
+#endif
+    const auto process = service_->open("wild", PictureKind::Pdf);
+    QCOMPARE(process->render(drawing()).error().kind, ErrorKind::Died);
+    QVERIFY(process->pdf({}).ok());
+  }
+
   void theScratchFolderGoesWithItsProcess() {
     auto process = service_->open("scratch", PictureKind::Pdf);
     QVERIFY(process->render(drawing()).ok());

@@ -198,6 +198,17 @@ class InterpreterProgramTest : public QObject {
     QVERIFY(interpreters.stillWork());
   }
 
+  void tooManyTemporaryFilesAreALimit() {
+    Interpreters interpreters;
+    interpreters.context().scratchFolder.clear();  // the server watches its own folders
+    const Error error = errorOf(
+        distill("1100 { null (w) .tempfile closefile pop } repeat {} loop\n", kBox, interpreters.context()));
+    QCOMPARE(error.kind, ErrorKind::Limit);
+    QCOMPARE(error.message, QString("the picture needs more temporary files than it is allowed"));
+    QVERIFY(kit::eventually([&] { return interpreters.folders().isEmpty(); }));
+    QVERIFY(interpreters.stillWork());
+  }
+
   void oneThatCrashesTakesNobodyAlong() {
     Interpreters interpreters;
     const int server = interpreters.program().pid();

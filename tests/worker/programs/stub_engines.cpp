@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 #include <limits>
 #include <vector>
 
@@ -50,6 +51,22 @@ QString descriptors() {
 
 void beget() {
   if (::fork() == 0) hang();
+}
+
+// Compilers would see that it never ends.
+int (*volatile deeperStill)(int) = nullptr;
+
+int deeper(int depth) {
+  volatile char frame[4096];
+  frame[0] = char(depth);
+  deeperStill = deeper;
+  return deeperStill(depth + 1) + frame[0];
+}
+
+// Gives what the last call gave, which is nothing.
+volatile char* takeAllMemory() {
+  while (void* const piece = std::malloc(1 << 20)) static_cast<volatile char*>(piece)[0] = 1;
+  return nullptr;
 }
 
 class StubEngine final : public engine::DocumentEngine {
@@ -104,6 +121,10 @@ class StubEngine final : public engine::DocumentEngine {
     if (mode == "sleepy-cancellable") waitForCancel(context_);
     if (mode == "fragile") ::raise(SIGKILL);
     if (mode == "greedy") std::vector<char>(size_t(1) << 40);
+    if (mode == "deep") (void)deeper(0);
+    if (mode == "aborting") takeAllMemory(), std::abort();
+    if (mode == "careless") *takeAllMemory() = 1;
+    if (mode == "wild") *static_cast<volatile char*>(nullptr) = 1;
     if (mode == "scratch") litter(context_.scratchFolder);
     if (mode == "orphan") beget();
   }

@@ -12,6 +12,10 @@ namespace norvex::kit {
 ///   sleepy     opens; rendering never ends; sleepy-cancellable: until it is cancelled
 ///   fragile    opens; rendering kills the process
 ///   greedy     opens; rendering allocates more than every limit
+///   deep       opens; rendering calls itself until the stack is used up
+///   aborting   opens; rendering takes memory until there is none and aborts, as libraries do
+///   careless   the same, and it writes where there is none
+///   wild       opens; rendering writes through a null pointer
 ///   scratch    opens; rendering leaves files and folders in the scratch folder
 ///   orphan     opens; rendering starts a grandchild that never ends
 ///   nan        opens with a page whose measures are no numbers

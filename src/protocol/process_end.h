@@ -1,0 +1,30 @@
+// How a process that reads documents ends before its time, as those learn it who outlive it.
+#pragma once
+
+#include <sys/wait.h>
+
+#include <csignal>
+
+#include "base/result.h"
+
+namespace norvex {
+
+/// Exit codes of a process that a document has used up; see worker/confinement/last_words.h.
+inline constexpr int kStackUsedUp = 121;
+inline constexpr int kMemoryUsedUp = 122;
+
+[[nodiscard]] inline Error memoryUsedUp() {
+  return {ErrorKind::Limit, QStringLiteral("the picture needs more memory than it is allowed")};
+}
+
+/// The limit that a process has reached, or Died where it was none. `status`: as waitpid() gives it.
+[[nodiscard]] inline Error errorOfEnd(int status) {
+  if (WIFEXITED(status) && WEXITSTATUS(status) == kMemoryUsedUp) return memoryUsedUp();
+  if (WIFEXITED(status) && WEXITSTATUS(status) == kStackUsedUp)
+    return {ErrorKind::Limit, QStringLiteral("the picture nests deeper than can be drawn")};
+  if (WIFSIGNALED(status) && WTERMSIG(status) == SIGXCPU)
+    return {ErrorKind::Limit, QStringLiteral("the picture needs more processor time than it is allowed")};
+  return {ErrorKind::Died, QStringLiteral("the picture process ended without an answer")};
+}
+
+}  // namespace norvex

@@ -10,6 +10,7 @@
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/whole_page.h"
 #include "worker/postscript/distill.h"
+#include "worker/postscript/tile_seams.h"
 
 #include <optional>
 
@@ -69,7 +70,7 @@ class EpsEngine final : public DocumentEngine {
       return distilled.error();
     }
     distilled_ = std::move(*distilled);
-    renderer_.emplace(distilled_->pdf);
+    renderer_.emplace(withoutSeams(distilled_->pdf));
     return {};
   }
 

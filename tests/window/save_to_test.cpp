@@ -334,7 +334,9 @@ class SaveToTest : public QObject {
     process->release(PictureCall::Compose);
     QTRY_COMPARE(rows(c), kEpsRows.mid(1));  // PDF and what is made of it stay, EPS goes
     QCOMPARE(c.doSaveToPopUp->currentText(), QString("TIFF image"));
+    QCOMPARE(c.doSaveToPopUp->currentIndex(), 1);
     QCOMPARE(saved(c, f.panel, f.url("out")), (QVariantList{f.folder.filePath("out.tiff"), true}));
+    QVERIFY(f.read("out.tiff").startsWith("II"));  // and its bytes with it
   }
 
   void bytesThatAreMissingInTheEndAreTold() {

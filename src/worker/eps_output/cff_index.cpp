@@ -1,5 +1,6 @@
 #include "worker/eps_output/cff_index.h"
 
+#include "worker/eps_output/cff_texts.h"
 #include "worker/eps_output/postscript_tokens.h"
 
 namespace norvex::engine {
@@ -37,6 +38,49 @@ std::optional<CffIndex> cffIndexAt(ByteReader& read, qsizetype start) {
   return index;
 }
 
+std::map<int, qint64> cffOperands(QByteArrayView dict) {
+  std::map<int, qint64> found;
+  qint64 last = 0;
+  const auto byte = [&](qsizetype at) { return at < dict.size() ? int(quint8(dict[at])) : 0; };
+  for (qsizetype i = 0; i < dict.size(); ++i) {
+    const int b = byte(i);
+    if (b <= 21) {
+      found[b == 12 ? cffEscape | byte(++i) : b] = last;
+      last = 0;
+    } else if (b == 28) {
+      last = qint16(byte(i + 1) << 8 | byte(i + 2));
+      i += 2;
+    } else if (b == 29) {
+      last = qint32(quint32(byte(i + 1)) << 24 | quint32(byte(i + 2)) << 16 | quint32(byte(i + 3)) << 8 |
+                    quint32(byte(i + 4)));
+      i += 4;
+    } else if (b == 30) {
+      for (++i; i < dict.size() && (byte(i) & 0xF) != 0xF && (byte(i) >> 4) != 0xF;) ++i;
+      last = 0;
+    } else if (b <= 246) {
+      last = b - 139;
+    } else {
+      const int second = byte(++i);
+      last = b <= 250 ? (b - 247) * 256 + second + 108 : -(b - 251) * 256 - second - 108;
+    }
+  }
+  return found;
+}
+
+namespace {
+
+/// In texts that are read by people, as strings between parentheses, a blank does no harm.
+void keepBlanks(const QByteArray& cff, ByteReader& read, const CffIndex& fonts, const CffIndex& texts,
+                QByteArray& plain) {
+  if (fonts.count != 1 || fonts.end > cff.size()) return;
+  const qsizetype dict = fonts.offset(read, 0);
+  for (const int text : textsForReading(cff, QByteArrayView(cff).sliced(dict, fonts.end - dict), texts.count))
+    for (qsizetype i = texts.offset(read, text); i < texts.offset(read, text + 1); ++i)
+      if (cff[i] == ' ') plain[i] = ' ';
+}
+
+}  // namespace
+
 std::optional<QByteArray> withPlainTexts(const QByteArray& cff) {
   ByteReader read(cff);
   const auto names = cffIndexAt(read, qsizetype(read.number(2, 1)));
@@ -49,6 +93,7 @@ std::optional<QByteArray> withPlainTexts(const QByteArray& cff) {
     const qsizetype from = list.offset(read, 0);
     result.replace(from, list.end - from, plainName(cff.mid(from, list.end - from)));
   }
+  keepBlanks(cff, read, *fonts, *texts, result);
   return result;
 }
 

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 
+#include <map>
 #include <optional>
 
 namespace norvex::engine {
@@ -36,8 +38,15 @@ struct CffIndex {
 /// The list at `start`; nothing when it is damaged. Its end may lie outside the file.
 [[nodiscard]] std::optional<CffIndex> cffIndexAt(ByteReader& read, qsizetype start);
 
+inline constexpr int CffCharStrings = 17;  ///< the operator whose operand is the place of the outlines
+inline constexpr int cffEscape = 0xC00;    ///< added to operators of two bytes
+
+/// The operators of a dictionary of a CFF font, each with its last operand; real numbers count as 0.
+[[nodiscard]] std::map<int, qint64> cffOperands(QByteArrayView dict);
+
 /// The CFF font `cff` with plain names (plainName()) in place of its texts, glyph names above all: whoever
-/// writes them into a program writes no program of the font's. Nothing when its lists are damaged.
+/// writes them into a program writes no program of the font's. Blanks stay in the texts that are nothing but
+/// read. Nothing when its lists are damaged.
 [[nodiscard]] std::optional<QByteArray> withPlainTexts(const QByteArray& cff);
 
 }  // namespace norvex::engine

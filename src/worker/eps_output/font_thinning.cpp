@@ -130,41 +130,18 @@ class Outlines {
   int count_ = 0;
 };
 
-// The operand of the operator "CharStrings" of a font's dictionary.
-std::optional<qsizetype> charstringsPlace(ByteReader& read, qsizetype at, qsizetype end) {
-  qint64 operand = -1;
-  while (at < end && read.valid()) {
-    const auto first = int(read.number(at, 1));
-    if (first == 17) return operand > 0 ? std::optional<qsizetype>(operand) : std::nullopt;
-    if (first <= 21) {
-      at += first == 12 ? 2 : 1;
-    } else if (first == 28) {
-      operand = qint16(read.number(at + 1, 2)), at += 3;
-    } else if (first == 29) {
-      operand = qint32(read.number(at + 1, 4)), at += 5;
-    } else if (first == 30) {
-      for (++at; at < end && (read.number(at, 1) & 0xf) != 0xf && (read.number(at, 1) >> 4) != 0xf;) ++at;
-      ++at;
-    } else if (first <= 246) {
-      operand = first - 139, at += 1;
-    } else {
-      const auto second = qint64(read.number(at + 1, 1));
-      operand = first <= 250 ? (first - 247) * 256 + second + 108 : -(first - 251) * 256 - second - 108;
-      at += 2;
-    }
-  }
-  return {};
-}
-
 std::optional<QByteArray> thinnedCff(const QByteArray& cff, const std::set<int>& glyphs) {
   ByteReader read(cff);
   const auto names = cffIndexAt(read, qsizetype(read.number(2, 1)));
   if (!names) return {};
   const auto fonts = cffIndexAt(read, names->end);
   if (!fonts || fonts->count != 1 || fonts->end > cff.size()) return {};
-  const auto place = charstringsPlace(read, fonts->offset(read, 0), fonts->offset(read, 1));
-  if (!place) return {};
-  const auto outlines = cffIndexAt(read, *place);
+  const qsizetype dict = fonts->offset(read, 0);
+  const auto operands = cffOperands(QByteArrayView(cff).sliced(dict, fonts->end - dict));
+  const auto charStrings = operands.find(CffCharStrings);
+  if (charStrings == operands.end() || charStrings->second <= 0) return {};
+  const auto place = qsizetype(charStrings->second);
+  const auto outlines = cffIndexAt(read, place);
   if (!outlines || outlines->count == 0 || outlines->end > cff.size()) return {};
   QByteArray data;
   QByteArray offsets((outlines->count + 1) * outlines->offsetSize, '\0');
@@ -179,7 +156,7 @@ std::optional<QByteArray> thinnedCff(const QByteArray& cff, const std::set<int>&
     else if (length > 0)
       data += kEndOfCharstring;
   }
-  const qsizetype start = *place + 3;
+  const qsizetype start = place + 3;
   if (!read.valid() || start + offsets.size() + data.size() >= outlines->end) return {};
   QByteArray result = cff;
   return result.replace(start, offsets.size() + data.size(), offsets + data);

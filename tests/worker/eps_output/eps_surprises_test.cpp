@@ -4,6 +4,7 @@
 #include "worker/eps_output/cff_index.h"
 #include "worker/eps_output/type1_font.h"
 #include "worker/kit/eps_kit.h"
+#include "worker/kit/made_font.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/kit/made_type1.h"
 
@@ -155,6 +156,32 @@ class EpsSurprisesTest : public QObject {
     QCOMPARE(*plain, opening + list({"Na_me"}) + rest + list({"a_HOSTILE", "__HOSTILE__"}) + "end of it");
     QVERIFY(!withPlainTexts(cff.left(20)));
     QVERIFY(!withPlainTexts({}));
+  }
+
+  void aNoticeKeepsItsBlanksUnlessItNamesAGlyph_data() {
+    QTest::addColumn<int>("glyphName");
+    QTest::addColumn<QByteArray>("notice");
+    QTest::newRow("a text alone") << 392 << QByteArray("By A _B_, 2014");
+    QTest::newRow("a glyph's name, too") << 391 << QByteArray("By_A__B_,_2014");
+  }
+  void aNoticeKeepsItsBlanksUnlessItNamesAGlyph() {
+    QFETCH(int, glyphName);
+    QFETCH(QByteArray, notice);
+    using kit::bigEndian, kit::cffIndex;
+    const QByteArray head = QByteArray("\1\0\4\1", 4) + cffIndex({"Name"});
+    const auto dict = [](qsizetype charset, qsizetype outlines) {
+      return cffIndex({'\x1c' + bigEndian(391, 2) + '\1' + '\x1d' + bigEndian(quint32(charset), 4) + '\x0f' +
+                       '\x1d' + bigEndian(quint32(outlines), 4) + '\x11'});
+    };
+    const QByteArray texts = cffIndex({"By A (B), 2014", "gl yph"}), none = cffIndex({});
+    const qsizetype charset = head.size() + dict(0, 0).size() + texts.size() + none.size();
+    const QByteArray names = QByteArray(1, '\0') + bigEndian(quint32(glyphName), 2);
+    const QByteArray cff =
+        head + dict(charset, charset + names.size()) + texts + none + names + cffIndex({"\x0e", "\x0e"});
+    const auto plain = withPlainTexts(cff);
+    QVERIFY(plain);
+    QCOMPARE(plain->size(), cff.size());
+    QVERIFY2(plain->contains(notice + "gl_yph"), plain->constData() + head.size());
   }
 
   void postScriptOfTheDocumentIsLeftOutAndTold() {

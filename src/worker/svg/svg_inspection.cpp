@@ -18,6 +18,7 @@
 #include "worker/svg/svg_nesting.h"
 #include "worker/svg/svg_stretching.h"
 #include "worker/svg/svg_style_facts.h"
+#include "worker/svg/svg_text_sizes.h"
 
 namespace norvex::engine {
 namespace {
@@ -29,7 +30,6 @@ constexpr qsizetype kOrdinaryText = 9'000'000;
 constexpr int kOrdinaryDepth = 240;
 // Selectors within selectors (":not(:not(…") that use up the stack of who reads style sheets.
 constexpr int kDeepestSelector = 500;
-constexpr double kOrdinaryFont = 16;  // what a text without a size has
 // Letters whose outlines and shapes use up the memory; in user units, or in what the number stands before.
 constexpr double kLargestFont = 1.0e6;
 // Beyond it librsvg gives a filter's matrix up, and itself with it.
@@ -75,6 +75,7 @@ class Inspector {
   void followUrls(const QString& value);
   void lookAtStyleSheet(const QString& css);
   void checkFontSize(double size);
+  [[nodiscard]] static double ownFontSize(const QList<Attribute>& attributes);
   void lookAtReference(const QString& element, const QString& value);
   void declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
                xmlChar* content);
@@ -88,6 +89,7 @@ class Inspector {
   SvgNesting nesting_;
   SvgFonts fonts_;
   SvgStretching stretching_;
+  SvgTextSizes sizes_;
   QString styleSheet_;
   std::optional<Error> error_;
   QString* collecting_ = nullptr;  // title, description or style sheet
@@ -97,8 +99,6 @@ class Inspector {
   qint64 expanded_ = 0;
   int uses_ = 0;
   qsizetype textRun_ = 0;
-  double largestFont_ = kOrdinaryFont;
-  bool hasText_ = false;
 };
 
 Inspector::Inspector() : entities_(xmlNewDoc(nullptr)) {
@@ -188,7 +188,6 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
     }
   }
   fonts_.element(svg ? name : QString());
-  hasText_ = hasText_ || (svg && name == QLatin1String("text"));
   if (svg && name == QLatin1String("script")) found_.hasScript = true;
   if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set")))
     found_.hasAnimation = true;
@@ -200,6 +199,7 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
   }
   nesting_.open(id);
   stretching_.open(svg ? name : QString(), transform, preserveAspectRatio);
+  sizes_.open(svg ? name : QString(), transform, ownFontSize(attributes));
   for (const Attribute& attribute : attributes) {
     lookAt(name, attribute);
     if (svg && attribute.prefix.isEmpty()) fonts_.attribute(attribute.name, attribute.value);
@@ -253,6 +253,7 @@ void Inspector::lookAtStyleSheet(const QString& css) {
   const SvgStyleFacts style = svgStyleFacts(css);
   found_.outsideReferences += style.outsideReferences;
   checkFontSize(style.largestFont);
+  sizes_.styleSheet(style.largestFont);
   if (style.deepestBrackets > kDeepestSelector)
     stop(ErrorKind::Limit,
          QStringLiteral("the selectors of the document's style sheets nest more than %1 deep")
@@ -260,10 +261,19 @@ void Inspector::lookAtStyleSheet(const QString& css) {
 }
 
 void Inspector::checkFontSize(double size) {
-  largestFont_ = std::max(largestFont_, size);
   if (size > kLargestFont)
     stop(ErrorKind::Limit,
          QStringLiteral("the document has text of more than %1 units in size").arg(kLargestFont, 0, 'f', 0));
+}
+
+double Inspector::ownFontSize(const QList<Attribute>& attributes) {
+  double size = 0;
+  for (const Attribute& attribute : attributes) {
+    if (attribute.name == QLatin1String("font-size")) size = std::max(size, largestNumber(attribute.value));
+    if (attribute.name == QLatin1String("style") && attribute.value.contains(QLatin1String("font")))
+      size = std::max(size, svgStyleFacts(attribute.value).largestFont);
+  }
+  return size;
 }
 
 void Inspector::lookAtReference(const QString& element, const QString& value) {
@@ -286,6 +296,7 @@ void Inspector::end() {
   --depth_;
   nesting_.close();
   stretching_.close();
+  sizes_.close();
 }
 
 void Inspector::characters(const xmlChar* bytes, int length) {
@@ -358,7 +369,7 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
     return Error{ErrorKind::Limit, QStringLiteral("the references of the document nest more than %1 deep")
                                        .arg(limits::maximumDrawingDepth)};
   found_.fonts = fonts_.families();
-  if (hasText_) found_.largestFont = largestFont_;
+  found_.largestFont = sizes_.largest();
   found_.stretchedText = stretching_.reachesText();
   found_.fontLists = fonts_.lists();
   found_.hasLayers = found_.hasLayers || found_.hasStyleSheet;

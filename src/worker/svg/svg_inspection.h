@@ -21,7 +21,7 @@ struct SvgInspection {
   int filters = 0;               ///< elements drawn through a filter, as far as their own attributes tell
   int masks = 0;                 ///< elements drawn through a mask, likewise
   double morphologyRadius = 0;   ///< the largest by which a filter thickens or thins, in user units
-  double largestFont = 0;        ///< of its texts, in user units; 0 without any
+  double largestFont = 0;        ///< as SvgTextSizes counts it; 0 without text
   bool stretchedText = false;    ///< text may be drawn under a transform that is more than a similarity
   int outsideReferences = 0;     ///< images, styles and other things that are in other files; never loaded
   /// Something is drawn on a layer of its own: group opacity, filters, masks, blending. True also where a

@@ -18,7 +18,7 @@ struct SvgImageEffects {
   double morphologyRadius = 0;  ///< the largest by which a filter thickens or thins, in pixels
   bool stretchedText = false;   ///< text is drawn under a transform that is more than a similarity
   double userScale = 1;         ///< pixels a user unit, as far as the view box tells
-  double largestFont = 0;       ///< user units; 0: there is no text
+  double largestFont = 0;       ///< user units, as SvgTextSizes counts it; 0: there is no text
 };
 
 /// A page of exactly the picture's size in points. Vectors stay vectors and text stays text, but for outlines

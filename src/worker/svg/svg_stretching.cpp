@@ -47,6 +47,20 @@ bool stretches(const QString& transform) {
   return false;
 }
 
+double enlargement(const QString& transform) {
+  static const QRegularExpression function(QStringLiteral("(matrix|scale)\\s*\\(([^)]*)\\)"));
+  double factor = 1;
+  for (auto match = function.globalMatch(transform); match.hasNext();) {
+    const QRegularExpressionMatch found = match.next();
+    const QList<double> n = numbersIn(found.capturedView(2));
+    if (found.captured(1) == QLatin1String("scale") && !n.isEmpty())
+      factor *= std::max(std::abs(n.first()), std::abs(n.size() > 1 ? n[1] : n[0]));
+    else if (n.size() >= 4)
+      factor *= std::max(std::hypot(n[0], n[1]), std::hypot(n[2], n[3]));
+  }
+  return std::isfinite(factor) ? factor : 1;
+}
+
 void SvgStretching::open(const QString& element, const QString& transform,
                          const QString& preserveAspectRatio) {
   const bool own = (!transform.isEmpty() && stretches(transform)) ||

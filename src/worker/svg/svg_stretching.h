@@ -23,5 +23,7 @@ class SvgStretching {
 
 /// Whether a `transform` attribute does more than move, turn, mirror and enlarge.
 [[nodiscard]] bool stretches(const QString& transform);
+/// How much longer a `transform` attribute makes a line at the most; 1 for what only moves and turns.
+[[nodiscard]] double enlargement(const QString& transform);
 
 }  // namespace norvex::engine

@@ -92,6 +92,21 @@ class SvgStyleFactsTest : public QObject {
     const auto eps = (*engine)->compose({VectorFormat::Eps, 0, QRectF(-1350, -1012.5, 2700, 2025), 0});
     QVERIFY(eps);
   }
+
+  void smallTextThatATransformEnlargesIsDrawnAsOutlines() {
+    EngineContext context;
+    for (const char* enlarged :
+         {"<g transform='scale(100)'><text y='5' font-size='4'>Big</text></g>",
+          "<text transform='matrix(100 0 0 100 0 0)' y='5' font-size='4'>Big</text>"}) {
+      const auto engine =
+          openSvg(QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='2000' height='600'>") +
+                      enlarged + "</svg>",
+                  context);
+      QVERIFY(engine);
+      const auto pdf = (*engine)->pdf({0});
+      QVERIFY2(pdf, qPrintable(pdf ? QString() : pdf.error().message));
+    }
+  }
 };
 
 NORVEX_TEST(SvgStyleFactsTest)

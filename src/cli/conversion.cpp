@@ -79,6 +79,7 @@ Conversion convertPicture(PictureService& service, PictureSource source, const C
 
   surroundings.raster = {options.dpi, options.background};
   surroundings.quality = options.quality;
+  surroundings.actions = options.keepActions ? SourceActions::Keep : SourceActions::LeaveOut;
   surroundings.region = region;
   surroundings.isLastUse = true;
   surroundings.subjectMayBeLeftOut = true;

@@ -22,6 +22,7 @@ struct ConversionOptions {
   std::optional<int> page;     ///< from 1
   double dpi = 72;
   std::optional<int> quality;  ///< 1 … 100; nothing: the format's own
+  bool keepActions = false;    ///< of a PDF, in the PDF made of it
   QColor background;           ///< invalid: what is not painted stays transparent
   PictureLimits limits;
 };

@@ -19,6 +19,7 @@ ConversionOptions optionsOf(const Arguments& arguments, ValueReader& values) {
   options.dpi = values.number(Option::Dpi, 72, 1, 9600);
   options.background = values.background();
   if (arguments.has(Option::Quality)) options.quality = values.integer(Option::Quality, 1, 1, 100);
+  options.keepActions = arguments.has(Option::KeepActions);
   options.limits = values.limits();
   return options;
 }
@@ -61,6 +62,8 @@ ReadPlan readConvertPlan(const Arguments& arguments) {
   plan.options.format = *formatOf(arguments);
   if (plan.options.quality && rowOf(plan.options.format).quality == NoQuality)
     values.complain(QStringLiteral("--quality goes with one of: %1").arg(latin1(qualityFormatNames.text())));
+  if (plan.options.keepActions && plan.options.format != PictureFormat::Pdf)
+    values.complain(QStringLiteral("--keep-actions goes with pdf"));
   plan.jobs = values.integer(Option::Jobs, QThread::idealThreadCount(), 1, 256);
   plan.force = arguments.has(Option::Force);
   plan.json = arguments.has(Option::Json);

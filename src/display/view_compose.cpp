@@ -8,7 +8,7 @@ namespace norvex {
 
 Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& placement, VectorFormat format,
                                  const QRectF& rect, const CancelToken& cancel,
-                                 const std::optional<PdfAttributes>& attributes) {
+                                 const std::optional<PdfAttributes>& attributes, bool keepActions) {
   if (!imageRep) return Error{ErrorKind::CannotRead, QStringLiteral("there is no picture")};
   if (rect.isEmpty() || !isFinite(rect) || !std::isfinite(placement.rotate))
     return Error{ErrorKind::Unsupported, QStringLiteral("the rectangle is empty or out of range")};
@@ -25,6 +25,7 @@ Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& p
   request.rect = rect.translated(shift);
   request.rotate = placement.rotate;
   request.attributes = attributes;
+  request.keepActions = keepActions;
   return imageRep->process()->compose(request, cancel);
 }
 

@@ -18,10 +18,12 @@ struct PicturePlacement {
 };
 
 /// `rect` is in the view's coordinates. Fails without a picture, for a rectangle that is empty or not finite,
-/// and where the picture process does. A PDF gets the attributes. Blocks; any thread.
+/// and where the picture process does. A PDF gets the attributes, and keeps what a PDF does beside being
+/// drawn where that is wanted. Blocks; any thread.
 [[nodiscard]] Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& placement,
                                                VectorFormat format, const QRectF& rect,
                                                const CancelToken& cancel = {},
-                                               const std::optional<PdfAttributes>& attributes = {});
+                                               const std::optional<PdfAttributes>& attributes = {},
+                                               bool keepActions = false);
 
 }  // namespace norvex

@@ -20,6 +20,14 @@ struct NSWindowDepth {
   bool operator==(const NSWindowDepth&) const = default;
 };
 
+/// What becomes of what a PDF does beside being drawn (scripts, actions, files elsewhere) in a PDF made of
+/// it.
+enum class SourceActions {
+  WithTheWhole,  ///< they stay in a file that is handed on as it is, and are left out of a part of it
+  LeaveOut,      ///< of the whole file too, which is then written anew
+  Keep,
+};
+
 struct EncoderSurroundings {
   PictureService* service = nullptr;  ///< borrowed; opens what a format is made of on the way
   QString userFullName;
@@ -33,7 +41,8 @@ struct EncoderSurroundings {
   /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
   std::optional<PictureRegion> region;
   bool isLastUse = false;  ///< of the picture: its process may go when nothing is left to ask
-  bool onePage = false;    ///< hand out the shown page of a PDF, not the whole file
+  SourceActions actions = SourceActions::WithTheWhole;
+  bool onePage = false;  ///< hand out the shown page of a PDF, not the whole file
   /// A PDF of a picture with a description and no title is made without a subject, with a warning; otherwise
   /// it is not made.
   bool subjectMayBeLeftOut = false;

@@ -16,6 +16,7 @@
 #include "picture/pdf_image_rep.h"
 #include "picture/picture_header.h"
 #include "picture/web_image_rep.h"
+#include "protocol/every_page.h"
 
 namespace norvex {
 namespace {
@@ -66,8 +67,8 @@ void PictureEncoder::addWarnings(const QStringList& warnings) {
 QByteArray PictureEncoder::composed(VectorFormat format, const std::optional<PdfAttributes>& attributes) {
   const PictureRegion region = surroundings_.region.value_or(wholePicture(*imageRep_));
   const QPointF centre(imageRep_->size().width() / 2, imageRep_->size().height() / 2);
-  return take(
-      composeView(imageRep_.get(), {centre, region.rotate}, format, region.rect, cancel_, attributes));
+  return take(composeView(imageRep_.get(), {centre, region.rotate}, format, region.rect, cancel_, attributes,
+                          surroundings_.actions == SourceActions::Keep));
 }
 
 // ---- EPS --------------------------------------------------------------------------------------------------
@@ -155,7 +156,10 @@ QByteArray PictureEncoder::epsiData() {
 QByteArray PictureEncoder::pdfData() {
   if (!imageRep_) return {};
   if (const auto* pdf = dynamic_cast<const NSPDFImageRep*>(imageRep_.get()); pdf && handsOnSource()) {
-    return pdf->PDFRepresentation();
+    if (surroundings_.actions != SourceActions::LeaveOut) return pdf->PDFRepresentation();
+    const QByteArray made = take(pdf->process()->pdf({everyPage, std::nullopt, false}, cancel_));
+    retire();
+    return made;
   }
   const bool wholeSvg = imageRep_->pictureKind() == PictureKind::Svg && handsOnSource();
   const std::optional<PdfAttributes> attributes = attributesFrom(header());

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "protocol/every_page.h"
 #include "protocol/limits.h"
 #include "protocol/message_fields.h"
 
@@ -69,7 +70,7 @@ void fields(V& v, Of<V, PdfAttributes>& attributes) {
 
 template <typename V>
 void fields(V& v, Of<V, PdfRequest>& pdf) {
-  v.integer(Key("page"), pdf.page, 0, limits::maximumPageNumber);
+  v.integer(Key("page"), pdf.page, everyPage, limits::maximumPageNumber);
   v.optional(Key("information"), pdf.attributes, [&](auto& some) { v.nested(Key("information"), some); });
   v.boolean(Key("keepActions"), pdf.keepActions);
 }

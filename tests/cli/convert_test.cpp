@@ -17,6 +17,7 @@
 #include "cli/cli_files.h"
 #include "kit/test_main.h"
 #include "picture/document_file.h"
+#include "protocol/every_page.h"
 
 using namespace norvex;
 using namespace norvex::testdata;
@@ -73,6 +74,7 @@ class ConvertTest : public QObject {
       if (isWritten(format) && format.quality == NoQuality)
         row({"a.eps", "-o", "b", "--quality", "50", "--format", QString(latin1(format.name))},
             "--quality goes with one of: " + QString(latin1(qualityFormatNames.text())));
+    row({"a.pdf", "-o", "b.eps", "--keep-actions"}, "--keep-actions goes with pdf");
     row({"a.eps", "-o", "b.png", "--jobs", "0"}, "--jobs is a number from 1 to 256");
     row({"a.eps", "-o", "b.png", "--timeout", "-1"}, "--timeout is a number from 1 to 10000000");
     row({"a.eps", "-o", "b.png", "--memory", "1"}, "--memory is a number from 64 to 1048576");
@@ -409,6 +411,43 @@ class ConvertTest : public QObject {
     const QString pdf = line.write("a.pdf", bytes);
     QCOMPARE(line.run({"convert", pdf, "-o", line.path("b.pdf"), "--page", "1"}), 0);
     QCOMPARE(line.contents("b.pdf"), bytes);
+  }
+
+  void whatAPdfDoesIsLeftOutAndToldUnlessItIsKept() {
+    CommandLine line;
+    const QByteArray bytes = emptyPdf({200, 100}), cleaned = emptyPdf({20, 10});
+    const QString pdf = line.write("a.pdf", bytes);
+    QList<PdfRequest> requests;
+    MemoryPicture picture;
+    picture.pdf = [&](const PdfRequest& request) {
+      requests << request;
+      return cleaned;
+    };
+    picture.report.warnings = {"scripts of the document were left out"};
+    line.service.setPicture(picture);
+    QCOMPARE(line.run({"convert", pdf, "-o", line.path("b.pdf")}), 0);
+    QCOMPARE(line.console.messages, QString("norvex: %1: scripts of the document were left out\n").arg(pdf));
+    QCOMPARE(line.contents("b.pdf"), cleaned);
+    QCOMPARE(requests.size(), 1);
+    QCOMPARE(requests.first().page, everyPage);
+    QVERIFY(!requests.first().keepActions);
+
+    QCOMPARE(line.run({"convert", pdf, "-o", line.path("c.pdf"), "--keep-actions"}), 0);
+    QCOMPARE(line.console.messages, QString());
+    QCOMPARE(line.contents("c.pdf"), bytes);
+    QCOMPARE(requests.size(), 1);
+  }
+
+  void aPartOfAPdfKeepsWhatItDoesOnlyWhenThatIsAsked() {
+    CommandLine line;
+    const QString pdf = line.write("a.pdf", emptyPdf({200, 100}));
+    for (const bool kept : {false, true}) {
+      QStringList arguments{"convert", pdf, "-o", line.path("b.pdf"), "--force", "--rotate", "30"};
+      if (kept) arguments << "--keep-actions";
+      QCOMPARE(line.run(arguments), 0);
+      QCOMPARE(line.service.lastProcess()->composeRequests().size(), 1);
+      QCOMPARE(line.service.lastProcess()->composeRequests().first().keepActions, kept);
+    }
   }
 
   void onlyAnSvgPictureBecomesSvg() {

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include "protocol/every_page.h"
+
 namespace norvex {
 
 MemoryPicture::MemoryPicture() {
@@ -154,6 +156,7 @@ Result<PictureBytes> MemoryPictureProcess::pdf(const PdfRequest& request, const 
   const std::lock_guard serial(serial_);
   if (const auto begun = begin(PictureCall::Pdf, cancel); !begun) return begun.error();
   if (picture_.pdf) return PictureBytes{picture_.pdf(request), picture_.report};
+  if (request.page == everyPage) return PictureBytes{bytes_, picture_.report};
   return PictureBytes{emptyPdf(picture_.facts.pageBounds.value(request.page).size()), picture_.report};
 }
 

@@ -31,7 +31,8 @@ struct MemoryPicture {
   QStringList drawingRemarks;
   BytesReply report;                                  ///< of pdf, compose and svg
   std::function<QImage(const RenderRequest&)> paint;  ///< Default: testPattern() of the page
-  std::function<QByteArray(const PdfRequest&)> pdf;   ///< Default: an empty page of the page's size
+  std::function<QByteArray(const PdfRequest&)> pdf;   ///< Default: an empty page of the page's size, or for
+                                                      ///< every page the bytes that were opened
   std::function<QByteArray(const ComposeRequest&)>
       compose;                                       ///< Default: an empty page of the rectangle's size
   std::function<QByteArray(const SvgRequest&)> svg;  ///< Default: the bytes that were opened

@@ -10,8 +10,9 @@ Result<EngineBytes> composePage(const QByteArray& pdf, const ComposeRequest& req
   const bool toEps = request.format == VectorFormat::Eps;
   QStringList leftOut;
   // Nobody expects actions of an EPS: that it has none is not worth a sentence.
+  const bool keep = toEps || request.keepActions;
   Result<QByteArray> composed =
-      composePdf(pdf, request, toEps ? DocumentActions::Keep : DocumentActions::LeaveOut, &leftOut);
+      composePdf(pdf, request, keep ? DocumentActions::Keep : DocumentActions::LeaveOut, &leftOut);
   if (!composed) return composed.error();
   Result<EngineBytes> result = toEps ? epsFromPdf(*composed, context) : EngineBytes{std::move(*composed), {}};
   if (result) result->report.warnings = leftOut + result->report.warnings;

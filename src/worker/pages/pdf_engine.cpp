@@ -1,7 +1,9 @@
 #include "worker/pages/pdf_engine.h"
 
 // The engine of PDF documents and of Illustrator files that are PDF inside.
+#include "protocol/every_page.h"
 #include "worker/drawing/installed_fonts.h"
+#include "worker/pages/actions_left_out.h"
 #include "worker/pages/compose_page.h"
 #include "worker/pdf/compose_pdf.h"
 #include "worker/pdf/illustrator_notice.h"
@@ -38,10 +40,13 @@ class PdfEngine final : public DocumentEngine {
   }
 
   Result<EngineBytes> pdf(const PdfRequest& request) override {
+    if (request.page == everyPage)
+      return request.keepActions ? EngineBytes{bytes_, {}} : leaveOutActions(bytes_);
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
     ComposeRequest whole = wholePage(request.page, *size, VectorFormat::Pdf);
     whole.attributes = request.attributes;
+    whole.keepActions = request.keepActions;
     return composePage(bytes_, whole, context_);
   }
 

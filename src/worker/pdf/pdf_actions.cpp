@@ -50,10 +50,12 @@ void tellOfClicks(QPDFObjectHandle page, QStringList& sentences) {
   }
 }
 
-// Everything that can be drawn from `start`, each stream once.
-class Drawn {
+enum class Reach { Drawn, Everything };
+
+// What can be drawn from `start`, or everything that it leads to, actions and all; each object once.
+class Cleaner {
  public:
-  explicit Drawn(QStringList& sentences) : sentences_(sentences) {}
+  Cleaner(QStringList& sentences, Reach reach) : sentences_(sentences), reach_(reach) {}
 
   void clean(QPDFObjectHandle start) {
     open_.push_back(start);
@@ -66,10 +68,9 @@ class Drawn {
         object = object.getDict();
       }
       if (object.isDictionary()) {
+        if (reach_ == Reach::Everything) cleanActions(object);
         for (const std::string& key : object.getKeys())
-          if (key != "/Parent" && key != "/P" && key != "/A" && key != "/AA" && key != "/Dest" &&
-              key != "/Popup")
-            open_.push_back(object.getKey(key));
+          if (isFollowed(key)) open_.push_back(object.getKey(key));
       } else if (object.isArray()) {
         for (int i = 0; i < object.getArrayNItems(); ++i) open_.push_back(object.getArrayItem(i));
       }
@@ -77,6 +78,33 @@ class Drawn {
   }
 
  private:
+  [[nodiscard]] bool isFollowed(const std::string& key) const {
+    return reach_ == Reach::Everything || (key != "/Parent" && key != "/P" && key != "/A" && key != "/AA" &&
+                                           key != "/Dest" && key != "/Popup");
+  }
+
+  // Under these keys actions hang on whatever may have some; elsewhere they mean other things, which stay.
+  void cleanActions(QPDFObjectHandle holder) {
+    for (const char* key : {"/A", "/OpenAction"}) {
+      QStringList told;
+      tellOfAction(holder.getKey(key), told);
+      if (!told.isEmpty()) leaveOut(holder, key, told);
+    }
+    QPDFObjectHandle triggers = holder.getKey("/AA");
+    QStringList told;
+    tellOfTriggers(triggers, told);
+    if (!told.isEmpty()) leaveOut(holder, "/AA", told);
+    // The scripts of a document by their names.
+    if (holder.getKey("/Type").isNameAndEquals("/Catalog") && holder.getKey("/Names").isDictionary() &&
+        holder.getKey("/Names").hasKey("/JavaScript"))
+      leaveOut(holder.getKey("/Names"), "/JavaScript", {kScripts});
+  }
+
+  void leaveOut(QPDFObjectHandle holder, const char* key, const QStringList& told) {
+    holder.removeKey(key);
+    for (const QString& sentence : told) tell(sentences_, sentence);
+  }
+
   void cleanStream(QPDFObjectHandle stream) {
     QPDFObjectHandle entries = stream.getDict();
     QPDFObjectHandle file = entries.getKey("/F");
@@ -100,6 +128,7 @@ class Drawn {
   }
 
   QStringList& sentences_;
+  const Reach reach_;
   std::vector<QPDFObjectHandle> open_;
   std::set<QPDFObjGen> seen_;
 };
@@ -134,8 +163,14 @@ PageActions takeActions(QPDF& qpdf, QPDFObjectHandle page, DocumentActions actio
     tellOfTriggers(page.getKey("/AA"), found.leftOut);
     tellOfClicks(page, found.leftOut);
   }
-  Drawn(found.leftOut).clean(page);
+  Cleaner(found.leftOut, Reach::Drawn).clean(page);
   return found;
+}
+
+QStringList leaveOutActions(QPDF& qpdf) {
+  QStringList leftOut;
+  Cleaner(leftOut, Reach::Everything).clean(qpdf.getRoot());
+  return leftOut;
 }
 
 void putBack(const PageActions& actions, QPDF& qpdf, QPDFObjectHandle page) {

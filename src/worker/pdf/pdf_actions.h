@@ -26,6 +26,11 @@ struct PageActions {
 /// becomes part of the drawing. Throws as qpdf does.
 [[nodiscard]] PageActions takeActions(QPDF& qpdf, QPDFObjectHandle page, DocumentActions actions);
 
+/// Takes them out of the whole document, every page and whatever belongs to it; what is left out, one
+/// sentence for each kind. Links within the document and to the web stay, and so does what happens at opening
+/// when it is but going to a page. Throws as qpdf does.
+[[nodiscard]] QStringList leaveOutActions(QPDF& qpdf);
+
 /// Into the catalogue of `qpdf` and its only page.
 void putBack(const PageActions& actions, QPDF& qpdf, QPDFObjectHandle page);
 

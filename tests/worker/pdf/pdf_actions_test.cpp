@@ -1,8 +1,10 @@
 #include "worker/pdf/pdf_actions.h"
 
 #include "kit/test_main.h"
+#include "protocol/every_page.h"
 #include "worker/engine/engine.h"
 #include "worker/kit/made_pdf.h"
+#include "worker/pages/actions_left_out.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/pdf/compose_pdf.h"
 #include "worker/pdf/pdf_file.h"
@@ -110,6 +112,48 @@ class PdfActionsTest : public QObject {
       QVERIFY(!QByteArray::fromStdString(object.unparseResolved()).contains("HOSTILE"));
   }
 
+  void actionsAreLeftOutOfAWholeDocumentAndTold_data() { actionsAreLeftOutAndTold_data(); }
+  void actionsAreLeftOutOfAWholeDocumentAndTold() {
+    QFETCH(QByteArray, pdf);
+    QFETCH(QStringList, told);
+    const auto cleaned = leaveOutActions(pdf);
+    QVERIFY(cleaned);
+    QStringList sentences = told;
+    sentences.removeAll(kOpening);  // here it is told by what it does
+    QStringList leftOut = cleaned->report.warnings;
+    leftOut.sort(), sentences.sort();
+    QCOMPARE(leftOut, sentences);
+    if (sentences.isEmpty()) QCOMPARE(cleaned->bytes, pdf);
+    const auto file = PdfFile::open(cleaned->bytes);
+    QVERIFY(file);
+    for (QPDFObjectHandle object : (*file)->qpdf().getAllObjects())
+      QVERIFY(!QByteArray::fromStdString(object.unparseResolved()).contains("HOSTILE"));
+  }
+
+  void whatIsLeftOutOfAWholeDocumentIsNoneOfItsPages() {
+    const QByteArray pdf =
+        madePdf({"<< /Type /Catalog /Pages 2 0 R /Outlines 6 0 R /OpenAction [4 0 R /Fit] /AA << /WP " +
+                     kScript + " >> /AcroForm << /Fields [7 0 R] >> >>",
+                 "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 >>",
+                 "<< /Type /Page /Parent 2 0 R /Contents 5 0 R /MediaBox [0 0 200 100] >>",
+                 "<< /Type /Page /Parent 2 0 R /Contents 5 0 R /MediaBox [0 0 20 10] /Annots [7 0 R] >>",
+                 stream("0 0 5 5 re f"), "<< /Type /Outlines /First 8 0 R /Last 8 0 R /Count 1 >>",
+                 "<< /Type /Annot /Subtype /Widget /FT /Btn /Rect [0 0 9 9] /AA << /U " + kLaunch + " >> >>",
+                 "<< /Title (One) /Parent 6 0 R /A << /S /GoTo /D [3 0 R /Fit] /Next " + kScript + " >> >>"});
+    const auto cleaned = leaveOutActions(pdf);
+    QVERIFY(cleaned);
+    QVERIFY(cleaned->report.warnings.contains(kScripts) && cleaned->report.warnings.contains(kPrograms));
+    const auto file = PdfFile::open(cleaned->bytes);
+    QVERIFY(file);
+    QCOMPARE((*file)->pageCount(), 2);
+    QPDFObjectHandle root = (*file)->qpdf().getRoot();
+    QVERIFY(root.getKey("/OpenAction").isArray());
+    QVERIFY(root.getKey("/Outlines").getKey("/First").hasKey("/Title"));
+    QCOMPARE(root.getKey("/AcroForm").getKey("/Fields").getArrayNItems(), 1);
+    for (QPDFObjectHandle object : (*file)->qpdf().getAllObjects())
+      QVERIFY(!QByteArray::fromStdString(object.unparseResolved()).contains("HOSTILE"));
+  }
+
   void theyStayWhereThatIsAskedFor() {
     const QByteArray pdf = document("/OpenAction " + kScript + " /AA << /WP " + kScript +
                                         " >> /Names << /JavaScript << /Names [(a) " + kScript +
@@ -134,6 +178,27 @@ class PdfActionsTest : public QObject {
     const QByteArray many =
         document({}, "/AA << /O 5 0 R >>", {"<< /S /Launch /Next [5 0 R 5 0 R 5 0 R] >>"});
     QVERIFY(composePdf(many, whole()));
+  }
+
+  void theRequestDecides() {
+    EngineContext context;
+    const QByteArray pdf = document("/OpenAction " + kScript);
+    const auto engine = openPdf(pdf, context);
+    QVERIFY(engine);
+    for (const bool kept : {false, true}) {
+      const auto one = (*engine)->pdf({0, std::nullopt, kept});
+      ComposeRequest request = whole();
+      request.keepActions = kept;
+      const auto part = (*engine)->compose(request);
+      const auto every = (*engine)->pdf({everyPage, std::nullopt, kept});
+      QVERIFY(one && part && every);
+      for (const auto* made : {&one, &part, &every}) {
+        QCOMPARE((*made)->report.warnings.isEmpty(), kept);
+        const auto file = PdfFile::open((*made)->bytes);
+        QCOMPARE((*file)->qpdf().getRoot().hasKey("/OpenAction"), kept);
+      }
+    }
+    QCOMPARE((*engine)->pdf({everyPage, std::nullopt, true})->bytes, pdf);
   }
 
   void theReportOfAPdfTellsIt() {

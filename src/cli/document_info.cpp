@@ -30,9 +30,9 @@ QString nameOf(DocumentKind kind) {
 }
 
 void readEps(DocumentInfo& info, PictureService& service, const QByteArray& bytes,
-             const CancelToken& cancel) {
+             const PictureLimits& limits, const CancelToken& cancel) {
   const TiffDecoder decodeTiff = [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
-    const Result<NSBitmapImageRep> preview = service.decodePreview(tiff, cancel);
+    const Result<NSBitmapImageRep> preview = service.decodePreview(tiff, cancel, limits);
     if (preview) return *preview;
     info.warnings << preview.error().message;
     return std::nullopt;
@@ -74,7 +74,7 @@ void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, 
                  const PictureLimits& limits) {
   const TimeLimit time(std::chrono::seconds(limits.seconds), {});
   info.rectangleTitle = kind == PictureKind::Svg ? QStringLiteral("ViewBox") : QStringLiteral("Bounds");
-  if (kind == PictureKind::Eps) return readEps(info, service, bytes, time.token());
+  if (kind == PictureKind::Eps) return readEps(info, service, bytes, limits, time.token());
   const Result<PictureFacts> facts = service.open(bytes, kind, limits)->facts(time.token());
   readFacts(info, facts);
   if (info.error) info.error = time.explained(*info.error);

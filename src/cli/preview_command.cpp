@@ -3,9 +3,11 @@
 #include <QImage>
 
 #include "base/atomic_file.h"
+#include "base/time_limit.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "cli/previews/embedded_preview.h"
+#include "cli/value_reader.h"
 #include "picture/bitmap_image.h"
 
 namespace norvex {
@@ -27,6 +29,9 @@ QByteArray pngOf(const NSBitmapImageRep& rep) {
 ExitCode Job::preview(const Arguments& arguments) {
   const QString file = arguments.files.first();
   const QString output = arguments.values.value(Option::Output);
+  ValueReader values(arguments);
+  const PictureLimits limits = values.limits();
+  if (!values.complaint().isEmpty()) return complain(Command::Preview, values.complaint());
   if (output != QLatin1String("-")) {
     if (const auto error = overwritesInput(file, output)) return fail(file, *error);
   }
@@ -36,8 +41,9 @@ ExitCode Job::preview(const Arguments& arguments) {
   if (!kind) return fail(file, kind.error());
 
   Result<std::optional<NSBitmapImageRep>> preview = std::optional<NSBitmapImageRep>();
-  if (*kind == PictureKind::Eps) preview = embeddedPreview(service_, *bytes);
-  if (!preview) return fail(file, preview.error());
+  const TimeLimit time(std::chrono::seconds(limits.seconds), {});
+  if (*kind == PictureKind::Eps) preview = embeddedPreview(service_, *bytes, time.token(), limits);
+  if (!preview) return fail(file, time.explained(preview.error()));
   if (!*preview) {
     (void)fail(file, {ErrorKind::Unsupported, QStringLiteral("there is no embedded preview")});
     return ExitCode::SomeFailed;

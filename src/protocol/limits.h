@@ -103,6 +103,9 @@ inline constexpr int maximumXmlDepth = 512;
 inline constexpr int maximumDrawingDepth = 1000;
 /// XML with millions of empty elements, each of which costs memory in two trees.
 inline constexpr int maximumXmlElements = 1'000'000;
+/// Elements with attributes by the hundred thousand: a parser compares each of them with all others. It is
+/// what the renderer takes as well.
+inline constexpr int maximumXmlAttributes = 65'535;
 /// Entities that expand to one another ("a billion laughs"); what Illustrator writes stays far below.
 inline constexpr qint64 maximumEntityExpansion = 64LL << 20;
 /// Entities of a few bytes that are used millions of times: each use costs the parser far more than its

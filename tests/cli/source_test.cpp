@@ -3,6 +3,7 @@
 
 #include "cli/cli_files.h"
 #include "kit/test_main.h"
+#include "metadata/binary_eps.h"
 #include "metadata/header_dictionary.h"
 #include "metadata/text_encoding.h"
 
@@ -100,6 +101,29 @@ class SourceTest : public QObject {
     line.console.terminal = true;
     QCOMPARE(line.run({"preview", file, "-o", "-"}), 4);
     QVERIFY(line.console.output.isEmpty());
+  }
+
+  void thePreviewIsBoundedLikeOtherPictures() {
+    CommandLine line;
+    NSBitmapImageRep rep;
+    rep.pixelsWide = rep.pixelsHigh = rep.bytesPerRow = 1;
+    rep.data = "x";
+    line.service.setPreview(rep);
+    const QString file = line.write("a.eps", testdata::binaryEps(kEps, "II*"));
+    QCOMPARE(line.run({"preview", file, "-o", line.path("out.png"), "--timeout", "7", "--memory", "99"}), 0);
+    QCOMPARE(line.service.previewLimits().seconds, 7);
+    QCOMPARE(line.service.previewLimits().memoryMiB, 99);
+    QCOMPARE(line.run({"preview", file, "-o", line.path("out.png"), "--timeout", "0"}), 2);
+  }
+
+  void aPreviewThatReachesALimitEndsWithFive() {
+    CommandLine line;
+    line.service.setPreview(Error{ErrorKind::Limit, "there is not enough memory for the picture"});
+    const QString file = line.write("a.eps", testdata::binaryEps(kEps, "II*"));
+    QCOMPARE(line.run({"preview", file, "-o", line.path("out.png")}), 5);
+    QCOMPARE(line.console.messages,
+             QString("norvex: %1: there is not enough memory for the picture\n").arg(file));
+    QCOMPARE(line.entries(), QStringList{"a.eps"});
   }
 
   void aFileIsNotOverwrittenUnlessForced() {

@@ -85,6 +85,11 @@ inline constexpr Commands openingCommands =
 /// that a command gets lists, trees, states and the rest by standing here.
 inline constexpr Commands archiveCommands =
     only(Command::Info) | only(Command::Preview) | only(Command::Convert);
+inline constexpr Commands everyCommand = (only(Command::Print) << 1) - 1;
+/// Those that have a picture process read a document or its preview.
+inline constexpr Commands openingCommands = only(Command::Info) | only(Command::Source) |
+                                            only(Command::Preview) | only(Command::Convert) |
+                                            only(Command::Print);
 
 /// A command takes the options of its own rows.
 struct OptionRow {

@@ -6,11 +6,12 @@
 namespace norvex {
 
 Result<std::optional<NSBitmapImageRep>> embeddedPreview(PictureService& service, const QByteArray& bytes,
-                                                        const CancelToken& cancel) {
+                                                        const CancelToken& cancel,
+                                                        const PictureLimits& limits) {
   std::optional<Error> unreadable;
   const HeaderDictionary dictionary =
       epsHeader(bytes, [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
-        Result<NSBitmapImageRep> preview = service.decodePreview(tiff, cancel);
+        Result<NSBitmapImageRep> preview = service.decodePreview(tiff, cancel, limits);
         if (preview) return *preview;
         unreadable = preview.error();
         return std::nullopt;

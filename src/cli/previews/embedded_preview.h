@@ -14,8 +14,8 @@ namespace norvex {
 
 /// What stands in an EPS file as a preview; nothing when there is none. A TIFF is decoded by a picture
 /// process, for which this blocks; no PostScript is run. Thread-safe.
-[[nodiscard]] Result<std::optional<NSBitmapImageRep>> embeddedPreview(PictureService& service,
-                                                                      const QByteArray& bytes,
-                                                                      const CancelToken& cancel = {});
+[[nodiscard]] Result<std::optional<NSBitmapImageRep>> embeddedPreview(
+    PictureService& service, const QByteArray& bytes, const CancelToken& cancel = {},
+    const PictureLimits& limits = toolLimits());
 
 }  // namespace norvex

@@ -18,17 +18,14 @@
 namespace norvex {
 namespace {
 
-PictureLimits toolLimits() {
-  PictureLimits few;
-  few.seconds = limits::toolSeconds;
-  return few;
+bool areAlike(const PictureLimits& a, const PictureLimits& b) {
+  return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels;
 }
 
 /// Whether what was prepared will do for what is wanted now.
 bool fits(const ForkRequest& prepared, const ForkRequest& wanted) {
-  const PictureLimits &a = prepared.limits, &b = wanted.limits;
-  return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels &&
-         prepared.postScript == wanted.postScript && (wanted.needs & ~prepared.needs) == 0;
+  return areAlike(prepared.limits, wanted.limits) && prepared.postScript == wanted.postScript &&
+         (wanted.needs & ~prepared.needs) == 0;
 }
 
 }  // namespace
@@ -80,10 +77,12 @@ std::shared_ptr<PictureProcess> WorkerService::open(const QByteArray& bytes, Pic
 }
 
 Result<WorkerAnswer> WorkerService::askTools(PictureNeed need, RequestBody body, const QByteArray& bytes,
-                                             const CancelToken& cancel) {
-  if (tools_ && ((tools_->request().needs & need) == 0 || !tools_->isUsable())) tools_.reset();
-  if (!tools_) {
-    auto opened = WorkerConnection::open(starter_, ForkRequest{toolLimits(), false, need});
+                                             const CancelToken& cancel, const PictureLimits& limits) {
+  const bool willDo = tools_ && (tools_->request().needs & need) != 0 &&
+                      areAlike(tools_->request().limits, limits) && tools_->isUsable();
+  if (!willDo) {
+    tools_.reset();
+    auto opened = WorkerConnection::open(starter_, ForkRequest{limits, false, need});
     if (!opened) return opened.error();
     tools_ = std::move(*opened);
   }
@@ -91,14 +90,15 @@ Result<WorkerAnswer> WorkerService::askTools(PictureNeed need, RequestBody body,
   if (!memory) return memory.error();
   const Result<quint32> id = tools_->post(std::move(body), *memory);
   if (!id) return id.error();
-  return tools_->wait(*id, QDeadlineTimer(qint64(toolLimits().seconds) * 1000), cancel);
+  return tools_->wait(*id, QDeadlineTimer(qint64(limits.seconds) * 1000), cancel);
 }
 
-Result<NSBitmapImageRep> WorkerService::decodePreview(const QByteArray& tiff, const CancelToken& cancel) {
+Result<NSBitmapImageRep> WorkerService::decodePreview(const QByteArray& tiff, const CancelToken& cancel,
+                                                      const PictureLimits& limits) {
   const auto turn = toolTurns_.take(cancel);
   if (!turn) return workCancelled();
-  Result<WorkerAnswer> answer = askTools(NeedPreviews, DecodePreviewRequest{}, tiff, cancel);
-  Result<NSBitmapImageRep> bitmap = answer ? bitmapFrom(std::move(*answer), toolLimits()) : answer.error();
+  Result<WorkerAnswer> answer = askTools(NeedPreviews, DecodePreviewRequest{}, tiff, cancel, limits);
+  Result<NSBitmapImageRep> bitmap = answer ? bitmapFrom(std::move(*answer), limits) : answer.error();
   // A process that one document has made fail shall not see the next one.
   if (!bitmap) tools_.reset();
   return bitmap;
@@ -112,7 +112,7 @@ Result<QByteArray> WorkerService::composePages(const QByteArray& pdf, const Page
   pages.picture = !pdf.isEmpty();
   // A message's memory cannot be empty.
   Result<WorkerAnswer> answer =
-      askTools(NeedSheets, std::move(pages), pdf.isEmpty() ? QByteArray(1, ' ') : pdf, cancel);
+      askTools(NeedSheets, std::move(pages), pdf.isEmpty() ? QByteArray(1, ' ') : pdf, cancel, toolLimits());
   Result<PictureBytes> bytes = answer ? bytesFrom(std::move(*answer), toolLimits()) : answer.error();
   if (!bytes) tools_.reset();
   return bytes ? Result<QByteArray>(bytes->bytes) : Result<QByteArray>(bytes.error());

@@ -42,7 +42,8 @@ class WorkerService final : public PictureService {
   void openOnlyFor(PictureUse use) override { use_ = use; }
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
-  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
+  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {},
+                                         const PictureLimits& limits = toolLimits()) override;
   Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
                                   const CancelToken& cancel = {}) override;
 
@@ -53,7 +54,7 @@ class WorkerService final : public PictureService {
   [[nodiscard]] ForkRequest processFor(PictureKind kind, const PictureLimits& limits) const;
   /// `need`: what the process must be able to do.
   Result<WorkerAnswer> askTools(PictureNeed need, RequestBody body, const QByteArray& bytes,
-                                const CancelToken& cancel);
+                                const CancelToken& cancel, const PictureLimits& limits);
 
   std::shared_ptr<WorkerStarter> starter_;
   std::atomic<PictureUse> use_ = PictureUse::Everything;

@@ -49,8 +49,9 @@ std::shared_ptr<PictureProcess> ForwardingService::open(const QByteArray& bytes,
   return service_.open(bytes, kind, limits);
 }
 
-Result<NSBitmapImageRep> ForwardingService::decodePreview(const QByteArray& tiff, const CancelToken& cancel) {
-  return service_.decodePreview(tiff, cancel);
+Result<NSBitmapImageRep> ForwardingService::decodePreview(const QByteArray& tiff, const CancelToken& cancel,
+                                                          const PictureLimits& limits) {
+  return service_.decodePreview(tiff, cancel, limits);
 }
 
 Result<QByteArray> ForwardingService::composePages(const QByteArray& pdf, const PagesRequest& request,

@@ -219,6 +219,11 @@ int MemoryPictureService::previewCount() const {
   return previews_;
 }
 
+PictureLimits MemoryPictureService::previewLimits() const {
+  const std::lock_guard lock(mutex_);
+  return previewLimits_;
+}
+
 PictureUse MemoryPictureService::use() const {
   const std::lock_guard lock(mutex_);
   return use_;
@@ -248,9 +253,11 @@ std::shared_ptr<PictureProcess> MemoryPictureService::open(const QByteArray& byt
   return last_;
 }
 
-Result<NSBitmapImageRep> MemoryPictureService::decodePreview(const QByteArray&, const CancelToken& cancel) {
+Result<NSBitmapImageRep> MemoryPictureService::decodePreview(const QByteArray&, const CancelToken& cancel,
+                                                             const PictureLimits& limits) {
   const std::lock_guard lock(mutex_);
   ++previews_;
+  previewLimits_ = limits;
   if (cancel.cancelled())
     return Error{ErrorKind::Cancelled, QStringLiteral("the answer is no longer wanted")};
   return preview_;

@@ -121,6 +121,8 @@ class MemoryPictureService final : public PictureService {
 
   [[nodiscard]] int openCount() const;
   [[nodiscard]] int previewCount() const;
+  /// Of the preview that was decoded last.
+  [[nodiscard]] PictureLimits previewLimits() const;
   /// The last that was told; Everything before.
   [[nodiscard]] PictureUse use() const;
   [[nodiscard]] QList<PictureKind> openedKinds() const;
@@ -130,7 +132,8 @@ class MemoryPictureService final : public PictureService {
   void openOnlyFor(PictureUse use) override;
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
-  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) override;
+  Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {},
+                                         const PictureLimits& limits = toolLimits()) override;
   Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
                                   const CancelToken& cancel = {}) override;
 
@@ -141,6 +144,7 @@ class MemoryPictureService final : public PictureService {
   std::function<void(MemoryPictureProcess&)> prepare_;
   QList<PictureKind> kinds_;
   int previews_ = 0;
+  PictureLimits previewLimits_;
   PictureUse use_ = PictureUse::Everything;
   std::shared_ptr<MemoryPictureProcess> last_;
 };

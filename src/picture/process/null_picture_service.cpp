@@ -34,7 +34,8 @@ std::shared_ptr<PictureProcess> NullPictureService::open(const QByteArray&, Pict
   return std::make_shared<NullPictureProcess>(error_);
 }
 
-Result<NSBitmapImageRep> NullPictureService::decodePreview(const QByteArray&, const CancelToken&) {
+Result<NSBitmapImageRep> NullPictureService::decodePreview(const QByteArray&, const CancelToken&,
+                                                           const PictureLimits&) {
   return error_;
 }
 

@@ -13,6 +13,7 @@
 #include "base/cancel_token.h"
 #include "base/result.h"
 #include "protocol/bitmap_image_rep.h"
+#include "protocol/limits.h"
 #include "protocol/picture_needs.h"
 #include "protocol/worker_protocol.h"
 
@@ -23,6 +24,13 @@ struct PictureBytes {
   QByteArray bytes;
   BytesReply report;
 };
+
+/// What a process may use up that serves no document: previews, the sheets of a print job.
+[[nodiscard]] inline PictureLimits toolLimits() {
+  PictureLimits few;
+  few.seconds = limits::toolSeconds;
+  return few;
+}
 
 /// One document in a process of its own. Every call blocks until the answer, the time limit, the cancel or
 /// the death of the process; each of them is an ordinary Result. After a death or a cancel that cost the
@@ -65,7 +73,9 @@ class PictureService {
   virtual std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                                const PictureLimits& limits = {}) = 0;
   /// A TIFF file's first image as samples, uncompressed, rows without padding. Blocks.
-  virtual Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {}) = 0;
+  /// Of the limits the memory and the time count.
+  virtual Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {},
+                                                 const PictureLimits& limits = toolLimits()) = 0;
   /// The sheets of a print job as one PDF. `pdf` is the picture: one page; empty: the sheets hold no picture.
   /// Blocks.
   virtual Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "protocol/limits.h"
+#include "worker/svg/svg_attribute_count.h"
 #include "worker/svg/svg_fonts.h"
 #include "worker/svg/svg_nesting.h"
 #include "worker/svg/svg_stretching.h"
@@ -350,6 +351,9 @@ Error Inspector::parserError() const {
 
 Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
   if (utf8.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the document is empty")};
+  if (mostAttributes(utf8, limits::maximumXmlAttributes + 1) > limits::maximumXmlAttributes)
+    return Error{ErrorKind::Limit, QStringLiteral("an element of the document has more than %1 attributes")
+                                       .arg(limits::maximumXmlAttributes)};
   parser_.reset(xmlCreateMemoryParserCtxt(utf8.constData(), int(utf8.size())));
   if (!parser_)
     return Error{ErrorKind::Limit, QStringLiteral("there is not enough memory to read the document")};

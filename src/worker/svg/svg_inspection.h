@@ -37,8 +37,8 @@ struct SvgInspection {
 
 /// REQUIRES text without NUL, as decodeSvgText() gives it. Entities are expanded as they are used; external
 /// ones, the external DTD subset included, are never loaded. Fails with NotParsable (not well-formed, no SVG
-/// root) or Limit (maximumXmlDepth, maximumDrawingDepth, maximumXmlElements, maximumEntityExpansion,
-/// maximumEntityUses).
+/// root) or Limit (maximumXmlDepth, maximumDrawingDepth, maximumXmlElements, maximumXmlAttributes,
+/// maximumEntityExpansion, maximumEntityUses).
 [[nodiscard]] Result<SvgInspection> inspectSvg(const QByteArray& utf8);
 
 }  // namespace norvex::engine

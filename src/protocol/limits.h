@@ -65,11 +65,13 @@ inline constexpr double maximumFontSize = 1000;  ///< of a sheet's lines, points
 /// A process that hangs: engines that watch the time themselves get this long to say so before they are
 /// killed.
 inline constexpr qint64 answerGrace = 1000;
-/// A process that does not hear a cancel: it is killed.
-inline constexpr qint64 cancelGrace = 300;
+/// A process that does not hear a cancel: it is killed. With processFarewell it stays below cancelAnswer.
+inline constexpr qint64 cancelGrace = 120;
 /// A program that does not end with its line, or does not tell a process's number that is only to be killed.
 inline constexpr qint64 programFarewell = 2000;
-inline constexpr qint64 processFarewell = 200;
+inline constexpr qint64 processFarewell = 50;
+/// A cancel is answered within this, whatever the process does.
+inline constexpr qint64 cancelAnswer = 200;
 /// Seconds for a preview or the sheets of a job: what takes longer is an attack.
 inline constexpr int toolSeconds = 20;
 

@@ -1,10 +1,13 @@
 // Every lie and every death that a picture process in the hands of a hostile document can think of.
 #include <thread>
 
+#include <QElapsedTimer>
+
 #include "kit/process_watch.h"
 #include "kit/test_main.h"
 #include "picture/client/worker_client.h"
 #include "picture/client/worker_service.h"
+#include "protocol/limits.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -140,6 +143,20 @@ class MisbehavingWorkerTest : public QObject {
          {"at-open small-memory", "at-open unsealed-memory", "at-open bad-cbor", "at-open wrong-id"})
       QCOMPARE(service_->decodePreview(mode).error().kind, ErrorKind::Protocol);
     QCOMPARE(service_->decodePreview("at-open crash").error().kind, ErrorKind::Died);
+  }
+
+  /// The time is a sum of limits; what runs here shows that nothing else is waited for.
+  void aCancelIsAnsweredWithinItsTimeWhateverTheProcessDoes() {
+    static_assert(limits::cancelGrace + limits::processFarewell < limits::cancelAnswer);
+    for (const char* mode : {"hang", "at-open hang", "at-start hang"}) {
+      const auto process = service_->open(mode, PictureKind::Pdf);
+      const CancelToken token;
+      token.cancel();
+      QElapsedTimer timer;
+      timer.start();
+      QCOMPARE(process->render(drawing(), token).error().kind, ErrorKind::Cancelled);
+      QVERIFY(timer.elapsed() < 10'000);  // of 120 seconds that the picture may take
+    }
   }
 
   void aCancelEndsWhatDoesNotAnswer() {

@@ -12,8 +12,8 @@ Error stoppedError() {
 
 }  // namespace
 
-StoppableProcess::StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading)
-    : ForwardingProcess(std::move(process)), loading_(std::move(loading)) {}
+StoppableProcess::StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading, Clock clock)
+    : ForwardingProcess(std::move(process)), loading_(std::move(loading)), clock_(std::move(clock)) {}
 
 void StoppableProcess::stop() {
   const std::lock_guard lock(mutex_);
@@ -24,6 +24,25 @@ void StoppableProcess::stop() {
 void StoppableProcess::resume() {
   const std::lock_guard lock(mutex_);
   stopped_ = false;
+  deaths_ = 0;  // somebody asks for it
+}
+
+/// REQUIRES the lock.
+std::optional<Error> StoppableProcess::refusal() const {
+  if (stopped_) return stoppedError();
+  const bool rests = deaths_ >= deathsWithoutPause && clock_() < rest_;
+  return rests ? lastDeath_ : std::nullopt;
+}
+
+/// REQUIRES the lock.
+void StoppableProcess::note(const Result<QImage>& result) {
+  if (result) deaths_ = 0;
+  if (result || result.error().kind != ErrorKind::Died) return;
+  lastDeath_ = result.error();
+  if (++deaths_ < deathsWithoutPause) return;
+  constexpr int mostDoublings = 6;
+  const auto pause = firstPause * (1 << std::min(deaths_ - deathsWithoutPause, mostDoublings));
+  rest_ = clock_() + std::min(pause, longestPause);
 }
 
 bool StoppableProcess::isStopping() {
@@ -51,13 +70,14 @@ Result<QImage> StoppableProcess::render(const RenderRequest& request, const Canc
   quint64 id = 0;
   {
     const std::lock_guard lock(mutex_);
-    if (stopped_) return stoppedError();
+    if (const auto reason = refusal()) return *reason;
     id = ++lastId_;
     active_.insert(id, cancel);
   }
   Result<QImage> result = ForwardingProcess::render(request, cancel);
   const std::lock_guard lock(mutex_);
   active_.remove(id);
+  note(result);
   return result;
 }
 

@@ -3,8 +3,11 @@
 
 #include <QHash>
 
+#include <chrono>
+#include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 #include "base/cancel_token.h"
 #include "picture/process/forwarding_process.h"
@@ -12,10 +15,19 @@
 namespace norvex {
 
 /// stop() ends the renderings under way and makes later ones fail at once, until
-/// resume(). Reading the facts ends when the loading's own token is cancelled. Thread-safe.
+/// resume(). So do processes that died for the same document several times in a row: the pauses before
+/// another one is started grow. Reading the facts ends when the loading's own token is cancelled.
+/// Thread-safe.
 class StoppableProcess final : public ForwardingProcess {
  public:
-  StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading);
+  using Clock = std::function<std::chrono::steady_clock::time_point()>;
+  /// Deaths in a row that are met by starting again at once.
+  static constexpr int deathsWithoutPause = 3;
+  /// The first pause, which doubles with each death, and the longest.
+  static constexpr std::chrono::seconds firstPause{1}, longestPause{60};
+
+  StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading,
+                   Clock clock = std::chrono::steady_clock::now);
 
   void stop();
   void resume();
@@ -28,11 +40,18 @@ class StoppableProcess final : public ForwardingProcess {
   Result<QImage> render(const RenderRequest& request, const CancelToken& cancel = {}) override;
 
  private:
+  [[nodiscard]] std::optional<Error> refusal() const;
+  void note(const Result<QImage>& result);
+
   const CancelToken loading_;
+  const Clock clock_;
   std::mutex mutex_;                    ///< of everything below
   QHash<quint64, CancelToken> active_;  ///< of the renderings under way
   quint64 lastId_ = 0;
   bool stopped_ = false;
+  int deaths_ = 0;                              ///< in a row
+  std::chrono::steady_clock::time_point rest_;  ///< until when nothing is started
+  std::optional<Error> lastDeath_;
 };
 
 /// Opens documents in stoppable processes. `service` must outlive it; thread-safe.

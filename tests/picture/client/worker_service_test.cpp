@@ -148,6 +148,27 @@ class WorkerServiceTest : public QObject {
     }
   }
 
+  void aDeathIsTheDocumentsOwn() {
+    const auto fragile = service_->open("fragile", PictureKind::Svg);
+    const auto other = service_->open("ok", PictureKind::Pdf);
+    QVERIFY(fragile->facts().ok() && other->facts().ok());
+    const qint64 before = processOf(other);
+    for (int i = 0; i < 10; ++i) QCOMPARE(fragile->render(drawing()).error().kind, ErrorKind::Died);
+    QVERIFY(other->render(drawing()).ok());
+    QCOMPARE(processOf(other), before);
+  }
+
+  void theEndOfTheProgramCostsNoDocument() {
+    const auto one = service_->open("ok 120 80", PictureKind::Svg);
+    const auto two = service_->open("ok 60 40", PictureKind::Pdf);
+    QVERIFY(one->facts().ok() && two->facts().ok());
+    ::kill(pid_t(service_->programProcessId()), SIGKILL);
+    QTRY_VERIFY(stateOf(processOf(one)) == 0 && stateOf(processOf(two)) == 0);
+    for (const auto& document : {one, two}) QVERIFY(document->render(drawing()).ok());
+    QCOMPARE(one->facts()->pageBounds, QList<QRectF>{QRectF(0, 0, 120, 80)});
+    QCOMPARE(two->facts()->pageBounds, QList<QRectF>{QRectF(0, 0, 60, 40)});
+  }
+
   void aDeathBetweenTwoCallsIsNotNoticed() {
     const auto process = service_->open("ok", PictureKind::Pdf);
     QVERIFY(process->facts().ok());

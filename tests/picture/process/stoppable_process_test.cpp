@@ -75,6 +75,53 @@ class StoppableProcessTest : public QObject {
     QVERIFY(process->render(small()));
   }
 
+  void processesThatDieInARowAreStartedAtGrowingIntervals() {
+    std::chrono::steady_clock::time_point now;
+    const auto inside = std::make_shared<MemoryPictureProcess>("bytes", MemoryPicture());
+    StoppableProcess process(inside, CancelToken(), [&] { return now; });
+    const Error death{ErrorKind::Died, "the picture process ended without an answer"};
+    inside->fail(PictureCall::Render, death);
+    for (int i = 0; i < 10; ++i) {
+      const auto result = process.render(small());
+      QCOMPARE(result.error().kind, ErrorKind::Died);
+      QCOMPARE(result.error().message, death.message);
+    }
+    QCOMPARE(inside->calls(PictureCall::Render), StoppableProcess::deathsWithoutPause);
+
+    // Each pause is twice the one before it, and none is longer than the longest.
+    std::chrono::seconds pause = StoppableProcess::firstPause;
+    for (int death = 0; death < 10; ++death) {
+      const int before = inside->calls(PictureCall::Render);
+      now += pause - std::chrono::milliseconds(1);
+      QVERIFY(!process.render(small()));
+      QCOMPARE(inside->calls(PictureCall::Render), before);
+      now += std::chrono::milliseconds(1);
+      QVERIFY(!process.render(small()));
+      QCOMPARE(inside->calls(PictureCall::Render), before + 1);
+      pause = std::min(2 * pause, StoppableProcess::longestPause);
+    }
+  }
+
+  void whoAsksForItGetsAnotherProcessAtOnce() {
+    std::chrono::steady_clock::time_point now;
+    const auto inside = std::make_shared<MemoryPictureProcess>("bytes", MemoryPicture());
+    StoppableProcess process(inside, CancelToken(), [&] { return now; });
+    inside->fail(PictureCall::Render, {ErrorKind::Died, "it died"}, StoppableProcess::deathsWithoutPause);
+    for (int i = 0; i < 5; ++i) QVERIFY(!process.render(small()));
+    process.resume();
+    QVERIFY(process.render(small()));
+    QVERIFY(process.render(small()));
+  }
+
+  void otherFailuresAreNoDeaths() {
+    std::chrono::steady_clock::time_point now;
+    const auto inside = std::make_shared<MemoryPictureProcess>("bytes", MemoryPicture());
+    StoppableProcess process(inside, CancelToken(), [&] { return now; });
+    inside->fail(PictureCall::Render, {ErrorKind::Unsupported, "it cannot be drawn"});
+    for (int i = 0; i < 5; ++i) QVERIFY(!process.render(small()));
+    QCOMPARE(inside->calls(PictureCall::Render), 5);
+  }
+
   void theLoadingsTokenEndsTheWaitForFacts() {
     MemoryPictureService service;
     service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });

@@ -2,6 +2,9 @@
 #include <QBuffer>
 #include <QImage>
 
+#include <chrono>
+#include <optional>
+
 #include "base/atomic_file.h"
 #include "base/time_limit.h"
 #include "cli/input_file.h"

@@ -31,11 +31,11 @@ Every document is read by a process of its own that the system confines\n\
 before it reads the first byte.")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR})
-# What libraries do not bring: Ghostscript's standard fonts (its own resources come with its library), and a font for
-# text whose font is not there.
-set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "fontconfig, fonts-urw-base35, fonts-dejavu-core | fonts-liberation, \
+# What libraries do not bring: Ghostscript as a program, for PostScript that was not expected when the program started,
+# its standard fonts, and a font for text whose font is not there.
+set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "ghostscript, fontconfig, fonts-urw-base35, fonts-dejavu-core | fonts-liberation, \
 shared-mime-info, hicolor-icon-theme")
-set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "ghostscript, icc-profiles-free, norvex-thumbnailer, qt6-wayland")
+set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "icc-profiles-free, norvex-thumbnailer, qt6-wayland")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SUGGESTS "cups-client, apparmor")
 
 set(CPACK_DEBIAN_THUMBNAILER_PACKAGE_NAME norvex-thumbnailer)

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -15,6 +16,8 @@
 #include "application/file_watcher.h"
 #include "application/open_panel.h"
 #include "base/localized_string.h"
+#include "base/state_folder.h"
+#include "types/uniform_type.h"
 #include "ui/panels/alert_box.h"
 
 namespace norvex {
@@ -23,7 +26,9 @@ DocumentApplication::DocumentApplication(ApplicationEvents& events, PictureServi
                                          DocumentWindowControllerFactory factory,
                                          AppDelegate::Terminate terminate)
     : events_(events),
-      recent_(settings_),
+      history_(stateFolder() + QStringLiteral("/history.ini"), QSettings::IniFormat),
+      recent_(history_),
+      keeper_(history_, recent_, stateFolder() + QStringLiteral("/sessions")),
       documents_(service, std::move(factory)),
       terminate_(std::move(terminate)),
       delegate_(&documents_, terminate_),
@@ -32,12 +37,28 @@ DocumentApplication::DocumentApplication(ApplicationEvents& events, PictureServi
       alerts_(ownAlerts_.get()) {
   QApplication::setQuitOnLastWindowClosed(delegate_.applicationShouldTerminateAfterLastWindowClosed());
   connectParts();
+  addManual(startPanel_.get());
+  takeEarlierRecents();
 }
 
 DocumentApplication::~DocumentApplication() = default;
 
+void DocumentApplication::takeEarlierRecents() {
+  QSettings defaults;  // where earlier versions kept them
+  const QStringList earlier = defaults.value(QStringLiteral("RecentFiles")).toStringList();
+  if (recent_.urls().isEmpty())
+    for (auto path = earlier.rbegin(); path != earlier.rend(); ++path)
+      recent_.add(QUrl::fromLocalFile(*path));
+  defaults.remove(QStringLiteral("RecentFiles"));
+}
+
 void DocumentApplication::connectParts() {
   const auto open = [this](const QList<QUrl>& urls) { documents_.openDocuments(urls); };
+  connect(&documents_, &DocumentController::documentWillShow, this, &DocumentApplication::documentWillShow);
+  connect(qApp, &QApplication::focusWindowChanged, this, [this] {
+    const QWidget* window = QApplication::activeWindow();
+    if (window && !window->windowFilePath().isEmpty()) keeper_.used(window->windowFilePath());
+  });
   connect(&documents_, &DocumentController::documentOpened, this, &DocumentApplication::documentDidOpen);
   connect(&documents_, &DocumentController::documentClosed, this, &DocumentApplication::documentDidClose);
   connect(&documents_, &DocumentController::openFailed, this, &DocumentApplication::showFailure);
@@ -57,8 +78,40 @@ void DocumentApplication::connectParts() {
 
 void DocumentApplication::start(const QList<QUrl>& files) {
   delegate_.applicationDidFinishLaunching();
+  QMetaObject::invokeMethod(this, &DocumentApplication::offerLeftSessions, Qt::QueuedConnection);
   if (files.isEmpty()) return updateStartPanel();
   documents_.openDocuments(files);
+}
+
+void DocumentApplication::offerLeftSessions() {
+  const LeftSession left = keeper_.takeLeftSession();
+  if (left.files.isEmpty()) return;
+  QStringList others = left.files;
+  others.removeAll(left.last);
+  Alert alert{AlertStyle::Warning, localizedString("Norvex ended unexpectedly the last time."), {}, {}};
+  const QString name = QFileInfo(left.last).fileName();
+  if (others.isEmpty()) {
+    alert.informativeText = localizedString("“%1” was open then, and may be the reason.").arg(name);
+    alert.buttons = {localizedString("Do Not Open"), localizedString("Open It Again")};
+  } else {
+    alert.informativeText =
+        localizedString("%1 files were open then. “%2” was used last, and may be the reason.")
+            .arg(left.files.size())
+            .arg(name);
+    alert.buttons = {localizedString("Open the Others"), localizedString("Do Not Open"),
+                     localizedString("Open All Again")};
+  }
+  const QString answer = alert.buttons.value(runModal(alert));
+  const bool all = answer == localizedString("Open It Again") || answer == localizedString("Open All Again");
+  if (!all && answer != localizedString("Open the Others")) return;
+  QList<QUrl> urls;
+  for (const QString& path : all ? left.files : others) urls << QUrl::fromLocalFile(path);
+  documents_.openDocuments(urls);
+}
+
+void DocumentApplication::documentWillShow(Document* document) {
+  const auto view = keeper_.view(document->fileURL());
+  if (view && document->windowController()) document->windowController()->setFirstView(*view);
 }
 
 void DocumentApplication::startForDesktop(int patienceMilliseconds) {
@@ -88,8 +141,26 @@ void DocumentApplication::runOpenPanel() {
   if (!urls.isEmpty()) documents_.openDocuments(urls);
 }
 
+void DocumentApplication::showManual() {
+  if (!manual_) manual_ = std::make_unique<ManualWindow>();
+  manual_->show();
+  manual_->raise();
+  manual_->activateWindow();
+}
+
+void DocumentApplication::addManual(QWidget* window) {
+  auto* manual = new QAction(localizedString("Norvex Manual"), window);
+  manual->setObjectName(QStringLiteral("manualAction"));
+  manual->setShortcut(QKeySequence::HelpContents);
+  connect(manual, &QAction::triggered, this, &DocumentApplication::showManual);
+  auto* menu = window->findChild<QMenu*>(QStringLiteral("helpMenu"));
+  if (!menu) return window->addAction(manual);
+  menu->insertAction(menu->actions().value(0), manual);
+}
+
 void DocumentApplication::documentDidOpen(Document* document) {
-  recent_.add(document->fileURL());
+  const auto type = UTType::typeWithIdentifier(document->fileType());
+  keeper_.opened(document->fileURL(), type ? type->preferredMIMEType() : QString());
   auto* watcher =
       new FileWatcher(document->fileURL().toLocalFile(), FileWatcher::defaultSettlingMilliseconds, document);
   connect(watcher, &FileWatcher::fileDidChange, document, [document] {
@@ -104,7 +175,9 @@ void DocumentApplication::documentDidOpen(Document* document) {
   updateStartPanel();
 }
 
-void DocumentApplication::documentDidClose(Document*) {
+void DocumentApplication::documentDidClose(Document* document) {
+  DocumentWindowController* controller = document->windowController();
+  keeper_.closed(document->fileURL(), controller ? controller->pictureView() : std::nullopt);
   if (quitting_) {
     // What the quitting had to wait for; another window may have to be waited for still.
     quitting_ = false;
@@ -155,9 +228,9 @@ void DocumentApplication::showOperationFailure(const QString& reason) {
   runModal({AlertStyle::Warning, localizedString("This could not be done."), reason + '.', {}});
 }
 
-void DocumentApplication::runModal(const Alert& alert) {
+int DocumentApplication::runModal(const Alert& alert) {
   const QScopedValueRollback<int> guard(modal_, modal_ + 1);
-  alerts_->runModal(alert);
+  return alerts_->runModal(alert);
 }
 
 void DocumentApplication::equipWindow(QMainWindow* window) {
@@ -165,6 +238,7 @@ void DocumentApplication::equipWindow(QMainWindow* window) {
   if (window->property(kEquipped).toBool()) return;
   window->setProperty(kEquipped, true);
   drops_.watch(window);
+  addManual(window);
   auto* open = new QAction(localizedString("Open…"), window);
   open->setObjectName(QStringLiteral("openAction"));
   open->setShortcut(QKeySequence::Open);
@@ -188,9 +262,12 @@ void DocumentApplication::fillRecentMenu(QMenu* menu) {
                                       [this, url] { documents_.openDocuments({url}); });
     action->setToolTip(url.toLocalFile());
   }
-  if (urls.isEmpty()) return menu->addAction(localizedString("No recent files"))->setEnabled(false);
+  if (urls.isEmpty()) menu->addAction(localizedString("No recent files"))->setEnabled(false);
   menu->addSeparator();
-  menu->addAction(localizedString("Clear the list"), &recent_, &RecentFiles::clear);
+  menu->addAction(localizedString("Clear History"), &keeper_, &HistoryKeeper::clear);
+  QAction* remember = menu->addAction(localizedString("Remember Files"), &keeper_, &HistoryKeeper::setOn);
+  remember->setCheckable(true);
+  remember->setChecked(keeper_.isOn());
 }
 
 }  // namespace norvex

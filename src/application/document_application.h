@@ -11,6 +11,8 @@
 
 #include "application/application_events.h"
 #include "application/dropped_files.h"
+#include "application/history_keeper.h"
+#include "application/manual_window.h"
 #include "application/recent_files.h"
 #include "application/start_panel.h"
 #include "base/waiting_threads.h"
@@ -46,22 +48,28 @@ class DocumentApplication final : public QObject {
   void showStartPanel();
   /// Asks for files and opens them.
   void runOpenPanel();
+  void showManual();
 
   [[nodiscard]] DocumentController& documents() { return documents_; }
   [[nodiscard]] StartPanel& startPanel() { return *startPanel_; }
   [[nodiscard]] RecentFiles& recentFiles() { return recent_; }
+  [[nodiscard]] HistoryKeeper& history() { return keeper_; }
   /// Who shows alerts; a test may put its own. Not owned.
   void setAlertPresenter(AlertPresenter* presenter) { alerts_ = presenter; }
 
  private:
   void connectParts();
+  void takeEarlierRecents();
+  void documentWillShow(Document* document);
+  /// Whether to open again what a program had open that crashed.
+  void offerLeftSessions();
   void documentDidOpen(Document* document);
   void documentDidClose(Document* document);
   /// A window did not close when the program was to end: when it closes later, the program ends after all.
   void quitRefused();
   void showFailure(const OpenFailure& failure);
   void showOperationFailure(const QString& reason);
-  void runModal(const Alert& alert);
+  int runModal(const Alert& alert);
   void applicationDidResignActive();
   void startPanelDismissed();
   /// The panel is there exactly while nothing else is.
@@ -70,16 +78,19 @@ class DocumentApplication final : public QObject {
   /// files.
   void equipWindow(QMainWindow* window);
   void fillRecentMenu(QMenu* menu);
+  void addManual(QWidget* window);
 
   WaitingThreadsEnd threadsEnd_;  ///< first, so that it ends last
   ApplicationEvents& events_;
-  QSettings settings_;
+  QSettings history_;
   RecentFiles recent_;
+  HistoryKeeper keeper_;
   DocumentController documents_;
   AppDelegate::Terminate terminate_;
   AppDelegate delegate_;
   FileDropTarget drops_;
   std::unique_ptr<StartPanel> startPanel_;
+  std::unique_ptr<ManualWindow> manual_;  ///< once it was asked for
   std::unique_ptr<AlertPresenter> ownAlerts_;
   AlertPresenter* alerts_;
   int modal_ = 0;  ///< panels and alerts on the screen

@@ -9,7 +9,7 @@ class QSettings;
 
 namespace norvex {
 
-/// Newest first, each file once, at most maximumCount. Kept in the user's settings. Main thread.
+/// Newest first, each file once, at most maximumCount. Kept in the user's state folder. Main thread.
 class RecentFiles final : public QObject {
   Q_OBJECT
  public:

@@ -115,6 +115,7 @@ void DocumentController::show(Document* document) {
   connect(document, &Document::closed, this, &DocumentController::remove);
   documents_.append(document);
   document->makeWindowControllers();
+  emit documentWillShow(document);
   document->windowController()->showWindow();
   emit documentOpened(document);
 }

@@ -43,6 +43,8 @@ class DocumentController : public QObject {
   [[nodiscard]] bool isReading() const { return !reading_.isEmpty(); }
 
  signals:
+  /// Its window controller is there, its window is not.
+  void documentWillShow(norvex::Document* document);
   /// Its window is on the screen.
   void documentOpened(norvex::Document* document);
   /// It is no longer among documents() and is about to be destroyed.

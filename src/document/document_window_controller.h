@@ -4,6 +4,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+
+#include "document/picture_view.h"
 
 namespace norvex {
 
@@ -31,6 +34,10 @@ class DocumentWindowController {
   virtual PictureProducers* producers() { return nullptr; }
   /// The view that shows the picture; null before there is one. Owned by the controller.
   [[nodiscard]] virtual NorvexView* imageView() { return nullptr; }
+  /// How the picture is shown now; nothing while there is none.
+  [[nodiscard]] virtual std::optional<PictureView> pictureView() const { return {}; }
+  /// The picture shall be shown so when it has been read for the first time.
+  virtual void setFirstView(const PictureView&) {}
   /// The file on disk is another one than was read, and is whole: offer to reload it, quietly.
   virtual void fileDidChangeOnDisk() {}
   /// There is no file any more where it was.

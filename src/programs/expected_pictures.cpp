@@ -149,7 +149,8 @@ bool expectPostScript(int argc, const char* const* argv) {
   const auto command = commandNamed(argc > 1 ? argv[1] : "");
   // A window is given files alone, where a command stands in front of its own.
   const Command given = command.value_or(Command::Main);
-  if (command && rowOf(given).isLight && given != Command::Convert) return false;
+  const bool draws = given == Command::Convert || given == Command::Thumbnail;
+  if (command && rowOf(given).isLight && !draws) return false;
   const Reading run(given, argc, argv);
   return std::any_of(run.files.begin(), run.files.end(),
                      [](Text file) { return kindOfFile(file) == DocumentKind::Eps; });

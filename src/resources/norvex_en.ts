@@ -1023,6 +1023,134 @@
         <source>“%1” was not printed.</source>
         <translation>“%1” was not printed.</translation>
     </message>
+    <message>
+        <source>With the mouse</source>
+        <translation>With the mouse</translation>
+    </message>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>Search commands and keys</translation>
+    </message>
+    <message>
+        <source>Is the preview added the occasion where it writes out?</source>
+        <translation>Is the preview added the occasion where it writes out?</translation>
+    </message>
+    <message>
+        <source>With preview</source>
+        <translation>With preview</translation>
+    </message>
+    <message>
+        <source>The new file would hold less than the picture does.</source>
+        <translation>The new file would hold less than the picture does.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</source>
+        <translation>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</translation>
+    </message>
+    <message>
+        <source>The drawing was stopped</source>
+        <translation>The drawing was stopped</translation>
+    </message>
+    <message>
+        <source>Norvex ended unexpectedly the last time.</source>
+        <translation>Norvex ended unexpectedly the last time.</translation>
+    </message>
+    <message>
+        <source>“%1” was open then, and may be the reason.</source>
+        <translation>“%1” was open then, and may be the reason.</translation>
+    </message>
+    <message>
+        <source>Do Not Open</source>
+        <translation>Do Not Open</translation>
+    </message>
+    <message>
+        <source>Open It Again</source>
+        <translation>Open It Again</translation>
+    </message>
+    <message>
+        <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
+        <translation>%1 files were open then. “%2” was used last, and may be the reason.</translation>
+    </message>
+    <message>
+        <source>Open the Others</source>
+        <translation>Open the Others</translation>
+    </message>
+    <message>
+        <source>Open All Again</source>
+        <translation>Open All Again</translation>
+    </message>
+    <message>
+        <source>Norvex Manual</source>
+        <translation>Norvex Manual</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Clear History</translation>
+    </message>
+    <message>
+        <source>Remember Files</source>
+        <translation>Remember Files</translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation>Search the manual</translation>
+    </message>
+    <message>
+        <source>Topics</source>
+        <translation>Topics</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Page of the manual</translation>
+    </message>
+    <message>
+        <source>Place the first corner of a selection</source>
+        <translation>Place the first corner of a selection</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Drag</translation>
+    </message>
+    <message>
+        <source>Draw the selection from there</source>
+        <translation>Draw the selection from there</translation>
+    </message>
+    <message>
+        <source>Drag again</source>
+        <translation>Drag again</translation>
+    </message>
+    <message>
+        <source>Take the selection to another program</source>
+        <translation>Take the selection to another program</translation>
+    </message>
+    <message>
+        <source>Ctrl + Drag</source>
+        <translation>Ctrl + Drag</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>Zoom at the pointer</translation>
+    </message>
+    <message>
+        <source>Ctrl + Wheel</source>
+        <translation>Ctrl + Wheel</translation>
+    </message>
+    <message>
+        <source>Move the picture</source>
+        <translation>Move the picture</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Wheel</translation>
+    </message>
+    <message>
+        <source>Commands for the picture</source>
+        <translation>Commands for the picture</translation>
+    </message>
+    <message>
+        <source>Right button</source>
+        <translation>Right button</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>
@@ -1301,6 +1429,14 @@
     <message>
         <source>HiResBoundingBox:</source>
         <translation>HiResBoundingBox:</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>Fonts:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Colours used:</translation>
     </message>
 </context>
 <context>

@@ -92,7 +92,7 @@ void MainWindowController::connectCommands() {
     showTouchBar(checked);
     saveTouchBarIsShown(checked);
   });
-  on(ui_->shortcutsAction, {QKeySequence::HelpContents},
+  on(ui_->shortcutsAction, {Qt::CTRL | Qt::Key_Question, Qt::CTRL | Qt::Key_F1},
      [this] { showShortcutPanel(*window_, *ui_->menuBar); });
   setShortcuts(ui_->fullScreenAction, {Qt::Key_F11});  // window/viewing does it
   on(ui_->aboutAction, {}, [this] { showAbout(); });
@@ -230,8 +230,14 @@ void MainWindowController::showAbout() {
   about.setWindowTitle(localizedString("About Norvex"));
   about.setTextFormat(Qt::PlainText);
   about.setText(QStringLiteral("Norvex %1").arg(QStringLiteral(NORVEX_VERSION)));
-  about.setInformativeText(localizedString(
-      "Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors."));
+  about.setIconPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), window_->devicePixelRatioF()));
+  about.setInformativeText(
+      localizedString(
+          "Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.") +
+      QStringLiteral("\n\n") +
+      localizedString(
+          "Free software under the GNU General Public License, version 3 or later. The interpreter "
+          "of PostScript is under the GNU Affero General Public License, version 3 or later."));
   about.exec();
 }
 

@@ -62,6 +62,8 @@ class MainWindowController final : public QObject,
   [[nodiscard]] bool closesWhenDone() const override { return closing_.closesWhenDone(); }
   PictureProducers* producers() override { return &producers_; }
   [[nodiscard]] NorvexView* imageView() override { return view(); }
+  [[nodiscard]] std::optional<PictureView> pictureView() const override;
+  void setFirstView(const PictureView& view) override { firstView_ = view; }
 
   /// Loads the interface file on the first call; does not show it and does not read the document.
   QMainWindow* window();
@@ -153,6 +155,7 @@ class MainWindowController final : public QObject,
   void take(const DocumentContents& contents, bool again);
   void showContents(const DocumentContents& contents);
   void resetRotationAndZoom();
+  void takeFirstView();
   void finishSetUp();
   // main_window_commands.cpp, main_window_menus.cpp
   void connectControls();
@@ -168,6 +171,7 @@ class MainWindowController final : public QObject,
   void setUpViewing();
 
   bool shouldCloseDocument_ = false, observing_ = false;
+  std::optional<PictureView> firstView_;  ///< as the picture was shown when it was closed last
   std::unique_ptr<QWidget> nib_;  ///< what the interface file makes; its windows become windows of their own
   std::unique_ptr<Ui::MainWindowController> ui_;
   SelectionCommands* selectionCommands_ = nullptr;

@@ -7,6 +7,8 @@
 #include <QMainWindow>
 #include <QThread>
 
+#include <utility>
+
 #include "base/localized_string.h"
 #include "display/skt_zooming_scroll_view.h"
 #include "document/document.h"
@@ -126,6 +128,7 @@ void MainWindowController::take(const DocumentContents& contents, bool again) {
   setUpControls();
   showContents(contents);
   finishSetUp();
+  takeFirstView();
   emit documentShown();
 }
 
@@ -169,6 +172,18 @@ void MainWindowController::resetRotationAndZoom() {
   setWindowSize();
   zoomingScrollView()->bind(factorBindingName, this, "zoomFactor");
   scrollArea_->scrollToTop();
+}
+
+void MainWindowController::takeFirstView() {
+  const std::optional<PictureView> first = std::exchange(firstView_, std::nullopt);
+  if (!first || !validateUserInterfaceItem()) return;
+  dialKnob()->turnTo(first->degrees);
+  zoomingScrollView()->zoomTo(first->zoom);
+}
+
+std::optional<PictureView> MainWindowController::pictureView() const {
+  if (!validateUserInterfaceItem()) return std::nullopt;
+  return PictureView{zoomFactor_, dialKnob()->degreeValue(), view()->imageRep()->page()};
 }
 
 void MainWindowController::finishSetUp() {

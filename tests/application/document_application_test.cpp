@@ -24,9 +24,10 @@ class MemoryAlerts final : public AlertPresenter {
  public:
   int runModal(const Alert& alert) override {
     shown << alert;
-    return 0;
+    return answer;
   }
   QList<Alert> shown;
+  int answer = 0;
 };
 
 /// Drags the files onto the widget and drops them; whether they were taken.
@@ -68,6 +69,18 @@ class DocumentApplicationTest : public QObject {
     application_->start(urls);
     return urls.isEmpty() || !finished.isEmpty() || finished.wait(20000);
   }
+  void makeApplication() {
+    events_ = std::make_unique<ApplicationEvents>();
+    application_ = std::make_unique<DocumentApplication>(*events_, service_, kit::loggingFactory(&log_),
+                                                         [this](QObject*) { ++terminated_; });
+    application_->setAlertPresenter(&alerts_);
+  }
+  void leaveSession(const QStringList& files, const QString& last) {
+    const QString place = folder_->filePath("state/norvex/sessions");
+    QFile file(place + "/1.session");
+    if (!QDir().mkpath(place) || !file.open(QIODevice::WriteOnly)) qFatal("cannot write test data");
+    file.write(QString("{\"files\":[\"%1\"],\"last\":\"%2\"}").arg(files.join("\",\""), last).toUtf8());
+  }
   bool finishReading() {
     return QTest::qWaitFor([this] { return !application_->documents().isReading(); }, 20000);
   }
@@ -81,13 +94,13 @@ class DocumentApplicationTest : public QObject {
   void init() {
     log_.clear();
     alerts_.shown.clear();
+    alerts_.answer = 0;
     terminated_ = 0;
     QSettings().clear();
     folder_ = std::make_unique<QTemporaryDir>();
-    events_ = std::make_unique<ApplicationEvents>();
-    application_ = std::make_unique<DocumentApplication>(*events_, service_, kit::loggingFactory(&log_),
-                                                         [this](QObject*) { ++terminated_; });
-    application_->setAlertPresenter(&alerts_);
+    qputenv("XDG_STATE_HOME", folder_->filePath("state").toLocal8Bit());
+    qputenv("XDG_DATA_HOME", folder_->filePath("data").toLocal8Bit());
+    makeApplication();
   }
   void cleanup() { application_.reset(); }
 
@@ -116,6 +129,63 @@ class DocumentApplicationTest : public QObject {
     application_->startPanel().hide();
     emit events_->didResignActive();
     QCOMPARE(terminated_, 1);
+  }
+
+  void theRecentFilesOfEarlierVersionsMoveOutOfTheUserDefaults() {
+    application_.reset();
+    QSettings().setValue("RecentFiles", QStringList{"/a.eps", "/b.eps"});
+    makeApplication();
+    QCOMPARE(application_->recentFiles().urls(),
+             (QList<QUrl>{QUrl::fromLocalFile("/a.eps"), QUrl::fromLocalFile("/b.eps")}));
+    QVERIFY(!QSettings().contains("RecentFiles"));
+  }
+
+  void whatACrashLeftIsOfferedAndItsReasonIsNotOpenedUnasked() {
+    const QUrl first = writePdf("first.pdf"), last = writePdf("last.pdf");
+    leaveSession({first.toLocalFile(), last.toLocalFile()}, last.toLocalFile());
+    alerts_.answer = 0;  // the others
+    QVERIFY(start({}));
+    QTRY_COMPARE(alerts_.shown.size(), 1);
+    QVERIFY(alerts_.shown.first().informativeText.contains("last.pdf"));
+    QTRY_COMPARE(application_->documents().documents().size(), 1);
+    QCOMPARE(application_->documents().documents().first()->fileURL(), first);
+  }
+
+  void aCrashWithOneFileOpensNothingUnlessItIsWanted() {
+    const QUrl only = writePdf("only.pdf");
+    leaveSession({only.toLocalFile()}, only.toLocalFile());
+    alerts_.answer = -1;  // dismissed
+    QVERIFY(start({}));
+    QTRY_COMPARE(alerts_.shown.size(), 1);
+    QTest::qWait(50);
+    QVERIFY(application_->documents().documents().isEmpty());
+  }
+
+  void askedForByTheDesktopItShowsThePanelOrTheLastWindow() {
+    application_->startForDesktop(1000);
+    QVERIFY(!application_->startPanel().isVisible());
+    application_->activate();
+    QVERIFY(application_->startPanel().isVisible());
+    application_->openFiles({writePdf("a.pdf")});
+    QVERIFY(finishReading());
+    log_.clear();
+    application_->activate();
+    QCOMPARE(log_.count("shown"), 1);
+    QVERIFY(!application_->startPanel().isVisible());
+  }
+
+  void startedByTheBusForNothingItEnds() {
+    application_->startForDesktop(1);
+    QTRY_COMPARE(terminated_, 1);
+  }
+
+  void theManualIsOneWindow() {
+    application_->showManual();
+    application_->showManual();
+    int count = 0;
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+      count += widget->objectName() == "ManualWindow";
+    QCOMPARE(count, 1);
   }
 
   void startedWithFilesItShowsThemAndNoPanel() {
@@ -247,7 +317,7 @@ class DocumentApplicationTest : public QObject {
     QMenu* recent = file->actions().at(1)->menu();
     emit recent->aboutToShow();
     QCOMPARE(recent->actions().first()->text(), QString("b.pdf"));
-    QCOMPARE(recent->actions().count(), 4);
+    QCOMPARE(recent->actions().count(), 5);
   }
 
   void aChangeOnDiskReachesTheWindow() {

@@ -134,7 +134,8 @@ class IncludeArrowsTest : public QObject {
     QStringList wrong;
     forEachInclude([&](const QString& path, const QString& header, bool) {
       const bool writesTiff = path.startsWith("encoders/") && header.startsWith("tiffio");
-      if (engine.match(header).hasMatch() && !path.startsWith("worker/") && !writesTiff)
+      const bool listsRecents = path.startsWith("history/") && header == "glib.h";  // the desktop's list
+      if (engine.match(header).hasMatch() && !path.startsWith("worker/") && !writesTiff && !listsRecents)
         wrong << path + " -> " + header;
     });
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));

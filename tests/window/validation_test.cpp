@@ -151,7 +151,7 @@ class ValidationTest : public QObject {
     row("inspectorToolbarItem", Qt::Key_F9);
     row("inspectorToolbarItem", Qt::ALT | Qt::Key_Return);
     row("fullScreenAction", Qt::Key_F11);
-    row("shortcutsAction", Qt::Key_F1);
+    row("shortcutsAction", Qt::CTRL | Qt::Key_Question);
   }
   void theUsualKeys() {
     QFETCH(QKeySequence, keys);

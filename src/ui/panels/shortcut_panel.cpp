@@ -4,10 +4,13 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 #include "base/localized_string.h"
 
@@ -39,6 +42,53 @@ void addCommands(QTreeWidgetItem& group, const QMenu& menu, const QString& befor
   }
 }
 
+QTreeWidgetItem* addGroup(QTreeWidget* list, const QString& title) {
+  auto* group = new QTreeWidgetItem(list, {title});
+  QFont strong = list->font();
+  strong.setBold(true);
+  group->setFont(0, strong);
+  return group;
+}
+
+/// What no menu shows.
+void addGestures(QTreeWidget* list) {
+  struct Gesture {
+    const char* what;
+    const char* how;
+  };
+  static constexpr Gesture gestures[] = {
+      {"Place the first corner of a selection", "Drag"},
+      {"Draw the selection from there", "Drag again"},
+      {"Take the selection to another program", "Ctrl + Drag"},
+      {"Zoom at the pointer", "Ctrl + Wheel"},
+      {"Move the picture", "Wheel"},
+      {"Commands for the picture", "Right button"},
+  };
+  QTreeWidgetItem* group = addGroup(list, localizedString("With the mouse"));
+  for (const Gesture& each : gestures)
+    new QTreeWidgetItem(group, {localizedString(each.what), localizedString(each.how)});
+  group->setExpanded(true);
+}
+
+/// Shows the rows that hold every word of `text`, and the groups of which any is left.
+void filterRows(const QTreeWidget& list, const QString& text) {
+  const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
+  for (int i = 0; i < list.topLevelItemCount(); ++i) {
+    QTreeWidgetItem* group = list.topLevelItem(i);
+    bool any = false;
+    for (int row = 0; row < group->childCount(); ++row) {
+      QTreeWidgetItem* item = group->child(row);
+      const QString both = group->text(0) + u' ' + item->text(0) + u' ' + item->text(1);
+      const bool holds = std::all_of(words.begin(), words.end(), [&both](const QString& word) {
+        return both.contains(word, Qt::CaseInsensitive);
+      });
+      item->setHidden(!holds);
+      any = any || holds;
+    }
+    group->setHidden(!any);
+  }
+}
+
 QTreeWidget* commandList(QWidget* parent, const QMenuBar& menus) {
   auto* list = new QTreeWidget(parent);
   list->setAccessibleName(localizedString("Commands and their keys"));
@@ -48,13 +98,11 @@ QTreeWidget* commandList(QWidget* parent, const QMenuBar& menus) {
   list->setFrameShape(QFrame::NoFrame);
   for (const QAction* action : menus.actions()) {
     if (!action->menu()) continue;
-    auto* group = new QTreeWidgetItem(list, {plain(action->text())});
-    QFont strong = list->font();
-    strong.setBold(true);
-    group->setFont(0, strong);
+    QTreeWidgetItem* group = addGroup(list, plain(action->text()));
     addCommands(*group, *action->menu(), {});
     group->setExpanded(true);
   }
+  addGestures(list);
   list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
   list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   list->header()->setStretchLastSection(false);
@@ -73,7 +121,19 @@ void showShortcutPanel(QWidget& parent, const QMenuBar& menus) {
     panel->setWindowTitle(localizedString("Keyboard Shortcuts"));
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 10);
-    column->addWidget(commandList(panel, menus), 1);
+    auto* search = new QLineEdit(panel);
+    search->setObjectName(QStringLiteral("shortcutSearch"));
+    search->setPlaceholderText(localizedString("Search commands and keys"));
+    search->setAccessibleName(localizedString("Search commands and keys"));
+    search->setClearButtonEnabled(true);
+    auto* margin = new QVBoxLayout;
+    margin->setContentsMargins(10, 10, 10, 0);
+    margin->addWidget(search);
+    column->addLayout(margin);
+    QTreeWidget* list = commandList(panel, menus);
+    column->addWidget(list, 1);
+    QObject::connect(search, &QLineEdit::textChanged, list,
+                     [list](const QString& text) { filterRows(*list, text); });
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, panel);
     buttons->setContentsMargins(10, 0, 10, 0);
     column->addWidget(buttons);

@@ -1,19 +1,18 @@
 #include "window/commands/window_frames.h"
 
-#include <QDir>
 #include <QSettings>
 
 #include <algorithm>
 #include <utility>
+
+#include "base/state_folder.h"
 
 namespace norvex {
 
 namespace {
 
 QSettings settings() {
-  QString folder = qEnvironmentVariable("XDG_STATE_HOME");
-  if (!QDir::isAbsolutePath(folder)) folder = QDir::homePath() + QStringLiteral("/.local/state");
-  return QSettings(folder + QStringLiteral("/norvex/windows.ini"), QSettings::IniFormat);
+  return QSettings(stateFolder() + QStringLiteral("/windows.ini"), QSettings::IniFormat);
 }
 
 const QString kTouchBar = QStringLiteral("views/touchBar");

@@ -1,0 +1,84 @@
+#include "application/history_keeper.h"
+
+#include <QFileInfo>
+
+#include "application/recent_files.h"
+#include "history/desktop_recents.h"
+
+namespace norvex {
+namespace {
+
+const QString kOff = QStringLiteral("Off");
+
+QString pathOf(const QUrl& url) {
+  return QFileInfo(url.toLocalFile()).absoluteFilePath();
+}
+
+}  // namespace
+
+HistoryKeeper::HistoryKeeper(QSettings& settings, RecentFiles& recent, const QString& folder, QObject* parent)
+    : QObject(parent),
+      settings_(settings),
+      recent_(recent),
+      folder_(folder),
+      views_(settings),
+      session_(folder) {
+  desktop_.setMaxThreadCount(1);
+  if (!isOn()) session_.stop();
+}
+
+HistoryKeeper::~HistoryKeeper() = default;
+
+bool HistoryKeeper::isOn() const {
+  return !settings_.value(kOff).toBool();
+}
+
+void HistoryKeeper::setOn(bool on) {
+  if (on == isOn()) return;
+  if (!on) clear();
+  if (!on) session_.stop();
+  on ? settings_.remove(kOff) : settings_.setValue(kOff, true);
+}
+
+void HistoryKeeper::clear() {
+  recent_.clear();
+  views_.clear();
+  (void)Session::takeLeft(folder_);
+  desktop_.waitForDone();
+  clearFromDesktopRecents(desktopRecentsFile());
+}
+
+void HistoryKeeper::opened(const QUrl& url, const QString& mimeType) {
+  if (!isOn() || !url.isLocalFile()) return;
+  const QString path = pathOf(url);
+  recent_.add(url);
+  session_.opened(path);
+  desktop_.start(
+      [file = desktopRecentsFile(), path, mimeType] { addToDesktopRecents(file, path, mimeType); });
+}
+
+void HistoryKeeper::used(const QString& path) {
+  session_.used(path);
+}
+
+void HistoryKeeper::closed(const QUrl& url, const std::optional<PictureView>& view) {
+  session_.closed(pathOf(url));
+  if (isOn() && view && url.isLocalFile()) views_.remember(pathOf(url), *view);
+}
+
+std::optional<PictureView> HistoryKeeper::view(const QUrl& url) const {
+  return isOn() ? views_.view(pathOf(url)) : std::nullopt;
+}
+
+LeftSession HistoryKeeper::takeLeftSession() const {
+  LeftSession all;
+  for (const LeftSession& each : Session::takeLeft(folder_)) {
+    for (const QString& path : each.files)
+      if (!all.files.contains(path) && QFileInfo::exists(path)) all.files << path;
+    all.last = each.last;
+  }
+  if (!all.files.contains(all.last)) all.last = all.files.value(all.files.size() - 1);
+  return all;
+}
+
+}  // namespace norvex

@@ -1,0 +1,13 @@
+// How a picture is shown in its window.
+#pragma once
+
+namespace norvex {
+
+struct PictureView {
+  double zoom = 1;     ///< 1 shows a point of the picture as a point of the screen
+  double degrees = 0;  ///< counter-clockwise, 0 … 360
+  int page = 0;        ///< from 0
+  bool operator==(const PictureView&) const = default;
+};
+
+}  // namespace norvex

@@ -1,0 +1,73 @@
+#include "application/manual_window.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QTextBrowser>
+
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+QStringList shownTopics(const ManualWindow& manual) {
+  QStringList shown;
+  for (int row = 0; row < manual.topics()->count(); ++row)
+    if (!manual.topics()->item(row)->isHidden()) shown << manual.topics()->item(row)->text();
+  return shown;
+}
+
+}  // namespace
+
+class ManualWindowTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void itBeginsWithTheFirstTopic() {
+    const ManualWindow manual;
+    QVERIFY(manual.topics()->count() >= 7);
+    QCOMPARE(manual.topics()->currentRow(), 0);
+    QVERIFY(manual.page()->toPlainText().contains(manual.topics()->item(0)->text()));
+  }
+
+  void searchingKeepsTheTopicsThatHoldTheWordAndMarksIt() {
+    const ManualWindow manual;
+    const int all = manual.topics()->count();
+    manual.searchField()->setText("CLIPBOARD");
+    const QStringList shown = shownTopics(manual);
+    QVERIFY(!shown.isEmpty() && shown.size() < all);
+    QVERIFY(manual.page()->toPlainText().contains("clipboard"));
+    QVERIFY(!manual.page()->extraSelections().isEmpty());
+    manual.searchField()->clear();
+    QCOMPARE(shownTopics(manual).size(), all);
+    QVERIFY(manual.page()->extraSelections().isEmpty());
+  }
+
+  void aWordThatIsNowhereLeavesAnEmptyPage() {
+    const ManualWindow manual;
+    manual.searchField()->setText("xyzzy");
+    QVERIFY(shownTopics(manual).isEmpty());
+    QVERIFY(manual.page()->toPlainText().isEmpty());
+  }
+
+  void everyPictureOfThePagesIsThere() {
+    static const QRegularExpression image("<img src=\"([^\"]+)\"");
+    int count = 0;
+    for (const QString& page : manualPages()) {
+      QFile file(page);
+      QVERIFY(file.open(QIODevice::ReadOnly));
+      const QString html = QString::fromUtf8(file.readAll());
+      QCOMPARE(html.count("<h1>"), 1);
+      for (const QRegularExpressionMatch& match : image.globalMatch(html)) {
+        ++count;
+        const QString path = ":/manual/" + match.captured(1);
+        QVERIFY2(!QImage(path).isNull(), qPrintable(path));
+      }
+    }
+    QVERIFY(count > 0);
+  }
+};
+
+NORVEX_TEST(ManualWindowTest)
+#include "manual_window_test.moc"

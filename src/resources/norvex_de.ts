@@ -1,0 +1,1225 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>About Norvex</source>
+        <translation>Über Norvex</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Bad data.</source>
+        <translation>Die Datei enthält keine lesbaren Daten.</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>Schriften:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Verwendete Farben:</translation>
+    </message>
+    <message>
+        <source>%1 What is shown was read before.</source>
+        <translation>%1 Gezeigt wird, was zuvor gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>Bounding box:</source>
+        <translation>Begrenzungsrahmen:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Chooses pictures and opens each in a window of its own</source>
+        <translation>Wählt Bilder aus und öffnet jedes in einem eigenen Fenster</translation>
+    </message>
+    <message>
+        <source>Clear the list</source>
+        <translation>Liste leeren</translation>
+    </message>
+    <message>
+        <source>Close the find bar</source>
+        <translation>Suchleiste schließen</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>Farbraum:</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>Befehle und ihre Tasten</translation>
+    </message>
+    <message>
+        <source>Compressed SVG image (SVGZ)</source>
+        <translation>Komprimiertes SVG-Bild (SVGZ)</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Selected Text</source>
+        <translation>Markierten Text kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation>Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation>Wird kopiert …</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>Copyright:</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>Erstellt:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>Erzeuger:</translation>
+    </message>
+    <message>
+        <source>D.M.S.</source>
+        <translation>Grad, Minuten und Sekunden: 12.3045 ist 12° 30′ 45″</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Down by %1 pt</source>
+        <translation>Um %1 pt nach unten</translation>
+    </message>
+    <message>
+        <source>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</source>
+        <translation>Zweimal ziehen, um ein Rechteck zu markieren. Mit gehaltener Strg-Taste ziehen, um es als Datei an ein anderes Programm zu geben.</translation>
+    </message>
+    <message>
+        <source>Drawing…</source>
+        <translation>Wird gezeichnet …</translation>
+    </message>
+    <message>
+        <source>EPS, Illustrator, PDF and SVG pictures</source>
+        <translation>EPS-, Illustrator-, PDF- und SVG-Bilder</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript (EPS)</source>
+        <translation>Encapsulated PostScript (EPS)</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript with interchange preview (EPSI)</source>
+        <translation>Encapsulated PostScript mit Austauschvorschau (EPSI)</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Kodierung des Quelltexts</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>Kodierung:</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>Datei dieses Dokuments</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>Für:</translation>
+    </message>
+    <message>
+        <source>GIF image</source>
+        <translation>GIF-Bild</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Hide extension</source>
+        <translation>Dateiendung ausblenden</translation>
+    </message>
+    <message>
+        <source>High resolution:</source>
+        <translation>Hohe Auflösung:</translation>
+    </message>
+    <message>
+        <source>Higher by %1 pt</source>
+        <translation>Um %1 pt höher</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Informationen</translation>
+    </message>
+    <message>
+        <source>JPEG image</source>
+        <translation>JPEG-Bild</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Left by %1 pt</source>
+        <translation>Um %1 pt nach links</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Zeilennummern</translation>
+    </message>
+    <message>
+        <source>Lower by %1 pt</source>
+        <translation>Um %1 pt niedriger</translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation>Treffer</translation>
+    </message>
+    <message>
+        <source>Move Selection</source>
+        <translation>Auswahl verschieben</translation>
+    </message>
+    <message>
+        <source>Narrower by %1 pt</source>
+        <translation>Um %1 pt schmaler</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>Keine zuletzt benutzten Dateien</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Not possible for this picture: %1</source>
+        <translation>Für dieses Bild nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>Nichts ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Only files on this computer can be opened.</source>
+        <translation>Nur Dateien auf diesem Rechner können geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Zuletzt benutzt</translation>
+    </message>
+    <message>
+        <source>Opening was stopped</source>
+        <translation>Das Öffnen wurde angehalten</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Wird geöffnet …</translation>
+    </message>
+    <message>
+        <source>Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.</source>
+        <translation>Öffnet EPS-, Illustrator-, PDF- und SVG-Bilder und gibt jeden Ausschnitt davon als Vektoren weiter.</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Öffnen …</translation>
+    </message>
+    <message>
+        <source>OrderfrontColorWell</source>
+        <translation>Farbauswahl zeigen</translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation>PDF-Dokument</translation>
+    </message>
+    <message>
+        <source>PNG image</source>
+        <translation>PNG-Bild</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Pictures that you open are listed here.</source>
+        <translation>Geöffnete Bilder werden hier aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Please retry with other format.</source>
+        <translation>Bitte mit einem anderen Format erneut versuchen.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken …</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Zuletzt benutzt</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Zuletzt benutzte Dateien</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Resize Selection</source>
+        <translation>Auswahlgröße ändern</translation>
+    </message>
+    <message>
+        <source>Right by %1 pt</source>
+        <translation>Um %1 pt nach rechts</translation>
+    </message>
+    <message>
+        <source>RotateImageByMousedragg</source>
+        <translation>Ziehen, um das Bild zu drehen. Umschalttaste rastet bei 15° ein, Doppelklick setzt auf 0°.</translation>
+    </message>
+    <message>
+        <source>SVG image</source>
+        <translation>SVG-Bild</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Sichern unter</translation>
+    </message>
+    <message>
+        <source>Save Selection</source>
+        <translation>Auswahl sichern</translation>
+    </message>
+    <message>
+        <source>Save To</source>
+        <translation>Sichern in</translation>
+    </message>
+    <message>
+        <source>SaveAs</source>
+        <translation>Sichern unter …</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>Sichern in …</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Seitwärts rollen</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Auf und ab rollen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
+        <translation>Ausgewählt von %1, %2 bis %3, %4: %5 mal %6 Punkt.</translation>
+    </message>
+    <message>
+        <source>Selected range of image data is written or displayed.</source>
+        <translation>Die Auswahl oder den sichtbaren Teil in eine Datei schreiben.</translation>
+    </message>
+    <message>
+        <source>SelectedRectangle</source>
+        <translation>Ecken des ausgewählten Rechtecks</translation>
+    </message>
+    <message>
+        <source>Selection is determined by dragging the mouse twice.</source>
+        <translation>Einmal ziehen setzt den Startpunkt, noch einmal ziehen spannt das Rechteck auf.</translation>
+    </message>
+    <message>
+        <source>SourceCode</source>
+        <translation>Quelltext des Dokuments</translation>
+    </message>
+    <message>
+        <source>TIFF image</source>
+        <translation>TIFF-Bild</translation>
+    </message>
+    <message>
+        <source>The picture is still being printed.</source>
+        <translation>Das Bild wird noch gedruckt.</translation>
+    </message>
+    <message>
+        <source>A file is still being written.</source>
+        <translation>Eine Datei wird noch geschrieben.</translation>
+    </message>
+    <message>
+        <source>Close When Finished</source>
+        <translation>Nach Abschluss schließen</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>Anhalten und schließen</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Geöffnet lassen</translation>
+    </message>
+    <message>
+        <source>The writing was stopped</source>
+        <translation>Das Schreiben wurde angehalten</translation>
+    </message>
+    <message>
+        <source>The file was deleted or moved. What is shown was read before.</source>
+        <translation>Die Datei wurde gelöscht oder verschoben. Gezeigt wird, was zuvor gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>Preparing “%1” for printing…</source>
+        <translation>„%1“ wird für den Druck vorbereitet …</translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Do you want to replace it?</source>
+        <translation>„%1“ gibt es bereits. Soll es ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>The file has changed on disk.</source>
+        <translation>Die Datei hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be shown.</source>
+        <translation>Das Bild kann nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written in this format</source>
+        <translation>Das Bild kann nicht in diesem Format geschrieben werden</translation>
+    </message>
+    <message>
+        <source>The picture could not be copied. The clipboard holds what it held before.</source>
+        <translation>Das Bild konnte nicht kopiert werden. Die Zwischenablage enthält, was sie vorher enthielt.</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are copied onto the paste board.</source>
+        <translation>Die Auswahl oder den sichtbaren Teil in die Zwischenablage kopieren.</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are printed.</source>
+        <translation>Die Auswahl oder den sichtbaren Teil drucken.</translation>
+    </message>
+    <message>
+        <source>The selection starts at %1, %2.</source>
+        <translation>Die Auswahl beginnt bei %1, %2.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this</source>
+        <translation>Dafür ist nicht genug Speicher vorhanden</translation>
+    </message>
+    <message>
+        <source>This could not be done.</source>
+        <translation>Das war nicht möglich.</translation>
+    </message>
+    <message>
+        <source>This is not an EPS, Illustrator, PDF or SVG picture.</source>
+        <translation>Das ist kein EPS-, Illustrator-, PDF- oder SVG-Bild.</translation>
+    </message>
+    <message>
+        <source>The file's name is not text in UTF-8. Please rename the file.</source>
+        <translation>Der Name der Datei ist kein Text in UTF-8. Bitte benennen Sie die Datei um.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+    <message>
+        <source>Touch Bar</source>
+        <translation>Touch Bar</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <source>Up by %1 pt</source>
+        <translation>Um %1 pt nach oben</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>ViewBox</source>
+        <translation>View-Box oder Grenzen des Bildes, in dessen eigenen Einheiten</translation>
+    </message>
+    <message>
+        <source>What it holds will be lost.</source>
+        <translation>Ihr Inhalt geht verloren.</translation>
+    </message>
+    <message>
+        <source>Wider by %1 pt</source>
+        <translation>Um %1 pt breiter</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>Wird geschrieben …</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>or drop pictures here</source>
+        <translation>oder Bilder hierher ziehen</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation>„%1“ konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>„%1“ gibt es bereits.</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;Bottom:</source>
+        <translation>&amp;Unten:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Exemplare:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit on one page</source>
+        <translation>Auf eine Seite e&amp;inpassen</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>&amp;Querformat</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken …</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>&amp;Rechts:</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>&amp;Skalierung:</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontally</source>
+        <translation>&amp;Waagerecht</translation>
+    </message>
+    <message>
+        <source>&amp;Vertically</source>
+        <translation>Senk&amp;recht</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>Erste Seite</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m</source>
+        <translation>&amp;Von</translation>
+    </message>
+    <message>
+        <source>Hea&amp;der and footer</source>
+        <translation>Ko&amp;pf- und Fußzeile</translation>
+    </message>
+    <message>
+        <source>Centred:</source>
+        <translation>Zentriert:</translation>
+    </message>
+    <message>
+        <source>Centred horizontally</source>
+        <translation>Waagerecht zentriert</translation>
+    </message>
+    <message>
+        <source>Centred vertically</source>
+        <translation>Senkrecht zentriert</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>Letzte Seite</translation>
+    </message>
+    <message>
+        <source>Lef&amp;t:</source>
+        <translation>&amp;Links:</translation>
+    </message>
+    <message>
+        <source>This printer is no longer there.</source>
+        <translation>Diesen Drucker gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Print Selected or Visible Pa&amp;rt…</source>
+        <translation>Ausgewählten oder sichtbaren &amp;Teil drucken …</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>Drucker werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Makes the picture smaller until one page holds it</source>
+        <translation>Verkleinert das Bild, bis es auf eine Seite passt</translation>
+    </message>
+    <message>
+        <source>Margins:</source>
+        <translation>Ränder:</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Ausrichtung:</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Dru&amp;cker:</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>Seite e&amp;inrichten …</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>Seite einrichten</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Seiten:</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>Pap&amp;ier:</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Portra&amp;it</source>
+        <translation>&amp;Hochformat</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vorschau der Seite</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>„%1“ drucken</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Printing “%1”…</source>
+        <translation>„%1“ wird gedruckt …</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>Si&amp;chern …</translation>
+    </message>
+    <message>
+        <source>Save as PDF file</source>
+        <translation>Als PDF-Datei sichern</translation>
+    </message>
+    <message>
+        <source>Save the pages as PDF</source>
+        <translation>Die Seiten als PDF sichern</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>T&amp;op:</source>
+        <translation>&amp;Oben:</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>Nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>The date above the picture and the file's location below it, on every page</source>
+        <translation>Auf jeder Seite das Datum über dem Bild und der Ort der Datei darunter</translation>
+    </message>
+    <message>
+        <source>The margins leave no room on the paper.</source>
+        <translation>Die Ränder lassen auf dem Papier keinen Platz.</translation>
+    </message>
+    <message>
+        <source>The pages become a PDF file.</source>
+        <translation>Die Seiten werden eine PDF-Datei.</translation>
+    </message>
+    <message>
+        <source>There is no printer.</source>
+        <translation>Es gibt keinen Drucker.</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>“%1” was not printed.</source>
+        <translation>„%1“ wurde nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>With the mouse</source>
+        <translation>Mit der Maus</translation>
+    </message>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>Befehle und Tasten durchsuchen</translation>
+    </message>
+    <message>
+        <source>Is the preview added the occasion where it writes out?</source>
+        <translation>Soll beim Schreiben eine Vorschau hinzugefügt werden?</translation>
+    </message>
+    <message>
+        <source>With preview</source>
+        <translation>Mit Vorschau</translation>
+    </message>
+    <message>
+        <source>The new file would hold less than the picture does.</source>
+        <translation>Die neue Datei würde weniger enthalten als das Bild.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</source>
+        <translation>Freie Software unter der GNU General Public License, Version 3 oder neuer. Der PostScript-Interpreter steht unter der GNU Affero General Public License, Version 3 oder neuer.</translation>
+    </message>
+    <message>
+        <source>The drawing was stopped</source>
+        <translation>Das Zeichnen wurde angehalten</translation>
+    </message>
+    <message>
+        <source>Norvex ended unexpectedly the last time.</source>
+        <translation>Norvex wurde beim letzten Mal unerwartet beendet.</translation>
+    </message>
+    <message>
+        <source>“%1” was open then, and may be the reason.</source>
+        <translation>„%1“ war dabei geöffnet und ist vielleicht der Grund.</translation>
+    </message>
+    <message>
+        <source>Do Not Open</source>
+        <translation>Nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Open It Again</source>
+        <translation>Noch einmal öffnen</translation>
+    </message>
+    <message>
+        <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
+        <translation>Dabei waren %1 Dateien geöffnet. „%2“ wurde zuletzt benutzt und ist vielleicht der Grund.</translation>
+    </message>
+    <message>
+        <source>Open the Others</source>
+        <translation>Die anderen öffnen</translation>
+    </message>
+    <message>
+        <source>Open All Again</source>
+        <translation>Alle noch einmal öffnen</translation>
+    </message>
+    <message>
+        <source>Norvex Manual</source>
+        <translation>Norvex-Handbuch</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Verlauf löschen</translation>
+    </message>
+    <message>
+        <source>Remember Files</source>
+        <translation>Dateien merken</translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation>Handbuch durchsuchen</translation>
+    </message>
+    <message>
+        <source>Topics</source>
+        <translation>Themen</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Place the first corner of a selection</source>
+        <translation>Die erste Ecke einer Auswahl setzen</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Ziehen</translation>
+    </message>
+    <message>
+        <source>Draw the selection from there</source>
+        <translation>Von dort die Auswahl aufziehen</translation>
+    </message>
+    <message>
+        <source>Drag again</source>
+        <translation>Noch einmal ziehen</translation>
+    </message>
+    <message>
+        <source>Take the selection to another program</source>
+        <translation>Die Auswahl in ein anderes Programm bringen</translation>
+    </message>
+    <message>
+        <source>Ctrl + Drag</source>
+        <translation>Strg + Ziehen</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>Am Zeiger zoomen</translation>
+    </message>
+    <message>
+        <source>Ctrl + Wheel</source>
+        <translation>Strg + Mausrad</translation>
+    </message>
+    <message>
+        <source>Move the picture</source>
+        <translation>Das Bild verschieben</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>Commands for the picture</source>
+        <translation>Befehle für das Bild</translation>
+    </message>
+    <message>
+        <source>Right button</source>
+        <translation>Rechte Taste</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowController</name>
+    <message>
+        <source>Facts about the picture</source>
+        <translation>Angaben zum Bild</translation>
+    </message>
+    <message>
+        <source>&amp;About Norvex</source>
+        <translation>Ü&amp;ber Norvex</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>&amp;Originalgröße</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Sch&amp;ließen</translation>
+    </message>
+    <message>
+        <source>&amp;Deselect</source>
+        <translation>Auswahl auf&amp;heben</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Find in Source…</source>
+        <translation>&amp;Im Quelltext suchen …</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>&amp;Einpassen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Angle of rotation</source>
+        <translation>Drehwinkel</translation>
+    </message>
+    <message>
+        <source>Angle of rotation in degrees, minutes and seconds</source>
+        <translation>Drehwinkel in Grad, Minuten und Sekunden</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Bounds</source>
+        <translation>Grenzen</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>Farbraum:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>Copyright:</translation>
+    </message>
+    <message>
+        <source>CreationDate:</source>
+        <translation>Erstellt:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>Erzeuger:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>Nichts ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>Kodierung:</translation>
+    </message>
+    <message>
+        <source>End of the selection</source>
+        <translation>Ende der Auswahl</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>Für:</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Informationen</translation>
+    </message>
+    <message>
+        <source>Kind of preview</source>
+        <translation>Art der Vorschau</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Picture rectangle</source>
+        <translation>Rechteck des Bildes</translation>
+    </message>
+    <message>
+        <source>Picture to be written</source>
+        <translation>Zu schreibendes Bild</translation>
+    </message>
+    <message>
+        <source>Picture with zoom and scroll bars</source>
+        <translation>Bild mit Zoom und Rollbalken</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Reset Rotatio&amp;n</source>
+        <translation>&amp;Drehung zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>Nach &amp;links drehen</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>Nach &amp;rechts drehen</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>Sichern in</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelltext</translation>
+    </message>
+    <message>
+        <source>Source text</source>
+        <translation>Quelltext</translation>
+    </message>
+    <message>
+        <source>Start of the selection</source>
+        <translation>Anfang der Auswahl</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titel:</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Sichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Whole Picture</source>
+        <translation>&amp;Ganzes Bild kopieren</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>&amp;Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Touch Bar</source>
+        <translation>&amp;Touch Bar</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>What was noticed</source>
+        <translation>Was aufgefallen ist</translation>
+    </message>
+    <message>
+        <source>BoundingBox:</source>
+        <translation>BoundingBox:</translation>
+    </message>
+    <message>
+        <source>HiResBoundingBox:</source>
+        <translation>HiResBoundingBox:</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>Schriften:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Verwendete Farben:</translation>
+    </message>
+</context>
+<context>
+    <name>SKTZoomingScrollView</name>
+    <message>
+        <source>10%</source>
+        <translation>10 %</translation>
+    </message>
+    <message>
+        <source>25%</source>
+        <translation>25 %</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50 %</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75 %</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>125%</source>
+        <translation>125 %</translation>
+    </message>
+    <message>
+        <source>150%</source>
+        <translation>150 %</translation>
+    </message>
+    <message>
+        <source>200%</source>
+        <translation>200 %</translation>
+    </message>
+    <message>
+        <source>400%</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>800%</source>
+        <translation>800 %</translation>
+    </message>
+    <message>
+        <source>1600%</source>
+        <translation>1600 %</translation>
+    </message>
+</context>
+</TS>

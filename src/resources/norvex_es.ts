@@ -1,0 +1,1225 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>About Norvex</source>
+        <translation>Acerca de Norvex</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Bad data.</source>
+        <translation>El archivo no contiene datos que se puedan leer.</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>Tipos de letra:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Colores usados:</translation>
+    </message>
+    <message>
+        <source>%1 What is shown was read before.</source>
+        <translation>%1 Lo que se ve se leyó antes.</translation>
+    </message>
+    <message>
+        <source>Bounding box:</source>
+        <translation>Cuadro delimitador:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>Chooses pictures and opens each in a window of its own</source>
+        <translation>Elige imágenes y abre cada una en su propia ventana</translation>
+    </message>
+    <message>
+        <source>Clear the list</source>
+        <translation>Vaciar la lista</translation>
+    </message>
+    <message>
+        <source>Close the find bar</source>
+        <translation>Cerrar la barra de búsqueda</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>Espacio de color:</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>Las órdenes y sus teclas</translation>
+    </message>
+    <message>
+        <source>Compressed SVG image (SVGZ)</source>
+        <translation>Imagen SVG comprimida (SVGZ)</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copiar la ruta</translation>
+    </message>
+    <message>
+        <source>Copy Selected Text</source>
+        <translation>Copiar el texto seleccionado</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation>Copiar el valor</translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation>Copiando…</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>Derechos de autor:</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>Creado:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>Creador:</translation>
+    </message>
+    <message>
+        <source>D.M.S.</source>
+        <translation>Grados, minutos y segundos: 12.3045 es 12° 30′ 45″</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Down by %1 pt</source>
+        <translation>%1 pt hacia abajo</translation>
+    </message>
+    <message>
+        <source>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</source>
+        <translation>Arrastre dos veces para marcar un rectángulo. Arrástrelo con la tecla Ctrl pulsada para llevarlo a otro programa como archivo.</translation>
+    </message>
+    <message>
+        <source>Drawing…</source>
+        <translation>Dibujando…</translation>
+    </message>
+    <message>
+        <source>EPS, Illustrator, PDF and SVG pictures</source>
+        <translation>Imágenes EPS, Illustrator, PDF y SVG</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript (EPS)</source>
+        <translation>PostScript encapsulado (EPS)</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript with interchange preview (EPSI)</source>
+        <translation>PostScript encapsulado con vista previa de intercambio (EPSI)</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Codificación del texto fuente</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>Codificación:</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>Archivo de este documento</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>Para:</translation>
+    </message>
+    <message>
+        <source>GIF image</source>
+        <translation>Imagen GIF</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Altura</translation>
+    </message>
+    <message>
+        <source>Hide extension</source>
+        <translation>Ocultar la extensión</translation>
+    </message>
+    <message>
+        <source>High resolution:</source>
+        <translation>Alta resolución:</translation>
+    </message>
+    <message>
+        <source>Higher by %1 pt</source>
+        <translation>%1 pt más alto</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>JPEG image</source>
+        <translation>Imagen JPEG</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Left by %1 pt</source>
+        <translation>%1 pt a la izquierda</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Números de línea</translation>
+    </message>
+    <message>
+        <source>Lower by %1 pt</source>
+        <translation>%1 pt más bajo</translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation>Coincidencias</translation>
+    </message>
+    <message>
+        <source>Move Selection</source>
+        <translation>Mover la selección</translation>
+    </message>
+    <message>
+        <source>Narrower by %1 pt</source>
+        <translation>%1 pt más estrecho</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>No hay archivos recientes</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>No se encontró</translation>
+    </message>
+    <message>
+        <source>Not possible for this picture: %1</source>
+        <translation>No es posible con esta imagen: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>No hay nada seleccionado.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Only files on this computer can be opened.</source>
+        <translation>Solo se pueden abrir archivos de este equipo.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir la carpeta</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Abrir reciente</translation>
+    </message>
+    <message>
+        <source>Opening was stopped</source>
+        <translation>Se detuvo la apertura</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Abriendo…</translation>
+    </message>
+    <message>
+        <source>Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.</source>
+        <translation>Abre imágenes EPS, Illustrator, PDF y SVG y entrega cualquier parte de ellas como vectores.</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Abrir…</translation>
+    </message>
+    <message>
+        <source>OrderfrontColorWell</source>
+        <translation>Mostrar el selector de color</translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation>Documento PDF</translation>
+    </message>
+    <message>
+        <source>PNG image</source>
+        <translation>Imagen PNG</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Pictures that you open are listed here.</source>
+        <translation>Las imágenes que abra aparecerán aquí.</translation>
+    </message>
+    <message>
+        <source>Please retry with other format.</source>
+        <translation>Inténtelo de nuevo con otro formato.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir…</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recientes</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Archivos recientes</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Quitar de la lista</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Resize Selection</source>
+        <translation>Cambiar el tamaño de la selección</translation>
+    </message>
+    <message>
+        <source>Right by %1 pt</source>
+        <translation>%1 pt a la derecha</translation>
+    </message>
+    <message>
+        <source>RotateImageByMousedragg</source>
+        <translation>Arrastre para girar la imagen. Con Mayús se ajusta a 15°, un doble clic vuelve a 0°.</translation>
+    </message>
+    <message>
+        <source>SVG image</source>
+        <translation>Imagen SVG</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Save Selection</source>
+        <translation>Guardar la selección</translation>
+    </message>
+    <message>
+        <source>Save To</source>
+        <translation>Guardar en</translation>
+    </message>
+    <message>
+        <source>SaveAs</source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>Guardar en…</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Desplazar a los lados</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Desplazar arriba y abajo</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
+        <translation>Seleccionado desde %1, %2 hasta %3, %4: %5 por %6 puntos.</translation>
+    </message>
+    <message>
+        <source>Selected range of image data is written or displayed.</source>
+        <translation>Escribir la selección, o lo visible, en un archivo.</translation>
+    </message>
+    <message>
+        <source>SelectedRectangle</source>
+        <translation>Esquinas del rectángulo seleccionado</translation>
+    </message>
+    <message>
+        <source>Selection is determined by dragging the mouse twice.</source>
+        <translation>Arrastre una vez para fijar el punto inicial y otra vez para extender el rectángulo.</translation>
+    </message>
+    <message>
+        <source>SourceCode</source>
+        <translation>Texto fuente del documento</translation>
+    </message>
+    <message>
+        <source>TIFF image</source>
+        <translation>Imagen TIFF</translation>
+    </message>
+    <message>
+        <source>The picture is still being printed.</source>
+        <translation>La imagen todavía se está imprimiendo.</translation>
+    </message>
+    <message>
+        <source>A file is still being written.</source>
+        <translation>Todavía se está escribiendo un archivo.</translation>
+    </message>
+    <message>
+        <source>Close When Finished</source>
+        <translation>Cerrar al terminar</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>Detener y cerrar</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Mantener abierta</translation>
+    </message>
+    <message>
+        <source>The writing was stopped</source>
+        <translation>Se detuvo la escritura</translation>
+    </message>
+    <message>
+        <source>The file was deleted or moved. What is shown was read before.</source>
+        <translation>El archivo se borró o se movió. Lo que se ve se leyó antes.</translation>
+    </message>
+    <message>
+        <source>Preparing “%1” for printing…</source>
+        <translation>Preparando «%1» para imprimir…</translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Do you want to replace it?</source>
+        <translation>«%1» ya existe. ¿Quiere reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>The file has changed on disk.</source>
+        <translation>El archivo ha cambiado en el disco.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be shown.</source>
+        <translation>La imagen no se puede mostrar.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written in this format</source>
+        <translation>La imagen no se puede escribir en este formato</translation>
+    </message>
+    <message>
+        <source>The picture could not be copied. The clipboard holds what it held before.</source>
+        <translation>La imagen no se pudo copiar. El portapapeles contiene lo que contenía.</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are copied onto the paste board.</source>
+        <translation>Copiar la selección, o lo visible, en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are printed.</source>
+        <translation>Imprimir la selección, o lo visible.</translation>
+    </message>
+    <message>
+        <source>The selection starts at %1, %2.</source>
+        <translation>La selección empieza en %1, %2.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this</source>
+        <translation>No hay memoria suficiente para esto</translation>
+    </message>
+    <message>
+        <source>This could not be done.</source>
+        <translation>No se pudo hacer.</translation>
+    </message>
+    <message>
+        <source>This is not an EPS, Illustrator, PDF or SVG picture.</source>
+        <translation>No es una imagen EPS, Illustrator, PDF o SVG.</translation>
+    </message>
+    <message>
+        <source>The file's name is not text in UTF-8. Please rename the file.</source>
+        <translation>El nombre del archivo no es texto en UTF-8. Cambie el nombre del archivo.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>Touch Bar</source>
+        <translation>Touch Bar</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>Up by %1 pt</source>
+        <translation>%1 pt hacia arriba</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>ViewBox</source>
+        <translation>View box o límites de la imagen, en sus propias unidades</translation>
+    </message>
+    <message>
+        <source>What it holds will be lost.</source>
+        <translation>Se perderá su contenido.</translation>
+    </message>
+    <message>
+        <source>Wider by %1 pt</source>
+        <translation>%1 pt más ancho</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Anchura</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>Escribiendo…</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>or drop pictures here</source>
+        <translation>o suelte imágenes aquí</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation>No se pudo abrir «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>«%1» ya existe.</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Todas</translation>
+    </message>
+    <message>
+        <source>&amp;Bottom:</source>
+        <translation>A&amp;bajo:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copias:</translation>
+    </message>
+    <message>
+        <source>&amp;Fit on one page</source>
+        <translation>A&amp;justar a una página</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>&amp;Apaisado</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimir</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimir…</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>&amp;Derecha:</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>&amp;Escala:</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontally</source>
+        <translation>&amp;Horizontalmente</translation>
+    </message>
+    <message>
+        <source>&amp;Vertically</source>
+        <translation>&amp;Verticalmente</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>Primera página</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m</source>
+        <translation>&amp;Desde</translation>
+    </message>
+    <message>
+        <source>Hea&amp;der and footer</source>
+        <translation>Encabe&amp;zado y pie de página</translation>
+    </message>
+    <message>
+        <source>Centred:</source>
+        <translation>Centrado:</translation>
+    </message>
+    <message>
+        <source>Centred horizontally</source>
+        <translation>Centrado horizontalmente</translation>
+    </message>
+    <message>
+        <source>Centred vertically</source>
+        <translation>Centrado verticalmente</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>Última página</translation>
+    </message>
+    <message>
+        <source>Lef&amp;t:</source>
+        <translation>I&amp;zquierda:</translation>
+    </message>
+    <message>
+        <source>This printer is no longer there.</source>
+        <translation>Esta impresora ya no existe.</translation>
+    </message>
+    <message>
+        <source>Print Selected or Visible Pa&amp;rt…</source>
+        <translation>Imprimir la &amp;parte seleccionada o visible…</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>Buscando impresoras…</translation>
+    </message>
+    <message>
+        <source>Makes the picture smaller until one page holds it</source>
+        <translation>Reduce la imagen hasta que cabe en una página</translation>
+    </message>
+    <message>
+        <source>Margins:</source>
+        <translation>Márgenes:</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientación:</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Imp&amp;resora:</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>Con&amp;figurar página…</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>Configurar página</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Páginas:</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>Pap&amp;el:</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Portra&amp;it</source>
+        <translation>&amp;Vertical</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vista previa de la página</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>Imprimir «%1»</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>Printing “%1”…</source>
+        <translation>Imprimiendo «%1»…</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>&amp;Guardar…</translation>
+    </message>
+    <message>
+        <source>Save as PDF file</source>
+        <translation>Guardar como archivo PDF</translation>
+    </message>
+    <message>
+        <source>Save the pages as PDF</source>
+        <translation>Guardar las páginas como PDF</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Detenida</translation>
+    </message>
+    <message>
+        <source>T&amp;op:</source>
+        <translation>Arri&amp;ba:</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>No acepta trabajos</translation>
+    </message>
+    <message>
+        <source>The date above the picture and the file's location below it, on every page</source>
+        <translation>En cada página, la fecha sobre la imagen y el lugar del archivo debajo</translation>
+    </message>
+    <message>
+        <source>The margins leave no room on the paper.</source>
+        <translation>Los márgenes no dejan sitio en el papel.</translation>
+    </message>
+    <message>
+        <source>The pages become a PDF file.</source>
+        <translation>Las páginas serán un archivo PDF.</translation>
+    </message>
+    <message>
+        <source>There is no printer.</source>
+        <translation>No hay ninguna impresora.</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>“%1” was not printed.</source>
+        <translation>No se imprimió «%1».</translation>
+    </message>
+    <message>
+        <source>With the mouse</source>
+        <translation>Con el ratón</translation>
+    </message>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>Buscar órdenes y teclas</translation>
+    </message>
+    <message>
+        <source>Is the preview added the occasion where it writes out?</source>
+        <translation>¿Añadir una vista previa al escribir el archivo?</translation>
+    </message>
+    <message>
+        <source>With preview</source>
+        <translation>Con vista previa</translation>
+    </message>
+    <message>
+        <source>The new file would hold less than the picture does.</source>
+        <translation>El archivo nuevo contendría menos que la imagen.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</source>
+        <translation>Software libre bajo la Licencia Pública General de GNU, versión 3 o posterior. El intérprete de PostScript está bajo la Licencia Pública General Affero de GNU, versión 3 o posterior.</translation>
+    </message>
+    <message>
+        <source>The drawing was stopped</source>
+        <translation>Se detuvo el dibujo</translation>
+    </message>
+    <message>
+        <source>Norvex ended unexpectedly the last time.</source>
+        <translation>Norvex terminó de forma inesperada la última vez.</translation>
+    </message>
+    <message>
+        <source>“%1” was open then, and may be the reason.</source>
+        <translation>«%1» estaba abierto entonces y puede ser la causa.</translation>
+    </message>
+    <message>
+        <source>Do Not Open</source>
+        <translation>No abrir</translation>
+    </message>
+    <message>
+        <source>Open It Again</source>
+        <translation>Abrirlo de nuevo</translation>
+    </message>
+    <message>
+        <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
+        <translation>Había %1 archivos abiertos. «%2» fue el último que se usó y puede ser la causa.</translation>
+    </message>
+    <message>
+        <source>Open the Others</source>
+        <translation>Abrir los demás</translation>
+    </message>
+    <message>
+        <source>Open All Again</source>
+        <translation>Abrir todos de nuevo</translation>
+    </message>
+    <message>
+        <source>Norvex Manual</source>
+        <translation>Manual de Norvex</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Borrar el historial</translation>
+    </message>
+    <message>
+        <source>Remember Files</source>
+        <translation>Recordar archivos</translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation>Buscar en el manual</translation>
+    </message>
+    <message>
+        <source>Topics</source>
+        <translation>Temas</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Página del manual</translation>
+    </message>
+    <message>
+        <source>Place the first corner of a selection</source>
+        <translation>Fijar la primera esquina de una selección</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Arrastrar</translation>
+    </message>
+    <message>
+        <source>Draw the selection from there</source>
+        <translation>Extender la selección desde allí</translation>
+    </message>
+    <message>
+        <source>Drag again</source>
+        <translation>Arrastrar de nuevo</translation>
+    </message>
+    <message>
+        <source>Take the selection to another program</source>
+        <translation>Llevar la selección a otro programa</translation>
+    </message>
+    <message>
+        <source>Ctrl + Drag</source>
+        <translation>Ctrl + arrastrar</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>Ampliar en el puntero</translation>
+    </message>
+    <message>
+        <source>Ctrl + Wheel</source>
+        <translation>Ctrl + rueda</translation>
+    </message>
+    <message>
+        <source>Move the picture</source>
+        <translation>Mover la imagen</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Rueda</translation>
+    </message>
+    <message>
+        <source>Commands for the picture</source>
+        <translation>Órdenes para la imagen</translation>
+    </message>
+    <message>
+        <source>Right button</source>
+        <translation>Botón derecho</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowController</name>
+    <message>
+        <source>Facts about the picture</source>
+        <translation>Datos de la imagen</translation>
+    </message>
+    <message>
+        <source>&amp;About Norvex</source>
+        <translation>&amp;Acerca de Norvex</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>Tamaño &amp;real</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>&amp;Deselect</source>
+        <translation>&amp;Deseleccionar</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Find in Source…</source>
+        <translation>&amp;Buscar en el código fuente…</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>A&amp;justar</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recargar</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Angle of rotation</source>
+        <translation>Ángulo de giro</translation>
+    </message>
+    <message>
+        <source>Angle of rotation in degrees, minutes and seconds</source>
+        <translation>Ángulo de giro en grados, minutos y segundos</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Color de fondo</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Bounds</source>
+        <translation>Límites</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>Espacio de color:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>Derechos de autor:</translation>
+    </message>
+    <message>
+        <source>CreationDate:</source>
+        <translation>Creado:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>Creador:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>No hay nada seleccionado.</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>Codificación:</translation>
+    </message>
+    <message>
+        <source>End of the selection</source>
+        <translation>Fin de la selección</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>Pantalla co&amp;mpleta</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>Para:</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Kind of preview</source>
+        <translation>Tipo de vista previa</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Picture rectangle</source>
+        <translation>Rectángulo de la imagen</translation>
+    </message>
+    <message>
+        <source>Picture to be written</source>
+        <translation>Imagen que se escribirá</translation>
+    </message>
+    <message>
+        <source>Picture with zoom and scroll bars</source>
+        <translation>Imagen con zoom y barras de desplazamiento</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Reset Rotatio&amp;n</source>
+        <translation>Restablecer el &amp;giro</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>Girar a la &amp;izquierda</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>Girar a la &amp;derecha</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>Guardar en</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Seleccionar &amp;todo</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Código fuente</translation>
+    </message>
+    <message>
+        <source>Source text</source>
+        <translation>Texto fuente</translation>
+    </message>
+    <message>
+        <source>Start of the selection</source>
+        <translation>Inicio de la selección</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Título:</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Usar</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>A&amp;mpliar</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Red&amp;ucir</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>&amp;Guardar como…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Whole Picture</source>
+        <translation>&amp;Copiar la imagen entera</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Buscar &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Buscar &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Touch Bar</source>
+        <translation>&amp;Touch Bar</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>Ata&amp;jos de teclado</translation>
+    </message>
+    <message>
+        <source>What was noticed</source>
+        <translation>Lo que se notó</translation>
+    </message>
+    <message>
+        <source>BoundingBox:</source>
+        <translation>BoundingBox:</translation>
+    </message>
+    <message>
+        <source>HiResBoundingBox:</source>
+        <translation>HiResBoundingBox:</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>Tipos de letra:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Colores usados:</translation>
+    </message>
+</context>
+<context>
+    <name>SKTZoomingScrollView</name>
+    <message>
+        <source>10%</source>
+        <translation>10 %</translation>
+    </message>
+    <message>
+        <source>25%</source>
+        <translation>25 %</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50 %</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75 %</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>125%</source>
+        <translation>125 %</translation>
+    </message>
+    <message>
+        <source>150%</source>
+        <translation>150 %</translation>
+    </message>
+    <message>
+        <source>200%</source>
+        <translation>200 %</translation>
+    </message>
+    <message>
+        <source>400%</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>800%</source>
+        <translation>800 %</translation>
+    </message>
+    <message>
+        <source>1600%</source>
+        <translation>1600 %</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1225 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>About Norvex</source>
+        <translation>À propos de Norvex</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message>
+        <source>Bad data.</source>
+        <translation>Le fichier ne contient aucune donnée lisible.</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>Polices :</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Couleurs utilisées :</translation>
+    </message>
+    <message>
+        <source>%1 What is shown was read before.</source>
+        <translation>%1 Ce qui est affiché a été lu auparavant.</translation>
+    </message>
+    <message>
+        <source>Bounding box:</source>
+        <translation>Cadre de délimitation :</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>Chooses pictures and opens each in a window of its own</source>
+        <translation>Choisit des images et ouvre chacune dans sa propre fenêtre</translation>
+    </message>
+    <message>
+        <source>Clear the list</source>
+        <translation>Effacer la liste</translation>
+    </message>
+    <message>
+        <source>Close the find bar</source>
+        <translation>Fermer la barre de recherche</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>Espace de couleurs :</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>Les commandes et leurs touches</translation>
+    </message>
+    <message>
+        <source>Compressed SVG image (SVGZ)</source>
+        <translation>Image SVG compressée (SVGZ)</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>Copier le chemin</translation>
+    </message>
+    <message>
+        <source>Copy Selected Text</source>
+        <translation>Copier le texte sélectionné</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation>Copier la valeur</translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation>Copie en cours…</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>Copyright :</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>Créé le :</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>Créateur :</translation>
+    </message>
+    <message>
+        <source>D.M.S.</source>
+        <translation>Degrés, minutes et secondes : 12.3045 signifie 12° 30′ 45″</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Down by %1 pt</source>
+        <translation>%1 pt vers le bas</translation>
+    </message>
+    <message>
+        <source>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</source>
+        <translation>Faites glisser deux fois pour délimiter un rectangle. Faites-le glisser avec la touche Ctrl pour le donner à un autre programme comme fichier.</translation>
+    </message>
+    <message>
+        <source>Drawing…</source>
+        <translation>Dessin en cours…</translation>
+    </message>
+    <message>
+        <source>EPS, Illustrator, PDF and SVG pictures</source>
+        <translation>Images EPS, Illustrator, PDF et SVG</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript (EPS)</source>
+        <translation>PostScript encapsulé (EPS)</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript with interchange preview (EPSI)</source>
+        <translation>PostScript encapsulé avec aperçu d’échange (EPSI)</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Encodage du texte source</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>Encodage :</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>Fichier de ce document</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>Pour :</translation>
+    </message>
+    <message>
+        <source>GIF image</source>
+        <translation>Image GIF</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Hide extension</source>
+        <translation>Masquer l’extension</translation>
+    </message>
+    <message>
+        <source>High resolution:</source>
+        <translation>Haute résolution :</translation>
+    </message>
+    <message>
+        <source>Higher by %1 pt</source>
+        <translation>Plus haut de %1 pt</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Informations</translation>
+    </message>
+    <message>
+        <source>JPEG image</source>
+        <translation>Image JPEG</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Left by %1 pt</source>
+        <translation>%1 pt vers la gauche</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Numéros de ligne</translation>
+    </message>
+    <message>
+        <source>Lower by %1 pt</source>
+        <translation>Moins haut de %1 pt</translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>Move Selection</source>
+        <translation>Déplacer la sélection</translation>
+    </message>
+    <message>
+        <source>Narrower by %1 pt</source>
+        <translation>Plus étroit de %1 pt</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>Aucun fichier récent</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Introuvable</translation>
+    </message>
+    <message>
+        <source>Not possible for this picture: %1</source>
+        <translation>Impossible pour cette image : %1</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>Rien n’est sélectionné.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Only files on this computer can be opened.</source>
+        <translation>Seuls les fichiers de cet ordinateur peuvent être ouverts.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>Fichiers récents</translation>
+    </message>
+    <message>
+        <source>Opening was stopped</source>
+        <translation>L’ouverture a été arrêtée</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Ouverture en cours…</translation>
+    </message>
+    <message>
+        <source>Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.</source>
+        <translation>Ouvre des images EPS, Illustrator, PDF et SVG et en transmet n’importe quelle partie sous forme vectorielle.</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Ouvrir…</translation>
+    </message>
+    <message>
+        <source>OrderfrontColorWell</source>
+        <translation>Afficher le choix des couleurs</translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation>Document PDF</translation>
+    </message>
+    <message>
+        <source>PNG image</source>
+        <translation>Image PNG</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Pictures that you open are listed here.</source>
+        <translation>Les images que vous ouvrez apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>Please retry with other format.</source>
+        <translation>Veuillez réessayer avec un autre format.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer…</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Récents</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Fichiers récents</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Recharger</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Resize Selection</source>
+        <translation>Redimensionner la sélection</translation>
+    </message>
+    <message>
+        <source>Right by %1 pt</source>
+        <translation>%1 pt vers la droite</translation>
+    </message>
+    <message>
+        <source>RotateImageByMousedragg</source>
+        <translation>Faites glisser pour tourner l’image. Maj s’aligne sur 15°, un double clic remet à 0°.</translation>
+    </message>
+    <message>
+        <source>SVG image</source>
+        <translation>Image SVG</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Save Selection</source>
+        <translation>Enregistrer la sélection</translation>
+    </message>
+    <message>
+        <source>Save To</source>
+        <translation>Enregistrer dans</translation>
+    </message>
+    <message>
+        <source>SaveAs</source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>Enregistrer dans…</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Défiler latéralement</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Défiler verticalement</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
+        <translation>Sélection de %1, %2 à %3, %4 : %5 sur %6 points.</translation>
+    </message>
+    <message>
+        <source>Selected range of image data is written or displayed.</source>
+        <translation>Écrire la sélection, ou ce qui est visible, dans un fichier.</translation>
+    </message>
+    <message>
+        <source>SelectedRectangle</source>
+        <translation>Coins du rectangle sélectionné</translation>
+    </message>
+    <message>
+        <source>Selection is determined by dragging the mouse twice.</source>
+        <translation>Faites glisser une fois pour placer le départ, une seconde fois pour étirer le rectangle.</translation>
+    </message>
+    <message>
+        <source>SourceCode</source>
+        <translation>Texte source du document</translation>
+    </message>
+    <message>
+        <source>TIFF image</source>
+        <translation>Image TIFF</translation>
+    </message>
+    <message>
+        <source>The picture is still being printed.</source>
+        <translation>L’image est encore en cours d’impression.</translation>
+    </message>
+    <message>
+        <source>A file is still being written.</source>
+        <translation>Un fichier est encore en cours d’écriture.</translation>
+    </message>
+    <message>
+        <source>Close When Finished</source>
+        <translation>Fermer à la fin</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>Arrêter et fermer</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Laisser ouvert</translation>
+    </message>
+    <message>
+        <source>The writing was stopped</source>
+        <translation>L’écriture a été arrêtée</translation>
+    </message>
+    <message>
+        <source>The file was deleted or moved. What is shown was read before.</source>
+        <translation>Le fichier a été supprimé ou déplacé. Ce qui est affiché a été lu auparavant.</translation>
+    </message>
+    <message>
+        <source>Preparing “%1” for printing…</source>
+        <translation>Préparation de « %1 » pour l’impression…</translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Do you want to replace it?</source>
+        <translation>« %1 » existe déjà. Voulez-vous le remplacer ?</translation>
+    </message>
+    <message>
+        <source>The file has changed on disk.</source>
+        <translation>Le fichier a changé sur le disque.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be shown.</source>
+        <translation>L’image ne peut pas être affichée.</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written in this format</source>
+        <translation>L’image ne peut pas être écrite dans ce format</translation>
+    </message>
+    <message>
+        <source>The picture could not be copied. The clipboard holds what it held before.</source>
+        <translation>L’image n’a pas pu être copiée. Le presse-papiers contient ce qu’il contenait.</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are copied onto the paste board.</source>
+        <translation>Copier la sélection, ou ce qui est visible, dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are printed.</source>
+        <translation>Imprimer la sélection, ou ce qui est visible.</translation>
+    </message>
+    <message>
+        <source>The selection starts at %1, %2.</source>
+        <translation>La sélection commence à %1, %2.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this</source>
+        <translation>Il n’y a pas assez de mémoire pour cela</translation>
+    </message>
+    <message>
+        <source>This could not be done.</source>
+        <translation>Cela n’a pas pu être fait.</translation>
+    </message>
+    <message>
+        <source>This is not an EPS, Illustrator, PDF or SVG picture.</source>
+        <translation>Ce n’est pas une image EPS, Illustrator, PDF ou SVG.</translation>
+    </message>
+    <message>
+        <source>The file's name is not text in UTF-8. Please rename the file.</source>
+        <translation>Le nom du fichier n’est pas du texte en UTF-8. Veuillez renommer le fichier.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titre :</translation>
+    </message>
+    <message>
+        <source>Touch Bar</source>
+        <translation>Touch Bar</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>Up by %1 pt</source>
+        <translation>%1 pt vers le haut</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
+        <source>ViewBox</source>
+        <translation>View box ou limites de l’image, dans ses propres unités</translation>
+    </message>
+    <message>
+        <source>What it holds will be lost.</source>
+        <translation>Son contenu sera perdu.</translation>
+    </message>
+    <message>
+        <source>Wider by %1 pt</source>
+        <translation>Plus large de %1 pt</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>Écriture en cours…</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>or drop pictures here</source>
+        <translation>ou déposez des images ici</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation>« %1 » n’a pas pu être ouvert.</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>« %1 » existe déjà.</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Toutes</translation>
+    </message>
+    <message>
+        <source>&amp;Bottom:</source>
+        <translation>&amp;Bas :</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies :</translation>
+    </message>
+    <message>
+        <source>&amp;Fit on one page</source>
+        <translation>A&amp;juster à une page</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>Pa&amp;ysage</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Imprimer…</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>&amp;Droite :</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>&amp;Échelle :</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontally</source>
+        <translation>&amp;Horizontalement</translation>
+    </message>
+    <message>
+        <source>&amp;Vertically</source>
+        <translation>&amp;Verticalement</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>Première page</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m</source>
+        <translation>&amp;De</translation>
+    </message>
+    <message>
+        <source>Hea&amp;der and footer</source>
+        <translation>En-&amp;tête et pied de page</translation>
+    </message>
+    <message>
+        <source>Centred:</source>
+        <translation>Centrer :</translation>
+    </message>
+    <message>
+        <source>Centred horizontally</source>
+        <translation>Centrer horizontalement</translation>
+    </message>
+    <message>
+        <source>Centred vertically</source>
+        <translation>Centrer verticalement</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>Dernière page</translation>
+    </message>
+    <message>
+        <source>Lef&amp;t:</source>
+        <translation>&amp;Gauche :</translation>
+    </message>
+    <message>
+        <source>This printer is no longer there.</source>
+        <translation>Cette imprimante n’existe plus.</translation>
+    </message>
+    <message>
+        <source>Print Selected or Visible Pa&amp;rt…</source>
+        <translation>Imprimer la pa&amp;rtie sélectionnée ou visible…</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>Recherche d’imprimantes…</translation>
+    </message>
+    <message>
+        <source>Makes the picture smaller until one page holds it</source>
+        <translation>Réduit l’image jusqu’à ce qu’elle tienne sur une page</translation>
+    </message>
+    <message>
+        <source>Margins:</source>
+        <translation>Marges :</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientation :</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Imp&amp;rimante :</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>&amp;Mise en page…</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages :</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>Pap&amp;ier :</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Portra&amp;it</source>
+        <translation>P&amp;ortrait</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Aperçu de la page</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>Imprimer « %1 »</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Printing “%1”…</source>
+        <translation>Impression de « %1 »…</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prête</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>E&amp;nregistrer…</translation>
+    </message>
+    <message>
+        <source>Save as PDF file</source>
+        <translation>Enregistrer comme fichier PDF</translation>
+    </message>
+    <message>
+        <source>Save the pages as PDF</source>
+        <translation>Enregistrer les pages en PDF</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message>
+        <source>T&amp;op:</source>
+        <translation>&amp;Haut :</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>N’accepte pas de travaux</translation>
+    </message>
+    <message>
+        <source>The date above the picture and the file's location below it, on every page</source>
+        <translation>Sur chaque page, la date au-dessus de l’image et l’emplacement du fichier au-dessous</translation>
+    </message>
+    <message>
+        <source>The margins leave no room on the paper.</source>
+        <translation>Les marges ne laissent pas de place sur le papier.</translation>
+    </message>
+    <message>
+        <source>The pages become a PDF file.</source>
+        <translation>Les pages deviennent un fichier PDF.</translation>
+    </message>
+    <message>
+        <source>There is no printer.</source>
+        <translation>Il n’y a pas d’imprimante.</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>à</translation>
+    </message>
+    <message>
+        <source>“%1” was not printed.</source>
+        <translation>« %1 » n’a pas été imprimé.</translation>
+    </message>
+    <message>
+        <source>With the mouse</source>
+        <translation>Avec la souris</translation>
+    </message>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>Rechercher des commandes et des touches</translation>
+    </message>
+    <message>
+        <source>Is the preview added the occasion where it writes out?</source>
+        <translation>Faut-il ajouter un aperçu en écrivant le fichier ?</translation>
+    </message>
+    <message>
+        <source>With preview</source>
+        <translation>Avec aperçu</translation>
+    </message>
+    <message>
+        <source>The new file would hold less than the picture does.</source>
+        <translation>Le nouveau fichier contiendrait moins que l’image.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</source>
+        <translation>Logiciel libre sous la licence publique générale GNU, version 3 ou ultérieure. L’interpréteur PostScript est sous la licence publique générale GNU Affero, version 3 ou ultérieure.</translation>
+    </message>
+    <message>
+        <source>The drawing was stopped</source>
+        <translation>Le dessin a été arrêté</translation>
+    </message>
+    <message>
+        <source>Norvex ended unexpectedly the last time.</source>
+        <translation>La dernière fois, Norvex s’est terminé de façon inattendue.</translation>
+    </message>
+    <message>
+        <source>“%1” was open then, and may be the reason.</source>
+        <translation>« %1 » était alors ouvert et en est peut-être la cause.</translation>
+    </message>
+    <message>
+        <source>Do Not Open</source>
+        <translation>Ne pas ouvrir</translation>
+    </message>
+    <message>
+        <source>Open It Again</source>
+        <translation>L’ouvrir à nouveau</translation>
+    </message>
+    <message>
+        <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
+        <translation>%1 fichiers étaient alors ouverts. « %2 » a été utilisé en dernier et en est peut-être la cause.</translation>
+    </message>
+    <message>
+        <source>Open the Others</source>
+        <translation>Ouvrir les autres</translation>
+    </message>
+    <message>
+        <source>Open All Again</source>
+        <translation>Tout ouvrir à nouveau</translation>
+    </message>
+    <message>
+        <source>Norvex Manual</source>
+        <translation>Manuel de Norvex</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>Effacer l’historique</translation>
+    </message>
+    <message>
+        <source>Remember Files</source>
+        <translation>Mémoriser les fichiers</translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation>Rechercher dans le manuel</translation>
+    </message>
+    <message>
+        <source>Topics</source>
+        <translation>Sujets</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Page du manuel</translation>
+    </message>
+    <message>
+        <source>Place the first corner of a selection</source>
+        <translation>Placer le premier coin d’une sélection</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Glisser</translation>
+    </message>
+    <message>
+        <source>Draw the selection from there</source>
+        <translation>Étirer la sélection à partir de là</translation>
+    </message>
+    <message>
+        <source>Drag again</source>
+        <translation>Glisser à nouveau</translation>
+    </message>
+    <message>
+        <source>Take the selection to another program</source>
+        <translation>Porter la sélection dans un autre programme</translation>
+    </message>
+    <message>
+        <source>Ctrl + Drag</source>
+        <translation>Ctrl + glisser</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>Zoomer sous le pointeur</translation>
+    </message>
+    <message>
+        <source>Ctrl + Wheel</source>
+        <translation>Ctrl + molette</translation>
+    </message>
+    <message>
+        <source>Move the picture</source>
+        <translation>Déplacer l’image</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Molette</translation>
+    </message>
+    <message>
+        <source>Commands for the picture</source>
+        <translation>Commandes pour l’image</translation>
+    </message>
+    <message>
+        <source>Right button</source>
+        <translation>Bouton droit</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowController</name>
+    <message>
+        <source>Facts about the picture</source>
+        <translation>Informations sur l’image</translation>
+    </message>
+    <message>
+        <source>&amp;About Norvex</source>
+        <translation>À &amp;propos de Norvex</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>Taille &amp;réelle</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>&amp;Deselect</source>
+        <translation>&amp;Désélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Find in Source…</source>
+        <translation>&amp;Rechercher dans la source…</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>&amp;Ajuster</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recharger</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Angle of rotation</source>
+        <translation>Angle de rotation</translation>
+    </message>
+    <message>
+        <source>Angle of rotation in degrees, minutes and seconds</source>
+        <translation>Angle de rotation en degrés, minutes et secondes</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Couleur d’arrière-plan</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message>
+        <source>Bounds</source>
+        <translation>Limites</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>Espace de couleurs :</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>Copyright :</translation>
+    </message>
+    <message>
+        <source>CreationDate:</source>
+        <translation>Créé le :</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>Créateur :</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>Rien n’est sélectionné.</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>Encodage :</translation>
+    </message>
+    <message>
+        <source>End of the selection</source>
+        <translation>Fin de la sélection</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>P&amp;lein écran</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>Pour :</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Informations</translation>
+    </message>
+    <message>
+        <source>Kind of preview</source>
+        <translation>Type d’aperçu</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Picture rectangle</source>
+        <translation>Rectangle de l’image</translation>
+    </message>
+    <message>
+        <source>Picture to be written</source>
+        <translation>Image à écrire</translation>
+    </message>
+    <message>
+        <source>Picture with zoom and scroll bars</source>
+        <translation>Image avec zoom et barres de défilement</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Reset Rotatio&amp;n</source>
+        <translation>Réi&amp;nitialiser la rotation</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>Tourner à &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>Tourner à &amp;droite</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>Enregistrer dans</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Source text</source>
+        <translation>Texte source</translation>
+    </message>
+    <message>
+        <source>Start of the selection</source>
+        <translation>Début de la sélection</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>Titre :</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barre d’outils</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Z&amp;oom avant</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>&amp;Zoom arrière</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Whole Picture</source>
+        <translation>&amp;Copier toute l’image</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format :</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Rechercher le sui&amp;vant</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Rechercher le précéde&amp;nt</translation>
+    </message>
+    <message>
+        <source>&amp;Touch Bar</source>
+        <translation>&amp;Touch Bar</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>Raccourcis &amp;clavier</translation>
+    </message>
+    <message>
+        <source>What was noticed</source>
+        <translation>Ce qui a été remarqué</translation>
+    </message>
+    <message>
+        <source>BoundingBox:</source>
+        <translation>BoundingBox:</translation>
+    </message>
+    <message>
+        <source>HiResBoundingBox:</source>
+        <translation>HiResBoundingBox:</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>Polices :</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Couleurs utilisées :</translation>
+    </message>
+</context>
+<context>
+    <name>SKTZoomingScrollView</name>
+    <message>
+        <source>10%</source>
+        <translation>10 %</translation>
+    </message>
+    <message>
+        <source>25%</source>
+        <translation>25 %</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50 %</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75 %</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>125%</source>
+        <translation>125 %</translation>
+    </message>
+    <message>
+        <source>150%</source>
+        <translation>150 %</translation>
+    </message>
+    <message>
+        <source>200%</source>
+        <translation>200 %</translation>
+    </message>
+    <message>
+        <source>400%</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>800%</source>
+        <translation>800 %</translation>
+    </message>
+    <message>
+        <source>1600%</source>
+        <translation>1600 %</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1225 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>About Norvex</source>
+        <translation>Norvex について</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Bad data.</source>
+        <translation>ファイルに読み取れるデータがありません。</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>フォント:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>使用している色:</translation>
+    </message>
+    <message>
+        <source>%1 What is shown was read before.</source>
+        <translation>%1 表示しているのは以前に読み込んだ内容です。</translation>
+    </message>
+    <message>
+        <source>Bounding box:</source>
+        <translation>バウンディングボックス:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>キャンセルしました。</translation>
+    </message>
+    <message>
+        <source>Chooses pictures and opens each in a window of its own</source>
+        <translation>画像を選び、それぞれを別のウインドウで開きます</translation>
+    </message>
+    <message>
+        <source>Clear the list</source>
+        <translation>リストを消去</translation>
+    </message>
+    <message>
+        <source>Close the find bar</source>
+        <translation>検索バーを閉じる</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>カラースペース:</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>コマンドとキー</translation>
+    </message>
+    <message>
+        <source>Compressed SVG image (SVGZ)</source>
+        <translation>圧縮 SVG 画像 (SVGZ)</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>パスをコピー</translation>
+    </message>
+    <message>
+        <source>Copy Selected Text</source>
+        <translation>選択したテキストをコピー</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation>値をコピー</translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation>コピーしています…</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>著作権:</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>作成日時:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>作成アプリケーション:</translation>
+    </message>
+    <message>
+        <source>D.M.S.</source>
+        <translation>度・分・秒: 12.3045 は 12° 30′ 45″ です</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Down by %1 pt</source>
+        <translation>%1 pt 下へ</translation>
+    </message>
+    <message>
+        <source>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</source>
+        <translation>2 回ドラッグして矩形を指定します。Ctrl キーを押しながらドラッグすると、ファイルとしてほかのプログラムに渡せます。</translation>
+    </message>
+    <message>
+        <source>Drawing…</source>
+        <translation>描画しています…</translation>
+    </message>
+    <message>
+        <source>EPS, Illustrator, PDF and SVG pictures</source>
+        <translation>EPS、Illustrator、PDF、SVG の画像</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript (EPS)</source>
+        <translation>Encapsulated PostScript (EPS)</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript with interchange preview (EPSI)</source>
+        <translation>交換用プレビュー付き Encapsulated PostScript (EPSI)</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>ソーステキストのエンコーディング</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>エンコーディング:</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>この書類のファイル</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>対象:</translation>
+    </message>
+    <message>
+        <source>GIF image</source>
+        <translation>GIF 画像</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>Hide extension</source>
+        <translation>拡張子を隠す</translation>
+    </message>
+    <message>
+        <source>High resolution:</source>
+        <translation>高解像度:</translation>
+    </message>
+    <message>
+        <source>Higher by %1 pt</source>
+        <translation>%1 pt 高く</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>インスペクタ</translation>
+    </message>
+    <message>
+        <source>JPEG image</source>
+        <translation>JPEG 画像</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Left by %1 pt</source>
+        <translation>%1 pt 左へ</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>行番号</translation>
+    </message>
+    <message>
+        <source>Lower by %1 pt</source>
+        <translation>%1 pt 低く</translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation>一致</translation>
+    </message>
+    <message>
+        <source>Move Selection</source>
+        <translation>選択範囲を移動</translation>
+    </message>
+    <message>
+        <source>Narrower by %1 pt</source>
+        <translation>%1 pt 狭く</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>最近使ったファイルはありません</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>Not possible for this picture: %1</source>
+        <translation>この画像ではできません: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>何も選択されていません。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Only files on this computer can be opened.</source>
+        <translation>開けるのはこのコンピュータ上のファイルだけです。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>フォルダを開く</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>最近使ったファイルを開く</translation>
+    </message>
+    <message>
+        <source>Opening was stopped</source>
+        <translation>読み込みを中止しました</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>開いています…</translation>
+    </message>
+    <message>
+        <source>Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.</source>
+        <translation>EPS、Illustrator、PDF、SVG の画像を開き、そのどの部分でもベクターのまま渡します。</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>開く…</translation>
+    </message>
+    <message>
+        <source>OrderfrontColorWell</source>
+        <translation>カラーパネルを表示</translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation>PDF 書類</translation>
+    </message>
+    <message>
+        <source>PNG image</source>
+        <translation>PNG 画像</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Pictures that you open are listed here.</source>
+        <translation>開いた画像がここに並びます。</translation>
+    </message>
+    <message>
+        <source>Please retry with other format.</source>
+        <translation>別のフォーマットでもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>プリント…</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>最近使った項目</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>最近使ったファイル</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>再読み込み</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>リストから取り除く</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Resize Selection</source>
+        <translation>選択範囲のサイズを変更</translation>
+    </message>
+    <message>
+        <source>Right by %1 pt</source>
+        <translation>%1 pt 右へ</translation>
+    </message>
+    <message>
+        <source>RotateImageByMousedragg</source>
+        <translation>ドラッグして画像を回転します。Shift キーで 15° ごと、ダブルクリックで 0° になります。</translation>
+    </message>
+    <message>
+        <source>SVG image</source>
+        <translation>SVG 画像</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>別名で保存</translation>
+    </message>
+    <message>
+        <source>Save Selection</source>
+        <translation>選択範囲を保存</translation>
+    </message>
+    <message>
+        <source>Save To</source>
+        <translation>書き出し</translation>
+    </message>
+    <message>
+        <source>SaveAs</source>
+        <translation>別名で保存…</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>書き出し…</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>左右にスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>上下にスクロール</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべてを選択</translation>
+    </message>
+    <message>
+        <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
+        <translation>%1, %2 から %3, %4 まで選択: %5 × %6 ポイント。</translation>
+    </message>
+    <message>
+        <source>Selected range of image data is written or displayed.</source>
+        <translation>選択範囲、または見えている範囲をファイルに書き出します。</translation>
+    </message>
+    <message>
+        <source>SelectedRectangle</source>
+        <translation>選択した矩形の角</translation>
+    </message>
+    <message>
+        <source>Selection is determined by dragging the mouse twice.</source>
+        <translation>1 回目のドラッグで始点を置き、2 回目のドラッグで矩形を広げます。</translation>
+    </message>
+    <message>
+        <source>SourceCode</source>
+        <translation>書類のソーステキスト</translation>
+    </message>
+    <message>
+        <source>TIFF image</source>
+        <translation>TIFF 画像</translation>
+    </message>
+    <message>
+        <source>The picture is still being printed.</source>
+        <translation>画像をまだプリントしています。</translation>
+    </message>
+    <message>
+        <source>A file is still being written.</source>
+        <translation>ファイルをまだ書き込んでいます。</translation>
+    </message>
+    <message>
+        <source>Close When Finished</source>
+        <translation>終わったら閉じる</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>中止して閉じる</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>開いたままにする</translation>
+    </message>
+    <message>
+        <source>The writing was stopped</source>
+        <translation>書き込みを中止しました</translation>
+    </message>
+    <message>
+        <source>The file was deleted or moved. What is shown was read before.</source>
+        <translation>ファイルが削除または移動されました。表示しているのは以前に読み込んだ内容です。</translation>
+    </message>
+    <message>
+        <source>Preparing “%1” for printing…</source>
+        <translation>“%1”のプリントを準備しています…</translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Do you want to replace it?</source>
+        <translation>“%1”はすでに存在します。置き換えますか?</translation>
+    </message>
+    <message>
+        <source>The file has changed on disk.</source>
+        <translation>ディスク上のファイルが変更されました。</translation>
+    </message>
+    <message>
+        <source>The picture cannot be shown.</source>
+        <translation>画像を表示できません。</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written in this format</source>
+        <translation>画像をこのフォーマットで書き込めません</translation>
+    </message>
+    <message>
+        <source>The picture could not be copied. The clipboard holds what it held before.</source>
+        <translation>画像をコピーできませんでした。クリップボードの内容は以前のままです。</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are copied onto the paste board.</source>
+        <translation>選択範囲、または見えている範囲をクリップボードにコピーします。</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are printed.</source>
+        <translation>選択範囲、または見えている範囲をプリントします。</translation>
+    </message>
+    <message>
+        <source>The selection starts at %1, %2.</source>
+        <translation>選択範囲の始点は %1, %2 です。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this</source>
+        <translation>このためのメモリが足りません</translation>
+    </message>
+    <message>
+        <source>This could not be done.</source>
+        <translation>実行できませんでした。</translation>
+    </message>
+    <message>
+        <source>This is not an EPS, Illustrator, PDF or SVG picture.</source>
+        <translation>EPS、Illustrator、PDF、SVG の画像ではありません。</translation>
+    </message>
+    <message>
+        <source>The file's name is not text in UTF-8. Please rename the file.</source>
+        <translation>ファイル名が UTF-8 のテキストではありません。ファイル名を変更してください。</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>タイトル:</translation>
+    </message>
+    <message>
+        <source>Touch Bar</source>
+        <translation>Touch Bar</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>もう一度試す</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>名称未設定</translation>
+    </message>
+    <message>
+        <source>Up by %1 pt</source>
+        <translation>%1 pt 上へ</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>ViewBox</source>
+        <translation>画像の viewBox または範囲 (画像自身の単位)</translation>
+    </message>
+    <message>
+        <source>What it holds will be lost.</source>
+        <translation>元の内容は失われます。</translation>
+    </message>
+    <message>
+        <source>Wider by %1 pt</source>
+        <translation>%1 pt 広く</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>書き込んでいます…</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>or drop pictures here</source>
+        <translation>または画像をここにドロップ</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation>“%1”を開けませんでした。</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>“%1”はすでに存在します。</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>すべて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Bottom:</source>
+        <translation>下(&amp;B):</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>部数(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;Fit on one page</source>
+        <translation>1 ページに収める(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>横(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>プリント(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>プリント(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>右(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>拡大縮小(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontally</source>
+        <translation>水平(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Vertically</source>
+        <translation>垂直(&amp;V)</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>最初のページ</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m</source>
+        <translation>開始(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Hea&amp;der and footer</source>
+        <translation>ヘッダとフッタ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Centred:</source>
+        <translation>中央揃え:</translation>
+    </message>
+    <message>
+        <source>Centred horizontally</source>
+        <translation>水平方向に中央揃え</translation>
+    </message>
+    <message>
+        <source>Centred vertically</source>
+        <translation>垂直方向に中央揃え</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>最後のページ</translation>
+    </message>
+    <message>
+        <source>Lef&amp;t:</source>
+        <translation>左(&amp;T):</translation>
+    </message>
+    <message>
+        <source>This printer is no longer there.</source>
+        <translation>このプリンタはもうありません。</translation>
+    </message>
+    <message>
+        <source>Print Selected or Visible Pa&amp;rt…</source>
+        <translation>選択または表示部分をプリント(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>プリンタを探しています…</translation>
+    </message>
+    <message>
+        <source>Makes the picture smaller until one page holds it</source>
+        <translation>1 ページに収まるまで画像を縮小します</translation>
+    </message>
+    <message>
+        <source>Margins:</source>
+        <translation>余白:</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>方向:</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>プリンタ(&amp;R):</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%1 / %2 ページ</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>ページ設定(&amp;U)…</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>ページ設定</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>ページ:</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>用紙(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Portra&amp;it</source>
+        <translation>縦(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>ページのプレビュー</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>“%1”をプリント</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンタ</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>プリント</translation>
+    </message>
+    <message>
+        <source>Printing “%1”…</source>
+        <translation>“%1”をプリントしています…</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>保存(&amp;V)…</translation>
+    </message>
+    <message>
+        <source>Save as PDF file</source>
+        <translation>PDF ファイルとして保存</translation>
+    </message>
+    <message>
+        <source>Save the pages as PDF</source>
+        <translation>ページを PDF として保存</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大縮小</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>T&amp;op:</source>
+        <translation>上(&amp;O):</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>ジョブを受け付けません</translation>
+    </message>
+    <message>
+        <source>The date above the picture and the file's location below it, on every page</source>
+        <translation>各ページの画像の上に日付、下にファイルの場所を入れます</translation>
+    </message>
+    <message>
+        <source>The margins leave no room on the paper.</source>
+        <translation>余白のために用紙に場所が残りません。</translation>
+    </message>
+    <message>
+        <source>The pages become a PDF file.</source>
+        <translation>ページは PDF ファイルになります。</translation>
+    </message>
+    <message>
+        <source>There is no printer.</source>
+        <translation>プリンタがありません。</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>から</translation>
+    </message>
+    <message>
+        <source>“%1” was not printed.</source>
+        <translation>“%1”はプリントされませんでした。</translation>
+    </message>
+    <message>
+        <source>With the mouse</source>
+        <translation>マウス操作</translation>
+    </message>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>コマンドとキーを検索</translation>
+    </message>
+    <message>
+        <source>Is the preview added the occasion where it writes out?</source>
+        <translation>書き出すときにプレビューを付けますか?</translation>
+    </message>
+    <message>
+        <source>With preview</source>
+        <translation>プレビュー付き</translation>
+    </message>
+    <message>
+        <source>The new file would hold less than the picture does.</source>
+        <translation>新しいファイルに入る内容は画像より少なくなります。</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</source>
+        <translation>GNU 一般公衆利用許諾書バージョン 3 以降によるフリーソフトウェアです。PostScript インタプリタは GNU アフェロ一般公衆利用許諾書バージョン 3 以降によります。</translation>
+    </message>
+    <message>
+        <source>The drawing was stopped</source>
+        <translation>描画を中止しました</translation>
+    </message>
+    <message>
+        <source>Norvex ended unexpectedly the last time.</source>
+        <translation>前回 Norvex は予期せず終了しました。</translation>
+    </message>
+    <message>
+        <source>“%1” was open then, and may be the reason.</source>
+        <translation>そのとき“%1”が開いていました。これが原因かもしれません。</translation>
+    </message>
+    <message>
+        <source>Do Not Open</source>
+        <translation>開かない</translation>
+    </message>
+    <message>
+        <source>Open It Again</source>
+        <translation>もう一度開く</translation>
+    </message>
+    <message>
+        <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
+        <translation>そのとき %1 個のファイルが開いていました。最後に使った“%2”が原因かもしれません。</translation>
+    </message>
+    <message>
+        <source>Open the Others</source>
+        <translation>ほかのファイルを開く</translation>
+    </message>
+    <message>
+        <source>Open All Again</source>
+        <translation>すべてもう一度開く</translation>
+    </message>
+    <message>
+        <source>Norvex Manual</source>
+        <translation>Norvex マニュアル</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>履歴を消去</translation>
+    </message>
+    <message>
+        <source>Remember Files</source>
+        <translation>ファイルを記憶する</translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation>マニュアルを検索</translation>
+    </message>
+    <message>
+        <source>Topics</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>マニュアルのページ</translation>
+    </message>
+    <message>
+        <source>Place the first corner of a selection</source>
+        <translation>選択範囲の最初の角を置く</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>ドラッグ</translation>
+    </message>
+    <message>
+        <source>Draw the selection from there</source>
+        <translation>そこから選択範囲を広げる</translation>
+    </message>
+    <message>
+        <source>Drag again</source>
+        <translation>もう一度ドラッグ</translation>
+    </message>
+    <message>
+        <source>Take the selection to another program</source>
+        <translation>選択範囲をほかのプログラムに渡す</translation>
+    </message>
+    <message>
+        <source>Ctrl + Drag</source>
+        <translation>Ctrl + ドラッグ</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>ポインタの位置でズーム</translation>
+    </message>
+    <message>
+        <source>Ctrl + Wheel</source>
+        <translation>Ctrl + ホイール</translation>
+    </message>
+    <message>
+        <source>Move the picture</source>
+        <translation>画像を移動</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>ホイール</translation>
+    </message>
+    <message>
+        <source>Commands for the picture</source>
+        <translation>画像のコマンド</translation>
+    </message>
+    <message>
+        <source>Right button</source>
+        <translation>右ボタン</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowController</name>
+    <message>
+        <source>Facts about the picture</source>
+        <translation>画像の情報</translation>
+    </message>
+    <message>
+        <source>&amp;About Norvex</source>
+        <translation>Norvex について(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>実際のサイズ(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Deselect</source>
+        <translation>選択を解除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Find in Source…</source>
+        <translation>ソースを検索(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>ウインドウに合わせる(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>再読み込み(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Angle of rotation</source>
+        <translation>回転角</translation>
+    </message>
+    <message>
+        <source>Angle of rotation in degrees, minutes and seconds</source>
+        <translation>回転角 (度・分・秒)</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>背景色</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Bounds</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>カラースペース:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>著作権:</translation>
+    </message>
+    <message>
+        <source>CreationDate:</source>
+        <translation>作成日時:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>作成アプリケーション:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>何も選択されていません。</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>エンコーディング:</translation>
+    </message>
+    <message>
+        <source>End of the selection</source>
+        <translation>選択範囲の終点</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>フルスクリーン(&amp;U)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>対象:</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>フォーマット</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>インスペクタ</translation>
+    </message>
+    <message>
+        <source>Kind of preview</source>
+        <translation>プレビューの種類</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Picture rectangle</source>
+        <translation>画像の矩形</translation>
+    </message>
+    <message>
+        <source>Picture to be written</source>
+        <translation>書き込む画像</translation>
+    </message>
+    <message>
+        <source>Picture with zoom and scroll bars</source>
+        <translation>ズームとスクロールバーのある画像</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>プリント</translation>
+    </message>
+    <message>
+        <source>Reset Rotatio&amp;n</source>
+        <translation>回転をリセット(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>左に回転(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>右に回転(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>書き出し</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべてを選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>ソース</translation>
+    </message>
+    <message>
+        <source>Source text</source>
+        <translation>ソーステキスト</translation>
+    </message>
+    <message>
+        <source>Start of the selection</source>
+        <translation>選択範囲の始点</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>タイトル:</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>ツールバー</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>拡大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>縮小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>別名で保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Whole Picture</source>
+        <translation>画像全体をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>フォーマット:</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>次を検索(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>前を検索(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Touch Bar</source>
+        <translation>Touch Bar(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>キーボードショートカット(&amp;K)</translation>
+    </message>
+    <message>
+        <source>What was noticed</source>
+        <translation>気付いたこと</translation>
+    </message>
+    <message>
+        <source>BoundingBox:</source>
+        <translation>BoundingBox:</translation>
+    </message>
+    <message>
+        <source>HiResBoundingBox:</source>
+        <translation>HiResBoundingBox:</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>フォント:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>使用している色:</translation>
+    </message>
+</context>
+<context>
+    <name>SKTZoomingScrollView</name>
+    <message>
+        <source>10%</source>
+        <translation>10%</translation>
+    </message>
+    <message>
+        <source>25%</source>
+        <translation>25%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50%</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75%</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>125%</source>
+        <translation>125%</translation>
+    </message>
+    <message>
+        <source>150%</source>
+        <translation>150%</translation>
+    </message>
+    <message>
+        <source>200%</source>
+        <translation>200%</translation>
+    </message>
+    <message>
+        <source>400%</source>
+        <translation>400%</translation>
+    </message>
+    <message>
+        <source>800%</source>
+        <translation>800%</translation>
+    </message>
+    <message>
+        <source>1600%</source>
+        <translation>1600%</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1225 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>About Norvex</source>
+        <translation>关于 Norvex</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Bad data.</source>
+        <translation>文件中没有可读取的数据。</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>字体:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>使用的颜色:</translation>
+    </message>
+    <message>
+        <source>%1 What is shown was read before.</source>
+        <translation>%1 显示的是之前读取的内容。</translation>
+    </message>
+    <message>
+        <source>Bounding box:</source>
+        <translation>边界框:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Canceled.</source>
+        <translation>已取消。</translation>
+    </message>
+    <message>
+        <source>Chooses pictures and opens each in a window of its own</source>
+        <translation>选择图片,并在各自的窗口中打开</translation>
+    </message>
+    <message>
+        <source>Clear the list</source>
+        <translation>清空列表</translation>
+    </message>
+    <message>
+        <source>Close the find bar</source>
+        <translation>关闭查找栏</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>色彩空间:</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>命令及其按键</translation>
+    </message>
+    <message>
+        <source>Compressed SVG image (SVGZ)</source>
+        <translation>压缩的 SVG 图像 (SVGZ)</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy Path</source>
+        <translation>复制路径</translation>
+    </message>
+    <message>
+        <source>Copy Selected Text</source>
+        <translation>复制所选文本</translation>
+    </message>
+    <message>
+        <source>Copy Value</source>
+        <translation>复制值</translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation>正在复制…</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>版权:</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>创建时间:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>创建程序:</translation>
+    </message>
+    <message>
+        <source>D.M.S.</source>
+        <translation>度、分、秒:12.3045 即 12° 30′ 45″</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭提示</translation>
+    </message>
+    <message>
+        <source>Down by %1 pt</source>
+        <translation>向下 %1 pt</translation>
+    </message>
+    <message>
+        <source>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</source>
+        <translation>拖动两次以标出矩形。按住 Ctrl 键拖动,可将其作为文件交给其他程序。</translation>
+    </message>
+    <message>
+        <source>Drawing…</source>
+        <translation>正在绘制…</translation>
+    </message>
+    <message>
+        <source>EPS, Illustrator, PDF and SVG pictures</source>
+        <translation>EPS、Illustrator、PDF 和 SVG 图片</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript (EPS)</source>
+        <translation>封装 PostScript (EPS)</translation>
+    </message>
+    <message>
+        <source>Encapsulated PostScript with interchange preview (EPSI)</source>
+        <translation>带交换预览的封装 PostScript (EPSI)</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>源文本的编码</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>编码:</translation>
+    </message>
+    <message>
+        <source>Filename</source>
+        <translation>此文档的文件</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>用户:</translation>
+    </message>
+    <message>
+        <source>GIF image</source>
+        <translation>GIF 图像</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Hide extension</source>
+        <translation>隐藏扩展名</translation>
+    </message>
+    <message>
+        <source>High resolution:</source>
+        <translation>高分辨率:</translation>
+    </message>
+    <message>
+        <source>Higher by %1 pt</source>
+        <translation>增高 %1 pt</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>检查器</translation>
+    </message>
+    <message>
+        <source>JPEG image</source>
+        <translation>JPEG 图像</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Left by %1 pt</source>
+        <translation>向左 %1 pt</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>行号</translation>
+    </message>
+    <message>
+        <source>Lower by %1 pt</source>
+        <translation>降低 %1 pt</translation>
+    </message>
+    <message>
+        <source>Matches</source>
+        <translation>匹配项</translation>
+    </message>
+    <message>
+        <source>Move Selection</source>
+        <translation>移动选区</translation>
+    </message>
+    <message>
+        <source>Narrower by %1 pt</source>
+        <translation>变窄 %1 pt</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>没有最近使用的文件</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Not possible for this picture: %1</source>
+        <translation>此图片无法做到:%1</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>未选择任何内容。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Only files on this computer can be opened.</source>
+        <translation>只能打开这台计算机上的文件。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Open Recent</source>
+        <translation>打开最近使用的文件</translation>
+    </message>
+    <message>
+        <source>Opening was stopped</source>
+        <translation>已停止打开</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>正在打开…</translation>
+    </message>
+    <message>
+        <source>Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.</source>
+        <translation>打开 EPS、Illustrator、PDF 和 SVG 图片,并将其任意部分以矢量形式交给其他程序。</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>OrderfrontColorWell</source>
+        <translation>显示颜色面板</translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation>PDF 文档</translation>
+    </message>
+    <message>
+        <source>PNG image</source>
+        <translation>PNG 图像</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Pictures that you open are listed here.</source>
+        <translation>您打开的图片会列在这里。</translation>
+    </message>
+    <message>
+        <source>Please retry with other format.</source>
+        <translation>请换一种格式重试。</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>上一个</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印…</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>最近使用</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>最近使用的文件</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新载入</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>从列表中移除</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Resize Selection</source>
+        <translation>调整选区大小</translation>
+    </message>
+    <message>
+        <source>Right by %1 pt</source>
+        <translation>向右 %1 pt</translation>
+    </message>
+    <message>
+        <source>RotateImageByMousedragg</source>
+        <translation>拖动以旋转图片。按住 Shift 对齐到 15°,双击恢复为 0°。</translation>
+    </message>
+    <message>
+        <source>SVG image</source>
+        <translation>SVG 图像</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>Save Selection</source>
+        <translation>保存选区</translation>
+    </message>
+    <message>
+        <source>Save To</source>
+        <translation>保存到</translation>
+    </message>
+    <message>
+        <source>SaveAs</source>
+        <translation>另存为…</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>保存到…</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>横向滚动</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>上下滚动</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
+        <translation>已选择从 %1, %2 到 %3, %4:%5 × %6 点。</translation>
+    </message>
+    <message>
+        <source>Selected range of image data is written or displayed.</source>
+        <translation>将选区或可见部分写入文件。</translation>
+    </message>
+    <message>
+        <source>SelectedRectangle</source>
+        <translation>所选矩形的两角</translation>
+    </message>
+    <message>
+        <source>Selection is determined by dragging the mouse twice.</source>
+        <translation>拖动一次确定起点,再拖动一次拉出矩形。</translation>
+    </message>
+    <message>
+        <source>SourceCode</source>
+        <translation>文档的源文本</translation>
+    </message>
+    <message>
+        <source>TIFF image</source>
+        <translation>TIFF 图像</translation>
+    </message>
+    <message>
+        <source>The picture is still being printed.</source>
+        <translation>图片仍在打印。</translation>
+    </message>
+    <message>
+        <source>A file is still being written.</source>
+        <translation>仍在写入文件。</translation>
+    </message>
+    <message>
+        <source>Close When Finished</source>
+        <translation>完成后关闭</translation>
+    </message>
+    <message>
+        <source>Stop and Close</source>
+        <translation>停止并关闭</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>保持打开</translation>
+    </message>
+    <message>
+        <source>The writing was stopped</source>
+        <translation>已停止写入</translation>
+    </message>
+    <message>
+        <source>The file was deleted or moved. What is shown was read before.</source>
+        <translation>文件已被删除或移动。显示的是之前读取的内容。</translation>
+    </message>
+    <message>
+        <source>Preparing “%1” for printing…</source>
+        <translation>正在准备打印“%1”…</translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Do you want to replace it?</source>
+        <translation>“%1”已存在。要替换它吗?</translation>
+    </message>
+    <message>
+        <source>The file has changed on disk.</source>
+        <translation>磁盘上的文件已更改。</translation>
+    </message>
+    <message>
+        <source>The picture cannot be shown.</source>
+        <translation>无法显示此图片。</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written in this format</source>
+        <translation>无法以此格式写入图片</translation>
+    </message>
+    <message>
+        <source>The picture could not be copied. The clipboard holds what it held before.</source>
+        <translation>无法复制图片。剪贴板中仍是之前的内容。</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are copied onto the paste board.</source>
+        <translation>将选区或可见部分复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>The range of the selection or visible rect are printed.</source>
+        <translation>打印选区或可见部分。</translation>
+    </message>
+    <message>
+        <source>The selection starts at %1, %2.</source>
+        <translation>选区从 %1, %2 开始。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this</source>
+        <translation>内存不足,无法完成</translation>
+    </message>
+    <message>
+        <source>This could not be done.</source>
+        <translation>无法完成此操作。</translation>
+    </message>
+    <message>
+        <source>This is not an EPS, Illustrator, PDF or SVG picture.</source>
+        <translation>这不是 EPS、Illustrator、PDF 或 SVG 图片。</translation>
+    </message>
+    <message>
+        <source>The file's name is not text in UTF-8. Please rename the file.</source>
+        <translation>文件名不是 UTF-8 文本。请重命名该文件。</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>标题:</translation>
+    </message>
+    <message>
+        <source>Touch Bar</source>
+        <translation>Touch Bar</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>未命名</translation>
+    </message>
+    <message>
+        <source>Up by %1 pt</source>
+        <translation>向上 %1 pt</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>ViewBox</source>
+        <translation>图片的 viewBox 或边界,以图片自身的单位表示</translation>
+    </message>
+    <message>
+        <source>What it holds will be lost.</source>
+        <translation>其中的内容将会丢失。</translation>
+    </message>
+    <message>
+        <source>Wider by %1 pt</source>
+        <translation>变宽 %1 pt</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>Writing…</source>
+        <translation>正在写入…</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>or drop pictures here</source>
+        <translation>或将图片拖放到这里</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation>无法打开“%1”。</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>“%1”已存在。</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Bottom:</source>
+        <translation>下(&amp;B):</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>份数(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;Fit on one page</source>
+        <translation>缩放到一页(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>横向(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>打印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>打印(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation>右(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Scaling:</source>
+        <translation>缩放(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontally</source>
+        <translation>水平(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Vertically</source>
+        <translation>垂直(&amp;V)</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>第一页</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m</source>
+        <translation>从(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Hea&amp;der and footer</source>
+        <translation>页眉和页脚(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Centred:</source>
+        <translation>居中:</translation>
+    </message>
+    <message>
+        <source>Centred horizontally</source>
+        <translation>水平居中</translation>
+    </message>
+    <message>
+        <source>Centred vertically</source>
+        <translation>垂直居中</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>最后一页</translation>
+    </message>
+    <message>
+        <source>Lef&amp;t:</source>
+        <translation>左(&amp;T):</translation>
+    </message>
+    <message>
+        <source>This printer is no longer there.</source>
+        <translation>这台打印机已不存在。</translation>
+    </message>
+    <message>
+        <source>Print Selected or Visible Pa&amp;rt…</source>
+        <translation>打印所选或可见部分(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>Looking for printers…</source>
+        <translation>正在查找打印机…</translation>
+    </message>
+    <message>
+        <source>Makes the picture smaller until one page holds it</source>
+        <translation>缩小图片,直到一页能容纳</translation>
+    </message>
+    <message>
+        <source>Margins:</source>
+        <translation>页边距:</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>方向:</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>打印机(&amp;R):</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页,共 %2 页</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up…</source>
+        <translation>页面设置(&amp;U)…</translation>
+    </message>
+    <message>
+        <source>Page Setup</source>
+        <translation>页面设置</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>页码:</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>纸张(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Portra&amp;it</source>
+        <translation>纵向(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>页面预览</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Print “%1”</source>
+        <translation>打印“%1”</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>正在打印</translation>
+    </message>
+    <message>
+        <source>Printing “%1”…</source>
+        <translation>正在打印“%1”…</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>保存(&amp;V)…</translation>
+    </message>
+    <message>
+        <source>Save as PDF file</source>
+        <translation>保存为 PDF 文件</translation>
+    </message>
+    <message>
+        <source>Save the pages as PDF</source>
+        <translation>将页面保存为 PDF</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>T&amp;op:</source>
+        <translation>上(&amp;O):</translation>
+    </message>
+    <message>
+        <source>Takes no jobs</source>
+        <translation>不接受任务</translation>
+    </message>
+    <message>
+        <source>The date above the picture and the file's location below it, on every page</source>
+        <translation>每页图片上方显示日期,下方显示文件位置</translation>
+    </message>
+    <message>
+        <source>The margins leave no room on the paper.</source>
+        <translation>页边距过大,纸上没有空间。</translation>
+    </message>
+    <message>
+        <source>The pages become a PDF file.</source>
+        <translation>页面将成为 PDF 文件。</translation>
+    </message>
+    <message>
+        <source>There is no printer.</source>
+        <translation>没有打印机。</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>到</translation>
+    </message>
+    <message>
+        <source>“%1” was not printed.</source>
+        <translation>“%1”未打印。</translation>
+    </message>
+    <message>
+        <source>With the mouse</source>
+        <translation>鼠标操作</translation>
+    </message>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>搜索命令和按键</translation>
+    </message>
+    <message>
+        <source>Is the preview added the occasion where it writes out?</source>
+        <translation>写入时是否添加预览?</translation>
+    </message>
+    <message>
+        <source>With preview</source>
+        <translation>带预览</translation>
+    </message>
+    <message>
+        <source>The new file would hold less than the picture does.</source>
+        <translation>新文件包含的内容会少于图片。</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</source>
+        <translation>本程序是自由软件,采用 GNU 通用公共许可证第 3 版或更高版本。PostScript 解释器采用 GNU Affero 通用公共许可证第 3 版或更高版本。</translation>
+    </message>
+    <message>
+        <source>The drawing was stopped</source>
+        <translation>已停止绘制</translation>
+    </message>
+    <message>
+        <source>Norvex ended unexpectedly the last time.</source>
+        <translation>Norvex 上次意外退出。</translation>
+    </message>
+    <message>
+        <source>“%1” was open then, and may be the reason.</source>
+        <translation>当时打开的是“%1”,它可能是原因。</translation>
+    </message>
+    <message>
+        <source>Do Not Open</source>
+        <translation>不打开</translation>
+    </message>
+    <message>
+        <source>Open It Again</source>
+        <translation>再次打开</translation>
+    </message>
+    <message>
+        <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
+        <translation>当时打开了 %1 个文件。最后使用的是“%2”,它可能是原因。</translation>
+    </message>
+    <message>
+        <source>Open the Others</source>
+        <translation>打开其他文件</translation>
+    </message>
+    <message>
+        <source>Open All Again</source>
+        <translation>全部再次打开</translation>
+    </message>
+    <message>
+        <source>Norvex Manual</source>
+        <translation>Norvex 手册</translation>
+    </message>
+    <message>
+        <source>Clear History</source>
+        <translation>清除历史记录</translation>
+    </message>
+    <message>
+        <source>Remember Files</source>
+        <translation>记住文件</translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation>搜索手册</translation>
+    </message>
+    <message>
+        <source>Topics</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>手册页面</translation>
+    </message>
+    <message>
+        <source>Place the first corner of a selection</source>
+        <translation>确定选区的第一个角</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>拖动</translation>
+    </message>
+    <message>
+        <source>Draw the selection from there</source>
+        <translation>从那里拉出选区</translation>
+    </message>
+    <message>
+        <source>Drag again</source>
+        <translation>再次拖动</translation>
+    </message>
+    <message>
+        <source>Take the selection to another program</source>
+        <translation>将选区交给其他程序</translation>
+    </message>
+    <message>
+        <source>Ctrl + Drag</source>
+        <translation>Ctrl + 拖动</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>以指针为中心缩放</translation>
+    </message>
+    <message>
+        <source>Ctrl + Wheel</source>
+        <translation>Ctrl + 滚轮</translation>
+    </message>
+    <message>
+        <source>Move the picture</source>
+        <translation>移动图片</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>滚轮</translation>
+    </message>
+    <message>
+        <source>Commands for the picture</source>
+        <translation>图片的命令</translation>
+    </message>
+    <message>
+        <source>Right button</source>
+        <translation>右键</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindowController</name>
+    <message>
+        <source>Facts about the picture</source>
+        <translation>图片信息</translation>
+    </message>
+    <message>
+        <source>&amp;About Norvex</source>
+        <translation>关于 Norvex(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>实际大小(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Deselect</source>
+        <translation>取消选择(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Find in Source…</source>
+        <translation>在源文本中查找(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation>适合窗口(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>重新载入(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Angle of rotation</source>
+        <translation>旋转角度</translation>
+    </message>
+    <message>
+        <source>Angle of rotation in degrees, minutes and seconds</source>
+        <translation>旋转角度(度、分、秒)</translation>
+    </message>
+    <message>
+        <source>AngleOfRotation</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>背景颜色</translation>
+    </message>
+    <message>
+        <source>BackgroundColor</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Bounds</source>
+        <translation>边界</translation>
+    </message>
+    <message>
+        <source>ColorSpaceName:</source>
+        <translation>色彩空间:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copyright:</source>
+        <translation>版权:</translation>
+    </message>
+    <message>
+        <source>CreationDate:</source>
+        <translation>创建时间:</translation>
+    </message>
+    <message>
+        <source>Creator:</source>
+        <translation>创建程序:</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>未选择任何内容。</translation>
+    </message>
+    <message>
+        <source>Encoding:</source>
+        <translation>编码:</translation>
+    </message>
+    <message>
+        <source>End of the selection</source>
+        <translation>选区终点</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>全屏(&amp;U)</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>用户:</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>检查器</translation>
+    </message>
+    <message>
+        <source>Kind of preview</source>
+        <translation>预览类型</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Picture rectangle</source>
+        <translation>图片矩形</translation>
+    </message>
+    <message>
+        <source>Picture to be written</source>
+        <translation>要写入的图片</translation>
+    </message>
+    <message>
+        <source>Picture with zoom and scroll bars</source>
+        <translation>带缩放和滚动条的图片</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Reset Rotatio&amp;n</source>
+        <translation>重置旋转(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>向左旋转(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>向右旋转(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>SaveTo</source>
+        <translation>保存到</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>源文本</translation>
+    </message>
+    <message>
+        <source>Source text</source>
+        <translation>源文本</translation>
+    </message>
+    <message>
+        <source>Start of the selection</source>
+        <translation>选区起点</translation>
+    </message>
+    <message>
+        <source>Title:</source>
+        <translation>标题:</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>另存为(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Whole Picture</source>
+        <translation>复制整张图片(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>格式:</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>查找下一个(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>查找上一个(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Touch Bar</source>
+        <translation>Touch Bar(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>键盘快捷键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>What was noticed</source>
+        <translation>注意到的问题</translation>
+    </message>
+    <message>
+        <source>BoundingBox:</source>
+        <translation>BoundingBox:</translation>
+    </message>
+    <message>
+        <source>HiResBoundingBox:</source>
+        <translation>HiResBoundingBox:</translation>
+    </message>
+    <message>
+        <source>Fonts:</source>
+        <translation>字体:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>使用的颜色:</translation>
+    </message>
+</context>
+<context>
+    <name>SKTZoomingScrollView</name>
+    <message>
+        <source>10%</source>
+        <translation>10%</translation>
+    </message>
+    <message>
+        <source>25%</source>
+        <translation>25%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50%</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75%</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>125%</source>
+        <translation>125%</translation>
+    </message>
+    <message>
+        <source>150%</source>
+        <translation>150%</translation>
+    </message>
+    <message>
+        <source>200%</source>
+        <translation>200%</translation>
+    </message>
+    <message>
+        <source>400%</source>
+        <translation>400%</translation>
+    </message>
+    <message>
+        <source>800%</source>
+        <translation>800%</translation>
+    </message>
+    <message>
+        <source>1600%</source>
+        <translation>1600%</translation>
+    </message>
+</context>
+</TS>

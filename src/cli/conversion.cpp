@@ -37,9 +37,6 @@ bool showsPicture(const NSImageRep& imageRep, const PictureRegion& region) {
 
 std::optional<Error> objection(const NSImageRep& imageRep, const ConversionOptions& options,
                                const std::optional<PictureRegion>& region) {
-  if (rowOf(options.format).kind == DocumentKind::Svg && imageRep.pictureKind() != PictureKind::Svg) {
-    return Error{ErrorKind::Unsupported, QStringLiteral("only an SVG picture can be written as SVG")};
-  }
   const int pages = pageCount(imageRep);
   if (options.page.value_or(1) > pages) {
     return Error{ErrorKind::Unsupported,

@@ -49,7 +49,9 @@ QStringList keysHeld(PictureKind source, PictureFormat format) {
                                                       header::Description, header::CreationDate}
                                         : QStringList{header::Title, header::Creator, header::For};
     case DocumentKind::Svg:
-      return {header::Title, header::Description};
+      return source == PictureKind::Svg
+                 ? QStringList{header::Title, header::Description}
+                 : QStringList{header::Title, header::Description, header::For, header::Creator};
     default:
       return {};
   }

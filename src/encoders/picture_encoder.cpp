@@ -23,6 +23,17 @@ namespace {
 
 Q_LOGGING_CATEGORY(encoderLog, "norvex.encoders")
 
+/// What an SVG has elements for.
+PdfAttributes svgAttributes(const HeaderDictionary& facts) {
+  PdfAttributes attributes;
+  for (const auto& [key, name] :
+       {std::pair(header::Title, "Title"), std::pair(header::Description, "Subject"),
+        std::pair(header::For, "Author"), std::pair(header::Creator, "Creator")})
+    if (const QString text = facts.value(key).toString(); !text.isEmpty())
+      attributes.texts.insert(QString::fromLatin1(name), text);
+  return attributes;
+}
+
 bool isEps(const NSImageRep* imageRep) {
   return dynamic_cast<const NSEPSImageRep*>(imageRep) != nullptr;
 }
@@ -198,8 +209,9 @@ std::optional<PdfAttributes> PictureEncoder::attributesFrom(const HeaderDictiona
 // ---- SVG and raster ---------------------------------------------------------------------------------------
 
 QByteArray PictureEncoder::svgData() {
+  if (!imageRep_) return {};
   const auto* svg = dynamic_cast<const ZyWebImageRep*>(imageRep_.get());
-  if (!svg) return {};
+  if (!svg) return composed(VectorFormat::Svg, svgAttributes(header()));
   SvgRequest request;
   if (surroundings_.region) {
     // The cut counts from the upper left corner of the turned picture, y down, and turns clockwise.

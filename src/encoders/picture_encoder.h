@@ -54,7 +54,7 @@ class PictureEncoder {
   [[nodiscard]] QByteArray pngData(const std::shared_ptr<NSImageRep>& imageRep);
   [[nodiscard]] QByteArray jpgData(const std::shared_ptr<NSImageRep>& imageRep);
   [[nodiscard]] QByteArray gifData(const std::shared_ptr<NSImageRep>& imageRep);
-  /// Indented SVG; only of an SVG picture.
+  /// SVG: indented of an SVG picture, drawn of any other.
   [[nodiscard]] QByteArray svgData();
 
   [[nodiscard]] const std::shared_ptr<NSImageRep>& imageRep() const { return imageRep_; }

@@ -160,6 +160,22 @@ inline constexpr double maximumPixelsTogether = 16.0e6;
 /// Huge pages, whose search for these regions would take minutes: pixels; they are compared more coarsely.
 inline constexpr double maximumComparedPixels = 6.0e6;
 
+// ---- SVG output ----
+
+/// Elements that readers of SVG, ours among them, do not read any more; groups and clips within one another
+/// that their stacks do not take.
+inline constexpr qsizetype maximumSvgElements = 900'000;
+inline constexpr int maximumSvgDepth = 200;
+/// An attribute, a path or an image, that readers of XML refuse: they end at ten million bytes.
+inline constexpr qsizetype maximumSvgAttribute = 9'500'000;
+/// Fonts and images without end: files and outlines that are kept at a time.
+inline constexpr qsizetype maximumSvgGlyphs = 200'000;
+inline constexpr qsizetype maximumSvgFonts = 1'000;
+/// A pattern of a tiny step on a large page: cells that are placed one by one.
+inline constexpr double maximumSvgCells = 400;
+/// Gradients that only an image can hold: pixels of each.
+inline constexpr double maximumSvgShadingPixels = 4.0e6;
+
 // ---- printers ----
 
 /// A print service that does not answer: milliseconds until it is connected, and seconds of each of so many

@@ -53,6 +53,16 @@ QByteArray emptyEps(const QSizeF& size) {
          side(size.width()) + ' ' + side(size.height()) + "\n%%EndComments\nshowpage\n%%EOF\n";
 }
 
+namespace {
+
+/// Without drawing.
+QByteArray emptySvg(const QSizeF& size) {
+  return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + QByteArray::number(size.width()) +
+         "pt\" height=\"" + QByteArray::number(size.height()) + "pt\"/>";
+}
+
+}  // namespace
+
 // ---- process
 // --------------------------------------------------------------------------------------------------------
 
@@ -169,6 +179,7 @@ Result<PictureBytes> MemoryPictureProcess::compose(const ComposeRequest& request
   if (const auto begun = begin(PictureCall::Compose, cancel); !begun) return begun.error();
   if (picture_.compose) return PictureBytes{picture_.compose(request), picture_.report};
   const QSizeF size = request.rect.size();
+  if (request.format == VectorFormat::Svg) return PictureBytes{emptySvg(size), picture_.report};
   return PictureBytes{request.format == VectorFormat::Pdf ? emptyPdf(size) : emptyEps(size), picture_.report};
 }
 

@@ -52,8 +52,8 @@ class PdfEngine final : public DocumentEngine {
 
   Result<EngineBytes> compose(const ComposeRequest& request) override {
     Result<EngineBytes> result = composePage(bytes_, request, context_);
-    // A PDF asks for its fonts as the document did; EPS holds what is drawn instead.
-    if (!result || request.format != VectorFormat::Eps) return result;
+    // A PDF asks for its fonts as the document did; EPS and SVG hold what is drawn instead.
+    if (!result || request.format == VectorFormat::Pdf) return result;
     noteMissingFonts(request.page);
     result->report.warnings = missingFonts_ + result->report.warnings;
     return result;

@@ -94,8 +94,9 @@ Result<QByteArray> composePdf(const QByteArray& pdf, const ComposeRequest& reque
     QPDFObjectHandle page = placedPage(file.qpdf(), source, form, request, placement(geometry, request));
     keepOnlyPage(file.qpdf(), page);
     putBack(found, file.qpdf(), page);
+    if (request.format != VectorFormat::Pdf) return writePdfToDraw(file.qpdf());
     if (request.attributes) setPdfAttributes(file.qpdf(), *request.attributes);
-    return request.format == VectorFormat::Eps ? writePdfToDraw(file.qpdf()) : writePdf(file.qpdf());
+    return writePdf(file.qpdf());
   });
 }
 

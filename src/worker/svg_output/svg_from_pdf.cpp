@@ -1,0 +1,61 @@
+#include "worker/svg_output/svg_from_pdf.h"
+
+#include <PDFDoc.h>
+#include <Stream.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "worker/eps_output/postscript_device.h"
+#include "worker/svg_output/svg_device.h"
+#include "worker/svg_output/svg_metadata.h"
+#include "worker/svg_output/svg_sheet.h"
+
+namespace norvex::engine {
+namespace {
+
+constexpr qsizetype kMiB = 1 << 20;
+constexpr qsizetype kShareOfMemory = 4;  // the text is there twice, and what it is made of as well
+
+// Hundredths of a point are enough for a sheet of paper; what is small will be enlarged.
+int decimalsFor(QSizeF page) {
+  const double side = std::max(page.width(), page.height());
+  return side <= 60 ? 4 : side <= 600 ? 3 : 2;
+}
+
+BytesReply reportOf(const SvgDevice& device, QSizeF page) {
+  BytesReply report;
+  const SvgRasterised& rasterised = device.rasterised();
+  report.regionsRasterised = rasterised.regions;
+  report.rasterisedAreaShare = std::min(1.0, rasterised.area / (page.width() * page.height()));
+  report.rasterisedDpi = rasterised.dpi;
+  if (device.leftOutImages())
+    report.warnings << QStringLiteral("an image with more pixels than are granted was left out");
+  return report;
+}
+
+}  // namespace
+
+Result<EngineBytes> svgFromPdf(const QByteArray& pdf, const std::optional<PdfAttributes>& attributes,
+                               EngineContext& context) {
+  const Error unreadable{ErrorKind::NotParsable, QStringLiteral("the page cannot be written as SVG")};
+  keepPopplerSettings();
+  PDFDoc document(new MemStream(pdf.constData(), 0, pdf.size(), Object(objNull)));
+  if (!document.isOk() || document.getNumPages() < 1 || !document.getPage(1)) return unreadable;
+  const QSizeF page(document.getPageCropWidth(1), document.getPageCropHeight(1));
+  if (!(page.width() > 0) || !(page.height() > 0)) return unreadable;
+  SvgSheet sheet(page, decimalsFor(page), context.limits.memoryMiB * kMiB / kShareOfMemory);
+  SvgDevice device(sheet, context.limits, context.cancel);
+  document.displayPage(
+      &device, 1, 72, 72, 0, false, true, false,
+      [](void* asked) { return static_cast<const SvgDevice*>(asked)->mustStop(); }, &device);
+  if (context.cancel.cancelled())
+    return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
+  QByteArray text = sheet.document(attributes ? svgMetadata(*attributes) : QByteArray());
+  if (sheet.isFull())
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the page is too large or too deeply nested to become SVG")};
+  return EngineBytes{std::move(text), reportOf(device, page)};
+}
+
+}  // namespace norvex::engine

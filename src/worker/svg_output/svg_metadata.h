@@ -1,0 +1,14 @@
+// What a document says about itself, in front of an SVG.
+#pragma once
+
+#include <QByteArray>
+
+#include "protocol/worker_protocol.h"
+
+namespace norvex::engine {
+
+/// title, desc and metadata elements of the texts that are there: "Title", "Subject", "Author" and "Creator".
+/// Texts are escaped: nothing of them becomes structure.
+[[nodiscard]] QByteArray svgMetadata(const PdfAttributes& attributes);
+
+}  // namespace norvex::engine

@@ -1,0 +1,224 @@
+#include <QBuffer>
+#include <QRegularExpression>
+
+#include "kit/test_main.h"
+#include "worker/kit/made_pdf.h"
+#include "worker/kit/svg_output_kit.h"
+#include "worker/pages/pdf_engine.h"
+
+using namespace norvex;
+using namespace norvex::engine;
+using kit::MadeSvg;
+using kit::onePage;
+using kit::stream;
+
+namespace {
+
+const QByteArray kFont = "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>";
+
+QByteArray page(const QByteArray& contents, const QByteArray& resources = {},
+                const QList<QByteArray>& more = {}) {
+  return onePage(contents, "/MediaBox [0 0 200 100] /Resources << /Font << /F 5 0 R >> " + resources + " >>",
+                 QList<QByteArray>{kFont} + more);
+}
+
+QByteArray jpegOf(const QImage& image) {
+  QBuffer buffer;
+  image.save(&buffer, "JPEG", 90);
+  return buffer.data();
+}
+
+Result<EngineBytes> composed(const QByteArray& pdf, ComposeRequest request) {
+  EngineContext context;
+  auto opened = openPdf(pdf, context);
+  if (!opened) return opened.error();
+  request.format = VectorFormat::Svg;
+  return (*opened)->compose(request);
+}
+
+}  // namespace
+
+class SvgFromPdfTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void itsSizeIsThePagesInPoints() {
+    const MadeSvg made(onePage("0 0 9 9 re f", "/MediaBox [0 0 200.5 100.25]"));
+    QVERIFY(made.svg().contains(" width=\"200.5pt\" height=\"100.25pt\" viewBox=\"0 0 200.5 100.25\""));
+  }
+
+  void whatIsFilledAndStrokedIsOneElement() {
+    QCOMPARE(MadeSvg(page("1 0 0 rg 4 w 10 10 50 50 re B")).count("<path"), 1);
+    QCOMPARE(MadeSvg(page("1 0 0 rg 4 w 10 10 50 50 re f 10 10 50 51 re S")).count("<path"), 2);
+  }
+
+  void linesOfOneKindAreOneElement() {
+    QByteArray lines = "0 0 1 RG ";
+    for (int i = 0; i < 50; ++i) lines += QByteArray::number(i) + " 0 m 10 90 l S ";
+    QCOMPARE(MadeSvg(page(lines)).count("<path"), 1);
+    QCOMPARE(MadeSvg(page("0 0 m 9 9 l S 1 0 0 RG 0 9 m 9 0 l S")).count("<path"), 2);
+    // See-through lines are darker where they cross.
+    QCOMPARE(MadeSvg(page("/H gs 0 0 m 9 9 l S 0 9 m 9 0 l S", "/ExtGState << /H << /CA 0.5 >> >>"))
+                 .count("<path"),
+             2);
+  }
+
+  void aClipThatHidesNothingIsLeftOut() {
+    QCOMPARE(MadeSvg(page("0 0 200 100 re W n 10 10 20 20 re f")).count("clip-path"), 0);
+    QVERIFY(MadeSvg(page("15 0 200 100 re W n 10 10 20 20 re f")).count("clip-path") > 0);
+  }
+
+  void whatLiesOutsideIsLeftOut() {
+    const MadeSvg made(page("300 10 20 20 re f 0 0 50 50 re W n 60 60 20 20 re f"));
+    QCOMPARE(made.count("<path"), 0);
+  }
+
+  void gradientsStayGradients() {
+    const MadeSvg made(
+        page("/A sh /R sh",
+             "/Shading << /A << /ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 200 0] /Function 6 0 R "
+             ">> /R << /ShadingType 3 /ColorSpace /DeviceRGB /Coords [50 50 0 50 50 40] /Function 6 0 R "
+             ">> >>",
+             {"<< /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >>"}));
+    QCOMPARE(made.count("<linearGradient"), 1);
+    QCOMPARE(made.count("<radialGradient"), 1);
+    QCOMPARE(made.count("<image"), 0);
+    QCOMPARE(made.report().regionsRasterised, 0);
+  }
+
+  void aMeshBecomesAnImageAndThatIsTold() {
+    const QByteArray triangle("\0\0\0\xff\0\0\0\xff\0\0\xff\0\0\x80\xff\0\0\xff", 18);
+    const MadeSvg made(
+        page("/M sh", "/Shading << /M 6 0 R >>",
+             {stream(triangle,
+                     "/ShadingType 4 /ColorSpace /DeviceRGB /BitsPerCoordinate 8 /BitsPerComponent 8 "
+                     "/BitsPerFlag 8 /Decode [0 200 0 100 0 1 0 1 0 1]")}));
+    QCOMPARE(made.count("<image"), 1);
+    QCOMPARE(made.report().regionsRasterised, 1);
+    QVERIFY(made.report().rasterisedAreaShare > 0.2);
+    QVERIFY(std::abs(made.report().rasterisedDpi - 150) < 1);
+  }
+
+  void anImageIsThereOnce() {
+    const MadeSvg made(
+        page("q 20 0 0 20 0 0 cm /I Do Q q 40 0 0 20 50 0 cm /I Do Q q 20 9 -9 20 100 0 cm /I Do Q",
+             "/XObject << /I 6 0 R >>",
+             {stream("\xff\x10\x10\x10\xff\x10",
+                     "/Type /XObject /Subtype /Image /Width 2 /Height 1 /BitsPerComponent 8 /ColorSpace "
+                     "/DeviceRGB")}));
+    QCOMPARE(made.count("data:image/png;base64,"), 1);
+    QCOMPARE(made.count("<use"), 3);
+  }
+
+  void aJpegStaysTheOriginal() {
+    QImage image(32, 16, QImage::Format_RGB32);
+    for (int y = 0; y < 16; ++y)
+      for (int x = 0; x < 32; ++x) image.setPixel(x, y, qRgb(x * 8, y * 16, 99));
+    const QByteArray jpeg = jpegOf(image);
+    QVERIFY(!jpeg.isEmpty());
+    const QByteArray entries =
+        "/Type /XObject /Subtype /Image /Width 32 /Height 16 /BitsPerComponent 8 /Filter /DCTDecode ";
+    const auto made = [&](const QByteArray& more) {
+      return MadeSvg(
+          page("q 64 0 0 32 0 0 cm /I Do Q", "/XObject << /I 6 0 R >>", {stream(jpeg, entries + more)}));
+    };
+    const MadeSvg plain = made("/ColorSpace /DeviceRGB");
+    QCOMPARE(plain.count("data:image/jpeg;base64,"), 1);
+    const qsizetype from = plain.svg().indexOf("base64,") + 7;
+    const QByteArray held =
+        QByteArray::fromBase64(plain.svg().mid(from, plain.svg().indexOf('"', from) - from));
+    QCOMPARE(QImage::fromData(held), QImage::fromData(jpeg));
+    // Its samples mean something else here: a reader of the file alone would show other colours.
+    QCOMPARE(made("/ColorSpace /DeviceRGB /Decode [1 0 1 0 1 0]").count("data:image/jpeg"), 0);
+  }
+
+  void aCharacterIsThereOnce() {
+    const MadeSvg made(page("BT /F 20 Tf 10 50 Td (AAAA) Tj /F 12 Tf 0 -30 Td (AA) Tj ET"));
+    QCOMPARE(made.count("<path"), 1);
+    QCOMPARE(made.count("<use"), 6);
+  }
+
+  void titleDescriptionAndOwnerAreCarriedOver() {
+    PdfAttributes attributes;
+    attributes.texts = {
+        {"Title", "A & B"}, {"Subject", "What it shows"}, {"Author", "Ann"}, {"Creator", "Pen 2"}};
+    const QByteArray svg = MadeSvg(page("0 0 9 9 re f"), attributes).svg();
+    QVERIFY(svg.contains("<title>A &amp; B</title>"));
+    QVERIFY(svg.contains("<desc>What it shows</desc>"));
+    QVERIFY(svg.contains("<dc:creator>Ann</dc:creator>"));
+    QVERIFY(svg.contains("<xmp:CreatorTool>Pen 2</xmp:CreatorTool>"));
+  }
+
+  void nothingThatADocumentSaysBecomesStructure() {
+    PdfAttributes attributes;
+    for (const char* key : {"Title", "Subject", "Author", "Creator"})
+      attributes.texts.insert(key, QString("</title><script>alert(1)</script>]]>&lol;\"'\x01\u0085") +
+                                       QChar(0xfffe) + QChar(0xd800));
+    const MadeSvg made(page("0 0 9 9 re f"), attributes);
+    QCOMPARE(made.count("<script"), 0);
+    QCOMPARE(made.count("</title>"), 1);
+    QVERIFY(!made.picture().isNull());
+  }
+
+  void nothingIsReferredToOutside() {
+    const MadeSvg made(page("BT /F 20 Tf 10 50 Td (A) Tj ET q 20 0 0 20 0 0 cm /I Do Q",
+                            "/XObject << /I 6 0 R >>",
+                            {stream("\xff\x10\x10",
+                                    "/Type /XObject /Subtype /Image /Width 1 /Height 1 /BitsPerComponent 8 "
+                                    "/ColorSpace /DeviceRGB")}));
+    static const QRegularExpression reference("href=\"(?!#|data:image/(png|jpeg);base64,)");
+    QVERIFY(!reference.match(QString::fromUtf8(made.svg())).hasMatch());
+    QVERIFY(made.svg().contains("href=\"#"));
+  }
+
+  void aCutHoldsWhatLiesInIt() {
+    ComposeRequest request;
+    request.rect = QRectF(-100, -50, 100, 100);  // the left half
+    const auto cut = composed(page("1 0 0 rg 10 10 20 20 re f 0 0 1 rg 150 10 20 20 re f"), request);
+    QVERIFY(cut);
+    QVERIFY(cut->bytes.contains("viewBox=\"0 0 100 100\""));
+    QVERIFY(cut->bytes.contains("#f00"));
+    QVERIFY(!cut->bytes.contains("#00f"));
+  }
+
+  void aTurnedPageIsTurned() {
+    ComposeRequest request;
+    request.rect = QRectF(-50, -100, 100, 200);
+    request.rotate = std::acos(-1.0) / 2;
+    const auto turned = composed(page("1 0 0 rg 0 0 20 10 re f"), request);
+    QVERIFY(turned);
+    // A quarter to the left: what was at the lower left is at the lower right.
+    QVERIFY2(turned->bytes.contains("d=\"M100 200v-20h-10v20z\"") || turned->bytes.contains("M100 200"),
+             turned->bytes);
+  }
+
+  void morePathsThanAreGrantedAreALimit() {
+    EngineContext context;
+    context.limits.memoryMiB = 1;
+    QByteArray paths;
+    for (int i = 0; i < 20000; ++i)
+      paths += QByteArray::number(i % 199) + " 0 m 100 " + QByteArray::number(i % 97) + " l 3 7 l f ";
+    const MadeSvg made(page(paths), {}, context);
+    QVERIFY(made.error());
+    QCOMPARE(made.error()->kind, ErrorKind::Limit);
+  }
+
+  void clipsWithinClipsAreALimit() {
+    QByteArray clips;
+    for (int i = 0; i < 400; ++i)
+      clips += "0 0 m 200 0 l 100 " + QByteArray::number(100 - i * 0.1) + " l W n ";
+    const MadeSvg made(page(clips + "0 0 200 100 re f"));
+    QVERIFY(made.error());
+    QCOMPARE(made.error()->kind, ErrorKind::Limit);
+  }
+
+  void cancelledWorkEnds() {
+    EngineContext context;
+    context.cancel.cancel();
+    const MadeSvg made(page("0 0 9 9 re f"), {}, context);
+    QVERIFY(made.error());
+    QCOMPARE(made.error()->kind, ErrorKind::Cancelled);
+  }
+};
+
+NORVEX_TEST(SvgFromPdfTest)
+#include "svg_from_pdf_test.moc"

@@ -131,7 +131,7 @@ class ArchiveSystemTest : public QObject {
       const qsizetype before = contentsOf(tree.path("out")).size();
       // Most rounds begin to count when the work does.
       if (round % 3 != 0) (void)run.waitForReadyRead(60'000);
-      if (!run.waitForFinished(random.bounded(1, 500))) {
+      if (!run.waitForFinished(random.bounded(1, 1200))) {
         run.kill();
         QVERIFY(run.waitForFinished());
         ++killed;

@@ -17,7 +17,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr qsizetype kBegunAtOnce = 128;  ///< files that are begun with one write to the disk
 constexpr qsizetype kKeptAtOnce = 1024;  ///< results that are kept with one
-constexpr std::chrono::seconds kKeptAfter{1};
+constexpr std::chrono::milliseconds kKeptAtLeastEvery{2000}, kKeptAtMostEvery{100};
+constexpr int kPartOfTime = 10;  ///< keeping takes one part of so many, of the telling thread's time
 constexpr std::chrono::seconds kLogEvery{60};
 constexpr std::chrono::milliseconds kShownEvery{200};
 constexpr int kToldCollisions = 20;
@@ -252,7 +253,7 @@ ExitCode ArchiveRun::tell() {
   lastKept_ = lastTold_ = Clock::now();
   while (!window_.isOver()) {
     if (const auto result = window_.next(kShownEvery); result && !tellOne(*result)) window_.stop();
-    if (Clock::now() - lastKept_ >= kKeptAfter && !keepWhatWaits()) window_.stop();
+    if (Clock::now() - lastKept_ >= keepEvery_ && !keepWhatWaits()) window_.stop();
     tellProgress();
   }
   (void)keepWhatWaits();
@@ -314,9 +315,12 @@ bool ArchiveRun::keep(const FileResult& result) {
 }
 
 bool ArchiveRun::keepWhatWaits() {
-  lastKept_ = Clock::now();
+  const auto begun = lastKept_ = Clock::now();
   if (!state_ || unkept_.isEmpty()) return true;
   const Result<void> kept = state_->finish(std::exchange(unkept_, {}));
+  lastKept_ = Clock::now();
+  keepEvery_ =
+      std::clamp<Clock::duration>((lastKept_ - begun) * kPartOfTime, kKeptAtMostEvery, kKeptAtLeastEvery);
   if (!kept) breakOff(kept.error(), plan_.state);
   return kept.ok();
 }

@@ -65,6 +65,7 @@ class ArchiveRun {
   std::optional<RunTally> tally_;
   QList<RunEntry> unkept_;
   std::chrono::steady_clock::time_point lastKept_, lastTold_;
+  std::chrono::steady_clock::duration keepEvery_{};  ///< as long as the disk makes worth while
   qint64 number_ = 0;
   int brokenInARow_ = 0;
   std::mutex breakMutex_;

@@ -77,19 +77,15 @@ using Commands = unsigned;
 [[nodiscard]] constexpr Commands only(Command command) {
   return 1u << unsigned(command);
 }
-inline constexpr Commands everyCommand = (only(Command::Thumbnail) << 1) - 1;
-/// Those that have a picture process open a document.
-inline constexpr Commands openingCommands =
-    only(Command::Info) | only(Command::Source) | only(Command::Convert) | only(Command::Print);
-/// Those that do one thing with each file. A run over an archive is such a command for each of its files, so
-/// that a command gets lists, trees, states and the rest by standing here.
-inline constexpr Commands archiveCommands =
-    only(Command::Info) | only(Command::Preview) | only(Command::Convert);
-inline constexpr Commands everyCommand = (only(Command::Print) << 1) - 1;
+inline constexpr Commands everyCommand = ~Commands(0);
 /// Those that have a picture process read a document or its preview.
 inline constexpr Commands openingCommands = only(Command::Info) | only(Command::Source) |
                                             only(Command::Preview) | only(Command::Convert) |
                                             only(Command::Print);
+/// Those that do one thing with each file. A run over an archive is such a command for each of its files, so
+/// that a command gets lists, trees, states and the rest by standing here.
+inline constexpr Commands archiveCommands =
+    only(Command::Info) | only(Command::Preview) | only(Command::Convert);
 
 /// A command takes the options of its own rows.
 struct OptionRow {
@@ -136,10 +132,9 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Background, only(Command::Convert), 0, "background", "COLOR", "",
      "fills what the picture leaves unpainted, in the raster formats"},
     {Option::Quality, only(Command::Convert), 0, "quality", "N", "", qualityHelp.text()},
-    {Option::Jobs, only(Command::Convert) | archiveCommands, 0, "jobs", "N", "",
     {Option::KeepActions, only(Command::Convert), 0, "keep-actions", "", "",
      "keep the scripts and actions of a PDF in the PDF made of it"},
-    {Option::Jobs, only(Command::Convert), 0, "jobs", "N", "",
+    {Option::Jobs, only(Command::Convert) | archiveCommands, 0, "jobs", "N", "",
      "files at a time (as many as there are cores)"},
     {Option::Timeout, openingCommands, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
     {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},

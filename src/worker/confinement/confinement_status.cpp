@@ -11,6 +11,7 @@
 #include "worker/confinement/instrumented.h"
 #include "worker/confinement/landlock.h"
 #include "worker/confinement/layers.h"
+#include "worker/confinement/own_namespaces.h"
 #include "worker/confinement/privileges.h"
 #include "worker/confinement/system_calls.h"
 
@@ -59,6 +60,21 @@ std::string viewLine(bool on) {
               "user.\n";
 }
 
+std::string namespacesLine(const OwnNamespaces& own) {
+  if (!own.network && !own.messages)
+    return "Network and messages (namespaces): missing. What else is on keeps pictures from them.\n";
+  std::string line = "Network and messages (namespaces): on";
+  if (own.network) line += ", no network exists";
+  if (own.messages) line += ", no shared memory or queues of others exist";
+  return line + ". Of a single picture on the command line: off, for they take time.\n";
+}
+
+/// In a process of its own, as everything here.
+OwnNamespaces ownNamespaces() {
+  const auto enter = [] { return enterFileView({}) ? enterOwnNamespaces() : OwnNamespaces(); };
+  return {works([&] { return enter().network; }), works([&] { return enter().messages; })};
+}
+
 }  // namespace
 
 int tellConfinement() {
@@ -67,8 +83,8 @@ int tellConfinement() {
   on.systemCalls = !isInstrumented &&
                    works([] { return dropPrivileges() && SystemCallList::make(CallsFor::Engines).enter(); });
   on.fileView = !isInstrumented && works([] { return enterFileView({}) && dropPrivileges(); });
-  std::string text =
-      landlockLine(on.landlock, landlockAbilities()) + callsLine(on.systemCalls) + viewLine(on.fileView);
+  std::string text = landlockLine(on.landlock, landlockAbilities()) + callsLine(on.systemCalls) +
+                     viewLine(on.fileView) + namespacesLine(on.fileView ? ownNamespaces() : OwnNamespaces());
   text += "Limits: memory, processor time, size and number of files, scratch files; no core files.\n";
   if (isInstrumented) text += "This build watches itself, for which it leaves layers out.\n";
   text += on.suffice() ? "Each picture is read in a process of its own that is confined so.\n"

@@ -8,6 +8,7 @@
 #include "worker/confinement/instrumented.h"
 #include "worker/confinement/landlock.h"
 #include "worker/confinement/last_words.h"
+#include "worker/confinement/own_namespaces.h"
 #include "worker/confinement/privileges.h"
 #include "worker/confinement/process_files.h"
 #include "worker/confinement/resource_limits.h"
@@ -43,7 +44,11 @@ void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& l
     // Who has no scratch files starts no interpreter, and an interpreter starts nothing.
     if (!scratchRoot.empty() && !writeScratchFiles) (void)SystemCallList::shared(CallsFor::Program);
   }
-  if (layers.fileView && !isInstrumented && !isInFileView()) (void)enterFileView(scratchRoot);
+  const bool forksOthers = !scratchRoot.empty();
+  if (layers.fileView && !isInstrumented && !isInFileView() && enterFileView(scratchRoot)) {
+    // A network of its own costs as much as all else. Who reads one document alone has no call to use one.
+    if (forksOthers) (void)enterOwnNamespaces();
+  }
 }
 
 Result<void> enterSandbox(const SandboxPolicy& policy) {

@@ -41,7 +41,8 @@ class ConfinementStatusTest : public QObject {
   void eachLayerIsTold() {
     const Ran ran = run(kWorker, {"--sandbox-status"});
     QCOMPARE(ran.exitCode, ran.out.contains("refuses to read any") ? 6 : 0);
-    for (const char* layer : {"Landlock: ", "System calls (seccomp): ", "File view ", "Limits: "})
+    for (const char* layer :
+         {"Landlock: ", "System calls (seccomp): ", "File view ", "Network and messages ", "Limits: "})
       QCOMPARE(ran.out.count(layer), 1);
     QCOMPARE(ran.err, QByteArray());
   }

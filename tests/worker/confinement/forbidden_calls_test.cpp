@@ -4,10 +4,16 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <netinet/in.h>
+#include <sys/ipc.h>
+#include <sys/msg.h>
+#include <sys/socket.h>
+
 #include <thread>
 
 #include "kit/forked_check.h"
 #include "kit/test_main.h"
+#include "worker/confinement/file_view.h"
 #include "worker/confinement/sandbox.h"
 
 using namespace norvex;
@@ -131,6 +137,36 @@ class ForbiddenCallsTest : public QObject {
         {"kill of the parent", [] { return ::syscall(SYS_kill, ::getppid(), 0); }}};
     for (const Thread thread : kThreads)
       QCOMPARE(notRefused(calls, answersIn(calls, &kLandlockAlone, thread), {EPERM, EACCES}), QStringList());
+  }
+
+  void forkedPicturesHaveNoNetworkAndNoMessagesOfOthers() {
+    // Without the list of calls, which would let nobody look.
+    const auto seen = [&](const std::function<int()>& look, const ConfinementLayers& layers) {
+      const QTemporaryDir scratch;
+      return inForkedChild([&] {
+        prepareSandboxes(scratch.path().toStdString(), layers);
+        const int answer = isInFileView() == layers.fileView ? look() : 99;
+        removeScratchRootOfView();
+        return answer;
+      });
+    };
+    const int queue = ::msgget(0x6e6f7276, IPC_CREAT | 0600);
+    QVERIFY(queue >= 0);
+    const auto connects = [] {
+      const int socket = ::socket(AF_INET, SOCK_DGRAM, 0);
+      const sockaddr_in self{AF_INET, htons(9), {htonl(INADDR_LOOPBACK)}, {}};
+      return ::connect(socket, reinterpret_cast<const sockaddr*>(&self), sizeof self) == 0 ? 1 : 0;
+    };
+    const auto findsQueue = [] { return ::msgget(0x6e6f7276, 0) >= 0 ? 1 : 0; };
+    const ConfinementLayers view{false, false, true}, nothing{false, false, false};
+    const int outside[] = {seen(connects, nothing), seen(findsQueue, nothing)};
+    const int inside[] = {seen(connects, view), seen(findsQueue, view)};
+    ::msgctl(queue, IPC_RMID, nullptr);
+    QCOMPARE(outside[0], 1);
+    QCOMPARE(outside[1], 1);
+    if (inside[0] == 99) QSKIP("this system permits no view");
+    QCOMPARE(inside[0], 0);
+    QCOMPARE(inside[1], 0);
   }
 
   void callsOfAnotherArchitectureEndTheProcess() {

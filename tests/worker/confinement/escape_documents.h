@@ -60,6 +60,25 @@ inline QList<EscapeDocument> escapePrograms() {
                      "findresource pop")},
       {"climbs out of the resources",
        programThat("(/usr/share/ghostscript/../../..$SECRET) (r) file closefile")},
+      {"reads by way of the system's device", programThat("(%os%$SECRET) (r) file closefile")},
+      {"makes a folder a disk",
+       programThat("(%disk0%) << /Root ($HOME/) >> setdevparams (%disk0%secret.txt) (r) file closefile"),
+       true},
+      {"climbs out of memory", programThat("(%ram%/../../../..$SECRET) (r) file closefile"), true},
+      {"fills memory's files", programThat("(%ram%$NEW) (w) file closefile ($NEW) (r) file closefile"), true},
+      {"makes a file its colour profile",
+       programThat("<< /OutputICCProfile ($FIFO) >> systemdict /setpagedevice get exec stop"), true},
+      {"makes a folder that of the profiles",
+       programThat("<< /ICCProfilesDir ($HOME/) >> setuserparams << /DefaultRGBProfile (secret.txt) >> "
+                   "setuserparams 1 0 0 setrgbcolor 0 0 1 1 rectfill stop"),
+       true},
+      {"loads a file as a font", programThat("($FIFO) .loadfontfile"), true},
+      {"makes a folder that of the fonts",
+       programItself(
+           "<< /FontResourceDir ($HOME/Encoding/) >> setsystemparams /secret /Font findresource pop"),
+       true},
+      {"makes a file a font's own",
+       programThat("/F << /FontType 42 /Path ($FIFO) /CIDFontType 2 >> /CIDFont defineresource pop"), true},
       {"looks at the environment", programThat("(NORVEX_TEST_SECRET) getenv not { stop } if pop"), true},
   };
 }

@@ -1,4 +1,5 @@
 #include "escape_documents.h"
+#include "bomb_documents.h"
 
 #include <QDir>
 #include <QFile>
@@ -82,9 +83,8 @@ class ConfinedService {
       qunsetenv(name);
   }
   /// Draws the picture; what went wrong is told in `error`.
-  QImage drawn(const QByteArray& bytes, PictureKind kind, Error& error) {
-    PictureLimits limits;
-    limits.seconds = kSeconds;
+  QImage drawn(const QByteArray& bytes, PictureKind kind, Error& error,
+               const PictureLimits& limits = {kSeconds, 1024, 100}) {
     const auto process = service_->open(bytes, kind, limits);
     RenderRequest request;
     request.pixelSize = QSize(9, 9);
@@ -93,9 +93,21 @@ class ConfinedService {
     return image ? *image : QImage();
   }
 
+  /// Reads a preview, whatever is in it; what went wrong is told in `error`.
+  void decode(const QByteArray& tiff, Error& error) {
+    const auto preview = service_->decodePreview(tiff);
+    if (!preview) error = preview.error();
+  }
+
  private:
   std::unique_ptr<WorkerService> service_;
 };
+
+/// Of a document that asks for too much: it is drawn in part, refused, or reaches a limit that is told.
+bool isBounded(const Error& error) {
+  return error.kind != ErrorKind::Died && error.kind != ErrorKind::NoSandbox &&
+         error.kind != ErrorKind::Protocol;
+}
 
 /// A failure of the program other than that the interpreter stopped it would hide whether it got out.
 QString howItEnded(ConfinedService& service, const EscapeDocument& document, PictureKind kind) {
@@ -146,7 +158,37 @@ class EscapeDocumentsTest : public QObject {
     QVERIFY2(out.isEmpty(), qPrintable(out.join("; ")));
   }
 
-  /// Otherwise the test above would show nothing.
+  void bombsReachLimits_data() {
+    confined_data();
+  }
+  void bombsReachLimits() {
+    constexpr PictureLimits kFew{2, 256, 1};
+    QFETCH(int, way);
+    ConfinedService service(kWays[way]);
+    QStringList out;
+    const auto note = [&](const EscapeDocument& bomb, const Error& error) {
+      if (!isBounded(error)) out << QLatin1String(bomb.name) + ": " + error.message;
+    };
+    const auto tryAll = [&](const QList<EscapeDocument>& bombs, PictureKind kind) {
+      for (const EscapeDocument& bomb : bombs) {
+        Error error;
+        (void)service.drawn(bomb.text, kind, error, kFew);
+        note(bomb, error);
+      }
+    };
+    tryAll(bombPages(), PictureKind::Pdf);
+    tryAll(bombDrawings(), PictureKind::Svg);
+    for (const EscapeDocument& bomb : bombPreviews()) {
+      Error error;
+      service.decode(bomb.text, error);
+      note(bomb, error);
+    }
+    QVERIFY2(out.isEmpty(), qPrintable(out.join("; ")));
+    Error error;
+    QVERIFY(!service.drawn(drawing({}, {}), PictureKind::Svg, error).isNull());
+  }
+
+  /// Otherwise confined() would show nothing.
   void theProgramsGetOutWhereNothingConfinesThem() {
     ConfinedService service({"unconfined", false});
     QStringList kept;

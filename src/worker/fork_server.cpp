@@ -17,6 +17,7 @@
 #include "base/remove_folder.h"
 #include "protocol/control_descriptor.h"
 #include "protocol/process_end.h"
+#include "worker/confinement/landlock.h"
 #include "worker/confinement/process_files.h"
 #include "worker/environment.h"
 
@@ -110,7 +111,8 @@ void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescrip
   (void)socket.release();
   ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
   if (kept >= 0) ::dup3(kept, kSharedDescriptor, O_CLOEXEC);
-  const int foreign = moveProcessFiles(kept >= 0 ? kSharedDescriptor + 1 : kSharedDescriptor);
+  const int foreign =
+      movePreparedLandlock(moveProcessFiles(kept >= 0 ? kSharedDescriptor + 1 : kSharedDescriptor));
   ::syscall(SYS_close_range, foreign, ~0u, 0);
   childMain_(FileDescriptor(controlDescriptor), request, QFile::decodeName(scratchFolder));
   ::_exit(0);

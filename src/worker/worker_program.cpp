@@ -49,7 +49,7 @@ ForkServer::ChildMain documentChild(const WorkerEngines& engines, const Confinem
       context.interpreters = ForkServer::kSharedDescriptor;
     SandboxPolicy policy;
     policy.limits = request.limits;
-    policy.scratchFolder = scratchFolder;
+    if (request.postScript) policy.scratchFolder = scratchFolder;  // the others write nothing anywhere
     policy.preparationToCome = true;
     policy.layers = layers;
     Result<void> confined = enterSandbox(policy);

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cstdint>
+#include <utility>
 
 #include "base/file_descriptor.h"
 #include "worker/confinement/places.h"
@@ -78,12 +79,23 @@ class Ruleset {
   }
 
   [[nodiscard]] bool valid() const { return descriptor_.valid(); }
-  [[nodiscard]] bool restrictSelf() const { return ::syscall(kRestrictSelf, descriptor_.get(), 0) == 0; }
+  [[nodiscard]] bool allowPlaces() {
+    for (const Place& place : enginePlaces())
+      if (!allow(place.path, accessOf(place.use))) return false;
+    return true;
+  }
+  [[nodiscard]] FileDescriptor& descriptor() { return descriptor_; }
 
  private:
   RulesetAttributes handled_;
   FileDescriptor descriptor_;
 };
+
+FileDescriptor prepared;
+
+bool restrictSelf(const FileDescriptor& rules) {
+  return ::syscall(kRestrictSelf, rules.get(), 0) == 0;
+}
 
 }  // namespace
 
@@ -92,16 +104,29 @@ LandlockAbilities landlockAbilities() {
   return {version > 0 ? int(version) : 0};
 }
 
+void prepareLandlock() {
+  const LandlockAbilities abilities = landlockAbilities();
+  if (!abilities.files() || prepared.valid()) return;
+  Ruleset rules(abilities);
+  if (rules.valid() && rules.allowPlaces()) prepared = std::move(rules.descriptor());
+}
+
+int movePreparedLandlock(int descriptor) {
+  if (!prepared.valid()) return descriptor;
+  if (prepared.get() != descriptor) prepared.reset(::dup3(prepared.get(), descriptor, O_CLOEXEC));
+  return descriptor + 1;
+}
+
 bool enterLandlock(const std::string& scratchFolder) {
+  const FileDescriptor made = std::move(prepared);
+  if (made.valid() && scratchFolder.empty()) return restrictSelf(made);
   const LandlockAbilities abilities = landlockAbilities();
   if (!abilities.files()) return false;
   Ruleset rules(abilities);
-  if (!rules.valid()) return false;
-  for (const Place& place : enginePlaces())
-    if (!rules.allow(place.path, accessOf(place.use))) return false;
+  if (!rules.valid() || !rules.allowPlaces()) return false;
   constexpr uint64_t scratch = kReadFile | kWriteFile | kReadFolder | kRemoveFile | kMakeRegular | kTruncate;
   if (!scratchFolder.empty() && !rules.allow(scratchFolder, scratch)) return false;
-  return rules.restrictSelf();
+  return restrictSelf(rules.descriptor());
 }
 
 }  // namespace norvex

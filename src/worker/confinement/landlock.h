@@ -18,6 +18,12 @@ struct LandlockAbilities {
 
 [[nodiscard]] LandlockAbilities landlockAbilities();
 
+/// Makes the rules of processes without a scratch folder once, for those that this one will fork: opening
+/// every place again is what costs most. Harmless where there is no Landlock.
+void prepareLandlock();
+/// As moveProcessFiles() (process_files.h), for what prepareLandlock() has opened.
+[[nodiscard]] int movePreparedLandlock(int descriptor);
+
 /// Puts the rules on this thread and all that it starts, for ever: enginePlaces() as they say, the scratch
 /// folder (empty: none) to read and write plain files in; nothing else can be opened, listed, made, renamed
 /// or removed. No TCP, no signals and abstract sockets to processes outside. Needs no_new_privs. False:

@@ -41,14 +41,13 @@ void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& l
   openProcessFiles();
   if (wantsSystemCalls(layers)) {
     (void)SystemCallList::shared(writeScratchFiles ? CallsFor::Interpreter : CallsFor::Engines);
-    // Who has no scratch files starts no interpreter, and an interpreter starts nothing.
-    if (!scratchRoot.empty() && !writeScratchFiles) (void)SystemCallList::shared(CallsFor::Program);
   }
   const bool forksOthers = !scratchRoot.empty();
   if (layers.fileView && !isInstrumented && !isInFileView() && enterFileView(scratchRoot)) {
     // A network of its own costs as much as all else. Who reads one document alone has no call to use one.
     if (forksOthers) (void)enterOwnNamespaces();
   }
+  if (layers.landlock && forksOthers && !writeScratchFiles) prepareLandlock();
 }
 
 Result<void> enterSandbox(const SandboxPolicy& policy) {
@@ -74,6 +73,10 @@ Result<void> sealSandbox(const SandboxPolicy& policy) {
   tellWhatEndsUs(policy.limits);
   if (listsSystemCalls && !SystemCallList::shared(callsFor(policy)).enter()) return notConfined();
   return {};
+}
+
+void prepareToSealPrograms() {
+  if (listsSystemCalls) (void)SystemCallList::shared(CallsFor::Program);
 }
 
 bool sealStartedProgram(int seconds) {

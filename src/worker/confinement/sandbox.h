@@ -41,6 +41,9 @@ void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& l
 /// nothing is started, forked or opened for writing any more. Still one thread, and not a byte of a document.
 [[nodiscard]] Result<void> sealSandbox(const SandboxPolicy& policy);
 
+/// Makes what sealStartedProgram() needs, which must not take memory any more: before the fork.
+void prepareToSealPrograms();
+
 /// For the child of a process between enterSandbox() and sealSandbox(), between fork and exec: the same for
 /// the program that it becomes. `seconds` of wall time are granted to it. False: it must not start.
 [[nodiscard]] bool sealStartedProgram(int seconds);

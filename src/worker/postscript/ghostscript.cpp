@@ -150,6 +150,7 @@ Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::start(const QList<QB
   const int descriptors = descriptorLimit();
   const pid_t parent = ::getpid();
   ::signal(SIGPIPE, SIG_IGN);
+  prepareToSealPrograms();
   const pid_t pid = ::fork();
   if (pid == 0)
     becomeGhostscript(path, argv.data(), environment.data(), {input.end[0], output.end[1], messages.end[1]},

@@ -157,7 +157,7 @@ void TilePathFinder::endPath(bool fills, bool evenOdd) {
     outline += length(edge);
   }
   path.isReversed = area < 0;
-  path.thickness = outline > 0 ? std::abs(area) / outline : 0;
+  path.thickness = outline > 0 ? 2 * std::abs(area) / outline : 0;
   path.toPage = states_.back().matrix;
   path.canGrow = !evenOdd && !(fills && states_.back().hasPattern);
   path.edges = std::move(edges_);

@@ -26,7 +26,7 @@ struct TilePath {
   bool isReversed = false;      ///< the contents go round it the other way
   bool isOpaque = false;        ///< what is painted through it covers what was there
   bool canGrow = false;         ///< an outline that is added to it becomes a part of it
-  double thickness = 0;         ///< half of what a strip of this area and outline is wide
+  double thickness = 0;         ///< so wide is a strip of this area and outline
 };
 
 /// Follows the contents of a page and finds their paths, in the order in which they are painted. Passes every

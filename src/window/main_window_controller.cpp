@@ -86,8 +86,8 @@ void MainWindowController::loadWindow() {
   connectCommands();
   inspector_.order();
   connectPrinting();
-  encoding_.setUp(
-      {ui_->encodingChoice, ui_->encodingTitle, ui_->encodingPopUp, ui_->encodingNote, ui_->guessForm});
+  encoding_.setUp({ui_->encodingChoice, ui_->encodingTitle, ui_->encodingPopUp, ui_->guessBox,
+                   ui_->encodingNote, ui_->guessForm});
   if (savedTouchBarIsShown()) showTouchBar(true);
   sizing_.restoreFrame();
 }

@@ -103,7 +103,7 @@ void EncodingCommand::choose(const QString& encodingName) {
 
 void EncodingCommand::tell(const QString& sentence) {
   controls_.note->setText(sentence);
-  controls_.note->setVisible(!sentence.isEmpty());
+  controls_.box->setVisible(!sentence.isEmpty());
 }
 
 void EncodingCommand::showGuess(const std::optional<GuessedHeader>& guess) {

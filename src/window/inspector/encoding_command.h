@@ -22,10 +22,11 @@ class ZyForm;
 
 /// The inspector's controls for it; borrowed.
 struct EncodingControls {
-  QWidget* row = nullptr;      ///< shown for pictures whose source has an encoding
-  QLabel* title = nullptr;     ///< of the list
-  QComboBox* popUp = nullptr;  ///< "Automatic", the usual encodings, and all others
-  QLabel* note = nullptr;  ///< shown when the source is not valid in what was chosen, or as a guess's title
+  QWidget* row = nullptr;       ///< shown for pictures whose source has an encoding
+  QLabel* title = nullptr;      ///< of the list
+  QComboBox* popUp = nullptr;   ///< "Automatic", the usual encodings, and all others
+  QWidget* box = nullptr;       ///< around the next two; hidden when there is nothing to tell
+  QLabel* note = nullptr;       ///< the source is not valid in what was chosen, or the title of a guess
   ZyForm* guessForm = nullptr;  ///< what a source in no encoding seems to say
 };
 

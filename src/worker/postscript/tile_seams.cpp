@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kFewestImages = 4;  ///< of a picture that may have been flattened into tiles
 constexpr double kOverlap = 1;    ///< points: more than a pixel from the natural size on
-constexpr double kGrid = 1000;    ///< places are the same within a thousandth of a point
+constexpr double kGrid = 50;      ///< places are the same within a fiftieth of a point
 constexpr qint64 kMostContents = 64 << 20;
 constexpr std::size_t kMostEdges = 1'000'000;
 constexpr std::size_t kMostNeighbours = 32;  ///< of an edge, that are looked at

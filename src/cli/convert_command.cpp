@@ -6,6 +6,7 @@
 
 #include "base/atomic_file.h"
 #include "base/file_name.h"
+#include "base/open_files.h"
 #include "base/time_limit.h"
 #include "cli/arguments/conversion_use.h"
 #include "cli/conversion_report.h"
@@ -100,7 +101,7 @@ ExitCode Job::convert(const Arguments& arguments) {
   const Interruption interruption;
   QThreadPool pool;
   // One more than are drawn at a time: another is being read or written meanwhile.
-  pool.setMaxThreadCount(plan.jobs > 1 ? plan.jobs + 1 : 1);
+  pool.setMaxThreadCount(threadsWithinOpenFiles(plan.jobs > 1 ? plan.jobs + 1 : 1));
   const CancelToken cancel = interruption.token();
   const auto convertTask = [&](const ConvertTask& task) {
     return convertFile(service_, task, plan, input, cancel);

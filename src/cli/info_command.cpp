@@ -1,7 +1,9 @@
 // `norvex info`: every file's facts, found out on all cores and told in the order of the files.
 #include <QJsonDocument>
+#include <QThreadPool>
 #include <QtConcurrent>
 
+#include "base/open_files.h"
 #include "cli/info_report.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
@@ -35,6 +37,8 @@ ExitCode Job::info(const Arguments& arguments) {
   const Result<QByteArray> input =
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());
   service_.openOnlyFor(PictureUse::Drawing);
+  QThreadPool pool;
+  pool.setMaxThreadCount(threadsWithinOpenFiles(pool.maxThreadCount()));
   const auto find = [&](const QString& file) {
     const bool isInput = file == QLatin1String("-");
     return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file), limits), json);
@@ -42,7 +46,7 @@ ExitCode Job::info(const Arguments& arguments) {
   // A single file is not worth a thread.
   const QFuture<Finding> findings = arguments.files.size() == 1
                                         ? QtFuture::makeReadyFuture(find(arguments.files.first()))
-                                        : QtConcurrent::mapped(arguments.files, find);
+                                        : QtConcurrent::mapped(&pool, arguments.files, find);
 
   QList<ExitCode> codes;
   bool written = !json || console_.write("[\n");

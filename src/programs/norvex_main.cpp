@@ -5,10 +5,13 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <string>
 #include <string_view>
 
+#include "base/open_files.h"
 #include "base/remove_folder.h"
 #include "cli/arguments/command_table.h"
 #include "picture/client/spawned_worker.h"
@@ -19,12 +22,33 @@
 namespace {
 
 constexpr char kCommands[] = "norvex-commands.so";
+constexpr int kLimitReached = 5;  ///< ExitCode::Limit, of the command line
 
 /// Whoever starts us may have closed them. Nothing that we open shall get their numbers, and their use shall
 /// fail as that of closed ones does.
 void occupyStandardStreams() {
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream)
     if (::fcntl(stream, F_GETFD) < 0) (void)::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
+
+/// A reader that has gone and a file that may not grow are told by the call that meets them, in a sentence.
+/// What is started from here begins with the system's own ways.
+void outliveWrites() {
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+}
+
+/// False, and said: the system lets us open too few files even for a single picture.
+bool mayOpenFiles() {
+  using namespace norvex;
+  rlimit limit{};
+  if (mostOpenFiles() >= fewestOpenFiles || ::getrlimit(RLIMIT_NOFILE, &limit) != 0) return true;
+  limit.rlim_cur = std::min(limit.rlim_max, fewestOpenFiles);
+  if (::setrlimit(RLIMIT_NOFILE, &limit) == 0 && mostOpenFiles() >= fewestOpenFiles) return true;
+  std::fprintf(stderr, "norvex: no more than %llu files may be open here, and it takes %llu\n",
+               static_cast<unsigned long long>(mostOpenFiles()),
+               static_cast<unsigned long long>(fewestOpenFiles));
+  return false;
 }
 
 /// What is only asked about the program itself needs no picture process.
@@ -71,6 +95,8 @@ void becomeSandboxStatus() {
 int main(int argc, char** argv) {
   using namespace norvex;
   occupyStandardStreams();
+  outliveWrites();
+  if (!mayOpenFiles()) return kLimitReached;
   if (argc == 2 && argv[1] == std::string_view("--sandbox-status")) becomeSandboxStatus();
   StartedPrograms started;
   if (mayNeedPictures(argc, argv))

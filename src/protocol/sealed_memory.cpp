@@ -18,6 +18,15 @@ Error cannotBeTrue() {
           QStringLiteral("the picture process handed over memory that cannot be trusted")};
 }
 
+/// Why memory could not be made or filled.
+Error notMade(int reason) {
+  if (reason == EMFILE || reason == ENFILE)
+    return {ErrorKind::Limit, QStringLiteral("too many files are open for another picture")};
+  if (reason == EFBIG)
+    return {ErrorKind::Limit, QStringLiteral("the picture is larger than files may become here")};
+  return {ErrorKind::Limit, QStringLiteral("there is not enough memory for the picture")};
+}
+
 Error noMemory() {
   return {ErrorKind::Limit, QStringLiteral("there is not enough memory for the picture")};
 }
@@ -43,7 +52,7 @@ bool isOrdinarySharedMemory(int fd) {
 
 Result<FileDescriptor> SealedMemory::seal(const void* bytes, qsizetype size) {
   FileDescriptor fd(::memfd_create("norvex", MFD_CLOEXEC | MFD_ALLOW_SEALING));
-  if (!fd.valid() || !writeAll(fd.get(), static_cast<const char*>(bytes), size)) return noMemory();
+  if (!fd.valid() || !writeAll(fd.get(), static_cast<const char*>(bytes), size)) return notMade(errno);
   if (::fcntl(fd.get(), F_ADD_SEALS, kSeals) != 0) return noMemory();
   return fd;
 }

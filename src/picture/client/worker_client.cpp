@@ -6,6 +6,7 @@
 #include "protocol/sealed_memory.h"
 #include "protocol/shared_errors.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace norvex {
@@ -43,7 +44,7 @@ Result<void> WorkerClient::beginToOpen() {
     connection_ = std::move(*opened);
   }
   const Result<FileDescriptor> memory = SealedMemory::seal(bytes_);
-  if (!memory) return memory.error();
+  if (!memory) return connection_.reset(), memory.error();
   const Result<quint32> id = connection_->post(OpenRequest{kind_, process_.limits}, *memory);
   if (!id) return connection_.reset(), id.error();
   opening_ = *id;
@@ -119,6 +120,10 @@ Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& canc
 
 Result<QImage> WorkerClient::render(const RenderRequest& request, const CancelToken& cancel) {
   const QSize size = request.pixelSize;
+  if (std::max(size.width(), size.height()) > limits::maximumSide)
+    return Error{
+        ErrorKind::Limit,
+        QStringLiteral("the image would have a side of more than %1 pixels").arg(limits::maximumSide)};
   if (double(size.width()) * size.height() > process_.limits.megapixels * 1.0e6)
     return Error{ErrorKind::Limit, QStringLiteral("the picture would have more pixels than it is allowed")};
   const auto turn = turns_.take(cancel);

@@ -68,8 +68,9 @@ class SourcesTest : public QObject {
   }
 
   void everyScriptIsExecutable() {
-    for (const char* script : {"run", "test", ".ci/run", "scripts/install-packages", "scripts/check-format",
-                               "scripts/check-headers", "scripts/check-tidy", "scripts/draw-folders"})
+    for (const char* script :
+         {"run", "test", ".ci/run", "scripts/install-packages", "scripts/check-format",
+          "scripts/check-headers", "scripts/check-tidy", "scripts/draw-folders", "scripts/damage-files"})
       QVERIFY2(QFileInfo(QStringLiteral(NORVEX_SOURCE_DIR "/") + script).isExecutable(), script);
   }
 };

@@ -1,4 +1,6 @@
 // The application behind `norvex`: pictures in windows, or the whole command line.
+#include <QProcess>
+
 #include <memory>
 #include <utility>
 
@@ -13,9 +15,11 @@
 #include "cli/printing_job.h"
 #include "picture/client/spawned_worker.h"
 #include "picture/client/worker_service.h"
+#include "picture/client/worker_starter.h"
 #include "programs/application_entry.h"
 #include "ui/panels/alert_box.h"
 #include "ui/panels/clipboard_keeper.h"
+#include "window/about_box.h"
 #include "window/main_window_controller.h"
 
 namespace norvex {
@@ -28,11 +32,19 @@ void answerDesktop(DesktopService& desktop, DocumentApplication& documents) {
                    &DocumentApplication::showStartPanel);
 }
 
+/// Only what reads documents knows what confines it.
+QString toldConfinement() {
+  QProcess program;
+  program.start(WorkerStarter::defaultProgram(), {QStringLiteral("--sandbox-status")}, QIODevice::ReadOnly);
+  return program.waitForFinished() ? QString::fromUtf8(program.readAllStandardOutput()) : QString();
+}
+
 int runWindows(int argc, char** argv, WorkerService& service) {
   sendMessagesToSystemLog();  // whoever started the window from a terminal is not to read along
   service.yieldToWindows();
   Application application(argc, argv);
   installStringTables();
+  setConfinementWords(toldConfinement);
   QtAlertPresenter alerts;
   DocumentApplication documents(application.events(), service, [&alerts] {
     auto controller = std::make_unique<MainWindowController>();

@@ -4,6 +4,14 @@
 <context>
     <name>Localizable</name>
     <message>
+        <source>%1 What is shown is what it had drawn until then.</source>
+        <translation>%1 What is shown is what it had drawn until then.</translation>
+    </message>
+    <message>
+        <source>How the documents that it opens are confined:</source>
+        <translation>How the documents that it opens are confined:</translation>
+    </message>
+    <message>
         <source>More</source>
         <translation>More</translation>
     </message>
@@ -648,6 +656,14 @@
         <translation>Source text of the document</translation>
     </message>
     <message>
+        <source>Still working: wait, or stop and show what there is.</source>
+        <translation>Still working: wait, or stop and show what there is.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
         <source>TIFF image</source>
         <translation>TIFF image</translation>
     </message>
@@ -682,6 +698,10 @@
     <message>
         <source>Preparing “%1” for printing…</source>
         <translation>Preparing “%1” for printing…</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Wait</translation>
     </message>
     <message>
         <source>“%1” exists already. Do you want to replace it?</source>

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
-#include <QMessageBox>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -24,6 +23,7 @@
 #include "ui/source/source_text_view.h"
 #include "ui/style/symbolic_icon.h"
 #include "ui_MainWindowController.h"
+#include "window/about_box.h"
 #include "window/commands/window_frames.h"
 #include "window/main_window_controller.h"
 #include "window/selection_commands.h"
@@ -52,6 +52,7 @@ void MainWindowController::connectControls() {
           Qt::QueuedConnection);
   connect(loadingCard_, &LoadingCard::cancelled, this, &MainWindowController::stopWork);
   connect(messageBar_, &MessageBar::actionChosen, &messages_, &MessagesCommand::actionChosen);
+  connect(messageBar_, &MessageBar::otherChosen, &messages_, &MessagesCommand::otherChosen);
 }
 
 void MainWindowController::connectCommands() {
@@ -226,19 +227,7 @@ void MainWindowController::showTouchBar(bool on) {
 }
 
 void MainWindowController::showAbout() {
-  QMessageBox about(window_);
-  about.setWindowTitle(localizedString("About Norvex"));
-  about.setTextFormat(Qt::PlainText);
-  about.setText(QStringLiteral("Norvex %1").arg(QStringLiteral(NORVEX_VERSION)));
-  about.setIconPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), window_->devicePixelRatioF()));
-  about.setInformativeText(
-      localizedString(
-          "Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.") +
-      QStringLiteral("\n\n") +
-      localizedString(
-          "Free software under the GNU General Public License, version 3 or later. The interpreter "
-          "of PostScript is under the GNU Affero General Public License, version 3 or later."));
-  about.exec();
+  showAboutBox(*window_);
 }
 
 }  // namespace norvex

@@ -49,6 +49,10 @@ void MainWindowController::connectParts() {
   connect(&messages_, &MessagesCommand::reloadChosen, this, &MainWindowController::reload);
   connect(&messages_, &MessagesCommand::drawingChanged, &inspector_, &InspectorCommand::showDrawingRemarks);
   connect(&messages_, &MessagesCommand::openingChosen, &loading_, &LoadingCommand::start);
+  connect(&messages_, &MessagesCommand::stopChosen, this, [this] {
+    if (loading_.stop()) return messages_.openingWasStopped();
+    messages_.stopDrawing();
+  });
   connect(&inspector_, &InspectorCommand::turned, this, &MainWindowController::setWindowSize);
   connect(&encoding_, &EncodingCommand::reread, this,
           [this](const HeaderDictionary& header, const QString& text) { contents_.showTexts(header, text); });

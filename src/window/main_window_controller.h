@@ -100,6 +100,8 @@ class MainWindowController final : public QObject,
   [[nodiscard]] bool isSaving() const { return savingAs_.isSaving(); }
   void doPrinting(QObject* = nullptr) { printing_.printPart(); }
   void printDocument(QObject* = nullptr) { printing_.printWhole(); }
+  /// Of the question whether to go on waiting; for tests.
+  void setAlarm(Alarm alarm) { messages_.setAlarm(std::move(alarm)); }
   void setPrintServices(const PrintServices& services) { printing_.setServices(services); }
   void setPasteboard(NSPasteboard* pasteboard) { copying_.setPasteboard(pasteboard); }
   void setBeep(std::function<void()> beep) { copying_.setBeep(std::move(beep)); }

@@ -12,6 +12,41 @@
 
 using namespace norvex;
 
+namespace {
+
+const QString kStillWorking = QStringLiteral("Still working: wait, or stop and show what there is.");
+
+/// Alarms that ring when the test says so.
+class Alarms {
+ public:
+  [[nodiscard]] Alarm alarm() {
+    return [this](int milliseconds, QObject*, std::function<void()> ring) {
+      set_ << milliseconds;
+      rings_ << std::move(ring);
+    };
+  }
+  /// Every time that was set since the last ring.
+  [[nodiscard]] QList<int> set() const { return set_; }
+  /// All that were set ring.
+  void ring() {
+    set_.clear();
+    for (const auto& each : std::exchange(rings_, {})) each();
+  }
+
+ private:
+  QList<int> set_;
+  QList<std::function<void()>> rings_;
+};
+
+/// The bar's button of that title; null: there is none to be seen.
+QPushButton* button(const MainWindowController& c, const QString& title) {
+  for (auto* each : c.messageBar()->findChildren<QPushButton*>())
+    if (each->text() == title && !each->isHidden()) return each;
+  return nullptr;
+}
+
+}  // namespace
+
 class MainWindowOpeningTest : public QObject {
   Q_OBJECT
  private slots:
@@ -61,6 +96,128 @@ class MainWindowOpeningTest : public QObject {
     c.window()->close();
     QTRY_COMPARE(closed.size(), 1);
     QTRY_COMPARE(process->cancelledCalls(), 1);
+  }
+
+  void aProcessThatDiesAtOpeningIsToldAndCanBeTriedAgain() {
+    WindowFixture fixture;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) {
+      made.fail(PictureCall::Facts, {ErrorKind::Died, "the picture process ended without an answer"});
+    });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.showWindow();
+    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("The picture process ended without an answer."));
+    QVERIFY(!c.view()->imageRep());
+    QPushButton* again = button(c, "Try Again");
+    QVERIFY(again);
+    fixture.service.setPrepare({});
+    again->click();
+    QTRY_VERIFY(c.view()->imageRep());
+    QCOMPARE(c.messageBar()->message(), QString());
+  }
+
+  void whatTheDocumentIsCannotBeTriedAgain() {
+    WindowFixture fixture;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) {
+      made.fail(PictureCall::Facts, {ErrorKind::Encrypted, "a password is needed"});
+    });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.showWindow();
+    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("A password is needed."));
+    QVERIFY(!button(c, "Try Again"));
+  }
+
+  void aLongOpeningAsksWhetherToGoOn() {
+    WindowFixture fixture;
+    Alarms alarms;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.setAlarm(alarms.alarm());
+    c.showWindow();
+    QTRY_VERIFY(fixture.service.lastProcess());
+    QCOMPARE(alarms.set(), QList<int>{20'000});
+    QCOMPARE(c.messageBar()->message(), QString());
+    alarms.ring();
+    QCOMPARE(c.messageBar()->message(), kStillWorking);
+    QVERIFY(c.isReading());
+    button(c, "Wait")->click();
+    QCOMPARE(c.messageBar()->message(), QString());
+    QVERIFY(c.isReading());
+    alarms.ring();  // as long again
+    QCOMPARE(c.messageBar()->message(), kStillWorking);
+    button(c, "Stop")->click();
+    QVERIFY(!c.isReading());
+    QCOMPARE(c.messageBar()->message(), QStringLiteral("Opening was stopped."));
+    QTRY_COMPARE(fixture.service.lastProcess()->cancelledCalls(), 1);
+  }
+
+  void theQuestionGoesWhenThePictureComes() {
+    WindowFixture fixture;
+    Alarms alarms;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.setAlarm(alarms.alarm());
+    c.showWindow();
+    QTRY_VERIFY(fixture.service.lastProcess());
+    alarms.ring();
+    QCOMPARE(c.messageBar()->message(), kStillWorking);
+    fixture.service.lastProcess()->release(PictureCall::Facts);
+    QTRY_VERIFY(c.view()->imageRep() && c.view()->imageRep()->isSharp());
+    QTRY_COMPARE(c.messageBar()->message(), QString());
+    alarms.ring();  // of waits that are over
+    QCOMPARE(c.messageBar()->message(), QString());
+  }
+
+  void aLongDrawingAsksAndStopsWithWhatThereIs() {
+    WindowFixture fixture;
+    Alarms alarms;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Render); });
+    MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
+    c.setAlarm(alarms.alarm());
+    c.showWindow();
+    QTRY_VERIFY(c.view()->imageRep() && c.view()->imageRep()->isRendering());
+    QTRY_VERIFY(!alarms.set().isEmpty());
+    QTRY_VERIFY(c.messageBar()->message().isEmpty());
+    QVERIFY(fixture.service.lastProcess()->waitUntilHeld(PictureCall::Render));
+    QTRY_VERIFY((alarms.ring(), c.messageBar()->message() == kStillWorking));
+    button(c, "Stop")->click();
+    QCOMPARE(c.messageBar()->message(), QStringLiteral("The drawing was stopped."));
+    QVERIFY(c.view()->imageRep());
+    QVERIFY(button(c, "Try Again"));
+  }
+
+  void theQuestionWaitsUntilAnotherMessageWasRead() {
+    WindowFixture fixture;
+    Alarms alarms;
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.setAlarm(alarms.alarm());
+    c.showWindow();
+    QTRY_VERIFY(fixture.service.lastProcess());
+    c.fileDidChangeOnDisk();
+    alarms.ring();
+    QCOMPARE(c.messageBar()->message(), QStringLiteral("The file has changed on disk."));
+    c.messageBar()->clearMessage();
+    alarms.ring();
+    QCOMPARE(c.messageBar()->message(), kStillWorking);
+  }
+
+  void aPictureThatStoppedInTheMiddleIsShownWithABanner() {
+    WindowFixture fixture;
+    MemoryPicture picture;
+    picture.facts.stoppedBy = "PostScript error: undefined in x";
+    fixture.service.setPicture(picture);
+    MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
+    c.showWindow();
+    QTRY_COMPARE(c.messageBar()->message(),
+                 QStringLiteral("The PostScript program stops with an error (undefined in x). "
+                                "What is shown is what it had drawn until then."));
+    QVERIFY(c.view()->imageRep() && c.view()->imageRep()->isSharp());
+    // Read once, it does not come again with every drawing.
+    c.messageBar()->clearMessage();
+    c.zoomingScrollView()->zoomTo(2.0);
+    QTRY_VERIFY(c.view()->imageRep()->isSharp());
+    QTest::qWait(50);
+    QCOMPARE(c.messageBar()->message(), QString());
   }
 
   void aRenderingThatFailsIsToldInTheWindowAndCanBeTriedAgain() {

@@ -31,6 +31,7 @@ MessageBar::MessageBar(QWidget* parent)
       details_(new QLabel(this)),
       showDetails_(new QToolButton(this)),
       action_(new QPushButton(this)),
+      other_(new QPushButton(this)),
       close_(new QToolButton(this)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(14, 8, 8, 8);
@@ -49,6 +50,7 @@ MessageBar::MessageBar(QWidget* parent)
   row->addLayout(texts, 1);
   row->addWidget(showDetails_);
   row->addWidget(action_);
+  row->addWidget(other_);
   showDetails_->setObjectName(QStringLiteral("detailsButton"));
   showDetails_->setText(localizedString("Details"));
   showDetails_->setToolTip(localizedString("What the library that reads the picture says"));
@@ -65,10 +67,15 @@ MessageBar::MessageBar(QWidget* parent)
     clearMessage();
     emit actionChosen();
   });
+  connect(other_, &QPushButton::clicked, this, [this] {
+    clearMessage();
+    emit otherChosen();
+  });
   hide();
 }
 
-void MessageBar::showMessage(Kind kind, const QString& text, const QString& action, const QString& details) {
+void MessageBar::showMessage(Kind kind, const QString& text, const QString& action, const QString& details,
+                             const QString& other) {
   kind_ = kind;
   text_->setText(text);
   showDetails_->setChecked(false);
@@ -76,6 +83,8 @@ void MessageBar::showMessage(Kind kind, const QString& text, const QString& acti
   details_->setText(details);
   action_->setText(action);
   action_->setVisible(!action.isEmpty());
+  other_->setText(other);
+  other_->setVisible(!other.isEmpty());
   setAccessibleName(text);
   show();
   update();

@@ -21,15 +21,18 @@ class MessageBar final : public QFrame {
 
   explicit MessageBar(QWidget* parent = nullptr);
 
-  /// `action` is the title of a button (empty: none) whose press sends actionChosen() and hides the bar.
-  /// `details` are a library's own words (empty: none), which the button "Details" shows below the text.
-  void showMessage(Kind kind, const QString& text, const QString& action = {}, const QString& details = {});
+  /// `action` is the title of a button (empty: none) whose press sends actionChosen() and hides the bar; so
+  /// is `other` for otherChosen(). `details` are a library's own words (empty: none), which the button
+  /// "Details" shows below the text.
+  void showMessage(Kind kind, const QString& text, const QString& action = {}, const QString& details = {},
+                   const QString& other = {});
   void clearMessage();
   [[nodiscard]] QString message() const;
   [[nodiscard]] QString details() const;
 
  signals:
   void actionChosen();
+  void otherChosen();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -40,6 +43,7 @@ class MessageBar final : public QFrame {
   QLabel* details_;
   QToolButton* showDetails_;
   QPushButton* action_;
+  QPushButton* other_;
   QToolButton* close_;
 };
 

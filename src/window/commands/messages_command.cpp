@@ -1,11 +1,15 @@
 #include "window/commands/messages_command.h"
 
+#include <QCoreApplication>
+#include <QPointer>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <utility>
 
 #include "base/localized_string.h"
 #include "base/sentence.h"
+#include "base/waiting_threads.h"
 #include "desktop/alert.h"
 #include "display/norvex_view.h"
 #include "picture/process/stoppable_process.h"
@@ -22,7 +26,7 @@ namespace {
 
 constexpr int kStoppedEndsMs = 50;
 
-/// An error's message as a sentence of its own.
+/// An error as a sentence of its own, with what a library said of it.
 QString sentence(const Error& error) {
   const QString text = asSentence(toldError(error).sentence);
   return text.isEmpty() ? localizedString("The picture cannot be shown.") : text;
@@ -34,12 +38,28 @@ QString details(const Error& error) {
 
 }  // namespace
 
+MessagesCommand::MessagesCommand(WindowParts& parts)
+    : parts_(parts), alarm_([](int milliseconds, QObject* context, std::function<void()> ring) {
+        QTimer::singleShot(milliseconds, context, std::move(ring));
+      }) {}
+
+void MessagesCommand::tell(MessageBar::Kind kind, const QString& text, const QString& title,
+                           std::function<void()> action, const QString& details) {
+  asking_ = false;
+  other_ = nullptr;
+  action_ = std::move(action);
+  parts_.messageBar()->showMessage(kind, text, title, details);
+}
+
 void MessagesCommand::watchPicture(std::shared_ptr<StoppableProcess> process) {
   process_ = std::move(process);
   NSImageRep* rep = parts_.view()->imageRep().get();
   if (!rep) return;
+  // Other documents are not programs that could stop.
+  stopIsTold_ = rep->pictureKind() != PictureKind::Eps;
   connect(rep, &NSImageRep::renderingFailed, this, &MessagesCommand::showProblem, Qt::UniqueConnection);
   connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::followRendering, Qt::UniqueConnection);
+  connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::tellWhatStopped, Qt::UniqueConnection);
 }
 
 void MessagesCommand::followRendering() {
@@ -51,23 +71,76 @@ void MessagesCommand::followRendering() {
     parts_.loadingCard()->begin(localizedString("Drawing…"));
   else
     parts_.loadingCard()->end();
+  followPatience();
+}
+
+void MessagesCommand::followPatience() {
+  const NSImageRep* rep = parts_.view()->imageRep().get();
+  const bool waits = parts_.work().isUnderWay(WindowWork::Kind::Reading) || (rep && rep->isRendering());
+  if (waits == waiting_) return;
+  waiting_ = waits;
+  ++spell_;
+  if (waits) return waitOn();
+  if (std::exchange(asking_, false)) parts_.messageBar()->clearMessage();
+}
+
+void MessagesCommand::waitOn() {
+  alarm_(patienceMs, this, [this, spell = spell_] {
+    if (waiting_ && spell == spell_) askWhetherToWait();
+  });
+}
+
+void MessagesCommand::askWhetherToWait() {
+  // What stands there already is worth more than the question.
+  if (!parts_.messageBar()->message().isEmpty()) return waitOn();
+  action_ = [this] { emit stopChosen(); };
+  other_ = [this] { waitOn(); };
+  asking_ = true;
+  parts_.messageBar()->showMessage(MessageBar::Kind::Information,
+                                   localizedString("Still working: wait, or stop and show what there is."),
+                                   localizedString("Stop"), {}, localizedString("Wait"));
+}
+
+void MessagesCommand::tellWhatStopped() {
+  const auto rep = parts_.view()->imageRep();
+  if (!rep || std::exchange(stopIsTold_, true)) return;
+  // The facts are there, but who is being drawn may be between them and us.
+  waitingThreads().start([self = QPointer<MessagesCommand>(this),
+                          application = QPointer<QCoreApplication>(qApp), process = rep->process(),
+                          shown = std::weak_ptr<NSImageRep>(rep)] {
+    const Result<PictureFacts> facts = process->facts();
+    if (!application || !facts || facts->stoppedBy.isEmpty()) return;
+    QMetaObject::invokeMethod(application.data(), [self, shown, reason = facts->stoppedBy] {
+      if (!self || shown.lock() != self->parts_.view()->imageRep()) return;
+      const QString why = sentence({ErrorKind::NotParsable, reason});
+      self->tell(MessageBar::Kind::Warning,
+                 localizedString("%1 What is shown is what it had drawn until then.").arg(why));
+    });
+  });
 }
 
 void MessagesCommand::showProblem(const Error& error) {
   followRendering();
-  const bool again = parts_.validateUserInterfaceItem();
-  action_ = nullptr;
-  if (again) action_ = [this] { retryDrawing(); };
-  parts_.messageBar()->showMessage(MessageBar::Kind::Warning, sentence(error),
-                                   again ? localizedString("Try Again") : QString(), details(error));
+  const bool hasPicture = parts_.validateUserInterfaceItem();
+  // What the process met may be gone the next time; what the document is will not.
+  const bool mayPass =
+      error.kind == ErrorKind::Died || error.kind == ErrorKind::TimedOut || error.kind == ErrorKind::Protocol;
+  if (hasPicture)
+    tell(
+        MessageBar::Kind::Warning, sentence(error), localizedString("Try Again"), [this] { retryDrawing(); },
+        details(error));
+  else if (mayPass)
+    tell(
+        MessageBar::Kind::Warning, sentence(error), localizedString("Try Again"),
+        [this] { emit openingChosen(); }, details(error));
+  else
+    tell(MessageBar::Kind::Warning, sentence(error), {}, {}, details(error));
 }
 
 void MessagesCommand::openingWasStopped() {
   followRendering();
-  action_ = [this] { emit openingChosen(); };
-  parts_.messageBar()->showMessage(MessageBar::Kind::Warning,
-                                   sentence({ErrorKind::Cancelled, localizedString("Opening was stopped")}),
-                                   localizedString("Try Again"));
+  tell(MessageBar::Kind::Warning, sentence({ErrorKind::Cancelled, localizedString("Opening was stopped")}),
+       localizedString("Try Again"), [this] { emit openingChosen(); });
 }
 
 void MessagesCommand::retryDrawing() {
@@ -93,28 +166,29 @@ void MessagesCommand::stopDrawing() {
 }
 
 void MessagesCommand::actionChosen() {
+  asking_ = false;
   if (const auto action = std::exchange(action_, nullptr)) action();
 }
 
+void MessagesCommand::otherChosen() {
+  asking_ = false;
+  if (const auto other = std::exchange(other_, nullptr)) other();
+}
+
 void MessagesCommand::fileDidChange() {
-  action_ = [this] { emit reloadChosen(); };
-  parts_.messageBar()->showMessage(MessageBar::Kind::Information,
-                                   localizedString("The file has changed on disk."),
-                                   localizedString("Reload"));
+  tell(MessageBar::Kind::Information, localizedString("The file has changed on disk."),
+       localizedString("Reload"), [this] { emit reloadChosen(); });
 }
 
 void MessagesCommand::fileDidDisappear() {
-  action_ = nullptr;
-  parts_.messageBar()->showMessage(
-      MessageBar::Kind::Warning,
-      localizedString("The file was deleted or moved. What is shown was read before."));
+  tell(MessageBar::Kind::Warning,
+       localizedString("The file was deleted or moved. What is shown was read before."));
 }
 
 void MessagesCommand::pictureStays(const Error& error) {
-  action_ = [this] { emit reloadChosen(); };
-  parts_.messageBar()->showMessage(MessageBar::Kind::Warning,
-                                   localizedString("%1 What is shown was read before.").arg(sentence(error)),
-                                   localizedString("Reload"), details(error));
+  tell(
+      MessageBar::Kind::Warning, localizedString("%1 What is shown was read before.").arg(sentence(error)),
+      localizedString("Reload"), [this] { emit reloadChosen(); }, details(error));
 }
 
 void MessagesCommand::showPdfFailure(const Error& error) {

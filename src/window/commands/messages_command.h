@@ -5,20 +5,31 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "base/result.h"
+#include "ui/picture/message_bar.h"
 
 namespace norvex {
 
 class StoppableProcess;
 class WindowParts;
 
+/// Calls `ring` after so many milliseconds unless `context` has gone by then. Main thread.
+using Alarm = std::function<void(int milliseconds, QObject* context, std::function<void()> ring)>;
+
 /// One message at a time in the window's bar, with what can be done about it; the card tells what is under
-/// way. The parts outlive it. Main thread.
+/// way, and after a while the bar asks whether to go on. The parts outlive it. Main thread.
 class MessagesCommand final : public QObject {
   Q_OBJECT
  public:
-  explicit MessagesCommand(WindowParts& parts) : parts_(parts) {}
+  /// How long a picture is waited for before the user is asked; milliseconds.
+  static constexpr int patienceMs = 20'000;
+
+  explicit MessagesCommand(WindowParts& parts);
+
+  /// Default: timers.
+  void setAlarm(Alarm alarm) { alarm_ = std::move(alarm); }
 
   /// A picture is shown that this process draws (null: it cannot be stopped): its problems are told from now
   /// on.
@@ -35,8 +46,9 @@ class MessagesCommand final : public QObject {
   void pictureStays(const Error& error);
   /// The picture's PDF form could not be made.
   void showPdfFailure(const Error& error);
-  /// The button of the bar was pressed.
+  /// The first button of the bar was pressed, or the second one.
   void actionChosen();
+  void otherChosen();
 
  signals:
   /// Something was drawn, or is about to be.
@@ -45,13 +57,25 @@ class MessagesCommand final : public QObject {
   void reloadChosen();
   /// The opening that was stopped shall begin anew.
   void openingChosen();
+  /// What is waited for shall end.
+  void stopChosen();
 
  private:
+  void tell(MessageBar::Kind kind, const QString& text, const QString& title = {},
+            std::function<void()> action = {}, const QString& details = {});
   void retryDrawing();
+  void followPatience();
+  void waitOn();
+  void askWhetherToWait();
+  void tellWhatStopped();
 
   WindowParts& parts_;
   std::shared_ptr<StoppableProcess> process_;
-  std::function<void()> action_;
+  std::function<void()> action_, other_;
+  Alarm alarm_;
+  int spell_ = 0;  ///< number of the wait that is going on, or that was the last
+  bool waiting_ = false, asking_ = false;
+  bool stopIsTold_ = true;  ///< or need not be
 };
 
 }  // namespace norvex

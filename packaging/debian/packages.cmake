@@ -35,7 +35,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR})
 # its standard fonts, and a font for text whose font is not there.
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "ghostscript, fontconfig, fonts-urw-base35, fonts-dejavu-core | fonts-liberation, \
 shared-mime-info, hicolor-icon-theme")
-set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "icc-profiles-free, norvex-thumbnailer, qt6-wayland")
+set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "icc-profiles-free, norvex-thumbnailer, qt6-translations-l10n, qt6-wayland")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SUGGESTS "cups-client, apparmor")
 
 set(CPACK_DEBIAN_THUMBNAILER_PACKAGE_NAME norvex-thumbnailer)

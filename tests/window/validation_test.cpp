@@ -1,5 +1,6 @@
 // Which commands can be given when, and how they are reached without a mouse.
 #include <QAction>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -179,6 +180,30 @@ class ValidationTest : public QObject {
         found = found || (*each)->text(1).split(QStringLiteral(",  ")).contains(keys);
       QVERIFY2(found, qPrintable(action->text()));
     }
+  }
+
+  void theListOfKeysIsSearchedAndKnowsTheMouse() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    c.window()->show();
+    c.window()->findChild<QAction*>("shortcutsAction")->trigger();
+    auto* panel = c.window()->findChild<QWidget*>("shortcutPanel");
+    auto* list = panel->findChild<QTreeWidget*>();
+    const auto shown = [list] {
+      QStringList rows;
+      for (QTreeWidgetItemIterator each(list, QTreeWidgetItemIterator::NotHidden); *each; ++each)
+        if ((*each)->parent()) rows << (*each)->text(0);
+      return rows;
+    };
+    const qsizetype all = shown().size();
+    QVERIFY(shown().contains("Zoom at the pointer"));
+    auto* search = panel->findChild<QLineEdit*>("shortcutSearch");
+    search->setText("wheel ZOOM");
+    QCOMPARE(shown(), QStringList{"Zoom at the pointer"});
+    search->setText("nothing of the kind");
+    QVERIFY(shown().isEmpty());
+    search->clear();
+    QCOMPARE(shown().size(), all);
   }
 
   void findOpensTheSourceWithItsBar() {

@@ -100,6 +100,7 @@ class ArgumentsTest : public QObject {
     QTest::newRow("short help") << QStringList{"-h"} << true;
     QTest::newRow("sandbox") << QStringList{"--sandbox-status"} << true;
     QTest::newRow("completion") << QStringList{"--completion", "bash"} << true;
+    QTest::newRow("started by the bus") << QStringList{"--dbus-service"} << false;
     QTest::newRow("mistyped") << QStringList{"--verison"} << true;
   }
   void whatAsksForTheCommandLine() {

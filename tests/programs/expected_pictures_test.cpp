@@ -75,9 +75,11 @@ class ExpectedPicturesTest : public QObject {
   }
 
   void lightCommandsAreKnown() {
-    for (const char* first : {"info", "source", "preview", "convert", "--version", "--help", "--completion"})
+    for (const char* first :
+         {"info", "source", "preview", "convert", "thumbnail", "--version", "--help", "--completion"})
       QVERIFY2(asksForLightCommand(first), first);
-    for (const char* first : {"", "print", "a.eps", "convret", "--", "--platform=xcb", "--json", "-h"})
+    for (const char* first :
+         {"", "print", "a.eps", "convret", "--", "--platform=xcb", "--json", "-h", "--dbus-service"})
       QVERIFY2(!asksForLightCommand(first), first);
   }
 
@@ -118,6 +120,7 @@ class ExpectedPicturesTest : public QObject {
     QTest::newRow("EPSI behind others") << QStringList{"convert", "a.svg", "b.epsi", "--to", "x"} << true;
     QTest::newRow("a window") << QStringList{"a.eps"} << true;
     QTest::newRow("print") << QStringList{"print", "a.eps", "-o", "a.pdf"} << true;
+    QTest::newRow("a thumbnail") << QStringList{"thumbnail", "-s", "64", "a.eps", "a.png"} << true;
     QTest::newRow("EPS comes out") << QStringList{"convert", "a.svg", "-o", "a.eps"} << false;
     QTest::newRow("EPS comes out, long") << QStringList{"convert", "a.svg", "--output=a.eps"} << false;
     QTest::newRow("no picture is drawn") << QStringList{"info", "a.eps"} << false;

@@ -51,6 +51,17 @@ class ManualWindowTest : public QObject {
     QVERIFY(manual.page()->toPlainText().isEmpty());
   }
 
+  void itSpeaksTheUsersLanguageWhereItIsWritten() {
+    const QLocale before;
+    const qsizetype pages = manualPages().size();
+    QLocale::setDefault(QLocale("de_AT"));
+    QVERIFY(ManualWindow().page()->toPlainText().contains("Bilder öffnen"));
+    QCOMPARE(manualPages().size(), pages);
+    QLocale::setDefault(QLocale("tlh"));
+    QVERIFY(ManualWindow().page()->toPlainText().contains("Opening pictures"));
+    QLocale::setDefault(before);
+  }
+
   void everyPictureOfThePagesIsThere() {
     static const QRegularExpression image("<img src=\"([^\"]+)\"");
     int count = 0;

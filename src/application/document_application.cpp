@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "application/file_watcher.h"
+#include "application/folder_neighbours.h"
 #include "application/open_panel.h"
 #include "base/localized_string.h"
 #include "base/state_folder.h"
@@ -33,6 +34,7 @@ DocumentApplication::DocumentApplication(ApplicationEvents& events, PictureServi
       terminate_(std::move(terminate)),
       delegate_(&documents_, terminate_),
       startPanel_(std::make_unique<StartPanel>(recent_)),
+      thumbnails_(std::make_unique<RecentThumbnails>(service, *startPanel_)),
       ownAlerts_(std::make_unique<QtAlertPresenter>()),
       alerts_(ownAlerts_.get()) {
   QApplication::setQuitOnLastWindowClosed(delegate_.applicationShouldTerminateAfterLastWindowClosed());
@@ -172,6 +174,7 @@ void DocumentApplication::documentDidOpen(Document* document) {
   connect(document, &Document::reverted, watcher, &FileWatcher::acknowledge);
   for (QWidget* widget : QApplication::topLevelWidgets())
     if (auto* window = qobject_cast<QMainWindow*>(widget)) equipWindow(window);
+  replaceWindow(document);
   updateStartPanel();
 }
 
@@ -216,6 +219,7 @@ void DocumentApplication::applicationDidResignActive() {
 }
 
 void DocumentApplication::showFailure(const OpenFailure& failure) {
+  replaced_.remove(failure.url);
   const QFileInfo file(failure.url.toLocalFile());
   if (!file.exists()) recent_.remove(failure.url);
   const QString name = failure.url.isLocalFile() ? file.fileName() : failure.url.toDisplayString();
@@ -245,12 +249,44 @@ void DocumentApplication::equipWindow(QMainWindow* window) {
   connect(open, &QAction::triggered, this, &DocumentApplication::runOpenPanel);
   auto* menu = window->findChild<QMenu*>(QStringLiteral("fileMenu"));
   if (!menu) return window->addAction(open);
+  addNeighbours(window);
   auto* recent = new QMenu(localizedString("Open Recent"), menu);
   connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentMenu(recent); });
   QAction* first = menu->actions().value(0);
   menu->insertAction(first, open);
   menu->insertMenu(first, recent);
   menu->insertSeparator(first);
+}
+
+void DocumentApplication::addNeighbours(QMainWindow* window) {
+  auto* menu = window->findChild<QMenu*>(QStringLiteral("goMenu"));
+  if (!menu) return;
+  menu->addSeparator();
+  const auto add = [&](const char* title, const char* name, const QKeySequence& key, int step) {
+    QAction* action = menu->addAction(localizedString(title));
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(key);
+    connect(action, &QAction::triggered, this, [this, window, step] { showNeighbour(window, step); });
+  };
+  add("Next Picture in F&older", "nextPictureAction", Qt::ALT | Qt::Key_Right, 1);
+  add("Previous Pictu&re in Folder", "previousPictureAction", Qt::ALT | Qt::Key_Left, -1);
+}
+
+void DocumentApplication::showNeighbour(QMainWindow* window, int step) {
+  const QUrl url = neighbourOf(QUrl::fromLocalFile(window->windowFilePath()), step);
+  if (url.isEmpty()) return QApplication::beep();
+  replaced_.insert(url, window);
+  documents_.openDocuments({url});
+}
+
+void DocumentApplication::replaceWindow(Document* document) {
+  const QPointer<QMainWindow> old = replaced_.take(document->fileURL());
+  if (!old) return;
+  const QPoint place = old->pos();
+  old->close();
+  for (QWidget* widget : QApplication::topLevelWidgets())
+    if (qobject_cast<QMainWindow*>(widget) && widget->windowFilePath() == document->fileURL().toLocalFile())
+      widget->move(place);
 }
 
 void DocumentApplication::fillRecentMenu(QMenu* menu) {

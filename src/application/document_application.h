@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QSettings>
 #include <QUrl>
 
@@ -14,6 +16,7 @@
 #include "application/history_keeper.h"
 #include "application/manual_window.h"
 #include "application/recent_files.h"
+#include "application/recent_thumbnails.h"
 #include "application/start_panel.h"
 #include "base/waiting_threads.h"
 #include "desktop/alert.h"
@@ -79,6 +82,10 @@ class DocumentApplication final : public QObject {
   void equipWindow(QMainWindow* window);
   void fillRecentMenu(QMenu* menu);
   void addManual(QWidget* window);
+  /// Commands that show the pictures beside the window's one in its place.
+  void addNeighbours(QMainWindow* window);
+  void showNeighbour(QMainWindow* window, int step);
+  void replaceWindow(Document* document);
 
   WaitingThreadsEnd threadsEnd_;  ///< first, so that it ends last
   ApplicationEvents& events_;
@@ -91,10 +98,12 @@ class DocumentApplication final : public QObject {
   FileDropTarget drops_;
   std::unique_ptr<StartPanel> startPanel_;
   std::unique_ptr<ManualWindow> manual_;  ///< once it was asked for
+  std::unique_ptr<RecentThumbnails> thumbnails_;
   std::unique_ptr<AlertPresenter> ownAlerts_;
   AlertPresenter* alerts_;
   int modal_ = 0;  ///< panels and alerts on the screen
   bool quitting_ = false;
+  QHash<QUrl, QPointer<QMainWindow>> replaced_;  ///< windows that go when that file has opened
 };
 
 }  // namespace norvex

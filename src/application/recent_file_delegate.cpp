@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QPainter>
 #include <QUrl>
 
@@ -42,6 +43,18 @@ void drawBadge(QPainter* painter, const QRect& box, const QString& extension, co
   painter->drawText(box, Qt::AlignCenter, extension.left(4).toUpper());
 }
 
+/// On paper, as pictures have no background of their own.
+void drawPicture(QPainter* painter, const QRect& room, const QImage& picture) {
+  QRectF box(QPointF(), QSizeF(picture.size()).scaled(room.size(), Qt::KeepAspectRatio));
+  box.moveCenter(QRectF(room).center());
+  painter->setRenderHint(QPainter::SmoothPixmapTransform);
+  painter->fillRect(box, Qt::white);
+  painter->drawImage(box, picture);
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(QColor(0, 0, 0, 70));
+  painter->drawRect(box);
+}
+
 }  // namespace
 
 QSize RecentFileDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
@@ -59,7 +72,11 @@ void RecentFileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
   const QString path = index.data(Qt::UserRole).toUrl().toLocalFile();
   const QRect inside = item.rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
   const QRect badge(inside.left(), inside.center().y() - kBadgeHeight / 2, kBadgeWidth, kBadgeHeight);
-  drawBadge(painter, badge, QFileInfo(path).suffix().toLower(), item.font);
+  const auto picture = index.data(thumbnailRole).value<QImage>();
+  if (picture.isNull())
+    drawBadge(painter, badge, QFileInfo(path).suffix().toLower(), item.font);
+  else
+    drawPicture(painter, QRect(inside.left(), inside.top(), kBadgeWidth, inside.height()), picture);
 
   const QRect text = inside.adjusted(kBadgeWidth + kMargin + 2, 0, 0, 0);
   const int line = item.fontMetrics.lineSpacing();

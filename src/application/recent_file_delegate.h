@@ -1,9 +1,13 @@
-// How a recent file looks in a list: a badge with its kind, its name, and quietly its folder.
+// How a recent file looks in a list: a picture of it or a badge with its kind, its name, and quietly its
+// folder.
 #pragma once
 
 #include <QStyledItemDelegate>
 
 namespace norvex {
+
+/// Of a QImage that stands in the place of the badge.
+inline constexpr int thumbnailRole = Qt::UserRole + 1;
 
 /// The item's data under Qt::UserRole is the file's QUrl.
 class RecentFileDelegate final : public QStyledItemDelegate {

@@ -163,10 +163,25 @@ void StartPanel::fillRecent() {
     const QFileInfo info(url.toLocalFile());
     auto* item = new QListWidgetItem(info.fileName(), list_);
     item->setData(kUrlRole, url);
+    if (thumbnails_.contains(url)) item->setData(thumbnailRole, thumbnails_.value(url));
     item->setToolTip(info.absoluteFilePath());
     item->setData(Qt::AccessibleDescriptionRole, info.absolutePath());
   }
   pages_->setCurrentWidget(list_->count() > 0 ? static_cast<QWidget*>(list_) : empty_);
+  emit recentDidChange();
+}
+
+QList<QUrl> StartPanel::recentWithoutThumbnail() const {
+  QList<QUrl> without;
+  for (const QUrl& url : recent_.urls())
+    if (!thumbnails_.contains(url)) without << url;
+  return without;
+}
+
+void StartPanel::setThumbnail(const QUrl& url, const QImage& image) {
+  thumbnails_.insert(url, image);
+  for (int row = 0; row < list_->count(); ++row)
+    if (list_->item(row)->data(kUrlRole).toUrl() == url) list_->item(row)->setData(thumbnailRole, image);
 }
 
 void StartPanel::choose(const QListWidgetItem* item) {

@@ -1,6 +1,8 @@
 // The start panel: what the application shows while no document is open.
 #pragma once
 
+#include <QHash>
+#include <QImage>
 #include <QList>
 #include <QUrl>
 #include <QWidget>
@@ -26,8 +28,14 @@ class StartPanel final : public QWidget {
   [[nodiscard]] QPushButton* openButton() const { return open_; }
   [[nodiscard]] QListWidget* recentList() const { return list_; }
 
+  /// The listed files that show no picture of theirs yet, in their order.
+  [[nodiscard]] QList<QUrl> recentWithoutThumbnail() const;
+  /// Shown beside the file's name as long as the panel lives.
+  void setThumbnail(const QUrl& url, const QImage& image);
+
  signals:
   void openRequested();
+  void recentDidChange();
   void filesChosen(const QList<QUrl>& urls);
   /// The person closed it.
   void dismissed();
@@ -50,6 +58,7 @@ class StartPanel final : public QWidget {
   class DropArea;
   DropArea* drop_ = nullptr;
   QListWidget* list_ = nullptr;
+  QHash<QUrl, QImage> thumbnails_;
   QWidget* empty_ = nullptr;
   QStackedLayout* pages_ = nullptr;
 };

@@ -32,6 +32,10 @@ QString unitName(LengthUnit unit) {
   return QString::fromLatin1(rowOf(unit).name);
 }
 
+double pointsOf(LengthUnit unit) {
+  return rowOf(unit).points;
+}
+
 LengthUnit unitNamed(const QString& name) {
   for (const UnitRow& row : units)
     if (name == QLatin1String(row.name)) return row.unit;

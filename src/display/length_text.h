@@ -12,6 +12,8 @@ enum class LengthUnit { Points, Millimetres, Inches, Picas };
 
 /// "pt", "mm", "in", "pc".
 [[nodiscard]] QString unitName(LengthUnit unit);
+/// How many points one of it has.
+[[nodiscard]] double pointsOf(LengthUnit unit);
 /// The unit of that name; points for any other.
 [[nodiscard]] LengthUnit unitNamed(const QString& name);
 /// The one after it, the first after the last.

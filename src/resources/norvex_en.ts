@@ -272,6 +272,66 @@
         <translation>&amp;Go to Page…</translation>
     </message>
     <message>
+        <source>&amp;Window Fits Picture</source>
+        <translation>&amp;Window Fits Picture</translation>
+    </message>
+    <message>
+        <source>Reload Changed Files b&amp;y Itself</source>
+        <translation>Reload Changed Files b&amp;y Itself</translation>
+    </message>
+    <message>
+        <source>Select Rectangle</source>
+        <translation>Select Rectangle</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width</source>
+        <translation>Fit &amp;Width</translation>
+    </message>
+    <message>
+        <source>Next Picture in F&amp;older</source>
+        <translation>Next Picture in F&amp;older</translation>
+    </message>
+    <message>
+        <source>Previous Pictu&amp;re in Folder</source>
+        <translation>Previous Pictu&amp;re in Folder</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Selection</source>
+        <translation>&amp;Undo Selection</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Selection</source>
+        <translation>&amp;Redo Selection</translation>
+    </message>
+    <message>
+        <source>Select Rectan&amp;gle…</source>
+        <translation>Select Rectan&amp;gle…</translation>
+    </message>
+    <message>
+        <source>From the left:</source>
+        <translation>From the left:</translation>
+    </message>
+    <message>
+        <source>From below:</source>
+        <translation>From below:</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Height:</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message>
         <source>AngleOfRotation</source>
         <translation>Rotation</translation>
     </message>

@@ -21,7 +21,7 @@ namespace {
 /// Enough of a picture to know whether its program still draws; pixels.
 constexpr double kTrialSide = 64;
 /// A quick document is on the screen together with its window; a slow one does not keep the window waiting.
-constexpr int kGraceMs = 60;
+constexpr int kGraceMs = 150;
 
 /// A program that fails only when it is drawn takes its picture with it. Any thread.
 void tryDrawing(DocumentContents& contents, const CancelToken& cancel) {

@@ -28,6 +28,7 @@
 #include "window/main_window_controller.h"
 #include "window/selection_commands.h"
 #include "window/selection_description.h"
+#include "window/viewing/selection_history.h"
 
 namespace norvex {
 
@@ -140,6 +141,7 @@ void MainWindowController::validateSelectionCommands() {
   // Without a selection Escape is for whoever else wants it.
   ui_->deselectAction->setEnabled(view()->selectRect().width() > 0);
   selectionCommands_->selectionDidChange();
+  if (auto* history = findChild<SelectionHistory*>()) history->selectionDidChange();
 }
 
 void MainWindowController::setZoomFactor(double factor) {

@@ -16,6 +16,7 @@
 #include "ui/style/window_style.h"
 #include "ui_MainWindowController.h"
 #include "window/commands/window_frames.h"
+#include "window/viewing/live_file.h"
 
 namespace norvex {
 
@@ -158,6 +159,7 @@ void MainWindowController::showWindow() {
     finishSetUp();
     if (!untitled) loading_.start();
   }
+  if (first) sizing_.place();
   shown->show();
   shown->raise();
   shown->activateWindow();
@@ -182,7 +184,10 @@ void MainWindowController::reload() {
 }
 
 void MainWindowController::fileDidChangeOnDisk() {
-  if (window_ && document_) messages_.fileDidChange();
+  if (!window_ || !document_) return;
+  auto* live = findChild<LiveFile*>();
+  if (live->reloadsByItself()) return live->reloadInPlace([this] { reload(); });
+  messages_.fileDidChange();
 }
 
 void MainWindowController::fileDidDisappear() {
@@ -214,6 +219,7 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
     if (event->type() == QEvent::Close) closing();
+    if (event->type() == QEvent::Resize) sizing_.windowDidResize();
     if (event->type() == QEvent::WindowStateChange) {
       ui_->fullScreenAction->setChecked(window_->isFullScreen());
       sizing_.windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));

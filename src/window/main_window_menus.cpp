@@ -9,11 +9,16 @@
 #include "ui/picture/drag_source.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui_MainWindowController.h"
+#include "window/commands/window_frames.h"
 #include "window/export/export_command.h"
 #include "window/main_window_controller.h"
 #include "window/viewing/full_screen.h"
+#include "window/viewing/live_file.h"
 #include "window/viewing/pages_command.h"
 #include "window/viewing/pointer_readout.h"
+#include "window/viewing/selection_history.h"
+#include "window/viewing/sticky_fit.h"
+#include "window/viewing/toolbar_labels.h"
 
 namespace norvex {
 
@@ -67,6 +72,10 @@ void MainWindowController::setUpPictureMenu() {
   });
   new DragSource(
       *viewWidget_, [this] { return draggedFile(); }, this);
+  // The preview shows the whole picture, and knows no other drag.
+  previewImageView()->setCursor(Qt::OpenHandCursor);
+  new DragSource(
+      *previewImageView(), [this] { return copying_.draggedWhole(); }, this, Qt::NoModifier);
 }
 
 void MainWindowController::setUpViewing() {
@@ -80,6 +89,31 @@ void MainWindowController::setUpViewing() {
     messages_.watchPicture(std::dynamic_pointer_cast<StoppableProcess>(view()->imageRep()->process()));
     setWindowSize();
   });
+  auto* fit = new StickyFit(*this, this);
+  QList<QAction*> viewActions = ui_->viewMenu->actions();
+  ui_->viewMenu->insertAction(viewActions.value(viewActions.indexOf(ui_->fitAction) + 1),
+                              fit->setUp(*ui_->fitAction));
+  connect(&inspector_, &InspectorCommand::turned, fit, &StickyFit::fitAgain);
+  connect(pages, &PagesCommand::pageDidChange, fit, &StickyFit::fitAgain);
+  auto* history = new SelectionHistory(*this, this);
+  history->setUp(*ui_->editMenu, *ui_->selectAllAction);
+  connect(this, &MainWindowController::documentShown, history, &SelectionHistory::clear);
+  connect(pages, &PagesCommand::pageDidChange, history, &SelectionHistory::clear);
+  auto* live = new LiveFile(*this, *pages, this);
+  ui_->fileMenu->insertAction(ui_->closeAction, live->makeAction());
+  connect(this, &MainWindowController::documentShown, live, &LiveFile::documentDidChange);
+  auto* fits = new QAction(localizedString("&Window Fits Picture"), window_);
+  fits->setObjectName(QStringLiteral("windowFitsPictureAction"));
+  fits->setCheckable(true);
+  fits->setChecked(windowFitsPicture());
+  connect(fits, &QAction::toggled, this, [this](bool on) {
+    saveWindowFitsPicture(on);
+    setWindowSize();
+  });
+  ui_->viewMenu->insertAction(inspectorToolbarItem, fits);
+  auto* labels = new ToolbarLabels(
+      *toolbar, {copyToolbarItem, doSaveToToolbarItem, doPrintingToolbarItem, inspectorToolbarItem}, this);
+  labels->fit();
   auto* readout = new PointerReadout(*this, this);
   readout->setUp();
   auto* fullScreen = new FullScreen(*this, this);

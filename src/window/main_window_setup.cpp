@@ -28,6 +28,7 @@
 #include "ui_MainWindowController.h"
 #include "window/document_contents.h"
 #include "window/main_window_controller.h"
+#include "window/viewing/live_file.h"
 
 namespace norvex {
 
@@ -122,6 +123,7 @@ void MainWindowController::setUpTexts() {
 
 void MainWindowController::take(const DocumentContents& contents, bool again) {
   if (again && !contents.imageRep) {
+    findChild<LiveFile*>()->documentDidStay();
     messages_.pictureStays(contents.error.value_or(Error{ErrorKind::CannotRead, {}}));
     return;
   }

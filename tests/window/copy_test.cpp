@@ -18,6 +18,7 @@
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
+#include "ui/picture/zy_image_view.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -340,6 +341,21 @@ class CopyTest : public QObject {
     QCOMPARE(item.types(), (QStringList{"a", "b"}));
     QCOMPARE(item.dataForType("a"), QByteArray("3"));
     QCOMPARE(item.dataForType("c"), QByteArray());
+  }
+
+  void thePreviewIsDraggedOutAsTheWholeFile() {
+    CopyFixture f;
+    MainWindowController& c = f.eps();
+    select(*c.view(), {-50, -20}, {-10, 10});  // has no say
+    CopyCommand command(c);
+    const auto dragged = command.draggedWhole();
+    QVERIFY(dragged);
+    QCOMPARE(dragged->name, QString("a.eps"));
+    QCOMPARE(dragged->bytes(), epsBytes());
+    QCOMPARE(c.previewImageView()->cursor().shape(), Qt::OpenHandCursor);
+    CopyFixture none;
+    MainWindowController& d = none.show("no picture", "a.eps", NorvexEPSType);
+    QVERIFY(!CopyCommand(d).draggedWhole());
   }
 
   void aDraggedFileIsWrittenWhenItIsAskedFor() {

@@ -92,6 +92,7 @@ void ExportOptions::addFormats(const ExportChoice& first) {
 void ExportOptions::addAreas(const ExportChoice& first) {
   areas_ = new QComboBox(this);
   areas_->setObjectName(QStringLiteral("exportArea"));
+  areas_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   const bool pages = std::any_of(offer_.areas.cbegin(), offer_.areas.cend(),
                                  [](const auto& each) { return each.area == ExportArea::Document; });
   int chosen = 0;
@@ -159,6 +160,7 @@ void ExportOptions::addBackground(const ExportChoice& first) {
 void ExportOptions::addQuality(const ExportChoice& first) {
   quality_ = new QSpinBox(this);
   quality_->setObjectName(QStringLiteral("exportQuality"));
+  quality_->setAccessibleName(localizedString("Quality"));
   quality_->setRange(1, 100);
   quality_->setKeyboardTracking(false);
   quality_->setValue(first.quality.value_or(kUsualQuality));

@@ -47,8 +47,8 @@ QVariant DraggedFileData::retrieveData(const QString& mimeType, QMetaType type) 
   return QVariantList{*url_};
 }
 
-DragSource::DragSource(QWidget& widget, Offer offer, QObject* parent)
-    : QObject(parent), widget_(widget), offer_(std::move(offer)) {
+DragSource::DragSource(QWidget& widget, Offer offer, QObject* parent, Qt::KeyboardModifiers held)
+    : QObject(parent), widget_(widget), offer_(std::move(offer)), held_(held) {
   widget_.installEventFilter(this);
 }
 
@@ -66,7 +66,7 @@ bool DragSource::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool DragSource::press(const QMouseEvent& event) {
-  if (event.button() != Qt::LeftButton || !(event.modifiers() & Qt::ControlModifier)) return false;
+  if (event.button() != Qt::LeftButton || (event.modifiers() & held_) != held_) return false;
   pressed_ = event.position().toPoint();
   return true;
 }

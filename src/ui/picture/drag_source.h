@@ -21,15 +21,15 @@ struct DraggedFile {
 };
 
 /// Watches a widget: a drag with the Control key held drags a file out of it, and the widget sees nothing of
-/// that drag. Without the key nothing changes, so that drags inside the widget keep their meaning. Main
-/// thread.
+/// that drag. Without the key nothing changes, so that drags inside the widget keep their meaning; where it
+/// has none, no key may be asked for. Main thread.
 class DragSource final : public QObject {
   Q_OBJECT
  public:
   using Offer = std::function<std::optional<DraggedFile>()>;
 
   /// `offer` is asked when a drag begins; nothing: there is nothing to drag.
-  DragSource(QWidget& widget, Offer offer, QObject* parent);
+  DragSource(QWidget& widget, Offer offer, QObject* parent, Qt::KeyboardModifiers held = Qt::ControlModifier);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,6 +40,7 @@ class DragSource final : public QObject {
 
   QWidget& widget_;
   Offer offer_;
+  Qt::KeyboardModifiers held_;
   std::optional<QPoint> pressed_;
 };
 

@@ -6,9 +6,11 @@
 #include <QtConcurrent>
 
 #include "base/localized_string.h"
+#include "base/path_extension.h"
 #include "base/waiting_threads.h"
 #include "display/length_text.h"
 #include "display/norvex_view.h"
+#include "document/document.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/panels/qt_pasteboard.h"
 #include "ui/picture/brief_note.h"
@@ -46,6 +48,18 @@ NSPasteboardItem itemOf(const PictureFormats& formats, const PictureFormats& tra
 qsizetype bestFileFormat(const PictureFormats& formats) {
   const qsizetype svg = formats.indexOf(UTTypeSVG());
   return svg >= 0 ? svg : formats.indexOf(UTTypePDF());
+}
+
+/// The format at `row`, which begins to be made; none for a row that is not there.
+std::optional<DraggedFile> draggedOf(const PictureFormats& offered, qsizetype row, const QString& name) {
+  if (row < 0) return std::nullopt;
+  const std::shared_ptr<PromisedData> data = offered.DataObjects.at(row);
+  static_cast<void>(QtConcurrent::run(&waitingThreads(),
+                                      [data] { return data->get(); }));  // the drag takes a while: use it
+  const QString extension = offered.UTIs.at(row).preferredFilenameExtension();
+  // When nobody can ask for the file any more its making ends.
+  const std::shared_ptr<void> asked(nullptr, [cancel = offered.cancel](void*) { cancel.cancel(); });
+  return DraggedFile{name + u'.' + extension, [data, asked] { return data->get(); }};
 }
 
 }  // namespace
@@ -137,15 +151,13 @@ bool CopyCommand::stop() {
 
 std::optional<DraggedFile> CopyCommand::draggedFile() const {
   const PictureFormats offered = formats();
-  const qsizetype best = bestFileFormat(offered);
-  if (best < 0) return std::nullopt;
-  const std::shared_ptr<PromisedData> data = offered.DataObjects.at(best);
-  static_cast<void>(QtConcurrent::run(&waitingThreads(),
-                                      [data] { return data->get(); }));  // the drag takes a while: use it
-  const QString extension = offered.UTIs.at(best).preferredFilenameExtension();
-  // When nobody can ask for the file any more its making ends.
-  const std::shared_ptr<void> asked(nullptr, [cancel = offered.cancel](void*) { cancel.cancel(); });
-  return DraggedFile{parts_.clipName() + u'.' + extension, [data, asked] { return data->get(); }};
+  return draggedOf(offered, bestFileFormat(offered), parts_.clipName());
+}
+
+std::optional<DraggedFile> CopyCommand::draggedWhole() const {
+  const PictureFormats whole = wholePictureFormats(wholeOf(snapshot()));
+  const QString name = parts_.document() ? parts_.document()->displayName() : QString();
+  return draggedOf(whole, whole.count() > 0 ? 0 : -1, pathWithoutExtension(name));
 }
 
 }  // namespace norvex

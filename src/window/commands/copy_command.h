@@ -41,6 +41,8 @@ class CopyCommand final : public QObject {
   bool stop();
   /// The best of the formats as a file for another program, which begins to be made; none without a picture.
   [[nodiscard]] std::optional<DraggedFile> draggedFile() const;
+  /// The whole picture in the same way, named as its document.
+  [[nodiscard]] std::optional<DraggedFile> draggedWhole() const;
 
  signals:
   /// A copy has ended; false: the clipboard is as it was. A copy that a later one replaced is not told.

@@ -17,6 +17,9 @@ QSettings settings() {
 
 const QString kTouchBar = QStringLiteral("views/touchBar");
 
+const QString kFits = QStringLiteral("views/windowFitsPicture");
+const QString kMargins = QStringLiteral("frames/margins");
+
 constexpr int kCascade = 24;  // logical pixels
 
 /// Of the gap between both; 0 where they touch.
@@ -72,6 +75,28 @@ bool savedTouchBarIsShown() {
 
 void saveTouchBarIsShown(bool shown) {
   settings().setValue(kTouchBar, shown);
+}
+
+bool windowFitsPicture() {
+  return savedView(kFits, true);
+}
+
+void saveWindowFitsPicture(bool fits) {
+  saveView(kFits, fits);
+}
+
+QMargins savedFrameMargins() {
+  constexpr int kMost = 100;
+  QList<int> read;
+  for (const QVariant& each : settings().value(kMargins).toList()) read << each.toInt();
+  const bool good =
+      read.size() == 4 && std::all_of(read.cbegin(), read.cend(), [](int n) { return n >= 0 && n <= kMost; });
+  return good ? QMargins(read[0], read[1], read[2], read[3]) : QMargins(4, 30, 4, 6);
+}
+
+void saveFrameMargins(const QMargins& margins) {
+  settings().setValue(kMargins,
+                      QVariantList{margins.left(), margins.top(), margins.right(), margins.bottom()});
 }
 
 bool savedView(const QString& name, bool otherwise) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QMargins>
 #include <QPoint>
 #include <QRect>
 #include <QString>
@@ -23,6 +24,14 @@ void saveWindowFrame(const QString& autosaveName, const QRect& frame);
 /// shown.
 [[nodiscard]] bool savedTouchBarIsShown();
 void saveTouchBarIsShown(bool shown);
+
+/// Whether the size rule holds; unless the user chose otherwise it does.
+[[nodiscard]] bool windowFitsPicture();
+void saveWindowFitsPicture(bool fits);
+
+/// What the desktop draws around windows, as it was seen last; a guess before.
+[[nodiscard]] QMargins savedFrameMargins();
+void saveFrameMargins(const QMargins& margins);
 
 /// A choice of what windows show, kept from one to the next; `otherwise` where none was made.
 [[nodiscard]] bool savedView(const QString& name, bool otherwise);

@@ -1,13 +1,16 @@
 #include "window/commands/window_sizing_command.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QToolBar>
+#include <QWindow>
 #include <QWindowStateChangeEvent>
 
 #include "display/norvex_view.h"
@@ -31,6 +34,21 @@ QRect onScreen(const QRectF& rect) {
   return {static_cast<int>(rect.x()), static_cast<int>(-rect.y()) - height,
           static_cast<int>(std::ceil(rect.width() - 1e-6)), height};
 }
+
+QList<QRect> screenRects() {
+  QList<QRect> screens;
+  for (const QScreen* screen : QGuiApplication::screens()) screens << screen->availableGeometry();
+  return screens;
+}
+
+QList<QPoint> takenPlaces(const QWidget* but) {
+  QList<QPoint> taken;
+  for (const QWidget* other : QApplication::topLevelWidgets())
+    if (other != but && other->isVisible() && qobject_cast<const QMainWindow*>(other)) taken << other->pos();
+  return taken;
+}
+
+constexpr int kRestMs = 250;
 
 int limited(double length) {
   return static_cast<int>(std::ceil(std::min(length, double(QWIDGETSIZE_MAX)) - 1e-6));
@@ -76,13 +94,19 @@ void WindowSizingCommand::apply() {
     parts_.mainWindow()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     return;
   }
+  if (!windowFitsPicture()) {
+    parts_.mainWindow()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    return;
+  }
   const WindowMeasures found = measures();
   const QSizeF viewSize = parts_.view() ? parts_.view()->frame().size() : QSizeF(0, 0);
   const WindowSize rule = windowSize(found, viewSize, parts_.zoomFactor());
   // This platform's maximum counts the toolbar, the rule's does not.
   parts_.mainWindow()->setMaximumSize(limited(rule.maximum.width()),
                                       limited(rule.maximum.height() + found.toolbarHeight));
+  leaveRoomToTheUser();
   if (rule.frame == found.frame || parts_.mainWindow()->isMaximized()) return;
+  own_ = onScreen(rule.frame).size();
   // Before the window is on the screen its place is the window manager's to choose.
   if (parts_.mainWindow()->isVisible())
     parts_.mainWindow()->setGeometry(onScreen(rule.frame));
@@ -93,26 +117,82 @@ void WindowSizingCommand::apply() {
 void WindowSizingCommand::windowStateDidChange(const QWindowStateChangeEvent& event) {
   // A full screen or a maximised window has the size it has; the rule is caught up with when that ends.
   const Qt::WindowStates large = Qt::WindowFullScreen | Qt::WindowMaximized;
-  if ((event.oldState() & large) && !(parts_.mainWindow()->windowState() & large)) apply();
+  if (!(event.oldState() & large) || (parts_.mainWindow()->windowState() & large)) return;
+  // The window manager gives it its old size first, which the rule is to start from.
+  QTimer::singleShot(kRestMs, parts_.mainWindow(), [this] { shrinkWhenAtRest(); });
+}
+
+void WindowSizingCommand::leaveRoomToTheUser() const {
+  // A window manager neither maximises nor tiles what must not be larger.
+  constexpr int kNoBound = (1 << 24) - 1;
+  if (QWindow* handle = parts_.mainWindow()->windowHandle()) handle->setMaximumSize({kNoBound, kNoBound});
+}
+
+bool WindowSizingCommand::isTiled() const {
+  constexpr int kBeside = 8;
+  const QMainWindow& window = *parts_.mainWindow();
+  if (!window.screen()) return false;
+  const QSize room = window.screen()->availableSize(), taken = window.frameGeometry().size();
+  return taken.width() >= room.width() - kBeside || taken.height() >= room.height() - kBeside;
+}
+
+void WindowSizingCommand::windowDidResize() {
+  const QMainWindow& window = *parts_.mainWindow();
+  const QSize most = window.maximumSize();
+  if (!window.isVisible() || (window.width() <= most.width() && window.height() <= most.height())) return;
+  // An edge that is being pulled comes back when it is let go.
+  QTimer::singleShot(kRestMs, parts_.mainWindow(), [this, resize = ++resizes_] {
+    if (resize == resizes_) shrinkWhenAtRest();
+  });
+}
+
+void WindowSizingCommand::shrinkWhenAtRest() {
+  QMainWindow& window = *parts_.mainWindow();
+  if (window.isMaximized() || window.isFullScreen() || isTiled()) return;
+  const QSize pulled = window.size(), most = pulled.boundedTo(window.maximumSize());
+  if (most == pulled) return apply();
+  chosen_ = pulled;
+  own_ = most;
+  window.resize(most);
+}
+
+void WindowSizingCommand::place() {
+  QMainWindow& window = *parts_.mainWindow();
+  window.winId();  // with bounds of the platform's from now on
+  leaveRoomToTheUser();
+  const QMargins around = savedFrameMargins();
+  QRect frame = QRect(window.pos(), window.size().grownBy(around));
+  if (!hasPlace_) {
+    const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
+    if (!screen) screen = QGuiApplication::primaryScreen();
+    if (!screen) return;
+    frame.moveCenter(screen->availableGeometry().center());
+  }
+  const QRect placed = placedOnScreens(frame, screenRects(), takenPlaces(&window));
+  window.resize(placed.size().shrunkBy(around));
+  window.move(placed.topLeft());
 }
 
 void WindowSizingCommand::restoreFrame() {
   const QRect frame = savedWindowFrame(kFrameName);
+  chosen_ = parts_.mainWindow()->size();
   if (!frame.isValid()) return;
-  QList<QRect> screens;
-  for (const QScreen* screen : QGuiApplication::screens()) screens << screen->availableGeometry();
-  QList<QPoint> taken;
-  for (const QWidget* other : QApplication::topLevelWidgets())
-    if (other != parts_.mainWindow() && other->isVisible() && qobject_cast<const QMainWindow*>(other))
-      taken << other->pos();
-  const QRect place = placedOnScreens(frame, screens, taken);
+  hasPlace_ = true;
+  chosen_ = frame.size();
+  const QRect place = placedOnScreens(frame, screenRects(), takenPlaces(parts_.mainWindow()));
   parts_.mainWindow()->resize(place.size());
   parts_.mainWindow()->move(place.topLeft());
 }
 
 void WindowSizingCommand::saveFrame() const {
-  if (parts_.mainWindow()->isFullScreen() || parts_.mainWindow()->isMaximized()) return;
-  saveWindowFrame(kFrameName, QRect(parts_.mainWindow()->pos(), parts_.mainWindow()->size()));
+  const QMainWindow& window = *parts_.mainWindow();
+  if (window.isFullScreen() || window.isMaximized()) return;
+  // What the rule made of the window for one picture is no choice for the next.
+  const QSize size = own_.isValid() && window.size() == own_ ? chosen_ : window.size();
+  saveWindowFrame(kFrameName, QRect(window.pos(), size));
+  const QRect outside = window.frameGeometry(), inside = window.geometry();
+  saveFrameMargins({inside.left() - outside.left(), inside.top() - outside.top(),
+                    outside.right() - inside.right(), outside.bottom() - inside.bottom()});
 }
 
 }  // namespace norvex

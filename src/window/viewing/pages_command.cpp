@@ -37,6 +37,7 @@ void PagesCommand::setUp(QMenu& menu) {
   static_cast<QBoxLayout*>(bar->layout())->insertWidget(1, switch_);
   connect(switch_, &PageSwitch::pageChosen, this, &PagesCommand::show);
   parts_.scrollArea()->installEventFilter(this);
+  parts_.mainWindow()->installEventFilter(this);
   const auto mayGoOn = [this] { return shown() + 1 < count(); };
   const auto mayGoBack = [this] { return shown() > 0; };
   addCommand(
@@ -74,6 +75,7 @@ void PagesCommand::addStrip(QMenu& menu) {
   dock->setTitleBarWidget(new QWidget(dock));  // what it is can be seen
   strip_ = new PageStrip(dock);
   dock->setWidget(strip_);
+  dock->toggleViewAction()->setVisible(false);  // the menu below has it, where there are pages
   dock->hide();
   parts_.mainWindow()->addDockWidget(Qt::LeftDockWidgetArea, dock);
   thumbnails_ = new PageThumbnails(*strip_, this);
@@ -152,7 +154,9 @@ void PagesCommand::validate() {
 }
 
 bool PagesCommand::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress || count() < 2) return QObject::eventFilter(watched, event);
+  if (event->type() == QEvent::WindowStateChange) validate();  // a full screen has no strip
+  if (event->type() != QEvent::KeyPress || watched != parts_.scrollArea() || count() < 2)
+    return QObject::eventFilter(watched, event);
   // A page key goes on to the next page where the shown one ends.
   const QScrollBar* bar = parts_.scrollArea()->verticalBar();
   const int key = static_cast<QKeyEvent*>(event)->key();

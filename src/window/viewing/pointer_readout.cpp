@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QMainWindow>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QToolButton>
 
 #include "base/localized_string.h"
@@ -30,6 +31,12 @@ class ReadoutField final : public QToolButton {
     return {width, QToolButton::sizeHint().height()};
   }
   [[nodiscard]] QSize minimumSizeHint() const override { return {0, QToolButton::sizeHint().height()}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    // Half a number is worse than none.
+    if (fontMetrics().horizontalAdvance(text()) <= width()) QToolButton::paintEvent(event);
+  }
 };
 
 }  // namespace

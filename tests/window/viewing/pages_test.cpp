@@ -1,6 +1,7 @@
 // Several pages: what is shown is what every command acts on.
 #include <QAction>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QSpinBox>
 
@@ -54,7 +55,7 @@ class PagesTest : public QObject {
     QCOMPARE(f.c.view()->imageRep()->page(), 1);
     QCOMPARE(f.c.view()->imageSize(), QSizeF(300, 400));
     QCOMPARE(f.c.view()->bounds(), QRectF(-150, -200, 300, 400));
-    QCOMPARE(f.c.epsMatrix->text(1, 0).toDouble(), 20.0);
+    QCOMPARE(f.c.epsMatrix->cellAtRow(1, 0)->text().toDouble(), 20.0);
     QCOMPARE(f.pageSwitch()->numberField()->value(), 2);
     f.action("previousPageAction")->trigger();
     QCOMPARE(f.pages.shown(), 0);

@@ -7,8 +7,12 @@
 #include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWindow>
 
 #include "kit/test_main.h"
+#include "ui/controls/number_field.h"
+#include "ui/controls/zy_form.h"
+#include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "window/viewing/pointer_readout.h"
@@ -111,6 +115,119 @@ class ViewingTest : public QObject {
     QTRY_VERIFY(!f.c.window()->isFullScreen());
     QVERIFY(f.c.toolbar->isVisible() && f.c.scrollArea()->horizontalBar()->isVisible());
     QVERIFY(f.c.menuBar->height() > 0);
+  }
+
+  void aFileThatChangesIsShownAgainWhereItWas() {
+    Shown f;
+    f.c.rotateChange(30);
+    f.c.zoomingScrollView()->zoomTo(2.0);
+    f.c.view()->selectBounds();
+    f.c.view()->resizeSelection({-80, -60});
+    const QRectF selected = f.c.view()->selectRect();
+    f.fixture.write(epsBytes().replace("A picture", "Another"), "a.eps");
+    f.c.fileDidChangeOnDisk();
+    QTRY_COMPARE(f.c.titleForm()->cellAtIndex(0)->text(), QString("Another"));
+    QVERIFY(f.c.messageBar()->message().isEmpty());
+    QCOMPARE(f.c.rotateField()->text(), QString("30.0000"));
+    QCOMPARE(f.c.zoomFactor(), 2.0);
+    QCOMPARE(f.c.view()->selectRect(), selected);
+    f.c.reload();  // which the user asked for: it starts over
+    QTRY_COMPARE(f.c.zoomFactor(), 1.0);
+    QCOMPARE(f.c.view()->rotate(), 0.0);
+  }
+
+  void reloadingByItselfIsAChoice() {
+    Shown f;
+    f.c.window()->findChild<QAction*>("reloadByItselfAction")->trigger();
+    f.fixture.write(epsBytes().replace("A picture", "Another"), "a.eps");
+    f.c.fileDidChangeOnDisk();
+    QCOMPARE(f.c.messageBar()->message(), QString("The file has changed on disk."));
+    QCOMPARE(f.c.titleForm()->cellAtIndex(0)->text(), QString("A picture"));
+  }
+
+  void aDragIsNotSpoiled() {
+    Shown f;
+    QVERIFY(f.c.view()->mouseDown());
+    f.c.view()->mouseDragged({10, 10});
+    f.c.fileDidChangeOnDisk();
+    QCOMPARE(f.c.messageBar()->message(), QString("The file has changed on disk."));
+  }
+
+  void whatCouldNotBeReadAgainIsForgotten() {
+    Shown f;
+    f.c.zoomingScrollView()->zoomTo(2.0);
+    f.fixture.write("nothing", "a.eps");
+    f.c.fileDidChangeOnDisk();
+    QTRY_VERIFY(f.c.messageBar()->message().endsWith("What is shown was read before."));
+    f.fixture.write(epsBytes(), "a.eps");
+    f.c.reload();
+    QTRY_COMPARE(f.c.zoomFactor(), 1.0);
+  }
+
+  void aSizeThatOnlyTheRuleGaveIsNotKept() {
+    Shown f;
+    const QSize shrunk = f.c.window()->size();
+    QVERIFY(shrunk.width() < 940);
+    f.c.window()->close();
+    MainWindowController next;
+    QCOMPARE(next.window()->size(), QSize(940, 760).boundedTo(next.window()->screen()->availableSize()));
+  }
+
+  void aSizeThatTheUserGaveIsKept() {
+    Shown f;
+    f.c.zoomingScrollView()->zoomTo(8.0);
+    f.c.window()->resize(612, 518);
+    f.c.window()->close();
+    MainWindowController next;
+    QCOMPARE(next.window()->size(), QSize(612, 518));
+  }
+
+  void aFreeWindowIsNeitherShrunkNorBounded() {
+    Shown f;
+    auto* fits = f.c.window()->findChild<QAction*>("windowFitsPictureAction");
+    QVERIFY(fits->isChecked());
+    fits->trigger();
+    f.c.window()->resize(700, 650);
+    f.c.zoomingScrollView()->zoomTo(0.25);
+    QCOMPARE(f.c.window()->size(), QSize(700, 650));
+    QCOMPARE(f.c.window()->maximumWidth(), QWIDGETSIZE_MAX);
+    fits->trigger();
+    QVERIFY(f.c.window()->width() < 700);
+  }
+
+  void aWindowThatWasPulledTooFarComesBack() {
+    Shown f;
+    f.c.setWindowSize();
+    const QSize most = f.c.window()->maximumSize();
+    const QPoint corner = f.c.window()->pos();
+    // As a window manager would, which is told of no bound.
+    f.c.window()->windowHandle()->resize(most + QSize(60, 40));
+    QTRY_COMPARE(f.c.window()->size(), most + QSize(60, 40));
+    QTRY_COMPARE(f.c.window()->size(), most);
+    QCOMPARE(f.c.window()->pos(), corner);
+  }
+
+  void theWindowManagerMayMaximise() {
+    Shown f;
+    f.c.setWindowSize();
+    QVERIFY(f.c.window()->maximumWidth() < QWIDGETSIZE_MAX);
+    QVERIFY(f.c.window()->windowHandle()->maximumWidth() > 100'000);
+  }
+
+  void aNarrowToolbarShowsItsIconsAlone() {
+    Shown f;
+    f.c.zoomingScrollView()->zoomTo(8.0);
+    const auto style = [&] {
+      return qobject_cast<QToolButton*>(f.c.toolbar->widgetForAction(f.c.copyToolbarItem))->toolButtonStyle();
+    };
+    f.c.window()->resize(780, 500);
+    QTRY_COMPARE(style(), Qt::ToolButtonTextBesideIcon);
+    f.c.window()->resize(420, 400);
+    QTRY_COMPARE(style(), Qt::ToolButtonIconOnly);
+    for (QAction* action : f.c.toolbar->actions())
+      if (!action->isSeparator()) QTRY_VERIFY(f.c.toolbar->widgetForAction(action)->isVisible());
+    f.c.window()->resize(780, 500);
+    QTRY_COMPARE(style(), Qt::ToolButtonTextBesideIcon);
   }
 
   void theUpperEdgeBringsTheBars() {

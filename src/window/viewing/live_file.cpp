@@ -1,0 +1,62 @@
+#include "window/viewing/live_file.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+
+#include <utility>
+
+#include "base/localized_string.h"
+#include "display/norvex_view.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/window_frames.h"
+#include "window/commands/window_parts.h"
+#include "window/viewing/pages_command.h"
+#include "window/viewing/selection_history.h"
+
+namespace norvex {
+namespace {
+
+const QString kByItself = QStringLiteral("views/reloadByItself");
+
+}  // namespace
+
+LiveFile::LiveFile(WindowParts& parts, PagesCommand& pages, QObject* parent)
+    : QObject(parent), parts_(parts), pages_(pages) {}
+
+QAction* LiveFile::makeAction() {
+  auto* action = new QAction(localizedString("Reload Changed Files b&y Itself"), parts_.mainWindow());
+  action->setObjectName(QStringLiteral("reloadByItselfAction"));
+  action->setCheckable(true);
+  action->setChecked(savedView(kByItself, true));
+  connect(action, &QAction::toggled, this, [](bool on) { saveView(kByItself, on); });
+  return action;
+}
+
+bool LiveFile::reloadsByItself() const {
+  if (!savedView(kByItself, true) || !parts_.validateUserInterfaceItem()) return false;
+  if (!parts_.mainWindow()->isVisible()) return false;
+  const bool busy = parts_.work().isUnderWay() || parts_.view()->selection().tracking() ||
+                    QApplication::activeModalWidget() || !parts_.mainWindow()->isEnabled();
+  return !busy;
+}
+
+void LiveFile::reloadInPlace(const std::function<void()>& reload) {
+  if (parts_.validateUserInterfaceItem())
+    place_ = Place{pages_.shown(), parts_.dialKnob()->degreeValue(), parts_.zoomFactor(),
+                   parts_.scrollArea()->scrollOffset(), parts_.view()->selectRect()};
+  reload();
+}
+
+void LiveFile::documentDidChange() {
+  const std::optional<Place> place = std::exchange(place_, std::nullopt);
+  if (!place || !parts_.validateUserInterfaceItem()) return;
+  pages_.show(place->page);
+  parts_.dialKnob()->turnTo(place->degrees);
+  parts_.zoomingScrollView()->zoomTo(place->zoom);
+  parts_.scrollArea()->setScrollOffset(place->offset);
+  if (!place->selected.isEmpty()) selectRectangle(*parts_.view(), place->selected);
+}
+
+}  // namespace norvex

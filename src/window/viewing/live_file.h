@@ -1,0 +1,51 @@
+// A file that others go on writing.
+#pragma once
+
+#include <QObject>
+#include <QPointF>
+#include <QRectF>
+
+#include <functional>
+#include <optional>
+
+class QAction;
+
+namespace norvex {
+
+class PagesCommand;
+class WindowParts;
+
+/// Shows the file again when it has become another one and is whole: by itself, or when the user says so, as
+/// was chosen once for all windows. Page, angle, zoom, place and selection stay. Not while something is done
+/// with the picture that the new one would spoil. Parts and pages outlive it. Main thread.
+class LiveFile final : public QObject {
+  Q_OBJECT
+ public:
+  LiveFile(WindowParts& parts, PagesCommand& pages, QObject* parent);
+
+  /// The choice as a menu item.
+  [[nodiscard]] QAction* makeAction();
+  /// Whether a changed file is to be shown again without a question, now.
+  [[nodiscard]] bool reloadsByItself() const;
+  /// Has `reload` read the file again, and puts the new picture where the old one was.
+  void reloadInPlace(const std::function<void()>& reload);
+  /// The file was read again, for whatever reason.
+  void documentDidChange();
+  /// It could not be: what is shown has stayed.
+  void documentDidStay() { place_.reset(); }
+
+ private:
+  struct Place {
+    int page = 0;
+    double degrees = 0;  ///< of the dial
+    double zoom = 1;
+    QPointF offset;
+    QRectF selected;
+  };
+
+  WindowParts& parts_;
+  PagesCommand& pages_;
+  std::optional<Place> place_;  ///< to come back to; nothing: nothing is being reloaded
+};
+
+}  // namespace norvex

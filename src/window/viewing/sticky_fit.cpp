@@ -1,0 +1,70 @@
+#include "window/viewing/sticky_fit.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QMainWindow>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/localized_string.h"
+#include "display/norvex_view.h"
+#include "display/skt_zooming_scroll_view.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/window_parts.h"
+
+namespace norvex {
+namespace {
+
+/// Of the factor: less is the rounding of the window to pixels, which would be followed for ever.
+constexpr double kSame = 0.004;
+
+}  // namespace
+
+StickyFit::StickyFit(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
+
+QAction* StickyFit::setUp(QAction& fit) {
+  auto* width = new QAction(localizedString("Fit &Width"), parts_.mainWindow());
+  width->setObjectName(QStringLiteral("fitWidthAction"));
+  width->setShortcut(Qt::CTRL | Qt::Key_8);
+  width->setEnabled(fit.isEnabled());
+  connect(&fit, &QAction::enabledChanged, width, &QAction::setEnabled);
+  connect(&fit, &QAction::triggered, this, [this] { keep(Kept::Whole); });
+  connect(width, &QAction::triggered, this, [this] { keep(Kept::Width); });
+  connect(parts_.zoomingScrollView(), &SKTZoomingScrollView::zoomingScrollViewFactorDidChange, this,
+          &StickyFit::zoomDidChange);
+  parts_.scrollArea()->installEventFilter(this);
+  return width;
+}
+
+double StickyFit::factor() const {
+  if (kept_ == Kept::Whole) return parts_.scrollArea()->fittingFactor();
+  const double width = parts_.view()->frame().width();
+  return width > 0 ? std::clamp(parts_.scrollArea()->contentSize().width() / width, 0.01, 16.0) : 1;
+}
+
+void StickyFit::keep(Kept kept) {
+  kept_ = kept;
+  fitAgain();
+}
+
+void StickyFit::zoomDidChange() {
+  if (!fitting_) kept_ = Kept::Nothing;
+}
+
+void StickyFit::fitAgain() {
+  if (kept_ == Kept::Nothing || fitting_ || !parts_.validateUserInterfaceItem()) return;
+  const QScopedValueRollback<bool> fitting(fitting_, true);
+  const double wanted = factor();
+  if (std::abs(wanted - parts_.zoomFactor()) > kSame * wanted) parts_.zoomingScrollView()->zoomTo(wanted);
+}
+
+bool StickyFit::eventFilter(QObject* watched, QEvent* event) {
+  // From the event loop: the scroll area lays itself out first.
+  if (event->type() == QEvent::Resize)
+    QMetaObject::invokeMethod(this, &StickyFit::fitAgain, Qt::QueuedConnection);
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace norvex

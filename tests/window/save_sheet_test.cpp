@@ -1,0 +1,85 @@
+// What is typed into the sheet of Save To and Save As, and where it opens.
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QSettings>
+#include <QTest>
+
+#include "desktop/memory_save_panel.h"
+#include "kit/test_main.h"
+#include "ui/panels/save_sheet.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+class SaveToFixture : public WindowFixture {
+ public:
+  MainWindowController& eps() {
+    MainWindowController& made = loadedEps();
+    made.setSavePanel(&panel);
+    return made;
+  }
+  MemorySavePanel panel;
+};
+
+void choose(MainWindowController& c, const QString& format) {
+  c.doSaveToPopUp->setCurrentText(format);
+}
+
+}  // namespace
+
+class SaveSheetTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void aTypedExtensionChoosesTheFormat() {
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    SavePanelSettings settings = f.panel.settings;
+    settings.directoryURL = QUrl::fromLocalFile(f.folder.path());
+    SaveSheet sheet(nullptr, settings);
+    auto* name = sheet.findChild<QLineEdit*>("fileNameEdit");
+    QVERIFY(name);
+    name->clear();
+    QTest::keyClicks(name, "out2.png");
+    QCOMPARE(name->text(), QString("out2.png"));
+    QCOMPARE(c.doSaveToPopUp->currentText(), QString("PNG image"));
+    QCOMPARE(settings.target(sheet.answer().url, -1).fileName(), QString("out2.png"));
+    choose(c, "GIF image");  // what is chosen last counts
+    QCOMPARE(settings.target(sheet.answer().url, -1).fileName(), QString("out2.gif"));
+    name->clear();
+    QTest::keyClicks(name, "Map 1.5");
+    QCOMPARE(c.doSaveToPopUp->currentText(), QString("GIF image"));
+  }
+
+  void aTypedExtensionChoosesTheTypeInASheetsOwnList() {
+    const QTemporaryDir folder;
+    SavePanelSettings settings;
+    settings.allowedContentTypes = {UTTypePDF(), UTTypePNG(), UTTypeJPEG()};
+    settings.allowsOtherFileTypes = false;
+    settings.selectedContentType = 0;
+    settings.directoryURL = QUrl::fromLocalFile(folder.path());
+    settings.nameFieldStringValue = "out";
+    SaveSheet sheet(nullptr, settings);
+    auto* name = sheet.findChild<QLineEdit*>("fileNameEdit");
+    name->clear();
+    QTest::keyClicks(name, "out.jpeg");
+    QCOMPARE(sheet.answer().contentType, 2);
+    QCOMPARE(name->text(), QString("out.jpeg"));
+  }
+
+  void aFirstSheetOpensBesideThePicture() {
+    QSettings().remove("SaveTo");
+    SaveToFixture f;
+    MainWindowController& c = f.eps();
+    c.doSaveTo();
+    QVERIFY(f.panel.settings.directoryURL.isEmpty());
+    SaveSheet sheet(nullptr, f.panel.settings);
+    QCOMPARE(QDir(sheet.directory()), QDir(f.folder.path()));
+  }
+};
+
+NORVEX_TEST(SaveSheetTest)
+#include "save_sheet_test.moc"

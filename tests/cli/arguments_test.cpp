@@ -40,6 +40,16 @@ class ArgumentsTest : public QObject {
     }
   }
 
+  void someOptionsMayBeGivenMoreThanOnce() {
+    const ReadArguments read =
+        readArguments({"info", "--recursive", "d", "--include", "*.a", "--include=*.b", "--exclude", "c"});
+    QCOMPARE(read.complaint, "");
+    QCOMPARE(read.arguments.lists.value(Option::Include), QStringList({"*.a", "*.b"}));
+    QCOMPARE(read.arguments.lists.value(Option::Exclude), QStringList({"c"}));
+    QVERIFY(read.arguments.asksForArchive());
+    QVERIFY(!readArguments({"info", "d"}).arguments.asksForArchive());
+  }
+
   void wrongUsage_data() {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QString>("complaint");

@@ -52,6 +52,13 @@ class ExpectedPicturesTest : public QObject {
     QCOMPARE(uint(expected(arguments).needs), needs);
   }
 
+  void aRunOverAnArchiveIsNoSinglePicture() {
+    const QStringList one{"convert", "a.svg", "--to", "x", "--format", "png"};
+    QVERIFY(expected(one).single);
+    QVERIFY(!expected(one + QStringList{"--files-from", "list"}).single);
+    QVERIFY(!expected(one + QStringList{"--json-lines"}).single);
+  }
+
   void aFormatIsExpectedAsItIsConverted() {
     for (const FormatRow& row : formatTable) {
       if (!isWritten(row)) continue;

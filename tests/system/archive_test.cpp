@@ -163,6 +163,15 @@ class ArchiveSystemTest : public QObject {
     QCOMPARE(differences(contentsOf(tree.path("out")), tree.undisturbed), QString());
   }
 
+  void theStateTellsTheMemoryOfEachPicture() {
+    const Tree tree(10);
+    const Ran told = kit::norvex({"status", tree.path("undisturbed.state"), "--json"});
+    const QJsonObject status = QJsonDocument::fromJson(told.out).object();
+    QCOMPARE(status.value("done").toInt(), 10);
+    QVERIFY2(status.value("memoryKiB").toInt() > 1024, told.out.constData());
+    QVERIFY2(status.value("memoryKiB").toInt() < 1024 * 1024, told.out.constData());
+  }
+
   void aFullDiskLeavesNothingHalfAndTheNextRunEndsAsAnUndisturbedOne() {
     const Tree tree(150);
     SmallDisk disk("200k");

@@ -13,6 +13,7 @@
 
 #include "base/file_descriptor.h"
 #include "base/file_name.h"
+#include "picture/process/peak_memory.h"
 #include "picture/told_error.h"
 #include "types/picture_format.h"
 
@@ -98,6 +99,7 @@ FileResult FileWork::run(const FileTask& task) const {
   result.number = task.number;
   result.path = task.name.path;
   result.entry = begunEntry(plan_, task);
+  const PeakMemory memory;
   const auto begun = std::chrono::steady_clock::now();
   FileAnswer answer;
   if (const auto made = plan_.outputs ? plan_.outputs->makeFoldersOf(task.output) : Result<void>(); !made) {
@@ -124,6 +126,7 @@ FileResult FileWork::run(const FileTask& task) const {
   if (cancel_.cancelled() && answer.code != ExitCode::Done) answer.code = ExitCode::Interrupted;
   judge(result, answer);
   result.entry.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begun).count();
+  result.entry.memoryKiB = memory.kib();
   result.entry.finished = QDateTime::currentSecsSinceEpoch();
   keepOutput(result, task, answer);
   return result;

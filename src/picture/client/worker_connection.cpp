@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <csignal>
 
+#include "picture/process/peak_memory.h"
 #include "protocol/limits.h"
 #include "protocol/process_end.h"
 #include "protocol/shared_errors.h"
@@ -86,6 +87,8 @@ bool WorkerConnection::learnProcess(QDeadlineTimer deadline) {
 
 void WorkerConnection::end() {
   if (!channel_.valid()) return;
+  PeakMemory* const peak = PeakMemory::ofThisThread();
+  if (peak && learnProcess(QDeadlineTimer(0))) peak->note(process_.pid);
   // A process that behaves ends by itself when the line is cut.
   channel_ = MessageChannel();
   if (learnProcess(QDeadlineTimer(limits::processFarewell)))

@@ -83,7 +83,7 @@ Result<Database> Database::open(const QByteArray& path, bool mayCreate) {
   if (code != SQLITE_OK) return database.error();
   ::sqlite3_extended_result_codes(opened, 1);
   ::sqlite3_busy_timeout(opened, patience);
-  if (!database.run("PRAGMA cache_size = -2048")) return database.error();
+  if (!database.run("PRAGMA cache_size = -1024")) return database.error();
   return database;
 }
 

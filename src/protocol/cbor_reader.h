@@ -90,6 +90,19 @@ class CborReader {
     fields(inner, value);
     require(inner.complete());
   }
+  /// Maps one after the other, each read as nested() reads one.
+  template <typename T>
+  void records(Key key, QList<T>& list, qsizetype maximumCount) {
+    list.clear();
+    for (const QCborValue& value : array(key, maximumCount)) {
+      require(value.isMap());
+      CborReader inner(value.toMap());
+      T element;
+      fields(inner, element);
+      require(inner.complete());
+      list.append(element);
+    }
+  }
   /// What must be true of the values, or the map is wrong.
   void require(bool condition) { failed_ = failed_ || !condition; }
 

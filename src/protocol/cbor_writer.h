@@ -66,6 +66,16 @@ class CborWriter {
     fields(inner, value);
     map_.insert(key, inner.map_);
   }
+  template <typename T>
+  void records(Key key, const QList<T>& list, qsizetype maximumCount) {
+    QCborArray array;
+    for (const T& element : list.mid(0, maximumCount)) {
+      CborWriter inner;
+      fields(inner, element);
+      array.append(inner.map_);
+    }
+    map_.insert(key, array);
+  }
   void require(bool) {}
 
  private:

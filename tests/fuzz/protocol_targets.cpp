@@ -11,6 +11,7 @@
 #include "protocol/cbor_reader.h"
 #include "protocol/cbor_writer.h"
 #include "protocol/limits.h"
+#include "protocol/page_contents.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex::fuzz {
@@ -32,6 +33,27 @@ bool replies(const QByteArray& bytes) {
   require(quint32(again.size()) <= limits::maximumMessageBytes, "a reply is within its limit");
   require(decodeReply(again).ok(), "what was read can be sent and read again");
   return true;
+}
+
+/// The larger of the two answers to an examination.
+bool pageContents(const QByteArray& bytes) {
+  const auto page = decodePageContents(bytes);
+  if (!page) return decodeDrawnInk(bytes).ok();
+  require(page->fonts.size() <= limits::maximumNames, "lists keep their length");
+  require(decodePageContents(encodePageContents(*page)).ok(), "what was read can be sent and read again");
+  return true;
+}
+
+QList<QByteArray> pageContentsSeeds() {
+  PageContents page;
+  page.size = QSizeF(200, 100);
+  page.fonts = {{"Helvetica", "Type1", true, false, true}};
+  page.images = {UsedImage()};
+  page.thinnestLine = Measured{0.1, QRectF(1, 2, 3, 4)};
+  page.rgb = QRectF(1, 2, 3, 4);
+  page.claims = {"PDF/X-4"};
+  return {encodePageContents(page),
+          encodeDrawnInk({QRectF(1, 2, 3, 4), std::nullopt, QRectF(0, 0, 9, 9), 0.1})};
 }
 
 /// A value of every form that a field has.
@@ -164,6 +186,7 @@ QList<QByteArray> fieldSeeds() {
 QList<Target> protocolTargets() {
   return {{"messages", messages, messageSeeds},
           {"replies", replies, replySeeds},
+          {"page_contents", pageContents, pageContentsSeeds},
           {"cbor_fields", cborFields, fieldSeeds, 1000}};
 }
 

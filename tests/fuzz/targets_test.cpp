@@ -71,6 +71,7 @@ class TargetsTest : public QObject {
     for (const char* name : {"messages",
                              "replies",
                              "cbor_fields",
+                             "page_contents",
                              "svg_inspection",
                              "gzip_inflate",
                              "font_thinning",

@@ -57,6 +57,10 @@ QString missingFontSentence(const QString& font, const QString& standIn) {
                            : QStringLiteral("the font %1 is missing, %2 stands in for it").arg(font, standIn);
 }
 
+bool isMissingFontSentence(const QString& sentence) {
+  return sentence.startsWith(u"the font ") && sentence.contains(u" is missing, ");
+}
+
 QStringList missingFamilies(const QList<QStringList>& lists) {
   QStringList sentences;
   for (const QStringList& list : lists) {

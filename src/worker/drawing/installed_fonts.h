@@ -10,6 +10,9 @@ namespace norvex::engine {
 /// How it is told that a font is missing. `standIn` null: it is not known which font is used.
 [[nodiscard]] QString missingFontSentence(const QString& font, const QString& standIn = {});
 
+/// Whether a sentence is one of missingFontSentence().
+[[nodiscard]] bool isMissingFontSentence(const QString& sentence);
+
 /// For each list of families of which none is installed, one sentence about the first: the rest of a list is
 /// the author's own choice of what stands in. Generic names ("serif") are always there. At most
 /// limits::maximumWarnings.

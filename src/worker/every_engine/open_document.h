@@ -5,6 +5,7 @@
 
 #include "protocol/picture_needs.h"
 #include "worker/engine/engine.h"
+#include "worker/examine/page_examination.h"
 #include "worker/pages/compose_page.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/postscript/eps_engine.h"
@@ -27,6 +28,7 @@ Result<std::unique_ptr<DocumentEngine>> openOffered(PictureKind kind, const QByt
     if constexpr ((offers & NeedSvgPdf) != 0) {
       vectors.toPdf = svgToPdf;
       vectors.effectsDpi = svgEffectsDpi;
+      vectors.contents = onlyPageContents;
     }
     if constexpr ((offers & NeedSvgParts) != 0) vectors.compose = composePage;
     if (kind == PictureKind::Svg) return openSvgWith(vectors, bytes, context);

@@ -2,7 +2,10 @@
 
 // The engine of PDF documents and of Illustrator files that are PDF inside.
 #include "protocol/every_page.h"
+#include "protocol/page_contents.h"
 #include "worker/drawing/installed_fonts.h"
+#include "worker/examine/ink_box.h"
+#include "worker/examine/page_examination.h"
 #include "worker/pages/actions_left_out.h"
 #include "worker/pages/compose_page.h"
 #include "worker/pdf/compose_pdf.h"
@@ -59,9 +62,32 @@ class PdfEngine final : public DocumentEngine {
     return result;
   }
 
+  Result<EngineBytes> examine(const ExamineRequest& request) override {
+    const Result<QSizeF> size = shownSize(request.page);
+    if (!size) return size.error();
+    if (request.what == Examination::Contents) return contents(request.page);
+    if (request.what == Examination::Drawn) return drawn(request.page, *size);
+    return DocumentEngine::examine(request);
+  }
+
   [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_; }
 
  private:
+  [[nodiscard]] Result<EngineBytes> contents(int page) {
+    return guarded([&]() -> Result<EngineBytes> {
+      PageContents contents = pageContents(*file_, shownPageOf(*file_, page), context_.cancel);
+      contents.remarks = facts_.warnings;
+      return EngineBytes{encodePageContents(contents), {}};
+    });
+  }
+
+  [[nodiscard]] Result<EngineBytes> drawn(int page, QSizeF size) {
+    const Result<DrawnInk> ink =
+        findInk(QRectF(QPointF(0, 0), size), page, [&](const RenderRequest& part) { return render(part); });
+    if (!ink) return ink.error();
+    return EngineBytes{encodeDrawnInk(*ink), {}};
+  }
+
   void noteMissingFonts(int page) {
     if (page < 0 || page >= file_->pageCount() || fontsOfPage_ == page) return;
     fontsOfPage_ = page;

@@ -4,6 +4,10 @@
 // is to be drawn, and from then on the picture is a PDF.
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_program.h"
+#include "protocol/page_contents.h"
+#include "worker/drawing/installed_fonts.h"
+#include "worker/examine/ink_box.h"
+#include "worker/examine/page_examination.h"
 #include "worker/pages/compose_page.h"
 #include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_file.h"
@@ -12,10 +16,16 @@
 #include "worker/postscript/distill.h"
 #include "worker/postscript/tile_seams.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace norvex::engine {
 namespace {
+
+/// Points on each side of the box in which ink is looked for that the box does not tell of.
+double surroundingsOf(const QRectF& box) {
+  return std::clamp(std::max(box.width(), box.height()) / 2, 144.0, 1000.0);
+}
 
 class EpsEngine final : public DocumentEngine {
  public:
@@ -58,7 +68,52 @@ class EpsEngine final : public DocumentEngine {
     return result;
   }
 
+  Result<EngineBytes> examine(const ExamineRequest& request) override {
+    if (request.what != Examination::Contents && request.what != Examination::Drawn)
+      return DocumentEngine::examine(request);
+    if (const Result<void> ready = prepareSurroundings(request.page); !ready) return ready.error();
+    return request.what == Examination::Contents ? contents() : drawn();
+  }
+
  private:
+  // Distils once more, with what lies around the box. Unlike the picture it is not needed for long.
+  [[nodiscard]] Result<void> prepareSurroundings(int page) {
+    if (page != 0) return noSuchPage(page, 1);
+    if (surroundings_) return {};
+    const double margin = surroundingsOf(box_);
+    Result<Distilled> distilled =
+        distill(epsProgram(bytes_), box_.adjusted(-margin, -margin, margin, margin), context_);
+    if (!distilled) return distilled.error();
+    surroundings_ = std::move(*distilled);
+    surroundingsRenderer_.emplace(surroundings_->pdf);
+    return {};
+  }
+
+  [[nodiscard]] Result<EngineBytes> contents() {
+    const auto file = PdfFile::open(surroundings_->pdf);
+    if (!file) return file.error();
+    return guarded([&]() -> Result<EngineBytes> {
+      const double margin = surroundingsOf(box_);
+      const ExaminedPage page{0, AffineTransform::fromTranslate(-margin, -margin), box_.size()};
+      PageContents contents = pageContents(**file, page, context_.cancel);
+      for (const QString& warning : surroundings_->warnings)
+        (isMissingFontSentence(warning) ? contents.missingFonts : contents.remarks) << warning;
+      return EngineBytes{encodePageContents(contents), {}};
+    });
+  }
+
+  [[nodiscard]] Result<EngineBytes> drawn() {
+    const double margin = surroundingsOf(box_);
+    const QRectF area(-margin, -margin, box_.width() + 2 * margin, box_.height() + 2 * margin);
+    const auto draw = [&](RenderRequest part) {
+      part.pictureToDevice = AffineTransform::fromTranslate(-margin, -margin) * part.pictureToDevice;
+      return surroundingsRenderer_->render(part, area.size(), context_.limits);
+    };
+    const Result<DrawnInk> ink = findInk(area, 0, draw);
+    if (!ink) return ink.error();
+    return EngineBytes{encodeDrawnInk(*ink), {}};
+  }
+
   // Distils at the first call. A failure that lies in the document is remembered: it would fail again.
   [[nodiscard]] Result<void> prepare(int page) {
     if (page != 0) return noSuchPage(page, 1);
@@ -80,6 +135,8 @@ class EpsEngine final : public DocumentEngine {
   std::optional<Distilled> distilled_;
   std::optional<Error> failure_;
   std::optional<PdfRenderer> renderer_;
+  std::optional<Distilled> surroundings_;  ///< the program within a larger box
+  std::optional<PdfRenderer> surroundingsRenderer_;
 };
 
 }  // namespace

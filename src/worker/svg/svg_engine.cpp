@@ -13,6 +13,7 @@
 #include "types/gzip_mark.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/installed_fonts.h"
+#include "worker/examine/ink_box.h"
 #include "worker/svg/gzip_inflate.h"
 #include "worker/svg/svg_cut.h"
 #include "worker/svg/svg_inspection.h"
@@ -27,6 +28,12 @@ namespace {
 /// The lower of two resolutions that are known.
 double coarser(double one, double other) {
   return one > 0 && other > 0 ? std::min(one, other) : std::max(one, other);
+}
+
+/// Whether a length says how long it is on paper.
+bool hasUnit(const QString& length) {
+  const QString text = length.trimmed();
+  return !text.isEmpty() && text.back().isLetter();
 }
 
 class SvgEngine final : public DocumentEngine {
@@ -49,9 +56,11 @@ class SvgEngine final : public DocumentEngine {
   Result<EngineBytes> pdf(const PdfRequest& request) override;
   Result<EngineBytes> compose(const ComposeRequest& request) override;
   Result<EngineBytes> svg(const SvgRequest& request) override;
+  Result<EngineBytes> examine(const ExamineRequest& request) override;
 
  private:
   Result<void> start(int page) const;
+  Result<PageContents> contents();
   Result<const SvgRenderer*> renderer();
   [[nodiscard]] QSizeF points() const { return pixels_ * pointsPerPixel; }
   // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
@@ -248,6 +257,38 @@ Result<EngineBytes> SvgEngine::compose(const ComposeRequest& request) {
     composed->report.warnings = whole->report.warnings + composed->report.warnings;
   }
   return composed;
+}
+
+// What SVG itself says stands beside what its PDF holds.
+Result<PageContents> SvgEngine::contents() {
+  const Result<EngineBytes> made = pdf({});
+  if (!made) return made.error();
+  Result<PageContents> found = vectors_.contents(made->bytes, context_.cancel);
+  if (!found) return found.error();
+  found->size = points();
+  found->fonts.clear();  // the PDF's own, not the document's
+  if (inspection_.filters + inspection_.masks > 0) found->images.clear();  // some of them are ours
+  found->missingFonts = drawingRemarks();
+  found->outsideReferences = inspection_.outsideReferences;
+  found->filters = inspection_.filters;
+  found->runsSomething = inspection_.hasScript || inspection_.hasAnimation;
+  found->sizeWithoutUnit = !hasUnit(inspection_.rootAttributes.value(QStringLiteral("width"))) ||
+                           !hasUnit(inspection_.rootAttributes.value(QStringLiteral("height")));
+  return found;
+}
+
+Result<EngineBytes> SvgEngine::examine(const ExamineRequest& request) {
+  if (const Result<void> may = start(request.page); !may) return may.error();
+  if (request.what == Examination::Contents && vectors_.contents) {
+    const Result<PageContents> found = contents();
+    if (!found) return found.error();
+    return EngineBytes{encodePageContents(*found), {}};
+  }
+  if (request.what != Examination::Drawn) return DocumentEngine::examine(request);
+  const Result<DrawnInk> ink =
+      findInk(QRectF(QPointF(0, 0), points()), 0, [&](const RenderRequest& part) { return render(part); });
+  if (!ink) return ink.error();
+  return EngineBytes{encodeDrawnInk(*ink), {}};
 }
 
 Result<EngineBytes> SvgEngine::svg(const SvgRequest& request) {

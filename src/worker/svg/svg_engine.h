@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "base/result.h"
+#include "protocol/page_contents.h"
 #include "worker/engine/engine.h"
 #include "worker/svg/svg_pdf.h"
 #include "worker/svg/svg_renderer.h"
@@ -25,6 +26,8 @@ struct SvgVectors {
   double (*effectsDpi)(const QSizeF& pixels, const SvgImageEffects& effects) = nullptr;
   Result<EngineBytes> (*compose)(const QByteArray& pdf, const ComposeRequest& request,
                                  EngineContext& context) = nullptr;
+  /// What is in a PDF of toPdf. Goes with it.
+  Result<PageContents> (*contents)(const QByteArray& pdf, const CancelToken& cancel) = nullptr;
 };
 
 /// openSvg() with these vectors.

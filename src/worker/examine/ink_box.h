@@ -1,0 +1,26 @@
+// The rectangle that a picture really inks, found in its pixels.
+#pragma once
+
+#include <QRectF>
+
+#include <functional>
+
+#include "base/result.h"
+#include "protocol/page_contents.h"
+#include "protocol/worker_protocol.h"
+#include "worker/drawing/bitmap.h"
+
+namespace norvex::engine {
+
+/// Draws what a request asks for, unpainted pixels transparent.
+using DrawPart = std::function<Result<Bitmap>(const RenderRequest& request)>;
+
+/// Looks at `area` (picture coordinates) coarsely, then sharply along the four edges of what was found.
+/// `page`: of the requests. Fails as `draw` does.
+[[nodiscard]] Result<DrawnInk> findInk(const QRectF& area, int page, const DrawPart& draw);
+
+/// The smallest rectangle around pixels that are neither transparent nor white; empty without any. With
+/// `white`, around those that are not transparent.
+[[nodiscard]] QRect inkedPixels(const Bitmap& bitmap, bool white = false);
+
+}  // namespace norvex::engine

@@ -37,6 +37,10 @@ ExitCode Job::dispatch(const Arguments& arguments) {
       return preview(arguments);
     case Command::Convert:
       return convert(arguments);
+    case Command::Check:
+      return check(arguments);
+    case Command::Repair:
+      return repair(arguments);
     case Command::Print:
       return print(arguments);
     case Command::Status:

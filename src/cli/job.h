@@ -11,10 +11,12 @@
 #include "cli/conversion.h"
 #include "cli/convert_plan.h"
 #include "cli/document_info.h"
-#include "cli/exit_code.h"
+#include "cli/arguments/exit_code.h"
 #include "picture/process/picture_process.h"
 
 namespace norvex {
+
+struct CheckedPicture;
 
 /// Does what arguments ask for. Everything that the command line can do is here, so that tests drive it
 /// without a program. The console and the service are borrowed and must outlive the job. Main thread only;
@@ -51,6 +53,9 @@ class Job {
   ExitCode preview(const Arguments& arguments);
   ExitCode thumbnail(const Arguments& arguments);
   ExitCode convert(const Arguments& arguments);
+  ExitCode check(const Arguments& arguments);
+  ExitCode reportChecks(const Arguments& arguments, const QFuture<CheckedPicture>& checks);
+  ExitCode repair(const Arguments& arguments);
   ExitCode reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions);
   /// Tells what became of one file; of one that goes to standard output, writes it.
   ExitCode reportConversion(const ConvertPlan& plan, const ConvertTask& task, const Conversion& conversion);

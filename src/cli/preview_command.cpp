@@ -9,9 +9,9 @@
 #include "base/time_limit.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
-#include "cli/previews/embedded_preview.h"
 #include "cli/value_reader.h"
 #include "picture/bitmap_image.h"
+#include "picture/embedded_preview.h"
 
 namespace norvex {
 namespace {

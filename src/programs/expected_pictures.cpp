@@ -141,7 +141,8 @@ ExpectedPictures expectedPictures(int argc, const char* const* argv) {
   if (*command == Command::Convert) return expectedConversions(run);
   ExpectedPictures expected;
   if (*command == Command::Preview) return expected;
-  for (const Text file : run.files) expected.needs |= needsOfFile(file, PictureUse::Drawing);
+  const PictureUse use = *command == Command::Check ? PictureUse::WholePdf : PictureUse::Drawing;
+  for (const Text file : run.files) expected.needs |= needsOfFile(file, use);
   return expected;
 }
 
@@ -149,7 +150,8 @@ bool expectPostScript(int argc, const char* const* argv) {
   const auto command = commandNamed(argc > 1 ? argv[1] : "");
   // A window is given files alone, where a command stands in front of its own.
   const Command given = command.value_or(Command::Main);
-  const bool draws = given == Command::Convert || given == Command::Thumbnail;
+  const bool draws = given == Command::Convert || given == Command::Check || given == Command::Repair ||
+                     given == Command::Thumbnail;
   if (command && rowOf(given).isLight && !draws) return false;
   const Reading run(given, argc, argv);
   return std::any_of(run.files.begin(), run.files.end(),

@@ -17,6 +17,7 @@ struct Target {
 
 // One list for each source of that name in this folder, which is a fuzzer of its own: fuzz_protocol …
 [[nodiscard]] QList<Target> argumentsTargets();
+[[nodiscard]] QList<Target> checkTargets();
 [[nodiscard]] QList<Target> fontsTargets();
 [[nodiscard]] QList<Target> metadataTargets();
 [[nodiscard]] QList<Target> pdfTargets();

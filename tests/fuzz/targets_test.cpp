@@ -17,9 +17,9 @@ using fuzz::Target;
 namespace {
 
 const QList<Target>& allTargets() {
-  static const QList<Target> all = fuzz::argumentsTargets() + fuzz::fontsTargets() + fuzz::metadataTargets() +
-                                   fuzz::pdfTargets() + fuzz::printTargets() + fuzz::protocolTargets() +
-                                   fuzz::svgTargets() + fuzz::tiffTargets();
+  static const QList<Target> all = fuzz::argumentsTargets() + fuzz::checkTargets() + fuzz::fontsTargets() +
+                                   fuzz::metadataTargets() + fuzz::pdfTargets() + fuzz::printTargets() +
+                                   fuzz::protocolTargets() + fuzz::svgTargets() + fuzz::tiffTargets();
   return all;
 }
 
@@ -72,6 +72,9 @@ class TargetsTest : public QObject {
                              "replies",
                              "cbor_fields",
                              "page_contents",
+                             "eps_rules",
+                             "eps_repair",
+                             "profile",
                              "svg_inspection",
                              "gzip_inflate",
                              "font_thinning",

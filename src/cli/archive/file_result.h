@@ -8,7 +8,7 @@
 
 #include "cli/archive/names/listed_name.h"
 #include "cli/archive/state/run_entry.h"
-#include "cli/exit_code.h"
+#include "cli/arguments/exit_code.h"
 
 namespace norvex {
 

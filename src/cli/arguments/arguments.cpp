@@ -131,11 +131,12 @@ QString complaintAbout(const Arguments& arguments) {
     return wrong;
   if (arguments.files.count(QStringLiteral("-")) > 1)
     return QStringLiteral("standard input can be read only once");
-  if (arguments.command == Command::Preview && !arguments.has(Option::Output))
-    return QStringLiteral("no output is given (-o OUT)");
+  const bool writes = arguments.command == Command::Preview || arguments.command == Command::Repair;
+  if (writes && !arguments.has(Option::Output)) return QStringLiteral("no output is given (-o OUT)");
   if (arguments.command == Command::Preview && arguments.has(Option::Folder))
     return QStringLiteral("-o takes one file, --to DIR takes several");
-  if (arguments.command != Command::Convert && arguments.has(Option::Jobs))
+  const bool takesJobs = arguments.command == Command::Convert || arguments.command == Command::Check;
+  if (!takesJobs && arguments.has(Option::Jobs))
     return QStringLiteral("--jobs goes with --files-from, --recursive or --state");
   return {};
 }

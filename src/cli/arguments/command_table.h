@@ -12,7 +12,7 @@
 
 namespace norvex {
 
-enum class Command { Main, Info, Source, Preview, Convert, Print, Status, Thumbnail };
+enum class Command { Main, Info, Source, Preview, Convert, Print, Status, Thumbnail, Check, Repair };
 
 /// What follows a command besides options.
 struct CommandRow {
@@ -31,6 +31,8 @@ enum class Option {
   SandboxStatus,
   Completion,
   Json,
+  Profile,
+  Preview,
   Output,
   Folder,
   Format,
@@ -86,6 +88,11 @@ inline constexpr Commands openingCommands = only(Command::Info) | only(Command::
 /// that a command gets lists, trees, states and the rest by standing here.
 inline constexpr Commands archiveCommands =
     only(Command::Info) | only(Command::Preview) | only(Command::Convert);
+inline constexpr Commands everyCommand = (only(Command::Print) << 1) - 1;
+/// Those that have a picture process open a document.
+inline constexpr Commands openingCommands = only(Command::Info) | only(Command::Source) |
+                                            only(Command::Convert) | only(Command::Check) |
+                                            only(Command::Repair) | only(Command::Print);
 
 /// A command takes the options of its own rows.
 struct OptionRow {
@@ -107,6 +114,10 @@ inline constexpr auto commandTable = std::to_array<CommandRow>({
     {Command::Preview, "preview", "FILE -o OUT", 1, 1, true, "write the embedded preview as PNG"},
     {Command::Convert, "convert", "FILE... (-o OUT | --to DIR)", 1, -1, true,
      "write the pictures in another format"},
+    {Command::Check, "check", "FILE...", 1, -1, true,
+     "tell what is wrong with the files, and what is in them for print"},
+    {Command::Repair, "repair", "FILE -o OUT", 1, 1, true,
+     "mend an EPS file around its program: boxes, comments, preview"},
     {Command::Print, "print", "FILE (--printer NAME | -o OUT.pdf)", 1, 1, false,
      "print the picture, as vectors"},
     {Command::Status, "status", "STATE", 1, -1, true, "tell how far a run with --state has come"},
@@ -119,6 +130,16 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Output, only(Command::Preview) | only(Command::Convert) | only(Command::Print), 'o', "output",
      "OUT", "", "the file to write; - is standard output"},
     {Option::Folder, only(Command::Convert) | only(Command::Preview), 0, "to", "DIR", "",
+    {Option::Profile, only(Command::Check), 0, "profile", "P", "",
+     "limits and severities: print, journal, web, archive, or a TOML file"},
+    {Option::Preview, only(Command::Repair), 0, "preview", "USE", "keep drop rebuild",
+     "what becomes of the preview (keep)"},
+    {Option::Json, only(Command::Info) | only(Command::Convert) | only(Command::Check), 0, "json", "", "",
+     "one JSON array with an object for each file"},
+    {Option::Output,
+     only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Print), 'o',
+     "output", "OUT", "", "the file to write; - is standard output"},
+    {Option::Folder, only(Command::Convert), 0, "to", "DIR", "",
      "the folder to write each file to, under its own name"},
     {Option::Format, only(Command::Convert), 0, "format", "F", writtenFormatNames.text(),
      "the format; without it the extension of OUT decides"},
@@ -135,12 +156,15 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::KeepActions, only(Command::Convert), 0, "keep-actions", "", "",
      "keep the scripts and actions of a PDF in the PDF made of it"},
     {Option::Jobs, only(Command::Convert) | archiveCommands, 0, "jobs", "N", "",
+    {Option::Jobs, only(Command::Convert) | only(Command::Check), 0, "jobs", "N", "",
      "files at a time (as many as there are cores)"},
     {Option::Timeout, openingCommands, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
     {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},
-    {Option::Force, only(Command::Preview) | only(Command::Convert) | only(Command::Print), 'f', "force", "",
-     "", "overwrite a file that exists"},
-    {Option::Quiet, only(Command::Convert), 'q', "quiet", "", "", "tell nothing but errors"},
+    {Option::Force,
+     only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Print), 'f',
+     "force", "", "", "overwrite a file that exists"},
+    {Option::Quiet, only(Command::Convert) | only(Command::Repair), 'q', "quiet", "", "",
+     "tell nothing but errors"},
     {Option::Printer, only(Command::Print), 0, "printer", "NAME", "", "the printer that prints it"},
     {Option::HeaderFooter, only(Command::Print), 0, "header-footer", "", "",
      "the date above the picture and the file's location below it, on every page"},

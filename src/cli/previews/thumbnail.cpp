@@ -6,7 +6,7 @@
 #include <chrono>
 
 #include "base/time_limit.h"
-#include "cli/previews/embedded_preview.h"
+#include "picture/embedded_preview.h"
 #include "picture/bitmap_image.h"
 
 namespace norvex {

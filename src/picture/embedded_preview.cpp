@@ -1,4 +1,4 @@
-#include "cli/previews/embedded_preview.h"
+#include "picture/embedded_preview.h"
 
 #include "metadata/eps_header.h"
 #include "metadata/other_preview.h"

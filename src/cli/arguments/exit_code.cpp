@@ -1,4 +1,4 @@
-#include "cli/exit_code.h"
+#include "cli/arguments/exit_code.h"
 
 #include <algorithm>
 

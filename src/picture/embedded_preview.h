@@ -12,7 +12,7 @@
 
 namespace norvex {
 
-/// What stands in an EPS file as a preview; nothing when there is none. A TIFF is decoded by a picture
+/// The preview of an EPS file; nothing when there is none. A TIFF is decoded by a picture
 /// process, for which this blocks; no PostScript is run. Thread-safe.
 [[nodiscard]] Result<std::optional<NSBitmapImageRep>> embeddedPreview(
     PictureService& service, const QByteArray& bytes, const CancelToken& cancel = {},

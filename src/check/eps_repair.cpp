@@ -1,0 +1,209 @@
+#include "check/eps_repair.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+#include "check/eps_structure_rules.h"
+#include "check/file_wrapping.h"
+#include "check/program_lines.h"
+#include "metadata/eps_lines.h"
+#include "metadata/eps_program.h"
+
+namespace norvex {
+namespace {
+
+constexpr QByteArrayView kFirstLine("%!PS-Adobe-3.0 EPSF-3.0");
+/// Points by which white may miss the edge of a box that it fills.
+constexpr double kNear = 1.5;
+
+QByteArray endOf(const ProgramLine& line) {
+  return line.end == LineEnd::Cr ? "\r" : line.end == LineEnd::CrLf ? "\r\n" : "\n";
+}
+
+bool isProperFirstLine(QByteArrayView line) {
+  static const QRegularExpression form(QStringLiteral("^%!PS-Adobe-[123]\\.[01]\\s+EPSF-[123]\\.[02]\\s*$"));
+  return line.size() < 200 && form.match(QString::fromLatin1(line)).hasMatch();
+}
+
+bool isBox(const ProgramLine& line) {
+  return isComment(line, "%%BoundingBox") || isComment(line, "%%HiResBoundingBox");
+}
+
+QByteArray wholeNumbers(const QRectF& box) {
+  const double slack = 0.001;  // what was computed as a whole number stays one
+  QByteArrayList numbers;
+  for (const double n : {std::floor(box.left() + slack), std::floor(box.top() + slack),
+                         std::ceil(box.right() - slack), std::ceil(box.bottom() - slack)})
+    numbers << QByteArray::number(qint64(n));
+  return numbers.join(' ');
+}
+
+QByteArray realNumbers(const QRectF& box) {
+  QByteArrayList numbers;
+  for (const double n : {box.left(), box.top(), box.right(), box.bottom()}) {
+    QByteArray text = QByteArray::number(n, 'f', 3);
+    while (text.endsWith('0')) text.chop(1);
+    if (text.endsWith('.')) text.chop(1);
+    numbers << (text == "-0" ? QByteArray("0") : text);
+  }
+  return numbers.join(' ');
+}
+
+/// One program being put together.
+class Mending {
+ public:
+  Mending(const QByteArray& program, const QRectF& box)
+      : program_(program), lines_(programLines(program)), box_(box) {
+    if (!lines_.isEmpty()) newline_ = endOf(lines_.first());
+  }
+
+  EpsRepair run(bool dropPreview) {
+    writeHeader();
+    writeBody(dropPreview);
+    return std::move(result_);
+  }
+
+ private:
+  void changed(const QString& sentence) {
+    if (!result_.changes.contains(sentence)) result_.changes << sentence;
+  }
+  void write(QByteArrayView line) { result_.program.append(line).append(newline_); }
+
+  void writeHeader() {
+    const bool hasFirst = !lines_.isEmpty() && lines_.first().text.startsWith("%!");
+    if (hasFirst && isProperFirstLine(lines_.first().text)) {
+      write(lines_.first().text);
+    } else {
+      write(kFirstLine);
+      changed(QStringLiteral("the first line is %!PS-Adobe-3.0 EPSF-3.0"));
+    }
+    writeBoxes();
+    bool ended = false;
+    for (body_ = hasFirst ? 1 : 0; body_ < lines_.size() && isHeader(lines_[body_]); ++body_) {
+      const ProgramLine& line = lines_[body_];
+      ended = isComment(line, "%%EndComments");
+      if (ended || beginsSection(line)) break;
+      if (!isBox(line)) append(line, body_);
+    }
+    if (ended)
+      ++body_;
+    else
+      changed(QStringLiteral("%%EndComments was put in"));
+    write("%%EndComments");
+  }
+
+  /// Data within the header are of it.
+  [[nodiscard]] bool isHeader(const ProgramLine& line) const {
+    const bool data = line.part == LinePart::Data && body_ > 0 && isHeaderData_;
+    isHeaderData_ = line.part == LinePart::Header;
+    return line.part == LinePart::Header || data;
+  }
+
+  void writeBoxes() {
+    write(QByteArray("%%BoundingBox: ") + wholeNumbers(box_));
+    write(QByteArray("%%HiResBoundingBox: ") + realNumbers(box_));
+    QByteArray before;
+    for (const ProgramLine& line : lines_)
+      if (line.part == LinePart::Header && isBox(line)) before += line.text.toByteArray().simplified() + '\n';
+    const QByteArray now = QByteArray("%%BoundingBox: ") + wholeNumbers(box_) +
+                           "\n%%HiResBoundingBox: " + realNumbers(box_) + '\n';
+    if (before != now)
+      changed(QStringLiteral("the bounding box is ") + QString::fromLatin1(wholeNumbers(box_)) +
+              QStringLiteral(" (") + QString::fromLatin1(realNumbers(box_)) + u')');
+  }
+
+  /// Where the trailer's comments begin: at %%Trailer, at %%EOF where there is none, at the end.
+  [[nodiscard]] qsizetype trailerLine() const {
+    for (const char* keyword : {"%%Trailer", "%%EOF"})
+      for (qsizetype i = lines_.size() - 1; i >= body_; --i)
+        if (lines_[i].part == LinePart::Program && isComment(lines_[i], keyword)) return i;
+    return lines_.size();
+  }
+
+  void writeBody(bool dropPreview) {
+    const qsizetype trailer = trailerLine();
+    for (qsizetype i = body_; i < trailer; ++i) {
+      const ProgramLine& line = lines_[i];
+      const bool isPreview = line.part == LinePart::Preview || isComment(line, "%%BeginPreview");
+      if (dropPreview && isPreview && line.part != LinePart::Embedded) {
+        changed(QStringLiteral("the preview was left out"));
+        continue;
+      }
+      // A second end of the header is no part of the drawing.
+      if (line.part == LinePart::Program && isComment(line, "%%EndComments")) {
+        changed(QStringLiteral("a second %%EndComments was left out"));
+        continue;
+      }
+      append(line, i);
+    }
+    if (!showsPage(lines_)) {
+      endLine();
+      write("showpage");
+      changed(QStringLiteral("showpage was put in"));
+    }
+    writeTrailer(trailer);
+  }
+
+  void append(const ProgramLine& line, qsizetype number) {
+    const qsizetype end = number + 1 < lines_.size() ? lines_[number + 1].start : program_.size();
+    result_.program.append(QByteArrayView(program_).sliced(line.start, end - line.start));
+  }
+  void endLine() {
+    if (!result_.program.endsWith('\n') && !result_.program.endsWith('\r')) result_.program.append(newline_);
+  }
+
+  void writeTrailer(qsizetype from) {
+    bool ended = false;
+    for (qsizetype i = from; i < lines_.size() && !ended; ++i) {
+      if (isBox(lines_[i])) {
+        changed(QStringLiteral("the box at the end of the file stands in its header"));
+        continue;
+      }
+      append(lines_[i], i);
+      ended = isComment(lines_[i], "%%EOF");
+      // What a program keeps behind the document for itself is of use to it.
+      if (ended && i + 1 < lines_.size() && lines_[i + 1].text.startsWith("%AI"))
+        result_.program.append(QByteArrayView(program_).sliced(lines_[i + 1].start));
+    }
+    if (ended) return;
+    endLine();
+    write("%%EOF");
+    changed(QStringLiteral("%%EOF was put in"));
+  }
+
+  const QByteArray& program_;
+  const QList<ProgramLine> lines_;
+  const QRectF box_;
+  QByteArray newline_ = "\n";
+  mutable bool isHeaderData_ = false;
+  qsizetype body_ = 0;  ///< the first line behind the header
+  EpsRepair result_;
+};
+
+}  // namespace
+
+QByteArray epsProgramAlone(const QByteArray& file) {
+  const QByteArray inner = withoutWrapping(file);
+  const QByteArrayView program = epsProgram(inner);
+  const qsizetype first = program.first(std::min<qsizetype>(program.size(), 64 << 10)).indexOf("%!");
+  const qsizetype comment = lineBeginningWith(program, "%%BoundingBox");
+  if (first < 0 && comment < 0) return {};
+  return program.sliced(std::max<qsizetype>(0, first < 0 ? comment : first)).toByteArray();
+}
+
+EpsRepair repairedEps(const QByteArray& program, const QRectF& box, bool dropPreview) {
+  return Mending(program, box).run(dropPreview);
+}
+
+std::optional<QRectF> mendedBox(const std::optional<QRectF>& stated, const std::optional<QRectF>& ink,
+                                const std::optional<QRectF>& painted) {
+  if (!ink) return stated;
+  if (!stated || !painted) return ink;
+  const bool encloses = stated->adjusted(-0.1, -0.1, 0.1, 0.1).contains(*ink);
+  const bool isFilled = painted->adjusted(-kNear, -kNear, kNear, kNear).contains(*stated);
+  return encloses && isFilled ? stated : ink;
+}
+
+}  // namespace norvex

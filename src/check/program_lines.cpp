@@ -1,0 +1,131 @@
+#include "check/program_lines.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <optional>
+
+#include "base/blanks.h"
+#include "metadata/eps_lines.h"
+
+namespace norvex {
+namespace {
+
+/// A line of packed samples has no blank for this long.
+constexpr qsizetype kLongestWord = 60;
+
+/// Bytes behind the comment that are data: what "%%BeginData: 300 Hex Bytes" and "%%BeginBinary: 300" say.
+/// Nothing: the comment does not count bytes.
+std::optional<qsizetype> announcedBytes(const ProgramLine& line) {
+  for (const char* keyword : {"%%BeginBinary", "%%BeginData"}) {
+    if (!isComment(line, keyword)) continue;
+    const QList<QByteArray> words = commentValue(line, keyword).toByteArray().simplified().split(' ');
+    if (words.size() > 2 && words[2] == "Lines") return std::nullopt;
+    bool isNumber = false;
+    const qlonglong count = words[0].toLongLong(&isNumber);
+    if (isNumber && count > 0) return qsizetype(count);
+  }
+  return std::nullopt;
+}
+
+class Cutter {
+ public:
+  explicit Cutter(QByteArrayView program) : program_(program) {}
+
+  QList<ProgramLine> run() {
+    while (at_ < program_.size()) {
+      ProgramLine line = next();
+      line.part = partOf(line);
+      lines_ << line;
+      const auto bytes = announcedBytes(line);
+      if (bytes && *bytes <= program_.size() - at_) takeData(*bytes);
+    }
+    return lines_;
+  }
+
+ private:
+  ProgramLine next() {
+    ProgramLine line;
+    line.start = at_;
+    line.number = ++number_;
+    const qsizetype end = lineEndOf(program_, at_);
+    line.text = program_.sliced(at_, end - at_);
+    at_ = end;
+    if (at_ < program_.size()) {
+      const bool both = program_[at_] == '\r' && at_ + 1 < program_.size() && program_[at_ + 1] == '\n';
+      line.end = both ? LineEnd::CrLf : program_[at_] == '\r' ? LineEnd::Cr : LineEnd::Lf;
+      at_ += both ? 2 : 1;
+    }
+    return line;
+  }
+
+  void takeData(qsizetype bytes) {
+    const QByteArrayView data = program_.sliced(at_, bytes);
+    lines_ << ProgramLine{data, at_, number_ + 1, LinePart::Data, LineEnd::None};
+    number_ += int(std::count(data.begin(), data.end(), '\n'));
+    at_ += bytes;
+  }
+
+  LinePart partOf(const ProgramLine& line) {
+    if (isComment(line, "%%EndDocument")) embedded_ = std::max(0, embedded_ - 1);
+    const LinePart part = embedded_ > 0 ? LinePart::Embedded
+                          : isPreview_  ? LinePart::Preview
+                          : isHeader_   ? LinePart::Header
+                                        : LinePart::Program;
+    if (isComment(line, "%%BeginDocument")) ++embedded_;
+    if (embedded_ == 0 && isComment(line, "%%BeginPreview")) isPreview_ = true;
+    if (isComment(line, "%%EndPreview")) isPreview_ = false;
+    if (part != LinePart::Header) return part;
+    const bool isText = !line.text.startsWith('%') && !line.text.trimmed().isEmpty();
+    if (isText || isComment(line, "%%EndComments") || beginsSection(line)) isHeader_ = false;
+    return isText ? LinePart::Program : part;
+  }
+
+  QByteArrayView program_;
+  qsizetype at_ = 0;
+  int number_ = 0;
+  int embedded_ = 0;
+  bool isHeader_ = true, isPreview_ = false;
+  QList<ProgramLine> lines_;
+};
+
+}  // namespace
+
+QList<ProgramLine> programLines(QByteArrayView program) {
+  return Cutter(program).run();
+}
+
+bool isComment(const ProgramLine& line, QByteArrayView keyword) {
+  if (!line.text.startsWith(keyword)) return false;
+  return line.text.size() == keyword.size() || line.text[keyword.size()] == ':' ||
+         isCommentBlank(line.text[keyword.size()]);
+}
+
+bool beginsSection(const ProgramLine& line) {
+  return line.text.startsWith("%%Begin") && !isComment(line, "%%BeginData") &&
+         !isComment(line, "%%BeginBinary");
+}
+
+QList<ProgramLine> documentLines(const QList<ProgramLine>& lines) {
+  for (qsizetype i = lines.size() - 1; i >= 0; --i)
+    if (lines[i].part == LinePart::Program && isComment(lines[i], "%%EOF")) return lines.first(i + 1);
+  return lines;
+}
+
+QByteArrayView commentValue(const ProgramLine& line, QByteArrayView keyword) {
+  QByteArrayView value = line.text.sliced(keyword.size());
+  if (value.startsWith(':')) value = value.sliced(1);
+  return value.trimmed();
+}
+
+bool looksLikeData(QByteArrayView line) {
+  qsizetype word = 0;
+  for (const char c : line) {
+    if (uchar(c) >= 0x80 || (uchar(c) < 0x20 && !isPostScriptSpace(c)) || c == 0x7F) return true;
+    word = isPostScriptSpace(c) ? 0 : word + 1;
+    if (word > kLongestWord) return true;
+  }
+  return false;
+}
+
+}  // namespace norvex

@@ -1,0 +1,40 @@
+// A picture checked against every rule.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+#include "base/cancel_token.h"
+#include "base/result.h"
+#include "check/finding.h"
+#include "check/profile.h"
+#include "picture/process/picture_process.h"
+#include "protocol/page_contents.h"
+
+namespace norvex {
+
+struct CheckedPicture {
+  Findings findings;           ///< judged by the profile
+  std::optional<Error> error;  ///< why not everything could be checked; what could stands beside it
+};
+
+/// What is asked of a check.
+struct CheckRequest {
+  QByteArray bytes;  ///< of the file, as it stands on disk
+  QString fileName;  ///< tells the type where the bytes do not; may be empty
+  Profile profile;
+  PictureLimits limits;
+};
+
+/// Blocks; may be called by several threads.
+[[nodiscard]] CheckedPicture checkPicture(PictureService& service, const CheckRequest& request,
+                                          const CancelToken& cancel = {});
+
+/// What the program of an EPS file inks, in PostScript's default user space. `box`: the one that the file
+/// states, from where the answer is counted. Fails as PictureProcess::examine().
+[[nodiscard]] Result<DrawnInk> inkOfEps(PictureProcess& process, const QRectF& box,
+                                        const CancelToken& cancel);
+
+}  // namespace norvex

@@ -1,0 +1,121 @@
+// `norvex check`: what is wrong with the files, in the order of the files.
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QThread>
+#include <QThreadPool>
+#include <QtConcurrent>
+
+#include <algorithm>
+
+#include "base/latin1_text.h"
+#include "cli/check/picture_check.h"
+#include "cli/input_file.h"
+#include "cli/interruption.h"
+#include "cli/job.h"
+#include "cli/json_output.h"
+#include "cli/value_reader.h"
+
+namespace norvex {
+namespace {
+
+QJsonArray arrayOf(const QRectF& rect) {
+  return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+QJsonObject objectOf(const Finding& one) {
+  QJsonObject object{{"identifier", latin1(one.rule->identifier)},
+                     {"severity", nameOf(one.severity)},
+                     {"sentence", one.sentence},
+                     {"source", latin1(one.rule->source)}};
+  if (!one.rule->mend.empty()) object.insert("mend", latin1(one.rule->mend));
+  if (one.line) object.insert("line", *one.line);
+  if (!one.object.isEmpty()) object.insert("object", one.object);
+  if (one.rect) object.insert("rectangle", arrayOf(*one.rect));
+  return object;
+}
+
+QByteArray jsonOf(const QString& file, const CheckedPicture& checked) {
+  QJsonArray findings;
+  for (const Finding& one : checked.findings) findings.append(objectOf(one));
+  QJsonObject object{{"file", file}, {"findings", findings}};
+  if (checked.error) insertError(object, *checked.error);
+  return jsonOutput(QJsonDocument(object)).trimmed();
+}
+
+/// A line a finding: FILE: error: sentence, where (identifier).
+QByteArray linesOf(const QString& file, const CheckedPicture& checked) {
+  QString text;
+  for (const Finding& one : checked.findings) {
+    QString line = QStringLiteral("%1:").arg(file);
+    if (one.line) line += QStringLiteral("%1:").arg(*one.line);
+    line += u' ' + nameOf(one.severity) + QStringLiteral(": ") + one.sentence;
+    if (one.rect)
+      line += QStringLiteral(", at %1 %2")
+                  .arg(qRound(one.rect->center().x()))
+                  .arg(qRound(one.rect->center().y()));
+    text += visible(line + QStringLiteral(" (") + latin1(one.rule->identifier) + u')') + u'\n';
+  }
+  return text.toUtf8();
+}
+
+bool hasError(const CheckedPicture& checked) {
+  return std::any_of(checked.findings.begin(), checked.findings.end(),
+                     [](const Finding& one) { return one.severity == Severity::Error; });
+}
+
+}  // namespace
+
+ExitCode Job::reportChecks(const Arguments& arguments, const QFuture<CheckedPicture>& checks) {
+  const bool json = arguments.has(Option::Json);
+  QList<ExitCode> codes;
+  bool written = !json || console_.write("[\n");
+  for (qsizetype i = 0; i < arguments.files.size(); ++i) {
+    const QString& file = arguments.files[i];
+    const CheckedPicture checked = checks.resultAt(int(i));
+    codes << (checked.error       ? fail(file, *checked.error)
+              : hasError(checked) ? ExitCode::SomeFailed
+                                  : ExitCode::Done);
+    const QByteArray end = i + 1 < arguments.files.size() ? ",\n" : "\n]\n";
+    written = written && console_.write(json ? jsonOf(file, checked) + end : linesOf(file, checked));
+  }
+  if (written) return exitCodeOfAll(codes);
+  return fail(QStringLiteral("-"),
+              {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+}
+
+ExitCode Job::check(const Arguments& arguments) {
+  ValueReader values(arguments);
+  CheckRequest common;
+  common.limits = values.limits();
+  const int jobs = values.integer(Option::Jobs, std::max(1, QThread::idealThreadCount()), 1, 1024);
+  if (!values.complaint().isEmpty()) return complain(Command::Check, values.complaint());
+  if (arguments.has(Option::Profile)) {
+    const QString name = arguments.values.value(Option::Profile);
+    Result<Profile> profile = profileNamed(name);
+    if (!profile) return complain(Command::Check, QStringLiteral("--profile: ") + profile.error().message);
+    common.profile = *profile;
+  }
+  const QString standardInput = QStringLiteral("-");
+  const Result<QByteArray> input =
+      arguments.files.contains(standardInput) ? readInput(console_, standardInput) : Result(QByteArray());
+  service_.openOnlyFor(PictureUse::WholePdf);
+  const Interruption interruption;
+  QThreadPool pool;
+  pool.setMaxThreadCount(jobs);
+  const CancelToken cancel = interruption.token();
+  QFuture<CheckedPicture> checks = QtConcurrent::mapped(&pool, arguments.files, [&](const QString& file) {
+    const bool isInput = file == standardInput;
+    const Result<QByteArray> bytes = isInput ? input : readInputFile(file);
+    if (!bytes) return CheckedPicture{{}, bytes.error()};
+    CheckRequest request = common;
+    request.bytes = *bytes;
+    request.fileName = isInput ? QString() : file;
+    return checkPicture(service_, request, cancel);
+  });
+  const ExitCode code = reportChecks(arguments, checks);
+  checks.waitForFinished();
+  return cancel.cancelled() ? ExitCode::Interrupted : code;
+}
+
+}  // namespace norvex

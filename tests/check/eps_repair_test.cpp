@@ -1,0 +1,106 @@
+// Mending an EPS program: what is put right, and that the drawing stays as it is.
+#include "check/eps_repair.h"
+
+#include "check/file_wrapping.h"
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+const QByteArray kBody(
+    "/box { 10 20 30 40 rectfill } def\rbox\r\n% %%BoundingBox: 1 2 3 4 in a comment\n(%%EOF) pop\n");
+const QRectF kBox(QPointF(9.75, 20), QPointF(40.2, 60.0001));
+
+QByteArray repaired(const QByteArray& program) {
+  return repairedEps(program, kBox, false).program;
+}
+
+}  // namespace
+
+class EpsRepairTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void aProgramWithoutAnythingGetsItsHeaderShowpageAndEnd() {
+    QCOMPARE(repaired("%!PS\n" + kBody),
+             "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 9 20 41 60\n%%HiResBoundingBox: 9.75 20 40.2 60\n"
+             "%%EndComments\n" +
+                 kBody + "showpage\n%%EOF\n");
+  }
+
+  void aSoundProgramStaysAsItIs() {
+    const QByteArray sound =
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 9 20 41 60\n%%HiResBoundingBox: 9.75 20 40.2 60\n%%Title: "
+        "t\n"
+        "%%EndComments\n" +
+        kBody + "showpage\n%%EOF\n";
+    const EpsRepair repair = repairedEps(sound, kBox, false);
+    QCOMPARE(repair.program, sound);
+    QVERIFY2(repair.changes.isEmpty(), qPrintable(repair.changes.join('\n')));
+  }
+
+  void otherCommentsKeepTheirOrderAndTheDrawingItsBytes() {
+    const QByteArray program =
+        "%!PS-Adobe-2.0\n%%Title: t\n%%BoundingBox: (atend)\n%%For: f\n%%EndComments\n" + kBody +
+        "showpage\n%%Trailer\n%%BoundingBox: 0 0 1 1\n%%Pages: 1\n%%EOF\nrubbish";
+    QCOMPARE(repaired(program),
+             "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 9 20 41 60\n%%HiResBoundingBox: 9.75 20 40.2 "
+             "60\n%%Title: t\n"
+             "%%For: f\n%%EndComments\n" +
+                 kBody + "showpage\n%%Trailer\n%%Pages: 1\n%%EOF\n");
+  }
+
+  void aSecondRepairChangesNothing() {
+    const QByteArray once = repaired("%!PS\r" + QByteArray(kBody).replace('\n', '\r'));
+    const EpsRepair twice = repairedEps(once, kBox, false);
+    QCOMPARE(twice.program, once);
+    QVERIFY(twice.changes.isEmpty());
+  }
+
+  void showpageGoesBeforeTheTrailer() {
+    QVERIFY(repaired("%!PS\n" + kBody + "%%Trailer\nend\n")
+                .contains(kBody + "showpage\n%%Trailer\nend\n%%EOF\n"));
+    QVERIFY(!repaired("%!PS\n/sp /showpage load def sp\n").contains("sp\nshowpage\n"));
+  }
+
+  void anEmbeddedDocumentIsNotTouched() {
+    const QByteArray inner =
+        "%%BeginDocument: a.eps\n%!PS\n%%BoundingBox: 1 2 3 4\n%%EndComments\n%%EOF\n%%EndDocument\n";
+    QVERIFY(repaired("%!PS\n" + kBody + inner + "showpage\n").contains(kBody + inner + "showpage\n"));
+  }
+
+  void anInterchangePreviewIsLeftOutOnRequest() {
+    const QByteArray preview = "%%BeginPreview: 8 1 1 1\n%FF\n%%EndPreview\n";
+    const QByteArray program = "%!PS\n%%EndComments\n" + preview + kBody;
+    QVERIFY(repaired(program).contains(preview));
+    const EpsRepair repair = repairedEps(program, kBox, true);
+    QVERIFY(!repair.program.contains("Preview"));
+    QVERIFY(repair.program.contains("%%EndComments\n" + kBody));
+    QVERIFY(repair.changes.contains("the preview was left out"));
+  }
+
+  void theProgramIsTakenOutOfItsWrappings() {
+    const QByteArray single = QByteArray("\x00\x05\x16\x00\x00\x02\x00\x00", 8) + QByteArray(16, 0) +
+                              QByteArray("\x00\x01\x00\x00\x00\x01\x00\x00\x00\x26\x00\x00\x00\x08", 14) +
+                              "%!PS\n1 2";
+    QCOMPARE(wrappedFile(single)->wrapping, "AppleSingle");
+    QCOMPARE(epsProgramAlone(single), "%!PS\n1 2");
+    QCOMPARE(epsProgramAlone("\x04\n%!PS\n"), "%!PS\n");
+    QCOMPARE(epsProgramAlone("no PostScript"), QByteArray());
+    QVERIFY(!wrappedFile(single.chopped(1)));
+    QVERIFY(!wrappedFile(QByteArray(200, 0)));
+  }
+
+  void theBoxIsThatOfTheInkUnlessWhiteFillsTheOneThatIsStated() {
+    const QRectF ink(10, 10, 20, 20), stated(0, 0, 100, 100);
+    QCOMPARE(mendedBox(stated, ink, ink), std::optional(ink));
+    QCOMPARE(mendedBox(stated, ink, stated), std::optional(stated));
+    QCOMPARE(mendedBox(QRectF(15, 15, 2, 2), ink, stated), std::optional(ink));
+    QCOMPARE(mendedBox(stated, std::nullopt, stated), std::optional(stated));
+    QCOMPARE(mendedBox(std::nullopt, ink, ink), std::optional(ink));
+    QCOMPARE(mendedBox(std::nullopt, std::nullopt, std::nullopt), std::optional<QRectF>());
+  }
+};
+
+NORVEX_TEST(EpsRepairTest)
+#include "eps_repair_test.moc"

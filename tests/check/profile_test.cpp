@@ -1,0 +1,83 @@
+// Profiles: what is read of their TOML, what is refused, and how they judge.
+#include "check/profile.h"
+
+#include <QTemporaryDir>
+
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+QString complaintAbout(const QByteArray& toml) {
+  const Result<Profile> profile = profileFromToml(toml);
+  return profile ? QString() : profile.error().message;
+}
+
+}  // namespace
+
+class ProfileTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void limitsAndSeveritiesAreRead() {
+    const Result<Profile> profile = profileFromToml(
+        "[limits]\ncolour-dpi = 300\nthinnest-line = 0.25\ncolumns-mm = [90, 190.5]\ncolumn-tolerance-mm = "
+        "3\n"
+        "rgb = false\n[severities]\n\"fonts.type3\" = \"error\"\n\"eps.preview.missing\" = \"off\"\n");
+    QVERIFY2(profile.ok(), qPrintable(profile ? QString() : profile.error().message));
+    QCOMPARE(profile->limits.colourDpi, std::optional(300.0));
+    QCOMPARE(profile->limits.thinnestLine, std::optional(0.25));
+    QVERIFY(!profile->limits.greyDpi);
+    QCOMPARE(profile->limits.columns, QList<double>({90, 190.5}));
+    QCOMPARE(profile->limits.columnTolerance, 3.0);
+    QVERIFY(!profile->limits.rgb);
+    QCOMPARE(profile->severities["fonts.type3"], std::optional(Severity::Error));
+    QCOMPARE(profile->severities["eps.preview.missing"], std::optional<Severity>());
+  }
+
+  void whatIsMisspeltIsToldWithItsLine() {
+    QCOMPARE(complaintAbout("[limits]\ncolor-dpi = 300\n"), "line 2: there is no limit color-dpi");
+    QCOMPARE(complaintAbout("[limit]\n"), "line 1: there is no limit, only [limits] and [severities]");
+    QCOMPARE(complaintAbout("\n[severities]\n\"fonts.typ3\" = \"error\"\n"),
+             "line 3: there is no rule fonts.typ3");
+    QCOMPARE(complaintAbout("[severities]\n\"fonts.type3\" = \"fatal\"\n"),
+             "line 2: fonts.type3 is one of: error, warning, note, off");
+    QCOMPARE(complaintAbout("[limits]\ncolour-dpi = \"300\"\n"), "line 2: colour-dpi is a number from 0");
+    QCOMPARE(complaintAbout("[limits]\ncolour-dpi = -1\n"), "line 2: colour-dpi is a number from 0");
+    QVERIFY(complaintAbout("[limits\n").startsWith("line 1: "));
+  }
+
+  void theProfilesOfTheProgramAreSound() {
+    QCOMPARE(shippedProfiles(), QStringList({"archive", "journal", "print", "web"}));
+    for (const QString& name : shippedProfiles()) {
+      const Result<Profile> profile = profileNamed(name);
+      QVERIFY2(profile.ok(), qPrintable(profile ? QString() : profile.error().message));
+    }
+    QCOMPARE(profileNamed("journal")->limits.lineArtDpi, std::optional(1200.0));
+  }
+
+  void aFileOfOnesOwnIsAProfile() {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("mine.toml"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("[limits]\ntotal-ink = 280\n") > 0);
+    file.close();
+    QCOMPARE(profileNamed(file.fileName())->limits.totalInk, std::optional(280.0));
+    QCOMPARE(profileNamed("nowhere").error().kind, ErrorKind::CannotRead);
+  }
+
+  void aProfileChangesSeveritiesAndErrorsComeFirst() {
+    const Findings findings{finding(rule("fonts.type3"), "a"), finding(rule("colour.spot"), "b"),
+                            finding(rule("eps.truncated"), "c")};
+    Profile profile;
+    profile.severities = {{"colour.spot", Severity::Error}, {"fonts.type3", std::nullopt}};
+    const Findings told = judged(findings, profile);
+    QCOMPARE(told.size(), 2);
+    QCOMPARE(told[0].sentence, "b");
+    QCOMPARE(told[0].severity, Severity::Error);
+    QCOMPARE(told[1].sentence, "c");
+    QCOMPARE(judged(findings, {}).first().sentence, "c");
+  }
+};
+
+NORVEX_TEST(ProfileTest)
+#include "profile_test.moc"

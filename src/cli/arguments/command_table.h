@@ -81,18 +81,13 @@ using Commands = unsigned;
 }
 inline constexpr Commands everyCommand = ~Commands(0);
 /// Those that have a picture process read a document or its preview.
-inline constexpr Commands openingCommands = only(Command::Info) | only(Command::Source) |
-                                            only(Command::Preview) | only(Command::Convert) |
-                                            only(Command::Print);
+inline constexpr Commands openingCommands =
+    only(Command::Info) | only(Command::Source) | only(Command::Preview) | only(Command::Convert) |
+    only(Command::Check) | only(Command::Repair) | only(Command::Print);
 /// Those that do one thing with each file. A run over an archive is such a command for each of its files, so
 /// that a command gets lists, trees, states and the rest by standing here.
 inline constexpr Commands archiveCommands =
     only(Command::Info) | only(Command::Preview) | only(Command::Convert);
-inline constexpr Commands everyCommand = (only(Command::Print) << 1) - 1;
-/// Those that have a picture process open a document.
-inline constexpr Commands openingCommands = only(Command::Info) | only(Command::Source) |
-                                            only(Command::Convert) | only(Command::Check) |
-                                            only(Command::Repair) | only(Command::Print);
 
 /// A command takes the options of its own rows.
 struct OptionRow {
@@ -125,21 +120,17 @@ inline constexpr auto commandTable = std::to_array<CommandRow>({
 });
 
 inline constexpr auto optionTable = std::to_array<OptionRow>({
-    {Option::Json, only(Command::Info) | only(Command::Convert) | only(Command::Status), 0, "json", "", "",
-     "one JSON array with an object for each file"},
-    {Option::Output, only(Command::Preview) | only(Command::Convert) | only(Command::Print), 'o', "output",
-     "OUT", "", "the file to write; - is standard output"},
-    {Option::Folder, only(Command::Convert) | only(Command::Preview), 0, "to", "DIR", "",
     {Option::Profile, only(Command::Check), 0, "profile", "P", "",
      "limits and severities: print, journal, web, archive, or a TOML file"},
     {Option::Preview, only(Command::Repair), 0, "preview", "USE", "keep drop rebuild",
      "what becomes of the preview (keep)"},
-    {Option::Json, only(Command::Info) | only(Command::Convert) | only(Command::Check), 0, "json", "", "",
-     "one JSON array with an object for each file"},
+    {Option::Json,
+     only(Command::Info) | only(Command::Convert) | only(Command::Check) | only(Command::Status), 0, "json",
+     "", "", "one JSON array with an object for each file"},
     {Option::Output,
      only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Print), 'o',
      "output", "OUT", "", "the file to write; - is standard output"},
-    {Option::Folder, only(Command::Convert), 0, "to", "DIR", "",
+    {Option::Folder, only(Command::Convert) | only(Command::Preview), 0, "to", "DIR", "",
      "the folder to write each file to, under its own name"},
     {Option::Format, only(Command::Convert), 0, "format", "F", writtenFormatNames.text(),
      "the format; without it the extension of OUT decides"},
@@ -155,8 +146,7 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Quality, only(Command::Convert), 0, "quality", "N", "", qualityHelp.text()},
     {Option::KeepActions, only(Command::Convert), 0, "keep-actions", "", "",
      "keep the scripts and actions of a PDF in the PDF made of it"},
-    {Option::Jobs, only(Command::Convert) | archiveCommands, 0, "jobs", "N", "",
-    {Option::Jobs, only(Command::Convert) | only(Command::Check), 0, "jobs", "N", "",
+    {Option::Jobs, archiveCommands | only(Command::Check), 0, "jobs", "N", "",
      "files at a time (as many as there are cores)"},
     {Option::Timeout, openingCommands, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
     {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},

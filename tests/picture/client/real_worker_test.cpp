@@ -149,6 +149,16 @@ class RealWorkerTest : public QObject {
     QCOMPARE(process->pdf({})->report.warnings, QStringList());
   }
 
+  void elementsThatMemoryDoesNotHoldAreALimit() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers need more address space than any limit");
+#endif
+    const QByteArray many = "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='20'>" +
+                            QByteArray("<rect width='1' height='1'/>").repeated(90'000) + "</svg>";
+    const auto process = service_->open(many, PictureKind::Svg, PictureLimits{60, 64, 1});
+    QCOMPARE(process->render(wholePicture()).error().kind, ErrorKind::Limit);
+  }
+
   void memoryThatADrawingLacksIsALimit() {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     QSKIP("sanitizers need more address space than any limit");

@@ -14,7 +14,6 @@
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/whole_page.h"
 #include "worker/postscript/distill.h"
-#include "worker/postscript/tile_seams.h"
 
 #include <algorithm>
 #include <optional>
@@ -125,7 +124,7 @@ class EpsEngine final : public DocumentEngine {
       return distilled.error();
     }
     distilled_ = std::move(*distilled);
-    renderer_.emplace(withoutSeams(distilled_->pdf));
+    renderer_.emplace(distilled_->pdf);
     return {};
   }
 

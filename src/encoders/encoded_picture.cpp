@@ -51,7 +51,8 @@ QStringList keysHeld(PictureKind source, PictureFormat format) {
     case DocumentKind::Svg:
       return source == PictureKind::Svg
                  ? QStringList{header::Title, header::Description}
-                 : QStringList{header::Title, header::Description, header::For, header::Creator};
+                 : QStringList{header::Title,   header::Description,  header::For,
+                               header::Creator, header::CreationDate, header::Copyright};
     default:
       return {};
   }

@@ -28,7 +28,8 @@ PdfAttributes svgAttributes(const HeaderDictionary& facts) {
   PdfAttributes attributes;
   for (const auto& [key, name] :
        {std::pair(header::Title, "Title"), std::pair(header::Description, "Subject"),
-        std::pair(header::For, "Author"), std::pair(header::Creator, "Creator")})
+        std::pair(header::For, "Author"), std::pair(header::Creator, "Creator"),
+        std::pair(header::CreationDate, "CreationDate"), std::pair(header::Copyright, "Copyright")})
     if (const QString text = facts.value(key).toString(); !text.isEmpty())
       attributes.texts.insert(QString::fromLatin1(name), text);
   return attributes;

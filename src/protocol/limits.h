@@ -166,6 +166,8 @@ inline constexpr double maximumComparedPixels = 6.0e6;
 /// that their stacks do not take.
 inline constexpr qsizetype maximumSvgElements = 900'000;
 inline constexpr int maximumSvgDepth = 200;
+/// Patterns of patterns and glyphs of glyphs, each level a few bytes: elements with every reference followed.
+inline constexpr double maximumSvgWeight = 4.0e6;
 /// An attribute, a path or an image, that readers of XML refuse: they end at ten million bytes.
 inline constexpr qsizetype maximumSvgAttribute = 9'500'000;
 /// Fonts and images without end: files and outlines that are kept at a time.

@@ -349,10 +349,16 @@ class PictureEncoderTest : public QObject {
     QCOMPARE(readings([](PictureEncoder& encoder) { return encoder.epsiData(); }), 1);
     QCOMPARE(readings([](PictureEncoder& encoder) { return encoder.pdfData(); }), 1);
   }
-  void onlyAnSvgCanBeWrittenAsSvg() {
+  void anSvgIsWrittenFromItsTextAndAnythingElseFromItsDrawing() {
     QCOMPARE(encoderOf(svg()).svgData(), QByteArray("<svg pretty/>"));
-    QVERIFY(encoderOf(eps()).svgData().isEmpty());
-    QVERIFY(encoderOf(pdf()).svgData().isEmpty());
+    QVERIFY(service_->memory.lastProcess()->composeRequests().isEmpty());
+    for (const bool isPostScript : {true, false}) {
+      const std::shared_ptr<NSImageRep> rep = isPostScript ? eps() : pdf();
+      QVERIFY(!encoderOf(rep).svgData().isEmpty());
+      const ComposeRequest asked = service_->memory.lastProcess()->composeRequests().constLast();
+      QCOMPARE(asked.format, VectorFormat::Svg);
+      QVERIFY(asked.attributes);
+    }
   }
 
   void aRasterHasOnePixelAPoint() {

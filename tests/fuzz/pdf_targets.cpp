@@ -6,6 +6,8 @@
 #include "worker/pdf/annotation_drawings.h"
 #include "worker/pdf/pdf_colour_operators.h"
 #include "worker/pdf/pdf_file.h"
+#include "worker/svg_output/svg_from_pdf.h"
+#include "worker/svg_output/svg_jpeg.h"
 
 namespace norvex::fuzz {
 namespace {
@@ -53,6 +55,41 @@ bool annotations(const QByteArray& bytes) {
   return completed.ok();
 }
 
+/// The bytes are a page's contents; what they may name is there.
+bool svgDrawing(const QByteArray& bytes) {
+  const QByteArray resources =
+      "/Resources << /Font << /F 5 0 R >> /XObject << /I 6 0 R >> /Pattern << /P 7 0 R >> /Shading << /S << "
+      "/ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 40 0] /Function << /FunctionType 2 /Domain [0 1] "
+      "/C0 [1 0 0] "
+      "/C1 [0 0 1] /N 1 >> >> >> /ExtGState << /H << /ca .5 /BM /Multiply >> >> >>";
+  const QByteArray pdf = kit::onePage(
+      bytes, "/MediaBox [0 0 40 30] " + resources,
+      {"<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>",
+       kit::stream(
+           "abcdef",
+           "/Type /XObject /Subtype /Image /Width 2 /Height 1 /BitsPerComponent 8 /ColorSpace /DeviceRGB"),
+       kit::stream("0 0 4 4 re f",
+                   "/PatternType 1 /PaintType 1 /TilingType 1 /BBox [0 0 5 5] /XStep 6 /YStep 7 "
+                   "/Resources << >>")});
+  EngineContext context;
+  const auto made = svgFromPdf(pdf, {}, context);
+  if (!made) return false;
+  const QByteArray& svg = made->bytes;
+  require(svg.endsWith("</svg>\n"), "an SVG has its end");
+  for (qsizetype at = svg.indexOf("href=\""); at >= 0; at = svg.indexOf("href=\"", at + 1))
+    require(svg.mid(at + 6, 1) == "#" || svg.mid(at + 6, 11) == "data:image/",
+            "nothing outside is referred to");
+  return svg.contains("<path") || svg.contains("<use");
+}
+
+/// Taken for a JPEG of 3 by 2 pixels.
+bool bareJpegs(const QByteArray& bytes) {
+  const QByteArray bare = bareJpeg(bytes, 3, 2, 3);
+  require(bare.size() <= bytes.size(), "nothing is added");
+  require(bare.isEmpty() || bareJpeg(bare, 3, 2, 3) == bare, "what is bare stays as it is");
+  return !bare.isEmpty();
+}
+
 bool colourOperators(const QByteArray& bytes) {
   const QStringList colours = deviceColoursOf(bytes);
   require(colours.size() <= 3, "there are three device colour spaces");
@@ -94,11 +131,26 @@ QList<QByteArray> contents() {
           "BI /W 2 /H 1 /CS /CMYK /BPC 8 ID 12345678 EI 1 g"};
 }
 
+QList<QByteArray> drawings() {
+  return {"1 0 0 rg 5 5 20 20 re B 3 w [2 1] 0 d 0 0 m 10 9 20 3 30 20 c S 0 0 20 20 re W* n /S sh",
+          "/H gs BT /F 20 Tf 2 Tr 3 3 Td (ab) Tj 7 Tr (c) Tj ET /Pattern cs /P scn 0 0 40 30 re f q 9 3 -3 9 "
+          "5 5 cm /I Do Q",
+          "q 20 0 0 20 0 0 cm BI /W 2 /H 2 /IM true ID ab EI Q /Pattern CS /P SCN 4 w 0 0 m 30 20 l s"};
+}
+
+QList<QByteArray> jpegs() {
+  const auto bytes = [](const char* hexadecimal) { return QByteArray::fromHex(hexadecimal); };
+  return {bytes("ffd8ffe000044a46ffe100044578ffc000080800020003 03ffda000411220102ffd9"),
+          bytes("ffd8ffc2000808000200030 3fffffffe00034affda000411220102")};
+}
+
 }  // namespace
 
 QList<Target> pdfTargets() {
   return {{"page_tree", pageTree, documents, 100},
           {"annotation_drawings", annotations, annotationSeeds, 20},
+          {"svg_drawing", svgDrawing, drawings, 50},
+          {"bare_jpeg", bareJpegs, jpegs, 1000},
           {"colour_operators", colourOperators, contents, 1000}};
 }
 

@@ -81,6 +81,8 @@ class TargetsTest : public QObject {
                              "page_tree",
                              "annotation_drawings",
                              "colour_operators",
+                             "svg_drawing",
+                             "bare_jpeg",
                              "svg_text",
                              "svg_tokens",
                              "svg_cutting",

@@ -14,7 +14,9 @@ QByteArray element(const char* name, const QString& text) {
 
 QByteArray svgMetadata(const PdfAttributes& attributes) {
   const auto text = [&](const char* key) { return attributes.texts.value(QString::fromLatin1(key)); };
-  const QByteArray told = element("dc:creator", text("Author")) + element("xmp:CreatorTool", text("Creator"));
+  const QByteArray told = element("dc:creator", text("Author")) + element("dc:date", text("CreationDate")) +
+                          element("dc:rights", text("Copyright")) +
+                          element("xmp:CreatorTool", text("Creator"));
   QByteArray head = element("title", text("Title")) + element("desc", text("Subject"));
   if (told.isEmpty()) return head;
   return head +

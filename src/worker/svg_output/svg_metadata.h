@@ -7,7 +7,8 @@
 
 namespace norvex::engine {
 
-/// title, desc and metadata elements of the texts that are there: "Title", "Subject", "Author" and "Creator".
+/// title, desc and metadata elements of the texts that are there: "Title", "Subject", "Author", "Creator",
+/// "CreationDate" and "Copyright".
 /// Texts are escaped: nothing of them becomes structure.
 [[nodiscard]] QByteArray svgMetadata(const PdfAttributes& attributes);
 

@@ -66,7 +66,9 @@ QByteArray SvgSheet::nextName() {
 void SvgSheet::count(const QByteArray& text) {
   bytes_ += text.size();
   elements_ += text.count('<');
-  if (bytes_ > mostBytes_ || elements_ > limits::maximumSvgElements) full_ = true;
+  if (bytes_ > mostBytes_ || elements_ > limits::maximumSvgElements || hasEndlessAttribute(text))
+    full_ = true;
+  if (weight_ > limits::maximumSvgWeight) full_ = true;
 }
 
 QByteArray SvgSheet::define(const QByteArray& element) {
@@ -74,6 +76,7 @@ QByteArray SvgSheet::define(const QByteArray& element) {
   if (const auto at = known_.constFind(digest); at != known_.constEnd()) return *at;
   const QByteArray name = nextName();
   known_.insert(digest, name);
+  weights_.set(name, weights_.of(element));
   count(element);
   if (!full_) definitions_ += withAttributes(element, attribute("id", name)) + '\n';
   return name;
@@ -154,6 +157,7 @@ void SvgSheet::put(const QByteArray& element, bool attributable, const QRectF& b
     group.attributable = attributable || wrap;
   }
   open.layer.body += whole + '\n';
+  if (open_.size() == 1) weight_ += weights_.of(whole);
   count(whole);
 }
 

@@ -12,6 +12,8 @@
 #include <optional>
 #include <vector>
 
+#include "worker/svg_output/svg_weight.h"
+
 namespace norvex::engine {
 
 /// What bounds everything that is painted behind it. All coordinates are the page's: points, origin at the
@@ -114,6 +116,8 @@ class SvgSheet {
   int decimals_;
   qsizetype mostBytes_;
   qsizetype bytes_ = 0, elements_ = 0;
+  double weight_ = 0;  ///< of the page
+  SvgWeights weights_;
   bool full_ = false;
   int names_ = 0;
   QByteArray definitions_;

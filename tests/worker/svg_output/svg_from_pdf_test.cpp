@@ -139,13 +139,15 @@ class SvgFromPdfTest : public QObject {
 
   void titleDescriptionAndOwnerAreCarriedOver() {
     PdfAttributes attributes;
-    attributes.texts = {
-        {"Title", "A & B"}, {"Subject", "What it shows"}, {"Author", "Ann"}, {"Creator", "Pen 2"}};
+    attributes.texts = {{"Title", "A & B"},   {"Subject", "What it shows"}, {"Author", "Ann"},
+                        {"Creator", "Pen 2"}, {"CreationDate", "today"},    {"Copyright", "hers"}};
     const QByteArray svg = MadeSvg(page("0 0 9 9 re f"), attributes).svg();
     QVERIFY(svg.contains("<title>A &amp; B</title>"));
     QVERIFY(svg.contains("<desc>What it shows</desc>"));
     QVERIFY(svg.contains("<dc:creator>Ann</dc:creator>"));
     QVERIFY(svg.contains("<xmp:CreatorTool>Pen 2</xmp:CreatorTool>"));
+    QVERIFY(svg.contains("<dc:date>today</dc:date>"));
+    QVERIFY(svg.contains("<dc:rights>hers</dc:rights>"));
   }
 
   void nothingThatADocumentSaysBecomesStructure() {

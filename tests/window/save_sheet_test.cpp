@@ -42,14 +42,14 @@ class SaveSheetTest : public QObject {
     SaveSheet sheet(nullptr, settings);
     auto* name = sheet.findChild<QLineEdit*>("fileNameEdit");
     QVERIFY(name);
-    name->clear();
+    name->selectAll();
     QTest::keyClicks(name, "out2.png");
     QCOMPARE(name->text(), QString("out2.png"));
     QCOMPARE(c.doSaveToPopUp->currentText(), QString("PNG image"));
     QCOMPARE(settings.target(sheet.answer().url, -1).fileName(), QString("out2.png"));
     choose(c, "GIF image");  // what is chosen last counts
     QCOMPARE(settings.target(sheet.answer().url, -1).fileName(), QString("out2.gif"));
-    name->clear();
+    name->selectAll();
     QTest::keyClicks(name, "Map 1.5");
     QCOMPARE(c.doSaveToPopUp->currentText(), QString("GIF image"));
   }
@@ -64,7 +64,7 @@ class SaveSheetTest : public QObject {
     settings.nameFieldStringValue = "out";
     SaveSheet sheet(nullptr, settings);
     auto* name = sheet.findChild<QLineEdit*>("fileNameEdit");
-    name->clear();
+    name->selectAll();
     QTest::keyClicks(name, "out.jpeg");
     QCOMPARE(sheet.answer().contentType, 2);
     QCOMPARE(name->text(), QString("out.jpeg"));

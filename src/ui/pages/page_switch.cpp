@@ -7,6 +7,7 @@
 #include <QToolButton>
 
 #include "base/localized_string.h"
+#include "ui/style/quiet_text.h"
 
 namespace norvex {
 
@@ -18,6 +19,7 @@ PageSwitch::PageSwitch(QWidget* parent)
   back_ = addButton(QStringLiteral("\u2039"), localizedString("Previous Page"), -1);
   row->addWidget(number_);
   row->addWidget(count_);
+  makeQuiet(*count_);
   on_ = addButton(QStringLiteral("\u203a"), localizedString("Next Page"), 1);
   number_->setButtonSymbols(QAbstractSpinBox::NoButtons);
   number_->setAlignment(Qt::AlignRight);

@@ -150,8 +150,11 @@ void SaveSheet::takeTyped(const QString& name) {
   if (settings_.typed) settings_.typed(type);
   const qsizetype row = settings_.allowedContentTypes.indexOf(type);
   if (settings_.selectedContentType < 0 || row == settings_.selectedContentType) return;
-  selectNameFilter(nameFilters().value(row));
+  const int cursor = name_->cursorPosition();
+  selectNameFilter(nameFilters().value(row));  // which gives the name the extension that it likes best
   settings_.selectedContentType = int(row);
+  name_->setText(name);
+  name_->setCursorPosition(cursor);
 }
 
 void SaveSheet::showName() {

@@ -169,8 +169,8 @@ void WindowSizingCommand::place() {
     frame.moveCenter(screen->availableGeometry().center());
   }
   const QRect placed = placedOnScreens(frame, screenRects(), takenPlaces(&window));
-  window.resize(placed.size().shrunkBy(around));
-  window.move(placed.topLeft());
+  // Of the contents: once the platform knows a window, move() would take this for their place, too.
+  window.setGeometry(placed.marginsRemoved(around));
 }
 
 void WindowSizingCommand::restoreFrame() {

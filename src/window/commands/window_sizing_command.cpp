@@ -168,7 +168,13 @@ void WindowSizingCommand::place() {
     if (!screen) return;
     frame.moveCenter(screen->availableGeometry().center());
   }
-  const QRect placed = placedOnScreens(frame, screenRects(), takenPlaces(&window));
+  // What surrounds the others may differ from the guess; their contents stand where they were put.
+  const QPoint corner(around.left(), around.top());
+  QList<QPoint> taken = takenPlaces(&window);
+  for (const QWidget* other : QApplication::topLevelWidgets())
+    if (other != &window && other->isVisible() && qobject_cast<const QMainWindow*>(other))
+      taken << other->geometry().topLeft() - corner;
+  const QRect placed = placedOnScreens(frame, screenRects(), taken);
   // Of the contents: once the platform knows a window, move() would take this for their place, too.
   window.setGeometry(placed.marginsRemoved(around));
 }

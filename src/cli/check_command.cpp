@@ -8,10 +8,10 @@
 
 #include <algorithm>
 
+#include "base/interruption.h"
 #include "base/latin1_text.h"
 #include "cli/check/picture_check.h"
 #include "cli/input_file.h"
-#include "cli/interruption.h"
 #include "cli/job.h"
 #include "cli/json_output.h"
 #include "cli/value_reader.h"

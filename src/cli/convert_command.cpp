@@ -6,12 +6,12 @@
 
 #include "base/atomic_file.h"
 #include "base/file_name.h"
+#include "base/interruption.h"
 #include "base/open_files.h"
 #include "base/time_limit.h"
 #include "cli/arguments/conversion_use.h"
 #include "cli/conversion_report.h"
 #include "cli/input_file.h"
-#include "cli/interruption.h"
 #include "cli/job.h"
 #include "cli/json_output.h"
 #include "metadata/full_date.h"

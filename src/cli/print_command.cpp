@@ -3,10 +3,10 @@
 #include <QUrl>
 
 #include "base/atomic_file.h"
+#include "base/interruption.h"
 #include "base/localized_string.h"
 #include "base/time_limit.h"
 #include "cli/input_file.h"
-#include "cli/interruption.h"
 #include "cli/printing_job.h"
 #include "cli/value_reader.h"
 #include "document/print_settings.h"

@@ -1,8 +1,8 @@
 #include "cli/check/picture_check.h"
 
+#include <QHash>
 #include <QImage>
 #include <QPainter>
-#include <QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -150,8 +150,8 @@ class Check {
   void addOfPage(Findings findings, int page) {
     for (Finding& one : findings) {
       const std::pair key(one.rule, one.sentence);
-      if (told_.contains(key)) continue;
-      told_ << key;
+      if (const auto told = told_.constFind(key); told != told_.constEnd() && *told != page) continue;
+      told_.insert(key, page);
       if (page > 0 && one.rect) one.sentence = QStringLiteral("page %1: ").arg(page) + one.sentence;
       result_.findings << one;
     }
@@ -161,7 +161,7 @@ class Check {
   const CheckRequest& request_;
   const CancelToken cancel_;
   CheckedPicture result_;
-  QSet<std::pair<const RuleRow*, QString>> told_;  ///< of pages
+  QHash<std::pair<const RuleRow*, QString>, int> told_;  ///< and on which page
 };
 
 }  // namespace

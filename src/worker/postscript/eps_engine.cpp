@@ -40,6 +40,9 @@ class EpsEngine final : public DocumentEngine {
   }
 
   Result<Bitmap> render(const RenderRequest& request) override {
+    // A look at what was examined needs no second run of the program.
+    if (request.purpose == RenderPurpose::Preview && request.page == 0 && surroundings_ && !distilled_)
+      return drawPart(request);
     if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
     return renderer_->render(request, box_.size(), context_.limits);
   }
@@ -101,14 +104,18 @@ class EpsEngine final : public DocumentEngine {
     });
   }
 
+  /// Of what prepareSurroundings() made.
+  [[nodiscard]] Result<Bitmap> drawPart(RenderRequest part) {
+    const double margin = surroundingsOf(box_);
+    part.pictureToDevice = AffineTransform::fromTranslate(-margin, -margin) * part.pictureToDevice;
+    const QSizeF area(box_.width() + 2 * margin, box_.height() + 2 * margin);
+    return surroundingsRenderer_->render(part, area, context_.limits);
+  }
+
   [[nodiscard]] Result<EngineBytes> drawn() {
     const double margin = surroundingsOf(box_);
     const QRectF area(-margin, -margin, box_.width() + 2 * margin, box_.height() + 2 * margin);
-    const auto draw = [&](RenderRequest part) {
-      part.pictureToDevice = AffineTransform::fromTranslate(-margin, -margin) * part.pictureToDevice;
-      return surroundingsRenderer_->render(part, area.size(), context_.limits);
-    };
-    const Result<DrawnInk> ink = findInk(area, 0, draw);
+    const Result<DrawnInk> ink = findInk(area, 0, [&](const RenderRequest& part) { return drawPart(part); });
     if (!ink) return ink.error();
     return EngineBytes{encodeDrawnInk(*ink), {}};
   }

@@ -1,4 +1,4 @@
-// Ctrl-C and a polite kill while files are being converted.
+// Ctrl-C and a polite kill while files are being worked on.
 #pragma once
 
 #include <atomic>

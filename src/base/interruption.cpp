@@ -1,4 +1,4 @@
-#include "cli/interruption.h"
+#include "base/interruption.h"
 
 #include <sys/eventfd.h>
 

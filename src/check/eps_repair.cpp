@@ -203,7 +203,9 @@ std::optional<QRectF> mendedBox(const std::optional<QRectF>& stated, const std::
   if (!stated || !painted) return ink;
   const bool encloses = stated->adjusted(-0.1, -0.1, 0.1, 0.1).contains(*ink);
   const bool isFilled = painted->adjusted(-kNear, -kNear, kNear, kNear).contains(*stated);
-  return encloses && isFilled ? stated : ink;
+  // Ink that reaches the edges tells them more exactly than whole numbers do.
+  const bool isInked = ink->adjusted(-kNear, -kNear, kNear, kNear).contains(*stated);
+  return encloses && isFilled && !isInked ? stated : ink;
 }
 
 }  // namespace norvex

@@ -95,6 +95,8 @@ class EpsRepairTest : public QObject {
     const QRectF ink(10, 10, 20, 20), stated(0, 0, 100, 100);
     QCOMPARE(mendedBox(stated, ink, ink), std::optional(ink));
     QCOMPARE(mendedBox(stated, ink, stated), std::optional(stated));
+    const QRectF almost(0.2, 0.1, 99.4, 99.8);
+    QCOMPARE(mendedBox(stated, almost, almost), std::optional(almost));
     QCOMPARE(mendedBox(QRectF(15, 15, 2, 2), ink, stated), std::optional(ink));
     QCOMPARE(mendedBox(stated, std::nullopt, stated), std::optional(stated));
     QCOMPARE(mendedBox(std::nullopt, ink, ink), std::optional(ink));

@@ -91,6 +91,7 @@ class Mending {
       ++body_;
     else
       changed(QStringLiteral("%%EndComments was put in"));
+    endLine();
     write("%%EndComments");
   }
 

@@ -50,6 +50,10 @@ class EpsRepairTest : public QObject {
                  kBody + "showpage\n%%Trailer\n%%Pages: 1\n%%EOF\n");
   }
 
+  void aLastLineWithoutAnEndGetsOne() {
+    QVERIFY(repaired("%!PS\n%%Title: t").contains("%%Title: t\n%%EndComments\nshowpage\n%%EOF\n"));
+  }
+
   void aSecondRepairChangesNothing() {
     const QByteArray once = repaired("%!PS\r" + QByteArray(kBody).replace('\n', '\r'));
     const EpsRepair twice = repairedEps(once, kBox, false);

@@ -21,7 +21,7 @@ bool ApplicationEvents::guard(const std::function<bool()>& deliver) {
   try {
     return deliver();
   } catch (const UnimplementedMethod& exception) {
-    // What can be done about it says more than that it is not done.
+    // The remedy says more than the refusal.
     reason = exception.suggestion().isEmpty() ? exception.reason() : exception.suggestion();
     if (reason.endsWith(u'.')) reason.chop(1);
   } catch (const std::bad_alloc&) {

@@ -1,4 +1,4 @@
-// What happens to the application as a whole, apart from the application object, so that it can be made to
+// Events of the application as a whole, apart from the application object, so that it can be made to
 // happen.
 #pragma once
 

@@ -182,7 +182,7 @@ void DocumentApplication::documentDidClose(Document* document) {
   DocumentWindowController* controller = document->windowController();
   keeper_.closed(document->fileURL(), controller ? controller->pictureView() : std::nullopt);
   if (quitting_) {
-    // What the quitting had to wait for; another window may have to be waited for still.
+    // The quitting had to wait for this; another window may have to be waited for still.
     quitting_ = false;
     QMetaObject::invokeMethod(
         this, [this] { terminate_(this); }, Qt::QueuedConnection);

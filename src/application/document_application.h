@@ -64,7 +64,7 @@ class DocumentApplication final : public QObject {
   void connectParts();
   void takeEarlierRecents();
   void documentWillShow(Document* document);
-  /// Whether to open again what a program had open that crashed.
+  /// True if to open again what a program had open that crashed.
   void offerLeftSessions();
   void documentDidOpen(Document* document);
   void documentDidClose(Document* document);

@@ -8,7 +8,7 @@
 namespace norvex {
 namespace {
 
-/// Whether a file that is still being written could look like this. Only what every whole file of its kind
+/// True if a file that is still being written could look like this. Only what every whole file of its kind
 /// has is asked for: a PDF's end mark, an SVG's last bracket.
 bool looksWhole(const QByteArray& bytes) {
   if (bytes.isEmpty()) return false;
@@ -19,7 +19,7 @@ bool looksWhole(const QByteArray& bytes) {
 
 }  // namespace
 
-/// What one reading of the file found.
+/// The result of one reading of the file.
 struct FileWatcher::Look {
   QByteArray digest;  ///< empty when the file cannot be read now
   bool whole = false;

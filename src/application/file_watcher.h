@@ -23,7 +23,7 @@ class FileWatcher final : public QObject {
   ~FileWatcher() override;
 
   [[nodiscard]] QString path() const { return path_; }
-  /// What is on disk from now on counts as known (it has been read).
+  /// The file as it is on disk now counts as known (it has been read).
   void acknowledge();
 
  signals:

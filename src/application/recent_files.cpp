@@ -33,7 +33,7 @@ void RecentFiles::clear() {
 
 QList<QUrl> RecentFiles::urls() const {
   QList<QUrl> urls;
-  // What stands in the settings may have been edited by hand: the bounds hold here too.
+  // The settings may have been edited by hand: the bounds hold here too.
   for (const QString& path : settings_.value(kKey).toStringList().mid(0, maximumCount))
     if (!path.isEmpty()) urls << QUrl::fromLocalFile(path);
   return urls;

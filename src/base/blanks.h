@@ -1,4 +1,4 @@
-// What counts as a blank, in each of the languages that are read here byte by byte.
+// Blanks, in each of the languages that are read here byte by byte.
 #pragma once
 
 namespace norvex {

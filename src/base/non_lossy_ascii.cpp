@@ -24,7 +24,7 @@ struct Escape {
   qsizetype length = 1;
 };
 
-/// What the backslash at `at` stands for.
+/// The character that the backslash at `at` stands for.
 Escape escapeAt(QByteArrayView bytes, qsizetype at) {
   if (at + 1 >= bytes.size()) return {};
   if (bytes[at + 1] == '\\') return {u'\\', 2};

@@ -10,7 +10,7 @@
 
 namespace norvex {
 
-/// What cannot be removed stays. An empty name: nothing is done.
+/// Files that cannot be removed stay. An empty name: nothing is done.
 inline void removeFolder(const std::string& folder) {
   std::error_code ignored;
   if (folder.empty() || ::rmdir(folder.c_str()) == 0) return;  // most are empty, and this takes no descriptor

@@ -19,7 +19,7 @@ class TimeLimit {
   [[nodiscard]] const CancelToken& token() const { return token_; }
   /// The time is over, whether or not somebody else cancelled as well.
   [[nodiscard]] bool isOver() const { return over_; }
-  /// What to tell of work that failed under the token: that its time was over, where it was.
+  /// The error to tell of work that failed under the token: that its time was over, where it was.
   [[nodiscard]] Error explained(const Error& error) const;
 
  private:

@@ -19,8 +19,8 @@ QThreadPool& waitingThreads() {
 
 WaitingThreadsEnd::~WaitingThreadsEnd() {
   waitingThreads().waitForDone();
-  // What the work posted last is taken now, by nobody: left behind, it would be destroyed with the
-  // application's queue, under a lock that the objects in it want.
+  // The events that the work posted last are taken now, by nobody: left behind, it would be destroyed with
+  // the application's queue, under a lock that the objects in it want.
   if (QCoreApplication* application = QCoreApplication::instance())
     QCoreApplication::sendPostedEvents(application, QEvent::MetaCall);
 }

@@ -10,7 +10,7 @@ namespace norvex {
 /// is declared.
 [[nodiscard]] Findings epsStructureFindings(const QList<ProgramLine>& lines);
 
-/// Whether the program shows its page by itself: showpage stands in it, as a word of its own.
+/// True if the program shows its page by itself: showpage stands in it, as a word of its own.
 [[nodiscard]] bool showsPage(const QList<ProgramLine>& lines);
 
 }  // namespace norvex

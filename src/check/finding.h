@@ -33,7 +33,7 @@ using Findings = QList<Finding>;
   return {&rule, rule.severity, sentence, line, object, rect};
 }
 
-/// Whether one of them is of the rule.
+/// True if one of them is of the rule.
 [[nodiscard]] bool hasFinding(const Findings& findings, std::string_view identifier);
 
 /// "error", "warning" or "note".

@@ -12,7 +12,7 @@ namespace norvex {
 /// program are always embedded, its box has rules of its own.
 [[nodiscard]] Findings pageFindings(const PageContents& page, PictureKind kind, const ProfileLimits& limits);
 
-/// Whether the width of a picture is one of the profile's columns. `points`: its width.
+/// True if the width of a picture is one of the profile's columns. `points`: its width.
 [[nodiscard]] Findings widthFindings(double points, const ProfileLimits& limits);
 
 }  // namespace norvex

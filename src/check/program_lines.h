@@ -28,9 +28,9 @@ struct ProgramLine {
 /// ends are among them. Thread-safe.
 [[nodiscard]] QList<ProgramLine> programLines(QByteArrayView program);
 
-/// Whether the line begins with this comment: the keyword and then a colon, a blank or nothing.
+/// True if the line begins with this comment: the keyword and then a colon, a blank or nothing.
 [[nodiscard]] bool isComment(const ProgramLine& line, QByteArrayView keyword);
-/// Whether the line begins a section, which ends the header: data within it is none.
+/// True if the line begins a section, which ends the header: data within it is none.
 [[nodiscard]] bool beginsSection(const ProgramLine& line);
 /// The lines up to the document's end, the last %%EOF; all of them without one. What some programs keep
 /// behind it for themselves is no part of the document.
@@ -38,7 +38,7 @@ struct ProgramLine {
 /// What follows the keyword and its colon, without blanks around it. REQUIRES isComment().
 [[nodiscard]] QByteArrayView commentValue(const ProgramLine& line, QByteArrayView keyword);
 
-/// Whether it is no text that people or programs wrote: image samples, packed data.
+/// True if it is no text that people or programs wrote: image samples, packed data.
 [[nodiscard]] bool looksLikeData(QByteArrayView line);
 
 }  // namespace norvex

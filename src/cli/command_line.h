@@ -5,7 +5,7 @@
 
 namespace norvex {
 
-/// Whether the arguments ask for the command line; otherwise main opens a window. Looks at the first argument
+/// True if the arguments ask for the command line; otherwise main opens a window. Looks at the first argument
 /// alone, and whether it is a file; needs nothing to be initialised.
 [[nodiscard]] bool isCommandLine(int argc, char** argv);
 

@@ -22,9 +22,9 @@ class Console {
   /// Replaces the line of progress at the end of standard error; the empty text takes it away. Shown on a
   /// terminal alone.
   virtual void progress(const QString& line) = 0;
-  /// Whether standard output is a terminal, on which binary data would make a mess.
+  /// True if standard output is a terminal, on which binary data would make a mess.
   [[nodiscard]] virtual bool isTerminal() const = 0;
-  /// Whether standard error is a terminal, where progress is shown. In a log a line now and then tells of it.
+  /// True if standard error is a terminal, where progress is shown. In a log a line now and then tells of it.
   [[nodiscard]] virtual bool showsProgress() const = 0;
 };
 

@@ -28,7 +28,7 @@ int pageCount(const NSImageRep& imageRep) {
   return pdf ? pdf->pageCount() : 1;
 }
 
-/// Whether some of the picture lies in the rectangle.
+/// True if some of the picture lies in the rectangle.
 bool showsPicture(const NSImageRep& imageRep, const PictureRegion& region) {
   const QPolygonF outline(QRectF(QPointF(0, 0), imageRep.size()));
   const QPolygonF turned = pictureToView(imageRep.size(), region.rotate).map(outline);

@@ -32,7 +32,7 @@ void checkConversion(Conversion& conversion, PictureEncoder& encoder, const QByt
     conversion.size = 0;
     return;
   }
-  // What was handed on was opened already.
+  // A source that was handed on was opened already.
   if (const Result<void> opens = checkOutput(conversion.bytes); !opens && conversion.bytes != source) {
     conversion.report.error = opens.error();
     conversion.bytes.clear();

@@ -1,4 +1,4 @@
-// What is looked at once a conversion has its bytes.
+// The checks of a conversion's bytes.
 #pragma once
 
 #include "cli/conversion.h"

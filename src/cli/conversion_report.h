@@ -1,4 +1,4 @@
-// What a conversion has to tell: as a JSON object and as one line.
+// The report of a conversion: as a JSON object and as one line.
 #pragma once
 
 #include <QJsonObject>

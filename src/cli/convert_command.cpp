@@ -29,7 +29,7 @@ Conversion interrupted() {
   return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
 }
 
-/// What can be known before the work is done: that its result could not be kept.
+/// The failure that is known before the work is done: its result could not be kept.
 std::optional<Conversion> refusalOf(const ConvertTask& task, const ConvertPlan& plan) {
   if (task.output == QLatin1String("-")) return std::nullopt;
   if (const auto error = overwritesInput(task.file, task.output)) return refused(error->kind, error->message);

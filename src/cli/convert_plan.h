@@ -1,4 +1,4 @@
-// What `norvex convert` was asked to do, checked before any work begins.
+// The request of `norvex convert`, checked before any work begins.
 #pragma once
 
 #include <QList>

@@ -1,4 +1,4 @@
-// What is known about a document without rendering it.
+// The facts of a document without rendering it.
 #pragma once
 
 #include <QByteArray>

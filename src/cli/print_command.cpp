@@ -18,14 +18,14 @@
 namespace norvex {
 namespace {
 
-/// Whether nobody will take a PDF of that name for something else. A name without an extension says nothing.
+/// True if nobody will take a PDF of that name for something else. A name without an extension says nothing.
 bool isNamedAsPdf(const QString& output) {
   const QFileInfo file(output);
   return file.completeBaseName().isEmpty() || file.suffix().isEmpty() ||
          !file.suffix().compare(QLatin1String("pdf"), Qt::CaseInsensitive);
 }
 
-/// What is wrong with the arguments; empty: nothing.
+/// The fault of the arguments; empty: none.
 QString complaintAboutPrinting(const Arguments& arguments) {
   if (arguments.has(Option::Printer) == arguments.has(Option::Output))
     return QStringLiteral("give either a printer (--printer NAME) or a file to write (-o OUT.pdf)");

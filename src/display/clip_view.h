@@ -18,7 +18,7 @@ class ClipView {
   [[nodiscard]] const QSizeF& frameSize() const { return frameSize_; }
   [[nodiscard]] const QSizeF& documentSize() const { return documentSize_; }
   [[nodiscard]] double scale() const { return scale_; }
-  /// What of the document plane is shown: the frame's size divided by the scale.
+  /// The visible part of the document plane: the frame's size divided by the scale.
   [[nodiscard]] const QRectF& bounds() const { return bounds_; }
   /// The same without what lies outside the document.
   [[nodiscard]] QRectF documentVisibleRect() const;

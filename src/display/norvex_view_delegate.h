@@ -12,7 +12,7 @@ class NorvexViewDelegate {
  public:
   virtual ~NorvexViewDelegate() = default;
 
-  /// Whether norvexView() is of any use; the view asks once, in setDelegate().
+  /// True if norvexView() is of any use; the view asks once, in setDelegate().
   [[nodiscard]] virtual bool respondsToSelectedRangeStrings() const { return true; }
   /// The turning direction of the inspector's dial ("dialKnob").
   [[nodiscard]] virtual bool dialKnobClockwise() const = 0;

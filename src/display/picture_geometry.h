@@ -25,7 +25,7 @@ inline constexpr double twoPi = 6.283185307179586;
 /// The drawing transform, which takes a picture point to its view point: the inverse of viewToPicture().
 [[nodiscard]] QTransform pictureToView(const QSizeF& imageSize, double rotate);
 
-/// Whether every number is finite; nothing is drawn or composed with others.
+/// True if every number is finite; nothing is drawn or composed with others.
 [[nodiscard]] bool isFinite(const QTransform& transform);
 [[nodiscard]] bool isFinite(const QRectF& rect);
 

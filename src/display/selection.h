@@ -18,7 +18,7 @@ class Selection {
     StartPoint,  ///< width above 0 (1 when at rest), height 0; the origin is the start point
     Rectangle,   ///< width and height above 0
   };
-  /// What is left to do once the mouse button is up.
+  /// The action that is left once the mouse button is up.
   enum class Ending {
     Done,     ///< nothing: what the last tracked point showed stays
     Changed,  ///< the selection was set back to its start point: show and report it again
@@ -32,7 +32,7 @@ class Selection {
   /// Between press() and release() or cancel().
   [[nodiscard]] bool tracking() const { return drag_ != Drag::None; }
 
-  /// Whether the pointer has moved since the last press(); without that it is a click.
+  /// True if the pointer has moved since the last press(); without that it is a click.
   [[nodiscard]] bool sawDrag() const { return sawDrag_; }
 
   /// No selection, with its origin and the start point at `point`.

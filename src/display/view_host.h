@@ -7,9 +7,9 @@
 
 namespace norvex {
 
-/// What NorvexView needs of its host. All rectangles and points are in view coordinates (points, y up, origin
-/// at the picture's centre once the view was rotated for the first time). Main thread only. The host outlives
-/// the view or is taken away with NorvexView::setHost(nullptr).
+/// The host of NorvexView, as the view needs it. All rectangles and points are in view coordinates (points, y
+/// up, origin at the picture's centre once the view was rotated for the first time). Main thread only. The
+/// host outlives the view or is taken away with NorvexView::setHost(nullptr).
 class ViewHost {
  public:
   virtual ~ViewHost() = default;

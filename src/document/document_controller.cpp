@@ -33,7 +33,7 @@ QString readingFailure(const QUrl& url, const Error& error) {
 
 }  // namespace
 
-/// What the worker thread has to tell: a type, or a failure.
+/// The worker thread's result: a type, or a failure.
 struct DocumentController::Read {
   QString type;
   std::optional<OpenFailure> failure;

@@ -39,7 +39,7 @@ class DocumentController : public QObject {
   [[nodiscard]] QList<Document*> documents() const { return documents_; }
   /// The open document of that file; null when there is none.
   [[nodiscard]] Document* documentForURL(const QUrl& url) const;
-  /// Whether files are still being read.
+  /// True if files are still being read.
   [[nodiscard]] bool isReading() const { return !reading_.isEmpty(); }
 
  signals:

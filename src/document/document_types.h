@@ -8,7 +8,7 @@ namespace norvex {
 
 /// The accepted types in the order in which they are tested: EPS, EPSI, Illustrator, PDF, SVG.
 [[nodiscard]] const QStringList& acceptedDocumentTypes();
-/// Whether the type conforms to one of them; subtypes do. Any thread.
+/// True if the type conforms to one of them; subtypes do. Any thread.
 [[nodiscard]] bool isAcceptedDocumentType(const QString& typeIdentifier);
 /// Extensions, without the dot, under which such files usually come.
 [[nodiscard]] const QStringList& documentFilenameExtensions();

@@ -14,7 +14,7 @@ class Document;
 class NorvexView;
 class PictureProducers;
 
-/// What a document asks of its one window controller. Main thread only. Owned by the document.
+/// A document's one window controller, as the document sees it. Main thread only. Owned by the document.
 class DocumentWindowController {
  public:
   virtual ~DocumentWindowController() = default;
@@ -30,7 +30,8 @@ class DocumentWindowController {
   virtual void windowDidLoad() = 0;
   /// Redraws the window at once.
   virtual void display() = 0;
-  /// What turns the shown picture into bytes; null: this controller writes nothing. Owned by the controller.
+  /// The producers that turn the shown picture into bytes; null: this controller writes nothing. Owned by the
+  /// controller.
   virtual PictureProducers* producers() { return nullptr; }
   /// The view that shows the picture; null before there is one. Owned by the controller.
   [[nodiscard]] virtual NorvexView* imageView() { return nullptr; }
@@ -42,7 +43,7 @@ class DocumentWindowController {
   virtual void fileDidChangeOnDisk() {}
   /// There is no file any more where it was.
   virtual void fileDidDisappear() {}
-  /// Whether the window was to close and does so by itself when its work has ended.
+  /// True if the window was to close and does so by itself when its work has ended.
   [[nodiscard]] virtual bool closesWhenDone() const { return false; }
 };
 

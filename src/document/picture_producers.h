@@ -27,7 +27,7 @@ class PictureProducers {
   virtual QByteArray pngData(const std::shared_ptr<NSImageRep>& imageRep) = 0;
   virtual QByteArray jpgData(const std::shared_ptr<NSImageRep>& imageRep) = 0;
   virtual QByteArray gifData(const std::shared_ptr<NSImageRep>& imageRep) = 0;
-  /// What the bytes of the last call lack, in one sentence; empty when nothing is known to be missing.
+  /// The lack of the last call's bytes, in one sentence; empty when nothing is known to be missing.
   [[nodiscard]] virtual QString lastShortcoming() const = 0;
 };
 

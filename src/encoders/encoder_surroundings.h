@@ -1,4 +1,4 @@
-// What the producers need besides the picture, as this machine and this user have it.
+// The surroundings of the producers besides the picture, as this machine and this user have them.
 #pragma once
 
 #include <QByteArray>

@@ -8,7 +8,7 @@
 
 namespace norvex {
 
-/// What a comment says when the header dictionary has no value for it.
+/// The text of a comment that the header dictionary has no value for.
 struct EpsHeaderDefaults {
   QString creator;       ///< for "%%Creator:"
   QString creationDate;  ///< for "%%CreationDate:"

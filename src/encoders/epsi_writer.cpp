@@ -72,7 +72,7 @@ QByteArray headOf(QByteArrayView source, qsizetype& rest) {
   return box < 0 ? QByteArray() : headUpToBox(source, box + boundingBox.size(), rest);
 }
 
-/// Whether the rest of a comment would be run, now that a line end stands before it.
+/// True if the rest of a comment would be run, now that a line end stands before it.
 bool wouldRun(QByteArrayView source, qsizetype rest) {
   const QByteArrayView line = source.sliced(rest, lineEndOf(source, rest) - rest);
   return !std::all_of(line.begin(), line.end(),

@@ -45,7 +45,7 @@ struct Pixels {
   bool transparency = false;
 };
 
-/// What is not seen gets the colour of its neighbour, so that it asks for no colour of its own and leaves the
+/// An unseen pixel gets the colour of its neighbour, so that it asks for no colour of its own and leaves the
 /// dithering of what is seen alone.
 Pixels pixelsOf(const NSBitmapImageRep& raster) {
   const size_t count = size_t(raster.pixelsWide) * size_t(raster.pixelsHigh);

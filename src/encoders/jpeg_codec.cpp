@@ -43,7 +43,7 @@ void setUp(jpeg_compress_struct& codec, const NSBitmapImageRep& raster, const Ra
       static_cast<UINT16>(std::clamp(std::lround(properties.dpi), 1L, 65535L));
 }
 
-/// What is alive across libjpeg's long jumps is owned by the caller of this function, not by its frame.
+/// Everything alive across libjpeg's long jumps is owned by the caller of this function, not by its frame.
 bool writeJpeg(jpeg_compress_struct& codec, FailureHandler& failure, const NSBitmapImageRep& raster,
                const RasterProperties& properties, QByteArray& row) {
   if (setjmp(failure.whereToGo)) return false;

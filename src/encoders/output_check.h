@@ -7,7 +7,7 @@
 
 namespace norvex {
 
-/// Whether this program would open `bytes` as what they claim to be, as far as a look at the header, the
+/// True if this program would open `bytes` as what they claim to be, as far as a look at the header, the
 /// sections and the end tells: no picture process is asked. EPS has to begin with PostScript that states a
 /// box, and a binary one has to hold all of its sections; a PDF has to end as one. Other bytes pass. Fails
 /// with a sentence. Thread-safe.

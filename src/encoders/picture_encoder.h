@@ -17,7 +17,7 @@
 
 namespace norvex {
 
-/// What a production has to tell besides its bytes.
+/// The remarks of a production besides its bytes.
 struct EncodingReport {
   int regionsRasterised = 0;       ///< parts that the target could only hold as images
   double rasterisedAreaShare = 0;  ///< 0 … 1 of the picture

@@ -27,7 +27,7 @@ int filtersFor(const uchar* row, const uchar* rowAbove, size_t bytes) {
   return std::memcmp(row, rowAbove, bytes) == 0 ? PNG_FILTER_UP : PNG_ALL_FILTERS;
 }
 
-/// What is alive across libpng's long jumps is owned by the caller of this function, not by its frame.
+/// Everything alive across libpng's long jumps is owned by the caller of this function, not by its frame.
 bool writePng(png_structp png, png_infop info, const NSBitmapImageRep& raster,
               const RasterProperties& properties, QByteArray& row) {
   if (setjmp(png_jmpbuf(png))) return false;

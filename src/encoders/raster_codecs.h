@@ -11,7 +11,7 @@
 
 namespace norvex {
 
-/// What is stored beside the samples.
+/// The facts that are stored beside the samples.
 struct RasterProperties {
   double dpi = 72;        ///< resolution; Default: one pixel a point
   QByteArray iccProfile;  ///< of the samples' colour space; empty: none is embedded
@@ -38,7 +38,7 @@ struct CodecOf {
 [[nodiscard]] QByteArray encodeRaster(PictureFormat format, const NSBitmapImageRep& raster,
                                       const RasterProperties& properties);
 
-/// Whether the codecs take this layout.
+/// True if the codecs take this layout.
 [[nodiscard]] bool isEncodable(const NSBitmapImageRep& raster);
 
 /// RGBA with colours that are not multiplied by their opacity, as most formats store them; clear pixels are

@@ -57,7 +57,7 @@ QByteArrayView lastWord(QByteArrayView program) {
   return {};
 }
 
-/// What programs end with; some name their restore "rs" or "gr".
+/// The words that end a program; some name their restore "rs" or "gr".
 bool endsPrograms(QByteArrayView word) {
   static constexpr std::array<const char*, 12> words{"showpage",    "end",     "restore", "grestore",
                                                      "grestoreall", "pdfmark", "quit",    "stop",

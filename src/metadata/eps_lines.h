@@ -5,7 +5,7 @@
 
 namespace norvex {
 
-/// Whether a line begins at `at`: the first, or one behind LF or CR.
+/// True if a line begins at `at`: the first, or one behind LF or CR.
 [[nodiscard]] bool beginsLine(QByteArrayView program, qsizetype at);
 
 /// Where the line that holds `at` ends, its LF or CR not included.

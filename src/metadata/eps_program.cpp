@@ -8,7 +8,7 @@ namespace {
 
 constexpr QByteArrayView kLanguageChange("\x1B%-12345X");
 
-// What a printer is told before and behind the program is none of an interpreter's business.
+// A printer's commands before and behind the program are none of an interpreter's business.
 QByteArrayView withoutPrinterLanguage(QByteArrayView program) {
   if (!program.startsWith(kLanguageChange)) return program;
   const qsizetype start = program.indexOf("%!");

@@ -13,7 +13,7 @@ bool isAscii(QByteArrayView bytes) {
   return std::all_of(bytes.begin(), bytes.end(), [](char c) { return uchar(c) < 0x80; });
 }
 
-/// Whether a byte stands there that no text has. Spoolers end files with 04.
+/// True if a byte stands there that no text has. Spoolers end files with 04.
 bool holdsBinaryData(QByteArrayView program) {
   return std::any_of(program.begin(), program.end(),
                      [](char c) { return uchar(c) < 0x20 && !QByteArrayView("\t\n\r\f\x04").contains(c); });

@@ -1,4 +1,4 @@
-// What the header of a source says that decodes in no encoding.
+// The header of a source that decodes in no encoding, guessed.
 #pragma once
 
 #include <QByteArray>

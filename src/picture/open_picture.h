@@ -16,7 +16,7 @@
 
 namespace norvex {
 
-/// What an image representation is made from.
+/// The sources of an image representation.
 struct PictureSource {
   QByteArray bytes;
   QString typeIdentifier;  ///< decides which representation is tried

@@ -121,7 +121,7 @@ Printer printerOf(const cups_dest_t& destination) {
   return printer;
 }
 
-/// What the service said last, as the rest of a sentence.
+/// The service's last words, as the rest of a sentence.
 QString lastReason() {
   QString text = QString::fromUtf8(cupsLastErrorString()).simplified().left(200);
   while (text.endsWith(u'.')) text.chop(1);

@@ -11,7 +11,7 @@
 
 namespace norvex {
 
-/// What one preview shows. A value.
+/// The contents of one preview. A value.
 struct PageImageRequest {
   PrintSource source;
   NSPrintInfo info;

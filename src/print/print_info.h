@@ -11,7 +11,7 @@
 namespace norvex {
 
 enum class NSPaperOrientation { Portrait = 0, Landscape = 1 };
-/// What becomes of a picture that is larger than a page: more pages, made to fit, cut off.
+/// The fate of a picture that is larger than a page: more pages, made to fit, cut off.
 enum class NSPrintingPaginationMode { Automatic = 0, Fit = 1, Clip = 2 };
 
 // Keys of the settings dictionary.

@@ -21,7 +21,7 @@ class NSPrintOperation;
 class PictureService;
 class PrintSpooler;
 
-/// What a print panel lets people choose; values of NSPrintPanel::options().
+/// The choices of a print panel; values of NSPrintPanel::options().
 enum NSPrintPanelOption {
   NSPrintPanelShowsCopies = 1,
   NSPrintPanelShowsPageRange = 2,
@@ -64,7 +64,7 @@ class PrintInteraction {
   virtual void jobDidEnd(int job, const QString& title, const Result<void>& result) = 0;
 };
 
-/// What a job needs besides the view; none is owned, all outlive the operation.
+/// The surroundings of a job besides the view; none is owned, all outlive the operation.
 struct PrintServices {
   PictureService* pictures = nullptr;
   PrintSpooler* spooler = nullptr;

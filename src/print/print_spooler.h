@@ -21,7 +21,7 @@ struct Printer {
   bool isDefault = false;
 };
 
-/// What a printer is told besides the pages.
+/// The options of a printer job besides the pages.
 struct PrintTicket {
   QString printer;  ///< an identifier; empty: the default printer
   QString title;

@@ -1,4 +1,4 @@
-// What is printed: a view, or what is left of it once a job has begun.
+// The printed view, or its remains once a job has begun.
 #pragma once
 
 #include <QSizeF>

@@ -5,7 +5,7 @@
 
 namespace norvex {
 
-/// What runs already: one of the two, or none.
+/// The picture process that runs already: one of the two, or none.
 struct StartedPrograms {
   SpawnedWorker worker;
   SpawnedPicture picture;

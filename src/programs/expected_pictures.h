@@ -1,4 +1,4 @@
-// What the arguments of a run let expect of its pictures, before any of them is read.
+// The pictures of a run as its arguments let expect them, before any of them is read.
 #pragma once
 
 #include "protocol/picture_needs.h"

@@ -51,7 +51,7 @@ bool mayOpenFiles() {
   return false;
 }
 
-/// What is only asked about the program itself needs no picture process.
+/// Questions about the program itself need no picture process.
 bool mayNeedPictures(int argc, char** argv) {
   return argc < 2 || (argv[1][0] != '-' && norvex::commandNamed(argv[1]) != norvex::Command::Status);
 }

@@ -29,7 +29,7 @@ struct NSBitmapImageRep {
   double pointsHigh = 0;
   QByteArray data;
 
-  /// Whether the numbers are sane and data is large enough for them.
+  /// True if the numbers are sane and data is large enough for them.
   [[nodiscard]] bool isConsistent() const;
   /// Bytes of one plane: bytesPerRow × pixelsHigh.
   [[nodiscard]] qsizetype bytesPerPlane() const;

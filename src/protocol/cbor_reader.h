@@ -103,10 +103,10 @@ class CborReader {
       list.append(element);
     }
   }
-  /// What must be true of the values, or the map is wrong.
+  /// A condition of the values; where it fails, the map is wrong.
   void require(bool condition) { failed_ = failed_ || !condition; }
 
-  /// Whether every field was right and none is left over. REQUIRES that all fields have been asked for.
+  /// True if every field was right and none is left over. REQUIRES that all fields have been asked for.
   [[nodiscard]] bool complete() const { return !failed_ && asked_ == map_.size(); }
 
  private:

@@ -7,7 +7,7 @@
 
 namespace norvex {
 
-/// What one interpreter works with. Nothing in it names a file: whoever asks has read a document already.
+/// The descriptors of one interpreter. Nothing in it names a file: whoever asks has read a document already.
 struct InterpreterRequest {
   PictureLimits limits;
   FileDescriptor program;   ///< the PostScript, to be read to its end

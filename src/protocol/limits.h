@@ -33,7 +33,7 @@ inline constexpr qsizetype messageGrowth = 64 << 10;
 inline constexpr int maximumMessageDepth = 4;
 /// A caller that posts without waiting for answers until the memory is full.
 inline constexpr size_t maximumWaitingRequests = 16;
-// What a message may hold. The encoders clip texts and lists to these, so that an honest document with a huge
+// Bounds of a message. The encoders clip texts and lists to these, so that an honest document with a huge
 // title is shown with a shorter one; the decoders refuse more: texts and lists that fill the window's memory
 // or keep it busy laying them out. Together they stay below maximumMessageBytes.
 inline constexpr int maximumTextLength = 16 << 10;     ///< UTF-16 units of a fact

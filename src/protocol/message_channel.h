@@ -41,7 +41,7 @@ class MessageChannel {
   Result<ChannelMessage> receive(QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever),
                                  int interruption = -1);
 
-  /// Whether the other side still holds its end. True also while unread bytes wait.
+  /// True if the other side still holds its end. True also while unread bytes wait.
   [[nodiscard]] bool isConnected() const;
   [[nodiscard]] int socket() const { return socket_.get(); }
   [[nodiscard]] bool valid() const { return socket_.valid(); }

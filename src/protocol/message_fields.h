@@ -34,7 +34,7 @@ void version(V& v) {
 template <typename Message>
 inline constexpr const char* typeOf = nullptr;
 
-/// Whether `type` is the word of one of the messages that `message` may be. That is then read into it.
+/// True if `type` is the word of one of the messages that `message` may be. That is then read into it.
 template <typename... Messages>
 bool readOneOf(CborReader& reader, const QString& type, std::variant<Messages...>& message) {
   const auto isThis = [&](auto read) {

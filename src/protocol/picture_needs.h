@@ -1,4 +1,4 @@
-// What a picture process must be able to do: only what that takes is loaded into it. Free of Qt, because it
+// The abilities of a picture process: only what they take is loaded into it. Free of Qt, because it
 // is also guessed before Qt is loaded.
 #pragma once
 
@@ -17,13 +17,13 @@ using PictureNeeds = unsigned;
 
 inline constexpr PictureNeeds allPictureNeeds = 63;
 
-/// What a run will probably ask of its pictures, guessed before any of them is read.
+/// The probable requests of a run, guessed before any of its pictures is read.
 struct ExpectedPictures {
   PictureNeeds needs = 0;  ///< 0: nobody knows
   bool single = false;     ///< there is one, without PostScript: it gets a process of its own at once
 };
 
-/// What the pictures of a run are opened for.
+/// The purpose of the pictures of a run.
 enum class PictureUse { Everything, Drawing, WholePdf };
 
 constexpr PictureNeeds svgNeeds(PictureUse use) {

@@ -32,7 +32,7 @@ inline constexpr int workerProtocolVersion = 7;
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
 enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
 
-/// What an engine may use up for one document. What bounds the rest is protocol/limits.h.
+/// The budget of an engine for one document. The other bounds are in protocol/limits.h.
 struct PictureLimits {
   int seconds = 120;        ///< wall time of one request; Default: 120
   int memoryMiB = 1024;     ///< address space of the process and its child. Default: 1024
@@ -100,7 +100,7 @@ struct SvgRequest {
 
 enum class Examination { Contents = 1, Drawn = 2, Inks = 3, Text = 4 };
 
-/// What is in a page: answered by a BytesReply whose memfd holds one CBOR map, see the reader of each.
+/// The contents of a page: answered by a BytesReply whose memfd holds one CBOR map, see the reader of each.
 struct ExamineRequest {
   Examination what = Examination::Contents;
   int page = 0;

@@ -5,7 +5,7 @@
 
 namespace norvex {
 
-/// Whether they begin as a gzip stream does (RFC 1952).
+/// True if they begin as a gzip stream does (RFC 1952).
 [[nodiscard]] inline bool isGzip(QByteArrayView bytes) {
   return bytes.startsWith("\x1f\x8b");
 }

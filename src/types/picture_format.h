@@ -11,12 +11,12 @@
 
 namespace norvex {
 
-/// What is in a document. Other: pixels, which are written and not opened.
+/// The content of a document. Other: pixels, which are written and not opened.
 enum class DocumentKind { Svg, Eps, Illustrator, Pdf, Other };
 
 enum class PictureFormat { Eps, EpsPreview, Epsi, Illustrator, Pdf, Svg, Svgz, Tiff, Png, Jpeg, Gif, Webp };
 
-/// What --quality is for a format where it is not given; otherwise 1 to 100.
+/// The default of --quality for a format; given, it is 1 to 100.
 enum Quality : int { NoQuality = -1, Lossless = 0 };
 
 /// Lists of words are separated by single blanks.

@@ -53,7 +53,7 @@ bool saysIllustrator(const QByteArray& start) {
   return at >= 0 && firstLine(start.sliced(at)).contains("Adobe Illustrator");
 }
 
-/// Whether one of the comment lines that the file begins with announces an interchange preview. A preview
+/// True if one of the comment lines that the file begins with announces an interchange preview. A preview
 /// further down belongs to a picture inside the picture.
 bool announcesPreview(QByteArrayView text) {
   const qsizetype at = text.indexOf("%%BeginPreview:");

@@ -11,7 +11,7 @@
 namespace norvex {
 namespace {
 
-/// What is known about a declared type. The first extension and the first MIME type are the preferred ones.
+/// A declared type. The first extension and the first MIME type are the preferred ones.
 struct Declaration {
   QString identifier;
   QStringList parents;

@@ -1,4 +1,4 @@
-// What was read of a file, in the window's controls.
+// The contents of a file in the window's controls.
 #pragma once
 
 #include <QColorSpace>

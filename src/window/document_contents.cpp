@@ -6,7 +6,6 @@
 #include "picture/open_picture.h"
 #include "picture/pdf_image_rep.h"
 #include "picture/picture_header.h"
-#include "picture/process/finished_pictures.h"
 #include "picture/process/stoppable_process.h"
 #include "picture/web_image_rep.h"
 #include "window/inspector/chosen_encodings.h"
@@ -83,8 +82,7 @@ struct Reader {
 
 DocumentContents readDocumentContents(PictureService& service, const QUrl& fileURL, const QString& fileType,
                                       QThread* home, const CancelToken& cancel) {
-  FinishedPicturesService finishedAlone(service);
-  Reader reader{StoppableService(finishedAlone, cancel), fileURL, {}, cancel, {}};
+  Reader reader{StoppableService(service, cancel), fileURL, {}, cancel, {}};
   reader.contents.kind = documentKind(fileType);
   const Result<QByteArray> file = readDocumentFile(fileURL.toLocalFile());
   if (!file) {

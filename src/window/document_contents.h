@@ -1,4 +1,4 @@
-// What a document window shows of a file, read without a window.
+// The contents of a document window, read from a file without a window.
 #pragma once
 
 #include <QRectF>

@@ -33,7 +33,7 @@ void MainWindowController::connectPrinting() {
   print->setObjectName(QStringLiteral("printAction"));
   print->setShortcut(QKeySequence::Print);
   connect(print, &QAction::triggered, this, [this] { printDocument(); });
-  // What the toolbar's item does, for those who have no mouse.
+  // The toolbar's item, for those who have no mouse.
   auto* printPart = new QAction(localizedString("Print Selected or Visible Pa&rt…"), window_);
   printPart->setObjectName(QStringLiteral("printPartAction"));
   printPart->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_P);

@@ -31,7 +31,8 @@ constexpr size_t enginePartFor(PictureNeeds needs) {
   return first;
 }
 
-/// What the part of this name offers, for the part itself; a name that is not in the table does not compile.
+/// The engines that the part of this name offers, for the part itself; a name that is not in the table does
+/// not compile.
 consteval PictureNeeds offersOfPart(std::string_view name) {
   size_t row = 0;
   while (engineParts[row].name != name) ++row;

@@ -17,7 +17,7 @@ namespace norvex {
 /// child ends, its process group is killed and its scratch folder removed.
 class ForkServer {
  public:
-  /// What a child does with its socket; the process ends when it returns.
+  /// The child's work with its socket; the process ends when it returns.
   using ChildMain =
       std::function<void(FileDescriptor socket, const ForkRequest&, const QString& scratchFolder)>;
 

@@ -1,4 +1,4 @@
-// What is done once before pictures come, so that not each of their processes does it anew.
+// Work done once before pictures come, so that not each of their processes does it anew.
 #pragma once
 
 #include "worker/engine_set.h"

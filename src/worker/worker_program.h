@@ -14,7 +14,7 @@ namespace norvex {
 /// before the first byte of a document is read.
 using EngineSource = std::function<Result<const EngineSet*>(PictureNeeds)>;
 
-/// What a picture process works with.
+/// The engines and services of a picture process.
 struct WorkerEngines {
   EngineSource source;
   /// Starts the interpreter of PostScript in a child that will need it, before its engines are asked for; may
@@ -23,8 +23,8 @@ struct WorkerEngines {
   ForkServer::WarmUp warmUp;  ///< may be empty
 };
 
-/// What the child for one document does: confines itself and serves. Without engines it answers why there are
-/// none.
+/// The life of the child for one document: it confines itself and serves. Without engines it answers why
+/// there are none.
 [[nodiscard]] ForkServer::ChildMain documentChild(const WorkerEngines& engines,
                                                   const ConfinementLayers& layers = {});
 

@@ -2,11 +2,11 @@
 
 #include "base/atomic_file.h"
 #include "base/file_name.h"
+#include "base/interruption.h"
 #include "cli/archive/archive_run.h"
 #include "cli/archive/file_job.h"
 #include "cli/archive/state/state_summary.h"
 #include "cli/archive/state_report.h"
-#include "cli/interruption.h"
 #include "cli/json_output.h"
 
 namespace norvex {

@@ -20,7 +20,7 @@ struct Shard {
   int index = 1, count = 1;  ///< from 1
   bool byContent = false;
 
-  /// Whether a file belongs to it by the hash of its place or of its bytes.
+  /// True if a file belongs to it by the hash of its place or of its bytes.
   [[nodiscard]] bool holds(const QByteArray& hashed) const;
 };
 
@@ -38,7 +38,7 @@ struct ArchivePlan {
   int memoryTotalMiB = 0;  ///< 0: not bounded
   bool jsonLines = false, unordered = false, retryFailed = false, quiet = false;
 
-  /// Whether the names can be gone through twice.
+  /// True if the names can be gone through twice.
   [[nodiscard]] bool isRewindable() const;
   /// The names from the first one. CannotRead.
   [[nodiscard]] Result<std::unique_ptr<NameSource>> names(const CancelToken& cancel) const;

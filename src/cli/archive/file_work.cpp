@@ -26,7 +26,7 @@ bool hasDied(const FileAnswer& answer) {
   return answer.error && (answer.error->kind == ErrorKind::Died || answer.error->kind == ErrorKind::Protocol);
 }
 
-/// Whether one process alone will work on it: PostScript takes an interpreter besides.
+/// True if one process alone will work on it: PostScript takes an interpreter besides.
 bool needsOneProcess(const QByteArray& path) {
   const FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   char begin[8] = {};

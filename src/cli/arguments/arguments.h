@@ -11,7 +11,7 @@
 
 namespace norvex {
 
-/// What a run is asked to do. A value.
+/// The request of a run. A value.
 struct Arguments {
   Command command = Command::Main;
   QStringList files;  ///< as they were given; "-" is standard input
@@ -20,7 +20,7 @@ struct Arguments {
   QHash<Option, QStringList> lists;  ///< all values of the options that may be given more than once
 
   [[nodiscard]] bool has(Option option) const { return values.contains(option); }
-  /// Whether the files are those of an archive: told by lists, trees or a state.
+  /// True if the files are those of an archive: told by lists, trees or a state.
   [[nodiscard]] bool asksForArchive() const;
 };
 
@@ -33,11 +33,11 @@ struct ReadArguments {
 /// Reads the arguments behind the program's name. Options may stand before and behind files, "--" ends them.
 [[nodiscard]] ReadArguments readArguments(const QStringList& given);
 
-/// Whether `first`, the argument behind the program's name, asks for the command line and not for a window: a
+/// True if `first`, the argument behind the program's name, asks for the command line and not for a window: a
 /// command, or something that begins with two dashes and is not an option of the window system.
 [[nodiscard]] bool asksForCommandLine(const QString& first);
 
-/// Whether it is written as commands are, in letters alone. Where no file of that name is there, it is a
+/// True if it is written as commands are, in letters alone. Where no file of that name is there, it is a
 /// command that does not exist, and is answered as one.
 [[nodiscard]] bool looksLikeCommand(const QString& first);
 

@@ -14,7 +14,7 @@ namespace norvex {
 
 enum class Command { Main, Info, Source, Preview, Convert, Print, Status, Thumbnail, Check, Repair };
 
-/// What follows a command besides options.
+/// The arguments of a command besides options.
 struct CommandRow {
   Command id;
   std::string_view name;      ///< empty: the program without a command
@@ -234,12 +234,12 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
   return own;
 }
 
-/// Whether `first`, the first argument, makes a program with windows that shows none before it is asked to.
+/// True if `first`, the first argument, makes a program with windows that shows none before it is asked to.
 [[nodiscard]] constexpr bool asksForDesktopService(std::string_view first) {
   return first.starts_with("--") && first.substr(2) == rowOf(Option::DBusService).name;
 }
 
-/// Whether a run whose first argument is `first` takes neither windows nor printers: it is a light command,
+/// True if a run whose first argument is `first` takes neither windows nor printers: it is a light command,
 /// or an option about the program itself.
 [[nodiscard]] constexpr bool asksForLightCommand(std::string_view first) {
   if (const auto command = commandNamed(first)) return rowOf(*command).isLight;

@@ -1,4 +1,5 @@
-// What a conversion asks of the picture process. Free of Qt, because it is also guessed before Qt is loaded.
+// The needs of a conversion of the picture process. Free of Qt, because it is also guessed before Qt is
+// loaded.
 #pragma once
 
 #include <optional>

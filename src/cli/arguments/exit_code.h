@@ -1,4 +1,4 @@
-// What the program's exit status says.
+// The program's exit status.
 #pragma once
 
 #include <QList>

@@ -1,4 +1,4 @@
-// What the table of formats says on the command line.
+// The table of formats in the words of the command line.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// What somebody meant who typed something else.
+// Suggestions for a mistyped word.
 #pragma once
 
 #include <QString>

@@ -6,8 +6,8 @@
 #include <chrono>
 
 #include "base/time_limit.h"
-#include "picture/embedded_preview.h"
 #include "picture/bitmap_image.h"
+#include "picture/embedded_preview.h"
 
 namespace norvex {
 namespace {

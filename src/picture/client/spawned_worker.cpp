@@ -119,7 +119,7 @@ SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected, boo
 }
 
 SpawnedPicture spawnPicture(const std::string& program, PictureNeeds needs) {
-  // What the linker may say about it is told in a sentence by the program that is then started instead.
+  // The linker's complaint is told in a sentence by the program that is then started instead.
   Spawned spawned = spawn(program, {}, Messages::Nowhere);
   return {spawned.pid, std::move(spawned.pidfd), std::move(spawned.connection), needs};
 }

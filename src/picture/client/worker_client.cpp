@@ -12,7 +12,7 @@
 namespace norvex {
 namespace {
 
-/// Whether the document itself is the reason, so that another try would end the same way.
+/// True if the document itself is the reason, so that another try would end the same way.
 bool isFinal(ErrorKind kind) {
   return kind != ErrorKind::TimedOut && kind != ErrorKind::Cancelled && kind != ErrorKind::Died &&
          kind != ErrorKind::Protocol;
@@ -54,7 +54,7 @@ Result<void> WorkerClient::beginToOpen() {
 
 template <typename T>
 Result<T> WorkerClient::distrusted(Result<T> result) {
-  // What has lied once, or has died, is not asked again.
+  // A process that has lied once, or has died, is not asked again.
   if (!result && (result.error().kind == ErrorKind::Protocol || result.error().kind == ErrorKind::Died))
     connection_.reset();
   return result;

@@ -13,7 +13,7 @@
 
 namespace norvex {
 
-/// What came back for a request. Every number in the body is within the protocol's limits and nothing more is
+/// The answer to a request. Every number in the body is within the protocol's limits and nothing more is
 /// known: whoever uses it compares it with what was asked and with the descriptor.
 struct WorkerAnswer {
   ReplyBody body;
@@ -33,11 +33,11 @@ class WorkerConnection {
   WorkerConnection& operator=(const WorkerConnection&) = delete;
 
   [[nodiscard]] const ForkRequest& request() const { return request_; }
-  /// Whether the process is our own child, started before anybody had asked for it.
+  /// True if the process is our own child, started before anybody had asked for it.
   [[nodiscard]] bool isOwnChild() const { return starter_ == nullptr; }
-  /// Whether such a process has ended by itself and without an answer: it could not be loaded, most likely.
+  /// True if such a process has ended by itself and without an answer: it could not be loaded, most likely.
   [[nodiscard]] bool hasNotComeUp() const { return hasNotComeUp_; }
-  /// Whether the process lives and nothing unexpected has come from it.
+  /// True if the process lives and nothing unexpected has come from it.
   [[nodiscard]] bool isUsable() const;
 
   /// Sends a request and gives its id. Fails with Limit when it is out of the protocol's range, else as the

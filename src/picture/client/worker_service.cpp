@@ -22,7 +22,7 @@ bool areAlike(const PictureLimits& a, const PictureLimits& b) {
   return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels;
 }
 
-/// Whether what was prepared will do for what is wanted now.
+/// True if what was prepared will do for what is wanted now.
 bool fits(const ForkRequest& prepared, const ForkRequest& wanted) {
   return areAlike(prepared.limits, wanted.limits) && prepared.postScript == wanted.postScript &&
          (wanted.needs & ~prepared.needs) == 0;

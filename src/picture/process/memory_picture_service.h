@@ -21,7 +21,7 @@ namespace norvex {
 /// The calls of a PictureProcess, to count them and to make them fail.
 enum class PictureCall { Facts, Render, Pdf, Compose, Svg, Examine, Attributes };
 
-/// What the answers of a memory process are. Every function may be replaced; it runs on the caller's thread,
+/// The answers of a memory process. Every function may be replaced; it runs on the caller's thread,
 /// and several threads never run it at the same time.
 struct MemoryPicture {
   /// One page of 200 × 100 points at the origin.
@@ -113,7 +113,7 @@ class MemoryPictureService final : public PictureService {
  public:
   explicit MemoryPictureService(MemoryPicture picture = {}) : picture_(std::move(picture)) {}
 
-  /// What open() and decodePreview() do from now on.
+  /// The behaviour of open() and decodePreview() from now on.
   void setPicture(const MemoryPicture& picture);
   void setPreview(const Result<NSBitmapImageRep>& preview);
   /// Called with each new process before open() returns it (to make it fail or wait from its first call on).

@@ -55,7 +55,7 @@ class PictureProcess {
   /// Tells that nothing more will be asked, so that the process can go while its results are worked on. A
   /// call all the same starts another. Waits for a call under way.
   virtual void retire() = 0;
-  /// What render() has found out so far about how the document is drawn, one plain sentence each: fonts that
+  /// Remarks of render() so far on how the document is drawn, one plain sentence each: fonts that
   /// others stand in for.
   [[nodiscard]] virtual QStringList drawingRemarks() const = 0;
 };

@@ -31,9 +31,9 @@ class StoppableProcess final : public ForwardingProcess {
 
   void stop();
   void resume();
-  /// Whether renderings that were stopped have not ended yet.
+  /// True if renderings that were stopped have not ended yet.
   [[nodiscard]] bool isStopping();
-  /// Whether the error says that the drawing was stopped, not that it failed.
+  /// True if the error says that the drawing was stopped, not that it failed.
   [[nodiscard]] static bool meansStopped(const Error& error);
 
   Result<PictureFacts> facts(const CancelToken& cancel = {}) override;

@@ -24,7 +24,7 @@ class RenderedLayer {
   /// How far a point of a picture of this size moves at most between the layer and a view, the translation
   /// aside; pixels.
   [[nodiscard]] double distance(const QTransform& pictureToDevice, const QSizeF& pictureSize) const;
-  /// Whether `pictureToDevice` has the same scale and angle, so exactly that no pixel moves visibly.
+  /// True if `pictureToDevice` has the same scale and angle, so exactly that no pixel moves visibly.
   [[nodiscard]] bool fits(const QTransform& pictureToDevice, const QSizeF& pictureSize) const {
     return distance(pictureToDevice, pictureSize) < 0.05;
   }

@@ -168,7 +168,7 @@ QRect RenderedPicture::wantedRect(const View& view, bool withMargin) const {
 }
 
 void RenderedPicture::plan() {
-  // What only waits is planned anew, so that many small steps of a view end as one rendering.
+  // Requests that only wait are planned anew, so that many small steps of a view end as one rendering.
   const QSet<quint64> begun = queue_.suspend();
   outstanding_.removeIf([&](const RenderJob& job) { return !begun.contains(job.id); });
   QList<RenderJob> jobs;

@@ -50,9 +50,9 @@ class RenderedPicture final : public QObject {
   void draw(QPainter& painter, const QTransform& pictureToDevice, const QRect& visibleDeviceRect);
   /// Makes this the current view. Cheap when nothing is missing, so it may follow every draw().
   void request(const QTransform& pictureToDevice, const QRect& visibleDeviceRect);
-  /// Whether draw() would show every pixel of this view as it was rendered for it.
+  /// True if draw() would show every pixel of this view as it was rendered for it.
   [[nodiscard]] bool isSharpFor(const QTransform& pictureToDevice, const QRect& visibleDeviceRect) const;
-  /// Whether a part of the current view is being rendered.
+  /// True if a part of the current view is being rendered.
   [[nodiscard]] bool isBusy() const;
 
   /// Why the current view does not become sharp. A failed view is not asked for again until retry(); another

@@ -1,4 +1,4 @@
-// What assistive technology learns about our own controls: what they are, what they show, what can be done
+// Our own controls for assistive technology: what they are, what they show, what can be done
 // with them.
 #pragma once
 

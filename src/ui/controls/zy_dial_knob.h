@@ -26,7 +26,7 @@ class ZyDialKnob final : public QWidget {
   /// schemes; no background: the window shows through.
   void setTickMarks(const QColor& marks, const std::optional<QColor>& background, double width);
   void setBordered(bool bordered);
-  /// Whether the user may turn it.
+  /// True if the user may turn it.
   void setEditable(bool editable);
   /// The field that shows the angle from now on (not owned; may be null).
   void setDmsTextField(NumberField* field);

@@ -1,4 +1,4 @@
-// What assistive technology reads from the dial.
+// The dial for assistive technology.
 #pragma once
 
 #include <QAccessibleWidget>

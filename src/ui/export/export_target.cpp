@@ -15,7 +15,7 @@
 namespace norvex {
 namespace {
 
-/// Whether a file of that name would be taken for one of `format`.
+/// True if a file of that name would be taken for one of `format`.
 bool isNamedFor(const QString& name, PictureFormat format) {
   return hasName(rowOf(format).extensions, pathExtension(name).toStdString()) ||
          isSameName(writtenExtension(format), pathExtension(name).toStdString());

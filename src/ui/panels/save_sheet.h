@@ -18,7 +18,7 @@ class SaveSheet final : public QFileDialog {
   SaveSheet(QWidget* window, SavePanelSettings settings);
   ~SaveSheet() override;
 
-  /// What was typed, and the type that is chosen.
+  /// The name that was typed, and the type that is chosen.
   [[nodiscard]] SavePanelAnswer answer() const;
   [[nodiscard]] QCheckBox* hideExtensionBox() const { return hideExtension_; }
 

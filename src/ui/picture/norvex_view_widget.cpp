@@ -22,7 +22,7 @@ namespace {
 constexpr int kPeriodMs = 40;
 constexpr double kLargestStep = 40;  // logical pixels
 
-/// What a person does other than moving the pointer and letting go of the left button.
+/// Input other than moving the pointer and letting go of the left button.
 bool isOtherInput(const QEvent& event) {
   switch (event.type()) {
     case QEvent::KeyPress:

@@ -31,7 +31,7 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   /// The scroll area around it, which calls this. Not owned.
   void setScrollArea(ZoomingScrollArea* area);
 
-  /// What lies under the picture: a colour over the whole clip, or (an invalid colour) a checkerboard where
+  /// The ground under the picture: a colour over the whole clip, or (an invalid colour) a checkerboard where
   /// the view is and the window's colour around it.
   void setBackground(const QColor& color);
 

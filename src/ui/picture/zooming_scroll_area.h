@@ -34,7 +34,7 @@ class ZoomingScrollArea final : public QWidget {
 
   [[nodiscard]] QColor backgroundColor() const { return background_; }
   void setBackgroundColor(const QColor& color);
-  /// Whether the clip (the content view) draws that colour; a checkerboard shows where it does not.
+  /// True if the clip (the content view) draws that colour; a checkerboard shows where it does not.
   void setDrawsBackground(bool draws);
   [[nodiscard]] bool drawsBackground() const { return drawsBackground_; }
 

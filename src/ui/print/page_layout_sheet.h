@@ -22,7 +22,7 @@ class PageLayoutSheet final : public QDialog {
 
   /// Adds controls below the sheet's own; taken over.
   void addAccessoryController(ZyPageLayoutAccessory* accessory);
-  /// What the sheet was given, with everything that was chosen.
+  /// The settings that the sheet was given, with everything that was chosen.
   [[nodiscard]] const NSPrintInfo& printInfo() const { return info_; }
 
  private:

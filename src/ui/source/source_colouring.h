@@ -1,4 +1,4 @@
-// What in a source text is coloured: comments of PostScript, tags of SVG.
+// The parts of a source text that are coloured: comments of PostScript, tags of SVG.
 #pragma once
 
 #include <QList>

@@ -34,7 +34,7 @@ class SourceTextEdit final : public QPlainTextEdit {
   void deselect();
   /// Where the selection, or without one the caret, begins in source().
   [[nodiscard]] qsizetype selectionStart() const;
-  /// Whether all of the text is in the widget's document.
+  /// True if all of the text is in the widget's document.
   [[nodiscard]] bool isComplete() const { return blocks_ && filled_ == blocks_->count(); }
   /// How many parts of the text on the screen are coloured or marked.
   [[nodiscard]] qsizetype markedParts() const { return extraSelections().size(); }

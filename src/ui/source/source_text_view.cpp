@@ -79,7 +79,7 @@ void SourceTextView::select(qsizetype index) {
 }
 
 void SourceTextView::tellNothingFound() {
-  // What was hit before is no hit of these letters; the search goes on from its place.
+  // An earlier hit is no hit of these letters; the search goes on from its place.
   if (!bar_->needle().isEmpty()) edit_->deselect();
   bar_->showOutcome(0, 0);
 }

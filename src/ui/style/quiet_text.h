@@ -13,7 +13,7 @@ namespace norvex {
 [[nodiscard]] QColor quietTextColor(const QPalette& palette);
 /// Gives the widget that colour. Call again from changeEvent() when the palette of its parent changed.
 void makeQuiet(QWidget& widget);
-/// Whether a palette belongs to a dark scheme.
+/// True if a palette belongs to a dark scheme.
 [[nodiscard]] bool isDarkScheme(const QPalette& palette);
 
 }  // namespace norvex

@@ -17,9 +17,9 @@ class ClosingCommand final : public QObject {
  public:
   ClosingCommand(WindowParts& parts, const SaveAsCommand& saving, PrintingCommand& printing);
 
-  /// Whether the window stays for now: the user wants that, or it closes by itself when its work has ended.
+  /// True if the window stays for now: the user wants that, or it closes by itself when its work has ended.
   bool closesLater();
-  /// Whether it was to close and does so by itself when its work has ended.
+  /// True if it was to close and does so by itself when its work has ended.
   [[nodiscard]] bool closesWhenDone() const { return closesWhenDone_; }
   /// Something ended: closes the window if it waited for that.
   void closeIfDone();

@@ -25,7 +25,7 @@ class CopyCommand final : public QObject {
 
   /// Not owned; null: the platform's.
   void setPasteboard(NSPasteboard* pasteboard) { pasteboard_ = pasteboard; }
-  /// What is done instead of the platform's beep.
+  /// Stands in for the platform's beep.
   void setBeep(std::function<void()> beep) { beep_ = std::move(beep); }
 
   /// The picture as it is shown now, with the rectangle that is handed on.

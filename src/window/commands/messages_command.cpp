@@ -149,7 +149,7 @@ void MessagesCommand::retryDrawing() {
   if (process_) process_->resume();
   rep->retryRendering();
   parts_.viewWidget()->update();
-  // What was stopped may end only now, and would count as this try's failure.
+  // The stopped try may end only now, and would count as this try's failure.
   QTimer::singleShot(kStoppedEndsMs, rep, [this, rep] {
     if (parts_.view()->imageRep().get() != rep) return;
     const auto error = rep->renderingError();

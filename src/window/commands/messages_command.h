@@ -1,4 +1,4 @@
-// What the window tells about its picture: progress, problems, a file that changed.
+// The window's messages about its picture: progress, problems, a file that changed.
 #pragma once
 
 #include <QObject>
@@ -42,7 +42,7 @@ class MessagesCommand final : public QObject {
   void stopDrawing();
   void fileDidChange();
   void fileDidDisappear();
-  /// What was read again is no picture any more.
+  /// The file that was read again is no picture any more.
   void pictureStays(const Error& error);
   /// The picture's PDF form could not be made.
   void showPdfFailure(const Error& error);

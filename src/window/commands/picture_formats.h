@@ -23,7 +23,7 @@ namespace norvex {
 /// thread.
 using PromisedData = PromisedValue<QByteArray>;
 
-/// What is handed on: the picture as the window showed it at one moment. Later changes of the view change
+/// A copy of the picture as the window showed it at one moment. Later changes of the view change
 /// nothing in it. A value; any thread.
 struct PictureSnapshot {
   std::shared_ptr<NSImageRep> imageRep;  ///< null: no picture

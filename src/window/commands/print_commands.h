@@ -37,7 +37,7 @@ class PrintCommands final : public QObject {
                       const QString& windowTitle, PrintServices services);
   /// Runs the operation and keeps it as long as it takes. Null is nothing.
   void run(std::unique_ptr<NSPrintOperation> operation);
-  /// Whether a job is under way, or its picture is being made.
+  /// True if a job is under way, or its picture is being made.
   [[nodiscard]] bool isPrinting() const { return preparing_ != nullptr || !operations_.empty(); }
   void cancelAll();
 
@@ -47,7 +47,7 @@ class PrintCommands final : public QObject {
 
  private:
   using Picture = Result<std::shared_ptr<NSPDFImageRep>>;
-  /// What is printed, but for its picture.
+  /// The job, but for its picture.
   struct Part {
     QSizeF size;
     QString jobTitle, pageTitle;

@@ -26,7 +26,7 @@ class SaveAsCommand final : public QObject {
   /// `title` is the sheet's. Nothing happens without a picture, and while one is being written.
   void run(const QString& title);
   [[nodiscard]] QList<UTType> writableTypes() const;
-  /// Whether a picture is being made or written.
+  /// True if a picture is being made or written.
   [[nodiscard]] bool isSaving() const { return saving_; }
 
  signals:

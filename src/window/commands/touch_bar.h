@@ -15,8 +15,8 @@ inline constexpr char NSTouchBarItemIdentifierOtherItemsProxy[] = "NSTouchBarIte
 
 /// Whom a button asks.
 enum class TouchBarTarget { Document, Controller };
-/// What it asks for. Copy is the controller's copy of the whole picture; the others are the document's own
-/// operations, not the toolbar's commands of the same names.
+/// The commands that it sends. Copy is the controller's copy of the whole picture; the others are the
+/// document's own operations, not the toolbar's commands of the same names.
 enum class TouchBarAction { SaveDocumentAs, SaveDocumentTo, RevertDocumentToSaved, Copy, PrintDocument };
 
 /// A push button of a Touch Bar.

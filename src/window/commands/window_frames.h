@@ -20,12 +20,12 @@ void saveWindowFrame(const QString& autosaveName, const QRect& frame);
 [[nodiscard]] QRect placedOnScreens(QRect frame, const QList<QRect>& screens,
                                     const QList<QPoint>& taken = {});
 
-/// Whether new windows show the touch strip; it is remembered in the same place. False before it was ever
+/// True if new windows show the touch strip; it is remembered in the same place. False before it was ever
 /// shown.
 [[nodiscard]] bool savedTouchBarIsShown();
 void saveTouchBarIsShown(bool shown);
 
-/// Whether the size rule holds; unless the user chose otherwise it does.
+/// True if the size rule holds; unless the user chose otherwise it does.
 [[nodiscard]] bool windowFitsPicture();
 void saveWindowFitsPicture(bool fits);
 

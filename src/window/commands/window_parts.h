@@ -1,4 +1,4 @@
-// What the command objects of a document window work on.
+// The parts of a document window that its command objects work on.
 #pragma once
 
 #include <QColorSpace>

@@ -16,7 +16,7 @@ class PictureService;
 /// Makes an encoder for the picture that is shown at the moment of each call. Main thread only.
 class WindowProducers final : public PictureProducers {
  public:
-  /// What the window shows now; asked at each call, on the main thread.
+  /// The picture that the window shows now; asked at each call, on the main thread.
   struct Shown {
     std::shared_ptr<NSImageRep> imageRep;  ///< null: no picture
     PictureService* service = nullptr;     ///< null: no document

@@ -1,4 +1,4 @@
-// What a document window is doing on other threads.
+// The work of a document window on other threads.
 #pragma once
 
 #include <QList>
@@ -15,7 +15,7 @@ namespace norvex {
 class WindowWork final : public QObject {
   Q_OBJECT
  public:
-  /// What is lost when the window goes: nothing that cannot be had again, or a file that somebody waits for.
+  /// The loss when the window goes: nothing that cannot be had again, or a file that somebody waits for.
   enum class Kind { Reading, Copying, Writing };
 
   using QObject::QObject;

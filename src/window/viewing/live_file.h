@@ -25,7 +25,7 @@ class LiveFile final : public QObject {
 
   /// The choice as a menu item.
   [[nodiscard]] QAction* makeAction();
-  /// Whether a changed file is to be shown again without a question, now.
+  /// True if a changed file is to be shown again without a question, now.
   [[nodiscard]] bool reloadsByItself() const;
   /// Has `reload` read the file again, and puts the new picture where the old one was.
   void reloadInPlace(const std::function<void()>& reload);

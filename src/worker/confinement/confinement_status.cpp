@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kNoSandbox = 6;
 
-/// Whether a process could do it to itself.
+/// True if a process could do it to itself.
 bool works(const std::function<bool()>& layer) {
   const pid_t child = ::fork();
   if (child == 0) ::_exit(layer() ? 0 : 1);

@@ -1,4 +1,4 @@
-// What this system confines documents with, told to people.
+// The confinement of documents on this system, told to people.
 #pragma once
 
 namespace norvex {

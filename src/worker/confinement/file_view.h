@@ -12,7 +12,7 @@ namespace norvex {
 /// False where the system does not permit it: nothing has changed.
 [[nodiscard]] bool enterFileView(const std::string& scratchRoot);
 
-/// Whether this process, or one that forked or started it, has entered the view.
+/// True if this process, or one that forked or started it, has entered the view.
 [[nodiscard]] bool isInFileView();
 
 /// Removes the scratch root for good, for the process that entered the view.

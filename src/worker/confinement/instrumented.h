@@ -1,4 +1,4 @@
-// Whether this build watches itself: sanitizers map terabytes, look at /proc and make calls of their own.
+// True if this build watches itself: sanitizers map terabytes, look at /proc and make calls of their own.
 #pragma once
 
 namespace norvex {

@@ -68,7 +68,7 @@ class Ruleset {
     descriptor_.reset(int(::syscall(kCreateRuleset, &handled_, size, 0)));
   }
 
-  /// What is missing needs no rule.
+  /// A place that is missing needs no rule.
   bool allow(const std::string& path, uint64_t access) {
     const FileDescriptor place(::open(path.c_str(), O_PATH | O_CLOEXEC));
     struct stat status = {};

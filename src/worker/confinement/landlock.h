@@ -6,7 +6,7 @@
 
 namespace norvex {
 
-/// What the running kernel's Landlock can do; everything it lacks is open, or another layer's to stop.
+/// The abilities of the running kernel's Landlock; everything it lacks is open, or another layer's to stop.
 struct LandlockAbilities {
   int abi = 0;  ///< its version, 0: there is none
   [[nodiscard]] bool files() const { return abi >= 1; }
@@ -29,7 +29,7 @@ void prepareLandlock();
 /// or removed. No TCP, no signals and abstract sockets to processes outside. Needs no_new_privs. False:
 /// nothing was put on.
 ///
-/// What it cannot see, whichever its version: whether a file exists, its size and its times; changes of mode,
+/// Out of its sight, whichever its version: whether a file exists, its size and its times; changes of mode,
 /// owner, times and extended attributes; descriptors that are open already.
 [[nodiscard]] bool enterLandlock(const std::string& scratchFolder);
 

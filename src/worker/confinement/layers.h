@@ -13,7 +13,7 @@ struct ConfinementLayers {
   /// false.
   bool required = true;
 
-  /// Whether files of the user are out of reach: the least without which no document is read. The list of
+  /// True if files of the user are out of reach: the least without which no document is read. The list of
   /// system calls cannot look at paths, and the view can be left by whoever may mount.
   [[nodiscard]] bool suffice() const { return !required || landlock || (systemCalls && fileView); }
 };

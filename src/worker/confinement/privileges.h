@@ -1,4 +1,4 @@
-// What a user's number or a namespace of one's own gives beyond plain access.
+// Rights beyond plain access: those of a user's number, or of a namespace of one's own.
 #pragma once
 
 namespace norvex {

@@ -1,4 +1,4 @@
-// What a process looks up about itself in /proc, from where there is no /proc.
+// A process's own entries of /proc, for where there is no /proc.
 #pragma once
 
 #include <cstdint>

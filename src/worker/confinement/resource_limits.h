@@ -1,4 +1,4 @@
-// What a picture process may use up, as far as the system keeps account of it.
+// The budget of a picture process, as far as the system keeps account of it.
 #pragma once
 
 #include "protocol/worker_protocol.h"

@@ -40,7 +40,7 @@ class SystemCallList {
   std::vector<Step> steps_;
 };
 
-/// Whether the running kernel takes such lists.
+/// True if the running kernel takes such lists.
 [[nodiscard]] bool hasSystemCallLists();
 
 }  // namespace norvex

@@ -1,4 +1,4 @@
-// Whether the fonts that a document asks for are on this machine.
+// True if the fonts that a document asks for are on this machine.
 #pragma once
 
 #include <QList>
@@ -10,7 +10,7 @@ namespace norvex::engine {
 /// How it is told that a font is missing. `standIn` null: it is not known which font is used.
 [[nodiscard]] QString missingFontSentence(const QString& font, const QString& standIn = {});
 
-/// Whether a sentence is one of missingFontSentence().
+/// True if a sentence is one of missingFontSentence().
 [[nodiscard]] bool isMissingFontSentence(const QString& sentence);
 
 /// For each list of families of which none is installed, one sentence about the first: the rest of a list is

@@ -1,4 +1,4 @@
-// What the picture process can do with one document: the seam between the message server and the engines.
+// One document in the picture process: the seam between the message server and the engines.
 #pragma once
 
 #include <QByteArray>
@@ -23,7 +23,7 @@ struct EngineBytes {
   BytesReply report;
 };
 
-/// What an engine is given besides the document.
+/// The surroundings of an engine besides the document.
 struct EngineContext {
   PictureLimits limits;
   QString scratchFolder;  ///< exists, private to this process, removed with it; empty where no PostScript is
@@ -46,7 +46,7 @@ class DocumentEngine {
   virtual Result<EngineBytes> pdf(const PdfRequest& request) = 0;
   /// A rectangle of the rotated picture as one page.
   virtual Result<EngineBytes> compose(const ComposeRequest& request) = 0;
-  /// What is known about how the document is drawn, one plain sentence each: fonts that others stand in for.
+  /// Remarks on how the document is drawn, one plain sentence each: fonts that others stand in for.
   [[nodiscard]] virtual QStringList drawingRemarks() const { return {}; }
   /// Only SVG has it; the others answer ErrorKind::Unsupported.
   virtual Result<EngineBytes> svg(const SvgRequest& request);

@@ -47,7 +47,7 @@ QByteArray rectangle(const QRectF& rect) {
          decimal(rect.height());
 }
 
-// What is left to an image. The image reaches a little over the edge of the hole, so that no seam shows; but
+// The rest, as an image. The image reaches a little over the edge of the hole, so that no seam shows; but
 // nothing joins it at the edge of the page.
 QRectF holeFor(const EpsImage& image, QSizeF size) {
   const QRectF& rect = image.rect;

@@ -42,7 +42,7 @@ bool isComment(QByteArrayView line) {
   return looksLikeComment(line) && (line.contains(' ') || line == QByteArrayView("%%EndResource"));
 }
 
-// What sets up paper or the printer has no place in a picture that is placed on somebody's page.
+// Code that sets up paper or the printer has no place in a picture that is placed on somebody's page.
 bool isForPrinters(QByteArrayView line) {
   return line.endsWith("pdfSetup") || line.endsWith("pdfSetupPaper") ||
          line == QByteArrayView("{} settransfer");

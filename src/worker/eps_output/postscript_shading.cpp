@@ -91,7 +91,7 @@ double finite(double value) {
   return std::isfinite(value) ? value : 0;
 }
 
-// Whether every step-th place with lines between them gives all places again.
+// True if every step-th place with lines between them gives all places again.
 bool stillGives(const std::vector<double>& all, size_t step, size_t components,
                 const std::vector<Range>& ranges) {
   const size_t places = all.size() / components;

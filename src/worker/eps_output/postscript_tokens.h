@@ -23,7 +23,7 @@ class PostScriptTokens {
  public:
   explicit PostScriptTokens(QByteArrayView text) : text_(text) {}
   [[nodiscard]] PostScriptToken next();
-  /// What next() will give.
+  /// The token that next() will give.
   [[nodiscard]] PostScriptToken peek() { return PostScriptTokens(*this).next(); }
   /// The `count` bytes behind the one that ends the last token; nothing when there are not as many.
   [[nodiscard]] std::optional<QByteArray> bytes(qsizetype count);

@@ -11,7 +11,7 @@
 
 namespace norvex::engine {
 
-/// What a font of Type 1 says that draws. Numbers are kept as they were written.
+/// The drawing parts of a Type 1 font. Numbers are kept as they were written.
 struct Type1Font {
   using Numbers = QList<QByteArray>;
 

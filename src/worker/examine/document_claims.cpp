@@ -67,7 +67,7 @@ void readDocument(PdfFile& file, PageContents& contents) {
     readClaims(file, contents);
     readIntents(file, contents);
   } catch (const std::exception&) {
-    // What was found before the damage is true all the same.
+    // Facts found before the damage are true all the same.
   }
 }
 

@@ -97,7 +97,7 @@ QList<UsedFont> usedFonts(PdfFile& file, int page, const std::set<std::string>& 
   try {
     walk.takeResources(file.page(page).getKey("/Resources"), 0);
   } catch (const std::exception&) {
-    // What was found before the damage is true all the same.
+    // Facts found before the damage are true all the same.
   }
   return walk.found;
 }

@@ -18,7 +18,7 @@ namespace {
 constexpr int kFatal = 1;
 constexpr int kOtherError = 255;
 
-// What the start of gs does with a device that writes PDF, done now and in its order: the paper and those
+// The steps of gs at its start with a device that writes PDF, done now and in its order: the paper and those
 // options of the command line that are parameters of the device; the halftone and what goes with it; the
 // default settings as far as no option replaces them; the state of graphics. The parameters are asked for
 // last because setpagedevice goes by those that it has seen before.

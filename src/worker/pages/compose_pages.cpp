@@ -18,7 +18,7 @@
 namespace norvex::engine {
 namespace {
 
-/// What the sheets draw; a null handle is not drawn.
+/// The objects that the sheets draw; a null handle is not drawn.
 struct Drawings {
   QPDFObjectHandle picture, lines, group;
   AffineTransform userToPicture;

@@ -19,7 +19,7 @@ constexpr double kBaselineShare = 0.35;  // of the font's size, below the middle
 
 const char* const kAnchors[] = {"start", "middle", "end"};
 
-/// What XML cannot hold becomes a blank.
+/// Characters that XML cannot hold become blanks.
 QString escaped(const QString& text) {
   QString plain;
   for (const QChar c : text)

@@ -158,7 +158,7 @@ void takeLayer(QPDFObjectHandle annotation, QPDFObjectHandle layer) {
   annotation.replaceKey("/AP", appearances);
 }
 
-/// What is drawn, in order: annotations with an appearance stand alone, others in runs.
+/// The drawings, in order: annotations with an appearance stand alone, others in runs.
 struct Step {
   Annotations run;
   bool isSheet = false;

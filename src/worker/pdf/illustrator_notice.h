@@ -14,7 +14,7 @@ class PdfFile;
 /// as a notice: the facts of artwork cost no interpretation of its page. False for what cannot be read.
 [[nodiscard]] bool isIllustratorNotice(const QByteArray& bytes, const PdfFile& file);
 
-/// What the user is told then; one plain sentence.
+/// The notice for the user; one plain sentence.
 [[nodiscard]] QString illustratorNoticeSentence();
 
 }  // namespace norvex::engine

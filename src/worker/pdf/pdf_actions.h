@@ -1,4 +1,4 @@
-// What a PDF does beside being drawn: actions at opening and at clicks, scripts, files that it points to.
+// The doings of a PDF beside being drawn: actions at opening and at clicks, scripts, files that it points to.
 #pragma once
 
 #include <QStringList>
@@ -14,7 +14,7 @@ namespace norvex::engine {
 
 enum class DocumentActions { LeaveOut, Keep };
 
-/// What was found in a document, and what of it goes into the new one.
+/// The actions of a document, and which of them go into the new one.
 struct PageActions {
   QStringList leftOut;  ///< one sentence for each kind
   std::vector<std::pair<std::string, QPDFObjectHandle>> ofDocument, ofPage;

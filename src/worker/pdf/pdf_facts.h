@@ -1,4 +1,4 @@
-// What a PDF tells about itself without being drawn: boxes, page count, document information.
+// The facts of a PDF that need no drawing: boxes, page count, document information.
 #pragma once
 
 #include <QDateTime>

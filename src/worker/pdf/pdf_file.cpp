@@ -41,7 +41,7 @@ double userUnitOf(QPDFObjectHandle value) {
   return std::isfinite(unit) && unit > 0 && unit < 1.0e4 ? unit : 1;
 }
 
-// What is drawn is not encrypted where the filters of streams and of strings are that of the identity: then
+// The drawing is not encrypted where the filters of streams and of strings are that of the identity: then
 // the password is for attached files alone. qpdf has read everything else when it finds none.
 bool drawsWithoutPassword(QPDF& qpdf) {
   QPDFObjectHandle trailer = qpdf.getTrailer();

@@ -35,7 +35,7 @@ struct PageGeometry {
   [[nodiscard]] AffineTransform userToPicture() const;
 };
 
-/// What an exception of qpdf means; without `caught` being one of its kinds, NotParsable with a general
+/// The meaning of an exception of qpdf; without `caught` being one of its kinds, NotParsable with a general
 /// sentence.
 [[nodiscard]] Error pdfError(const std::exception& caught);
 

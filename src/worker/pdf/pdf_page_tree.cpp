@@ -59,7 +59,7 @@ class Walk {
       enter(kid);
   }
 
-  // What is the page of several parents, or of one several times, is as many pages.
+  // A page of several parents, or of one several times, is as many pages.
   void takePage(QPDFObjectHandle page) {
     if (!page.isIndirect())
       page = qpdf_.makeIndirectObject(page);

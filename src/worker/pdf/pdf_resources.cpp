@@ -186,7 +186,7 @@ PdfResources pdfResources(PdfFile& file, int page) {
     walk.takeContents(file.page(page).getKey("/Contents"));
     walk.takeResources(file.page(page).getKey("/Resources"), 0);
   } catch (const std::exception&) {
-    // What was found before the damage is true all the same.
+    // Facts found before the damage are true all the same.
   }
   return walk.found;
 }

@@ -1,4 +1,4 @@
-// What the drawing of a PDF page uses: its fonts and its colour spaces, by name.
+// The resources of a PDF page's drawing: its fonts and its colour spaces, by name.
 #pragma once
 
 #include <QStringList>

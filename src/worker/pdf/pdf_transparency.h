@@ -5,7 +5,7 @@
 
 namespace norvex::engine {
 
-/// Whether anything in the file may be painted other than opaquely: constant opacity, blend modes, soft
+/// True if anything in the file may be painted other than opaquely: constant opacity, blend modes, soft
 /// masks. Transparency groups alone do not count. May throw; call it inside guarded().
 [[nodiscard]] bool usesTransparency(QPDF& qpdf);
 

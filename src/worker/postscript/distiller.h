@@ -13,7 +13,7 @@
 
 namespace norvex::engine {
 
-/// What gs is told, behind its name.
+/// The arguments of gs, behind its name.
 [[nodiscard]] QList<QByteArray> distillerArguments();
 
 /// A child that waits for its program: forked where there is a program that does it, else gs itself. Fails as

@@ -30,7 +30,7 @@ double coarser(double one, double other) {
   return one > 0 && other > 0 ? std::min(one, other) : std::max(one, other);
 }
 
-/// Whether a length says how long it is on paper.
+/// True if a length says how long it is on paper.
 bool hasUnit(const QString& length) {
   const QString text = length.trimmed();
   return !text.isEmpty() && text.back().isLetter();

@@ -11,7 +11,7 @@
 
 namespace norvex::engine {
 
-/// What the pass found. Attribute values and texts have their entities expanded.
+/// The result of the pass. Attribute values and texts have their entities expanded.
 struct SvgInspection {
   QString rootName;                        ///< as written, with its prefix: "svg" or "svg:svg"
   QHash<QString, QString> rootAttributes;  ///< those without a namespace

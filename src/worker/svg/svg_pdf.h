@@ -12,7 +12,7 @@
 
 namespace norvex::engine {
 
-/// What of a picture cannot stay what it is in a PDF.
+/// The parts of a picture that cannot stay what they are in a PDF.
 struct SvgImageEffects {
   bool any = false;             ///< there are filters or masks
   double morphologyRadius = 0;  ///< the largest by which a filter thickens or thins, in pixels

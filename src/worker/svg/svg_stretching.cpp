@@ -24,7 +24,7 @@ QList<double> numbersIn(QStringView list) {
   return numbers;
 }
 
-/// Whether two vectors are not those of a square.
+/// True if two vectors are not those of a square.
 bool differ(double ax, double ay, double bx, double by) {
   const double a = std::hypot(ax, ay), b = std::hypot(bx, by);
   const double longer = std::max(a, b);

@@ -1,4 +1,4 @@
-// Whether an SVG document draws text stretched: wider than high, or slanted.
+// True if an SVG document draws text stretched: wider than high, or slanted.
 #pragma once
 
 #include <QList>
@@ -21,7 +21,7 @@ class SvgStretching {
   bool text_ = false, stretchedText_ = false, stretchedUse_ = false;
 };
 
-/// Whether a `transform` attribute does more than move, turn, mirror and enlarge.
+/// True if a `transform` attribute does more than move, turn, mirror and enlarge.
 [[nodiscard]] bool stretches(const QString& transform);
 /// How much longer a `transform` attribute makes a line at the most; 1 for what only moves and turns.
 [[nodiscard]] double enlargement(const QString& transform);

@@ -1,4 +1,4 @@
-// What a style sheet, or a style attribute, says that matters before anything is drawn.
+// The facts of a style sheet, or a style attribute, that matter before anything is drawn.
 #pragma once
 
 #include <QString>

@@ -38,7 +38,7 @@ struct Family {
   int markBytes = 0;
 };
 
-/// What the first bytes tell before the declaration can be read.
+/// The family of encodings, told by the first bytes before the declaration can be read.
 Family familyOf(const QByteArray& bytes) {
   if (bytes.startsWith(QByteArray("\xff\xfe\0\0", 4))) return {QStringConverter::Utf32LE, 4};
   if (bytes.startsWith(QByteArray("\0\0\xfe\xff", 4))) return {QStringConverter::Utf32BE, 4};
@@ -107,7 +107,7 @@ std::optional<QByteArray> toUtf8(const QByteArray& bytes, xmlCharEncodingHandler
                     xmlBufferLength(output.get()));
 }
 
-// Whether the escapes of non-lossy ASCII could mistake a part of the text for one of theirs.
+// True if the escapes of non-lossy ASCII could mistake a part of the text for one of theirs.
 bool isPlainAscii(const QByteArray& text) {
   return !text.contains('\\');
 }

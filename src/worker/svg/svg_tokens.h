@@ -43,7 +43,7 @@ struct SvgAttribute {
 };
 [[nodiscard]] QList<SvgAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token);
 
-/// Whether there is nothing but blanks and line ends, literally.
+/// True if there is nothing but blanks and line ends, literally.
 [[nodiscard]] bool isBlank(QByteArrayView text);
 
 }  // namespace norvex::engine

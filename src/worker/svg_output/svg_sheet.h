@@ -56,7 +56,7 @@ class SvgSheet {
   /// Makes a definition of `element`, which has no id yet, and gives its name. The same element twice is one
   /// definition.
   QByteArray define(const QByteArray& element);
-  /// Whether something that reaches over `bounds` is seen at all.
+  /// True if something that reaches over `bounds` is seen at all.
   [[nodiscard]] bool isSeen(const QRectF& bounds, const SvgClips& clips) const;
 
   /// A path filled (`fill`: attributes of its paint, empty: it is not) or stroked (`stroke`: likewise).

@@ -18,7 +18,7 @@ class SvgWeights {
   QHash<QByteArray, double> weights_;
 };
 
-/// Whether something between two quotation marks is longer than readers of XML take.
+/// True if something between two quotation marks is longer than readers of XML take.
 [[nodiscard]] bool hasEndlessAttribute(const QByteArray& text);
 
 }  // namespace norvex::engine

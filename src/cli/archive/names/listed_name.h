@@ -33,7 +33,7 @@ class NameSource {
   virtual ~NameSource() = default;
   /// Nothing at the end, and when the run was cancelled. May wait for whoever writes the list.
   [[nodiscard]] virtual std::optional<Listed> next() = 0;
-  /// Whether next() would wait.
+  /// True if next() would wait.
   [[nodiscard]] virtual bool wouldWait() { return false; }
 };
 

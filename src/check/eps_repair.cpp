@@ -32,7 +32,8 @@ bool isBox(const ProgramLine& line) {
 }
 
 QByteArray wholeNumbers(const QRectF& box) {
-  const double slack = 0.001;  // what was computed as a whole number stays one
+  const double slack =
+      0.05;  // the ink's box is known no better: what reaches a hair over a whole number stays at it
   QByteArrayList numbers;
   for (const double n : {std::floor(box.left() + slack), std::floor(box.top() + slack),
                          std::ceil(box.right() - slack), std::ceil(box.bottom() - slack)})

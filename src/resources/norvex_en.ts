@@ -1231,6 +1231,14 @@
         <source>Right button</source>
         <translation>Right button</translation>
     </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

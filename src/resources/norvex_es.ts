@@ -907,6 +907,14 @@
         <source>Right button</source>
         <translation>Botón derecho</translation>
     </message>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

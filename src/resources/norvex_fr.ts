@@ -907,6 +907,14 @@
         <source>Right button</source>
         <translation>Bouton droit</translation>
     </message>
+    <message>
+        <source>Format:</source>
+        <translation>Format :</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

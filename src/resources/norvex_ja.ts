@@ -907,6 +907,14 @@
         <source>Right button</source>
         <translation>右ボタン</translation>
     </message>
+    <message>
+        <source>Format:</source>
+        <translation>形式:</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

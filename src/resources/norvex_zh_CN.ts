@@ -907,6 +907,14 @@
         <source>Right button</source>
         <translation>右键</translation>
     </message>
+    <message>
+        <source>Format:</source>
+        <translation>格式：</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

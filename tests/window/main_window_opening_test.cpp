@@ -208,9 +208,9 @@ class MainWindowOpeningTest : public QObject {
     fixture.service.setPicture(picture);
     MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
     c.showWindow();
-    QTRY_COMPARE(c.messageBar()->message(),
-                 QStringLiteral("The PostScript program stops with an error (undefined in x). "
-                                "What is shown is what it had drawn until then."));
+    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("The PostScript program stops with an error. "
+                                                           "What is shown is what it had drawn until then."));
+    QCOMPARE(c.messageBar()->details(), QStringLiteral("undefined in x"));
     QVERIFY(c.view()->imageRep() && c.view()->imageRep()->isSharp());
     // Read once, it does not come again with every drawing.
     c.messageBar()->clearMessage();

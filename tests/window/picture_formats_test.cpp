@@ -32,7 +32,7 @@ QList<bool> made(const PictureFormats& formats) {
 
 /// A snapshot of a picture of 200 × 100 points, unturned, with the rectangle (-50, -20, 40, 30).
 struct Shown {
-  explicit Shown(PictureKind kind) {
+  explicit Shown(PictureKind kind, const MemoryPicture& picture = {}) : service(picture) {
     if (kind == PictureKind::Eps)
       snapshot.imageRep = *NSEPSImageRep::imageRepWithData(service, kEps);
     else if (kind == PictureKind::Svg)
@@ -287,7 +287,9 @@ class PictureFormatsTest : public QObject {
   }
 
   void anEngineWithoutSvgOffersNone() {
-    Shown f(PictureKind::Eps);
+    MemoryPicture picture;
+    picture.compose = [](const ComposeRequest&) { return QByteArray("%PDF"); };
+    Shown f(PictureKind::Eps, picture);
     const PictureFormats offered = selectionFormats(f.snapshot);
     QCOMPARE(made(translatedFormats(offered, f.snapshot)), (QList<bool>{false, true}));
     QCOMPARE(f.process->composeRequests().first().format, VectorFormat::Svg);

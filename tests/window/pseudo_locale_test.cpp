@@ -2,6 +2,7 @@
 // not looked up, and what does not fit is cut off in some real language.
 #include <QAction>
 #include <QCheckBox>
+#include <QDockWidget>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMainWindow>
@@ -102,7 +103,8 @@ class PseudoLocaleTest : public QObject {
     int looked = 0;
     for (QWidget* root : {static_cast<QWidget*>(c.window()), static_cast<QWidget*>(c.inspectorWindow)})
       for (const QWidget* widget : root->findChildren<QWidget*>()) {
-        const bool isQtsOwn = qobject_cast<const QTabBar*>(widget->parentWidget()) != nullptr;
+        const bool isQtsOwn = qobject_cast<const QTabBar*>(widget->parentWidget()) != nullptr ||
+                              qobject_cast<const QDockWidget*>(widget->parentWidget()) != nullptr;
         if (isQtsOwn || !isWord(widget->accessibleName())) continue;
         ++looked;
         if (!isMarked(widget->accessibleName())) plain << widget->accessibleName();

@@ -112,9 +112,10 @@ void MessagesCommand::tellWhatStopped() {
     if (!application || !facts || facts->stoppedBy.isEmpty()) return;
     QMetaObject::invokeMethod(application.data(), [self, shown, reason = facts->stoppedBy] {
       if (!self || shown.lock() != self->parts_.view()->imageRep()) return;
-      const QString why = sentence({ErrorKind::NotParsable, reason});
+      const Error stopped{ErrorKind::NotParsable, reason};
       self->tell(MessageBar::Kind::Warning,
-                 localizedString("%1 What is shown is what it had drawn until then.").arg(why));
+                 localizedString("%1 What is shown is what it had drawn until then.").arg(sentence(stopped)),
+                 {}, {}, details(stopped));
     });
   });
 }

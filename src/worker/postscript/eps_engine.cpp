@@ -86,6 +86,7 @@ class EpsEngine final : public DocumentEngine {
     Result<Distilled> distilled =
         distill(epsProgram(bytes_), box_.adjusted(-margin, -margin, margin, margin), context_);
     if (!distilled) return distilled.error();
+    if (!distilled->stoppedBy.isEmpty()) return Error{ErrorKind::NotParsable, distilled->stoppedBy};
     surroundings_ = std::move(*distilled);
     surroundingsRenderer_.emplace(surroundings_->pdf);
     return {};

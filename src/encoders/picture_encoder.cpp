@@ -202,8 +202,8 @@ std::optional<PdfAttributes> PictureEncoder::attributesFrom(const HeaderDictiona
         {QStringLiteral("the PDF has no subject, because the document has a description but no title")});
   }
   if (!attributes)
-    fail({ErrorKind::Unsupported,
-          QStringLiteral("the document has a description but no title to store with it")});
+    (void)fail({ErrorKind::Unsupported,
+                QStringLiteral("the document has a description but no title to store with it")});
   return attributes;
 }
 

@@ -915,6 +915,314 @@
         <source>Preview</source>
         <translation>Vorschau</translation>
     </message>
+    <message>
+        <source>%1 What is shown is what it had drawn until then.</source>
+        <translation>%1 Gezeigt wird, was bis dahin gezeichnet war.</translation>
+    </message>
+    <message>
+        <source>How the documents that it opens are confined:</source>
+        <translation>So werden die geöffneten Dokumente abgeschottet:</translation>
+    </message>
+    <message>
+        <source>Read as:</source>
+        <translation>Lesen als:</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>The encoding in which comments and source text are read</source>
+        <translation>Die Kodierung, in der Kommentare und Quelltext gelesen werden</translation>
+    </message>
+    <message>
+        <source>The source is not valid in %1.</source>
+        <translation>Der Quelltext ist in %1 nicht gültig.</translation>
+    </message>
+    <message>
+        <source>A guess, as nothing says how the source is encoded. Read as %1:</source>
+        <translation>Eine Vermutung, da nichts angibt, wie der Quelltext kodiert ist. Gelesen als %1:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>What the library that reads the picture says</source>
+        <translation>Was die Bibliothek meldet, die das Bild liest</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>None preview</source>
+        <translation>Ohne Vorschau</translation>
+    </message>
+    <message>
+        <source>WebP image</source>
+        <translation>WebP-Bild</translation>
+    </message>
+    <message>
+        <source>Copied %1 pt</source>
+        <translation>%1 pt kopiert</translation>
+    </message>
+    <message>
+        <source>Other Folder…</source>
+        <translation>Anderer Ordner …</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Folder for the exported file</source>
+        <translation>Ordner für die exportierte Datei</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>EPS with TIFF preview</source>
+        <translation>EPS mit TIFF-Vorschau</translation>
+    </message>
+    <message>
+        <source>This page</source>
+        <translation>Diese Seite</translation>
+    </message>
+    <message>
+        <source>Part:</source>
+        <translation>Teil:</translation>
+    </message>
+    <message>
+        <source> pixels an inch</source>
+        <translation> Pixel pro Zoll</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Breite in Pixeln</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Höhe in Pixeln</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Auflösung:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>Fill with</source>
+        <translation>Füllen mit</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>Hintergrund:</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Verlustfrei</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Qualität:</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Making a preview…</source>
+        <translation>Vorschau wird erstellt …</translation>
+    </message>
+    <message>
+        <source>File size: %1</source>
+        <translation>Dateigröße: %1</translation>
+    </message>
+    <message>
+        <source>Not possible</source>
+        <translation>Nicht möglich</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportieren …</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>Das Bild ist zu groß.</translation>
+    </message>
+    <message>
+        <source>Exported “%1”</source>
+        <translation>„%1“ exportiert</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Visible part</source>
+        <translation>Sichtbarer Teil</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Ganzes Bild</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Gehe zu</translation>
+    </message>
+    <message>
+        <source>Page &amp;Thumbnails</source>
+        <translation>Seiten&amp;miniaturen</translation>
+    </message>
+    <message>
+        <source>Page %1 has no area.</source>
+        <translation>Seite %1 hat keine Fläche.</translation>
+    </message>
+    <message>
+        <source>Where the pointer is in the picture. Click for another unit.</source>
+        <translation>Wo der Zeiger im Bild steht. Klicken wechselt die Einheit.</translation>
+    </message>
+    <message>
+        <source>Unit of lengths</source>
+        <translation>Längeneinheit</translation>
+    </message>
+    <message>
+        <source>&amp;Next Page</source>
+        <translation>&amp;Nächste Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Page</source>
+        <translation>&amp;Vorige Seite</translation>
+    </message>
+    <message>
+        <source>&amp;First Page</source>
+        <translation>&amp;Erste Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Last Page</source>
+        <translation>&amp;Letzte Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Page…</source>
+        <translation>&amp;Gehe zu Seite …</translation>
+    </message>
+    <message>
+        <source>&amp;Window Fits Picture</source>
+        <translation>&amp;Fenster an Bild anpassen</translation>
+    </message>
+    <message>
+        <source>Reload Changed Files b&amp;y Itself</source>
+        <translation>&amp;Geänderte Dateien von selbst neu laden</translation>
+    </message>
+    <message>
+        <source>Select Rectangle</source>
+        <translation>Rechteck auswählen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width</source>
+        <translation>In der &amp;Breite einpassen</translation>
+    </message>
+    <message>
+        <source>Next Picture in F&amp;older</source>
+        <translation>Nächstes Bild im &amp;Ordner</translation>
+    </message>
+    <message>
+        <source>Previous Pictu&amp;re in Folder</source>
+        <translation>Vo&amp;riges Bild im Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Selection</source>
+        <translation>Auswahländerung rüc&amp;kgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Selection</source>
+        <translation>Auswahländerung wiederher&amp;stellen</translation>
+    </message>
+    <message>
+        <source>Select Rectan&amp;gle…</source>
+        <translation>Re&amp;chteck auswählen …</translation>
+    </message>
+    <message>
+        <source>From the left:</source>
+        <translation>Von links:</translation>
+    </message>
+    <message>
+        <source>From below:</source>
+        <translation>Von unten:</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>Breite:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Höhe:</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Still working: wait, or stop and show what there is.</source>
+        <translation>Noch in Arbeit: warten, oder anhalten und zeigen, was da ist.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Warten</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>
@@ -1181,6 +1489,18 @@
     <message>
         <source>Colors used:</source>
         <translation>Verwendete Farben:</translation>
+    </message>
+    <message>
+        <source>Encoding of the source</source>
+        <translation>Kodierung des Quelltexts</translation>
+    </message>
+    <message>
+        <source>About the encoding</source>
+        <translation>Zur Kodierung</translation>
+    </message>
+    <message>
+        <source>What the source seems to say</source>
+        <translation>Was der Quelltext zu sagen scheint</translation>
     </message>
 </context>
 <context>

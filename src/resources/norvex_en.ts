@@ -1112,24 +1112,8 @@
         <translation>Search commands and keys</translation>
     </message>
     <message>
-        <source>Is the preview added the occasion where it writes out?</source>
-        <translation>Is the preview added the occasion where it writes out?</translation>
-    </message>
-    <message>
-        <source>With preview</source>
-        <translation>With preview</translation>
-    </message>
-    <message>
-        <source>The new file would hold less than the picture does.</source>
-        <translation>The new file would hold less than the picture does.</translation>
-    </message>
-    <message>
         <source>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</source>
         <translation>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</translation>
-    </message>
-    <message>
-        <source>The drawing was stopped</source>
-        <translation>The drawing was stopped</translation>
     </message>
     <message>
         <source>Norvex ended unexpectedly the last time.</source>
@@ -1517,14 +1501,6 @@
     <message>
         <source>HiResBoundingBox:</source>
         <translation>HiResBoundingBox:</translation>
-    </message>
-    <message>
-        <source>Fonts:</source>
-        <translation>Fonts:</translation>
-    </message>
-    <message>
-        <source>Colors used:</source>
-        <translation>Colours used:</translation>
     </message>
 </context>
 <context>

@@ -915,6 +915,314 @@
         <source>Preview</source>
         <translation>Vista previa</translation>
     </message>
+    <message>
+        <source>%1 What is shown is what it had drawn until then.</source>
+        <translation>%1 Lo que se ve es lo que se había dibujado hasta entonces.</translation>
+    </message>
+    <message>
+        <source>How the documents that it opens are confined:</source>
+        <translation>Así se aíslan los documentos que abre:</translation>
+    </message>
+    <message>
+        <source>Read as:</source>
+        <translation>Leer como:</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automática</translation>
+    </message>
+    <message>
+        <source>The encoding in which comments and source text are read</source>
+        <translation>La codificación con que se leen los comentarios y el texto fuente</translation>
+    </message>
+    <message>
+        <source>The source is not valid in %1.</source>
+        <translation>El texto fuente no es válido en %1.</translation>
+    </message>
+    <message>
+        <source>A guess, as nothing says how the source is encoded. Read as %1:</source>
+        <translation>Es una suposición, pues nada indica cómo está codificado el texto fuente. Leído como %1:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Descripción:</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>What the library that reads the picture says</source>
+        <translation>Lo que dice la biblioteca que lee la imagen</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>None preview</source>
+        <translation>Sin vista previa</translation>
+    </message>
+    <message>
+        <source>WebP image</source>
+        <translation>Imagen WebP</translation>
+    </message>
+    <message>
+        <source>Copied %1 pt</source>
+        <translation>Copiado: %1 pt</translation>
+    </message>
+    <message>
+        <source>Other Folder…</source>
+        <translation>Otra carpeta…</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>Folder for the exported file</source>
+        <translation>Carpeta para el archivo exportado</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>en %1</translation>
+    </message>
+    <message>
+        <source>EPS with TIFF preview</source>
+        <translation>EPS con vista previa TIFF</translation>
+    </message>
+    <message>
+        <source>This page</source>
+        <translation>Esta página</translation>
+    </message>
+    <message>
+        <source>Part:</source>
+        <translation>Parte:</translation>
+    </message>
+    <message>
+        <source> pixels an inch</source>
+        <translation> píxeles por pulgada</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Anchura en píxeles</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Altura en píxeles</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>píxeles</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Resolución:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>Fill with</source>
+        <translation>Rellenar con</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>Fondo:</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Sin pérdida</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Calidad:</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Making a preview…</source>
+        <translation>Creando una vista previa…</translation>
+    </message>
+    <message>
+        <source>File size: %1</source>
+        <translation>Tamaño del archivo: %1</translation>
+    </message>
+    <message>
+        <source>Not possible</source>
+        <translation>No es posible</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>La imagen es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>Exported “%1”</source>
+        <translation>Se exportó «%1»</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Selección</translation>
+    </message>
+    <message>
+        <source>Visible part</source>
+        <translation>Parte visible</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Imagen entera</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Todas las páginas</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Página %1</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>de %1</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Ir</translation>
+    </message>
+    <message>
+        <source>Page &amp;Thumbnails</source>
+        <translation>&amp;Miniaturas de las páginas</translation>
+    </message>
+    <message>
+        <source>Page %1 has no area.</source>
+        <translation>La página %1 no tiene superficie.</translation>
+    </message>
+    <message>
+        <source>Where the pointer is in the picture. Click for another unit.</source>
+        <translation>Posición del puntero en la imagen. Haga clic para cambiar de unidad.</translation>
+    </message>
+    <message>
+        <source>Unit of lengths</source>
+        <translation>Unidad de longitud</translation>
+    </message>
+    <message>
+        <source>&amp;Next Page</source>
+        <translation>Página &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Page</source>
+        <translation>Página &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;First Page</source>
+        <translation>&amp;Primera página</translation>
+    </message>
+    <message>
+        <source>&amp;Last Page</source>
+        <translation>Ú&amp;ltima página</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Page…</source>
+        <translation>&amp;Ir a la página…</translation>
+    </message>
+    <message>
+        <source>&amp;Window Fits Picture</source>
+        <translation>Ajustar la &amp;ventana a la imagen</translation>
+    </message>
+    <message>
+        <source>Reload Changed Files b&amp;y Itself</source>
+        <translation>Recargar au&amp;tomáticamente los archivos modificados</translation>
+    </message>
+    <message>
+        <source>Select Rectangle</source>
+        <translation>Seleccionar rectángulo</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width</source>
+        <translation>Ajustar a la &amp;anchura</translation>
+    </message>
+    <message>
+        <source>Next Picture in F&amp;older</source>
+        <translation>Imagen siguiente de la &amp;carpeta</translation>
+    </message>
+    <message>
+        <source>Previous Pictu&amp;re in Folder</source>
+        <translation>Imagen anterior de la ca&amp;rpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Selection</source>
+        <translation>Des&amp;hacer la selección</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Selection</source>
+        <translation>&amp;Rehacer la selección</translation>
+    </message>
+    <message>
+        <source>Select Rectan&amp;gle…</source>
+        <translation>Seleccionar rectán&amp;gulo…</translation>
+    </message>
+    <message>
+        <source>From the left:</source>
+        <translation>Desde la izquierda:</translation>
+    </message>
+    <message>
+        <source>From below:</source>
+        <translation>Desde abajo:</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>Anchura:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Altura:</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>Still working: wait, or stop and show what there is.</source>
+        <translation>Todavía en curso: puede esperar, o detenerlo y ver lo que ya hay.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Esperar</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>
@@ -1181,6 +1489,18 @@
     <message>
         <source>Colors used:</source>
         <translation>Colores usados:</translation>
+    </message>
+    <message>
+        <source>Encoding of the source</source>
+        <translation>Codificación del texto fuente</translation>
+    </message>
+    <message>
+        <source>About the encoding</source>
+        <translation>Sobre la codificación</translation>
+    </message>
+    <message>
+        <source>What the source seems to say</source>
+        <translation>Lo que parece decir el texto fuente</translation>
     </message>
 </context>
 <context>

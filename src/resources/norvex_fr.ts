@@ -915,6 +915,314 @@
         <source>Preview</source>
         <translation>Aperçu</translation>
     </message>
+    <message>
+        <source>%1 What is shown is what it had drawn until then.</source>
+        <translation>%1 Ce qui est affiché a été dessiné jusque-là.</translation>
+    </message>
+    <message>
+        <source>How the documents that it opens are confined:</source>
+        <translation>Comment les documents ouverts sont isolés :</translation>
+    </message>
+    <message>
+        <source>Read as:</source>
+        <translation>Lire comme :</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>The encoding in which comments and source text are read</source>
+        <translation>L’encodage dans lequel les commentaires et le texte source sont lus</translation>
+    </message>
+    <message>
+        <source>The source is not valid in %1.</source>
+        <translation>Le texte source n’est pas valide en %1.</translation>
+    </message>
+    <message>
+        <source>A guess, as nothing says how the source is encoded. Read as %1:</source>
+        <translation>Une supposition, car rien n’indique comment le texte source est encodé. Lu comme %1 :</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Description :</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>What the library that reads the picture says</source>
+        <translation>Ce que dit la bibliothèque qui lit l’image</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>None preview</source>
+        <translation>Sans aperçu</translation>
+    </message>
+    <message>
+        <source>WebP image</source>
+        <translation>Image WebP</translation>
+    </message>
+    <message>
+        <source>Copied %1 pt</source>
+        <translation>%1 pt copiés</translation>
+    </message>
+    <message>
+        <source>Other Folder…</source>
+        <translation>Autre dossier…</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>Folder for the exported file</source>
+        <translation>Dossier du fichier exporté</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>dans %1</translation>
+    </message>
+    <message>
+        <source>EPS with TIFF preview</source>
+        <translation>EPS avec aperçu TIFF</translation>
+    </message>
+    <message>
+        <source>This page</source>
+        <translation>Cette page</translation>
+    </message>
+    <message>
+        <source>Part:</source>
+        <translation>Partie :</translation>
+    </message>
+    <message>
+        <source> pixels an inch</source>
+        <translation> pixels par pouce</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Largeur en pixels</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>Hauteur en pixels</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>Résolution :</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>Fill with</source>
+        <translation>Remplir avec</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>Arrière-plan :</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Sans perte</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Qualité :</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Making a preview…</source>
+        <translation>Création d’un aperçu…</translation>
+    </message>
+    <message>
+        <source>File size: %1</source>
+        <translation>Taille du fichier : %1</translation>
+    </message>
+    <message>
+        <source>Not possible</source>
+        <translation>Impossible</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xporter…</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>L’image est trop grande.</translation>
+    </message>
+    <message>
+        <source>Exported “%1”</source>
+        <translation>« %1 » exporté</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Visible part</source>
+        <translation>Partie visible</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>Toute l’image</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Toutes les pages</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>sur %1</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>A&amp;ller</translation>
+    </message>
+    <message>
+        <source>Page &amp;Thumbnails</source>
+        <translation>&amp;Vignettes des pages</translation>
+    </message>
+    <message>
+        <source>Page %1 has no area.</source>
+        <translation>La page %1 n’a pas de surface.</translation>
+    </message>
+    <message>
+        <source>Where the pointer is in the picture. Click for another unit.</source>
+        <translation>Où se trouve le pointeur dans l’image. Cliquez pour changer d’unité.</translation>
+    </message>
+    <message>
+        <source>Unit of lengths</source>
+        <translation>Unité de longueur</translation>
+    </message>
+    <message>
+        <source>&amp;Next Page</source>
+        <translation>Page &amp;suivante</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Page</source>
+        <translation>Page &amp;précédente</translation>
+    </message>
+    <message>
+        <source>&amp;First Page</source>
+        <translation>P&amp;remière page</translation>
+    </message>
+    <message>
+        <source>&amp;Last Page</source>
+        <translation>&amp;Dernière page</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Page…</source>
+        <translation>&amp;Aller à la page…</translation>
+    </message>
+    <message>
+        <source>&amp;Window Fits Picture</source>
+        <translation>Adapter la &amp;fenêtre à l’image</translation>
+    </message>
+    <message>
+        <source>Reload Changed Files b&amp;y Itself</source>
+        <translation>Recharger &amp;automatiquement les fichiers modifiés</translation>
+    </message>
+    <message>
+        <source>Select Rectangle</source>
+        <translation>Sélectionner un rectangle</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Sélectionner</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width</source>
+        <translation>A&amp;juster à la largeur</translation>
+    </message>
+    <message>
+        <source>Next Picture in F&amp;older</source>
+        <translation>Image suivante du d&amp;ossier</translation>
+    </message>
+    <message>
+        <source>Previous Pictu&amp;re in Folder</source>
+        <translation>Ima&amp;ge précédente du dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Selection</source>
+        <translation>&amp;Annuler le changement de sélection</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Selection</source>
+        <translation>Réta&amp;blir le changement de sélection</translation>
+    </message>
+    <message>
+        <source>Select Rectan&amp;gle…</source>
+        <translation>Sélectionner un rectan&amp;gle…</translation>
+    </message>
+    <message>
+        <source>From the left:</source>
+        <translation>Depuis la gauche :</translation>
+    </message>
+    <message>
+        <source>From below:</source>
+        <translation>Depuis le bas :</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>Largeur :</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Hauteur :</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Still working: wait, or stop and show what there is.</source>
+        <translation>Toujours en cours : attendre, ou arrêter et afficher ce qu’il y a.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Attendre</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>
@@ -1181,6 +1489,18 @@
     <message>
         <source>Colors used:</source>
         <translation>Couleurs utilisées :</translation>
+    </message>
+    <message>
+        <source>Encoding of the source</source>
+        <translation>Encodage du texte source</translation>
+    </message>
+    <message>
+        <source>About the encoding</source>
+        <translation>À propos de l’encodage</translation>
+    </message>
+    <message>
+        <source>What the source seems to say</source>
+        <translation>Ce que le texte source semble dire</translation>
     </message>
 </context>
 <context>

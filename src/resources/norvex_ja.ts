@@ -915,6 +915,314 @@
         <source>Preview</source>
         <translation>プレビュー</translation>
     </message>
+    <message>
+        <source>%1 What is shown is what it had drawn until then.</source>
+        <translation>%1 表示しているのは、それまでに描画した内容です。</translation>
+    </message>
+    <message>
+        <source>How the documents that it opens are confined:</source>
+        <translation>開く書類の隔離方法:</translation>
+    </message>
+    <message>
+        <source>Read as:</source>
+        <translation>読み取り方法:</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>The encoding in which comments and source text are read</source>
+        <translation>コメントとソーステキストの読み取りに使うエンコーディング</translation>
+    </message>
+    <message>
+        <source>The source is not valid in %1.</source>
+        <translation>ソースは %1 として正しくありません。</translation>
+    </message>
+    <message>
+        <source>A guess, as nothing says how the source is encoded. Read as %1:</source>
+        <translation>ソースのエンコーディングを示す情報がないため、推測です。%1 として読み取った内容:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>説明:</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>What the library that reads the picture says</source>
+        <translation>画像を読み取るライブラリからのメッセージ</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>元のまま</translation>
+    </message>
+    <message>
+        <source>None preview</source>
+        <translation>プレビューなし</translation>
+    </message>
+    <message>
+        <source>WebP image</source>
+        <translation>WebP 画像</translation>
+    </message>
+    <message>
+        <source>Copied %1 pt</source>
+        <translation>%1 pt をコピーしました</translation>
+    </message>
+    <message>
+        <source>Other Folder…</source>
+        <translation>ほかのフォルダ…</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名前:</translation>
+    </message>
+    <message>
+        <source>Folder for the exported file</source>
+        <translation>エクスポート先のフォルダ</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>保存先: %1</translation>
+    </message>
+    <message>
+        <source>EPS with TIFF preview</source>
+        <translation>TIFF プレビュー付き EPS</translation>
+    </message>
+    <message>
+        <source>This page</source>
+        <translation>このページ</translation>
+    </message>
+    <message>
+        <source>Part:</source>
+        <translation>範囲:</translation>
+    </message>
+    <message>
+        <source> pixels an inch</source>
+        <translation> ピクセル/インチ</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>幅 (ピクセル)</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>高さ (ピクセル)</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>ピクセル</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>解像度:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>サイズ:</translation>
+    </message>
+    <message>
+        <source>Fill with</source>
+        <translation>塗りつぶす</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>背景:</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>可逆圧縮</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>画質:</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>エクスポート</translation>
+    </message>
+    <message>
+        <source>Making a preview…</source>
+        <translation>プレビューを作成しています…</translation>
+    </message>
+    <message>
+        <source>File size: %1</source>
+        <translation>ファイルサイズ: %1</translation>
+    </message>
+    <message>
+        <source>Not possible</source>
+        <translation>できません</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>エクスポート(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>画像が大きすぎます。</translation>
+    </message>
+    <message>
+        <source>Exported “%1”</source>
+        <translation>“%1”をエクスポートしました</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>選択範囲</translation>
+    </message>
+    <message>
+        <source>Visible part</source>
+        <translation>見えている範囲</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>画像全体</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>すべてのページ</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>ページ %1</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>/ %1</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>移動(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Page &amp;Thumbnails</source>
+        <translation>ページのサムネール(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Page %1 has no area.</source>
+        <translation>ページ %1 には領域がありません。</translation>
+    </message>
+    <message>
+        <source>Where the pointer is in the picture. Click for another unit.</source>
+        <translation>画像内でのポインタの位置です。クリックすると単位が変わります。</translation>
+    </message>
+    <message>
+        <source>Unit of lengths</source>
+        <translation>長さの単位</translation>
+    </message>
+    <message>
+        <source>&amp;Next Page</source>
+        <translation>次のページ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Page</source>
+        <translation>前のページ(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;First Page</source>
+        <translation>最初のページ(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Last Page</source>
+        <translation>最後のページ(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Page…</source>
+        <translation>ページへ移動(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>&amp;Window Fits Picture</source>
+        <translation>ウインドウを画像に合わせる(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Reload Changed Files b&amp;y Itself</source>
+        <translation>変更されたファイルを自動的に再読み込み(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Select Rectangle</source>
+        <translation>矩形を選択</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width</source>
+        <translation>幅に合わせる(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Next Picture in F&amp;older</source>
+        <translation>フォルダ内の次の画像(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Previous Pictu&amp;re in Folder</source>
+        <translation>フォルダ内の前の画像(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Selection</source>
+        <translation>選択範囲の変更を取り消す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Selection</source>
+        <translation>選択範囲の変更をやり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Select Rectan&amp;gle…</source>
+        <translation>矩形を選択(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>From the left:</source>
+        <translation>左から:</translation>
+    </message>
+    <message>
+        <source>From below:</source>
+        <translation>下から:</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>幅:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>高さ:</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>画質</translation>
+    </message>
+    <message>
+        <source>Still working: wait, or stop and show what there is.</source>
+        <translation>まだ処理中です。このまま待つか、中止してできたところまでを表示します。</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>待つ</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>
@@ -1181,6 +1489,18 @@
     <message>
         <source>Colors used:</source>
         <translation>使用している色:</translation>
+    </message>
+    <message>
+        <source>Encoding of the source</source>
+        <translation>ソースのエンコーディング</translation>
+    </message>
+    <message>
+        <source>About the encoding</source>
+        <translation>エンコーディングについて</translation>
+    </message>
+    <message>
+        <source>What the source seems to say</source>
+        <translation>ソースから推測した情報</translation>
     </message>
 </context>
 <context>

@@ -915,6 +915,314 @@
         <source>Preview</source>
         <translation>预览</translation>
     </message>
+    <message>
+        <source>%1 What is shown is what it had drawn until then.</source>
+        <translation>%1 显示的是在此之前已绘制的内容。</translation>
+    </message>
+    <message>
+        <source>How the documents that it opens are confined:</source>
+        <translation>所打开文档的隔离方式:</translation>
+    </message>
+    <message>
+        <source>Read as:</source>
+        <translation>读取为:</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>The encoding in which comments and source text are read</source>
+        <translation>读取注释和源文本时使用的编码</translation>
+    </message>
+    <message>
+        <source>The source is not valid in %1.</source>
+        <translation>源文本不是有效的 %1 文本。</translation>
+    </message>
+    <message>
+        <source>A guess, as nothing says how the source is encoded. Read as %1:</source>
+        <translation>没有信息说明源文本的编码,因此只是猜测。按 %1 读取:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>说明:</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>What the library that reads the picture says</source>
+        <translation>读取图片的库给出的信息</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>原样</translation>
+    </message>
+    <message>
+        <source>None preview</source>
+        <translation>无预览</translation>
+    </message>
+    <message>
+        <source>WebP image</source>
+        <translation>WebP 图像</translation>
+    </message>
+    <message>
+        <source>Copied %1 pt</source>
+        <translation>已复制 %1 pt</translation>
+    </message>
+    <message>
+        <source>Other Folder…</source>
+        <translation>其他文件夹…</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名称:</translation>
+    </message>
+    <message>
+        <source>Folder for the exported file</source>
+        <translation>存放导出文件的文件夹</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>位于 %1</translation>
+    </message>
+    <message>
+        <source>EPS with TIFF preview</source>
+        <translation>带 TIFF 预览的 EPS</translation>
+    </message>
+    <message>
+        <source>This page</source>
+        <translation>此页</translation>
+    </message>
+    <message>
+        <source>Part:</source>
+        <translation>范围:</translation>
+    </message>
+    <message>
+        <source> pixels an inch</source>
+        <translation> 像素/英寸</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>宽度(像素)</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>高度(像素)</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>像素</translation>
+    </message>
+    <message>
+        <source>Resolution:</source>
+        <translation>分辨率:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>大小:</translation>
+    </message>
+    <message>
+        <source>Fill with</source>
+        <translation>填充</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>Background:</source>
+        <translation>背景:</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>无损</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>质量:</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>Making a preview…</source>
+        <translation>正在生成预览…</translation>
+    </message>
+    <message>
+        <source>File size: %1</source>
+        <translation>文件大小:%1</translation>
+    </message>
+    <message>
+        <source>Not possible</source>
+        <translation>无法做到</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>导出(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>图片太大。</translation>
+    </message>
+    <message>
+        <source>Exported “%1”</source>
+        <translation>已导出“%1”</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>选区</translation>
+    </message>
+    <message>
+        <source>Visible part</source>
+        <translation>可见部分</translation>
+    </message>
+    <message>
+        <source>Whole picture</source>
+        <translation>整张图片</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>所有页面</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>第 %1 页</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页码</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>/ %1</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>前往(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Page &amp;Thumbnails</source>
+        <translation>页面缩略图(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Page %1 has no area.</source>
+        <translation>第 %1 页没有可显示的区域。</translation>
+    </message>
+    <message>
+        <source>Where the pointer is in the picture. Click for another unit.</source>
+        <translation>指针在图片中的位置。点击可切换单位。</translation>
+    </message>
+    <message>
+        <source>Unit of lengths</source>
+        <translation>长度单位</translation>
+    </message>
+    <message>
+        <source>&amp;Next Page</source>
+        <translation>下一页(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Page</source>
+        <translation>上一页(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;First Page</source>
+        <translation>第一页(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Last Page</source>
+        <translation>最后一页(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Page…</source>
+        <translation>前往页面(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>&amp;Window Fits Picture</source>
+        <translation>窗口适合图片(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Reload Changed Files b&amp;y Itself</source>
+        <translation>自动重新载入已更改的文件(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Select Rectangle</source>
+        <translation>选择矩形</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Width</source>
+        <translation>适合宽度(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Next Picture in F&amp;older</source>
+        <translation>文件夹中的下一张图片(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Previous Pictu&amp;re in Folder</source>
+        <translation>文件夹中的上一张图片(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Selection</source>
+        <translation>撤销选区更改(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo Selection</source>
+        <translation>重做选区更改(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Select Rectan&amp;gle…</source>
+        <translation>选择矩形(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>From the left:</source>
+        <translation>距左边:</translation>
+    </message>
+    <message>
+        <source>From below:</source>
+        <translation>距下边:</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>宽度:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>高度:</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
+        <source>Still working: wait, or stop and show what there is.</source>
+        <translation>仍在处理:请等待,或停止并显示已有的内容。</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>等待</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>
@@ -1181,6 +1489,18 @@
     <message>
         <source>Colors used:</source>
         <translation>使用的颜色:</translation>
+    </message>
+    <message>
+        <source>Encoding of the source</source>
+        <translation>源文本的编码</translation>
+    </message>
+    <message>
+        <source>About the encoding</source>
+        <translation>关于编码</translation>
+    </message>
+    <message>
+        <source>What the source seems to say</source>
+        <translation>从源文本推测的信息</translation>
     </message>
 </context>
 <context>

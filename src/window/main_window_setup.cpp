@@ -29,6 +29,7 @@
 #include "window/document_contents.h"
 #include "window/main_window_controller.h"
 #include "window/viewing/live_file.h"
+#include "window/viewing/pages_command.h"
 
 namespace norvex {
 
@@ -181,6 +182,7 @@ void MainWindowController::takeFirstView() {
   if (!first || !validateUserInterfaceItem()) return;
   dialKnob()->turnTo(first->degrees);
   zoomingScrollView()->zoomTo(first->zoom);
+  if (auto* pages = findChild<PagesCommand*>()) pages->show(first->page);
 }
 
 std::optional<PictureView> MainWindowController::pictureView() const {

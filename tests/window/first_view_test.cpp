@@ -22,6 +22,22 @@ class FirstViewTest : public QObject {
     QVERIFY(std::abs(c.view()->rotate() - view->degrees * M_PI / 180) < 1e-9);
   }
 
+  void thePageComesBackToo() {
+    WindowFixture fixture;
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(0, 0, 300, 400)};
+    picture.facts.pageCount = 2;
+    fixture.service.setPicture(picture);
+    MainWindowController& c = fixture.open(emptyPdf({200, 100}), "a.pdf", UTTypePDF().identifier());
+    c.setFirstView({2, 0, 1});
+    c.windowDidLoad();
+    const auto view = c.pictureView();
+    QVERIFY(view.has_value());
+    QCOMPARE(view->page, 1);
+    QCOMPARE(view->zoom, 2.0);
+    QCOMPARE(c.view()->imageRep()->page(), 1);
+  }
+
   void readAgainItStartsOver() {
     WindowFixture fixture;
     MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);

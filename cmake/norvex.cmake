@@ -18,9 +18,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
 endif()
 target_compile_definitions(norvex_flags INTERFACE
   NORVEX_VERSION="${PROJECT_VERSION}" QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
-if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
-  target_compile_options(norvex_flags INTERFACE -pthread)  # some libraries ask for it; one precompiled header serves all
-endif()
+target_compile_options(norvex_flags INTERFACE -pthread)  # some libraries ask for it; one precompiled header serves all
 if(NORVEX_SANITIZE)
   target_compile_options(norvex_flags INTERFACE
     -fsanitize=${NORVEX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
@@ -33,7 +31,7 @@ endif()
 
 # The code under test is optimised, the tests are not: they compile in half the time.
 # What changes a macro that Qt's test header reads is the same for all of them: their precompiled header serves nobody else.
-set(NORVEX_TEST_OPTIONS $<$<CONFIG:Release>:-O0> -pthread -UQT_NETWORK_LIB)
+set(NORVEX_TEST_OPTIONS $<$<CONFIG:Release>:-O0> -UQT_NETWORK_LIB)
 
 # One precompiled header for all folders and one for each kind of tests (tests/CMakeLists.txt): each takes longer to make than
 # most sources.

@@ -31,12 +31,16 @@ bool isBox(const ProgramLine& line) {
   return isComment(line, "%%BoundingBox") || isComment(line, "%%HiResBoundingBox");
 }
 
+/// The ink's box is known no better than this: what is a hair beside a whole number is that number.
+double nearWhole(double points) {
+  constexpr double hair = 0.05;
+  return std::abs(points - std::round(points)) < hair ? std::round(points) : points;
+}
+
 QByteArray wholeNumbers(const QRectF& box) {
-  const double slack =
-      0.05;  // the ink's box is known no better: what reaches a hair over a whole number stays at it
   QByteArrayList numbers;
-  for (const double n : {std::floor(box.left() + slack), std::floor(box.top() + slack),
-                         std::ceil(box.right() - slack), std::ceil(box.bottom() - slack)})
+  for (const double n : {std::floor(nearWhole(box.left())), std::floor(nearWhole(box.top())),
+                         std::ceil(nearWhole(box.right())), std::ceil(nearWhole(box.bottom()))})
     numbers << QByteArray::number(qint64(n));
   return numbers.join(' ');
 }
@@ -44,7 +48,7 @@ QByteArray wholeNumbers(const QRectF& box) {
 QByteArray realNumbers(const QRectF& box) {
   QByteArrayList numbers;
   for (const double n : {box.left(), box.top(), box.right(), box.bottom()}) {
-    QByteArray text = QByteArray::number(n, 'f', 3);
+    QByteArray text = QByteArray::number(nearWhole(n), 'f', 3);
     while (text.endsWith('0')) text.chop(1);
     if (text.endsWith('.')) text.chop(1);
     numbers << (text == "-0" ? QByteArray("0") : text);

@@ -134,6 +134,8 @@ inline constexpr auto ruleTable = std::to_array<RuleRow>({
     {"page.unread", Severity::Note, "A part of the page was not looked at",
      "measured: pages without an end are left at a limit", ""},
     // ---- the document
+    {"pdf.damaged", Severity::Error, "The file is damaged", "PDF 1.7, 7.5 (file structure)",
+     "convert it to PDF, and look whether anything is missing"},
     {"security.encrypted", Severity::Warning, "The document is encrypted", "PDF 1.7, 7.6 (encryption)",
      "write it without encryption"},
     {"security.restricted", Severity::Warning, "Its permissions forbid printing or changing it",

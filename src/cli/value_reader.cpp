@@ -50,8 +50,11 @@ std::optional<QRectF> ValueReader::crop() {
 
 QColor ValueReader::background() {
   if (!arguments_.has(Option::Background)) return {};
-  const QColor color(arguments_.values.value(Option::Background));
-  if (!color.isValid()) complain(QStringLiteral("--background is a colour: a name or #rrggbb"));
+  const QString value = arguments_.values.value(Option::Background);
+  const QColor color(value);
+  // More digits are read in two orders, and mean something see-through in both.
+  const bool isLong = value.startsWith(u'#') && value.size() > 7;
+  if (!color.isValid() || isLong) complain(QStringLiteral("--background is a colour: a name or #rrggbb"));
   return color;
 }
 

@@ -14,4 +14,9 @@ namespace norvex {
   return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
 }
 
+/// A warning among PictureFacts::warnings.
+[[nodiscard]] inline QString damagedFile() {
+  return QStringLiteral("the file is damaged; it was repaired as far as possible");
+}
+
 }  // namespace norvex

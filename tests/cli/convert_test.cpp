@@ -79,6 +79,7 @@ class ConvertTest : public QObject {
     row({"a.eps", "-o", "b.png", "--timeout", "-1"}, "--timeout is a number from 1 to 10000000");
     row({"a.eps", "-o", "b.png", "--memory", "1"}, "--memory is a number from 64 to 1048576");
     row({"a.eps", "-o", "b.png", "--background", "nocolour"}, "--background is a colour: a name or #rrggbb");
+    row({"a.eps", "-o", "b.png", "--background", "#ff000080"}, "--background is a colour: a name or #rrggbb");
     const QString crop = "--crop is X,Y,W,H: four numbers of points with W and H above 0";
     for (const char* value :
          {"1,2,3", "1,2,3,4,5", "1,2,0,4", "1,2,3,-4", "a,b,c,d", "1,2,nan,4", "1,2,3,1e9", ""})

@@ -162,6 +162,7 @@ inline QList<RuleFile> pdfFiles() {
   const QByteArray intents = "/OutputIntents [<< /S /GTS_PDFX /OutputConditionIdentifier (FOGRA39) >>]";
   const QByteArray claim = page("", {}, {"<< /GTS_PDFXVersion (PDF/X-1a:2003) >>"}, "/Info 5 0 R");
   return {
+      {"pdf.damaged", "pdf", plain.left(plain.lastIndexOf("startxref")), plain},
       {"fonts.missing", "pdf", font("/Subtype /Type1 /BaseFont /NoSuchFontAtAll"), plain},
       {"fonts.not-embedded", "pdf", font(kHelvetica), font(kSubset)},
       {"fonts.not-subset", "pdf", font("/Subtype /Type1 /BaseFont /Abc /FontDescriptor 6 0 R"),

@@ -186,6 +186,24 @@ class CheckToolsTest : public QObject {
     QVERIFY(contentsOf(file).startsWith("%!PS-Adobe-3.0 EPSF-3.0\n"));
   }
 
+  void boxesAHairBesideWholeNumbersAreWhole() {
+    const QTemporaryDir folder;
+    const QString source = QStringLiteral(NORVEX_SOURCE_DIR) + "/samples/lighthouse.eps";
+    QCOMPARE(kit::run(kNorvex, {"repair", source, "-o", folder.filePath("b.eps")}).exitCode, 0);
+    const QByteArray repaired = contentsOf(folder.filePath("b.eps"));
+    QVERIFY(repaired.contains("%%BoundingBox: 0 0 720 560\n"));
+    QVERIFY(repaired.contains("%%HiResBoundingBox: 0 0 720 560\n"));
+  }
+
+  void aFileThatWasCutOffIsToldToStaySo() {
+    const QTemporaryDir folder;
+    const QByteArray cut = kEps.left(kEps.indexOf("showpage")) + "10 10 moveto\n";
+    const kit::Ran ran =
+        kit::run(kNorvex, {"repair", written(folder, "a.eps", cut), "-o", folder.filePath("b.eps")});
+    QCOMPARE(ran.exitCode, 0);
+    QVERIFY2(ran.err.contains("this stays as it is: the file seems cut off"), ran.err);
+  }
+
   void whatCannotBeMendedIsNotWritten() {
     const QTemporaryDir folder;
     const auto code = [&](const QByteArray& bytes, const QString& name = "a.eps") {

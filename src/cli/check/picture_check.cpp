@@ -21,6 +21,7 @@
 #include "picture/bitmap_image.h"
 #include "picture/embedded_preview.h"
 #include "picture/open_picture.h"
+#include "protocol/shared_errors.h"
 #include "types/type_identification.h"
 
 namespace norvex {
@@ -136,6 +137,7 @@ class Check {
       result_.error = facts.error();
       return;
     }
+    if (facts->warnings.contains(damagedFile())) add({finding(rule("pdf.damaged"), damagedFile())});
     const int pages = std::min(facts->pageCount, kMostPages);
     for (int page = 0; page < pages && !result_.error; ++page)
       if (const auto contents = contentsOf(process, page))

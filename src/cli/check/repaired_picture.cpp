@@ -12,6 +12,7 @@
 #include "encoders/raster_codecs.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_bounding_box.h"
+#include "metadata/eps_completeness.h"
 #include "picture/bitmap_image.h"
 
 namespace norvex {
@@ -36,6 +37,8 @@ class Repair {
     if (!box) return box.error();
     EpsRepair mended = repairedEps(program, *box, use_ != PreviewUse::Keep);
     noteWrapping();
+    result_.remaining +=
+        epsMissingParts(program);  // putting in an end does not bring back what stood before it
     result_.changes += mended.changes;
     const Result<QByteArray> preview = previewFor(mended.program, *box);
     if (!preview) return preview.error();

@@ -13,7 +13,9 @@ Result<EngineBytes> leaveOutActions(const QByteArray& pdf) {
     QPDF& qpdf = (*file)->qpdf();
     EngineBytes result;
     result.report.warnings = leaveOutActions(qpdf);
-    result.bytes = result.report.warnings.isEmpty() ? pdf : writePdf(qpdf);
+    // Readers differ in what they make of a damaged file: it is handed on as it was understood here.
+    const bool asItIs = result.report.warnings.isEmpty() && (*file)->warnings().isEmpty();
+    result.bytes = asItIs ? pdf : writePdf(qpdf);
     return result;
   });
 }

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "protocol/limits.h"
+#include "protocol/shared_errors.h"
 #include "worker/pdf/pdf_page_tree.h"
 
 namespace norvex::engine {
@@ -170,7 +171,7 @@ PageGeometry PdfFile::geometry(int number) const {
 
 QStringList PdfFile::warnings() const {
   if (!treeIsDamaged_ && !qpdf_->anyWarnings()) return {};
-  return {QStringLiteral("the file is damaged; it was repaired as far as possible")};
+  return {damagedFile()};
 }
 
 }  // namespace norvex::engine

@@ -130,6 +130,21 @@ class PdfActionsTest : public QObject {
       QVERIFY(!QByteArray::fromStdString(object.unparseResolved()).contains("HOSTILE"));
   }
 
+  void aDamagedDocumentIsHandedOnAsItWasUnderstood() {
+    const QByteArray whole =
+        madePdf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+                 "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] >>"});
+    QCOMPARE(leaveOutActions(whole)->bytes, whole);
+    const QByteArray damaged = whole.left(whole.lastIndexOf("xref"));
+    QVERIFY(!(*PdfFile::open(damaged))->warnings().isEmpty());
+    const auto repaired = leaveOutActions(damaged);
+    QVERIFY(repaired);
+    const auto again = PdfFile::open(repaired->bytes);
+    QVERIFY(again);
+    QCOMPARE((*again)->warnings(), QStringList());
+    QCOMPARE((*again)->pageCount(), 1);
+  }
+
   void whatIsLeftOutOfAWholeDocumentIsNoneOfItsPages() {
     const QByteArray pdf =
         madePdf({"<< /Type /Catalog /Pages 2 0 R /Outlines 6 0 R /OpenAction [4 0 R /Fit] /AA << /WP " +

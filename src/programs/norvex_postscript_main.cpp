@@ -3,7 +3,6 @@
 // Descriptor 4 is /proc where it is started within a view of the files.
 #include <sys/prctl.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
 
 #include <csignal>
 #include <cstdio>
@@ -20,11 +19,6 @@
 
 namespace {
 
-bool isSocket(int fd) {
-  struct stat status = {};
-  return ::fstat(fd, &status) == 0 && S_ISSOCK(status.st_mode);
-}
-
 void setEnvironment(const std::string& scratchRoot) {
   ::clearenv();
   for (const char* variable : norvex::engine::distillerEnvironment) ::putenv(const_cast<char*>(variable));
@@ -36,7 +30,7 @@ void setEnvironment(const std::string& scratchRoot) {
 
 int main(int argc, char** argv) {
   using namespace norvex;
-  if (argc < 2 || !isSocket(controlDescriptor)) {
+  if (argc < 2 || !hasControlSocket()) {
     std::fputs("norvex-postscript: is started by norvex, not by hand\n", stderr);
     return 2;
   }

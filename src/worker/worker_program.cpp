@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -27,11 +26,6 @@ namespace {
 
 constexpr int kUsage = 2;
 constexpr std::string_view kExpectPostScript = "postscript";
-
-bool isSocket(int fd) {
-  struct stat status = {};
-  return ::fstat(fd, &status) == 0 && S_ISSOCK(status.st_mode);
-}
 
 int startedByHand(const char* program) {
   std::fprintf(stderr, "%s: is started by norvex, not by hand\n", program);
@@ -71,7 +65,7 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   InterpreterProgram interpreter(argc > 1 ? argv[1] : "");
   // Before anything else: it takes longest.
   if (argc > 3 && argv[3] == kExpectPostScript) interpreter.start();
-  if (argc > 1 && isSocket(controlDescriptor)) prepareSandboxes(argv[1], layers);
+  if (argc > 1 && hasControlSocket()) prepareSandboxes(argv[1], layers);
   if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
       expected != 0)
     (void)engines.source(expected & allPictureNeeds);
@@ -88,7 +82,7 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
 }
 
 int runPictureProgram(const EngineSet& engines) {
-  if (!isSocket(controlDescriptor)) return startedByHand("norvex-picture");
+  if (!hasControlSocket()) return startedByHand("norvex-picture");
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   std::signal(SIGPIPE, SIG_IGN);
   ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
@@ -103,7 +97,7 @@ int runPictureProgram(const EngineSet& engines) {
 
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp,
                   ForkServer::Prepare prepare) {
-  if (argc < 2 || !isSocket(controlDescriptor)) return startedByHand("norvex-worker");
+  if (argc < 2 || !hasControlSocket()) return startedByHand("norvex-worker");
   ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
   std::signal(SIGPIPE, SIG_IGN);
   const QByteArray root = argv[1];

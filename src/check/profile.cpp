@@ -10,11 +10,10 @@
 #define TOML_EXCEPTIONS 0
 #include <toml++/toml.h>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
-
-/// More is no profile.
-constexpr qint64 kMaximumBytes = 1 << 20;
 
 struct NumberKey {
   std::string_view name;
@@ -124,7 +123,7 @@ Result<Profile> profileNamed(const QString& nameOrFile) {
     return Error{ErrorKind::CannotRead,
                  QStringLiteral("there is no profile %1, and no file of that name; profiles are: %2")
                      .arg(nameOrFile, shippedProfiles().join(QStringLiteral(", ")))};
-  if (file.size() > kMaximumBytes)
+  if (file.size() > limits::maximumProfileBytes)
     return Error{ErrorKind::Limit, QStringLiteral("%1 is too large for a profile").arg(nameOrFile)};
   Result<Profile> profile = profileFromToml(file.readAll());
   if (profile) return profile;

@@ -2,11 +2,12 @@
 
 #include <cmath>
 
+#include "protocol/limits.h"
+
 namespace norvex {
 namespace {
 
 constexpr double kSideMargin = 72, kOtherMargin = 90;
-constexpr int kMostPages = 1'000'000;
 
 bool isNumber(const QVariant& value) {
   switch (value.typeId()) {
@@ -90,11 +91,12 @@ int NSPrintInfo::copies() const {
 }
 
 int NSPrintInfo::firstPage() const {
-  return printsAllPages() ? 1 : integer(NSPrintFirstPage, 1, kMostPages, 1);
+  return printsAllPages() ? 1 : integer(NSPrintFirstPage, 1, limits::maximumPrintPages, 1);
 }
 
 int NSPrintInfo::lastPage() const {
-  return printsAllPages() ? kMostPages : integer(NSPrintLastPage, 1, kMostPages, kMostPages);
+  return printsAllPages() ? limits::maximumPrintPages
+                          : integer(NSPrintLastPage, 1, limits::maximumPrintPages, limits::maximumPrintPages);
 }
 
 void NSPrintInfo::setPageRange(int first, int last) {

@@ -42,7 +42,9 @@ inline constexpr int maximumWarnings = 200;
 inline constexpr int maximumAttributes = 32;
 inline constexpr int maximumNames = 100;  ///< of fonts and of colour spaces, in PictureFacts
 inline constexpr int maximumNameLength = 256;
-inline constexpr int maximumTypeLength = 16;  ///< of the word that tells what a message is
+inline constexpr int maximumPasswordLength = 1 << 10;
+inline constexpr qsizetype maximumLayers = 500;  ///< that can be switched
+inline constexpr int maximumTypeLength = 16;     ///< of the word that tells what a message is
 /// Counts that overflow when they are worked with, and process numbers that would kill another process.
 inline constexpr int maximumToldPages = 10'000'000;
 inline constexpr int maximumPageNumber = 1'000'000;  ///< that may be asked for
@@ -115,6 +117,12 @@ inline constexpr qint64 maximumEntityExpansion = 64LL << 20;
 inline constexpr int maximumEntityUses = 200'000;
 /// A font shorthand made to be matched for ever: a match takes time that grows with the square of its length.
 inline constexpr qsizetype maximumFontShorthand = 500;
+/// Selectors within selectors (":not(:not(…") that use up the stack of who reads style sheets.
+inline constexpr int maximumSelectorDepth = 500;
+/// Letters whose outlines and shapes use up the memory; in user units, or in what the number stands before.
+inline constexpr double maximumSvgFont = 1.0e6;
+/// Numbers of a filter's matrix. Beyond it the renderer gives the matrix up, and itself with it.
+inline constexpr double maximumFilterMatrix = 400;
 /// Layers as large as the whole picture on the device, at a high zoom: pixels, and pixels a side.
 inline constexpr double maximumLayerPixels = 32.0e6;
 inline constexpr double maximumLayerSide = 16'000;
@@ -126,6 +134,15 @@ inline constexpr double maximumEffectPixels = 16.0e6;
 /// PostScript that fills the disk with files, or with the number of them.
 inline constexpr qint64 maximumScratchBytes = 1LL << 30;
 inline constexpr int maximumScratchFiles = 1000;
+/// A program that opens file after file. The interpreter, fonts and pipes stay far below.
+inline constexpr quint64 maximumOpenFiles = 128;
+/// A program that writes messages without end: the last bytes of them that are kept, and fonts that others
+/// stand in for, that are told.
+inline constexpr qsizetype maximumProgramMessages = 64 << 10;
+inline constexpr qsizetype maximumSubstitutions = 20;
+/// A process that has been taken over by its document and would fill the machine with interpreters: more than
+/// a run ever works on at once.
+inline constexpr size_t maximumInterpreters = 64;
 
 /// A page tree made to be walked for ever.
 inline constexpr int maximumPages = 100'000;
@@ -178,7 +195,39 @@ inline constexpr double maximumSvgCells = 400;
 /// Gradients that only an image can hold: pixels of each.
 inline constexpr double maximumSvgShadingPixels = 4.0e6;
 
+// ---- looking at what is in a page ----
+
+/// A page of hundreds of thousands of small images, each with its own place.
+inline constexpr int maximumToldImages = 500;
+/// Sides of images that overflow when they are multiplied. No image is as large.
+inline constexpr int maximumImageSide = 1 << 24;
+/// Contents that unpack to gigabytes.
+inline constexpr qint64 maximumReadContents = 64LL << 20;
+/// Forms that show forms that show forms: operators that are carried out in all.
+inline constexpr int maximumOperators = 3'000'000;
+/// Operands without an operator.
+inline constexpr int maximumOperands = 4096;
+/// States saved and never brought back.
+inline constexpr int maximumSavedStates = 4096;
+/// XMP packets of megabytes.
+inline constexpr qint64 maximumXmpBytes = 1LL << 20;
+/// Pixels of one bitmap in which the ink's edge is looked for.
+inline constexpr double maximumInkPixels = 24.0e6;
+/// Pages by the thousand whose contents are looked at one by one: more are no picture.
+inline constexpr int maximumExaminedPages = 100;
+/// Inks by the hundred, each with a plate as large as the page: what the interpreter separates at most, and
+/// pixels of one plate.
+inline constexpr int maximumInks = 60;
+inline constexpr double maximumPlatePixels = 16.0e6;
+/// A page that says a book: letters of its text that are told, each with its place.
+inline constexpr qsizetype maximumLetters = 500'000;
+/// A profile of megabytes.
+inline constexpr qint64 maximumProfileBytes = 1 << 20;
+
 // ---- printers ----
+
+/// Page numbers of a job's settings that overflow when they are worked with.
+inline constexpr int maximumPrintPages = 1'000'000;
 
 /// A print service that does not answer: milliseconds until it is connected, and seconds of each of so many
 /// looks while nothing is heard from it.

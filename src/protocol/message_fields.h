@@ -16,6 +16,7 @@
 
 #include "protocol/cbor_reader.h"
 #include "protocol/cbor_writer.h"
+#include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex {
@@ -28,6 +29,12 @@ template <typename V>
 void version(V& v) {
   Of<V, int> same = workerProtocolVersion;
   v.integer(QLatin1String("v"), same, workerProtocolVersion, workerProtocolVersion);
+}
+
+template <typename V>
+void fields(V& v, Of<V, PictureLayer>& layer) {
+  v.text(QLatin1String("name"), layer.name, limits::maximumNameLength);
+  v.boolean(QLatin1String("shown"), layer.shown);
 }
 
 /// The word that tells what a message is; specialised for each.

@@ -1,6 +1,5 @@
 #include "protocol/page_contents.h"
 
-#include "protocol/examination_limits.h"
 #include "protocol/limits.h"
 #include "protocol/message_fields.h"
 

@@ -52,6 +52,8 @@ template <typename V>
 void fields(V& v, Of<V, OpenRequest>& open) {
   v.oneOf(Key("kind"), open.kind, PictureKind::Eps, PictureKind::Svg);
   v.nested(Key("limits"), open.limits);
+  v.text(Key("password"), open.password, limits::maximumPasswordLength);
+  v.records(Key("layers"), open.layers, limits::maximumLayers);
 }
 
 template <typename V>

@@ -27,7 +27,7 @@
 
 namespace norvex {
 
-inline constexpr int workerProtocolVersion = 7;
+inline constexpr int workerProtocolVersion = 8;
 
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
 enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
@@ -42,10 +42,18 @@ struct PictureLimits {
 // ---- requests
 // -------------------------------------------------------------------------------------------------------
 
+/// A layer of a PDF (optional contents, PDF 32000-1, 8.11) that can be switched.
+struct PictureLayer {
+  QString name;
+  bool shown = true;
+};
+
 /// First request of every document; its bytes travel as the message's memfd.
 struct OpenRequest {
   PictureKind kind = PictureKind::Eps;
   PictureLimits limits;
+  QString password = {};            ///< of a document that is protected by one
+  QList<PictureLayer> layers = {};  ///< in the order of PictureFacts::layers; empty: as the document says
 };
 
 enum class RenderPurpose { View = 1, Preview = 2, Export = 3, Print = 4 };
@@ -182,8 +190,9 @@ struct PictureFacts {
   QString title, description, encodingName;
   int encodingNumber = 0;
   std::optional<bool> fixedRatioX,
-      fixedRatioY;       ///< true: an absolute length, false: a percentage, absent: no attribute
-  QStringList warnings;  ///< one plain sentence each
+      fixedRatioY;             ///< true: an absolute length, false: a percentage, absent: no attribute
+  QStringList warnings;        ///< one plain sentence each
+  QList<PictureLayer> layers;  ///< in the document's order, as they are shown now
   QString stoppedBy;  ///< PostScript: why the program ended before its end, one plain sentence; the picture
                       ///< is what it had drawn. Empty: it ran to its end
 };

@@ -57,6 +57,7 @@ void fields(V& v, Of<V, PictureFacts>& facts) {
   v.texts(Key("fonts"), facts.fonts, limits::maximumNames, limits::maximumNameLength);
   v.texts(Key("colorSpaces"), facts.colorSpaces, limits::maximumNames, limits::maximumNameLength);
   svgFields(v, facts);
+  v.records(Key("layers"), facts.layers, limits::maximumLayers);
   warnings(v, facts.warnings);
   v.text(Key("stoppedBy"), facts.stoppedBy, limits::maximumSentenceLength);
 }

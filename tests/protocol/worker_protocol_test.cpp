@@ -31,6 +31,7 @@ PictureFacts richFacts() {
   facts.encodingNumber = 4;
   facts.fixedRatioX = true;
   facts.fixedRatioY = false;
+  facts.layers = {{"Cut contour", true}, {"", false}};
   facts.warnings = {"one", "two"};
   return facts;
 }
@@ -71,6 +72,7 @@ QList<WorkerMessage> messages() {
       WorkerRequest{11, PdfRequest{7, attributes()}},
       WorkerRequest{12, ComposeRequest{VectorFormat::Pdf, 1, QRectF(0, 0, 1, 1), 0, attributes()}},
       WorkerRequest{13, ExamineRequest{Examination::Inks, 2, 144, true}},
+      WorkerRequest{14, OpenRequest{PictureKind::Pdf, {}, "pass word", {{"Cut", true}, {"Text", false}}}},
       WorkerRequest{10, pages()},
   };
 }
@@ -178,6 +180,17 @@ class WorkerProtocolTest : public QObject {
     QVERIFY(fork.postScript);
     QCOMPARE(fork.limits.memoryMiB, 2);
     QCOMPARE(fork.needs, PictureNeeds(NeedPages | NeedPreviews));
+  }
+
+  void thePasswordAndTheLayersOfADocumentAreKept() {
+    const auto decoded = decodeMessage(encodeMessage(messages().at(messages().size() - 2)));
+    QVERIFY(decoded.ok());
+    const auto open = std::get<OpenRequest>(std::get<WorkerRequest>(*decoded).body);
+    QCOMPARE(open.password, QString("pass word"));
+    QCOMPARE(open.layers.size(), 2);
+    QCOMPARE(open.layers[1].name, QString("Text"));
+    QVERIFY(open.layers[0].shown);
+    QVERIFY(!open.layers[1].shown);
   }
 
   void theAttributesOfAPdfToBeMadeAreKept() {

@@ -64,6 +64,7 @@ class AboutBoxTest : public QObject {
 
   void aBoxThatIsClosedBeforeTheAnswerIsNoHarm() {
     QSemaphore asked, answer;
+    const WaitingThreadsEnd end;  // the one who answers looks at both until it is done
     setConfinementWords([&] {
       asked.release();
       answer.acquire();

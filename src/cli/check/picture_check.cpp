@@ -21,14 +21,13 @@
 #include "picture/bitmap_image.h"
 #include "picture/embedded_preview.h"
 #include "picture/open_picture.h"
+#include "protocol/limits.h"
 #include "protocol/shared_errors.h"
 #include "types/type_identification.h"
 
 namespace norvex {
 namespace {
 
-/// Pages of one document; more are no picture.
-constexpr int kMostPages = 100;
 /// Pixels of the longer side of the drawing that a preview is compared with.
 constexpr double kComparedPixels = 256;
 
@@ -138,7 +137,7 @@ class Check {
       return;
     }
     if (facts->warnings.contains(damagedFile())) add({finding(rule("pdf.damaged"), damagedFile())});
-    const int pages = std::min(facts->pageCount, kMostPages);
+    const int pages = std::min(facts->pageCount, limits::maximumExaminedPages);
     for (int page = 0; page < pages && !result_.error; ++page)
       if (const auto contents = contentsOf(process, page))
         addOfPage(pageFindings(*contents, kind, request_.profile.limits),

@@ -7,13 +7,13 @@
 #include <algorithm>
 #include <csignal>
 
+#include "protocol/limits.h"
 #include "worker/confinement/instrumented.h"
 #include "worker/confinement/process_files.h"
 
 namespace norvex {
 namespace {
 
-constexpr rlim_t kOpenFiles = 128;  ///< Ghostscript, fonts and pipes stay far below
 constexpr rlim_t kMiB = 1 << 20;
 constexpr rlim_t kUnknown = 512 * kMiB;  ///< taken for what is mapped where that cannot be found out
 constexpr int kSpareSeconds = 30;
@@ -39,7 +39,7 @@ bool limitFiles(const PictureLimits& limits) {
   const rlim_t bitmap = rlim_t(limits.megapixels * 4.0e6) + kMiB;
   std::signal(SIGXFSZ, SIG_IGN);
   return limit(RLIMIT_FSIZE, std::max(bitmap, rlim_t(limits.memoryMiB) * kMiB)) &&
-         limit(RLIMIT_NOFILE, kOpenFiles) && limit(RLIMIT_CORE, 0);
+         limit(RLIMIT_NOFILE, limits::maximumOpenFiles) && limit(RLIMIT_CORE, 0);
 }
 
 bool limitAddressSpace(const PictureLimits& limits, quint64 more) {

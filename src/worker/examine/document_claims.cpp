@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <exception>
 
-#include "protocol/examination_limits.h"
 #include "protocol/limits.h"
 #include "worker/pdf/pdf_colour_operators.h"
 

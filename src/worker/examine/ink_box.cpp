@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "protocol/examination_limits.h"
 #include "protocol/limits.h"
 
 namespace norvex::engine {

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include "protocol/examination_limits.h"
 #include "protocol/limits.h"
 #include "worker/examine/operands.h"
 #include "worker/pdf/pdf_colour_operators.h"

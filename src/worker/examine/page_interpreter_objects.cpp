@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "protocol/examination_limits.h"
+#include "protocol/limits.h"
 #include "worker/examine/operands.h"
 #include "worker/examine/page_interpreter.h"
 

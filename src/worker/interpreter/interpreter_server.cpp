@@ -14,15 +14,12 @@
 #include <utility>
 
 #include "base/remove_folder.h"
+#include "protocol/limits.h"
 #include "worker/confinement/process_files.h"
 #include "worker/confinement/sandbox.h"
 
 namespace norvex {
 namespace {
-
-/// More than a run ever works on at once: a process that has been taken over by its document cannot fill the
-/// machine with interpreters.
-constexpr size_t kMaximumChildren = 64;
 
 template <typename Value>
 void tell(const FileDescriptor& outcome, const Value& value) {
@@ -64,7 +61,8 @@ void InterpreterServer::buryWhoMustGo(const std::vector<pollfd>& polls) {
 
 QByteArray InterpreterServer::takeRequest() {
   Result<InterpreterRequest> request = receiveInterpreterRequest(taking_.get());
-  if (request) return children_.size() < kMaximumChildren ? fork(std::move(*request)) : QByteArray();
+  if (request)
+    return children_.size() < limits::maximumInterpreters ? fork(std::move(*request)) : QByteArray();
   if (request.error().kind == ErrorKind::Protocol) return {};
   for (Child& child : children_) bury(child);
   ::_exit(0);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "protocol/limits.h"
 #include "protocol/program_stop.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/engine/distiller_arguments.h"
@@ -17,8 +18,6 @@
 
 namespace norvex::engine {
 namespace {
-
-constexpr qsizetype kMaximumSubstitutions = 20;  // that are told
 
 // Runs before the document, whose program follows it in the same stream. The page is set once and for all:
 // what a document may do to it (setpagedevice) does nothing, and the operators that go back to the page's own
@@ -98,7 +97,7 @@ QStringList substitutions(const QByteArray& messages) {
     const QRegularExpressionMatch font = match.next();
     const QString warning = missingFontSentence(font.captured(2), font.captured(1));
     if (!warnings.contains(warning)) warnings << warning;
-    if (warnings.size() == kMaximumSubstitutions) break;
+    if (warnings.size() == limits::maximumSubstitutions) break;
   }
   return warnings;
 }

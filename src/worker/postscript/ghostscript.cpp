@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "protocol/interpreter_request.h"
+#include "protocol/limits.h"
 #include "protocol/process_end.h"
 #include "worker/confinement/sandbox.h"
 #include "worker/confinement/scratch_watch.h"
@@ -28,7 +29,6 @@ namespace norvex::engine {
 namespace {
 
 constexpr int kLookMilliseconds = 50;  // how often the cancel token is looked at
-constexpr qsizetype kMaximumMessages = 64 << 10;
 
 struct Pipe {
   int end[2] = {-1, -1};
@@ -243,11 +243,12 @@ Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadl
       return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript cannot be talked to")};
     if (watched[0].revents != 0 && !feed.writeTo(input_)) closeDescriptor(input_);
     if (watched[1].revents != 0 && !readInto(output_, collected.output, maximum)) closeDescriptor(output_);
-    if (watched[2].revents != 0 && !readInto(messages_, collected.messages, 2 * kMaximumMessages))
+    if (watched[2].revents != 0 &&
+        !readInto(messages_, collected.messages, 2 * limits::maximumProgramMessages))
       closeDescriptor(messages_);
     // A document may print as much as it likes; how it ended comes last.
-    if (collected.messages.size() > kMaximumMessages)
-      collected.messages.remove(0, collected.messages.size() - kMaximumMessages);
+    if (collected.messages.size() > limits::maximumProgramMessages)
+      collected.messages.remove(0, collected.messages.size() - limits::maximumProgramMessages);
     if (collected.output.size() >= maximum)
       return Error{ErrorKind::Limit,
                    QStringLiteral("the picture is larger than the memory that it was granted")};

@@ -29,12 +29,6 @@ constexpr char kSvgNamespace[] = "http://www.w3.org/2000/svg";
 // more.
 constexpr qsizetype kOrdinaryText = 9'000'000;
 constexpr int kOrdinaryDepth = 240;
-// Selectors within selectors (":not(:not(…") that use up the stack of who reads style sheets.
-constexpr int kDeepestSelector = 500;
-// Letters whose outlines and shapes use up the memory; in user units, or in what the number stands before.
-constexpr double kLargestFont = 1.0e6;
-// Beyond it librsvg gives a filter's matrix up, and itself with it.
-constexpr double kLargestMatrix = 400;
 
 QString text(const xmlChar* utf8) {
   return QString::fromUtf8(reinterpret_cast<const char*>(utf8));
@@ -229,9 +223,9 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
   }
   if (attribute.name == QLatin1String("font-size")) checkFontSize(largestNumber(value));
   if (name == QLatin1String("feConvolveMatrix") && attribute.name == QLatin1String("order") &&
-      matrixSize(value) > kLargestMatrix)
+      matrixSize(value) > limits::maximumFilterMatrix)
     stop(ErrorKind::Limit, QStringLiteral("the document has a filter with a matrix of more than %1 numbers")
-                               .arg(kLargestMatrix));
+                               .arg(limits::maximumFilterMatrix));
   if (attribute.name == QLatin1String("href") && value.trimmed().startsWith('#'))
     nesting_.refer(value.trimmed().mid(1));
   if (attribute.name == QLatin1String("href")) lookAtReference(name, value.trimmed());
@@ -255,16 +249,16 @@ void Inspector::lookAtStyleSheet(const QString& css) {
   found_.outsideReferences += style.outsideReferences;
   checkFontSize(style.largestFont);
   sizes_.styleSheet(style.largestFont);
-  if (style.deepestBrackets > kDeepestSelector)
+  if (style.deepestBrackets > limits::maximumSelectorDepth)
     stop(ErrorKind::Limit,
          QStringLiteral("the selectors of the document's style sheets nest more than %1 deep")
-             .arg(kDeepestSelector));
+             .arg(limits::maximumSelectorDepth));
 }
 
 void Inspector::checkFontSize(double size) {
-  if (size > kLargestFont)
-    stop(ErrorKind::Limit,
-         QStringLiteral("the document has text of more than %1 units in size").arg(kLargestFont, 0, 'f', 0));
+  if (size > limits::maximumSvgFont)
+    stop(ErrorKind::Limit, QStringLiteral("the document has text of more than %1 units in size")
+                               .arg(limits::maximumSvgFont, 0, 'f', 0));
 }
 
 double Inspector::ownFontSize(const QList<Attribute>& attributes) {

@@ -10,11 +10,11 @@
 
 #include "base/interruption.h"
 #include "base/latin1_text.h"
-#include "cli/check/picture_check.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "cli/json_output.h"
 #include "cli/value_reader.h"
+#include "picture_check/picture_check.h"
 
 namespace norvex {
 namespace {

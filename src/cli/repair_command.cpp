@@ -1,10 +1,10 @@
 // `norvex repair`: an EPS file mended around its program, written whole or not at all.
 #include "base/file_name.h"
 #include "base/interruption.h"
-#include "cli/check/repaired_picture.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "cli/value_reader.h"
+#include "picture_check/repaired_picture.h"
 
 namespace norvex {
 namespace {

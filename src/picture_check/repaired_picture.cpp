@@ -1,4 +1,4 @@
-#include "cli/check/repaired_picture.h"
+#include "picture_check/repaired_picture.h"
 
 #include <QImage>
 
@@ -7,13 +7,13 @@
 #include "base/time_limit.h"
 #include "check/eps_repair.h"
 #include "check/file_wrapping.h"
-#include "cli/check/picture_check.h"
 #include "encoders/dos_eps_writer.h"
 #include "encoders/raster_codecs.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_completeness.h"
 #include "picture/bitmap_image.h"
+#include "picture_check/picture_check.h"
 
 namespace norvex {
 namespace {

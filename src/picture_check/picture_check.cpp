@@ -1,4 +1,4 @@
-#include "cli/check/picture_check.h"
+#include "picture_check/picture_check.h"
 
 #include <QHash>
 #include <QImage>

@@ -16,6 +16,7 @@
 #include "ui/style/window_style.h"
 #include "ui_MainWindowController.h"
 #include "window/commands/window_frames.h"
+#include "window/inspector_pages.h"
 #include "window/viewing/live_file.h"
 
 namespace norvex {
@@ -90,6 +91,7 @@ void MainWindowController::loadWindow() {
   connectControls();
   connectCommands();
   inspector_.order();
+  addInspectorPages(*this);
   connectPrinting();
   encoding_.setUp({ui_->encodingChoice, ui_->encodingTitle, ui_->encodingPopUp, ui_->guessBox,
                    ui_->encodingNote, ui_->guessForm});

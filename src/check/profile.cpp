@@ -10,6 +10,7 @@
 #define TOML_EXCEPTIONS 0
 #include <toml++/toml.h>
 
+#include "check/profile_text.h"
 #include "protocol/limits.h"
 
 namespace norvex {
@@ -101,7 +102,13 @@ QString shippedFolder() {
 }  // namespace
 
 Result<Profile> profileFromToml(const QByteArray& toml) {
-  const toml::parse_result parsed = toml::parse(std::string_view(toml.constData(), size_t(toml.size())));
+  const ProfileText plain = plainProfile(toml);
+  if (plain.badLine > 0)
+    return Error{ErrorKind::NotParsable,
+                 QStringLiteral("line %1: this is neither a [table] nor a name with = and a value")
+                     .arg(plain.badLine)};
+  const toml::parse_result parsed =
+      toml::parse(std::string_view(plain.toml.constData(), size_t(plain.toml.size())));
   if (parsed) return Reader().read(parsed.table());
   return Error{ErrorKind::NotParsable, QStringLiteral("line %1: %2")
                                            .arg(parsed.error().source().begin.line)

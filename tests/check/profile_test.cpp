@@ -47,6 +47,21 @@ class ProfileTest : public QObject {
     QVERIFY(complaintAbout("[limits\n").startsWith("line 1: "));
   }
 
+  void whatIsNoTomlIsToldWithItsLineWhateverItsBytes() {
+    for (const char* header : {"[&", "[[[1]]]", "[[=", "[ ", "[[ \n]]", "[.a]", "[\xC2\xA0]", "[a.]"})
+      QVERIFY2(complaintAbout(QByteArray("[limits]\n") + header).startsWith("line 2: "),
+               qPrintable(complaintAbout(QByteArray("[limits]\n") + header)));
+    QVERIFY(complaintAbout("[limits]\ncolumns-mm = [ , 1]\n\n").startsWith("line 2: "));
+    const QByteArray good = "[limits]\ncolumns-mm = [85, 120.5]\nrgb = false\n[severities]\n";
+    for (qsizetype at = 0; at < good.size(); ++at)
+      for (const char* bytes : {"[", "]", ",", "=", "\"", "'", ".", "\xC2\xA0", "\r", "\\", "{"}) {
+        QByteArray spoilt = good;
+        spoilt.insert(at, bytes);
+        const QString complaint = complaintAbout(spoilt);
+        QVERIFY2(complaint.isEmpty() || complaint.startsWith("line "), spoilt.constData());
+      }
+  }
+
   void theProfilesOfTheProgramAreSound() {
     QCOMPARE(shippedProfiles(), QStringList({"archive", "journal", "print", "web"}));
     for (const QString& name : shippedProfiles()) {

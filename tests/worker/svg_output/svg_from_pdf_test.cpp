@@ -29,7 +29,7 @@ QByteArray jpegOf(const QImage& image) {
 }
 
 Result<EngineBytes> composed(const QByteArray& pdf, ComposeRequest request) {
-  EngineContext context;
+  EngineContext context{};
   auto opened = openPdf(pdf, context);
   if (!opened) return opened.error();
   request.format = VectorFormat::Svg;
@@ -194,7 +194,7 @@ class SvgFromPdfTest : public QObject {
   }
 
   void morePathsThanAreGrantedAreALimit() {
-    EngineContext context;
+    EngineContext context{};
     context.limits.memoryMiB = 1;
     QByteArray paths;
     for (int i = 0; i < 20000; ++i)
@@ -214,7 +214,7 @@ class SvgFromPdfTest : public QObject {
   }
 
   void cancelledWorkEnds() {
-    EngineContext context;
+    EngineContext context{};
     context.cancel.cancel();
     const MadeSvg made(page("0 0 9 9 re f"), {}, context);
     QVERIFY(made.error());

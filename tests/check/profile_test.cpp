@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 
 using namespace norvex;
 
@@ -33,6 +34,21 @@ class ProfileTest : public QObject {
     QVERIFY(!profile->limits.rgb);
     QCOMPARE(profile->severities["fonts.type3"], std::optional(Severity::Error));
     QCOMPARE(profile->severities["eps.preview.missing"], std::optional<Severity>());
+  }
+
+  void aFileOfMegabytesIsNoProfile() {
+    const QTemporaryDir folder;
+    const auto sentence = [&](qint64 bytes) {
+      QFile file(folder.filePath("a.toml"));
+      if (!file.open(QIODevice::WriteOnly) || !file.resize(0)) return QString("not written");
+      file.write("[limits]\n" + QByteArray(bytes - 9, '\n'));
+      file.close();
+      const Result<Profile> profile = profileNamed(file.fileName());
+      return profile ? QString() : profile.error().message;
+    };
+    QCOMPARE(sentence(limits::maximumProfileBytes), QString());
+    QCOMPARE(sentence(limits::maximumProfileBytes + 1),
+             folder.filePath("a.toml") + " is too large for a profile");
   }
 
   void whatIsMisspeltIsToldWithItsLine() {

@@ -1,5 +1,6 @@
 #include "metadata/eps_resources.h"
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 
 using namespace norvex;
 
@@ -53,7 +54,17 @@ class EpsResourcesTest : public QObject {
   void namesWithoutEndAreCut() {
     QByteArray many = "%%DocumentFonts:";
     for (int i = 0; i < 5000; ++i) many += " F" + QByteArray::number(i);
-    QCOMPARE(resourcesOf(many + "\n").fonts.size(), 200);
+    QCOMPARE(resourcesOf(many + "\n").fonts.size(), limits::maximumResourceNames);
+  }
+
+  void aTrailerWithoutEndIsReadInPart() {
+    const auto fonts = [](qsizetype between) {
+      return resourcesOf("%%DocumentFonts: (atend)\n",
+                         "%%Trailer\n%" + QByteArray(between, 'x') + "\n%%DocumentFonts: Times\n%%EOF\n")
+          .fonts;
+    };
+    QCOMPARE(fonts(9), QStringList{"Times"});
+    QCOMPARE(fonts(limits::maximumTrailerBytes), QStringList());
   }
 };
 

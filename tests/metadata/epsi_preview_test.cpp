@@ -2,6 +2,7 @@
 #include "metadata/epsi_preview.h"
 
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 
 using namespace norvex;
 
@@ -20,6 +21,17 @@ class EpsiPreviewTest : public QObject {
     QVERIFY(!rep->isPlanar);
     QCOMPARE(rep->colorSpaceName, "NSCalibratedWhiteColorSpace");
     QCOMPARE(rep->data, QByteArray("\x00\xFF", 2));
+  }
+
+  void aPreviewOfGigabytesIsRefused() {
+    const auto sentence = [](qint64 width, qint64 height) {
+      const auto rep =
+          epsiPreview(' ' + QByteArray::number(width) + ' ' + QByteArray::number(height) + " 1 1\n");
+      return rep ? QString() : rep.error().message;
+    };
+    QCOMPARE(sentence(limits::maximumPreviewPixels / 8, 8), QString());
+    QCOMPARE(sentence(limits::maximumPreviewPixels / 8, 9), QString("the embedded preview is too large"));
+    QCOMPARE(sentence(limits::maximumPreviewPixels + 1, 1), QString("the embedded preview is too large"));
   }
 
   void bytesPerRow_data() {

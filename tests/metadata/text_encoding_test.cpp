@@ -5,6 +5,7 @@
 
 #include "base/non_lossy_ascii.h"
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 
 using namespace norvex;
 
@@ -49,6 +50,12 @@ class TextEncodingTest : public QObject {
       QVERIFY(encodingName(number).isEmpty());
     }
     QVERIFY(!encodingNumberOf(u"latin1"));
+  }
+
+  /// What the converter cannot count is not given to it. Nobody has written to the room that this takes.
+  void aTextBeyondWhatCanBeCountedIsNotDecoded() {
+    const QByteArray bytes(limits::maximumConvertedLength + 1, Qt::Uninitialized);
+    QVERIFY(!decodeNamedText(bytes, "Shift_JIS"));
   }
 
   void everyEncodingOfTheListDecodesAndIsThereOnce() {

@@ -4,6 +4,7 @@
 
 #include "kit/test_main.h"
 #include "print/print_info_archive.h"
+#include "protocol/limits.h"
 
 using namespace norvex;
 
@@ -131,6 +132,27 @@ class PrintInfoTest : public QObject {
   void anUnreadableArchiveIsNothing() {
     QFETCH(QByteArray, archive);
     QVERIFY(!unarchivedPrintInfo(archive));
+  }
+
+  void anArchiveIsAsLongAsSettingsAre() {
+    const auto isRead = [](qsizetype letters, qsizetype more = 0) {
+      const QCborMap settings{{NSPrintPaperName, QString(letters, u'x')}};
+      const QCborMap whole{{"version", 1}, {"settings", settings}, {"more", QByteArray(more, ' ')}};
+      return unarchivedPrintInfo(whole.toCborValue().toCbor()).has_value();
+    };
+    QVERIFY(isRead(limits::maximumSettingsText));
+    QVERIFY(!isRead(limits::maximumSettingsText + 1));
+    QVERIFY(isRead(1, limits::maximumSettingsBytes / 2));
+    QVERIFY(!isRead(1, limits::maximumSettingsBytes));
+  }
+
+  void pageNumbersHaveAnEnd() {
+    NSPrintInfo info;
+    info.setPageRange(limits::maximumPrintPages, limits::maximumPrintPages);
+    QCOMPARE(info.firstPage(), limits::maximumPrintPages);
+    info.setPageRange(limits::maximumPrintPages + 1, limits::maximumPrintPages + 1);
+    QCOMPARE(info.firstPage(), 1);
+    QCOMPARE(info.lastPage(), limits::maximumPrintPages);
   }
 
   void everyCutArchiveIsNothing() {

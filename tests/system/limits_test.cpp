@@ -63,6 +63,14 @@ QByteArray zipped(int level, int pieces, const std::function<QByteArray(int)>& p
   return out;
 }
 
+/// A PDF of so many pages, all of them the same.
+QByteArray pagesOf(int count) {
+  return "%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n2 0 obj\n<< /Type /Pages /Count " +
+         QByteArray::number(count) + " /Kids [" + QByteArray("3 0 R ").repeated(count) +
+         "] >>\nendobj\n3 0 obj\n<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] >>\nendobj\ntrailer\n<< "
+         "/Size 4 /Root 1 0 R >>\n%%EOF\n";
+}
+
 QByteArray bomb() {
   return zipped(Z_BEST_COMPRESSION, 8, [](int) { return QByteArray(1 << 20, ' '); });
 }
@@ -93,18 +101,23 @@ class LimitsTest : public QObject {
       QTest::newRow(what) << name << document << options << sentence;
     };
     const QStringList pdf{"--format", "pdf"}, png{"--format", "png"};
-    row("nested elements", "a.svg", svg(QByteArray("<g>").repeated(600) + QByteArray("</g>").repeated(600)),
+    const int deep = limits::maximumXmlDepth;
+    row("nested elements", "a.svg", svg(QByteArray("<g>").repeated(deep) + QByteArray("</g>").repeated(deep)),
         pdf, "the elements of the document nest more than 512 deep");
-    row("nested references", "a.svg", svg(chainOfReferences(1100)), pdf,
+    row("nested references", "a.svg", svg(chainOfReferences(limits::maximumDrawingDepth + 1)), pdf,
         "the references of the document nest more than 1000 deep");
     row("elements", "a.svg", svg(QByteArray("<g/>").repeated(limits::maximumXmlElements)), pdf,
         "the document has more than 1000000 elements");
-    row("attributes", "a.svg", svg("<g" + attributes(500'000) + "/>"), pdf,
+    row("attributes", "a.svg", svg("<g" + attributes(limits::maximumXmlAttributes + 1) + "/>"), pdf,
         "an element of the document has more than 65535 attributes");
     row("uses of entities", "a.svg", entities(1, limits::maximumEntityUses + 1), pdf,
         "the document uses entities more than 200000 times");
     row("expanded entities", "a.svg", entities(100'000, 700), pdf,
         "the entities of the document expand to more than 64 MiB");
+    row("nested selectors", "a.svg",
+        svg("<style>" + QByteArray(":not(").repeated(limits::maximumSelectorDepth + 1) + "a" +
+            QByteArray(")").repeated(limits::maximumSelectorDepth + 1) + "{}</style>"),
+        pdf, "the selectors of the document's style sheets nest more than 500 deep");
     row("matrices of filters", "a.svg", svg("<filter id='f'><feConvolveMatrix order='500'/></filter>"), pdf,
         "the document has a filter with a matrix of more than 400 numbers");
     row("text sizes", "a.svg", svg("<text y='9' font-size='1e30'>a</text>"), pdf,
@@ -118,6 +131,11 @@ class LimitsTest : public QObject {
         "the picture would have more pixels than it is allowed");
     row("a side", "a.svg", svg("", "width='96000' height='1'"), png + QStringList{"--dpi", "96"},
         "the image would have a side of more than 65535 pixels");
+    row("pages", "a.pdf", pagesOf(limits::maximumPages + 1), png, "the document has more than 100000 pages");
+    row("temporary files", "a.eps",
+        eps(QByteArray::number(limits::maximumScratchFiles + 100) +
+            " { null (w) .tempfile closefile pop } repeat {} loop"),
+        pdf, "the picture needs more temporary files than it is allowed");
     row("time", "a.eps", eps("{} loop"), pdf + QStringList{"--timeout", "1"},
         "the picture was not ready within 1 seconds");
     row("memory", "a.eps", eps("{ 60000 array pop 65535 string } loop"), pdf + QStringList{"--memory", "64"},
@@ -132,6 +150,16 @@ class LimitsTest : public QObject {
     WatchedProgram program;
     const Ran ran = program.run(QStringList{"convert", path, "--to", program.output()} + options);
     check(ran, program, sentence);
+  }
+
+  void aCheckLooksAtTheFirstPages() {
+    const auto told = [&](int pages) {
+      WatchedProgram program;
+      return program.run({"check", write("a.pdf", pagesOf(pages))}).out;
+    };
+    const QByteArray sentence = "only the first 100 pages were looked at";
+    QVERIFY(!told(limits::maximumExaminedPages).contains(sentence));
+    QVERIFY(told(limits::maximumExaminedPages + 1).contains(sentence));
   }
 
   void aFileThatIsTooLargeIsNotRead() {

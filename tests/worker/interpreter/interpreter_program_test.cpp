@@ -10,6 +10,7 @@
 
 #include "kit/process_watch.h"
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 #include "worker/postscript/distill.h"
 #include "worker/postscript/distiller.h"
 #include "worker/postscript/ghostscript.h"
@@ -201,11 +202,38 @@ class InterpreterProgramTest : public QObject {
   void tooManyTemporaryFilesAreALimit() {
     Interpreters interpreters;
     interpreters.context().scratchFolder.clear();  // the server watches its own folders
-    const Error error = errorOf(
-        distill("1100 { null (w) .tempfile closefile pop } repeat {} loop\n", kBox, interpreters.context()));
+    const QByteArray files = QByteArray::number(limits::maximumScratchFiles + 100);
+    const Error error = errorOf(distill(files + " { null (w) .tempfile closefile pop } repeat {} loop\n",
+                                        kBox, interpreters.context()));
     QCOMPARE(error.kind, ErrorKind::Limit);
     QCOMPARE(error.message, QString("the picture needs more temporary files than it is allowed"));
     QVERIFY(kit::eventually([&] { return interpreters.folders().isEmpty(); }));
+    QVERIFY(interpreters.stillWork());
+  }
+
+  void oneThatOpensFileAfterFileIsStopped() {
+    Interpreters interpreters;
+    const QByteArray files = QByteArray::number(limits::maximumOpenFiles);
+    QVERIFY(interpreters.saidBy("10 { null (w) .tempfile } repeat (opened) =").contains("opened\n"));
+    QVERIFY(!interpreters.saidBy(files + " { null (w) .tempfile } repeat (opened) =").contains("opened\n"));
+    QVERIFY(interpreters.stillWork());
+  }
+
+  void moreThanWorkAtOnceAreRefused() {
+    Interpreters interpreters;
+    std::vector<std::shared_ptr<GhostscriptChild>> all;
+    const auto begin = [&] {
+      auto child = GhostscriptChild::fork(interpreters.program().asking(), interpreters.context().limits);
+      if (child) all.push_back(std::move(*child));
+    };
+    for (size_t i = 0; i < limits::maximumInterpreters; ++i) begin();
+    const int server = interpreters.program().pid();
+    QVERIFY(kit::eventually(
+        [&] { return kit::childrenOf(server).size() == qsizetype(limits::maximumInterpreters); }));
+    const auto refused = interpreters.run("(one more) = flush quit\n");
+    QVERIFY(!refused.ok());
+    all.clear();
+    QVERIFY(kit::eventually([&] { return kit::childrenOf(server).isEmpty(); }));
     QVERIFY(interpreters.stillWork());
   }
 

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 #include "worker/engine/engine.h"
 #include "worker/kit/bitmap_images.h"
 #include "worker/pdf/pdf_file.h"
@@ -260,6 +261,7 @@ class EpsEngineTest : public QObject {
   }
 
   void anErrorIsFoundBehindAllThatADocumentPrints() {
+    static_assert(limits::maximumProgramMessages < 20000 * 10);
     Opened opened(eps("20000 { (0123456789) print } repeat nosuchoperator\n"));
     const auto pdf = opened->pdf({});
     QVERIFY(!pdf);
@@ -273,6 +275,15 @@ class EpsEngineTest : public QObject {
     const auto pdf = opened->pdf({});
     QVERIFY(pdf);
     QCOMPARE(pdf->report.warnings, QStringList{"the font NoSuchFont is missing, Courier stands in for it"});
+  }
+
+  void missingFontsAreToldUpToANumber() {
+    QByteArray fonts;
+    for (int i = 0; i <= limits::maximumSubstitutions; ++i)
+      fonts += "/NoSuchFont" + QByteArray::number(i) + " findfont pop\n";
+    const auto pdf = Opened(eps(fonts + "0 0 9 9 rectfill showpage\n"))->pdf({});
+    QVERIFY(pdf);
+    QCOMPARE(pdf->report.warnings.size(), limits::maximumSubstitutions);
   }
 
   void aFontThatIsMissingIsToldOfImagesToo() {

@@ -1,0 +1,77 @@
+// The limits: none of them stands there without a test that names it.
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
+
+#include "kit/test_main.h"
+
+namespace {
+
+const QString kRoot = QStringLiteral(NORVEX_SOURCE_DIR "/");
+
+QString textOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStringList constants() {
+  static const QRegularExpression constant(QStringLiteral("^inline constexpr [\\w:]+(?: \\w+)? (\\w+) ="),
+                                           QRegularExpression::MultilineOption);
+  QStringList names;
+  for (auto match = constant.globalMatch(textOf(kRoot + "src/protocol/limits.h")); match.hasNext();)
+    names << match.next().captured(1);
+  return names;
+}
+
+/// The constants that the sources below a folder name.
+QSet<QString> namedBelow(const QString& folder) {
+  static const QRegularExpression named(QStringLiteral("\\blimits::(\\w+)"));
+  QSet<QString> names;
+  QDirIterator it(kRoot + folder, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+  while (it.hasNext())
+    for (auto match = named.globalMatch(textOf(it.next())); match.hasNext();)
+      names << match.next().captured(1);
+  return names;
+}
+
+/// What no test can reach, and why.
+const QMap<QString, QString> kUnreached{
+    {"answerGrace", "a time that is waited for; no test looks at a clock"},
+    {"programFarewell", "a time that is waited for; no test looks at a clock"},
+    {"toolSeconds", "a time that is waited for; no test looks at a clock"},
+    {"printerConnects", "a time that is waited for; no test looks at a clock"},
+    {"printerLookSeconds", "a time that is waited for; no test looks at a clock"},
+    {"maximumPrinterLooks", "fifteen seconds of a print service that says nothing"},
+    {"maximumSvgGlyphs", "two hundred thousand letters, each of another shape"},
+    {"maximumPixelsTogether", "bounds memory alone: the output is the same on both sides of it"},
+    {"maximumInks", "of a separation that nothing asks for yet"},
+    {"maximumPlatePixels", "of a separation that nothing asks for yet"},
+    {"maximumLetters", "of a text that nothing asks for yet"},
+};
+
+}  // namespace
+
+class LimitsTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void everyLimitIsReachedByATestThatNamesIt() {
+    const QSet<QString> tested = namedBelow(QStringLiteral("tests"));
+    QVERIFY(constants().size() > 80);
+    QStringList wrong;
+    for (const QString& name : constants())
+      if (!tested.contains(name) && !kUnreached.contains(name)) wrong << name;
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+  }
+
+  void whatIsNotReachedHasAReason() {
+    for (auto it = kUnreached.begin(); it != kUnreached.end(); ++it) {
+      QVERIFY2(constants().contains(it.key()), qPrintable(it.key()));
+      QVERIFY2(it.value().size() > 20, qPrintable(it.key()));
+    }
+  }
+};
+
+NORVEX_TEST(LimitsTest)
+#include "limits_test.moc"

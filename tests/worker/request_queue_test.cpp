@@ -1,0 +1,43 @@
+// The requests that wait for a document's process.
+#include "worker/request_queue.h"
+
+#include "kit/forked_check.h"
+#include "kit/test_main.h"
+#include "protocol/limits.h"
+
+using namespace norvex;
+
+namespace {
+
+constexpr int kAnswered = 7;
+
+/// The end of a process that takes no request while so many are posted.
+int endAfter(size_t posted) {
+  return kit::inForkedChild([posted] {
+    auto pair = MessageChannel::makePair();
+    MessageChannel ours(std::move(pair->first)), theirs(std::move(pair->second));
+    auto* queue = new RequestQueue(theirs);  // its thread uses it until the process ends
+    for (size_t i = 0; i < posted; ++i)
+      if (!ours.send(encodeMessage(WorkerRequest{quint32(i + 1), PdfRequest()})).ok()) return 1;
+    if (posted > limits::maximumWaitingRequests) ::pause();  // the thread ends us
+    for (size_t i = 0; i < posted; ++i)
+      if (queue->next().request.id != i + 1) return 2;
+    return kAnswered;
+  });
+}
+
+}  // namespace
+
+class RequestQueueTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void requestsAreTakenInTheirOrder() { QCOMPARE(endAfter(limits::maximumWaitingRequests), kAnswered); }
+
+  void whoeverPostsWithoutWaitingIsNotServed() {
+    const int end = endAfter(limits::maximumWaitingRequests + 1);
+    QVERIFY(end != kAnswered && end > 0);
+  }
+};
+
+NORVEX_TEST(RequestQueueTest)
+#include "request_queue_test.moc"

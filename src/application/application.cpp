@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QFileOpenEvent>
 #include <QIcon>
+#include <QTimer>
 
 #include <cstdio>
 #include <utility>
@@ -13,6 +14,8 @@
 
 namespace norvex {
 namespace {
+
+constexpr int kIconMs = 600;  ///< behind the first picture of a quick start
 
 QtMessageHandler earlierHandler = nullptr;
 
@@ -52,8 +55,12 @@ Application::Application(int& argc, char** argv) : QApplication(watchForMissingD
   setApplicationDisplayName(QStringLiteral("Norvex"));
   setApplicationVersion(QStringLiteral(NORVEX_VERSION));
   setDesktopFileName(desktopIdentifier());
-  setWindowIcon(applicationIcon());
+  QTimer::singleShot(kIconMs, this, showApplicationIcon);
   connect(this, &QGuiApplication::applicationStateChanged, &events_, &ApplicationEvents::setState);
+}
+
+void showApplicationIcon() {
+  if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(applicationIcon());
 }
 
 QList<QUrl> fileURLs(const QStringList& arguments) {

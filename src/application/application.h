@@ -13,8 +13,8 @@ namespace norvex {
 class Application final : public QApplication {
   Q_OBJECT
  public:
-  /// Sets names, version, icon and identity. Without a display it ends the program with one line on standard
-  /// error and exit code 2.
+  /// Sets names, version and identity, and the icon a little later. Without a display it ends the program
+  /// with one line on standard error and exit code 2.
   Application(int& argc, char** argv);
 
   [[nodiscard]] ApplicationEvents& events() { return events_; }
@@ -29,6 +29,10 @@ class Application final : public QApplication {
  private:
   ApplicationEvents events_;
 };
+
+/// Makes the application's picture the icon of all windows, unless it is. It takes as long as all the rest of
+/// the application object: what shows it asks for it, and for windows it may come after their contents.
+void showApplicationIcon();
 
 /// See Application::fileArguments(); `arguments` begins with the program's name.
 [[nodiscard]] QList<QUrl> fileURLs(const QStringList& arguments);

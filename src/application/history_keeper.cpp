@@ -2,12 +2,16 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 #include "application/recent_files.h"
 #include "history/desktop_recents.h"
 
 namespace norvex {
 namespace {
 
+/// Reading and writing the desktop's list costs more than opening a small picture, which comes first.
+constexpr int kQuietMs = 2000;
 const QString kOff = QStringLiteral("Off");
 
 QString pathOf(const QUrl& url) {
@@ -24,10 +28,26 @@ HistoryKeeper::HistoryKeeper(QSettings& settings, RecentFiles& recent, const QSt
       views_(settings),
       session_(folder) {
   desktop_.setMaxThreadCount(1);
+  whenQuiet_.setSingleShot(true);
+  whenQuiet_.setInterval(kQuietMs);
+  connect(&whenQuiet_, &QTimer::timeout, this, &HistoryKeeper::tellDesktop);
   if (!isOn()) session_.stop();
 }
 
-HistoryKeeper::~HistoryKeeper() = default;
+HistoryKeeper::~HistoryKeeper() {
+  waitForDesktop();
+}
+
+void HistoryKeeper::tellDesktop() {
+  for (const Opened& each : std::exchange(toTell_, {}))
+    desktop_.start(
+        [file = desktopRecentsFile(), each] { addToDesktopRecents(file, each.path, each.mimeType); });
+}
+
+void HistoryKeeper::waitForDesktop() {
+  tellDesktop();
+  desktop_.waitForDone();
+}
 
 bool HistoryKeeper::isOn() const {
   return !settings_.value(kOff).toBool();
@@ -44,6 +64,7 @@ void HistoryKeeper::clear() {
   recent_.clear();
   views_.clear();
   (void)Session::takeLeft(folder_);
+  toTell_.clear();
   desktop_.waitForDone();
   clearFromDesktopRecents(desktopRecentsFile());
 }
@@ -53,8 +74,8 @@ void HistoryKeeper::opened(const QUrl& url, const QString& mimeType) {
   const QString path = pathOf(url);
   recent_.add(url);
   session_.opened(path);
-  desktop_.start(
-      [file = desktopRecentsFile(), path, mimeType] { addToDesktopRecents(file, path, mimeType); });
+  toTell_.append({path, mimeType});
+  whenQuiet_.start();
 }
 
 void HistoryKeeper::used(const QString& path) {

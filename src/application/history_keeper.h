@@ -1,10 +1,12 @@
 // HistoryKeeper: all that the program remembers of files, behind one switch.
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QSettings>
 #include <QString>
 #include <QThreadPool>
+#include <QTimer>
 #include <QUrl>
 
 #include <optional>
@@ -39,15 +41,22 @@ class HistoryKeeper final : public QObject {
   /// What programs that crashed had open; told once.
   [[nodiscard]] LeftSession takeLeftSession() const;
   /// Until the desktop's list holds what was opened.
-  void waitForDesktop() { desktop_.waitForDone(); }
+  void waitForDesktop();
 
  private:
+  struct Opened {
+    QString path, mimeType;
+  };
+  void tellDesktop();
+
   QSettings& settings_;
   RecentFiles& recent_;
   const QString folder_;
   RememberedViews views_;
   Session session_;
-  QThreadPool desktop_;  ///< of one thread: the desktop's list may be long, and is written whole
+  QTimer whenQuiet_;
+  QList<Opened> toTell_;  ///< not yet in the desktop's list
+  QThreadPool desktop_;   ///< of one thread: the desktop's list may be long, and is written whole
 };
 
 }  // namespace norvex

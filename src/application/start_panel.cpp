@@ -14,6 +14,7 @@
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
+#include "application/application.h"
 #include "application/dropped_files.h"
 #include "application/recent_file_delegate.h"
 #include "application/recent_files.h"
@@ -93,9 +94,8 @@ QWidget* StartPanel::makeWelcome() {
   auto* welcome = new QWidget(this);
   auto* column = new QVBoxLayout(welcome);
   column->setContentsMargins(28, 28, 28, 28);
-  auto* icon = new QLabel(welcome);
-  icon->setContentsMargins(-5, 0, 0, 0);  // the icon's own edge is clear
-  icon->setPixmap(windowIcon().pixmap(QSize(72, 72), devicePixelRatioF()));
+  icon_ = new QLabel(welcome);
+  icon_->setContentsMargins(-5, 0, 0, 0);  // the icon's own edge is clear
   auto* subtitle = makeLabel(localizedString("EPS, Illustrator, PDF and SVG pictures"), 1, true, welcome);
   subtitle->setWordWrap(true);
 
@@ -115,7 +115,7 @@ QWidget* StartPanel::makeWelcome() {
   inside->addWidget(hint);
   inside->addStretch();
 
-  column->addWidget(icon);
+  column->addWidget(icon_);
   column->addSpacing(6);
   column->addWidget(makeLabel(QStringLiteral("Norvex"), 1.7, false, welcome));
   column->addWidget(subtitle);
@@ -196,6 +196,14 @@ void StartPanel::showRecentMenu(const QPoint& point) {
   }
   menu.addAction(localizedString("Clear the list"), &recent_, &RecentFiles::clear);
   menu.exec(list_->viewport()->mapToGlobal(point));
+}
+
+void StartPanel::showEvent(QShowEvent* event) {
+  if (icon_->pixmap().isNull()) {
+    showApplicationIcon();
+    icon_->setPixmap(windowIcon().pixmap(QSize(72, 72), devicePixelRatioF()));
+  }
+  QWidget::showEvent(event);
 }
 
 void StartPanel::closeEvent(QCloseEvent* event) {

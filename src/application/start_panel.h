@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <QWidget>
 
+class QLabel;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
@@ -41,6 +42,7 @@ class StartPanel final : public QWidget {
   void dismissed();
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragLeaveEvent(QDragLeaveEvent* event) override;
@@ -55,6 +57,7 @@ class StartPanel final : public QWidget {
 
   RecentFiles& recent_;
   QPushButton* open_ = nullptr;
+  QLabel* icon_ = nullptr;
   class DropArea;
   DropArea* drop_ = nullptr;
   QListWidget* list_ = nullptr;

@@ -80,8 +80,7 @@ void MainWindowController::loadWindow() {
   ui_ = std::make_unique<Ui::MainWindowController>();
   ui_->setupUi(nib_.get());
   takeOutlets();
-  window_->setStyleSheet(windowStyleSheet());
-  inspectorWindow->setStyleSheet(windowStyleSheet());
+  window_->setStyleSheet(windowStyleSheet());  // of its inspector, too, which is below it
   window_->installEventFilter(this);
   inspectorWindow->installEventFilter(this);
   messageBar_ = new MessageBar(scrollArea_);

@@ -58,6 +58,14 @@ class HistoryKeeperTest : public QObject {
     QVERIFY(desktopList().contains("a.eps"));
   }
 
+  // The desktop's list costs more than the picture that is being opened.
+  void theDesktopIsToldWhenThePictureIsThereAtTheLatestAtTheEnd() {
+    keeper_->opened(file("a.eps"), "image/x-eps");
+    QVERIFY(!QFile::exists(desktopRecentsFile()));
+    keeper_.reset();
+    QVERIFY(QFile::exists(desktopRecentsFile()));
+  }
+
   void aPictureComesBackAsItWasShown() {
     keeper_->opened(file("a.eps"), "image/x-eps");
     keeper_->closed(file("a.eps"), PictureView{2, 45, 0});

@@ -1,7 +1,11 @@
 // The application behind `norvex`: pictures in windows, or the whole command line.
+#include <QFile>
 #include <QProcess>
 
+#include <fontconfig/fontconfig.h>
+
 #include <memory>
+#include <thread>
 #include <utility>
 
 #include "application/application.h"
@@ -16,6 +20,7 @@
 #include "picture/client/spawned_worker.h"
 #include "picture/client/worker_service.h"
 #include "picture/client/worker_starter.h"
+#include "picture/early_picture.h"
 #include "programs/application_entry.h"
 #include "ui/panels/alert_box.h"
 #include "ui/panels/clipboard_keeper.h"
@@ -39,10 +44,20 @@ QString toldConfinement() {
   return program.waitForFinished() ? QString::fromUtf8(program.readAllStandardOutput()) : QString();
 }
 
-int runWindows(int argc, char** argv, WorkerService& service) {
+/// One file and nothing else: what most starts are.
+QString onlyFile(int argc, char** argv) {
+  return argc == 2 && argv[1][0] != '-' ? QFile::decodeName(argv[1]) : QString();
+}
+
+int runWindows(int argc, char** argv, WorkerService& worker) {
   sendMessagesToSystemLog();  // whoever started the window from a terminal is not to read along
-  service.yieldToWindows();
+  worker.yieldToWindows();
+  EarlyPictureService service(worker);
+  if (const QString file = onlyFile(argc, argv); !file.isEmpty()) service.begin(file);
+  // The application object waits for the display most of its time; the first text waits for the fonts.
+  std::thread fonts([] { (void)FcInit(); });
   Application application(argc, argv);
+  fonts.join();
   installStringTables();
   setConfinementWords(toldConfinement);
   QtAlertPresenter alerts;

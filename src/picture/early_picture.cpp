@@ -1,0 +1,135 @@
+#include "picture/early_picture.h"
+
+#include <QFileInfo>
+
+#include <condition_variable>
+#include <utility>
+
+#include "picture/document_file.h"
+#include "picture/open_picture.h"
+#include "protocol/shared_errors.h"
+#include "types/type_identification.h"
+
+namespace norvex {
+namespace {
+
+bool areAlike(const PictureLimits& a, const PictureLimits& b) {
+  return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels;
+}
+
+/// Opens once. Thread-safe.
+class Gate {
+ public:
+  void open() {
+    const std::lock_guard lock(mutex_);
+    isOpen_ = true;
+    changed_.notify_all();
+  }
+  /// False: cancelled before it was open.
+  [[nodiscard]] bool pass(const CancelToken& cancel) {
+    const CancelListener listener(cancel, [this] {
+      const std::lock_guard lock(mutex_);
+      changed_.notify_all();
+    });
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [&] { return isOpen_ || cancel.cancelled(); });
+    return isOpen_;
+  }
+  [[nodiscard]] bool isOpen() const {
+    const std::lock_guard lock(mutex_);
+    return isOpen_;
+  }
+
+ private:
+  mutable std::mutex mutex_;
+  std::condition_variable changed_;
+  bool isOpen_ = false;
+};
+
+}  // namespace
+
+struct EarlyPictureService::Begun {
+  Gate told, ended;
+  Result<PictureFacts> facts = workCancelled();  ///< once they are told
+};
+
+/// Its program may be running for nobody yet. Calls are served one after the other, so whoever asks for more
+/// than the facts waits for that run, and whoever cancels means it, too.
+class EarlyPictureService::Process final : public ForwardingProcess {
+ public:
+  Process(std::shared_ptr<PictureProcess> process, std::shared_ptr<Begun> begun, CancelToken early)
+      : ForwardingProcess(std::move(process)), begun_(std::move(begun)), early_(std::move(early)) {}
+  ~Process() override { early_.cancel(); }
+
+  Result<PictureFacts> facts(const CancelToken& cancel) override {
+    if (!begun_->told.pass(cancel)) return workCancelled();
+    if (begun_->facts && !begun_->ended.isOpen()) return begun_->facts;
+    return ForwardingProcess::facts(cancel);
+  }
+  Result<QImage> render(const RenderRequest& request, const CancelToken& cancel) override {
+    const CancelListener listener(cancel, [early = early_] { early.cancel(); });
+    return ForwardingProcess::render(request, cancel);
+  }
+
+ private:
+  const std::shared_ptr<Begun> begun_;
+  const CancelToken early_;
+};
+
+struct EarlyPictureService::Early {
+  QByteArray bytes;
+  PictureKind kind;
+  std::shared_ptr<Process> process;
+};
+
+EarlyPictureService::~EarlyPictureService() {
+  ending_.cancel();
+  wait();
+}
+
+void EarlyPictureService::begin(const QString& path) {
+  reader_ = std::thread([this, path] { read(path); });
+}
+
+void EarlyPictureService::wait() {
+  if (reader_.joinable()) reader_.join();
+}
+
+void EarlyPictureService::read(const QString& path) {
+  const Result<QByteArray> bytes = readDocumentFile(path);
+  if (!bytes) return;
+  const QString type = identifyType(*bytes, QFileInfo(path).fileName()).identifier();
+  const Result<PictureKind> kind = pictureKindOf(*bytes, type);
+  if (!kind) return;
+  const auto begun = std::make_shared<Begun>();
+  std::shared_ptr<PictureProcess> process;
+  {
+    const std::lock_guard lock(mutex_);
+    if (isLate_ || ending_.cancelled()) return;
+    process = ForwardingService::open(*bytes, *kind, {});
+    early_ =
+        std::make_shared<Early>(Early{*bytes, *kind, std::make_shared<Process>(process, begun, ending_)});
+  }
+  // They must not wait for a program.
+  begun->facts = process->facts(ending_);
+  begun->told.open();
+  // The outcome, a failure as well, stays in the process: the first drawing finds it.
+  if (*kind == PictureKind::Eps && !ending_.cancelled()) (void)process->pdf({}, ending_);
+  begun->ended.open();
+}
+
+std::shared_ptr<PictureProcess> EarlyPictureService::open(const QByteArray& bytes, PictureKind kind,
+                                                          const PictureLimits& limits) {
+  std::shared_ptr<Early> early;
+  {
+    const std::lock_guard lock(mutex_);
+    isLate_ = true;
+    early = std::move(early_);
+  }
+  if (early && early->kind == kind && areAlike(PictureLimits(), limits) && early->bytes == bytes)
+    return early->process;
+  if (early) ending_.cancel();  // it is another picture's, or that file has changed
+  return ForwardingService::open(bytes, kind, limits);
+}
+
+}  // namespace norvex

@@ -37,6 +37,13 @@ PictureNeeds needsOfFile(Text name, PictureUse use) {
   }
 }
 
+/// A window does everything with its picture, and an interpreter that takes its time waits for nothing.
+PictureNeeds needsInWindow(Text name) {
+  const DocumentKind kind = kindOfFile(name);
+  if (kind == DocumentKind::Other) return allPictureNeeds;
+  return kind == DocumentKind::Eps ? PictureNeeds(NeedPages) : needsOfFile(name, PictureUse::Everything);
+}
+
 /// An Illustrator file may be either.
 bool isWithoutPostScript(Text name) {
   const DocumentKind kind = kindOfFile(name);
@@ -118,6 +125,13 @@ class Reading {
   std::array<Text, optionTable.size()> values_{};
 };
 
+ExpectedPictures expectedInWindows(const Reading& run) {
+  ExpectedPictures expected;
+  for (const Text file : run.files) expected.needs |= needsInWindow(file);
+  if (run.files.empty()) expected.needs = allPictureNeeds;
+  return expected;
+}
+
 ExpectedPictures expectedConversions(const Reading& run) {
   const Text name = run.value(Option::Format);
   const auto format =
@@ -136,7 +150,8 @@ ExpectedPictures expectedConversions(const Reading& run) {
 
 ExpectedPictures expectedPictures(int argc, const char* const* argv) {
   const auto command = commandNamed(argc > 1 ? argv[1] : "");
-  if (!command || !rowOf(*command).isLight) return {.needs = allPictureNeeds};
+  if (!command) return expectedInWindows(Reading(Command::Main, argc, argv));
+  if (!rowOf(*command).isLight) return {.needs = allPictureNeeds};
   const Reading run(*command, argc, argv);
   if (*command == Command::Convert) return expectedConversions(run);
   ExpectedPictures expected;
@@ -144,6 +159,13 @@ ExpectedPictures expectedPictures(int argc, const char* const* argv) {
   const PictureUse use = *command == Command::Check ? PictureUse::WholePdf : PictureUse::Drawing;
   for (const Text file : run.files) expected.needs |= needsOfFile(file, use);
   return expected;
+}
+
+bool expectLonePicture(int argc, const char* const* argv) {
+  const auto command = commandNamed(argc > 1 ? argv[1] : "");
+  if (!command) return false;
+  const Reading run(*command, argc, argv);
+  return run.files.size() == 1 && !run.asksForArchive();
 }
 
 bool expectPostScript(int argc, const char* const* argv) {

@@ -62,7 +62,8 @@ const char* partFor(int argc, char** argv) {
 }
 
 /// The only picture of a run gets a process of its own, others a program that forks one for each.
-norvex::StartedPrograms startPrograms(const norvex::ExpectedPictures& expected, bool postScript) {
+norvex::StartedPrograms startPrograms(const norvex::ExpectedPictures& expected,
+                                      norvex::WorkerOutlook outlook) {
   using namespace norvex;
   StartedPrograms started;
   if (expected.single) {
@@ -70,7 +71,7 @@ norvex::StartedPrograms startPrograms(const norvex::ExpectedPictures& expected, 
     started.picture = spawnPicture(partOfProgram(std::string("norvex-picture-") + part.name), part.offers);
   }
   if (started.picture.pid == 0)
-    started.worker = spawnWorker(partOfProgram("norvex-worker"), expected.needs, postScript);
+    started.worker = spawnWorker(partOfProgram("norvex-worker"), expected.needs, outlook);
   return started;
 }
 
@@ -100,7 +101,8 @@ int main(int argc, char** argv) {
   if (argc == 2 && argv[1] == std::string_view("--sandbox-status")) becomeSandboxStatus();
   StartedPrograms started;
   if (mayNeedPictures(argc, argv))
-    started = startPrograms(expectedPictures(argc, argv), expectPostScript(argc, argv));
+    started = startPrograms(expectedPictures(argc, argv),
+                            {expectPostScript(argc, argv), expectLonePicture(argc, argv)});
   const char* part = partFor(argc, argv);
   void* application = ::dlopen(partOfProgram(part).c_str(), RTLD_LAZY | RTLD_LOCAL);
   void* entry = application == nullptr ? nullptr : ::dlsym(application, kApplicationEntry);

@@ -25,8 +25,10 @@ namespace norvex {
 namespace {
 
 constexpr quint32 kColdChildren =
-    2;                      ///< a single picture takes one, and one more for what concerns no document
-constexpr int kIdle = 100;  ///< milliseconds without a request after which there is time to warm up
+    2;  ///< a single picture takes one, and one more for what concerns no document
+/// Milliseconds without a request after which there is time to warm up: the first picture, and the window
+/// that it is opened in, need the processor before.
+constexpr int kIdle = 1000;
 constexpr int kFarewells[] = {SIGTERM, SIGINT, SIGHUP};
 
 Error noChild() {

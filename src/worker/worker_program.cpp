@@ -5,6 +5,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -25,7 +26,13 @@ namespace norvex {
 namespace {
 
 constexpr int kUsage = 2;
+/// Words behind what is expected of the pictures.
 constexpr std::string_view kExpectPostScript = "postscript";
+constexpr std::string_view kLone = "lone";  ///< there is one picture: nothing is made ready for others
+
+bool isTold(int argc, char** argv, std::string_view word) {
+  return std::any_of(argv + std::min(argc, 3), argv + argc, [&](const char* each) { return each == word; });
+}
 
 int startedByHand(const char* program) {
   std::fprintf(stderr, "%s: is started by norvex, not by hand\n", program);
@@ -64,7 +71,7 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   if (argc == 2 && std::string_view(argv[1]) == "--sandbox-status") return tellConfinement();
   InterpreterProgram interpreter(argc > 1 ? argv[1] : "");
   // Before anything else: it takes longest.
-  if (argc > 3 && argv[3] == kExpectPostScript) interpreter.start();
+  if (isTold(argc, argv, kExpectPostScript)) interpreter.start();
   if (argc > 1 && hasControlSocket()) prepareSandboxes(argv[1], layers);
   if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
       expected != 0)
@@ -76,7 +83,8 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
     if (!startsPostScript) (void)engines.source(request.needs);
     return request.postScript ? interpreter.asking() : -1;
   };
-  const int code = runForkServer(argc, argv, documentChild(engines, layers), engines.warmUp, prepare);
+  const ForkServer::WarmUp warmUp = isTold(argc, argv, kLone) ? ForkServer::WarmUp() : engines.warmUp;
+  const int code = runForkServer(argc, argv, documentChild(engines, layers), warmUp, prepare);
   interpreter.stop();
   return code;
 }

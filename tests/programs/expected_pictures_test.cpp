@@ -18,7 +18,11 @@ class ExpectedPicturesTest : public QObject {
     QTest::addColumn<uint>("needs");
     const uint drawing = NeedSvgDrawing, pdf = drawing | NeedSvgPdf, parts = pdf | NeedSvgParts;
     QTest::newRow("window") << QStringList{} << uint(allPictureNeeds);
-    QTest::newRow("window with a file") << QStringList{"a.svg"} << uint(allPictureNeeds);
+    QTest::newRow("window with an SVG") << QStringList{"a.svg"} << parts;
+    QTest::newRow("window with a PDF") << QStringList{"a.pdf"} << uint(NeedPages);
+    QTest::newRow("window with an EPS") << QStringList{"a.eps"} << uint(NeedPages);
+    QTest::newRow("window with several") << QStringList{"a.eps", "b.svg"} << (NeedPages | parts);
+    QTest::newRow("window with a file of no such name") << QStringList{"a"} << uint(allPictureNeeds);
     QTest::newRow("print") << QStringList{"print", "a.svg", "-o", "a.pdf"} << uint(allPictureNeeds);
     QTest::newRow("SVG to PNG") << QStringList{"convert", "a.svg", "-o", "a.png"} << drawing;
     QTest::newRow("letter case") << QStringList{"convert", "A.SVGZ", "-o", "A.PNG"} << drawing;
@@ -90,6 +94,23 @@ class ExpectedPicturesTest : public QObject {
       QVERIFY2(!asksForLightCommand(first), first);
   }
 
+  void aCommandForOneFileMakesNothingReadyForOthers_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("lone");
+    QTest::newRow("EPS") << QStringList{"convert", "a.eps", "-o", "a.pdf"} << true;
+    QTest::newRow("info") << QStringList{"info", "a.pdf"} << true;
+    QTest::newRow("standard input") << QStringList{"convert", "-", "-o", "a.pdf"} << true;
+    QTest::newRow("two") << QStringList{"info", "a.eps", "b.eps"} << false;
+    QTest::newRow("archive") << QStringList{"convert", "a", "--recursive", "--to", "b"} << false;
+    QTest::newRow("no file") << QStringList{"info"} << false;
+    QTest::newRow("window") << QStringList{"a.eps"} << false;
+  }
+  void aCommandForOneFileMakesNothingReadyForOthers() {
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, lone);
+    QCOMPARE(asked(expectLonePicture, arguments), lone);
+  }
+
   void theOnlyPictureOfARunIsKnown_data() {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<bool>("single");
@@ -139,11 +160,7 @@ class ExpectedPicturesTest : public QObject {
   void postScriptIsExpected() {
     QFETCH(QStringList, arguments);
     QFETCH(bool, postScript);
-    QByteArrayList bytes{"norvex"};
-    for (const QString& argument : arguments) bytes << argument.toUtf8();
-    std::vector<const char*> pointers;
-    for (const QByteArray& argument : bytes) pointers.push_back(argument.constData());
-    QCOMPARE(expectPostScript(int(pointers.size()), pointers.data()), postScript);
+    QCOMPARE(asked(expectPostScript, arguments), postScript);
   }
 
   void everyNeedHasAPart() {
@@ -156,12 +173,16 @@ class ExpectedPicturesTest : public QObject {
   }
 
  private:
-  static ExpectedPictures expected(const QStringList& arguments) {
+  template <typename Answer>
+  static Answer asked(Answer (*guess)(int, const char* const*), const QStringList& arguments) {
     QByteArrayList bytes{"norvex"};
     for (const QString& argument : arguments) bytes << argument.toUtf8();
     std::vector<const char*> pointers;
     for (const QByteArray& argument : bytes) pointers.push_back(argument.constData());
-    return expectedPictures(int(pointers.size()), pointers.data());
+    return guess(int(pointers.size()), pointers.data());
+  }
+  static ExpectedPictures expected(const QStringList& arguments) {
+    return asked(expectedPictures, arguments);
   }
 };
 

@@ -108,11 +108,12 @@ Spawned spawn(const std::string& program, std::vector<std::string> arguments, Me
 
 }  // namespace
 
-SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected, bool postScript) {
+SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected, WorkerOutlook outlook) {
   std::string scratchRoot = makeScratchRoot();
   if (scratchRoot.empty()) return {};
   std::vector<std::string> arguments{scratchRoot, std::to_string(expected)};
-  if (postScript) arguments.emplace_back("postscript");
+  if (outlook.postScript) arguments.emplace_back("postscript");
+  if (outlook.lone) arguments.emplace_back("lone");
   Spawned spawned = spawn(program, std::move(arguments), Messages::LikeOurs);
   if (spawned.pid == 0) return removeFolder(scratchRoot), SpawnedWorker();
   return {spawned.pid, std::move(spawned.pidfd), std::move(spawned.connection), std::move(scratchRoot)};

@@ -29,12 +29,17 @@ struct SpawnedPicture {
   PictureNeeds needs = 0;  ///< what it can do
 };
 
+/// Further guesses about the pictures of a run.
+struct WorkerOutlook {
+  bool postScript = false;  ///< an interpreter of PostScript is needed
+  bool lone = false;        ///< there is one picture: nothing is made ready for others
+};
+
 /// Starts `program` without waiting until it is ready. Free of Qt, because it runs before Qt is even loaded:
 /// linking the program and linking the application then go on side by side. pid 0 when it could not be
 /// started. `expected`: what its pictures will probably need, to be loaded at once; 0: nobody knows.
-/// `postScript`: whether that is an interpreter of PostScript, too.
 [[nodiscard]] SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected = 0,
-                                        bool postScript = false);
+                                        WorkerOutlook outlook = {});
 
 /// Starts `program`, a norvex-picture-… that offers `needs`, likewise.
 [[nodiscard]] SpawnedPicture spawnPicture(const std::string& program, PictureNeeds needs);

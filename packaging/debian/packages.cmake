@@ -32,8 +32,9 @@ before it reads the first byte.")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR})
 # What libraries do not bring: Ghostscript as a program, for PostScript that was not expected when the program started,
-# its standard fonts, and a font for text whose font is not there.
-set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "ghostscript, fontconfig, fonts-urw-base35, fonts-dejavu-core | fonts-liberation, \
+# its standard fonts, a font for text whose font is not there, and the print service's library, which is loaded when
+# somebody prints.
+set(CPACK_DEBIAN_APPLICATION_PACKAGE_DEPENDS "ghostscript, libcups2, fontconfig, fonts-urw-base35, fonts-dejavu-core | fonts-liberation, \
 shared-mime-info, hicolor-icon-theme")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_RECOMMENDS "icc-profiles-free, norvex-thumbnailer, qt6-translations-l10n, qt6-wayland")
 set(CPACK_DEBIAN_APPLICATION_PACKAGE_SUGGESTS "cups-client, apparmor")

@@ -6,12 +6,18 @@
 #include <memory>
 #include <optional>
 
+#include "print/cups_library.h"
 #include "protocol/limits.h"
 
 namespace norvex {
 namespace {
 
 constexpr qsizetype kPieceBytes = 64 << 10;
+
+/// REQUIRES a connection, which there is only with the library.
+const CupsLibrary& cups() {
+  return *CupsLibrary::loaded();
+}
 
 /// Nobody is asked for a password: by itself the library would ask on the terminal, from whatever thread.
 const char* noPassword(const char*, http_t*, const char*, const char*, void*) {
@@ -22,13 +28,14 @@ const char* noPassword(const char*, http_t*, const char*, const char*, void*) {
 class Connection {
  public:
   explicit Connection(const CancelToken& cancel) : cancel_(cancel) {
-    cupsSetPasswordCB2(noPassword, nullptr);
-    http_ = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                         limits::printerConnects, nullptr);
-    if (http_) httpSetTimeout(http_, limits::printerLookSeconds, &Connection::waitOn, this);
+    if (!CupsLibrary::loaded()) return;
+    cups().cupsSetPasswordCB2(noPassword, nullptr);
+    http_ = cups().httpConnect2(cups().cupsServer(), cups().ippPort(), nullptr, AF_UNSPEC,
+                                cups().cupsEncryption(), 1, limits::printerConnects, nullptr);
+    if (http_) cups().httpSetTimeout(http_, limits::printerLookSeconds, &Connection::waitOn, this);
   }
   ~Connection() {
-    if (http_) httpClose(http_);
+    if (http_) cups().httpClose(http_);
   }
   Connection(const Connection&) = delete;
   Connection& operator=(const Connection&) = delete;
@@ -61,14 +68,14 @@ class Connection {
 };
 
 struct FreeInfo {
-  void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
+  void operator()(cups_dinfo_t* info) const { cups().cupsFreeDestInfo(info); }
 };
 
 /// The printers that the server knows.
 class Destinations {
  public:
-  explicit Destinations(http_t* http) : count_(cupsGetDests2(http, &first_)) {}
-  ~Destinations() { cupsFreeDests(count_, first_); }
+  explicit Destinations(http_t* http) : count_(cups().cupsGetDests2(http, &first_)) {}
+  ~Destinations() { cups().cupsFreeDests(count_, first_); }
   Destinations(const Destinations&) = delete;
   Destinations& operator=(const Destinations&) = delete;
 
@@ -82,13 +89,13 @@ class Destinations {
 
 class Options {
  public:
-  ~Options() { cupsFreeOptions(count_, first_); }
+  ~Options() { cups().cupsFreeOptions(count_, first_); }
   Options() = default;
   Options(const Options&) = delete;
   Options& operator=(const Options&) = delete;
 
   void add(const char* name, const QByteArray& value) {
-    count_ = cupsAddOption(name, value.constData(), count_, &first_);
+    count_ = cups().cupsAddOption(name, value.constData(), count_, &first_);
   }
   [[nodiscard]] int count() const { return count_; }
   [[nodiscard]] cups_option_t* first() const { return first_; }
@@ -99,7 +106,7 @@ class Options {
 };
 
 QString optionOf(const cups_dest_t& destination, const char* name) {
-  return QString::fromUtf8(cupsGetOption(name, destination.num_options, destination.options));
+  return QString::fromUtf8(cups().cupsGetOption(name, destination.num_options, destination.options));
 }
 
 /// A queue with instances is listed once for each of them; the plain one stands for all.
@@ -123,7 +130,7 @@ Printer printerOf(const cups_dest_t& destination) {
 
 /// The service's last words, as the rest of a sentence.
 QString lastReason() {
-  QString text = QString::fromUtf8(cupsLastErrorString()).simplified().left(200);
+  QString text = QString::fromUtf8(cups().cupsLastErrorString()).simplified().left(200);
   while (text.endsWith(u'.')) text.chop(1);
   return text.isEmpty() ? QStringLiteral("no reason is given") : text;
 }
@@ -134,7 +141,7 @@ Error refused(const QString& printer) {
 
 /// Why a printer did not take a job, from what the service said last.
 Error notPrinted(const QString& printer) {
-  switch (cupsLastError()) {
+  switch (cups().cupsLastError()) {
     case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
       return refused(printer);
     case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
@@ -182,7 +189,8 @@ bool sendPieces(Connection& connection, const QByteArray& pdf, const CancelToken
     if (cancel.cancelled()) return false;
     connection.beginStep();
     const qsizetype length = std::min(kPieceBytes, pdf.size() - at);
-    if (cupsWriteRequestData(connection.http(), pdf.constData() + at, size_t(length)) != HTTP_STATUS_CONTINUE)
+    if (cups().cupsWriteRequestData(connection.http(), pdf.constData() + at, size_t(length)) !=
+        HTTP_STATUS_CONTINUE)
       return false;
   }
   connection.beginStep();
@@ -195,10 +203,10 @@ bool sendDocument(Connection& connection, cups_dest_t* destination, cups_dinfo_t
                   const CancelToken& cancel) {
   http_t* const http = connection.http();
   connection.beginStep();
-  return cupsStartDestDocument(http, destination, info, job, title.constData(), CUPS_FORMAT_PDF,
-                               options.count(), options.first(), 1) == HTTP_STATUS_CONTINUE &&
+  return cups().cupsStartDestDocument(http, destination, info, job, title.constData(), CUPS_FORMAT_PDF,
+                                      options.count(), options.first(), 1) == HTTP_STATUS_CONTINUE &&
          sendPieces(connection, pdf, cancel) &&
-         cupsFinishDestDocument(http, destination, info) <= IPP_STATUS_OK_EVENTS_COMPLETE;
+         cups().cupsFinishDestDocument(http, destination, info) <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
 }  // namespace
@@ -225,7 +233,7 @@ Result<int> CupsSpooler::print(const PrintTicket& ticket, const QByteArray& pdf,
   const QString name = QString::fromUtf8((*destination)->name);
   if (!printerOf(**destination).acceptsJobs) return refused(name);
   connection.beginStep();
-  const std::unique_ptr<cups_dinfo_t, FreeInfo> info(cupsCopyDestInfo(http, *destination));
+  const std::unique_ptr<cups_dinfo_t, FreeInfo> info(cups().cupsCopyDestInfo(http, *destination));
   if (const auto broken = connection.whatBrokeIt()) return *broken;
   if (!info) return notPrinted(name);
   Options options;
@@ -234,14 +242,14 @@ Result<int> CupsSpooler::print(const PrintTicket& ticket, const QByteArray& pdf,
   int job = 0;
   connection.beginStep();
   connection.finishWhatIsBegun(true);
-  if (cupsCreateDestJob(http, *destination, info.get(), &job, title.constData(), options.count(),
-                        options.first()) > IPP_STATUS_OK_EVENTS_COMPLETE)
+  if (cups().cupsCreateDestJob(http, *destination, info.get(), &job, title.constData(), options.count(),
+                               options.first()) > IPP_STATUS_OK_EVENTS_COMPLETE)
     return connection.whatBrokeIt().value_or(notPrinted(name));
   connection.finishWhatIsBegun(false);
   if (sendDocument(connection, *destination, info.get(), job, title, options, pdf, cancel)) return job;
   const Error error = connection.whatBrokeIt().value_or(notPrinted(name));
   const Connection other{CancelToken()};  // the first one may wait for the rest of the document for ever
-  if (other.isOpen()) cupsCancelDestJob(other.http(), *destination, job);
+  if (other.isOpen()) cups().cupsCancelDestJob(other.http(), *destination, job);
   return error;
 }
 

@@ -1,13 +1,12 @@
 #include "print/paper.h"
 
-#include <cups/cups.h>
-#include <cups/pwg.h>
-
 #include <langinfo.h>
 #include <locale.h>
 
 #include <algorithm>
 #include <cmath>
+
+#include "print/cups_library.h"
 
 namespace norvex {
 namespace {
@@ -16,13 +15,34 @@ constexpr double kPointsPerUnit = 72.0 / 2540;  // a unit is a hundredth of a mi
 constexpr double kSameSize = 1.5;               // points
 constexpr int kLetterMillimetres = 279;
 
+/// As the print service calls them; hundredths of a millimetre.
+struct CommonPaper {
+  const char* name;
+  const char* keyword;
+  int width, length;
+};
+constexpr CommonPaper kCommon[] = {
+    {"A4", "iso_a4_210x297mm", 21000, 29700},
+    {"A3", "iso_a3_297x420mm", 29700, 42000},
+    {"A5", "iso_a5_148x210mm", 14800, 21000},
+    {"A6", "iso_a6_105x148mm", 10500, 14800},
+    {"A2", "iso_a2_420x594mm", 42000, 59400},
+    {"A1", "iso_a1_594x841mm", 59400, 84100},
+    {"A0", "iso_a0_841x1189mm", 84100, 118900},
+    {"Letter", "na_letter_8.5x11in", 21590, 27940},
+    {"Legal", "na_legal_8.5x14in", 21590, 35560},
+    {"Tabloid", "na_ledger_11x17in", 27940, 43180},
+    {"Executive", "na_executive_7.25x10.5in", 18415, 26670},
+    {"B4", "jis_b4_257x364mm", 25700, 36400},
+    {"B5", "jis_b5_182x257mm", 18200, 25700},
+};
+
 QSizeF upright(const QSizeF& size) {
   return size.width() > size.height() ? size.transposed() : size;
 }
 
-Paper paperOf(const pwg_media_t& media, const QString& name) {
-  const QSizeF size(media.width * kPointsPerUnit, media.length * kPointsPerUnit);
-  return {name, QString::fromLatin1(media.pwg), upright(size)};
+Paper paperOf(const QString& name, const char* keyword, int width, int length) {
+  return {name, QString::fromLatin1(keyword), upright(QSizeF(width, length) * kPointsPerUnit)};
 }
 
 bool isSameSize(const QSizeF& a, const QSizeF& b) {
@@ -34,9 +54,8 @@ bool isSameSize(const QSizeF& a, const QSizeF& b) {
 const QList<Paper>& commonPapers() {
   static const QList<Paper> papers = [] {
     QList<Paper> made;
-    for (const char* name :
-         {"A4", "A3", "A5", "A6", "A2", "A1", "A0", "Letter", "Legal", "Tabloid", "Executive", "B4", "B5"})
-      if (const pwg_media_t* media = pwgMediaForPPD(name)) made << paperOf(*media, QString::fromLatin1(name));
+    for (const CommonPaper& each : kCommon)
+      made << paperOf(QString::fromLatin1(each.name), each.keyword, each.width, each.length);
     return made;
   }();
   return papers;
@@ -49,9 +68,10 @@ std::optional<Paper> paperNamed(const QString& name) {
         !paper.keyword.compare(wanted, Qt::CaseInsensitive))
       return paper;
   if (!wanted.contains(u'_') || wanted.size() > 100) return std::nullopt;
-  const pwg_media_t* media = pwgMediaForPWG(wanted.toLower().toLatin1().constData());
+  const CupsLibrary* cups = CupsLibrary::loaded();
+  const pwg_media_t* media = cups ? cups->pwgMediaForPWG(wanted.toLower().toLatin1().constData()) : nullptr;
   if (!media || media->width <= 0 || media->length <= 0) return std::nullopt;
-  return paperOf(*media, wanted.toLower());
+  return paperOf(wanted.toLower(), media->pwg, media->width, media->length);
 }
 
 Paper paperOfSize(const QSizeF& points) {

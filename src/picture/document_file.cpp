@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 #include <optional>
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/eventfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,7 +20,6 @@ namespace {
 
 constexpr int kAttempts = 3;
 constexpr qsizetype kChunk = 1 << 20;
-constexpr int kPollMilliseconds = 50;
 
 Error cannotRead(const QString& message) {
   return {ErrorKind::CannotRead, message};
@@ -44,28 +45,26 @@ bool sameState(const struct stat& a, const struct stat& b) {
          a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
 }
 
-/// Waits until there is something to read; false: cancelled.
-bool waitForInput(int descriptor, const CancelToken& cancel) {
-  pollfd waiting{descriptor, POLLIN, 0};
-  while (!cancel.cancelled()) {
-    const int ready = ::poll(&waiting, 1, kPollMilliseconds);
-    if (ready > 0 || (ready < 0 && errno != EINTR)) return true;  // an error shows in the read that follows
-  }
-  return false;
+/// Waits until there is something to read; false: `stop` became readable.
+bool waitForInput(int descriptor, int stop) {
+  pollfd waiting[] = {{descriptor, POLLIN, 0}, {stop, POLLIN, 0}};
+  while (::poll(waiting, std::size(waiting), -1) < 0 && errno == EINTR) continue;
+  return waiting[1].revents == 0;  // an error of the other shows in the read that follows
 }
 
-Result<QByteArray> readToEnd(int descriptor, qint64 expected, qint64 limit, const CancelToken* cancel) {
+/// `stop`: what ends the reading once it is readable; -1: nothing, and nothing is waited for.
+Result<QByteArray> readToEnd(int descriptor, qint64 expected, qint64 limit, int stop) {
   const auto start = qsizetype(std::min(expected, limit));
   QByteArray bytes("");
   qsizetype filled = 0;
   for (;;) {
-    if (cancel && !waitForInput(descriptor, *cancel))
+    if (stop >= 0 && !waitForInput(descriptor, stop))
       return Error{ErrorKind::Cancelled, QStringLiteral("reading was cancelled")};
     const qsizetype room = filled <= start ? start - filled + 1 : kChunk;  // the byte more finds the end
     bytes.resize(filled + room);
     const ssize_t got = ::read(descriptor, bytes.data() + filled, size_t(room));
     if (got < 0 && (errno == EINTR || errno == EAGAIN)) {
-      if (errno == EAGAIN && !cancel) return systemError(EAGAIN);
+      if (errno == EAGAIN && stop < 0) return systemError(EAGAIN);
       continue;
     }
     if (got < 0) return systemError(errno);
@@ -86,7 +85,7 @@ std::optional<Result<QByteArray>> readOnce(const QByteArray& path, qint64 limit)
   if (::fstat(file.get(), &before) != 0) return systemError(errno);
   if (const auto reason = notOrdinary(before)) return *reason;
   if (before.st_size > limit) return tooLarge(limit);
-  Result<QByteArray> bytes = readToEnd(file.get(), before.st_size, limit, nullptr);
+  Result<QByteArray> bytes = readToEnd(file.get(), before.st_size, limit, -1);
   if (!bytes) return bytes;
   struct stat after = {};
   if (::fstat(file.get(), &after) != 0) return systemError(errno);
@@ -109,7 +108,10 @@ Result<QByteArray> readDocumentStream(int descriptor, const CancelToken& cancel,
   struct stat state = {};
   if (::fstat(descriptor, &state) != 0) return systemError(errno);
   if (S_ISDIR(state.st_mode)) return cannotRead(QStringLiteral("it is a folder"));
-  return readToEnd(descriptor, state.st_size, limit, &cancel);
+  const FileDescriptor stop(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+  if (!stop.valid()) return systemError(errno);
+  const CancelListener listener(cancel, [&] { ::eventfd_write(stop.get(), 1); });
+  return readToEnd(descriptor, state.st_size, limit, stop.get());
 }
 
 }  // namespace norvex

@@ -12,6 +12,19 @@
 namespace norvex {
 namespace {
 
+/// Opens PostScript in processes that give a whole picture or none.
+class FinishedPicturesService final : public ForwardingService {
+ public:
+  explicit FinishedPicturesService(PictureService& service) : ForwardingService(service) {}
+
+  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
+                                       const PictureLimits& limits) override {
+    std::shared_ptr<PictureProcess> process = ForwardingService::open(bytes, kind, limits);
+    if (kind != PictureKind::Eps) return process;
+    return std::make_shared<FinishedPictures>(std::move(process));
+  }
+};
+
 template <typename Rep>
 Result<std::shared_ptr<NSImageRep>> asImageRep(Result<std::shared_ptr<Rep>> rep) {
   if (!rep) return rep.error();

@@ -4,11 +4,13 @@
 
 #include <poll.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 
 #include "base/remove_folder.h"
@@ -16,8 +18,6 @@
 
 namespace norvex {
 namespace {
-
-constexpr unsigned kPause = 1000;  ///< microseconds between two looks for an answer
 
 Error notStarted() {
   return {ErrorKind::Died, QStringLiteral("the program that reads pictures could not be started")};
@@ -30,8 +30,9 @@ Error notYetAnswered() {
   return {ErrorKind::TimedOut, QStringLiteral("the program that reads pictures has not answered yet")};
 }
 
-bool endsWithin(const FileDescriptor& pidfd, qint64 milliseconds) {
-  pollfd poll = {pidfd.get(), POLLIN, 0};
+/// True if there is something to read, or nothing any more; -1 milliseconds: for ever.
+bool isReadyWithin(int descriptor, qint64 milliseconds) {
+  pollfd poll = {descriptor, POLLIN, 0};
   int ready = 0;
   do {
     ready = ::poll(&poll, 1, int(milliseconds));
@@ -65,7 +66,7 @@ Result<void> WorkerStarter::start() {
 }
 
 bool WorkerStarter::runs() const {
-  return pid_ != 0 && control_.isConnected() && !endsWithin(pidfd_, 0);
+  return pid_ != 0 && control_->isConnected() && !isReadyWithin(pidfd_.get(), 0);
 }
 
 Result<void> WorkerStarter::startLocked() {
@@ -80,7 +81,7 @@ Result<void> WorkerStarter::startLocked() {
 void WorkerStarter::adopt(SpawnedWorker worker) {
   pid_ = worker.pid;
   pidfd_ = std::move(worker.pidfd);
-  control_ = MessageChannel(std::move(worker.control));
+  control_ = std::make_shared<MessageChannel>(std::move(worker.control));
   scratchRoot_ = std::move(worker.scratchRoot);
   applyNice();
 }
@@ -97,10 +98,13 @@ void WorkerStarter::applyNice() const {
 }
 
 void WorkerStarter::stopLocked() {
-  control_ = MessageChannel();
+  // Who listens holds on to the connection, and hears of its end in this way, as the program does.
+  if (control_->valid()) ::shutdown(control_->socket(), SHUT_RDWR);
+  control_ = std::make_shared<MessageChannel>();
+  heardSome_.notify_all();
   if (pid_ != 0) {
-    // The closed connection tells it to end; what it cannot do any more is done for it.
-    if (!endsWithin(pidfd_, limits::programFarewell)) ::kill(pid_t(pid_), SIGKILL);
+    // What it cannot do any more is done for it.
+    if (!isReadyWithin(pidfd_.get(), limits::programFarewell)) ::kill(pid_t(pid_), SIGKILL);
     while (::waitpid(pid_t(pid_), nullptr, 0) < 0 && errno == EINTR) continue;
   }
   removeFolder(std::exchange(scratchRoot_, {}));
@@ -120,7 +124,7 @@ Result<WorkerStarter::Ticket> WorkerStarter::request(const ForkRequest& request,
   const std::lock_guard lock(mutex_);
   if (auto started = startLocked(); !started) return started.error();
   if (auto sent =
-          control_.send(encodeMessage(request), socket.get(), QDeadlineTimer(limits::programFarewell));
+          control_->send(encodeMessage(request), socket.get(), QDeadlineTimer(limits::programFarewell));
       !sent) {
     stopLocked();
     return notAnswered();
@@ -129,25 +133,37 @@ Result<WorkerStarter::Ticket> WorkerStarter::request(const ForkRequest& request,
 }
 
 Result<StartedProcess> WorkerStarter::take(const Ticket& ticket, QDeadlineTimer deadline) {
-  while (true) {
-    Result<StartedProcess> process = takeNow(ticket);
-    if (process || process.error().kind != ErrorKind::TimedOut || deadline.hasExpired()) return process;
-    // Not under the lock: another thread may want to open a document, and the window must not wait for this.
-    ::usleep(kPause);
-  }
-}
-
-Result<StartedProcess> WorkerStarter::takeNow(const Ticket& ticket) {
-  const std::lock_guard lock(mutex_);
+  std::unique_lock lock(mutex_);
   while (ticket.run == run_) {
     if (auto answer = answered_.extract(ticket.number)) return std::move(answer.mapped());
-    if (!hearNow() && ticket.run == run_) return notYetAnswered();
+    if (hearNow() || ticket.run != run_) continue;
+    if (deadline.hasExpired()) return notYetAnswered();
+    listen(lock, deadline);
   }
   return notAnswered();
 }
 
+void WorkerStarter::listen(std::unique_lock<std::mutex>& lock, QDeadlineTimer deadline) {
+  const qint64 left = deadline.remainingTime();  // -1: for ever
+  if (isListening_) {
+    if (left < 0)
+      heardSome_.wait(lock);
+    else
+      heardSome_.wait_for(lock, std::chrono::milliseconds(left));
+    return;
+  }
+  isListening_ = true;
+  const std::shared_ptr<MessageChannel> control = control_;
+  // Not under the lock: another thread may want to open a document, and the window must not wait for this.
+  lock.unlock();
+  (void)isReadyWithin(control->socket(), left);
+  lock.lock();
+  isListening_ = false;
+  heardSome_.notify_all();  // what came may be for them, and one of them listens next
+}
+
 bool WorkerStarter::hearNow() {
-  Result<ChannelMessage> message = control_.receive(QDeadlineTimer(0));
+  Result<ChannelMessage> message = control_->receive(QDeadlineTimer(0));
   if (!message && message.error().kind == ErrorKind::TimedOut) return false;
   const Result<WorkerReply> reply = message ? decodeReply(message->cbor) : message.error();
   if (reply)
@@ -158,16 +174,14 @@ bool WorkerStarter::hearNow() {
 }
 
 std::optional<Error> WorkerStarter::endOf(const Ticket& ticket, QDeadlineTimer deadline) {
-  while (true) {
-    {
-      const std::lock_guard lock(mutex_);
-      while (ticket.run == run_ && !ends_.contains(ticket.number) && hearNow()) continue;
-      if (ticket.run != run_) return std::nullopt;
-      if (const auto end = ends_.find(ticket.number); end != ends_.end()) return end->second;
-    }
+  std::unique_lock lock(mutex_);
+  while (ticket.run == run_) {
+    if (const auto end = ends_.find(ticket.number); end != ends_.end()) return end->second;
+    if (hearNow() || ticket.run != run_) continue;
     if (deadline.hasExpired()) return std::nullopt;
-    ::usleep(kPause);
+    listen(lock, deadline);
   }
+  return std::nullopt;
 }
 
 void WorkerStarter::forget(const Ticket& ticket) {

@@ -4,7 +4,9 @@
 #include <QDeadlineTimer>
 #include <QString>
 
+#include <condition_variable>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <set>
@@ -72,15 +74,16 @@ class WorkerStarter {
   void applyNice() const;
   void stopLocked();
   [[nodiscard]] bool runs() const;
-  Result<StartedProcess> takeNow(const Ticket& ticket);
   /// Takes a message that is there; false: there is none, or the program has ended and with it this run.
   bool hearNow();
+  /// Lets go of the lock until there may be something to hear, or the deadline has come.
+  void listen(std::unique_lock<std::mutex>& lock, QDeadlineTimer deadline);
   void keep(const WorkerReply& reply, FileDescriptor descriptor);
 
   const QString program_;
   mutable std::mutex mutex_;
   // Guarded by the mutex.
-  MessageChannel control_;
+  std::shared_ptr<MessageChannel> control_ = std::make_shared<MessageChannel>();  ///< never null
   qint64 pid_ = 0;
   FileDescriptor pidfd_;
   std::string scratchRoot_;
@@ -92,6 +95,8 @@ class WorkerStarter {
   quint32 heard_ = 0;              ///< number of the last request that was answered
   std::set<quint32> living_;       ///< processes that somebody may ask for the end of
   std::map<quint32, Error> ends_;  ///< of these
+  bool isListening_ = false;       ///< one thread waits for the program, and the others for what it hears
+  std::condition_variable heardSome_;
 };
 
 }  // namespace norvex

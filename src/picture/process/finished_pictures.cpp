@@ -27,11 +27,4 @@ Result<PictureBytes> FinishedPictures::examine(const ExamineRequest& request, co
   return unlessStopped(ForwardingProcess::examine(request, cancel));
 }
 
-std::shared_ptr<PictureProcess> FinishedPicturesService::open(const QByteArray& bytes, PictureKind kind,
-                                                              const PictureLimits& limits) {
-  std::shared_ptr<PictureProcess> process = ForwardingService::open(bytes, kind, limits);
-  if (kind != PictureKind::Eps) return process;
-  return std::make_shared<FinishedPictures>(std::move(process));
-}
-
 }  // namespace norvex

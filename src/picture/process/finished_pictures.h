@@ -22,13 +22,4 @@ class FinishedPictures final : public ForwardingProcess {
   Result<T> unlessStopped(Result<T> result);
 };
 
-/// Opens PostScript in such processes. `service` must outlive it; thread-safe.
-class FinishedPicturesService final : public ForwardingService {
- public:
-  explicit FinishedPicturesService(PictureService& service) : ForwardingService(service) {}
-
-  std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
-                                       const PictureLimits& limits = {}) override;
-};
-
 }  // namespace norvex

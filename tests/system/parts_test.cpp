@@ -152,6 +152,13 @@ class PartsTest : public QObject {
     QVERIFY(!QFile::exists(path("a.png")));
   }
 
+  void aPictureProcessThatTheSystemKillsIsToldAsThat() {
+    const Ran ran = convertWithPictureProgram("head -c 4 <&3 >/dev/null; kill -KILL $$");
+    QVERIFY2(ran.err.contains("was killed by the system, which has probably run out of memory"), ran.err);
+    QCOMPARE(ran.exitCode, 5);
+    QVERIFY(!QFile::exists(path("a.png")));
+  }
+
   void aPictureProcessThatEndsByItselfIsReplaced() {
     const Ran ran = convertWithPictureProgram("head -c 4 <&3 >/dev/null; exit 127");
     QCOMPARE(ran.err, QByteArray());

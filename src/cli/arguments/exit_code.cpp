@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "protocol/process_end.h"
+
 namespace norvex {
 
 ExitCode exitCodeOf(const Error& error) {
@@ -15,11 +17,13 @@ ExitCode exitCodeOf(const Error& error) {
       return ExitCode::NoSandbox;
     case ErrorKind::Cancelled:
       return ExitCode::Interrupted;
+    case ErrorKind::Died:
+      if (isKilledBySystem(error)) return ExitCode::Limit;
+      break;
     case ErrorKind::CannotRead:
     case ErrorKind::NotParsable:
     case ErrorKind::Encrypted:
     case ErrorKind::Unsupported:
-    case ErrorKind::Died:
     case ErrorKind::Protocol:
       break;
   }

@@ -35,9 +35,9 @@ std::optional<int> statusOf(const FileDescriptor& pidfd) {
   return info.si_code == CLD_EXITED ? W_EXITCODE(info.si_status, 0) : W_EXITCODE(0, info.si_status);
 }
 
-/// Of an end that is no answer: whether a limit was reached.
-std::optional<Error> limitIn(const std::optional<Error>& end) {
-  return end && end->kind == ErrorKind::Limit ? end : std::nullopt;
+/// The reason in an end that is no answer; none: the process has just died.
+std::optional<Error> reasonIn(const std::optional<Error>& end) {
+  return end && (end->kind == ErrorKind::Limit || isKilledBySystem(*end)) ? end : std::nullopt;
 }
 
 }  // namespace
@@ -114,24 +114,24 @@ bool WorkerConnection::isUsable() const {
 }
 
 Error WorkerConnection::failed(Error error) {
-  std::optional<Error> limit;
-  if (error.kind == ErrorKind::Died) limit = limitThatEndedIt();
+  std::optional<Error> reason;
+  if (error.kind == ErrorKind::Died) reason = reasonOfItsEnd();
   end();
-  return limit.value_or(error);
+  return reason.value_or(error);
 }
 
-std::optional<Error> WorkerConnection::limitThatEndedIt() {
+std::optional<Error> WorkerConnection::reasonOfItsEnd() {
   if (!isOwnChild()) {
     const QDeadlineTimer soon(limits::processFarewell);
     if (!learnProcess(soon) || !known_) return std::nullopt;
-    return limitIn(starter_->endOf(*known_, soon));
+    return reasonIn(starter_->endOf(*known_, soon));
   }
   const std::optional<int> status = statusOf(process_.pidfd);
   if (!status) return std::nullopt;
-  const std::optional<Error> limit = limitIn(errorOfEnd(*status));
+  const std::optional<Error> reason = reasonIn(errorOfEnd(*status));
   // What a document cannot provoke is another's failure: of the linker, most likely.
-  if (!limit && !hasAnswered_) hasNotComeUp_ = WIFEXITED(*status);
-  return limit;
+  if (!reason && !hasAnswered_) hasNotComeUp_ = WIFEXITED(*status);
+  return reason;
 }
 
 Result<quint32> WorkerConnection::post(RequestBody body, const FileDescriptor& memory) {

@@ -58,8 +58,8 @@ class WorkerConnection {
                    std::optional<WorkerStarter::Ticket> ticket, FileDescriptor socket);
   bool learnProcess(QDeadlineTimer deadline);
   Error failed(Error error);
-  /// The limit that ended the process, if it was one.
-  [[nodiscard]] std::optional<Error> limitThatEndedIt();
+  /// Why the process has ended: a limit, or the system's own keeper of memory; nothing: it has just died.
+  [[nodiscard]] std::optional<Error> reasonOfItsEnd();
   Result<WorkerAnswer> understand(quint32 id, ChannelMessage message);
 
   std::shared_ptr<WorkerStarter> starter_;  ///< null for our own child

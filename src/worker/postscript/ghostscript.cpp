@@ -223,6 +223,8 @@ Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
     return collected;
   }
   if (WTERMSIG(*status) == SIGXFSZ) return tooManyScratchFiles();
+  // A started program gets nothing else when its processor time is used up; a forked one is told of that.
+  if (wasForked && WTERMSIG(*status) == SIGKILL) return killedBySystem();
   if (WTERMSIG(*status) == SIGKILL)
     return Error{ErrorKind::Limit,
                  QStringLiteral("the PostScript used up the time or memory that it was granted")};

@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 
 #include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <thread>
 
@@ -14,6 +15,7 @@
 #include "kit/process_watch.h"
 #include "kit/test_main.h"
 #include "picture/client/worker_client.h"
+#include "picture/client/worker_starter.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -143,9 +145,27 @@ class WorkerServiceTest : public QObject {
     for (int i = 0; i < 3; ++i) {
       const auto image = process->render(drawing());
       QCOMPARE(image.error().kind, ErrorKind::Died);
-      QCOMPARE(image.error().message, QString("the picture process ended without an answer"));
+      QCOMPARE(image.error().message,
+               QString("the picture process was killed by the system, which has probably run out of memory"));
       QCOMPARE(process->pdf({1})->bytes, QByteArray("PDF 1"));
     }
+  }
+
+  /// One of them listens to the program, and the others are told what it hears.
+  void manyThreadsWaitForTheirProcesses() {
+    WorkerStarter starter(kStub);
+    std::vector<std::thread> threads;
+    std::atomic<int> good = 0;
+    for (int i = 0; i < 12; ++i)
+      threads.emplace_back([&] {
+        for (int round = 0; round < 3; ++round) {
+          auto pair = MessageChannel::makePair();
+          const auto ticket = starter.request({}, pair->second);
+          good += ticket && starter.take(*ticket, QDeadlineTimer(60'000)) ? 1 : 0;
+        }
+      });
+    for (std::thread& thread : threads) thread.join();
+    QCOMPARE(good.load(), 36);
   }
 
   void aDeathIsTheDocumentsOwn() {

@@ -21,6 +21,7 @@ struct Target {
 [[nodiscard]] QList<Target> fontsTargets();
 [[nodiscard]] QList<Target> metadataTargets();
 [[nodiscard]] QList<Target> pdfTargets();
+[[nodiscard]] QList<Target> postscriptTargets();
 [[nodiscard]] QList<Target> printTargets();
 [[nodiscard]] QList<Target> protocolTargets();
 [[nodiscard]] QList<Target> svgTargets();

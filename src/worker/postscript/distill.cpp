@@ -15,6 +15,7 @@
 #include "worker/postscript/distiller.h"
 #include "worker/postscript/ghostscript.h"
 #include "worker/postscript/page_marks.h"
+#include "worker/postscript/procedure_sets.h"
 
 namespace norvex::engine {
 namespace {
@@ -25,8 +26,9 @@ namespace {
 // one line with the count of finished pages and the error's name is written, and without a page the one that
 // was begun is shown, from wherever the program had gone; otherwise a last showpage makes
 // up for a missing one (a page too many is dropped later). Names are bound early: documents redefine
-// operators. With `complete` the PDF is completed here and now, as a forked interpreter has it.
-QByteArray prolog(const QRectF& box, bool complete) {
+// operators. With `complete` the PDF is completed here and now, as a forked interpreter has it. `sets` are
+// procedure sets that the document names and does not bring.
+QByteArray prolog(const QRectF& box, const QByteArray& sets, bool complete) {
   const QByteArray offset = decimal(-box.x(), 6) + ' ' + decimal(-box.y(), 6);
   const QByteArray size = decimal(box.width(), 6) + ' ' + decimal(box.height(), 6);
   return "%!\n0 vmreclaim << /NeverEmbed [ ] >> setdistillerparams\n<< /PageSize [" + size +
@@ -41,7 +43,8 @@ QByteArray prolog(const QRectF& box, bool complete) {
          "/initgraphics { systemdict /initgraphics get exec initmatrix } bind def\n"
          "/quit { stop } bind def\n"
          "/norvexPage gstate def\n"
-         "end\n"
+         "end\n" +
+         sets +
          "{ currentfile cvx stopped $error /newerror get and\n"
          "  { { //userdict /norvexPage get setgstate } stopped pop\n"
          "    (%stderr) (w) file dup (norvex-error: ) writestring\n"
@@ -112,7 +115,8 @@ Result<GhostscriptOutput> runDistiller(const QByteArray& postScript, const QRect
       if (!started) return started.error();
       child = std::move(*started);
     }
-    Result<GhostscriptOutput> run = child->run({prolog(box, child->isForked()), postScript}, context);
+    Result<GhostscriptOutput> run =
+        child->run({prolog(box, procedureSetsFor(postScript), child->isForked()), postScript}, context);
     if (run || run.error().kind != ErrorKind::Unsupported || context.interpreters < 0) return run;
     context.interpreters = -1;  // nobody forks interpreters here: gs is started from now on
   }
@@ -148,7 +152,7 @@ Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, Engin
   if (!unfinished && (run->exitStatus != 0 || !run->output.startsWith("%PDF-"))) return unexplained(*run);
   Result<QByteArray> pdf = firstPage(run->output, box, unfinished);
   if (!pdf) return unfinished ? sentence(*stopped) : noPage();
-  Distilled distilled{std::move(*pdf), substitutions(run->messages), {}};
+  Distilled distilled{std::move(*pdf), substitutions(run->messages) + leftOut(run->messages), {}};
   if (unfinished)
     distilled.stoppedBy = sentence(*stopped).message;
   else if (stopped)

@@ -20,7 +20,8 @@ struct Finding {
   std::optional<int> line;  ///< of the PostScript or SVG text, from 1
   QString object;           ///< a font, an image, an ink, a comment; may be empty
   std::optional<QRectF>
-      rect;  ///< picture coordinates: points, origin at the picture's lower-left corner, y up
+      rect;      ///< picture coordinates: points, origin at the picture's lower-left corner, y up
+  int page = 0;  ///< from 1; 0: the document has one page, or it is of all of them
 };
 
 using Findings = QList<Finding>;
@@ -30,7 +31,7 @@ using Findings = QList<Finding>;
 [[nodiscard]] inline Finding finding(const RuleRow& rule, const QString& sentence,
                                      const std::optional<int>& line = {}, const QString& object = {},
                                      const std::optional<QRectF>& rect = {}) {
-  return {&rule, rule.severity, sentence, line, object, rect};
+  return {&rule, rule.severity, sentence, line, object, rect, 0};
 }
 
 /// True if one of them is of the rule.

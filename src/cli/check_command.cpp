@@ -23,12 +23,19 @@ QJsonArray arrayOf(const QRectF& rect) {
   return {rect.x(), rect.y(), rect.width(), rect.height()};
 }
 
+/// A place is one of a page.
+QString sentenceOf(const Finding& one) {
+  if (one.page == 0 || !one.rect) return one.sentence;
+  return QStringLiteral("page %1: ").arg(one.page) + one.sentence;
+}
+
 QJsonObject objectOf(const Finding& one) {
   QJsonObject object{{"identifier", latin1(one.rule->identifier)},
                      {"severity", nameOf(one.severity)},
-                     {"sentence", one.sentence},
+                     {"sentence", sentenceOf(one)},
                      {"source", latin1(one.rule->source)}};
   if (!one.rule->mend.empty()) object.insert("mend", latin1(one.rule->mend));
+  if (one.page > 0) object.insert("page", one.page);
   if (one.line) object.insert("line", *one.line);
   if (!one.object.isEmpty()) object.insert("object", one.object);
   if (one.rect) object.insert("rectangle", arrayOf(*one.rect));
@@ -49,7 +56,7 @@ QByteArray linesOf(const QString& file, const CheckedPicture& checked) {
   for (const Finding& one : checked.findings) {
     QString line = QStringLiteral("%1:").arg(file);
     if (one.line) line += QStringLiteral("%1:").arg(*one.line);
-    line += u' ' + nameOf(one.severity) + QStringLiteral(": ") + one.sentence;
+    line += u' ' + nameOf(one.severity) + QStringLiteral(": ") + sentenceOf(one);
     if (one.rect)
       line += QStringLiteral(", at %1 %2")
                   .arg(qRound(one.rect->center().x()))

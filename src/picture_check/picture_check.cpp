@@ -153,7 +153,7 @@ class Check {
       const std::pair key(one.rule, one.sentence);
       if (const auto told = told_.constFind(key); told != told_.constEnd() && *told != page) continue;
       told_.insert(key, page);
-      if (page > 0 && one.rect) one.sentence = QStringLiteral("page %1: ").arg(page) + one.sentence;
+      one.page = page;
       result_.findings << one;
     }
   }

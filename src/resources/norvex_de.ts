@@ -1223,6 +1223,186 @@
         <source>Wait</source>
         <translation>Warten</translation>
     </message>
+    <message>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation>Erneut prüfen</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Wird geprüft …</translation>
+    </message>
+    <message>
+        <source>What the picture is for</source>
+        <translation>Wofür das Bild ist</translation>
+    </message>
+    <message>
+        <source>For Any Use</source>
+        <translation>Für jeden Zweck</translation>
+    </message>
+    <message>
+        <source>For Print</source>
+        <translation>Für den Druck</translation>
+    </message>
+    <message>
+        <source>For a Journal</source>
+        <translation>Für eine Zeitschrift</translation>
+    </message>
+    <message>
+        <source>For the Web</source>
+        <translation>Für das Web</translation>
+    </message>
+    <message>
+        <source>For an Archive</source>
+        <translation>Für ein Archiv</translation>
+    </message>
+    <message>
+        <source>From a File…</source>
+        <translation>Aus einer Datei …</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>%1 more are not shown.</source>
+        <translation>%1 weitere werden nicht angezeigt.</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>Reparieren …</translation>
+    </message>
+    <message>
+        <source>Repair All…</source>
+        <translation>Alles reparieren …</translation>
+    </message>
+    <message>
+        <source>Writes a mended copy of the file</source>
+        <translation>Schreibt eine reparierte Kopie der Datei</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>1 error</source>
+        <translation>1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 Warnung</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 Warnungen</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 Hinweis</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 Hinweise</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>at %1, %2 pt</source>
+        <translation>bei %1, %2 pt</translation>
+    </message>
+    <message>
+        <source>The check was stopped.</source>
+        <translation>Die Prüfung wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>The file has changed while it was checked.</source>
+        <translation>Die Datei hat sich während der Prüfung geändert.</translation>
+    </message>
+    <message>
+        <source>There is no file to check.</source>
+        <translation>Es gibt keine Datei zum Prüfen.</translation>
+    </message>
+    <message>
+        <source>Not everything could be checked. %1</source>
+        <translation>Nicht alles konnte geprüft werden. %1</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Profiles (*.toml)</source>
+        <translation>Profile (*.toml)</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Reparieren</translation>
+    </message>
+    <message>
+        <source>A mended copy of the file is written. What it draws stays the same.</source>
+        <translation>Eine reparierte Kopie der Datei wird geschrieben. Was sie zeichnet, bleibt gleich.</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Vorschau:</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>Wie sie ist</translation>
+    </message>
+    <message>
+        <source>Made anew</source>
+        <translation>Neu erstellt</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Weggelassen</translation>
+    </message>
+    <message>
+        <source>Repairing…</source>
+        <translation>Wird repariert …</translation>
+    </message>
+    <message>
+        <source>Nothing had to be changed.</source>
+        <translation>Es musste nichts geändert werden.</translation>
+    </message>
+    <message>
+        <source>This stays as it is:</source>
+        <translation>Das bleibt, wie es ist:</translation>
+    </message>
+    <message>
+        <source>“%1” is written.</source>
+        <translation>„%1“ ist geschrieben.</translation>
+    </message>
+    <message>
+        <source>Open It</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -1223,6 +1223,186 @@
         <source>Preview</source>
         <translation>Preview</translation>
     </message>
+    <message>
+        <source>Check</source>
+        <translation>Check</translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation>Check Again</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Checking…</translation>
+    </message>
+    <message>
+        <source>What the picture is for</source>
+        <translation>What the picture is for</translation>
+    </message>
+    <message>
+        <source>For Any Use</source>
+        <translation>For Any Use</translation>
+    </message>
+    <message>
+        <source>For Print</source>
+        <translation>For Print</translation>
+    </message>
+    <message>
+        <source>For a Journal</source>
+        <translation>For a Journal</translation>
+    </message>
+    <message>
+        <source>For the Web</source>
+        <translation>For the Web</translation>
+    </message>
+    <message>
+        <source>For an Archive</source>
+        <translation>For an Archive</translation>
+    </message>
+    <message>
+        <source>From a File…</source>
+        <translation>From a File…</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Findings</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nothing was found.</translation>
+    </message>
+    <message>
+        <source>%1 more are not shown.</source>
+        <translation>%1 more are not shown.</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>Repair…</translation>
+    </message>
+    <message>
+        <source>Repair All…</source>
+        <translation>Repair All…</translation>
+    </message>
+    <message>
+        <source>Writes a mended copy of the file</source>
+        <translation>Writes a mended copy of the file</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>1 error</source>
+        <translation>1 error</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 errors</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 warning</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 warnings</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 note</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 notes</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Line %1</translation>
+    </message>
+    <message>
+        <source>at %1, %2 pt</source>
+        <translation>at %1, %2 pt</translation>
+    </message>
+    <message>
+        <source>The check was stopped.</source>
+        <translation>The check was stopped.</translation>
+    </message>
+    <message>
+        <source>The file has changed while it was checked.</source>
+        <translation>The file has changed while it was checked.</translation>
+    </message>
+    <message>
+        <source>There is no file to check.</source>
+        <translation>There is no file to check.</translation>
+    </message>
+    <message>
+        <source>Not everything could be checked. %1</source>
+        <translation>Not everything could be checked. %1</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Profiles (*.toml)</source>
+        <translation>Profiles (*.toml)</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Repair</translation>
+    </message>
+    <message>
+        <source>A mended copy of the file is written. What it draws stays the same.</source>
+        <translation>A mended copy of the file is written. What it draws stays the same.</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Preview:</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>As it is</translation>
+    </message>
+    <message>
+        <source>Made anew</source>
+        <translation>Made anew</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Left out</translation>
+    </message>
+    <message>
+        <source>Repairing…</source>
+        <translation>Repairing…</translation>
+    </message>
+    <message>
+        <source>Nothing had to be changed.</source>
+        <translation>Nothing had to be changed.</translation>
+    </message>
+    <message>
+        <source>This stays as it is:</source>
+        <translation>This stays as it is:</translation>
+    </message>
+    <message>
+        <source>“%1” is written.</source>
+        <translation>“%1” is written.</translation>
+    </message>
+    <message>
+        <source>Open It</source>
+        <translation>Open It</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

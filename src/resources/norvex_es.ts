@@ -1223,6 +1223,186 @@
         <source>Wait</source>
         <translation>Esperar</translation>
     </message>
+    <message>
+        <source>Check</source>
+        <translation>Revisión</translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation>Revisar de nuevo</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Revisando…</translation>
+    </message>
+    <message>
+        <source>What the picture is for</source>
+        <translation>Para qué es la imagen</translation>
+    </message>
+    <message>
+        <source>For Any Use</source>
+        <translation>Para cualquier uso</translation>
+    </message>
+    <message>
+        <source>For Print</source>
+        <translation>Para imprenta</translation>
+    </message>
+    <message>
+        <source>For a Journal</source>
+        <translation>Para una revista</translation>
+    </message>
+    <message>
+        <source>For the Web</source>
+        <translation>Para la web</translation>
+    </message>
+    <message>
+        <source>For an Archive</source>
+        <translation>Para un archivo histórico</translation>
+    </message>
+    <message>
+        <source>From a File…</source>
+        <translation>Desde un archivo…</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Hallazgos</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>No se encontró nada.</translation>
+    </message>
+    <message>
+        <source>%1 more are not shown.</source>
+        <translation>%1 más no se muestran.</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>Reparar…</translation>
+    </message>
+    <message>
+        <source>Repair All…</source>
+        <translation>Reparar todo…</translation>
+    </message>
+    <message>
+        <source>Writes a mended copy of the file</source>
+        <translation>Escribe una copia reparada del archivo</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>1 error</source>
+        <translation>1 error</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 errores</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 advertencia</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 advertencias</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 nota</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 notas</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Línea %1</translation>
+    </message>
+    <message>
+        <source>at %1, %2 pt</source>
+        <translation>en %1, %2 pt</translation>
+    </message>
+    <message>
+        <source>The check was stopped.</source>
+        <translation>La revisión se detuvo.</translation>
+    </message>
+    <message>
+        <source>The file has changed while it was checked.</source>
+        <translation>El archivo cambió durante la revisión.</translation>
+    </message>
+    <message>
+        <source>There is no file to check.</source>
+        <translation>No hay ningún archivo que revisar.</translation>
+    </message>
+    <message>
+        <source>Not everything could be checked. %1</source>
+        <translation>No se pudo revisar todo. %1</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Profiles (*.toml)</source>
+        <translation>Perfiles (*.toml)</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Reparar</translation>
+    </message>
+    <message>
+        <source>A mended copy of the file is written. What it draws stays the same.</source>
+        <translation>Se escribe una copia reparada del archivo. Lo que dibuja no cambia.</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Vista previa:</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>Tal como está</translation>
+    </message>
+    <message>
+        <source>Made anew</source>
+        <translation>Hecha de nuevo</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitida</translation>
+    </message>
+    <message>
+        <source>Repairing…</source>
+        <translation>Reparando…</translation>
+    </message>
+    <message>
+        <source>Nothing had to be changed.</source>
+        <translation>No hubo que cambiar nada.</translation>
+    </message>
+    <message>
+        <source>This stays as it is:</source>
+        <translation>Esto queda como está:</translation>
+    </message>
+    <message>
+        <source>“%1” is written.</source>
+        <translation>«%1» está escrito.</translation>
+    </message>
+    <message>
+        <source>Open It</source>
+        <translation>Abrirlo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -1223,6 +1223,186 @@
         <source>Wait</source>
         <translation>Attendre</translation>
     </message>
+    <message>
+        <source>Check</source>
+        <translation>Contrôle</translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation>Revérifier</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Vérification…</translation>
+    </message>
+    <message>
+        <source>What the picture is for</source>
+        <translation>Usage prévu de l’image</translation>
+    </message>
+    <message>
+        <source>For Any Use</source>
+        <translation>Pour tout usage</translation>
+    </message>
+    <message>
+        <source>For Print</source>
+        <translation>Pour l’impression</translation>
+    </message>
+    <message>
+        <source>For a Journal</source>
+        <translation>Pour une revue</translation>
+    </message>
+    <message>
+        <source>For the Web</source>
+        <translation>Pour le Web</translation>
+    </message>
+    <message>
+        <source>For an Archive</source>
+        <translation>Pour une archive</translation>
+    </message>
+    <message>
+        <source>From a File…</source>
+        <translation>Depuis un fichier…</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Constats</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Rien à signaler.</translation>
+    </message>
+    <message>
+        <source>%1 more are not shown.</source>
+        <translation>%1 autres ne sont pas affichés.</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>Réparer…</translation>
+    </message>
+    <message>
+        <source>Repair All…</source>
+        <translation>Tout réparer…</translation>
+    </message>
+    <message>
+        <source>Writes a mended copy of the file</source>
+        <translation>Écrit une copie réparée du fichier</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>1 error</source>
+        <translation>1 erreur</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 erreurs</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 avertissement</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 avertissements</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 remarque</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 remarques</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Ligne %1</translation>
+    </message>
+    <message>
+        <source>at %1, %2 pt</source>
+        <translation>en %1, %2 pt</translation>
+    </message>
+    <message>
+        <source>The check was stopped.</source>
+        <translation>Le contrôle a été arrêté.</translation>
+    </message>
+    <message>
+        <source>The file has changed while it was checked.</source>
+        <translation>Le fichier a changé pendant le contrôle.</translation>
+    </message>
+    <message>
+        <source>There is no file to check.</source>
+        <translation>Il n’y a aucun fichier à contrôler.</translation>
+    </message>
+    <message>
+        <source>Not everything could be checked. %1</source>
+        <translation>Tout n’a pas pu être contrôlé. %1</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Profiles (*.toml)</source>
+        <translation>Profils (*.toml)</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Réparer</translation>
+    </message>
+    <message>
+        <source>A mended copy of the file is written. What it draws stays the same.</source>
+        <translation>Une copie réparée du fichier est écrite. Ce qu’elle dessine reste identique.</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Aperçu :</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>Tel quel</translation>
+    </message>
+    <message>
+        <source>Made anew</source>
+        <translation>Recréé</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omis</translation>
+    </message>
+    <message>
+        <source>Repairing…</source>
+        <translation>Réparation…</translation>
+    </message>
+    <message>
+        <source>Nothing had to be changed.</source>
+        <translation>Rien n’a dû être modifié.</translation>
+    </message>
+    <message>
+        <source>This stays as it is:</source>
+        <translation>Ceci reste en l’état :</translation>
+    </message>
+    <message>
+        <source>“%1” is written.</source>
+        <translation>« %1 » est écrit.</translation>
+    </message>
+    <message>
+        <source>Open It</source>
+        <translation>L’ouvrir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

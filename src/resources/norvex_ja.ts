@@ -1223,6 +1223,186 @@
         <source>Wait</source>
         <translation>待つ</translation>
     </message>
+    <message>
+        <source>Check</source>
+        <translation>検査</translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation>再検査</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>検査中…</translation>
+    </message>
+    <message>
+        <source>What the picture is for</source>
+        <translation>画像の用途</translation>
+    </message>
+    <message>
+        <source>For Any Use</source>
+        <translation>すべての用途</translation>
+    </message>
+    <message>
+        <source>For Print</source>
+        <translation>印刷用</translation>
+    </message>
+    <message>
+        <source>For a Journal</source>
+        <translation>学術誌用</translation>
+    </message>
+    <message>
+        <source>For the Web</source>
+        <translation>Web 用</translation>
+    </message>
+    <message>
+        <source>For an Archive</source>
+        <translation>アーカイブ用</translation>
+    </message>
+    <message>
+        <source>From a File…</source>
+        <translation>ファイルから…</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>検出項目</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>問題は見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 more are not shown.</source>
+        <translation>ほか %1 件は表示していません。</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>修復…</translation>
+    </message>
+    <message>
+        <source>Repair All…</source>
+        <translation>すべて修復…</translation>
+    </message>
+    <message>
+        <source>Writes a mended copy of the file</source>
+        <translation>修復したコピーを書き出します</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>注記</translation>
+    </message>
+    <message>
+        <source>1 error</source>
+        <translation>エラー 1 件</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>エラー %1 件</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>警告 1 件</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>警告 %1 件</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>注記 1 件</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>注記 %1 件</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>%1 行目</translation>
+    </message>
+    <message>
+        <source>at %1, %2 pt</source>
+        <translation>%1, %2 pt の位置</translation>
+    </message>
+    <message>
+        <source>The check was stopped.</source>
+        <translation>検査は中止されました。</translation>
+    </message>
+    <message>
+        <source>The file has changed while it was checked.</source>
+        <translation>検査中にファイルが変更されました。</translation>
+    </message>
+    <message>
+        <source>There is no file to check.</source>
+        <translation>検査するファイルがありません。</translation>
+    </message>
+    <message>
+        <source>Not everything could be checked. %1</source>
+        <translation>すべてを検査できませんでした。%1</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>Profiles (*.toml)</source>
+        <translation>プロファイル (*.toml)</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>修復</translation>
+    </message>
+    <message>
+        <source>A mended copy of the file is written. What it draws stays the same.</source>
+        <translation>修復したコピーを書き出します。描かれる内容は変わりません。</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>プレビュー:</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>そのまま</translation>
+    </message>
+    <message>
+        <source>Made anew</source>
+        <translation>作り直す</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>省く</translation>
+    </message>
+    <message>
+        <source>Repairing…</source>
+        <translation>修復中…</translation>
+    </message>
+    <message>
+        <source>Nothing had to be changed.</source>
+        <translation>変更は必要ありませんでした。</translation>
+    </message>
+    <message>
+        <source>This stays as it is:</source>
+        <translation>次はそのままです:</translation>
+    </message>
+    <message>
+        <source>“%1” is written.</source>
+        <translation>“%1” を書き出しました。</translation>
+    </message>
+    <message>
+        <source>Open It</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

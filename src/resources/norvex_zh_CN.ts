@@ -1223,6 +1223,186 @@
         <source>Wait</source>
         <translation>等待</translation>
     </message>
+    <message>
+        <source>Check</source>
+        <translation>检查</translation>
+    </message>
+    <message>
+        <source>Check Again</source>
+        <translation>重新检查</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>正在检查…</translation>
+    </message>
+    <message>
+        <source>What the picture is for</source>
+        <translation>图片的用途</translation>
+    </message>
+    <message>
+        <source>For Any Use</source>
+        <translation>任何用途</translation>
+    </message>
+    <message>
+        <source>For Print</source>
+        <translation>用于印刷</translation>
+    </message>
+    <message>
+        <source>For a Journal</source>
+        <translation>用于期刊</translation>
+    </message>
+    <message>
+        <source>For the Web</source>
+        <translation>用于网页</translation>
+    </message>
+    <message>
+        <source>For an Archive</source>
+        <translation>用于存档</translation>
+    </message>
+    <message>
+        <source>From a File…</source>
+        <translation>从文件…</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>未发现任何问题。</translation>
+    </message>
+    <message>
+        <source>%1 more are not shown.</source>
+        <translation>另有 %1 项未显示。</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>修复…</translation>
+    </message>
+    <message>
+        <source>Repair All…</source>
+        <translation>全部修复…</translation>
+    </message>
+    <message>
+        <source>Writes a mended copy of the file</source>
+        <translation>写出一份修复后的副本</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>1 error</source>
+        <translation>1 个错误</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 个错误</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 个警告</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 个警告</translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation>1 个提示</translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation>%1 个提示</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>at %1, %2 pt</source>
+        <translation>位于 %1, %2 pt</translation>
+    </message>
+    <message>
+        <source>The check was stopped.</source>
+        <translation>检查已停止。</translation>
+    </message>
+    <message>
+        <source>The file has changed while it was checked.</source>
+        <translation>检查期间文件已更改。</translation>
+    </message>
+    <message>
+        <source>There is no file to check.</source>
+        <translation>没有可检查的文件。</translation>
+    </message>
+    <message>
+        <source>Not everything could be checked. %1</source>
+        <translation>未能检查全部内容。%1</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Profiles (*.toml)</source>
+        <translation>配置 (*.toml)</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>修复</translation>
+    </message>
+    <message>
+        <source>A mended copy of the file is written. What it draws stays the same.</source>
+        <translation>将写出一份修复后的副本，其绘制内容保持不变。</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>预览：</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>保持原样</translation>
+    </message>
+    <message>
+        <source>Made anew</source>
+        <translation>重新生成</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>去除</translation>
+    </message>
+    <message>
+        <source>Repairing…</source>
+        <translation>正在修复…</translation>
+    </message>
+    <message>
+        <source>Nothing had to be changed.</source>
+        <translation>无需任何更改。</translation>
+    </message>
+    <message>
+        <source>This stays as it is:</source>
+        <translation>以下保持原样：</translation>
+    </message>
+    <message>
+        <source>“%1” is written.</source>
+        <translation>已写入“%1”。</translation>
+    </message>
+    <message>
+        <source>Open It</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -4,10 +4,15 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <array>
 #include <utility>
 
 #include "base/localized_string.h"
+#include "ui/check/check_page.h"
+#include "window/check/check_command.h"
+#include "window/check/repair_command.h"
 #include "window/main_window_controller.h"
+#include "window/viewing/pages_command.h"
 
 namespace norvex {
 namespace {
@@ -37,10 +42,28 @@ class LatePage final : public QWidget {
   QVBoxLayout* column_;
 };
 
+QWidget* makeCheckPage(MainWindowController& window, QWidget* page) {
+  auto* shown = new CheckPage(page);
+  auto* check = new CheckCommand(window, *shown, page);
+  auto* repair = new RepairCommand(window, page);
+  QObject::connect(&window, &MainWindowController::documentShown, check, &CheckCommand::documentDidChange);
+  QObject::connect(&window, &MainWindowController::fileChanged, check, &CheckCommand::fileDidChange);
+  QObject::connect(check, &CheckCommand::pageWanted, &window, [&window](int wanted) {
+    if (auto* pages = window.findChild<PagesCommand*>()) pages->show(wanted);
+  });
+  QObject::connect(shown, &CheckPage::repairWanted, repair,
+                   [repair](const Finding& finding) { repair->run({finding}); });
+  QObject::connect(shown, &CheckPage::repairAllWanted, repair,
+                   [repair, check] { repair->run(check->findings()); });
+  return shown;
+}
+
+constexpr std::array kPages{InspectorPage{"checkPage", "Check", makeCheckPage}};
+
 }  // namespace
 
 std::span<const InspectorPage> inspectorPages() {
-  return {};
+  return kPages;
 }
 
 void addInspectorPages(MainWindowController& window, std::span<const InspectorPage> pages) {

@@ -186,6 +186,7 @@ void MainWindowController::reload() {
 
 void MainWindowController::fileDidChangeOnDisk() {
   if (!window_ || !document_) return;
+  emit fileChanged();
   auto* live = findChild<LiveFile*>();
   if (live->reloadsByItself()) return live->reloadInPlace([this] { reload(); });
   messages_.fileDidChange();

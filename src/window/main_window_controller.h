@@ -134,6 +134,8 @@ class MainWindowController final : public QObject,
   void windowWillClose(QObject* controller);
   /// The document was read and its contents are on the screen.
   void documentShown();
+  /// The file on disk is another one than the window shows.
+  void fileChanged();
   /// A copy has ended; false: the clipboard is as it was. A copy that a later one replaced is not told.
   void copied(bool written);
   /// Save To has ended after its sheet was confirmed.

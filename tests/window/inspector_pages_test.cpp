@@ -55,6 +55,13 @@ class InspectorPagesTest : public QObject {
     c.inspectorTabs->setCurrentWidget(page);
     QCOMPARE(made, 1);
   }
+
+  void everyPageOfTheWindowHasATab() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    for (const InspectorPage& page : inspectorPages())
+      QVERIFY2(c.inspectorTabs->indexOf(c.inspectorWindow->findChild<QWidget*>(page.name)) >= 2, page.name);
+  }
 };
 
 NORVEX_TEST(InspectorPagesTest)

@@ -30,13 +30,13 @@ int QtAlertPresenter::runModal(const Alert& alert) {
   box.setText(alert.messageText);
   box.setInformativeText(alert.informativeText);
   box.setDetailedText(alert.details);
-  const QString cancel = localizedString("Cancel");
+  const QStringList leaving{localizedString("Cancel"), localizedString("Close")};
   QList<QAbstractButton*> buttons;
   for (const QString& title : alert.buttons.isEmpty() ? QStringList{localizedString("OK")} : alert.buttons) {
     QPushButton* button =
-        box.addButton(title, title == cancel ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
+        box.addButton(title, leaving.contains(title) ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
     if (buttons.isEmpty()) box.setDefaultButton(button);
-    if (title == cancel) box.setEscapeButton(button);
+    if (leaving.contains(title)) box.setEscapeButton(button);
     buttons << button;
   }
   if (buttons.size() == 1) box.setEscapeButton(buttons.first());

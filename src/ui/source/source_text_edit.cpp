@@ -145,6 +145,14 @@ void SourceTextEdit::selectSource(qsizetype start, qsizetype length) {
   if (!viewport()->rect().adjusted(0, hit.height(), 0, -hit.height()).contains(hit.center())) centerCursor();
 }
 
+void SourceTextEdit::selectLine(int line) {
+  const SourceBlocks& all = blocks();
+  int first = 0;
+  for (int i = 0; i < all.count() && all.lineNumber(i) <= line; ++i)
+    if (all.lineNumber(i) > 0) first = i;
+  selectSource(all.start(first), all.end(first) - all.start(first));
+}
+
 void SourceTextEdit::deselect() {
   QTextCursor cursor = textCursor();
   if (!cursor.hasSelection()) return;

@@ -30,6 +30,9 @@ class SourceTextEdit final : public QPlainTextEdit {
   void setMatches(const SourceMatches& matches);
   /// Selects and shows a part of source().
   void selectSource(qsizetype start, qsizetype length);
+  /// Likewise a line, as its number in the margin says it, or the beginning of a very long one; the last
+  /// where there are fewer.
+  void selectLine(int line);
   /// Leaves the caret where the selection begins.
   void deselect();
   /// Where the selection, or without one the caret, begins in source().

@@ -49,6 +49,10 @@ void SourceTextView::setLineWrapping(bool wrap) {
   edit_->setCode(!wrap);
 }
 
+void SourceTextView::showLine(int line) {
+  edit_->selectLine(line);
+}
+
 void SourceTextView::showFindBar() {
   const QString selected = edit_->textCursor().selectedText();
   if (!selected.isEmpty() && !selected.contains(QChar::ParagraphSeparator)) bar_->setNeedle(selected);

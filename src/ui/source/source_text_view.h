@@ -28,6 +28,9 @@ class SourceTextView final : public QWidget {
   [[nodiscard]] SourceTextEdit* textEdit() const { return edit_; }
   [[nodiscard]] SourceFindBar* findBar() const { return bar_; }
 
+  /// Selects a line, counted from 1, and shows it; the last one where there are fewer.
+  void showLine(int line);
+
   /// Opens the find bar with the selected text.
   void showFindBar();
   void hideFindBar();

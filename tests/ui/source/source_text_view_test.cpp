@@ -45,6 +45,22 @@ class SourceTextViewTest : public QObject {
     QVERIFY(pane.view.textEdit()->isReadOnly());
   }
 
+  void aLineIsShownByItsNumberInTheMargin() {
+    QString text = QString(1200, u'a') + "\rsecond\r\nthird\n";
+    for (int i = 4; i <= 5000; ++i) text += QStringLiteral("line %1\n").arg(i);
+    Pane pane(text);
+    pane.view.showLine(2);
+    QCOMPARE(pane.selected(), QStringLiteral("second"));
+    pane.view.showLine(4321);
+    QCOMPARE(pane.selected(), QStringLiteral("line 4321"));
+    QVERIFY(pane.view.textEdit()->viewport()->rect().contains(pane.view.textEdit()->cursorRect()));
+    pane.view.showLine(1);
+    QVERIFY(pane.selected().startsWith(QString(500, u'a')) && pane.selected().size() <= 501);
+    pane.view.showLine(9999);
+    QCOMPARE(pane.selected(), QString());  // behind the last end
+    QVERIFY(pane.view.textEdit()->textCursor().atEnd());
+  }
+
   void nothingIsLaidOutBeforeItIsShown() {
     SourceTextView view;
     view.setString(kPostScript);

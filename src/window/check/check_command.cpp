@@ -1,0 +1,157 @@
+#include "window/check/check_command.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFileDialog>
+#include <QMainWindow>
+#include <QPointer>
+#include <QTabWidget>
+#include <QThreadPool>
+
+#include <utility>
+
+#include "base/localized_string.h"
+#include "base/sentence.h"
+#include "base/waiting_threads.h"
+#include "check/profile.h"
+#include "display/norvex_view.h"
+#include "document/document.h"
+#include "picture/document_file.h"
+#include "picture/told_error.h"
+#include "picture_check/picture_check.h"
+#include "ui/check/check_page.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/picture_mark.h"
+#include "ui/source/source_text_view.h"
+#include "window/commands/window_frames.h"
+#include "window/commands/window_parts.h"
+
+namespace norvex {
+namespace {
+
+const QString kProfile = QStringLiteral("check/profile");
+
+CheckedPicture checkedFile(PictureService& service, const QString& path, const Profile& profile,
+                           const CancelToken& cancel) {
+  const Result<QByteArray> bytes = readDocumentFile(path);
+  if (!bytes) return {{}, bytes.error()};
+  CheckRequest request;
+  request.bytes = *bytes;
+  request.fileName = path;
+  request.profile = profile;
+  return checkPicture(service, request, cancel);
+}
+
+}  // namespace
+
+/// Shared by the command and the checking thread; what is left when nobody waits for it any more.
+struct CheckCommand::Checking {
+  CancelToken cancel;
+  CheckedPicture checked;  ///< belongs to the thread until it is told
+};
+
+CheckCommand::CheckCommand(WindowParts& parts, CheckPage& page, QObject* parent)
+    : QObject(parent), parts_(parts), page_(page) {
+  page_.setProfile(savedViewText(kProfile));
+  page_.installEventFilter(this);
+  connect(&page_, &CheckPage::checkWanted, this, &CheckCommand::start);
+  connect(&page_, &CheckPage::stopWanted, this, [this] {
+    if (stop()) page_.showProblem(localizedString("The check was stopped."));
+  });
+  connect(&page_, &CheckPage::profileChosen, this, [this] { useProfile(page_.profile()); });
+  connect(&page_, &CheckPage::profileFileWanted, this, &CheckCommand::askForProfile);
+  connect(&page_, &CheckPage::findingChosen, this, &CheckCommand::show);
+}
+
+CheckCommand::~CheckCommand() {
+  stop();
+}
+
+bool CheckCommand::stop() {
+  if (!checking_) return false;
+  checking_->cancel.cancel();
+  checking_.reset();
+  return true;
+}
+
+void CheckCommand::documentDidChange() {
+  stop();
+  stale_ = true;
+  if (parts_.viewWidget()) PictureMark::hide(*parts_.viewWidget());
+  if (page_.isVisible()) start();
+}
+
+void CheckCommand::fileDidChange() {
+  if (stop()) page_.showProblem(localizedString("The file has changed while it was checked."));
+}
+
+bool CheckCommand::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show && stale_) start();
+  return QObject::eventFilter(watched, event);
+}
+
+void CheckCommand::start() {
+  stop();
+  Document* document = parts_.document();
+  const QString path = document ? document->fileURL().toLocalFile() : QString();
+  if (path.isEmpty()) return page_.showProblem(localizedString("There is no file to check."));
+  stale_ = false;
+  const QString name = page_.profile();
+  const Result<Profile> profile = name.isEmpty() ? Result(Profile()) : profileNamed(name);
+  if (!profile) return page_.showProblem(asSentence(profile.error().message));
+  page_.showChecking();
+  checking_ = std::make_shared<Checking>();
+  // The program may have ended by the time that there is something to tell.
+  waitingThreads().start([self = QPointer<CheckCommand>(this), application = QPointer<QCoreApplication>(qApp),
+                          checking = checking_, &service = document->pictureService(), path,
+                          profile = *profile] {
+    if (checking->cancel.cancelled()) return;
+    checking->checked = checkedFile(service, path, profile, checking->cancel);
+    if (!application) return;
+    QMetaObject::invokeMethod(application.data(), [self, checking] {
+      if (!self || self->checking_ != checking) return;  // another check is wanted by now
+      self->checking_.reset();
+      self->take(checking->checked);
+    });
+  });
+}
+
+void CheckCommand::take(const CheckedPicture& checked) {
+  findings_ = checked.findings;
+  QString incomplete;
+  if (checked.error) {
+    const QString why = asSentence(toldError(*checked.error).sentence);
+    incomplete = localizedString("Not everything could be checked. %1").arg(why);
+  }
+  page_.showFindings(findings_, incomplete);
+  emit this->checked();
+}
+
+void CheckCommand::useProfile(const QString& nameOrFile) {
+  saveViewText(kProfile, nameOrFile);
+  start();
+}
+
+void CheckCommand::askForProfile() {
+  auto* dialog = new QFileDialog(page_.window(), localizedString("Profile"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setFileMode(QFileDialog::ExistingFile);
+  dialog->setNameFilter(localizedString("Profiles (*.toml)"));
+  connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& path) {
+    page_.setProfile(path);
+    useProfile(path);
+  });
+  dialog->open();
+}
+
+void CheckCommand::show(const Finding& finding) {
+  if (!parts_.validateUserInterfaceItem()) return;
+  if (finding.page > 0) emit pageWanted(finding.page - 1);
+  if (finding.rect) return PictureMark::show(*parts_.viewWidget(), *finding.rect);
+  if (!finding.line) return;
+  parts_.inspectorTabs->setCurrentWidget(parts_.sourcePage);
+  parts_.sourceTextView->showLine(*finding.line);
+  parts_.sourceTextView->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace norvex

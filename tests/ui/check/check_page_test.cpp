@@ -1,0 +1,204 @@
+// The Check page: what it shows of findings, and what it asks for.
+#include "ui/check/check_page.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSignalSpy>
+
+#include "check/mending.h"
+#include "check/profile.h"
+#include "kit/test_main.h"
+#include "ui/check/finding_row.h"
+#include "ui/check/finding_text.h"
+
+using namespace norvex;
+
+namespace {
+
+const Finding kCut =
+    finding(rule("eps.bounding-box.cuts-ink"), "the box cuts <b>ink</b> off", {}, {}, QRectF(10, 20, 30, 40));
+const Finding kFont = finding(rule("fonts.missing"), "the font A is missing", 7, "A");
+const Finding kPreview = finding(rule("eps.preview.missing"), "there is no preview");
+
+struct Shown {
+  explicit Shown(const Findings& findings = {}, const QString& incomplete = {}) {
+    page.resize(320, 500);
+    page.show();
+    if (!QTest::qWaitForWindowExposed(&page)) qFatal("the page is not shown");
+    page.showFindings(findings, incomplete);
+    QCoreApplication::processEvents();
+  }
+  [[nodiscard]] QList<FindingRow*> rows() const {
+    QList<FindingRow*> all = page.findChildren<FindingRow*>();
+    std::sort(all.begin(), all.end(),
+              [](const FindingRow* a, const FindingRow* b) { return a->y() < b->y(); });
+    return all;
+  }
+  [[nodiscard]] QString text(const char* name) const { return page.findChild<QLabel*>(name)->text(); }
+  [[nodiscard]] bool sees(const char* name) const { return page.findChild<QWidget*>(name)->isVisible(); }
+  CheckPage page;
+};
+
+}  // namespace
+
+class CheckPageTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void everyFindingIsARowInItsOrderWithSeverityPlaceAndMend() {
+    Shown shown({kFont, kCut, kPreview});
+    const QList<FindingRow*> rows = shown.rows();
+    QCOMPARE(rows.size(), 3);
+    QCOMPARE(rows[0]->accessibleName(),
+             QStringLiteral("Error. The font A is missing.. Line 7 · A. Embed the font."));
+    QCOMPARE(rows[1]->accessibleName(),
+             QStringLiteral("Warning. The box cuts <b>ink</b> off.. at 25, 40 pt. Repair computes it."));
+    for (const QLabel* label : rows[1]->findChildren<QLabel*>())
+      QVERIFY(label->pixmap().isNull() ? label->textFormat() == Qt::PlainText : true);
+    QCOMPARE(shown.text("checkCounts"), QStringLiteral("1 error, 1 warning, 1 note"));
+  }
+
+  void nothingFoundIsAQuietSentenceAndNoList() {
+    Shown shown;
+    QVERIFY(shown.rows().isEmpty() && shown.sees("checkSentence"));
+    QCOMPARE(shown.text("checkSentence"), QStringLiteral("Nothing was found."));
+    QVERIFY(!shown.sees("checkCounts") && !shown.sees("repairAll"));
+  }
+
+  void anIncompleteCheckDoesNotSayThatNothingWasFound() {
+    Shown shown({}, QStringLiteral("Not everything could be checked."));
+    QCOMPARE(shown.text("checkSentence"), QStringLiteral("Not everything could be checked."));
+    shown.page.showFindings({kFont}, QStringLiteral("Not everything could be checked."));
+    QVERIFY(shown.sees("checkIncomplete") && shown.sees("checkCounts"));
+    QCOMPARE(shown.rows().size(), 1);
+  }
+
+  void whatRepairMendsHasAButtonAndNothingElse() {
+    Shown shown({kFont, kCut});
+    QVERIFY(!shown.rows()[0]->repairButton() && shown.rows()[1]->repairButton());
+    QVERIFY(shown.sees("repairAll"));
+    QSignalSpy one(&shown.page, &CheckPage::repairWanted), all(&shown.page, &CheckPage::repairAllWanted);
+    shown.rows()[1]->repairButton()->click();
+    QCOMPARE(one.size(), 1);
+    QCOMPARE(one[0][0].value<Finding>().rule, kCut.rule);
+    shown.page.findChild<QPushButton*>("repairAll")->click();
+    QCOMPARE(all.size(), 1);
+    shown.page.showFindings({kFont});
+    QVERIFY(!shown.sees("repairAll"));
+  }
+
+  void theTablesRepairsAreToldApart() {
+    QCOMPARE(mendingOf(*kFont.rule), Mending::ByHand);
+    QCOMPARE(mendingOf(*kCut.rule), Mending::Repair);
+    QCOMPARE(mendingOf(*kPreview.rule), Mending::Preview);
+    for (const RuleRow& row : ruleTable)
+      QVERIFY2(mendingWords(row).find("--") == std::string_view::npos, row.identifier.data());
+  }
+
+  void aPressAndTheReturnKeyChooseAFinding() {
+    Shown shown({kFont, kCut});
+    QSignalSpy chosen(&shown.page, &CheckPage::findingChosen);
+    QTest::mouseClick(shown.rows()[1], Qt::LeftButton);
+    QTest::keyClick(shown.rows()[0], Qt::Key_Return);
+    QTest::keyClick(shown.rows()[0], Qt::Key_Space);
+    QCOMPARE(chosen.size(), 3);
+    QCOMPARE(chosen[0][0].value<Finding>().rule, kCut.rule);
+    QCOMPARE(chosen[1][0].value<Finding>().line, std::optional(7));
+  }
+
+  void arrowKeysGoFromRowToRowAndIntoSight() {
+    Shown shown(Findings(40, kFont));
+    QApplication::setActiveWindow(&shown.page);
+    QTRY_VERIFY(shown.page.findChild<QScrollArea*>()->widget()->height() > 40 * 30);
+    const QList<FindingRow*> rows = shown.rows();
+    rows[0]->setFocus();
+    for (int i = 0; i < 30; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(rows[30]));
+    const auto isInSight = [&](const QWidget* row) {
+      const QWidget* port = shown.page.findChild<QScrollArea*>()->viewport();
+      return port->rect().contains(QRect(row->mapTo(port, QPoint(0, 0)), row->size()));
+    };
+    QVERIFY(isInSight(rows[30]));
+    QVERIFY(!isInSight(rows[0]));
+    for (int i = 0; i < 40; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(rows[0]));
+  }
+
+  void theKeyboardIsNotLostWithTheRowThatHadIt() {
+    Shown shown({kFont});
+    QApplication::setActiveWindow(&shown.page);
+    shown.rows()[0]->setFocus();
+    shown.page.showChecking();
+    QCOMPARE(QApplication::focusWidget(), shown.page.findChild<QWidget*>("checkAgain"));
+  }
+
+  void everyWordOfARowIsSeenInANarrowPage() {
+    Finding wordy = kCut;
+    wordy.sentence =
+        QStringLiteral("one two three four five six seven eight nine ten eleven twelve ").repeated(4);
+    Shown shown({wordy});
+    for (const QLabel* label : shown.rows()[0]->findChildren<QLabel*>())
+      if (!label->text().isEmpty())
+        QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->text()));
+    QCOMPARE(shown.page.findChild<QScrollArea*>()->widget()->width(),
+             shown.page.findChild<QScrollArea*>()->viewport()->width());
+  }
+
+  void ofVeryManyFindingsTheFirstAreShownAndTheRestIsCounted() {
+    Shown shown(Findings(CheckPage::mostRows + 12, kFont));
+    QCOMPARE(shown.rows().size(), qsizetype(CheckPage::mostRows));
+    QStringList texts;
+    for (const QLabel* label : shown.page.findChildren<QLabel*>()) texts << label->text();
+    QVERIFY(texts.contains(QStringLiteral("12 more are not shown.")));
+  }
+
+  void theButtonStopsWhileAPictureIsChecked() {
+    Shown shown;
+    auto* button = shown.page.findChild<QPushButton*>("checkAgain");
+    QSignalSpy check(&shown.page, &CheckPage::checkWanted), stop(&shown.page, &CheckPage::stopWanted);
+    button->click();
+    shown.page.showChecking();
+    button->click();
+    QVERIFY(check.size() == 1 && stop.size() == 1);
+    shown.page.showProblem(QStringLiteral("Gone."));
+    QCOMPARE(shown.text("checkSentence"), QStringLiteral("Gone."));
+    button->click();
+    QCOMPARE(check.size(), 2);
+  }
+
+  void everyShippedProfileIsOfferedAndAFile() {
+    Shown shown;
+    auto* list = shown.page.findChild<QComboBox*>("checkProfile");
+    for (const QString& name : shippedProfiles()) QVERIFY2(list->findData(name) >= 0, qPrintable(name));
+    QSignalSpy chosen(&shown.page, &CheckPage::profileChosen),
+        file(&shown.page, &CheckPage::profileFileWanted);
+    const auto choose = [&](int item) {
+      list->setCurrentIndex(item);
+      emit list->activated(item);
+    };
+    choose(list->findData("web"));
+    QCOMPARE(shown.page.profile(), QStringLiteral("web"));
+    choose(list->findData("web"));
+    QCOMPARE(chosen.size(), 1);
+    choose(list->count() - 1);
+    QCOMPARE(file.size(), 1);
+    QCOMPARE(list->currentData().toString(), QStringLiteral("web"));  // until a file is named
+    shown.page.setProfile(QStringLiteral("/a/my house.toml"));
+    QCOMPARE(list->currentText(), QStringLiteral("my house"));
+    QCOMPARE(chosen.size(), 1);
+  }
+
+  void pageLineObjectAndPlaceStandInTheirOrder() {
+    Finding all = kCut;
+    all.page = 3;
+    all.line = 12;
+    all.object = QStringLiteral("X");
+    QCOMPARE(textOf(all).where, QStringLiteral("Page 3 · Line 12 · X · at 25, 40 pt"));
+    QCOMPARE(textOf(kPreview).where, QString());
+    QCOMPARE(textOf(kPreview).mend, QStringLiteral("Repair makes one."));
+  }
+};
+
+NORVEX_TEST(CheckPageTest)
+#include "check_page_test.moc"

@@ -1,0 +1,270 @@
+// The Check page of a window: when it checks, what it shows where, and what ends it.
+#include <QComboBox>
+#include <QFileOpenEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+
+#include "desktop/memory_save_panel.h"
+#include "kit/test_main.h"
+#include "protocol/page_contents.h"
+#include "ui/check/check_page.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/picture_mark.h"
+#include "ui/source/source_text_edit.h"
+#include "ui/source/source_text_view.h"
+#include "window/check/check_command.h"
+#include "window/check/repair_command.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+/// Answers of a picture whose ink fills its box of 200 × 100 points, with a line that is too thin at one
+/// place.
+MemoryPicture soundPicture() {
+  MemoryPicture picture;
+  picture.examine = [](const ExamineRequest& request) {
+    if (request.what == Examination::Drawn)
+      return encodeDrawnInk(
+          {QRectF(0, 0, 200, 100), QRectF(0, 0, 200, 100), QRectF(-50, -50, 300, 200), 0.1});
+    PageContents page;
+    page.size = {200, 100};
+    page.thinnestLine = Measured{0.1, QRectF(20, 30, 40, 10)};
+    return encodePageContents(page);
+  };
+  return picture;
+}
+
+class CheckFixture : public WindowFixture {
+ public:
+  CheckFixture() { service.setPicture(soundPicture()); }
+  MainWindowController& shown() {
+    MainWindowController& c = loaded(epsBytes("%%Pages: x\n"), "a.eps", NorvexEPSType);
+    c.setSavePanel(&panel);
+    c.window()->show();
+    c.showInspectorWindow();
+    return c;
+  }
+  /// Shows the page, which begins a check.
+  static CheckCommand& command(MainWindowController& c) {
+    c.inspectorTabs->setCurrentWidget(c.inspectorWindow->findChild<QWidget*>("checkPage"));
+    return *c.inspectorWindow->findChild<CheckCommand*>();
+  }
+  static CheckCommand* checked(MainWindowController& c) {
+    CheckCommand& made = command(c);
+    if (!QTest::qWaitFor([&] { return !made.isChecking(); }, 20000)) qFatal("never checked");
+    return &made;
+  }
+  static const Finding& found(const CheckCommand& command, const char* identifier) {
+    for (const Finding& each : command.findings())
+      if (each.rule->identifier == identifier) return each;
+    qFatal("%s was not found", identifier);
+  }
+  QByteArray read(const QString& name) const {
+    QFile file(folder.filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  MemorySavePanel panel;
+};
+
+CheckPage& pageOf(MainWindowController& c) {
+  return *c.inspectorWindow->findChild<CheckPage*>();
+}
+
+/// Remembers what the program was asked to open.
+class Opened final : public QObject {
+ public:
+  Opened() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::FileOpen) return false;
+    urls << static_cast<QFileOpenEvent*>(event)->url();
+    return true;
+  }
+  QList<QUrl> urls;
+};
+
+}  // namespace
+
+class CheckTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void nothingIsCheckedBeforeThePageIsSeen() {
+    CheckFixture f;
+    std::atomic<int> examined = 0;
+    MemoryPicture picture = soundPicture();
+    picture.examine = [&, answer = picture.examine](const ExamineRequest& request) {
+      ++examined;
+      return answer(request);
+    };
+    f.service.setPicture(picture);
+    MainWindowController& c = f.shown();
+    QCoreApplication::processEvents();
+    QVERIFY(!c.inspectorWindow->findChild<CheckCommand*>() && examined == 0);
+    const CheckCommand* command = f.checked(c);
+    QVERIFY(examined > 0 && hasFinding(command->findings(), "eps.showpage.missing"));
+    const int once = examined;
+    c.inspectorTabs->setCurrentIndex(0);
+    f.checked(c);
+    QCOMPARE(int(examined), once);  // it is known already
+  }
+
+  void theProfileIsRememberedAndChecksAgain() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    CheckCommand* command = f.checked(c);
+    QVERIFY(!hasFinding(command->findings(), "lines.thin"));
+    auto* list = pageOf(c).findChild<QComboBox*>("checkProfile");
+    list->setCurrentIndex(list->findData("print"));
+    emit list->activated(list->currentIndex());
+    QTRY_VERIFY(!command->isChecking());
+    QVERIFY(hasFinding(command->findings(), "lines.thin"));
+    CheckPage other;
+    CheckCommand another(c, other, nullptr);
+    QCOMPARE(other.profile(), QStringLiteral("print"));
+  }
+
+  void aProfileThatCannotBeReadIsToldInASentence() {
+    CheckFixture f;
+    f.write("[limit]\n", "bad.toml");
+    MainWindowController& c = f.shown();
+    CheckCommand* command = f.checked(c);
+    pageOf(c).setProfile(f.folder.filePath("bad.toml"));
+    command->start();
+    QVERIFY(!command->isChecking());
+    QVERIFY(pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("There is no limit") ||
+            pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("there is no limit"));
+  }
+
+  void aPlaceIsMarkedInThePicture() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    CheckCommand* command = f.checked(c);
+    pageOf(c).setProfile("print");
+    command->start();
+    QTRY_VERIFY(!command->isChecking());
+    c.rotateChange(90);
+    command->show(f.found(*command, "lines.thin"));
+    auto* mark = c.viewWidget()->findChild<PictureMark*>();
+    QVERIFY(mark && mark->isVisible());
+    // (40, 35) of the picture, a quarter turn about its centre (100, 50), in the widget.
+    const QPointF centre = mark->frame().boundingRect().center();
+    QVERIFY(QLineF(centre, c.viewWidget()->fromView({15, -60})).length() < 1);
+    QVERIFY(mark->frame().boundingRect().height() > mark->frame().boundingRect().width());
+    c.windowDidLoad();
+    QTRY_VERIFY(!mark->isVisible());  // another picture has other places
+  }
+
+  void aLineIsShownInTheSource() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    CheckCommand* command = f.checked(c);
+    command->show(finding(rule("eps.comments.out-of-order"), "a comment", 5));
+    QCOMPARE(c.inspectorTabs->currentWidget(), c.sourcePage);
+    QCOMPARE(c.sourceTextView->textEdit()->textCursor().selectedText(), QStringLiteral("%%Pages: x"));
+  }
+
+  void aFileThatChangesEndsTheCheckAndAnotherStateIsCheckedAnew() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.service.setPrepare([](MemoryPictureProcess& process) { process.hold(PictureCall::Examine); });
+    CheckCommand& command = f.command(c);
+    QVERIFY(command.isChecking());
+    emit c.fileChanged();
+    QVERIFY(!command.isChecking());
+    QVERIFY(pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("has changed"));
+    f.service.setPrepare([](MemoryPictureProcess&) {});
+    f.write(epsBytes().replace("%%EOF", "showpage\n%%EOF"), "a.eps");
+    f.revert();
+    QTRY_VERIFY(!command.isChecking() && !command.findings().isEmpty());
+    QVERIFY(!hasFinding(command.findings(), "eps.showpage.missing"));
+  }
+
+  void aWindowThatGoesEndsItsCheck() {
+    std::shared_ptr<MemoryPictureProcess> process;
+    {
+      CheckFixture f;
+      MainWindowController& c = f.shown();
+      f.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Examine); });
+      f.command(c);
+      QTRY_COMPARE(f.service.openCount(), 2);
+      process = f.service.lastProcess();
+      QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    }  // hangs when it does not
+    QCOMPARE(process->cancelledCalls(), 1);
+  }
+
+  void stopEndsTheCheckAndSaysSo() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.service.setPrepare([](MemoryPictureProcess& process) { process.hold(PictureCall::Examine); });
+    CheckCommand& command = f.command(c);
+    pageOf(c).findChild<QPushButton*>("checkAgain")->click();
+    QVERIFY(!command.isChecking());
+    QVERIFY(pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("stopped"));
+  }
+
+  void repairWritesAnotherFileTellsWhatItChangedAndOpensIt() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    const QByteArray before = f.read("a.eps");
+    Opened opened;
+    f.alerts.answer = 0;
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    QVERIFY(f.panel.isOpen());
+    QCOMPARE(f.panel.settings.nameFieldStringValue, QStringLiteral("a_repaired.eps"));
+    const QUrl url = QUrl::fromLocalFile(f.folder.filePath("b.eps"));
+    QSignalSpy ended(c.inspectorWindow->findChild<RepairCommand*>(), &RepairCommand::ended);
+    f.panel.answer({true, url});
+    QVERIFY(!ended.isEmpty() || ended.wait(20000));
+    QVERIFY(ended[0][1].toBool());
+    QCOMPARE(f.read("a.eps"), before);
+    QVERIFY(f.read("b.eps").contains("showpage"));
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QVERIFY(f.alerts.shown[0].informativeText.contains("showpage", Qt::CaseInsensitive));
+    QCoreApplication::processEvents();
+    QCOMPARE(opened.urls, QList<QUrl>{url});
+  }
+
+  void aPanelThatIsCancelledRepairsNothing() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    f.panel.answer({});
+    QVERIFY(!c.inspectorWindow->findChild<RepairCommand*>()->isRepairing());
+    QCOMPARE(QDir(f.folder.path()).entryList({"*.eps"}), QStringList{"a.eps"});
+  }
+
+  void whatCannotBeMendedIsToldAndNothingIsWritten() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    f.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Examine, {ErrorKind::Died, QStringLiteral("the picture process ended")});
+    });
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    QSignalSpy ended(c.inspectorWindow->findChild<RepairCommand*>(), &RepairCommand::ended);
+    f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath("b.eps"))});
+    QVERIFY(!ended.isEmpty() || ended.wait(20000));
+    QVERIFY(!ended[0][1].toBool() && !QFile::exists(f.folder.filePath("b.eps")));
+    QCOMPARE(f.alerts.shown.size(), 1);
+  }
+
+  void aPreviewIsMadeAnewWhereItIsBadOrAllThatIsAsked() {
+    const Finding missing = finding(rule("eps.preview.missing"), "a");
+    const Finding differs = finding(rule("eps.preview.differs"), "b");
+    const Finding box = finding(rule("eps.bounding-box.missing"), "c");
+    QCOMPARE(RepairCommand::proposedPreview({box, missing}), PreviewUse::Keep);
+    QCOMPARE(RepairCommand::proposedPreview({box, differs}), PreviewUse::Rebuild);
+    QCOMPARE(RepairCommand::proposedPreview({missing}), PreviewUse::Rebuild);
+    QCOMPARE(RepairCommand::proposedPreview({}), PreviewUse::Keep);
+  }
+};
+
+NORVEX_TEST(CheckTest)
+#include "check_test.moc"

@@ -84,6 +84,8 @@ DocumentServer::Answer DocumentServer::serve(const OpenRequest& request, FileDes
   document_ = memory->toByteArray();
   *memory = {};
   context_.limits = request.limits;
+  context_.password = request.password;
+  context_.layers = request.layers;
   auto opened = engines_.open(request.kind, document_, context_);
   if (!opened) return {opened.error(), {}};
   Result<PictureFacts> facts = (*opened)->facts();

@@ -12,6 +12,7 @@
 #include "protocol/cbor_writer.h"
 #include "protocol/limits.h"
 #include "protocol/page_contents.h"
+#include "protocol/page_text.h"
 #include "protocol/worker_protocol.h"
 
 namespace norvex::fuzz {
@@ -54,6 +55,24 @@ QList<QByteArray> pageContentsSeeds() {
   page.claims = {"PDF/X-4"};
   return {encodePageContents(page),
           encodeDrawnInk({QRectF(1, 2, 3, 4), std::nullopt, QRectF(0, 0, 9, 9), 0.1})};
+}
+
+bool pageText(const QByteArray& bytes) {
+  const auto page = decodePageText(bytes);
+  if (!page) return false;
+  require(page->text.size() == page->places.size(), "every letter has its place");
+  require(page->links.size() <= limits::maximumResources, "lists keep their length");
+  require(decodePageText(encodePageText(*page)).ok(), "what was read can be sent and read again");
+  return true;
+}
+
+QList<QByteArray> pageTextSeeds() {
+  PageText page;
+  page.text = QStringLiteral("Aa\n");
+  page.places = {QRectF(1, 2, 3, 4), QRectF(4, 2, 3, 4), QRectF()};
+  page.links = {{QRectF(1, 2, 3, 4), QStringLiteral("https://example.org/"), -1},
+                {QRectF(0, 0, 9, 9), {}, 3}};
+  return {encodePageText(page), encodePageText({})};
 }
 
 /// A value of every form that a field has.
@@ -187,6 +206,7 @@ QList<Target> protocolTargets() {
   return {{"messages", messages, messageSeeds},
           {"replies", replies, replySeeds},
           {"page_contents", pageContents, pageContentsSeeds},
+          {"page_text", pageText, pageTextSeeds},
           {"cbor_fields", cborFields, fieldSeeds, 1000}};
 }
 

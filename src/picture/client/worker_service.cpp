@@ -11,6 +11,8 @@
 #include "base/yielding_thread.h"
 #include "picture/client/worker_answers.h"
 #include "picture/client/worker_client.h"
+#include "picture/process/reader_choices.h"
+#include "protocol/every_page.h"
 #include "protocol/limits.h"
 #include "protocol/sealed_memory.h"
 #include "protocol/shared_errors.h"
@@ -91,6 +93,27 @@ Result<WorkerAnswer> WorkerService::askTools(PictureNeed need, RequestBody body,
   const Result<quint32> id = tools_->post(std::move(body), *memory);
   if (!id) return id.error();
   return tools_->wait(*id, QDeadlineTimer(qint64(limits.seconds) * 1000), cancel);
+}
+
+Result<PictureBytes> WorkerService::chosenPdf(const QByteArray& pdf, const ReaderChoices& choices,
+                                              const PictureLimits& limits, const CancelToken& cancel) {
+  // A process of its own, so that none that lives on has ever known the password.
+  auto opened = WorkerConnection::open(starter_, ForkRequest{limits, false, NeedPages});
+  if (!opened) return opened.error();
+  WorkerConnection& line = **opened;
+  const Result<FileDescriptor> memory = SealedMemory::seal(pdf);
+  if (!memory) return memory.error();
+  const QDeadlineTimer deadline(qint64(limits.seconds) * 1000 + limits::answerGrace);
+  const Result<quint32> opening =
+      line.post(OpenRequest{PictureKind::Pdf, limits, choices.password, choices.layers}, *memory);
+  if (!opening) return opening.error();
+  Result<WorkerAnswer> answer = line.wait(*opening, deadline, cancel);
+  if (!answer) return answer.error();
+  if (const Result<PictureFacts> facts = factsFrom(std::move(*answer)); !facts) return facts.error();
+  const Result<quint32> asking = line.post(PdfRequest{everyPage, std::nullopt, true});
+  if (!asking) return asking.error();
+  answer = line.wait(*asking, deadline, cancel);
+  return answer ? bytesFrom(std::move(*answer), limits) : Result<PictureBytes>(answer.error());
 }
 
 Result<NSBitmapImageRep> WorkerService::decodePreview(const QByteArray& tiff, const CancelToken& cancel,

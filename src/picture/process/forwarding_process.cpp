@@ -49,6 +49,11 @@ std::shared_ptr<PictureProcess> ForwardingService::open(const QByteArray& bytes,
   return service_.open(bytes, kind, limits);
 }
 
+Result<PictureBytes> ForwardingService::chosenPdf(const QByteArray& pdf, const ReaderChoices& choices,
+                                                  const PictureLimits& limits, const CancelToken& cancel) {
+  return service_.chosenPdf(pdf, choices, limits, cancel);
+}
+
 Result<NSBitmapImageRep> ForwardingService::decodePreview(const QByteArray& tiff, const CancelToken& cancel,
                                                           const PictureLimits& limits) {
   return service_.decodePreview(tiff, cancel, limits);

@@ -264,6 +264,28 @@ std::shared_ptr<PictureProcess> MemoryPictureService::open(const QByteArray& byt
   return last_;
 }
 
+void MemoryPictureService::setChoose(
+    std::function<Result<PictureBytes>(const QByteArray& pdf, const ReaderChoices&)> choose) {
+  const std::lock_guard lock(mutex_);
+  choose_ = std::move(choose);
+}
+
+QList<ReaderChoices> MemoryPictureService::choices() const {
+  const std::lock_guard lock(mutex_);
+  return choices_;
+}
+
+Result<PictureBytes> MemoryPictureService::chosenPdf(const QByteArray& pdf, const ReaderChoices& choices,
+                                                     const PictureLimits&, const CancelToken&) {
+  std::function<Result<PictureBytes>(const QByteArray&, const ReaderChoices&)> choose;
+  {
+    const std::lock_guard lock(mutex_);
+    choices_ << choices;
+    choose = choose_;
+  }
+  return choose ? choose(pdf, choices) : PictureBytes{pdf, {}};  // which may set this service up anew
+}
+
 Result<NSBitmapImageRep> MemoryPictureService::decodePreview(const QByteArray&, const CancelToken& cancel,
                                                              const PictureLimits& limits) {
   const std::lock_guard lock(mutex_);

@@ -15,6 +15,7 @@
 #include <optional>
 
 #include "picture/process/picture_process.h"
+#include "picture/process/reader_choices.h"
 
 namespace norvex {
 
@@ -129,9 +130,16 @@ class MemoryPictureService final : public PictureService {
   /// The process that was opened last; null before the first.
   [[nodiscard]] std::shared_ptr<MemoryPictureProcess> lastProcess() const;
 
+  /// Makes the PDFs of chosenPdf(). Default: the PDF as it is.
+  void setChoose(std::function<Result<PictureBytes>(const QByteArray& pdf, const ReaderChoices&)> choose);
+  /// Of every chosenPdf() so far.
+  [[nodiscard]] QList<ReaderChoices> choices() const;
+
   void openOnlyFor(PictureUse use) override;
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
+  Result<PictureBytes> chosenPdf(const QByteArray& pdf, const ReaderChoices& choices,
+                                 const PictureLimits& limits = {}, const CancelToken& cancel = {}) override;
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {},
                                          const PictureLimits& limits = toolLimits()) override;
   Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,
@@ -143,6 +151,8 @@ class MemoryPictureService final : public PictureService {
   Result<NSBitmapImageRep> preview_ = Error{ErrorKind::NotParsable, QStringLiteral("there is no preview")};
   std::function<void(MemoryPictureProcess&)> prepare_;
   QList<PictureKind> kinds_;
+  std::function<Result<PictureBytes>(const QByteArray&, const ReaderChoices&)> choose_;
+  QList<ReaderChoices> choices_;
   int previews_ = 0;
   PictureLimits previewLimits_;
   PictureUse use_ = PictureUse::Everything;

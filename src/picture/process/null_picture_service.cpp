@@ -34,6 +34,11 @@ std::shared_ptr<PictureProcess> NullPictureService::open(const QByteArray&, Pict
   return std::make_shared<NullPictureProcess>(error_);
 }
 
+Result<PictureBytes> NullPictureService::chosenPdf(const QByteArray&, const ReaderChoices&,
+                                                   const PictureLimits&, const CancelToken&) {
+  return error_;
+}
+
 Result<NSBitmapImageRep> NullPictureService::decodePreview(const QByteArray&, const CancelToken&,
                                                            const PictureLimits&) {
   return error_;

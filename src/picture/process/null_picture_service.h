@@ -15,6 +15,8 @@ class NullPictureService final : public PictureService {
   void openOnlyFor(PictureUse) override {}
   std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                        const PictureLimits& limits = {}) override;
+  Result<PictureBytes> chosenPdf(const QByteArray& pdf, const ReaderChoices& choices,
+                                 const PictureLimits& limits = {}, const CancelToken& cancel = {}) override;
   Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {},
                                          const PictureLimits& limits = toolLimits()) override;
   Result<QByteArray> composePages(const QByteArray& pdf, const PagesRequest& request,

@@ -19,6 +19,8 @@
 
 namespace norvex {
 
+struct ReaderChoices;
+
 /// Bytes of a result together with what the conversion has to tell.
 struct PictureBytes {
   QByteArray bytes;
@@ -72,6 +74,12 @@ class PictureService {
   /// The caller owns the result; the bytes are shared until it is destroyed.
   virtual std::shared_ptr<PictureProcess> open(const QByteArray& bytes, PictureKind kind,
                                                const PictureLimits& limits = {}) = 0;
+  /// The whole PDF as its reader has chosen to see it: not encrypted any more, and with layers that are by
+  /// default as they were chosen. What it gives is opened like any other document; the report tells what is
+  /// lost. Blocks. Fails with Encrypted for a wrong password.
+  virtual Result<PictureBytes> chosenPdf(const QByteArray& pdf, const ReaderChoices& choices,
+                                         const PictureLimits& limits = {},
+                                         const CancelToken& cancel = {}) = 0;
   /// A TIFF file's first image as samples, uncompressed, rows without padding. Blocks.
   /// Of the limits the memory and the time count.
   virtual Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const CancelToken& cancel = {},

@@ -32,6 +32,8 @@ struct EngineContext {
   int interpreters = -1;  ///< where norvex-postscript is asked for interpreters, see
                           ///< protocol/interpreter_request.h; -1: gs is started. Not owned
   std::shared_ptr<GhostscriptChild> warmGhostscript;  ///< waiting for its first document; see ghostscript.h
+  QString password = {};                              ///< of the document, as OpenRequest has it
+  QList<PictureLayer> layers = {};                    ///< likewise
 };
 
 /// One opened document. Single-threaded; calls come one after the other. Owned by the server.

@@ -8,6 +8,7 @@
 #include "worker/examine/page_examination.h"
 #include "worker/pages/compose_page.h"
 #include "worker/pages/pdf_engine.h"
+#include "worker/pdf/pdf_render.h"
 #include "worker/postscript/eps_engine.h"
 #include "worker/svg/svg_engine.h"
 #include "worker/svg/svg_pdf.h"
@@ -30,7 +31,10 @@ Result<std::unique_ptr<DocumentEngine>> openOffered(PictureKind kind, const QByt
       vectors.effectsDpi = svgEffectsDpi;
       vectors.contents = onlyPageContents;
     }
-    if constexpr ((offers & NeedSvgParts) != 0) vectors.compose = composePage;
+    if constexpr ((offers & NeedSvgParts) != 0) {
+      vectors.compose = composePage;
+      vectors.text = textOfOnlyPage;
+    }
     if (kind == PictureKind::Svg) return openSvgWith(vectors, bytes, context);
   }
   return Error{ErrorKind::Unsupported,

@@ -126,10 +126,10 @@ Error noSuchPage(int page, int pageCount) {
           QStringLiteral("there is no page %1; the document has %2").arg(page + 1).arg(pageCount)};
 }
 
-Result<std::unique_ptr<PdfFile>> PdfFile::open(const QByteArray& bytes) {
-  return guarded([&]() -> Result<std::unique_ptr<PdfFile>> {
+Result<std::unique_ptr<PdfFile>> PdfFile::open(const QByteArray& bytes, const QString& password) {
+  Result<std::unique_ptr<PdfFile>> opened = guarded([&]() -> Result<std::unique_ptr<PdfFile>> {
     std::unique_ptr<PdfFile> file(new PdfFile(bytes));
-    file->read();
+    file->read(password);
     Result<PageTree> tree = pageTree(*file->qpdf_);
     if (!tree) return tree.error();
     file->pages_ = std::move(tree->pages);
@@ -138,12 +138,27 @@ Result<std::unique_ptr<PdfFile>> PdfFile::open(const QByteArray& bytes) {
       return Error{ErrorKind::NotParsable, QStringLiteral("the document has no pages")};
     return file;
   });
+  if (!opened && opened.error().kind == ErrorKind::Encrypted && !password.isEmpty())
+    return Error{ErrorKind::Encrypted, QStringLiteral("the password is wrong")};
+  return opened;
 }
 
-void PdfFile::read() {
-  const auto process = [this] {
+void PdfFile::read(const QString& password) {
+  // Documents of before PDF 2.0 write it in a byte a letter.
+  const std::string now = password.toStdString(), then = password.toLatin1().toStdString();
+  try {
+    return readWith(now);
+  } catch (const QPDFExc& caught) {
+    if (caught.getErrorCode() != qpdf_e_password || then == now) throw;
+  }
+  qpdf_ = std::make_unique<QPDF>();
+  readWith(then);
+}
+
+void PdfFile::readWith(const std::string& password) {
+  const auto process = [this, &password] {
     qpdf_->setSuppressWarnings(true);
-    qpdf_->processMemoryFile("document", bytes_.constData(), size_t(bytes_.size()));
+    qpdf_->processMemoryFile("document", bytes_.constData(), size_t(bytes_.size()), password.c_str());
   };
   try {
     process();

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QRectF>
 #include <QSizeF>
+#include <QString>
 #include <QStringList>
 
 #include <qpdf/QPDF.hh>
@@ -12,6 +13,7 @@
 
 #include <exception>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -52,9 +54,11 @@ auto guarded(Work&& work) -> decltype(work()) {
 /// An opened PDF with at least one page. Single-threaded. Members may throw; call them inside guarded().
 class PdfFile {
  public:
-  /// Fails with Encrypted (a password is needed for what is drawn, not only for files that are attached),
-  /// NotParsable or Limit (more than limits::maximumPages pages).
-  [[nodiscard]] static Result<std::unique_ptr<PdfFile>> open(const QByteArray& bytes);
+  /// `password`: empty where none is known. Fails with Encrypted (it is wrong, or one is needed for what is
+  /// drawn, not only for files that are attached), NotParsable or Limit (more than limits::maximumPages
+  /// pages).
+  [[nodiscard]] static Result<std::unique_ptr<PdfFile>> open(const QByteArray& bytes,
+                                                             const QString& password = {});
 
   [[nodiscard]] QPDF& qpdf() { return *qpdf_; }
   [[nodiscard]] int pageCount() const { return int(pages_.size()); }
@@ -65,7 +69,8 @@ class PdfFile {
   [[nodiscard]] QStringList warnings() const;
 
  private:
-  void read();
+  void read(const QString& password);
+  void readWith(const std::string& password);
   explicit PdfFile(QByteArray bytes) : bytes_(std::move(bytes)), qpdf_(std::make_unique<QPDF>()) {}
   QByteArray bytes_;  ///< qpdf reads from it as long as it lives
   std::unique_ptr<QPDF> qpdf_;

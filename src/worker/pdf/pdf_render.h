@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "base/result.h"
+#include "protocol/page_text.h"
 #include "protocol/worker_protocol.h"
 #include "worker/drawing/bitmap.h"
 
@@ -34,6 +35,8 @@ class PdfRenderer {
                                            QSizeF sheet);
   /// The words of a page in reading order. Fails like render().
   [[nodiscard]] Result<QString> text(int page);
+  /// The letters of a page, each with its place, and its links. `shownSize` as for render(), fails like it.
+  [[nodiscard]] Result<PageText> letters(int page, QSizeF shownSize);
 
  private:
   [[nodiscard]] Result<void> load();
@@ -43,5 +46,8 @@ class PdfRenderer {
   QByteArray pdf_;
   std::unique_ptr<_PopplerDocument, Release> document_;
 };
+
+/// letters() of a PDF of one page.
+[[nodiscard]] Result<PageText> textOfOnlyPage(const QByteArray& pdf, QSizeF shownSize);
 
 }  // namespace norvex::engine

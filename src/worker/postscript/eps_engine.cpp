@@ -71,6 +71,7 @@ class EpsEngine final : public DocumentEngine {
   }
 
   Result<EngineBytes> examine(const ExamineRequest& request) override {
+    if (request.what == Examination::Text) return letters(request.page);
     if (request.what != Examination::Contents && request.what != Examination::Drawn)
       return DocumentEngine::examine(request);
     if (const Result<void> ready = prepareSurroundings(request.page); !ready) return ready.error();
@@ -78,6 +79,13 @@ class EpsEngine final : public DocumentEngine {
   }
 
  private:
+  [[nodiscard]] Result<EngineBytes> letters(int page) {
+    if (const Result<void> ready = prepare(page); !ready) return ready.error();
+    const Result<PageText> text = renderer_->letters(0, box_.size());
+    if (!text) return text.error();
+    return EngineBytes{encodePageText(*text), {}};
+  }
+
   // Distils once more, with what lies around the box. Unlike the picture it is not needed for long.
   [[nodiscard]] Result<void> prepareSurroundings(int page) {
     if (page != 0) return noSuchPage(page, 1);

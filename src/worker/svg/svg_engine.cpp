@@ -284,6 +284,13 @@ Result<EngineBytes> SvgEngine::examine(const ExamineRequest& request) {
     if (!found) return found.error();
     return EngineBytes{encodePageContents(*found), {}};
   }
+  if (request.what == Examination::Text && vectors_.text) {
+    const Result<EngineBytes> made = pdf({});
+    if (!made) return made.error();
+    const Result<PageText> found = vectors_.text(made->bytes, points());
+    if (!found) return found.error();
+    return EngineBytes{encodePageText(*found), {}};
+  }
   if (request.what != Examination::Drawn) return DocumentEngine::examine(request);
   const Result<DrawnInk> ink =
       findInk(QRectF(QPointF(0, 0), points()), 0, [&](const RenderRequest& part) { return render(part); });

@@ -9,6 +9,7 @@
 
 #include "base/result.h"
 #include "protocol/page_contents.h"
+#include "protocol/page_text.h"
 #include "worker/engine/engine.h"
 #include "worker/svg/svg_pdf.h"
 #include "worker/svg/svg_renderer.h"
@@ -28,6 +29,8 @@ struct SvgVectors {
                                  EngineContext& context) = nullptr;
   /// What is in a PDF of toPdf. Goes with it.
   Result<PageContents> (*contents)(const QByteArray& pdf, const CancelToken& cancel) = nullptr;
+  /// The text of such a PDF, whose page has this size. Goes with compose.
+  Result<PageText> (*text)(const QByteArray& pdf, QSizeF size) = nullptr;
 };
 
 /// openSvg() with these vectors.

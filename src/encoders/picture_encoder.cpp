@@ -35,6 +35,8 @@ PdfAttributes svgAttributes(const HeaderDictionary& facts) {
   return attributes;
 }
 
+constexpr double kFullTurn = 6.283185307179586;
+
 bool isEps(const NSImageRep* imageRep) {
   return dynamic_cast<const NSEPSImageRep*>(imageRep) != nullptr;
 }
@@ -213,16 +215,20 @@ QByteArray PictureEncoder::svgData() {
   if (!imageRep_) return {};
   const auto* svg = dynamic_cast<const ZyWebImageRep*>(imageRep_.get());
   if (!svg) return composed(VectorFormat::Svg, svgAttributes(header()));
-  SvgRequest request;
-  if (surroundings_.region) {
-    // The cut counts from the upper left corner of the turned picture, y down, and turns clockwise.
-    const QRectF& rect = surroundings_.region->rect;
-    const QSizeF turned = rotatedBoundingSize(svg->size(), normalizedAngle(surroundings_.region->rotate));
-    request.pretty = false;
-    request.rect = QRectF(rect.left() + turned.width() / 2, turned.height() / 2 - rect.top() - rect.height(),
-                          rect.width(), rect.height());
-    request.rotate = -surroundings_.region->rotate;
-  }
+  if (!surroundings_.region) return take(svg->process()->svg({}, cancel_));
+  const QRectF& rect = surroundings_.region->rect;
+  const QSizeF turned = rotatedBoundingSize(svg->size(), normalizedAngle(surroundings_.region->rotate));
+  return svgInside({QRectF(rect.x() + turned.width() * 0.5,
+                           turned.height() * 0.5 - (rect.y() + rect.height()), rect.width(), rect.height()),
+                    -surroundings_.region->rotate});
+}
+
+QByteArray PictureEncoder::svgInside(const SvgCut& cut) {
+  const auto* svg = dynamic_cast<const ZyWebImageRep*>(imageRep_.get());
+  if (!svg) return {};
+  // A full turn is none.
+  const double angle = normalizedAngle(cut.angle);
+  const SvgRequest request{.pretty = false, .rect = cut.rect, .rotate = angle < kFullTurn ? angle : 0};
   return take(svg->process()->svg(request, cancel_));
 }
 

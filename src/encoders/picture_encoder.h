@@ -27,6 +27,12 @@ struct EncodingReport {
   std::optional<Error> error;      ///< why there are no bytes
 };
 
+/// Where an SVG document is cut: counted from the upper left corner of the turned picture, y down, points.
+struct SvgCut {
+  QRectF rect;
+  double angle = 0;  ///< radians, clockwise
+};
+
 /// Each producer blocks for the picture process and returns the bytes, or none: the report then says why. One
 /// object serves one picture; its calls come one after the other, on any thread.
 class PictureEncoder {
@@ -56,6 +62,8 @@ class PictureEncoder {
   [[nodiscard]] QByteArray gifData(const std::shared_ptr<NSImageRep>& imageRep);
   /// SVG: indented of an SVG picture, drawn of any other.
   [[nodiscard]] QByteArray svgData();
+  /// A part of an SVG picture as a document of its own, cut out of its source; none of other pictures.
+  [[nodiscard]] QByteArray svgInside(const SvgCut& cut);
 
   [[nodiscard]] const std::shared_ptr<NSImageRep>& imageRep() const { return imageRep_; }
   [[nodiscard]] const EncodingReport& report() const { return report_; }

@@ -133,6 +133,7 @@ class CopyTest : public QObject {
   Q_OBJECT
  private slots:
   void initTestCase() {
+    qputenv("SOURCE_DATE_EPOCH", "1000000000");
     QString missing = XSession::missing();
     for (const char* program :
          {"qpdf", "gs", "rsvg-convert", "tiffinfo", "pngcheck", "pdftocairo", "convert", "identify"})
@@ -174,6 +175,30 @@ class CopyTest : public QObject {
       QVERIFY2(difference(first, drawn) < 0.05, target.name);
     }
     QVERIFY(offered.contains("com.adobe.pdf") && offered.contains("com.adobe.encapsulated-postscript"));
+  }
+
+  /// Without a selection what is seen is copied: all of the picture, in its own size.
+  void whatIsCopiedIsWhatConvertWritesOfThatPart_data() { otherProgramsPasteTheSelectedRectangle_data(); }
+  void whatIsCopiedIsWhatConvertWritesOfThatPart() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, name);
+    QFETCH(bool, svg);
+    Shown f(bytes, name);
+    QVERIFY(f.isThere);
+    QVERIFY(kit::waitUntil([&] { return coloured(f.session.screen()).width() >= 298; }));
+    f.session.key("ctrl+shift+c");
+    QVERIFY(kit::waitUntil([&] { return f.targets().contains("image/tiff"); }));
+    for (const Target& target : kTargets) {
+      const QString format = QLatin1String(target.format);
+      if (format == "png" || (format == "svg" && !svg)) continue;
+      const QString written = f.folder.filePath("written." + format);
+      const Ran ran = f.session.run(kit::norvexProgram(), {"convert", f.folder.filePath(name), "--crop",
+                                                           "0,0,300,200", "--force", "-o", written});
+      QVERIFY2(ran.exitCode == 0, ran.err);
+      QFile wanted(written), copied(f.pasted(target.name, format));
+      QVERIFY(wanted.open(QIODevice::ReadOnly) && copied.open(QIODevice::ReadOnly));
+      QVERIFY2(wanted.readAll() == copied.readAll(), target.name);
+    }
   }
 
   void whatWasCopiedOutlivesTheProgram() {

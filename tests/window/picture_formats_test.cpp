@@ -3,10 +3,13 @@
 
 #include <cmath>
 
+#include "display/picture_geometry.h"
+#include "encoders/encoded_picture.h"
 #include "kit/test_main.h"
 #include "picture/eps_image_rep.h"
 #include "picture/process/memory_picture_service.h"
 #include "picture/web_image_rep.h"
+#include "types/uniform_type.h"
 #include "window/commands/picture_formats.h"
 
 using namespace norvex;
@@ -105,6 +108,62 @@ class PictureFormatsTest : public QObject {
       QCOMPARE(each.rect, QRectF(-50, -20, 40, 30));
       QCOMPARE(each.rotate, 0.5);
     }
+  }
+
+  /// The encoders that make files make what is copied, so that both say the same of where it comes from.
+  void aPartIsCopiedAsItIsWrittenToAFile_data() {
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<double>("rotate");
+    for (const double rotate : {0.0, 0.5}) {
+      const char* const angle = rotate == 0 ? "upright" : "turned";
+      QTest::addRow("EPS, %s", angle) << int(PictureKind::Eps) << rotate;
+      QTest::addRow("PDF, %s", angle) << int(PictureKind::Pdf) << rotate;
+      QTest::addRow("SVG, %s", angle) << int(PictureKind::Svg) << rotate;
+    }
+  }
+  void aPartIsCopiedAsItIsWrittenToAFile() {
+    QFETCH(int, kind);
+    QFETCH(double, rotate);
+    MemoryPicture picture;
+    const auto said = [](const QRectF& rect, double angle) {
+      return QStringLiteral("%1 %2 %3 %4 %5")
+          .arg(rect.x())
+          .arg(rect.y())
+          .arg(rect.width())
+          .arg(rect.height())
+          .arg(angle)
+          .toUtf8();
+    };
+    picture.compose = [&](const ComposeRequest& request) {
+      const QByteArray made = said(request.rect, request.rotate);
+      if (request.format == VectorFormat::Eps)
+        return "%!PS-Adobe-3.0 EPSF-3.0\n%%Creator: nobody\n%%Title: " + made + "\n%%EndComments\n" + made;
+      return made + (request.attributes ? request.attributes->texts.value("Creator").toUtf8() : "none");
+    };
+    picture.svg = [&](const SvgRequest& request) {
+      return "<svg " + said(request.rect.value_or(QRectF()), request.rotate) + "/>";
+    };
+    Shown f(PictureKind(kind), picture);
+    f.snapshot.placement.rotate = rotate;
+    f.snapshot.frame = QRectF(QPointF(0, 0), rotatedBoundingSize({200, 100}, rotate));
+    f.snapshot.clockwise = true;
+    f.snapshot.surroundings.applicationName = "Norvex";
+    EncoderSurroundings surroundings = f.snapshot.surroundings;
+    surroundings.region = PictureRegion{f.snapshot.rect, rotate};
+    surroundings.subjectMayBeLeftOut = true;
+    const PictureFormats copied = selectionFormats(f.snapshot);
+    for (const PictureFormat format : {PictureFormat::Eps, PictureFormat::Pdf, PictureFormat::Svg}) {
+      const qsizetype at = copied.indexOf(typeOf(format));
+      if (at < 0) continue;
+      PictureEncoder encoder(f.snapshot.imageRep, surroundings);
+      const QByteArray written = encodedPicture(encoder, format);
+      QVERIFY(written.size() > 10);
+      QCOMPARE(copied.DataObjects[at]->get(), written);
+    }
+    const QByteArray eps =
+        copied.DataObjects[copied.indexOf(*UTType::typeWithIdentifier(NorvexEPSType))]->get();
+    QVERIFY2(eps.contains("%%Creator: ") && !eps.contains("nobody"), eps);
+    QVERIFY(copied.DataObjects[copied.indexOf(UTTypePDF())]->get().endsWith("Norvex "));
   }
 
   void theCutOfASvgIsCountedFromItsCorner() {

@@ -1,7 +1,9 @@
 #include "window/commands/picture_formats.h"
 
+#include <cmath>
+
 #include "display/picture_geometry.h"
-#include "encoders/picture_encoder.h"
+#include "encoders/encoded_picture.h"
 #include "picture/eps_image_rep.h"
 #include "picture/web_image_rep.h"
 
@@ -25,14 +27,17 @@ QByteArray encoded(const PictureSnapshot& snapshot, const CancelToken& cancel, R
   return (encoder.*raster)(imageRep);
 }
 
-QByteArray insideRect(const PictureSnapshot& snapshot, const CancelToken& cancel, VectorFormat format) {
-  const auto made = composeView(snapshot.imageRep.get(), snapshot.placement, format, snapshot.rect, cancel);
-  return made ? made->bytes : QByteArray();
+/// The same bytes as those of a file with this part of the picture.
+QByteArray insideRect(const PictureSnapshot& snapshot, const CancelToken& cancel, PictureFormat format) {
+  EncoderSurroundings surroundings = snapshot.surroundings;
+  surroundings.region = regionOf(snapshot);
+  surroundings.subjectMayBeLeftOut = true;
+  PictureEncoder encoder(snapshot.imageRep, surroundings, cancel);
+  return encodedPicture(encoder, format);
 }
 
-QByteArray cutSvg(const ZyWebImageRep& svg, const SvgCut& cut, const CancelToken& cancel) {
-  const auto made = svg.process()->svg({.pretty = false, .rect = cut.rect, .rotate = cut.angle}, cancel);
-  return made ? made->bytes : QByteArray();
+QByteArray cutSvg(const PictureSnapshot& snapshot, const SvgCut& cut, const CancelToken& cancel) {
+  return PictureEncoder(snapshot.imageRep, snapshot.surroundings, cancel).svgInside(cut);
 }
 
 std::shared_ptr<NSPDFImageRep> pdfImageRepOf(const PictureSnapshot& snapshot, const QByteArray& pdf,
@@ -52,7 +57,7 @@ bool hasRect(const PictureSnapshot& snapshot) {
 
 std::shared_ptr<PromisedData> appendPdf(PictureFormats& formats, const PictureSnapshot& snapshot) {
   formats.append(kPasteboardTypePDF, UTTypePDF(), [snapshot, cancel = formats.cancel] {
-    return insideRect(snapshot, cancel, VectorFormat::Pdf);
+    return insideRect(snapshot, cancel, PictureFormat::Pdf);
   });
   auto pdf = formats.DataObjects.last();
   formats.pdfImageRep = std::make_shared<PromisedValue<std::shared_ptr<NSPDFImageRep>>>(
@@ -64,7 +69,8 @@ std::shared_ptr<PromisedData> appendPdf(PictureFormats& formats, const PictureSn
 void appendEps(PictureFormats& formats, const PictureSnapshot& snapshot,
                const std::shared_ptr<PromisedData>& needed) {
   formats.append(NorvexEPSType, epsType(), [snapshot, needed, cancel = formats.cancel] {
-    return needed && needed->get().isEmpty() ? QByteArray() : insideRect(snapshot, cancel, VectorFormat::Eps);
+    return needed && needed->get().isEmpty() ? QByteArray()
+                                             : insideRect(snapshot, cancel, PictureFormat::Eps);
   });
 }
 
@@ -94,7 +100,7 @@ std::function<QByteArray()> tiffOfSvg(const PictureFormats& formats, const Pictu
 void appendSvgFormats(PictureFormats& formats, const PictureSnapshot& snapshot) {
   formats.append(QString::fromLatin1(ZySVGPboardType), UTTypeSVG(),
                  [snapshot, cut = svgCutOf(snapshot), cancel = formats.cancel] {
-                   return cutSvg(static_cast<const ZyWebImageRep&>(*snapshot.imageRep), cut, cancel);
+                   return cutSvg(snapshot, cut, cancel);
                  });
   const auto svg = formats.DataObjects.last();
   const auto pdf = appendPdf(formats, snapshot);
@@ -115,6 +121,14 @@ void PictureFormats::removeAt(qsizetype index) {
   Types.removeAt(index);
   UTIs.removeAt(index);
   DataObjects.removeAt(index);
+}
+
+PictureRegion regionOf(const PictureSnapshot& snapshot) {
+  const QSizeF page = snapshot.imageRep->size();
+  const double s = std::sin(snapshot.placement.rotate), c = std::cos(snapshot.placement.rotate);
+  const QPointF offset = snapshot.placement.pivot - QPointF(page.width() * 0.5, page.height() * 0.5);
+  const QPointF shift(c * offset.x() - s * offset.y(), s * offset.x() + c * offset.y());
+  return PictureRegion{snapshot.rect.translated(shift), snapshot.placement.rotate};
 }
 
 SvgCut svgCutOf(const PictureSnapshot& snapshot) {
@@ -186,7 +200,7 @@ PictureFormats translatedFormats(const PictureFormats& offered, const PictureSna
   if (offered.count() == 0 || !hasRect(snapshot)) return made;
   if (offered.indexOf(UTTypeSVG()) < 0)
     made.append(QString::fromLatin1(ZySVGPboardType), UTTypeSVG(), [snapshot, cancel = offered.cancel] {
-      const QByteArray svg = insideRect(snapshot, cancel, VectorFormat::Svg);
+      const QByteArray svg = insideRect(snapshot, cancel, PictureFormat::Svg);
       return svg.contains("<svg") ? svg : QByteArray();  // an engine that has no SVG may answer with its own
     });
   if (offered.indexOf(UTTypePDF()) < 0) appendPdf(made, snapshot);

@@ -11,6 +11,7 @@
 #include "base/promised_value.h"
 #include "display/view_compose.h"
 #include "encoders/encoder_surroundings.h"
+#include "encoders/picture_encoder.h"
 #include "picture/image_rep.h"
 #include "picture/pdf_image_rep.h"
 #include "types/uniform_type.h"
@@ -36,11 +37,8 @@ struct PictureSnapshot {
   QThread* home = nullptr;           ///< where the pictures that are made of it live; the main thread
 };
 
-/// Where an SVG document is cut, and how far it is turned.
-struct SvgCut {
-  QRectF rect;
-  double angle = 0;  ///< radians
-};
+/// The snapshot's rectangle as the encoders count it: about the centre of its representation.
+[[nodiscard]] PictureRegion regionOf(const PictureSnapshot& snapshot);
 /// The snapshot's rectangle and angle as the cut of an SVG document counts them.
 [[nodiscard]] SvgCut svgCutOf(const PictureSnapshot& snapshot);
 

@@ -14,16 +14,11 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-/// The snapshot's rectangle about the centre of the representation; nothing where that is the whole picture
-/// as it stands, which a source may be handed on for.
+/// Nothing where that is the whole picture as it stands, which a source may be handed on for.
 std::optional<PictureRegion> regionOf(const PictureSnapshot& snapshot, ExportArea area) {
   if (area == ExportArea::Document) return std::nullopt;
   if (area == ExportArea::Page && snapshot.placement.rotate == 0) return std::nullopt;
-  const QSizeF page = snapshot.imageRep->size();
-  const double s = std::sin(snapshot.placement.rotate), c = std::cos(snapshot.placement.rotate);
-  const QPointF offset = snapshot.placement.pivot - QPointF(page.width() * 0.5, page.height() * 0.5);
-  const QPointF shift(c * offset.x() - s * offset.y(), s * offset.x() + c * offset.y());
-  return PictureRegion{snapshot.rect.translated(shift), snapshot.placement.rotate};
+  return regionOf(snapshot);
 }
 
 bool hasPages(const NSImageRep& rep) {

@@ -1,4 +1,5 @@
-// What the desktop asks of a running program over the session bus: the interface org.freedesktop.Application.
+// Requests of the desktop to a running program over the session bus: the interface
+// org.freedesktop.Application.
 #pragma once
 
 #include <QList>

@@ -38,7 +38,7 @@ class HistoryKeeper final : public QObject {
   /// `view`: how it was shown at the end, if it was.
   void closed(const QUrl& url, const std::optional<PictureView>& view);
   [[nodiscard]] std::optional<PictureView> view(const QUrl& url) const;
-  /// What programs that crashed had open; told once.
+  /// The files that programs that crashed had open; told once.
   [[nodiscard]] LeftSession takeLeftSession() const;
   /// Until the desktop's list holds what was opened.
   void waitForDesktop();

@@ -35,7 +35,7 @@ QString htmlOf(const QString& page) {
   return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// What stands between the tags of the heading.
+/// The text between the tags of the heading.
 QString titleOf(const QString& html) {
   const QString heading = html.section(QStringLiteral("<h1>"), 1).section(QStringLiteral("</h1>"), 0, 0);
   return QTextDocumentFragment::fromHtml(heading).toPlainText();

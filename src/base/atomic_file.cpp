@@ -43,7 +43,7 @@ Error cannotWrite(int reason) {
   }
 }
 
-/// What the hidden name of a file begins with.
+/// The beginning of the hidden name of a file.
 QByteArray hiddenBegin(const QByteArray& name) {
   constexpr qsizetype enoughToRecognise = 100;  // the whole name may be as long as names can be
   return '.' + name.left(enoughToRecognise) + '.';
@@ -59,7 +59,7 @@ QByteArray hiddenNameBeside(const QString& path) {
          random.rightJustified(kRandomDigits, '0');
 }
 
-/// What hiddenNameBeside() put in front of the random digits; empty: it is no such name.
+/// The part that hiddenNameBeside() put in front of the random digits; empty: it is no such name.
 QByteArray beginOfHidden(const QByteArray& name) {
   const qsizetype begin = name.size() - kRandomDigits;
   if (begin < 2 || name[0] != '.' || name[begin - 1] != '.') return {};

@@ -1,4 +1,4 @@
-// What is told to people, as sentences.
+// Words for people, as sentences.
 #pragma once
 
 #include <QString>

@@ -8,7 +8,7 @@
 
 namespace norvex {
 
-/// What the comments themselves say. `program` is the PostScript, as an interpreter takes it.
+/// Findings about the comments themselves. `program` is the PostScript, as an interpreter takes it.
 [[nodiscard]] Findings epsBoxFindings(QByteArrayView program, const QList<ProgramLine>& lines);
 
 /// How a stated box and the ink agree, in points of PostScript's default user space. `slack`: how far a box

@@ -20,7 +20,7 @@ struct WrappedFile {
 /// Nothing: the file is not wrapped, or what the wrapping says of its parts cannot be true. Thread-safe.
 [[nodiscard]] std::optional<WrappedFile> wrappedFile(QByteArrayView file);
 
-/// What is inside of all wrappings that wrappedFile() knows; the file itself without any. A copy of its own
+/// The file inside of all wrappings that wrappedFile() knows; the file itself without any. A copy of its own
 /// where there was one.
 [[nodiscard]] QByteArray withoutWrapping(const QByteArray& file);
 

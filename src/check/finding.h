@@ -1,4 +1,4 @@
-// What a check of a picture finds, as values.
+// The findings of a check of a picture, as values.
 #pragma once
 
 #include <QList>

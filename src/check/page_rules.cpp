@@ -11,7 +11,7 @@ constexpr double kMillimetresPerPoint = 25.4 / 72;
 constexpr int kPictureSide = 8;
 /// Findings of one rule on a page; a page may hold thousands of images.
 constexpr int kMostImages = 20;
-/// What rounding may take from a limit.
+/// The share of a limit that rounding may take.
 constexpr double kSlack = 0.005;
 
 QString number(double value) {

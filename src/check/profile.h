@@ -1,4 +1,4 @@
-// What a picture is wanted for: limits, and how bad each finding is then.
+// The use that a picture is wanted for: limits, and how bad each finding is then.
 #pragma once
 
 #include <QByteArray>

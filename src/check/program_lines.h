@@ -35,7 +35,7 @@ struct ProgramLine {
 /// The lines up to the document's end, the last %%EOF; all of them without one. What some programs keep
 /// behind it for themselves is no part of the document.
 [[nodiscard]] QList<ProgramLine> documentLines(const QList<ProgramLine>& lines);
-/// What follows the keyword and its colon, without blanks around it. REQUIRES isComment().
+/// The text behind the keyword and its colon, without blanks around it. REQUIRES isComment().
 [[nodiscard]] QByteArrayView commentValue(const ProgramLine& line, QByteArrayView keyword);
 
 /// True if it is no text that people or programs wrote: image samples, packed data.

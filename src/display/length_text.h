@@ -7,7 +7,7 @@
 
 namespace norvex {
 
-/// What lengths are shown in. The order is that in which a reader steps through them.
+/// The units that lengths are shown in. The order is that in which a reader steps through them.
 enum class LengthUnit { Points, Millimetres, Inches, Picas };
 
 /// "pt", "mm", "in", "pc".

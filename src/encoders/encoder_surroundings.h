@@ -20,7 +20,7 @@ struct NSWindowDepth {
   bool operator==(const NSWindowDepth&) const = default;
 };
 
-/// What becomes of what a PDF does beside being drawn (scripts, actions, files elsewhere) in a PDF made of
+/// The fate of what a PDF does beside being drawn (scripts, actions, files elsewhere) in a PDF made of
 /// it.
 enum class SourceActions {
   WithTheWhole,  ///< they stay in a file that is handed on as it is, and are left out of a part of it

@@ -23,7 +23,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(encoderLog, "norvex.encoders")
 
-/// What an SVG has elements for.
+/// The facts that an SVG has elements for.
 PdfAttributes svgAttributes(const HeaderDictionary& facts) {
   PdfAttributes attributes;
   for (const auto& [key, name] :

@@ -11,7 +11,7 @@
 
 namespace norvex {
 
-/// What a program that is gone had open.
+/// The files that a program that is gone had open.
 struct LeftSession {
   QStringList files;  ///< in the order in which they were opened
   QString last;       ///< the one that was opened or used last: perhaps what ended it; empty: none

@@ -20,7 +20,7 @@ struct CheckedPicture {
   std::optional<Error> error;  ///< why not everything could be checked; what could stands beside it
 };
 
-/// What is asked of a check.
+/// The request of a check.
 struct CheckRequest {
   QByteArray bytes;  ///< of the file, as it stands on disk
   QString fileName;  ///< tells the type where the bytes do not; may be empty
@@ -32,8 +32,8 @@ struct CheckRequest {
 [[nodiscard]] CheckedPicture checkPicture(PictureService& service, const CheckRequest& request,
                                           const CancelToken& cancel = {});
 
-/// What the program of an EPS file inks, in PostScript's default user space. `box`: the one that the file
-/// states, from where the answer is counted. Fails as PictureProcess::examine().
+/// The area that the program of an EPS file inks, in PostScript's default user space. `box`: the one that the
+/// file states, from where the answer is counted. Fails as PictureProcess::examine().
 [[nodiscard]] Result<DrawnInk> inkOfEps(PictureProcess& process, const QRectF& box,
                                         const CancelToken& cancel);
 

@@ -10,7 +10,7 @@
 
 namespace norvex {
 
-/// What becomes of a file's preview.
+/// The fate of a file's preview.
 enum class PreviewUse { Keep, Drop, Rebuild };
 
 struct RepairedPicture {

@@ -1,4 +1,4 @@
-// What is in a page: the answers to ExamineRequest, as values and as CBOR. The picture process writes them,
+// A page's contents: the answers to ExamineRequest, as values and as CBOR. The picture process writes them,
 // the window and the command line read them as everything that comes from there: strictly, within limits.
 #pragma once
 

@@ -1,4 +1,4 @@
-// What the program is, and what confines the documents that it opens.
+// The program's name and version, and what confines the documents that it opens.
 #pragma once
 
 #include <QString>

@@ -12,8 +12,8 @@
 namespace norvex {
 namespace {
 
-/// What the command says to its own options: tried with a file that is not there and no output, so that it
-/// shows before anything is read or written. Empty: nothing.
+/// The command's complaint about its own options: tried with a file that is not there and no output, so that
+/// it shows before anything is read or written. Empty: nothing.
 QString complaintOfCommand(PictureService& service, const Arguments& arguments) {
   Arguments sample = argumentsForFile(arguments, {}, {}, false);
   sample.values.remove(Option::Json);

@@ -1,4 +1,4 @@
-// What a run over an archive was asked to do, checked before any work begins.
+// The task of a run over an archive, checked before any work begins.
 #pragma once
 
 #include <QByteArray>

@@ -199,7 +199,7 @@ bool ArchiveRun::feedSome(NameSource& names) {
   return more;
 }
 
-/// What can be told without work. May find that the output is ours.
+/// The results that can be told without work. May find that the output is ours.
 std::optional<FileResult> ArchiveRun::knownBefore(FileTask& task) {
   if (claims_) {
     const auto claimed = claims_->claim(task.output, task.name.path);

@@ -8,7 +8,7 @@
 
 namespace norvex {
 
-/// What a command says for one file.
+/// A command's answer for one file.
 struct FileAnswer {
   ExitCode code = ExitCode::Done;
   std::optional<Error> error;  ///< of the file, where the command told one

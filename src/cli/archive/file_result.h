@@ -1,4 +1,4 @@
-// What came of one name of a run over an archive.
+// The outcome of one name of a run over an archive.
 #pragma once
 
 #include <QByteArray>
@@ -33,7 +33,7 @@ struct FileResult {
   QString sentence;  ///< why there is no result
   RunEntry entry;    ///< for the state
 
-  /// What it takes while it waits to be told, about.
+  /// The bytes that it takes while it waits to be told, about.
   [[nodiscard]] qint64 weight() const { return 512 + text.size() + 2 * messages.size(); }
 };
 

@@ -1,4 +1,4 @@
-// What a run says of one file on a line of JSON.
+// A run's words on one file, as a line of JSON.
 #pragma once
 
 #include <QByteArray>

@@ -28,7 +28,7 @@ class WorkWindow {
 
   /// False: the run is over, nothing more is wanted. Reader's thread.
   bool put(FileTask task);
-  /// What is known without work, in its place among the others. False as above.
+  /// A result that is known without work, in its place among the others. False as above.
   bool putResult(FileResult result);
   /// No more will come.
   void close();

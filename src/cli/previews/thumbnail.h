@@ -10,7 +10,7 @@
 
 namespace norvex {
 
-/// What a thumbnail may take: a folder is full of them, and some of its files come from strangers.
+/// The budget of a thumbnail: a folder is full of them, and some of its files come from strangers.
 inline constexpr int thumbnailSeconds = 5;
 
 /// Fits into a square of `side` pixels. An embedded preview is shown without running the PostScript, never

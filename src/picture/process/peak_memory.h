@@ -1,4 +1,4 @@
-// What the picture processes of a piece of work take at most.
+// The most memory that the picture processes of a piece of work take.
 #pragma once
 
 #include <QtGlobal>

@@ -27,7 +27,7 @@ struct PictureBytes {
   BytesReply report;
 };
 
-/// What a process may use up that serves no document: previews, the sheets of a print job.
+/// The budget of a process that serves no document: previews, the sheets of a print job.
 [[nodiscard]] inline PictureLimits toolLimits() {
   PictureLimits few;
   few.seconds = limits::toolSeconds;

@@ -1,4 +1,4 @@
-// What of a picture is written, and how.
+// The part of a picture that is written, and how.
 #pragma once
 
 #include <QColor>
@@ -24,7 +24,7 @@ struct ExportChoice {
   bool operator==(const ExportChoice&) const = default;
 };
 
-/// What there is to choose from.
+/// All that there is to choose from.
 struct ExportOffer {
   struct Area {
     ExportArea area;

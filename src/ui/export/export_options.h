@@ -19,7 +19,7 @@ class ColorWell;
 class ExportOptions final : public QWidget {
   Q_OBJECT
  public:
-  /// What `first` chooses and `offer` does not have is the first that it has.
+  /// A choice of `first` that `offer` does not have becomes the first that it has.
   ExportOptions(const ExportOffer& offer, const ExportChoice& first, QWidget* parent);
 
   [[nodiscard]] ExportChoice choice() const;

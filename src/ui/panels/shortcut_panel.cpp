@@ -50,7 +50,7 @@ QTreeWidgetItem* addGroup(QTreeWidget* list, const QString& title) {
   return group;
 }
 
-/// What no menu shows.
+/// Keys that no menu shows.
 void addGestures(QTreeWidget* list) {
   struct Gesture {
     const char* what;

@@ -35,7 +35,7 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   /// the view is and the window's colour around it.
   void setBackground(const QColor& color);
 
-  /// What the size of the selection is written in beside it.
+  /// The unit of the size that stands beside the selection.
   void setLengthUnit(LengthUnit unit);
 
   /// A view point as a point of this widget and back; a widget point is in logical pixels from its top-left

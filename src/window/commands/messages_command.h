@@ -57,7 +57,7 @@ class MessagesCommand final : public QObject {
   void reloadChosen();
   /// The opening that was stopped shall begin anew.
   void openingChosen();
-  /// What is waited for shall end.
+  /// The work that is waited for shall end.
   void stopChosen();
 
  private:

@@ -29,7 +29,7 @@ void saveTouchBarIsShown(bool shown);
 [[nodiscard]] bool windowFitsPicture();
 void saveWindowFitsPicture(bool fits);
 
-/// What the desktop draws around windows, as it was seen last; a guess before.
+/// The frame that the desktop draws around windows, as it was seen last; a guess before.
 [[nodiscard]] QMargins savedFrameMargins();
 void saveFrameMargins(const QMargins& margins);
 

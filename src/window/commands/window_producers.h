@@ -45,7 +45,7 @@ class WindowProducers final : public PictureProducers {
   QByteArray jpgData(const std::shared_ptr<NSImageRep>& imageRep) override;
   QByteArray gifData(const std::shared_ptr<NSImageRep>& imageRep) override;
   [[nodiscard]] QString lastShortcoming() const override;
-  /// What there is to tell of the bytes of the last call.
+  /// Remarks on the bytes of the last call.
   [[nodiscard]] const QStringList& lastWarnings() const { return lastReport_.warnings; }
 
   /// The encoder of the shown picture, to be used on another thread.

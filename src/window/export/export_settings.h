@@ -5,7 +5,7 @@
 
 namespace norvex {
 
-/// What was stored; the usual choice for what was not, or is none any more. Kept in a file of its own in the
+/// The stored choice; the usual one for what was not, or is none any more. Kept in a file of its own in the
 /// user's configuration folder.
 [[nodiscard]] ExportChoice storedExportChoice();
 void storeExportChoice(const ExportChoice& choice);

@@ -3,7 +3,7 @@
 
 namespace norvex {
 
-/// What a process and all that it forks share with nobody.
+/// The namespaces that a process and all that it forks share with nobody.
 struct OwnNamespaces {
   bool network = false;   ///< there is no interface, not even an address of this machine's own
   bool messages = false;  ///< System V's memory, semaphores and queues, and POSIX' queues

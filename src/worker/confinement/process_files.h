@@ -7,7 +7,7 @@ namespace norvex {
 
 /// Opens /proc for later. Called before a file view is entered, and once more harmless.
 void openProcessFiles();
-/// What openProcessFiles() opened, for a program that is started from where there is no /proc; -1: nothing.
+/// The opened place of /proc, for a program that is started from where there is no /proc; -1: nothing.
 [[nodiscard]] int openedProcessFiles();
 /// In such a program: takes over the descriptor that it was given, if it was.
 void adoptProcessFiles(int descriptor);

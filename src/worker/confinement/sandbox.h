@@ -24,7 +24,7 @@ struct SandboxPolicy {
 /// Called once, first thing, by a process that others are forked from, while it has one thread: a view of the
 /// file system, which they inherit, and what is made once for all. `scratchRoot` is where their scratch
 /// folders will be made; empty: there will be none. `writeScratchFiles`: as SandboxPolicy of theirs has it.
-/// What the system refuses is left out.
+/// A layer that the system refuses is left out.
 void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& layers = {},
                       bool writeScratchFiles = false);
 

@@ -9,7 +9,7 @@
 
 namespace norvex {
 
-/// What is told once a folder holds too much.
+/// The error once a folder holds too much.
 [[nodiscard]] Error tooManyScratchFiles();
 
 /// Looks at one folder from time to time while somebody writes into it. What is reached is

@@ -1,4 +1,4 @@
-// What a PDF document says of itself as a whole: encryption, permissions, standards that it claims to keep.
+// The claims of a PDF document as a whole: encryption, permissions, standards that it claims to keep.
 #pragma once
 
 #include "protocol/page_contents.h"

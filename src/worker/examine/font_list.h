@@ -11,7 +11,7 @@
 
 namespace norvex::engine {
 
-/// What a font is known by: the name in its dictionary, with the tag of a subset. Type 3 fonts have none.
+/// The key of a font: the name in its dictionary, with the tag of a subset. Type 3 fonts have none.
 [[nodiscard]] std::string fontName(QPDFObjectHandle font);
 
 /// Those that the page's resources, its forms, patterns and Type 3 fonts name, each once, `shown`: fontName()

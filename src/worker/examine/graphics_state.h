@@ -1,4 +1,4 @@
-// What of a page's graphics state (PDF 1.7, 8.4) an examination follows.
+// The parts of a page's graphics state (PDF 1.7, 8.4) that an examination follows.
 #pragma once
 
 #include <QRectF>

@@ -1,4 +1,4 @@
-// What is in a page of a PDF.
+// The contents of a page of a PDF.
 #pragma once
 
 #include "base/affine_transform.h"

@@ -1,4 +1,4 @@
-// What an interpreter of page contents comes upon, gathered.
+// The finds of an interpreter of page contents, gathered.
 #pragma once
 
 #include <QRectF>

@@ -52,7 +52,7 @@ void tellOfClicks(QPDFObjectHandle page, QStringList& sentences) {
 
 enum class Reach { Drawn, Everything };
 
-// What can be drawn from `start`, or everything that it leads to, actions and all; each object once.
+// All that can be drawn from `start`, or everything that it leads to, actions and all; each object once.
 class Cleaner {
  public:
   Cleaner(QStringList& sentences, Reach reach) : sentences_(sentences), reach_(reach) {}

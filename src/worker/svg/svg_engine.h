@@ -27,7 +27,7 @@ struct SvgVectors {
   double (*effectsDpi)(const QSizeF& pixels, const SvgImageEffects& effects) = nullptr;
   Result<EngineBytes> (*compose)(const QByteArray& pdf, const ComposeRequest& request,
                                  EngineContext& context) = nullptr;
-  /// What is in a PDF of toPdf. Goes with it.
+  /// The contents of a PDF of toPdf. Goes with it.
   Result<PageContents> (*contents)(const QByteArray& pdf, const CancelToken& cancel) = nullptr;
   /// The text of such a PDF, whose page has this size. Goes with compose.
   Result<PageText> (*text)(const QByteArray& pdf, QSizeF size) = nullptr;

@@ -14,7 +14,7 @@ namespace norvex::engine {
 
 /// 96 of CSS's pixels, and 72 points, are an inch.
 inline constexpr double pointsPerPixel = 0.75;
-/// What a length in em is measured with where nothing else is said; the renderer's own default, pixels.
+/// The size of an em where nothing else is said; the renderer's own default, pixels.
 inline constexpr double defaultFontSize = 12.0;
 
 struct SvgLength {

@@ -43,7 +43,7 @@ class SvgDevice final : public OutputDev {
   /// Poppler asks now and then: cancelled, or there is no room for more.
   [[nodiscard]] bool mustStop() const { return sheet_.isFull() || cancel_.cancelled(); }
 
-  // What Poppler asks of a device.
+  // Poppler's questions to a device.
   bool upsideDown() override { return true; }
   bool useDrawChar() override { return true; }
   bool interpretType3Chars() override { return true; }
@@ -107,7 +107,7 @@ class SvgDevice final : public OutputDev {
   void clearSoftMask(GfxState* state) override;
 
  private:
-  /// What is saved and restored with Poppler's state.
+  /// Our part of the state that Poppler saves and restores.
   struct State {
     SvgClips clips;
     QByteArray mask;  ///< name of a definition

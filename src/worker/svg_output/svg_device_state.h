@@ -1,4 +1,4 @@
-// What of Poppler's graphics state is asked for in more than one place.
+// The parts of Poppler's graphics state that are asked for in more than one place.
 #pragma once
 
 #include <GfxState.h>

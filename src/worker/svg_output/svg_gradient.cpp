@@ -66,7 +66,7 @@ QByteArray stopText(double offset, const Rgb& colour, bool hidden = false) {
          attribute("stop-color", colourText(colour)) + (hidden ? " stop-opacity=\"0\"" : "") + "/>";
 }
 
-/// What lies before the first and behind the last stop, where the colour does not go on.
+/// The parts before the first and behind the last stop, where the colour does not go on.
 QByteArray stopsText(const std::vector<GradientStop>& stops, bool before, bool behind) {
   QByteArray text;
   if (!before && !stops.empty()) text += stopText(stops.front().offset, stops.front().colour, true);

@@ -95,7 +95,7 @@ std::optional<SvgPixels> SvgImages::pixelsOf(const ImageSource& source, const in
   return pixels;
 }
 
-/// What the mask lets through, as grey.
+/// The share that the mask lets through, as grey.
 std::optional<SvgPixels> SvgImages::shadesOf(const ImageSource& mask) {
   SvgPixels shades{mask.width, mask.height,
                    std::vector<quint32>(size_t(mask.width) * size_t(mask.height), kOpaque)};

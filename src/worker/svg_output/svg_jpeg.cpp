@@ -42,7 +42,7 @@ bool isFrameOf(const QByteArray& jpeg, qsizetype at, int length, int width, int 
          shortAt(jpeg, at + 7) == width && byteAt(jpeg, at + 9) == components;
 }
 
-// What the samples mean in the document and in a reader that takes them for sRGB.
+// True if the samples mean the same to a reader that takes them for sRGB.
 bool looksAlike(GfxImageColorMap& colours) {
   const int components = colours.getNumPixelComps();
   double sum = 0;

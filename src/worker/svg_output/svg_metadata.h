@@ -1,4 +1,4 @@
-// What a document says about itself, in front of an SVG.
+// A document's words about itself, in front of an SVG.
 #pragma once
 
 #include <QByteArray>

@@ -50,7 +50,7 @@ quint32 straight(quint32 premultiplied) {
   return alpha << 24 | part(16) | part(8) | part(0);
 }
 
-// What `pattern`, in the shading's space, paints on `part` of the page.
+// The pixels that `pattern`, in the shading's space, paints on `part` of the page.
 std::optional<ShadingImage> painted(const Pattern& pattern, const AffineTransform& matrix,
                                     const QRectF& part) {
   if (part.isEmpty() || !matrix.isFinite()) return std::nullopt;

@@ -16,7 +16,7 @@
 
 namespace norvex::engine {
 
-/// What bounds everything that is painted behind it. All coordinates are the page's: points, origin at the
+/// A bound of everything that is painted behind it. All coordinates are the page's: points, origin at the
 /// upper-left corner, y down.
 struct SvgClip {
   QByteArray path;

@@ -1,4 +1,4 @@
-// What a piece of SVG costs whoever reads it: elements that are drawn when every reference is followed.
+// The cost of a piece of SVG to whoever reads it: elements that are drawn when every reference is followed.
 #pragma once
 
 #include <QByteArray>

@@ -54,7 +54,7 @@ class Database {
   [[nodiscard]] Statement prepare(const char* sql);
   /// One number of one row, `fallback` where there is none.
   [[nodiscard]] qint64 number(const char* sql, qint64 fallback = 0);
-  /// What went wrong last. CannotWrite.
+  /// The last failure. CannotWrite.
   [[nodiscard]] Error error() const;
 
  private:

@@ -1,4 +1,4 @@
-// What a state holds of one file.
+// The entry of one file in a state.
 #pragma once
 
 #include <QByteArray>

@@ -1,4 +1,4 @@
-// What a state says of its run as a whole.
+// The sum of a run, from its state.
 #pragma once
 
 #include <QJsonObject>

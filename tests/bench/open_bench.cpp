@@ -1,13 +1,16 @@
 // From command to complete picture on screen: starts each program in turn on the same file, looks at the
-// whole screen until it no longer changes, and tells when it changed last.
+// whole screen until it no longer changes, and tells when it changed last. A blinking cursor and a title's
+// icon are no change.
 //
-//   xvfb-run -s "-screen 0 1600x1100x24" open_bench FILE ROUNDS PROGRAM [PROGRAM…]
+//   xvfb-run -s "-screen 0 1600x1100x24" open_bench [--samples] FILE ROUNDS PROGRAM [PROGRAM…]
 //
-// Prints the median of each program in milliseconds and the ratio to the first one's. Run it with a window
+// Prints the median of each program in milliseconds and the ratio to the first one's; with --samples a line
+// for each program: its name and the milliseconds of each round, with tabs between them. Run it with a window
 // manager when the programs need one.
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QHash>
+#include <QImage>
 #include <QPixmap>
 #include <QProcess>
 #include <QScreen>
@@ -15,19 +18,33 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
 constexpr int stillMilliseconds = 1500;  // no change for so long: the picture is complete
 constexpr int longestMilliseconds = 30000;
+constexpr int smallestChange = 600;  // pixels
 
-size_t screenHash() {
-  const QImage image = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
-  return qHashBits(image.constBits(), size_t(image.sizeInBytes()));
+QImage screenImage() {
+  return QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+}
+
+bool differs(const QImage& one, const QImage& other) {
+  if (one.size() != other.size() || one.format() != other.format()) return true;
+  int pixels = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    const auto* a = reinterpret_cast<const QRgb*>(one.constScanLine(y));
+    const auto* b = reinterpret_cast<const QRgb*>(other.constScanLine(y));
+    if (std::equal(a, a + one.width(), b)) continue;
+    for (int x = 0; x < one.width(); ++x) pixels += a[x] != b[x] ? 1 : 0;
+    if (pixels > smallestChange) return true;
+  }
+  return false;
 }
 
 double millisecondsToCompletePicture(const QString& program, const QString& file) {
-  size_t last = screenHash();
+  QImage last = screenImage();
   QProcess process;
   QElapsedTimer clock;
   clock.start();
@@ -36,9 +53,11 @@ double millisecondsToCompletePicture(const QString& program, const QString& file
   while (clock.elapsed() < longestMilliseconds &&
          (changed == 0 || clock.elapsed() - changed < stillMilliseconds)) {
     const double now = double(clock.nsecsElapsed()) / 1e6;
-    const size_t hash = screenHash();
-    if (hash != last) changed = now;
-    last = hash;
+    const QImage image = screenImage();
+    if (differs(image, last)) {
+      changed = now;
+      last = image;
+    }
     QThread::msleep(4);
   }
   process.terminate();
@@ -52,9 +71,10 @@ double millisecondsToCompletePicture(const QString& program, const QString& file
 
 int main(int argc, char** argv) {
   QGuiApplication application(argc, argv);
-  const QStringList given = QGuiApplication::arguments();
+  QStringList given = QGuiApplication::arguments();
+  const bool samples = given.removeAll(QStringLiteral("--samples")) > 0;
   if (given.size() < 4) {
-    std::fprintf(stderr, "usage: open_bench FILE ROUNDS PROGRAM [PROGRAM…]\n");
+    std::fprintf(stderr, "usage: open_bench [--samples] FILE ROUNDS PROGRAM [PROGRAM…]\n");
     return 2;
   }
   const QStringList programs = given.mid(3);
@@ -65,6 +85,12 @@ int main(int argc, char** argv) {
   double first = 0;
   for (const QString& program : programs) {
     QList<double> all = times[program];
+    if (samples) {
+      std::printf("%s", qPrintable(program));
+      for (const double each : std::as_const(all)) std::printf("\t%.1f", each);
+      std::printf("\n");
+      continue;
+    }
     std::sort(all.begin(), all.end());
     const double median = all[all.size() / 2];
     if (first == 0) first = median;

@@ -68,9 +68,9 @@ class SourcesTest : public QObject {
   }
 
   void everyScriptIsExecutable() {
-    for (const char* script :
-         {"run", "test", ".ci/run", "scripts/install-packages", "scripts/check-format",
-          "scripts/check-headers", "scripts/check-tidy", "scripts/draw-folders", "scripts/damage-files"})
+    for (const char* script : {"run", "test", ".ci/run", "scripts/install-packages", "scripts/check-format",
+                               "scripts/check-headers", "scripts/check-tidy", "scripts/draw-folders",
+                               "scripts/damage-files", "scripts/bench"})
       QVERIFY2(QFileInfo(QStringLiteral(NORVEX_SOURCE_DIR "/") + script).isExecutable(), script);
   }
 };

@@ -1,0 +1,44 @@
+"""The table: on the terminal, as JSON, and between the marks of a page."""
+import json
+import statistics
+
+HEAD = ["what", "", "beside", "ours", "theirs", "ratio", "best round", "processor", "goal", "met"]
+BEGIN, END = "<!-- written by scripts/bench -->", "<!-- end of what scripts/bench writes -->"
+
+
+def _cells(row):
+    ratio = row.ratio()
+    if ratio is None:
+        return [row.group, row.name, row.peer] + ["–"] * (len(HEAD) - 3)
+    sign = "≥" if row.more_is_better else "≤"
+    target = f"{sign} {row.target:g}" if row.target else "–"
+    met = {True: "yes", False: "no", None: "–"}[row.met()]
+    return [row.group, row.name, row.peer, f"{statistics.median(row.ours):.0f} {row.unit}",
+            f"{statistics.median(row.theirs):.0f} {row.unit}", f"{ratio:.2f}", f"{row.best():.2f}",
+            f"{row.work_ratio():.2f}" if row.work_ratio() else "–", target, met]
+
+
+
+
+def as_text(rows):
+    table = [HEAD] + [_cells(row) for row in rows]
+    widths = [max(len(line[column]) for line in table) for column in range(len(HEAD))]
+    return "\n".join("  ".join(cell.ljust(width) for cell, width in zip(line, widths)).rstrip() for line in table)
+
+
+def as_markdown(rows):
+    lines = ["| " + " | ".join(HEAD) + " |", "|" + "---|" * len(HEAD)]
+    return "\n".join(lines + ["| " + " | ".join(_cells(row)) + " |" for row in rows])
+
+
+def write_json(path, rows, machine):
+    path.write_text(json.dumps({"machine": machine, "rows": [row.as_json() for row in rows]}, indent=1) + "\n")
+
+
+def write_page(path, text):
+    """What stands between the marks becomes `text`; the rest of the page is somebody's words."""
+    page = path.read_text()
+    if BEGIN not in page or END not in page:
+        raise SystemExit(f"{path}: the marks between which the table belongs are missing")
+    before, _, rest = page.partition(BEGIN)
+    path.write_text(before + BEGIN + "\n" + text.strip() + "\n" + END + rest.partition(END)[2])

@@ -15,7 +15,7 @@
 namespace norvex {
 namespace {
 
-constexpr int kIconMs = 600;  ///< behind the first picture of a quick start
+constexpr int kIconMs = 400;  ///< behind the first picture of a quick start
 
 QtMessageHandler earlierHandler = nullptr;
 

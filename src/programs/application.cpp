@@ -12,6 +12,7 @@
 #include "application/desktop_service.h"
 #include "application/document_application.h"
 #include "application/string_tables.h"
+#include "base/start_trace.h"
 #include "base/system_log.h"
 #include "cli/archive/archive_job.h"
 #include "cli/arguments/command_table.h"
@@ -57,6 +58,7 @@ int runWindows(int argc, char** argv, WorkerService& worker) {
   // The application object waits for the display most of its time; the first text waits for the fonts.
   std::thread fonts([] { (void)FcInit(); });
   Application application(argc, argv);
+  traceStep("application object made");
   fonts.join();
   installStringTables();
   setConfinementWords(toldConfinement);

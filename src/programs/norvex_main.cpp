@@ -8,11 +8,13 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "base/open_files.h"
 #include "base/remove_folder.h"
+#include "base/start_trace.h"
 #include "cli/arguments/command_table.h"
 #include "picture/client/spawned_worker.h"
 #include "programs/application_entry.h"
@@ -49,6 +51,15 @@ bool mayOpenFiles() {
                static_cast<unsigned long long>(mostOpenFiles()),
                static_cast<unsigned long long>(fewestOpenFiles));
   return false;
+}
+
+/// In front of everything else, and known to nobody but who reads this: --trace-start tells the steps to the
+/// first picture.
+void takeTraceSwitch(int& argc, char** argv) {
+  if (argc < 2 || argv[1] != std::string_view("--trace-start")) return;
+  ::setenv(norvex::traceVariable, std::to_string(norvex::traceClock()).c_str(), 1);
+  std::rotate(argv + 1, argv + 2, argv + argc);  // what follows takes its place
+  argv[--argc] = nullptr;
 }
 
 /// Questions about the program itself need no picture process.
@@ -95,6 +106,7 @@ void becomeSandboxStatus() {
 
 int main(int argc, char** argv) {
   using namespace norvex;
+  takeTraceSwitch(argc, argv);
   occupyStandardStreams();
   outliveWrites();
   if (!mayOpenFiles()) return kLimitReached;
@@ -103,6 +115,7 @@ int main(int argc, char** argv) {
   if (mayNeedPictures(argc, argv))
     started = startPrograms(expectedPictures(argc, argv),
                             {expectPostScript(argc, argv), expectLonePicture(argc, argv)});
+  traceStep("picture process started");
   const char* part = partFor(argc, argv);
   void* application = ::dlopen(partOfProgram(part).c_str(), RTLD_LAZY | RTLD_LOCAL);
   void* entry = application == nullptr ? nullptr : ::dlsym(application, kApplicationEntry);
@@ -112,6 +125,8 @@ int main(int argc, char** argv) {
     removeFolder(started.worker.scratchRoot);
     return kNotLoaded;
   }
+  traceStep("application loaded");
   const int code = reinterpret_cast<ApplicationEntry*>(entry)(argc, argv, &started);
+  traceStep("ended");
   return part == std::string_view(kCommands) ? leave(code) : code;
 }

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QWindowStateChangeEvent>
 
+#include "base/start_trace.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
 #include "ui/controls/color_well.h"
@@ -96,6 +97,7 @@ void MainWindowController::loadWindow() {
                    ui_->encodingNote, ui_->guessForm});
   if (savedTouchBarIsShown()) showTouchBar(true);
   sizing_.restoreFrame();
+  traceStep("window built");
 }
 
 void MainWindowController::takeOutlets() {
@@ -164,6 +166,7 @@ void MainWindowController::showWindow() {
   shown->show();
   shown->raise();
   shown->activateWindow();
+  traceStep("window shown");
 }
 
 void MainWindowController::windowDidLoad() {

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "base/remove_folder.h"
+#include "base/start_trace.h"
 #include "protocol/control_descriptor.h"
 #include "worker/confinement/confinement_status.h"
 #include "worker/confinement/file_view.h"
@@ -67,6 +68,7 @@ ForkServer::ChildMain documentChild(const WorkerEngines& engines, const Confinem
 }
 
 int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const ConfinementLayers& layers) {
+  traceStep("norvex-worker linked");
   clearEnvironment();
   if (argc == 2 && std::string_view(argv[1]) == "--sandbox-status") return tellConfinement();
   InterpreterProgram interpreter(argc > 1 ? argv[1] : "");
@@ -76,7 +78,9 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
       expected != 0)
     (void)engines.source(expected & allPictureNeeds);
+  traceStep("norvex-worker has its engines");
   const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
+    traceStep("norvex-worker asked for a picture's process");
     if (request.postScript) interpreter.start();
     const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
     // The first child of all, when it asks for an interpreter, loads what it needs itself meanwhile.
@@ -91,6 +95,7 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
 
 int runPictureProgram(const EngineSet& engines) {
   if (!hasControlSocket()) return startedByHand("norvex-picture");
+  traceStep("norvex-picture linked");
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   std::signal(SIGPIPE, SIG_IGN);
   ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);

@@ -1,4 +1,6 @@
 // The programs and their parts: where they are looked for, and what happens when one of them is not there.
+#include <QMap>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "kit/program.h"
@@ -76,6 +78,41 @@ class PartsTest : public QObject {
                qPrintable(part));  // its name, to load it by, but no link to it
       if (part != "norvex-application.so") QVERIFY2(!names.contains("libQt6Widgets.so"), qPrintable(part));
     }
+  }
+
+  void theStepsOfAStartAreToldInTheirOrder_data() {
+    QTest::addColumn<QString>("sample");
+    QTest::addColumn<QStringList>("ours");
+    QTest::addColumn<QStringList>("theirs");
+    const QStringList ours{"picture process started", "application loaded", "facts came", "first answer came",
+                           "ended"};
+    QTest::newRow("a program that forks")
+        << "lighthouse.eps" << ours
+        << QStringList{"norvex-worker linked", "norvex-worker has its engines",
+                       "norvex-worker asked for a picture's process"};
+    QTest::newRow("a process of its own") << "lighthouse.svg" << ours << QStringList{"norvex-picture linked"};
+  }
+  void theStepsOfAStartAreToldInTheirOrder() {
+    QFETCH(QString, sample);
+    QFETCH(QStringList, ours);
+    QFETCH(QStringList, theirs);
+    const QStringList arguments{"convert", kit::sample(sample), "-o", path("out.png"), "--quiet"};
+    const Ran ran = kit::norvex(QStringList{"--trace-start"} + arguments);
+    QCOMPARE(ran.exitCode, 0);
+    static const QRegularExpression line("^trace ([0-9]+) ([0-9.]+) ms: (.+)$");
+    QMap<QString, QStringList> steps;
+    QMap<QString, double> last;
+    for (const QByteArray& each : ran.err.trimmed().split('\n')) {
+      const QRegularExpressionMatch told = line.match(QString::fromUtf8(each));
+      QVERIFY2(told.hasMatch(), each.constData());
+      QVERIFY(told.captured(2).toDouble() >= last.value(told.captured(1)));
+      last[told.captured(1)] = told.captured(2).toDouble();
+      steps[told.captured(1)] << told.captured(3);
+    }
+    QCOMPARE(steps.size(), 2);
+    QVERIFY2(steps.values().contains(ours), ran.err.constData());
+    QVERIFY2(steps.values().contains(theirs), ran.err.constData());
+    QCOMPARE(kit::norvex(arguments + QStringList{"--force"}).err, QByteArray());
   }
 
   void aMissingEngineIsToldInOneSentence_data() {

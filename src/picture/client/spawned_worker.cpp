@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "base/remove_folder.h"
+#include "base/start_trace.h"
 #include "protocol/control_descriptor.h"
 
 extern char** environ;
@@ -121,7 +122,7 @@ SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected, Wor
 
 SpawnedPicture spawnPicture(const std::string& program, PictureNeeds needs) {
   // The linker's complaint is told in a sentence by the program that is then started instead.
-  Spawned spawned = spawn(program, {}, Messages::Nowhere);
+  Spawned spawned = spawn(program, {}, traceOrigin() == 0 ? Messages::Nowhere : Messages::LikeOurs);
   return {spawned.pid, std::move(spawned.pidfd), std::move(spawned.connection), needs};
 }
 

@@ -1,5 +1,6 @@
 #include "picture/client/worker_client.h"
 
+#include "base/start_trace.h"
 #include "picture/client/worker_answers.h"
 #include "protocol/limits.h"
 #include "protocol/program_stop.h"
@@ -74,6 +75,7 @@ Result<PictureFacts> WorkerClient::finishOpening(const CancelToken& cancel) {
   // answer.
   const bool answered = answer.ok();
   Result<PictureFacts> facts = answer ? distrusted(factsFrom(std::move(*answer))) : answer.error();
+  traceStep("facts came");
   opening_ = 0;
   if (!facts) connection_.reset();  // also after an obeyed cancel: the document is not open there
   if (answered && (facts || isFinal(facts.error().kind))) {
@@ -114,6 +116,7 @@ Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& canc
   const Result<quint32> id = connection_->post(std::move(body), memory);
   if (!id) return id.error();
   Result<WorkerAnswer> answer = connection_->wait(*id, deadline(), cancel);
+  traceStep("first answer came");
   if (!answer && !connection_->isUsable()) connection_.reset();
   return answer;
 }

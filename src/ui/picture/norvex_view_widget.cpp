@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/start_trace.h"
 #include "ui/picture/selection_label.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/style/checkerboard.h"
@@ -199,6 +200,7 @@ void NorvexViewWidget::paintEvent(QPaintEvent* event) {
     view_.drawRect(painter, dirty, DrawingDestination::Screen);
     painter.resetTransform();
     drawLabel(painter);
+    traceStep("view painted");
   }
   painting_ = false;
   emit drawn(static_cast<double>(clock.nsecsElapsed()) / 1e6);

@@ -2,9 +2,10 @@
 
 #include "base/time_limit.h"
 #include "cli/input_file.h"
+#include "metadata/dos_eps_header.h"
 #include "metadata/eps_resources.h"
-#include "metadata/other_preview.h"
 #include "metadata/pdf_header.h"
+#include "picture/embedded_preview.h"
 #include "picture/eps_image_rep.h"
 #include "picture/picture_header.h"
 #include "picture/process/null_picture_service.h"
@@ -29,6 +30,19 @@ QString nameOf(DocumentKind kind) {
   return QStringLiteral("other");
 }
 
+// The header has no place for one within the program of a binary file, nor for a Windows metafile.
+void tellOtherPreview(DocumentInfo& info, const Result<std::optional<NSBitmapImageRep>>& preview,
+                      qsizetype metafileBytes) {
+  if (!preview) info.warnings << preview.error().message;
+  if (!preview || !*preview) return;
+  const QString kind = metafileBytes > 0 ? QStringLiteral("a Windows metafile of %1 bytes").arg(metafileBytes)
+                                         : QStringLiteral("an interchange preview");
+  info.warnings << QStringLiteral("the embedded preview is %1, drawn with %2 × %3 pixels")
+                       .arg(kind)
+                       .arg((*preview)->pixelsWide)
+                       .arg((*preview)->pixelsHigh);
+}
+
 void readEps(DocumentInfo& info, PictureService& service, const QByteArray& bytes,
              const PictureLimits& limits, const CancelToken& cancel) {
   const TiffDecoder decodeTiff = [&](const QByteArray& tiff) -> std::optional<NSBitmapImageRep> {
@@ -40,7 +54,7 @@ void readEps(DocumentInfo& info, PictureService& service, const QByteArray& byte
   info.header = pictureHeader(PictureKind::Eps, bytes, PictureFacts(), decodeTiff);
   info.guessed = guessedHeader(bytes, info.header);
   if (!info.header.contains(header::Preview) && info.warnings.isEmpty())
-    if (const auto other = otherPreview(bytes); !other) info.warnings << other.error().message;
+    tellOtherPreview(info, embeddedPreview(service, bytes, cancel, limits), metafileOf(bytes).size());
   // The header is all that the representation reads; without a service it starts no process for the drawing.
   NullPictureService undrawn;
   const auto rep = NSEPSImageRep::imageRepWithData(undrawn, bytes);

@@ -35,6 +35,12 @@ QByteArrayView tiffSection(QByteArrayView source, const DosEpsHeader& header, qs
   return section(source, start, header.tiffOffset, header.tiffLength);
 }
 
+QByteArrayView metafileOf(QByteArrayView source) {
+  const qsizetype start = source.startsWith("\xEF\xBB\xBF") ? 3 : 0;
+  const auto header = dosEpsHeader(source, start);
+  return header ? section(source, start, header->metafileOffset, header->metafileLength) : QByteArrayView();
+}
+
 QByteArrayView postScriptOf(QByteArrayView source) {
   const qsizetype start = source.startsWith("\xEF\xBB\xBF") ? 3 : 0;
   const auto header = dosEpsHeader(source, start);

@@ -36,6 +36,9 @@ inline constexpr qsizetype dosEpsMinimumBytes = 31;
 [[nodiscard]] QByteArrayView tiffSection(QByteArrayView source, const DosEpsHeader& header,
                                          qsizetype start = 0);
 
+/// The section of a Windows metafile in any source, cut at its end; empty when there is none. Borrowed.
+[[nodiscard]] QByteArrayView metafileOf(QByteArrayView source);
+
 /// The PostScript of any EPS source, plain or binary, byte-order mark left out. Borrowed from `source`.
 [[nodiscard]] QByteArrayView postScriptOf(QByteArrayView source);
 

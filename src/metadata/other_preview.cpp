@@ -14,9 +14,8 @@ std::optional<Error> sectionObstacle(QByteArrayView source) {
   if (!header) return std::nullopt;
   if (header->tiffLength > 0 && tiffSection(source, *header, start).isEmpty())
     return Error{ErrorKind::NotParsable, QStringLiteral("the embedded preview lies outside of the file")};
-  if (header->tiffLength == 0 && header->metafileLength > 0)
-    return Error{ErrorKind::Unsupported,
-                 QStringLiteral("the embedded preview is a Windows metafile, which cannot be shown")};
+  if (header->tiffLength == 0 && header->metafileLength > 0 && metafileOf(source).isEmpty())
+    return Error{ErrorKind::NotParsable, QStringLiteral("the embedded preview lies outside of the file")};
   return std::nullopt;
 }
 

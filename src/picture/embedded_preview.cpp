@@ -1,5 +1,6 @@
 #include "picture/embedded_preview.h"
 
+#include "metadata/dos_eps_header.h"
 #include "metadata/eps_header.h"
 #include "metadata/other_preview.h"
 
@@ -17,7 +18,14 @@ Result<std::optional<NSBitmapImageRep>> embeddedPreview(PictureService& service,
         return std::nullopt;
       });
   if (unreadable) return *unreadable;
-  if (!dictionary.contains(header::Preview)) return otherPreview(bytes);
+  if (!dictionary.contains(header::Preview)) {
+    Result<std::optional<NSBitmapImageRep>> other = otherPreview(bytes);
+    const QByteArrayView metafile = metafileOf(bytes);
+    if (!other || *other || metafile.isEmpty()) return other;
+    Result<NSBitmapImageRep> drawn = service.decodePreview(metafile.toByteArray(), cancel, limits);
+    if (!drawn) return drawn.error();
+    return std::optional(std::move(*drawn));
+  }
   return std::optional(dictionary.value(header::Preview).value<NSBitmapImageRep>());
 }
 

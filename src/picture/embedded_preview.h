@@ -12,8 +12,8 @@
 
 namespace norvex {
 
-/// The preview of an EPS file; nothing when there is none. A TIFF is decoded by a picture
-/// process, for which this blocks; no PostScript is run. Thread-safe.
+/// The preview of an EPS file; nothing when there is none. A TIFF or a Windows metafile is
+/// decoded by a picture process, for which this blocks; no PostScript is run. Thread-safe.
 [[nodiscard]] Result<std::optional<NSBitmapImageRep>> embeddedPreview(
     PictureService& service, const QByteArray& bytes, const CancelToken& cancel = {},
     const PictureLimits& limits = toolLimits());

@@ -3,10 +3,10 @@
 #include <fontconfig/fontconfig.h>
 
 #include "worker/engine_modules.h"
+#include "worker/every_engine/decode_preview.h"
 #include "worker/every_engine/open_document.h"
 #include "worker/pages/compose_pages.h"
 #include "worker/pdf/pdf_attributes.h"
-#include "worker/tiff/tiff_preview.h"
 
 namespace norvex {
 namespace {
@@ -20,7 +20,7 @@ void warmUpFonts() {
 template <PictureNeeds offers>
 void offer(EngineSet& engines) {
   engines.open = engine::openOffered<offers>;
-  if constexpr ((offers & NeedPreviews) != 0) engines.decodePreview = engine::decodeTiff;
+  if constexpr ((offers & NeedPreviews) != 0) engines.decodePreview = engine::decodePreview;
   if constexpr ((offers & (NeedPages | NeedSvgPdf)) != 0)
     engines.setPdfAttributes = engine::withPdfAttributes;
   if constexpr ((offers & NeedSheets) != 0) engines.composePages = engine::composePages;

@@ -148,12 +148,25 @@ class SourceTest : public QObject {
     QCOMPARE(told(QByteArray(kEpsi).replace("8 2 1 2", "8 2 3 2")), "the embedded preview is malformed");
     QCOMPARE(told(QByteArray(kEpsi).replace("8 2 1 2", "65536 65536 8 2")),
              "the embedded preview is too large");
+    QVERIFY(!line.entries().contains("out.png"));
+  }
+
+  void aMetafileIsDrawnByTheService() {
+    CommandLine line;
     QByteArray binary("\xC5\xD0\xD3\xC6", 4);
     for (const quint32 value : {38u, quint32(kEps.size()), 30u, 8u, 0u, 0u})
       for (int shift = 0; shift < 32; shift += 8) binary.append(char(value >> shift));
-    QCOMPARE(told(binary + "\xFF\xFFmetafile" + kEps),
-             "the embedded preview is a Windows metafile, which cannot be shown");
-    QVERIFY(!line.entries().contains("out.png"));
+    const QString file = line.write("a.eps", binary + "\xFF\xFFmetafile" + kEps);
+    NSBitmapImageRep rep;
+    rep.pixelsWide = rep.pixelsHigh = rep.bytesPerRow = 1;
+    rep.colorSpaceName = NSCalibratedWhiteColorSpace;
+    rep.data = "x";
+    line.service.setPreview(rep);
+    QCOMPARE(line.run({"preview", file, "-o", line.path("out.png")}), 0);
+    QVERIFY(line.contents("out.png").startsWith("\x89PNG"));
+    line.service.setPreview(Error{ErrorKind::NotParsable, "the embedded Windows metafile is damaged"});
+    QCOMPARE(line.run({"preview", file, "-o", line.path("again.png")}), 3);
+    QVERIFY(line.console.messages.contains("the embedded Windows metafile is damaged"));
   }
 
   void aPreviewIsFoundInASourceOfNoEncoding() {

@@ -20,6 +20,7 @@ struct Target {
 [[nodiscard]] QList<Target> checkTargets();
 [[nodiscard]] QList<Target> fontsTargets();
 [[nodiscard]] QList<Target> metadataTargets();
+[[nodiscard]] QList<Target> metafileTargets();
 [[nodiscard]] QList<Target> pdfTargets();
 [[nodiscard]] QList<Target> postscriptTargets();
 [[nodiscard]] QList<Target> printTargets();

@@ -18,9 +18,9 @@ namespace {
 
 const QList<Target>& allTargets() {
   static const QList<Target> all = fuzz::argumentsTargets() + fuzz::checkTargets() + fuzz::fontsTargets() +
-                                   fuzz::metadataTargets() + fuzz::pdfTargets() + fuzz::postscriptTargets() +
-                                   fuzz::printTargets() + fuzz::protocolTargets() + fuzz::svgTargets() +
-                                   fuzz::tiffTargets();
+                                   fuzz::metadataTargets() + fuzz::metafileTargets() + fuzz::pdfTargets() +
+                                   fuzz::postscriptTargets() + fuzz::printTargets() +
+                                   fuzz::protocolTargets() + fuzz::svgTargets() + fuzz::tiffTargets();
   return all;
 }
 
@@ -78,7 +78,7 @@ class TargetsTest : public QObject {
                              "svg_stretching",   "tiff_preview",   "print_settings",
                              "arguments",        "eps_header",     "bounding_box",
                              "source_text",      "text_encoding",  "type_identification",
-                             "eps_source",       "procedure_sets", "page_text"})
+                             "eps_source", "procedure_sets", "page_text", "metafile_preview"})
       QVERIFY2(names.remove(name), name);
     QVERIFY(names.isEmpty());
   }

@@ -1,6 +1,8 @@
 // Previews outside of the header dictionary, and why one is not shown.
 #include "metadata/other_preview.h"
 
+#include "metadata/dos_eps_header.h"
+
 #include "kit/test_main.h"
 #include "metadata/binary_eps.h"
 
@@ -28,11 +30,21 @@ class OtherPreviewTest : public QObject {
       QVERIFY(!*preview);
     }
   }
+  void aMetafileIsLeftToThoseWhoDrawIt() {
+    const auto preview = otherPreview(withMetafile(kProgram));
+    QVERIFY(preview);
+    QVERIFY(!*preview);
+    QCOMPARE(metafileOf(withMetafile(kProgram)), "metafile");
+    QVERIFY(metafileOf(testdata::binaryEps(kProgram)).isEmpty());
+    QVERIFY(metafileOf(kProgram).isEmpty());
+  }
   void whyItIsNotShown_data() {
     QTest::addColumn<QByteArray>("source");
     QTest::addColumn<QString>("sentence");
-    QTest::newRow("metafile") << withMetafile(kProgram)
-                              << "the embedded preview is a Windows metafile, which cannot be shown";
+    QTest::newRow("a metafile outside")
+        << testdata::binaryEps(kProgram).replace(12, 8,
+                                                 testdata::littleEndian(5000) + testdata::littleEndian(8))
+        << "the embedded preview lies outside of the file";
     QTest::newRow("outside") << testdata::dosHeader(30, 4, 5000, 10) + kProgram
                              << "the embedded preview lies outside of the file";
     QTest::newRow("malformed") << kProgram + "%%BeginPreview: 8 x\n%FF\n"

@@ -1,0 +1,140 @@
+// What changes the state of a metafile's drawing: its window, colours, clip, and the objects that it selects.
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "worker/metafile/metafile_drawing.h"
+#include "worker/metafile/metafile_functions.h"
+
+namespace norvex::engine {
+namespace {
+
+constexpr size_t kMostObjects = 65536;  // an index is a word
+constexpr size_t kMostSaved = 1024;
+
+Argb32 colourOf(quint32 colorRef) {
+  return 0xFF000000 | (colorRef & 0xFF) << 16 | (colorRef & 0xFF00) | (colorRef >> 16 & 0xFF);
+}
+
+}  // namespace
+
+bool MetafileDrawing::setState(quint16 function, Words& words) {
+  switch (function) {
+    case SetWindowOrg:
+      state_.origin.setY(words.signedWord()), state_.origin.setX(words.signedWord());
+      applyMatrix();
+      return true;
+    case SetWindowExt: {
+      const int height = words.signedWord(), width = words.signedWord();
+      if (width != 0 && height != 0) state_.extent = {width, height};
+      applyMatrix();
+      return true;
+    }
+    case SetTextColor:
+      state_.textColour = colourOf(words.doubleWord());
+      return true;
+    case SetTextAlign:
+      state_.textAlign = words.unsignedWord();
+      return true;
+    case SetPolyFillMode:
+      state_.fillsByWinding = words.unsignedWord() == 2;
+      return true;
+    case SaveDC:
+      if (saved_.size() < kMostSaved) saved_.push_back(state_), cairo_save(context_);
+      return true;
+    case RestoreDC:
+      restore(words.signedWord());
+      return true;
+    case IntersectClipRect: {
+      const QRectF box = boxOf(words);
+      cairo_rectangle(context_, box.x(), box.y(), box.width(), box.height());
+      cairo_clip(context_);
+      return true;
+    }
+    case SelectObject:
+      select(words.unsignedWord());
+      return true;
+    default:
+      return false;
+  }
+}
+
+void MetafileDrawing::restore(int level) {
+  size_t remaining = level < 0 ? saved_.size() - std::min(saved_.size(), size_t(-level))
+                               : std::min(saved_.size(), size_t(std::max(0, level - 1)));
+  while (saved_.size() > remaining) {
+    state_ = saved_.back();
+    saved_.pop_back();
+    cairo_restore(context_);
+  }
+  applyMatrix();
+}
+
+bool MetafileDrawing::makeObject(quint16 function, Words& words) {
+  switch (function) {
+    case CreatePen: {
+      MetafilePen pen;
+      pen.style = words.unsignedWord() & 0xF;
+      pen.width = std::abs(words.signedWord());
+      words.signedWord();
+      pen.colour = colourOf(words.doubleWord());
+      add(pen);
+      return true;
+    }
+    case CreateBrush: {
+      const int style = words.unsignedWord();
+      add(MetafileBrush{style != 1, colourOf(words.doubleWord())});
+      return true;
+    }
+    case CreateFont: {
+      MetafileFont font;
+      font.height = words.signedWord();
+      words.signedWord();
+      font.angle = words.signedWord() / 10.0;
+      words.signedWord();
+      font.isBold = words.signedWord() > 500;
+      font.isItalic = (words.unsignedWord() & 0xFF) != 0;
+      words.text(6);
+      const QByteArrayView face = words.rest().first(std::min<qsizetype>(32, words.rest().size()));
+      font.face =
+          face.first(std::max<qsizetype>(0, face.indexOf('\0') < 0 ? face.size() : face.indexOf('\0')))
+              .toByteArray();
+      add(font);
+      return true;
+    }
+    case CreatePatternBrush:
+    case CreateDibPatternBrush:
+      add(MetafileBrush{true, 0xFF808080});
+      return true;
+    case CreatePalette:
+    case CreateRegion:
+      add(MetafileOther{});
+      return true;
+    case DeleteObject:
+      if (const size_t index = words.unsignedWord(); index < objects_.size())
+        objects_[index] = std::monostate();
+      return true;
+    default:
+      return false;
+  }
+}
+
+void MetafileDrawing::add(MetafileObject object) {
+  const auto free = std::find_if(objects_.begin(), objects_.end(), [](const MetafileObject& place) {
+    return std::holds_alternative<std::monostate>(place);
+  });
+  if (free != objects_.end())
+    *free = std::move(object);
+  else if (objects_.size() < kMostObjects)
+    objects_.push_back(std::move(object));
+}
+
+void MetafileDrawing::select(quint16 index) {
+  if (index >= objects_.size()) return;
+  const MetafileObject& object = objects_[index];
+  if (const auto* pen = std::get_if<MetafilePen>(&object)) state_.pen = *pen;
+  if (const auto* brush = std::get_if<MetafileBrush>(&object)) state_.brush = *brush;
+  if (const auto* font = std::get_if<MetafileFont>(&object)) state_.font = *font;
+}
+
+}  // namespace norvex::engine

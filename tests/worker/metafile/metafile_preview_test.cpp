@@ -1,0 +1,177 @@
+// Metafiles made here, pixel by pixel.
+#include "worker/metafile/metafile_preview.h"
+
+#include "kit/test_main.h"
+#include "worker/kit/made_metafile.h"
+#include "worker/metafile/metafile_records.h"
+
+using namespace norvex;
+using namespace norvex::engine;
+using kit::madeMetafile;
+using kit::metafileRecord;
+
+namespace {
+
+// Objects 0, 1 and 2 of a file: a red brush, no pen, a blue pen of 4 units.
+const QByteArray kObjects = metafileRecord(0x2FC, {0, 0x00FF, 0, 0}) +
+                            metafileRecord(0x2FA, {5, 0, 0, 0, 0}) +
+                            metafileRecord(0x2FA, {0, 4, 0, 0, 0x00FF});
+QByteArray selected(int index) {
+  return metafileRecord(0x12D, {index});
+}
+const QByteArray kFill = kObjects + selected(0) + selected(1);
+
+QByteArray pixel(const NSBitmapImageRep& image, int x, int y) {
+  return image.data.mid(qsizetype(y) * image.bytesPerRow + 3 * x, 3).toHex();
+}
+
+// 2 × 2 pixels of 24 bits, bottom row first: blue, white; top row: red, green.
+QByteArray bitmap() {
+  return kit::words({40, 0, 2, 0, 2, 0, 1, 24, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}) + QByteArray::fromHex(
+                                                                                          "ff0000ffffff0000"
+                                                                                          "0000ff00ff000000");
+}
+
+const QByteArray kRed = "ff0000", kGreen = "00ff00", kBlue = "0000ff", kWhite = "ffffff", kBlack = "000000";
+
+}  // namespace
+
+class MetafilePreviewTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void recordsAreDrawn_data() {
+    QTest::addColumn<QByteArray>("records");
+    QTest::addColumn<QList<QPoint>>("places");
+    QTest::addColumn<QList<QByteArray>>("colours");
+    const auto row = [](const char* name, const QByteArray& records, const QList<QPoint>& places,
+                        const QList<QByteArray>& colours) {
+      QTest::newRow(name) << records << places << colours;
+    };
+    row("nothing", "", {{0, 0}, {39, 29}}, {kWhite, kWhite});
+    row("rectangle", kFill + metafileRecord(0x41B, {20, 30, 5, 10}), {{11, 6}, {29, 19}, {9, 6}, {31, 19}},
+        {kRed, kRed, kWhite, kWhite});
+    row("ellipse", kFill + metafileRecord(0x418, {25, 30, 5, 10}), {{20, 15}, {11, 6}}, {kRed, kWhite});
+    row("rounded rectangle", kFill + metafileRecord(0x61C, {8, 8, 25, 30, 5, 10}),
+        {{20, 15}, {10, 5}, {20, 6}}, {kRed, kWhite, kRed});
+    row("polygon", kFill + metafileRecord(0x324, {3, 0, 0, 40, 0, 0, 30}), {{5, 5}, {35, 25}},
+        {kRed, kWhite});
+    row("polygons with a hole",
+        kFill + metafileRecord(0x538, {2, 4, 4, 0, 0, 40, 0, 40, 30, 0, 30, 10, 10, 20, 10, 20, 20, 10, 20}),
+        {{5, 5}, {15, 15}}, {kRed, kWhite});
+    row("filled by winding",
+        kFill + metafileRecord(0x106, {2}) +
+            metafileRecord(0x538, {2, 4, 4, 0, 0, 40, 0, 40, 30, 0, 30, 10, 10, 20, 10, 20, 20, 10, 20}),
+        {{5, 5}, {15, 15}}, {kRed, kRed});
+    row("pie", kFill + metafileRecord(0x81A, {15, 40, 0, 20, 30, 40, 0, 0}), {{13, 8}, {27, 8}, {13, 24}},
+        {kRed, kWhite, kRed});
+    row("lines", kObjects + selected(2) + metafileRecord(0x214, {10, 5}) + metafileRecord(0x213, {10, 35}),
+        {{20, 9}, {20, 11}, {20, 14}}, {kBlue, kBlue, kWhite});
+    row("polyline", kObjects + selected(2) + metafileRecord(0x325, {2, 5, 10, 35, 10}), {{20, 10}, {20, 14}},
+        {kBlue, kWhite});
+    row("a deleted object's place is taken",
+        kObjects + metafileRecord(0x1F0, {0}) + metafileRecord(0x2FC, {0, 0xFF00, 0, 0}) + selected(0) +
+            selected(1) + metafileRecord(0x41B, {20, 30, 5, 10}),
+        {{20, 10}}, {kGreen});
+    row("clipped", kFill + metafileRecord(0x416, {30, 20, 0, 0}) + metafileRecord(0x41B, {30, 40, 0, 0}),
+        {{10, 10}, {30, 10}}, {kRed, kWhite});
+    row("saved and restored",
+        kFill + metafileRecord(0x1E, {}) + metafileRecord(0x416, {30, 20, 0, 0}) +
+            metafileRecord(0x127, {0xFFFF}) + metafileRecord(0x41B, {30, 40, 0, 0}),
+        {{10, 10}, {30, 10}}, {kRed, kRed});
+    row("another window", metafileRecord(0x20B, {-15, -20}) + kFill + metafileRecord(0x41B, {0, 0, -15, -20}),
+        {{5, 5}, {25, 5}, {5, 20}}, {kRed, kWhite, kWhite});
+    row("a bitmap", metafileRecord(0xF43, {0x20, 0xCC, 0, 2, 2, 0, 0, 20, 20, 5, 10}, bitmap()),
+        {{12, 7}, {28, 7}, {12, 23}, {28, 23}, {5, 7}}, {kRed, kGreen, kBlue, kWhite, kWhite});
+    row("a part of one", metafileRecord(0xB41, {0x20, 0xCC, 1, 1, 1, 0, 20, 20, 5, 10}, bitmap()),
+        {{12, 7}, {28, 23}, {32, 7}}, {kRed, kRed, kWhite});
+    row("bars", kFill + metafileRecord(0x61D, {0x21, 0xF0, 10, 10, 5, 5}), {{7, 7}, {17, 7}}, {kRed, kWhite});
+  }
+  void recordsAreDrawn() {
+    QFETCH(QByteArray, records);
+    QFETCH(QList<QPoint>, places);
+    QFETCH(QList<QByteArray>, colours);
+    const auto image = decodeMetafile(madeMetafile(records), {});
+    QVERIFY2(image.ok(), image ? "" : qPrintable(image.error().message));
+    QVERIFY(image->isConsistent());
+    QCOMPARE(QSize(image->pixelsWide, image->pixelsHigh), QSize(40, 30));
+    for (int i = 0; i < places.size(); ++i) {
+      QVERIFY2(pixel(*image, places[i].x(), places[i].y()) == colours[i],
+               qPrintable(QStringLiteral("at %1, %2: %3")
+                              .arg(places[i].x())
+                              .arg(places[i].y())
+                              .arg(QString::fromLatin1(pixel(*image, places[i].x(), places[i].y())))));
+    }
+  }
+
+  void bitmapsOfAPaletteAreRead() {
+    // 2 × 1 pixels of a bit: the second colour, the first.
+    const QByteArray two =
+        kit::words({40, 0, 2, 0, 1, 0, 1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 2, 0, 0, 0}) + QByteArray::fromHex(
+                                                                                        "00ff0000"
+                                                                                        "ff000000"
+                                                                                        "80000000");
+    const auto image = decodeMetafile(
+        madeMetafile(metafileRecord(0xF43, {0x20, 0xCC, 0, 1, 2, 0, 0, 30, 40, 0, 0}, two)), {});
+    QVERIFY(image.ok());
+    QCOMPARE(pixel(*image, 2, 15), kBlue);
+    QCOMPARE(pixel(*image, 37, 15), kGreen);
+  }
+
+  void textIsDark() {
+    const QByteArray font = metafileRecord(0x2FB, {-20, 0, 0, 0, 700, 0, 0, 0, 0}, QByteArray("Arial\0", 6));
+    const auto image =
+        decodeMetafile(madeMetafile(font + selected(0) + metafileRecord(0x521, {2, 0x4848, 2, 2})), {});
+    QVERIFY(image.ok());
+    QVERIFY(image->data.count('\0') > 100);
+  }
+
+  void aFrameTellsTheSize() {
+    const auto image =
+        decodeMetafile(kit::placeableMetafile(kFill + metafileRecord(0x41B, {115, 120, 100, 100})), {});
+    QVERIFY(image.ok());
+    QCOMPARE(image->pointsWide, 144.0);
+    QCOMPARE(image->pointsHigh, 108.0);
+    QCOMPARE(QSize(image->pixelsWide, image->pixelsHigh), QSize(288, 216));
+    QCOMPARE(pixel(*image, 10, 10), kRed);
+    QCOMPARE(pixel(*image, 200, 10), kWhite);
+  }
+
+  void whatIsDamagedIsTold_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("something else") << QByteArray("metafile, but none at all");
+    QTest::newRow("no size") << kit::words({1, 9, 0x300, 0, 0, 0, 0, 0, 0}) + metafileRecord(0, {});
+    QTest::newRow("a first record that goes beyond the end")
+        << kit::words({1, 9, 0x300, 0, 0, 0, 0, 0, 0}) + kit::words({500, 0, 0x20C, 30, 40});
+  }
+  void whatIsDamagedIsTold() {
+    QFETCH(QByteArray, bytes);
+    const auto image = decodeMetafile(bytes, {});
+    QVERIFY(!image.ok());
+    QCOMPARE(image.error().kind, ErrorKind::NotParsable);
+    QVERIFY(image.error().message.contains(QStringLiteral("metafile")));
+  }
+
+  void recordsThatAreCutShortAreHarmless() {
+    const QByteArray whole = kFill + metafileRecord(0x41B, {20, 30, 5, 10}) +
+                             metafileRecord(0xF43, {0x20, 0xCC, 0, 2, 2, 0, 0, 20, 20, 5, 10}, bitmap()) +
+                             metafileRecord(0x538, {2, 4, 9000, 0, 0, 40, 0, 40, 30});
+    const QByteArray file = madeMetafile(whole);
+    for (qsizetype cut = 0; cut <= file.size(); ++cut) {
+      const auto image = decodeMetafile(file.first(cut), {});
+      QVERIFY(!image.ok() || image->isConsistent());
+    }
+  }
+
+  void hugeExtentsAreMadeSmaller() {
+    const auto image = decodeMetafile(madeMetafile(metafileRecord(0x20C, {30000, 32000})), {});
+    QVERIFY(image.ok());
+    const auto huge = decodeMetafile(
+        kit::words({1, 9, 0x300, 0, 0, 0, 0, 0, 0}) + metafileRecord(0x20C, {30000, 32000}), {});
+    QVERIFY(huge.ok());
+    QCOMPARE(QSize(huge->pixelsWide, huge->pixelsHigh), QSize(2048, 1920));
+  }
+};
+
+NORVEX_TEST(MetafilePreviewTest)
+#include "metafile_preview_test.moc"

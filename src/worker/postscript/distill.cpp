@@ -20,15 +20,42 @@
 namespace norvex::engine {
 namespace {
 
+// What describes the document and does not draw cannot stop it: a pdfmark with wrong operands is left out,
+// with what stood above the operands below its mark, and told once.
+constexpr const char* kPdfmark =
+    "/pdfmark {\n"
+    "  { counttomark } stopped { count } { count exch sub 2 sub } ifelse\n"
+    "  //userdict /norvexBelow 3 -1 roll put\n"
+    "  { //systemdict /pdfmark get exec } stopped {\n"
+    "    $error /newerror false put\n"
+    "    { count //userdict /norvexBelow get le { exit } if pop } loop\n"
+    "    //userdict /norvexTold known not {\n"
+    "      //userdict /norvexTold true put\n"
+    "      (%stderr) (w) file dup (norvex-left-out: pdfmark -\\n) writestring flushfile } if\n"
+    "  } if } bind def\n";
+
+// A systemdict to write to, between the user's names and the interpreter's own, which nobody may change. It
+// holds the page as the prolog has it.
+constexpr const char* kWritableSystem =
+    "/systemdict //systemdict dup length 200 add dict copy def\n"
+    "[ /setpagedevice /defaultmatrix /initmatrix /initgraphics /quit /pdfmark ]\n"
+    "{ dup userdict exch get systemdict 3 1 roll put } forall\n"
+    "systemdict begin userdict begin\n";
+
+struct Program {
+  QByteArray text;
+  QByteArray sets;            ///< procedure sets that it names and does not bring
+  bool writesSystem = false;  ///< it redefines operators where the interpreter keeps them
+};
+
 // Runs before the document, whose program follows it in the same stream. The page is set once and for all:
 // what a document may do to it (setpagedevice) does nothing, and the operators that go back to the page's own
 // coordinates go back to the box's. The document runs inside `stopped`, so that its end is known: on an error
 // one line with the count of finished pages and the error's name is written, and without a page the one that
 // was begun is shown, from wherever the program had gone; otherwise a last showpage makes
 // up for a missing one (a page too many is dropped later). Names are bound early: documents redefine
-// operators. With `complete` the PDF is completed here and now, as a forked interpreter has it. `sets` are
-// procedure sets that the document names and does not bring.
-QByteArray prolog(const QRectF& box, const QByteArray& sets, bool complete) {
+// operators. With `complete` the PDF is completed here and now, as a forked interpreter has it.
+QByteArray prolog(const QRectF& box, const Program& program, bool complete) {
   const QByteArray offset = decimal(-box.x(), 6) + ' ' + decimal(-box.y(), 6);
   const QByteArray size = decimal(box.width(), 6) + ' ' + decimal(box.height(), 6);
   return "%!\n0 vmreclaim << /NeverEmbed [ ] >> setdistillerparams\n<< /PageSize [" + size +
@@ -36,28 +63,29 @@ QByteArray prolog(const QRectF& box, const QByteArray& sets, bool complete) {
          " translate\n"
          "userdict begin\n"
          "/setpagedevice { pop } def\n"
-         "/defaultmatrix { systemdict /defaultmatrix get exec " +
+         "/defaultmatrix { //systemdict /defaultmatrix get exec " +
          offset +
          " matrix translate exch dup concatmatrix } bind def\n"
          "/initmatrix { matrix defaultmatrix setmatrix } bind def\n"
-         "/initgraphics { systemdict /initgraphics get exec initmatrix } bind def\n"
-         "/quit { stop } bind def\n"
+         "/initgraphics { //systemdict /initgraphics get exec initmatrix } bind def\n"
+         "/quit { stop } bind def\n" +
+         kPdfmark +
          "/norvexPage gstate def\n"
          "end\n" +
-         sets +
-         "{ currentfile cvx stopped $error /newerror get and\n"
+         (program.writesSystem ? kWritableSystem : "") + program.sets +
+         "{ currentfile cvx stopped //userdict /systemdict undef $error /newerror get and\n"
          "  { { //userdict /norvexPage get setgstate } stopped pop\n"
          "    (%stderr) (w) file dup (norvex-error: ) writestring\n"
          "    dup currentpagedevice /PageCount get =string cvs writestring dup ( ) writestring\n"
          "    dup $error /errorname get =string cvs writestring dup ( ) writestring\n"
          "    dup $error /command get =string cvs writestring dup (\\n) writestring flushfile\n"
          "    clear currentpagedevice /PageCount get 0 eq\n"
-         "    { { systemdict /showpage get exec } stopped pop } if }\n"
-         "  { systemdict /showpage get exec } ifelse\n" +
+         "    { { //systemdict /showpage get exec } stopped pop } if }\n"
+         "  { //systemdict /showpage get exec } ifelse\n" +
          (complete ? QByteArray("  { << /OutputFile (") + distilledOutput +
-                         ") >> systemdict /setpagedevice get exec } stopped pop\n"
+                         ") >> //systemdict /setpagedevice get exec } stopped pop\n"
                    : QByteArray()) +
-         "  systemdict /quit get exec } bind exec\n";
+         "  //systemdict /quit get exec } bind exec\n";
 }
 
 struct ProgramError {
@@ -106,8 +134,7 @@ QStringList substitutions(const QByteArray& messages) {
 }
 
 // With the child that waits already, if there is one.
-Result<GhostscriptOutput> runDistiller(const QByteArray& postScript, const QRectF& box,
-                                       EngineContext& context) {
+Result<GhostscriptOutput> runDistiller(const Program& program, const QRectF& box, EngineContext& context) {
   while (true) {
     std::shared_ptr<GhostscriptChild> child = std::exchange(context.warmGhostscript, nullptr);
     if (!child) {
@@ -116,7 +143,7 @@ Result<GhostscriptOutput> runDistiller(const QByteArray& postScript, const QRect
       child = std::move(*started);
     }
     Result<GhostscriptOutput> run =
-        child->run({prolog(box, procedureSetsFor(postScript), child->isForked()), postScript}, context);
+        child->run({prolog(box, program, child->isForked()), program.text}, context);
     if (run || run.error().kind != ErrorKind::Unsupported || context.interpreters < 0) return run;
     context.interpreters = -1;  // nobody forks interpreters here: gs is started from now on
   }
@@ -144,9 +171,16 @@ Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box, bool unle
 }  // namespace
 
 Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
-  const Result<GhostscriptOutput> run = runDistiller(postScript, box, context);
+  Program program{postScript, procedureSetsFor(postScript), false};
+  Result<GhostscriptOutput> run = runDistiller(program, box, context);
   if (!run) return run.error();
-  const std::optional<ProgramError> stopped = programError(run->messages);
+  std::optional<ProgramError> stopped = programError(run->messages);
+  if (stopped && stopped->name == u"invalidaccess" && postScript.contains("systemdict")) {
+    program.writesSystem = true;
+    run = runDistiller(program, box, context);
+    if (!run) return run.error();
+    stopped = programError(run->messages);
+  }
   const bool unfinished = stopped && stopped->finishedPages == 0;
   if (unfinished && sentence(*stopped).kind != ErrorKind::NotParsable) return sentence(*stopped);
   if (!unfinished && (run->exitStatus != 0 || !run->output.startsWith("%PDF-"))) return unexplained(*run);

@@ -78,12 +78,13 @@ QStringList leftOut(const QByteArray& messages) {
     const char* about;
     const char* words;
   };
-  static constexpr std::array<Sentence, 6> sentences{{
+  static constexpr std::array<Sentence, 7> sentences{{
       {"operator", "the Illustrator operator %1 is not understood and was left out"},
       {"operands", "the Illustrator operator %1 was left out where its operands are not understood"},
       {"pattern", "the pattern %1 is not in the file in a form that is understood and was left out"},
       {"gradient", "the gradient %1 is not in the file: a plain colour stands for it"},
       {"placed", "the placed picture %1 is not in the file"},
+      {"pdfmark", "a pdfmark whose operands are wrong was left out"},
       {"drawing", "a part of the artwork could not be drawn (%1)"},
   }};
   static const QRegularExpression line(QStringLiteral("norvex-left-out: (\\w+) ([^\\n]*)\\n"));
@@ -95,7 +96,8 @@ QStringList leftOut(const QByteArray& messages) {
       return about == QLatin1String(candidate.about);
     });
     if (sentence == sentences.end() || result.size() == limits::maximumSubstitutions) continue;
-    result << QString::fromLatin1(sentence->words).arg(one.captured(2).simplified().left(60));
+    result << QString::fromLatin1(sentence->words)
+                  .replace(QStringLiteral("%1"), one.captured(2).simplified().left(60));
   }
   return result;
 }

@@ -16,7 +16,7 @@ namespace norvex::engine {
 /// PostScript that runs before `program` and defines what missingProcedureSets() finds, or nothing.
 [[nodiscard]] QByteArray procedureSetsFor(QByteArrayView program);
 
-/// What the procedure sets told on standard error to have left out of the picture, one sentence each.
+/// What the interpreter told on standard error that was left out of the picture, one sentence each.
 [[nodiscard]] QStringList leftOut(const QByteArray& messages);
 
 }  // namespace norvex::engine

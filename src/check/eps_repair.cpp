@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "check/comment_order.h"
 #include "check/eps_structure_rules.h"
 #include "check/file_wrapping.h"
 #include "check/program_lines.h"
@@ -60,7 +61,7 @@ QByteArray realNumbers(const QRectF& box) {
 class Mending {
  public:
   Mending(const QByteArray& program, const QRectF& box)
-      : program_(program), lines_(programLines(program)), box_(box) {
+      : program_(program), lines_(programLines(program)), misplaced_(misplacedComments(lines_)), box_(box) {
     if (!lines_.isEmpty()) newline_ = endOf(lines_.first());
   }
 
@@ -89,7 +90,7 @@ class Mending {
     for (body_ = hasFirst ? 1 : 0; body_ < lines_.size() && isHeader(lines_[body_]); ++body_) {
       const ProgramLine& line = lines_[body_];
       ended = isComment(line, "%%EndComments");
-      if (ended || beginsSection(line)) break;
+      if (ended || endsHeader(line)) break;
       if (!isBox(line)) append(line, body_);
     }
     if (ended)
@@ -124,7 +125,7 @@ class Mending {
   [[nodiscard]] qsizetype trailerLine() const {
     for (const char* keyword : {"%%Trailer", "%%EOF"})
       for (qsizetype i = lines_.size() - 1; i >= body_; --i)
-        if (lines_[i].part == LinePart::Program && isComment(lines_[i], keyword)) return i;
+        if (isStructure(lines_[i]) && isComment(lines_[i], keyword) && !misplaced_.contains(i)) return i;
     return lines_.size();
   }
 
@@ -142,6 +143,7 @@ class Mending {
         changed(QStringLiteral("a second %%EndComments was left out"));
         continue;
       }
+      if (isLeftOut(i)) continue;
       append(line, i);
     }
     if (!showsPage(lines_)) {
@@ -150,6 +152,14 @@ class Mending {
       changed(QStringLiteral("showpage was put in"));
     }
     writeTrailer(trailer);
+  }
+
+  /// A comment is no part of the drawing; where it must not stand, it does not structure the document either.
+  bool isLeftOut(qsizetype number) {
+    if (!misplaced_.contains(number)) return false;
+    changed(QStringLiteral("%1 was left out, because it stood out of order")
+                .arg(nameOfPlace(placeOf(lines_[number]))));
+    return true;
   }
 
   void append(const ProgramLine& line, qsizetype number) {
@@ -167,6 +177,7 @@ class Mending {
         changed(QStringLiteral("the box at the end of the file stands in its header"));
         continue;
       }
+      if (isLeftOut(i)) continue;
       append(lines_[i], i);
       ended = isComment(lines_[i], "%%EOF");
       // What a program keeps behind the document for itself is of use to it.
@@ -181,6 +192,7 @@ class Mending {
 
   const QByteArray& program_;
   const QList<ProgramLine> lines_;
+  const QSet<qsizetype> misplaced_;
   const QRectF box_;
   QByteArray newline_ = "\n";
   mutable bool isHeaderData_ = false;

@@ -3,10 +3,10 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <array>
 #include <initializer_list>
 
 #include "base/blanks.h"
+#include "check/comment_order.h"
 #include "check/program_words.h"
 
 namespace norvex {
@@ -42,38 +42,21 @@ void checkFirstLine(Findings& findings, const QList<ProgramLine>& lines) {
                         1);
 }
 
-/// Where in a document comments may stand.
-constexpr std::array<const char*, 9> kOrder{"%%EndComments", "%%BeginProlog", "%%EndProlog",
-                                            "%%BeginSetup",  "%%EndSetup",    "%%Page",
-                                            "%%PageTrailer", "%%Trailer",     "%%EOF"};
-
-int rankOf(const ProgramLine& line) {
-  for (size_t i = 0; i < kOrder.size(); ++i)
-    if (isComment(line, kOrder[i])) return int(i);
-  return -1;
-}
-
-bool isStructure(const ProgramLine& line) {
-  return (line.part == LinePart::Header || line.part == LinePart::Program) && line.text.startsWith("%%");
-}
-
 void checkOrder(Findings& findings, const QList<ProgramLine>& lines) {
   int last = -1;
   bool headerEnded = false;
   for (const ProgramLine& line : lines) {
     if (line.part == LinePart::Program) headerEnded = true;
     if (!isStructure(line)) continue;
-    const int rank = rankOf(line);
-    if (rank == 0 && headerEnded && last >= 0) continue;  // told by the order below
-    const bool isPage = rank == 5 && last <= 6;           // one page follows the other
-    if (rank >= 0 && rank < last && !isPage) {
+    const int place = placeOf(line);
+    if (place == 0 && headerEnded && last >= 0) continue;  // told by the end of the header
+    if (place >= 0 && !mayFollow(place, last)) {
       findings << finding(rule("eps.comments.out-of-order"),
-                          QStringLiteral("%1 stands behind %2")
-                              .arg(QLatin1String(kOrder[size_t(rank)]), QLatin1String(kOrder[size_t(last)])),
-                          line.number, QLatin1String(kOrder[size_t(rank)]));
+                          QStringLiteral("%1 stands behind %2").arg(nameOfPlace(place), nameOfPlace(last)),
+                          line.number, nameOfPlace(place));
       return;
     }
-    if (rank >= 0) last = rank;
+    if (place >= 0) last = place;
   }
 }
 

@@ -77,7 +77,7 @@ class Cutter {
     if (isComment(line, "%%EndPreview")) isPreview_ = false;
     if (part != LinePart::Header) return part;
     const bool isText = !line.text.startsWith('%') && !line.text.trimmed().isEmpty();
-    if (isText || isComment(line, "%%EndComments") || beginsSection(line)) isHeader_ = false;
+    if (isText || isComment(line, "%%EndComments") || endsHeader(line)) isHeader_ = false;
     return isText ? LinePart::Program : part;
   }
 
@@ -101,9 +101,14 @@ bool isComment(const ProgramLine& line, QByteArrayView keyword) {
          isCommentBlank(line.text[keyword.size()]);
 }
 
-bool beginsSection(const ProgramLine& line) {
-  return line.text.startsWith("%%Begin") && !isComment(line, "%%BeginData") &&
-         !isComment(line, "%%BeginBinary");
+bool endsHeader(const ProgramLine& line) {
+  for (const char* within :
+       {"%%BeginData", "%%BeginBinary", "%%EndData", "%%EndBinary", "%%EndComments", "%%EndPreview"})
+    if (isComment(line, within)) return false;
+  if (line.text.startsWith("%%Begin") || line.text.startsWith("%%End")) return true;
+  for (const char* behind : {"%%Page", "%%PageTrailer", "%%Trailer", "%%EOF"})
+    if (isComment(line, behind)) return true;
+  return false;
 }
 
 QList<ProgramLine> documentLines(const QList<ProgramLine>& lines) {

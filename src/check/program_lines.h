@@ -30,8 +30,9 @@ struct ProgramLine {
 
 /// True if the line begins with this comment: the keyword and then a colon, a blank or nothing.
 [[nodiscard]] bool isComment(const ProgramLine& line, QByteArrayView keyword);
-/// True if the line begins a section, which ends the header: data within it is none.
-[[nodiscard]] bool beginsSection(const ProgramLine& line);
+/// True for a comment that stands behind the header wherever the header ends: it begins or ends a section, a
+/// page or the document. Data within the header are no section.
+[[nodiscard]] bool endsHeader(const ProgramLine& line);
 /// The lines up to the document's end, the last %%EOF; all of them without one. What some programs keep
 /// behind it for themselves is no part of the document.
 [[nodiscard]] QList<ProgramLine> documentLines(const QList<ProgramLine>& lines);

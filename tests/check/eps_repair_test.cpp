@@ -1,7 +1,9 @@
 // Mending an EPS program: what is put right, and that the drawing stays as it is.
 #include "check/eps_repair.h"
 
+#include "check/eps_structure_rules.h"
 #include "check/file_wrapping.h"
+#include "check/program_lines.h"
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -59,6 +61,46 @@ class EpsRepairTest : public QObject {
     const EpsRepair twice = repairedEps(once, kBox, false);
     QCOMPARE(twice.program, once);
     QVERIFY(twice.changes.isEmpty());
+  }
+
+  void aMissingEndOfTheHeaderIsPutBeforeTheFirstSection() {
+    for (const QByteArray section :
+         {"%%EndProlog\n", "%%BeginProlog\n%%EndProlog\n", "%%BeginSetup\n%%EndSetup\n", "%%Page: 1 1\n",
+          "%%BeginPreview: 8 1 1 1\n%FF\n%%EndPreview\n"})
+      QVERIFY2(repaired("%!PS\n%%Pages: 1\n" + section + kBody)
+                   .contains("%%Pages: 1\n%%EndComments\n" + section + kBody),
+               repaired("%!PS\n%%Pages: 1\n" + section + kBody).constData());
+    const QByteArray data = "%%BeginData: 1 Hex Lines\n%00\n%%EndData\n%%For: f\n";
+    QVERIFY(repaired("%!PS\n" + data + kBody).contains(data + "%%EndComments\n" + kBody));
+  }
+
+  void commentsOutOfOrderAreLeftOut_data() {
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("mended");
+    const auto row = [](const char* name, const QByteArray& body, const QByteArray& mended) {
+      QTest::newRow(name) << body << mended;
+    };
+    row("the prolog's end behind the page", "%%Page: 1 1\n%%EndProlog\n", "%%Page: 1 1\n");
+    row("with its begin", "%%BeginProlog\n%%Page: 1 1\n%%EndProlog\n%%PageTrailer\n",
+        "%%Page: 1 1\n%%PageTrailer\n");
+    row("the setup before the prolog", "%%BeginSetup\n%%EndSetup\n%%BeginProlog\n%%EndProlog\n%%Page: 1 1\n",
+        "%%BeginProlog\n%%EndProlog\n%%Page: 1 1\n");
+    row("a trailer before the page", "%%Trailer\n%%Page: 1 1\n%%Page: 2 2\n", "%%Page: 1 1\n%%Page: 2 2\n");
+    row("several pages", "%%Page: 1 1\n%%PageTrailer\n%%Page: 2 2\n%%PageTrailer\n",
+        "%%Page: 1 1\n%%PageTrailer\n%%Page: 2 2\n%%PageTrailer\n");
+  }
+  void commentsOutOfOrderAreLeftOut() {
+    QFETCH(QByteArray, body);
+    QFETCH(QByteArray, mended);
+    const QByteArray head =
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 9 20 41 60\n%%HiResBoundingBox: 9.75 20 40.2 60\n"
+        "%%EndComments\n";
+    const EpsRepair repair = repairedEps(head + body + kBody + "showpage\n%%EOF\n", kBox, false);
+    QCOMPARE(repair.program, head + mended + kBody + "showpage\n%%EOF\n");
+    QCOMPARE(repair.changes.isEmpty(), body == mended);
+    for (const Finding& one : epsStructureFindings(programLines(repair.program)))
+      QVERIFY2(one.rule->identifier.substr(0, 12) != "eps.comments", qPrintable(one.sentence));
+    QCOMPARE(repairedEps(repair.program, kBox, false).program, repair.program);
   }
 
   void showpageGoesBeforeTheTrailer() {

@@ -136,12 +136,15 @@ class Check {
       result_.error = facts.error();
       return;
     }
-    if (facts->warnings.contains(damagedFile())) add({finding(rule("pdf.damaged"), damagedFile())});
+    bool isDamaged = facts->warnings.contains(damagedFile());
     const int pages = std::min(facts->pageCount, limits::maximumExaminedPages);
-    for (int page = 0; page < pages && !result_.error; ++page)
-      if (const auto contents = contentsOf(process, page))
-        addOfPage(pageFindings(*contents, kind, request_.profile.limits),
-                  facts->pageCount > 1 ? page + 1 : 0);
+    for (int page = 0; page < pages && !result_.error; ++page) {
+      const auto contents = contentsOf(process, page);
+      if (!contents) break;
+      isDamaged = isDamaged || contents->remarks.contains(damagedFile());
+      addOfPage(pageFindings(*contents, kind, request_.profile.limits), facts->pageCount > 1 ? page + 1 : 0);
+    }
+    if (isDamaged) add({finding(rule("pdf.damaged"), damagedFile())});
     if (facts->pageCount > pages)
       add({finding(rule("page.unread"),
                    QStringLiteral("only the first %1 pages were looked at").arg(pages))});

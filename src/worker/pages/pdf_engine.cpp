@@ -3,12 +3,14 @@
 // The engine of PDF documents and of Illustrator files that are PDF inside.
 #include "protocol/every_page.h"
 #include "protocol/page_contents.h"
+#include "protocol/shared_errors.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/examine/ink_box.h"
 #include "worker/examine/page_examination.h"
 #include "worker/pages/actions_left_out.h"
 #include "worker/pages/chosen_pdf.h"
 #include "worker/pages/compose_page.h"
+#include "worker/pages/page_reading.h"
 #include "worker/pages/pdf_layers.h"
 #include "worker/pdf/compose_pdf.h"
 #include "worker/pdf/illustrator_notice.h"
@@ -46,30 +48,33 @@ class PdfEngine final : public DocumentEngine {
   Result<Bitmap> render(const RenderRequest& request) override {
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
-    if (request.purpose == RenderPurpose::Export) noteMissingFonts(request.page);
-    Result<Bitmap> image = renderer_.render(request, *size, context_.limits);
-    if (image || image.error().kind == ErrorKind::Limit || image.error().kind == ErrorKind::Protocol)
-      return image;
-    return renderRepaired(request, *size);
+    if (request.purpose == RenderPurpose::Export) noteRemarks(request.page);
+    Result<Bitmap> image = drawn(request, *size);
+    // Where the drawing knows better than we do what is in a damaged file, it is right.
+    if (image && isUnpainted(*image) && reading(request.page) == PageReading::Nothing)
+      return nothingCanBeRead(request.page, file_->pageCount());
+    return image;
   }
 
   Result<EngineBytes> pdf(const PdfRequest& request) override {
-    if (request.page == everyPage)
-      return told(request.keepActions ? EngineBytes{bytes_, {}} : leaveOutActions(bytes_));
+    if (request.page == everyPage) return wholeFile(request);
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
     ComposeRequest whole = wholePage(request.page, *size, VectorFormat::Pdf);
     whole.attributes = request.attributes;
     whole.keepActions = request.keepActions;
-    return told(composePage(bytes_, whole, context_));
+    return compose(whole);
   }
 
   Result<EngineBytes> compose(const ComposeRequest& request) override {
+    if (reading(request.page) == PageReading::Nothing)
+      return nothingCanBeRead(request.page, file_->pageCount());
     Result<EngineBytes> result = told(composePage(bytes_, request, context_));
+    if (!result) return result;
     // A PDF asks for its fonts as the document did; EPS and SVG hold what is drawn instead.
-    if (!result || request.format == VectorFormat::Pdf) return result;
-    noteMissingFonts(request.page);
-    result->report.warnings = missingFonts_ + result->report.warnings;
+    if (request.format != VectorFormat::Pdf) noteRemarks(request.page);
+    result->report.warnings =
+        (request.format == VectorFormat::Pdf ? damageOf(request.page) : remarks_) + result->report.warnings;
     return result;
   }
 
@@ -77,12 +82,12 @@ class PdfEngine final : public DocumentEngine {
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
     if (request.what == Examination::Contents) return contents(request.page);
-    if (request.what == Examination::Drawn) return drawn(request.page, *size);
+    if (request.what == Examination::Drawn) return inked(request.page, *size);
     if (request.what == Examination::Text) return letters(request.page, *size);
     return DocumentEngine::examine(request);
   }
 
-  [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_; }
+  [[nodiscard]] QStringList drawingRemarks() const override { return remarks_; }
 
  private:
   /// What is handed on without the document's protection says so; its own bytes still have it.
@@ -95,12 +100,12 @@ class PdfEngine final : public DocumentEngine {
   [[nodiscard]] Result<EngineBytes> contents(int page) {
     return guarded([&]() -> Result<EngineBytes> {
       PageContents contents = pageContents(*file_, shownPageOf(*file_, page), context_.cancel);
-      contents.remarks = facts_.warnings;
+      contents.remarks = facts_.warnings + damageOf(page);
       return EngineBytes{encodePageContents(contents), {}};
     });
   }
 
-  [[nodiscard]] Result<EngineBytes> drawn(int page, QSizeF size) {
+  [[nodiscard]] Result<EngineBytes> inked(int page, QSizeF size) {
     const Result<DrawnInk> ink =
         findInk(QRectF(QPointF(0, 0), size), page, [&](const RenderRequest& part) { return render(part); });
     if (!ink) return ink.error();
@@ -113,11 +118,47 @@ class PdfEngine final : public DocumentEngine {
     return EngineBytes{encodePageText(*text), {}};
   }
 
-  void noteMissingFonts(int page) {
-    if (page < 0 || page >= file_->pageCount() || fontsOfPage_ == page) return;
-    fontsOfPage_ = page;
-    missingFonts_.clear();
-    for (const QString& font : missingFonts(*file_, page)) missingFonts_ << missingFontSentence(font);
+  [[nodiscard]] Result<EngineBytes> wholeFile(const PdfRequest& request) {
+    if (isUnreadable()) return nothingCanBeRead(everyPage, file_->pageCount());
+    Result<EngineBytes> result =
+        told(request.keepActions ? EngineBytes{bytes_, {}} : leaveOutActions(bytes_));
+    if (result) result->report.warnings = damageOf(0) + result->report.warnings;
+    return result;
+  }
+
+  void noteRemarks(int page) {
+    if (page < 0 || page >= file_->pageCount() || remarksOfPage_ == page) return;
+    remarksOfPage_ = page;
+    remarks_ = damageOf(page);
+    for (const QString& font : missingFonts(*file_, page)) remarks_ << missingFontSentence(font);
+  }
+
+  /// Whole for a page that is not there, which others tell.
+  [[nodiscard]] PageReading reading(int page) {
+    if (page < 0 || page >= file_->pageCount()) return PageReading::Whole;
+    if (readPage_ != page) reading_ = readingOf(*file_, page);
+    readPage_ = page;
+    return reading_;
+  }
+
+  /// Of a page in a file that did not show its damage when it was opened: a sentence or none.
+  [[nodiscard]] QStringList damageOf(int page) {
+    const bool isTold = facts_.warnings.contains(damagedFile());
+    return isTold || reading(page) == PageReading::Whole ? QStringList() : QStringList{damagedFile()};
+  }
+
+  /// True if none of the pages shows anything, because nothing of them can be read.
+  [[nodiscard]] bool isUnreadable() {
+    for (int page = 0; page < file_->pageCount(); ++page)
+      if (reading(page) != PageReading::Nothing) return false;
+    return true;
+  }
+
+  [[nodiscard]] Result<Bitmap> drawn(const RenderRequest& request, QSizeF size) {
+    Result<Bitmap> image = renderer_.render(request, size, context_.limits);
+    if (image || image.error().kind == ErrorKind::Limit || image.error().kind == ErrorKind::Protocol)
+      return image;
+    return renderRepaired(request, size);
   }
 
   [[nodiscard]] Result<QSizeF> shownSize(int page) {
@@ -146,8 +187,10 @@ class PdfEngine final : public DocumentEngine {
   PdfRenderer renderer_;
   std::optional<PdfRenderer> repaired_;
   int repairedPage_ = -1;
-  QStringList missingFonts_;  ///< of the page that was handed out last, one sentence each
-  int fontsOfPage_ = -1;
+  QStringList remarks_;  ///< on the page that was handed out last, one sentence each
+  int remarksOfPage_ = -1;
+  PageReading reading_ = PageReading::Whole;  ///< of readPage_
+  int readPage_ = -1;
   EngineContext& context_;
 };
 

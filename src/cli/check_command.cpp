@@ -45,7 +45,8 @@ QJsonObject objectOf(const Finding& one) {
 QByteArray jsonOf(const QString& file, const CheckedPicture& checked) {
   QJsonArray findings;
   for (const Finding& one : checked.findings) findings.append(objectOf(one));
-  QJsonObject object{{"file", file}, {"findings", findings}};
+  QJsonObject object{{"findings", findings}};
+  insertName(object, QStringLiteral("file"), file);
   if (checked.error) insertError(object, *checked.error);
   return jsonOutput(QJsonDocument(object)).trimmed();
 }
@@ -66,12 +67,16 @@ QByteArray linesOf(const QString& file, const CheckedPicture& checked) {
   return text.toUtf8();
 }
 
-bool hasError(const CheckedPicture& checked) {
-  return std::any_of(checked.findings.begin(), checked.findings.end(),
-                     [](const Finding& one) { return one.severity == Severity::Error; });
-}
-
 }  // namespace
+
+ExitCode Job::codeOf(const QString& file, const CheckedPicture& checked) {
+  if (checked.error) return fail(file, *checked.error);
+  const auto worst = std::find_if(checked.findings.begin(), checked.findings.end(),
+                                  [](const Finding& one) { return one.severity == Severity::Error; });
+  if (worst == checked.findings.end()) return ExitCode::Done;
+  noteFault(worst->sentence);
+  return ExitCode::SomeFailed;
+}
 
 ExitCode Job::reportChecks(const Arguments& arguments, const QFuture<CheckedPicture>& checks) {
   const bool json = arguments.has(Option::Json);
@@ -80,15 +85,12 @@ ExitCode Job::reportChecks(const Arguments& arguments, const QFuture<CheckedPict
   for (qsizetype i = 0; i < arguments.files.size(); ++i) {
     const QString& file = arguments.files[i];
     const CheckedPicture checked = checks.resultAt(int(i));
-    codes << (checked.error       ? fail(file, *checked.error)
-              : hasError(checked) ? ExitCode::SomeFailed
-                                  : ExitCode::Done);
+    codes << codeOf(file, checked);
     const QByteArray end = i + 1 < arguments.files.size() ? ",\n" : "\n]\n";
     written = written && console_.write(json ? jsonOf(file, checked) + end : linesOf(file, checked));
   }
   if (written) return exitCodeOfAll(codes);
-  return fail(QStringLiteral("-"),
-              {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+  return failToWrite();
 }
 
 ExitCode Job::check(const Arguments& arguments) {
@@ -111,7 +113,7 @@ ExitCode Job::check(const Arguments& arguments) {
   QThreadPool pool;
   pool.setMaxThreadCount(jobs);
   const CancelToken cancel = interruption.token();
-  QFuture<CheckedPicture> checks = QtConcurrent::mapped(&pool, arguments.files, [&](const QString& file) {
+  const auto checkFile = [&](const QString& file) {
     const bool isInput = file == standardInput;
     const Result<QByteArray> bytes = isInput ? input : readInputFile(file);
     if (!bytes) return CheckedPicture{{}, bytes.error()};
@@ -119,7 +121,11 @@ ExitCode Job::check(const Arguments& arguments) {
     request.bytes = *bytes;
     request.fileName = isInput ? QString() : file;
     return checkPicture(service_, request, cancel);
-  });
+  };
+  // A single file is not worth a thread.
+  QFuture<CheckedPicture> checks = arguments.files.size() == 1
+                                       ? QtFuture::makeReadyFuture(checkFile(arguments.files.first()))
+                                       : QtConcurrent::mapped(&pool, arguments.files, checkFile);
   const ExitCode code = reportChecks(arguments, checks);
   checks.waitForFinished();
   return cancel.cancelled() ? ExitCode::Interrupted : code;

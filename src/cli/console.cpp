@@ -55,7 +55,9 @@ Result<QByteArray> StandardConsole::input() {
 }
 
 bool StandardConsole::write(const QByteArray& bytes) {
-  return writeAll(STDOUT_FILENO, bytes);
+  const bool written = writeAll(STDOUT_FILENO, bytes);
+  closed_ = closed_ || (!written && errno == EPIPE);
+  return written;
 }
 
 void StandardConsole::message(const QString& line) {
@@ -80,7 +82,7 @@ bool StandardConsole::showsProgress() const {
 }
 
 bool MemoryConsole::write(const QByteArray& bytes) {
-  if (full) return false;
+  if (full || closed) return false;
   output += bytes;
   return true;
 }

@@ -17,6 +17,8 @@ class Console {
   virtual Result<QByteArray> input() = 0;
   /// False when the bytes could not be written completely (a full disk, a closed pipe).
   [[nodiscard]] virtual bool write(const QByteArray& bytes) = 0;
+  /// True if that was because nobody reads them any more, which is no fault and not worth a word.
+  [[nodiscard]] virtual bool isClosed() const = 0;
   /// One line; what would move the cursor or colour the terminal is made visible.
   virtual void message(const QString& line) = 0;
   /// Replaces the line of progress at the end of standard error; the empty text takes it away. Shown on a
@@ -33,6 +35,7 @@ class StandardConsole final : public Console {
  public:
   Result<QByteArray> input() override;
   bool write(const QByteArray& bytes) override;
+  bool isClosed() const override { return closed_; }
   void message(const QString& line) override;
   void progress(const QString& line) override;
   bool isTerminal() const override;
@@ -40,6 +43,7 @@ class StandardConsole final : public Console {
 
  private:
   bool progressShown_ = false;
+  bool closed_ = false;
 };
 
 /// Keeps what is written; for tests.
@@ -47,6 +51,7 @@ class MemoryConsole final : public Console {
  public:
   Result<QByteArray> input() override { return standardInput; }
   bool write(const QByteArray& bytes) override;
+  bool isClosed() const override { return closed; }
   void message(const QString& line) override;
   void progress(const QString& line) override;
   bool isTerminal() const override { return terminal; }
@@ -56,7 +61,8 @@ class MemoryConsole final : public Console {
   QString messages;  ///< lines with their ends
   QStringList progressLines;
   bool terminal = false;
-  bool full = false;  ///< every further write fails
+  bool full = false;    ///< every further write fails
+  bool closed = false;  ///< as well, because nobody reads
 };
 
 /// `text` with control characters, what turns the direction of writing, and the bytes of file names that are

@@ -6,9 +6,11 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <functional>
 #include <optional>
 
 #include "base/cancel_token.h"
+#include "cli/page_list.h"
 #include "encoders/encoded_picture.h"
 #include "picture/open_picture.h"
 #include "picture/process/picture_process.h"
@@ -33,10 +35,26 @@ struct Conversion {
   qint64 size = 0;   ///< of the bytes, which are dropped when they are written
   EncodingReport report;
   QStringList metadataLost;  ///< keys of the header dictionary
+  int page = 0;              ///< from 1, where pages were asked for one by one
 };
 
-/// Blocks for the picture process. The page is that of the options. Thread-safe.
+/// Blocks for the picture process. The page is that of the options; of several without one it is the first,
+/// which is told, unless the format holds them all. Thread-safe.
 [[nodiscard]] Conversion convertPicture(PictureService& service, PictureSource source,
                                         const ConversionOptions& options, const CancelToken& cancel = {});
+
+/// What becomes of the pages: those that there will be, all of them before the first is made, and then each
+/// as it is done.
+struct PageTaker {
+  std::function<std::optional<Error>(const QList<int>& pages)> begin;
+  /// False: no more are wanted.
+  std::function<bool(Conversion)> take;
+};
+
+/// Each of the pages as if it were asked for alone, by one picture process. Fails where none is made: the
+/// source cannot be opened, or does not have one of them. Thread-safe.
+[[nodiscard]] Result<void> convertPages(PictureService& service, PictureSource source,
+                                        const ConversionOptions& options, const PageList& pages,
+                                        const PageTaker& taker, const CancelToken& cancel = {});
 
 }  // namespace norvex

@@ -24,9 +24,10 @@ QString rasterRemark(const EncodingReport& report) {
 QJsonObject conversionObject(const ConvertTask& task, const ConversionOptions& options,
                              const Conversion& conversion) {
   const EncodingReport& report = conversion.report;
-  QJsonObject object{{QStringLiteral("file"), task.file},
-                     {QStringLiteral("output"), task.output},
-                     {QStringLiteral("format"), latin1(rowOf(options.format).name)}};
+  QJsonObject object{{QStringLiteral("format"), latin1(rowOf(options.format).name)}};
+  insertName(object, QStringLiteral("file"), task.file);
+  insertName(object, QStringLiteral("output"), task.output);
+  if (conversion.page > 0) object.insert(QStringLiteral("page"), conversion.page);
   if (report.error) {
     insertError(object, *report.error);
   } else {

@@ -9,8 +9,8 @@
 
 namespace norvex {
 
-/// `file`, `output`, `format`, `bytes`, `rasterized` {`regions`, `areaShare`, `dpi`}, `metadataLost`,
-/// `warnings`; `error` and perhaps `details` where it failed.
+/// `file`, `output`, `format`, perhaps `page`, `bytes`, `rasterized` {`regions`, `areaShare`, `dpi`},
+/// `metadataLost`, `warnings`; `error` and perhaps `details` where it failed.
 [[nodiscard]] QJsonObject conversionObject(const ConvertTask& task, const ConversionOptions& options,
                                            const Conversion& conversion);
 

@@ -5,7 +5,6 @@
 #include <QtConcurrent>
 
 #include "base/atomic_file.h"
-#include "base/file_name.h"
 #include "base/interruption.h"
 #include "base/open_files.h"
 #include "base/time_limit.h"
@@ -14,6 +13,7 @@
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "cli/json_output.h"
+#include "cli/output_file.h"
 #include "metadata/full_date.h"
 
 namespace norvex {
@@ -29,44 +29,65 @@ Conversion interrupted() {
   return refused(ErrorKind::Cancelled, QStringLiteral("it was interrupted"));
 }
 
-/// The failure that is known before the work is done: its result could not be kept.
-std::optional<Conversion> refusalOf(const ConvertTask& task, const ConvertPlan& plan) {
-  if (task.output == QLatin1String("-")) return std::nullopt;
-  if (const auto error = overwritesInput(task.file, task.output)) return refused(error->kind, error->message);
-  if (!plan.force && fileExists(task.output)) {
-    return refused(ErrorKind::CannotWrite,
-                   QStringLiteral("%1 exists already (--force overwrites it)").arg(task.output));
-  }
-  if (!folderExists(QFileInfo(task.output).path())) {
-    return refused(ErrorKind::CannotWrite,
-                   QStringLiteral("%1: the folder to write to does not exist").arg(task.output));
-  }
-  return std::nullopt;
+/// The task of one of a file's pages.
+ConvertTask taskOf(const ConvertTask& task, const Conversion& conversion) {
+  return conversion.page > 0 ? ConvertTask{task.file, outputOfPage(task.output, conversion.page)} : task;
 }
 
-/// Converts and writes one file. `input`: the bytes of standard input. Thread-safe.
-Conversion convertFile(PictureService& service, const ConvertTask& task, const ConvertPlan& plan,
-                       const Result<QByteArray>& input, const CancelToken& cancel) {
-  if (cancel.cancelled()) return interrupted();
-  if (auto refusal = refusalOf(task, plan)) return *refusal;
+/// Writes what was made, unless it is for standard output.
+Conversion written(Conversion conversion, const QString& output, bool force) {
+  if (conversion.report.error || output == QLatin1String("-")) return conversion;
+  const auto done = writeFileAtomically(output, conversion.bytes, force ? IfExists::Replace : IfExists::Fail);
+  if (!done)
+    conversion.report.error =
+        Error{done.error().kind, QStringLiteral("%1: %2").arg(output, done.error().message)};
+  conversion.bytes.clear();
+  return conversion;
+}
+
+/// All pages that the plan asks for, or one failure for all of them.
+QList<Conversion> convertPagesOf(PictureService& service, const ConvertTask& task, const ConvertPlan& plan,
+                                 const QByteArray& bytes, const CancelToken& cancel) {
+  QList<Conversion> conversions;
+  PageTaker taker;
+  taker.begin = [&](const QList<int>& pages) -> std::optional<Error> {
+    for (const int page : pages)
+      if (auto refusal = outputRefusal(task.file, outputOfPage(task.output, page), plan.force))
+        return refusal;
+    return std::nullopt;
+  };
+  taker.take = [&](Conversion conversion) {
+    if (cancel.cancelled()) return false;
+    const QString output = outputOfPage(task.output, conversion.page);
+    conversions << written(std::move(conversion), output, plan.force);
+    return true;
+  };
+  const Result<void> done =
+      convertPages(service, sourceOfInput(bytes, task.file), plan.options, *plan.pages, taker, cancel);
+  if (!done) conversions = {refused(done.error().kind, done.error().message)};
+  if (cancel.cancelled()) conversions << interrupted();
+  return conversions;
+}
+
+/// Converts and writes one file: one conversion, or one a page. `input`: the bytes of standard input.
+/// Thread-safe.
+QList<Conversion> convertFile(PictureService& service, const ConvertTask& task, const ConvertPlan& plan,
+                              const Result<QByteArray>& input, const CancelToken& cancel) {
+  if (cancel.cancelled()) return {interrupted()};
+  if (!plan.pages)
+    if (const auto refusal = outputRefusal(task.file, task.output, plan.force))
+      return {refused(refusal->kind, refusal->message)};
   const bool isInput = task.file == QLatin1String("-");
   const Result<QByteArray> bytes = isInput ? input : readInputFile(task.file);
-  if (!bytes) return refused(bytes.error().kind, bytes.error().message);
+  if (!bytes) return {refused(bytes.error().kind, bytes.error().message)};
+  if (plan.pages) return convertPagesOf(service, task, plan, *bytes, cancel);
 
   const TimeLimit limit(std::chrono::seconds(plan.options.limits.seconds), cancel);
   Conversion conversion =
       convertPicture(service, sourceOfInput(*bytes, task.file), plan.options, limit.token());
-  if (cancel.cancelled()) return interrupted();
+  if (cancel.cancelled()) return {interrupted()};
   if (conversion.report.error) conversion.report.error = limit.explained(*conversion.report.error);
-  if (conversion.report.error || task.output == QLatin1String("-")) return conversion;
-  const auto written =
-      writeFileAtomically(task.output, conversion.bytes, plan.force ? IfExists::Replace : IfExists::Fail);
-  if (!written) {
-    conversion.report.error =
-        Error{written.error().kind, QStringLiteral("%1: %2").arg(task.output, written.error().message)};
-  }
-  conversion.bytes.clear();
-  return conversion;
+  return {written(std::move(conversion), task.output, plan.force)};
 }
 
 /// Two files of one run must not be written to one place: neither is then the right one.
@@ -104,18 +125,18 @@ ExitCode Job::convert(const Arguments& arguments) {
   pool.setMaxThreadCount(threadsWithinOpenFiles(plan.jobs > 1 ? plan.jobs + 1 : 1));
   const CancelToken cancel = interruption.token();
   const auto convertTask = [&](const ConvertTask& task) {
-    return convertFile(service_, task, plan, input, cancel);
+    return ConvertedFile{convertFile(service_, task, plan, input, cancel)};
   };
   // A single file is not worth a thread.
-  QFuture<Conversion> conversions = plan.tasks.size() == 1
-                                        ? QtFuture::makeReadyFuture(convertTask(plan.tasks.first()))
-                                        : QtConcurrent::mapped(&pool, plan.tasks, convertTask);
-  const ExitCode code = reportConversions(plan, conversions);
-  conversions.waitForFinished();
+  QFuture<ConvertedFile> files = plan.tasks.size() == 1
+                                     ? QtFuture::makeReadyFuture(convertTask(plan.tasks.first()))
+                                     : QtConcurrent::mapped(&pool, plan.tasks, convertTask);
+  const ExitCode code = reportConversions(plan, files);
+  files.waitForFinished();
   return cancel.cancelled() ? ExitCode::Interrupted : code;
 }
 
-ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions) {
+ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<ConvertedFile>& files) {
   QList<ExitCode> codes;
   QJsonArray objects;
   const qsizetype count = plan.tasks.size();
@@ -124,9 +145,11 @@ ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<Conversio
     if (!plan.quiet && count > 1) {
       console_.progress(QStringLiteral("%1 of %2: %3").arg(i + 1).arg(count).arg(task.file));
     }
-    const Conversion conversion = conversions.resultAt(int(i));
-    if (plan.json) objects.append(conversionObject(task, plan.options, conversion));
-    codes << reportConversion(plan, task, conversion);
+    for (const Conversion& conversion : files.resultAt(int(i)).conversions) {
+      const ConvertTask told = taskOf(task, conversion);
+      if (plan.json) objects.append(conversionObject(told, plan.options, conversion));
+      codes << reportConversion(plan, told, conversion);
+    }
   }
   console_.progress({});
   if (const qsizetype undone = codes.count(ExitCode::Interrupted); undone > 0) {
@@ -134,8 +157,7 @@ ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<Conversio
         QStringLiteral("norvex: interrupted; %1 of %2 files not converted").arg(undone).arg(count));
   }
   if (plan.json && !console_.write(jsonOutput(QJsonDocument(objects)))) {
-    return fail(QStringLiteral("-"),
-                {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+    return failToWrite();
   }
   return exitCodeOfAll(codes);
 }

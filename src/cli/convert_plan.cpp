@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include "base/file_name.h"
 #include "base/latin1_text.h"
 #include "cli/value_reader.h"
 
@@ -44,10 +45,38 @@ QString complaintAboutTargets(const Arguments& arguments) {
   if (toFile && arguments.files.size() > 1)
     return QStringLiteral("-o takes one file, --to DIR takes several");
   if (formatOf(arguments)) return {};
+  if (toFile && folderExists(arguments.values.value(Option::Output)))
+    return QStringLiteral("%1 is a folder (--to DIR writes into one)")
+        .arg(arguments.values.value(Option::Output));
   return toFile && arguments.values.value(Option::Output) != QLatin1String("-")
              ? QStringLiteral("the extension of %1 names no format (--format does)")
                    .arg(arguments.values.value(Option::Output))
              : QStringLiteral("no format is given (--format)");
+}
+
+/// What does not go with the format.
+QString complaintAboutFormat(const ConversionOptions& options) {
+  const FormatRow& row = rowOf(options.format);
+  if (options.quality && row.quality == NoQuality)
+    return QStringLiteral("--quality goes with one of: %1").arg(latin1(qualityFormatNames.text()));
+  if (options.keepActions && options.format != PictureFormat::Pdf)
+    return QStringLiteral("--keep-actions goes with pdf");
+  if (options.background.isValid() && !isRaster(options.format))
+    return QStringLiteral("--background goes with the raster formats: %1 keeps unpainted what is unpainted")
+        .arg(latin1(row.name));
+  return {};
+}
+
+std::optional<PageList> pagesOf(const Arguments& arguments, ValueReader& values) {
+  if (!arguments.has(Option::Pages)) return std::nullopt;
+  if (arguments.has(Option::Page))
+    values.complain(
+        QStringLiteral("--page is one page in one file, --pages a file of each; give one of them"));
+  if (arguments.values.value(Option::Output) == QLatin1String("-"))
+    values.complain(QStringLiteral("--pages makes a file of each page, and -o - is standard output"));
+  std::optional<PageList> pages = PageList::read(arguments.values.value(Option::Pages));
+  if (!pages) values.complain(QStringLiteral("--pages is all, or numbers and ranges from 1: 1,3-5,8-"));
+  return pages;
 }
 
 }  // namespace
@@ -60,10 +89,9 @@ ReadPlan readConvertPlan(const Arguments& arguments) {
   ValueReader values(arguments);
   plan.options = optionsOf(arguments, values);
   plan.options.format = *formatOf(arguments);
-  if (plan.options.quality && rowOf(plan.options.format).quality == NoQuality)
-    values.complain(QStringLiteral("--quality goes with one of: %1").arg(latin1(qualityFormatNames.text())));
-  if (plan.options.keepActions && plan.options.format != PictureFormat::Pdf)
-    values.complain(QStringLiteral("--keep-actions goes with pdf"));
+  if (const QString complaint = complaintAboutFormat(plan.options); !complaint.isEmpty())
+    values.complain(complaint);
+  plan.pages = pagesOf(arguments, values);
   plan.jobs = values.integer(Option::Jobs, QThread::idealThreadCount(), 1, 256);
   plan.force = arguments.has(Option::Force);
   plan.json = arguments.has(Option::Json);

@@ -15,9 +15,15 @@ struct ConvertTask {
   QString output;  ///< "-": standard output
 };
 
+/// What became of a task.
+struct ConvertedFile {
+  QList<Conversion> conversions;  ///< one, or one a page where pages are asked for
+};
+
 struct ConvertPlan {
   QList<ConvertTask> tasks;  ///< in the order of the files
   ConversionOptions options;
+  std::optional<PageList> pages;  ///< each to a file of its own: outputOfPage() of the task's
   int jobs = 1;
   bool force = false, json = false, quiet = false;
 };

@@ -59,8 +59,7 @@ ExitCode Job::info(const Arguments& arguments) {
   }
   written = written && (!json || console_.write("]\n"));
   if (written) return exitCodeOfAll(codes);
-  return fail(QStringLiteral("-"),
-              {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+  return failToWrite();
 }
 
 }  // namespace norvex

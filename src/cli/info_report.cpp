@@ -87,8 +87,8 @@ QJsonObject infoObject(const DocumentInfo& info) {
   QJsonObject header;
   for (auto it = info.header.begin(); it != info.header.end(); ++it)
     header.insert(it.key(), jsonOf(it.value()));
-  QJsonObject object{
-      {"file", info.file}, {"header", header}, {"warnings", QJsonArray::fromStringList(info.warnings)}};
+  QJsonObject object{{"header", header}, {"warnings", QJsonArray::fromStringList(info.warnings)}};
+  insertName(object, QStringLiteral("file"), info.file);
   const auto insert = [&](const char* key, const QJsonValue& value) {
     object.insert(QLatin1String(key), value);
   };

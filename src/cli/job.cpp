@@ -70,9 +70,18 @@ ExitCode Job::sandboxStatus() {
 }
 
 ExitCode Job::show(const QString& text) {
-  if (console_.write(text.toUtf8())) return ExitCode::Done;
-  console_.message(QStringLiteral("norvex: standard output cannot be written"));
+  return console_.write(text.toUtf8()) ? ExitCode::Done : failToWrite();
+}
+
+ExitCode Job::failToWrite() {
+  if (console_.isClosed()) return ExitCode::PipeClosed;
+  console_.message(QStringLiteral("norvex: -: standard output cannot be written"));
   return ExitCode::CannotWrite;
+}
+
+void Job::remark(const QString& file, const QStringList& sentences) {
+  if (sentences.isEmpty()) return;
+  console_.message(QStringLiteral("norvex: %1: %2").arg(file, sentences.join(QStringLiteral("; "))));
 }
 
 ExitCode Job::fail(const QString& file, const Error& error) {

@@ -17,6 +17,7 @@
 namespace norvex {
 
 struct CheckedPicture;
+struct RepairedPicture;
 
 /// Does what arguments ask for. Everything that the command line can do is here, so that tests drive it
 /// without a program. The console and the service are borrowed and must outlive the job. Main thread only;
@@ -43,6 +44,13 @@ class Job {
   ExitCode complain(Command command, const QString& complaint);
   /// Tells on standard error that something is wrong with a file.
   virtual ExitCode fail(const QString& file, const Error& error);
+  /// Hears why a file that was looked at is not as it should be, which the command itself tells in its own
+  /// way.
+  virtual void noteFault(const QString& sentence) { (void)sentence; }
+  /// Tells on standard error that standard output cannot be written; nothing where nobody reads it.
+  ExitCode failToWrite();
+  /// Tells on standard error what there is to know about a file that was done; nothing where that is nothing.
+  void remark(const QString& file, const QStringList& sentences);
 
   Console& console_;
   PictureService& service_;
@@ -54,9 +62,13 @@ class Job {
   ExitCode thumbnail(const Arguments& arguments);
   ExitCode convert(const Arguments& arguments);
   ExitCode check(const Arguments& arguments);
+  /// Tells why a file could not be checked; of one that could, its worst finding decides.
+  ExitCode codeOf(const QString& file, const CheckedPicture& checked);
   ExitCode reportChecks(const Arguments& arguments, const QFuture<CheckedPicture>& checks);
   ExitCode repair(const Arguments& arguments);
-  ExitCode reportConversions(const ConvertPlan& plan, const QFuture<Conversion>& conversions);
+  /// What was changed and what stays, a line each.
+  void tellRepair(const QString& file, const RepairedPicture& repaired);
+  ExitCode reportConversions(const ConvertPlan& plan, const QFuture<ConvertedFile>& files);
   /// Tells what became of one file; of one that goes to standard output, writes it.
   ExitCode reportConversion(const ConvertPlan& plan, const ConvertTask& task, const Conversion& conversion);
   ExitCode sandboxStatus();

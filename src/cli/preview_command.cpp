@@ -9,6 +9,7 @@
 #include "base/time_limit.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
+#include "cli/output_file.h"
 #include "cli/value_reader.h"
 #include "picture/bitmap_image.h"
 #include "picture/embedded_preview.h"
@@ -35,9 +36,10 @@ ExitCode Job::preview(const Arguments& arguments) {
   ValueReader values(arguments);
   const PictureLimits limits = values.limits();
   if (!values.complaint().isEmpty()) return complain(Command::Preview, values.complaint());
-  if (output != QLatin1String("-")) {
-    if (const auto error = overwritesInput(file, output)) return fail(file, *error);
-  }
+  if (const auto refusal = outputRefusal(file, output, arguments.has(Option::Force)))
+    return fail(file, *refusal);
+  if (const QString wrong = wrongExtension(file, output, PictureFormat::Png); !wrong.isEmpty())
+    return complain(Command::Preview, wrong);
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
   const Result<PictureKind> kind = pictureKindOf(*bytes, sourceOfInput(*bytes, file).typeIdentifier);
@@ -66,7 +68,7 @@ ExitCode Job::writeOutput(const QString& output, const QByteArray& bytes, bool f
   if (console_.isTerminal())
     return fail(output, {ErrorKind::CannotWrite, QStringLiteral("binary data is not written to a terminal")});
   if (console_.write(bytes)) return ExitCode::Done;
-  return fail(output, {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+  return failToWrite();
 }
 
 }  // namespace norvex

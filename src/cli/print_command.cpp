@@ -7,6 +7,7 @@
 #include "base/localized_string.h"
 #include "base/time_limit.h"
 #include "cli/input_file.h"
+#include "cli/output_file.h"
 #include "cli/printing_job.h"
 #include "cli/value_reader.h"
 #include "document/print_settings.h"
@@ -72,7 +73,9 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   if (!values.complaint().isEmpty()) return complain(Command::Print, values.complaint());
   const QString file = arguments.files.first(), output = arguments.values.value(Option::Output);
   const NSPrintInfo info = printInfoOf(arguments);
-  if (const auto error = overwritesInput(file, output)) return fail(file, *error);
+  if (!output.isEmpty())
+    if (const auto refusal = outputRefusal(file, output, arguments.has(Option::Force)))
+      return fail(file, *refusal);
   CupsSpooler spooler;
   if (arguments.has(Option::Printer))  // told before a large picture is read in vain
     if (const Result<Printer> printer = printerNamed(spooler, info.printerName()); !printer)
@@ -87,9 +90,10 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   const auto opened = openPicture(service_, picture, limits, time.token());
   if (!opened) return fail(file, time.explained(opened.error()));
   const PrintSource source = sourceOf(*opened, picture.fileURL);
-  const Result<QByteArray> drawing = pictureOf(source, time.token());
+  const Result<PictureBytes> drawing = source.picture(time.token());
   if (!drawing) return fail(file, time.explained(drawing.error()));
-  const Result<QByteArray> pages = composeJob(source, info, service_, *drawing, time.token());
+  remark(file, (*opened)->warnings() + drawing->report.warnings);
+  const Result<QByteArray> pages = composeJob(source, info, service_, drawing->bytes, time.token());
   if (!pages) return fail(file, time.explained(pages.error()));
   if (!output.isEmpty()) return writeOutput(output, *pages, arguments.has(Option::Force));
   const Result<void> delivered = deliverJob(*pages, source.jobTitle, info, spooler, cancel);

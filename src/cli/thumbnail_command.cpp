@@ -4,9 +4,10 @@
 #include <QFileInfo>
 #include <QImage>
 
-#include "base/atomic_file.h"
+#include "base/file_name.h"
 #include "cli/input_file.h"
 #include "cli/job.h"
+#include "cli/output_file.h"
 #include "cli/previews/thumbnail.h"
 #include "cli/value_reader.h"
 
@@ -37,19 +38,23 @@ ExitCode Job::thumbnail(const Arguments& arguments) {
   ValueReader values(arguments);
   const int side = values.integer(Option::Size, kUsualSide, 1, kLargestSide);
   if (!values.complaint().isEmpty()) return complain(Command::Thumbnail, values.complaint());
-  if (const auto error = overwritesInput(file, output)) return fail(file, *error);
+  // Desktops make an empty file first and give its name.
+  const bool replaces = arguments.has(Option::Force) || (fileExists(output) && QFileInfo(output).size() == 0);
+  if (const auto refusal = outputRefusal(file, output, replaces)) return fail(file, *refusal);
+  if (const QString wrong = wrongExtension(file, output, PictureFormat::Png); !wrong.isEmpty())
+    return complain(Command::Thumbnail, wrong);
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
   service_.openOnlyFor(PictureUse::Drawing);
-  const Result<QImage> thumbnail = thumbnailOf(service_, sourceOfInput(*bytes, file), side);
+  const Result<Thumbnail> thumbnail = thumbnailOf(service_, sourceOfInput(*bytes, file), side);
   if (!thumbnail) return fail(file, thumbnail.error());
-  QImage image = *thumbnail;
+  remark(file, thumbnail->warnings);
+  QImage image = thumbnail->image;
   if (arguments.has(Option::Uri)) describe(image, arguments.values.value(Option::Uri), file);
   const QByteArray png = pngOf(image);
   if (png.isEmpty())
     return fail(file, {ErrorKind::Unsupported, QStringLiteral("the picture cannot be written as PNG")});
-  // Desktops make an empty file first and give its name.
-  return writeOutput(output, png, true);
+  return writeOutput(output, png, replaces);
 }
 
 }  // namespace norvex

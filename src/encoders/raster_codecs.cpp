@@ -35,6 +35,19 @@ QByteArray encodeRaster(PictureFormat format, const NSBitmapImageRep& raster,
   return {};
 }
 
+std::optional<int> largestSide(PictureFormat format) {
+  switch (format) {
+    case PictureFormat::Webp:
+      return 16383;
+    case PictureFormat::Jpeg:
+      return 65500;  // the library's own, a little below that of the format
+    case PictureFormat::Gif:
+      return 65535;
+    default:
+      return std::nullopt;
+  }
+}
+
 void unpremultiplyRow(const uchar* from, uchar* to, int pixels) {
   for (int x = 0; x < pixels; ++x, from += 4, to += 4) {
     const int alpha = from[3];

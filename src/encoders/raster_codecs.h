@@ -38,6 +38,9 @@ struct CodecOf {
 [[nodiscard]] QByteArray encodeRaster(PictureFormat format, const NSBitmapImageRep& raster,
                                       const RasterProperties& properties);
 
+/// Pixels a side that the format can hold; nothing: as many as there can be.
+[[nodiscard]] std::optional<int> largestSide(PictureFormat format);
+
 /// True if the codecs take this layout.
 [[nodiscard]] bool isEncodable(const NSBitmapImageRep& raster);
 

@@ -72,7 +72,7 @@ class ArgumentsTest : public QObject {
                                 << "there is no command frobnicate, and no file of that name";
     QTest::newRow("no file") << QStringList{"info"} << "no file is given";
     QTest::newRow("two files") << QStringList{"source", "a", "b"} << "only one file can be given";
-    QTest::newRow("no output") << QStringList{"preview", "a"} << "no output is given (-o OUT)";
+    QTest::newRow("no output") << QStringList{"preview", "a"} << "no output is given (-o OUT or --to DIR)";
     QTest::newRow("no value") << QStringList{"preview", "a", "-o"} << "missing value after '-o'";
     QTest::newRow("no such shell") << QStringList{"--completion", "tcsh"}
                                    << "--completion is one of: bash zsh fish";
@@ -204,8 +204,8 @@ class ArgumentsTest : public QObject {
     QCOMPARE(line.run({"--help"}), 0);
     QCOMPARE(line.console.output, helpText(Command::Main).toUtf8());
     QCOMPARE(line.run({"preview", "--help"}), 0);
-    QVERIFY(
-        line.console.output.startsWith("Usage: norvex preview FILE -o OUT [options]\nWrite the embedded"));
+    QVERIFY(line.console.output.startsWith(
+        "Usage: norvex preview FILE... (-o OUT | --to DIR) [options]\nWrite the embedded"));
     QCOMPARE(line.run({"--version"}), 0);
     QCOMPARE(line.console.output, QByteArray("norvex " NORVEX_VERSION "\n"));
     QVERIFY(line.console.messages.isEmpty());

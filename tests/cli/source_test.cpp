@@ -132,7 +132,8 @@ class SourceTest : public QObject {
     const QString out = line.write("out.png", "old");
     QCOMPARE(line.run({"preview", file, "-o", out}), 4);
     QCOMPARE(line.contents("out.png"), QByteArray("old"));
-    QCOMPARE(line.console.messages, QString("norvex: %1: the file exists already\n").arg(out));
+    QCOMPARE(line.console.messages,
+             QString("norvex: %1: %2 exists already (--force overwrites it)\n").arg(file, out));
     QCOMPARE(line.run({"preview", file, "-o", out, "--force"}), 0);
     QVERIFY(line.contents("out.png").startsWith("\x89PNG"));
     QCOMPARE(line.entries(), QStringList({"a.epsi", "out.png"}));

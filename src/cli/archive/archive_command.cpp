@@ -8,6 +8,7 @@
 #include "cli/archive/state/state_summary.h"
 #include "cli/archive/state_report.h"
 #include "cli/json_output.h"
+#include "cli/output_file.h"
 
 namespace norvex {
 namespace {
@@ -33,6 +34,8 @@ ExitCode ArchiveCommand::start(const Arguments& arguments) {
     console_.message(wrong);
     return ExitCode::Usage;
   }
+  const QString report = fileNameText(read.plan.report);
+  if (const auto refusal = reportRefusal(report, arguments.has(Option::Force))) return fail(report, *refusal);
   const Interruption interruption;
   const ExitCode code = ArchiveRun(console_, service_, read.plan, interruption.token()).run();
   if (read.plan.report.isEmpty() || code == ExitCode::Usage) return code;
@@ -40,10 +43,22 @@ ExitCode ArchiveCommand::start(const Arguments& arguments) {
   return reported == ExitCode::Done ? code : reported;
 }
 
+/// A report is renewed with every run; nothing else gives way to one.
+std::optional<Error> ArchiveCommand::reportRefusal(const QString& report, bool force) const {
+  if (report.isEmpty()) return std::nullopt;
+  return outputRefusal({}, report, force || isStateReport(fileNameBytes(report)));
+}
+
 ExitCode ArchiveCommand::status(const Arguments& arguments) {
   const QString file = arguments.files.first();
   const QByteArray path = fileNameBytes(file);
-  QStringList others = arguments.lists.value(Option::Merge) + arguments.files.mid(1);
+  const QStringList others = arguments.lists.value(Option::Merge) + arguments.files.mid(1);
+  const QString report = arguments.values.value(Option::Report);
+  if (const auto refusal = reportRefusal(report, arguments.has(Option::Force))) return fail(report, *refusal);
+  // Before the state that takes them is made: one that is not there shall not leave an empty one.
+  for (const QString& other : others)
+    if (const auto opened = RunState::openToRead(fileNameBytes(other)); !opened)
+      return fail(other, {ErrorKind::CannotRead, opened.error().message});
   auto state = others.isEmpty() ? RunState::openToRead(path) : RunState::openForRun(path);
   if (!state) return fail(file, {ErrorKind::CannotRead, state.error().message});
   for (const QString& other : others)
@@ -52,12 +67,9 @@ ExitCode ArchiveCommand::status(const Arguments& arguments) {
   const StateSummary summary = summaryOf((*state)->database());
   const QByteArray text = arguments.has(Option::Json) ? jsonOutput(QJsonDocument(summaryObject(summary)))
                                                       : summaryText(summary).toUtf8();
-  if (!console_.write(text))
-    return fail(QStringLiteral("-"),
-                {ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")});
+  if (!console_.write(text)) return failToWrite();
   state->reset();
-  const QByteArray report = fileNameBytes(arguments.values.value(Option::Report));
-  return report.isEmpty() ? ExitCode::Done : writeReport(path, report);
+  return report.isEmpty() ? ExitCode::Done : writeReport(path, fileNameBytes(report));
 }
 
 ExitCode ArchiveCommand::writeReport(const QByteArray& state, const QByteArray& report) {

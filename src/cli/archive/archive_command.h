@@ -1,6 +1,8 @@
 // A command over an archive, and `norvex status`.
 #pragma once
 
+#include <optional>
+
 #include "cli/job.h"
 
 namespace norvex {
@@ -13,6 +15,7 @@ class ArchiveCommand final : public Job {
 
  private:
   ExitCode status(const Arguments& arguments);
+  [[nodiscard]] std::optional<Error> reportRefusal(const QString& report, bool force) const;
   ExitCode writeReport(const QByteArray& state, const QByteArray& report);
 };
 

@@ -15,6 +15,7 @@
 #include "base/latin1_text.h"
 #include "cli/archive/names/list_source.h"
 #include "cli/archive/names/tree_source.h"
+#include "cli/archive/state/file_stamp.h"
 #include "cli/value_reader.h"
 
 namespace norvex {
@@ -89,6 +90,7 @@ QByteArray settingsHash(const Arguments& arguments) {
     if (isAboutTheRun(row.id) || !arguments.has(row.id)) continue;
     add(QByteArray(row.name.data(), qsizetype(row.name.size())));
     add(bytesOf(arguments, row.id));
+    if (row.id == Option::Profile) add(contentHash(bytesOf(arguments, row.id)).value_or(QByteArray()));
   }
   return hash.result();
 }
@@ -172,6 +174,9 @@ ReadArchivePlan readArchivePlan(const Arguments& arguments) {
   if (arguments.has(Option::Recursive)) plan.tree = bytesOf(arguments, Option::Recursive);
   plan.base = bytesOf(arguments, Option::Base);
   plan.filter = {patternsOf(arguments, Option::Include), patternsOf(arguments, Option::Exclude)};
+  // Nothing else can be repaired, and what was never meant is no failure.
+  if (arguments.command == Command::Repair && plan.filter.include.isEmpty())
+    plan.filter.include = {"*.[eE][pP][sS]", "*.[eE][pP][sS][fFiI]"};
   plan.outputs = OutputNames::of(arguments);
   plan.state = bytesOf(arguments, Option::State);
   plan.report = bytesOf(arguments, Option::Report);

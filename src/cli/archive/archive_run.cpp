@@ -260,11 +260,12 @@ ExitCode ArchiveRun::tell() {
   console_.progress({});
   const std::lock_guard lock(breakMutex_);
   if (broken_) message(broken_->first, broken_->second.message);
-  if (!plan_.quiet)
+  if (!plan_.quiet && !console_.isClosed())
     console_.message(
         QStringLiteral("norvex: %1%2")
             .arg(cancel_.cancelled() ? QStringLiteral("interrupted; ") : QString(), tally_->summary()));
   if (cancel_.cancelled()) return ExitCode::Interrupted;
+  if (console_.isClosed()) return ExitCode::PipeClosed;
   return broken_ ? exitCodeOf(broken_->second) : tally_->code();
 }
 
@@ -281,7 +282,8 @@ bool ArchiveRun::tellOne(const FileResult& result) {
   const bool kept = keep(result);
   const QByteArray text = plan_.jsonLines ? resultLine(result) : plan_.outputs ? QByteArray() : result.text;
   if (!text.isEmpty() && !console_.write(text)) {
-    breakOff({ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")}, "-");
+    if (!console_.isClosed())
+      breakOff({ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")}, "-");
     return false;
   }
   brokenInARow_ = result.verdict == Verdict::Unwritten ? brokenInARow_ + 1 : 0;

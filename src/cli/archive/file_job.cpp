@@ -17,6 +17,7 @@ class FileConsole final : public Console {
   }
   void message(const QString& line) override { messages += visible(line) + u'\n'; }
   void progress(const QString&) override {}
+  [[nodiscard]] bool isClosed() const override { return false; }
   [[nodiscard]] bool isTerminal() const override { return false; }
   [[nodiscard]] bool showsProgress() const override { return true; }
 
@@ -30,8 +31,10 @@ class FileJob final : public Job {
   using Job::Job;
 
   std::optional<Error> error;
+  QString fault;
 
  private:
+  void noteFault(const QString& sentence) override { fault = sentence; }
   ExitCode fail(const QString& file, const Error& told) override {
     if (!error) error = told;
     return Job::fail(file, told);
@@ -46,6 +49,7 @@ FileAnswer doWithFile(PictureService& service, const Arguments& arguments) {
   FileAnswer answer;
   answer.code = job.dispatch(arguments);
   answer.error = job.error;
+  answer.fault = job.fault;
   answer.output = console.output;
   answer.messages = console.messages;
   return answer;

@@ -103,7 +103,7 @@ FileResult FileWork::run(const FileTask& task) const {
   const auto begun = std::chrono::steady_clock::now();
   FileAnswer answer;
   if (const auto made = plan_.outputs ? plan_.outputs->makeFoldersOf(task.output) : Result<void>(); !made) {
-    answer = {ExitCode::CannotWrite, made.error(), {}, {}};
+    answer = {ExitCode::CannotWrite, made.error(), {}, {}, {}};
     answer.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.output), made.error().message);
     judge(result, answer);
     return result;
@@ -119,7 +119,7 @@ FileResult FileWork::run(const FileTask& task) const {
   if (changes && answer.code == ExitCode::Done) {
     if (!task.output.isEmpty()) ::unlink(task.output.constData());  // it shows what the file was
     const QString sentence = QStringLiteral("it is being changed by another program");
-    answer = {ExitCode::CannotRead, Error{ErrorKind::CannotRead, sentence}, {}, {}};
+    answer = {ExitCode::CannotRead, Error{ErrorKind::CannotRead, sentence}, {}, {}, {}};
     answer.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.name.path), sentence);
     result.entry.stamp = {};
   }
@@ -137,7 +137,7 @@ void FileWork::judge(FileResult& result, const FileAnswer& answer) const {
   result.verdict = verdictOf(answer);
   result.messages = result.verdict == Verdict::Interrupted ? QString() : answer.messages;
   result.text = answer.output;
-  if (answer.error) result.sentence = toldError(*answer.error).sentence;
+  result.sentence = answer.error ? toldError(*answer.error).sentence : answer.fault;
   // One reason is one reason, whatever file it hits.
   result.sentence.remove(fileNameText(result.entry.output) + QStringLiteral(": "));
   result.entry.outcome = outcomeOf(result.verdict);

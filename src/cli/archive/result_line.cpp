@@ -17,14 +17,10 @@ constexpr const char* outcomes[] = {"done",      "unchanged",   "failed-before",
 
 QByteArray resultLine(const FileResult& result) {
   QJsonObject object = QJsonDocument::fromJson(result.text).array().first().toObject();
-  if (!object.contains(u"file")) object.insert(u"file", QString::fromUtf8(result.path));
+  insertName(object, QStringLiteral("file"), fileNameText(result.path));
   if (!object.contains(u"error") && !result.sentence.isEmpty()) object.insert(u"error", result.sentence);
   object.insert(u"line", result.number);
   object.insert(u"outcome", QLatin1String(outcomes[size_t(result.verdict)]));
-  if (fileNameText(result.path).toUtf8() != result.path) {
-    object.insert(u"file", QString::fromUtf8(result.path));  // with marks in place of what is no text
-    object.insert(u"fileBytes", QString::fromLatin1(result.path.toBase64()));
-  }
   return jsonLine(object);
 }
 

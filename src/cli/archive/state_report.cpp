@@ -17,6 +17,9 @@
 namespace norvex {
 namespace {
 
+constexpr char kBegin[] =
+    "<!DOCTYPE html>\n<html lang=en><meta charset=utf-8><meta name=generator content=\"Norvex\">"
+    "<title>Archive</title>\n";
 constexpr char kStyle[] =
     "body{font:15px/1.5 sans-serif;margin:2em auto;max-width:60em;padding:0 1em;color:#222;background:#fff}"
     "table{border-collapse:collapse;width:100%}td,th{text-align:left;padding:.35em .8em .35em 0;"
@@ -80,10 +83,9 @@ QString contactSheet(Database& state, PictureService& service) {
 
 QByteArray page(Database& state, PictureService& service) {
   const StateSummary summary = summaryOf(state);
-  QString text = QStringLiteral(
-                     "<!DOCTYPE html>\n<html lang=en><meta charset=utf-8><title>Archive</title>\n"
-                     "<meta name=viewport content=\"width=device-width\">\n<style>%1</style>\n")
-                     .arg(QLatin1String(kStyle));
+  QString text = QLatin1String(kBegin);
+  text += QStringLiteral("<meta name=viewport content=\"width=device-width\">\n<style>%1</style>\n")
+              .arg(QLatin1String(kStyle));
   text += QStringLiteral("<h1>Archive</h1>\n") + countsTable(summary);
   text += QStringLiteral("<h2>Failures</h2>\n") + failuresTable(summary);
   text += QStringLiteral("<h2>What changed most</h2>\n") + contactSheet(state, service);
@@ -91,8 +93,7 @@ QByteArray page(Database& state, PictureService& service) {
 }
 
 QJsonObject objectOf(const RunEntry& entry) {
-  QJsonObject object{{"file", QString::fromUtf8(entry.path)},
-                     {"outcome", QLatin1String(nameOf(entry.outcome))},
+  QJsonObject object{{"outcome", QLatin1String(nameOf(entry.outcome))},
                      {"bytes", entry.stamp.size},
                      {"time", entry.stamp.time},
                      {"seconds", entry.seconds},
@@ -100,11 +101,10 @@ QJsonObject objectOf(const RunEntry& entry) {
   const auto insert = [&](const char* key, const QString& text) {
     if (!text.isEmpty()) object.insert(QLatin1String(key), text);
   };
-  if (fileNameText(entry.path).toUtf8() != entry.path)
-    insert("fileBytes", QString::fromLatin1(entry.path.toBase64()));
+  insertName(object, QStringLiteral("file"), fileNameText(entry.path));
   insert("sha256", QString::fromLatin1(entry.content.toHex()));
   insert("error", entry.sentence);
-  insert("output", QString::fromUtf8(entry.output));
+  if (!entry.output.isEmpty()) insertName(object, QStringLiteral("output"), fileNameText(entry.output));
   insert("outputSha256", QString::fromLatin1(entry.outputContent.toHex()));
   if (entry.memoryKiB > 0) object.insert(u"memoryKiB", entry.memoryKiB);
   if (entry.changed > 0) object.insert(u"becameImage", entry.changed);
@@ -137,6 +137,17 @@ Result<void> writeLines(Database& state, const QByteArray& report) {
 }
 
 }  // namespace
+
+bool isStateReport(const QByteArray& path) {
+  constexpr qsizetype longestLine = 1 << 16;
+  const std::unique_ptr<FILE, int (*)(FILE*)> file(std::fopen(path.constData(), "re"), &std::fclose);
+  if (!file) return false;
+  QByteArray begin(longestLine, '\0');
+  begin.truncate(qsizetype(std::fread(begin.data(), 1, size_t(longestLine), file.get())));
+  if (begin.isEmpty() || begin.startsWith(kBegin)) return true;
+  const QJsonObject first = QJsonDocument::fromJson(begin.left(begin.indexOf('\n'))).object();
+  return first.contains(u"file") && first.contains(u"outcome") && first.contains(u"finished");
+}
 
 Result<void> writeStateReport(Database& state, PictureService& service, const QByteArray& report) {
   if (report.endsWith(".jsonl")) return writeLines(state, report);

@@ -14,4 +14,7 @@ namespace norvex {
 /// before and after, which `service` draws. Overwrites it. CannotWrite.
 Result<void> writeStateReport(Database& state, PictureService& service, const QByteArray& report);
 
+/// True for a file that writeStateReport() has written, and for an empty one.
+[[nodiscard]] bool isStateReport(const QByteArray& path);
+
 }  // namespace norvex

@@ -88,11 +88,34 @@ QString givenTwice(const QCommandLineParser& parser, const std::vector<OptionRow
   return {};
 }
 
+bool takesFolder(Command command) {
+  return (rowOf(Option::Folder).commands & only(command)) != 0;
+}
+
 /// Help and version are answered whatever else is missing.
 bool standsAlone(const Arguments& arguments) {
   for (const Option option : {Option::Help, Option::Version, Option::SandboxStatus, Option::Completion})
     if (arguments.has(option)) return true;
   return false;
+}
+
+/// The first option that makes the run one over an archive, with its dashes.
+QString archiveOptionOf(const Arguments& arguments) {
+  for (const OptionRow& row : optionTable)
+    if (isAboutArchives(row.id) && arguments.has(row.id)) return QStringLiteral("--") + latin1(row.name);
+  return QStringLiteral("--to");
+}
+
+/// No file has an empty name; where a variable of a script is empty, that is not what is meant.
+QString emptyName(const Arguments& arguments) {
+  if (arguments.files.contains(QString())) return QStringLiteral("a file's name is empty");
+  for (const Option option : {Option::Output, Option::Folder, Option::FilesFrom, Option::Recursive,
+                              Option::Base, Option::State, Option::Report})
+    if (arguments.has(option) && arguments.values.value(option).isEmpty())
+      return QStringLiteral("the name that follows --%1 is empty").arg(latin1(rowOf(option).name));
+  if (arguments.lists.value(Option::Merge).contains(QString()))
+    return QStringLiteral("the name that follows --merge is empty");
+  return {};
 }
 
 /// Names come from elsewhere, and go elsewhere than one output.
@@ -101,7 +124,12 @@ QString complaintAboutArchive(const Arguments& arguments) {
   if (!listed && !tree && arguments.files.isEmpty()) return QStringLiteral("no file is given");
   if (arguments.files.contains(QStringLiteral("-")))
     return QStringLiteral("standard input is not one of the files of an archive (--files-from - lists them)");
-  if (arguments.has(Option::Output)) return QStringLiteral("-o takes one file, --to DIR takes several");
+  if (arguments.has(Option::Output) && takesFolder(arguments.command))
+    return QStringLiteral("-o does not go with %1: the results go to a folder (--to DIR)")
+        .arg(archiveOptionOf(arguments));
+  if (arguments.has(Option::Pages))
+    return QStringLiteral("--pages does not go with %1: an archive has one result for each file")
+        .arg(archiveOptionOf(arguments));
   if (arguments.has(Option::Json)) return QStringLiteral("an archive is told line by line: --json-lines");
   if (arguments.has(Option::Null) && !listed) return QStringLiteral("--null goes with --files-from");
   if (!tree && (arguments.has(Option::Include) || arguments.has(Option::Exclude)))
@@ -123,6 +151,7 @@ QString complaintAbout(const Arguments& arguments) {
   for (auto it = arguments.values.begin(); it != arguments.values.end(); ++it)
     if (const QString wrong = wrongValue(rowOf(it.key()), it.value()); !wrong.isEmpty()) return wrong;
   if (standsAlone(arguments)) return {};
+  if (const QString empty = emptyName(arguments); !empty.isEmpty()) return empty;
   if (arguments.command == Command::Status && !arguments.files.isEmpty())
     return complaintAboutStatus(arguments);
   if (arguments.asksForArchive()) return complaintAboutArchive(arguments);
@@ -132,9 +161,8 @@ QString complaintAbout(const Arguments& arguments) {
   if (arguments.files.count(QStringLiteral("-")) > 1)
     return QStringLiteral("standard input can be read only once");
   const bool writes = arguments.command == Command::Preview || arguments.command == Command::Repair;
-  if (writes && !arguments.has(Option::Output)) return QStringLiteral("no output is given (-o OUT)");
-  if (arguments.command == Command::Preview && arguments.has(Option::Folder))
-    return QStringLiteral("-o takes one file, --to DIR takes several");
+  if (writes && !arguments.has(Option::Output))
+    return QStringLiteral("no output is given (-o OUT or --to DIR)");
   const bool takesJobs = arguments.command == Command::Convert || arguments.command == Command::Check;
   if (!takesJobs && arguments.has(Option::Jobs))
     return QStringLiteral("--jobs goes with --files-from, --recursive or --state");
@@ -144,7 +172,10 @@ QString complaintAbout(const Arguments& arguments) {
 }  // namespace
 
 bool Arguments::asksForArchive() const {
-  return std::any_of(values.keyBegin(), values.keyEnd(), isAboutArchives) && command != Command::Status;
+  if (command == Command::Status) return false;
+  // Results in a folder are what archives are made of; convert does several files at once by itself.
+  if (command != Command::Convert && has(Option::Folder)) return true;
+  return std::any_of(values.keyBegin(), values.keyEnd(), isAboutArchives);
 }
 
 ReadArguments readArguments(const QStringList& given) {

@@ -39,6 +39,7 @@ enum class Option {
   Rotate,
   Crop,
   Page,
+  Pages,
   Dpi,
   Background,
   Quality,
@@ -86,8 +87,9 @@ inline constexpr Commands openingCommands =
     only(Command::Check) | only(Command::Repair) | only(Command::Print);
 /// Those that do one thing with each file. A run over an archive is such a command for each of its files, so
 /// that a command gets lists, trees, states and the rest by standing here.
-inline constexpr Commands archiveCommands =
-    only(Command::Info) | only(Command::Preview) | only(Command::Convert);
+inline constexpr Commands archiveCommands = only(Command::Info) | only(Command::Preview) |
+                                            only(Command::Convert) | only(Command::Check) |
+                                            only(Command::Repair);
 
 /// A command takes the options of its own rows.
 struct OptionRow {
@@ -106,12 +108,13 @@ inline constexpr auto commandTable = std::to_array<CommandRow>({
     {Command::Info, "info", "FILE...", 1, -1, true,
      "show what is known about the files: header, boxes, pages"},
     {Command::Source, "source", "FILE", 1, 1, true, "write the decoded source text to standard output"},
-    {Command::Preview, "preview", "FILE -o OUT", 1, 1, true, "write the embedded preview as PNG"},
+    {Command::Preview, "preview", "FILE... (-o OUT | --to DIR)", 1, 1, true,
+     "write the embedded preview as PNG"},
     {Command::Convert, "convert", "FILE... (-o OUT | --to DIR)", 1, -1, true,
      "write the pictures in another format"},
     {Command::Check, "check", "FILE...", 1, -1, true,
      "tell what is wrong with the files, and what is in them for print"},
-    {Command::Repair, "repair", "FILE -o OUT", 1, 1, true,
+    {Command::Repair, "repair", "FILE... (-o OUT | --to DIR)", 1, 1, true,
      "mend an EPS file around its program: boxes, comments, preview"},
     {Command::Print, "print", "FILE (--printer NAME | -o OUT.pdf)", 1, 1, false,
      "print the picture, as vectors"},
@@ -125,13 +128,14 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Preview, only(Command::Repair), 0, "preview", "USE", "keep drop rebuild",
      "what becomes of the preview (keep)"},
     {Option::Json,
-     only(Command::Info) | only(Command::Convert) | only(Command::Check) | only(Command::Status), 0, "json",
+     only(Command::Info) | only(Command::Convert) | only(Command::Check) | only(Command::Repair), 0, "json",
      "", "", "one JSON array with an object for each file"},
+    {Option::Json, only(Command::Status), 0, "json", "", "", "one JSON object"},
     {Option::Output,
      only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Print), 'o',
      "output", "OUT", "", "the file to write; - is standard output"},
-    {Option::Folder, only(Command::Convert) | only(Command::Preview), 0, "to", "DIR", "",
-     "the folder to write each file to, under its own name"},
+    {Option::Folder, only(Command::Convert) | only(Command::Preview) | only(Command::Repair), 0, "to", "DIR",
+     "", "the folder to write each file to, under its own name"},
     {Option::Format, only(Command::Convert), 0, "format", "F", writtenFormatNames.text(),
      "the format; without it the extension of OUT decides"},
     {Option::Rotate, only(Command::Convert), 0, "rotate", "DEG", "",
@@ -139,6 +143,8 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Crop, only(Command::Convert), 0, "crop", "X,Y,W,H", "",
      "this rectangle alone: points in the turned view, origin at its lower-left corner, y up"},
     {Option::Page, only(Command::Convert), 0, "page", "N", "", "the page of a PDF, from 1"},
+    {Option::Pages, only(Command::Convert), 0, "pages", "LIST", "",
+     "these pages of a PDF, each to a file with its number in its name: all, or 1,3-5,8-"},
     {Option::Dpi, only(Command::Convert), 0, "dpi", "N", "",
      "pixels an inch of the raster formats (72: one a point)"},
     {Option::Background, only(Command::Convert), 0, "background", "COLOR", "",
@@ -146,15 +152,14 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Quality, only(Command::Convert), 0, "quality", "N", "", qualityHelp.text()},
     {Option::KeepActions, only(Command::Convert), 0, "keep-actions", "", "",
      "keep the scripts and actions of a PDF in the PDF made of it"},
-    {Option::Jobs, archiveCommands | only(Command::Check), 0, "jobs", "N", "",
-     "files at a time (as many as there are cores)"},
+    {Option::Jobs, archiveCommands, 0, "jobs", "N", "", "files at a time (as many as there are cores)"},
     {Option::Timeout, openingCommands, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
     {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},
     {Option::Force,
-     only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Print), 'f',
-     "force", "", "", "overwrite a file that exists"},
-    {Option::Quiet, only(Command::Convert) | only(Command::Repair), 'q', "quiet", "", "",
-     "tell nothing but errors"},
+     only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Print) |
+         only(Command::Status) | only(Command::Thumbnail),
+     'f', "force", "", "", "overwrite a file that exists"},
+    {Option::Quiet, archiveCommands, 'q', "quiet", "", "", "tell nothing but errors"},
     {Option::Printer, only(Command::Print), 0, "printer", "NAME", "", "the printer that prints it"},
     {Option::HeaderFooter, only(Command::Print), 0, "header-footer", "", "",
      "the date above the picture and the file's location below it, on every page"},

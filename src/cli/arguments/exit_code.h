@@ -16,6 +16,7 @@ enum class ExitCode {
   Limit = 5,  ///< time, memory or size
   NoSandbox = 6,
   Interrupted = 130,
+  PipeClosed = 141,  ///< nobody reads standard output any more; as the shell tells of programs that this ends
 };
 
 [[nodiscard]] ExitCode exitCodeOf(const Error& error);

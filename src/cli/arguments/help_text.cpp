@@ -8,7 +8,8 @@ namespace {
 constexpr char kEnd[] =
     "\nFILE and OUT may be -: standard input or output.\n"
     "\nExit codes: 0 all done, 1 some file failed, 2 wrong usage, 3 cannot read or parse,\n"
-    "4 cannot write, 5 a limit was reached, 6 no sandbox could be set up, 130 interrupted.\n";
+    "4 cannot write, 5 a limit was reached, 6 no sandbox could be set up, 130 interrupted,\n"
+    "141 nobody reads standard output any more.\n";
 
 /// `help` beside a column of names, broken at blanks so that lines stay narrow.
 QString besideNames(const QString& names, int column, const QString& help) {

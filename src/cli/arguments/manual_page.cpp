@@ -80,7 +80,7 @@ QString entries(const std::array<Entry, count>& all) {
   return text;
 }
 
-constexpr std::array<Entry, 8> exitCodes{{
+constexpr std::array<Entry, 9> exitCodes{{
     {"0", "All is done."},
     {"1", "Some file failed and the others were done, or a file has not what was asked for."},
     {"2", "The arguments are wrong."},
@@ -89,6 +89,7 @@ constexpr std::array<Entry, 8> exitCodes{{
     {"5", "A limit of time, memory or size was reached."},
     {"6", "No sandbox could be set up."},
     {"130", "The run was interrupted."},
+    {"141", "Nobody reads standard output any more."},
 }};
 
 constexpr std::array<Entry, 4> environment{{

@@ -39,8 +39,8 @@ QImage previewImage(PictureService& service, const QByteArray& bytes, int side, 
   return image.isNull() ? image : onPaper(fitted(image, side));
 }
 
-Result<QImage> drawnImage(PictureService& service, const PictureSource& source, int side,
-                          const CancelToken& cancel) {
+Result<Thumbnail> drawnThumbnail(PictureService& service, const PictureSource& source, int side,
+                                 const CancelToken& cancel) {
   const auto opened = openPicture(service, source, thumbnailLimits(), cancel);
   if (!opened) return opened.error();
   const NSImageRep& rep = **opened;
@@ -49,23 +49,23 @@ Result<QImage> drawnImage(PictureService& service, const PictureSource& source, 
   if (!(longer > 0)) return Error{ErrorKind::Unsupported, QStringLiteral("the picture has no size")};
   const Result<QImage> image = rep.rasterImage(side / longer, RenderPurpose::Preview, cancel);
   if (!image) return image.error();
-  return rep.pictureKind() == PictureKind::Svg ? *image : onPaper(*image);
+  return Thumbnail{rep.pictureKind() == PictureKind::Svg ? *image : onPaper(*image), rep.warnings()};
 }
 
 }  // namespace
 
-Result<QImage> thumbnailOf(PictureService& service, const PictureSource& source, int side,
-                           const CancelToken& cancel) {
+Result<Thumbnail> thumbnailOf(PictureService& service, const PictureSource& source, int side,
+                              const CancelToken& cancel) {
   const Result<PictureKind> kind = pictureKindOf(source.bytes, source.typeIdentifier);
   if (!kind) return kind.error();
   const TimeLimit time(std::chrono::seconds(thumbnailSeconds), cancel);
   if (*kind == PictureKind::Eps) {
     const QImage preview = previewImage(service, source.bytes, side, time.token());
-    if (!preview.isNull()) return preview;
+    if (!preview.isNull()) return Thumbnail{preview, {}};
   }
-  const Result<QImage> drawn = drawnImage(service, source, side, time.token());
+  Result<Thumbnail> drawn = drawnThumbnail(service, source, side, time.token());
   if (!drawn) return time.explained(drawn.error());
-  return *drawn;
+  return drawn;
 }
 
 }  // namespace norvex

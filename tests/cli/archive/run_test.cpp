@@ -10,11 +10,25 @@
 #include "cli/archive/archive_files.h"
 #include "cli/archive/archive_run.h"
 #include "kit/test_main.h"
+#include "protocol/page_contents.h"
 
 using namespace norvex;
 using namespace norvex::testdata;
 
 namespace {
+
+/// Pictures in which there is nothing to find, drawn within their box.
+MemoryPicture examinedPicture() {
+  MemoryPicture picture;
+  picture.examine = [](const ExamineRequest& request) {
+    const QRectF ink(1, 1, 20, 30);
+    PageContents contents;
+    contents.size = {30, 40};
+    return request.what == Examination::Drawn ? encodeDrawnInk({ink, ink, QRectF(0, 0, 30, 40), 0.1})
+                                              : encodePageContents(contents);
+  };
+  return picture;
+}
 
 /// Lets the first picture wait until something was told of another.
 class WaitingConsole : public Console {
@@ -36,6 +50,7 @@ class WaitingConsole : public Console {
   }
   void message(const QString&) override {}
   void progress(const QString&) override {}
+  [[nodiscard]] bool isClosed() const override { return false; }
   [[nodiscard]] bool isTerminal() const override { return false; }
   [[nodiscard]] bool showsProgress() const override { return true; }
 
@@ -81,7 +96,19 @@ class RunTest : public QObject {
     row({"preview", "--recursive", "d"}, "--to DIR is needed");
     row({"convert", "--recursive", "d", "--format", "pdf"}, "--to DIR is needed");
     row({"convert", "--recursive", "d", "--to", "e"}, "no format is given (--format)");
-    row({"convert", "--recursive", "d", "-o", "e"}, "-o takes one file, --to DIR takes several");
+    row({"convert", "--recursive", "d", "-o", "e"},
+        "-o does not go with --recursive: the results go to a folder (--to DIR)");
+    row({"convert", "a", "--json-lines", "-o", "e"},
+        "-o does not go with --json-lines: the results go to a folder (--to DIR)");
+    row({"preview", "a", "--to", "d", "-o", "e"},
+        "-o does not go with --to: the results go to a folder (--to DIR)");
+    row({"repair", "--files-from", "l"}, "--to DIR is needed");
+    row({"check", "--files-from", "l", "--profile", "nowhere"},
+        "--profile: there is no profile nowhere, and no file of that name; profiles are: archive, journal, "
+        "print, "
+        "web");
+    row({"convert", "a", "--to", "d", "--format", "png", "--pages", "all", "--json-lines"},
+        "--pages does not go with --json-lines: an archive has one result for each file");
     row({"convert", "--recursive", "d", "--to", "e", "--format", "png", "--dpi", "0"},
         "--dpi is a number from 1 to 9600");
     row({"status"}, "no file is given");
@@ -180,6 +207,80 @@ class RunTest : public QObject {
     QVERIFY(archive.bytesAt("out/a/b.png").startsWith("\x89PNG"));
   }
 
+  void previewsOfSeveralFilesGoIntoAFolder() {
+    Archive archive;
+    QStringList files{"preview", "--to", archive.folder("out")};
+    for (const char* name : {"in/a.epsi", "in/b.epsi"}) files << fileNameText(archive.put(name, kEpsi));
+    QCOMPARE(archive.go(files), 0);
+    QCOMPARE(archive.filesBelow("out"), QList<QByteArray>({"a.png", "b.png"}));
+    QCOMPARE(archive.go(files.mid(0, 4)), 4);  // nothing is overwritten
+  }
+
+  void anArchiveIsChecked() {
+    Archive archive;
+    archive.service.setPicture(examinedPicture());
+    archive.put("in/good.svg");
+    archive.put("in/bad.eps", "%!PS-Adobe-3.0 EPSF-3.0\n%%EndComments\nshowpage\n");
+    const QStringList run{"check", "--recursive", archive.folder("in"), "--state", archive.path("state")};
+    QCOMPARE(archive.go(run + QStringList{"--json-lines"}), 1);
+    QJsonObject bad;
+    for (const QJsonObject& line : archive.lines()) {
+      const bool isBad = line.value("file").toString().endsWith("bad.eps");
+      QCOMPARE(line.value("outcome").toString(), isBad ? "failed" : "done");
+      if (isBad) bad = line;
+    }
+    QVERIFY(!bad.value("findings").toArray().isEmpty());
+    const QString sentence = bad.value("error").toString();
+    QVERIFY2(!sentence.isEmpty(), archive.console.output.constData());
+    QCOMPARE(archive.go(run), 1);  // what was found is known, and is still a failure
+    QVERIFY(archive.console.messages.endsWith("1 unchanged, 1 failed before\n"));
+    QCOMPARE(archive.go({"status", archive.path("state")}), 0);
+    QVERIFY2(archive.console.output.contains("1 x " + sentence.toUtf8() + ", for example "),
+             archive.console.output.constData());
+    QCOMPARE(archive.go(run + QStringList{"--profile", "web"}), 1);  // is judged anew
+    QVERIFY(archive.console.messages.endsWith("1 done, 1 failed\n"));
+  }
+
+  void aProfileThatChangesIsAnotherOne() {
+    Archive archive;
+    archive.service.setPicture(examinedPicture());
+    archive.put("in/a.svg"), archive.put("p.toml", "[limits]\nrgb = true\n");
+    const QStringList run{
+        "check",     "--recursive",         archive.folder("in"), "--state", archive.path("state"),
+        "--profile", archive.path("p.toml")};
+    QCOMPARE(archive.go(run), 0);
+    QCOMPARE(archive.go(run), 0);
+    QVERIFY(archive.console.messages.endsWith("1 unchanged\n"));
+    archive.put("p.toml", "[limits]\nrgb = false\n");
+    QCOMPARE(archive.go(run), 0);
+    QVERIFY(archive.console.messages.endsWith("1 done\n"));
+  }
+
+  void anArchiveIsRepairedIntoATreeOfTheSameNames() {
+    Archive archive;
+    archive.service.setPicture(examinedPicture());
+    archive.put("in/a/b.EPS", kEps), archive.put("in/c.epsf", "no program"), archive.put("in/d.pdf", kPdf);
+    QCOMPARE(archive.go({"repair", "--recursive", archive.path("in"), "--to", archive.folder("out"),
+                         "--json-lines", "-q"}),
+             1);
+    QCOMPARE(archive.lines().size(), 2);  // what is named as PDF is no file to be repaired
+    for (const QJsonObject& line : archive.lines()) {
+      const bool isSound = line.value("file").toString().endsWith("b.EPS");
+      QCOMPARE(line.value("outcome").toString(), isSound ? "done" : "failed");
+      QCOMPARE(line.value("changes").toArray().isEmpty(), !isSound);
+    }
+    QCOMPARE(archive.filesBelow("out"), QList<QByteArray>({"a/b.EPS"}));
+    QVERIFY(archive.bytesAt("out/a/b.EPS").startsWith("%!PS-Adobe-3.0 EPSF-3.0"));
+  }
+
+  void nothingButErrorsIsToldQuietly() {
+    Archive archive;
+    archive.put("in/a.svg");
+    QCOMPARE(archive.go({"info", "--recursive", archive.path("in"), "-q"}), 0);
+    QCOMPARE(archive.console.messages, QString());
+    QVERIFY(archive.console.output.contains("a.svg"));
+  }
+
   // ---- what is told --------------------------------------------------------------------------------------
 
   void everyNameIsAnsweredInItsPlace() {
@@ -251,6 +352,16 @@ class RunTest : public QObject {
     archive.console.full = true;
     QCOMPARE(archive.go({"info", "--files-from", archive.path("list"), "--json-lines"}), 4);
     QVERIFY(archive.console.messages.contains("norvex: -: standard output cannot be written\n"));
+  }
+
+  void aReaderThatHasGoneEndsTheRunWithoutAWord() {
+    Archive archive;
+    QByteArray list;
+    for (int i = 0; i < 100; ++i) list += archive.put("in/" + QByteArray::number(i) + ".svg") + '\n';
+    archive.put("list", list);
+    archive.console.closed = true;
+    QCOMPARE(archive.go({"info", "--files-from", archive.path("list"), "--json-lines"}), 141);
+    QCOMPARE(archive.console.messages, QString());
   }
 
   void theProgressTellsRateAndTimeLeft() {

@@ -2,6 +2,8 @@
 #include <QCryptographicHash>
 #include <QFileInfo>
 #include <QJsonArray>
+#include <QRegularExpression>
+#include <QSet>
 
 #include <atomic>
 #include <utility>
@@ -196,7 +198,14 @@ class StateTest : public QObject {
     QCOMPARE(kept.filesBelow("out"), QList<QByteArray>());
     QCOMPARE(kept.go({"status", kept.path("state")}), 3);
     QCOMPARE(kept.go({"status", kept.path("missing")}), 3);
+    QVERIFY(kept.console.messages.endsWith(": there is no such state\n"));
     QVERIFY(!QFileInfo::exists(kept.path("missing")));
+    QCOMPARE(kept.go({"status", kept.path("new"), "--merge", kept.path("missing")}), 3);
+    QCOMPARE(kept.console.messages,
+             QString("norvex: %1: there is no such state\n").arg(kept.path("missing")));
+    QCOMPARE(kept.go({"status", kept.path("new"), "--merge", kept.path("state")}), 3);
+    QVERIFY(kept.console.messages.endsWith("/state: it is no state of a run\n"));
+    QVERIFY(!QFileInfo::exists(kept.path("new")));
   }
 
   void theStatusTellsCountsAndTheCommonestFailuresWithAnExample() {
@@ -237,7 +246,7 @@ class StateTest : public QObject {
     // A run over all finds nothing to do.
     QCOMPARE(kept.convertTree({"--state", kept.path("all"), "--json-lines"}), 0);
     QCOMPARE(kept.told("outcome"), QStringList(20, "unchanged"));
-    QCOMPARE(kept.go({"status", kept.path("all"), "--merge", kept.put("x", "no state")}), 4);
+    QCOMPARE(kept.go({"status", kept.path("all"), "--merge", kept.put("x", "no state")}), 3);
   }
 
   void ofTwoStatesTheNewerEntryCounts() {
@@ -281,6 +290,94 @@ class StateTest : public QObject {
     QCOMPARE(done.value("sha256").toString(), done.value("outputSha256").toString());
     QCOMPARE(done.value("sha256").toString().size(), 64);
     QVERIFY(!kept.filesBelow("").contains("report.jsonl.part"));
+  }
+
+  void noNameOrSentenceIsStructureOfTheReport() {
+    Kept kept;
+    const QList<QByteArray> names{"<script>alert(1)<",
+                                  "\" onerror=\"x.svg",
+                                  "' x='.svg",
+                                  "--><b>.svg",
+                                  "&lt;b&gt;&#60;i>.svg",
+                                  "a\nb<br>\rc\t.svg",
+                                  "\x1B[31m\x7F.svg",
+                                  "\xFF\xFE<u>.svg",
+                                  "\xC0\xBCimg>.svg",
+                                  "\xE2\x80\xAEgvs.exe",
+                                  "\xE2\x81\xA6<\xE2\x80\xA9.svg",
+                                  "]]><![CDATA[.svg",
+                                  "{{7*7}}${x}.svg"};
+    for (const QByteArray& name : names) kept.put("in/" + name, "no picture");
+    kept.service.setPrepare([](MemoryPictureProcess& process) {
+      static std::atomic<int> number = 0;  // each its own cause, so that all are told
+      process.fail(PictureCall::Facts,
+                   {ErrorKind::NotParsable, QStringLiteral("<b>\"'&%1</table>").arg(++number)});
+    });
+    for (int first = 0; first < int(names.size()); first += 6) {  // the report has room for ten causes
+      QByteArray some;
+      for (const QByteArray& name : names.mid(first, 6)) some += kept.at("in/" + name) + '\0';
+      kept.put("list", some);
+      const QString state = kept.path(QString("state%1").arg(first)),
+                    report = kept.path(QString("report%1.html").arg(first));
+      QCOMPARE(kept.convert(
+                   {"--files-from", kept.path("list"), "--null", "--state", state, "--report", report, "-q"}),
+               3);
+      const QByteArray page = kept.contents(QString("report%1.html").arg(first));
+      QVERIFY(page.isValidUtf8());
+      // Of all that begins with < nothing is but what the page is made of.
+      static const QRegularExpression tag(QStringLiteral("<([^>]*)"));
+      QSet<QString> tags;
+      for (auto match = tag.globalMatch(QString::fromUtf8(page)); match.hasNext();)
+        tags << match.next().captured(1);
+      const QSet<QString> ours{"!DOCTYPE html",
+                               "html lang=en",
+                               "meta charset=utf-8",
+                               "meta name=generator content=\"Norvex\"",
+                               "title",
+                               "/title",
+                               "meta name=viewport content=\"width=device-width\"",
+                               "style",
+                               "/style",
+                               "h1",
+                               "/h1",
+                               "table",
+                               "/table",
+                               "tr",
+                               "td",
+                               "td class=n",
+                               "th",
+                               "h2",
+                               "/h2",
+                               "p",
+                               "/p"};
+      QVERIFY2((tags - ours).isEmpty(), qPrintable((tags - ours).values().join('|')));
+      const QString rows = QString::fromUtf8(page).section("<h2>Failures</h2>", 1);
+      QCOMPARE(rows.count("<tr><td class=n>1<td>"), qsizetype(names.mid(first, 6).size()));
+      for (const QChar c : rows)
+        QVERIFY2(c == u'\n' || (c.category() != QChar::Other_Control && c.category() != QChar::Other_Format),
+                 qPrintable(QString::number(c.unicode(), 16)));
+    }
+  }
+
+  void aReportIsRenewedAndOverwritesNothingElse() {
+    Kept kept;
+    kept.put("in/a.svg");
+    const QString page = kept.path("r.html"), lines = kept.path("r.jsonl");
+    for (const QString& report : {page, lines, page, lines}) QCOMPARE(kept.run({"--report", report}), 0);
+    kept.put("mine.html", "<!DOCTYPE html>\n<p>mine"), kept.put("mine.jsonl", "{\"file\":1}\n");
+    for (const QString& report : {kept.path("mine.html"), kept.path("mine.jsonl")}) {
+      const QByteArray before = kept.bytesAt(QFileInfo(report).fileName().toUtf8());
+      for (const QStringList& command :
+           {QStringList{"status", kept.path("state")},
+            QStringList{"info", kept.path("in/a.svg"), "--state", kept.path("other")}}) {
+        QCOMPARE(kept.go(command + QStringList{"--report", report}), 4);
+        QVERIFY(kept.console.messages.contains("exists already (--force overwrites it)"));
+      }
+      QCOMPARE(kept.bytesAt(QFileInfo(report).fileName().toUtf8()), before);
+      QCOMPARE(kept.go({"status", kept.path("state"), "--report", report, "--force"}), 0);
+      QVERIFY(kept.bytesAt(QFileInfo(report).fileName().toUtf8()) != before);
+    }
+    QVERIFY(!QFileInfo::exists(kept.path("other")));  // refused before the run
   }
 
   void theReportShowsWhatBecameAnImageBeforeAndAfter() {

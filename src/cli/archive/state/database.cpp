@@ -103,6 +103,8 @@ qint64 Database::number(const char* sql, qint64 fallback) {
 }
 
 Error Database::error() const {
+  if (database_ && (::sqlite3_errcode(database_.get()) & 0xFF) == SQLITE_NOTADB)
+    return {ErrorKind::CannotWrite, QStringLiteral("it is no state of a run")};
   const char* words = database_ ? ::sqlite3_errmsg(database_.get()) : "out of memory";
   return {ErrorKind::CannotWrite, QString::fromUtf8(words)};
 }

@@ -106,6 +106,7 @@ Result<std::unique_ptr<RunState>> RunState::openForRun(const QByteArray& path) {
 }
 
 Result<std::unique_ptr<RunState>> RunState::openToRead(const QByteArray& path) {
+  if (::access(path.constData(), F_OK) != 0) return notAState(QStringLiteral("there is no such state"));
   return open(path, FileDescriptor(), false);
 }
 

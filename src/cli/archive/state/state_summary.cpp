@@ -7,6 +7,7 @@
 #include "base/file_name.h"
 #include "cli/archive/state/run_entry.h"
 #include "cli/console.h"
+#include "cli/json_output.h"
 
 namespace norvex {
 namespace {
@@ -93,10 +94,11 @@ QJsonObject summaryObject(const StateSummary& summary) {
   if (summary.filesASecond > 0) object.insert(u"filesASecond", summary.filesASecond);
   if (summary.memoryKiB > 0) object.insert(u"memoryKiB", summary.memoryKiB);
   QJsonArray failures;
-  for (const StateSummary::Failure& failure : summary.failures)
-    failures.append(QJsonObject{{"sentence", failure.sentence},
-                                {"count", failure.count},
-                                {"example", QString::fromUtf8(failure.example)}});
+  for (const StateSummary::Failure& failure : summary.failures) {
+    QJsonObject object{{"sentence", failure.sentence}, {"count", failure.count}};
+    insertName(object, QStringLiteral("example"), fileNameText(failure.example));
+    failures.append(object);
+  }
   object.insert(u"failures", failures);
   return object;
 }

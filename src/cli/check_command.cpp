@@ -13,6 +13,7 @@
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "cli/json_output.h"
+#include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
 #include "picture_check/picture_check.h"
 
@@ -99,6 +100,9 @@ ExitCode Job::check(const Arguments& arguments) {
   common.limits = values.limits();
   const int jobs = values.integer(Option::Jobs, std::max(1, QThread::idealThreadCount()), 1, 1024);
   if (!values.complaint().isEmpty()) return complain(Command::Check, values.complaint());
+  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
+  if (!reader) return complain(Command::Check, reader.error().message);
+  common.password = reader->password;
   if (arguments.has(Option::Profile)) {
     const QString name = arguments.values.value(Option::Profile);
     Result<Profile> profile = profileNamed(name);

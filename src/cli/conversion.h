@@ -11,6 +11,7 @@
 
 #include "base/cancel_token.h"
 #include "cli/page_list.h"
+#include "cli/reader/reader_options.h"
 #include "encoders/encoded_picture.h"
 #include "picture/open_picture.h"
 #include "picture/process/picture_process.h"
@@ -26,6 +27,7 @@ struct ConversionOptions {
   std::optional<int> quality;  ///< 1 … 100; nothing: the format's own
   bool keepActions = false;    ///< of a PDF, in the PDF made of it
   QColor background;           ///< invalid: what is not painted stays transparent
+  ReaderOptions reader;
   PictureLimits limits;
 };
 

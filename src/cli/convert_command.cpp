@@ -104,8 +104,11 @@ QString doubleTarget(const QList<ConvertTask>& tasks) {
 }  // namespace
 
 ExitCode Job::convert(const Arguments& arguments) {
-  const ReadPlan read = readConvertPlan(arguments);
+  ReadPlan read = readConvertPlan(arguments);
   if (!read.complaint.isEmpty()) return complain(Command::Convert, read.complaint);
+  Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
+  if (!reader) return complain(Command::Convert, reader.error().message);
+  read.plan.options.reader = std::move(*reader);
   const ConvertPlan& plan = read.plan;
   if (const QString path = doubleTarget(plan.tasks); !path.isEmpty()) {
     return complain(Command::Convert, QStringLiteral("more than one file would become %1").arg(path));

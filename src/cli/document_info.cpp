@@ -81,15 +81,19 @@ void readFacts(DocumentInfo& info, const Result<PictureFacts>& facts) {
   info.viewBox = facts->viewBox;
   info.fonts = facts->fonts;
   info.colorSpaces = facts->colorSpaces;
+  info.layers = facts->layers;
   info.warnings = facts->warnings;
 }
 
 void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, const QByteArray& bytes,
-                 const PictureLimits& limits) {
+                 const PictureLimits& limits, const ReaderOptions& reader) {
   const TimeLimit time(std::chrono::seconds(limits.seconds), {});
   info.rectangleTitle = kind == PictureKind::Svg ? QStringLiteral("ViewBox") : QStringLiteral("Bounds");
   if (kind == PictureKind::Eps) return readEps(info, service, bytes, limits, time.token());
-  const Result<PictureFacts> facts = service.open(bytes, kind, limits)->facts(time.token());
+  PictureSource source = sourceOfInput(bytes, info.file);
+  const Result<PictureBytes> read = documentAsOptioned(service, source, reader, limits, time.token());
+  const Result<PictureFacts> facts =
+      read ? service.open(read->bytes, kind, limits)->facts(time.token()) : read.error();
   readFacts(info, facts);
   if (info.error) info.error = time.explained(*info.error);
   info.header = pictureHeader(kind, bytes, facts);
@@ -98,7 +102,7 @@ void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, 
 }  // namespace
 
 DocumentInfo documentInfo(PictureService& service, const QString& file, const Result<QByteArray>& bytes,
-                          const PictureLimits& limits) {
+                          const PictureLimits& limits, const ReaderOptions& reader) {
   DocumentInfo info;
   info.file = file;
   if (!bytes) {
@@ -109,7 +113,7 @@ DocumentInfo documentInfo(PictureService& service, const QString& file, const Re
   info.kind = nameOf(documentKind(info.typeIdentifier));
   const Result<PictureKind> kind = pictureKindOf(*bytes, info.typeIdentifier);
   if (kind)
-    readPicture(info, service, *kind, *bytes, limits);
+    readPicture(info, service, *kind, *bytes, limits, reader);
   else
     info.error = kind.error();
   return info;

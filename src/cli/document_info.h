@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "base/result.h"
+#include "cli/reader/reader_options.h"
 #include "metadata/guessed_header.h"
 #include "metadata/header_dictionary.h"
 #include "picture/process/picture_process.h"
@@ -28,6 +29,7 @@ struct DocumentInfo {
   std::optional<QRectF> hiResBoundingBox;
   std::optional<int> pages;
   QStringList fonts, colorSpaces;  ///< that the picture uses, as far as that is told without drawing it
+  QList<PictureLayer> layers;      ///< of a PDF, as they are shown
   QStringList warnings;
   std::optional<Error> error;
 };
@@ -35,6 +37,7 @@ struct DocumentInfo {
 /// Finds everything out about a file that was read. PostScript is looked at here; PDF and SVG are opened by
 /// `service`, and so is the TIFF preview of binary EPS. Blocks; may be called by several threads.
 [[nodiscard]] DocumentInfo documentInfo(PictureService& service, const QString& file,
-                                        const Result<QByteArray>& bytes, const PictureLimits& limits = {});
+                                        const Result<QByteArray>& bytes, const PictureLimits& limits = {},
+                                        const ReaderOptions& reader = {});
 
 }  // namespace norvex

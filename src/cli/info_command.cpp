@@ -32,6 +32,8 @@ ExitCode Job::info(const Arguments& arguments) {
   ValueReader values(arguments);
   const PictureLimits limits = values.limits();
   if (!values.complaint().isEmpty()) return complain(Command::Info, values.complaint());
+  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
+  if (!reader) return complain(Command::Info, reader.error().message);
   // Standard input is read here: it can be read once, and a terminal may take its time.
   const bool fromInput = arguments.files.contains(QStringLiteral("-"));
   const Result<QByteArray> input =
@@ -41,7 +43,8 @@ ExitCode Job::info(const Arguments& arguments) {
   pool.setMaxThreadCount(threadsWithinOpenFiles(pool.maxThreadCount()));
   const auto find = [&](const QString& file) {
     const bool isInput = file == QLatin1String("-");
-    return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file), limits), json);
+    return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file), limits, *reader),
+                     json);
   };
   // A single file is not worth a thread.
   const QFuture<Finding> findings = arguments.files.size() == 1

@@ -60,10 +60,21 @@ QString textOf(const QVariant& value) {
   return value.typeId() == QMetaType::QColorSpace ? nameOf(value.value<QColorSpace>()) : value.toString();
 }
 
+QJsonArray layerObjects(const QList<PictureLayer>& layers) {
+  QJsonArray objects;
+  for (const PictureLayer& layer : layers)
+    objects.append(QJsonObject{{"name", layer.name}, {"shown", layer.shown}});
+  return objects;
+}
+
 QJsonObject guessObject(const GuessedHeader& guess) {
   QJsonObject object = QJsonObject::fromVariantMap(guess.values);
   object.insert(QStringLiteral("Encoding"), guess.encodingName);
   return object;
+}
+
+QString layerText(const PictureLayer& layer) {
+  return layer.name + (layer.shown ? QStringLiteral(" (on)") : QStringLiteral(" (off)"));
 }
 
 QString line(const QString& name, const QString& value) {
@@ -101,6 +112,7 @@ QJsonObject infoObject(const DocumentInfo& info) {
   if (info.pages) insert("pages", *info.pages);
   if (!info.fonts.isEmpty()) insert("fonts", QJsonArray::fromStringList(info.fonts));
   if (!info.colorSpaces.isEmpty()) insert("colorSpaces", QJsonArray::fromStringList(info.colorSpaces));
+  if (!info.layers.isEmpty()) insert("layers", layerObjects(info.layers));
   if (info.guessed) insert("guessedHeader", guessObject(*info.guessed));
   if (info.error) insertError(object, *info.error);
   return object;
@@ -125,6 +137,8 @@ QString infoText(const DocumentInfo& info) {
   if (info.pages) text += line("Pages", QString::number(*info.pages));
   if (!info.fonts.isEmpty()) text += line("Fonts", info.fonts.join(QStringLiteral(", ")));
   if (!info.colorSpaces.isEmpty()) text += line("ColorSpaces", info.colorSpaces.join(QStringLiteral(", ")));
+  for (qsizetype i = 0; i < info.layers.size(); ++i)
+    text += line(QStringLiteral("Layer %1").arg(i + 1), layerText(info.layers[i]));
   for (const QString& warning : info.warnings) text += line("Warning", warning);
   return text;
 }

@@ -33,6 +33,8 @@ ExitCode Job::dispatch(const Arguments& arguments) {
       return info(arguments);
     case Command::Source:
       return source(arguments);
+    case Command::Text:
+      return text(arguments);
     case Command::Preview:
       return preview(arguments);
     case Command::Convert:

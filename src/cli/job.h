@@ -58,6 +58,7 @@ class Job {
  private:
   ExitCode info(const Arguments& arguments);
   ExitCode source(const Arguments& arguments);
+  ExitCode text(const Arguments& arguments);
   ExitCode preview(const Arguments& arguments);
   ExitCode thumbnail(const Arguments& arguments);
   ExitCode convert(const Arguments& arguments);

@@ -9,6 +9,7 @@
 #include "cli/input_file.h"
 #include "cli/output_file.h"
 #include "cli/printing_job.h"
+#include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
@@ -71,6 +72,8 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   ValueReader values(arguments);
   const PictureLimits limits = values.limits();
   if (!values.complaint().isEmpty()) return complain(Command::Print, values.complaint());
+  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
+  if (!reader) return complain(Command::Print, reader.error().message);
   const QString file = arguments.files.first(), output = arguments.values.value(Option::Output);
   const NSPrintInfo info = printInfoOf(arguments);
   if (!output.isEmpty())
@@ -82,11 +85,14 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
       return fail(file, printer.error());
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
-  const PictureSource picture = sourceOfInput(*bytes, file);
+  PictureSource picture = sourceOfInput(*bytes, file);
 
   const Interruption interruption;
   const CancelToken cancel = interruption.token();
   const TimeLimit time(std::chrono::seconds(limits.seconds), cancel);
+  const Result<PictureBytes> read = documentAsOptioned(service_, picture, *reader, limits, time.token());
+  if (!read) return fail(file, time.explained(read.error()));
+  picture.bytes = read->bytes;
   const auto opened = openPicture(service_, picture, limits, time.token());
   if (!opened) return fail(file, time.explained(opened.error()));
   const PrintSource source = sourceOf(*opened, picture.fileURL);

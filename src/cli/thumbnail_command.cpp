@@ -9,6 +9,7 @@
 #include "cli/job.h"
 #include "cli/output_file.h"
 #include "cli/previews/thumbnail.h"
+#include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
 
 namespace norvex {
@@ -38,6 +39,8 @@ ExitCode Job::thumbnail(const Arguments& arguments) {
   ValueReader values(arguments);
   const int side = values.integer(Option::Size, kUsualSide, 1, kLargestSide);
   if (!values.complaint().isEmpty()) return complain(Command::Thumbnail, values.complaint());
+  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
+  if (!reader) return complain(Command::Thumbnail, reader.error().message);
   // Desktops make an empty file first and give its name.
   const bool replaces = arguments.has(Option::Force) || (fileExists(output) && QFileInfo(output).size() == 0);
   if (const auto refusal = outputRefusal(file, output, replaces)) return fail(file, *refusal);
@@ -46,7 +49,11 @@ ExitCode Job::thumbnail(const Arguments& arguments) {
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
   service_.openOnlyFor(PictureUse::Drawing);
-  const Result<Thumbnail> thumbnail = thumbnailOf(service_, sourceOfInput(*bytes, file), side);
+  PictureSource source = sourceOfInput(*bytes, file);
+  const Result<PictureBytes> read = documentAsOptioned(service_, source, *reader);
+  if (!read) return fail(file, read.error());
+  source.bytes = read->bytes;
+  const Result<Thumbnail> thumbnail = thumbnailOf(service_, source, side);
   if (!thumbnail) return fail(file, thumbnail.error());
   remark(file, thumbnail->warnings);
   QImage image = thumbnail->image;

@@ -19,6 +19,7 @@
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_program.h"
 #include "picture/bitmap_image.h"
+#include "picture/chosen_document.h"
 #include "picture/embedded_preview.h"
 #include "picture/open_picture.h"
 #include "protocol/limits.h"
@@ -60,13 +61,28 @@ class Check {
     else if (*kind == PictureKind::Eps)
       checkEps(inner);
     else
-      checkPages(*service_.open(inner, *kind, request_.limits), *kind);
+      checkProtected(inner, *kind);
     result_.findings = judged(result_.findings, request_.profile);
     return std::move(result_);
   }
 
  private:
   void add(const Findings& findings) { result_.findings += findings; }
+
+  /// A document is checked as its reader sees it, who knows the password.
+  void checkProtected(const QByteArray& inner, PictureKind kind) {
+    PictureSource source;
+    source.bytes = inner;
+    source.typeIdentifier = identifyType(inner, request_.fileName).identifier();
+    const Result<PictureBytes> read =
+        documentAsChosen(service_, source, {request_.password, {}}, request_.limits, cancel_);
+    if (!read) {
+      result_.error = read.error();
+      return;
+    }
+    opened_ = read->bytes != inner;
+    checkPages(*service_.open(read->bytes, kind, request_.limits), kind);
+  }
 
   void checkEps(const QByteArray& inner) {
     add(epsFileFindings(request_.bytes));
@@ -125,6 +141,7 @@ class Check {
       return std::nullopt;
     }
     Result<PageContents> contents = decodePageContents(answer->bytes);
+    if (contents) contents->encrypted = contents->encrypted || opened_;
     if (contents) return *contents;
     result_.error = contents.error();
     return std::nullopt;
@@ -164,6 +181,7 @@ class Check {
   PictureService& service_;
   const CheckRequest& request_;
   const CancelToken cancel_;
+  bool opened_ = false;  ///< by a password
   CheckedPicture result_;
   QHash<std::pair<const RuleRow*, QString>, int> told_;  ///< and on which page
 };

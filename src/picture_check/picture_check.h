@@ -26,6 +26,7 @@ struct CheckRequest {
   QString fileName;  ///< tells the type where the bytes do not; may be empty
   Profile profile;
   PictureLimits limits;
+  QString password = {};  ///< of a protected PDF; empty: none is known
 };
 
 /// Blocks; may be called by several threads.

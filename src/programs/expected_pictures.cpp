@@ -156,7 +156,9 @@ ExpectedPictures expectedPictures(int argc, const char* const* argv) {
   if (*command == Command::Convert) return expectedConversions(run);
   ExpectedPictures expected;
   if (*command == Command::Preview) return expected;
-  const PictureUse use = *command == Command::Check ? PictureUse::WholePdf : PictureUse::Drawing;
+  const PictureUse use = *command == Command::Check  ? PictureUse::WholePdf
+                         : *command == Command::Text ? PictureUse::Everything
+                                                     : PictureUse::Drawing;
   for (const Text file : run.files) expected.needs |= needsOfFile(file, use);
   return expected;
 }
@@ -173,7 +175,7 @@ bool expectPostScript(int argc, const char* const* argv) {
   // A window is given files alone, where a command stands in front of its own.
   const Command given = command.value_or(Command::Main);
   const bool draws = given == Command::Convert || given == Command::Check || given == Command::Repair ||
-                     given == Command::Thumbnail;
+                     given == Command::Thumbnail || given == Command::Text;
   if (command && rowOf(given).isLight && !draws) return false;
   const Reading run(given, argc, argv);
   return std::any_of(run.files.begin(), run.files.end(),

@@ -12,7 +12,7 @@
 
 namespace norvex {
 
-enum class Command { Main, Info, Source, Preview, Convert, Print, Status, Thumbnail, Check, Repair };
+enum class Command { Main, Info, Source, Preview, Convert, Print, Status, Thumbnail, Check, Repair, Text };
 
 /// The arguments of a command besides options.
 struct CommandRow {
@@ -44,6 +44,8 @@ enum class Option {
   Background,
   Quality,
   KeepActions,
+  PasswordFile,
+  Layers,
   Jobs,
   Timeout,
   Memory,
@@ -84,7 +86,11 @@ inline constexpr Commands everyCommand = ~Commands(0);
 /// Those that have a picture process read a document or its preview.
 inline constexpr Commands openingCommands =
     only(Command::Info) | only(Command::Source) | only(Command::Preview) | only(Command::Convert) |
-    only(Command::Check) | only(Command::Repair) | only(Command::Print);
+    only(Command::Check) | only(Command::Repair) | only(Command::Print) | only(Command::Text);
+/// Those that open a document whole, as a reader of it would.
+inline constexpr Commands readingCommands = only(Command::Info) | only(Command::Convert) |
+                                            only(Command::Check) | only(Command::Print) |
+                                            only(Command::Thumbnail) | only(Command::Text);
 /// Those that do one thing with each file. A run over an archive is such a command for each of its files, so
 /// that a command gets lists, trees, states and the rest by standing here.
 inline constexpr Commands archiveCommands = only(Command::Info) | only(Command::Preview) |
@@ -110,6 +116,7 @@ inline constexpr auto commandTable = std::to_array<CommandRow>({
     {Command::Source, "source", "FILE", 1, 1, true, "write the decoded source text to standard output"},
     {Command::Preview, "preview", "FILE... (-o OUT | --to DIR)", 1, 1, true,
      "write the embedded preview as PNG"},
+    {Command::Text, "text", "FILE", 1, 1, true, "write the words of the picture to standard output"},
     {Command::Convert, "convert", "FILE... (-o OUT | --to DIR)", 1, -1, true,
      "write the pictures in another format"},
     {Command::Check, "check", "FILE...", 1, -1, true,
@@ -142,9 +149,10 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
      "turn the picture counter-clockwise, by any angle"},
     {Option::Crop, only(Command::Convert), 0, "crop", "X,Y,W,H", "",
      "this rectangle alone: points in the turned view, origin at its lower-left corner, y up"},
-    {Option::Page, only(Command::Convert), 0, "page", "N", "", "the page of a PDF, from 1"},
     {Option::Pages, only(Command::Convert), 0, "pages", "LIST", "",
      "these pages of a PDF, each to a file with its number in its name: all, or 1,3-5,8-"},
+    {Option::Page, only(Command::Convert) | only(Command::Text), 0, "page", "N", "",
+     "the page of a PDF, from 1"},
     {Option::Dpi, only(Command::Convert), 0, "dpi", "N", "",
      "pixels an inch of the raster formats (72: one a point)"},
     {Option::Background, only(Command::Convert), 0, "background", "COLOR", "",
@@ -153,6 +161,10 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::KeepActions, only(Command::Convert), 0, "keep-actions", "", "",
      "keep the scripts and actions of a PDF in the PDF made of it"},
     {Option::Jobs, archiveCommands, 0, "jobs", "N", "", "files at a time (as many as there are cores)"},
+    {Option::PasswordFile, readingCommands, 0, "password-file", "FILE", "",
+     "its first line opens PDFs that want a password; - is standard input"},
+    {Option::Layers, only(Command::Convert) | only(Command::Print), 0, "layers", "LIST", "",
+     "show and hide layers of a PDF: LAYER=on,LAYER=off, by name or number (norvex info lists them)"},
     {Option::Timeout, openingCommands, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
     {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},
     {Option::Force,

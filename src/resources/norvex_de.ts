@@ -1403,6 +1403,14 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Inspector in t&amp;he Window</source>
+        <translation>Informationen &amp;im Fenster</translation>
+    </message>
+    <message>
+        <source>Go to Inspector or Pi&amp;cture</source>
+        <translation>Zu Informationen oder Bild &amp;wechseln</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -1403,6 +1403,14 @@
         <source>Close</source>
         <translation>Close</translation>
     </message>
+    <message>
+        <source>Inspector in t&amp;he Window</source>
+        <translation>Inspector in t&amp;he Window</translation>
+    </message>
+    <message>
+        <source>Go to Inspector or Pi&amp;cture</source>
+        <translation>Go to Inspector or Pi&amp;cture</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

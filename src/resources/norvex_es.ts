@@ -1403,6 +1403,14 @@
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>Inspector in t&amp;he Window</source>
+        <translation>Información en la ve&amp;ntana</translation>
+    </message>
+    <message>
+        <source>Go to Inspector or Pi&amp;cture</source>
+        <translation>Ir a la información o a la ima&amp;gen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -1403,6 +1403,14 @@
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>Inspector in t&amp;he Window</source>
+        <translation>Informations dans la fenê&amp;tre</translation>
+    </message>
+    <message>
+        <source>Go to Inspector or Pi&amp;cture</source>
+        <translation>Aller aux informations ou à l’ima&amp;ge</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -1403,6 +1403,14 @@
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Inspector in t&amp;he Window</source>
+        <translation>インスペクタをウインドウ内に表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Go to Inspector or Pi&amp;cture</source>
+        <translation>インスペクタと画像を切り替え(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

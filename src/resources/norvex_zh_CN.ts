@@ -1403,6 +1403,14 @@
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>Inspector in t&amp;he Window</source>
+        <translation>检查器置于窗口内(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Go to Inspector or Pi&amp;cture</source>
+        <translation>切换检查器与图片(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -11,6 +11,7 @@
 #include "ui_MainWindowController.h"
 #include "window/commands/window_frames.h"
 #include "window/export/export_command.h"
+#include "window/inspector/docked_inspector.h"
 #include "window/main_window_controller.h"
 #include "window/viewing/full_screen.h"
 #include "window/viewing/live_file.h"
@@ -111,6 +112,11 @@ void MainWindowController::setUpViewing() {
     setWindowSize();
   });
   ui_->viewMenu->insertAction(inspectorToolbarItem, fits);
+  auto* docked = new DockedInspector(*this, inspector_, this);
+  viewActions = ui_->viewMenu->actions();
+  ui_->viewMenu->insertActions(viewActions.value(viewActions.indexOf(inspectorToolbarItem) + 1),
+                               {docked->setUp(), docked->makeFocusAction()});
+  connect(docked, &DockedInspector::roomDidChange, this, &MainWindowController::setWindowSize);
   auto* labels = new ToolbarLabels(
       *toolbar, {copyToolbarItem, doSaveToToolbarItem, doPrintingToolbarItem, inspectorToolbarItem}, this);
   labels->fit();

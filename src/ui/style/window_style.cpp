@@ -11,6 +11,8 @@ QString windowStyleSheet() {
       "QToolBar QToolButton:checked { background: palette(midlight); border-color: palette(mid); }"
       "QToolBar QToolButton:pressed { background: palette(mid); }"
       "QToolBar QToolButton:focus { border-color: palette(highlight); }"
+      "QMainWindow::separator { width: 5px; height: 5px; background: palette(window); }"
+      "QMainWindow::separator:hover { background: palette(midlight); }"
       "QToolBar::separator { width: 1px; margin: 6px 6px; background: palette(mid); }"
       "QMenuBar { background: palette(window); border: none; padding: 1px 4px; }"
       "QTabWidget::pane { border: none; border-top: 1px solid palette(mid); top: -1px; }"

@@ -48,7 +48,9 @@ void InspectorCommand::title() {
 
 void InspectorCommand::toggle() {
   title();
-  if (parts_.inspectorWindow->isVisible()) {
+  const bool shown = parts_.inspectorWindow->isVisible();
+  if (showPanel_) return showPanel_(!shown);
+  if (shown) {
     parts_.inspectorWindow->hide();
     return;
   }

@@ -5,6 +5,9 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
+#include <utility>
+
 namespace norvex {
 
 class NSImageRep;
@@ -20,6 +23,8 @@ class InspectorCommand final : public QObject {
   void order();
   /// Shows the inspector's window, beside the document's at first, or hides it.
   void toggle();
+  /// Where the inspector is no window of its own: what shows and hides it; unset: it is one.
+  void setPanel(std::function<void(bool shown)> showPanel) { showPanel_ = std::move(showPanel); }
   /// Gives the inspector its title where it has none.
   void title();
   /// Shows the source text, whatever was shown.
@@ -53,6 +58,7 @@ class InspectorCommand final : public QObject {
   void showResources(const NSImageRep* rep);
 
   WindowParts& parts_;
+  std::function<void(bool)> showPanel_;
   bool placed_ = false;
 };
 

@@ -1,0 +1,148 @@
+#include "window/inspector/docked_inspector.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDockWidget>
+#include <QEvent>
+#include <QLayout>
+#include <QMainWindow>
+#include <QScreen>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include <algorithm>
+
+#include "base/localized_string.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/inspector_command.h"
+#include "window/commands/window_frames.h"
+#include "window/commands/window_parts.h"
+
+namespace norvex {
+namespace {
+
+const QString kDocked = QStringLiteral("views/inspectorInWindow");
+const QString kShown = QStringLiteral("views/inspectorPanel");
+
+}  // namespace
+
+DockedInspector::DockedInspector(WindowParts& parts, InspectorCommand& inspector, QObject* parent)
+    : QObject(parent), parts_(parts), inspector_(inspector) {}
+
+QAction* DockedInspector::setUp() {
+  auto* action = new QAction(localizedString("Inspector in t&he Window"), parts_.mainWindow());
+  action->setObjectName(QStringLiteral("inspectorInWindowAction"));
+  action->setCheckable(true);
+  action->setChecked(savedView(kDocked, false));
+  connect(action, &QAction::toggled, this, [this](bool on) {
+    saveView(kDocked, on);
+    setDocked(on);
+  });
+  parts_.mainWindow()->installEventFilter(this);
+  if (action->isChecked()) {
+    dock();
+    shown_ = savedView(kShown, true);
+    dock_->setVisible(shown_);
+  }
+  return action;
+}
+
+QAction* DockedInspector::makeFocusAction() {
+  auto* action = new QAction(localizedString("Go to Inspector or Pi&cture"), parts_.mainWindow());
+  action->setObjectName(QStringLiteral("switchFocusAction"));
+  action->setShortcut(Qt::Key_F6);
+  connect(action, &QAction::triggered, this, &DockedInspector::switchFocus);
+  const QAction* inspector = parts_.inspectorToolbarItem;
+  action->setEnabled(inspector->isEnabled());
+  connect(inspector, &QAction::enabledChanged, action, &QAction::setEnabled);
+  return action;
+}
+
+void DockedInspector::setDocked(bool docked) {
+  if (docked == isDocked()) return;
+  if (docked) {
+    dock();
+    return setPanelShown(true);
+  }
+  const bool shown = parts_.inspectorWindow->isVisible();
+  setPanelShown(false);
+  release();
+  if (shown) inspector_.toggle();
+}
+
+void DockedInspector::dock() {
+  QMainWindow& window = *parts_.mainWindow();
+  dock_ = new QDockWidget(localizedString("Inspector"), &window);
+  dock_->setObjectName(QStringLiteral("inspectorDock"));
+  dock_->setFeatures(QDockWidget::NoDockWidgetFeatures);
+  dock_->setAllowedAreas(Qt::RightDockWidgetArea);
+  dock_->setTitleBarWidget(new QWidget(dock_));  // its tabs say what it is
+  parts_.inspectorWindow->hide();
+  ownLeast_ = parts_.inspectorWindow->minimumSize();
+  parts_.inspectorWindow->setMinimumHeight(0);  // the picture may be lower, and pages scroll
+  dock_->setWidget(parts_.inspectorWindow);
+  parts_.inspectorWindow->show();  // whenever the panel is
+  dock_->hide();
+  window.addDockWidget(Qt::RightDockWidgetArea, dock_);
+  dock_->hide();
+  inspector_.setPanel([this](bool shown) { setPanelShown(shown); });
+}
+
+void DockedInspector::release() {
+  inspector_.setPanel(nullptr);
+  parts_.inspectorWindow->hide();
+  parts_.inspectorWindow->setMinimumSize(ownLeast_);
+  parts_.inspectorWindow->setParent(parts_.mainWindow(), Qt::Tool);
+  delete dock_;
+}
+
+void DockedInspector::setPanelShown(bool shown) {
+  shown_ = shown;
+  saveView(kShown, shown);
+  if (dock_->isVisible() == shown) return;
+  const bool hadFocus = parts_.inspectorWindow->isAncestorOf(QApplication::focusWidget());
+  const int picture = parts_.scrollArea()->width();
+  dock_->setVisible(shown);
+  parts_.mainWindow()->layout()->activate();
+  if (!shown && hadFocus) parts_.scrollArea()->setFocus(Qt::OtherFocusReason);
+  giveRoom(picture);
+}
+
+void DockedInspector::giveRoom(int picture) {
+  QMainWindow& window = *parts_.mainWindow();
+  emit roomDidChange();
+  if (window.isMaximized() || window.isFullScreen() || !window.isVisible()) return;
+  const QRect screen = window.screen()->availableGeometry();
+  const int around = window.frameGeometry().width() - window.width();
+  const int least = window.minimumSizeHint().width();
+  // A wider window gives the panel more, up to the width it likes, and is bounded anew: it is done in steps.
+  for (int step = 0; step < 3; ++step) {
+    const int wanted = window.width() + picture - parts_.scrollArea()->width();
+    window.resize(std::clamp(wanted, least, std::max(least, screen.width() - around)), window.height());
+    window.layout()->activate();
+    emit roomDidChange();
+  }
+  const int beyond = window.x() + window.width() + around - 1 - screen.right();
+  if (beyond > 0) window.move(std::max(screen.left(), window.x() - beyond), window.y());
+}
+
+void DockedInspector::switchFocus() {
+  QWidget& inspector = *parts_.inspectorWindow;
+  if (!inspector.isVisible()) return inspector_.toggle();
+  QWidget* const now = QApplication::focusWidget();
+  if (now && (now == &inspector || inspector.isAncestorOf(now))) {
+    parts_.mainWindow()->activateWindow();
+    return parts_.scrollArea()->setFocus(Qt::ShortcutFocusReason);
+  }
+  inspector.activateWindow();
+  parts_.inspectorTabs->tabBar()->setFocus(Qt::ShortcutFocusReason);
+}
+
+bool DockedInspector::eventFilter(QObject* watched, QEvent* event) {
+  // A full screen is the picture's alone.
+  if (event->type() == QEvent::WindowStateChange && dock_)
+    dock_->setVisible(!parts_.mainWindow()->isFullScreen() && shown_);
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace norvex

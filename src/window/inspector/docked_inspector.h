@@ -1,0 +1,55 @@
+// The inspector beside the picture, in the document's window.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QSize>
+
+class QAction;
+class QDockWidget;
+
+namespace norvex {
+
+class InspectorCommand;
+class WindowParts;
+
+/// A choice of the user, kept from one window to the next: the inspector is a window of its own, or a panel
+/// at the right edge of the document's. While it is a panel, windows begin with it as it was shown last. The
+/// window grows by the panel and shrinks with it, so that the picture keeps its room where the screen has it.
+/// Parts and command outlive it. Main thread.
+class DockedInspector final : public QObject {
+  Q_OBJECT
+ public:
+  DockedInspector(WindowParts& parts, InspectorCommand& inspector, QObject* parent);
+
+  /// Puts the inspector where it is to be, and makes the command for it.
+  QAction* setUp();
+  /// The command that goes from the picture to the inspector and back with the keyboard.
+  QAction* makeFocusAction();
+  [[nodiscard]] bool isDocked() const { return !dock_.isNull(); }
+
+ signals:
+  /// The picture has another room: the window may need another size.
+  void roomDidChange();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void setDocked(bool docked);
+  void dock();
+  void release();
+  /// Shows or hides the panel and gives the window the width for it.
+  void setPanelShown(bool shown);
+  /// Makes the window as wide as it must be for a picture's room of this width, on its screen.
+  void giveRoom(int picture);
+  void switchFocus();
+
+  WindowParts& parts_;
+  InspectorCommand& inspector_;
+  QPointer<QDockWidget> dock_;  ///< null: the inspector is a window
+  QSize ownLeast_;              ///< of the inspector as a window
+  bool shown_ = false;          ///< the panel, but in a full screen
+};
+
+}  // namespace norvex

@@ -1,0 +1,163 @@
+// The inspector as a panel of the document's window.
+#include <QAction>
+#include <QDockWidget>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include "kit/test_main.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/window_frames.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+QAction* docking(MainWindowController& c) {
+  return c.window()->findChild<QAction*>("inspectorInWindowAction");
+}
+
+QDockWidget* panel(MainWindowController& c) {
+  return c.window()->findChild<QDockWidget*>("inspectorDock");
+}
+
+MainWindowController& shown(WindowFixture& fixture) {
+  MainWindowController& c =
+      fixture.loaded(epsBytes().replace("10 20 210 120", "0 0 430 300"), "a.eps", NorvexEPSType);
+  c.window()->show();
+  if (!QTest::qWaitForWindowExposed(c.window())) qFatal("the window is not shown");
+  return c;
+}
+
+}  // namespace
+
+class DockedInspectorTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void itIsAWindowUntilThatIsChosenOtherwise() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    QVERIFY(!docking(c)->isChecked() && !panel(c));
+    c.showInspectorWindow();
+    QVERIFY(c.inspectorWindow->isWindow());
+  }
+
+  void theCommandPutsItBesideThePictureAndBack() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    QVERIFY(panel(c)->isVisible() && c.inspectorWindow->isVisible() && !c.inspectorWindow->isWindow());
+    QCOMPARE(c.inspectorWindow->window(), static_cast<QWidget*>(c.window()));
+    QVERIFY(c.inspectorToolbarItem->isChecked());
+    docking(c)->trigger();
+    QVERIFY(!panel(c) && c.inspectorWindow->isWindow() && c.inspectorWindow->isVisible());
+    c.showInspectorWindow();
+    QVERIFY(!c.inspectorWindow->isVisible());
+  }
+
+  void theToggleShowsAndHidesThePanel() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    c.showInspectorWindow();
+    QVERIFY(!panel(c)->isVisible() && !c.inspectorWindow->isVisible());
+    QVERIFY(!c.inspectorToolbarItem->isChecked());
+    c.showInspectorWindow();
+    QVERIFY(panel(c)->isVisible() && c.inspectorWindow->isVisible() && c.inspectorToolbarItem->isChecked());
+  }
+
+  void theWindowGrowsByThePanelAndThePictureKeepsItsRoom() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    const int picture = c.scrollArea()->width(), window = c.window()->width();
+    docking(c)->trigger();
+    QTRY_COMPARE(c.scrollArea()->width(), picture);
+    QVERIFY(c.window()->width() > window + 250);
+    QVERIFY(c.window()->width() <= c.window()->maximumWidth());
+    c.showInspectorWindow();
+    QTRY_COMPARE(c.window()->width(), window);
+    QCOMPARE(c.scrollArea()->width(), picture);
+  }
+
+  void thePanelIsNoPartOfThePicturesSize() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    const QSize most = c.window()->maximumSize();
+    docking(c)->trigger();
+    QTRY_VERIFY(c.window()->maximumWidth() > most.width() + 250);
+    QCOMPARE(c.window()->maximumHeight(), most.height());
+  }
+
+  void nothingOfItIsBelowALowWindow() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    c.window()->resize(c.window()->width(), c.window()->minimumSizeHint().height());
+    const int bottom = c.inspectorWindow->mapTo(c.window(), QPoint(0, c.inspectorWindow->height())).y();
+    QVERIFY(bottom <= c.window()->height());
+    docking(c)->trigger();
+    QVERIFY(c.inspectorWindow->minimumHeight() >= 300);
+  }
+
+  void theNextWindowBeginsAsThisOneWas() {
+    WindowFixture fixture;
+    docking(shown(fixture))->trigger();
+    for (const bool shows : {true, false}) {
+      WindowFixture next;
+      qputenv("XDG_STATE_HOME", fixture.folder.path().toUtf8());
+      MainWindowController& c = shown(next);
+      QVERIFY(docking(c)->isChecked());
+      QCOMPARE(panel(c)->isVisible(), shows);
+      if (shows) c.showInspectorWindow();
+    }
+  }
+
+  void theSourceIsFoundInThePanelToo() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    c.showInspectorWindow();
+    c.window()->findChild<QAction*>("findAction")->trigger();
+    QVERIFY(panel(c)->isVisible());
+    QCOMPARE(c.inspectorTabs->currentWidget(), c.sourcePage);
+  }
+
+  void theKeyGoesFromThePictureToThePanelAndBack() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    QApplication::setActiveWindow(c.window());
+    c.scrollArea()->setFocus();
+    auto* change = c.window()->findChild<QAction*>("switchFocusAction");
+    change->trigger();
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(c.inspectorTabs->tabBar()));
+    change->trigger();
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(c.scrollArea()));
+    c.showInspectorWindow();
+    change->trigger();  // shows it where it is not seen
+    QVERIFY(panel(c)->isVisible());
+  }
+
+  void theKeyboardComesBackToThePictureWhenThePanelGoes() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    QApplication::setActiveWindow(c.window());
+    c.inspectorTabs->tabBar()->setFocus();
+    c.showInspectorWindow();
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(c.scrollArea()));
+  }
+
+  void aFullScreenIsThePicturesAlone() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    c.window()->showFullScreen();
+    QTRY_VERIFY(!panel(c)->isVisible());
+    c.window()->showNormal();
+    QTRY_VERIFY(panel(c)->isVisible());
+  }
+};
+
+NORVEX_TEST(DockedInspectorTest)
+#include "docked_inspector_test.moc"

@@ -1411,6 +1411,394 @@
         <source>Go to Inspector or Pi&amp;cture</source>
         <translation>Zu Informationen oder Bild &amp;wechseln</translation>
     </message>
+    <message>
+        <source>The program lies in a wrapping of another system</source>
+        <translation>Das Programm liegt in einer Verpackung eines anderen Systems</translation>
+    </message>
+    <message>
+        <source>A section of the binary header lies outside the file</source>
+        <translation>Ein Abschnitt des binären Kopfes liegt außerhalb der Datei</translation>
+    </message>
+    <message>
+        <source>Sections of the binary header overlap</source>
+        <translation>Abschnitte des binären Kopfes überlappen sich</translation>
+    </message>
+    <message>
+        <source>Bytes before the first line</source>
+        <translation>Bytes vor der ersten Zeile</translation>
+    </message>
+    <message>
+        <source>Bytes behind the program's end</source>
+        <translation>Bytes hinter dem Ende des Programms</translation>
+    </message>
+    <message>
+        <source>The file is cut off</source>
+        <translation>Die Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>The first line is not that of a PostScript file</source>
+        <translation>Die erste Zeile ist nicht die einer PostScript-Datei</translation>
+    </message>
+    <message>
+        <source>The first line does not declare EPSF</source>
+        <translation>Die erste Zeile erklärt die Datei nicht zu EPSF</translation>
+    </message>
+    <message>
+        <source>The first line declares a version that does not exist</source>
+        <translation>Die erste Zeile nennt eine Version, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>There is no %%BoundingBox</source>
+        <translation>Es gibt kein %%BoundingBox</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox: (atend) without a box at the end</source>
+        <translation>%%BoundingBox: (atend), und am Ende steht kein Rahmen</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not hold four numbers</source>
+        <translation>%%BoundingBox enthält keine vier Zahlen</translation>
+    </message>
+    <message>
+        <source>The bounding box is empty</source>
+        <translation>Der Begrenzungsrahmen ist leer</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds numbers that are not whole</source>
+        <translation>%%BoundingBox enthält Zahlen, die nicht ganz sind</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not enclose %%HiResBoundingBox, or is far larger</source>
+        <translation>%%BoundingBox umschließt %%HiResBoundingBox nicht oder ist viel größer</translation>
+    </message>
+    <message>
+        <source>Ink lies outside the bounding box</source>
+        <translation>Farbe liegt außerhalb des Begrenzungsrahmens</translation>
+    </message>
+    <message>
+        <source>The bounding box is larger than the ink</source>
+        <translation>Der Begrenzungsrahmen ist größer als das Gezeichnete</translation>
+    </message>
+    <message>
+        <source>The program draws nothing that is not white</source>
+        <translation>Das Programm zeichnet nichts, was nicht weiß ist</translation>
+    </message>
+    <message>
+        <source>The program stops with a PostScript error</source>
+        <translation>Das Programm bricht mit einem PostScript-Fehler ab</translation>
+    </message>
+    <message>
+        <source>The interpreter had something to remark</source>
+        <translation>Der Interpreter hatte etwas anzumerken</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>showpage fehlt</translation>
+    </message>
+    <message>
+        <source>An operator that has no place in an EPS file</source>
+        <translation>Ein Operator, der nicht in eine EPS-Datei gehört</translation>
+    </message>
+    <message>
+        <source>Operators of a higher language level than the comments declare</source>
+        <translation>Operatoren einer höheren Sprachstufe, als die Kommentare angeben</translation>
+    </message>
+    <message>
+        <source>%%EndComments is missing</source>
+        <translation>%%EndComments fehlt</translation>
+    </message>
+    <message>
+        <source>Comments stand in the wrong order</source>
+        <translation>Kommentare stehen in der falschen Reihenfolge</translation>
+    </message>
+    <message>
+        <source>A section begins and does not end, or the other way round</source>
+        <translation>Ein Abschnitt beginnt und endet nicht, oder umgekehrt</translation>
+    </message>
+    <message>
+        <source>Lines of more than 255 bytes</source>
+        <translation>Zeilen von mehr als 255 Bytes</translation>
+    </message>
+    <message>
+        <source>Lines end in different ways</source>
+        <translation>Zeilen enden auf verschiedene Weise</translation>
+    </message>
+    <message>
+        <source>Other bytes than %%DocumentData declares</source>
+        <translation>Andere Bytes, als %%DocumentData angibt</translation>
+    </message>
+    <message>
+        <source>The file needs fonts that it does not bring</source>
+        <translation>Die Datei braucht Schriften, die sie nicht mitbringt</translation>
+    </message>
+    <message>
+        <source>There is no preview</source>
+        <translation>Es gibt keine Vorschau</translation>
+    </message>
+    <message>
+        <source>The preview cannot be read</source>
+        <translation>Die Vorschau ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>The preview shows another picture than the program draws</source>
+        <translation>Die Vorschau zeigt ein anderes Bild, als das Programm zeichnet</translation>
+    </message>
+    <message>
+        <source>The preview has another shape than the bounding box</source>
+        <translation>Die Vorschau hat eine andere Form als der Begrenzungsrahmen</translation>
+    </message>
+    <message>
+        <source>A font is neither in the file nor on this machine</source>
+        <translation>Eine Schrift ist weder in der Datei noch auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>A font is not embedded</source>
+        <translation>Eine Schrift ist nicht eingebettet</translation>
+    </message>
+    <message>
+        <source>A font is embedded as a whole</source>
+        <translation>Eine Schrift ist als Ganzes eingebettet</translation>
+    </message>
+    <message>
+        <source>A Type 3 font</source>
+        <translation>Eine Type-3-Schrift</translation>
+    </message>
+    <message>
+        <source>Text smaller than the profile allows</source>
+        <translation>Text, der kleiner ist, als das Profil erlaubt</translation>
+    </message>
+    <message>
+        <source>RGB colours where the profile wants none</source>
+        <translation>RGB-Farben, wo das Profil keine will</translation>
+    </message>
+    <message>
+        <source>RGB in a CMYK picture</source>
+        <translation>RGB in einem CMYK-Bild</translation>
+    </message>
+    <message>
+        <source>Spot inks</source>
+        <translation>Schmuckfarben</translation>
+    </message>
+    <message>
+        <source>More ink in one place than the profile allows</source>
+        <translation>Mehr Farbe an einer Stelle, als das Profil erlaubt</translation>
+    </message>
+    <message>
+        <source>White that overprints vanishes</source>
+        <translation>Weiß, das überdruckt, verschwindet</translation>
+    </message>
+    <message>
+        <source>Black text that does not overprint</source>
+        <translation>Schwarzer Text, der nicht überdruckt</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparenz</translation>
+    </message>
+    <message>
+        <source>Lines thinner than the profile allows</source>
+        <translation>Linien, die dünner sind, als das Profil erlaubt</translation>
+    </message>
+    <message>
+        <source>An image has fewer pixels an inch than the profile asks for</source>
+        <translation>Ein Bild hat weniger Pixel je Zoll, als das Profil verlangt</translation>
+    </message>
+    <message>
+        <source>Something is drawn outside the page's box</source>
+        <translation>Etwas ist außerhalb des Seitenrahmens gezeichnet</translation>
+    </message>
+    <message>
+        <source>The picture fits no column of the profile</source>
+        <translation>Das Bild passt in keine Spalte des Profils</translation>
+    </message>
+    <message>
+        <source>A part of the page was not looked at</source>
+        <translation>Ein Teil der Seite wurde nicht angesehen</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>Die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>Das Dokument ist verschlüsselt</translation>
+    </message>
+    <message>
+        <source>Its permissions forbid printing or changing it</source>
+        <translation>Seine Rechte verbieten das Drucken oder Ändern</translation>
+    </message>
+    <message>
+        <source>It claims to keep a standard</source>
+        <translation>Es gibt an, eine Norm einzuhalten</translation>
+    </message>
+    <message>
+        <source>It claims PDF/X or PDF/A and has no output intent</source>
+        <translation>Es gibt PDF/X oder PDF/A an und hat keine Ausgabebedingung</translation>
+    </message>
+    <message>
+        <source>It needs other files, which are never loaded</source>
+        <translation>Es braucht andere Dateien, die nie geladen werden</translation>
+    </message>
+    <message>
+        <source>Filters become images in print</source>
+        <translation>Filter werden im Druck zu Bildern</translation>
+    </message>
+    <message>
+        <source>The size has no unit, or there is none</source>
+        <translation>Die Größe hat keine Einheit, oder es gibt keine</translation>
+    </message>
+    <message>
+        <source>Scripts and animations are not run</source>
+        <translation>Skripte und Animationen werden nicht ausgeführt</translation>
+    </message>
+    <message>
+        <source>repair takes the program out</source>
+        <translation>Reparieren holt das Programm heraus</translation>
+    </message>
+    <message>
+        <source>repair writes the header anew</source>
+        <translation>Reparieren schreibt den Kopf neu</translation>
+    </message>
+    <message>
+        <source>repair leaves them out</source>
+        <translation>Reparieren lässt sie weg</translation>
+    </message>
+    <message>
+        <source>fetch the file again</source>
+        <translation>Die Datei noch einmal holen</translation>
+    </message>
+    <message>
+        <source>repair writes it</source>
+        <translation>Reparieren schreibt sie</translation>
+    </message>
+    <message>
+        <source>repair writes the versions 3.0</source>
+        <translation>Reparieren schreibt die Versionen 3.0</translation>
+    </message>
+    <message>
+        <source>repair computes it</source>
+        <translation>Reparieren berechnet ihn</translation>
+    </message>
+    <message>
+        <source>repair writes whole numbers</source>
+        <translation>Reparieren schreibt ganze Zahlen</translation>
+    </message>
+    <message>
+        <source>repair computes both</source>
+        <translation>Reparieren berechnet beide</translation>
+    </message>
+    <message>
+        <source>write the file again from the program that made it</source>
+        <translation>Die Datei aus dem Programm, das sie erzeugt hat, neu schreiben</translation>
+    </message>
+    <message>
+        <source>repair puts it in</source>
+        <translation>Reparieren fügt es ein</translation>
+    </message>
+    <message>
+        <source>write the file again as EPS</source>
+        <translation>Die Datei noch einmal als EPS schreiben</translation>
+    </message>
+    <message>
+        <source>add %%LanguageLevel to the header</source>
+        <translation>%%LanguageLevel im Kopf ergänzen</translation>
+    </message>
+    <message>
+        <source>repair puts those of the header in order</source>
+        <translation>Reparieren ordnet die des Kopfes</translation>
+    </message>
+    <message>
+        <source>most readers take them</source>
+        <translation>Die meisten Leser nehmen sie an</translation>
+    </message>
+    <message>
+        <source>declare %%DocumentData: Binary</source>
+        <translation>%%DocumentData: Binary angeben</translation>
+    </message>
+    <message>
+        <source>embed the fonts, or draw text as outlines</source>
+        <translation>Die Schriften einbetten oder Text als Umrisse zeichnen</translation>
+    </message>
+    <message>
+        <source>repair makes one</source>
+        <translation>Reparieren erstellt eine</translation>
+    </message>
+    <message>
+        <source>embed the font</source>
+        <translation>Die Schrift einbetten</translation>
+    </message>
+    <message>
+        <source>use a font with outlines</source>
+        <translation>Eine Schrift mit Umrissen verwenden</translation>
+    </message>
+    <message>
+        <source>set the text larger</source>
+        <translation>Den Text größer setzen</translation>
+    </message>
+    <message>
+        <source>convert the colours</source>
+        <translation>Die Farben umwandeln</translation>
+    </message>
+    <message>
+        <source>choose colours with less ink</source>
+        <translation>Farben mit weniger Farbauftrag wählen</translation>
+    </message>
+    <message>
+        <source>let it knock out</source>
+        <translation>Aussparen lassen</translation>
+    </message>
+    <message>
+        <source>let black text overprint</source>
+        <translation>Schwarzen Text überdrucken lassen</translation>
+    </message>
+    <message>
+        <source>flatten it where the printer asks for it</source>
+        <translation>Reduzieren, wo die Druckerei es verlangt</translation>
+    </message>
+    <message>
+        <source>draw them thicker</source>
+        <translation>Sie dicker zeichnen</translation>
+    </message>
+    <message>
+        <source>place it smaller, or with more pixels</source>
+        <translation>Es kleiner oder mit mehr Pixeln platzieren</translation>
+    </message>
+    <message>
+        <source>enlarge the box, or leave it out</source>
+        <translation>Den Rahmen vergrößern oder es weglassen</translation>
+    </message>
+    <message>
+        <source>draw it for the column's width</source>
+        <translation>Es für die Spaltenbreite zeichnen</translation>
+    </message>
+    <message>
+        <source>convert it to PDF, and look whether anything is missing</source>
+        <translation>In PDF umwandeln und nachsehen, ob etwas fehlt</translation>
+    </message>
+    <message>
+        <source>write it without encryption</source>
+        <translation>Es unverschlüsselt schreiben</translation>
+    </message>
+    <message>
+        <source>write it without restrictions</source>
+        <translation>Es ohne Einschränkungen schreiben</translation>
+    </message>
+    <message>
+        <source>add the output intent</source>
+        <translation>Die Ausgabebedingung ergänzen</translation>
+    </message>
+    <message>
+        <source>embed them</source>
+        <translation>Sie einbetten</translation>
+    </message>
+    <message>
+        <source>draw the effect, or accept an image</source>
+        <translation>Den Effekt zeichnen oder ein Bild hinnehmen</translation>
+    </message>
+    <message>
+        <source>give width and height in mm, pt or in</source>
+        <translation>Breite und Höhe in mm, pt oder in angeben</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

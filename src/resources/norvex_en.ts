@@ -1411,6 +1411,394 @@
         <source>Go to Inspector or Pi&amp;cture</source>
         <translation>Go to Inspector or Pi&amp;cture</translation>
     </message>
+    <message>
+        <source>The program lies in a wrapping of another system</source>
+        <translation>The program lies in a wrapping of another system</translation>
+    </message>
+    <message>
+        <source>A section of the binary header lies outside the file</source>
+        <translation>A section of the binary header lies outside the file</translation>
+    </message>
+    <message>
+        <source>Sections of the binary header overlap</source>
+        <translation>Sections of the binary header overlap</translation>
+    </message>
+    <message>
+        <source>Bytes before the first line</source>
+        <translation>Bytes before the first line</translation>
+    </message>
+    <message>
+        <source>Bytes behind the program's end</source>
+        <translation>Bytes behind the program's end</translation>
+    </message>
+    <message>
+        <source>The file is cut off</source>
+        <translation>The file is cut off</translation>
+    </message>
+    <message>
+        <source>The first line is not that of a PostScript file</source>
+        <translation>The first line is not that of a PostScript file</translation>
+    </message>
+    <message>
+        <source>The first line does not declare EPSF</source>
+        <translation>The first line does not declare EPSF</translation>
+    </message>
+    <message>
+        <source>The first line declares a version that does not exist</source>
+        <translation>The first line declares a version that does not exist</translation>
+    </message>
+    <message>
+        <source>There is no %%BoundingBox</source>
+        <translation>There is no %%BoundingBox</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox: (atend) without a box at the end</source>
+        <translation>%%BoundingBox: (atend) without a box at the end</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not hold four numbers</source>
+        <translation>%%BoundingBox does not hold four numbers</translation>
+    </message>
+    <message>
+        <source>The bounding box is empty</source>
+        <translation>The bounding box is empty</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds numbers that are not whole</source>
+        <translation>%%BoundingBox holds numbers that are not whole</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not enclose %%HiResBoundingBox, or is far larger</source>
+        <translation>%%BoundingBox does not enclose %%HiResBoundingBox, or is far larger</translation>
+    </message>
+    <message>
+        <source>Ink lies outside the bounding box</source>
+        <translation>Ink lies outside the bounding box</translation>
+    </message>
+    <message>
+        <source>The bounding box is larger than the ink</source>
+        <translation>The bounding box is larger than the ink</translation>
+    </message>
+    <message>
+        <source>The program draws nothing that is not white</source>
+        <translation>The program draws nothing that is not white</translation>
+    </message>
+    <message>
+        <source>The program stops with a PostScript error</source>
+        <translation>The program stops with a PostScript error</translation>
+    </message>
+    <message>
+        <source>The interpreter had something to remark</source>
+        <translation>The interpreter had something to remark</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>showpage is missing</translation>
+    </message>
+    <message>
+        <source>An operator that has no place in an EPS file</source>
+        <translation>An operator that has no place in an EPS file</translation>
+    </message>
+    <message>
+        <source>Operators of a higher language level than the comments declare</source>
+        <translation>Operators of a higher language level than the comments declare</translation>
+    </message>
+    <message>
+        <source>%%EndComments is missing</source>
+        <translation>%%EndComments is missing</translation>
+    </message>
+    <message>
+        <source>Comments stand in the wrong order</source>
+        <translation>Comments stand in the wrong order</translation>
+    </message>
+    <message>
+        <source>A section begins and does not end, or the other way round</source>
+        <translation>A section begins and does not end, or the other way round</translation>
+    </message>
+    <message>
+        <source>Lines of more than 255 bytes</source>
+        <translation>Lines of more than 255 bytes</translation>
+    </message>
+    <message>
+        <source>Lines end in different ways</source>
+        <translation>Lines end in different ways</translation>
+    </message>
+    <message>
+        <source>Other bytes than %%DocumentData declares</source>
+        <translation>Other bytes than %%DocumentData declares</translation>
+    </message>
+    <message>
+        <source>The file needs fonts that it does not bring</source>
+        <translation>The file needs fonts that it does not bring</translation>
+    </message>
+    <message>
+        <source>There is no preview</source>
+        <translation>There is no preview</translation>
+    </message>
+    <message>
+        <source>The preview cannot be read</source>
+        <translation>The preview cannot be read</translation>
+    </message>
+    <message>
+        <source>The preview shows another picture than the program draws</source>
+        <translation>The preview shows another picture than the program draws</translation>
+    </message>
+    <message>
+        <source>The preview has another shape than the bounding box</source>
+        <translation>The preview has another shape than the bounding box</translation>
+    </message>
+    <message>
+        <source>A font is neither in the file nor on this machine</source>
+        <translation>A font is neither in the file nor on this machine</translation>
+    </message>
+    <message>
+        <source>A font is not embedded</source>
+        <translation>A font is not embedded</translation>
+    </message>
+    <message>
+        <source>A font is embedded as a whole</source>
+        <translation>A font is embedded as a whole</translation>
+    </message>
+    <message>
+        <source>A Type 3 font</source>
+        <translation>A Type 3 font</translation>
+    </message>
+    <message>
+        <source>Text smaller than the profile allows</source>
+        <translation>Text smaller than the profile allows</translation>
+    </message>
+    <message>
+        <source>RGB colours where the profile wants none</source>
+        <translation>RGB colours where the profile wants none</translation>
+    </message>
+    <message>
+        <source>RGB in a CMYK picture</source>
+        <translation>RGB in a CMYK picture</translation>
+    </message>
+    <message>
+        <source>Spot inks</source>
+        <translation>Spot inks</translation>
+    </message>
+    <message>
+        <source>More ink in one place than the profile allows</source>
+        <translation>More ink in one place than the profile allows</translation>
+    </message>
+    <message>
+        <source>White that overprints vanishes</source>
+        <translation>White that overprints vanishes</translation>
+    </message>
+    <message>
+        <source>Black text that does not overprint</source>
+        <translation>Black text that does not overprint</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparency</translation>
+    </message>
+    <message>
+        <source>Lines thinner than the profile allows</source>
+        <translation>Lines thinner than the profile allows</translation>
+    </message>
+    <message>
+        <source>An image has fewer pixels an inch than the profile asks for</source>
+        <translation>An image has fewer pixels an inch than the profile asks for</translation>
+    </message>
+    <message>
+        <source>Something is drawn outside the page's box</source>
+        <translation>Something is drawn outside the page's box</translation>
+    </message>
+    <message>
+        <source>The picture fits no column of the profile</source>
+        <translation>The picture fits no column of the profile</translation>
+    </message>
+    <message>
+        <source>A part of the page was not looked at</source>
+        <translation>A part of the page was not looked at</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>The file is damaged</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>The document is encrypted</translation>
+    </message>
+    <message>
+        <source>Its permissions forbid printing or changing it</source>
+        <translation>Its permissions forbid printing or changing it</translation>
+    </message>
+    <message>
+        <source>It claims to keep a standard</source>
+        <translation>It claims to keep a standard</translation>
+    </message>
+    <message>
+        <source>It claims PDF/X or PDF/A and has no output intent</source>
+        <translation>It claims PDF/X or PDF/A and has no output intent</translation>
+    </message>
+    <message>
+        <source>It needs other files, which are never loaded</source>
+        <translation>It needs other files, which are never loaded</translation>
+    </message>
+    <message>
+        <source>Filters become images in print</source>
+        <translation>Filters become images in print</translation>
+    </message>
+    <message>
+        <source>The size has no unit, or there is none</source>
+        <translation>The size has no unit, or there is none</translation>
+    </message>
+    <message>
+        <source>Scripts and animations are not run</source>
+        <translation>Scripts and animations are not run</translation>
+    </message>
+    <message>
+        <source>repair takes the program out</source>
+        <translation>repair takes the program out</translation>
+    </message>
+    <message>
+        <source>repair writes the header anew</source>
+        <translation>repair writes the header anew</translation>
+    </message>
+    <message>
+        <source>repair leaves them out</source>
+        <translation>repair leaves them out</translation>
+    </message>
+    <message>
+        <source>fetch the file again</source>
+        <translation>fetch the file again</translation>
+    </message>
+    <message>
+        <source>repair writes it</source>
+        <translation>repair writes it</translation>
+    </message>
+    <message>
+        <source>repair writes the versions 3.0</source>
+        <translation>repair writes the versions 3.0</translation>
+    </message>
+    <message>
+        <source>repair computes it</source>
+        <translation>repair computes it</translation>
+    </message>
+    <message>
+        <source>repair writes whole numbers</source>
+        <translation>repair writes whole numbers</translation>
+    </message>
+    <message>
+        <source>repair computes both</source>
+        <translation>repair computes both</translation>
+    </message>
+    <message>
+        <source>write the file again from the program that made it</source>
+        <translation>write the file again from the program that made it</translation>
+    </message>
+    <message>
+        <source>repair puts it in</source>
+        <translation>repair puts it in</translation>
+    </message>
+    <message>
+        <source>write the file again as EPS</source>
+        <translation>write the file again as EPS</translation>
+    </message>
+    <message>
+        <source>add %%LanguageLevel to the header</source>
+        <translation>add %%LanguageLevel to the header</translation>
+    </message>
+    <message>
+        <source>repair puts those of the header in order</source>
+        <translation>repair puts those of the header in order</translation>
+    </message>
+    <message>
+        <source>most readers take them</source>
+        <translation>most readers take them</translation>
+    </message>
+    <message>
+        <source>declare %%DocumentData: Binary</source>
+        <translation>declare %%DocumentData: Binary</translation>
+    </message>
+    <message>
+        <source>embed the fonts, or draw text as outlines</source>
+        <translation>embed the fonts, or draw text as outlines</translation>
+    </message>
+    <message>
+        <source>repair makes one</source>
+        <translation>repair makes one</translation>
+    </message>
+    <message>
+        <source>embed the font</source>
+        <translation>embed the font</translation>
+    </message>
+    <message>
+        <source>use a font with outlines</source>
+        <translation>use a font with outlines</translation>
+    </message>
+    <message>
+        <source>set the text larger</source>
+        <translation>set the text larger</translation>
+    </message>
+    <message>
+        <source>convert the colours</source>
+        <translation>convert the colours</translation>
+    </message>
+    <message>
+        <source>choose colours with less ink</source>
+        <translation>choose colours with less ink</translation>
+    </message>
+    <message>
+        <source>let it knock out</source>
+        <translation>let it knock out</translation>
+    </message>
+    <message>
+        <source>let black text overprint</source>
+        <translation>let black text overprint</translation>
+    </message>
+    <message>
+        <source>flatten it where the printer asks for it</source>
+        <translation>flatten it where the printer asks for it</translation>
+    </message>
+    <message>
+        <source>draw them thicker</source>
+        <translation>draw them thicker</translation>
+    </message>
+    <message>
+        <source>place it smaller, or with more pixels</source>
+        <translation>place it smaller, or with more pixels</translation>
+    </message>
+    <message>
+        <source>enlarge the box, or leave it out</source>
+        <translation>enlarge the box, or leave it out</translation>
+    </message>
+    <message>
+        <source>draw it for the column's width</source>
+        <translation>draw it for the column's width</translation>
+    </message>
+    <message>
+        <source>convert it to PDF, and look whether anything is missing</source>
+        <translation>convert it to PDF, and look whether anything is missing</translation>
+    </message>
+    <message>
+        <source>write it without encryption</source>
+        <translation>write it without encryption</translation>
+    </message>
+    <message>
+        <source>write it without restrictions</source>
+        <translation>write it without restrictions</translation>
+    </message>
+    <message>
+        <source>add the output intent</source>
+        <translation>add the output intent</translation>
+    </message>
+    <message>
+        <source>embed them</source>
+        <translation>embed them</translation>
+    </message>
+    <message>
+        <source>draw the effect, or accept an image</source>
+        <translation>draw the effect, or accept an image</translation>
+    </message>
+    <message>
+        <source>give width and height in mm, pt or in</source>
+        <translation>give width and height in mm, pt or in</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -1411,6 +1411,394 @@
         <source>Go to Inspector or Pi&amp;cture</source>
         <translation>Ir a la información o a la ima&amp;gen</translation>
     </message>
+    <message>
+        <source>The program lies in a wrapping of another system</source>
+        <translation>El programa está envuelto en un formato de otro sistema</translation>
+    </message>
+    <message>
+        <source>A section of the binary header lies outside the file</source>
+        <translation>Una sección de la cabecera binaria está fuera del archivo</translation>
+    </message>
+    <message>
+        <source>Sections of the binary header overlap</source>
+        <translation>Hay secciones de la cabecera binaria que se solapan</translation>
+    </message>
+    <message>
+        <source>Bytes before the first line</source>
+        <translation>Bytes antes de la primera línea</translation>
+    </message>
+    <message>
+        <source>Bytes behind the program's end</source>
+        <translation>Bytes después del final del programa</translation>
+    </message>
+    <message>
+        <source>The file is cut off</source>
+        <translation>El archivo está cortado</translation>
+    </message>
+    <message>
+        <source>The first line is not that of a PostScript file</source>
+        <translation>La primera línea no es la de un archivo PostScript</translation>
+    </message>
+    <message>
+        <source>The first line does not declare EPSF</source>
+        <translation>La primera línea no declara EPSF</translation>
+    </message>
+    <message>
+        <source>The first line declares a version that does not exist</source>
+        <translation>La primera línea declara una versión que no existe</translation>
+    </message>
+    <message>
+        <source>There is no %%BoundingBox</source>
+        <translation>No hay %%BoundingBox</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox: (atend) without a box at the end</source>
+        <translation>%%BoundingBox: (atend) sin recuadro al final</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not hold four numbers</source>
+        <translation>%%BoundingBox no contiene cuatro números</translation>
+    </message>
+    <message>
+        <source>The bounding box is empty</source>
+        <translation>El recuadro delimitador está vacío</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds numbers that are not whole</source>
+        <translation>%%BoundingBox contiene números que no son enteros</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not enclose %%HiResBoundingBox, or is far larger</source>
+        <translation>%%BoundingBox no encierra a %%HiResBoundingBox, o es mucho mayor</translation>
+    </message>
+    <message>
+        <source>Ink lies outside the bounding box</source>
+        <translation>Hay tinta fuera del recuadro delimitador</translation>
+    </message>
+    <message>
+        <source>The bounding box is larger than the ink</source>
+        <translation>El recuadro delimitador es mayor que lo dibujado</translation>
+    </message>
+    <message>
+        <source>The program draws nothing that is not white</source>
+        <translation>El programa no dibuja nada que no sea blanco</translation>
+    </message>
+    <message>
+        <source>The program stops with a PostScript error</source>
+        <translation>El programa se detiene con un error de PostScript</translation>
+    </message>
+    <message>
+        <source>The interpreter had something to remark</source>
+        <translation>El intérprete hizo una observación</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>Falta showpage</translation>
+    </message>
+    <message>
+        <source>An operator that has no place in an EPS file</source>
+        <translation>Un operador que no cabe en un archivo EPS</translation>
+    </message>
+    <message>
+        <source>Operators of a higher language level than the comments declare</source>
+        <translation>Operadores de un nivel de lenguaje superior al declarado</translation>
+    </message>
+    <message>
+        <source>%%EndComments is missing</source>
+        <translation>Falta %%EndComments</translation>
+    </message>
+    <message>
+        <source>Comments stand in the wrong order</source>
+        <translation>Hay comentarios en un orden incorrecto</translation>
+    </message>
+    <message>
+        <source>A section begins and does not end, or the other way round</source>
+        <translation>Una sección empieza y no termina, o al revés</translation>
+    </message>
+    <message>
+        <source>Lines of more than 255 bytes</source>
+        <translation>Líneas de más de 255 bytes</translation>
+    </message>
+    <message>
+        <source>Lines end in different ways</source>
+        <translation>Las líneas terminan de distintas maneras</translation>
+    </message>
+    <message>
+        <source>Other bytes than %%DocumentData declares</source>
+        <translation>Otros bytes que los declarados en %%DocumentData</translation>
+    </message>
+    <message>
+        <source>The file needs fonts that it does not bring</source>
+        <translation>El archivo necesita tipos de letra que no trae</translation>
+    </message>
+    <message>
+        <source>There is no preview</source>
+        <translation>No hay vista previa</translation>
+    </message>
+    <message>
+        <source>The preview cannot be read</source>
+        <translation>La vista previa no se puede leer</translation>
+    </message>
+    <message>
+        <source>The preview shows another picture than the program draws</source>
+        <translation>La vista previa muestra otra imagen que la dibujada</translation>
+    </message>
+    <message>
+        <source>The preview has another shape than the bounding box</source>
+        <translation>La vista previa no tiene la forma del recuadro delimitador</translation>
+    </message>
+    <message>
+        <source>A font is neither in the file nor on this machine</source>
+        <translation>Un tipo de letra no está ni en el archivo ni en este equipo</translation>
+    </message>
+    <message>
+        <source>A font is not embedded</source>
+        <translation>Un tipo de letra no está incrustado</translation>
+    </message>
+    <message>
+        <source>A font is embedded as a whole</source>
+        <translation>Un tipo de letra está incrustado entero</translation>
+    </message>
+    <message>
+        <source>A Type 3 font</source>
+        <translation>Un tipo de letra Type 3</translation>
+    </message>
+    <message>
+        <source>Text smaller than the profile allows</source>
+        <translation>Texto menor de lo que permite el perfil</translation>
+    </message>
+    <message>
+        <source>RGB colours where the profile wants none</source>
+        <translation>Colores RGB que el perfil no admite</translation>
+    </message>
+    <message>
+        <source>RGB in a CMYK picture</source>
+        <translation>RGB en una imagen CMYK</translation>
+    </message>
+    <message>
+        <source>Spot inks</source>
+        <translation>Tintas planas</translation>
+    </message>
+    <message>
+        <source>More ink in one place than the profile allows</source>
+        <translation>Más tinta en un punto de la que permite el perfil</translation>
+    </message>
+    <message>
+        <source>White that overprints vanishes</source>
+        <translation>El blanco que sobreimprime desaparece</translation>
+    </message>
+    <message>
+        <source>Black text that does not overprint</source>
+        <translation>Texto negro que no sobreimprime</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparencia</translation>
+    </message>
+    <message>
+        <source>Lines thinner than the profile allows</source>
+        <translation>Líneas más finas de lo que permite el perfil</translation>
+    </message>
+    <message>
+        <source>An image has fewer pixels an inch than the profile asks for</source>
+        <translation>Una imagen tiene menos píxeles por pulgada de los que pide el perfil</translation>
+    </message>
+    <message>
+        <source>Something is drawn outside the page's box</source>
+        <translation>Algo está dibujado fuera del recuadro de la página</translation>
+    </message>
+    <message>
+        <source>The picture fits no column of the profile</source>
+        <translation>La imagen no encaja en ninguna columna del perfil</translation>
+    </message>
+    <message>
+        <source>A part of the page was not looked at</source>
+        <translation>Una parte de la página no se ha examinado</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>El archivo está dañado</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>El documento está cifrado</translation>
+    </message>
+    <message>
+        <source>Its permissions forbid printing or changing it</source>
+        <translation>Sus permisos prohíben imprimirlo o modificarlo</translation>
+    </message>
+    <message>
+        <source>It claims to keep a standard</source>
+        <translation>Declara cumplir una norma</translation>
+    </message>
+    <message>
+        <source>It claims PDF/X or PDF/A and has no output intent</source>
+        <translation>Declara PDF/X o PDF/A y no tiene propósito de salida</translation>
+    </message>
+    <message>
+        <source>It needs other files, which are never loaded</source>
+        <translation>Necesita otros archivos, que nunca se cargan</translation>
+    </message>
+    <message>
+        <source>Filters become images in print</source>
+        <translation>Los filtros se convierten en imágenes al imprimir</translation>
+    </message>
+    <message>
+        <source>The size has no unit, or there is none</source>
+        <translation>El tamaño no tiene unidad, o no lo hay</translation>
+    </message>
+    <message>
+        <source>Scripts and animations are not run</source>
+        <translation>Los scripts y las animaciones no se ejecutan</translation>
+    </message>
+    <message>
+        <source>repair takes the program out</source>
+        <translation>Reparar extrae el programa</translation>
+    </message>
+    <message>
+        <source>repair writes the header anew</source>
+        <translation>Reparar reescribe la cabecera</translation>
+    </message>
+    <message>
+        <source>repair leaves them out</source>
+        <translation>Reparar los omite</translation>
+    </message>
+    <message>
+        <source>fetch the file again</source>
+        <translation>Vuelva a obtener el archivo</translation>
+    </message>
+    <message>
+        <source>repair writes it</source>
+        <translation>Reparar la escribe</translation>
+    </message>
+    <message>
+        <source>repair writes the versions 3.0</source>
+        <translation>Reparar escribe las versiones 3.0</translation>
+    </message>
+    <message>
+        <source>repair computes it</source>
+        <translation>Reparar lo calcula</translation>
+    </message>
+    <message>
+        <source>repair writes whole numbers</source>
+        <translation>Reparar escribe números enteros</translation>
+    </message>
+    <message>
+        <source>repair computes both</source>
+        <translation>Reparar calcula ambos</translation>
+    </message>
+    <message>
+        <source>write the file again from the program that made it</source>
+        <translation>Vuelva a escribir el archivo con el programa que lo creó</translation>
+    </message>
+    <message>
+        <source>repair puts it in</source>
+        <translation>Reparar lo añade</translation>
+    </message>
+    <message>
+        <source>write the file again as EPS</source>
+        <translation>Vuelva a escribir el archivo como EPS</translation>
+    </message>
+    <message>
+        <source>add %%LanguageLevel to the header</source>
+        <translation>Añada %%LanguageLevel a la cabecera</translation>
+    </message>
+    <message>
+        <source>repair puts those of the header in order</source>
+        <translation>Reparar ordena los de la cabecera</translation>
+    </message>
+    <message>
+        <source>most readers take them</source>
+        <translation>La mayoría de los lectores las aceptan</translation>
+    </message>
+    <message>
+        <source>declare %%DocumentData: Binary</source>
+        <translation>Declare %%DocumentData: Binary</translation>
+    </message>
+    <message>
+        <source>embed the fonts, or draw text as outlines</source>
+        <translation>Incruste los tipos de letra o trace el texto</translation>
+    </message>
+    <message>
+        <source>repair makes one</source>
+        <translation>Reparar crea una</translation>
+    </message>
+    <message>
+        <source>embed the font</source>
+        <translation>Incruste el tipo de letra</translation>
+    </message>
+    <message>
+        <source>use a font with outlines</source>
+        <translation>Use un tipo de letra con contornos</translation>
+    </message>
+    <message>
+        <source>set the text larger</source>
+        <translation>Use un cuerpo de texto mayor</translation>
+    </message>
+    <message>
+        <source>convert the colours</source>
+        <translation>Convierta los colores</translation>
+    </message>
+    <message>
+        <source>choose colours with less ink</source>
+        <translation>Elija colores con menos tinta</translation>
+    </message>
+    <message>
+        <source>let it knock out</source>
+        <translation>Haga que cale</translation>
+    </message>
+    <message>
+        <source>let black text overprint</source>
+        <translation>Haga que el texto negro sobreimprima</translation>
+    </message>
+    <message>
+        <source>flatten it where the printer asks for it</source>
+        <translation>Acóplela si la imprenta lo pide</translation>
+    </message>
+    <message>
+        <source>draw them thicker</source>
+        <translation>Dibújelas más gruesas</translation>
+    </message>
+    <message>
+        <source>place it smaller, or with more pixels</source>
+        <translation>Colóquela más pequeña, o con más píxeles</translation>
+    </message>
+    <message>
+        <source>enlarge the box, or leave it out</source>
+        <translation>Amplíe el recuadro u omítalo</translation>
+    </message>
+    <message>
+        <source>draw it for the column's width</source>
+        <translation>Dibújela para el ancho de la columna</translation>
+    </message>
+    <message>
+        <source>convert it to PDF, and look whether anything is missing</source>
+        <translation>Conviértalo a PDF y compruebe que no falte nada</translation>
+    </message>
+    <message>
+        <source>write it without encryption</source>
+        <translation>Escríbalo sin cifrado</translation>
+    </message>
+    <message>
+        <source>write it without restrictions</source>
+        <translation>Escríbalo sin restricciones</translation>
+    </message>
+    <message>
+        <source>add the output intent</source>
+        <translation>Añada el propósito de salida</translation>
+    </message>
+    <message>
+        <source>embed them</source>
+        <translation>Incrústelos</translation>
+    </message>
+    <message>
+        <source>draw the effect, or accept an image</source>
+        <translation>Dibuje el efecto o acepte una imagen</translation>
+    </message>
+    <message>
+        <source>give width and height in mm, pt or in</source>
+        <translation>Indique ancho y alto en mm, pt o in</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -1411,6 +1411,394 @@
         <source>Go to Inspector or Pi&amp;cture</source>
         <translation>Aller aux informations ou à l’ima&amp;ge</translation>
     </message>
+    <message>
+        <source>The program lies in a wrapping of another system</source>
+        <translation>Le programme est enveloppé dans un format d’un autre système</translation>
+    </message>
+    <message>
+        <source>A section of the binary header lies outside the file</source>
+        <translation>Une section de l’en-tête binaire est hors du fichier</translation>
+    </message>
+    <message>
+        <source>Sections of the binary header overlap</source>
+        <translation>Des sections de l’en-tête binaire se chevauchent</translation>
+    </message>
+    <message>
+        <source>Bytes before the first line</source>
+        <translation>Octets avant la première ligne</translation>
+    </message>
+    <message>
+        <source>Bytes behind the program's end</source>
+        <translation>Octets après la fin du programme</translation>
+    </message>
+    <message>
+        <source>The file is cut off</source>
+        <translation>Le fichier est tronqué</translation>
+    </message>
+    <message>
+        <source>The first line is not that of a PostScript file</source>
+        <translation>La première ligne n’est pas celle d’un fichier PostScript</translation>
+    </message>
+    <message>
+        <source>The first line does not declare EPSF</source>
+        <translation>La première ligne ne déclare pas EPSF</translation>
+    </message>
+    <message>
+        <source>The first line declares a version that does not exist</source>
+        <translation>La première ligne déclare une version qui n’existe pas</translation>
+    </message>
+    <message>
+        <source>There is no %%BoundingBox</source>
+        <translation>Il n’y a pas de %%BoundingBox</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox: (atend) without a box at the end</source>
+        <translation>%%BoundingBox: (atend) sans cadre à la fin</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not hold four numbers</source>
+        <translation>%%BoundingBox ne contient pas quatre nombres</translation>
+    </message>
+    <message>
+        <source>The bounding box is empty</source>
+        <translation>Le cadre de délimitation est vide</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds numbers that are not whole</source>
+        <translation>%%BoundingBox contient des nombres non entiers</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not enclose %%HiResBoundingBox, or is far larger</source>
+        <translation>%%BoundingBox n’englobe pas %%HiResBoundingBox, ou est bien plus grand</translation>
+    </message>
+    <message>
+        <source>Ink lies outside the bounding box</source>
+        <translation>De l’encre se trouve hors du cadre de délimitation</translation>
+    </message>
+    <message>
+        <source>The bounding box is larger than the ink</source>
+        <translation>Le cadre de délimitation est plus grand que l’encre</translation>
+    </message>
+    <message>
+        <source>The program draws nothing that is not white</source>
+        <translation>Le programme ne dessine rien qui ne soit blanc</translation>
+    </message>
+    <message>
+        <source>The program stops with a PostScript error</source>
+        <translation>Le programme s’arrête sur une erreur PostScript</translation>
+    </message>
+    <message>
+        <source>The interpreter had something to remark</source>
+        <translation>L’interpréteur a fait une remarque</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>showpage manque</translation>
+    </message>
+    <message>
+        <source>An operator that has no place in an EPS file</source>
+        <translation>Un opérateur qui n’a pas sa place dans un fichier EPS</translation>
+    </message>
+    <message>
+        <source>Operators of a higher language level than the comments declare</source>
+        <translation>Opérateurs d’un niveau de langage supérieur à celui déclaré</translation>
+    </message>
+    <message>
+        <source>%%EndComments is missing</source>
+        <translation>%%EndComments manque</translation>
+    </message>
+    <message>
+        <source>Comments stand in the wrong order</source>
+        <translation>Des commentaires sont dans le mauvais ordre</translation>
+    </message>
+    <message>
+        <source>A section begins and does not end, or the other way round</source>
+        <translation>Une section commence sans finir, ou l’inverse</translation>
+    </message>
+    <message>
+        <source>Lines of more than 255 bytes</source>
+        <translation>Lignes de plus de 255 octets</translation>
+    </message>
+    <message>
+        <source>Lines end in different ways</source>
+        <translation>Les lignes finissent de différentes manières</translation>
+    </message>
+    <message>
+        <source>Other bytes than %%DocumentData declares</source>
+        <translation>D’autres octets que ceux déclarés par %%DocumentData</translation>
+    </message>
+    <message>
+        <source>The file needs fonts that it does not bring</source>
+        <translation>Le fichier a besoin de polices qu’il n’apporte pas</translation>
+    </message>
+    <message>
+        <source>There is no preview</source>
+        <translation>Il n’y a pas d’aperçu</translation>
+    </message>
+    <message>
+        <source>The preview cannot be read</source>
+        <translation>L’aperçu est illisible</translation>
+    </message>
+    <message>
+        <source>The preview shows another picture than the program draws</source>
+        <translation>L’aperçu montre une autre image que celle dessinée</translation>
+    </message>
+    <message>
+        <source>The preview has another shape than the bounding box</source>
+        <translation>L’aperçu n’a pas la forme du cadre de délimitation</translation>
+    </message>
+    <message>
+        <source>A font is neither in the file nor on this machine</source>
+        <translation>Une police n’est ni dans le fichier ni sur cette machine</translation>
+    </message>
+    <message>
+        <source>A font is not embedded</source>
+        <translation>Une police n’est pas incorporée</translation>
+    </message>
+    <message>
+        <source>A font is embedded as a whole</source>
+        <translation>Une police est incorporée en entier</translation>
+    </message>
+    <message>
+        <source>A Type 3 font</source>
+        <translation>Une police Type 3</translation>
+    </message>
+    <message>
+        <source>Text smaller than the profile allows</source>
+        <translation>Texte plus petit que le profil ne le permet</translation>
+    </message>
+    <message>
+        <source>RGB colours where the profile wants none</source>
+        <translation>Couleurs RVB que le profil n’admet pas</translation>
+    </message>
+    <message>
+        <source>RGB in a CMYK picture</source>
+        <translation>RVB dans une image CMJN</translation>
+    </message>
+    <message>
+        <source>Spot inks</source>
+        <translation>Tons directs</translation>
+    </message>
+    <message>
+        <source>More ink in one place than the profile allows</source>
+        <translation>Plus d’encre en un endroit que le profil ne le permet</translation>
+    </message>
+    <message>
+        <source>White that overprints vanishes</source>
+        <translation>Du blanc en surimpression disparaît</translation>
+    </message>
+    <message>
+        <source>Black text that does not overprint</source>
+        <translation>Texte noir sans surimpression</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparence</translation>
+    </message>
+    <message>
+        <source>Lines thinner than the profile allows</source>
+        <translation>Traits plus fins que le profil ne le permet</translation>
+    </message>
+    <message>
+        <source>An image has fewer pixels an inch than the profile asks for</source>
+        <translation>Une image a moins de pixels par pouce que le profil n’en demande</translation>
+    </message>
+    <message>
+        <source>Something is drawn outside the page's box</source>
+        <translation>Quelque chose est dessiné hors du cadre de la page</translation>
+    </message>
+    <message>
+        <source>The picture fits no column of the profile</source>
+        <translation>L’image ne convient à aucune colonne du profil</translation>
+    </message>
+    <message>
+        <source>A part of the page was not looked at</source>
+        <translation>Une partie de la page n’a pas été examinée</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>Le fichier est endommagé</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>Le document est chiffré</translation>
+    </message>
+    <message>
+        <source>Its permissions forbid printing or changing it</source>
+        <translation>Ses droits interdisent l’impression ou la modification</translation>
+    </message>
+    <message>
+        <source>It claims to keep a standard</source>
+        <translation>Il déclare respecter une norme</translation>
+    </message>
+    <message>
+        <source>It claims PDF/X or PDF/A and has no output intent</source>
+        <translation>Il déclare PDF/X ou PDF/A sans intention de sortie</translation>
+    </message>
+    <message>
+        <source>It needs other files, which are never loaded</source>
+        <translation>Il a besoin d’autres fichiers, qui ne sont jamais chargés</translation>
+    </message>
+    <message>
+        <source>Filters become images in print</source>
+        <translation>Les filtres deviennent des images à l’impression</translation>
+    </message>
+    <message>
+        <source>The size has no unit, or there is none</source>
+        <translation>La taille n’a pas d’unité, ou manque</translation>
+    </message>
+    <message>
+        <source>Scripts and animations are not run</source>
+        <translation>Les scripts et les animations ne sont pas exécutés</translation>
+    </message>
+    <message>
+        <source>repair takes the program out</source>
+        <translation>Réparer extrait le programme</translation>
+    </message>
+    <message>
+        <source>repair writes the header anew</source>
+        <translation>Réparer réécrit l’en-tête</translation>
+    </message>
+    <message>
+        <source>repair leaves them out</source>
+        <translation>Réparer les supprime</translation>
+    </message>
+    <message>
+        <source>fetch the file again</source>
+        <translation>Récupérez le fichier à nouveau</translation>
+    </message>
+    <message>
+        <source>repair writes it</source>
+        <translation>Réparer l’écrit</translation>
+    </message>
+    <message>
+        <source>repair writes the versions 3.0</source>
+        <translation>Réparer écrit les versions 3.0</translation>
+    </message>
+    <message>
+        <source>repair computes it</source>
+        <translation>Réparer le calcule</translation>
+    </message>
+    <message>
+        <source>repair writes whole numbers</source>
+        <translation>Réparer écrit des nombres entiers</translation>
+    </message>
+    <message>
+        <source>repair computes both</source>
+        <translation>Réparer calcule les deux</translation>
+    </message>
+    <message>
+        <source>write the file again from the program that made it</source>
+        <translation>Réécrivez le fichier depuis le programme qui l’a créé</translation>
+    </message>
+    <message>
+        <source>repair puts it in</source>
+        <translation>Réparer l’insère</translation>
+    </message>
+    <message>
+        <source>write the file again as EPS</source>
+        <translation>Réécrivez le fichier en EPS</translation>
+    </message>
+    <message>
+        <source>add %%LanguageLevel to the header</source>
+        <translation>Ajoutez %%LanguageLevel à l’en-tête</translation>
+    </message>
+    <message>
+        <source>repair puts those of the header in order</source>
+        <translation>Réparer remet en ordre ceux de l’en-tête</translation>
+    </message>
+    <message>
+        <source>most readers take them</source>
+        <translation>La plupart des lecteurs les acceptent</translation>
+    </message>
+    <message>
+        <source>declare %%DocumentData: Binary</source>
+        <translation>Déclarez %%DocumentData: Binary</translation>
+    </message>
+    <message>
+        <source>embed the fonts, or draw text as outlines</source>
+        <translation>Incorporez les polices, ou vectorisez le texte</translation>
+    </message>
+    <message>
+        <source>repair makes one</source>
+        <translation>Réparer en crée un</translation>
+    </message>
+    <message>
+        <source>embed the font</source>
+        <translation>Incorporez la police</translation>
+    </message>
+    <message>
+        <source>use a font with outlines</source>
+        <translation>Utilisez une police vectorielle</translation>
+    </message>
+    <message>
+        <source>set the text larger</source>
+        <translation>Composez le texte plus grand</translation>
+    </message>
+    <message>
+        <source>convert the colours</source>
+        <translation>Convertissez les couleurs</translation>
+    </message>
+    <message>
+        <source>choose colours with less ink</source>
+        <translation>Choisissez des couleurs moins encrées</translation>
+    </message>
+    <message>
+        <source>let it knock out</source>
+        <translation>Mettez-le en défonce</translation>
+    </message>
+    <message>
+        <source>let black text overprint</source>
+        <translation>Mettez le texte noir en surimpression</translation>
+    </message>
+    <message>
+        <source>flatten it where the printer asks for it</source>
+        <translation>Aplatissez-la si l’imprimeur le demande</translation>
+    </message>
+    <message>
+        <source>draw them thicker</source>
+        <translation>Dessinez-les plus épais</translation>
+    </message>
+    <message>
+        <source>place it smaller, or with more pixels</source>
+        <translation>Placez-la plus petite, ou avec plus de pixels</translation>
+    </message>
+    <message>
+        <source>enlarge the box, or leave it out</source>
+        <translation>Agrandissez le cadre, ou supprimez-le</translation>
+    </message>
+    <message>
+        <source>draw it for the column's width</source>
+        <translation>Dessinez-la à la largeur de la colonne</translation>
+    </message>
+    <message>
+        <source>convert it to PDF, and look whether anything is missing</source>
+        <translation>Convertissez-le en PDF et vérifiez que rien ne manque</translation>
+    </message>
+    <message>
+        <source>write it without encryption</source>
+        <translation>Écrivez-le sans chiffrement</translation>
+    </message>
+    <message>
+        <source>write it without restrictions</source>
+        <translation>Écrivez-le sans restrictions</translation>
+    </message>
+    <message>
+        <source>add the output intent</source>
+        <translation>Ajoutez l’intention de sortie</translation>
+    </message>
+    <message>
+        <source>embed them</source>
+        <translation>Incorporez-les</translation>
+    </message>
+    <message>
+        <source>draw the effect, or accept an image</source>
+        <translation>Dessinez l’effet, ou acceptez une image</translation>
+    </message>
+    <message>
+        <source>give width and height in mm, pt or in</source>
+        <translation>Donnez largeur et hauteur en mm, pt ou in</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -1411,6 +1411,394 @@
         <source>Go to Inspector or Pi&amp;cture</source>
         <translation>インスペクタと画像を切り替え(&amp;C)</translation>
     </message>
+    <message>
+        <source>The program lies in a wrapping of another system</source>
+        <translation>プログラムが他のシステムの形式で包まれています。</translation>
+    </message>
+    <message>
+        <source>A section of the binary header lies outside the file</source>
+        <translation>バイナリヘッダの区画がファイルの外にあります。</translation>
+    </message>
+    <message>
+        <source>Sections of the binary header overlap</source>
+        <translation>バイナリヘッダの区画が重なっています。</translation>
+    </message>
+    <message>
+        <source>Bytes before the first line</source>
+        <translation>最初の行の前に余分なバイトがあります。</translation>
+    </message>
+    <message>
+        <source>Bytes behind the program's end</source>
+        <translation>プログラムの終わりの後に余分なバイトがあります。</translation>
+    </message>
+    <message>
+        <source>The file is cut off</source>
+        <translation>ファイルが途中で切れています。</translation>
+    </message>
+    <message>
+        <source>The first line is not that of a PostScript file</source>
+        <translation>最初の行が PostScript ファイルのものではありません。</translation>
+    </message>
+    <message>
+        <source>The first line does not declare EPSF</source>
+        <translation>最初の行が EPSF を宣言していません。</translation>
+    </message>
+    <message>
+        <source>The first line declares a version that does not exist</source>
+        <translation>最初の行が存在しない版を宣言しています。</translation>
+    </message>
+    <message>
+        <source>There is no %%BoundingBox</source>
+        <translation>%%BoundingBox がありません。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox: (atend) without a box at the end</source>
+        <translation>%%BoundingBox: (atend) とありますが、終わりに値がありません。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not hold four numbers</source>
+        <translation>%%BoundingBox に 4 つの数値がありません。</translation>
+    </message>
+    <message>
+        <source>The bounding box is empty</source>
+        <translation>バウンディングボックスが空です。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds numbers that are not whole</source>
+        <translation>%%BoundingBox に整数でない値があります。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not enclose %%HiResBoundingBox, or is far larger</source>
+        <translation>%%BoundingBox が %%HiResBoundingBox を囲んでいないか、はるかに大きい値です。</translation>
+    </message>
+    <message>
+        <source>Ink lies outside the bounding box</source>
+        <translation>バウンディングボックスの外に描画があります。</translation>
+    </message>
+    <message>
+        <source>The bounding box is larger than the ink</source>
+        <translation>バウンディングボックスが描画より大きくなっています。</translation>
+    </message>
+    <message>
+        <source>The program draws nothing that is not white</source>
+        <translation>プログラムは白以外の何も描きません。</translation>
+    </message>
+    <message>
+        <source>The program stops with a PostScript error</source>
+        <translation>プログラムが PostScript エラーで止まります。</translation>
+    </message>
+    <message>
+        <source>The interpreter had something to remark</source>
+        <translation>インタプリタからの注記があります。</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>showpage がありません。</translation>
+    </message>
+    <message>
+        <source>An operator that has no place in an EPS file</source>
+        <translation>EPS ファイルで使ってはならない演算子があります。</translation>
+    </message>
+    <message>
+        <source>Operators of a higher language level than the comments declare</source>
+        <translation>コメントの宣言より高い言語レベルの演算子があります。</translation>
+    </message>
+    <message>
+        <source>%%EndComments is missing</source>
+        <translation>%%EndComments がありません。</translation>
+    </message>
+    <message>
+        <source>Comments stand in the wrong order</source>
+        <translation>コメントの順序が正しくありません。</translation>
+    </message>
+    <message>
+        <source>A section begins and does not end, or the other way round</source>
+        <translation>区画の始まりと終わりが対応していません。</translation>
+    </message>
+    <message>
+        <source>Lines of more than 255 bytes</source>
+        <translation>255 バイトを超える行があります。</translation>
+    </message>
+    <message>
+        <source>Lines end in different ways</source>
+        <translation>行末の形式が混在しています。</translation>
+    </message>
+    <message>
+        <source>Other bytes than %%DocumentData declares</source>
+        <translation>%%DocumentData の宣言と異なるバイトがあります。</translation>
+    </message>
+    <message>
+        <source>The file needs fonts that it does not bring</source>
+        <translation>ファイルに含まれないフォントが必要です。</translation>
+    </message>
+    <message>
+        <source>There is no preview</source>
+        <translation>プレビューがありません。</translation>
+    </message>
+    <message>
+        <source>The preview cannot be read</source>
+        <translation>プレビューを読めません。</translation>
+    </message>
+    <message>
+        <source>The preview shows another picture than the program draws</source>
+        <translation>プレビューがプログラムの描く画像と異なります。</translation>
+    </message>
+    <message>
+        <source>The preview has another shape than the bounding box</source>
+        <translation>プレビューの縦横比がバウンディングボックスと異なります。</translation>
+    </message>
+    <message>
+        <source>A font is neither in the file nor on this machine</source>
+        <translation>ファイルにもこのマシンにもないフォントがあります。</translation>
+    </message>
+    <message>
+        <source>A font is not embedded</source>
+        <translation>埋め込まれていないフォントがあります。</translation>
+    </message>
+    <message>
+        <source>A font is embedded as a whole</source>
+        <translation>フォント全体が埋め込まれています。</translation>
+    </message>
+    <message>
+        <source>A Type 3 font</source>
+        <translation>Type 3 フォントがあります。</translation>
+    </message>
+    <message>
+        <source>Text smaller than the profile allows</source>
+        <translation>プロファイルの許容より小さい文字があります。</translation>
+    </message>
+    <message>
+        <source>RGB colours where the profile wants none</source>
+        <translation>プロファイルが認めない RGB カラーがあります。</translation>
+    </message>
+    <message>
+        <source>RGB in a CMYK picture</source>
+        <translation>CMYK 画像に RGB があります。</translation>
+    </message>
+    <message>
+        <source>Spot inks</source>
+        <translation>特色があります。</translation>
+    </message>
+    <message>
+        <source>More ink in one place than the profile allows</source>
+        <translation>プロファイルの許容よりインク総量が多い箇所があります。</translation>
+    </message>
+    <message>
+        <source>White that overprints vanishes</source>
+        <translation>オーバープリントの白は消えます。</translation>
+    </message>
+    <message>
+        <source>Black text that does not overprint</source>
+        <translation>オーバープリントしない黒い文字があります。</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>透明効果があります。</translation>
+    </message>
+    <message>
+        <source>Lines thinner than the profile allows</source>
+        <translation>プロファイルの許容より細い線があります。</translation>
+    </message>
+    <message>
+        <source>An image has fewer pixels an inch than the profile asks for</source>
+        <translation>プロファイルの求める解像度に満たない画像があります。</translation>
+    </message>
+    <message>
+        <source>Something is drawn outside the page's box</source>
+        <translation>ページの枠の外に描画があります。</translation>
+    </message>
+    <message>
+        <source>The picture fits no column of the profile</source>
+        <translation>画像がプロファイルのどの段幅にも合いません。</translation>
+    </message>
+    <message>
+        <source>A part of the page was not looked at</source>
+        <translation>ページの一部は調べていません。</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>ファイルが壊れています。</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>文書は暗号化されています。</translation>
+    </message>
+    <message>
+        <source>Its permissions forbid printing or changing it</source>
+        <translation>印刷または変更が許可されていません。</translation>
+    </message>
+    <message>
+        <source>It claims to keep a standard</source>
+        <translation>規格に準拠すると宣言しています。</translation>
+    </message>
+    <message>
+        <source>It claims PDF/X or PDF/A and has no output intent</source>
+        <translation>PDF/X または PDF/A を宣言していますが、出力インテントがありません。</translation>
+    </message>
+    <message>
+        <source>It needs other files, which are never loaded</source>
+        <translation>読み込まれることのない他のファイルが必要です。</translation>
+    </message>
+    <message>
+        <source>Filters become images in print</source>
+        <translation>フィルタは印刷で画像になります。</translation>
+    </message>
+    <message>
+        <source>The size has no unit, or there is none</source>
+        <translation>サイズに単位がないか、サイズがありません。</translation>
+    </message>
+    <message>
+        <source>Scripts and animations are not run</source>
+        <translation>スクリプトとアニメーションは実行されません。</translation>
+    </message>
+    <message>
+        <source>repair takes the program out</source>
+        <translation>修復でプログラムを取り出します。</translation>
+    </message>
+    <message>
+        <source>repair writes the header anew</source>
+        <translation>修復でヘッダを書き直します。</translation>
+    </message>
+    <message>
+        <source>repair leaves them out</source>
+        <translation>修復で取り除きます。</translation>
+    </message>
+    <message>
+        <source>fetch the file again</source>
+        <translation>ファイルを入手し直してください。</translation>
+    </message>
+    <message>
+        <source>repair writes it</source>
+        <translation>修復で書き込みます。</translation>
+    </message>
+    <message>
+        <source>repair writes the versions 3.0</source>
+        <translation>修復で版 3.0 を書き込みます。</translation>
+    </message>
+    <message>
+        <source>repair computes it</source>
+        <translation>修復で計算します。</translation>
+    </message>
+    <message>
+        <source>repair writes whole numbers</source>
+        <translation>修復で整数を書き込みます。</translation>
+    </message>
+    <message>
+        <source>repair computes both</source>
+        <translation>修復で両方を計算します。</translation>
+    </message>
+    <message>
+        <source>write the file again from the program that made it</source>
+        <translation>作成したプログラムからファイルを書き出し直してください。</translation>
+    </message>
+    <message>
+        <source>repair puts it in</source>
+        <translation>修復で追加します。</translation>
+    </message>
+    <message>
+        <source>write the file again as EPS</source>
+        <translation>EPS として書き出し直してください。</translation>
+    </message>
+    <message>
+        <source>add %%LanguageLevel to the header</source>
+        <translation>ヘッダに %%LanguageLevel を加えてください。</translation>
+    </message>
+    <message>
+        <source>repair puts those of the header in order</source>
+        <translation>修復でヘッダのコメントを並べ直します。</translation>
+    </message>
+    <message>
+        <source>most readers take them</source>
+        <translation>多くのリーダーは受け付けます。</translation>
+    </message>
+    <message>
+        <source>declare %%DocumentData: Binary</source>
+        <translation>%%DocumentData: Binary を宣言してください。</translation>
+    </message>
+    <message>
+        <source>embed the fonts, or draw text as outlines</source>
+        <translation>フォントを埋め込むか、文字をアウトライン化してください。</translation>
+    </message>
+    <message>
+        <source>repair makes one</source>
+        <translation>修復で作成します。</translation>
+    </message>
+    <message>
+        <source>embed the font</source>
+        <translation>フォントを埋め込んでください。</translation>
+    </message>
+    <message>
+        <source>use a font with outlines</source>
+        <translation>アウトラインフォントを使ってください。</translation>
+    </message>
+    <message>
+        <source>set the text larger</source>
+        <translation>文字を大きくしてください。</translation>
+    </message>
+    <message>
+        <source>convert the colours</source>
+        <translation>色を変換してください。</translation>
+    </message>
+    <message>
+        <source>choose colours with less ink</source>
+        <translation>インク量の少ない色を選んでください。</translation>
+    </message>
+    <message>
+        <source>let it knock out</source>
+        <translation>抜き合わせにしてください。</translation>
+    </message>
+    <message>
+        <source>let black text overprint</source>
+        <translation>黒い文字をオーバープリントにしてください。</translation>
+    </message>
+    <message>
+        <source>flatten it where the printer asks for it</source>
+        <translation>印刷所が求める場合は分割・統合してください。</translation>
+    </message>
+    <message>
+        <source>draw them thicker</source>
+        <translation>線を太くしてください。</translation>
+    </message>
+    <message>
+        <source>place it smaller, or with more pixels</source>
+        <translation>小さく配置するか、画素数を増やしてください。</translation>
+    </message>
+    <message>
+        <source>enlarge the box, or leave it out</source>
+        <translation>枠を広げるか、取り除いてください。</translation>
+    </message>
+    <message>
+        <source>draw it for the column's width</source>
+        <translation>段幅に合わせて描いてください。</translation>
+    </message>
+    <message>
+        <source>convert it to PDF, and look whether anything is missing</source>
+        <translation>PDF に変換し、欠けがないか確かめてください。</translation>
+    </message>
+    <message>
+        <source>write it without encryption</source>
+        <translation>暗号化せずに書き出してください。</translation>
+    </message>
+    <message>
+        <source>write it without restrictions</source>
+        <translation>制限なしで書き出してください。</translation>
+    </message>
+    <message>
+        <source>add the output intent</source>
+        <translation>出力インテントを加えてください。</translation>
+    </message>
+    <message>
+        <source>embed them</source>
+        <translation>埋め込んでください。</translation>
+    </message>
+    <message>
+        <source>draw the effect, or accept an image</source>
+        <translation>効果を描くか、画像になることを受け入れてください。</translation>
+    </message>
+    <message>
+        <source>give width and height in mm, pt or in</source>
+        <translation>幅と高さを mm、pt、in で指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

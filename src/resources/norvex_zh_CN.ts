@@ -1411,6 +1411,394 @@
         <source>Go to Inspector or Pi&amp;cture</source>
         <translation>切换检查器与图片(&amp;C)</translation>
     </message>
+    <message>
+        <source>The program lies in a wrapping of another system</source>
+        <translation>程序被其他系统的格式所包装。</translation>
+    </message>
+    <message>
+        <source>A section of the binary header lies outside the file</source>
+        <translation>二进制文件头中的某个区段位于文件之外。</translation>
+    </message>
+    <message>
+        <source>Sections of the binary header overlap</source>
+        <translation>二进制文件头中的区段互相重叠。</translation>
+    </message>
+    <message>
+        <source>Bytes before the first line</source>
+        <translation>首行之前有多余字节。</translation>
+    </message>
+    <message>
+        <source>Bytes behind the program's end</source>
+        <translation>程序结尾之后有多余字节。</translation>
+    </message>
+    <message>
+        <source>The file is cut off</source>
+        <translation>文件不完整，被截断。</translation>
+    </message>
+    <message>
+        <source>The first line is not that of a PostScript file</source>
+        <translation>首行不是 PostScript 文件的首行。</translation>
+    </message>
+    <message>
+        <source>The first line does not declare EPSF</source>
+        <translation>首行未声明 EPSF。</translation>
+    </message>
+    <message>
+        <source>The first line declares a version that does not exist</source>
+        <translation>首行声明了不存在的版本。</translation>
+    </message>
+    <message>
+        <source>There is no %%BoundingBox</source>
+        <translation>没有 %%BoundingBox。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox: (atend) without a box at the end</source>
+        <translation>%%BoundingBox: (atend)，但结尾处没有边界框。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not hold four numbers</source>
+        <translation>%%BoundingBox 中没有四个数值。</translation>
+    </message>
+    <message>
+        <source>The bounding box is empty</source>
+        <translation>边界框为空。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds numbers that are not whole</source>
+        <translation>%%BoundingBox 含有非整数数值。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox does not enclose %%HiResBoundingBox, or is far larger</source>
+        <translation>%%BoundingBox 未包住 %%HiResBoundingBox，或远大于它。</translation>
+    </message>
+    <message>
+        <source>Ink lies outside the bounding box</source>
+        <translation>有图形位于边界框之外。</translation>
+    </message>
+    <message>
+        <source>The bounding box is larger than the ink</source>
+        <translation>边界框大于实际图形。</translation>
+    </message>
+    <message>
+        <source>The program draws nothing that is not white</source>
+        <translation>程序只画出白色。</translation>
+    </message>
+    <message>
+        <source>The program stops with a PostScript error</source>
+        <translation>程序因 PostScript 错误而中止。</translation>
+    </message>
+    <message>
+        <source>The interpreter had something to remark</source>
+        <translation>解释器给出了说明。</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>缺少 showpage。</translation>
+    </message>
+    <message>
+        <source>An operator that has no place in an EPS file</source>
+        <translation>含有不应出现在 EPS 文件中的操作符。</translation>
+    </message>
+    <message>
+        <source>Operators of a higher language level than the comments declare</source>
+        <translation>操作符的语言级别高于注释所声明的级别。</translation>
+    </message>
+    <message>
+        <source>%%EndComments is missing</source>
+        <translation>缺少 %%EndComments。</translation>
+    </message>
+    <message>
+        <source>Comments stand in the wrong order</source>
+        <translation>注释的顺序有误。</translation>
+    </message>
+    <message>
+        <source>A section begins and does not end, or the other way round</source>
+        <translation>某个区段有始无终，或有终无始。</translation>
+    </message>
+    <message>
+        <source>Lines of more than 255 bytes</source>
+        <translation>有超过 255 字节的行。</translation>
+    </message>
+    <message>
+        <source>Lines end in different ways</source>
+        <translation>行尾格式不一致。</translation>
+    </message>
+    <message>
+        <source>Other bytes than %%DocumentData declares</source>
+        <translation>字节内容与 %%DocumentData 的声明不符。</translation>
+    </message>
+    <message>
+        <source>The file needs fonts that it does not bring</source>
+        <translation>文件需要其自身未包含的字体。</translation>
+    </message>
+    <message>
+        <source>There is no preview</source>
+        <translation>没有预览图。</translation>
+    </message>
+    <message>
+        <source>The preview cannot be read</source>
+        <translation>预览图无法读取。</translation>
+    </message>
+    <message>
+        <source>The preview shows another picture than the program draws</source>
+        <translation>预览图与程序画出的图片不同。</translation>
+    </message>
+    <message>
+        <source>The preview has another shape than the bounding box</source>
+        <translation>预览图的形状与边界框不同。</translation>
+    </message>
+    <message>
+        <source>A font is neither in the file nor on this machine</source>
+        <translation>某字体既不在文件中，也不在本机上。</translation>
+    </message>
+    <message>
+        <source>A font is not embedded</source>
+        <translation>某字体未嵌入。</translation>
+    </message>
+    <message>
+        <source>A font is embedded as a whole</source>
+        <translation>某字体被完整嵌入。</translation>
+    </message>
+    <message>
+        <source>A Type 3 font</source>
+        <translation>含有 Type 3 字体。</translation>
+    </message>
+    <message>
+        <source>Text smaller than the profile allows</source>
+        <translation>文字小于配置所允许的大小。</translation>
+    </message>
+    <message>
+        <source>RGB colours where the profile wants none</source>
+        <translation>含有配置不允许的 RGB 颜色。</translation>
+    </message>
+    <message>
+        <source>RGB in a CMYK picture</source>
+        <translation>CMYK 图片中含有 RGB。</translation>
+    </message>
+    <message>
+        <source>Spot inks</source>
+        <translation>含有专色。</translation>
+    </message>
+    <message>
+        <source>More ink in one place than the profile allows</source>
+        <translation>某处的总墨量超过配置所允许的量。</translation>
+    </message>
+    <message>
+        <source>White that overprints vanishes</source>
+        <translation>设为叠印的白色会消失。</translation>
+    </message>
+    <message>
+        <source>Black text that does not overprint</source>
+        <translation>黑色文字未叠印。</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>含有透明效果。</translation>
+    </message>
+    <message>
+        <source>Lines thinner than the profile allows</source>
+        <translation>线条细于配置所允许的粗细。</translation>
+    </message>
+    <message>
+        <source>An image has fewer pixels an inch than the profile asks for</source>
+        <translation>某图像的分辨率低于配置要求。</translation>
+    </message>
+    <message>
+        <source>Something is drawn outside the page's box</source>
+        <translation>有内容画在页面框之外。</translation>
+    </message>
+    <message>
+        <source>The picture fits no column of the profile</source>
+        <translation>图片宽度不符合配置中的任何栏宽。</translation>
+    </message>
+    <message>
+        <source>A part of the page was not looked at</source>
+        <translation>页面有一部分未检查。</translation>
+    </message>
+    <message>
+        <source>The file is damaged</source>
+        <translation>文件已损坏。</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>文档已加密。</translation>
+    </message>
+    <message>
+        <source>Its permissions forbid printing or changing it</source>
+        <translation>其权限禁止打印或修改。</translation>
+    </message>
+    <message>
+        <source>It claims to keep a standard</source>
+        <translation>声明遵循某项标准。</translation>
+    </message>
+    <message>
+        <source>It claims PDF/X or PDF/A and has no output intent</source>
+        <translation>声明为 PDF/X 或 PDF/A，但没有输出意图。</translation>
+    </message>
+    <message>
+        <source>It needs other files, which are never loaded</source>
+        <translation>需要其他文件，而这些文件从不加载。</translation>
+    </message>
+    <message>
+        <source>Filters become images in print</source>
+        <translation>滤镜在打印时会变成图像。</translation>
+    </message>
+    <message>
+        <source>The size has no unit, or there is none</source>
+        <translation>尺寸没有单位，或没有尺寸。</translation>
+    </message>
+    <message>
+        <source>Scripts and animations are not run</source>
+        <translation>脚本和动画不会运行。</translation>
+    </message>
+    <message>
+        <source>repair takes the program out</source>
+        <translation>修复会取出程序。</translation>
+    </message>
+    <message>
+        <source>repair writes the header anew</source>
+        <translation>修复会重写文件头。</translation>
+    </message>
+    <message>
+        <source>repair leaves them out</source>
+        <translation>修复会将其去除。</translation>
+    </message>
+    <message>
+        <source>fetch the file again</source>
+        <translation>请重新获取该文件。</translation>
+    </message>
+    <message>
+        <source>repair writes it</source>
+        <translation>修复会写入。</translation>
+    </message>
+    <message>
+        <source>repair writes the versions 3.0</source>
+        <translation>修复会写入版本 3.0。</translation>
+    </message>
+    <message>
+        <source>repair computes it</source>
+        <translation>修复会重新计算。</translation>
+    </message>
+    <message>
+        <source>repair writes whole numbers</source>
+        <translation>修复会写入整数。</translation>
+    </message>
+    <message>
+        <source>repair computes both</source>
+        <translation>修复会重新计算两者。</translation>
+    </message>
+    <message>
+        <source>write the file again from the program that made it</source>
+        <translation>请用生成该文件的程序重新写出。</translation>
+    </message>
+    <message>
+        <source>repair puts it in</source>
+        <translation>修复会将其补上。</translation>
+    </message>
+    <message>
+        <source>write the file again as EPS</source>
+        <translation>请重新以 EPS 格式写出。</translation>
+    </message>
+    <message>
+        <source>add %%LanguageLevel to the header</source>
+        <translation>请在文件头中加入 %%LanguageLevel。</translation>
+    </message>
+    <message>
+        <source>repair puts those of the header in order</source>
+        <translation>修复会整理文件头中的注释。</translation>
+    </message>
+    <message>
+        <source>most readers take them</source>
+        <translation>多数读取程序可以接受。</translation>
+    </message>
+    <message>
+        <source>declare %%DocumentData: Binary</source>
+        <translation>请声明 %%DocumentData: Binary。</translation>
+    </message>
+    <message>
+        <source>embed the fonts, or draw text as outlines</source>
+        <translation>请嵌入字体，或将文字转为轮廓。</translation>
+    </message>
+    <message>
+        <source>repair makes one</source>
+        <translation>修复会生成预览图。</translation>
+    </message>
+    <message>
+        <source>embed the font</source>
+        <translation>请嵌入该字体。</translation>
+    </message>
+    <message>
+        <source>use a font with outlines</source>
+        <translation>请使用轮廓字体。</translation>
+    </message>
+    <message>
+        <source>set the text larger</source>
+        <translation>请增大文字。</translation>
+    </message>
+    <message>
+        <source>convert the colours</source>
+        <translation>请转换颜色。</translation>
+    </message>
+    <message>
+        <source>choose colours with less ink</source>
+        <translation>请选用墨量更少的颜色。</translation>
+    </message>
+    <message>
+        <source>let it knock out</source>
+        <translation>请改为挖空。</translation>
+    </message>
+    <message>
+        <source>let black text overprint</source>
+        <translation>请让黑色文字叠印。</translation>
+    </message>
+    <message>
+        <source>flatten it where the printer asks for it</source>
+        <translation>若印刷厂要求，请拼合透明。</translation>
+    </message>
+    <message>
+        <source>draw them thicker</source>
+        <translation>请加粗线条。</translation>
+    </message>
+    <message>
+        <source>place it smaller, or with more pixels</source>
+        <translation>请缩小放置，或提供更多像素。</translation>
+    </message>
+    <message>
+        <source>enlarge the box, or leave it out</source>
+        <translation>请扩大页面框，或将其去除。</translation>
+    </message>
+    <message>
+        <source>draw it for the column's width</source>
+        <translation>请按栏宽绘制。</translation>
+    </message>
+    <message>
+        <source>convert it to PDF, and look whether anything is missing</source>
+        <translation>请转换为 PDF，并查看是否有缺失。</translation>
+    </message>
+    <message>
+        <source>write it without encryption</source>
+        <translation>请以不加密方式写出。</translation>
+    </message>
+    <message>
+        <source>write it without restrictions</source>
+        <translation>请以无限制方式写出。</translation>
+    </message>
+    <message>
+        <source>add the output intent</source>
+        <translation>请添加输出意图。</translation>
+    </message>
+    <message>
+        <source>embed them</source>
+        <translation>请将其嵌入。</translation>
+    </message>
+    <message>
+        <source>draw the effect, or accept an image</source>
+        <translation>请直接绘制该效果，或接受其变为图像。</translation>
+    </message>
+    <message>
+        <source>give width and height in mm, pt or in</source>
+        <translation>请以 mm、pt 或 in 给出宽和高。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "base/latin1_text.h"
 #include "base/localized_string.h"
 #include "base/sentence.h"
 #include "check/mending.h"
@@ -12,9 +13,10 @@
 namespace norvex {
 namespace {
 
-/// The words of the rule table in the user's language.
+/// The words of the rule table as a sentence in the user's language.
 QString worded(std::string_view words) {
-  return localizedString(std::string(words).c_str());
+  const QString text = localizedString(std::string(words).c_str());
+  return text.endsWith(u'\u3002') ? text : asSentence(text);  // a full stop of Chinese and Japanese
 }
 
 QString whereOf(const Finding& finding) {
@@ -49,13 +51,12 @@ QString titleOf(Severity severity) {
 
 FindingText textOf(const Finding& finding) {
   FindingText text;
-  const std::string title(finding.rule->title);
   const QString own = asSentence(finding.sentence), rules = worded(finding.rule->title);
-  const bool isTranslated = rules != QString::fromUtf8(title.c_str());
-  text.sentence = isTranslated ? asSentence(rules) : own;
+  const bool isTranslated = rules != asSentence(latin1(finding.rule->title));
+  text.sentence = isTranslated ? rules : own;
   if (isTranslated) text.figures = own;
   text.where = whereOf(finding);
-  text.mend = asSentence(worded(mendingWords(*finding.rule)));
+  text.mend = worded(mendingWords(*finding.rule));
   return text;
 }
 

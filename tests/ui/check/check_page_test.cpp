@@ -2,10 +2,12 @@
 #include "ui/check/check_page.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSignalSpy>
+#include <QTranslator>
 
 #include "check/mending.h"
 #include "check/profile.h"
@@ -187,6 +189,39 @@ class CheckPageTest : public QObject {
     shown.page.setProfile(QStringLiteral("/a/my house.toml"));
     QCOMPARE(list->currentText(), QStringLiteral("my house"));
     QCOMPARE(chosen.size(), 1);
+  }
+
+  void everyWordOfTheRulesStandsInEveryLanguagesTable() {
+    const QDir tables(NORVEX_SOURCE_DIR "/src/resources");
+    const QStringList names = tables.entryList({"norvex_*.ts"});
+    QVERIFY(names.size() > 4);
+    for (const QString& name : names) {
+      QFile file(tables.filePath(name));
+      QVERIFY(file.open(QIODevice::ReadOnly));
+      const QString table = QString::fromUtf8(file.readAll());
+      for (const RuleRow& row : ruleTable)
+        for (const std::string_view words : {row.title, mendingWords(row)}) {
+          const QString key = QString::fromUtf8(words.data(), qsizetype(words.size()));
+          QVERIFY2(key.isEmpty() || table.contains("<source>" + key.toHtmlEscaped() + "</source>") ||
+                       table.contains("<source>" + key + "</source>"),
+                   qPrintable(name + ": " + key));
+        }
+    }
+  }
+
+  void inAnotherLanguageTheRuleSpeaksAndTheFiguresStandBehindIt() {
+    class German final : public QTranslator {
+     public:
+      QString translate(const char*, const char* key, const char*, int) const override {
+        return QByteArray(key) == "Ink lies outside the bounding box" ? "Farbe liegt daneben" : QString();
+      }
+      bool isEmpty() const override { return false; }
+    } german;
+    QCOMPARE(textOf(kCut).figures, QString());
+    QCoreApplication::installTranslator(&german);
+    QCOMPARE(textOf(kCut).sentence, QStringLiteral("Farbe liegt daneben."));
+    QCOMPARE(textOf(kCut).figures, QStringLiteral("The box cuts <b>ink</b> off."));
+    QCoreApplication::removeTranslator(&german);
   }
 
   void pageLineObjectAndPlaceStandInTheirOrder() {

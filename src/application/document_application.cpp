@@ -20,6 +20,7 @@
 #include "base/state_folder.h"
 #include "types/uniform_type.h"
 #include "ui/panels/alert_box.h"
+#include "ui/panels/centred_window.h"
 
 namespace norvex {
 
@@ -40,6 +41,7 @@ DocumentApplication::DocumentApplication(ApplicationEvents& events, PictureServi
   QApplication::setQuitOnLastWindowClosed(delegate_.applicationShouldTerminateAfterLastWindowClosed());
   connectParts();
   addManual(startPanel_.get());
+  addPreferences(startPanel_.get());
   takeEarlierRecents();
 }
 
@@ -145,6 +147,7 @@ void DocumentApplication::runOpenPanel() {
 
 void DocumentApplication::showManual() {
   if (!manual_) manual_ = std::make_unique<ManualWindow>();
+  if (!manual_->isVisible()) centreOver(*manual_, QApplication::activeWindow());
   manual_->show();
   manual_->raise();
   manual_->activateWindow();
@@ -243,6 +246,7 @@ void DocumentApplication::equipWindow(QMainWindow* window) {
   window->setProperty(kEquipped, true);
   drops_.watch(window);
   addManual(window);
+  addPreferences(window);
   auto* open = new QAction(localizedString("Open…"), window);
   open->setObjectName(QStringLiteral("openAction"));
   open->setShortcut(QKeySequence::Open);

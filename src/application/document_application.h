@@ -22,6 +22,7 @@
 #include "desktop/alert.h"
 #include "document/app_delegate.h"
 #include "document/document_controller.h"
+#include "ui/panels/preferences_panel.h"
 
 class QMainWindow;
 class QMenu;
@@ -52,6 +53,9 @@ class DocumentApplication final : public QObject {
   /// Asks for files and opens them.
   void runOpenPanel();
   void showManual();
+  /// Of the windows' own; those of the history stand behind them. Shown with the next showPreferences().
+  void setPreferences(const QList<Preference>& preferences) { preferences_ = preferences; }
+  void showPreferences();
 
   [[nodiscard]] DocumentController& documents() { return documents_; }
   [[nodiscard]] StartPanel& startPanel() { return *startPanel_; }
@@ -82,6 +86,8 @@ class DocumentApplication final : public QObject {
   void equipWindow(QMainWindow* window);
   void fillRecentMenu(QMenu* menu);
   void addManual(QWidget* window);
+  void addPreferences(QWidget* window);
+  [[nodiscard]] QList<Preference> historyPreferences();
   /// Commands that show the pictures beside the window's one in its place.
   void addNeighbours(QMainWindow* window);
   void showNeighbour(QMainWindow* window, int step);
@@ -97,7 +103,9 @@ class DocumentApplication final : public QObject {
   AppDelegate delegate_;
   FileDropTarget drops_;
   std::unique_ptr<StartPanel> startPanel_;
-  std::unique_ptr<ManualWindow> manual_;  ///< once it was asked for
+  QList<Preference> preferences_;
+  std::unique_ptr<PreferencesPanel> preferencesPanel_;  ///< once it was asked for
+  std::unique_ptr<ManualWindow> manual_;                ///< once it was asked for
   std::unique_ptr<RecentThumbnails> thumbnails_;
   std::unique_ptr<AlertPresenter> ownAlerts_;
   AlertPresenter* alerts_;

@@ -107,6 +107,13 @@ bool NorvexView::mouseDown() {
   return true;
 }
 
+bool NorvexView::mouseDownOnHandle(Qt::Edges edges, const QPointF& point) {
+  if (!imageRep_ || !host_ || !host_->makeFirstResponder()) return false;
+  if (!selection_.hold(edges, point, bounds_)) return false;
+  host_->setPeriodicEvents(true);
+  return true;
+}
+
 void NorvexView::mouseDragged(const QPointF& point) {
   if (selection_.tracking()) trackEvent(point, true);
 }

@@ -116,6 +116,9 @@ class NorvexView {
   /// they were before any scrolling that the event causes. False: the press is ignored, as will be what
   /// follows it.
   bool mouseDown();
+  /// The left button went down on a handle that holds those edges of the selected rectangle. False: there is
+  /// none, and what follows is ignored.
+  bool mouseDownOnHandle(Qt::Edges edges, const QPointF& point);
   void mouseDragged(const QPointF& point);
   void mouseUp(const QPointF& point);
   /// A tick of ViewHost::setPeriodicEvents: once the pointer was dragged, counts as a drag while `point` lies

@@ -22,6 +22,21 @@ double kept(double value, double low, double high) {
   return value < low ? low : value > high ? high : value;
 }
 
+/// One side of a rectangle whose edges are pulled by `step`, of which `low` and `high` tell the held ones.
+/// Beyond the opposite edge it goes on from there.
+std::pair<double, double> pulled(double start, double length, double step, bool low, bool high, double least,
+                                 double most) {
+  if (low == high) {
+    if (!low) return {start, length};
+    return {kept(start + step, least, std::max(least, most - length)), length};
+  }
+  const double fixed = low ? start + length : start;
+  const double moving = kept((low ? start : start + length) + step, least, most);
+  const double shortest = std::min(smallestKeyedSide, length);
+  const double made = std::max(std::abs(moving - fixed), shortest);
+  return {moving < fixed ? std::max(least, fixed - made) : std::min(fixed, most - made), made};
+}
+
 }  // namespace
 
 Selection::State Selection::state() const {
@@ -43,12 +58,25 @@ void Selection::press(const QRectF& bounds) {
   if (!startPlaced) rect_.setSize(startPointSize);
 }
 
+bool Selection::hold(Qt::Edges edges, const QPointF& at, const QRectF& bounds) {
+  if (state() != State::Rectangle || tracking()) return false;
+  bounds_ = bounds;
+  sawDrag_ = false;
+  drag_ = Drag::Edges;
+  held_ = edges;
+  heldAt_ = at;
+  heldFrom_ = rect_;
+  return true;
+}
+
 void Selection::track(const QPointF& point, bool dragged) {
   if (!tracking() || std::isnan(point.x()) || std::isnan(point.y())) return;
   const QPointF inside(kept(point.x(), bounds_.x(), bounds_.x() + bounds_.width()),
                        kept(point.y(), bounds_.y(), bounds_.y() + bounds_.height()));
   sawDrag_ = sawDrag_ || dragged;
-  if (drag_ == Drag::StartPoint)
+  if (drag_ == Drag::Edges)
+    pullTo(point);
+  else if (drag_ == Drag::StartPoint)
     placeStartPoint(inside);
   else
     stretchTo(inside);
@@ -57,7 +85,7 @@ void Selection::track(const QPointF& point, bool dragged) {
 Selection::Ending Selection::release() {
   const Drag ended = std::exchange(drag_, Drag::None);
   if (ended == Drag::None) return Ending::Done;
-  if (ended == Drag::StartPoint) return sawDrag_ ? Ending::Done : Ending::Clear;
+  if (ended == Drag::StartPoint || ended == Drag::Edges) return sawDrag_ ? Ending::Done : Ending::Clear;
   if (rect_.width() * rect_.height() == 0) {
     // The origin goes back as well: stretching to the left or downwards had moved it to the pointer.
     rect_ = QRectF(downPoint_, startPointSize);
@@ -116,6 +144,15 @@ void Selection::stretchTo(const QPointF& point) {
   const double dx = point.x() - downPoint_.x(), dy = point.y() - downPoint_.y();
   rect_ = QRectF(std::min(downPoint_.x(), downPoint_.x() + dx), std::min(downPoint_.y(), downPoint_.y() + dy),
                  std::abs(dx), std::abs(dy));
+}
+
+void Selection::pullTo(const QPointF& point) {
+  const QPointF step = point - heldAt_;
+  const auto [x, width] = pulled(heldFrom_.x(), heldFrom_.width(), step.x(), held_ & Qt::LeftEdge,
+                                 held_ & Qt::RightEdge, bounds_.x(), bounds_.x() + bounds_.width());
+  const auto [y, height] = pulled(heldFrom_.y(), heldFrom_.height(), step.y(), held_ & Qt::BottomEdge,
+                                  held_ & Qt::TopEdge, bounds_.y(), bounds_.y() + bounds_.height());
+  rect_ = QRectF(x, y, width, height);
 }
 
 }  // namespace norvex

@@ -1,12 +1,13 @@
 // Selection: what two drags of the mouse mark, as a state machine that knows neither window nor picture.
 //
 // The first drag places a start point, the second stretches a rectangle from it, a click without a drag
-// removes either. The state is encoded in the size alone (see state()), because that is what every reader of
-// the selection rectangle goes by.
+// removes either. An existing rectangle can also be taken hold of by its edges. The state is encoded in the
+// size alone (see state()), because that is what every reader of the selection rectangle goes by.
 #pragma once
 
 #include <QPointF>
 #include <QRectF>
+#include <Qt>
 
 namespace norvex {
 
@@ -39,6 +40,10 @@ class Selection {
   void reset(const QPointF& point);
   /// The button went down. The press supplies no point; `bounds` is where tracked points are kept in.
   void press(const QRectF& bounds);
+  /// The button went down at `at` on a handle of the rectangle, which holds those of its edges (Top is the
+  /// one with the larger y); all of them move it. False, and nothing done, without a rectangle. A click that
+  /// moves nothing is a click on the rectangle.
+  bool hold(Qt::Edges edges, const QPointF& at, const QRectF& bounds);
   /// The pointer moved with the button down (`dragged`) or the button went up. Ignored unless tracking, and
   /// where a coordinate is not a number.
   void track(const QPointF& point, bool dragged);
@@ -58,16 +63,20 @@ class Selection {
   bool resizeBy(const QPointF& step, const QRectF& bounds);
 
  private:
-  enum class Drag { None, StartPoint, Rectangle };
+  enum class Drag { None, StartPoint, Rectangle, Edges };
 
   void placeStartPoint(const QPointF& point);
   void stretchTo(const QPointF& point);
+  void pullTo(const QPointF& point);
 
   QRectF rect_;
   QPointF downPoint_;
   QRectF bounds_;
   Drag drag_ = Drag::None;
   bool sawDrag_ = false;
+  Qt::Edges held_;   ///< while edges are dragged
+  QPointF heldAt_;   ///< where the pointer took hold of them
+  QRectF heldFrom_;  ///< the rectangle then
 };
 
 }  // namespace norvex

@@ -27,6 +27,7 @@
 #include "ui/panels/clipboard_keeper.h"
 #include "window/about_box.h"
 #include "window/main_window_controller.h"
+#include "window/viewing/view_preferences.h"
 
 namespace norvex {
 namespace {
@@ -68,6 +69,7 @@ int runWindows(int argc, char** argv, WorkerService& worker) {
     controller->setAlertPresenter(&alerts);
     return controller;
   });
+  documents.setPreferences(viewPreferences());
   DesktopService desktop;
   answerDesktop(desktop, documents);
   if (argc > 1 && asksForDesktopService(argv[1])) {

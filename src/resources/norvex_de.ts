@@ -196,6 +196,134 @@
         <translation>JPEG-Bild</translation>
     </message>
     <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Pre&amp;ferences…</source>
+        <translation>&amp;Einstellungen…</translation>
+    </message>
+    <message>
+        <source>Di&amp;m Outside of Selection</source>
+        <translation>Außerhalb der Auswahl &amp;abblenden</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Window fits picture</source>
+        <translation>&amp;Fenster passt sich dem Bild an</translation>
+    </message>
+    <message>
+        <source>No larger than the picture, and smaller with it.</source>
+        <translation>Nicht größer als das Bild, und mit ihm kleiner.</translation>
+    </message>
+    <message>
+        <source>Chec&amp;kerboard behind new pictures</source>
+        <translation>Schach&amp;brett hinter neuen Bildern</translation>
+    </message>
+    <message>
+        <source>Shows where nothing is painted, instead of the background colour.</source>
+        <translation>Zeigt, wo nichts gemalt ist, anstelle der Hintergrundfarbe.</translation>
+    </message>
+    <message>
+        <source>Di&amp;m what is outside of the selection</source>
+        <translation>Abblenden, &amp;was außerhalb der Auswahl liegt</translation>
+    </message>
+    <message>
+        <source>What is copied, saved or printed stands out.</source>
+        <translation>Was kopiert, gesichert oder gedruckt wird, tritt hervor.</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of lengths:</source>
+        <translation>&amp;Längeneinheit:</translation>
+    </message>
+    <message>
+        <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
+        <translation>Von Koordinaten, der Größe einer Auswahl und eingegebenen Zahlen.</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>Pica</translation>
+    </message>
+    <message>
+        <source>&amp;Reload changed files by itself</source>
+        <translation>Geänderte Dateien von selbst neu la&amp;den</translation>
+    </message>
+    <message>
+        <source>Otherwise a bar in the window asks.</source>
+        <translation>Sonst fragt ein Balken im Fenster.</translation>
+    </message>
+    <message>
+        <source>R&amp;emember files</source>
+        <translation>Dateien &amp;merken</translation>
+    </message>
+    <message>
+        <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
+        <translation>Zuletzt benutzte Dateien und wie ihre Bilder gezeigt wurden. Abschalten vergisst alles.</translation>
+    </message>
+    <message>
+        <source>C&amp;lear History</source>
+        <translation>&amp;Verlauf löschen</translation>
+    </message>
+    <message>
+        <source>Forgets the recent files, and how their pictures were shown.</source>
+        <translation>Vergisst die zuletzt benutzten Dateien und wie ihre Bilder gezeigt wurden.</translation>
+    </message>
+    <message>
+        <source>Colours:</source>
+        <translation>Farben:</translation>
+    </message>
+    <message>
+        <source>RGB for screens</source>
+        <translation>RGB für Bildschirme</translation>
+    </message>
+    <message>
+        <source>Shades of grey</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>CMYK for print</source>
+        <translation>CMYK für den Druck</translation>
+    </message>
+    <message>
+        <source>&amp;Real Size on This Screen</source>
+        <translation>&amp;Wirkliche Größe auf diesem Bildschirm</translation>
+    </message>
+    <message>
+        <source>Size the selection</source>
+        <translation>Auswahl in der Größe ändern</translation>
+    </message>
+    <message>
+        <source>Drag a square beside it</source>
+        <translation>Ein Quadrat daneben ziehen</translation>
+    </message>
+    <message>
+        <source>Move the selection</source>
+        <translation>Auswahl verschieben</translation>
+    </message>
+    <message>
+        <source>Drag its size</source>
+        <translation>Ihre Größenangabe ziehen</translation>
+    </message>
+    <message>
         <source>Keyboard Shortcuts</source>
         <translation>Tastenkürzel</translation>
     </message>

@@ -508,6 +508,134 @@
         <translation>JPEG image</translation>
     </message>
     <message>
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>Pre&amp;ferences…</source>
+        <translation>Pre&amp;ferences…</translation>
+    </message>
+    <message>
+        <source>Di&amp;m Outside of Selection</source>
+        <translation>Di&amp;m Outside of Selection</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Window</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>&amp;Window fits picture</source>
+        <translation>&amp;Window fits picture</translation>
+    </message>
+    <message>
+        <source>No larger than the picture, and smaller with it.</source>
+        <translation>No larger than the picture, and smaller with it.</translation>
+    </message>
+    <message>
+        <source>Chec&amp;kerboard behind new pictures</source>
+        <translation>Chec&amp;kerboard behind new pictures</translation>
+    </message>
+    <message>
+        <source>Shows where nothing is painted, instead of the background colour.</source>
+        <translation>Shows where nothing is painted, instead of the background colour.</translation>
+    </message>
+    <message>
+        <source>Di&amp;m what is outside of the selection</source>
+        <translation>Di&amp;m what is outside of the selection</translation>
+    </message>
+    <message>
+        <source>What is copied, saved or printed stands out.</source>
+        <translation>What is copied, saved or printed stands out.</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of lengths:</source>
+        <translation>&amp;Unit of lengths:</translation>
+    </message>
+    <message>
+        <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
+        <translation>Of coordinates, of the size of a selection, and of typed numbers.</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimetres</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Inches</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>Picas</translation>
+    </message>
+    <message>
+        <source>&amp;Reload changed files by itself</source>
+        <translation>&amp;Reload changed files by itself</translation>
+    </message>
+    <message>
+        <source>Otherwise a bar in the window asks.</source>
+        <translation>Otherwise a bar in the window asks.</translation>
+    </message>
+    <message>
+        <source>R&amp;emember files</source>
+        <translation>R&amp;emember files</translation>
+    </message>
+    <message>
+        <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
+        <translation>Recent files, and how their pictures were shown. Switching it off forgets all.</translation>
+    </message>
+    <message>
+        <source>C&amp;lear History</source>
+        <translation>C&amp;lear History</translation>
+    </message>
+    <message>
+        <source>Forgets the recent files, and how their pictures were shown.</source>
+        <translation>Forgets the recent files, and how their pictures were shown.</translation>
+    </message>
+    <message>
+        <source>Colours:</source>
+        <translation>Colours:</translation>
+    </message>
+    <message>
+        <source>RGB for screens</source>
+        <translation>RGB for screens</translation>
+    </message>
+    <message>
+        <source>Shades of grey</source>
+        <translation>Shades of grey</translation>
+    </message>
+    <message>
+        <source>CMYK for print</source>
+        <translation>CMYK for print</translation>
+    </message>
+    <message>
+        <source>&amp;Real Size on This Screen</source>
+        <translation>&amp;Real Size on This Screen</translation>
+    </message>
+    <message>
+        <source>Size the selection</source>
+        <translation>Size the selection</translation>
+    </message>
+    <message>
+        <source>Drag a square beside it</source>
+        <translation>Drag a square beside it</translation>
+    </message>
+    <message>
+        <source>Move the selection</source>
+        <translation>Move the selection</translation>
+    </message>
+    <message>
+        <source>Drag its size</source>
+        <translation>Drag its size</translation>
+    </message>
+    <message>
         <source>Keyboard Shortcuts</source>
         <translation>Keyboard Shortcuts</translation>
     </message>

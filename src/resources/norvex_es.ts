@@ -196,6 +196,134 @@
         <translation>Imagen JPEG</translation>
     </message>
     <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Pre&amp;ferences…</source>
+        <translation>Pre&amp;ferencias…</translation>
+    </message>
+    <message>
+        <source>Di&amp;m Outside of Selection</source>
+        <translation>Atenuar fuera de la se&amp;lección</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Ventana</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Window fits picture</source>
+        <translation>La &amp;ventana se ajusta a la imagen</translation>
+    </message>
+    <message>
+        <source>No larger than the picture, and smaller with it.</source>
+        <translation>Nunca mayor que la imagen, y menor con ella.</translation>
+    </message>
+    <message>
+        <source>Chec&amp;kerboard behind new pictures</source>
+        <translation>&amp;Cuadrícula detrás de imágenes nuevas</translation>
+    </message>
+    <message>
+        <source>Shows where nothing is painted, instead of the background colour.</source>
+        <translation>Muestra dónde no hay nada pintado, en lugar del color de fondo.</translation>
+    </message>
+    <message>
+        <source>Di&amp;m what is outside of the selection</source>
+        <translation>A&amp;tenuar lo que queda fuera de la selección</translation>
+    </message>
+    <message>
+        <source>What is copied, saved or printed stands out.</source>
+        <translation>Lo que se copia, guarda o imprime destaca.</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of lengths:</source>
+        <translation>&amp;Unidad de longitud:</translation>
+    </message>
+    <message>
+        <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
+        <translation>De las coordenadas, del tamaño de una selección y de los números escritos.</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Milímetros</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pulgadas</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>Picas</translation>
+    </message>
+    <message>
+        <source>&amp;Reload changed files by itself</source>
+        <translation>&amp;Recargar por sí mismo los archivos cambiados</translation>
+    </message>
+    <message>
+        <source>Otherwise a bar in the window asks.</source>
+        <translation>Si no, pregunta una barra en la ventana.</translation>
+    </message>
+    <message>
+        <source>R&amp;emember files</source>
+        <translation>R&amp;ecordar los archivos</translation>
+    </message>
+    <message>
+        <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
+        <translation>Archivos recientes y cómo se mostraron sus imágenes. Al desactivarlo se olvida todo.</translation>
+    </message>
+    <message>
+        <source>C&amp;lear History</source>
+        <translation>&amp;Borrar el historial</translation>
+    </message>
+    <message>
+        <source>Forgets the recent files, and how their pictures were shown.</source>
+        <translation>Olvida los archivos recientes y cómo se mostraron sus imágenes.</translation>
+    </message>
+    <message>
+        <source>Colours:</source>
+        <translation>Colores:</translation>
+    </message>
+    <message>
+        <source>RGB for screens</source>
+        <translation>RGB para pantallas</translation>
+    </message>
+    <message>
+        <source>Shades of grey</source>
+        <translation>Escala de grises</translation>
+    </message>
+    <message>
+        <source>CMYK for print</source>
+        <translation>CMYK para imprenta</translation>
+    </message>
+    <message>
+        <source>&amp;Real Size on This Screen</source>
+        <translation>Tamaño &amp;real en esta pantalla</translation>
+    </message>
+    <message>
+        <source>Size the selection</source>
+        <translation>Cambiar el tamaño de la selección</translation>
+    </message>
+    <message>
+        <source>Drag a square beside it</source>
+        <translation>Arrastrar un cuadrado junto a ella</translation>
+    </message>
+    <message>
+        <source>Move the selection</source>
+        <translation>Mover la selección</translation>
+    </message>
+    <message>
+        <source>Drag its size</source>
+        <translation>Arrastrar su tamaño</translation>
+    </message>
+    <message>
         <source>Keyboard Shortcuts</source>
         <translation>Atajos de teclado</translation>
     </message>

@@ -196,6 +196,134 @@
         <translation>Image JPEG</translation>
     </message>
     <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Pre&amp;ferences…</source>
+        <translation>Pré&amp;férences…</translation>
+    </message>
+    <message>
+        <source>Di&amp;m Outside of Selection</source>
+        <translation>A&amp;ssombrir hors de la sélection</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Window fits picture</source>
+        <translation>La &amp;fenêtre s’adapte à l’image</translation>
+    </message>
+    <message>
+        <source>No larger than the picture, and smaller with it.</source>
+        <translation>Jamais plus grande que l’image, et plus petite avec elle.</translation>
+    </message>
+    <message>
+        <source>Chec&amp;kerboard behind new pictures</source>
+        <translation>&amp;Damier derrière les nouvelles images</translation>
+    </message>
+    <message>
+        <source>Shows where nothing is painted, instead of the background colour.</source>
+        <translation>Montre où rien n’est peint, au lieu de la couleur de fond.</translation>
+    </message>
+    <message>
+        <source>Di&amp;m what is outside of the selection</source>
+        <translation>A&amp;ssombrir ce qui est hors de la sélection</translation>
+    </message>
+    <message>
+        <source>What is copied, saved or printed stands out.</source>
+        <translation>Ce qui est copié, enregistré ou imprimé ressort.</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of lengths:</source>
+        <translation>&amp;Unité de longueur :</translation>
+    </message>
+    <message>
+        <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
+        <translation>Des coordonnées, de la taille d’une sélection et des nombres saisis.</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimètres</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pouces</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>Picas</translation>
+    </message>
+    <message>
+        <source>&amp;Reload changed files by itself</source>
+        <translation>&amp;Recharger de soi-même les fichiers modifiés</translation>
+    </message>
+    <message>
+        <source>Otherwise a bar in the window asks.</source>
+        <translation>Sinon, un bandeau dans la fenêtre pose la question.</translation>
+    </message>
+    <message>
+        <source>R&amp;emember files</source>
+        <translation>&amp;Mémoriser les fichiers</translation>
+    </message>
+    <message>
+        <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
+        <translation>Fichiers récents et manière dont leurs images étaient affichées. Désactiver oublie tout.</translation>
+    </message>
+    <message>
+        <source>C&amp;lear History</source>
+        <translation>&amp;Effacer l’historique</translation>
+    </message>
+    <message>
+        <source>Forgets the recent files, and how their pictures were shown.</source>
+        <translation>Oublie les fichiers récents et la manière dont leurs images étaient affichées.</translation>
+    </message>
+    <message>
+        <source>Colours:</source>
+        <translation>Couleurs :</translation>
+    </message>
+    <message>
+        <source>RGB for screens</source>
+        <translation>RVB pour les écrans</translation>
+    </message>
+    <message>
+        <source>Shades of grey</source>
+        <translation>Nuances de gris</translation>
+    </message>
+    <message>
+        <source>CMYK for print</source>
+        <translation>CMJN pour l’impression</translation>
+    </message>
+    <message>
+        <source>&amp;Real Size on This Screen</source>
+        <translation>Taille &amp;réelle sur cet écran</translation>
+    </message>
+    <message>
+        <source>Size the selection</source>
+        <translation>Redimensionner la sélection</translation>
+    </message>
+    <message>
+        <source>Drag a square beside it</source>
+        <translation>Faire glisser un carré à côté</translation>
+    </message>
+    <message>
+        <source>Move the selection</source>
+        <translation>Déplacer la sélection</translation>
+    </message>
+    <message>
+        <source>Drag its size</source>
+        <translation>Faire glisser sa taille affichée</translation>
+    </message>
+    <message>
         <source>Keyboard Shortcuts</source>
         <translation>Raccourcis clavier</translation>
     </message>

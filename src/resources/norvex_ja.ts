@@ -196,6 +196,134 @@
         <translation>JPEG 画像</translation>
     </message>
     <message>
+        <source>Preferences</source>
+        <translation>環境設定</translation>
+    </message>
+    <message>
+        <source>Pre&amp;ferences…</source>
+        <translation>環境設定(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Di&amp;m Outside of Selection</source>
+        <translation>選択範囲の外を薄くする(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>ウインドウ</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>&amp;Window fits picture</source>
+        <translation>ウインドウを画像に合わせる(&amp;W)</translation>
+    </message>
+    <message>
+        <source>No larger than the picture, and smaller with it.</source>
+        <translation>画像より大きくならず、画像とともに小さくなります。</translation>
+    </message>
+    <message>
+        <source>Chec&amp;kerboard behind new pictures</source>
+        <translation>新しい画像の背景を市松模様にする(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Shows where nothing is painted, instead of the background colour.</source>
+        <translation>背景色の代わりに、何も描かれていない所を示します。</translation>
+    </message>
+    <message>
+        <source>Di&amp;m what is outside of the selection</source>
+        <translation>選択範囲の外を薄くする(&amp;M)</translation>
+    </message>
+    <message>
+        <source>What is copied, saved or printed stands out.</source>
+        <translation>コピー、保存、印刷される部分が目立ちます。</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of lengths:</source>
+        <translation>長さの単位(&amp;U):</translation>
+    </message>
+    <message>
+        <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
+        <translation>座標、選択範囲の大きさ、入力する数値の単位です。</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>ポイント</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>ミリメートル</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>パイカ</translation>
+    </message>
+    <message>
+        <source>&amp;Reload changed files by itself</source>
+        <translation>変更されたファイルを自動的に再読み込みする(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Otherwise a bar in the window asks.</source>
+        <translation>そうでなければ、ウインドウ内のバーで確認します。</translation>
+    </message>
+    <message>
+        <source>R&amp;emember files</source>
+        <translation>ファイルを記憶する(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
+        <translation>最近使ったファイルとその表示方法です。オフにするとすべて消去されます。</translation>
+    </message>
+    <message>
+        <source>C&amp;lear History</source>
+        <translation>履歴を消去(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Forgets the recent files, and how their pictures were shown.</source>
+        <translation>最近使ったファイルとその表示方法を忘れます。</translation>
+    </message>
+    <message>
+        <source>Colours:</source>
+        <translation>カラー:</translation>
+    </message>
+    <message>
+        <source>RGB for screens</source>
+        <translation>RGB（画面用）</translation>
+    </message>
+    <message>
+        <source>Shades of grey</source>
+        <translation>グレースケール</translation>
+    </message>
+    <message>
+        <source>CMYK for print</source>
+        <translation>CMYK（印刷用）</translation>
+    </message>
+    <message>
+        <source>&amp;Real Size on This Screen</source>
+        <translation>この画面での実寸(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Size the selection</source>
+        <translation>選択範囲の大きさを変える</translation>
+    </message>
+    <message>
+        <source>Drag a square beside it</source>
+        <translation>横の四角形をドラッグ</translation>
+    </message>
+    <message>
+        <source>Move the selection</source>
+        <translation>選択範囲を移動する</translation>
+    </message>
+    <message>
+        <source>Drag its size</source>
+        <translation>大きさの表示をドラッグ</translation>
+    </message>
+    <message>
         <source>Keyboard Shortcuts</source>
         <translation>キーボードショートカット</translation>
     </message>

@@ -196,6 +196,134 @@
         <translation>JPEG 图像</translation>
     </message>
     <message>
+        <source>Preferences</source>
+        <translation>首选项</translation>
+    </message>
+    <message>
+        <source>Pre&amp;ferences…</source>
+        <translation>首选项(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Di&amp;m Outside of Selection</source>
+        <translation>淡化选区以外(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>窗口</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>&amp;Window fits picture</source>
+        <translation>窗口适应图片(&amp;W)</translation>
+    </message>
+    <message>
+        <source>No larger than the picture, and smaller with it.</source>
+        <translation>不大于图片，并随图片缩小。</translation>
+    </message>
+    <message>
+        <source>Chec&amp;kerboard behind new pictures</source>
+        <translation>新图片后显示棋盘格(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Shows where nothing is painted, instead of the background colour.</source>
+        <translation>代替背景颜色，显示未绘制之处。</translation>
+    </message>
+    <message>
+        <source>Di&amp;m what is outside of the selection</source>
+        <translation>淡化选区以外的部分(&amp;M)</translation>
+    </message>
+    <message>
+        <source>What is copied, saved or printed stands out.</source>
+        <translation>突出将被复制、存储或打印的部分。</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of lengths:</source>
+        <translation>长度单位(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
+        <translation>用于坐标、选区大小和键入的数值。</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Millimetres</source>
+        <translation>毫米</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>英寸</translation>
+    </message>
+    <message>
+        <source>Picas</source>
+        <translation>派卡</translation>
+    </message>
+    <message>
+        <source>&amp;Reload changed files by itself</source>
+        <translation>自动重新载入已更改的文件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Otherwise a bar in the window asks.</source>
+        <translation>否则窗口中的提示条会询问。</translation>
+    </message>
+    <message>
+        <source>R&amp;emember files</source>
+        <translation>记住文件(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
+        <translation>最近的文件及其图片的显示方式。关闭则全部忘记。</translation>
+    </message>
+    <message>
+        <source>C&amp;lear History</source>
+        <translation>清除历史记录(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Forgets the recent files, and how their pictures were shown.</source>
+        <translation>忘记最近的文件及其图片的显示方式。</translation>
+    </message>
+    <message>
+        <source>Colours:</source>
+        <translation>颜色：</translation>
+    </message>
+    <message>
+        <source>RGB for screens</source>
+        <translation>RGB（屏幕）</translation>
+    </message>
+    <message>
+        <source>Shades of grey</source>
+        <translation>灰度</translation>
+    </message>
+    <message>
+        <source>CMYK for print</source>
+        <translation>CMYK（印刷）</translation>
+    </message>
+    <message>
+        <source>&amp;Real Size on This Screen</source>
+        <translation>此屏幕上的实际尺寸(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Size the selection</source>
+        <translation>调整选区大小</translation>
+    </message>
+    <message>
+        <source>Drag a square beside it</source>
+        <translation>拖动旁边的方块</translation>
+    </message>
+    <message>
+        <source>Move the selection</source>
+        <translation>移动选区</translation>
+    </message>
+    <message>
+        <source>Drag its size</source>
+        <translation>拖动其尺寸标签</translation>
+    </message>
+    <message>
         <source>Keyboard Shortcuts</source>
         <translation>键盘快捷键</translation>
     </message>

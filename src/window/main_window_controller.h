@@ -173,6 +173,7 @@ class MainWindowController final : public QObject,
   void showSource();
   void showAbout();
   void setUpViewing();
+  void setUpChoices();
 
   bool shouldCloseDocument_ = false, observing_ = false;
   std::optional<PictureView> firstView_;  ///< as the picture was shown when it was closed last

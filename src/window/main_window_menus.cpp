@@ -17,9 +17,11 @@
 #include "window/viewing/live_file.h"
 #include "window/viewing/pages_command.h"
 #include "window/viewing/pointer_readout.h"
+#include "window/viewing/real_size.h"
 #include "window/viewing/selection_history.h"
 #include "window/viewing/sticky_fit.h"
 #include "window/viewing/toolbar_labels.h"
+#include "window/viewing/view_choices.h"
 
 namespace norvex {
 
@@ -94,6 +96,7 @@ void MainWindowController::setUpViewing() {
   QList<QAction*> viewActions = ui_->viewMenu->actions();
   ui_->viewMenu->insertAction(viewActions.value(viewActions.indexOf(ui_->fitAction) + 1),
                               fit->setUp(*ui_->fitAction));
+  ui_->viewMenu->insertAction(ui_->fitAction, makeRealSizeAction(*this, *ui_->actualSizeAction));
   connect(&inspector_, &InspectorCommand::turned, fit, &StickyFit::fitAgain);
   connect(pages, &PagesCommand::pageDidChange, fit, &StickyFit::fitAgain);
   auto* history = new SelectionHistory(*this, this);
@@ -103,15 +106,7 @@ void MainWindowController::setUpViewing() {
   auto* live = new LiveFile(*this, *pages, this);
   ui_->fileMenu->insertAction(ui_->closeAction, live->makeAction());
   connect(this, &MainWindowController::documentShown, live, &LiveFile::documentDidChange);
-  auto* fits = new QAction(localizedString("&Window Fits Picture"), window_);
-  fits->setObjectName(QStringLiteral("windowFitsPictureAction"));
-  fits->setCheckable(true);
-  fits->setChecked(windowFitsPicture());
-  connect(fits, &QAction::toggled, this, [this](bool on) {
-    saveWindowFitsPicture(on);
-    setWindowSize();
-  });
-  ui_->viewMenu->insertAction(inspectorToolbarItem, fits);
+  setUpChoices();
   auto* docked = new DockedInspector(*this, inspector_, this);
   viewActions = ui_->viewMenu->actions();
   ui_->viewMenu->insertActions(viewActions.value(viewActions.indexOf(inspectorToolbarItem) + 1),
@@ -122,9 +117,30 @@ void MainWindowController::setUpViewing() {
   labels->fit();
   auto* readout = new PointerReadout(*this, this);
   readout->setUp();
+  connect(this, &MainWindowController::documentShown, readout, &PointerReadout::pictureDidChange);
+  connect(pages, &PagesCommand::pageDidChange, readout, &PointerReadout::pictureDidChange);
   auto* fullScreen = new FullScreen(*this, this);
   fullScreen->setUp(*ui_->deselectAction);
   connect(ui_->fullScreenAction, &QAction::triggered, fullScreen, &FullScreen::set);
+}
+
+void MainWindowController::setUpChoices() {
+  ViewChoices& choices = ViewChoices::shared();
+  QAction* fits = choices.makeAction(ViewChoices::WindowFitsPicture, "&Window Fits Picture",
+                                     "windowFitsPictureAction", window_);
+  QAction* dim =
+      choices.makeAction(ViewChoices::DimOutside, "Di&m Outside of Selection", "dimOutsideAction", window_);
+  ui_->viewMenu->insertActions(inspectorToolbarItem, {fits, dim});
+  connect(&choices, &ViewChoices::changed, this, [this](ViewChoices::Choice choice, bool on) {
+    if (choice == ViewChoices::WindowFitsPicture) {
+      viewWidget_->setStandsOnCanvas(!on);
+      setWindowSize();
+    }
+    if (choice == ViewChoices::DimOutside) viewWidget_->setDimsOutside(on);
+  });
+  viewWidget_->setStandsOnCanvas(!choices.isOn(ViewChoices::WindowFitsPicture));
+  viewWidget_->setDimsOutside(choices.isOn(ViewChoices::DimOutside));
+  if (choices.isOn(ViewChoices::Checkerboard)) useBackgroundSwitch()->setChecked(false);
 }
 
 }  // namespace norvex

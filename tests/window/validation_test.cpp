@@ -17,13 +17,13 @@ namespace {
 /// Commands of the menus and toolbars whose target is not the window controller: the document's, the
 /// application's and those about the window itself. The commands in submenus are about the selection and
 /// follow it.
-const QStringList kOthers{"openAction", "saveAsAction", "reloadAction", "closeAction", "quitAction",
-                          "pageLayoutAction", "printAction", "deselectAction", "touchBarAction",
-                          "fullScreenAction", "shortcutsAction", "aboutAction",
-                          // what follows pages and selections, and choices for every window
-                          "nextPageAction", "previousPageAction", "firstPageAction", "lastPageAction",
-                          "goToPageAction", "pageThumbnailsAction", "undoAction", "redoAction",
-                          "reloadByItselfAction", "windowFitsPictureAction", "inspectorInWindowAction"};
+const QStringList kOthers{
+    "openAction", "saveAsAction", "reloadAction", "closeAction", "quitAction", "pageLayoutAction",
+    "printAction", "deselectAction", "touchBarAction", "fullScreenAction", "shortcutsAction", "aboutAction",
+    // what follows pages and selections, and choices for every window
+    "nextPageAction", "previousPageAction", "firstPageAction", "lastPageAction", "goToPageAction",
+    "pageThumbnailsAction", "undoAction", "redoAction", "reloadByItselfAction", "windowFitsPictureAction",
+    "inspectorInWindowAction", "dimOutsideAction"};
 
 QList<QAction*> commandsOf(const QMenu& menu) {
   QList<QAction*> all;

@@ -59,6 +59,8 @@ void addGestures(QTreeWidget* list) {
   static constexpr Gesture gestures[] = {
       {"Place the first corner of a selection", "Drag"},
       {"Draw the selection from there", "Drag again"},
+      {"Size the selection", "Drag a square beside it"},
+      {"Move the selection", "Drag its size"},
       {"Take the selection to another program", "Ctrl + Drag"},
       {"Zoom at the pointer", "Ctrl + Wheel"},
       {"Move the picture", "Wheel"},

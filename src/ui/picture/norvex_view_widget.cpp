@@ -6,13 +6,15 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QWindow>
 
 #include <algorithm>
 #include <cmath>
 
 #include "base/start_trace.h"
-#include "ui/picture/selection_label.h"
+#include "display/picture_geometry.h"
+#include "ui/picture/page_edge.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/style/checkerboard.h"
 
@@ -21,7 +23,8 @@ namespace norvex {
 namespace {
 
 constexpr int kPeriodMs = 40;
-constexpr double kLargestStep = 40;  // logical pixels
+constexpr double kLargestStep = 40;               // logical pixels
+constexpr int kBeside = SelectionHandles::reach;  // the outline and its handles may lie beside the view
 
 /// Input other than moving the pointer and letting go of the left button.
 bool isOtherInput(const QEvent& event) {
@@ -69,6 +72,18 @@ void NorvexViewWidget::setBackground(const QColor& color) {
   update();
 }
 
+void NorvexViewWidget::setStandsOnCanvas(bool stands) {
+  if (onCanvas_ == stands) return;
+  onCanvas_ = stands;
+  update();
+}
+
+void NorvexViewWidget::setDimsOutside(bool dims) {
+  if (dimsOutside_ == dims) return;
+  dimsOutside_ = dims;
+  update();
+}
+
 void NorvexViewWidget::setLengthUnit(LengthUnit unit) {
   if (unit_ == unit) return;
   unit_ = unit;
@@ -100,13 +115,18 @@ QRectF NorvexViewWidget::viewInWidget() const {
   return QRectF(fromView(bounds.topLeft()), fromView(bounds.bottomRight())).normalized();
 }
 
+QPolygonF NorvexViewWidget::pageInWidget() const {
+  const QTransform toView = pictureToView(view_.imageSize(), view_.rotate());
+  return (toView * placement()).map(QPolygonF(QRectF(QPointF(0, 0), view_.imageSize())));
+}
+
 QRectF NorvexViewWidget::visibleRect() const {
   return area_ ? area_->scrollView().documentViewVisibleRect() : view_.bounds();
 }
 
 void NorvexViewWidget::displayRect(const QRectF& rect) {
   const QRectF device = QRectF(fromView(rect.topLeft()), fromView(rect.bottomRight())).normalized();
-  const QRect dirty = device.toAlignedRect().adjusted(-2, -2, 2, 2) & this->rect();
+  const QRect dirty = device.toAlignedRect().adjusted(-kBeside, -kBeside, kBeside, kBeside) & this->rect();
   if (!isVisible() || painting_)
     update(dirty);
   else
@@ -160,29 +180,62 @@ void NorvexViewWidget::showPointer(const QPointF& at) {
   if (shape_) return setCursor(*shape_);
   const QRectF device =
       QRectF(fromView(crosshair_.topLeft()), fromView(crosshair_.bottomRight())).normalized();
-  if (tracking_ || device.contains(at))
+  const std::optional<Qt::Edges> handle = tracking_ ? held_ : handleAt(at);
+  if (handle)
+    setCursor(cursorOf(*handle));
+  else if (tracking_ || device.contains(at))
     setCursor(Qt::CrossCursor);
   else
     unsetCursor();
 }
 
 void NorvexViewWidget::drawBackground(QPainter& painter, const QRect& dirty) {
+  const QRectF view = viewInWidget();
+  const bool fillsAll = background_.isValid() && !onCanvas_;
+  painter.fillRect(dirty, fillsAll ? background_ : palette().color(QPalette::Window));
+  if (view_.imageRep() && !view.contains(QRectF(rect()))) drawPageEdge(painter, pageInWidget(), palette());
+  if (fillsAll) return;
   if (background_.isValid()) {
-    painter.fillRect(dirty, background_);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(background_);
+    if (view_.imageRep()) painter.drawPolygon(pageInWidget());
     return;
   }
-  painter.fillRect(dirty, palette().color(QPalette::Window));
-  const QRectF view = viewInWidget();
   painter.setBrushOrigin(view.topLeft());
   if (view_.imageRep()) drawCheckerboard(painter, view & QRectF(dirty), palette());
 }
 
-void NorvexViewWidget::drawLabel(QPainter& painter) const {
-  if (view_.selection().state() != Selection::State::Rectangle) return;
+std::optional<SelectionHandles> NorvexViewWidget::handles() const {
+  if (view_.selection().state() != Selection::State::Rectangle) return std::nullopt;
   const QRectF& selected = view_.selectRect();
   const QRectF device = QRectF(fromView(selected.topLeft()), fromView(selected.bottomRight())).normalized();
-  drawSelectionLabel(painter, device, viewInWidget() & QRectF(rect()),
-                     sizeText(selected.size(), unit_) + u' ' + unitName(unit_));
+  const bool movable =
+      selected.width() < view_.bounds().width() || selected.height() < view_.bounds().height();
+  return SelectionHandles(device, QRectF(rect()), viewInWidget() & QRectF(rect()), font(),
+                          sizeText(selected.size(), unit_) + u' ' + unitName(unit_), movable);
+}
+
+std::optional<Qt::Edges> NorvexViewWidget::handleAt(const QPointF& point) const {
+  const auto shown = handles();
+  return shown ? shown->at(point) : std::nullopt;
+}
+
+void NorvexViewWidget::drawSelectionAids(QPainter& painter) const {
+  const auto shown = handles();
+  if (!shown) return;
+  if (dimsOutside_) {
+    constexpr double kOutline = 2;  // with its halo
+    const QRectF& selected = view_.selectRect();
+    QPainterPath outside;
+    outside.addRect(viewInWidget());
+    outside.addRect(QRectF(fromView(selected.topLeft()), fromView(selected.bottomRight()))
+                        .normalized()
+                        .adjusted(-kOutline, -kOutline, kOutline, kOutline));
+    QColor veil = palette().color(QPalette::Window);
+    veil.setAlphaF(0.65F);
+    painter.fillPath(outside, veil);
+  }
+  shown->draw(painter);
 }
 
 void NorvexViewWidget::paintEvent(QPaintEvent* event) {
@@ -199,7 +252,7 @@ void NorvexViewWidget::paintEvent(QPaintEvent* event) {
     const QRectF dirty = toClip.inverted().mapRect(QRectF(event->rect()));
     view_.drawRect(painter, dirty, DrawingDestination::Screen);
     painter.resetTransform();
-    drawLabel(painter);
+    drawSelectionAids(painter);
     traceStep("view painted");
   }
   painting_ = false;
@@ -207,10 +260,11 @@ void NorvexViewWidget::paintEvent(QPaintEvent* event) {
 }
 
 void NorvexViewWidget::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !viewInWidget().contains(event->position()))
-    return event->ignore();
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  held_ = handleAt(event->position());
+  if (!held_ && !viewInWidget().contains(event->position())) return event->ignore();
   pointer_ = event->globalPosition();
-  track(view_.mouseDown());
+  track(held_ ? view_.mouseDownOnHandle(*held_, toView(event->position())) : view_.mouseDown());
 }
 
 void NorvexViewWidget::mouseMoveEvent(QMouseEvent* event) {

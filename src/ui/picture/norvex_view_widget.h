@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QPolygonF>
 #include <QTimer>
 #include <QWidget>
 
@@ -10,6 +11,7 @@
 #include "display/length_text.h"
 #include "display/norvex_view.h"
 #include "display/view_host.h"
+#include "ui/picture/selection_handles.h"
 
 namespace norvex {
 
@@ -18,8 +20,8 @@ class ZoomingScrollArea;
 /// Fills the clip of its scroll area and draws there what the clip shows of the view. Owns the view and is
 /// its host. Forwards the left button as press, move and release where the view is, not beside it; what they
 /// mean is the view's business. While such a drag lasts the application handles no other key, wheel, gesture
-/// or button, and losing the focus does not end it. Takes no keyboard focus: the scroll area has it. Main
-/// thread.
+/// or button, and losing the focus does not end it. On a handle of the selected rectangle the button holds
+/// that. Takes no keyboard focus: the scroll area has it. Main thread.
 class NorvexViewWidget final : public QWidget, public ViewHost {
   Q_OBJECT
  public:
@@ -35,7 +37,14 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   /// the view is and the window's colour around it.
   void setBackground(const QColor& color);
 
-  /// The unit of the size that stands beside the selection.
+  /// True: the background colour is that of the picture alone, on the window's own ground; otherwise it fills
+  /// all that can be seen.
+  void setStandsOnCanvas(bool stands);
+
+  /// Lets the picture outside of the selected rectangle fade.
+  void setDimsOutside(bool dims);
+
+  /// What the size of the selection is written in beside it.
   void setLengthUnit(LengthUnit unit);
 
   /// A view point as a point of this widget and back; a widget point is in logical pixels from its top-left
@@ -75,8 +84,13 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   /// View to widget coordinates; the view's upper left corner lies on a whole device pixel.
   [[nodiscard]] QTransform placement() const;
   [[nodiscard]] QRectF viewInWidget() const;
-  void drawLabel(QPainter& painter) const;
+  /// Of the selected rectangle; nothing without one.
+  [[nodiscard]] std::optional<SelectionHandles> handles() const;
+  [[nodiscard]] std::optional<Qt::Edges> handleAt(const QPointF& point) const;
+  void drawSelectionAids(QPainter& painter) const;
   void drawBackground(QPainter& painter, const QRect& dirty);
+  /// The picture's outline as it is turned.
+  [[nodiscard]] QPolygonF pageInWidget() const;
   void watchScreen();
   void loseTracking();
   void track(bool on);
@@ -86,11 +100,13 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   QPointer<ZoomingScrollArea> area_;
   QColor background_;
   LengthUnit unit_ = LengthUnit::Points;
+  bool dimsOutside_ = false, onCanvas_ = false;
   bool tracking_ = false, painting_ = false, screenWatched_ = false;
   QTimer periodic_;
   QPointF pointer_;   ///< where the pointer was last seen during a drag; global, logical pixels
   QRectF crosshair_;  ///< where the crosshair is shown; view coordinates
   std::optional<Qt::CursorShape> shape_;
+  std::optional<Qt::Edges> held_;  ///< while a handle is dragged
 };
 
 }  // namespace norvex

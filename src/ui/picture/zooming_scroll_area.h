@@ -19,9 +19,9 @@ class NorvexViewWidget;
 
 /// Lays out clip, bars and menu as its SKTZoomingScrollView says, and turns wheel, pinch and panning into
 /// calls of it. Wheel: scrolls; with Shift sideways; with Ctrl zooms at the pointer. Middle button or Space
-/// and left button: pan. Has the keyboard focus for its view, which takes none: arrows, page keys, Home and
-/// End scroll. The bars always keep their room, so that the window's size rule does not depend on what is
-/// scrolled. Main thread.
+/// and left button, or two fingers: pan. Has the keyboard focus for its view, which takes none: arrows, page
+/// keys, Home and End scroll. The bars always keep their room, so that the window's size rule does not depend
+/// on what is scrolled. Main thread.
 class ZoomingScrollArea final : public QWidget {
   Q_OBJECT
  public:

@@ -50,6 +50,10 @@ bool ZoomingScrollArea::pinch(QEvent* event) {
   const auto* pinching = static_cast<QPinchGesture*>(gesture);
   if (pinching->changeFlags() & QPinchGesture::ScaleFactorChanged)
     pinchTo(scrollView_.factor() * pinching->scaleFactor(), pinching->hotSpot());
+  // Two fingers also take the picture along.
+  const bool goesOn = pinching->state() == Qt::GestureUpdated || pinching->state() == Qt::GestureFinished;
+  if (goesOn && pinching->changeFlags() & QPinchGesture::CenterPointChanged)
+    scrollBy(pinching->lastCenterPoint() - pinching->centerPoint());
   static_cast<QGestureEvent*>(event)->accept(gesture);
   return true;
 }

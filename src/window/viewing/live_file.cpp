@@ -6,36 +6,26 @@
 
 #include <utility>
 
-#include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "window/commands/window_frames.h"
 #include "window/commands/window_parts.h"
 #include "window/viewing/pages_command.h"
 #include "window/viewing/selection_history.h"
+#include "window/viewing/view_choices.h"
 
 namespace norvex {
-namespace {
-
-const QString kByItself = QStringLiteral("views/reloadByItself");
-
-}  // namespace
-
 LiveFile::LiveFile(WindowParts& parts, PagesCommand& pages, QObject* parent)
     : QObject(parent), parts_(parts), pages_(pages) {}
 
 QAction* LiveFile::makeAction() {
-  auto* action = new QAction(localizedString("Reload Changed Files b&y Itself"), parts_.mainWindow());
-  action->setObjectName(QStringLiteral("reloadByItselfAction"));
-  action->setCheckable(true);
-  action->setChecked(savedView(kByItself, true));
-  connect(action, &QAction::toggled, this, [](bool on) { saveView(kByItself, on); });
-  return action;
+  return ViewChoices::shared().makeAction(ViewChoices::ReloadByItself, "Reload Changed Files b&y Itself",
+                                          "reloadByItselfAction", parts_.mainWindow());
 }
 
 bool LiveFile::reloadsByItself() const {
-  if (!savedView(kByItself, true) || !parts_.validateUserInterfaceItem()) return false;
+  if (!ViewChoices::shared().isOn(ViewChoices::ReloadByItself) || !parts_.validateUserInterfaceItem())
+    return false;
   if (!parts_.mainWindow()->isVisible()) return false;
   const bool busy = parts_.work().isUnderWay() || parts_.view()->selection().tracking() ||
                     QApplication::activeModalWidget() || !parts_.mainWindow()->isEnabled();

@@ -12,13 +12,11 @@
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/style/quiet_text.h"
-#include "window/commands/window_frames.h"
 #include "window/commands/window_parts.h"
+#include "window/viewing/view_choices.h"
 
 namespace norvex {
 namespace {
-
-const QString kUnit = QStringLiteral("views/unit");
 
 /// Gives way where the bar is narrow, and does not move its neighbours with every digit.
 class ReadoutField final : public QToolButton {
@@ -55,14 +53,17 @@ void PointerReadout::setUp() {
   static_cast<QBoxLayout*>(bar->layout())->insertWidget(1, field_);
   connect(field_, &QToolButton::clicked, this, &PointerReadout::stepUnit);
   parts_.viewWidget()->installEventFilter(this);
-  unit_ = unitNamed(savedViewText(kUnit));
+  ViewChoices& choices = ViewChoices::shared();
+  connect(&choices, &ViewChoices::unitChanged, this, [this](LengthUnit unit) {
+    unit_ = unit;
+    show();
+  });
+  unit_ = choices.unit();
   show();
 }
 
 void PointerReadout::stepUnit() {
-  unit_ = nextUnit(unit_);
-  saveViewText(kUnit, unitName(unit_));
-  show();
+  ViewChoices::shared().setUnit(nextUnit(unit_));
 }
 
 std::optional<QPointF> PointerReadout::pictureAt(const QPointF& point) const {
@@ -80,8 +81,15 @@ void PointerReadout::show() {
   const QString unit = unitName(unit_);
   field_->setText(
       at_ ? QStringLiteral("%1, %2 %3").arg(lengthText(at_->x(), unit_), lengthText(at_->y(), unit_), unit)
-          : unit);
+          : wholeText());
   field_->setAccessibleDescription(unit);
+}
+
+QString PointerReadout::wholeText() const {
+  const QSizeF size = parts_.view()->imageSize();
+  const QString unit = unitName(unit_);
+  // A unit alone would say nothing.
+  return parts_.view()->imageRep() && !size.isEmpty() ? sizeText(size, unit_) + u' ' + unit : unit;
 }
 
 bool PointerReadout::eventFilter(QObject* watched, QEvent* event) {

@@ -14,7 +14,7 @@ namespace norvex {
 
 class WindowParts;
 
-/// A field in the window's lower bar: the picture's coordinates under the pointer, counted as the selection's
+/// A field in the window's lower bar: the size of the picture, and its coordinates under the pointer, counted as the selection's
 /// corners are, in a unit that a click changes and that is remembered. The size of the selection is written
 /// beside it in that unit, too. The parts outlive it. Main thread.
 class PointerReadout final : public QObject {
@@ -24,6 +24,8 @@ class PointerReadout final : public QObject {
 
   /// Adds the field to the window.
   void setUp();
+  /// Another picture is shown.
+  void pictureDidChange() { show(); }
   [[nodiscard]] QToolButton* field() const { return field_; }
 
  protected:
@@ -34,6 +36,8 @@ class PointerReadout final : public QObject {
   [[nodiscard]] std::optional<QPointF> pictureAt(const QPointF& point) const;
   void stepUnit();
   void show();
+  /// What is told while the pointer is not over the picture: how large that is.
+  [[nodiscard]] QString wholeText() const;
 
   WindowParts& parts_;
   QToolButton* field_ = nullptr;

@@ -8,8 +8,8 @@
 #include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "ui/pages/rectangle_dialog.h"
-#include "window/commands/window_frames.h"
 #include "window/commands/window_parts.h"
+#include "window/viewing/view_choices.h"
 
 namespace norvex {
 namespace {
@@ -88,7 +88,7 @@ void SelectionHistory::askForNumbers() {
   const bool selected = view.selection().state() == Selection::State::Rectangle;
   const QRectF& bounds = view.bounds();
   RectangleDialog dialog((selected ? view.selectRect() : bounds).translated(-bounds.topLeft()), bounds.size(),
-                         unitNamed(savedViewText(QStringLiteral("views/unit"))), parts_.mainWindow());
+                         ViewChoices::shared().unit(), parts_.mainWindow());
   if (dialog.exec() != QDialog::Accepted) return;
   selectRectangle(*parts_.view(), dialog.rectangle().translated(parts_.view()->bounds().topLeft()));
 }

@@ -51,7 +51,7 @@ class ViewingTest : public QObject {
  private slots:
   void thePointersPlaceIsToldInPictureCoordinates() {
     Shown f;
-    QCOMPARE(f.readout(), QString("pt"));
+    QCOMPARE(f.readout(), QString::fromUtf8("200 × 100 pt"));
     f.pointAt({0, 0});
     QCOMPARE(f.readout(), QString("100, 50 pt"));
     f.pointAt({-40, 20});
@@ -60,7 +60,7 @@ class ViewingTest : public QObject {
     f.pointAt({-20, 60});  // the picture point (60, -20) from the centre
     QCOMPARE(f.readout(), QString("160, 70 pt"));
     f.pointAt({-60, 0});  // beside the picture
-    QCOMPARE(f.readout(), QString("pt"));
+    QCOMPARE(f.readout(), QString::fromUtf8("200 × 100 pt"));
   }
 
   void anSvgIsCountedFromItsTop() {

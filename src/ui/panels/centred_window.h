@@ -1,0 +1,12 @@
+// Where a window comes up that belongs to another one.
+#pragma once
+
+class QWidget;
+
+namespace norvex {
+
+/// Moves `window`, which is not shown yet, over the middle of the other one, or of the screen where there is
+/// none, wholly onto that screen.
+void centreOver(QWidget& window, const QWidget* other);
+
+}  // namespace norvex

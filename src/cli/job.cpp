@@ -43,6 +43,8 @@ ExitCode Job::dispatch(const Arguments& arguments) {
       return check(arguments);
     case Command::Repair:
       return repair(arguments);
+    case Command::Inks:
+      return inks(arguments);
     case Command::Print:
       return print(arguments);
     case Command::Status:

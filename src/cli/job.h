@@ -67,6 +67,7 @@ class Job {
   ExitCode codeOf(const QString& file, const CheckedPicture& checked);
   ExitCode reportChecks(const Arguments& arguments, const QFuture<CheckedPicture>& checks);
   ExitCode repair(const Arguments& arguments);
+  ExitCode inks(const Arguments& arguments);
   /// What was changed and what stays, a line each.
   void tellRepair(const QString& file, const RepairedPicture& repaired);
   ExitCode reportConversions(const ConvertPlan& plan, const QFuture<ConvertedFile>& files);

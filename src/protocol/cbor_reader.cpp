@@ -22,8 +22,16 @@ bool isPlain(QCborStreamReader& reader, int depth) {
       if (!isPlain(reader, depth + 1)) return false;
     return reader.lastError() == QCborError::NoError && reader.leaveContainer();
   }
-  if (reader.isString() || reader.isByteArray()) {
-    if (!reader.isString() || !reader.isLengthKnown()) return false;
+  if (reader.isByteArray()) {
+    if (!reader.isLengthKnown()) return false;
+    QCborStreamReader::StringResult<QByteArray> part;
+    do {
+      part = reader.readByteArray();
+    } while (part.status == QCborStreamReader::Ok);
+    return part.status == QCborStreamReader::EndOfString;
+  }
+  if (reader.isString()) {
+    if (!reader.isLengthKnown()) return false;
     QCborStreamReader::StringResult<QString> part;
     do {
       part = reader.readString();
@@ -97,6 +105,13 @@ void CborReader::text(Key key, QString& text, qsizetype maximumLength) {
   if (text.size() <= maximumLength) return;
   failed_ = true;
   text.clear();
+}
+
+void CborReader::bytes(Key key, QByteArray& bytes, qsizetype maximumSize) {
+  bytes = take(key, QCborValue::ByteArray).toByteArray();
+  if (bytes.size() <= maximumSize) return;
+  failed_ = true;
+  bytes.clear();
 }
 
 QCborArray CborReader::array(Key key, qsizetype maximumCount) {

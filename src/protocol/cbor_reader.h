@@ -46,6 +46,7 @@ class CborReader {
   void boolean(Key key, bool& value);
   void text(Key key, QString& text, qsizetype maximumLength);
   void texts(Key key, QStringList& texts, qsizetype maximumCount, qsizetype maximumLength);
+  void bytes(Key key, QByteArray& bytes, qsizetype maximumSize);
   /// Texts by name.
   void namedTexts(Key key, QHash<QString, QString>& texts, qsizetype maximumCount, qsizetype maximumLength);
   /// A moment; nothing when the field is absent.

@@ -34,6 +34,7 @@ class CborWriter {
   void boolean(Key key, bool value) { map_.insert(key, value); }
   void text(Key key, const QString& text, qsizetype maximumLength);
   void texts(Key key, const QStringList& texts, qsizetype maximumCount, qsizetype maximumLength);
+  void bytes(Key key, const QByteArray& bytes, qsizetype) { map_.insert(key, bytes); }
   void namedTexts(Key key, const QHash<QString, QString>& texts, qsizetype maximumCount,
                   qsizetype maximumLength);
   void date(Key key, const std::optional<QDateTime>& date);

@@ -11,7 +11,7 @@ namespace norvex {
 namespace {
 
 constexpr size_t kDescriptors = 4;
-constexpr qsizetype kMaximumSize = 4096;  ///< of the limits as CBOR
+constexpr qsizetype kMaximumSize = 4096;  ///< of the device, which is one byte, and the limits as CBOR
 
 /// Room for the descriptors beside a message, aligned as the kernel wants it.
 union DescriptorSpace {
@@ -65,10 +65,10 @@ Result<InterpreterConnection> makeInterpreterConnection() {
 Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request) {
   ForkRequest limits;
   limits.limits = request.limits;
-  QByteArray cbor = encodeMessage(limits);
+  QByteArray told = char(request.device) + encodeMessage(limits);
   const int descriptors[kDescriptors] = {request.program.get(), request.output.get(), request.messages.get(),
                                          request.outcome.get()};
-  iovec part = {cbor.data(), size_t(cbor.size())};
+  iovec part = {told.data(), size_t(told.size())};
   DescriptorSpace space = {};
   msghdr message = messageOf(part, space);
   cmsghdr* header = CMSG_FIRSTHDR(&message);
@@ -80,12 +80,12 @@ Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& reques
   do {
     sent = ::sendmsg(asking, &message, MSG_NOSIGNAL | MSG_DONTWAIT);
   } while (sent < 0 && errno == EINTR);
-  return sent == cbor.size() ? Result<void>() : noMore();
+  return sent == told.size() ? Result<void>() : noMore();
 }
 
 Result<InterpreterRequest> receiveInterpreterRequest(int taking) {
-  QByteArray cbor(kMaximumSize, Qt::Uninitialized);
-  iovec part = {cbor.data(), size_t(cbor.size())};
+  QByteArray told(kMaximumSize, Qt::Uninitialized);
+  iovec part = {told.data(), size_t(told.size())};
   DescriptorSpace space = {};
   msghdr message = messageOf(part, space);
   ssize_t got = -1;
@@ -96,10 +96,13 @@ Result<InterpreterRequest> receiveInterpreterRequest(int taking) {
   InterpreterRequest request;
   const bool complete =
       adoptDescriptors(message, request) && (message.msg_flags & (MSG_TRUNC | MSG_CTRUNC)) == 0;
-  cbor.truncate(got);
-  const Result<WorkerMessage> decoded = decodeMessage(cbor);
+  told.truncate(got);
+  request.device = InterpreterDevice(told.at(0));
+  const bool isKnown =
+      request.device == InterpreterDevice::Pdf || request.device == InterpreterDevice::Plates;
+  const Result<WorkerMessage> decoded = decodeMessage(told.mid(1));
   const ForkRequest* limits = decoded ? std::get_if<ForkRequest>(&*decoded) : nullptr;
-  if (!complete || limits == nullptr) return noRequest();
+  if (!complete || !isKnown || limits == nullptr) return noRequest();
   request.limits = limits->limits;
   return request;
 }

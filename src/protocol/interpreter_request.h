@@ -7,11 +7,18 @@
 
 namespace norvex {
 
+/// What becomes of the pages of a program.
+enum class InterpreterDevice : char {
+  Pdf = 'p',
+  Plates = 's',  ///< a Photoshop file of CMYK and spot channels
+};
+
 /// The descriptors of one interpreter. Nothing in it names a file: whoever asks has read a document already.
 struct InterpreterRequest {
   PictureLimits limits;
+  InterpreterDevice device = InterpreterDevice::Pdf;
   FileDescriptor program;   ///< the PostScript, to be read to its end
-  FileDescriptor output;    ///< where the PDF goes
+  FileDescriptor output;    ///< where the pages go
   FileDescriptor messages;  ///< where the program and the interpreter speak to
   /// A pipe for kInterpreterBegun and then, once the interpreter has ended, an InterpreterOutcome. When
   /// nobody reads it any more, the interpreter is killed.

@@ -31,6 +31,13 @@ constexpr quint32 kColdChildren =
 constexpr int kIdle = 1000;
 constexpr int kFarewells[] = {SIGTERM, SIGINT, SIGHUP};
 
+/// Behind the line, what is shared, and two more for the confinement.
+constexpr int kOutOfTheWay = ForkServer::kSharedDescriptor + 3;
+
+int freeNumber() {
+  return ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, kOutOfTheWay);
+}
+
 Error noChild() {
   return {ErrorKind::Died, QStringLiteral("no process for the picture could be started")};
 }
@@ -38,12 +45,13 @@ Error noChild() {
 }  // namespace
 
 ForkServer::ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp,
-                       Prepare prepare)
+                       Prepare prepare, Wish wish)
     : control_(std::move(control)),
       scratchRoot_(std::move(scratchRoot)),
       childMain_(std::move(childMain)),
       warmUp_(std::move(warmUp)),
-      prepare_(std::move(prepare)) {}
+      prepare_(std::move(prepare)),
+      wish_(std::move(wish)) {}
 
 void ForkServer::warmUp() {
   if (const WarmUp todo = std::exchange(warmUp_, {})) todo();
@@ -56,13 +64,16 @@ void ForkServer::run() {
   while (connected) {
     std::vector<pollfd> polls{{control_.socket(), POLLIN, 0}};
     for (const Child& child : children_) polls.push_back({child.pidfd.get(), POLLIN, 0});
+    const size_t children = polls.size() - 1;
+    polls.push_back({wish_.descriptor ? wish_.descriptor() : -1, POLLIN, 0});
     const int ready = ::poll(polls.data(), polls.size(), warmUp_ ? kIdle : -1);
     if (ready == 0) warmUp();
     if (ready <= 0) continue;
-    for (size_t i = polls.size(); i > 1; --i) {
-      if (polls[i - 1].revents == 0) continue;
-      tellEnd(children_[i - 2].number, bury(children_[i - 2]));
-      children_.erase(children_.begin() + std::ptrdiff_t(i - 2));
+    if (polls.back().revents != 0) wish_.serve();
+    for (size_t i = children; i > 0; --i) {
+      if (polls[i].revents == 0) continue;
+      tellEnd(children_[i - 1].number, bury(children_[i - 1]));
+      children_.erase(children_.begin() + std::ptrdiff_t(i - 1));
     }
     if (polls[0].revents != 0) connected = answerControl();
   }
@@ -108,10 +119,12 @@ void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescrip
   for (int signal : kFarewells) std::signal(signal, SIG_DFL);
   closeStandardStreams();
   // Everything foreign goes: the control connection and the other children's descriptors first of all.
-  const int kept = shared < 0 ? -1 : ::fcntl(shared, F_DUPFD_CLOEXEC, kSharedDescriptor + 1);
-  if (socket.get() != controlDescriptor) ::dup2(socket.release(), controlDescriptor);
-  (void)socket.release();
-  ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
+  // What stays is put out of the way before it gets its number, which another may have until then.
+  (void)moveProcessFiles(freeNumber());
+  (void)movePreparedLandlock(freeNumber());
+  const int line = ::fcntl(socket.release(), F_DUPFD_CLOEXEC, kOutOfTheWay);
+  const int kept = shared < 0 ? -1 : ::fcntl(shared, F_DUPFD_CLOEXEC, kOutOfTheWay);
+  ::dup3(line, controlDescriptor, O_CLOEXEC);
   if (kept >= 0) ::dup3(kept, kSharedDescriptor, O_CLOEXEC);
   const int foreign =
       movePreparedLandlock(moveProcessFiles(kept >= 0 ? kSharedDescriptor + 1 : kSharedDescriptor));

@@ -29,12 +29,18 @@ class ForkServer {
   /// Loads what children like this one need and inherit, before the first of them is forked. Gives a
   /// descriptor that this child shall have as kSharedDescriptor, which stays the caller's; -1: none.
   using Prepare = std::function<int(const ForkRequest&)>;
+  /// Something that children may ask for: `descriptor` gives where that is noticed (-1: nowhere), `serve` is
+  /// called when it is readable, and from then on it is not.
+  struct Wish {
+    std::function<int()> descriptor;
+    std::function<void()> serve;
+  };
   static constexpr int kSharedDescriptor = 4;  ///< not open in a child that got none
 
-  /// Scratch folders are made inside `scratchRoot`, which exists and is private to the user. `warmUp` and
-  /// `prepare` may be empty.
+  /// Scratch folders are made inside `scratchRoot`, which exists and is private to the user. All functions
+  /// but `childMain` may be empty.
   ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain childMain, WarmUp warmUp = {},
-             Prepare prepare = {});
+             Prepare prepare = {}, Wish wish = {});
 
   /// A child that does not end by itself and well is told, too: an Error with the number of its request.
   /// Serves until the control connection closes; all children are then gone.
@@ -62,6 +68,7 @@ class ForkServer {
   ChildMain childMain_;
   WarmUp warmUp_;  ///< empty once it has been called
   Prepare prepare_;
+  Wish wish_;
   std::vector<Child> children_;
   quint32 forks_ = 0;  ///< requests so far; the answer's id
 };

@@ -52,6 +52,7 @@ InterpreterProgram::InterpreterProgram(std::string scratchRoot, std::string prog
 
 void InterpreterProgram::stop() {
   asking_.reset();
+  taking_.reset();
   if (pid_ == 0) return;
   ::kill(pid_, SIGKILL);  // whom it forked dies with it
   while (::waitpid(pid_, nullptr, 0) < 0 && errno == EINTR) continue;
@@ -60,23 +61,38 @@ void InterpreterProgram::stop() {
 
 bool InterpreterProgram::runs() {
   if (pid_ != 0 && ::waitpid(pid_, nullptr, WNOHANG) == 0) return true;
+  if (pid_ != 0) asking_.reset();
   pid_ = 0;
-  asking_.reset();
   return false;
 }
 
-void InterpreterProgram::start() {
-  if (runs() || starts_ == kMaximumStarts) return;
+bool InterpreterProgram::makeConnection() {
+  if (asking_.valid() && taking_.valid()) return true;
   Result<InterpreterConnection> connection = makeInterpreterConnection();
-  if (!connection) return;
-  const FileDescriptor taking(::fcntl(connection->taking.get(), F_DUPFD_CLOEXEC, kAboveStandard));
-  connection->taking.reset();
-  if (!taking.valid()) return;
+  if (!connection) return false;
+  taking_.reset(::fcntl(connection->taking.get(), F_DUPFD_CLOEXEC, kAboveStandard));
+  asking_ = std::move(connection->asking);
+  if (!taking_.valid()) asking_.reset();
+  return taking_.valid();
+}
+
+void InterpreterProgram::expect() {
+  if (!runs() && starts_ < kMaximumStarts) (void)makeConnection();
+}
+
+void InterpreterProgram::start() {
+  if (runs()) return;
+  if (starts_ == kMaximumStarts || !makeConnection()) {
+    asking_.reset();
+    taking_.reset();  // whoever asks is told so by this
+    return;
+  }
   const int opened = openedProcessFiles();
   const FileDescriptor processFiles(opened < 0 ? -1 : ::fcntl(opened, F_DUPFD_CLOEXEC, kAboveStandard));
   ++starts_;
-  pid_ = spawn(program_, scratchRoot_, taking.get(), processFiles.get());
-  if (pid_ != 0) asking_ = std::move(connection->asking);
+  pid_ = spawn(program_, scratchRoot_, taking_.get(), processFiles.get());
+  taking_.reset();
+  if (pid_ == 0) asking_.reset();
 }
 
 }  // namespace norvex

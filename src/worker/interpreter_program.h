@@ -26,18 +26,25 @@ class InterpreterProgram {
   /// that view, otherwise it makes one of its own. After it has died some times in a row it
   /// is not started any more.
   void start();
+  /// Makes a place where interpreters can be asked for; the program is started when somebody does, for which
+  /// whoever calls this must listen at waitingRequests().
+  void expect();
+  /// Readable once somebody asks for an interpreter and the program has yet to be started; -1: nobody can.
+  [[nodiscard]] int waitingRequests() const { return taking_.get(); }
   /// Ends it with all that it has forked.
   void stop();
-  /// Where interpreters are asked for (protocol/interpreter_request.h); -1: the program does not run. Not
-  /// ready is no failure, a program that cannot run is noticed by whoever asks.
+  /// Where interpreters are asked for (protocol/interpreter_request.h); -1: the program neither runs
+  /// nor is expected to. Not ready is no failure, a program that cannot run is noticed by whoever asks.
   [[nodiscard]] int asking() const { return asking_.get(); }
   /// Process number; 0: it does not run.
   [[nodiscard]] int pid() const { return pid_; }
 
  private:
   [[nodiscard]] bool runs();
+  [[nodiscard]] bool makeConnection();
   std::string scratchRoot_, program_;
   FileDescriptor asking_;
+  FileDescriptor taking_;  ///< until the program has it
   int pid_ = 0;
   int starts_ = 0;
 };

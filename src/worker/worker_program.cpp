@@ -81,14 +81,18 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   traceStep("norvex-worker has its engines");
   const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
     traceStep("norvex-worker asked for a picture's process");
-    if (request.postScript) interpreter.start();
+    if (request.postScript)
+      interpreter.start();
+    else if (request.needs & NeedPages)
+      interpreter.expect();  // for the inks of a PDF, which hardly anybody asks for
     const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
     // The first child of all, when it asks for an interpreter, loads what it needs itself meanwhile.
     if (!startsPostScript) (void)engines.source(request.needs);
-    return request.postScript ? interpreter.asking() : -1;
+    return request.postScript || (request.needs & NeedPages) ? interpreter.asking() : -1;
   };
   const ForkServer::WarmUp warmUp = isTold(argc, argv, kLone) ? ForkServer::WarmUp() : engines.warmUp;
-  const int code = runForkServer(argc, argv, documentChild(engines, layers), warmUp, prepare);
+  const ForkServer::Wish wish{[&] { return interpreter.waitingRequests(); }, [&] { interpreter.start(); }};
+  const int code = runForkServer(argc, argv, documentChild(engines, layers), warmUp, prepare, wish);
   interpreter.stop();
   return code;
 }
@@ -109,13 +113,13 @@ int runPictureProgram(const EngineSet& engines) {
 }
 
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp,
-                  ForkServer::Prepare prepare) {
+                  ForkServer::Prepare prepare, ForkServer::Wish wish) {
   if (argc < 2 || !hasControlSocket()) return startedByHand("norvex-worker");
   ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
   std::signal(SIGPIPE, SIG_IGN);
   const QByteArray root = argv[1];
   ForkServer(FileDescriptor(controlDescriptor), root, std::move(childMain), std::move(warmUp),
-             std::move(prepare))
+             std::move(prepare), std::move(wish))
       .run();
   if (isInFileView())
     removeScratchRootOfView();

@@ -42,6 +42,6 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines,
 int runPictureProgram(const EngineSet& engines);
 /// The same as runWorkerProgram() for other children (tests).
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp = {},
-                  ForkServer::Prepare prepare = {});
+                  ForkServer::Prepare prepare = {}, ForkServer::Wish wish = {});
 
 }  // namespace norvex

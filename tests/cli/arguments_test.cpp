@@ -239,7 +239,7 @@ class ArgumentsTest : public QObject {
       shell.waitForFinished();
       return QString::fromUtf8(shell.readAllStandardOutput()).trimmed();
     };
-    QCOMPARE(complete("norvex in", 1), "info");
+    QCOMPARE(complete("norvex in", 1), "info inks");
     QCOMPARE(complete("norvex info --j", 2), "--json --jobs --json-lines");
     QCOMPARE(complete("norvex source --j", 2), "");
     QCOMPARE(complete("norvex --completion z", 2), "zsh");
@@ -266,8 +266,8 @@ class ArgumentsTest : public QObject {
     QVERIFY(shell.waitForFinished());
     const QString reply = QString::fromUtf8(shell.readAllStandardOutput()).trimmed();
     QCOMPARE(shell.readAllStandardError(), QByteArray());
-    QCOMPARE(reply.count('<'), 3);
-    QVERIFY(reply.contains("<info>") && reply.contains("<in my hand.eps>") &&
+    QCOMPARE(reply.count('<'), 4);
+    QVERIFY(reply.contains("<info>") && reply.contains("<inks>") && reply.contains("<in my hand.eps>") &&
             reply.contains("<in * two.eps>"));
   }
 };

@@ -12,6 +12,7 @@
 #include "protocol/cbor_writer.h"
 #include "protocol/limits.h"
 #include "protocol/page_contents.h"
+#include "protocol/page_inks.h"
 #include "protocol/page_text.h"
 #include "protocol/worker_protocol.h"
 
@@ -75,6 +76,24 @@ QList<QByteArray> pageTextSeeds() {
   return {encodePageText(page), encodePageText({})};
 }
 
+bool pageInks(const QByteArray& bytes) {
+  const auto page = decodePageInks(bytes);
+  if (!page) return false;
+  require(page->inks.size() >= 4 && page->inks.size() <= limits::maximumInks, "there are process inks");
+  require(page->plates.size() == page->plateBytes() * page->inks.size(), "every plate is whole");
+  require(decodePageInks(encodePageInks(*page)).ok(), "what was read can be sent and read again");
+  return true;
+}
+
+QList<QByteArray> pageInksSeeds() {
+  PageInks page;
+  page.pixels = QSize(2, 3);
+  for (const char* name : {"Cyan", "Magenta", "Yellow", "Black"}) page.inks << Ink{name, false, {}, 1, 0.5};
+  page.inks << Ink{QStringLiteral("Gold"), true, ProcessInks{1, 2, 3, 4}, 0, 0};
+  page.plates = QByteArray(30, 'x');
+  return {encodePageInks(page)};
+}
+
 /// A value of every form that a field has.
 struct Inner {
   QString text;
@@ -85,6 +104,7 @@ struct Everything {
   bool boolean = false;
   QString text;
   QStringList texts;
+  QByteArray bytes;
   QRectF rect;
   QSize size;
   QHash<QString, QString> named;
@@ -101,6 +121,7 @@ void fields(Visitor& v, Value& value) {
     v.boolean(QLatin1String("boolean"), value.boolean);
     v.text(QLatin1String("text"), value.text, 8);
     v.texts(QLatin1String("texts"), value.texts, 3, 8);
+    v.bytes(QLatin1String("bytes"), value.bytes, 4);
     v.rect(QLatin1String("rect"), value.rect, 100);
     v.size(QLatin1String("size"), value.size, 10);
     v.namedTexts(QLatin1String("named"), value.named, 3, 8);
@@ -119,6 +140,7 @@ bool cborFields(const QByteArray& bytes) {
   require(all.integer >= -5 && all.integer <= 5, "integers keep their bounds");
   require(std::abs(all.number) <= 100, "numbers keep their bounds");
   require(all.text.size() <= 8, "texts keep their length");
+  require(all.bytes.size() <= 4, "bytes keep their size");
   require(all.texts.size() <= 3, "lists keep their count");
   require(all.rect.width() >= 0 && all.rect.height() >= 0 && std::abs(all.rect.x()) <= 100,
           "rectangles are upright");
@@ -185,6 +207,7 @@ QList<QByteArray> fieldSeeds() {
   all.number = 2.5;
   all.text = QStringLiteral("text");
   all.texts = {QStringLiteral("a"), QStringLiteral("b")};
+  all.bytes = "\x01\xff";
   all.rect = QRectF(1, 2, 3, 4);
   all.size = {3, 4};
   all.named = {{QStringLiteral("a"), QStringLiteral("b")}};
@@ -207,6 +230,7 @@ QList<Target> protocolTargets() {
           {"replies", replies, replySeeds},
           {"page_contents", pageContents, pageContentsSeeds},
           {"page_text", pageText, pageTextSeeds},
+          {"page_inks", pageInks, pageInksSeeds},
           {"cbor_fields", cborFields, fieldSeeds, 1000}};
 }
 

@@ -1,7 +1,9 @@
-// The TIFF section of a binary EPS file, from the directory to the samples.
+// The TIFF section of a binary EPS file, from the directory to the samples, and what Ghostscript writes of a
+// page that it separates.
 #include <algorithm>
 
 #include "fuzz/targets.h"
+#include "worker/postscript/psd_plates.h"
 #include "worker/tiff/tiff_preview.h"
 
 namespace norvex::fuzz {
@@ -54,10 +56,37 @@ QList<QByteArray> seeds() {
           tiff({{258, 3, 1}, {262, 3, 0}}, 4, 4)};
 }
 
+bool psdPlates(const QByteArray& bytes) {
+  const auto page = engine::platesOfPsd(bytes);
+  if (!page) return false;
+  require(page->plates.size() == page->plateBytes() * page->inks.size(), "every plate is whole");
+  require(decodePageInks(encodePageInks(*page)).ok(), "what was read can be told");
+  return true;
+}
+
+/// In the other order of bytes.
+QByteArray big(quint32 value, int bytes) {
+  QByteArray text = number(value, bytes);
+  std::reverse(text.begin(), text.end());
+  return text;
+}
+
+QList<QByteArray> psdSeeds() {
+  const auto psd = [](int channels, const QByteArray& resources) {
+    return "8BPS" + big(1, 2) + big(0, 6) + big(quint32(channels), 2) + big(2, 4) + big(3, 4) + big(8, 2) +
+           big(4, 2) + big(0, 4) + big(quint32(resources.size()), 4) + resources + big(0, 4) + big(0, 2) +
+           QByteArray(6 * channels, 'x');
+  };
+  const QByteArray names = "8BIM" + big(1006, 2) + big(0, 2) + big(10, 4) + "\4Gold\4Blue";
+  const QByteArray colours =
+      "8BIM" + big(1007, 2) + big(0, 2) + big(14, 4) + big(2, 2) + QByteArray(12, '\x66');
+  return {psd(4, {}), psd(6, names + colours), psd(5, colours + names)};
+}
+
 }  // namespace
 
 QList<Target> tiffTargets() {
-  return {{"tiff_preview", tiffPreview, seeds}};
+  return {{"tiff_preview", tiffPreview, seeds}, {"psd_plates", psdPlates, psdSeeds}};
 }
 
 }  // namespace norvex::fuzz

@@ -149,6 +149,8 @@ class ExpectedPicturesTest : public QObject {
     QTest::newRow("a window") << QStringList{"a.eps"} << true;
     QTest::newRow("print") << QStringList{"print", "a.eps", "-o", "a.pdf"} << true;
     QTest::newRow("a thumbnail") << QStringList{"thumbnail", "-s", "64", "a.eps", "a.png"} << true;
+    QTest::newRow("inks of a PDF") << QStringList{"inks", "a.pdf"} << true;
+    QTest::newRow("an SVG has no inks") << QStringList{"inks", "a.svg"} << false;
     QTest::newRow("EPS comes out") << QStringList{"convert", "a.svg", "-o", "a.eps"} << false;
     QTest::newRow("EPS comes out, long") << QStringList{"convert", "a.svg", "--output=a.eps"} << false;
     QTest::newRow("no picture is drawn") << QStringList{"info", "a.eps"} << false;

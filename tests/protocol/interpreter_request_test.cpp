@@ -19,6 +19,7 @@ InterpreterRequest someRequest(FileDescriptor (&reading)[4]) {
   InterpreterRequest request;
   request.limits.seconds = 7;
   request.limits.memoryMiB = 123;
+  request.device = InterpreterDevice::Plates;
   request.program = somePipe(reading[0]);
   request.output = somePipe(reading[1]);
   request.messages = somePipe(reading[2]);
@@ -40,6 +41,7 @@ class InterpreterRequestTest : public QObject {
     QVERIFY(request.ok());
     QCOMPARE(request->limits.seconds, 7);
     QCOMPARE(request->limits.memoryMiB, 123);
+    QCOMPARE(request->device, InterpreterDevice::Plates);
     const FileDescriptor* arrived[4] = {&request->program, &request->output, &request->messages,
                                         &request->outcome};
     for (int i = 0; i < 4; ++i) {

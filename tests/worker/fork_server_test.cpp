@@ -2,8 +2,14 @@
 
 #include <QTemporaryDir>
 
+#include <fcntl.h>
+
+#include <algorithm>
+#include <utility>
+
 #include "kit/forked_check.h"
 #include "kit/test_main.h"
+#include "worker/confinement/process_files.h"
 
 using namespace norvex;
 
@@ -98,10 +104,43 @@ class ForkServerTest : public QObject {
     QCOMPARE(letterFrom(shared.ours), 's');
   }
 
+  void whatWasPreparedArrivesWhoeverHadItsNumber() {
+    // The confinement's own files are opened in between, at any number.
+    FileDescriptor low[6];
+    for (FileDescriptor& one : low) one.reset(::open("/dev/null", O_RDWR | O_CLOEXEC));
+    const bool isFree = std::any_of(std::begin(low), std::end(low), [](const FileDescriptor& one) {
+      return one.get() == ForkServer::kSharedDescriptor;
+    });
+    if (!isFree) QSKIP("somebody else has that number here");
+    const Line shared = makeLine();
+    bool moved = false;
+    const auto prepare = [&](const ForkRequest&) {
+      openProcessFiles();
+      if (!std::exchange(moved, true)) (void)moveProcessFiles(ForkServer::kSharedDescriptor);
+      return shared.theirs.get();
+    };
+    QCOMPARE(lettersWith(prepare), QByteArray("++"));
+    QCOMPARE(letterFrom(shared.ours), 's');
+  }
+
+  void whatAChildAsksForIsServed() {
+    const Line shared = makeLine(), told = makeLine();
+    ForkServer::Wish wish;
+    wish.descriptor = [&] { return shared.ours.get(); };
+    wish.serve = [&] {
+      const char letter = letterFrom(shared.ours);
+      if (::write(told.theirs.get(), &letter, 1) != 1) ::_exit(1);
+    };
+    const auto prepare = [&](const ForkRequest&) { return shared.theirs.get(); };
+    QCOMPARE(lettersWith(prepare, wish), QByteArray("++"));
+    QCOMPARE(letterFrom(told.ours), 's');
+    QCOMPARE(letterFrom(told.ours), 's');
+  }
+
  private:
   /// '+' for a child with a shared descriptor, to which it wrote, '-' for one without: of a request with
   /// postScript and of one without.
-  static QByteArray lettersWith(const ForkServer::Prepare& prepare) {
+  static QByteArray lettersWith(const ForkServer::Prepare& prepare, const ForkServer::Wish& wish = {}) {
     const QTemporaryDir scratch;
     auto pair = MessageChannel::makePair();
     if (!pair || !scratch.isValid()) return "no connection";
@@ -112,7 +151,7 @@ class ForkServerTest : public QObject {
         const bool has = ::write(ForkServer::kSharedDescriptor, "s", 1) == 1;
         if (::write(socket.get(), has ? "+" : "-", 1) != 1) ::_exit(1);
       };
-      ForkServer(std::move(pair->second), scratch.path().toLocal8Bit(), tell, {}, prepare).run();
+      ForkServer(std::move(pair->second), scratch.path().toLocal8Bit(), tell, {}, prepare, wish).run();
       ::_exit(0);
     }
     pair->second.reset();

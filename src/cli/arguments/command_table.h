@@ -12,7 +12,20 @@
 
 namespace norvex {
 
-enum class Command { Main, Info, Source, Preview, Convert, Print, Status, Thumbnail, Check, Repair, Text };
+enum class Command {
+  Main,
+  Info,
+  Source,
+  Preview,
+  Convert,
+  Print,
+  Status,
+  Thumbnail,
+  Check,
+  Repair,
+  Text,
+  Inks
+};
 
 /// The arguments of a command besides options.
 struct CommandRow {
@@ -33,6 +46,8 @@ enum class Option {
   Json,
   Profile,
   Preview,
+  Plates,
+  Overprint,
   Output,
   Folder,
   Format,
@@ -84,9 +99,10 @@ using Commands = unsigned;
 }
 inline constexpr Commands everyCommand = ~Commands(0);
 /// Those that have a picture process read a document or its preview.
-inline constexpr Commands openingCommands =
-    only(Command::Info) | only(Command::Source) | only(Command::Preview) | only(Command::Convert) |
-    only(Command::Check) | only(Command::Repair) | only(Command::Print) | only(Command::Text);
+inline constexpr Commands openingCommands = only(Command::Info) | only(Command::Source) |
+                                            only(Command::Preview) | only(Command::Convert) |
+                                            only(Command::Check) | only(Command::Repair) |
+                                            only(Command::Inks) | only(Command::Print) | only(Command::Text);
 /// Those that open a document whole, as a reader of it would.
 inline constexpr Commands readingCommands = only(Command::Info) | only(Command::Convert) |
                                             only(Command::Check) | only(Command::Print) |
@@ -123,6 +139,8 @@ inline constexpr auto commandTable = std::to_array<CommandRow>({
      "tell what is wrong with the files, and what is in them for print"},
     {Command::Repair, "repair", "FILE... (-o OUT | --to DIR)", 1, 1, true,
      "mend an EPS file around its program: boxes, comments, preview"},
+    {Command::Inks, "inks", "FILE", 1, 1, true,
+     "list the process and spot inks of a page, and write their plates"},
     {Command::Print, "print", "FILE (--printer NAME | -o OUT.pdf)", 1, 1, false,
      "print the picture, as vectors"},
     {Command::Status, "status", "STATE", 1, -1, true, "tell how far a run with --state has come"},
@@ -135,9 +153,13 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Preview, only(Command::Repair), 0, "preview", "USE", "keep drop rebuild",
      "what becomes of the preview (keep)"},
     {Option::Json,
-     only(Command::Info) | only(Command::Convert) | only(Command::Check) | only(Command::Repair), 0, "json",
+     only(Command::Info) | only(Command::Convert) | only(Command::Check) | only(Command::Repair) | only(Command::Inks), 0, "json",
      "", "", "one JSON array with an object for each file"},
     {Option::Json, only(Command::Status), 0, "json", "", "", "one JSON object"},
+    {Option::Plates, only(Command::Inks), 0, "plates", "DIR", "",
+     "write a grey PNG for each ink into this folder: black is all of the ink"},
+    {Option::Overprint, only(Command::Inks), 0, "overprint", "", "",
+     "simulate overprinting, as a press does that is told to"},
     {Option::Output,
      only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Print), 'o',
      "output", "OUT", "", "the file to write; - is standard output"},
@@ -151,10 +173,10 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
      "this rectangle alone: points in the turned view, origin at its lower-left corner, y up"},
     {Option::Pages, only(Command::Convert), 0, "pages", "LIST", "",
      "these pages of a PDF, each to a file with its number in its name: all, or 1,3-5,8-"},
-    {Option::Page, only(Command::Convert) | only(Command::Text), 0, "page", "N", "",
+    {Option::Page, only(Command::Convert) | only(Command::Inks) | only(Command::Text), 0, "page", "N", "",
      "the page of a PDF, from 1"},
-    {Option::Dpi, only(Command::Convert), 0, "dpi", "N", "",
-     "pixels an inch of the raster formats (72: one a point)"},
+    {Option::Dpi, only(Command::Convert) | only(Command::Inks), 0, "dpi", "N", "",
+     "pixels an inch: of the raster formats (72: one a point), of plates (144)"},
     {Option::Background, only(Command::Convert), 0, "background", "COLOR", "",
      "fills what the picture leaves unpainted, in the raster formats"},
     {Option::Quality, only(Command::Convert), 0, "quality", "N", "", qualityHelp.text()},
@@ -169,9 +191,14 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},
     {Option::Force,
      only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Print) |
-         only(Command::Status) | only(Command::Thumbnail),
+         only(Command::Status) | only(Command::Thumbnail) | only(Command::Inks),
      'f', "force", "", "", "overwrite a file that exists"},
     {Option::Quiet, archiveCommands, 'q', "quiet", "", "", "tell nothing but errors"},
+     only(Command::Preview) | only(Command::Convert) | only(Command::Repair) | only(Command::Inks) |
+         only(Command::Print),
+     'f', "force", "", "", "overwrite a file that exists"},
+    {Option::Quiet, only(Command::Convert) | only(Command::Repair), 'q', "quiet", "", "",
+     "tell nothing but errors"},
     {Option::Printer, only(Command::Print), 0, "printer", "NAME", "", "the printer that prints it"},
     {Option::HeaderFooter, only(Command::Print), 0, "header-footer", "", "",
      "the date above the picture and the file's location below it, on every page"},

@@ -1,8 +1,10 @@
-// How Ghostscript is set up to turn PostScript into PDF, whether it is started for a document or waits for
-// it.
+// How Ghostscript is set up to turn PostScript into PDF, or pages into plates, whether it is started for a
+// document or waits for it.
 #pragma once
 
 #include <array>
+
+#include "protocol/interpreter_request.h"
 
 namespace norvex::engine {
 
@@ -20,9 +22,14 @@ inline constexpr std::array distillerOptions{
     "-dAutoFilterGrayImages=false", "-dColorImageFilter=/FlateEncode", "-dGrayImageFilter=/FlateEncode",
     "-dPassThroughJPEGImages=true", "-dPreserveOverprintSettings=true", "-dPreserveSeparation=true",
     "-dPreserveDeviceN=true", "-dUCRandBGInfo=/Preserve", "-dTransferFunctionInfo=/Preserve",
-    "-dEmbedAllFonts=true", "-dSubsetFonts=true", "-dMaxSubsetPct=100"};
+    "-dEmbedAllFonts=true", "-dSubsetFonts=true", "-dMaxSubsetPct=100",
+    // Of a PDF, which is only ever separated: the page that is shown.
+    "-dUseCropBox"};
 
-inline constexpr const char* distillerDevice = "pdfwrite";
+/// The device that writes what is wanted of the pages.
+constexpr const char* deviceName(InterpreterDevice device) {
+  return device == InterpreterDevice::Plates ? "psdcmyk" : "pdfwrite";
+}
 /// Behind all others: the result goes to standard output, the program comes from standard input.
 inline constexpr std::array distillerStreams{"-o", "-", "-_"};
 

@@ -10,6 +10,7 @@
 #include "worker/pages/pdf_engine.h"
 #include "worker/pdf/pdf_render.h"
 #include "worker/postscript/eps_engine.h"
+#include "worker/postscript/separated_pages.h"
 #include "worker/svg/svg_engine.h"
 #include "worker/svg/svg_pdf.h"
 
@@ -22,7 +23,7 @@ Result<std::unique_ptr<DocumentEngine>> openOffered(PictureKind kind, const QByt
                                                     EngineContext& context) {
   if constexpr ((offers & NeedPages) != 0) {
     if (kind == PictureKind::Eps) return openEps(bytes, context);
-    if (kind == PictureKind::Pdf) return openPdf(bytes, context);
+    if (kind == PictureKind::Pdf) return withInks(openPdf(bytes, context), bytes, context);
   }
   if constexpr ((offers & NeedSvgDrawing) != 0) {
     SvgVectors vectors;

@@ -32,7 +32,7 @@ void tell(const FileDescriptor& outcome, const Value& value) {
 InterpreterServer::InterpreterServer(FileDescriptor taking, QByteArray scratchRoot)
     : taking_(std::move(taking)), scratchRoot_(std::move(scratchRoot)) {}
 
-QByteArray InterpreterServer::serve() {
+PostScriptInterpreter::Task InterpreterServer::serve() {
   while (true) {
     std::vector<pollfd> polls{{taking_.get(), POLLIN, 0}};
     for (const Child& child : children_) {
@@ -42,7 +42,7 @@ QByteArray InterpreterServer::serve() {
     if (::poll(polls.data(), polls.size(), children_.empty() ? -1 : ScratchWatch::kPause) < 0) continue;
     buryWhoMustGo(polls);
     if (polls[0].revents == 0) continue;
-    if (const QByteArray folder = takeRequest(); !folder.isEmpty()) return folder;
+    if (const auto task = takeRequest()) return *task;
   }
 }
 
@@ -59,23 +59,23 @@ void InterpreterServer::buryWhoMustGo(const std::vector<pollfd>& polls) {
   }
 }
 
-QByteArray InterpreterServer::takeRequest() {
+std::optional<PostScriptInterpreter::Task> InterpreterServer::takeRequest() {
   Result<InterpreterRequest> request = receiveInterpreterRequest(taking_.get());
   if (request)
-    return children_.size() < limits::maximumInterpreters ? fork(std::move(*request)) : QByteArray();
+    return children_.size() < limits::maximumInterpreters ? fork(std::move(*request)) : std::nullopt;
   if (request.error().kind == ErrorKind::Protocol) return {};
   for (Child& child : children_) bury(child);
   ::_exit(0);
 }
 
-QByteArray InterpreterServer::fork(InterpreterRequest request) {
+std::optional<PostScriptInterpreter::Task> InterpreterServer::fork(InterpreterRequest request) {
   QByteArray folder = scratchRoot_ + "/XXXXXX";
   if (::mkdtemp(folder.data()) == nullptr) return {};
   const pid_t self = ::getpid();
   const pid_t pid = ::fork();
   if (pid == 0) {
     becomeInterpreter(self, request, folder);
-    return folder;
+    return PostScriptInterpreter::Task{folder, request.device};
   }
   Child child{pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1),
               std::move(request.outcome), folder, ScratchWatch(QFile::decodeName(folder))};

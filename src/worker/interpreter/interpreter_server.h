@@ -10,6 +10,7 @@
 
 #include "protocol/interpreter_request.h"
 #include "worker/confinement/scratch_watch.h"
+#include "worker/interpreter/postscript_interpreter.h"
 
 namespace norvex {
 
@@ -23,8 +24,8 @@ class InterpreterServer {
   InterpreterServer(FileDescriptor taking, QByteArray scratchRoot);
 
   /// Returns in the forked processes only: confined, with the request's descriptors as standard streams and
-  /// no other. Gives the process's scratch folder.
-  QByteArray serve();
+  /// no other. Gives what it is to do.
+  PostScriptInterpreter::Task serve();
 
  private:
   struct Child {
@@ -33,9 +34,9 @@ class InterpreterServer {
     QByteArray scratchFolder;
     ScratchWatch scratch;
   };
-  /// The scratch folder in a forked process; empty in the server.
-  QByteArray takeRequest();
-  QByteArray fork(InterpreterRequest request);
+  /// In a forked process what it is to do; nothing in the server.
+  std::optional<PostScriptInterpreter::Task> takeRequest();
+  std::optional<PostScriptInterpreter::Task> fork(InterpreterRequest request);
   static void becomeInterpreter(int parent, const InterpreterRequest& request,
                                 const QByteArray& scratchFolder);
   /// Ends it. `told`: what whoever waits is told in place of its status.

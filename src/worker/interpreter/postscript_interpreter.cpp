@@ -18,19 +18,20 @@ namespace {
 constexpr int kFatal = 1;
 constexpr int kOtherError = 255;
 
-// The steps of gs at its start with a device that writes PDF, done now and in its order: the paper and those
+// The steps of gs at its start with the device, done now and in its order: the paper and those
 // options of the command line that are parameters of the device; the halftone and what goes with it; the
 // default settings as far as no option replaces them; the state of graphics. The parameters are asked for
 // last because setpagedevice goes by those that it has seen before.
 constexpr char kSelectDevice[] =
-    "/pdfwrite finddevice dup getdeviceprops counttomark 2 idiv\n"
+    " finddevice dup getdeviceprops counttomark 2 idiv\n"
     "{ systemdict 2 index known { pop dup load counttomark 2 roll } { pop pop } ifelse } repeat\n"
     "/PageSize currentpagedevice /PageSize get counttomark 2 add -1 roll putdeviceprops setdevice\n"
-    ".setdefaultscreen\n"
+    ".setdefaultscreen\n";
+constexpr char kSetDistiller[] =
     ".distillersettings /default get dup length .distillercommon length add dict begin\n"
     ".distillercommon 2 { { systemdict 2 index known { pop pop } { def } ifelse } forall } repeat\n"
-    "currentdict end setdistillerparams\n"
-    "newpath fill currentpagedevice pop\n";
+    "currentdict end setdistillerparams\n";
+constexpr char kBeginPage[] = "newpath fill currentpagedevice pop\n";
 
 std::vector<char*> initialArguments() {
   std::vector<const char*> arguments{"gs"};
@@ -100,10 +101,13 @@ int PostScriptInterpreter::writeMessage(void* self, const char* text, int size) 
 }
 
 void PostScriptInterpreter::beginDocument() {
-  const QByteArray ownFiles = serve_() + "/*";
+  const Task task = serve_();
+  const QByteArray ownFiles = task.scratchFolder + "/*";
   for (const int right : {GS_PERMIT_FILE_READING, GS_PERMIT_FILE_WRITING, GS_PERMIT_FILE_CONTROL})
     ::gsapi_add_control_path(instance_, right, ownFiles.constData());
-  unread_ = kSelectDevice;
+  // It begins as PostScript does: otherwise what follows would be taken for a PDF where it holds one.
+  unread_ = QByteArray("%!\n/") + engine::deviceName(task.device) + kSelectDevice +
+            (task.device == InterpreterDevice::Pdf ? kSetDistiller : "") + kBeginPage;
 }
 
 }  // namespace norvex

@@ -5,6 +5,8 @@
 
 #include <functional>
 
+#include "protocol/interpreter_request.h"
+
 namespace norvex {
 
 /// The only code that libgs is linked for. Initialised as the gs that is started for a document is, but with
@@ -12,10 +14,14 @@ namespace norvex {
 /// what it changes are seen in its own process only. One in a process; single-threaded.
 class PostScriptInterpreter {
  public:
+  struct Task {
+    QByteArray scratchFolder;  ///< for its temporary files
+    InterpreterDevice device = InterpreterDevice::Pdf;
+  };
   /// Called when everything is initialised. It forks as often as it likes and returns in the forked processes
-  /// only, each with the folder for its temporary files; the original process ends within it. A returned
-  /// process has standard input for the program, standard output for the PDF, standard error for messages.
-  using Serve = std::function<QByteArray()>;
+  /// only; the original process ends within it. A returned process has standard input for the program,
+  /// standard output for the pages, standard error for messages.
+  using Serve = std::function<Task()>;
 
   explicit PostScriptInterpreter(Serve serve) : serve_(std::move(serve)) {}
   PostScriptInterpreter(const PostScriptInterpreter&) = delete;
@@ -31,7 +37,7 @@ class PostScriptInterpreter {
   static int readProgram(void* self, char* buffer, int size);
   static int writeMessage(void* self, const char* text, int size);
   void beginDocument();
-  /// Completes the PDF. Gives gs's code, as run() needs it.
+  /// Completes the output. Gives gs's code, as run() needs it.
   int closeDevice();
   Serve serve_;
   void* instance_ = nullptr;

@@ -54,12 +54,14 @@ struct Program {
 // one line with the count of finished pages and the error's name is written, and without a page the one that
 // was begun is shown, from wherever the program had gone; otherwise a last showpage makes
 // up for a missing one (a page too many is dropped later). Names are bound early: documents redefine
-// operators. With `complete` the PDF is completed here and now, as a forked interpreter has it.
-QByteArray prolog(const QRectF& box, const Program& program, bool complete) {
+// operators. With `complete` the output is completed here and now, as a forked interpreter has it.
+QByteArray prolog(const QRectF& box, const Program& program, const PageDevice& device, bool complete) {
   const QByteArray offset = decimal(-box.x(), 6) + ' ' + decimal(-box.y(), 6);
   const QByteArray size = decimal(box.width(), 6) + ' ' + decimal(box.height(), 6);
-  return "%!\n0 vmreclaim << /NeverEmbed [ ] >> setdistillerparams\n<< /PageSize [" + size +
-         "] /ImagingBBox null >> setpagedevice\n" + offset +
+  const QByteArray fonts =
+      device.device == InterpreterDevice::Pdf ? " << /NeverEmbed [ ] >> setdistillerparams" : "";
+  return "%!\n0 vmreclaim" + fonts + "\n<< /PageSize [" + size + "] /ImagingBBox null " + device.parameters +
+         " >> setpagedevice\n" + offset +
          " translate\n"
          "userdict begin\n"
          "/setpagedevice { pop } def\n"
@@ -82,10 +84,7 @@ QByteArray prolog(const QRectF& box, const Program& program, bool complete) {
          "    clear currentpagedevice /PageCount get 0 eq\n"
          "    { { //systemdict /showpage get exec } stopped pop } if }\n"
          "  { //systemdict /showpage get exec } ifelse\n" +
-         (complete ? QByteArray("  { << /OutputFile (") + distilledOutput +
-                         ") >> //systemdict /setpagedevice get exec } stopped pop\n"
-                   : QByteArray()) +
-         "  //systemdict /quit get exec } bind exec\n";
+         (complete ? completeOutput() : QByteArray()) + "  //systemdict /quit get exec } bind exec\n";
 }
 
 struct ProgramError {
@@ -133,20 +132,9 @@ QStringList substitutions(const QByteArray& messages) {
   return warnings;
 }
 
-// With the child that waits already, if there is one.
-Result<GhostscriptOutput> runDistiller(const Program& program, const QRectF& box, EngineContext& context) {
-  while (true) {
-    std::shared_ptr<GhostscriptChild> child = std::exchange(context.warmGhostscript, nullptr);
-    if (!child) {
-      auto started = startDistiller(context);
-      if (!started) return started.error();
-      child = std::move(*started);
-    }
-    Result<GhostscriptOutput> run =
-        child->run({prolog(box, program, child->isForked()), program.text}, context);
-    if (run || run.error().kind != ErrorKind::Unsupported || context.interpreters < 0) return run;
-    context.interpreters = -1;  // nobody forks interpreters here: gs is started from now on
-  }
+/// What every output of the device begins with.
+QByteArray beginOf(InterpreterDevice device) {
+  return device == InterpreterDevice::Plates ? QByteArrayLiteral("8BPS") : QByteArrayLiteral("%PDF-");
 }
 
 Error noPage() {
@@ -170,28 +158,38 @@ Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box, bool unle
 
 }  // namespace
 
-Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
+Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box, const PageDevice& device,
+                                 EngineContext& context) {
   Program program{postScript, procedureSetsFor(postScript), false};
-  Result<GhostscriptOutput> run = runDistiller(program, box, context);
+  const auto input = [&](bool forked) { return QList{prolog(box, program, device, forked), program.text}; };
+  Result<GhostscriptOutput> run = runGhostscript(device.device, input, context);
   if (!run) return run.error();
   std::optional<ProgramError> stopped = programError(run->messages);
   if (stopped && stopped->name == u"invalidaccess" && postScript.contains("systemdict")) {
     program.writesSystem = true;
-    run = runDistiller(program, box, context);
+    run = runGhostscript(device.device, input, context);
     if (!run) return run.error();
     stopped = programError(run->messages);
   }
   const bool unfinished = stopped && stopped->finishedPages == 0;
   if (unfinished && sentence(*stopped).kind != ErrorKind::NotParsable) return sentence(*stopped);
-  if (!unfinished && (run->exitStatus != 0 || !run->output.startsWith("%PDF-"))) return unexplained(*run);
-  Result<QByteArray> pdf = firstPage(run->output, box, unfinished);
-  if (!pdf) return unfinished ? sentence(*stopped) : noPage();
-  Distilled distilled{std::move(*pdf), substitutions(run->messages) + leftOut(run->messages), {}};
+  if (!unfinished && (run->exitStatus != 0 || !run->output.startsWith(beginOf(device.device))))
+    return unexplained(*run);
+  DrawnProgram drawn{std::move(run->output), substitutions(run->messages) + leftOut(run->messages), {}};
   if (unfinished)
-    distilled.stoppedBy = sentence(*stopped).message;
+    drawn.stoppedBy = sentence(*stopped).message;
   else if (stopped)
-    distilled.warnings << QStringLiteral("what follows the picture in the file was left out");
-  return distilled;
+    drawn.warnings << QStringLiteral("what follows the picture in the file was left out");
+  return drawn;
+}
+
+Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
+  Result<DrawnProgram> drawn = drawProgram(postScript, box, {}, context);
+  if (!drawn) return drawn.error();
+  const bool unfinished = !drawn->stoppedBy.isEmpty();
+  Result<QByteArray> pdf = firstPage(drawn->output, box, unfinished);
+  if (!pdf) return unfinished ? Error{ErrorKind::NotParsable, drawn->stoppedBy} : noPage();
+  return Distilled{std::move(*pdf), std::move(drawn->warnings), std::move(drawn->stoppedBy)};
 }
 
 }  // namespace norvex::engine

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include "base/result.h"
+#include "protocol/interpreter_request.h"
 #include "worker/engine/engine.h"
 
 namespace norvex::engine {
@@ -22,6 +23,24 @@ struct Distilled {
     return stoppedBy.isEmpty() ? warnings : QStringList(stoppedBy) + warnings;
   }
 };
+
+/// Where the pages of a program go.
+struct PageDevice {
+  InterpreterDevice device = InterpreterDevice::Pdf;
+  QByteArray parameters = {};  ///< entries for setpagedevice besides the page's size
+};
+
+/// What a device has written of a program.
+struct DrawnProgram {
+  QByteArray output;
+  QStringList warnings;  ///< as Distilled has them
+  QString stoppedBy;     ///< likewise; the page may then be without a mark, for which there is no word here
+};
+
+/// Runs `postScript` as distill() does and gives what the device has written. Fails as distill(), but for
+/// what it finds in the PDF.
+[[nodiscard]] Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box,
+                                               const PageDevice& device, EngineContext& context);
 
 /// Runs `postScript` (no binary header) and gives what it draws inside `box` (default user space, points) as
 /// a page of exactly that size with the box's lower-left corner at its origin. The document cannot change the

@@ -8,18 +8,41 @@
 
 namespace norvex::engine {
 // Not quiet: what it says about fonts is handed on.
-QList<QByteArray> distillerArguments() {
+QList<QByteArray> distillerArguments(InterpreterDevice device) {
   QList<QByteArray> arguments;
   for (const char* option : distillerOptions) arguments << option;
-  arguments << QByteArray("-sDEVICE=") + distillerDevice;
+  arguments << QByteArray("-sDEVICE=") + deviceName(device);
   for (const char* stream : distillerStreams) arguments << stream;
   return arguments;
 }
 
-Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& context) {
+Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& context,
+                                                         InterpreterDevice device) {
   if (context.interpreters >= 0)
-    if (auto child = GhostscriptChild::fork(context.interpreters, context.limits)) return child;
-  return GhostscriptChild::start(distillerArguments(), context.scratchFolder, context.limits.seconds);
+    if (auto child = GhostscriptChild::fork(context.interpreters, context.limits, device)) return child;
+  return GhostscriptChild::start(distillerArguments(device), context.scratchFolder, context.limits.seconds,
+                                 device);
+}
+
+QByteArray completeOutput() {
+  return QByteArray("  { << /OutputFile (") + distilledOutput +
+         ") >> //systemdict /setpagedevice get exec } stopped pop\n";
+}
+
+Result<GhostscriptOutput> runGhostscript(InterpreterDevice device, const GhostscriptInput& input,
+                                         EngineContext& context) {
+  while (true) {
+    std::shared_ptr<GhostscriptChild> child;
+    if (device == InterpreterDevice::Pdf) child = std::exchange(context.warmGhostscript, nullptr);
+    if (!child) {
+      auto started = startDistiller(context, device);
+      if (!started) return started.error();
+      child = std::move(*started);
+    }
+    Result<GhostscriptOutput> run = child->run(input(child->isForked()), context);
+    if (run || run.error().kind != ErrorKind::Unsupported || context.interpreters < 0) return run;
+    context.interpreters = -1;  // nobody forks interpreters here: gs is started from now on
+  }
 }
 
 void warmUpGhostscript(EngineContext& context) {

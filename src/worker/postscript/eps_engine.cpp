@@ -14,6 +14,7 @@
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/whole_page.h"
 #include "worker/postscript/distill.h"
+#include "worker/postscript/separations.h"
 
 #include <algorithm>
 #include <optional>
@@ -72,6 +73,7 @@ class EpsEngine final : public DocumentEngine {
 
   Result<EngineBytes> examine(const ExamineRequest& request) override {
     if (request.what == Examination::Text) return letters(request.page);
+    if (request.what == Examination::Inks) return inks(request);
     if (request.what != Examination::Contents && request.what != Examination::Drawn)
       return DocumentEngine::examine(request);
     if (const Result<void> ready = prepareSurroundings(request.page); !ready) return ready.error();
@@ -111,6 +113,12 @@ class EpsEngine final : public DocumentEngine {
         (isMissingFontSentence(warning) ? contents.missingFonts : contents.remarks) << warning;
       return EngineBytes{encodePageContents(contents), {}};
     });
+  }
+
+  // The program itself: what a PDF of it would say otherwise is not on its plates.
+  [[nodiscard]] Result<EngineBytes> inks(const ExamineRequest& request) {
+    if (request.page != 0) return noSuchPage(request.page, 1);
+    return inksOfProgram(epsProgram(bytes_), box_, request, context_);
   }
 
   /// Of what prepareSurroundings() made.

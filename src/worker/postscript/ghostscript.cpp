@@ -3,8 +3,10 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -33,6 +35,13 @@ constexpr int kLookMilliseconds = 50;  // how often the cancel token is looked a
 struct Pipe {
   int end[2] = {-1, -1};
   [[nodiscard]] bool open() { return ::pipe2(end, O_CLOEXEC) == 0; }
+  /// For the output of the device: of plates both ends are one file in memory.
+  [[nodiscard]] bool openFor(InterpreterDevice device) {
+    if (device == InterpreterDevice::Pdf) return open();
+    end[1] = ::memfd_create("plates", MFD_CLOEXEC);
+    end[0] = end[1] < 0 ? -1 : ::fcntl(end[1], F_DUPFD_CLOEXEC, 0);
+    return end[0] >= 0;
+  }
   void close(int which) {
     if (end[which] >= 0) ::close(end[which]);
     end[which] = -1;
@@ -90,6 +99,20 @@ bool readInto(int descriptor, QByteArray& target, qsizetype maximum) {
   return got > 0;
 }
 
+// From its beginning, wherever it is written at.
+QByteArray contentsOf(const FileDescriptor& memory, qint64 size) {
+  QByteArray bytes(size, Qt::Uninitialized);
+  qint64 read = 0;
+  while (read < size) {
+    const ssize_t got = ::pread(memory.get(), bytes.data() + read, size_t(size - read), read);
+    if (got < 0 && errno == EINTR) continue;
+    if (got <= 0) break;
+    read += got;
+  }
+  bytes.truncate(read);
+  return bytes;
+}
+
 // The pieces of the input and how far they are written.
 class Feed {
  public:
@@ -133,14 +156,15 @@ Result<void> checkPatience(qint64 deadline, const EngineContext& context) {
 }  // namespace
 
 Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::start(const QList<QByteArray>& arguments,
-                                                                  const QString& scratchFolder, int seconds) {
+                                                                  const QString& scratchFolder, int seconds,
+                                                                  InterpreterDevice device) {
   const char* path = program();
   if (!path) return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript (gs) is not installed")};
   const Error failed{ErrorKind::Unsupported, QStringLiteral("Ghostscript (gs) cannot be started")};
   Pipe input;
   Pipe output;
   Pipe messages;
-  if (!input.open() || !output.open() || !messages.open()) return failed;
+  if (!input.open() || !output.openFor(device) || !messages.open()) return failed;
   QList<QByteArray> argumentTexts{QByteArrayLiteral("gs")};
   argumentTexts += arguments;
   QList<QByteArray> environmentTexts{"TMPDIR=" + QFile::encodeName(scratchFolder), "LC_ALL=C",
@@ -160,7 +184,7 @@ Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::start(const QList<QB
   std::shared_ptr<GhostscriptChild> child(new GhostscriptChild);
   child->pid_ = pid;
   child->process_.reset(int(::syscall(SYS_pidfd_open, pid, 0)));
-  child->talkThrough(input.take(1), output.take(0), messages.take(0));
+  child->talkThrough(device, input.take(1), output.take(0), messages.take(0));
   return child;
 }
 
@@ -183,26 +207,38 @@ void GhostscriptChild::end() {
 }
 
 Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::fork(int interpreters,
-                                                                 const PictureLimits& limits) {
+                                                                 const PictureLimits& limits,
+                                                                 InterpreterDevice device) {
   Pipe input, output, messages, outcome;
-  if (!input.open() || !output.open() || !messages.open() || !outcome.open())
+  if (!input.open() || !output.openFor(device) || !messages.open() || !outcome.open())
     return Error{ErrorKind::Died, QStringLiteral("there is no way to talk to Ghostscript")};
-  const InterpreterRequest request{limits, FileDescriptor(input.take(0)), FileDescriptor(output.take(1)),
-                                   FileDescriptor(messages.take(1)), FileDescriptor(outcome.take(1))};
+  const InterpreterRequest request{limits,
+                                   device,
+                                   FileDescriptor(input.take(0)),
+                                   FileDescriptor(output.take(1)),
+                                   FileDescriptor(messages.take(1)),
+                                   FileDescriptor(outcome.take(1))};
   if (const Result<void> sent = sendInterpreterRequest(interpreters, request); !sent) return sent.error();
   ::signal(SIGPIPE, SIG_IGN);
   std::shared_ptr<GhostscriptChild> child(new GhostscriptChild);
-  child->talkThrough(input.take(1), output.take(0), messages.take(0));
+  child->talkThrough(device, input.take(1), output.take(0), messages.take(0));
   child->outcome_ = outcome.take(0);
   return child;
 }
 
-void GhostscriptChild::talkThrough(int input, int output, int messages) {
+void GhostscriptChild::talkThrough(InterpreterDevice device, int input, int output, int messages) {
+  const bool isMemory = device == InterpreterDevice::Plates;
   input_ = input;
-  output_ = output;
+  output_ = isMemory ? -1 : output;
+  memory_.reset(isMemory ? output : -1);
   messages_ = messages;
   for (const int descriptor : {input_, output_, messages_})
-    ::fcntl(descriptor, F_SETFL, ::fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+    if (descriptor >= 0) ::fcntl(descriptor, F_SETFL, ::fcntl(descriptor, F_GETFL) | O_NONBLOCK);
+}
+
+qint64 GhostscriptChild::memorySize() const {
+  struct stat facts {};
+  return memory_.valid() && ::fstat(memory_.get(), &facts) == 0 ? facts.st_size : 0;
 }
 
 Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
@@ -220,6 +256,7 @@ Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
   if (const Error end = errorOfEnd(*status); end.kind == ErrorKind::Limit) return end;
   if (WIFEXITED(*status)) {
     collected.exitStatus = WEXITSTATUS(*status);
+    if (memory_.valid()) collected.output = contentsOf(memory_, memorySize());
     return collected;
   }
   if (WTERMSIG(*status) == SIGXFSZ) return tooManyScratchFiles();
@@ -251,7 +288,7 @@ Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadl
     // A document may print as much as it likes; how it ended comes last.
     if (collected.messages.size() > limits::maximumProgramMessages)
       collected.messages.remove(0, collected.messages.size() - limits::maximumProgramMessages);
-    if (collected.output.size() >= maximum)
+    if (std::max<qint64>(collected.output.size(), memorySize()) >= maximum)
       return Error{ErrorKind::Limit,
                    QStringLiteral("the picture is larger than the memory that it was granted")};
   }

@@ -9,6 +9,7 @@
 
 #include "base/file_descriptor.h"
 #include "base/result.h"
+#include "protocol/interpreter_request.h"
 #include "worker/engine/engine.h"
 
 namespace norvex::engine {
@@ -22,21 +23,22 @@ struct GhostscriptOutput {
 /// One run of gs. A started child initialises itself (about 100 ms) and then waits for its input, so it can
 /// be started before its document is there. It gets a process group of its own, ends with this process and
 /// inherits its limits and its confinement, and seals itself as sealStartedProgram() says; the destructor
-/// kills the group. What it needs besides pipes: fork, execve of gs, prctl, setpgid, pidfd_send_signal,
+/// kills the group. What it writes goes through a pipe, plates into memory, because their device goes back to
+/// what it has written. What it needs besides: fork, execve of gs, prctl, setpgid, pidfd_send_signal,
 /// wait4. Single-threaded. Sets SIGPIPE to be ignored in this process.
 class GhostscriptChild {
  public:
   /// `arguments` follow the program's name; `seconds` of wall time will be granted. TMPDIR is the context's
   /// scratch folder; the environment is empty besides. Fails with Unsupported when gs cannot be started.
-  [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> start(const QList<QByteArray>& arguments,
-                                                                       const QString& scratchFolder,
-                                                                       int seconds = 120);
+  [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> start(
+      const QList<QByteArray>& arguments, const QString& scratchFolder, int seconds = 120,
+      InterpreterDevice device = InterpreterDevice::Pdf);
   /// The same from norvex-postscript, which has it initialised and gives it limits, a confinement and a
-  /// scratch folder of its own; what it writes is PDF. `interpreters` is asked for it, see
+  /// scratch folder of its own. `interpreters` is asked for it, see
   /// protocol/interpreter_request.h. It takes no fork and no execve here. Never waits. Fails with Died when
   /// nobody listens there.
-  [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> fork(int interpreters,
-                                                                      const PictureLimits& limits);
+  [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> fork(
+      int interpreters, const PictureLimits& limits, InterpreterDevice device = InterpreterDevice::Pdf);
   GhostscriptChild(const GhostscriptChild&) = delete;
   GhostscriptChild& operator=(const GhostscriptChild&) = delete;
   ~GhostscriptChild();
@@ -50,18 +52,21 @@ class GhostscriptChild {
 
  private:
   GhostscriptChild() = default;
-  void talkThrough(int input, int output, int messages);
+  void talkThrough(InterpreterDevice device, int input, int output, int messages);
   [[nodiscard]] Result<void> pump(const QList<QByteArray>& input, qint64 deadline,
                                   const EngineContext& context, GhostscriptOutput& collected);
   /// Its status as waitpid() gives it.
   [[nodiscard]] Result<int> reap(qint64 deadline, const EngineContext& context);
+  /// What has been written so far into memory_; 0 without it.
+  [[nodiscard]] qint64 memorySize() const;
   [[nodiscard]] Result<int> awaitOutcome(qint64 deadline, const EngineContext& context);
   void end();
   int pid_ = -1;            ///< of a started one
   int outcome_ = -1;        ///< of a forked one: the pipe that tells its status, and its life line
   FileDescriptor process_;  ///< of pid_: a confined process signals nobody by number
   int input_ = -1;
-  int output_ = -1;
+  int output_ = -1;  ///< a pipe, or:
+  FileDescriptor memory_;
   int messages_ = -1;
 };
 

@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <poll.h>
 #include <sys/socket.h>
 
 #include <csignal>
@@ -14,6 +15,7 @@
 #include "worker/postscript/distill.h"
 #include "worker/postscript/distiller.h"
 #include "worker/postscript/ghostscript.h"
+#include "worker/postscript/separations.h"
 
 using namespace norvex;
 using namespace norvex::engine;
@@ -104,6 +106,80 @@ class InterpreterProgramTest : public QObject {
     QVERIFY2(started.ok(), qPrintable(errorOf(started).message));
     QCOMPARE(forked->pdf, started->pdf);
     QCOMPARE(forked->warnings, started->warnings);
+  }
+
+  void itsPlatesAreThoseOfGs_data() {
+    QTest::addColumn<QByteArray>("program");
+    QTest::newRow("process inks") << kDrawing;
+    QTest::newRow("a spot ink that overprints") << kDrawing +
+                                                       "true setoverprint [/Separation (Gold) /DeviceCMYK {0 "
+                                                       "exch dup 0}] setcolorspace 0.5 setcolor\n"
+                                                       "10 5 30 30 rectfill showpage\n";
+    QTest::newRow("two pages") << kDrawing + "showpage 3 3 9 9 rectfill showpage\n";
+    QTest::newRow("an error behind the page") << kDrawing + "showpage nosuch\n";
+  }
+  void itsPlatesAreThoseOfGs() {
+    QFETCH(QByteArray, program);
+    Interpreters interpreters;
+    EngineContext& context = interpreters.context();
+    const ExamineRequest request{Examination::Inks, 0, 100, true};
+    const auto forked = inksOfProgram(program, kBox, request, context);
+    QVERIFY2(forked.ok(), qPrintable(forked ? QString() : forked.error().message));
+    QVERIFY(context.interpreters >= 0);
+    const auto pdf = distill(program, kBox, context);
+    QVERIFY(pdf.ok());
+    const auto forkedPdf = inksOfPdf(pdf->pdf, kBox.size(), request, context);
+    QVERIFY2(forkedPdf.ok(), qPrintable(forkedPdf ? QString() : forkedPdf.error().message));
+    QVERIFY(context.interpreters >= 0);
+    context.interpreters = -1;
+    const auto started = inksOfProgram(program, kBox, request, context);
+    const auto startedPdf = inksOfPdf(pdf->pdf, kBox.size(), request, context);
+    QVERIFY(started.ok() && startedPdf.ok());
+    QVERIFY(forked->bytes == started->bytes);
+    QVERIFY(forkedPdf->bytes == startedPdf->bytes);
+    QCOMPARE(forked->report.warnings, started->report.warnings);
+  }
+
+  void anExpectedProgramIsStartedOnceSomebodyAsks() {
+    const QTemporaryDir root;
+    InterpreterProgram program(root.path().toStdString(), NORVEX_BUILD_DIR "/norvex-postscript");
+    QCOMPARE(program.asking(), -1);
+    program.expect();
+    QCOMPARE(program.pid(), 0);
+    QVERIFY(program.asking() >= 0 && program.waitingRequests() >= 0);
+    pollfd waiting = {program.waitingRequests(), POLLIN, 0};
+    QCOMPARE(::poll(&waiting, 1, 0), 0);
+    const auto child = GhostscriptChild::fork(program.asking(), {});
+    QVERIFY(child.ok());
+    QCOMPARE(::poll(&waiting, 1, 0), 1);
+    program.start();
+    QVERIFY(program.pid() != 0);
+    QCOMPARE(program.waitingRequests(), -1);
+    const auto run = (*child)->run({"(it runs) = flush quit\n"}, EngineContext());
+    QVERIFY(run.ok() && run->messages.contains("it runs\n"));
+    const int asking = program.asking();
+    program.expect();  // it runs already
+    QCOMPARE(program.asking(), asking);
+    QCOMPARE(program.waitingRequests(), -1);
+  }
+
+  void anExpectedProgramThatIsBrokenIsToldToWhoeverAsks() {
+    const QTemporaryDir root;
+    InterpreterProgram program(root.path().toStdString(), "/bin/false");
+    for (int starts = 0; starts < 20; ++starts) {
+      program.expect();
+      if (program.asking() < 0) break;
+      const auto child = GhostscriptChild::fork(program.asking(), {});
+      program.start();
+      QVERIFY(child.ok());
+      const auto run = (*child)->run({"quit\n"}, EngineContext());
+      QVERIFY(!run.ok());
+      QCOMPARE(run.error().kind, ErrorKind::Unsupported);
+      const int ended = program.pid();
+      (void)kit::eventually([ended] { return ended == 0 || kit::stateOf(ended) == 'Z'; });
+    }
+    QCOMPARE(program.asking(), -1);
+    QCOMPARE(program.waitingRequests(), -1);
   }
 
   void whatItRefusesIsWhatGsRefuses_data() {

@@ -1,0 +1,80 @@
+#include "cli/inks/plate_files.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QImage>
+#include <QSet>
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/atomic_file.h"
+#include "base/file_name.h"
+
+namespace norvex {
+namespace {
+
+constexpr qsizetype kLongestInk = 60;
+
+/// Letters, numbers and what stands between them.
+QString safeName(const QString& ink) {
+  QString safe;
+  for (const QChar c : ink.left(kLongestInk)) {
+    const bool isSafe = c.isLetterOrNumber() || c == u' ' || c == u'-' || c == u'_' || c == u'+' || c == u'.';
+    safe += isSafe ? c : QChar(u'_');
+  }
+  safe = safe.simplified();
+  while (safe.startsWith(u'.')) safe.remove(0, 1);
+  while (safe.endsWith(u'.')) safe.chop(1);
+  return safe.isEmpty() ? QStringLiteral("ink") : safe;
+}
+
+}  // namespace
+
+QStringList plateNames(const QString& base, const PageInks& page) {
+  QStringList names;
+  QSet<QString> taken;  // some systems do not tell capitals apart
+  for (const Ink& ink : page.inks) {
+    const QString wanted = safeName(ink.name);
+    QString name = wanted;
+    for (int number = 2; taken.contains(name.toLower()); ++number)
+      name = QStringLiteral("%1 %2").arg(wanted).arg(number);
+    taken.insert(name.toLower());
+    names << QStringLiteral("%1-%2.png").arg(base, name);
+  }
+  return names;
+}
+
+QByteArray platePng(const PageInks& page, qsizetype ink) {
+  QImage image(page.pixels, QImage::Format_Grayscale8);
+  const uchar* from = page.plate(ink);
+  for (int y = 0; y < image.height(); ++y, from += image.width())
+    std::transform(from, from + image.width(), image.scanLine(y),
+                   [](uchar amount) { return uchar(255 - amount); });
+  const int perMetre = int(std::lround(page.dpi / 0.0254));
+  image.setDotsPerMeterX(perMetre);
+  image.setDotsPerMeterY(perMetre);
+  QByteArray png;
+  QBuffer buffer(&png);
+  return buffer.open(QIODevice::WriteOnly) && image.save(&buffer, "PNG") ? png : QByteArray();
+}
+
+Result<QStringList> writePlates(const PageInks& page, const QString& folder, const QString& base,
+                                bool force) {
+  QStringList paths;
+  for (const QString& name : plateNames(base, page)) paths << QDir(folder).filePath(name);
+  for (const QString& path : paths)
+    if (!force && fileExists(path))
+      return Error{ErrorKind::CannotWrite,
+                   QStringLiteral("%1 exists already (--force overwrites it)").arg(path)};
+  if (!QDir().mkpath(folder))
+    return Error{ErrorKind::CannotWrite, QStringLiteral("the folder %1 cannot be made").arg(folder)};
+  for (qsizetype i = 0; i < paths.size(); ++i) {
+    const Result<void> written =
+        writeFileAtomically(paths[i], platePng(page, i), force ? IfExists::Replace : IfExists::Fail);
+    if (!written) return written.error();
+  }
+  return paths;
+}
+
+}  // namespace norvex

@@ -1,0 +1,73 @@
+// `norvex inks`: the inks of a page, and their plates.
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "base/interruption.h"
+#include "base/time_limit.h"
+#include "cli/inks/ink_report.h"
+#include "cli/inks/plate_files.h"
+#include "cli/input_file.h"
+#include "cli/job.h"
+#include "cli/json_output.h"
+#include "cli/value_reader.h"
+#include "picture/open_picture.h"
+#include "protocol/limits.h"
+#include "types/type_identification.h"
+
+namespace norvex {
+namespace {
+
+Result<SeparatedPage> inksOf(PictureService& service, const PictureSource& source,
+                             const PictureLimits& limits, const SeparationRequest& request) {
+  const Result<PictureKind> kind = pictureKindOf(source.bytes, source.typeIdentifier);
+  if (!kind) return kind.error();
+  const Interruption interruption;
+  const TimeLimit time(std::chrono::seconds(limits.seconds), interruption.token());
+  const auto process = service.open(source.bytes, *kind, limits);
+  Result<SeparatedPage> page = separatedPage(*process, *kind, request, time.token());
+  if (!page) return time.explained(page.error());
+  return page;
+}
+
+/// In front of the inks' names.
+QString baseOfPlates(const Arguments& arguments) {
+  const QString& file = arguments.files.first();
+  const QString name = file == u"-" ? QStringLiteral("plate") : QFileInfo(file).completeBaseName();
+  return arguments.has(Option::Page) ? name + u'-' + arguments.values.value(Option::Page) : name;
+}
+
+}  // namespace
+
+ExitCode Job::inks(const Arguments& arguments) {
+  ValueReader values(arguments);
+  const PictureLimits limits = values.limits();
+  SeparationRequest request;
+  request.dpi = values.number(Option::Dpi, request.dpi, 1, limits::maximumDpi);
+  request.page = values.integer(Option::Page, 1, 1, limits::maximumPageNumber) - 1;
+  request.overprint = arguments.has(Option::Overprint);
+  if (!values.complaint().isEmpty()) return complain(Command::Inks, values.complaint());
+  const QString& file = arguments.files.first();
+  const Result<QByteArray> bytes = readInput(console_, file);
+  if (!bytes) return fail(file, bytes.error());
+  const Result<SeparatedPage> page = inksOf(service_, sourceOfInput(*bytes, file), limits, request);
+  if (!page) return fail(file, page.error());
+  QStringList plates;
+  if (arguments.has(Option::Plates)) {
+    const Result<QStringList> written = writePlates(page->inks, arguments.values.value(Option::Plates),
+                                                    baseOfPlates(arguments), arguments.has(Option::Force));
+    if (!written) return fail(file, written.error());
+    plates = *written;
+  }
+  if (!arguments.has(Option::Json)) {
+    for (const QString& warning : page->warnings)
+      console_.message(QStringLiteral("norvex: %1: %2").arg(file, warning));
+    return show(visible(inkLines(*page), true));
+  }
+  QJsonObject object = inkObject(*page, plates);
+  object.insert("file", file);
+  object.insert("page", request.page + 1);
+  return show(QString::fromUtf8(jsonOutput(QJsonDocument(QJsonArray{object}))));
+}
+
+}  // namespace norvex

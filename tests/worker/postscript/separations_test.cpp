@@ -1,0 +1,323 @@
+// Plates, beside those that Ghostscript's other separating device writes of the same files.
+#include "worker/postscript/separations.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+#include "kit/test_main.h"
+#include "protocol/page_inks.h"
+#include "worker/kit/made_pdf.h"
+#include "worker/pages/pdf_engine.h"
+#include "worker/postscript/eps_engine.h"
+#include "worker/postscript/psd_plates.h"
+#include "worker/postscript/separated_pages.h"
+#include "worker/tiff/tiff_preview.h"
+
+using namespace norvex;
+using namespace norvex::engine;
+
+namespace {
+
+/// A page of 60 × 40 points.
+QByteArray eps(const QByteArray& drawing) {
+  return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 60 40\n%%EndComments\n" + drawing +
+         "\nshowpage\n%%EOF\n";
+}
+
+const QByteArray kProcess =
+    "1 0.25 0 0.1 setcmykcolor 2 3 20.5 11.25 rectfill 0.3 setgray 30 20 15 12 rectfill\n"
+    "0.2 0.4 0.6 setrgbcolor 5 30 moveto 25 38 lineto 28 25 lineto fill\n";
+const QByteArray kSpot =
+    "[/Separation (Gold Foil) /DeviceCMYK {dup 0.2 mul exch dup 0.4 mul exch 0.9 mul 0}] setcolorspace\n"
+    "0.6 setcolor 5 5 30 20 rectfill 1 setcolor 40 5 10 10 rectfill\n";
+const QByteArray kOverprinting =
+    kSpot +
+    "true setoverprint 0 0.7 0 0 setcmykcolor 10 10 40 20 rectfill\n"
+    "[/Separation (Blue) /DeviceCMYK {dup 0}] setcolorspace 0.5 setcolor 0 0 20 20 "
+    "rectfill\n";
+const QByteArray kDeviceN =
+    "[/DeviceN [/Cyan (Orange) (Gold Foil)] /DeviceCMYK {pop pop 0 0 0}] setcolorspace\n"
+    "0.3 0.8 0.25 setcolor 5 5 40 30 rectfill 0 0 0 1 setcmykcolor 0 0 9 9 rectfill\n";
+
+/// An overprinting spot tint over process colour, and a name that is UTF-8.
+QByteArray pdf() {
+  return kit::onePage(
+      "0.5 0 1 0 k 0 0 30 40 re f /G gs /S cs 0.75 scn 10 10 40 20 re f",
+      "/MediaBox [0 0 60 40] /Resources << /ColorSpace << /S [/Separation /Gr#C3#BCn /DeviceCMYK << "
+      "/FunctionType 2 /Domain [0 1] /C0 [0 0 0 0] /C1 [1 0 0.8 0.2] /N 1 >>] >> /ExtGState << /G << "
+      "/Type /ExtGState /OP true /op true /OPM 1 >> >> >>");
+}
+
+class Opened {
+ public:
+  Opened(PictureKind kind, const QByteArray& bytes) {
+    context_.scratchFolder = folder_.path();
+    context_.limits.seconds = 60;
+    auto engine = kind == PictureKind::Eps ? openEps(bytes, context_)
+                                           : withInks(openPdf(bytes, context_), bytes, context_);
+    if (engine) engine_ = std::move(*engine);
+  }
+  DocumentEngine& engine() { return *engine_; }
+  EngineContext& context() { return context_; }
+  Result<PageInks> inks(double dpi = 72, bool overprint = true, int page = 0) {
+    const Result<EngineBytes> answer = engine_->examine({Examination::Inks, page, dpi, overprint});
+    if (!answer) return answer.error();
+    warnings = answer->report.warnings;
+    return decodePageInks(answer->bytes);
+  }
+  QStringList warnings;
+
+ private:
+  QTemporaryDir folder_;
+  EngineContext context_;
+  std::unique_ptr<DocumentEngine> engine_;
+};
+
+/// The plates by name, as amounts of ink, as the other device has them.
+QMap<QString, QByteArray> platesOfGs(const QByteArray& document, double dpi, bool overprint) {
+  const QTemporaryDir folder;
+  QFile file(folder.filePath("document"));
+  if (!file.open(QIODevice::WriteOnly) || file.write(document) != document.size()) return {};
+  file.close();
+  QProcess gs;
+  gs.start("gs", {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=tiffsep",
+                  QStringLiteral("-r%1").arg(dpi), overprint ? "-dOverprint=/enable" : "-dOverprint=/disable",
+                  "-o", folder.filePath("p.tif"), file.fileName()});
+  if (!gs.waitForFinished(60000) || gs.exitCode() != 0) return {};
+  QMap<QString, QByteArray> plates;
+  for (const QString& name : QDir(folder.path()).entryList({"p(*).tif"})) {
+    QFile plate(folder.filePath(name));
+    if (!plate.open(QIODevice::ReadOnly)) return {};
+    const auto samples = decodeTiff(plate.readAll(), PictureLimits());
+    if (!samples) return {};
+    QByteArray inked = samples->data;
+    for (char& sample : inked) sample = char(255 - uchar(sample));
+    // It writes letters beyond ASCII as addresses on the web have them.
+    const QByteArray ink = QByteArray::fromPercentEncoding(name.mid(2, name.size() - 7).toUtf8());
+    plates.insert(QString::fromUtf8(ink), inked);
+  }
+  return plates;
+}
+
+QMap<QString, QByteArray> platesOf(const PageInks& page) {
+  QMap<QString, QByteArray> plates;
+  for (qsizetype i = 0; i < page.inks.size(); ++i)
+    plates.insert(page.inks[i].name,
+                  QByteArray(reinterpret_cast<const char*>(page.plate(i)), page.plateBytes()));
+  return plates;
+}
+
+QString errorOf(const Result<PageInks>& page) {
+  return page ? QString() : page.error().message;
+}
+
+const Ink* inkNamed(const PageInks& page, const char* name) {
+  const auto found = std::find_if(page.inks.begin(), page.inks.end(),
+                                  [&](const Ink& ink) { return ink.name == QString::fromUtf8(name); });
+  return found == page.inks.end() ? nullptr : &*found;
+}
+
+/// A file of two pixels with one spot channel, by hand.
+QByteArray psd(const QByteArray& resources,
+               const QByteArray& samples = QByteArray("\xff\x00", 2).repeated(5)) {
+  const auto number = [](quint32 value) {
+    return QByteArray(1, char(value >> 24)) + char(value >> 16) + char(value >> 8) + char(value);
+  };
+  return QByteArray("8BPS\0\1\0\0\0\0\0\0\0\5", 14) + number(1) + number(2) + QByteArray("\0\x08\0\4", 4) +
+         number(0) + number(quint32(resources.size())) + resources + number(0) + QByteArray("\0\0", 2) +
+         samples;
+}
+
+const QByteArray kNames("8BIM\3\xee\0\0\0\0\0\5\4Gold\0", 18);
+const QByteArray kColours("8BIM\3\xef\0\0\0\0\0\x0e\0\2\xff\xff\xcc\xcc\0\0\x99\x99\0\0\2\0", 26);
+
+}  // namespace
+
+class SeparationsTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void platesAreThoseOfTheOtherDevice_data() {
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<int>("inks");
+    const auto row = [](const char* name, const QByteArray& drawing, int inks) {
+      QTest::newRow(name) << int(PictureKind::Eps) << eps(drawing) << inks;
+    };
+    row("process colours", kProcess, 4);
+    row("a spot ink and its tint", kSpot, 5);
+    row("overprinting", kOverprinting, 6);
+    row("several inks in a colour space", kDeviceN, 6);
+    row("all inks", "[/Separation /All /DeviceGray {1 exch sub}] setcolorspace 0.5 setcolor 3 3 9 9 rectfill",
+        4);
+    row("nothing", "", 4);
+    QTest::newRow("a PDF") << int(PictureKind::Pdf) << pdf() << 5;
+  }
+  void platesAreThoseOfTheOtherDevice() {
+    QFETCH(int, kind);
+    QFETCH(QByteArray, document);
+    QFETCH(int, inks);
+    Opened opened(PictureKind(kind), document);
+    for (const double dpi : {72.0, 150.0})
+      for (const bool overprint : {true, false}) {
+        const Result<PageInks> page = opened.inks(dpi, overprint);
+        QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+        QCOMPARE(page->dpi, dpi);
+        QCOMPARE(page->overprint, overprint);
+        QCOMPARE(page->inks.size(), inks);
+        const QMap<QString, QByteArray> theirs = platesOfGs(document, dpi, overprint);
+        QCOMPARE(platesOf(*page).keys(), theirs.keys());
+        QVERIFY(platesOf(*page) == theirs);
+      }
+  }
+
+  void overprintingIsSimulatedOnlyWhenItIsAskedFor() {
+    Opened opened(PictureKind::Eps, eps(kOverprinting));
+    const Result<PageInks> with = opened.inks(72, true), without = opened.inks(72, false);
+    QVERIFY(with.ok() && without.ok());
+    // Beneath the magenta the gold stays, or it is knocked out.
+    QVERIFY(inkNamed(*with, "Gold Foil")->coverage > inkNamed(*without, "Gold Foil")->coverage + 0.05);
+    QCOMPARE(inkNamed(*with, "Magenta")->coverage > 0, true);
+  }
+
+  void aSpotInkHasItsNameItsTintAndWhatStandsForIt() {
+    Opened opened(PictureKind::Eps, eps(kSpot));
+    const Result<PageInks> page = opened.inks();
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    QCOMPARE(page->pixels, QSize(60, 40));
+    const Ink& gold = page->inks.at(4);
+    QCOMPARE(gold.name, "Gold Foil");
+    QVERIFY(gold.isSpot);
+    QVERIFY(gold.alternate == (ProcessInks{51, 102, 230, 0}));
+    QCOMPARE(gold.coverage, (600.0 + 100) / 2400);
+    QCOMPARE(int(page->plate(4)[30 * 60 + 10]), 153);  // 60 %
+    QCOMPARE(int(page->plate(4)[30 * 60 + 45]), 255);
+    QCOMPARE(int(page->plate(4)[0]), 0);
+    QVERIFY(std::abs(gold.amount - (600 * 0.6 + 100) / 2400) < 1.0e-9);
+    for (int process = 0; process < 4; ++process) QCOMPARE(page->inks[process].coverage, 0.0);
+  }
+
+  void aNameOfAPdfIsUtf8() {
+    Opened opened(PictureKind::Pdf, pdf());
+    const Result<PageInks> page = opened.inks();
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    const Ink* green = inkNamed(*page, "Grün");
+    QVERIFY(green != nullptr);
+    QVERIFY(green->alternate == (ProcessInks{255, 0, 204, 51}));
+  }
+
+  void aPdfIsSeparatedAsItIsShown() {
+    const QByteArray document = kit::onePage("0 0 0 1 k 10 20 30 10 re f",
+                                             "/MediaBox [0 0 100 100] /CropBox [10 20 40 30] /Rotate 90");
+    Opened opened(PictureKind::Pdf, document);
+    const Result<PageInks> page = opened.inks();
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    QCOMPARE(page->pixels, QSize(10, 30));
+    QCOMPARE(inkNamed(*page, "Black")->coverage, 1.0);
+  }
+
+  void everyPageOfAPdfHasItsOwnPlates() {
+    const QByteArray document =
+        kit::madePdf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 >>",
+                      "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 20 10] /Contents 5 0 R >>",
+                      "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 30 10] /Contents 6 0 R >>",
+                      kit::stream("1 0 0 0 k 0 0 20 10 re f"), kit::stream("0 1 0 0 k 0 0 15 10 re f")});
+    Opened opened(PictureKind::Pdf, document);
+    const Result<PageInks> second = opened.inks(72, true, 1);
+    QVERIFY2(second.ok(), qPrintable(errorOf(second)));
+    QCOMPARE(second->pixels, QSize(30, 10));
+    QCOMPARE(second->inks[0].coverage, 0.0);
+    QCOMPARE(second->inks[1].coverage, 0.5);
+    const Result<PageInks> third = opened.inks(72, true, 2);
+    QVERIFY(!third);
+    QCOMPARE(third.error().kind, ErrorKind::Unsupported);
+  }
+
+  void onlyTheFirstPageOfAProgramCounts() {
+    Opened opened(PictureKind::Eps, eps("1 0 0 0 setcmykcolor 0 0 60 40 rectfill showpage\n"
+                                        "0 1 0 0 setcmykcolor 0 0 60 40 rectfill"));
+    const Result<PageInks> page = opened.inks();
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    QCOMPARE(page->inks[0].coverage, 1.0);
+    QCOMPARE(page->inks[1].coverage, 0.0);
+  }
+
+  void aProgramCannotChangeItsPage() {
+    Opened opened(
+        PictureKind::Eps,
+        eps("<< /PageSize [500 500] /HWResolution [10 10] >> setpagedevice initgraphics\n" + kProcess));
+    Opened plain(PictureKind::Eps, eps(kProcess));
+    const Result<PageInks> page = opened.inks(), expected = plain.inks();
+    QVERIFY(page.ok() && expected.ok());
+    QCOMPARE(page->pixels, QSize(60, 40));
+    QVERIFY(page->plates == expected->plates);
+  }
+
+  void aProgramThatStopsIsAnError() {
+    Opened opened(PictureKind::Eps, eps(kProcess + "nosuchoperator"));
+    const Result<PageInks> page = opened.inks();
+    QVERIFY(!page);
+    QCOMPARE(page.error().kind, ErrorKind::NotParsable);
+    QVERIFY(page.error().message.contains("undefined"));
+  }
+
+  void tooManyPixelsAreALimit() {
+    Opened ofProgram(PictureKind::Eps, eps(kProcess)), ofPdf(PictureKind::Pdf, pdf());
+    for (Opened* opened : {&ofProgram, &ofPdf}) {
+      const Result<PageInks> page = opened->inks(20000);
+      QVERIFY(!page);
+      QCOMPARE(page.error().kind, ErrorKind::Limit);
+    }
+  }
+
+  void theOtherCallsGoToThePages() {
+    Opened opened(PictureKind::Pdf, pdf());
+    DocumentEngine& engine = opened.engine();
+    QCOMPARE(engine.facts()->pageBounds.first(), QRectF(0, 0, 60, 40));
+    RenderRequest request;
+    request.pixelSize = QSize(6, 4);
+    request.pictureToDevice = AffineTransform(0.1, 0, 0, -0.1, 0, 4);
+    QVERIFY(engine.render(request).ok());
+    QVERIFY(engine.pdf(PdfRequest()).ok());
+    QVERIFY(engine.examine({Examination::Contents, 0}).ok());
+  }
+
+  void aPhotoshopFileIsReadByItsChannels() {
+    const Result<PageInks> page = platesOfPsd(psd(kNames + kColours));
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    QCOMPARE(page->pixels, QSize(2, 1));
+    QCOMPARE(page->inks.size(), 5);
+    QCOMPARE(page->inks[4].name, "Gold");
+    QVERIFY(page->inks[4].alternate == (ProcessInks{0, 51, 255, 102}));
+    QCOMPARE(page->plates, QByteArray("\x00\xff", 2).repeated(5));
+    QCOMPARE(page->inks[4].coverage, 0.5);
+    QVERIFY(platesOfPsd(psd(kNames + kColours) + "8BPS another page").ok());
+    QVERIFY(!platesOfPsd(psd(kNames))->inks[4].alternate);
+  }
+
+  void anotherPhotoshopFileIsRefused() {
+    const QByteArray good = psd(kNames + kColours);
+    for (qsizetype length = 0; length < good.size(); ++length)
+      QVERIFY2(!platesOfPsd(good.left(length)), qPrintable(QString::number(length)));
+    const auto changed = [&](qsizetype at, char byte) {
+      return QByteArray(good).replace(at, 1, QByteArray(1, byte));
+    };
+    QVERIFY(!platesOfPsd(changed(0, '9')));
+    QVERIFY(!platesOfPsd(changed(5, 2)));    // version
+    QVERIFY(!platesOfPsd(changed(13, 3)));   // fewer channels than process inks
+    QVERIFY(!platesOfPsd(changed(13, 6)));   // more than it has
+    QVERIFY(!platesOfPsd(changed(17, 0)));   // no rows
+    QVERIFY(!platesOfPsd(changed(23, 16)));  // other samples
+    QVERIFY(!platesOfPsd(changed(25, 3)));   // other colours
+    QVERIFY(!platesOfPsd(psd({})));          // a channel without a name
+    const Result<PageInks> huge = platesOfPsd(changed(14, 0x7f));
+    QVERIFY(!huge);
+    QCOMPARE(huge.error().kind, ErrorKind::Limit);
+  }
+};
+
+NORVEX_TEST(SeparationsTest)
+#include "separations_test.moc"

@@ -10,6 +10,7 @@
 #include "cli/input_file.h"
 #include "cli/job.h"
 #include "cli/json_output.h"
+#include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
 #include "picture/open_picture.h"
 #include "protocol/limits.h"
@@ -19,12 +20,15 @@ namespace norvex {
 namespace {
 
 Result<SeparatedPage> inksOf(PictureService& service, const PictureSource& source,
-                             const PictureLimits& limits, const SeparationRequest& request) {
+                             const ReaderOptions& reader, const PictureLimits& limits,
+                             const SeparationRequest& request) {
   const Result<PictureKind> kind = pictureKindOf(source.bytes, source.typeIdentifier);
   if (!kind) return kind.error();
   const Interruption interruption;
   const TimeLimit time(std::chrono::seconds(limits.seconds), interruption.token());
-  const auto process = service.open(source.bytes, *kind, limits);
+  const Result<PictureBytes> read = documentAsOptioned(service, source, reader, limits, time.token());
+  if (!read) return time.explained(read.error());
+  const auto process = service.open(read->bytes, *kind, limits);
   Result<SeparatedPage> page = separatedPage(*process, *kind, request, time.token());
   if (!page) return time.explained(page.error());
   return page;
@@ -47,10 +51,12 @@ ExitCode Job::inks(const Arguments& arguments) {
   request.page = values.integer(Option::Page, 1, 1, limits::maximumPageNumber) - 1;
   request.overprint = arguments.has(Option::Overprint);
   if (!values.complaint().isEmpty()) return complain(Command::Inks, values.complaint());
+  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
+  if (!reader) return complain(Command::Inks, reader.error().message);
   const QString& file = arguments.files.first();
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
-  const Result<SeparatedPage> page = inksOf(service_, sourceOfInput(*bytes, file), limits, request);
+  const Result<SeparatedPage> page = inksOf(service_, sourceOfInput(*bytes, file), *reader, limits, request);
   if (!page) return fail(file, page.error());
   QStringList plates;
   if (arguments.has(Option::Plates)) {

@@ -104,9 +104,9 @@ inline constexpr Commands openingCommands = only(Command::Info) | only(Command::
                                             only(Command::Check) | only(Command::Repair) |
                                             only(Command::Inks) | only(Command::Print) | only(Command::Text);
 /// Those that open a document whole, as a reader of it would.
-inline constexpr Commands readingCommands = only(Command::Info) | only(Command::Convert) |
-                                            only(Command::Check) | only(Command::Print) |
-                                            only(Command::Thumbnail) | only(Command::Text);
+inline constexpr Commands readingCommands =
+    only(Command::Info) | only(Command::Convert) | only(Command::Check) | only(Command::Print) |
+    only(Command::Thumbnail) | only(Command::Text) | only(Command::Inks);
 /// Those that do one thing with each file. A run over an archive is such a command for each of its files, so
 /// that a command gets lists, trees, states and the rest by standing here.
 inline constexpr Commands archiveCommands = only(Command::Info) | only(Command::Preview) |
@@ -185,7 +185,7 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
     {Option::Jobs, archiveCommands, 0, "jobs", "N", "", "files at a time (as many as there are cores)"},
     {Option::PasswordFile, readingCommands, 0, "password-file", "FILE", "",
      "its first line opens PDFs that want a password; - is standard input"},
-    {Option::Layers, only(Command::Convert) | only(Command::Print), 0, "layers", "LIST", "",
+    {Option::Layers, only(Command::Convert) | only(Command::Inks) | only(Command::Print), 0, "layers", "LIST", "",
      "show and hide layers of a PDF: LAYER=on,LAYER=off, by name or number (norvex info lists them)"},
     {Option::Timeout, openingCommands, 0, "timeout", "S", "", "seconds that a picture may take (120)"},
     {Option::Memory, openingCommands, 0, "memory", "MIB", "", "memory that a picture may take (1024)"},

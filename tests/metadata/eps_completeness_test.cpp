@@ -70,6 +70,8 @@ class EpsCompletenessTest : public QObject {
     QTest::newRow("between two lines") << upTo("1 0 0");
     QTest::newRow("unstructured, in a procedure") << kHeader + "/d { 0 0 moveto";
     QTest::newRow("unstructured, in a saved state") << kHeader + "gsave 0 0 moveto 9 9 lineto\nstr";
+    QTest::newRow("unstructured, in a saved memory") << kHeader + "save 0 0 moveto 9 9 lineto\nstr";
+    QTest::newRow("unstructured, in a dictionary") << kHeader + "9 dict begin 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("in an interchange preview") << kHeader + "%%BeginPreview: 8 2 1 2\n%FF\n";
     QTest::newRow("in private data") << kWhole + "%AI9_PrivateDataBegin\n%abc";
     QTest::newRow("cut before it became binary") << binary("II*", upTo("setrgbcolor"));

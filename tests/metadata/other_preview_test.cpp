@@ -38,6 +38,13 @@ class OtherPreviewTest : public QObject {
     QVERIFY(metafileOf(testdata::binaryEps(kProgram)).isEmpty());
     QVERIFY(metafileOf(kProgram).isEmpty());
   }
+
+  void aPreviewMayBeginAFile() {
+    const auto preview = otherPreview("%%BeginPreview: 8 1 1 1\n%FF\n%%EndPreview\n");
+    QVERIFY(preview && *preview);
+    QCOMPARE((*preview)->pixelsWide, 8);
+  }
+
   void whyItIsNotShown_data() {
     QTest::addColumn<QByteArray>("source");
     QTest::addColumn<QString>("sentence");

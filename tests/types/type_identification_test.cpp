@@ -15,6 +15,7 @@ const QString kSvg = "public.svg-image";
 const QString kSvgz = "com.Tembrolix.svgz";
 
 const QByteArray kEpsText("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 1 1\n%%EndComments\n");
+const QByteArray kLanguage("\x1B%-12345X@PJL\n");
 const QByteArray kPreview("%%BeginPreview: 8 1 1 1\n%FF\n%%EndPreview\n");
 
 QByteArray wide(const QByteArray& text, bool little) {
@@ -36,6 +37,13 @@ class TypeIdentificationTest : public QObject {
     QTest::newRow("eps behind control-D") << "\x04" + kEpsText << kEps;
     QTest::newRow("eps behind a mark") << "\xEF\xBB\xBF" + kEpsText << kEps;
     QTest::newRow("eps behind blank lines") << "\r\n\n" + kEpsText << kEps;
+    QTest::newRow("eps behind a printer's language, far down")
+        << "\x1B%-12345X@PJL\n" + QByteArray(50'000, ' ') + kEpsText << kEps;
+    QTest::newRow("postscript that begins with the last bytes that are looked at")
+        << kLanguage.leftJustified(64 * 1024 - 2, ' ') + "%!PS-Adobe-3.0\n"
+        << "com.adobe.postscript";
+    QTest::newRow("postscript that begins a byte behind")
+        << kLanguage.leftJustified(64 * 1024 - 1, ' ') + kEpsText << "public.data";
     QTest::newRow("eps in UTF-16BE") << "\xFE\xFF" + wide(kEpsText, false) << kEps;
     QTest::newRow("eps in UTF-16LE") << "\xFF\xFE" + wide(kEpsText, true) << kEps;
     QTest::newRow("binary eps") << QByteArray("\xC5\xD0\xD3\xC6") + QByteArray(30, '\0') << kEps;
@@ -47,7 +55,7 @@ class TypeIdentificationTest : public QObject {
     QTest::newRow("eps by illustrator")
         << QByteArray("%!PS-Adobe-3.1 EPSF-3.0\r%%Creator: Adobe Illustrator(R) 17\r") << kEps;
     QTest::newRow("pdf") << QByteArray("%PDF-1.4\n") << kPdf;
-    QTest::newRow("pdf behind junk") << QByteArray(1000, 'x') + "%PDF-1.7\n" << kPdf;
+    QTest::newRow("pdf behind junk") << QByteArray(1024, 'x') + "%PDF-1.7\n" << kPdf;
     QTest::newRow("illustrator's pdf") << QByteArray("%PDF-1.5\n<</AIPrivateData1 7 0 R>>") << kIllustrator;
     QTest::newRow("svg") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>") << kSvg;
     QTest::newRow("xml") << QByteArray("<?xml version='1.0'?><html></html>") << "public.xml";
@@ -68,7 +76,7 @@ class TypeIdentificationTest : public QObject {
   }
 
   void pdfTooFarInIsNoPdf() {
-    QCOMPARE(identifyType(QByteArray(1100, 'x') + "%PDF-1.7\n", QString()).identifier(), "public.data");
+    QCOMPARE(identifyType(QByteArray(1025, 'x') + "%PDF-1.7\n", QString()).identifier(), "public.data");
   }
 
   void contentWinsOverTheName_data() {
@@ -114,6 +122,8 @@ class TypeIdentificationTest : public QObject {
                                            "a.svg\0",
                                            16)
                                     << "b.bin" << kSvgz;
+    QTest::newRow("gzip of an svg, with something before its name")
+        << QByteArray("\x1F\x8B\x08\x0C\0\0\0\0\0\x03\x02\0xxa.svg\0", 20) << "b.bin" << kSvgz;
     QTest::newRow("half the magic of binary eps") << QByteArray("\xC5\xD0\0\0", 4) << "b.eps" << kEps;
     QTest::newRow("broken svg") << QByteArray("not XML at all") << "b.svg" << kSvg;
     QTest::newRow("broken pdf") << QByteArray("not PDF at all") << "b.pdf" << kPdf;
@@ -136,6 +146,8 @@ class TypeIdentificationTest : public QObject {
                                     "<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\" \"a>b.dtd\">\n<svg>";
     QTest::newRow("internal subset")
         << declaration + "<!DOCTYPE svg [<!ENTITY ns \"]><html>\"> <!-- ]> --> ]>\n<svg x='&ns;'>";
+    QTest::newRow("instructions in the internal subset")
+        << declaration + "<!DOCTYPE svg [<?a ]> ?><?b ]> ?>]>\n<svg>";
     QTest::newRow("instruction") << QByteArray("<?xml-stylesheet href='a?b>'?><svg/>");
     QTest::newRow("mark") << QByteArray("\xEF\xBB\xBF<svg>");
     QTest::newRow("UTF-16BE") << "\xFE\xFF" + wide("<svg/>", false);

@@ -50,6 +50,14 @@ class UniformTypeTest : public QObject {
     QVERIFY(type("org.example.test.eps-child").conformsToType(NorvexEPSType));
   }
 
+  void theKindsAboveTheFormatsConformToOneAnother() {
+    for (const char* above : {"public.text", "public.data", "public.content", "public.item"})
+      QVERIFY2(type("public.plain-text").conformsToType(QLatin1String(above)), above);
+    for (const char* above : {"public.composite-content", "public.content", "public.data"})
+      QVERIFY2(type(PostScriptType).conformsToType(QLatin1String(above)), above);
+    QVERIFY(!type("public.text").conformsToType("public.plain-text"));
+  }
+
   void declaringAgainChangesNothing() {
     UTType::exportedTypeWithIdentifier("com.adobe.pdf", {NorvexEPSType});
     QVERIFY(!UTTypePDF().conformsToType(NorvexEPSType));

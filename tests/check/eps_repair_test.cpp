@@ -139,6 +139,9 @@ class EpsRepairTest : public QObject {
 
   void theBoxIsThatOfTheInkUnlessWhiteFillsTheOneThatIsStated() {
     const QRectF ink(10, 10, 20, 20), stated(0, 0, 100, 100);
+    QCOMPARE(mendedBox({}, ink, stated), std::optional(ink));
+    QCOMPARE(mendedBox(stated, ink, {}), std::optional(ink));
+    QCOMPARE(mendedBox(stated, {}, stated), std::optional(stated));
     QCOMPARE(mendedBox(stated, ink, ink), std::optional(ink));
     QCOMPARE(mendedBox(stated, ink, stated), std::optional(stated));
     const QRectF almost(0.2, 0.1, 99.4, 99.8);

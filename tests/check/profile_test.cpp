@@ -60,6 +60,8 @@ class ProfileTest : public QObject {
              "line 2: fonts.type3 is one of: error, warning, note, off");
     QCOMPARE(complaintAbout("[limits]\ncolour-dpi = \"300\"\n"), "line 2: colour-dpi is a number from 0");
     QCOMPARE(complaintAbout("[limits]\ncolour-dpi = -1\n"), "line 2: colour-dpi is a number from 0");
+    QCOMPARE(complaintAbout("[limits]\ncolour-dpi = 0\n"), "");
+    QCOMPARE(complaintAbout("[limits]\nrgb = 1\n"), "line 2: rgb is true or false");
     QVERIFY(complaintAbout("[limits\n").startsWith("line 1: "));
   }
 

@@ -69,6 +69,7 @@ void readEps(DocumentInfo& info, PictureService& service, const QByteArray& byte
   const EpsResources resources = epsResources(bytes);
   info.fonts = resources.fonts;
   info.colorSpaces = resources.colors;
+  info.plates = resources.plates;
 }
 
 void readFacts(DocumentInfo& info, const Result<PictureFacts>& facts) {

@@ -10,6 +10,7 @@
 
 #include "base/result.h"
 #include "cli/reader/reader_options.h"
+#include "metadata/eps_resources.h"
 #include "metadata/guessed_header.h"
 #include "metadata/header_dictionary.h"
 #include "picture/process/picture_process.h"
@@ -30,6 +31,7 @@ struct DocumentInfo {
   std::optional<int> pages;
   QStringList fonts, colorSpaces;  ///< that the picture uses, as far as that is told without drawing it
   QList<PictureLayer> layers;      ///< of a PDF, as they are shown
+  QList<EpsPlate> plates;          ///< of a separated EPS file
   QStringList warnings;
   std::optional<Error> error;
 };

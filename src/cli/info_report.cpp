@@ -29,6 +29,27 @@ QString textOf(const QRectF& rect) {
   return textOf(arrayOf(rect));
 }
 
+QJsonArray platesArray(const QList<EpsPlate>& plates) {
+  QJsonArray array;
+  for (const EpsPlate& plate : plates) {
+    QJsonObject object{{"ink", plate.ink}};
+    if (!plate.file.isEmpty()) object.insert(QStringLiteral("file"), plate.file);
+    if (plate.file.isEmpty()) object.insert(QStringLiteral("offset"), plate.offset);
+    if (plate.file.isEmpty()) object.insert(QStringLiteral("length"), plate.length);
+    array << object;
+  }
+  return array;
+}
+
+QString platesText(const QList<EpsPlate>& plates) {
+  QStringList texts;
+  for (const EpsPlate& plate : plates)
+    texts << QStringLiteral("%1 (%2)").arg(
+        plate.ink,
+        plate.file.isEmpty() ? QStringLiteral("%1 bytes within this file").arg(plate.length) : plate.file);
+  return texts.join(QStringLiteral(", "));
+}
+
 QString nameOf(const QColorSpace& space) {
   const QString name = space.description();
   return name.isEmpty() ? QStringLiteral("unnamed") : name;
@@ -113,6 +134,7 @@ QJsonObject infoObject(const DocumentInfo& info) {
   if (!info.fonts.isEmpty()) insert("fonts", QJsonArray::fromStringList(info.fonts));
   if (!info.colorSpaces.isEmpty()) insert("colorSpaces", QJsonArray::fromStringList(info.colorSpaces));
   if (!info.layers.isEmpty()) insert("layers", layerObjects(info.layers));
+  if (!info.plates.isEmpty()) insert("plates", platesArray(info.plates));
   if (info.guessed) insert("guessedHeader", guessObject(*info.guessed));
   if (info.error) insertError(object, *info.error);
   return object;
@@ -139,6 +161,7 @@ QString infoText(const DocumentInfo& info) {
   if (!info.colorSpaces.isEmpty()) text += line("ColorSpaces", info.colorSpaces.join(QStringLiteral(", ")));
   for (qsizetype i = 0; i < info.layers.size(); ++i)
     text += line(QStringLiteral("Layer %1").arg(i + 1), layerText(info.layers[i]));
+  if (!info.plates.isEmpty()) text += line("Plates", platesText(info.plates));
   for (const QString& warning : info.warnings) text += line("Warning", warning);
   return text;
 }

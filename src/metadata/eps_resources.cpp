@@ -45,12 +45,14 @@ class Reader {
   [[nodiscard]] bool continuesAtEnd() const { return atEnd_; }
 
   QStringList fonts, processColors, customColors;
+  QList<EpsPlate> plates;
 
  private:
   enum class Topic { None, Fonts, Resources, ProcessColors, CustomColors };
   [[nodiscard]] static Topic topicOf(QByteArrayView keyword);
   void take(QByteArrayView line);
   void takeValues(QByteArrayView values);
+  void takePlate(QByteArrayView keyword, QByteArrayView values);
 
   Topic topic_ = Topic::None;
   bool takesResource_ = false;  ///< the resources that are being listed are fonts
@@ -89,13 +91,33 @@ void Reader::takeValues(QByteArrayView values) {
   }
 }
 
+// "%%CyanPlate: file", "%%PlateFile: (Cyan) EPS Local file" or "%%PlateFile: (Cyan) EPS #offset length".
+void Reader::takePlate(QByteArrayView keyword, QByteArrayView values) {
+  if (plates.size() == limits::maximumResourceNames) return;
+  const QStringList all = words(values);
+  for (const char* ink : {"Cyan", "Magenta", "Yellow", "Black"})
+    if (keyword == QByteArray("%%") + ink + "Plate" && !all.isEmpty())
+      plates << EpsPlate{QString::fromLatin1(ink), all.join(u' ')};
+  if (keyword != "%%PlateFile" || all.size() < 4) return;
+  if (!all[2].startsWith(u'#')) {
+    plates << EpsPlate{all[0], all.sliced(3).join(u' ')};
+    return;
+  }
+  bool isOffset = false, isLength = false;
+  const qint64 offset = all[2].sliced(1).toLongLong(&isOffset), length = all[3].toLongLong(&isLength);
+  if (isOffset && isLength && offset > 0 && length > 0) plates << EpsPlate{all[0], {}, offset, length};
+}
+
 void Reader::take(QByteArrayView line) {
   if (line.isEmpty()) return;  // between CR and LF
   if (line.startsWith("%%+")) return takeValues(line.sliced(3));
   const qsizetype colon = line.indexOf(':');
   topic_ = colon < 0 ? Topic::None : topicOf(line.first(colon));
   takesResource_ = false;
-  if (topic_ != Topic::None) takeValues(line.sliced(colon + 1));
+  if (topic_ != Topic::None)
+    takeValues(line.sliced(colon + 1));
+  else if (colon >= 0)
+    takePlate(line.first(colon), line.sliced(colon + 1));
 }
 
 void Reader::read(QByteArrayView section, bool headerOnly) {
@@ -120,9 +142,19 @@ EpsResources epsResources(QByteArrayView source) {
     reader.read(QByteArrayView(program).sliced(trailer).first(
                     std::min(program.size() - trailer, limits::maximumTrailerBytes)),
                 false);
-  EpsResources found{reader.fonts, reader.processColors};
+  EpsResources found{reader.fonts, reader.processColors, reader.plates};
   for (const QString& ink : reader.customColors) add(found.colors, ink);
   return found;
+}
+
+QByteArrayView compositeOf(QByteArrayView program) {
+  Reader reader;
+  reader.read(program, true);
+  qsizetype end = program.size();
+  for (const EpsPlate& plate : reader.plates)
+    if (plate.offset > 0 && plate.offset < end && program.sliced(plate.offset).startsWith("%!"))
+      end = plate.offset;
+  return program.first(end);
 }
 
 }  // namespace norvex

@@ -128,6 +128,26 @@ class InfoTest : public QObject {
     QCOMPARE(object["header"]["ZyWebViewFixedRatioX"], QJsonValue(false));
   }
 
+  void platesOfASeparatedPictureAreTold() {
+    CommandLine line;
+    const QString file = line.write(
+        "a.eps", QByteArray(kEps).replace("%%EndComments",
+                                          "%%PlateFile: (Cyan) EPS Local c.eps\n%%PlateFile: (Gold) "
+                                          "EPS #900 70\n%%EndComments"));
+    QCOMPARE(line.run({"info", "--json", file}), 0);
+    const QJsonArray plates = jsonOf(line)[0].toObject()["plates"].toArray();
+    QCOMPARE(plates.size(), 2);
+    QCOMPARE(plates[0], QJsonValue(QJsonObject{{"ink", "Cyan"}, {"file", "c.eps"}}));
+    QCOMPARE(plates[1], QJsonValue(QJsonObject{{"ink", "Gold"}, {"offset", 900}, {"length", 70}}));
+    CommandLine text;
+    QCOMPARE(
+        text.run({"info", text.write("a.eps",
+                                     "%!PS-Adobe-2.0 EPSF-1.2\n%%BoundingBox: 0 0 9 9\n%%CyanPlate: c.eps\n"
+                                     "%%EndComments\n")}),
+        0);
+    QVERIFY(text.console.output.contains("Cyan (c.eps)"));
+  }
+
   void aPreviewIsToldByItsLayoutAndHash() {
     CommandLine line;
     QCOMPARE(line.run({"info", "--json", line.write("a.epsi", kEpsi)}), 0);

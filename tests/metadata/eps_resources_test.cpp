@@ -33,6 +33,25 @@ class EpsResourcesTest : public QObject {
              (QStringList{"Cyan", "Black", "PANTONE 186 C", "Dark (old) gold"}));
   }
 
+  void platesAreFilesOrPartsOfThisOne() {
+    QCOMPARE(resourcesOf("%%CyanPlate: a cyan.eps\n%%BlackPlate: (k.eps)\n").plates,
+             (QList<EpsPlate>{{"Cyan", "a cyan.eps"}, {"Black", "k.eps"}}));
+    QCOMPARE(
+        resourcesOf("%%PlateFile: (PANTONE 186 C) EPS Local red.eps\r%%PlateFile: (Black) EPS #1200 345\r")
+            .plates,
+        (QList<EpsPlate>{{"PANTONE 186 C", "red.eps"}, {"Black", {}, 1200, 345}}));
+    QVERIFY(resourcesOf("%%PlateFile: (Black) EPS #-5 345\n%%PlateFile: (Black)\n%%CyanPlate:\n")
+                .plates.isEmpty());
+  }
+
+  void thePictureEndsBeforeTheFirstPlate() {
+    const QByteArray header = "%!PS-Adobe-3.0 EPSF-3.0\n%%PlateFile: (Cyan) EPS #080 5\n%%EndComments\n";
+    const QByteArray picture = header.leftJustified(80, '\n');
+    QCOMPARE(compositeOf(picture + "%!PS plate"), picture);
+    QCOMPARE(compositeOf(picture + "no plate"), picture + "no plate");
+    QCOMPARE(compositeOf(header), header);
+  }
+
   void whatIsLeftToTheEndIsReadThere() {
     QCOMPARE(resourcesOf("%%DocumentFonts: (atend)\n",
                          "/Times findfont\n%%Trailer\n%%DocumentFonts: Times\n%%EOF\n")

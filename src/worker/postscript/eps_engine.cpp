@@ -4,6 +4,7 @@
 // is to be drawn, and from then on the picture is a PDF.
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_program.h"
+#include "metadata/eps_resources.h"
 #include "protocol/page_contents.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/examine/ink_box.h"
@@ -25,6 +26,13 @@ namespace {
 /// Points on each side of the box in which ink is looked for that the box does not tell of.
 double surroundingsOf(const QRectF& box) {
   return std::clamp(std::max(box.width(), box.height()) / 2, 144.0, 1000.0);
+}
+
+// A picture and its plates may lie in one file, one program behind the other.
+QByteArray pictureProgram(const QByteArray& bytes) {
+  const QByteArray program = epsProgram(bytes);
+  const qsizetype length = compositeOf(program).size();
+  return length == program.size() ? program : program.first(length);
 }
 
 class EpsEngine final : public DocumentEngine {
@@ -94,7 +102,7 @@ class EpsEngine final : public DocumentEngine {
     if (surroundings_) return {};
     const double margin = surroundingsOf(box_);
     Result<Distilled> distilled =
-        distill(epsProgram(bytes_), box_.adjusted(-margin, -margin, margin, margin), context_);
+        distill(pictureProgram(bytes_), box_.adjusted(-margin, -margin, margin, margin), context_);
     if (!distilled) return distilled.error();
     if (!distilled->stoppedBy.isEmpty()) return Error{ErrorKind::NotParsable, distilled->stoppedBy};
     surroundings_ = std::move(*distilled);
@@ -142,7 +150,7 @@ class EpsEngine final : public DocumentEngine {
     if (page != 0) return noSuchPage(page, 1);
     if (distilled_) return {};
     if (failure_) return *failure_;
-    Result<Distilled> distilled = distill(epsProgram(bytes_), box_, context_);
+    Result<Distilled> distilled = distill(pictureProgram(bytes_), box_, context_);
     if (!distilled) {
       if (distilled.error().kind == ErrorKind::NotParsable) failure_ = distilled.error();
       return distilled.error();

@@ -90,6 +90,8 @@ QWidget* CheckPage::makeHead() {
   again_ = new QPushButton(head);
   again_->setObjectName(QStringLiteral("checkAgain"));
   again_->setAutoDefault(false);
+  again_->setText(localizedString("Check Again"));
+  again_->setMinimumWidth(again_->sizeHint().width());  // it says Stop for a while
   connect(again_, &QPushButton::clicked, this,
           [this] { checking_ ? emit stopWanted() : emit checkWanted(); });
   row->addWidget(profiles_, 1);

@@ -13,10 +13,16 @@
 namespace norvex {
 namespace {
 
-/// The words of the rule table as a sentence in the user's language.
+/// A sentence; what begins with an operator keeps its small letter.
+QString sentenceOf(const QString& text, bool beginsWithName) {
+  if (text.isEmpty() || text.endsWith(u'\u3002')) return text;  // a full stop of Chinese and Japanese
+  const QString sentence = asSentence(text);
+  return beginsWithName ? text.at(0) + sentence.mid(1) : sentence;
+}
+
+/// The words of the rule table in the user's language.
 QString worded(std::string_view words) {
-  const QString text = localizedString(std::string(words).c_str());
-  return text.endsWith(u'\u3002') ? text : asSentence(text);  // a full stop of Chinese and Japanese
+  return localizedString(std::string(words).c_str());
 }
 
 QString whereOf(const Finding& finding) {
@@ -51,12 +57,16 @@ QString titleOf(Severity severity) {
 
 FindingText textOf(const Finding& finding) {
   FindingText text;
-  const QString own = asSentence(finding.sentence), rules = worded(finding.rule->title);
-  const bool isTranslated = rules != asSentence(latin1(finding.rule->title));
-  text.sentence = isTranslated ? rules : own;
-  if (isTranslated) text.figures = own;
+  const QString title = latin1(finding.rule->title), rules = worded(finding.rule->title);
+  const bool isName = title.at(0).isLower();
+  const bool isObject = !finding.object.isEmpty() && finding.sentence.startsWith(finding.object);
+  const QString own = sentenceOf(finding.sentence, isName || isObject);
+  const bool isTranslated = rules != title;
+  text.sentence = isTranslated ? sentenceOf(rules, isName) : own;
+  const bool saysMore = finding.sentence.compare(title, Qt::CaseInsensitive) != 0;
+  if (isTranslated && saysMore) text.figures = own;
   text.where = whereOf(finding);
-  text.mend = worded(mendingWords(*finding.rule));
+  text.mend = sentenceOf(worded(mendingWords(*finding.rule)), false);
   return text;
 }
 

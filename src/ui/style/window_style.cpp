@@ -17,7 +17,7 @@ QString windowStyleSheet() {
       "QMenuBar { background: palette(window); border: none; padding: 1px 4px; }"
       "QTabWidget::pane { border: none; border-top: 1px solid palette(mid); top: -1px; }"
       "QTabBar { qproperty-drawBase: 0; }"
-      "QTabBar::tab { padding: 9px 18px 7px 18px; border: none; border-bottom: 2px solid transparent; }"
+      "QTabBar::tab { padding: 9px 14px 7px 14px; border: none; border-bottom: 2px solid transparent; }"
       "QTabBar::tab:selected { border-bottom: 2px solid palette(highlight); }"
       "QTabBar::tab:!selected { color: palette(placeholder-text); }"
       "QGroupBox { border: none; margin-top: 1.7em; padding: 0; }"

@@ -213,7 +213,9 @@ class CheckPageTest : public QObject {
     class German final : public QTranslator {
      public:
       QString translate(const char*, const char* key, const char*, int) const override {
-        return QByteArray(key) == "Ink lies outside the bounding box" ? "Farbe liegt daneben" : QString();
+        const QByteArray words(key);
+        if (words == "Ink lies outside the bounding box") return QStringLiteral("Farbe liegt daneben");
+        return words == "showpage is missing" ? QStringLiteral("showpage fehlt") : QString();
       }
       bool isEmpty() const override { return false; }
     } german;
@@ -221,7 +223,18 @@ class CheckPageTest : public QObject {
     QCoreApplication::installTranslator(&german);
     QCOMPARE(textOf(kCut).sentence, QStringLiteral("Farbe liegt daneben."));
     QCOMPARE(textOf(kCut).figures, QStringLiteral("The box cuts <b>ink</b> off."));
+    const FindingText plain = textOf(finding(rule("eps.showpage.missing"), "showpage is missing"));
+    QCOMPARE(plain.sentence, QStringLiteral("showpage fehlt."));
+    QCOMPARE(plain.figures, QString());  // nothing beyond the rule
     QCoreApplication::removeTranslator(&german);
+  }
+
+  void operatorsKeepTheirLetters() {
+    QCOMPARE(textOf(finding(rule("eps.showpage.missing"), "showpage is missing")).sentence,
+             QStringLiteral("showpage is missing."));
+    QCOMPARE(textOf(finding(rule("eps.language-level.undeclared"), "rectfill takes level 2", 3, "rectfill"))
+                 .sentence,
+             QStringLiteral("rectfill takes level 2."));
   }
 
   void pageLineObjectAndPlaceStandInTheirOrder() {

@@ -239,6 +239,7 @@ void CheckPage::showFindings(const Findings& findings, const QString& incomplete
     more->setContentsMargins(kMargin, 9, kMargin, 9);
     list_->insertWidget(list_->count() - 1, more);
   }
+  orderRows();
   body_->setCurrentIndex(0);
   foot_->setVisible(std::any_of(findings.cbegin(), findings.cend(), isMendable));
   tell(counts_->text());
@@ -252,6 +253,21 @@ void CheckPage::addRow(const Finding& finding) {
     connect(repair, &QPushButton::clicked, this, [this, finding] { emit repairWanted(finding); });
   list_->insertWidget(list_->count() - 1, row);
   rows_ << row;
+}
+
+void CheckPage::orderRows() {
+  // Between the button above them and the one below.
+  QWidget* before = again_;
+  const auto follow = [&before](QWidget* next) {
+    if (!next) return;
+    QWidget::setTabOrder(before, next);
+    before = next;
+  };
+  for (FindingRow* row : rows_) {
+    follow(row);
+    follow(row->repairButton());
+  }
+  follow(repairAll_);
 }
 
 void CheckPage::moveFrom(FindingRow* row, int by) {

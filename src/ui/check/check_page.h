@@ -64,6 +64,7 @@ class CheckPage final : public QWidget {
   void showSign();
   void clearRows();
   void addRow(const Finding& finding);
+  void orderRows();
   void moveFrom(FindingRow* row, int by);
   void tell(const QString& sentence);
 

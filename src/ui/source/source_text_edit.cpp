@@ -136,10 +136,14 @@ void SourceTextEdit::setMatches(const SourceMatches& matches) {
 }
 
 void SourceTextEdit::selectSource(qsizetype start, qsizetype length) {
-  fill(blocks().blockAt(start + length) + 1);
+  select(start, start + length);
+}
+
+void SourceTextEdit::select(qsizetype anchor, qsizetype caret) {
+  fill(blocks().blockAt(std::max(anchor, caret)) + 1);
   QTextCursor cursor(document());
-  cursor.setPosition(static_cast<int>(blocks().shownPosition(start)));
-  cursor.setPosition(static_cast<int>(blocks().shownPosition(start + length)), QTextCursor::KeepAnchor);
+  cursor.setPosition(static_cast<int>(blocks().shownPosition(anchor)));
+  cursor.setPosition(static_cast<int>(blocks().shownPosition(caret)), QTextCursor::KeepAnchor);
   setTextCursor(cursor);
   const QRect hit = cursorRect();
   if (!viewport()->rect().adjusted(0, hit.height(), 0, -hit.height()).contains(hit.center())) centerCursor();
@@ -150,7 +154,7 @@ void SourceTextEdit::selectLine(int line) {
   int first = 0;
   for (int i = 0; i < all.count() && all.lineNumber(i) <= line; ++i)
     if (all.lineNumber(i) > 0) first = i;
-  selectSource(all.start(first), all.end(first) - all.start(first));
+  select(all.end(first), all.start(first));  // a line is read from its beginning
 }
 
 void SourceTextEdit::deselect() {

@@ -57,6 +57,8 @@ class SourceTextEdit final : public QPlainTextEdit {
  private:
   const SourceBlocks& blocks();
   void fill(int atLeast);
+  /// Of positions of source(); the caret is brought into sight.
+  void select(qsizetype anchor, qsizetype caret);
   void arrangeLineNumbers();
   void markVisibleParts();
   void addMatches(QList<QTextEdit::ExtraSelection>& marks, qsizetype from, qsizetype to);

@@ -127,6 +127,24 @@ class CheckPageTest : public QObject {
     QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(rows[0]));
   }
 
+  void tabGoesFromTopToBottom() {
+    Shown shown({kFont, kCut, kPreview});
+    QApplication::setActiveWindow(&shown.page);
+    const QList<FindingRow*> rows = shown.rows();
+    const QList<QWidget*> wanted{shown.page.findChild<QWidget*>("checkAgain"),
+                                 rows[0],
+                                 rows[1],
+                                 rows[1]->repairButton(),
+                                 rows[2],
+                                 rows[2]->repairButton(),
+                                 shown.page.findChild<QWidget*>("repairAll")};
+    shown.page.findChild<QComboBox*>("checkProfile")->setFocus();
+    for (QWidget* next : wanted) {
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+      QCOMPARE(QApplication::focusWidget(), next);
+    }
+  }
+
   void theKeyboardIsNotLostWithTheRowThatHadIt() {
     Shown shown({kFont});
     QApplication::setActiveWindow(&shown.page);

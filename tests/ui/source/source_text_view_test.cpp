@@ -56,6 +56,7 @@ class SourceTextViewTest : public QObject {
     QVERIFY(pane.view.textEdit()->viewport()->rect().contains(pane.view.textEdit()->cursorRect()));
     pane.view.showLine(1);
     QVERIFY(pane.selected().startsWith(QString(500, u'a')) && pane.selected().size() <= 501);
+    QCOMPARE(pane.view.textEdit()->horizontalScrollBar()->value(), 0);  // where it begins
     pane.view.showLine(9999);
     QCOMPARE(pane.selected(), QString());  // behind the last end
     QVERIFY(pane.view.textEdit()->textCursor().atEnd());

@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "base/cancel_token.h"
+#include "cli/arguments/page_list.h"
 #include "cli/page_list.h"
 #include "cli/reader/reader_options.h"
 #include "encoders/encoded_picture.h"

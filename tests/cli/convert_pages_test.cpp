@@ -3,8 +3,8 @@
 #include <QImage>
 #include <QJsonObject>
 
+#include "cli/arguments/page_list.h"
 #include "cli/cli_files.h"
-#include "cli/page_list.h"
 #include "kit/test_main.h"
 #include "protocol/shared_errors.h"
 

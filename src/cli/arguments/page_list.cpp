@@ -1,4 +1,4 @@
-#include "cli/page_list.h"
+#include "cli/arguments/page_list.h"
 
 #include <QRegularExpression>
 #include <QSet>

@@ -115,6 +115,7 @@ Conversion converted(const std::shared_ptr<NSImageRep>& imageRep, EncoderSurroun
 
   surroundings.raster = {options.dpi, options.background};
   surroundings.quality = options.quality;
+  surroundings.color = options.color;
   surroundings.actions = options.keepActions ? SourceActions::Keep : SourceActions::LeaveOut;
   surroundings.region = region;
   surroundings.subjectMayBeLeftOut = true;

@@ -16,6 +16,7 @@
 #include "encoders/encoded_picture.h"
 #include "picture/open_picture.h"
 #include "picture/process/picture_process.h"
+#include "types/output_color.h"
 
 namespace norvex {
 
@@ -25,9 +26,10 @@ struct ConversionOptions {
   std::optional<QRectF> crop;  ///< points in the rotated view, origin at its lower-left corner, y up
   std::optional<int> page;     ///< from 1
   double dpi = 72;
-  std::optional<int> quality;  ///< 1 … 100; nothing: the format's own
-  bool keepActions = false;    ///< of a PDF, in the PDF made of it
-  QColor background;           ///< invalid: what is not painted stays transparent
+  std::optional<int> quality;            ///< 1 … 100; nothing: the format's own
+  OutputColor color = OutputColor::Rgb;  ///< of formats of pixels
+  bool keepActions = false;              ///< of a PDF, in the PDF made of it
+  QColor background;                     ///< invalid: what is not painted stays transparent
   ReaderOptions reader;
   PictureLimits limits;
 };

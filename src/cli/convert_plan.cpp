@@ -20,6 +20,9 @@ ConversionOptions optionsOf(const Arguments& arguments, ValueReader& values) {
   options.dpi = values.number(Option::Dpi, 72, 1, 9600);
   options.background = values.background();
   if (arguments.has(Option::Quality)) options.quality = values.integer(Option::Quality, 1, 1, 100);
+  if (arguments.has(Option::Colour))
+    options.color =
+        outputColorNamed(arguments.values.value(Option::Colour).toStdString()).value_or(OutputColor::Rgb);
   options.keepActions = arguments.has(Option::KeepActions);
   options.limits = values.limits();
   return options;
@@ -52,6 +55,13 @@ QString complaintAboutTargets(const Arguments& arguments) {
              ? QStringLiteral("the extension of %1 names no format (--format does)")
                    .arg(arguments.values.value(Option::Output))
              : QStringLiteral("no format is given (--format)");
+}
+
+QString complaintAboutColor(const ConversionOptions& options) {
+  const QString format = latin1(rowOf(options.format).name);
+  return isRaster(options.format)
+             ? QStringLiteral("%1 holds no %2").arg(format, latin1(nameOf(options.color)))
+             : QStringLiteral("--colour goes with pixels: %1 keeps the picture's own colours").arg(format);
 }
 
 /// What does not go with the format.
@@ -91,6 +101,8 @@ ReadPlan readConvertPlan(const Arguments& arguments) {
   plan.options.format = *formatOf(arguments);
   if (const QString complaint = complaintAboutFormat(plan.options); !complaint.isEmpty())
     values.complain(complaint);
+  if (arguments.has(Option::Colour) && !holdsColor(plan.options.format, plan.options.color))
+    values.complain(complaintAboutColor(plan.options));
   plan.pages = pagesOf(arguments, values);
   plan.jobs = values.integer(Option::Jobs, QThread::idealThreadCount(), 1, 256);
   plan.force = arguments.has(Option::Force);

@@ -10,6 +10,7 @@
 
 #include "encoders/doc_raster_image.h"
 #include "picture/process/picture_process.h"
+#include "types/output_color.h"
 
 namespace norvex {
 
@@ -38,6 +39,7 @@ struct EncoderSurroundings {
   NSWindowDepth defaultDepthLimit;  ///< of new windows
   RasterSettings raster;
   std::optional<int> quality;  ///< of formats that can lose some, 1 … 100; nothing: the format's own
+  OutputColor color = OutputColor::Rgb;  ///< of formats of pixels
   /// A rectangle instead of the whole picture. Nothing of a source is then handed on unchanged.
   std::optional<PictureRegion> region;
   bool isLastUse = false;  ///< of the picture: its process may go when nothing is left to ask

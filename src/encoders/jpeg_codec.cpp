@@ -4,6 +4,7 @@
 
 #include <jpeglib.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "encoders/raster_codecs.h"
@@ -28,11 +29,33 @@ void overWhiteRow(const uchar* from, uchar* to, int pixels) {
   }
 }
 
+/// Grey laid over white.
+void greyOverWhiteRow(const uchar* from, uchar* to, int pixels) {
+  for (int x = 0; x < pixels; ++x, from += 2)
+    to[x] = static_cast<uchar>(std::min(255, from[0] + 255 - from[1]));
+}
+
+/// One row as the codec takes it.
+void prepareRow(const uchar* from, uchar* to, const NSBitmapImageRep& raster) {
+  const int samples = raster.pixelsWide * raster.samplesPerPixel;
+  if (raster.hasAlpha) {
+    raster.samplesPerPixel == 2 ? greyOverWhiteRow(from, to, raster.pixelsWide)
+                                : overWhiteRow(from, to, raster.pixelsWide);
+  } else if (raster.samplesPerPixel == 4) {
+    // Every reader expects the inks of a JPEG upside down, as the program that came first wrote them.
+    std::transform(from, from + samples, to, [](uchar ink) { return static_cast<uchar>(255 - ink); });
+  } else {
+    std::copy(from, from + samples, to);
+  }
+}
+
 void setUp(jpeg_compress_struct& codec, const NSBitmapImageRep& raster, const RasterProperties& properties) {
   codec.image_width = static_cast<JDIMENSION>(raster.pixelsWide);
   codec.image_height = static_cast<JDIMENSION>(raster.pixelsHigh);
-  codec.input_components = 3;
-  codec.in_color_space = JCS_RGB;
+  codec.input_components = raster.samplesPerPixel - (raster.hasAlpha ? 1 : 0);
+  codec.in_color_space = codec.input_components == 4   ? JCS_CMYK
+                         : codec.input_components == 1 ? JCS_GRAYSCALE
+                                                       : JCS_RGB;
   jpeg_set_defaults(&codec);
   jpeg_set_quality(&codec, properties.quality.value_or(rowOf(PictureFormat::Jpeg).quality), TRUE);
   for (int i = 0; i < codec.num_components; ++i) {  // drawings have thin coloured lines: no subsampling
@@ -57,11 +80,7 @@ bool writeJpeg(jpeg_compress_struct& codec, FailureHandler& failure, const NSBit
     const auto* source =
         reinterpret_cast<const uchar*>(raster.data.constData()) + qsizetype(y) * raster.bytesPerRow;
     auto* line = reinterpret_cast<uchar*>(row.data());
-    if (raster.hasAlpha) {
-      overWhiteRow(source, line, raster.pixelsWide);
-    } else {
-      std::copy(source, source + raster.pixelsWide * 3, line);
-    }
+    prepareRow(source, line, raster);
     JSAMPROW lines[1] = {line};
     jpeg_write_scanlines(&codec, lines, 1);
   }
@@ -73,7 +92,7 @@ bool writeJpeg(jpeg_compress_struct& codec, FailureHandler& failure, const NSBit
 
 QByteArray encodeRaster(CodecOf<PictureFormat::Jpeg>, const NSBitmapImageRep& raster,
                         const RasterProperties& properties) {
-  if (!isEncodable(raster) || raster.pixelsWide > JPEG_MAX_DIMENSION ||
+  if (!encodableColor(raster) || raster.pixelsWide > JPEG_MAX_DIMENSION ||
       raster.pixelsHigh > JPEG_MAX_DIMENSION)
     return {};
   FailureHandler failure{};
@@ -81,7 +100,7 @@ QByteArray encodeRaster(CodecOf<PictureFormat::Jpeg>, const NSBitmapImageRep& ra
   codec.err = jpeg_std_error(&failure.manager);
   failure.manager.error_exit = jumpOut;
   failure.manager.output_message = sayNothing;
-  QByteArray row(raster.pixelsWide * 3, Qt::Uninitialized);
+  QByteArray row(raster.pixelsWide * 4, Qt::Uninitialized);
   unsigned char* memory = nullptr;
   unsigned long length = 0;
   jpeg_create_compress(&codec);

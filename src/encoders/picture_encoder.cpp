@@ -4,6 +4,7 @@
 
 #include "display/picture_geometry.h"
 #include "display/view_compose.h"
+#include "encoders/color_conversion.h"
 #include "encoders/dos_eps_writer.h"
 #include "encoders/eps_header_rewriter.h"
 #include "encoders/epsi_writer.h"
@@ -255,7 +256,13 @@ RasterProperties PictureEncoder::rasterProperties() const {
 
 QByteArray PictureEncoder::rasterData(PictureFormat format, const std::shared_ptr<NSImageRep>& imageRep) {
   const auto bitmap = rasterOf(imageRep);
-  return bitmap ? encodeRaster(format, *bitmap, rasterProperties()) : QByteArray();
+  if (!bitmap) return {};
+  if (surroundings_.color == OutputColor::Rgb) return encodeRaster(format, *bitmap, rasterProperties());
+  const auto colored = inColor(surroundings_.color, *bitmap, format != PictureFormat::Jpeg);
+  if (!colored) return fail(colored.error());
+  RasterProperties properties = rasterProperties();
+  properties.iccProfile = colored->iccProfile;
+  return encodeRaster(format, colored->raster, properties);
 }
 
 QByteArray PictureEncoder::tiffData(const std::shared_ptr<NSImageRep>& imageRep) {

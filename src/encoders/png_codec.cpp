@@ -1,5 +1,6 @@
 #include <png.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -27,14 +28,27 @@ int filtersFor(const uchar* row, const uchar* rowAbove, size_t bytes) {
   return std::memcmp(row, rowAbove, bytes) == 0 ? PNG_FILTER_UP : PNG_ALL_FILTERS;
 }
 
+int colorTypeOf(const NSBitmapImageRep& raster) {
+  if (raster.samplesPerPixel <= 2) return raster.hasAlpha ? PNG_COLOR_TYPE_GRAY_ALPHA : PNG_COLOR_TYPE_GRAY;
+  return raster.hasAlpha ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB;
+}
+
+/// Grey that is not multiplied by its opacity.
+void unpremultiplyGreyRow(const uchar* from, uchar* to, int pixels) {
+  for (int x = 0; x < pixels; ++x, from += 2, to += 2) {
+    const int alpha = from[1];
+    to[0] = alpha == 0 ? 0 : static_cast<uchar>(std::min(255, (from[0] * 255 + alpha / 2) / alpha));
+    to[1] = static_cast<uchar>(alpha);
+  }
+}
+
 /// Everything alive across libpng's long jumps is owned by the caller of this function, not by its frame.
 bool writePng(png_structp png, png_infop info, const NSBitmapImageRep& raster,
               const RasterProperties& properties, QByteArray& row) {
   if (setjmp(png_jmpbuf(png))) return false;
   png_set_compression_level(png, compressionLevel);
   png_set_IHDR(png, info, static_cast<png_uint_32>(raster.pixelsWide),
-               static_cast<png_uint_32>(raster.pixelsHigh), 8,
-               raster.hasAlpha ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
+               static_cast<png_uint_32>(raster.pixelsHigh), 8, colorTypeOf(raster), PNG_INTERLACE_NONE,
                PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
   const auto perMetre = static_cast<png_uint_32>(std::lround(properties.dpi / 0.0254));
   png_set_pHYs(png, info, perMetre, perMetre, PNG_RESOLUTION_METER);
@@ -50,7 +64,10 @@ bool writePng(png_structp png, png_infop info, const NSBitmapImageRep& raster,
         reinterpret_cast<const uchar*>(raster.data.constData()) + qsizetype(y) * raster.bytesPerRow;
     const uchar* above = y == 0 ? nullptr : source - raster.bytesPerRow;
     png_set_filter(png, PNG_FILTER_TYPE_BASE, filtersFor(source, above, rowBytes));
-    if (raster.hasAlpha) unpremultiplyRow(source, reinterpret_cast<uchar*>(row.data()), raster.pixelsWide);
+    auto* line = reinterpret_cast<uchar*>(row.data());
+    if (raster.hasAlpha)
+      (raster.samplesPerPixel == 2 ? unpremultiplyGreyRow : unpremultiplyRow)(source, line,
+                                                                              raster.pixelsWide);
     png_write_row(png, raster.hasAlpha ? reinterpret_cast<png_const_bytep>(row.constData()) : source);
   }
   png_write_end(png, info);
@@ -61,7 +78,8 @@ bool writePng(png_structp png, png_infop info, const NSBitmapImageRep& raster,
 
 QByteArray encodeRaster(CodecOf<PictureFormat::Png>, const NSBitmapImageRep& raster,
                         const RasterProperties& properties) {
-  if (!isEncodable(raster)) return {};
+  const auto color = encodableColor(raster);
+  if (!color || *color == OutputColor::Cmyk) return {};
   QByteArray file;
   QByteArray row(raster.pixelsWide * raster.samplesPerPixel, Qt::Uninitialized);
   png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);

@@ -58,10 +58,20 @@ void unpremultiplyRow(const uchar* from, uchar* to, int pixels) {
   }
 }
 
+std::optional<OutputColor> encodableColor(const NSBitmapImageRep& raster) {
+  if (!raster.isConsistent() || raster.isPlanar || raster.bitsPerSample != 8) return std::nullopt;
+  const int colors = raster.samplesPerPixel - (raster.hasAlpha ? 1 : 0);
+  const auto is = [&](const char* name, int samples) {
+    return colors == samples && raster.colorSpaceName == QLatin1String(name);
+  };
+  if (is(NSCalibratedRGBColorSpace, 3)) return OutputColor::Rgb;
+  if (is(NSCalibratedWhiteColorSpace, 1)) return OutputColor::Grey;
+  if (is(NSDeviceCMYKColorSpace, 4) && !raster.hasAlpha) return OutputColor::Cmyk;
+  return std::nullopt;
+}
+
 bool isEncodable(const NSBitmapImageRep& raster) {
-  return raster.isConsistent() && !raster.isPlanar && raster.bitsPerSample == 8 &&
-         raster.samplesPerPixel == (raster.hasAlpha ? 4 : 3) &&
-         raster.colorSpaceName == QLatin1String(NSCalibratedRGBColorSpace);
+  return encodableColor(raster) == OutputColor::Rgb;
 }
 
 }  // namespace norvex

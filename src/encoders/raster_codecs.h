@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "protocol/bitmap_image_rep.h"
+#include "types/output_color.h"
 #include "types/picture_format.h"
 
 namespace norvex {
@@ -22,9 +23,10 @@ struct RasterProperties {
 /// The codec of each raster format of the table is the function encodeRaster() that takes CodecOf<its
 /// format>, and stands in a file of its own; a format without one does not link.
 ///
-/// Each takes 8-bit interleaved RGB, with associated (premultiplied) alpha or without, rows top to bottom,
-/// and returns the file's bytes; empty for any other layout, for a size that the format cannot hold, or when
-/// the codec fails.
+/// Each takes 8-bit interleaved RGB, with associated (premultiplied) alpha or without, and what else the
+/// format holds (holdsColor()): grey as RGB is, CMYK without alpha (255: full ink); rows top to bottom. It
+/// returns the file's bytes; empty for any other layout, for a size that the format cannot hold, or when the
+/// codec fails.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-template-friend"  // a plain function for each format is what is meant
 template <PictureFormat format>
@@ -41,7 +43,9 @@ struct CodecOf {
 /// Pixels a side that the format can hold; nothing: as many as there can be.
 [[nodiscard]] std::optional<int> largestSide(PictureFormat format);
 
-/// True if the codecs take this layout.
+/// The color of a layout that codecs take, if their format holds it; nothing: none takes it.
+[[nodiscard]] std::optional<OutputColor> encodableColor(const NSBitmapImageRep& raster);
+/// True if this is RGB as every codec takes it.
 [[nodiscard]] bool isEncodable(const NSBitmapImageRep& raster);
 
 /// RGBA with colours that are not multiplied by their opacity, as most formats store them; clear pixels are

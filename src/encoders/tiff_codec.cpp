@@ -44,13 +44,20 @@ toff_t sizeOf(thandle_t handle) {
   return static_cast<toff_t>(static_cast<MemoryFile*>(handle)->bytes.size());
 }
 
-void setFields(TIFF* tiff, const NSBitmapImageRep& raster, const RasterProperties& properties) {
+uint16_t photometricOf(OutputColor color) {
+  if (color == OutputColor::Rgb) return PHOTOMETRIC_RGB;
+  return color == OutputColor::Grey ? PHOTOMETRIC_MINISBLACK : PHOTOMETRIC_SEPARATED;
+}
+
+void setFields(TIFF* tiff, OutputColor color, const NSBitmapImageRep& raster,
+               const RasterProperties& properties) {
   TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, static_cast<uint32_t>(raster.pixelsWide));
   TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, static_cast<uint32_t>(raster.pixelsHigh));
   TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8);
   TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, raster.samplesPerPixel);
   TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
-  TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
+  TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, photometricOf(color));
+  if (color == OutputColor::Cmyk) TIFFSetField(tiff, TIFFTAG_INKSET, INKSET_CMYK);
   TIFFSetField(tiff, TIFFTAG_COMPRESSION, COMPRESSION_NONE);
   TIFFSetField(tiff, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
   TIFFSetField(tiff, TIFFTAG_XRESOLUTION, properties.dpi);
@@ -71,13 +78,14 @@ void setFields(TIFF* tiff, const NSBitmapImageRep& raster, const RasterPropertie
 
 QByteArray encodeRaster(CodecOf<PictureFormat::Tiff>, const NSBitmapImageRep& raster,
                         const RasterProperties& properties) {
-  if (!isEncodable(raster)) return {};
+  const auto color = encodableColor(raster);
+  if (!color) return {};
   MemoryFile file;
   file.bytes.reserve(raster.bytesPerPlane() + 4096);
   TIFF* tiff =
       TIFFClientOpen("raster", "wl", &file, readFrom, writeTo, seekIn, closeIt, sizeOf, nullptr, nullptr);
   if (!tiff) return {};
-  setFields(tiff, raster, properties);
+  setFields(tiff, *color, raster, properties);
   bool good = true;
   QByteArray row(raster.pixelsWide * raster.samplesPerPixel, Qt::Uninitialized);  // libtiff may swap in place
   for (int y = 0; good && y < raster.pixelsHigh; ++y) {

@@ -74,6 +74,10 @@ class ConvertTest : public QObject {
       if (isWritten(format) && format.quality == NoQuality)
         row({"a.eps", "-o", "b", "--quality", "50", "--format", QString(latin1(format.name))},
             "--quality goes with one of: " + QString(latin1(qualityFormatNames.text())));
+    row({"a.eps", "-o", "b.png", "--colour", "cmyk"}, "png holds no cmyk");
+    row({"a.eps", "-o", "b.gif", "--colour", "grey"}, "gif holds no grey");
+    row({"a.eps", "-o", "b.pdf", "--colour", "cmyk"},
+        "--colour goes with pixels: pdf keeps the picture's own colours");
     row({"a.pdf", "-o", "b.eps", "--keep-actions"}, "--keep-actions goes with pdf");
     row({"a.eps", "-o", "b.png", "--jobs", "0"}, "--jobs is a number from 1 to 256");
     row({"a.eps", "-o", "b.png", "--timeout", "-1"}, "--timeout is a number from 1 to 10000000");

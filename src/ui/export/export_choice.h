@@ -8,6 +8,7 @@
 
 #include <optional>
 
+#include "types/output_color.h"
 #include "types/picture_format.h"
 
 namespace norvex {
@@ -18,8 +19,9 @@ enum class ExportArea { Selection, Visible, Page, Document };
 struct ExportChoice {
   PictureFormat format = PictureFormat::Png;
   ExportArea area = ExportArea::Page;
-  double dpi = 144;            ///< pixels an inch, of formats that hold pixels
-  QColor background;           ///< of pixels; invalid: what is not painted stays transparent
+  double dpi = 144;                      ///< pixels an inch, of formats that hold pixels
+  OutputColor color = OutputColor::Rgb;  ///< of pixels
+  QColor background;                     ///< of pixels; invalid: what is not painted stays transparent
   std::optional<int> quality;  ///< 1 … 100, of formats that can lose some; nothing: the format's own
   bool operator==(const ExportChoice&) const = default;
 };

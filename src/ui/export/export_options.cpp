@@ -73,6 +73,7 @@ ExportOptions::ExportOptions(const ExportOffer& offer, const ExportChoice& first
   addFormats(first);
   addAreas(first);
   addPixels(first);
+  addColors(first);
   addBackground(first);
   addQuality(first);
   formatChosen();
@@ -157,6 +158,28 @@ void ExportOptions::addBackground(const ExportChoice& first) {
   connect(color_, &ColorWell::colorChosen, this, &ExportOptions::changed);
 }
 
+void ExportOptions::addColors(const ExportChoice& first) {
+  colors_ = new QComboBox(this);
+  colors_->setObjectName(QStringLiteral("exportColor"));
+  colors_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  for (const auto& [color, title] :
+       {std::pair(OutputColor::Rgb, "RGB for screens"), std::pair(OutputColor::Grey, "Shades of grey"),
+        std::pair(OutputColor::Cmyk, "CMYK for print")})
+    colors_->addItem(localizedString(title), int(color));
+  colors_->setCurrentIndex(int(first.color));
+  form_->addRow(localizedString("Colours:"), colors_);
+  connect(colors_, &QComboBox::currentIndexChanged, this, &ExportOptions::formatChosen);
+}
+
+void ExportOptions::offerColors() {
+  const auto* rows = qobject_cast<const QStandardItemModel*>(colors_->model());
+  for (int i = 0; rows && i < colors_->count(); ++i)
+    rows->item(i)->setEnabled(holdsColor(format(), OutputColor(i)));
+  const QSignalBlocker quiet(colors_);
+  if (isRaster(format()) && !holdsColor(format(), OutputColor(colors_->currentIndex())))
+    colors_->setCurrentIndex(int(OutputColor::Rgb));
+}
+
 void ExportOptions::addQuality(const ExportChoice& first) {
   quality_ = new QSpinBox(this);
   quality_->setObjectName(QStringLiteral("exportQuality"));
@@ -187,6 +210,7 @@ ExportChoice ExportOptions::choice() const {
   ExportChoice choice{.format = chosen,
                       .area = offer_.areas.at(std::max(0, areas_->currentIndex())).area,
                       .dpi = dpi_->value(),
+                      .color = isRaster(chosen) ? OutputColor(colors_->currentIndex()) : OutputColor::Rgb,
                       .background = filled_->isChecked() ? color_->color() : QColor(),
                       .quality = std::nullopt};
   if (own > 0 || (own == Lossless && !lossless_->isChecked())) choice.quality = quality_->value();
@@ -202,7 +226,9 @@ bool ExportOptions::setFormat(PictureFormat format) {
 void ExportOptions::formatChosen() {
   const bool raster = isRaster(format());
   const int own = rowOf(format()).quality;
-  for (QWidget* row : {static_cast<QWidget*>(dpi_), pixels_, ground_}) form_->setRowVisible(row, raster);
+  for (QWidget* row : {static_cast<QWidget*>(dpi_), pixels_, static_cast<QWidget*>(colors_), ground_})
+    form_->setRowVisible(row, raster);
+  offerColors();
   form_->setRowVisible(losing_, own != NoQuality);
   lossless_->setVisible(own == Lossless);
   allowDocument(format() == PictureFormat::Pdf);

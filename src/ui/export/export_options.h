@@ -37,6 +37,9 @@ class ExportOptions final : public QWidget {
   void addPixels(const ExportChoice& first);
   void addBackground(const ExportChoice& first);
   void addQuality(const ExportChoice& first);
+  void addColors(const ExportChoice& first);
+  /// Those that the format holds.
+  void offerColors();
   [[nodiscard]] PictureFormat format() const;
   void formatChosen();
   /// Only a PDF holds several pages.
@@ -46,7 +49,7 @@ class ExportOptions final : public QWidget {
 
   ExportOffer offer_;
   QFormLayout* form_;
-  QComboBox *formats_, *areas_;
+  QComboBox *formats_, *areas_, *colors_;
   QDoubleSpinBox* dpi_;
   QSpinBox *wide_, *high_, *quality_;
   QWidget *pixels_, *ground_, *losing_;

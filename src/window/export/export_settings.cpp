@@ -29,6 +29,8 @@ ExportChoice storedExportChoice() {
   const double dpi = stored.value(QStringLiteral("pixelsPerInch")).toDouble(&ok);
   if (ok && dpi >= kLeastDpi && dpi <= kMostDpi) choice.dpi = dpi;
   choice.background = QColor(stored.value(QStringLiteral("background")).toString());
+  choice.color = outputColorNamed(stored.value(QStringLiteral("color")).toString().toStdString())
+                     .value_or(OutputColor::Rgb);
   const int quality = stored.value(QStringLiteral("quality")).toInt(&ok);
   if (ok && quality >= 1 && quality <= 100) choice.quality = quality;
   return choice;
@@ -42,6 +44,8 @@ void storeExportChoice(const ExportChoice& choice) {
     stored.setValue(QStringLiteral("background"),
                     choice.background.isValid() ? choice.background.name(QColor::HexArgb) : QString());
   }
+  if (isRaster(choice.format))
+    stored.setValue(QStringLiteral("color"), QString(latin1(nameOf(choice.color))));
   if (rowOf(choice.format).quality == NoQuality) return;
   if (choice.quality)
     stored.setValue(QStringLiteral("quality"), *choice.quality);

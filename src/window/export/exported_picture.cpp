@@ -44,6 +44,7 @@ ExportedPicture exportedPicture(const PictureSnapshot& snapshot, const ExportCho
   EncoderSurroundings surroundings = snapshot.surroundings;
   surroundings.raster = {choice.dpi, choice.background};
   surroundings.quality = choice.quality;
+  surroundings.color = choice.color;
   surroundings.region = regionOf(snapshot, choice.area);
   surroundings.onePage = choice.area != ExportArea::Document && hasPages(*snapshot.imageRep);
   surroundings.subjectMayBeLeftOut = true;

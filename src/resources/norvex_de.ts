@@ -1926,6 +1926,64 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>Breite und Höhe in mm, pt oder in angeben</translation>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Das Passwort ist falsch.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password.</source>
+        <translation>Das Dokument ist mit einem Passwort geschützt.</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Ebenen</translation>
+    </message>
+    <message>
+        <source>La&amp;yers</source>
+        <translation>E&amp;benen</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Ebene %1</translation>
+    </message>
+    <message>
+        <source>The document locks this layer.</source>
+        <translation>Das Dokument sperrt diese Ebene.</translation>
+    </message>
+    <message>
+        <source>Find in P&amp;icture…</source>
+        <translation>Im B&amp;ild suchen …</translation>
+    </message>
+    <message>
+        <source>The text of the picture cannot be read.</source>
+        <translation>Der Text des Bildes lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>Select &amp;Text</source>
+        <translation>&amp;Text auswählen</translation>
+    </message>
+    <message>
+        <source>Copy Te&amp;xt</source>
+        <translation>Te&amp;xt kopieren</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>Text kopiert</translation>
+    </message>
+    <message>
+        <source>Links of this kind are not followed.</source>
+        <translation>Verweisen dieser Art wird nicht gefolgt.</translation>
+    </message>
+    <message>
+        <source>The picture links to this address. Open it?</source>
+        <translation>Das Bild verweist auf diese Adresse. Soll sie geöffnet werden?</translation>
+    </message>
+    <message>
+        <source>Open Address</source>
+        <translation>Adresse öffnen</translation>
     </message>
 </context>
 <context>

@@ -1926,6 +1926,64 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>give width and height in mm, pt or in</translation>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>The password is wrong.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password.</source>
+        <translation>The document is protected by a password.</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Layers</translation>
+    </message>
+    <message>
+        <source>La&amp;yers</source>
+        <translation>La&amp;yers</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Layer %1</translation>
+    </message>
+    <message>
+        <source>The document locks this layer.</source>
+        <translation>The document locks this layer.</translation>
+    </message>
+    <message>
+        <source>Find in P&amp;icture…</source>
+        <translation>Find in P&amp;icture…</translation>
+    </message>
+    <message>
+        <source>The text of the picture cannot be read.</source>
+        <translation>The text of the picture cannot be read.</translation>
+    </message>
+    <message>
+        <source>Select &amp;Text</source>
+        <translation>Select &amp;Text</translation>
+    </message>
+    <message>
+        <source>Copy Te&amp;xt</source>
+        <translation>Copy Te&amp;xt</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>Text copied</translation>
+    </message>
+    <message>
+        <source>Links of this kind are not followed.</source>
+        <translation>Links of this kind are not followed.</translation>
+    </message>
+    <message>
+        <source>The picture links to this address. Open it?</source>
+        <translation>The picture links to this address. Open it?</translation>
+    </message>
+    <message>
+        <source>Open Address</source>
+        <translation>Open Address</translation>
     </message>
 </context>
 <context>

@@ -1926,6 +1926,64 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>Indique ancho y alto en mm, pt o in</translation>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>La contraseña no es correcta.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password.</source>
+        <translation>El documento está protegido con una contraseña.</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Capas</translation>
+    </message>
+    <message>
+        <source>La&amp;yers</source>
+        <translation>&amp;Capas</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Capa %1</translation>
+    </message>
+    <message>
+        <source>The document locks this layer.</source>
+        <translation>El documento bloquea esta capa.</translation>
+    </message>
+    <message>
+        <source>Find in P&amp;icture…</source>
+        <translation>Buscar en la i&amp;magen…</translation>
+    </message>
+    <message>
+        <source>The text of the picture cannot be read.</source>
+        <translation>No se puede leer el texto de la imagen.</translation>
+    </message>
+    <message>
+        <source>Select &amp;Text</source>
+        <translation>Seleccionar &amp;texto</translation>
+    </message>
+    <message>
+        <source>Copy Te&amp;xt</source>
+        <translation>Copiar te&amp;xto</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>Texto copiado</translation>
+    </message>
+    <message>
+        <source>Links of this kind are not followed.</source>
+        <translation>Los enlaces de este tipo no se siguen.</translation>
+    </message>
+    <message>
+        <source>The picture links to this address. Open it?</source>
+        <translation>La imagen enlaza a esta dirección. ¿Abrirla?</translation>
+    </message>
+    <message>
+        <source>Open Address</source>
+        <translation>Abrir dirección</translation>
     </message>
 </context>
 <context>

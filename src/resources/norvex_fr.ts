@@ -1926,6 +1926,64 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>Donnez largeur et hauteur en mm, pt ou in</translation>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>Le mot de passe est incorrect.</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password.</source>
+        <translation>Le document est protégé par un mot de passe.</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Calques</translation>
+    </message>
+    <message>
+        <source>La&amp;yers</source>
+        <translation>&amp;Calques</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Calque %1</translation>
+    </message>
+    <message>
+        <source>The document locks this layer.</source>
+        <translation>Le document verrouille ce calque.</translation>
+    </message>
+    <message>
+        <source>Find in P&amp;icture…</source>
+        <translation>Rechercher dans l’i&amp;mage…</translation>
+    </message>
+    <message>
+        <source>The text of the picture cannot be read.</source>
+        <translation>Le texte de l’image ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>Select &amp;Text</source>
+        <translation>Sélectionner le &amp;texte</translation>
+    </message>
+    <message>
+        <source>Copy Te&amp;xt</source>
+        <translation>Copier le te&amp;xte</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>Texte copié</translation>
+    </message>
+    <message>
+        <source>Links of this kind are not followed.</source>
+        <translation>Les liens de ce type ne sont pas suivis.</translation>
+    </message>
+    <message>
+        <source>The picture links to this address. Open it?</source>
+        <translation>L’image renvoie à cette adresse. L’ouvrir ?</translation>
+    </message>
+    <message>
+        <source>Open Address</source>
+        <translation>Ouvrir l’adresse</translation>
     </message>
 </context>
 <context>

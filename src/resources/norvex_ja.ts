@@ -1926,6 +1926,64 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>幅と高さを mm、pt、in で指定してください。</translation>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>パスワードが違います。</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password.</source>
+        <translation>この文書はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>レイヤー</translation>
+    </message>
+    <message>
+        <source>La&amp;yers</source>
+        <translation>レイヤー(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>レイヤー %1</translation>
+    </message>
+    <message>
+        <source>The document locks this layer.</source>
+        <translation>このレイヤーは文書によってロックされています。</translation>
+    </message>
+    <message>
+        <source>Find in P&amp;icture…</source>
+        <translation>画像内を検索(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>The text of the picture cannot be read.</source>
+        <translation>画像のテキストを読み取れません。</translation>
+    </message>
+    <message>
+        <source>Select &amp;Text</source>
+        <translation>テキストを選択(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Copy Te&amp;xt</source>
+        <translation>テキストをコピー(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>テキストをコピーしました</translation>
+    </message>
+    <message>
+        <source>Links of this kind are not followed.</source>
+        <translation>この種類のリンクは開きません。</translation>
+    </message>
+    <message>
+        <source>The picture links to this address. Open it?</source>
+        <translation>画像はこのアドレスにリンクしています。開きますか?</translation>
+    </message>
+    <message>
+        <source>Open Address</source>
+        <translation>アドレスを開く</translation>
     </message>
 </context>
 <context>

@@ -1926,6 +1926,64 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>请以 mm、pt 或 in 给出宽和高。</translation>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>密码不正确。</translation>
+    </message>
+    <message>
+        <source>The document is protected by a password.</source>
+        <translation>此文档受密码保护。</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>La&amp;yers</source>
+        <translation>图层(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>图层 %1</translation>
+    </message>
+    <message>
+        <source>The document locks this layer.</source>
+        <translation>文档锁定了此图层。</translation>
+    </message>
+    <message>
+        <source>Find in P&amp;icture…</source>
+        <translation>在图片中查找(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>The text of the picture cannot be read.</source>
+        <translation>无法读取图片中的文本。</translation>
+    </message>
+    <message>
+        <source>Select &amp;Text</source>
+        <translation>选择文本(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Copy Te&amp;xt</source>
+        <translation>复制文本(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>已复制文本</translation>
+    </message>
+    <message>
+        <source>Links of this kind are not followed.</source>
+        <translation>不会打开此类链接。</translation>
+    </message>
+    <message>
+        <source>The picture links to this address. Open it?</source>
+        <translation>图片链接到此地址。要打开吗?</translation>
+    </message>
+    <message>
+        <source>Open Address</source>
+        <translation>打开地址</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "window/document_contents.h"
 
 #include "metadata/source_text.h"
+#include "picture/chosen_document.h"
 #include "picture/document_file.h"
 #include "picture/eps_image_rep.h"
 #include "picture/open_picture.h"
@@ -22,6 +23,19 @@ struct Reader {
   QByteArray bytes;
   CancelToken cancel;
   DocumentContents contents;
+
+  /// False: they cannot be made.
+  bool choose(const QString& typeIdentifier, const ReaderChoices& choices) {
+    const auto chosen =
+        documentAsChosen(service, {bytes, typeIdentifier, fileURL, 0, true}, choices, {}, cancel);
+    if (chosen) {
+      bytes = chosen->bytes;
+      contents.lost = chosen->report.warnings;
+    } else {
+      contents.error = chosen.error();
+    }
+    return chosen.ok();
+  }
 
   void take(const QString& typeIdentifier) {
     const auto opened = openPicture(service, {bytes, typeIdentifier, fileURL, 0, true});
@@ -81,7 +95,8 @@ struct Reader {
 }  // namespace
 
 DocumentContents readDocumentContents(PictureService& service, const QUrl& fileURL, const QString& fileType,
-                                      QThread* home, const CancelToken& cancel) {
+                                      QThread* home, const CancelToken& cancel,
+                                      const ReaderChoices& choices) {
   Reader reader{StoppableService(service, cancel), fileURL, {}, cancel, {}};
   reader.contents.kind = documentKind(fileType);
   const Result<QByteArray> file = readDocumentFile(fileURL.toLocalFile());
@@ -91,7 +106,7 @@ DocumentContents readDocumentContents(PictureService& service, const QUrl& fileU
     return reader.contents;
   }
   reader.bytes = *file;
-  reader.take(fileType);
+  if (reader.choose(fileType, choices)) reader.take(fileType);
   reader.readSourceText();
   if (reader.contents.imageRep) {
     reader.contents.imageRep->moveToThread(home);

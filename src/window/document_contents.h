@@ -14,6 +14,7 @@
 #include "metadata/header_dictionary.h"
 #include "picture/image_rep.h"
 #include "picture/process/picture_process.h"
+#include "picture/process/reader_choices.h"
 #include "types/document_kind.h"
 
 namespace norvex {
@@ -30,6 +31,7 @@ struct DocumentContents {
   QString sourceText;
   QString chosenEncoding;  ///< in which header and text are read; empty: in the one that was found
   std::optional<GuessedHeader> guess;         ///< of a source in no encoding
+  QStringList lost;                           ///< by the reader's choices: sentences, see chosenPdf()
   std::optional<Error> error;                 ///< why there is no picture
   std::shared_ptr<StoppableProcess> process;  ///< what renders; null without a picture
 };
@@ -38,6 +40,7 @@ struct DocumentContents {
 /// thread. The image rep is handed to `home`, in which it may be drawn and dies.
 [[nodiscard]] DocumentContents readDocumentContents(PictureService& service, const QUrl& fileURL,
                                                     const QString& fileType, QThread* home,
-                                                    const CancelToken& cancel = {});
+                                                    const CancelToken& cancel = {},
+                                                    const ReaderChoices& choices = {});
 
 }  // namespace norvex

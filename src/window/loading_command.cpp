@@ -55,8 +55,8 @@ void LoadingCommand::readNow() {
   stop();
   Document& document = *parts_.document();
   const bool again = parts_.validateUserInterfaceItem();
-  DocumentContents contents =
-      readDocumentContents(document.pictureService(), document.fileURL(), document.fileType(), thread());
+  DocumentContents contents = readDocumentContents(document.pictureService(), document.fileURL(),
+                                                   document.fileType(), thread(), {}, choices_);
   if (again) tryDrawing(contents, {});
   emit finished(contents, again);
 }
@@ -72,8 +72,8 @@ void LoadingCommand::start() {
   waitingThreads().start([self = QPointer<LoadingCommand>(this),
                           application = QPointer<QCoreApplication>(qApp), reading = reading_,
                           &service = document.pictureService(), url = document.fileURL(),
-                          type = document.fileType(), home = thread()] {
-    reading->contents = readDocumentContents(service, url, type, home, reading->cancel);
+                          type = document.fileType(), home = thread(), choices = choices_] {
+    reading->contents = readDocumentContents(service, url, type, home, reading->cancel, choices);
     if (reading->again) tryDrawing(reading->contents, reading->cancel);
     reading->done.release();
     if (!application) return;

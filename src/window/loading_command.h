@@ -6,6 +6,8 @@
 
 #include <memory>
 
+#include "picture/process/reader_choices.h"
+
 namespace norvex {
 
 struct DocumentContents;
@@ -26,6 +28,9 @@ class LoadingCommand final : public QObject {
   void start();
   /// Gives up what is being read. False: nothing was.
   bool stop();
+  /// From the next reading on, for as long as the window is there. A password stays in its memory alone.
+  void setPassword(const QString& password) { choices_.password = password; }
+  void setLayers(const QList<PictureLayer>& layers) { choices_.layers = layers; }
   [[nodiscard]] bool isReading() const { return reading_ != nullptr; }
 
  signals:
@@ -37,6 +42,7 @@ class LoadingCommand final : public QObject {
   void take();
 
   WindowParts& parts_;
+  ReaderChoices choices_;
   std::shared_ptr<Reading> reading_;  ///< null while nothing is read
 };
 

@@ -13,6 +13,7 @@
 #include "window/export/export_command.h"
 #include "window/inspector/docked_inspector.h"
 #include "window/main_window_controller.h"
+#include "window/reader_set_up.h"
 #include "window/viewing/full_screen.h"
 #include "window/viewing/live_file.h"
 #include "window/viewing/pages_command.h"
@@ -104,6 +105,7 @@ void MainWindowController::setUpViewing() {
   connect(this, &MainWindowController::documentShown, history, &SelectionHistory::clear);
   connect(pages, &PagesCommand::pageDidChange, history, &SelectionHistory::clear);
   auto* live = new LiveFile(*this, *pages, this);
+  setUpReader(*this, loading_, *live, *pages, *go);
   ui_->fileMenu->insertAction(ui_->closeAction, live->makeAction());
   connect(this, &MainWindowController::documentShown, live, &LiveFile::documentDidChange);
   setUpChoices();

@@ -28,6 +28,8 @@
 #include "ui_MainWindowController.h"
 #include "window/document_contents.h"
 #include "window/main_window_controller.h"
+#include "window/reading/layers_command.h"
+#include "window/reading/password_command.h"
 #include "window/viewing/live_file.h"
 #include "window/viewing/pages_command.h"
 
@@ -123,15 +125,21 @@ void MainWindowController::setUpTexts() {
 }
 
 void MainWindowController::take(const DocumentContents& contents, bool again) {
-  if (again && !contents.imageRep) {
+  auto* passwords = findChild<PasswordCommand*>();
+  const bool stays = again && !contents.imageRep;
+  if (stays) {
     findChild<LiveFile*>()->documentDidStay();
-    messages_.pictureStays(contents.error.value_or(Error{ErrorKind::CannotRead, {}}));
-    return;
+    findChild<LayersCommand*>()->documentDidStay();
   }
+  // Nothing has failed yet: the window keeps its size for the picture.
+  if (contents.error && passwords->take(*contents.error)) return finishSetUp();
+  if (stays) return messages_.pictureStays(contents.error.value_or(Error{ErrorKind::CannotRead, {}}));
+  if (contents.imageRep) passwords->documentDidOpen();
   setUpControls();
   showContents(contents);
   finishSetUp();
   takeFirstView();
+  if (!again) tell(contents.lost);
   emit documentShown();
 }
 

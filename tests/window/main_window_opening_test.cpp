@@ -118,11 +118,11 @@ class MainWindowOpeningTest : public QObject {
   void whatTheDocumentIsCannotBeTriedAgain() {
     WindowFixture fixture;
     fixture.service.setPrepare([](MemoryPictureProcess& made) {
-      made.fail(PictureCall::Facts, {ErrorKind::Encrypted, "a password is needed"});
+      made.fail(PictureCall::Facts, {ErrorKind::Unsupported, "it is no picture"});
     });
     MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
     c.showWindow();
-    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("A password is needed."));
+    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("It is no picture."));
     QVERIFY(!button(c, "Try Again"));
   }
 

@@ -23,7 +23,7 @@ const QStringList kOthers{
     // what follows pages and selections, and choices for every window
     "nextPageAction", "previousPageAction", "firstPageAction", "lastPageAction", "goToPageAction",
     "pageThumbnailsAction", "undoAction", "redoAction", "reloadByItselfAction", "windowFitsPictureAction",
-    "inspectorInWindowAction", "dimOutsideAction"};
+    "inspectorInWindowAction", "dimOutsideAction", "layersAction", "copyTextAction"};
 
 QList<QAction*> commandsOf(const QMenu& menu) {
   QList<QAction*> all;

@@ -1,0 +1,47 @@
+#include "ui/pages/layer_list.h"
+
+#include <QSignalBlocker>
+
+#include "base/localized_string.h"
+
+namespace norvex {
+
+LayerList::LayerList(QWidget* parent) : QListWidget(parent) {
+  setObjectName(QStringLiteral("layerList"));
+  setAccessibleName(localizedString("Layers"));
+  setFrameShape(QFrame::NoFrame);
+  setUniformItemSizes(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setTextElideMode(Qt::ElideMiddle);
+  connect(this, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) { take(*item); });
+}
+
+void LayerList::setLayers(const QList<PictureLayer>& layers) {
+  const QSignalBlocker quiet(this);
+  layers_ = layers;
+  while (count() > layers.size()) delete takeItem(count() - 1);
+  while (count() < layers.size()) addItem(new QListWidgetItem);
+  for (int i = 0; i < count(); ++i) {
+    const PictureLayer& layer = layers.at(i);
+    const QString name = layer.name.isEmpty() ? localizedString("Layer %1").arg(i + 1) : layer.name;
+    item(i)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    item(i)->setText(name);
+    item(i)->setToolTip(name.toHtmlEscaped());  // a name that looks like markup is a name
+    item(i)->setCheckState(layer.shown ? Qt::Checked : Qt::Unchecked);
+  }
+}
+
+QSize LayerList::sizeHint() const {
+  // Names may be long; the picture is what the window is for.
+  return {fontMetrics().averageCharWidth() * 20, QListWidget::sizeHint().height()};
+}
+
+void LayerList::take(const QListWidgetItem& item) {
+  const int number = row(&item);
+  const bool shown = item.checkState() == Qt::Checked;
+  if (number < 0 || number >= layers_.size() || layers_[number].shown == shown) return;
+  layers_[number].shown = shown;
+  emit layersChosen(layers_);
+}
+
+}  // namespace norvex

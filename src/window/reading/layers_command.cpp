@@ -1,0 +1,99 @@
+#include "window/reading/layers_command.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QEvent>
+#include <QMainWindow>
+#include <QMenu>
+
+#include <memory>
+#include <utility>
+
+#include "base/localized_string.h"
+#include "display/norvex_view.h"
+#include "picture/pdf_image_rep.h"
+#include "ui/pages/layer_list.h"
+#include "ui/picture/brief_note.h"
+#include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/window_frames.h"
+#include "window/commands/window_parts.h"
+
+namespace norvex {
+namespace {
+
+const QString kShown = QStringLiteral("views/layers");
+
+}  // namespace
+
+LayersCommand::LayersCommand(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
+
+void LayersCommand::setUp(QMenu& menu) {
+  dock_ = new QDockWidget(localizedString("Layers"), parts_.mainWindow());
+  dock_->setObjectName(QStringLiteral("layersDock"));
+  dock_->setFeatures(QDockWidget::DockWidgetClosable);
+  list_ = new LayerList(dock_);
+  dock_->setWidget(list_);
+  dock_->toggleViewAction()->setVisible(false);  // the menu below has it, where there are layers
+  dock_->hide();
+  parts_.mainWindow()->addDockWidget(Qt::LeftDockWidgetArea, dock_);
+  connect(list_, &LayerList::layersChosen, this, [this](const QList<PictureLayer>& layers) {
+    wanted_ = layers;
+    const QList<PictureLayer> before = shown();
+    for (touched_ = 0; touched_ < before.size(); ++touched_)
+      if (before.at(touched_).shown != layers.at(touched_).shown) break;
+    emit layersChosen(layers);
+  });
+  action_ = menu.addAction(localizedString("La&yers"));
+  action_->setObjectName(QStringLiteral("layersAction"));
+  action_->setCheckable(true);
+  action_->setShortcut(Qt::Key_F8);
+  action_->setChecked(savedView(kShown, false));
+  connect(action_, &QAction::toggled, this, [this](bool on) {
+    saveView(kShown, on);
+    validate();
+  });
+  // Its own button closes the list as the command does.
+  dock_->installEventFilter(this);
+  parts_.mainWindow()->installEventFilter(this);
+  validate();
+}
+
+QList<PictureLayer> LayersCommand::shown() const {
+  const auto rep = parts_.view() ? std::dynamic_pointer_cast<NSPDFImageRep>(parts_.view()->imageRep())
+                                 : std::shared_ptr<NSPDFImageRep>();
+  return rep ? rep->facts().layers : QList<PictureLayer>();
+}
+
+void LayersCommand::documentDidChange() {
+  const QList<PictureLayer> now = shown();
+  list_->setLayers(now);
+  tellLocked(now);
+  validate();
+}
+
+void LayersCommand::documentDidStay() {
+  wanted_.clear();
+  list_->setLayers(shown());
+}
+
+void LayersCommand::tellLocked(const QList<PictureLayer>& now) {
+  const QList<PictureLayer> wanted = std::exchange(wanted_, {});
+  if (touched_ < 0 || touched_ >= wanted.size() || touched_ >= now.size()) return;
+  const bool stayed = now.at(touched_).name == wanted.at(touched_).name &&
+                      now.at(touched_).shown != wanted.at(touched_).shown;
+  if (stayed) BriefNote::tell(*parts_.scrollArea(), localizedString("The document locks this layer."));
+}
+
+void LayersCommand::validate() {
+  const bool any = !shown().isEmpty();
+  action_->setEnabled(any);
+  dock_->setVisible(any && action_->isChecked() && !parts_.mainWindow()->isFullScreen());
+}
+
+bool LayersCommand::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == dock_ && event->type() == QEvent::Close) action_->setChecked(false);
+  if (watched == parts_.mainWindow() && event->type() == QEvent::WindowStateChange) validate();
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace norvex

@@ -1,0 +1,53 @@
+// Showing and hiding the layers of a document.
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+#include "protocol/worker_protocol.h"
+
+class QAction;
+class QDockWidget;
+class QMenu;
+
+namespace norvex {
+
+class LayerList;
+class WindowParts;
+
+/// A list of them beside the picture. Where there are none, nothing of it is seen. What is chosen is told on,
+/// and holds when the document is read again with it: for the screen and for everything that is handed out.
+/// The parts outlive it. Main thread.
+class LayersCommand final : public QObject {
+  Q_OBJECT
+ public:
+  LayersCommand(WindowParts& parts, QObject* parent);
+
+  /// Adds its command to `menu` and the list to the window.
+  void setUp(QMenu& menu);
+  /// What the window shows is another document, or another state of it.
+  void documentDidChange();
+  /// The document could not be read again: what is shown has stayed.
+  void documentDidStay();
+  [[nodiscard]] LayerList* list() const { return list_; }
+
+ signals:
+  void layersChosen(const QList<norvex::PictureLayer>& layers);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  [[nodiscard]] QList<PictureLayer> shown() const;
+  void tellLocked(const QList<PictureLayer>& now);
+  void validate();
+
+  WindowParts& parts_;
+  LayerList* list_ = nullptr;
+  QDockWidget* dock_ = nullptr;
+  QAction* action_ = nullptr;
+  QList<PictureLayer> wanted_;  ///< until the document has been read again; empty: nothing was chosen
+  int touched_ = -1;            ///< the layer among them that the user switched
+};
+
+}  // namespace norvex

@@ -1,0 +1,96 @@
+#include "window/reading/page_letters.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QThreadPool>
+
+#include "base/waiting_threads.h"
+#include "display/norvex_view.h"
+#include "picture/pdf_image_rep.h"
+#include "window/commands/window_parts.h"
+#include "window/reading/letters.h"
+
+namespace norvex {
+namespace {
+
+Result<PageText> textOf(PictureProcess& process, int page, const CancelToken& cancel) {
+  ExamineRequest request;
+  request.what = Examination::Text;
+  request.page = page;
+  const Result<PictureBytes> answer = process.examine(request, cancel);
+  if (!answer) return answer.error();
+  return decodePageText(answer->bytes);
+}
+
+}  // namespace
+
+PageLetters::PageLetters(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
+
+PageLetters::~PageLetters() {
+  cancel_.cancel();
+  elsewhere_.cancel();
+}
+
+const PageText* PageLetters::text() const {
+  const auto shown = parts_.view() ? parts_.view()->imageRep() : nullptr;
+  return shown && text_ && known_.lock() == shown ? &*text_ : nullptr;
+}
+
+void PageLetters::want() {
+  const auto shown = parts_.view() ? parts_.view()->imageRep() : nullptr;
+  if (!shown || text() || wanted_.lock() == shown) return;
+  cancel_.cancel();
+  cancel_ = CancelToken();
+  wanted_ = shown;
+  text_.reset();
+  waitingThreads().start([self = QPointer<PageLetters>(this), application = QPointer<QCoreApplication>(qApp),
+                          process = shown->process(), page = shown->page(), cancel = cancel_,
+                          rep = std::weak_ptr<NSImageRep>(shown)] {
+    const Result<PageText> read = textOf(*process, page, cancel);
+    if (!application) return;
+    QMetaObject::invokeMethod(application.data(), [self, rep, read] {
+      if (self) self->take(rep.lock(), read);
+    });
+  });
+}
+
+bool PageLetters::lookElsewhere(const QString& needle, bool backward) {
+  const auto shown = parts_.view() ? std::dynamic_pointer_cast<NSPDFImageRep>(parts_.view()->imageRep())
+                                   : std::shared_ptr<NSPDFImageRep>();
+  // Pages far behind are not shown, either.
+  const int pages = shown ? int(qMin(qsizetype(shown->pageCount()), shown->facts().pageBounds.size())) : 1;
+  if (pages < 2) return false;
+  stopLooking();
+  elsewhere_ = CancelToken();
+  waitingThreads().start([self = QPointer<PageLetters>(this), application = QPointer<QCoreApplication>(qApp),
+                          process = shown->process(), from = shown->page(), pages, needle, backward,
+                          cancel = elsewhere_] {
+    int found = -1;
+    for (int step = 1; step < pages && found < 0 && !cancel.cancelled(); ++step) {
+      const int page = (from + (backward ? pages - step : step)) % pages;
+      const Result<PageText> read = textOf(*process, page, cancel);
+      if (read && !runsWith(*read, needle).isEmpty()) found = page;
+    }
+    if (!application) return;
+    QMetaObject::invokeMethod(application.data(), [self, found, cancel] {
+      if (self && !cancel.cancelled()) emit self->lookedElsewhere(found);
+    });
+  });
+  return true;
+}
+
+void PageLetters::stopLooking() {
+  elsewhere_.cancel();
+}
+
+void PageLetters::take(const std::shared_ptr<NSImageRep>& rep, const Result<PageText>& read) {
+  if (!rep || wanted_.lock() != rep) return;
+  wanted_.reset();
+  if (read) {
+    known_ = rep;
+    text_ = *read;
+  }
+  emit arrived(read ? std::nullopt : std::optional(read.error()));
+}
+
+}  // namespace norvex

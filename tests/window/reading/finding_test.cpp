@@ -1,0 +1,196 @@
+// Text of the picture: found, selected, and its links followed.
+#include <QAction>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+#include "kit/test_main.h"
+#include "protocol/page_text.h"
+#include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/text_marks.h"
+#include "ui/source/source_find_bar.h"
+#include "window/reading/find_command.h"
+#include "window/reading/text_command.h"
+#include "window/viewing/pages_command.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+/// "one two one" in letters of 10 × 10 points at y = 50, a link over "two", one below it to the second page.
+PageText line() {
+  PageText page;
+  page.text = QStringLiteral("one two one");
+  for (int i = 0; i < page.text.size(); ++i)
+    page.places << (page.text.at(i) == u' ' ? QRectF() : QRectF(10 * i, 50, 10, 10));
+  page.links = {{QRectF(40, 50, 30, 10), QStringLiteral("https://example.org/\u202etxt"), -1},
+                {QRectF(40, 20, 30, 10), {}, 1},
+                {QRectF(100, 20, 30, 10), QStringLiteral("file:///etc/passwd"), -1}};
+  return page;
+}
+
+class Text : public WindowFixture {
+ public:
+  explicit Text(bool hitsElsewhere = false) : c(opened(hitsElsewhere)) {
+    c.window()->show();
+    find = c.findChild<FindCommand*>();
+    text = c.findChild<TextCommand*>();
+    marks = c.window()->findChild<TextMarks*>();
+    text->setOpener([this](const QUrl& url) { openedUrls << url; });
+  }
+  MainWindowController& opened(bool hitsElsewhere) {
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(0, 0, 200, 100)};
+    picture.facts.pageCount = 2;
+    picture.examine = [hitsElsewhere](const ExamineRequest& request) {
+      const bool hits = request.page == 0 || hitsElsewhere;
+      return encodePageText(request.what == Examination::Text && hits ? line() : PageText());
+    };
+    service.setPicture(picture);
+    return loaded("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+  }
+  [[nodiscard]] QAction* action(const char* name) {
+    return c.window()->findChild<QAction*>(QString::fromLatin1(name));
+  }
+  [[nodiscard]] QAction* own(const char* name) { return c.findChild<QAction*>(QString::fromLatin1(name)); }
+  void lookFor(const QString& needle) {
+    own("findInPictureAction")->trigger();
+    find->bar()->setNeedle(needle);
+    if (!QTest::qWaitFor([this] { return find->bar()->outcome().contains(QStringLiteral("of")); }, 20000))
+      qFatal("nothing was found");
+  }
+  /// Picture points, as a user drags from one to the other.
+  void drag(const QPointF& from, const QPointF& to) {
+    emit marks->pressed(from);
+    emit marks->dragged(to);
+    emit marks->released(to);
+  }
+  void click(const QPointF& at) {
+    emit marks->pressed(at);
+    emit marks->released(at);
+  }
+  /// The mode is on and the text is known.
+  void begin() {
+    own("selectTextAction")->setChecked(true);
+    if (!QTest::qWaitFor([this] { return drag({5, 55}, {25, 55}), !text->selectedText().isEmpty(); }, 20000))
+      qFatal("the text was never read");
+  }
+
+  MainWindowController& c;
+  FindCommand* find = nullptr;
+  TextCommand* text = nullptr;
+  TextMarks* marks = nullptr;
+  QList<QUrl> openedUrls;
+};
+
+}  // namespace
+
+class FindingTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void everyPlaceIsMarkedAndCounted() {
+    Text f;
+    f.lookFor("ONE");
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 2"));
+    QCOMPARE(f.marks->current(), QList<QRectF>{QRectF(0, 50, 30, 10)});
+    QCOMPARE(f.marks->found(), QList<QRectF>{QRectF(80, 50, 30, 10)});
+  }
+
+  void theWayGoesRound() {
+    Text f;
+    f.lookFor("one");
+    emit f.find->bar()->wanted(false);
+    QCOMPARE(f.find->bar()->outcome(), QString("2 of 2"));
+    QCOMPARE(f.marks->current(), QList<QRectF>{QRectF(80, 50, 30, 10)});
+    emit f.find->bar()->wanted(false);  // the other page has none
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 2"));
+    emit f.find->bar()->wanted(true);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("2 of 2"));
+    QCOMPARE(f.c.findChild<PagesCommand*>()->shown(), 0);
+  }
+
+  void theWayGoesOnToOtherPages() {
+    Text f(true);
+    auto* pages = f.c.findChild<PagesCommand*>();
+    f.lookFor("one");
+    emit f.find->bar()->wanted(true);  // back from the first
+    QTRY_COMPARE(pages->shown(), 1);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("2 of 2"));
+    emit f.find->bar()->wanted(false);
+    QTRY_COMPARE(pages->shown(), 0);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 2"));
+  }
+
+  void closingTakesTheMarksAway() {
+    Text f;
+    f.lookFor("one");
+    f.find->close();
+    QVERIFY(f.marks->found().isEmpty() && f.marks->current().isEmpty());
+    QVERIFY(f.marks->isHidden());
+  }
+
+  void anotherPageIsAnotherText() {
+    Text f;
+    f.lookFor("one");
+    f.c.findChild<PagesCommand*>()->show(1);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));
+    QVERIFY(f.marks->current().isEmpty());
+    f.c.findChild<PagesCommand*>()->show(0);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 2"));
+  }
+
+  void aDragSelectsTextThatCanBeCopied() {
+    Text f;
+    f.begin();
+    f.drag({5, 55}, {65, 55});
+    QCOMPARE(f.text->selectedText(), QString("one two"));
+    QCOMPARE(f.marks->selected(), QList<QRectF>{QRectF(0, 50, 70, 10)});
+    f.own("copyTextAction")->trigger();
+    QCOMPARE(QGuiApplication::clipboard()->text(), QString("one two"));
+  }
+
+  void theTwoDragsAreAsBeforeWhileTheModeIsOff() {
+    Text f;
+    QVERIFY(f.marks->testAttribute(Qt::WA_TransparentForMouseEvents));
+    f.begin();
+    QVERIFY(!f.marks->testAttribute(Qt::WA_TransparentForMouseEvents));
+    QCOMPARE(f.c.view()->selectRect().width(), 0.0);
+    f.own("selectTextAction")->setChecked(false);
+    QVERIFY(f.marks->testAttribute(Qt::WA_TransparentForMouseEvents));
+    QCOMPARE(f.text->selectedText(), QString());
+    QVERIFY(!f.own("copyTextAction")->isEnabled());
+  }
+
+  void aLinkIsFollowedOnlyAfterAQuestionThatShowsIt() {
+    Text f;
+    f.begin();
+    f.alerts.answer = 1;
+    f.click({50, 55});
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QCOMPARE(f.alerts.shown.constLast().informativeText, QString("https://example.org/%E2%80%AEtxt"));
+    QVERIFY(f.openedUrls.isEmpty());
+    f.alerts.answer = 0;
+    f.click({50, 55});
+    QCOMPARE(f.openedUrls.size(), 1);
+    QCOMPARE(f.openedUrls.first().host(), QString("example.org"));
+  }
+
+  void whatIsNoAddressOfTheWebIsNotOpened() {
+    Text f;
+    f.begin();
+    f.click({110, 25});
+    QVERIFY(f.alerts.shown.isEmpty());
+    QVERIFY(f.openedUrls.isEmpty());
+  }
+
+  void aLinkWithinTheDocumentShowsItsPage() {
+    Text f;
+    f.begin();
+    f.click({50, 25});
+    QCOMPARE(f.c.findChild<PagesCommand*>()->shown(), 1);
+  }
+};
+
+NORVEX_TEST(FindingTest)
+#include "finding_test.moc"

@@ -33,7 +33,7 @@ struct PictureSnapshot {
   QRectF frame;                      ///< the view's
   bool clockwise = false;            ///< of the dial
   bool flippedCoordinate = false;    ///< of the view
-  EncoderSurroundings surroundings;  ///< of the rasters; the service in it outlives every use
+  EncoderSurroundings surroundings;  ///< of every encoder; the service in it outlives every use
   QThread* home = nullptr;           ///< where the pictures that are made of it live; the main thread
 };
 

@@ -1,7 +1,6 @@
 #include "window/export/exported_picture.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "base/localized_string.h"
 #include "display/picture_geometry.h"

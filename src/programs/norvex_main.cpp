@@ -14,11 +14,11 @@
 
 #include "base/open_files.h"
 #include "base/remove_folder.h"
-#include "base/start_trace.h"
 #include "cli/arguments/command_table.h"
 #include "picture/client/spawned_worker.h"
 #include "programs/application_entry.h"
 #include "programs/expected_pictures.h"
+#include "protocol/start_trace.h"
 #include "worker/engine_parts_table.h"
 
 namespace {
@@ -113,8 +113,9 @@ int main(int argc, char** argv) {
   if (argc == 2 && argv[1] == std::string_view("--sandbox-status")) becomeSandboxStatus();
   StartedPrograms started;
   if (mayNeedPictures(argc, argv))
-    started = startPrograms(expectedPictures(argc, argv),
-                            {expectPostScript(argc, argv), expectLonePicture(argc, argv)});
+    started = startPrograms(expectedPictures(argc, argv), {.postScript = expectPostScript(argc, argv),
+                                                           .window = argc < 2 || !commandNamed(argv[1]),
+                                                           .lone = expectLonePicture(argc, argv)});
   traceStep("picture process started");
   const char* part = partFor(argc, argv);
   void* application = ::dlopen(partOfProgram(part).c_str(), RTLD_LAZY | RTLD_LOCAL);

@@ -5,9 +5,9 @@
 #include <QTimer>
 #include <QWindowStateChangeEvent>
 
-#include "base/start_trace.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
+#include "protocol/start_trace.h"
 #include "ui/controls/color_well.h"
 #include "ui/controls/control_accessible.h"
 #include "ui/picture/loading_card.h"

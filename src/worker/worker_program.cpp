@@ -14,8 +14,8 @@
 #include <utility>
 
 #include "base/remove_folder.h"
-#include "base/start_trace.h"
 #include "protocol/control_descriptor.h"
+#include "protocol/start_trace.h"
 #include "worker/confinement/confinement_status.h"
 #include "worker/confinement/file_view.h"
 #include "worker/confinement/sandbox.h"
@@ -30,6 +30,9 @@ constexpr int kUsage = 2;
 /// Words behind what is expected of the pictures.
 constexpr std::string_view kExpectPostScript = "postscript";
 constexpr std::string_view kLone = "lone";  ///< there is one picture: nothing is made ready for others
+
+/// Pictures wait for a window: meanwhile there is time for what most of them need, and all inherit it.
+constexpr std::string_view kWindow = "window";
 
 bool isTold(int argc, char** argv, std::string_view word) {
   return std::any_of(argv + std::min(argc, 3), argv + argc, [&](const char* each) { return each == word; });
@@ -76,8 +79,10 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   if (isTold(argc, argv, kExpectPostScript)) interpreter.start();
   if (argc > 1 && hasControlSocket()) prepareSandboxes(argv[1], layers);
   if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
-      expected != 0)
-    (void)engines.source(expected & allPictureNeeds);
+      expected != 0) {
+    const Result<const EngineSet*> set = engines.source(expected & allPictureNeeds);
+    if (set && (*set)->warmUpProgram && isTold(argc, argv, kWindow)) (*set)->warmUpProgram();
+  }
   traceStep("norvex-worker has its engines");
   const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
     traceStep("norvex-worker asked for a picture's process");

@@ -16,8 +16,8 @@
 #include <vector>
 
 #include "base/remove_folder.h"
-#include "base/start_trace.h"
 #include "protocol/control_descriptor.h"
+#include "protocol/start_trace.h"
 
 extern char** environ;
 
@@ -115,6 +115,7 @@ SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected, Wor
   std::vector<std::string> arguments{scratchRoot, std::to_string(expected)};
   if (outlook.postScript) arguments.emplace_back("postscript");
   if (outlook.lone) arguments.emplace_back("lone");
+  if (outlook.window) arguments.emplace_back("window");
   Spawned spawned = spawn(program, std::move(arguments), Messages::LikeOurs);
   if (spawned.pid == 0) return removeFolder(scratchRoot), SpawnedWorker();
   return {spawned.pid, std::move(spawned.pidfd), std::move(spawned.connection), std::move(scratchRoot)};

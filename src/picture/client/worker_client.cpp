@@ -1,11 +1,11 @@
 #include "picture/client/worker_client.h"
 
-#include "base/start_trace.h"
 #include "picture/client/worker_answers.h"
 #include "protocol/limits.h"
 #include "protocol/program_stop.h"
 #include "protocol/sealed_memory.h"
 #include "protocol/shared_errors.h"
+#include "protocol/start_trace.h"
 
 #include <algorithm>
 #include <utility>

@@ -14,7 +14,9 @@
 
 #include "base/start_trace.h"
 #include "display/picture_geometry.h"
+#include "protocol/start_trace.h"
 #include "ui/picture/page_edge.h"
+#include "ui/picture/selection_label.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/style/checkerboard.h"
 

@@ -5,6 +5,7 @@
 
 #include "base/blanks.h"
 #include "check/file_wrapping.h"
+#include "check/resource_fork.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_completeness.h"
 #include "metadata/eps_lines.h"
@@ -74,13 +75,21 @@ void checkBytesBehind(Findings& findings, QByteArrayView program) {
                         QStringLiteral("bytes behind %%EOF: ") + QString::number(count));
 }
 
+QString wrappingSentence(const WrappedFile& wrapped) {
+  const QString sentence = QStringLiteral("the file is wrapped as %1").arg(wrapped.wrapping);
+  const auto preview = pictureInResources(wrapped.resourceFork);
+  if (!preview) return sentence;
+  return sentence + QStringLiteral(", with a Macintosh picture (PICT) of %1 × %2 points as its preview")
+                        .arg(preview->width())
+                        .arg(preview->height());
+}
+
 }  // namespace
 
 Findings epsFileFindings(const QByteArray& file) {
   Findings findings;
   if (const auto wrapped = wrappedFile(file))
-    findings << finding(rule("eps.wrapped"),
-                        QStringLiteral("the file is wrapped as %1").arg(wrapped->wrapping));
+    findings << finding(rule("eps.wrapped"), wrappingSentence(*wrapped));
   const QByteArray inner = withoutWrapping(file);
   checkDosHeader(findings, inner);
   const QByteArrayView program = postScriptOf(inner);

@@ -133,7 +133,7 @@ class InfoTest : public QObject {
     const QString file = line.write(
         "a.eps", QByteArray(kEps).replace("%%EndComments",
                                           "%%PlateFile: (Cyan) EPS Local c.eps\n%%PlateFile: (Gold) "
-                                          "EPS #900 70\n%%EndComments"));
+                                          "EPS #000900 70\n%%EndComments"));
     QCOMPARE(line.run({"info", "--json", file}), 0);
     const QJsonArray plates = jsonOf(line)[0].toObject()["plates"].toArray();
     QCOMPARE(plates.size(), 2);

@@ -37,15 +37,15 @@ class EpsResourcesTest : public QObject {
     QCOMPARE(resourcesOf("%%CyanPlate: a cyan.eps\n%%BlackPlate: (k.eps)\n").plates,
              (QList<EpsPlate>{{"Cyan", "a cyan.eps"}, {"Black", "k.eps"}}));
     QCOMPARE(
-        resourcesOf("%%PlateFile: (PANTONE 186 C) EPS Local red.eps\r%%PlateFile: (Black) EPS #1200 345\r")
+        resourcesOf("%%PlateFile: (PANTONE 186 C) EPS Local red.eps\r%%PlateFile: (Black) EPS #001200 345\r")
             .plates,
         (QList<EpsPlate>{{"PANTONE 186 C", "red.eps"}, {"Black", {}, 1200, 345}}));
-    QVERIFY(resourcesOf("%%PlateFile: (Black) EPS #-5 345\n%%PlateFile: (Black)\n%%CyanPlate:\n")
+    QVERIFY(resourcesOf("%%PlateFile: (Black) EPS #-00005 345\n%%PlateFile: (Black)\n%%CyanPlate:\n")
                 .plates.isEmpty());
   }
 
   void thePictureEndsBeforeTheFirstPlate() {
-    const QByteArray header = "%!PS-Adobe-3.0 EPSF-3.0\n%%PlateFile: (Cyan) EPS #080 5\n%%EndComments\n";
+    const QByteArray header = "%!PS-Adobe-3.0 EPSF-3.0\n%%PlateFile: (Cyan) EPS #000080 5\n%%EndComments\n";
     const QByteArray picture = header.leftJustified(80, '\n');
     QCOMPARE(compositeOf(picture + "%!PS plate"), picture);
     QCOMPARE(compositeOf(picture + "no plate"), picture + "no plate");

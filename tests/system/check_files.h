@@ -49,6 +49,26 @@ inline QByteArray macBinary(const QByteArray& data) {
   return header + data + QByteArray((128 - data.size() % 128) % 128, 0);
 }
 
+/// A resource fork that holds a picture of 120 by 90 points.
+inline QByteArray pictureFork() {
+  const QByteArray picture = QByteArray("\x00\x0A\x00\x0A\x00\x14\x00\x64\x00\x8C", 10);
+  const QByteArray data = bigEndian(quint32(picture.size())) + picture;
+  const QByteArray types = QByteArray(
+      "\x00\x00"
+      "PICT"
+      "\x00\x00\x00\x0A",
+      10);
+  const QByteArray reference = QByteArray("\x01\x00\xFF\xFF\x00\x00\x00\x00\x00\x00\x00\x00", 12);
+  const QByteArray map = QByteArray(24, 0) + QByteArray("\x00\x1C\x00\x32", 4) + types + reference;
+  return bigEndian(16) + bigEndian(quint32(16 + data.size())) + bigEndian(quint32(data.size())) +
+         bigEndian(quint32(map.size())) + data + map;
+}
+
+inline QByteArray macBinaryWithPicture(const QByteArray& data) {
+  const QByteArray fork = pictureFork();
+  return macBinary(data).replace(87, 4, bigEndian(quint32(fork.size()))) + fork;
+}
+
 inline QByteArray appleSingle(const QByteArray& data) {
   return QByteArray("\x00\x05\x16\x00\x00\x02\x00\x00", 8) + QByteArray(16, 0) + QByteArray("\x00\x01", 2) +
          bigEndian(1) + bigEndian(38) + bigEndian(quint32(data.size())) + data;
@@ -80,6 +100,7 @@ inline QList<RuleFile> epsFiles() {
   };
   return {
       {"eps.wrapped", "eps", macBinary(kEps), kEps},
+      {"eps.wrapped", "eps", macBinaryWithPicture(kEps), kEps},
       {"eps.wrapped", "eps", appleSingle(kEps), kEps},
       {"eps.dos-header.outside", "eps", dosEps(kEps, "TIFF", 0, 99), dosEps(kEps, "TIFF")},
       {"eps.dos-header.overlap", "eps", dosEps(kEps, "TIFF", 2), dosEps(kEps, "TIFF")},

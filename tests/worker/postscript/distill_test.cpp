@@ -14,7 +14,7 @@ class DistillTest : public QObject {
  private slots:
   void ofAPictureWithItsPlatesInOneFileThePictureIsDrawn() {
     QByteArray picture =
-        withBox("").replace("%%EndComments", "%%PlateFile: (Cyan) EPS #00200 40\n%%EndComments");
+        withBox("").replace("%%EndComments", "%%PlateFile: (Cyan) EPS #000200 40\n%%EndComments");
     picture = (picture + "10 10 30 20 rectfill\n%%EOF\n").leftJustified(200, '\n');
     const kit::DrawnEps drawn = drawnEps(picture + withBox("0 0 100 80 rectfill showpage\n%%EOF\n"));
     QVERIFY2(drawn.error.isEmpty(), qPrintable(drawn.error));

@@ -16,7 +16,7 @@ namespace norvex {
 namespace {
 
 constexpr int kIconSide = 18;
-constexpr int kPage = 5;  // rows
+constexpr int kPage = 5, kAll = 1 << 20;  // rows
 
 }  // namespace
 
@@ -104,6 +104,10 @@ void FindingRow::keyPressEvent(QKeyEvent* event) {
       return emit moved(-kPage);
     case Qt::Key_PageDown:
       return emit moved(kPage);
+    case Qt::Key_Home:
+      return emit moved(-kAll);
+    case Qt::Key_End:
+      return emit moved(kAll);
     case Qt::Key_Return:
     case Qt::Key_Enter:
       return click();

@@ -21,7 +21,8 @@ class FindingRow final : public QAbstractButton {
   [[nodiscard]] QPushButton* repairButton() const { return repair_; }
 
  signals:
-  /// An arrow key: by so many rows down, or up where it is negative.
+  /// A key that goes through lists: by so many rows down, or up where it is negative; no further than to the
+  /// end.
   void moved(int rows);
 
  protected:

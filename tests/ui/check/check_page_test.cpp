@@ -125,6 +125,10 @@ class CheckPageTest : public QObject {
     QVERIFY(!isInSight(rows[0]));
     for (int i = 0; i < 40; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
     QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(rows[0]));
+    QTest::keyClick(rows[0], Qt::Key_End);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(rows[39]));
+    QTest::keyClick(rows[39], Qt::Key_Home);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(rows[0]));
   }
 
   void tabGoesFromTopToBottom() {

@@ -158,6 +158,30 @@ class CheckTest : public QObject {
     QTRY_VERIFY(!mark->isVisible());  // another picture has other places
   }
 
+  void aPlaceOnAnotherPageIsShownThere() {
+    CheckFixture f;
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(10, 20, 300, 400)};
+    picture.facts.pageCount = 2;
+    picture.examine = [](const ExamineRequest& request) {
+      PageContents page;
+      page.size = {300, 400};
+      if (request.page == 1) page.rgb = page.cmyk = QRectF(20, 30, 40, 10);
+      return encodePageContents(page);
+    };
+    f.service.setPicture(picture);
+    MainWindowController& c = f.loaded(emptyPdf({200, 100}), "a.pdf", "com.adobe.pdf");
+    c.window()->show();
+    c.showInspectorWindow();
+    CheckCommand* command = f.checked(c);
+    const Finding& colours = f.found(*command, "colour.rgb-in-cmyk");
+    QCOMPARE(colours.page, 2);
+    QVERIFY(!colours.sentence.contains("page"));
+    command->show(colours);
+    QCOMPARE(c.view()->imageRep()->page(), 1);
+    QVERIFY(c.viewWidget()->findChild<PictureMark*>()->isVisible());
+  }
+
   void aLineIsShownInTheSource() {
     CheckFixture f;
     MainWindowController& c = f.shown();

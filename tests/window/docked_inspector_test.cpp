@@ -112,6 +112,17 @@ class DockedInspectorTest : public QObject {
     }
   }
 
+  void thePictureHasItsRoomBesideAPanelThatIsThereFromTheStart() {
+    WindowFixture fixture;
+    docking(shown(fixture))->trigger();
+    WindowFixture next;
+    qputenv("XDG_STATE_HOME", fixture.folder.path().toUtf8());
+    MainWindowController& c = shown(next);
+    QVERIFY(panel(c)->isVisible());
+    const QSizeF room = c.scrollArea()->contentSize();
+    QVERIFY2(room.width() >= 430, qPrintable(QString::number(room.width())));
+  }
+
   void theSourceIsFoundInThePanelToo() {
     WindowFixture fixture;
     MainWindowController& c = shown(fixture);

@@ -212,6 +212,40 @@ class ConvertSystemTest : public QObject {
              QStringList{"a.tiff"});
   }
 
+  void aPdfOfWhichNothingCanBeReadIsNoEmptyPicture() {
+    const QByteArray head =
+        "%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n"
+        "2 0 obj\n<< /Type /Pages /Kids [3 0 R] /Count 1 >>\nendobj\n"
+        "3 0 obj\n<< /Type /Page /Parent 2 0 R /MediaBox [0 0 90 60] /Contents 4 0 R >>\nendobj\n";
+    const QByteArray contents =
+        "4 0 obj\n<< /Length 24 >>\nstream\n1 0 0 rg 0 0 90 60 re f \nendstream\nendobj\n";
+    const QByteArray trailer = "trailer\n<< /Root 1 0 R /Size 5 >>\n";
+    const QString lost = write("lost.pdf", head + trailer), hurt = write("hurt.pdf", head + contents + trailer);
+    for (const char* name : {"a.png", "a.svg", "a.eps", "a.pdf"}) {
+      Ran ran = kit::norvex({"convert", lost, "-o", path(name)});
+      QCOMPARE(ran.exitCode, 3);
+      QVERIFY2(ran.err.endsWith(": the file is damaged; nothing of its page can be read\n"), ran.err);
+      QVERIFY(!QFileInfo::exists(path(name)));
+      ran = kit::norvex({"convert", hurt, "-o", path(name)});
+      QCOMPARE(ran.exitCode, 0);
+      QVERIFY2(ran.err.contains("the file is damaged; it was repaired as far as possible"), ran.err);
+      QVERIFY(QFile::remove(path(name)));
+    }
+    for (const QStringList& command :
+         {QStringList{"print", lost, "-o", path("p.pdf")}, QStringList{"thumbnail", lost, path("t.png")}}) {
+      const Ran ran = kit::norvex(command);
+      QCOMPARE(ran.exitCode, 3);
+      QVERIFY2(ran.err.contains("nothing of its page can be read"), ran.err);
+    }
+    for (const QStringList& command :
+         {QStringList{"print", hurt, "-o", path("p.pdf")}, QStringList{"thumbnail", hurt, path("t.png")}}) {
+      const Ran ran = kit::norvex(command);
+      QCOMPARE(ran.exitCode, 0);
+      QVERIFY2(ran.err.contains("the file is damaged; it was repaired as far as possible"), ran.err);
+    }
+    QCOMPARE(kit::norvex({"check", lost}).exitCode, 1);
+  }
+
   void aFullStandardOutputIsTold() {
     const QString command =
         norvexProgram() + " convert " + sample("lighthouse.svg") + " -o - --format tiff > /dev/full";

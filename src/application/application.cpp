@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "base/bundle.h"
+#include "ui/style/outlined_style.h"
 
 namespace norvex {
 namespace {
@@ -56,6 +57,7 @@ Application::Application(int& argc, char** argv) : QApplication(watchForMissingD
   setApplicationVersion(QStringLiteral(NORVEX_VERSION));
   setDesktopFileName(desktopIdentifier());
   QTimer::singleShot(kIconMs, this, showApplicationIcon);
+  setStyle(new OutlinedStyle);
   connect(this, &QGuiApplication::applicationStateChanged, &events_, &ApplicationEvents::setState);
 }
 

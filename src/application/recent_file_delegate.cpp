@@ -89,6 +89,11 @@ void RecentFileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
   if (!selected) painter->setPen(quietTextColor(item.palette));
   painter->drawText(text.x(), text.center().y() - item.fontMetrics.descent() + line,
                     item.fontMetrics.elidedText(folderName(path), Qt::ElideMiddle, text.width()));
+  if (item.state.testFlag(QStyle::State_HasFocus)) {  // where nothing is selected it would not be seen
+    painter->setPen(QPen(item.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight), 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(QRectF(item.rect).adjusted(2, 2, -2, -2), 4, 4);
+  }
   painter->restore();
 }
 

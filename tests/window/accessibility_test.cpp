@@ -15,61 +15,13 @@
 #include "ui/picture/zy_image_view.h"
 #include "ui/source/source_text_edit.h"
 #include "ui/source/source_text_view.h"
+#include "window/accessible_walk.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
+using kit::complaintsAbout;
 
 namespace {
-
-bool isOperated(QAccessible::Role role) {
-  switch (role) {
-    case QAccessible::PushButton:
-    case QAccessible::ButtonMenu:
-    case QAccessible::ButtonDropDown:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::EditableText:
-    case QAccessible::ComboBox:
-    case QAccessible::SpinBox:
-    case QAccessible::Slider:
-    case QAccessible::Dial:
-    case QAccessible::MenuItem:
-    case QAccessible::PageTab:
-    case QAccessible::Graphic:
-    case QAccessible::Link:
-      return true;
-    default:
-      return false;
-  }
-}
-
-QString described(QAccessibleInterface* interface) {
-  const QObject* object = interface->object();
-  return QStringLiteral("%1 %2 (role %3)")
-      .arg(object ? QString::fromLatin1(object->metaObject()->className()) : QStringLiteral("child"),
-           object ? object->objectName() : QString())
-      .arg(int(interface->role()), 0, 16);
-}
-
-/// Complains about what is operated and has no name, and about what takes the keyboard and does not say what
-/// it is.
-void walk(QAccessibleInterface* interface, QStringList& complaints, int depth = 0) {
-  if (!interface || depth > 24 || interface->state().invisible) return;
-  const auto* widget = qobject_cast<const QWidget*>(interface->object());
-  if (interface->role() == QAccessible::NoRole) complaints << "no role: " + described(interface);
-  if (isOperated(interface->role()) && interface->text(QAccessible::Name).isEmpty())
-    complaints << "no name: " + described(interface);
-  const bool takesKeys = widget && (widget->focusPolicy() & Qt::TabFocus);
-  if (takesKeys && interface->role() == QAccessible::Client && interface->text(QAccessible::Name).isEmpty())
-    complaints << "keyboard, but nothing is said: " + described(interface);
-  for (int i = 0; i < interface->childCount(); ++i) walk(interface->child(i), complaints, depth + 1);
-}
-
-QStringList complaintsAbout(QWidget* top) {
-  QStringList complaints;
-  walk(QAccessible::queryAccessibleInterface(top), complaints);
-  return complaints;
-}
 
 QAccessibleInterface* interfaceOf(QObject* object) {
   return QAccessible::queryAccessibleInterface(object);

@@ -20,6 +20,10 @@ FactField::FactField(QWidget* parent) : QLineEdit(parent) {
 }
 
 void FactField::paintEvent(QPaintEvent* event) {
+  if (hasFocus()) {
+    QPainter mark(this);
+    mark.fillRect(QRect(0, height() - 2, width(), 2), palette().color(QPalette::Highlight));
+  }
   const int room = width() - 4 - roomOfButtons();
   const bool fits = fontMetrics().horizontalAdvance(text()) <= room;
   if (!text().isEmpty() && (fits || hasFocus())) return QLineEdit::paintEvent(event);

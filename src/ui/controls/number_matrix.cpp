@@ -6,10 +6,12 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/localized_string.h"
 #include "ui/controls/value_copying.h"
+#include "ui/style/quiet_text.h"
 
 namespace norvex {
 
@@ -30,15 +32,14 @@ NumberMatrix::NumberMatrix(QWidget* parent) : QWidget(parent) {
   for (int row = 0; row < 2; ++row) {
     for (int column = 0; column < 2; ++column) {
       auto* title = new QLabel(QString::fromLatin1(kTitles[row][column]), this);
-      title->setStyleSheet(QStringLiteral("color: #5c6b5c;"));
       auto* cell = new QLineEdit(this);
       cell->setReadOnly(true);
       cell->setFrame(false);
-      cell->setStyleSheet(
-          QStringLiteral("QLineEdit { background: transparent; color: black; border: none; }"));
+      cell->setStyleSheet(QStringLiteral("QLineEdit { background: transparent; border: none; }"));
       cell->setAccessibleName(localizedString(kNames[row][column]));
       cell->setMinimumWidth(48);
       makeValueCopyable(*cell);
+      makeQuiet(*title);
       grid->addWidget(title, row, 2 * column);
       grid->addWidget(cell, row, 2 * column + 1);
       cells_[static_cast<size_t>(row)][static_cast<size_t>(column)] = cell;
@@ -47,6 +48,19 @@ NumberMatrix::NumberMatrix(QWidget* parent) : QWidget(parent) {
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(3, 1);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+/// A pale colour on a dark ground would be the brightest spot of the window.
+QColor NumberMatrix::ground() const {
+  const QColor given = background_.isValid() ? background_ : palette().color(QPalette::Base);
+  if (!isDarkScheme(palette()) || given.lightnessF() < 0.5) return given;
+  return QColor::fromHslF(given.hslHueF(), std::min(0.25F, given.hslSaturationF()), 0.16F);
+}
+
+void NumberMatrix::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange)
+    for (auto* title : findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) makeQuiet(*title);
+  QWidget::changeEvent(event);
 }
 
 QLineEdit* NumberMatrix::cellAtRow(int row, int column) const {
@@ -82,7 +96,7 @@ void NumberMatrix::paintEvent(QPaintEvent*) {
   QColor line = palette().color(QPalette::WindowText);
   line.setAlphaF(0.15f);
   painter.setPen(line);
-  painter.setBrush(background_.isValid() ? background_ : QColor(Qt::white));
+  painter.setBrush(ground());
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
 }
 

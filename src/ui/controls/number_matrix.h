@@ -12,8 +12,7 @@ class QLineEdit;
 namespace norvex {
 
 /// Row 0 holds x and width, row 1 y and height. Cells are for reading; their text can be selected and copied.
-/// The background colour lies behind the cells and is drawn as it is in light and dark schemes, with black
-/// text on it.
+/// The background colour lies behind the cells; in a dark scheme a dark one of the same hue does.
 class NumberMatrix final : public QWidget {
   Q_OBJECT
  public:
@@ -29,8 +28,11 @@ class NumberMatrix final : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  [[nodiscard]] QColor ground() const;
+
   std::array<std::array<QLineEdit*, 2>, 2> cells_{};
   QColor background_;
 };

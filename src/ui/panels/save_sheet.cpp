@@ -17,6 +17,7 @@
 #include "base/localized_string.h"
 #include "base/path_extension.h"
 #include "types/type_description.h"
+#include "ui/panels/centred_window.h"
 
 namespace norvex {
 namespace {
@@ -57,7 +58,7 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   setWindowTitle(settings_.title);
   setDirectoryUrl(startOf(settings_));
   arrange();
-  resize(kSize);
+  resize(fittingScreen(*this, kSize));
   selectFile(settings_.nameFieldStringValue);
   showName();
 }

@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "base/localized_string.h"
+#include "ui/panels/centred_window.h"
 
 namespace norvex {
 
@@ -140,7 +141,7 @@ void showShortcutPanel(QWidget& parent, const QMenuBar& menus) {
     buttons->setContentsMargins(10, 0, 10, 0);
     column->addWidget(buttons);
     QObject::connect(buttons, &QDialogButtonBox::rejected, panel, &QDialog::close);
-    panel->resize(520, 620);
+    panel->resize(fittingScreen(*panel, {520, 620}));
   }
   panel->show();
   panel->raise();

@@ -2,23 +2,13 @@
 
 #include <QApplication>
 #include <QCursor>
-#include <QElapsedTimer>
 #include <QMouseEvent>
-#include <QPaintEvent>
-#include <QPainter>
-#include <QPainterPath>
 #include <QWindow>
 
 #include <algorithm>
 #include <cmath>
 
-#include "base/start_trace.h"
-#include "display/picture_geometry.h"
-#include "protocol/start_trace.h"
-#include "ui/picture/page_edge.h"
-#include "ui/picture/selection_label.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "ui/style/checkerboard.h"
 
 namespace norvex {
 
@@ -117,11 +107,6 @@ QRectF NorvexViewWidget::viewInWidget() const {
   return QRectF(fromView(bounds.topLeft()), fromView(bounds.bottomRight())).normalized();
 }
 
-QPolygonF NorvexViewWidget::pageInWidget() const {
-  const QTransform toView = pictureToView(view_.imageSize(), view_.rotate());
-  return (toView * placement()).map(QPolygonF(QRectF(QPointF(0, 0), view_.imageSize())));
-}
-
 QRectF NorvexViewWidget::visibleRect() const {
   return area_ ? area_->scrollView().documentViewVisibleRect() : view_.bounds();
 }
@@ -157,7 +142,7 @@ void NorvexViewWidget::scrollRectToVisible(const QRectF& rect) {
 
 bool NorvexViewWidget::makeFirstResponder() {
   // The view takes no keys itself: what surrounds it does, and scrolls.
-  if (area_) area_->setFocus(Qt::MouseFocusReason);
+  if (area_) area_->takeFocusByMouse();
   return true;
 }
 
@@ -189,76 +174,6 @@ void NorvexViewWidget::showPointer(const QPointF& at) {
     setCursor(Qt::CrossCursor);
   else
     unsetCursor();
-}
-
-void NorvexViewWidget::drawBackground(QPainter& painter, const QRect& dirty) {
-  const QRectF view = viewInWidget();
-  const bool fillsAll = background_.isValid() && !onCanvas_;
-  painter.fillRect(dirty, fillsAll ? background_ : palette().color(QPalette::Window));
-  if (view_.imageRep() && !view.contains(QRectF(rect()))) drawPageEdge(painter, pageInWidget(), palette());
-  if (fillsAll) return;
-  if (background_.isValid()) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(background_);
-    if (view_.imageRep()) painter.drawPolygon(pageInWidget());
-    return;
-  }
-  painter.setBrushOrigin(view.topLeft());
-  if (view_.imageRep()) drawCheckerboard(painter, view & QRectF(dirty), palette());
-}
-
-std::optional<SelectionHandles> NorvexViewWidget::handles() const {
-  if (view_.selection().state() != Selection::State::Rectangle) return std::nullopt;
-  const QRectF& selected = view_.selectRect();
-  const QRectF device = QRectF(fromView(selected.topLeft()), fromView(selected.bottomRight())).normalized();
-  const bool movable =
-      selected.width() < view_.bounds().width() || selected.height() < view_.bounds().height();
-  return SelectionHandles(device, QRectF(rect()), viewInWidget() & QRectF(rect()), font(),
-                          sizeText(selected.size(), unit_) + u' ' + unitName(unit_), movable);
-}
-
-std::optional<Qt::Edges> NorvexViewWidget::handleAt(const QPointF& point) const {
-  const auto shown = handles();
-  return shown ? shown->at(point) : std::nullopt;
-}
-
-void NorvexViewWidget::drawSelectionAids(QPainter& painter) const {
-  const auto shown = handles();
-  if (!shown) return;
-  if (dimsOutside_) {
-    constexpr double kOutline = 2;  // with its halo
-    const QRectF& selected = view_.selectRect();
-    QPainterPath outside;
-    outside.addRect(viewInWidget());
-    outside.addRect(QRectF(fromView(selected.topLeft()), fromView(selected.bottomRight()))
-                        .normalized()
-                        .adjusted(-kOutline, -kOutline, kOutline, kOutline));
-    QColor veil = palette().color(QPalette::Window);
-    veil.setAlphaF(0.65F);
-    painter.fillPath(outside, veil);
-  }
-  shown->draw(painter);
-}
-
-void NorvexViewWidget::paintEvent(QPaintEvent* event) {
-  QElapsedTimer clock;
-  clock.start();
-  painting_ = true;
-  QPainter painter(this);
-  drawBackground(painter, event->rect());
-  // The system clips to what is dirty; what is asked for of the picture is all that can be seen.
-  painter.setClipRect(rect());
-  if (area_) {
-    const QTransform toClip = placement();
-    painter.setTransform(toClip, true);
-    const QRectF dirty = toClip.inverted().mapRect(QRectF(event->rect()));
-    view_.drawRect(painter, dirty, DrawingDestination::Screen);
-    painter.resetTransform();
-    drawSelectionAids(painter);
-    traceStep("view painted");
-  }
-  painting_ = false;
-  emit drawn(static_cast<double>(clock.nsecsElapsed()) / 1e6);
 }
 
 void NorvexViewWidget::mousePressEvent(QMouseEvent* event) {

@@ -58,8 +58,12 @@ class ZoomingScrollArea final : public QWidget {
   /// Lays a card over the clip, centred at its top or bottom edge. Not owned.
   void addCard(QWidget* card, Qt::Edge edge);
 
+  /// True if the keyboard focus came with Tab: a line around every picture would be in the way of the others.
+  [[nodiscard]] bool showsFocus() const { return showsFocus_; }
+
   // For the view's widget; points and rectangles in logical pixels of the clip.
   void documentFrameDidChange();
+  void takeFocusByMouse();
   bool showPoint(const QPointF& point);
   void showRect(const QRectF& rect);
 
@@ -72,6 +76,7 @@ class ZoomingScrollArea final : public QWidget {
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   bool event(QEvent* event) override;
@@ -107,6 +112,7 @@ class ZoomingScrollArea final : public QWidget {
   bool drawsBackground_ = true;
   QList<Card> cards_;
   bool bare_ = false;
+  bool showsFocus_ = false;
   bool spaceHeld_ = false;
   std::optional<QPointF> panFrom_;  ///< where the pointer was; clip coordinates
 };

@@ -95,7 +95,20 @@ void ZoomingScrollArea::keyReleaseEvent(QKeyEvent* event) {
   if (!holdSpace(*event)) QWidget::keyReleaseEvent(event);
 }
 
+void ZoomingScrollArea::focusInEvent(QFocusEvent* event) {
+  showsFocus_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  if (document_) document_->update();
+  QWidget::focusInEvent(event);
+}
+
+void ZoomingScrollArea::takeFocusByMouse() {
+  showsFocus_ = false;
+  setFocus(Qt::MouseFocusReason);
+}
+
 void ZoomingScrollArea::focusOutEvent(QFocusEvent* event) {
+  showsFocus_ = false;
+  if (document_) document_->update();
   spaceHeld_ = false;
   showHand();
   QWidget::focusOutEvent(event);

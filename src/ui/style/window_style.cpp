@@ -24,6 +24,12 @@ QString windowStyleSheet() {
       "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; padding: 0; left: -2px; }"
       "#descriptionView QPlainTextEdit { border: 1px solid palette(mid); border-radius: 6px; background: "
       "palette(base); }"
+      "QTabBar::tab:selected:focus { background: palette(midlight); }"
+      "#startPoint:focus, #endPoint:focus { background: palette(highlight); color: "
+      "palette(highlighted-text); }"
+      "#pointerReadout { border: 1px solid transparent; border-radius: 4px; padding: 1px 3px; }"
+      "#pointerReadout:hover { background: palette(midlight); }"
+      "#pointerReadout:focus { border-color: palette(highlight); }"
       "Line { color: palette(mid); }");
 }
 

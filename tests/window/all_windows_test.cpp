@@ -1,0 +1,274 @@
+// Every window of the program as somebody meets it who has no mouse, or no eyes.
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSettings>
+#include <QTextBrowser>
+#include <QTreeWidget>
+
+#include <functional>
+#include <memory>
+
+#include "application/manual_window.h"
+#include "application/recent_files.h"
+#include "application/start_panel.h"
+#include "kit/test_main.h"
+#include "picture/process/null_picture_service.h"
+#include "print/memory_printing.h"
+#include "ui/export/export_dialog.h"
+#include "ui/pages/rectangle_dialog.h"
+#include "ui/panels/preferences_panel.h"
+#include "ui/panels/shortcut_panel.h"
+#include "ui/print/page_layout_sheet.h"
+#include "ui/print/print_panel.h"
+#include "ui/style/outlined_style.h"
+#include "window/accessible_walk.h"
+#include "window/viewing/view_preferences.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+using kit::complaintsAbout;
+
+namespace {
+
+class Drawing final : public PrintableView {
+ public:
+  [[nodiscard]] PrintSource printSource() const override {
+    PrintSource source;
+    source.size = {200, 100};
+    source.jobTitle = "A drawing";
+    return source;
+  }
+};
+
+/// What a window needs to be there; the window ends first.
+struct Made {
+  std::shared_ptr<void> needs;
+  std::unique_ptr<QWidget> own;
+  QWidget* window = nullptr;
+};
+
+template <typename Window, typename Needs, typename... Arguments>
+Made made(const std::shared_ptr<Needs>& needs, Arguments&&... arguments) {
+  Made made{needs, std::make_unique<Window>(std::forward<Arguments>(arguments)...), nullptr};
+  made.window = made.own.get();
+  return made;
+}
+
+Made startPanel() {
+  struct Needs {
+    QTemporaryDir folder;
+    QSettings settings{folder.filePath("history.ini"), QSettings::IniFormat};
+    RecentFiles recent{settings};
+  };
+  const auto needs = std::make_shared<Needs>();
+  needs->recent.add(QUrl::fromLocalFile(needs->folder.filePath("history.ini")));
+  return made<StartPanel>(needs, needs->recent);
+}
+
+Made manual() {
+  return made<ManualWindow>(std::make_shared<int>());
+}
+
+Made preferences() {
+  return made<PreferencesPanel>(std::make_shared<int>(), viewPreferences());
+}
+
+Made exporting() {
+  ExportOffer offer;
+  for (const FormatRow& row : formatTable)
+    if (isWritten(row)) offer.formats << row.id;
+  offer.areas = {{ExportArea::Selection, {20, 20}}, {ExportArea::Page, {200, 100}}};
+  offer.folder = QDir::tempPath();
+  offer.name = "a";
+  return made<ExportDialog>(std::make_shared<int>(), nullptr, offer, ExportChoice());
+}
+
+Made rectangle() {
+  return made<RectangleDialog>(std::make_shared<int>(), QRectF(0, 0, 20, 20), QSizeF(200, 100),
+                               LengthUnit::Points, nullptr);
+}
+
+Made printing() {
+  struct Needs {
+    NullPictureService pictures;
+    kit::MemorySpooler spooler{{{"Office", "Office", PrinterState::Idle, true, true}}};
+    std::unique_ptr<NSPrintOperation> operation = NSPrintOperation::printOperationWithView(
+        std::make_unique<Drawing>(), NSPrintInfo(), {&pictures, &spooler, nullptr});
+  };
+  const auto needs = std::make_shared<Needs>();
+  return made<PrintPanel>(needs, *needs->operation, needs->spooler, nullptr);
+}
+
+Made shortcuts() {
+  struct Needs {
+    WindowFixture fixture;
+  };
+  const auto needs = std::make_shared<Needs>();
+  MainWindowController& c = needs->fixture.loadedEps();
+  c.window()->show();
+  showShortcutPanel(*c.window(), *c.menuBar);
+  Made made{needs, nullptr, c.window()->findChild<QDialog*>("shortcutPanel")};
+  return made;
+}
+
+Made document() {
+  const auto needs = std::make_shared<WindowFixture>();
+  MainWindowController& c = needs->loadedEps();
+  c.window()->resize(900, 700);
+  return {needs, nullptr, c.window()};
+}
+
+Made inspector() {
+  const auto needs = std::make_shared<WindowFixture>();
+  MainWindowController& c = needs->loadedEps();
+  c.window()->show();
+  c.showInspectorWindow();
+  return {needs, nullptr, c.inspectorWindow};
+}
+
+using Maker = Made (*)();
+
+void show(const Made& made) {
+  made.window->show();
+  made.window->activateWindow();
+  if (!QTest::qWaitForWindowActive(made.window->window())) qFatal("no active window");
+  QCoreApplication::processEvents();
+}
+
+/// The colours of a desktop for people who see little.
+QPalette highContrast() {
+  QPalette palette;
+  for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::AlternateBase,
+                          QPalette::ToolTipBase, QPalette::HighlightedText})
+    palette.setColor(role, Qt::black);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText,
+                          QPalette::ToolTipText, QPalette::PlaceholderText})
+    palette.setColor(role, Qt::white);
+  for (const auto role : {QPalette::Highlight, QPalette::Link}) palette.setColor(role, Qt::yellow);
+  return palette;
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(Maker)
+
+class AllWindowsTest : public QObject {
+  Q_OBJECT
+
+  static void everyWindow() {
+    QTest::addColumn<Maker>("maker");
+    QTest::newRow("start panel") << &startPanel;
+    QTest::newRow("manual") << &manual;
+    QTest::newRow("preferences") << &preferences;
+    QTest::newRow("export") << &exporting;
+    QTest::newRow("rectangle") << &rectangle;
+    QTest::newRow("print") << &printing;
+    QTest::newRow("shortcuts") << &shortcuts;
+    QTest::newRow("document") << &document;
+    QTest::newRow("inspector") << &inspector;
+  }
+
+ private slots:
+  void everyControlHasANameAndARole_data() { everyWindow(); }
+  void everyControlHasANameAndARole() {
+    QFETCH(Maker, maker);
+    const Made made = maker();
+    show(made);
+    const QStringList complaints = complaintsAbout(made.window);
+    QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join('\n')));
+  }
+
+  /// Somebody who goes through a window with Tab sees where the keyboard is.
+  void theFocusIsSeen_data() { everyWindow(); }
+  void theFocusIsSeen() {
+    QFETCH(Maker, maker);
+    const Made made = maker();
+    show(made);
+    made.window->setAttribute(Qt::WA_KeyboardFocusChange);  // as the key does
+    QStringList unseen;
+    int looked = 0;
+    for (QWidget* widget : made.window->findChildren<QWidget*>()) {
+      const bool reached = (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && widget->isVisible() &&
+                           widget->isEnabled() && !widget->focusProxy() && widget->window() == made.window;
+      // What only scrolls has nothing to mark.
+      if (!reached || qobject_cast<QTextBrowser*>(widget) || qobject_cast<QScrollArea*>(widget)) continue;
+      if (QWidget* now = QApplication::focusWidget()) now->clearFocus();
+      // The button for Return is marked as long as no other one is.
+      const auto* button = qobject_cast<QPushButton*>(widget);
+      if (button && button->isDefault()) continue;
+      const QImage before = widget->grab().toImage();
+      widget->setFocus(Qt::TabFocusReason);
+      QCoreApplication::processEvents();
+      if (!widget->hasFocus()) continue;
+      ++looked;
+      if (widget->grab().toImage() == before)
+        unseen << QStringLiteral("%1 %2").arg(widget->metaObject()->className(), widget->objectName());
+    }
+    QVERIFY(looked > 0);
+    QVERIFY2(unseen.isEmpty(), qPrintable(unseen.join('\n')));
+  }
+
+  void onBlackEveryControlHasAnOutline_data() {
+    QTest::addColumn<Maker>("maker");
+    QTest::newRow("preferences") << &preferences;
+    QTest::newRow("export") << &exporting;
+    QTest::newRow("print") << &printing;
+  }
+  void onBlackEveryControlHasAnOutline() {
+    QFETCH(Maker, maker);
+    const QPalette before = QApplication::palette();
+    QApplication::setStyle(new OutlinedStyle(QStringLiteral("fusion")));
+    QApplication::setPalette(highContrast());
+    {
+      const Made made = maker();
+      show(made);
+      for (QWidget* widget : made.window->findChildren<QWidget*>()) {
+        const bool framed = widget->inherits("QComboBox") || widget->inherits("QAbstractSpinBox") ||
+                            widget->inherits("QPushButton");
+        if (!framed || !widget->isVisible() || !widget->isEnabled()) continue;
+        const QImage image = widget->grab().toImage();
+        const QColor edge = image.pixelColor(image.width() / 2, 0).lightness() >
+                                    image.pixelColor(image.width() / 2, 1).lightness()
+                                ? image.pixelColor(image.width() / 2, 0)
+                                : image.pixelColor(image.width() / 2, 1);
+        QVERIFY2(edge.lightness() > 100, qPrintable(widget->objectName()));
+      }
+    }
+    QApplication::setPalette(before);
+    QApplication::setStyle(QStringLiteral("fusion"));
+  }
+
+  void textsOfTwiceTheSizeHaveRoom_data() { everyWindow(); }
+  void textsOfTwiceTheSizeHaveRoom() {
+    QFETCH(Maker, maker);
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 2);
+    QApplication::setFont(large);
+    QStringList cut;
+    {
+      const Made made = maker();
+      show(made);
+      for (const QLabel* label : made.window->findChildren<QLabel*>())
+        if (label->isVisible() && !label->wordWrap() && !label->text().isEmpty() &&
+            label->height() < label->fontMetrics().height() - 2)
+          cut << label->text();
+      for (const QWidget* widget : made.window->findChildren<QWidget*>())
+        if (widget->isVisible() && (widget->inherits("QPushButton") || widget->inherits("QCheckBox")) &&
+            (widget->width() < widget->sizeHint().width() - 2 ||
+             widget->height() < widget->sizeHint().height() - 2))
+          cut << widget->accessibleName() + widget->objectName();
+    }
+    QApplication::setFont(usual);
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));
+  }
+};
+
+NORVEX_TEST(AllWindowsTest)
+#include "all_windows_test.moc"

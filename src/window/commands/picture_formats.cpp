@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "desktop/pastable_svg.h"
 #include "display/picture_geometry.h"
 #include "encoders/encoded_picture.h"
 #include "picture/eps_image_rep.h"
@@ -201,7 +202,8 @@ PictureFormats translatedFormats(const PictureFormats& offered, const PictureSna
   if (offered.indexOf(UTTypeSVG()) < 0)
     made.append(QString::fromLatin1(ZySVGPboardType), UTTypeSVG(), [snapshot, cancel = offered.cancel] {
       const QByteArray svg = insideRect(snapshot, cancel, PictureFormat::Svg);
-      return svg.contains("<svg") ? svg : QByteArray();  // an engine that has no SVG may answer with its own
+      // An engine that has no SVG may answer with its own.
+      return svg.contains("<svg") ? pastableSvg(svg) : QByteArray();
     });
   if (offered.indexOf(UTTypePDF()) < 0) appendPdf(made, snapshot);
   if (offered.indexOf(epsType()) < 0) appendEps(made, snapshot, nullptr);

@@ -71,6 +71,14 @@ class ReaderTest : public QObject {
     QVERIFY(line.console.messages.contains("cannot both come from standard input"));
   }
 
+  void anArchiveTakesItFromAFile() {
+    CommandLine line;
+    QCOMPARE(line.run({"convert", "--recursive", line.path("."), "--to", line.path("out"), "--format", "png",
+                       "--password-file", "-"}),
+             2);
+    QVERIFY2(line.console.messages.contains("comes from a file"), qPrintable(line.console.messages));
+  }
+
   void everyCommandThatReadsDocumentsTakesOne() {
     CommandLine line;
     protect(line);

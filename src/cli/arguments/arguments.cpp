@@ -124,6 +124,8 @@ QString complaintAboutArchive(const Arguments& arguments) {
   if (!listed && !tree && arguments.files.isEmpty()) return QStringLiteral("no file is given");
   if (arguments.files.contains(QStringLiteral("-")))
     return QStringLiteral("standard input is not one of the files of an archive (--files-from - lists them)");
+  if (arguments.values.value(Option::PasswordFile) == QLatin1String("-"))
+    return QStringLiteral("the password of an archive comes from a file, not from standard input");
   if (arguments.has(Option::Output) && takesFolder(arguments.command))
     return QStringLiteral("-o does not go with %1: the results go to a folder (--to DIR)")
         .arg(archiveOptionOf(arguments));

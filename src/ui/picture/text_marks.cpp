@@ -16,7 +16,7 @@ namespace {
 constexpr double kMargin = 24, kBelow = 72;
 
 const QColor kFound(255, 214, 0, 110);
-const QColor kCurrent(255, 122, 0, 150);
+const QColor kCurrent(255, 122, 0, 105);
 const QColor kCurrentEdge(150, 60, 0);
 const QColor kSelected(40, 110, 230, 90);
 

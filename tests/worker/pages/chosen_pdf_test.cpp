@@ -8,6 +8,7 @@
 
 #include "kit/test_main.h"
 #include "protocol/every_page.h"
+#include "protocol/limits.h"
 #include "worker/engine/engine.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/chosen_pdf.h"
@@ -226,6 +227,24 @@ class ChosenPdfTest : public QObject {
   void layersOfAnotherDocumentSwitchNothing() {
     const auto opened = open(layered("/OFF [6 0 R]"), {}, {{"Red", false}, {"Yellow", true}});
     QCOMPARE(shownLayers(*opened->engine), QString("R+G-B+"));
+  }
+
+  void noMoreLayersThanCanBeToldAreOffered() {
+    QByteArray order;
+    QList<QByteArray> groups;
+    for (int i = 0; i < limits::maximumLayers + 100; ++i) {
+      order += QByteArray::number(4 + i) + " 0 R ";
+      groups << "<< /Type /OCG /Name (Layer) >>";
+    }
+    const QByteArray pdf =
+        madePdf(QList<QByteArray>{"<< /Type /Catalog /Pages 2 0 R /OCProperties << /OCGs [" + order +
+                                      "] /D << /Order [" + order + "] >> >> >>",
+                                  "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
+                                  "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 30 10] >>"} +
+                groups);
+    const auto opened = open(pdf);
+    QVERIFY(opened->engine);
+    QCOMPARE(opened->engine->facts()->layers.size(), limits::maximumLayers);
   }
 
   void ordersThatNeverEndAreReadOnce() {

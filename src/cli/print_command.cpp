@@ -14,8 +14,10 @@
 #include "document/print_settings.h"
 #include "document/print_titles.h"
 #include "picture/open_picture.h"
+#include "picture/pdf_image_rep.h"
 #include "print/cups_spooler.h"
 #include "print/print_job.h"
+#include "protocol/limits.h"
 
 namespace norvex {
 namespace {
@@ -55,6 +57,14 @@ NSPrintInfo printInfoOf(const Arguments& arguments) {
   return info;
 }
 
+/// Empty where one page was chosen, or there is only one.
+QStringList pagesNotPrinted(const NSImageRep& imageRep, const Arguments& arguments) {
+  const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&imageRep);
+  if (!pdf || pdf->pageCount() == 1 || arguments.has(Option::Page)) return {};
+  return {
+      QStringLiteral("only page 1 of %1 is printed (--page N chooses another one)").arg(pdf->pageCount())};
+}
+
 /// The whole picture as a view of its own, with its titles.
 PrintSource sourceOf(const std::shared_ptr<NSImageRep>& imageRep, const QUrl& fileURL) {
   const QString untitled = localizedString("Untitled");
@@ -71,6 +81,7 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
     return complain(Command::Print, complaint);
   ValueReader values(arguments);
   const PictureLimits limits = values.limits();
+  const int page = values.integer(Option::Page, 1, 1, norvex::limits::maximumPages);
   if (!values.complaint().isEmpty()) return complain(Command::Print, values.complaint());
   const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
   if (!reader) return complain(Command::Print, reader.error().message);
@@ -86,6 +97,7 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
   PictureSource picture = sourceOfInput(*bytes, file);
+  picture.page = page - 1;
 
   const Interruption interruption;
   const CancelToken cancel = interruption.token();
@@ -98,7 +110,7 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   const PrintSource source = sourceOf(*opened, picture.fileURL);
   const Result<PictureBytes> drawing = source.picture(time.token());
   if (!drawing) return fail(file, time.explained(drawing.error()));
-  remark(file, (*opened)->warnings() + drawing->report.warnings);
+  remark(file, (*opened)->warnings() + pagesNotPrinted(**opened, arguments) + drawing->report.warnings);
   const Result<QByteArray> pages = composeJob(source, info, service_, drawing->bytes, time.token());
   if (!pages) return fail(file, time.explained(pages.error()));
   if (!output.isEmpty()) return writeOutput(output, *pages, arguments.has(Option::Force));

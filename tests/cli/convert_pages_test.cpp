@@ -122,6 +122,19 @@ class ConvertPagesTest : public QObject {
     QCOMPARE(document.entries(), QStringList({"a.pdf", "b-2.png", "b-3.png"}));
   }
 
+  void ofSeveralPagesTheOneThatIsPrintedIsTold() {
+    Document document;
+    const QString only = "only page 1 of 3 is printed (--page N chooses another one)";
+    // Memory knows no sheets of paper, so that nothing is printed in the end.
+    (void)document.run({"print", document.pdf, "-o", document.path("p.pdf")});
+    QVERIFY2(document.console.messages.contains(only), qPrintable(document.console.messages));
+    (void)document.run({"print", document.pdf, "-o", document.path("p.pdf"), "--page", "2"});
+    QVERIFY(!document.console.messages.contains(only));
+    QCOMPARE(document.run({"print", document.pdf, "-o", document.path("p.pdf"), "--page", "4"}), 3);
+    QCOMPARE(document.console.messages,
+             QString("norvex: %1: there is no page 4, the document has 3\n").arg(document.pdf));
+  }
+
   void wrongListsAreTold() {
     Document document;
     for (const char* list : {"0", "1-0", "3-2", "a", "1,,2", "-3", "1;2", "ALL", "99999999"}) {

@@ -173,10 +173,11 @@ inline constexpr auto optionTable = std::to_array<OptionRow>({
      "turn the picture counter-clockwise, by any angle"},
     {Option::Crop, only(Command::Convert), 0, "crop", "X,Y,W,H", "",
      "this rectangle alone: points in the turned view, origin at its lower-left corner, y up"},
+
     {Option::Pages, only(Command::Convert), 0, "pages", "LIST", "",
      "these pages of a PDF, each to a file with its number in its name: all, or 1,3-5,8-"},
-    {Option::Page, only(Command::Convert) | only(Command::Inks) | only(Command::Text), 0, "page", "N", "",
-     "the page of a PDF, from 1"},
+    {Option::Page, only(Command::Convert) | only(Command::Inks) | only(Command::Text) | only(Command::Print),
+     0, "page", "N", "", "the page of a PDF, from 1"},
     {Option::Dpi, only(Command::Convert) | only(Command::Inks), 0, "dpi", "N", "",
      "pixels an inch: of the raster formats (72: one a point), of plates (144)"},
     {Option::Background, only(Command::Convert), 0, "background", "COLOR", "",

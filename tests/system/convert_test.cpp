@@ -220,7 +220,8 @@ class ConvertSystemTest : public QObject {
     const QByteArray contents =
         "4 0 obj\n<< /Length 24 >>\nstream\n1 0 0 rg 0 0 90 60 re f \nendstream\nendobj\n";
     const QByteArray trailer = "trailer\n<< /Root 1 0 R /Size 5 >>\n";
-    const QString lost = write("lost.pdf", head + trailer), hurt = write("hurt.pdf", head + contents + trailer);
+    const QString lost = write("lost.pdf", head + trailer),
+                  hurt = write("hurt.pdf", head + contents + trailer);
     for (const char* name : {"a.png", "a.svg", "a.eps", "a.pdf"}) {
       Ran ran = kit::norvex({"convert", lost, "-o", path(name)});
       QCOMPARE(ran.exitCode, 3);

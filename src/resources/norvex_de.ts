@@ -1984,6 +1984,68 @@
     <message>
         <source>Open Address</source>
         <translation>Adresse öffnen</translation>
+        <source>Inks</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Deckung</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>Only This Ink</source>
+        <translation>Nur diese Farbe</translation>
+    </message>
+    <message>
+        <source>All Inks</source>
+        <translation>Alle Farben</translation>
+    </message>
+    <message>
+        <source>Inks as grey plates</source>
+        <translation>Farben als graue Auszüge</translation>
+    </message>
+    <message>
+        <source>Simulate overprinting</source>
+        <translation>Überdrucken simulieren</translation>
+    </message>
+    <message>
+        <source>Mark ink above</source>
+        <translation>Farbe markieren über</translation>
+    </message>
+    <message>
+        <source>Limit of all inks together</source>
+        <translation>Grenze für alle Farben zusammen</translation>
+    </message>
+    <message>
+        <source>The page as its inks print it</source>
+        <translation>Die Seite, wie ihre Farben sie drucken</translation>
+    </message>
+    <message>
+        <source>Most ink in one place: %1</source>
+        <translation>Meiste Farbe an einer Stelle: %1</translation>
+    </message>
+    <message>
+        <source>All inks under the pointer: %1</source>
+        <translation>Alle Farben unter dem Zeiger: %1</translation>
+    </message>
+    <message>
+        <source>The page is being separated into its inks…</source>
+        <translation>Die Seite wird in ihre Farben zerlegt …</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>Es gibt kein Bild.</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

@@ -1984,6 +1984,68 @@
     <message>
         <source>Open Address</source>
         <translation>Open Address</translation>
+        <source>Inks</source>
+        <translation>Inks</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Ink</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Coverage</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Here</translation>
+    </message>
+    <message>
+        <source>Only This Ink</source>
+        <translation>Only This Ink</translation>
+    </message>
+    <message>
+        <source>All Inks</source>
+        <translation>All Inks</translation>
+    </message>
+    <message>
+        <source>Inks as grey plates</source>
+        <translation>Inks as grey plates</translation>
+    </message>
+    <message>
+        <source>Simulate overprinting</source>
+        <translation>Simulate overprinting</translation>
+    </message>
+    <message>
+        <source>Mark ink above</source>
+        <translation>Mark ink above</translation>
+    </message>
+    <message>
+        <source>Limit of all inks together</source>
+        <translation>Limit of all inks together</translation>
+    </message>
+    <message>
+        <source>The page as its inks print it</source>
+        <translation>The page as its inks print it</translation>
+    </message>
+    <message>
+        <source>Most ink in one place: %1</source>
+        <translation>Most ink in one place: %1</translation>
+    </message>
+    <message>
+        <source>All inks under the pointer: %1</source>
+        <translation>All inks under the pointer: %1</translation>
+    </message>
+    <message>
+        <source>The page is being separated into its inks…</source>
+        <translation>The page is being separated into its inks…</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>There is no picture.</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

@@ -1984,6 +1984,68 @@
     <message>
         <source>Open Address</source>
         <translation>Abrir dirección</translation>
+        <source>Inks</source>
+        <translation>Tintas</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Tinta</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Cobertura</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Aquí</translation>
+    </message>
+    <message>
+        <source>Only This Ink</source>
+        <translation>Solo esta tinta</translation>
+    </message>
+    <message>
+        <source>All Inks</source>
+        <translation>Todas las tintas</translation>
+    </message>
+    <message>
+        <source>Inks as grey plates</source>
+        <translation>Tintas como planchas grises</translation>
+    </message>
+    <message>
+        <source>Simulate overprinting</source>
+        <translation>Simular la sobreimpresión</translation>
+    </message>
+    <message>
+        <source>Mark ink above</source>
+        <translation>Marcar tinta por encima de</translation>
+    </message>
+    <message>
+        <source>Limit of all inks together</source>
+        <translation>Límite de todas las tintas juntas</translation>
+    </message>
+    <message>
+        <source>The page as its inks print it</source>
+        <translation>La página tal como la imprimen sus tintas</translation>
+    </message>
+    <message>
+        <source>Most ink in one place: %1</source>
+        <translation>Máxima tinta en un punto: %1</translation>
+    </message>
+    <message>
+        <source>All inks under the pointer: %1</source>
+        <translation>Todas las tintas bajo el puntero: %1</translation>
+    </message>
+    <message>
+        <source>The page is being separated into its inks…</source>
+        <translation>La página se está separando en sus tintas…</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>No hay ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

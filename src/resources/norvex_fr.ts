@@ -1984,6 +1984,68 @@
     <message>
         <source>Open Address</source>
         <translation>Ouvrir l’adresse</translation>
+        <source>Inks</source>
+        <translation>Encres</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Encre</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>Couverture</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>Ici</translation>
+    </message>
+    <message>
+        <source>Only This Ink</source>
+        <translation>Seulement cette encre</translation>
+    </message>
+    <message>
+        <source>All Inks</source>
+        <translation>Toutes les encres</translation>
+    </message>
+    <message>
+        <source>Inks as grey plates</source>
+        <translation>Encres en plaques grises</translation>
+    </message>
+    <message>
+        <source>Simulate overprinting</source>
+        <translation>Simuler la surimpression</translation>
+    </message>
+    <message>
+        <source>Mark ink above</source>
+        <translation>Marquer l’encre au-delà de</translation>
+    </message>
+    <message>
+        <source>Limit of all inks together</source>
+        <translation>Limite de toutes les encres ensemble</translation>
+    </message>
+    <message>
+        <source>The page as its inks print it</source>
+        <translation>La page telle que ses encres l’impriment</translation>
+    </message>
+    <message>
+        <source>Most ink in one place: %1</source>
+        <translation>Le plus d’encre en un point : %1</translation>
+    </message>
+    <message>
+        <source>All inks under the pointer: %1</source>
+        <translation>Toutes les encres sous le pointeur : %1</translation>
+    </message>
+    <message>
+        <source>The page is being separated into its inks…</source>
+        <translation>La page est séparée en ses encres…</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>Il n’y a pas d’image.</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

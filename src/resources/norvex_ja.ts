@@ -1984,6 +1984,68 @@
     <message>
         <source>Open Address</source>
         <translation>アドレスを開く</translation>
+        <source>Inks</source>
+        <translation>インキ</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>インキ</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>面積率</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>ここ</translation>
+    </message>
+    <message>
+        <source>Only This Ink</source>
+        <translation>このインキのみ</translation>
+    </message>
+    <message>
+        <source>All Inks</source>
+        <translation>すべてのインキ</translation>
+    </message>
+    <message>
+        <source>Inks as grey plates</source>
+        <translation>インキをグレーの版で表示</translation>
+    </message>
+    <message>
+        <source>Simulate overprinting</source>
+        <translation>オーバープリントをシミュレート</translation>
+    </message>
+    <message>
+        <source>Mark ink above</source>
+        <translation>次の値を超えるインキを示す</translation>
+    </message>
+    <message>
+        <source>Limit of all inks together</source>
+        <translation>全インキ合計の上限</translation>
+    </message>
+    <message>
+        <source>The page as its inks print it</source>
+        <translation>インキで印刷されたページ</translation>
+    </message>
+    <message>
+        <source>Most ink in one place: %1</source>
+        <translation>一箇所の最大インキ量：%1</translation>
+    </message>
+    <message>
+        <source>All inks under the pointer: %1</source>
+        <translation>ポインタの下の全インキ：%1</translation>
+    </message>
+    <message>
+        <source>The page is being separated into its inks…</source>
+        <translation>ページをインキごとに分版しています…</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>画像がありません。</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>

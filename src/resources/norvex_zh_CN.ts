@@ -1984,6 +1984,68 @@
     <message>
         <source>Open Address</source>
         <translation>打开地址</translation>
+        <source>Inks</source>
+        <translation>油墨</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>油墨</translation>
+    </message>
+    <message>
+        <source>Coverage</source>
+        <translation>覆盖率</translation>
+    </message>
+    <message>
+        <source>Here</source>
+        <translation>此处</translation>
+    </message>
+    <message>
+        <source>Only This Ink</source>
+        <translation>仅此油墨</translation>
+    </message>
+    <message>
+        <source>All Inks</source>
+        <translation>全部油墨</translation>
+    </message>
+    <message>
+        <source>Inks as grey plates</source>
+        <translation>以灰度印版显示油墨</translation>
+    </message>
+    <message>
+        <source>Simulate overprinting</source>
+        <translation>模拟叠印</translation>
+    </message>
+    <message>
+        <source>Mark ink above</source>
+        <translation>标出总墨量高于</translation>
+    </message>
+    <message>
+        <source>Limit of all inks together</source>
+        <translation>全部油墨之和的上限</translation>
+    </message>
+    <message>
+        <source>The page as its inks print it</source>
+        <translation>由油墨印成的页面</translation>
+    </message>
+    <message>
+        <source>Most ink in one place: %1</source>
+        <translation>单处最大墨量：%1</translation>
+    </message>
+    <message>
+        <source>All inks under the pointer: %1</source>
+        <translation>指针下的总墨量：%1</translation>
+    </message>
+    <message>
+        <source>The page is being separated into its inks…</source>
+        <translation>正在将页面分为各油墨…</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>没有图片。</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
     </message>
 </context>
 <context>

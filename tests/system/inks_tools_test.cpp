@@ -108,6 +108,16 @@ class InksToolsTest : public QObject {
     QVERIFY(ran.out.startsWith("Cyan     process"));
   }
 
+  void aPdfThatNobodyExpectedHasInksToo() {
+    const QTemporaryDir folder;
+    QCOMPARE(
+        kit::norvex({"convert", written(folder, "a.eps", kEps), "-o", folder.filePath("a.pdf")}).exitCode, 0);
+    // By its name there is nothing for an interpreter to do.
+    const QString file = folder.filePath("a.svg");
+    QVERIFY(QFile::rename(folder.filePath("a.pdf"), file));
+    QCOMPARE(inksOf(file)["inks"].toArray().size(), 4);
+  }
+
   void aPictureThatIsTooLargeIsALimit() {
     const QTemporaryDir folder;
     const kit::Ran ran = kit::norvex({"inks", "--dpi", "20000", written(folder, "a.eps", kEps)});

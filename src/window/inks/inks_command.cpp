@@ -1,0 +1,115 @@
+#include "window/inks/inks_command.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPointer>
+#include <QTabWidget>
+#include <QtConcurrent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/localized_string.h"
+#include "base/sentence.h"
+#include "base/waiting_threads.h"
+#include "display/norvex_view.h"
+#include "picture/image_rep.h"
+#include "picture/inks/ink_image.h"
+#include "picture/told_error.h"
+#include "ui/inks/inks_page.h"
+#include "window/commands/window_parts.h"
+
+namespace norvex {
+namespace {
+
+/// Sharp in the inspector, and read under the pointer as finely as it can point.
+constexpr double kUsualDpi = 144, kPixels = 2.0e6;
+
+double dpiFor(const QSizeF& points) {
+  const double area = std::max(1.0, points.width() * points.height());
+  return std::clamp(72 * std::sqrt(kPixels / area), 1.0, kUsualDpi);
+}
+
+}  // namespace
+
+InksCommand::InksCommand(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
+
+InksCommand::~InksCommand() {
+  separating_.cancel();
+  composing_.cancel();
+}
+
+void InksCommand::setUp() {
+  page_ = new InksPage(parts_.inspectorTabs);
+  parts_.inspectorTabs->addTab(page_, localizedString("Inks"));
+  page_->installEventFilter(this);
+  connect(page_, &InksPage::choiceChanged, this, &InksCommand::compose);
+  connect(page_, &InksPage::overprintChanged, this, &InksCommand::pictureDidChange);
+  connect(page_, &InksPage::pointed, this, &InksCommand::showAmounts);
+}
+
+bool InksCommand::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == page_ && event->type() == QEvent::Show) separate();
+  return QObject::eventFilter(watched, event);
+}
+
+void InksCommand::pictureDidChange() {
+  separating_.cancel();
+  composing_.cancel();
+  end();
+  asked_ = false;
+  inks_.reset();
+  page_->showImage({});
+  page_->showAmounts({});
+  if (page_->isVisible()) separate();
+}
+
+void InksCommand::separate() {
+  if (asked_) return;
+  const auto rep = parts_.view() ? parts_.view()->imageRep() : nullptr;
+  if (!rep) return page_->tell(localizedString("There is no picture."));
+  asked_ = true;
+  separating_ = CancelToken();
+  const QString told = localizedString("The page is being separated into its inks…");
+  work_ = parts_.work().begin(WindowWork::Kind::Reading, told, separating_);
+  page_->tell(told);
+  const SeparationRequest request{rep->page(), dpiFor(rep->size()), page_->simulatesOverprint()};
+  QPointer<InksCommand> self(this);
+  QtConcurrent::run(&waitingThreads(), [process = rep->process(), kind = rep->pictureKind(), request,
+                                        cancel = separating_] {
+    return separatedPage(*process, kind, request, cancel);
+  }).then(qApp, [self, number = work_](const Result<SeparatedPage>& page) {
+    if (self && self->work_ == number) self->take(page);  // otherwise something else is shown by now
+  });
+}
+
+void InksCommand::end() {
+  if (work_ != 0) parts_.work().end(std::exchange(work_, 0));
+}
+
+void InksCommand::take(const Result<SeparatedPage>& page) {
+  end();
+  if (!page) return page_->tell(asSentence(toldError(page.error()).sentence));
+  inks_ = std::make_shared<const PageInks>(page->inks);
+  page_->showInks(*inks_, mostInk(*inks_));
+  compose();
+}
+
+void InksCommand::compose() {
+  if (!inks_) return;
+  composing_.cancel();
+  composing_ = CancelToken();
+  QPointer<InksCommand> self(this);
+  QtConcurrent::run(&waitingThreads(), [inks = inks_, choice = page_->choice(), cancel = composing_] {
+    return inkImage(*inks, choice, cancel);
+  }).then(qApp, [self, cancel = composing_](const QImage& image) {
+    if (self && !cancel.cancelled()) self->page_->showImage(image);
+  });
+}
+
+void InksCommand::showAmounts(QPoint pixel) {
+  if (inks_) page_->showAmounts(inksAt(*inks_, pixel));
+}
+
+}  // namespace norvex

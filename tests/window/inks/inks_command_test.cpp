@@ -1,0 +1,172 @@
+// The inks of the picture in a window: separated once they are looked at, put together as they are chosen.
+#include <QCheckBox>
+#include <QLabel>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include <mutex>
+
+#include "kit/test_main.h"
+#include "protocol/page_inks.h"
+#include "ui/inks/inks_page.h"
+#include "ui/inks/separation_view.h"
+#include "window/viewing/pages_command.h"
+#include "window/window_fixture.h"
+
+using namespace norvex;
+
+namespace {
+
+/// Two pixels: cyan and gold.
+PageInks twoPixels() {
+  PageInks page;
+  page.pixels = QSize(2, 1);
+  for (const char* name : {"Cyan", "Magenta", "Yellow", "Black"}) page.inks << Ink{name, false, {}, 0, 0};
+  page.inks << Ink{"Gold", true, ProcessInks{0, 0, 255, 0}, 0.5, 0.5};
+  page.plates = QByteArray("\xff\0\0\0\0\0\0\0\0\xff", 10);
+  return page;
+}
+
+struct Asked {
+  std::mutex mutex;
+  QList<ExamineRequest> requests;
+};
+
+class InksFixture : public WindowFixture {
+ public:
+  explicit InksFixture(int pages = 1) {
+    MemoryPicture picture;
+    for (int i = 0; i < pages; ++i) picture.facts.pageBounds << QRectF(0, 0, 200, 100);
+    picture.facts.pageBounds.resize(pages);
+    picture.facts.pageCount = pages;
+    picture.examine = [asked = asked](const ExamineRequest& request) {
+      const std::lock_guard lock(asked->mutex);
+      asked->requests << request;
+      return encodePageInks(twoPixels());
+    };
+    service.setPicture(picture);
+  }
+  MainWindowController& openPdf() {
+    controller = &open(emptyPdf({200, 100}), "a.pdf", "com.adobe.pdf");
+    controller->window();
+    controller->windowDidLoad();
+    return *controller;
+  }
+  /// As somebody who opens the inspector at the page does.
+  void look() {
+    controller->inspectorTabs->setCurrentWidget(&page());
+    controller->inspectorWindow->show();
+  }
+  InksPage& page() { return *controller->inspectorWindow->findChild<InksPage*>(); }
+  QTreeWidget& list() { return *page().findChild<QTreeWidget*>(); }
+  [[nodiscard]] QImage image() { return page().findChild<SeparationView*>()->image(); }
+  [[nodiscard]] bool listsInks() {
+    return QTest::qWaitFor([this] { return list().topLevelItemCount() == 5 && !image().isNull(); }, 20000);
+  }
+  QString sentence() {
+    for (const auto* label : page().findChildren<QLabel*>())
+      if (label->isVisible() && label->wordWrap()) return label->text();
+    return {};
+  }
+  QList<ExamineRequest> requests() {
+    const std::lock_guard lock(asked->mutex);
+    return asked->requests;
+  }
+
+  MainWindowController* controller = nullptr;
+  /// Threads that a window leaves behind may come back to it last.
+  const std::shared_ptr<Asked> asked = std::make_shared<Asked>();
+};
+
+}  // namespace
+
+class InksCommandTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void nothingIsSeparatedBeforeItIsLookedAt() {
+    InksFixture f;
+    f.openPdf();
+    f.controller->inspectorWindow->show();
+    QTest::qWait(50);
+    QVERIFY(f.requests().isEmpty());
+    f.look();
+    QVERIFY(f.listsInks());
+    const QList<ExamineRequest> requests = f.requests();
+    QCOMPARE(requests.size(), 1);
+    QCOMPARE(requests[0].what, Examination::Inks);
+    QCOMPARE(requests[0].page, 0);
+    QCOMPARE(requests[0].dpi, 144.0);
+    QVERIFY(!requests[0].overprint);
+    QCOMPARE(f.image().pixel(0, 0), qRgb(0, 173, 239));
+    QCOMPARE(f.image().pixel(1, 0), qRgb(255, 242, 0));
+  }
+
+  void aSwitchAsksTheEngineNothing() {
+    InksFixture f;
+    f.openPdf();
+    f.look();
+    QVERIFY(f.listsInks());
+    f.list().topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+    QVERIFY(QTest::qWaitFor([&] { return f.image().pixel(0, 0) == qRgb(255, 255, 255); }, 20000));
+    QCOMPARE(f.image().pixel(1, 0), qRgb(255, 242, 0));
+    QCOMPARE(f.requests().size(), 1);
+  }
+
+  void overprintingIsSeparatedAnew() {
+    InksFixture f;
+    f.openPdf();
+    f.look();
+    QVERIFY(f.listsInks());
+    for (auto* box : f.page().findChildren<QCheckBox*>())
+      if (box->text() == "Simulate overprinting") box->click();
+    QVERIFY(QTest::qWaitFor([&] { return f.requests().size() == 2; }, 20000));
+    QVERIFY(f.requests().last().overprint);
+    QVERIFY(f.listsInks());
+  }
+
+  void anotherPageHasItsOwnInks() {
+    InksFixture f(2);
+    f.openPdf();
+    f.look();
+    QVERIFY(f.listsInks());
+    f.controller->findChild<PagesCommand*>()->show(1);
+    QVERIFY(QTest::qWaitFor([&] { return f.requests().size() == 2; }, 20000));
+    QCOMPARE(f.requests().last().page, 1);
+  }
+
+  void whatCannotBeSeparatedIsASentence() {
+    InksFixture f;
+    f.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Examine, {ErrorKind::Limit, "the plates are too large"});
+    });
+    f.openPdf();
+    f.look();
+    QVERIFY(QTest::qWaitFor([&] { return f.sentence() == "The plates are too large."; }, 20000));
+  }
+
+  void aWindowThatIsClosedDoesNotWaitForItsInks() {
+    InksFixture f;
+    f.service.setPrepare([](MemoryPictureProcess& process) { process.hold(PictureCall::Examine); });
+    f.openPdf();
+    f.look();
+    const auto process = f.service.lastProcess();
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    f.controller->window()->close();
+    QVERIFY(QTest::qWaitFor([&] { return process->cancelledCalls() > 0; }, 20000));
+  }
+
+  void thePointerReadsTheInks() {
+    InksFixture f;
+    f.openPdf();
+    f.look();
+    QVERIFY(f.listsInks());
+    emit f.page().pointed({1, 0});
+    QCOMPARE(f.list().topLevelItem(0)->text(2), "0 %");
+    QCOMPARE(f.list().topLevelItem(4)->text(2), "100 %");
+    emit f.page().pointed({-1, -1});
+    QCOMPARE(f.list().topLevelItem(4)->text(2), "");
+  }
+};
+
+NORVEX_TEST(InksCommandTest)
+#include "inks_command_test.moc"

@@ -9,8 +9,10 @@
 
 #include "base/localized_string.h"
 #include "ui/check/check_page.h"
+#include "ui/inks/inks_page.h"
 #include "window/check/check_command.h"
 #include "window/check/repair_command.h"
+#include "window/inks/inks_command.h"
 #include "window/main_window_controller.h"
 #include "window/viewing/pages_command.h"
 
@@ -58,7 +60,17 @@ QWidget* makeCheckPage(MainWindowController& window, QWidget* page) {
   return shown;
 }
 
-constexpr std::array kPages{InspectorPage{"checkPage", "Check", makeCheckPage}};
+QWidget* makeInksPage(MainWindowController& window, QWidget* page) {
+  auto* shown = new InksPage(page);
+  auto* inks = new InksCommand(window, *shown, page);
+  QObject::connect(&window, &MainWindowController::documentShown, inks, &InksCommand::pictureDidChange);
+  if (const auto* pages = window.findChild<PagesCommand*>())
+    QObject::connect(pages, &PagesCommand::pageDidChange, inks, &InksCommand::pictureDidChange);
+  return shown;
+}
+
+constexpr std::array kPages{InspectorPage{"checkPage", "Check", makeCheckPage},
+                            InspectorPage{"inksPage", "Inks", makeInksPage}};
 
 }  // namespace
 

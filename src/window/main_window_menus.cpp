@@ -11,7 +11,6 @@
 #include "ui_MainWindowController.h"
 #include "window/commands/window_frames.h"
 #include "window/export/export_command.h"
-#include "window/inks/inks_command.h"
 #include "window/inspector/docked_inspector.h"
 #include "window/main_window_controller.h"
 #include "window/reader_set_up.h"
@@ -94,10 +93,6 @@ void MainWindowController::setUpViewing() {
     messages_.watchPicture(std::dynamic_pointer_cast<StoppableProcess>(view()->imageRep()->process()));
     setWindowSize();
   });
-  auto* inks = new InksCommand(*this, this);
-  inks->setUp();
-  connect(this, &MainWindowController::documentShown, inks, &InksCommand::pictureDidChange);
-  connect(pages, &PagesCommand::pageDidChange, inks, &InksCommand::pictureDidChange);
   auto* fit = new StickyFit(*this, this);
   QList<QAction*> viewActions = ui_->viewMenu->actions();
   ui_->viewMenu->insertAction(viewActions.value(viewActions.indexOf(ui_->fitAction) + 1),

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QPointer>
-#include <QTabWidget>
 #include <QtConcurrent>
 
 #include <algorithm>
@@ -33,24 +32,21 @@ double dpiFor(const QSizeF& points) {
 
 }  // namespace
 
-InksCommand::InksCommand(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
+InksCommand::InksCommand(WindowParts& parts, InksPage& page, QObject* parent)
+    : QObject(parent), parts_(parts), page_(page) {
+  page_.installEventFilter(this);
+  connect(&page_, &InksPage::choiceChanged, this, &InksCommand::compose);
+  connect(&page_, &InksPage::overprintChanged, this, &InksCommand::pictureDidChange);
+  connect(&page_, &InksPage::pointed, this, &InksCommand::showAmounts);
+}
 
 InksCommand::~InksCommand() {
   separating_.cancel();
   composing_.cancel();
 }
 
-void InksCommand::setUp() {
-  page_ = new InksPage(parts_.inspectorTabs);
-  parts_.inspectorTabs->addTab(page_, localizedString("Inks"));
-  page_->installEventFilter(this);
-  connect(page_, &InksPage::choiceChanged, this, &InksCommand::compose);
-  connect(page_, &InksPage::overprintChanged, this, &InksCommand::pictureDidChange);
-  connect(page_, &InksPage::pointed, this, &InksCommand::showAmounts);
-}
-
 bool InksCommand::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == page_ && event->type() == QEvent::Show) separate();
+  if (watched == &page_ && event->type() == QEvent::Show) separate();
   return QObject::eventFilter(watched, event);
 }
 
@@ -60,21 +56,21 @@ void InksCommand::pictureDidChange() {
   end();
   asked_ = false;
   inks_.reset();
-  page_->showImage({});
-  page_->showAmounts({});
-  if (page_->isVisible()) separate();
+  page_.showImage({});
+  page_.showAmounts({});
+  if (page_.isVisible()) separate();
 }
 
 void InksCommand::separate() {
   if (asked_) return;
   const auto rep = parts_.view() ? parts_.view()->imageRep() : nullptr;
-  if (!rep) return page_->tell(localizedString("There is no picture."));
+  if (!rep) return page_.tell(localizedString("There is no picture."));
   asked_ = true;
   separating_ = CancelToken();
   const QString told = localizedString("The page is being separated into its inks…");
   work_ = parts_.work().begin(WindowWork::Kind::Reading, told, separating_);
-  page_->tell(told);
-  const SeparationRequest request{rep->page(), dpiFor(rep->size()), page_->simulatesOverprint()};
+  page_.tell(told);
+  const SeparationRequest request{rep->page(), dpiFor(rep->size()), page_.simulatesOverprint()};
   QPointer<InksCommand> self(this);
   QtConcurrent::run(&waitingThreads(), [process = rep->process(), kind = rep->pictureKind(), request,
                                         cancel = separating_] {
@@ -90,9 +86,9 @@ void InksCommand::end() {
 
 void InksCommand::take(const Result<SeparatedPage>& page) {
   end();
-  if (!page) return page_->tell(asSentence(toldError(page.error()).sentence));
+  if (!page) return page_.tell(asSentence(toldError(page.error()).sentence));
   inks_ = std::make_shared<const PageInks>(page->inks);
-  page_->showInks(*inks_, mostInk(*inks_));
+  page_.showInks(*inks_, mostInk(*inks_));
   compose();
 }
 
@@ -101,15 +97,15 @@ void InksCommand::compose() {
   composing_.cancel();
   composing_ = CancelToken();
   QPointer<InksCommand> self(this);
-  QtConcurrent::run(&waitingThreads(), [inks = inks_, choice = page_->choice(), cancel = composing_] {
+  QtConcurrent::run(&waitingThreads(), [inks = inks_, choice = page_.choice(), cancel = composing_] {
     return inkImage(*inks, choice, cancel);
   }).then(qApp, [self, cancel = composing_](const QImage& image) {
-    if (self && !cancel.cancelled()) self->page_->showImage(image);
+    if (self && !cancel.cancelled()) self->page_.showImage(image);
   });
 }
 
 void InksCommand::showAmounts(QPoint pixel) {
-  if (inks_) page_->showAmounts(inksAt(*inks_, pixel));
+  if (inks_) page_.showAmounts(inksAt(*inks_, pixel));
 }
 
 }  // namespace norvex

@@ -21,11 +21,10 @@ class WindowParts;
 class InksCommand final : public QObject {
   Q_OBJECT
  public:
-  InksCommand(WindowParts& parts, QObject* parent);
+  /// `page` outlives it.
+  InksCommand(WindowParts& parts, InksPage& page, QObject* parent);
   ~InksCommand() override;
 
-  /// Adds the page to the inspector.
-  void setUp();
   /// The window shows another document, another state of it or another page.
   void pictureDidChange();
 
@@ -40,7 +39,7 @@ class InksCommand final : public QObject {
   void showAmounts(QPoint pixel);
 
   WindowParts& parts_;
-  InksPage* page_ = nullptr;
+  InksPage& page_;
   std::shared_ptr<const PageInks> inks_;  ///< of what is shown; null: not yet, or there are none
   bool asked_ = false;
   int work_ = 0;  ///< the separation's number among the work of the window; 0: none is under way

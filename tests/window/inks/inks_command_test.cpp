@@ -54,7 +54,7 @@ class InksFixture : public WindowFixture {
   }
   /// As somebody who opens the inspector at the page does.
   void look() {
-    controller->inspectorTabs->setCurrentWidget(&page());
+    controller->inspectorTabs->setCurrentWidget(controller->inspectorWindow->findChild<QWidget*>("inksPage"));
     controller->inspectorWindow->show();
   }
   InksPage& page() { return *controller->inspectorWindow->findChild<InksPage*>(); }

@@ -53,8 +53,7 @@ struct EarlyPictureService::Begun {
   Result<PictureFacts> facts = workCancelled();  ///< once they are told
 };
 
-/// Its program may be running for nobody yet. Calls are served one after the other, so whoever asks for more
-/// than the facts waits for that run, and whoever cancels means it, too.
+/// Its facts may be on their way for nobody yet.
 class EarlyPictureService::Process final : public ForwardingProcess {
  public:
   Process(std::shared_ptr<PictureProcess> process, std::shared_ptr<Begun> begun, CancelToken early)
@@ -65,10 +64,6 @@ class EarlyPictureService::Process final : public ForwardingProcess {
     if (!begun_->told.pass(cancel)) return workCancelled();
     if (begun_->facts && !begun_->ended.isOpen()) return begun_->facts;
     return ForwardingProcess::facts(cancel);
-  }
-  Result<QImage> render(const RenderRequest& request, const CancelToken& cancel) override {
-    const CancelListener listener(cancel, [early = early_] { early.cancel(); });
-    return ForwardingProcess::render(request, cancel);
   }
 
  private:
@@ -110,11 +105,8 @@ void EarlyPictureService::read(const QString& path) {
     early_ =
         std::make_shared<Early>(Early{*bytes, *kind, std::make_shared<Process>(process, begun, ending_)});
   }
-  // They must not wait for a program.
   begun->facts = process->facts(ending_);
   begun->told.open();
-  // The outcome, a failure as well, stays in the process: the first drawing finds it.
-  if (*kind == PictureKind::Eps && !ending_.cancelled()) (void)process->pdf({}, ending_);
   begun->ended.open();
 }
 

@@ -14,8 +14,8 @@
 namespace norvex {
 
 /// Reads and opens one file on a thread of its own, as its window will: when that asks for the same bytes,
-/// their facts are there, and a PostScript program has been running all the time. An early picture that
-/// nobody asks for is given up at the end. `service` must outlive it. Thread-safe.
+/// their facts are there, and what its process loads is loaded. An early picture that nobody asks for is
+/// given up at the end. `service` must outlive it. Thread-safe.
 class EarlyPictureService final : public ForwardingService {
  public:
   explicit EarlyPictureService(PictureService& service) : ForwardingService(service) {}

@@ -1,8 +1,10 @@
 // The records of a Windows metafile, carried out one after the other.
 #pragma once
 
+#include <QPoint>
+#include <QRect>
+#include <QRectF>
 #include <QSize>
-#include <QStringList>
 
 #include <cairo.h>
 

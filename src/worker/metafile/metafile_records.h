@@ -6,6 +6,8 @@
 #include <QList>
 #include <QRect>
 
+#include <algorithm>
+
 #include "base/result.h"
 
 namespace norvex::engine {

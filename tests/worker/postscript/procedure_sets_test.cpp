@@ -1,6 +1,9 @@
 // Which files get procedure sets of ours, text, and what is told of what is not understood.
 #include "worker/postscript/procedure_sets.h"
 
+#include <QDir>
+#include <QFile>
+
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "worker/kit/drawn_eps.h"

@@ -346,10 +346,13 @@ class SelectionSystemTest : public QObject {
     return marked && session_->isAlive();
   }
 
-  /// What differs outside the picture's surroundings: the bar with the two fields at the window's lower edge.
+  /// What differs outside the picture and its handles: the bar with the two fields at the window's lower
+  /// edge.
   static QRect changed(const QImage& before, const QImage& after) {
     const QRect paper = paperIn(before);
-    const QRect below(0, paper.bottom() + 10, before.width(), before.height() - paper.bottom() - 10);
+    constexpr int kHandles = 16;
+    const QRect below(0, paper.bottom() + kHandles, before.width(),
+                      before.height() - paper.bottom() - kHandles);
     return boundsOf(below, [&](int x, int y) {
       return before.pixel(x, y) != after.pixel(x, y) && !isRed(after.pixel(x, y));
     });

@@ -46,9 +46,6 @@ const QMap<QString, QString> kUnreached{
     {"maximumPrinterLooks", "fifteen seconds of a print service that says nothing"},
     {"maximumSvgGlyphs", "two hundred thousand letters, each of another shape"},
     {"maximumPixelsTogether", "bounds memory alone: the output is the same on both sides of it"},
-    {"maximumInks", "of a separation that nothing asks for yet"},
-    {"maximumPlatePixels", "of a separation that nothing asks for yet"},
-    {"maximumLetters", "of a text that nothing asks for yet"},
 };
 
 }  // namespace

@@ -85,7 +85,6 @@ void fields(V& v, Of<V, ComposeRequest>& compose) {
   v.number(Key("rotate"), compose.rotate, -limits::maximumPoints, limits::maximumPoints);
   v.optional(Key("information"), compose.attributes, [&](auto& some) { v.nested(Key("information"), some); });
   v.boolean(Key("keepActions"), compose.keepActions);
-  v.boolean(Key("keepText"), compose.keepText);
 }
 
 template <typename V>

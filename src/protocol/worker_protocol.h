@@ -92,7 +92,6 @@ struct ComposeRequest {
   double rotate = 0;  ///< radians, counter-clockwise positive
   std::optional<PdfAttributes> attributes = {};  ///< of the new PDF; an EPS has none
   bool keepActions = false;                      ///< as in PdfRequest
-  bool keepText = false;  ///< Svg: text stays text with its fonts embedded; otherwise it becomes outlines
 };
 
 /// The document as SVG text. Only for PictureKind::Svg.

@@ -25,7 +25,7 @@ class ReadoutField final : public QToolButton {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   }
   [[nodiscard]] QSize sizeHint() const override {
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("00000.0, 00000.0 mm")) + 12;
+    const int width = fontMetrics().horizontalAdvance(QStringLiteral("00000.0, 00000.0 mm")) + 16;
     return {width, QToolButton::sizeHint().height()};
   }
   [[nodiscard]] QSize minimumSizeHint() const override { return {0, QToolButton::sizeHint().height()}; }
@@ -33,7 +33,8 @@ class ReadoutField final : public QToolButton {
  protected:
   void paintEvent(QPaintEvent* event) override {
     // Half a number is worse than none.
-    if (fontMetrics().horizontalAdvance(text()) <= width()) QToolButton::paintEvent(event);
+    constexpr int kEdges = 10;  // of the style, at both sides
+    if (fontMetrics().horizontalAdvance(text()) + kEdges <= width()) QToolButton::paintEvent(event);
   }
 };
 

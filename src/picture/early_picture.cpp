@@ -95,7 +95,8 @@ void EarlyPictureService::read(const QString& path) {
   if (!bytes) return;
   const QString type = identifyType(*bytes, QFileInfo(path).fileName()).identifier();
   const Result<PictureKind> kind = pictureKindOf(*bytes, type);
-  if (!kind) return;
+  if (!kind || *kind == PictureKind::Eps)
+    return;  // its process begins with its program, which somebody must be able to stop
   const auto begun = std::make_shared<Begun>();
   std::shared_ptr<PictureProcess> process;
   {

@@ -11,7 +11,6 @@
 
 #include "base/cancel_token.h"
 #include "cli/arguments/page_list.h"
-#include "cli/page_list.h"
 #include "cli/reader/reader_options.h"
 #include "encoders/encoded_picture.h"
 #include "picture/open_picture.h"

@@ -95,6 +95,7 @@ QWidget* StartPanel::makeWelcome() {
   auto* column = new QVBoxLayout(welcome);
   column->setContentsMargins(28, 28, 28, 28);
   icon_ = new QLabel(welcome);
+  icon_->setAccessibleName(QStringLiteral("Norvex"));
   icon_->setContentsMargins(-5, 0, 0, 0);  // the icon's own edge is clear
   auto* subtitle = makeLabel(localizedString("EPS, Illustrator, PDF and SVG pictures"), 1, true, welcome);
   subtitle->setWordWrap(true);

@@ -10,9 +10,9 @@
 
 #include "base/interruption.h"
 #include "base/latin1_text.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
+#include "cli/files/json_output.h"
 #include "cli/job.h"
-#include "cli/json_output.h"
 #include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
 #include "picture_check/picture_check.h"

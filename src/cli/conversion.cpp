@@ -11,7 +11,7 @@
 #include "base/latin1_text.h"
 #include "base/time_limit.h"
 #include "cli/conversion_check.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
 #include "display/picture_geometry.h"
 #include "encoders/picture_encoder.h"
 #include "encoders/raster_codecs.h"

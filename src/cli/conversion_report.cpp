@@ -3,7 +3,7 @@
 #include <QJsonArray>
 
 #include "base/latin1_text.h"
-#include "cli/json_output.h"
+#include "cli/files/json_output.h"
 
 namespace norvex {
 namespace {

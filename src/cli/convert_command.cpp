@@ -10,10 +10,10 @@
 #include "base/time_limit.h"
 #include "cli/arguments/conversion_use.h"
 #include "cli/conversion_report.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
+#include "cli/files/json_output.h"
+#include "cli/files/output_file.h"
 #include "cli/job.h"
-#include "cli/json_output.h"
-#include "cli/output_file.h"
 #include "metadata/full_date.h"
 
 namespace norvex {

@@ -1,7 +1,7 @@
 #include "cli/document_info.h"
 
 #include "base/time_limit.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_resources.h"
 #include "metadata/pdf_header.h"

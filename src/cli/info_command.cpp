@@ -4,10 +4,10 @@
 #include <QtConcurrent>
 
 #include "base/open_files.h"
+#include "cli/files/input_file.h"
+#include "cli/files/json_output.h"
 #include "cli/info_report.h"
-#include "cli/input_file.h"
 #include "cli/job.h"
-#include "cli/json_output.h"
 #include "cli/value_reader.h"
 
 namespace norvex {

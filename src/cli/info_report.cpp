@@ -4,8 +4,8 @@
 #include <QCryptographicHash>
 #include <QJsonArray>
 
-#include "cli/console.h"
-#include "cli/json_output.h"
+#include "cli/files/console.h"
+#include "cli/files/json_output.h"
 
 namespace norvex {
 namespace {

@@ -5,11 +5,11 @@
 
 #include "base/interruption.h"
 #include "base/time_limit.h"
+#include "cli/files/input_file.h"
+#include "cli/files/json_output.h"
 #include "cli/inks/ink_report.h"
 #include "cli/inks/plate_files.h"
-#include "cli/input_file.h"
 #include "cli/job.h"
-#include "cli/json_output.h"
 #include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
 #include "picture/open_picture.h"

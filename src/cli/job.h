@@ -8,10 +8,10 @@
 
 #include "cli/arguments/arguments.h"
 #include "cli/arguments/exit_code.h"
-#include "cli/console.h"
 #include "cli/conversion.h"
 #include "cli/convert_plan.h"
 #include "cli/document_info.h"
+#include "cli/files/console.h"
 #include "picture/process/picture_process.h"
 
 namespace norvex {

@@ -7,9 +7,9 @@
 
 #include "base/atomic_file.h"
 #include "base/time_limit.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
+#include "cli/files/output_file.h"
 #include "cli/job.h"
-#include "cli/output_file.h"
 #include "cli/value_reader.h"
 #include "picture/bitmap_image.h"
 #include "picture/embedded_preview.h"

@@ -4,10 +4,10 @@
 #include <QJsonObject>
 
 #include "base/interruption.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
+#include "cli/files/json_output.h"
+#include "cli/files/output_file.h"
 #include "cli/job.h"
-#include "cli/json_output.h"
-#include "cli/output_file.h"
 #include "cli/value_reader.h"
 #include "picture_check/repaired_picture.h"
 

@@ -1,6 +1,6 @@
 // `norvex source`: the decoded source text, in UTF-8.
 #include "base/time_limit.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
 #include "cli/job.h"
 #include "cli/value_reader.h"
 #include "metadata/source_text.h"

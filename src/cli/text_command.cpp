@@ -1,6 +1,6 @@
 // `norvex text`: the words of the picture, in UTF-8 and in the order of reading.
 #include "base/time_limit.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
 #include "cli/job.h"
 #include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"

@@ -5,9 +5,9 @@
 #include <QImage>
 
 #include "base/file_name.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
+#include "cli/files/output_file.h"
 #include "cli/job.h"
-#include "cli/output_file.h"
 #include "cli/previews/thumbnail.h"
 #include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"

@@ -1,6 +1,7 @@
 // The application behind `norvex`: pictures in windows, or the whole command line.
 #include <QFile>
 #include <QProcess>
+#include <QThread>
 
 #include <fontconfig/fontconfig.h>
 
@@ -54,6 +55,9 @@ QString onlyFile(int argc, char** argv) {
 int runWindows(int argc, char** argv, WorkerService& worker) {
   sendMessagesToSystemLog();  // whoever started the window from a terminal is not to read along
   worker.yieldToWindows();
+  // Qt takes the first thread that uses it for the one whose events are the application's: this one, before
+  // there are others.
+  (void)QThread::currentThread();
   EarlyPictureService service(worker);
   if (const QString file = onlyFile(argc, argv); !file.isEmpty()) service.begin(file);
   // The application object waits for the display most of its time; the first text waits for the fonts.

@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>&amp;Real Size on This Screen</source>
-        <translation>&amp;Wirkliche Größe auf diesem Bildschirm</translation>
+        <translation>Wirkliche Größe auf die&amp;sem Bildschirm</translation>
     </message>
     <message>
         <source>Size the selection</source>
@@ -1926,6 +1926,8 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>Breite und Höhe in mm, pt oder in angeben</translation>
+    </message>
+    <message>
         <source>Password</source>
         <translation>Passwort</translation>
     </message>
@@ -1955,7 +1957,7 @@
     </message>
     <message>
         <source>Find in P&amp;icture…</source>
-        <translation>Im B&amp;ild suchen …</translation>
+        <translation>Im Bil&amp;d suchen …</translation>
     </message>
     <message>
         <source>The text of the picture cannot be read.</source>
@@ -1984,6 +1986,8 @@
     <message>
         <source>Open Address</source>
         <translation>Adresse öffnen</translation>
+    </message>
+    <message>
         <source>Inks</source>
         <translation>Farben</translation>
     </message>

@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>&amp;Window Fits Picture</source>
-        <translation>&amp;Window Fits Picture</translation>
+        <translation>Window Fits &amp;Picture</translation>
     </message>
     <message>
         <source>Reload Changed Files b&amp;y Itself</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>Pre&amp;ferences…</source>
-        <translation>Pre&amp;ferences…</translation>
+        <translation>Preferenc&amp;es…</translation>
     </message>
     <message>
         <source>Di&amp;m Outside of Selection</source>
@@ -617,7 +617,7 @@
     </message>
     <message>
         <source>&amp;Real Size on This Screen</source>
-        <translation>&amp;Real Size on This Screen</translation>
+        <translation>Real &amp;Size on This Screen</translation>
     </message>
     <message>
         <source>Size the selection</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>Print Selected or Visible Pa&amp;rt…</source>
-        <translation>Print Selected or Visible Pa&amp;rt…</translation>
+        <translation>Print Selected or Visible Par&amp;t…</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
@@ -1926,6 +1926,8 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>give width and height in mm, pt or in</translation>
+    </message>
+    <message>
         <source>Password</source>
         <translation>Password</translation>
     </message>
@@ -1984,6 +1986,8 @@
     <message>
         <source>Open Address</source>
         <translation>Open Address</translation>
+    </message>
+    <message>
         <source>Inks</source>
         <translation>Inks</translation>
     </message>

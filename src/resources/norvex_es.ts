@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>&amp;Real Size on This Screen</source>
-        <translation>Tamaño &amp;real en esta pantalla</translation>
+        <translation>Tamaño real en es&amp;ta pantalla</translation>
     </message>
     <message>
         <source>Size the selection</source>
@@ -1301,7 +1301,7 @@
     </message>
     <message>
         <source>Next Picture in F&amp;older</source>
-        <translation>Imagen siguiente de la &amp;carpeta</translation>
+        <translation>Imagen siguiente de la carpe&amp;ta</translation>
     </message>
     <message>
         <source>Previous Pictu&amp;re in Folder</source>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>Go to Inspector or Pi&amp;cture</source>
-        <translation>Ir a la información o a la ima&amp;gen</translation>
+        <translation>Ir a la información o a la imag&amp;en</translation>
     </message>
     <message>
         <source>The program lies in a wrapping of another system</source>
@@ -1926,6 +1926,8 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>Indique ancho y alto en mm, pt o in</translation>
+    </message>
+    <message>
         <source>Password</source>
         <translation>Contraseña</translation>
     </message>
@@ -1963,7 +1965,7 @@
     </message>
     <message>
         <source>Select &amp;Text</source>
-        <translation>Seleccionar &amp;texto</translation>
+        <translation>Seleccionar t&amp;exto</translation>
     </message>
     <message>
         <source>Copy Te&amp;xt</source>
@@ -1984,6 +1986,8 @@
     <message>
         <source>Open Address</source>
         <translation>Abrir dirección</translation>
+    </message>
+    <message>
         <source>Inks</source>
         <translation>Tintas</translation>
     </message>
@@ -2164,7 +2168,7 @@
     </message>
     <message>
         <source>F&amp;ull Screen</source>
-        <translation>Pantalla co&amp;mpleta</translation>
+        <translation>Pantalla c&amp;ompleta</translation>
     </message>
     <message>
         <source>File</source>

@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>&amp;Real Size on This Screen</source>
-        <translation>Taille &amp;réelle sur cet écran</translation>
+        <translation>Taille réelle s&amp;ur cet écran</translation>
     </message>
     <message>
         <source>Size the selection</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Print Selected or Visible Pa&amp;rt…</source>
-        <translation>Imprimer la pa&amp;rtie sélectionnée ou visible…</translation>
+        <translation>Imprimer la par&amp;tie sélectionnée ou visible…</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
@@ -1533,11 +1533,11 @@
     </message>
     <message>
         <source>Inspector in t&amp;he Window</source>
-        <translation>Informations dans la fenê&amp;tre</translation>
+        <translation>Informations dans la fenêtr&amp;e</translation>
     </message>
     <message>
         <source>Go to Inspector or Pi&amp;cture</source>
-        <translation>Aller aux informations ou à l’ima&amp;ge</translation>
+        <translation>Aller aux informations ou à l’i&amp;mage</translation>
     </message>
     <message>
         <source>The program lies in a wrapping of another system</source>
@@ -1926,6 +1926,8 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>Donnez largeur et hauteur en mm, pt ou in</translation>
+    </message>
+    <message>
         <source>Password</source>
         <translation>Mot de passe</translation>
     </message>
@@ -1963,7 +1965,7 @@
     </message>
     <message>
         <source>Select &amp;Text</source>
-        <translation>Sélectionner le &amp;texte</translation>
+        <translation>Sélectionner le t&amp;exte</translation>
     </message>
     <message>
         <source>Copy Te&amp;xt</source>
@@ -1984,6 +1986,8 @@
     <message>
         <source>Open Address</source>
         <translation>Ouvrir l’adresse</translation>
+    </message>
+    <message>
         <source>Inks</source>
         <translation>Encres</translation>
     </message>

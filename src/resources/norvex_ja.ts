@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>Pre&amp;ferences…</source>
-        <translation>環境設定(&amp;F)…</translation>
+        <translation>環境設定(&amp;E)…</translation>
     </message>
     <message>
         <source>Di&amp;m Outside of Selection</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>&amp;Real Size on This Screen</source>
-        <translation>この画面での実寸(&amp;R)</translation>
+        <translation>この画面での実寸(&amp;S)</translation>
     </message>
     <message>
         <source>Size the selection</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Print Selected or Visible Pa&amp;rt…</source>
-        <translation>選択または表示部分をプリント(&amp;R)…</translation>
+        <translation>選択または表示部分をプリント(&amp;T)…</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
@@ -1281,7 +1281,7 @@
     </message>
     <message>
         <source>&amp;Window Fits Picture</source>
-        <translation>ウインドウを画像に合わせる(&amp;W)</translation>
+        <translation>ウインドウを画像に合わせる(&amp;P)</translation>
     </message>
     <message>
         <source>Reload Changed Files b&amp;y Itself</source>
@@ -1926,6 +1926,8 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>幅と高さを mm、pt、in で指定してください。</translation>
+    </message>
+    <message>
         <source>Password</source>
         <translation>パスワード</translation>
     </message>
@@ -1984,6 +1986,8 @@
     <message>
         <source>Open Address</source>
         <translation>アドレスを開く</translation>
+    </message>
+    <message>
         <source>Inks</source>
         <translation>インキ</translation>
     </message>

@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>Pre&amp;ferences…</source>
-        <translation>首选项(&amp;F)…</translation>
+        <translation>首选项(&amp;E)…</translation>
     </message>
     <message>
         <source>Di&amp;m Outside of Selection</source>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>&amp;Real Size on This Screen</source>
-        <translation>此屏幕上的实际尺寸(&amp;R)</translation>
+        <translation>此屏幕上的实际尺寸(&amp;S)</translation>
     </message>
     <message>
         <source>Size the selection</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Print Selected or Visible Pa&amp;rt…</source>
-        <translation>打印所选或可见部分(&amp;R)…</translation>
+        <translation>打印所选或可见部分(&amp;T)…</translation>
     </message>
     <message>
         <source>Looking for printers…</source>
@@ -1281,7 +1281,7 @@
     </message>
     <message>
         <source>&amp;Window Fits Picture</source>
-        <translation>窗口适合图片(&amp;W)</translation>
+        <translation>窗口适合图片(&amp;P)</translation>
     </message>
     <message>
         <source>Reload Changed Files b&amp;y Itself</source>
@@ -1926,6 +1926,8 @@
     <message>
         <source>give width and height in mm, pt or in</source>
         <translation>请以 mm、pt 或 in 给出宽和高。</translation>
+    </message>
+    <message>
         <source>Password</source>
         <translation>密码</translation>
     </message>
@@ -1984,6 +1986,8 @@
     <message>
         <source>Open Address</source>
         <translation>打开地址</translation>
+    </message>
+    <message>
         <source>Inks</source>
         <translation>油墨</translation>
     </message>

@@ -5,7 +5,7 @@
 
 #include "base/file_name.h"
 #include "cli/cli_files.h"
-#include "cli/json_output.h"
+#include "cli/files/json_output.h"
 #include "kit/test_main.h"
 
 using namespace norvex;

@@ -94,6 +94,21 @@ class StringTablesTest : public QObject {
     QVERIFY(looked > 50);
   }
 
+  void everyMessageIsOneTextAndItsTranslation() {
+    int looked = 0;
+    for (const QString& language : otherLanguages() << QStringLiteral("en")) {
+      static const QRegularExpression message("<message>(.*?)</message>",
+                                              QRegularExpression::DotMatchesEverythingOption);
+      for (const auto& match : message.globalMatch(textOf(kFolder + "norvex_" + language + ".ts"))) {
+        const QString inside = match.captured(1);
+        ++looked;
+        QVERIFY2(inside.count("<source>") == 1 && inside.count("<translation>") == 1,
+                 qPrintable(language + inside));
+      }
+    }
+    QVERIFY(looked > 2500);
+  }
+
   void theOtherLanguagesAreThere() {
     for (const char* language : {"de", "es", "fr", "ja", "zh_CN"})
       QVERIFY2(otherLanguages().contains(language), language);

@@ -7,8 +7,8 @@
 #include "cli/archive/file_job.h"
 #include "cli/archive/state/state_summary.h"
 #include "cli/archive/state_report.h"
-#include "cli/json_output.h"
-#include "cli/output_file.h"
+#include "cli/files/json_output.h"
+#include "cli/files/output_file.h"
 
 namespace norvex {
 namespace {

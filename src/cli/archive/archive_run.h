@@ -14,7 +14,7 @@
 #include "cli/archive/state/run_state.h"
 #include "cli/archive/work_places.h"
 #include "cli/archive/work_window.h"
-#include "cli/console.h"
+#include "cli/files/console.h"
 #include "picture/process/picture_process.h"
 
 namespace norvex {

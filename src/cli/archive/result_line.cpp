@@ -5,7 +5,7 @@
 #include <QJsonObject>
 
 #include "base/file_name.h"
-#include "cli/json_output.h"
+#include "cli/files/json_output.h"
 
 namespace norvex {
 namespace {

@@ -11,8 +11,8 @@
 #include "cli/archive/contact_sheet.h"
 #include "cli/archive/state/run_state.h"
 #include "cli/archive/state/state_summary.h"
-#include "cli/console.h"
-#include "cli/json_output.h"
+#include "cli/files/console.h"
+#include "cli/files/json_output.h"
 
 namespace norvex {
 namespace {

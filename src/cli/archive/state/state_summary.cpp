@@ -6,8 +6,8 @@
 
 #include "base/file_name.h"
 #include "cli/archive/state/run_entry.h"
-#include "cli/console.h"
-#include "cli/json_output.h"
+#include "cli/files/console.h"
+#include "cli/files/json_output.h"
 
 namespace norvex {
 namespace {

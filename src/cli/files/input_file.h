@@ -7,7 +7,7 @@
 #include <optional>
 
 #include "base/result.h"
-#include "cli/console.h"
+#include "cli/files/console.h"
 #include "picture/open_picture.h"
 
 namespace norvex {

@@ -1,4 +1,4 @@
-#include "cli/console.h"
+#include "cli/files/console.h"
 
 #include <unistd.h>
 

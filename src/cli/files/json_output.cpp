@@ -1,4 +1,4 @@
-#include "cli/json_output.h"
+#include "cli/files/json_output.h"
 
 #include "base/file_name.h"
 #include "picture/told_error.h"

@@ -1,4 +1,4 @@
-#include "cli/output_file.h"
+#include "cli/files/output_file.h"
 
 #include <sys/stat.h>
 
@@ -6,7 +6,7 @@
 
 #include "base/file_name.h"
 #include "base/latin1_text.h"
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
 
 namespace norvex {
 namespace {

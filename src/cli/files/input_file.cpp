@@ -1,4 +1,4 @@
-#include "cli/input_file.h"
+#include "cli/files/input_file.h"
 
 #include <QFileInfo>
 #include <QUrl>

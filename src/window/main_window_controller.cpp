@@ -49,6 +49,7 @@ void MainWindowController::connectParts() {
     closing_.closeIfDone();
   });
   connect(&loading_, &LoadingCommand::finished, this, &MainWindowController::take);
+  connect(&work(), &WindowWork::failed, &closing_, &ClosingCommand::stay);
   connect(&messages_, &MessagesCommand::reloadChosen, this, &MainWindowController::reload);
   connect(&messages_, &MessagesCommand::drawingChanged, &inspector_, &InspectorCommand::showDrawingRemarks);
   connect(&messages_, &MessagesCommand::openingChosen, &loading_, &LoadingCommand::start);

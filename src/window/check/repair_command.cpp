@@ -109,13 +109,19 @@ void RepairCommand::repair(const QString& path, PreviewUse preview) {
       .then(qApp,
             [self = QPointer<RepairCommand>(this), path, number](const Result<RepairedPicture>& repaired) {
               if (!self) return;
-              self->repairing_ = false;
-              self->parts_.work().end(number);
+              // The work ends last: a window that closes when it is done must not go under a message.
+              const bool failed = !repaired && repaired.error().kind != ErrorKind::Cancelled;
               if (repaired)
                 self->tell(path, *repaired);
-              else if (repaired.error().kind != ErrorKind::Cancelled)
+              else if (failed)
                 self->parts_.showWriteFailure(repaired.error(), path);
-              if (self) emit self->ended(path, repaired.ok());
+              if (!self) return;  // while the message was on the screen
+              self->repairing_ = false;
+              if (failed)
+                self->parts_.work().fail(number);
+              else
+                self->parts_.work().end(number);
+              emit self->ended(path, repaired.ok());
             });
 }
 

@@ -15,6 +15,11 @@ void WindowWork::end(int number) {
   if (tasks_.removeIf([number](const Task& task) { return task.number == number; }) > 0) emit changed();
 }
 
+void WindowWork::fail(int number) {
+  emit failed();
+  end(number);
+}
+
 bool WindowWork::isUnderWay(Kind kind) const {
   return std::any_of(tasks_.cbegin(), tasks_.cend(), [kind](const Task& task) { return task.kind == kind; });
 }
@@ -22,6 +27,14 @@ bool WindowWork::isUnderWay(Kind kind) const {
 bool WindowWork::cancelNewest() {
   if (tasks_.isEmpty()) return false;
   tasks_.constLast().cancel.cancel();
+  return true;
+}
+
+bool WindowWork::cancelNewest(Kind kind) {
+  const auto newest =
+      std::find_if(tasks_.crbegin(), tasks_.crend(), [kind](const Task& task) { return task.kind == kind; });
+  if (newest == tasks_.crend()) return false;
+  newest->cancel.cancel();
   return true;
 }
 

@@ -15,8 +15,9 @@ namespace norvex {
 class WindowWork final : public QObject {
   Q_OBJECT
  public:
-  /// The loss when the window goes: nothing that cannot be had again, or a file that somebody waits for.
-  enum class Kind { Reading, Copying, Writing };
+  /// The loss when the window goes: nothing that cannot be had again, or a file that somebody waits for. What
+  /// is examined is the picture that is shown, and is given up for another one.
+  enum class Kind { Examining, Reading, Copying, Writing };
 
   using QObject::QObject;
   ~WindowWork() override { cancelAll(); }
@@ -25,17 +26,22 @@ class WindowWork final : public QObject {
   int begin(Kind kind, const QString& text, const CancelToken& cancel);
   /// It has ended, one way or the other; a number that is not under way is nothing.
   void end(int number);
+  /// It has ended without what it was begun for, and can be tried again as long as there is a window.
+  void fail(int number);
   [[nodiscard]] bool isUnderWay() const { return !tasks_.isEmpty(); }
   [[nodiscard]] bool isUnderWay(Kind kind) const;
   /// Of what was begun last; empty without any.
   [[nodiscard]] QString text() const { return tasks_.isEmpty() ? QString() : tasks_.constLast().text; }
   /// Stops what was begun last; false: there was nothing. It ends when its thread has seen it.
   bool cancelNewest();
+  bool cancelNewest(Kind kind);
   void cancelAll();
 
  signals:
   /// Something began or ended.
   void changed();
+  /// Told before changed().
+  void failed();
 
  private:
   struct Task {

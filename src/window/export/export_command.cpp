@@ -196,10 +196,13 @@ void ExportCommand::write() {
     return writeFileAtomically(path, file->bytes, IfExists::Replace);
   }).then(qApp, [self, path, number](const Result<void>& written) {
     if (!self) return;
-    if (!written && written.error().kind != ErrorKind::Cancelled)
-      self->parts_.showWriteFailure(written.error(), path);
+    const bool failed = !written && written.error().kind != ErrorKind::Cancelled;
+    if (failed) self->parts_.showWriteFailure(written.error(), path);
     if (!self) return;  // while the message was on the screen
-    self->parts_.work().end(number);
+    if (failed)
+      self->parts_.work().fail(number);
+    else
+      self->parts_.work().end(number);
     if (written)
       BriefNote::tell(*self->parts_.scrollArea(),
                       localizedString("Exported “%1”").arg(QFileInfo(path).fileName()));

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QFileOpenEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -277,6 +278,47 @@ class CheckTest : public QObject {
     QVERIFY(!ended.isEmpty() || ended.wait(20000));
     QVERIFY(!ended[0][1].toBool() && !QFile::exists(f.folder.filePath("b.eps")));
     QCOMPARE(f.alerts.shown.size(), 1);
+  }
+
+  void aWindowThatClosesWhenDoneStaysUnderWhatIsTold_data() {
+    QTest::addColumn<bool>("mends");
+    QTest::newRow("mended") << true;
+    QTest::newRow("failed") << false;
+  }
+  void aWindowThatClosesWhenDoneStaysUnderWhatIsTold() {
+    QFETCH(bool, mends);
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    c.setShouldCloseDocument(true);
+    f.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Examine); });
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    const QPointer<RepairCommand> repair = c.inspectorWindow->findChild<RepairCommand*>();
+    QSignalSpy ended(repair.data(), &RepairCommand::ended);
+    QSignalSpy closed(&f.document, &Document::closed);
+    f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath(mends ? "b.eps" : "nowhere/b.eps"))});
+    QTRY_COMPARE(f.service.openCount(), 3);
+    const auto process = f.service.lastProcess();
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    f.alerts.answer = 0;  // "Close When Finished"
+    QVERIFY(!c.window()->close());
+    bool stood = false;
+    f.alerts.answer = 1;  // "Close"
+    f.alerts.whileShown = [&] {
+      QTest::qWait(50);
+      stood = repair && c.window()->isVisible();
+    };
+    f.service.setPrepare([](MemoryPictureProcess&) {});
+    process->release(PictureCall::Examine);
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(f.alerts.shown.size(), 2);
+    QVERIFY(stood);
+    if (mends) {
+      QTRY_COMPARE(closed.size(), 1);
+    } else {
+      QTest::qWait(50);
+      QVERIFY(closed.isEmpty() && c.window()->isVisible());  // it can be tried again
+    }
   }
 
   void aPreviewIsMadeAnewWhereItIsBadOrAllThatIsAsked() {

@@ -47,6 +47,7 @@ class LatePage final : public QWidget {
 QWidget* makeCheckPage(MainWindowController& window, QWidget* page) {
   auto* shown = new CheckPage(page);
   auto* check = new CheckCommand(window, *shown, page);
+  check->setPassword([&window] { return window.password(); });
   auto* repair = new RepairCommand(window, page);
   QObject::connect(&window, &MainWindowController::documentShown, check, &CheckCommand::documentDidChange);
   QObject::connect(&window, &MainWindowController::fileChanged, check, &CheckCommand::fileDidChange);

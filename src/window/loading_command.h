@@ -30,6 +30,7 @@ class LoadingCommand final : public QObject {
   bool stop();
   /// From the next reading on, for as long as the window is there. A password stays in its memory alone.
   void setPassword(const QString& password) { choices_.password = password; }
+  [[nodiscard]] QString password() const { return choices_.password; }
   void setLayers(const QList<PictureLayer>& layers) { choices_.layers = layers; }
   [[nodiscard]] bool isReading() const { return reading_ != nullptr; }
 

@@ -68,6 +68,8 @@ class MainWindowController final : public QObject,
   /// Loads the interface file on the first call; does not show it and does not read the document.
   QMainWindow* window();
   [[nodiscard]] bool isReading() const { return loading_.isReading(); }
+  /// What the user has opened the document with; empty: nothing was asked for.
+  [[nodiscard]] QString password() const { return loading_.password(); }
   /// Reads the file again and starts over: upright, at its natural size. A file that cannot be shown any
   /// more, or no longer draws, leaves what is shown, with a message.
   void reload();

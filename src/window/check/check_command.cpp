@@ -31,14 +31,11 @@ namespace {
 
 const QString kProfile = QStringLiteral("check/profile");
 
-CheckedPicture checkedFile(PictureService& service, const QString& path, const Profile& profile,
-                           const CancelToken& cancel) {
-  const Result<QByteArray> bytes = readDocumentFile(path);
+/// The bytes of `request` are those of the file that it names.
+CheckedPicture checkedFile(PictureService& service, CheckRequest request, const CancelToken& cancel) {
+  const Result<QByteArray> bytes = readDocumentFile(request.fileName);
   if (!bytes) return {{}, bytes.error()};
-  CheckRequest request;
   request.bytes = *bytes;
-  request.fileName = path;
-  request.profile = profile;
   return checkPicture(service, request, cancel);
 }
 
@@ -99,14 +96,17 @@ void CheckCommand::start() {
   const QString name = page_.profile();
   const Result<Profile> profile = name.isEmpty() ? Result(Profile()) : profileNamed(name);
   if (!profile) return page_.showProblem(asSentence(profile.error().message));
+  CheckRequest request;
+  request.fileName = path;
+  request.profile = *profile;
+  if (password_) request.password = password_();
   page_.showChecking();
   checking_ = std::make_shared<Checking>();
   // The program may have ended by the time that there is something to tell.
   waitingThreads().start([self = QPointer<CheckCommand>(this), application = QPointer<QCoreApplication>(qApp),
-                          checking = checking_, &service = document->pictureService(), path,
-                          profile = *profile] {
+                          checking = checking_, &service = document->pictureService(), request] {
     if (checking->cancel.cancelled()) return;
-    checking->checked = checkedFile(service, path, profile, checking->cancel);
+    checking->checked = checkedFile(service, request, checking->cancel);
     if (!application) return;
     QMetaObject::invokeMethod(application.data(), [self, checking] {
       if (!self || self->checking_ != checking) return;  // another check is wanted by now

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "check/finding.h"
 
@@ -22,6 +25,8 @@ class CheckCommand final : public QObject {
   CheckCommand(WindowParts& parts, CheckPage& page, QObject* parent);
   ~CheckCommand() override;
 
+  /// Asked for the document's password at the beginning of a check; default: none is known.
+  void setPassword(std::function<QString()> password) { password_ = std::move(password); }
   /// What the window shows is another document, or another state of it.
   void documentDidChange();
   /// The file has changed on disk; the window shows what it was.
@@ -51,6 +56,7 @@ class CheckCommand final : public QObject {
 
   WindowParts& parts_;
   CheckPage& page_;
+  std::function<QString()> password_;
   Findings findings_;
   std::shared_ptr<Checking> checking_;  ///< null while nothing is checked
   bool stale_ = true;                   ///< what the page shows is of another state of the file

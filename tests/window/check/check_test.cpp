@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QFileOpenEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -12,6 +13,7 @@
 #include "protocol/page_contents.h"
 #include "ui/check/check_page.h"
 #include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/password_bar.h"
 #include "ui/picture/picture_mark.h"
 #include "ui/source/source_text_edit.h"
 #include "ui/source/source_text_view.h"
@@ -319,6 +321,31 @@ class CheckTest : public QObject {
       QTest::qWait(50);
       QVERIFY(closed.isEmpty() && c.window()->isVisible());  // it can be tried again
     }
+  }
+
+  void thePasswordOfTheWindowIsThatOfTheCheck() {
+    WindowFixture f;
+    f.service.setChoose([](const QByteArray& pdf, const ReaderChoices& choices) -> Result<PictureBytes> {
+      if (choices.password == u"geheim") return PictureBytes{pdf + "opened", {}};
+      return PictureBytes{pdf, {}};
+    });
+    f.service.setPrepare([](MemoryPictureProcess& made) {
+      if (!made.bytes().endsWith("opened"))
+        made.fail(PictureCall::Facts, {ErrorKind::Encrypted, "the document is protected with a password"});
+    });
+    MainWindowController& c = f.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.showWindow();
+    QTRY_VERIFY(c.window()->findChild<PasswordBar*>());
+    QTRY_VERIFY(!c.isReading());
+    auto* bar = c.window()->findChild<PasswordBar*>();
+    bar->passwordField()->setText("geheim");
+    bar->openButton()->click();
+    QTRY_VERIFY(c.view()->imageRep());
+    c.showInspectorWindow();
+    const int before = int(f.service.choices().size());
+    CheckFixture::checked(c);
+    QVERIFY(f.service.choices().size() > before);
+    QCOMPARE(f.service.choices().constLast().password, QString("geheim"));
   }
 
   void aPreviewIsMadeAnewWhereItIsBadOrAllThatIsAsked() {

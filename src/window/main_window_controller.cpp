@@ -55,6 +55,7 @@ void MainWindowController::connectParts() {
   connect(&messages_, &MessagesCommand::openingChosen, &loading_, &LoadingCommand::start);
   connect(&messages_, &MessagesCommand::stopChosen, this, [this] {
     if (loading_.stop()) return messages_.openingWasStopped();
+    if (work().cancelNewest(WindowWork::Kind::Examining)) return;
     messages_.stopDrawing();
   });
   connect(&inspector_, &InspectorCommand::turned, this, &MainWindowController::setWindowSize);

@@ -149,6 +149,7 @@ void InksPage::showInks(const PageInks& page, double most) {
   filling_ = false;
   most_ = localizedString("Most ink in one place: %1").arg(percent(most, 0));
   showTotal(most_);
+  setSeparated(true);
   sentence_->hide();
   contents_->show();
 }
@@ -161,6 +162,18 @@ void InksPage::tell(const QString& sentence) {
   sentence_->setText(sentence);
   sentence_->show();
   contents_->hide();
+}
+
+void InksPage::showSeparating(const QString& sentence) {
+  if (contents_->isHidden() || list_->topLevelItemCount() == 0) return tell(sentence);
+  setSeparated(false);
+  showTotal(sentence);
+}
+
+void InksPage::setSeparated(bool separated) {
+  // The switch that has it separated anew keeps the keyboard, and may be switched back.
+  QWidget* const shown[] = {view_, list_, only_, all_, plates_, heat_, limit_};
+  for (QWidget* each : shown) each->setEnabled(separated);
 }
 
 void InksPage::showAmounts(const QList<double>& amounts) {

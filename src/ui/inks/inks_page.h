@@ -34,6 +34,9 @@ class InksPage final : public QWidget {
   void showImage(const QImage& image);
   /// A sentence in the place of everything.
   void tell(const QString& sentence);
+  /// The sentence while the inks are found out. A list that is in sight stays, but nothing can be chosen of
+  /// it until showInks().
+  void showSeparating(const QString& sentence);
   /// Percent of each ink under the pointer; empty: it is not over the picture.
   void showAmounts(const QList<double>& percent);
 
@@ -54,6 +57,7 @@ class InksPage final : public QWidget {
   void showOnlyCurrent();
   void showAll();
   void showTotal(const QString& text);
+  void setSeparated(bool separated);
 
   QWidget* contents_;
   QLabel* sentence_;

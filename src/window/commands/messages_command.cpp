@@ -76,7 +76,9 @@ void MessagesCommand::followRendering() {
 
 void MessagesCommand::followPatience() {
   const NSImageRep* rep = parts_.view()->imageRep().get();
-  const bool waits = parts_.work().isUnderWay(WindowWork::Kind::Reading) || (rep && rep->isRendering());
+  const WindowWork& work = parts_.work();
+  const bool waits = work.isUnderWay(WindowWork::Kind::Reading) ||
+                     work.isUnderWay(WindowWork::Kind::Examining) || (rep && rep->isRendering());
   if (waits == waiting_) return;
   waiting_ = waits;
   ++spell_;

@@ -68,8 +68,8 @@ void InksCommand::separate() {
   asked_ = true;
   separating_ = CancelToken();
   const QString told = localizedString("The page is being separated into its inks…");
-  work_ = parts_.work().begin(WindowWork::Kind::Reading, told, separating_);
-  page_.tell(told);
+  work_ = parts_.work().begin(WindowWork::Kind::Examining, told, separating_);
+  page_.showSeparating(told);
   const SeparationRequest request{rep->page(), dpiFor(rep->size()), page_.simulatesOverprint()};
   QPointer<InksCommand> self(this);
   QtConcurrent::run(&waitingThreads(), [process = rep->process(), kind = rep->pictureKind(), request,
@@ -86,7 +86,10 @@ void InksCommand::end() {
 
 void InksCommand::take(const Result<SeparatedPage>& page) {
   end();
-  if (!page) return page_.tell(asSentence(toldError(page.error()).sentence));
+  if (!page) {
+    asked_ = false;  // whoever looks at the page again has it tried again
+    return page_.tell(asSentence(toldError(page.error()).sentence));
+  }
   inks_ = std::make_shared<const PageInks>(page->inks);
   page_.showInks(*inks_, mostInk(*inks_));
   compose();

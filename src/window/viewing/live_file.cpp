@@ -27,8 +27,12 @@ bool LiveFile::reloadsByItself() const {
   if (!ViewChoices::shared().isOn(ViewChoices::ReloadByItself) || !parts_.validateUserInterfaceItem())
     return false;
   if (!parts_.mainWindow()->isVisible()) return false;
-  const bool busy = parts_.work().isUnderWay() || parts_.view()->selection().tracking() ||
-                    QApplication::activeModalWidget() || !parts_.mainWindow()->isEnabled();
+  using Kind = WindowWork::Kind;
+  const WindowWork& work = parts_.work();
+  const bool works =
+      work.isUnderWay(Kind::Reading) || work.isUnderWay(Kind::Copying) || work.isUnderWay(Kind::Writing);
+  const bool busy = works || parts_.view()->selection().tracking() || QApplication::activeModalWidget() ||
+                    !parts_.mainWindow()->isEnabled();
   return !busy;
 }
 

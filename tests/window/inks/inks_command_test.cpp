@@ -1,6 +1,8 @@
 // The inks of the picture in a window: separated once they are looked at, put together as they are chosen.
+#include <QAction>
 #include <QCheckBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTreeWidget>
 
@@ -10,6 +12,8 @@
 #include "protocol/page_inks.h"
 #include "ui/inks/inks_page.h"
 #include "ui/inks/separation_view.h"
+#include "ui/picture/message_bar.h"
+#include "window/viewing/live_file.h"
 #include "window/viewing/pages_command.h"
 #include "window/window_fixture.h"
 
@@ -142,6 +146,65 @@ class InksCommandTest : public QObject {
     f.openPdf();
     f.look();
     QVERIFY(QTest::qWaitFor([&] { return f.sentence() == "The plates are too large."; }, 20000));
+  }
+
+  void stopEndsTheSeparationAndTheNextLookTriesAgain() {
+    InksFixture f;
+    QList<std::function<void()>> alarms;
+    f.service.setPrepare([](MemoryPictureProcess& process) { process.hold(PictureCall::Examine); });
+    MainWindowController& c = f.openPdf();
+    c.setAlarm([&](int, QObject*, const std::function<void()>& ring) { alarms << ring; });
+    f.look();
+    const auto process = f.service.lastProcess();
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    QCOMPARE(alarms.size(), 1);
+    alarms.first()();
+    for (auto* button : c.messageBar()->findChildren<QPushButton*>())
+      if (button->text() == "Stop") button->click();
+    QVERIFY(QTest::qWaitFor([&] { return !c.work().isUnderWay(); }, 20000));
+    QCOMPARE(process->cancelledCalls(), 1);
+    QCOMPARE(c.messageBar()->message(), QString());  // the picture is drawn as before
+    QVERIFY(!f.sentence().isEmpty());
+    process->release(PictureCall::Examine);
+    c.inspectorWindow->hide();
+    c.inspectorWindow->show();
+    QVERIFY(f.listsInks());
+  }
+
+  void aFileThatChangesDoesNotWaitForTheInksOfTheOldOne() {
+    InksFixture f;
+    f.service.setPrepare([](MemoryPictureProcess& process) { process.hold(PictureCall::Examine); });
+    MainWindowController& c = f.openPdf();
+    c.window()->show();
+    c.window()->findChild<QAction*>("reloadByItselfAction")->setChecked(true);
+    f.look();
+    QVERIFY(f.service.lastProcess()->waitUntilHeld(PictureCall::Examine));
+    QVERIFY(c.findChild<LiveFile*>()->reloadsByItself());
+    const int number = c.work().begin(WindowWork::Kind::Copying, "Copying…", {});
+    QVERIFY(!c.findChild<LiveFile*>()->reloadsByItself());
+    c.work().end(number);
+    c.window()->findChild<QAction*>("reloadByItselfAction")->setChecked(false);
+  }
+
+  void theSwitchOfOverprintingKeepsTheKeyboard() {
+    InksFixture f;
+    f.openPdf();
+    f.look();
+    QVERIFY(f.listsInks());
+    QCheckBox* overprint = nullptr;
+    for (auto* box : f.page().findChildren<QCheckBox*>())
+      if (box->text() == "Simulate overprinting") overprint = box;
+    f.controller->inspectorWindow->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(f.controller->inspectorWindow));
+    overprint->setFocus();
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Examine);
+    QTest::keyClick(overprint, Qt::Key_Space);
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    QVERIFY(overprint->hasFocus() && !f.list().isEnabled());
+    process->release(PictureCall::Examine);
+    QVERIFY(f.listsInks());
+    QVERIFY(overprint->hasFocus() && f.list().isEnabled());
   }
 
   void aWindowThatIsClosedDoesNotWaitForItsInks() {

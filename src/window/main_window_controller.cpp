@@ -18,6 +18,7 @@
 #include "ui_MainWindowController.h"
 #include "window/commands/window_frames.h"
 #include "window/inspector_pages.h"
+#include "window/reading/layers_command.h"
 #include "window/viewing/live_file.h"
 
 namespace norvex {
@@ -48,14 +49,13 @@ void MainWindowController::connectParts() {
     if (window_) messages_.followRendering();
     closing_.closeIfDone();
   });
-  connect(&loading_, &LoadingCommand::finished, this, &MainWindowController::take);
   connect(&work(), &WindowWork::failed, &closing_, &ClosingCommand::stay);
+  connect(&loading_, &LoadingCommand::finished, this, &MainWindowController::take);
   connect(&messages_, &MessagesCommand::reloadChosen, this, &MainWindowController::reload);
   connect(&messages_, &MessagesCommand::drawingChanged, &inspector_, &InspectorCommand::showDrawingRemarks);
   connect(&messages_, &MessagesCommand::openingChosen, &loading_, &LoadingCommand::start);
   connect(&messages_, &MessagesCommand::stopChosen, this, [this] {
-    if (loading_.stop()) return messages_.openingWasStopped();
-    if (work().cancelNewest(WindowWork::Kind::Examining)) return;
+    if (stopReading() || work().cancelNewest(WindowWork::Kind::Examining)) return;
     messages_.stopDrawing();
   });
   connect(&inspector_, &InspectorCommand::turned, this, &MainWindowController::setWindowSize);
@@ -201,8 +201,19 @@ void MainWindowController::fileDidDisappear() {
   if (window_ && validateUserInterfaceItem()) messages_.fileDidDisappear();
 }
 
+/// False: nothing was being read.
+bool MainWindowController::stopReading() {
+  if (!loading_.stop()) return false;
+  if (validateUserInterfaceItem()) {
+    findChild<LiveFile*>()->documentDidStay();
+    findChild<LayersCommand*>()->documentDidStay();
+  }
+  messages_.openingWasStopped();
+  return true;
+}
+
 void MainWindowController::stopWork() {
-  if (loading_.stop()) return messages_.openingWasStopped();
+  if (stopReading()) return;
   if (copying_.stop() || work().cancelNewest()) return;
   messages_.stopDrawing();
 }

@@ -152,6 +152,7 @@ class MainWindowController final : public QObject,
   void loadWindow();
   void takeOutlets();
   void stopWork();
+  bool stopReading();
   void closing();
   // main_window_setup.cpp
   void setUpControls();

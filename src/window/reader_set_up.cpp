@@ -34,6 +34,8 @@ void setUpLayers(MainWindowController& controller, LoadingCommand& loading, Live
   auto* layers = new LayersCommand(controller, c);
   layers->setUp(menu);
   QObject::connect(c, &MainWindowController::documentShown, layers, &LayersCommand::documentDidChange);
+  QObject::connect(layers, &LayersCommand::layersStayed, c,
+                   [&loading](const QList<PictureLayer>& shown) { loading.setLayers(shown); });
   QObject::connect(layers, &LayersCommand::layersChosen, c,
                    [c, &loading, &live](const QList<PictureLayer>& chosen) {
                      loading.setLayers(chosen);

@@ -77,6 +77,15 @@ void PasswordBar::give() {
   emit passwordGiven(password);
 }
 
+bool PasswordBar::event(QEvent* event) {
+  // The window's commands have this key too; while something is typed here it is about the question.
+  if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    event->accept();
+    return true;
+  }
+  return QFrame::event(event);
+}
+
 void PasswordBar::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) return dismiss();
   QFrame::keyPressEvent(event);

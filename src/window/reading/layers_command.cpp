@@ -72,8 +72,9 @@ void LayersCommand::documentDidChange() {
 }
 
 void LayersCommand::documentDidStay() {
-  wanted_.clear();
-  list_->setLayers(shown());
+  const QList<PictureLayer> now = shown();
+  list_->setLayers(now);
+  if (!std::exchange(wanted_, {}).isEmpty()) emit layersStayed(now);
 }
 
 void LayersCommand::tellLocked(const QList<PictureLayer>& now) {

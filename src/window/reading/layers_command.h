@@ -33,6 +33,8 @@ class LayersCommand final : public QObject {
 
  signals:
   void layersChosen(const QList<norvex::PictureLayer>& layers);
+  /// What was chosen last is not shown; these are, as before.
+  void layersStayed(const QList<norvex::PictureLayer>& layers);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -5,10 +5,12 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 
 #include "kit/test_main.h"
 #include "ui/pages/layer_list.h"
 #include "ui/picture/brief_note.h"
+#include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/password_bar.h"
 #include "window/viewing/pages_command.h"
@@ -116,6 +118,22 @@ class ReaderTest : public QObject {
     QTRY_VERIFY(f.c.view()->imageRep());
   }
 
+  void escapeInTheBarIsTheBars() {
+    Protected f;
+    f.c.showWindow();
+    QTRY_VERIFY(!f.bar()->question().isEmpty());
+    QVERIFY(QTest::qWaitForWindowActive(f.c.window()));
+    int others = 0;
+    QShortcut other(Qt::Key_Escape, f.c.window());  // as in full screen
+    connect(&other, &QShortcut::activated, &other, [&] { ++others; });
+    f.bar()->passwordField()->setFocus();
+    QTest::keyClick(f.bar()->passwordField(), Qt::Key_Escape);
+    QCOMPARE(f.bar()->question(), QString());
+    QCOMPARE(others, 0);
+    QTest::keyClick(f.c.window(), Qt::Key_Escape);
+    QCOMPARE(others, 1);
+  }
+
   void reloadingNeedsItNoMore() {
     Protected f;
     f.c.showWindow();
@@ -186,6 +204,25 @@ class ReaderTest : public QObject {
     f.press(1, true);
     QCOMPARE(f.list()->item(1)->checkState(), Qt::Unchecked);
     QCOMPARE(f.c.window()->findChild<BriefNote*>()->text(), QString("The document locks this layer."));
+  }
+
+  void aSwitchThatIsStoppedSpringsBack() {
+    Layered f;
+    f.c.window()->show();
+    f.action()->setChecked(true);
+    f.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });
+    f.list()->item(1)->setCheckState(Qt::Checked);
+    QVERIFY(f.c.isReading());
+    emit f.c.loadingCard()->cancelled();
+    QVERIFY(!f.c.isReading());
+    QCOMPARE(f.list()->item(1)->checkState(), Qt::Unchecked);
+    // Nobody comes back to the place of a switch that never was.
+    f.service.setPrepare([](MemoryPictureProcess&) {});
+    f.c.findChild<PagesCommand*>()->show(1);
+    f.c.reload();
+    QTRY_VERIFY(!f.c.isReading());
+    QCOMPARE(f.list()->item(1)->checkState(), Qt::Unchecked);
+    f.action()->setChecked(false);
   }
 
   void aNameThatLooksLikeMarkupIsAName() {

@@ -5,9 +5,12 @@
 #include <QPainter>
 #include <QPolygonF>
 
+#include <utility>
+
 #include "display/norvex_view.h"
 #include "display/picture_geometry.h"
 #include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/zooming_scroll_area.h"
 
 namespace norvex {
 namespace {
@@ -43,11 +46,28 @@ void TextMarks::setSelected(const QList<QRectF>& selected) {
 void TextMarks::setSelecting(bool on) {
   selecting_ = on;
   setAttribute(Qt::WA_TransparentForMouseEvents, !on);
-  if (on)
-    setCursor(Qt::IBeamCursor);
-  else
-    unsetCursor();
+  passes_ = false;
+  shape_ = Qt::IBeamCursor;
+  showCursor();
   follow();
+}
+
+void TextMarks::setShape(Qt::CursorShape shape) {
+  shape_ = shape;
+  showCursor();
+}
+
+void TextMarks::showCursor() {
+  if (selecting_ && !pans())
+    setCursor(shape_);
+  else
+    unsetCursor();  // the view's
+}
+
+bool TextMarks::pans() const {
+  for (const QWidget* above = view_.parentWidget(); above; above = above->parentWidget())
+    if (const auto* area = qobject_cast<const ZoomingScrollArea*>(above)) return area->holdsSpace();
+  return false;
 }
 
 void TextMarks::follow() {
@@ -91,11 +111,13 @@ void TextMarks::paintEvent(QPaintEvent*) {
 }
 
 void TextMarks::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return event->ignore();
+  if (event->button() == Qt::LeftButton) passes_ = pans();
+  if (event->button() != Qt::LeftButton || passes_) return event->ignore();
   emit pressed(inPicture(event->position()));
 }
 
 void TextMarks::mouseMoveEvent(QMouseEvent* event) {
+  if (passes_ || (event->buttons() == Qt::NoButton && pans())) return event->ignore();
   const QPointF point = inPicture(event->position());
   if (event->buttons() & Qt::LeftButton) {
     emit dragged(point);
@@ -106,12 +128,13 @@ void TextMarks::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TextMarks::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return event->ignore();
+  if (event->button() != Qt::LeftButton || std::exchange(passes_, false)) return event->ignore();
   emit released(inPicture(event->position()));
 }
 
 bool TextMarks::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Resize) setGeometry(view_.rect());
+  if (event->type() == QEvent::CursorChange) showCursor();
   return QWidget::eventFilter(watched, event);
 }
 

@@ -10,8 +10,8 @@ namespace norvex {
 class NorvexViewWidget;
 
 /// A sheet over the view's widget, which turns, zooms and scrolls with the picture. The mouse goes through it
-/// unless it is to select; then it tells where it is dragged. Rectangles and points are in picture
-/// coordinates. Main thread.
+/// unless it is to select; then it tells where it is dragged, but not while Space is held to pan. Rectangles
+/// and points are in picture coordinates. Main thread.
 class TextMarks final : public QWidget {
   Q_OBJECT
  public:
@@ -21,6 +21,8 @@ class TextMarks final : public QWidget {
   void setFound(const QList<QRectF>& found, const QList<QRectF>& current);
   void setSelected(const QList<QRectF>& selected);
   void setSelecting(bool on);
+  /// While it selects.
+  void setShape(Qt::CursorShape shape);
   [[nodiscard]] QList<QRectF> found() const { return found_; }
   [[nodiscard]] QList<QRectF> current() const { return current_; }
   [[nodiscard]] QList<QRectF> selected() const { return selected_; }
@@ -45,10 +47,14 @@ class TextMarks final : public QWidget {
   [[nodiscard]] QPolygonF onScreen(const QRectF& rect) const;
   [[nodiscard]] QPointF inPicture(const QPointF& point) const;
   void follow();
+  void showCursor();
+  [[nodiscard]] bool pans() const;
 
   NorvexViewWidget& view_;
   QList<QRectF> found_, current_, selected_;
   bool selecting_ = false;
+  bool passes_ = false;  ///< a press was for the view below, and so is what follows until its release
+  Qt::CursorShape shape_ = Qt::IBeamCursor;
 };
 
 }  // namespace norvex

@@ -61,6 +61,9 @@ class ZoomingScrollArea final : public QWidget {
   /// True if the keyboard focus came with Tab: a line around every picture would be in the way of the others.
   [[nodiscard]] bool showsFocus() const { return showsFocus_; }
 
+  /// True while Space is down and a press of the left button pans, whatever else it would do.
+  [[nodiscard]] bool holdsSpace() const { return spaceHeld_; }
+
   // For the view's widget; points and rectangles in logical pixels of the clip.
   void documentFrameDidChange();
   void takeFocusByMouse();

@@ -86,8 +86,9 @@ void SourceFindBar::showOutcome(qsizetype index, qsizetype count) {
   else
     outcome_->setText(localizedString("%1 of %2").arg(locale.toString(index + 1), locale.toString(count)));
   makeQuiet(*outcome_);
-  previous_->setEnabled(count > 0);
-  next_->setEnabled(count > 0);
+  const bool leads = count > 0 || (goesOn_ && !needle().isEmpty());
+  previous_->setEnabled(leads);
+  next_->setEnabled(leads);
 }
 
 void SourceFindBar::paintEvent(QPaintEvent*) {

@@ -23,6 +23,9 @@ class SourceFindBar final : public QWidget {
   /// "3 of 27"; with no match, that nothing was found; nothing at all while nothing is looked for.
   void showOutcome(qsizetype index, qsizetype count);
   [[nodiscard]] QString outcome() const;
+  /// `on`: there are places to look at beyond those that are counted, and the way to them stays open without
+  /// a match here. From the next outcome on.
+  void setGoesOn(bool on) { goesOn_ = on; }
 
  signals:
   void needleChanged(const QString& text);
@@ -37,6 +40,7 @@ class SourceFindBar final : public QWidget {
   QLabel* outcome_;
   QToolButton* previous_;
   QToolButton* next_;
+  bool goesOn_ = false;
 };
 
 }  // namespace norvex

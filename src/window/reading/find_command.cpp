@@ -18,6 +18,7 @@
 #include "ui/style/floating_card.h"
 #include "window/commands/window_parts.h"
 #include "window/reading/page_letters.h"
+#include "window/reading/taken_key.h"
 
 namespace norvex {
 namespace {
@@ -51,7 +52,10 @@ void FindCommand::setUp(QMenu& menu, QAction* before) {
   column->addWidget(bar_);
   parts_.scrollArea()->addCard(card_, Qt::BottomEdge);
   card_->installEventFilter(this);
-  connect(bar_, &SourceFindBar::needleChanged, this, &FindCommand::lookFor);
+  connect(bar_, &SourceFindBar::needleChanged, this, [this] {
+    letters_.stopLooking();  // the page that has the old word is no longer wanted
+    lookFor();
+  });
   connect(bar_, &SourceFindBar::wanted, this, &FindCommand::step);
   connect(bar_, &SourceFindBar::closed, this, &FindCommand::close);
   action_ = new QAction(localizedString("Find in P&icture…"), this);
@@ -64,6 +68,7 @@ void FindCommand::setUp(QMenu& menu, QAction* before) {
 
 void FindCommand::open() {
   card_->show();
+  parts_.scrollArea()->installEventFilter(this);  // before what was begun earlier
   bar_->begin();
   letters_.want();
   lookFor();
@@ -130,19 +135,24 @@ void FindCommand::mark() {
   for (qsizetype i = 0; text && i < runs_.size(); ++i)
     (i == current_ ? current : found) += placesOf(*text, runs_.at(i));
   marks_.setFound(found, current);
+  bar_->setGoesOn(letters_.hasOtherPages());
   // While the text is being found out nothing has not been found.
   if (text || bar_->needle().isEmpty()) bar_->showOutcome(current_, runs_.size());
   if (!current.isEmpty()) marks_.reveal(current.constFirst());
 }
 
 bool FindCommand::eventFilter(QObject* watched, QEvent* event) {
-  const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-  if (watched != card_ || !isKey || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
-    return QObject::eventFilter(watched, event);
-  // The window's command with this key is for whoever has it while nothing is looked for.
-  event->accept();
-  if (event->type() == QEvent::KeyPress) close();
-  return true;
+  // The window's commands with these keys are for whoever has it while nothing is looked for.
+  const bool isPress = event->type() == QEvent::KeyPress;
+  if (card_ && !card_->isHidden() && takesKey(*event, Qt::Key_Escape)) {
+    if (isPress) close();
+    return true;
+  }
+  if (card_ && watched == card_ && takesKey(*event, Qt::Key_F3)) {
+    if (isPress) step(static_cast<const QKeyEvent*>(event)->modifiers() & Qt::ShiftModifier);
+    return true;
+  }
+  return QObject::eventFilter(watched, event);
 }
 
 }  // namespace norvex

@@ -3,6 +3,8 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 #include <optional>
 
@@ -52,7 +54,7 @@ class FindCommand final : public QObject {
   WindowParts& parts_;
   PageLetters& letters_;
   TextMarks& marks_;
-  QWidget* card_ = nullptr;
+  QPointer<QWidget> card_;
   SourceFindBar* bar_ = nullptr;
   QAction* action_ = nullptr;
   QList<LetterRun> runs_;

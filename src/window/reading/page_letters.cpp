@@ -22,6 +22,11 @@ Result<PageText> textOf(PictureProcess& process, int page, const CancelToken& ca
   return decodePageText(answer->bytes);
 }
 
+/// Pages far behind are not shown, and not looked at, either. Null: one picture without pages.
+int pagesOf(const NSPDFImageRep* shown) {
+  return shown ? int(qMin(qsizetype(shown->pageCount()), shown->facts().pageBounds.size())) : 1;
+}
+
 }  // namespace
 
 PageLetters::PageLetters(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
@@ -57,8 +62,7 @@ void PageLetters::want() {
 bool PageLetters::lookElsewhere(const QString& needle, bool backward) {
   const auto shown = parts_.view() ? std::dynamic_pointer_cast<NSPDFImageRep>(parts_.view()->imageRep())
                                    : std::shared_ptr<NSPDFImageRep>();
-  // Pages far behind are not shown, either.
-  const int pages = shown ? int(qMin(qsizetype(shown->pageCount()), shown->facts().pageBounds.size())) : 1;
+  const int pages = pagesOf(shown.get());
   if (pages < 2) return false;
   stopLooking();
   elsewhere_ = CancelToken();
@@ -77,6 +81,10 @@ bool PageLetters::lookElsewhere(const QString& needle, bool backward) {
     });
   });
   return true;
+}
+
+bool PageLetters::hasOtherPages() const {
+  return parts_.view() && pagesOf(dynamic_cast<NSPDFImageRep*>(parts_.view()->imageRep().get())) > 1;
 }
 
 void PageLetters::stopLooking() {

@@ -31,6 +31,8 @@ class PageLetters final : public QObject {
   /// lookedElsewhere() tells. False: there are no others.
   bool lookElsewhere(const QString& needle, bool backward);
   void stopLooking();
+  /// True if there are other pages to look at.
+  [[nodiscard]] bool hasOtherPages() const;
 
  signals:
   /// It is known, or why it will not be.

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QLineF>
 #include <QMenu>
@@ -17,6 +18,7 @@
 #include "ui/picture/zooming_scroll_area.h"
 #include "window/commands/window_parts.h"
 #include "window/reading/page_letters.h"
+#include "window/reading/taken_key.h"
 
 namespace norvex {
 namespace {
@@ -54,7 +56,14 @@ void TextCommand::setUp(QMenu& menu, QAction* before) {
   connect(copy_, &QAction::triggered, this, &TextCommand::copy);
   menu.insertAction(before, mode_);
   menu.insertAction(before, copy_);
+  parts_.scrollArea()->installEventFilter(this);
   pageDidChange();
+}
+
+bool TextCommand::eventFilter(QObject* watched, QEvent* event) {
+  if (!mode_->isChecked() || !takesKey(*event, Qt::Key_Escape)) return QObject::eventFilter(watched, event);
+  if (event->type() == QEvent::KeyPress) mode_->setChecked(false);
+  return true;
 }
 
 void TextCommand::setOn(bool on) {
@@ -105,7 +114,7 @@ void TextCommand::release(const QPointF& point) {
 
 void TextCommand::hover(const QPointF& point) {
   const PageText* text = letters_.text();
-  marks_.setCursor(text && linkAt(*text, point) ? Qt::PointingHandCursor : Qt::IBeamCursor);
+  marks_.setShape(text && linkAt(*text, point) ? Qt::PointingHandCursor : Qt::IBeamCursor);
 }
 
 QString TextCommand::shownAddress(const QString& address) {

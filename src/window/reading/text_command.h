@@ -20,8 +20,8 @@ class TextMarks;
 class WindowParts;
 
 /// A mode: while it is on a drag selects text and a click on a link follows it, an address only after a
-/// question that shows it. While it is off the mouse does what it always does. Parts, letters and marks
-/// outlive it. Main thread.
+/// question that shows it; Escape ends it. While it is off the mouse does what it always does. Parts, letters
+/// and marks outlive it. Main thread.
 class TextCommand final : public QObject {
   Q_OBJECT
  public:
@@ -40,6 +40,9 @@ class TextCommand final : public QObject {
  signals:
   /// A link to a page of the document was followed; from 0.
   void pageChosen(int page);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void setOn(bool on);

@@ -3,11 +3,13 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QToolButton>
 
 #include "kit/test_main.h"
 #include "protocol/page_text.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/text_marks.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "ui/source/source_find_bar.h"
 #include "window/reading/find_command.h"
 #include "window/reading/text_command.h"
@@ -59,6 +61,10 @@ class Text : public WindowFixture {
     find->bar()->setNeedle(needle);
     if (!QTest::qWaitFor([this] { return find->bar()->outcome().contains(QStringLiteral("of")); }, 20000))
       qFatal("nothing was found");
+  }
+  void activate() {
+    c.window()->activateWindow();
+    if (!QTest::qWaitForWindowActive(c.window())) qFatal("the window is not active");
   }
   /// Picture points, as a user drags from one to the other.
   void drag(const QPointF& from, const QPointF& to) {
@@ -120,6 +126,87 @@ class FindingTest : public QObject {
     emit f.find->bar()->wanted(false);
     QTRY_COMPARE(pages->shown(), 0);
     QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 2"));
+  }
+
+  void thePagesBesideAPageWithoutAnyAreInReach() {
+    Text f;
+    f.lookFor("one");
+    auto* pages = f.c.findChild<PagesCommand*>();
+    pages->show(1);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));
+    QToolButton* next = nullptr;
+    for (auto* button : f.find->bar()->findChildren<QToolButton*>())
+      if (button->accessibleName() == "Next") next = button;
+    QVERIFY(next->isEnabled());
+    next->click();
+    QTRY_COMPARE(pages->shown(), 0);
+    f.find->bar()->setNeedle({});
+    QVERIFY(!next->isEnabled());
+  }
+
+  void anotherWordEndsTheLookAtOtherPages() {
+    Text f(true);
+    f.lookFor("two");
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Examine);
+    emit f.find->bar()->wanted(false);
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    f.find->bar()->setNeedle("one");
+    process->release(PictureCall::Examine);
+    QTest::qWait(50);
+    QCOMPARE(f.c.findChild<PagesCommand*>()->shown(), 0);
+    QCOMPARE(f.find->bar()->outcome(), QString("2 of 2"));  // the next one from where "two" stands
+  }
+
+  void theKeyOfTheNextPlaceIsTheBars() {
+    Text f;
+    f.activate();
+    f.lookFor("one");
+    auto* needle = f.find->bar()->findChild<QLineEdit*>();
+    needle->setFocus();
+    QTest::keyClick(needle, Qt::Key_F3);
+    QCOMPARE(f.find->bar()->outcome(), QString("2 of 2"));
+    QTest::keyClick(needle, Qt::Key_F3, Qt::ShiftModifier);
+    QCOMPARE(f.find->bar()->outcome(), QString("1 of 2"));
+    QVERIFY(!f.c.inspectorWindow->isVisible());
+  }
+
+  void escapeInThePictureClosesTheBarThenEndsTheMode() {
+    Text f;
+    f.activate();
+    f.begin();
+    f.lookFor("one");
+    f.c.view()->selectBounds();
+    f.c.scrollArea()->setFocus();
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_Escape);
+    QVERIFY(!f.find->bar()->isVisible() && f.own("selectTextAction")->isChecked());
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_Escape);
+    QVERIFY(!f.own("selectTextAction")->isChecked());
+    QVERIFY(!f.c.view()->selectRect().isEmpty());
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_Escape);  // the window's again
+    QVERIFY(f.c.view()->selectRect().isEmpty());
+  }
+
+  void aDragWithSpacePansWhileTextIsSelected() {
+    Text f;
+    f.activate();
+    f.begin();
+    f.c.zoomingScrollView()->zoomTo(8);
+    f.c.scrollArea()->setFocus();
+    const QPointF before = f.c.scrollArea()->scrollOffset();
+    const QPoint from = f.marks->rect().center(), to = from - QPoint(30, 20);
+    QTest::keyPress(f.c.scrollArea(), Qt::Key_Space);
+    QCOMPARE(f.marks->cursor().shape(), Qt::OpenHandCursor);
+    const QString selected = f.text->selectedText();
+    QTest::mousePress(f.marks, Qt::LeftButton, {}, from);
+    QTest::mouseMove(f.marks, to);
+    QTest::mouseRelease(f.marks, Qt::LeftButton, {}, to);
+    QTest::keyRelease(f.c.scrollArea(), Qt::Key_Space);
+    QVERIFY(f.c.scrollArea()->scrollOffset() != before);
+    QCOMPARE(f.text->selectedText(), selected);
+    QCOMPARE(f.marks->cursor().shape(), Qt::IBeamCursor);
+    QTest::mousePress(f.marks, Qt::LeftButton, {}, from);
+    QVERIFY(f.text->selectedText().isEmpty());  // without it a press is for the text
   }
 
   void closingTakesTheMarksAway() {

@@ -4,11 +4,10 @@
 #include <QMainWindow>
 #include <QMenu>
 
-#include "ui/picture/norvex_view_widget.h"
-#include "ui/picture/text_marks.h"
 #include "window/loading_command.h"
 #include "window/main_window_controller.h"
 #include "window/reading/find_command.h"
+#include "window/reading/late_text_marks.h"
 #include "window/reading/layers_command.h"
 #include "window/reading/page_letters.h"
 #include "window/reading/password_command.h"
@@ -22,7 +21,6 @@ namespace {
 void setUpPasswords(MainWindowController& controller, LoadingCommand& loading) {
   MainWindowController* const c = &controller;
   auto* passwords = new PasswordCommand(controller, c);
-  passwords->setUp();
   QObject::connect(passwords, &PasswordCommand::passwordGiven, c, [c, &loading](const QString& password) {
     loading.setPassword(password);
     c->windowDidLoad();
@@ -51,7 +49,7 @@ void setUpText(MainWindowController& controller, PagesCommand& pages) {
   const QList<QAction*> actions = menu->actions();
   QAction* before = actions.value(actions.indexOf(findPrevious) + 1);
   auto* letters = new PageLetters(controller, c);
-  auto* marks = new TextMarks(*c->viewWidget());
+  auto* marks = new LateTextMarks(controller, c);
   auto* find = new FindCommand(controller, *letters, *marks, c);
   find->setUp(*menu, before);
   auto* text = new TextCommand(controller, *letters, *marks, c);

@@ -12,11 +12,11 @@
 
 #include "base/localized_string.h"
 #include "ui/picture/brief_note.h"
-#include "ui/picture/text_marks.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/source/source_find_bar.h"
 #include "ui/style/floating_card.h"
 #include "window/commands/window_parts.h"
+#include "window/reading/late_text_marks.h"
 #include "window/reading/page_letters.h"
 #include "window/reading/taken_key.h"
 
@@ -36,13 +36,22 @@ class FindCard final : public QFrame {
 
 }  // namespace
 
-FindCommand::FindCommand(WindowParts& parts, PageLetters& letters, TextMarks& marks, QObject* parent)
+FindCommand::FindCommand(WindowParts& parts, PageLetters& letters, LateTextMarks& marks, QObject* parent)
     : QObject(parent), parts_(parts), letters_(letters), marks_(marks) {
   connect(&letters_, &PageLetters::arrived, this, &FindCommand::take);
   connect(&letters_, &PageLetters::lookedElsewhere, this, &FindCommand::takeElsewhere);
 }
 
 void FindCommand::setUp(QMenu& menu, QAction* before) {
+  action_ = new QAction(localizedString("Find in P&icture…"), this);
+  action_->setObjectName(QStringLiteral("findInPictureAction"));
+  action_->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_F);
+  connect(action_, &QAction::triggered, this, &FindCommand::open);
+  menu.insertAction(before, action_);
+  pageDidChange();
+}
+
+void FindCommand::makeBar() {
   card_ = new FindCard(parts_.scrollArea());
   card_->hide();
   auto* column = new QVBoxLayout(card_);
@@ -58,15 +67,10 @@ void FindCommand::setUp(QMenu& menu, QAction* before) {
   });
   connect(bar_, &SourceFindBar::wanted, this, &FindCommand::step);
   connect(bar_, &SourceFindBar::closed, this, &FindCommand::close);
-  action_ = new QAction(localizedString("Find in P&icture…"), this);
-  action_->setObjectName(QStringLiteral("findInPictureAction"));
-  action_->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_F);
-  connect(action_, &QAction::triggered, this, &FindCommand::open);
-  menu.insertAction(before, action_);
-  pageDidChange();
 }
 
 void FindCommand::open() {
+  if (!card_) makeBar();
   card_->show();
   parts_.scrollArea()->installEventFilter(this);  // before what was begun earlier
   bar_->begin();
@@ -78,7 +82,7 @@ void FindCommand::close() {
   card_->hide();
   letters_.stopLooking();
   runs_.clear();
-  marks_.setFound({}, {});
+  if (marks_.made()) marks_.made()->setFound({}, {});
   parts_.scrollArea()->setFocus(Qt::OtherFocusReason);
 }
 
@@ -86,13 +90,13 @@ void FindCommand::pageDidChange() {
   action_->setEnabled(parts_.validateUserInterfaceItem());
   letters_.stopLooking();
   runs_.clear();
-  if (card_->isHidden()) return;
+  if (!isOpen()) return;
   letters_.want();
   lookFor();
 }
 
 void FindCommand::take(const std::optional<Error>& error) {
-  if (card_->isHidden()) return;
+  if (!isOpen()) return;
   if (error)
     BriefNote::tell(*parts_.scrollArea(), localizedString("The text of the picture cannot be read."));
   lookFor();
@@ -123,7 +127,7 @@ void FindCommand::goRound() {
 }
 
 void FindCommand::takeElsewhere(int page) {
-  if (card_->isHidden()) return;
+  if (!isOpen()) return;
   if (page < 0) return goRound();
   entering_ = true;
   emit pageChosen(page);
@@ -134,17 +138,18 @@ void FindCommand::mark() {
   QList<QRectF> found, current;
   for (qsizetype i = 0; text && i < runs_.size(); ++i)
     (i == current_ ? current : found) += placesOf(*text, runs_.at(i));
-  marks_.setFound(found, current);
+  TextMarks& marks = marks_.get();
+  marks.setFound(found, current);
   bar_->setGoesOn(letters_.hasOtherPages());
   // While the text is being found out nothing has not been found.
   if (text || bar_->needle().isEmpty()) bar_->showOutcome(current_, runs_.size());
-  if (!current.isEmpty()) marks_.reveal(current.constFirst());
+  if (!current.isEmpty()) marks.reveal(current.constFirst());
 }
 
 bool FindCommand::eventFilter(QObject* watched, QEvent* event) {
   // The window's commands with these keys are for whoever has it while nothing is looked for.
   const bool isPress = event->type() == QEvent::KeyPress;
-  if (card_ && !card_->isHidden() && takesKey(*event, Qt::Key_Escape)) {
+  if (isOpen() && takesKey(*event, Qt::Key_Escape)) {
     if (isPress) close();
     return true;
   }

@@ -18,22 +18,24 @@ namespace norvex {
 
 class PageLetters;
 class SourceFindBar;
-class TextMarks;
+class LateTextMarks;
 class WindowParts;
 
-/// A bar over the picture; every place on the shown page is marked, and the way goes from one to the next,
-/// on to the other pages of the document and round. Parts, letters and marks outlive it. Main thread.
+/// A bar over the picture, made when it is first wanted; every place on the shown page is marked, and the way
+/// goes from one to the next, on to the other pages of the document and round. Parts, letters and marks
+/// outlive it. Main thread.
 class FindCommand final : public QObject {
   Q_OBJECT
  public:
-  FindCommand(WindowParts& parts, PageLetters& letters, TextMarks& marks, QObject* parent);
+  FindCommand(WindowParts& parts, PageLetters& letters, LateTextMarks& marks, QObject* parent);
 
-  /// Adds its command to `menu`, before `before`, and the bar to the window.
+  /// Adds its command to `menu`, before `before`.
   void setUp(QMenu& menu, QAction* before);
   void open();
   void close();
   /// Another page or another document is shown, or the picture has become another one.
   void pageDidChange();
+  /// Null before it was opened.
   [[nodiscard]] SourceFindBar* bar() const { return bar_; }
 
  signals:
@@ -44,6 +46,8 @@ class FindCommand final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void makeBar();
+  [[nodiscard]] bool isOpen() const { return card_ && !card_->isHidden(); }
   void lookFor();
   void step(bool backward);
   void goRound();
@@ -53,7 +57,7 @@ class FindCommand final : public QObject {
 
   WindowParts& parts_;
   PageLetters& letters_;
-  TextMarks& marks_;
+  LateTextMarks& marks_;
   QPointer<QWidget> card_;
   SourceFindBar* bar_ = nullptr;
   QAction* action_ = nullptr;

@@ -28,21 +28,6 @@ const QString kShown = QStringLiteral("views/layers");
 LayersCommand::LayersCommand(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
 
 void LayersCommand::setUp(QMenu& menu) {
-  dock_ = new QDockWidget(localizedString("Layers"), parts_.mainWindow());
-  dock_->setObjectName(QStringLiteral("layersDock"));
-  dock_->setFeatures(QDockWidget::DockWidgetClosable);
-  list_ = new LayerList(dock_);
-  dock_->setWidget(list_);
-  dock_->toggleViewAction()->setVisible(false);  // the menu below has it, where there are layers
-  dock_->hide();
-  parts_.mainWindow()->addDockWidget(Qt::LeftDockWidgetArea, dock_);
-  connect(list_, &LayerList::layersChosen, this, [this](const QList<PictureLayer>& layers) {
-    wanted_ = layers;
-    const QList<PictureLayer> before = shown();
-    for (touched_ = 0; touched_ < before.size(); ++touched_)
-      if (before.at(touched_).shown != layers.at(touched_).shown) break;
-    emit layersChosen(layers);
-  });
   action_ = menu.addAction(localizedString("La&yers"));
   action_->setObjectName(QStringLiteral("layersAction"));
   action_->setCheckable(true);
@@ -52,10 +37,31 @@ void LayersCommand::setUp(QMenu& menu) {
     saveView(kShown, on);
     validate();
   });
-  // Its own button closes the list as the command does.
-  dock_->installEventFilter(this);
   parts_.mainWindow()->installEventFilter(this);
   validate();
+}
+
+void LayersCommand::makeList() {
+  dock_ = new QDockWidget(localizedString("Layers"), parts_.mainWindow());
+  dock_->setObjectName(QStringLiteral("layersDock"));
+  dock_->setFeatures(QDockWidget::DockWidgetClosable);
+  list_ = new LayerList(dock_);
+  dock_->setWidget(list_);
+  dock_->toggleViewAction()->setVisible(false);  // the menu below has it, where there are layers
+  dock_->hide();
+  parts_.mainWindow()->addDockWidget(Qt::LeftDockWidgetArea, dock_);
+  list_->setLayers(shown());
+  connect(list_, &LayerList::layersChosen, this, &LayersCommand::choose);
+  // Its own button closes the list as the command does.
+  dock_->installEventFilter(this);
+}
+
+void LayersCommand::choose(const QList<PictureLayer>& layers) {
+  wanted_ = layers;
+  const QList<PictureLayer> before = shown();
+  for (touched_ = 0; touched_ < before.size(); ++touched_)
+    if (before.at(touched_).shown != layers.at(touched_).shown) break;
+  emit layersChosen(layers);
 }
 
 QList<PictureLayer> LayersCommand::shown() const {
@@ -66,14 +72,14 @@ QList<PictureLayer> LayersCommand::shown() const {
 
 void LayersCommand::documentDidChange() {
   const QList<PictureLayer> now = shown();
-  list_->setLayers(now);
+  if (list_) list_->setLayers(now);
   tellLocked(now);
   validate();
 }
 
 void LayersCommand::documentDidStay() {
   const QList<PictureLayer> now = shown();
-  list_->setLayers(now);
+  if (list_) list_->setLayers(now);
   if (!std::exchange(wanted_, {}).isEmpty()) emit layersStayed(now);
 }
 
@@ -88,11 +94,13 @@ void LayersCommand::tellLocked(const QList<PictureLayer>& now) {
 void LayersCommand::validate() {
   const bool any = !shown().isEmpty();
   action_->setEnabled(any);
-  dock_->setVisible(any && action_->isChecked() && !parts_.mainWindow()->isFullScreen());
+  const bool isSeen = any && action_->isChecked() && !parts_.mainWindow()->isFullScreen();
+  if (isSeen && !dock_) makeList();
+  if (dock_) dock_->setVisible(isSeen);
 }
 
 bool LayersCommand::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == dock_ && event->type() == QEvent::Close) action_->setChecked(false);
+  if (dock_ && watched == dock_ && event->type() == QEvent::Close) action_->setChecked(false);
   if (watched == parts_.mainWindow() && event->type() == QEvent::WindowStateChange) validate();
   return QObject::eventFilter(watched, event);
 }

@@ -15,21 +15,20 @@ namespace norvex {
 class LayerList;
 class WindowParts;
 
-/// A list of them beside the picture. Where there are none, nothing of it is seen. What is chosen is told on,
-/// and holds when the document is read again with it: for the screen and for everything that is handed out.
-/// The parts outlive it. Main thread.
+/// A list of them beside the picture, made when it is first seen. Where there are none, nothing of it is
+/// seen. What is chosen is told on, and holds when the document is read again with it: for the screen and for
+/// everything that is handed out. The parts outlive it. Main thread.
 class LayersCommand final : public QObject {
   Q_OBJECT
  public:
   LayersCommand(WindowParts& parts, QObject* parent);
 
-  /// Adds its command to `menu` and the list to the window.
+  /// Adds its command to `menu`.
   void setUp(QMenu& menu);
   /// What the window shows is another document, or another state of it.
   void documentDidChange();
   /// The document could not be read again: what is shown has stayed.
   void documentDidStay();
-  [[nodiscard]] LayerList* list() const { return list_; }
 
  signals:
   void layersChosen(const QList<norvex::PictureLayer>& layers);
@@ -43,6 +42,8 @@ class LayersCommand final : public QObject {
   [[nodiscard]] QList<PictureLayer> shown() const;
   void tellLocked(const QList<PictureLayer>& now);
   void validate();
+  void makeList();
+  void choose(const QList<PictureLayer>& layers);
 
   WindowParts& parts_;
   LayerList* list_ = nullptr;

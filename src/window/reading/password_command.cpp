@@ -9,7 +9,7 @@ namespace norvex {
 
 PasswordCommand::PasswordCommand(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
 
-void PasswordCommand::setUp() {
+void PasswordCommand::makeBar() {
   bar_ = new PasswordBar(parts_.scrollArea());
   parts_.scrollArea()->addCard(bar_, Qt::TopEdge);
   connect(bar_, &PasswordBar::passwordGiven, this, [this](const QString& password) {
@@ -21,6 +21,7 @@ void PasswordCommand::setUp() {
 bool PasswordCommand::take(const Error& error) {
   if (error.kind != ErrorKind::Encrypted) return false;
   parts_.messageBar()->clearMessage();
+  if (!bar_) makeBar();
   bar_->ask(tried_);
   tried_ = false;
   return true;
@@ -28,7 +29,7 @@ bool PasswordCommand::take(const Error& error) {
 
 void PasswordCommand::documentDidOpen() {
   tried_ = false;
-  bar_->dismiss();
+  if (bar_) bar_->dismiss();
 }
 
 }  // namespace norvex

@@ -14,9 +14,9 @@
 #include "base/localized_string.h"
 #include "desktop/alert.h"
 #include "ui/picture/brief_note.h"
-#include "ui/picture/text_marks.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "window/commands/window_parts.h"
+#include "window/reading/late_text_marks.h"
 #include "window/reading/page_letters.h"
 #include "window/reading/taken_key.h"
 
@@ -34,15 +34,10 @@ bool isOpened(const QUrl& url) {
 
 }  // namespace
 
-TextCommand::TextCommand(WindowParts& parts, PageLetters& letters, TextMarks& marks, QObject* parent)
+TextCommand::TextCommand(WindowParts& parts, PageLetters& letters, LateTextMarks& marks, QObject* parent)
     : QObject(parent), parts_(parts), letters_(letters), marks_(marks), opener_([](const QUrl& url) {
         QDesktopServices::openUrl(url);
-      }) {
-  connect(&marks_, &TextMarks::pressed, this, &TextCommand::press);
-  connect(&marks_, &TextMarks::dragged, this, &TextCommand::drag);
-  connect(&marks_, &TextMarks::released, this, &TextCommand::release);
-  connect(&marks_, &TextMarks::hovered, this, &TextCommand::hover);
-}
+      }) {}
 
 void TextCommand::setUp(QMenu& menu, QAction* before) {
   mode_ = new QAction(localizedString("Select &Text"), this);
@@ -67,11 +62,17 @@ bool TextCommand::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void TextCommand::setOn(bool on) {
-  marks_.setSelecting(on);
-  if (on)
-    letters_.want();
-  else
-    select({});
+  if (!on) {
+    if (marks_.made()) marks_.made()->setSelecting(false);
+    return select({});
+  }
+  TextMarks& marks = marks_.get();
+  connect(&marks, &TextMarks::pressed, this, &TextCommand::press, Qt::UniqueConnection);
+  connect(&marks, &TextMarks::dragged, this, &TextCommand::drag, Qt::UniqueConnection);
+  connect(&marks, &TextMarks::released, this, &TextCommand::release, Qt::UniqueConnection);
+  connect(&marks, &TextMarks::hovered, this, &TextCommand::hover, Qt::UniqueConnection);
+  marks.setSelecting(true);
+  letters_.want();
 }
 
 void TextCommand::pageDidChange() {
@@ -86,7 +87,8 @@ void TextCommand::pageDidChange() {
 void TextCommand::select(const LetterRun& run) {
   selected_ = run;
   const PageText* text = letters_.text();
-  marks_.setSelected(text && !run.isEmpty() ? placesOf(*text, run) : QList<QRectF>());
+  if (marks_.made())
+    marks_.made()->setSelected(text && !run.isEmpty() ? placesOf(*text, run) : QList<QRectF>());
   copy_->setEnabled(text && !run.isEmpty());
 }
 
@@ -114,7 +116,7 @@ void TextCommand::release(const QPointF& point) {
 
 void TextCommand::hover(const QPointF& point) {
   const PageText* text = letters_.text();
-  marks_.setShape(text && linkAt(*text, point) ? Qt::PointingHandCursor : Qt::IBeamCursor);
+  marks_.get().setShape(text && linkAt(*text, point) ? Qt::PointingHandCursor : Qt::IBeamCursor);
 }
 
 QString TextCommand::shownAddress(const QString& address) {

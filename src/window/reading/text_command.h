@@ -16,7 +16,7 @@ class QMenu;
 namespace norvex {
 
 class PageLetters;
-class TextMarks;
+class LateTextMarks;
 class WindowParts;
 
 /// A mode: while it is on a drag selects text and a click on a link follows it, an address only after a
@@ -25,7 +25,7 @@ class WindowParts;
 class TextCommand final : public QObject {
   Q_OBJECT
  public:
-  TextCommand(WindowParts& parts, PageLetters& letters, TextMarks& marks, QObject* parent);
+  TextCommand(WindowParts& parts, PageLetters& letters, LateTextMarks& marks, QObject* parent);
 
   /// Adds its commands to `menu`, before `before`.
   void setUp(QMenu& menu, QAction* before);
@@ -56,7 +56,7 @@ class TextCommand final : public QObject {
 
   WindowParts& parts_;
   PageLetters& letters_;
-  TextMarks& marks_;
+  LateTextMarks& marks_;
   std::function<void(const QUrl&)> opener_;
   QAction *mode_ = nullptr, *copy_ = nullptr;
   LetterRun selected_;

@@ -7,7 +7,9 @@
 
 #include "kit/test_main.h"
 #include "protocol/page_text.h"
+#include "ui/pages/layer_list.h"
 #include "ui/picture/norvex_view_widget.h"
+#include "ui/picture/password_bar.h"
 #include "ui/picture/text_marks.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/source/source_find_bar.h"
@@ -38,7 +40,6 @@ class Text : public WindowFixture {
     c.window()->show();
     find = c.findChild<FindCommand*>();
     text = c.findChild<TextCommand*>();
-    marks = c.window()->findChild<TextMarks*>();
     text->setOpener([this](const QUrl& url) { openedUrls << url; });
   }
   MainWindowController& opened(bool hitsElsewhere) {
@@ -58,6 +59,7 @@ class Text : public WindowFixture {
   [[nodiscard]] QAction* own(const char* name) { return c.findChild<QAction*>(QString::fromLatin1(name)); }
   void lookFor(const QString& needle) {
     own("findInPictureAction")->trigger();
+    marks = c.window()->findChild<TextMarks*>();
     find->bar()->setNeedle(needle);
     if (!QTest::qWaitFor([this] { return find->bar()->outcome().contains(QStringLiteral("of")); }, 20000))
       qFatal("nothing was found");
@@ -79,6 +81,7 @@ class Text : public WindowFixture {
   /// The mode is on and the text is known.
   void begin() {
     own("selectTextAction")->setChecked(true);
+    marks = c.window()->findChild<TextMarks*>();
     if (!QTest::qWaitFor([this] { return drag({5, 55}, {25, 55}), !text->selectedText().isEmpty(); }, 20000))
       qFatal("the text was never read");
   }
@@ -95,6 +98,16 @@ class Text : public WindowFixture {
 class FindingTest : public QObject {
   Q_OBJECT
  private slots:
+  void nothingIsMadeBeforeItIsWanted() {
+    Text f;
+    QVERIFY(!f.c.window()->findChild<TextMarks*>());
+    QVERIFY(!f.c.window()->findChild<SourceFindBar*>("pictureFindBar"));
+    QVERIFY(!f.c.window()->findChild<PasswordBar*>());
+    QVERIFY(!f.c.window()->findChild<LayerList*>());
+    f.own("findInPictureAction")->trigger();
+    QVERIFY(f.c.window()->findChild<SourceFindBar*>("pictureFindBar")->isVisible());
+  }
+
   void everyPlaceIsMarkedAndCounted() {
     Text f;
     f.lookFor("ONE");
@@ -239,7 +252,10 @@ class FindingTest : public QObject {
 
   void theTwoDragsAreAsBeforeWhileTheModeIsOff() {
     Text f;
-    QVERIFY(f.marks->testAttribute(Qt::WA_TransparentForMouseEvents));
+    f.own("findInPictureAction")->trigger();  // marks alone
+    QTRY_VERIFY(f.c.window()->findChild<TextMarks*>());
+    f.find->close();
+    QVERIFY(f.c.window()->findChild<TextMarks*>()->testAttribute(Qt::WA_TransparentForMouseEvents));
     f.begin();
     QVERIFY(!f.marks->testAttribute(Qt::WA_TransparentForMouseEvents));
     QCOMPARE(f.c.view()->selectRect().width(), 0.0);

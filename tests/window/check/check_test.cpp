@@ -1,96 +1,19 @@
 // The Check page of a window: when it checks, what it shows where, and what ends it.
 #include <QComboBox>
-#include <QFileOpenEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTabWidget>
 
-#include "desktop/memory_save_panel.h"
 #include "kit/test_main.h"
-#include "protocol/page_contents.h"
-#include "ui/check/check_page.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/password_bar.h"
 #include "ui/picture/picture_mark.h"
 #include "ui/source/source_text_edit.h"
 #include "ui/source/source_text_view.h"
-#include "window/check/check_command.h"
-#include "window/check/repair_command.h"
-#include "window/window_fixture.h"
+#include "window/check/check_fixture.h"
 
 using namespace norvex;
-
-namespace {
-
-/// Answers of a picture whose ink fills its box of 200 × 100 points, with a line that is too thin at one
-/// place.
-MemoryPicture soundPicture() {
-  MemoryPicture picture;
-  picture.examine = [](const ExamineRequest& request) {
-    if (request.what == Examination::Drawn)
-      return encodeDrawnInk(
-          {QRectF(0, 0, 200, 100), QRectF(0, 0, 200, 100), QRectF(-50, -50, 300, 200), 0.1});
-    PageContents page;
-    page.size = {200, 100};
-    page.thinnestLine = Measured{0.1, QRectF(20, 30, 40, 10)};
-    return encodePageContents(page);
-  };
-  return picture;
-}
-
-class CheckFixture : public WindowFixture {
- public:
-  CheckFixture() { service.setPicture(soundPicture()); }
-  MainWindowController& shown() {
-    MainWindowController& c = loaded(epsBytes("%%Pages: x\n"), "a.eps", NorvexEPSType);
-    c.setSavePanel(&panel);
-    c.window()->show();
-    c.showInspectorWindow();
-    return c;
-  }
-  /// Shows the page, which begins a check.
-  static CheckCommand& command(MainWindowController& c) {
-    c.inspectorTabs->setCurrentWidget(c.inspectorWindow->findChild<QWidget*>("checkPage"));
-    return *c.inspectorWindow->findChild<CheckCommand*>();
-  }
-  static CheckCommand* checked(MainWindowController& c) {
-    CheckCommand& made = command(c);
-    if (!QTest::qWaitFor([&] { return !made.isChecking(); }, 20000)) qFatal("never checked");
-    return &made;
-  }
-  static const Finding& found(const CheckCommand& command, const char* identifier) {
-    for (const Finding& each : command.findings())
-      if (each.rule->identifier == identifier) return each;
-    qFatal("%s was not found", identifier);
-  }
-  QByteArray read(const QString& name) const {
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
-  MemorySavePanel panel;
-};
-
-CheckPage& pageOf(MainWindowController& c) {
-  return *c.inspectorWindow->findChild<CheckPage*>();
-}
-
-/// Remembers what the program was asked to open.
-class Opened final : public QObject {
- public:
-  Opened() { qApp->installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::FileOpen) return false;
-    urls << static_cast<QFileOpenEvent*>(event)->url();
-    return true;
-  }
-  QList<QUrl> urls;
-};
-
-}  // namespace
 
 class CheckTest : public QObject {
   Q_OBJECT
@@ -234,95 +157,6 @@ class CheckTest : public QObject {
     QVERIFY(pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("stopped"));
   }
 
-  void repairWritesAnotherFileTellsWhatItChangedAndOpensIt() {
-    CheckFixture f;
-    MainWindowController& c = f.shown();
-    f.checked(c);
-    const QByteArray before = f.read("a.eps");
-    Opened opened;
-    f.alerts.answer = 0;
-    pageOf(c).findChild<QPushButton*>("repairAll")->click();
-    QVERIFY(f.panel.isOpen());
-    QCOMPARE(f.panel.settings.nameFieldStringValue, QStringLiteral("a_repaired.eps"));
-    const QUrl url = QUrl::fromLocalFile(f.folder.filePath("b.eps"));
-    QSignalSpy ended(c.inspectorWindow->findChild<RepairCommand*>(), &RepairCommand::ended);
-    f.panel.answer({true, url});
-    QVERIFY(!ended.isEmpty() || ended.wait(20000));
-    QVERIFY(ended[0][1].toBool());
-    QCOMPARE(f.read("a.eps"), before);
-    QVERIFY(f.read("b.eps").contains("showpage"));
-    QCOMPARE(f.alerts.shown.size(), 1);
-    QVERIFY(f.alerts.shown[0].informativeText.contains("showpage", Qt::CaseInsensitive));
-    QCoreApplication::processEvents();
-    QCOMPARE(opened.urls, QList<QUrl>{url});
-  }
-
-  void aPanelThatIsCancelledRepairsNothing() {
-    CheckFixture f;
-    MainWindowController& c = f.shown();
-    f.checked(c);
-    pageOf(c).findChild<QPushButton*>("repairAll")->click();
-    f.panel.answer({});
-    QVERIFY(!c.inspectorWindow->findChild<RepairCommand*>()->isRepairing());
-    QCOMPARE(QDir(f.folder.path()).entryList({"*.eps"}), QStringList{"a.eps"});
-  }
-
-  void whatCannotBeMendedIsToldAndNothingIsWritten() {
-    CheckFixture f;
-    MainWindowController& c = f.shown();
-    f.checked(c);
-    f.service.setPrepare([](MemoryPictureProcess& process) {
-      process.fail(PictureCall::Examine, {ErrorKind::Died, QStringLiteral("the picture process ended")});
-    });
-    pageOf(c).findChild<QPushButton*>("repairAll")->click();
-    QSignalSpy ended(c.inspectorWindow->findChild<RepairCommand*>(), &RepairCommand::ended);
-    f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath("b.eps"))});
-    QVERIFY(!ended.isEmpty() || ended.wait(20000));
-    QVERIFY(!ended[0][1].toBool() && !QFile::exists(f.folder.filePath("b.eps")));
-    QCOMPARE(f.alerts.shown.size(), 1);
-  }
-
-  void aWindowThatClosesWhenDoneStaysUnderWhatIsTold_data() {
-    QTest::addColumn<bool>("mends");
-    QTest::newRow("mended") << true;
-    QTest::newRow("failed") << false;
-  }
-  void aWindowThatClosesWhenDoneStaysUnderWhatIsTold() {
-    QFETCH(bool, mends);
-    CheckFixture f;
-    MainWindowController& c = f.shown();
-    f.checked(c);
-    c.setShouldCloseDocument(true);
-    f.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Examine); });
-    pageOf(c).findChild<QPushButton*>("repairAll")->click();
-    const QPointer<RepairCommand> repair = c.inspectorWindow->findChild<RepairCommand*>();
-    QSignalSpy ended(repair.data(), &RepairCommand::ended);
-    QSignalSpy closed(&f.document, &Document::closed);
-    f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath(mends ? "b.eps" : "nowhere/b.eps"))});
-    QTRY_COMPARE(f.service.openCount(), 3);
-    const auto process = f.service.lastProcess();
-    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
-    f.alerts.answer = 0;  // "Close When Finished"
-    QVERIFY(!c.window()->close());
-    bool stood = false;
-    f.alerts.answer = 1;  // "Close"
-    f.alerts.whileShown = [&] {
-      QTest::qWait(50);
-      stood = repair && c.window()->isVisible();
-    };
-    f.service.setPrepare([](MemoryPictureProcess&) {});
-    process->release(PictureCall::Examine);
-    QTRY_COMPARE(ended.size(), 1);
-    QCOMPARE(f.alerts.shown.size(), 2);
-    QVERIFY(stood);
-    if (mends) {
-      QTRY_COMPARE(closed.size(), 1);
-    } else {
-      QTest::qWait(50);
-      QVERIFY(closed.isEmpty() && c.window()->isVisible());  // it can be tried again
-    }
-  }
-
   void thePasswordOfTheWindowIsThatOfTheCheck() {
     WindowFixture f;
     f.service.setChoose([](const QByteArray& pdf, const ReaderChoices& choices) -> Result<PictureBytes> {
@@ -346,16 +180,6 @@ class CheckTest : public QObject {
     CheckFixture::checked(c);
     QVERIFY(f.service.choices().size() > before);
     QCOMPARE(f.service.choices().constLast().password, QString("geheim"));
-  }
-
-  void aPreviewIsMadeAnewWhereItIsBadOrAllThatIsAsked() {
-    const Finding missing = finding(rule("eps.preview.missing"), "a");
-    const Finding differs = finding(rule("eps.preview.differs"), "b");
-    const Finding box = finding(rule("eps.bounding-box.missing"), "c");
-    QCOMPARE(RepairCommand::proposedPreview({box, missing}), PreviewUse::Keep);
-    QCOMPARE(RepairCommand::proposedPreview({box, differs}), PreviewUse::Rebuild);
-    QCOMPARE(RepairCommand::proposedPreview({missing}), PreviewUse::Rebuild);
-    QCOMPARE(RepairCommand::proposedPreview({}), PreviewUse::Keep);
   }
 };
 

@@ -188,6 +188,26 @@ class ExportTest : public QObject {
     QCOMPARE(f.alerts.shown.first().informativeText, QString("/nowhere/at/all/out.png"));
   }
 
+  void aWindowThatIsToCloseStaysWhereNothingWasWritten() {
+    ExportFixture f;
+    MainWindowController& c = f.controller;
+    c.window()->show();
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Compose);
+    f.dialog();
+    f.choose(PictureFormat::Eps);
+    f.name("/nowhere/at/all/out.eps");
+    QSignalSpy ended(f.command, &ExportCommand::ended);
+    emit f.command->dialog()->chosen();
+    f.alerts.answer = 0;  // "Close When Finished"
+    QVERIFY(!c.window()->close() && c.closesWhenDone());
+    process->release(PictureCall::Compose);
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(f.alerts.shown.size(), 2);
+    QTest::qWait(50);
+    QVERIFY(c.window()->isVisible() && !c.closesWhenDone());
+  }
+
   void withoutAPictureThereIsNothingToExport() {
     WindowFixture f;
     MainWindowController& c = f.loaded("no picture", "a.eps", NorvexEPSType);

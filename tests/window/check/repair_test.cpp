@@ -1,0 +1,134 @@
+// A mended copy from the Check page: where it goes, what is told, and which window stays.
+#include <QDir>
+#include <QFileOpenEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+
+#include "kit/test_main.h"
+#include "window/check/check_fixture.h"
+#include "window/check/repair_command.h"
+
+using namespace norvex;
+
+namespace {
+
+/// Remembers what the program was asked to open.
+class Opened final : public QObject {
+ public:
+  Opened() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::FileOpen) return false;
+    urls << static_cast<QFileOpenEvent*>(event)->url();
+    return true;
+  }
+  QList<QUrl> urls;
+};
+
+}  // namespace
+
+class RepairTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void repairWritesAnotherFileTellsWhatItChangedAndOpensIt() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    const QByteArray before = f.read("a.eps");
+    Opened opened;
+    f.alerts.answer = 0;
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    QVERIFY(f.panel.isOpen());
+    QCOMPARE(f.panel.settings.nameFieldStringValue, QStringLiteral("a_repaired.eps"));
+    const QUrl url = QUrl::fromLocalFile(f.folder.filePath("b.eps"));
+    QSignalSpy ended(c.inspectorWindow->findChild<RepairCommand*>(), &RepairCommand::ended);
+    f.panel.answer({true, url});
+    QVERIFY(!ended.isEmpty() || ended.wait(20000));
+    QVERIFY(ended[0][1].toBool());
+    QCOMPARE(f.read("a.eps"), before);
+    QVERIFY(f.read("b.eps").contains("showpage"));
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QVERIFY(f.alerts.shown[0].informativeText.contains("showpage", Qt::CaseInsensitive));
+    QCoreApplication::processEvents();
+    QCOMPARE(opened.urls, QList<QUrl>{url});
+  }
+
+  void aPanelThatIsCancelledRepairsNothing() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    f.panel.answer({});
+    QVERIFY(!c.inspectorWindow->findChild<RepairCommand*>()->isRepairing());
+    QCOMPARE(QDir(f.folder.path()).entryList({"*.eps"}), QStringList{"a.eps"});
+  }
+
+  void whatCannotBeMendedIsToldAndNothingIsWritten() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    f.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Examine, {ErrorKind::Died, QStringLiteral("the picture process ended")});
+    });
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    QSignalSpy ended(c.inspectorWindow->findChild<RepairCommand*>(), &RepairCommand::ended);
+    f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath("b.eps"))});
+    QVERIFY(!ended.isEmpty() || ended.wait(20000));
+    QVERIFY(!ended[0][1].toBool() && !QFile::exists(f.folder.filePath("b.eps")));
+    QCOMPARE(f.alerts.shown.size(), 1);
+  }
+
+  void aWindowThatClosesWhenDoneStaysUnderWhatIsTold_data() {
+    QTest::addColumn<bool>("mends");
+    QTest::newRow("mended") << true;
+    QTest::newRow("failed") << false;
+  }
+  void aWindowThatClosesWhenDoneStaysUnderWhatIsTold() {
+    QFETCH(bool, mends);
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    c.setShouldCloseDocument(true);
+    f.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Examine); });
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    const QPointer<RepairCommand> repair = c.inspectorWindow->findChild<RepairCommand*>();
+    QSignalSpy ended(repair.data(), &RepairCommand::ended);
+    QSignalSpy closed(&f.document, &Document::closed);
+    f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath(mends ? "b.eps" : "nowhere/b.eps"))});
+    QTRY_COMPARE(f.service.openCount(), 3);
+    const auto process = f.service.lastProcess();
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    f.alerts.answer = 0;  // "Close When Finished"
+    QVERIFY(!c.window()->close());
+    bool stood = false;
+    f.alerts.answer = 1;  // "Close"
+    f.alerts.whileShown = [&] {
+      QTest::qWait(50);
+      stood = repair && c.window()->isVisible();
+    };
+    f.service.setPrepare([](MemoryPictureProcess&) {});
+    process->release(PictureCall::Examine);
+    QTRY_COMPARE(ended.size(), 1);
+    QCOMPARE(f.alerts.shown.size(), 2);
+    QVERIFY(stood);
+    if (mends) {
+      QTRY_COMPARE(closed.size(), 1);
+    } else {
+      QTest::qWait(50);
+      QVERIFY(closed.isEmpty() && c.window()->isVisible());  // it can be tried again
+    }
+  }
+
+  void aPreviewIsMadeAnewWhereItIsBadOrAllThatIsAsked() {
+    const Finding missing = finding(rule("eps.preview.missing"), "a");
+    const Finding differs = finding(rule("eps.preview.differs"), "b");
+    const Finding box = finding(rule("eps.bounding-box.missing"), "c");
+    QCOMPARE(RepairCommand::proposedPreview({box, missing}), PreviewUse::Keep);
+    QCOMPARE(RepairCommand::proposedPreview({box, differs}), PreviewUse::Rebuild);
+    QCOMPARE(RepairCommand::proposedPreview({missing}), PreviewUse::Rebuild);
+    QCOMPARE(RepairCommand::proposedPreview({}), PreviewUse::Keep);
+  }
+};
+
+NORVEX_TEST(RepairTest)
+#include "repair_test.moc"

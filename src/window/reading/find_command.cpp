@@ -79,11 +79,11 @@ void FindCommand::open() {
 }
 
 void FindCommand::close() {
+  parts_.scrollArea()->setFocus(Qt::OtherFocusReason);  // as nobody who came with Tab
   card_->hide();
   letters_.stopLooking();
   runs_.clear();
   if (marks_.made()) marks_.made()->setFound({}, {});
-  parts_.scrollArea()->setFocus(Qt::OtherFocusReason);
 }
 
 void FindCommand::pageDidChange() {

@@ -182,6 +182,8 @@ class FindingTest : public QObject {
     QTest::keyClick(needle, Qt::Key_F3, Qt::ShiftModifier);
     QCOMPARE(f.find->bar()->outcome(), QString("1 of 2"));
     QVERIFY(!f.c.inspectorWindow->isVisible());
+    QTest::keyClick(needle, Qt::Key_Escape);
+    QVERIFY(f.c.scrollArea()->hasFocus() && !f.c.scrollArea()->showsFocus());
   }
 
   void escapeInThePictureClosesTheBarThenEndsTheMode() {

@@ -11,15 +11,21 @@
 namespace norvex {
 namespace {
 
+/// Values in one map, those inside others counted too. A page of text takes the most: a place is an array of
+/// four numbers. A byte on the wire becomes sixteen in memory, so that bytes alone bound nothing.
+constexpr qint64 kMostValues = 8 * limits::maximumLetters;
+
 /// Walks over one value without building it. What our own encoder never writes is refused here, before Qt
-/// turns tagged values into dates, addresses and patterns with parsers of their own.
-bool isPlain(QCborStreamReader& reader, int depth) {
-  if (reader.lastError() != QCborError::NoError || depth > limits::maximumMessageDepth) return false;
+/// turns tagged values into dates, addresses and patterns with parsers of their own. `left`: values that may
+/// still come.
+bool isPlain(QCborStreamReader& reader, int depth, qint64& left) {
+  if (reader.lastError() != QCborError::NoError || depth > limits::maximumMessageDepth || --left < 0)
+    return false;
   if (reader.isContainer()) {
     if (!reader.isLengthKnown()) return false;
     if (!reader.enterContainer()) return false;
     while (reader.lastError() == QCborError::NoError && reader.hasNext())
-      if (!isPlain(reader, depth + 1)) return false;
+      if (!isPlain(reader, depth + 1, left)) return false;
     return reader.lastError() == QCborError::NoError && reader.leaveContainer();
   }
   if (reader.isByteArray()) {
@@ -64,7 +70,8 @@ CborReader CborReader::parse(const QByteArray& cbor) {
   CborReader failed{QCborMap()};
   failed.require(false);
   QCborStreamReader reader(cbor);
-  if (!reader.isMap() || !isPlain(reader, 0) || reader.currentOffset() != cbor.size()) return failed;
+  qint64 left = kMostValues;
+  if (!reader.isMap() || !isPlain(reader, 0, left) || reader.currentOffset() != cbor.size()) return failed;
   QCborParserError error;
   const QCborValue value = QCborValue::fromCbor(cbor, &error);
   if (error.error != QCborError::NoError || !value.isMap()) return failed;

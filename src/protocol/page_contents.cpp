@@ -105,7 +105,8 @@ QByteArray encoded(const T& value) {
 
 template <typename T>
 Result<T> decoded(const QByteArray& cbor) {
-  CborReader reader = CborReader::parse(cbor);
+  // The same facts would fit a message.
+  CborReader reader = CborReader::parse(cbor.size() > limits::maximumMessageBytes ? QByteArray() : cbor);
   T value;
   fields(reader, value);
   if (reader.complete()) return value;

@@ -108,6 +108,25 @@ bool arrives(const QByteArray& cbor) {
 class MessageLimitsTest : public QObject {
   Q_OBJECT
  private slots:
+  void moreValuesThanAPageOfTextHasAreNotBuilt() {
+    // A map with one array of `count` rectangles, each an array of four zeros.
+    const auto map = [](quint32 count) {
+      QByteArray cbor = "\xA1\x61r\x9A";
+      for (const int shift : {24, 16, 8, 0}) cbor.append(char(count >> shift & 0xFF));
+      const QByteArray zero("\xFB\0\0\0\0\0\0\0\0", 9);
+      return cbor + ("\x84" + zero + zero + zero + zero).repeated(count);
+    };
+    const auto isTaken = [](const QByteArray& cbor) {
+      CborReader reader = CborReader::parse(cbor);
+      QList<QRectF> rects;
+      reader.rects(QLatin1String("r"), rects, 2 * limits::maximumLetters, 1);
+      return reader.complete();
+    };
+    constexpr quint32 most = (8 * limits::maximumLetters - 3) / 5;  // beside the map, its key and the array
+    QVERIFY(isTaken(map(most)));
+    QVERIFY(!isTaken(map(most + 1)));
+  }
+
   void whatLiesOnABoundArrivesAndWhatLiesBeyondDoesNot_data() {
     QTest::addColumn<QByteArray>("on");
     QTest::addColumn<QByteArray>("beyond");

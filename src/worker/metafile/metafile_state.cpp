@@ -96,9 +96,9 @@ bool MetafileDrawing::makeObject(quint16 function, Words& words) {
       font.isItalic = (words.unsignedWord() & 0xFF) != 0;
       words.text(6);
       const QByteArrayView face = words.rest().first(std::min<qsizetype>(32, words.rest().size()));
-      font.face =
-          face.first(std::max<qsizetype>(0, face.indexOf('\0') < 0 ? face.size() : face.indexOf('\0')))
-              .toByteArray();
+      const qsizetype end = face.indexOf('\0');
+      // A code page of Windows, while cairo draws nothing more after a name that is no UTF-8.
+      font.face = QString::fromLatin1(end < 0 ? face : face.first(end)).toUtf8();
       add(font);
       return true;
     }

@@ -125,6 +125,18 @@ class MetafilePreviewTest : public QObject {
     QVERIFY(image->data.count('\0') > 100);
   }
 
+  void aFontWhoseNameIsNoUtf8StopsNothing() {
+    const QByteArray font =
+        metafileRecord(0x2FB, {-20, 0, 0, 0, 400, 0, 0, 0, 0}, QByteArray("Gro\xDF\xE4\0", 6));
+    const auto image =
+        decodeMetafile(madeMetafile(kFill + font + selected(3) + metafileRecord(0x521, {2, 0x4848, 2, 2}) +
+                                    metafileRecord(0x41B, {30, 40, 20, 30})),
+                       {});
+    QVERIFY2(image.ok(), image ? "" : qPrintable(image.error().message));
+    QVERIFY(image->data.count('\0') > 100);
+    QCOMPARE(pixel(*image, 35, 25), kRed);
+  }
+
   void aFrameTellsTheSize() {
     const auto image =
         decodeMetafile(kit::placeableMetafile(kFill + metafileRecord(0x41B, {115, 120, 100, 100})), {});

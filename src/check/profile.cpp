@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -126,13 +127,19 @@ QStringList shippedProfiles() {
 Result<Profile> profileNamed(const QString& nameOrFile) {
   const bool isShipped = shippedProfiles().contains(nameOrFile);
   QFile file(isShipped ? QStringLiteral("%1/%2.toml").arg(shippedFolder(), nameOrFile) : nameOrFile);
+  // Pipes and devices may never end, or never begin.
+  if (!isShipped && QFileInfo::exists(nameOrFile) && !QFileInfo(nameOrFile).isFile())
+    return Error{ErrorKind::CannotRead,
+                 QStringLiteral("%1 is no ordinary file, as a profile has to be").arg(nameOrFile)};
   if (!file.open(QIODevice::ReadOnly))
     return Error{ErrorKind::CannotRead,
                  QStringLiteral("there is no profile %1, and no file of that name; profiles are: %2")
                      .arg(nameOrFile, shippedProfiles().join(QStringLiteral(", ")))};
-  if (file.size() > limits::maximumProfileBytes)
+  // Some files say that they hold nothing, and do.
+  const QByteArray toml = file.read(limits::maximumProfileBytes + 1);
+  if (toml.size() > limits::maximumProfileBytes)
     return Error{ErrorKind::Limit, QStringLiteral("%1 is too large for a profile").arg(nameOrFile)};
-  Result<Profile> profile = profileFromToml(file.readAll());
+  Result<Profile> profile = profileFromToml(toml);
   if (profile) return profile;
   return Error{profile.error().kind, QStringLiteral("%1, %2").arg(nameOrFile, profile.error().message)};
 }

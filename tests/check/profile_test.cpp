@@ -3,6 +3,8 @@
 
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 #include "kit/test_main.h"
 #include "protocol/limits.h"
 
@@ -96,6 +98,18 @@ class ProfileTest : public QObject {
     file.close();
     QCOMPARE(profileNamed(file.fileName())->limits.totalInk, std::optional(280.0));
     QCOMPARE(profileNamed("nowhere").error().kind, ErrorKind::CannotRead);
+  }
+
+  void pipesAndDevicesAreNoProfiles() {
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath("pipe.toml");
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& name : {pipe, QStringLiteral("/dev/zero"), folder.path()}) {
+      const Result<Profile> profile = profileNamed(name);
+      QVERIFY(!profile.ok());
+      QCOMPARE(profile.error().kind, ErrorKind::CannotRead);
+      QVERIFY2(profile.error().message.contains("no ordinary file"), qPrintable(profile.error().message));
+    }
   }
 
   void aProfileChangesSeveritiesAndErrorsComeFirst() {

@@ -13,10 +13,10 @@ namespace {
 constexpr size_t kDescriptors = 4;
 constexpr qsizetype kMaximumSize = 4096;  ///< of the device, which is one byte, and the limits as CBOR
 
-/// Room for the descriptors beside a message, aligned as the kernel wants it.
+/// Room for the descriptors beside a message and for who sent it, aligned as the kernel wants it.
 union DescriptorSpace {
   cmsghdr alignment;
-  char bytes[CMSG_SPACE(kDescriptors * sizeof(int))];
+  char bytes[CMSG_SPACE(kDescriptors * sizeof(int)) + CMSG_SPACE(sizeof(ucred))];
 };
 
 Error noMore() {
@@ -35,12 +35,17 @@ msghdr messageOf(iovec& part, DescriptorSpace& space) {
   return message;
 }
 
-/// Gives all of them to `request`, or closes them.
+/// Gives all descriptors to `request`, or closes them, and tells who sent it.
 bool adoptDescriptors(msghdr& message, InterpreterRequest& request) {
   FileDescriptor* const places[kDescriptors] = {&request.program, &request.output, &request.messages,
                                                 &request.outcome};
   size_t got = 0;
   for (cmsghdr* header = CMSG_FIRSTHDR(&message); header != nullptr; header = CMSG_NXTHDR(&message, header)) {
+    if (header->cmsg_level == SOL_SOCKET && header->cmsg_type == SCM_CREDENTIALS) {
+      ucred sender = {};
+      std::memcpy(&sender, CMSG_DATA(header), sizeof sender);
+      request.asker = sender.pid;
+    }
     if (header->cmsg_level != SOL_SOCKET || header->cmsg_type != SCM_RIGHTS) continue;
     const size_t count = (header->cmsg_len - CMSG_LEN(0)) / sizeof(int);
     for (size_t i = 0; i < count; ++i, ++got) {
@@ -59,7 +64,11 @@ Result<InterpreterConnection> makeInterpreterConnection() {
   int ends[2] = {-1, -1};
   // Messages stay whole, so that several can send, and their end is told.
   if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0) return noMore();
-  return InterpreterConnection{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+  InterpreterConnection connection{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+  // The kernel adds who asks: whoever has read a document may say anything about itself.
+  const int yes = 1;
+  if (::setsockopt(ends[1], SOL_SOCKET, SO_PASSCRED, &yes, sizeof yes) != 0) return noMore();
+  return connection;
 }
 
 Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request) {
@@ -71,6 +80,7 @@ Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& reques
   iovec part = {told.data(), size_t(told.size())};
   DescriptorSpace space = {};
   msghdr message = messageOf(part, space);
+  message.msg_controllen = CMSG_SPACE(kDescriptors * sizeof(int));
   cmsghdr* header = CMSG_FIRSTHDR(&message);
   header->cmsg_level = SOL_SOCKET;
   header->cmsg_type = SCM_RIGHTS;

@@ -23,6 +23,7 @@ struct InterpreterRequest {
   /// A pipe for kInterpreterBegun and then, once the interpreter has ended, an InterpreterOutcome. When
   /// nobody reads it any more, the interpreter is killed.
   FileDescriptor outcome;
+  int asker = 0;  ///< the process that sent it, as the kernel tells whoever takes it; 0: unknown
 };
 
 /// Written as soon as there is an interpreter. A pipe that ends without it: nobody took the request.

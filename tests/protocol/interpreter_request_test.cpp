@@ -1,6 +1,7 @@
 #include "protocol/interpreter_request.h"
 
 #include <sys/socket.h>
+#include <unistd.h>
 
 #include "kit/test_main.h"
 
@@ -39,6 +40,7 @@ class InterpreterRequestTest : public QObject {
     QVERIFY(sendInterpreterRequest(connection->asking.get(), someRequest(reading)).ok());
     const auto request = receiveInterpreterRequest(connection->taking.get());
     QVERIFY(request.ok());
+    QCOMPARE(request->asker, int(::getpid()));
     QCOMPARE(request->limits.seconds, 7);
     QCOMPARE(request->limits.memoryMiB, 123);
     QCOMPARE(request->device, InterpreterDevice::Plates);

@@ -42,6 +42,18 @@ bool limitFiles(const PictureLimits& limits) {
          limit(RLIMIT_NOFILE, limits::maximumOpenFiles) && limit(RLIMIT_CORE, 0);
 }
 
+PictureLimits grantedFor(int asker, PictureLimits wanted) {
+  rlimit files = {};
+  const bool isTold = asker > 0 && ::prlimit(asker, RLIMIT_FSIZE, nullptr, &files) == 0;
+  if (isTold && files.rlim_max == RLIM_INFINITY) return wanted;
+  const PictureLimits usual;
+  const rlim_t memory = isTold ? files.rlim_max / kMiB : rlim_t(usual.memoryMiB);
+  const double megapixels = isTold ? double(files.rlim_max) / 4.0e6 : usual.megapixels;
+  wanted.memoryMiB = int(std::min(rlim_t(wanted.memoryMiB), std::max<rlim_t>(1, memory)));
+  wanted.megapixels = std::min(wanted.megapixels, megapixels);
+  return wanted;
+}
+
 bool limitAddressSpace(const PictureLimits& limits, quint64 more) {
   if (isInstrumented) return true;  // shadow memory takes terabytes of address space
   // A second allocation arena would reserve 64 MiB for the thread that only reads messages.

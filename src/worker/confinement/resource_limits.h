@@ -10,6 +10,11 @@ namespace norvex {
 /// the system refused.
 [[nodiscard]] bool limitFiles(const PictureLimits& limits);
 
+/// What may be granted to a process for the sake of another, `asker`, which has read a document and may ask
+/// for anything: `wanted`, no more of memory and pixels than limitFiles() has granted that one. Where that
+/// cannot be found out, no more than PictureLimits are by default.
+[[nodiscard]] PictureLimits grantedFor(int asker, PictureLimits wanted);
+
 /// Address space beyond what is mapped now: the caller's limit speaks of the document. `more`: bytes on top,
 /// for libraries that are still to be loaded. It can only fall. Builds with sanitizers have no such limit.
 [[nodiscard]] bool limitAddressSpace(const PictureLimits& limits, quint64 more = 0);

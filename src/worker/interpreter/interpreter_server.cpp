@@ -16,6 +16,7 @@
 #include "base/remove_folder.h"
 #include "protocol/limits.h"
 #include "worker/confinement/process_files.h"
+#include "worker/confinement/resource_limits.h"
 #include "worker/confinement/sandbox.h"
 
 namespace norvex {
@@ -103,7 +104,7 @@ void InterpreterServer::becomeInterpreter(int parent, const InterpreterRequest& 
   const int foreign = moveProcessFiles(STDERR_FILENO + 1);
   ::syscall(SYS_close_range, foreign, ~0u, 0);
   SandboxPolicy policy;
-  policy.limits = request.limits;
+  policy.limits = grantedFor(request.asker, request.limits);
   policy.scratchFolder = QFile::decodeName(scratchFolder);
   policy.writesScratchFiles = true;
   if (!enterSandbox(policy)) ::_exit(kInterpreterNotConfined);

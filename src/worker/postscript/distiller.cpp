@@ -2,6 +2,7 @@
 
 #include <QList>
 
+#include <optional>
 #include <utility>
 
 #include "worker/engine/distiller_arguments.h"
@@ -18,10 +19,16 @@ QList<QByteArray> distillerArguments(InterpreterDevice device) {
 
 Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& context,
                                                          InterpreterDevice device) {
-  if (context.interpreters >= 0)
-    if (auto child = GhostscriptChild::fork(context.interpreters, context.limits, device)) return child;
-  return GhostscriptChild::start(distillerArguments(device), context.scratchFolder, context.limits.seconds,
-                                 device);
+  std::optional<Error> lost;
+  if (context.interpreters >= 0) {
+    auto child = GhostscriptChild::fork(context.interpreters, context.limits, device);
+    if (child) return child;
+    lost = child.error();
+  }
+  auto started = GhostscriptChild::start(distillerArguments(device), context.scratchFolder,
+                                         context.limits.seconds, device);
+  if (!started && lost) return *lost;  // a process that may start no program has lost more than gs
+  return started;
 }
 
 QByteArray completeOutput() {
@@ -31,16 +38,20 @@ QByteArray completeOutput() {
 
 Result<GhostscriptOutput> runGhostscript(InterpreterDevice device, const GhostscriptInput& input,
                                          EngineContext& context) {
+  bool lost = false;
   while (true) {
     std::shared_ptr<GhostscriptChild> child;
     if (device == InterpreterDevice::Pdf) child = std::exchange(context.warmGhostscript, nullptr);
     if (!child) {
       auto started = startDistiller(context, device);
+      if (!started && lost)
+        return Error{ErrorKind::Died, QStringLiteral("the interpreter of PostScript has ended")};
       if (!started) return started.error();
       child = std::move(*started);
     }
     Result<GhostscriptOutput> run = child->run(input(child->isForked()), context);
     if (run || run.error().kind != ErrorKind::Unsupported || context.interpreters < 0) return run;
+    lost = true;
     context.interpreters = -1;  // nobody forks interpreters here: gs is started from now on
   }
 }

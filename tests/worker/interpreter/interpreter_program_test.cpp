@@ -5,13 +5,16 @@
 #include <QThread>
 
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 
 #include <csignal>
 
+#include "kit/forked_check.h"
 #include "kit/process_watch.h"
 #include "kit/test_main.h"
 #include "protocol/limits.h"
+#include "worker/confinement/sandbox.h"
 #include "worker/postscript/distill.h"
 #include "worker/postscript/distiller.h"
 #include "worker/postscript/ghostscript.h"
@@ -275,6 +278,20 @@ class InterpreterProgramTest : public QObject {
     QVERIFY(interpreters.stillWork());
   }
 
+  void nobodyGrantsAnInterpreterMoreThanItHasItself() {
+    Interpreters interpreters;
+    const int told = kit::inForkedChild([&] {
+      const rlimit files = {64 << 20, 64 << 20};
+      if (::setrlimit(RLIMIT_FSIZE, &files) != 0) return 100;
+      interpreters.context().limits.memoryMiB = 1 << 20;
+      // Some 600 MiB.
+      const auto run = interpreters.run("[ 10000 { 60000 string } repeat (all of it) = flush quit\n");
+      return run && run->messages.contains("all of it\n") ? 1 : 0;
+    });
+    QCOMPARE(told, 0);
+    QVERIFY(interpreters.saidBy("[ 10000 { 60000 string } repeat (all of it) =").contains("all of it\n"));
+  }
+
   void tooManyTemporaryFilesAreALimit() {
     Interpreters interpreters;
     interpreters.context().scratchFolder.clear();  // the server watches its own folders
@@ -376,6 +393,23 @@ class InterpreterProgramTest : public QObject {
     QVERIFY(interpreters.program().pid() != before);
     interpreters.context().interpreters = interpreters.program().asking();
     QVERIFY(interpreters.stillWork());
+  }
+
+  void thatItDiedIsToldWhereNothingElseMayBeStarted() {
+    Interpreters interpreters;
+    const int before = interpreters.program().pid();
+    ::kill(before, SIGKILL);
+    QVERIFY(kit::eventually([before] { return kit::stateOf(before) == 'Z'; }));
+    const int told = kit::inForkedChild([&] {
+      SandboxPolicy policy;
+      policy.limits = interpreters.context().limits;
+      if (!enterSandbox(policy)) return 100;
+      const auto run = runGhostscript(
+          InterpreterDevice::Plates, [](bool) { return QList<QByteArray>{"quit\n"}; },
+          interpreters.context());
+      return run ? 101 : int(run.error().kind);
+    });
+    QCOMPARE(told, int(ErrorKind::Died));
   }
 
   void nobodyIsLeftWhenWhoStartedItDies() {

@@ -12,6 +12,7 @@
 #include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "picture/pdf_image_rep.h"
+#include "protocol/limits.h"
 #include "ui/pages/layer_list.h"
 #include "ui/picture/brief_note.h"
 #include "ui/picture/zooming_scroll_area.h"
@@ -61,13 +62,20 @@ void LayersCommand::choose(const QList<PictureLayer>& layers) {
   const QList<PictureLayer> before = shown();
   for (touched_ = 0; touched_ < before.size(); ++touched_)
     if (before.at(touched_).shown != layers.at(touched_).shown) break;
-  emit layersChosen(layers);
+  emit layersChosen(toChoose(before));
 }
 
 QList<PictureLayer> LayersCommand::shown() const {
   const auto rep = parts_.view() ? std::dynamic_pointer_cast<NSPDFImageRep>(parts_.view()->imageRep())
                                  : std::shared_ptr<NSPDFImageRep>();
   return rep ? rep->facts().layers : QList<PictureLayer>();
+}
+
+QList<PictureLayer> LayersCommand::toChoose(const QList<PictureLayer>& before) const {
+  // A layer that comes up may exclude one that is shown now, which the file itself need not show.
+  const bool comesUp = touched_ < wanted_.size() && wanted_.at(touched_).shown;
+  const bool fits = before.size() == wanted_.size() && 2 * wanted_.size() <= limits::maximumLayers;
+  return comesUp && fits ? before + wanted_ : wanted_;
 }
 
 void LayersCommand::documentDidChange() {

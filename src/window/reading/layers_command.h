@@ -31,6 +31,8 @@ class LayersCommand final : public QObject {
   void documentDidStay();
 
  signals:
+  /// As ReaderChoices takes them: all layers, one of them other than before. Where that one comes up, what is
+  /// shown now stands before them, because it tells which of two that exclude each other was meant.
   void layersChosen(const QList<norvex::PictureLayer>& layers);
   /// What was chosen last is not shown; these are, as before.
   void layersStayed(const QList<norvex::PictureLayer>& layers);
@@ -40,6 +42,8 @@ class LayersCommand final : public QObject {
 
  private:
   [[nodiscard]] QList<PictureLayer> shown() const;
+  /// What is to be told on for wanted_. `before`: what is shown.
+  [[nodiscard]] QList<PictureLayer> toChoose(const QList<PictureLayer>& before) const;
   void tellLocked(const QList<PictureLayer>& now);
   void validate();
   void makeList();

@@ -52,6 +52,19 @@ class Configuration {
   [[nodiscard]] const Groups& offered() const { return offered_; }
   [[nodiscard]] bool isHidden(QPDFObjectHandle group) const { return hidden_.count(group.getObjGen()) > 0; }
 
+  /// `wanted`: of offered(), in their order. A layer that is shown already was not meant: of two that exclude
+  /// each other, the one that comes up stays.
+  void choose(const QList<PictureLayer>& wanted) {
+    const Names before = hidden_;
+    // What is to be hidden first: what shows up then may hide its rivals.
+    for (const bool shown : {false, true})
+      for (qsizetype i = 0; i < wanted.size(); ++i) {
+        QPDFObjectHandle group = offered_[size_t(i)];
+        const bool wasShown = before.count(group.getObjGen()) == 0;
+        if (wanted[i].shown == shown && wasShown != shown) show(group, shown);
+      }
+  }
+
   void show(QPDFObjectHandle group, bool shown) {
     const Names locked = namesOf(standard_.getKey("/Locked"));
     const QPDFObjGen name = group.getObjGen();
@@ -141,15 +154,12 @@ QList<PictureLayer> pdfLayers(QPDF& qpdf) {
 
 bool switchLayers(QPDF& qpdf, const QList<PictureLayer>& wanted) {
   const QList<PictureLayer> now = pdfLayers(qpdf);
-  const bool same = now.size() == wanted.size() &&
-                    std::equal(now.begin(), now.end(), wanted.begin(),
-                               [](const PictureLayer& a, const PictureLayer& b) { return a.name == b.name; });
-  if (wanted.isEmpty() || !same) return false;
+  if (wanted.isEmpty() || now.isEmpty() || wanted.size() % now.size() != 0) return false;
+  for (qsizetype i = 0; i < wanted.size(); ++i)
+    if (wanted[i].name != now[i % now.size()].name) return false;
   Configuration configuration(qpdf);
-  // What is to be hidden first: what shows up then may hide its rivals.
-  for (const bool shown : {false, true})
-    for (qsizetype i = 0; i < wanted.size(); ++i)
-      if (wanted[i].shown == shown) configuration.show(configuration.offered()[size_t(i)], shown);
+  for (qsizetype at = 0; at < wanted.size(); at += now.size())
+    configuration.choose(wanted.mid(at, now.size()));
   configuration.write();
   return true;
 }

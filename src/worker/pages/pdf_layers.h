@@ -13,8 +13,9 @@ namespace norvex::engine {
 [[nodiscard]] QList<PictureLayer> pdfLayers(QPDF& qpdf);
 
 /// Makes `wanted`, a list as pdfLayers() gives it, the default configuration. A layer that the document locks
-/// stays as it is; one of a group of which one alone may be seen hides the others when it is shown. False:
-/// nothing was changed, as with a list of other layers. May throw.
+/// stays as it is; one of a group of which one alone may be seen hides the others when it comes up. Several
+/// lists, one behind the other, are made so in turn: what comes up is what the list before did not show.
+/// False: nothing was changed, as with a list of other layers. May throw.
 bool switchLayers(QPDF& qpdf, const QList<PictureLayer>& wanted);
 
 }  // namespace norvex::engine

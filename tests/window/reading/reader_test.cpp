@@ -58,7 +58,7 @@ class Layered : public WindowFixture {
   MainWindowController& opened() {
     service.setPicture(pictureWith({{"Red", true}, {"Blue", false}}));
     service.setChoose([this](const QByteArray& pdf, const ReaderChoices& choices) {
-      service.setPicture(pictureWith(choices.layers));
+      service.setPicture(pictureWith(choices.layers.last(2)));
       return PictureBytes{pdf, {}};
     });
     return loaded("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
@@ -194,11 +194,27 @@ class ReaderTest : public QObject {
     f.press(1, true);
     QVERIFY(f.c.view()->imageRep() != before);
     QCOMPARE(f.list()->item(1)->checkState(), Qt::Checked);
-    QCOMPARE(f.service.choices().constLast().layers.at(1).shown, true);
+    QCOMPARE(f.service.choices().constLast().layers.constLast().shown, true);
     QCOMPARE(f.c.view()->imageRep()->page(), 1);
     QCOMPARE(f.c.view()->bounds().size(), QSizeF(400, 300));
     f.revert();
     QCOMPARE(f.list()->item(1)->checkState(), Qt::Checked);
+  }
+
+  void aLayerThatComesUpIsToldBehindWhatWasShown() {
+    Layered f;
+    const auto told = [&f] {
+      QString text;
+      for (const PictureLayer& layer : f.service.choices().constLast().layers)
+        text += layer.name.left(1) + (layer.shown ? u'+' : u'-');
+      return text;
+    };
+    f.press(1, true);
+    QCOMPARE(told(), QString("R+B-R+B+"));
+    f.press(0, false);
+    QCOMPARE(told(), QString("R-B+"));
+    f.press(0, true);
+    QCOMPARE(told(), QString("R-B+R+B+"));
   }
 
   void aLockedLayerSpringsBackAndSaysWhy() {

@@ -224,6 +224,22 @@ class ChosenPdfTest : public QObject {
     QCOMPARE(shownLayers(*opened->engine), QString("R-G+B-"));
   }
 
+  void oneOfAGroupIsSwitchedBackAsOneSwitchedIt() {
+    const QByteArray pdf = layered("/OFF [6 0 R] /RBGroups [[5 0 R 6 0 R]]");
+    const QList<PictureLayer> second{{"Red", false}, {"Green", true}, {"Blue", true}};
+    const QList<PictureLayer> both{{"Red", true}, {"Green", true}, {"Blue", true}};
+    QCOMPARE(shownLayers(*open(pdf, {}, both)->engine), QString("R-G+B+"));
+    const auto back = open(pdf, {}, second + both);
+    QCOMPARE(shownLayers(*back->engine), QString("R+G-B+"));
+    QCOMPARE(painted(*back->engine), QString("R-B"));
+  }
+
+  void whatComesUpStaysInFrontOfItsLaterRival() {
+    const QByteArray pdf = layered("/OFF [5 0 R] /RBGroups [[5 0 R 6 0 R]]");
+    const auto opened = open(pdf, {}, {{"Red", true}, {"Green", true}, {"Blue", true}});
+    QCOMPARE(shownLayers(*opened->engine), QString("R+G-B+"));
+  }
+
   void layersOfAnotherDocumentSwitchNothing() {
     const auto opened = open(layered("/OFF [6 0 R]"), {}, {{"Red", false}, {"Yellow", true}});
     QCOMPARE(shownLayers(*opened->engine), QString("R+G-B+"));

@@ -5,6 +5,8 @@
 #include <poppler.h>
 #pragma pop_macro("signals")
 
+#include <QStringDecoder>
+
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -40,7 +42,10 @@ void readLetters(PopplerPage* page, const AffineTransform& toPicture, PageText& 
   guint count = 0;
   if (!text || !poppler_page_get_text_layout(page, &found, &count)) return;
   const std::unique_ptr<PopplerRectangle, Free> rectangles(found);
-  const QList<uint> letters = QString::fromUtf8(text.get()).toUcs4();
+  // A mark of byte order in front has a place like any letter: it must not be dropped before its place is.
+  QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
+  const QString decoded = decoder(text.get());
+  const QList<uint> letters = decoded.toUcs4();
   for (qsizetype i = 0; i < letters.size() && i < qsizetype(count); ++i) {
     const char32_t letter = letters[i];
     const QString units = QString::fromUcs4(&letter, 1);

@@ -98,6 +98,22 @@ class PageTextTest : public QObject {
     QVERIFY(page.places[feed].isEmpty());
   }
 
+  void aMarkOfByteOrderInFrontShiftsNoPlace() {
+    // The font says that its "A" is that mark.
+    const QByteArray map =
+        "/CIDInit /ProcSet findresource begin begincmap 1 begincodespacerange <00> <FF> endcodespacerange "
+        "1 beginbfchar <41> <FEFF> endbfchar endcmap end\n";
+    const PageText page = textOf(
+        PictureKind::Pdf,
+        onePage("BT /F 10 Tf 20 70 Td (AHello) Tj ET",
+                "/MediaBox [0 0 200 100] /Resources << /Font << /F 5 0 R >> >>",
+                {"<< /Type /Font /Subtype /Type1 /BaseFont /Courier /ToUnicode 6 0 R >>",
+                 "<< /Length " + QByteArray::number(map.size()) + " >>\nstream\n" + map + "endstream"}));
+    QCOMPARE(page.text.size(), page.places.size());
+    QVERIFY2(qAbs(placeOf(page, "Hello").left() - 26) < 0.5, qPrintable(page.text));
+    QCOMPARE(page.text.trimmed(), QString("Hello"));  // nobody sees the mark
+  }
+
   void linksAreToldWithTheirAddress() {
     const PageText page =
         textOf(PictureKind::Pdf,

@@ -126,7 +126,7 @@ class EpsEngine final : public DocumentEngine {
   // The program itself: what a PDF of it would say otherwise is not on its plates.
   [[nodiscard]] Result<EngineBytes> inks(const ExamineRequest& request) {
     if (request.page != 0) return noSuchPage(request.page, 1);
-    return inksOfProgram(epsProgram(bytes_), box_, request, context_);
+    return inksOfProgram(pictureProgram(bytes_), box_, request, context_);
   }
 
   /// Of what prepareSurroundings() made.

@@ -245,6 +245,20 @@ class SeparationsTest : public QObject {
     QCOMPARE(page->inks[1].coverage, 0.0);
   }
 
+  void platesBehindAPictureInItsFileAreNotSeparated() {
+    // The picture paints nothing; a plate behind it, which begins where its comment says, is all cyan.
+    const QByteArray header =
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 60 40\n%%PlateFile: (Cyan) EPS #000200 99\n"
+        "%%EndComments\n0 1 0 0 setcmykcolor 0 0 60 40 rectfill\n";
+    const QByteArray picture = header.leftJustified(200, '\n');
+    Opened opened(PictureKind::Eps,
+                  picture + eps("1 0 0 0 setcmykcolor 0 0 60 40 rectfill") + eps("nosuchoperator"));
+    const Result<PageInks> page = opened.inks();
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    QCOMPARE(page->inks[0].coverage, 0.0);
+    QCOMPARE(page->inks[1].coverage, 1.0);
+  }
+
   void aProgramCannotChangeItsPage() {
     Opened opened(
         PictureKind::Eps,

@@ -2,6 +2,9 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
 
 #include "base/interruption.h"
 #include "base/time_limit.h"
@@ -31,6 +34,7 @@ Result<SeparatedPage> inksOf(PictureService& service, const PictureSource& sourc
   const auto process = service.open(read->bytes, *kind, limits);
   Result<SeparatedPage> page = separatedPage(*process, *kind, request, time.token());
   if (!page) return time.explained(page.error());
+  page->warnings = read->report.warnings + page->warnings;
   return page;
 }
 
@@ -39,6 +43,19 @@ QString baseOfPlates(const Arguments& arguments) {
   const QString& file = arguments.files.first();
   const QString name = file == u"-" ? QStringLiteral("plate") : QFileInfo(file).completeBaseName();
   return arguments.has(Option::Page) ? name + u'-' + arguments.values.value(Option::Page) : name;
+}
+
+/// The object of a page, each of its inks with the file of its plate. `plates`: as writePlates() gives them;
+/// empty: none were written.
+QJsonObject withPlates(QJsonObject object, const QStringList& plates) {
+  QJsonArray inks = object.take("inks").toArray();
+  for (qsizetype i = 0; i < std::min(inks.size(), plates.size()); ++i) {
+    QJsonObject ink = inks.at(i).toObject();
+    insertName(ink, QStringLiteral("plate"), plates.at(i));
+    inks.replace(i, ink);
+  }
+  object.insert("inks", inks);
+  return object;
 }
 
 }  // namespace
@@ -70,8 +87,8 @@ ExitCode Job::inks(const Arguments& arguments) {
       console_.message(QStringLiteral("norvex: %1: %2").arg(file, warning));
     return show(visible(inkLines(*page), true));
   }
-  QJsonObject object = inkObject(*page, plates);
-  object.insert("file", file);
+  QJsonObject object = withPlates(inkObject(*page), plates);
+  insertName(object, QStringLiteral("file"), file);
   object.insert("page", request.page + 1);
   return show(QString::fromUtf8(jsonOutput(QJsonDocument(QJsonArray{object}))));
 }

@@ -110,7 +110,8 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   const PrintSource source = sourceOf(*opened, picture.fileURL);
   const Result<PictureBytes> drawing = source.picture(time.token());
   if (!drawing) return fail(file, time.explained(drawing.error()));
-  remark(file, (*opened)->warnings() + pagesNotPrinted(**opened, arguments) + drawing->report.warnings);
+  remark(file, read->report.warnings + (*opened)->warnings() + pagesNotPrinted(**opened, arguments) +
+                   drawing->report.warnings);
   const Result<QByteArray> pages = composeJob(source, info, service_, drawing->bytes, time.token());
   if (!pages) return fail(file, time.explained(pages.error()));
   if (!output.isEmpty()) return writeOutput(output, *pages, arguments.has(Option::Force));

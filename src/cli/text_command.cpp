@@ -43,6 +43,7 @@ ExitCode Job::text(const Arguments& arguments) {
   source.bytes = read->bytes;
   const Result<PageText> found = textOf(service_, source, picture, time.token());
   if (!found) return fail(file, time.explained(found.error()));
+  remark(file, read->report.warnings);
   QString text = found->text;
   if (!text.isEmpty() && !text.endsWith(u'\n')) text += u'\n';
   if (!found->complete)

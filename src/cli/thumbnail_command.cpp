@@ -55,7 +55,7 @@ ExitCode Job::thumbnail(const Arguments& arguments) {
   source.bytes = read->bytes;
   const Result<Thumbnail> thumbnail = thumbnailOf(service_, source, side);
   if (!thumbnail) return fail(file, thumbnail.error());
-  remark(file, thumbnail->warnings);
+  remark(file, read->report.warnings + thumbnail->warnings);
   QImage image = thumbnail->image;
   if (arguments.has(Option::Uri)) describe(image, arguments.values.value(Option::Uri), file);
   const QByteArray png = pngOf(image);

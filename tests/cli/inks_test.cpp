@@ -2,6 +2,8 @@
 #include <QImage>
 #include <QJsonObject>
 
+#include "base/atomic_file.h"
+#include "base/file_name.h"
 #include "cli/cli_files.h"
 #include "cli/inks/plate_files.h"
 #include "kit/test_main.h"
@@ -113,6 +115,30 @@ class InksTest : public QObject {
     const QJsonObject object = jsonOf(line)[0].toObject();
     QCOMPARE(object["inks"].toArray()[4].toObject()["plate"].toString(),
              folder + "/my picture-Gold_Foil.png");
+  }
+
+  void namesThatAreNoTextAreToldWithTheirBytes() {
+    Separated line;
+    const QByteArray raw = QFile::encodeName(line.path("gr")) + "\xFCn", name = raw + ".eps";
+    QVERIFY(writeFileAtomically(fileNameText(name), kEps, IfExists::Fail));
+    QCOMPARE(line.run({"inks", "--json", fileNameText(name), "--plates", line.path("plates")}), 0);
+    const QJsonObject object = jsonOf(line)[0].toObject();
+    QCOMPARE(object["file"].toString(), QString::fromUtf8(name));
+    QCOMPARE(QByteArray::fromBase64(object["fileBytes"].toString().toLatin1()), name);
+    const QJsonObject cyan = object["inks"].toArray()[0].toObject();
+    QCOMPARE(QByteArray::fromBase64(cyan["plateBytes"].toString().toLatin1()),
+             QFile::encodeName(line.path("plates/gr")) + "\xFCn-Cyan.png");
+  }
+
+  void aPlateThatCannotBeEncodedIsNotWritten() {
+    PageInks nothing = page();
+    nothing.pixels = QSize(0, 0);
+    const QTemporaryDir folder;
+    const auto written = writePlates(nothing, folder.path(), "a", false);
+    QVERIFY(!written.ok());
+    QCOMPARE(written.error().kind, ErrorKind::CannotWrite);
+    QVERIFY2(written.error().message.contains("Cyan"), qPrintable(written.error().message));
+    QVERIFY(QDir(folder.path()).isEmpty());
   }
 
   void nothingIsOverwrittenWithoutBeingAsked() {

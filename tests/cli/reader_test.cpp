@@ -3,6 +3,7 @@
 
 #include "cli/cli_files.h"
 #include "kit/test_main.h"
+#include "protocol/page_inks.h"
 #include "protocol/page_text.h"
 
 using namespace norvex;
@@ -111,6 +112,34 @@ class ReaderTest : public QObject {
         line.run({"convert", pdf, "-o", line.path("a.pdf2"), "--format", "pdf", "--password-file", password}),
         0);
     QVERIFY(line.console.messages.contains("it is protected no more"));
+  }
+
+  void everyCommandThatWritesSomethingTellsLostProtection() {
+    CommandLine line;
+    protect(line);
+    MemoryPicture picture;
+    picture.examine = [](const ExamineRequest& request) {
+      if (request.what == Examination::Text) return encodePageText({});
+      PageInks page;
+      page.pixels = QSize(1, 1);
+      page.dpi = 72;
+      for (const char* name : {"Cyan", "Magenta", "Yellow", "Black"}) page.inks << Ink{name, false, {}, 0, 0};
+      page.plates = QByteArray(4, '\0');
+      return encodePageInks(page);
+    };
+    line.service.setPicture(picture);
+    const QString pdf = line.write("a.pdf", kPdf), password = line.write("word", "geheim");
+    for (const QStringList& run :
+         {QStringList{"print", pdf, "-o", line.path("b.pdf")}, QStringList{"text", pdf},
+          QStringList{"inks", pdf}, QStringList{"thumbnail", pdf, line.path("b.png")}}) {
+      const int code = line.run(run + QStringList{"--password-file", password});
+      QVERIFY(code == 0 || run.first() == "print");  // the service in memory composes no pages
+      QVERIFY2(line.console.messages.contains("it is protected no more"),
+               qPrintable(run.first() + ": " + line.console.messages));
+    }
+    QCOMPARE(line.run({"inks", "--json", pdf, "--password-file", password}), 0);
+    const QJsonObject told = jsonOf(line).at(0).toObject();
+    QCOMPARE(told["warnings"].toArray(), QJsonArray{"it is protected no more"});
   }
 
   void anUnreadablePasswordIsNoPassword() {

@@ -45,13 +45,9 @@ QString inkLines(const SeparatedPage& page) {
   return text + QStringLiteral("most ink in one place: %1 %\n").arg(mostInk(page.inks), 0, 'f', 1);
 }
 
-QJsonObject inkObject(const SeparatedPage& page, const QStringList& plates) {
+QJsonObject inkObject(const SeparatedPage& page) {
   QJsonArray inks;
-  for (qsizetype i = 0; i < page.inks.inks.size(); ++i) {
-    QJsonObject ink = objectOf(page.inks, i);
-    if (i < plates.size()) ink.insert("plate", plates.at(i));
-    inks.append(ink);
-  }
+  for (qsizetype i = 0; i < page.inks.inks.size(); ++i) inks.append(objectOf(page.inks, i));
   return {{"width", page.inks.pixels.width()},
           {"height", page.inks.pixels.height()},
           {"dpi", page.inks.dpi},

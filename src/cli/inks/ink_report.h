@@ -3,7 +3,6 @@
 
 #include <QJsonObject>
 #include <QString>
-#include <QStringList>
 
 #include "picture/inks/separated_page.h"
 
@@ -12,7 +11,7 @@ namespace norvex {
 /// A line an ink, and one for all of them.
 [[nodiscard]] QString inkLines(const SeparatedPage& page);
 
-/// `plates`: the files of the inks' plates in their order; empty: none were written.
-[[nodiscard]] QJsonObject inkObject(const SeparatedPage& page, const QStringList& plates);
+/// "inks" holds an object for each of them, in their order.
+[[nodiscard]] QJsonObject inkObject(const SeparatedPage& page);
 
 }  // namespace norvex

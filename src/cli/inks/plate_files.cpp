@@ -70,8 +70,12 @@ Result<QStringList> writePlates(const PageInks& page, const QString& folder, con
   if (!QDir().mkpath(folder))
     return Error{ErrorKind::CannotWrite, QStringLiteral("the folder %1 cannot be made").arg(folder)};
   for (qsizetype i = 0; i < paths.size(); ++i) {
+    const QByteArray png = platePng(page, i);
+    if (png.isEmpty())
+      return Error{ErrorKind::CannotWrite,
+                   QStringLiteral("the plate of %1 cannot be written as PNG").arg(page.inks.at(i).name)};
     const Result<void> written =
-        writeFileAtomically(paths[i], platePng(page, i), force ? IfExists::Replace : IfExists::Fail);
+        writeFileAtomically(paths[i], png, force ? IfExists::Replace : IfExists::Fail);
     if (!written) return written.error();
   }
   return paths;

@@ -14,7 +14,7 @@ namespace norvex {
 /// system takes as part of a file's name is left.
 [[nodiscard]] QStringList plateNames(const QString& base, const PageInks& page);
 
-/// PNG, 8-bit grey: black is all of the ink, as on film.
+/// PNG, 8-bit grey: black is all of the ink, as on film. Empty: it cannot be encoded.
 [[nodiscard]] QByteArray platePng(const PageInks& page, qsizetype ink);
 
 /// Writes every plate into `folder`, which is made where it is missing, and gives their paths. Unless

@@ -1,12 +1,16 @@
 #include "cli/archive/state_report.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <memory>
 
 #include "base/atomic_file.h"
+#include "base/file_descriptor.h"
 #include "base/file_name.h"
 #include "cli/archive/contact_sheet.h"
 #include "cli/archive/state/run_state.h"
@@ -140,10 +144,12 @@ Result<void> writeLines(Database& state, const QByteArray& report) {
 
 bool isStateReport(const QByteArray& path) {
   constexpr qsizetype longestLine = 1 << 16;
-  const std::unique_ptr<FILE, int (*)(FILE*)> file(std::fopen(path.constData(), "re"), &std::fclose);
-  if (!file) return false;
+  // Nobody may ever write to a pipe or a terminal: neither is waited for, nor read.
+  const FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  struct stat status = {};
+  if (!file.valid() || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
   QByteArray begin(longestLine, '\0');
-  begin.truncate(qsizetype(std::fread(begin.data(), 1, size_t(longestLine), file.get())));
+  begin.truncate(std::max<qsizetype>(0, ::read(file.get(), begin.data(), size_t(longestLine))));
   if (begin.isEmpty() || begin.startsWith(kBegin)) return true;
   const QJsonObject first = QJsonDocument::fromJson(begin.left(begin.indexOf('\n'))).object();
   return first.contains(u"file") && first.contains(u"outcome") && first.contains(u"finished");

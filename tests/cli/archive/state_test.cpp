@@ -5,12 +5,16 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <sys/stat.h>
+
 #include <atomic>
 #include <utility>
 
+#include <sys/stat.h>
 #include "cli/archive/archive_files.h"
 #include "cli/archive/state/run_state.h"
 #include "cli/archive/state/state_summary.h"
+
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -378,6 +382,15 @@ class StateTest : public QObject {
       QVERIFY(kept.bytesAt(QFileInfo(report).fileName().toUtf8()) != before);
     }
     QVERIFY(!QFileInfo::exists(kept.path("other")));  // refused before the run
+  }
+
+  void aPipeIsNoReportAndNobodyWaitsForIt() {
+    Kept kept;
+    kept.put("in/a.svg");
+    const QString pipe = kept.path("pipe.html");
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QCOMPARE(kept.run({"--report", pipe}), 4);
+    QVERIFY(kept.console.messages.contains("pipe.html is no ordinary file"));
   }
 
   void theReportShowsWhatBecameAnImageBeforeAndAfter() {

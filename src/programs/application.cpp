@@ -53,11 +53,11 @@ QString onlyFile(int argc, char** argv) {
 }
 
 int runWindows(int argc, char** argv, WorkerService& worker) {
-  sendMessagesToSystemLog();  // whoever started the window from a terminal is not to read along
-  worker.yieldToWindows();
   // Qt takes the first thread that uses it for the one whose events are the application's: this one, before
   // there are others.
   (void)QThread::currentThread();
+  sendMessagesToSystemLog();  // whoever started the window from a terminal is not to read along
+  worker.yieldToWindows();
   EarlyPictureService service(worker);
   if (const QString file = onlyFile(argc, argv); !file.isEmpty()) service.begin(file);
   // The application object waits for the display most of its time; the first text waits for the fonts.

@@ -78,7 +78,8 @@ class TargetsTest : public QObject {
                              "svg_stretching",   "tiff_preview",   "print_settings",
                              "arguments",        "eps_header",     "bounding_box",
                              "source_text",      "text_encoding",  "type_identification",
-                             "eps_source", "procedure_sets", "page_text", "metafile_preview", "page_inks", "psd_plates"})
+                             "eps_source",       "procedure_sets", "page_text",
+                             "metafile_preview", "page_inks",      "psd_plates"})
       QVERIFY2(names.remove(name), name);
     QVERIFY(names.isEmpty());
   }

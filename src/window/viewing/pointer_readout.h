@@ -14,9 +14,9 @@ namespace norvex {
 
 class WindowParts;
 
-/// A field in the window's lower bar: the size of the picture, and its coordinates under the pointer, counted as the selection's
-/// corners are, in a unit that a click changes and that is remembered. The size of the selection is written
-/// beside it in that unit, too. The parts outlive it. Main thread.
+/// A field in the window's lower bar: the size of the picture, and its coordinates under the pointer, counted
+/// as the selection's corners are, in a unit that a click changes and that is remembered. The size of the
+/// selection is written beside it in that unit, too. The parts outlive it. Main thread.
 class PointerReadout final : public QObject {
   Q_OBJECT
  public:

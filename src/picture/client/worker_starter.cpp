@@ -163,6 +163,8 @@ void WorkerStarter::listen(std::unique_lock<std::mutex>& lock, QDeadlineTimer de
 }
 
 bool WorkerStarter::hearNow() {
+  // Whoever listens would sleep on where another took what it was to be woken by.
+  if (isListening_) return false;
   Result<ChannelMessage> message = control_->receive(QDeadlineTimer(0));
   if (!message && message.error().kind == ErrorKind::TimedOut) return false;
   const Result<WorkerReply> reply = message ? decodeReply(message->cbor) : message.error();
@@ -170,6 +172,7 @@ bool WorkerStarter::hearNow() {
     keep(*reply, std::move(message->descriptor));
   else
     stopLocked();
+  heardSome_.notify_all();
   return reply.ok();
 }
 

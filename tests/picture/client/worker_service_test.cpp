@@ -168,6 +168,26 @@ class WorkerServiceTest : public QObject {
     QCOMPARE(good.load(), 36);
   }
 
+  /// Answers that one thread takes while another sleeps must reach that one.
+  void nobodySleepsPastAnAnswerThatAnotherTook() {
+    WorkerStarter starter(kStub);
+    constexpr int rounds = 60;
+    int good = 0;
+    for (int round = 0; round < rounds; ++round) {
+      auto first = MessageChannel::makePair(), second = MessageChannel::makePair();
+      const auto sleeping = starter.request({}, first->second), looking = starter.request({}, second->second);
+      QVERIFY(sleeping.ok() && looking.ok());
+      std::thread sleeper([&] { good += starter.take(*sleeping, QDeadlineTimer(20'000)).ok() ? 1 : 0; });
+      while (true) {
+        const auto taken = starter.take(*looking, QDeadlineTimer(0));
+        if (taken || taken.error().kind != ErrorKind::TimedOut) break;
+      }
+      sleeper.join();
+      if (good <= round) break;  // one is enough to tell
+    }
+    QCOMPARE(good, rounds);
+  }
+
   void aDeathIsTheDocumentsOwn() {
     const auto fragile = service_->open("fragile", PictureKind::Svg);
     const auto other = service_->open("ok", PictureKind::Pdf);

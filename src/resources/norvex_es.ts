@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>&amp;Real Size on This Screen</source>
-        <translation>Tamaño real en es&amp;ta pantalla</translation>
+        <translation>Tamaño real en esta &amp;pantalla</translation>
     </message>
     <message>
         <source>Size the selection</source>

@@ -71,6 +71,7 @@ ForkServer::ChildMain documentChild(const WorkerEngines& engines, const Confinem
 }
 
 int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const ConfinementLayers& layers) {
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is an error of who writes it
   traceStep("norvex-worker linked");
   clearEnvironment();
   if (argc == 2 && std::string_view(argv[1]) == "--sandbox-status") return tellConfinement();

@@ -96,7 +96,8 @@ class StringTablesTest : public QObject {
 
   void everyMessageIsOneTextAndItsTranslation() {
     int looked = 0;
-    for (const QString& language : otherLanguages() << QStringLiteral("en")) {
+    const QStringList languages = otherLanguages() << QStringLiteral("en");
+    for (const QString& language : languages) {
       static const QRegularExpression message("<message>(.*?)</message>",
                                               QRegularExpression::DotMatchesEverythingOption);
       for (const auto& match : message.globalMatch(textOf(kFolder + "norvex_" + language + ".ts"))) {

@@ -37,7 +37,6 @@ class RepairCommand final : public QObject {
   void ended(const QString& path, bool written);
 
  private:
-  struct Repairing;
   void repair(const QString& path, PreviewUse preview);
   void tell(const QString& path, const RepairedPicture& repaired);
 

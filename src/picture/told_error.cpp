@@ -26,6 +26,8 @@ constexpr std::array kQuotations{
               QLatin1String("the picture cannot be read")},
     Quotation{QLatin1String("the picture cannot be drawn: "), QLatin1String(""),
               QLatin1String("the picture holds something that cannot be drawn")},
+    Quotation{QLatin1String("the picture process ended without an answer ("), QLatin1String(")"),
+              QLatin1String("the picture process ended without an answer")},
 };
 
 /// How an interpreter calls it that a program wants to read, write or start something.

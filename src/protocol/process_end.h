@@ -36,7 +36,10 @@ inline constexpr int kMemoryUsedUp = 122;
     return {ErrorKind::Limit, QStringLiteral("the picture needs more processor time than it is allowed")};
   // Nobody but the system's own keeper of memory kills so: we do it only where no answer is waited for.
   if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) return killedBySystem();
-  return {ErrorKind::Died, QStringLiteral("the picture process ended without an answer")};
+  // Of a fault nothing else is left; people read the sentence alone.
+  const QString how = WIFSIGNALED(status) ? QStringLiteral("signal %1").arg(WTERMSIG(status))
+                                          : QStringLiteral("exit code %1").arg(WEXITSTATUS(status));
+  return {ErrorKind::Died, QStringLiteral("the picture process ended without an answer (%1)").arg(how)};
 }
 
 }  // namespace norvex

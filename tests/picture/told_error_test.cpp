@@ -28,6 +28,9 @@ class ToldErrorTest : public QObject {
     QTest::newRow("SVG") << "the picture cannot be drawn: InvalidMatrix"
                          << "the picture holds something that cannot be drawn"
                          << "InvalidMatrix";
+    QTest::newRow("a fault") << "the picture process ended without an answer (signal 11)"
+                             << "the picture process ended without an answer"
+                             << "signal 11";
   }
   void aLibrarysWordsAreDetails() {
     QFETCH(QString, message);

@@ -15,8 +15,9 @@ constexpr int kAnswered = 7;
 int endAfter(size_t posted) {
   return kit::inForkedChild([posted] {
     auto pair = MessageChannel::makePair();
-    MessageChannel ours(std::move(pair->first)), theirs(std::move(pair->second));
-    auto* queue = new RequestQueue(theirs);  // its thread uses it until the process ends
+    // The thread uses both ends until the process ends: were one closed before, it would end it its own way.
+    auto& ours = *new MessageChannel(std::move(pair->first));
+    auto* queue = new RequestQueue(*new MessageChannel(std::move(pair->second)));
     for (size_t i = 0; i < posted; ++i)
       if (!ours.send(encodeMessage(WorkerRequest{quint32(i + 1), PdfRequest()})).ok()) return 1;
     if (posted > limits::maximumWaitingRequests) ::pause();  // the thread ends us

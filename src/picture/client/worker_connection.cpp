@@ -35,11 +35,6 @@ std::optional<int> statusOf(const FileDescriptor& pidfd) {
   return info.si_code == CLD_EXITED ? W_EXITCODE(info.si_status, 0) : W_EXITCODE(0, info.si_status);
 }
 
-/// The reason in an end that is no answer; none: the process has just died.
-std::optional<Error> reasonIn(const std::optional<Error>& end) {
-  return end && (end->kind == ErrorKind::Limit || isKilledBySystem(*end)) ? end : std::nullopt;
-}
-
 }  // namespace
 
 QString plainSentence(const QString& text) {
@@ -124,14 +119,14 @@ std::optional<Error> WorkerConnection::reasonOfItsEnd() {
   if (!isOwnChild()) {
     const QDeadlineTimer soon(limits::processFarewell);
     if (!learnProcess(soon) || !known_) return std::nullopt;
-    return reasonIn(starter_->endOf(*known_, soon));
+    return starter_->endOf(*known_, soon);
   }
   const std::optional<int> status = statusOf(process_.pidfd);
   if (!status) return std::nullopt;
-  const std::optional<Error> reason = reasonIn(errorOfEnd(*status));
+  const Error end = errorOfEnd(*status);
   // What a document cannot provoke is another's failure: of the linker, most likely.
-  if (!reason && !hasAnswered_) hasNotComeUp_ = WIFEXITED(*status);
-  return reason;
+  if (end.kind == ErrorKind::Died && !hasAnswered_) hasNotComeUp_ = WIFEXITED(*status);
+  return end;
 }
 
 Result<quint32> WorkerConnection::post(RequestBody body, const FileDescriptor& memory) {

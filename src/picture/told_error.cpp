@@ -28,6 +28,8 @@ constexpr std::array kQuotations{
               QLatin1String("the picture holds something that cannot be drawn")},
     Quotation{QLatin1String("the picture process ended without an answer ("), QLatin1String(")"),
               QLatin1String("the picture process ended without an answer")},
+    Quotation{QLatin1String("no process for the picture could be started ("), QLatin1String(")"),
+              QLatin1String("no process for the picture could be started")},
 };
 
 /// How an interpreter calls it that a program wants to read, write or start something.

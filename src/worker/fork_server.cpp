@@ -10,8 +10,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
 #include <utility>
 
 #include "base/remove_folder.h"
@@ -38,8 +40,10 @@ int freeNumber() {
   return ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, kOutOfTheWay);
 }
 
-Error noChild() {
-  return {ErrorKind::Died, QStringLiteral("no process for the picture could be started")};
+/// `reason`: as errno tells it.
+Error noChild(int reason) {
+  return {ErrorKind::Died, QStringLiteral("no process for the picture could be started (%1)")
+                               .arg(QString::fromLocal8Bit(std::strerror(reason)))};
 }
 
 }  // namespace
@@ -98,17 +102,18 @@ bool ForkServer::answerControl() {
 
 Result<ForkServer::Child> ForkServer::fork(const ForkRequest& request, FileDescriptor socket, int shared) {
   QByteArray folder = scratchRoot_ + "/XXXXXX";
-  if (::mkdtemp(folder.data()) == nullptr) return noChild();
+  if (::mkdtemp(folder.data()) == nullptr) return noChild(errno);
   const pid_t self = ::getpid();
   const pid_t pid = ::fork();
   if (pid == 0) becomeChild(self, request, std::move(socket), shared, folder);
   // No race: until we bury it the number cannot be given to another process.
   Child child{forks_, pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1), folder};
+  const int reason = errno;
   if (pid > 0) ::setpgid(pid, pid);
   if (pid > 0 && child.pidfd.valid()) return child;
   if (pid > 0) bury(child);
   removeFolder(folder.toStdString());
-  return noChild();
+  return noChild(reason);
 }
 
 void ForkServer::becomeChild(int parent, const ForkRequest& request, FileDescriptor socket, int shared,

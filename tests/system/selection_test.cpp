@@ -296,9 +296,11 @@ class SelectionSystemTest : public QObject {
   }
 
   bool open(const QString& name) {
-    return session_->start({write(name, name.endsWith(".svg") ? kSvg : kEps)}, name) &&
-           kit::waitUntil(
-               [this] { return paperIn(session_->screen()).size() == QSize(int(kWidth), int(kHeight)); });
+    if (!session_->start({write(name, name.endsWith(".svg") ? kSvg : kEps)}, name)) return false;
+    const QSize whole{int(kWidth), int(kHeight)};
+    if (kit::waitUntil([&] { return paperIn(session_->screen()).size() == whole; })) return true;
+    qWarning() << name << "is" << paperIn(session_->screen()) << "large; it said" << session_->said();
+    return false;
   }
 
   QPoint middleOfWindow(const QString& title) { return session_->windowRect(title).center(); }

@@ -76,6 +76,7 @@ bool WorkerConnection::learnProcess(QDeadlineTimer deadline) {
   Result<StartedProcess> process = starter_->take(*ticket_, deadline);
   if (process) process_ = std::move(*process);
   if (process) known_ = ticket_;
+  if (!process && process.error().kind != ErrorKind::TimedOut) notForked_ = process.error();
   if (process || process.error().kind != ErrorKind::TimedOut) ticket_.reset();
   return process_.pidfd.valid();
 }
@@ -118,7 +119,7 @@ Error WorkerConnection::failed(Error error) {
 std::optional<Error> WorkerConnection::reasonOfItsEnd() {
   if (!isOwnChild()) {
     const QDeadlineTimer soon(limits::processFarewell);
-    if (!learnProcess(soon) || !known_) return std::nullopt;
+    if (!learnProcess(soon) || !known_) return notForked_;
     return starter_->endOf(*known_, soon);
   }
   const std::optional<int> status = statusOf(process_.pidfd);

@@ -58,7 +58,7 @@ class WorkerConnection {
                    std::optional<WorkerStarter::Ticket> ticket, FileDescriptor socket);
   bool learnProcess(QDeadlineTimer deadline);
   Error failed(Error error);
-  /// Why the process has ended: a limit, or the system's own keeper of memory; nothing: it has just died.
+  /// How the process has ended, or why there is none; nothing: it is not known.
   [[nodiscard]] std::optional<Error> reasonOfItsEnd();
   Result<WorkerAnswer> understand(quint32 id, ChannelMessage message);
 
@@ -67,6 +67,7 @@ class WorkerConnection {
   std::optional<WorkerStarter::Ticket> ticket_;  ///< until the process is known
   std::optional<WorkerStarter::Ticket> known_;   ///< the same, from then on
   StartedProcess process_;
+  std::optional<Error> notForked_;  ///< why there is no process
   bool hasAnswered_ = false;
   bool hasNotComeUp_ = false;
   MessageChannel channel_;

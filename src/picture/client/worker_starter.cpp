@@ -211,7 +211,8 @@ void WorkerStarter::keep(const WorkerReply& reply, FileDescriptor descriptor) {
     answered_.emplace(reply.id, StartedProcess{forked->pid, std::move(descriptor)});
     living_.insert(reply.id);
   } else {
-    answered_.emplace(reply.id, notStarted());
+    const auto* told = std::get_if<Error>(&reply.body);
+    answered_.emplace(reply.id, told != nullptr ? *told : notStarted());
   }
 }
 

@@ -35,11 +35,12 @@ rlim_t usedSeconds() {
 
 }  // namespace
 
-bool limitFiles(const PictureLimits& limits) {
+bool limitFiles(const PictureLimits& limits, bool sends) {
+  const quint64 open = sends ? limits::maximumOpenFilesOfSender : limits::maximumOpenFiles;
   const rlim_t bitmap = rlim_t(limits.megapixels * 4.0e6) + kMiB;
   std::signal(SIGXFSZ, SIG_IGN);
   return limit(RLIMIT_FSIZE, std::max(bitmap, rlim_t(limits.memoryMiB) * kMiB)) &&
-         limit(RLIMIT_NOFILE, limits::maximumOpenFiles) && limit(RLIMIT_CORE, 0);
+         limit(RLIMIT_NOFILE, open) && limit(RLIMIT_CORE, 0);
 }
 
 PictureLimits grantedFor(int asker, PictureLimits wanted) {

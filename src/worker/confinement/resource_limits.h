@@ -7,8 +7,8 @@ namespace norvex {
 
 /// Files and descriptors. Results are written to shared memory, to which the limit on files applies too;
 /// scratch files get as much. No core files. Exceeding the size of a file is an error of the write. False:
-/// the system refused.
-[[nodiscard]] bool limitFiles(const PictureLimits& limits);
+/// the system refused. `sends`: it hands its results over as descriptors.
+[[nodiscard]] bool limitFiles(const PictureLimits& limits, bool sends);
 
 /// What may be granted to a process for the sake of another, `asker`, which has read a document and may ask
 /// for anything: `wanted`, no more of memory and pixels than limitFiles() has granted that one. Where that

@@ -54,7 +54,7 @@ Result<void> enterSandbox(const SandboxPolicy& policy) {
   volunteerWhenMemoryRunsOut();
   const QByteArray scratch = QFile::encodeName(policy.scratchFolder);
   if (!scratch.isEmpty()) ::setenv("TMPDIR", scratch.constData(), 1);
-  if (!dropPrivileges() || !limitFiles(policy.limits) ||
+  if (!dropPrivileges() || !limitFiles(policy.limits, !policy.writesScratchFiles) ||
       !limitAddressSpace(policy.limits, policy.preparationToCome ? roomForLibraries : 0) ||
       !limitProcessorTime(policy.limits.seconds))
     return notConfined();

@@ -6,10 +6,12 @@
 #include <thread>
 #include <vector>
 
+#include "kit/descriptors_on_their_way.h"
 #include "kit/process_watch.h"
 #include "kit/test_main.h"
 #include "picture/client/worker_client.h"
 #include "picture/client/worker_service.h"
+#include "protocol/limits.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -72,6 +74,30 @@ class RealWorkerTest : public QObject {
     const auto composed = process->compose({VectorFormat::Pdf, 0, QRectF(-10, -5, 20, 10), 0});
     QVERIFY2(composed.ok(), composed.ok() ? "" : qPrintable(composed.error().message));
     QVERIFY(composed->bytes.startsWith("%PDF-"));
+  }
+
+  // The kernel counts what all programs of the user have sent; those may be many, and slow to receive.
+  void picturesAreHandedOverBesideOtherProgramsDescriptors_data() {
+    QTest::addColumn<PictureKind>("kind");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("SVG") << PictureKind::Svg << QByteArray(kSvg);
+    QTest::newRow("EPS") << PictureKind::Eps << QByteArray(kEps);
+  }
+  void picturesAreHandedOverBesideOtherProgramsDescriptors() {
+    QFETCH(PictureKind, kind);
+    QFETCH(QByteArray, bytes);
+    const kit::DescriptorsOnTheirWay usual(limits::maximumOpenFilesOfSender / 2);
+    QVERIFY(usual.isComplete());
+    QVERIFY(service_->open(bytes, kind)->render(wholePicture()).ok());
+    auto tooMany = std::make_unique<kit::DescriptorsOnTheirWay>(limits::maximumOpenFilesOfSender);
+    if (!tooMany->isComplete()) QSKIP("this system does not let a program have so many on their way");
+    std::thread receiver([&] {
+      ::usleep(300'000);
+      tooMany.reset();
+    });
+    const auto image = service_->open(bytes, kind)->render(wholePicture());
+    receiver.join();
+    QVERIFY2(image.ok(), image.ok() ? "" : qPrintable(image.error().message));
   }
 
   // A process with more could not fork.

@@ -120,7 +120,7 @@ class EpsFromPdfTest : public QObject {
                                            kit::stream(QByteArray("\x00\x80\xff\x40", 4),
                                                        "/Type /XObject /Subtype /Image /Width 2 /Height 2 "
                                                        "/BitsPerComponent 8 /ColorSpace /DeviceGray")})
-                                  << 1;
+                                  << 2;  // one of its quarters is opaque
     QTest::newRow("a blend mode") << page("1 0 0 rg 0 0 100 100 re f /M gs 0 1 1 rg 50 20 40 40 re f " +
                                               kVectors,
                                           "/ExtGState << /M << /BM /Multiply >> >>")
@@ -308,6 +308,27 @@ class EpsFromPdfTest : public QObject {
       QCOMPARE(
           std::count_if(regions.begin(), regions.end(), [&](const QRect& r) { return r.contains(mark); }), 1);
     for (const QRect& region : regions) QVERIFY(one.rect().contains(region));
+  }
+
+  void whatIsNoRectangleBecomesSeveral() {
+    // Much at the left and a line along the bottom, as in a diagram: its box is nearly all of the image.
+    const Bitmap one = *Bitmap::create({640, 480});
+    Bitmap other = *Bitmap::create(one.size());
+    for (int y = 8; y < 470; ++y)
+      for (int x = 8; x < (y < 440 ? 90 : 630); ++x) other.row(y)[x] = 0xff204080;
+    const QList<QRect> regions = differingRegions(one, other);
+    QVERIFY(regions.size() > 1);
+    int area = 0;
+    for (const QRect& region : regions) {
+      area += region.width() * region.height();
+      for (const QRect& another : regions) QVERIFY(region == another || !region.intersects(another));
+    }
+    QVERIFY2(area < 640 * 480 / 4, qPrintable(QString::number(area)));
+    for (int y = 0; y < 480; ++y)
+      for (int x = 0; x < 640; ++x)
+        if (other.row(y)[x] != 0)
+          QVERIFY(std::any_of(regions.begin(), regions.end(),
+                              [&](const QRect& region) { return region.contains(x, y); }));
   }
 
   void base85() {

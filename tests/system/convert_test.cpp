@@ -97,6 +97,29 @@ class ConvertSystemTest : public QObject {
     }
   }
 
+  /// Flattened drawings are cut into tiles, each painted through a clip of its own or an image. Where they
+  /// meet inside a pixel, nothing of what lies beneath may be seen.
+  void tilesThatMeetShowNoSeam() {
+    const QByteArray eps =
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 100 100\n%%EndComments\n1 0 0 setrgbcolor\n"
+        "0 1 9 { /x exch 10.37 mul def 0 1 9 { /y exch 10.61 mul def\n"
+        "  gsave x y 10.37 10.61 rectclip 0 0 110 110 rectfill grestore } for } for\n"
+        // Images side by side below, ten of them.
+        "0 1 9 { gsave 10.37 mul 0 translate 10.37 50.3 scale 1 1 8 [1 0 0 1 0 0] {<FF>} {<00>} {<00>} true "
+        "3 "
+        "colorimage grestore } for showpage\n%%EOF\n";
+    const QString source = write("tiles.eps", eps), png = path("tiles.png");
+    for (const char* dpi : {"72", "100", "144", "301"}) {
+      QCOMPARE(kit::norvex({"convert", source, "-o", png, "--force", "--dpi", dpi}).exitCode, 0);
+      const QImage image(png);
+      QVERIFY(!image.isNull());
+      const QImage plain = image.copy(image.rect().adjusted(1, 1, -1, -1));
+      QImage red = plain;
+      red.fill(Qt::red);
+      QVERIFY2(plain == red, dpi);
+    }
+  }
+
   void aPartOfAPageTurnedBecomesSvg() {
     const QString svg = path("part.svg");
     const QString source = QStringLiteral(NORVEX_SOURCE_DIR "/tests/data/pdf/paths.pdf");

@@ -7,6 +7,7 @@
 #pragma pop_macro("signals")
 
 #include "worker/drawing/cairo_surface.h"
+#include "worker/drawing/pixel_edges.h"
 #include "worker/pdf/pdf_file.h"
 
 namespace norvex::engine {
@@ -47,7 +48,8 @@ Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
   poppler_page_get_size(page, &width, &height);
   if (!(width > 0) || !(height > 0)) return {};
   cairo_rectangle(context, 0, 0, shownSize.width(), shownSize.height());
-  cairo_clip(context);
+  cairo_clip_preserve(context);
+  cairo_new_path(context);
   cairo_translate(context, 0, shownSize.height());
   cairo_scale(context, shownSize.width() / width, -shownSize.height() / height);
   poppler_page_render(page, context);
@@ -85,8 +87,10 @@ Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
   const Result<PagePointer> page = shownPage(document_.get(), request.page);
   if (!page) return page.error();
-  return paintImage(request, limits,
-                    [&](cairo_t* context) { return paintPage(context, page->get(), shownSize); });
+  return paintImage(request, limits, [&](cairo_t* context) {
+    askForPixelEdges(context);
+    return paintPage(context, page->get(), shownSize);
+  });
 }
 
 Result<QByteArray> PdfRenderer::vectors(QSizeF shownSize, const AffineTransform& pictureToSheet,

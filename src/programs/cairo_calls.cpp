@@ -1,0 +1,14 @@
+// Poppler sets its clips with cairo_clip() and paints its images with cairo_fill(), and its interface has no
+// word for what becomes of the pixels of their edges. A name that a library calls is looked for in the module
+// that loaded the library before it is looked for in cairo: these are the ones that are called.
+#include "worker/drawing/pixel_edges.h"
+
+#define NORVEX_STANDS_IN extern "C" __attribute__((visibility("default")))
+
+NORVEX_STANDS_IN void cairo_clip(cairo_t* context) {
+  norvex::engine::clipBetweenPixels(context);
+}
+
+NORVEX_STANDS_IN void cairo_fill(cairo_t* context) {
+  norvex::engine::fillBetweenPixels(context);
+}

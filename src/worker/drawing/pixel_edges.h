@@ -1,0 +1,26 @@
+// Edges that lie between pixels. Flattened drawings are tiles: images, and areas painted through clips. Where
+// two of them meet inside a pixel, each of them covers a share of it, and of what lies beneath up to a
+// quarter is left: a light line along every seam. Tiles whose straight edges lie on the edges of pixels share
+// none.
+#pragma once
+
+#include <cairo.h>
+
+namespace norvex::engine {
+
+/// From now on clips and images have their edges between pixels in this context, wherever clipBetweenPixels()
+/// and fillBetweenPixels() are called for it: the engines' modules have them stand in for cairo_clip() and
+/// cairo_fill(), for the libraries that they load, too. Goes with the context.
+void askForPixelEdges(cairo_t* context);
+
+/// As cairo_clip(). Where askForPixelEdges() was called, the level and upright edges of the path (as they lie
+/// on the surface) are first moved to the nearest edge between two pixels. Edges at one place go to the same
+/// place: what had no gap has none. Curves and slanted edges stay as they are, and so does a path of which
+/// nothing would be left.
+void clipBetweenPixels(cairo_t* context);
+
+/// As cairo_fill(), with the same done to the edges of an image. Areas in a colour keep theirs: a thin line
+/// may be one.
+void fillBetweenPixels(cairo_t* context);
+
+}  // namespace norvex::engine

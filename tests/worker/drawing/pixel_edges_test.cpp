@@ -1,0 +1,174 @@
+#include "worker/drawing/pixel_edges.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "kit/test_main.h"
+#include "worker/drawing/cairo_surface.h"
+
+using namespace norvex;
+using namespace norvex::engine;
+
+namespace {
+
+/// A transparent surface of 40 × 40 pixels, with edges between pixels if they are asked for.
+struct Sheet {
+  explicit Sheet(bool asked = true)
+      : surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 40, 40)),
+        context(cairo_create(surface.get())) {
+    if (asked) askForPixelEdges(context.get());
+  }
+
+  [[nodiscard]] int coverage(int x, int y) const {
+    cairo_surface_flush(surface.get());
+    const uchar* row = cairo_image_surface_get_data(surface.get()) +
+                       qsizetype(y) * cairo_image_surface_get_stride(surface.get());
+    return alpha(reinterpret_cast<const Argb32*>(row)[x]);
+  }
+
+  /// The least of all pixels from (5, 5) to (34, 34).
+  [[nodiscard]] int leastInside() const {
+    int least = 255;
+    for (int y = 5; y < 35; ++y)
+      for (int x = 5; x < 35; ++x) least = std::min(least, coverage(x, y));
+    return least;
+  }
+
+  /// Paints the path as a tile does: through a clip.
+  void tile(const std::function<void(cairo_t*)>& path) const {
+    cairo_save(context.get());
+    path(context.get());
+    clipBetweenPixels(context.get());
+    cairo_set_source_rgb(context.get(), 1, 0, 0);
+    cairo_paint(context.get());
+    cairo_restore(context.get());
+  }
+
+  CairoSurface surface;
+  CairoContext context;
+};
+
+/// Four tiles around (x, y), two of them no rectangles: they end in the others' corner.
+void fourTiles(const Sheet& sheet, double x, double y) {
+  sheet.tile([&](cairo_t* c) { cairo_rectangle(c, 0, 0, x, y); });
+  sheet.tile([&](cairo_t* c) { cairo_rectangle(c, x, y, 40 - x, 40 - y); });
+  sheet.tile([&](cairo_t* c) {
+    cairo_move_to(c, x, 0);
+    cairo_line_to(c, 40, 0);
+    cairo_curve_to(c, 42, 5, 42, y - 5, 40, y);
+    cairo_line_to(c, x, y);
+    cairo_close_path(c);
+  });
+  sheet.tile([&](cairo_t* c) {
+    cairo_move_to(c, 0, y);
+    cairo_line_to(c, x, y);
+    cairo_line_to(c, x, 40);
+    cairo_line_to(c, 0, 40);
+    cairo_line_to(c, 0, y);
+  });
+}
+
+}  // namespace
+
+class PixelEdgesTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void tilesThatMeetInsideAPixelShowNoSeam() {
+    for (int step = 0; step < 64; ++step) {
+      const Sheet sheet;
+      const double x = 15 + step / 64.0, y = 22 + (63 - step) / 51.0;
+      fourTiles(sheet, x, y);
+      QVERIFY2(sheet.leastInside() == 255, qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
+    }
+  }
+
+  void withoutItTheyDo() {
+    const Sheet sheet(false);
+    fourTiles(sheet, 15.5, 22.5);
+    QVERIFY(sheet.leastInside() < 200);
+  }
+
+  void edgesThatAreTheSameButForTheirLastDigitStayTogether() {
+    for (const double place : {15.0, 15.25, 15.5, 15.75}) {
+      const Sheet sheet;
+      sheet.tile([&](cairo_t* c) { cairo_rectangle(c, 0, 0, place - 0.004, 40); });
+      sheet.tile([&](cairo_t* c) { cairo_rectangle(c, place + 0.004, 0, 40 - place, 40); });
+      QCOMPARE(sheet.leastInside(), 255);
+    }
+  }
+
+  void slantedAndCurvedEdgesStaySmooth() {
+    const auto both = [](const Sheet& sheet) {
+      sheet.tile([](cairo_t* c) {
+        cairo_move_to(c, 5, 5);
+        cairo_line_to(c, 30, 12.3);
+        cairo_line_to(c, 11.7, 33);
+        cairo_close_path(c);
+      });
+      sheet.tile([](cairo_t* c) { cairo_arc(c, 28.4, 28.6, 6.2, 0, 6.28); });
+    };
+    const Sheet asked, plain(false);
+    both(asked);
+    both(plain);
+    for (int y = 0; y < 40; ++y)
+      for (int x = 0; x < 40; ++x) QCOMPARE(asked.coverage(x, y), plain.coverage(x, y));
+  }
+
+  void aStripOfLessThanAPixelIsNotLost() {
+    const Sheet sheet;
+    sheet.tile([](cairo_t* c) { cairo_rectangle(c, 10.1, 5, 0.3, 30); });
+    QVERIFY(sheet.coverage(10, 20) > 50);
+  }
+
+  void anAreaThatEndsWithItsClipGoesAlongWithIt() {
+    const Sheet sheet;
+    cairo_t* context = sheet.context.get();
+    const auto tile = [&](double x, double width) {
+      cairo_save(context);
+      cairo_rectangle(context, x, 0, width, 40);
+      clipBetweenPixels(context);
+      cairo_rectangle(context, x - 0.1, 0, width + 0.2, 40);
+      fillBetweenPixels(context);
+      cairo_restore(context);
+    };
+    tile(0, 15.37);
+    tile(15.37, 24.63);
+    QCOMPARE(sheet.leastInside(), 255);
+  }
+
+  void imagesMeetWithoutASeamAndAreasKeepTheirEdges() {
+    const Sheet sheet;
+    cairo_t* context = sheet.context.get();
+    const CairoSurface red(cairo_image_surface_create(CAIRO_FORMAT_RGB24, 8, 8));
+    const auto image = [&](double x, double width) {
+      cairo_set_source_surface(context, red.get(), 0, 0);
+      cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_PAD);
+      cairo_rectangle(context, x, 0, width, 40);
+      fillBetweenPixels(context);
+    };
+    image(0, 15.5);
+    image(15.5, 24.5);
+    QCOMPARE(sheet.leastInside(), 255);
+    const Sheet area;
+    cairo_rectangle(area.context.get(), 0, 0, 15.5, 40);
+    fillBetweenPixels(area.context.get());
+    QCOMPARE(area.coverage(14, 10), 255);
+    QVERIFY(area.coverage(15, 10) > 100 && area.coverage(15, 10) < 155);
+  }
+
+  void thePathIsGoneAndTheMatrixIsNot() {
+    const Sheet sheet;
+    cairo_t* context = sheet.context.get();
+    cairo_scale(context, 0.5, -0.25);
+    cairo_rectangle(context, 1, 1, 5, -9);
+    clipBetweenPixels(context);
+    QVERIFY(!cairo_has_current_point(context));
+    cairo_matrix_t matrix;
+    cairo_get_matrix(context, &matrix);
+    QCOMPARE(matrix.xx, 0.5);
+    QCOMPARE(matrix.yy, -0.25);
+  }
+};
+
+NORVEX_TEST(PixelEdgesTest)
+#include "pixel_edges_test.moc"

@@ -20,6 +20,10 @@ namespace {
 const QByteArray kEps =
     "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 300 200\n%%EndComments\n1 0 0 setrgbcolor 0 0 300 200 "
     "rectfill 0 0 1 setrgbcolor 50 50 100 100 rectfill\n%%EOF\n";
+/// The same as SVG.
+const QByteArray kSvg =
+    "<svg xmlns='http://www.w3.org/2000/svg' width='300pt' height='200pt' viewBox='0 0 300 200'><path "
+    "d='M0 0h300v200H0z' fill='red'/><path d='M50 50h100v100H50z' fill='blue'/></svg>";
 const QByteArray kDrawing =
     "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"900\" height=\"600\" viewBox=\"0 0 900 600\"/>";
 constexpr double kPixelsPerPoint = 96.0 / 72;
@@ -84,14 +88,24 @@ class PasteTest : public QObject {
     if (!missing.isEmpty()) QSKIP(qPrintable(missing + " is not installed: nothing can be pasted here"));
   }
 
-  void vectorsOfAnEpsArriveInInkscapeAtTheirSizeAfterQuitting() {
+  void vectorsArriveInInkscapeAtTheirSizeAfterQuitting_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("keys");
+    QTest::newRow("an EPS") << "a.eps" << kEps << "ctrl+c";
+    QTest::newRow("a part of an SVG") << "a.svg" << kSvg << "ctrl+shift+c";
+  }
+  void vectorsArriveInInkscapeAtTheirSizeAfterQuitting() {
+    QFETCH(QString, name);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, keys);
     XSession session;
     const QTemporaryDir folder;
-    write(folder.filePath("a.eps"), kEps);
+    write(folder.filePath(name), bytes);
     write(folder.filePath("drawing.svg"), kDrawing);
-    QVERIFY(session.start({folder.filePath("a.eps")}, "a.eps"));
+    QVERIFY(session.start({folder.filePath(name)}, name));
     session.waitUntilStill();
-    session.key("ctrl+c");
+    session.key(keys);
     const auto offersSvg = [&] {
       return session.run("xclip", {"-selection", "clipboard", "-o", "-t", "TARGETS"})
           .out.contains("image/svg+xml");

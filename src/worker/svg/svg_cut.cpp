@@ -35,11 +35,24 @@ QByteArray matrixOf(const AffineTransform& m) {
          ' ' + number(m.dx()) + ' ' + number(m.dy()) + ')';
 }
 
+// In pixels of CSS. Programs that paste the elements of a drawing leave its root behind, and with it a scale
+// between its view box and its size.
+SvgCut inPixels(const SvgCut& cut) {
+  const double scale = 1 / pointsPerPixel;
+  const AffineTransform& m = cut.placing;
+  return {cut.picture * scale, QRectF(cut.rect.topLeft() * scale, cut.rect.size() * scale),
+          AffineTransform(m.m11(), m.m12(), m.m21(), m.m22(), m.dx() * scale, m.dy() * scale), cut.styled};
+}
+
 /// Writes the tags around the old root, and its own start tag anew.
 class Wrapper {
  public:
   Wrapper(const QByteArray& text, const SvgToken& root, const SvgCut& cut)
-      : text_(text), root_(root), cut_(cut), name_(tagName(text, root).toByteArray()) {
+      : text_(text),
+        root_(root),
+        points_(cut.rect.size()),
+        cut_(inPixels(cut)),
+        name_(tagName(text, root).toByteArray()) {
     const qsizetype colon = name_.indexOf(':');
     if (colon > 0) prefix_ = name_.left(colon + 1);
   }
@@ -58,7 +71,8 @@ class Wrapper {
 
   const QByteArray& text_;
   const SvgToken& root_;
-  const SvgCut& cut_;
+  QSizeF points_;  ///< of the new root
+  SvgCut cut_;     ///< in pixels
   QByteArray name_, prefix_;
 };
 
@@ -66,12 +80,12 @@ QByteArray Wrapper::before() const {
   const QByteArray space = prefix_.isEmpty() ? QByteArray("xmlns") : "xmlns:" + prefix_.chopped(1);
   const QRectF& r = cut_.rect;
   QByteArray tag = '<' + name_ + attribute(space, "http://www.w3.org/2000/svg") +
-                   attribute("version", "1.1") + attribute("width", number(r.width()) + "pt") +
-                   attribute("height", number(r.height()) + "pt") +
+                   attribute("version", "1.1") + attribute("width", number(points_.width()) + "pt") +
+                   attribute("height", number(points_.height()) + "pt") +
                    attribute("viewBox", rectangle(r.x(), r.y(), r.width(), r.height()));
   if (cut_.styled)
-    tag += attribute("style",
-                     kNeutral + ("width:" + number(r.width()) + "pt;height:" + number(r.height()) + "pt;"));
+    tag += attribute("style", kNeutral + ("width:" + number(points_.width()) +
+                                          "pt;height:" + number(points_.height()) + "pt;"));
   tag += ">\n";
   if (!turned()) return tag;
   tag += '<' + group() + attribute("transform", matrixOf(cut_.placing)) + ">\n";
@@ -112,9 +126,7 @@ QByteArray Wrapper::rootTag() const {
   }
   tag += attribute("x", "0") + attribute("y", "0") + attribute("width", number(cut_.picture.width())) +
          attribute("height", number(cut_.picture.height())) + attribute("overflow", "hidden");
-  if (!hasViewBox)
-    tag += attribute("viewBox", rectangle(0, 0, cut_.picture.width() / pointsPerPixel,
-                                          cut_.picture.height() / pointsPerPixel));
+  if (!hasViewBox) tag += attribute("viewBox", rectangle(0, 0, cut_.picture.width(), cut_.picture.height()));
   const QByteArray inner = innerStyle(style, hasStyle);
   if (!inner.isEmpty()) tag += attribute("style", inner);
   return tag + (root_.kind == SvgTokenKind::EmptyTag ? "/>" : ">");

@@ -22,8 +22,9 @@ struct SvgCut {
 [[nodiscard]] AffineTransform turnedInItsBox(const QSizeF& picture, double rotate);
 
 /// The document's own root becomes an inner <svg> as large as the whole picture, in a new root whose size and
-/// view box are the rectangle in points. Everything before, inside and behind the old root stays as written:
-/// document type, entities, definitions, styles, comments. REQUIRES text that inspectSvg() accepted.
+/// view box are the rectangle, in points and in pixels of CSS. Everything before, inside and behind the old
+/// root stays as written: document type, entities, definitions, styles, comments. REQUIRES text that
+/// inspectSvg() accepted.
 [[nodiscard]] QByteArray cutSvg(const QByteArray& utf8, const SvgCut& cut);
 
 }  // namespace norvex::engine

@@ -57,15 +57,25 @@ class SvgCutTest : public QObject {
  private slots:
   void sizeAndViewBoxAreTheRectangle() {
     OpenSvg document(svgOf("width='200' height='100'", "<rect width='10' height='10'/>"));
-    const QByteArray bytes = cut(document, QRectF(10, 20, 30.5, 40), 0)->bytes;
+    const QByteArray bytes = cut(document, QRectF(9, 21, 30.75, 42), 0)->bytes;
     QVERIFY(
-        bytes.startsWith("<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" width=\"30.5pt\" "
-                         "height=\"40pt\" viewBox=\"10 20 30.5 40\">"));
+        bytes.startsWith("<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" width=\"30.75pt\" "
+                         "height=\"42pt\" viewBox=\"12 28 41 56\">"));
     OpenSvg again(bytes);
     QVERIFY(again.ok());
-    QCOMPARE(again->facts()->pageBounds.value(0), QRectF(0, 0, 30.5, 40));
-    QCOMPARE(*again->facts()->viewBox, QRectF(10, 20, 30.5, 40));
+    QCOMPARE(again->facts()->pageBounds.value(0), QRectF(0, 0, 30.75, 42));
+    QCOMPARE(*again->facts()->viewBox, QRectF(12, 28, 41, 56));
     QCOMPARE(again->facts()->fixedRatioX, std::optional<bool>(true));
+  }
+
+  /// What is pasted elsewhere leaves the root behind: what is in it must have the right size without that.
+  void whatIsInsideIsMeasuredInPixelsOfCss() {
+    OpenSvg document(svgOf("width='200' height='100'", "<rect width='10' height='10'/>"));
+    const QByteArray plain = cut(document, QRectF(9, 21, 30, 42), 0)->bytes;
+    QVERIFY2(plain.contains(" x=\"0\" y=\"0\" width=\"200\" height=\"100\""), plain);
+    QVERIFY(plain.contains("<rect width='10' height='10'/>"));
+    const QByteArray turned = cut(document, QRectF(0, 0, 75, 150), M_PI / 2)->bytes;
+    QVERIFY2(turned.contains("transform=\"matrix(0 1 -1 0 100 0)\""), turned);
   }
 
   void withoutARectangleItIsTheWholePicture() {

@@ -174,6 +174,13 @@ class CopyTest : public QObject {
       if (first.isNull()) first = drawn;
       QVERIFY2(difference(first, drawn) < 0.05, target.name);
     }
+    if (svg) {
+      // What is copied of an SVG is cut out of it: its own elements, and no pixels.
+      QFile cut(f.pasted("image/svg+xml", "svg"));
+      QVERIFY(cut.open(QIODevice::ReadOnly));
+      const QByteArray text = cut.readAll();
+      QVERIFY2(text.contains("fill='#e0c020'") && !text.contains("<image"), text);
+    }
     QVERIFY(offered.contains("com.adobe.pdf") && offered.contains("com.adobe.encapsulated-postscript"));
   }
 

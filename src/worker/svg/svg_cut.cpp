@@ -62,6 +62,10 @@ class Wrapper {
 
  private:
   [[nodiscard]] bool turned() const { return !cut_.placing.isIdentity(); }
+  [[nodiscard]] bool isWhole() const { return !turned() && cut_.rect == QRectF(QPointF(0, 0), cut_.picture); }
+  /// The tag of a viewport around the picture. Programs that paste what is in the root leave its edges
+  /// behind, and the rectangle would be the whole picture again.
+  [[nodiscard]] QByteArray window() const;
   // A switch draws its only child as a group does, but no rule for "g" or "svg > g" reaches it.
   [[nodiscard]] QByteArray group() const { return prefix_ + (cut_.styled ? "switch" : "g"); }
   [[nodiscard]] QByteArray sizeStyle(const QSizeF& size) const {
@@ -78,23 +82,34 @@ class Wrapper {
 
 QByteArray Wrapper::before() const {
   const QByteArray space = prefix_.isEmpty() ? QByteArray("xmlns") : "xmlns:" + prefix_.chopped(1);
-  const QRectF& r = cut_.rect;
+  const QSizeF size = cut_.rect.size();
   QByteArray tag = '<' + name_ + attribute(space, "http://www.w3.org/2000/svg") +
                    attribute("version", "1.1") + attribute("width", number(points_.width()) + "pt") +
                    attribute("height", number(points_.height()) + "pt") +
-                   attribute("viewBox", rectangle(r.x(), r.y(), r.width(), r.height()));
+                   attribute("viewBox", rectangle(0, 0, size.width(), size.height()));
   if (cut_.styled)
     tag += attribute("style", kNeutral + ("width:" + number(points_.width()) +
                                           "pt;height:" + number(points_.height()) + "pt;"));
   tag += ">\n";
-  if (!turned()) return tag;
-  tag += '<' + group() + attribute("transform", matrixOf(cut_.placing)) + ">\n";
+  if (!isWhole()) tag += window();
+  if (turned()) tag += '<' + group() + attribute("transform", matrixOf(cut_.placing)) + ">\n";
   return tag;
+}
+
+QByteArray Wrapper::window() const {
+  const QRectF& r = cut_.rect;
+  QByteArray tag = '<' + name_ + attribute("x", "0") + attribute("y", "0") +
+                   attribute("width", number(r.width())) + attribute("height", number(r.height())) +
+                   attribute("overflow", "hidden") +
+                   attribute("viewBox", rectangle(r.x(), r.y(), r.width(), r.height()));
+  if (cut_.styled) tag += attribute("style", kNeutral + sizeStyle(r.size()));
+  return tag + ">\n";
 }
 
 QByteArray Wrapper::after() const {
   QByteArray tags = "\n";
   if (turned()) tags += "</" + group() + ">\n";
+  if (!isWhole()) tags += "</" + name_ + ">\n";
   return tags + "</" + name_ + ">";
 }
 

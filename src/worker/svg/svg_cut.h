@@ -21,10 +21,10 @@ struct SvgCut {
 /// bounding box has its top-left corner at the origin. Points, y down.
 [[nodiscard]] AffineTransform turnedInItsBox(const QSizeF& picture, double rotate);
 
-/// The document's own root becomes an inner <svg> as large as the whole picture, in a new root whose size and
-/// view box are the rectangle, in points and in pixels of CSS. Everything before, inside and behind the old
-/// root stays as written: document type, entities, definitions, styles, comments. REQUIRES text that
-/// inspectSvg() accepted.
+/// The document's own root becomes an inner <svg> as large as the whole picture, in a viewport that is the
+/// rectangle (left out where that is the whole picture), in a new root of the rectangle's size. Inside, a
+/// unit is a pixel of CSS. Everything before, inside and behind the old root stays as written: document type,
+/// entities, definitions, styles, comments. REQUIRES text that inspectSvg() accepted.
 [[nodiscard]] QByteArray cutSvg(const QByteArray& utf8, const SvgCut& cut);
 
 }  // namespace norvex::engine

@@ -60,11 +60,11 @@ class SvgCutTest : public QObject {
     const QByteArray bytes = cut(document, QRectF(9, 21, 30.75, 42), 0)->bytes;
     QVERIFY(
         bytes.startsWith("<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.1\" width=\"30.75pt\" "
-                         "height=\"42pt\" viewBox=\"12 28 41 56\">"));
+                         "height=\"42pt\" viewBox=\"0 0 41 56\">"));
     OpenSvg again(bytes);
     QVERIFY(again.ok());
     QCOMPARE(again->facts()->pageBounds.value(0), QRectF(0, 0, 30.75, 42));
-    QCOMPARE(*again->facts()->viewBox, QRectF(12, 28, 41, 56));
+    QCOMPARE(*again->facts()->viewBox, QRectF(0, 0, 41, 56));
     QCOMPARE(again->facts()->fixedRatioX, std::optional<bool>(true));
   }
 
@@ -76,6 +76,25 @@ class SvgCutTest : public QObject {
     QVERIFY(plain.contains("<rect width='10' height='10'/>"));
     const QByteArray turned = cut(document, QRectF(0, 0, 75, 150), M_PI / 2)->bytes;
     QVERIFY2(turned.contains("transform=\"matrix(0 1 -1 0 100 0)\""), turned);
+  }
+
+  /// As programs do that paste it: the elements in the root, without it.
+  void whatIsInTheRootIsTheRectangleAndNoMore() {
+    for (const QByteArray& style : {QByteArray(), QByteArray("<style>svg{opacity:0.5}</style>")}) {
+      OpenSvg document(svgOf("width='200' height='100'", style + "<rect width='200' height='100'/>"));
+      QByteArray inside = cut(document, QRectF(30, 15, 60, 30), 0)->bytes;
+      inside = inside.sliced(inside.indexOf('>') + 1);
+      inside.truncate(inside.lastIndexOf("</svg>"));
+      OpenSvg pasted(svgOf("width='300' height='300'", inside));
+      QVERIFY(pasted.ok());
+      const QImage shown = *drawn(*pasted.result->get(), 4.0 / 3);
+      QCOMPARE(shown.size(), QSize(300, 300));
+      QRect painted;
+      for (int y = 0; y < 300; ++y)
+        for (int x = 0; x < 300; ++x)
+          if (qAlpha(shown.pixel(x, y)) > 0) painted |= QRect(x, y, 1, 1);
+      QCOMPARE(painted, QRect(0, 0, 80, 40));
+    }
   }
 
   void withoutARectangleItIsTheWholePicture() {

@@ -11,6 +11,7 @@ namespace norvex {
 namespace {
 
 constexpr size_t kDescriptors = 4;
+constexpr char kReady = 'r';
 constexpr qsizetype kMaximumSize = 4096;  ///< of the device, which is one byte, and the limits as CBOR
 
 /// Room for the descriptors beside a message and for who sent it, aligned as the kernel wants it.
@@ -91,6 +92,15 @@ Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& reques
     sent = ::sendmsg(asking, &message, MSG_NOSIGNAL | MSG_DONTWAIT);
   } while (sent < 0 && errno == EINTR);
   return sent == told.size() ? Result<void>() : noMore();
+}
+
+void tellInterpretersReady(int taking) {
+  if (::send(taking, &kReady, sizeof kReady, MSG_NOSIGNAL | MSG_DONTWAIT) < 0) return;  // nobody is left
+}
+
+bool hadInterpretersReady(int asking) {
+  char told = 0;
+  return ::recv(asking, &told, sizeof told, MSG_DONTWAIT) == sizeof told && told == kReady;
 }
 
 Result<InterpreterRequest> receiveInterpreterRequest(int taking) {

@@ -43,6 +43,11 @@ struct InterpreterConnection {
 /// Sends copies of the descriptors; never waits. Fails with Died when nobody listens or too many wait.
 [[nodiscard]] Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request);
 
+/// Tells through a connection that whoever takes requests there is able to serve them.
+void tellInterpretersReady(int taking);
+/// True if that has been told, also when whoever told it has gone. Takes the news: it is given once.
+[[nodiscard]] bool hadInterpretersReady(int asking);
+
 /// Waits for the next request. Fails with Died when there will be none any more, with Protocol when it is no
 /// request (others may follow).
 [[nodiscard]] Result<InterpreterRequest> receiveInterpreterRequest(int taking);

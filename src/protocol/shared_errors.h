@@ -14,6 +14,16 @@ namespace norvex {
   return {ErrorKind::Protocol, QStringLiteral("the picture process gave an answer that cannot be true")};
 }
 
+/// Of a document's process whose interpreter has ended under it. Another process may do better: it learns
+/// before its confinement is complete that there is none, and starts one.
+[[nodiscard]] inline Error interpreterLost() {
+  return {ErrorKind::Died, QStringLiteral("the interpreter of PostScript has ended")};
+}
+/// True if the error is that.
+[[nodiscard]] inline bool isInterpreterLost(const Error& error) {
+  return error.kind == ErrorKind::Died && error.message == interpreterLost().message;
+}
+
 /// A warning among PictureFacts::warnings.
 [[nodiscard]] inline QString damagedFile() {
   return QStringLiteral("the file is damaged; it was repaired as far as possible");

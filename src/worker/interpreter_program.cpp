@@ -60,8 +60,11 @@ void InterpreterProgram::stop() {
 }
 
 bool InterpreterProgram::runs() {
-  if (pid_ != 0 && ::waitpid(pid_, nullptr, WNOHANG) == 0) return true;
-  if (pid_ != 0) asking_.reset();
+  if (pid_ == 0) return false;
+  if (::waitpid(pid_, nullptr, WNOHANG) == 0) return true;
+  // One that has never been able to serve would keep the next documents waiting in vain, too.
+  if (!asking_.valid() || !hadInterpretersReady(asking_.get())) starts_ = kMaximumStarts;
+  asking_.reset();
   pid_ = 0;
   return false;
 }

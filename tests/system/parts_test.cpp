@@ -222,6 +222,27 @@ class PartsTest : public QObject {
     QCOMPARE(bytesOf(path("gs.png")), bytesOf(path("own.png")));
   }
 
+  /// Its document has long been put behind its confinement and waits for it.
+  void anInterpreterThatEndsWithoutHavingBegunIsReplacedByGs_data() {
+    QTest::addColumn<QByteArray>("script");
+    for (const char* end : {"exit 0", "exit 127", "kill -KILL $$"}) {
+      QTest::addRow("at once, %s", end) << QByteArray(end);
+      QTest::addRow("after a while, %s", end) << QByteArray("sleep 0.3\n") + end;
+    }
+  }
+  void anInterpreterThatEndsWithoutHavingBegunIsReplacedByGs() {
+    QFETCH(QByteArray, script);
+    copyPartsBut("norvex-postscript");
+    writeScript("norvex-postscript", script);
+    const QString file = kit::sample("lighthouse.eps");
+    for (const char* format : {"png", "pdf"}) {
+      const QString out = path(QStringLiteral("a.") + format);
+      const Ran ran = kit::run(path("norvex"), {"convert", file, "-o", out, "--quiet"}, {}, 60);
+      QCOMPARE(ran.err, QByteArray());
+      QCOMPARE(ran.exitCode, 0);
+    }
+  }
+
   void missingCommandsAreToldInOneSentence() {
     copyPartsBut("norvex-commands.so");
     const Ran ran =
@@ -263,13 +284,16 @@ class PartsTest : public QObject {
   /// Converts an SVG to a.png with a shell script in place of the program for single pictures.
   Ran convertWithPictureProgram(const QByteArray& script) {
     copyPartsBut("norvex-picture-svg");
-    QFile program(path("norvex-picture-svg"));
+    writeScript("norvex-picture-svg", script);
+    return kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {},
+                    30);
+  }
+  void writeScript(const QString& name, const QByteArray& script) const {
+    QFile program(path(name));
     if (!program.open(QIODevice::WriteOnly) || program.write("#!/bin/sh\n" + script + '\n') < 0)
       qFatal("cannot write a script");
     program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     program.close();
-    return kit::run(path("norvex"), {"convert", sample("lighthouse.svg"), "-o", path("a.png"), "--quiet"}, {},
-                    30);
   }
   void copyPartsBut(const QString& missing) const {
     const QDir built = QFileInfo(norvexProgram()).dir();

@@ -19,6 +19,12 @@ bool isFinal(ErrorKind kind) {
          kind != ErrorKind::Protocol;
 }
 
+/// True if the process lives and can do nothing any more that takes PostScript.
+bool hasLostInterpreter(const WorkerAnswer& answer) {
+  const auto* error = std::get_if<Error>(&answer.body);
+  return error != nullptr && isInterpreterLost(*error);
+}
+
 }  // namespace
 
 WorkerClient::WorkerClient(std::shared_ptr<WorkerStarter> starter, QByteArray bytes, PictureKind kind,
@@ -63,7 +69,7 @@ Result<T> WorkerClient::distrusted(Result<T> result) {
 
 Result<PictureFacts> WorkerClient::finishOpening(const CancelToken& cancel) {
   Result<WorkerAnswer> answer = connection_->wait(opening_, openDeadline_, cancel);
-  if (!answer && connection_->hasNotComeUp()) {
+  if (answer ? hasLostInterpreter(*answer) : connection_->hasNotComeUp()) {
     // Another one will tell why, or do better.
     const QDeadlineTimer first = openDeadline_;
     connection_.reset();
@@ -104,6 +110,14 @@ Result<PictureFacts> WorkerClient::facts(const CancelToken& cancel) {
 /// REQUIRES the caller's turn.
 Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& cancel,
                                        const FileDescriptor& memory) {
+  Result<WorkerAnswer> answer = askOnce(body, cancel, memory);
+  if (!answer || !hasLostInterpreter(*answer)) return answer;
+  connection_.reset();
+  return askOnce(std::move(body), cancel, memory);
+}
+
+Result<WorkerAnswer> WorkerClient::askOnce(RequestBody body, const CancelToken& cancel,
+                                           const FileDescriptor& memory) {
   if (auto outcome = known(); outcome && !*outcome) return outcome->error();
   if (cancel.cancelled()) return workCancelled();
   if (connection_ && opening_ == 0 && !connection_->isUsable()) connection_.reset();

@@ -12,7 +12,8 @@ namespace norvex {
 
 /// See PictureProcess. A document that cannot be opened (not parsable, encrypted …) fails every call with
 /// that first error; after TimedOut, Died, Protocol or a Cancelled that was not obeyed the next call starts
-/// again.
+/// again. A call that comes back without its answer because the document's interpreter has ended is made once
+/// more, in another process.
 class WorkerClient final : public PictureProcess {
  public:
   /// Begins to open the bytes at once and returns. `process`: what the document needs. `connection`: a
@@ -39,6 +40,7 @@ class WorkerClient final : public PictureProcess {
   Result<void> beginToOpen();
   Result<PictureFacts> finishOpening(const CancelToken& cancel);
   Result<WorkerAnswer> ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory = {});
+  Result<WorkerAnswer> askOnce(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory);
   void noteStop(QStringList& warnings);
   Result<PictureBytes> askForBytes(RequestBody body, const CancelToken& cancel,
                                    const FileDescriptor& memory = {});

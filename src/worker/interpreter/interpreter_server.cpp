@@ -34,6 +34,7 @@ InterpreterServer::InterpreterServer(FileDescriptor taking, QByteArray scratchRo
     : taking_(std::move(taking)), scratchRoot_(std::move(scratchRoot)) {}
 
 PostScriptInterpreter::Task InterpreterServer::serve() {
+  tellInterpretersReady(taking_.get());
   while (true) {
     std::vector<pollfd> polls{{taking_.get(), POLLIN, 0}};
     for (const Child& child : children_) {

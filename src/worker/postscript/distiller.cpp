@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "protocol/shared_errors.h"
 #include "worker/engine/distiller_arguments.h"
 
 namespace norvex::engine {
@@ -44,9 +45,7 @@ Result<GhostscriptOutput> runGhostscript(InterpreterDevice device, const Ghostsc
     if (device == InterpreterDevice::Pdf) child = std::exchange(context.warmGhostscript, nullptr);
     if (!child) {
       auto started = startDistiller(context, device);
-      if (!started && lost)
-        return Error{ErrorKind::Died, QStringLiteral("the interpreter of PostScript has ended")};
-      if (!started) return started.error();
+      if (!started) return lost ? interpreterLost() : started.error();
       child = std::move(*started);
     }
     Result<GhostscriptOutput> run = child->run(input(child->isForked()), context);

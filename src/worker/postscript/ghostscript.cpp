@@ -24,6 +24,7 @@
 #include "protocol/interpreter_request.h"
 #include "protocol/limits.h"
 #include "protocol/process_end.h"
+#include "protocol/shared_errors.h"
 #include "worker/confinement/sandbox.h"
 #include "worker/confinement/scratch_watch.h"
 
@@ -322,8 +323,7 @@ Result<int> GhostscriptChild::awaitOutcome(qint64 deadline, const EngineContext&
   InterpreterOutcome status = 0;
   if (told.isEmpty())
     return Error{ErrorKind::Unsupported, QStringLiteral("there is no interpreter of PostScript")};
-  if (told.size() < kAll)
-    return Error{ErrorKind::Died, QStringLiteral("the interpreter of PostScript has ended")};
+  if (told.size() < kAll) return interpreterLost();
   std::memcpy(&status, told.constData() + sizeof kInterpreterBegun, sizeof status);
   return status;
 }

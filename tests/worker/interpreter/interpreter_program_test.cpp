@@ -166,6 +166,21 @@ class InterpreterProgramTest : public QObject {
     QCOMPARE(program.waitingRequests(), -1);
   }
 
+  void oneThatEndsBeforeItIsReadyIsNotStartedAgain() {
+    const QTemporaryDir root;
+    InterpreterProgram program(root.path().toStdString(), "/bin/false");
+    program.start();
+    const int ended = program.pid();
+    QVERIFY(ended != 0);
+    QVERIFY(kit::eventually([ended] { return kit::stateOf(ended) == 'Z'; }));
+    for (int tries = 0; tries < 2; ++tries) {
+      program.start();
+      QCOMPARE(program.pid(), 0);
+      program.expect();
+      QCOMPARE(program.asking(), -1);
+    }
+  }
+
   void anExpectedProgramThatIsBrokenIsToldToWhoeverAsks() {
     const QTemporaryDir root;
     InterpreterProgram program(root.path().toStdString(), "/bin/false");
@@ -384,8 +399,9 @@ class InterpreterProgramTest : public QObject {
     QCOMPARE(interpreters.program().asking(), -1);
   }
 
-  void oneThatDiedIsStartedAgain() {
+  void oneThatDiesInItsWorkIsStartedAgain() {
     Interpreters interpreters;
+    QVERIFY(interpreters.stillWork());
     const int before = interpreters.program().pid();
     ::kill(before, SIGKILL);
     QVERIFY(kit::eventually([before] { return kit::stateOf(before) == 'Z'; }));

@@ -3,9 +3,11 @@
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -36,6 +38,14 @@ constexpr std::string_view kWindow = "window";
 
 bool isTold(int argc, char** argv, std::string_view word) {
   return std::any_of(argv + std::min(argc, 3), argv + argc, [&](const char* each) { return each == word; });
+}
+
+/// Requests may still have waited for it when their documents were ended: whoever makes folders has to be
+/// gone before they are removed. Interpreters are its children; ours they become when it ends.
+void endWithInterpreters(InterpreterProgram& program) {
+  ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+  program.stop();
+  while (::waitpid(-1, nullptr, 0) > 0 || errno == EINTR) continue;
 }
 
 int startedByHand(const char* program) {
@@ -98,9 +108,8 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   };
   const ForkServer::WarmUp warmUp = isTold(argc, argv, kLone) ? ForkServer::WarmUp() : engines.warmUp;
   const ForkServer::Wish wish{[&] { return interpreter.waitingRequests(); }, [&] { interpreter.start(); }};
-  const int code = runForkServer(argc, argv, documentChild(engines, layers), warmUp, prepare, wish);
-  interpreter.stop();
-  return code;
+  return runForkServer(argc, argv, documentChild(engines, layers), warmUp, prepare, wish,
+                       [&] { endWithInterpreters(interpreter); });
 }
 
 int runPictureProgram(const EngineSet& engines) {
@@ -119,7 +128,7 @@ int runPictureProgram(const EngineSet& engines) {
 }
 
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp,
-                  ForkServer::Prepare prepare, ForkServer::Wish wish) {
+                  ForkServer::Prepare prepare, ForkServer::Wish wish, const std::function<void()>& atEnd) {
   if (argc < 2 || !hasControlSocket()) return startedByHand("norvex-worker");
   ::fcntl(controlDescriptor, F_SETFD, FD_CLOEXEC);
   std::signal(SIGPIPE, SIG_IGN);
@@ -127,6 +136,7 @@ int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkSe
   ForkServer(FileDescriptor(controlDescriptor), root, std::move(childMain), std::move(warmUp),
              std::move(prepare), std::move(wish))
       .run();
+  if (atEnd) atEnd();
   if (isInFileView())
     removeScratchRootOfView();
   else

@@ -40,8 +40,10 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines,
 /// child does, but that nobody forked it and that it gets no scratch folder. Ends with the line, or with the
 /// thread that started it.
 int runPictureProgram(const EngineSet& engines);
-/// The same as runWorkerProgram() for other children (tests).
+/// The same as runWorkerProgram() for other children (tests). `atEnd`: called when all of them are gone,
+/// before the scratch root is removed.
 int runForkServer(int argc, char** argv, ForkServer::ChildMain childMain, ForkServer::WarmUp warmUp = {},
-                  ForkServer::Prepare prepare = {}, ForkServer::Wish wish = {});
+                  ForkServer::Prepare prepare = {}, ForkServer::Wish wish = {},
+                  const std::function<void()>& atEnd = {});
 
 }  // namespace norvex

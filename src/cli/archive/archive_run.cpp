@@ -19,7 +19,6 @@ constexpr qsizetype kBegunAtOnce = 128;  ///< files that are begun with one writ
 constexpr qsizetype kKeptAtOnce = 1024;  ///< results that are kept with one
 constexpr std::chrono::milliseconds kKeptAtLeastEvery{2000}, kKeptAtMostEvery{100};
 constexpr int kPartOfTime = 10;  ///< keeping takes one part of so many, of the telling thread's time
-constexpr std::chrono::seconds kLogEvery{60};
 constexpr std::chrono::milliseconds kShownEvery{200};
 constexpr int kToldCollisions = 20;
 
@@ -298,9 +297,7 @@ void ArchiveRun::tellProgress() {
   if (plan_.quiet) return;
   const auto now = Clock::now();
   const bool shown = console_.showsProgress();
-  if (now - lastTold_ <
-      (shown ? std::chrono::milliseconds(kShownEvery) : std::chrono::milliseconds(kLogEvery)))
-    return;
+  if (now - lastTold_ < (shown ? kShownEvery : sizes_.logEvery)) return;
   lastTold_ = now;
   const QString line = tally_->progress(now);
   if (shown)

@@ -23,6 +23,7 @@ namespace norvex {
 struct RunSizes {
   WorkWindow::Size window;
   std::chrono::milliseconds slowAfter{2000};
+  std::chrono::milliseconds logEvery{60'000};  ///< a line on the progress where there is no terminal
   int brokenInARow = 32;  ///< so many results in a row that could not be written end the run
 };
 

@@ -110,11 +110,11 @@ FileResult FileWork::run(const FileTask& task) const {
   }
   bool changes = true;
   for (int i = 0; i < kAttempts && changes && !cancel_.cancelled(); ++i) {
-    const auto before = stampOf(task.name.path);
+    const auto before = markOf(task.name.path);
     if (!plan_.state.isEmpty()) result.entry.content = contentHash(task.name.path).value_or(QByteArray());
     answer = attempt(task, task.replace || i > 0);
-    changes = before != stampOf(task.name.path);
-    result.entry.stamp = before.value_or(FileStamp());
+    changes = before != markOf(task.name.path);
+    result.entry.stamp = before ? before->stamp : FileStamp();
   }
   if (changes && answer.code == ExitCode::Done) {
     if (!task.output.isEmpty()) ::unlink(task.output.constData());  // it shows what the file was
@@ -146,20 +146,27 @@ void FileWork::judge(FileResult& result, const FileAnswer& answer) const {
 
 void FileWork::keepOutput(FileResult& result, const FileTask& task, const FileAnswer& answer) const {
   if (result.verdict != Verdict::Done) result.entry.output = QByteArray();
-  if (plan_.state.isEmpty() || result.verdict != Verdict::Done || task.output.isEmpty()) return;
+  if (result.verdict != Verdict::Done || task.output.isEmpty()) return;
+  if (const auto folder = plan_.outputs->checkFolder(); !folder) {
+    ::unlink(task.output.constData());  // it was written where nobody looks for it
+    return lose(result, task, folder.error().message);
+  }
+  if (plan_.state.isEmpty()) return;
   result.entry.changed = changedShare(answer.output);
   const auto stamp = stampOf(task.output);
   const auto hash = contentHash(task.output);
-  if (stamp && hash) {
-    result.entry.outputStamp = *stamp;
-    result.entry.outputContent = *hash;
-  } else {
-    result.verdict = Verdict::Unwritten;  // it has gone already
-    result.code = ExitCode::CannotWrite;
-    result.sentence = QStringLiteral("the result has disappeared");
-    result.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.output), result.sentence);
-    result.entry.outcome = Outcome::Begun;
-  }
+  if (!stamp || !hash) return lose(result, task, QStringLiteral("the result has disappeared"));
+  result.entry.outputStamp = *stamp;
+  result.entry.outputContent = *hash;
+}
+
+/// It was written and has gone already.
+void FileWork::lose(FileResult& result, const FileTask& task, const QString& sentence) const {
+  result.verdict = Verdict::Unwritten;
+  result.code = ExitCode::CannotWrite;
+  result.sentence = sentence;
+  result.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.output), result.sentence);
+  result.entry.outcome = Outcome::Begun;
 }
 
 }  // namespace norvex

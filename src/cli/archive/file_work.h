@@ -23,6 +23,7 @@ class FileWork {
   [[nodiscard]] int memoryOf(const QByteArray& path) const;
   void judge(FileResult& result, const FileAnswer& answer) const;
   void keepOutput(FileResult& result, const FileTask& task, const FileAnswer& answer) const;
+  void lose(FileResult& result, const FileTask& task, const QString& sentence) const;
 
   PictureService& service_;
   const ArchivePlan& plan_;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 #include "base/file_name.h"
 #include "types/picture_format.h"
@@ -29,6 +30,15 @@ Error cannotMake(int code) {
 
 }  // namespace
 
+OutputNames::OutputNames(QByteArray folder, QByteArray extension)
+    : folder_(std::move(folder)), extension_(std::move(extension)), place_(placeOf(folder_)) {}
+
+std::optional<OutputNames::Place> OutputNames::placeOf(const QByteArray& folder) {
+  struct stat status {};
+  if (::stat(folder.constData(), &status) != 0) return std::nullopt;
+  return Place{status.st_dev, status.st_ino};
+}
+
 std::optional<OutputNames> OutputNames::of(const Arguments& arguments) {
   if (!arguments.has(Option::Folder)) return std::nullopt;
   return OutputNames(fileNameBytes(arguments.values.value(Option::Folder)), writtenExtensionOf(arguments));
@@ -42,13 +52,21 @@ QByteArray OutputNames::outputOf(const ListedName& name) const {
   return pathBelow(folder_, hasExtension ? name.below.left(dot) : name.below) + '.' + extension_;
 }
 
+Result<void> OutputNames::checkFolder() const {
+  const auto place = placeOf(folder_);
+  if (!place) return Error{ErrorKind::CannotWrite, QStringLiteral("the folder to write to does not exist")};
+  if (place_ && *place != *place_)
+    return Error{ErrorKind::CannotWrite,
+                 QStringLiteral("the folder to write to has gone, another one is in its place")};
+  return {};
+}
+
 Result<void> OutputNames::makeFoldersOf(const QByteArray& output) const {
   const qsizetype last = output.lastIndexOf('/');
   qsizetype slash = pathBelow(folder_, {}).size() - 1;
   struct stat status {};
+  if (const auto checked = checkFolder(); !checked) return checked.error();
   if (last < 0 || ::stat(output.left(std::max<qsizetype>(last, 1)).constData(), &status) == 0) return {};
-  if (::stat(folder_.constData(), &status) != 0)
-    return Error{ErrorKind::CannotWrite, QStringLiteral("the folder to write to does not exist")};
   while ((slash = output.indexOf('/', slash + 1)) >= 0) {
     if (::mkdir(output.left(slash).constData(), 0777) != 0 && errno != EEXIST) return cannotMake(errno);
   }

@@ -3,8 +3,9 @@
 
 #include <QByteArray>
 
+#include <sys/types.h>
+
 #include <optional>
-#include <utility>
 
 #include "base/result.h"
 #include "cli/archive/names/listed_name.h"
@@ -21,15 +22,24 @@ class OutputNames {
   [[nodiscard]] const QByteArray& folder() const { return folder_; }
   /// The file's place below the folder, with the extension of what is written.
   [[nodiscard]] QByteArray outputOf(const ListedName& name) const;
-  /// Makes the folders of a result below our own. That one must be there: where a disk has gone, its place
-  /// shall not be filled. CannotWrite.
+  /// Nothing is wrong while our folder is there and is the one that it was in the beginning: where a disk has
+  /// gone, its place shall not be filled, nor the empty folder that it was mounted on. CannotWrite.
+  [[nodiscard]] Result<void> checkFolder() const;
+  /// Makes the folders of a result below our own, which is checked. CannotWrite.
   [[nodiscard]] Result<void> makeFoldersOf(const QByteArray& output) const;
 
  private:
-  OutputNames(QByteArray folder, QByteArray extension)
-      : folder_(std::move(folder)), extension_(std::move(extension)) {}
+  struct Place {
+    dev_t device;
+    ino_t number;
+    bool operator==(const Place&) const = default;
+  };
+  OutputNames(QByteArray folder, QByteArray extension);
+  [[nodiscard]] static std::optional<Place> placeOf(const QByteArray& folder);
+
   QByteArray folder_;
-  QByteArray extension_;  ///< empty: that of the file itself
+  QByteArray extension_;        ///< empty: that of the file itself
+  std::optional<Place> place_;  ///< of the folder in the beginning; nothing: it was not there
 };
 
 }  // namespace norvex

@@ -2,6 +2,9 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 #include <atomic>
 #include <chrono>
 #include <mutex>
@@ -61,6 +64,20 @@ class WaitingConsole : public Console {
   std::mutex mutex_;
   MemoryPictureProcess* slow_ = nullptr;
   int told_ = 0;
+};
+
+/// Nobody looks at it, but what it is told is kept.
+class LogConsole final : public Console {
+ public:
+  Result<QByteArray> input() override { return QByteArray(); }
+  bool write(const QByteArray&) override { return true; }
+  void message(const QString& line) override { lines << line; }
+  void progress(const QString&) override {}
+  [[nodiscard]] bool isClosed() const override { return false; }
+  [[nodiscard]] bool isTerminal() const override { return false; }
+  [[nodiscard]] bool showsProgress() const override { return false; }
+
+  QStringList lines;
 };
 
 }  // namespace
@@ -380,6 +397,28 @@ class RunTest : public QObject {
     QCOMPARE(unknown.progress(begin + 1s), "1 files, 1.0 a second");
   }
 
+  void aLogHoldsALineAMinute() {
+    Archive archive;
+    for (int i = 0; i < 3; ++i) archive.put("in/" + QByteArray::number(i) + ".svg");
+    const auto toldWith = [&](const RunSizes& sizes, const char* out) {
+      LogConsole console;
+      const ReadArguments read = readArguments(
+          {"convert", "--recursive", archive.path("in"), "--to", archive.folder(out), "--format", "svg"});
+      const ReadArchivePlan plan = readArchivePlan(read.arguments);
+      (void)ArchiveRun(console, archive.service, plan.plan, CancelToken(), sizes).run();
+      return console.lines;
+    };
+    RunSizes sizes;
+    QCOMPARE(sizes.logEvery, std::chrono::minutes(1));
+    QCOMPARE(toldWith(sizes, "out"), QStringList("norvex: 3 done"));
+    sizes.logEvery = std::chrono::milliseconds(0);
+    const QStringList lines = toldWith(sizes, "out2");
+    QVERIFY(lines.size() > 1);
+    QVERIFY2(lines.first().startsWith("norvex: ") && lines.first().contains(" of 3 files"),
+             qPrintable(lines.first()));
+    QVERIFY(archive.console.progressLines.isEmpty());
+  }
+
   // ---- pictures that go wrong ----------------------------------------------------------------------------
 
   void aFileThatEndsItsProcessIsTriedOnceMoreAndThenSetAside() {
@@ -419,6 +458,24 @@ class RunTest : public QObject {
     QCOMPARE(archive.convertTree({}), 0);
     QCOMPARE(opened.load(), 2);
     QCOMPARE(archive.bytesAt("out/a.svg"), svg("newer"));
+  }
+
+  void aFileThatIsReplacedByOneOfTheSameSizeAndTimeIsDoneAgain() {
+    Archive archive;
+    archive.put("in/a.svg", svg("old"));
+    struct stat before {};
+    QCOMPARE(::stat(archive.at("in/a.svg").constData(), &before), 0);
+    std::atomic<int> opened = 0;
+    archive.service.setPrepare([&](MemoryPictureProcess&) {
+      if (++opened > 1) return;
+      archive.put("in/a.new", svg("new"));
+      const timespec times[] = {before.st_atim, before.st_mtim};
+      ::utimensat(AT_FDCWD, archive.at("in/a.new").constData(), times, 0);
+      ::rename(archive.at("in/a.new").constData(), archive.at("in/a.svg").constData());
+    });
+    QCOMPARE(archive.convertTree({}), 0);
+    QCOMPARE(opened.load(), 2);
+    QCOMPARE(archive.bytesAt("out/a.svg"), svg("new"));
   }
 
   void aFileThatAlwaysChangesLeavesNothing() {

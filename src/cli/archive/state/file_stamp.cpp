@@ -13,10 +13,21 @@
 
 namespace norvex {
 
-std::optional<FileStamp> stampOf(const QByteArray& path) {
+std::optional<FileMark> markOf(const QByteArray& path) {
   struct stat status {};
   if (::stat(path.constData(), &status) != 0) return std::nullopt;
-  return FileStamp{status.st_size, qint64(status.st_mtim.tv_sec) * 1'000'000'000 + status.st_mtim.tv_nsec};
+  const auto nanoseconds = [](const timespec& time) {
+    return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+  };
+  return FileMark{{status.st_size, nanoseconds(status.st_mtim)},
+                  status.st_dev,
+                  status.st_ino,
+                  nanoseconds(status.st_ctim)};
+}
+
+std::optional<FileStamp> stampOf(const QByteArray& path) {
+  const auto mark = markOf(path);
+  return mark ? std::optional(mark->stamp) : std::nullopt;
 }
 
 std::optional<QByteArray> contentHash(const QByteArray& path) {

@@ -7,6 +7,8 @@
 #include <cstring>
 #include <utility>
 
+#include "protocol/descriptors_under_way.h"
+
 namespace norvex {
 namespace {
 
@@ -90,7 +92,7 @@ Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& reques
   ssize_t sent = -1;
   do {
     sent = ::sendmsg(asking, &message, MSG_NOSIGNAL | MSG_DONTWAIT);
-  } while (sent < 0 && errno == EINTR);
+  } while (sent < 0 && (errno == EINTR || (areTooManyUnderWay(errno) && waitForThoseUnderWay(asking))));
   return sent == told.size() ? Result<void>() : noMore();
 }
 

@@ -13,6 +13,7 @@
 #include <iterator>
 #include <limits>
 
+#include "protocol/descriptors_under_way.h"
 #include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 
@@ -95,6 +96,9 @@ Result<void> MessageChannel::send(const QByteArray& cbor, int descriptor, QDeadl
     const ssize_t written = ::sendmsg(socket_.get(), &header, MSG_NOSIGNAL | MSG_DONTWAIT);
     if (written >= 0) {
       sent += written;
+    } else if (areTooManyUnderWay(errno)) {
+      if (!waitForThoseUnderWay(socket_.get())) return died();
+      if (deadline.hasExpired()) return timedOut();
     } else if (!isTemporary(errno)) {
       return died();
     } else if (auto ready = waitFor(POLLOUT, deadline); !ready) {

@@ -6,8 +6,12 @@
 
 #include <fcntl.h>
 #include <sys/eventfd.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstring>
 #include <thread>
 
 #include "kit/raw_message.h"
@@ -29,10 +33,54 @@ Pair makePair() {
   return {MessageChannel(std::move(pair->first)), std::move(pair->second)};
 }
 
+/// A byte with these descriptors; false if the kernel refuses it.
+bool sendRawDescriptors(int socket, const QList<int>& descriptors) {
+  char byte = 'x';
+  iovec part = {&byte, 1};
+  QByteArray room(qsizetype(CMSG_SPACE(size_t(descriptors.size()) * sizeof(int))), '\0');
+  msghdr message = {};
+  message.msg_iov = &part;
+  message.msg_iovlen = 1;
+  message.msg_control = room.data();
+  message.msg_controllen = size_t(room.size());
+  cmsghdr* header = CMSG_FIRSTHDR(&message);
+  header->cmsg_level = SOL_SOCKET;
+  header->cmsg_type = SCM_RIGHTS;
+  header->cmsg_len = CMSG_LEN(size_t(descriptors.size()) * sizeof(int));
+  std::memcpy(CMSG_DATA(header), descriptors.constData(), size_t(descriptors.size()) * sizeof(int));
+  return ::sendmsg(socket, &message, MSG_NOSIGNAL) == 1;
+}
+
 qsizetype openDescriptors() {
   return QDir(QStringLiteral("/proc/self/fd"))
       .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
       .size();
+}
+
+constexpr int kNotRefused = 77;
+
+/// In a process of its own that is not root: with more descriptors under way than it may open files, a
+/// message with one is sent while another thread takes them. 0: it arrived.
+int sendAmongManyDescriptors() {
+  if (::geteuid() == 0 && ::setresuid(65534, 65534, 65534) != 0) return 1;
+  const rlimit few = {64, 64};
+  ::setrlimit(RLIMIT_NOFILE, &few);
+  int crowd[2], refused[2];
+  if (::socketpair(AF_UNIX, SOCK_STREAM, 0, crowd) != 0 ||
+      ::socketpair(AF_UNIX, SOCK_STREAM, 0, refused) != 0)
+    return 2;
+  if (!sendRawDescriptors(crowd[0], QList<int>(200, 0))) return 3;
+  if (sendRawDescriptors(refused[0], {0})) return kNotRefused;
+  auto pair = MessageChannel::makePair();
+  MessageChannel ours(std::move(pair->first)), theirs(std::move(pair->second));
+  std::thread taker([&] {
+    ::usleep(50'000);
+    ::close(crowd[1]);
+  });
+  const bool sent = ours.send("message", 0, QDeadlineTimer(20'000)).ok();
+  taker.join();
+  const auto got = theirs.receive(QDeadlineTimer(20'000));
+  return sent && got && got->cbor == "message" && got->descriptor.valid() ? 0 : 4;
 }
 
 }  // namespace
@@ -170,6 +218,16 @@ class MessageChannelTest : public QObject {
       QCOMPARE(openDescriptors(), before + 1);
     }
     QCOMPARE(openDescriptors(), before);
+  }
+
+  void aMessageWaitsUntilDescriptorsThatOthersHaveUnderWayAreTaken() {
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(sendAmongManyDescriptors());
+    int status = 0;
+    QCOMPARE(::waitpid(child, &status, 0), child);
+    QVERIFY(WIFEXITED(status));
+    if (WEXITSTATUS(status) == kNotRefused) QSKIP("this kernel bounds no descriptors under way");
+    QCOMPARE(WEXITSTATUS(status), 0);
   }
 
   void sendingStopsAtTheDeadline() {

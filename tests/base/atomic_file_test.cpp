@@ -137,6 +137,37 @@ class AtomicFileTest : public QObject {
     QCOMPARE(contentOf(path), QByteArray("old"));
     QCOMPARE(allIn(folder_->path()), QStringList{QStringLiteral("a")});
   }
+  void whatAnInterruptedWriterLeftGoesAndNothingElse() {
+    const QByteArray digits("0123456789abcdef");
+    const QByteArray folder = QFile::encodeName(folder_->path());
+    const QByteArrayList stay{"a.eps",
+                              "a.eps." + digits,
+                              ".a.eps",
+                              ".a.eps-" + digits,
+                              ".b.eps." + digits,
+                              ".a.eps." + digits.left(15),
+                              ".a.eps." + digits.toUpper(),
+                              "." + digits};
+    const QByteArray left = ".a.eps." + digits;
+    for (const QByteArray& name : stay + QByteArrayList{left})
+      QVERIFY(writeFileAtomically(folder_->path() + '/' + QString::fromLatin1(name), "x", IfExists::Fail));
+    removeUnfinishedFiles(folder, {"a.eps"});
+    for (const QByteArray& name : stay)
+      QVERIFY2(QFileInfo::exists(folder_->path() + '/' + QString::fromLatin1(name)), name.constData());
+    QVERIFY(!QFileInfo::exists(folder_->path() + '/' + QString::fromLatin1(left)));
+    QCOMPARE(allIn(folder_->path()).size(), stay.size());
+    removeUnfinishedFiles(folder + "/no/such", {"a.eps"});
+  }
+  void filesOfDifferentNamesAreNotTheSame() {
+    const QString one = folder_->filePath(QStringLiteral("a")),
+                  other = folder_->filePath(QStringLiteral("b"));
+    QVERIFY(writeFileAtomically(one, "x", IfExists::Fail));
+    QVERIFY(!isSameFile(one, other));
+    QVERIFY(!isSameFile(other, one));
+    QVERIFY(writeFileAtomically(other, "x", IfExists::Fail));
+    QVERIFY(!isSameFile(one, other));
+    QVERIFY(isSameFile(one, folder_->filePath(QStringLiteral("./a"))));
+  }
   void filesThatDoNotExistAreNotTheSame() {
     QVERIFY(!isSameFile(folder_->filePath(QStringLiteral("x")), folder_->filePath(QStringLiteral("x"))));
   }

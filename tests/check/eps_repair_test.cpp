@@ -63,6 +63,22 @@ class EpsRepairTest : public QObject {
     QVERIFY(twice.changes.isEmpty());
   }
 
+  void whiteMayMissTheEdgeOfTheStatedBoxByAPointAndAHalf() {
+    const QRectF stated(0, 0, 100, 100), ink(20, 20, 10, 10);
+    const auto mended = [&](double gap) {
+      return mendedBox(stated, ink, stated.adjusted(gap, gap, -gap, -gap));
+    };
+    QCOMPARE(mended(1.49), std::optional(stated));
+    QCOMPARE(mended(1.51), std::optional(ink));
+  }
+
+  void whatAProgramKeepsBehindTheEndForItselfStays() {
+    const QByteArray kept = "%AI9_PrivateDataBegin\n%one\n%two\n%AI9_PrivateDataEnd\n";
+    QVERIFY2(repaired("%!PS\n" + kBody + "showpage\n%%EOF\n" + kept).endsWith("showpage\n%%EOF\n" + kept),
+             repaired("%!PS\n" + kBody + "showpage\n%%EOF\n" + kept).constData());
+    QVERIFY(repaired("%!PS\n" + kBody + "showpage\n%%EOF\nrubbish\n" + kept).endsWith("showpage\n%%EOF\n"));
+  }
+
   void aMissingEndOfTheHeaderIsPutBeforeTheFirstSection() {
     for (const QByteArray section :
          {"%%EndProlog\n", "%%BeginProlog\n%%EndProlog\n", "%%BeginSetup\n%%EndSetup\n", "%%Page: 1 1\n",

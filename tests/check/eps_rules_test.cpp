@@ -54,6 +54,59 @@ QByteArray samples(char shade, const std::function<bool(int x, int y)>& isOn) {
 class EpsRulesTest : public QObject {
   Q_OBJECT
  private slots:
+  void aBoxIsLooseWhenHalfOfItsWidthOrHeightIsEmpty() {
+    const auto isLoose = [](double width, double height) {
+      return hasFinding(epsInkFindings(QRectF(0, 0, 100, 100), QRectF(0, 0, width, height), 1),
+                        "eps.bounding-box.loose");
+    };
+    QVERIFY(!isLoose(50, 50));
+    QVERIFY(isLoose(49, 100));
+    QVERIFY(isLoose(100, 49));
+    QVERIFY(!isLoose(100, 50));
+  }
+
+  void whatALevelBroughtAsksForIt() {
+    for (const char* word :
+         {"setcolorspace", "setcolor", "rectfill", "rectstroke", "rectclip", "makepattern", "setpattern",
+          "execform", "ufill", "ustroke", "glyphshow", "selectfont", "xshow"})
+      QVERIFY2(operatorsOf(word).contains("eps.language-level.undeclared"), word);
+    for (const char* word : {"shfill", "clipsave", "cliprestore", "setsmoothness"})
+      QVERIFY2(operatorsOf(word).contains("eps.language-level.undeclared"), word);
+    for (const char* word : {"setrgbcolor", "setcmykcolor", "fill", "show", "image", "findfont"})
+      QVERIFY2(!operatorsOf(word).contains("eps.language-level.undeclared"), word);
+  }
+
+  void linesThatAllEndAlikeAreNotMixed() {
+    for (const char* end : {"\n", "\r", "\r\n"}) {
+      const QByteArray program = QByteArray(kHeader + "showpage\n%%EOF\n").replace("\n", end);
+      QVERIFY2(!hasFinding(epsStructureFindings(programLines(program)), "eps.lines.mixed-ends"), end);
+    }
+    const Findings two = epsStructureFindings(programLines(kHeader + "newpath\rshowpage\n%%EOF\n"));
+    const auto mixed = std::find_if(two.begin(), two.end(), [](const Finding& one) {
+      return one.rule->identifier == "eps.lines.mixed-ends";
+    });
+    QVERIFY(mixed != two.end());
+    QCOMPARE(mixed->sentence, "lines end in 2 different ways");
+    QCOMPARE(mixed->line, std::optional(4));
+  }
+
+  void fontsThatAreNeededAndNotSuppliedAreNamed() {
+    const auto sentences = [](const QByteArray& comments) {
+      QStringList all;
+      const QByteArray program = "%!PS-Adobe-3.0 EPSF-3.0\n" + comments + "%%EndComments\nshowpage\n";
+      for (const Finding& one : epsFontFindings(programLines(program))) all << one.sentence;
+      return all;
+    };
+    const QString begin = "the file needs fonts that it does not bring: ";
+    QCOMPARE(sentences("%%DocumentNeededFonts: One\n%%+ Two\n"), QStringList{begin + "One, Two"});
+    QCOMPARE(sentences("%%DocumentNeededResources: procset p 1 0\n%%+ font Two\n"),
+             QStringList{begin + "Two"});
+    QCOMPARE(sentences("%%DocumentNeededFonts: One Two\n%%DocumentSuppliedResources: font One\n"),
+             QStringList{begin + "Two"});
+    QCOMPARE(sentences("%%DocumentNeededFonts: One\n%%Title: t\n%%+ Two\n%%DocumentSuppliedFonts: One\n"),
+             QStringList());
+  }
+
   void sectionsBeginAndEnd() {
     QVERIFY(!structureOf("%%BeginSetup\n%%EndSetup\n").contains("eps.comments.unclosed"));
     QVERIFY(!structureOf("%%BeginProlog\n%%BeginResource: font A\n%%EndResource\n%%EndProlog\n")

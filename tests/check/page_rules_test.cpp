@@ -30,6 +30,13 @@ class PageRulesTest : public QObject {
  private slots:
   void anEmptyPageIsSound() { QVERIFY(pageFindings(pageOf(100), PictureKind::Pdf, {}).isEmpty()); }
 
+  void withoutALimitNoImageIsTooCoarse() {
+    PageContents page = pageOf(100);
+    for (const ImageColours colours : {ImageColours::Colour, ImageColours::Grey, ImageColours::LineArt})
+      page.images << image(colours, 1);
+    QVERIFY(!hasFinding(pageFindings(page, PictureKind::Svg, {}), "image.resolution"));
+  }
+
   void whatWasNotLookedAtIsTold() {
     PageContents page = pageOf(100);
     page.complete = false;
@@ -83,7 +90,9 @@ class PageRulesTest : public QObject {
     const double millimetre = 72 / 25.4;
     QVERIFY(widthFindings(91.9 * millimetre, limits).isEmpty());
     QVERIFY(widthFindings(188.1 * millimetre, limits).isEmpty());
-    QCOMPARE(widthFindings(93 * millimetre, limits).size(), 1);
+    const Findings found = widthFindings(93 * millimetre, limits);
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.first().sentence, "the picture is 93.0 mm wide, columns are 90, 190 mm");
   }
 
   void coloursOfSvgAndFontsOfAnInterpretedProgramAreNoFindings() {

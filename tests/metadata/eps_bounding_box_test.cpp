@@ -67,6 +67,13 @@ class EpsBoundingBoxTest : public QObject {
     QCOMPARE(boxes.hiResBoundingBox.value_or(QRectF()), QRectF(0, 0, 29.5, 39.5));
   }
 
+  void theLastBoxThatIsOneCountsAtTheEnd() {
+    const QByteArray begin = eps("%%BoundingBox: (atend)\n") + "%%Trailer\n%%BoundingBox: 0 0 30 40\n";
+    for (const char* behind :
+         {"(%%BoundingBox: 1 1 2 2) show\n", "%%BoundingBox: none\n", "%%BoundingBox: 0 0 0 0\n"})
+      QCOMPARE(box(begin + behind).value_or(QRectF()), QRectF(0, 0, 30, 40));
+  }
+
   void atEndWithoutATrailerIsNoBox() { QVERIFY(!box(eps("%%BoundingBox: (atend)\n"))); }
 
   void theFirstOneOfTheHeaderCounts() {

@@ -49,6 +49,7 @@ class EpsCompletenessTest : public QObject {
     row("its last line is a comment", kHeader + "%%EndProlog\nsave\nrestore\n\n% showpage\n");
     row("by hand, without an end of line", kHeader + "newpath 0 0 moveto 9 9 lineto stroke");
     row("by hand, with a procedure", kHeader + "/d { moveto } def gsave 0 0 d grestore 9 9 lineto stroke\n");
+    row("by hand, with a dictionary", kHeader + "9 dict begin 0 0 moveto 9 9 lineto end stroke\n");
     row("drawing program's own names", kHeader + "%%Page: 1 1\n(text) col0 sh gr\n$F2psEnd\nrs\n");
     row("private data behind the end mark", kWhole + "%AI9_PrivateDataBegin\n%abc\n%AI9_PrivateDataEnd\n");
     row("binary data", kHeader + "gsave image\n{{{\xFF\x80 gsave");

@@ -89,6 +89,8 @@ class EpsHeaderTest : public QObject {
         epsHeader("%!PS-Adobe-3.0 EPSF-3.0\n%%Title: \t\n\n  next line\n%%For:\r\rme\r");
     QCOMPARE(text(dictionary, header::Title), "next line");
     QCOMPARE(text(dictionary, header::For), "me");
+    QCOMPARE(text(epsHeader(eps("%%Title:\nat its very beginning\n")), header::Title),
+             "at its very beginning");
   }
 
   void aTitleBehindEndCommentsIsFound() {

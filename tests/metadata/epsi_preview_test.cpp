@@ -67,6 +67,13 @@ class EpsiPreviewTest : public QObject {
     QCOMPARE(rep->data, QByteArray("\xFE\xFD\xFC\xFB\xFA\xF9"));
   }
 
+  void numbersMayHaveTheirSign() {
+    const auto rep = epsiPreview("+8 +2 1 +2\n%0102\n%%EndPreview");
+    QVERIFY(rep);
+    QCOMPARE(rep->data, QByteArray("\xFE\xFD"));
+    QVERIFY(!epsiPreview("-8 2 1 2\n%0102\n%%EndPreview"));
+  }
+
   void aBlankBehindThePercentSignIsSkipped() {
     const auto rep = epsiPreview("16 1 1 1\r\n% A5\r\n% 5a\r\n%%EndPreview");
     QVERIFY(rep);

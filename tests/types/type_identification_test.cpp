@@ -37,6 +37,8 @@ class TypeIdentificationTest : public QObject {
     QTest::newRow("eps behind control-D") << "\x04" + kEpsText << kEps;
     QTest::newRow("eps behind a mark") << "\xEF\xBB\xBF" + kEpsText << kEps;
     QTest::newRow("eps behind blank lines") << "\r\n\n" + kEpsText << kEps;
+    QTest::newRow("eps behind as many blanks as are passed over") << QByteArray(64, ' ') + kEpsText << kEps;
+    QTest::newRow("eps behind one more") << QByteArray(65, ' ') + kEpsText << "public.data";
     QTest::newRow("eps behind a printer's language, far down")
         << "\x1B%-12345X@PJL\n" + QByteArray(50'000, ' ') + kEpsText << kEps;
     QTest::newRow("postscript that begins with the last bytes that are looked at")
@@ -124,6 +126,15 @@ class TypeIdentificationTest : public QObject {
                                     << "b.bin" << kSvgz;
     QTest::newRow("gzip of an svg, with something before its name")
         << QByteArray("\x1F\x8B\x08\x0C\0\0\0\0\0\x03\x02\0xxa.svg\0", 20) << "b.bin" << kSvgz;
+    QTest::newRow("gzip of an svg whose name is its extension")
+        << QByteArray("\x1F\x8B\x08\x08\0\0\0\0\0\x03.svg\0", 15) << "b.bin" << kSvgz;
+    QTest::newRow("gzip of an svg that is told to be text") << QByteArray(
+                                                                   "\x1F\x8B\x08\x09\0\0\0\0\0\x03"
+                                                                   "a.svg\0",
+                                                                   16)
+                                                            << "b.bin" << kSvgz;
+    QTest::newRow("text named so") << QByteArray("hello") << "b.txt"
+                                   << "public.plain-text";
     QTest::newRow("half the magic of binary eps") << QByteArray("\xC5\xD0\0\0", 4) << "b.eps" << kEps;
     QTest::newRow("broken svg") << QByteArray("not XML at all") << "b.svg" << kSvg;
     QTest::newRow("broken pdf") << QByteArray("not PDF at all") << "b.pdf" << kPdf;
@@ -146,6 +157,9 @@ class TypeIdentificationTest : public QObject {
                                     "<!DOCTYPE svg PUBLIC \"-//W3C//DTD SVG 1.1//EN\" \"a>b.dtd\">\n<svg>";
     QTest::newRow("internal subset")
         << declaration + "<!DOCTYPE svg [<!ENTITY ns \"]><html>\"> <!-- ]> --> ]>\n<svg x='&ns;'>";
+    QTest::newRow("an empty comment in the internal subset")
+        << declaration + "<!DOCTYPE svg [<!---->]>\n<svg>";
+    QTest::newRow("an empty document type") << QByteArray("<!DOCTYPE>\n<svg>");
     QTest::newRow("instructions in the internal subset")
         << declaration + "<!DOCTYPE svg [<?a ]> ?><?b ]> ?>]>\n<svg>";
     QTest::newRow("instruction") << QByteArray("<?xml-stylesheet href='a?b>'?><svg/>");

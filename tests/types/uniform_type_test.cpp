@@ -56,6 +56,10 @@ class UniformTypeTest : public QObject {
     for (const char* above : {"public.composite-content", "public.content", "public.data"})
       QVERIFY2(type(PostScriptType).conformsToType(QLatin1String(above)), above);
     QVERIFY(!type("public.text").conformsToType("public.plain-text"));
+    QVERIFY(type("org.gnu.gnu-zip-archive").conformsToType("public.archive"));
+    QVERIFY(type("public.archive").conformsToType("public.data"));
+    QVERIFY(type("public.xml").conformsToType("public.text"));
+    QVERIFY(type("public.image").conformsToType("public.content"));
   }
 
   void declaringAgainChangesNothing() {
@@ -110,6 +114,14 @@ class UniformTypeTest : public QObject {
                          << "public.jpeg";
     QTest::newRow("gif") << "gif"
                          << "com.compuserve.gif";
+    QTest::newRow("ps") << "ps"
+                        << "com.adobe.postscript";
+    QTest::newRow("txt") << "txt"
+                         << "public.plain-text";
+    QTest::newRow("xml") << "xml"
+                         << "public.xml";
+    QTest::newRow("gz") << "gz"
+                        << "org.gnu.gnu-zip-archive";
   }
   void extensions() {
     QFETCH(QString, extension);
@@ -147,6 +159,20 @@ class UniformTypeTest : public QObject {
                          << "public.svg-image";
     QTest::newRow("svgz") << "image/svg+xml-compressed"
                           << "com.Tembrolix.svgz";
+    QTest::newRow("ps alias") << "application/x-postscript"
+                              << "com.adobe.postscript";
+    QTest::newRow("text") << "text/plain"
+                          << "public.plain-text";
+    QTest::newRow("xml") << "application/xml"
+                         << "public.xml";
+    QTest::newRow("xml alias") << "text/xml"
+                               << "public.xml";
+    QTest::newRow("gzip") << "application/gzip"
+                          << "org.gnu.gnu-zip-archive";
+    QTest::newRow("gzip alias") << "application/x-gzip"
+                                << "org.gnu.gnu-zip-archive";
+    QTest::newRow("bytes") << "application/octet-stream"
+                           << "public.data";
     QTest::newRow("letter case") << "IMAGE/PNG"
                                  << "public.png";
   }

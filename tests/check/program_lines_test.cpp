@@ -1,0 +1,67 @@
+// A program cut into its lines, and the part that each belongs to.
+#include "check/program_lines.h"
+
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+QList<int> numbersOf(const QList<ProgramLine>& lines) {
+  QList<int> numbers;
+  for (const ProgramLine& line : lines) numbers << line.number;
+  return numbers;
+}
+
+QList<LinePart> partsOf(const QList<ProgramLine>& lines) {
+  QList<LinePart> parts;
+  for (const ProgramLine& line : lines) parts << line.part;
+  return parts;
+}
+
+}  // namespace
+
+class ProgramLinesTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void everyEndOfALineIsOne() {
+    const QList<ProgramLine> lines = programLines("a\nb\rc\r\n\nd");
+    QCOMPARE(numbersOf(lines), QList<int>({1, 2, 3, 4, 5}));
+    const QList<LineEnd> ends{LineEnd::Lf, LineEnd::Cr, LineEnd::CrLf, LineEnd::Lf, LineEnd::None};
+    const QByteArrayList texts{"a", "b", "c", "", "d"};
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+      QCOMPARE(lines[i].end, ends[i]);
+      QCOMPARE(lines[i].text, texts[i]);
+    }
+    QCOMPARE(lines.last().start, 8);
+  }
+
+  void countedDataAreOneLineAndTheNextHasTheNumberThatEditorsShow() {
+    const QList<ProgramLine> lines = programLines(
+        "%!PS\n%%EndComments\nimage\n%%BeginData: 6 Binary Bytes\na\nb\nc\n%%EndData\nshowpage\n");
+    QCOMPARE(numbersOf(lines), QList<int>({1, 2, 3, 4, 5, 8, 9}));
+    QCOMPARE(lines[4].text, "a\nb\nc\n");
+    QCOMPARE(partsOf(lines),
+             QList<LinePart>({LinePart::Header, LinePart::Header, LinePart::Program, LinePart::Program,
+                              LinePart::Data, LinePart::Program, LinePart::Program}));
+  }
+
+  void binaryDataAreCountedToo() {
+    const QList<ProgramLine> lines =
+        programLines("%!PS\n%%EndComments\n%%BeginBinary: 4\na\nb\n%%EndBinary\n");
+    QCOMPARE(numbersOf(lines), QList<int>({1, 2, 3, 4, 6}));
+    QCOMPARE(lines[3].part, LinePart::Data);
+  }
+
+  void whatStandsInAnotherDocumentIsOfThat() {
+    using enum LinePart;
+    const QList<ProgramLine> lines = programLines(
+        "%!PS\n%%EndComments\n%%BeginPreview: 8 1 1 1\n%FF\n%%EndPreview\n%%BeginDocument: a\n%!PS\n"
+        "%%EndDocument\nshowpage\n");
+    QCOMPARE(partsOf(lines), QList<LinePart>({Header, Header, Program, Preview, Preview, Program, Embedded,
+                                              Program, Program}));
+  }
+};
+
+NORVEX_TEST(ProgramLinesTest)
+#include "program_lines_test.moc"

@@ -1,40 +1,45 @@
 #include "window/main_window_controller.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMainWindow>
+#include <QThread>
 #include <QTimer>
 #include <QWindowStateChangeEvent>
 
+#include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
+#include "picture/web_image_rep.h"
 #include "protocol/start_trace.h"
-#include "ui/controls/color_well.h"
 #include "ui/controls/control_accessible.h"
+#include "ui/controls/zy_dial_knob.h"
+#include "ui/controls/zy_form.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
+#include "ui/picture/zy_image_view.h"
 #include "ui/style/window_style.h"
 #include "ui_MainWindowController.h"
 #include "window/commands/window_frames.h"
+#include "window/document_contents.h"
 #include "window/inspector_pages.h"
 #include "window/reading/layers_command.h"
+#include "window/reading/password_command.h"
+#include "window/selection_description.h"
 #include "window/viewing/live_file.h"
 
 namespace norvex {
 
-MainWindowController::MainWindowController()
-    : producers_([this] {
-        return WindowProducers::Shown{view() ? view()->imageRep() : nullptr,
-                                      document_ ? &document_->pictureService() : nullptr, windowColorSpace_};
-      }) {
-  connectParts();
+MainWindowController::MainWindowController() : commands_(*this) {
+  connect(&commands_.loading, &LoadingCommand::finished, this, &MainWindowController::take);
 }
 
 MainWindowController::~MainWindowController() {
-  printing_.end();
+  commands_.printing.end();
   if (view()) view()->setDelegate(nullptr);
-  loading_.stop();
+  commands_.loading.stop();
   work().cancelAll();
   // Told about the controller, not about its window: who listens knows the controller.
   emit windowWillClose(this);
@@ -42,34 +47,6 @@ MainWindowController::~MainWindowController() {
   // Both are windows of their own by now; the view must go before the process that it draws from.
   delete inspectorWindow;
   delete window_.data();
-}
-
-void MainWindowController::connectParts() {
-  connect(&work(), &WindowWork::changed, this, [this] {
-    if (window_) messages_.followRendering();
-    closing_.closeIfDone();
-  });
-  connect(&work(), &WindowWork::failed, &closing_, &ClosingCommand::stay);
-  connect(&loading_, &LoadingCommand::finished, this, &MainWindowController::take);
-  connect(&messages_, &MessagesCommand::reloadChosen, this, &MainWindowController::reload);
-  connect(&messages_, &MessagesCommand::drawingChanged, &inspector_, &InspectorCommand::showDrawingRemarks);
-  connect(&messages_, &MessagesCommand::openingChosen, &loading_, &LoadingCommand::start);
-  connect(&messages_, &MessagesCommand::stopChosen, this, [this] {
-    if (stopReading() || work().cancelNewest(WindowWork::Kind::Examining)) return;
-    messages_.stopDrawing();
-  });
-  connect(&inspector_, &InspectorCommand::turned, this, &MainWindowController::setWindowSize);
-  connect(&encoding_, &EncodingCommand::reread, this,
-          [this](const HeaderDictionary& header, const QString& text) { contents_.showTexts(header, text); });
-  connect(&copying_, &CopyCommand::ended, this, &MainWindowController::copied);
-  connect(&savingTo_, &SaveToCommand::ended, this, &MainWindowController::savedTo);
-  connect(&savingTo_, &SaveToCommand::failed, &closing_, &ClosingCommand::stay);
-  connect(&savingAs_, &SaveAsCommand::failed, &closing_, &ClosingCommand::stay);
-  connect(&savingAs_, &SaveAsCommand::ended, &closing_, &ClosingCommand::closeIfDone);
-  connect(&printing_, &PrintingCommand::ended, &closing_, [this](bool printed) {
-    if (!printed) closing_.stay();
-    closing_.closeIfDone();
-  });
 }
 
 QMainWindow* MainWindowController::window() {
@@ -82,27 +59,24 @@ void MainWindowController::loadWindow() {
   nib_ = std::make_unique<QWidget>();
   ui_ = std::make_unique<Ui::MainWindowController>();
   ui_->setupUi(nib_.get());
-  takeOutlets();
+  takeWindow();
+  commands_.controls.take(*ui_);
+  inspectorWindow->setParent(window_, Qt::Tool);
   window_->setStyleSheet(windowStyleSheet());  // of its inspector, too, which is below it
   window_->installEventFilter(this);
   inspectorWindow->installEventFilter(this);
-  messageBar_ = new MessageBar(scrollArea_);
-  loadingCard_ = new LoadingCard(scrollArea_);
-  scrollArea_->addCard(messageBar_, Qt::TopEdge);
-  scrollArea_->addCard(loadingCard_, Qt::BottomEdge);
-  connectControls();
-  connectCommands();
-  inspector_.order();
+  commands_.controls.connect();
+  commands_.menus.setUp(*ui_);
+  commands_.inspector.order();
   addInspectorPages(*this);
-  connectPrinting();
-  encoding_.setUp({ui_->encodingChoice, ui_->encodingTitle, ui_->encodingPopUp, ui_->guessBox,
-                   ui_->encodingNote, ui_->guessForm});
+  commands_.encoding.setUp({ui_->encodingChoice, ui_->encodingTitle, ui_->encodingPopUp, ui_->guessBox,
+                            ui_->encodingNote, ui_->guessForm});
   if (savedTouchBarIsShown()) showTouchBar(true);
-  sizing_.restoreFrame();
+  commands_.sizing.restoreFrame();
   traceStep("window built");
 }
 
-void MainWindowController::takeOutlets() {
+void MainWindowController::takeWindow() {
   window_ = ui_->window;
   window_->setParent(nullptr, Qt::Window);
   window_->setAttribute(Qt::WA_Moved,
@@ -110,61 +84,23 @@ void MainWindowController::takeOutlets() {
   scrollArea_ = ui_->zoomingScrollView;
   viewWidget_ = ui_->view;
   scrollArea_->setDocumentWidget(viewWidget_);
-  startPoint = ui_->startPoint;
-  endPoint = ui_->endPoint;
-  inspectorToolbarItem = ui_->inspectorToolbarItem;
-  copyToolbarItem = ui_->copyToolbarItem;
-  doPrintingToolbarItem = ui_->doPrintingToolbarItem;
-  doSaveToToolbarItem = ui_->doSaveToToolbarItem;
-  inspectorWindow = ui_->inspectorWindow;
-  inspectorWindow->setParent(window_, Qt::Tool);
-  pathControl = ui_->pathControl;
-  descriptionView = ui_->descriptionView;
-  sourceTextView = ui_->sourceTextView;
-  epsMatrix = ui_->epsMatrix;
-  epsMatrixBox = ui_->epsMatrixBox;
-  previewField = ui_->previewField;
-  doSaveToPopUp = ui_->doSaveToPopUp;
-  doSaveToImageView = ui_->doSaveToImageView;
-  doSaveToAccessoryView = ui_->doSaveToAccessoryView;
-  menuBar = ui_->menuBar;
-  toolbar = ui_->toolbar;
-  inspectorTabs = ui_->inspectorTabs;
-  sourcePage = ui_->sourcePage;
-  boundingBoxForm = ui_->boundingBoxForm;
-  usesForm = ui_->usesForm;
-  noteField = ui_->noteField;
-  rotateReadout = ui_->rotateReadout;
-  doSaveToNote = ui_->doSaveToNote;
-  setUseBackgroundSwitch(ui_->useBackgroundSwitch);
-  setWindowBackgroundColorTitle(ui_->windowBackgroundColorTitle);
-  setRotateTitle(ui_->rotateTitle);
-  setRotateField(ui_->rotateField);
-  setBackgroundColorWell(ui_->backgroundColorWell);
-  setDialKnob(ui_->dialKnob);
-  setPreviewImageView(ui_->previewImageView);
-  setColorSpaceNameForm(ui_->colorSpaceNameForm);
-  setEncodingForm(ui_->encodingForm);
-  setTitleForm(ui_->titleForm);
-  setCreatorForm(ui_->creatorForm);
-  setCreationDateForm(ui_->creationDateForm);
-  setForForm(ui_->forForm);
-  setCopyrightForm(ui_->copyrightForm);
-  setView(&viewWidget_->view());
-  setZoomingScrollView(&scrollArea_->scrollView());
+  messageBar_ = new MessageBar(scrollArea_);
+  loadingCard_ = new LoadingCard(scrollArea_);
+  scrollArea_->addCard(messageBar_, Qt::TopEdge);
+  scrollArea_->addCard(loadingCard_, Qt::BottomEdge);
 }
 
 void MainWindowController::showWindow() {
   const bool first = !isWindowLoaded();
   QMainWindow* shown = window();
   if (first) {
-    setUpControls();
+    commands_.controls.setUp();
     const bool untitled = !document_ || document_->fileURL().isEmpty();
-    if (untitled) contents_.showUntitled();
+    if (untitled) commands_.contents.showUntitled();
     finishSetUp();
-    if (!untitled) loading_.start();
+    if (!untitled) commands_.loading.start();
   }
-  if (first) sizing_.place();
+  if (first) commands_.sizing.place();
   shown->show();
   shown->raise();
   shown->activateWindow();
@@ -173,16 +109,16 @@ void MainWindowController::showWindow() {
 
 void MainWindowController::windowDidLoad() {
   window();
-  loading_.stop();
+  commands_.loading.stop();
   if (!document_ || document_->fileURL().isEmpty()) {
-    setUpControls();
-    contents_.showUntitled();
+    commands_.controls.setUp();
+    commands_.contents.showUntitled();
     return finishSetUp();
   }
   if (window_->isVisible())
-    loading_.start();
+    commands_.loading.start();
   else
-    loading_.readNow();
+    commands_.loading.readNow();
 }
 
 void MainWindowController::reload() {
@@ -194,36 +130,19 @@ void MainWindowController::fileDidChangeOnDisk() {
   emit fileChanged();
   auto* live = findChild<LiveFile*>();
   if (live->reloadsByItself()) return live->reloadInPlace([this] { reload(); });
-  messages_.fileDidChange();
+  commands_.messages.fileDidChange();
 }
 
 void MainWindowController::fileDidDisappear() {
-  if (window_ && validateUserInterfaceItem()) messages_.fileDidDisappear();
-}
-
-/// False: nothing was being read.
-bool MainWindowController::stopReading() {
-  if (!loading_.stop()) return false;
-  if (validateUserInterfaceItem()) {
-    findChild<LiveFile*>()->documentDidStay();
-    findChild<LayersCommand*>()->documentDidStay();
-  }
-  messages_.openingWasStopped();
-  return true;
-}
-
-void MainWindowController::stopWork() {
-  if (stopReading()) return;
-  if (copying_.stop() || work().cancelNewest()) return;
-  messages_.stopDrawing();
+  if (window_ && validateUserInterfaceItem()) commands_.messages.fileDidDisappear();
 }
 
 void MainWindowController::closing() {
-  sizing_.saveFrame();
-  loading_.stop();
-  copying_.stop();
+  commands_.sizing.saveFrame();
+  commands_.loading.stop();
+  commands_.copying.stop();
   work().cancelAll();
-  printing_.cancelAll();
+  commands_.printing.cancelAll();
   inspectorWindow->hide();
   // The document destroys this controller; that must wait until the window has finished closing.
   if (shouldCloseDocument_ && document_)
@@ -232,20 +151,115 @@ void MainWindowController::closing() {
 
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event) {
   if (watched == window_) {
-    if (event->type() == QEvent::Close && closing_.closesLater()) {
+    if (event->type() == QEvent::Close && commands_.closing.closesLater()) {
       event->ignore();
       return true;
     }
     if (event->type() == QEvent::Close) closing();
-    if (event->type() == QEvent::Resize) sizing_.windowDidResize();
+    if (event->type() == QEvent::Resize) commands_.sizing.windowDidResize();
     if (event->type() == QEvent::WindowStateChange) {
       ui_->fullScreenAction->setChecked(window_->isFullScreen());
-      sizing_.windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));
+      commands_.sizing.windowStateDidChange(*static_cast<QWindowStateChangeEvent*>(event));
     }
   }
   if (watched == inspectorWindow && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
     inspectorToolbarItem->setChecked(event->type() == QEvent::Show);
   return QObject::eventFilter(watched, event);
+}
+
+void MainWindowController::take(const DocumentContents& contents, bool again) {
+  auto* passwords = findChild<PasswordCommand*>();
+  const bool stays = again && !contents.imageRep;
+  if (stays) {
+    findChild<LiveFile*>()->documentDidStay();
+    findChild<LayersCommand*>()->documentDidStay();
+  }
+  // Nothing has failed yet: the window keeps its size for the picture.
+  if (contents.error && passwords->take(*contents.error)) return finishSetUp();
+  if (stays)
+    return commands_.messages.pictureStays(contents.error.value_or(Error{ErrorKind::CannotRead, {}}));
+  if (contents.imageRep) passwords->documentDidOpen();
+  commands_.controls.setUp();
+  showContents(contents);
+  finishSetUp();
+  commands_.shownView.takeFirst();
+  if (!again) tell(contents.lost);
+  emit documentShown();
+}
+
+void MainWindowController::showContents(const DocumentContents& contents) {
+  messageBar_->clearMessage();
+  if (contents.kind == DocumentKind::Svg) QObject::disconnect(svgObservation_);
+  const auto svg = std::dynamic_pointer_cast<ZyWebImageRep>(contents.imageRep);
+  if (svg && QThread::currentThread() == qApp->thread())
+    svgObservation_ = connect(svg.get(), &ZyWebImageRep::pdfImageRepDidLoad, this,
+                              &MainWindowController::pdfImageRepDidLoad);
+  commands_.contents.show(contents);
+  commands_.encoding.show(contents.imageRep, contents.chosenEncoding, contents.guess);
+  if (const auto space = ContentsDisplay::colorSpace(contents.header)) windowColorSpace_ = *space;
+  colorSpaceNameForm()->setText(0, windowColorSpace_.description());
+  commands_.shownView.reset();
+  commands_.messages.watchPicture(contents.process);
+  if (contents.error) commands_.messages.showProblem(*contents.error);
+}
+
+void MainWindowController::pdfImageRepDidLoad(bool success, const Error& error) {
+  QObject::disconnect(svgObservation_);
+  const auto rep = std::dynamic_pointer_cast<ZyWebImageRep>(view()->imageRep());
+  if (!rep) return;
+  if (!success) return commands_.messages.showPdfFailure(error);
+  viewWidget_->update();
+  const QVariant pdf = rep->valueForKey(QString::fromLatin1(ZyWebViewPDFImageRepKey));
+  previewImageView()->setImageRep(pdf.value<std::shared_ptr<NSImageRep>>());
+}
+
+void MainWindowController::finishSetUp() {
+  view()->setDelegate(this);
+  commands_.controls.validate();
+  commands_.menus.validate();
+}
+
+void MainWindowController::setZoomFactor(double factor) {
+  zoomFactor_ = factor;
+  emit zoomFactorDidChange(factor);
+}
+
+bool MainWindowController::dialKnobClockwise() const {
+  return dialKnob() && dialKnob()->clockwise();
+}
+
+void MainWindowController::norvexView(NorvexView&, const QString& selectedRangeStrings, const QString& end,
+                                      const QString& area) {
+  commands_.menus.validateSelection();
+  showSelection(*this, selectedRangeStrings, end, area);
+}
+
+void MainWindowController::saveDocumentAs(QObject*) {
+  commands_.savingAs.run(localizedString("Save As"));
+}
+
+void MainWindowController::saveDocumentTo(QObject*) {
+  commands_.savingAs.run(localizedString("Save To"));
+}
+
+std::optional<NSCustomTouchBarItem> MainWindowController::touchBar(const NSTouchBar& bar,
+                                                                   const QString& makeItemForIdentifier) {
+  return mainWindowTouchBarItem(bar, makeItemForIdentifier);
+}
+
+void MainWindowController::performTouchBarAction(TouchBarAction action) {
+  switch (action) {
+    case TouchBarAction::SaveDocumentAs:
+      return saveDocumentAs();
+    case TouchBarAction::SaveDocumentTo:
+      return saveDocumentTo();
+    case TouchBarAction::RevertDocumentToSaved:
+      return reload();
+    case TouchBarAction::Copy:
+      return copy();
+    case TouchBarAction::PrintDocument:
+      return printDocument();
+  }
 }
 
 }  // namespace norvex

@@ -11,28 +11,14 @@
 #include "display/norvex_view_delegate.h"
 #include "document/document_window_controller.h"
 #include "ui/picture/drag_source.h"
-#include "window/commands/closing_command.h"
-#include "window/commands/copy_command.h"
-#include "window/commands/inspector_command.h"
-#include "window/commands/messages_command.h"
-#include "window/commands/printing_command.h"
-#include "window/commands/save_as_command.h"
-#include "window/commands/save_to_command.h"
-#include "window/commands/touch_bar_command.h"
 #include "window/commands/window_parts.h"
-#include "window/commands/window_producers.h"
-#include "window/commands/window_sizing_command.h"
-#include "window/contents_display.h"
-#include "window/inspector/encoding_command.h"
-#include "window/loading_command.h"
+#include "window/window_commands.h"
 
 namespace Ui {
 class MainWindowController;
 }
 
 namespace norvex {
-
-class SelectionCommands;
 
 /// Loads the window and its inspector from the interface file, sets their controls up, and hands every
 /// command to the object that carries it out. Main thread only; owns its windows.
@@ -59,17 +45,17 @@ class MainWindowController final : public QObject,
   void display() override { redisplay(); }
   void fileDidChangeOnDisk() override;
   void fileDidDisappear() override;
-  [[nodiscard]] bool closesWhenDone() const override { return closing_.closesWhenDone(); }
-  PictureProducers* producers() override { return &producers_; }
+  [[nodiscard]] bool closesWhenDone() const override { return commands_.closing.closesWhenDone(); }
+  PictureProducers* producers() override { return &commands_.producers; }
   [[nodiscard]] NorvexView* imageView() override { return view(); }
-  [[nodiscard]] std::optional<PictureView> pictureView() const override;
-  void setFirstView(const PictureView& view) override { firstView_ = view; }
+  [[nodiscard]] std::optional<PictureView> pictureView() const override { return commands_.shownView.now(); }
+  void setFirstView(const PictureView& view) override { commands_.shownView.setFirst(view); }
 
   /// Loads the interface file on the first call; does not show it and does not read the document.
   QMainWindow* window();
-  [[nodiscard]] bool isReading() const { return loading_.isReading(); }
+  [[nodiscard]] bool isReading() const { return commands_.loading.isReading(); }
   /// What the user has opened the document with; empty: nothing was asked for.
-  [[nodiscard]] QString password() const { return loading_.password(); }
+  [[nodiscard]] QString password() const { return commands_.loading.password(); }
   /// Reads the file again and starts over: upright, at its natural size. A file that cannot be shown any
   /// more, or no longer draws, leaves what is shown, with a message.
   void reload();
@@ -84,51 +70,53 @@ class MainWindowController final : public QObject,
   void pdfImageRepDidLoad(bool success, const Error& error);
 
   // ---- what the command objects do, under the controller's names
-  [[nodiscard]] QSizeF calcWindowMaxSize(const QSizeF& size) const { return sizing_.maxSize(size); }
-  void setWindowSize() { sizing_.apply(); }
-  void showInspectorWindow(QObject* = nullptr) { inspector_.toggle(); }
-  void takeColor(const QColor& color) { inspector_.takeColor(color); }
-  void useBackgroundAction(int state) { inspector_.useBackground(state); }
-  void rotateChange(double senderValue) { inspector_.rotateChange(senderValue); }
-  void doRotateFromKnob() { inspector_.rotateFromKnob(); }
-  PictureFormats pboardTypesAndDataObjects() { return copying_.formats(); }
-  void doCopy(QObject* = nullptr) { copying_.copyPart(); }
-  void copy(QObject* = nullptr) { copying_.copyWhole(); }
-  [[nodiscard]] std::optional<DraggedFile> draggedFile() { return copying_.draggedFile(); }
-  void doSaveTo(QObject* = nullptr) { savingTo_.run(); }
+  [[nodiscard]] QSizeF calcWindowMaxSize(const QSizeF& size) const { return commands_.sizing.maxSize(size); }
+  void setWindowSize() { commands_.sizing.apply(); }
+  void showInspectorWindow(QObject* = nullptr) { commands_.inspector.toggle(); }
+  void takeColor(const QColor& color) { commands_.inspector.takeColor(color); }
+  void useBackgroundAction(int state) { commands_.inspector.useBackground(state); }
+  void rotateChange(double senderValue) { commands_.inspector.rotateChange(senderValue); }
+  void doRotateFromKnob() { commands_.inspector.rotateFromKnob(); }
+  PictureFormats pboardTypesAndDataObjects() { return commands_.copying.formats(); }
+  void doCopy(QObject* = nullptr) { commands_.copying.copyPart(); }
+  void copy(QObject* = nullptr) { commands_.copying.copyWhole(); }
+  [[nodiscard]] std::optional<DraggedFile> draggedFile() { return commands_.copying.draggedFile(); }
+  void doSaveTo(QObject* = nullptr) { commands_.savingTo.run(); }
   void saveDocumentAs(QObject* = nullptr);
   void saveDocumentTo(QObject* = nullptr);
-  [[nodiscard]] QList<UTType> writableTypes() const { return savingAs_.writableTypes(); }
-  [[nodiscard]] bool isSaving() const { return savingAs_.isSaving(); }
-  void doPrinting(QObject* = nullptr) { printing_.printPart(); }
-  void printDocument(QObject* = nullptr) { printing_.printWhole(); }
+  [[nodiscard]] QList<UTType> writableTypes() const { return commands_.savingAs.writableTypes(); }
+  [[nodiscard]] bool isSaving() const { return commands_.savingAs.isSaving(); }
+  void doPrinting(QObject* = nullptr) { commands_.printing.printPart(); }
+  void printDocument(QObject* = nullptr) { commands_.printing.printWhole(); }
   /// Of the question whether to go on waiting; for tests.
-  void setAlarm(Alarm alarm) { messages_.setAlarm(std::move(alarm)); }
-  void setPrintServices(const PrintServices& services) { printing_.setServices(services); }
-  void setPasteboard(NSPasteboard* pasteboard) { copying_.setPasteboard(pasteboard); }
-  void setBeep(std::function<void()> beep) { copying_.setBeep(std::move(beep)); }
+  void setAlarm(Alarm alarm) { commands_.messages.setAlarm(std::move(alarm)); }
+  void setPrintServices(const PrintServices& services) { commands_.printing.setServices(services); }
+  void setPasteboard(NSPasteboard* pasteboard) { commands_.copying.setPasteboard(pasteboard); }
+  void setBeep(std::function<void()> beep) { commands_.copying.setBeep(std::move(beep)); }
   /// A new bar at each call; this controller is its delegate.
   [[nodiscard]] NSTouchBar makeTouchBar() { return mainWindowTouchBar(*this); }
   [[nodiscard]] std::optional<NSCustomTouchBarItem> touchBar(const NSTouchBar& bar,
                                                              const QString& makeItemForIdentifier) override;
   void performTouchBarAction(TouchBarAction action);
-  void showTouchBar(bool on);
-  [[nodiscard]] TouchStrip* touchStrip() const { return touchBar_.strip(); }
+  void showTouchBar(bool on) { commands_.menus.showTouchBar(on); }
+  [[nodiscard]] TouchStrip* touchStrip() const { return commands_.touchBar.strip(); }
 
   // Each blocks for the picture process and returns the bytes of the whole, unturned picture, or none.
-  QByteArray postScriptData() { return producers_.postScriptData(); }
-  QByteArray addEPSHeader(const QByteArray& postScript) { return producers_.addEPSHeader(postScript); }
-  QByteArray postScriptDataWithPreview() { return producers_.postScriptDataWithPreview(); }
-  QByteArray epsiData() { return producers_.epsiData(); }
-  QByteArray pdfData() { return producers_.pdfData(); }
-  QByteArray addPDFHeader(const QByteArray& pdf) { return producers_.addPDFHeader(pdf); }
-  QByteArray svgData() { return producers_.svgData(); }
+  QByteArray postScriptData() { return commands_.producers.postScriptData(); }
+  QByteArray addEPSHeader(const QByteArray& postScript) {
+    return commands_.producers.addEPSHeader(postScript);
+  }
+  QByteArray postScriptDataWithPreview() { return commands_.producers.postScriptDataWithPreview(); }
+  QByteArray epsiData() { return commands_.producers.epsiData(); }
+  QByteArray pdfData() { return commands_.producers.pdfData(); }
+  QByteArray addPDFHeader(const QByteArray& pdf) { return commands_.producers.addPDFHeader(pdf); }
+  QByteArray svgData() { return commands_.producers.svgData(); }
   using Rep = std::shared_ptr<NSImageRep>;
   std::optional<DocRasterImage> docRasterImage(const Rep& rep) { return norvex::docRasterImage(rep); }
-  QByteArray tiffData(const Rep& rep) { return producers_.tiffData(rep); }
-  QByteArray pngData(const Rep& rep) { return producers_.pngData(rep); }
-  QByteArray jpgData(const Rep& rep) { return producers_.jpgData(rep); }
-  QByteArray gifData(const Rep& rep) { return producers_.gifData(rep); }
+  QByteArray tiffData(const Rep& rep) { return commands_.producers.tiffData(rep); }
+  QByteArray pngData(const Rep& rep) { return commands_.producers.pngData(rep); }
+  QByteArray jpgData(const Rep& rep) { return commands_.producers.jpgData(rep); }
+  QByteArray gifData(const Rep& rep) { return commands_.producers.gifData(rep); }
 
  signals:
   void zoomFactorDidChange(double factor);
@@ -147,57 +135,19 @@ class MainWindowController final : public QObject,
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // main_window_controller.cpp
-  void connectParts();
   void loadWindow();
-  void takeOutlets();
-  void stopWork();
-  bool stopReading();
+  void takeWindow();
   void closing();
-  // main_window_setup.cpp
-  void setUpControls();
-  void setUpTitles();
-  void setUpToolbarItems();
-  void setUpTexts();
+  /// What was read of the file; `again`: a picture was shown before.
   void take(const DocumentContents& contents, bool again);
   void showContents(const DocumentContents& contents);
-  void resetRotationAndZoom();
-  void takeFirstView();
   void finishSetUp();
-  // main_window_commands.cpp, main_window_menus.cpp
-  void connectControls();
-  void connectCommands();
-  void connectPrinting();
-  void setUpPictureMenu();
-  void arrangeToolbar();
-  void validateCommands();
-  void validateSelectionCommands();
-  void rotateBy(double degrees);
-  void showSource();
-  void showAbout();
-  void setUpViewing();
-  void setUpChoices();
 
-  bool shouldCloseDocument_ = false, observing_ = false;
-  std::optional<PictureView> firstView_;  ///< as the picture was shown when it was closed last
+  bool shouldCloseDocument_ = false;
   std::unique_ptr<QWidget> nib_;  ///< what the interface file makes; its windows become windows of their own
   std::unique_ptr<Ui::MainWindowController> ui_;
-  SelectionCommands* selectionCommands_ = nullptr;
   QMetaObject::Connection svgObservation_;
-
-  WindowProducers producers_;
-  InspectorCommand inspector_{*this};
-  ContentsDisplay contents_{*this, inspector_};
-  EncodingCommand encoding_{*this};
-  LoadingCommand loading_{*this};
-  MessagesCommand messages_{*this};
-  CopyCommand copying_{*this};
-  SaveToCommand savingTo_{*this, copying_};
-  SaveAsCommand savingAs_{*this, producers_};
-  PrintingCommand printing_{*this};
-  ClosingCommand closing_{*this, savingAs_, printing_};
-  WindowSizingCommand sizing_{*this};
-  TouchBarCommand touchBar_{*this, *this, [this](TouchBarAction action) { performTouchBarAction(action); }};
+  WindowCommands commands_;
 };
 
 }  // namespace norvex

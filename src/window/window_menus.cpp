@@ -1,8 +1,7 @@
-// Menus, toolbar and the controls of the inspector: what is connected to what, and what is enabled.
+#include "window/window_menus.h"
+
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QToolBar>
@@ -11,13 +10,8 @@
 #include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
-#include "ui/controls/color_well.h"
-#include "ui/controls/copyable_label.h"
-#include "ui/controls/number_field.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/panels/shortcut_panel.h"
-#include "ui/picture/loading_card.h"
-#include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/source/source_text_view.h"
@@ -25,10 +19,11 @@
 #include "ui_MainWindowController.h"
 #include "window/about_box.h"
 #include "window/commands/window_frames.h"
+#include "window/export/export_command.h"
 #include "window/main_window_controller.h"
 #include "window/selection_commands.h"
-#include "window/selection_description.h"
 #include "window/viewing/selection_history.h"
+#include "window/viewing_set_up.h"
 
 namespace norvex {
 
@@ -41,195 +36,203 @@ void setShortcuts(QAction* action, const QList<QKeySequence>& keys) {
   action->setShortcutContext(Qt::WindowShortcut);
 }
 
-}  // namespace
-
-void MainWindowController::connectControls() {
-  for (QLabel* field : {startPoint, endPoint}) makeCopyable(*field);
-  connect(backgroundColorWell(), &ColorWell::colorChosen, this, &MainWindowController::takeColor);
-  connect(useBackgroundSwitch(), &QCheckBox::stateChanged, this, &MainWindowController::useBackgroundAction);
-  connect(rotateField(), &NumberField::valueEdited, this, &MainWindowController::rotateChange);
-  connect(dialKnob(), &ZyDialKnob::turned, this, &MainWindowController::doRotateFromKnob);
-  connect(viewWidget_, &NorvexViewWidget::drawn, &messages_, &MessagesCommand::followRendering,
-          Qt::QueuedConnection);
-  connect(loadingCard_, &LoadingCard::cancelled, this, &MainWindowController::stopWork);
-  connect(messageBar_, &MessageBar::actionChosen, &messages_, &MessagesCommand::actionChosen);
-  connect(messageBar_, &MessageBar::otherChosen, &messages_, &MessagesCommand::otherChosen);
+template <typename Slot>
+void on(QAction* action, const QList<QKeySequence>& keys, QObject* context, Slot slot) {
+  setShortcuts(action, keys);
+  QObject::connect(action, &QAction::triggered, context, slot);
 }
 
-void MainWindowController::connectCommands() {
-  SKTZoomingScrollView* scroll = zoomingScrollView();
-  const auto on = [this](QAction* action, const QList<QKeySequence>& keys, auto slot) {
-    setShortcuts(action, keys);
-    connect(action, &QAction::triggered, this, slot);
+/// A command of the window that is enabled while `leader` is; null: always.
+QAction* makeAction(QMainWindow& window, const char* title, const QString& name, const QKeySequence& key,
+                    const QAction* leader) {
+  auto* action = new QAction(localizedString(title), &window);
+  action->setObjectName(name);
+  action->setShortcut(key);
+  if (!leader) return action;
+  action->setEnabled(leader->isEnabled());
+  QObject::connect(leader, &QAction::enabledChanged, action, &QAction::setEnabled);
+  return action;
+}
+
+}  // namespace
+
+void WindowMenus::setUp(Ui::MainWindowController& ui) {
+  ui_ = &ui;
+  connectFile();
+  connectEdit();
+  connectView();
+  connectWindow();
+  controller_.scrollArea()->setFocus(
+      Qt::OtherFocusReason);  // keys are for the picture until another control is chosen
+  setUpViewing(controller_, commands_, ui);
+  addPictureMenu();
+  setUpToolbar();
+  addPrinting();
+  addExport();
+}
+
+void WindowMenus::connectFile() {
+  MainWindowController* const c = &controller_;
+  on(ui_->reloadAction, {Qt::Key_F5}, c, [c] { c->reload(); });
+  on(ui_->closeAction, {Qt::CTRL | Qt::Key_W}, c, [c] { c->window()->close(); });
+  on(ui_->saveAsAction, {QKeySequence::Save, Qt::CTRL | Qt::SHIFT | Qt::Key_S}, c,
+     [c] { c->saveDocumentAs(); });
+  on(c->doSaveToToolbarItem, {Qt::CTRL | Qt::Key_E}, c, [c] { c->doSaveTo(c->doSaveToToolbarItem); });
+  on(ui_->quitAction, {Qt::CTRL | Qt::Key_Q}, c, [] { QCoreApplication::quit(); });
+}
+
+void WindowMenus::connectEdit() {
+  MainWindowController* const c = &controller_;
+  on(ui_->copyAction, {QKeySequence::Copy}, c, [c] { c->copy(); });
+  on(c->copyToolbarItem, {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, c, [c] { c->doCopy(c->copyToolbarItem); });
+  on(ui_->selectAllAction, {QKeySequence::SelectAll}, c, [c] { c->view()->selectBounds(); });
+  on(ui_->deselectAction, {Qt::Key_Escape, Qt::CTRL | Qt::SHIFT | Qt::Key_A}, c,
+     [c] { c->view()->clearSelectRect(); });
+  selectionCommands_ =
+      new SelectionCommands(*ui_->editMenu, ui_->findAction, *c->view(), *c->scrollArea(), c);
+  const auto inSource = [this, c](QAction* action, const QKeySequence& key, auto deed) {
+    on(action, {key}, c, [this, c, deed] {
+      commands_.inspector.showSource();
+      deed(*c->sourceTextView);
+    });
   };
-  on(ui_->reloadAction, {Qt::Key_F5}, [this] { reload(); });
-  on(ui_->closeAction, {Qt::CTRL | Qt::Key_W}, [this] { window_->close(); });
-  on(ui_->saveAsAction, {QKeySequence::Save, Qt::CTRL | Qt::SHIFT | Qt::Key_S}, [this] { saveDocumentAs(); });
-  on(ui_->copyAction, {QKeySequence::Copy}, [this] { copy(); });
-  on(copyToolbarItem, {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, [this] { doCopy(copyToolbarItem); });
-  on(doSaveToToolbarItem, {Qt::CTRL | Qt::Key_E}, [this] { doSaveTo(doSaveToToolbarItem); });
-  on(ui_->quitAction, {Qt::CTRL | Qt::Key_Q}, [] { QCoreApplication::quit(); });
-  on(ui_->selectAllAction, {QKeySequence::SelectAll}, [this] { view()->selectBounds(); });
-  on(ui_->deselectAction, {Qt::Key_Escape, Qt::CTRL | Qt::SHIFT | Qt::Key_A},
-     [this] { view()->clearSelectRect(); });
-  selectionCommands_ = new SelectionCommands(*ui_->editMenu, ui_->findAction, *view(), *scrollArea_, this);
-  on(ui_->findAction, {QKeySequence::Find}, [this] {
-    showSource();
-    sourceTextView->showFindBar();
-  });
-  on(ui_->findNextAction, {Qt::Key_F3}, [this] { showSource(), sourceTextView->findNext(); });
-  on(ui_->findPreviousAction, {Qt::SHIFT | Qt::Key_F3},
-     [this] { showSource(), sourceTextView->findNext(true); });
-  on(ui_->zoomInAction, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [scroll] { scroll->zoom(1); });
-  on(ui_->zoomOutAction, {Qt::CTRL | Qt::Key_Minus}, [scroll] { scroll->zoom(-1); });
-  on(ui_->actualSizeAction, {Qt::CTRL | Qt::Key_0, Qt::CTRL | Qt::Key_1}, [scroll] { scroll->zoomTo(1.0); });
-  on(ui_->fitAction, {Qt::CTRL | Qt::Key_9},
-     [this] { zoomingScrollView()->zoomTo(scrollArea_->fittingFactor()); });
-  on(ui_->rotateLeftAction, {Qt::CTRL | Qt::SHIFT | Qt::Key_R}, [this] { rotateBy(kQuarterTurn); });
-  on(ui_->rotateRightAction, {Qt::CTRL | Qt::Key_R}, [this] { rotateBy(-kQuarterTurn); });
-  on(ui_->resetRotationAction, {}, [this] { dialKnob()->turnTo(0); });
-  on(inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9},
-     [this] { showInspectorWindow(inspectorToolbarItem); });
-  on(ui_->touchBarAction, {}, [this](bool checked) {
+  inSource(ui_->findAction, QKeySequence::Find, [](SourceTextView& text) { text.showFindBar(); });
+  inSource(ui_->findNextAction, Qt::Key_F3, [](SourceTextView& text) { text.findNext(); });
+  inSource(ui_->findPreviousAction, Qt::SHIFT | Qt::Key_F3,
+           [](SourceTextView& text) { text.findNext(true); });
+}
+
+void WindowMenus::connectView() {
+  MainWindowController* const c = &controller_;
+  SKTZoomingScrollView* const scroll = c->zoomingScrollView();
+  on(ui_->zoomInAction, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, c,
+     [scroll] { scroll->zoom(1); });
+  on(ui_->zoomOutAction, {Qt::CTRL | Qt::Key_Minus}, c, [scroll] { scroll->zoom(-1); });
+  on(ui_->actualSizeAction, {Qt::CTRL | Qt::Key_0, Qt::CTRL | Qt::Key_1}, c,
+     [scroll] { scroll->zoomTo(1.0); });
+  on(ui_->fitAction, {Qt::CTRL | Qt::Key_9}, c,
+     [c, scroll] { scroll->zoomTo(c->scrollArea()->fittingFactor()); });
+  on(ui_->rotateLeftAction, {Qt::CTRL | Qt::SHIFT | Qt::Key_R}, c, [this] { rotateBy(kQuarterTurn); });
+  on(ui_->rotateRightAction, {Qt::CTRL | Qt::Key_R}, c, [this] { rotateBy(-kQuarterTurn); });
+  on(ui_->resetRotationAction, {}, c, [c] { c->dialKnob()->turnTo(0); });
+}
+
+void WindowMenus::connectWindow() {
+  MainWindowController* const c = &controller_;
+  on(c->inspectorToolbarItem, {Qt::CTRL | Qt::Key_I, Qt::ALT | Qt::Key_Return, Qt::Key_F9}, c,
+     [c] { c->showInspectorWindow(c->inspectorToolbarItem); });
+  on(ui_->touchBarAction, {}, c, [this](bool checked) {
     showTouchBar(checked);
     saveTouchBarIsShown(checked);
   });
-  on(ui_->shortcutsAction, {Qt::CTRL | Qt::Key_Question, Qt::CTRL | Qt::Key_F1},
-     [this] { showShortcutPanel(*window_, *ui_->menuBar); });
+  on(ui_->shortcutsAction, {Qt::CTRL | Qt::Key_Question, Qt::CTRL | Qt::Key_F1}, c,
+     [this, c] { showShortcutPanel(*c->window(), *ui_->menuBar); });
   setShortcuts(ui_->fullScreenAction, {Qt::Key_F11});  // window/viewing does it
-  on(ui_->aboutAction, {}, [this] { showAbout(); });
-  scrollArea_->setFocus(Qt::OtherFocusReason);  // keys are for the picture until another control is chosen
-  setUpPictureMenu();
-  arrangeToolbar();
-  inspectorToolbarItem->setIcon(symbolicIcon(Symbol::Inspector));
-  copyToolbarItem->setIcon(symbolicIcon(Symbol::Copy));
-  doPrintingToolbarItem->setIcon(symbolicIcon(Symbol::Print));
-  doSaveToToolbarItem->setIcon(symbolicIcon(Symbol::SaveTo));
-  ui_->zoomInAction->setIcon(symbolicIcon(Symbol::ZoomIn));
-  ui_->zoomOutAction->setIcon(symbolicIcon(Symbol::ZoomOut));
-  ui_->fitAction->setIcon(symbolicIcon(Symbol::Fit));
-  ui_->rotateLeftAction->setIcon(symbolicIcon(Symbol::RotateLeft));
-  ui_->rotateRightAction->setIcon(symbolicIcon(Symbol::RotateRight));
+  on(ui_->aboutAction, {}, c, [c] { showAboutBox(*c->window()); });
 }
 
-void MainWindowController::arrangeToolbar() {
+void WindowMenus::addPrinting() {
+  MainWindowController* const c = &controller_;
+  commands_.printing.setUp();
+  QObject::connect(c->doPrintingToolbarItem, &QAction::triggered, c,
+                   [c] { c->doPrinting(c->doPrintingToolbarItem); });
+  QMainWindow& window = *c->window();
+  QAction* pageLayout = makeAction(window, "Page Set&up…", QStringLiteral("pageLayoutAction"),
+                                   Qt::CTRL | Qt::SHIFT | Qt::Key_P, nullptr);
+  QObject::connect(pageLayout, &QAction::triggered, &commands_.printing, &PrintingCommand::runPageLayout);
+  QAction* print = makeAction(window, "&Print…", QStringLiteral("printAction"), QKeySequence::Print, nullptr);
+  QObject::connect(print, &QAction::triggered, c, [c] { c->printDocument(); });
+  // The toolbar's item, for those who have no mouse.
+  QAction* printPart =
+      makeAction(window, "Print Selected or Visible Pa&rt…", QStringLiteral("printPartAction"),
+                 Qt::CTRL | Qt::ALT | Qt::Key_P, c->doPrintingToolbarItem);
+  QObject::connect(printPart, &QAction::triggered, c, [c, printPart] { c->doPrinting(printPart); });
+  ui_->fileMenu->insertActions(ui_->closeAction, {pageLayout, print, printPart});
+  ui_->fileMenu->insertSeparator(ui_->closeAction);
+}
+
+void WindowMenus::addExport() {
+  auto* exporting = new ExportCommand(controller_, commands_.copying, &controller_);
+  QAction* action = makeAction(*controller_.window(), "E&xport…", QStringLiteral("exportAction"),
+                               Qt::CTRL | Qt::SHIFT | Qt::Key_E, controller_.doSaveToToolbarItem);
+  QObject::connect(action, &QAction::triggered, exporting, &ExportCommand::run);
+  ui_->fileMenu->insertAction(ui_->reloadAction, action);
+}
+
+void WindowMenus::addPictureMenu() {
+  MainWindowController* const c = &controller_;
+  QWidget* const picture = c->viewWidget();
+  picture->setContextMenuPolicy(Qt::CustomContextMenu);
+  QObject::connect(picture, &QWidget::customContextMenuRequested, c, [this, c, picture](const QPoint& point) {
+    if (!c->validateUserInterfaceItem()) return;
+    auto* menu = new QMenu(picture);
+    menu->setObjectName(QStringLiteral("pictureMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions({c->copyToolbarItem, c->doSaveToToolbarItem});
+    menu->addSeparator();
+    menu->addActions({ui_->selectAllAction, ui_->deselectAction});
+    menu->addSeparator();
+    menu->addActions({ui_->rotateLeftAction, ui_->rotateRightAction, ui_->resetRotationAction});
+    menu->popup(picture->mapToGlobal(point));
+  });
+}
+
+void WindowMenus::setUpToolbar() {
   auto* gap = new QWidget(ui_->toolbar);
   gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  ui_->toolbar->insertWidget(inspectorToolbarItem, gap);
+  ui_->toolbar->insertWidget(controller_.inspectorToolbarItem, gap);
   if (auto* more = ui_->toolbar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
     more->setAccessibleName(localizedString("More"));
   for (QAction* action :
        {ui_->zoomOutAction, ui_->zoomInAction, ui_->fitAction, ui_->rotateLeftAction, ui_->rotateRightAction})
     if (auto* button = qobject_cast<QToolButton*>(ui_->toolbar->widgetForAction(action)))
       button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  const std::pair<QAction*, Symbol> icons[] = {{controller_.inspectorToolbarItem, Symbol::Inspector},
+                                               {controller_.copyToolbarItem, Symbol::Copy},
+                                               {controller_.doPrintingToolbarItem, Symbol::Print},
+                                               {controller_.doSaveToToolbarItem, Symbol::SaveTo},
+                                               {ui_->zoomInAction, Symbol::ZoomIn},
+                                               {ui_->zoomOutAction, Symbol::ZoomOut},
+                                               {ui_->fitAction, Symbol::Fit},
+                                               {ui_->rotateLeftAction, Symbol::RotateLeft},
+                                               {ui_->rotateRightAction, Symbol::RotateRight}};
+  for (const auto& [action, symbol] : icons) action->setIcon(symbolicIcon(symbol));
 }
 
-void MainWindowController::validateCommands() {
-  const bool enabled = validateUserInterfaceItem();
+void WindowMenus::validate() {
+  const bool enabled = controller_.validateUserInterfaceItem();
   for (QAction* action :
-       {inspectorToolbarItem, copyToolbarItem, doPrintingToolbarItem, doSaveToToolbarItem, ui_->saveAsAction,
-        ui_->copyAction, ui_->selectAllAction, ui_->findAction, ui_->findNextAction, ui_->findPreviousAction,
-        ui_->zoomInAction, ui_->zoomOutAction, ui_->actualSizeAction, ui_->fitAction, ui_->rotateLeftAction,
-        ui_->rotateRightAction, ui_->resetRotationAction})
+       {controller_.inspectorToolbarItem, controller_.copyToolbarItem, controller_.doPrintingToolbarItem,
+        controller_.doSaveToToolbarItem, ui_->saveAsAction, ui_->copyAction, ui_->selectAllAction,
+        ui_->findAction, ui_->findNextAction, ui_->findPreviousAction, ui_->zoomInAction, ui_->zoomOutAction,
+        ui_->actualSizeAction, ui_->fitAction, ui_->rotateLeftAction, ui_->rotateRightAction,
+        ui_->resetRotationAction})
     action->setEnabled(enabled);
-  ui_->reloadAction->setEnabled(document_ && !document_->fileURL().isEmpty());
-  touchBar_.validate(ui_->reloadAction->isEnabled());
-  validateSelectionCommands();
+  const Document* const document = controller_.document();
+  ui_->reloadAction->setEnabled(document && !document->fileURL().isEmpty());
+  commands_.touchBar.validate(ui_->reloadAction->isEnabled());
+  validateSelection();
 }
 
-void MainWindowController::validateSelectionCommands() {
+void WindowMenus::validateSelection() {
   // Without a selection Escape is for whoever else wants it.
-  ui_->deselectAction->setEnabled(view()->selectRect().width() > 0);
+  ui_->deselectAction->setEnabled(controller_.view()->selectRect().width() > 0);
   selectionCommands_->selectionDidChange();
-  if (auto* history = findChild<SelectionHistory*>()) history->selectionDidChange();
+  if (auto* history = controller_.findChild<SelectionHistory*>()) history->selectionDidChange();
 }
 
-void MainWindowController::setZoomFactor(double factor) {
-  zoomFactor_ = factor;
-  emit zoomFactorDidChange(factor);
-}
-
-void MainWindowController::rotateBy(double degrees) {
-  // As seen on the screen: positive is to the left, whatever sense the dial has.
-  dialKnob()->turnTo(dialKnob()->degreeValue() + (dialKnob()->clockwise() ? -degrees : degrees));
-}
-
-bool MainWindowController::dialKnobClockwise() const {
-  return dialKnob() && dialKnob()->clockwise();
-}
-
-void MainWindowController::norvexView(NorvexView&, const QString& selectedRangeStrings, const QString& end,
-                                      const QString& area) {
-  validateSelectionCommands();
-  const QString description = selectionDescription(selectedRangeStrings, end, area);
-  viewWidget_->setAccessibleDescription(description);
-  scrollArea_->setAccessibleDescription(
-      description);  // it has the focus, and is what a screen reader reads first
-  if (selectedRangeStrings.isEmpty()) {
-    startPoint->clear();
-    endPoint->clear();
-    return;
-  }
-  double first = 0, second = 0;
-  const auto read = [&](const QString& pair) {
-    const QStringList numbers = pair.simplified().split(QChar(' '));
-    bool ok = false;
-    const double x = numbers.value(0).toDouble(&ok);
-    if (!ok) return;
-    first = x;
-    const double y = numbers.value(1).toDouble(&ok);
-    if (ok) second = y;
-  };
-  const auto shown = [&] { return QString::asprintf("(%9.2f,%9.2f)", first, second); };
-  read(selectedRangeStrings);
-  startPoint->setText(shown());
-  if (end.isEmpty()) return endPoint->clear();
-  read(end);
-  endPoint->setText(shown());
-}
-
-void MainWindowController::showSource() {
-  inspector_.showSource();
-}
-
-void MainWindowController::saveDocumentAs(QObject*) {
-  savingAs_.run(localizedString("Save As"));
-}
-
-void MainWindowController::saveDocumentTo(QObject*) {
-  savingAs_.run(localizedString("Save To"));
-}
-
-std::optional<NSCustomTouchBarItem> MainWindowController::touchBar(const NSTouchBar& bar,
-                                                                   const QString& makeItemForIdentifier) {
-  return mainWindowTouchBarItem(bar, makeItemForIdentifier);
-}
-
-void MainWindowController::performTouchBarAction(TouchBarAction action) {
-  switch (action) {
-    case TouchBarAction::SaveDocumentAs:
-      return saveDocumentAs();
-    case TouchBarAction::SaveDocumentTo:
-      return saveDocumentTo();
-    case TouchBarAction::RevertDocumentToSaved:
-      return reload();
-    case TouchBarAction::Copy:
-      return copy();
-    case TouchBarAction::PrintDocument:
-      return printDocument();
-  }
-}
-
-void MainWindowController::showTouchBar(bool on) {
-  touchBar_.show(on);
-  touchBar_.validate(ui_->reloadAction->isEnabled());
+void WindowMenus::showTouchBar(bool on) {
+  commands_.touchBar.show(on);
+  commands_.touchBar.validate(ui_->reloadAction->isEnabled());
   ui_->touchBarAction->setChecked(on);
   // The strip is part of what surrounds the picture: the largest window is another one now.
-  if (touchStrip()) setWindowSize();
+  if (commands_.touchBar.strip()) controller_.setWindowSize();
 }
 
-void MainWindowController::showAbout() {
-  showAboutBox(*window_);
+void WindowMenus::rotateBy(double degrees) {
+  // As seen on the screen: positive is to the left, whatever sense the dial has.
+  ZyDialKnob& dial = *controller_.dialKnob();
+  dial.turnTo(dial.degreeValue() + (dial.clockwise() ? -degrees : degrees));
 }
 
 }  // namespace norvex

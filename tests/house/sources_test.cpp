@@ -44,6 +44,14 @@ class SourcesTest : public QObject {
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
   }
 
+  /// What a window does stands in an object a command; its controller only hands on.
+  void theWindowControllerStaysShort() {
+    const QByteArray header =
+        contents(QStringLiteral(NORVEX_SOURCE_DIR "/src/window/main_window_controller.h"));
+    QVERIFY(header.contains("WindowCommands commands_"));
+    QVERIFY2(header.count('\n') <= 160, QByteArray::number(header.count('\n')).constData());
+  }
+
   void everyHeaderIsGuarded() {
     QStringList wrong;
     for (const QString& path : files("src", {"*.h"}))

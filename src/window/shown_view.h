@@ -1,0 +1,32 @@
+// How a window shows its picture: angle, zoom and page, from the start and as they are remembered.
+#pragma once
+
+#include <optional>
+
+#include "document/picture_view.h"
+
+namespace norvex {
+
+class MainWindowController;
+
+/// The controller outlives it. Main thread.
+class ShownView final {
+ public:
+  explicit ShownView(MainWindowController& controller) : controller_(controller) {}
+
+  /// Upright, at the natural size, from the top; the controller's zoom follows the scroll view from then on.
+  void reset();
+  /// As the picture was shown when it was closed last.
+  void setFirst(const PictureView& view) { first_ = view; }
+  /// Shows the picture so; once, and only when there is one.
+  void takeFirst();
+  /// As it is shown now; nothing without a picture.
+  [[nodiscard]] std::optional<PictureView> now() const;
+
+ private:
+  MainWindowController& controller_;
+  std::optional<PictureView> first_;
+  bool followsFactor_ = false;
+};
+
+}  // namespace norvex

@@ -100,8 +100,8 @@ ExitCode Job::check(const Arguments& arguments) {
   common.limits = values.limits();
   const int jobs = values.integer(Option::Jobs, std::max(1, QThread::idealThreadCount()), 1, 1024);
   if (!values.complaint().isEmpty()) return complain(Command::Check, values.complaint());
-  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
-  if (!reader) return complain(Command::Check, reader.error().message);
+  const std::optional<ReaderOptions> reader = readerOf(arguments);
+  if (!reader) return ExitCode::Usage;
   common.password = reader->password;
   if (arguments.has(Option::Profile)) {
     const QString name = arguments.values.value(Option::Profile);

@@ -160,16 +160,15 @@ Conversion convertPicture(PictureService& service, PictureSource source, const C
   if (const auto kind = pictureKindOf(source.bytes, source.typeIdentifier); !kind)
     return failed(kind.error());
   source.page = options.page.value_or(1) - 1;
-  const auto read = documentAsOptioned(service, source, options.reader, options.limits, cancel);
+  const auto read = readAsOptioned(service, source, options.reader, options.limits, cancel);
   if (!read) return failed(read.error());
-  source.bytes = read->bytes;
   // While the picture process starts there is time for what is needed later.
   EncoderSurroundings surroundings = usualSurroundings(service);
   surroundings.isLastUse = true;
   const auto opened = openPicture(service, source, options.limits, cancel);
   if (!opened) return failed(opened.error());
   Conversion conversion = converted(*opened, surroundings, source.bytes, options, cancel);
-  conversion.report.warnings = read->report.warnings + conversion.report.warnings;
+  conversion.report.warnings = *read + conversion.report.warnings;
   return conversion;
 }
 
@@ -177,9 +176,8 @@ Result<void> convertPages(PictureService& service, PictureSource source, const C
                           const PageList& pages, const PageTaker& taker, const CancelToken& cancel) {
   if (const auto kind = pictureKindOf(source.bytes, source.typeIdentifier); !kind) return kind.error();
   source.page = pages.first() - 1;
-  const auto read = documentAsOptioned(service, source, options.reader, options.limits, cancel);
+  const auto read = readAsOptioned(service, source, options.reader, options.limits, cancel);
   if (!read) return read.error();
-  source.bytes = read->bytes;
   EncoderSurroundings surroundings = usualSurroundings(service);
   const TimeLimit opening(std::chrono::seconds(options.limits.seconds), cancel);
   const auto opened = openPicture(service, source, options.limits, opening.token());
@@ -195,7 +193,7 @@ Result<void> convertPages(PictureService& service, PictureSource source, const C
     const auto shown = shownPage(*opened, page);
     Conversion conversion =
         shown ? converted(*shown, surroundings, source.bytes, ofPage, time.token()) : failed(shown.error());
-    conversion.report.warnings = read->report.warnings + conversion.report.warnings;
+    conversion.report.warnings = *read + conversion.report.warnings;
     if (conversion.report.error) conversion.report.error = time.explained(*conversion.report.error);
     conversion.page = page;
     if (!taker.take(std::move(conversion))) break;

@@ -106,8 +106,8 @@ QString doubleTarget(const QList<ConvertTask>& tasks) {
 ExitCode Job::convert(const Arguments& arguments) {
   ReadPlan read = readConvertPlan(arguments);
   if (!read.complaint.isEmpty()) return complain(Command::Convert, read.complaint);
-  Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
-  if (!reader) return complain(Command::Convert, reader.error().message);
+  std::optional<ReaderOptions> reader = readerOf(arguments);
+  if (!reader) return ExitCode::Usage;
   read.plan.options.reader = std::move(*reader);
   const ConvertPlan& plan = read.plan;
   if (const QString path = doubleTarget(plan.tasks); !path.isEmpty()) {

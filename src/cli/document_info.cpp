@@ -92,9 +92,9 @@ void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, 
   info.rectangleTitle = kind == PictureKind::Svg ? QStringLiteral("ViewBox") : QStringLiteral("Bounds");
   if (kind == PictureKind::Eps) return readEps(info, service, bytes, limits, time.token());
   PictureSource source = sourceOfInput(bytes, info.file);
-  const Result<PictureBytes> read = documentAsOptioned(service, source, reader, limits, time.token());
+  const Result<QStringList> read = readAsOptioned(service, source, reader, limits, time.token());
   const Result<PictureFacts> facts =
-      read ? service.open(read->bytes, kind, limits)->facts(time.token()) : read.error();
+      read ? service.open(source.bytes, kind, limits)->facts(time.token()) : read.error();
   readFacts(info, facts);
   if (info.error) info.error = time.explained(*info.error);
   info.header = pictureHeader(kind, bytes, facts);

@@ -32,8 +32,8 @@ ExitCode Job::info(const Arguments& arguments) {
   ValueReader values(arguments);
   const PictureLimits limits = values.limits();
   if (!values.complaint().isEmpty()) return complain(Command::Info, values.complaint());
-  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
-  if (!reader) return complain(Command::Info, reader.error().message);
+  const std::optional<ReaderOptions> reader = readerOf(arguments);
+  if (!reader) return ExitCode::Usage;
   // Standard input is read here: it can be read once, and a terminal may take its time.
   const bool fromInput = arguments.files.contains(QStringLiteral("-"));
   const Result<QByteArray> input =

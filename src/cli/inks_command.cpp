@@ -22,19 +22,18 @@
 namespace norvex {
 namespace {
 
-Result<SeparatedPage> inksOf(PictureService& service, const PictureSource& source,
-                             const ReaderOptions& reader, const PictureLimits& limits,
-                             const SeparationRequest& request) {
+Result<SeparatedPage> inksOf(PictureService& service, PictureSource source, const ReaderOptions& reader,
+                             const PictureLimits& limits, const SeparationRequest& request) {
   const Result<PictureKind> kind = pictureKindOf(source.bytes, source.typeIdentifier);
   if (!kind) return kind.error();
   const Interruption interruption;
   const TimeLimit time(std::chrono::seconds(limits.seconds), interruption.token());
-  const Result<PictureBytes> read = documentAsOptioned(service, source, reader, limits, time.token());
+  const Result<QStringList> read = readAsOptioned(service, source, reader, limits, time.token());
   if (!read) return time.explained(read.error());
-  const auto process = service.open(read->bytes, *kind, limits);
+  const auto process = service.open(source.bytes, *kind, limits);
   Result<SeparatedPage> page = separatedPage(*process, *kind, request, time.token());
   if (!page) return time.explained(page.error());
-  page->warnings = read->report.warnings + page->warnings;
+  page->warnings = *read + page->warnings;
   return page;
 }
 
@@ -68,8 +67,8 @@ ExitCode Job::inks(const Arguments& arguments) {
   request.page = values.integer(Option::Page, 1, 1, limits::maximumPageNumber) - 1;
   request.overprint = arguments.has(Option::Overprint);
   if (!values.complaint().isEmpty()) return complain(Command::Inks, values.complaint());
-  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
-  if (!reader) return complain(Command::Inks, reader.error().message);
+  const std::optional<ReaderOptions> reader = readerOf(arguments);
+  if (!reader) return ExitCode::Usage;
   const QString& file = arguments.files.first();
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());

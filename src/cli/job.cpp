@@ -21,6 +21,13 @@ ExitCode Job::complain(Command command, const QString& complaint) {
   return ExitCode::Usage;
 }
 
+std::optional<ReaderOptions> Job::readerOf(const Arguments& arguments) {
+  Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
+  if (reader) return std::move(*reader);
+  complain(arguments.command, reader.error().message);
+  return std::nullopt;
+}
+
 ExitCode Job::dispatch(const Arguments& arguments) {
   if (arguments.has(Option::Help)) return show(helpText(arguments.command));
   if (arguments.has(Option::Version)) return show(versionText());

@@ -6,12 +6,15 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 #include "cli/arguments/arguments.h"
 #include "cli/arguments/exit_code.h"
 #include "cli/conversion.h"
 #include "cli/convert_plan.h"
 #include "cli/document_info.h"
 #include "cli/files/console.h"
+#include "cli/reader/reader_options.h"
 #include "picture/process/picture_process.h"
 
 namespace norvex {
@@ -42,6 +45,8 @@ class Job {
   ExitCode writeOutput(const QString& output, const QByteArray& bytes, bool force);
   /// Tells on standard error that the arguments are wrong.
   ExitCode complain(Command command, const QString& complaint);
+  /// What the arguments tell of the reader; nothing: what is wrong with them was told, as a fault of usage.
+  std::optional<ReaderOptions> readerOf(const Arguments& arguments);
   /// Tells on standard error that something is wrong with a file.
   virtual ExitCode fail(const QString& file, const Error& error);
   /// Hears why a file that was looked at is not as it should be, which the command itself tells in its own

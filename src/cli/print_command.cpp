@@ -83,8 +83,8 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   const PictureLimits limits = values.limits();
   const int page = values.integer(Option::Page, 1, 1, norvex::limits::maximumPages);
   if (!values.complaint().isEmpty()) return complain(Command::Print, values.complaint());
-  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
-  if (!reader) return complain(Command::Print, reader.error().message);
+  const std::optional<ReaderOptions> reader = readerOf(arguments);
+  if (!reader) return ExitCode::Usage;
   const QString file = arguments.files.first(), output = arguments.values.value(Option::Output);
   const NSPrintInfo info = printInfoOf(arguments);
   if (!output.isEmpty())
@@ -102,16 +102,15 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   const Interruption interruption;
   const CancelToken cancel = interruption.token();
   const TimeLimit time(std::chrono::seconds(limits.seconds), cancel);
-  const Result<PictureBytes> read = documentAsOptioned(service_, picture, *reader, limits, time.token());
+  const Result<QStringList> read = readAsOptioned(service_, picture, *reader, limits, time.token());
   if (!read) return fail(file, time.explained(read.error()));
-  picture.bytes = read->bytes;
   const auto opened = openPicture(service_, picture, limits, time.token());
   if (!opened) return fail(file, time.explained(opened.error()));
   const PrintSource source = sourceOf(*opened, picture.fileURL);
   const Result<PictureBytes> drawing = source.picture(time.token());
   if (!drawing) return fail(file, time.explained(drawing.error()));
-  remark(file, read->report.warnings + (*opened)->warnings() + pagesNotPrinted(**opened, arguments) +
-                   drawing->report.warnings);
+  remark(file,
+         *read + (*opened)->warnings() + pagesNotPrinted(**opened, arguments) + drawing->report.warnings);
   const Result<QByteArray> pages = composeJob(source, info, service_, drawing->bytes, time.token());
   if (!pages) return fail(file, time.explained(pages.error()));
   if (!output.isEmpty()) return writeOutput(output, *pages, arguments.has(Option::Force));

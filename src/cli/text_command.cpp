@@ -31,19 +31,18 @@ ExitCode Job::text(const Arguments& arguments) {
   const PictureLimits picture = values.limits();
   const int page = values.integer(Option::Page, 1, 1, limits::maximumToldPages);
   if (!values.complaint().isEmpty()) return complain(Command::Text, values.complaint());
-  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
-  if (!reader) return complain(Command::Text, reader.error().message);
+  const std::optional<ReaderOptions> reader = readerOf(arguments);
+  if (!reader) return ExitCode::Usage;
   const Result<QByteArray> bytes = readInput(console_, file);
   if (!bytes) return fail(file, bytes.error());
   PictureSource source = sourceOfInput(*bytes, file);
   source.page = page - 1;
   const TimeLimit time(std::chrono::seconds(picture.seconds), {});
-  const Result<PictureBytes> read = documentAsOptioned(service_, source, *reader, picture, time.token());
+  const Result<QStringList> read = readAsOptioned(service_, source, *reader, picture, time.token());
   if (!read) return fail(file, time.explained(read.error()));
-  source.bytes = read->bytes;
   const Result<PageText> found = textOf(service_, source, picture, time.token());
   if (!found) return fail(file, time.explained(found.error()));
-  remark(file, read->report.warnings);
+  remark(file, *read);
   QString text = found->text;
   if (!text.isEmpty() && !text.endsWith(u'\n')) text += u'\n';
   if (!found->complete)

@@ -39,8 +39,8 @@ ExitCode Job::thumbnail(const Arguments& arguments) {
   ValueReader values(arguments);
   const int side = values.integer(Option::Size, kUsualSide, 1, kLargestSide);
   if (!values.complaint().isEmpty()) return complain(Command::Thumbnail, values.complaint());
-  const Result<ReaderOptions> reader = readerOptions(arguments, [this] { return console_.input(); });
-  if (!reader) return complain(Command::Thumbnail, reader.error().message);
+  const std::optional<ReaderOptions> reader = readerOf(arguments);
+  if (!reader) return ExitCode::Usage;
   // Desktops make an empty file first and give its name.
   const bool replaces = arguments.has(Option::Force) || (fileExists(output) && QFileInfo(output).size() == 0);
   if (const auto refusal = outputRefusal(file, output, replaces)) return fail(file, *refusal);
@@ -50,12 +50,11 @@ ExitCode Job::thumbnail(const Arguments& arguments) {
   if (!bytes) return fail(file, bytes.error());
   service_.openOnlyFor(PictureUse::Drawing);
   PictureSource source = sourceOfInput(*bytes, file);
-  const Result<PictureBytes> read = documentAsOptioned(service_, source, *reader);
+  const Result<QStringList> read = readAsOptioned(service_, source, *reader);
   if (!read) return fail(file, read.error());
-  source.bytes = read->bytes;
   const Result<Thumbnail> thumbnail = thumbnailOf(service_, source, side);
   if (!thumbnail) return fail(file, thumbnail.error());
-  remark(file, read->report.warnings + thumbnail->warnings);
+  remark(file, *read + thumbnail->warnings);
   QImage image = thumbnail->image;
   if (arguments.has(Option::Uri)) describe(image, arguments.values.value(Option::Uri), file);
   const QByteArray png = pngOf(image);

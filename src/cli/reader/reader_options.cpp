@@ -89,6 +89,16 @@ Result<PictureBytes> withLayers(PictureService& service, PictureBytes document,
   return made;
 }
 
+Result<PictureBytes> documentAsOptioned(PictureService& service, const PictureSource& source,
+                                        const ReaderOptions& options, const PictureLimits& limits,
+                                        const CancelToken& cancel) {
+  Result<PictureBytes> opened = documentAsChosen(service, source, {options.password, {}}, limits, cancel);
+  if (!opened || options.switches.isEmpty()) return opened;
+  const Result<PictureKind> kind = pictureKindOf(source.bytes, source.typeIdentifier);
+  if (!kind || *kind != PictureKind::Pdf) return noSuchLayer({}, {});
+  return withLayers(service, std::move(*opened), options.switches, limits, cancel);
+}
+
 }  // namespace
 
 Result<ReaderOptions> readerOptions(const Arguments& arguments,
@@ -110,14 +120,13 @@ Result<ReaderOptions> readerOptions(const Arguments& arguments,
   return options;
 }
 
-Result<PictureBytes> documentAsOptioned(PictureService& service, const PictureSource& source,
-                                        const ReaderOptions& options, const PictureLimits& limits,
-                                        const CancelToken& cancel) {
-  Result<PictureBytes> opened = documentAsChosen(service, source, {options.password, {}}, limits, cancel);
-  if (!opened || options.switches.isEmpty()) return opened;
-  const Result<PictureKind> kind = pictureKindOf(source.bytes, source.typeIdentifier);
-  if (!kind || *kind != PictureKind::Pdf) return noSuchLayer({}, {});
-  return withLayers(service, std::move(*opened), options.switches, limits, cancel);
+Result<QStringList> readAsOptioned(PictureService& service, PictureSource& source,
+                                   const ReaderOptions& options, const PictureLimits& limits,
+                                   const CancelToken& cancel) {
+  Result<PictureBytes> read = documentAsOptioned(service, source, options, limits, cancel);
+  if (!read) return read.error();
+  source.bytes = std::move(read->bytes);
+  return std::move(read->report.warnings);
 }
 
 }  // namespace norvex

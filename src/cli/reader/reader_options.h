@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -29,11 +30,12 @@ struct ReaderOptions {
 [[nodiscard]] Result<ReaderOptions> readerOptions(const Arguments& arguments,
                                                   const std::function<Result<QByteArray>()>& standardInput);
 
-/// The bytes to open in the place of the source's. Fails with Encrypted for a wrong password, and with
-/// Unsupported for layers that are not there or that the document locks. Blocks; any thread.
-[[nodiscard]] Result<PictureBytes> documentAsOptioned(PictureService& service, const PictureSource& source,
-                                                      const ReaderOptions& options,
-                                                      const PictureLimits& limits = {},
-                                                      const CancelToken& cancel = {});
+/// Puts the bytes to open in the place of the source's, and gives what there is to tell of them. Fails with
+/// Encrypted for a wrong password, and with Unsupported for layers that are not there or that the document
+/// locks; the source then keeps its bytes. Blocks; any thread.
+[[nodiscard]] Result<QStringList> readAsOptioned(PictureService& service, PictureSource& source,
+                                                 const ReaderOptions& options,
+                                                 const PictureLimits& limits = {},
+                                                 const CancelToken& cancel = {});
 
 }  // namespace norvex

@@ -10,8 +10,10 @@ namespace norvex {
 
 /// Only a PDF has them. A password is kept in memory alone: no file, message or argument ever holds it.
 struct ReaderChoices {
-  QString password;            ///< empty: none
-  QList<PictureLayer> layers;  ///< in the order of PictureFacts::layers; empty: as the document says
+  QString password;  ///< empty: none
+  /// In the order of PictureFacts::layers; empty: as the document says. Twice as many: the state that is
+  /// shown, and behind it the one to show, so that a layer which comes up takes down those that exclude it.
+  QList<PictureLayer> layers;
 
   [[nodiscard]] bool isEmpty() const { return password.isEmpty() && layers.isEmpty(); }
 };

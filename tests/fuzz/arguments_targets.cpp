@@ -18,8 +18,8 @@ bool arguments(const QByteArray& bytes) {
   bool asksAboutProgram = false;  // that is answered whatever else is given
   for (const Option option : {Option::Help, Option::Version, Option::SandboxStatus, Option::Completion})
     asksAboutProgram = asksAboutProgram || read.arguments.has(option);
-  require(!fine || asksAboutProgram || row.mostFiles < 0 || files <= row.mostFiles,
-          "no more files than the command takes");
+  const bool takesAny = asksAboutProgram || read.arguments.asksForArchive() || row.mostFiles < 0;
+  require(!fine || takesAny || files <= row.mostFiles, "no more files than the command takes");
   require(files <= given.size(), "each file was given");
   for (const Option option : read.arguments.values.keys())
     require((rowOf(option).commands & only(read.arguments.command)) != 0, "options are the command's own");
@@ -35,6 +35,7 @@ QList<QByteArray> seeds() {
           "source\n-",
           "convert\n-qf\na.eps\nb.eps\n--format\nfax",
           "preview\n--output\nx.tiff\na.eps",
+          "preview\n--to\nfolder\na.eps\nb.eps\nc.eps",
           "cnvert\n\n--\n--"};
 }
 

@@ -53,6 +53,14 @@ QByteArray damaged(QByteArray bytes, std::mt19937& random) {
   return bytes;
 }
 
+/// Damaged copies of each of so many seeds. For longer runs NORVEX_FUZZ_EXECUTIONS says how many it takes in
+/// all.
+int roundsOf(const Target& target, qsizetype seeds) {
+  bool isAsked = false;
+  const int executions = qEnvironmentVariableIntValue("NORVEX_FUZZ_EXECUTIONS", &isAsked);
+  return isAsked ? int((executions + seeds - 1) / seeds) : target.rounds;
+}
+
 void addTargets() {
   QTest::addColumn<int>("index");
   for (int i = 0; i < allTargets().size(); ++i) QTest::newRow(allTargets()[i].name) << i;
@@ -109,8 +117,10 @@ class TargetsTest : public QObject {
     const std::string name = target.name;
     std::seed_seq sequence(name.begin(), name.end());
     std::mt19937 random(sequence);
-    for (const QByteArray& seed : target.seeds())
-      for (int round = 0; round < target.rounds; ++round) fuzz::feed(target, damaged(seed, random));
+    const QList<QByteArray> seeds = target.seeds();
+    const int rounds = roundsOf(target, seeds.size());
+    for (const QByteArray& seed : seeds)
+      for (int round = 0; round < rounds; ++round) fuzz::feed(target, damaged(seed, random));
   }
 };
 

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "base/blanks.h"
+#include "types/gzip_mark.h"
 #include "types/xml_root.h"
 
 namespace norvex {
@@ -131,7 +132,7 @@ UTType identifyType(QByteArrayView bytes, const QString& fileName) {
   if (head.startsWith("\xC5\xD0\xD3\xC6")) return typeOfBinaryEps(byName);
   const QByteArray start = postScriptStart(head);
   if (start.startsWith("%!")) return typeOfPostScript(start, byName);
-  if (head.startsWith("\x1F\x8B")) return typeOfGzip(head, fileName, byName);
+  if (isGzip(head)) return typeOfGzip(head, fileName, byName);
   if (const auto raster = typeOfRaster(head)) return *raster;
   const QString root = xmlRootName(head);
   if (root == QLatin1String("svg")) return UTTypeSVG();

@@ -3,6 +3,8 @@
 #include <langinfo.h>
 #include <locale.h>
 
+#include <QLocale>
+
 #include <algorithm>
 #include <cmath>
 
@@ -49,6 +51,25 @@ bool isSameSize(const QSizeF& a, const QSizeF& b) {
   return std::abs(a.width() - b.width()) <= kSameSize && std::abs(a.height() - b.height()) <= kSameSize;
 }
 
+/// Where Letter is the usual paper, as the Unicode Common Locale Data Repository has it.
+constexpr QLocale::Territory kLetterTerritories[] = {
+    QLocale::UnitedStates, QLocale::Canada,      QLocale::Mexico,     QLocale::Belize,    QLocale::Chile,
+    QLocale::Colombia,     QLocale::CostaRica,   QLocale::ElSalvador, QLocale::Guatemala, QLocale::Nicaragua,
+    QLocale::Panama,       QLocale::Philippines, QLocale::PuertoRico, QLocale::Venezuela};
+
+/// By the locale's name alone, where the C library does not have that locale.
+bool isLetterByName() {
+  for (const char* variable : {"LC_ALL", "LC_PAPER", "LANG"}) {
+    const QString name = qEnvironmentVariable(variable);
+    if (name.isEmpty()) continue;
+    if (name == QLatin1String("C") || name.startsWith(QLatin1String("C.")) || name == QLatin1String("POSIX"))
+      return false;
+    return std::find(std::begin(kLetterTerritories), std::end(kLetterTerritories),
+                     QLocale(name).territory()) != std::end(kLetterTerritories);
+  }
+  return false;
+}
+
 }  // namespace
 
 const QList<Paper>& commonPapers() {
@@ -86,13 +107,15 @@ Paper paperOfSize(const QSizeF& points) {
 
 Paper localePaper() {
   locale_t locale = ::newlocale(LC_PAPER_MASK, "", nullptr);
-  int height = 0;
+  bool letter = false;
   if (locale) {
     // glibc gives these numbers in the place of a pointer.
-    height = int(reinterpret_cast<qintptr>(::nl_langinfo_l(_NL_PAPER_HEIGHT, locale)));
+    letter = reinterpret_cast<qintptr>(::nl_langinfo_l(_NL_PAPER_HEIGHT, locale)) == kLetterMillimetres;
     ::freelocale(locale);
+  } else {
+    letter = isLetterByName();
   }
-  return *paperNamed(height == kLetterMillimetres ? QStringLiteral("Letter") : QStringLiteral("A4"));
+  return *paperNamed(letter ? QStringLiteral("Letter") : QStringLiteral("A4"));
 }
 
 }  // namespace norvex

@@ -27,7 +27,7 @@ struct Paper {
 /// name of its own.
 [[nodiscard]] Paper paperOfSize(const QSizeF& points);
 
-/// The paper of the user's locale (LC_ALL, LC_PAPER, LANG): A4 or Letter.
+/// The paper of the user's locale (LC_ALL, LC_PAPER, LANG), installed or not: A4 or Letter.
 [[nodiscard]] Paper localePaper();
 
 }  // namespace norvex

@@ -29,6 +29,24 @@ class PaperTest : public QObject {
     QVERIFY(!paperNamed(QStringLiteral("no_such_paper")));
     QVERIFY(!paperNamed(QStringLiteral("A77")));
   }
+
+  void thePaperIsThatOfTheCountryWhetherItsLocaleIsInstalledOrNot_data() {
+    QTest::addColumn<QByteArray>("locale");
+    QTest::addColumn<QString>("paper");
+    for (const char* a4 : {"de_DE.UTF-8", "ja_JP.UTF-8", "fr_FR.UTF-8", "en_GB.UTF-8", "C.UTF-8"})
+      QTest::newRow(a4) << QByteArray(a4) << QString("A4");
+    for (const char* letter : {"en_US.UTF-8", "fr_CA.UTF-8", "es_MX.UTF-8"})
+      QTest::newRow(letter) << QByteArray(letter) << QString("Letter");
+  }
+  void thePaperIsThatOfTheCountryWhetherItsLocaleIsInstalledOrNot() {
+    QFETCH(QByteArray, locale);
+    QFETCH(QString, paper);
+    const QByteArray before = qgetenv("LC_ALL");
+    qputenv("LC_ALL", locale);
+    const QString found = localePaper().name;
+    qputenv("LC_ALL", before);
+    QCOMPARE(found, paper);
+  }
 };
 
 NORVEX_TEST(PaperTest)

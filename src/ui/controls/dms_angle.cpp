@@ -60,12 +60,17 @@ QString text(double packed) {
 
 std::optional<double> fromText(const QString& text) {
   static const QRegularExpression parts(
-      QStringLiteral("^\\s*([+\\-\u2212]?)\\s*(\\d{1,6})\\s*\u00B0\\s*(?:(\\d{1,2})\\s*['\u2032]\\s*)?"
-                     "(?:(\\d{1,2}(?:\\.\\d{1,4})?)\\s*(?:\"|\u2033|'')\\s*)?$"));
-  const auto match = parts.match(text);
+      QStringLiteral("^\\s*([+\\-\u2212]?)\\s*(\\d{1,6})(?:([.,]\\d{1,9})\\s*\u00B0|\\s*\u00B0\\s*"
+                     "(?:(\\d{1,2})\\s*['\u2032]\\s*)?"
+                     "(?:(\\d{1,2}(?:[.,]\\d{1,4})?)\\s*(?:\"|\u2033|''|\u2032\u2032)\\s*)?)\\s*$"));
+  // Full-width digits and signs are what Japanese and Chinese keyboards give.
+  const auto match = parts.match(text.normalized(QString::NormalizationForm_KC));
   if (!match.hasMatch()) return std::nullopt;
-  const double minutes = match.captured(3).toDouble(), seconds = match.captured(4).toDouble();
-  const double packed = match.captured(2).toDouble() + minutes / 100.0 + seconds / 10000.0;
+  const auto number = [&match](int part) {
+    return match.captured(part).replace(QChar(','), QChar('.')).toDouble();
+  };
+  const double packed = match.captured(3).isEmpty() ? number(2) + number(4) / 100.0 + number(5) / 10000.0
+                                                    : fromDegrees(number(2) + number(3));
   const bool negative = !match.captured(1).isEmpty() && match.captured(1) != QLatin1String("+");
   return negative ? -packed : packed;
 }

@@ -20,8 +20,8 @@ namespace dms {
 [[nodiscard]] double fromRadians(double radians);
 /// "12° 30′ 45″" for people and screen readers; parts that are zero at the end are left out ("90°").
 [[nodiscard]] QString text(double packed);
-/// The ways to type an angle besides the packed number itself: 90°, 12° 30′, 12°30'45". Nothing: not an
-/// angle.
+/// The ways to type an angle besides the packed number itself: 90°, 12° 30′, 12°30'45", and degrees with
+/// decimals (45.5° is 45° 30′), whose sign is a point or a comma. Nothing: not an angle.
 [[nodiscard]] std::optional<double> fromText(const QString& text);
 
 }  // namespace dms

@@ -40,32 +40,42 @@ NumberFormat::Part NumberFormat::parse(const QString& pattern) {
   return part;
 }
 
-QString NumberFormat::write(double magnitude, const Part& part) {
+QString NumberFormat::write(double magnitude, const Part& part, const QLocale& locale) {
   QString text = QString::number(magnitude, 'f', part.decimals);
   const qsizetype point = text.indexOf(QChar('.'));
   QString whole = point < 0 ? text : text.left(point);
-  const QString fraction = point < 0 ? QString() : text.mid(point);
+  const QString fraction = point < 0 ? QString() : locale.decimalPoint() + text.mid(point + 1);
   if (whole == QLatin1String("0")) whole.clear();
   whole = whole.rightJustified(part.minimumDigits, QChar('0'));
   if (part.grouped)
-    for (qsizetype at = whole.size() - 3; at > 0; at -= 3) whole.insert(at, QChar(','));
+    for (qsizetype at = whole.size() - 3; at > 0; at -= 3) whole.insert(at, locale.groupSeparator());
   return part.before + whole + fraction + part.after;
 }
 
-QString NumberFormat::string(double value) const {
+QString NumberFormat::string(double value, const QLocale& locale) const {
   if (!std::isfinite(value)) return {};
-  if (value == 0) return write(0, zero_);
-  return value > 0 ? write(value, positive_) : write(-value, negative_);
+  if (value == 0) return write(0, zero_, locale);
+  return value > 0 ? write(value, positive_, locale) : write(-value, negative_, locale);
 }
 
-std::optional<double> NumberFormat::number(const QString& text) {
+namespace {
+
+/// Without blanks and with the usual digits and signs.
+QString plainNumber(const QString& text) {
   QString plain;
-  for (const QChar c : text)
-    if (!c.isSpace()) plain += c == QChar(0x2212) ? QChar('-') : c;
-  if (plain.contains(QChar('.')))
-    plain.remove(QChar(','));
-  else
-    plain.replace(QChar(','), QChar('.'));
+  for (const QChar c : text.normalized(QString::NormalizationForm_KC))
+    if (!c.isSpace()) plain += c == QChar(0x2212) ? QChar('-') : c == QChar(0x2019) ? QChar('\'') : c;
+  return plain;
+}
+
+}  // namespace
+
+std::optional<double> NumberFormat::number(const QString& text, const QLocale& locale) {
+  QString plain = plainNumber(text);
+  const QString group = plainNumber(locale.groupSeparator()), decimal = plainNumber(locale.decimalPoint());
+  if (!group.isEmpty() && (plain.contains(decimal) || plain.count(group) > 1)) plain.remove(group);
+  plain.replace(decimal, QStringLiteral("."));
+  if (!plain.contains(QChar('.'))) plain.replace(QChar(','), QChar('.'));
   bool ok = false;
   const double value = plain.toDouble(&ok);
   if (!ok || !std::isfinite(value)) return std::nullopt;

@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -82,7 +83,7 @@ void NumberMatrix::setFloat(int row, int column, float value) {
       break;
     }
   }
-  setText(row, column, text);
+  setText(row, column, text.replace(QChar('.'), QLocale().decimalPoint()));
 }
 
 void NumberMatrix::setBackgroundColor(const QColor& color) {

@@ -20,7 +20,8 @@ class NumberMatrix final : public QWidget {
 
   /// REQUIRES 0 <= row, column <= 1.
   [[nodiscard]] QLineEdit* cellAtRow(int row, int column) const;
-  /// Single precision, shortest form that reads back the same ("12.5"); NaN and infinities by name.
+  /// Single precision, shortest form that reads back the same ("12.5"), with the locale's decimal sign; NaN
+  /// and infinities by name.
   void setFloat(int row, int column, float value);
   void setText(int row, int column, const QString& text);
   void setBackgroundColor(const QColor& color);

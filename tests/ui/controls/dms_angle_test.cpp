@@ -57,7 +57,13 @@ class DmsAngleTest : public QObject {
     QCOMPARE(dms::fromText("12°30′45″").value(), 12.3045);
     QCOMPARE(dms::fromText("-90°").value(), -90.0);
     QCOMPARE(dms::fromText(" 7 ° 5 '").value(), 7.05);
-    for (const char* wrong : {"", "abc", "12", "°", "1°2°", "12° 30"}) QVERIFY2(!dms::fromText(wrong), wrong);
+    QCOMPARE(dms::fromText("45.5°").value(), 45.30);
+    QCOMPARE(dms::fromText("45,5 °").value(), 45.30);
+    QCOMPARE(dms::fromText("−0.25°").value(), -0.15);
+    QCOMPARE(dms::fromText("１２°３０′").value(), 12.30);
+    QCOMPARE(dms::fromText("12°30′45,5″").value(), 12.30455);
+    for (const char* wrong : {"", "abc", "12", "°", "1°2°", "12° 30", "45.5° 30′", "45.°"})
+      QVERIFY2(!dms::fromText(wrong), wrong);
   }
 };
 

@@ -50,6 +50,47 @@ class NumberFieldTest : public QObject {
       QCOMPARE(NumberFormat::number(kAngle.string(value)).value(), value);
   }
 
+  void numbersAreWrittenAsTheLocaleWritesThem_data() {
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("de_DE") << QLocale("de_DE") << QStringLiteral("1.234.567,5000");
+    QTest::newRow("fr_FR") << QLocale("fr_FR") << QStringLiteral("1\u202F234\u202F567,5000");
+    QTest::newRow("ja_JP") << QLocale("ja_JP") << QStringLiteral("1,234,567.5000");
+  }
+  void numbersAreWrittenAsTheLocaleWritesThem() {
+    QFETCH(QLocale, locale);
+    QFETCH(QString, text);
+    QCOMPARE(kAngle.string(1234567.5, locale), text);
+    for (double value : {0.0, 0.1, -0.1, 12.3045, -359.5959, 123456.7891})
+      QCOMPARE(NumberFormat::number(kAngle.string(value, locale), locale).value(), value);
+  }
+
+  void bothDecimalSignsAreUnderstoodEverywhere() {
+    for (const char* name : {"de_DE", "fr_FR", "ja_JP", "C"})
+      for (const QString typed :
+           {QStringLiteral("45.5"), QStringLiteral("45,5"), QStringLiteral("\uFF14\uFF15\uFF0E\uFF15")})
+        QCOMPARE(NumberFormat::number(typed, QLocale(name)).value(), 45.5);
+  }
+
+  void anAngleIsTypedAndShownInTheLocale() {
+    const QLocale before;
+    QLocale::setDefault(QLocale("de_DE"));
+    NumberField field;
+    field.setNumberFormat(kAngle);
+    for (const auto& [typed, packed, shown] :
+         {std::tuple("12,3045", 12.3045, "12,3045"), std::tuple("45.5°", 45.3, "45,3000"),
+          std::tuple("45,5°", 45.3, "45,3000"), std::tuple("45°30′", 45.3, "45,3000"),
+          std::tuple("-45,25°", -45.15, "-45,1500")}) {
+      field.selectAll();
+      field.insert(QString::fromUtf8(typed));  // as an input method does: not every sign has a key
+      field.setModified(true);
+      QTest::keyClick(&field, Qt::Key_Return);
+      QCOMPARE(field.doubleValue(), packed);
+      QCOMPARE(field.text(), QString(shown));
+    }
+    QLocale::setDefault(before);
+  }
+
   void typingTellsOnceAndNonsenseIsTakenBack() {
     NumberField field;
     field.setNumberFormat(kAngle);

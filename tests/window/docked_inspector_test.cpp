@@ -123,6 +123,53 @@ class DockedInspectorTest : public QObject {
     QVERIFY2(room.width() >= 430, qPrintable(QString::number(room.width())));
   }
 
+  void aPanelIsAsWideAsItWasDrawnInTheNextWindowToo() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    c.window()->findChild<QAction*>("windowFitsPictureAction")->setChecked(false);
+    c.window()->resize(1100, 500);
+    QCoreApplication::processEvents();
+    const int before = panel(c)->width();
+    const QPoint edge(panel(c)->x() - 2, panel(c)->y() + 100);
+    QTest::mousePress(c.window(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(c.window(), edge - QPoint(60, 0));
+    QTest::mouseMove(c.window(), edge - QPoint(90, 0));
+    QTRY_VERIFY(panel(c)->width() > before + 50);
+    QTest::mouseRelease(c.window(), Qt::LeftButton, {}, edge - QPoint(90, 0));
+    QCoreApplication::processEvents();
+    const int drawn = panel(c)->width();
+    QVERIFY2(drawn > before + 50, qPrintable(QString("%1 after %2").arg(drawn).arg(before)));
+    WindowFixture next;
+    qputenv("XDG_STATE_HOME", fixture.folder.path().toUtf8());
+    MainWindowController& other = shown(next);
+    other.window()->resize(1100, 500);
+    QTRY_COMPARE(panel(other)->width(), drawn);
+  }
+
+  void aPanelNeverTakesMoreThanHalfOfTheWindow() {
+    WindowFixture fixture;
+    saveViewLength("views/inspectorWidth", 700);
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    c.window()->findChild<QAction*>("windowFitsPictureAction")->setChecked(false);
+    for (const int width : {1600, 1000, 700}) {
+      c.window()->resize(width, 500);
+      QTRY_VERIFY2(panel(c)->width() <= c.window()->width() / 2,
+                   qPrintable(QString::number(panel(c)->width())));
+    }
+    c.window()->resize(1600, 500);  // and it comes back
+    QTRY_COMPARE(panel(c)->width(), 700);
+  }
+
+  void aWidthThatNobodyCanHaveDrawnIsNone() {
+    WindowFixture fixture;
+    for (const int wrong : {-5, 0, 100'000}) {
+      saveViewLength("views/inspectorWidth", wrong);
+      QCOMPARE(savedViewLength("views/inspectorWidth"), 0);
+    }
+  }
+
   void theSourceIsFoundInThePanelToo() {
     WindowFixture fixture;
     MainWindowController& c = shown(fixture);

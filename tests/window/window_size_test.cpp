@@ -4,6 +4,7 @@
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
 #include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/window_frames.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -34,6 +35,15 @@ class WindowSizeTest : public QObject {
     MainWindowController& c = shown(fixture, 600, 500);
     c.window()->resize(c.window()->maximumSize());
     QCOMPARE(c.scrollArea()->contentSize(), QSizeF(600, 500));
+  }
+
+  void aLengthIsWholeInTheScreensOwnPixels() {
+    QCOMPARE(wholePixels(555, 1), 555);
+    QCOMPARE(wholePixels(555, 2), 555);
+    QCOMPARE(wholePixels(555, 1.5), 556);
+    QCOMPARE(wholePixels(556, 1.5), 556);
+    QCOMPARE(wholePixels(553, 1.25), 556);
+    QCOMPARE(wholePixels(555, 0.123456), 555);  // nothing would be whole
   }
 
   void aSmallPictureGivesTheMinimumSize() {

@@ -1,5 +1,6 @@
 #include "ui/style/outlined_style.h"
 
+#include <QFrame>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleOption>
@@ -9,8 +10,9 @@ namespace {
 
 void outline(QPainter& painter, const QStyleOption& option, bool round = false) {
   const bool enabled = option.state & QStyle::State_Enabled;
-  QColor line = option.palette.color(option.state & QStyle::State_HasFocus ? QPalette::Highlight
-                                                                           : QPalette::WindowText);
+  // What is greyed out may be as dark as the ground in the palette's own colours.
+  QColor line = option.palette.color(
+      QPalette::Active, option.state & QStyle::State_HasFocus ? QPalette::Highlight : QPalette::WindowText);
   if (!enabled) line.setAlphaF(0.5F);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
@@ -39,6 +41,9 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
       return outline(*painter, *option);
     case PE_IndicatorRadioButton:
       return outline(*painter, *option, true);
+    case PE_PanelButtonTool:  // one that is switched on
+      if (option->state & State_On) outline(*painter, *option);
+      return;
     default:
       return;
   }
@@ -49,6 +54,29 @@ void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptio
   QProxyStyle::drawComplexControl(control, option, painter, widget);
   const bool framed = control == CC_SpinBox || control == CC_ComboBox;
   if (framed && needsOutlines(option->palette)) outline(*painter, *option);
+}
+
+void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  QProxyStyle::drawControl(element, option, painter, widget);
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+  const bool framed = element == CE_ShapedFrame && frame && frame->frameShape == QFrame::StyledPanel;
+  if (framed && needsOutlines(option->palette)) outline(*painter, *option);
+}
+
+int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* result) const {
+  // Half of them have none, and those of the others are made for one scheme.
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, result);
+}
+
+void OutlinedStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  if (!needsOutlines(palette)) return;
+  const QColor quiet(0xa0, 0xa0, 0xa0);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, quiet);
 }
 
 }  // namespace norvex

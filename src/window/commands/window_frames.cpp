@@ -3,6 +3,7 @@
 #include <QSettings>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "base/state_folder.h"
@@ -69,6 +70,13 @@ QRect placedOnScreens(QRect frame, const QList<QRect>& screens, const QList<QPoi
   return placed;
 }
 
+int wholePixels(int length, double ratio) {
+  constexpr int kMost = 8;  // a ratio is no worse than an eighth
+  for (int longer = length; longer < length + kMost; ++longer)
+    if (std::abs(longer * ratio - std::round(longer * ratio)) < 1e-6) return longer;
+  return length;
+}
+
 bool savedTouchBarIsShown() {
   return settings().value(kTouchBar).toBool();
 }
@@ -105,6 +113,17 @@ bool savedView(const QString& name, bool otherwise) {
 
 void saveView(const QString& name, bool on) {
   settings().setValue(name, on);
+}
+
+int savedViewLength(const QString& name) {
+  constexpr int kMost = 10'000;
+  bool ok = false;
+  const int length = settings().value(name).toInt(&ok);
+  return ok && length > 0 && length <= kMost ? length : 0;
+}
+
+void saveViewLength(const QString& name, int length) {
+  settings().setValue(name, length);
 }
 
 QString savedViewText(const QString& name) {

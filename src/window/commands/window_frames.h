@@ -20,6 +20,10 @@ void saveWindowFrame(const QString& autosaveName, const QRect& frame);
 [[nodiscard]] QRect placedOnScreens(QRect frame, const QList<QRect>& screens,
                                     const QList<QPoint>& taken = {});
 
+/// The shortest length from `length` on, both in logical pixels, that is a whole number of the screen's own
+/// pixels; another would be cut on the way there. `ratio`: of own to logical pixels.
+[[nodiscard]] int wholePixels(int length, double ratio);
+
 /// True if new windows show the touch strip; it is remembered in the same place. False before it was ever
 /// shown.
 [[nodiscard]] bool savedTouchBarIsShown();
@@ -36,6 +40,9 @@ void saveFrameMargins(const QMargins& margins);
 /// A choice of what windows show, kept from one to the next; `otherwise` where none was made.
 [[nodiscard]] bool savedView(const QString& name, bool otherwise);
 void saveView(const QString& name, bool on);
+/// A length that was chosen by hand, in logical pixels; 0 where none was, or none that can be one.
+[[nodiscard]] int savedViewLength(const QString& name);
+void saveViewLength(const QString& name, int length);
 [[nodiscard]] QString savedViewText(const QString& name);
 void saveViewText(const QString& name, const QString& text);
 

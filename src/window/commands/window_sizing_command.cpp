@@ -29,10 +29,11 @@ QRectF upright(const QRect& rect) {
   return {double(rect.x()), double(-(rect.y() + rect.height())), double(rect.width()), double(rect.height())};
 }
 
-QRect onScreen(const QRectF& rect) {
+/// With room for all of it in the screen's own pixels: one less, and there would be something to scroll.
+QRect onScreen(const QRectF& rect, double ratio) {
   const int height = static_cast<int>(std::ceil(rect.height() - 1e-6));
   return {static_cast<int>(rect.x()), static_cast<int>(-rect.y()) - height,
-          static_cast<int>(std::ceil(rect.width() - 1e-6)), height};
+          wholePixels(static_cast<int>(std::ceil(rect.width() - 1e-6)), ratio), wholePixels(height, ratio)};
 }
 
 QList<QRect> screenRects() {
@@ -50,8 +51,10 @@ QList<QPoint> takenPlaces(const QWidget* but) {
 
 constexpr int kRestMs = 250;
 
-int limited(double length) {
-  return static_cast<int>(std::ceil(std::min(length, double(QWIDGETSIZE_MAX)) - 1e-6));
+int limited(double length, double ratio) {
+  return std::min(
+      wholePixels(static_cast<int>(std::ceil(std::min(length, double(QWIDGETSIZE_MAX)) - 1e-6)), ratio),
+      QWIDGETSIZE_MAX);
 }
 
 }  // namespace
@@ -102,16 +105,18 @@ void WindowSizingCommand::apply() {
   const QSizeF viewSize = parts_.view() ? parts_.view()->frame().size() : QSizeF(0, 0);
   const WindowSize rule = windowSize(found, viewSize, parts_.zoomFactor());
   // This platform's maximum counts the toolbar, the rule's does not.
-  parts_.mainWindow()->setMaximumSize(limited(rule.maximum.width()),
-                                      limited(rule.maximum.height() + found.toolbarHeight));
+  const double ratio = parts_.mainWindow()->devicePixelRatioF();
+  parts_.mainWindow()->setMaximumSize(limited(rule.maximum.width(), ratio),
+                                      limited(rule.maximum.height() + found.toolbarHeight, ratio));
   leaveRoomToTheUser();
   if (rule.frame == found.frame || parts_.mainWindow()->isMaximized()) return;
-  own_ = onScreen(rule.frame).size();
+  const QRect frame = onScreen(rule.frame, ratio);
+  own_ = frame.size();
   // Before the window is on the screen its place is the window manager's to choose.
   if (parts_.mainWindow()->isVisible())
-    parts_.mainWindow()->setGeometry(onScreen(rule.frame));
+    parts_.mainWindow()->setGeometry(frame);
   else
-    parts_.mainWindow()->resize(onScreen(rule.frame).size());
+    parts_.mainWindow()->resize(frame.size());
 }
 
 void WindowSizingCommand::windowStateDidChange(const QWindowStateChangeEvent& event) {

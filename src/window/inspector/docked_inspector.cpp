@@ -23,6 +23,7 @@ namespace {
 
 const QString kDocked = QStringLiteral("views/inspectorInWindow");
 const QString kShown = QStringLiteral("views/inspectorPanel");
+const QString kWidth = QStringLiteral("views/inspectorWidth");
 
 }  // namespace
 
@@ -85,6 +86,7 @@ void DockedInspector::dock() {
   dock_->hide();
   window.addDockWidget(Qt::RightDockWidgetArea, dock_);
   dock_->hide();
+  wanted_ = savedViewLength(kWidth);
   inspector_.setPanel([this](bool shown) { setPanelShown(shown); });
 }
 
@@ -114,16 +116,38 @@ void DockedInspector::giveRoom(int picture) {
   if (window.isMaximized() || window.isFullScreen() || !window.isVisible()) return;
   const QRect screen = window.screen()->availableGeometry();
   const int around = window.frameGeometry().width() - window.width();
-  const int least = window.minimumSizeHint().width();
+  // The panel takes half of it at most.
+  const int panel = dock_->isVisible() ? 2 * dock_->minimumSizeHint().width() : 0;
+  const int least = std::max(window.minimumSizeHint().width(), panel);
   // A wider window gives the panel more, up to the width it likes, and is bounded anew: it is done in steps.
   for (int step = 0; step < 3; ++step) {
     const int wanted = window.width() + picture - parts_.scrollArea()->width();
     window.resize(std::clamp(wanted, least, std::max(least, screen.width() - around)), window.height());
     window.layout()->activate();
+    fitPanel();
     emit roomDidChange();
   }
   const int beyond = window.x() + window.width() + around - 1 - screen.right();
   if (beyond > 0) window.move(std::max(screen.left(), window.x() - beyond), window.y());
+}
+
+void DockedInspector::fitPanel() {
+  if (!dock_ || !dock_->isVisible()) return;
+  QMainWindow& window = *parts_.mainWindow();
+  const int least = dock_->minimumSizeHint().width(), half = window.width() / 2;
+  const int own = wanted_ > 0 ? wanted_ : dock_->sizeHint().width();
+  const int width = std::max(least, std::min(own, half));
+  if (dock_->width() == width) return;
+  window.resizeDocks({dock_}, {width}, Qt::Horizontal);
+  window.layout()->activate();
+}
+
+void DockedInspector::keepWidth() {
+  if (!dock_ || !dock_->isVisible() || drawnFrom_ == 0 || dock_->width() == drawnFrom_) return;
+  drawnFrom_ = 0;
+  wanted_ = dock_->width();
+  saveViewLength(kWidth, wanted_);
+  fitPanel();
 }
 
 void DockedInspector::switchFocus() {
@@ -142,6 +166,12 @@ bool DockedInspector::eventFilter(QObject* watched, QEvent* event) {
   // A full screen is the picture's alone.
   if (event->type() == QEvent::WindowStateChange && dock_)
     dock_->setVisible(!parts_.mainWindow()->isFullScreen() && shown_);
+  // Queued: it is after the window has laid itself out, and after the edge is let go.
+  if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
+    QMetaObject::invokeMethod(this, &DockedInspector::fitPanel, Qt::QueuedConnection);
+  if (event->type() == QEvent::MouseButtonPress && dock_) drawnFrom_ = dock_->width();
+  if (event->type() == QEvent::MouseButtonRelease)
+    QMetaObject::invokeMethod(this, &DockedInspector::keepWidth, Qt::QueuedConnection);
   return QObject::eventFilter(watched, event);
 }
 

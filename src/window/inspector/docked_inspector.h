@@ -14,7 +14,8 @@ class InspectorCommand;
 class WindowParts;
 
 /// A choice of the user, kept from one window to the next: the inspector is a window of its own, or a panel
-/// at the right edge of the document's. While it is a panel, windows begin with it as it was shown last. The
+/// at the right edge of the document's. While it is a panel, windows begin with it as it was shown last, and
+/// as wide as somebody drew it, but never wider than half the window unless its controls need that. The
 /// window grows by the panel and shrinks with it, so that the picture keeps its room where the screen has it.
 /// Parts and command outlive it. Main thread.
 class DockedInspector final : public QObject {
@@ -43,6 +44,10 @@ class DockedInspector final : public QObject {
   void setPanelShown(bool shown);
   /// Makes the window as wide as it must be for a picture's room of this width, on its screen.
   void giveRoom(int picture);
+  /// Gives the panel its width in the window as it is.
+  void fitPanel();
+  /// Remembers the width if the edge of the panel was drawn to another place.
+  void keepWidth();
   void switchFocus();
 
   WindowParts& parts_;
@@ -50,6 +55,8 @@ class DockedInspector final : public QObject {
   QPointer<QDockWidget> dock_;  ///< null: the inspector is a window
   QSize ownLeast_;              ///< of the inspector as a window
   bool shown_ = false;          ///< the panel, but in a full screen
+  int drawnFrom_ = 0;           ///< the panel's width when its edge was taken
+  int wanted_ = 0;              ///< width that was chosen by hand; 0: the panel's own
 };
 
 }  // namespace norvex

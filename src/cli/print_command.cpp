@@ -106,12 +106,13 @@ ExitCode PrintingJob::print(const Arguments& arguments) {
   if (!read) return fail(file, time.explained(read.error()));
   const auto opened = openPicture(service_, picture, limits, time.token());
   if (!opened) return fail(file, time.explained(opened.error()));
-  const PrintSource source = sourceOf(*opened, picture.fileURL);
-  const Result<PictureBytes> drawing = source.picture(time.token());
+  PrintSource source = sourceOf(*opened, picture.fileURL);
+  const Result<PictureBytes> drawing = source.shown.picture(time.token());
   if (!drawing) return fail(file, time.explained(drawing.error()));
   remark(file,
          *read + (*opened)->warnings() + pagesNotPrinted(**opened, arguments) + drawing->report.warnings);
-  const Result<QByteArray> pages = composeJob(source, info, service_, drawing->bytes, time.token());
+  source.shown.picture = [drawing](const CancelToken&) { return drawing; };
+  const Result<QByteArray> pages = composeJob(source, info, service_, time.token());
   if (!pages) return fail(file, time.explained(pages.error()));
   if (!output.isEmpty()) return writeOutput(output, *pages, arguments.has(Option::Force));
   const Result<void> delivered = deliverJob(*pages, source.jobTitle, info, spooler, cancel);

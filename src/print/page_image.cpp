@@ -8,11 +8,10 @@ namespace norvex {
 
 Result<QImage> pageImage(const PageImageRequest& request, PictureService& service,
                          const CancelToken& cancel) {
-  NSPrintInfo info = request.info;
-  info.setPageRange(request.page, request.page);
-  const Result<QByteArray> sheet = composeJob(request.source, info, service, request.picture, cancel);
+  const Result<QByteArray> sheet =
+      composeSheet(request.source, request.info, request.sheet, request.picture, service, cancel);
   if (!sheet) return sheet.error();
-  const QSizeF paper = info.paperSize();
+  const QSizeF paper = request.info.paperSize();
   RenderRequest render;
   render.pixelSize = request.pixels;
   render.purpose = RenderPurpose::Preview;

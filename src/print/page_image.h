@@ -15,8 +15,8 @@ namespace norvex {
 struct PageImageRequest {
   PrintSource source;
   NSPrintInfo info;
-  QByteArray picture;  ///< what pictureOf(source) gave
-  int page = 1;        ///< of all pages, whatever the settings' range
+  QByteArray picture;  ///< what pictureOf() gave of the page that the sheet shows
+  int sheet = 0;       ///< of all sheets, whatever the settings' range; from 0
   QSize pixels;        ///< the sheet fills it
 };
 

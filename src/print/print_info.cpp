@@ -105,6 +105,24 @@ void NSPrintInfo::setPageRange(int first, int last) {
   set(NSPrintLastPage, last);
 }
 
+DocumentPages NSPrintInfo::documentPages() const {
+  return DocumentPages(integer(NorvexDocumentPages, 0, int(DocumentPages::Range), 0));
+}
+
+int NSPrintInfo::firstDocumentPage() const {
+  return integer(NorvexFirstDocumentPage, 1, limits::maximumPageNumber, 1);
+}
+
+int NSPrintInfo::lastDocumentPage() const {
+  return integer(NorvexLastDocumentPage, 1, limits::maximumPageNumber, limits::maximumPageNumber);
+}
+
+void NSPrintInfo::setDocumentPageRange(int first, int last) {
+  setDocumentPages(DocumentPages::Range);
+  set(NorvexFirstDocumentPage, first);
+  set(NorvexLastDocumentPage, last);
+}
+
 QString NSPrintInfo::jobSavingPath() const {
   return value(NSPrintJobSavingPath).toString();
 }

@@ -14,6 +14,9 @@ enum class NSPaperOrientation { Portrait = 0, Landscape = 1 };
 /// The fate of a picture that is larger than a page: more pages, made to fit, cut off.
 enum class NSPrintingPaginationMode { Automatic = 0, Fit = 1, Clip = 2 };
 
+/// The pages of a document with several that are printed. A choice of the print panel, which no layout keeps.
+enum class DocumentPages { Shown = 0, All = 1, Range = 2 };
+
 // Keys of the settings dictionary.
 inline constexpr char NSPrintOrientation[] = "NSOrientation";
 inline constexpr char NSPrintLeftMargin[] = "NSLeftMargin";
@@ -33,6 +36,9 @@ inline constexpr char NSPrintFirstPage[] = "NSFirstPage";
 inline constexpr char NSPrintLastPage[] = "NSLastPage";
 inline constexpr char NSPrintAllPages[] = "NSPrintAllPages";
 inline constexpr char NSPrintJobSavingPath[] = "NSJobSavingPath";
+inline constexpr char NorvexDocumentPages[] = "NorvexDocumentPages";
+inline constexpr char NorvexFirstDocumentPage[] = "NorvexFirstDocumentPage";
+inline constexpr char NorvexLastDocumentPage[] = "NorvexLastDocumentPage";
 
 /// A value. The dictionary is the state; the accessors read and write it. A key that is absent, or whose
 /// value is of another type or out of its range, reads as its default, whatever was merged into the
@@ -91,12 +97,19 @@ class NSPrintInfo {
 
   [[nodiscard]] int copies() const;
   void setCopies(int copies) { set(NSPrintCopies, copies); }
-  /// From 1; all pages until one of these is set.
+  /// Of the sheets that the job takes. From 1; all of them until one of these is set.
   [[nodiscard]] bool printsAllPages() const { return flag(NSPrintAllPages, true); }
   [[nodiscard]] int firstPage() const;
   [[nodiscard]] int lastPage() const;
   void setPageRange(int first, int last);
   void setPrintsAllPages() { set(NSPrintAllPages, true); }
+  /// Pages of the document, each of which takes one sheet or several.
+  [[nodiscard]] DocumentPages documentPages() const;
+  void setDocumentPages(DocumentPages pages) { set(NorvexDocumentPages, int(pages)); }
+  /// From 1; of a range alone.
+  [[nodiscard]] int firstDocumentPage() const;
+  [[nodiscard]] int lastDocumentPage() const;
+  void setDocumentPageRange(int first, int last);
   /// Where the job is written as PDF in the place of being printed; empty: it is printed.
   [[nodiscard]] QString jobSavingPath() const;
   void setJobSavingPath(const QString& path) { set(NSPrintJobSavingPath, path); }

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "base/atomic_file.h"
+#include "print/job_pages.h"
+#include "protocol/page_excerpts.h"
 
 namespace norvex {
 namespace {
@@ -25,49 +27,93 @@ std::optional<SheetLine> lineIn(const std::optional<QRectF>& rect, const std::op
   return SheetLine{line->text, *rect};
 }
 
-/// The tiles of the settings' range.
-Result<QList<SheetPart>> sheetsOf(const Pagination& pages, const NSPrintInfo& info) {
+/// The sheets that show one page of the document.
+struct PageSheets {
+  qsizetype page = 0;
   QList<SheetPart> sheets;
-  const qsizetype first = info.firstPage(), last = std::min<qsizetype>(info.lastPage(), pages.tiles.size());
-  for (qsizetype page = first; page <= last; ++page)
-    sheets.append({pages.tiles.at(page - 1).source, pages.tiles.at(page - 1).target});
+};
+
+void addSheet(QList<PageSheets>& job, const JobPages& pages, int sheet) {
+  const SheetPlace place = pages.placeOf(sheet);
+  if (job.isEmpty() || job.last().page != place.page) job << PageSheets{place.page, {}};
+  const PageTile& tile = pages.pages().at(place.page).pagination.tiles.at(place.tile);
+  job.last().sheets.append({tile.source, tile.target});
+}
+
+/// Those of the settings' range.
+Result<QList<PageSheets>> sheetsOf(const JobPages& pages, const NSPrintInfo& info) {
+  QList<PageSheets> sheets;
+  const int first = info.firstPage(), last = std::min(info.lastPage(), pages.sheetCount());
+  for (int sheet = first; sheet <= last; ++sheet) addSheet(sheets, pages, sheet - 1);
   if (!sheets.isEmpty()) return sheets;
   return Error{ErrorKind::Unsupported,
-               QStringLiteral("there are no such pages: the picture takes %1").arg(pages.tiles.size())};
+               QStringLiteral("there are no such pages: the picture takes %1").arg(pages.sheetCount())};
+}
+
+PagesRequest requestFor(const PrintSource& source, const Lines& lines, const Pagination& pagination,
+                        const QList<SheetPart>& sheets) {
+  const QFont font = lines.header ? lines.header->font : lines.footer ? lines.footer->font : QFont();
+  PagesRequest request;
+  request.paper = pagination.sheet;
+  request.sheets = sheets;
+  request.title = source.jobTitle;
+  request.header = lineIn(pagination.header, lines.header);
+  request.footer = lineIn(pagination.footer, lines.footer);
+  request.fontFamily = font.family();
+  if (font.pointSizeF() > 0) request.fontSize = font.pointSizeF();
+  return request;
+}
+
+/// The parts of a job as one file.
+Result<QByteArray> joined(const QList<PageExcerpt>& parts, const QString& title, PictureService& service,
+                          const CancelToken& cancel) {
+  if (parts.size() == 1) return parts.first().pdf;
+  PdfAttributes attributes;
+  if (!title.isEmpty()) attributes.texts.insert(QStringLiteral("Title"), title);
+  const Result<PictureBytes> made = service.open(parts.first().pdf, PictureKind::Pdf)
+                                        ->setPdfAttributes(encodePageExcerpts(parts), attributes, cancel);
+  return made ? Result<QByteArray>(made->bytes) : Result<QByteArray>(made.error());
 }
 
 }  // namespace
 
-Result<Pagination> paginationOf(const PrintSource& source, const NSPrintInfo& info) {
-  const Lines lines = linesOf(source, info);
-  return paginate(source.size, info, lines.header.has_value(), lines.footer.has_value());
-}
-
-Result<QByteArray> pictureOf(const PrintSource& source, const CancelToken& cancel) {
-  if (!source.picture || source.size.isEmpty()) return QByteArray();
-  const Result<PictureBytes> made = source.picture(cancel);
+Result<QByteArray> pictureOf(const PrintPage& page, const CancelToken& cancel) {
+  if (!page.picture || page.size.isEmpty()) return QByteArray();
+  const Result<PictureBytes> made = page.picture(cancel);
   if (!made) return made.error();
   return made->bytes;
 }
 
 Result<QByteArray> composeJob(const PrintSource& source, const NSPrintInfo& info, PictureService& service,
-                              const QByteArray& picture, const CancelToken& cancel) {
-  const Lines lines = linesOf(source, info);
-  const Result<Pagination> pages =
-      paginate(source.size, info, lines.header.has_value(), lines.footer.has_value());
+                              const CancelToken& cancel) {
+  const Result<JobPages> pages = JobPages::of(source, info);
   if (!pages) return pages.error();
-  const Result<QList<SheetPart>> sheets = sheetsOf(*pages, info);
+  const Result<QList<PageSheets>> sheets = sheetsOf(*pages, info);
   if (!sheets) return sheets.error();
-  const QFont font = lines.header ? lines.header->font : lines.footer ? lines.footer->font : QFont();
-  PagesRequest request;
-  request.paper = pages->sheet;
-  request.sheets = *sheets;
-  request.title = source.jobTitle;
-  request.header = lineIn(pages->header, lines.header);
-  request.footer = lineIn(pages->footer, lines.footer);
-  request.fontFamily = font.family();
-  if (font.pointSizeF() > 0) request.fontSize = font.pointSizeF();
-  return service.composePages(picture, request, cancel);
+  const Lines lines = linesOf(source, info);
+  QList<PageExcerpt> parts;
+  for (const PageSheets& each : *sheets) {
+    const JobPage& page = pages->pages().at(each.page);
+    const Result<QByteArray> picture = pictureOf(page.drawing, cancel);
+    if (!picture) return picture.error();
+    const Result<QByteArray> part =
+        service.composePages(*picture, requestFor(source, lines, page.pagination, each.sheets), cancel);
+    if (!part) return part.error();
+    parts << PageExcerpt{*part};
+  }
+  return joined(parts, source.jobTitle, service, cancel);
+}
+
+Result<QByteArray> composeSheet(const PrintSource& source, const NSPrintInfo& info, int sheet,
+                                const QByteArray& picture, PictureService& service,
+                                const CancelToken& cancel) {
+  const Result<JobPages> pages = JobPages::of(source, info);
+  if (!pages) return pages.error();
+  QList<PageSheets> one;
+  addSheet(one, *pages, sheet);
+  const Pagination& pagination = pages->pages().at(one.first().page).pagination;
+  return service.composePages(
+      picture, requestFor(source, linesOf(source, info), pagination, one.first().sheets), cancel);
 }
 
 Result<void> deliverJob(const QByteArray& pdf, const QString& title, const NSPrintInfo& info,
@@ -87,9 +133,7 @@ Result<void> deliverJob(const QByteArray& pdf, const QString& title, const NSPri
 
 Result<void> runJob(const PrintSource& source, const NSPrintInfo& info, PictureService& service,
                     PrintSpooler& spooler, const CancelToken& cancel) {
-  const Result<QByteArray> picture = pictureOf(source, cancel);
-  if (!picture) return picture.error();
-  const Result<QByteArray> pdf = composeJob(source, info, service, *picture, cancel);
+  const Result<QByteArray> pdf = composeJob(source, info, service, cancel);
   if (!pdf) return pdf.error();
   return deliverJob(*pdf, source.jobTitle, info, spooler, cancel);
 }

@@ -4,24 +4,25 @@
 #include <QByteArray>
 
 #include "picture/process/picture_process.h"
-#include "print/pagination.h"
 #include "print/print_info.h"
 #include "print/print_spooler.h"
 #include "print/printable_view.h"
 
 namespace norvex {
 
-/// Where the job's pages are, header and footer included when the settings ask for them and the drawing has
-/// them.
-[[nodiscard]] Result<Pagination> paginationOf(const PrintSource& source, const NSPrintInfo& info);
-
 /// The drawing's PDF; empty when there is no picture.
-[[nodiscard]] Result<QByteArray> pictureOf(const PrintSource& source, const CancelToken& cancel = {});
+[[nodiscard]] Result<QByteArray> pictureOf(const PrintPage& page, const CancelToken& cancel = {});
 
-/// The pages of the settings' range as one PDF, vectors and text. `picture` is what pictureOf() gave.
+/// The sheets of the settings' range as one PDF, vectors and text. A page of which no sheet is in the range
+/// is not drawn.
 [[nodiscard]] Result<QByteArray> composeJob(const PrintSource& source, const NSPrintInfo& info,
-                                            PictureService& service, const QByteArray& picture,
-                                            const CancelToken& cancel = {});
+                                            PictureService& service, const CancelToken& cancel = {});
+
+/// One sheet of it, whatever the range; `picture` is what pictureOf() gave of its page. REQUIRES
+/// 0 ≤ sheet < JobPages::sheetCount().
+[[nodiscard]] Result<QByteArray> composeSheet(const PrintSource& source, const NSPrintInfo& info, int sheet,
+                                              const QByteArray& picture, PictureService& service,
+                                              const CancelToken& cancel = {});
 
 /// Hands the pages to the printer or writes them to the file that the settings name (whole or not at all; a
 /// file that is there is replaced).

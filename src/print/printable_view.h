@@ -1,6 +1,7 @@
 // The printed view, or its remains once a job has begun.
 #pragma once
 
+#include <QList>
 #include <QSizeF>
 #include <QString>
 
@@ -13,14 +14,22 @@
 
 namespace norvex {
 
+/// One drawing of a job. A value; the function runs on any thread.
+struct PrintPage {
+  QSizeF size;  ///< points; empty: there is nothing to draw
+  /// The drawing as a PDF page of `size`. Empty: there is no picture, the sheets are blank. Blocks.
+  std::function<Result<PictureBytes>(const CancelToken&)> picture;
+};
+
 /// A view as it is at one moment: what a job prints does not change while it runs. A value; the functions run
 /// on any thread.
 struct PrintSource {
-  QSizeF size;  ///< of the drawing, points; empty: there is none
+  PrintPage shown;
   QString jobTitle;
   std::function<std::optional<PageLine>()> header, footer;
-  /// The drawing as a PDF page of `size`. Empty: there is no picture, the pages are blank. Blocks.
-  std::function<Result<PictureBytes>(const CancelToken&)> picture;
+  /// Every page of a document with several, as it would be shown; empty: there is nothing but what is shown.
+  QList<PrintPage> pages = {};
+  int shownPage = 0;  ///< the one of them that is `shown`; from 0
 };
 
 /// The seam between the print operation and the views that can be printed.
@@ -31,7 +40,8 @@ class PrintableView {
   [[nodiscard]] virtual PrintSource printSource() const = 0;
 };
 
-/// The turned picture as the window shows it, without the selection. `view` must outlive this.
+/// The turned picture as the window shows it, without the selection; the other pages of its document turned
+/// as it is. `view` must outlive this.
 class PrintableNorvexView final : public PrintableView {
  public:
   explicit PrintableNorvexView(const NorvexView& view) : view_(view) {}

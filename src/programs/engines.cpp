@@ -6,6 +6,7 @@
 #include "worker/every_engine/decode_preview.h"
 #include "worker/every_engine/open_document.h"
 #include "worker/pages/compose_pages.h"
+#include "worker/pages/joined_pages.h"
 #include "worker/pdf/pdf_attributes.h"
 
 namespace norvex {
@@ -21,7 +22,9 @@ template <PictureNeeds offers>
 void offer(EngineSet& engines) {
   engines.open = engine::openOffered<offers>;
   if constexpr ((offers & NeedPreviews) != 0) engines.decodePreview = engine::decodePreview;
-  if constexpr ((offers & (NeedPages | NeedSvgPdf)) != 0)
+  if constexpr ((offers & NeedPages) != 0)
+    engines.setPdfAttributes = engine::joinedWithAttributes;
+  else if constexpr ((offers & NeedSvgPdf) != 0)
     engines.setPdfAttributes = engine::withPdfAttributes;
   if constexpr ((offers & NeedSheets) != 0) engines.composePages = engine::composePages;
   engines.warmUpProgram = warmUpFonts;

@@ -2051,6 +2051,70 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>The shown page (%1)</source>
+        <translation>Die gezeigte Seite (%1)</translation>
+    </message>
+    <message>
+        <source>All %1 pages</source>
+        <translation>Alle %1 Seiten</translation>
+    </message>
+    <message>
+        <source>Some pages</source>
+        <translation>Einige Seiten</translation>
+    </message>
+    <message>
+        <source>From page</source>
+        <translation>Von Seite</translation>
+    </message>
+    <message>
+        <source>From page:</source>
+        <translation>Von Seite:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>&amp;Seiten:</translation>
+    </message>
+    <message>
+        <source>Sheets:</source>
+        <translation>Blätter:</translation>
+    </message>
+    <message>
+        <source>New keys</source>
+        <translation>Neue Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Keys</source>
+        <translation>Tasten &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Default Keys</source>
+        <translation>&amp;Standardtasten</translation>
+    </message>
+    <message>
+        <source>All De&amp;faults</source>
+        <translation>Alle &amp;Standards</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”:</source>
+        <translation>Tasten für „%1“:</translation>
+    </message>
+    <message>
+        <source>Choose a command, and then press the keys that it shall have.</source>
+        <translation>Wählen Sie einen Befehl und drücken Sie dann die Tasten, die er haben soll.</translation>
+    </message>
+    <message>
+        <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
+        <translation>„%1“ dient zum Tippen und zum Bewegen des Bildes. Nehmen Sie Strg oder Alt dazu, oder eine Funktionstaste.</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to “%2” already, and nothing was changed.</source>
+        <translation>„%1“ gehört schon zu „%2“; es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>“%1” opens the menu “%2”, and nothing was changed.</source>
+        <translation>„%1“ öffnet das Menü „%2“; es wurde nichts geändert.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

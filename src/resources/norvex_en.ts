@@ -2051,6 +2051,70 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>The shown page (%1)</source>
+        <translation>The shown page (%1)</translation>
+    </message>
+    <message>
+        <source>All %1 pages</source>
+        <translation>All %1 pages</translation>
+    </message>
+    <message>
+        <source>Some pages</source>
+        <translation>Some pages</translation>
+    </message>
+    <message>
+        <source>From page</source>
+        <translation>From page</translation>
+    </message>
+    <message>
+        <source>From page:</source>
+        <translation>From page:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>Pa&amp;ges:</translation>
+    </message>
+    <message>
+        <source>Sheets:</source>
+        <translation>Sheets:</translation>
+    </message>
+    <message>
+        <source>New keys</source>
+        <translation>New keys</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Keys</source>
+        <translation>&amp;Remove Keys</translation>
+    </message>
+    <message>
+        <source>&amp;Default Keys</source>
+        <translation>&amp;Default Keys</translation>
+    </message>
+    <message>
+        <source>All De&amp;faults</source>
+        <translation>All De&amp;faults</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”:</source>
+        <translation>Keys of “%1”:</translation>
+    </message>
+    <message>
+        <source>Choose a command, and then press the keys that it shall have.</source>
+        <translation>Choose a command, and then press the keys that it shall have.</translation>
+    </message>
+    <message>
+        <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
+        <translation>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to “%2” already, and nothing was changed.</source>
+        <translation>“%1” belongs to “%2” already, and nothing was changed.</translation>
+    </message>
+    <message>
+        <source>“%1” opens the menu “%2”, and nothing was changed.</source>
+        <translation>“%1” opens the menu “%2”, and nothing was changed.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

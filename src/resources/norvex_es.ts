@@ -2051,6 +2051,70 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>The shown page (%1)</source>
+        <translation>La página mostrada (%1)</translation>
+    </message>
+    <message>
+        <source>All %1 pages</source>
+        <translation>Las %1 páginas</translation>
+    </message>
+    <message>
+        <source>Some pages</source>
+        <translation>Algunas páginas</translation>
+    </message>
+    <message>
+        <source>From page</source>
+        <translation>De la página</translation>
+    </message>
+    <message>
+        <source>From page:</source>
+        <translation>De la página:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>Pá&amp;ginas:</translation>
+    </message>
+    <message>
+        <source>Sheets:</source>
+        <translation>Hojas:</translation>
+    </message>
+    <message>
+        <source>New keys</source>
+        <translation>Teclas nuevas</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Keys</source>
+        <translation>&amp;Quitar teclas</translation>
+    </message>
+    <message>
+        <source>&amp;Default Keys</source>
+        <translation>Teclas pre&amp;determinadas</translation>
+    </message>
+    <message>
+        <source>All De&amp;faults</source>
+        <translation>Todo pre&amp;determinado</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”:</source>
+        <translation>Teclas de «%1»:</translation>
+    </message>
+    <message>
+        <source>Choose a command, and then press the keys that it shall have.</source>
+        <translation>Elija un comando y pulse después las teclas que debe tener.</translation>
+    </message>
+    <message>
+        <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
+        <translation>«%1» sirve para escribir y para mover la imagen. Añada Ctrl o Alt, o elija una tecla de función.</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to “%2” already, and nothing was changed.</source>
+        <translation>«%1» ya pertenece a «%2»; no se ha cambiado nada.</translation>
+    </message>
+    <message>
+        <source>“%1” opens the menu “%2”, and nothing was changed.</source>
+        <translation>«%1» abre el menú «%2»; no se ha cambiado nada.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

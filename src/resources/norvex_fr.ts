@@ -2051,6 +2051,70 @@
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>The shown page (%1)</source>
+        <translation>La page affichée (%1)</translation>
+    </message>
+    <message>
+        <source>All %1 pages</source>
+        <translation>Les %1 pages</translation>
+    </message>
+    <message>
+        <source>Some pages</source>
+        <translation>Quelques pages</translation>
+    </message>
+    <message>
+        <source>From page</source>
+        <translation>De la page</translation>
+    </message>
+    <message>
+        <source>From page:</source>
+        <translation>De la page :</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>Pa&amp;ges :</translation>
+    </message>
+    <message>
+        <source>Sheets:</source>
+        <translation>Feuilles :</translation>
+    </message>
+    <message>
+        <source>New keys</source>
+        <translation>Nouvelles touches</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Keys</source>
+        <translation>&amp;Retirer les touches</translation>
+    </message>
+    <message>
+        <source>&amp;Default Keys</source>
+        <translation>Touches par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>All De&amp;faults</source>
+        <translation>Tout par dé&amp;faut</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”:</source>
+        <translation>Touches de « %1 » :</translation>
+    </message>
+    <message>
+        <source>Choose a command, and then press the keys that it shall have.</source>
+        <translation>Choisissez une commande, puis appuyez sur les touches qu’elle doit avoir.</translation>
+    </message>
+    <message>
+        <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
+        <translation>« %1 » sert à écrire et à déplacer l’image. Ajoutez Ctrl ou Alt, ou prenez une touche de fonction.</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to “%2” already, and nothing was changed.</source>
+        <translation>« %1 » appartient déjà à « %2 » ; rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>“%1” opens the menu “%2”, and nothing was changed.</source>
+        <translation>« %1 » ouvre le menu « %2 » ; rien n’a été modifié.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

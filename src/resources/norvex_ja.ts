@@ -901,7 +901,7 @@
     </message>
     <message>
         <source>to</source>
-        <translation>から</translation>
+        <translation>〜</translation>
     </message>
     <message>
         <source>“%1” was not printed.</source>
@@ -2050,6 +2050,70 @@
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+    <message>
+        <source>The shown page (%1)</source>
+        <translation>表示中のページ (%1)</translation>
+    </message>
+    <message>
+        <source>All %1 pages</source>
+        <translation>全 %1 ページ</translation>
+    </message>
+    <message>
+        <source>Some pages</source>
+        <translation>ページを指定</translation>
+    </message>
+    <message>
+        <source>From page</source>
+        <translation>開始ページ</translation>
+    </message>
+    <message>
+        <source>From page:</source>
+        <translation>開始ページ:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>ページ(&amp;G):</translation>
+    </message>
+    <message>
+        <source>Sheets:</source>
+        <translation>シート:</translation>
+    </message>
+    <message>
+        <source>New keys</source>
+        <translation>新しいキー</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Keys</source>
+        <translation>キーを外す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Default Keys</source>
+        <translation>既定のキー(&amp;D)</translation>
+    </message>
+    <message>
+        <source>All De&amp;faults</source>
+        <translation>すべて既定に戻す(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”:</source>
+        <translation>「%1」のキー:</translation>
+    </message>
+    <message>
+        <source>Choose a command, and then press the keys that it shall have.</source>
+        <translation>コマンドを選び、割り当てるキーを押してください。</translation>
+    </message>
+    <message>
+        <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
+        <translation>「%1」は入力と画像の移動に使います。Ctrl か Alt と組み合わせるか、ファンクションキーを使ってください。</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to “%2” already, and nothing was changed.</source>
+        <translation>「%1」は既に「%2」に割り当てられています。変更しませんでした。</translation>
+    </message>
+    <message>
+        <source>“%1” opens the menu “%2”, and nothing was changed.</source>
+        <translation>「%1」はメニュー「%2」を開くキーです。変更しませんでした。</translation>
     </message>
 </context>
 <context>

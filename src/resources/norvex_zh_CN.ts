@@ -2051,6 +2051,70 @@
         <source>%1 %</source>
         <translation>%1%</translation>
     </message>
+    <message>
+        <source>The shown page (%1)</source>
+        <translation>显示的页面 (%1)</translation>
+    </message>
+    <message>
+        <source>All %1 pages</source>
+        <translation>全部 %1 页</translation>
+    </message>
+    <message>
+        <source>Some pages</source>
+        <translation>部分页面</translation>
+    </message>
+    <message>
+        <source>From page</source>
+        <translation>从第几页</translation>
+    </message>
+    <message>
+        <source>From page:</source>
+        <translation>从第几页:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges:</source>
+        <translation>页面(&amp;G):</translation>
+    </message>
+    <message>
+        <source>Sheets:</source>
+        <translation>印张:</translation>
+    </message>
+    <message>
+        <source>New keys</source>
+        <translation>新快捷键</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Keys</source>
+        <translation>移除快捷键(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Default Keys</source>
+        <translation>默认快捷键(&amp;D)</translation>
+    </message>
+    <message>
+        <source>All De&amp;faults</source>
+        <translation>全部恢复默认(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Keys of “%1”:</source>
+        <translation>“%1”的快捷键:</translation>
+    </message>
+    <message>
+        <source>Choose a command, and then press the keys that it shall have.</source>
+        <translation>请选择一个命令，然后按下要分配给它的键。</translation>
+    </message>
+    <message>
+        <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
+        <translation>“%1”用于输入和移动图片。请与 Ctrl 或 Alt 组合，或使用功能键。</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to “%2” already, and nothing was changed.</source>
+        <translation>“%1”已属于“%2”，未作任何更改。</translation>
+    </message>
+    <message>
+        <source>“%1” opens the menu “%2”, and nothing was changed.</source>
+        <translation>“%1”会打开菜单“%2”，未作任何更改。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>

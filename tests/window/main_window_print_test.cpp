@@ -91,7 +91,7 @@ class MainWindowPrintTest : public QObject {
     Printed printed;
     fixture.people.onPanel = [&printed](NSPrintOperation& operation) {
       const PrintSource source = operation.view().printSource();
-      printed = {source.size, source.jobTitle, source.footer() ? source.footer()->text : QString()};
+      printed = {source.shown.size, source.jobTitle, source.footer() ? source.footer()->text : QString()};
     };
     const int before = fixture.people.panels;
     c.doPrinting();
@@ -259,7 +259,7 @@ class MainWindowPrintTest : public QObject {
     QVERIFY(action && action->shortcut() == QKeySequence(QKeySequence::Print));
     QSizeF size;
     fixture.people.onPanel = [&size](NSPrintOperation& operation) {
-      size = operation.view().printSource().size;
+      size = operation.view().printSource().shown.size;
     };
     action->trigger();
     QCOMPARE(size, turned);

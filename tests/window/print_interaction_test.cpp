@@ -32,7 +32,7 @@ class Blank final : public PrintableView {
  public:
   [[nodiscard]] PrintSource printSource() const override {
     PrintSource source;
-    source.size = {100, 100};
+    source.shown.size = {100, 100};
     source.jobTitle = "A drawing";
     return source;
   }

@@ -13,8 +13,9 @@
 
 namespace norvex {
 
-/// Page: the shown page, turned as it is shown. Document: every page, as the file has them.
-enum class ExportArea { Selection, Visible, Page, Document };
+/// Page: the shown page, turned as it is shown. Document: every page, as the file has them. Pages: some of
+/// them, as the file has them.
+enum class ExportArea { Selection, Visible, Page, Document, Pages };
 
 struct ExportChoice {
   PictureFormat format = PictureFormat::Png;
@@ -22,7 +23,8 @@ struct ExportChoice {
   double dpi = 144;                      ///< pixels an inch, of formats that hold pixels
   OutputColor color = OutputColor::Rgb;  ///< of pixels
   QColor background;                     ///< of pixels; invalid: what is not painted stays transparent
-  std::optional<int> quality;  ///< 1 … 100, of formats that can lose some; nothing: the format's own
+  std::optional<int> quality;       ///< 1 … 100, of formats that can lose some; nothing: the format's own
+  int firstPage = 1, lastPage = 1;  ///< of Pages; from 1, in order
   bool operator==(const ExportChoice&) const = default;
 };
 
@@ -32,10 +34,11 @@ struct ExportOffer {
     ExportArea area;
     QSizeF size;  ///< points
   };
-  QList<PictureFormat> formats;  ///< at least one
-  QList<Area> areas;             ///< at least one
-  QString folder;                ///< absolute; where the file goes at first
-  QString name;                  ///< proposed, without extension
+  QList<PictureFormat> formats;      ///< at least one
+  QList<Area> areas;                 ///< at least one
+  int pageCount = 1, shownPage = 0;  ///< of the document; from 0
+  QString folder;                    ///< absolute; where the file goes at first
+  QString name;                      ///< proposed, without extension
 };
 
 }  // namespace norvex

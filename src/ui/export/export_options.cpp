@@ -51,8 +51,14 @@ const char* areaTitle(ExportArea area) {
       return "Whole picture";
     case ExportArea::Document:
       return "All pages";
+    case ExportArea::Pages:
+      return "Some pages";
   }
   return "";
+}
+
+bool holdsPages(ExportArea area) {
+  return area == ExportArea::Document || area == ExportArea::Pages;
 }
 
 QWidget* inRow(std::initializer_list<QWidget*> widgets, QWidget* parent) {
@@ -72,6 +78,7 @@ ExportOptions::ExportOptions(const ExportOffer& offer, const ExportChoice& first
   form_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
   addFormats(first);
   addAreas(first);
+  addPages();
   addPixels(first);
   addColors(first);
   addBackground(first);
@@ -95,20 +102,47 @@ void ExportOptions::addAreas(const ExportChoice& first) {
   areas_->setObjectName(QStringLiteral("exportArea"));
   areas_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   const bool pages = std::any_of(offer_.areas.cbegin(), offer_.areas.cend(),
-                                 [](const auto& each) { return each.area == ExportArea::Document; });
+                                 [](const auto& each) { return holdsPages(each.area); });
   int chosen = 0;
   for (qsizetype i = 0; i < offer_.areas.size(); ++i) {
     const ExportOffer::Area& each = offer_.areas.at(i);
     const bool onePage = each.area == ExportArea::Page && pages;
     const QString title = onePage ? localizedString("This page") : localizedString(areaTitle(each.area));
-    areas_->addItem(each.area == ExportArea::Document
-                        ? title
-                        : QStringLiteral("%1 (%2 pt)").arg(title, sizeText(each.size)));
+    areas_->addItem(holdsPages(each.area) ? title
+                                          : QStringLiteral("%1 (%2 pt)").arg(title, sizeText(each.size)));
     if (each.area == first.area) chosen = int(i);
   }
   areas_->setCurrentIndex(chosen);
   form_->addRow(localizedString("Part:"), areas_);
   connect(areas_, &QComboBox::currentIndexChanged, this, &ExportOptions::formatChosen);
+}
+
+void ExportOptions::addPages() {
+  firstPage_ = new QSpinBox(this);
+  firstPage_->setObjectName(QStringLiteral("exportFirstPage"));
+  firstPage_->setAccessibleName(localizedString("First page"));
+  lastPage_ = new QSpinBox(this);
+  lastPage_->setObjectName(QStringLiteral("exportLastPage"));
+  lastPage_->setAccessibleName(localizedString("Last page"));
+  for (QSpinBox* field : {firstPage_, lastPage_}) {
+    field->setRange(1, std::max(1, offer_.pageCount));
+    field->setKeyboardTracking(false);
+  }
+  firstPage_->setValue(offer_.shownPage + 1);
+  lastPage_->setValue(offer_.pageCount);
+  pages_ = inRow({firstPage_, new QLabel(localizedString("to"), this), lastPage_}, this);
+  form_->addRow(localizedString("From page:"), pages_);
+  // Whoever moves one end past the other means both.
+  connect(firstPage_, &QSpinBox::valueChanged, this, [this](int page) {
+    const QSignalBlocker quiet(lastPage_);
+    lastPage_->setValue(std::max(page, lastPage_->value()));
+    emit changed();
+  });
+  connect(lastPage_, &QSpinBox::valueChanged, this, [this](int page) {
+    const QSignalBlocker quiet(firstPage_);
+    firstPage_->setValue(std::min(page, firstPage_->value()));
+    emit changed();
+  });
 }
 
 void ExportOptions::addPixels(const ExportChoice& first) {
@@ -213,6 +247,10 @@ ExportChoice ExportOptions::choice() const {
                       .color = isRaster(chosen) ? OutputColor(colors_->currentIndex()) : OutputColor::Rgb,
                       .background = filled_->isChecked() ? color_->color() : QColor(),
                       .quality = std::nullopt};
+  if (choice.area == ExportArea::Pages) {
+    choice.firstPage = firstPage_->value();
+    choice.lastPage = lastPage_->value();
+  }
   if (own > 0 || (own == Lossless && !lossless_->isChecked())) choice.quality = quality_->value();
   return choice;
 }
@@ -231,15 +269,17 @@ void ExportOptions::formatChosen() {
   offerColors();
   form_->setRowVisible(losing_, own != NoQuality);
   lossless_->setVisible(own == Lossless);
-  allowDocument(format() == PictureFormat::Pdf);
+  allowPages(format() == PictureFormat::Pdf);
+  form_->setRowVisible(pages_,
+                       offer_.areas.at(std::max(0, areas_->currentIndex())).area == ExportArea::Pages);
   quality_->setEnabled(own != Lossless || !lossless_->isChecked());
   showPixels();
   emit changed();
 }
 
-void ExportOptions::allowDocument(bool allowed) {
+void ExportOptions::allowPages(bool allowed) {
   for (qsizetype i = 0; i < offer_.areas.size(); ++i) {
-    if (offer_.areas.at(i).area != ExportArea::Document) continue;
+    if (!holdsPages(offer_.areas.at(i).area)) continue;
     if (auto* model = qobject_cast<QStandardItemModel*>(areas_->model()))
       model->item(int(i))->setEnabled(allowed);
     const QSignalBlocker quiet(areas_);

@@ -34,6 +34,7 @@ class ExportOptions final : public QWidget {
  private:
   void addFormats(const ExportChoice& first);
   void addAreas(const ExportChoice& first);
+  void addPages();
   void addPixels(const ExportChoice& first);
   void addBackground(const ExportChoice& first);
   void addQuality(const ExportChoice& first);
@@ -43,7 +44,7 @@ class ExportOptions final : public QWidget {
   [[nodiscard]] PictureFormat format() const;
   void formatChosen();
   /// Only a PDF holds several pages.
-  void allowDocument(bool allowed);
+  void allowPages(bool allowed);
   void showPixels();
   void takePixels(int pixels, double points);
 
@@ -52,7 +53,8 @@ class ExportOptions final : public QWidget {
   QComboBox *formats_, *areas_, *colors_;
   QDoubleSpinBox* dpi_;
   QSpinBox *wide_, *high_, *quality_;
-  QWidget *pixels_, *ground_, *losing_;
+  QSpinBox *firstPage_, *lastPage_;
+  QWidget *pages_, *pixels_, *ground_, *losing_;
   QCheckBox *filled_, *lossless_;
   ColorWell* color_;
 };

@@ -27,6 +27,7 @@
 #include "picture/told_error.h"
 #include "print/page_image.h"
 #include "print/print_job.h"
+#include "ui/print/document_page_controls.h"
 #include "ui/print/page_layout_controls.h"
 #include "ui/print/page_layout_preview.h"
 #include "ui/style/quiet_text.h"
@@ -62,7 +63,10 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   headerAndFooter_->setObjectName(QStringLiteral("headerAndFooter"));
   headerAndFooter_->setChecked(info_.printsHeaderAndFooter());
   form->addRow(QString(), headerAndFooter_);
-  halves->addLayout(form);
+  auto* choices = new QVBoxLayout;
+  choices->addLayout(form);
+  choices->addStretch(1);
+  halves->addLayout(choices);
   box->addLayout(halves, 1);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
   print_ = buttons->addButton(localizedString("&Print"), QDialogButtonBox::AcceptRole);
@@ -116,6 +120,7 @@ void PrintPanel::addPrinter(QFormLayout* form) {
   state_ = new QLabel;
   state_->setObjectName(QStringLiteral("printerState"));
   state_->setWordWrap(true);
+  state_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   makeQuiet(*state_);
   form->addRow(localizedString("P&rinter:"), printer_);
   form->addRow(QString(), state_);
@@ -136,6 +141,11 @@ void PrintPanel::addCopies(QFormLayout* form) {
 }
 
 void PrintPanel::addPages(QFormLayout* form) {
+  if (source_.pages.size() > 1) {
+    documentPages_ =
+        new DocumentPageControls(int(source_.pages.size()), source_.shownPage, info_, form, this);
+    connect(documentPages_, &DocumentPageControls::changed, this, &PrintPanel::takeChoices);
+  }
   allPages_ = new QRadioButton(localizedString("&All"));
   somePages_ = new QRadioButton(localizedString("Fro&m"));
   firstPage_ = new QSpinBox;
@@ -161,7 +171,7 @@ void PrintPanel::addPages(QFormLayout* form) {
       somePages_->setChecked(true);
       takeChoices();
     });
-  form->addRow(localizedString("Pages:"), range);
+  form->addRow(documentPages_ ? localizedString("Sheets:") : localizedString("Pages:"), range);
 }
 
 QWidget* PrintPanel::previewColumn() {
@@ -261,7 +271,8 @@ void PrintPanel::takeChoices() {
   layout_->applyTo(info_);
   info_.setPrintsHeaderAndFooter(headerAndFooter_->isChecked());
   if (copies_) info_.setCopies(copies_->value());
-  const Result<Pagination> pages = paginationOf(source_, info_);
+  if (documentPages_) documentPages_->applyTo(info_);
+  const Result<JobPages> pages = JobPages::of(source_, info_);
   pages_ = pages ? std::optional(*pages) : std::nullopt;
   if (allPages_) {
     for (QSpinBox* each : {firstPage_, lastPage_}) {
@@ -283,7 +294,8 @@ void PrintPanel::takeChoices() {
 void PrintPanel::showPage(int page) {
   if (!preview_ || !pages_) return;
   page_ = std::clamp(page, 1, pageCount());
-  preview_->setPage(*pages_, page_);
+  const SheetPlace place = pages_->placeOf(page_ - 1);
+  preview_->setPage(pages_->pages().at(place.page).pagination, int(place.tile) + 1);
   pageLabel_->setText(localizedString("%1 of %2").arg(page_).arg(pageCount()));
   previous_->setEnabled(page_ > 1);
   next_->setEnabled(page_ < pageCount());
@@ -298,24 +310,27 @@ void PrintPanel::drawPage() {
   }
   const QSize pixels = preview_->paperPixels();
   if (pixels.isEmpty()) return;
-  PageImageRequest request{source_, info_, picture_, page_, pixels};
+  const JobPage& page = pages_->pages().at(pages_->placeOf(page_ - 1).page);
+  PageImageRequest request{source_, info_, page.number == pictureNumber_ ? picture_ : QByteArray(), page_ - 1,
+                           pixels};
   drawingWatcher_.setFuture(QtConcurrent::run(
       &waitingThreads(),
-      [request, pictures = operation_.services().pictures, cancel = ending_]() mutable -> Drawn {
+      [request, page, pictures = operation_.services().pictures, cancel = ending_]() mutable -> Drawn {
         if (request.picture.isEmpty()) {
-          const Result<QByteArray> picture = pictureOf(request.source, cancel);
-          if (!picture) return {{}, {}, toldError(picture.error()).sentence};
+          const Result<QByteArray> picture = pictureOf(page.drawing, cancel);
+          if (!picture) return {{}, page.number, {}, toldError(picture.error()).sentence};
           request.picture = *picture;
         }
         const Result<QImage> image = pageImage(request, *pictures, cancel);
-        if (!image) return {request.picture, {}, toldError(image.error()).sentence};
-        return {request.picture, *image, {}};
+        if (!image) return {request.picture, page.number, {}, toldError(image.error()).sentence};
+        return {request.picture, page.number, *image, {}};
       }));
 }
 
 void PrintPanel::takeDrawing() {
   const Drawn drawn = drawingWatcher_.result();
   picture_ = drawn.picture;
+  pictureNumber_ = drawn.number;
   if (std::exchange(drawAgain_, false)) return drawPage();
   if (drawn.problem.isEmpty())
     preview_->setImage(drawn.image);

@@ -12,7 +12,7 @@
 #include <memory>
 #include <optional>
 
-#include "print/pagination.h"
+#include "print/job_pages.h"
 #include "print/print_info.h"
 #include "print/print_operation.h"
 #include "print/print_spooler.h"
@@ -29,6 +29,7 @@ class QToolButton;
 
 namespace norvex {
 
+class DocumentPageControls;
 class PageLayoutControls;
 class PageLayoutPreview;
 
@@ -44,8 +45,8 @@ class PrintPanel final : public QDialog {
 
   /// The settings as they are chosen now.
   [[nodiscard]] const NSPrintInfo& printInfo() const { return info_; }
-  /// Number of pages that the settings make; 0 where they make none.
-  [[nodiscard]] int pageCount() const { return pages_ ? int(pages_->tiles.size()) : 0; }
+  /// Number of sheets that the settings make; 0 where they make none.
+  [[nodiscard]] int pageCount() const { return pages_ ? pages_->sheetCount() : 0; }
   /// Asks for the file in which the pages are saved; a test may put its own answer.
   std::function<QString(const QString& suggestion)> askForFile;
   /// Asks whether that file, which nobody named like this, may be replaced; a test may put its own answer.
@@ -62,6 +63,7 @@ class PrintPanel final : public QDialog {
  private:
   struct Drawn {
     QByteArray picture;
+    int number = -1;  ///< of its page, as JobPage::number
     QImage image;
     QString problem;
   };
@@ -83,7 +85,7 @@ class PrintPanel final : public QDialog {
   PrintSpooler& spooler_;
   NSPrintInfo info_;
   PrintSource source_;
-  std::optional<Pagination> pages_;
+  std::optional<JobPages> pages_;
   int page_ = 1;
 
   QComboBox* printer_ = nullptr;
@@ -93,6 +95,7 @@ class PrintPanel final : public QDialog {
   QRadioButton* somePages_ = nullptr;
   QSpinBox* firstPage_ = nullptr;
   QSpinBox* lastPage_ = nullptr;
+  DocumentPageControls* documentPages_ = nullptr;  ///< null: there is one page
   PageLayoutControls* layout_;
   QCheckBox* headerAndFooter_;
   PageLayoutPreview* preview_ = nullptr;
@@ -107,7 +110,8 @@ class PrintPanel final : public QDialog {
   QFutureWatcher<Result<QList<Printer>>> printersWatcher_;
   QFutureWatcher<Drawn> drawingWatcher_;
   CancelToken ending_;
-  QByteArray picture_;
+  QByteArray picture_;      ///< of the page that was drawn last
+  int pictureNumber_ = -1;  ///< of that page, as JobPage::number
   bool drawAgain_ = false;
   QTimer settle_, refresh_;
 };

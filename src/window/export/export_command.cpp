@@ -55,7 +55,12 @@ ExportOffer offerOf(const WindowParts& parts) {
   if (view.visibleRect() != view.bounds())
     offer.areas << ExportOffer::Area{ExportArea::Visible, view.visibleRect().size()};
   const auto* pdf = dynamic_cast<const NSPDFImageRep*>(view.imageRep().get());
-  if (pdf && pdf->pageCount() > 1) offer.areas << ExportOffer::Area{ExportArea::Document, view.imageSize()};
+  if (pdf && pdf->pageCount() > 1) {
+    offer.areas << ExportOffer::Area{ExportArea::Document, view.imageSize()}
+                << ExportOffer::Area{ExportArea::Pages, view.imageSize()};
+    offer.pageCount = pdf->pageCount();
+    offer.shownPage = pdf->page();
+  }
   const QUrl url = parts.document() ? parts.document()->fileURL() : QUrl();
   offer.folder = startFolder(url);
   offer.name = pathWithoutExtension(url.fileName());
@@ -133,7 +138,9 @@ void ExportCommand::make() {
   making->choice = dialog_->choice();
   making->snapshot = copying_.snapshot();
   making->snapshot.rect = rectOf(*parts_.view(), making->choice.area);
-  if (making->choice.area == ExportArea::Document) making->snapshot = wholeOf(making->snapshot);
+  const bool asInTheFile =
+      making->choice.area == ExportArea::Document || making->choice.area == ExportArea::Pages;
+  if (asInTheFile) making->snapshot = wholeOf(making->snapshot);
   making->file = std::make_unique<PromisedValue<std::shared_ptr<const ExportedPicture>>>(
       [snapshot = making->snapshot, choice = making->choice, cancel = making->cancel] {
         return std::make_shared<const ExportedPicture>(exportedPicture(snapshot, choice, cancel));

@@ -7,15 +7,20 @@
 #include "encoders/encoded_picture.h"
 #include "encoders/output_check.h"
 #include "picture/bitmap_image.h"
+#include "protocol/page_excerpts.h"
 
 namespace norvex {
 namespace {
 
 constexpr double kPointsPerInch = 72;
 
+bool holdsPages(ExportArea area) {
+  return area == ExportArea::Document || area == ExportArea::Pages;
+}
+
 /// Nothing where that is the whole picture as it stands, which a source may be handed on for.
 std::optional<PictureRegion> regionOf(const PictureSnapshot& snapshot, ExportArea area) {
-  if (area == ExportArea::Document) return std::nullopt;
+  if (holdsPages(area)) return std::nullopt;
   if (area == ExportArea::Page && snapshot.placement.rotate == 0) return std::nullopt;
   return regionOf(snapshot);
 }
@@ -23,6 +28,24 @@ std::optional<PictureRegion> regionOf(const PictureSnapshot& snapshot, ExportAre
 bool hasPages(const NSImageRep& rep) {
   const auto* pdf = dynamic_cast<const NSPDFImageRep*>(&rep);
   return pdf && pdf->pageCount() > 1;
+}
+
+/// Leaves the chosen pages of a PDF.
+void keepPages(ExportedPicture& made, const PictureSnapshot& snapshot, const ExportChoice& choice,
+               const CancelToken& cancel) {
+  const QByteArray excerpt = encodePageExcerpts({{made.bytes, choice.firstPage - 1, choice.lastPage - 1}});
+  const Result<PictureBytes> pages = snapshot.imageRep->process()->setPdfAttributes(excerpt, {}, cancel);
+  made.bytes = pages ? pages->bytes : QByteArray();
+  if (!pages) made.error = pages.error();
+}
+
+/// The first of the pages that are written; null where it is none.
+std::shared_ptr<NSImageRep> shownOf(const PictureSnapshot& snapshot, const ExportChoice& choice) {
+  if (choice.area != ExportArea::Pages) return snapshot.imageRep;
+  const auto* pdf = dynamic_cast<const NSPDFImageRep*>(snapshot.imageRep.get());
+  if (!pdf) return nullptr;
+  const auto page = pdf->imageRepWithPage(choice.firstPage - 1);
+  return page ? *page : nullptr;
 }
 
 /// Formats that the platform reads with what it always brings.
@@ -45,13 +68,14 @@ ExportedPicture exportedPicture(const PictureSnapshot& snapshot, const ExportCho
   surroundings.quality = choice.quality;
   surroundings.color = choice.color;
   surroundings.region = regionOf(snapshot, choice.area);
-  surroundings.onePage = choice.area != ExportArea::Document && hasPages(*snapshot.imageRep);
+  surroundings.onePage = !holdsPages(choice.area) && hasPages(*snapshot.imageRep);
   surroundings.subjectMayBeLeftOut = true;
   PictureEncoder encoder(snapshot.imageRep, surroundings, cancel);
   ExportedPicture made;
   made.bytes = encodedPicture(encoder, choice.format);
   made.remarks = encoder.report().warnings;
   made.error = encoder.report().error;
+  if (choice.area == ExportArea::Pages && !made.bytes.isEmpty()) keepPages(made, snapshot, choice, cancel);
   if (made.bytes.isEmpty()) {
     if (!made.error)
       made.error =
@@ -71,7 +95,7 @@ QImage previewOf(const ExportedPicture& exported, const PictureSnapshot& snapsho
     if (!read.isNull()) return fitted(read, side);
   }
   const auto region = regionOf(snapshot, choice.area);
-  const auto image = docRasterImage(snapshot.imageRep, region);
+  const auto image = docRasterImage(shownOf(snapshot, choice), region);
   if (!image) return {};
   const double longest = std::max({image->size().width(), image->size().height(), 1e-3});
   const QColor ground = isRaster(choice.format) ? choice.background : QColor();

@@ -23,6 +23,10 @@ QByteArray written(QPDFWriter& writer) {
 }  // namespace
 
 void keepOnlyPage(QPDF& qpdf, QPDFObjectHandle page) {
+  keepOnlyPages(qpdf, {page});
+}
+
+void keepOnlyPages(QPDF& qpdf, const std::vector<QPDFObjectHandle>& kept) {
   QPDFObjectHandle root = qpdf.getRoot();
   for (const std::string& key : root.getKeys())
     if (key != "/Type" && key != "/OCProperties" && key != "/OutputIntents" && key != "/Extensions" &&
@@ -30,9 +34,9 @@ void keepOnlyPage(QPDF& qpdf, QPDFObjectHandle page) {
       root.removeKey(key);
   QPDFObjectHandle pages = qpdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
   pages.replaceKey("/Type", QPDFObjectHandle::newName("/Pages"));
-  pages.replaceKey("/Kids", QPDFObjectHandle::newArray(std::vector<QPDFObjectHandle>{page}));
-  pages.replaceKey("/Count", QPDFObjectHandle::newInteger(1));
-  page.replaceKey("/Parent", pages);
+  pages.replaceKey("/Kids", QPDFObjectHandle::newArray(kept));
+  pages.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(kept.size())));
+  for (QPDFObjectHandle page : kept) page.replaceKey("/Parent", pages);
   root.replaceKey("/Pages", pages);
   qpdf.updateAllPagesCache();
   QPDFObjectHandle information = QPDFObjectHandle::newDictionary();

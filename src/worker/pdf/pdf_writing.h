@@ -6,12 +6,16 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <vector>
+
 namespace norvex::engine {
 
 /// Makes `page` the only page and drops from the catalogue and the trailer whatever drawing does not need
 /// (outlines, forms, names, metadata, document information); layers and output intents stay. The dropped
 /// objects are not written.
 void keepOnlyPage(QPDF& qpdf, QPDFObjectHandle page);
+/// The same for several, in that order; each has the attributes that it inherits.
+void keepOnlyPages(QPDF& qpdf, const std::vector<QPDFObjectHandle>& kept);
 
 /// Streams that are compressed already are copied as they are. The file's identifier depends on its contents
 /// alone.

@@ -28,11 +28,14 @@ namespace {
 class Drawing final : public PrintableView {
  public:
   using Picture = std::function<Result<PictureBytes>(const CancelToken&)>;
-  explicit Drawing(const QSizeF& size, Picture picture = {}) : size_(size), picture_(std::move(picture)) {}
+  explicit Drawing(const QSizeF& size, Picture picture = {}, QList<QSizeF> pages = {})
+      : size_(size), picture_(std::move(picture)), pages_(std::move(pages)) {}
   [[nodiscard]] PrintSource printSource() const override {
     PrintSource source;
-    source.size = size_;
-    source.picture = picture_;
+    source.shown.size = size_;
+    source.shown.picture = picture_;
+    for (const QSizeF& page : pages_) source.pages << PrintPage{page, picture_};
+    source.shownPage = 1;
     source.jobTitle = "A drawing";
     source.header = [] { return std::optional(defaultPageLine()); };
     source.footer = [] { return std::optional(defaultPageLine()); };
@@ -42,6 +45,7 @@ class Drawing final : public PrintableView {
  private:
   QSizeF size_;
   Picture picture_;
+  QList<QSizeF> pages_;  ///< of a document with several; the second is the one that is shown
 };
 
 NSPrintInfo a4() {
@@ -66,12 +70,13 @@ class PrintPanelTest : public QObject {
   std::unique_ptr<NSPrintOperation> operation_;
   std::unique_ptr<PrintPanel> panel_;
   Drawing::Picture picture_;  ///< of the next panel; none: blank pages
+  QList<QSizeF> pages_;       ///< of the next panel's document; none: there is one
 
   void open(const QSizeF& size, const QList<Printer>& printers = kPrinters, const NSPrintInfo& info = a4()) {
     panel_.reset();
     spooler_ = std::make_unique<MemorySpooler>(printers);
-    operation_ = NSPrintOperation::printOperationWithView(std::make_unique<Drawing>(size, picture_), info,
-                                                          {&service_, spooler_.get(), nullptr});
+    operation_ = NSPrintOperation::printOperationWithView(std::make_unique<Drawing>(size, picture_, pages_),
+                                                          info, {&service_, spooler_.get(), nullptr});
     operation_->printPanel().setOptions(operation_->printPanel().options() | 28);
     panel_ = std::make_unique<PrintPanel>(*operation_, *spooler_, nullptr);
     panel_->show();
@@ -94,6 +99,7 @@ class PrintPanelTest : public QObject {
   void cleanup() {
     panel_.reset();
     picture_ = {};
+    pages_ = {};
   }
 
   void theDefaultPrinterIsChosenAndItsStateIsTold() {
@@ -203,6 +209,34 @@ class PrintPanelTest : public QObject {
     child<QCheckBox>("fit")->click();
     QCOMPARE(label->text(), QString("1 of 1"));
     QVERIFY(!child<QToolButton>("nextPage")->isEnabled());
+  }
+
+  void ofADocumentWithPagesTheShownOneIsPrintedUnlessOthersAreChosen() {
+    pages_ = {{100, 100}, {3000, 2000}, {100, 100}, {100, 100}};
+    open(pages_.at(1));
+    auto* which = child<QComboBox>("documentPages");
+    QCOMPARE(which->currentText(), QString("The shown page (2)"));
+    QCOMPARE(panel_->pageCount(), 18);
+    QVERIFY(!child<QSpinBox>("firstDocumentPage")->isEnabled());
+    which->setCurrentIndex(1);
+    QCOMPARE(which->currentText(), QString("All 4 pages"));
+    QCOMPARE(panel_->pageCount(), 21);
+    which->setCurrentIndex(2);
+    child<QSpinBox>("firstDocumentPage")->setValue(3);
+    QVERIFY(child<QSpinBox>("firstDocumentPage")->isEnabled());
+    QCOMPARE(panel_->pageCount(), 2);
+    child<QSpinBox>("lastDocumentPage")->setValue(1);  // the other end comes along
+    QCOMPARE(child<QSpinBox>("firstDocumentPage")->value(), 1);
+    QCOMPARE(panel_->pageCount(), 1);
+    panel_->accept();
+    QCOMPARE(operation_->printInfo().documentPages(), DocumentPages::Range);
+    QCOMPARE(operation_->printInfo().firstDocumentPage(), 1);
+    QCOMPARE(operation_->printInfo().lastDocumentPage(), 1);
+  }
+
+  void aDocumentOfOnePageHasNoSuchChoice() {
+    open({100, 100});
+    QVERIFY(!panel_->findChild<QComboBox*>("documentPages"));
   }
 
   void aRangeOfPagesCanBeChosen() {

@@ -6,8 +6,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QSpinBox>
+#include <QStandardItemModel>
 
 #include "kit/test_main.h"
+#include "protocol/page_excerpts.h"
 #include "ui/export/export_dialog.h"
 #include "window/export/export_command.h"
 #include "window/export/export_settings.h"
@@ -17,10 +20,13 @@ using namespace norvex;
 
 namespace {
 
+const QByteArray kExcerpt = emptyPdf({20, 10});
+
 class ExportFixture : public WindowFixture {
  public:
-  explicit ExportFixture(bool pdf = false)
-      : controller(pdf ? loaded(emptyPdf({200, 100}), "a.pdf", "com.adobe.pdf") : loadedEps()),
+  explicit ExportFixture(bool pdf = false, int pages = 1)
+      : controller(
+            (prepare(pages), pdf ? loaded(emptyPdf({200, 100}), "a.pdf", "com.adobe.pdf") : loadedEps())),
         command(controller.findChild<ExportCommand*>()) {
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
   }
@@ -54,6 +60,19 @@ class ExportFixture : public WindowFixture {
   MainWindowController& controller;
   ExportCommand* command;
   QString path;
+  QByteArray excerpt;  ///< what was last asked for
+
+ private:
+  void prepare(int pages) {
+    MemoryPicture picture;
+    picture.facts.pageCount = pages;
+    picture.facts.pageBounds = QList<QRectF>(pages, QRectF(0, 0, 200, 100));
+    picture.setAttributes = [this](const QByteArray& pdf, const PdfAttributes&) {
+      excerpt = pdf;
+      return kExcerpt;
+    };
+    service.setPicture(picture);
+  }
 };
 
 void select(NorvexView& view, const QPointF& from, const QPointF& to) {
@@ -121,6 +140,38 @@ class ExportTest : public QObject {
     f.name("out.pdf");
     QVERIFY(f.exported());
     QCOMPARE(f.bytes(), emptyPdf({200, 100}));
+  }
+
+  void someOfThePagesAreWrittenWhereTheyAreChosen() {
+    ExportFixture f(true, 5);
+    f.dialog();
+    f.choose(PictureFormat::Pdf);
+    auto* areas = f.command->dialog()->findChild<QComboBox*>("exportArea");
+    auto* first = f.command->dialog()->findChild<QSpinBox*>("exportFirstPage");
+    auto* last = f.command->dialog()->findChild<QSpinBox*>("exportLastPage");
+    QVERIFY(!first->isVisibleTo(f.command->dialog()));
+    areas->setCurrentIndex(areas->findText("Some pages"));
+    QVERIFY(first->isVisibleTo(f.command->dialog()));
+    QCOMPARE(last->maximum(), 5);
+    first->setValue(4);
+    last->setValue(2);  // the other end comes along
+    QCOMPARE(first->value(), 2);
+    last->setValue(3);
+    f.name("some.pdf");
+    QVERIFY(f.exported());
+    const auto told = decodePageExcerpts(f.excerpt);
+    QVERIFY(told.ok());
+    QCOMPARE(told->size(), qsizetype(1));
+    QCOMPARE(told->first().first, 1);
+    QCOMPARE(told->first().last, 2);
+    QVERIFY(told->first().pdf.startsWith("%PDF"));
+    QCOMPARE(f.bytes(), kExcerpt);
+    QTRY_VERIFY(!f.command->dialog());
+    f.dialog();
+    f.choose(PictureFormat::Png);  // of which a file holds one
+    areas = f.command->dialog()->findChild<QComboBox*>("exportArea");
+    const auto* rows = qobject_cast<const QStandardItemModel*>(areas->model());
+    QVERIFY(!rows->item(areas->findText("Some pages"))->isEnabled());
   }
 
   void theExpectedSizeIsTheFiles() {

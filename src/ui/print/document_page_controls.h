@@ -1,0 +1,38 @@
+// The pages of a document that are printed.
+#pragma once
+
+#include <QObject>
+
+#include "print/print_info.h"
+
+class QComboBox;
+class QFormLayout;
+class QSpinBox;
+class QWidget;
+
+namespace norvex {
+
+/// Part of the print panel, of a document with several pages. Main thread.
+class DocumentPageControls final : public QObject {
+  Q_OBJECT
+ public:
+  /// Adds its row to `form`, which outlives this. `count`: of the document's pages; `shown`: the one in the
+  /// window, from 0.
+  DocumentPageControls(int count, int shown, const NSPrintInfo& info, QFormLayout* form, QObject* parent);
+
+  /// Writes what is chosen, and nothing else, into `info`.
+  void applyTo(NSPrintInfo& info) const;
+
+ signals:
+  /// A person chose something.
+  void changed();
+
+ private:
+  void showRange();
+
+  QComboBox* which_;
+  QWidget* range_;
+  QSpinBox *first_, *last_;
+};
+
+}  // namespace norvex

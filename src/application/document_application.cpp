@@ -21,6 +21,7 @@
 #include "types/uniform_type.h"
 #include "ui/panels/alert_box.h"
 #include "ui/panels/centred_window.h"
+#include "ui/panels/own_shortcuts.h"
 
 namespace norvex {
 
@@ -260,6 +261,7 @@ void DocumentApplication::equipWindow(QMainWindow* window) {
   menu->insertAction(first, open);
   menu->insertMenu(first, recent);
   menu->insertSeparator(first);
+  OwnShortcuts::shared().apply(*window);
 }
 
 void DocumentApplication::addNeighbours(QMainWindow* window) {

@@ -4,10 +4,23 @@
 
 namespace norvex {
 
-QString stateFolder() {
-  QString folder = qEnvironmentVariable("XDG_STATE_HOME");
-  if (!QDir::isAbsolutePath(folder)) folder = QDir::homePath() + QStringLiteral("/.local/state");
+namespace {
+
+/// The folder that the variable names; where it names none, `otherwise` in the user's own.
+QString ownFolder(const char* variable, QLatin1String otherwise) {
+  QString folder = qEnvironmentVariable(variable);
+  if (!QDir::isAbsolutePath(folder)) folder = QDir::homePath() + otherwise;
   return folder + QStringLiteral("/norvex");
+}
+
+}  // namespace
+
+QString stateFolder() {
+  return ownFolder("XDG_STATE_HOME", QLatin1String("/.local/state"));
+}
+
+QString settingsFolder() {
+  return ownFolder("XDG_CONFIG_HOME", QLatin1String("/.config"));
 }
 
 }  // namespace norvex

@@ -1,4 +1,4 @@
-// Where the program keeps what it remembers and nobody has chosen.
+// Where the program keeps what it remembers and nobody has chosen, and what somebody has.
 #pragma once
 
 #include <QString>
@@ -7,5 +7,8 @@ namespace norvex {
 
 /// norvex/ in the user's state folder (XDG_STATE_HOME); may not exist yet. Any thread.
 [[nodiscard]] QString stateFolder();
+
+/// norvex/ in the user's folder of settings (XDG_CONFIG_HOME); may not exist yet. Any thread.
+[[nodiscard]] QString settingsFolder();
 
 }  // namespace norvex

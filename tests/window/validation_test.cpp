@@ -186,6 +186,17 @@ class ValidationTest : public QObject {
     }
   }
 
+  void everyCommandCanBeGivenOtherKeys() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    QStringList names;
+    for (const QAction* action : menuCommands(c)) {
+      QVERIFY2(!action->objectName().isEmpty(), qPrintable(action->text()));
+      QVERIFY2(!names.contains(action->objectName()), qPrintable(action->objectName()));
+      names << action->objectName();
+    }
+  }
+
   void theListOfKeysIsSearchedAndKnowsTheMouse() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loadedEps();

@@ -1,148 +1,168 @@
 #include "ui/panels/shortcut_panel.h"
 
-#include <QAction>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QHeaderView>
+#include <QHBoxLayout>
+#include <QKeySequenceEdit>
+#include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
-#include <QTreeWidget>
+#include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 #include "base/localized_string.h"
 #include "ui/panels/centred_window.h"
+#include "ui/panels/own_shortcuts.h"
+#include "ui/panels/shortcut_list.h"
 
 namespace norvex {
-
 namespace {
 
 const QString kName = QStringLiteral("shortcutPanel");
+constexpr int kMargin = 10;
 
-/// A menu text as it is read: without the marks of mnemonics and without the dots of commands that ask first.
-QString plain(QString text) {
-  text.replace(QStringLiteral("&&"), QStringLiteral("\u0001")).remove(u'&').replace(u'\u0001', u'&');
-  while (text.endsWith(u'\u2026')) text.chop(1);
-  return text;
+/// The list, and below it the keys of the command that is chosen there.
+class ShortcutPanel final : public QDialog {
+ public:
+  ShortcutPanel(QWidget& window, const QMenuBar& menus);
+
+ private:
+  void addSearch(QVBoxLayout& column);
+  void addKeys(QVBoxLayout& column);
+  void addButtons(QVBoxLayout& column);
+  void showCommand();
+  void take(const QKeySequence& typed);
+  void tell(const QString& sentence) { message_->setText(sentence); }
+
+  QWidget& window_;
+  ShortcutList* list_;
+  QLabel *title_ = nullptr, *message_ = nullptr;
+  QKeySequenceEdit* keys_ = nullptr;
+  QPushButton *remove_ = nullptr, *reset_ = nullptr, *resetAll_ = nullptr;
+};
+
+ShortcutPanel::ShortcutPanel(QWidget& window, const QMenuBar& menus)
+    : QDialog(&window), window_(window), list_(new ShortcutList(this, menus)) {
+  setObjectName(kName);
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowTitle(localizedString("Keyboard Shortcuts"));
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, kMargin);
+  addSearch(*column);
+  column->addWidget(list_, 1);
+  addKeys(*column);
+  addButtons(*column);
+  connect(list_, &QTreeWidget::currentItemChanged, this, [this] {
+    tell({});
+    showCommand();
+  });
+  connect(list_, &QTreeWidget::itemActivated, this, [this] {
+    if (keys_->isEnabled()) keys_->setFocus(Qt::OtherFocusReason);
+  });
+  connect(&OwnShortcuts::shared(), &OwnShortcuts::changed, this, [this] {
+    list_->showKeys();
+    showCommand();
+  });
+  showCommand();
+  resize(fittingScreen(*this, {540, 640}));
 }
 
-QString keysOf(const QAction& action) {
-  QStringList keys;
-  for (const QKeySequence& each : action.shortcuts()) keys << each.toString(QKeySequence::NativeText);
-  return keys.join(QStringLiteral(",  "));
+void ShortcutPanel::addSearch(QVBoxLayout& column) {
+  auto* search = new QLineEdit(this);
+  search->setObjectName(QStringLiteral("shortcutSearch"));
+  search->setPlaceholderText(localizedString("Search commands and keys"));
+  search->setAccessibleName(localizedString("Search commands and keys"));
+  search->setClearButtonEnabled(true);
+  auto* margin = new QVBoxLayout;
+  margin->setContentsMargins(kMargin, kMargin, kMargin, 0);
+  margin->addWidget(search);
+  column.addLayout(margin);
+  connect(search, &QLineEdit::textChanged, list_, &ShortcutList::filter);
 }
 
-void addCommands(QTreeWidgetItem& group, const QMenu& menu, const QString& before) {
-  for (const QAction* action : menu.actions()) {
-    if (const QMenu* more = action->menu())
-      addCommands(group, *more, plain(action->text()) + QStringLiteral(": "));
-    else if (!action->isSeparator() && !action->shortcuts().isEmpty())
-      new QTreeWidgetItem(&group, {before + plain(action->text()), keysOf(*action)});
+void ShortcutPanel::addKeys(QVBoxLayout& column) {
+  title_ = new QLabel(this);
+  title_->setObjectName(QStringLiteral("shortcutTitle"));
+  title_->setWordWrap(true);
+  keys_ = new QKeySequenceEdit(this);
+  keys_->setObjectName(QStringLiteral("shortcutKeys"));
+  keys_->setAccessibleName(localizedString("New keys"));
+  for (auto* field : keys_->findChildren<QLineEdit*>()) field->setAccessibleName(keys_->accessibleName());
+  remove_ = new QPushButton(localizedString("&Remove Keys"), this);
+  remove_->setObjectName(QStringLiteral("shortcutRemove"));
+  reset_ = new QPushButton(localizedString("&Default Keys"), this);
+  reset_->setObjectName(QStringLiteral("shortcutReset"));
+  message_ = new QLabel(this);
+  message_->setObjectName(QStringLiteral("shortcutMessage"));
+  message_->setWordWrap(true);
+  message_->setMinimumHeight(2 * fontMetrics().lineSpacing());  // nothing moves when there is one
+  message_->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+  auto* row = new QHBoxLayout;
+  row->addWidget(keys_, 1);
+  for (QPushButton* button : {remove_, reset_}) {
+    button->setAutoDefault(false);
+    row->addWidget(button);
   }
+  auto* box = new QVBoxLayout;
+  box->setContentsMargins(kMargin, 0, kMargin, 0);
+  box->addWidget(title_);
+  box->addLayout(row);
+  box->addWidget(message_);
+  column.addLayout(box);
+  connect(keys_, &QKeySequenceEdit::keySequenceChanged, this, &ShortcutPanel::take);
+  connect(remove_, &QPushButton::clicked, this, [this] {
+    tell({});
+    if (const QAction* command = list_->command()) OwnShortcuts::shared().set(*command, {});
+  });
+  connect(reset_, &QPushButton::clicked, this, [this] {
+    tell({});
+    if (const QAction* command = list_->command()) OwnShortcuts::shared().reset(*command);
+  });
 }
 
-QTreeWidgetItem* addGroup(QTreeWidget* list, const QString& title) {
-  auto* group = new QTreeWidgetItem(list, {title});
-  QFont strong = list->font();
-  strong.setBold(true);
-  group->setFont(0, strong);
-  return group;
+void ShortcutPanel::addButtons(QVBoxLayout& column) {
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  buttons->setContentsMargins(kMargin, 0, kMargin, 0);
+  resetAll_ = buttons->addButton(localizedString("All De&faults"), QDialogButtonBox::ResetRole);
+  resetAll_->setObjectName(QStringLiteral("shortcutResetAll"));
+  resetAll_->setAutoDefault(false);
+  column.addWidget(buttons);
+  connect(resetAll_, &QPushButton::clicked, this, [this] {
+    tell({});
+    OwnShortcuts::shared().resetAll();
+  });
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
 }
 
-/// Keys that no menu shows.
-void addGestures(QTreeWidget* list) {
-  struct Gesture {
-    const char* what;
-    const char* how;
-  };
-  static constexpr Gesture gestures[] = {
-      {"Place the first corner of a selection", "Drag"},
-      {"Draw the selection from there", "Drag again"},
-      {"Size the selection", "Drag a square beside it"},
-      {"Move the selection", "Drag its size"},
-      {"Take the selection to another program", "Ctrl + Drag"},
-      {"Zoom at the pointer", "Ctrl + Wheel"},
-      {"Move the picture", "Wheel"},
-      {"Commands for the picture", "Right button"},
-  };
-  QTreeWidgetItem* group = addGroup(list, localizedString("With the mouse"));
-  for (const Gesture& each : gestures)
-    new QTreeWidgetItem(group, {localizedString(each.what), localizedString(each.how)});
-  group->setExpanded(true);
+void ShortcutPanel::showCommand() {
+  const QAction* command = list_->command();
+  const bool possible = command && OwnShortcuts::mayChange(*command);
+  title_->setText(possible
+                      ? localizedString("Keys of “%1”:").arg(plainTitle(command->text()))
+                      : localizedString("Choose a command, and then press the keys that it shall have."));
+  for (QWidget* each : std::initializer_list<QWidget*>{keys_, remove_, reset_}) each->setEnabled(possible);
+  remove_->setEnabled(possible && !command->shortcuts().isEmpty());
+  reset_->setEnabled(possible && OwnShortcuts::shared().isOwn(*command));
+  resetAll_->setEnabled(OwnShortcuts::shared().hasAny());
+  const QSignalBlocker quiet(keys_);
+  keys_->setKeySequence(possible ? command->shortcut() : QKeySequence());
 }
 
-/// Shows the rows that hold every word of `text`, and the groups of which any is left.
-void filterRows(const QTreeWidget& list, const QString& text) {
-  const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
-  for (int i = 0; i < list.topLevelItemCount(); ++i) {
-    QTreeWidgetItem* group = list.topLevelItem(i);
-    bool any = false;
-    for (int row = 0; row < group->childCount(); ++row) {
-      QTreeWidgetItem* item = group->child(row);
-      const QString both = group->text(0) + u' ' + item->text(0) + u' ' + item->text(1);
-      const bool holds = std::all_of(words.begin(), words.end(), [&both](const QString& word) {
-        return both.contains(word, Qt::CaseInsensitive);
-      });
-      item->setHidden(!holds);
-      any = any || holds;
-    }
-    group->setHidden(!any);
-  }
-}
-
-QTreeWidget* commandList(QWidget* parent, const QMenuBar& menus) {
-  auto* list = new QTreeWidget(parent);
-  list->setAccessibleName(localizedString("Commands and their keys"));
-  list->setColumnCount(2);
-  list->setHeaderLabels({localizedString("Command"), localizedString("Keys")});
-  list->setRootIsDecorated(false);
-  list->setFrameShape(QFrame::NoFrame);
-  for (const QAction* action : menus.actions()) {
-    if (!action->menu()) continue;
-    QTreeWidgetItem* group = addGroup(list, plain(action->text()));
-    addCommands(*group, *action->menu(), {});
-    group->setExpanded(true);
-  }
-  addGestures(list);
-  list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-  list->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-  list->header()->setStretchLastSection(false);
-  list->setCurrentItem(list->topLevelItem(0));
-  return list;
+void ShortcutPanel::take(const QKeySequence& typed) {
+  QAction* command = list_->command();
+  if (!command || typed.isEmpty()) return;
+  const QKeySequence keys(typed[0]);  // commands are called with one chord
+  tell(OwnShortcuts::complaintAbout(window_, *command, keys));
+  if (message_->text().isEmpty()) OwnShortcuts::shared().set(*command, {keys});
+  showCommand();
 }
 
 }  // namespace
 
 void showShortcutPanel(QWidget& parent, const QMenuBar& menus) {
   auto* panel = parent.findChild<QDialog*>(kName, Qt::FindDirectChildrenOnly);
-  if (!panel) {
-    panel = new QDialog(&parent);
-    panel->setObjectName(kName);
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    panel->setWindowTitle(localizedString("Keyboard Shortcuts"));
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, 10);
-    auto* search = new QLineEdit(panel);
-    search->setObjectName(QStringLiteral("shortcutSearch"));
-    search->setPlaceholderText(localizedString("Search commands and keys"));
-    search->setAccessibleName(localizedString("Search commands and keys"));
-    search->setClearButtonEnabled(true);
-    auto* margin = new QVBoxLayout;
-    margin->setContentsMargins(10, 10, 10, 0);
-    margin->addWidget(search);
-    column->addLayout(margin);
-    QTreeWidget* list = commandList(panel, menus);
-    column->addWidget(list, 1);
-    QObject::connect(search, &QLineEdit::textChanged, list,
-                     [list](const QString& text) { filterRows(*list, text); });
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, panel);
-    buttons->setContentsMargins(10, 0, 10, 0);
-    column->addWidget(buttons);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, panel, &QDialog::close);
-    panel->resize(fittingScreen(*panel, {520, 620}));
-  }
+  if (!panel) panel = new ShortcutPanel(parent, menus);
   panel->show();
   panel->raise();
   panel->activateWindow();

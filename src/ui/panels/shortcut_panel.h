@@ -6,9 +6,9 @@ class QWidget;
 
 namespace norvex {
 
-/// Opens a window beside `parent` with every command of the menus that has keys, menu by menu, as they are
-/// now. It is not modal and destroys itself when closed; a second call brings the first one to the front.
-/// Main thread.
+/// Opens a window beside `parent` with every command of the menus, menu by menu, as they are now, where the
+/// keys of each can be changed. It is not modal and destroys itself when closed; a second call brings the
+/// first one to the front. Main thread.
 void showShortcutPanel(QWidget& parent, const QMenuBar& menus);
 
 }  // namespace norvex

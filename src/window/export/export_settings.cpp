@@ -1,19 +1,17 @@
 #include "window/export/export_settings.h"
 
-#include <QDir>
 #include <QSettings>
 
 #include <algorithm>
 
 #include "base/latin1_text.h"
+#include "base/state_folder.h"
 
 namespace norvex {
 namespace {
 
 QSettings settings() {
-  QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
-  if (!QDir::isAbsolutePath(folder)) folder = QDir::homePath() + QStringLiteral("/.config");
-  return QSettings(folder + QStringLiteral("/norvex/export.ini"), QSettings::IniFormat);
+  return QSettings(settingsFolder() + QStringLiteral("/export.ini"), QSettings::IniFormat);
 }
 
 constexpr double kLeastDpi = 1, kMostDpi = 4800;

@@ -1,10 +1,10 @@
 #include "window/inspector/chosen_encodings.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStringList>
 
+#include "base/state_folder.h"
 #include "metadata/text_encoding.h"
 
 namespace norvex {
@@ -14,9 +14,7 @@ constexpr qsizetype kKept = 200;
 const QString kFiles = QStringLiteral("files");
 
 QSettings settings() {
-  QString folder = qEnvironmentVariable("XDG_STATE_HOME");
-  if (!QDir::isAbsolutePath(folder)) folder = QDir::homePath() + QStringLiteral("/.local/state");
-  return QSettings(folder + QStringLiteral("/norvex/encodings.ini"), QSettings::IniFormat);
+  return QSettings(stateFolder() + QStringLiteral("/encodings.ini"), QSettings::IniFormat);
 }
 
 /// Entries are "NAME PATH": names have no blanks.

@@ -1,0 +1,188 @@
+#include "ui/panels/own_shortcuts.h"
+
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QSettings>
+
+#include <algorithm>
+#include <optional>
+
+#include "base/localized_string.h"
+#include "base/state_folder.h"
+
+namespace norvex {
+namespace {
+
+constexpr char kDefaults[] = "norvexDefaultKeys";
+constexpr qsizetype kMostKeys = 8;  // of one command
+
+QString settingsFile() {
+  return settingsFolder() + QStringLiteral("/shortcuts.ini");
+}
+
+QString keyOf(const QAction& command) {
+  return QStringLiteral("keys/") + command.objectName();
+}
+
+void addCommands(QList<QAction*>& commands, const QList<QAction*>& actions) {
+  for (QAction* action : actions) {
+    if (action->menu())
+      addCommands(commands, action->menu()->actions());
+    else if (!action->isSeparator())
+      commands << action;
+  }
+}
+
+QList<QAction*> commandsOf(const QWidget& window) {
+  QList<QAction*> commands;
+  if (const auto* menus = window.findChild<QMenuBar*>()) addCommands(commands, menus->actions());
+  return commands;
+}
+
+QList<QKeySequence> defaultsOf(QAction& command) {
+  if (!command.property(kDefaults).isValid())
+    command.setProperty(kDefaults, QVariant::fromValue(command.shortcuts()));
+  return command.property(kDefaults).value<QList<QKeySequence>>();
+}
+
+QKeyCombination firstOf(const QKeySequence& keys) {
+  return keys.isEmpty() ? QKeyCombination(Qt::Key_unknown) : keys[0];
+}
+
+/// With less it would be typed in a field, or move the picture.
+bool isForCommands(const QKeySequence& keys) {
+  const Qt::Key key = firstOf(keys).key();
+  const bool modified =
+      firstOf(keys).keyboardModifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  return key != Qt::Key_unknown && (modified || (key >= Qt::Key_F1 && key <= Qt::Key_F35));
+}
+
+/// The keys that the file gives; nothing: none, or none that can be understood.
+std::optional<QList<QKeySequence>> storedKeys(const QSettings& settings, const QAction& command) {
+  if (!OwnShortcuts::mayChange(command) || !settings.contains(keyOf(command))) return std::nullopt;
+  const QStringList texts = settings.value(keyOf(command)).toStringList();
+  QList<QKeySequence> keys;
+  for (const QString& text : texts) {
+    if (text.isEmpty()) continue;  // how an empty list is written
+    const QKeySequence one = QKeySequence::fromString(text, QKeySequence::PortableText);
+    if (!isForCommands(one) || keys.size() >= kMostKeys) return std::nullopt;
+    keys << one;
+  }
+  return keys;
+}
+
+bool hasKeysOfOther(const QList<QAction*>& commands, const QAction* command,
+                    const QList<QKeySequence>& keys) {
+  return std::any_of(commands.cbegin(), commands.cend(), [&](const QAction* other) {
+    if (other == command) return false;
+    const QList<QKeySequence> theirs = other->shortcuts();
+    return std::any_of(keys.cbegin(), keys.cend(), [&](const auto& one) { return theirs.contains(one); });
+  });
+}
+
+}  // namespace
+
+QString plainTitle(QString text) {
+  // Where the letters of a language are no keys, a mnemonic stands behind the title in brackets.
+  static const QRegularExpression added(QStringLiteral("\\(&.\\)"));
+  text.remove(added);
+  text.replace(QStringLiteral("&&"), QStringLiteral("\u0001")).remove(u'&').replace(u'\u0001', u'&');
+  while (text.endsWith(u'\u2026')) text.chop(1);
+  return text;
+}
+
+OwnShortcuts& OwnShortcuts::shared() {
+  static OwnShortcuts own;
+  return own;
+}
+
+void OwnShortcuts::apply(QWidget& window) {
+  windows_.removeAll(nullptr);
+  if (!windows_.contains(&window)) windows_ << &window;
+  const QList<QAction*> commands = commandsOf(window);
+  for (QAction* command : commands) command->setShortcuts(defaultsOf(*command));
+  if (!QFileInfo::exists(settingsFile())) return;
+  const QSettings settings(settingsFile(), QSettings::IniFormat);
+  QList<std::pair<QAction*, QList<QKeySequence>>> own;
+  for (QAction* command : commands)
+    if (const auto keys = storedKeys(settings, *command)) {
+      command->setShortcuts(QList<QKeySequence>());  // what is given up here may be taken there
+      own << std::pair(command, *keys);
+    }
+  for (const auto& [command, keys] : own)
+    command->setShortcuts(hasKeysOfOther(commands, command, keys) ? defaultsOf(*command) : keys);
+}
+
+void OwnShortcuts::applyToAll() {
+  for (const QPointer<QWidget>& window : QList<QPointer<QWidget>>(windows_))
+    if (window) apply(*window);
+  emit changed();
+}
+
+QString OwnShortcuts::complaintAbout(const QWidget& window, const QAction& command,
+                                     const QKeySequence& keys) {
+  const QString shown = keys.toString(QKeySequence::NativeText);
+  if (!isForCommands(keys))
+    return localizedString(
+               "“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a "
+               "function key.")
+        .arg(shown);
+  for (const QAction* other : window.findChildren<QAction*>())
+    if (other != &command && other->shortcuts().contains(keys))
+      return localizedString("“%1” belongs to “%2” already, and nothing was changed.")
+          .arg(shown, plainTitle(other->text()));
+  if (const auto* menus = window.findChild<QMenuBar*>())
+    for (const QAction* menu : menus->actions())
+      if (QKeySequence::mnemonic(menu->text()) == keys)
+        return localizedString("“%1” opens the menu “%2”, and nothing was changed.")
+            .arg(shown, plainTitle(menu->text()));
+  return {};
+}
+
+bool OwnShortcuts::mayChange(const QAction& command) {
+  return !command.objectName().isEmpty();
+}
+
+void OwnShortcuts::set(const QAction& command, const QList<QKeySequence>& keys) {
+  if (!mayChange(command)) return;
+  QStringList texts;
+  for (const QKeySequence& one : keys) texts << one.toString(QKeySequence::PortableText);
+  if (texts.isEmpty()) texts << QString();
+  {
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    settings.setValue(keyOf(command), texts);
+  }
+  applyToAll();
+}
+
+void OwnShortcuts::reset(const QAction& command) {
+  {
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    settings.remove(keyOf(command));
+  }
+  applyToAll();
+}
+
+void OwnShortcuts::resetAll() {
+  {
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    settings.remove(QStringLiteral("keys"));
+  }
+  applyToAll();
+}
+
+bool OwnShortcuts::isOwn(const QAction& command) const {
+  return QFileInfo::exists(settingsFile()) &&
+         QSettings(settingsFile(), QSettings::IniFormat).contains(keyOf(command));
+}
+
+bool OwnShortcuts::hasAny() const {
+  if (!QFileInfo::exists(settingsFile())) return false;
+  QSettings settings(settingsFile(), QSettings::IniFormat);
+  settings.beginGroup(QStringLiteral("keys"));
+  return !settings.childKeys().isEmpty();
+}
+
+}  // namespace norvex

@@ -7,79 +7,23 @@
 #include <cmath>
 
 #include "kit/test_main.h"
+#include "system/painted_screen.h"
 #include "system/x_session.h"
 
 using namespace norvex;
+using kit::boundsOf;
+using kit::count;
+using kit::isBlue;
+using kit::isRed;
+using kit::kEps;
+using kit::kHeight;
+using kit::kSvg;
+using kit::kWidth;
+using kit::near;
+using kit::paperIn;
 using kit::XSession;
 
 namespace {
-
-// Small enough to be seen whole at every angle in the smallest window.
-constexpr double kWidth = 160, kHeight = 120;
-/// One colour all over, and one that no theme has.
-const QByteArray kEps =
-    "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 160 120\n%%EndComments\n1 0.9 0.2 setrgbcolor 0 0 160 120 "
-    "rectfill\n%%EOF\n";
-const QByteArray kSvg =
-    "<svg xmlns='http://www.w3.org/2000/svg' width='160pt' height='120pt'><rect width='100%' height='100%' "
-    "fill='#ffe633'/></svg>";
-
-bool isPaper(QRgb c) {
-  return std::abs(qRed(c) - 255) < 12 && std::abs(qGreen(c) - 230) < 12 && std::abs(qBlue(c) - 51) < 16;
-}
-bool isBlue(QRgb c) {
-  return qBlue(c) > 180 && qRed(c) < 110 && qGreen(c) < 110;
-}
-bool isRed(QRgb c) {
-  return qRed(c) > 200 && qGreen(c) < 110 && qBlue(c) < 110;
-}
-
-QRect boundsOf(const QRect& within, const std::function<bool(int, int)>& counts) {
-  QRect box;
-  for (int y = within.top(); y <= within.bottom(); ++y)
-    for (int x = within.left(); x <= within.right(); ++x)
-      if (counts(x, y)) box |= QRect(x, y, 1, 1);
-  return box;
-}
-
-/// Bounds of the largest piece of the picture's colour: icons have a few pixels of it too.
-QRect paperIn(const QImage& image) {
-  QImage seen(image.size(), QImage::Format_Grayscale8);
-  seen.fill(0);
-  QRect largest;
-  qsizetype most = 0;
-  const auto visit = [&](QList<QPoint>& open, int x, int y) {
-    if (!image.valid(x, y) || seen.constScanLine(y)[x] || !isPaper(image.pixel(x, y))) return;
-    seen.scanLine(y)[x] = 1;
-    open << QPoint(x, y);
-  };
-  for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x) {
-      QList<QPoint> piece;
-      visit(piece, x, y);
-      QRect box;
-      for (qsizetype i = 0; i < piece.size(); ++i) {
-        const QPoint at = piece[i];
-        box |= QRect(at, QSize(1, 1));
-        for (const QPoint& step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
-          visit(piece, at.x() + step.x(), at.y() + step.y());
-      }
-      if (piece.size() > most) most = piece.size(), largest = box;
-    }
-  return largest;
-}
-
-int count(const QImage& image, const QRect& within, bool (*is)(QRgb)) {
-  int found = 0;
-  for (int y = within.top(); y <= within.bottom(); ++y)
-    for (int x = within.left(); x <= within.right(); ++x) found += is(image.pixel(x, y)) ? 1 : 0;
-  return found;
-}
-
-/// Whether a pixel of this colour is at the point or beside it.
-bool near(const QImage& image, const QPoint& at, bool (*is)(QRgb)) {
-  return count(image, QRect(at, at).adjusted(-1, -1, 1, 1), is) > 0;
-}
 
 /// The two numbers of a field, "(    50.00,    30.00)".
 QPointF numbersOf(const QString& field) {

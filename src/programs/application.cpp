@@ -12,6 +12,7 @@
 #include "application/application.h"
 #include "application/desktop_service.h"
 #include "application/document_application.h"
+#include "application/memory_keeper.h"
 #include "application/string_tables.h"
 #include "base/system_log.h"
 #include "cli/archive/archive_job.h"
@@ -74,6 +75,7 @@ int runWindows(int argc, char** argv, WorkerService& worker) {
     return controller;
   });
   documents.setPreferences(viewPreferences());
+  const MemoryKeeper memory(documents.documents());
   DesktopService desktop;
   answerDesktop(desktop, documents);
   if (argc > 1 && asksForDesktopService(argv[1])) {

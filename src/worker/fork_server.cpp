@@ -16,6 +16,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/memory/unused_memory.h"
 #include "base/remove_folder.h"
 #include "protocol/control_descriptor.h"
 #include "protocol/process_end.h"
@@ -61,6 +62,12 @@ void ForkServer::warmUp() {
   if (const WarmUp todo = std::exchange(warmUp_, {})) todo();
 }
 
+void ForkServer::rest() {
+  if (warmUp_) return warmUp();
+  giveBackUnusedMemory();
+  isAtRest_ = true;
+}
+
 void ForkServer::run() {
   // The end of a session tells everybody to go at once. The connection tells us, after which we clean up.
   for (int signal : kFarewells) std::signal(signal, SIG_IGN);
@@ -70,8 +77,8 @@ void ForkServer::run() {
     for (const Child& child : children_) polls.push_back({child.pidfd.get(), POLLIN, 0});
     const size_t children = polls.size() - 1;
     polls.push_back({wish_.descriptor ? wish_.descriptor() : -1, POLLIN, 0});
-    const int ready = ::poll(polls.data(), polls.size(), warmUp_ ? kIdle : -1);
-    if (ready == 0) warmUp();
+    const int ready = ::poll(polls.data(), polls.size(), warmUp_ || !isAtRest_ ? kIdle : -1);
+    if (ready == 0) rest();
     if (ready <= 0) continue;
     if (polls.back().revents != 0) wish_.serve();
     for (size_t i = children; i > 0; --i) {
@@ -91,6 +98,7 @@ bool ForkServer::answerControl() {
   const Result<WorkerMessage> decoded = decodeMessage(message->cbor);
   const ForkRequest* request = decoded ? std::get_if<ForkRequest>(&*decoded) : nullptr;
   if (request == nullptr || !message->descriptor.valid()) return false;
+  isAtRest_ = false;
   if (++forks_ > kColdChildren) warmUp();
   const int shared = prepare_ ? prepare_(*request) : -1;
   Result<Child> child = fork(*request, std::move(message->descriptor), shared);

@@ -55,6 +55,8 @@ class ForkServer {
   };
   bool answerControl();
   void warmUp();
+  /// What there is time for when nobody asks for anything.
+  void rest();
   Result<Child> fork(const ForkRequest& request, FileDescriptor socket, int shared);
   [[noreturn]] void becomeChild(int parent, const ForkRequest& request, FileDescriptor socket, int shared,
                                 const QByteArray& scratchFolder);
@@ -70,7 +72,8 @@ class ForkServer {
   Prepare prepare_;
   Wish wish_;
   std::vector<Child> children_;
-  quint32 forks_ = 0;  ///< requests so far; the answer's id
+  bool isAtRest_ = false;  ///< nothing is left to be done meanwhile
+  quint32 forks_ = 0;      ///< requests so far; the answer's id
 };
 
 }  // namespace norvex

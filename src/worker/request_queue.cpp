@@ -2,6 +2,9 @@
 
 #include <unistd.h>
 
+#include <chrono>
+
+#include "base/memory/unused_memory.h"
 #include "protocol/limits.h"
 
 namespace norvex {
@@ -9,6 +12,8 @@ namespace {
 
 constexpr int kClosed = 0;
 constexpr int kNotUnderstood = 2;
+/// Nobody zooms any more, or nobody yet: the picture is looked at.
+constexpr std::chrono::milliseconds kQuiet{1500};
 
 }  // namespace
 
@@ -19,7 +24,13 @@ RequestQueue::RequestQueue(MessageChannel& channel) : channel_(channel) {
 ArrivedRequest RequestQueue::next() {
   std::unique_lock lock(mutex_);
   running_.reset();
-  arrived_.wait(lock, [this] { return !waiting_.empty(); });
+  const auto isAsked = [this] { return !waiting_.empty(); };
+  if (!arrived_.wait_for(lock, kQuiet, isAsked)) {
+    lock.unlock();
+    giveBackUnusedMemory();
+    lock.lock();
+    arrived_.wait(lock, isAsked);
+  }
   ArrivedRequest next = std::move(waiting_.front());
   waiting_.pop_front();
   running_.emplace(next.request.id, next.cancel);

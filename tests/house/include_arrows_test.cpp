@@ -121,7 +121,7 @@ class IncludeArrowsTest : public QObject {
   }
 
   void thePictureProcessSharesOnlyTheProtocolAndPureParsers() {
-    const QSet<QString> shared{"base", "protocol", "types", "metadata"};
+    const QSet<QString> shared{"base", "base/memory", "protocol", "types", "metadata"};
     for (const QString& folder : table().keys())
       for (const QString& next : reach(folder))
         if (isWorker(folder))

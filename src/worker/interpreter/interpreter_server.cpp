@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "base/memory/unused_memory.h"
 #include "base/remove_folder.h"
 #include "protocol/limits.h"
 #include "worker/confinement/process_files.h"
@@ -21,6 +22,9 @@
 
 namespace norvex {
 namespace {
+
+/// Milliseconds without a document after which the next one is not expected at once.
+constexpr int kQuiet = 1500;
 
 template <typename Value>
 void tell(const FileDescriptor& outcome, const Value& value) {
@@ -41,9 +45,16 @@ PostScriptInterpreter::Task InterpreterServer::serve() {
       polls.push_back({child.pidfd.get(), POLLIN, 0});
       polls.push_back({child.outcome.get(), 0, 0});  // an error is told unasked: nobody reads it any more
     }
-    if (::poll(polls.data(), polls.size(), children_.empty() ? -1 : ScratchWatch::kPause) < 0) continue;
+    const int patience = !children_.empty() ? ScratchWatch::kPause : isAtRest_ ? -1 : kQuiet;
+    const int ready = ::poll(polls.data(), polls.size(), patience);
+    if (ready < 0) continue;
+    if (ready == 0 && children_.empty()) {
+      giveBackUnusedMemory();
+      isAtRest_ = true;
+    }
     buryWhoMustGo(polls);
     if (polls[0].revents == 0) continue;
+    isAtRest_ = false;
     if (const auto task = takeRequest()) return *task;
   }
 }

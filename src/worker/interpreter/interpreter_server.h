@@ -48,6 +48,7 @@ class InterpreterServer {
   FileDescriptor taking_;
   QByteArray scratchRoot_;
   std::vector<Child> children_;
+  bool isAtRest_ = false;  ///< nothing is left to be done until a document comes
 };
 
 }  // namespace norvex

@@ -1,0 +1,70 @@
+#include "base/memory/unused_memory.h"
+
+#include <QFile>
+
+#include <malloc.h>
+
+#include <cstdlib>
+#include <vector>
+
+#include "kit/test_main.h"
+
+using namespace norvex;
+
+namespace {
+
+/// Kibibytes of a line of /proc/self/smaps_rollup or status.
+qint64 told(const char* file, const QByteArray& name) {
+  QFile told{QString::fromLatin1(file)};
+  if (!told.open(QIODevice::ReadOnly)) return -1;
+  for (const QByteArray& line : told.readAll().split('\n'))
+    if (line.startsWith(name)) return line.simplified().split(' ').value(1).toLongLong();
+  return -1;
+}
+
+qint64 fromFiles() {
+  return told("/proc/self/status", "RssFile:");
+}
+
+}  // namespace
+
+class UnusedMemoryTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void pagesOfLibrariesAreGivenBack() {
+    const qint64 before = fromFiles();
+    QVERIFY(before > 0);
+    giveBackUnusedMemory();
+    QVERIFY2(fromFiles() < before / 2, qPrintable(QStringLiteral("%1 of %2").arg(fromFiles()).arg(before)));
+  }
+
+  void whatWasWrittenStays() {
+    static int written = 1;
+    written = 7;
+    const QByteArray text = QByteArray("kept").repeated(1000);
+    giveBackUnusedMemory();
+    QCOMPARE(written, 7);
+    QCOMPARE(text.count("kept"), 1000);
+    QVERIFY(QString::fromLatin1(text).endsWith(QLatin1String("kept")));
+  }
+
+  void theFreePartsOfTheHeapAreGivenBack() {
+    const size_t inUse = ::mallinfo2().uordblks;
+    std::vector<void*> pieces;
+    for (int i = 0; i < 2000; ++i) {
+      pieces.push_back(std::malloc(16 << 10));
+      static_cast<volatile char*>(pieces.back())[100] = 1;
+      static_cast<volatile char*>(pieces.back())[9000] = 1;
+    }
+    if (::mallinfo2().uordblks < inUse + (30 << 20)) QSKIP("another allocator is in use");
+    void* const above = std::malloc(100);
+    for (void* piece : pieces) std::free(piece);
+    const qint64 before = told("/proc/self/status", "RssAnon:");
+    giveBackUnusedMemory();
+    QVERIFY(told("/proc/self/status", "RssAnon:") < before - 8000);
+    std::free(above);
+  }
+};
+
+NORVEX_TEST(UnusedMemoryTest)
+#include "unused_memory_test.moc"

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "protocol/limits.h"
+#include "worker/metafile/bitmap_runs.h"
 #include "worker/metafile/metafile_records.h"
 
 namespace norvex::engine {
@@ -14,6 +15,8 @@ namespace {
 
 constexpr Argb32 kWhite = 0xFFFFFFFF;
 constexpr quint32 kCoreHeader = 12, kInfoHeader = 40;
+constexpr quint32 kPlain = 0, kRuns8 = 1, kRuns4 = 2;
+constexpr int kLongestRun = 255;
 
 struct Header {
   int width = 0, height = 0;
@@ -82,18 +85,43 @@ Argb32 pixelOf(QByteArrayView row, int x, int bits, const QList<Argb32>& palette
   return index < palette.size() ? palette[index] : kWhite;
 }
 
+Error unknownKind() {
+  return {ErrorKind::Unsupported,
+          QStringLiteral("a bitmap in the Windows metafile is of a kind that is not drawn")};
+}
+
+qsizetype samplesStart(const Header& header) {
+  return header.paletteStart + qsizetype(header.colours) * header.paletteEntry;
+}
+
+// What no run tells is the palette's first colour.
+Result<Bitmap> bitmapOfRuns(QByteArrayView bytes, const Header& header) {
+  const QByteArrayView packed = bytes.sliced(std::min(samplesStart(header), bytes.size()));
+  const qsizetype pixels = qsizetype(header.width) * header.height;
+  if (header.isTopDown || pixels / kLongestRun > packed.size()) return damaged();
+  const QList<Argb32> palette = readPalette(bytes, header);
+  const auto colourOf = [&](int index) { return index < palette.size() ? palette[index] : kWhite; };
+  Result<Bitmap> bitmap = Bitmap::create({header.width, header.height});
+  if (!bitmap) return bitmap.error();
+  for (int y = 0; y < header.height; ++y) std::fill_n(bitmap->row(y), header.width, colourOf(0));
+  readRuns(packed, header.bits, bitmap->size(),
+           [&](int x, int y, int index) { bitmap->row(header.height - 1 - y)[x] = colourOf(index); });
+  return bitmap;
+}
+
 }  // namespace
 
 Result<Bitmap> deviceBitmap(QByteArrayView bytes) {
   const Result<Header> header = readHeader(bytes);
   if (!header) return header.error();
   const int bits = header->bits;
-  if (header->compression != 0 || (bits != 1 && bits != 4 && bits != 8 && bits != 24 && bits != 32))
-    return Error{ErrorKind::Unsupported,
-                 QStringLiteral("a bitmap in the Windows metafile is of a kind that is not drawn")};
+  if ((header->compression == kRuns8 && bits == 8) || (header->compression == kRuns4 && bits == 4))
+    return bitmapOfRuns(bytes, *header);
+  if (header->compression != kPlain || (bits != 1 && bits != 4 && bits != 8 && bits != 24 && bits != 32))
+    return unknownKind();
   const QList<Argb32> palette = readPalette(bytes, *header);
   const qsizetype rowBytes = (qsizetype(header->width) * bits + 31) / 32 * 4;
-  const qsizetype start = header->paletteStart + qsizetype(header->colours) * header->paletteEntry;
+  const qsizetype start = samplesStart(*header);
   if (start + rowBytes * header->height > bytes.size()) return damaged();  // before memory is taken for it
   Result<Bitmap> bitmap = Bitmap::create({header->width, header->height});
   if (!bitmap) return bitmap.error();

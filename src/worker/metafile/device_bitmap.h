@@ -8,8 +8,8 @@
 
 namespace norvex::engine {
 
-/// Of 1, 4, 8, 24 or 32 bits a pixel and not compressed; opaque, rows top to bottom. Fails with Unsupported
-/// for others, NotParsable for what is none, Limit for want of memory.
+/// Of 1, 4, 8, 24 or 32 bits a pixel and not compressed, or of 4 or 8 as runs; opaque, rows top to bottom.
+/// Fails with Unsupported for others, NotParsable for what is none, Limit for want of memory.
 [[nodiscard]] Result<Bitmap> deviceBitmap(QByteArrayView bytes);
 
 }  // namespace norvex::engine

@@ -8,6 +8,7 @@
 #include <numbers>
 
 #include "worker/drawing/cairo_surface.h"
+#include "worker/metafile/brush_tile.h"
 #include "worker/metafile/device_bitmap.h"
 #include "worker/metafile/metafile_functions.h"
 
@@ -70,12 +71,21 @@ void MetafileDrawing::stroke() {
   cairo_set_dash(context_, nullptr, 0, 0);
 }
 
-void MetafileDrawing::fillAndStroke() {
-  if (state_.brush.paints) {
-    setColour(context_, state_.brush.colour);
-    cairo_set_fill_rule(context_, state_.fillsByWinding ? CAIRO_FILL_RULE_WINDING : CAIRO_FILL_RULE_EVEN_ODD);
+// The path stays.
+void MetafileDrawing::fill() {
+  const MetafileBrush& brush = state_.brush;
+  if (!brush.paints) return;
+  cairo_set_fill_rule(context_, state_.fillsByWinding ? CAIRO_FILL_RULE_WINDING : CAIRO_FILL_RULE_EVEN_ODD);
+  const bool isTiled = !brush.tile.isEmpty();
+  if (!isTiled || state_.hasBackground) {
+    setColour(context_, isTiled ? state_.background : brush.colour);
     cairo_fill_preserve(context_);
   }
+  if (isTiled) fillWithTile(context_, brush.tile);
+}
+
+void MetafileDrawing::fillAndStroke() {
+  fill();
   stroke();
 }
 
@@ -243,10 +253,9 @@ bool MetafileDrawing::drawBitmap(quint16 function, Words& words) {
     words.doubleWord();
     const int high = words.signedWord(), wide = words.signedWord(), y = words.signedWord(),
               x = words.signedWord();
-    if (!state_.brush.paints) return true;
-    setColour(context_, state_.brush.colour);
     cairo_rectangle(context_, x, y, wide, high);
-    cairo_fill(context_);
+    fill();
+    cairo_new_path(context_);
     return true;
   }
   if (function != StretchDib && function != DibStretchBlt && function != DibBitBlt &&

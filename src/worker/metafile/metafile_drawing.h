@@ -38,6 +38,7 @@ class MetafileDrawing {
   [[nodiscard]] double pixelsPerUnit() const;
   void ellipse(const QRectF& box, double from, double to);
   void points(Words& words, int count, bool close);
+  void fill();
   void fillAndStroke();
   void stroke();
   void paint(const Bitmap& whole, const QRect& source, const QRect& target);

@@ -18,6 +18,7 @@ enum Function : quint16 {
   CreatePatternBrush = 0x01F9,
   CreateDibPatternBrush = 0x0142,
   DeleteObject = 0x01F0,
+  SetBkColor = 0x0201,
   SetTextColor = 0x0209,
   SetWindowOrg = 0x020B,
   SetWindowExt = 0x020C,

@@ -20,6 +20,7 @@ struct MetafilePen {
 struct MetafileBrush {
   bool paints = true;
   Argb32 colour = 0xFFFFFFFF;
+  Bitmap tile = {};  ///< repeated in the place of the colour; of no size: none
 };
 
 struct MetafileFont {
@@ -42,6 +43,8 @@ struct MetafileState {
   MetafileFont font;
   Argb32 textColour = 0xFF000000;
   int textAlign = 0;
+  Argb32 background = 0xFFFFFFFF;  ///< between the lines of a hatch
+  bool hasBackground = true;
   bool fillsByWinding = false;
   QPoint at;
 };

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "worker/metafile/brush_tile.h"
+#include "worker/metafile/device_bitmap.h"
 #include "worker/metafile/metafile_drawing.h"
 #include "worker/metafile/metafile_functions.h"
 
@@ -11,9 +13,16 @@ namespace {
 
 constexpr size_t kMostObjects = 65536;  // an index is a word
 constexpr size_t kMostSaved = 1024;
+constexpr int kNoBrush = 1, kHatchedBrush = 2;
+constexpr Argb32 kUnknownPattern = 0xFF808080;
 
 Argb32 colourOf(quint32 colorRef) {
   return 0xFF000000 | (colorRef & 0xFF) << 16 | (colorRef & 0xFF00) | (colorRef >> 16 & 0xFF);
+}
+
+/// A brush whose tile cannot be made is drawn in its colour.
+Bitmap orNone(const Result<Bitmap>& tile) {
+  return tile ? *tile : Bitmap();
 }
 
 }  // namespace
@@ -30,6 +39,12 @@ bool MetafileDrawing::setState(quint16 function, Words& words) {
       applyMatrix();
       return true;
     }
+    case SetBkMode:
+      state_.hasBackground = words.unsignedWord() != 1;
+      return true;
+    case SetBkColor:
+      state_.background = colourOf(words.doubleWord());
+      return true;
     case SetTextColor:
       state_.textColour = colourOf(words.doubleWord());
       return true;
@@ -83,7 +98,9 @@ bool MetafileDrawing::makeObject(quint16 function, Words& words) {
     }
     case CreateBrush: {
       const int style = words.unsignedWord();
-      add(MetafileBrush{style != 1, colourOf(words.doubleWord())});
+      MetafileBrush brush{style != kNoBrush, colourOf(words.doubleWord())};
+      if (style == kHatchedBrush) brush.tile = orNone(hatchTile(words.unsignedWord(), brush.colour));
+      add(std::move(brush));
       return true;
     }
     case CreateFont: {
@@ -102,9 +119,13 @@ bool MetafileDrawing::makeObject(quint16 function, Words& words) {
       add(font);
       return true;
     }
+    case CreateDibPatternBrush: {
+      words.doubleWord();
+      add(MetafileBrush{true, kUnknownPattern, orNone(deviceBitmap(words.rest()))});
+      return true;
+    }
     case CreatePatternBrush:
-    case CreateDibPatternBrush:
-      add(MetafileBrush{true, 0xFF808080});
+      add(MetafileBrush{true, kUnknownPattern});
       return true;
     case CreatePalette:
     case CreateRegion:

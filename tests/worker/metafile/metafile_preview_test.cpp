@@ -117,6 +117,112 @@ class MetafilePreviewTest : public QObject {
     QCOMPARE(pixel(*image, 37, 15), kGreen);
   }
 
+  void bitmapsOfRunsAreRead_data() {
+    QTest::addColumn<int>("bits");
+    QTest::addColumn<QByteArray>("runs");
+    QTest::addColumn<QList<QByteArray>>("rows");  // from the top, 4 × 2 pixels
+    const QByteArray oneRow = kWhite + kWhite + kWhite + kWhite;
+    QTest::newRow("a run and single pixels of eight bits")
+        << 8
+        << QByteArray::fromHex(
+               "03010102"
+               "0000"
+               "000301020300"
+               "0001")
+        << QList<QByteArray>{kRed + kGreen + kBlue + kWhite, kRed + kRed + kRed + kGreen};
+    QTest::newRow("a run and single pixels of four bits")
+        << 4
+        << QByteArray::fromHex(
+               "0412"
+               "0000"
+               "00031230"
+               "0001")
+        << QList<QByteArray>{kRed + kGreen + kBlue + kWhite, kRed + kGreen + kRed + kGreen};
+    QTest::newRow("a move") << 8 << QByteArray::fromHex("0002020102030001")
+                            << QList<QByteArray>{kWhite + kWhite + kBlue + kBlue, oneRow};
+    QTest::newRow("beyond the right edge")
+        << 8 << QByteArray::fromHex("ff010001") << QList<QByteArray>{oneRow, kRed + kRed + kRed + kRed};
+    QTest::newRow("cut short") << 8 << QByteArray::fromHex("0201000501")
+                               << QList<QByteArray>{oneRow, kRed + kRed + kWhite + kWhite};
+    QTest::newRow("colours that are none")
+        << 8 << QByteArray::fromHex("01090001") << QList<QByteArray>{oneRow, oneRow};
+  }
+  void bitmapsOfRunsAreRead() {
+    QFETCH(int, bits);
+    QFETCH(QByteArray, runs);
+    QFETCH(QList<QByteArray>, rows);
+    const QByteArray header =
+        kit::words({40, 0, 4, 0, 2, 0, 1, bits, bits == 8 ? 1 : 2, 0, 0, 0, 0, 0, 0, 0, 4, 0, 0, 0}) +
+        QByteArray::fromHex(
+            "ffffff00"
+            "0000ff00"
+            "00ff0000"
+            "ff000000");  // white, red, green, blue
+    const auto image = decodeMetafile(
+        madeMetafile(metafileRecord(0xF43, {0x20, 0xCC, 0, 2, 4, 0, 0, 30, 40, 0, 0}, header + runs)), {});
+    QVERIFY(image.ok());
+    QList<QByteArray> found;
+    for (const int y : {7, 22}) {
+      QByteArray row;
+      for (const int x : {5, 15, 25, 35})  // beside the middle of a pixel its neighbour is seen a little
+        for (const char part : QByteArray::fromHex(pixel(*image, x, y)))
+          row += uchar(part) < 128 ? "00" : "ff";
+      found << row;
+    }
+    QCOMPARE(found, rows);
+  }
+
+  void aHatchHasLinesAndWhatLiesBetweenThem_data() {
+    QTest::addColumn<int>("hatch");
+    QTest::addColumn<int>("lines");  // pixels of a tile of 8 × 8
+    QTest::addColumn<QPoint>("on");
+    QTest::addColumn<QPoint>("off");
+    QTest::newRow("across") << 0 << 8 << QPoint(9, 12) << QPoint(12, 9);
+    QTest::newRow("down") << 1 << 8 << QPoint(12, 9) << QPoint(9, 12);
+    QTest::newRow("falling") << 2 << 8 << QPoint(10, 10) << QPoint(10, 13);
+    QTest::newRow("rising") << 3 << 8 << QPoint(10, 13) << QPoint(10, 10);
+    QTest::newRow("crossed") << 4 << 15 << QPoint(12, 9) << QPoint(9, 9);
+    QTest::newRow("crossed slants") << 5 << 16 << QPoint(10, 13) << QPoint(10, 12);
+  }
+  void aHatchHasLinesAndWhatLiesBetweenThem() {
+    QFETCH(int, hatch);
+    QFETCH(int, lines);
+    QFETCH(QPoint, on);
+    QFETCH(QPoint, off);
+    const auto drawn = [&](int backgroundMode) {
+      return decodeMetafile(
+          madeMetafile(kObjects + metafileRecord(0x2FC, {2, 0x00FF, 0, hatch}) + selected(0) + selected(1) +
+                       metafileRecord(0x41B, {30, 40, 0, 0}) + metafileRecord(0x201, {0xFF00, 0}) +
+                       metafileRecord(0x102, {backgroundMode}) + selected(3) +
+                       metafileRecord(0x41B, {24, 32, 0, 0})),
+          {});
+    };
+    const auto image = drawn(2);
+    QVERIFY(image.ok());
+    QCOMPARE(pixel(*image, on.x(), on.y()), kRed);
+    QCOMPARE(pixel(*image, off.x(), off.y()), kGreen);
+    int red = 0;
+    for (int y = 8; y < 16; ++y)
+      for (int x = 8; x < 16; ++x) red += pixel(*image, x, y) == kRed;
+    QCOMPARE(red, lines);
+    // Without a background what is there already is seen between the lines.
+    QCOMPARE(pixel(*drawn(1), off.x(), off.y()), kRed);
+  }
+
+  void aPatternIsRepeated() {
+    const auto image =
+        decodeMetafile(madeMetafile(kObjects + metafileRecord(0x142, {5, 0}, bitmap()) + selected(3) +
+                                    selected(1) + metafileRecord(0x41B, {20, 30, 4, 10})),
+                       {});
+    QVERIFY(image.ok());
+    for (const int by : {0, 2, 8}) {
+      QCOMPARE(pixel(*image, 12 + by, 6 + by), kRed);
+      QCOMPARE(pixel(*image, 13 + by, 6 + by), kGreen);
+      QCOMPARE(pixel(*image, 12 + by, 7 + by), kBlue);
+    }
+    QCOMPARE(pixel(*image, 8, 6), kWhite);
+  }
+
   void textIsDark() {
     const QByteArray font = metafileRecord(0x2FB, {-20, 0, 0, 0, 700, 0, 0, 0, 0}, QByteArray("Arial\0", 6));
     const auto image =

@@ -81,7 +81,8 @@ bool cutting(const QByteArray& bytes) {
     const QSizeF picture(30, 20);
     const SvgCut cut{picture, {1, 2, 10, 8}, turnedInItsBox(picture, angle), whole->hasStyleSheet};
     const auto inside = inspectSvg(cutSvg(bytes, cut));
-    // The new root and its viewport are two levels more, and a namespace that is given to the old root's prefix stays there.
+    // The new root and its viewport are two levels more, and a namespace that is given to the old root's
+    // prefix stays there.
     require(inside.ok() || inside.error().kind == ErrorKind::Limit, "a part of a document is a document");
     require(!inside || inside->rootName == whole->rootName, "a part has the root of the whole");
   }

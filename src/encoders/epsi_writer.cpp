@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 
+#include "base/blanks.h"
 #include "metadata/eps_lines.h"
 
 namespace norvex {
@@ -12,15 +13,11 @@ namespace {
 constexpr int bitsThatStayOneLine = 1024;
 constexpr int bytesInALine = 127;
 
-bool isSpace(char c) {
-  return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
 /// Scans a decimal integer after white space, as the values of DSC comments are written. Leaves `at` alone
 /// when there is none. Numbers beyond 32 bits stop at the limit.
 std::optional<int> scanInteger(QByteArrayView text, qsizetype& at) {
   qsizetype i = at;
-  while (i < text.size() && isSpace(text[i])) ++i;
+  while (i < text.size() && isWhiteSpace(text[i])) ++i;
   const bool negative = i < text.size() && text[i] == '-';
   if (i < text.size() && (text[i] == '-' || text[i] == '+')) ++i;
   qint64 value = 0;
@@ -76,7 +73,7 @@ QByteArray headOf(QByteArrayView source, qsizetype& rest) {
 bool wouldRun(QByteArrayView source, qsizetype rest) {
   const QByteArrayView line = source.sliced(rest, lineEndOf(source, rest) - rest);
   return !std::all_of(line.begin(), line.end(),
-                      [](char c) { return isSpace(c) || QByteArrayView("0123456789.+-").contains(c); });
+                      [](char c) { return isWhiteSpace(c) || QByteArrayView("0123456789.+-").contains(c); });
 }
 
 void appendHexLine(QByteArray& out, const QByteArray& data, qsizetype at, int count) {

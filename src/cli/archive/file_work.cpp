@@ -15,6 +15,7 @@
 #include "base/file_name.h"
 #include "picture/process/peak_memory.h"
 #include "picture/told_error.h"
+#include "types/gzip_mark.h"
 #include "types/picture_format.h"
 
 namespace norvex {
@@ -32,7 +33,7 @@ bool needsOneProcess(const QByteArray& path) {
   char begin[8] = {};
   const ssize_t count = file.valid() ? ::pread(file.get(), begin, sizeof begin, 0) : 0;
   const QByteArrayView bytes(begin, qsizetype(std::max<ssize_t>(count, 0)));
-  return bytes.startsWith("%PDF-") || bytes.startsWith("<") || bytes.startsWith("\x1F\x8B") ||
+  return bytes.startsWith("%PDF-") || bytes.startsWith("<") || isGzip(bytes) ||
          bytes.startsWith("\xEF\xBB\xBF<");
 }
 

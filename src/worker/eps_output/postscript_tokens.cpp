@@ -2,12 +2,10 @@
 
 #include <algorithm>
 
+#include "base/blanks.h"
+
 namespace norvex::engine {
 namespace {
-
-bool isBlank(char c) {
-  return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f' || c == '\0';
-}
 
 bool isDelimiter(char c) {
   return QByteArrayView("()<>[]{}/%").contains(c);
@@ -47,7 +45,7 @@ void PostScriptTokens::skipBlanks() {
   while (at_ < text_.size()) {
     if (text_[at_] == '%') {
       while (at_ < text_.size() && text_[at_] != '\n' && text_[at_] != '\r') ++at_;
-    } else if (isBlank(text_[at_])) {
+    } else if (isPostScriptSpace(text_[at_])) {
       ++at_;
     } else {
       return;
@@ -95,7 +93,7 @@ PostScriptToken PostScriptTokens::next() {
   const bool literal = first == '/';
   if (literal) ++at_;
   const qsizetype from = at_;
-  while (at_ < text_.size() && !isBlank(text_[at_]) && !isDelimiter(text_[at_])) ++at_;
+  while (at_ < text_.size() && !isPostScriptSpace(text_[at_]) && !isDelimiter(text_[at_])) ++at_;
   const QByteArrayView word = text_.sliced(from, at_ - from);
   if (literal) return {Kind::Literal, word.toByteArray()};
   return {isNumber(word) ? Kind::Number : Kind::Word, word.toByteArray()};

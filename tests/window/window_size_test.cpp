@@ -42,6 +42,8 @@ class WindowSizeTest : public QObject {
     QCOMPARE(wholePixels(555, 2), 555);
     QCOMPARE(wholePixels(555, 1.5), 556);
     QCOMPARE(wholePixels(556, 1.5), 556);
+    QCOMPARE(wholePixels(554, 1.5), 556);  // 831 pixels, and windows are sized in steps of two there
+    QCOMPARE(wholePixels(553, 1.75), 560);
     QCOMPARE(wholePixels(553, 1.25), 556);
     QCOMPARE(wholePixels(555, 0.123456), 555);  // nothing would be whole
   }

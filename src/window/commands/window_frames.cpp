@@ -71,9 +71,13 @@ QRect placedOnScreens(QRect frame, const QList<QRect>& screens, const QList<QPoi
 }
 
 int wholePixels(int length, double ratio) {
-  constexpr int kMost = 8;  // a ratio is no worse than an eighth
-  for (int longer = length; longer < length + kMost; ++longer)
-    if (std::abs(longer * ratio - std::round(longer * ratio)) < 1e-6) return longer;
+  constexpr int kMost = 8;  // a ratio is no finer than a quarter
+  // The platform tells window managers to size windows in steps of so many of the screen's pixels.
+  const int step = std::max(1, static_cast<int>(std::lround(ratio)));
+  for (int longer = length; longer < length + kMost; ++longer) {
+    const double own = std::round(longer * ratio);
+    if (std::abs(longer * ratio - own) < 1e-6 && std::fmod(own, step) == 0) return longer;
+  }
   return length;
 }
 

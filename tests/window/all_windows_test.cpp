@@ -244,6 +244,24 @@ class AllWindowsTest : public QObject {
     QApplication::setStyle(QStringLiteral("fusion"));
   }
 
+  void onBlackWhatIsQuietIsNotBlack() {
+    OutlinedStyle style(QStringLiteral("fusion"));
+    QPalette dark = highContrast();
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+      dark.setColor(QPalette::Disabled, role, Qt::black);
+    dark.setColor(QPalette::PlaceholderText, Qt::black);
+    style.polish(dark);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+      QVERIFY(dark.color(QPalette::Disabled, role).lightness() > 100);
+    QVERIFY(dark.color(QPalette::PlaceholderText).lightness() > 100);
+    QVERIFY(dark.color(QPalette::Mid).lightness() > 100);
+    QVERIFY(dark.color(QPalette::Midlight).lightness() > 40);
+    QPalette light(Qt::white);
+    const QPalette before = light;
+    style.polish(light);
+    QCOMPARE(light, before);
+  }
+
   void textsOfTwiceTheSizeHaveRoom_data() { everyWindow(); }
   void textsOfTwiceTheSizeHaveRoom() {
     QFETCH(Maker, maker);

@@ -77,6 +77,10 @@ void OutlinedStyle::polish(QPalette& palette) {
   const QColor quiet(0xa0, 0xa0, 0xa0);
   for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     palette.setColor(QPalette::Disabled, role, quiet);
+  palette.setColor(QPalette::PlaceholderText, quiet);
+  // What style sheets take for lines, and for the ground of what is switched on.
+  palette.setColor(QPalette::Mid, quiet);
+  palette.setColor(QPalette::Midlight, QColor(0x38, 0x38, 0x38));
 }
 
 }  // namespace norvex

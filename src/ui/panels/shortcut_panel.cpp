@@ -28,7 +28,8 @@ class ShortcutPanel final : public QDialog {
   ShortcutPanel(QWidget& window, const QMenuBar& menus);
 
  private:
-  void addSearch(QVBoxLayout& column);
+  /// The list comes after it, for the keyboard too.
+  void addSearch(QVBoxLayout& column, const QMenuBar& menus);
   void addKeys(QVBoxLayout& column);
   void addButtons(QVBoxLayout& column);
   void showCommand();
@@ -36,21 +37,19 @@ class ShortcutPanel final : public QDialog {
   void tell(const QString& sentence) { message_->setText(sentence); }
 
   QWidget& window_;
-  ShortcutList* list_;
+  ShortcutList* list_ = nullptr;
   QLabel *title_ = nullptr, *message_ = nullptr;
   QKeySequenceEdit* keys_ = nullptr;
   QPushButton *remove_ = nullptr, *reset_ = nullptr, *resetAll_ = nullptr;
 };
 
-ShortcutPanel::ShortcutPanel(QWidget& window, const QMenuBar& menus)
-    : QDialog(&window), window_(window), list_(new ShortcutList(this, menus)) {
+ShortcutPanel::ShortcutPanel(QWidget& window, const QMenuBar& menus) : QDialog(&window), window_(window) {
   setObjectName(kName);
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(localizedString("Keyboard Shortcuts"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kMargin);
-  addSearch(*column);
-  column->addWidget(list_, 1);
+  addSearch(*column, menus);
   addKeys(*column);
   addButtons(*column);
   connect(list_, &QTreeWidget::currentItemChanged, this, [this] {
@@ -68,7 +67,7 @@ ShortcutPanel::ShortcutPanel(QWidget& window, const QMenuBar& menus)
   resize(fittingScreen(*this, {540, 640}));
 }
 
-void ShortcutPanel::addSearch(QVBoxLayout& column) {
+void ShortcutPanel::addSearch(QVBoxLayout& column, const QMenuBar& menus) {
   auto* search = new QLineEdit(this);
   search->setObjectName(QStringLiteral("shortcutSearch"));
   search->setPlaceholderText(localizedString("Search commands and keys"));
@@ -78,7 +77,10 @@ void ShortcutPanel::addSearch(QVBoxLayout& column) {
   margin->setContentsMargins(kMargin, kMargin, kMargin, 0);
   margin->addWidget(search);
   column.addLayout(margin);
+  list_ = new ShortcutList(this, menus);
+  column.addWidget(list_, 1);
   connect(search, &QLineEdit::textChanged, list_, &ShortcutList::filter);
+  search->setFocus(Qt::OtherFocusReason);
 }
 
 void ShortcutPanel::addKeys(QVBoxLayout& column) {

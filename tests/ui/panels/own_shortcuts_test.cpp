@@ -1,6 +1,7 @@
 // Keys that the user gives to commands: changed, refused, forgotten, kept.
 #include "ui/panels/own_shortcuts.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QFile>
 #include <QHelpEvent>
@@ -161,6 +162,20 @@ class OwnShortcutsTest : public QObject {
     w.choose("Nameless");
     QVERIFY(!w.child<QKeySequenceEdit>("shortcutKeys")->isEnabled());
     QCOMPARE(w.shownKeys("Nameless"), QString("F4"));
+  }
+
+  void theKeyboardGoesFromTheSearchToTheListToTheKeys() {
+    Window w;
+    w.window.show();
+    w.choose("Copy");
+    auto* panel = w.child<QDialog>("shortcutPanel");
+    QApplication::setActiveWindow(panel);
+    QCOMPARE(panel->focusWidget()->objectName(), QString("shortcutSearch"));
+    QTest::keyClick(panel->focusWidget(), Qt::Key_Tab);
+    QCOMPARE(panel->focusWidget(), static_cast<QWidget*>(panel->findChild<QTreeWidget*>()));
+    QTest::keyClick(panel->focusWidget(), Qt::Key_Tab);
+    QVERIFY(w.child<QKeySequenceEdit>("shortcutKeys")->isAncestorOf(panel->focusWidget()) ||
+            panel->focusWidget() == w.child<QKeySequenceEdit>("shortcutKeys"));
   }
 
   void titlesAreReadWithoutMnemonics() {

@@ -117,6 +117,7 @@ Conversion converted(const std::shared_ptr<NSImageRep>& imageRep, EncoderSurroun
   surroundings.quality = options.quality;
   surroundings.color = options.color;
   surroundings.actions = options.keepActions ? SourceActions::Keep : SourceActions::LeaveOut;
+  surroundings.keepText = options.keepText;
   surroundings.region = region;
   surroundings.subjectMayBeLeftOut = true;
   // The only page is the whole file.

@@ -28,6 +28,7 @@ struct ConversionOptions {
   std::optional<int> quality;            ///< 1 … 100; nothing: the format's own
   OutputColor color = OutputColor::Rgb;  ///< of formats of pixels
   bool keepActions = false;              ///< of a PDF, in the PDF made of it
+  bool keepText = false;                 ///< as text, in an SVG
   QColor background;                     ///< invalid: what is not painted stays transparent
   ReaderOptions reader;
   PictureLimits limits;

@@ -24,6 +24,7 @@ ConversionOptions optionsOf(const Arguments& arguments, ValueReader& values) {
     options.color =
         outputColorNamed(arguments.values.value(Option::Colour).toStdString()).value_or(OutputColor::Rgb);
   options.keepActions = arguments.has(Option::KeepActions);
+  options.keepText = arguments.has(Option::KeepText);
   options.limits = values.limits();
   return options;
 }
@@ -71,6 +72,8 @@ QString complaintAboutFormat(const ConversionOptions& options) {
     return QStringLiteral("--quality goes with one of: %1").arg(latin1(qualityFormatNames.text()));
   if (options.keepActions && options.format != PictureFormat::Pdf)
     return QStringLiteral("--keep-actions goes with pdf");
+  if (options.keepText && options.format != PictureFormat::Svg && options.format != PictureFormat::Svgz)
+    return QStringLiteral("--text goes with svg and svgz");
   if (options.background.isValid() && !isRaster(options.format))
     return QStringLiteral("--background goes with the raster formats: %1 keeps unpainted what is unpainted")
         .arg(latin1(row.name));

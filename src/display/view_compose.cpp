@@ -7,8 +7,7 @@
 namespace norvex {
 
 Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& placement, VectorFormat format,
-                                 const QRectF& rect, const CancelToken& cancel,
-                                 const std::optional<PdfAttributes>& attributes, bool keepActions) {
+                                 const QRectF& rect, const CancelToken& cancel, const VectorWishes& wishes) {
   if (!imageRep) return Error{ErrorKind::CannotRead, QStringLiteral("there is no picture")};
   if (rect.isEmpty() || !isFinite(rect) || !std::isfinite(placement.rotate))
     return Error{ErrorKind::Unsupported, QStringLiteral("the rectangle is empty or out of range")};
@@ -24,8 +23,9 @@ Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& p
   request.page = imageRep->page();
   request.rect = rect.translated(shift);
   request.rotate = placement.rotate;
-  request.attributes = attributes;
-  request.keepActions = keepActions;
+  request.attributes = wishes.attributes;
+  request.keepActions = wishes.keepActions;
+  request.keepText = wishes.keepText;
   return imageRep->process()->compose(request, cancel);
 }
 

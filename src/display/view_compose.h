@@ -17,13 +17,18 @@ struct PicturePlacement {
   double rotate = 0;  ///< radians
 };
 
+/// What a page of vectors gets and keeps beside what is drawn.
+struct VectorWishes {
+  std::optional<PdfAttributes> attributes = {};  ///< of a PDF
+  bool keepActions = false;                      ///< of a PDF: what it does beside being drawn
+  bool keepText = false;                         ///< in an SVG: text as text
+};
+
 /// `rect` is in the view's coordinates. Fails without a picture, for a rectangle that is empty or not finite,
-/// and where the picture process does. A PDF gets the attributes, and keeps what a PDF does beside being
-/// drawn where that is wanted. Blocks; any thread.
+/// and where the picture process does. Blocks; any thread.
 [[nodiscard]] Result<PictureBytes> composeView(NSImageRep* imageRep, const PicturePlacement& placement,
                                                VectorFormat format, const QRectF& rect,
                                                const CancelToken& cancel = {},
-                                               const std::optional<PdfAttributes>& attributes = {},
-                                               bool keepActions = false);
+                                               const VectorWishes& wishes = {});
 
 }  // namespace norvex

@@ -82,8 +82,8 @@ void PictureEncoder::addWarnings(const QStringList& warnings) {
 QByteArray PictureEncoder::composed(VectorFormat format, const std::optional<PdfAttributes>& attributes) {
   const PictureRegion region = surroundings_.region.value_or(wholePicture(*imageRep_));
   const QPointF centre(imageRep_->size().width() / 2, imageRep_->size().height() / 2);
-  return take(composeView(imageRep_.get(), {centre, region.rotate}, format, region.rect, cancel_, attributes,
-                          surroundings_.actions == SourceActions::Keep));
+  const VectorWishes wishes{attributes, surroundings_.actions == SourceActions::Keep, surroundings_.keepText};
+  return take(composeView(imageRep_.get(), {centre, region.rotate}, format, region.rect, cancel_, wishes));
 }
 
 // ---- EPS --------------------------------------------------------------------------------------------------

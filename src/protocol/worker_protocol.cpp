@@ -85,6 +85,7 @@ void fields(V& v, Of<V, ComposeRequest>& compose) {
   v.number(Key("rotate"), compose.rotate, -limits::maximumPoints, limits::maximumPoints);
   v.optional(Key("information"), compose.attributes, [&](auto& some) { v.nested(Key("information"), some); });
   v.boolean(Key("keepActions"), compose.keepActions);
+  v.boolean(Key("keepText"), compose.keepText);
 }
 
 template <typename V>
@@ -100,6 +101,8 @@ void fields(V& v, Of<V, ExamineRequest>& examine) {
   v.integer(Key("page"), examine.page, 0, limits::maximumPageNumber);
   v.number(Key("dpi"), examine.dpi, 1, limits::maximumDpi);
   v.boolean(Key("overprint"), examine.overprint);
+  v.optional(Key("part"), examine.part,
+             [&](auto& rect) { v.rect(Key("part"), rect, limits::maximumPoints); });
 }
 
 template <typename V>

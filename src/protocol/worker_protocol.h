@@ -27,7 +27,7 @@
 
 namespace norvex {
 
-inline constexpr int workerProtocolVersion = 8;
+inline constexpr int workerProtocolVersion = 9;
 
 /// The engine that a picture needs. Illustrator files are Eps or Pdf inside.
 enum class PictureKind { Eps = 1, Pdf = 2, Svg = 3 };
@@ -92,6 +92,7 @@ struct ComposeRequest {
   double rotate = 0;  ///< radians, counter-clockwise positive
   std::optional<PdfAttributes> attributes = {};  ///< of the new PDF; an EPS has none
   bool keepActions = false;                      ///< as in PdfRequest
+  bool keepText = false;  ///< of an SVG: text stays text, with the fonts that it is shown in
 };
 
 /// The document as SVG text. Only for PictureKind::Svg.
@@ -111,8 +112,9 @@ enum class Examination { Contents = 1, Drawn = 2, Inks = 3, Text = 4 };
 struct ExamineRequest {
   Examination what = Examination::Contents;
   int page = 0;
-  double dpi = 72;         ///< of the pixels that are looked at: Drawn, Inks
-  bool overprint = false;  ///< Inks: overprinting is simulated
+  double dpi = 72;                  ///< of the pixels that are looked at: Drawn, Inks
+  bool overprint = false;           ///< Inks: overprinting is simulated
+  std::optional<QRectF> part = {};  ///< Inks: this part of the page alone, in picture coordinates
 };
 
 /// A TIFF section (the message's memfd) to a bitmap. Needs no open document.

@@ -79,6 +79,7 @@ class ConvertTest : public QObject {
     row({"a.eps", "-o", "b.pdf", "--colour", "cmyk"},
         "--colour goes with pixels: pdf keeps the picture's own colours");
     row({"a.pdf", "-o", "b.eps", "--keep-actions"}, "--keep-actions goes with pdf");
+    row({"a.pdf", "-o", "b.png", "--text"}, "--text goes with svg and svgz");
     row({"a.eps", "-o", "b.png", "--jobs", "0"}, "--jobs is a number from 1 to 256");
     row({"a.eps", "-o", "b.png", "--timeout", "-1"}, "--timeout is a number from 1 to 10000000");
     row({"a.eps", "-o", "b.png", "--memory", "1"}, "--memory is a number from 64 to 1048576");

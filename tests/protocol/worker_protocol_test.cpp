@@ -71,7 +71,7 @@ QList<WorkerMessage> messages() {
       CancelRequest{9},
       WorkerRequest{11, PdfRequest{7, attributes()}},
       WorkerRequest{12, ComposeRequest{VectorFormat::Pdf, 1, QRectF(0, 0, 1, 1), 0, attributes()}},
-      WorkerRequest{13, ExamineRequest{Examination::Inks, 2, 144, true}},
+      WorkerRequest{13, ExamineRequest{Examination::Inks, 2, 144, true, QRectF(3, 4, 50, 60)}},
       WorkerRequest{14, OpenRequest{PictureKind::Pdf, {}, "pass word", {{"Cut", true}, {"Text", false}}}},
       WorkerRequest{10, pages()},
   };
@@ -176,6 +176,7 @@ class WorkerProtocolTest : public QObject {
     QCOMPARE(examine.page, 2);
     QCOMPARE(examine.dpi, 144.0);
     QVERIFY(examine.overprint);
+    QCOMPARE(examine.part, std::optional(QRectF(3, 4, 50, 60)));
     const auto fork = std::get<ForkRequest>(*decodeMessage(encodeMessage(messages()[7])));
     QVERIFY(fork.postScript);
     QCOMPARE(fork.limits.memoryMiB, 2);
@@ -206,6 +207,22 @@ class WorkerProtocolTest : public QObject {
     compose.attributes.reset();
     QVERIFY(!std::get<ComposeRequest>(again(compose)).attributes);
     QVERIFY(!std::get<PdfRequest>(again(PdfRequest{})).attributes);
+  }
+
+  void anSvgToBeMadeWithItsTextKeepsThatWish() {
+    for (const bool keep : {true, false}) {
+      ComposeRequest compose{VectorFormat::Svg, 0, QRectF(0, 0, 1, 1)};
+      compose.keepText = keep;
+      const auto again = decodeMessage(encodeMessage(WorkerRequest{1, compose}));
+      QVERIFY(again.ok());
+      QCOMPARE(std::get<ComposeRequest>(std::get<WorkerRequest>(*again).body).keepText, keep);
+    }
+  }
+
+  void inksOfTheWholePageNameNoPart() {
+    const auto again = decodeMessage(encodeMessage(WorkerRequest{1, ExamineRequest{Examination::Inks}}));
+    QVERIFY(again.ok());
+    QVERIFY(!std::get<ExamineRequest>(std::get<WorkerRequest>(*again).body).part);
   }
 
   void theFactsAreKept() {
@@ -386,6 +403,8 @@ class WorkerProtocolTest : public QObject {
         ComposeRequest{VectorFormat::Pdf, 0, QRectF(0, 0, -1, 1), 0},
         ComposeRequest{VectorFormat::Pdf, 0, QRectF(0, 0, 1, 1), nan},
         ComposeRequest{VectorFormat(0), 0, QRectF(0, 0, 1, 1), 0},
+        ExamineRequest{Examination::Inks, 0, 72, false, QRectF(0, 0, -1, 1)},
+        ExamineRequest{Examination::Inks, 0, 72, false, QRectF(0, 0, 1, 2 * limits::maximumPoints)},
         OpenRequest{PictureKind(4), {}},
         OpenRequest{PictureKind::Eps, {0, 1, 1}},
         OpenRequest{PictureKind::Eps, {1, 1, 0}},

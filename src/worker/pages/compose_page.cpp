@@ -17,7 +17,7 @@ Result<EngineBytes> composePage(const QByteArray& pdf, const ComposeRequest& req
   if (!composed) return composed.error();
   Result<EngineBytes> result = toPdf ? EngineBytes{std::move(*composed), {}}
                                : request.format == VectorFormat::Svg
-                                   ? svgFromPdf(*composed, request.attributes, context)
+                                   ? svgFromPdf(*composed, request.attributes, context, request.keepText)
                                    : epsFromPdf(*composed, context);
   if (result) result->report.warnings = leftOut + result->report.warnings;
   return result;

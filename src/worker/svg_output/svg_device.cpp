@@ -44,8 +44,10 @@ QByteArray dashText(GfxState* state, double scale) {
 
 }  // namespace
 
-SvgDevice::SvgDevice(SvgSheet& sheet, const PictureLimits& limits, const CancelToken& cancel)
-    : sheet_(sheet), cancel_(cancel), images_(sheet, limits) {}
+SvgDevice::SvgDevice(SvgSheet& sheet, const PictureLimits& limits, const CancelToken& cancel, bool keepText)
+    : sheet_(sheet), cancel_(cancel), images_(sheet, limits) {
+  if (keepText) lines_.emplace(sheet);
+}
 
 void SvgDevice::startPage(int, GfxState*, XRef* references) {
   objects_ = references;

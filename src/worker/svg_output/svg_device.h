@@ -23,6 +23,7 @@
 #include "worker/svg_output/svg_images.h"
 #include "worker/svg_output/svg_shading_image.h"
 #include "worker/svg_output/svg_sheet.h"
+#include "worker/svg_output/svg_text_lines.h"
 
 namespace norvex::engine {
 
@@ -36,10 +37,13 @@ struct SvgRasterised {
 /// One page. The sheet outlives it. Glyphs whose font cannot be read are left out, as on the screen.
 class SvgDevice final : public OutputDev {
  public:
-  SvgDevice(SvgSheet& sheet, const PictureLimits& limits, const CancelToken& cancel);
+  /// `keepText`: text is written as text where that can be.
+  SvgDevice(SvgSheet& sheet, const PictureLimits& limits, const CancelToken& cancel, bool keepText = false);
 
   [[nodiscard]] const SvgRasterised& rasterised() const { return rasterised_; }
   [[nodiscard]] bool leftOutImages() const { return images_.leftOut(); }
+  /// Null: text is drawn.
+  [[nodiscard]] const SvgTextLines* textLines() const { return lines_ ? &*lines_ : nullptr; }
   /// Poppler asks now and then: cancelled, or there is no room for more.
   [[nodiscard]] bool mustStop() const { return sheet_.isFull() || cancel_.cancelled(); }
 
@@ -163,6 +167,7 @@ class SvgDevice final : public OutputDev {
 
   [[nodiscard]] const Glyph* glyph(SvgFont& font, unsigned number);
   void drawGlyph(GfxState* state, SvgFont& font, unsigned number, const AffineTransform& matrix);
+  [[nodiscard]] bool writeGlyph(GfxState* state, SvgFont& font, const SvgShownGlyph& glyph, bool isSeen);
   void outlineGlyph(GfxState* state, SvgFont& font, unsigned number, const AffineTransform& matrix,
                     int render);
 
@@ -173,6 +178,7 @@ class SvgDevice final : public OutputDev {
   CancelToken cancel_;
   SvgImages images_;
   SvgFonts fonts_;
+  std::optional<SvgTextLines> lines_;
   XRef* objects_ = nullptr;
   std::vector<State> states_{1};
   std::vector<Group> groups_;  ///< ended, and not painted yet

@@ -1,4 +1,4 @@
-// Text: every outline is a definition, used wherever it is shown.
+// Text: every outline is a definition, used wherever it is shown; or it stays text.
 #include <GfxFont.h>
 #include <GfxState.h>
 
@@ -87,7 +87,14 @@ void SvgDevice::drawGlyph(GfxState* state, SvgFont& font, unsigned number, const
   ++run_->glyphs;
 }
 
+// What is not seen is searched all the same: the text that lies above a scanned page.
+bool SvgDevice::writeGlyph(GfxState* state, SvgFont& font, const SvgShownGlyph& glyph, bool isSeen) {
+  if (run_) flushText();
+  return lines_->add(font, glyph, isSeen ? fillPaint(state) : attribute("fill", "none"), place(state));
+}
+
 void SvgDevice::flushText() {
+  if (lines_) lines_->flush();
   const std::optional<TextRun> run = std::exchange(run_, std::nullopt);
   if (!run || run->glyphs == 0) return;
   const QByteArray attributes = (run->paint == " fill=\"#000\"" ? QByteArray() : run->paint) +
@@ -115,11 +122,11 @@ void SvgDevice::outlineGlyph(GfxState* state, SvgFont& font, unsigned number, co
   if (textClip_->size() < limits::maximumSvgAttribute) font.outline(number, matrix, *textClip_);
 }
 
-void SvgDevice::drawChar(GfxState* state, double x, double y, double, double, double originX, double originY,
-                         CharCode code, int, const Unicode*, int) {
+void SvgDevice::drawChar(GfxState* state, double x, double y, double dx, double dy, double originX,
+                         double originY, CharCode code, int, const Unicode* text, int length) {
   const int bits = renderBits(state->getRender());
   const std::shared_ptr<GfxFont>& used = state->getFont();
-  if (bits == 0 || !used || mustStop()) return;
+  if ((bits == 0 && !lines_) || !used || mustStop()) return;
   SvgFont* const font = fonts_.font(*used, objects_);
   if (!font || !font->isOpen()) return;
   const double* m = state->getTextMat();
@@ -130,6 +137,15 @@ void SvgDevice::drawChar(GfxState* state, double x, double y, double, double, do
       pageMatrix(state);
   if (!matrix.isFinite() || !matrix.isInvertible()) return;
   const unsigned number = font->glyphOf(code);
+  if (lines_) {
+    const AffineTransform toPage = linearOf(pageMatrix(state));
+    SvgShownGlyph shown{number, matrix, toPage.map({dx, dy}), {}};
+    if (text && length > 0) shown.text.assign(text, text + length);
+    if ((bits == kFill || bits == 0) && writeGlyph(state, *font, shown, bits == kFill)) return;
+    if (bits != 0) lines_->noteOutline();
+    lines_->flush();
+  }
+  if (bits == 0) return;
   if (bits == kFill)
     drawGlyph(state, *font, number, matrix);
   else
@@ -149,6 +165,7 @@ void SvgDevice::endTextObject(GfxState*) {
 bool SvgDevice::beginType3Char(GfxState* state, double, double, double, double, CharCode code, const Unicode*,
                                int) {
   flushText();
+  if (lines_) lines_->noteOutline();
   const std::shared_ptr<GfxFont>& font = state->getFont();
   if (!font || mustStop()) return true;
   const AffineTransform matrix = pageMatrix(state);

@@ -10,6 +10,7 @@
 #include "worker/svg_output/svg_device.h"
 #include "worker/svg_output/svg_metadata.h"
 #include "worker/svg_output/svg_sheet.h"
+#include "worker/svg_output/svg_text_lines.h"
 
 namespace norvex::engine {
 namespace {
@@ -31,28 +32,32 @@ BytesReply reportOf(const SvgDevice& device, QSizeF page) {
   report.rasterisedDpi = rasterised.dpi;
   if (device.leftOutImages())
     report.warnings << QStringLiteral("an image with more pixels than are granted was left out");
+  if (device.textLines()) report.warnings << device.textLines()->remarks();
   return report;
 }
 
 }  // namespace
 
 Result<EngineBytes> svgFromPdf(const QByteArray& pdf, const std::optional<PdfAttributes>& attributes,
-                               EngineContext& context) {
+                               EngineContext& context, bool keepText) {
   const Error unreadable{ErrorKind::NotParsable, QStringLiteral("the page cannot be written as SVG")};
   keepPopplerSettings();
   PDFDoc document(new MemStream(pdf.constData(), 0, pdf.size(), Object(objNull)));
   if (!document.isOk() || document.getNumPages() < 1 || !document.getPage(1)) return unreadable;
   const QSizeF page(document.getPageCropWidth(1), document.getPageCropHeight(1));
   if (!(page.width() > 0) || !(page.height() > 0)) return unreadable;
-  SvgSheet sheet(page, decimalsFor(page), context.limits.memoryMiB * kMiB / kShareOfMemory);
-  SvgDevice device(sheet, context.limits, context.cancel);
+  const qsizetype mostBytes = context.limits.memoryMiB * kMiB / kShareOfMemory;
+  SvgSheet sheet(page, decimalsFor(page), mostBytes);
+  SvgDevice device(sheet, context.limits, context.cancel, keepText);
   document.displayPage(
       &device, 1, 72, 72, 0, false, true, false,
       [](void* asked) { return static_cast<const SvgDevice*>(asked)->mustStop(); }, &device);
   if (context.cancel.cancelled())
     return Error{ErrorKind::Cancelled, QStringLiteral("the work was cancelled")};
-  QByteArray text = sheet.document(attributes ? svgMetadata(*attributes) : QByteArray());
-  if (sheet.isFull())
+  const std::optional<QByteArray> fonts = device.textLines() ? device.textLines()->styles() : QByteArray();
+  QByteArray text =
+      sheet.document((attributes ? svgMetadata(*attributes) : QByteArray()) + fonts.value_or(QByteArray()));
+  if (sheet.isFull() || !fonts || fonts->size() > mostBytes)
     return Error{ErrorKind::Limit,
                  QStringLiteral("the page is too large or too deeply nested to become SVG")};
   return EngineBytes{std::move(text), reportOf(device, page)};

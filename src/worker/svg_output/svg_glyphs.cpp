@@ -13,6 +13,8 @@
 #include <cmath>
 #include <cstring>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "protocol/limits.h"
 
@@ -30,46 +32,58 @@ struct Release {
 };
 using GlyphMap = std::unique_ptr<int, Release>;
 
+/// Fonts that everybody has are described by their names alone.
+SvgFontLook lookOf(GfxFont& font) {
+  const std::string name = font.getName().value_or(std::string());
+  const auto says = [&](const char* word) { return name.find(word) != std::string::npos; };
+  return {font.isBold() || says("Bold"), font.isItalic() || says("Italic") || says("Oblique"),
+          font.isFixedWidth() || says("Courier"), font.isSerif() || says("Times")};
+}
+
 std::vector<int> listOf(const int* map, int length) {
   return map ? std::vector<int>(map, map + length) : std::vector<int>();
 }
 
 /// FreeType walks along an outline.
 struct Walk {
-  const AffineTransform& matrix;
-  SvgPathWriter& writer;
-  bool open = false;
+  std::vector<OutlineStep>& steps;
 
-  [[nodiscard]] QPointF at(const FT_Vector* point) const {
-    return matrix.map({double(point->x) / kFixed, double(point->y) / kFixed});
-  }
-  static int move(const FT_Vector* to, void* walk) {
-    auto& self = *static_cast<Walk*>(walk);
-    if (self.open) self.writer.close();
-    self.writer.moveTo(self.at(to));
-    self.open = true;
+  static QPointF at(const FT_Vector* point) { return {double(point->x) / kFixed, double(point->y) / kFixed}; }
+  static int add(void* walk, const OutlineStep& step) {
+    static_cast<Walk*>(walk)->steps.push_back(step);
     return 0;
   }
-  static int line(const FT_Vector* to, void* walk) {
-    auto& self = *static_cast<Walk*>(walk);
-    self.writer.lineTo(self.at(to));
-    return 0;
-  }
+  static int move(const FT_Vector* to, void* walk) { return add(walk, {OutlineStep::Move, {at(to)}}); }
+  static int line(const FT_Vector* to, void* walk) { return add(walk, {OutlineStep::Line, {at(to)}}); }
   static int quad(const FT_Vector* control, const FT_Vector* to, void* walk) {
-    auto& self = *static_cast<Walk*>(walk);
-    self.writer.quadTo(self.at(control), self.at(to));
-    return 0;
+    return add(walk, {OutlineStep::Quadratic, {at(control), at(to)}});
   }
   static int cubic(const FT_Vector* first, const FT_Vector* second, const FT_Vector* to, void* walk) {
-    auto& self = *static_cast<Walk*>(walk);
-    self.writer.curveTo(self.at(first), self.at(second), self.at(to));
-    return 0;
+    return add(walk, {OutlineStep::Cubic, {at(first), at(second), at(to)}});
   }
 };
 
+void put(const OutlineStep& step, const AffineTransform& matrix, SvgPathWriter& writer) {
+  const auto& [a, b, c] = step.points;
+  switch (step.kind) {
+    case OutlineStep::Move:
+      writer.moveTo(matrix.map(a));
+      break;
+    case OutlineStep::Line:
+      writer.lineTo(matrix.map(a));
+      break;
+    case OutlineStep::Quadratic:
+      writer.quadTo(matrix.map(a), matrix.map(b));
+      break;
+    case OutlineStep::Cubic:
+      writer.curveTo(matrix.map(a), matrix.map(b), matrix.map(c));
+      break;
+  }
+}
+
 }  // namespace
 
-SvgFont::SvgFont(FT_LibraryRec_* library, GfxFont& font, XRef* objects) {
+SvgFont::SvgFont(FT_LibraryRec_* library, GfxFont& font, XRef* objects) : look_(lookOf(font)) {
   if (!open(library, font, objects)) return;
   unitsPerEm_ = std::clamp<int>(face_->units_per_EM, kFewestUnits, kMostUnits);
   FT_Set_Pixel_Sizes(face_, 0, FT_UInt(unitsPerEm_));
@@ -190,15 +204,43 @@ unsigned SvgFont::glyphOf(unsigned code) const {
   return code;
 }
 
-bool SvgFont::outline(unsigned glyph, const AffineTransform& matrix, SvgPathWriter& writer) const {
-  if (!face_ || FT_Load_Glyph(face_, glyph, FT_LOAD_NO_HINTING | FT_LOAD_NO_BITMAP) != 0 ||
-      face_->glyph->format != FT_GLYPH_FORMAT_OUTLINE || face_->glyph->outline.n_contours == 0)
-    return false;
-  Walk walk{matrix, writer};
+GlyphOutline SvgFont::outlineOf(unsigned glyph) const {
+  GlyphOutline found;
+  if (!face_ || FT_Load_Glyph(face_, glyph, FT_LOAD_NO_HINTING | FT_LOAD_NO_BITMAP) != 0) return found;
+  found.advance = double(face_->glyph->advance.x) / kFixed;
+  if (face_->glyph->format != FT_GLYPH_FORMAT_OUTLINE || face_->glyph->outline.n_contours == 0) return found;
+  Walk walk{found.steps};
   const FT_Outline_Funcs steps{&Walk::move, &Walk::line, &Walk::quad, &Walk::cubic, 0, 0};
   FT_Outline_Decompose(&face_->glyph->outline, &steps, &walk);
-  if (walk.open) writer.close();
-  return true;
+  return found;
+}
+
+bool SvgFont::outline(unsigned glyph, const AffineTransform& matrix, SvgPathWriter& writer) const {
+  const GlyphOutline found = outlineOf(glyph);
+  bool isBegun = false;
+  for (const OutlineStep& step : found.steps) {
+    if (step.kind == OutlineStep::Move && std::exchange(isBegun, true)) writer.close();
+    put(step, matrix, writer);
+  }
+  if (isBegun) writer.close();
+  return isBegun;
+}
+
+int SvgFont::ascent() const {
+  return int(std::lround(double(face_->size->metrics.ascender) / kFixed));
+}
+
+int SvgFont::descent() const {
+  return int(std::lround(-double(face_->size->metrics.descender) / kFixed));
+}
+
+bool SvgFont::mayBeEmbedded() const {
+  const FT_UShort rights = FT_Get_FSType_Flags(face_);
+  // Of rights that exclude each other the larger one counts.
+  constexpr FT_UShort kAll = FT_FSTYPE_RESTRICTED_LICENSE_EMBEDDING | FT_FSTYPE_PREVIEW_AND_PRINT_EMBEDDING |
+                             FT_FSTYPE_EDITABLE_EMBEDDING;
+  return (rights & kAll) != FT_FSTYPE_RESTRICTED_LICENSE_EMBEDDING &&
+         (rights & FT_FSTYPE_BITMAP_EMBEDDING_ONLY) == 0;
 }
 
 SvgFonts::SvgFonts() {

@@ -10,6 +10,7 @@
 
 #include "base/affine_transform.h"
 #include "worker/svg_output/svg_path.h"
+#include "worker/web_fonts/glyph_outline.h"
 
 class GfxFont;
 class GfxFontLoc;
@@ -18,6 +19,11 @@ struct FT_LibraryRec_;
 struct FT_FaceRec_;
 
 namespace norvex::engine {
+
+/// The font as its document describes it, for readers that have to take another.
+struct SvgFontLook {
+  bool isBold = false, isItalic = false, isFixed = false, hasSerifs = false;
+};
 
 /// An opened font. Outlines are in units of which `unitsPerEm` make the font's size, y up.
 class SvgFont {
@@ -35,6 +41,15 @@ class SvgFont {
   [[nodiscard]] unsigned glyphOf(unsigned code) const;
   /// The outline under `matrix`, added to `writer`; false: there is none.
   bool outline(unsigned glyph, const AffineTransform& matrix, SvgPathWriter& writer) const;
+  /// The outline in the font's own units; no steps: there is none.
+  [[nodiscard]] GlyphOutline outlineOf(unsigned glyph) const;
+
+  // For a font made of these outlines.
+  [[nodiscard]] const SvgFontLook& look() const { return look_; }
+  [[nodiscard]] int ascent() const;   ///< units
+  [[nodiscard]] int descent() const;  ///< units, below the baseline
+  /// False: whoever made it says that it goes into no document.
+  [[nodiscard]] bool mayBeEmbedded() const;
 
  private:
   bool open(FT_LibraryRec_* library, GfxFont& font, XRef* objects);
@@ -45,6 +60,7 @@ class SvgFont {
   std::vector<unsigned char> bytes_;  ///< of the file; the face reads from it
   FT_FaceRec_* face_ = nullptr;
   bool standsIn_ = false;
+  SvgFontLook look_;
   int unitsPerEm_ = 1000;
   double narrowing_ = 1;
   std::vector<int> glyphs_;  ///< by character code; empty: the code is the glyph

@@ -19,13 +19,15 @@ namespace norvex::kit {
 class MadeSvg {
  public:
   explicit MadeSvg(const QByteArray& pdf, const std::optional<PdfAttributes>& attributes = {},
-                   engine::EngineContext context = {}) {
-    auto svg = engine::svgFromPdf(pdf, attributes, context);
+                   engine::EngineContext context = {}, bool keepText = false) {
+    auto svg = engine::svgFromPdf(pdf, attributes, context, keepText);
     if (svg)
       result_ = std::move(*svg);
     else
       error_ = svg.error();
   }
+  /// With text as text.
+  [[nodiscard]] static MadeSvg withText(const QByteArray& pdf) { return MadeSvg(pdf, {}, {}, true); }
   [[nodiscard]] const QByteArray& svg() const { return result_.bytes; }
   [[nodiscard]] const BytesReply& report() const { return result_.report; }
   [[nodiscard]] const std::optional<Error>& error() const { return error_; }

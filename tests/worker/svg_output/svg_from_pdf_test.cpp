@@ -85,6 +85,31 @@ class SvgFromPdfTest : public QObject {
     QCOMPARE(made.report().regionsRasterised, 0);
   }
 
+  void stopsOfASpotColourHaveTheColourThatStandsForIt() {
+    const MadeSvg made(page("/A sh",
+                            "/Shading << /A << /ShadingType 2 /Extend [true true] /ColorSpace [/Separation "
+                            "/Gold /DeviceRGB 7 0 R] /Coords [0 0 200 "
+                            "0] /Function 6 0 R >> >>",
+                            {"<< /FunctionType 2 /Domain [0 1] /C0 [0] /C1 [1] /N 1 >>",
+                             "<< /FunctionType 2 /Domain [0 1] /C0 [1 1 1] /C1 [1 0.8 0] /N 1 >>"}));
+    QCOMPARE(made.count("<linearGradient"), 1);
+    QCOMPARE(made.count("<stop"), 2);
+    QVERIFY(
+        made.svg().contains("<stop offset=\"0\" stop-color=\"#fff\"/><stop offset=\"1\" "
+                            "stop-color=\"#fc0\"/>"));
+    // The space of several inks, halfway between its stops another colour than a straight line has.
+    const MadeSvg several(
+        page("/A sh",
+             "/Shading << /A << /ShadingType 2 /Extend [true true] /ColorSpace [/DeviceN [/Gold /Blue] "
+             "/DeviceRGB 7 0 R] /Coords [0 0 "
+             "200 0] /Function 6 0 R >> >>",
+             {"<< /FunctionType 2 /Domain [0 1] /C0 [0 1] /C1 [1 0] /N 1 >>",
+              stream("{ 2 copy mul 4 mul }", "/FunctionType 4 /Domain [0 1 0 1] /Range [0 1 0 1 0 1]")}));
+    QVERIFY(several.count("<stop") > 3);
+    QVERIFY(several.svg().contains("<stop offset=\"0\" stop-color=\"#0f0\"/>"));
+    QVERIFY(several.svg().contains("<stop offset=\"1\" stop-color=\"#f00\"/>"));
+  }
+
   void aMeshBecomesAnImageAndThatIsTold() {
     const QByteArray triangle("\0\0\0\xff\0\0\0\xff\0\0\xff\0\0\x80\xff\0\0\xff", 18);
     const MadeSvg made(

@@ -1,0 +1,70 @@
+#include "worker/web_fonts/web_faces.h"
+
+#include "worker/web_fonts/type2_outline.h"
+
+namespace norvex::engine {
+namespace {
+
+// A font of a document has two or three outlines for a character: small capitals, old numerals, swashes.
+constexpr size_t kMostFaces = 8;
+constexpr char32_t kPrivate = 0xE000, kPrivateEnd = 0xF8FF, kMorePrivate = 0xF0000, kMorePrivateEnd = 0xFFFFD;
+constexpr size_t kBlank = 0;
+
+}  // namespace
+
+WebFaces::WebFaces(int unitsPerEm, int ascent, int descent) {
+  common_.unitsPerEm = unitsPerEm;
+  common_.ascent = ascent;
+  common_.descent = descent;
+  common_.outlines.emplace_back();
+}
+
+bool WebFaces::add(unsigned glyph, const GlyphOutline& outline) {
+  if (knows(glyph)) return true;
+  if (!type2Outline(outline)) return false;
+  glyphs_[glyph] = common_.outlines.size();
+  common_.outlines.push_back(outline);
+  return true;
+}
+
+bool WebFaces::isBlank(unsigned glyph) const {
+  return common_.outlines.at(glyphs_.at(glyph)).steps.empty();
+}
+
+std::optional<FaceCharacter> WebFaces::choose(char32_t character, size_t outline) {
+  for (size_t face = 0; face < kMostFaces; ++face) {
+    if (face == faces_.size()) faces_.emplace_back();
+    const auto [at, isNew] = faces_[face].try_emplace(character, outline);
+    if (isNew || at->second == outline) return FaceCharacter{face, character};
+  }
+  return std::nullopt;
+}
+
+std::optional<std::vector<FaceCharacter>> WebFaces::show(unsigned glyph, const std::vector<char32_t>& text) {
+  const size_t outline = glyphs_.at(glyph);
+  std::vector<FaceCharacter> shown;
+  for (const char32_t character : text) {
+    const auto chosen = choose(character, shown.empty() ? outline : kBlank);
+    if (!chosen) break;
+    shown.push_back(*chosen);
+  }
+  if (!shown.empty()) return shown;
+  for (const auto& [first, last] :
+       {std::pair(kPrivate, kPrivateEnd), std::pair(kMorePrivate, kMorePrivateEnd)}) {
+    if (outline > last - first) continue;
+    if (const auto chosen = choose(first + char32_t(outline), outline)) return std::vector{*chosen};
+  }
+  return std::nullopt;
+}
+
+std::optional<FaceCharacter> WebFaces::space() {
+  return choose(U' ', kBlank);
+}
+
+WebFont WebFaces::font(size_t face) const {
+  WebFont font = common_;
+  font.shownBy = faces_.at(face);
+  return font;
+}
+
+}  // namespace norvex::engine

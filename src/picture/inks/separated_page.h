@@ -1,7 +1,10 @@
 // A page of a picture, asked for its inks.
 #pragma once
 
+#include <QRectF>
 #include <QStringList>
+
+#include <optional>
 
 #include "base/cancel_token.h"
 #include "base/result.h"
@@ -18,7 +21,8 @@ struct SeparatedPage {
 struct SeparationRequest {
   int page = 0;  ///< from 0
   double dpi = 144;
-  bool overprint = false;  ///< overprinting is simulated
+  bool overprint = false;           ///< overprinting is simulated
+  std::optional<QRectF> part = {};  ///< of the page, in picture coordinates; nothing: all of it
 };
 
 /// Blocks. Fails with Unsupported for an SVG picture, which has none, and as PictureProcess::examine().

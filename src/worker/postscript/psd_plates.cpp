@@ -52,13 +52,6 @@ class Reader {
   qsizetype at_ = 0;
 };
 
-/// A PDF's names are UTF-8 mostly, older programs' are not.
-QString inkName(const QByteArray& bytes) {
-  QStringDecoder decoder(QStringDecoder::Utf8);
-  const QString name = decoder(bytes);
-  return (decoder.hasError() ? QString::fromLatin1(bytes) : name).left(limits::maximumNameLength);
-}
-
 struct SpotChannels {
   QList<QString> names;
   QList<std::optional<ProcessInks>> alternates;
@@ -130,6 +123,12 @@ void measure(PageInks& page) {
 }
 
 }  // namespace
+
+QString inkName(const QByteArray& bytes) {
+  QStringDecoder decoder(QStringDecoder::Utf8);
+  const QString name = decoder(bytes);
+  return (decoder.hasError() ? QString::fromLatin1(bytes) : name).left(limits::maximumNameLength);
+}
 
 Result<PageInks> platesOfPsd(const QByteArray& psd) {
   Reader reader(psd);

@@ -1,19 +1,27 @@
 #include "worker/postscript/separations.h"
 
+#include <functional>
 #include <utility>
 
 #include "protocol/limits.h"
 #include "protocol/page_inks.h"
 #include "worker/engine/distiller_arguments.h"
+#include "worker/pdf/compose_pdf.h"
 #include "worker/pdf/pdf_numbers.h"
+#include "worker/pdf/whole_page.h"
 #include "worker/postscript/distill.h"
 #include "worker/postscript/distiller.h"
+#include "worker/postscript/ink_alternates.h"
 #include "worker/postscript/psd_plates.h"
 
 namespace norvex::engine {
 namespace {
 
-Result<void> checkPixels(const QSizeF& size, double dpi) {
+Result<void> checkPixels(const QSizeF& page, const ExamineRequest& request) {
+  if (request.part && request.part->isEmpty())
+    return Error{ErrorKind::Protocol, QStringLiteral("the part that was asked for is empty")};
+  const QSizeF size = request.part ? request.part->size() : page;
+  const double dpi = request.dpi;
   const double pixels = size.width() * size.height() * (dpi / 72) * (dpi / 72);
   if (pixels <= limits::maximumPlatePixels) return {};
   return Error{
@@ -31,9 +39,12 @@ QByteArray deviceParameters(const ExamineRequest& request) {
          (request.overprint ? "/enable" : "/disable") + " /EndPage { 2 ne exch 0 eq and } bind ";
 }
 
-Result<EngineBytes> answer(const QByteArray& psd, const ExamineRequest& request, QStringList warnings) {
+/// `pdf`: gives the page as a PDF, where its colour spaces are to be asked.
+Result<EngineBytes> answer(const QByteArray& psd, const ExamineRequest& request, QStringList warnings,
+                           const std::function<QByteArray()>& pdf) {
   Result<PageInks> page = platesOfPsd(psd);
   if (!page) return page.error();
+  if (lacksAlternates(*page)) addAlternates(*page, inkAlternates(pdf()));
   page->dpi = request.dpi;
   page->overprint = request.overprint;
   EngineBytes bytes{encodePageInks(*page), {}};
@@ -58,25 +69,45 @@ QStringList remarksOf(const QByteArray& messages) {
   return {QStringLiteral("the page has errors, and something may be missing on its plates")};
 }
 
+/// A part of a page as a page of its own: nothing of it is drawn for that.
+Result<QByteArray> partOf(const QByteArray& pdf, const QSizeF& size, const ExamineRequest& request) {
+  ComposeRequest part = wholePage(request.page, size, VectorFormat::Pdf);
+  part.rect = QRectF(part.rect.topLeft() + request.part->topLeft(), request.part->size());
+  return composePdf(pdf, part);
+}
+
 }  // namespace
 
 Result<EngineBytes> inksOfProgram(const QByteArray& postScript, const QRectF& box,
                                   const ExamineRequest& request, EngineContext& context) {
-  if (const Result<void> small = checkPixels(box.size(), request.dpi); !small) return small.error();
+  if (const Result<void> small = checkPixels(box.size(), request); !small) return small.error();
+  const QRectF area =
+      request.part ? QRectF(box.topLeft() + request.part->topLeft(), request.part->size()) : box;
   const Result<DrawnProgram> drawn =
-      drawProgram(postScript, box, {InterpreterDevice::Plates, deviceParameters(request)}, context);
+      drawProgram(postScript, area, {InterpreterDevice::Plates, deviceParameters(request)}, context);
   if (!drawn) return drawn.error();
   if (!drawn->stoppedBy.isEmpty()) return Error{ErrorKind::NotParsable, drawn->stoppedBy};
-  return answer(drawn->output, request, drawn->warnings);
+  return answer(drawn->output, request, drawn->warnings, [&] {
+    const Result<Distilled> distilled = distill(postScript, box, context);
+    return distilled ? distilled->pdf : QByteArray();
+  });
 }
 
 Result<EngineBytes> inksOfPdf(const QByteArray& pdf, const QSizeF& size, const ExamineRequest& request,
                               EngineContext& context) {
-  if (const Result<void> small = checkPixels(size, request.dpi); !small) return small.error();
+  if (const Result<void> small = checkPixels(size, request); !small) return small.error();
+  if (request.part) {
+    const Result<QByteArray> part = partOf(pdf, size, request);
+    if (!part) return part.error();
+    ExamineRequest whole = request;
+    whole.page = 0;
+    whole.part.reset();
+    return inksOfPdf(*part, request.part->size(), whole, context);
+  }
   const auto input = [&](bool forked) { return QList{pdfProlog(pdf.size(), request, forked), pdf}; };
   const Result<GhostscriptOutput> run = runGhostscript(InterpreterDevice::Plates, input, context);
   if (!run) return run.error();
-  return answer(run->output, request, remarksOf(run->messages));
+  return answer(run->output, request, remarksOf(run->messages), [&] { return pdf; });
 }
 
 }  // namespace norvex::engine

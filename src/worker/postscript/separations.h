@@ -10,9 +10,9 @@
 
 namespace norvex::engine {
 
-// Both answer with encodePageInks(), at the request's resolution and overprint; pixels are not smoothed, as
-// those of a plate are not. Both fail with Limit for more pixels than a plate may have, and otherwise as
-// GhostscriptChild::run().
+// Both answer with encodePageInks(), at the request's resolution and overprint, of the request's part or the
+// whole page; pixels are not smoothed, as those of a plate are not. Both fail with Protocol for an empty
+// part, with Limit for more pixels than a plate may have, and otherwise as GhostscriptChild::run().
 
 /// `postScript` is what distill() takes, and `box` as well. A program that stops before it has finished its
 /// page fails with NotParsable and the interpreter's error in one sentence.

@@ -13,6 +13,7 @@
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/postscript/eps_engine.h"
+#include "worker/postscript/ink_alternates.h"
 #include "worker/postscript/psd_plates.h"
 #include "worker/postscript/separated_pages.h"
 #include "worker/tiff/tiff_preview.h"
@@ -63,8 +64,9 @@ class Opened {
   }
   DocumentEngine& engine() { return *engine_; }
   EngineContext& context() { return context_; }
-  Result<PageInks> inks(double dpi = 72, bool overprint = true, int page = 0) {
-    const Result<EngineBytes> answer = engine_->examine({Examination::Inks, page, dpi, overprint});
+  Result<PageInks> inks(double dpi = 72, bool overprint = true, int page = 0,
+                        const std::optional<QRectF>& part = {}) {
+    const Result<EngineBytes> answer = engine_->examine({Examination::Inks, page, dpi, overprint, part});
     if (!answer) return answer.error();
     warnings = answer->report.warnings;
     return decodePageInks(answer->bytes);
@@ -172,6 +174,111 @@ class SeparationsTest : public QObject {
         QCOMPARE(platesOf(*page).keys(), theirs.keys());
         QVERIFY(platesOf(*page) == theirs);
       }
+  }
+
+  void aPartHasThePixelsOfTheWhole_data() {
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QByteArray>("document");
+    QTest::newRow("program") << int(PictureKind::Eps) << eps(kProcess + kOverprinting);
+    QTest::newRow("several inks in a colour space") << int(PictureKind::Eps) << eps(kDeviceN);
+    QTest::newRow("PDF") << int(PictureKind::Pdf) << pdf();
+    QTest::newRow("turned page") << int(PictureKind::Pdf)
+                                 << kit::onePage("1 0 0.5 0 k 15 25 9 14 re f 0 0 0 1 k 52 30 10 9 re f",
+                                                 "/MediaBox [0 0 100 100] /CropBox [10 20 70 60] /Rotate 90");
+  }
+  void aPartHasThePixelsOfTheWhole() {
+    QFETCH(int, kind);
+    QFETCH(QByteArray, document);
+    Opened opened(PictureKind(kind), document);
+    for (const double scale : {1.0, 3.5}) {
+      const QRect cut(qRound(6 * scale), qRound(4 * scale), qRound(22 * scale), qRound(17 * scale));
+      const Result<PageInks> whole = opened.inks(72 * scale);
+      QVERIFY2(whole.ok(), qPrintable(errorOf(whole)));
+      // The cut counts from the lower edge.
+      const Result<PageInks> part =
+          opened.inks(72 * scale, true, 0,
+                      QRectF(cut.x() / scale, cut.y() / scale, cut.width() / scale, cut.height() / scale));
+      QVERIFY2(part.ok(), qPrintable(errorOf(part)));
+      QCOMPARE(part->pixels, cut.size());
+      const int top = whole->pixels.height() - cut.y() - cut.height();
+      int seen = 0;
+      for (qsizetype i = 0; i < whole->inks.size(); ++i) {
+        const QByteArray same = platesOf(*part).value(whole->inks[i].name);
+        for (int y = 0; y < cut.height(); ++y)
+          for (int x = 0; x < cut.width(); ++x) {
+            const int wanted = whole->plate(i)[(y + top) * whole->pixels.width() + x + cut.x()];
+            const int found = same.isEmpty() ? 0 : uchar(same[y * cut.width() + x]);
+            seen += wanted != 0;
+            QVERIFY2(wanted == found, qPrintable(QStringLiteral("%1 at %2,%3: %4, not %5")
+                                                     .arg(whole->inks[i].name)
+                                                     .arg(x)
+                                                     .arg(y)
+                                                     .arg(found)
+                                                     .arg(wanted)));
+          }
+      }
+      QVERIFY(seen > 0);
+    }
+  }
+
+  void aPartOfALargePageHasRoomWhereTheWholeHasNone() {
+    Opened opened(PictureKind::Pdf, pdf());
+    const Result<PageInks> whole = opened.inks(9600);
+    QVERIFY(!whole.ok());
+    QCOMPARE(whole.error().kind, ErrorKind::Limit);
+    const Result<PageInks> part = opened.inks(9600, true, 0, QRectF(12, 12, 0.75, 0.75));
+    QVERIFY2(part.ok(), qPrintable(errorOf(part)));
+    QCOMPARE(part->pixels, QSize(100, 100));
+    const Result<PageInks> empty = opened.inks(72, true, 0, QRectF(12, 12, 0, 4));
+    QVERIFY(!empty.ok());
+    QCOMPARE(empty.error().kind, ErrorKind::Protocol);
+  }
+
+  void anInkThatSharesItsColourSpaceHasItsOwnColour() {
+    const QByteArray document = kit::onePage(
+        "/S cs 0.3 0.8 0.25 scn 5 5 40 30 re f",
+        "/MediaBox [0 0 60 40] /Resources << /ColorSpace << /S [/DeviceN [/Cyan /Orange /Gold#20Foil] "
+        "/DeviceCMYK 5 0 R] >> >>",
+        {kit::stream("{ 0.8 mul exch 0.6 mul exch 0 }",
+                     "/FunctionType 4 /Domain [0 1 0 1 0 1] /Range [0 1 0 1 0 1 0 1]")});
+    Opened opened(PictureKind::Pdf, document);
+    const Result<PageInks> page = opened.inks();
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    QVERIFY(inkNamed(*page, "Orange") && inkNamed(*page, "Gold Foil"));
+    QVERIFY(inkNamed(*page, "Orange")->alternate == (ProcessInks{0, 153, 0, 0}));
+    QVERIFY(inkNamed(*page, "Gold Foil")->alternate == (ProcessInks{0, 0, 204, 0}));
+  }
+
+  void anInkOfAProgramThatSharesItsColourSpaceHasItsOwnColourAsWell() {
+    Opened opened(
+        PictureKind::Eps,
+        eps("[/DeviceN [(Orange) (Gold Foil)] /DeviceCMYK {0.8 mul exch 0.6 mul exch 0 3 1 roll 0}] "
+            "setcolorspace 0.8 0.25 setcolor 5 5 40 30 rectfill"));
+    const Result<PageInks> page = opened.inks();
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    QVERIFY(inkNamed(*page, "Orange") && inkNamed(*page, "Gold Foil"));
+    QVERIFY(inkNamed(*page, "Orange")->alternate == (ProcessInks{0, 153, 0, 0}));
+    QVERIFY(inkNamed(*page, "Gold Foil")->alternate == (ProcessInks{0, 0, 204, 0}));
+  }
+
+  void aColourSpaceOfOneInkIsBelievedFirst() {
+    const QByteArray document = kit::onePage(
+        "/S cs 0.3 0.8 scn 5 5 40 30 re f",
+        "/MediaBox [0 0 60 40] /Resources << /ColorSpace << /S [/DeviceN [/Orange /Gold] /DeviceCMYK 5 0 R "
+        "<< /Colorants << /Gold [/Separation /Gold /DeviceCMYK << /FunctionType 2 /Domain [0 1] /C0 [0 0 0 "
+        "0] "
+        "/C1 [0 0.2 1 0.4] /N 1 >>] >> >>] >> >>",
+        {kit::stream("{ pop pop 0 0 0 1 }", "/FunctionType 4 /Domain [0 1 0 1] /Range [0 1 0 1 0 1 0 1]")});
+    const auto alternates = inkAlternates(document);
+    QVERIFY(alternates.value("Gold") == (ProcessInks{0, 51, 255, 102}));
+    QVERIFY(alternates.value("Orange") == (ProcessInks{0, 0, 0, 255}));
+  }
+
+  void aDamagedDocumentTellsOfNoInks() {
+    QVERIFY(inkAlternates("%PDF-1.7 and nothing else").isEmpty());
+    QVERIFY(inkAlternates(kit::onePage("", "/MediaBox [0 0 9 9] /Resources << /ColorSpace << /S [/DeviceN [/A] "
+                                           "/DeviceCMYK] /T [/Separation /B 7 0 R 8 0 R] >> >>"))
+                .isEmpty());
   }
 
   void overprintingIsSimulatedOnlyWhenItIsAskedFor() {

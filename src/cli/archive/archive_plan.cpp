@@ -177,6 +177,8 @@ ReadArchivePlan readArchivePlan(const Arguments& arguments) {
   // Nothing else can be repaired, and what was never meant is no failure.
   if (arguments.command == Command::Repair && plan.filter.include.isEmpty())
     plan.filter.include = {"*.[eE][pP][sS]", "*.[eE][pP][sS][fFiI]"};
+  if (arguments.command == Command::Inks && plan.filter.include.isEmpty())
+    plan.filter.include = {"*.[eE][pP][sS]", "*.[eE][pP][sS][fFiI]", "*.[aA][iI]", "*.[pP][dD][fF]"};
   plan.outputs = OutputNames::of(arguments);
   plan.state = bytesOf(arguments, Option::State);
   plan.report = bytesOf(arguments, Option::Report);

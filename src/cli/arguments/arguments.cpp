@@ -132,6 +132,9 @@ QString complaintAboutArchive(const Arguments& arguments) {
   if (arguments.has(Option::Pages))
     return QStringLiteral("--pages does not go with %1: an archive has one result for each file")
         .arg(archiveOptionOf(arguments));
+  if (arguments.has(Option::Plates))
+    return QStringLiteral("--plates does not go with %1: files of one name would share theirs")
+        .arg(archiveOptionOf(arguments));
   if (arguments.has(Option::Json)) return QStringLiteral("an archive is told line by line: --json-lines");
   if (arguments.has(Option::Null) && !listed) return QStringLiteral("--null goes with --files-from");
   if (!tree && (arguments.has(Option::Include) || arguments.has(Option::Exclude)))

@@ -113,7 +113,7 @@ inline constexpr Commands readingCommands =
 /// that a command gets lists, trees, states and the rest by standing here.
 inline constexpr Commands archiveCommands = only(Command::Info) | only(Command::Preview) |
                                             only(Command::Convert) | only(Command::Check) |
-                                            only(Command::Repair);
+                                            only(Command::Repair) | only(Command::Inks);
 
 /// A command takes the options of its own rows.
 struct OptionRow {

@@ -1,5 +1,6 @@
 // Commands over archives with pictures in memory: what is written where, what is told, what is tried again.
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QSet>
 
 #include <fcntl.h>
@@ -14,6 +15,7 @@
 #include "cli/archive/archive_run.h"
 #include "kit/test_main.h"
 #include "protocol/page_contents.h"
+#include "protocol/page_inks.h"
 
 using namespace norvex;
 using namespace norvex::testdata;
@@ -120,6 +122,8 @@ class RunTest : public QObject {
     row({"preview", "a", "--to", "d", "-o", "e"},
         "-o does not go with --to: the results go to a folder (--to DIR)");
     row({"repair", "--files-from", "l"}, "--to DIR is needed");
+    row({"inks", "a", "--json-lines", "--plates", "d"},
+        "--plates does not go with --json-lines: files of one name would share theirs");
     row({"check", "--files-from", "l", "--profile", "nowhere"},
         "--profile: there is no profile nowhere, and no file of that name; profiles are: archive, journal, "
         "print, "
@@ -271,6 +275,31 @@ class RunTest : public QObject {
     archive.put("p.toml", "[limits]\nrgb = false\n");
     QCOMPARE(archive.go(run), 0);
     QVERIFY(archive.console.messages.endsWith("1 done\n"));
+  }
+
+  void theInksOfATreeAreTold() {
+    Archive archive;
+    MemoryPicture picture;
+    picture.examine = [](const ExamineRequest&) {
+      PageInks page;
+      for (const char* name : {"Cyan", "Magenta", "Yellow", "Black"}) page.inks << Ink{name, false, {}, 0, 0};
+      page.inks << Ink{"Gold", true, ProcessInks{0, 0, 255, 0}, 0.5, 0.5};
+      page.plates = QByteArray(5, '\x40');
+      return encodePageInks(page);
+    };
+    archive.service.setPicture(picture);
+    archive.put("in/a/b.EPS", kEps), archive.put("in/c.pdf", kPdf), archive.put("in/d.svg");
+    const QStringList run{"inks",    "--recursive",         archive.path("in"),
+                          "--state", archive.path("state"), "--json-lines"};
+    QCOMPARE(archive.go(run), 0);
+    QCOMPARE(archive.lines().size(), 2);  // an SVG has no inks
+    for (const QJsonObject& line : archive.lines()) {
+      QCOMPARE(line.value("outcome").toString(), "done");
+      QCOMPARE(line.value("inks").toArray().size(), 5);
+      QCOMPARE(line.value("inks").toArray().last().toObject().value("name").toString(), "Gold");
+    }
+    QCOMPARE(archive.go(run), 0);
+    QVERIFY(archive.console.messages.endsWith("2 unchanged\n"));
   }
 
   void anArchiveIsRepairedIntoATreeOfTheSameNames() {

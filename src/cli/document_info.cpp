@@ -9,6 +9,7 @@
 #include "picture/eps_image_rep.h"
 #include "picture/picture_header.h"
 #include "picture/process/null_picture_service.h"
+#include "picture/process/page_names.h"
 #include "types/document_kind.h"
 
 namespace norvex {
@@ -94,7 +95,7 @@ void readPicture(DocumentInfo& info, PictureService& service, PictureKind kind, 
   PictureSource source = sourceOfInput(bytes, info.file);
   const Result<QStringList> read = readAsOptioned(service, source, reader, limits, time.token());
   const Result<PictureFacts> facts =
-      read ? service.open(source.bytes, kind, limits)->facts(time.token()) : read.error();
+      read ? factsWithNames(*service.open(source.bytes, kind, limits), kind, time.token()) : read.error();
   readFacts(info, facts);
   if (info.error) info.error = time.explained(*info.error);
   info.header = pictureHeader(kind, bytes, facts);

@@ -5,6 +5,7 @@
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
 
+#include <QByteArray>
 #include <QTimeZone>
 
 #include <memory>
@@ -14,6 +15,23 @@ namespace {
 
 icu::UnicodeString icuText(const QString& text) {
   return {reinterpret_cast<const UChar*>(text.utf16()), int32_t(text.size())};
+}
+
+/// Making one takes longer than all else that is told of a file.
+struct MadeFormat {
+  QString localeName;
+  QByteArray zone;
+  std::unique_ptr<icu::DateFormat> format;  ///< null: there is none
+};
+
+MadeFormat makeFormat(const QString& localeName, const QByteArray& zone) {
+  const icu::Locale where = icu::Locale::createCanonical(localeName.toLatin1().constData());
+  MadeFormat made{localeName, zone,
+                  std::unique_ptr<icu::DateFormat>(icu::DateFormat::createDateTimeInstance(
+                      icu::DateFormat::kFull, icu::DateFormat::kFull, where))};
+  if (made.format)
+    made.format->adoptTimeZone(icu::TimeZone::createTimeZone(icuText(QString::fromLatin1(zone))));
+  return made;
 }
 
 }  // namespace
@@ -27,14 +45,13 @@ QLocale userDateLocale() {
 
 QString fullDate(const QDateTime& date, const QLocale& locale) {
   if (!date.isValid()) return {};
-  const icu::Locale where = icu::Locale::createCanonical(locale.name().toLatin1().constData());
-  const std::unique_ptr<icu::DateFormat> format(
-      icu::DateFormat::createDateTimeInstance(icu::DateFormat::kFull, icu::DateFormat::kFull, where));
-  if (!format) return {};
-  format->adoptTimeZone(
-      icu::TimeZone::createTimeZone(icuText(QString::fromLatin1(QTimeZone::systemTimeZoneId()))));
+  thread_local MadeFormat made;  // a format is no thread-safe thing
+  const QByteArray zone = QTimeZone::systemTimeZoneId();
+  if (!made.format || made.localeName != locale.name() || made.zone != zone)
+    made = makeFormat(locale.name(), zone);
+  if (!made.format) return {};
   icu::UnicodeString text;
-  format->format(UDate(date.toMSecsSinceEpoch()), text);
+  made.format->format(UDate(date.toMSecsSinceEpoch()), text);
   return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
 }
 

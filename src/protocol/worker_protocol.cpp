@@ -5,6 +5,7 @@
 #include "protocol/every_page.h"
 #include "protocol/limits.h"
 #include "protocol/message_fields.h"
+#include "protocol/page_names.h"
 
 // The requests. The replies are in worker_protocol_replies.cpp.
 namespace norvex {
@@ -97,7 +98,7 @@ void fields(V& v, Of<V, SvgRequest>& svg) {
 
 template <typename V>
 void fields(V& v, Of<V, ExamineRequest>& examine) {
-  v.oneOf(Key("what"), examine.what, Examination::Contents, Examination::Text);
+  v.oneOf(Key("what"), examine.what, Examination::Contents, namesExamination);
   v.integer(Key("page"), examine.page, 0, limits::maximumPageNumber);
   v.number(Key("dpi"), examine.dpi, 1, limits::maximumDpi);
   v.boolean(Key("overprint"), examine.overprint);

@@ -305,9 +305,30 @@ class InspectorTest : public QObject {
     fixture.write("%PDF-1.4", "a.eps");
     fixture.document.setFileType(UTTypePDF().identifier());
     fixture.revert();
-    QVERIFY(isShown());
+    c.window()->show();
+    c.inspectorWindow->show();
+    QTRY_VERIFY(isShown());
     QCOMPARE(form->cellAtIndex(0)->text(), QStringLiteral("Times-Roman, Symbol"));
     QCOMPARE(form->cellAtIndex(1)->text(), QStringLiteral("DeviceRGB"));
+  }
+
+  void theNamesInAPdfAreAskedForWhenTheyAreSeen() {
+    WindowFixture fixture;
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(0, 0, 100, 50)};
+    picture.facts.fonts = {"Symbol"};
+    fixture.service.setPicture(picture);
+    MainWindowController& c = fixture.loaded("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.inspectorWindow->hide();
+    c.window()->show();
+    const auto process = fixture.service.lastProcess();
+    QTRY_VERIFY(process->calls(PictureCall::Render) > 0);
+    QTest::qWait(50);
+    QCOMPARE(process->calls(PictureCall::Examine), 0);
+    c.inspectorWindow->show();
+    QTRY_COMPARE(c.inspectorWindow->findChild<ZyForm*>("usesForm")->cellAtIndex(0)->text(),
+                 QStringLiteral("Symbol"));
+    QCOMPARE(process->calls(PictureCall::Examine), 1);
   }
 
   void whatWasNoticedAtOpeningIsSaidInPlainSentences() {

@@ -2,6 +2,7 @@
 
 #include <poll.h>
 #include <sys/eventfd.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,11 +12,17 @@
 
 #include "picture/process/peak_memory.h"
 #include "protocol/limits.h"
+#include "protocol/plain_sentence.h"
 #include "protocol/process_end.h"
 #include "protocol/shared_errors.h"
 
 namespace norvex {
 namespace {
+
+/// Milliseconds in which a process that yields to frames may draw its first picture at our own priority: on a
+/// machine where everything is busy it would not come for a long time otherwise, and nobody zooms before it
+/// is there.
+constexpr int kPriorityOfBeginning = 1000;
 
 Error timedOut() {
   return {ErrorKind::TimedOut,
@@ -36,15 +43,6 @@ std::optional<int> statusOf(const FileDescriptor& pidfd) {
 }
 
 }  // namespace
-
-QString plainSentence(const QString& text) {
-  QString plain;
-  for (const uint point : text.toUcs4()) {
-    const char32_t character = point;
-    plain += QChar::isPrint(character) ? QString::fromUcs4(&character, 1) : QStringLiteral(" ");
-  }
-  return plain.simplified();
-}
 
 Result<std::unique_ptr<WorkerConnection>> WorkerConnection::open(std::shared_ptr<WorkerStarter> starter,
                                                                  const ForkRequest& request) {
@@ -142,10 +140,29 @@ Result<quint32> WorkerConnection::post(RequestBody body, const FileDescriptor& m
   return id;
 }
 
+/// Waits for an answer as long as the process may keep our own priority.
+void WorkerConnection::letBegin(const FileDescriptor& wake) {
+  if (hasYielded_ || !starter_ || starter_->nice() == 0) return;
+  if (!beginning_) beginning_ = QDeadlineTimer(kPriorityOfBeginning);
+  pollfd polls[] = {{channel_.socket(), POLLIN, 0}, {wake.get(), POLLIN, 0}};
+  if (::poll(polls, 2, int(beginning_->remainingTime())) == 0) yield();
+}
+
+void WorkerConnection::yield() {
+  if (hasYielded_ || !starter_ || starter_->nice() == 0 || !learnProcess(QDeadlineTimer(0))) return;
+  hasYielded_ = true;
+  pollfd living = {process_.pidfd.get(), POLLIN, 0};  // its number is another's once it is buried
+  if (::poll(&living, 1, 0) != 0) return;
+  // Where it is not possible pictures are drawn at our own priority.
+  ::setpriority(PRIO_PROCESS, id_t(process_.pid),
+                ::getpriority(PRIO_PROCESS, id_t(::getpid())) + starter_->nice());
+}
+
 Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline, const CancelToken& cancel) {
   const FileDescriptor wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
   if (!wake.valid()) return failed(noDescriptor());
   const CancelListener listener(cancel, [&] { ::eventfd_write(wake.get(), 1); });
+  letBegin(wake);
   Result<ChannelMessage> message = channel_.receive(deadline, wake.get());
   const bool wanted = message || message.error().kind != ErrorKind::Cancelled;
   if (!wanted) {
@@ -157,6 +174,7 @@ Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline,
   if (message) {
     hasAnswered_ = true;
     Result<WorkerAnswer> answer = understand(id, std::move(*message));
+    if (answer && std::holds_alternative<BitmapReply>(answer->body)) yield();
     return wanted || !answer ? std::move(answer) : Result<WorkerAnswer>(workCancelled());
   }
   if (message.error().kind != ErrorKind::TimedOut) return failed(message.error());

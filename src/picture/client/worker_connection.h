@@ -60,6 +60,8 @@ class WorkerConnection {
   Error failed(Error error);
   /// How the process has ended, or why there is none; nothing: it is not known.
   [[nodiscard]] std::optional<Error> reasonOfItsEnd();
+  void letBegin(const FileDescriptor& wake);
+  void yield();
   Result<WorkerAnswer> understand(quint32 id, ChannelMessage message);
 
   std::shared_ptr<WorkerStarter> starter_;  ///< null for our own child
@@ -70,11 +72,10 @@ class WorkerConnection {
   std::optional<Error> notForked_;  ///< why there is no process
   bool hasAnswered_ = false;
   bool hasNotComeUp_ = false;
+  bool hasYielded_ = false;                  ///< to frames that are shown
+  std::optional<QDeadlineTimer> beginning_;  ///< from the first wait on
   MessageChannel channel_;
   quint32 lastId_ = 0;
 };
-
-/// The message without anything that a terminal or a label would take for more than text.
-[[nodiscard]] QString plainSentence(const QString& text);
 
 }  // namespace norvex

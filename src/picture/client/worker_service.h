@@ -33,7 +33,7 @@ class WorkerService final : public PictureService {
   /// again by every call.
   Result<void> start();
   /// For programs with a window: pictures that are drawn must not take the processor from frames that are
-  /// shown.
+  /// shown. The first picture of a document comes at our own priority, unless it takes its time.
   void yieldToWindows();
   /// Makes a process ready for a document of this kind that is expected; for PostScript its interpreter
   /// begins to start. The next open() with this kind and these limits takes it. Returns at once.

@@ -3,7 +3,6 @@
 #include <QFile>
 
 #include <poll.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -83,18 +82,6 @@ void WorkerStarter::adopt(SpawnedWorker worker) {
   pidfd_ = std::move(worker.pidfd);
   control_ = std::make_shared<MessageChannel>(std::move(worker.control));
   scratchRoot_ = std::move(worker.scratchRoot);
-  applyNice();
-}
-
-void WorkerStarter::setNice(int nice) {
-  const std::lock_guard lock(mutex_);
-  nice_ = nice;
-  applyNice();
-}
-
-void WorkerStarter::applyNice() const {
-  // Where it is not possible pictures are drawn at our own priority.
-  if (pid_ != 0 && nice_ > 0) ::setpriority(PRIO_PROCESS, id_t(pid_), ::getpriority(PRIO_PROCESS, 0) + nice_);
 }
 
 void WorkerStarter::stopLocked() {

@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QString>
 
+#include <atomic>
 #include <condition_variable>
 #include <map>
 #include <memory>
@@ -59,9 +60,10 @@ class WorkerStarter {
   /// Instead of take(): the process shall be killed as soon as it is known.
   void abandon(const Ticket& ticket);
 
-  /// Lets the program and what it forks from now on run at a lower priority than us, however often it is
-  /// started again. `nice`: 0 to 19, as setpriority(2) has it.
-  void setNice(int nice);
+  /// How much nicer than us its processes are once their first picture is there: 0 to 19, as setpriority(2)
+  /// has it. Those who are connected with them see to it.
+  void setNice(int nice) { nice_ = nice; }
+  [[nodiscard]] int nice() const { return nice_; }
 
   /// Process number of the warm program, 0 when it does not run. For tests and for --sandbox-status.
   [[nodiscard]] qint64 pid() const;
@@ -71,7 +73,6 @@ class WorkerStarter {
  private:
   Result<void> startLocked();
   void adopt(SpawnedWorker worker);
-  void applyNice() const;
   void stopLocked();
   [[nodiscard]] bool runs() const;
   /// Takes a message that is there; false: there is none, or the program has ended and with it this run.
@@ -81,13 +82,13 @@ class WorkerStarter {
   void keep(const WorkerReply& reply, FileDescriptor descriptor);
 
   const QString program_;
+  std::atomic<int> nice_ = 0;
   mutable std::mutex mutex_;
   // Guarded by the mutex.
   std::shared_ptr<MessageChannel> control_ = std::make_shared<MessageChannel>();  ///< never null
   qint64 pid_ = 0;
   FileDescriptor pidfd_;
   std::string scratchRoot_;
-  int nice_ = 0;
   quint64 run_ = 0;
   quint32 requested_ = 0;
   std::map<quint32, Result<StartedProcess>> answered_;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "protocol/every_page.h"
+#include "protocol/page_names.h"
 
 namespace norvex {
 
@@ -192,6 +193,8 @@ Result<PictureBytes> MemoryPictureProcess::svg(const SvgRequest& request, const 
 Result<PictureBytes> MemoryPictureProcess::examine(const ExamineRequest& request, const CancelToken& cancel) {
   const std::lock_guard serial(serial_);
   if (const auto begun = begin(PictureCall::Examine, cancel); !begun) return begun.error();
+  if (request.what == namesExamination)
+    return PictureBytes{encodePageNames({picture_.facts.fonts, picture_.facts.colorSpaces}), picture_.report};
   return PictureBytes{picture_.examine ? picture_.examine(request) : QByteArray("\xa0"), picture_.report};
 }
 

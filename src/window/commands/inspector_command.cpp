@@ -1,19 +1,25 @@
 #include "window/commands/inspector_command.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <QScreen>
 #include <QTabWidget>
+#include <QtConcurrent>
 
 #include <algorithm>
 #include <utility>
 
 #include "base/sentence.h"
+#include "base/waiting_threads.h"
 #include "display/norvex_view.h"
 #include "metadata/eps_resources.h"
 #include "picture/eps_image_rep.h"
 #include "picture/pdf_image_rep.h"
+#include "picture/process/page_names.h"
 #include "picture/web_image_rep.h"
 #include "ui/controls/color_well.h"
 #include "ui/controls/dms_angle.h"
@@ -28,7 +34,6 @@
 #include "window/commands/window_parts.h"
 
 namespace norvex {
-
 namespace {
 
 /// As the comments of a PostScript file say it: left, bottom, right, top.
@@ -39,6 +44,10 @@ QString corners(const QRectF& box) {
 }
 
 }  // namespace
+
+InspectorCommand::~InspectorCommand() {
+  naming_.cancel();
+}
 
 void InspectorCommand::title() {
   if (parts_.inspectorWindow->windowTitle().isEmpty())
@@ -95,13 +104,43 @@ void InspectorCommand::showResources(const NSImageRep* rep) {
     fonts = std::move(told.fonts);
     colors = std::move(told.colors);
   }
-  const PictureFacts* facts = nullptr;
-  if (const auto* pdf = qobject_cast<const NSPDFImageRep*>(rep)) facts = &pdf->facts();
-  if (const auto* svg = qobject_cast<const ZyWebImageRep*>(rep)) facts = &svg->facts();
-  if (facts) {
-    fonts = facts->fonts;
-    colors = facts->colorSpaces;
+  naming_.cancel();
+  unnamed_.reset();
+  drawn_ = false;
+  if (const auto* pdf = qobject_cast<const NSPDFImageRep*>(rep)) unnamed_ = pdf->process();
+  if (const auto* svg = qobject_cast<const ZyWebImageRep*>(rep)) {
+    fonts = svg->facts().fonts;
+    colors = svg->facts().colorSpaces;
   }
+  showNames(fonts, colors);
+  if (!unnamed_) return;
+  connect(rep, &NSImageRep::renderingArrived, this, &InspectorCommand::pictureWasDrawn, Qt::UniqueConnection);
+  connect(rep, &NSImageRep::renderingFailed, this, &InspectorCommand::pictureWasDrawn, Qt::UniqueConnection);
+  parts_.usesForm->parentWidget()->installEventFilter(this);  // once, however often it is done
+}
+
+void InspectorCommand::pictureWasDrawn() {
+  drawn_ = true;
+  if (parts_.usesForm->parentWidget()->isVisible()) askForNames();
+}
+
+bool InspectorCommand::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show && watched == parts_.usesForm->parentWidget() && drawn_) askForNames();
+  return QObject::eventFilter(watched, event);
+}
+
+void InspectorCommand::askForNames() {
+  if (!unnamed_) return;
+  naming_ = CancelToken();
+  const QPointer<InspectorCommand> self(this);
+  QtConcurrent::run(&waitingThreads(), [process = std::exchange(unnamed_, {}), cancel = naming_] {
+    return pageNames(*process, cancel);
+  }).then(qApp, [self, cancel = naming_](const Result<PageNames>& names) {
+    if (self && names && !cancel.cancelled()) self->showNames(names->fonts, names->colorSpaces);
+  });
+}
+
+void InspectorCommand::showNames(const QStringList& fonts, const QStringList& colors) {
   const QString separator = QStringLiteral(", ");
   parts_.usesForm->setText(0, fonts.join(separator));
   parts_.usesForm->setText(1, colors.join(separator));

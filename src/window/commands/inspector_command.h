@@ -6,11 +6,15 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <utility>
+
+#include "base/cancel_token.h"
 
 namespace norvex {
 
 class NSImageRep;
+class PictureProcess;
 class WindowParts;
 
 /// The parts outlive it. Main thread.
@@ -18,6 +22,7 @@ class InspectorCommand final : public QObject {
   Q_OBJECT
  public:
   explicit InspectorCommand(WindowParts& parts) : parts_(parts) {}
+  ~InspectorCommand() override;
 
   /// Once the window is loaded: the order of its controls for the keyboard, from top to bottom.
   void order();
@@ -41,7 +46,8 @@ class InspectorCommand final : public QObject {
   /// Turns the view to the angle of the dial.
   void rotateFromKnob();
 
-  /// Bounding boxes, notes, fonts and colours; null: of no picture.
+  /// Bounding boxes, notes, fonts and colours; null: of no picture. The names in a PDF are asked for when
+  /// they are seen, and not before the picture is.
   void showFacts(const NSImageRep* rep);
   /// Adds the fonts that others stand in for, which are known once something was drawn.
   void showDrawingRemarks();
@@ -50,16 +56,26 @@ class InspectorCommand final : public QObject {
   /// The view has another angle: the window may need another size.
   void turned();
 
+ protected:
+  /// The page of the names comes into sight.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void place();
   void showBoundingBoxes(const NSImageRep* rep);
   void showNotes(const NSImageRep* rep);
   void addNotes(const QStringList& sentences);
   void showResources(const NSImageRep* rep);
+  void showNames(const QStringList& fonts, const QStringList& colors);
+  void pictureWasDrawn();
+  void askForNames();
 
   WindowParts& parts_;
   std::function<void(bool)> showPanel_;
   bool placed_ = false;
+  std::shared_ptr<PictureProcess> unnamed_;  ///< of a picture whose names are yet to be asked for
+  bool drawn_ = false;
+  CancelToken naming_;
 };
 
 }  // namespace norvex

@@ -3,6 +3,7 @@
 // The engine of PDF documents and of Illustrator files that are PDF inside.
 #include "protocol/every_page.h"
 #include "protocol/page_contents.h"
+#include "protocol/page_names.h"
 #include "protocol/shared_errors.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/examine/ink_box.h"
@@ -84,6 +85,7 @@ class PdfEngine final : public DocumentEngine {
     if (request.what == Examination::Contents) return contents(request.page);
     if (request.what == Examination::Drawn) return inked(request.page, *size);
     if (request.what == Examination::Text) return letters(request.page, *size);
+    if (request.what == namesExamination) return names(request.page);
     return DocumentEngine::examine(request);
   }
 
@@ -102,6 +104,13 @@ class PdfEngine final : public DocumentEngine {
       PageContents contents = pageContents(*file_, shownPageOf(*file_, page), context_.cancel);
       contents.remarks = facts_.warnings + damageOf(page);
       return EngineBytes{encodePageContents(contents), {}};
+    });
+  }
+
+  [[nodiscard]] Result<EngineBytes> names(int page) {
+    return guarded([&]() -> Result<EngineBytes> {
+      PdfResources found = pdfResources(*file_, page);
+      return EngineBytes{encodePageNames({std::move(found.fonts), std::move(found.colorSpaces)}), {}};
     });
   }
 

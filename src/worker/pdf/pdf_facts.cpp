@@ -5,10 +5,8 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <utility>
 
 #include "protocol/limits.h"
-#include "worker/pdf/pdf_resources.h"
 
 namespace norvex::engine {
 namespace {
@@ -37,11 +35,7 @@ Result<PictureFacts> pdfFacts(PdfFile& file) {
     const int told = std::min(facts.pageCount, limits::maximumPageBoxes);
     for (int page = 0; page < told; ++page) facts.pageBounds.append(file.geometry(page).shownBounds());
     readInformation(file.qpdf().getTrailer().getKey("/Info"), facts);
-    facts.warnings =
-        file.warnings();  // before the resources: what is left unread there counts as damage for qpdf
-    PdfResources resources = pdfResources(file, 0);
-    facts.fonts = std::move(resources.fonts);
-    facts.colorSpaces = std::move(resources.colorSpaces);
+    facts.warnings = file.warnings();
     return facts;
   });
 }

@@ -2,6 +2,7 @@
 #include <qpdf/QPDFWriter.hh>
 
 #include "kit/test_main.h"
+#include "protocol/page_names.h"
 #include "worker/engine/engine.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
@@ -20,6 +21,15 @@ Result<PictureFacts> factsOf(const QByteArray& pdf) {
   auto engine = openPdf(pdf, context);
   if (!engine) return engine.error();
   return (*engine)->facts();
+}
+
+PageNames namesOf(const QByteArray& pdf) {
+  EngineContext context;
+  auto engine = openPdf(pdf, context);
+  if (!engine) return {};
+  const auto told = (*engine)->examine({namesExamination});
+  const auto names = told ? decodePageNames(told->bytes) : Result<PageNames>(told.error());
+  return names ? *names : PageNames();
 }
 
 QByteArray withInformation(const QByteArray& information) {
@@ -270,7 +280,7 @@ class PdfFactsTest : public QObject {
         "/DeviceCMYK 9 0 "
         "R] /X [/Indexed /DeviceGray 1 <00FF>] /P /Pattern >> /Shading << /H << /ShadingType 2 /ColorSpace "
         "[/Lab << >>] >> >> >>";
-    const PictureFacts facts = *factsOf(onePage(
+    const PageNames names = namesOf(onePage(
         "(0 0 1 rg \\) 0 G) Tj % 1 0 0 rg\n0 0 0 1 k /gs gs", page,
         {"<< /Type /Font /Subtype /Type1 /BaseFont /ABCDEF+Gentium#20Book >>",
          "<< /Type /Font /BaseFont /Helvetica >>",
@@ -279,12 +289,16 @@ class PdfFactsTest : public QObject {
                      "/XObject << /Self 7 0 R >> >>"),
          kit::stream("x", "/Subtype /Image /ColorSpace [/ICCBased 10 0 R]"), "<< /FunctionType 2 >>",
          kit::stream("", "/N 4")}));
-    QCOMPARE(facts.fonts, (QStringList{"Gentium Book", "Helvetica", "Deep"}));
-    QCOMPARE(facts.colorSpaces, (QStringList{"DeviceCMYK", "DeviceN Gold, Cyan", "Separation PANTONE 186 C",
+    QCOMPARE(names.fonts, (QStringList{"Gentium Book", "Helvetica", "Deep"}));
+    QCOMPARE(names.colorSpaces, (QStringList{"DeviceCMYK", "DeviceN Gold, Cyan", "Separation PANTONE 186 C",
                                              "DeviceGray", "Lab", "DeviceRGB", "ICCBased CMYK"}));
-    QVERIFY(facts.warnings.isEmpty());
-    QVERIFY(factsOf(onePage("0 0 1 1 re"))->fonts.isEmpty());
-    QVERIFY(factsOf(onePage("0 0 1 1 re"))->colorSpaces.isEmpty());
+    QVERIFY(namesOf(onePage("0 0 1 1 re")).fonts.isEmpty());
+    QVERIFY(namesOf(onePage("0 0 1 1 re")).colorSpaces.isEmpty());
+  }
+
+  void namesAreNotLookedForWhereNobodyAsks() {
+    const auto facts = factsOf(onePage("1 0 0 rg 0 0 9 9 re f"));
+    QVERIFY(facts->fonts.isEmpty() && facts->colorSpaces.isEmpty());
   }
 
   void colourSpacesThatDoNotExistAreNotNamed() {
@@ -310,7 +324,7 @@ class PdfFactsTest : public QObject {
                  "<< /Type /Page /Parent 2 0 R /Contents 4 0 R /MediaBox [0 0 9 9] >>",
                  kit::stream(packed, "/Filter /FlateDecode")});
     const PictureFacts facts = *factsOf(pdf);
-    QCOMPARE(facts.colorSpaces, QStringList{"DeviceGray"});
+    QCOMPARE(namesOf(pdf).colorSpaces, QStringList{"DeviceGray"});
     QVERIFY(facts.warnings.isEmpty());
   }
 };

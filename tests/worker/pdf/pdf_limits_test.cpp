@@ -1,6 +1,7 @@
 // PDF documents that reach a limit: what lies behind it is passed over, or a sentence names it.
 #include "kit/test_main.h"
 #include "protocol/limits.h"
+#include "protocol/page_names.h"
 #include "worker/engine/engine.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
@@ -24,6 +25,15 @@ Result<PictureFacts> factsOf(const QByteArray& pdf) {
   return (*engine)->facts();
 }
 
+PageNames namesOf(const QByteArray& pdf) {
+  EngineContext context;
+  auto engine = openPdf(pdf, context);
+  if (!engine) return {};
+  const auto told = (*engine)->examine({namesExamination});
+  const auto names = told ? decodePageNames(told->bytes) : Result<PageNames>(told.error());
+  return names ? *names : PageNames();
+}
+
 /// A catalogue whose page tree names one page again and again.
 QByteArray withPages(int count) {
   return madePdf({"<< /Type /Catalog /Pages 2 0 R >>",
@@ -40,18 +50,18 @@ QStringList fontsBelow(int depth) {
                             (i < depth ? "/XObject << /F " + QByteArray::number(i + 6) + " 0 R >>"
                                        : QByteArray("/Font << /A 5 0 R >>")) +
                             " >>");
-  return factsOf(onePage("", kBox + " /Resources << /XObject << /F 6 0 R >> >>", forms))->fonts;
+  return namesOf(onePage("", kBox + " /Resources << /XObject << /F 6 0 R >> >>", forms)).fonts;
 }
 
 /// Graphics states by the thousand before a form with a font.
 QStringList fontsBehind(int states) {
   QByteArray many;
   for (int i = 0; i < states; ++i) many += "/C" + QByteArray::number(i) + " /DeviceGray ";
-  return factsOf(onePage("",
+  return namesOf(onePage("",
                          kBox + " /Resources << /ColorSpace << " + many + " >> /XObject << /F 6 0 R >> >>",
                          {"<< /Type /Font /BaseFont /Late >>",
                           stream("", "/Subtype /Form /Resources << /Font << /A 5 0 R >> >>")}))
-      ->fonts;
+      .fonts;
 }
 
 int dictionariesIn(int depth) {
@@ -93,7 +103,7 @@ class PdfLimitsTest : public QObject {
 
   void contentsAreSearchedForColoursUpToALength() {
     const auto colours = [](qsizetype blanks) {
-      return factsOf(onePage("0 g" + QByteArray(blanks, ' ') + "1 0 0 rg", kBox))->colorSpaces;
+      return namesOf(onePage("0 g" + QByteArray(blanks, ' ') + "1 0 0 rg", kBox)).colorSpaces;
     };
     QCOMPARE(colours(9), (QStringList{"DeviceGray", "DeviceRGB"}));
     QCOMPARE(colours(limits::maximumColourScan), QStringList{"DeviceGray"});

@@ -12,7 +12,8 @@
 
 namespace norvex::engine {
 
-/// The facts of an opened file but the names of its resources (pdf_resources.h). Boxes are told for the first limits::maximumPageBoxes pages.
+/// The facts of an opened file but the names of its resources (pdf_resources.h). Boxes are told for the first
+/// limits::maximumPageBoxes pages.
 [[nodiscard]] Result<PictureFacts> pdfFacts(PdfFile& file);
 
 /// A date of the document information, "D:YYYYMMDDHHmmSSOHH'mm'" with everything after the year optional and

@@ -40,7 +40,8 @@ struct InterpreterConnection {
 };
 [[nodiscard]] Result<InterpreterConnection> makeInterpreterConnection();
 
-/// Sends copies of the descriptors; never waits. Fails with Died when nobody listens or too many wait.
+/// Sends copies of the descriptors; waits for nobody, but where others keep too many descriptors under way,
+/// until those have arrived. Fails with Died when nobody listens or too many wait.
 [[nodiscard]] Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request);
 
 /// Tells through a connection that whoever takes requests there is able to serve them.

@@ -146,6 +146,9 @@ inline constexpr qsizetype maximumSubstitutions = 20;
 /// A process that has been taken over by its document and would fill the machine with interpreters: more than
 /// a run ever works on at once.
 inline constexpr size_t maximumInterpreters = 64;
+/// The same of one process that asks: it needs one, and another that waits for what comes next. One that has
+/// been taken over leaves the rest to the others.
+inline constexpr size_t maximumInterpretersOfOneAsker = maximumInterpreters / 16;
 
 /// A page tree made to be walked for ever.
 inline constexpr int maximumPages = 100'000;

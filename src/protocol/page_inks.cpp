@@ -8,9 +8,6 @@ using Key = QLatin1String;
 
 namespace {
 
-/// The plates, and what is told of the inks; more is not looked at.
-constexpr qsizetype kMostBytes = maximumPlateBytes + limits::maximumMessageBytes;
-
 constexpr int kProcessInks = int(std::tuple_size_v<ProcessInks>);
 
 /// As one number, cyan in its lowest byte.
@@ -70,7 +67,7 @@ QByteArray encodePageInks(const PageInks& page) {
 }
 
 Result<PageInks> decodePageInks(const QByteArray& cbor) {
-  CborReader reader = CborReader::parse(cbor.size() > kMostBytes ? QByteArray() : cbor);
+  CborReader reader = CborReader::parse(cbor.size() > maximumPageInksBytes ? QByteArray() : cbor);
   PageInks page;
   fields(reader, page);
   if (reader.complete()) return page;

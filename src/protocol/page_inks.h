@@ -29,6 +29,9 @@ struct Ink {
 /// Plates of more pixels than these together are not answered.
 inline constexpr qsizetype maximumPlateBytes = qsizetype(limits::maximumPlatePixels) * 16;
 
+/// The plates, and what is told of the inks; more is not looked at.
+inline constexpr qsizetype maximumPageInksBytes = maximumPlateBytes + limits::maximumMessageBytes;
+
 struct PageInks {
   QSize pixels{1, 1};  ///< of each plate
   double dpi = 72;

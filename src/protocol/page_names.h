@@ -6,12 +6,8 @@
 #include <QStringList>
 
 #include "base/result.h"
-#include "protocol/worker_protocol.h"
 
 namespace norvex {
-
-/// As ExamineRequest::what: a PDF alone has names to be found so. Others tell them with their facts.
-inline constexpr Examination namesExamination = Examination(int(Examination::Text) + 1);
 
 /// Each once, in the order in which they are found.
 struct PageNames {

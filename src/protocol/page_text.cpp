@@ -7,14 +7,6 @@ namespace norvex {
 
 using Key = QLatin1String;
 
-namespace {
-
-/// Letters and places as our encoder writes them, and the links with their addresses; more is not looked at.
-constexpr qsizetype kMostBytes =
-    limits::maximumLetters * 64 + qsizetype(limits::maximumResources) * limits::maximumSentenceLength * 4;
-
-}  // namespace
-
 template <typename V>
 void fields(V& v, Of<V, PageLink>& link) {
   v.rect(Key("rect"), link.rect, limits::maximumPoints);
@@ -45,7 +37,7 @@ QByteArray encodePageText(const PageText& text) {
 }
 
 Result<PageText> decodePageText(const QByteArray& cbor) {
-  CborReader reader = CborReader::parse(cbor.size() > kMostBytes ? QByteArray() : cbor);
+  CborReader reader = CborReader::parse(cbor.size() > maximumPageTextBytes ? QByteArray() : cbor);
   PageText text;
   fields(reader, text);
   if (reader.complete()) return text;

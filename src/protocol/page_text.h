@@ -8,6 +8,7 @@
 #include <QString>
 
 #include "base/result.h"
+#include "protocol/limits.h"
 
 namespace norvex {
 
@@ -26,6 +27,10 @@ struct PageText {
   QList<PageLink> links;  ///< what lies above stands later
   bool complete = true;   ///< false: there is more than is told
 };
+
+/// Letters and places as our encoder writes them, and the links with their addresses; more is not looked at.
+inline constexpr qsizetype maximumPageTextBytes =
+    limits::maximumLetters * 64 + qsizetype(limits::maximumResources) * limits::maximumSentenceLength * 4;
 
 /// Clips the text to limits::maximumLetters.
 [[nodiscard]] QByteArray encodePageText(const PageText& text);

@@ -98,7 +98,7 @@ void fields(V& v, Of<V, SvgRequest>& svg) {
 
 template <typename V>
 void fields(V& v, Of<V, ExamineRequest>& examine) {
-  v.oneOf(Key("what"), examine.what, Examination::Contents, namesExamination);
+  v.oneOf(Key("what"), examine.what, Examination::Contents, Examination::Names);
   v.integer(Key("page"), examine.page, 0, limits::maximumPageNumber);
   v.number(Key("dpi"), examine.dpi, 1, limits::maximumDpi);
   v.boolean(Key("overprint"), examine.overprint);

@@ -52,8 +52,9 @@ struct PictureLayer {
 struct OpenRequest {
   PictureKind kind = PictureKind::Eps;
   PictureLimits limits;
-  QString password = {};            ///< of a document that is protected by one
-  QList<PictureLayer> layers = {};  ///< in the order of PictureFacts::layers; empty: as the document says
+  QString password = {};  ///< of a document that is protected by one
+  QList<PictureLayer> layers =
+      {};  ///< in the order of PictureFacts::layers, once or twice: see ReaderChoices
 };
 
 enum class RenderPurpose { View = 1, Preview = 2, Export = 3, Print = 4 };
@@ -106,7 +107,8 @@ struct SvgRequest {
   double rotate = 0;  ///< radians, clockwise as seen on the screen
 };
 
-enum class Examination { Contents = 1, Drawn = 2, Inks = 3, Text = 4 };
+/// Names: of a PDF alone; others tell them with their facts.
+enum class Examination { Contents = 1, Drawn = 2, Inks = 3, Text = 4, Names = 5 };
 
 /// The contents of a page: answered by a BytesReply whose memfd holds one CBOR map, see the reader of each.
 struct ExamineRequest {
@@ -120,8 +122,9 @@ struct ExamineRequest {
 /// A TIFF section (the message's memfd) to a bitmap. Needs no open document.
 struct DecodePreviewRequest {};
 
-/// A finished PDF (the message's memfd) with other document information, answered by a BytesReply. Needs no
-/// open document. A PDF that is yet to be made takes its attributes with the request that makes it.
+/// A finished PDF, or pages of several (the message's memfd, see page_excerpts.h), with other document
+/// information, answered by a BytesReply. Needs no open document. A PDF that is yet to be made takes its
+/// attributes with the request that makes it.
 struct AttributesRequest {
   PdfAttributes attributes;
 };

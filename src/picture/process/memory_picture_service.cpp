@@ -193,7 +193,7 @@ Result<PictureBytes> MemoryPictureProcess::svg(const SvgRequest& request, const 
 Result<PictureBytes> MemoryPictureProcess::examine(const ExamineRequest& request, const CancelToken& cancel) {
   const std::lock_guard serial(serial_);
   if (const auto begun = begin(PictureCall::Examine, cancel); !begun) return begun.error();
-  if (request.what == namesExamination)
+  if (request.what == Examination::Names)
     return PictureBytes{encodePageNames({picture_.facts.fonts, picture_.facts.colorSpaces}), picture_.report};
   return PictureBytes{picture_.examine ? picture_.examine(request) : QByteArray("\xa0"), picture_.report};
 }

@@ -15,7 +15,7 @@ Result<PageNames> readPageNames(const QByteArray& answer) {
 }
 
 Result<PageNames> pageNames(PictureProcess& process, const CancelToken& cancel) {
-  const Result<PictureBytes> answer = process.examine({namesExamination}, cancel);
+  const Result<PictureBytes> answer = process.examine({Examination::Names}, cancel);
   return answer ? readPageNames(answer->bytes) : answer.error();
 }
 

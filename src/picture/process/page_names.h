@@ -8,7 +8,7 @@
 
 namespace norvex {
 
-/// An answer to namesExamination, which is checked: names that can stand in a line.
+/// An answer to Examination::Names, which is checked: names that can stand in a line.
 [[nodiscard]] Result<PageNames> readPageNames(const QByteArray& answer);
 
 /// Has the fonts and colour spaces of a PDF's first page found by its process. Reads the page's contents:

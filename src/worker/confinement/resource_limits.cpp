@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <optional>
 
 #include "protocol/limits.h"
 #include "worker/confinement/instrumented.h"
@@ -27,6 +28,19 @@ bool limit(__rlimit_resource resource, rlim_t value) {
   return ::setrlimit(resource, &wanted) == 0;
 }
 
+/// The system keeps it only for processes that are run in real time, which no process of ours is: a note of
+/// the seconds that were granted, which who has been taken over by a document cannot raise.
+bool noteSeconds(int seconds) {
+  return limit(RLIMIT_RTTIME, rlim_t(seconds) * 1'000'000);
+}
+
+/// The hard limit of another process; nothing where that cannot be found out.
+std::optional<rlim_t> limitOf(int process, __rlimit_resource resource) {
+  rlimit found = {};
+  if (process <= 0 || ::prlimit(process, resource, nullptr, &found) != 0) return std::nullopt;
+  return found.rlim_max;
+}
+
 rlim_t usedSeconds() {
   rusage usage = {};
   ::getrusage(RUSAGE_SELF, &usage);
@@ -40,18 +54,22 @@ bool limitFiles(const PictureLimits& limits, bool sends) {
   const rlim_t bitmap = rlim_t(limits.megapixels * 4.0e6) + kMiB;
   std::signal(SIGXFSZ, SIG_IGN);
   return limit(RLIMIT_FSIZE, std::max(bitmap, rlim_t(limits.memoryMiB) * kMiB)) &&
-         limit(RLIMIT_NOFILE, open) && limit(RLIMIT_CORE, 0);
+         limit(RLIMIT_NOFILE, open) && limit(RLIMIT_CORE, 0) && noteSeconds(limits.seconds);
 }
 
 PictureLimits grantedFor(int asker, PictureLimits wanted) {
-  rlimit files = {};
-  const bool isTold = asker > 0 && ::prlimit(asker, RLIMIT_FSIZE, nullptr, &files) == 0;
-  if (isTold && files.rlim_max == RLIM_INFINITY) return wanted;
   const PictureLimits usual;
-  const rlim_t memory = isTold ? files.rlim_max / kMiB : rlim_t(usual.memoryMiB);
-  const double megapixels = isTold ? double(files.rlim_max) / 4.0e6 : usual.megapixels;
-  wanted.memoryMiB = int(std::min(rlim_t(wanted.memoryMiB), std::max<rlim_t>(1, memory)));
-  wanted.megapixels = std::min(wanted.megapixels, megapixels);
+  const std::optional<rlim_t> files = limitOf(asker, RLIMIT_FSIZE);
+  if (files != RLIM_INFINITY) {
+    const rlim_t memory = files ? *files / kMiB : rlim_t(usual.memoryMiB);
+    wanted.memoryMiB = int(std::min(rlim_t(wanted.memoryMiB), std::max<rlim_t>(1, memory)));
+    wanted.megapixels = std::min(wanted.megapixels, files ? double(*files) / 4.0e6 : usual.megapixels);
+  }
+  const std::optional<rlim_t> time = limitOf(asker, RLIMIT_RTTIME);
+  if (time != RLIM_INFINITY) {
+    const rlim_t seconds = time ? *time / 1'000'000 : rlim_t(usual.seconds);
+    wanted.seconds = int(std::min(rlim_t(wanted.seconds), seconds));
+  }
   return wanted;
 }
 

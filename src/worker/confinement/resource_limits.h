@@ -6,13 +6,13 @@
 namespace norvex {
 
 /// Files and descriptors. Results are written to shared memory, to which the limit on files applies too;
-/// scratch files get as much. No core files. Exceeding the size of a file is an error of the write. False:
-/// the system refused. `sends`: it hands its results over as descriptors.
+/// scratch files get as much. No core files. Notes the seconds for grantedFor(). Exceeding the size of a file
+/// is an error of the write. False: the system refused. `sends`: it hands its results over as descriptors.
 [[nodiscard]] bool limitFiles(const PictureLimits& limits, bool sends);
 
 /// What may be granted to a process for the sake of another, `asker`, which has read a document and may ask
-/// for anything: `wanted`, no more of memory and pixels than limitFiles() has granted that one. Where that
-/// cannot be found out, no more than PictureLimits are by default.
+/// for anything: `wanted`, no more of memory, pixels and seconds than limitFiles() has granted that one.
+/// Where that cannot be found out, no more than PictureLimits are by default.
 [[nodiscard]] PictureLimits grantedFor(int asker, PictureLimits wanted);
 
 /// Address space beyond what is mapped now: the caller's limit speaks of the document. `more`: bytes on top,

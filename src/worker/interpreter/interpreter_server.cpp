@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -72,10 +73,16 @@ void InterpreterServer::buryWhoMustGo(const std::vector<pollfd>& polls) {
   }
 }
 
+bool InterpreterServer::hasRoomFor(int asker) const {
+  const auto own = std::count_if(children_.begin(), children_.end(),
+                                 [&](const Child& child) { return child.asker == asker; });
+  return children_.size() < limits::maximumInterpreters &&
+         size_t(own) < limits::maximumInterpretersOfOneAsker;
+}
+
 std::optional<PostScriptInterpreter::Task> InterpreterServer::takeRequest() {
   Result<InterpreterRequest> request = receiveInterpreterRequest(taking_.get());
-  if (request)
-    return children_.size() < limits::maximumInterpreters ? fork(std::move(*request)) : std::nullopt;
+  if (request) return hasRoomFor(request->asker) ? fork(std::move(*request)) : std::nullopt;
   if (request.error().kind == ErrorKind::Protocol) return {};
   for (Child& child : children_) bury(child);
   ::_exit(0);
@@ -90,8 +97,12 @@ std::optional<PostScriptInterpreter::Task> InterpreterServer::fork(InterpreterRe
     becomeInterpreter(self, request, folder);
     return PostScriptInterpreter::Task{folder, request.device};
   }
-  Child child{pid, FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1),
-              std::move(request.outcome), folder, ScratchWatch(QFile::decodeName(folder))};
+  Child child{pid,
+              FileDescriptor(pid > 0 ? int(::syscall(SYS_pidfd_open, pid, 0)) : -1),
+              std::move(request.outcome),
+              folder,
+              ScratchWatch(QFile::decodeName(folder)),
+              request.asker};
   if (pid > 0) ::setpgid(pid, pid);
   if (child.pidfd.valid()) {
     tell(child.outcome, kInterpreterBegun);

@@ -33,7 +33,10 @@ class InterpreterServer {
     FileDescriptor pidfd, outcome;
     QByteArray scratchFolder;
     ScratchWatch scratch;
+    int asker = 0;
   };
+  /// True if nobody has as many as there may be.
+  [[nodiscard]] bool hasRoomFor(int asker) const;
   /// In a forked process what it is to do; nothing in the server.
   std::optional<PostScriptInterpreter::Task> takeRequest();
   std::optional<PostScriptInterpreter::Task> fork(InterpreterRequest request);

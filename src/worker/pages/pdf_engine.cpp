@@ -85,7 +85,7 @@ class PdfEngine final : public DocumentEngine {
     if (request.what == Examination::Contents) return contents(request.page);
     if (request.what == Examination::Drawn) return inked(request.page, *size);
     if (request.what == Examination::Text) return letters(request.page, *size);
-    if (request.what == namesExamination) return names(request.page);
+    if (request.what == Examination::Names) return names(request.page);
     return DocumentEngine::examine(request);
   }
 

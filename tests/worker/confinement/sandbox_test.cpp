@@ -3,15 +3,18 @@
 #include <QTemporaryDir>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
 #include <cerrno>
+#include <csignal>
 #include <ctime>
 
 #include "kit/forked_check.h"
 #include "kit/test_main.h"
+#include "worker/confinement/resource_limits.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -57,6 +60,33 @@ class SandboxTest : public QObject {
                return ::setrlimit(RLIMIT_NOFILE, &more) == 0 ? 0 : errno;
              }),
              EPERM);
+  }
+
+  /// Whoever grants it something looks at its limits, and it cannot raise them.
+  void whoAsksForOthersIsGrantedNoMoreThanItHas() {
+    const PictureLimits wanted{5000, 5000, 5000};
+    QCOMPARE(grantedFor(::getpid(), wanted).seconds, 5000);
+    int ends[2] = {-1, -1};
+    QCOMPARE(::pipe(ends), 0);
+    const pid_t asker = ::fork();
+    if (asker == 0) {
+      const rlimit more = {RLIM_INFINITY, RLIM_INFINITY};
+      const bool isHeld = enterSandbox(policyOf({10, 64, 1})) && ::setrlimit(RLIMIT_RTTIME, &more) != 0;
+      if (::write(ends[1], isHeld ? "h" : "n", 1) != 1) ::_exit(1);
+      while (true) ::poll(nullptr, 0, 1000);
+    }
+    char told = 0;
+    QCOMPARE(::read(ends[0], &told, 1), ssize_t(1));
+    const PictureLimits granted = grantedFor(asker, wanted);
+    ::kill(asker, SIGKILL);
+    ::waitpid(asker, nullptr, 0);
+    QCOMPARE(told, 'h');
+    QCOMPARE(granted.seconds, 10);
+    QCOMPARE(granted.memoryMiB, 64);
+    QVERIFY(granted.megapixels <= 17);
+    const PictureLimits usual, unknown = grantedFor(0, wanted);
+    QCOMPARE(unknown.seconds, usual.seconds);
+    QCOMPARE(unknown.memoryMiB, usual.memoryMiB);
   }
 
   void processorTimeBeyondTheGrantIsTheEnd() {

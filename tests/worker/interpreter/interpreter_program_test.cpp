@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -13,6 +14,7 @@
 #include "kit/forked_check.h"
 #include "kit/process_watch.h"
 #include "kit/test_main.h"
+#include "protocol/interpreter_request.h"
 #include "protocol/limits.h"
 #include "worker/confinement/sandbox.h"
 #include "worker/postscript/distill.h"
@@ -64,6 +66,28 @@ class Interpreters {
   QTemporaryDir root_;
   EngineContext context_;
   InterpreterProgram program_;
+};
+
+/// An interpreter that is wanted until this ends.
+class AskedFor {
+ public:
+  [[nodiscard]] bool byAnotherProcess(int asking) {
+    InterpreterRequest request;
+    if (!pipe(request.program, program_) || !pipe(output_, request.output) ||
+        !pipe(messages_, request.messages) || !pipe(outcome_, request.outcome))
+      return false;
+    return kit::inForkedChild([&] { return sendInterpreterRequest(asking, request) ? 0 : 1; }) == 0;
+  }
+
+ private:
+  static bool pipe(FileDescriptor& reading, FileDescriptor& writing) {
+    int ends[2] = {-1, -1};
+    if (::pipe2(ends, O_CLOEXEC) != 0) return false;
+    reading.reset(ends[0]);
+    writing.reset(ends[1]);
+    return true;
+  }
+  FileDescriptor program_, output_, messages_, outcome_;
 };
 
 Error errorOf(const Result<Distilled>& distilled) {
@@ -329,12 +353,8 @@ class InterpreterProgramTest : public QObject {
 
   void moreThanWorkAtOnceAreRefused() {
     Interpreters interpreters;
-    std::vector<std::shared_ptr<GhostscriptChild>> all;
-    const auto begin = [&] {
-      auto child = GhostscriptChild::fork(interpreters.program().asking(), interpreters.context().limits);
-      if (child) all.push_back(std::move(*child));
-    };
-    for (size_t i = 0; i < limits::maximumInterpreters; ++i) begin();
+    std::vector<AskedFor> all(limits::maximumInterpreters);
+    for (AskedFor& each : all) QVERIFY(each.byAnotherProcess(interpreters.program().asking()));
     const int server = interpreters.program().pid();
     QVERIFY(kit::eventually(
         [&] { return kit::childrenOf(server).size() == qsizetype(limits::maximumInterpreters); }));
@@ -343,6 +363,30 @@ class InterpreterProgramTest : public QObject {
     all.clear();
     QVERIFY(kit::eventually([&] { return kit::childrenOf(server).isEmpty(); }));
     QVERIFY(interpreters.stillWork());
+  }
+
+  void oneProcessGetsNoMoreThanItsShare() {
+    Interpreters interpreters;
+    std::vector<std::shared_ptr<GhostscriptChild>> all;
+    for (size_t i = 0; i < limits::maximumInterpretersOfOneAsker; ++i) {
+      auto child = GhostscriptChild::fork(interpreters.program().asking(), interpreters.context().limits);
+      QVERIFY(child.ok());
+      all.push_back(std::move(*child));
+    }
+    const auto refused = interpreters.run("(one more) = flush quit\n");
+    QVERIFY(!refused.ok());
+    QCOMPARE(refused.error().kind, ErrorKind::Unsupported);
+    QCOMPARE(kit::inForkedChild([&] {
+               const auto run = interpreters.run("(another's) = flush quit\n");
+               return run && run->messages.contains("another's\n") ? 1 : 0;
+             }),
+             1);
+    all.pop_back();
+    const int server = interpreters.program().pid();
+    QVERIFY(kit::eventually([&] {
+      return kit::childrenOf(server).size() == qsizetype(limits::maximumInterpretersOfOneAsker) - 1;
+    }));
+    QVERIFY(interpreters.saidBy("(room again) =").contains("room again\n"));
   }
 
   void oneThatCrashesTakesNobodyAlong() {

@@ -29,7 +29,7 @@ PageNames namesOf(const QByteArray& pdf) {
   EngineContext context;
   auto engine = openPdf(pdf, context);
   if (!engine) return {};
-  const auto told = (*engine)->examine({namesExamination});
+  const auto told = (*engine)->examine({Examination::Names});
   const auto names = told ? decodePageNames(told->bytes) : Result<PageNames>(told.error());
   return names ? *names : PageNames();
 }

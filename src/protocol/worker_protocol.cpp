@@ -5,7 +5,6 @@
 #include "protocol/every_page.h"
 #include "protocol/limits.h"
 #include "protocol/message_fields.h"
-#include "protocol/page_names.h"
 
 // The requests. The replies are in worker_protocol_replies.cpp.
 namespace norvex {

@@ -11,7 +11,9 @@
 #include "display/norvex_view.h"
 #include "document/document.h"
 #include "ui/controls/zy_dial_knob.h"
+#include "ui/panels/own_shortcuts.h"
 #include "ui/panels/shortcut_panel.h"
+#include "ui/panels/tool_tip_keys.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/source/source_text_view.h"
@@ -69,6 +71,7 @@ void WindowMenus::setUp(Ui::MainWindowController& ui) {
   setUpToolbar();
   addPrinting();
   addExport();
+  OwnShortcuts::shared().apply(*controller_.window());
 }
 
 void WindowMenus::connectFile() {
@@ -197,6 +200,7 @@ void WindowMenus::setUpToolbar() {
                                                {ui_->rotateLeftAction, Symbol::RotateLeft},
                                                {ui_->rotateRightAction, Symbol::RotateRight}};
   for (const auto& [action, symbol] : icons) action->setIcon(symbolicIcon(symbol));
+  new ToolTipKeys(*ui_->toolbar);
 }
 
 void WindowMenus::validate() {

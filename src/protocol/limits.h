@@ -137,8 +137,9 @@ inline constexpr int maximumScratchFiles = 1000;
 /// A program that opens file after file. The interpreter, fonts and pipes stay far below.
 inline constexpr quint64 maximumOpenFiles = 128;
 /// The same of a process that hands its results over as descriptors. The kernel lets it send none while the
-/// user's processes together have more on their way than this, so that it is what others are granted.
-inline constexpr quint64 maximumOpenFilesOfSender = 1024;
+/// user's processes together have more on their way than this; one that has been taken over can bring them
+/// there, and leaves other programs, which usually may open 1024 files, their room.
+inline constexpr quint64 maximumOpenFilesOfSender = 512;
 /// A program that writes messages without end: the last bytes of them that are kept, and fonts that others
 /// stand in for, that are told.
 inline constexpr qsizetype maximumProgramMessages = 64 << 10;

@@ -187,8 +187,9 @@ struct PictureFacts {
   QHash<QString, QString>
       attributes;  ///< PDF document information: "Title", "Author", "Subject", "Creator", "Producer"
   std::optional<QDateTime> creationDate;
-  QStringList fonts;        ///< PDF: PostScript names, of the first page; SVG: families that its texts name
-  QStringList colorSpaces;  ///< PDF: as PDF calls them, of the first page; SVG: "sRGB"
+  // Of a PDF they are examined: Examination::Names.
+  QStringList fonts;        ///< SVG: families that its texts name
+  QStringList colorSpaces;  ///< SVG: "sRGB"
   // SVG only
   std::optional<QRectF> viewBox;
   QString title, description, encodingName;

@@ -113,6 +113,8 @@ Result<WorkerStarter::Ticket> WorkerStarter::request(const ForkRequest& request,
   if (auto sent =
           control_->send(encodeMessage(request), socket.get(), QDeadlineTimer(limits::programFarewell));
       !sent) {
+    // Nothing has been sent yet: what keeps it is no fault of the program that others depend on.
+    if (sent.error().kind == ErrorKind::TimedOut) return sent.error();
     stopLocked();
     return notAnswered();
   }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/blanks.h"
 #include "check/comment_order.h"
 #include "check/eps_structure_rules.h"
 #include "check/file_wrapping.h"
@@ -57,11 +58,26 @@ QByteArray realNumbers(const QRectF& box) {
   return numbers.join(' ');
 }
 
+/// A line of the drawing: neither a comment nor what transports leave behind.
+bool isDrawing(const ProgramLine& line) {
+  return line.part == LinePart::Program && !line.text.startsWith('%') && !looksLikeData(line.text) &&
+         !std::all_of(line.text.begin(), line.text.end(), isPostScriptSpace);
+}
+
+/// With an end of the document that stands in its header, before all of the drawing.
+QSet<qsizetype> commentsToLeaveOut(const QList<ProgramLine>& lines) {
+  QSet<qsizetype> misplaced = misplacedComments(lines);
+  for (qsizetype i = 0; i < lines.size() && lines[i].part == LinePart::Header; ++i)
+    if (isComment(lines[i], "%%EOF") && std::any_of(lines.begin() + i, lines.end(), isDrawing))
+      misplaced.insert(i);
+  return misplaced;
+}
+
 /// One program being put together.
 class Mending {
  public:
   Mending(const QByteArray& program, const QRectF& box)
-      : program_(program), lines_(programLines(program)), misplaced_(misplacedComments(lines_)), box_(box) {
+      : program_(program), lines_(programLines(program)), misplaced_(commentsToLeaveOut(lines_)), box_(box) {
     if (!lines_.isEmpty()) newline_ = endOf(lines_.first());
   }
 
@@ -146,12 +162,13 @@ class Mending {
       if (isLeftOut(i)) continue;
       append(line, i);
     }
-    if (!showsPage(lines_)) {
+    const qsizetype end = documentEnd(trailer);
+    if (!showsPage(lines_.first(end))) {
       endLine();
       write("showpage");
       changed(QStringLiteral("showpage was put in"));
     }
-    writeTrailer(trailer);
+    writeTrailer(trailer, end);
   }
 
   /// A comment is no part of the drawing; where it must not stand, it does not structure the document either.
@@ -170,9 +187,16 @@ class Mending {
     if (!result_.program.endsWith('\n') && !result_.program.endsWith('\r')) result_.program.append(newline_);
   }
 
-  void writeTrailer(qsizetype from) {
+  /// Behind the %%EOF that ends the trailer which begins at `trailer`; behind all lines without one.
+  [[nodiscard]] qsizetype documentEnd(qsizetype trailer) const {
+    for (qsizetype i = trailer; i < lines_.size(); ++i)
+      if (isComment(lines_[i], "%%EOF") && !misplaced_.contains(i)) return i + 1;
+    return lines_.size();
+  }
+
+  void writeTrailer(qsizetype from, qsizetype end) {
     bool ended = false;
-    for (qsizetype i = from; i < lines_.size() && !ended; ++i) {
+    for (qsizetype i = from; i < end; ++i) {
       if (isBox(lines_[i])) {
         changed(QStringLiteral("the box at the end of the file stands in its header"));
         continue;
@@ -180,10 +204,10 @@ class Mending {
       if (isLeftOut(i)) continue;
       append(lines_[i], i);
       ended = isComment(lines_[i], "%%EOF");
-      // What a program keeps behind the document for itself is of use to it.
-      if (ended && i + 1 < lines_.size() && lines_[i + 1].text.startsWith("%AI"))
-        result_.program.append(QByteArrayView(program_).sliced(lines_[i + 1].start));
     }
+    // What a program keeps behind the document for itself is of use to it.
+    if (ended && end < lines_.size() && lines_[end].text.startsWith("%AI"))
+      result_.program.append(QByteArrayView(program_).sliced(lines_[end].start));
     if (ended) return;
     endLine();
     write("%%EOF");

@@ -63,6 +63,39 @@ class EpsRepairTest : public QObject {
     QVERIFY(twice.changes.isEmpty());
   }
 
+  void aSecondRepairChangesNothingWhereTheEndStoodInTheHeader_data() {
+    QTest::addColumn<QByteArray>("program");
+    const QByteArray head = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 10 10 90 60\n";
+    const QByteArray rest = "%%HiResBoundingBox: 10 10 90 60\n%%LanguageLevel: 2\n%%EndComments\n";
+    QTest::newRow("a drawing behind it") << head + "%%EOF\n" + rest + kBody + "showpage\n";
+    QTest::newRow("a second end") << head + "%%EOF\n" + rest + kBody + "showpage\n%%EOF\n";
+    QTest::newRow("a trailer, too") << head + "%%EOF\n" + rest + kBody + "showpage\n%%Trailer\n%%EOF\n";
+    QTest::newRow("NULs behind it") << head + "%%EOF\n" + QByteArray("\0\0\0\0\n", 5) + rest + kBody;
+    QTest::newRow("a trailer in the header") << head + "%%Trailer\n" + rest + kBody + "showpage\n%%EOF\n";
+    QTest::newRow("nothing behind it") << head + "%%EOF\n";
+  }
+  void aSecondRepairChangesNothingWhereTheEndStoodInTheHeader() {
+    QFETCH(QByteArray, program);
+    const EpsRepair once = repairedEps(program, kBox, false);
+    const EpsRepair twice = repairedEps(once.program, kBox, false);
+    QCOMPARE(twice.program, once.program);
+    QVERIFY2(twice.changes.isEmpty(), qPrintable(twice.changes.join('\n')));
+  }
+
+  void anEndInTheHeaderDoesNotTakeTheDrawingWithIt() {
+    const EpsRepair repair =
+        repairedEps("%!PS\n%%Title: t\n%%EOF\n%%For: f\n" + kBody + "showpage\n", kBox, false);
+    QVERIFY2(repair.program.endsWith("%%Title: t\n%%EndComments\n%%For: f\n" + kBody + "showpage\n%%EOF\n"),
+             repair.program.constData());
+    QVERIFY(repair.changes.contains("%%EOF was left out, because it stood out of order"));
+    // Where nothing is drawn it is the end, and what a transport left is no drawing.
+    QVERIFY(repaired(QByteArray("%!PS\n%%Title: t\n%%EOF\n\0\0\n\4", 26)).endsWith("showpage\n%%EOF\n"));
+  }
+
+  void aShowpageBehindTheEndIsNone() {
+    QVERIFY(repaired("%!PS\n" + kBody + "%%EOF\nshowpage\n").endsWith(kBody + "showpage\n%%EOF\n"));
+  }
+
   void whiteMayMissTheEdgeOfTheStatedBoxByAPointAndAHalf() {
     const QRectF stated(0, 0, 100, 100), ink(20, 20, 10, 10);
     const auto mended = [&](double gap) {

@@ -15,10 +15,13 @@
 namespace norvex::engine {
 namespace {
 
+/// Bytes in which a declaration is looked for.
+constexpr qsizetype kLongestDeclaration = 1024;
+
 /// The place of the encoding's name in the XML declaration, without the quotes; size 0: there is none.
 std::pair<qsizetype, qsizetype> encodingPlace(const QByteArray& text) {
   if (!text.startsWith("<?xml") || text.size() < 6 || !QByteArray(" \t\r\n").contains(text[5])) return {0, 0};
-  const qsizetype end = text.left(1024).indexOf("?>");
+  const qsizetype end = text.left(kLongestDeclaration).indexOf("?>");
   const qsizetype key = text.left(end).indexOf("encoding");
   if (end < 0 || key < 0) return {0, 0};
   qsizetype at = key + 8;
@@ -134,7 +137,7 @@ Result<SvgText> decodeSvgText(const QByteArray& bytes) {
   SvgText text;
   text.byteOrderMark = family.markBytes > 0;
   const QByteArray body = bytes.mid(family.markBytes);
-  text.declaredName = declaredEncoding(body);
+  text.declaredName = declaredEncoding(untilNul(body.left(kLongestDeclaration)));
   // A mark is stronger than the declaration; and 8-bit text that claims to be UTF-16 is a converter's
   // left-over.
   const QByteArray upper = text.declaredName.toUpper();

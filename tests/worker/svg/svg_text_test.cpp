@@ -125,6 +125,18 @@ class SvgTextTest : public QObject {
     }
   }
 
+  void aDeclarationBehindANulDeclaresNothing() {
+    const QByteArray bytes("<?xml v\x9frs\0on='1.0' encoding='EUC-JP'?>\n<svg/>", 46);
+    const Result<SvgText> text = decodeSvgText(bytes);
+    QVERIFY(text);
+    QCOMPARE(text->utf8, QByteArray("<?xml v\x9frs"));
+    QCOMPARE(text->declaredName, QByteArray("UTF-8"));
+    const Result<SvgText> again = decodeSvgText(encodeSvgText(text->utf8, *text));
+    QVERIFY(again);
+    QCOMPARE(again->utf8, text->utf8);
+    QCOMPARE(OpenSvg(bytes).ok(), false);  // no document is left, and that is said
+  }
+
   void whatIsNoTextIsRefused() {
     for (const QByteArray& bytes :
          {QByteArray("<?xml version='1.0' encoding='EUC-JP'?><svg>\xc6</svg>"),

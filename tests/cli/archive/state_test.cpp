@@ -12,6 +12,7 @@
 #include <utility>
 
 #include <sys/stat.h>
+#include "base/file_name.h"
 #include "cli/archive/archive_files.h"
 #include "cli/archive/state/run_state.h"
 #include "cli/archive/state/state_summary.h"
@@ -275,6 +276,27 @@ class StateTest : public QObject {
     QCOMPARE(kept.convertTree({"--state", kept.path("all"), "--json-lines"}), 0);
     QCOMPARE(kept.told("outcome"), QStringList(20, "unchanged"));
     QCOMPARE(kept.go({"status", kept.path("all"), "--merge", kept.put("x", "no state")}), 3);
+  }
+
+  void aStateWhoseNameIsNoTextIsMerged() {
+    Kept kept;
+    RunEntry done = begun("/a", {});
+    done.outcome = Outcome::Done;
+    done.finished = 100;
+    const QByteArray name = kept.at("part \xFF%41?x=\xE4");
+    {
+      const auto part = RunState::openForRun(name);
+      QVERIFY(part && (*part)->finish({done}).ok());
+    }
+    const auto all = RunState::openForRun(kept.at("all"));
+    QVERIFY(all.ok());
+    const auto merged = (*all)->merge(name);
+    QVERIFY2(merged.ok(), merged.ok() ? "" : qPrintable(merged.error().message));
+    const auto entry = (*all)->find("/a");
+    QVERIFY(entry && *entry);
+    QCOMPARE(int((*entry)->outcome), int(Outcome::Done));
+    QCOMPARE(kept.go({"status", kept.path("new"), "--merge", fileNameText(name), "--json"}), 0);
+    QCOMPARE(QJsonDocument::fromJson(kept.console.output).object().value("done").toInt(), 1);
   }
 
   void ofTwoStatesTheNewerEntryCounts() {

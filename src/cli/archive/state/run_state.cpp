@@ -182,7 +182,8 @@ Result<void> RunState::merge(const QByteArray& other) {
   if (const auto opened = openToRead(other); !opened) return opened.error();
   const std::lock_guard lock(mutex_);
   Statement attach = database_.prepare("ATTACH ? AS other");
-  if (!attach.bind(0, QString::fromUtf8(other)).run()) return database_.error();
+  // As bytes: a file's name need not be text, and SQLite hands them on as they are.
+  if (!attach.bind(0, other).run()) return database_.error();
   const bool merged = database_.run(
       "BEGIN IMMEDIATE;"
       "INSERT OR REPLACE INTO main.entry SELECT theirs.* FROM other.entry AS theirs"

@@ -33,7 +33,16 @@ QList<QByteArray> seeds() {
                                 "00ff0000ff00000010000000"
                                 "01000000");
   const QByteArray picture = metafileRecord(0xF43, {0x20, 0xCC, 0, 2, 2, 0, 0, 20, 20, 5, 10}, bitmap);
-  return {kit::madeMetafile(objects + shapes), kit::madeMetafile(picture),
+  // Runs beyond the right edge, single pixels, a move, and a line that does not end.
+  const QByteArray ofRuns = kit::words({40, 0, 4, 0, 3, 0, 1, 8, 1, 0, 0, 0, 0, 0, 0, 0, 2, 0, 0, 0}) +
+                            QByteArray::fromHex(
+                                "00ff0000ff000000"
+                                "ff010000"
+                                "000301000100"
+                                "00020201") +
+                            QByteArray::fromHex("ff01").repeated(40);
+  const QByteArray runs = metafileRecord(0xF43, {0x20, 0xCC, 0, 3, 4, 0, 0, 20, 20, 5, 10}, ofRuns);
+  return {kit::madeMetafile(objects + shapes), kit::madeMetafile(picture), kit::madeMetafile(runs),
           kit::placeableMetafile(objects + picture)};
 }
 

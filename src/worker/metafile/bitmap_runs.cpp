@@ -33,12 +33,15 @@ class Runs {
   [[nodiscard]] int part(int byte, int pixel) const {
     return bits_ == 8 ? byte : pixel % 2 == 0 ? byte >> 4 : byte & 0xF;
   }
+  [[nodiscard]] bool isInside() const { return x_ < size_.width() && y_ < size_.height(); }
   void put(int colour) {
-    if (x_ < size_.width() && y_ < size_.height()) pixel_(x_, y_, colour);
+    if (isInside()) pixel_(int(x_), int(y_), colour);
     ++x_;
   }
   void repeat(int count, int value) {
-    for (int i = 0; i < count; ++i) put(part(value, i));
+    const qint64 end = x_ + count;
+    for (int i = 0; i < count && isInside(); ++i) put(part(value, i));
+    x_ = end;
   }
   /// Pixels one by one, up to a whole word.
   bool list(int count) {
@@ -54,7 +57,7 @@ class Runs {
   QSize size_;
   const std::function<void(int, int, int)>& pixel_;
   qsizetype at_ = 0;
-  int x_ = 0, y_ = 0;
+  qint64 x_ = 0, y_ = 0;  // a line need not end: its runs may add up to more than an int holds
 };
 
 }  // namespace

@@ -24,33 +24,68 @@ double betweenPixels(double place) {
   return std::floor(place + 0.47);
 }
 
-/// The points of a path, each with what its edges ask of it.
+/// A point of a path, with what its edges ask of it.
 struct Corner {
   cairo_path_data_t* at;
   bool upright = false;  ///< belongs to an edge along y: x is moved
   bool level = false;    ///< belongs to an edge along x: y is moved
 };
 
+/// Whether a part comes back to its first point without a last edge.
+bool isSamePoint(const Corner& a, const Corner& b) {
+  return std::abs(a.at->point.x - b.at->point.x) <= kSameLine &&
+         std::abs(a.at->point.y - b.at->point.y) <= kSameLine;
+}
+
 void join(Corner& from, Corner& to) {
   const double dx = std::abs(from.at->point.x - to.at->point.x);
   const double dy = std::abs(from.at->point.y - to.at->point.y);
   if (dx <= kSameLine && dy > kSameLine) from.upright = to.upright = true;
   if (dy <= kSameLine && dx > kSameLine) from.level = to.level = true;
+  if (!isSamePoint(from, to)) return;
+  from.upright = to.upright = from.upright || to.upright;
+  from.level = to.level = from.level || to.level;
 }
 
+/// Whether edges of different places stay at different places. `edges` in ascending order.
+template <typename Moved>
+bool staysApart(const std::vector<double>& edges, const Moved& moved) {
+  size_t first = 0;  // of those that come to the same place
+  for (size_t i = 1; i < edges.size(); ++i) {
+    if (moved(edges[i]) != moved(edges[first])) first = i;
+    if (edges[i] - edges[first] > kSameLine) return false;
+  }
+  return true;
+}
+
+/// The edges of a path.
 class Outline {
  public:
   explicit Outline(cairo_path_t& path) {
     for (int i = 0; i < path.num_data; i += path.data[i].header.length) take(&path.data[i]);
-    leaveOutLonePlace();
+    endPart();
   }
 
-  /// Moves the edges; false, and nothing is moved, where that would leave nothing of the path.
+  /// Letters, bars, a frame are several parts: what is thin among them is meant to be seen as it is.
+  [[nodiscard]] bool isOnePart() const { return parts_ == 1; }
+  /// The places of the upright edges, in ascending order.
+  [[nodiscard]] std::vector<double> uprights() const {
+    return places([](const Corner& c) { return c.upright; }, [](const Corner& c) { return c.at->point.x; });
+  }
+  /// Those of the level ones.
+  [[nodiscard]] std::vector<double> levels() const {
+    return places([](const Corner& c) { return c.level; }, [](const Corner& c) { return c.at->point.y; });
+  }
+
+  /// Moves the edges; false, and nothing is moved, where one would come to another, or less than half be left
+  /// of the whole.
   template <typename MovedX, typename MovedY>
   bool move(const MovedX& movedX, const MovedY& movedY) {
     const auto x = [&](const Corner& c) { return c.upright ? movedX(c.at->point.x) : c.at->point.x; };
     const auto y = [&](const Corner& c) { return c.level ? movedY(c.at->point.y) : c.at->point.y; };
-    if (!isLong(x) || !isLong(y)) return false;
+    if (!staysApart(uprights(), movedX) || !staysApart(levels(), movedY)) return false;
+    if (width(x) < width([](const Corner& c) { return c.at->point.x; }) / 2) return false;
+    if (width(y) < width([](const Corner& c) { return c.at->point.y; }) / 2) return false;
     for (const Corner& corner : corners_) corner.at->point = {x(corner), y(corner)};
     return true;
   }
@@ -59,16 +94,16 @@ class Outline {
   void take(cairo_path_data_t* part) {
     switch (part->header.type) {
       case CAIRO_PATH_MOVE_TO:
-        leaveOutLonePlace();
+        endPart();
         corners_.push_back({part + 1});
-        first_ = corners_.size() - 1;
+        ++parts_;
         break;
       case CAIRO_PATH_LINE_TO:
         corners_.push_back({part + 1});
         if (corners_.size() > 1) join(corners_[corners_.size() - 2], corners_.back());
         break;
-      case CAIRO_PATH_CURVE_TO:
-        corners_.push_back({part + 3});
+      case CAIRO_PATH_CURVE_TO:  // two points that it is drawn towards, and where it ends
+        for (int point = 1; point <= 3; ++point) corners_.push_back({part + point});
         break;
       case CAIRO_PATH_CLOSE_PATH:
         if (!corners_.empty()) join(corners_.back(), corners_[first_]);
@@ -76,20 +111,39 @@ class Outline {
     }
   }
 
-  /// Cairo goes to a place behind each closed part, from which nothing need be drawn.
-  void leaveOutLonePlace() {
-    if (!corners_.empty() && first_ + 1 == corners_.size()) corners_.pop_back();
+  /// Cairo goes to a place behind each closed part, from which nothing need
+  /// be drawn: that is none.
+  void endPart() {
+    if (first_ + 1 < corners_.size()) {
+      if (isSamePoint(corners_.back(), corners_[first_])) join(corners_.back(), corners_[first_]);
+    } else if (!corners_.empty()) {
+      corners_.pop_back();
+      --parts_;
+    }
+    first_ = corners_.size();
   }
 
-  /// Whether the path reaches from one place to another along an axis.
+  template <typename IsEdge, typename Place>
+  [[nodiscard]] std::vector<double> places(const IsEdge& isEdge, const Place& place) const {
+    std::vector<double> found;
+    for (const Corner& corner : corners_)
+      if (isEdge(corner)) found.push_back(place(corner));
+    std::sort(found.begin(), found.end());
+    return found;
+  }
+
+  /// How far the path reaches along an axis.
   template <typename Place>
-  [[nodiscard]] bool isLong(const Place& place) const {
-    return std::any_of(corners_.begin(), corners_.end(),
-                       [&](const Corner& corner) { return place(corner) != place(corners_.front()); });
+  [[nodiscard]] double width(const Place& place) const {
+    const auto [least, most] =
+        std::minmax_element(corners_.begin(), corners_.end(),
+                            [&](const Corner& a, const Corner& b) { return place(a) < place(b); });
+    return place(*most) - place(*least);
   }
 
   std::vector<Corner> corners_;
-  size_t first_ = 0;
+  size_t first_ = 0;  ///< of the part that is being taken
+  int parts_ = 0;
 };
 
 /// Coordinates of the surface, while this lives.
@@ -108,33 +162,62 @@ class SurfaceSpace {
   cairo_matrix_t matrix_;
 };
 
-template <typename MovedX, typename MovedY>
-void moveEdges(cairo_t* context, const MovedX& x, const MovedY& y) {
+template <typename MovedXOf, typename MovedYOf>
+void moveEdges(cairo_t* context, const MovedXOf& movedXOf, const MovedYOf& movedYOf) {
   const CairoPath path(cairo_copy_path(context));
-  if (path->status != CAIRO_STATUS_SUCCESS || !Outline(*path).move(x, y)) return;
+  if (path->status != CAIRO_STATUS_SUCCESS) return;
+  Outline outline(*path);
+  if (!outline.isOnePart() || !outline.move(movedXOf(outline), movedYOf(outline))) return;
   cairo_new_path(context);
   cairo_append_path(context, path.get());
 }
 
 void putBetweenPixels(cairo_t* context) {
   const SurfaceSpace surface(context);
-  moveEdges(context, betweenPixels, betweenPixels);
+  const auto always = [](const Outline&) { return betweenPixels; };
+  moveEdges(context, always, always);
 }
 
 /// From `least` to `most` along an axis.
 struct Span {
   double least = 0;
   double most = 0;
+};
 
-  /// Where an edge is to be that lies so close to an end that it was meant to be there.
-  [[nodiscard]] double reached(double place) const {
-    if (place > least && place <= least + kNear) return least;
-    if (place < most && place >= most - kNear) return most;
+/// What becomes of the two outermost edges of an area that ends where its clip does. They only go outwards.
+class Ends {
+ public:
+  Ends(const Span& area, const Span& clip)
+      : area_(area),
+        clip_(clip),
+        reachesLeast_(area.least > clip.least && area.least <= clip.least + kNear),
+        reachesMost_(area.most < clip.most && area.most >= clip.most - kNear) {}
+
+  [[nodiscard]] bool anyReaches() const { return reachesLeast_ || reachesMost_; }
+
+  /// A thin line at the end of its clip stays one: an edge beside which one stays stays, too.
+  [[nodiscard]] Ends besides(const std::vector<double>& edges) const {
+    Ends ends = *this;
+    for (const double edge : edges) {
+      if ((*this)(edge) != edge || edge <= clip_.least || edge >= clip_.most) continue;
+      ends.reachesLeast_ = ends.reachesLeast_ && edge - area_.least > kThin;
+      ends.reachesMost_ = ends.reachesMost_ && area_.most - edge > kThin;
+    }
+    return ends;
+  }
+
+  double operator()(double place) const {
+    if (reachesLeast_ && place - area_.least <= kSameLine) return clip_.least;
+    if (reachesMost_ && area_.most - place <= kSameLine) return clip_.most;
     return place;
   }
 
+ private:
   /// How far an edge of a clip is moved at most, and a little.
-  static constexpr double kNear = 0.55;
+  static constexpr double kNear = 0.55, kThin = 2 * kNear;
+
+  Span area_, clip_;
+  bool reachesLeast_, reachesMost_;
 };
 
 // What ends where its clip does is moved with it.
@@ -143,13 +226,11 @@ void reachClip(cairo_t* context) {
   Span x, y, clipX, clipY;
   cairo_path_extents(context, &x.least, &y.least, &x.most, &y.most);
   cairo_clip_extents(context, &clipX.least, &clipY.least, &clipX.most, &clipY.most);
-  const auto stays = [](const Span& span, const Span& clip) {
-    return clip.reached(span.least) == span.least && clip.reached(span.most) == span.most;
-  };
-  if (stays(x, clipX) && stays(y, clipY)) return;
+  const Ends endsX(x, clipX), endsY(y, clipY);
+  if (!endsX.anyReaches() && !endsY.anyReaches()) return;
   moveEdges(
-      context, [&](double place) { return clipX.reached(place); },
-      [&](double place) { return clipY.reached(place); });
+      context, [&](const Outline& outline) { return endsX.besides(outline.uprights()); },
+      [&](const Outline& outline) { return endsY.besides(outline.levels()); });
 }
 
 bool isAsked(cairo_t* context) {

@@ -15,12 +15,12 @@ void askForPixelEdges(cairo_t* context);
 
 /// As cairo_clip(). Where askForPixelEdges() was called, the level and upright edges of the path (as they lie
 /// on the surface) are first moved to the nearest edge between two pixels. Edges at one place go to the same
-/// place: what had no gap has none. Curves and slanted edges stay as they are, and so does a path of which
-/// nothing would be left.
+/// place: what had no gap has none. Curves and slanted edges stay as they are. So does a path of several
+/// parts (letters, bars), and one of which two edges would meet: what is thin is not lost.
 void clipBetweenPixels(cairo_t* context);
 
 /// As cairo_fill(), with the same done to the edges of an image. Areas in a colour keep theirs: a thin line
-/// may be one.
+/// may be one. Only where one that is not thin ends beside the edge of its clip, it goes up to it.
 void fillBetweenPixels(cairo_t* context);
 
 }  // namespace norvex::engine

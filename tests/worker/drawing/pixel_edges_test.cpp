@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "kit/test_main.h"
 #include "worker/drawing/cairo_surface.h"
@@ -44,9 +45,57 @@ struct Sheet {
     cairo_restore(context.get());
   }
 
+  void fill(const std::function<void(cairo_t*)>& path) const {
+    path(context.get());
+    cairo_set_source_rgb(context.get(), 0, 0, 0);
+    fillBetweenPixels(context.get());
+  }
+
   CairoSurface surface;
   CairoContext context;
 };
+
+/// All pixels, one after the other.
+QList<int> coverages(const Sheet& sheet) {
+  QList<int> all;
+  for (int y = 0; y < 40; ++y)
+    for (int x = 0; x < 40; ++x) all << sheet.coverage(x, y);
+  return all;
+}
+
+void addPaths() {
+  QTest::addColumn<std::function<void(cairo_t*)>>("path");
+  const auto row = [](const char* name, const std::function<void(cairo_t*)>& path) {
+    QTest::newRow(name) << path;
+  };
+  row("bars of half a pixel", [](cairo_t* c) {
+    for (int i = 0; i < 29; ++i) cairo_rectangle(c, 3 + i * 1.17, 4, 0.5, 30);
+  });
+  row("bars across", [](cairo_t* c) {
+    for (int i = 0; i < 29; ++i) cairo_rectangle(c, 4, 3 + i * 1.17, 30, 0.5);
+  });
+  row("letters", [](cairo_t* c) {
+    cairo_set_font_size(c, 7);
+    cairo_move_to(c, 1.3, 15.2);
+    cairo_text_path(c, "HEIL tilt");
+  });
+  row("a comb", [](cairo_t* c) {
+    cairo_move_to(c, 2, 5);
+    for (int i = 0; i < 9; ++i) {
+      const double x = 4.1 + i * 3.3;
+      for (const auto& [dx, y] : {std::pair(0.0, 5), std::pair(0.0, 30), std::pair(0.3, 30), {0.3, 5}})
+        cairo_line_to(c, x + dx, y);
+    }
+    cairo_line_to(c, 38, 2);
+    cairo_line_to(c, 2, 2);
+    cairo_close_path(c);
+  });
+  row("half of a lens", [](cairo_t* c) {
+    cairo_move_to(c, 10.4, 5);
+    cairo_line_to(c, 10.4, 30);
+    cairo_curve_to(c, 10.05, 24, 10.05, 11, 10.4, 5);
+  });
+}
 
 /// Four tiles around (x, y), two of them no rectangles: they end in the others' corner.
 void fourTiles(const Sheet& sheet, double x, double y) {
@@ -118,6 +167,59 @@ class PixelEdgesTest : public QObject {
     const Sheet sheet;
     sheet.tile([](cairo_t* c) { cairo_rectangle(c, 10.1, 5, 0.3, 30); });
     QVERIFY(sheet.coverage(10, 20) > 50);
+  }
+
+  void aClipWithThinPartsIsWhatItWouldBe_data() { addPaths(); }
+  void aClipWithThinPartsIsWhatItWouldBe() {
+    QFETCH(std::function<void(cairo_t*)>, path);
+    const Sheet asked, plain(false);
+    asked.tile(path);
+    plain.tile(path);
+    QVERIFY(coverages(plain).count(0) < 1600);
+    QCOMPARE(coverages(asked), coverages(plain));
+  }
+
+  void aThinLineAtTheEndOfTheClipIsWhatItWouldBe_data() {
+    QTest::addColumn<std::function<void(cairo_t*)>>("path");
+    const auto row = [](const char* name, const std::function<void(cairo_t*)>& path) {
+      QTest::newRow(name) << path;
+    };
+    row("beside another area", [](cairo_t* c) {
+      cairo_rectangle(c, 0.1, 5, 0.4, 30);
+      cairo_rectangle(c, 20, 5, 10, 30);
+    });
+    row("alone", [](cairo_t* c) { cairo_rectangle(c, 0.1, 5, 0.4, 30); });
+    row("alone, at the bottom", [](cairo_t* c) { cairo_rectangle(c, 5, 39.5, 30, 0.4); });
+    row("half a pixel away", [](cairo_t* c) { cairo_rectangle(c, 0.5, 5, 0.4, 30); });
+    row("from outside", [](cairo_t* c) { cairo_rectangle(c, -5, 5, 5.4, 30); });
+    row("a part of an area", [](cairo_t* c) {
+      cairo_move_to(c, 0.1, 5);
+      for (const auto& [x, y] : {std::pair(0.5, 5.0), std::pair(0.5, 30.0), {20.0, 30.0}, {20.0, 35.0}})
+        cairo_line_to(c, x, y);
+      cairo_line_to(c, 0.1, 35);
+      cairo_close_path(c);
+    });
+  }
+  void aThinLineAtTheEndOfTheClipIsWhatItWouldBe() {
+    QFETCH(std::function<void(cairo_t*)>, path);
+    const Sheet asked, plain(false);
+    asked.fill(path);
+    plain.fill(path);
+    QVERIFY(coverages(plain).count(0) < 1600);
+    QCOMPARE(coverages(asked), coverages(plain));
+  }
+
+  void anAreaThatFillsAThinClipFillsItAsItIsMoved() {
+    for (const auto& [least, most] : {std::pair(10.1, 10.6), std::pair(10.0, 10.6), {10.4, 11.0}}) {
+      const Sheet sheet;
+      const auto area = [x = least, width = most - least](cairo_t* c) {
+        cairo_rectangle(c, x, 0, width, 40);
+      };
+      area(sheet.context.get());
+      clipBetweenPixels(sheet.context.get());
+      sheet.fill(area);
+      QCOMPARE(sheet.coverage(10, 20), 255);
+    }
   }
 
   void anAreaThatEndsWithItsClipGoesAlongWithIt() {

@@ -70,6 +70,7 @@ ExportedPicture exportedPicture(const PictureSnapshot& snapshot, const ExportCho
   surroundings.region = regionOf(snapshot, choice.area);
   surroundings.onePage = !holdsPages(choice.area) && hasPages(*snapshot.imageRep);
   surroundings.subjectMayBeLeftOut = true;
+  if (choice.area == ExportArea::Pages) surroundings.actions = SourceActions::LeaveOut;  // a part, as any
   PictureEncoder encoder(snapshot.imageRep, surroundings, cancel);
   ExportedPicture made;
   made.bytes = encodedPicture(encoder, choice.format);

@@ -26,17 +26,15 @@ Result<Pages> pagesOf(const PdfFile& file, const PageExcerpt& excerpt) {
   return pages;
 }
 
-/// True if that is an explicit destination on a page that stays behind, which would come along with it.
+/// True if that is an explicit destination on a page that stays behind.
 bool leadsElsewhere(QPDFObjectHandle destination, const std::set<QPDFObjGen>& kept) {
   if (!destination.isArray() || destination.getArrayNItems() == 0) return false;
   QPDFObjectHandle page = destination.getArrayItem(0);
   return page.isDictionary() && !kept.count(page.getObjGen());
 }
 
-/// Takes what would draw in pages that are not among `pages`.
-void forgetOtherPages(Pages& pages) {
-  std::set<QPDFObjGen> kept;
-  for (const QPDFObjectHandle& page : pages) kept.insert(page.getObjGen());
+/// Takes from the pages what leads to others.
+void forgetOtherPages(Pages& pages, const std::set<QPDFObjGen>& kept) {
   for (QPDFObjectHandle& page : pages) {
     page.removeKey("/B");  // the beads of an article lie on other pages
     QPDFObjectHandle notes = page.getKey("/Annots");
@@ -51,6 +49,19 @@ void forgetOtherPages(Pages& pages) {
         note.removeKey("/P");
     }
   }
+}
+
+/// Leaves the file with these pages. The others become null wherever something still leads to them: there are
+/// more ways than can be listed.
+void leaveOnlyPages(PdfFile& file, Pages& pages) {
+  std::set<QPDFObjGen> kept;
+  for (const QPDFObjectHandle& page : pages) kept.insert(page.getObjGen());
+  forgetOtherPages(pages, kept);
+  std::vector<QPDFObjGen> leftOut;
+  for (int number = 0; number < file.pageCount(); ++number)
+    if (const QPDFObjGen page = file.page(number).getObjGen(); !kept.count(page)) leftOut.push_back(page);
+  keepOnlyPages(file.qpdf(), pages);
+  for (const QPDFObjGen& page : leftOut) file.qpdf().replaceObject(page, QPDFObjectHandle::newNull());
 }
 
 }  // namespace
@@ -69,10 +80,8 @@ Result<QByteArray> joinedPages(const QList<PageExcerpt>& excerpts) {
     for (size_t i = 0; i < files.size(); ++i) {
       Result<Pages> pages = pagesOf(*files[i], excerpts.at(qsizetype(i)));
       if (!pages) return pages.error();
-      forgetOtherPages(*pages);
-      if (i == 0)
-        keepOnlyPages(first, *pages);
-      else
+      leaveOnlyPages(*files[i], *pages);
+      if (i > 0)
         for (const QPDFObjectHandle& page : *pages) QPDFPageDocumentHelper(first).addPage(page, false);
     }
     if (information.isDictionary()) first.getTrailer().replaceKey("/Info", information);

@@ -17,6 +17,14 @@ using kit::stream;
 
 namespace {
 
+/// Two pages with the words One and Two; `inSecond` is in the second, and object 3 is the first.
+QByteArray secondWith(const QByteArray& inSecond) {
+  return madePdf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 >>",
+                  "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 100 100] /Contents 5 0 R >>",
+                  "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /Contents 6 0 R " + inSecond + " >>",
+                  stream("BT (One) Tj ET"), stream("BT (Two) Tj ET")});
+}
+
 /// Three pages of 100, 200 and 300 points' width with the words One, Two and Three, which inherit their font.
 /// The second has a link to the third and one to the first; there are outlines and a title.
 QByteArray threePages() {
@@ -73,6 +81,35 @@ class JoinedPagesTest : public QObject {
     QVERIFY(!plain.contains("(One) Tj") && !plain.contains("(Three) Tj"));
     QCOMPARE(plain.count("/Subtype /Link"), qsizetype(2));
     QVERIFY(!plain.contains("Chapter"));
+  }
+
+  void noWayLeadsToWhatIsLeftOut_data() {
+    QTest::addColumn<QByteArray>("way");
+    const auto note = [](const QByteArray& entry) {
+      return "/Annots [<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] " + entry + " >>]";
+    };
+    const QByteArray go = "<< /S /GoTo /D [3 0 R /Fit] >>";
+    QTest::newRow("an action behind another") << note("/A << /S /URI /URI (x:y) /Next " + go + " >>");
+    QTest::newRow("one of several behind another") << note("/A << /S /URI /URI (x:y) /Next [" + go + "] >>");
+    QTest::newRow("an additional action of a note") << note("/AA << /E " + go + " >>");
+    QTest::newRow("a link's former address") << note("/PA " + go);
+    QTest::newRow("an action of the page") << "/AA << /O " + go + " >>";
+    QTest::newRow("its separations") << QByteArray(
+        "/SeparationInfo << /Pages [3 0 R 4 0 R] /DeviceColorant /Cyan >>");
+    QTest::newRow("a key of another program") << QByteArray("/PieceInfo << /X << /Private [3 0 R] >> >>");
+  }
+  void noWayLeadsToWhatIsLeftOut() {
+    QFETCH(QByteArray, way);
+    const PageExcerpt second{secondWith(way), 1, 1};
+    for (const auto& excerpts : {QList<PageExcerpt>{second}, {PageExcerpt{onePage("")}, second}}) {
+      const auto joined = joinedPages(excerpts);
+      QVERIFY(joined.ok());
+      const QString path = written(*joined);
+      QCOMPARE(run("qpdf", {"--check", path}).exitCode, 0);
+      const QByteArray plain = run("qpdf", {"--qdf", "--object-streams=disable", path, "-"}).out;
+      QVERIFY(plain.contains("(Two) Tj"));
+      QVERIFY2(!plain.contains("(One) Tj"), plain);
+    }
   }
 
   void linksInsideOfTheRangeStay() {

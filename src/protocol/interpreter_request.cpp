@@ -1,7 +1,9 @@
 #include "protocol/interpreter_request.h"
 
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/uio.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
@@ -96,13 +98,19 @@ Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& reques
   return sent == told.size() ? Result<void>() : noMore();
 }
 
-void tellInterpretersReady(int taking) {
-  if (::send(taking, &kReady, sizeof kReady, MSG_NOSIGNAL | MSG_DONTWAIT) < 0) return;  // nobody is left
+Result<ReadinessPipe> makeReadinessPipe() {
+  int ends[2] = {-1, -1};
+  if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) return noMore();
+  return ReadinessPipe{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
 }
 
-bool hadInterpretersReady(int asking) {
+void tellInterpretersReady(FileDescriptor telling) {
+  if (::write(telling.get(), &kReady, sizeof kReady) < 0) return;  // nobody is left
+}
+
+bool hadInterpretersReady(int hearing) {
   char told = 0;
-  return ::recv(asking, &told, sizeof told, MSG_DONTWAIT) == sizeof told && told == kReady;
+  return ::read(hearing, &told, sizeof told) == sizeof told && told == kReady;
 }
 
 Result<InterpreterRequest> receiveInterpreterRequest(int taking) {

@@ -44,10 +44,16 @@ struct InterpreterConnection {
 /// until those have arrived. Fails with Died when nobody listens or too many wait.
 [[nodiscard]] Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request);
 
-/// Tells through a connection that whoever takes requests there is able to serve them.
-void tellInterpretersReady(int taking);
+/// A pipe through which whoever takes requests tells that it is able to serve them. It is not the connection
+/// itself, which everybody who asks can read from. No document may get an end of it. Fails with Died.
+struct ReadinessPipe {
+  FileDescriptor hearing, telling;
+};
+[[nodiscard]] Result<ReadinessPipe> makeReadinessPipe();
+/// Tells it, once.
+void tellInterpretersReady(FileDescriptor telling);
 /// True if that has been told, also when whoever told it has gone. Takes the news: it is given once.
-[[nodiscard]] bool hadInterpretersReady(int asking);
+[[nodiscard]] bool hadInterpretersReady(int hearing);
 
 /// Waits for the next request. Fails with Died when there will be none any more, with Protocol when it is no
 /// request (others may follow).

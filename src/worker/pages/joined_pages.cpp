@@ -64,6 +64,24 @@ void leaveOnlyPages(PdfFile& file, Pages& pages) {
   for (const QPDFObjGen& page : leftOut) file.qpdf().replaceObject(page, QPDFObjectHandle::newNull());
 }
 
+/// Appends the pages of another file, which loses their notes. What leads to a page is copied as null until
+/// the page is there: the notes come last, so that links forwards arrive as those backwards do.
+void appendPages(QPDF& target, QPDF& source, Pages& pages) {
+  std::vector<QPDFObjectHandle> notes;
+  for (QPDFObjectHandle& page : pages) {
+    notes.push_back(page.getKey("/Annots"));
+    page.removeKey("/Annots");
+    QPDFPageDocumentHelper(target).addPage(page, false);
+  }
+  const std::vector<QPDFObjectHandle>& all = target.getAllPages();
+  for (size_t i = 0; i < pages.size(); ++i) {
+    if (!notes[i].isArray()) continue;
+    QPDFObjectHandle page = all[all.size() - pages.size() + i];
+    const QPDFObjectHandle own = notes[i].isIndirect() ? notes[i] : source.makeIndirectObject(notes[i]);
+    page.replaceKey("/Annots", target.copyForeignObject(own));
+  }
+}
+
 }  // namespace
 
 Result<QByteArray> joinedPages(const QList<PageExcerpt>& excerpts) {
@@ -81,8 +99,7 @@ Result<QByteArray> joinedPages(const QList<PageExcerpt>& excerpts) {
       Result<Pages> pages = pagesOf(*files[i], excerpts.at(qsizetype(i)));
       if (!pages) return pages.error();
       leaveOnlyPages(*files[i], *pages);
-      if (i > 0)
-        for (const QPDFObjectHandle& page : *pages) QPDFPageDocumentHelper(first).addPage(page, false);
+      if (i > 0) appendPages(first, files[i]->qpdf(), *pages);
     }
     if (information.isDictionary()) first.getTrailer().replaceKey("/Info", information);
     return writePdf(first);

@@ -120,6 +120,18 @@ class JoinedPagesTest : public QObject {
     QVERIFY(!plain.contains("/GoTo"));
   }
 
+  void linksInsideOfALaterRangeStayForwardsAndBackwards() {
+    const auto joined = joinedPages({{onePage("")}, {threePages(), 0, 2}});
+    QVERIFY(joined.ok());
+    const QString path = written(*joined);
+    QCOMPARE(run("qpdf", {"--check", path}).exitCode, 0);
+    const QByteArray plain = run("qpdf", {"--qdf", "--object-streams=disable", path, "-"}).out;
+    QCOMPARE(plain.count("/Dest ["), qsizetype(1));
+    QCOMPARE(plain.count("/GoTo"), qsizetype(1));
+    QCOMPARE(plain.count(" 0 R\n      /Fit") + plain.count(" 0 R\n    /Fit"), qsizetype(2));
+    QVERIFY2(!plain.contains("null"), plain);
+  }
+
   void severalFilesFollowOneAnother() {
     const QByteArray other = onePage("BT /F 12 Tf 10 50 Td (Other) Tj ET",
                                      "/MediaBox [0 0 50 60] /Resources << /Font << /F 5 0 R >> >>",

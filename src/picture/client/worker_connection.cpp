@@ -19,11 +19,6 @@
 namespace norvex {
 namespace {
 
-/// Milliseconds in which a process that yields to frames may draw its first picture at our own priority: on a
-/// machine where everything is busy it would not come for a long time otherwise, and nobody zooms before it
-/// is there.
-constexpr int kPriorityOfBeginning = 1000;
-
 Error timedOut() {
   return {ErrorKind::TimedOut,
           QStringLiteral("the picture was not ready within the time that it is allowed")};
@@ -143,7 +138,7 @@ Result<quint32> WorkerConnection::post(RequestBody body, const FileDescriptor& m
 /// Waits for an answer as long as the process may keep our own priority.
 void WorkerConnection::letBegin(const FileDescriptor& wake) {
   if (hasYielded_ || !starter_ || starter_->nice() == 0) return;
-  if (!beginning_) beginning_ = QDeadlineTimer(kPriorityOfBeginning);
+  if (!beginning_) beginning_ = QDeadlineTimer(starter_->beginning());
   pollfd polls[] = {{channel_.socket(), POLLIN, 0}, {wake.get(), POLLIN, 0}};
   if (::poll(polls, 2, int(beginning_->remainingTime())) == 0) yield();
 }

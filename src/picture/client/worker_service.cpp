@@ -51,8 +51,8 @@ Result<void> WorkerService::start() {
   return starter_->start();
 }
 
-void WorkerService::yieldToWindows() {
-  starter_->setNice(kNicerThanFrames);
+void WorkerService::yieldToWindows(std::chrono::milliseconds beginning) {
+  starter_->setNice(kNicerThanFrames, beginning);
 }
 
 ForkRequest WorkerService::processFor(PictureKind kind, const PictureLimits& limits) const {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <memory>
 #include <mutex>
 
@@ -33,8 +34,10 @@ class WorkerService final : public PictureService {
   /// again by every call.
   Result<void> start();
   /// For programs with a window: pictures that are drawn must not take the processor from frames that are
-  /// shown. The first picture of a document comes at our own priority, unless it takes its time.
-  void yieldToWindows();
+  /// shown. The first picture of a document comes at our own priority, unless it takes longer than
+  /// `beginning`: on a machine where everything is busy it would not come for a long time otherwise, and
+  /// nobody zooms before it is there.
+  void yieldToWindows(std::chrono::milliseconds beginning = std::chrono::seconds(1));
   /// Makes a process ready for a document of this kind that is expected; for PostScript its interpreter
   /// begins to start. The next open() with this kind and these limits takes it. Returns at once.
   void prepare(PictureKind kind, const PictureLimits& limits = {});

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <map>
 #include <memory>
@@ -60,10 +61,14 @@ class WorkerStarter {
   /// Instead of take(): the process shall be killed as soon as it is known.
   void abandon(const Ticket& ticket);
 
-  /// How much nicer than us its processes are once their first picture is there: 0 to 19, as setpriority(2)
-  /// has it. Those who are connected with them see to it.
-  void setNice(int nice) { nice_ = nice; }
+  /// How much nicer than us its processes are once their first picture is there or `beginning` has gone by: 0
+  /// to 19, as setpriority(2) has it. Those who are connected with them see to it.
+  void setNice(int nice, std::chrono::milliseconds beginning) {
+    beginning_ = beginning;
+    nice_ = nice;
+  }
   [[nodiscard]] int nice() const { return nice_; }
+  [[nodiscard]] std::chrono::milliseconds beginning() const { return beginning_; }
 
   /// Process number of the warm program, 0 when it does not run. For tests and for --sandbox-status.
   [[nodiscard]] qint64 pid() const;
@@ -83,6 +88,7 @@ class WorkerStarter {
 
   const QString program_;
   std::atomic<int> nice_ = 0;
+  std::atomic<std::chrono::milliseconds> beginning_ = std::chrono::milliseconds(0);
   mutable std::mutex mutex_;
   // Guarded by the mutex.
   std::shared_ptr<MessageChannel> control_ = std::make_shared<MessageChannel>();  ///< never null

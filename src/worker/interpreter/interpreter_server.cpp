@@ -4,6 +4,7 @@
 
 #include <poll.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -54,6 +55,7 @@ PostScriptInterpreter::Task InterpreterServer::serve() {
       isAtRest_ = true;
     }
     buryWhoMustGo(polls);
+    for (Child& child : children_) yieldWithAsker(child);
     if (polls[0].revents == 0) continue;
     isAtRest_ = false;
     if (const auto task = takeRequest()) return *task;
@@ -71,6 +73,16 @@ void InterpreterServer::buryWhoMustGo(const std::vector<pollfd>& polls) {
       continue;
     children_.erase(children_.begin() + std::ptrdiff_t(i - 1));
   }
+}
+
+// Nobody but us may give it another priority, and whoever waits for its pages knows no interpreter.
+void InterpreterServer::yieldWithAsker(Child& child) {
+  if (child.asker <= 0) return;
+  errno = 0;
+  const int nice = ::getpriority(PRIO_PROCESS, id_t(child.asker));
+  if (errno != 0 || nice <= child.nice) return;
+  child.nice = nice;
+  ::setpriority(PRIO_PROCESS, id_t(child.pid), nice);
 }
 
 bool InterpreterServer::hasRoomFor(int asker) const {
@@ -102,9 +114,11 @@ std::optional<PostScriptInterpreter::Task> InterpreterServer::fork(InterpreterRe
               std::move(request.outcome),
               folder,
               ScratchWatch(QFile::decodeName(folder)),
-              request.asker};
+              request.asker,
+              ::getpriority(PRIO_PROCESS, id_t(self))};
   if (pid > 0) ::setpgid(pid, pid);
   if (child.pidfd.valid()) {
+    yieldWithAsker(child);
     tell(child.outcome, kInterpreterBegun);
     children_.push_back(std::move(child));
   } else if (pid > 0) {

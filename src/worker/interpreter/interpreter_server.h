@@ -16,7 +16,7 @@ namespace norvex {
 
 /// Reads no byte of a document, has one thread, ends when nobody can ask any more. An interpreter is killed
 /// when nobody waits for its outcome any more or when its folder holds too much, and its scratch folder is
-/// removed, whichever way it ended.
+/// removed, whichever way it ended. It yields to others once the process that asked for it does.
 class InterpreterServer {
  public:
   /// `taking`: of an InterpreterConnection. Scratch folders are made inside `scratchRoot`, which exists and
@@ -34,6 +34,7 @@ class InterpreterServer {
     QByteArray scratchFolder;
     ScratchWatch scratch;
     int asker = 0;
+    int nice = 0;  ///< as setpriority(2) has it
   };
   /// True if nobody has as many as there may be.
   [[nodiscard]] bool hasRoomFor(int asker) const;
@@ -42,6 +43,7 @@ class InterpreterServer {
   std::optional<PostScriptInterpreter::Task> fork(InterpreterRequest request);
   static void becomeInterpreter(int parent, const InterpreterRequest& request,
                                 const QByteArray& scratchFolder);
+  static void yieldWithAsker(Child& child);
   /// Ends it. `told`: what whoever waits is told in place of its status.
   static void bury(Child& child, std::optional<InterpreterOutcome> told = std::nullopt);
   /// Those that have ended, that nobody waits for, or that fill the disk. `polls`: two for each child, behind

@@ -9,6 +9,7 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 
+#include <algorithm>
 #include <csignal>
 
 #include "kit/forked_check.h"
@@ -387,6 +388,22 @@ class InterpreterProgramTest : public QObject {
       return kit::childrenOf(server).size() == qsizetype(limits::maximumInterpretersOfOneAsker) - 1;
     }));
     QVERIFY(interpreters.saidBy("(room again) =").contains("room again\n"));
+  }
+
+  void anInterpreterYieldsOnceWhoeverAskedForItDoes() {
+    Interpreters interpreters;
+    const int server = interpreters.program().pid();
+    const int told = kit::inForkedChild([&] {
+      const int before = ::getpriority(PRIO_PROCESS, 0), yielding = std::min(19, before + 3);
+      const auto first = GhostscriptChild::fork(interpreters.program().asking(), {});
+      if (!kit::eventually([&] { return kit::childrenOf(server).size() == 1; })) return 1;
+      const auto interpreter = id_t(kit::childrenOf(server).first());
+      if (::getpriority(PRIO_PROCESS, interpreter) != before) return 2;
+      ::setpriority(PRIO_PROCESS, 0, yielding);
+      if (!kit::eventually([&] { return ::getpriority(PRIO_PROCESS, interpreter) == yielding; })) return 3;
+      return ::getpriority(PRIO_PROCESS, id_t(server)) == before ? 0 : 4;
+    });
+    QCOMPARE(told, 0);
   }
 
   void oneThatCrashesTakesNobodyAlong() {

@@ -2108,6 +2108,10 @@
         <translation>„%1“ dient zum Tippen und zum Bewegen des Bildes. Nehmen Sie Strg oder Alt dazu, oder eine Funktionstaste.</translation>
     </message>
     <message>
+        <source>“%1” cannot be written, and nothing was changed.</source>
+        <translation>„%1“ kann nicht geschrieben werden; es wurde nichts geändert.</translation>
+    </message>
+    <message>
         <source>“%1” belongs to “%2” already, and nothing was changed.</source>
         <translation>„%1“ gehört schon zu „%2“; es wurde nichts geändert.</translation>
     </message>

@@ -2108,6 +2108,10 @@
         <translation>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</translation>
     </message>
     <message>
+        <source>“%1” cannot be written, and nothing was changed.</source>
+        <translation>“%1” cannot be written, and nothing was changed.</translation>
+    </message>
+    <message>
         <source>“%1” belongs to “%2” already, and nothing was changed.</source>
         <translation>“%1” belongs to “%2” already, and nothing was changed.</translation>
     </message>

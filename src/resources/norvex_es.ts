@@ -2108,6 +2108,10 @@
         <translation>«%1» sirve para escribir y para mover la imagen. Añada Ctrl o Alt, o elija una tecla de función.</translation>
     </message>
     <message>
+        <source>“%1” cannot be written, and nothing was changed.</source>
+        <translation>No se puede escribir «%1»; no se ha cambiado nada.</translation>
+    </message>
+    <message>
         <source>“%1” belongs to “%2” already, and nothing was changed.</source>
         <translation>«%1» ya pertenece a «%2»; no se ha cambiado nada.</translation>
     </message>

@@ -2108,6 +2108,10 @@
         <translation>« %1 » sert à écrire et à déplacer l’image. Ajoutez Ctrl ou Alt, ou prenez une touche de fonction.</translation>
     </message>
     <message>
+        <source>“%1” cannot be written, and nothing was changed.</source>
+        <translation>Impossible d’écrire « %1 » ; rien n’a été modifié.</translation>
+    </message>
+    <message>
         <source>“%1” belongs to “%2” already, and nothing was changed.</source>
         <translation>« %1 » appartient déjà à « %2 » ; rien n’a été modifié.</translation>
     </message>

@@ -2108,6 +2108,10 @@
         <translation>「%1」は入力と画像の移動に使います。Ctrl か Alt と組み合わせるか、ファンクションキーを使ってください。</translation>
     </message>
     <message>
+        <source>“%1” cannot be written, and nothing was changed.</source>
+        <translation>「%1」に書き込めません。変更しませんでした。</translation>
+    </message>
+    <message>
         <source>“%1” belongs to “%2” already, and nothing was changed.</source>
         <translation>「%1」は既に「%2」に割り当てられています。変更しませんでした。</translation>
     </message>

@@ -2108,6 +2108,10 @@
         <translation>“%1”用于输入和移动图片。请与 Ctrl 或 Alt 组合，或使用功能键。</translation>
     </message>
     <message>
+        <source>“%1” cannot be written, and nothing was changed.</source>
+        <translation>无法写入“%1”，未作任何更改。</translation>
+    </message>
+    <message>
         <source>“%1” belongs to “%2” already, and nothing was changed.</source>
         <translation>“%1”已属于“%2”，未作任何更改。</translation>
     </message>

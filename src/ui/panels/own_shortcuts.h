@@ -9,7 +9,10 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
+
 class QMenu;
+class QSettings;
 
 namespace norvex {
 
@@ -32,11 +35,13 @@ class OwnShortcuts final : public QObject {
                                               const QKeySequence& keys);
   /// False: commands without a name keep their keys.
   [[nodiscard]] static bool mayChange(const QAction& command);
-  /// An empty list: the command has no keys.
-  void set(const QAction& command, const QList<QKeySequence>& keys);
-  /// The keys that the command came with; of every command.
-  void reset(const QAction& command);
-  void resetAll();
+  /// An empty list: the command has no keys. Like the two below it answers why nothing was changed, a
+  /// sentence: mostly that the file cannot be written. Empty: it is done.
+  [[nodiscard]] QString set(const QAction& command, const QList<QKeySequence>& keys);
+  /// The keys that the command came with, unless another command of the window has one of them now.
+  [[nodiscard]] QString reset(const QWidget& window, const QAction& command);
+  /// Those of every command.
+  [[nodiscard]] QString resetAll();
   [[nodiscard]] bool isOwn(const QAction& command) const;
   [[nodiscard]] bool hasAny() const;
 
@@ -46,6 +51,7 @@ class OwnShortcuts final : public QObject {
 
  private:
   void applyToAll();
+  QString write(const std::function<void(QSettings&)>& change);
   QList<QPointer<QWidget>> windows_;
 };
 

@@ -115,11 +115,11 @@ void ShortcutPanel::addKeys(QVBoxLayout& column) {
   connect(keys_, &QKeySequenceEdit::keySequenceChanged, this, &ShortcutPanel::take);
   connect(remove_, &QPushButton::clicked, this, [this] {
     tell({});
-    if (const QAction* command = list_->command()) OwnShortcuts::shared().set(*command, {});
+    if (const QAction* command = list_->command()) tell(OwnShortcuts::shared().set(*command, {}));
   });
   connect(reset_, &QPushButton::clicked, this, [this] {
     tell({});
-    if (const QAction* command = list_->command()) OwnShortcuts::shared().reset(*command);
+    if (const QAction* command = list_->command()) tell(OwnShortcuts::shared().reset(window_, *command));
   });
 }
 
@@ -130,10 +130,7 @@ void ShortcutPanel::addButtons(QVBoxLayout& column) {
   resetAll_->setObjectName(QStringLiteral("shortcutResetAll"));
   resetAll_->setAutoDefault(false);
   column.addWidget(buttons);
-  connect(resetAll_, &QPushButton::clicked, this, [this] {
-    tell({});
-    OwnShortcuts::shared().resetAll();
-  });
+  connect(resetAll_, &QPushButton::clicked, this, [this] { tell(OwnShortcuts::shared().resetAll()); });
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
 }
 
@@ -156,7 +153,7 @@ void ShortcutPanel::take(const QKeySequence& typed) {
   if (!command || typed.isEmpty()) return;
   const QKeySequence keys(typed[0]);  // commands are called with one chord
   tell(OwnShortcuts::complaintAbout(window_, *command, keys));
-  if (message_->text().isEmpty()) OwnShortcuts::shared().set(*command, {keys});
+  if (message_->text().isEmpty()) tell(OwnShortcuts::shared().set(*command, {keys}));
   showCommand();
 }
 

@@ -191,6 +191,8 @@ class OwnShortcutsTest : public QObject {
     QTest::newRow("a letter") << QByteArray("[keys]\ncopyAction=A\n");
     QTest::newRow("another command's") << QByteArray("[keys]\ncopyAction=Ctrl+V\n");
     QTest::newRow("one for two") << QByteArray("[keys]\ncopyAction=F12\npasteAction=F12\n");
+    QTest::newRow("two chords") << QByteArray("[keys]\ncopyAction=\"Ctrl+K, Ctrl+V\"\n");
+    QTest::newRow("a menu's") << QByteArray("[keys]\ncopyAction=Alt+E\n");
     QTest::newRow("too many") << QByteArray("[keys]\ncopyAction=F1,F2,F3,F5,F6,F7,F8,F9,F10,F11\n");
     QTest::newRow("no settings") << QByteArray("\0\xff\x01[[[", 6);
   }
@@ -202,6 +204,47 @@ class OwnShortcutsTest : public QObject {
     QVERIFY(w.copy->shortcut() == kCopy || w.copy->shortcut() == QKeySequence(Qt::Key_F12));
     QVERIFY(!w.paste->shortcuts().isEmpty());
     for (const QKeySequence& keys : all) QCOMPARE(all.count(keys), qsizetype(1));
+  }
+
+  void whoeverIsRefusedItsOwnKeysGetsNoKeysThatAnotherHas() {
+    writeFile("[keys]\ncopyAction=Ctrl+V\npasteAction=F4\n");
+    Window w;
+    QCOMPARE(w.copy->shortcuts(), QList<QKeySequence>{kPaste});
+    QCOMPARE(w.paste->shortcuts(), QList<QKeySequence>());
+  }
+
+  void theDefaultDoesNotComeBackWhileAnotherCommandHasIt() {
+    Window w;
+    QCOMPARE(OwnShortcuts::shared().set(*w.paste, {}), QString());
+    QCOMPARE(OwnShortcuts::shared().set(*w.copy, {kPaste}), QString());
+    w.choose("More: Paste");
+    w.child<QPushButton>("shortcutReset")->click();
+    QCOMPARE(w.told(), QString("“Ctrl+V” belongs to “Copy” already, and nothing was changed."));
+    QVERIFY(w.paste->shortcuts().isEmpty());
+    QCOMPARE(w.copy->shortcuts(), QList<QKeySequence>{kPaste});
+    w.choose("Copy");
+    w.child<QPushButton>("shortcutReset")->click();
+    w.choose("More: Paste");
+    w.child<QPushButton>("shortcutReset")->click();
+    QCOMPARE(w.told(), QString());
+    QCOMPARE(w.paste->shortcut(), kPaste);
+  }
+
+  void keysThatCannotBeKeptAreToldAndNotTaken() {
+    QFile inTheWay(settings_->filePath("norvex"));  // of the folder
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    Window w;
+    w.choose("Copy");
+    w.type(kOwn);
+    QVERIFY2(w.told().endsWith("shortcuts.ini” cannot be written, and nothing was changed."),
+             qPrintable(w.told()));
+    QCOMPARE(w.copy->shortcut(), kCopy);
+    QCOMPARE(w.child<QKeySequenceEdit>("shortcutKeys")->keySequence(), kCopy);
+    Window later;
+    QCOMPARE(later.copy->shortcut(), kCopy);
+    w.child<QPushButton>("shortcutRemove")->click();
+    QVERIFY2(w.told().contains("cannot be written"), qPrintable(w.told()));
+    QCOMPARE(w.copy->shortcut(), kCopy);
   }
 
   void toolTipsShowTheKeysOfNow() {
@@ -218,9 +261,9 @@ class OwnShortcutsTest : public QObject {
       return QToolTip::text();
     };
     QCOMPARE(shown(), QString("Copy it (Ctrl+C)"));
-    OwnShortcuts::shared().set(*w.copy, {kOwn});
+    QVERIFY(OwnShortcuts::shared().set(*w.copy, {kOwn}).isEmpty());
     QCOMPARE(shown(), QString("Copy it (Ctrl+Alt+K)"));
-    OwnShortcuts::shared().set(*w.copy, {});
+    QVERIFY(OwnShortcuts::shared().set(*w.copy, {}).isEmpty());
     QCOMPARE(shown(), QString("Copy it"));
     QCOMPARE(w.copy->toolTip(), QString("Copy it"));
   }

@@ -73,9 +73,14 @@ QString plainNumber(const QString& text) {
 std::optional<double> NumberFormat::number(const QString& text, const QLocale& locale) {
   QString plain = plainNumber(text);
   const QString group = plainNumber(locale.groupSeparator()), decimal = plainNumber(locale.decimalPoint());
-  if (!group.isEmpty() && (plain.contains(decimal) || plain.count(group) > 1)) plain.remove(group);
-  plain.replace(decimal, QStringLiteral("."));
-  if (!plain.contains(QChar('.'))) plain.replace(QChar(','), QChar('.'));
+  const QChar point('.'), comma(',');
+  if (group != point && group != comma) plain.remove(group);
+  if (decimal != comma) plain.replace(decimal, point);
+  if (plain.contains(point) && plain.contains(comma))
+    plain.remove(plain.lastIndexOf(point) > plain.lastIndexOf(comma) ? comma : point);
+  else if (plain.count(group) > 1)
+    plain.remove(group);
+  plain.replace(comma, point);
   bool ok = false;
   const double value = plain.toDouble(&ok);
   if (!ok || !std::isfinite(value)) return std::nullopt;

@@ -19,8 +19,8 @@ class NumberFormat {
 
   [[nodiscard]] QString string(double value, const QLocale& locale = QLocale()) const;
   /// What string() shows in that locale reads back; beside it a single point or comma is the decimal sign
-  /// everywhere, so that a number from elsewhere is understood. Spaces are ignored, full-width digits are
-  /// digits. Nothing: not a (finite) number.
+  /// everywhere, and of both the one behind, so that a number from elsewhere is understood. Spaces are
+  /// ignored, full-width digits are digits. Nothing: not a (finite) number.
   [[nodiscard]] static std::optional<double> number(const QString& text, const QLocale& locale = QLocale());
 
  private:

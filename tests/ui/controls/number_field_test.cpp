@@ -72,6 +72,20 @@ class NumberFieldTest : public QObject {
         QCOMPARE(NumberFormat::number(typed, QLocale(name)).value(), 45.5);
   }
 
+  void ofBothSignsTheOneBehindIsTheDecimalSign() {
+    for (const char* name : {"de_DE", "fr_FR", "de_CH", "ja_JP", "C"})
+      for (const char* typed : {"1,234.5", "1.234,5"})
+        QCOMPARE(NumberFormat::number(QString::fromLatin1(typed), QLocale(name)).value(), 1234.5);
+    for (const char* wrong : {"1.234,5.6", "1,234.5,6", "1,2.3.4"})
+      QVERIFY2(!NumberFormat::number(QString::fromLatin1(wrong), QLocale("de_DE")), wrong);
+  }
+
+  void aGroupSignThatCanBeNothingElseIsPassedOver() {
+    QCOMPARE(NumberFormat::number("1\u2019234", QLocale("de_CH")).value(), 1234.0);
+    QCOMPARE(NumberFormat::number("1\u202F234", QLocale("fr_FR")).value(), 1234.0);
+    QCOMPARE(NumberFormat::number("1.234.567", QLocale("de_DE")).value(), 1234567.0);
+  }
+
   void anAngleIsTypedAndShownInTheLocale() {
     const QLocale before;
     QLocale::setDefault(QLocale("de_DE"));

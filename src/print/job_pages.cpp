@@ -14,7 +14,13 @@ Result<QList<JobPage>> chosenPages(const PrintSource& source, const NSPrintInfo&
     return QList<JobPage>{{source.shown, source.shownPage, {}}};
   const bool range = info.documentPages() == DocumentPages::Range;
   const int first = range ? info.firstDocumentPage() : 1;
-  const int last = range ? std::min(info.lastDocumentPage(), count) : count;
+  const int there = std::max(count, source.pageCount);
+  const int last = range ? std::min(info.lastDocumentPage(), there) : there;
+  if (last > count && first <= last)
+    return Error{ErrorKind::Limit,
+                 QStringLiteral("the document has %1 pages, and only the first %2 of them can be printed")
+                     .arg(there)
+                     .arg(count)};
   QList<JobPage> pages;
   for (int page = first; page <= last; ++page) pages << JobPage{source.pages.at(page - 1), page - 1, {}};
   if (!pages.isEmpty()) return pages;

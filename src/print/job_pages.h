@@ -27,7 +27,7 @@ struct SheetPlace {
 class JobPages {
  public:
   /// Those pages of the source that the settings ask for. Fails as paginate(), for a range without a page,
-  /// and for more than limits::maximumSheets sheets together.
+  /// for pages behind those that the source knows, and for more than limits::maximumSheets sheets together.
   [[nodiscard]] static Result<JobPages> of(const PrintSource& source, const NSPrintInfo& info);
 
   /// At least one.

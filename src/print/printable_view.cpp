@@ -58,6 +58,7 @@ PrintSource PrintableNorvexView::printSource() const {
   if (!document || document->pageCount() < 2) return source;
   source.pages = pagesOf(document, rotate);
   source.shownPage = document->page();
+  source.pageCount = document->pageCount();
   return source;
 }
 

@@ -30,6 +30,7 @@ struct PrintSource {
   /// Every page of a document with several, as it would be shown; empty: there is nothing but what is shown.
   QList<PrintPage> pages = {};
   int shownPage = 0;  ///< the one of them that is `shown`; from 0
+  int pageCount = 0;  ///< of the document: more than `pages` where there are too many to know them all
 };
 
 /// The seam between the print operation and the views that can be printed.

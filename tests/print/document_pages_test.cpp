@@ -151,6 +151,29 @@ class DocumentPagesTest : public QObject {
     QCOMPARE(words().count("A book.pdf"), qsizetype(2));
   }
 
+  void pagesBehindThoseThatAreKnownAreRefused() {
+    PrintSource source;
+    source.shown.size = {100, 100};
+    for (int i = 0; i < 3; ++i) source.pages << PrintPage{{100, 100}, {}};
+    source.pageCount = 5;
+    NSPrintInfo info = a4();
+    QVERIFY(JobPages::of(source, info).ok());
+    const auto isRefused = [&] {
+      const auto job = JobPages::of(source, info);
+      return !job && job.error().kind == ErrorKind::Limit &&
+             job.error().message == "the document has 5 pages, and only the first 3 of them can be printed";
+    };
+    info.setDocumentPages(DocumentPages::All);
+    QVERIFY(isRefused());
+    info.setDocumentPageRange(2, 4);
+    QVERIFY(isRefused());
+    info.setDocumentPageRange(2, 3);
+    QCOMPARE(JobPages::of(source, info)->sheetCount(), 2);
+    info.setDocumentPages(DocumentPages::All);
+    source.pageCount = 3;
+    QCOMPARE(JobPages::of(source, info)->sheetCount(), 3);
+  }
+
   void moreSheetsThanAJobMayHaveAreRefused() {
     PrintSource source;
     source.shown.size = {100, 100};

@@ -25,12 +25,14 @@ QSpinBox* pageField(const QString& name, const QString& title, int count, int va
 
 }  // namespace
 
-DocumentPageControls::DocumentPageControls(int count, int shown, const NSPrintInfo& info, QFormLayout* form,
-                                           QObject* parent)
+DocumentPageControls::DocumentPageControls(const PrintSource& source, const NSPrintInfo& info,
+                                           QFormLayout* form, QObject* parent)
     : QObject(parent), which_(new QComboBox), range_(new QWidget) {
+  const int count = int(source.pages.size()), shown = source.shownPage;
   which_->setObjectName(QStringLiteral("documentPages"));
   which_->addItem(localizedString("The shown page (%1)").arg(shown + 1), int(DocumentPages::Shown));
-  which_->addItem(localizedString("All %1 pages").arg(count), int(DocumentPages::All));
+  which_->addItem(localizedString("All %1 pages").arg(std::max(count, source.pageCount)),
+                  int(DocumentPages::All));
   which_->addItem(localizedString("Some pages"), int(DocumentPages::Range));
   which_->setCurrentIndex(which_->findData(int(info.documentPages())));
   const bool ranged = info.documentPages() == DocumentPages::Range;
@@ -69,6 +71,7 @@ void DocumentPageControls::showRange() {
 
 void DocumentPageControls::applyTo(NSPrintInfo& info) const {
   const auto which = DocumentPages(which_->currentData().toInt());
+  for (QSpinBox* field : {first_, last_}) field->interpretText();  // one may still be typed into
   if (which == DocumentPages::Range)
     info.setDocumentPageRange(first_->value(), last_->value());
   else

@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include "print/print_info.h"
+#include "print/printable_view.h"
 
 class QComboBox;
 class QFormLayout;
@@ -16,11 +17,11 @@ namespace norvex {
 class DocumentPageControls final : public QObject {
   Q_OBJECT
  public:
-  /// Adds its row to `form`, which outlives this. `count`: of the document's pages; `shown`: the one in the
-  /// window, from 0.
-  DocumentPageControls(int count, int shown, const NSPrintInfo& info, QFormLayout* form, QObject* parent);
+  /// Adds its row to `form`, which outlives this. `source`: of a document with several pages.
+  DocumentPageControls(const PrintSource& source, const NSPrintInfo& info, QFormLayout* form,
+                       QObject* parent);
 
-  /// Writes what is chosen, and nothing else, into `info`.
+  /// Writes what is chosen and typed, and nothing else, into `info`.
   void applyTo(NSPrintInfo& info) const;
 
  signals:

@@ -142,8 +142,7 @@ void PrintPanel::addCopies(QFormLayout* form) {
 
 void PrintPanel::addPages(QFormLayout* form) {
   if (source_.pages.size() > 1) {
-    documentPages_ =
-        new DocumentPageControls(int(source_.pages.size()), source_.shownPage, info_, form, this);
+    documentPages_ = new DocumentPageControls(source_, info_, form, this);
     connect(documentPages_, &DocumentPageControls::changed, this, &PrintPanel::takeChoices);
   }
   allPages_ = new QRadioButton(localizedString("&All"));
@@ -344,6 +343,8 @@ void PrintPanel::changeEvent(QEvent* event) {
 }
 
 void PrintPanel::accept() {
+  takeChoices();  // a mnemonic presses the button while a number is still typed
+  if (!pages_) return;
   info_.setJobSavingPath(QString());
   if (savesToFile()) {
     const QString path = askForFile(source_.jobTitle + u'.' + kSuffix);

@@ -28,14 +28,15 @@ namespace {
 class Drawing final : public PrintableView {
  public:
   using Picture = std::function<Result<PictureBytes>(const CancelToken&)>;
-  explicit Drawing(const QSizeF& size, Picture picture = {}, QList<QSizeF> pages = {})
-      : size_(size), picture_(std::move(picture)), pages_(std::move(pages)) {}
+  explicit Drawing(const QSizeF& size, Picture picture = {}, QList<QSizeF> pages = {}, int pageCount = 0)
+      : size_(size), picture_(std::move(picture)), pages_(std::move(pages)), pageCount_(pageCount) {}
   [[nodiscard]] PrintSource printSource() const override {
     PrintSource source;
     source.shown.size = size_;
     source.shown.picture = picture_;
     for (const QSizeF& page : pages_) source.pages << PrintPage{page, picture_};
     source.shownPage = 1;
+    source.pageCount = pageCount_;
     source.jobTitle = "A drawing";
     source.header = [] { return std::optional(defaultPageLine()); };
     source.footer = [] { return std::optional(defaultPageLine()); };
@@ -46,6 +47,7 @@ class Drawing final : public PrintableView {
   QSizeF size_;
   Picture picture_;
   QList<QSizeF> pages_;  ///< of a document with several; the second is the one that is shown
+  int pageCount_;
 };
 
 NSPrintInfo a4() {
@@ -71,12 +73,14 @@ class PrintPanelTest : public QObject {
   std::unique_ptr<PrintPanel> panel_;
   Drawing::Picture picture_;  ///< of the next panel; none: blank pages
   QList<QSizeF> pages_;       ///< of the next panel's document; none: there is one
+  int pageCount_ = 0;         ///< of it; 0: no more than those
 
   void open(const QSizeF& size, const QList<Printer>& printers = kPrinters, const NSPrintInfo& info = a4()) {
     panel_.reset();
     spooler_ = std::make_unique<MemorySpooler>(printers);
-    operation_ = NSPrintOperation::printOperationWithView(std::make_unique<Drawing>(size, picture_, pages_),
-                                                          info, {&service_, spooler_.get(), nullptr});
+    operation_ = NSPrintOperation::printOperationWithView(
+        std::make_unique<Drawing>(size, picture_, pages_, pageCount_), info,
+        {&service_, spooler_.get(), nullptr});
     operation_->printPanel().setOptions(operation_->printPanel().options() | 28);
     panel_ = std::make_unique<PrintPanel>(*operation_, *spooler_, nullptr);
     panel_->show();
@@ -100,6 +104,7 @@ class PrintPanelTest : public QObject {
     panel_.reset();
     picture_ = {};
     pages_ = {};
+    pageCount_ = 0;
   }
 
   void theDefaultPrinterIsChosenAndItsStateIsTold() {
@@ -232,6 +237,37 @@ class PrintPanelTest : public QObject {
     QCOMPARE(operation_->printInfo().documentPages(), DocumentPages::Range);
     QCOMPARE(operation_->printInfo().firstDocumentPage(), 1);
     QCOMPARE(operation_->printInfo().lastDocumentPage(), 1);
+  }
+
+  void aRangeThatIsStillTypedIsPrinted() {
+    pages_ = QList<QSizeF>(9, QSizeF(100, 100));
+    open({100, 100});
+    choose("printer", "office");
+    auto* which = child<QComboBox>("documentPages");
+    which->setCurrentIndex(which->findData(int(DocumentPages::Range)));
+    auto* first = child<QSpinBox>("firstDocumentPage");
+    first->selectAll();
+    QTest::keyClicks(first, "7");
+    QVERIFY(first->value() != 7);  // it is being typed
+    child<QPushButton>("print")->click();
+    QCOMPARE(panel_->result(), int(QDialog::Accepted));
+    QCOMPARE(operation_->printInfo().firstDocumentPage(), 7);
+    QCOMPARE(operation_->printInfo().lastDocumentPage(), 9);
+  }
+
+  void pagesThatAreTooManyAreCountedAndNotLeftOutUnsaid() {
+    pages_ = QList<QSizeF>(3, QSizeF(100, 100));
+    pageCount_ = 5;
+    open({100, 100});
+    choose("printer", "office");
+    auto* which = child<QComboBox>("documentPages");
+    const int all = which->findData(int(DocumentPages::All));
+    QCOMPARE(which->itemText(all), QString("All 5 pages"));
+    which->setCurrentIndex(all);
+    QVERIFY(!child<QPushButton>("print")->isEnabled());
+    which->setCurrentIndex(which->findData(int(DocumentPages::Range)));
+    QVERIFY(child<QPushButton>("print")->isEnabled());
+    QCOMPARE(child<QSpinBox>("lastDocumentPage")->maximum(), 3);
   }
 
   void aDocumentOfOnePageHasNoSuchChoice() {

@@ -2016,6 +2016,18 @@
         <translation>Farben als graue Auszüge</translation>
     </message>
     <message>
+        <source>The picture is separated into plates: %1</source>
+        <translation>Das Bild ist in Druckplatten aufgeteilt: %1</translation>
+    </message>
+    <message>
+        <source>Windows metafile, %1</source>
+        <translation>Windows-Metadatei, %1</translation>
+    </message>
+    <message>
+        <source>Keep text as text, with its fonts</source>
+        <translation>Text als Text behalten, mit seinen Schriften</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>Überdrucken simulieren</translation>
     </message>

@@ -2016,6 +2016,18 @@
         <translation>Inks as grey plates</translation>
     </message>
     <message>
+        <source>The picture is separated into plates: %1</source>
+        <translation>The picture is separated into plates: %1</translation>
+    </message>
+    <message>
+        <source>Windows metafile, %1</source>
+        <translation>Windows metafile, %1</translation>
+    </message>
+    <message>
+        <source>Keep text as text, with its fonts</source>
+        <translation>Keep text as text, with its fonts</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>Simulate overprinting</translation>
     </message>

@@ -2016,6 +2016,18 @@
         <translation>Tintas como planchas grises</translation>
     </message>
     <message>
+        <source>The picture is separated into plates: %1</source>
+        <translation>La imagen está separada en planchas: %1</translation>
+    </message>
+    <message>
+        <source>Windows metafile, %1</source>
+        <translation>Metarchivo de Windows, %1</translation>
+    </message>
+    <message>
+        <source>Keep text as text, with its fonts</source>
+        <translation>Conservar el texto como texto, con sus fuentes</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>Simular la sobreimpresión</translation>
     </message>

@@ -2016,6 +2016,18 @@
         <translation>Encres en plaques grises</translation>
     </message>
     <message>
+        <source>The picture is separated into plates: %1</source>
+        <translation>L’image est séparée en plaques : %1</translation>
+    </message>
+    <message>
+        <source>Windows metafile, %1</source>
+        <translation>Métafichier Windows, %1</translation>
+    </message>
+    <message>
+        <source>Keep text as text, with its fonts</source>
+        <translation>Garder le texte en texte, avec ses polices</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>Simuler la surimpression</translation>
     </message>

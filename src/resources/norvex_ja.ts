@@ -2016,6 +2016,18 @@
         <translation>インキをグレーの版で表示</translation>
     </message>
     <message>
+        <source>The picture is separated into plates: %1</source>
+        <translation>画像は版に分かれています: %1</translation>
+    </message>
+    <message>
+        <source>Windows metafile, %1</source>
+        <translation>Windows メタファイル、%1</translation>
+    </message>
+    <message>
+        <source>Keep text as text, with its fonts</source>
+        <translation>テキストをフォント付きのテキストのまま保つ</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>オーバープリントをシミュレート</translation>
     </message>

@@ -2016,6 +2016,18 @@
         <translation>以灰度印版显示油墨</translation>
     </message>
     <message>
+        <source>The picture is separated into plates: %1</source>
+        <translation>图像已分为印版：%1</translation>
+    </message>
+    <message>
+        <source>Windows metafile, %1</source>
+        <translation>Windows 图元文件，%1</translation>
+    </message>
+    <message>
+        <source>Keep text as text, with its fonts</source>
+        <translation>文本保持为文本并附带字体</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>模拟叠印</translation>
     </message>

@@ -3,7 +3,9 @@
 #include <QColor>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLocale>
 
+#include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "metadata/header_dictionary.h"
 #include "picture/bitmap_image.h"
@@ -124,6 +126,14 @@ void ContentsDisplay::showPreview(const DocumentContents& contents) {
     parts_.previewImageView()->setCompositingOperation(ZyImageView::SourceOver);
     parts_.previewImageView()->setImageFrameStyle(kFrameOfPreview);
     parts_.previewImageView()->setImage(toImage(preview.value<NSBitmapImageRep>()));
+    return;
+  }
+  if (contents.metafile) {
+    parts_.previewField->setText(
+        localizedString("Windows metafile, %1").arg(QLocale().formattedDataSize(contents.metafile->bytes)));
+    parts_.previewImageView()->setCompositingOperation(ZyImageView::SourceOver);
+    parts_.previewImageView()->setImageFrameStyle(kFrameOfPreview);
+    parts_.previewImageView()->setImage(toImage(contents.metafile->image));
     return;
   }
   parts_.previewField->setText(QStringLiteral("Image"));

@@ -1,5 +1,6 @@
 #include "window/document_contents.h"
 
+#include "metadata/dos_eps_header.h"
 #include "metadata/source_text.h"
 #include "picture/chosen_document.h"
 #include "picture/document_file.h"
@@ -51,6 +52,17 @@ struct Reader {
                                       if (!preview) return std::nullopt;
                                       return *preview;
                                     });
+    takeMetafile();
+  }
+
+  /// One that cannot be drawn is none: the picture is shown in its place.
+  void takeMetafile() {
+    if (contents.imageRep->pictureKind() != PictureKind::Eps || contents.header.contains(header::Preview))
+      return;
+    const QByteArrayView metafile = metafileOf(bytes);
+    if (metafile.isEmpty()) return;
+    if (const auto drawn = service.decodePreview(metafile.toByteArray(), cancel))
+      contents.metafile = MetafilePreview{*drawn, metafile.size()};
   }
 
   void takeRectangles(const NSImageRep* rep) {

@@ -21,13 +21,20 @@ namespace norvex {
 
 class StoppableProcess;
 
+/// A Windows metafile in the place of a preview.
+struct MetafilePreview {
+  NSBitmapImageRep image;
+  qint64 bytes = 0;  ///< of the metafile
+};
+
 /// Everything that is read from the file; controls are filled from it in one go.
 struct DocumentContents {
   DocumentKind kind = DocumentKind::Other;
-  std::shared_ptr<NSImageRep> imageRep;  ///< null: the file cannot be made into a picture
-  HeaderDictionary header;               ///< empty without a picture
-  QRectF pictureRectangle{0, 0, 0, 0};   ///< bounding box, PDF bounds or SVG bounds; zero without a picture
-  std::optional<QRectF> viewBox;         ///< SVG only; nothing: the document has none
+  std::shared_ptr<NSImageRep> imageRep;     ///< null: the file cannot be made into a picture
+  HeaderDictionary header;                  ///< empty without a picture
+  std::optional<MetafilePreview> metafile;  ///< of an EPS file that has no other preview
+  QRectF pictureRectangle{0, 0, 0, 0};  ///< bounding box, PDF bounds or SVG bounds; zero without a picture
+  std::optional<QRectF> viewBox;        ///< SVG only; nothing: the document has none
   QString sourceText;
   QString chosenEncoding;  ///< in which header and text are read; empty: in the one that was found
   std::optional<GuessedHeader> guess;         ///< of a source in no encoding

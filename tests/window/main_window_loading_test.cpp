@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QSignalSpy>
 #include <QToolButton>
 
@@ -193,6 +194,36 @@ class MainWindowLoadingTest : public QObject {
     fixture.service.setPicture(svgPicture(QRectF(0, 0, 1, 1), key(x), key(y)));
     MainWindowController& c = fixture.loaded(kSvg, "a.svg", UTTypeSVG().identifier());
     QCOMPARE(c.epsMatrix->backgroundColor(), color);
+  }
+
+  void aWindowsMetafileIsShownAndToldWithItsSize() {
+    WindowFixture fixture;
+    fixture.service.setPreview(smallPreview());
+    const QByteArray program = epsBytes(), metafile(3000, 'w');
+    QByteArray header = QByteArray("\xC5\xD0\xD3\xC6", 4);
+    for (const qsizetype value :
+         {qsizetype(30), program.size(), 30 + program.size(), metafile.size(), qsizetype(0), qsizetype(0)})
+      header += testdata::littleEndian(quint32(value));
+    header += "\xFF\xFF";
+    MainWindowController& c = fixture.loaded(header + program + metafile, "a.eps", NorvexEPSType);
+    QCOMPARE(c.previewField->text(), "Windows metafile, " + QLocale().formattedDataSize(3000));
+    QCOMPARE(c.previewImageView()->image().size(), QSize(4, 3));
+    // One that cannot be drawn is no preview.
+    WindowFixture other;
+    QCOMPARE(other.loaded(header + program + metafile, "a.eps", NorvexEPSType).previewField->text(),
+             QStringLiteral("Image"));
+  }
+
+  void thePlatesOfASeparatedPictureAreTold() {
+    WindowFixture fixture;
+    const QByteArray plates =
+        "%%PlateFile: (Cyan) EPS #02000 3000\n%%PlateFile: (Gold Foil) EPS Local gold.eps\n";
+    MainWindowController& c = fixture.loaded(epsBytes(plates), "a.eps", NorvexEPSType);
+    QVERIFY2(c.noteField->text().contains("The picture is separated into plates: Cyan (" +
+                                          QLocale().formattedDataSize(3000) + "), Gold Foil (gold.eps)."),
+             qPrintable(c.noteField->text()));
+    WindowFixture plain;
+    QVERIFY(!plain.loaded(epsBytes(), "a.eps", NorvexEPSType).noteField->text().contains("plates"));
   }
 
   void aPreviewInTheFileIsShown() {

@@ -25,6 +25,7 @@ struct ExportChoice {
   QColor background;                     ///< of pixels; invalid: what is not painted stays transparent
   std::optional<int> quality;       ///< 1 … 100, of formats that can lose some; nothing: the format's own
   int firstPage = 1, lastPage = 1;  ///< of Pages; from 1, in order
+  bool keepText = false;            ///< of an SVG: as text, with its fonts
   bool operator==(const ExportChoice&) const = default;
 };
 
@@ -39,6 +40,7 @@ struct ExportOffer {
   int pageCount = 1, shownPage = 0;  ///< of the document; from 0
   QString folder;                    ///< absolute; where the file goes at first
   QString name;                      ///< proposed, without extension
+  bool drawsSvg = true;              ///< false: an SVG stays the SVG that it is, text and all
 };
 
 }  // namespace norvex

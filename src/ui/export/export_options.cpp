@@ -70,6 +70,10 @@ QWidget* inRow(std::initializer_list<QWidget*> widgets, QWidget* parent) {
   return row;
 }
 
+bool isSvg(PictureFormat format) {
+  return format == PictureFormat::Svg || format == PictureFormat::Svgz;
+}
+
 }  // namespace
 
 ExportOptions::ExportOptions(const ExportOffer& offer, const ExportChoice& first, QWidget* parent)
@@ -83,6 +87,7 @@ ExportOptions::ExportOptions(const ExportOffer& offer, const ExportChoice& first
   addColors(first);
   addBackground(first);
   addQuality(first);
+  addText(first);
   formatChosen();
 }
 
@@ -230,8 +235,20 @@ void ExportOptions::addQuality(const ExportChoice& first) {
   connect(lossless_, &QCheckBox::toggled, this, &ExportOptions::formatChosen);
 }
 
+void ExportOptions::addText(const ExportChoice& first) {
+  text_ = new QCheckBox(localizedString("Keep text as text, with its fonts"), this);
+  text_->setObjectName(QStringLiteral("exportText"));
+  text_->setChecked(first.keepText);
+  form_->addRow(QString(), text_);
+  connect(text_, &QCheckBox::toggled, this, &ExportOptions::changed);
+}
+
 PictureFormat ExportOptions::format() const {
   return offer_.formats.at(std::max(0, formats_->currentIndex()));
+}
+
+bool ExportOptions::mayKeepText() const {
+  return offer_.drawsSvg && isSvg(format());
 }
 
 QSizeF ExportOptions::size() const {
@@ -251,6 +268,7 @@ ExportChoice ExportOptions::choice() const {
     choice.firstPage = firstPage_->value();
     choice.lastPage = lastPage_->value();
   }
+  choice.keepText = isSvg(chosen) && text_->isChecked();
   if (own > 0 || (own == Lossless && !lossless_->isChecked())) choice.quality = quality_->value();
   return choice;
 }
@@ -268,6 +286,7 @@ void ExportOptions::formatChosen() {
     form_->setRowVisible(row, raster);
   offerColors();
   form_->setRowVisible(losing_, own != NoQuality);
+  form_->setRowVisible(text_, mayKeepText());
   lossless_->setVisible(own == Lossless);
   allowPages(format() == PictureFormat::Pdf);
   form_->setRowVisible(pages_,

@@ -38,10 +38,12 @@ class ExportOptions final : public QWidget {
   void addPixels(const ExportChoice& first);
   void addBackground(const ExportChoice& first);
   void addQuality(const ExportChoice& first);
+  void addText(const ExportChoice& first);
   void addColors(const ExportChoice& first);
   /// Those that the format holds.
   void offerColors();
   [[nodiscard]] PictureFormat format() const;
+  [[nodiscard]] bool mayKeepText() const;
   void formatChosen();
   /// Only a PDF holds several pages.
   void allowPages(bool allowed);
@@ -55,7 +57,7 @@ class ExportOptions final : public QWidget {
   QSpinBox *wide_, *high_, *quality_;
   QSpinBox *firstPage_, *lastPage_;
   QWidget *pages_, *pixels_, *ground_, *losing_;
-  QCheckBox *filled_, *lossless_;
+  QCheckBox *filled_, *lossless_, *text_;
   ColorWell* color_;
 };
 

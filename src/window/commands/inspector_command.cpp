@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QMainWindow>
 #include <QPointer>
 #include <QScreen>
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/localized_string.h"
 #include "base/sentence.h"
 #include "base/waiting_threads.h"
 #include "display/norvex_view.h"
@@ -41,6 +43,17 @@ QString corners(const QRectF& box) {
   const auto number = [](double value) { return QString::number(value, 'g', 9); };
   return QStringList{number(box.left()), number(box.top()), number(box.right()), number(box.bottom())}.join(
       u' ');
+}
+
+/// A sentence about the plates of a separated picture; none without any.
+QStringList platesNote(const QList<EpsPlate>& plates) {
+  QStringList told;
+  for (const EpsPlate& plate : plates)
+    told << (plate.file.isEmpty()
+                 ? QStringLiteral("%1 (%2)").arg(plate.ink, QLocale().formattedDataSize(plate.length))
+                 : QStringLiteral("%1 (%2)").arg(plate.ink, plate.file));
+  if (told.isEmpty()) return {};
+  return {localizedString("The picture is separated into plates: %1").arg(told.join(QStringLiteral(", ")))};
 }
 
 }  // namespace
@@ -103,6 +116,7 @@ void InspectorCommand::showResources(const NSImageRep* rep) {
     EpsResources told = epsResources(eps->sourceBytes());
     fonts = std::move(told.fonts);
     colors = std::move(told.colors);
+    addNotes(platesNote(told.plates));
   }
   naming_.cancel();
   unnamed_.reset();

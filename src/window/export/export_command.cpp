@@ -62,6 +62,8 @@ ExportOffer offerOf(const WindowParts& parts) {
     offer.shownPage = pdf->page();
   }
   const QUrl url = parts.document() ? parts.document()->fileURL() : QUrl();
+  const NSImageRep* const rep = view.imageRep().get();
+  offer.drawsSvg = !rep || rep->pictureKind() != PictureKind::Svg;
   offer.folder = startFolder(url);
   offer.name = pathWithoutExtension(url.fileName());
   return offer;

@@ -31,6 +31,7 @@ ExportChoice storedExportChoice() {
                      .value_or(OutputColor::Rgb);
   const int quality = stored.value(QStringLiteral("quality")).toInt(&ok);
   if (ok && quality >= 1 && quality <= 100) choice.quality = quality;
+  choice.keepText = stored.value(QStringLiteral("text")).toBool();
   return choice;
 }
 
@@ -44,6 +45,8 @@ void storeExportChoice(const ExportChoice& choice) {
   }
   if (isRaster(choice.format))
     stored.setValue(QStringLiteral("color"), QString(latin1(nameOf(choice.color))));
+  if (choice.format == PictureFormat::Svg || choice.format == PictureFormat::Svgz)
+    stored.setValue(QStringLiteral("text"), choice.keepText);
   if (rowOf(choice.format).quality == NoQuality) return;
   if (choice.quality)
     stored.setValue(QStringLiteral("quality"), *choice.quality);

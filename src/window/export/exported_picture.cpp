@@ -67,6 +67,7 @@ ExportedPicture exportedPicture(const PictureSnapshot& snapshot, const ExportCho
   surroundings.raster = {choice.dpi, choice.background};
   surroundings.quality = choice.quality;
   surroundings.color = choice.color;
+  surroundings.keepText = choice.keepText;
   surroundings.region = regionOf(snapshot, choice.area);
   surroundings.onePage = !holdsPages(choice.area) && hasPages(*snapshot.imageRep);
   surroundings.subjectMayBeLeftOut = true;

@@ -57,6 +57,26 @@ class ExportDialogTest : public QObject {
     QCOMPARE(f.dialog.path(), QString("/pictures/Map 1.5.eps"));
   }
 
+  void textIsKeptInAnSvgWhereThatIsChosen() {
+    Shown f;
+    auto* keep = f.find<QCheckBox>("exportText");
+    f.choose(PictureFormat::Png);
+    QVERIFY(keep->isHidden());
+    f.choose(PictureFormat::Svg);
+    QVERIFY(!keep->isHidden() && !f.dialog.choice().keepText);
+    keep->click();
+    QVERIFY(f.dialog.choice().keepText);
+    f.choose(PictureFormat::Pdf);
+    QVERIFY(!f.dialog.choice().keepText);
+    // Of an SVG nothing is drawn that could be text.
+    ExportOffer own = offer();
+    own.drawsSvg = false;
+    ExportChoice svg;
+    svg.format = PictureFormat::Svg;
+    ExportDialog dialog(nullptr, own, svg);
+    QVERIFY(dialog.findChild<QCheckBox*>("exportText")->isHidden());
+  }
+
   void aTypedExtensionChoosesTheFormat() {
     Shown f;
     f.type("out2.svg");

@@ -2028,6 +2028,10 @@
         <translation>Text als Text behalten, mit seinen Schriften</translation>
     </message>
     <message>
+        <source>Show the inks in the picture</source>
+        <translation>Farben im Bild zeigen</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>Überdrucken simulieren</translation>
     </message>

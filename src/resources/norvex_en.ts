@@ -2028,6 +2028,10 @@
         <translation>Keep text as text, with its fonts</translation>
     </message>
     <message>
+        <source>Show the inks in the picture</source>
+        <translation>Show the inks in the picture</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>Simulate overprinting</translation>
     </message>

@@ -2028,6 +2028,10 @@
         <translation>Conservar el texto como texto, con sus fuentes</translation>
     </message>
     <message>
+        <source>Show the inks in the picture</source>
+        <translation>Mostrar las tintas en la imagen</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>Simular la sobreimpresión</translation>
     </message>

@@ -2028,6 +2028,10 @@
         <translation>Garder le texte en texte, avec ses polices</translation>
     </message>
     <message>
+        <source>Show the inks in the picture</source>
+        <translation>Montrer les encres dans l’image</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>Simuler la surimpression</translation>
     </message>

@@ -2028,6 +2028,10 @@
         <translation>テキストをフォント付きのテキストのまま保つ</translation>
     </message>
     <message>
+        <source>Show the inks in the picture</source>
+        <translation>インキを画像に表示</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>オーバープリントをシミュレート</translation>
     </message>

@@ -2028,6 +2028,10 @@
         <translation>文本保持为文本并附带字体</translation>
     </message>
     <message>
+        <source>Show the inks in the picture</source>
+        <translation>在图像中显示油墨</translation>
+    </message>
+    <message>
         <source>Simulate overprinting</source>
         <translation>模拟叠印</translation>
     </message>

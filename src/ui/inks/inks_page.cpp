@@ -54,6 +54,7 @@ InksPage::InksPage(QWidget* parent)
       all_(new QPushButton(localizedString("All Inks"), contents_)),
       plates_(new QCheckBox(localizedString("Inks as grey plates"), contents_)),
       overprint_(new QCheckBox(localizedString("Simulate overprinting"), contents_)),
+      inPicture_(new QCheckBox(localizedString("Show the inks in the picture"), contents_)),
       heat_(new QCheckBox(localizedString("Mark ink above"), contents_)),
       limit_(new QSpinBox(contents_)) {
   setObjectName(QStringLiteral("inksPage"));
@@ -73,6 +74,7 @@ InksPage::InksPage(QWidget* parent)
   column->addWidget(total_);
   column->addWidget(list_, 1);
   column->addLayout(makeButtons());
+  column->addWidget(inPicture_);
   column->addWidget(plates_);
   column->addWidget(overprint_);
   column->addLayout(makeOptions());
@@ -83,6 +85,7 @@ InksPage::InksPage(QWidget* parent)
   connect(view_, &SeparationView::pointed, this, &InksPage::pointed);
   connect(plates_, &QCheckBox::toggled, this, &InksPage::choose);
   connect(overprint_, &QCheckBox::toggled, this, &InksPage::overprintChanged);
+  connect(inPicture_, &QCheckBox::toggled, this, &InksPage::inPictureChanged);
 }
 
 void InksPage::makeList() {
@@ -201,6 +204,10 @@ InkChoice InksPage::choice() const {
 
 bool InksPage::simulatesOverprint() const {
   return overprint_->isChecked();
+}
+
+bool InksPage::isInPicture() const {
+  return inPicture_->isChecked();
 }
 
 void InksPage::choose() {

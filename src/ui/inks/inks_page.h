@@ -42,10 +42,13 @@ class InksPage final : public QWidget {
 
   [[nodiscard]] InkChoice choice() const;
   [[nodiscard]] bool simulatesOverprint() const;
+  /// The picture in the window is to be shown as these inks print it.
+  [[nodiscard]] bool isInPicture() const;
 
  signals:
   void choiceChanged();
   void overprintChanged();
+  void inPictureChanged();
   /// A pixel of the image that is shown, or (-1, -1).
   void pointed(QPoint pixel);
 
@@ -68,6 +71,7 @@ class InksPage final : public QWidget {
   QPushButton* all_;
   QCheckBox* plates_;
   QCheckBox* overprint_;
+  QCheckBox* inPicture_;
   QCheckBox* heat_;
   QSpinBox* limit_;
   QString most_;

@@ -1,6 +1,7 @@
 // NorvexViewWidget: the widget that a NorvexView is shown in.
 #pragma once
 
+#include <QList>
 #include <QPointer>
 #include <QPolygonF>
 #include <QTimer>
@@ -11,6 +12,7 @@
 #include "display/length_text.h"
 #include "display/norvex_view.h"
 #include "display/view_host.h"
+#include "ui/picture/picture_stand_in.h"
 #include "ui/picture/selection_handles.h"
 
 namespace norvex {
@@ -67,6 +69,13 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   /// crosshair over the part of the view that can be seen, and the usual pointer beside it.
   void setPointer(std::optional<Qt::CursorShape> shape);
 
+  /// Shows these above the picture and beneath the selection, the last one in front, turned and zoomed as the
+  /// picture is; of what else is done with the picture nothing changes. Empty: the picture itself.
+  void setStandIns(const QList<PictureStandIn>& standIns);
+  [[nodiscard]] const QList<PictureStandIn>& standIns() const { return standIns_; }
+  /// Picture coordinates → device pixels of this widget.
+  [[nodiscard]] QTransform pictureToDevice() const;
+
  signals:
   /// A drawing was made; tells in what time, in milliseconds (for measurements).
   void drawn(double milliseconds);
@@ -89,6 +98,7 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   [[nodiscard]] std::optional<Qt::Edges> handleAt(const QPointF& point) const;
   void drawSelectionAids(QPainter& painter) const;
   void drawBackground(QPainter& painter, const QRect& dirty);
+  void drawStandIns(QPainter& painter) const;
   /// The picture's outline as it is turned.
   [[nodiscard]] QPolygonF pageInWidget() const;
   void watchScreen();
@@ -107,6 +117,7 @@ class NorvexViewWidget final : public QWidget, public ViewHost {
   QRectF crosshair_;  ///< where the crosshair is shown; view coordinates
   std::optional<Qt::CursorShape> shape_;
   std::optional<Qt::Edges> held_;  ///< while a handle is dragged
+  QList<PictureStandIn> standIns_;
 };
 
 }  // namespace norvex

@@ -34,6 +34,37 @@ void NorvexViewWidget::drawBackground(QPainter& painter, const QRect& dirty) {
   if (view_.imageRep()) drawCheckerboard(painter, view & QRectF(dirty), palette());
 }
 
+void NorvexViewWidget::setStandIns(const QList<PictureStandIn>& standIns) {
+  if (standIns.isEmpty() && standIns_.isEmpty()) return;
+  standIns_ = standIns;
+  update();
+}
+
+QTransform NorvexViewWidget::pictureToDevice() const {
+  const double ratio = devicePixelRatioF();
+  return pictureToView(view_.imageSize(), view_.rotate()) * placement() * QTransform::fromScale(ratio, ratio);
+}
+
+// Smoothed: an image has more pixels than are shown, or fewer.
+void NorvexViewWidget::drawStandIns(QPainter& painter) const {
+  const QTransform toWidget = pictureToView(view_.imageSize(), view_.rotate()) * placement();
+  painter.save();
+  painter.resetTransform();
+  QPainterPath page;
+  page.addPolygon(pageInWidget());
+  painter.setClipPath(page, Qt::IntersectClip);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  for (const PictureStandIn& one : standIns_) {
+    if (one.image.isNull() || one.place.isEmpty()) continue;
+    const QTransform fromImage(one.place.width() / one.image.width(), 0, 0,
+                               -one.place.height() / one.image.height(), one.place.x(),
+                               one.place.y() + one.place.height());
+    painter.setTransform(fromImage * toWidget);
+    painter.drawImage(QPointF(0, 0), one.image);
+  }
+  painter.restore();
+}
+
 std::optional<SelectionHandles> NorvexViewWidget::handles() const {
   if (view_.selection().state() != Selection::State::Rectangle) return std::nullopt;
   const QRectF& selected = view_.selectRect();
@@ -80,6 +111,11 @@ void NorvexViewWidget::paintEvent(QPaintEvent* event) {
     painter.setTransform(toClip, true);
     const QRectF dirty = toClip.inverted().mapRect(QRectF(event->rect()));
     view_.drawRect(painter, dirty, DrawingDestination::Screen);
+    if (!standIns_.isEmpty() && isFinite(pictureToDevice())) {
+      drawStandIns(painter);
+      painter.setTransform(pictureToView(view_.imageSize(), view_.rotate()) * toClip);
+      if (view_.selectRect().width() > 0) view_.drawDraggedLine(painter, 0);
+    }
     painter.resetTransform();
     drawSelectionAids(painter);
     traceStep("view painted");

@@ -18,6 +18,7 @@
 #include "picture/told_error.h"
 #include "ui/inks/inks_page.h"
 #include "window/commands/window_parts.h"
+#include "window/inks/inks_in_picture.h"
 
 namespace norvex {
 namespace {
@@ -33,11 +34,15 @@ double dpiFor(const QSizeF& points) {
 }  // namespace
 
 InksCommand::InksCommand(WindowParts& parts, InksPage& page, QObject* parent)
-    : QObject(parent), parts_(parts), page_(page) {
+    : QObject(parent), parts_(parts), page_(page), inPicture_(new InksInPicture(parts, this)) {
   page_.installEventFilter(this);
   connect(&page_, &InksPage::choiceChanged, this, &InksCommand::compose);
   connect(&page_, &InksPage::overprintChanged, this, &InksCommand::pictureDidChange);
   connect(&page_, &InksPage::pointed, this, &InksCommand::showAmounts);
+  connect(&page_, &InksPage::inPictureChanged, this, &InksCommand::showInPicture);
+  connect(inPicture_, &InksInPicture::pointed, this, [this](const std::optional<QPointF>& point) {
+    page_.showAmounts(point ? inPicture_->amountsAt(*point) : QList<double>());
+  });
 }
 
 InksCommand::~InksCommand() {
@@ -47,6 +52,7 @@ InksCommand::~InksCommand() {
 
 bool InksCommand::eventFilter(QObject* watched, QEvent* event) {
   if (watched == &page_ && event->type() == QEvent::Show) separate();
+  if (watched == &page_ && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) showInPicture();
   return QObject::eventFilter(watched, event);
 }
 
@@ -56,6 +62,7 @@ void InksCommand::pictureDidChange() {
   end();
   asked_ = false;
   inks_.reset();
+  inPicture_->setInks(nullptr, page_.simulatesOverprint());
   page_.showImage({});
   page_.showAmounts({});
   if (page_.isVisible()) separate();
@@ -92,11 +99,19 @@ void InksCommand::take(const Result<SeparatedPage>& page) {
   }
   inks_ = std::make_shared<const PageInks>(page->inks);
   page_.showInks(*inks_, mostInk(*inks_));
+  inPicture_->setChoice(page_.choice());
+  inPicture_->setInks(inks_, page_.simulatesOverprint());
   compose();
+}
+
+// Who does not see the switch would take what the inks show for the picture.
+void InksCommand::showInPicture() {
+  inPicture_->setShown(page_.isVisible() && page_.isInPicture());
 }
 
 void InksCommand::compose() {
   if (!inks_) return;
+  inPicture_->setChoice(page_.choice());
   composing_.cancel();
   composing_ = CancelToken();
   QPointer<InksCommand> self(this);

@@ -1,88 +1,14 @@
 // The inks of the picture in a window: separated once they are looked at, put together as they are chosen.
 #include <QAction>
-#include <QCheckBox>
-#include <QLabel>
 #include <QPushButton>
-#include <QTabWidget>
-#include <QTreeWidget>
-
-#include <mutex>
 
 #include "kit/test_main.h"
-#include "protocol/page_inks.h"
-#include "ui/inks/inks_page.h"
-#include "ui/inks/separation_view.h"
 #include "ui/picture/message_bar.h"
+#include "window/inks/inks_fixture.h"
 #include "window/viewing/live_file.h"
 #include "window/viewing/pages_command.h"
-#include "window/window_fixture.h"
 
 using namespace norvex;
-
-namespace {
-
-/// Two pixels: cyan and gold.
-PageInks twoPixels() {
-  PageInks page;
-  page.pixels = QSize(2, 1);
-  for (const char* name : {"Cyan", "Magenta", "Yellow", "Black"}) page.inks << Ink{name, false, {}, 0, 0};
-  page.inks << Ink{"Gold", true, ProcessInks{0, 0, 255, 0}, 0.5, 0.5};
-  page.plates = QByteArray("\xff\0\0\0\0\0\0\0\0\xff", 10);
-  return page;
-}
-
-struct Asked {
-  std::mutex mutex;
-  QList<ExamineRequest> requests;
-};
-
-class InksFixture : public WindowFixture {
- public:
-  explicit InksFixture(int pages = 1) {
-    MemoryPicture picture;
-    for (int i = 0; i < pages; ++i) picture.facts.pageBounds << QRectF(0, 0, 200, 100);
-    picture.facts.pageBounds.resize(pages);
-    picture.facts.pageCount = pages;
-    picture.examine = [asked = asked](const ExamineRequest& request) {
-      const std::lock_guard lock(asked->mutex);
-      asked->requests << request;
-      return encodePageInks(twoPixels());
-    };
-    service.setPicture(picture);
-  }
-  MainWindowController& openPdf() {
-    controller = &open(emptyPdf({200, 100}), "a.pdf", "com.adobe.pdf");
-    controller->window();
-    controller->windowDidLoad();
-    return *controller;
-  }
-  /// As somebody who opens the inspector at the page does.
-  void look() {
-    controller->inspectorTabs->setCurrentWidget(controller->inspectorWindow->findChild<QWidget*>("inksPage"));
-    controller->inspectorWindow->show();
-  }
-  InksPage& page() { return *controller->inspectorWindow->findChild<InksPage*>(); }
-  QTreeWidget& list() { return *page().findChild<QTreeWidget*>(); }
-  [[nodiscard]] QImage image() { return page().findChild<SeparationView*>()->image(); }
-  [[nodiscard]] bool listsInks() {
-    return QTest::qWaitFor([this] { return list().topLevelItemCount() == 5 && !image().isNull(); }, 20000);
-  }
-  QString sentence() {
-    for (const auto* label : page().findChildren<QLabel*>())
-      if (label->isVisible() && label->wordWrap()) return label->text();
-    return {};
-  }
-  QList<ExamineRequest> requests() {
-    const std::lock_guard lock(asked->mutex);
-    return asked->requests;
-  }
-
-  MainWindowController* controller = nullptr;
-  /// Threads that a window leaves behind may come back to it last.
-  const std::shared_ptr<Asked> asked = std::make_shared<Asked>();
-};
-
-}  // namespace
 
 class InksCommandTest : public QObject {
   Q_OBJECT

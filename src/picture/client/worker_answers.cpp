@@ -1,6 +1,6 @@
 #include "picture/client/worker_answers.h"
 
-#include "protocol/plain_sentence.h"
+#include "picture/process/plain_sentence.h"
 #include "protocol/sealed_memory.h"
 #include "protocol/shared_errors.h"
 

@@ -11,8 +11,8 @@
 #include <csignal>
 
 #include "picture/process/peak_memory.h"
+#include "picture/process/plain_sentence.h"
 #include "protocol/limits.h"
-#include "protocol/plain_sentence.h"
 #include "protocol/process_end.h"
 #include "protocol/shared_errors.h"
 

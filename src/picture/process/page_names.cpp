@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "protocol/plain_sentence.h"
+#include "picture/process/plain_sentence.h"
 
 namespace norvex {
 

@@ -16,7 +16,6 @@ namespace {
 constexpr Argb32 kWhite = 0xFFFFFFFF;
 constexpr quint32 kCoreHeader = 12, kInfoHeader = 40;
 constexpr quint32 kPlain = 0, kRuns8 = 1, kRuns4 = 2;
-constexpr int kLongestRun = 255;
 
 struct Header {
   int width = 0, height = 0;
@@ -94,11 +93,11 @@ qsizetype samplesStart(const Header& header) {
   return header.paletteStart + qsizetype(header.colours) * header.paletteEntry;
 }
 
-// What no run tells is the palette's first colour.
+// What no run tells is the palette's first colour: few runs may stand for many pixels.
 Result<Bitmap> bitmapOfRuns(QByteArrayView bytes, const Header& header) {
   const QByteArrayView packed = bytes.sliced(std::min(samplesStart(header), bytes.size()));
-  const qsizetype pixels = qsizetype(header.width) * header.height;
-  if (header.isTopDown || pixels / kLongestRun > packed.size()) return damaged();
+  const qint64 pixels = qint64(header.width) * header.height;
+  if (header.isTopDown || pixels > limits::maximumPreviewPixels) return damaged();
   const QList<Argb32> palette = readPalette(bytes, header);
   const auto colourOf = [&](int index) { return index < palette.size() ? palette[index] : kWhite; };
   Result<Bitmap> bitmap = Bitmap::create({header.width, header.height});

@@ -3,6 +3,7 @@
 
 #include "kit/test_main.h"
 #include "worker/kit/made_metafile.h"
+#include "worker/metafile/device_bitmap.h"
 #include "worker/metafile/metafile_records.h"
 
 using namespace norvex;
@@ -170,6 +171,19 @@ class MetafilePreviewTest : public QObject {
       found << row;
     }
     QCOMPARE(found, rows);
+  }
+
+  void fewRunsMayStandForALargeBitmap() {
+    const auto ofRuns = [](int side) {
+      return deviceBitmap(kit::words({40, 0, side, 0, side, 0, 1, 8, 1, 0, 0, 0, 0, 0, 0, 0, 2, 0, 0, 0}) +
+                          QByteArray::fromHex("0000ff0000ff000002010001"));
+    };
+    const auto bitmap = ofRuns(1000);
+    QVERIFY(bitmap.ok());
+    QCOMPARE(bitmap->row(999)[1], 0xFF00FF00);
+    QCOMPARE(bitmap->row(999)[2], 0xFFFF0000);
+    QCOMPARE(bitmap->row(0)[999], 0xFFFF0000);
+    QVERIFY(!ofRuns(32000).ok());  // more than any preview has
   }
 
   void aHatchHasLinesAndWhatLiesBetweenThem_data() {

@@ -9,6 +9,7 @@ namespace norvex::engine {
 namespace {
 
 constexpr char32_t kLastOfPlane = 0xFFFF;
+constexpr size_t kMostSegments = (0xFFFF - 16) / 8;  // the table tells its own length in 16 bits
 
 /// Characters behind one another that are shown by glyphs behind one another.
 struct Segment {
@@ -29,9 +30,10 @@ std::vector<Segment> segments(const std::map<char32_t, int>& glyphs, char32_t la
   return found;
 }
 
-QByteArray shortMap(const std::map<char32_t, int>& glyphs) {
+std::optional<QByteArray> shortMap(const std::map<char32_t, int>& glyphs) {
   std::vector<Segment> parts = segments(glyphs, kLastOfPlane - 1);
   parts.push_back({kLastOfPlane, kLastOfPlane, 0});
+  if (parts.size() > kMostSegments) return std::nullopt;
   const auto count = qint64(parts.size());
   qint64 power = 1, exponent = 0;
   while (power * 2 <= count) power *= 2, ++exponent;
@@ -54,15 +56,16 @@ QByteArray longMap(const std::map<char32_t, int>& glyphs) {
   return writer.bytes;
 }
 
-QByteArray cmap(const std::map<char32_t, int>& glyphs) {
-  const QByteArray brief = shortMap(glyphs);
+std::optional<QByteArray> cmap(const std::map<char32_t, int>& glyphs) {
+  const std::optional<QByteArray> brief = shortMap(glyphs);
+  if (!brief) return std::nullopt;
   const bool isBeyond = !glyphs.empty() && glyphs.rbegin()->first > kLastOfPlane;
   ByteWriter writer;
   writer.put(2, 0).put(2, isBeyond ? 2 : 1);
   const qint64 start = isBeyond ? 20 : 12;
   writer.put(2, 3).put(2, 1).put(4, start);
-  if (isBeyond) writer.put(2, 3).put(2, 10).put(4, start + brief.size());
-  return writer.put(brief).put(isBeyond ? longMap(glyphs) : QByteArray()).bytes;
+  if (isBeyond) writer.put(2, 3).put(2, 10).put(4, start + brief->size());
+  return writer.put(*brief).put(isBeyond ? longMap(glyphs) : QByteArray()).bytes;
 }
 
 QByteArray head(const SfntFacts& facts) {
@@ -138,15 +141,18 @@ constexpr qsizetype kSumOfFile = 8;                 // its place in `head`
 
 }  // namespace
 
-std::map<QByteArray, QByteArray> sfntTables(const SfntFacts& facts) {
-  return {{"OS/2", os2(facts)},
-          {"cmap", cmap(facts.glyphs)},
-          {"head", head(facts)},
-          {"hhea", hhea(facts)},
-          {"hmtx", hmtx(facts)},
-          {"maxp", ByteWriter().put(4, 0x00005000).put(2, qint64(facts.advances.size())).bytes},
-          {"name", names()},
-          {"post", post()}};
+std::optional<std::map<QByteArray, QByteArray>> sfntTables(const SfntFacts& facts) {
+  const std::optional<QByteArray> characters = cmap(facts.glyphs);
+  if (!characters) return std::nullopt;
+  return std::map<QByteArray, QByteArray>{
+      {"OS/2", os2(facts)},
+      {"cmap", *characters},
+      {"head", head(facts)},
+      {"hhea", hhea(facts)},
+      {"hmtx", hmtx(facts)},
+      {"maxp", ByteWriter().put(4, 0x00005000).put(2, qint64(facts.advances.size())).bytes},
+      {"name", names()},
+      {"post", post()}};
 }
 
 quint32 tableSum(const QByteArray& table) {

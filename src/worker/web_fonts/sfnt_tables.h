@@ -5,6 +5,7 @@
 
 #include <array>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace norvex::engine {
@@ -18,8 +19,9 @@ struct SfntFacts {
   std::map<char32_t, int> glyphs;   ///< character → number of its glyph
 };
 
-/// Tables by their tags: all but that of the outlines.
-[[nodiscard]] std::map<QByteArray, QByteArray> sfntTables(const SfntFacts& facts);
+/// Tables by their tags: all but that of the outlines. Nothing: more than 8,188 characters of the first plane
+/// begin anew, in their number or in that of their glyph.
+[[nodiscard]] std::optional<std::map<QByteArray, QByteArray>> sfntTables(const SfntFacts& facts);
 
 /// The sum of a table's 32-bit words.
 [[nodiscard]] quint32 tableSum(const QByteArray& table);

@@ -7,6 +7,7 @@ namespace {
 
 // A font of a document has two or three outlines for a character: small capitals, old numerals, swashes.
 constexpr size_t kMostFaces = 8;
+constexpr size_t kMostCharacters = 8000;  // however they lie, a font takes as many
 constexpr char32_t kPrivate = 0xE000, kPrivateEnd = 0xF8FF, kMorePrivate = 0xF0000, kMorePrivateEnd = 0xFFFFD;
 constexpr size_t kBlank = 0;
 
@@ -34,8 +35,11 @@ bool WebFaces::isBlank(unsigned glyph) const {
 std::optional<FaceCharacter> WebFaces::choose(char32_t character, size_t outline) {
   for (size_t face = 0; face < kMostFaces; ++face) {
     if (face == faces_.size()) faces_.emplace_back();
-    const auto [at, isNew] = faces_[face].try_emplace(character, outline);
-    if (isNew || at->second == outline) return FaceCharacter{face, character};
+    std::map<char32_t, size_t>& shown = faces_[face];
+    const auto at = shown.find(character);
+    if (at == shown.end() && shown.size() >= kMostCharacters) continue;
+    if (at == shown.end()) shown.emplace(character, outline);
+    if (at == shown.end() || at->second == outline) return FaceCharacter{face, character};
   }
   return std::nullopt;
 }

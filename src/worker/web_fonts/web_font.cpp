@@ -10,7 +10,8 @@
 namespace norvex::engine {
 namespace {
 
-constexpr size_t kMostOutlines = 65'534;
+// Beside the empty one. Each has a name, and the numbers of a font's own names go from 391 to 64,999.
+constexpr size_t kMostOutlines = 64'609;
 
 /// Left, bottom, right, top of all points: what an outline reaches lies within.
 struct Box {
@@ -61,7 +62,8 @@ std::optional<std::map<QByteArray, QByteArray>> tablesOf(const WebFont& font) {
   for (const auto& [character, outline] : font.shownBy) facts.glyphs[character] = numbers.at(outline);
   outlines.box = facts.box = {all.left, all.bottom, all.right, all.top};
   auto tables = sfntTables(facts);
-  tables["CFF "] = cffTable(outlines);
+  if (!tables) return std::nullopt;
+  (*tables)["CFF "] = cffTable(outlines);
   return tables;
 }
 

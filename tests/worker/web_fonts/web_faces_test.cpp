@@ -54,6 +54,15 @@ class WebFacesTest : public QObject {
     QCOMPARE(made.show(0, {})->front().character, first);
   }
 
+  void moreCharactersThanAFontTakesGoIntoAnother() {
+    WebFaces made = faces(1);
+    for (char32_t i = 0; i < 9000; ++i) QVERIFY(made.show(0, {0x100 + 2 * i}));
+    QCOMPARE(made.count(), size_t(2));
+    QCOMPARE(made.font(0).shownBy.size() + made.font(1).shownBy.size(), size_t(9000));
+    for (size_t face = 0; face < 2; ++face) QVERIFY(woffFont(made.font(face)));
+    QCOMPARE(made.show(0, {0x100})->front().face, size_t(0));
+  }
+
   void aCharacterOfManyOutlinesDoesNotMakeFacesWithoutEnd() {
     WebFaces made = faces(3000);
     for (unsigned i = 0; i < 3000; ++i) QVERIFY(made.show(i, {U'a'}));

@@ -142,6 +142,29 @@ class WebFontTest : public QObject {
     QVERIFY(!woffFont(font));
   }
 
+  void moreCharactersApartThanItsTableCountsMakeNoFont() {
+    const auto apart = [](int count) {
+      WebFont font = twoSquares();
+      font.shownBy.clear();
+      for (int i = 0; i < count; ++i) font.shownBy[char32_t(0x100 + 2 * i)] = size_t(i % 2);
+      return font;
+    };
+    const ReadFont read(*openTypeFont(apart(8188)));
+    QVERIFY(read.face());
+    QCOMPARE(read.advanceOf(0x100 + 2 * 8187), 1500);
+    QVERIFY(!openTypeFont(apart(8189)));
+    QVERIFY(!woffFont(apart(8189)));
+  }
+
+  void moreOutlinesThanThereAreNamesMakeNoFont() {
+    WebFont font;
+    font.outlines.resize(64'610);
+    for (size_t i = 0; i < font.outlines.size(); ++i) font.shownBy[char32_t(0xF0000 + i)] = i;
+    QVERIFY(!openTypeFont(font));
+    font.shownBy.erase(0xF0000);
+    QVERIFY(openTypeFont(font));
+  }
+
   void theSumOfAFileIsWhatReadersCheck() { QCOMPARE(tableSum(*openTypeFont(twoSquares())), 0xB1B0AFBAU); }
 
   void aWoffTellsItsOwnLengthAndThatOfTheFontInIt() {

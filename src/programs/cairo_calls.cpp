@@ -1,6 +1,8 @@
 // Poppler sets its clips with cairo_clip() and paints its images with cairo_fill(), and its interface has no
 // word for what becomes of the pixels of their edges. A name that a library calls is looked for in the module
-// that loaded the library before it is looked for in cairo: these are the ones that are called.
+// that loaded the library before it is looked for in cairo: these are the ones that are called. A library
+// stays bound to the module that loaded it first, and each module has its own key for what is asked of a
+// context: in a process that has loaded two modules, only what the first of them draws has these edges.
 #include "worker/drawing/pixel_edges.h"
 
 #define NORVEX_STANDS_IN extern "C" __attribute__((visibility("default")))

@@ -8,7 +8,7 @@
 namespace norvex::engine {
 namespace {
 
-const cairo_user_data_key_t kAsked{};
+const cairo_user_data_key_t kAsked{};  // its address counts: another one in each module of an engine
 
 // Cairo keeps places on the surface in steps of a 256th.
 constexpr double kSameLine = 1.5 / 256;

@@ -1,6 +1,6 @@
 // norvex-postscript SCRATCH_ROOT: the interpreter of PostScript, ready before there is a document. The only
 // program that links libgs. Requests are taken at descriptor 3; see protocol/interpreter_request.h.
-// Descriptor 4 is /proc where it is started within a view of the files.
+// That they are is told once at descriptor 4; 5 is /proc where it is started within a view of the files.
 #include <sys/prctl.h>
 #include <sys/socket.h>
 
@@ -39,7 +39,7 @@ int main(int argc, char** argv) {
   setEnvironment(argv[1]);
   adoptProcessFiles(interpreterProcessFiles);
   prepareSandboxes(argv[1], {}, true);
-  InterpreterServer server(FileDescriptor(controlDescriptor), argv[1]);
+  InterpreterServer server(FileDescriptor(controlDescriptor), FileDescriptor(interpreterReadiness), argv[1]);
   PostScriptInterpreter interpreter([&server] { return server.serve(); });
   const int code = interpreter.run();
   std::fflush(nullptr);

@@ -28,12 +28,14 @@ std::string programBesideOurs() {
   return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "norvex-postscript";
 }
 
-/// Both are numbers that nothing is put in place of. Standard streams are ours, which are nothing; everything
-/// but the two is closed.
-pid_t spawn(const std::string& program, const std::string& scratchRoot, int taking, int processFiles) {
+/// All are numbers that nothing is put in place of. Standard streams are ours, which are nothing; everything
+/// else is closed.
+pid_t spawn(const std::string& program, const std::string& scratchRoot, int taking, int telling,
+            int processFiles) {
   posix_spawn_file_actions_t actions;
   ::posix_spawn_file_actions_init(&actions);
   ::posix_spawn_file_actions_adddup2(&actions, taking, controlDescriptor);
+  ::posix_spawn_file_actions_adddup2(&actions, telling, interpreterReadiness);
   if (processFiles >= 0) ::posix_spawn_file_actions_adddup2(&actions, processFiles, interpreterProcessFiles);
   ::posix_spawn_file_actions_addclosefrom_np(
       &actions, processFiles >= 0 ? interpreterProcessFiles + 1 : interpreterProcessFiles);
@@ -42,6 +44,10 @@ pid_t spawn(const std::string& program, const std::string& scratchRoot, int taki
   const int failure = ::posix_spawn(&pid, program.c_str(), &actions, nullptr, arguments, environ);
   ::posix_spawn_file_actions_destroy(&actions);
   return failure == 0 ? pid : 0;
+}
+
+FileDescriptor aboveStandard(int descriptor) {
+  return FileDescriptor(descriptor < 0 ? -1 : ::fcntl(descriptor, F_DUPFD_CLOEXEC, kAboveStandard));
 }
 
 }  // namespace
@@ -63,7 +69,7 @@ bool InterpreterProgram::runs() {
   if (pid_ == 0) return false;
   if (::waitpid(pid_, nullptr, WNOHANG) == 0) return true;
   // One that has never been able to serve would keep the next documents waiting in vain, too.
-  if (!asking_.valid() || !hadInterpretersReady(asking_.get())) starts_ = kMaximumStarts;
+  if (!hadInterpretersReady(hearing_.get())) starts_ = kMaximumStarts;
   asking_.reset();
   pid_ = 0;
   return false;
@@ -73,7 +79,7 @@ bool InterpreterProgram::makeConnection() {
   if (asking_.valid() && taking_.valid()) return true;
   Result<InterpreterConnection> connection = makeInterpreterConnection();
   if (!connection) return false;
-  taking_.reset(::fcntl(connection->taking.get(), F_DUPFD_CLOEXEC, kAboveStandard));
+  taking_ = aboveStandard(connection->taking.get());
   asking_ = std::move(connection->asking);
   if (!taking_.valid()) asking_.reset();
   return taking_.valid();
@@ -85,15 +91,17 @@ void InterpreterProgram::expect() {
 
 void InterpreterProgram::start() {
   if (runs()) return;
-  if (starts_ == kMaximumStarts || !makeConnection()) {
+  Result<ReadinessPipe> readiness = makeReadinessPipe();
+  if (starts_ >= kMaximumStarts || !readiness || !makeConnection()) {
     asking_.reset();
     taking_.reset();  // whoever asks is told so by this
     return;
   }
-  const int opened = openedProcessFiles();
-  const FileDescriptor processFiles(opened < 0 ? -1 : ::fcntl(opened, F_DUPFD_CLOEXEC, kAboveStandard));
+  const FileDescriptor telling = aboveStandard(readiness->telling.get());
+  const FileDescriptor processFiles = aboveStandard(openedProcessFiles());
+  hearing_ = std::move(readiness->hearing);
   ++starts_;
-  pid_ = spawn(program_, scratchRoot_, taking_.get(), processFiles.get());
+  pid_ = spawn(program_, scratchRoot_, taking_.get(), telling.get(), processFiles.get());
   taking_.reset();
   if (pid_ == 0) asking_.reset();
 }

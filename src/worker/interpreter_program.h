@@ -8,8 +8,10 @@
 
 namespace norvex {
 
+/// Where the program tells that it is ready (ReadinessPipe::telling).
+inline constexpr int interpreterReadiness = controlDescriptor + 1;
 /// Where the program finds /proc, when it is started from within a view of the files that has none.
-inline constexpr int interpreterProcessFiles = controlDescriptor + 1;
+inline constexpr int interpreterProcessFiles = controlDescriptor + 2;
 
 /// Single-threaded. The program ends with us and with all who inherited asking(); it is not waited for
 /// before.
@@ -44,7 +46,8 @@ class InterpreterProgram {
   [[nodiscard]] bool makeConnection();
   std::string scratchRoot_, program_;
   FileDescriptor asking_;
-  FileDescriptor taking_;  ///< until the program has it
+  FileDescriptor taking_;   ///< until the program has it
+  FileDescriptor hearing_;  ///< that the program is ready; never a document's
   int pid_ = 0;
   int starts_ = 0;
 };

@@ -86,6 +86,19 @@ class InterpreterRequestTest : public QObject {
     QCOMPARE(::read(reading[3].get(), &letter, 1), ssize_t(0));
   }
 
+  void readinessIsToldOnceAndOutlivesWhoTellsIt() {
+    auto readiness = makeReadinessPipe();
+    QVERIFY(readiness.ok());
+    QVERIFY(!hadInterpretersReady(readiness->hearing.get()));
+    tellInterpretersReady(std::move(readiness->telling));
+    QVERIFY(hadInterpretersReady(readiness->hearing.get()));
+    QVERIFY(!hadInterpretersReady(readiness->hearing.get()));
+    auto silent = makeReadinessPipe();
+    QVERIFY(silent.ok());
+    silent->telling.reset();
+    QVERIFY(!hadInterpretersReady(silent->hearing.get()));
+  }
+
   void rubbishIsNoRequest_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("not CBOR") << QByteArray("rubbish");

@@ -36,11 +36,11 @@ void tell(const FileDescriptor& outcome, const Value& value) {
 
 }  // namespace
 
-InterpreterServer::InterpreterServer(FileDescriptor taking, QByteArray scratchRoot)
-    : taking_(std::move(taking)), scratchRoot_(std::move(scratchRoot)) {}
+InterpreterServer::InterpreterServer(FileDescriptor taking, FileDescriptor telling, QByteArray scratchRoot)
+    : taking_(std::move(taking)), telling_(std::move(telling)), scratchRoot_(std::move(scratchRoot)) {}
 
 PostScriptInterpreter::Task InterpreterServer::serve() {
-  tellInterpretersReady(taking_.get());
+  tellInterpretersReady(std::move(telling_));
   while (true) {
     std::vector<pollfd> polls{{taking_.get(), POLLIN, 0}};
     for (const Child& child : children_) {

@@ -21,7 +21,8 @@ class InterpreterServer {
  public:
   /// `taking`: of an InterpreterConnection. Scratch folders are made inside `scratchRoot`, which exists and
   /// is private to the user.
-  InterpreterServer(FileDescriptor taking, QByteArray scratchRoot);
+  /// `telling`: of a ReadinessPipe; closed once serve() has told that it takes requests.
+  InterpreterServer(FileDescriptor taking, FileDescriptor telling, QByteArray scratchRoot);
 
   /// Returns in the forked processes only: confined, with the request's descriptors as standard streams and
   /// no other. Gives what it is to do.
@@ -50,7 +51,7 @@ class InterpreterServer {
   /// the first.
   void buryWhoMustGo(const std::vector<pollfd>& polls);
 
-  FileDescriptor taking_;
+  FileDescriptor taking_, telling_;
   QByteArray scratchRoot_;
   std::vector<Child> children_;
   bool isAtRest_ = false;  ///< nothing is left to be done until a document comes

@@ -206,6 +206,22 @@ class InterpreterProgramTest : public QObject {
     }
   }
 
+  /// Documents have the end that asks, from which they could read what is meant for us.
+  void whoAsksCannotHideThatItWasReady() {
+    Interpreters interpreters;
+    InterpreterProgram& program = interpreters.program();
+    for (int starts = 1; starts < 4; ++starts) {
+      QCOMPARE(interpreters.saidBy("(ready) ="), QByteArray("ready\n"));
+      char taken[16];
+      QVERIFY(::recv(program.asking(), taken, sizeof taken, MSG_DONTWAIT) <= 0);
+      const int before = program.pid();
+      ::kill(before, SIGKILL);
+      QVERIFY(kit::eventually([before] { return kit::stateOf(before) == 'Z'; }));
+      program.start();
+      QVERIFY2(program.pid() != 0, qPrintable(QString::number(starts)));
+    }
+  }
+
   void anExpectedProgramThatIsBrokenIsToldToWhoeverAsks() {
     const QTemporaryDir root;
     InterpreterProgram program(root.path().toStdString(), "/bin/false");

@@ -65,7 +65,12 @@ PictureLimits grantedFor(int asker, PictureLimits wanted) {
     wanted.memoryMiB = int(std::min(rlim_t(wanted.memoryMiB), std::max<rlim_t>(1, memory)));
     wanted.megapixels = std::min(wanted.megapixels, files ? double(*files) / 4.0e6 : usual.megapixels);
   }
-  const std::optional<rlim_t> time = limitOf(asker, RLIMIT_RTTIME);
+  std::optional<rlim_t> time = limitOf(asker, RLIMIT_RTTIME);
+  // Where all of us have been started with such a limit, one that is no lower says nothing of what was
+  // granted.
+  if (const auto inherited = limitOf(::getpid(), RLIMIT_RTTIME);
+      inherited != RLIM_INFINITY && time >= inherited)
+    time.reset();
   if (time != RLIM_INFINITY) {
     const rlim_t seconds = time ? *time / 1'000'000 : rlim_t(usual.seconds);
     wanted.seconds = int(std::min(rlim_t(wanted.seconds), seconds));

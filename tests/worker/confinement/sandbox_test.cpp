@@ -8,6 +8,7 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <ctime>
@@ -87,6 +88,35 @@ class SandboxTest : public QObject {
     const PictureLimits usual, unknown = grantedFor(0, wanted);
     QCOMPARE(unknown.seconds, usual.seconds);
     QCOMPARE(unknown.memoryMiB, usual.memoryMiB);
+  }
+
+  void aLimitOfRealTimeThatAllHaveIsNotTakenForAGrant_data() {
+    QTest::addColumn<int>("ofAll");
+    QTest::addColumn<int>("granted");
+    QTest::newRow("shorter than the grant") << 2 << PictureLimits().seconds;
+    QTest::newRow("longer than the grant") << 1000 << 10;
+  }
+  void aLimitOfRealTimeThatAllHaveIsNotTakenForAGrant() {
+    QFETCH(int, ofAll);
+    QFETCH(int, granted);
+    const int told = inForkedChild([&] {
+      const rlimit time = {rlim_t(ofAll) * 1'000'000, rlim_t(ofAll) * 1'000'000};
+      int ends[2] = {-1, -1};
+      if (::setrlimit(RLIMIT_RTTIME, &time) != 0 || ::pipe(ends) != 0) return 255;
+      const pid_t asker = ::fork();
+      if (asker == 0) {
+        if (!limitFiles({10, 64, 1}, false) || ::write(ends[1], "h", 1) != 1) ::_exit(1);
+        while (true) ::poll(nullptr, 0, 1000);
+      }
+      ::close(ends[1]);
+      char noted = 0;
+      const bool isNoted = ::read(ends[0], &noted, 1) == 1;
+      const int seconds = isNoted ? grantedFor(asker, {5000, 5000, 5000}).seconds : 254;
+      ::kill(asker, SIGKILL);
+      ::waitpid(asker, nullptr, 0);
+      return std::min(seconds, 253);
+    });
+    QCOMPARE(told, granted);
   }
 
   void processorTimeBeyondTheGrantIsTheEnd() {

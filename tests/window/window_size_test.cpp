@@ -45,6 +45,9 @@ class WindowSizeTest : public QObject {
     QCOMPARE(wholePixels(554, 1.5), 556);  // 831 pixels, and windows are sized in steps of two there
     QCOMPARE(wholePixels(553, 1.75), 560);
     QCOMPARE(wholePixels(553, 1.25), 556);
+    QCOMPARE(wholePixels(553, 2.75), 564);
+    QCOMPARE(wholePixels(553, 3.25), 564);
+    QCOMPARE(wholePixels(545, 3.75), 560);
     QCOMPARE(wholePixels(555, 0.123456), 555);  // nothing would be whole
   }
 

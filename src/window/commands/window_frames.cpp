@@ -71,7 +71,7 @@ QRect placedOnScreens(QRect frame, const QList<QRect>& screens, const QList<QPoi
 }
 
 int wholePixels(int length, double ratio) {
-  constexpr int kMost = 8;  // a ratio is no finer than a quarter
+  constexpr int kMost = 16;  // a ratio is no finer than a quarter, and 3.75 pixels go in steps of four
   // The platform tells window managers to size windows in steps of so many of the screen's pixels.
   const int step = std::max(1, static_cast<int>(std::lround(ratio)));
   for (int longer = length; longer < length + kMost; ++longer) {

@@ -5,9 +5,9 @@
 
 namespace norvex {
 
-MemoryKeeper::MemoryKeeper(DocumentController& documents, QObject* parent) : QObject(parent) {
+MemoryKeeper::MemoryKeeper(DocumentController& documents, QObject* parent, int quietMs) : QObject(parent) {
   whenQuiet_.setSingleShot(true);
-  whenQuiet_.setInterval(kQuietMs);
+  whenQuiet_.setInterval(quietMs);
   connect(&documents, &DocumentController::documentOpened, &whenQuiet_, qOverload<>(&QTimer::start));
   connect(&documents, &DocumentController::documentClosed, &whenQuiet_, qOverload<>(&QTimer::start));
   connect(&whenQuiet_, &QTimer::timeout, this, [this] {

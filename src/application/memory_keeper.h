@@ -15,7 +15,8 @@ class MemoryKeeper final : public QObject {
  public:
   static constexpr int kQuietMs = 2000;
 
-  explicit MemoryKeeper(DocumentController& documents, QObject* parent = nullptr);
+  /// `quietMs`: how long nothing is opened or closed before it is given back.
+  explicit MemoryKeeper(DocumentController& documents, QObject* parent = nullptr, int quietMs = kQuietMs);
 
  signals:
   void gaveBack();

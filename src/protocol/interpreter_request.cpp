@@ -9,7 +9,7 @@
 #include <cstring>
 #include <utility>
 
-#include "protocol/descriptors_under_way.h"
+#include "protocol/message_channel.h"
 
 namespace norvex {
 namespace {

@@ -13,7 +13,6 @@
 #include <iterator>
 #include <limits>
 
-#include "protocol/descriptors_under_way.h"
 #include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 
@@ -171,6 +170,16 @@ bool MessageChannel::isConnected() const {
   if (!socket_.valid()) return false;
   pollfd poll = {socket_.get(), POLLIN, 0};
   return ::poll(&poll, 1, 0) >= 0 && (poll.revents & (POLLHUP | POLLERR | POLLNVAL)) == 0;
+}
+
+bool areTooManyUnderWay(int error) {
+  return error == ETOOMANYREFS;
+}
+
+bool waitForThoseUnderWay(int socket) {
+  constexpr int milliseconds = 5;
+  pollfd end = {socket, 0, 0};
+  return ::poll(&end, 1, milliseconds) <= 0;
 }
 
 }  // namespace norvex

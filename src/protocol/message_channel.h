@@ -61,4 +61,13 @@ class MessageChannel {
   FileDescriptor arriving_;
 };
 
+// The kernel bounds the descriptors that all programs of a user have sent and nobody has taken yet: above the
+// number of files that a process may open it lets it send no more (unix(7), ETOOMANYREFS). Any program of the
+// user can bring picture processes there; it passes as soon as the others take theirs.
+
+/// True if a message with descriptors was refused (`error` of sendmsg()) for that alone.
+[[nodiscard]] bool areTooManyUnderWay(int error);
+/// Waits a moment before the next try. False: the other end of the socket has gone.
+[[nodiscard]] bool waitForThoseUnderWay(int socket);
+
 }  // namespace norvex

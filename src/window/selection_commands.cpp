@@ -49,6 +49,10 @@ void SelectionCommands::addMenu(QMenu& menu, QAction* before, Deed deed) {
 void SelectionCommands::addCommand(QMenu& menu, Deed deed, const Direction& direction, double points) {
   const char* title = deed == Deed::Move ? direction.moveTitle : direction.resizeTitle;
   QAction* command = menu.addAction(localizedString(title).arg(points));
+  command->setObjectName(QStringLiteral("%1Selection%2By%3Action")
+                             .arg(deed == Deed::Move ? QStringLiteral("move") : QStringLiteral("resize"),
+                                  QKeySequence(direction.key).toString(QKeySequence::PortableText))
+                             .arg(points));
   Qt::KeyboardModifiers modifiers = points == kSmallStep ? Qt::NoModifier : Qt::ShiftModifier;
   if (deed == Deed::Resize) modifiers |= Qt::ControlModifier;
   command->setShortcut(QKeyCombination(modifiers, direction.key));

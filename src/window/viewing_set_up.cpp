@@ -39,8 +39,9 @@ PagesCommand* setUpPages(Controller& controller, WindowCommands& commands, QMenu
   pages->setUp(menu);
   QObject::connect(&controller, &Controller::documentShown, pages, &PagesCommand::documentDidChange);
   QObject::connect(pages, &PagesCommand::pageDidChange, &controller, [c = &controller, &commands] {
-    commands.messages.watchPicture(
-        std::dynamic_pointer_cast<StoppableProcess>(c->view()->imageRep()->process()));
+    const NSImageRep& page = *c->view()->imageRep();
+    commands.messages.watchPicture(std::dynamic_pointer_cast<StoppableProcess>(page.process()));
+    commands.inspector.watch(&page);
     c->setWindowSize();
   });
   return pages;

@@ -147,6 +147,33 @@ class DockedInspectorTest : public QObject {
     QTRY_COMPARE(panel(other)->width(), drawn);
   }
 
+  void aWidthThatTheWindowGaveIsNotTakenForADrawnOne_data() {
+    QTest::addColumn<int>("pressed");  // from the panel's edge
+    QTest::newRow("a press beside the edge") << -60;
+    QTest::newRow("a press on the edge that moved nothing") << -2;
+  }
+  void aWidthThatTheWindowGaveIsNotTakenForADrawnOne() {
+    QFETCH(int, pressed);
+    WindowFixture fixture;
+    saveViewLength("views/inspectorWidth", 700);
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    c.window()->findChild<QAction*>("windowFitsPictureAction")->setChecked(false);
+    c.window()->resize(1600, 500);
+    QTRY_COMPARE(panel(c)->width(), 700);
+    const QPoint at(panel(c)->x() + pressed, panel(c)->y() + 100);
+    QTest::mousePress(c.window(), Qt::LeftButton, {}, at);
+    if (c.window()->isSeparator(at)) {
+      QTest::mouseRelease(c.window(), Qt::LeftButton, {}, at);
+      QCoreApplication::processEvents();
+    }
+    c.window()->resize(1000, 500);
+    QTRY_VERIFY(panel(c)->width() <= 500);
+    QTest::mouseRelease(c.window(), Qt::LeftButton, {}, QPoint(5, 100));
+    QCoreApplication::processEvents();
+    QCOMPARE(savedViewLength("views/inspectorWidth"), 700);
+  }
+
   void aPanelNeverTakesMoreThanHalfOfTheWindow() {
     WindowFixture fixture;
     saveViewLength("views/inspectorWidth", 700);

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QThreadPool>
 
 #include <cmath>
 
@@ -320,10 +321,11 @@ class InspectorTest : public QObject {
     fixture.service.setPicture(picture);
     MainWindowController& c = fixture.loaded("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
     c.inspectorWindow->hide();
+    QSignalSpy drawn(c.view()->imageRep().get(), &NSImageRep::renderingArrived);
     c.window()->show();
+    QVERIFY(!drawn.isEmpty() || drawn.wait(20'000));
+    waitingThreads().waitForDone();  // would ask for them
     const auto process = fixture.service.lastProcess();
-    QTRY_VERIFY(process->calls(PictureCall::Render) > 0);
-    QTest::qWait(50);
     QCOMPARE(process->calls(PictureCall::Examine), 0);
     c.inspectorWindow->show();
     QTRY_COMPARE(c.inspectorWindow->findChild<ZyForm*>("usesForm")->cellAtIndex(0)->text(),

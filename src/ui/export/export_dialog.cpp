@@ -87,6 +87,10 @@ ExportChoice ExportDialog::choice() const {
   return options_->choice();
 }
 
+void ExportDialog::takeTyped() {
+  options_->takeTyped();
+}
+
 QString ExportDialog::path() const {
   return target_->path();
 }

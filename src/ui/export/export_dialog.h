@@ -23,6 +23,8 @@ class ExportDialog final : public QDialog {
   ExportDialog(QWidget* window, const ExportOffer& offer, const ExportChoice& first);
 
   [[nodiscard]] ExportChoice choice() const;
+  /// Chooses the number that is still being typed, if there is one.
+  void takeTyped();
   /// Empty without a name.
   [[nodiscard]] QString path() const;
 

@@ -1,5 +1,6 @@
 #include "ui/export/export_options.h"
 
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 #include "base/localized_string.h"
 #include "display/length_text.h"
@@ -271,6 +273,13 @@ ExportChoice ExportOptions::choice() const {
   choice.keepText = isSvg(chosen) && text_->isChecked();
   if (own > 0 || (own == Lossless && !lossless_->isChecked())) choice.quality = quality_->value();
   return choice;
+}
+
+void ExportOptions::takeTyped() {
+  // The others follow one another, rounded: read again they would change what was chosen.
+  for (QAbstractSpinBox* field :
+       std::initializer_list<QAbstractSpinBox*>{dpi_, wide_, high_, quality_, firstPage_, lastPage_})
+    if (field->hasFocus()) field->interpretText();
 }
 
 bool ExportOptions::setFormat(PictureFormat format) {

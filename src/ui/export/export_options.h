@@ -23,6 +23,8 @@ class ExportOptions final : public QWidget {
   ExportOptions(const ExportOffer& offer, const ExportChoice& first, QWidget* parent);
 
   [[nodiscard]] ExportChoice choice() const;
+  /// Chooses the number that is still being typed, if there is one.
+  void takeTyped();
   /// False: that format is not offered, and nothing changed.
   bool setFormat(PictureFormat format);
   /// Of the chosen part; points.

@@ -128,9 +128,13 @@ void InspectorCommand::showResources(const NSImageRep* rep) {
   }
   showNames(fonts, colors);
   if (!unnamed_) return;
+  watch(rep);
+  parts_.usesForm->parentWidget()->installEventFilter(this);  // once, however often it is done
+}
+
+void InspectorCommand::watch(const NSImageRep* rep) {
   connect(rep, &NSImageRep::renderingArrived, this, &InspectorCommand::pictureWasDrawn, Qt::UniqueConnection);
   connect(rep, &NSImageRep::renderingFailed, this, &InspectorCommand::pictureWasDrawn, Qt::UniqueConnection);
-  parts_.usesForm->parentWidget()->installEventFilter(this);  // once, however often it is done
 }
 
 void InspectorCommand::pictureWasDrawn() {

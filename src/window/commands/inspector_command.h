@@ -49,6 +49,8 @@ class InspectorCommand final : public QObject {
   /// Bounding boxes, notes, fonts and colours; null: of no picture. The names in a PDF are asked for when
   /// they are seen, and not before the picture is.
   void showFacts(const NSImageRep* rep);
+  /// Another page of that picture is shown: the names are asked for once it is drawn.
+  void watch(const NSImageRep* rep);
   /// Adds the fonts that others stand in for, which are known once something was drawn.
   void showDrawingRemarks();
 

@@ -184,6 +184,7 @@ bool ExportCommand::mayReplace(const QString& path) {
 }
 
 void ExportCommand::write() {
+  dialog_->takeTyped();  // Return presses the button from within a field; other choices are made anew
   const QString path = dialog_->path();
   if (path.isEmpty()) return;
   const QPointer<ExportCommand> self(this);

@@ -6,11 +6,13 @@
 #include <QEvent>
 #include <QLayout>
 #include <QMainWindow>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 
 #include <algorithm>
+#include <utility>
 
 #include "base/localized_string.h"
 #include "ui/picture/zooming_scroll_area.h"
@@ -143,8 +145,8 @@ void DockedInspector::fitPanel() {
 }
 
 void DockedInspector::keepWidth() {
-  if (!dock_ || !dock_->isVisible() || drawnFrom_ == 0 || dock_->width() == drawnFrom_) return;
-  drawnFrom_ = 0;
+  const int from = std::exchange(drawnFrom_, 0);
+  if (!dock_ || !dock_->isVisible() || from == 0 || dock_->width() == from) return;
   wanted_ = dock_->width();
   saveViewLength(kWidth, wanted_);
   fitPanel();
@@ -169,7 +171,9 @@ bool DockedInspector::eventFilter(QObject* watched, QEvent* event) {
   // Queued: it is after the window has laid itself out, and after the edge is let go.
   if (event->type() == QEvent::Resize || event->type() == QEvent::Show)
     QMetaObject::invokeMethod(this, &DockedInspector::fitPanel, Qt::QueuedConnection);
-  if (event->type() == QEvent::MouseButtonPress && dock_) drawnFrom_ = dock_->width();
+  if (event->type() == QEvent::MouseButtonPress && dock_ &&
+      parts_.mainWindow()->isSeparator(static_cast<QMouseEvent*>(event)->position().toPoint()))
+    drawnFrom_ = dock_->width();
   if (event->type() == QEvent::MouseButtonRelease)
     QMetaObject::invokeMethod(this, &DockedInspector::keepWidth, Qt::QueuedConnection);
   return QObject::eventFilter(watched, event);

@@ -25,8 +25,7 @@ void FullScreen::setUp(QAction& deselect) {
   escape_ = new QShortcut(Qt::Key_Escape, parts_.mainWindow());
   escape_->setEnabled(false);
   connect(escape_, &QShortcut::activated, this, [this] { set(false); });
-  connect(deselect_, &QAction::enabledChanged, this,
-          [this](bool deselects) { escape_->setEnabled(on_ && !deselects); });
+  connect(deselect_, &QAction::changed, this, &FullScreen::validate);
   parts_.mainWindow()->installEventFilter(this);
   parts_.viewWidget()->installEventFilter(this);
 }
@@ -44,10 +43,16 @@ void FullScreen::follow() {
   const bool on = parts_.mainWindow()->isFullScreen();
   if (on == on_) return;
   on_ = on;
-  escape_->setEnabled(on && !deselect_->isEnabled());
+  validate();
   showBars(!on);
   if (auto* bar = parts_.mainWindow()->findChild<QWidget*>(QStringLiteral("bottomBar"))) bar->setVisible(!on);
   parts_.scrollArea()->setBare(on);
+}
+
+void FullScreen::validate() {
+  const bool deselects =
+      deselect_->isEnabled() && deselect_->shortcuts().contains(QKeySequence(Qt::Key_Escape));
+  escape_->setEnabled(on_ && !deselects);
 }
 
 void FullScreen::showBars(bool shown) {

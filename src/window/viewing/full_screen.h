@@ -18,7 +18,7 @@ class FullScreen final : public QObject {
  public:
   FullScreen(WindowParts& parts, QObject* parent);
 
-  /// `deselect` has the Escape key while it is enabled. Not owned.
+  /// `deselect` has the Escape key while it is enabled, unless it was given others. Not owned.
   void setUp(QAction& deselect);
   void set(bool on);
 
@@ -27,6 +27,8 @@ class FullScreen final : public QObject {
 
  private:
   void follow();
+  /// Escape is the full screen's where `deselect` does not have it.
+  void validate();
   void showBars(bool shown);
 
   WindowParts& parts_;

@@ -1,4 +1,5 @@
 // The Export dialog: what follows what, and what it asks for.
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -163,6 +164,27 @@ class ExportDialogTest : public QObject {
     QCOMPARE(changed.size(), 2);
     QCOMPARE(f.dialog.choice().dpi, 300.0);
     QCOMPARE(f.dialog.choice().background, QColor(Qt::white));
+  }
+
+  void aNumberThatIsStillTypedIsChosenWhenItIsTaken() {
+    Shown f;
+    f.dialog.show();
+    QApplication::setActiveWindow(&f.dialog);
+    for (const char* name : {"exportWidth", "exportDpi"}) {
+      auto* field = f.find<QAbstractSpinBox>(name);
+      field->setFocus();
+      field->selectAll();
+      QTest::keyClicks(field, "300");
+      const double before = f.dialog.choice().dpi;
+      QSignalSpy changed(&f.dialog, &ExportDialog::changed);
+      f.dialog.takeTyped();
+      QVERIFY(f.dialog.choice().dpi != before);
+      QVERIFY(!changed.isEmpty());  // what was made of the number before is not written
+    }
+    QCOMPARE(f.dialog.choice().dpi, 300.0);
+    QSignalSpy changed(&f.dialog, &ExportDialog::changed);
+    f.dialog.takeTyped();
+    QVERIFY(changed.isEmpty());
   }
 
   void theLastChoiceIsTheFirst() {

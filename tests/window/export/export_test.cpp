@@ -128,6 +128,20 @@ class ExportTest : public QObject {
     QCOMPARE(QImage(f.path).size(), QSize(120, 90));
   }
 
+  void aNumberThatIsStillTypedIsWhatIsWritten() {
+    ExportFixture f;
+    ExportDialog& dialog = f.dialog();
+    f.name("out");
+    f.choose(PictureFormat::Png);
+    QApplication::setActiveWindow(&dialog);
+    auto* wide = dialog.findChild<QSpinBox*>("exportWidth");
+    wide->setFocus();
+    wide->selectAll();
+    QTest::keyClicks(wide, "300");
+    QVERIFY(f.exported());
+    QCOMPARE(QImage(f.path).width(), 300);
+  }
+
   void theWholePictureIsTurnedAsItIsShown() {
     ExportFixture f;
     f.controller.rotateChange(90);

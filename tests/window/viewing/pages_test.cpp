@@ -8,6 +8,7 @@
 #include "desktop/memory_pasteboard.h"
 #include "kit/test_main.h"
 #include "ui/controls/number_matrix.h"
+#include "ui/controls/zy_form.h"
 #include "ui/pages/page_strip.h"
 #include "ui/pages/page_switch.h"
 #include "ui/picture/zooming_scroll_area.h"
@@ -152,6 +153,22 @@ class PagesTest : public QObject {
     QFile stored(f.folder.filePath("norvex/windows.ini"));
     QVERIFY(stored.open(QIODevice::ReadOnly));
     QVERIFY(stored.readAll().contains("pages=true"));
+  }
+
+  void theNamesAreSeenThoughTheFirstPageWasNeverDrawn() {
+    PagesFixture f(2);
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(0, 0, 300, 400)};
+    picture.facts.pageCount = 2;
+    picture.facts.fonts = {"Symbol"};
+    f.service.setPicture(picture);
+    f.revert();
+    f.pages.show(1);  // as the page is that was shown last
+    f.c.window()->show();
+    f.c.inspectorWindow->show();
+    const auto* names = f.c.inspectorWindow->findChild<ZyForm*>("usesForm")->cellAtIndex(0);
+    QTRY_COMPARE(names->text(), QStringLiteral("Symbol"));
+    for (const RenderRequest& request : f.service.lastProcess()->renderRequests()) QCOMPARE(request.page, 1);
   }
 
   void reloadingBeginsWithTheFirstPage() {

@@ -117,6 +117,19 @@ class ViewingTest : public QObject {
     QVERIFY(f.c.menuBar->height() > 0);
   }
 
+  void escapeLeavesTheFullScreenWhereDeselectHasOtherKeys() {
+    Shown f;
+    auto* deselect = f.c.window()->findChild<QAction*>("deselectAction");
+    f.c.window()->findChild<QAction*>("fullScreenAction")->trigger();
+    QTRY_VERIFY(f.c.window()->isFullScreen());
+    f.c.view()->selectBounds();
+    QVERIFY(deselect->isEnabled());
+    deselect->setShortcut(Qt::CTRL | Qt::Key_D);
+    QTest::keyClick(f.c.window(), Qt::Key_Escape);
+    QTRY_VERIFY(!f.c.window()->isFullScreen());
+    QVERIFY(f.c.view()->selectRect().width() > 0);
+  }
+
   void aFileThatChangesIsShownAgainWhereItWas() {
     Shown f;
     f.c.rotateChange(30);

@@ -13,6 +13,7 @@
 
 #include "base/file_descriptor.h"
 #include "base/file_name.h"
+#include "cli/files/console.h"
 #include "picture/process/peak_memory.h"
 #include "picture/told_error.h"
 #include "types/gzip_mark.h"
@@ -67,6 +68,13 @@ double changedShare(const QByteArray& report) {
   return told.value(u"rasterized").toObject().value(u"areaShare").toDouble();
 }
 
+/// What the command writes for this file, for a reader who sees that of others before and behind it.
+QByteArray namedText(const ArchivePlan& plan, const QByteArray& path, const QByteArray& text) {
+  const bool tellsItsFile = plan.jsonLines || plan.arguments.has(Option::Json);
+  if (plan.arguments.command != Command::Inks || tellsItsFile || text.isEmpty()) return text;
+  return visible(fileNameText(path)).toUtf8() + ":\n" + text;
+}
+
 }  // namespace
 
 RunEntry begunEntry(const ArchivePlan& plan, const FileTask& task) {
@@ -102,6 +110,7 @@ FileResult FileWork::run(const FileTask& task) const {
   result.entry = begunEntry(plan_, task);
   const PeakMemory memory;
   const auto begun = std::chrono::steady_clock::now();
+  const qint64 since = fileClock();
   FileAnswer answer;
   if (const auto made = plan_.outputs ? plan_.outputs->makeFoldersOf(task.output) : Result<void>(); !made) {
     answer = {ExitCode::CannotWrite, made.error(), {}, {}, {}};
@@ -111,6 +120,7 @@ FileResult FileWork::run(const FileTask& task) const {
   }
   bool changes = true;
   for (int i = 0; i < kAttempts && changes && !cancel_.cancelled(); ++i) {
+    if (i > 0 && plan_.outputs && !plan_.outputs->checkFolder()) break;  // nothing there is ours to replace
     const auto before = markOf(task.name.path);
     if (!plan_.state.isEmpty()) result.entry.content = contentHash(task.name.path).value_or(QByteArray());
     answer = attempt(task, task.replace || i > 0);
@@ -118,7 +128,7 @@ FileResult FileWork::run(const FileTask& task) const {
     result.entry.stamp = before ? before->stamp : FileStamp();
   }
   if (changes && answer.code == ExitCode::Done) {
-    if (!task.output.isEmpty()) ::unlink(task.output.constData());  // it shows what the file was
+    if (!task.output.isEmpty()) plan_.outputs->takeBack(task.output, since);  // it shows what the file was
     const QString sentence = QStringLiteral("it is being changed by another program");
     answer = {ExitCode::CannotRead, Error{ErrorKind::CannotRead, sentence}, {}, {}, {}};
     answer.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.name.path), sentence);
@@ -129,7 +139,7 @@ FileResult FileWork::run(const FileTask& task) const {
   result.entry.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begun).count();
   result.entry.memoryKiB = memory.kib();
   result.entry.finished = QDateTime::currentSecsSinceEpoch();
-  keepOutput(result, task, answer);
+  keepOutput(result, task, answer, since);
   return result;
 }
 
@@ -137,7 +147,7 @@ void FileWork::judge(FileResult& result, const FileAnswer& answer) const {
   result.code = answer.code;
   result.verdict = verdictOf(answer);
   result.messages = result.verdict == Verdict::Interrupted ? QString() : answer.messages;
-  result.text = answer.output;
+  result.text = namedText(plan_, result.path, answer.output);
   result.sentence = answer.error ? toldError(*answer.error).sentence : answer.fault;
   // One reason is one reason, whatever file it hits.
   result.sentence.remove(fileNameText(result.entry.output) + QStringLiteral(": "));
@@ -145,11 +155,12 @@ void FileWork::judge(FileResult& result, const FileAnswer& answer) const {
   result.entry.sentence = result.sentence;
 }
 
-void FileWork::keepOutput(FileResult& result, const FileTask& task, const FileAnswer& answer) const {
+void FileWork::keepOutput(FileResult& result, const FileTask& task, const FileAnswer& answer,
+                          qint64 since) const {
   if (result.verdict != Verdict::Done) result.entry.output = QByteArray();
   if (result.verdict != Verdict::Done || task.output.isEmpty()) return;
   if (const auto folder = plan_.outputs->checkFolder(); !folder) {
-    ::unlink(task.output.constData());  // it was written where nobody looks for it
+    plan_.outputs->takeBack(task.output, since);  // it may have been written where nobody looks for it
     return lose(result, task, folder.error().message);
   }
   if (plan_.state.isEmpty()) return;

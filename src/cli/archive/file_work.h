@@ -22,7 +22,7 @@ class FileWork {
   [[nodiscard]] FileAnswer attempt(const FileTask& task, bool replace) const;
   [[nodiscard]] int memoryOf(const QByteArray& path) const;
   void judge(FileResult& result, const FileAnswer& answer) const;
-  void keepOutput(FileResult& result, const FileTask& task, const FileAnswer& answer) const;
+  void keepOutput(FileResult& result, const FileTask& task, const FileAnswer& answer, qint64 since) const;
   void lose(FileResult& result, const FileTask& task, const QString& sentence) const;
 
   PictureService& service_;

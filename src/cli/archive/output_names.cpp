@@ -1,6 +1,7 @@
 #include "cli/archive/output_names.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -8,6 +9,7 @@
 #include <utility>
 
 #include "base/file_name.h"
+#include "cli/archive/state/file_stamp.h"
 #include "types/picture_format.h"
 
 namespace norvex {
@@ -71,6 +73,14 @@ Result<void> OutputNames::makeFoldersOf(const QByteArray& output) const {
     if (::mkdir(output.left(slash).constData(), 0777) != 0 && errno != EEXIST) return cannotMake(errno);
   }
   return {};
+}
+
+void OutputNames::takeBack(const QByteArray& output, qint64 since) const {
+  if (!checkFolder()) {
+    const auto mark = markOf(output);
+    if (!mark || mark->changed < since) return;
+  }
+  ::unlink(output.constData());
 }
 
 }  // namespace norvex

@@ -27,6 +27,9 @@ class OutputNames {
   [[nodiscard]] Result<void> checkFolder() const;
   /// Makes the folders of a result below our own, which is checked. CannotWrite.
   [[nodiscard]] Result<void> makeFoldersOf(const QByteArray& output) const;
+  /// Removes a result that the caller has written since fileClock() was that. Where another folder is in the
+  /// place of ours the file of that name may be another's, and stays.
+  void takeBack(const QByteArray& output, qint64 since) const;
 
  private:
   struct Place {

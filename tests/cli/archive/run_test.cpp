@@ -13,6 +13,8 @@
 
 #include "cli/archive/archive_files.h"
 #include "cli/archive/archive_run.h"
+#include "cli/archive/output_names.h"
+#include "cli/archive/state/file_stamp.h"
 #include "kit/test_main.h"
 #include "protocol/page_contents.h"
 #include "protocol/page_inks.h"
@@ -167,6 +169,51 @@ class RunTest : public QObject {
     QVERIFY(!QFileInfo::exists(gone));
   }
 
+  void aResultInAFolderThatTookThePlaceOfOursIsTakenBack() {
+    Archive archive;
+    archive.put("in/a.svg");
+    archive.service.setPrepare([&](MemoryPictureProcess&) {
+      ::rename(archive.at("out").constData(), archive.at("gone").constData());
+      archive.put("out/other.txt", "another's");
+    });
+    QCOMPARE(archive.convertTree({}), 4);
+    QVERIFY2(archive.console.messages.contains("another one is in its place"),
+             qPrintable(archive.console.messages));
+    QCOMPARE(archive.filesBelow("out"), QList<QByteArray>({"other.txt"}));
+    QCOMPARE(archive.filesBelow("gone"), QList<QByteArray>());
+  }
+
+  void whatWasInThatFolderBeforeIsNotTakenForAResult() {
+    Archive archive;
+    Arguments arguments;
+    arguments.values.insert(Option::Folder, archive.folder("out"));
+    const auto names = OutputNames::of(arguments);
+    QVERIFY(names.has_value());
+    archive.put("other/a.svg", "another's");
+    const qint64 written = markOf(archive.at("other/a.svg"))->changed;
+    qint64 since = fileClock();
+    while (since <= written) since = fileClock();
+    QCOMPARE(::rename(archive.at("out").constData(), archive.at("gone").constData()), 0);
+    QCOMPARE(::rename(archive.at("other").constData(), archive.at("out").constData()), 0);
+    archive.put("out/b.svg");
+    names->takeBack(archive.at("out/a.svg"), since);
+    names->takeBack(archive.at("out/b.svg"), since);
+    QCOMPARE(archive.filesBelow("out"), QList<QByteArray>({"a.svg"}));
+  }
+
+  void aFileThatChangesIsNotDoneAgainInAnotherFolder() {
+    Archive archive;
+    archive.put("in/a.svg", svg("old"));
+    archive.put("other/a.svg", "another's");
+    archive.service.setPrepare([&](MemoryPictureProcess&) {
+      ::rename(archive.at("out").constData(), archive.at("gone").constData());
+      ::rename(archive.at("other").constData(), archive.at("out").constData());
+      archive.put("in/a.svg", svg("newer"));
+    });
+    QCOMPARE(archive.convertTree({}), 4);
+    QCOMPARE(archive.bytesAt("out/a.svg"), QByteArray("another's"));
+  }
+
   void namesThatWouldBecomeOneAreToldBeforeAnythingIsWritten() {
     Archive archive;
     archive.put("in/a.svg"), archive.put("in/a.svgz"), archive.put("in/b.svg");
@@ -300,6 +347,13 @@ class RunTest : public QObject {
     }
     QCOMPARE(archive.go(run), 0);
     QVERIFY(archive.console.messages.endsWith("2 unchanged\n"));
+    QCOMPARE(archive.go({"inks", "--recursive", archive.path("in")}), 0);
+    const QList<QByteArray> told = archive.console.output.split('\n');
+    QCOMPARE(told.size(), 2 * 7 + 1);
+    QCOMPARE(QSet<QByteArray>({told.at(0), told.at(7)}),
+             QSet<QByteArray>({archive.at("in/a/b.EPS") + ':', archive.at("in/c.pdf") + ':'}));
+    QVERIFY(told.at(1).startsWith("Cyan "));
+    QVERIFY(told.at(13).startsWith("most ink in one place: "));
   }
 
   void anArchiveIsRepairedIntoATreeOfTheSameNames() {

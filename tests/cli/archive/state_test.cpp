@@ -5,7 +5,6 @@
 #include <QRegularExpression>
 #include <QSet>
 
-
 #include <atomic>
 #include <utility>
 

@@ -8,21 +8,32 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <ctime>
 
 #include "base/file_descriptor.h"
 
 namespace norvex {
+namespace {
+
+qint64 nanoseconds(const timespec& time) {
+  return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+}  // namespace
 
 std::optional<FileMark> markOf(const QByteArray& path) {
   struct stat status {};
   if (::stat(path.constData(), &status) != 0) return std::nullopt;
-  const auto nanoseconds = [](const timespec& time) {
-    return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
-  };
   return FileMark{{status.st_size, nanoseconds(status.st_mtim)},
                   status.st_dev,
                   status.st_ino,
                   nanoseconds(status.st_ctim)};
+}
+
+qint64 fileClock() {
+  timespec now{};
+  ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
+  return nanoseconds(now);
 }
 
 std::optional<FileStamp> stampOf(const QByteArray& path) {

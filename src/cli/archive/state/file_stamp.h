@@ -28,6 +28,10 @@ struct FileMark {
 [[nodiscard]] std::optional<FileStamp> stampOf(const QByteArray& path);
 [[nodiscard]] std::optional<FileMark> markOf(const QByteArray& path);
 
+/// The time that FileMark::changed of a file gets which is changed now, where the file system is of this
+/// machine.
+[[nodiscard]] qint64 fileClock();
+
 /// SHA-256 of an ordinary file's bytes, read piece by piece; nothing when it cannot be read.
 [[nodiscard]] std::optional<QByteArray> contentHash(const QByteArray& path);
 

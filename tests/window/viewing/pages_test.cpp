@@ -155,7 +155,7 @@ class PagesTest : public QObject {
     QVERIFY(stored.readAll().contains("pages=true"));
   }
 
-  void theNamesAreSeenThoughTheFirstPageWasNeverDrawn() {
+  void theNamesAreSeenWhicheverPageIsShownFirst() {
     PagesFixture f(2);
     MemoryPicture picture;
     picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(0, 0, 300, 400)};
@@ -168,7 +168,6 @@ class PagesTest : public QObject {
     f.c.inspectorWindow->show();
     const auto* names = f.c.inspectorWindow->findChild<ZyForm*>("usesForm")->cellAtIndex(0);
     QTRY_COMPARE(names->text(), QStringLiteral("Symbol"));
-    for (const RenderRequest& request : f.service.lastProcess()->renderRequests()) QCOMPARE(request.page, 1);
   }
 
   void reloadingBeginsWithTheFirstPage() {

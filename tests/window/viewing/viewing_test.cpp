@@ -122,6 +122,7 @@ class ViewingTest : public QObject {
     auto* deselect = f.c.window()->findChild<QAction*>("deselectAction");
     f.c.window()->findChild<QAction*>("fullScreenAction")->trigger();
     QTRY_VERIFY(f.c.window()->isFullScreen());
+    QTRY_COMPARE(f.c.viewWidget()->size(), f.c.window()->size());
     f.c.view()->selectBounds();
     QVERIFY(deselect->isEnabled());
     deselect->setShortcut(Qt::CTRL | Qt::Key_D);

@@ -45,7 +45,7 @@ struct EncoderSurroundings {
   bool isLastUse = false;  ///< of the picture: its process may go when nothing is left to ask
   SourceActions actions = SourceActions::WithTheWhole;
   bool keepText = false;  ///< in an SVG that is drawn of the picture: as text, with its fonts
-  bool onePage = false;  ///< hand out the shown page of a PDF, not the whole file
+  bool onePage = false;   ///< hand out the shown page of a PDF, not the whole file
   /// A PDF of a picture with a description and no title is made without a subject, with a warning; otherwise
   /// it is not made.
   bool subjectMayBeLeftOut = false;

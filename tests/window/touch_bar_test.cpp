@@ -167,7 +167,9 @@ class TouchBarTest : public QObject {
     kit::MemorySpooler spooler({{"Office", "Office", PrinterState::Idle, true, true}});
     kit::ScriptedInteraction people;
     QSizeF printed;
-    people.onPanel = [&](NSPrintOperation& operation) { printed = operation.view().printSource().shown.size; };
+    people.onPanel = [&](NSPrintOperation& operation) {
+      printed = operation.view().printSource().shown.size;
+    };
     people.printsFromPanel = false;
     MainWindowController& c = fixture.loadedEps();
     c.setPrintServices({nullptr, &spooler, &people});

@@ -21,9 +21,9 @@ namespace norvex {
 class WindowParts;
 
 /// Shows the plates in the place of the picture: those of the whole page at once, and those of the part that
-/// is visible, finer than it is shown, when the view has stood still for a moment. Copying, saving and printing
-/// take the picture as before. Work happens on other threads and ends with the window. The parts outlive it.
-/// Main thread.
+/// is visible, finer than it is shown, when the view has stood still for a moment. Copying, saving and
+/// printing take the picture as before. Work happens on other threads and ends with the window. The parts
+/// outlive it. Main thread.
 class InksInPicture final : public QObject {
   Q_OBJECT
  public:

@@ -276,8 +276,9 @@ class SeparationsTest : public QObject {
 
   void aDamagedDocumentTellsOfNoInks() {
     QVERIFY(inkAlternates("%PDF-1.7 and nothing else").isEmpty());
-    QVERIFY(inkAlternates(kit::onePage("", "/MediaBox [0 0 9 9] /Resources << /ColorSpace << /S [/DeviceN [/A] "
-                                           "/DeviceCMYK] /T [/Separation /B 7 0 R 8 0 R] >> >>"))
+    QVERIFY(inkAlternates(kit::onePage("",
+                                       "/MediaBox [0 0 9 9] /Resources << /ColorSpace << /S [/DeviceN [/A] "
+                                       "/DeviceCMYK] /T [/Separation /B 7 0 R 8 0 R] >> >>"))
                 .isEmpty());
   }
 

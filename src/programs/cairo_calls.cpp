@@ -3,7 +3,11 @@
 // that loaded the library before it is looked for in cairo: these are the ones that are called. A library
 // stays bound to the module that loaded it first, and each module has its own key for what is asked of a
 // context: in a process that has loaded two modules, only what the first of them draws has these edges.
+// librsvg strokes with cairo_stroke_preserve(), and sets width and matrix just before.
+#include <dlfcn.h>
+
 #include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/stroke_measure.h"
 
 #define NORVEX_STANDS_IN extern "C" __attribute__((visibility("default")))
 
@@ -13,4 +17,13 @@ NORVEX_STANDS_IN void cairo_clip(cairo_t* context) {
 
 NORVEX_STANDS_IN void cairo_fill(cairo_t* context) {
   norvex::engine::fillBetweenPixels(context);
+}
+
+NORVEX_STANDS_IN void cairo_stroke_preserve(cairo_t* context) {
+  static const auto cairos =
+      reinterpret_cast<void (*)(cairo_t*)>(::dlsym(RTLD_NEXT, "cairo_stroke_preserve"));
+  const double before = cairo_get_tolerance(context);
+  cairo_set_tolerance(context, norvex::engine::strokeTolerance(context));
+  cairos(context);
+  cairo_set_tolerance(context, before);
 }

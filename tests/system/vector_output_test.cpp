@@ -293,6 +293,26 @@ class VectorOutputTest : public QObject {
     }
   }
 
+  void aStrokeOfAnSvgIsNeverTooThinForItsPdf() {
+    const QTemporaryDir folder;
+    // Points, from what is no thicker than a grain of toner is wide. cairo leaves out what is thinner.
+    const QList<double> widths{0.013, 0.02, 0.04, 0.049, 0.051, 0.1, 0.3, 1, 20};
+    QByteArray svg =
+        "<svg xmlns='http://www.w3.org/2000/svg' width='100pt' height='100pt' viewBox='0 0 100 100'>";
+    for (const double width : widths)
+      svg += "<path fill='none' stroke='red' d='M10 10C90 20 10 80 90 90' stroke-width='" +
+             QByteArray::number(width) + "'/>";
+    QFile source(folder.filePath("a.svg"));
+    QVERIFY(source.open(QIODevice::WriteOnly));
+    source.write(svg + "</svg>");
+    source.close();
+    QCOMPARE(kit::norvex({"convert", source.fileName(), "-o", folder.filePath("a.pdf")}).exitCode, 0);
+    const QString pdf = QString::fromLatin1(
+        run("qpdf", {"--qdf", "--object-streams=disable", folder.filePath("a.pdf"), "-"}).out);
+    static const QRegularExpression stroke(QStringLiteral("\\bc\\s+S\\b"));
+    QCOMPARE(pdf.count(stroke), widths.size());
+  }
+
   void postScriptInCmykStaysSo() {
     const QTemporaryDir folder;
     QFile source(folder.filePath("a.eps"));

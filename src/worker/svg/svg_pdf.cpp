@@ -12,6 +12,7 @@
 
 #include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"
+#include "worker/drawing/stroke_measure.h"
 #include "worker/pdf/page_form.h"
 #include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_writing.h"
@@ -22,7 +23,8 @@ namespace {
 
 constexpr double kUnitsPerInch = 300;
 constexpr double kLargestLetter = 60'000;
-constexpr double kMorphologyReach = 10;  // librsvg cuts feMorphology's radius to so many units of the target
+constexpr double kStrokeTolerance = 0.1;  // of a point: cairo's own, for a page drawn in points
+constexpr double kMorphologyReach = 10;   // librsvg cuts feMorphology's radius to so many units of the target
 
 /// librsvg places glyphs, and makes the images of filters and masks, in whole units of the target. The page
 /// is drawn larger for their sake; fitPage() makes it small again.
@@ -105,6 +107,7 @@ Result<QByteArray> svgToPdf(const SvgRenderer& renderer, const QSizeF& pixels, c
   const double units = pointsPerPixel * scale;
   const auto draw = [&](cairo_t* target) {
     cairo_scale(target, units, units);
+    askForCoarseStrokes(target, kStrokeTolerance * scale);
     return renderer.draw(target, pixels);
   };
   const bool outlined = effects.stretchedText || isTooLarge(effects, units);

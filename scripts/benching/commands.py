@@ -4,7 +4,9 @@ import shutil
 from .timing import Row, in_turn
 
 GS_PDF = ["gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=pdfwrite", "-o"]
-GS_PNG = ["gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=png16m", "-r72", "-o"]
+# With smooth edges, as ours are.
+GS_PNG = ["gs", "-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-dGraphicsAlphaBits=4", "-dTextAlphaBits=4",
+          "-sDEVICE=png16m", "-r72", "-o"]
 
 # name, kind of drawing, format, peer, its command for (file, out)
 CONVERSIONS = [

@@ -8,12 +8,12 @@ import time
 
 from .timing import Row
 
-# group, kind, curves, [(peer, target)]
+# group, kind, curves, milliseconds without a change after which it is complete, [(peer, target)]
 PICTURES = [
-    ("small EPS on screen", "eps", 900, [("gv", 0.8), ("evince", 0.35), ("okular", 0.35)]),
-    ("large EPS on screen", "eps", 7000, [("gv", 0.8), ("evince", 0.35), ("okular", 0.35)]),
-    ("PDF on screen", "pdf", 900, [("mupdf", 1.3), ("evince", 0.25), ("okular", None)]),
-    ("SVG on screen", "svg", 1600, [("eog", 0.3), ("inkscape", None)]),
+    ("small EPS on screen", "eps", 900, 1500, [("gv", 0.8), ("evince", 0.35), ("okular", 0.35)]),
+    ("large EPS on screen", "eps", 7000, 5000, [("gv", 0.8), ("evince", 0.35), ("okular", 0.35)]),
+    ("PDF on screen", "pdf", 900, 1500, [("mupdf", 1.3), ("evince", 0.25), ("okular", None)]),
+    ("SVG on screen", "svg", 1600, 1500, [("eog", 0.3), ("inkscape", None)]),
 ]
 MEMORY = [("evince", None), ("okular", None), ("mupdf", None), ("gv", None)]
 LIMIT_MB = 45
@@ -43,9 +43,9 @@ def screen():
 def first_pictures(norvex, open_bench, drawings, rounds, say):
     rows = []
     with screen() as environment:
-        for group, kind, count, wanted in PICTURES:
+        for group, kind, count, still, wanted in PICTURES:
             peers = [(peer, target) for peer, target in wanted if shutil.which(peer)]
-            command = [open_bench, "--samples", drawings(kind, count), str(rounds), norvex,
+            command = [open_bench, "--samples", "--still", still, drawings(kind, count), str(rounds), norvex,
                        *(shutil.which(peer) for peer, _ in peers)]
             told = subprocess.run([str(part) for part in command], env=environment, stdout=subprocess.PIPE,
                                   stderr=subprocess.DEVNULL, text=True, check=True).stdout

@@ -1,8 +1,9 @@
 // From command to complete picture on screen: starts each program in turn on the same file, looks at the
 // whole screen until it no longer changes, and tells when it changed last. A blinking cursor and a title's
-// icon are no change.
+// icon are no change. Programs that show an empty window and draw for longer than it waits (1,500 ms) would
+// seem ready with that: --still tells how long.
 //
-//   xvfb-run -s "-screen 0 1600x1100x24" open_bench [--samples] FILE ROUNDS PROGRAM [PROGRAM…]
+//   xvfb-run -s "-screen 0 1600x1100x24" open_bench [--samples] [--still MS] FILE ROUNDS PROGRAM [PROGRAM…]
 //
 // Prints the median of each program in milliseconds and the ratio to the first one's; with --samples a line
 // for each program: its name and the milliseconds of each round, with tabs between them. Run it with a window
@@ -22,7 +23,6 @@
 
 namespace {
 
-constexpr int stillMilliseconds = 1500;  // no change for so long: the picture is complete
 constexpr int longestMilliseconds = 30000;
 constexpr int smallestChange = 600;  // pixels
 
@@ -43,15 +43,15 @@ bool differs(const QImage& one, const QImage& other) {
   return false;
 }
 
-double millisecondsToCompletePicture(const QString& program, const QString& file) {
+/// No change for `still` milliseconds: the picture is complete.
+double millisecondsToCompletePicture(const QString& program, const QString& file, int still) {
   QImage last = screenImage();
   QProcess process;
   QElapsedTimer clock;
   clock.start();
   process.start(program, {file});
   double changed = 0;
-  while (clock.elapsed() < longestMilliseconds &&
-         (changed == 0 || clock.elapsed() - changed < stillMilliseconds)) {
+  while (clock.elapsed() < longestMilliseconds && (changed == 0 || clock.elapsed() - changed < still)) {
     const double now = double(clock.nsecsElapsed()) / 1e6;
     const QImage image = screenImage();
     if (differs(image, last)) {
@@ -73,15 +73,20 @@ int main(int argc, char** argv) {
   QGuiApplication application(argc, argv);
   QStringList given = QGuiApplication::arguments();
   const bool samples = given.removeAll(QStringLiteral("--samples")) > 0;
-  if (given.size() < 4) {
-    std::fprintf(stderr, "usage: open_bench [--samples] FILE ROUNDS PROGRAM [PROGRAM…]\n");
+  int still = 1500;
+  if (const qsizetype at = given.indexOf(QStringLiteral("--still")); at > 0 && at + 1 < given.size()) {
+    still = given[at + 1].toInt();
+    given.remove(at, 2);
+  }
+  if (given.size() < 4 || still <= 0) {
+    std::fprintf(stderr, "usage: open_bench [--samples] [--still MS] FILE ROUNDS PROGRAM [PROGRAM…]\n");
     return 2;
   }
   const QStringList programs = given.mid(3);
   QHash<QString, QList<double>> times;
   for (int round = 0; round < given[2].toInt(); ++round)
     for (const QString& program : programs)
-      times[program] << millisecondsToCompletePicture(program, given[1]);
+      times[program] << millisecondsToCompletePicture(program, given[1], still);
   double first = 0;
   for (const QString& program : programs) {
     QList<double> all = times[program];

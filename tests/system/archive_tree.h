@@ -67,6 +67,17 @@ class Tree {
     return {"convert",  "--recursive", path("in"), "--to",     path(to),
             "--format", "pdf",         "--state",  path(state)};
   }
+  /// The same for files that are listed on standard input, and their names.
+  [[nodiscard]] QStringList listArguments(const QString& to, const QString& state) const {
+    QStringList all = arguments(to, state);
+    all.replace(1, "--files-from"), all.replace(2, "-");
+    return all + QStringList{"--base", path("in"), "--json-lines"};
+  }
+  [[nodiscard]] QStringList names() const {
+    QStringList all;
+    for (const QString& below : contentsOf(path("in")).keys()) all << path("in/" + below);
+    return all;
+  }
   [[nodiscard]] static kit::Ran run(const QStringList& arguments) {
     return kit::norvex(arguments, {}, 600, {"SOURCE_DATE_EPOCH=1000000000"});
   }

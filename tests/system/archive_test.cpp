@@ -176,6 +176,41 @@ class ArchiveSystemTest : public QObject {
     QVERIFY2(late - early < 5 * 1024, qPrintable(QStringLiteral("%1 to %2 KiB").arg(early).arg(late)));
   }
 
+  /// Every thread has pictures of other sizes, and what they leave must not add up.
+  void theMemoryOfARunDoesNotGrowWithTheSizesOfItsPictures() {
+    constexpr int count = 400;
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkdir("out");
+    QByteArray list;
+    for (int i = 0; i < count; ++i) {
+      const QString name = folder.filePath(QStringLiteral("in/%1.svg").arg(i));
+      write(name,
+            QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' width='%1' height='%2'><rect width='90' "
+                           "height='%3'/></svg>")
+                .arg(100 + i * 37 % 700)
+                .arg(100 + i * 61 % 500)
+                .arg(i)
+                .toUtf8());
+      list += name.toUtf8() + '\n';
+    }
+    QProcess filter;
+    filter.start(norvexProgram(), {"convert", "--files-from", "-", "--to", folder.filePath("out"), "--format",
+                                   "png", "--json-lines", "--state", folder.filePath("state"), "-q"});
+    filter.write(list);
+    filter.closeWriteChannel();
+    qint64 early = 0, most = 0;
+    for (int answered = 0; answered < count;) {
+      QVERIFY(filter.canReadLine() || filter.waitForReadyRead(60'000));
+      if (filter.readLine().isEmpty()) continue;
+      if (++answered == 20) early = residentKiB(filter.processId());
+      if (answered % 10 == 0) most = std::max(most, residentKiB(filter.processId()));
+    }
+    QVERIFY(filter.waitForFinished(60'000));
+    QCOMPARE(filter.exitCode(), 0);
+    qInfo("resident: %lld KiB after 20 files, %lld KiB at most", early, most);
+    QVERIFY2(early > 0 && most - early < 10 * 1024, qPrintable(QString("%1 to %2 KiB").arg(early).arg(most)));
+  }
+
   void aPictureProcessThatIsKilledCostsNoFile() {
     const QTemporaryDir folder;
     QByteArray list;

@@ -47,4 +47,9 @@ void giveBackUnusedMemory() {
   ::dl_iterate_phdr(letGoOfPages, nullptr);
 }
 
+void giveBackLargeBlocks() {
+  constexpr int large = 128 << 10;  // what it begins with; said, it stays
+  ::mallopt(M_MMAP_THRESHOLD, large);
+}
+
 }  // namespace norvex

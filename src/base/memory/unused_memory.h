@@ -8,4 +8,10 @@ namespace norvex {
 /// with the first access, from the system's own cache. Takes about a millisecond; thread-safe.
 void giveBackUnusedMemory();
 
+/// From now on every large block of memory is the system's own and goes back to it when it is freed.
+/// Otherwise the heap learns from the first large block that is freed to keep such blocks for the next, and
+/// each of its parts (one for some threads) grows to the most that these threads ever had at a time. For
+/// programs that go over many files with many threads; thread-safe.
+void giveBackLargeBlocks();
+
 }  // namespace norvex

@@ -64,9 +64,10 @@ ExitCode ArchiveCommand::status(const Arguments& arguments) {
   for (const QString& other : others)
     if (const auto merged = (*state)->merge(fileNameBytes(other)); !merged)
       return fail(other, merged.error());
-  const StateSummary summary = summaryOf((*state)->database());
-  const QByteArray text = arguments.has(Option::Json) ? jsonOutput(QJsonDocument(summaryObject(summary)))
-                                                      : summaryText(summary).toUtf8();
+  const Result<StateSummary> summary = summaryOf((*state)->database());
+  if (!summary) return fail(file, {ErrorKind::CannotRead, summary.error().message});
+  const QByteArray text = arguments.has(Option::Json) ? jsonOutput(QJsonDocument(summaryObject(*summary)))
+                                                      : summaryText(*summary).toUtf8();
   if (!console_.write(text)) return failToWrite();
   state->reset();
   return report.isEmpty() ? ExitCode::Done : writeReport(path, fileNameBytes(report));
@@ -77,7 +78,7 @@ ExitCode ArchiveCommand::writeReport(const QByteArray& state, const QByteArray& 
     return complain(Command::Status, QStringLiteral("a report ends in .html or .jsonl"));
   const auto opened = RunState::openToRead(state);
   if (!opened) return fail(fileNameText(state), {ErrorKind::CannotRead, opened.error().message});
-  const Result<void> written = writeStateReport((*opened)->database(), service_, report);
+  const Result<void> written = writeStateReport(absolutePath(state), (*opened)->database(), service_, report);
   return written ? ExitCode::Done : fail(fileNameText(report), written.error());
 }
 

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/atomic_file.h"
 #include "base/file_name.h"
 #include "base/latin1_text.h"
 #include "cli/archive/names/list_source.h"
@@ -116,11 +117,28 @@ void readLimits(ArchivePlan& plan, ValueReader& values) {
                         .arg(plan.memoryMiB));
 }
 
+/// True if a result would lie where the run, or the next one, finds it as a file to work on.
+bool readsItsResults(const ArchivePlan& plan) {
+  if (!plan.tree || !plan.outputs) return false;
+  if (!isSameFile(fileNameText(*plan.tree), fileNameText(plan.outputs->folder()))) return false;
+  const QByteArray sample = "picture";
+  const QByteArray output = plan.outputs->outputOf({sample, sample});
+  const QByteArray name = output.mid(output.lastIndexOf('/') + 1);
+  return name == sample || (plan.filter.takes(name) && !plan.filter.excludes(name));
+}
+
 QString complaintAbout(const ArchivePlan& plan) {
   const bool writes = (rowOf(Option::Folder).commands & only(plan.arguments.command)) != 0;
   if (writes && !plan.outputs) return QStringLiteral("--to DIR is needed");
   const bool isReport = plan.report.endsWith(".html") || plan.report.endsWith(".jsonl");
   if (!plan.report.isEmpty() && !isReport) return QStringLiteral("a report ends in .html or .jsonl");
+  if (!plan.report.isEmpty() && absolutePath(plan.report) == absolutePath(plan.state))
+    return QStringLiteral("--state and --report name the same file");
+  if (readsItsResults(plan))
+    return QStringLiteral(
+        "--to is the folder that is read, and its results would be taken for pictures to read; choose "
+        "another "
+        "one, or leave them out by --exclude");
   return {};
 }
 
@@ -157,7 +175,7 @@ Result<std::unique_ptr<NameSource>> ArchivePlan::names(const CancelToken& cancel
     Result<FileDescriptor> opened = openList(*list);
     if (!opened) return Error{opened.error().kind, fileNameText(*list) + ": " + opened.error().message};
     const char separator = arguments.has(Option::Null) ? '\0' : '\n';
-    chained->add(std::make_unique<ListSource>(std::move(*opened), separator, base, cancel));
+    chained->add(std::make_unique<ListSource>(std::move(*opened), separator, base, cancel, *list));
   }
   if (tree)
     chained->add(

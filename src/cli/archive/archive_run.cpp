@@ -7,8 +7,10 @@
 #include <vector>
 
 #include "base/file_name.h"
+#include "base/memory/unused_memory.h"
 #include "cli/archive/file_work.h"
 #include "cli/archive/result_line.h"
+#include "cli/archive/standstill.h"
 
 namespace norvex {
 namespace {
@@ -98,7 +100,9 @@ ExitCode ArchiveRun::checkNames() {
     if (++collisions <= kToldCollisions) message(name->path, collision(output, **claimed));
   }
   if (collisions > 0) {
-    console_.message(QStringLiteral("norvex: %1 names collide; nothing is written").arg(collisions));
+    console_.message(collisions == 1
+                         ? QStringLiteral("norvex: 1 name collides with another; nothing is written")
+                         : QStringLiteral("norvex: %1 names collide; nothing is written").arg(collisions));
     return ExitCode::Usage;
   }
   if (!plan_.shard.byContent) total_ = count;
@@ -140,6 +144,8 @@ ExitCode ArchiveRun::run() {
     ending_.cancel();
     window_.stop();
   });
+  giveBackLargeBlocks();
+  const Standstill standstill;
   std::vector<std::jthread> threads;
   threads.emplace_back([&] { feed(**names); });
   // Twice as many as places: what takes long gives its place up and keeps its thread.
@@ -203,8 +209,12 @@ std::optional<FileResult> ArchiveRun::knownBefore(FileTask& task) {
   if (claims_) {
     const auto claimed = claims_->claim(task.output, task.name.path);
     if (!claimed) return refused(task, Verdict::Unwritten, ExitCode::CannotWrite, claimed.error().message);
-    if (*claimed)
-      return refused(task, Verdict::Unwritten, ExitCode::CannotWrite, collision(task.output, **claimed));
+    if (*claimed) {
+      FileResult result =
+          refused(task, Verdict::Unwritten, ExitCode::CannotWrite, collision(task.output, **claimed));
+      result.isInTheWay = true;
+      return result;
+    }
   }
   return state_ ? stateAnswer(task) : std::nullopt;
 }
@@ -285,11 +295,15 @@ bool ArchiveRun::tellOne(const FileResult& result) {
       breakOff({ErrorKind::CannotWrite, QStringLiteral("standard output cannot be written")}, "-");
     return false;
   }
-  brokenInARow_ = result.verdict == Verdict::Unwritten ? brokenInARow_ + 1 : 0;
+  if (result.verdict != Verdict::Unwritten)
+    brokenInARow_ = 0;
+  else if (!result.isInTheWay)
+    ++brokenInARow_;
   if (brokenInARow_ < sizes_.brokenInARow) return kept;
-  breakOff({ErrorKind::CannotWrite,
-            QStringLiteral("%1 results in a row could not be written; the run ends").arg(brokenInARow_)},
-           result.path);
+  breakOff(
+      {ErrorKind::CannotWrite,
+       QStringLiteral("%1 results in a row could not be made or written; the run ends").arg(brokenInARow_)},
+      result.path);
   return false;
 }
 

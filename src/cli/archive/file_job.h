@@ -12,6 +12,7 @@ namespace norvex {
 struct FileAnswer {
   ExitCode code = ExitCode::Done;
   std::optional<Error> error;  ///< of the file, where the command told one
+  bool isNoFault = false;      ///< of the file that there is no result
   QString fault;               ///< of a file that was looked at and is not as it should be
   QByteArray output;
   QString messages;

@@ -28,10 +28,11 @@ struct FileResult {
   Verdict verdict = Verdict::Done;
   ExitCode code = ExitCode::Done;
   QByteArray path;
-  QByteArray text;   ///< for standard output, as the command writes it for this file alone
-  QString messages;  ///< for standard error, lines with their ends
-  QString sentence;  ///< why there is no result
-  RunEntry entry;    ///< for the state
+  QByteArray text;          ///< for standard output, as the command writes it for this file alone
+  QString messages;         ///< for standard error, lines with their ends
+  QString sentence;         ///< why there is no result
+  RunEntry entry;           ///< for the state
+  bool isInTheWay = false;  ///< not written because its own place is taken: no sign that others cannot be
 
   /// The bytes that it takes while it waits to be told, about.
   [[nodiscard]] qint64 weight() const { return 512 + text.size() + 2 * messages.size(); }

@@ -1,6 +1,7 @@
 #include "cli/archive/file_work.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDateTime>
@@ -9,10 +10,12 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 
 #include "base/file_descriptor.h"
 #include "base/file_name.h"
+#include "cli/archive/standstill.h"
 #include "cli/files/console.h"
 #include "picture/process/peak_memory.h"
 #include "picture/told_error.h"
@@ -28,6 +31,10 @@ bool hasDied(const FileAnswer& answer) {
   return answer.error && (answer.error->kind == ErrorKind::Died || answer.error->kind == ErrorKind::Protocol);
 }
 
+bool hasTimedOut(const FileAnswer& answer) {
+  return answer.error && answer.error->kind == ErrorKind::TimedOut;
+}
+
 /// True if one process alone will work on it: PostScript takes an interpreter besides.
 bool needsOneProcess(const QByteArray& path) {
   const FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
@@ -38,10 +45,16 @@ bool needsOneProcess(const QByteArray& path) {
          bytes.startsWith("\xEF\xBB\xBF<");
 }
 
+/// True if no file of that name can be.
+bool isTooLong(const QByteArray& path) {
+  struct stat status {};
+  return ::lstat(path.constData(), &status) != 0 && errno == ENAMETOOLONG;
+}
+
 Verdict verdictOf(const FileAnswer& answer) {
   if (answer.code == ExitCode::Done) return Verdict::Done;
   if (answer.code == ExitCode::Interrupted) return Verdict::Interrupted;
-  if (hasDied(answer)) return Verdict::SetAside;
+  if (hasDied(answer)) return answer.isNoFault ? Verdict::Unwritten : Verdict::SetAside;
   const bool isElsewhere = answer.code == ExitCode::CannotWrite || answer.code == ExitCode::NoSandbox ||
                            answer.code == ExitCode::Usage;
   return isElsewhere ? Verdict::Unwritten : Verdict::Failed;
@@ -100,7 +113,18 @@ FileAnswer FileWork::attempt(const FileTask& task, bool replace) const {
     if (!hasDied(answer) || cancel_.cancelled()) return answer;
   }
   const WorkPlaces::Turn turn = places_.takeAlone();
-  return doWithFile(service_, arguments);
+  FileAnswer answer = doWithFile(service_, arguments);
+  answer.isNoFault = hasDied(answer) && !canReadPictures(task.name.path);
+  return answer;
+}
+
+/// True if processes of others do their work: what ends that of a file is then the file.
+bool FileWork::canReadPictures(const QByteArray& path) const {
+  const bool postScript = !needsOneProcess(path);
+  const QByteArray picture = postScript ? "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\nshowpage\n"
+                                        : "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
+  const auto process = service_.open(picture, postScript ? PictureKind::Eps : PictureKind::Svg);
+  return process->facts(cancel_).ok();
 }
 
 FileResult FileWork::run(const FileTask& task) const {
@@ -113,29 +137,32 @@ FileResult FileWork::run(const FileTask& task) const {
   const qint64 since = fileClock();
   FileAnswer answer;
   if (const auto made = plan_.outputs ? plan_.outputs->makeFoldersOf(task.output) : Result<void>(); !made) {
-    answer = {ExitCode::CannotWrite, made.error(), {}, {}, {}};
+    answer = {ExitCode::CannotWrite, made.error(), false, {}, {}, {}};
     answer.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.output), made.error().message);
-    judge(result, answer);
+    judge(result, task, answer);
     return result;
   }
-  bool changes = true;
-  for (int i = 0; i < kAttempts && changes && !cancel_.cancelled(); ++i) {
+  bool again = true, changes = false;
+  for (int i = 0; i < kAttempts && again && !cancel_.cancelled(); ++i) {
     if (i > 0 && plan_.outputs && !plan_.outputs->checkFolder()) break;  // nothing there is ours to replace
     const auto before = markOf(task.name.path);
     if (!plan_.state.isEmpty()) result.entry.content = contentHash(task.name.path).value_or(QByteArray());
+    const int stood = timesStoodStill();
     answer = attempt(task, task.replace || i > 0);
     changes = before != markOf(task.name.path);
+    // The time in which the whole program stood still is not the file's.
+    again = changes || (hasTimedOut(answer) && stood != timesStoodStill());
     result.entry.stamp = before ? before->stamp : FileStamp();
   }
   if (changes && answer.code == ExitCode::Done) {
     if (!task.output.isEmpty()) plan_.outputs->takeBack(task.output, since);  // it shows what the file was
     const QString sentence = QStringLiteral("it is being changed by another program");
-    answer = {ExitCode::CannotRead, Error{ErrorKind::CannotRead, sentence}, {}, {}, {}};
+    answer = {ExitCode::CannotRead, Error{ErrorKind::CannotRead, sentence}, false, {}, {}, {}};
     answer.messages = QStringLiteral("norvex: %1: %2\n").arg(fileNameText(task.name.path), sentence);
     result.entry.stamp = {};
   }
   if (cancel_.cancelled() && answer.code != ExitCode::Done) answer.code = ExitCode::Interrupted;
-  judge(result, answer);
+  judge(result, task, answer);
   result.entry.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begun).count();
   result.entry.memoryKiB = memory.kib();
   result.entry.finished = QDateTime::currentSecsSinceEpoch();
@@ -143,9 +170,13 @@ FileResult FileWork::run(const FileTask& task) const {
   return result;
 }
 
-void FileWork::judge(FileResult& result, const FileAnswer& answer) const {
+void FileWork::judge(FileResult& result, const FileTask& task, const FileAnswer& answer) const {
   result.code = answer.code;
   result.verdict = verdictOf(answer);
+  if (result.verdict == Verdict::Unwritten && !task.output.isEmpty()) {
+    if (isTooLong(task.output)) result.verdict = Verdict::Failed;  // no other time will do
+    result.isInTheWay = !task.replace && !plan_.arguments.has(Option::Force) && stampOf(task.output);
+  }
   result.messages = result.verdict == Verdict::Interrupted ? QString() : answer.messages;
   result.text = namedText(plan_, result.path, answer.output);
   result.sentence = answer.error ? toldError(*answer.error).sentence : answer.fault;

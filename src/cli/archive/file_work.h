@@ -14,14 +14,17 @@ class FileWork {
   FileWork(PictureService& service, const ArchivePlan& plan, WorkPlaces& places, const CancelToken& cancel)
       : service_(service), plan_(plan), places_(places), cancel_(cancel) {}
 
-  /// Waits for its place. A file that changes meanwhile is done again; one whose picture process ends is
-  /// tried once more while nothing else runs, then set aside.
+  /// Waits for its place. A file that changes meanwhile is done again, and so is one whose time was over
+  /// after the program had been stopped; one whose picture process ends is tried once more while nothing else
+  /// runs, then set
+  /// aside, unless no picture can be read: that is no fault of the file.
   [[nodiscard]] FileResult run(const FileTask& task) const;
 
  private:
   [[nodiscard]] FileAnswer attempt(const FileTask& task, bool replace) const;
+  [[nodiscard]] bool canReadPictures(const QByteArray& path) const;
   [[nodiscard]] int memoryOf(const QByteArray& path) const;
-  void judge(FileResult& result, const FileAnswer& answer) const;
+  void judge(FileResult& result, const FileTask& task, const FileAnswer& answer) const;
   void keepOutput(FileResult& result, const FileTask& task, const FileAnswer& answer, qint64 since) const;
   void lose(FileResult& result, const FileTask& task, const QString& sentence) const;
 

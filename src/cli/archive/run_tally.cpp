@@ -3,19 +3,13 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <cmath>
+
+#include "cli/archive/state/duration_text.h"
 
 namespace norvex {
 namespace {
 
 constexpr std::chrono::seconds kStretch{20};
-
-QString duration(double seconds) {
-  const auto whole = qint64(std::ceil(seconds));
-  if (whole < 60) return QStringLiteral("%1 s").arg(whole);
-  if (whole < 3600) return QStringLiteral("%1 min %2 s").arg(whole / 60).arg(whole % 60);
-  return QStringLiteral("%1 h %2 min").arg(whole / 3600).arg(whole % 3600 / 60);
-}
 
 constexpr const char* words[] = {"done",      "unchanged",   "failed before", "failed",
                                  "set aside", "not written", "interrupted",   "passed over"};
@@ -52,11 +46,14 @@ double RunTally::rate(Time now) {
 
 QString RunTally::progress(Time now) {
   const double perSecond = rate(now);
-  QString text = total_ ? QStringLiteral("%1 of %2 files").arg(told()).arg(std::max(*total_, told()))
-                        : QStringLiteral("%1 files").arg(told());
+  QString text = total_
+                     ? QStringLiteral("%1 of %2 files").arg(told()).arg(std::max(*total_, told()))
+                     : QStringLiteral("%1 %2").arg(told()).arg(QLatin1String(told() == 1 ? "file" : "files"));
+  const qint64 failed = of(Verdict::Failed) + of(Verdict::SetAside) + of(Verdict::Unwritten);
+  if (failed > 0) text += QStringLiteral(", %1 failed").arg(failed);
   if (perSecond > 0) text += QStringLiteral(", %1 a second").arg(perSecond, 0, 'f', perSecond < 10 ? 1 : 0);
   if (total_ && perSecond > 0 && *total_ > told())
-    text += QStringLiteral(", %1 left").arg(duration(double(*total_ - told()) / perSecond));
+    text += QStringLiteral(", %1 left").arg(durationText(double(*total_ - told()) / perSecond));
   return text;
 }
 

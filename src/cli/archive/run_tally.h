@@ -25,7 +25,7 @@ class RunTally {
   /// As ExitCode has it for a run over several files.
   [[nodiscard]] ExitCode code() const;
 
-  /// "1200 of 5000 files, 310 a second, 13 s left": of what was worked on in the last seconds.
+  /// "1200 of 5000 files, 3 failed, 310 a second, 13 s left": of what was worked on in the last seconds.
   [[nodiscard]] QString progress(Time now);
   /// "1190 done, 7 failed, 3 passed over": what is not nought.
   [[nodiscard]] QString summary() const;

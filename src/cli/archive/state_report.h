@@ -10,9 +10,10 @@
 namespace norvex {
 
 /// By the extension of `report`: .jsonl, an object for each entry on a line of its own; or .html, a page that
-/// needs no other file: counts, failures by their causes, and the pictures of which most became an image,
-/// before and after, which `service` draws. Overwrites it. CannotWrite.
-Result<void> writeStateReport(Database& state, PictureService& service, const QByteArray& report);
+/// needs no other file, see reportPage(), with pictures that `service` draws. `path`: of the state.
+/// Overwrites it. CannotWrite, also for a state that is damaged.
+Result<void> writeStateReport(const QByteArray& path, Database& state, PictureService& service,
+                              const QByteArray& report);
 
 /// True for a file that writeStateReport() has written, and for an empty one.
 [[nodiscard]] bool isStateReport(const QByteArray& path);

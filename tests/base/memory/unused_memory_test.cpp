@@ -48,6 +48,19 @@ class UnusedMemoryTest : public QObject {
     QVERIFY(QString::fromLatin1(text).endsWith(QLatin1String("kept")));
   }
 
+  void largeBlocksAreTheSystemsHoweverManyWereFreed() {
+    constexpr size_t large = 1 << 20;
+    giveBackLargeBlocks();
+    const size_t before = ::mallinfo2().hblks;
+    for (int i = 0; i < 3; ++i) {
+      void* volatile block = std::malloc(large);
+      if (i == 0 && ::mallinfo2().hblks == before) QSKIP("another allocator is in use");
+      QCOMPARE(::mallinfo2().hblks, before + 1);
+      std::free(block);
+      QCOMPARE(::mallinfo2().hblks, before);
+    }
+  }
+
   void theFreePartsOfTheHeapAreGivenBack() {
     const size_t inUse = ::mallinfo2().uordblks;
     std::vector<void*> pieces;

@@ -1,4 +1,5 @@
 // The names that a run goes through: lists, trees, patterns, places.
+#include <fcntl.h>
 #include <sys/fsuid.h>
 #include <sys/socket.h>
 #include <sys/sysmacros.h>
@@ -111,6 +112,42 @@ class NamesTest : public QObject {
     QCOMPARE(std::get<ListedName>(*source.next()).path, "a");
     std::thread later([&] { cancel.cancel(); });
     QVERIFY(!source.next());  // "b" may be the begin of a longer name
+    later.join();
+  }
+
+  void aListThatCannotBeReadToItsEndIsAFailure() {
+    const Archive archive;
+    auto opened = openList(archive.at(""));  // a folder can be opened, and not be read
+    QVERIFY(opened.ok());
+    ListSource source(std::move(*opened), '\n', {}, CancelToken(), "list");
+    QCOMPARE(told(source), QList<QByteArray>({"list!: the list cannot be read to its end (Is a directory)"}));
+  }
+
+  void aPipeThatNobodyHasOpenedYetIsWaitedFor() {
+    const Archive archive;
+    const QByteArray pipe = archive.at("pipe");
+    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    auto opened = openList(pipe);
+    QVERIFY(opened.ok());
+    ListSource source(std::move(*opened), '\n', {}, CancelToken());
+    QVERIFY(source.wouldWait());
+    std::thread writer([&] {
+      const FileDescriptor in(::open(pipe.constData(), O_WRONLY));
+      (void)!::write(in.get(), "a\nb\n", 4);
+    });
+    QCOMPARE(told(source), QList<QByteArray>({"a > a", "b > b"}));
+    writer.join();
+  }
+
+  void aPipeThatNobodyOpensEndsWhenTheRunIsCancelled() {
+    const Archive archive;
+    QCOMPARE(::mkfifo(archive.at("pipe").constData(), 0600), 0);
+    auto opened = openList(archive.at("pipe"));
+    QVERIFY(opened.ok());
+    const CancelToken cancel;
+    ListSource source(std::move(*opened), '\n', {}, cancel);
+    std::thread later([&] { cancel.cancel(); });
+    QVERIFY(!source.next());
     later.join();
   }
 

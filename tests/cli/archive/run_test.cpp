@@ -104,6 +104,8 @@ class RunTest : public QObject {
     row({"info", "a", "--state", "s", "--report", "r.txt"}, "a report ends in .html or .jsonl");
     row({"info", "-", "--json-lines"},
         "standard input is not one of the files of an archive (--files-from - lists them)");
+    row({"info", "a", "--state", "./s.html", "--report", "s.html"},
+        "--state and --report name the same file");
     row({"info", "a", "--shard", "3/2"}, "--shard is I/N: part I of N, from 1");
     row({"info", "a", "--shard", "half"}, "--shard is I/N: part I of N, from 1");
     row({"info", "a", "--shard-by", "name"}, "--shard-by goes with --shard");
@@ -174,7 +176,7 @@ class RunTest : public QObject {
     QVERIFY2(
         archive.console.messages.contains("more than one file would become " + archive.path("out/a.svg")),
         qPrintable(archive.console.messages));
-    QVERIFY(archive.console.messages.endsWith("norvex: 1 names collide; nothing is written\n"));
+    QVERIFY(archive.console.messages.endsWith("norvex: 1 name collides with another; nothing is written\n"));
     QCOMPARE(archive.filesBelow("out"), QList<QByteArray>());
     QCOMPARE(archive.service.openCount(), 0);
     archive.put("list", archive.at("in/a.svg") + '\n' + archive.at("in/a.svgz") + '\n');
@@ -192,6 +194,21 @@ class RunTest : public QObject {
     writer.join();
     QCOMPARE(archive.told("outcome"), QStringList({"done", "not-written"}));
     QVERIFY(archive.told("error").last().startsWith("more than one file would become "));
+  }
+
+  void resultsAreNotTakenForPicturesToRead() {
+    Archive archive;
+    archive.put("in/a.ai");
+    const QString in = archive.path("in");
+    const QStringList arguments{"convert", "--recursive", in, "--to", in + "/.", "--format", "svg"};
+    QCOMPARE(archive.go(arguments), 2);
+    QVERIFY2(archive.console.messages.startsWith("norvex: --to is the folder that is read"),
+             qPrintable(archive.console.messages));
+    QCOMPARE(archive.filesBelow("in"), QList<QByteArray>({"a.ai"}));
+    for (int i = 0; i < 2; ++i)
+      QCOMPARE(archive.go(arguments + QStringList{"--exclude", "*.svg", "--state", archive.path("state")}),
+               0);
+    QCOMPARE(archive.filesBelow("in"), QList<QByteArray>({"a.ai", "a.svg"}));
   }
 
   void listedFilesKeepTheirFoldersBelowTheBase() {
@@ -429,8 +446,10 @@ class RunTest : public QObject {
     (void)tally.progress(begin + 40s);
     QCOMPARE(tally.progress(begin + 50s), "75 of 100 files");
     RunTally unknown(std::nullopt, begin);
-    unknown.count(FileResult());
-    QCOMPARE(unknown.progress(begin + 1s), "1 files, 1.0 a second");
+    FileResult failed;
+    failed.verdict = Verdict::Failed;
+    unknown.count(failed);
+    QCOMPARE(unknown.progress(begin + 1s), "1 file, 1 failed, 1.0 a second");
   }
 
   void aLogHoldsALineAMinute() {
@@ -455,85 +474,7 @@ class RunTest : public QObject {
     QVERIFY(archive.console.progressLines.isEmpty());
   }
 
-  // ---- pictures that go wrong ----------------------------------------------------------------------------
-
-  void aFileThatEndsItsProcessIsTriedOnceMoreAndThenSetAside() {
-    Archive archive;
-    archive.put("in/a.svg"), archive.put("in/killer.svg", svg("killer"));
-    const Error died{ErrorKind::Died, "the picture process ended"};
-    std::atomic<int> deaths = 0;
-    archive.service.setPrepare([&](MemoryPictureProcess& process) {
-      if (process.bytes() != svg("killer")) return;
-      ++deaths;
-      process.fail(PictureCall::Facts, died);
-    });
-    QCOMPARE(archive.convertTree({}), 1);
-    QCOMPARE(deaths.load(), 2);
-    QVERIFY(archive.console.messages.endsWith("norvex: 1 done, 1 set aside\n"));
-    QCOMPARE(archive.filesBelow("out"), QList<QByteArray>({"a.svg"}));
-  }
-
-  void aFileThatEndsItsProcessOnceIsDone() {
-    Archive archive;
-    archive.put("in/a.svg");
-    std::atomic<int> opened = 0;
-    archive.service.setPrepare([&](MemoryPictureProcess& process) {
-      if (++opened == 1) process.fail(PictureCall::Facts, {ErrorKind::Died, "it ended"});
-    });
-    QCOMPARE(archive.convertTree({}), 0);
-    QCOMPARE(archive.console.messages, "norvex: 1 done\n");
-  }
-
-  void aFileThatChangesWhileItIsWorkedOnIsDoneAgain() {
-    Archive archive;
-    archive.put("in/a.svg", svg("old"));
-    std::atomic<int> opened = 0;
-    archive.service.setPrepare([&](MemoryPictureProcess&) {
-      if (++opened == 1) archive.put("in/a.svg", svg("newer"));
-    });
-    QCOMPARE(archive.convertTree({}), 0);
-    QCOMPARE(opened.load(), 2);
-    QCOMPARE(archive.bytesAt("out/a.svg"), svg("newer"));
-  }
-
-  void aFileThatIsReplacedByOneOfTheSameSizeAndTimeIsDoneAgain() {
-    Archive archive;
-    archive.put("in/a.svg", svg("old"));
-    struct stat before {};
-    QCOMPARE(::stat(archive.at("in/a.svg").constData(), &before), 0);
-    std::atomic<int> opened = 0;
-    archive.service.setPrepare([&](MemoryPictureProcess&) {
-      if (++opened > 1) return;
-      archive.put("in/a.new", svg("new"));
-      const timespec times[] = {before.st_atim, before.st_mtim};
-      ::utimensat(AT_FDCWD, archive.at("in/a.new").constData(), times, 0);
-      ::rename(archive.at("in/a.new").constData(), archive.at("in/a.svg").constData());
-    });
-    QCOMPARE(archive.convertTree({}), 0);
-    QCOMPARE(opened.load(), 2);
-    QCOMPARE(archive.bytesAt("out/a.svg"), svg("new"));
-  }
-
-  void aFileThatAlwaysChangesLeavesNothing() {
-    Archive archive;
-    archive.put("in/a.svg", svg("old"));
-    std::atomic<int> opened = 0;
-    archive.service.setPrepare(
-        [&](MemoryPictureProcess&) { archive.put("in/a.svg", svg(QByteArray(++opened, 'x'))); });
-    QCOMPARE(archive.convertTree({}), 3);
-    QCOMPARE(opened.load(), 3);
-    QVERIFY(archive.console.messages.contains("it is being changed by another program"));
-    QCOMPARE(archive.filesBelow("out"), QList<QByteArray>());
-  }
-
-  void resultsThatCannotBeWrittenEndTheRun() {
-    Archive archive;
-    for (int i = 0; i < 100; ++i) archive.put("in/" + QByteArray::number(i) + ".svg");
-    for (int i = 0; i < 100; ++i) archive.put("out/" + QByteArray::number(i) + ".svg/in the way");
-    QCOMPARE(archive.convertTree({"--force"}), 4);
-    QVERIFY2(archive.console.messages.contains("32 results in a row could not be written; the run ends"),
-             qPrintable(archive.console.messages));
-  }
+  // ---- parts ---------------------------------------------------------------------------------------
 
   void partsOfAnArchiveAreAllOfIt_data() {
     QTest::addColumn<QString>("by");

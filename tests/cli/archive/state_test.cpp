@@ -2,15 +2,13 @@
 #include <QCryptographicHash>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QRegularExpression>
-#include <QSet>
 
+#include <algorithm>
 #include <atomic>
 #include <utility>
 
-#include <sys/stat.h>
 #include "base/file_name.h"
-#include "cli/archive/archive_files.h"
+#include "cli/archive/kept_archive.h"
 #include "cli/archive/state/run_state.h"
 #include "cli/archive/state/state_summary.h"
 
@@ -20,25 +18,6 @@ using namespace norvex;
 using namespace norvex::testdata;
 
 namespace {
-
-class Kept : public Archive {
- public:
-  Kept() {
-    service.setPrepare([](MemoryPictureProcess& process) {
-      if (process.bytes() == "no picture")
-        process.fail(PictureCall::Facts, {ErrorKind::NotParsable, "it is no picture"});
-    });
-  }
-  int run(const QStringList& more = {}) {
-    return convertTree(QStringList{"--state", path("state"), "--json-lines"} + more);
-  }
-  /// Outcomes by file name.
-  QString outcomeOf(const QString& name) const {
-    for (const QJsonObject& line : lines())
-      if (line.value("file").toString().endsWith('/' + name)) return line.value("outcome").toString();
-    return {};
-  }
-};
 
 QByteArray hiddenNameOf(const QByteArray& name) {
   return '.' + name + ".0123456789abcdef";
@@ -79,6 +58,32 @@ class StateTest : public QObject {
     kept.put("in/a.svg");
     QCOMPARE(kept.run(), 0);
     QCOMPARE(kept.outcomeOf("a.svg"), "unchanged");
+  }
+
+  void aFailureIsTriedAgainWithOtherSettingsAndOnlyWithThem() {
+    Kept kept;
+    kept.put("in/a.svg", "no picture"), kept.put("in/b.svg");
+    QCOMPARE(kept.run(), 1);
+    kept.put("in/c.svg", "no picture");
+    QCOMPARE(kept.run({"--retry-failed", "--page", "1"}), 1);
+    QCOMPARE(kept.told("outcome").filter("failed").size(), 2);
+    QCOMPARE(kept.outcomeOf("b.svg"), "done");  // its result was of other settings
+    QCOMPARE(kept.run({"--page", "1"}), 1);
+    QCOMPARE(kept.outcomeOf("a.svg"), "failed-before");
+    QCOMPARE(kept.outcomeOf("b.svg"), "unchanged");
+  }
+
+  void aNameThatIsTooLongForItsResultIsAFailureAndNoReasonToEnd() {
+    Kept kept;
+    for (int i = 100; i < 140; ++i)  // as many as end a run where the disk is full
+      kept.put("in/" + QByteArray::number(i) + QByteArray(249, 'n') + ".ai");
+    kept.put("in/z.svg");
+    QCOMPARE(kept.run(), 1);
+    QCOMPARE(kept.outcomeOf("z.svg"), "done");
+    QCOMPARE(kept.told("outcome").filter("failed").size(), 40);
+    QVERIFY2(kept.console.messages.contains("File name too long"), qPrintable(kept.console.messages));
+    QCOMPARE(kept.run(), 1);
+    QCOMPARE(kept.told("outcome").filter("failed-before").size(), 40);
   }
 
   void otherSettingsDoItAgain() {
@@ -211,6 +216,58 @@ class StateTest : public QObject {
     QVERIFY(!QFileInfo::exists(kept.path("new")));
   }
 
+  void aDatabaseOfAnotherProgramStaysAsItIs() {
+    Kept kept;
+    kept.put("in/a.svg");
+    {
+      auto notes = Database::open(kept.at("notes"), true);
+      QVERIFY(notes && notes->run("CREATE TABLE notes (a); INSERT INTO notes VALUES ('mine')"));
+    }
+    const QByteArray before = kept.bytesAt("notes");
+    QCOMPARE(kept.convertTree({"--state", kept.path("notes")}), 4);
+    QVERIFY(kept.console.messages.endsWith("/notes: it is no state of a run\n"));
+    QCOMPARE(kept.go({"status", kept.path("notes")}), 3);
+    QCOMPARE(kept.go({"status", kept.path("new"), "--merge", kept.path("notes")}), 3);
+    QCOMPARE(kept.bytesAt("notes"), before);
+  }
+
+  void aStateOfANewerVersionIsRefused() {
+    Kept kept;
+    kept.put("in/a.svg");
+    QCOMPARE(kept.run(), 0);
+    QVERIFY((*RunState::openForRun(kept.at("state")))->database().run("PRAGMA user_version = 2"));
+    for (const int code : {kept.run(), kept.go({"status", kept.path("state")})}) {
+      QVERIFY(code == 4 || code == 3);
+      QVERIFY(kept.console.messages.endsWith("/state: a newer version of Norvex has written it\n"));
+    }
+  }
+
+  void ofADamagedStateNothingIsCounted() {
+    Kept kept;
+    kept.put("in/a.svg");
+    {
+      const auto state = RunState::openForRun(kept.at("state"));
+      QList<RunEntry> entries;
+      for (int i = 0; i < 2000; ++i) {
+        entries << begun("/archive/" + QByteArray::number(i), {});
+        entries.last().outcome = Outcome::Done;
+      }
+      QVERIFY((*state)->finish(entries).ok());
+    }
+    QByteArray bytes = kept.bytesAt("state");
+    QVERIFY(bytes.size() > 16 * 4096);
+    std::fill(bytes.begin() + 8 * 4096, bytes.end() - 4096, '\x5A');
+    kept.put("state", bytes);
+    const QString report = kept.path("report.html");
+    for (const QStringList& more : {QStringList(), QStringList{"--report", report}}) {
+      QCOMPARE(kept.go(QStringList{"status", kept.path("state")} + more), 3);
+      QVERIFY2(kept.console.messages.contains("/state: it is damaged ("), qPrintable(kept.console.messages));
+      QCOMPARE(kept.console.output, QByteArray());
+    }
+    QVERIFY(!QFileInfo::exists(report));
+    QCOMPARE(kept.go({"status", kept.path("new"), "--merge", kept.path("state")}), 3);
+  }
+
   void theStatusTellsCountsAndTheCommonestFailuresWithAnExample() {
     Kept kept;
     for (const char* name : {"in/a.svg", "in/b.svg"}) kept.put(name);
@@ -256,6 +313,56 @@ class StateTest : public QObject {
     QCOMPARE(kept.go({"status", kept.path("state")}), 0);
     QVERIFY(
         kept.console.output.contains("set aside:    1\nbegun:        0\nrest:         6\nrate:         "));
+  }
+
+  void aClockThatWentBackMakesNoRate() {
+    Kept kept;
+    {
+      const auto state = RunState::openForRun(kept.at("state"));
+      QVERIFY((*state)->noteTotal(2).ok());
+      RunEntry entry = begun("/a", {});
+      entry.outcome = Outcome::Done;
+      entry.finished = (*state)->database().number("SELECT started FROM run") - 3600;
+      QVERIFY((*state)->finish({entry}).ok());
+    }
+    QCOMPARE(kept.go({"status", kept.path("state"), "--json"}), 0);
+    const QJsonObject status = QJsonDocument::fromJson(kept.console.output).object();
+    QCOMPARE(status.value("done").toInt(), 1);
+    QCOMPARE(status.value("rest").toInt(), 1);
+    QVERIFY(!status.contains("filesASecond"));
+  }
+
+  void whatPartsHaveLeftIsAddedUpHoweverOftenTheyAreMerged() {
+    Kept kept;
+    const auto partOf = [&](const QByteArray& name, int total, int done) {
+      const auto state = RunState::openForRun(kept.at(name));
+      QVERIFY((*state)->noteTotal(total).ok());
+      QList<RunEntry> entries;
+      for (int i = 0; i < done; ++i) {
+        entries << begun('/' + name + QByteArray::number(i), {});
+        entries.last().outcome = Outcome::Done;
+        entries.last().finished = 1 + i;
+      }
+      QVERIFY((*state)->finish(entries).ok());
+    };
+    partOf("one", 10, 4), partOf("two", 20, 20), partOf("three", 5, 2);
+    const auto restWith = [&](const QStringList& parts) {
+      QStringList arguments{"status", kept.path("all"), "--json"};
+      for (const QString& part : parts) arguments << "--merge" << kept.path(part);
+      if (kept.go(arguments) != 0) return -1;
+      return QJsonDocument::fromJson(kept.console.output).object().value("rest").toInt(-2);
+    };
+    QCOMPARE(restWith({"one", "two", "three"}), 9);
+    QCOMPARE(restWith({"three", "one"}), 9);
+    partOf("three", 5, 5);
+    QCOMPARE(restWith({"three"}), 6);
+    QCOMPARE(restWith({}), 6);
+    // Into the state of a run of its own.
+    QCOMPARE(kept.go({"status", kept.path("one"), "--merge", kept.path("two"), "--json"}), 0);
+    QCOMPARE(QJsonDocument::fromJson(kept.console.output).object().value("rest").toInt(), 6);
+    // The next run over all knows by itself.
+    QVERIFY((*RunState::openForRun(kept.at("all")))->noteTotal(30).ok());
+    QCOMPARE(restWith({}), 1);
   }
 
   void statesOfPartsAreMergedIntoOne() {
@@ -314,141 +421,6 @@ class StateTest : public QObject {
                0);
       QCOMPARE(QJsonDocument::fromJson(kept.console.output).object().value("done").toInt(), 1);
     }
-  }
-
-  void reportsTellEveryEntryAndCannotBeCommandedByNames() {
-    Kept kept;
-    kept.put("in/<img src=x>\xFF.svg", "no picture");
-    kept.put("in/b.svg");
-    QCOMPARE(kept.run({"--report", kept.path("report.html")}), 1);
-    const QByteArray page = kept.bytesAt("report.html");
-    QVERIFY(page.startsWith("<!DOCTYPE html>"));
-    QVERIFY(page.contains("&lt;img src=x&gt;\\xff.svg"));
-    QVERIFY(!page.contains("<img src=x>"));
-    QVERIFY(!page.contains("http://") && !page.contains("https://"));  // it needs no other file
-    QCOMPARE(kept.go({"status", kept.path("state"), "--report", kept.path("report.jsonl")}), 0);
-    const QList<QByteArray> lines = kept.bytesAt("report.jsonl").trimmed().split('\n');
-    QCOMPARE(lines.size(), 2);
-    const QJsonObject failed = QJsonDocument::fromJson(lines[0]).object();
-    QCOMPARE(failed.value("outcome").toString(), "failed");
-    QCOMPARE(QByteArray::fromBase64(failed.value("fileBytes").toString().toLatin1()),
-             kept.at("in/<img src=x>\xFF.svg"));
-    const QJsonObject done = QJsonDocument::fromJson(lines[1]).object();
-    QCOMPARE(done.value("sha256").toString(), done.value("outputSha256").toString());
-    QCOMPARE(done.value("sha256").toString().size(), 64);
-    QVERIFY(!kept.filesBelow("").contains("report.jsonl.part"));
-  }
-
-  void noNameOrSentenceIsStructureOfTheReport() {
-    Kept kept;
-    const QList<QByteArray> names{"<script>alert(1)<",
-                                  "\" onerror=\"x.svg",
-                                  "' x='.svg",
-                                  "--><b>.svg",
-                                  "&lt;b&gt;&#60;i>.svg",
-                                  "a\nb<br>\rc\t.svg",
-                                  "\x1B[31m\x7F.svg",
-                                  "\xFF\xFE<u>.svg",
-                                  "\xC0\xBCimg>.svg",
-                                  "\xE2\x80\xAEgvs.exe",
-                                  "\xE2\x81\xA6<\xE2\x80\xA9.svg",
-                                  "]]><![CDATA[.svg",
-                                  "{{7*7}}${x}.svg"};
-    for (const QByteArray& name : names) kept.put("in/" + name, "no picture");
-    kept.service.setPrepare([](MemoryPictureProcess& process) {
-      static std::atomic<int> number = 0;  // each its own cause, so that all are told
-      process.fail(PictureCall::Facts,
-                   {ErrorKind::NotParsable, QStringLiteral("<b>\"'&%1</table>").arg(++number)});
-    });
-    for (int first = 0; first < int(names.size()); first += 6) {  // the report has room for ten causes
-      QByteArray some;
-      for (const QByteArray& name : names.mid(first, 6)) some += kept.at("in/" + name) + '\0';
-      kept.put("list", some);
-      const QString state = kept.path(QString("state%1").arg(first)),
-                    report = kept.path(QString("report%1.html").arg(first));
-      QCOMPARE(kept.convert(
-                   {"--files-from", kept.path("list"), "--null", "--state", state, "--report", report, "-q"}),
-               3);
-      const QByteArray page = kept.contents(QString("report%1.html").arg(first));
-      QVERIFY(page.isValidUtf8());
-      // Of all that begins with < nothing is but what the page is made of.
-      static const QRegularExpression tag(QStringLiteral("<([^>]*)"));
-      QSet<QString> tags;
-      for (auto match = tag.globalMatch(QString::fromUtf8(page)); match.hasNext();)
-        tags << match.next().captured(1);
-      const QSet<QString> ours{"!DOCTYPE html",
-                               "html lang=en",
-                               "meta charset=utf-8",
-                               "meta name=generator content=\"Norvex\"",
-                               "title",
-                               "/title",
-                               "meta name=viewport content=\"width=device-width\"",
-                               "style",
-                               "/style",
-                               "h1",
-                               "/h1",
-                               "table",
-                               "/table",
-                               "tr",
-                               "td",
-                               "td class=n",
-                               "th",
-                               "h2",
-                               "/h2",
-                               "p",
-                               "/p"};
-      QVERIFY2((tags - ours).isEmpty(), qPrintable((tags - ours).values().join('|')));
-      const QString rows = QString::fromUtf8(page).section("<h2>Failures</h2>", 1);
-      QCOMPARE(rows.count("<tr><td class=n>1<td>"), qsizetype(names.mid(first, 6).size()));
-      for (const QChar c : rows)
-        QVERIFY2(c == u'\n' || (c.category() != QChar::Other_Control && c.category() != QChar::Other_Format),
-                 qPrintable(QString::number(c.unicode(), 16)));
-    }
-  }
-
-  void aReportIsRenewedAndOverwritesNothingElse() {
-    Kept kept;
-    kept.put("in/a.svg");
-    const QString page = kept.path("r.html"), lines = kept.path("r.jsonl");
-    for (const QString& report : {page, lines, page, lines}) QCOMPARE(kept.run({"--report", report}), 0);
-    kept.put("mine.html", "<!DOCTYPE html>\n<p>mine"), kept.put("mine.jsonl", "{\"file\":1}\n");
-    for (const QString& report : {kept.path("mine.html"), kept.path("mine.jsonl")}) {
-      const QByteArray before = kept.bytesAt(QFileInfo(report).fileName().toUtf8());
-      for (const QStringList& command :
-           {QStringList{"status", kept.path("state")},
-            QStringList{"info", kept.path("in/a.svg"), "--state", kept.path("other")}}) {
-        QCOMPARE(kept.go(command + QStringList{"--report", report}), 4);
-        QVERIFY(kept.console.messages.contains("exists already (--force overwrites it)"));
-      }
-      QCOMPARE(kept.bytesAt(QFileInfo(report).fileName().toUtf8()), before);
-      QCOMPARE(kept.go({"status", kept.path("state"), "--report", report, "--force"}), 0);
-      QVERIFY(kept.bytesAt(QFileInfo(report).fileName().toUtf8()) != before);
-    }
-    QVERIFY(!QFileInfo::exists(kept.path("other")));  // refused before the run
-  }
-
-  void aPipeIsNoReportAndNobodyWaitsForIt() {
-    Kept kept;
-    kept.put("in/a.svg");
-    const QString pipe = kept.path("pipe.html");
-    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QCOMPARE(kept.run({"--report", pipe}), 4);
-    QVERIFY(kept.console.messages.contains("pipe.html is no ordinary file"));
-  }
-
-  void theReportShowsWhatBecameAnImageBeforeAndAfter() {
-    Kept kept;
-    kept.put("in/a.pdf", emptyPdf({20, 10}));
-    MemoryPicture picture;
-    picture.report.regionsRasterised = 1;
-    picture.report.rasterisedAreaShare = 0.25;
-    kept.service.setPicture(picture);
-    QCOMPARE(kept.go({"convert", "--recursive", kept.path("in"), "--to", kept.folder("out"), "--format",
-                      "eps", "--state", kept.path("state"), "--report", kept.path("report.html")}),
-             0);
-    const QByteArray page = kept.bytesAt("report.html");
-    QVERIFY2(page.contains("25.0 % became an image"), page.right(600).constData());
-    QCOMPARE(page.count("data:image/png;base64,"), 2);
   }
 };
 

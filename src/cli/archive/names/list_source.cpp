@@ -40,11 +40,13 @@ std::optional<QByteArray> placeOf(const QByteArray& path, const QByteArray& base
   return place;
 }
 
-ListSource::ListSource(FileDescriptor list, char separator, QByteArray base, const CancelToken& cancel)
+ListSource::ListSource(FileDescriptor list, char separator, QByteArray base, const CancelToken& cancel,
+                       QByteArray name)
     : list_(std::move(list)),
       cancelled_(::eventfd(0, EFD_CLOEXEC)),
       separator_(separator),
       base_(std::move(base)),
+      name_(std::move(name)),
       listener_(cancel, [this] { (void)::eventfd_write(cancelled_.get(), 1); }) {}
 
 Listed ListSource::listed(const QByteArray& name) const {
@@ -63,6 +65,9 @@ std::optional<Listed> ListSource::next() {
         return failure(buffer_.mid(begin_, 100), QStringLiteral("the name is longer than a path can be"));
       if (tooLong_) begin_ = buffer_.size();
       if (fill()) continue;
+      if (const int code = std::exchange(failed_, 0); code != 0)
+        return failure(name_, QStringLiteral("the list cannot be read to its end (%1)")
+                                  .arg(QString::fromLocal8Bit(std::strerror(code))));
     }
     const bool isLast = end < 0;
     const QByteArray name = buffer_.mid(begin_, isLast ? -1 : end - begin_);
@@ -81,20 +86,24 @@ bool ListSource::fill() {
   buffer_.remove(0, std::exchange(begin_, 0));
   pollfd waiting[] = {{list_.get(), POLLIN, 0}, {cancelled_.get(), POLLIN, 0}};
   while (::poll(waiting, 2, -1) < 0 && errno == EINTR) continue;
-  ssize_t count = 0;
+  if (waiting[1].revents != 0) return cutOff(0);
   const qsizetype before = buffer_.size();
-  if (waiting[1].revents == 0) {
-    buffer_.resize(before + kChunk);
-    do count = ::read(list_.get(), buffer_.data() + before, size_t(kChunk));
-    while (count < 0 && errno == EINTR);
-  } else {
-    buffer_.clear();  // a name that is cut off is none
-    ended_ = true;
-    return false;
-  }
+  buffer_.resize(before + kChunk);
+  const ssize_t count = ::read(list_.get(), buffer_.data() + before, size_t(kChunk));
+  const int code = count < 0 ? errno : 0;
   buffer_.resize(before + qsizetype(std::max<ssize_t>(count, 0)));
-  ended_ = count <= 0;
+  if (code == EINTR || code == EAGAIN) return true;
+  if (code != 0) return cutOff(code);
+  ended_ = count == 0;
   return !ended_;
+}
+
+/// The name at hand is none. `code`: why it ends here, as errno has it; 0: nobody wants more.
+bool ListSource::cutOff(int code) {
+  buffer_.clear();
+  ended_ = true;
+  failed_ = code;
+  return false;
 }
 
 bool ListSource::wouldWait() {
@@ -105,7 +114,7 @@ bool ListSource::wouldWait() {
 
 Result<FileDescriptor> openList(const QByteArray& name) {
   FileDescriptor list(name == "-" ? ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 3)
-                                  : ::open(name.constData(), O_RDONLY | O_CLOEXEC));
+                                  : ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   if (list.valid()) return list;
   return Error{ErrorKind::CannotRead, QString::fromLocal8Bit(std::strerror(errno))};
 }

@@ -74,17 +74,34 @@ void Database::close(sqlite3* database) {
 }
 
 Result<Database> Database::open(const QByteArray& path, bool mayCreate) {
-  constexpr int patience = 10'000;  // milliseconds that another program may hold it
   sqlite3* opened = nullptr;
   const int flags =
       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (mayCreate || path.isEmpty() ? SQLITE_OPEN_CREATE : 0);
   const int code = ::sqlite3_open_v2(path.constData(), &opened, flags, nullptr);
   Database database(opened);
   if (code != SQLITE_OK) return database.error();
-  ::sqlite3_extended_result_codes(opened, 1);
-  ::sqlite3_busy_timeout(opened, patience);
-  if (!database.run("PRAGMA cache_size = -1024")) return database.error();
+  if (const auto ready = database.makeReady(); !ready) return ready.error();
   return database;
+}
+
+Result<Database> Database::openUnchanging(const QByteArray& path) {
+  sqlite3* opened = nullptr;
+  const QByteArray uri =
+      QByteArray(path.startsWith('/') ? "file://" : "file:") + path.toPercentEncoding("/") + "?immutable=1";
+  const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI;
+  const int code = ::sqlite3_open_v2(uri.constData(), &opened, flags, nullptr);
+  Database database(opened);
+  if (code != SQLITE_OK) return database.error();
+  if (const auto ready = database.makeReady(); !ready) return ready.error();
+  return database;
+}
+
+Result<void> Database::makeReady() {
+  constexpr int patience = 10'000;  // milliseconds that another program may hold it
+  ::sqlite3_extended_result_codes(database_.get(), 1);
+  ::sqlite3_busy_timeout(database_.get(), patience);
+  if (!run("PRAGMA cache_size = -1024")) return error();
+  return {};
 }
 
 bool Database::run(const char* sql) {
@@ -103,10 +120,17 @@ qint64 Database::number(const char* sql, qint64 fallback) {
 }
 
 Error Database::error() const {
-  if (database_ && (::sqlite3_errcode(database_.get()) & 0xFF) == SQLITE_NOTADB)
-    return {ErrorKind::CannotWrite, QStringLiteral("it is no state of a run")};
-  const char* words = database_ ? ::sqlite3_errmsg(database_.get()) : "out of memory";
-  return {ErrorKind::CannotWrite, QString::fromUtf8(words)};
+  const QString words = QString::fromUtf8(database_ ? ::sqlite3_errmsg(database_.get()) : "out of memory");
+  switch (database_ ? ::sqlite3_errcode(database_.get()) & 0xFF : SQLITE_NOMEM) {
+    case SQLITE_NOTADB:
+      return {ErrorKind::CannotWrite, QStringLiteral("it is no state of a run")};
+    case SQLITE_CORRUPT:
+      return {ErrorKind::CannotWrite, QStringLiteral("it is damaged (%1)").arg(words)};
+    case SQLITE_FULL:
+      return {ErrorKind::CannotWrite, QStringLiteral("there is no space left to write to")};
+    default:
+      return {ErrorKind::CannotWrite, words};
+  }
 }
 
 }  // namespace norvex

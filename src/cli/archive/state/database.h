@@ -49,6 +49,9 @@ class Database {
   /// `path`: empty for one that has no name and goes when it is closed. Fails with CannotWrite.
   [[nodiscard]] static Result<Database> open(const QByteArray& path, bool mayCreate);
 
+  /// To read one that nobody changes, in a folder where nothing can be written. CannotWrite.
+  [[nodiscard]] static Result<Database> openUnchanging(const QByteArray& path);
+
   /// False on failure.
   bool run(const char* sql);
   [[nodiscard]] Statement prepare(const char* sql);
@@ -60,6 +63,7 @@ class Database {
  private:
   explicit Database(sqlite3* database) : database_(database, &close) {}
   static void close(sqlite3* database);
+  Result<void> makeReady();
   std::unique_ptr<sqlite3, decltype(&close)> database_;
 };
 

@@ -1,13 +1,14 @@
 #include "cli/archive/state/run_state.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <unistd.h>
 
 #include <QFileInfo>
 #include <QHash>
 #include <QSet>
 
+#include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "base/atomic_file.h"
@@ -32,11 +33,11 @@ Error notAState(const QString& reason) {
   return {ErrorKind::CannotWrite, reason};
 }
 
-/// Makes the tables where there are none; fails for what is something else.
-Result<void> prepareTables(Database& database, bool mayCreate) {
-  if (!database.run("PRAGMA journal_mode = WAL; PRAGMA synchronous = FULL")) return database.error();
-  const bool isEmpty = database.number("SELECT count(*) FROM sqlite_schema", -1) == 0;
-  if (isEmpty && mayCreate) {
+/// Makes the tables where there are none; fails for what is something else, which stays as it is.
+Result<void> prepareTables(Database& database, bool forRun) {
+  const qint64 tables = database.number("SELECT count(*) FROM sqlite_schema", -1);
+  if (tables < 0) return database.error();
+  if (forRun && tables == 0 && database.number("PRAGMA application_id") == 0) {
     const QByteArray made = QByteArray("BEGIN IMMEDIATE;") + kTables + ";COMMIT";
     if (!database.run(made.constData())) return database.error();
   }
@@ -44,7 +45,20 @@ Result<void> prepareTables(Database& database, bool mayCreate) {
     return notAState(QStringLiteral("it is no state of a run"));
   if (database.number("PRAGMA user_version") > kVersion)
     return notAState(QStringLiteral("a newer version of Norvex has written it"));
+  if (forRun && !database.run("PRAGMA journal_mode = WAL; PRAGMA synchronous = FULL"))
+    return database.error();
   return {};
+}
+
+/// One run has a state at a time. Not flock(2): on a network's file system that is a lock of all bytes, and
+/// SQLite would wait for us.
+bool lockForRun(int descriptor) {
+  struct flock lock {};
+  lock.l_type = F_WRLCK;
+  lock.l_whence = SEEK_SET;
+  lock.l_start = off_t(1) << 50;  // far behind what there is
+  lock.l_len = 1;
+  return ::fcntl(descriptor, F_OFD_SETLK, &lock) == 0;
 }
 
 /// Everything that is in the file system of `folder` goes to disk.
@@ -54,7 +68,18 @@ bool bringToDisk(const QByteArray& folder) {
 }
 
 QByteArray folderOf(const QByteArray& path) {
+  if (!path.contains('/')) return ".";
   return path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
+}
+
+QByteArray realPath(const QByteArray& path) {
+  const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.constData(), nullptr), &std::free);
+  return real ? QByteArray(real.get()) : path;
+}
+
+/// What a run that was killed leaves beside its state, and a finished one does not.
+bool hasLog(const QByteArray& path) {
+  return stampOf(path + "-wal").value_or(FileStamp{0, 0}).size > 0;
 }
 
 }  // namespace
@@ -86,19 +111,20 @@ RunState::RunState(FileDescriptor lock, Database database)
                                 ") VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")
                                    .constData())) {}
 
-Result<std::unique_ptr<RunState>> RunState::open(const QByteArray& path, FileDescriptor lock,
-                                                 bool mayCreate) {
-  Result<Database> database = Database::open(path, mayCreate);
+Result<std::unique_ptr<RunState>> RunState::open(const QByteArray& path, FileDescriptor lock, bool forRun) {
+  return of(Database::open(path, forRun), std::move(lock), forRun);
+}
+
+Result<std::unique_ptr<RunState>> RunState::of(Result<Database> database, FileDescriptor lock, bool forRun) {
   if (!database) return database.error();
-  if (const auto prepared = prepareTables(*database, mayCreate); !prepared) return prepared.error();
+  if (const auto prepared = prepareTables(*database, forRun); !prepared) return prepared.error();
   return std::unique_ptr<RunState>(new RunState(std::move(lock), std::move(*database)));
 }
 
 Result<std::unique_ptr<RunState>> RunState::openForRun(const QByteArray& path) {
   FileDescriptor lock(::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
   if (!lock.valid()) return notAState(QStringLiteral("it cannot be opened (%1)").arg(qt_error_string(errno)));
-  if (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0)
-    return notAState(QStringLiteral("another run is using it"));
+  if (!lockForRun(lock.get())) return notAState(QStringLiteral("another run is using it"));
   auto state = open(path, std::move(lock), true);
   if (!state) return state.error();
   if (const auto removed = (*state)->removeLeftovers(); !removed) return removed.error();
@@ -107,7 +133,13 @@ Result<std::unique_ptr<RunState>> RunState::openForRun(const QByteArray& path) {
 
 Result<std::unique_ptr<RunState>> RunState::openToRead(const QByteArray& path) {
   if (::access(path.constData(), F_OK) != 0) return notAState(QStringLiteral("there is no such state"));
-  return open(path, FileDescriptor(), false);
+  auto opened = open(path, FileDescriptor(), false);
+  if (opened || ::access(folderOf(path).constData(), W_OK) == 0) return opened;
+  if (hasLog(path))
+    return notAState(
+        QStringLiteral("a run was killed with it, and its folder cannot be written; a copy of it and of what "
+                       "lies beside it can be read"));
+  return of(Database::openUnchanging(path), FileDescriptor(), false);
 }
 
 /// Of results that were being written when the program was killed.
@@ -171,6 +203,7 @@ Result<void> RunState::write(const QList<RunEntry>& entries) {
 
 Result<void> RunState::noteTotal(std::optional<qint64> total) {
   const std::lock_guard lock(mutex_);
+  if (!database_.run("DROP TABLE IF EXISTS merged")) return database_.error();
   Statement note = database_.prepare("INSERT INTO run VALUES (unixepoch(), ?)");
   if (total) note.bind(0, *total);
   if (!note.run()) return database_.error();
@@ -179,22 +212,44 @@ Result<void> RunState::noteTotal(std::optional<qint64> total) {
 
 Result<void> RunState::merge(const QByteArray& other) {
   // Opened once by itself: it is made whole after a crash, and must be a state.
-  if (const auto opened = openToRead(other); !opened) return opened.error();
+  const auto opened = openToRead(other);
+  if (!opened) return opened.error();
   const std::lock_guard lock(mutex_);
+  const Result<StateSummary> ours = summaryOf(database_), theirs = summaryOf((*opened)->database());
+  if (!theirs) return Error{ErrorKind::CannotRead, theirs.error().message};
+  if (!ours) return ours.error();
   Statement attach = database_.prepare("ATTACH ? AS other");
   // As bytes: a file's name need not be text, and SQLite hands them on as they are.
   if (!attach.bind(0, other).run()) return database_.error();
   const bool merged = database_.run(
-      "BEGIN IMMEDIATE;"
-      "INSERT OR REPLACE INTO main.entry SELECT theirs.* FROM other.entry AS theirs"
-      " LEFT JOIN main.entry AS ours ON ours.path = theirs.path"
-      " WHERE ours.path IS NULL OR theirs.finished > ours.finished;"
-      "INSERT INTO main.run SELECT * FROM other.run; COMMIT");
+                          "BEGIN IMMEDIATE;"
+                          "INSERT OR REPLACE INTO main.entry SELECT theirs.* FROM other.entry AS theirs"
+                          " LEFT JOIN main.entry AS ours ON ours.path = theirs.path"
+                          " WHERE ours.path IS NULL OR theirs.finished > ours.finished") &&
+                      noteMerged(*ours, *theirs, realPath(other)) && database_.run("COMMIT");
   const Error error = database_.error();
   if (!merged) database_.run("ROLLBACK");
   database_.run("DETACH other");
   if (!merged) return error;
   return {};
+}
+
+/// What is left, and since when, of each state that is in this one; of its own run under an empty name. A
+/// state that is merged again counts once.
+bool RunState::noteMerged(const StateSummary& ours, const StateSummary& theirs, const QByteArray& other) {
+  const bool isFirst = database_.number("SELECT count(*) FROM main.sqlite_schema WHERE name = 'merged'") == 0;
+  if (isFirst && !database_.run("CREATE TABLE main.merged (state BLOB PRIMARY KEY, started INTEGER,"
+                                " rest INTEGER) WITHOUT ROWID"))
+    return false;
+  Statement note = database_.prepare("INSERT OR REPLACE INTO main.merged VALUES (?, ?, ?)");
+  const auto insert = [&](const QByteArray& state, const StateSummary& summary) {
+    note.bind(0, state);
+    if (summary.started) note.bind(1, *summary.started);
+    if (summary.rest) note.bind(2, *summary.rest);
+    return note.run();
+  };
+  if (isFirst && ours.started && !insert("", ours)) return false;
+  return insert(other, theirs);
 }
 
 }  // namespace norvex

@@ -14,6 +14,7 @@
 #include "base/file_descriptor.h"
 #include "cli/archive/state/database.h"
 #include "cli/archive/state/run_entry.h"
+#include "cli/archive/state/state_summary.h"
 
 namespace norvex {
 
@@ -24,7 +25,7 @@ class RunState {
   /// Opens a state for a run, or makes it. Fails (CannotWrite) when another run has it, and for files that
   /// are no states.
   [[nodiscard]] static Result<std::unique_ptr<RunState>> openForRun(const QByteArray& path);
-  /// Opens one that is there to look on.
+  /// Opens one that is there to look on; also where nothing can be written beside it.
   [[nodiscard]] static Result<std::unique_ptr<RunState>> openToRead(const QByteArray& path);
 
   [[nodiscard]] Result<std::optional<RunEntry>> find(const QByteArray& path);
@@ -35,7 +36,8 @@ class RunState {
   Result<void> finish(const QList<RunEntry>& entries);
   /// How many files the run will look at; nothing: it is not known.
   Result<void> noteTotal(std::optional<qint64> total);
-  /// Takes the entries of another state that are newer than ours or new. Fails when it is not one.
+  /// Takes the entries of another state that are newer than ours or new, and what it has left counts with
+  /// what we have. Fails when it is not one.
   Result<void> merge(const QByteArray& other);
 
   /// For what only reads: see state_summary.h.
@@ -43,11 +45,13 @@ class RunState {
 
  private:
   RunState(FileDescriptor lock, Database database);
-  static Result<std::unique_ptr<RunState>> open(const QByteArray& path, FileDescriptor lock, bool mayCreate);
+  static Result<std::unique_ptr<RunState>> open(const QByteArray& path, FileDescriptor lock, bool forRun);
+  static Result<std::unique_ptr<RunState>> of(Result<Database> database, FileDescriptor lock, bool forRun);
   Result<void> write(const QList<RunEntry>& entries);
   Result<void> removeLeftovers();
+  bool noteMerged(const StateSummary& ours, const StateSummary& theirs, const QByteArray& other);
 
-  // The lock is released last: closing any descriptor of a file drops what SQLite has locked in it.
+  // Released last: closing any descriptor of a file drops what SQLite has locked in it.
   FileDescriptor lock_;
   std::mutex mutex_;
   Database database_;

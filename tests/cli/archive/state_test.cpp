@@ -382,6 +382,37 @@ class StateTest : public QObject {
     QCOMPARE(kept.go({"status", kept.path("all"), "--merge", kept.put("x", "no state")}), 3);
   }
 
+  void aStateThatIsBeingWrittenIsMergedAndNobodyWaits() {
+    Kept kept;
+    RunEntry done = begun("/a", {});
+    done.outcome = Outcome::Done;
+    const auto part = RunState::openForRun(kept.at("part"));
+    QVERIFY(part && (*part)->finish({done}).ok());
+    QVERIFY((*part)->database().run("BEGIN IMMEDIATE"));
+    const auto all = RunState::openForRun(kept.at("all"));
+    const auto merged = (*all)->merge(kept.at("part"));
+    QVERIFY2(merged.ok(), merged.ok() ? "" : qPrintable(merged.error().message));
+    QVERIFY((*part)->database().run("COMMIT"));
+  }
+
+  void aStateIsNotMergedIntoItself() {
+    Kept kept;
+    kept.put("in/a.svg");
+    QCOMPARE(kept.run(), 0);
+    QCOMPARE(kept.go({"status", kept.path("state"), "--merge", kept.path("./state")}), 4);
+    QVERIFY2(kept.console.messages.endsWith(": a state is not merged into itself\n"),
+             qPrintable(kept.console.messages));
+  }
+
+  void aStateThatIsTakenAwayEndsTheRun() {
+    Kept kept;
+    kept.put("in/a.svg");
+    kept.service.setPrepare([&](MemoryPictureProcess&) { QFile::remove(kept.path("state")); });
+    QCOMPARE(kept.run(), 4);
+    QVERIFY2(kept.console.messages.contains("/state: it was removed, or another was put in its place"),
+             qPrintable(kept.console.messages));
+  }
+
   void aStateWhoseNameIsNoTextIsMerged() {
     Kept kept;
     RunEntry done = begun("/a", {});

@@ -1,6 +1,7 @@
 #include "cli/archive/state/run_state.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QFileInfo>
@@ -184,6 +185,9 @@ Result<void> RunState::finish(const QList<RunEntry>& entries) {
 Result<void> RunState::write(const QList<RunEntry>& entries) {
   const std::lock_guard lock(mutex_);
   if (entries.isEmpty()) return {};
+  struct stat status {};
+  if (::fstat(lock_.get(), &status) == 0 && status.st_nlink == 0)
+    return notAState(QStringLiteral("it was removed, or another was put in its place, while it was used"));
   if (!database_.run("BEGIN IMMEDIATE")) return database_.error();
   for (const RunEntry& e : entries) {
     write_.bind(0, e.path).bind(1, e.settings).bind(2, e.stamp.size).bind(3, e.stamp.time);
@@ -211,6 +215,11 @@ Result<void> RunState::noteTotal(std::optional<qint64> total) {
 }
 
 Result<void> RunState::merge(const QByteArray& other) {
+  struct stat own {
+  }, status{};
+  const bool isOwn = ::fstat(lock_.get(), &own) == 0 && ::stat(other.constData(), &status) == 0 &&
+                     own.st_dev == status.st_dev && own.st_ino == status.st_ino;
+  if (isOwn) return notAState(QStringLiteral("a state is not merged into itself"));
   // Opened once by itself: it is made whole after a crash, and must be a state.
   const auto opened = openToRead(other);
   if (!opened) return opened.error();
@@ -222,7 +231,7 @@ Result<void> RunState::merge(const QByteArray& other) {
   // As bytes: a file's name need not be text, and SQLite hands them on as they are.
   if (!attach.bind(0, other).run()) return database_.error();
   const bool merged = database_.run(
-                          "BEGIN IMMEDIATE;"
+                          "BEGIN;"  // takes no lock of the other: a run that uses it must not wait
                           "INSERT OR REPLACE INTO main.entry SELECT theirs.* FROM other.entry AS theirs"
                           " LEFT JOIN main.entry AS ours ON ours.path = theirs.path"
                           " WHERE ours.path IS NULL OR theirs.finished > ours.finished") &&

@@ -110,8 +110,9 @@ class ConvertSystemTest : public QObject {
         "colorimage grestore } for showpage\n%%EOF\n";
     const QString source = write("tiles.eps", eps), pdf = path("tiles.pdf"), png = path("tiles.png");
     QCOMPARE(kit::norvex({"convert", source, "-o", pdf}).exitCode, 0);
-    const auto isPlain = [&](const QString& file, const char* dpi) {
-      if (kit::norvex({"convert", file, "-o", png, "--force", "--dpi", dpi}).exitCode != 0) return false;
+    const auto isPlain = [&](const QString& file, const char* dpi, const QStringList& more = {}) {
+      if (kit::norvex(QStringList{"convert", file, "-o", png, "--force", "--dpi", dpi} + more).exitCode != 0)
+        return false;
       const QImage image(png), inside = image.copy(image.rect().adjusted(1, 1, -1, -1));
       QImage red = inside;
       red.fill(Qt::red);
@@ -120,6 +121,9 @@ class ConvertSystemTest : public QObject {
     // The EPS is drawn by one program, the PDF by another.
     for (const char* dpi : {"72", "100", "217"}) QVERIFY2(isPlain(source, dpi), dpi);
     QVERIFY(isPlain(pdf, "144"));
+    for (const char* angle : {"30", "1.5", "233"})
+      for (const char* dpi : {"72", "217"})
+        QVERIFY2(isPlain(pdf, dpi, {"--rotate", angle, "--crop", "50,50,30,30"}), angle);
   }
 
   void aPartOfAPageTurnedBecomesSvg() {

@@ -5,6 +5,8 @@
 #include <memory>
 #include <vector>
 
+#include "worker/drawing/slanted_seams.h"
+
 namespace norvex::engine {
 namespace {
 
@@ -12,6 +14,12 @@ const cairo_user_data_key_t kAsked{};  // its address counts: another one in eac
 
 // Cairo keeps places on the surface in steps of a 256th.
 constexpr double kSameLine = 1.5 / 256;
+
+/// What is kept for a context.
+struct Asked {
+  SlantedSeams seams;
+  SlantedSeams::Polygon clip;  ///< the last one
+};
 
 struct PathRelease {
   void operator()(cairo_path_t* path) const { cairo_path_destroy(path); }
@@ -172,6 +180,12 @@ void moveEdges(cairo_t* context, const MovedXOf& movedXOf, const MovedYOf& moved
   cairo_append_path(context, path.get());
 }
 
+SlantedSeams::Polygon polygon(cairo_t* context) {
+  const SurfaceSpace surface(context);
+  const CairoPath path(cairo_copy_path(context));
+  return path->status == CAIRO_STATUS_SUCCESS ? SlantedSeams::polygonOf(*path) : SlantedSeams::Polygon();
+}
+
 void putBetweenPixels(cairo_t* context) {
   const SurfaceSpace surface(context);
   const auto always = [](const Outline&) { return betweenPixels; };
@@ -233,29 +247,65 @@ void reachClip(cairo_t* context) {
       [&](const Outline& outline) { return endsY.besides(outline.levels()); });
 }
 
-bool isAsked(cairo_t* context) {
-  return cairo_get_user_data(context, &kAsked) != nullptr;
+Asked* askedOf(cairo_t* context) {
+  return static_cast<Asked*>(cairo_get_user_data(context, &kAsked));
 }
 
 bool paintsImage(cairo_t* context) {
   return cairo_pattern_get_type(cairo_get_source(context)) == CAIRO_PATTERN_TYPE_SURFACE;
 }
 
+/// Whether `tile` is what the clip leaves: it may have been taken back since. The image's edges are a clip,
+/// too.
+bool isClip(const SlantedSeams::Polygon& tile, const Span& x, const Span& y) {
+  if (tile.empty()) return false;
+  const auto [left, right] =
+      std::minmax_element(tile.begin(), tile.end(), [](auto a, auto b) { return a.x < b.x; });
+  const auto [top, bottom] =
+      std::minmax_element(tile.begin(), tile.end(), [](auto a, auto b) { return a.y < b.y; });
+  return left->x <= x.least + 1 && right->x >= x.most - 1 && top->y <= y.least + 1 && bottom->y >= y.most - 1;
+}
+
+/// An image is a tile; so is a clip that is filled.
+void keepTile(cairo_t* context, Asked& asked) {
+  if (paintsImage(context)) asked.seams.addTile(polygon(context));
+  const SurfaceSpace surface(context);
+  Span x, y, clipX, clipY;
+  cairo_path_extents(context, &x.least, &y.least, &x.most, &y.most);
+  cairo_clip_extents(context, &clipX.least, &clipY.least, &clipX.most, &clipY.most);
+  const bool fills = x.least <= clipX.least + 1 && x.most >= clipX.most - 1 && y.least <= clipY.least + 1 &&
+                     y.most >= clipY.most - 1;
+  if (fills && isClip(asked.clip, clipX, clipY)) asked.seams.addTile(asked.clip);
+}
+
 }  // namespace
 
 void askForPixelEdges(cairo_t* context) {
-  cairo_set_user_data(context, &kAsked, context, nullptr);
+  cairo_set_user_data(context, &kAsked, new Asked, [](void* asked) { delete static_cast<Asked*>(asked); });
+}
+
+bool hasSlantedSeams(cairo_t* context) {
+  const Asked* asked = askedOf(context);
+  return asked && asked->seams.areThere();
 }
 
 void clipBetweenPixels(cairo_t* context) {
-  if (isAsked(context)) putBetweenPixels(context);
+  if (Asked* asked = askedOf(context)) {
+    putBetweenPixels(context);
+    asked->clip = polygon(context);
+  }
   cairo_clip_preserve(context);
   cairo_new_path(context);
 }
 
 void fillBetweenPixels(cairo_t* context) {
-  if (isAsked(context) && paintsImage(context)) putBetweenPixels(context);
-  if (isAsked(context) && !paintsImage(context)) reachClip(context);
+  if (Asked* asked = askedOf(context)) {
+    keepTile(context, *asked);
+    if (paintsImage(context))
+      putBetweenPixels(context);
+    else
+      reachClip(context);
+  }
   cairo_fill_preserve(context);
   cairo_new_path(context);
 }

@@ -13,6 +13,10 @@ namespace norvex::engine {
 /// cairo_fill(), for the libraries that they load, too. Goes with the context.
 void askForPixelEdges(cairo_t* context);
 
+/// Whether images and areas that were painted up to their clips met at edges that could not be put between
+/// pixels: at any other angle than level and upright. False where askForPixelEdges() was not called.
+[[nodiscard]] bool hasSlantedSeams(cairo_t* context);
+
 /// As cairo_clip(). Where askForPixelEdges() was called, the level and upright edges of the path (as they lie
 /// on the surface) are first moved to the nearest edge between two pixels. Edges at one place go to the same
 /// place: what had no gap has none. Curves and slanted edges stay as they are. So does a path of several

@@ -8,6 +8,7 @@
 
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/turned_image.h"
 #include "worker/pdf/pdf_file.h"
 
 namespace norvex::engine {
@@ -87,10 +88,21 @@ Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
   const Result<PagePointer> page = shownPage(document_.get(), request.page);
   if (!page) return page.error();
-  return paintImage(request, limits, [&](cairo_t* context) {
+  bool seams = tiled_.contains(request.page) && isSlanted(request.pictureToDevice);
+  const PaintPicture paint = [&](cairo_t* context) {
     askForPixelEdges(context);
-    return paintPage(context, page->get(), shownSize);
-  });
+    const Result<void> painted = paintPage(context, page->get(), shownSize);
+    seams = seams || (isSlanted(request.pictureToDevice) && hasSlantedSeams(context));
+    return painted;
+  };
+  // Where it would take too much, the picture is drawn with its seams.
+  const auto turned = [&] { return paintTurned(request, QRectF({0, 0}, shownSize), limits, paint); };
+  if (seams)
+    if (Result<Bitmap> image = turned(); image || image.error().kind != ErrorKind::Limit) return image;
+  Result<Bitmap> image = paintImage(request, limits, paint);
+  if (!image || !seams || !tiled_.insert(request.page).second) return image;
+  Result<Bitmap> better = turned();
+  return better ? std::move(better) : std::move(image);
 }
 
 Result<QByteArray> PdfRenderer::vectors(QSizeF shownSize, const AffineTransform& pictureToSheet,

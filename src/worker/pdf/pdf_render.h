@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <set>
 
 #include "base/result.h"
 #include "protocol/page_text.h"
@@ -45,6 +46,7 @@ class PdfRenderer {
   };
   QByteArray pdf_;
   std::unique_ptr<_PopplerDocument, Release> document_;
+  std::set<int> tiled_;  ///< pages whose tiles have seams when they are drawn slanted
 };
 
 /// letters() of a PDF of one page.

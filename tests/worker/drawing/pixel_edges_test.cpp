@@ -258,6 +258,56 @@ class PixelEdgesTest : public QObject {
     QVERIFY(area.coverage(15, 10) > 100 && area.coverage(15, 10) < 155);
   }
 
+  void slantedTilesThatMeetAreNoticed_data() {
+    QTest::addColumn<double>("degrees");
+    QTest::addColumn<double>("gap");
+    QTest::addColumn<double>("painted");  // how far from its tile's middle
+    QTest::addColumn<bool>("seams");
+    QTest::newRow("turned tiles") << 30.0 << 0.0 << 20.0 << true;
+    QTest::newRow("turned by little") << 1.5 << 0.0 << 20.0 << true;
+    QTest::newRow("level tiles") << 0.0 << 0.0 << 20.0 << false;
+    QTest::newRow("turned tiles with room between them") << 30.0 << 0.5 << 20.0 << false;
+    QTest::newRow("cells of a table, with something in each") << 30.0 << 0.0 << 2.0 << false;
+  }
+  void slantedTilesThatMeetAreNoticed() {
+    QFETCH(double, degrees);
+    QFETCH(double, gap);
+    QFETCH(double, painted);
+    QFETCH(bool, seams);
+    const Sheet sheet;
+    cairo_t* context = sheet.context.get();
+    cairo_translate(context, 20, 20);
+    cairo_rotate(context, degrees * 3.14159265358979 / 180);
+    const auto tile = [&](double x, double y) {
+      cairo_save(context);
+      cairo_rectangle(context, x, y, 9.3, 7.7);
+      clipBetweenPixels(context);
+      cairo_rectangle(context, x + 4.6 - painted, y + 3.8 - painted, 2 * painted, 2 * painted);
+      fillBetweenPixels(context);
+      cairo_restore(context);
+    };
+    tile(-9.3 - gap, 0);
+    tile(0, 2.2);  // as bricks
+    tile(-9.3 - gap, -7.7 - gap);
+    QCOMPARE(hasSlantedSeams(context), seams);
+    QVERIFY(!hasSlantedSeams(Sheet(false).context.get()));
+  }
+
+  void turnedImagesThatMeetAreNoticed() {
+    for (const double gap : {0.0, 1.0}) {
+      const Sheet sheet;
+      cairo_t* context = sheet.context.get();
+      const CairoSurface red(cairo_image_surface_create(CAIRO_FORMAT_RGB24, 8, 8));
+      cairo_rotate(context, 0.3);
+      for (const double x : {9.5, 17.5 + gap}) {
+        cairo_set_source_surface(context, red.get(), x, 0);
+        cairo_rectangle(context, x, 0, 8, 8);
+        fillBetweenPixels(context);
+      }
+      QCOMPARE(hasSlantedSeams(context), gap == 0);
+    }
+  }
+
   void thePathIsGoneAndTheMatrixIsNot() {
     const Sheet sheet;
     cairo_t* context = sheet.context.get();

@@ -5,6 +5,7 @@
 
 #include "kit/program.h"
 #include "kit/test_main.h"
+#include "system/x_session.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -114,6 +115,27 @@ class PartsTest : public QObject {
     QVERIFY2(steps.values().contains(ours), ran.err.constData());
     QVERIFY2(steps.values().contains(theirs), ran.err.constData());
     QCOMPARE(kit::norvex(arguments + QStringList{"--force"}).err, QByteArray());
+  }
+
+  void aWindowSaysNothingOnTheTerminal() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("QT_DEBUG_PLUGINS", "1");  // has Qt tell of every library that it looks at
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
+      environment.insert(QLatin1String(name), path("home"));
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::MergedChannels);
+    program.start(kit::norvexProgram(), {kit::sample("lighthouse.svg")});
+    QVERIFY(program.waitForStarted());
+    const auto hasItsPlatform = [&] {
+      QFile maps(QStringLiteral("/proc/%1/maps").arg(program.processId()));
+      return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libqoffscreen");
+    };
+    QVERIFY(kit::waitUntil(hasItsPlatform));
+    program.terminate();
+    QVERIFY(program.waitForFinished());
+    QCOMPARE(program.readAll(), QByteArray());
   }
 
   void aMissingEngineIsToldInOneSentence_data() {

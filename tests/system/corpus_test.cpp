@@ -17,6 +17,7 @@
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "system/outside_programs.h"
+#include "system/real_files.h"
 
 using namespace norvex;
 
@@ -30,7 +31,7 @@ QString kindOf(const QString& file) {
 }
 
 QStringList kinds() {
-  return QDir(kit::corpusFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+  return real::folders().keys();
 }
 
 void print(const QString& line) {
@@ -45,6 +46,9 @@ void print(const QString& title, const Counts& counts) {
   std::fflush(stdout);
 }
 
+/// For each other program: it may have to share a busy machine.
+constexpr int kSeconds = 60;
+
 /// A sentence without what differs from file to file, so that it can be counted.
 QString reason(QString sentence) {
   static const QRegularExpression number("[0-9]+");
@@ -58,12 +62,6 @@ QJsonArray objectsIn(const QByteArray& json) {
 
 bool isOneSentence(const QString& text) {
   return !text.trimmed().isEmpty() && !text.contains(u'\n');
-}
-
-/// How other programs have to read a file of the corpus.
-QString formatOf(const QString& kind) {
-  if (kind == "svg" || kind == "svgz") return kind;
-  return kind == "pdf" || kind == "ai_pdf" ? "pdf" : "eps";
 }
 
 }  // namespace
@@ -108,7 +106,7 @@ class CorpusTest : public QObject {
     Counts counts;
     QStringList died;
     for (const QString& kind : kinds()) {
-      const QStringList files = kit::corpusFiles(kind);
+      const QStringList files = real::files(kind);
       QTemporaryDir folder;
       const kit::Ran ran =
           kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", "png", "--dpi", "24",
@@ -146,7 +144,7 @@ class CorpusTest : public QObject {
     RoundTrip trip{.looks = false};
     const QStringList all = drawnKinds();
     for (qsizetype k = 0; k < all.size(); ++k) {
-      QStringList files = kit::corpusFiles(all[k]);
+      QStringList files = real::files(all[k]);
       std::shuffle(files.begin(), files.end(), chance);
       // As many of each kind, and one more of the first ones.
       files.resize(std::min(files.size(), (wanted + all.size() - 1 - k) / all.size()));
@@ -165,7 +163,7 @@ class CorpusTest : public QObject {
     RoundTrip trip;
     for (const QString& kind : drawnKinds()) {
       QStringList files;
-      const QStringList all = kit::corpusFiles(kind);
+      const QStringList all = real::files(kind);
       for (qsizetype i = 0; i < all.size(); i += step) files << all[i];
       convertIntoAll(kind, files, trip);
     }
@@ -204,11 +202,12 @@ class CorpusTest : public QObject {
     QString complaint;
     double different = 0;
     bool compared = false;
+    double finer = 0;  ///< of what is unlike at 72 pixels an inch, the difference at 288
   };
 
   static QStringList allFiles() {
     QStringList files;
-    for (const QString& kind : kinds()) files += kit::corpusFiles(kind);
+    for (const QString& kind : kinds()) files += real::files(kind);
     return files;
   }
 
@@ -225,7 +224,7 @@ class CorpusTest : public QObject {
     if (missing.isEmpty()) return sources_;
     sources_.clear();
     const auto images = QtConcurrent::blockingMapped<QList<QImage>>(&pool_, missing, [](const QString& file) {
-      return outside::drawnOutside(file, formatOf(kindOf(file)), 30);
+      return outside::drawnOutside(file, real::formatOf(file), kSeconds);
     });
     for (qsizetype i = 0; i < missing.size(); ++i) sources_.insert(missing[i], images[i]);
     return sources_;
@@ -235,10 +234,10 @@ class CorpusTest : public QObject {
   static QString complaintAboutSource(const QString& file, const QString& format,
                                       const QString& resultFormat) {
     if (format == "eps" && resultFormat == "eps-preview")
-      if (const QString refused = outside::complaintOf("epstool", {"--quiet", "--test-eps", file}, 30);
+      if (const QString refused = outside::complaintOf("epstool", {"--quiet", "--test-eps", file}, kSeconds);
           !refused.isEmpty())
         return refused;
-    return outside::complaintAbout(file, format, 30);
+    return outside::complaintAbout(file, format, kSeconds);
   }
 
   void convertAll(const QString& kind, const QStringList& files, const QString& format, RoundTrip& trip) {
@@ -247,7 +246,7 @@ class CorpusTest : public QObject {
     const kit::Ran ran = kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", format,
                                                  "--timeout", "20", "--jobs", "2", "--to", folder.path()} +
                                          files,
-                                     {}, 1200);
+                                     {}, 3600);
     QVERIFY(!ran.crashed);
     const QJsonArray all = objectsIn(ran.out);
     QCOMPARE(all.size(), files.size());
@@ -260,12 +259,14 @@ class CorpusTest : public QObject {
       if (object.contains("error")) return outcome;
       // What is handed on as it is may have the source's own faults.
       const QString to = object["output"].toString();
-      const QString complaint = outside::complaintAbout(to, format, 30);
-      if (!complaint.isEmpty() && complaintAboutSource(files[i], formatOf(kind), format).isEmpty())
+      const QString complaint = outside::complaintAbout(to, format, kSeconds);
+      if (!complaint.isEmpty() && complaintAboutSource(files[i], real::formatOf(files[i]), format).isEmpty())
         outcome.complaint = complaint;
       if (sources.value(files[i]).isNull() || hasNoPostScript(object)) return outcome;
       outcome.compared = true;
-      outcome.different = outside::difference(sources.value(files[i]), outside::drawnOutside(to, format, 30));
+      outcome.different =
+          outside::difference(sources.value(files[i]), outside::drawnOutside(to, format, kSeconds));
+      if (isUnlike(outcome, format)) outcome.finer = finerDifference(files[i], to, format);
       return outcome;
     });
     for (qsizetype i = 0; i < files.size(); ++i) {
@@ -280,11 +281,30 @@ class CorpusTest : public QObject {
         trip.refused << name + outcomes[i].complaint;
       if (!outcomes[i].compared) continue;
       ++trip.counts[kind + " → " + format]["compared"];
-      if (outcomes[i].different > (format == "gif" ? 0.05 : 0.03))
-        trip.unlike << name + QString::number(outcomes[i].different * 100, 'f', 1) + " %";
+      if (!isUnlike(outcomes[i], format)) continue;
+      trip.unlike << name + QString("%1 %, at 288: %2 %")
+                                .arg(outcomes[i].different * 100, 0, 'f', 1)
+                                .arg(outcomes[i].finer * 100, 0, 'f', 1);
+      print("  " + trip.unlike.last());
     }
     if (trip.looks) print(QString("%1 → %2 done").arg(kind, format));
     std::fflush(stdout);
+  }
+
+  static bool isUnlike(const Outcome& outcome, const QString& format) {
+    return outcome.different > (format == "gif" ? 0.05 : 0.03);
+  }
+
+  /// Edges weigh less the finer a picture is drawn; what is another picture stays as far away.
+  static double finerDifference(const QString& file, const QString& result, const QString& format) {
+    const QTemporaryDir folder;
+    QString fine = result;
+    if (isRaster(formatNamed(format.toStdString()).value())) {
+      fine = folder.filePath("fine." + format);
+      kit::norvex({"convert", file, "-o", fine, "--format", format, "--dpi", "288", "--timeout", "60"});
+    }
+    return outside::difference(outside::drawnOutside(file, real::formatOf(file), 60, 288),
+                               outside::drawnOutside(fine, format, 60, 288));
   }
 
   static bool hasNoPostScript(const QJsonObject& object) {

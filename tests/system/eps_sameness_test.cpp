@@ -14,6 +14,7 @@
 
 #include "kit/test_main.h"
 #include "system/outside_programs.h"
+#include "system/real_files.h"
 
 using namespace norvex;
 
@@ -30,9 +31,9 @@ QImage drawn(const QString& path) {
 }
 
 /// Each `step`th EPS of a folder of real files.
-QStringList sources(const char* kind, int step) {
-  QStringList files;
-  const QStringList all = kit::corpusFiles(kind);
+QStringList sources(const char* folder, int step) {
+  QStringList files, all = real::files(folder);
+  all.removeIf([](const QString& file) { return real::formatOf(file) != "eps"; });
   for (qsizetype i = 0; i < all.size(); i += step) files << all[i];
   return files;
 }
@@ -73,7 +74,7 @@ class EpsSamenessTest : public QObject {
     QMap<QString, int> counts;
     QStringList different;
     int total = 0;
-    for (const char* kind : {"eps_text", "eps_binary", "epsi", "ai_ps"}) {
+    for (const char* kind : {"eps_text", "eps_binary", "epsi", "ai_ps", "found", "edge"}) {
       const QStringList files = sources(kind, step > 0 ? step : 16);
       const QTemporaryDir folder;
       const kit::Ran ran = kit::norvex(QStringList{"convert", "--json", "--quiet", "--format", format,

@@ -102,26 +102,27 @@ inline QString complaintAbout(const QString& path, const QString& format, int se
   return identified;
 }
 
-/// The picture over white at 72 pixels an inch, drawn by Ghostscript, Poppler, librsvg or ImageMagick. Null
-/// on failure.
-inline QImage drawnOutside(const QString& path, const QString& format, int seconds = 60) {
+/// The picture over white, of so many pixels an inch (a raster file has its own), drawn by Ghostscript,
+/// Poppler, librsvg or ImageMagick. Null on failure.
+inline QImage drawnOutside(const QString& path, const QString& format, int seconds = 60, int dpi = 72) {
   const QTemporaryDir folder;
   const QString png = folder.filePath("drawn.png");
   if (format == "eps" || format == "epsi") {
     run("gs",
-        {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-q", "-dEPSCrop", "-sDEVICE=png16m", "-r72", "-dTextAlphaBits=4",
-         "-dGraphicsAlphaBits=4", "-o", png, path},
+        {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-q", "-dEPSCrop", "-sDEVICE=png16m", QString("-r%1").arg(dpi),
+         "-dTextAlphaBits=4", "-dGraphicsAlphaBits=4", "-o", png, path},
         {}, seconds);
   } else if (format == "eps-preview") {
     const QString eps = folder.filePath("program.eps");
     run("epstool", {"--quiet", "--ignore-warnings", "--ignore-errors", "--extract-postscript", path, eps}, {},
         seconds);
-    return drawnOutside(eps, "eps", seconds);
+    return drawnOutside(eps, "eps", seconds, dpi);
   } else if (format == "pdf") {
-    run("pdftocairo", {"-png", "-r", "72", "-singlefile", "-cropbox", path, png.chopped(4)}, {}, seconds);
+    run("pdftocairo", {"-png", "-r", QString::number(dpi), "-singlefile", "-cropbox", path, png.chopped(4)},
+        {}, seconds);
   } else if (format == "svg" || format == "svgz") {
-    run("rsvg-convert", {"--unlimited", "--background-color=white", "--zoom=0.75", "-o", png, path}, {},
-        seconds);
+    const QString zoom = QString("--zoom=%1").arg(dpi / 96.0);
+    run("rsvg-convert", {"--unlimited", "--background-color=white", zoom, "-o", png, path}, {}, seconds);
   } else {
     run("convert", {path, "-background", "white", "-alpha", "remove", "png24:" + png}, {}, seconds);
   }

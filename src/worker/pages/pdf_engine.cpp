@@ -122,7 +122,7 @@ class PdfEngine final : public DocumentEngine {
   }
 
   [[nodiscard]] Result<EngineBytes> letters(int page, QSizeF size) {
-    const Result<PageText> text = renderer_.letters(page, size);
+    const Result<PageText> text = isCut(page) ? lettersOfRepaired(page, size) : renderer_.letters(page, size);
     if (!text) return text.error();
     return EngineBytes{encodePageText(*text), {}};
   }
@@ -164,6 +164,7 @@ class PdfEngine final : public DocumentEngine {
   }
 
   [[nodiscard]] Result<Bitmap> drawn(const RenderRequest& request, QSizeF size) {
+    if (isCut(request.page)) return renderRepaired(request, size);
     Result<Bitmap> image = renderer_.render(request, size, context_.limits);
     if (image || image.error().kind == ErrorKind::Limit || image.error().kind == ErrorKind::Protocol)
       return image;
@@ -176,16 +177,33 @@ class PdfEngine final : public DocumentEngine {
     return guarded([&]() -> Result<QSizeF> { return file_->geometry(page).shownSize(); });
   }
 
+  /// Poppler takes the whole media box along an axis on which the crop box reaches beyond it.
+  [[nodiscard]] bool isCut(int page) {
+    const Result<bool> cut = guarded([&]() -> Result<bool> { return file_->geometry(page).isCut; });
+    return cut && *cut;
+  }
+
   // Of damaged files qpdf finds pages that Poppler misses: it is given the page alone, written anew.
-  [[nodiscard]] Result<Bitmap> renderRepaired(RenderRequest request, QSizeF size) {
-    if (!repaired_ || repairedPage_ != request.page) {
-      Result<QByteArray> page = composePdf(bytes_, wholePage(request.page, size, VectorFormat::Pdf));
-      if (!page) return page.error();
-      repaired_.emplace(std::move(*page));
-      repairedPage_ = request.page;
+  [[nodiscard]] Result<PdfRenderer*> repaired(int page, QSizeF size) {
+    if (!repaired_ || repairedPage_ != page) {
+      Result<QByteArray> alone = composePdf(bytes_, wholePage(page, size, VectorFormat::Pdf));
+      if (!alone) return alone.error();
+      repaired_.emplace(std::move(*alone));
+      repairedPage_ = page;
     }
+    return &*repaired_;
+  }
+
+  [[nodiscard]] Result<Bitmap> renderRepaired(RenderRequest request, QSizeF size) {
+    const Result<PdfRenderer*> renderer = repaired(request.page, size);
+    if (!renderer) return renderer.error();
     request.page = 0;
-    return repaired_->render(request, size, context_.limits);
+    return (*renderer)->render(request, size, context_.limits);
+  }
+
+  [[nodiscard]] Result<PageText> lettersOfRepaired(int page, QSizeF size) {
+    const Result<PdfRenderer*> renderer = repaired(page, size);
+    return renderer ? (*renderer)->letters(0, size) : Result<PageText>(renderer.error());
   }
 
   QByteArray source_;

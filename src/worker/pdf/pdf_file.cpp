@@ -177,8 +177,10 @@ PageGeometry PdfFile::geometry(int number) const {
   PageGeometry geometry;
   QPDFObjectHandle page = this->page(number);
   const QRectF media = rectangle(page.getKey("/MediaBox")).value_or(kLetter);
-  const QRectF crop = rectangle(page.getKey("/CropBox")).value_or(media).intersected(media);
+  const QRectF asked = rectangle(page.getKey("/CropBox")).value_or(media);
+  const QRectF crop = asked.intersected(media);
   geometry.box = crop.isEmpty() ? media : crop;
+  geometry.isCut = asked != crop;
   geometry.rotation = rotationOf(page.getKey("/Rotate"));
   geometry.userUnit = userUnitOf(page.getKey("/UserUnit"));
   return geometry;

@@ -27,6 +27,8 @@ struct PageGeometry {
   QRectF box;           ///< crop box ∩ media box in the page's own user space, before /Rotate and /UserUnit
   int rotation = 0;     ///< 0, 90, 180 or 270 degrees clockwise
   double userUnit = 1;  ///< points per unit of user space
+  bool isCut =
+      false;  ///< the crop box reaches beyond the media box: who draws the page may show something else
 
   /// Size of the page as it is shown, points.
   [[nodiscard]] QSizeF shownSize() const;

@@ -117,6 +117,30 @@ class PdfRenderTest : public QObject {
     QCOMPARE(image.pixel(49, 39), kBlue);
   }
 
+  void aCropBoxThatReachesBeyondThePaperEndsWithIt_data() {
+    QTest::addColumn<QByteArray>("crop");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("below") << QByteArray("0 -50 200 80") << QSize(200, 80);
+    QTest::newRow("above") << QByteArray("0 20 200 300") << QSize(200, 80);
+    QTest::newRow("at the left") << QByteArray("-50 0 150 100") << QSize(150, 100);
+    QTest::newRow("at the right") << QByteArray("50 0 300 100") << QSize(150, 100);
+    QTest::newRow("on all sides") << QByteArray("-10 -10 500 500") << QSize(200, 100);
+  }
+  void aCropBoxThatReachesBeyondThePaperEndsWithIt() {
+    QFETCH(QByteArray, crop);
+    QFETCH(QSize, size);
+    // Where the quarters meet is seen at its own place, neither moved nor stretched.
+    const QImage image =
+        rendered(onePage(kQuarters, "/MediaBox [0 0 200 100] /CropBox [" + crop + "]"), whole(size));
+    const int left = std::max(0, crop.split(' ')[0].toInt());
+    const int top = std::min(100, crop.split(' ')[3].toInt());
+    const QPoint meet(100 - left, top - 50);
+    QCOMPARE(image.pixel(meet + QPoint(-1, 0)), kRed);
+    QCOMPARE(image.pixel(meet + QPoint(0, -1)), kBlue);
+    QCOMPARE(image.pixel(meet), 0u);
+    QCOMPARE(image.pixel(meet + QPoint(-1, -1)), 0u);
+  }
+
   void theMatrixIsExact() {
     // Ten times enlarged around the border between the quarters: picture point (100, 50) is at pixel (10,
     // 10).

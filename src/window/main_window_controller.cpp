@@ -183,6 +183,7 @@ void MainWindowController::take(const DocumentContents& contents, bool again) {
   showContents(contents);
   finishSetUp();
   commands_.shownView.takeFirst();
+  commands_.sizing.firstPictureIsShown();
   if (!again) tell(contents.lost);
   emit documentShown();
 }

@@ -1,4 +1,5 @@
 // The window-size rule on a real window.
+#include <QScreen>
 #include <QToolBar>
 
 #include "display/skt_zooming_scroll_view.h"
@@ -27,6 +28,34 @@ class WindowSizeTest : public QObject {
     if (!QTest::qWaitForWindowExposed(c.window())) qFatal("no window");
     c.setWindowSize();
     return c;
+  }
+
+  static constexpr QSize kLate{600, 450};
+
+  static void setPage(WindowFixture& fixture, const QSize& size) {
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(QPointF(0, 0), QSizeF(size))};
+    fixture.service.setPicture(picture);
+  }
+  /// Its document takes longer than the window waits for it.
+  static MainWindowController& shownWithoutPicture(WindowFixture& fixture) {
+    setPage(fixture, kLate);
+    fixture.service.setPrepare([](MemoryPictureProcess& process) { process.hold(PictureCall::Facts); });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.showWindow();
+    if (!QTest::qWaitForWindowExposed(c.window()) || !c.isReading()) qFatal("no window that waits");
+    return c;
+  }
+  static void letPictureCome(WindowFixture& fixture, MainWindowController& c) {
+    if (!fixture.service.lastProcess()->waitUntilHeld(PictureCall::Facts)) qFatal("nothing was read");
+    fixture.service.setPrepare({});
+    fixture.service.lastProcess()->release(PictureCall::Facts);
+    QTRY_VERIFY(!c.isReading());
+    QCoreApplication::processEvents();
+  }
+  /// With what the desktop draws around it.
+  static QRect outsideOf(MainWindowController& c) {
+    return c.window()->geometry().marginsAdded(savedFrameMargins());
   }
 
  private slots:
@@ -116,6 +145,51 @@ class WindowSizeTest : public QObject {
     QVERIFY(after.height() < before.height());
     QCOMPARE(after.bottom(), before.bottom());
     QCOMPARE(after.left(), before.left());
+  }
+
+  void aLatePictureIsPlacedAsIfItHadBeenKnown() {
+    WindowFixture fixture;
+    MainWindowController& c = shownWithoutPicture(fixture);
+    const QRect before = c.window()->geometry();
+    letPictureCome(fixture, c);
+    const QRect after = c.window()->geometry();
+    QVERIFY(after.width() < before.width() && after.height() < before.height());
+    const QPoint off = outsideOf(c).center() - c.window()->screen()->availableGeometry().center();
+    QVERIFY2(off.manhattanLength() <= 2, qPrintable(QStringLiteral("%1, %2").arg(off.x()).arg(off.y())));
+    QCOMPARE(c.scrollArea()->contentSize(), QSizeF(kLate));
+  }
+
+  void aLatePictureKeepsTheRememberedCorner() {
+    WindowFixture fixture;
+    saveWindowFrame("MainWindowController", QRect(40, 50, 640, 660));
+    MainWindowController& c = shownWithoutPicture(fixture);
+    letPictureCome(fixture, c);
+    QCOMPARE(outsideOf(c).topLeft(), QPoint(40, 50));
+    QCOMPARE(c.scrollArea()->contentSize(), QSizeF(kLate));
+  }
+
+  void aWindowThatWasTakenElsewhereStaysThereWhenItsPictureComes() {
+    WindowFixture fixture;
+    saveWindowFrame("MainWindowController", QRect(40, 50, 640, 660));
+    MainWindowController& c = shownWithoutPicture(fixture);
+    const QRect screen = c.window()->screen()->availableGeometry();
+    c.window()->setGeometry(QRect(QPoint(screen.left() + 90, screen.bottom() - 200), c.window()->size()));
+    const QRect before = c.window()->geometry();
+    letPictureCome(fixture, c);
+    QCOMPARE(outsideOf(c).bottom(), screen.bottom());  // it would have hung over
+    QCOMPARE(c.window()->geometry().left(), before.left());
+  }
+
+  void onlyTheFirstPictureIsPlaced() {
+    WindowFixture fixture;
+    MainWindowController& c = shownWithoutPicture(fixture);
+    letPictureCome(fixture, c);
+    const QRect before = c.window()->geometry();
+    setPage(fixture, {560, 420});
+    fixture.revert();
+    const QRect after = c.window()->geometry();
+    QVERIFY(after.height() < before.height());
+    QCOMPARE(after.bottomLeft(), before.bottomLeft());
   }
 
   void theRuleMeasuresAWindowThatWasNeverShown() {

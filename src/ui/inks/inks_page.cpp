@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSet>
 #include <QSpinBox>
 #include <QTreeWidget>
@@ -45,7 +46,8 @@ QString percent(double value, int decimals) {
 
 InksPage::InksPage(QWidget* parent)
     : QWidget(parent),
-      contents_(new QWidget(this)),
+      scroll_(new QScrollArea(this)),
+      contents_(new QWidget(scroll_)),
       sentence_(new QLabel(this)),
       view_(new SeparationView(contents_)),
       list_(new QTreeWidget(contents_)),
@@ -78,10 +80,16 @@ InksPage::InksPage(QWidget* parent)
   column->addWidget(plates_);
   column->addWidget(overprint_);
   column->addLayout(makeOptions());
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidget(contents_);
+  scroll_->viewport()->setAutoFillBackground(false);
+  contents_->setAutoFillBackground(false);  // it is the page that has a colour
   auto* all = new QVBoxLayout(this);
   all->setContentsMargins(0, 0, 0, 0);
   all->addWidget(sentence_);
-  all->addWidget(contents_);
+  all->addWidget(scroll_);
   connect(view_, &SeparationView::pointed, this, &InksPage::pointed);
   connect(plates_, &QCheckBox::toggled, this, &InksPage::choose);
   connect(overprint_, &QCheckBox::toggled, this, &InksPage::overprintChanged);
@@ -154,7 +162,7 @@ void InksPage::showInks(const PageInks& page, double most) {
   showTotal(most_);
   setSeparated(true);
   sentence_->hide();
-  contents_->show();
+  scroll_->show();
 }
 
 void InksPage::showImage(const QImage& image) {
@@ -164,11 +172,11 @@ void InksPage::showImage(const QImage& image) {
 void InksPage::tell(const QString& sentence) {
   sentence_->setText(sentence);
   sentence_->show();
-  contents_->hide();
+  scroll_->hide();
 }
 
 void InksPage::showSeparating(const QString& sentence) {
-  if (contents_->isHidden() || list_->topLevelItemCount() == 0) return tell(sentence);
+  if (scroll_->isHidden() || list_->topLevelItemCount() == 0) return tell(sentence);
   setSeparated(false);
   showTotal(sentence);
 }

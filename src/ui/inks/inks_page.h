@@ -14,6 +14,7 @@ class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QSpinBox;
 class QTreeWidget;
 
@@ -62,6 +63,7 @@ class InksPage final : public QWidget {
   void showTotal(const QString& text);
   void setSeparated(bool separated);
 
+  QScrollArea* scroll_;
   QWidget* contents_;
   QLabel* sentence_;
   SeparationView* view_;

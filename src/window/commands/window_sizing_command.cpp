@@ -50,6 +50,9 @@ QList<QPoint> takenPlaces(const QWidget* but) {
 }
 
 constexpr int kRestMs = 250;
+/// By which a window manager may set a window aside from where it was put; logical pixels, both ways
+/// together.
+constexpr int kSettles = 8;
 
 int limited(double length, double ratio) {
   return std::min(
@@ -101,6 +104,7 @@ void WindowSizingCommand::apply() {
     parts_.mainWindow()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     return;
   }
+  const QRect before = parts_.mainWindow()->geometry();
   const WindowMeasures found = measures();
   const QSizeF viewSize = parts_.view() ? parts_.view()->frame().size() : QSizeF(0, 0);
   const WindowSize rule = windowSize(found, viewSize, parts_.zoomFactor());
@@ -113,10 +117,22 @@ void WindowSizingCommand::apply() {
   const QRect frame = onScreen(rule.frame, ratio);
   own_ = frame.size();
   // Before the window is on the screen its place is the window manager's to choose.
-  if (parts_.mainWindow()->isVisible())
-    parts_.mainWindow()->setGeometry(frame);
-  else
+  if (!parts_.mainWindow()->isVisible())
     parts_.mainWindow()->resize(frame.size());
+  else
+    parts_.mainWindow()->setGeometry(awaits_ ? placeOfLatePicture(before, frame.size()) : frame);
+}
+
+QRect WindowSizingCommand::placeOfLatePicture(const QRect& before, const QSize& size) {
+  const QMargins around = savedFrameMargins();
+  const bool isUntouched = placed_ && before.size() == placed_->size() &&
+                           (before.topLeft() - placed_->topLeft()).manhattanLength() <= kSettles;
+  if (!isUntouched)
+    return placedOnScreens(QRect(before.topLeft(), size).marginsAdded(around), screenRects())
+        .marginsRemoved(around);
+  // The same picture may be measured again, at another zoom.
+  placed_ = placeFor(size, around);
+  return *placed_;
 }
 
 void WindowSizingCommand::windowStateDidChange(const QWindowStateChangeEvent& event) {
@@ -165,12 +181,19 @@ void WindowSizingCommand::place() {
   QMainWindow& window = *parts_.mainWindow();
   window.winId();  // with bounds of the platform's from now on
   leaveRoomToTheUser();
-  const QMargins around = savedFrameMargins();
-  QRect frame = QRect(window.pos(), window.size().grownBy(around));
-  if (!hasPlace_) {
-    const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
+  awaits_ = !parts_.validateUserInterfaceItem();
+  placed_ = placeFor(window.size(), savedFrameMargins());
+  // Of the contents: once the platform knows a window, move() would take this for their place, too.
+  window.setGeometry(*placed_);
+}
+
+QRect WindowSizingCommand::placeFor(const QSize& size, const QMargins& around) const {
+  const QMainWindow& window = *parts_.mainWindow();
+  QRect frame(restored_.value_or(window.pos()), size.grownBy(around));
+  if (!restored_) {
+    const QScreen* screen = window.isVisible() ? window.screen() : QGuiApplication::screenAt(QCursor::pos());
     if (!screen) screen = QGuiApplication::primaryScreen();
-    if (!screen) return;
+    if (!screen) return frame.marginsRemoved(around);
     frame.moveCenter(screen->availableGeometry().center());
   }
   // What surrounds the others may differ from the guess; their contents stand where they were put.
@@ -179,20 +202,22 @@ void WindowSizingCommand::place() {
   for (const QWidget* other : QApplication::topLevelWidgets())
     if (other != &window && other->isVisible() && qobject_cast<const QMainWindow*>(other))
       taken << other->geometry().topLeft() - corner;
-  const QRect placed = placedOnScreens(frame, screenRects(), taken);
-  // Of the contents: once the platform knows a window, move() would take this for their place, too.
-  window.setGeometry(placed.marginsRemoved(around));
+  return placedOnScreens(frame, screenRects(), taken).marginsRemoved(around);
+}
+
+void WindowSizingCommand::firstPictureIsShown() {
+  if (parts_.validateUserInterfaceItem()) awaits_ = false;
 }
 
 void WindowSizingCommand::restoreFrame() {
   const QRect frame = savedWindowFrame(kFrameName);
   chosen_ = parts_.mainWindow()->size();
   if (!frame.isValid()) return;
-  hasPlace_ = true;
   chosen_ = frame.size();
   const QRect place = placedOnScreens(frame, screenRects(), takenPlaces(parts_.mainWindow()));
   parts_.mainWindow()->resize(place.size());
   parts_.mainWindow()->move(place.topLeft());
+  restored_ = place.topLeft();
 }
 
 void WindowSizingCommand::saveFrame() const {

@@ -1,8 +1,13 @@
 // The document window's size and place.
 #pragma once
 
+#include <QMargins>
+#include <QPoint>
+#include <QRect>
 #include <QSize>
 #include <QSizeF>
+
+#include <optional>
 
 #include "display/window_sizing.h"
 
@@ -27,6 +32,9 @@ class WindowSizingCommand final {
   /// Before the window appears for the first time: where, wholly on a screen with what surrounds it; in the
   /// middle of the pointer's screen where no place is remembered.
   void place();
+  /// The first picture has its size. When it comes later than its window, apply() places the window as if it
+  /// had come before; one that was taken elsewhere meanwhile keeps its upper left corner, on the screen.
+  void firstPictureIsShown();
   /// Somebody gave the window another size.
   void windowDidResize();
   void windowStateDidChange(const QWindowStateChangeEvent& event);
@@ -39,11 +47,16 @@ class WindowSizingCommand final {
   void leaveRoomToTheUser() const;
   void shrinkWhenAtRest();
   [[nodiscard]] bool isTiled() const;
+  /// Of the contents, for contents of that size with so much around them.
+  [[nodiscard]] QRect placeFor(const QSize& size, const QMargins& around) const;
+  [[nodiscard]] QRect placeOfLatePicture(const QRect& before, const QSize& size);
 
   WindowParts& parts_;
-  QSize chosen_;  ///< the last size that was the user's choice, or the usual one
-  QSize own_;     ///< that the rule gave; none: it has not shrunk the window
-  bool hasPlace_ = false;
+  QSize chosen_;                    ///< the last size that was the user's choice, or the usual one
+  QSize own_;                       ///< that the rule gave; none: it has not shrunk the window
+  std::optional<QPoint> restored_;  ///< the upper left corner of the remembered frame
+  std::optional<QRect> placed_;     ///< where place() put the contents
+  bool awaits_ = false;             ///< the window is there, its first picture is not
   int resizes_ = 0;
 };
 

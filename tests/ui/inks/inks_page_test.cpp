@@ -68,6 +68,24 @@ class InksPageTest : public QObject {
     QCOMPARE(shown.choice().shown, QList<bool>(5, true));
   }
 
+  void nothingLiesAboveAnythingElseWhereThereIsNoRoom() {
+    QWidget window;
+    window.resize(300, 200);
+    InksPage shown(&window);
+    shown.showInks(page(), 240);
+    shown.resize(window.size());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto* list = &listOf(shown);
+    const auto boxes = shown.findChildren<QCheckBox*>();
+    QVERIFY(!boxes.isEmpty());
+    for (const QCheckBox* box : boxes) QVERIFY(box->geometry().top() > list->geometry().bottom());
+    const auto* view = shown.findChild<SeparationView*>();
+    QVERIFY(view->geometry().bottom() < list->geometry().top());
+    for (const auto* button : shown.findChildren<QPushButton*>())
+      QVERIFY(button->geometry().top() > list->geometry().bottom());
+  }
+
   void aSwitchIsAChoice() {
     InksPage shown;
     shown.showInks(page(), 0);

@@ -64,6 +64,10 @@ PagesRequest requestFor(const PrintSource& source, const Lines& lines, const Pag
   return request;
 }
 
+/// So much of the parts is kept until they are put together: pages that bring the same fonts are not much
+/// larger together than one of them, and a book of them would not fit into memory otherwise.
+constexpr qsizetype kKeptApart = qsizetype(64) << 20;
+
 /// The parts of a job as one file.
 Result<QByteArray> joined(const QList<PageExcerpt>& parts, const QString& title, PictureService& service,
                           const CancelToken& cancel) {
@@ -92,6 +96,7 @@ Result<QByteArray> composeJob(const PrintSource& source, const NSPrintInfo& info
   if (!sheets) return sheets.error();
   const Lines lines = linesOf(source, info);
   QList<PageExcerpt> parts;
+  qsizetype apart = 0;
   for (const PageSheets& each : *sheets) {
     const JobPage& page = pages->pages().at(each.page);
     const Result<QByteArray> picture = pictureOf(page.drawing, cancel);
@@ -100,6 +105,12 @@ Result<QByteArray> composeJob(const PrintSource& source, const NSPrintInfo& info
         service.composePages(*picture, requestFor(source, lines, page.pagination, each.sheets), cancel);
     if (!part) return part.error();
     parts << PageExcerpt{*part};
+    apart += part->size();
+    if (apart <= kKeptApart) continue;
+    const Result<QByteArray> together = joined(parts, source.jobTitle, service, cancel);
+    if (!together) return together.error();
+    parts = {PageExcerpt{*together}};
+    apart = 0;
   }
   return joined(parts, source.jobTitle, service, cancel);
 }

@@ -1,4 +1,5 @@
 // Jobs of documents with several pages, with the shipped picture program.
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "kit/program.h"
@@ -16,8 +17,8 @@ using kit::run;
 
 namespace {
 
-/// Pages of these sizes with the words Page1, Page2, …
-QByteArray document(const QList<QSizeF>& pages) {
+/// Pages of these sizes with the words Page1, Page2, … `image`: 512 by 1024 grey pixels on each of them.
+QByteArray document(const QList<QSizeF>& pages, const QByteArray& image = {}) {
   QByteArray kids;
   QList<QByteArray> objects{
       "<< /Type /Catalog /Pages 2 0 R >>", {}, "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>"};
@@ -25,13 +26,22 @@ QByteArray document(const QList<QSizeF>& pages) {
     const int number = int(objects.size()) + 1;
     kids += QByteArray::number(number) + " 0 R ";
     const QByteArray contents =
-        "BT /F 12 Tf 10 10 Td (Page" + QByteArray::number((number - 4) / 2 + 1) + ") Tj ET";
+        (image.isEmpty() ? "" : "q 40 0 0 80 150 10 cm /I Do Q ") +
+        ("BT /F 12 Tf 10 10 Td (Page" + QByteArray::number((number - 4) / 2 + 1) + ") Tj ET");
     objects << "<< /Type /Page /Parent 2 0 R /Contents " + QByteArray::number(number + 1) +
-                   " 0 R /Resources << /Font << /F 3 0 R >> >> /MediaBox [0 0 " +
-                   QByteArray::number(size.width()) + ' ' + QByteArray::number(size.height()) + "] >>"
+                   " 0 R /Resources << /Font << /F 3 0 R >>" +
+                   (image.isEmpty()
+                        ? QByteArray()
+                        : " /XObject << /I " + QByteArray::number(4 + 2 * pages.size()) + " 0 R >>") +
+                   " >> /MediaBox [0 0 " + QByteArray::number(size.width()) + ' ' +
+                   QByteArray::number(size.height()) + "] >>"
             << "<< /Length " + QByteArray::number(contents.size()) + " >>\nstream\n" + contents +
                    "\nendstream";
   }
+  if (!image.isEmpty())
+    objects << "<< /Type /XObject /Subtype /Image /Width 512 /Height 1024 /BitsPerComponent 8 /ColorSpace "
+               "/DeviceGray /Length " +
+                   QByteArray::number(image.size()) + " >>\nstream\n" + image + "\nendstream";
   objects[1] = "<< /Type /Pages /Kids [" + kids + "] /Count " + QByteArray::number(pages.size()) + " >>";
   QByteArray pdf = "%PDF-1.4\n";
   for (qsizetype i = 0; i < objects.size(); ++i)
@@ -57,8 +67,8 @@ class DocumentPagesTest : public QObject {
   QTemporaryDir folder_;
 
   /// The view of a window that shows the page `shown` (from 0) of that document.
-  PrintSource viewOf(const QList<QSizeF>& pages, int shown, double rotate = 0) {
-    const auto first = NSPDFImageRep::imageRepWithData(*service_, document(pages));
+  PrintSource viewOf(const QList<QSizeF>& pages, int shown, double rotate = 0, const QByteArray& image = {}) {
+    const auto first = NSPDFImageRep::imageRepWithData(*service_, document(pages, image));
     if (!first) qFatal("%s", qPrintable(first.error().message));
     const auto page = (*first)->imageRepWithPage(shown);
     if (!page) qFatal("%s", qPrintable(page.error().message));
@@ -99,6 +109,25 @@ class DocumentPagesTest : public QObject {
     QVERIFY2(facts().contains("Page    4 size:  841.89 x 595.276 pts (A4)\n"), facts());
     QCOMPARE(run("qpdf", {"--check", folder_.filePath("out.pdf")}).exitCode, 0);
     QCOMPARE(run("pdfimages", {"-list", folder_.filePath("out.pdf")}).out.count('\n'), 2);
+  }
+
+  void whatAllPagesOfABookShareIsPrintedOnce() {
+    // Each page comes with half a megabyte of the same: 150 MB together, of which half a one is left.
+    constexpr int kPages = 300;
+    QByteArray image(512 * 1024, '\0');
+    quint32 noise = 1;
+    for (char& byte : image) byte = char((noise = noise * 1664525u + 1013904223u) >> 24);
+    QList<QSizeF> sizes;
+    for (int i = 0; i < kPages; ++i) sizes << QSizeF(200, 100);
+    NSPrintInfo info = a4();
+    info.setDocumentPages(DocumentPages::All);
+    QVERIFY(print(viewOf(sizes, 7, 0, image), info).ok());
+    QCOMPARE(words().count("Page"), qsizetype(kPages));
+    QVERIFY(words().startsWith("Page1 Page2 Page3 ") && words().endsWith(" Page299 Page300"));
+    QVERIFY2(facts().contains("Pages:           300\n"), facts());
+    const qint64 size = QFileInfo(folder_.filePath("out.pdf")).size();
+    QVERIFY2(size > image.size() / 2 && size < 4 * image.size(), qPrintable(QString::number(size)));
+    QCOMPARE(run("qpdf", {"--check", folder_.filePath("out.pdf")}).exitCode, 0);
   }
 
   void aRangeOfPagesIsPrintedAloneAndSheetsAreCountedOverAllOfThem() {

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "worker/pages/shared_streams.h"
 #include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_writing.h"
@@ -102,6 +103,7 @@ Result<QByteArray> joinedPages(const QList<PageExcerpt>& excerpts) {
       if (i > 0) appendPages(first, files[i]->qpdf(), *pages);
     }
     if (information.isDictionary()) first.getTrailer().replaceKey("/Info", information);
+    if (files.size() > 1) shareEqualStreams(first);
     return writePdf(first);
   });
 }

@@ -112,6 +112,43 @@ class JoinedPagesTest : public QObject {
     }
   }
 
+  void whatSeveralBringWithThemIsThereOnce() {
+    // A font in a form on each page: equal streams that refer to equal streams. Another page's is its own.
+    const auto page = [](const QByteArray& word, const QByteArray& font) {
+      return onePage("/X Do (" + word + ") pop",
+                     "/MediaBox [0 0 200 100] /Resources << /XObject << /X 5 0 R >> >>",
+                     {stream("q Q",
+                             "/Subtype /Form /BBox [0 0 9 9] /Resources << /Font << /F << /Type /Font "
+                             "/FontDescriptor << /FontFile2 6 0 R >> >> >> >>"),
+                      stream(font)});
+    };
+    const auto joined = joinedPages({{page("One", "FONT-A")},
+                                     {page("Two", "FONT-A")},
+                                     {page("Three", "FONT-B")},
+                                     {page("Four", "FONT-A")}});
+    QVERIFY(joined.ok());
+    const QString path = written(*joined);
+    QCOMPARE(run("qpdf", {"--check", path}).exitCode, 0);
+    const QByteArray plain = run("qpdf", {"--qdf", "--object-streams=disable", path, "-"}).out;
+    QCOMPARE(plain.count("FONT-A"), qsizetype(1));
+    QCOMPARE(plain.count("FONT-B"), qsizetype(1));
+    QCOMPARE(plain.count("/Subtype /Form"), qsizetype(2));
+    for (const char* word : {"(One)", "(Two)", "(Three)", "(Four)"})
+      QCOMPARE(plain.count(word), qsizetype(1));
+    QVERIFY2(run("pdfinfo", {path}).out.contains("Pages:           4\n"), plain);
+  }
+
+  void streamsThatDifferInTheirDictionariesAreTwo() {
+    const auto page = [](const QByteArray& box) {
+      return onePage("/X Do", "/MediaBox [0 0 200 100] /Resources << /XObject << /X 5 0 R >> >>",
+                     {stream("FORM", "/Subtype /Form /BBox " + box)});
+    };
+    const auto joined = joinedPages({{page("[0 0 9 9]")}, {page("[0 0 8 8]")}});
+    QVERIFY(joined.ok());
+    const QByteArray plain = run("qpdf", {"--qdf", "--object-streams=disable", written(*joined), "-"}).out;
+    QCOMPARE(plain.count("FORM"), qsizetype(2));
+  }
+
   void linksInsideOfTheRangeStay() {
     const auto joined = joinedPages({{threePages(), 1, 2}});
     QVERIFY(joined.ok());

@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "base/localized_string.h"
-#include "base/sentence.h"
 #include "document/unimplemented_method.h"
 #include "picture/document_file.h"
+#include "picture/localized_error.h"
 #include "types/type_identification.h"
 
 namespace norvex {
@@ -28,7 +28,7 @@ QString readingFailure(const QUrl& url, const Error& error) {
   const bool nameWasHarmed =
       url.toLocalFile().contains(QChar::ReplacementCharacter) && !QFileInfo::exists(url.toLocalFile());
   return nameWasHarmed ? localizedString("The file's name is not text in UTF-8. Please rename the file.")
-                       : asSentence(error.message);
+                       : localizedError(error).sentence;
 }
 
 }  // namespace

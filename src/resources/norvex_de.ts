@@ -2462,4 +2462,927 @@
         <translation>1600 %</translation>
     </message>
 </context>
+<context>
+    <name>Sentences</name>
+    <message>
+        <source>the file is empty</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>Die Datei ist größer als %1 MiB.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>Es ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>it is a pipe, not an ordinary file</source>
+        <translation>Es ist eine Pipe, keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>it is a socket, not an ordinary file</source>
+        <translation>Es ist ein Socket, keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>it is a device, not an ordinary file</source>
+        <translation>Es ist ein Gerät, keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>it is being changed by another program</source>
+        <translation>Ein anderes Programm ändert die Datei gerade.</translation>
+    </message>
+    <message>
+        <source>only local files can be opened</source>
+        <translation>Nur Dateien auf diesem Rechner lassen sich öffnen.</translation>
+    </message>
+    <message>
+        <source>this type of document cannot be shown</source>
+        <translation>Dokumente dieser Art können nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>this is not an EPS, Illustrator, PDF or SVG picture</source>
+        <translation>Das ist kein EPS-, Illustrator-, PDF- oder SVG-Bild.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript</source>
+        <translation>Das ist kein Encapsulated PostScript.</translation>
+    </message>
+    <message>
+        <source>the PostScript header states no usable bounding box</source>
+        <translation>Der Kopf der PostScript-Datei nennt keine brauchbare BoundingBox.</translation>
+    </message>
+    <message>
+        <source>the PostScript has no usable bounding box</source>
+        <translation>Das PostScript hat keine brauchbare BoundingBox.</translation>
+    </message>
+    <message>
+        <source>the file holds no PostScript</source>
+        <translation>Die Datei enthält kein PostScript.</translation>
+    </message>
+    <message>
+        <source>the picture has no area to be drawn</source>
+        <translation>Das Bild hat keine Fläche, die sich zeichnen ließe.</translation>
+    </message>
+    <message>
+        <source>the SVG document has no area</source>
+        <translation>Das SVG-Dokument hat keine Fläche.</translation>
+    </message>
+    <message>
+        <source>the picture is empty: its width or height is zero</source>
+        <translation>Das Bild ist leer: Breite oder Höhe ist null.</translation>
+    </message>
+    <message>
+        <source>the file is cut off: %1 of the %2 bytes of %3 are missing</source>
+        <translation>Die Datei ist abgeschnitten: %1 von %2 Byte fehlen (%3).</translation>
+    </message>
+    <message>
+        <source>the file seems cut off: its PostScript stops before its end</source>
+        <translation>Die Datei scheint abgeschnitten: Ihr PostScript hört vor dem Ende auf.</translation>
+    </message>
+    <message>
+        <source>the file is damaged; it was repaired as far as possible</source>
+        <translation>Die Datei ist beschädigt; sie wurde so weit wie möglich repariert.</translation>
+    </message>
+    <message>
+        <source>the file is damaged; nothing of %1 can be read</source>
+        <translation>Die Datei ist beschädigt; nichts davon lässt sich lesen (%1).</translation>
+    </message>
+    <message>
+        <source>the document is damaged and cannot be read as PDF</source>
+        <translation>Das Dokument ist beschädigt und lässt sich nicht als PDF lesen.</translation>
+    </message>
+    <message>
+        <source>the document is not a readable PDF</source>
+        <translation>Das Dokument ist kein lesbares PDF.</translation>
+    </message>
+    <message>
+        <source>the document is protected with a password</source>
+        <translation>Das Dokument ist mit einem Passwort geschützt.</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>Das Passwort ist falsch.</translation>
+    </message>
+    <message>
+        <source>the document uses an encryption that is not supported</source>
+        <translation>Das Dokument ist auf eine Weise verschlüsselt, die nicht unterstützt wird.</translation>
+    </message>
+    <message>
+        <source>the document has no pages</source>
+        <translation>Das Dokument hat keine Seiten.</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 pages</source>
+        <translation>Das Dokument hat mehr als %1 Seiten.</translation>
+    </message>
+    <message>
+        <source>there is no page %1; the document has %2</source>
+        <translation>Es gibt keine Seite %1; das Dokument hat %2.</translation>
+    </message>
+    <message>
+        <source>there is no page %1, the document has %2</source>
+        <translation>Es gibt keine Seite %1; das Dokument hat %2.</translation>
+    </message>
+    <message>
+        <source>page %1 is too far behind</source>
+        <translation>Seite %1 liegt zu weit hinten.</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>Seite %1 hat keine Fläche.</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be read</source>
+        <translation>Seite %1 lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
+        <translation>Diese Illustrator-Datei wurde ohne PDF-Inhalt gesichert und zeigt deshalb einen Hinweis statt der Zeichnung.</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption, and what is made of it is not</source>
+        <translation>Das Dokument ist durch Verschlüsselung geschützt; was daraus gemacht wird, ist es nicht.</translation>
+    </message>
+    <message>
+        <source>scripts of the document were left out</source>
+        <translation>Skripte des Dokuments wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>the PostScript program stops with an error</source>
+        <translation>Das PostScript-Programm bricht mit einem Fehler ab.</translation>
+    </message>
+    <message>
+        <source>the PostScript program tries to use a file, which no picture may</source>
+        <translation>Das PostScript-Programm will eine Datei benutzen, was kein Bild darf.</translation>
+    </message>
+    <message>
+        <source>the PostScript draws no page</source>
+        <translation>Das PostScript zeichnet keine Seite.</translation>
+    </message>
+    <message>
+        <source>the PostScript did not end within %1 seconds</source>
+        <translation>Das PostScript wurde in %1 Sekunden nicht fertig.</translation>
+    </message>
+    <message>
+        <source>the PostScript needs more memory than it was granted</source>
+        <translation>Das PostScript braucht mehr Speicher, als ihm gewährt wird.</translation>
+    </message>
+    <message>
+        <source>the PostScript used up the time or memory that it was granted</source>
+        <translation>Das PostScript hat die Zeit oder den Speicher aufgebraucht, die ihm gewährt werden.</translation>
+    </message>
+    <message>
+        <source>what follows the picture in the file was left out</source>
+        <translation>Was in der Datei auf das Bild folgt, wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>there is no interpreter of PostScript</source>
+        <translation>Es gibt keinen Interpreter für PostScript.</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript has ended</source>
+        <translation>Der PostScript-Interpreter hat sich beendet.</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript cannot be reached</source>
+        <translation>Der PostScript-Interpreter ist nicht zu erreichen.</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) is not installed</source>
+        <translation>Ghostscript (gs) ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Ghostscript failed on the PostScript</source>
+        <translation>Ghostscript ist an diesem PostScript gescheitert.</translation>
+    </message>
+    <message>
+        <source>the document is empty</source>
+        <translation>Das Dokument ist leer.</translation>
+    </message>
+    <message>
+        <source>the document is not XML</source>
+        <translation>Das Dokument ist kein XML.</translation>
+    </message>
+    <message>
+        <source>the document is XML but not SVG</source>
+        <translation>Das Dokument ist XML, aber kein SVG.</translation>
+    </message>
+    <message>
+        <source>the document is not well-formed XML</source>
+        <translation>Das Dokument ist kein wohlgeformtes XML.</translation>
+    </message>
+    <message>
+        <source>the compressed data is damaged</source>
+        <translation>Die komprimierten Daten sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>the compressed data is cut off</source>
+        <translation>Die komprimierten Daten sind abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>the compressed data grows to more than %1 times its size</source>
+        <translation>Die komprimierten Daten wachsen auf mehr als das %1-Fache.</translation>
+    </message>
+    <message>
+        <source>the compressed data holds more than %1 MiB</source>
+        <translation>Die komprimierten Daten enthalten mehr als %1 MiB.</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 elements</source>
+        <translation>Das Dokument hat mehr als %1 Elemente.</translation>
+    </message>
+    <message>
+        <source>the elements of the document nest more than %1 deep</source>
+        <translation>Die Elemente des Dokuments sind tiefer als %1 verschachtelt.</translation>
+    </message>
+    <message>
+        <source>the references of the document nest more than %1 deep</source>
+        <translation>Die Verweise des Dokuments sind tiefer als %1 verschachtelt.</translation>
+    </message>
+    <message>
+        <source>the document uses entities more than %1 times</source>
+        <translation>Das Dokument benutzt Entitäten mehr als %1-mal.</translation>
+    </message>
+    <message>
+        <source>the entities of the document expand to more than %1 MiB</source>
+        <translation>Die Entitäten des Dokuments wachsen auf mehr als %1 MiB.</translation>
+    </message>
+    <message>
+        <source>the entities of the document refer to one another without end</source>
+        <translation>Die Entitäten des Dokuments verweisen endlos aufeinander.</translation>
+    </message>
+    <message>
+        <source>the picture is wider or higher than %1 points</source>
+        <translation>Das Bild ist breiter oder höher als %1 Punkt.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>Das Bild lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>the picture holds something that cannot be drawn</source>
+        <translation>Das Bild enthält etwas, das sich nicht zeichnen lässt.</translation>
+    </message>
+    <message>
+        <source>the encoding %1 is not known</source>
+        <translation>Die Zeichencodierung %1 ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>the bytes are not text in the encoding %1</source>
+        <translation>Die Bytes sind kein Text in der Zeichencodierung %1.</translation>
+    </message>
+    <message>
+        <source>the document refers to other files, which are never loaded (references: %1)</source>
+        <translation>Das Dokument verweist auf andere Dateien, die nie geladen werden (Verweise: %1).</translation>
+    </message>
+    <message>
+        <source>the document has scripts, which are never run</source>
+        <translation>Das Dokument hat Skripte, die nie ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>the document is animated and is shown as it stands at rest</source>
+        <translation>Das Dokument ist animiert und wird in Ruhe gezeigt.</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, another stands in for it</source>
+        <translation>Die Schrift %1 fehlt; eine andere vertritt sie.</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, %2 stands in for it</source>
+        <translation>Die Schrift %1 fehlt; %2 vertritt sie.</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within %1 seconds</source>
+        <translation>Das Bild war nach %1 Sekunden nicht fertig.</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within the time that it is allowed</source>
+        <translation>Das Bild wurde in der Zeit, die es hat, nicht fertig.</translation>
+    </message>
+    <message>
+        <source>the picture needs more memory than it is allowed</source>
+        <translation>Das Bild braucht mehr Speicher, als es haben darf.</translation>
+    </message>
+    <message>
+        <source>the picture needs more processor time than it is allowed</source>
+        <translation>Das Bild braucht mehr Rechenzeit, als es haben darf.</translation>
+    </message>
+    <message>
+        <source>the picture needs more temporary files than it is allowed</source>
+        <translation>Das Bild braucht mehr temporäre Dateien, als es haben darf.</translation>
+    </message>
+    <message>
+        <source>the picture nests deeper than can be drawn</source>
+        <translation>Das Bild ist tiefer verschachtelt, als sich zeichnen lässt.</translation>
+    </message>
+    <message>
+        <source>the picture is larger than the memory that it was granted</source>
+        <translation>Das Bild ist größer als der Speicher, der ihm gewährt wird.</translation>
+    </message>
+    <message>
+        <source>the picture would have more pixels than it is allowed</source>
+        <translation>Das Bild hätte mehr Pixel, als es haben darf.</translation>
+    </message>
+    <message>
+        <source>the image would have a side of more than %1 pixels</source>
+        <translation>Eine Seite des Bildes hätte mehr als %1 Pixel.</translation>
+    </message>
+    <message>
+        <source>the image would have more than %1 megapixels</source>
+        <translation>Das Bild hätte mehr als %1 Megapixel.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the picture</source>
+        <translation>Für das Bild ist nicht genug Speicher da.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the document</source>
+        <translation>Für das Dokument ist nicht genug Speicher da.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to draw the picture</source>
+        <translation>Zum Zeichnen des Bildes ist nicht genug Speicher da.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the document</source>
+        <translation>Zum Lesen des Dokuments ist nicht genug Speicher da.</translation>
+    </message>
+    <message>
+        <source>the picture is larger than files may become here</source>
+        <translation>Das Bild ist größer, als Dateien hier werden dürfen.</translation>
+    </message>
+    <message>
+        <source>too many files are open for another picture</source>
+        <translation>Es sind zu viele Dateien offen für ein weiteres Bild.</translation>
+    </message>
+    <message>
+        <source>the picture process ended without an answer</source>
+        <translation>Der Bildprozess endete ohne Antwort.</translation>
+    </message>
+    <message>
+        <source>the picture process did not answer in time</source>
+        <translation>Der Bildprozess hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>the picture process was killed by the system, which has probably run out of memory</source>
+        <translation>Das System hat den Bildprozess beendet, wahrscheinlich aus Mangel an Speicher.</translation>
+    </message>
+    <message>
+        <source>the picture process gave an answer that cannot be true</source>
+        <translation>Der Bildprozess gab eine Antwort, die nicht stimmen kann.</translation>
+    </message>
+    <message>
+        <source>no process for the picture could be started</source>
+        <translation>Für das Bild ließ sich kein Prozess starten.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures could not be started</source>
+        <translation>Das Programm, das Bilder liest, ließ sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has ended</source>
+        <translation>Das Programm, das Bilder liest, hat sich beendet.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has not answered yet</source>
+        <translation>Das Programm, das Bilder liest, hat noch nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</source>
+        <translation>Der Bildprozess ließ sich nicht einschließen: Dieses System bietet weder Landlock noch Benutzer-Namensräume mit Seccomp-Filtern.</translation>
+    </message>
+    <message>
+        <source>the drawing was stopped</source>
+        <translation>Das Zeichnen wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>the picture could not be processed</source>
+        <translation>Das Bild ließ sich nicht verarbeiten.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn at this size</source>
+        <translation>In dieser Größe lässt sich das Bild nicht zeichnen.</translation>
+    </message>
+    <message>
+        <source>the file exists already</source>
+        <translation>Die Datei gibt es schon.</translation>
+    </message>
+    <message>
+        <source>the folder to write to does not exist</source>
+        <translation>Den Ordner, in den geschrieben werden soll, gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>there is a folder of that name</source>
+        <translation>Es gibt einen Ordner dieses Namens.</translation>
+    </message>
+    <message>
+        <source>there is no space left to write to</source>
+        <translation>Zum Schreiben ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>writing there is not permitted</source>
+        <translation>Dort darf nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>the file could not be written (%1)</source>
+        <translation>Die Datei konnte nicht geschrieben werden (%1).</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file</source>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>Die Datei ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>the rectangle is empty or out of range</source>
+        <translation>Das Rechteck ist leer oder liegt außerhalb.</translation>
+    </message>
+    <message>
+        <source>no profile of a press is installed (%1)</source>
+        <translation>Es ist kein Profil einer Druckmaschine installiert (%1).</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as PostScript</source>
+        <translation>Die Seite lässt sich nicht als PostScript schreiben.</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as SVG</source>
+        <translation>Die Seite lässt sich nicht als SVG schreiben.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written as PDF</source>
+        <translation>Das Bild lässt sich nicht als PDF schreiben.</translation>
+    </message>
+    <message>
+        <source>the page is too large or too deeply nested to become SVG</source>
+        <translation>Die Seite ist zu groß oder zu tief verschachtelt, um SVG zu werden.</translation>
+    </message>
+    <message>
+        <source>only EPS files can be repaired</source>
+        <translation>Nur EPS-Dateien lassen sich reparieren.</translation>
+    </message>
+    <message>
+        <source>an SVG picture has no inks: its colours are those of a screen</source>
+        <translation>Ein SVG-Bild hat keine Druckfarben: Seine Farben sind die eines Bildschirms.</translation>
+    </message>
+    <message>
+        <source>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</source>
+        <translation>Bei %1 dpi hat eine Platte %2 Millionen Pixel; höchstens %3 Millionen sind möglich.</translation>
+    </message>
+    <message>
+        <source>the print service cannot be reached</source>
+        <translation>Der Druckdienst ist nicht zu erreichen.</translation>
+    </message>
+    <message>
+        <source>the print service does not answer</source>
+        <translation>Der Druckdienst antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>there is no printer</source>
+        <translation>Es gibt keinen Drucker.</translation>
+    </message>
+    <message>
+        <source>no printer is the default one</source>
+        <translation>Kein Drucker ist als Standard eingestellt.</translation>
+    </message>
+    <message>
+        <source>there is no printer named “%1”</source>
+        <translation>Es gibt keinen Drucker „%1“.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” takes no jobs</source>
+        <translation>Der Drucker „%1“ nimmt keine Aufträge an.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” is not open to this user</source>
+        <translation>Der Drucker „%1“ ist für diesen Benutzer nicht freigegeben.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” wants a user name and a password, which are not asked for here</source>
+        <translation>Der Drucker „%1“ verlangt Benutzername und Passwort, nach denen hier nicht gefragt wird.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” did not take the job: %2</source>
+        <translation>Der Drucker „%1“ hat den Auftrag nicht angenommen: %2.</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and only the first %2 of them can be printed</source>
+        <translation>Das Dokument hat %1 Seiten, und nur die ersten %2 lassen sich drucken.</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the document has %1</source>
+        <translation>Diese Seiten gibt es nicht: Das Dokument hat %1.</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the picture takes %1</source>
+        <translation>Diese Seiten gibt es nicht: Das Bild nimmt %1 ein.</translation>
+    </message>
+    <message>
+        <source>the pages would take more than %1 sheets of paper</source>
+        <translation>Die Seiten bräuchten mehr als %1 Blatt Papier.</translation>
+    </message>
+    <message>
+        <source>the picture would take more than %1 sheets of paper</source>
+        <translation>Das Bild bräuchte mehr als %1 Blatt Papier.</translation>
+    </message>
+    <message>
+        <source>the margins leave no room on the paper</source>
+        <translation>Die Ränder lassen auf dem Papier keinen Platz.</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Die Datei gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Der Zugriff ist nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Das Gerät meldet einen Fehler beim Lesen oder Schreiben.</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Es sind zu viele Dateien offen.</translation>
+    </message>
+    <message>
+        <source>its PostScript</source>
+        <translation>ihr PostScript</translation>
+    </message>
+    <message>
+        <source>its preview</source>
+        <translation>ihre Vorschau</translation>
+    </message>
+    <message>
+        <source>its page</source>
+        <translation>ihre Seite</translation>
+    </message>
+    <message>
+        <source>its pages</source>
+        <translation>ihre Seiten</translation>
+    </message>
+    <message>
+        <source>no reason is given</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>actions that start programs or open other files were left out</source>
+        <translation>Aktionen, die Programme starten oder andere Dateien öffnen, wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>what the document does when it is opened was left out</source>
+        <translation>Was das Dokument beim Öffnen tut, wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>references to files beside the document were left out</source>
+        <translation>Verweise auf Dateien neben dem Dokument wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>PostScript programs that the document holds were left out</source>
+        <translation>PostScript-Programme im Dokument wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>a font cannot be taken over; another stands in for it</source>
+        <translation>Eine Schrift lässt sich nicht übernehmen; eine andere vertritt sie.</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be taken over; another stands in for it</source>
+        <translation>Die Schrift %1 lässt sich nicht übernehmen; eine andere vertritt sie.</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript, so the file holds a preview and nothing else</source>
+        <translation>Die Quelle hat kein PostScript; die Datei enthält nur eine Vorschau.</translation>
+    </message>
+    <message>
+        <source>the picture gives no PostScript, so the file holds a preview and nothing else</source>
+        <translation>Das Bild ergibt kein PostScript; die Datei enthält nur eine Vorschau.</translation>
+    </message>
+    <message>
+        <source>the PDF has no subject, because the document has a description but no title</source>
+        <translation>Das PDF hat kein Thema, denn das Dokument hat eine Beschreibung, aber keinen Titel.</translation>
+    </message>
+    <message>
+        <source>the preview could not be written as TIFF</source>
+        <translation>Die Vorschau ließ sich nicht als TIFF schreiben.</translation>
+    </message>
+    <message>
+        <source>the result could not be opened again: %1</source>
+        <translation>Das Ergebnis ließ sich nicht wieder öffnen: %1.</translation>
+    </message>
+    <message>
+        <source>an image with more pixels than are granted was left out</source>
+        <translation>Ein Bild mit mehr Pixeln, als erlaubt sind, wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
+        <translation>Manche Schrift bleibt Umriss: Sie ist Linie oder Beschnitt, oder ihre Schriftart darf oder kann nicht eingebettet werden.</translation>
+    </message>
+    <message>
+        <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
+        <translation>Bei manchen Zeichen sagt das Dokument nicht, was sie bedeuten: Sie werden gezeigt, und keine Suche findet sie.</translation>
+    </message>
+    <message>
+        <source>what is drawn through a filter (elements: %1) is held as an image</source>
+        <translation>Was durch einen Filter gezeichnet wird (Elemente: %1), wird als Bild gehalten.</translation>
+    </message>
+    <message>
+        <source>masks (elements: %1) are held as images, what they mask is not</source>
+        <translation>Masken (Elemente: %1) werden als Bilder gehalten; was sie maskieren, nicht.</translation>
+    </message>
+    <message>
+        <source>the text is in %1 and is handed on as UTF-8</source>
+        <translation>Der Text ist in %1 und wird als UTF-8 weitergegeben.</translation>
+    </message>
+    <message>
+        <source>the document's width or height is not a length and is passed over</source>
+        <translation>Breite oder Höhe des Dokuments ist keine Länge und wird übergangen.</translation>
+    </message>
+    <message>
+        <source>the document's view box is not readable and is passed over</source>
+        <translation>Die viewBox des Dokuments ist nicht lesbar und wird übergangen.</translation>
+    </message>
+    <message>
+        <source>it draws nothing and states no bounding box</source>
+        <translation>Sie zeichnet nichts und nennt keine BoundingBox.</translation>
+    </message>
+    <message>
+        <source>it cannot be mended: %1</source>
+        <translation>Sie lässt sich nicht reparieren: %1.</translation>
+    </message>
+    <message>
+        <source>the program was taken out of %1</source>
+        <translation>Das Programm wurde aus %1 herausgenommen.</translation>
+    </message>
+    <message>
+        <source>the program was taken out of its binary file</source>
+        <translation>Das Programm wurde aus seiner binären Datei herausgenommen.</translation>
+    </message>
+    <message>
+        <source>the preview was left out</source>
+        <translation>Die Vorschau wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>the Windows metafile was left out</source>
+        <translation>Das Windows-Metafile wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>a preview of %1 by %2 pixels was made</source>
+        <translation>Eine Vorschau von %1 × %2 Pixeln wurde erzeugt.</translation>
+    </message>
+    <message>
+        <source>the first line is %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>Die erste Zeile ist %!PS-Adobe-3.0 EPSF-3.0.</translation>
+    </message>
+    <message>
+        <source>%%EndComments was put in</source>
+        <translation>%%EndComments wurde eingefügt.</translation>
+    </message>
+    <message>
+        <source>a second %%EndComments was left out</source>
+        <translation>Ein zweites %%EndComments wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>showpage was put in</source>
+        <translation>showpage wurde eingefügt.</translation>
+    </message>
+    <message>
+        <source>%%EOF was put in</source>
+        <translation>%%EOF wurde eingefügt.</translation>
+    </message>
+    <message>
+        <source>the box at the end of the file stands in its header</source>
+        <translation>Der Rahmen vom Ende der Datei steht in ihrem Kopf.</translation>
+    </message>
+    <message>
+        <source>the bounding box is %1 (%2)</source>
+        <translation>Die BoundingBox ist %1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 was left out, because it stood out of order</source>
+        <translation>%1 wurde weggelassen, weil es nicht an seinem Platz stand.</translation>
+    </message>
+    <message>
+        <source>the document is larger than %1 MiB</source>
+        <translation>Das Dokument ist größer als %1 MiB.</translation>
+    </message>
+    <message>
+        <source>the compressed data is larger than %1 MiB</source>
+        <translation>Die komprimierten Daten sind größer als %1 MiB.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to inflate the data</source>
+        <translation>Zum Entpacken der Daten ist nicht genug Speicher da.</translation>
+    </message>
+    <message>
+        <source>the document has a filter with a matrix of more than %1 numbers</source>
+        <translation>Das Dokument hat einen Filter mit einer Matrix von mehr als %1 Zahlen.</translation>
+    </message>
+    <message>
+        <source>the selectors of the document's style sheets nest more than %1 deep</source>
+        <translation>Die Selektoren in den Stilvorlagen des Dokuments sind tiefer als %1 verschachtelt.</translation>
+    </message>
+    <message>
+        <source>the document has text of more than %1 units in size</source>
+        <translation>Das Dokument hat Schrift von mehr als %1 Einheiten Größe.</translation>
+    </message>
+    <message>
+        <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
+        <translation>Die Platten der Seite haben mehr Pixel, als möglich sind; eine kleinere Auflösung hilft.</translation>
+    </message>
+    <message>
+        <source>Ghostscript did not separate the page</source>
+        <translation>Ghostscript hat die Seite nicht in Druckfarben zerlegt.</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) cannot be started</source>
+        <translation>Ghostscript (gs) lässt sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript could not be confined</source>
+        <translation>Der PostScript-Interpreter ließ sich nicht einschließen.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1" instead of four numbers</source>
+        <translation>%%BoundingBox enthält „%1“ statt vier Zahlen.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
+        <translation>%%BoundingBox enthält „%1“; das sind nicht lauter ganze Zahlen.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 umschließt %%HiResBoundingBox %2 nicht.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 ist viel größer als %%HiResBoundingBox %2.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox is promised for the end and does not come</source>
+        <translation>%%BoundingBox ist für das Ende angekündigt und kommt nicht.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 has no area</source>
+        <translation>Die BoundingBox %1 hat keine Fläche.</translation>
+    </message>
+    <message>
+        <source>nothing but white is drawn inside the bounding box</source>
+        <translation>Innerhalb der BoundingBox wird nur Weiß gezeichnet.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
+        <translation>Die BoundingBox %1 schneidet die Zeichnung ab, die %2 pt darüber hinausreicht: %3.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 is more than twice as large as the ink: %2</source>
+        <translation>Die BoundingBox %1 ist mehr als doppelt so groß wie die Zeichnung: %2.</translation>
+    </message>
+    <message>
+        <source>the %1 section ends at byte %2, the file at byte %3</source>
+        <translation>Der Abschnitt %1 endet bei Byte %2, die Datei bei Byte %3.</translation>
+    </message>
+    <message>
+        <source>the %1 section lies over another part of the file</source>
+        <translation>Der Abschnitt %1 liegt über einem anderen Teil der Datei.</translation>
+    </message>
+    <message>
+        <source>bytes before %!PS-Adobe: %1</source>
+        <translation>Bytes vor %!PS-Adobe: %1.</translation>
+    </message>
+    <message>
+        <source>bytes behind %%EOF: %1</source>
+        <translation>Bytes hinter %%EOF: %1.</translation>
+    </message>
+    <message>
+        <source>the file needs fonts that it does not bring: %1</source>
+        <translation>Die Datei braucht Schriften, die sie nicht mitbringt: %1.</translation>
+    </message>
+    <message>
+        <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
+        <translation>Die Vorschau ist %1 × %2 Pixel groß, die BoundingBox %3 × %4 Punkt.</translation>
+    </message>
+    <message>
+        <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
+        <translation>Die Vorschau zeigt ein anderes Bild, als das Programm zeichnet (mittlerer Unterschied %1 %).</translation>
+    </message>
+    <message>
+        <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>In der ersten Zeile „%1“ steht nicht %!PS-Adobe-3.0 EPSF-3.0.</translation>
+    </message>
+    <message>
+        <source>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</source>
+        <translation>Die erste Zeile nennt PS-Adobe-%1 und EPSF-%2, die es nicht gibt.</translation>
+    </message>
+    <message>
+        <source>the header has no %%EndComments</source>
+        <translation>Der Kopf hat kein %%EndComments.</translation>
+    </message>
+    <message>
+        <source>%%EndComments stands behind the first line that is no comment</source>
+        <translation>%%EndComments steht hinter der ersten Zeile, die kein Kommentar ist.</translation>
+    </message>
+    <message>
+        <source>lines of more than 255 bytes: %1, the first is line %2</source>
+        <translation>Zeilen mit mehr als 255 Byte: %1; die erste ist Zeile %2.</translation>
+    </message>
+    <message>
+        <source>lines end in %1 different ways</source>
+        <translation>Zeilen enden auf %1 verschiedene Arten.</translation>
+    </message>
+    <message>
+        <source>a line is %1 pt thin, %2 pt are asked for</source>
+        <translation>Eine Linie ist %1 pt dünn; %2 pt sind gefordert.</translation>
+    </message>
+    <message>
+        <source>a text is %1 pt small, %2 pt are asked for</source>
+        <translation>Ein Text ist %1 pt klein; %2 pt sind gefordert.</translation>
+    </message>
+    <message>
+        <source>a colour takes %1 % of ink, %2 % are allowed</source>
+        <translation>Eine Farbe braucht %1 % Druckfarbe; erlaubt sind %2 %.</translation>
+    </message>
+    <message>
+        <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
+        <translation>Das Bild (%1) mit %2 × %3 Pixeln hat %4 dpi; %5 sind gefordert.</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>line art</source>
+        <translation>Strichbild</translation>
+    </message>
+    <message>
+        <source>there is the spot ink %1</source>
+        <translation>Es gibt die Schmuckfarbe %1.</translation>
+    </message>
+    <message>
+        <source>RGB colours stand beside CMYK colours</source>
+        <translation>RGB-Farben stehen neben CMYK-Farben.</translation>
+    </message>
+    <message>
+        <source>its permissions forbid %1</source>
+        <translation>Seine Berechtigungen verbieten: %1.</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1</source>
+        <translation>Es gibt an, %1 einzuhalten.</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1 and has no output intent</source>
+        <translation>Es gibt an, %1 einzuhalten, und hat keine Ausgabebedingung.</translation>
+    </message>
+    <message>
+        <source>it refers to other files, which are never loaded (references: %1)</source>
+        <translation>Es verweist auf andere Dateien, die nie geladen werden (Verweise: %1).</translation>
+    </message>
+    <message>
+        <source>elements drawn through filters become images in print: %1</source>
+        <translation>Elemente mit Filtern, die im Druck zu Bildern werden: %1.</translation>
+    </message>
+    <message>
+        <source>something is drawn up to %1 pt outside the page</source>
+        <translation>Etwas ist bis zu %1 pt außerhalb der Seite gezeichnet.</translation>
+    </message>
+    <message>
+        <source>only the first %1 pages were looked at</source>
+        <translation>Nur die ersten %1 Seiten wurden angesehen.</translation>
+    </message>
+    <message>
+        <source>the picture is %1 mm wide, columns are %2 mm</source>
+        <translation>Das Bild ist %1 mm breit, Spalten sind %2 mm breit.</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1</source>
+        <translation>Die Datei ist verpackt als %1.</translation>
+    </message>
+    <message>
+        <source>%1 takes language level %2, and the header declares %3</source>
+        <translation>%1 verlangt Sprachstufe %2, und der Kopf nennt: %3.</translation>
+    </message>
+    <message>
+        <source>none above 1</source>
+        <translation>keine über 1</translation>
+    </message>
+    <message>
+        <source>%1 has no place in an EPS file</source>
+        <translation>%1 gehört nicht in eine EPS-Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is declared, and line %2 holds the byte %3</source>
+        <translation>Angegeben ist %1, und Zeile %2 enthält das Byte %3.</translation>
+    </message>
+    <message>
+        <source>%1 stands behind %2</source>
+        <translation>%1 steht hinter %2.</translation>
+    </message>
+</context>
 </TS>

@@ -2462,4 +2462,927 @@
         <translation>1600%</translation>
     </message>
 </context>
+<context>
+    <name>Sentences</name>
+    <message>
+        <source>the file is empty</source>
+        <translation>the file is empty</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>it is larger than %1 MiB</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>it is a folder</translation>
+    </message>
+    <message>
+        <source>it is a pipe, not an ordinary file</source>
+        <translation>it is a pipe, not an ordinary file</translation>
+    </message>
+    <message>
+        <source>it is a socket, not an ordinary file</source>
+        <translation>it is a socket, not an ordinary file</translation>
+    </message>
+    <message>
+        <source>it is a device, not an ordinary file</source>
+        <translation>it is a device, not an ordinary file</translation>
+    </message>
+    <message>
+        <source>it is being changed by another program</source>
+        <translation>it is being changed by another program</translation>
+    </message>
+    <message>
+        <source>only local files can be opened</source>
+        <translation>only local files can be opened</translation>
+    </message>
+    <message>
+        <source>this type of document cannot be shown</source>
+        <translation>this type of document cannot be shown</translation>
+    </message>
+    <message>
+        <source>this is not an EPS, Illustrator, PDF or SVG picture</source>
+        <translation>this is not an EPS, Illustrator, PDF or SVG picture</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript</source>
+        <translation>this is not Encapsulated PostScript</translation>
+    </message>
+    <message>
+        <source>the PostScript header states no usable bounding box</source>
+        <translation>the PostScript header states no usable bounding box</translation>
+    </message>
+    <message>
+        <source>the PostScript has no usable bounding box</source>
+        <translation>the PostScript has no usable bounding box</translation>
+    </message>
+    <message>
+        <source>the file holds no PostScript</source>
+        <translation>the file holds no PostScript</translation>
+    </message>
+    <message>
+        <source>the picture has no area to be drawn</source>
+        <translation>the picture has no area to be drawn</translation>
+    </message>
+    <message>
+        <source>the SVG document has no area</source>
+        <translation>the SVG document has no area</translation>
+    </message>
+    <message>
+        <source>the picture is empty: its width or height is zero</source>
+        <translation>the picture is empty: its width or height is zero</translation>
+    </message>
+    <message>
+        <source>the file is cut off: %1 of the %2 bytes of %3 are missing</source>
+        <translation>the file is cut off: %1 of the %2 bytes of %3 are missing</translation>
+    </message>
+    <message>
+        <source>the file seems cut off: its PostScript stops before its end</source>
+        <translation>the file seems cut off: its PostScript stops before its end</translation>
+    </message>
+    <message>
+        <source>the file is damaged; it was repaired as far as possible</source>
+        <translation>the file is damaged; it was repaired as far as possible</translation>
+    </message>
+    <message>
+        <source>the file is damaged; nothing of %1 can be read</source>
+        <translation>the file is damaged; nothing of %1 can be read</translation>
+    </message>
+    <message>
+        <source>the document is damaged and cannot be read as PDF</source>
+        <translation>the document is damaged and cannot be read as PDF</translation>
+    </message>
+    <message>
+        <source>the document is not a readable PDF</source>
+        <translation>the document is not a readable PDF</translation>
+    </message>
+    <message>
+        <source>the document is protected with a password</source>
+        <translation>the document is protected with a password</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>the password is wrong</translation>
+    </message>
+    <message>
+        <source>the document uses an encryption that is not supported</source>
+        <translation>the document uses an encryption that is not supported</translation>
+    </message>
+    <message>
+        <source>the document has no pages</source>
+        <translation>the document has no pages</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 pages</source>
+        <translation>the document has more than %1 pages</translation>
+    </message>
+    <message>
+        <source>there is no page %1; the document has %2</source>
+        <translation>there is no page %1; the document has %2</translation>
+    </message>
+    <message>
+        <source>there is no page %1, the document has %2</source>
+        <translation>there is no page %1, the document has %2</translation>
+    </message>
+    <message>
+        <source>page %1 is too far behind</source>
+        <translation>page %1 is too far behind</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>page %1 has no area</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be read</source>
+        <translation>page %1 cannot be read</translation>
+    </message>
+    <message>
+        <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
+        <translation>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption, and what is made of it is not</source>
+        <translation>the document is protected by encryption, and what is made of it is not</translation>
+    </message>
+    <message>
+        <source>scripts of the document were left out</source>
+        <translation>scripts of the document were left out</translation>
+    </message>
+    <message>
+        <source>the PostScript program stops with an error</source>
+        <translation>the PostScript program stops with an error</translation>
+    </message>
+    <message>
+        <source>the PostScript program tries to use a file, which no picture may</source>
+        <translation>the PostScript program tries to use a file, which no picture may</translation>
+    </message>
+    <message>
+        <source>the PostScript draws no page</source>
+        <translation>the PostScript draws no page</translation>
+    </message>
+    <message>
+        <source>the PostScript did not end within %1 seconds</source>
+        <translation>the PostScript did not end within %1 seconds</translation>
+    </message>
+    <message>
+        <source>the PostScript needs more memory than it was granted</source>
+        <translation>the PostScript needs more memory than it was granted</translation>
+    </message>
+    <message>
+        <source>the PostScript used up the time or memory that it was granted</source>
+        <translation>the PostScript used up the time or memory that it was granted</translation>
+    </message>
+    <message>
+        <source>what follows the picture in the file was left out</source>
+        <translation>what follows the picture in the file was left out</translation>
+    </message>
+    <message>
+        <source>there is no interpreter of PostScript</source>
+        <translation>there is no interpreter of PostScript</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript has ended</source>
+        <translation>the interpreter of PostScript has ended</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript cannot be reached</source>
+        <translation>the interpreter of PostScript cannot be reached</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) is not installed</source>
+        <translation>Ghostscript (gs) is not installed</translation>
+    </message>
+    <message>
+        <source>Ghostscript failed on the PostScript</source>
+        <translation>Ghostscript failed on the PostScript</translation>
+    </message>
+    <message>
+        <source>the document is empty</source>
+        <translation>the document is empty</translation>
+    </message>
+    <message>
+        <source>the document is not XML</source>
+        <translation>the document is not XML</translation>
+    </message>
+    <message>
+        <source>the document is XML but not SVG</source>
+        <translation>the document is XML but not SVG</translation>
+    </message>
+    <message>
+        <source>the document is not well-formed XML</source>
+        <translation>the document is not well-formed XML</translation>
+    </message>
+    <message>
+        <source>the compressed data is damaged</source>
+        <translation>the compressed data is damaged</translation>
+    </message>
+    <message>
+        <source>the compressed data is cut off</source>
+        <translation>the compressed data is cut off</translation>
+    </message>
+    <message>
+        <source>the compressed data grows to more than %1 times its size</source>
+        <translation>the compressed data grows to more than %1 times its size</translation>
+    </message>
+    <message>
+        <source>the compressed data holds more than %1 MiB</source>
+        <translation>the compressed data holds more than %1 MiB</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 elements</source>
+        <translation>the document has more than %1 elements</translation>
+    </message>
+    <message>
+        <source>the elements of the document nest more than %1 deep</source>
+        <translation>the elements of the document nest more than %1 deep</translation>
+    </message>
+    <message>
+        <source>the references of the document nest more than %1 deep</source>
+        <translation>the references of the document nest more than %1 deep</translation>
+    </message>
+    <message>
+        <source>the document uses entities more than %1 times</source>
+        <translation>the document uses entities more than %1 times</translation>
+    </message>
+    <message>
+        <source>the entities of the document expand to more than %1 MiB</source>
+        <translation>the entities of the document expand to more than %1 MiB</translation>
+    </message>
+    <message>
+        <source>the entities of the document refer to one another without end</source>
+        <translation>the entities of the document refer to one another without end</translation>
+    </message>
+    <message>
+        <source>the picture is wider or higher than %1 points</source>
+        <translation>the picture is wider or higher than %1 points</translation>
+    </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>the picture cannot be read</translation>
+    </message>
+    <message>
+        <source>the picture holds something that cannot be drawn</source>
+        <translation>the picture holds something that cannot be drawn</translation>
+    </message>
+    <message>
+        <source>the encoding %1 is not known</source>
+        <translation>the encoding %1 is not known</translation>
+    </message>
+    <message>
+        <source>the bytes are not text in the encoding %1</source>
+        <translation>the bytes are not text in the encoding %1</translation>
+    </message>
+    <message>
+        <source>the document refers to other files, which are never loaded (references: %1)</source>
+        <translation>the document refers to other files, which are never loaded (references: %1)</translation>
+    </message>
+    <message>
+        <source>the document has scripts, which are never run</source>
+        <translation>the document has scripts, which are never run</translation>
+    </message>
+    <message>
+        <source>the document is animated and is shown as it stands at rest</source>
+        <translation>the document is animated and is shown as it stands at rest</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, another stands in for it</source>
+        <translation>the font %1 is missing, another stands in for it</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, %2 stands in for it</source>
+        <translation>the font %1 is missing, %2 stands in for it</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within %1 seconds</source>
+        <translation>the picture was not ready within %1 seconds</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within the time that it is allowed</source>
+        <translation>the picture was not ready within the time that it is allowed</translation>
+    </message>
+    <message>
+        <source>the picture needs more memory than it is allowed</source>
+        <translation>the picture needs more memory than it is allowed</translation>
+    </message>
+    <message>
+        <source>the picture needs more processor time than it is allowed</source>
+        <translation>the picture needs more processor time than it is allowed</translation>
+    </message>
+    <message>
+        <source>the picture needs more temporary files than it is allowed</source>
+        <translation>the picture needs more temporary files than it is allowed</translation>
+    </message>
+    <message>
+        <source>the picture nests deeper than can be drawn</source>
+        <translation>the picture nests deeper than can be drawn</translation>
+    </message>
+    <message>
+        <source>the picture is larger than the memory that it was granted</source>
+        <translation>the picture is larger than the memory that it was granted</translation>
+    </message>
+    <message>
+        <source>the picture would have more pixels than it is allowed</source>
+        <translation>the picture would have more pixels than it is allowed</translation>
+    </message>
+    <message>
+        <source>the image would have a side of more than %1 pixels</source>
+        <translation>the image would have a side of more than %1 pixels</translation>
+    </message>
+    <message>
+        <source>the image would have more than %1 megapixels</source>
+        <translation>the image would have more than %1 megapixels</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the picture</source>
+        <translation>there is not enough memory for the picture</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the document</source>
+        <translation>there is not enough memory for the document</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to draw the picture</source>
+        <translation>there is not enough memory to draw the picture</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the document</source>
+        <translation>there is not enough memory to read the document</translation>
+    </message>
+    <message>
+        <source>the picture is larger than files may become here</source>
+        <translation>the picture is larger than files may become here</translation>
+    </message>
+    <message>
+        <source>too many files are open for another picture</source>
+        <translation>too many files are open for another picture</translation>
+    </message>
+    <message>
+        <source>the picture process ended without an answer</source>
+        <translation>the picture process ended without an answer</translation>
+    </message>
+    <message>
+        <source>the picture process did not answer in time</source>
+        <translation>the picture process did not answer in time</translation>
+    </message>
+    <message>
+        <source>the picture process was killed by the system, which has probably run out of memory</source>
+        <translation>the picture process was killed by the system, which has probably run out of memory</translation>
+    </message>
+    <message>
+        <source>the picture process gave an answer that cannot be true</source>
+        <translation>the picture process gave an answer that cannot be true</translation>
+    </message>
+    <message>
+        <source>no process for the picture could be started</source>
+        <translation>no process for the picture could be started</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures could not be started</source>
+        <translation>the program that reads pictures could not be started</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has ended</source>
+        <translation>the program that reads pictures has ended</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has not answered yet</source>
+        <translation>the program that reads pictures has not answered yet</translation>
+    </message>
+    <message>
+        <source>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</source>
+        <translation>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</translation>
+    </message>
+    <message>
+        <source>the drawing was stopped</source>
+        <translation>the drawing was stopped</translation>
+    </message>
+    <message>
+        <source>the picture could not be processed</source>
+        <translation>the picture could not be processed</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn at this size</source>
+        <translation>the picture cannot be drawn at this size</translation>
+    </message>
+    <message>
+        <source>the file exists already</source>
+        <translation>the file exists already</translation>
+    </message>
+    <message>
+        <source>the folder to write to does not exist</source>
+        <translation>the folder to write to does not exist</translation>
+    </message>
+    <message>
+        <source>there is a folder of that name</source>
+        <translation>there is a folder of that name</translation>
+    </message>
+    <message>
+        <source>there is no space left to write to</source>
+        <translation>there is no space left to write to</translation>
+    </message>
+    <message>
+        <source>writing there is not permitted</source>
+        <translation>writing there is not permitted</translation>
+    </message>
+    <message>
+        <source>the file could not be written (%1)</source>
+        <translation>the file could not be written (%1)</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file</source>
+        <translation>it is not an ordinary file</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>the file is read-only</translation>
+    </message>
+    <message>
+        <source>the rectangle is empty or out of range</source>
+        <translation>the rectangle is empty or out of range</translation>
+    </message>
+    <message>
+        <source>no profile of a press is installed (%1)</source>
+        <translation>no profile of a press is installed (%1)</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as PostScript</source>
+        <translation>the page cannot be written as PostScript</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as SVG</source>
+        <translation>the page cannot be written as SVG</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written as PDF</source>
+        <translation>the picture cannot be written as PDF</translation>
+    </message>
+    <message>
+        <source>the page is too large or too deeply nested to become SVG</source>
+        <translation>the page is too large or too deeply nested to become SVG</translation>
+    </message>
+    <message>
+        <source>only EPS files can be repaired</source>
+        <translation>only EPS files can be repaired</translation>
+    </message>
+    <message>
+        <source>an SVG picture has no inks: its colours are those of a screen</source>
+        <translation>an SVG picture has no inks: its colours are those of a screen</translation>
+    </message>
+    <message>
+        <source>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</source>
+        <translation>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</translation>
+    </message>
+    <message>
+        <source>the print service cannot be reached</source>
+        <translation>the print service cannot be reached</translation>
+    </message>
+    <message>
+        <source>the print service does not answer</source>
+        <translation>the print service does not answer</translation>
+    </message>
+    <message>
+        <source>there is no printer</source>
+        <translation>there is no printer</translation>
+    </message>
+    <message>
+        <source>no printer is the default one</source>
+        <translation>no printer is the default one</translation>
+    </message>
+    <message>
+        <source>there is no printer named “%1”</source>
+        <translation>there is no printer named “%1”</translation>
+    </message>
+    <message>
+        <source>the printer “%1” takes no jobs</source>
+        <translation>the printer “%1” takes no jobs</translation>
+    </message>
+    <message>
+        <source>the printer “%1” is not open to this user</source>
+        <translation>the printer “%1” is not open to this user</translation>
+    </message>
+    <message>
+        <source>the printer “%1” wants a user name and a password, which are not asked for here</source>
+        <translation>the printer “%1” wants a user name and a password, which are not asked for here</translation>
+    </message>
+    <message>
+        <source>the printer “%1” did not take the job: %2</source>
+        <translation>the printer “%1” did not take the job: %2</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and only the first %2 of them can be printed</source>
+        <translation>the document has %1 pages, and only the first %2 of them can be printed</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the document has %1</source>
+        <translation>there are no such pages: the document has %1</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the picture takes %1</source>
+        <translation>there are no such pages: the picture takes %1</translation>
+    </message>
+    <message>
+        <source>the pages would take more than %1 sheets of paper</source>
+        <translation>the pages would take more than %1 sheets of paper</translation>
+    </message>
+    <message>
+        <source>the picture would take more than %1 sheets of paper</source>
+        <translation>the picture would take more than %1 sheets of paper</translation>
+    </message>
+    <message>
+        <source>the margins leave no room on the paper</source>
+        <translation>the margins leave no room on the paper</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>No such file or directory</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permission denied</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Input/output error</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Too many open files</translation>
+    </message>
+    <message>
+        <source>its PostScript</source>
+        <translation>its PostScript</translation>
+    </message>
+    <message>
+        <source>its preview</source>
+        <translation>its preview</translation>
+    </message>
+    <message>
+        <source>its page</source>
+        <translation>its page</translation>
+    </message>
+    <message>
+        <source>its pages</source>
+        <translation>its pages</translation>
+    </message>
+    <message>
+        <source>no reason is given</source>
+        <translation>no reason is given</translation>
+    </message>
+    <message>
+        <source>actions that start programs or open other files were left out</source>
+        <translation>actions that start programs or open other files were left out</translation>
+    </message>
+    <message>
+        <source>what the document does when it is opened was left out</source>
+        <translation>what the document does when it is opened was left out</translation>
+    </message>
+    <message>
+        <source>references to files beside the document were left out</source>
+        <translation>references to files beside the document were left out</translation>
+    </message>
+    <message>
+        <source>PostScript programs that the document holds were left out</source>
+        <translation>PostScript programs that the document holds were left out</translation>
+    </message>
+    <message>
+        <source>a font cannot be taken over; another stands in for it</source>
+        <translation>a font cannot be taken over; another stands in for it</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be taken over; another stands in for it</source>
+        <translation>the font %1 cannot be taken over; another stands in for it</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript, so the file holds a preview and nothing else</source>
+        <translation>the source has no PostScript, so the file holds a preview and nothing else</translation>
+    </message>
+    <message>
+        <source>the picture gives no PostScript, so the file holds a preview and nothing else</source>
+        <translation>the picture gives no PostScript, so the file holds a preview and nothing else</translation>
+    </message>
+    <message>
+        <source>the PDF has no subject, because the document has a description but no title</source>
+        <translation>the PDF has no subject, because the document has a description but no title</translation>
+    </message>
+    <message>
+        <source>the preview could not be written as TIFF</source>
+        <translation>the preview could not be written as TIFF</translation>
+    </message>
+    <message>
+        <source>the result could not be opened again: %1</source>
+        <translation>the result could not be opened again: %1</translation>
+    </message>
+    <message>
+        <source>an image with more pixels than are granted was left out</source>
+        <translation>an image with more pixels than are granted was left out</translation>
+    </message>
+    <message>
+        <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
+        <translation>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</translation>
+    </message>
+    <message>
+        <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
+        <translation>of some characters the document does not tell the meaning: they are shown, and no search finds them</translation>
+    </message>
+    <message>
+        <source>what is drawn through a filter (elements: %1) is held as an image</source>
+        <translation>what is drawn through a filter (elements: %1) is held as an image</translation>
+    </message>
+    <message>
+        <source>masks (elements: %1) are held as images, what they mask is not</source>
+        <translation>masks (elements: %1) are held as images, what they mask is not</translation>
+    </message>
+    <message>
+        <source>the text is in %1 and is handed on as UTF-8</source>
+        <translation>the text is in %1 and is handed on as UTF-8</translation>
+    </message>
+    <message>
+        <source>the document's width or height is not a length and is passed over</source>
+        <translation>the document's width or height is not a length and is passed over</translation>
+    </message>
+    <message>
+        <source>the document's view box is not readable and is passed over</source>
+        <translation>the document's view box is not readable and is passed over</translation>
+    </message>
+    <message>
+        <source>it draws nothing and states no bounding box</source>
+        <translation>it draws nothing and states no bounding box</translation>
+    </message>
+    <message>
+        <source>it cannot be mended: %1</source>
+        <translation>it cannot be mended: %1</translation>
+    </message>
+    <message>
+        <source>the program was taken out of %1</source>
+        <translation>the program was taken out of %1</translation>
+    </message>
+    <message>
+        <source>the program was taken out of its binary file</source>
+        <translation>the program was taken out of its binary file</translation>
+    </message>
+    <message>
+        <source>the preview was left out</source>
+        <translation>the preview was left out</translation>
+    </message>
+    <message>
+        <source>the Windows metafile was left out</source>
+        <translation>the Windows metafile was left out</translation>
+    </message>
+    <message>
+        <source>a preview of %1 by %2 pixels was made</source>
+        <translation>a preview of %1 by %2 pixels was made</translation>
+    </message>
+    <message>
+        <source>the first line is %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>the first line is %!PS-Adobe-3.0 EPSF-3.0</translation>
+    </message>
+    <message>
+        <source>%%EndComments was put in</source>
+        <translation>%%EndComments was put in</translation>
+    </message>
+    <message>
+        <source>a second %%EndComments was left out</source>
+        <translation>a second %%EndComments was left out</translation>
+    </message>
+    <message>
+        <source>showpage was put in</source>
+        <translation>showpage was put in</translation>
+    </message>
+    <message>
+        <source>%%EOF was put in</source>
+        <translation>%%EOF was put in</translation>
+    </message>
+    <message>
+        <source>the box at the end of the file stands in its header</source>
+        <translation>the box at the end of the file stands in its header</translation>
+    </message>
+    <message>
+        <source>the bounding box is %1 (%2)</source>
+        <translation>the bounding box is %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 was left out, because it stood out of order</source>
+        <translation>%1 was left out, because it stood out of order</translation>
+    </message>
+    <message>
+        <source>the document is larger than %1 MiB</source>
+        <translation>the document is larger than %1 MiB</translation>
+    </message>
+    <message>
+        <source>the compressed data is larger than %1 MiB</source>
+        <translation>the compressed data is larger than %1 MiB</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to inflate the data</source>
+        <translation>there is not enough memory to inflate the data</translation>
+    </message>
+    <message>
+        <source>the document has a filter with a matrix of more than %1 numbers</source>
+        <translation>the document has a filter with a matrix of more than %1 numbers</translation>
+    </message>
+    <message>
+        <source>the selectors of the document's style sheets nest more than %1 deep</source>
+        <translation>the selectors of the document's style sheets nest more than %1 deep</translation>
+    </message>
+    <message>
+        <source>the document has text of more than %1 units in size</source>
+        <translation>the document has text of more than %1 units in size</translation>
+    </message>
+    <message>
+        <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
+        <translation>the plates of the page have more pixels than can be handled; a lower resolution helps</translation>
+    </message>
+    <message>
+        <source>Ghostscript did not separate the page</source>
+        <translation>Ghostscript did not separate the page</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) cannot be started</source>
+        <translation>Ghostscript (gs) cannot be started</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript could not be confined</source>
+        <translation>the interpreter of PostScript could not be confined</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1" instead of four numbers</source>
+        <translation>%%BoundingBox holds "%1" instead of four numbers</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
+        <translation>%%BoundingBox holds "%1", which are not all whole numbers</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox is promised for the end and does not come</source>
+        <translation>%%BoundingBox is promised for the end and does not come</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 has no area</source>
+        <translation>the bounding box %1 has no area</translation>
+    </message>
+    <message>
+        <source>nothing but white is drawn inside the bounding box</source>
+        <translation>nothing but white is drawn inside the bounding box</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
+        <translation>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 is more than twice as large as the ink: %2</source>
+        <translation>the bounding box %1 is more than twice as large as the ink: %2</translation>
+    </message>
+    <message>
+        <source>the %1 section ends at byte %2, the file at byte %3</source>
+        <translation>the %1 section ends at byte %2, the file at byte %3</translation>
+    </message>
+    <message>
+        <source>the %1 section lies over another part of the file</source>
+        <translation>the %1 section lies over another part of the file</translation>
+    </message>
+    <message>
+        <source>bytes before %!PS-Adobe: %1</source>
+        <translation>bytes before %!PS-Adobe: %1</translation>
+    </message>
+    <message>
+        <source>bytes behind %%EOF: %1</source>
+        <translation>bytes behind %%EOF: %1</translation>
+    </message>
+    <message>
+        <source>the file needs fonts that it does not bring: %1</source>
+        <translation>the file needs fonts that it does not bring: %1</translation>
+    </message>
+    <message>
+        <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
+        <translation>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</translation>
+    </message>
+    <message>
+        <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
+        <translation>the preview shows another picture than the program draws (mean difference %1 %)</translation>
+    </message>
+    <message>
+        <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</translation>
+    </message>
+    <message>
+        <source>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</source>
+        <translation>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</translation>
+    </message>
+    <message>
+        <source>the header has no %%EndComments</source>
+        <translation>the header has no %%EndComments</translation>
+    </message>
+    <message>
+        <source>%%EndComments stands behind the first line that is no comment</source>
+        <translation>%%EndComments stands behind the first line that is no comment</translation>
+    </message>
+    <message>
+        <source>lines of more than 255 bytes: %1, the first is line %2</source>
+        <translation>lines of more than 255 bytes: %1, the first is line %2</translation>
+    </message>
+    <message>
+        <source>lines end in %1 different ways</source>
+        <translation>lines end in %1 different ways</translation>
+    </message>
+    <message>
+        <source>a line is %1 pt thin, %2 pt are asked for</source>
+        <translation>a line is %1 pt thin, %2 pt are asked for</translation>
+    </message>
+    <message>
+        <source>a text is %1 pt small, %2 pt are asked for</source>
+        <translation>a text is %1 pt small, %2 pt are asked for</translation>
+    </message>
+    <message>
+        <source>a colour takes %1 % of ink, %2 % are allowed</source>
+        <translation>a colour takes %1 % of ink, %2 % are allowed</translation>
+    </message>
+    <message>
+        <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
+        <translation>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>colour</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>grey</translation>
+    </message>
+    <message>
+        <source>line art</source>
+        <translation>line art</translation>
+    </message>
+    <message>
+        <source>there is the spot ink %1</source>
+        <translation>there is the spot ink %1</translation>
+    </message>
+    <message>
+        <source>RGB colours stand beside CMYK colours</source>
+        <translation>RGB colours stand beside CMYK colours</translation>
+    </message>
+    <message>
+        <source>its permissions forbid %1</source>
+        <translation>its permissions forbid %1</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1</source>
+        <translation>it claims to keep %1</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1 and has no output intent</source>
+        <translation>it claims to keep %1 and has no output intent</translation>
+    </message>
+    <message>
+        <source>it refers to other files, which are never loaded (references: %1)</source>
+        <translation>it refers to other files, which are never loaded (references: %1)</translation>
+    </message>
+    <message>
+        <source>elements drawn through filters become images in print: %1</source>
+        <translation>elements drawn through filters become images in print: %1</translation>
+    </message>
+    <message>
+        <source>something is drawn up to %1 pt outside the page</source>
+        <translation>something is drawn up to %1 pt outside the page</translation>
+    </message>
+    <message>
+        <source>only the first %1 pages were looked at</source>
+        <translation>only the first %1 pages were looked at</translation>
+    </message>
+    <message>
+        <source>the picture is %1 mm wide, columns are %2 mm</source>
+        <translation>the picture is %1 mm wide, columns are %2 mm</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1</source>
+        <translation>the file is wrapped as %1</translation>
+    </message>
+    <message>
+        <source>%1 takes language level %2, and the header declares %3</source>
+        <translation>%1 takes language level %2, and the header declares %3</translation>
+    </message>
+    <message>
+        <source>none above 1</source>
+        <translation>none above 1</translation>
+    </message>
+    <message>
+        <source>%1 has no place in an EPS file</source>
+        <translation>%1 has no place in an EPS file</translation>
+    </message>
+    <message>
+        <source>%1 is declared, and line %2 holds the byte %3</source>
+        <translation>%1 is declared, and line %2 holds the byte %3</translation>
+    </message>
+    <message>
+        <source>%1 stands behind %2</source>
+        <translation>%1 stands behind %2</translation>
+    </message>
+</context>
 </TS>

@@ -2462,4 +2462,927 @@
         <translation>1600 %</translation>
     </message>
 </context>
+<context>
+    <name>Sentences</name>
+    <message>
+        <source>the file is empty</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>El archivo supera los %1 MiB.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>Es una carpeta.</translation>
+    </message>
+    <message>
+        <source>it is a pipe, not an ordinary file</source>
+        <translation>Es una tubería, no un archivo corriente.</translation>
+    </message>
+    <message>
+        <source>it is a socket, not an ordinary file</source>
+        <translation>Es un socket, no un archivo corriente.</translation>
+    </message>
+    <message>
+        <source>it is a device, not an ordinary file</source>
+        <translation>Es un dispositivo, no un archivo corriente.</translation>
+    </message>
+    <message>
+        <source>it is being changed by another program</source>
+        <translation>Otro programa está modificando el archivo.</translation>
+    </message>
+    <message>
+        <source>only local files can be opened</source>
+        <translation>Solo se pueden abrir archivos locales.</translation>
+    </message>
+    <message>
+        <source>this type of document cannot be shown</source>
+        <translation>Este tipo de documento no se puede mostrar.</translation>
+    </message>
+    <message>
+        <source>this is not an EPS, Illustrator, PDF or SVG picture</source>
+        <translation>No es una imagen EPS, Illustrator, PDF o SVG.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript</source>
+        <translation>No es PostScript encapsulado.</translation>
+    </message>
+    <message>
+        <source>the PostScript header states no usable bounding box</source>
+        <translation>La cabecera PostScript no indica ningún BoundingBox utilizable.</translation>
+    </message>
+    <message>
+        <source>the PostScript has no usable bounding box</source>
+        <translation>El PostScript no tiene ningún BoundingBox utilizable.</translation>
+    </message>
+    <message>
+        <source>the file holds no PostScript</source>
+        <translation>El archivo no contiene PostScript.</translation>
+    </message>
+    <message>
+        <source>the picture has no area to be drawn</source>
+        <translation>La imagen no tiene superficie que dibujar.</translation>
+    </message>
+    <message>
+        <source>the SVG document has no area</source>
+        <translation>El documento SVG no tiene superficie.</translation>
+    </message>
+    <message>
+        <source>the picture is empty: its width or height is zero</source>
+        <translation>La imagen está vacía: su ancho o su alto es cero.</translation>
+    </message>
+    <message>
+        <source>the file is cut off: %1 of the %2 bytes of %3 are missing</source>
+        <translation>El archivo está cortado: faltan %1 de %2 bytes (%3).</translation>
+    </message>
+    <message>
+        <source>the file seems cut off: its PostScript stops before its end</source>
+        <translation>El archivo parece cortado: su PostScript se interrumpe antes del final.</translation>
+    </message>
+    <message>
+        <source>the file is damaged; it was repaired as far as possible</source>
+        <translation>El archivo está dañado; se reparó en lo posible.</translation>
+    </message>
+    <message>
+        <source>the file is damaged; nothing of %1 can be read</source>
+        <translation>El archivo está dañado; no se puede leer nada (%1).</translation>
+    </message>
+    <message>
+        <source>the document is damaged and cannot be read as PDF</source>
+        <translation>El documento está dañado y no se puede leer como PDF.</translation>
+    </message>
+    <message>
+        <source>the document is not a readable PDF</source>
+        <translation>El documento no es un PDF legible.</translation>
+    </message>
+    <message>
+        <source>the document is protected with a password</source>
+        <translation>El documento está protegido con una contraseña.</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>La contraseña es incorrecta.</translation>
+    </message>
+    <message>
+        <source>the document uses an encryption that is not supported</source>
+        <translation>El documento usa un cifrado no admitido.</translation>
+    </message>
+    <message>
+        <source>the document has no pages</source>
+        <translation>El documento no tiene páginas.</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 pages</source>
+        <translation>El documento tiene más de %1 páginas.</translation>
+    </message>
+    <message>
+        <source>there is no page %1; the document has %2</source>
+        <translation>No hay página %1; el documento tiene %2.</translation>
+    </message>
+    <message>
+        <source>there is no page %1, the document has %2</source>
+        <translation>No hay página %1; el documento tiene %2.</translation>
+    </message>
+    <message>
+        <source>page %1 is too far behind</source>
+        <translation>La página %1 está demasiado lejos.</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>La página %1 no tiene superficie.</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be read</source>
+        <translation>La página %1 no se puede leer.</translation>
+    </message>
+    <message>
+        <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
+        <translation>Este archivo de Illustrator se guardó sin contenido PDF, así que muestra un aviso en lugar del dibujo.</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption, and what is made of it is not</source>
+        <translation>El documento está protegido por cifrado; lo que se hace con él no lo está.</translation>
+    </message>
+    <message>
+        <source>scripts of the document were left out</source>
+        <translation>Se omitieron los scripts del documento.</translation>
+    </message>
+    <message>
+        <source>the PostScript program stops with an error</source>
+        <translation>El programa PostScript se detiene con un error.</translation>
+    </message>
+    <message>
+        <source>the PostScript program tries to use a file, which no picture may</source>
+        <translation>El programa PostScript intenta usar un archivo, lo que ninguna imagen puede hacer.</translation>
+    </message>
+    <message>
+        <source>the PostScript draws no page</source>
+        <translation>El PostScript no dibuja ninguna página.</translation>
+    </message>
+    <message>
+        <source>the PostScript did not end within %1 seconds</source>
+        <translation>El PostScript no terminó en %1 segundos.</translation>
+    </message>
+    <message>
+        <source>the PostScript needs more memory than it was granted</source>
+        <translation>El PostScript necesita más memoria de la que se le concede.</translation>
+    </message>
+    <message>
+        <source>the PostScript used up the time or memory that it was granted</source>
+        <translation>El PostScript agotó el tiempo o la memoria que se le conceden.</translation>
+    </message>
+    <message>
+        <source>what follows the picture in the file was left out</source>
+        <translation>Se omitió lo que sigue a la imagen en el archivo.</translation>
+    </message>
+    <message>
+        <source>there is no interpreter of PostScript</source>
+        <translation>No hay intérprete de PostScript.</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript has ended</source>
+        <translation>El intérprete de PostScript ha terminado.</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript cannot be reached</source>
+        <translation>No se puede acceder al intérprete de PostScript.</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) is not installed</source>
+        <translation>Ghostscript (gs) no está instalado.</translation>
+    </message>
+    <message>
+        <source>Ghostscript failed on the PostScript</source>
+        <translation>Ghostscript falló con este PostScript.</translation>
+    </message>
+    <message>
+        <source>the document is empty</source>
+        <translation>El documento está vacío.</translation>
+    </message>
+    <message>
+        <source>the document is not XML</source>
+        <translation>El documento no es XML.</translation>
+    </message>
+    <message>
+        <source>the document is XML but not SVG</source>
+        <translation>El documento es XML, pero no SVG.</translation>
+    </message>
+    <message>
+        <source>the document is not well-formed XML</source>
+        <translation>El documento no es XML bien formado.</translation>
+    </message>
+    <message>
+        <source>the compressed data is damaged</source>
+        <translation>Los datos comprimidos están dañados.</translation>
+    </message>
+    <message>
+        <source>the compressed data is cut off</source>
+        <translation>Los datos comprimidos están cortados.</translation>
+    </message>
+    <message>
+        <source>the compressed data grows to more than %1 times its size</source>
+        <translation>Los datos comprimidos crecen a más de %1 veces su tamaño.</translation>
+    </message>
+    <message>
+        <source>the compressed data holds more than %1 MiB</source>
+        <translation>Los datos comprimidos contienen más de %1 MiB.</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 elements</source>
+        <translation>El documento tiene más de %1 elementos.</translation>
+    </message>
+    <message>
+        <source>the elements of the document nest more than %1 deep</source>
+        <translation>Los elementos del documento se anidan a más de %1 niveles.</translation>
+    </message>
+    <message>
+        <source>the references of the document nest more than %1 deep</source>
+        <translation>Las referencias del documento se anidan a más de %1 niveles.</translation>
+    </message>
+    <message>
+        <source>the document uses entities more than %1 times</source>
+        <translation>El documento usa entidades más de %1 veces.</translation>
+    </message>
+    <message>
+        <source>the entities of the document expand to more than %1 MiB</source>
+        <translation>Las entidades del documento se expanden a más de %1 MiB.</translation>
+    </message>
+    <message>
+        <source>the entities of the document refer to one another without end</source>
+        <translation>Las entidades del documento se refieren unas a otras sin fin.</translation>
+    </message>
+    <message>
+        <source>the picture is wider or higher than %1 points</source>
+        <translation>La imagen mide más de %1 puntos de ancho o de alto.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>La imagen no se puede leer.</translation>
+    </message>
+    <message>
+        <source>the picture holds something that cannot be drawn</source>
+        <translation>La imagen contiene algo que no se puede dibujar.</translation>
+    </message>
+    <message>
+        <source>the encoding %1 is not known</source>
+        <translation>La codificación %1 no se conoce.</translation>
+    </message>
+    <message>
+        <source>the bytes are not text in the encoding %1</source>
+        <translation>Los bytes no son texto en la codificación %1.</translation>
+    </message>
+    <message>
+        <source>the document refers to other files, which are never loaded (references: %1)</source>
+        <translation>El documento remite a otros archivos, que nunca se cargan (referencias: %1).</translation>
+    </message>
+    <message>
+        <source>the document has scripts, which are never run</source>
+        <translation>El documento tiene scripts, que nunca se ejecutan.</translation>
+    </message>
+    <message>
+        <source>the document is animated and is shown as it stands at rest</source>
+        <translation>El documento está animado y se muestra en reposo.</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, another stands in for it</source>
+        <translation>Falta la fuente %1; otra la sustituye.</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, %2 stands in for it</source>
+        <translation>Falta la fuente %1; la sustituye %2.</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within %1 seconds</source>
+        <translation>La imagen no estuvo lista en %1 segundos.</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within the time that it is allowed</source>
+        <translation>La imagen no estuvo lista en el tiempo que se le concede.</translation>
+    </message>
+    <message>
+        <source>the picture needs more memory than it is allowed</source>
+        <translation>La imagen necesita más memoria de la permitida.</translation>
+    </message>
+    <message>
+        <source>the picture needs more processor time than it is allowed</source>
+        <translation>La imagen necesita más tiempo de procesador del permitido.</translation>
+    </message>
+    <message>
+        <source>the picture needs more temporary files than it is allowed</source>
+        <translation>La imagen necesita más archivos temporales de los permitidos.</translation>
+    </message>
+    <message>
+        <source>the picture nests deeper than can be drawn</source>
+        <translation>La imagen se anida más de lo que se puede dibujar.</translation>
+    </message>
+    <message>
+        <source>the picture is larger than the memory that it was granted</source>
+        <translation>La imagen es mayor que la memoria que se le concede.</translation>
+    </message>
+    <message>
+        <source>the picture would have more pixels than it is allowed</source>
+        <translation>La imagen tendría más píxeles de los permitidos.</translation>
+    </message>
+    <message>
+        <source>the image would have a side of more than %1 pixels</source>
+        <translation>Un lado de la imagen superaría los %1 píxeles.</translation>
+    </message>
+    <message>
+        <source>the image would have more than %1 megapixels</source>
+        <translation>La imagen superaría los %1 megapíxeles.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the picture</source>
+        <translation>No hay memoria suficiente para la imagen.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the document</source>
+        <translation>No hay memoria suficiente para el documento.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to draw the picture</source>
+        <translation>No hay memoria suficiente para dibujar la imagen.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the document</source>
+        <translation>No hay memoria suficiente para leer el documento.</translation>
+    </message>
+    <message>
+        <source>the picture is larger than files may become here</source>
+        <translation>La imagen es mayor de lo que aquí pueden ser los archivos.</translation>
+    </message>
+    <message>
+        <source>too many files are open for another picture</source>
+        <translation>Hay demasiados archivos abiertos para otra imagen.</translation>
+    </message>
+    <message>
+        <source>the picture process ended without an answer</source>
+        <translation>El proceso de la imagen terminó sin responder.</translation>
+    </message>
+    <message>
+        <source>the picture process did not answer in time</source>
+        <translation>El proceso de la imagen no respondió a tiempo.</translation>
+    </message>
+    <message>
+        <source>the picture process was killed by the system, which has probably run out of memory</source>
+        <translation>El sistema terminó el proceso de la imagen, probablemente por falta de memoria.</translation>
+    </message>
+    <message>
+        <source>the picture process gave an answer that cannot be true</source>
+        <translation>El proceso de la imagen dio una respuesta que no puede ser cierta.</translation>
+    </message>
+    <message>
+        <source>no process for the picture could be started</source>
+        <translation>No se pudo iniciar ningún proceso para la imagen.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures could not be started</source>
+        <translation>No se pudo iniciar el programa que lee las imágenes.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has ended</source>
+        <translation>El programa que lee las imágenes ha terminado.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has not answered yet</source>
+        <translation>El programa que lee las imágenes aún no ha respondido.</translation>
+    </message>
+    <message>
+        <source>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</source>
+        <translation>No se pudo confinar el proceso de la imagen: este sistema no ofrece ni Landlock ni espacios de nombres de usuario con filtros seccomp.</translation>
+    </message>
+    <message>
+        <source>the drawing was stopped</source>
+        <translation>Se detuvo el dibujo.</translation>
+    </message>
+    <message>
+        <source>the picture could not be processed</source>
+        <translation>No se pudo procesar la imagen.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn at this size</source>
+        <translation>La imagen no se puede dibujar a este tamaño.</translation>
+    </message>
+    <message>
+        <source>the file exists already</source>
+        <translation>El archivo ya existe.</translation>
+    </message>
+    <message>
+        <source>the folder to write to does not exist</source>
+        <translation>La carpeta de destino no existe.</translation>
+    </message>
+    <message>
+        <source>there is a folder of that name</source>
+        <translation>Hay una carpeta con ese nombre.</translation>
+    </message>
+    <message>
+        <source>there is no space left to write to</source>
+        <translation>No queda espacio para escribir.</translation>
+    </message>
+    <message>
+        <source>writing there is not permitted</source>
+        <translation>No está permitido escribir ahí.</translation>
+    </message>
+    <message>
+        <source>the file could not be written (%1)</source>
+        <translation>No se pudo escribir el archivo (%1).</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file</source>
+        <translation>No es un archivo corriente.</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>El archivo es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>the rectangle is empty or out of range</source>
+        <translation>El rectángulo está vacío o fuera de los límites.</translation>
+    </message>
+    <message>
+        <source>no profile of a press is installed (%1)</source>
+        <translation>No hay instalado ningún perfil de imprenta (%1).</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as PostScript</source>
+        <translation>La página no se puede escribir como PostScript.</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as SVG</source>
+        <translation>La página no se puede escribir como SVG.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written as PDF</source>
+        <translation>La imagen no se puede escribir como PDF.</translation>
+    </message>
+    <message>
+        <source>the page is too large or too deeply nested to become SVG</source>
+        <translation>La página es demasiado grande o está demasiado anidada para convertirse en SVG.</translation>
+    </message>
+    <message>
+        <source>only EPS files can be repaired</source>
+        <translation>Solo se pueden reparar archivos EPS.</translation>
+    </message>
+    <message>
+        <source>an SVG picture has no inks: its colours are those of a screen</source>
+        <translation>Una imagen SVG no tiene tintas: sus colores son los de una pantalla.</translation>
+    </message>
+    <message>
+        <source>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</source>
+        <translation>A %1 ppp una plancha tiene %2 millones de píxeles; como máximo se admiten %3 millones.</translation>
+    </message>
+    <message>
+        <source>the print service cannot be reached</source>
+        <translation>No se puede acceder al servicio de impresión.</translation>
+    </message>
+    <message>
+        <source>the print service does not answer</source>
+        <translation>El servicio de impresión no responde.</translation>
+    </message>
+    <message>
+        <source>there is no printer</source>
+        <translation>No hay ninguna impresora.</translation>
+    </message>
+    <message>
+        <source>no printer is the default one</source>
+        <translation>No hay ninguna impresora predeterminada.</translation>
+    </message>
+    <message>
+        <source>there is no printer named “%1”</source>
+        <translation>No hay ninguna impresora llamada «%1».</translation>
+    </message>
+    <message>
+        <source>the printer “%1” takes no jobs</source>
+        <translation>La impresora «%1» no acepta trabajos.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” is not open to this user</source>
+        <translation>La impresora «%1» no está abierta a este usuario.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” wants a user name and a password, which are not asked for here</source>
+        <translation>La impresora «%1» pide un nombre de usuario y una contraseña, que aquí no se solicitan.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” did not take the job: %2</source>
+        <translation>La impresora «%1» no aceptó el trabajo: %2.</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and only the first %2 of them can be printed</source>
+        <translation>El documento tiene %1 páginas y solo se pueden imprimir las primeras %2.</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the document has %1</source>
+        <translation>No hay tales páginas: el documento tiene %1.</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the picture takes %1</source>
+        <translation>No hay tales páginas: la imagen ocupa %1.</translation>
+    </message>
+    <message>
+        <source>the pages would take more than %1 sheets of paper</source>
+        <translation>Las páginas ocuparían más de %1 hojas de papel.</translation>
+    </message>
+    <message>
+        <source>the picture would take more than %1 sheets of paper</source>
+        <translation>La imagen ocuparía más de %1 hojas de papel.</translation>
+    </message>
+    <message>
+        <source>the margins leave no room on the paper</source>
+        <translation>Los márgenes no dejan sitio en el papel.</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>No se permite el acceso.</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Error de lectura o escritura del dispositivo.</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Hay demasiados archivos abiertos.</translation>
+    </message>
+    <message>
+        <source>its PostScript</source>
+        <translation>su PostScript</translation>
+    </message>
+    <message>
+        <source>its preview</source>
+        <translation>su vista previa</translation>
+    </message>
+    <message>
+        <source>its page</source>
+        <translation>su página</translation>
+    </message>
+    <message>
+        <source>its pages</source>
+        <translation>sus páginas</translation>
+    </message>
+    <message>
+        <source>no reason is given</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>actions that start programs or open other files were left out</source>
+        <translation>Se omitieron las acciones que inician programas o abren otros archivos.</translation>
+    </message>
+    <message>
+        <source>what the document does when it is opened was left out</source>
+        <translation>Se omitió lo que el documento hace al abrirse.</translation>
+    </message>
+    <message>
+        <source>references to files beside the document were left out</source>
+        <translation>Se omitieron las referencias a archivos externos al documento.</translation>
+    </message>
+    <message>
+        <source>PostScript programs that the document holds were left out</source>
+        <translation>Se omitieron los programas PostScript del documento.</translation>
+    </message>
+    <message>
+        <source>a font cannot be taken over; another stands in for it</source>
+        <translation>Una fuente no se puede conservar; otra la sustituye.</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be taken over; another stands in for it</source>
+        <translation>La fuente %1 no se puede conservar; otra la sustituye.</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript, so the file holds a preview and nothing else</source>
+        <translation>El origen no tiene PostScript; el archivo solo contiene una vista previa.</translation>
+    </message>
+    <message>
+        <source>the picture gives no PostScript, so the file holds a preview and nothing else</source>
+        <translation>La imagen no da PostScript; el archivo solo contiene una vista previa.</translation>
+    </message>
+    <message>
+        <source>the PDF has no subject, because the document has a description but no title</source>
+        <translation>El PDF no tiene asunto, porque el documento tiene descripción pero no título.</translation>
+    </message>
+    <message>
+        <source>the preview could not be written as TIFF</source>
+        <translation>La vista previa no se pudo escribir como TIFF.</translation>
+    </message>
+    <message>
+        <source>the result could not be opened again: %1</source>
+        <translation>No se pudo volver a abrir el resultado: %1.</translation>
+    </message>
+    <message>
+        <source>an image with more pixels than are granted was left out</source>
+        <translation>Se omitió una imagen con más píxeles de los permitidos.</translation>
+    </message>
+    <message>
+        <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
+        <translation>Parte del texto queda en contornos: es línea o recorte, o su fuente no puede o no debe incrustarse.</translation>
+    </message>
+    <message>
+        <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
+        <translation>El documento no dice qué son algunos caracteres: se muestran, pero ninguna búsqueda los encuentra.</translation>
+    </message>
+    <message>
+        <source>what is drawn through a filter (elements: %1) is held as an image</source>
+        <translation>Lo que se dibuja con un filtro (elementos: %1) se guarda como imagen.</translation>
+    </message>
+    <message>
+        <source>masks (elements: %1) are held as images, what they mask is not</source>
+        <translation>Las máscaras (elementos: %1) se guardan como imágenes; lo que enmascaran, no.</translation>
+    </message>
+    <message>
+        <source>the text is in %1 and is handed on as UTF-8</source>
+        <translation>El texto está en %1 y se entrega como UTF-8.</translation>
+    </message>
+    <message>
+        <source>the document's width or height is not a length and is passed over</source>
+        <translation>El ancho o el alto del documento no es una longitud y se pasa por alto.</translation>
+    </message>
+    <message>
+        <source>the document's view box is not readable and is passed over</source>
+        <translation>El viewBox del documento no es legible y se pasa por alto.</translation>
+    </message>
+    <message>
+        <source>it draws nothing and states no bounding box</source>
+        <translation>No dibuja nada y no indica ningún BoundingBox.</translation>
+    </message>
+    <message>
+        <source>it cannot be mended: %1</source>
+        <translation>No se puede reparar: %1.</translation>
+    </message>
+    <message>
+        <source>the program was taken out of %1</source>
+        <translation>El programa se extrajo de %1.</translation>
+    </message>
+    <message>
+        <source>the program was taken out of its binary file</source>
+        <translation>El programa se extrajo de su archivo binario.</translation>
+    </message>
+    <message>
+        <source>the preview was left out</source>
+        <translation>Se omitió la vista previa.</translation>
+    </message>
+    <message>
+        <source>the Windows metafile was left out</source>
+        <translation>Se omitió el metarchivo de Windows.</translation>
+    </message>
+    <message>
+        <source>a preview of %1 by %2 pixels was made</source>
+        <translation>Se creó una vista previa de %1 × %2 píxeles.</translation>
+    </message>
+    <message>
+        <source>the first line is %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>La primera línea es %!PS-Adobe-3.0 EPSF-3.0.</translation>
+    </message>
+    <message>
+        <source>%%EndComments was put in</source>
+        <translation>Se insertó %%EndComments.</translation>
+    </message>
+    <message>
+        <source>a second %%EndComments was left out</source>
+        <translation>Se omitió un segundo %%EndComments.</translation>
+    </message>
+    <message>
+        <source>showpage was put in</source>
+        <translation>Se insertó showpage.</translation>
+    </message>
+    <message>
+        <source>%%EOF was put in</source>
+        <translation>Se insertó %%EOF.</translation>
+    </message>
+    <message>
+        <source>the box at the end of the file stands in its header</source>
+        <translation>El recuadro del final del archivo está en su cabecera.</translation>
+    </message>
+    <message>
+        <source>the bounding box is %1 (%2)</source>
+        <translation>El BoundingBox es %1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 was left out, because it stood out of order</source>
+        <translation>Se omitió %1, porque no estaba en su sitio.</translation>
+    </message>
+    <message>
+        <source>the document is larger than %1 MiB</source>
+        <translation>El documento supera los %1 MiB.</translation>
+    </message>
+    <message>
+        <source>the compressed data is larger than %1 MiB</source>
+        <translation>Los datos comprimidos superan los %1 MiB.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to inflate the data</source>
+        <translation>No hay memoria suficiente para descomprimir los datos.</translation>
+    </message>
+    <message>
+        <source>the document has a filter with a matrix of more than %1 numbers</source>
+        <translation>El documento tiene un filtro con una matriz de más de %1 números.</translation>
+    </message>
+    <message>
+        <source>the selectors of the document's style sheets nest more than %1 deep</source>
+        <translation>Los selectores de las hojas de estilo del documento se anidan a más de %1 niveles.</translation>
+    </message>
+    <message>
+        <source>the document has text of more than %1 units in size</source>
+        <translation>El documento tiene texto de más de %1 unidades de tamaño.</translation>
+    </message>
+    <message>
+        <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
+        <translation>Las planchas de la página tienen demasiados píxeles; una resolución menor ayuda.</translation>
+    </message>
+    <message>
+        <source>Ghostscript did not separate the page</source>
+        <translation>Ghostscript no separó la página.</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) cannot be started</source>
+        <translation>No se puede iniciar Ghostscript (gs).</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript could not be confined</source>
+        <translation>No se pudo confinar el intérprete de PostScript.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1" instead of four numbers</source>
+        <translation>%%BoundingBox contiene «%1» en lugar de cuatro números.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
+        <translation>%%BoundingBox contiene «%1», que no son todos números enteros.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 no encierra a %%HiResBoundingBox %2.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 es mucho mayor que %%HiResBoundingBox %2.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox is promised for the end and does not come</source>
+        <translation>%%BoundingBox se anuncia para el final y no aparece.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 has no area</source>
+        <translation>El BoundingBox %1 no tiene superficie.</translation>
+    </message>
+    <message>
+        <source>nothing but white is drawn inside the bounding box</source>
+        <translation>Dentro del BoundingBox solo se dibuja blanco.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
+        <translation>El BoundingBox %1 corta el dibujo, que lo sobrepasa en %2 pt: %3.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 is more than twice as large as the ink: %2</source>
+        <translation>El BoundingBox %1 es más del doble de grande que el dibujo: %2.</translation>
+    </message>
+    <message>
+        <source>the %1 section ends at byte %2, the file at byte %3</source>
+        <translation>La sección %1 termina en el byte %2 y el archivo en el byte %3.</translation>
+    </message>
+    <message>
+        <source>the %1 section lies over another part of the file</source>
+        <translation>La sección %1 se superpone a otra parte del archivo.</translation>
+    </message>
+    <message>
+        <source>bytes before %!PS-Adobe: %1</source>
+        <translation>Bytes antes de %!PS-Adobe: %1.</translation>
+    </message>
+    <message>
+        <source>bytes behind %%EOF: %1</source>
+        <translation>Bytes después de %%EOF: %1.</translation>
+    </message>
+    <message>
+        <source>the file needs fonts that it does not bring: %1</source>
+        <translation>El archivo necesita fuentes que no incluye: %1.</translation>
+    </message>
+    <message>
+        <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
+        <translation>La vista previa mide %1 × %2 píxeles y el BoundingBox %3 × %4 puntos.</translation>
+    </message>
+    <message>
+        <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
+        <translation>La vista previa muestra otra imagen que la que dibuja el programa (diferencia media: %1 %).</translation>
+    </message>
+    <message>
+        <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>La primera línea «%1» no dice %!PS-Adobe-3.0 EPSF-3.0.</translation>
+    </message>
+    <message>
+        <source>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</source>
+        <translation>La primera línea declara PS-Adobe-%1 y EPSF-%2, que no existen.</translation>
+    </message>
+    <message>
+        <source>the header has no %%EndComments</source>
+        <translation>La cabecera no tiene %%EndComments.</translation>
+    </message>
+    <message>
+        <source>%%EndComments stands behind the first line that is no comment</source>
+        <translation>%%EndComments está después de la primera línea que no es comentario.</translation>
+    </message>
+    <message>
+        <source>lines of more than 255 bytes: %1, the first is line %2</source>
+        <translation>Líneas de más de 255 bytes: %1; la primera es la línea %2.</translation>
+    </message>
+    <message>
+        <source>lines end in %1 different ways</source>
+        <translation>Las líneas terminan de %1 maneras distintas.</translation>
+    </message>
+    <message>
+        <source>a line is %1 pt thin, %2 pt are asked for</source>
+        <translation>Una línea tiene %1 pt de grosor; se piden %2 pt.</translation>
+    </message>
+    <message>
+        <source>a text is %1 pt small, %2 pt are asked for</source>
+        <translation>Un texto mide %1 pt; se piden %2 pt.</translation>
+    </message>
+    <message>
+        <source>a colour takes %1 % of ink, %2 % are allowed</source>
+        <translation>Un color lleva %1 % de tinta; se permite %2 %.</translation>
+    </message>
+    <message>
+        <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
+        <translation>La imagen (%1) de %2 × %3 píxeles tiene %4 ppp; se piden %5.</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>color</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>grises</translation>
+    </message>
+    <message>
+        <source>line art</source>
+        <translation>línea</translation>
+    </message>
+    <message>
+        <source>there is the spot ink %1</source>
+        <translation>Hay la tinta directa %1.</translation>
+    </message>
+    <message>
+        <source>RGB colours stand beside CMYK colours</source>
+        <translation>Hay colores RGB junto a colores CMYK.</translation>
+    </message>
+    <message>
+        <source>its permissions forbid %1</source>
+        <translation>Sus permisos prohíben: %1.</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1</source>
+        <translation>Declara cumplir %1.</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1 and has no output intent</source>
+        <translation>Declara cumplir %1 y no tiene intención de salida.</translation>
+    </message>
+    <message>
+        <source>it refers to other files, which are never loaded (references: %1)</source>
+        <translation>Remite a otros archivos, que nunca se cargan (referencias: %1).</translation>
+    </message>
+    <message>
+        <source>elements drawn through filters become images in print: %1</source>
+        <translation>Elementos con filtros que se convierten en imágenes al imprimir: %1.</translation>
+    </message>
+    <message>
+        <source>something is drawn up to %1 pt outside the page</source>
+        <translation>Algo se dibuja hasta %1 pt fuera de la página.</translation>
+    </message>
+    <message>
+        <source>only the first %1 pages were looked at</source>
+        <translation>Solo se miraron las primeras %1 páginas.</translation>
+    </message>
+    <message>
+        <source>the picture is %1 mm wide, columns are %2 mm</source>
+        <translation>La imagen mide %1 mm de ancho; las columnas, %2 mm.</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1</source>
+        <translation>El archivo está envuelto como %1.</translation>
+    </message>
+    <message>
+        <source>%1 takes language level %2, and the header declares %3</source>
+        <translation>%1 requiere el nivel de lenguaje %2, y la cabecera declara: %3.</translation>
+    </message>
+    <message>
+        <source>none above 1</source>
+        <translation>ninguno superior a 1</translation>
+    </message>
+    <message>
+        <source>%1 has no place in an EPS file</source>
+        <translation>%1 no debe estar en un archivo EPS.</translation>
+    </message>
+    <message>
+        <source>%1 is declared, and line %2 holds the byte %3</source>
+        <translation>Se declara %1, y la línea %2 contiene el byte %3.</translation>
+    </message>
+    <message>
+        <source>%1 stands behind %2</source>
+        <translation>%1 está después de %2.</translation>
+    </message>
+</context>
 </TS>

@@ -2462,4 +2462,927 @@
         <translation>1600 %</translation>
     </message>
 </context>
+<context>
+    <name>Sentences</name>
+    <message>
+        <source>the file is empty</source>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>Le fichier dépasse %1 Mio.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>C’est un dossier.</translation>
+    </message>
+    <message>
+        <source>it is a pipe, not an ordinary file</source>
+        <translation>C’est un tube, et non un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>it is a socket, not an ordinary file</source>
+        <translation>C’est un socket, et non un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>it is a device, not an ordinary file</source>
+        <translation>C’est un périphérique, et non un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>it is being changed by another program</source>
+        <translation>Un autre programme est en train de modifier le fichier.</translation>
+    </message>
+    <message>
+        <source>only local files can be opened</source>
+        <translation>Seuls les fichiers locaux peuvent être ouverts.</translation>
+    </message>
+    <message>
+        <source>this type of document cannot be shown</source>
+        <translation>Ce type de document ne peut pas être affiché.</translation>
+    </message>
+    <message>
+        <source>this is not an EPS, Illustrator, PDF or SVG picture</source>
+        <translation>Ce n’est pas une image EPS, Illustrator, PDF ou SVG.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript</source>
+        <translation>Ce n’est pas du PostScript encapsulé.</translation>
+    </message>
+    <message>
+        <source>the PostScript header states no usable bounding box</source>
+        <translation>L’en-tête PostScript n’indique pas de BoundingBox utilisable.</translation>
+    </message>
+    <message>
+        <source>the PostScript has no usable bounding box</source>
+        <translation>Le PostScript n’a pas de BoundingBox utilisable.</translation>
+    </message>
+    <message>
+        <source>the file holds no PostScript</source>
+        <translation>Le fichier ne contient pas de PostScript.</translation>
+    </message>
+    <message>
+        <source>the picture has no area to be drawn</source>
+        <translation>L’image n’a pas de surface à dessiner.</translation>
+    </message>
+    <message>
+        <source>the SVG document has no area</source>
+        <translation>Le document SVG n’a pas de surface.</translation>
+    </message>
+    <message>
+        <source>the picture is empty: its width or height is zero</source>
+        <translation>L’image est vide : sa largeur ou sa hauteur est nulle.</translation>
+    </message>
+    <message>
+        <source>the file is cut off: %1 of the %2 bytes of %3 are missing</source>
+        <translation>Le fichier est tronqué : il manque %1 octets sur %2 (%3).</translation>
+    </message>
+    <message>
+        <source>the file seems cut off: its PostScript stops before its end</source>
+        <translation>Le fichier semble tronqué : son PostScript s’arrête avant la fin.</translation>
+    </message>
+    <message>
+        <source>the file is damaged; it was repaired as far as possible</source>
+        <translation>Le fichier est endommagé ; il a été réparé autant que possible.</translation>
+    </message>
+    <message>
+        <source>the file is damaged; nothing of %1 can be read</source>
+        <translation>Le fichier est endommagé ; rien n’est lisible (%1).</translation>
+    </message>
+    <message>
+        <source>the document is damaged and cannot be read as PDF</source>
+        <translation>Le document est endommagé et ne peut pas être lu comme PDF.</translation>
+    </message>
+    <message>
+        <source>the document is not a readable PDF</source>
+        <translation>Le document n’est pas un PDF lisible.</translation>
+    </message>
+    <message>
+        <source>the document is protected with a password</source>
+        <translation>Le document est protégé par un mot de passe.</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>Le mot de passe est incorrect.</translation>
+    </message>
+    <message>
+        <source>the document uses an encryption that is not supported</source>
+        <translation>Le document utilise un chiffrement qui n’est pas pris en charge.</translation>
+    </message>
+    <message>
+        <source>the document has no pages</source>
+        <translation>Le document n’a pas de pages.</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 pages</source>
+        <translation>Le document a plus de %1 pages.</translation>
+    </message>
+    <message>
+        <source>there is no page %1; the document has %2</source>
+        <translation>Il n’y a pas de page %1 ; le document en a %2.</translation>
+    </message>
+    <message>
+        <source>there is no page %1, the document has %2</source>
+        <translation>Il n’y a pas de page %1 ; le document en a %2.</translation>
+    </message>
+    <message>
+        <source>page %1 is too far behind</source>
+        <translation>La page %1 est trop loin.</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>La page %1 n’a pas de surface.</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be read</source>
+        <translation>La page %1 ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
+        <translation>Ce fichier Illustrator a été enregistré sans contenu PDF ; il affiche donc un avis à la place du dessin.</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption, and what is made of it is not</source>
+        <translation>Le document est protégé par chiffrement ; ce qui en est tiré ne l’est pas.</translation>
+    </message>
+    <message>
+        <source>scripts of the document were left out</source>
+        <translation>Les scripts du document ont été omis.</translation>
+    </message>
+    <message>
+        <source>the PostScript program stops with an error</source>
+        <translation>Le programme PostScript s’arrête sur une erreur.</translation>
+    </message>
+    <message>
+        <source>the PostScript program tries to use a file, which no picture may</source>
+        <translation>Le programme PostScript tente d’utiliser un fichier, ce qu’aucune image n’a le droit de faire.</translation>
+    </message>
+    <message>
+        <source>the PostScript draws no page</source>
+        <translation>Le PostScript ne dessine aucune page.</translation>
+    </message>
+    <message>
+        <source>the PostScript did not end within %1 seconds</source>
+        <translation>Le PostScript ne s’est pas terminé en %1 secondes.</translation>
+    </message>
+    <message>
+        <source>the PostScript needs more memory than it was granted</source>
+        <translation>Le PostScript demande plus de mémoire qu’il ne lui est accordé.</translation>
+    </message>
+    <message>
+        <source>the PostScript used up the time or memory that it was granted</source>
+        <translation>Le PostScript a épuisé le temps ou la mémoire qui lui sont accordés.</translation>
+    </message>
+    <message>
+        <source>what follows the picture in the file was left out</source>
+        <translation>Ce qui suit l’image dans le fichier a été omis.</translation>
+    </message>
+    <message>
+        <source>there is no interpreter of PostScript</source>
+        <translation>Il n’y a pas d’interpréteur PostScript.</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript has ended</source>
+        <translation>L’interpréteur PostScript s’est arrêté.</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript cannot be reached</source>
+        <translation>L’interpréteur PostScript est injoignable.</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) is not installed</source>
+        <translation>Ghostscript (gs) n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>Ghostscript failed on the PostScript</source>
+        <translation>Ghostscript a échoué sur ce PostScript.</translation>
+    </message>
+    <message>
+        <source>the document is empty</source>
+        <translation>Le document est vide.</translation>
+    </message>
+    <message>
+        <source>the document is not XML</source>
+        <translation>Le document n’est pas du XML.</translation>
+    </message>
+    <message>
+        <source>the document is XML but not SVG</source>
+        <translation>Le document est du XML, mais pas du SVG.</translation>
+    </message>
+    <message>
+        <source>the document is not well-formed XML</source>
+        <translation>Le document n’est pas du XML bien formé.</translation>
+    </message>
+    <message>
+        <source>the compressed data is damaged</source>
+        <translation>Les données compressées sont endommagées.</translation>
+    </message>
+    <message>
+        <source>the compressed data is cut off</source>
+        <translation>Les données compressées sont tronquées.</translation>
+    </message>
+    <message>
+        <source>the compressed data grows to more than %1 times its size</source>
+        <translation>Les données compressées grossissent plus de %1 fois.</translation>
+    </message>
+    <message>
+        <source>the compressed data holds more than %1 MiB</source>
+        <translation>Les données compressées contiennent plus de %1 Mio.</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 elements</source>
+        <translation>Le document a plus de %1 éléments.</translation>
+    </message>
+    <message>
+        <source>the elements of the document nest more than %1 deep</source>
+        <translation>Les éléments du document sont imbriqués sur plus de %1 niveaux.</translation>
+    </message>
+    <message>
+        <source>the references of the document nest more than %1 deep</source>
+        <translation>Les références du document sont imbriquées sur plus de %1 niveaux.</translation>
+    </message>
+    <message>
+        <source>the document uses entities more than %1 times</source>
+        <translation>Le document utilise des entités plus de %1 fois.</translation>
+    </message>
+    <message>
+        <source>the entities of the document expand to more than %1 MiB</source>
+        <translation>Les entités du document dépassent %1 Mio une fois développées.</translation>
+    </message>
+    <message>
+        <source>the entities of the document refer to one another without end</source>
+        <translation>Les entités du document se renvoient l’une à l’autre sans fin.</translation>
+    </message>
+    <message>
+        <source>the picture is wider or higher than %1 points</source>
+        <translation>L’image est plus large ou plus haute que %1 points.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>L’image ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>the picture holds something that cannot be drawn</source>
+        <translation>L’image contient quelque chose qui ne peut pas être dessiné.</translation>
+    </message>
+    <message>
+        <source>the encoding %1 is not known</source>
+        <translation>L’encodage %1 n’est pas connu.</translation>
+    </message>
+    <message>
+        <source>the bytes are not text in the encoding %1</source>
+        <translation>Les octets ne sont pas du texte dans l’encodage %1.</translation>
+    </message>
+    <message>
+        <source>the document refers to other files, which are never loaded (references: %1)</source>
+        <translation>Le document renvoie à d’autres fichiers, qui ne sont jamais chargés (références : %1).</translation>
+    </message>
+    <message>
+        <source>the document has scripts, which are never run</source>
+        <translation>Le document contient des scripts, qui ne sont jamais exécutés.</translation>
+    </message>
+    <message>
+        <source>the document is animated and is shown as it stands at rest</source>
+        <translation>Le document est animé ; il est affiché au repos.</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, another stands in for it</source>
+        <translation>La police %1 manque ; une autre la remplace.</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, %2 stands in for it</source>
+        <translation>La police %1 manque ; %2 la remplace.</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within %1 seconds</source>
+        <translation>L’image n’était pas prête au bout de %1 secondes.</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within the time that it is allowed</source>
+        <translation>L’image n’était pas prête dans le temps qui lui est accordé.</translation>
+    </message>
+    <message>
+        <source>the picture needs more memory than it is allowed</source>
+        <translation>L’image demande plus de mémoire qu’il ne lui est permis.</translation>
+    </message>
+    <message>
+        <source>the picture needs more processor time than it is allowed</source>
+        <translation>L’image demande plus de temps de calcul qu’il ne lui est permis.</translation>
+    </message>
+    <message>
+        <source>the picture needs more temporary files than it is allowed</source>
+        <translation>L’image demande plus de fichiers temporaires qu’il ne lui est permis.</translation>
+    </message>
+    <message>
+        <source>the picture nests deeper than can be drawn</source>
+        <translation>L’image est imbriquée plus profondément qu’on ne peut la dessiner.</translation>
+    </message>
+    <message>
+        <source>the picture is larger than the memory that it was granted</source>
+        <translation>L’image est plus grande que la mémoire qui lui est accordée.</translation>
+    </message>
+    <message>
+        <source>the picture would have more pixels than it is allowed</source>
+        <translation>L’image aurait plus de pixels qu’il ne lui est permis.</translation>
+    </message>
+    <message>
+        <source>the image would have a side of more than %1 pixels</source>
+        <translation>Un côté de l’image dépasserait %1 pixels.</translation>
+    </message>
+    <message>
+        <source>the image would have more than %1 megapixels</source>
+        <translation>L’image dépasserait %1 mégapixels.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the picture</source>
+        <translation>Il n’y a pas assez de mémoire pour l’image.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the document</source>
+        <translation>Il n’y a pas assez de mémoire pour le document.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to draw the picture</source>
+        <translation>Il n’y a pas assez de mémoire pour dessiner l’image.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the document</source>
+        <translation>Il n’y a pas assez de mémoire pour lire le document.</translation>
+    </message>
+    <message>
+        <source>the picture is larger than files may become here</source>
+        <translation>L’image dépasse la taille que les fichiers peuvent atteindre ici.</translation>
+    </message>
+    <message>
+        <source>too many files are open for another picture</source>
+        <translation>Trop de fichiers sont ouverts pour une image de plus.</translation>
+    </message>
+    <message>
+        <source>the picture process ended without an answer</source>
+        <translation>Le processus d’image s’est terminé sans répondre.</translation>
+    </message>
+    <message>
+        <source>the picture process did not answer in time</source>
+        <translation>Le processus d’image n’a pas répondu à temps.</translation>
+    </message>
+    <message>
+        <source>the picture process was killed by the system, which has probably run out of memory</source>
+        <translation>Le système a mis fin au processus d’image, sans doute faute de mémoire.</translation>
+    </message>
+    <message>
+        <source>the picture process gave an answer that cannot be true</source>
+        <translation>Le processus d’image a donné une réponse qui ne peut pas être vraie.</translation>
+    </message>
+    <message>
+        <source>no process for the picture could be started</source>
+        <translation>Aucun processus n’a pu être lancé pour l’image.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures could not be started</source>
+        <translation>Le programme qui lit les images n’a pas pu être lancé.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has ended</source>
+        <translation>Le programme qui lit les images s’est arrêté.</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has not answered yet</source>
+        <translation>Le programme qui lit les images n’a pas encore répondu.</translation>
+    </message>
+    <message>
+        <source>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</source>
+        <translation>Le processus d’image n’a pas pu être confiné : ce système n’offre ni Landlock, ni espaces de noms d’utilisateur avec filtres seccomp.</translation>
+    </message>
+    <message>
+        <source>the drawing was stopped</source>
+        <translation>Le dessin a été arrêté.</translation>
+    </message>
+    <message>
+        <source>the picture could not be processed</source>
+        <translation>L’image n’a pas pu être traitée.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn at this size</source>
+        <translation>L’image ne peut pas être dessinée à cette taille.</translation>
+    </message>
+    <message>
+        <source>the file exists already</source>
+        <translation>Le fichier existe déjà.</translation>
+    </message>
+    <message>
+        <source>the folder to write to does not exist</source>
+        <translation>Le dossier de destination n’existe pas.</translation>
+    </message>
+    <message>
+        <source>there is a folder of that name</source>
+        <translation>Un dossier porte ce nom.</translation>
+    </message>
+    <message>
+        <source>there is no space left to write to</source>
+        <translation>Il n’y a plus de place pour écrire.</translation>
+    </message>
+    <message>
+        <source>writing there is not permitted</source>
+        <translation>Il n’est pas permis d’y écrire.</translation>
+    </message>
+    <message>
+        <source>the file could not be written (%1)</source>
+        <translation>Le fichier n’a pas pu être écrit (%1).</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file</source>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>Le fichier est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>the rectangle is empty or out of range</source>
+        <translation>Le rectangle est vide ou hors limites.</translation>
+    </message>
+    <message>
+        <source>no profile of a press is installed (%1)</source>
+        <translation>Aucun profil de presse n’est installé (%1).</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as PostScript</source>
+        <translation>La page ne peut pas être écrite en PostScript.</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as SVG</source>
+        <translation>La page ne peut pas être écrite en SVG.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written as PDF</source>
+        <translation>L’image ne peut pas être écrite en PDF.</translation>
+    </message>
+    <message>
+        <source>the page is too large or too deeply nested to become SVG</source>
+        <translation>La page est trop grande ou trop imbriquée pour devenir du SVG.</translation>
+    </message>
+    <message>
+        <source>only EPS files can be repaired</source>
+        <translation>Seuls les fichiers EPS peuvent être réparés.</translation>
+    </message>
+    <message>
+        <source>an SVG picture has no inks: its colours are those of a screen</source>
+        <translation>Une image SVG n’a pas d’encres : ses couleurs sont celles d’un écran.</translation>
+    </message>
+    <message>
+        <source>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</source>
+        <translation>À %1 ppp, une plaque a %2 millions de pixels ; %3 millions au plus sont possibles.</translation>
+    </message>
+    <message>
+        <source>the print service cannot be reached</source>
+        <translation>Le service d’impression est injoignable.</translation>
+    </message>
+    <message>
+        <source>the print service does not answer</source>
+        <translation>Le service d’impression ne répond pas.</translation>
+    </message>
+    <message>
+        <source>there is no printer</source>
+        <translation>Il n’y a pas d’imprimante.</translation>
+    </message>
+    <message>
+        <source>no printer is the default one</source>
+        <translation>Aucune imprimante n’est définie par défaut.</translation>
+    </message>
+    <message>
+        <source>there is no printer named “%1”</source>
+        <translation>Il n’y a pas d’imprimante « %1 ».</translation>
+    </message>
+    <message>
+        <source>the printer “%1” takes no jobs</source>
+        <translation>L’imprimante « %1 » n’accepte pas de travaux.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” is not open to this user</source>
+        <translation>L’imprimante « %1 » n’est pas ouverte à cet utilisateur.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” wants a user name and a password, which are not asked for here</source>
+        <translation>L’imprimante « %1 » veut un nom d’utilisateur et un mot de passe, qui ne sont pas demandés ici.</translation>
+    </message>
+    <message>
+        <source>the printer “%1” did not take the job: %2</source>
+        <translation>L’imprimante « %1 » n’a pas pris le travail : %2.</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and only the first %2 of them can be printed</source>
+        <translation>Le document a %1 pages, et seules les %2 premières peuvent être imprimées.</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the document has %1</source>
+        <translation>Ces pages n’existent pas : le document en a %1.</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the picture takes %1</source>
+        <translation>Ces pages n’existent pas : l’image en occupe %1.</translation>
+    </message>
+    <message>
+        <source>the pages would take more than %1 sheets of paper</source>
+        <translation>Les pages prendraient plus de %1 feuilles.</translation>
+    </message>
+    <message>
+        <source>the picture would take more than %1 sheets of paper</source>
+        <translation>L’image prendrait plus de %1 feuilles.</translation>
+    </message>
+    <message>
+        <source>the margins leave no room on the paper</source>
+        <translation>Les marges ne laissent pas de place sur le papier.</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Le fichier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>L’accès n’est pas permis.</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Erreur de lecture ou d’écriture du périphérique.</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Trop de fichiers sont ouverts.</translation>
+    </message>
+    <message>
+        <source>its PostScript</source>
+        <translation>son PostScript</translation>
+    </message>
+    <message>
+        <source>its preview</source>
+        <translation>son aperçu</translation>
+    </message>
+    <message>
+        <source>its page</source>
+        <translation>sa page</translation>
+    </message>
+    <message>
+        <source>its pages</source>
+        <translation>ses pages</translation>
+    </message>
+    <message>
+        <source>no reason is given</source>
+        <translation>sans motif indiqué</translation>
+    </message>
+    <message>
+        <source>actions that start programs or open other files were left out</source>
+        <translation>Les actions qui lancent des programmes ou ouvrent d’autres fichiers ont été omises.</translation>
+    </message>
+    <message>
+        <source>what the document does when it is opened was left out</source>
+        <translation>Ce que le document fait à l’ouverture a été omis.</translation>
+    </message>
+    <message>
+        <source>references to files beside the document were left out</source>
+        <translation>Les renvois à des fichiers extérieurs au document ont été omis.</translation>
+    </message>
+    <message>
+        <source>PostScript programs that the document holds were left out</source>
+        <translation>Les programmes PostScript contenus dans le document ont été omis.</translation>
+    </message>
+    <message>
+        <source>a font cannot be taken over; another stands in for it</source>
+        <translation>Une police ne peut pas être reprise ; une autre la remplace.</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be taken over; another stands in for it</source>
+        <translation>La police %1 ne peut pas être reprise ; une autre la remplace.</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript, so the file holds a preview and nothing else</source>
+        <translation>La source n’a pas de PostScript ; le fichier ne contient qu’un aperçu.</translation>
+    </message>
+    <message>
+        <source>the picture gives no PostScript, so the file holds a preview and nothing else</source>
+        <translation>L’image ne donne pas de PostScript ; le fichier ne contient qu’un aperçu.</translation>
+    </message>
+    <message>
+        <source>the PDF has no subject, because the document has a description but no title</source>
+        <translation>Le PDF n’a pas de sujet, car le document a une description mais pas de titre.</translation>
+    </message>
+    <message>
+        <source>the preview could not be written as TIFF</source>
+        <translation>L’aperçu n’a pas pu être écrit en TIFF.</translation>
+    </message>
+    <message>
+        <source>the result could not be opened again: %1</source>
+        <translation>Le résultat n’a pas pu être rouvert : %1.</translation>
+    </message>
+    <message>
+        <source>an image with more pixels than are granted was left out</source>
+        <translation>Une image de plus de pixels qu’il n’est permis a été omise.</translation>
+    </message>
+    <message>
+        <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
+        <translation>Du texte reste en tracés : c’est un trait ou un masque, ou sa police ne peut ou ne doit pas être incorporée.</translation>
+    </message>
+    <message>
+        <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
+        <translation>Le document ne dit pas ce que sont certains caractères : ils sont affichés, mais aucune recherche ne les trouve.</translation>
+    </message>
+    <message>
+        <source>what is drawn through a filter (elements: %1) is held as an image</source>
+        <translation>Ce qui est dessiné à travers un filtre (éléments : %1) est conservé en image.</translation>
+    </message>
+    <message>
+        <source>masks (elements: %1) are held as images, what they mask is not</source>
+        <translation>Les masques (éléments : %1) sont conservés en images, pas ce qu’ils masquent.</translation>
+    </message>
+    <message>
+        <source>the text is in %1 and is handed on as UTF-8</source>
+        <translation>Le texte est en %1 et il est transmis en UTF-8.</translation>
+    </message>
+    <message>
+        <source>the document's width or height is not a length and is passed over</source>
+        <translation>La largeur ou la hauteur du document n’est pas une longueur et est ignorée.</translation>
+    </message>
+    <message>
+        <source>the document's view box is not readable and is passed over</source>
+        <translation>La viewBox du document n’est pas lisible et est ignorée.</translation>
+    </message>
+    <message>
+        <source>it draws nothing and states no bounding box</source>
+        <translation>Il ne dessine rien et n’indique pas de BoundingBox.</translation>
+    </message>
+    <message>
+        <source>it cannot be mended: %1</source>
+        <translation>Il ne peut pas être réparé : %1.</translation>
+    </message>
+    <message>
+        <source>the program was taken out of %1</source>
+        <translation>Le programme a été extrait de %1.</translation>
+    </message>
+    <message>
+        <source>the program was taken out of its binary file</source>
+        <translation>Le programme a été extrait de son fichier binaire.</translation>
+    </message>
+    <message>
+        <source>the preview was left out</source>
+        <translation>L’aperçu a été omis.</translation>
+    </message>
+    <message>
+        <source>the Windows metafile was left out</source>
+        <translation>Le métafichier Windows a été omis.</translation>
+    </message>
+    <message>
+        <source>a preview of %1 by %2 pixels was made</source>
+        <translation>Un aperçu de %1 × %2 pixels a été créé.</translation>
+    </message>
+    <message>
+        <source>the first line is %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>La première ligne est %!PS-Adobe-3.0 EPSF-3.0.</translation>
+    </message>
+    <message>
+        <source>%%EndComments was put in</source>
+        <translation>%%EndComments a été inséré.</translation>
+    </message>
+    <message>
+        <source>a second %%EndComments was left out</source>
+        <translation>Un second %%EndComments a été omis.</translation>
+    </message>
+    <message>
+        <source>showpage was put in</source>
+        <translation>showpage a été inséré.</translation>
+    </message>
+    <message>
+        <source>%%EOF was put in</source>
+        <translation>%%EOF a été inséré.</translation>
+    </message>
+    <message>
+        <source>the box at the end of the file stands in its header</source>
+        <translation>Le cadre de la fin du fichier est dans son en-tête.</translation>
+    </message>
+    <message>
+        <source>the bounding box is %1 (%2)</source>
+        <translation>Le BoundingBox est %1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 was left out, because it stood out of order</source>
+        <translation>%1 a été omis, car il n’était pas à sa place.</translation>
+    </message>
+    <message>
+        <source>the document is larger than %1 MiB</source>
+        <translation>Le document dépasse %1 Mio.</translation>
+    </message>
+    <message>
+        <source>the compressed data is larger than %1 MiB</source>
+        <translation>Les données compressées dépassent %1 Mio.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to inflate the data</source>
+        <translation>Il n’y a pas assez de mémoire pour décompresser les données.</translation>
+    </message>
+    <message>
+        <source>the document has a filter with a matrix of more than %1 numbers</source>
+        <translation>Le document a un filtre dont la matrice dépasse %1 nombres.</translation>
+    </message>
+    <message>
+        <source>the selectors of the document's style sheets nest more than %1 deep</source>
+        <translation>Les sélecteurs des feuilles de style du document sont imbriqués sur plus de %1 niveaux.</translation>
+    </message>
+    <message>
+        <source>the document has text of more than %1 units in size</source>
+        <translation>Le document a du texte de plus de %1 unités de taille.</translation>
+    </message>
+    <message>
+        <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
+        <translation>Les plaques de la page ont trop de pixels ; une résolution plus basse aide.</translation>
+    </message>
+    <message>
+        <source>Ghostscript did not separate the page</source>
+        <translation>Ghostscript n’a pas séparé la page.</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) cannot be started</source>
+        <translation>Ghostscript (gs) ne peut pas être lancé.</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript could not be confined</source>
+        <translation>L’interpréteur PostScript n’a pas pu être confiné.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1" instead of four numbers</source>
+        <translation>%%BoundingBox contient « %1 » au lieu de quatre nombres.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
+        <translation>%%BoundingBox contient « %1 », qui ne sont pas tous des nombres entiers.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 n’englobe pas %%HiResBoundingBox %2.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 est bien plus grand que %%HiResBoundingBox %2.</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox is promised for the end and does not come</source>
+        <translation>%%BoundingBox est annoncé pour la fin et n’y est pas.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 has no area</source>
+        <translation>Le BoundingBox %1 n’a pas de surface.</translation>
+    </message>
+    <message>
+        <source>nothing but white is drawn inside the bounding box</source>
+        <translation>Rien d’autre que du blanc n’est dessiné dans le BoundingBox.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
+        <translation>Le BoundingBox %1 coupe le dessin, qui le dépasse de %2 pt : %3.</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 is more than twice as large as the ink: %2</source>
+        <translation>Le BoundingBox %1 est plus de deux fois plus grand que le dessin : %2.</translation>
+    </message>
+    <message>
+        <source>the %1 section ends at byte %2, the file at byte %3</source>
+        <translation>La section %1 finit à l’octet %2, le fichier à l’octet %3.</translation>
+    </message>
+    <message>
+        <source>the %1 section lies over another part of the file</source>
+        <translation>La section %1 recouvre une autre partie du fichier.</translation>
+    </message>
+    <message>
+        <source>bytes before %!PS-Adobe: %1</source>
+        <translation>Octets avant %!PS-Adobe : %1.</translation>
+    </message>
+    <message>
+        <source>bytes behind %%EOF: %1</source>
+        <translation>Octets après %%EOF : %1.</translation>
+    </message>
+    <message>
+        <source>the file needs fonts that it does not bring: %1</source>
+        <translation>Le fichier a besoin de polices qu’il n’apporte pas : %1.</translation>
+    </message>
+    <message>
+        <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
+        <translation>L’aperçu mesure %1 × %2 pixels, le BoundingBox %3 × %4 points.</translation>
+    </message>
+    <message>
+        <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
+        <translation>L’aperçu montre une autre image que celle que dessine le programme (différence moyenne : %1 %).</translation>
+    </message>
+    <message>
+        <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>La première ligne « %1 » ne dit pas %!PS-Adobe-3.0 EPSF-3.0.</translation>
+    </message>
+    <message>
+        <source>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</source>
+        <translation>La première ligne déclare PS-Adobe-%1 et EPSF-%2, qui n’existent pas.</translation>
+    </message>
+    <message>
+        <source>the header has no %%EndComments</source>
+        <translation>L’en-tête n’a pas de %%EndComments.</translation>
+    </message>
+    <message>
+        <source>%%EndComments stands behind the first line that is no comment</source>
+        <translation>%%EndComments se trouve après la première ligne qui n’est pas un commentaire.</translation>
+    </message>
+    <message>
+        <source>lines of more than 255 bytes: %1, the first is line %2</source>
+        <translation>Lignes de plus de 255 octets : %1 ; la première est la ligne %2.</translation>
+    </message>
+    <message>
+        <source>lines end in %1 different ways</source>
+        <translation>Les lignes finissent de %1 façons différentes.</translation>
+    </message>
+    <message>
+        <source>a line is %1 pt thin, %2 pt are asked for</source>
+        <translation>Un trait a %1 pt d’épaisseur ; %2 pt sont demandés.</translation>
+    </message>
+    <message>
+        <source>a text is %1 pt small, %2 pt are asked for</source>
+        <translation>Un texte est en %1 pt ; %2 pt sont demandés.</translation>
+    </message>
+    <message>
+        <source>a colour takes %1 % of ink, %2 % are allowed</source>
+        <translation>Une couleur prend %1 % d’encre ; %2 % sont permis.</translation>
+    </message>
+    <message>
+        <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
+        <translation>L’image (%1) de %2 × %3 pixels a %4 ppp ; %5 sont demandés.</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>couleur</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>gris</translation>
+    </message>
+    <message>
+        <source>line art</source>
+        <translation>au trait</translation>
+    </message>
+    <message>
+        <source>there is the spot ink %1</source>
+        <translation>Il y a l’encre d’accompagnement %1.</translation>
+    </message>
+    <message>
+        <source>RGB colours stand beside CMYK colours</source>
+        <translation>Des couleurs RVB côtoient des couleurs CMJN.</translation>
+    </message>
+    <message>
+        <source>its permissions forbid %1</source>
+        <translation>Ses autorisations interdisent : %1.</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1</source>
+        <translation>Il déclare respecter %1.</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1 and has no output intent</source>
+        <translation>Il déclare respecter %1 et n’a pas d’intention de sortie.</translation>
+    </message>
+    <message>
+        <source>it refers to other files, which are never loaded (references: %1)</source>
+        <translation>Il renvoie à d’autres fichiers, qui ne sont jamais chargés (références : %1).</translation>
+    </message>
+    <message>
+        <source>elements drawn through filters become images in print: %1</source>
+        <translation>Éléments filtrés qui deviennent des images à l’impression : %1.</translation>
+    </message>
+    <message>
+        <source>something is drawn up to %1 pt outside the page</source>
+        <translation>Quelque chose est dessiné jusqu’à %1 pt hors de la page.</translation>
+    </message>
+    <message>
+        <source>only the first %1 pages were looked at</source>
+        <translation>Seules les %1 premières pages ont été examinées.</translation>
+    </message>
+    <message>
+        <source>the picture is %1 mm wide, columns are %2 mm</source>
+        <translation>L’image mesure %1 mm de large, les colonnes %2 mm.</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1</source>
+        <translation>Le fichier est emballé en %1.</translation>
+    </message>
+    <message>
+        <source>%1 takes language level %2, and the header declares %3</source>
+        <translation>%1 demande le niveau de langage %2, et l’en-tête déclare : %3.</translation>
+    </message>
+    <message>
+        <source>none above 1</source>
+        <translation>aucun au-dessus de 1</translation>
+    </message>
+    <message>
+        <source>%1 has no place in an EPS file</source>
+        <translation>%1 n’a pas sa place dans un fichier EPS.</translation>
+    </message>
+    <message>
+        <source>%1 is declared, and line %2 holds the byte %3</source>
+        <translation>%1 est déclaré, et la ligne %2 contient l’octet %3.</translation>
+    </message>
+    <message>
+        <source>%1 stands behind %2</source>
+        <translation>%1 se trouve après %2.</translation>
+    </message>
+</context>
 </TS>

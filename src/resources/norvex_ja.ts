@@ -2462,4 +2462,927 @@
         <translation>1600%</translation>
     </message>
 </context>
+<context>
+    <name>Sentences</name>
+    <message>
+        <source>the file is empty</source>
+        <translation>ファイルは空です。</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>ファイルが %1 MiB を超えています。</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>これはフォルダです。</translation>
+    </message>
+    <message>
+        <source>it is a pipe, not an ordinary file</source>
+        <translation>通常のファイルではなく、パイプです。</translation>
+    </message>
+    <message>
+        <source>it is a socket, not an ordinary file</source>
+        <translation>通常のファイルではなく、ソケットです。</translation>
+    </message>
+    <message>
+        <source>it is a device, not an ordinary file</source>
+        <translation>通常のファイルではなく、デバイスです。</translation>
+    </message>
+    <message>
+        <source>it is being changed by another program</source>
+        <translation>ほかのプログラムがファイルを変更しています。</translation>
+    </message>
+    <message>
+        <source>only local files can be opened</source>
+        <translation>開けるのはローカルのファイルだけです。</translation>
+    </message>
+    <message>
+        <source>this type of document cannot be shown</source>
+        <translation>この種類の書類は表示できません。</translation>
+    </message>
+    <message>
+        <source>this is not an EPS, Illustrator, PDF or SVG picture</source>
+        <translation>EPS、Illustrator、PDF、SVG の画像ではありません。</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript</source>
+        <translation>Encapsulated PostScript ではありません。</translation>
+    </message>
+    <message>
+        <source>the PostScript header states no usable bounding box</source>
+        <translation>PostScript のヘッダに使える BoundingBox がありません。</translation>
+    </message>
+    <message>
+        <source>the PostScript has no usable bounding box</source>
+        <translation>PostScript に使える BoundingBox がありません。</translation>
+    </message>
+    <message>
+        <source>the file holds no PostScript</source>
+        <translation>ファイルに PostScript がありません。</translation>
+    </message>
+    <message>
+        <source>the picture has no area to be drawn</source>
+        <translation>画像に描画できる面積がありません。</translation>
+    </message>
+    <message>
+        <source>the SVG document has no area</source>
+        <translation>SVG 書類に面積がありません。</translation>
+    </message>
+    <message>
+        <source>the picture is empty: its width or height is zero</source>
+        <translation>画像は空です（幅または高さが 0）。</translation>
+    </message>
+    <message>
+        <source>the file is cut off: %1 of the %2 bytes of %3 are missing</source>
+        <translation>ファイルが途中で切れています：%2 バイト中 %1 バイトが足りません（%3）。</translation>
+    </message>
+    <message>
+        <source>the file seems cut off: its PostScript stops before its end</source>
+        <translation>ファイルが途中で切れているようです。PostScript が終わりまでありません。</translation>
+    </message>
+    <message>
+        <source>the file is damaged; it was repaired as far as possible</source>
+        <translation>ファイルが壊れています。できる範囲で修復しました。</translation>
+    </message>
+    <message>
+        <source>the file is damaged; nothing of %1 can be read</source>
+        <translation>ファイルが壊れていて、読める部分がありません（%1）。</translation>
+    </message>
+    <message>
+        <source>the document is damaged and cannot be read as PDF</source>
+        <translation>書類が壊れていて、PDF として読めません。</translation>
+    </message>
+    <message>
+        <source>the document is not a readable PDF</source>
+        <translation>読める PDF ではありません。</translation>
+    </message>
+    <message>
+        <source>the document is protected with a password</source>
+        <translation>書類はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>パスワードが正しくありません。</translation>
+    </message>
+    <message>
+        <source>the document uses an encryption that is not supported</source>
+        <translation>対応していない方式で暗号化された書類です。</translation>
+    </message>
+    <message>
+        <source>the document has no pages</source>
+        <translation>書類にページがありません。</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 pages</source>
+        <translation>書類のページ数が %1 を超えています。</translation>
+    </message>
+    <message>
+        <source>there is no page %1; the document has %2</source>
+        <translation>%1 ページはありません。書類は全 %2 ページです。</translation>
+    </message>
+    <message>
+        <source>there is no page %1, the document has %2</source>
+        <translation>%1 ページはありません。書類は全 %2 ページです。</translation>
+    </message>
+    <message>
+        <source>page %1 is too far behind</source>
+        <translation>%1 ページは後ろすぎて扱えません。</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>%1 ページに面積がありません。</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be read</source>
+        <translation>%1 ページを読めません。</translation>
+    </message>
+    <message>
+        <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
+        <translation>この Illustrator ファイルは PDF を含めずに保存されたため、絵の代わりに注意書きが表示されます。</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption, and what is made of it is not</source>
+        <translation>書類は暗号化で保護されていますが、ここから作られるものは保護されません。</translation>
+    </message>
+    <message>
+        <source>scripts of the document were left out</source>
+        <translation>書類のスクリプトは省かれました。</translation>
+    </message>
+    <message>
+        <source>the PostScript program stops with an error</source>
+        <translation>PostScript プログラムがエラーで止まります。</translation>
+    </message>
+    <message>
+        <source>the PostScript program tries to use a file, which no picture may</source>
+        <translation>PostScript プログラムがファイルを使おうとしました。画像には許されていません。</translation>
+    </message>
+    <message>
+        <source>the PostScript draws no page</source>
+        <translation>PostScript がページを描きません。</translation>
+    </message>
+    <message>
+        <source>the PostScript did not end within %1 seconds</source>
+        <translation>PostScript が %1 秒以内に終わりませんでした。</translation>
+    </message>
+    <message>
+        <source>the PostScript needs more memory than it was granted</source>
+        <translation>PostScript に、許された以上のメモリが必要です。</translation>
+    </message>
+    <message>
+        <source>the PostScript used up the time or memory that it was granted</source>
+        <translation>PostScript が、許された時間またはメモリを使い切りました。</translation>
+    </message>
+    <message>
+        <source>what follows the picture in the file was left out</source>
+        <translation>ファイルの中で画像の後に続くものは省かれました。</translation>
+    </message>
+    <message>
+        <source>there is no interpreter of PostScript</source>
+        <translation>PostScript インタプリタがありません。</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript has ended</source>
+        <translation>PostScript インタプリタが終了しました。</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript cannot be reached</source>
+        <translation>PostScript インタプリタに接続できません。</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) is not installed</source>
+        <translation>Ghostscript (gs) がインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Ghostscript failed on the PostScript</source>
+        <translation>Ghostscript がこの PostScript を処理できませんでした。</translation>
+    </message>
+    <message>
+        <source>the document is empty</source>
+        <translation>書類は空です。</translation>
+    </message>
+    <message>
+        <source>the document is not XML</source>
+        <translation>書類は XML ではありません。</translation>
+    </message>
+    <message>
+        <source>the document is XML but not SVG</source>
+        <translation>書類は XML ですが SVG ではありません。</translation>
+    </message>
+    <message>
+        <source>the document is not well-formed XML</source>
+        <translation>書類は正しい形の XML ではありません。</translation>
+    </message>
+    <message>
+        <source>the compressed data is damaged</source>
+        <translation>圧縮データが壊れています。</translation>
+    </message>
+    <message>
+        <source>the compressed data is cut off</source>
+        <translation>圧縮データが途中で切れています。</translation>
+    </message>
+    <message>
+        <source>the compressed data grows to more than %1 times its size</source>
+        <translation>圧縮データを展開すると %1 倍を超える大きさになります。</translation>
+    </message>
+    <message>
+        <source>the compressed data holds more than %1 MiB</source>
+        <translation>圧縮データの中身が %1 MiB を超えています。</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 elements</source>
+        <translation>書類の要素が %1 個を超えています。</translation>
+    </message>
+    <message>
+        <source>the elements of the document nest more than %1 deep</source>
+        <translation>書類の要素の入れ子が %1 段を超えています。</translation>
+    </message>
+    <message>
+        <source>the references of the document nest more than %1 deep</source>
+        <translation>書類の参照の入れ子が %1 段を超えています。</translation>
+    </message>
+    <message>
+        <source>the document uses entities more than %1 times</source>
+        <translation>書類が実体参照を %1 回を超えて使っています。</translation>
+    </message>
+    <message>
+        <source>the entities of the document expand to more than %1 MiB</source>
+        <translation>書類の実体参照を展開すると %1 MiB を超えます。</translation>
+    </message>
+    <message>
+        <source>the entities of the document refer to one another without end</source>
+        <translation>書類の実体参照が互いを際限なく参照しています。</translation>
+    </message>
+    <message>
+        <source>the picture is wider or higher than %1 points</source>
+        <translation>画像の幅または高さが %1 ポイントを超えています。</translation>
+    </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>画像を読めません。</translation>
+    </message>
+    <message>
+        <source>the picture holds something that cannot be drawn</source>
+        <translation>画像に描画できないものが含まれています。</translation>
+    </message>
+    <message>
+        <source>the encoding %1 is not known</source>
+        <translation>エンコーディング %1 はわかりません。</translation>
+    </message>
+    <message>
+        <source>the bytes are not text in the encoding %1</source>
+        <translation>エンコーディング %1 の文字になっていません。</translation>
+    </message>
+    <message>
+        <source>the document refers to other files, which are never loaded (references: %1)</source>
+        <translation>書類がほかのファイルを参照していますが、読み込まれません（参照：%1）。</translation>
+    </message>
+    <message>
+        <source>the document has scripts, which are never run</source>
+        <translation>書類にスクリプトがありますが、実行されません。</translation>
+    </message>
+    <message>
+        <source>the document is animated and is shown as it stands at rest</source>
+        <translation>アニメーションのある書類です。止まった状態で表示しています。</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, another stands in for it</source>
+        <translation>フォント %1 がないため、別のフォントで代用しています。</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, %2 stands in for it</source>
+        <translation>フォント %1 がないため、%2 で代用しています。</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within %1 seconds</source>
+        <translation>画像が %1 秒以内にできませんでした。</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within the time that it is allowed</source>
+        <translation>画像が、許された時間内にできませんでした。</translation>
+    </message>
+    <message>
+        <source>the picture needs more memory than it is allowed</source>
+        <translation>画像に、許された以上のメモリが必要です。</translation>
+    </message>
+    <message>
+        <source>the picture needs more processor time than it is allowed</source>
+        <translation>画像に、許された以上の計算時間が必要です。</translation>
+    </message>
+    <message>
+        <source>the picture needs more temporary files than it is allowed</source>
+        <translation>画像に、許された以上の一時ファイルが必要です。</translation>
+    </message>
+    <message>
+        <source>the picture nests deeper than can be drawn</source>
+        <translation>画像の入れ子が深すぎて描画できません。</translation>
+    </message>
+    <message>
+        <source>the picture is larger than the memory that it was granted</source>
+        <translation>画像が、許されたメモリより大きいです。</translation>
+    </message>
+    <message>
+        <source>the picture would have more pixels than it is allowed</source>
+        <translation>画像のピクセル数が、許された数を超えます。</translation>
+    </message>
+    <message>
+        <source>the image would have a side of more than %1 pixels</source>
+        <translation>画像の一辺が %1 ピクセルを超えます。</translation>
+    </message>
+    <message>
+        <source>the image would have more than %1 megapixels</source>
+        <translation>画像が %1 メガピクセルを超えます。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the picture</source>
+        <translation>画像のためのメモリが足りません。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the document</source>
+        <translation>書類のためのメモリが足りません。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to draw the picture</source>
+        <translation>画像を描画するためのメモリが足りません。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the document</source>
+        <translation>書類を読むためのメモリが足りません。</translation>
+    </message>
+    <message>
+        <source>the picture is larger than files may become here</source>
+        <translation>画像が、ここで許されたファイルの大きさを超えています。</translation>
+    </message>
+    <message>
+        <source>too many files are open for another picture</source>
+        <translation>開いているファイルが多すぎて、これ以上画像を開けません。</translation>
+    </message>
+    <message>
+        <source>the picture process ended without an answer</source>
+        <translation>画像プロセスが応答せずに終了しました。</translation>
+    </message>
+    <message>
+        <source>the picture process did not answer in time</source>
+        <translation>画像プロセスが時間内に応答しませんでした。</translation>
+    </message>
+    <message>
+        <source>the picture process was killed by the system, which has probably run out of memory</source>
+        <translation>画像プロセスがシステムに終了させられました。おそらくメモリ不足です。</translation>
+    </message>
+    <message>
+        <source>the picture process gave an answer that cannot be true</source>
+        <translation>画像プロセスの応答に、ありえない内容がありました。</translation>
+    </message>
+    <message>
+        <source>no process for the picture could be started</source>
+        <translation>画像のためのプロセスを開始できませんでした。</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures could not be started</source>
+        <translation>画像を読むプログラムを開始できませんでした。</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has ended</source>
+        <translation>画像を読むプログラムが終了しました。</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has not answered yet</source>
+        <translation>画像を読むプログラムがまだ応答していません。</translation>
+    </message>
+    <message>
+        <source>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</source>
+        <translation>画像プロセスを隔離できませんでした。このシステムには Landlock も、seccomp フィルタ付きのユーザー名前空間もありません。</translation>
+    </message>
+    <message>
+        <source>the drawing was stopped</source>
+        <translation>描画を中止しました。</translation>
+    </message>
+    <message>
+        <source>the picture could not be processed</source>
+        <translation>画像を処理できませんでした。</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn at this size</source>
+        <translation>この大きさでは画像を描画できません。</translation>
+    </message>
+    <message>
+        <source>the file exists already</source>
+        <translation>ファイルはすでにあります。</translation>
+    </message>
+    <message>
+        <source>the folder to write to does not exist</source>
+        <translation>書き込み先のフォルダがありません。</translation>
+    </message>
+    <message>
+        <source>there is a folder of that name</source>
+        <translation>その名前のフォルダがあります。</translation>
+    </message>
+    <message>
+        <source>there is no space left to write to</source>
+        <translation>書き込む空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>writing there is not permitted</source>
+        <translation>そこに書き込む権限がありません。</translation>
+    </message>
+    <message>
+        <source>the file could not be written (%1)</source>
+        <translation>ファイルを書き込めませんでした（%1）。</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file</source>
+        <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>ファイルは読み出し専用です。</translation>
+    </message>
+    <message>
+        <source>the rectangle is empty or out of range</source>
+        <translation>長方形が空か、範囲の外です。</translation>
+    </message>
+    <message>
+        <source>no profile of a press is installed (%1)</source>
+        <translation>印刷機のプロファイルがインストールされていません（%1）。</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as PostScript</source>
+        <translation>ページを PostScript として書き出せません。</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as SVG</source>
+        <translation>ページを SVG として書き出せません。</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written as PDF</source>
+        <translation>画像を PDF として書き出せません。</translation>
+    </message>
+    <message>
+        <source>the page is too large or too deeply nested to become SVG</source>
+        <translation>ページが大きすぎるか入れ子が深すぎて SVG にできません。</translation>
+    </message>
+    <message>
+        <source>only EPS files can be repaired</source>
+        <translation>修復できるのは EPS ファイルだけです。</translation>
+    </message>
+    <message>
+        <source>an SVG picture has no inks: its colours are those of a screen</source>
+        <translation>SVG 画像にはインキがありません。色は画面のものです。</translation>
+    </message>
+    <message>
+        <source>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</source>
+        <translation>%1 dpi では版が %2 百万ピクセルになります。扱えるのは %3 百万までです。</translation>
+    </message>
+    <message>
+        <source>the print service cannot be reached</source>
+        <translation>プリントサービスに接続できません。</translation>
+    </message>
+    <message>
+        <source>the print service does not answer</source>
+        <translation>プリントサービスが応答しません。</translation>
+    </message>
+    <message>
+        <source>there is no printer</source>
+        <translation>プリンタがありません。</translation>
+    </message>
+    <message>
+        <source>no printer is the default one</source>
+        <translation>デフォルトのプリンタがありません。</translation>
+    </message>
+    <message>
+        <source>there is no printer named “%1”</source>
+        <translation>“%1”というプリンタはありません。</translation>
+    </message>
+    <message>
+        <source>the printer “%1” takes no jobs</source>
+        <translation>プリンタ“%1”はジョブを受け付けていません。</translation>
+    </message>
+    <message>
+        <source>the printer “%1” is not open to this user</source>
+        <translation>このユーザーはプリンタ“%1”を使えません。</translation>
+    </message>
+    <message>
+        <source>the printer “%1” wants a user name and a password, which are not asked for here</source>
+        <translation>プリンタ“%1”はユーザー名とパスワードを求めていますが、ここでは入力できません。</translation>
+    </message>
+    <message>
+        <source>the printer “%1” did not take the job: %2</source>
+        <translation>プリンタ“%1”がジョブを受け付けませんでした：%2</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and only the first %2 of them can be printed</source>
+        <translation>書類は %1 ページですが、プリントできるのは最初の %2 ページだけです。</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the document has %1</source>
+        <translation>そのページはありません。書類は全 %1 ページです。</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the picture takes %1</source>
+        <translation>そのページはありません。画像は全 %1 ページです。</translation>
+    </message>
+    <message>
+        <source>the pages would take more than %1 sheets of paper</source>
+        <translation>ページが用紙 %1 枚を超えます。</translation>
+    </message>
+    <message>
+        <source>the picture would take more than %1 sheets of paper</source>
+        <translation>画像が用紙 %1 枚を超えます。</translation>
+    </message>
+    <message>
+        <source>the margins leave no room on the paper</source>
+        <translation>余白のため用紙に場所がありません。</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>ファイルがありません。</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセス権がありません。</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>装置の読み書きでエラーが起きました。</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>開いているファイルが多すぎます。</translation>
+    </message>
+    <message>
+        <source>its PostScript</source>
+        <translation>PostScript の部分</translation>
+    </message>
+    <message>
+        <source>its preview</source>
+        <translation>プレビューの部分</translation>
+    </message>
+    <message>
+        <source>its page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>its pages</source>
+        <translation>すべてのページ</translation>
+    </message>
+    <message>
+        <source>no reason is given</source>
+        <translation>理由は示されていません。</translation>
+    </message>
+    <message>
+        <source>actions that start programs or open other files were left out</source>
+        <translation>プログラムを起動したりほかのファイルを開いたりするアクションは省かれました。</translation>
+    </message>
+    <message>
+        <source>what the document does when it is opened was left out</source>
+        <translation>書類を開いたときの動作は省かれました。</translation>
+    </message>
+    <message>
+        <source>references to files beside the document were left out</source>
+        <translation>書類の外にあるファイルへの参照は省かれました。</translation>
+    </message>
+    <message>
+        <source>PostScript programs that the document holds were left out</source>
+        <translation>書類に含まれる PostScript プログラムは省かれました。</translation>
+    </message>
+    <message>
+        <source>a font cannot be taken over; another stands in for it</source>
+        <translation>引き継げないフォントがあるため、別のフォントで代用しています。</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be taken over; another stands in for it</source>
+        <translation>フォント %1 を引き継げないため、別のフォントで代用しています。</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript, so the file holds a preview and nothing else</source>
+        <translation>元のファイルに PostScript がないため、ファイルにはプレビューだけが入ります。</translation>
+    </message>
+    <message>
+        <source>the picture gives no PostScript, so the file holds a preview and nothing else</source>
+        <translation>画像から PostScript を作れないため、ファイルにはプレビューだけが入ります。</translation>
+    </message>
+    <message>
+        <source>the PDF has no subject, because the document has a description but no title</source>
+        <translation>書類に説明はあってもタイトルがないため、PDF にサブタイトルがありません。</translation>
+    </message>
+    <message>
+        <source>the preview could not be written as TIFF</source>
+        <translation>プレビューを TIFF として書き出せませんでした。</translation>
+    </message>
+    <message>
+        <source>the result could not be opened again: %1</source>
+        <translation>できたものを開き直せませんでした：%1</translation>
+    </message>
+    <message>
+        <source>an image with more pixels than are granted was left out</source>
+        <translation>許された数を超えるピクセルの画像は省かれました。</translation>
+    </message>
+    <message>
+        <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
+        <translation>一部の文字はアウトラインのままです。線やクリップであるか、フォントを埋め込めないためです。</translation>
+    </message>
+    <message>
+        <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
+        <translation>何の文字か書類に示されていないものがあります。表示はされますが、検索では見つかりません。</translation>
+    </message>
+    <message>
+        <source>what is drawn through a filter (elements: %1) is held as an image</source>
+        <translation>フィルタを通して描かれるもの（要素：%1）は画像になります。</translation>
+    </message>
+    <message>
+        <source>masks (elements: %1) are held as images, what they mask is not</source>
+        <translation>マスク（要素：%1）は画像になります。マスクされるものはベクターのままです。</translation>
+    </message>
+    <message>
+        <source>the text is in %1 and is handed on as UTF-8</source>
+        <translation>文字は %1 です。UTF-8 として渡されます。</translation>
+    </message>
+    <message>
+        <source>the document's width or height is not a length and is passed over</source>
+        <translation>書類の幅または高さが長さになっていないため、無視します。</translation>
+    </message>
+    <message>
+        <source>the document's view box is not readable and is passed over</source>
+        <translation>書類の viewBox を読めないため、無視します。</translation>
+    </message>
+    <message>
+        <source>it draws nothing and states no bounding box</source>
+        <translation>何も描かず、BoundingBox もありません。</translation>
+    </message>
+    <message>
+        <source>it cannot be mended: %1</source>
+        <translation>修復できません：%1</translation>
+    </message>
+    <message>
+        <source>the program was taken out of %1</source>
+        <translation>プログラムを %1 から取り出しました。</translation>
+    </message>
+    <message>
+        <source>the program was taken out of its binary file</source>
+        <translation>プログラムをバイナリファイルから取り出しました。</translation>
+    </message>
+    <message>
+        <source>the preview was left out</source>
+        <translation>プレビューは省かれました。</translation>
+    </message>
+    <message>
+        <source>the Windows metafile was left out</source>
+        <translation>Windows メタファイルは省かれました。</translation>
+    </message>
+    <message>
+        <source>a preview of %1 by %2 pixels was made</source>
+        <translation>%1 × %2 ピクセルのプレビューを作りました。</translation>
+    </message>
+    <message>
+        <source>the first line is %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>最初の行を %!PS-Adobe-3.0 EPSF-3.0 にしました。</translation>
+    </message>
+    <message>
+        <source>%%EndComments was put in</source>
+        <translation>%%EndComments を入れました。</translation>
+    </message>
+    <message>
+        <source>a second %%EndComments was left out</source>
+        <translation>2 つ目の %%EndComments は省かれました。</translation>
+    </message>
+    <message>
+        <source>showpage was put in</source>
+        <translation>showpage を入れました。</translation>
+    </message>
+    <message>
+        <source>%%EOF was put in</source>
+        <translation>%%EOF を入れました。</translation>
+    </message>
+    <message>
+        <source>the box at the end of the file stands in its header</source>
+        <translation>ファイルの終わりにあった BoundingBox をヘッダに移しました。</translation>
+    </message>
+    <message>
+        <source>the bounding box is %1 (%2)</source>
+        <translation>BoundingBox は %1（%2）です。</translation>
+    </message>
+    <message>
+        <source>%1 was left out, because it stood out of order</source>
+        <translation>%1 は順序から外れているため省かれました。</translation>
+    </message>
+    <message>
+        <source>the document is larger than %1 MiB</source>
+        <translation>書類が %1 MiB を超えています。</translation>
+    </message>
+    <message>
+        <source>the compressed data is larger than %1 MiB</source>
+        <translation>圧縮データが %1 MiB を超えています。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to inflate the data</source>
+        <translation>データを展開するためのメモリが足りません。</translation>
+    </message>
+    <message>
+        <source>the document has a filter with a matrix of more than %1 numbers</source>
+        <translation>書類に、%1 個を超える数の行列を持つフィルタがあります。</translation>
+    </message>
+    <message>
+        <source>the selectors of the document's style sheets nest more than %1 deep</source>
+        <translation>書類のスタイルシートのセレクタの入れ子が %1 段を超えています。</translation>
+    </message>
+    <message>
+        <source>the document has text of more than %1 units in size</source>
+        <translation>書類に、%1 単位を超える大きさの文字があります。</translation>
+    </message>
+    <message>
+        <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
+        <translation>ページの版のピクセルが多すぎます。解像度を下げてください。</translation>
+    </message>
+    <message>
+        <source>Ghostscript did not separate the page</source>
+        <translation>Ghostscript がページを分版できませんでした。</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) cannot be started</source>
+        <translation>Ghostscript (gs) を起動できません。</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript could not be confined</source>
+        <translation>PostScript インタプリタを隔離できませんでした。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1" instead of four numbers</source>
+        <translation>%%BoundingBox の値が 4 つの数値ではなく“%1”です。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
+        <translation>%%BoundingBox の“%1”に整数でない値があります。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 が %%HiResBoundingBox %2 を囲んでいません。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 が %%HiResBoundingBox %2 よりはるかに大きい値です。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox is promised for the end and does not come</source>
+        <translation>%%BoundingBox は終わりにあるはずですが、ありません。</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 has no area</source>
+        <translation>BoundingBox %1 に面積がありません。</translation>
+    </message>
+    <message>
+        <source>nothing but white is drawn inside the bounding box</source>
+        <translation>BoundingBox の中には白しか描かれていません。</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
+        <translation>BoundingBox %1 が絵を切っています。絵は %2 pt はみ出しています：%3</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 is more than twice as large as the ink: %2</source>
+        <translation>BoundingBox %1 は絵の 2 倍を超える大きさです：%2</translation>
+    </message>
+    <message>
+        <source>the %1 section ends at byte %2, the file at byte %3</source>
+        <translation>%1 の部分は %2 バイト目で終わりますが、ファイルは %3 バイトです。</translation>
+    </message>
+    <message>
+        <source>the %1 section lies over another part of the file</source>
+        <translation>%1 の部分がファイルのほかの部分と重なっています。</translation>
+    </message>
+    <message>
+        <source>bytes before %!PS-Adobe: %1</source>
+        <translation>%!PS-Adobe の前のバイト数：%1</translation>
+    </message>
+    <message>
+        <source>bytes behind %%EOF: %1</source>
+        <translation>%%EOF の後のバイト数：%1</translation>
+    </message>
+    <message>
+        <source>the file needs fonts that it does not bring: %1</source>
+        <translation>ファイルに含まれていないフォントが必要です：%1</translation>
+    </message>
+    <message>
+        <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
+        <translation>プレビューは %1 × %2 ピクセル、BoundingBox は %3 × %4 ポイントです。</translation>
+    </message>
+    <message>
+        <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
+        <translation>プレビューが、プログラムの描く画像と違います（平均の差 %1 %）。</translation>
+    </message>
+    <message>
+        <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>最初の行“%1”が %!PS-Adobe-3.0 EPSF-3.0 ではありません。</translation>
+    </message>
+    <message>
+        <source>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</source>
+        <translation>最初の行に、存在しない PS-Adobe-%1 と EPSF-%2 とあります。</translation>
+    </message>
+    <message>
+        <source>the header has no %%EndComments</source>
+        <translation>ヘッダに %%EndComments がありません。</translation>
+    </message>
+    <message>
+        <source>%%EndComments stands behind the first line that is no comment</source>
+        <translation>%%EndComments が、コメントでない最初の行より後にあります。</translation>
+    </message>
+    <message>
+        <source>lines of more than 255 bytes: %1, the first is line %2</source>
+        <translation>255 バイトを超える行：%1 行。最初は %2 行目です。</translation>
+    </message>
+    <message>
+        <source>lines end in %1 different ways</source>
+        <translation>改行の種類が %1 種類あります。</translation>
+    </message>
+    <message>
+        <source>a line is %1 pt thin, %2 pt are asked for</source>
+        <translation>線の太さが %1 pt です。%2 pt が求められています。</translation>
+    </message>
+    <message>
+        <source>a text is %1 pt small, %2 pt are asked for</source>
+        <translation>文字の大きさが %1 pt です。%2 pt が求められています。</translation>
+    </message>
+    <message>
+        <source>a colour takes %1 % of ink, %2 % are allowed</source>
+        <translation>インキの総量が %1 % の色があります。許されるのは %2 % です。</translation>
+    </message>
+    <message>
+        <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
+        <translation>%2 × %3 ピクセルの画像（%1）は %4 dpi です。%5 dpi が求められています。</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>グレー</translation>
+    </message>
+    <message>
+        <source>line art</source>
+        <translation>線画</translation>
+    </message>
+    <message>
+        <source>there is the spot ink %1</source>
+        <translation>特色インキ %1 があります。</translation>
+    </message>
+    <message>
+        <source>RGB colours stand beside CMYK colours</source>
+        <translation>RGB の色と CMYK の色が混ざっています。</translation>
+    </message>
+    <message>
+        <source>its permissions forbid %1</source>
+        <translation>アクセス権で禁じられています：%1</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1</source>
+        <translation>%1 に準拠しているとされています。</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1 and has no output intent</source>
+        <translation>%1 に準拠しているとされていますが、出力インテントがありません。</translation>
+    </message>
+    <message>
+        <source>it refers to other files, which are never loaded (references: %1)</source>
+        <translation>ほかのファイルを参照していますが、読み込まれません（参照：%1）。</translation>
+    </message>
+    <message>
+        <source>elements drawn through filters become images in print: %1</source>
+        <translation>フィルタのため印刷で画像になる要素：%1</translation>
+    </message>
+    <message>
+        <source>something is drawn up to %1 pt outside the page</source>
+        <translation>ページの外 %1 pt まで描かれています。</translation>
+    </message>
+    <message>
+        <source>only the first %1 pages were looked at</source>
+        <translation>最初の %1 ページだけを調べました。</translation>
+    </message>
+    <message>
+        <source>the picture is %1 mm wide, columns are %2 mm</source>
+        <translation>画像の幅は %1 mm、段の幅は %2 mm です。</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1</source>
+        <translation>ファイルは %1 で包まれています。</translation>
+    </message>
+    <message>
+        <source>%1 takes language level %2, and the header declares %3</source>
+        <translation>%1 には言語レベル %2 が必要ですが、ヘッダの指定は %3 です。</translation>
+    </message>
+    <message>
+        <source>none above 1</source>
+        <translation>1 以下</translation>
+    </message>
+    <message>
+        <source>%1 has no place in an EPS file</source>
+        <translation>%1 は EPS ファイルに使えません。</translation>
+    </message>
+    <message>
+        <source>%1 is declared, and line %2 holds the byte %3</source>
+        <translation>%1 と宣言されていますが、%2 行目にバイト %3 があります。</translation>
+    </message>
+    <message>
+        <source>%1 stands behind %2</source>
+        <translation>%1 が %2 より後にあります。</translation>
+    </message>
+</context>
 </TS>

@@ -2462,4 +2462,927 @@
         <translation>1600%</translation>
     </message>
 </context>
+<context>
+    <name>Sentences</name>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件是空的。</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>文件大于 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是一个文件夹。</translation>
+    </message>
+    <message>
+        <source>it is a pipe, not an ordinary file</source>
+        <translation>这是管道，不是普通文件。</translation>
+    </message>
+    <message>
+        <source>it is a socket, not an ordinary file</source>
+        <translation>这是套接字，不是普通文件。</translation>
+    </message>
+    <message>
+        <source>it is a device, not an ordinary file</source>
+        <translation>这是设备，不是普通文件。</translation>
+    </message>
+    <message>
+        <source>it is being changed by another program</source>
+        <translation>另一个程序正在更改此文件。</translation>
+    </message>
+    <message>
+        <source>only local files can be opened</source>
+        <translation>只能打开本机上的文件。</translation>
+    </message>
+    <message>
+        <source>this type of document cannot be shown</source>
+        <translation>无法显示此类文档。</translation>
+    </message>
+    <message>
+        <source>this is not an EPS, Illustrator, PDF or SVG picture</source>
+        <translation>这不是 EPS、Illustrator、PDF 或 SVG 图片。</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript</source>
+        <translation>这不是封装 PostScript。</translation>
+    </message>
+    <message>
+        <source>the PostScript header states no usable bounding box</source>
+        <translation>PostScript 头部没有可用的边界框。</translation>
+    </message>
+    <message>
+        <source>the PostScript has no usable bounding box</source>
+        <translation>此 PostScript 没有可用的边界框。</translation>
+    </message>
+    <message>
+        <source>the file holds no PostScript</source>
+        <translation>文件中没有 PostScript。</translation>
+    </message>
+    <message>
+        <source>the picture has no area to be drawn</source>
+        <translation>图片没有可绘制的面积。</translation>
+    </message>
+    <message>
+        <source>the SVG document has no area</source>
+        <translation>SVG 文档没有面积。</translation>
+    </message>
+    <message>
+        <source>the picture is empty: its width or height is zero</source>
+        <translation>图片为空：宽度或高度为零。</translation>
+    </message>
+    <message>
+        <source>the file is cut off: %1 of the %2 bytes of %3 are missing</source>
+        <translation>文件不完整：%2 字节中缺少 %1 字节（%3）。</translation>
+    </message>
+    <message>
+        <source>the file seems cut off: its PostScript stops before its end</source>
+        <translation>文件似乎不完整：其中的 PostScript 没有结尾。</translation>
+    </message>
+    <message>
+        <source>the file is damaged; it was repaired as far as possible</source>
+        <translation>文件已损坏；已尽可能修复。</translation>
+    </message>
+    <message>
+        <source>the file is damaged; nothing of %1 can be read</source>
+        <translation>文件已损坏，没有可读取的内容（%1）。</translation>
+    </message>
+    <message>
+        <source>the document is damaged and cannot be read as PDF</source>
+        <translation>文档已损坏，无法作为 PDF 读取。</translation>
+    </message>
+    <message>
+        <source>the document is not a readable PDF</source>
+        <translation>此文档不是可读取的 PDF。</translation>
+    </message>
+    <message>
+        <source>the document is protected with a password</source>
+        <translation>此文档受密码保护。</translation>
+    </message>
+    <message>
+        <source>the password is wrong</source>
+        <translation>密码错误。</translation>
+    </message>
+    <message>
+        <source>the document uses an encryption that is not supported</source>
+        <translation>此文档使用了不受支持的加密方式。</translation>
+    </message>
+    <message>
+        <source>the document has no pages</source>
+        <translation>此文档没有页面。</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 pages</source>
+        <translation>此文档超过 %1 页。</translation>
+    </message>
+    <message>
+        <source>there is no page %1; the document has %2</source>
+        <translation>没有第 %1 页；文档共 %2 页。</translation>
+    </message>
+    <message>
+        <source>there is no page %1, the document has %2</source>
+        <translation>没有第 %1 页；文档共 %2 页。</translation>
+    </message>
+    <message>
+        <source>page %1 is too far behind</source>
+        <translation>第 %1 页过于靠后。</translation>
+    </message>
+    <message>
+        <source>page %1 has no area</source>
+        <translation>第 %1 页没有面积。</translation>
+    </message>
+    <message>
+        <source>page %1 cannot be read</source>
+        <translation>无法读取第 %1 页。</translation>
+    </message>
+    <message>
+        <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
+        <translation>此 Illustrator 文件保存时未包含 PDF 内容，因此显示的是提示而不是图稿。</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption, and what is made of it is not</source>
+        <translation>此文档受加密保护，由它生成的内容则不受保护。</translation>
+    </message>
+    <message>
+        <source>scripts of the document were left out</source>
+        <translation>已略去文档中的脚本。</translation>
+    </message>
+    <message>
+        <source>the PostScript program stops with an error</source>
+        <translation>PostScript 程序因错误而中止。</translation>
+    </message>
+    <message>
+        <source>the PostScript program tries to use a file, which no picture may</source>
+        <translation>PostScript 程序试图使用文件，而图片不允许这样做。</translation>
+    </message>
+    <message>
+        <source>the PostScript draws no page</source>
+        <translation>此 PostScript 没有绘制任何页面。</translation>
+    </message>
+    <message>
+        <source>the PostScript did not end within %1 seconds</source>
+        <translation>PostScript 未能在 %1 秒内结束。</translation>
+    </message>
+    <message>
+        <source>the PostScript needs more memory than it was granted</source>
+        <translation>此 PostScript 需要的内存超出限额。</translation>
+    </message>
+    <message>
+        <source>the PostScript used up the time or memory that it was granted</source>
+        <translation>此 PostScript 用完了允许的时间或内存。</translation>
+    </message>
+    <message>
+        <source>what follows the picture in the file was left out</source>
+        <translation>已略去文件中图片之后的内容。</translation>
+    </message>
+    <message>
+        <source>there is no interpreter of PostScript</source>
+        <translation>没有 PostScript 解释器。</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript has ended</source>
+        <translation>PostScript 解释器已退出。</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript cannot be reached</source>
+        <translation>无法连接 PostScript 解释器。</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) is not installed</source>
+        <translation>未安装 Ghostscript (gs)。</translation>
+    </message>
+    <message>
+        <source>Ghostscript failed on the PostScript</source>
+        <translation>Ghostscript 无法处理此 PostScript。</translation>
+    </message>
+    <message>
+        <source>the document is empty</source>
+        <translation>文档是空的。</translation>
+    </message>
+    <message>
+        <source>the document is not XML</source>
+        <translation>文档不是 XML。</translation>
+    </message>
+    <message>
+        <source>the document is XML but not SVG</source>
+        <translation>文档是 XML，但不是 SVG。</translation>
+    </message>
+    <message>
+        <source>the document is not well-formed XML</source>
+        <translation>文档不是格式正确的 XML。</translation>
+    </message>
+    <message>
+        <source>the compressed data is damaged</source>
+        <translation>压缩数据已损坏。</translation>
+    </message>
+    <message>
+        <source>the compressed data is cut off</source>
+        <translation>压缩数据不完整。</translation>
+    </message>
+    <message>
+        <source>the compressed data grows to more than %1 times its size</source>
+        <translation>压缩数据解压后超过原大小的 %1 倍。</translation>
+    </message>
+    <message>
+        <source>the compressed data holds more than %1 MiB</source>
+        <translation>压缩数据的内容超过 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>the document has more than %1 elements</source>
+        <translation>文档的元素超过 %1 个。</translation>
+    </message>
+    <message>
+        <source>the elements of the document nest more than %1 deep</source>
+        <translation>文档元素的嵌套超过 %1 层。</translation>
+    </message>
+    <message>
+        <source>the references of the document nest more than %1 deep</source>
+        <translation>文档引用的嵌套超过 %1 层。</translation>
+    </message>
+    <message>
+        <source>the document uses entities more than %1 times</source>
+        <translation>文档使用实体超过 %1 次。</translation>
+    </message>
+    <message>
+        <source>the entities of the document expand to more than %1 MiB</source>
+        <translation>文档的实体展开后超过 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>the entities of the document refer to one another without end</source>
+        <translation>文档的实体无休止地互相引用。</translation>
+    </message>
+    <message>
+        <source>the picture is wider or higher than %1 points</source>
+        <translation>图片的宽度或高度超过 %1 点。</translation>
+    </message>
+    <message>
+        <source>the picture cannot be read</source>
+        <translation>无法读取此图片。</translation>
+    </message>
+    <message>
+        <source>the picture holds something that cannot be drawn</source>
+        <translation>图片含有无法绘制的内容。</translation>
+    </message>
+    <message>
+        <source>the encoding %1 is not known</source>
+        <translation>无法识别编码 %1。</translation>
+    </message>
+    <message>
+        <source>the bytes are not text in the encoding %1</source>
+        <translation>这些字节不是编码 %1 的文本。</translation>
+    </message>
+    <message>
+        <source>the document refers to other files, which are never loaded (references: %1)</source>
+        <translation>文档引用了其他文件，这些文件从不加载（引用：%1）。</translation>
+    </message>
+    <message>
+        <source>the document has scripts, which are never run</source>
+        <translation>文档含有脚本，但从不运行。</translation>
+    </message>
+    <message>
+        <source>the document is animated and is shown as it stands at rest</source>
+        <translation>文档带有动画，按静止状态显示。</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, another stands in for it</source>
+        <translation>缺少字体 %1，已用其他字体代替。</translation>
+    </message>
+    <message>
+        <source>the font %1 is missing, %2 stands in for it</source>
+        <translation>缺少字体 %1，已用 %2 代替。</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within %1 seconds</source>
+        <translation>图片未能在 %1 秒内就绪。</translation>
+    </message>
+    <message>
+        <source>the picture was not ready within the time that it is allowed</source>
+        <translation>图片未能在允许的时间内就绪。</translation>
+    </message>
+    <message>
+        <source>the picture needs more memory than it is allowed</source>
+        <translation>图片需要的内存超出限额。</translation>
+    </message>
+    <message>
+        <source>the picture needs more processor time than it is allowed</source>
+        <translation>图片需要的处理器时间超出限额。</translation>
+    </message>
+    <message>
+        <source>the picture needs more temporary files than it is allowed</source>
+        <translation>图片需要的临时文件超出限额。</translation>
+    </message>
+    <message>
+        <source>the picture nests deeper than can be drawn</source>
+        <translation>图片嵌套过深，无法绘制。</translation>
+    </message>
+    <message>
+        <source>the picture is larger than the memory that it was granted</source>
+        <translation>图片大于允许的内存。</translation>
+    </message>
+    <message>
+        <source>the picture would have more pixels than it is allowed</source>
+        <translation>图片的像素数将超出限额。</translation>
+    </message>
+    <message>
+        <source>the image would have a side of more than %1 pixels</source>
+        <translation>图像的一边将超过 %1 像素。</translation>
+    </message>
+    <message>
+        <source>the image would have more than %1 megapixels</source>
+        <translation>图像将超过 %1 百万像素。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the picture</source>
+        <translation>内存不足以处理此图片。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for the document</source>
+        <translation>内存不足以处理此文档。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to draw the picture</source>
+        <translation>内存不足以绘制此图片。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the document</source>
+        <translation>内存不足以读取此文档。</translation>
+    </message>
+    <message>
+        <source>the picture is larger than files may become here</source>
+        <translation>图片超过了此处允许的文件大小。</translation>
+    </message>
+    <message>
+        <source>too many files are open for another picture</source>
+        <translation>打开的文件过多，无法再处理图片。</translation>
+    </message>
+    <message>
+        <source>the picture process ended without an answer</source>
+        <translation>图片进程未作应答即已结束。</translation>
+    </message>
+    <message>
+        <source>the picture process did not answer in time</source>
+        <translation>图片进程未及时应答。</translation>
+    </message>
+    <message>
+        <source>the picture process was killed by the system, which has probably run out of memory</source>
+        <translation>图片进程已被系统终止，可能是内存不足。</translation>
+    </message>
+    <message>
+        <source>the picture process gave an answer that cannot be true</source>
+        <translation>图片进程给出了不可能为真的应答。</translation>
+    </message>
+    <message>
+        <source>no process for the picture could be started</source>
+        <translation>无法为图片启动进程。</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures could not be started</source>
+        <translation>无法启动读取图片的程序。</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has ended</source>
+        <translation>读取图片的程序已退出。</translation>
+    </message>
+    <message>
+        <source>the program that reads pictures has not answered yet</source>
+        <translation>读取图片的程序尚未应答。</translation>
+    </message>
+    <message>
+        <source>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</source>
+        <translation>无法限制图片进程：此系统既不提供 Landlock，也不提供带 seccomp 过滤器的用户命名空间。</translation>
+    </message>
+    <message>
+        <source>the drawing was stopped</source>
+        <translation>已停止绘制。</translation>
+    </message>
+    <message>
+        <source>the picture could not be processed</source>
+        <translation>无法处理此图片。</translation>
+    </message>
+    <message>
+        <source>the picture cannot be drawn at this size</source>
+        <translation>无法以此大小绘制图片。</translation>
+    </message>
+    <message>
+        <source>the file exists already</source>
+        <translation>文件已存在。</translation>
+    </message>
+    <message>
+        <source>the folder to write to does not exist</source>
+        <translation>目标文件夹不存在。</translation>
+    </message>
+    <message>
+        <source>there is a folder of that name</source>
+        <translation>已有同名文件夹。</translation>
+    </message>
+    <message>
+        <source>there is no space left to write to</source>
+        <translation>没有剩余空间可写入。</translation>
+    </message>
+    <message>
+        <source>writing there is not permitted</source>
+        <translation>不允许写入该位置。</translation>
+    </message>
+    <message>
+        <source>the file could not be written (%1)</source>
+        <translation>无法写入文件（%1）。</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file</source>
+        <translation>这不是普通文件。</translation>
+    </message>
+    <message>
+        <source>the file is read-only</source>
+        <translation>文件是只读的。</translation>
+    </message>
+    <message>
+        <source>the rectangle is empty or out of range</source>
+        <translation>矩形为空或超出范围。</translation>
+    </message>
+    <message>
+        <source>no profile of a press is installed (%1)</source>
+        <translation>未安装印刷机的配置文件（%1）。</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as PostScript</source>
+        <translation>无法将此页写为 PostScript。</translation>
+    </message>
+    <message>
+        <source>the page cannot be written as SVG</source>
+        <translation>无法将此页写为 SVG。</translation>
+    </message>
+    <message>
+        <source>the picture cannot be written as PDF</source>
+        <translation>无法将此图片写为 PDF。</translation>
+    </message>
+    <message>
+        <source>the page is too large or too deeply nested to become SVG</source>
+        <translation>页面过大或嵌套过深，无法转为 SVG。</translation>
+    </message>
+    <message>
+        <source>only EPS files can be repaired</source>
+        <translation>只能修复 EPS 文件。</translation>
+    </message>
+    <message>
+        <source>an SVG picture has no inks: its colours are those of a screen</source>
+        <translation>SVG 图片没有油墨：它的颜色是屏幕颜色。</translation>
+    </message>
+    <message>
+        <source>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</source>
+        <translation>在 %1 dpi 下每张印版有 %2 百万像素，最多可处理 %3 百万。</translation>
+    </message>
+    <message>
+        <source>the print service cannot be reached</source>
+        <translation>无法连接打印服务。</translation>
+    </message>
+    <message>
+        <source>the print service does not answer</source>
+        <translation>打印服务没有应答。</translation>
+    </message>
+    <message>
+        <source>there is no printer</source>
+        <translation>没有打印机。</translation>
+    </message>
+    <message>
+        <source>no printer is the default one</source>
+        <translation>没有默认打印机。</translation>
+    </message>
+    <message>
+        <source>there is no printer named “%1”</source>
+        <translation>没有名为“%1”的打印机。</translation>
+    </message>
+    <message>
+        <source>the printer “%1” takes no jobs</source>
+        <translation>打印机“%1”不接受任务。</translation>
+    </message>
+    <message>
+        <source>the printer “%1” is not open to this user</source>
+        <translation>此用户无权使用打印机“%1”。</translation>
+    </message>
+    <message>
+        <source>the printer “%1” wants a user name and a password, which are not asked for here</source>
+        <translation>打印机“%1”需要用户名和密码，此处无法输入。</translation>
+    </message>
+    <message>
+        <source>the printer “%1” did not take the job: %2</source>
+        <translation>打印机“%1”未接受任务：%2</translation>
+    </message>
+    <message>
+        <source>the document has %1 pages, and only the first %2 of them can be printed</source>
+        <translation>文档有 %1 页，只能打印前 %2 页。</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the document has %1</source>
+        <translation>没有这些页：文档共 %1 页。</translation>
+    </message>
+    <message>
+        <source>there are no such pages: the picture takes %1</source>
+        <translation>没有这些页：图片占 %1 页。</translation>
+    </message>
+    <message>
+        <source>the pages would take more than %1 sheets of paper</source>
+        <translation>这些页将占用超过 %1 张纸。</translation>
+    </message>
+    <message>
+        <source>the picture would take more than %1 sheets of paper</source>
+        <translation>图片将占用超过 %1 张纸。</translation>
+    </message>
+    <message>
+        <source>the margins leave no room on the paper</source>
+        <translation>页边距未在纸上留下空间。</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>文件不存在。</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>没有访问权限。</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>设备读写出错。</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>打开的文件过多。</translation>
+    </message>
+    <message>
+        <source>its PostScript</source>
+        <translation>其 PostScript</translation>
+    </message>
+    <message>
+        <source>its preview</source>
+        <translation>其预览</translation>
+    </message>
+    <message>
+        <source>its page</source>
+        <translation>其页面</translation>
+    </message>
+    <message>
+        <source>its pages</source>
+        <translation>其各页</translation>
+    </message>
+    <message>
+        <source>no reason is given</source>
+        <translation>未说明原因。</translation>
+    </message>
+    <message>
+        <source>actions that start programs or open other files were left out</source>
+        <translation>已略去启动程序或打开其他文件的动作。</translation>
+    </message>
+    <message>
+        <source>what the document does when it is opened was left out</source>
+        <translation>已略去文档打开时执行的动作。</translation>
+    </message>
+    <message>
+        <source>references to files beside the document were left out</source>
+        <translation>已略去对文档之外文件的引用。</translation>
+    </message>
+    <message>
+        <source>PostScript programs that the document holds were left out</source>
+        <translation>已略去文档中的 PostScript 程序。</translation>
+    </message>
+    <message>
+        <source>a font cannot be taken over; another stands in for it</source>
+        <translation>有一种字体无法沿用，已用其他字体代替。</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be taken over; another stands in for it</source>
+        <translation>字体 %1 无法沿用，已用其他字体代替。</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript, so the file holds a preview and nothing else</source>
+        <translation>来源没有 PostScript，因此文件只含预览。</translation>
+    </message>
+    <message>
+        <source>the picture gives no PostScript, so the file holds a preview and nothing else</source>
+        <translation>图片无法生成 PostScript，因此文件只含预览。</translation>
+    </message>
+    <message>
+        <source>the PDF has no subject, because the document has a description but no title</source>
+        <translation>文档有说明但没有标题，因此 PDF 没有主题。</translation>
+    </message>
+    <message>
+        <source>the preview could not be written as TIFF</source>
+        <translation>无法将预览写为 TIFF。</translation>
+    </message>
+    <message>
+        <source>the result could not be opened again: %1</source>
+        <translation>无法重新打开结果：%1</translation>
+    </message>
+    <message>
+        <source>an image with more pixels than are granted was left out</source>
+        <translation>已略去一个像素数超出限额的图像。</translation>
+    </message>
+    <message>
+        <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
+        <translation>部分文字仍为轮廓：它是线条或剪切路径，或其字体不可或不能嵌入。</translation>
+    </message>
+    <message>
+        <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
+        <translation>文档未说明某些字符的含义：它们会显示，但无法被搜索到。</translation>
+    </message>
+    <message>
+        <source>what is drawn through a filter (elements: %1) is held as an image</source>
+        <translation>通过滤镜绘制的内容（元素：%1）以图像保存。</translation>
+    </message>
+    <message>
+        <source>masks (elements: %1) are held as images, what they mask is not</source>
+        <translation>蒙版（元素：%1）以图像保存，被蒙版的内容则不是。</translation>
+    </message>
+    <message>
+        <source>the text is in %1 and is handed on as UTF-8</source>
+        <translation>文本编码为 %1，将以 UTF-8 传递。</translation>
+    </message>
+    <message>
+        <source>the document's width or height is not a length and is passed over</source>
+        <translation>文档的宽度或高度不是长度，已忽略。</translation>
+    </message>
+    <message>
+        <source>the document's view box is not readable and is passed over</source>
+        <translation>文档的 viewBox 无法读取，已忽略。</translation>
+    </message>
+    <message>
+        <source>it draws nothing and states no bounding box</source>
+        <translation>它什么也不绘制，也没有边界框。</translation>
+    </message>
+    <message>
+        <source>it cannot be mended: %1</source>
+        <translation>无法修复：%1</translation>
+    </message>
+    <message>
+        <source>the program was taken out of %1</source>
+        <translation>已从 %1 中取出程序。</translation>
+    </message>
+    <message>
+        <source>the program was taken out of its binary file</source>
+        <translation>已从二进制文件中取出程序。</translation>
+    </message>
+    <message>
+        <source>the preview was left out</source>
+        <translation>已略去预览。</translation>
+    </message>
+    <message>
+        <source>the Windows metafile was left out</source>
+        <translation>已略去 Windows 图元文件。</translation>
+    </message>
+    <message>
+        <source>a preview of %1 by %2 pixels was made</source>
+        <translation>已生成 %1 × %2 像素的预览。</translation>
+    </message>
+    <message>
+        <source>the first line is %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>首行现为 %!PS-Adobe-3.0 EPSF-3.0。</translation>
+    </message>
+    <message>
+        <source>%%EndComments was put in</source>
+        <translation>已插入 %%EndComments。</translation>
+    </message>
+    <message>
+        <source>a second %%EndComments was left out</source>
+        <translation>已略去第二个 %%EndComments。</translation>
+    </message>
+    <message>
+        <source>showpage was put in</source>
+        <translation>已插入 showpage。</translation>
+    </message>
+    <message>
+        <source>%%EOF was put in</source>
+        <translation>已插入 %%EOF。</translation>
+    </message>
+    <message>
+        <source>the box at the end of the file stands in its header</source>
+        <translation>文件末尾的边界框已移到头部。</translation>
+    </message>
+    <message>
+        <source>the bounding box is %1 (%2)</source>
+        <translation>边界框为 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>%1 was left out, because it stood out of order</source>
+        <translation>已略去 %1，因为它的位置不对。</translation>
+    </message>
+    <message>
+        <source>the document is larger than %1 MiB</source>
+        <translation>文档大于 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>the compressed data is larger than %1 MiB</source>
+        <translation>压缩数据大于 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to inflate the data</source>
+        <translation>内存不足以解压数据。</translation>
+    </message>
+    <message>
+        <source>the document has a filter with a matrix of more than %1 numbers</source>
+        <translation>文档含有矩阵超过 %1 个数的滤镜。</translation>
+    </message>
+    <message>
+        <source>the selectors of the document's style sheets nest more than %1 deep</source>
+        <translation>文档样式表中选择器的嵌套超过 %1 层。</translation>
+    </message>
+    <message>
+        <source>the document has text of more than %1 units in size</source>
+        <translation>文档含有大小超过 %1 单位的文字。</translation>
+    </message>
+    <message>
+        <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
+        <translation>此页印版的像素过多；请降低分辨率。</translation>
+    </message>
+    <message>
+        <source>Ghostscript did not separate the page</source>
+        <translation>Ghostscript 未能对此页分色。</translation>
+    </message>
+    <message>
+        <source>Ghostscript (gs) cannot be started</source>
+        <translation>无法启动 Ghostscript (gs)。</translation>
+    </message>
+    <message>
+        <source>the interpreter of PostScript could not be confined</source>
+        <translation>无法限制 PostScript 解释器。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1" instead of four numbers</source>
+        <translation>%%BoundingBox 的内容是“%1”，而不是四个数值。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
+        <translation>%%BoundingBox 的内容“%1”并非全是整数。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 未包住 %%HiResBoundingBox %2。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
+        <translation>%%BoundingBox %1 远大于 %%HiResBoundingBox %2。</translation>
+    </message>
+    <message>
+        <source>%%BoundingBox is promised for the end and does not come</source>
+        <translation>%%BoundingBox 声明在结尾给出，但结尾处没有。</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 has no area</source>
+        <translation>边界框 %1 没有面积。</translation>
+    </message>
+    <message>
+        <source>nothing but white is drawn inside the bounding box</source>
+        <translation>边界框内只绘制了白色。</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
+        <translation>边界框 %1 截去了图形，图形超出 %2 pt：%3</translation>
+    </message>
+    <message>
+        <source>the bounding box %1 is more than twice as large as the ink: %2</source>
+        <translation>边界框 %1 比图形大一倍以上：%2</translation>
+    </message>
+    <message>
+        <source>the %1 section ends at byte %2, the file at byte %3</source>
+        <translation>%1 部分止于第 %2 字节，而文件止于第 %3 字节。</translation>
+    </message>
+    <message>
+        <source>the %1 section lies over another part of the file</source>
+        <translation>%1 部分与文件的其他部分重叠。</translation>
+    </message>
+    <message>
+        <source>bytes before %!PS-Adobe: %1</source>
+        <translation>%!PS-Adobe 之前的字节数：%1</translation>
+    </message>
+    <message>
+        <source>bytes behind %%EOF: %1</source>
+        <translation>%%EOF 之后的字节数：%1</translation>
+    </message>
+    <message>
+        <source>the file needs fonts that it does not bring: %1</source>
+        <translation>文件需要未附带的字体：%1</translation>
+    </message>
+    <message>
+        <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
+        <translation>预览为 %1 × %2 像素，边界框为 %3 × %4 点。</translation>
+    </message>
+    <message>
+        <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
+        <translation>预览与程序绘制的图片不同（平均差异 %1 %）。</translation>
+    </message>
+    <message>
+        <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
+        <translation>首行“%1”不是 %!PS-Adobe-3.0 EPSF-3.0。</translation>
+    </message>
+    <message>
+        <source>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</source>
+        <translation>首行声明了不存在的 PS-Adobe-%1 和 EPSF-%2。</translation>
+    </message>
+    <message>
+        <source>the header has no %%EndComments</source>
+        <translation>头部没有 %%EndComments。</translation>
+    </message>
+    <message>
+        <source>%%EndComments stands behind the first line that is no comment</source>
+        <translation>%%EndComments 位于首个非注释行之后。</translation>
+    </message>
+    <message>
+        <source>lines of more than 255 bytes: %1, the first is line %2</source>
+        <translation>超过 255 字节的行：%1 行，首个在第 %2 行。</translation>
+    </message>
+    <message>
+        <source>lines end in %1 different ways</source>
+        <translation>行尾有 %1 种不同形式。</translation>
+    </message>
+    <message>
+        <source>a line is %1 pt thin, %2 pt are asked for</source>
+        <translation>有线条粗 %1 pt，要求 %2 pt。</translation>
+    </message>
+    <message>
+        <source>a text is %1 pt small, %2 pt are asked for</source>
+        <translation>有文字大小为 %1 pt，要求 %2 pt。</translation>
+    </message>
+    <message>
+        <source>a colour takes %1 % of ink, %2 % are allowed</source>
+        <translation>有颜色的油墨总量为 %1 %，允许 %2 %。</translation>
+    </message>
+    <message>
+        <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
+        <translation>%2 × %3 像素的图像（%1）为 %4 dpi，要求 %5。</translation>
+    </message>
+    <message>
+        <source>colour</source>
+        <translation>彩色</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>灰度</translation>
+    </message>
+    <message>
+        <source>line art</source>
+        <translation>线条稿</translation>
+    </message>
+    <message>
+        <source>there is the spot ink %1</source>
+        <translation>有专色油墨 %1。</translation>
+    </message>
+    <message>
+        <source>RGB colours stand beside CMYK colours</source>
+        <translation>RGB 颜色与 CMYK 颜色并存。</translation>
+    </message>
+    <message>
+        <source>its permissions forbid %1</source>
+        <translation>其权限禁止：%1</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1</source>
+        <translation>声明符合 %1。</translation>
+    </message>
+    <message>
+        <source>it claims to keep %1 and has no output intent</source>
+        <translation>声明符合 %1，但没有输出意图。</translation>
+    </message>
+    <message>
+        <source>it refers to other files, which are never loaded (references: %1)</source>
+        <translation>引用了其他文件，这些文件从不加载（引用：%1）。</translation>
+    </message>
+    <message>
+        <source>elements drawn through filters become images in print: %1</source>
+        <translation>因滤镜而在打印时变为图像的元素：%1</translation>
+    </message>
+    <message>
+        <source>something is drawn up to %1 pt outside the page</source>
+        <translation>有内容绘制到页面外 %1 pt。</translation>
+    </message>
+    <message>
+        <source>only the first %1 pages were looked at</source>
+        <translation>只检查了前 %1 页。</translation>
+    </message>
+    <message>
+        <source>the picture is %1 mm wide, columns are %2 mm</source>
+        <translation>图片宽 %1 mm，栏宽 %2 mm。</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1</source>
+        <translation>文件以 %1 形式包装。</translation>
+    </message>
+    <message>
+        <source>%1 takes language level %2, and the header declares %3</source>
+        <translation>%1 需要语言级别 %2，而头部声明的是 %3。</translation>
+    </message>
+    <message>
+        <source>none above 1</source>
+        <translation>不高于 1</translation>
+    </message>
+    <message>
+        <source>%1 has no place in an EPS file</source>
+        <translation>%1 不应出现在 EPS 文件中。</translation>
+    </message>
+    <message>
+        <source>%1 is declared, and line %2 holds the byte %3</source>
+        <translation>声明为 %1，但第 %2 行含有字节 %3。</translation>
+    </message>
+    <message>
+        <source>%1 stands behind %2</source>
+        <translation>%1 位于 %2 之后。</translation>
+    </message>
+</context>
 </TS>

@@ -82,7 +82,7 @@ class SavedFilesTest : public QObject {
     QCOMPARE(end.first(), (QVariantList{f.folder.filePath(name), false}));
     QCOMPARE(f.read(name), QByteArray("before"));
     QCOMPARE(f.alerts.shown.size(), 1);
-    QVERIFY(f.alerts.shown[0].messageText.startsWith("the result could not be opened again: "));
+    QVERIFY(f.alerts.shown[0].messageText.startsWith("The result could not be opened again: "));
   }
 };
 

@@ -9,6 +9,7 @@
 #include "base/localized_string.h"
 #include "base/sentence.h"
 #include "check/mending.h"
+#include "ui/check/figure_sentences.h"
 
 namespace norvex {
 namespace {
@@ -59,8 +60,9 @@ FindingText textOf(const Finding& finding) {
   FindingText text;
   const QString title = latin1(finding.rule->title), rules = worded(finding.rule->title);
   const bool isName = title.at(0).isLower();
-  const bool isObject = !finding.object.isEmpty() && finding.sentence.startsWith(finding.object);
-  const QString own = sentenceOf(finding.sentence, isName || isObject);
+  const QString said = translatedSentence(finding.sentence, figureSentences);
+  const bool isObject = !finding.object.isEmpty() && said.startsWith(finding.object);
+  const QString own = sentenceOf(said, (isName && said == finding.sentence) || isObject);
   const bool isTranslated = rules != title;
   text.sentence = isTranslated ? sentenceOf(rules, isName) : own;
   const bool saysMore = finding.sentence.compare(title, Qt::CaseInsensitive) != 0;
@@ -68,6 +70,10 @@ FindingText textOf(const Finding& finding) {
   text.where = whereOf(finding);
   text.mend = sentenceOf(worded(mendingWords(*finding.rule)), false);
   return text;
+}
+
+QString figuresOf(const QString& sentence) {
+  return asSentence(translatedSentence(sentence, figureSentences));
 }
 
 QString countsOf(const Findings& findings) {

@@ -18,9 +18,12 @@ struct FindingText {
   QString mend;      ///< a sentence; empty: nothing is to be mended
 };
 
-/// In the user's language as far as the string table has the rule's words: the finding's own are English, and
-/// stand behind them then.
+/// In the user's language as far as the string table has the rule's words: the finding's own stand behind
+/// them then, in English where they are none of figure_sentences.h.
 [[nodiscard]] FindingText textOf(const Finding& finding);
+
+/// What a finding says, whole and in the user's language.
+[[nodiscard]] QString figuresOf(const QString& sentence);
 
 /// "2 errors, 1 warning, 3 notes": what there is of each; empty without findings.
 [[nodiscard]] QString countsOf(const Findings& findings);

@@ -6,8 +6,7 @@
 #include <limits>
 
 #include "base/localized_string.h"
-#include "base/sentence.h"
-#include "picture/told_error.h"
+#include "picture/localized_error.h"
 #include "ui/panels/alert_box.h"
 #include "ui/print/page_layout_sheet.h"
 #include "ui/print/print_panel.h"
@@ -71,10 +70,10 @@ int QtPrintInteraction::showProgress(const QString& text, const CancelToken& can
 void QtPrintInteraction::jobDidEnd(int job, const QString& title, const Result<void>& result) {
   delete progress_.take(job).data();
   if (result || result.error().kind == ErrorKind::Cancelled) return;
-  const ToldError told = toldError(result.error());
+  const ToldError told = localizedError(result.error());
   Alert alert;
   alert.messageText = localizedString("“%1” was not printed.").arg(title);
-  alert.informativeText = asSentence(told.sentence);
+  alert.informativeText = told.sentence;
   alert.details = told.details;
   QtAlertPresenter own;
   (alerts_ ? *alerts_ : static_cast<AlertPresenter&>(own)).runModal(alert);

@@ -17,7 +17,7 @@
 #include "display/norvex_view.h"
 #include "document/document.h"
 #include "picture/document_file.h"
-#include "picture/told_error.h"
+#include "picture/localized_error.h"
 #include "picture_check/picture_check.h"
 #include "ui/check/check_page.h"
 #include "ui/picture/norvex_view_widget.h"
@@ -120,7 +120,7 @@ void CheckCommand::take(const CheckedPicture& checked) {
   findings_ = checked.findings;
   QString incomplete;
   if (checked.error) {
-    const QString why = asSentence(toldError(*checked.error).sentence);
+    const QString why = localizedError(*checked.error).sentence;
     incomplete = localizedString("Not everything could be checked. %1").arg(why);
   }
   page_.showFindings(findings_, incomplete);

@@ -15,15 +15,15 @@
 #include "base/atomic_file.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/sentence.h"
 #include "base/waiting_threads.h"
 #include "check/mending.h"
 #include "desktop/alert.h"
 #include "desktop/save_panel.h"
 #include "document/document.h"
 #include "picture/document_file.h"
-#include "picture/told_error.h"
+#include "picture/localized_error.h"
 #include "types/uniform_type.h"
+#include "ui/check/finding_text.h"
 #include "window/commands/window_parts.h"
 
 namespace norvex {
@@ -128,11 +128,11 @@ void RepairCommand::repair(const QString& path, PreviewUse preview) {
 void RepairCommand::tell(const QString& path, const RepairedPicture& repaired) {
   if (!parts_.alerts()) return;
   QStringList lines;
-  for (const QString& change : repaired.changes) lines << QStringLiteral("• ") + asSentence(change);
+  for (const QString& change : repaired.changes) lines << QStringLiteral("• ") + localizedSentence(change);
   if (lines.isEmpty()) lines << localizedString("Nothing had to be changed.");
   if (!repaired.remaining.isEmpty()) {
     lines << QString() << localizedString("This stays as it is:");
-    for (const QString& sentence : repaired.remaining) lines << QStringLiteral("• ") + asSentence(sentence);
+    for (const QString& sentence : repaired.remaining) lines << QStringLiteral("• ") + figuresOf(sentence);
   }
   Alert alert;
   alert.style = AlertStyle::Informational;

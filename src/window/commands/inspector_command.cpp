@@ -15,11 +15,11 @@
 #include <utility>
 
 #include "base/localized_string.h"
-#include "base/sentence.h"
 #include "base/waiting_threads.h"
 #include "display/norvex_view.h"
 #include "metadata/eps_resources.h"
 #include "picture/eps_image_rep.h"
+#include "picture/localized_error.h"
 #include "picture/pdf_image_rep.h"
 #include "picture/process/page_names.h"
 #include "picture/web_image_rep.h"
@@ -105,7 +105,8 @@ void InspectorCommand::addNotes(const QStringList& sentences) {
   if (sentences.isEmpty()) return;
   QStringList notes = parts_.noteField->text().split(u'\n', Qt::SkipEmptyParts);
   for (const QString& sentence : sentences)
-    if (const QString note = asSentence(sentence); !note.isEmpty() && !notes.contains(note)) notes << note;
+    if (const QString note = localizedSentence(sentence); !note.isEmpty() && !notes.contains(note))
+      notes << note;
   parts_.noteField->setText(notes.join(u'\n'));
   parts_.noteField->show();
 }

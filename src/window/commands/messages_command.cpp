@@ -8,12 +8,11 @@
 #include <utility>
 
 #include "base/localized_string.h"
-#include "base/sentence.h"
 #include "base/waiting_threads.h"
 #include "desktop/alert.h"
 #include "display/norvex_view.h"
+#include "picture/localized_error.h"
 #include "picture/process/stoppable_process.h"
-#include "picture/told_error.h"
 #include "picture/web_image_rep.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
@@ -28,7 +27,7 @@ constexpr int kStoppedEndsMs = 50;
 
 /// An error as a sentence of its own, with what a library said of it.
 QString sentence(const Error& error) {
-  const QString text = asSentence(toldError(error).sentence);
+  const QString text = localizedError(error).sentence;
   return text.isEmpty() ? localizedString("The picture cannot be shown.") : text;
 }
 

@@ -2,11 +2,10 @@
 
 #include "base/path_extension.h"
 #include "base/result.h"
-#include "base/sentence.h"
 #include "desktop/alert.h"
 #include "desktop/save_panel.h"
 #include "display/norvex_view.h"
-#include "picture/told_error.h"
+#include "picture/localized_error.h"
 #include "ui/panels/sheet_save_panel.h"
 #include "ui/picture/message_bar.h"
 
@@ -40,7 +39,7 @@ NSSavePanel& WindowParts::savePanel() {
 
 void WindowParts::tell(const QStringList& sentences) {
   QStringList told;
-  for (const QString& sentence : sentences) told << asSentence(sentence);
+  for (const QString& sentence : sentences) told << localizedSentence(sentence);
   if (messageBar_ && !told.isEmpty())
     messageBar_->showMessage(MessageBar::Kind::Information, told.join(u' '));
 }
@@ -48,7 +47,7 @@ void WindowParts::tell(const QStringList& sentences) {
 void WindowParts::showWriteFailure(const Error& error, const QString& path) {
   Alert alert;
   alert.style = AlertStyle::Warning;
-  const ToldError told = toldError(error);
+  const ToldError told = localizedError(error);
   alert.messageText = told.sentence;
   alert.details = told.details;
   alert.informativeText = path;

@@ -16,6 +16,7 @@
 #include "desktop/alert.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
+#include "picture/localized_error.h"
 #include "picture/pdf_image_rep.h"
 #include "ui/export/export_dialog.h"
 #include "ui/picture/brief_note.h"
@@ -29,12 +30,6 @@ namespace {
 
 constexpr int kRestMs = 200;
 constexpr int kPreviewSide = 700;  // pixels
-
-QString sentence(const Error& error) {
-  QString text = error.message.trimmed();
-  if (!text.isEmpty()) text[0] = text.at(0).toUpper();
-  return text.isEmpty() || text.endsWith(u'.') ? text : text + u'.';
-}
 
 QString startFolder(const QUrl& picture) {
   const QFileInfo folder(QFileInfo(picture.toLocalFile()).absolutePath());
@@ -165,10 +160,12 @@ void ExportCommand::make() {
 void ExportCommand::take(const std::shared_ptr<Making>& making) {
   if (!dialog_ || making_ != making) return;  // other choices were made meanwhile
   const auto file = making->file->get();
-  if (file && !file->bytes.isEmpty())
-    dialog_->showMade(making->preview, file->bytes.size(), file->remarks);
-  else
-    dialog_->showProblem(file && file->error ? sentence(*file->error)
+  if (file && !file->bytes.isEmpty()) {
+    QStringList remarks;
+    for (const QString& remark : file->remarks) remarks << localizedSentence(remark);
+    dialog_->showMade(making->preview, file->bytes.size(), remarks);
+  } else
+    dialog_->showProblem(file && file->error ? localizedError(*file->error).sentence
                                              : localizedString("The picture is too large."));
 }
 

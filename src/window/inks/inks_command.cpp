@@ -10,12 +10,11 @@
 #include <utility>
 
 #include "base/localized_string.h"
-#include "base/sentence.h"
 #include "base/waiting_threads.h"
 #include "display/norvex_view.h"
 #include "picture/image_rep.h"
 #include "picture/inks/ink_image.h"
-#include "picture/told_error.h"
+#include "picture/localized_error.h"
 #include "ui/inks/inks_page.h"
 #include "window/commands/window_parts.h"
 #include "window/inks/inks_in_picture.h"
@@ -95,7 +94,7 @@ void InksCommand::take(const Result<SeparatedPage>& page) {
   end();
   if (!page) {
     asked_ = false;  // whoever looks at the page again has it tried again
-    return page_.tell(asSentence(toldError(page.error()).sentence));
+    return page_.tell(localizedError(page.error()).sentence);
   }
   inks_ = std::make_shared<const PageInks>(page->inks);
   page_.showInks(*inks_, mostInk(*inks_));

@@ -237,6 +237,8 @@ class CheckPageTest : public QObject {
       QString translate(const char*, const char* key, const char*, int) const override {
         const QByteArray words(key);
         if (words == "Ink lies outside the bounding box") return QStringLiteral("Farbe liegt daneben");
+        if (words == "Bytes behind the program's end") return QStringLiteral("Bytes hinter dem Ende");
+        if (words == "bytes behind %%EOF: %1") return QStringLiteral("%1 Byte zu viel.");
         return words == "showpage is missing" ? QStringLiteral("showpage fehlt") : QString();
       }
       bool isEmpty() const override { return false; }
@@ -248,6 +250,9 @@ class CheckPageTest : public QObject {
     const FindingText plain = textOf(finding(rule("eps.showpage.missing"), "showpage is missing"));
     QCOMPARE(plain.sentence, QStringLiteral("showpage fehlt."));
     QCOMPARE(plain.figures, QString());  // nothing beyond the rule
+    const FindingText counted = textOf(finding(rule("eps.bytes.behind"), "bytes behind %%EOF: 12"));
+    QCOMPARE(counted.sentence, QStringLiteral("Bytes hinter dem Ende."));
+    QCOMPARE(counted.figures, QStringLiteral("12 Byte zu viel."));  // translated as well
     QCoreApplication::removeTranslator(&german);
   }
 

@@ -1,9 +1,11 @@
 // What is typed into the sheet of Save To and Save As, and where it opens.
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QSettings>
 #include <QTest>
+#include <QTreeView>
 
 #include "desktop/memory_save_panel.h"
 #include "kit/test_main.h"
@@ -52,6 +54,27 @@ class SaveSheetTest : public QObject {
     name->selectAll();
     QTest::keyClicks(name, "Map 1.5");
     QCOMPARE(c.doSaveToPopUp->currentText(), QString("GIF image"));
+  }
+
+  void sizesKindsAndDatesAreShownWhole() {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("a.png"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(123'456, 'x')) > 0);
+    file.close();
+    SavePanelSettings settings;
+    settings.allowedContentTypes = {UTTypePNG()};
+    settings.directoryURL = QUrl::fromLocalFile(folder.path());
+    SaveSheet sheet(nullptr, settings);
+    sheet.show();
+    const auto* list = sheet.findChild<QTreeView*>("treeView");
+    QVERIFY(list);
+    QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 1);
+    const QAbstractItemView* view = list;
+    for (const int column : {1, 2, 3})
+      QTRY_VERIFY2(
+          list->columnWidth(column) >= view->sizeHintForColumn(column) && list->columnWidth(column) > 0,
+          qPrintable(QString::number(column)));
+    QVERIFY(list->columnWidth(0) > list->columnWidth(1));
   }
 
   void aTypedExtensionChoosesTheTypeInASheetsOwnList() {

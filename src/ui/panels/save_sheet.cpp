@@ -18,6 +18,7 @@
 #include "base/path_extension.h"
 #include "types/type_description.h"
 #include "ui/panels/centred_window.h"
+#include "ui/panels/file_columns.h"
 
 namespace norvex {
 namespace {
@@ -58,6 +59,7 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   setWindowTitle(settings_.title);
   setDirectoryUrl(startOf(settings_));
   arrange();
+  showWholeColumns(*this);
   resize(fittingScreen(*this, kSize));
   selectFile(settings_.nameFieldStringValue);
   showName();

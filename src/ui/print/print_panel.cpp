@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
@@ -22,11 +23,11 @@
 #include <utility>
 
 #include "base/localized_string.h"
-#include "base/sentence.h"
 #include "base/waiting_threads.h"
-#include "picture/told_error.h"
+#include "picture/localized_error.h"
 #include "print/page_image.h"
 #include "print/print_job.h"
+#include "ui/panels/file_columns.h"
 #include "ui/print/document_page_controls.h"
 #include "ui/print/page_layout_controls.h"
 #include "ui/print/page_layout_preview.h"
@@ -39,6 +40,17 @@ constexpr int kSettleMs = 80;
 constexpr int kRefreshMs = 5000;
 const QString kSuffix = QStringLiteral("pdf");
 const QString kFileItem = QStringLiteral("\n");  // no printer can be called that
+
+/// Beside the picture, under its name; a file that is there, the picture itself above all, is not suggested.
+QString suggestedFile(const QWidget* window, const QString& title) {
+  const QString name = title + u'.' + kSuffix;
+  if (!window || window->windowFilePath().isEmpty()) return name;
+  const QDir folder = QFileInfo(window->windowFilePath()).dir();
+  QString file = folder.filePath(name);
+  for (int number = 2; QFileInfo::exists(file); ++number)
+    file = folder.filePath(QStringLiteral("%1-%2.%3").arg(title).arg(number).arg(kSuffix));
+  return file;
+}
 
 }  // namespace
 
@@ -92,6 +104,7 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(kSuffix);
     dialog.selectFile(suggestion);
+    showWholeColumns(dialog);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
   };
   mayReplace = [this](const QString& path) {
@@ -216,7 +229,7 @@ void PrintPanel::showPrinters(const Result<QList<Printer>>& printers) {
   const bool first = !printersKnown_;
   const QVariant chosen = printer_->currentData();
   printers_ = printers ? *printers : QList<Printer>();
-  printersProblem_ = printers ? QString() : asSentence(printers.error().message);
+  printersProblem_ = printers ? QString() : localizedError(printers.error()).sentence;
   printersKnown_ = true;
   const QString title = printer_->currentText();
   while (printer_->count() > 1) printer_->removeItem(0);
@@ -287,7 +300,7 @@ void PrintPanel::takeChoices() {
   }
   showState();
   if (pages) return showPage(page_);
-  if (preview_) preview_->setProblem(asSentence(toldError(pages.error()).sentence));
+  if (preview_) preview_->setProblem(localizedError(pages.error()).sentence);
 }
 
 void PrintPanel::showPage(int page) {
@@ -317,11 +330,11 @@ void PrintPanel::drawPage() {
       [request, page, pictures = operation_.services().pictures, cancel = ending_]() mutable -> Drawn {
         if (request.picture.isEmpty()) {
           const Result<QByteArray> picture = pictureOf(page.drawing, cancel);
-          if (!picture) return {{}, page.number, {}, toldError(picture.error()).sentence};
+          if (!picture) return {{}, page.number, {}, localizedError(picture.error()).sentence};
           request.picture = *picture;
         }
         const Result<QImage> image = pageImage(request, *pictures, cancel);
-        if (!image) return {request.picture, page.number, {}, toldError(image.error()).sentence};
+        if (!image) return {request.picture, page.number, {}, localizedError(image.error()).sentence};
         return {request.picture, page.number, *image, {}};
       }));
 }
@@ -334,7 +347,7 @@ void PrintPanel::takeDrawing() {
   if (drawn.problem.isEmpty())
     preview_->setImage(drawn.image);
   else
-    preview_->setProblem(asSentence(drawn.problem));
+    preview_->setProblem(drawn.problem);
 }
 
 void PrintPanel::changeEvent(QEvent* event) {
@@ -347,7 +360,7 @@ void PrintPanel::accept() {
   if (!pages_) return;
   info_.setJobSavingPath(QString());
   if (savesToFile()) {
-    const QString path = askForFile(source_.jobTitle + u'.' + kSuffix);
+    const QString path = askForFile(suggestedFile(parentWidget(), source_.jobTitle));
     if (path.isEmpty()) return;
     // Whatever was typed, a PDF is called one; and the question about another file's name says nothing here.
     const bool isCalledPdf = path.endsWith(u'.' + kSuffix, Qt::CaseInsensitive);

@@ -135,6 +135,25 @@ class PrintPanelTest : public QObject {
     QCOMPARE(panel_->result(), int(QDialog::Accepted));
   }
 
+  void aFileOfPagesIsSuggestedBesideThePictureAndNeverOneThatIsThere() {
+    QTemporaryDir folder;
+    open({100, 100}, {});
+    QWidget window;
+    window.setWindowFilePath(folder.filePath("A drawing.pdf"));
+    PrintPanel panel(*operation_, *spooler_, &window);
+    QString suggested;
+    panel.askForFile = [&suggested](const QString& suggestion) {
+      suggested = suggestion;
+      return QString();
+    };
+    panel.accept();
+    QCOMPARE(suggested, folder.filePath("A drawing.pdf"));
+    QFile picture(folder.filePath("A drawing.pdf"));
+    QVERIFY(picture.open(QIODevice::WriteOnly));
+    panel.accept();
+    QCOMPARE(suggested, folder.filePath("A drawing-2.pdf"));
+  }
+
   void aFileOfPagesIsCalledPdf_data() {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("written");

@@ -83,9 +83,6 @@ class Reading {
   std::vector<Text> files;
 
   [[nodiscard]] bool has(Option option) const { return given_[size_t(option)]; }
-  [[nodiscard]] bool hasOnly(DocumentKind kind) const {
-    return std::all_of(files.begin(), files.end(), [kind](Text file) { return kindOfFile(file) == kind; });
-  }
   [[nodiscard]] bool asksForArchive() const {
     for (const OptionRow& row : optionTable)
       if (isAboutArchives(row.id) && has(row.id)) return true;
@@ -177,14 +174,20 @@ bool expectPostScript(int argc, const char* const* argv) {
   const auto command = commandNamed(argc > 1 ? argv[1] : "");
   // A window is given files alone, where a command stands in front of its own.
   const Command given = command.value_or(Command::Main);
-  // The inks of a PDF are Ghostscript's work, too.
-  if (given == Command::Inks) return !Reading(given, argc, argv).hasOnly(DocumentKind::Svg);
-  const bool draws = given == Command::Convert || given == Command::Check || given == Command::Repair ||
-                     given == Command::Thumbnail || given == Command::Text;
+  const bool draws = given == Command::Convert || given == Command::Inks || given == Command::Check ||
+                     given == Command::Repair || given == Command::Thumbnail || given == Command::Text;
   if (command && rowOf(given).isLight && !draws) return false;
   const Reading run(given, argc, argv);
   return std::any_of(run.files.begin(), run.files.end(),
                      [](Text file) { return kindOfFile(file) == DocumentKind::Eps; });
+}
+
+bool expectPdfInks(int argc, const char* const* argv) {
+  if (commandNamed(argc > 1 ? argv[1] : "") != Command::Inks) return false;
+  const Reading run(Command::Inks, argc, argv);
+  return std::any_of(run.files.begin(), run.files.end(), [](Text file) {
+    return kindOfFile(file) == DocumentKind::Pdf || kindOfFile(file) == DocumentKind::Illustrator;
+  });
 }
 
 }  // namespace norvex

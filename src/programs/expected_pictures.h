@@ -13,6 +13,9 @@ namespace norvex {
 /// file is.
 [[nodiscard]] bool expectPostScript(int argc, const char* const* argv);
 
+/// The same guess for an interpreter that reads PDF: whether its inks are asked for.
+[[nodiscard]] bool expectPdfInks(int argc, const char* const* argv);
+
 /// The same guess for whether a command is given one file, after which it ends. A window may open more.
 [[nodiscard]] bool expectLonePicture(int argc, const char* const* argv);
 

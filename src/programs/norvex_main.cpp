@@ -114,6 +114,7 @@ int main(int argc, char** argv) {
   StartedPrograms started;
   if (mayNeedPictures(argc, argv))
     started = startPrograms(expectedPictures(argc, argv), {.postScript = expectPostScript(argc, argv),
+                                                           .pdfInks = expectPdfInks(argc, argv),
                                                            .window = argc < 2 || !commandNamed(argv[1]),
                                                            .lone = expectLonePicture(argc, argv)});
   traceStep("picture process started");

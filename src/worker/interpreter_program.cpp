@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "protocol/control_descriptor.h"
 #include "protocol/interpreter_request.h"
@@ -30,7 +31,7 @@ std::string programBesideOurs() {
 
 /// All are numbers that nothing is put in place of. Standard streams are ours, which are nothing; everything
 /// else is closed.
-pid_t spawn(const std::string& program, const std::string& scratchRoot, int taking, int telling,
+pid_t spawn(const std::string& program, const std::vector<std::string>& words, int taking, int telling,
             int processFiles) {
   posix_spawn_file_actions_t actions;
   ::posix_spawn_file_actions_init(&actions);
@@ -39,9 +40,11 @@ pid_t spawn(const std::string& program, const std::string& scratchRoot, int taki
   if (processFiles >= 0) ::posix_spawn_file_actions_adddup2(&actions, processFiles, interpreterProcessFiles);
   ::posix_spawn_file_actions_addclosefrom_np(
       &actions, processFiles >= 0 ? interpreterProcessFiles + 1 : interpreterProcessFiles);
-  char* arguments[] = {const_cast<char*>(program.c_str()), const_cast<char*>(scratchRoot.c_str()), nullptr};
+  std::vector<char*> arguments{const_cast<char*>(program.c_str())};
+  for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.push_back(nullptr);
   pid_t pid = 0;
-  const int failure = ::posix_spawn(&pid, program.c_str(), &actions, nullptr, arguments, environ);
+  const int failure = ::posix_spawn(&pid, program.c_str(), &actions, nullptr, arguments.data(), environ);
   ::posix_spawn_file_actions_destroy(&actions);
   return failure == 0 ? pid : 0;
 }
@@ -52,9 +55,11 @@ FileDescriptor aboveStandard(int descriptor) {
 
 }  // namespace
 
-InterpreterProgram::InterpreterProgram(std::string scratchRoot, std::string program)
+InterpreterProgram::InterpreterProgram(std::string scratchRoot, InterpreterOutlook outlook,
+                                       std::string program)
     : scratchRoot_(std::move(scratchRoot)),
-      program_(program.empty() ? programBesideOurs() : std::move(program)) {}
+      program_(program.empty() ? programBesideOurs() : std::move(program)),
+      outlook_(outlook) {}
 
 void InterpreterProgram::stop() {
   asking_.reset();
@@ -101,7 +106,10 @@ void InterpreterProgram::start() {
   const FileDescriptor processFiles = aboveStandard(openedProcessFiles());
   hearing_ = std::move(readiness->hearing);
   ++starts_;
-  pid_ = spawn(program_, scratchRoot_, taking_.get(), telling.get(), processFiles.get());
+  std::vector<std::string> words{scratchRoot_};
+  if (outlook_.pdf) words.emplace_back(interpreterReadsPdf);
+  if (outlook_.lone) words.emplace_back(interpreterIsForOne);
+  pid_ = spawn(program_, words, taking_.get(), telling.get(), processFiles.get());
   taking_.reset();
   if (pid_ == 0) asking_.reset();
 }

@@ -13,13 +13,24 @@ inline constexpr int interpreterReadiness = controlDescriptor + 1;
 /// Where the program finds /proc, when it is started from within a view of the files that has none.
 inline constexpr int interpreterProcessFiles = controlDescriptor + 2;
 
+/// Words to the program, behind the folder.
+inline constexpr const char* interpreterReadsPdf = "pdf";
+inline constexpr const char* interpreterIsForOne = "lone";
+
+/// What its documents will be.
+struct InterpreterOutlook {
+  bool pdf = false;  ///< PDF, which takes a fifth more of its start; PostScript can be asked for nevertheless
+  bool lone = false;  ///< there is one: nothing is made ready that it may not need
+};
+
 /// Single-threaded. The program ends with us and with all who inherited asking(); it is not waited for
 /// before.
 class InterpreterProgram {
  public:
   /// `program`: empty for norvex-postscript beside the running program. `scratchRoot`: where it makes the
   /// folders of its documents.
-  explicit InterpreterProgram(std::string scratchRoot, std::string program = {});
+  explicit InterpreterProgram(std::string scratchRoot, InterpreterOutlook outlook = {},
+                              std::string program = {});
   InterpreterProgram(const InterpreterProgram&) = delete;
   InterpreterProgram& operator=(const InterpreterProgram&) = delete;
   ~InterpreterProgram() { stop(); }
@@ -45,6 +56,7 @@ class InterpreterProgram {
   [[nodiscard]] bool runs();
   [[nodiscard]] bool makeConnection();
   std::string scratchRoot_, program_;
+  InterpreterOutlook outlook_;
   FileDescriptor asking_;
   FileDescriptor taking_;   ///< until the program has it
   FileDescriptor hearing_;  ///< that the program is ready; never a document's

@@ -31,10 +31,31 @@ namespace {
 constexpr int kUsage = 2;
 /// Words behind what is expected of the pictures.
 constexpr std::string_view kExpectPostScript = "postscript";
+constexpr std::string_view kExpectPdfInks = "pdf-inks";
 constexpr std::string_view kLone = "lone";  ///< there is one picture: nothing is made ready for others
 
 /// Pictures wait for a window: meanwhile there is time for what most of them need, and all inherit it.
 constexpr std::string_view kWindow = "window";
+
+/// Programs that are started when somebody needs them.
+struct Interpreters {
+  InterpreterProgram postScript;
+  InterpreterProgram pdf;  ///< for its inks, which hardly anybody asks for
+
+  Interpreters(const std::string& scratchRoot, bool lone)
+      : postScript(scratchRoot, {.lone = lone}), pdf(scratchRoot, {.pdf = true, .lone = lone}) {}
+
+  /// Where a document asks for what it needs.
+  int prepareFor(const ForkRequest& request) {
+    if (request.postScript) {
+      postScript.start();
+      return postScript.asking();
+    }
+    if ((request.needs & NeedPages) == 0) return -1;
+    pdf.expect();
+    return pdf.asking();
+  }
+};
 
 bool isTold(int argc, char** argv, std::string_view word) {
   return std::any_of(argv + std::min(argc, 3), argv + argc, [&](const char* each) { return each == word; });
@@ -42,9 +63,10 @@ bool isTold(int argc, char** argv, std::string_view word) {
 
 /// Requests may still have waited for it when their documents were ended: whoever makes folders has to be
 /// gone before they are removed. Interpreters are its children; ours they become when it ends.
-void endWithInterpreters(InterpreterProgram& program) {
+void endWithInterpreters(Interpreters& programs) {
   ::prctl(PR_SET_CHILD_SUBREAPER, 1);
-  program.stop();
+  programs.postScript.stop();
+  programs.pdf.stop();
   while (::waitpid(-1, nullptr, 0) > 0 || errno == EINTR) continue;
 }
 
@@ -85,9 +107,11 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   traceStep("norvex-worker linked");
   clearEnvironment();
   if (argc == 2 && std::string_view(argv[1]) == "--sandbox-status") return tellConfinement();
-  InterpreterProgram interpreter(argc > 1 ? argv[1] : "");
-  // Before anything else: it takes longest.
-  if (isTold(argc, argv, kExpectPostScript)) interpreter.start();
+  const bool lone = isTold(argc, argv, kLone);
+  Interpreters interpreters(argc > 1 ? argv[1] : "", lone);
+  // Before anything else: they take longest.
+  if (isTold(argc, argv, kExpectPostScript)) interpreters.postScript.start();
+  if (isTold(argc, argv, kExpectPdfInks)) interpreters.pdf.start();
   if (argc > 1 && hasControlSocket()) prepareSandboxes(argv[1], layers);
   if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
       expected != 0) {
@@ -97,19 +121,17 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   traceStep("norvex-worker has its engines");
   const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
     traceStep("norvex-worker asked for a picture's process");
-    if (request.postScript)
-      interpreter.start();
-    else if (request.needs & NeedPages)
-      interpreter.expect();  // for the inks of a PDF, which hardly anybody asks for
+    const int asking = interpreters.prepareFor(request);
     const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
     // The first child of all, when it asks for an interpreter, loads what it needs itself meanwhile.
     if (!startsPostScript) (void)engines.source(request.needs);
-    return request.postScript || (request.needs & NeedPages) ? interpreter.asking() : -1;
+    return asking;
   };
-  const ForkServer::WarmUp warmUp = isTold(argc, argv, kLone) ? ForkServer::WarmUp() : engines.warmUp;
-  const ForkServer::Wish wish{[&] { return interpreter.waitingRequests(); }, [&] { interpreter.start(); }};
+  const ForkServer::WarmUp warmUp = lone ? ForkServer::WarmUp() : engines.warmUp;
+  const ForkServer::Wish wish{[&] { return interpreters.pdf.waitingRequests(); },
+                              [&] { interpreters.pdf.start(); }};
   return runForkServer(argc, argv, documentChild(engines, layers), warmUp, prepare, wish,
-                       [&] { endWithInterpreters(interpreter); });
+                       [&] { endWithInterpreters(interpreters); });
 }
 
 int runPictureProgram(const EngineSet& engines) {

@@ -28,12 +28,12 @@ struct WorkerEngines {
 [[nodiscard]] ForkServer::ChildMain documentChild(const WorkerEngines& engines,
                                                   const ConfinementLayers& layers = {});
 
-/// Runs `norvex-worker SCRATCH_ROOT NEEDS [postscript]` with the control connection as controlDescriptor;
-/// gives the exit code. NEEDS is the number of the PictureNeeds that are expected, whose engines are asked
-/// for at once; 0: nobody knows. With `postscript` norvex-postscript is started at once, else with the first
-/// document that needs it. The scratch root is removed at the end.
-/// `layers`: less than all of them in programs for tests.
-/// `norvex-worker --sandbox-status` tells what this system confines documents with, and 6 when it is nothing.
+/// Runs `norvex-worker SCRATCH_ROOT NEEDS [postscript] [pdf-inks]` with the control connection as
+/// controlDescriptor; gives the exit code. NEEDS is the number of the PictureNeeds that are expected, whose
+/// engines are asked for at once; 0: nobody knows. With `postscript` norvex-postscript is started at once,
+/// else with the first document that needs it; with `pdf-inks` one that reads PDF. The scratch root is
+/// removed at the end. `layers`: less than all of them in programs for tests. `norvex-worker
+/// --sandbox-status` tells what this system confines documents with, and 6 when it is nothing.
 int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines,
                      const ConfinementLayers& layers = {});
 /// Runs `norvex-picture-…` with the line to the only picture of a run as controlDescriptor: what a forked

@@ -149,7 +149,8 @@ class ExpectedPicturesTest : public QObject {
     QTest::newRow("a window") << QStringList{"a.eps"} << true;
     QTest::newRow("print") << QStringList{"print", "a.eps", "-o", "a.pdf"} << true;
     QTest::newRow("a thumbnail") << QStringList{"thumbnail", "-s", "64", "a.eps", "a.png"} << true;
-    QTest::newRow("inks of a PDF") << QStringList{"inks", "a.pdf"} << true;
+    QTest::newRow("inks") << QStringList{"inks", "a.eps"} << true;
+    QTest::newRow("inks of a PDF") << QStringList{"inks", "a.pdf"} << false;
     QTest::newRow("an SVG has no inks") << QStringList{"inks", "a.svg"} << false;
     QTest::newRow("EPS comes out") << QStringList{"convert", "a.svg", "-o", "a.eps"} << false;
     QTest::newRow("EPS comes out, long") << QStringList{"convert", "a.svg", "--output=a.eps"} << false;
@@ -163,6 +164,23 @@ class ExpectedPicturesTest : public QObject {
     QFETCH(QStringList, arguments);
     QFETCH(bool, postScript);
     QCOMPARE(asked(expectPostScript, arguments), postScript);
+  }
+
+  void inksOfPdfAreExpected_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("pdfInks");
+    QTest::newRow("PDF") << QStringList{"inks", "a.pdf"} << true;
+    QTest::newRow("Illustrator is PDF mostly") << QStringList{"inks", "--json", "a.ai"} << true;
+    QTest::newRow("one of several") << QStringList{"inks", "a.eps", "b.pdf"} << true;
+    QTest::newRow("EPS") << QStringList{"inks", "a.eps"} << false;
+    QTest::newRow("an SVG has no inks") << QStringList{"inks", "a.svg"} << false;
+    QTest::newRow("another command") << QStringList{"convert", "a.pdf", "-o", "a.eps"} << false;
+    QTest::newRow("a window") << QStringList{"a.pdf"} << false;
+  }
+  void inksOfPdfAreExpected() {
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, pdfInks);
+    QCOMPARE(asked(expectPdfInks, arguments), pdfInks);
   }
 
   void everyNeedHasAPart() {

@@ -114,6 +114,7 @@ SpawnedWorker spawnWorker(const std::string& program, PictureNeeds expected, Wor
   if (scratchRoot.empty()) return {};
   std::vector<std::string> arguments{scratchRoot, std::to_string(expected)};
   if (outlook.postScript) arguments.emplace_back("postscript");
+  if (outlook.pdfInks) arguments.emplace_back("pdf-inks");
   if (outlook.lone) arguments.emplace_back("lone");
   if (outlook.window) arguments.emplace_back("window");
   Spawned spawned = spawn(program, std::move(arguments), Messages::LikeOurs);

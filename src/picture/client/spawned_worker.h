@@ -32,6 +32,7 @@ struct SpawnedPicture {
 /// Further guesses about the pictures of a run.
 struct WorkerOutlook {
   bool postScript = false;  ///< an interpreter of PostScript is needed
+  bool pdfInks = false;     ///< … and one that reads PDF
   bool window = false;      ///< nothing is asked for until one has come up
   bool lone = false;        ///< there is one picture: nothing is made ready for others
 };

@@ -33,25 +33,34 @@ constexpr char kSetDistiller[] =
     "currentdict end setdistillerparams\n";
 constexpr char kBeginPage[] = "newpath fill currentpagedevice pop\n";
 
-std::vector<char*> initialArguments() {
-  std::vector<const char*> arguments{"gs"};
-  arguments.insert(arguments.end(), engine::distillerOptions.begin(), engine::distillerOptions.end());
-  // It draws nothing, and what every text of a PDF needs is there nevertheless.
-  arguments.insert(arguments.end(), {"-sDEVICE=nullpage", "-dProvideUnicode"});
-  arguments.insert(arguments.end(), engine::distillerStreams.begin(), engine::distillerStreams.end());
-  std::vector<char*> result;
-  for (const char* argument : arguments) result.push_back(const_cast<char*>(argument));  // it only reads them
-  return result;
+/// Where in its own files stands what is read of them.
+bool canStartWithoutPdf() {
+  constexpr long kKnown = 10000;
+  gsapi_revision_t library = {};
+  return ::gsapi_revision(&library, sizeof library) == 0 && library.revision == kKnown;
 }
 
 }  // namespace
+
+std::vector<QByteArray> PostScriptInterpreter::initialArguments() const {
+  std::vector<QByteArray> arguments{"gs"};
+  if (canStartWithoutPdf() && !setUp_.withoutPdf.isEmpty()) arguments.push_back("-I" + setUp_.withoutPdf);
+  arguments.insert(arguments.end(), engine::distillerOptions.begin(), engine::distillerOptions.end());
+  // It draws nothing, and what every text of a PDF needs is there nevertheless.
+  arguments.emplace_back("-sDEVICE=nullpage");
+  if (setUp_.readiesText) arguments.emplace_back("-dProvideUnicode");
+  arguments.insert(arguments.end(), engine::distillerStreams.begin(), engine::distillerStreams.end());
+  return arguments;
+}
 
 int PostScriptInterpreter::run() {
   if (::gsapi_new_instance(&instance_, this) < 0) return kFatal;
   ::gsapi_set_arg_encoding(instance_, GS_ARG_ENCODING_UTF8);
   ::gsapi_set_stdio(instance_, readProgram, writeMessage, writeMessage);
-  std::vector<char*> arguments = initialArguments();
-  int code = ::gsapi_init_with_args(instance_, int(arguments.size()), arguments.data());
+  std::vector<QByteArray> arguments = initialArguments();
+  std::vector<char*> pointers;
+  for (QByteArray& argument : arguments) pointers.push_back(argument.data());
+  int code = ::gsapi_init_with_args(instance_, int(pointers.size()), pointers.data());
   const int closing = closeDevice();
   if (code == 0 || code == gs_error_Quit) code = closing;
   if (code == 0 || code == gs_error_Info || code == gs_error_Quit) return 0;

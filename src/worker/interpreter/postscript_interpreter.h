@@ -4,6 +4,7 @@
 #include <QByteArray>
 
 #include <functional>
+#include <vector>
 
 #include "protocol/interpreter_request.h"
 
@@ -22,8 +23,15 @@ class PostScriptInterpreter {
   /// only; the original process ends within it. A returned process has standard input for the program,
   /// standard output for the pages, standard error for messages.
   using Serve = std::function<Task()>;
+  struct SetUp {
+    /// A folder with files that are read in place of those with which Ghostscript reads PDF; where they do
+    /// not fit its version, it starts with its own. Empty: it is to read PDF, too.
+    QByteArray withoutPdf;
+    /// Makes ready what every text of a PDF needs, which takes longer than a document without text.
+    bool readiesText = true;
+  };
 
-  explicit PostScriptInterpreter(Serve serve) : serve_(std::move(serve)) {}
+  PostScriptInterpreter(Serve serve, SetUp setUp) : serve_(std::move(serve)), setUp_(std::move(setUp)) {}
   PostScriptInterpreter(const PostScriptInterpreter&) = delete;
   PostScriptInterpreter& operator=(const PostScriptInterpreter&) = delete;
   ~PostScriptInterpreter() = default;
@@ -36,10 +44,12 @@ class PostScriptInterpreter {
  private:
   static int readProgram(void* self, char* buffer, int size);
   static int writeMessage(void* self, const char* text, int size);
+  [[nodiscard]] std::vector<QByteArray> initialArguments() const;
   void beginDocument();
   /// Completes the output. Gives gs's code, as run() needs it.
   int closeDevice();
   Serve serve_;
+  SetUp setUp_;
   void* instance_ = nullptr;
   bool forked_ = false;
   QByteArray unread_;  ///< of what is run before the document's own program

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <iterator>
 
 #include "kit/forked_check.h"
 #include "kit/process_watch.h"
@@ -33,10 +34,13 @@ const QByteArray kDrawing =
     "0.1 0.2 0.3 0.4 setcmykcolor 0 0 30 20 rectfill\n";
 const QRectF kBox(0, 0, 60, 40);
 
+constexpr InterpreterOutlook kOutlooks[] = {{}, {.lone = true}, {.pdf = true}};
+
 class Interpreters {
  public:
-  explicit Interpreters(const std::string& program = NORVEX_BUILD_DIR "/norvex-postscript")
-      : program_(root_.path().toStdString(), program) {
+  explicit Interpreters(InterpreterOutlook outlook = {},
+                        const std::string& program = NORVEX_BUILD_DIR "/norvex-postscript")
+      : program_(root_.path().toStdString(), outlook, program) {
     program_.start();
     context_.interpreters = program_.asking();
     context_.scratchFolder = root_.path();
@@ -125,15 +129,68 @@ class InterpreterProgramTest : public QObject {
   }
   void whatItMakesIsWhatGsMakes() {
     QFETCH(QByteArray, program);
-    Interpreters interpreters;
+    EngineContext alone;
+    const QTemporaryDir scratch;
+    alone.scratchFolder = scratch.path();
+    const auto started = distill(program, kBox, alone);
+    QVERIFY2(started.ok(), qPrintable(errorOf(started).message));
+    // Each program by one of them costs less than by all.
+    static size_t turn = 0;
+    Interpreters interpreters(kOutlooks[turn++ % std::size(kOutlooks)]);
     const auto forked = distill(program, kBox, interpreters.context());
     QVERIFY2(forked.ok(), qPrintable(errorOf(forked).message));
     QVERIFY(interpreters.context().interpreters >= 0);
-    interpreters.context().interpreters = -1;
-    const auto started = distill(program, kBox, interpreters.context());
-    QVERIFY2(started.ok(), qPrintable(errorOf(started).message));
     QCOMPARE(forked->pdf, started->pdf);
     QCOMPARE(forked->warnings, started->warnings);
+  }
+
+  /// Ghostscript takes operators away that no program may use, and the last of its files does it.
+  void withoutPdfNothingIsThereThatOtherwiseIsNot() {
+    Interpreters without, with({.pdf = true});
+    const QByteArray program = "systemdict { pop = } forall userdict { pop = } forall\n";
+    const QList<QByteArray> names = without.saidBy(program).split('\n');
+    const QList<QByteArray> all = with.saidBy(program).split('\n');
+    QVERIFY(names.size() > 500 && names.contains("showpage") && names.contains("pdfmark"));
+    for (const QByteArray& name : names) QVERIFY2(all.contains(name), name.constData());
+  }
+
+  void pdfIsReadWhereItIsExpected() {
+    Interpreters interpreters({.pdf = true});
+    EngineContext& context = interpreters.context();
+    const auto pdf = distill(kDrawing, kBox, context);
+    QVERIFY(pdf.ok());
+    const auto inks = inksOfPdf(pdf->pdf, kBox.size(), {Examination::Inks, 0, 72, true}, context);
+    QVERIFY2(inks.ok(), qPrintable(inks ? QString() : inks.error().message));
+    QVERIFY(context.interpreters >= 0);
+  }
+
+  void withFilesThatDoNotFitGhostscriptGsIsStarted() {
+    const QTemporaryDir folder;
+    const std::string program = folder.path().toStdString() + "/norvex-postscript";
+    QVERIFY(QFile::copy(NORVEX_BUILD_DIR "/norvex-postscript", QString::fromStdString(program)));
+    QVERIFY(QDir(folder.path()).mkdir("without-pdf"));
+    for (const char* name : {"pdf_ops.ps", "pdf_base.ps", "pdf_main.ps"}) {
+      QFile file(folder.path() + "/without-pdf/" + name);
+      QVERIFY(file.open(QIODevice::WriteOnly) && file.write("% of another version\n") > 0);
+    }
+    Interpreters interpreters({}, program);
+    const auto distilled = distill(kDrawing, kBox, interpreters.context());
+    QVERIFY2(distilled.ok(), qPrintable(errorOf(distilled).message));
+    QCOMPARE(interpreters.context().interpreters, -1);
+  }
+
+  void librariesOfWindowsAndPrintersAreNotLoaded() {
+    Interpreters interpreters;
+    QVERIFY(interpreters.stillWork());
+    QFile maps(QStringLiteral("/proc/%1/maps").arg(interpreters.program().pid()));
+    QVERIFY(maps.open(QIODevice::ReadOnly));
+    const QByteArray loaded = maps.readAll();
+    QVERIFY(loaded.contains("/libgs.so") && loaded.contains("/stand-ins/libcups.so"));
+    for (const char* library : {"libgnutls", "libkrb5", "libdbus", "libsystemd", "libxcb", "libwebp"})
+      QVERIFY2(!loaded.contains(library), library);
+    QVERIFY(interpreters.saidBy("/x11 finddevice setdevice").contains("Error"));
+    QVERIFY(interpreters.saidBy("/cups finddevice setdevice showpage").contains("Error"));
+    QVERIFY(interpreters.saidBy("/tiffg4 finddevice setdevice showpage").contains("Error"));
   }
 
   void itsPlatesAreThoseOfGs_data() {
@@ -148,7 +205,7 @@ class InterpreterProgramTest : public QObject {
   }
   void itsPlatesAreThoseOfGs() {
     QFETCH(QByteArray, program);
-    Interpreters interpreters;
+    Interpreters interpreters({.pdf = true});
     EngineContext& context = interpreters.context();
     const ExamineRequest request{Examination::Inks, 0, 100, true};
     const auto forked = inksOfProgram(program, kBox, request, context);
@@ -170,7 +227,7 @@ class InterpreterProgramTest : public QObject {
 
   void anExpectedProgramIsStartedOnceSomebodyAsks() {
     const QTemporaryDir root;
-    InterpreterProgram program(root.path().toStdString(), NORVEX_BUILD_DIR "/norvex-postscript");
+    InterpreterProgram program(root.path().toStdString(), {}, NORVEX_BUILD_DIR "/norvex-postscript");
     QCOMPARE(program.asking(), -1);
     program.expect();
     QCOMPARE(program.pid(), 0);
@@ -193,7 +250,7 @@ class InterpreterProgramTest : public QObject {
 
   void oneThatEndsBeforeItIsReadyIsNotStartedAgain() {
     const QTemporaryDir root;
-    InterpreterProgram program(root.path().toStdString(), "/bin/false");
+    InterpreterProgram program(root.path().toStdString(), {}, "/bin/false");
     program.start();
     const int ended = program.pid();
     QVERIFY(ended != 0);
@@ -224,7 +281,7 @@ class InterpreterProgramTest : public QObject {
 
   void anExpectedProgramThatIsBrokenIsToldToWhoeverAsks() {
     const QTemporaryDir root;
-    InterpreterProgram program(root.path().toStdString(), "/bin/false");
+    InterpreterProgram program(root.path().toStdString(), {}, "/bin/false");
     for (int starts = 0; starts < 20; ++starts) {
       program.expect();
       if (program.asking() < 0) break;
@@ -456,7 +513,7 @@ class InterpreterProgramTest : public QObject {
   }
   void withoutTheProgramGsIsStarted() {
     QFETCH(std::string, program);
-    Interpreters interpreters(program);
+    Interpreters interpreters({}, program);
     warmUpGhostscript(interpreters.context());
     const auto distilled = distill(kDrawing, kBox, interpreters.context());
     QVERIFY2(distilled.ok(), qPrintable(errorOf(distilled).message));
@@ -464,7 +521,7 @@ class InterpreterProgramTest : public QObject {
   }
 
   void aBrokenProgramIsNotStartedForEver() {
-    Interpreters interpreters("/bin/false");
+    Interpreters interpreters({}, "/bin/false");
     int starts = 1;
     for (int before = interpreters.program().pid(); starts < 20; ++starts) {
       (void)kit::eventually([before] { return kit::stateOf(before) == 'Z' || kit::stateOf(before) == 0; });

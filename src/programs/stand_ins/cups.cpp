@@ -1,0 +1,9 @@
+// libcups, as libgs calls it: there is no printer.
+#include "programs/stand_ins/absent.h"
+
+NORVEX_ABSENT(cupsRasterClose)
+NORVEX_ABSENT(cupsRasterOpen)
+NORVEX_ABSENT(cupsRasterWriteHeader2)
+NORVEX_ABSENT(cupsRasterWritePixels)
+NORVEX_ABSENT(ppdFindAttr)
+NORVEX_ABSENT(ppdOpenFile)

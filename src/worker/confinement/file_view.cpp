@@ -106,9 +106,8 @@ bool putTogether(const std::string& scratchRoot) {
       ::mount("tmpfs", kRoot, "tmpfs", MS_NOSUID | MS_NODEV, kRootOptions) != 0)
     return false;
   const bool hasScratch = !scratchRoot.empty();
-  if (!FileDescriptor(::open((std::string(kRoot) + kMark).c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0444))
-           .valid())
-    return false;
+  const std::string mark = kRoot + std::string(kMark);
+  if (!FileDescriptor(::open(mark.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0444)).valid()) return false;
   if (!linkTopFolders() || !showPlaces() || (hasScratch && !show(scratchRoot)) ||
       !setAttributes(kRoot, kReadOnly | kNoSetuid))
     return false;

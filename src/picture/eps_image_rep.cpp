@@ -39,7 +39,11 @@ Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureSe
   const EpsBoundingBoxes boxes = epsBoundingBoxes(bytes);
   const std::optional<QRectF> box = epsPictureBox(boxes);
   if (!beginsPostScript(epsProgram(bytes), box.has_value()))
-    return Error{ErrorKind::NotParsable, QStringLiteral("this is not Encapsulated PostScript")};
+    return Error{
+        ErrorKind::NotParsable,
+        box ? QStringLiteral("this is not Encapsulated PostScript: it does not begin with %!")
+            : QStringLiteral("this is not Encapsulated PostScript: it does not begin with %! and states no "
+                             "bounding box")};
   if (!box)
     return Error{ErrorKind::NotParsable,
                  QStringLiteral("the PostScript header states no usable bounding box")};

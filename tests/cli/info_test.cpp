@@ -230,7 +230,8 @@ class InfoTest : public QObject {
                      "norvex: %2: No such file or directory\n"
                      "norvex: %3: the file is empty\n"
                      "norvex: %4: the PostScript header states no usable bounding box\n"
-                     "norvex: %5: this is not Encapsulated PostScript\n"
+                     "norvex: %5: this is not Encapsulated PostScript: it does not begin with %! and states "
+                     "no bounding box\n"
                      "norvex: %6: this is not an EPS, Illustrator, PDF or SVG picture\n")
                  .arg(folder, missing, none, two, one, text));
     QVERIFY(line.console.output.contains("(My picture)"));

@@ -108,6 +108,16 @@ class ImageRepTest : public QObject {
     QCOMPARE((*rep)->boundingBox(), QRectF(0, 0, 100, 50));
   }
 
+  void whatTheProgramLacksIsToldByName() {
+    MemoryPictureService service;
+    const auto told = [&](const QByteArray& bytes) {
+      return NSEPSImageRep::imageRepWithData(service, bytes).error().message;
+    };
+    const QString noEps = "this is not Encapsulated PostScript: it does not begin with %!";
+    QCOMPARE(told("newpath 0 0 moveto\n%%BoundingBox: 0 0 10 10\n"), noEps);
+    QCOMPARE(told("\n100 100 rectstroke\n"), noEps + " and states no bounding box");
+  }
+
   void whatIsNotEpsIsRefusedWithAReason_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();

@@ -2,8 +2,10 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "protocol/limits.h"
 #include "protocol/program_stop.h"
@@ -156,6 +158,29 @@ Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box, bool unle
   });
 }
 
+bool isFunction(QPDFObjectHandle transfer) {
+  if (!transfer.isArray()) return !transfer.isNull() && !transfer.isName();
+  const std::vector<QPDFObjectHandle> each = transfer.getArrayAsVector();
+  return std::any_of(each.begin(), each.end(), [](const QPDFObjectHandle& one) { return isFunction(one); });
+}
+
+// A PDF keeps transfer functions for printers; who draws it on a screen does not look at them.
+bool hasTransferFunctions(const QByteArray& pdf) {
+  if (!pdf.contains("/TR")) return false;
+  const Result<bool> found = guarded([&]() -> Result<bool> {
+    Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
+    if (!file) return file.error();
+    for (QPDFObjectHandle object : (*file)->qpdf().getAllObjects())
+      if (object.isDictionary() && (isFunction(object.getKey("/TR")) || isFunction(object.getKey("/TR2"))))
+        return true;
+    return false;
+  });
+  return found && *found;
+}
+
+/// Colours that go through transfer functions are written as what comes of them. Others would be rounded.
+constexpr const char* kAppliedTransfer = "/TransferFunctionInfo /Apply";
+
 }  // namespace
 
 Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box, const PageDevice& device,
@@ -186,6 +211,10 @@ Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box
 Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
   Result<DrawnProgram> drawn = drawProgram(postScript, box, {}, context);
   if (!drawn) return drawn.error();
+  if (hasTransferFunctions(drawn->output)) {
+    drawn = drawProgram(postScript, box, {.parameters = kAppliedTransfer}, context);
+    if (!drawn) return drawn.error();
+  }
   const bool unfinished = !drawn->stoppedBy.isEmpty();
   Result<QByteArray> pdf = firstPage(drawn->output, box, unfinished);
   if (!pdf) return unfinished ? Error{ErrorKind::NotParsable, drawn->stoppedBy} : noPage();

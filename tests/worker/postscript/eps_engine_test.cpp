@@ -193,6 +193,18 @@ class EpsEngineTest : public QObject {
     QVERIFY(spot);
   }
 
+  void transferFunctionsAreSeen() {
+    Opened inverted(
+        eps("{1 exch sub} settransfer 0.2 setgray 0 0 20 40 rectfill 1 0 0 setrgbcolor 20 0 20 40 rectfill\n"
+            "gsave 40 0 translate 20 40 scale 1 2 8 [1 0 0 2 0 0] {<00FF>} image grestore showpage\n"));
+    QVERIFY(inverted.ok());
+    const QImage image = inverted.image();
+    QCOMPARE(image.pixel(10, 20), qRgb(204, 204, 204));
+    QCOMPARE(image.pixel(30, 20), qRgb(0, 255, 255));
+    QCOMPARE(image.pixel(50, 35), qRgb(255, 255, 255));  // black paint at the bottom
+    QCOMPARE(image.pixel(50, 5), qRgb(0, 0, 0));
+  }
+
   void textStaysText() {
     Opened opened(eps("/Helvetica findfont 12 scalefont setfont 5 5 moveto (words) show showpage\n"));
     const auto pdf = opened->pdf({});

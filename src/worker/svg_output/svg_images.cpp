@@ -70,6 +70,25 @@ void takeOutMatte(SvgPixels& pixels, const SvgPixels& shades, const Rgb& matte) 
   }
 }
 
+// An image whose pixels are seen as squares, through a mask of another size: both in pixels of which the
+// finer one has whole numbers. Two images that readers lay over each other would be smoothed.
+SvgPixels seenThrough(const SvgPixels& pixels, const SvgPixels& shades, int enlarge) {
+  const bool isMaskFiner = double(shades.width) * shades.height > double(pixels.width) * pixels.height;
+  const SvgPixels& finer = isMaskFiner ? shades : pixels;
+  const int times = isMaskFiner ? std::max(1, int(double(enlarge) * pixels.width / shades.width)) : enlarge;
+  SvgPixels seen{finer.width * times, finer.height * times, {}};
+  seen.argb.reserve(size_t(seen.width) * size_t(seen.height));
+  const auto at = [&](const SvgPixels& of, int x, int y) {
+    const auto column = size_t(qint64(x) * of.width / seen.width),
+               row = size_t(qint64(y) * of.height / seen.height);
+    return of.argb[row * size_t(of.width) + column];
+  };
+  for (int y = 0; y < seen.height; ++y)
+    for (int x = 0; x < seen.width; ++x)
+      seen.argb.push_back((at(pixels, x, y) & 0xffffff) | at(shades, x, y) << 24);
+  return seen;
+}
+
 }  // namespace
 
 bool SvgImages::isUsable(const ImageSource& source) {
@@ -190,6 +209,7 @@ std::optional<DefinedImage> SvgImages::maskedImage(const ImageSource& source, co
       pixels->argb[i] = (pixels->argb[i] & 0xffffff) | shades->argb[i] << 24;
     return defineLarge(key, std::move(*pixels), source.enlarge);
   }
+  if (pixels && source.enlarge > 1) return defineLarge(key, seenThrough(*pixels, *shades, source.enlarge), 1);
   QByteArray grey = elementOf(*shades, {});
   if (grey.isEmpty()) return std::nullopt;
   const QByteArray stretch =

@@ -119,6 +119,19 @@ class SvgDrawingTest : public QObject {
     row("half an image", image("/Half gs q 160 0 0 80 20 10 cm /I Do Q"));
     row("image with a mask",
         image("0 0 0 rg 0 0 100 100 re f q 160 0 0 80 20 10 cm /I Do Q", "/SMask 9 0 R"));
+    const QByteArray masked = "0.9 0.9 0.2 rg 0 0 200 100 re f q 160 0 0 80 20 10 cm /I Do Q";
+    const auto withMask = [&](const QByteArray& size, const QByteArray& shades) {
+      return page(masked, "/XObject << /I 8 0 R >>",
+                  {stream(QByteArray("\xFF\0\0\0\xFF\0\0\0\xFF\xFF\xFF\xFF", 12),
+                          "/Type /XObject /Subtype /Image /Width 2 /Height 2 /BitsPerComponent 8 /ColorSpace "
+                          "/DeviceRGB /SMask 9 0 R"),
+                   stream(shades, "/Type /XObject /Subtype /Image " + size +
+                                      " /BitsPerComponent 8 /ColorSpace /DeviceGray")});
+    };
+    row("image with a finer mask",
+        withMask("/Width 4 /Height 4", QByteArray("\0\x40\x80\xFF", 4).repeated(4)));
+    row("image with a coarser mask", withMask("/Width 1 /Height 1", "\x60"));
+    row("image with a mask that fits nowhere", withMask("/Width 3 /Height 1", QByteArray("\x20\xFF\x60")));
     row("image with colours left out",
         image("0 1 1 rg 0 0 200 100 re f q 160 0 0 80 20 10 cm /I Do Q", "/Mask [200 255 0 64 0 64]"));
     row("stencil", page("0 0 0.8 rg q 160 0 0 80 20 10 cm BI /W 4 /H 2 /IM true /BPC 1 ID \xa0\x50 EI Q"));

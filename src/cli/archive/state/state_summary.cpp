@@ -53,7 +53,7 @@ bool readRun(Database& state, StateSummary& summary) {
 bool readRuns(Database& state, StateSummary& summary) {
   Statement runs = state.prepare("SELECT min(started), sum(rest), count(*) - count(rest) FROM merged");
   if (!runs.step()) return false;
-  summary.started = runs.number(0);
+  if (runs.number(0) > 0) summary.started = runs.number(0);  // 0: of none of them
   if (runs.number(2) == 0) summary.rest = runs.number(1);
   return true;
 }
@@ -124,9 +124,9 @@ QJsonObject summaryObject(const StateSummary& summary) {
   if (summary.memoryKiB > 0) object.insert(u"memoryKiB", summary.memoryKiB);
   QJsonArray failures;
   for (const StateSummary::Failure& failure : summary.failures) {
-    QJsonObject object{{"sentence", failure.sentence}, {"count", failure.count}};
-    insertName(object, QStringLiteral("example"), fileNameText(failure.example));
-    failures.append(object);
+    QJsonObject told{{"sentence", failure.sentence}, {"count", failure.count}};
+    insertName(told, QStringLiteral("example"), fileNameText(failure.example));
+    failures.append(told);
   }
   object.insert(u"failures", failures);
   return object;

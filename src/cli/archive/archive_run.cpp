@@ -105,6 +105,10 @@ ExitCode ArchiveRun::checkNames() {
                          : QStringLiteral("norvex: %1 names collide; nothing is written").arg(collisions));
     return ExitCode::Usage;
   }
+  if (cancel_.cancelled()) {  // how many there are is not known
+    console_.message(QStringLiteral("norvex: interrupted; nothing is written"));
+    return ExitCode::Interrupted;
+  }
   if (!plan_.shard.byContent) total_ = count;
   return ExitCode::Done;
 }

@@ -181,7 +181,8 @@ void FileWork::judge(FileResult& result, const FileTask& task, const FileAnswer&
   result.text = namedText(plan_, result.path, answer.output);
   result.sentence = answer.error ? toldError(*answer.error).sentence : answer.fault;
   // One reason is one reason, whatever file it hits.
-  result.sentence.remove(fileNameText(result.entry.output) + QStringLiteral(": "));
+  if (!task.output.isEmpty())
+    result.sentence.remove(fileNameText(result.entry.output) + QStringLiteral(": "));
   result.entry.outcome = outcomeOf(result.verdict);
   result.entry.sentence = result.sentence;
 }

@@ -452,6 +452,21 @@ class RunTest : public QObject {
     QCOMPARE(unknown.progress(begin + 1s), "1 file, 1 failed, 1.0 a second");
   }
 
+  void aRunThatIsInterruptedWhileItCountsBeginsNothing() {
+    Archive archive;
+    for (int i = 0; i < 3; ++i) archive.put("in/" + QByteArray::number(i) + ".svg");
+    LogConsole console;
+    const ReadArguments read =
+        readArguments({"convert", "--recursive", archive.path("in"), "--to", archive.folder("out"),
+                       "--format", "svg", "--state", archive.path("state")});
+    const ReadArchivePlan plan = readArchivePlan(read.arguments);
+    const CancelToken cancel;
+    cancel.cancel();
+    QCOMPARE(int(ArchiveRun(console, archive.service, plan.plan, cancel).run()), 130);
+    QCOMPARE(console.lines, QStringList("norvex: interrupted; nothing is written"));
+    QVERIFY(!QFileInfo::exists(archive.path("state")));
+  }
+
   void aLogHoldsALineAMinute() {
     Archive archive;
     for (int i = 0; i < 3; ++i) archive.put("in/" + QByteArray::number(i) + ".svg");

@@ -292,6 +292,22 @@ class StateTest : public QObject {
     QVERIFY(kept.console.output.contains("\n1 x the file is empty, for example "));
   }
 
+  void aSentenceIsTheSameWithAndWithoutAResult() {
+    Kept kept;
+    kept.put("in/a.svg");
+    kept.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Facts, {ErrorKind::NotParsable, "it is none: it has no end"});
+    });
+    QVERIFY(kept.run() != 0);
+    QVERIFY(kept.go({"info", "--recursive", kept.path("in"), "--state", kept.path("other")}) != 0);
+    for (const char* state : {"state", "other"}) {
+      QCOMPARE(kept.go({"status", kept.path(state), "--json"}), 0);
+      const QJsonArray failures =
+          QJsonDocument::fromJson(kept.console.output).object().value("failures").toArray();
+      QCOMPARE(failures[0].toObject().value("sentence").toString(), "it is none: it has no end");
+    }
+  }
+
   void theStatusTellsTheRateAndWhatIsLeft() {
     Kept kept;
     {

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "protocol/message_channel.h"
+#include "protocol/shared_errors.h"
 
 namespace norvex {
 namespace {
@@ -76,7 +77,8 @@ Result<InterpreterConnection> makeInterpreterConnection() {
   return connection;
 }
 
-Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request) {
+Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request, const CancelToken& cancel,
+                                    QDeadlineTimer until) {
   ForkRequest limits;
   limits.limits = request.limits;
   QByteArray told = char(request.device) + encodeMessage(limits);
@@ -93,8 +95,10 @@ Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& reques
   std::memcpy(CMSG_DATA(header), descriptors, sizeof descriptors);
   ssize_t sent = -1;
   do {
+    if (cancel.cancelled()) return workCancelled();
     sent = ::sendmsg(asking, &message, MSG_NOSIGNAL | MSG_DONTWAIT);
-  } while (sent < 0 && (errno == EINTR || (areTooManyUnderWay(errno) && waitForThoseUnderWay(asking))));
+  } while (sent < 0 && (errno == EINTR ||
+                        (areTooManyUnderWay(errno) && !until.hasExpired() && waitForThoseUnderWay(asking))));
   return sent == told.size() ? Result<void>() : noMore();
 }
 

@@ -1,6 +1,9 @@
 // How a document's process asks norvex-postscript for an interpreter of its own.
 #pragma once
 
+#include <QDeadlineTimer>
+
+#include "base/cancel_token.h"
 #include "base/file_descriptor.h"
 #include "base/result.h"
 #include "protocol/worker_protocol.h"
@@ -41,8 +44,11 @@ struct InterpreterConnection {
 [[nodiscard]] Result<InterpreterConnection> makeInterpreterConnection();
 
 /// Sends copies of the descriptors; waits for nobody, but where others keep too many descriptors under way,
-/// until those have arrived. Fails with Died when nobody listens or too many wait.
-[[nodiscard]] Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request);
+/// until those have arrived: some seconds. Fails with Died when nobody listens or too many wait, and with
+/// Cancelled.
+[[nodiscard]] Result<void> sendInterpreterRequest(int asking, const InterpreterRequest& request,
+                                                  const CancelToken& cancel = {},
+                                                  QDeadlineTimer until = QDeadlineTimer(5000));
 
 /// A pipe through which whoever takes requests tells that it is able to serve them. It is not the connection
 /// itself, which everybody who asks can read from. No document may get an end of it. Fails with Died.

@@ -1,8 +1,14 @@
 #include "protocol/interpreter_request.h"
 
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <thread>
+
+#include "kit/forked_check.h"
+#include "kit/raw_message.h"
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -26,6 +32,29 @@ InterpreterRequest someRequest(FileDescriptor (&reading)[4]) {
   request.messages = somePipe(reading[2]);
   request.outcome = somePipe(reading[3]);
   return request;
+}
+
+constexpr int kNotRefused = 77;
+
+/// In a process of its own, of a user who has nothing else: more descriptors are under way than it may open
+/// files, and nobody takes them. 0: a request ends with this error.
+int askAmongManyDescriptors(ErrorKind expected, const CancelToken& cancel) {
+  ::alarm(60);
+  if (::geteuid() == 0 && ::setresuid(65533, 65533, 65533) != 0) return 1;
+  auto connection = makeInterpreterConnection();
+  FileDescriptor reading[4];
+  const InterpreterRequest request = someRequest(reading);
+  int crowd[2];
+  if (!connection || ::socketpair(AF_UNIX, SOCK_STREAM, 0, crowd) != 0) return 2;
+  const rlimit few = {64, 64};
+  ::setrlimit(RLIMIT_NOFILE, &few);
+  bool isRefused = false;
+  for (int i = 0; i < 64 && !isRefused; ++i)
+    isRefused = !kit::sendRaw(crowd[0], "x", {0, 0, 0, 0, 0, 0, 0, 0}) && errno == ETOOMANYREFS;
+  if (!isRefused) return kNotRefused;
+  const auto sent = sendInterpreterRequest(connection->asking.get(), request, cancel,
+                                           QDeadlineTimer(expected == ErrorKind::Cancelled ? -1 : 20));
+  return !sent && sent.error().kind == expected ? 0 : 3;
 }
 
 }  // namespace
@@ -97,6 +126,27 @@ class InterpreterRequestTest : public QObject {
     QVERIFY(silent.ok());
     silent->telling.reset();
     QVERIFY(!hadInterpretersReady(silent->hearing.get()));
+  }
+
+  void aRequestThatMayNotBeSentEndsAtItsDeadlineOrWithACancel_data() {
+    QTest::addColumn<ErrorKind>("expected");
+    QTest::newRow("deadline") << ErrorKind::Died;
+    QTest::newRow("cancel") << ErrorKind::Cancelled;
+  }
+  void aRequestThatMayNotBeSentEndsAtItsDeadlineOrWithACancel() {
+    QFETCH(ErrorKind, expected);
+    const int answer = kit::inForkedChild([&] {
+      const CancelToken cancel;
+      std::thread canceller([&] {
+        ::usleep(20'000);
+        if (expected == ErrorKind::Cancelled) cancel.cancel();
+      });
+      const int told = askAmongManyDescriptors(expected, cancel);
+      canceller.join();
+      return told;
+    });
+    if (answer == kNotRefused) QSKIP("this kernel bounds no descriptors under way");
+    QCOMPARE(answer, 0);
   }
 
   void rubbishIsNoRequest_data() {

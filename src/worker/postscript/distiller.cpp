@@ -22,8 +22,8 @@ Result<std::shared_ptr<GhostscriptChild>> startDistiller(const EngineContext& co
                                                          InterpreterDevice device) {
   std::optional<Error> lost;
   if (context.interpreters >= 0) {
-    auto child = GhostscriptChild::fork(context.interpreters, context.limits, device);
-    if (child) return child;
+    auto child = GhostscriptChild::fork(context.interpreters, context.limits, device, context.cancel);
+    if (child || child.error().kind == ErrorKind::Cancelled) return child;
     lost = child.error();
   }
   auto started = GhostscriptChild::start(distillerArguments(device), context.scratchFolder,

@@ -209,7 +209,8 @@ void GhostscriptChild::end() {
 
 Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::fork(int interpreters,
                                                                  const PictureLimits& limits,
-                                                                 InterpreterDevice device) {
+                                                                 InterpreterDevice device,
+                                                                 const CancelToken& cancel) {
   Pipe input, output, messages, outcome;
   if (!input.open() || !output.openFor(device) || !messages.open() || !outcome.open())
     return Error{ErrorKind::Died, QStringLiteral("there is no way to talk to Ghostscript")};
@@ -219,7 +220,8 @@ Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::fork(int interpreter
                                    FileDescriptor(output.take(1)),
                                    FileDescriptor(messages.take(1)),
                                    FileDescriptor(outcome.take(1))};
-  if (const Result<void> sent = sendInterpreterRequest(interpreters, request); !sent) return sent.error();
+  if (const Result<void> sent = sendInterpreterRequest(interpreters, request, cancel); !sent)
+    return sent.error();
   ::signal(SIGPIPE, SIG_IGN);
   std::shared_ptr<GhostscriptChild> child(new GhostscriptChild);
   child->talkThrough(device, input.take(1), output.take(0), messages.take(0));

@@ -38,7 +38,8 @@ class GhostscriptChild {
   /// protocol/interpreter_request.h. It takes no fork and no execve here. Never waits. Fails with Died when
   /// nobody listens there.
   [[nodiscard]] static Result<std::shared_ptr<GhostscriptChild>> fork(
-      int interpreters, const PictureLimits& limits, InterpreterDevice device = InterpreterDevice::Pdf);
+      int interpreters, const PictureLimits& limits, InterpreterDevice device = InterpreterDevice::Pdf,
+      const CancelToken& cancel = {});
   GhostscriptChild(const GhostscriptChild&) = delete;
   GhostscriptChild& operator=(const GhostscriptChild&) = delete;
   ~GhostscriptChild();

@@ -11,6 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstring>
 #include <thread>
 
@@ -57,7 +58,17 @@ qsizetype openDescriptors() {
       .size();
 }
 
-constexpr int kNotRefused = 77;
+constexpr int kNotRefused = 77, kTooManyOfOthers = 78;
+
+/// Of a user other than root other programs may keep too many descriptors under way, until they are taken.
+bool sendCrowd(int socket) {
+  for (int tries = 0; tries < 4000; ++tries) {
+    if (sendRawDescriptors(socket, QList<int>(200, 0))) return true;
+    if (errno != ETOOMANYREFS) return false;
+    ::usleep(5'000);
+  }
+  return false;
+}
 
 /// In a process of its own that is not root: with more descriptors under way than it may open files, a
 /// message with one is sent while another thread takes them. 0: it arrived.
@@ -69,7 +80,7 @@ int sendAmongManyDescriptors() {
   if (::socketpair(AF_UNIX, SOCK_STREAM, 0, crowd) != 0 ||
       ::socketpair(AF_UNIX, SOCK_STREAM, 0, refused) != 0)
     return 2;
-  if (!sendRawDescriptors(crowd[0], QList<int>(200, 0))) return 3;
+  if (!sendCrowd(crowd[0])) return errno == ETOOMANYREFS ? kTooManyOfOthers : 3;
   if (sendRawDescriptors(refused[0], {0})) return kNotRefused;
   auto pair = MessageChannel::makePair();
   MessageChannel ours(std::move(pair->first)), theirs(std::move(pair->second));
@@ -227,6 +238,7 @@ class MessageChannelTest : public QObject {
     QCOMPARE(::waitpid(child, &status, 0), child);
     QVERIFY(WIFEXITED(status));
     if (WEXITSTATUS(status) == kNotRefused) QSKIP("this kernel bounds no descriptors under way");
+    if (WEXITSTATUS(status) == kTooManyOfOthers) QSKIP("other programs keep too many descriptors under way");
     QCOMPARE(WEXITSTATUS(status), 0);
   }
 

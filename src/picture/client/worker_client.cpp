@@ -13,6 +13,9 @@
 namespace norvex {
 namespace {
 
+/// Interpreters that end before they can serve are started twice: the third process runs PostScript without.
+constexpr int kTries = 3;
+
 /// True if the document itself is the reason, so that another try would end the same way.
 bool isFinal(ErrorKind kind) {
   return kind != ErrorKind::TimedOut && kind != ErrorKind::Cancelled && kind != ErrorKind::Died &&
@@ -34,7 +37,7 @@ WorkerClient::WorkerClient(std::shared_ptr<WorkerStarter> starter, QByteArray by
       kind_(kind),
       process_(process),
       connection_(std::move(connection)) {
-  (void)beginToOpen();  // the first call tries again and tells why not
+  (void)beginToOpen(deadline());  // the first call tries again and tells why not
 }
 
 WorkerClient::~WorkerClient() = default;
@@ -43,7 +46,7 @@ QDeadlineTimer WorkerClient::deadline() const {
   return QDeadlineTimer(qint64(process_.limits.seconds) * 1000 + limits::answerGrace);
 }
 
-Result<void> WorkerClient::beginToOpen() {
+Result<void> WorkerClient::beginToOpen(QDeadlineTimer until) {
   if (!connection_ || !connection_->isUsable()) {
     connection_.reset();
     auto opened = WorkerConnection::open(starter_, process_);
@@ -55,7 +58,7 @@ Result<void> WorkerClient::beginToOpen() {
   const Result<quint32> id = connection_->post(OpenRequest{kind_, process_.limits}, *memory);
   if (!id) return connection_.reset(), id.error();
   opening_ = *id;
-  openDeadline_ = deadline();
+  openDeadline_ = until;
   return {};
 }
 
@@ -69,12 +72,11 @@ Result<T> WorkerClient::distrusted(Result<T> result) {
 
 Result<PictureFacts> WorkerClient::finishOpening(const CancelToken& cancel) {
   Result<WorkerAnswer> answer = connection_->wait(opening_, openDeadline_, cancel);
-  if (answer ? hasLostInterpreter(*answer) : connection_->hasNotComeUp()) {
+  for (int tries = 1; tries < kTries; ++tries) {
+    if (!(answer ? hasLostInterpreter(*answer) : connection_->hasNotComeUp())) break;
     // Another one will tell why, or do better.
-    const QDeadlineTimer first = openDeadline_;
     connection_.reset();
-    if (auto begun = beginToOpen(); !begun) return begun.error();
-    openDeadline_ = first;
+    if (auto begun = beginToOpen(openDeadline_); !begun) return begun.error();
     answer = connection_->wait(opening_, openDeadline_, cancel);
   }
   // A process that has died may have found less memory than another one will: nothing is final without an
@@ -102,7 +104,7 @@ Result<PictureFacts> WorkerClient::facts(const CancelToken& cancel) {
   if (!turn) return workCancelled();
   if (auto outcome = known()) return *outcome;
   if (!connection_) {
-    if (auto begun = beginToOpen(); !begun) return begun.error();
+    if (auto begun = beginToOpen(deadline()); !begun) return begun.error();
   }
   return finishOpening(cancel);
 }
@@ -110,26 +112,30 @@ Result<PictureFacts> WorkerClient::facts(const CancelToken& cancel) {
 /// REQUIRES the caller's turn.
 Result<WorkerAnswer> WorkerClient::ask(RequestBody body, const CancelToken& cancel,
                                        const FileDescriptor& memory) {
-  Result<WorkerAnswer> answer = askOnce(body, cancel, memory);
-  if (!answer || !hasLostInterpreter(*answer)) return answer;
-  connection_.reset();
-  return askOnce(std::move(body), cancel, memory);
+  std::optional<QDeadlineTimer> until;
+  for (int tries = 1;; ++tries) {
+    Result<WorkerAnswer> answer = askOnce(body, cancel, memory, until);
+    if (!answer || !hasLostInterpreter(*answer) || tries == kTries) return answer;
+    connection_.reset();
+  }
 }
 
 Result<WorkerAnswer> WorkerClient::askOnce(RequestBody body, const CancelToken& cancel,
-                                           const FileDescriptor& memory) {
+                                           const FileDescriptor& memory,
+                                           std::optional<QDeadlineTimer>& until) {
   if (auto outcome = known(); outcome && !*outcome) return outcome->error();
   if (cancel.cancelled()) return workCancelled();
   if (connection_ && opening_ == 0 && !connection_->isUsable()) connection_.reset();
   if (!connection_) {
-    if (auto begun = beginToOpen(); !begun) return begun.error();
+    if (auto begun = beginToOpen(until.value_or(deadline())); !begun) return begun.error();
   }
   if (opening_ != 0) {
     if (auto facts = finishOpening(cancel); !facts) return facts.error();
   }
   const Result<quint32> id = connection_->post(std::move(body), memory);
   if (!id) return id.error();
-  Result<WorkerAnswer> answer = connection_->wait(*id, deadline(), cancel);
+  if (!until) until = deadline();
+  Result<WorkerAnswer> answer = connection_->wait(*id, *until, cancel);
   traceStep("first answer came");
   if (!answer && !connection_->isUsable()) connection_.reset();
   return answer;

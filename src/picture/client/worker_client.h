@@ -37,10 +37,12 @@ class WorkerClient final : public PictureProcess {
   [[nodiscard]] qint64 processId();
 
  private:
-  Result<void> beginToOpen();
+  Result<void> beginToOpen(QDeadlineTimer until);
   Result<PictureFacts> finishOpening(const CancelToken& cancel);
   Result<WorkerAnswer> ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory = {});
-  Result<WorkerAnswer> askOnce(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory);
+  /// `until`: set with the first request, whose time is that of all tries together.
+  Result<WorkerAnswer> askOnce(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory,
+                               std::optional<QDeadlineTimer>& until);
   void noteStop(QStringList& warnings);
   Result<PictureBytes> askForBytes(RequestBody body, const CancelToken& cancel,
                                    const FileDescriptor& memory = {});

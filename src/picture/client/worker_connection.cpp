@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 
 #include "picture/process/peak_memory.h"
@@ -135,12 +136,16 @@ Result<quint32> WorkerConnection::post(RequestBody body, const FileDescriptor& m
   return id;
 }
 
-/// Waits for an answer as long as the process may keep our own priority.
-void WorkerConnection::letBegin(const FileDescriptor& wake) {
+/// Waits for an answer as long as the process may keep our own priority, and no longer than for the answer.
+void WorkerConnection::letBegin(const FileDescriptor& wake, QDeadlineTimer deadline) {
   if (hasYielded_ || !starter_ || starter_->nice() == 0) return;
   if (!beginning_) beginning_ = QDeadlineTimer(starter_->beginning());
   pollfd polls[] = {{channel_.socket(), POLLIN, 0}, {wake.get(), POLLIN, 0}};
-  if (::poll(polls, 2, int(beginning_->remainingTime())) == 0) yield();
+  int ready = -1;
+  do {
+    ready = ::poll(polls, 2, int(std::min(*beginning_, deadline).remainingTime()));
+  } while (ready < 0 && errno == EINTR);
+  if (ready == 0 && beginning_->hasExpired()) yield();
 }
 
 void WorkerConnection::yield() {
@@ -157,7 +162,7 @@ Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline,
   const FileDescriptor wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
   if (!wake.valid()) return failed(noDescriptor());
   const CancelListener listener(cancel, [&] { ::eventfd_write(wake.get(), 1); });
-  letBegin(wake);
+  letBegin(wake, deadline);
   Result<ChannelMessage> message = channel_.receive(deadline, wake.get());
   const bool wanted = message || message.error().kind != ErrorKind::Cancelled;
   if (!wanted) {

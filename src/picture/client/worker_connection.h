@@ -60,7 +60,7 @@ class WorkerConnection {
   Error failed(Error error);
   /// How the process has ended, or why there is none; nothing: it is not known.
   [[nodiscard]] std::optional<Error> reasonOfItsEnd();
-  void letBegin(const FileDescriptor& wake);
+  void letBegin(const FileDescriptor& wake, QDeadlineTimer deadline);
   void yield();
   Result<WorkerAnswer> understand(quint32 id, ChannelMessage message);
 

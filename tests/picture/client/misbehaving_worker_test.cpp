@@ -1,4 +1,5 @@
 // Every lie and every death that a picture process in the hands of a hostile document can think of.
+#include <chrono>
 #include <thread>
 
 #include <QElapsedTimer>
@@ -6,8 +7,11 @@
 #include "kit/process_watch.h"
 #include "kit/test_main.h"
 #include "picture/client/worker_client.h"
+#include "picture/client/worker_connection.h"
 #include "picture/client/worker_service.h"
+#include "picture/client/worker_starter.h"
 #include "protocol/limits.h"
+#include "protocol/sealed_memory.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -103,6 +107,31 @@ class MisbehavingWorkerTest : public QObject {
     const auto process = service_->open("at-open " + mode, PictureKind::Pdf, kLimits);
     QCOMPARE(process->facts().error().kind, kind);
     QVERIFY(!process->render(drawing()).ok());
+  }
+
+  /// Each try is within the time of one, all three are not.
+  void triesWithOtherInterpretersGetTheTimeOfOneRequest() {
+    const auto process = service_->open("lost-slowly", PictureKind::Eps, kLimits);
+    QVERIFY(process->facts().ok());
+    const auto image = process->render(drawing());
+    QVERIFY(!image.ok());
+    QCOMPARE(image.error().kind, ErrorKind::TimedOut);
+  }
+
+  void aProcessThatIsToYieldLaterIsNotWaitedForBeyondItsTime() {
+    QVERIFY(service_->start().ok());
+    const auto starter = std::make_shared<WorkerStarter>(kProgram);
+    starter->setNice(10, std::chrono::hours(1));
+    const auto connection = WorkerConnection::open(starter, {kLimits, false, {}});
+    QVERIFY(connection.ok());
+    const auto document = SealedMemory::seal("late");
+    const auto opening = (*connection)->post(OpenRequest{PictureKind::Pdf, kLimits}, *document);
+    QVERIFY(opening.ok() && (*connection)->wait(*opening, QDeadlineTimer(20'000), {}).ok());
+    const auto drawn = (*connection)->post(drawing());
+    QVERIFY(drawn.ok());
+    const auto answer = (*connection)->wait(*drawn, QDeadlineTimer(10), {});
+    QVERIFY(!answer.ok());
+    QCOMPARE(answer.error().kind, ErrorKind::TimedOut);
   }
 
   void twoAnswersToOneRequest() {

@@ -12,6 +12,7 @@
 #include "kit/raw_message.h"
 #include "protocol/message_channel.h"
 #include "protocol/sealed_memory.h"
+#include "protocol/shared_errors.h"
 #include "worker/worker_program.h"
 
 using namespace norvex;
@@ -80,6 +81,8 @@ class Misbehaviour {
 
   void wrongReply(const QByteArray& mode, quint32 id) {
     const FileDescriptor pixels = sealed(64);
+    if (mode == "late") ::usleep(900'000), send(id, BitmapReply{QSize(4, 4), 16, {}}, pixels);
+    if (mode == "lost-slowly") ::usleep(1'200'000), send(id, interpreterLost(), FileDescriptor());
     if (mode == "wrong-id") send(id + 1, BitmapReply{QSize(4, 4), 16, {}}, pixels);
     if (mode == "wrong-type") send(id, ForkReply{1}, FileDescriptor());
     if (mode == "fork-reply") send(id, ForkReply{1}, pixels);

@@ -73,8 +73,9 @@ void InterpreterProgram::stop() {
 bool InterpreterProgram::runs() {
   if (pid_ == 0) return false;
   if (::waitpid(pid_, nullptr, WNOHANG) == 0) return true;
-  // One that has never been able to serve would keep the next documents waiting in vain, too.
-  if (!hadInterpretersReady(hearing_.get())) starts_ = kMaximumStarts;
+  // One that has never been able to serve keeps documents waiting in vain: it counts twice. Most likely it is
+  // broken; but the system may have killed it, too, and would take PostScript from the whole session.
+  if (!hadInterpretersReady(hearing_.get())) ++starts_;
   asking_.reset();
   pid_ = 0;
   return false;

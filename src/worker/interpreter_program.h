@@ -36,8 +36,8 @@ class InterpreterProgram {
   ~InterpreterProgram() { stop(); }
 
   /// Starts it unless it runs, and does not wait until it is ready. From within a view of the files it shares
-  /// that view, otherwise it makes one of its own. After it has ended without ever having
-  /// been ready, or some times in a row, it is not started any more.
+  /// that view, otherwise it makes one of its own. After it has ended some times, or two
+  /// times without ever having been ready, it is not started any more.
   void start();
   /// Makes a place where interpreters can be asked for; the program is started when somebody does, for which
   /// whoever calls this must listen at waitingRequests().

@@ -248,13 +248,15 @@ class InterpreterProgramTest : public QObject {
     QCOMPARE(program.waitingRequests(), -1);
   }
 
-  void oneThatEndsBeforeItIsReadyIsNotStartedAgain() {
+  void oneThatEndsBeforeItIsReadyIsStartedOnceMore() {
     const QTemporaryDir root;
     InterpreterProgram program(root.path().toStdString(), {}, "/bin/false");
-    program.start();
-    const int ended = program.pid();
-    QVERIFY(ended != 0);
-    QVERIFY(kit::eventually([ended] { return kit::stateOf(ended) == 'Z'; }));
+    for (int starts = 0; starts < 2; ++starts) {
+      program.start();
+      const int ended = program.pid();
+      QVERIFY(ended != 0);
+      QVERIFY(kit::eventually([ended] { return kit::stateOf(ended) == 'Z'; }));
+    }
     for (int tries = 0; tries < 2; ++tries) {
       program.start();
       QCOMPARE(program.pid(), 0);

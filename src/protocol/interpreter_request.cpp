@@ -132,8 +132,9 @@ Result<InterpreterRequest> receiveInterpreterRequest(int taking) {
       adoptDescriptors(message, request) && (message.msg_flags & (MSG_TRUNC | MSG_CTRUNC)) == 0;
   told.truncate(got);
   request.device = InterpreterDevice(told.at(0));
-  const bool isKnown =
-      request.device == InterpreterDevice::Pdf || request.device == InterpreterDevice::Plates;
+  const bool isKnown = request.device == InterpreterDevice::Pdf ||
+                       request.device == InterpreterDevice::Plates ||
+                       request.device == InterpreterDevice::Canvas;
   const Result<WorkerMessage> decoded = decodeMessage(told.mid(1));
   const ForkRequest* limits = decoded ? std::get_if<ForkRequest>(&*decoded) : nullptr;
   if (!complete || !isKnown || limits == nullptr) return noRequest();

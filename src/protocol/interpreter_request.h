@@ -14,7 +14,15 @@ namespace norvex {
 enum class InterpreterDevice : char {
   Pdf = 'p',
   Plates = 's',  ///< a Photoshop file of CMYK and spot channels
+  Canvas = 'c',  ///< pixels that can be looked at while they are drawn: CanvasHeader
 };
+
+/// How the output for a Canvas begins. Its pixels, white where nothing is drawn, begin at canvasPixels: rows
+/// from the top, each pixel a byte of blue, green, red and one without a meaning.
+struct CanvasHeader {
+  int width = 0, height = 0, bytesPerRow = 0;  ///< 0: nothing can be looked at yet
+};
+inline constexpr qint64 canvasPixels = 4096;
 
 /// The descriptors of one interpreter. Nothing in it names a file: whoever asks has read a document already.
 struct InterpreterRequest {

@@ -28,7 +28,14 @@ inline constexpr std::array distillerOptions{
 
 /// The device that writes what is wanted of the pages.
 constexpr const char* deviceName(InterpreterDevice device) {
-  return device == InterpreterDevice::Plates ? "psdcmyk" : "pdfwrite";
+  switch (device) {
+    case InterpreterDevice::Plates:
+      return "psdcmyk";
+    case InterpreterDevice::Canvas:
+      return "display";
+    default:
+      return "pdfwrite";
+  }
 }
 /// Behind all others: the result goes to standard output, the program comes from standard input.
 inline constexpr std::array distillerStreams{"-o", "-", "-_"};

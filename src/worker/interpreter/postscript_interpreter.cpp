@@ -27,6 +27,11 @@ constexpr char kSelectDevice[] =
     "{ systemdict 2 index known { pop dup load counttomark 2 roll } { pop pop } ifelse } repeat\n"
     "/PageSize currentpagedevice /PageSize get counttomark 2 add -1 roll putdeviceprops setdevice\n"
     ".setdefaultscreen\n";
+// The form of its pixels can only be told to a device that is not in use.
+constexpr char kSelectCanvas[] =
+    "%!\n/display finddevice mark /DisplayFormat 16#10884 counttomark 2 add -1 roll putdeviceprops "
+    "setdevice\n"
+    ".setdefaultscreen\n";
 constexpr char kSetDistiller[] =
     ".distillersettings /default get dup length .distillercommon length add dict begin\n"
     ".distillercommon 2 { { systemdict 2 index known { pop pop } { def } ifelse } forall } repeat\n"
@@ -57,6 +62,7 @@ int PostScriptInterpreter::run() {
   if (::gsapi_new_instance(&instance_, this) < 0) return kFatal;
   ::gsapi_set_arg_encoding(instance_, GS_ARG_ENCODING_UTF8);
   ::gsapi_set_stdio(instance_, readProgram, writeMessage, writeMessage);
+  canvas_.serve(instance_);
   std::vector<QByteArray> arguments = initialArguments();
   std::vector<char*> pointers;
   for (QByteArray& argument : arguments) pointers.push_back(argument.data());
@@ -115,7 +121,8 @@ void PostScriptInterpreter::beginDocument() {
   for (const int right : {GS_PERMIT_FILE_READING, GS_PERMIT_FILE_WRITING, GS_PERMIT_FILE_CONTROL})
     ::gsapi_add_control_path(instance_, right, ownFiles.constData());
   // It begins as PostScript does: otherwise what follows would be taken for a PDF where it holds one.
-  unread_ = QByteArray("%!\n/") + engine::deviceName(task.device) + kSelectDevice +
+  const QByteArray device = QByteArray("%!\n/") + engine::deviceName(task.device) + kSelectDevice;
+  unread_ = (task.device == InterpreterDevice::Canvas ? QByteArray(kSelectCanvas) : device) +
             (task.device == InterpreterDevice::Pdf ? kSetDistiller : "") + kBeginPage;
 }
 

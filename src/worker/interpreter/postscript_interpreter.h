@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "protocol/interpreter_request.h"
+#include "worker/interpreter/canvas_device.h"
 
 namespace norvex {
 
@@ -50,6 +51,7 @@ class PostScriptInterpreter {
   int closeDevice();
   Serve serve_;
   SetUp setUp_;
+  CanvasDevice canvas_;
   void* instance_ = nullptr;
   bool forked_ = false;
   QByteArray unread_;  ///< of what is run before the document's own program

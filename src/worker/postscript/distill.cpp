@@ -18,6 +18,7 @@
 #include "worker/postscript/ghostscript.h"
 #include "worker/postscript/page_marks.h"
 #include "worker/postscript/procedure_sets.h"
+#include "worker/postscript/program_watch.h"
 
 namespace norvex::engine {
 namespace {
@@ -184,15 +185,22 @@ constexpr const char* kAppliedTransfer = "/TransferFunctionInfo /Apply";
 }  // namespace
 
 Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box, const PageDevice& device,
-                                 EngineContext& context) {
+                                 EngineContext& context, ProgramWatch* watch) {
   Program program{postScript, procedureSetsFor(postScript), false};
   const auto input = [&](bool forked) { return QList{prolog(box, program, device, forked), program.text}; };
-  Result<GhostscriptOutput> run = runGhostscript(device.device, input, context);
+  ProgramLook look;
+  if (watch != nullptr) {
+    look = [watch](const EngineContext& now) { return watch->look(now); };
+    watch->setProgram([&, canvas = PageDevice{InterpreterDevice::Canvas, watch->deviceParameters()}] {
+      return QList{prolog(box, program, canvas, true), program.text};
+    });
+  }
+  Result<GhostscriptOutput> run = runGhostscript(device.device, input, context, look);
   if (!run) return run.error();
   std::optional<ProgramError> stopped = programError(run->messages);
   if (stopped && stopped->name == u"invalidaccess" && postScript.contains("systemdict")) {
     program.writesSystem = true;
-    run = runGhostscript(device.device, input, context);
+    run = runGhostscript(device.device, input, context, look);
     if (!run) return run.error();
     stopped = programError(run->messages);
   }
@@ -208,8 +216,9 @@ Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box
   return drawn;
 }
 
-Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context) {
-  Result<DrawnProgram> drawn = drawProgram(postScript, box, {}, context);
+Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context,
+                          ProgramWatch* watch) {
+  Result<DrawnProgram> drawn = drawProgram(postScript, box, {}, context, watch);
   if (!drawn) return drawn.error();
   if (hasTransferFunctions(drawn->output)) {
     drawn = drawProgram(postScript, box, {.parameters = kAppliedTransfer}, context);

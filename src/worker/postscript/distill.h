@@ -11,6 +11,8 @@
 
 namespace norvex::engine {
 
+class ProgramWatch;
+
 struct Distilled {
   QByteArray pdf;        ///< one page, media box [0 0 width height] of the picture's box
   QStringList warnings;  ///< one plain sentence each
@@ -38,9 +40,10 @@ struct DrawnProgram {
 };
 
 /// Runs `postScript` as distill() does and gives what the device has written. Fails as distill(), but for
-/// what it finds in the PDF.
+/// what it finds in the PDF. `watch`: knows what the program has drawn when it takes long.
 [[nodiscard]] Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box,
-                                               const PageDevice& device, EngineContext& context);
+                                               const PageDevice& device, EngineContext& context,
+                                               ProgramWatch* watch = nullptr);
 
 /// Runs `postScript` (no binary header) and gives what it draws inside `box` (default user space, points) as
 /// a page of exactly that size with the box's lower-left corner at its origin. The document cannot change the
@@ -49,6 +52,6 @@ struct DrawnProgram {
 /// sentence when an error stops the program before it has drawn anything, with Limit when that is a lack of
 /// memory, and as GhostscriptChild::run().
 [[nodiscard]] Result<Distilled> distill(const QByteArray& postScript, const QRectF& box,
-                                        EngineContext& context);
+                                        EngineContext& context, ProgramWatch* watch = nullptr);
 
 }  // namespace norvex::engine

@@ -38,7 +38,7 @@ QByteArray completeOutput() {
 }
 
 Result<GhostscriptOutput> runGhostscript(InterpreterDevice device, const GhostscriptInput& input,
-                                         EngineContext& context) {
+                                         EngineContext& context, const ProgramLook& look) {
   bool lost = false;
   while (true) {
     std::shared_ptr<GhostscriptChild> child;
@@ -48,7 +48,7 @@ Result<GhostscriptOutput> runGhostscript(InterpreterDevice device, const Ghostsc
       if (!started) return lost ? interpreterLost() : started.error();
       child = std::move(*started);
     }
-    Result<GhostscriptOutput> run = child->run(input(child->isForked()), context);
+    Result<GhostscriptOutput> run = child->run(input(child->isForked()), context, look);
     if (run || run.error().kind != ErrorKind::Unsupported || context.interpreters < 0) return run;
     lost = true;
     context.interpreters = -1;  // nobody forks interpreters here: gs is started from now on

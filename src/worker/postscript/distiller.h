@@ -24,10 +24,11 @@ namespace norvex::engine {
 
 /// The pieces that a child reads; of a forked one the output is completed by them, with completeOutput().
 using GhostscriptInput = std::function<QList<QByteArray>(bool forked)>;
-/// One run, by the context's warmGhostscript where it waits for this device, which it then uses up. Fails as
-/// GhostscriptChild::run().
+/// One run, by the context's warmGhostscript where it waits for this device, which it then uses up. `look`
+/// and failures as GhostscriptChild::run().
 [[nodiscard]] Result<GhostscriptOutput> runGhostscript(InterpreterDevice device,
-                                                       const GhostscriptInput& input, EngineContext& context);
+                                                       const GhostscriptInput& input, EngineContext& context,
+                                                       const ProgramLook& look = {});
 /// PostScript that completes what the device has been given, here and now.
 [[nodiscard]] QByteArray completeOutput();
 

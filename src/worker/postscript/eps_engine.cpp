@@ -6,6 +6,8 @@
 #include "metadata/eps_program.h"
 #include "metadata/eps_resources.h"
 #include "protocol/page_contents.h"
+#include "protocol/program_stop.h"
+#include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/examine/ink_box.h"
 #include "worker/examine/page_examination.h"
@@ -15,6 +17,7 @@
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/whole_page.h"
 #include "worker/postscript/distill.h"
+#include "worker/postscript/program_watch.h"
 #include "worker/postscript/separations.h"
 
 #include <algorithm>
@@ -52,7 +55,13 @@ class EpsEngine final : public DocumentEngine {
     // A look at what was examined needs no second run of the program.
     if (request.purpose == RenderPurpose::Preview && request.page == 0 && surroundings_ && !distilled_)
       return drawPart(request);
-    if (const Result<void> ready = prepare(request.page); !ready) return ready.error();
+    if (request.page == begunPage && !begun_.isEmpty()) return drawBegun(request);
+    ProgramWatch watch(box_.size());
+    const bool isShown = request.purpose == RenderPurpose::View;
+    if (const Result<void> ready = prepare(request.page, isShown ? &watch : nullptr); !ready) {
+      if (ready.error().kind == ErrorKind::Cancelled) begun_ = watch.drawn(context_.limits);
+      return ready.error();
+    }
     return renderer_->render(request, box_.size(), context_.limits);
   }
 
@@ -145,17 +154,32 @@ class EpsEngine final : public DocumentEngine {
     return EngineBytes{encodeDrawnInk(*ink), {}};
   }
 
+  /// Of a program that was stopped.
+  [[nodiscard]] Result<Bitmap> drawBegun(const RenderRequest& request) {
+    return paintImage(request, context_.limits, [this](cairo_t* context) -> Result<void> {
+      const CairoSurface pixels(cairo_image_surface_create_for_data(
+          reinterpret_cast<unsigned char*>(begun_.row(0)), CAIRO_FORMAT_ARGB32, begun_.width(),
+          begun_.height(), begun_.bytesPerRow()));
+      cairo_translate(context, 0, box_.height());
+      cairo_scale(context, box_.width() / begun_.width(), -box_.height() / begun_.height());
+      cairo_set_source_surface(context, pixels.get(), 0, 0);
+      cairo_paint(context);
+      return {};
+    });
+  }
+
   // Distils at the first call. A failure that lies in the document is remembered: it would fail again.
-  [[nodiscard]] Result<void> prepare(int page) {
+  [[nodiscard]] Result<void> prepare(int page, ProgramWatch* watch = nullptr) {
     if (page != 0) return noSuchPage(page, 1);
     if (distilled_) return {};
     if (failure_) return *failure_;
-    Result<Distilled> distilled = distill(pictureProgram(bytes_), box_, context_);
+    Result<Distilled> distilled = distill(pictureProgram(bytes_), box_, context_, watch);
     if (!distilled) {
       if (distilled.error().kind == ErrorKind::NotParsable) failure_ = distilled.error();
       return distilled.error();
     }
     distilled_ = std::move(*distilled);
+    begun_ = {};
     renderer_.emplace(distilled_->pdf);
     return {};
   }
@@ -166,6 +190,7 @@ class EpsEngine final : public DocumentEngine {
   std::optional<Distilled> distilled_;
   std::optional<Error> failure_;
   std::optional<PdfRenderer> renderer_;
+  Bitmap begun_;                           ///< of the last drawing that was stopped
   std::optional<Distilled> surroundings_;  ///< the program within a larger box
   std::optional<PdfRenderer> surroundingsRenderer_;
 };

@@ -31,15 +31,16 @@
 namespace norvex::engine {
 namespace {
 
-constexpr int kLookMilliseconds = 50;  // how often the cancel token is looked at
+constexpr int kLookMilliseconds = 50;       // how often the cancel token is looked at
+constexpr int kLookMillisecondsForTwo = 5;  // and another child, which reads a program as well
 
 struct Pipe {
   int end[2] = {-1, -1};
   [[nodiscard]] bool open() { return ::pipe2(end, O_CLOEXEC) == 0; }
-  /// For the output of the device: of plates both ends are one file in memory.
+  /// For the output of the device: of pixels both ends are one file in memory.
   [[nodiscard]] bool openFor(InterpreterDevice device) {
     if (device == InterpreterDevice::Pdf) return open();
-    end[1] = ::memfd_create("plates", MFD_CLOEXEC);
+    end[1] = ::memfd_create("pixels", MFD_CLOEXEC);
     end[0] = end[1] < 0 ? -1 : ::fcntl(end[1], F_DUPFD_CLOEXEC, 0);
     return end[0] >= 0;
   }
@@ -113,30 +114,6 @@ QByteArray contentsOf(const FileDescriptor& memory, qint64 size) {
   bytes.truncate(read);
   return bytes;
 }
-
-// The pieces of the input and how far they are written.
-class Feed {
- public:
-  explicit Feed(const QList<QByteArray>& pieces) : pieces_(pieces) { skipEmpty(); }
-  [[nodiscard]] bool done() const { return piece_ == pieces_.size(); }
-  /// False when the reader is gone.
-  bool writeTo(int descriptor) {
-    const QByteArray& piece = pieces_[piece_];
-    const ssize_t put = ::write(descriptor, piece.constData() + offset_, size_t(piece.size() - offset_));
-    if (put < 0) return errno == EINTR || errno == EAGAIN;
-    offset_ += put;
-    if (offset_ == piece.size()) ++piece_, offset_ = 0, skipEmpty();
-    return true;
-  }
-
- private:
-  void skipEmpty() {
-    while (!done() && pieces_[piece_].isEmpty()) ++piece_;
-  }
-  const QList<QByteArray>& pieces_;
-  qsizetype piece_ = 0;
-  qsizetype offset_ = 0;
-};
 
 qint64 milliseconds() {
   QElapsedTimer timer;
@@ -230,7 +207,7 @@ Result<std::shared_ptr<GhostscriptChild>> GhostscriptChild::fork(int interpreter
 }
 
 void GhostscriptChild::talkThrough(InterpreterDevice device, int input, int output, int messages) {
-  const bool isMemory = device == InterpreterDevice::Plates;
+  const bool isMemory = device != InterpreterDevice::Pdf;
   input_ = input;
   output_ = isMemory ? -1 : output;
   memory_.reset(isMemory ? output : -1);
@@ -244,12 +221,13 @@ qint64 GhostscriptChild::memorySize() const {
   return memory_.valid() && ::fstat(memory_.get(), &facts) == 0 ? facts.st_size : 0;
 }
 
-Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
-                                                const EngineContext& context) {
-  GhostscriptOutput collected;
+Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input, const EngineContext& context,
+                                                const ProgramLook& look) {
   const qint64 deadline = milliseconds() + 1000LL * context.limits.seconds;
-  const Result<void> pumped = pump(input, deadline, context, collected);
+  begin(input);
+  const Result<void> pumped = pump(deadline, context, look);
   if (!pumped) return end(), pumped.error();
+  GhostscriptOutput collected = std::move(collected_);
   const bool wasForked = isForked();
   const Result<int> status = wasForked ? awaitOutcome(deadline, context) : reap(deadline, context);
   end();
@@ -271,27 +249,37 @@ Result<GhostscriptOutput> GhostscriptChild::run(const QList<QByteArray>& input,
   return Error{ErrorKind::NotParsable, QStringLiteral("Ghostscript failed on the PostScript")};
 }
 
-Result<void> GhostscriptChild::pump(const QList<QByteArray>& input, qint64 deadline,
-                                    const EngineContext& context, GhostscriptOutput& collected) {
+void GhostscriptChild::begin(QList<QByteArray> input) {
+  feed_ = ProgramFeed(std::move(input));
+  collected_ = {};
+}
+
+bool GhostscriptChild::step(int milliseconds, qsizetype maximum) {
+  if (feed_.done()) closeDescriptor(input_);
+  pollfd watched[3] = {{input_, POLLOUT, 0}, {output_, POLLIN, 0}, {messages_, POLLIN, 0}};
+  const int ready = ::poll(watched, 3, milliseconds);
+  if (ready <= 0) return ready == 0 || errno == EINTR;
+  if (watched[0].revents != 0 && !feed_.writeTo(input_)) closeDescriptor(input_);
+  if (watched[1].revents != 0 && !readInto(output_, collected_.output, maximum)) closeDescriptor(output_);
+  if (watched[2].revents != 0 &&
+      !readInto(messages_, collected_.messages, 2 * limits::maximumProgramMessages))
+    closeDescriptor(messages_);
+  // A document may print as much as it likes; how it ended comes last.
+  if (collected_.messages.size() > limits::maximumProgramMessages)
+    collected_.messages.remove(0, collected_.messages.size() - limits::maximumProgramMessages);
+  return true;
+}
+
+Result<void> GhostscriptChild::pump(qint64 deadline, const EngineContext& context, const ProgramLook& look) {
   const qsizetype maximum = qsizetype(context.limits.memoryMiB) << 20;
-  Feed feed(input);
   ScratchWatch scratch(context.scratchFolder);
   while (output_ >= 0 || messages_ >= 0) {
-    if (feed.done()) closeDescriptor(input_);
     if (const Result<void> patience = checkPatience(deadline, context); !patience) return patience;
     if (const Result<void> room = scratch.look(); !room) return room;
-    pollfd watched[3] = {{input_, POLLOUT, 0}, {output_, POLLIN, 0}, {messages_, POLLIN, 0}};
-    if (::poll(watched, 3, kLookMilliseconds) < 0 && errno != EINTR)
+    const bool isSoon = look && look(context);
+    if (!step(isSoon ? kLookMillisecondsForTwo : kLookMilliseconds, maximum))
       return Error{ErrorKind::Unsupported, QStringLiteral("Ghostscript cannot be talked to")};
-    if (watched[0].revents != 0 && !feed.writeTo(input_)) closeDescriptor(input_);
-    if (watched[1].revents != 0 && !readInto(output_, collected.output, maximum)) closeDescriptor(output_);
-    if (watched[2].revents != 0 &&
-        !readInto(messages_, collected.messages, 2 * limits::maximumProgramMessages))
-      closeDescriptor(messages_);
-    // A document may print as much as it likes; how it ended comes last.
-    if (collected.messages.size() > limits::maximumProgramMessages)
-      collected.messages.remove(0, collected.messages.size() - limits::maximumProgramMessages);
-    if (std::max<qint64>(collected.output.size(), memorySize()) >= maximum)
+    if (std::max<qint64>(collected_.output.size(), memorySize()) >= maximum)
       return Error{ErrorKind::Limit,
                    QStringLiteral("the picture is larger than the memory that it was granted")};
   }

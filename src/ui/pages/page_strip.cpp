@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 #include <cstdlib>
 #include <limits>
@@ -13,6 +14,7 @@ namespace norvex {
 namespace {
 
 constexpr int kRoom = 20;  // logical pixels below a thumbnail, for its number
+constexpr int kHeight = PageStrip::side + kRoom + 8;
 
 /// On paper of its own, as pages have no background.
 QPixmap onPaper(const QImage& image, double ratio) {
@@ -31,6 +33,18 @@ QPixmap onPaper(const QImage& image, double ratio) {
   return made;
 }
 
+/// A thumbnail stands in the middle of what it takes, and takes its whole cell.
+class WholeCell final : public QStyledItemDelegate {
+ public:
+  explicit WholeCell(PageStrip* strip) : QStyledItemDelegate(strip), strip_(*strip) {}
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+    return strip_.gridSize();
+  }
+
+ private:
+  const PageStrip& strip_;
+};
+
 }  // namespace
 
 PageStrip::PageStrip(QWidget* parent) : QListWidget(parent) {
@@ -43,7 +57,8 @@ PageStrip::PageStrip(QWidget* parent) : QListWidget(parent) {
   setResizeMode(QListView::Adjust);
   setUniformItemSizes(true);
   setIconSize({side, side});
-  setGridSize({side + 16, side + kRoom + 8});
+  setGridSize({side + 16, kHeight});
+  setItemDelegate(new WholeCell(this));
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -96,7 +111,13 @@ void PageStrip::showEvent(QShowEvent* event) {
   emit scrolled();
 }
 
+QSize PageStrip::sizeHint() const {
+  return {minimumWidth(), QListWidget::sizeHint().height()};
+}
+
 void PageStrip::resizeEvent(QResizeEvent* event) {
+  // Thumbnails stand in the middle, however wide the strip is drawn.
+  setGridSize({viewport()->width(), kHeight});
   QListWidget::resizeEvent(event);
   emit scrolled();
 }

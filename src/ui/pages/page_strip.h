@@ -21,6 +21,8 @@ class PageStrip final : public QListWidget {
   void setThumbnail(int page, const QImage& image);
   /// The page without a thumbnail that can be seen, or is nearest to what can; -1: there is none.
   [[nodiscard]] int nextWanted() const;
+  /// As wide as its thumbnails.
+  [[nodiscard]] QSize sizeHint() const override;
 
  signals:
   void pageChosen(int page);

@@ -6,6 +6,7 @@
 
 class QLabel;
 class QProgressBar;
+class QPushButton;
 
 namespace norvex {
 
@@ -23,6 +24,9 @@ class LoadingCard final : public QFrame {
   /// Work has ended: hides the card.
   void end();
   [[nodiscard]] bool isUnderWay() const { return underWay_; }
+  /// Where it is too narrow for the words beside the rest, they take several lines.
+  [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+  [[nodiscard]] int heightForWidth(int width) const override;
 
  signals:
   void cancelled();
@@ -30,10 +34,16 @@ class LoadingCard final : public QFrame {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  /// For the words in a card of that width.
+  [[nodiscard]] int roomFor(int width) const;
+  void fit();
+
   QLabel* what_;
   QProgressBar* bar_;
+  QPushButton* cancel_;
   QTimer patience_;
   bool underWay_ = false;
 };

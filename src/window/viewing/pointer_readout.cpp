@@ -88,9 +88,9 @@ void PointerReadout::show() {
 
 QString PointerReadout::wholeText() const {
   const QSizeF size = parts_.view()->imageSize();
-  const QString unit = unitName(unit_);
   // A unit alone would say nothing.
-  return parts_.view()->imageRep() && !size.isEmpty() ? sizeText(size, unit_) + u' ' + unit : unit;
+  if (!parts_.view()->imageRep() || size.isEmpty()) return {};
+  return sizeText(size, unit_) + u' ' + unitName(unit_);
 }
 
 bool PointerReadout::eventFilter(QObject* watched, QEvent* event) {

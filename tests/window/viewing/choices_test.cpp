@@ -87,6 +87,17 @@ class ChoicesTest : public QObject {
     QCOMPARE(unit.read().toInt(), int(LengthUnit::Picas));
   }
 
+  void aUnitIsNotToldWithoutAPicture() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loaded("no picture", "a.eps", NorvexEPSType);
+    QVERIFY(!c.view()->imageRep());
+    QCOMPARE(c.window()->findChild<QToolButton*>("pointerReadout")->text(), QString());
+    fixture.write(epsBytes(), "a.eps");
+    fixture.revert();
+    QTRY_COMPARE(c.window()->findChild<QToolButton*>("pointerReadout")->text(),
+                 QStringLiteral("200 × 100 pt"));
+  }
+
   void newWindowsShowACheckerboardByChoice() {
     WindowFixture fixture;
     preference("preferCheckerboard").write(true);

@@ -5,6 +5,8 @@
 #include <QScrollBar>
 #include <QSpinBox>
 
+#include <cstdlib>
+
 #include "desktop/memory_pasteboard.h"
 #include "kit/test_main.h"
 #include "ui/controls/number_matrix.h"
@@ -143,6 +145,10 @@ class PagesTest : public QObject {
     f.action("pageThumbnailsAction")->trigger();
     QVERIFY(strip->isVisible());
     QCOMPARE(strip->count(), 2);
+    QVERIFY(strip->width() < 2 * PageStrip::side);
+    const auto centre = [strip](int page) { return strip->visualItemRect(strip->item(page)).center(); };
+    QTRY_VERIFY(std::abs(centre(0).x() - strip->viewport()->rect().center().x()) <= 1);
+    QVERIFY(centre(1).y() - centre(0).y() >= PageStrip::side);
     QTRY_COMPARE(strip->nextWanted(), -1);  // every page has its picture
     QSet<int> drawn;
     for (const RenderRequest& request : f.service.lastProcess()->renderRequests())

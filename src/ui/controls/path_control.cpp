@@ -19,6 +19,7 @@ namespace {
 
 const QString kSeparator = QStringLiteral("  \u203A  ");
 const QString kLeftOut = QStringLiteral("\u2026");
+constexpr int kLeastName = 48;  // logical pixels; less of a longer name would say nothing
 
 }  // namespace
 
@@ -37,7 +38,8 @@ QSize PathControl::sizeHint() const {
 }
 
 QSize PathControl::minimumSizeHint() const {
-  return {60, fontMetrics().height() + 6};
+  return {0, fontMetrics().height() +
+                 6};  // the title has the name, and the figures beside it have no other place
 }
 
 QStringList PathControl::partsFitting(int width) const {
@@ -68,9 +70,11 @@ void PathControl::paintEvent(QPaintEvent*) {
   painter.setPen(quietTextColor(palette()));
   painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, folders);
   const int offset = fontMetrics().horizontalAdvance(folders);
+  const int room = width() - offset;
+  if (room < kLeastName && fontMetrics().horizontalAdvance(name) > room) return;
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(rect().adjusted(offset, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                   fontMetrics().elidedText(name, Qt::ElideMiddle, width() - offset));
+                   fontMetrics().elidedText(name, Qt::ElideMiddle, room));
 }
 
 void PathControl::contextMenuEvent(QContextMenuEvent* event) {

@@ -1,6 +1,8 @@
 // Several pages: what is shown is what every command acts on.
 #include <QAction>
 #include <QDockWidget>
+#include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSpinBox>
@@ -135,6 +137,22 @@ class PagesTest : public QObject {
     bar->setValue(0);
     QTest::keyClick(f.c.scrollArea(), Qt::Key_PageUp);
     QCOMPARE(f.pages.shown(), 0);
+  }
+
+  void aNarrowFootKeepsItsFiguresWhole() {
+    PagesFixture f(59);
+    f.c.window()->show();
+    auto* bar = f.c.window()->findChild<QWidget*>("bottomBar");
+    bar->findChild<QLabel*>("startPoint")->setText("(  100.00,   341.92)");
+    bar->findChild<QLabel*>("endPoint")->setText("(  244.00,   645.92)");
+    int shown = 0, needed = 4 * bar->layout()->spacing() + 24;  // and its edges
+    for (const QLabel* label : bar->findChildren<QLabel*>()) needed += label->minimumSizeHint().width();
+    needed += bar->findChild<PageSwitch*>()->minimumSizeHint().width();
+    bar->setFixedWidth(needed);
+    for (const QLabel* label : bar->findChildren<QLabel*>())
+      if (label->isVisible() && ++shown)
+        QTRY_VERIFY2(label->width() >= label->minimumSizeHint().width(), qPrintable(label->text()));
+    QVERIFY(shown >= 3);
   }
 
   void theStripShowsThumbnailsAndIsRemembered() {

@@ -2,6 +2,7 @@
 
 #include <ghostscript/iapi.h>
 #include <ghostscript/ierrors.h>
+#include <malloc.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,6 +16,8 @@
 namespace norvex {
 namespace {
 
+/// Memory that the C library gets at once while Ghostscript initialises, and as it does it otherwise.
+constexpr int kInitialPad = 16 << 20, kUsualPad = 128 << 10;
 constexpr int kFatal = 1;
 constexpr int kOtherError = 255;
 
@@ -59,6 +62,7 @@ std::vector<QByteArray> PostScriptInterpreter::initialArguments() const {
 }
 
 int PostScriptInterpreter::run() {
+  ::mallopt(M_TOP_PAD, kInitialPad);
   if (::gsapi_new_instance(&instance_, this) < 0) return kFatal;
   ::gsapi_set_arg_encoding(instance_, GS_ARG_ENCODING_UTF8);
   ::gsapi_set_stdio(instance_, readProgram, writeMessage, writeMessage);
@@ -116,6 +120,7 @@ int PostScriptInterpreter::writeMessage(void* self, const char* text, int size) 
 }
 
 void PostScriptInterpreter::beginDocument() {
+  ::mallopt(M_TOP_PAD, kUsualPad);
   const Task task = serve_();
   const QByteArray ownFiles = task.scratchFolder + "/*";
   for (const int right : {GS_PERMIT_FILE_READING, GS_PERMIT_FILE_WRITING, GS_PERMIT_FILE_CONTROL})

@@ -154,6 +154,17 @@ class InterpreterProgramTest : public QObject {
     for (const QByteArray& name : names) QVERIFY2(all.contains(name), name.constData());
   }
 
+  /// Fonts are gone through in the order of numbers that names get as they come.
+  void namesComeInTheSameOrderWithoutPdf() {
+    const QByteArray program =
+        "/d 4000 dict def 70001 1 70200 { 8 string cvs cvn d exch 0 put } for\n"
+        "[ /zcaron /Aring /moveto /findfont /eacute ] { d exch 1 put } forall d { pop = } forall\n";
+    Interpreters without({.lone = true}), with({.pdf = true, .lone = true});
+    const QByteArray order = without.saidBy(program);
+    QVERIFY(order.count('\n') == 205 && !order.startsWith("70001\n70002\n"));
+    QCOMPARE(order, with.saidBy(program));
+  }
+
   void pdfIsReadWhereItIsExpected() {
     Interpreters interpreters({.pdf = true});
     EngineContext& context = interpreters.context();

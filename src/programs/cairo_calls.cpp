@@ -1,11 +1,13 @@
-// Poppler sets its clips with cairo_clip() and paints its images with cairo_fill(), and its interface has no
-// word for what becomes of the pixels of their edges. A name that a library calls is looked for in the module
-// that loaded the library before it is looked for in cairo: these are the ones that are called. A library
-// stays bound to the module that loaded it first, and each module has its own key for what is asked of a
-// context: in a process that has loaded two modules, only what the first of them draws has these edges.
-// librsvg strokes with cairo_stroke_preserve(), and sets width and matrix just before.
+// Poppler sets its clips with cairo_clip(), paints its images with cairo_fill() and its text with
+// cairo_show_glyphs(), and its interface has no word for what becomes of the pixels of their edges, nor of
+// glyphs in colours of their own. A name that a library calls is looked for in the module that loaded the
+// library before it is looked for in cairo: these are the ones that are called. A library stays bound to the
+// module that loaded it first, and each module has its own key for what is asked of a context: in a process
+// that has loaded two modules, only what the first of them draws has these edges. librsvg strokes with
+// cairo_stroke_preserve(), and sets width and matrix just before.
 #include <dlfcn.h>
 
+#include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/pixel_edges.h"
 #include "worker/drawing/stroke_measure.h"
 
@@ -26,4 +28,8 @@ NORVEX_STANDS_IN void cairo_stroke_preserve(cairo_t* context) {
   cairo_set_tolerance(context, norvex::engine::strokeTolerance(context));
   cairos(context);
   cairo_set_tolerance(context, before);
+}
+
+NORVEX_STANDS_IN void cairo_show_glyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
+  norvex::engine::showGlyphs(context, glyphs, count);
 }

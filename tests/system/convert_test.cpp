@@ -12,6 +12,7 @@
 #include "kit/test_main.h"
 #include "system/outside_programs.h"
 #include "system/small_disk.h"
+#include "worker/kit/made_pdf.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -124,6 +125,31 @@ class ConvertSystemTest : public QObject {
     for (const char* angle : {"30", "1.5", "233"})
       for (const char* dpi : {"72", "217"})
         QVERIFY2(isPlain(pdf, dpi, {"--rotate", angle, "--crop", "50,50,30,30"}), angle);
+  }
+
+  void glyphsThatArePicturesKeepTheirColours() {
+    // One that is an image, one that is drawn, one that leaves its colour to the text.
+    const QByteArray font =
+        "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 1 1] /FontMatrix [1 0 0 1 0 0] /CharProcs << /a 6 0 R "
+        "/b 7 0 R "
+        "/c 8 0 R >> /Encoding << /Differences [97 /a /b /c] >> /FirstChar 97 /LastChar 99 /Widths [1 1 1] "
+        "/Resources "
+        "<< /XObject << /I 9 0 R >> >> >>";
+    const QString pdf = write(
+        "glyphs.pdf",
+        kit::onePage(
+            "0 0 1 rg BT /T 20 Tf 0 0 Td (abc) Tj ET",
+            "/MediaBox [0 0 60 20] /Resources << /Font << /T 5 0 R >> >>",
+            {font, kit::stream("1 0 d0 /I Do"), kit::stream("1 0 d0 0.6 0 0 rg 0 0 1 1 re f"),
+             kit::stream("1 0 0 0 1 1 d1 0 0 1 1 re f"),
+             kit::stream(QByteArray("\xFF\xC0\0", 3),
+                         "/Type /XObject /Subtype /Image /Width 1 /Height 1 /BitsPerComponent 8 /ColorSpace "
+                         "/DeviceRGB")}));
+    QCOMPARE(kit::norvex({"convert", pdf, "-o", path("glyphs.png")}).exitCode, 0);
+    const QImage image(path("glyphs.png"));
+    QCOMPARE(image.pixel(10, 10), qRgb(255, 192, 0));
+    QCOMPARE(image.pixel(30, 10), qRgb(153, 0, 0));
+    QCOMPARE(image.pixel(50, 10), qRgb(0, 0, 255));
   }
 
   void aPartOfAPageTurnedBecomesSvg() {

@@ -284,6 +284,10 @@ void askForPixelEdges(cairo_t* context) {
   cairo_set_user_data(context, &kAsked, new Asked, [](void* asked) { delete static_cast<Asked*>(asked); });
 }
 
+bool arePixelEdgesAskedFor(cairo_t* context) {
+  return askedOf(context) != nullptr;
+}
+
 bool hasSlantedSeams(cairo_t* context) {
   const Asked* asked = askedOf(context);
   return asked && asked->seams.areThere();

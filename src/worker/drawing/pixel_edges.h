@@ -12,6 +12,7 @@ namespace norvex::engine {
 /// and fillBetweenPixels() are called for it: the engines' modules have them stand in for cairo_clip() and
 /// cairo_fill(), for the libraries that they load, too. Goes with the context.
 void askForPixelEdges(cairo_t* context);
+[[nodiscard]] bool arePixelEdgesAskedFor(cairo_t* context);
 
 /// Whether images and areas that were painted up to their clips met at edges that could not be put between
 /// pixels: at any other angle than level and upright. False where askForPixelEdges() was not called.

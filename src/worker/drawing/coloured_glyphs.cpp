@@ -1,0 +1,85 @@
+#include "worker/drawing/coloured_glyphs.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <span>
+
+#include "worker/drawing/bitmap.h"
+#include "worker/drawing/cairo_surface.h"
+#include "worker/drawing/pixel_edges.h"
+
+namespace norvex::engine {
+namespace {
+
+using Drawing = cairo_user_scaled_font_render_glyph_func_t;
+
+const cairo_user_data_key_t kKnown{};
+/// By the glyph's number in its face.
+using Known = QHash<unsigned long, bool>;
+
+Known& knownOf(cairo_font_face_t* face) {
+  if (void* known = cairo_font_face_get_user_data(face, &kKnown)) return *static_cast<Known*>(known);
+  auto* made = new Known;
+  cairo_font_face_set_user_data(face, &kKnown, made, [](void* known) { delete static_cast<Known*>(known); });
+  return *made;
+}
+
+/// Draws a glyph at the origin, an em a unit of `context`, y down.
+void draw(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph, cairo_t* context) {
+  cairo_text_extents_t extents{};
+  cairo_save(context);
+  drawing(font, glyph, context, &extents);
+  cairo_restore(context);
+}
+
+/// Whether something of it, drawn around its em, is in another colour than what was chosen for it.
+bool setsColours(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph) {
+  constexpr int kSide = 32;
+  Result<Bitmap> pixels = Bitmap::create({kSide, kSide});
+  if (!pixels) return false;
+  {
+    const CairoSurface surface(cairo_image_surface_create_for_data(
+        reinterpret_cast<uchar*>(pixels->row(0)), CAIRO_FORMAT_ARGB32, kSide, kSide, pixels->bytesPerRow()));
+    const CairoContext context(cairo_create(surface.get()));
+    cairo_set_source_rgb(context.get(), 0, 0, 0);
+    cairo_translate(context.get(), kSide / 4.0, kSide * 3 / 4.0);
+    cairo_scale(context.get(), kSide / 2.0, kSide / 2.0);
+    draw(drawing, font, glyph, context.get());
+    cairo_surface_flush(surface.get());
+  }
+  const std::span<const Argb32> all(pixels->row(0), size_t(kSide) * kSide);
+  return std::any_of(all.begin(), all.end(), [](Argb32 pixel) { return (pixel & 0xffffff) != 0; });
+}
+
+void showMasks(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
+  if (count > 0) cairo_show_text_glyphs(context, nullptr, 0, glyphs, count, nullptr, 0, {});
+}
+
+}  // namespace
+
+void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
+  cairo_font_face_t* face = cairo_get_font_face(context);
+  const bool isDrawn =
+      arePixelEdgesAskedFor(context) && cairo_font_face_get_type(face) == CAIRO_FONT_TYPE_USER;
+  const Drawing drawing = isDrawn ? cairo_user_font_face_get_render_glyph_func(face) : nullptr;
+  if (!drawing) return showMasks(context, glyphs, count);
+  cairo_scaled_font_t* font = cairo_get_scaled_font(context);
+  Known& known = knownOf(face);
+  cairo_matrix_t em;
+  cairo_get_font_matrix(context, &em);
+  for (const cairo_glyph_t& glyph : std::span(glyphs, size_t(std::max(count, 0)))) {
+    if (!known.contains(glyph.index)) known.insert(glyph.index, setsColours(drawing, font, glyph.index));
+    if (!known.value(glyph.index)) {
+      showMasks(context, &glyph, 1);
+      continue;
+    }
+    cairo_save(context);
+    cairo_translate(context, glyph.x, glyph.y);
+    cairo_transform(context, &em);
+    draw(drawing, font, glyph.index, context);
+    cairo_restore(context);
+  }
+}
+
+}  // namespace norvex::engine

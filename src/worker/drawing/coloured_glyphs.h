@@ -1,0 +1,13 @@
+// Glyphs that are drawings in colours of their own, as a font of a PDF may have them (small pictures, flags,
+// faces). This cairo makes a mask of every glyph that a program draws: a picture would become a black square.
+#pragma once
+
+#include <cairo.h>
+
+namespace norvex::engine {
+
+/// As cairo_show_glyphs(). Where askForPixelEdges() was called, glyphs in colours of their own are drawn into
+/// `context` itself; those that leave their colour open stay masks, which are kept and cost less.
+void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count);
+
+}  // namespace norvex::engine

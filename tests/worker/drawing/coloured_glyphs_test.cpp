@@ -1,0 +1,82 @@
+#include "worker/drawing/coloured_glyphs.h"
+
+#include <memory>
+
+#include "kit/test_main.h"
+#include "worker/drawing/cairo_surface.h"
+#include "worker/drawing/pixel_edges.h"
+
+using namespace norvex;
+using namespace norvex::engine;
+
+namespace {
+
+constexpr unsigned long kOpen = 0, kRed = 1;
+int drawings = 0;
+
+/// A square of half an em, in red or in whatever colour is chosen.
+cairo_status_t drawGlyph(cairo_scaled_font_t*, unsigned long glyph, cairo_t* context,
+                         cairo_text_extents_t* extents) {
+  ++drawings;
+  if (glyph == kRed) cairo_set_source_rgb(context, 1, 0, 0);
+  cairo_rectangle(context, 0, -0.5, 0.5, 0.5);
+  cairo_fill(context);
+  extents->x_advance = 1;
+  return CAIRO_STATUS_SUCCESS;
+}
+
+struct FaceRelease {
+  void operator()(cairo_font_face_t* face) const { cairo_font_face_destroy(face); }
+};
+using Face = std::unique_ptr<cairo_font_face_t, FaceRelease>;
+
+Face madeFace() {
+  Face face(cairo_user_font_face_create());
+  cairo_user_font_face_set_render_glyph_func(face.get(), drawGlyph);
+  return face;
+}
+
+/// What the middle of a glyph in blue comes to.
+Argb32 shown(const Face& face, unsigned long glyph, bool asked) {
+  Bitmap pixels = Bitmap::create({20, 20}).value();
+  const CairoSurface surface(cairo_image_surface_create_for_data(
+      reinterpret_cast<uchar*>(pixels.row(0)), CAIRO_FORMAT_ARGB32, 20, 20, pixels.bytesPerRow()));
+  const CairoContext context(cairo_create(surface.get()));
+  if (asked) askForPixelEdges(context.get());
+  cairo_set_font_face(context.get(), face.get());
+  cairo_set_font_size(context.get(), 20);
+  cairo_set_source_rgb(context.get(), 0, 0, 1);
+  const cairo_glyph_t placed{glyph, 5, 15};
+  showGlyphs(context.get(), &placed, 1);
+  cairo_surface_flush(surface.get());
+  return pixels.row(10)[10];
+}
+
+}  // namespace
+
+class ColouredGlyphsTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void aGlyphKeepsItsOwnColours() {
+    const Face face = madeFace();
+    QCOMPARE(shown(face, kRed, true), 0xFFFF0000u);
+    QCOMPARE(shown(face, kRed, false), 0xFF0000FFu);  // what becomes of it otherwise
+  }
+
+  void aGlyphWithoutColoursTakesTheChosenOne() {
+    const Face face = madeFace();
+    QCOMPARE(shown(face, kOpen, true), 0xFF0000FFu);
+    QCOMPARE(shown(face, kOpen, false), 0xFF0000FFu);
+  }
+
+  void aMaskIsNotDrawnAgain() {
+    const Face face = madeFace();
+    shown(face, kOpen, true);
+    const int before = drawings;
+    shown(face, kOpen, true);
+    QCOMPARE(drawings, before);
+  }
+};
+
+NORVEX_TEST(ColouredGlyphsTest)
+#include "coloured_glyphs_test.moc"

@@ -68,18 +68,24 @@ void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
   Known& known = knownOf(face);
   cairo_matrix_t em;
   cairo_get_font_matrix(context, &em);
-  for (const cairo_glyph_t& glyph : std::span(glyphs, size_t(std::max(count, 0)))) {
+  // Masks that follow one another are handed on together, as they came.
+  int masks = 0;
+  for (int i = 0; i < count; ++i) {
+    const cairo_glyph_t& glyph = glyphs[i];
     if (!known.contains(glyph.index)) known.insert(glyph.index, setsColours(drawing, font, glyph.index));
     if (!known.value(glyph.index)) {
-      showMasks(context, &glyph, 1);
+      ++masks;
       continue;
     }
+    showMasks(context, glyphs + i - masks, masks);
+    masks = 0;
     cairo_save(context);
     cairo_translate(context, glyph.x, glyph.y);
     cairo_transform(context, &em);
     draw(drawing, font, glyph.index, context);
     cairo_restore(context);
   }
+  showMasks(context, glyphs + count - masks, masks);
 }
 
 }  // namespace norvex::engine

@@ -69,6 +69,25 @@ class ColouredGlyphsTest : public QObject {
     QCOMPARE(shown(face, kOpen, false), 0xFF0000FFu);
   }
 
+  void glyphsOfBothSortsStandInOneLine() {
+    const Face face = madeFace();
+    Bitmap pixels = Bitmap::create({100, 20}).value();
+    const CairoSurface surface(cairo_image_surface_create_for_data(
+        reinterpret_cast<uchar*>(pixels.row(0)), CAIRO_FORMAT_ARGB32, 100, 20, pixels.bytesPerRow()));
+    const CairoContext context(cairo_create(surface.get()));
+    askForPixelEdges(context.get());
+    cairo_set_font_face(context.get(), face.get());
+    cairo_set_font_size(context.get(), 20);
+    cairo_set_source_rgb(context.get(), 0, 0, 1);
+    const cairo_glyph_t line[]{
+        {kOpen, 0, 15}, {kOpen, 20, 15}, {kRed, 40, 15}, {kOpen, 60, 15}, {kRed, 80, 15}};
+    showGlyphs(context.get(), line, 5);
+    cairo_surface_flush(surface.get());
+    const Argb32 blue = 0xFF0000FFu, red = 0xFFFF0000u;
+    const Argb32 expected[]{blue, blue, red, blue, red};
+    for (int i = 0; i < 5; ++i) QCOMPARE(pixels.row(10)[20 * i + 5], expected[i]);
+  }
+
   void aMaskIsNotDrawnAgain() {
     const Face face = madeFace();
     shown(face, kOpen, true);

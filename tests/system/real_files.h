@@ -4,7 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 

@@ -3205,6 +3205,70 @@
         <translation>Der PostScript-Interpreter ließ sich nicht einschließen.</translation>
     </message>
     <message>
+        <source>there is no %%BoundingBox</source>
+        <translation>Es gibt kein %%BoundingBox.</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview</source>
+        <translation>Die Datei ist verpackt als %1, mit einem Macintosh-Bild (PICT) von %2 × %3 Punkt als Vorschau.</translation>
+    </message>
+    <message>
+        <source>there is no preview</source>
+        <translation>Es gibt keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>the file does not begin with %!PS-Adobe</source>
+        <translation>Die Datei beginnt nicht mit %!PS-Adobe.</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>showpage fehlt.</translation>
+    </message>
+    <message>
+        <source>the font %1 is a Type 3 font</source>
+        <translation>Die Schrift %1 ist eine Type-3-Schrift.</translation>
+    </message>
+    <message>
+        <source>the font %1 is not embedded</source>
+        <translation>Die Schrift %1 ist nicht eingebettet.</translation>
+    </message>
+    <message>
+        <source>the font %1 is embedded as a whole</source>
+        <translation>Die Schrift %1 ist vollständig eingebettet.</translation>
+    </message>
+    <message>
+        <source>there are RGB colours</source>
+        <translation>Es gibt RGB-Farben.</translation>
+    </message>
+    <message>
+        <source>white overprints, and will vanish</source>
+        <translation>Weiß überdruckt und wird verschwinden.</translation>
+    </message>
+    <message>
+        <source>small black text does not overprint</source>
+        <translation>Kleine schwarze Schrift überdruckt nicht.</translation>
+    </message>
+    <message>
+        <source>the document is encrypted</source>
+        <translation>Das Dokument ist verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>it has scripts or animations, which are not run</source>
+        <translation>Es hat Skripte oder Animationen, die nicht ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>its width or height is absent, or has no unit</source>
+        <translation>Breite oder Höhe fehlt oder hat keine Einheit.</translation>
+    </message>
+    <message>
+        <source>there is transparency</source>
+        <translation>Es gibt Transparenz.</translation>
+    </message>
+    <message>
+        <source>a part of the page was not looked at</source>
+        <translation>Ein Teil der Seite wurde nicht angesehen.</translation>
+    </message>
+    <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
         <translation>%%BoundingBox enthält „%1“ statt vier Zahlen.</translation>
     </message>
@@ -3219,6 +3283,10 @@
     <message>
         <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
         <translation>%%BoundingBox %1 ist viel größer als %%HiResBoundingBox %2.</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>ohne Namen</translation>
     </message>
     <message>
         <source>%%BoundingBox is promised for the end and does not come</source>
@@ -3383,6 +3451,14 @@
     <message>
         <source>%1 stands behind %2</source>
         <translation>%1 steht hinter %2.</translation>
+    </message>
+    <message>
+        <source>%1 ends what did not begin</source>
+        <translation>%1 beendet, was nicht begonnen hat.</translation>
+    </message>
+    <message>
+        <source>%1 has no end</source>
+        <translation>%1 hat kein Ende.</translation>
     </message>
 </context>
 </TS>

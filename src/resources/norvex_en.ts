@@ -3205,6 +3205,70 @@
         <translation>the interpreter of PostScript could not be confined</translation>
     </message>
     <message>
+        <source>there is no %%BoundingBox</source>
+        <translation>there is no %%BoundingBox</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview</source>
+        <translation>the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview</translation>
+    </message>
+    <message>
+        <source>there is no preview</source>
+        <translation>there is no preview</translation>
+    </message>
+    <message>
+        <source>the file does not begin with %!PS-Adobe</source>
+        <translation>the file does not begin with %!PS-Adobe</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>showpage is missing</translation>
+    </message>
+    <message>
+        <source>the font %1 is a Type 3 font</source>
+        <translation>the font %1 is a Type 3 font</translation>
+    </message>
+    <message>
+        <source>the font %1 is not embedded</source>
+        <translation>the font %1 is not embedded</translation>
+    </message>
+    <message>
+        <source>the font %1 is embedded as a whole</source>
+        <translation>the font %1 is embedded as a whole</translation>
+    </message>
+    <message>
+        <source>there are RGB colours</source>
+        <translation>there are RGB colours</translation>
+    </message>
+    <message>
+        <source>white overprints, and will vanish</source>
+        <translation>white overprints, and will vanish</translation>
+    </message>
+    <message>
+        <source>small black text does not overprint</source>
+        <translation>small black text does not overprint</translation>
+    </message>
+    <message>
+        <source>the document is encrypted</source>
+        <translation>the document is encrypted</translation>
+    </message>
+    <message>
+        <source>it has scripts or animations, which are not run</source>
+        <translation>it has scripts or animations, which are not run</translation>
+    </message>
+    <message>
+        <source>its width or height is absent, or has no unit</source>
+        <translation>its width or height is absent, or has no unit</translation>
+    </message>
+    <message>
+        <source>there is transparency</source>
+        <translation>there is transparency</translation>
+    </message>
+    <message>
+        <source>a part of the page was not looked at</source>
+        <translation>a part of the page was not looked at</translation>
+    </message>
+    <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
         <translation>%%BoundingBox holds "%1" instead of four numbers</translation>
     </message>
@@ -3219,6 +3283,10 @@
     <message>
         <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
         <translation>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>without a name</translation>
     </message>
     <message>
         <source>%%BoundingBox is promised for the end and does not come</source>
@@ -3383,6 +3451,14 @@
     <message>
         <source>%1 stands behind %2</source>
         <translation>%1 stands behind %2</translation>
+    </message>
+    <message>
+        <source>%1 ends what did not begin</source>
+        <translation>%1 ends what did not begin</translation>
+    </message>
+    <message>
+        <source>%1 has no end</source>
+        <translation>%1 has no end</translation>
     </message>
 </context>
 </TS>

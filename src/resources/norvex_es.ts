@@ -3205,6 +3205,70 @@
         <translation>No se pudo confinar el intérprete de PostScript.</translation>
     </message>
     <message>
+        <source>there is no %%BoundingBox</source>
+        <translation>No hay %%BoundingBox.</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview</source>
+        <translation>El archivo está envuelto como %1, con una imagen Macintosh (PICT) de %2 × %3 puntos como vista previa.</translation>
+    </message>
+    <message>
+        <source>there is no preview</source>
+        <translation>No hay vista previa.</translation>
+    </message>
+    <message>
+        <source>the file does not begin with %!PS-Adobe</source>
+        <translation>El archivo no empieza con %!PS-Adobe.</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>Falta showpage.</translation>
+    </message>
+    <message>
+        <source>the font %1 is a Type 3 font</source>
+        <translation>La fuente %1 es de tipo 3.</translation>
+    </message>
+    <message>
+        <source>the font %1 is not embedded</source>
+        <translation>La fuente %1 no está incrustada.</translation>
+    </message>
+    <message>
+        <source>the font %1 is embedded as a whole</source>
+        <translation>La fuente %1 está incrustada entera.</translation>
+    </message>
+    <message>
+        <source>there are RGB colours</source>
+        <translation>Hay colores RGB.</translation>
+    </message>
+    <message>
+        <source>white overprints, and will vanish</source>
+        <translation>El blanco se sobreimprime y desaparecerá.</translation>
+    </message>
+    <message>
+        <source>small black text does not overprint</source>
+        <translation>El texto negro pequeño no se sobreimprime.</translation>
+    </message>
+    <message>
+        <source>the document is encrypted</source>
+        <translation>El documento está cifrado.</translation>
+    </message>
+    <message>
+        <source>it has scripts or animations, which are not run</source>
+        <translation>Tiene scripts o animaciones, que no se ejecutan.</translation>
+    </message>
+    <message>
+        <source>its width or height is absent, or has no unit</source>
+        <translation>Falta su ancho o su alto, o no tiene unidad.</translation>
+    </message>
+    <message>
+        <source>there is transparency</source>
+        <translation>Hay transparencia.</translation>
+    </message>
+    <message>
+        <source>a part of the page was not looked at</source>
+        <translation>Una parte de la página no se miró.</translation>
+    </message>
+    <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
         <translation>%%BoundingBox contiene «%1» en lugar de cuatro números.</translation>
     </message>
@@ -3219,6 +3283,10 @@
     <message>
         <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
         <translation>%%BoundingBox %1 es mucho mayor que %%HiResBoundingBox %2.</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>sin nombre</translation>
     </message>
     <message>
         <source>%%BoundingBox is promised for the end and does not come</source>
@@ -3383,6 +3451,14 @@
     <message>
         <source>%1 stands behind %2</source>
         <translation>%1 está después de %2.</translation>
+    </message>
+    <message>
+        <source>%1 ends what did not begin</source>
+        <translation>%1 termina lo que no empezó.</translation>
+    </message>
+    <message>
+        <source>%1 has no end</source>
+        <translation>%1 no tiene fin.</translation>
     </message>
 </context>
 </TS>

@@ -3205,6 +3205,70 @@
         <translation>L’interpréteur PostScript n’a pas pu être confiné.</translation>
     </message>
     <message>
+        <source>there is no %%BoundingBox</source>
+        <translation>Il n’y a pas de %%BoundingBox.</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview</source>
+        <translation>Le fichier est emballé en %1, avec une image Macintosh (PICT) de %2 × %3 points comme aperçu.</translation>
+    </message>
+    <message>
+        <source>there is no preview</source>
+        <translation>Il n’y a pas d’aperçu.</translation>
+    </message>
+    <message>
+        <source>the file does not begin with %!PS-Adobe</source>
+        <translation>Le fichier ne commence pas par %!PS-Adobe.</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>showpage manque.</translation>
+    </message>
+    <message>
+        <source>the font %1 is a Type 3 font</source>
+        <translation>La police %1 est une police Type 3.</translation>
+    </message>
+    <message>
+        <source>the font %1 is not embedded</source>
+        <translation>La police %1 n’est pas incorporée.</translation>
+    </message>
+    <message>
+        <source>the font %1 is embedded as a whole</source>
+        <translation>La police %1 est incorporée en entier.</translation>
+    </message>
+    <message>
+        <source>there are RGB colours</source>
+        <translation>Il y a des couleurs RVB.</translation>
+    </message>
+    <message>
+        <source>white overprints, and will vanish</source>
+        <translation>Du blanc est en surimpression et disparaîtra.</translation>
+    </message>
+    <message>
+        <source>small black text does not overprint</source>
+        <translation>Le petit texte noir n’est pas en surimpression.</translation>
+    </message>
+    <message>
+        <source>the document is encrypted</source>
+        <translation>Le document est chiffré.</translation>
+    </message>
+    <message>
+        <source>it has scripts or animations, which are not run</source>
+        <translation>Il a des scripts ou des animations, qui ne sont pas exécutés.</translation>
+    </message>
+    <message>
+        <source>its width or height is absent, or has no unit</source>
+        <translation>Sa largeur ou sa hauteur manque, ou n’a pas d’unité.</translation>
+    </message>
+    <message>
+        <source>there is transparency</source>
+        <translation>Il y a de la transparence.</translation>
+    </message>
+    <message>
+        <source>a part of the page was not looked at</source>
+        <translation>Une partie de la page n’a pas été examinée.</translation>
+    </message>
+    <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
         <translation>%%BoundingBox contient « %1 » au lieu de quatre nombres.</translation>
     </message>
@@ -3219,6 +3283,10 @@
     <message>
         <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
         <translation>%%BoundingBox %1 est bien plus grand que %%HiResBoundingBox %2.</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>sans nom</translation>
     </message>
     <message>
         <source>%%BoundingBox is promised for the end and does not come</source>
@@ -3383,6 +3451,14 @@
     <message>
         <source>%1 stands behind %2</source>
         <translation>%1 se trouve après %2.</translation>
+    </message>
+    <message>
+        <source>%1 ends what did not begin</source>
+        <translation>%1 termine ce qui n’a pas commencé.</translation>
+    </message>
+    <message>
+        <source>%1 has no end</source>
+        <translation>%1 n’a pas de fin.</translation>
     </message>
 </context>
 </TS>

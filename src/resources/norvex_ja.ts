@@ -3205,6 +3205,70 @@
         <translation>PostScript インタプリタを隔離できませんでした。</translation>
     </message>
     <message>
+        <source>there is no %%BoundingBox</source>
+        <translation>%%BoundingBox がありません。</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview</source>
+        <translation>ファイルは %1 で包まれ、%2 × %3 ポイントの Macintosh の画像（PICT）がプレビューです。</translation>
+    </message>
+    <message>
+        <source>there is no preview</source>
+        <translation>プレビューがありません。</translation>
+    </message>
+    <message>
+        <source>the file does not begin with %!PS-Adobe</source>
+        <translation>ファイルが %!PS-Adobe で始まっていません。</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>showpage がありません。</translation>
+    </message>
+    <message>
+        <source>the font %1 is a Type 3 font</source>
+        <translation>フォント %1 は Type 3 フォントです。</translation>
+    </message>
+    <message>
+        <source>the font %1 is not embedded</source>
+        <translation>フォント %1 は埋め込まれていません。</translation>
+    </message>
+    <message>
+        <source>the font %1 is embedded as a whole</source>
+        <translation>フォント %1 は全体が埋め込まれています。</translation>
+    </message>
+    <message>
+        <source>there are RGB colours</source>
+        <translation>RGB の色があります。</translation>
+    </message>
+    <message>
+        <source>white overprints, and will vanish</source>
+        <translation>白がオーバープリントになっていて、消えます。</translation>
+    </message>
+    <message>
+        <source>small black text does not overprint</source>
+        <translation>小さな黒い文字がオーバープリントになっていません。</translation>
+    </message>
+    <message>
+        <source>the document is encrypted</source>
+        <translation>書類は暗号化されています。</translation>
+    </message>
+    <message>
+        <source>it has scripts or animations, which are not run</source>
+        <translation>スクリプトまたはアニメーションがありますが、実行されません。</translation>
+    </message>
+    <message>
+        <source>its width or height is absent, or has no unit</source>
+        <translation>幅または高さがないか、単位がありません。</translation>
+    </message>
+    <message>
+        <source>there is transparency</source>
+        <translation>透明があります。</translation>
+    </message>
+    <message>
+        <source>a part of the page was not looked at</source>
+        <translation>ページの一部を調べていません。</translation>
+    </message>
+    <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
         <translation>%%BoundingBox の値が 4 つの数値ではなく“%1”です。</translation>
     </message>
@@ -3219,6 +3283,10 @@
     <message>
         <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
         <translation>%%BoundingBox %1 が %%HiResBoundingBox %2 よりはるかに大きい値です。</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>名前なし</translation>
     </message>
     <message>
         <source>%%BoundingBox is promised for the end and does not come</source>
@@ -3383,6 +3451,14 @@
     <message>
         <source>%1 stands behind %2</source>
         <translation>%1 が %2 より後にあります。</translation>
+    </message>
+    <message>
+        <source>%1 ends what did not begin</source>
+        <translation>%1 に対応する始まりがありません。</translation>
+    </message>
+    <message>
+        <source>%1 has no end</source>
+        <translation>%1 に終わりがありません。</translation>
     </message>
 </context>
 </TS>

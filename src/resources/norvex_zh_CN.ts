@@ -3205,6 +3205,70 @@
         <translation>无法限制 PostScript 解释器。</translation>
     </message>
     <message>
+        <source>there is no %%BoundingBox</source>
+        <translation>没有 %%BoundingBox。</translation>
+    </message>
+    <message>
+        <source>the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview</source>
+        <translation>文件以 %1 形式包装，预览为 %2 × %3 点的 Macintosh 图片（PICT）。</translation>
+    </message>
+    <message>
+        <source>there is no preview</source>
+        <translation>没有预览。</translation>
+    </message>
+    <message>
+        <source>the file does not begin with %!PS-Adobe</source>
+        <translation>文件不以 %!PS-Adobe 开头。</translation>
+    </message>
+    <message>
+        <source>showpage is missing</source>
+        <translation>缺少 showpage。</translation>
+    </message>
+    <message>
+        <source>the font %1 is a Type 3 font</source>
+        <translation>字体 %1 是 Type 3 字体。</translation>
+    </message>
+    <message>
+        <source>the font %1 is not embedded</source>
+        <translation>字体 %1 未嵌入。</translation>
+    </message>
+    <message>
+        <source>the font %1 is embedded as a whole</source>
+        <translation>字体 %1 已完整嵌入。</translation>
+    </message>
+    <message>
+        <source>there are RGB colours</source>
+        <translation>有 RGB 颜色。</translation>
+    </message>
+    <message>
+        <source>white overprints, and will vanish</source>
+        <translation>白色设为叠印，将会消失。</translation>
+    </message>
+    <message>
+        <source>small black text does not overprint</source>
+        <translation>小号黑色文字未叠印。</translation>
+    </message>
+    <message>
+        <source>the document is encrypted</source>
+        <translation>文档已加密。</translation>
+    </message>
+    <message>
+        <source>it has scripts or animations, which are not run</source>
+        <translation>含有脚本或动画，不会运行。</translation>
+    </message>
+    <message>
+        <source>its width or height is absent, or has no unit</source>
+        <translation>缺少宽度或高度，或没有单位。</translation>
+    </message>
+    <message>
+        <source>there is transparency</source>
+        <translation>有透明效果。</translation>
+    </message>
+    <message>
+        <source>a part of the page was not looked at</source>
+        <translation>页面的一部分未检查。</translation>
+    </message>
+    <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
         <translation>%%BoundingBox 的内容是“%1”，而不是四个数值。</translation>
     </message>
@@ -3219,6 +3283,10 @@
     <message>
         <source>%%BoundingBox %1 is far larger than %%HiResBoundingBox %2</source>
         <translation>%%BoundingBox %1 远大于 %%HiResBoundingBox %2。</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>无名称</translation>
     </message>
     <message>
         <source>%%BoundingBox is promised for the end and does not come</source>
@@ -3383,6 +3451,14 @@
     <message>
         <source>%1 stands behind %2</source>
         <translation>%1 位于 %2 之后。</translation>
+    </message>
+    <message>
+        <source>%1 ends what did not begin</source>
+        <translation>%1 结束了并未开始的内容。</translation>
+    </message>
+    <message>
+        <source>%1 has no end</source>
+        <translation>%1 没有结尾。</translation>
     </message>
 </context>
 </TS>

@@ -145,6 +145,24 @@ class ToldSentencesTest : public QObject {
     QVERIFY2(missing.isEmpty(), qPrintable(missing.join('\n')));
   }
 
+  /// What a check finds is put together of texts that stand in keys.
+  void everyFindingHasItsKey() {
+    static const QRegularExpression place("%[1-9]"), words("[a-z]+ [a-z]+ ");
+    const QString keys = keys_.join('\n');
+    QStringList missing;
+    int seen = 0;
+    QDirIterator files(kRoot + "src/check", {"*_rules.cpp"}, QDir::Files);
+    while (files.hasNext())
+      for (const QString& text : textsOf(contentOf(files.next()))) {
+        if (!words.match(text).hasMatch()) continue;  // a name, a comment of a file
+        ++seen;
+        for (const QString& part : text.split(place, Qt::SkipEmptyParts))
+          if (!keys.contains(part.trimmed())) missing << text;
+      }
+    QVERIFY(seen > 40);
+    QVERIFY2(missing.isEmpty(), qPrintable(missing.join('\n')));
+  }
+
  private:
   QStringList keys_;
 };

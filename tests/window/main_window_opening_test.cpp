@@ -1,4 +1,5 @@
 // Opening without waiting: the window first, the picture when it comes, Cancel in between.
+#include <QComboBox>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -59,6 +60,9 @@ class MainWindowOpeningTest : public QObject {
     c.showWindow();
     QVERIFY(c.window()->isVisible());
     QVERIFY(c.isReading() && !c.view()->imageRep());
+    QStringList factors;
+    for (const QComboBox* each : c.scrollArea()->findChildren<QComboBox*>()) factors << each->currentText();
+    QCOMPARE(factors, QStringList{"100%"});
     auto* card = c.window()->findChild<LoadingCard*>();
     QVERIFY(card && card->isUnderWay());
     QTRY_VERIFY(card->isVisible());

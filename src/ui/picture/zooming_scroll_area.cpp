@@ -13,6 +13,7 @@
 
 #include "base/localized_string.h"
 #include "display/norvex_view.h"
+#include "display/zoom_factors.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/style/quiet_text.h"
 
@@ -189,7 +190,11 @@ void ZoomingScrollArea::synchronize() {
   };
   set(horizontal_, range.width(), offset.x(), clip_->width());
   set(vertical_, range.height(), offset.y(), clip_->height());
-  popUp_->setCurrentIndex(scrollView_.factorPopUpButton()->selectedIndex());
+  // The menu's first item stands for a factor that nobody has told yet: pictures are shown in natural size
+  // first.
+  const int chosen = scrollView_.factorPopUpButton()->selectedIndex();
+  const bool isUntold = chosen == 0 && indexOfZoomFactor(scrollView_.factor()) != 0;
+  popUp_->setCurrentIndex(isUntold ? indexOfZoomFactor(1.0) : chosen);
   popUp_->setPlaceholderText(QStringLiteral("%1%").arg(std::lround(scrollView_.factor() * 100)));
   placeCards();
   if (document_) document_->update();

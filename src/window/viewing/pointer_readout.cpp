@@ -4,6 +4,8 @@
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <QStyle>
+#include <QStyleOptionToolButton>
 #include <QToolButton>
 
 #include "base/localized_string.h"
@@ -26,9 +28,18 @@ class ReadoutField final : public QToolButton {
   }
   [[nodiscard]] QSize sizeHint() const override {
     const int width = fontMetrics().horizontalAdvance(QStringLiteral("00000.0, 00000.0 mm")) + 16;
-    return {width, QToolButton::sizeHint().height()};
+    return {width, heightOfText()};
   }
-  [[nodiscard]] QSize minimumSizeHint() const override { return {0, QToolButton::sizeHint().height()}; }
+  [[nodiscard]] QSize minimumSizeHint() const override { return {0, heightOfText()}; }
+
+ private:
+  /// The window's size counts on a foot that keeps its height, and without a picture there is no text.
+  [[nodiscard]] int heightOfText() const {
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    const QSize text = fontMetrics().size(Qt::TextShowMnemonic, QStringLiteral("0"));
+    return style()->sizeFromContents(QStyle::CT_ToolButton, &option, text, this).height();
+  }
 
  protected:
   void paintEvent(QPaintEvent* event) override {

@@ -1,5 +1,6 @@
 #include "application/manual_window.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
@@ -57,9 +58,29 @@ class ManualWindowTest : public QObject {
     QLocale::setDefault(QLocale("de_AT"));
     QVERIFY(ManualWindow().page()->toPlainText().contains("Bilder öffnen"));
     QCOMPARE(manualPages().size(), pages);
+    QLocale::setDefault(QLocale("ja_JP"));
+    QVERIFY(ManualWindow().page()->toPlainText().contains("画像を開く"));
+    QCOMPARE(manualPages().size(), pages);
     QLocale::setDefault(QLocale("tlh"));
     QVERIFY(ManualWindow().page()->toPlainText().contains("Opening pictures"));
     QLocale::setDefault(before);
+  }
+
+  void everyLanguageTellsTheSame() {
+    const QDir folder(":/manual");
+    int languages = 0;
+    for (const QString& language : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+      ++languages;
+      for (const QString& page : QDir(":/manual/en").entryList({"*.html"})) {
+        QFile file(":/manual/" + language + '/' + page), english(":/manual/en/" + page);
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+        QVERIFY(english.open(QIODevice::ReadOnly));
+        const QByteArray told = file.readAll(), model = english.readAll();
+        for (const char* tag : {"<h2>", "<p>", "<li>", "<pre>", "<img "})
+          QVERIFY2(told.count(tag) == model.count(tag), qPrintable(file.fileName() + ' ' + tag));
+      }
+    }
+    QVERIFY(languages >= 3);
   }
 
   void everyPictureOfThePagesIsThere() {

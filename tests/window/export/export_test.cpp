@@ -262,15 +262,16 @@ class ExportTest : public QObject {
     MainWindowController& c = f.controller;
     c.window()->show();
     const auto process = f.service.lastProcess();
-    process->hold(PictureCall::Compose);
+    for (const PictureCall call : {PictureCall::Pdf, PictureCall::Compose}) process->hold(call);
     f.dialog();
-    f.choose(PictureFormat::Eps);
-    f.name("/nowhere/at/all/out.eps");
+    f.choose(PictureFormat::Pdf);
+    f.name("/nowhere/at/all/out.pdf");
     QSignalSpy ended(f.command, &ExportCommand::ended);
     emit f.command->dialog()->chosen();
+    QVERIFY(process->waitUntilHeld(PictureCall::Compose));
     f.alerts.answer = 0;  // "Close When Finished"
     QVERIFY(!c.window()->close() && c.closesWhenDone());
-    process->release(PictureCall::Compose);
+    for (const PictureCall call : {PictureCall::Pdf, PictureCall::Compose}) process->release(call);
     QTRY_COMPARE(ended.size(), 1);
     QCOMPARE(f.alerts.shown.size(), 2);
     QTest::qWait(50);

@@ -55,7 +55,7 @@ int main(int argc, char** argv) {
   };
   PostScriptInterpreter::SetUp setUp;
   if (!isTold(interpreterReadsPdf)) setUp.withoutPdf = partOfInterpreter("without-pdf").c_str();
-  setUp.readiesText = !isTold(interpreterIsForOne);
+  setUp.isForMany = !isTold(interpreterIsForOne);
   InterpreterServer server(FileDescriptor(controlDescriptor), FileDescriptor(interpreterReadiness), argv[1]);
   PostScriptInterpreter interpreter([&server] { return server.serve(); }, setUp);
   const int code = interpreter.run();

@@ -39,6 +39,9 @@ constexpr char kSetDistiller[] =
     ".distillersettings /default get dup length .distillercommon length add dict begin\n"
     ".distillercommon 2 { { systemdict 2 index known { pop pop } { def } ifelse } forall } repeat\n"
     "currentdict end setdistillerparams\n";
+// Colours of a page in RGB are told by profiles, whose tables are kept once they are made.
+constexpr char kReadyColours[] =
+    "gsave mark /PageSize [ 9 9 ] /bitrgb finddevice putdeviceprops setdevice newpath fill grestore";
 constexpr char kBeginPage[] = "newpath fill currentpagedevice pop\n";
 
 /// Where in its own files stands what is read of them.
@@ -56,8 +59,11 @@ std::vector<QByteArray> PostScriptInterpreter::initialArguments() const {
   arguments.insert(arguments.end(), engine::distillerOptions.begin(), engine::distillerOptions.end());
   // It draws nothing, and what every text of a PDF needs is there nevertheless.
   arguments.emplace_back("-sDEVICE=nullpage");
-  if (setUp_.readiesText) arguments.emplace_back("-dProvideUnicode");
-  arguments.insert(arguments.end(), engine::distillerStreams.begin(), engine::distillerStreams.end());
+  if (setUp_.isForMany) arguments.emplace_back("-dProvideUnicode");
+  const auto& streams = engine::distillerStreams;
+  arguments.insert(arguments.end(), streams.begin(), streams.end() - 1);
+  if (setUp_.isForMany) arguments.insert(arguments.end(), {"-c", kReadyColours, "-f"});
+  arguments.emplace_back(streams.back());
   return arguments;
 }
 

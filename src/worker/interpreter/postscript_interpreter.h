@@ -28,8 +28,9 @@ class PostScriptInterpreter {
     /// A folder with files that are read in place of those with which Ghostscript reads PDF; where they do
     /// not fit its version, it starts with its own. Empty: it is to read PDF, too.
     QByteArray withoutPdf;
-    /// Makes ready what every text of a PDF needs, which takes longer than a document without text.
-    bool readiesText = true;
+    /// Makes ready what every text of a PDF needs and the profiles of colours, which takes longer than a
+    /// document without text.
+    bool isForMany = true;
   };
 
   PostScriptInterpreter(Serve serve, SetUp setUp) : serve_(std::move(serve)), setUp_(std::move(setUp)) {}

@@ -130,6 +130,14 @@ class InksTest : public QObject {
              QFile::encodeName(line.path("plates/gr")) + "\xFCn-Cyan.png");
   }
 
+  void platesGoIntoAFolderWhoseNameIsNoText() {
+    Separated line;
+    const QByteArray folder = QFile::encodeName(line.path("gr")) + "\xFCn/plates";
+    QCOMPARE(line.run({"inks", line.write("a.eps", kEps), "--plates", fileNameText(folder)}), 0);
+    QVERIFY(fileExists(fileNameText(folder + "/a-Cyan.png")));
+    QVERIFY(folderExists(fileNameText(QFile::encodeName(line.path("gr")) + "\xFCn")));
+  }
+
   void aPlateThatCannotBeEncodedIsNotWritten() {
     PageInks nothing = page();
     nothing.pixels = QSize(0, 0);

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <system_error>
 
 #include "base/atomic_file.h"
 #include "base/file_name.h"
@@ -27,6 +29,14 @@ QString safeName(const QString& ink) {
   while (safe.startsWith(u'.')) safe.remove(0, 1);
   while (safe.endsWith(u'.')) safe.chop(1);
   return safe.isEmpty() ? QStringLiteral("ink") : safe;
+}
+
+/// With those that it stands in. Qt would take another name for one that is no text.
+bool makeFolder(const QString& folder) {
+  std::error_code failed;
+  const std::filesystem::path path(fileNameBytes(folder).toStdString());
+  std::filesystem::create_directories(path, failed);
+  return std::filesystem::is_directory(path, failed);
 }
 
 }  // namespace
@@ -67,7 +77,7 @@ Result<QStringList> writePlates(const PageInks& page, const QString& folder, con
     if (!force && fileExists(path))
       return Error{ErrorKind::CannotWrite,
                    QStringLiteral("%1 exists already (--force overwrites it)").arg(path)};
-  if (!QDir().mkpath(folder))
+  if (!makeFolder(folder))
     return Error{ErrorKind::CannotWrite, QStringLiteral("the folder %1 cannot be made").arg(folder)};
   for (qsizetype i = 0; i < paths.size(); ++i) {
     const QByteArray png = platePng(page, i);

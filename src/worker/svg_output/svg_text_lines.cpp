@@ -80,6 +80,21 @@ SvgTextLines::Faces& SvgTextLines::facesOf(SvgFont& font) {
   return *known_.insert(&font, &fonts_.back()).value();
 }
 
+QRectF SvgTextLines::boxOf(Faces& faces, unsigned glyph) {
+  const auto known = faces.boxes.constFind(glyph);
+  if (known != faces.boxes.constEnd()) return *known;
+  const double em = faces.font->unitsPerEm();
+  QRectF box(-em, -2 * em, 3 * em, 3 * em);
+  const auto reach = [&box](const QPointF& point) {
+    box.setCoords(std::min(box.left(), point.x()), std::min(box.top(), point.y()),
+                  std::max(box.right(), point.x()), std::max(box.bottom(), point.y()));
+  };
+  // The points that a step does not take are at the origin, which is in the box.
+  for (const OutlineStep& step : faces.font->outlineOf(glyph).steps)
+    for (const QPointF& point : step.points) reach({point.x(), -point.y()});
+  return *faces.boxes.insert(glyph, box);
+}
+
 bool SvgTextLines::goesOn(const Line& next, QPointF at) const {
   if (next.isAlone || line_->isAlone || line_->characters >= kMostCharacters) return false;
   const double gap = (at.x() - line_->end.x()) / next.fontSize;
@@ -108,7 +123,7 @@ bool SvgTextLines::add(SvgFont& font, const SvgShownGlyph& glyph, const QByteArr
   const double unit = std::sqrt(std::abs(down.determinant())), em = font.unitsPerEm();
   Line next{linearOf(down, unit), rounded(unit * em), paint, place};
   if (!faces.mayBeEmbedded || !(next.fontSize > 0) || !next.matrix.isInvertible()) return false;
-  const QRectF bounds = down.mapRect(QRectF(-em, -2 * em, 3 * em, 3 * em));
+  const QRectF bounds = down.mapRect(boxOf(faces, glyph.number));
   if (!sheet_.isSeen(bounds, place.clips)) return true;
   if (!faces.faces.knows(glyph.number) && !faces.faces.add(glyph.number, font.outlineOf(glyph.number)))
     return false;

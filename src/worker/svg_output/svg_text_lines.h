@@ -51,6 +51,7 @@ class SvgTextLines {
     WebFaces faces;
     QByteArray name;  ///< of the first of them
     bool mayBeEmbedded = true;
+    QHash<unsigned, QRectF> boxes = {};  ///< by glyph, see boxOf()
   };
   /// Characters of one face behind one another.
   struct Piece {
@@ -72,6 +73,9 @@ class SvgTextLines {
   };
 
   [[nodiscard]] Faces& facesOf(SvgFont& font);
+  /// Where a character may leave marks, in units of its font, y down: around its em, and wherever its outline
+  /// goes.
+  [[nodiscard]] static QRectF boxOf(Faces& faces, unsigned glyph);
   [[nodiscard]] bool goesOn(const Line& next, QPointF at) const;
   void begin(Line next, QPointF page);
   void put(const Faces& faces, const FaceCharacter& shown, double x);

@@ -37,6 +37,27 @@ QByteArray meanings(const QByteArray& lines) {
 }
 const QByteArray kTold = "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /ToUnicode 7 0 R >>";
 
+/// In a font of one character, `a`, whose file is OpenType.
+QByteArray pageInOwnFont(const QByteArray& contents, const QByteArray& file) {
+  const QByteArray described =
+      "<< /Type /Font /Subtype /TrueType /BaseFont /Own /FirstChar 97 /LastChar 97 /Widths [600] "
+      "/Encoding /WinAnsiEncoding /FontDescriptor << /Type /FontDescriptor /FontName /Own /Flags 32 "
+      "/FontBBox [0 0 500 700] /ItalicAngle 0 /Ascent 700 /Descent 0 /CapHeight 700 /StemV 80 /FontFile3 7 "
+      "0 R >> >>";
+  return page(contents, described, {stream(file, "/Subtype /OpenType")});
+}
+
+/// A triangle with these sides as the only character.
+WebFont triangle(double width, double height) {
+  WebFont font;
+  font.outlines = {{{{OutlineStep::Move, {QPointF(0, 0)}},
+                     {OutlineStep::Line, {QPointF(width, 0)}},
+                     {OutlineStep::Line, {QPointF(0, height)}}},
+                    600}};
+  font.shownBy = {{U'a', 0}};
+  return font;
+}
+
 /// The texts of an SVG, each in one piece, as a reader finds them.
 QStringList texts(const QByteArray& svg) {
   QStringList found;
@@ -195,26 +216,13 @@ class SvgTextLinesTest : public QObject {
   }
 
   void aFontThatMayNotBeEmbeddedStaysOutlines() {
-    WebFont font;
-    font.outlines = {{{{OutlineStep::Move, {QPointF(0, 0)}},
-                       {OutlineStep::Line, {QPointF(500, 0)}},
-                       {OutlineStep::Line, {QPointF(0, 700)}}},
-                      600}};
-    font.shownBy = {{U'a', 0}};
-    QByteArray free = *openTypeFont(font), restricted = free;
+    QByteArray free = *openTypeFont(triangle(500, 700)), restricted = free;
     const qsizetype entry = free.indexOf("OS/2");
     qsizetype at = 0;
     for (int i = 0; i < 4; ++i) at = at << 8 | quint8(free[entry + 8 + i]);
     restricted[at + 9] = 2;  // its rights: none
     const auto textsOf = [](const QByteArray& file) {
-      const QByteArray described =
-          "<< /Type /Font /Subtype /TrueType /BaseFont /Own /FirstChar 97 /LastChar 97 /Widths [600] "
-          "/Encoding /WinAnsiEncoding /FontDescriptor << /Type /FontDescriptor /FontName /Own /Flags 32 "
-          "/FontBBox [0 0 500 700] /ItalicAngle 0 /Ascent 700 /Descent 0 /CapHeight 700 /StemV 80 /FontFile3 "
-          "7 "
-          "0 R >> >>";
-      const MadeSvg made = MadeSvg::withText(
-          page("BT /F 40 Tf 10 30 Td (a) Tj ET", described, {stream(file, "/Subtype /OpenType")}));
+      const MadeSvg made = MadeSvg::withText(pageInOwnFont("BT /F 40 Tf 10 30 Td (a) Tj ET", file));
       return std::pair(texts(made.svg()), made.count("<use") + made.count("<path"));
     };
     QCOMPARE(textsOf(free).first, QStringList{"a"});
@@ -226,6 +234,13 @@ class SvgTextLinesTest : public QObject {
     const QByteArray svg = MadeSvg::withText(page("BT /F 12 Tf 500 30 Td (far) Tj ET")).svg();
     QCOMPARE(texts(svg), QStringList());
     QCOMPARE(fonts(svg).size(), 0);
+  }
+
+  void whatReachesInFromFarOutsideIsKept() {
+    const QByteArray tall = *openTypeFont(triangle(500, 6000)), low = *openTypeFont(triangle(500, 700));
+    const QByteArray below = "BT /F 20 Tf 10 -80 Td (a) Tj ET";  // 20 points of 120 are on the page
+    QCOMPARE(texts(MadeSvg::withText(pageInOwnFont(below, tall)).svg()), QStringList{"a"});
+    QCOMPARE(texts(MadeSvg::withText(pageInOwnFont(below, low)).svg()), QStringList());
   }
 
   void anOutlineStaysAboveTheTextBeforeIt() {

@@ -224,6 +224,15 @@ void IllustratorArtworkTest::patternsAndGradientsFill_data() {
           "/Domain [ 0 1 ] "
           "/C0 [ 0 .4 .2 0 ] /C1 [ 0 .8 .4 0 ] /N 1 >> >> shfill",
       "(Tints) 0 2 Bd [ 0 0.8 0.4 0 (Warm) 0 3 50 100 %_Bs\n0 0.8 0.4 0 (Warm) 0.5 3 50 0 %_Bs\nBD");
+  row("of two spot colours and a process colour", kSquare + "Bb 1 (Mix) 10 35 0 50 1 0 0 1 0 0 Bg f 0 BB",
+      clipped + three,
+      "(Mix) 0 3 Bd [ 0 1 1 0 (Warm) 0 3 50 100 %_Bs\n0 0 1 0 (Sun) 0 3 50 50 %_Bs\n1 0 0 0 1 50 0 "
+      "%_Bs\nBD");
+  row("of two spot colours in RGB", kSquare + "Bb 1 (Sea) 10 35 0 50 1 0 0 1 0 0 Bg f 0 BB",
+      clipped +
+          "<< /ShadingType 2 /ColorSpace /DeviceRGB /Coords [ 10 0 60 0 ] /Function << /FunctionType 2 "
+          "/Domain [ 0 1 ] /C0 [ .6 1 1 ] /C1 [ 1 1 0 ] /N 1 >> >> shfill",
+      "(Sea) 0 2 Bd [ 0 0 0 0 1 1 0 (Sun) 0 4 50 100 %_Bs\n0 0 0 0 0.2 1 1 (Sky) 0.5 4 50 0 %_Bs\nBD");
 }
 
 void IllustratorArtworkTest::imagesAndPlacedFilesAreDrawn_data() {

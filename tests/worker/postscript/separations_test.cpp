@@ -10,6 +10,7 @@
 
 #include "kit/test_main.h"
 #include "protocol/page_inks.h"
+#include "worker/kit/illustrator_artwork.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/postscript/eps_engine.h"
@@ -142,6 +143,33 @@ const QByteArray kColours("8BIM\3\xef\0\0\0\0\0\x0e\0\2\xff\xff\xcc\xcc\0\0\x99\
 class SeparationsTest : public QObject {
   Q_OBJECT
  private slots:
+  /// Files of old versions of Illustrator, which name the program that draws them and do not bring it.
+  void spotColoursOfTheStopsOfAGradientAreInks() {
+    const QByteArray square =
+        "10 10 m 60 10 L 60 60 L 10 60 L 10 10 L Bb 1 (G) 10 35 0 50 1 0 0 1 0 0 Bg f 0 BB";
+    const auto inksOf = [&](const QByteArray& stops) {
+      Opened file(PictureKind::Eps, kit::artwork(square, "(G) 0 2 Bd [ " + stops + " BD"));
+      const Result<PageInks> page = file.inks();
+      QMap<QString, double> amounts;
+      if (page)
+        for (const Ink& ink : page->inks) amounts.insert(ink.name, ink.amount);
+      return amounts;
+    };
+    const QByteArray warm = "0 0.8 0.4 0 (Warm) 0 3 50 100 %_Bs\n",
+                     cold = "1 0.1 0 0 (Cold) 0.5 3 50 0 %_Bs\n";
+    const QMap<QString, double> tints = inksOf(warm + "0 0.8 0.4 0 (Warm) 0.5 3 50 0 %_Bs\n");
+    QVERIFY(tints.value("Warm") > 0.1);
+    QCOMPARE(tints.value("Magenta"), 0.0);
+    const QMap<QString, double> two = inksOf(warm + cold);
+    QVERIFY(two.value("Warm") > 1.5 * two.value("Cold") && two.value("Cold") > 0.05);
+    QCOMPARE(two.value("Cyan") + two.value("Magenta"), 0.0);
+    const QMap<QString, double> mixed = inksOf(warm + "0 0 1 0 1 50 0 %_Bs\n");
+    QVERIFY(mixed.value("Warm") > 0.05 && mixed.value("Yellow") > 0.05);
+    QCOMPARE(mixed.value("Magenta"), 0.0);
+    const QMap<QString, double> all = inksOf("0 0.8 0.4 0 ([Registration]) 0 3 50 100 %_Bs\n0 0 50 0 %_Bs\n");
+    QVERIFY(all.value("Magenta") > 0.05);
+  }
+
   void platesAreThoseOfTheOtherDevice_data() {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QByteArray>("document");

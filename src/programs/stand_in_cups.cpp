@@ -1,5 +1,5 @@
 // libcups, as libgs calls it: there is no printer.
-#include "programs/stand_ins/absent.h"
+#include "programs/stand_in.h"
 
 NORVEX_ABSENT(cupsRasterClose)
 NORVEX_ABSENT(cupsRasterOpen)

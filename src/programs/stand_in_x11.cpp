@@ -1,5 +1,5 @@
 // libX11, as libgs calls it: there is no display.
-#include "programs/stand_ins/absent.h"
+#include "programs/stand_in.h"
 
 NORVEX_ABSENT(XAllocColor)
 NORVEX_ABSENT(XAllocStandardColormap)

@@ -1,5 +1,5 @@
 // libtiff, as libgs calls it: no TIFF file can be written.
-#include "programs/stand_ins/absent.h"
+#include "programs/stand_in.h"
 
 NORVEX_ABSENT(TIFFCheckpointDirectory)
 NORVEX_ABSENT(TIFFCleanup)

@@ -99,7 +99,7 @@ class ArchiveStateTest : public QObject {
   }
 
   void ofTwoRunsWithOneStateTheSecondIsRefusedAndTheFirstGoesOn() {
-    const Tree tree(100);
+    const Tree tree(60);
     QProcess run;
     Tree::start(run, tree.arguments("out", "state") << "--json-lines");
     QVERIFY(readLines(run, 1));
@@ -113,7 +113,7 @@ class ArchiveStateTest : public QObject {
   }
 
   void aRunThatIsStoppedGoesOnWhereItStood() {
-    const Tree tree(100);
+    const Tree tree(60);
     QProcess run;
     Tree::start(run, tree.arguments("out", "state") << "--json-lines");
     for (int i = 0; i < 3; ++i) {
@@ -154,9 +154,9 @@ class ArchiveStateTest : public QObject {
     names.start("yes", {folder.filePath("a.svg")});
     run.start(norvexProgram(), {"info", "--files-from", "-", "--json-lines"});
     QVERIFY(names.waitForStarted() && run.waitForStarted());
-    QVERIFY(readLines(run, 500));
+    QVERIFY(readLines(run, 200));
     const qint64 early = residentKiB(run.processId());
-    QVERIFY(readLines(run, 1500));
+    QVERIFY(readLines(run, 600));
     const qint64 late = residentKiB(run.processId());
     run.terminate();
     while (!run.waitForFinished(10)) (void)run.readAll();

@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <utility>
 
@@ -125,7 +126,10 @@ Result<std::unique_ptr<RunState>> RunState::of(Result<Database> database, FileDe
 Result<std::unique_ptr<RunState>> RunState::openForRun(const QByteArray& path) {
   FileDescriptor lock(::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
   if (!lock.valid()) return notAState(QStringLiteral("it cannot be opened (%1)").arg(qt_error_string(errno)));
-  if (!lockForRun(lock.get())) return notAState(QStringLiteral("another run is using it"));
+  if (!lockForRun(lock.get()))
+    return notAState(errno == EAGAIN || errno == EACCES
+                         ? QStringLiteral("another run is using it")
+                         : QStringLiteral("it cannot be locked (%1)").arg(qt_error_string(errno)));
   auto state = open(path, std::move(lock), true);
   if (!state) return state.error();
   if (const auto removed = (*state)->removeLeftovers(); !removed) return removed.error();

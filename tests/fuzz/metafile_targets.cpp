@@ -1,6 +1,7 @@
 // The Windows metafile section of a binary EPS file.
 #include "fuzz/targets.h"
 #include "worker/kit/made_metafile.h"
+#include "worker/metafile/bitmap_runs.h"
 #include "worker/metafile/metafile_preview.h"
 
 namespace norvex::fuzz {
@@ -46,10 +47,33 @@ QList<QByteArray> seeds() {
           kit::placeableMetafile(objects + picture)};
 }
 
+/// The first byte tells how many bits a pixel has, the next two how many pixels a row has and how many rows.
+bool bitmapRuns(const QByteArray& bytes) {
+  if (bytes.size() < 3) return false;
+  const int bits = (bytes[0] & 1) != 0 ? 8 : 4;
+  const QSize size{quint8(bytes[1]), quint8(bytes[2])};
+  bool isAny = false;
+  engine::readRuns(QByteArrayView(bytes).sliced(3), bits, size, [&](int x, int y, int colour) {
+    require(x >= 0 && x < size.width() && y >= 0 && y < size.height(), "every pixel is inside");
+    require(colour >= 0 && colour < 1 << bits, "every colour has a place in the palette");
+    isAny = true;
+  });
+  return isAny;
+}
+
+QList<QByteArray> runsSeeds() {
+  const QByteArray runs = QByteArray::fromHex(
+      "ff010000"
+      "000301000100"
+      "00020201"
+      "04120001");
+  return {QByteArray::fromHex("010803") + runs, QByteArray::fromHex("000803") + runs};
+}
+
 }  // namespace
 
 QList<Target> metafileTargets() {
-  return {{"metafile_preview", metafilePreview, seeds}};
+  return {{"metafile_preview", metafilePreview, seeds}, {"bitmap_runs", bitmapRuns, runsSeeds, 1000}};
 }
 
 }  // namespace norvex::fuzz

@@ -12,7 +12,9 @@
 #include "protocol/cbor_writer.h"
 #include "protocol/limits.h"
 #include "protocol/page_contents.h"
+#include "protocol/page_excerpts.h"
 #include "protocol/page_inks.h"
+#include "protocol/page_names.h"
 #include "protocol/page_text.h"
 #include "protocol/worker_protocol.h"
 
@@ -92,6 +94,44 @@ QList<QByteArray> pageInksSeeds() {
   page.inks << Ink{QStringLiteral("Gold"), true, ProcessInks{1, 2, 3, 4}, 0, 0};
   page.plates = QByteArray(30, 'x');
   return {encodePageInks(page)};
+}
+
+bool pageNames(const QByteArray& bytes) {
+  const auto names = decodePageNames(bytes);
+  if (!names) return false;
+  for (const QStringList& list : {names->fonts, names->colorSpaces}) {
+    require(list.size() <= limits::maximumNames, "names keep their count");
+    for (const QString& name : list)
+      require(name.size() <= limits::maximumNameLength, "names keep their length");
+  }
+  require(decodePageNames(encodePageNames(*names)).ok(), "what was read can be sent and read again");
+  return true;
+}
+
+QList<QByteArray> pageNamesSeeds() {
+  return {encodePageNames({}), encodePageNames({{"Helvetica", "Times-Roman"}, {"DeviceCMYK", "sRGB"}})};
+}
+
+bool pageExcerpts(const QByteArray& bytes) {
+  // Who holds something else is never asked for its pages.
+  const auto excerpts = decodePageExcerpts(bytes);
+  if (!excerpts) return false;
+  require(!excerpts->isEmpty(), "there is one at least");
+  qsizetype size = 0;
+  for (const PageExcerpt& excerpt : *excerpts) {
+    require(excerpt.first >= 0 && excerpt.last >= -1, "pages are numbers of pages");
+    size += excerpt.pdf.size();
+  }
+  require(size <= bytes.size(), "nothing is longer than what it was read from");
+  const QByteArray again = encodePageExcerpts(*excerpts);
+  require(holdPageExcerpts(again) && decodePageExcerpts(again).ok(),
+          "what was read can be sent and read again");
+  return holdPageExcerpts(bytes);
+}
+
+QList<QByteArray> pageExcerptsSeeds() {
+  return {encodePageExcerpts({{"%PDF-1.7 one", 0, 3}, {"%PDF-1.7 two", 2, -1}}),
+          encodePageExcerpts({{"%PDF-1.7", 0, 0}})};
 }
 
 /// A value of every form that a field has.
@@ -231,6 +271,8 @@ QList<Target> protocolTargets() {
           {"page_contents", pageContents, pageContentsSeeds},
           {"page_text", pageText, pageTextSeeds},
           {"page_inks", pageInks, pageInksSeeds},
+          {"page_names", pageNames, pageNamesSeeds},
+          {"page_excerpts", pageExcerpts, pageExcerptsSeeds},
           {"cbor_fields", cborFields, fieldSeeds, 1000}};
 }
 

@@ -18,6 +18,7 @@ struct Target {
 // One list for each source of that name in this folder, which is a fuzzer of its own: fuzz_protocol …
 [[nodiscard]] QList<Target> argumentsTargets();
 [[nodiscard]] QList<Target> checkTargets();
+[[nodiscard]] QList<Target> documentTargets();
 [[nodiscard]] QList<Target> fontsTargets();
 [[nodiscard]] QList<Target> metadataTargets();
 [[nodiscard]] QList<Target> metafileTargets();
@@ -27,6 +28,7 @@ struct Target {
 [[nodiscard]] QList<Target> protocolTargets();
 [[nodiscard]] QList<Target> svgTargets();
 [[nodiscard]] QList<Target> tiffTargets();
+[[nodiscard]] QList<Target> webFontsTargets();
 
 /// Runs the target on the bytes, which a broken promise is told with.
 bool feed(const Target& target, const QByteArray& bytes);

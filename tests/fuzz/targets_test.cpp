@@ -1,5 +1,5 @@
-// Each parser of bytes from outside over its seeds: whole, cut, and damaged. The damage is the same in every
-// run.
+// Each parser of bytes from outside, and each engine with whole documents, over its seeds: whole, cut, and
+// damaged. The damage is the same in every run.
 #include "fuzz/targets.h"
 
 #include <QLoggingCategory>
@@ -17,10 +17,11 @@ using fuzz::Target;
 namespace {
 
 const QList<Target>& allTargets() {
-  static const QList<Target> all = fuzz::argumentsTargets() + fuzz::checkTargets() + fuzz::fontsTargets() +
-                                   fuzz::metadataTargets() + fuzz::metafileTargets() + fuzz::pdfTargets() +
-                                   fuzz::postscriptTargets() + fuzz::printTargets() +
-                                   fuzz::protocolTargets() + fuzz::svgTargets() + fuzz::tiffTargets();
+  static const QList<Target> all = fuzz::argumentsTargets() + fuzz::checkTargets() + fuzz::documentTargets() +
+                                   fuzz::fontsTargets() + fuzz::metadataTargets() + fuzz::metafileTargets() +
+                                   fuzz::pdfTargets() + fuzz::postscriptTargets() + fuzz::printTargets() +
+                                   fuzz::protocolTargets() + fuzz::svgTargets() + fuzz::tiffTargets() +
+                                   fuzz::webFontsTargets();
   return all;
 }
 
@@ -87,7 +88,10 @@ class TargetsTest : public QObject {
                              "arguments",        "eps_header",     "bounding_box",
                              "source_text",      "text_encoding",  "type_identification",
                              "eps_source",       "procedure_sets", "page_text",
-                             "metafile_preview", "page_inks",      "psd_plates"})
+                             "metafile_preview", "page_inks",      "psd_plates",
+                             "page_names",       "page_excerpts",  "bitmap_runs",
+                             "web_faces",        "eps_document",   "pdf_document",
+                             "svg_document",     "artwork",        "previewed_document"})
       QVERIFY2(names.remove(name), name);
     QVERIFY(names.isEmpty());
   }

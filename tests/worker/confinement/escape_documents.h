@@ -1,6 +1,6 @@
 // Documents that try to get out, each in one way. In their text $SECRET is a file of the user's, $HOME the
 // folder that holds it, $NEW a file there that does not exist yet, $FIFO one that whoever opens it waits at
-// for ever.
+// for ever, $SERVER a server of this machine that answers nobody.
 #pragma once
 
 #include <QByteArray>
@@ -80,6 +80,36 @@ inline QList<EscapeDocument> escapePrograms() {
       {"makes a file a font's own",
        programThat("/F << /FontType 42 /Path ($FIFO) /CIDFontType 2 >> /CIDFont defineresource pop"), true},
       {"looks at the environment", programThat("(NORVEX_TEST_SECRET) getenv not { stop } if pop"), true},
+      {"runs a library file", programItself("($SECRET) runlibfile")},
+      {"takes the lock off its device",
+       programThat("mark /.LockSafetyParams false /OutputFile ($NEW) currentdevice putdeviceprops setdevice "
+                   "showpage stop")},
+      {"draws on another device",
+       programThat("mark /OutputFile ($NEW) /pngmono finddevice putdeviceprops setdevice 0 0 9 9 rectfill "
+                   "showpage stop")},
+      {"draws on a device of many files",
+       programThat("mark /OutputFile ($NEW%d) /tiffsep finddevice putdeviceprops setdevice 0 0 9 9 rectfill "
+                   "showpage stop")},
+      {"loads a driver into a device",
+       programThat("mark /Driver ($FIFO) /OutputFile (/dev/null) /opvp finddevice putdeviceprops setdevice "
+                   "0 0 9 9 rectfill showpage stop"),
+       true},
+      {"makes a program its printer",
+       programThat("mark /IjsServer (touch $NEW) /DeviceManufacturer (x) /DeviceModel (y) /OutputFile ($NEW) "
+                   "/ijs finddevice putdeviceprops setdevice stop"),
+       true},
+      {"makes a file the profile of a proof",
+       programThat("<< /ProofProfile ($FIFO) >> systemdict /setpagedevice get exec stop"), true},
+      {"makes a file the profile of a link",
+       programThat("<< /DeviceLinkProfile ($FIFO) >> systemdict /setpagedevice get exec stop"), true},
+      {"makes a file the profile of its mixtures",
+       programThat("mark /BlendColorProfile ($FIFO) currentdevice putdeviceprops setdevice stop"), true},
+      {"makes a file the profile of a colour space",
+       programThat("[ /ICCBased << /N 3 /DataSource ($FIFO) (r) file >> ] setcolorspace"), true},
+      {"climbs out of the interpreter's own files",
+       programThat("(%rom%/../../../..$SECRET) (r) file closefile"), true},
+      {"names a resource by a way up",
+       programItself("(../../../../../../../..$SECRET) cvn /Encoding findresource pop"), true},
   };
 }
 
@@ -122,6 +152,37 @@ inline QList<EscapeDocument> escapeDrawings() {
        drawing({},
                "<style>@font-face { font-family: x; src: url('file://$FIFO') }</style><text y='9' "
                "font-family='x'>a</text>")},
+      {"a font by its place in a pattern", drawing({}, "<text y='9' font-family='x:file=$FIFO'>a</text>")},
+      {"an image beside another base",
+       drawing({}, "<g xml:base='file://$HOME/'><image width='9' height='9' href='red.svg'/></g>")},
+      {"an image within an image",
+       drawing({},
+               "<image width='9' height='9' href=\"data:image/svg+xml,%3Csvg "
+               "xmlns='http://www.w3.org/2000/svg' width='9' height='9'%3E%3Cimage width='9' height='9' "
+               "href='file://$HOME/red.svg'/%3E%3C/svg%3E\"/>")},
+      {"an entity within an image",
+       drawing({},
+               "<image width='9' height='9' href=\"data:image/svg+xml,%3C!DOCTYPE svg [%3C!ENTITY x SYSTEM "
+               "'file://$HOME/red.xml'%3E]%3E%3Csvg xmlns='http://www.w3.org/2000/svg' width='9' "
+               "height='9'%3E%26x;%3C/svg%3E\"/>")},
+      {"a style sheet within a style sheet",
+       drawing({},
+               "<style>@import url(\"data:text/css,@import url('file://$HOME/red.css');\");</style><rect "
+               "class='r' fill='none' width='9' height='9'/>")},
+      {"a catalogue of entities",
+       drawing("<?oasis-xml-catalog catalog='file://$FIFO'?><!DOCTYPE svg PUBLIC '-//X//Y' 'y.dtd'>", {})},
+      {"a schema", drawing({},
+                           "<g xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' "
+                           "xsi:schemaLocation='x file://$FIFO'/>")},
+      {"an image from a server", drawing({}, "<image width='9' height='9' href='http://$SERVER/red.svg'/>")},
+      {"a document type from a server", drawing("<!DOCTYPE svg SYSTEM 'http://$SERVER/red.dtd'>", "&red;")},
+      {"a parameter entity from a server",
+       drawing("<!DOCTYPE svg [<!ENTITY % x SYSTEM 'http://$SERVER/red.dtd'> %x;]>", "&red;")},
+      {"an inclusion from a server", drawing({}, "<xi:include href='http://$SERVER/red.svg'/>")},
+      {"a style sheet from a server",
+       drawing({},
+               "<style>@import url('http://$SERVER/red.css');</style><rect class='r' fill='none' "
+               "width='9' height='9'/>")},
   };
 }
 
@@ -163,6 +224,31 @@ inline QList<EscapeDocument> escapePages() {
            "/XObject<</X 5 0 R>>", "/X Do",
            "5 0 obj<</Type/XObject/Subtype/Form/BBox[0 0 9 9]/Ref<</F($FIFO)/Page 0>>/Length 0>>stream\n\n"
            "endstream endobj\n")},
+      {"contents in another file",
+       "%PDF-1.7\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n2 0 obj<</Type/Pages/Kids[3 0 R]/Count "
+       "1>>endobj\n"
+       "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 9]/Contents 4 0 R>>endobj\n"
+       "4 0 obj<</Length 0/F($FIFO)>>stream\n\nendstream endobj\ntrailer<</Root 1 0 R>>\n%%EOF\n"},
+      {"a profile in another file",
+       pageWith("/ColorSpace<</C[/ICCBased 5 0 R]>>", "/C cs 1 0 0 sc 0 0 9 9 re f",
+                "5 0 obj<</N 3/Alternate/DeviceGray/Length 0/F<</Type/Filespec/F($FIFO)>>>>stream\n\n"
+                "endstream endobj\n")},
+      {"segments of a picture in another file",
+       pageWith(
+           "/XObject<</I 5 0 R>>", "9 0 0 9 0 0 cm /I Do",
+           "5 0 obj<</Type/XObject/Subtype/Image/Width 1/Height 1/BitsPerComponent 1/ColorSpace/DeviceGray"
+           "/Filter/JBIG2Decode/DecodeParms<</JBIG2Globals 6 0 R>>/Length 0>>stream\n\nendstream endobj\n"
+           "6 0 obj<</Length 0/F($FIFO)>>stream\n\nendstream endobj\n")},
+      {"a picture at a server",
+       pageWith(
+           "/XObject<</I 5 0 R>>", "9 0 0 9 0 0 cm /I Do",
+           "5 0 obj<</Type/XObject/Subtype/Image/Width 1/Height 1/BitsPerComponent 8/ColorSpace/DeviceGray"
+           "/Length 0/F<</FS/URL/F(http://$SERVER/red)>>>>stream\n\nendstream endobj\n")},
+      {"a character map in a character map",
+       pageWith("/Font<</F 5 0 R>>", text,
+                font("8 0 R", {}) + "8 0 obj<</Type/CMap/CMapName/X/UseCMap/$FIFO_AS_NAME/Length 54>>stream\n"
+                                    "/..#2F..#2F..#2F..#2F..#2F..#2F..#2F..$FIFO_AS_NAME usecmap\n"
+                                    "endstream endobj\n")},
       {"a program to be launched",
        pageWith({}, "0 0 9 9 re f", {}, "/OpenAction<</S/Launch/F(touch)/Unix<</F(touch $NEW)>>>>")},
       {"a file to be gone to", pageWith({}, "0 0 9 9 re f", {}, "/OpenAction<</S/GoToR/F($FIFO)/D[0/Fit]>>")},

@@ -6,6 +6,9 @@
 #include <QImage>
 #include <QTemporaryDir>
 
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 
 #include "kit/test_main.h"
@@ -33,6 +36,7 @@ class Home {
     put("red.dtd", "<!ENTITY red \"" + red + "\">");
     put("red.css", ".r { fill: red !important }");
     ::mkfifo(QFile::encodeName(path() + "/fifo").constData(), 0600);
+    serve();
     before_ = state();
   }
   [[nodiscard]] QString path() const { return folder_.path(); }
@@ -44,11 +48,28 @@ class Home {
     return text.replace("$SECRET", home + "/secret.txt")
         .replace("$NEW", home + "/new")
         .replace("$FIFO", home + "/fifo")
+        .replace("$SERVER", server_)
         .replace("$HOME", home);
   }
   [[nodiscard]] bool isUntouched() const { return state() == before_; }
+  /// True if somebody has called the server.
+  [[nodiscard]] bool isCalled() const {
+    return FileDescriptor(::accept4(listening_.get(), nullptr, nullptr, SOCK_CLOEXEC)).valid();
+  }
 
  private:
+  void serve() {
+    listening_.reset(::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto* const any = reinterpret_cast<sockaddr*>(&address);
+    if (::bind(listening_.get(), any, size) != 0 || ::listen(listening_.get(), 8) != 0 ||
+        ::getsockname(listening_.get(), any, &size) != 0)
+      qFatal("nothing can be served");
+    server_ = "127.0.0.1:" + QByteArray::number(ntohs(address.sin_port));
+  }
   void put(const QString& name, const QByteArray& text) {
     QFile file(path() + u'/' + name);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()) qFatal("no files can be made");
@@ -61,6 +82,8 @@ class Home {
     return all;
   }
   QTemporaryDir folder_;
+  FileDescriptor listening_;
+  QByteArray server_;
   QStringList before_;
 };
 
@@ -93,6 +116,15 @@ class ConfinedService {
     return image ? *image : QImage();
   }
 
+  /// Has the inks of a page separated by Ghostscript; what went wrong is told in `error`.
+  void separate(const QByteArray& pdf, Error& error) {
+    const auto process = service_->open(pdf, PictureKind::Pdf, {kSeconds, 1024, 100});
+    ExamineRequest request;
+    request.what = Examination::Inks;
+    const auto inks = process->examine(request);
+    error = inks ? Error{ErrorKind::CannotRead, {}} : inks.error();
+  }
+
   /// Reads a preview, whatever is in it; what went wrong is told in `error`.
   void decode(const QByteArray& tiff, Error& error) {
     const auto preview = service_->decodePreview(tiff);
@@ -120,6 +152,19 @@ QString howItEnded(ConfinedService& service, const EscapeDocument& document, Pic
     return error.message;
   for (int i = 0; i < 9 * 9 && !image.isNull(); ++i)
     if (image.pixelColor(i % 9, i / 9) == QColor(Qt::red)) return QStringLiteral("has read what is red");
+  if (home.isCalled()) return QStringLiteral("has called the server");
+  return home.isUntouched() ? QString() : QStringLiteral("has changed the folder");
+}
+
+/// The same of a page whose inks are separated.
+QString howSeparatingEnded(ConfinedService& service, const EscapeDocument& document) {
+  const Home home;
+  Error error{ErrorKind::CannotRead, {}};
+  service.separate(home.fill(document.text), error);
+  if (error.kind == ErrorKind::TimedOut || error.kind == ErrorKind::Died ||
+      error.kind == ErrorKind::NoSandbox)
+    return error.message;
+  if (home.isCalled()) return QStringLiteral("has called the server");
   return home.isUntouched() ? QString() : QStringLiteral("has changed the folder");
 }
 
@@ -155,6 +200,10 @@ class EscapeDocumentsTest : public QObject {
     tryAll(escapePrograms(), PictureKind::Eps);
     tryAll(escapeDrawings(), PictureKind::Svg);
     tryAll(escapePages(), PictureKind::Pdf);
+    for (const EscapeDocument& page : escapePages()) {
+      const QString ended = howSeparatingEnded(service, page);
+      if (!ended.isEmpty()) out << QLatin1String(page.name) + ", separated: " + ended;
+    }
     QVERIFY2(out.isEmpty(), qPrintable(out.join("; ")));
   }
 

@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 
 #include "kit/test_main.h"
+#include "protocol/program_stop.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
@@ -186,6 +187,29 @@ class MainWindowOpeningTest : public QObject {
     button(c, "Stop")->click();
     QCOMPARE(c.messageBar()->message(), QStringLiteral("The drawing was stopped."));
     QVERIFY(c.view()->imageRep());
+    QVERIFY(button(c, "Try Again"));
+  }
+
+  void aProgramThatIsStoppedShowsWhatItHadDrawn() {
+    WindowFixture fixture;
+    MemoryPicture picture;
+    picture.paint = [](const RenderRequest& request) {
+      QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
+      image.fill(request.page == begunPage ? Qt::red : Qt::blue);
+      return image;
+    };
+    fixture.service.setPicture(picture);
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Render); });
+    MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
+    c.showWindow();
+    QTRY_VERIFY(c.view()->imageRep() && c.view()->imageRep()->isRendering());
+    QVERIFY(fixture.service.lastProcess()->waitUntilHeld(PictureCall::Render));
+    emit c.window()->findChild<LoadingCard*>()->cancelled();
+    fixture.service.lastProcess()->release(PictureCall::Render);
+    QTRY_COMPARE(c.messageBar()->message(),
+                 QStringLiteral("The drawing was stopped. What is shown is what it had drawn until then."));
+    QVERIFY(c.view()->imageRep()->isSharp());
+    QCOMPARE(fixture.service.lastProcess()->renderRequests().last().page, begunPage);
     QVERIFY(button(c, "Try Again"));
   }
 

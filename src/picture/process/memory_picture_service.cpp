@@ -160,6 +160,8 @@ Result<QImage> MemoryPictureProcess::render(const RenderRequest& request, const 
   }
   if (const auto begun = begin(PictureCall::Render, cancel); !begun) return begun.error();
   if (picture_.paint) return picture_.paint(request);
+  if (request.page >= std::max<qsizetype>(picture_.facts.pageCount, picture_.facts.pageBounds.size()))
+    return Error{ErrorKind::Unsupported, QStringLiteral("there is no such page")};
   return testPattern(request, picture_.facts.pageBounds.value(request.page).size());
 }
 

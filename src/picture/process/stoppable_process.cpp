@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "protocol/program_stop.h"
+
 namespace norvex {
 namespace {
 
@@ -12,8 +14,12 @@ Error stoppedError() {
 
 }  // namespace
 
-StoppableProcess::StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading, Clock clock)
-    : ForwardingProcess(std::move(process)), loading_(std::move(loading)), clock_(std::move(clock)) {}
+StoppableProcess::StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading, Clock clock,
+                                   PictureKind kind)
+    : ForwardingProcess(std::move(process)),
+      loading_(std::move(loading)),
+      clock_(std::move(clock)),
+      kind_(kind) {}
 
 void StoppableProcess::stop() {
   const std::lock_guard lock(mutex_);
@@ -25,6 +31,23 @@ void StoppableProcess::resume() {
   const std::lock_guard lock(mutex_);
   stopped_ = false;
   deaths_ = 0;  // somebody asks for it
+}
+
+bool StoppableProcess::isStopped() {
+  const std::lock_guard lock(mutex_);
+  return stopped_;
+}
+
+bool StoppableProcess::showsBegun() {
+  return kind_ == PictureKind::Eps && isStopped();
+}
+
+/// It takes no time: nothing is run for it.
+Result<QImage> StoppableProcess::renderBegun(RenderRequest request, const CancelToken& cancel) {
+  request.page = begunPage;
+  Result<QImage> begun = ForwardingProcess::render(request, cancel);
+  return begun || begun.error().kind == ErrorKind::Cancelled ? std::move(begun)
+                                                             : Result<QImage>(stoppedError());
 }
 
 /// REQUIRES the lock.
@@ -66,6 +89,7 @@ Result<PictureFacts> StoppableProcess::facts(const CancelToken& cancel) {
 }
 
 Result<QImage> StoppableProcess::render(const RenderRequest& request, const CancelToken& cancel) {
+  if (showsBegun()) return renderBegun(request, cancel);
   // A fresh token would hide the caller's, so the caller's own is what stop() cancels.
   quint64 id = 0;
   {
@@ -83,7 +107,8 @@ Result<QImage> StoppableProcess::render(const RenderRequest& request, const Canc
 
 std::shared_ptr<PictureProcess> StoppableService::open(const QByteArray& bytes, PictureKind kind,
                                                        const PictureLimits& limits) {
-  return std::make_shared<StoppableProcess>(ForwardingService::open(bytes, kind, limits), loading_);
+  return std::make_shared<StoppableProcess>(ForwardingService::open(bytes, kind, limits), loading_,
+                                            std::chrono::steady_clock::now, kind);
 }
 
 }  // namespace norvex

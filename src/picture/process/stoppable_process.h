@@ -15,9 +15,10 @@
 namespace norvex {
 
 /// stop() ends the renderings under way and makes later ones fail at once, until
-/// resume(). So do processes that died for the same document several times in a row: the pauses before
-/// another one is started grow. Reading the facts ends when the loading's own token is cancelled.
-/// Thread-safe.
+/// resume(). But those of a PostScript picture show what its program had drawn when it was stopped, where
+/// that is known. Renderings fail at once also after processes that died for the same document several times
+/// in a row: the pauses before another one is started grow. Reading the facts ends when the loading's own
+/// token is cancelled. Thread-safe.
 class StoppableProcess final : public ForwardingProcess {
  public:
   using Clock = std::function<std::chrono::steady_clock::time_point()>;
@@ -27,10 +28,11 @@ class StoppableProcess final : public ForwardingProcess {
   static constexpr std::chrono::seconds firstPause{1}, longestPause{60};
 
   StoppableProcess(std::shared_ptr<PictureProcess> process, CancelToken loading,
-                   Clock clock = std::chrono::steady_clock::now);
+                   Clock clock = std::chrono::steady_clock::now, PictureKind kind = PictureKind::Pdf);
 
   void stop();
   void resume();
+  [[nodiscard]] bool isStopped();
   /// True if renderings that were stopped have not ended yet.
   [[nodiscard]] bool isStopping();
   /// True if the error says that the drawing was stopped, not that it failed.
@@ -40,11 +42,14 @@ class StoppableProcess final : public ForwardingProcess {
   Result<QImage> render(const RenderRequest& request, const CancelToken& cancel = {}) override;
 
  private:
+  [[nodiscard]] bool showsBegun();
+  Result<QImage> renderBegun(RenderRequest request, const CancelToken& cancel);
   [[nodiscard]] std::optional<Error> refusal() const;
   void note(const Result<QImage>& result);
 
   const CancelToken loading_;
   const Clock clock_;
+  const PictureKind kind_;
   std::mutex mutex_;                    ///< of everything below
   QHash<quint64, CancelToken> active_;  ///< of the renderings under way
   quint64 lastId_ = 0;

@@ -52,6 +52,7 @@ void MessagesCommand::tell(MessageBar::Kind kind, const QString& text, const QSt
 
 void MessagesCommand::watchPicture(std::shared_ptr<StoppableProcess> process) {
   process_ = std::move(process);
+  begunIsShown_ = false;
   NSImageRep* rep = parts_.view()->imageRep().get();
   if (!rep) return;
   // Other documents are not programs that could stop.
@@ -59,6 +60,7 @@ void MessagesCommand::watchPicture(std::shared_ptr<StoppableProcess> process) {
   connect(rep, &NSImageRep::renderingFailed, this, &MessagesCommand::showProblem, Qt::UniqueConnection);
   connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::followRendering, Qt::UniqueConnection);
   connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::tellWhatStopped, Qt::UniqueConnection);
+  connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::tellWhatWasBegun, Qt::UniqueConnection);
 }
 
 void MessagesCommand::followRendering() {
@@ -165,6 +167,31 @@ void MessagesCommand::stopDrawing() {
   if (process_) process_->stop();
   showProblem({ErrorKind::TimedOut, localizedString("The drawing was stopped")});
   parts_.loadingCard()->end();
+  NSImageRep* rep = parts_.view()->imageRep().get();
+  if (!rep || !process_ || rep->pictureKind() != PictureKind::Eps) return;
+  showBegun();
+}
+
+/// Once the drawing has ended that was stopped: it tells what it had begun.
+void MessagesCommand::showBegun() {
+  NSImageRep* rep = parts_.view()->imageRep().get();
+  if (!rep || !process_ || !process_->isStopped()) return;
+  if (process_->isStopping()) {
+    QTimer::singleShot(kStoppedEndsMs, rep, [this, rep] {
+      if (parts_.view()->imageRep().get() == rep) showBegun();
+    });
+    return;
+  }
+  rep->retryRendering();
+  parts_.viewWidget()->update();
+}
+
+void MessagesCommand::tellWhatWasBegun() {
+  if (!process_ || !process_->isStopped() || std::exchange(begunIsShown_, true)) return;
+  tell(MessageBar::Kind::Warning,
+       localizedString("%1 What is shown is what it had drawn until then.")
+           .arg(sentence({ErrorKind::TimedOut, localizedString("The drawing was stopped")})),
+       localizedString("Try Again"), [this] { emit reloadChosen(); });
 }
 
 void MessagesCommand::actionChosen() {

@@ -38,7 +38,8 @@ class MessagesCommand final : public QObject {
   void followRendering();
   void showProblem(const Error& error);
   void openingWasStopped();
-  /// Stops the drawing until it is tried again.
+  /// Stops the drawing until it is tried again; what a program had drawn until then is shown, where it is
+  /// known.
   void stopDrawing();
   void fileDidChange();
   void fileDidDisappear();
@@ -64,6 +65,8 @@ class MessagesCommand final : public QObject {
   void tell(MessageBar::Kind kind, const QString& text, const QString& title = {},
             std::function<void()> action = {}, const QString& details = {});
   void retryDrawing();
+  void showBegun();
+  void tellWhatWasBegun();
   void followPatience();
   void waitOn();
   void askWhetherToWait();
@@ -75,7 +78,8 @@ class MessagesCommand final : public QObject {
   Alarm alarm_;
   int spell_ = 0;  ///< number of the wait that is going on, or that was the last
   bool waiting_ = false, asking_ = false;
-  bool stopIsTold_ = true;  ///< or need not be
+  bool stopIsTold_ = true;     ///< or need not be
+  bool begunIsShown_ = false;  ///< in the place of the picture, since the user has stopped it
 };
 
 }  // namespace norvex

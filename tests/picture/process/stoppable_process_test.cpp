@@ -4,6 +4,7 @@
 #include "kit/test_main.h"
 #include "picture/process/memory_picture_service.h"
 #include "picture/process/stoppable_process.h"
+#include "protocol/program_stop.h"
 
 using namespace norvex;
 
@@ -73,6 +74,35 @@ class StoppableProcessTest : public QObject {
     service.lastProcess()->release(PictureCall::Render);
     process->resume();
     QVERIFY(process->render(small()));
+  }
+
+  void whatAProgramHadDrawnIsShownWhenItWasStopped() {
+    MemoryPicture picture;
+    picture.paint = [](const RenderRequest& request) {
+      QImage image(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
+      image.fill(request.page == begunPage ? Qt::red : Qt::blue);
+      return image;
+    };
+    MemoryPictureService service(picture);
+    StoppableService stoppable(service, CancelToken());
+    const auto process =
+        std::dynamic_pointer_cast<StoppableProcess>(stoppable.open("bytes", PictureKind::Eps));
+    QCOMPARE(process->render(small())->pixelColor(0, 0), QColor(Qt::blue));
+    process->stop();
+    QVERIFY(process->isStopped());
+    QCOMPARE(process->render(small())->pixelColor(0, 0), QColor(Qt::red));
+    process->resume();
+    QCOMPARE(process->render(small())->pixelColor(0, 0), QColor(Qt::blue));
+  }
+
+  void aProgramThatHadDrawnNothingIsStopped() {
+    MemoryPictureService service;
+    StoppableService stoppable(service, CancelToken());
+    const auto process =
+        std::dynamic_pointer_cast<StoppableProcess>(stoppable.open("bytes", PictureKind::Eps));
+    process->stop();
+    const auto nothing = process->render(small());
+    QVERIFY(!nothing && StoppableProcess::meansStopped(nothing.error()));
   }
 
   void processesThatDieInARowAreStartedAtGrowingIntervals() {

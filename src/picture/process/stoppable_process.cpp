@@ -89,7 +89,7 @@ Result<PictureFacts> StoppableProcess::facts(const CancelToken& cancel) {
 }
 
 Result<QImage> StoppableProcess::render(const RenderRequest& request, const CancelToken& cancel) {
-  if (showsBegun()) return renderBegun(request, cancel);
+  if (request.purpose == RenderPurpose::View && showsBegun()) return renderBegun(request, cancel);
   // A fresh token would hide the caller's, so the caller's own is what stop() cancels.
   quint64 id = 0;
   {

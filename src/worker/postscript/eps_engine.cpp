@@ -57,7 +57,8 @@ class EpsEngine final : public DocumentEngine {
       return drawPart(request);
     if (request.page == begunPage && !begun_.isEmpty()) return drawBegun(request);
     ProgramWatch watch(box_.size());
-    const bool isShown = request.purpose == RenderPurpose::View;
+    // Whichever comes first runs the program, and is what somebody waits for.
+    const bool isShown = request.purpose == RenderPurpose::View || request.purpose == RenderPurpose::Preview;
     if (const Result<void> ready = prepare(request.page, isShown ? &watch : nullptr); !ready) {
       if (ready.error().kind == ErrorKind::Cancelled) begun_ = watch.drawn(context_.limits);
       return ready.error();

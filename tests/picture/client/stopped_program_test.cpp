@@ -52,20 +52,25 @@ class StoppedProgramTest : public QObject {
 
   void showsWhatItHadDrawn_data() {
     QTest::addColumn<QByteArray>("program");
+    QTest::addColumn<RenderPurpose>("purpose");
     const QByteArray red = "1 0 0 setrgbcolor 10 10 20 20 rectfill\n";
-    QTest::newRow("a loop that draws nothing") << red + "{} loop";
-    QTest::newRow("a loop that draws") << red + "{ 1 0 0 setrgbcolor 15 15 9 9 rectfill } loop";
-    QTest::newRow("a long program") << red + QByteArray(20 << 20, ' ') + "{} loop";
-    QTest::newRow("a loop that stops errors") << red + "{ { {} loop } stopped pop } loop";
+    QTest::newRow("a loop that draws nothing") << red + "{} loop" << RenderPurpose::View;
+    QTest::newRow("a small picture is drawn first") << red + "{} loop" << RenderPurpose::Preview;
+    QTest::newRow("a loop that draws")
+        << red + "{ 1 0 0 setrgbcolor 15 15 9 9 rectfill } loop" << RenderPurpose::View;
+    QTest::newRow("a long program") << red + QByteArray(20 << 20, ' ') + "{} loop" << RenderPurpose::View;
+    QTest::newRow("a loop that stops errors")
+        << red + "{ { {} loop } stopped pop } loop" << RenderPurpose::View;
   }
   void showsWhatItHadDrawn() {
     QFETCH(QByteArray, program);
+    QFETCH(RenderPurpose, purpose);
     const auto process =
         std::dynamic_pointer_cast<WorkerClient>(service_->open(eps(program), PictureKind::Eps));
     QVERIFY(process && process->facts());
     Result<QImage> begun = Error{};
     for (int wait = 3500; wait < kLongest && !begun; wait *= 2) {
-      QCOMPARE(stopAfter(*process, wait), ErrorKind::Cancelled);
+      QCOMPARE(stopAfter(*process, wait, purpose), ErrorKind::Cancelled);
       begun = process->render(picture(begunPage));
     }
     QVERIFY2(begun.ok(), begun ? "" : qPrintable(begun.error().message));
@@ -100,13 +105,16 @@ class StoppedProgramTest : public QObject {
   }
 
  private:
-  static ErrorKind stopAfter(PictureProcess& process, int milliseconds) {
+  static ErrorKind stopAfter(PictureProcess& process, int milliseconds,
+                             RenderPurpose purpose = RenderPurpose::View) {
     const CancelToken cancel;
     std::thread user([&] {
       QThread::msleep(ulong(milliseconds));
       cancel.cancel();
     });
-    const auto drawn = process.render(picture(), cancel);
+    RenderRequest request = picture();
+    request.purpose = purpose;
+    const auto drawn = process.render(request, cancel);
     user.join();
     return drawn ? ErrorKind::Unsupported : drawn.error().kind;
   }

@@ -91,6 +91,9 @@ class StoppableProcessTest : public QObject {
     process->stop();
     QVERIFY(process->isStopped());
     QCOMPARE(process->render(small())->pixelColor(0, 0), QColor(Qt::red));
+    RenderRequest remembered = small();
+    remembered.purpose = RenderPurpose::Preview;
+    QVERIFY(!process->render(remembered));  // what is begun is no picture of the file
     process->resume();
     QCOMPARE(process->render(small())->pixelColor(0, 0), QColor(Qt::blue));
   }

@@ -502,7 +502,11 @@ class WorkerServiceTest : public QObject {
   void aPreparedProcessIsUsed() {
     service_->prepare(PictureKind::Eps);
     QList<qint64> documents;
-    QVERIFY(eventually([&] { return (documents = documentProcesses()).size() == 1; }));
+    // Before it becomes one, the interpreter looks like a document, too.
+    QVERIFY(eventually([&] {
+      documents = documentProcesses();
+      return documents.size() == 1 && childrenOf(service_->programProcessId()).size() == 2;
+    }));
     const qint64 prepared = documents.first();
     const auto other = service_->open("ok", PictureKind::Pdf);
     QVERIFY(other->facts().ok());

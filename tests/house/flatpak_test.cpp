@@ -1,12 +1,14 @@
 // The Flatpak's manifest: what can be known of it without building it.
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStandardPaths>
 #include <QVersionNumber>
 
 #include "kit/test_main.h"
@@ -159,7 +161,7 @@ class FlatpakTest : public QObject {
     QCOMPARE(patches, QStringList{"app-folder.patch"});
     QProcess git;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("GIT_CEILING_DIRECTORIES", QFileInfo(QDir(kRoot).absolutePath()).path());
+    environment.insert("GIT_DIR", "/nonexistent");  // the sources need not be a repository
     git.setProcessEnvironment(environment);
     git.setWorkingDirectory(kRoot);
     git.start("git", {"apply", "--check", "--verbose", kFlatpak + patches.first()});
@@ -178,6 +180,20 @@ class FlatpakTest : public QObject {
     for (const QString& path : allOf("^\\+.*\"(/app/[^\"]*\\.icc)\"", patch))
       QVERIFY(manifest().contains(path));
     QVERIFY(!allOf("^\\+.*\"(/app/[^\"]*\\.icc)\"", patch).isEmpty());
+  }
+
+  /// Its own program names every key that it does not know.
+  void flatpaksOwnProgramTakesItWithoutRemarks() {
+    if (QStandardPaths::findExecutable("flatpak-builder").isEmpty())
+      QSKIP("flatpak-builder is not installed");
+    QProcess builder;
+    builder.start("flatpak-builder", {"--show-manifest", kFlatpak + "com.norvex.Norvex.yaml"});
+    QVERIFY(builder.waitForFinished());
+    QCOMPARE(builder.readAllStandardError(), QByteArray());
+    QCOMPARE(builder.exitCode(), 0);
+    const QJsonObject shown = QJsonDocument::fromJson(builder.readAllStandardOutput()).object();
+    QCOMPARE(shown["id"].toString(), valueOf("id"));
+    QCOMPARE(shown["modules"].toArray().size(), allOf("^  - (name): ", manifest()).size());
   }
 
   void itMayTouchNoMoreThanThePageTells() {

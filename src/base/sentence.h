@@ -6,8 +6,9 @@
 #include <QStringView>
 
 #include <algorithm>
-#include <iterator>
+#include <cstring>
 #include <optional>
+#include <span>
 
 #include "base/localized_string.h"
 
@@ -61,21 +62,36 @@ inline QString filledIn(QStringView pattern, const QStringList& arguments) {
   return text;
 }
 
+/// What a sentence is called in a table, with its places.
+using SentenceKeys = std::span<const char* const>;
+
+/// A word of ours or a sentence within another one, which has a full stop of its own; anything else as it
+/// stands.
+inline QString translatedArgument(const QString& english, SentenceKeys keys) {
+  const auto is = [&](const char* key) { return english == QString::fromUtf8(key); };
+  if (std::none_of(keys.begin(), keys.end(), is)) return english;
+  QString text = localizedString(english.toUtf8().constData(), sentenceTable);
+  if (text.endsWith(u'.') || text.endsWith(u'\u3002')) text.chop(1);
+  return text;
+}
+
 /// `english` in the user's language when it is one of `keys` with something at their places, otherwise as it
-/// stands. What stands at a place is translated when it is one of the keys itself.
-template <typename Keys>
-QString translatedSentence(const QString& english, const Keys& keys) {
+/// stands; where several fit, the one that says most itself. What stands at a place is translated when it is
+/// one of the keys, but never in one of `naming`: there stand names that a document gives.
+inline QString translatedSentence(const QString& english, SentenceKeys keys, SentenceKeys naming = {}) {
+  const char* fitting = nullptr;
+  QStringList arguments;
   for (const char* key : keys) {
-    const QString pattern = QString::fromUtf8(key);
-    std::optional<QStringList> arguments = argumentsIn(english, pattern);
-    if (!arguments) continue;
-    for (QString& argument : *arguments)
-      if (std::any_of(std::begin(keys), std::end(keys),
-                      [&](const char* each) { return argument == QString::fromUtf8(each); }))
-        argument = localizedString(argument.toUtf8().constData(), sentenceTable);
-    return filledIn(localizedString(key, sentenceTable), *arguments);
+    const std::optional<QStringList> found = argumentsIn(english, QString::fromUtf8(key));
+    if (!found || (fitting && found->join(QString()).size() >= arguments.join(QString()).size())) continue;
+    fitting = key;
+    arguments = *found;
   }
-  return english;
+  if (!fitting) return english;
+  const auto names = [&](const char* key) { return std::strcmp(key, fitting) == 0; };
+  if (std::none_of(naming.begin(), naming.end(), names))
+    for (QString& argument : arguments) argument = translatedArgument(argument, keys);
+  return filledIn(localizedString(fitting, sentenceTable), arguments);
 }
 
 }  // namespace norvex

@@ -30,6 +30,7 @@ inline constexpr std::array toldSentences{
     "the file seems cut off: its PostScript stops before its end",
     "the file is damaged; it was repaired as far as possible",
     "the file is damaged; nothing of %1 can be read",
+    "the file is damaged; nothing of page %1 can be read",
     "the document is damaged and cannot be read as PDF",
     "the document is not a readable PDF",
     "the document is protected with a password",

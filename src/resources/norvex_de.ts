@@ -2549,6 +2549,10 @@
         <translation>Die Datei ist beschädigt; nichts davon lässt sich lesen (%1).</translation>
     </message>
     <message>
+        <source>the file is damaged; nothing of page %1 can be read</source>
+        <translation>Die Datei ist beschädigt; nichts von Seite %1 lässt sich lesen.</translation>
+    </message>
+    <message>
         <source>the document is damaged and cannot be read as PDF</source>
         <translation>Das Dokument ist beschädigt und lässt sich nicht als PDF lesen.</translation>
     </message>

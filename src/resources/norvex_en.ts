@@ -2549,6 +2549,10 @@
         <translation>the file is damaged; nothing of %1 can be read</translation>
     </message>
     <message>
+        <source>the file is damaged; nothing of page %1 can be read</source>
+        <translation>the file is damaged; nothing of page %1 can be read</translation>
+    </message>
+    <message>
         <source>the document is damaged and cannot be read as PDF</source>
         <translation>the document is damaged and cannot be read as PDF</translation>
     </message>

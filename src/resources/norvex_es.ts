@@ -2549,6 +2549,10 @@
         <translation>El archivo está dañado; no se puede leer nada (%1).</translation>
     </message>
     <message>
+        <source>the file is damaged; nothing of page %1 can be read</source>
+        <translation>El archivo está dañado; no se puede leer nada de la página %1.</translation>
+    </message>
+    <message>
         <source>the document is damaged and cannot be read as PDF</source>
         <translation>El documento está dañado y no se puede leer como PDF.</translation>
     </message>

@@ -2549,6 +2549,10 @@
         <translation>Le fichier est endommagé ; rien n’est lisible (%1).</translation>
     </message>
     <message>
+        <source>the file is damaged; nothing of page %1 can be read</source>
+        <translation>Le fichier est endommagé ; rien de la page %1 ne peut être lu.</translation>
+    </message>
+    <message>
         <source>the document is damaged and cannot be read as PDF</source>
         <translation>Le document est endommagé et ne peut pas être lu comme PDF.</translation>
     </message>

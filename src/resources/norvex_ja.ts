@@ -2549,6 +2549,10 @@
         <translation>ファイルが壊れていて、読める部分がありません（%1）。</translation>
     </message>
     <message>
+        <source>the file is damaged; nothing of page %1 can be read</source>
+        <translation>ファイルが壊れています。%1 ページからは何も読めません。</translation>
+    </message>
+    <message>
         <source>the document is damaged and cannot be read as PDF</source>
         <translation>書類が壊れていて、PDF として読めません。</translation>
     </message>
@@ -2966,7 +2970,7 @@
     </message>
     <message>
         <source>the printer “%1” did not take the job: %2</source>
-        <translation>プリンタ“%1”がジョブを受け付けませんでした：%2</translation>
+        <translation>プリンタ“%1”がジョブを受け付けませんでした：%2。</translation>
     </message>
     <message>
         <source>the document has %1 pages, and only the first %2 of them can be printed</source>
@@ -3070,7 +3074,7 @@
     </message>
     <message>
         <source>the result could not be opened again: %1</source>
-        <translation>できたものを開き直せませんでした：%1</translation>
+        <translation>できたものを開き直せませんでした：%1。</translation>
     </message>
     <message>
         <source>an image with more pixels than are granted was left out</source>
@@ -3110,7 +3114,7 @@
     </message>
     <message>
         <source>it cannot be mended: %1</source>
-        <translation>修復できません：%1</translation>
+        <translation>修復できません：%1。</translation>
     </message>
     <message>
         <source>the program was taken out of %1</source>
@@ -3302,11 +3306,11 @@
     </message>
     <message>
         <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
-        <translation>BoundingBox %1 が絵を切っています。絵は %2 pt はみ出しています：%3</translation>
+        <translation>BoundingBox %1 が絵を切っています。絵は %2 pt はみ出しています：%3。</translation>
     </message>
     <message>
         <source>the bounding box %1 is more than twice as large as the ink: %2</source>
-        <translation>BoundingBox %1 は絵の 2 倍を超える大きさです：%2</translation>
+        <translation>BoundingBox %1 は絵の 2 倍を超える大きさです：%2。</translation>
     </message>
     <message>
         <source>the %1 section ends at byte %2, the file at byte %3</source>
@@ -3318,15 +3322,15 @@
     </message>
     <message>
         <source>bytes before %!PS-Adobe: %1</source>
-        <translation>%!PS-Adobe の前のバイト数：%1</translation>
+        <translation>%!PS-Adobe の前のバイト数：%1。</translation>
     </message>
     <message>
         <source>bytes behind %%EOF: %1</source>
-        <translation>%%EOF の後のバイト数：%1</translation>
+        <translation>%%EOF の後のバイト数：%1。</translation>
     </message>
     <message>
         <source>the file needs fonts that it does not bring: %1</source>
-        <translation>ファイルに含まれていないフォントが必要です：%1</translation>
+        <translation>ファイルに含まれていないフォントが必要です：%1。</translation>
     </message>
     <message>
         <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
@@ -3398,7 +3402,7 @@
     </message>
     <message>
         <source>its permissions forbid %1</source>
-        <translation>アクセス権で禁じられています：%1</translation>
+        <translation>アクセス権で禁じられています：%1。</translation>
     </message>
     <message>
         <source>it claims to keep %1</source>
@@ -3414,7 +3418,7 @@
     </message>
     <message>
         <source>elements drawn through filters become images in print: %1</source>
-        <translation>フィルタのため印刷で画像になる要素：%1</translation>
+        <translation>フィルタのため印刷で画像になる要素：%1。</translation>
     </message>
     <message>
         <source>something is drawn up to %1 pt outside the page</source>

@@ -2549,6 +2549,10 @@
         <translation>文件已损坏，没有可读取的内容（%1）。</translation>
     </message>
     <message>
+        <source>the file is damaged; nothing of page %1 can be read</source>
+        <translation>文件已损坏；第 %1 页的任何内容都无法读取。</translation>
+    </message>
+    <message>
         <source>the document is damaged and cannot be read as PDF</source>
         <translation>文档已损坏，无法作为 PDF 读取。</translation>
     </message>
@@ -2966,7 +2970,7 @@
     </message>
     <message>
         <source>the printer “%1” did not take the job: %2</source>
-        <translation>打印机“%1”未接受任务：%2</translation>
+        <translation>打印机“%1”未接受任务：%2。</translation>
     </message>
     <message>
         <source>the document has %1 pages, and only the first %2 of them can be printed</source>
@@ -3070,7 +3074,7 @@
     </message>
     <message>
         <source>the result could not be opened again: %1</source>
-        <translation>无法重新打开结果：%1</translation>
+        <translation>无法重新打开结果：%1。</translation>
     </message>
     <message>
         <source>an image with more pixels than are granted was left out</source>
@@ -3110,7 +3114,7 @@
     </message>
     <message>
         <source>it cannot be mended: %1</source>
-        <translation>无法修复：%1</translation>
+        <translation>无法修复：%1。</translation>
     </message>
     <message>
         <source>the program was taken out of %1</source>
@@ -3302,11 +3306,11 @@
     </message>
     <message>
         <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
-        <translation>边界框 %1 截去了图形，图形超出 %2 pt：%3</translation>
+        <translation>边界框 %1 截去了图形，图形超出 %2 pt：%3。</translation>
     </message>
     <message>
         <source>the bounding box %1 is more than twice as large as the ink: %2</source>
-        <translation>边界框 %1 比图形大一倍以上：%2</translation>
+        <translation>边界框 %1 比图形大一倍以上：%2。</translation>
     </message>
     <message>
         <source>the %1 section ends at byte %2, the file at byte %3</source>
@@ -3318,15 +3322,15 @@
     </message>
     <message>
         <source>bytes before %!PS-Adobe: %1</source>
-        <translation>%!PS-Adobe 之前的字节数：%1</translation>
+        <translation>%!PS-Adobe 之前的字节数：%1。</translation>
     </message>
     <message>
         <source>bytes behind %%EOF: %1</source>
-        <translation>%%EOF 之后的字节数：%1</translation>
+        <translation>%%EOF 之后的字节数：%1。</translation>
     </message>
     <message>
         <source>the file needs fonts that it does not bring: %1</source>
-        <translation>文件需要未附带的字体：%1</translation>
+        <translation>文件需要未附带的字体：%1。</translation>
     </message>
     <message>
         <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
@@ -3398,7 +3402,7 @@
     </message>
     <message>
         <source>its permissions forbid %1</source>
-        <translation>其权限禁止：%1</translation>
+        <translation>其权限禁止：%1。</translation>
     </message>
     <message>
         <source>it claims to keep %1</source>
@@ -3414,7 +3418,7 @@
     </message>
     <message>
         <source>elements drawn through filters become images in print: %1</source>
-        <translation>因滤镜而在打印时变为图像的元素：%1</translation>
+        <translation>因滤镜而在打印时变为图像的元素：%1。</translation>
     </message>
     <message>
         <source>something is drawn up to %1 pt outside the page</source>

@@ -1,6 +1,7 @@
 // Sentences that come in English with something at their places, and the same in another language.
 #include "base/sentence.h"
 
+#include <QHash>
 #include <QTranslator>
 
 #include <array>
@@ -8,6 +9,26 @@
 #include "kit/test_main.h"
 
 using namespace norvex;
+
+namespace {
+
+/// Another language, as long as it lives.
+class Words final : public QTranslator {
+ public:
+  explicit Words(const QHash<QByteArray, QString>& words) : words_(words) {
+    QCoreApplication::installTranslator(this);
+  }
+  ~Words() override { QCoreApplication::removeTranslator(this); }
+  [[nodiscard]] QString translate(const char* context, const char* key, const char*, int) const override {
+    return QByteArray(context) == sentenceTable ? words_.value(key) : QString();
+  }
+  [[nodiscard]] bool isEmpty() const override { return false; }
+
+ private:
+  const QHash<QByteArray, QString> words_;
+};
+
+}  // namespace
 
 class SentenceTest : public QObject {
   Q_OBJECT
@@ -75,25 +96,43 @@ class SentenceTest : public QObject {
   }
 
   void aSentenceAndANameAtItsPlaceAreTranslated() {
-    class German final : public QTranslator {
-     public:
-      QString translate(const char* context, const char* key, const char*, int) const override {
-        if (QByteArray(context) != sentenceTable) return {};
-        const QByteArray words(key);
-        if (words == "%1 bytes of %2 are missing") return QStringLiteral("%2 fehlen %1 Byte.");
-        return words == "its preview" ? QStringLiteral("der Vorschau") : QString();
-      }
-      bool isEmpty() const override { return false; }
-    } german;
+    const Words german(
+        {{"%1 bytes of %2 are missing", "%2 fehlen %1 Byte."}, {"its preview", "der Vorschau"}});
     const std::array keys{"%1 bytes of %2 are missing", "its preview", "it is %1"};
-    QCoreApplication::installTranslator(&german);
     QCOMPARE(translatedSentence(QStringLiteral("3 bytes of its preview are missing"), keys),
              QStringLiteral("der Vorschau fehlen 3 Byte."));
     QCOMPARE(translatedSentence(QStringLiteral("3 bytes of a%1b are missing"), keys),
              QStringLiteral("a%1b fehlen 3 Byte."));
     QCOMPARE(translatedSentence(QStringLiteral("it is old"), keys), QStringLiteral("it is old"));
     QCOMPARE(translatedSentence(QStringLiteral("no key of ours"), keys), QStringLiteral("no key of ours"));
-    QCoreApplication::removeTranslator(&german);
+  }
+
+  void ofTwoSentencesThatFitTheOneThatSaysMoreIsMeant() {
+    const Words german({{"it claims to keep %1", "Es will %1 einhalten."},
+                        {"it claims to keep %1 and has no intent", "Es will %1 einhalten, ohne Absicht."}});
+    const std::array keys{"it claims to keep %1", "it claims to keep %1 and has no intent"};
+    QCOMPARE(translatedSentence("it claims to keep X-1a and has no intent", keys),
+             QString("Es will X-1a einhalten, ohne Absicht."));
+    QCOMPARE(translatedSentence("it claims to keep X-1a", keys), QString("Es will X-1a einhalten."));
+  }
+
+  void aNameThatADocumentGivesIsNoWordOfOurs() {
+    const Words german({{"the %1 image", "das Bild (%1)"}, {"the ink %1", "die Farbe %1"}, {"grey", "grau"}});
+    const std::array keys{"the %1 image", "the ink %1", "grey"};
+    const std::array naming{"the ink %1"};
+    QCOMPARE(translatedSentence("the ink grey", keys, naming), QString("die Farbe grey"));
+    QCOMPARE(translatedSentence("the grey image", keys, naming), QString("das Bild (grau)"));
+  }
+
+  void aSentenceWithinAnotherHasNoFullStop() {
+    const Words other({{"it failed (%1)", "Es ging nicht (%1)."},
+                       {"it failed: %1", QStringLiteral("失敗：%1。")},
+                       {"No space", "Kein Platz."},
+                       {"no reason", QStringLiteral("理由なし。")}});
+    const std::array keys{"it failed (%1)", "it failed: %1", "No space", "no reason"};
+    QCOMPARE(translatedSentence("it failed (No space)", keys), QString("Es ging nicht (Kein Platz)."));
+    QCOMPARE(translatedSentence("it failed: no reason", keys), QStringLiteral("失敗：理由なし。"));
+    QCOMPARE(translatedSentence("No space", keys), QString("Kein Platz."));
   }
 };
 

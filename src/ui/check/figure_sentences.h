@@ -6,7 +6,7 @@
 
 namespace norvex {
 
-/// Keys of the string table of sentences. The more places one begins with, the later it stands.
+/// Keys of the string table of sentences.
 inline constexpr std::array figureSentences{
     "the font %1 is missing, another stands in for it",
     "the font %1 is missing, %2 stands in for it",
@@ -78,6 +78,15 @@ inline constexpr std::array figureSentences{
     "%1 stands behind %2",
     "%1 ends what did not begin",
     "%1 has no end",
+};
+
+/// Those at whose places stands what a document calls something, and be it "grey".
+inline constexpr std::array figureNames{
+    "there is the spot ink %1",
+    "the file needs fonts that it does not bring: %1",
+    "%%BoundingBox holds \"%1\" instead of four numbers",
+    "%%BoundingBox holds \"%1\", which are not all whole numbers",
+    "the first line \"%1\" does not say %!PS-Adobe-3.0 EPSF-3.0",
 };
 
 }  // namespace norvex

@@ -60,7 +60,7 @@ FindingText textOf(const Finding& finding) {
   FindingText text;
   const QString title = latin1(finding.rule->title), rules = worded(finding.rule->title);
   const bool isName = title.at(0).isLower();
-  const QString said = translatedSentence(finding.sentence, figureSentences);
+  const QString said = translatedSentence(finding.sentence, figureSentences, figureNames);
   const bool isObject = !finding.object.isEmpty() && said.startsWith(finding.object);
   const QString own = sentenceOf(said, (isName && said == finding.sentence) || isObject);
   const bool isTranslated = rules != title;
@@ -73,7 +73,7 @@ FindingText textOf(const Finding& finding) {
 }
 
 QString figuresOf(const QString& sentence) {
-  return asSentence(translatedSentence(sentence, figureSentences));
+  return asSentence(translatedSentence(sentence, figureSentences, figureNames));
 }
 
 QString countsOf(const Findings& findings) {

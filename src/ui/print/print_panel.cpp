@@ -48,7 +48,7 @@ QString suggestedFile(const QWidget* window, const QString& title) {
   const QDir folder = QFileInfo(window->windowFilePath()).dir();
   QString file = folder.filePath(name);
   for (int number = 2; QFileInfo::exists(file); ++number)
-    file = folder.filePath(QStringLiteral("%1-%2.%3").arg(title).arg(number).arg(kSuffix));
+    file = folder.filePath(title + u'-' + QString::number(number) + u'.' + kSuffix);
   return file;
 }
 
@@ -131,6 +131,7 @@ void PrintPanel::addPrinter(QFormLayout* form) {
   printer_->setAccessibleName(localizedString("Printer"));
   printer_->addItem(localizedString("Save as PDF file"), kFileItem);
   state_ = new QLabel;
+  state_->setTextFormat(Qt::PlainText);  // a printer's name is no markup
   state_->setObjectName(QStringLiteral("printerState"));
   state_->setWordWrap(true);
   state_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);

@@ -87,9 +87,10 @@ PageReading readingOf(PdfFile& file, int page) {
 }
 
 Error nothingCanBeRead(int page, int pageCount) {
-  const QString which = pageCount == 1      ? QStringLiteral("its page")
-                        : page == everyPage ? QStringLiteral("its pages")
-                                            : QStringLiteral("page %1").arg(page + 1);
+  if (pageCount > 1 && page != everyPage)
+    return {ErrorKind::NotParsable,
+            QStringLiteral("the file is damaged; nothing of page %1 can be read").arg(page + 1)};
+  const QString which = pageCount == 1 ? QStringLiteral("its page") : QStringLiteral("its pages");
   return {ErrorKind::NotParsable,
           QStringLiteral("the file is damaged; nothing of %1 can be read").arg(which)};
 }

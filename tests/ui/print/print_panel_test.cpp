@@ -28,8 +28,13 @@ namespace {
 class Drawing final : public PrintableView {
  public:
   using Picture = std::function<Result<PictureBytes>(const CancelToken&)>;
-  explicit Drawing(const QSizeF& size, Picture picture = {}, QList<QSizeF> pages = {}, int pageCount = 0)
-      : size_(size), picture_(std::move(picture)), pages_(std::move(pages)), pageCount_(pageCount) {}
+  explicit Drawing(const QSizeF& size, Picture picture = {}, QList<QSizeF> pages = {}, int pageCount = 0,
+                   QString title = "A drawing")
+      : size_(size),
+        picture_(std::move(picture)),
+        pages_(std::move(pages)),
+        pageCount_(pageCount),
+        title_(std::move(title)) {}
   [[nodiscard]] PrintSource printSource() const override {
     PrintSource source;
     source.shown.size = size_;
@@ -37,7 +42,7 @@ class Drawing final : public PrintableView {
     for (const QSizeF& page : pages_) source.pages << PrintPage{page, picture_};
     source.shownPage = 1;
     source.pageCount = pageCount_;
-    source.jobTitle = "A drawing";
+    source.jobTitle = title_;
     source.header = [] { return std::optional(defaultPageLine()); };
     source.footer = [] { return std::optional(defaultPageLine()); };
     return source;
@@ -48,6 +53,7 @@ class Drawing final : public PrintableView {
   Picture picture_;
   QList<QSizeF> pages_;  ///< of a document with several; the second is the one that is shown
   int pageCount_;
+  QString title_;
 };
 
 NSPrintInfo a4() {
@@ -74,12 +80,13 @@ class PrintPanelTest : public QObject {
   Drawing::Picture picture_;  ///< of the next panel; none: blank pages
   QList<QSizeF> pages_;       ///< of the next panel's document; none: there is one
   int pageCount_ = 0;         ///< of it; 0: no more than those
+  QString title_ = "A drawing";
 
   void open(const QSizeF& size, const QList<Printer>& printers = kPrinters, const NSPrintInfo& info = a4()) {
     panel_.reset();
     spooler_ = std::make_unique<MemorySpooler>(printers);
     operation_ = NSPrintOperation::printOperationWithView(
-        std::make_unique<Drawing>(size, picture_, pages_, pageCount_), info,
+        std::make_unique<Drawing>(size, picture_, pages_, pageCount_, title_), info,
         {&service_, spooler_.get(), nullptr});
     operation_->printPanel().setOptions(operation_->printPanel().options() | 28);
     panel_ = std::make_unique<PrintPanel>(*operation_, *spooler_, nullptr);
@@ -105,6 +112,7 @@ class PrintPanelTest : public QObject {
     picture_ = {};
     pages_ = {};
     pageCount_ = 0;
+    title_ = "A drawing";
   }
 
   void theDefaultPrinterIsChosenAndItsStateIsTold() {
@@ -152,6 +160,24 @@ class PrintPanelTest : public QObject {
     QVERIFY(picture.open(QIODevice::WriteOnly));
     panel.accept();
     QCOMPARE(suggested, folder.filePath("A drawing-2.pdf"));
+  }
+
+  void aPictureWhoseNameHoldsAPlaceIsSuggestedUnderItsName() {
+    QTemporaryDir folder;
+    title_ = "50%1 off";
+    open({100, 100}, {});
+    QWidget window;
+    window.setWindowFilePath(folder.filePath("50%1 off.eps"));
+    QFile earlier(folder.filePath("50%1 off.pdf"));
+    QVERIFY(earlier.open(QIODevice::WriteOnly));
+    PrintPanel panel(*operation_, *spooler_, &window);
+    QString suggested;
+    panel.askForFile = [&suggested](const QString& suggestion) {
+      suggested = suggestion;
+      return QString();
+    };
+    panel.accept();
+    QCOMPARE(suggested, folder.filePath("50%1 off-2.pdf"));
   }
 
   void aFileOfPagesIsCalledPdf_data() {

@@ -29,13 +29,18 @@ void StoppableProcess::stop() {
 
 void StoppableProcess::resume() {
   const std::lock_guard lock(mutex_);
-  stopped_ = false;
+  stopped_ = shownBegun_ = false;
   deaths_ = 0;  // somebody asks for it
 }
 
 bool StoppableProcess::isStopped() {
   const std::lock_guard lock(mutex_);
   return stopped_;
+}
+
+bool StoppableProcess::hasShownBegun() {
+  const std::lock_guard lock(mutex_);
+  return shownBegun_;
 }
 
 bool StoppableProcess::showsBegun() {
@@ -46,6 +51,8 @@ bool StoppableProcess::showsBegun() {
 Result<QImage> StoppableProcess::renderBegun(RenderRequest request, const CancelToken& cancel) {
   request.page = begunPage;
   Result<QImage> begun = ForwardingProcess::render(request, cancel);
+  const std::lock_guard lock(mutex_);
+  if (begun && stopped_) shownBegun_ = true;
   return begun || begun.error().kind == ErrorKind::Cancelled ? std::move(begun)
                                                              : Result<QImage>(stoppedError());
 }

@@ -33,6 +33,8 @@ class StoppableProcess final : public ForwardingProcess {
   void stop();
   void resume();
   [[nodiscard]] bool isStopped();
+  /// True if what a program had begun has been given away as its picture since it was stopped.
+  [[nodiscard]] bool hasShownBegun();
   /// True if renderings that were stopped have not ended yet.
   [[nodiscard]] bool isStopping();
   /// True if the error says that the drawing was stopped, not that it failed.
@@ -53,7 +55,7 @@ class StoppableProcess final : public ForwardingProcess {
   std::mutex mutex_;                    ///< of everything below
   QHash<quint64, CancelToken> active_;  ///< of the renderings under way
   quint64 lastId_ = 0;
-  bool stopped_ = false;
+  bool stopped_ = false, shownBegun_ = false;
   int deaths_ = 0;                              ///< in a row
   std::chrono::steady_clock::time_point rest_;  ///< until when nothing is started
   std::optional<Error> lastDeath_;

@@ -148,15 +148,17 @@ void MessagesCommand::openingWasStopped() {
 }
 
 void MessagesCommand::retryDrawing() {
-  NSImageRep* rep = parts_.view()->imageRep().get();
+  const std::shared_ptr<NSImageRep> rep = parts_.view()->imageRep();
   if (!rep) return;
   if (process_) process_->resume();
+  begunIsShown_ = false;
   rep->retryRendering();
   parts_.viewWidget()->update();
   // The stopped try may end only now, and would count as this try's failure.
-  QTimer::singleShot(kStoppedEndsMs, rep, [this, rep] {
-    if (parts_.view()->imageRep().get() != rep) return;
-    const auto error = rep->renderingError();
+  QTimer::singleShot(kStoppedEndsMs, this, [this, shown = std::weak_ptr(rep)] {
+    const std::shared_ptr<NSImageRep> same = shown.lock();
+    if (!same || parts_.view()->imageRep() != same) return;
+    const auto error = same->renderingError();
     if ((error && StoppableProcess::meansStopped(*error)) || (process_ && process_->isStopping()))
       retryDrawing();
   });
@@ -169,25 +171,28 @@ void MessagesCommand::stopDrawing() {
   parts_.loadingCard()->end();
   NSImageRep* rep = parts_.view()->imageRep().get();
   if (!rep || !process_ || rep->pictureKind() != PictureKind::Eps) return;
-  showBegun();
+  showBegun(false);
 }
 
-/// Once the drawing has ended that was stopped: it tells what it had begun.
-void MessagesCommand::showBegun() {
-  NSImageRep* rep = parts_.view()->imageRep().get();
+/// Once the drawings have ended that were stopped: only then nothing stands in the way of what the program
+/// had begun. Meanwhile the window may be closed, or show another document.
+void MessagesCommand::showBegun(bool isAsked) {
+  const std::shared_ptr<NSImageRep> rep = parts_.view()->imageRep();
   if (!rep || !process_ || !process_->isStopped()) return;
-  if (process_->isStopping()) {
-    QTimer::singleShot(kStoppedEndsMs, rep, [this, rep] {
-      if (parts_.view()->imageRep().get() == rep) showBegun();
-    });
-    return;
+  if (!process_->isStopping() && !rep->isRendering()) {
+    const auto error = rep->renderingError();
+    if (isAsked && !(error && error->kind == ErrorKind::Cancelled)) return;
+    rep->retryRendering();
+    parts_.viewWidget()->update();
+    isAsked = true;
   }
-  rep->retryRendering();
-  parts_.viewWidget()->update();
+  QTimer::singleShot(kStoppedEndsMs, this, [this, shown = std::weak_ptr(rep), isAsked] {
+    if (shown.lock() == parts_.view()->imageRep()) showBegun(isAsked);
+  });
 }
 
 void MessagesCommand::tellWhatWasBegun() {
-  if (!process_ || !process_->isStopped() || std::exchange(begunIsShown_, true)) return;
+  if (!process_ || !process_->hasShownBegun() || std::exchange(begunIsShown_, true)) return;
   tell(MessageBar::Kind::Warning,
        localizedString("%1 What is shown is what it had drawn until then.")
            .arg(sentence({ErrorKind::TimedOut, localizedString("The drawing was stopped")})),

@@ -65,7 +65,8 @@ class MessagesCommand final : public QObject {
   void tell(MessageBar::Kind kind, const QString& text, const QString& title = {},
             std::function<void()> action = {}, const QString& details = {});
   void retryDrawing();
-  void showBegun();
+  /// Goes on until it is asked for and has come, or cannot come.
+  void showBegun(bool isAsked);
   void tellWhatWasBegun();
   void followPatience();
   void waitOn();

@@ -89,12 +89,14 @@ class StoppableProcessTest : public QObject {
         std::dynamic_pointer_cast<StoppableProcess>(stoppable.open("bytes", PictureKind::Eps));
     QCOMPARE(process->render(small())->pixelColor(0, 0), QColor(Qt::blue));
     process->stop();
-    QVERIFY(process->isStopped());
+    QVERIFY(process->isStopped() && !process->hasShownBegun());
     QCOMPARE(process->render(small())->pixelColor(0, 0), QColor(Qt::red));
+    QVERIFY(process->hasShownBegun());
     RenderRequest remembered = small();
     remembered.purpose = RenderPurpose::Preview;
     QVERIFY(!process->render(remembered));  // what is begun is no picture of the file
     process->resume();
+    QVERIFY(!process->hasShownBegun());
     QCOMPARE(process->render(small())->pixelColor(0, 0), QColor(Qt::blue));
   }
 
@@ -105,6 +107,7 @@ class StoppableProcessTest : public QObject {
         std::dynamic_pointer_cast<StoppableProcess>(stoppable.open("bytes", PictureKind::Eps));
     process->stop();
     const auto nothing = process->render(small());
+    QVERIFY(!process->hasShownBegun());
     QVERIFY(!nothing && StoppableProcess::meansStopped(nothing.error()));
   }
 

@@ -60,7 +60,7 @@ bool readLines(QProcess& run, int count) {
 class ArchiveStateTest : public QObject {
   Q_OBJECT
  private slots:
-  void aStateInAFolderThatCannotBeWrittenIsReadAndNotUsed() {
+  void aStateInAFolderThatCannotBeWrittenIsReadAndMergedAndNotUsed() {
     const Tree tree(10);
     SmallDisk disk("5m");
     if (!disk.isMounted()) QSKIP("a small disk cannot be mounted here");
@@ -72,6 +72,9 @@ class ArchiveStateTest : public QObject {
     const Ran after = kit::norvex({"status", state});
     QVERIFY2(after.exitCode == 0, after.err.constData());
     QCOMPARE(after.out, before.out);
+    QVERIFY(QFile::copy(tree.path("undisturbed.state"), tree.path("sum")));
+    const Ran merged = kit::norvex({"status", tree.path("sum"), "--merge", state});
+    QVERIFY2(merged.exitCode == 0, merged.err.constData());
     const Ran run = Tree::run(withState(tree, state));
     QCOMPARE(run.exitCode, 4);
     QVERIFY2(run.err.contains("it cannot be opened (Read-only file system)"), run.err.constData());

@@ -75,19 +75,26 @@ void Database::close(sqlite3* database) {
 
 Result<Database> Database::open(const QByteArray& path, bool mayCreate) {
   sqlite3* opened = nullptr;
-  const int flags =
-      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (mayCreate || path.isEmpty() ? SQLITE_OPEN_CREATE : 0);
-  const int code = ::sqlite3_open_v2(path.constData(), &opened, flags, nullptr);
+  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI |
+                    (mayCreate || path.isEmpty() ? SQLITE_OPEN_CREATE : 0);
+  const int code = ::sqlite3_open_v2(nameOf(path).constData(), &opened, flags, nullptr);
   Database database(opened);
   if (code != SQLITE_OK) return database.error();
   if (const auto ready = database.makeReady(); !ready) return ready.error();
   return database;
 }
 
+QByteArray Database::nameOf(const QByteArray& path) {
+  return path.startsWith("file:") ? "./" + path : path;
+}
+
+QByteArray Database::unchangingNameOf(const QByteArray& path) {
+  return (path.startsWith('/') ? "file://" : "file:") + path.toPercentEncoding("/") + "?immutable=1";
+}
+
 Result<Database> Database::openUnchanging(const QByteArray& path) {
   sqlite3* opened = nullptr;
-  const QByteArray uri =
-      QByteArray(path.startsWith('/') ? "file://" : "file:") + path.toPercentEncoding("/") + "?immutable=1";
+  const QByteArray uri = unchangingNameOf(path);
   const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI;
   const int code = ::sqlite3_open_v2(uri.constData(), &opened, flags, nullptr);
   Database database(opened);

@@ -52,6 +52,10 @@ class Database {
   /// To read one that nobody changes, in a folder where nothing can be written. CannotWrite.
   [[nodiscard]] static Result<Database> openUnchanging(const QByteArray& path);
 
+  /// How a file is called where others are attached: as one that may change, and as one that nobody changes.
+  [[nodiscard]] static QByteArray nameOf(const QByteArray& path);
+  [[nodiscard]] static QByteArray unchangingNameOf(const QByteArray& path);
+
   /// False on failure.
   bool run(const char* sql);
   [[nodiscard]] Statement prepare(const char* sql);

@@ -233,7 +233,9 @@ Result<void> RunState::merge(const QByteArray& other) {
   if (!ours) return ours.error();
   Statement attach = database_.prepare("ATTACH ? AS other");
   // As bytes: a file's name need not be text, and SQLite hands them on as they are.
-  if (!attach.bind(0, other).run()) return database_.error();
+  const bool isUnchanging = ::access(folderOf(other).constData(), W_OK) != 0 && !hasLog(other);
+  const QByteArray name = isUnchanging ? Database::unchangingNameOf(other) : Database::nameOf(other);
+  if (!attach.bind(0, name).run()) return database_.error();
   const bool merged = database_.run(
                           "BEGIN;"  // takes no lock of the other: a run that uses it must not wait
                           "INSERT OR REPLACE INTO main.entry SELECT theirs.* FROM other.entry AS theirs"

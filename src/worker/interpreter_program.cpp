@@ -29,6 +29,12 @@ std::string programBesideOurs() {
   return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "norvex-postscript";
 }
 
+/// Libraries beside a program are looked for at $ORIGIN, which the loader asks /proc for; within a view of
+/// the files there is none, and then it goes by this.
+std::string originOf(const std::string& program) {
+  return "LD_ORIGIN_PATH=" + std::filesystem::path(program).parent_path().string();
+}
+
 /// All are numbers that nothing is put in place of. Standard streams are ours, which are nothing; everything
 /// else is closed.
 pid_t spawn(const std::string& program, const std::vector<std::string>& words, int taking, int telling,
@@ -43,8 +49,13 @@ pid_t spawn(const std::string& program, const std::vector<std::string>& words, i
   std::vector<char*> arguments{const_cast<char*>(program.c_str())};
   for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
   arguments.push_back(nullptr);
+  std::string origin = originOf(program);
+  std::vector<char*> environment{origin.data()};
+  for (char** each = environ; *each != nullptr; ++each) environment.push_back(*each);
+  environment.push_back(nullptr);
   pid_t pid = 0;
-  const int failure = ::posix_spawn(&pid, program.c_str(), &actions, nullptr, arguments.data(), environ);
+  const int failure =
+      ::posix_spawn(&pid, program.c_str(), &actions, nullptr, arguments.data(), environment.data());
   ::posix_spawn_file_actions_destroy(&actions);
   return failure == 0 ? pid : 0;
 }

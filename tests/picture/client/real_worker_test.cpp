@@ -138,6 +138,11 @@ class RealWorkerTest : public QObject {
       QVERIFY2(image.ok(), image.ok() ? "" : qPrintable(image.error().message));
       QCOMPARE(image->pixelColor(35, 10), QColor(Qt::blue));
       QCOMPARE(interpreters().size(), 1);
+      QFile maps(QStringLiteral("/proc/%1/maps").arg(interpreters().value(0)));
+      QVERIFY(maps.open(QIODevice::ReadOnly));
+      const QByteArray loaded = maps.readAll();
+      QVERIFY(loaded.contains("/libgs.so") && loaded.contains("/stand-ins/libcups.so"));
+      QVERIFY(!loaded.contains("libkrb5"));
       // A started gs would be a child of the document's process.
       QCOMPARE(childrenOf(std::static_pointer_cast<WorkerClient>(process)->processId()), QList<qint64>());
       ::kill(pid_t(interpreters().first()), SIGKILL);

@@ -25,19 +25,22 @@ Known& knownOf(cairo_font_face_t* face) {
   return *made;
 }
 
-/// Draws a glyph at the origin, an em a unit of `context`, y down.
-void draw(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph, cairo_t* context) {
+/// Draws a glyph at the origin, an em a unit of `context`, y down. Gives what it tells of its size.
+cairo_text_extents_t draw(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph, cairo_t* context) {
   cairo_text_extents_t extents{};
   cairo_save(context);
   drawing(font, glyph, context, &extents);
   cairo_restore(context);
+  return extents;
 }
 
-/// Whether something of it, drawn around its em, is in another colour than what was chosen for it.
+/// Whether something of it, drawn around its em, is in another colour than what was chosen for it. One of a
+/// PDF that tells its box (d1 in place of d0) is a shape by that, whatever colours it names.
 bool setsColours(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph) {
   constexpr int kSide = 32;
   Result<Bitmap> pixels = Bitmap::create({kSide, kSide});
   if (!pixels) return false;
+  cairo_text_extents_t told{};
   {
     const CairoSurface surface(cairo_image_surface_create_for_data(
         reinterpret_cast<uchar*>(pixels->row(0)), CAIRO_FORMAT_ARGB32, kSide, kSide, pixels->bytesPerRow()));
@@ -45,11 +48,30 @@ bool setsColours(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph
     cairo_set_source_rgb(context.get(), 0, 0, 0);
     cairo_translate(context.get(), kSide / 4.0, kSide * 3 / 4.0);
     cairo_scale(context.get(), kSide / 2.0, kSide / 2.0);
-    draw(drawing, font, glyph, context.get());
-    cairo_surface_flush(surface.get());
+    told = draw(drawing, font, glyph, context.get());
+    cairo_surface_finish(surface.get());  // who drew it may keep the context
   }
+  if (told.width != 0 || told.height != 0) return false;
   const std::span<const Argb32> all(pixels->row(0), size_t(kSide) * kSide);
   return std::any_of(all.begin(), all.end(), [](Argb32 pixel) { return (pixel & 0xffffff) != 0; });
+}
+
+/// Draws a glyph in its own colours, as strong as the text's colour is.
+void drawInColours(Drawing drawing, cairo_scaled_font_t* font, const cairo_glyph_t& glyph, cairo_t* context) {
+  double strength = 1;
+  cairo_pattern_get_rgba(cairo_get_source(context), nullptr, nullptr, nullptr, &strength);
+  cairo_matrix_t em;
+  cairo_get_font_matrix(context, &em);
+  cairo_save(context);
+  if (strength < 1) cairo_push_group(context);
+  cairo_translate(context, glyph.x, glyph.y);
+  cairo_transform(context, &em);
+  draw(drawing, font, glyph.index, context);
+  if (strength < 1) {
+    cairo_pop_group_to_source(context);
+    cairo_paint_with_alpha(context, strength);
+  }
+  cairo_restore(context);
 }
 
 void showMasks(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
@@ -66,8 +88,6 @@ void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
   if (!drawing) return showMasks(context, glyphs, count);
   cairo_scaled_font_t* font = cairo_get_scaled_font(context);
   Known& known = knownOf(face);
-  cairo_matrix_t em;
-  cairo_get_font_matrix(context, &em);
   // Masks that follow one another are handed on together, as they came.
   int masks = 0;
   for (int i = 0; i < count; ++i) {
@@ -79,11 +99,7 @@ void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
     }
     showMasks(context, glyphs + i - masks, masks);
     masks = 0;
-    cairo_save(context);
-    cairo_translate(context, glyph.x, glyph.y);
-    cairo_transform(context, &em);
-    draw(drawing, font, glyph.index, context);
-    cairo_restore(context);
+    drawInColours(drawing, font, glyph, context);
   }
   showMasks(context, glyphs + count - masks, masks);
 }

@@ -11,17 +11,18 @@ using namespace norvex::engine;
 
 namespace {
 
-constexpr unsigned long kOpen = 0, kRed = 1;
+constexpr unsigned long kOpen = 0, kRed = 1, kRedShape = 2;
 int drawings = 0;
 
 /// A square of half an em, in red or in whatever colour is chosen.
 cairo_status_t drawGlyph(cairo_scaled_font_t*, unsigned long glyph, cairo_t* context,
                          cairo_text_extents_t* extents) {
   ++drawings;
-  if (glyph == kRed) cairo_set_source_rgb(context, 1, 0, 0);
+  if (glyph != kOpen) cairo_set_source_rgb(context, 1, 0, 0);
   cairo_rectangle(context, 0, -0.5, 0.5, 0.5);
   cairo_fill(context);
   extents->x_advance = 1;
+  if (glyph == kRedShape) extents->y_bearing = -0.5, extents->width = extents->height = 0.5;
   return CAIRO_STATUS_SUCCESS;
 }
 
@@ -37,7 +38,7 @@ Face madeFace() {
 }
 
 /// What the middle of a glyph in blue comes to.
-Argb32 shown(const Face& face, unsigned long glyph, bool asked) {
+Argb32 shown(const Face& face, unsigned long glyph, bool asked, double strength = 1) {
   Bitmap pixels = Bitmap::create({20, 20}).value();
   const CairoSurface surface(cairo_image_surface_create_for_data(
       reinterpret_cast<uchar*>(pixels.row(0)), CAIRO_FORMAT_ARGB32, 20, 20, pixels.bytesPerRow()));
@@ -45,7 +46,7 @@ Argb32 shown(const Face& face, unsigned long glyph, bool asked) {
   if (asked) askForPixelEdges(context.get());
   cairo_set_font_face(context.get(), face.get());
   cairo_set_font_size(context.get(), 20);
-  cairo_set_source_rgb(context.get(), 0, 0, 1);
+  cairo_set_source_rgba(context.get(), 0, 0, 1, strength);
   const cairo_glyph_t placed{glyph, 5, 15};
   showGlyphs(context.get(), &placed, 1);
   cairo_surface_flush(surface.get());
@@ -67,6 +68,20 @@ class ColouredGlyphsTest : public QObject {
     const Face face = madeFace();
     QCOMPARE(shown(face, kOpen, true), 0xFF0000FFu);
     QCOMPARE(shown(face, kOpen, false), 0xFF0000FFu);
+  }
+
+  /// PDF has an operator for it; who uses it and sets colours has set none.
+  void aGlyphThatIsAShapeHasNoColours() {
+    const Face face = madeFace();
+    QCOMPARE(shown(face, kRedShape, true), 0xFF0000FFu);
+  }
+
+  void aGlyphInColoursIsAsTranslucentAsItsText() {
+    const Face face = madeFace();
+    const Argb32 pixel = shown(face, kRed, true, 0.5);
+    QCOMPARE(alpha(pixel), 128);
+    QCOMPARE(red(pixel), 128);
+    QCOMPARE(blue(pixel), 0);
   }
 
   void glyphsOfBothSortsStandInOneLine() {

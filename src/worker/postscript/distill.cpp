@@ -19,6 +19,7 @@
 #include "worker/postscript/page_marks.h"
 #include "worker/postscript/procedure_sets.h"
 #include "worker/postscript/program_watch.h"
+#include "worker/postscript/transfer_functions.h"
 
 namespace norvex::engine {
 namespace {
@@ -159,26 +160,6 @@ Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box, bool unle
   });
 }
 
-bool isFunction(QPDFObjectHandle transfer) {
-  if (!transfer.isArray()) return !transfer.isNull() && !transfer.isName();
-  const std::vector<QPDFObjectHandle> each = transfer.getArrayAsVector();
-  return std::any_of(each.begin(), each.end(), [](const QPDFObjectHandle& one) { return isFunction(one); });
-}
-
-// A PDF keeps transfer functions for printers; who draws it on a screen does not look at them.
-bool hasTransferFunctions(const QByteArray& pdf) {
-  if (!pdf.contains("/TR")) return false;
-  const Result<bool> found = guarded([&]() -> Result<bool> {
-    Result<std::unique_ptr<PdfFile>> file = PdfFile::open(pdf);
-    if (!file) return file.error();
-    for (QPDFObjectHandle object : (*file)->qpdf().getAllObjects())
-      if (object.isDictionary() && (isFunction(object.getKey("/TR")) || isFunction(object.getKey("/TR2"))))
-        return true;
-    return false;
-  });
-  return found && *found;
-}
-
 /// Colours that go through transfer functions are written as what comes of them. Others would be rounded.
 constexpr const char* kAppliedTransfer = "/TransferFunctionInfo /Apply";
 
@@ -221,8 +202,9 @@ Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, Engin
   Result<DrawnProgram> drawn = drawProgram(postScript, box, {}, context, watch);
   if (!drawn) return drawn.error();
   if (hasTransferFunctions(drawn->output)) {
-    drawn = drawProgram(postScript, box, {.parameters = kAppliedTransfer}, context);
-    if (!drawn) return drawn.error();
+    Result<DrawnProgram> applied = drawProgram(postScript, box, {.parameters = kAppliedTransfer}, context);
+    if (!applied) return applied.error();
+    if (haveSameTints(drawn->output, applied->output)) drawn = std::move(applied);
   }
   const bool unfinished = !drawn->stoppedBy.isEmpty();
   Result<QByteArray> pdf = firstPage(drawn->output, box, unfinished);

@@ -32,6 +32,9 @@ class GhostscriptSetUpTest : public QObject {
         "<< /ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 60 0] /Function << /FunctionType 2 /Domain [0 "
         "1] "
         "/C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> shfill\n");
+    QTest::newRow("transfer functions and a spot ink") << QByteArray(
+        "{dup mul} settransfer [/Separation (Orange) /DeviceCMYK {0 exch dup 0}] setcolorspace "
+        "0.5 setcolor 5 5 30 30 rectfill\n");
     QTest::newRow("a missing font") << QByteArray(
         "/NoSuchFont findfont 9 scalefont setfont 5 5 moveto (words) show\n");
     QTest::newRow("an error behind the page") << kDrawing + "showpage nosuch\n";

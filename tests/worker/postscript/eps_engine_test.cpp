@@ -193,6 +193,25 @@ class EpsEngineTest : public QObject {
     QVERIFY(spot);
   }
 
+  /// Applied to them they would make a tint of orange green.
+  void transferFunctionsLeaveSpotInksTheirColours() {
+    const QByteArray ink = "[/Separation (Orange) /DeviceCMYK {0 exch dup 0}] setcolorspace 0.5 setcolor\n";
+    Opened without(eps(ink + "20 0 20 40 rectfill showpage\n"));
+    QVERIFY(without.ok());
+    const QRgb orange = without.image().pixel(30, 20);
+    QVERIFY(qRed(orange) > qGreen(orange) && qGreen(orange) > qBlue(orange));
+    Opened within(eps("{dup mul} settransfer " + ink + "20 0 20 40 rectfill showpage\n"));
+    QVERIFY(within.ok());
+    QCOMPARE(within.image().pixel(30, 20), orange);
+    // Beside them they are seen.
+    Opened beside(eps("{1 exch sub} settransfer 0 setgray 0 0 20 40 rectfill {} settransfer " + ink +
+                      "20 0 20 40 rectfill showpage\n"));
+    QVERIFY(beside.ok());
+    const QImage image = beside.image();
+    QCOMPARE(image.pixel(10, 20), qRgb(255, 255, 255));
+    QCOMPARE(image.pixel(30, 20), orange);
+  }
+
   void transferFunctionsAreSeen() {
     Opened inverted(
         eps("{1 exch sub} settransfer 0.2 setgray 0 0 20 40 rectfill 1 0 0 setrgbcolor 20 0 20 40 rectfill\n"

@@ -18,6 +18,7 @@ namespace norvex::engine {
 namespace {
 
 constexpr quint32 kOpaque = 0xff000000u;
+constexpr double kMostSeenPixels = 16e6;  // of an image and its mask as one
 
 QByteArray number(int value) {
   return QByteArray::number(value);
@@ -70,13 +71,19 @@ void takeOutMatte(SvgPixels& pixels, const SvgPixels& shades, const Rgb& matte) 
   }
 }
 
+/// Pixels along an axis, in which each of the finer one of both has a whole number: about as many as of the
+/// enlarged image.
+double seenSide(int pixels, int shades, int enlarge) {
+  const double wanted = double(pixels) * enlarge;
+  return shades <= pixels ? wanted : std::max(1.0, std::floor(wanted / shades)) * shades;
+}
+
 // An image whose pixels are seen as squares, through a mask of another size: both in pixels of which the
-// finer one has whole numbers. Two images that readers lay over each other would be smoothed.
+// finer one has whole numbers along each axis. Two images that readers lay over each other would be smoothed.
 SvgPixels seenThrough(const SvgPixels& pixels, const SvgPixels& shades, int enlarge) {
-  const bool isMaskFiner = double(shades.width) * shades.height > double(pixels.width) * pixels.height;
-  const SvgPixels& finer = isMaskFiner ? shades : pixels;
-  const int times = isMaskFiner ? std::max(1, int(double(enlarge) * pixels.width / shades.width)) : enlarge;
-  SvgPixels seen{finer.width * times, finer.height * times, {}};
+  SvgPixels seen{int(seenSide(pixels.width, shades.width, enlarge)),
+                 int(seenSide(pixels.height, shades.height, enlarge)),
+                 {}};
   seen.argb.reserve(size_t(seen.width) * size_t(seen.height));
   const auto at = [&](const SvgPixels& of, int x, int y) {
     const auto column = size_t(qint64(x) * of.width / seen.width),
@@ -209,7 +216,12 @@ std::optional<DefinedImage> SvgImages::maskedImage(const ImageSource& source, co
       pixels->argb[i] = (pixels->argb[i] & 0xffffff) | shades->argb[i] << 24;
     return defineLarge(key, std::move(*pixels), source.enlarge);
   }
-  if (pixels && source.enlarge > 1) return defineLarge(key, seenThrough(*pixels, *shades, source.enlarge), 1);
+  // A mask that is fine along one axis alone would take too many.
+  const bool isSquares = pixels && source.enlarge > 1 &&
+                         seenSide(source.width, mask.width, source.enlarge) *
+                                 seenSide(source.height, mask.height, source.enlarge) <=
+                             kMostSeenPixels;
+  if (isSquares) return defineLarge(key, seenThrough(*pixels, *shades, source.enlarge), 1);
   QByteArray grey = elementOf(*shades, {});
   if (grey.isEmpty()) return std::nullopt;
   const QByteArray stretch =

@@ -131,6 +131,8 @@ class SvgDrawingTest : public QObject {
     row("image with a finer mask",
         withMask("/Width 4 /Height 4", QByteArray("\0\x40\x80\xFF", 4).repeated(4)));
     row("image with a coarser mask", withMask("/Width 1 /Height 1", "\x60"));
+    row("image with a mask that is fine along one axis",
+        withMask("/Width 1 /Height 3000", QByteArray(1000, '\x20') + QByteArray(2000, '\xFF')));
     row("image with a mask that fits nowhere", withMask("/Width 3 /Height 1", QByteArray("\x20\xFF\x60")));
     row("image with colours left out",
         image("0 1 1 rg 0 0 200 100 re f q 160 0 0 80 20 10 cm /I Do Q", "/Mask [200 255 0 64 0 64]"));

@@ -73,6 +73,17 @@ class InstallationTest : public QObject {
     }
   }
 
+  void theInterpreterFindsWhatStandsInForLibrariesAndFiles() {
+    const Ran libraries = kit::run("ldd", {installed("libexec/norvex/norvex-postscript")});
+    QCOMPARE(libraries.exitCode, 0);
+    for (const char* name : {"libX11.so.6", "libXt.so.6", "libcups.so.2", "libtiff.so.6"})
+      QVERIFY2(libraries.out.contains(installed("libexec/norvex/stand-ins/").toUtf8() + name), name);
+    const QStringList files =
+        QDir(QStringLiteral(NORVEX_SOURCE_DIR "/src/resources/without-pdf")).entryList({"*.ps"});
+    QVERIFY(!files.isEmpty());
+    QCOMPARE(QDir(installed("libexec/norvex/without-pdf")).entryList(QDir::Files), files);
+  }
+
   void itConvertsEveryKind_data() {
     QTest::addColumn<QString>("sample");
     QTest::addColumn<QString>("format");

@@ -1,5 +1,6 @@
 #include "worker/postscript/distill.h"
 
+#include <QElapsedTimer>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -163,6 +164,21 @@ Result<QByteArray> firstPage(const QByteArray& pdf, const QRectF& box, bool unle
 /// Colours that go through transfer functions are written as what comes of them. Others would be rounded.
 constexpr const char* kAppliedTransfer = "/TransferFunctionInfo /Apply";
 
+/// Puts what a second run makes, with the transfer functions applied, in place of `drawn`, which took
+/// `seconds`. Where there is no time for another run like that, or it fails, `drawn` stays as it is. Fails
+/// with Cancelled alone.
+Result<void> applyTransferFunctions(const QByteArray& postScript, const QRectF& box, int seconds,
+                                    EngineContext& context, DrawnProgram& drawn) {
+  const int left = context.limits.seconds - seconds;
+  if (left <= seconds) return {};
+  const int granted = std::exchange(context.limits.seconds, left);
+  Result<DrawnProgram> applied = drawProgram(postScript, box, {.parameters = kAppliedTransfer}, context);
+  context.limits.seconds = granted;
+  if (!applied) return applied.error().kind == ErrorKind::Cancelled ? applied.error() : Result<void>();
+  if (haveSameTints(drawn.output, applied->output)) drawn = std::move(*applied);
+  return {};
+}
+
 }  // namespace
 
 Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box, const PageDevice& device,
@@ -199,13 +215,14 @@ Result<DrawnProgram> drawProgram(const QByteArray& postScript, const QRectF& box
 
 Result<Distilled> distill(const QByteArray& postScript, const QRectF& box, EngineContext& context,
                           ProgramWatch* watch) {
+  QElapsedTimer clock;
+  clock.start();
   Result<DrawnProgram> drawn = drawProgram(postScript, box, {}, context, watch);
   if (!drawn) return drawn.error();
-  if (hasTransferFunctions(drawn->output)) {
-    Result<DrawnProgram> applied = drawProgram(postScript, box, {.parameters = kAppliedTransfer}, context);
-    if (!applied) return applied.error();
-    if (haveSameTints(drawn->output, applied->output)) drawn = std::move(applied);
-  }
+  const int seconds = int(clock.elapsed() / 1000) + 1;
+  if (hasTransferFunctions(drawn->output))
+    if (const auto done = applyTransferFunctions(postScript, box, seconds, context, *drawn); !done)
+      return done.error();
   const bool unfinished = !drawn->stoppedBy.isEmpty();
   Result<QByteArray> pdf = firstPage(drawn->output, box, unfinished);
   if (!pdf) return unfinished ? Error{ErrorKind::NotParsable, drawn->stoppedBy} : noPage();

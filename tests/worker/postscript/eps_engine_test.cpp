@@ -224,6 +224,18 @@ class EpsEngineTest : public QObject {
     QCOMPARE(image.pixel(50, 5), qRgb(0, 0, 0));
   }
 
+  /// A program may end the second time where it did not the first time, and time is for both.
+  void whereTransferFunctionsCannotBeAppliedThePictureIsThereWithoutThem() {
+    const QByteArray drawing =
+        "{1 exch sub} settransfer 0.2 setgray 0 0 20 40 rectfill\n"
+        "currentdistillerparams /TransferFunctionInfo get /Apply eq { {} loop } if showpage\n";
+    Opened opened(eps(drawing));
+    QVERIFY(opened.ok());
+    opened.context().limits.seconds = 6;
+    QCOMPARE(opened.image().pixel(10, 20), qRgb(51, 51, 51));
+    QCOMPARE(opened.context().limits.seconds, 6);
+  }
+
   void textStaysText() {
     Opened opened(eps("/Helvetica findfont 12 scalefont setfont 5 5 moveto (words) show showpage\n"));
     const auto pdf = opened->pdf({});

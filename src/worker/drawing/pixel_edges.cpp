@@ -17,6 +17,7 @@ constexpr double kSameLine = 1.5 / 256;
 
 /// What is kept for a context.
 struct Asked {
+  bool looksForSeams = false;
   SlantedSeams seams;
   SlantedSeams::Polygon clip;  ///< the last one
 };
@@ -280,8 +281,9 @@ void keepTile(cairo_t* context, Asked& asked) {
 
 }  // namespace
 
-void askForPixelEdges(cairo_t* context) {
-  cairo_set_user_data(context, &kAsked, new Asked, [](void* asked) { delete static_cast<Asked*>(asked); });
+void askForPixelEdges(cairo_t* context, bool looksForSeams) {
+  cairo_set_user_data(context, &kAsked, new Asked{looksForSeams, {}, {}},
+                      [](void* asked) { delete static_cast<Asked*>(asked); });
 }
 
 bool arePixelEdgesAskedFor(cairo_t* context) {
@@ -296,7 +298,7 @@ bool hasSlantedSeams(cairo_t* context) {
 void clipBetweenPixels(cairo_t* context) {
   if (Asked* asked = askedOf(context)) {
     putBetweenPixels(context);
-    asked->clip = polygon(context);
+    if (asked->looksForSeams) asked->clip = polygon(context);
   }
   cairo_clip_preserve(context);
   cairo_new_path(context);
@@ -304,7 +306,7 @@ void clipBetweenPixels(cairo_t* context) {
 
 void fillBetweenPixels(cairo_t* context) {
   if (Asked* asked = askedOf(context)) {
-    keepTile(context, *asked);
+    if (asked->looksForSeams) keepTile(context, *asked);
     if (paintsImage(context))
       putBetweenPixels(context);
     else

@@ -10,12 +10,13 @@ namespace norvex::engine {
 
 /// From now on clips and images have their edges between pixels in this context, wherever clipBetweenPixels()
 /// and fillBetweenPixels() are called for it: the engines' modules have them stand in for cairo_clip() and
-/// cairo_fill(), for the libraries that they load, too. Goes with the context.
-void askForPixelEdges(cairo_t* context);
+/// cairo_fill(), for the libraries that they load, too. `looksForSeams`: for hasSlantedSeams(); every clip
+/// and area takes longer. Goes with the context.
+void askForPixelEdges(cairo_t* context, bool looksForSeams = false);
 [[nodiscard]] bool arePixelEdgesAskedFor(cairo_t* context);
 
 /// Whether images and areas that were painted up to their clips met at edges that could not be put between
-/// pixels: at any other angle than level and upright. False where askForPixelEdges() was not called.
+/// pixels: at any other angle than level and upright. False where nobody looked for them.
 [[nodiscard]] bool hasSlantedSeams(cairo_t* context);
 
 /// As cairo_clip(). Where askForPixelEdges() was called, the level and upright edges of the path (as they lie

@@ -88,11 +88,12 @@ Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
   const Result<PagePointer> page = shownPage(document_.get(), request.page);
   if (!page) return page.error();
-  bool seams = tiled_.contains(request.page) && isSlanted(request.pictureToDevice);
+  const bool slanted = isSlanted(request.pictureToDevice);
+  bool seams = slanted && tiled_.contains(request.page);
   const PaintPicture paint = [&](cairo_t* context) {
-    askForPixelEdges(context);
+    askForPixelEdges(context, slanted && !seams);
     const Result<void> painted = paintPage(context, page->get(), shownSize);
-    seams = seams || (isSlanted(request.pictureToDevice) && hasSlantedSeams(context));
+    seams = seams || hasSlantedSeams(context);
     return painted;
   };
   // Where it would take too much, the picture is drawn with its seams.

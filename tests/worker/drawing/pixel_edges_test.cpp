@@ -17,7 +17,7 @@ struct Sheet {
   explicit Sheet(bool asked = true)
       : surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 40, 40)),
         context(cairo_create(surface.get())) {
-    if (asked) askForPixelEdges(context.get());
+    if (asked) askForPixelEdges(context.get(), true);
   }
 
   [[nodiscard]] int coverage(int x, int y) const {

@@ -4,10 +4,12 @@
 // library before it is looked for in cairo: these are the ones that are called. A library stays bound to the
 // module that loaded it first, and each module has its own key for what is asked of a context: in a process
 // that has loaded two modules, only what the first of them draws has these edges. librsvg strokes with
-// cairo_stroke_preserve(), and sets width and matrix just before.
+// cairo_stroke_preserve(), and sets width and matrix just before; it takes the box of a shape from
+// cairo_path_extents().
 #include <dlfcn.h>
 
 #include "worker/drawing/coloured_glyphs.h"
+#include "worker/drawing/path_extents.h"
 #include "worker/drawing/pixel_edges.h"
 #include "worker/drawing/stroke_measure.h"
 
@@ -28,6 +30,12 @@ NORVEX_STANDS_IN void cairo_stroke_preserve(cairo_t* context) {
   cairo_set_tolerance(context, norvex::engine::strokeTolerance(context));
   cairos(context);
   cairo_set_tolerance(context, before);
+}
+
+NORVEX_STANDS_IN void cairo_path_extents(cairo_t* context, double* x0, double* y0, double* x1, double* y1) {
+  using PathExtents = void(cairo_t*, double*, double*, double*, double*);
+  static const auto cairos = reinterpret_cast<PathExtents*>(::dlsym(RTLD_NEXT, "cairo_path_extents"));
+  if (!norvex::engine::turnedPathExtents(context, x0, y0, x1, y1)) cairos(context, x0, y0, x1, y1);
 }
 
 NORVEX_STANDS_IN void cairo_show_glyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {

@@ -45,4 +45,14 @@ inline QString formatOf(const QString& file) {
   return others.contains(extension) ? extension : QStringLiteral("eps");
 }
 
+/// All pictures of these formats (as formatOf() names them), those among the files of every kind last.
+inline QStringList filesOf(const QStringList& formats) {
+  QStringList found, mixed;
+  for (const QString& folder : folders().keys())
+    for (const QString& file : files(folder))
+      if (folder != "hostile" && formats.contains(formatOf(file)))
+        (folder == "edge" || folder == "found" ? mixed : found) << file;
+  return found + mixed;
+}
+
 }  // namespace norvex::real

@@ -18,6 +18,7 @@
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "system/outside_programs.h"
+#include "system/real_files.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -251,7 +252,8 @@ class VectorOutputTest : public QObject {
   /// Two files of each kind; NORVEX_VECTOR_FILES=10 asks for ten. Files that cannot be shown are passed over.
   void realFilesAreHandedOutAsTheyAreShown_data() {
     QTest::addColumn<QString>("kind");
-    for (const char* kind : {"eps_text", "eps_binary", "epsi", "ai_ps", "ai_pdf", "pdf", "svg", "svgz"})
+    for (const char* kind :
+         {"eps_text", "eps_binary", "epsi", "ai_ps", "ai_pdf", "pdf", "svg", "svgz", "edge", "found"})
       QTest::newRow(kind) << QString(kind);
   }
   void realFilesAreHandedOutAsTheyAreShown() {
@@ -261,7 +263,7 @@ class VectorOutputTest : public QObject {
     const int wanted = qEnvironmentVariableIsSet("NORVEX_VECTOR_FILES")
                            ? qEnvironmentVariableIntValue("NORVEX_VECTOR_FILES")
                            : 2;
-    const QStringList all = kit::corpusFiles(kind);
+    const QStringList all = real::files(kind);
     QStringList files;
     for (qsizetype i = 0; i < std::min<qsizetype>(wanted, all.size()); ++i)
       files << all[i * all.size() / std::min<qsizetype>(wanted, all.size())];
@@ -348,7 +350,7 @@ class VectorOutputTest : public QObject {
       QTest::newRow(name) << kPictures + name;
     QTest::newRow("lighthouse.eps") << kit::sample("lighthouse.eps");
     int taken = 0;
-    for (const QString& file : kit::corpusFolder().isEmpty() ? QStringList() : kit::corpusFiles("eps_text"))
+    for (const QString& file : real::files("eps_text"))
       if (taken < 10 && imagesPaintedBy(file) == 0 && ++taken)
         QTest::newRow(qPrintable(QFileInfo(file).fileName())) << file;
   }
@@ -380,7 +382,7 @@ class VectorOutputTest : public QObject {
     QTest::addColumn<QString>("file");
     QTest::newRow("lighthouse.pdf") << kit::sample("lighthouse.pdf");
     QTest::newRow("cmyk_text.pdf") << kPictures + "cmyk_text.pdf";
-    const QStringList all = kit::corpusFolder().isEmpty() ? QStringList() : kit::corpusFiles("pdf");
+    const QStringList all = real::filesOf({"pdf"});
     for (qsizetype i = 0; i < all.size(); i += std::max<qsizetype>(1, all.size() / 10))
       QTest::newRow(qPrintable(QFileInfo(all[i]).fileName())) << all[i];
   }

@@ -127,6 +127,40 @@ class ConvertSystemTest : public QObject {
         QVERIFY2(isPlain(pdf, dpi, {"--rotate", angle, "--crop", "50,50,30,30"}), angle);
   }
 
+  /// What is measured in parts of a shape's box does not grow as the box lies slanted on the surface.
+  void aGradientKeepsItsSizeWhenItIsTurned_data() {
+    QTest::addColumn<QByteArray>("transform");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("level") << QByteArray() << QStringList{};
+    QTest::newRow("the picture is turned") << QByteArray() << QStringList{"--rotate", "45"};
+    QTest::newRow("the shape is turned") << QByteArray("transform='rotate(45 100 100)'") << QStringList{};
+  }
+  void aGradientKeepsItsSizeWhenItIsTurned() {
+    QFETCH(QByteArray, transform);
+    QFETCH(QStringList, arguments);
+    const QString svg =
+        write("gradient.svg",
+              "<svg xmlns='http://www.w3.org/2000/svg' width='200' height='200'><radialGradient id='g'>"
+              "<stop offset='0' stop-color='white'/><stop offset='1' stop-color='black'/></radialGradient>"
+              "<rect x='20' y='20' width='160' height='160' fill='url(#g)' " +
+                  transform + "/></svg>");
+    const QString png = path("gradient.png"), pdf = path("gradient.pdf"), drawn = path("drawn.png");
+    QCOMPARE(kit::norvex(QStringList{"convert", svg, "-o", png, "--dpi", "96"} + arguments).exitCode, 0);
+    QCOMPARE(kit::norvex(QStringList{"convert", svg, "-o", pdf} + arguments).exitCode, 0);
+    QCOMPARE(outside::complaintOf("pdftocairo", {"-png", "-singlefile", "-r", "96", pdf, path("drawn")}),
+             QString());
+    for (const QString& file : {png, drawn}) {
+      const QImage image(file);
+      const QPoint middle(image.width() / 2, image.height() / 2);
+      QVERIFY(qRed(image.pixel(middle)) > 245);
+      // Half of its radius of 80, and nearly all of it.
+      for (const QPoint& way : {QPoint(1, 0), QPoint(0, -1)}) {
+        QVERIFY2(std::abs(qRed(image.pixel(middle + way * 40)) - 128) < 6, qPrintable(file));
+        QVERIFY2(std::abs(qRed(image.pixel(middle + way * 76)) - 13) < 6, qPrintable(file));
+      }
+    }
+  }
+
   void glyphsThatArePicturesKeepTheirColours() {
     // One that is an image, one that is drawn, one that leaves its colour to the text.
     const QByteArray font =

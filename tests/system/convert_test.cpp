@@ -109,22 +109,28 @@ class ConvertSystemTest : public QObject {
         "0 1 9 { gsave 10.37 mul 0 translate 10.37 50.3 scale 1 1 8 [1 0 0 1 0 0] {<FF>} {<00>} {<00>} true "
         "3 "
         "colorimage grestore } for showpage\n%%EOF\n";
-    const QString source = write("tiles.eps", eps), pdf = path("tiles.pdf"), png = path("tiles.png");
+    const QString source = write("tiles.eps", eps), pdf = path("tiles.pdf");
     QCOMPARE(kit::norvex({"convert", source, "-o", pdf}).exitCode, 0);
-    const auto isPlain = [&](const QString& file, const char* dpi, const QStringList& more = {}) {
-      if (kit::norvex(QStringList{"convert", file, "-o", png, "--force", "--dpi", dpi} + more).exitCode != 0)
-        return false;
-      const QImage image(png), inside = image.copy(image.rect().adjusted(1, 1, -1, -1));
-      QImage red = inside;
-      red.fill(Qt::red);
-      return !inside.isNull() && inside == red;
-    };
     // The EPS is drawn by one program, the PDF by another.
     for (const char* dpi : {"72", "100", "217"}) QVERIFY2(isPlain(source, dpi), dpi);
     QVERIFY(isPlain(pdf, "144"));
     for (const char* angle : {"30", "1.5", "233"})
       for (const char* dpi : {"72", "217"})
         QVERIFY2(isPlain(pdf, dpi, {"--rotate", angle, "--crop", "50,50,30,30"}), angle);
+  }
+
+  /// Around letters a tile is what is left of it: a path of many parts.
+  void tilesThatFillWhatIsCutOutOfOthersShowNoSeam() {
+    const QString eps =
+        write("cut.eps",
+              "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 100 100\n%%EndComments\n1 0 0 setrgbcolor\n"
+              "/part { 4 2 roll moveto dup 0 exch rlineto exch 0 rlineto neg 0 exch rlineto closepath } def\n"
+              "gsave -5 -5 110 110 part 31.7 33.1 12.2 9.3 part 60.4 20.6 9.3 60.7 part eoclip "
+              "0 0 110 110 rectfill grestore\n"
+              "gsave 31.7 33.1 12.2 9.3 rectclip 0 0 110 110 rectfill grestore\n"
+              "60.4 20.6 9.3 60.7 rectclip 0 0 110 110 rectfill showpage\n%%EOF\n");
+    for (const char* dpi : {"72", "100", "217"}) QVERIFY2(isPlain(eps, dpi), dpi);
+    QVERIFY(isPlain(eps, "100", {"--rotate", "30", "--crop", "50,50,30,30"}));
   }
 
   /// What is measured in parts of a shape's box does not grow as the box lies slanted on the surface.
@@ -514,6 +520,16 @@ class ConvertSystemTest : public QObject {
   }
 
  private:
+  /// Whether the file is drawn all red, but for the outermost pixels.
+  [[nodiscard]] bool isPlain(const QString& file, const char* dpi, const QStringList& more = {}) const {
+    const QString png = path("plain.png");
+    if (kit::norvex(QStringList{"convert", file, "-o", png, "--force", "--dpi", dpi} + more).exitCode != 0)
+      return false;
+    const QImage image(png), inside = image.copy(image.rect().adjusted(1, 1, -1, -1));
+    QImage red = inside;
+    red.fill(Qt::red);
+    return !inside.isNull() && inside == red;
+  }
   QString path(const QString& name) const { return folder_->filePath(name); }
   QString write(const QString& name, const QByteArray& bytes) const {
     QFile file(path(name));

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "worker/drawing/level_seams.h"
 #include "worker/drawing/slanted_seams.h"
 
 namespace norvex::engine {
@@ -17,8 +18,10 @@ constexpr double kSameLine = 1.5 / 256;
 
 /// What is kept for a context.
 struct Asked {
-  bool looksForSeams = false;
-  SlantedSeams seams;
+  bool hard = false;
+  double angle = 0;  ///< of the picture on the surface, radians
+  LevelSeams level;
+  SlantedSeams slanted;
   SlantedSeams::Polygon clip;  ///< the last one
 };
 
@@ -86,6 +89,9 @@ class Outline {
     return places([](const Corner& c) { return c.level; }, [](const Corner& c) { return c.at->point.y; });
   }
 
+  /// The level and upright ones, as they were when the path was taken.
+  [[nodiscard]] const std::vector<LevelSeams::Edge>& edges() const { return edges_; }
+
   /// Moves the edges; false, and nothing is moved, where one would come to another, or less than half be left
   /// of the whole.
   template <typename MovedX, typename MovedY>
@@ -109,15 +115,25 @@ class Outline {
         break;
       case CAIRO_PATH_LINE_TO:
         corners_.push_back({part + 1});
-        if (corners_.size() > 1) join(corners_[corners_.size() - 2], corners_.back());
+        if (corners_.size() > 1) takeEdge(corners_[corners_.size() - 2], corners_.back());
         break;
       case CAIRO_PATH_CURVE_TO:  // two points that it is drawn towards, and where it ends
         for (int point = 1; point <= 3; ++point) corners_.push_back({part + point});
         break;
       case CAIRO_PATH_CLOSE_PATH:
-        if (!corners_.empty()) join(corners_.back(), corners_[first_]);
+        if (!corners_.empty()) takeEdge(corners_.back(), corners_[first_]);
         break;
     }
+  }
+
+  void takeEdge(Corner& from, Corner& to) {
+    join(from, to);
+    const cairo_path_data_t &a = from.at[0], &b = to.at[0];
+    const double dx = std::abs(a.point.x - b.point.x), dy = std::abs(a.point.y - b.point.y);
+    if (dx <= kSameLine && dy > kSameLine)
+      edges_.push_back({true, a.point.x, std::min(a.point.y, b.point.y), std::max(a.point.y, b.point.y)});
+    if (dy <= kSameLine && dx > kSameLine)
+      edges_.push_back({false, a.point.y, std::min(a.point.x, b.point.x), std::max(a.point.x, b.point.x)});
   }
 
   /// Cairo goes to a place behind each closed part, from which nothing need
@@ -151,16 +167,18 @@ class Outline {
   }
 
   std::vector<Corner> corners_;
+  std::vector<LevelSeams::Edge> edges_;
   size_t first_ = 0;  ///< of the part that is being taken
   int parts_ = 0;
 };
 
-/// Coordinates of the surface, while this lives.
+/// Coordinates of the surface, turned by `angle`, while this lives.
 class SurfaceSpace {
  public:
-  explicit SurfaceSpace(cairo_t* context) : context_(context) {
+  explicit SurfaceSpace(cairo_t* context, double angle = 0) : context_(context) {
     cairo_get_matrix(context, &matrix_);
     cairo_identity_matrix(context);
+    if (angle != 0) cairo_rotate(context, angle);
   }
   ~SurfaceSpace() { cairo_set_matrix(context_, &matrix_); }
   SurfaceSpace(const SurfaceSpace&) = delete;
@@ -171,12 +189,17 @@ class SurfaceSpace {
   cairo_matrix_t matrix_;
 };
 
+/// `seams`, if any, gets the edges as they were.
 template <typename MovedXOf, typename MovedYOf>
-void moveEdges(cairo_t* context, const MovedXOf& movedXOf, const MovedYOf& movedYOf) {
+void moveEdges(cairo_t* context, const MovedXOf& movedXOf, const MovedYOf& movedYOf,
+               LevelSeams* seams = nullptr) {
   const CairoPath path(cairo_copy_path(context));
   if (path->status != CAIRO_STATUS_SUCCESS) return;
   Outline outline(*path);
-  if (!outline.isOnePart() || !outline.move(movedXOf(outline), movedYOf(outline))) return;
+  const bool moved = outline.isOnePart() && outline.move(movedXOf(outline), movedYOf(outline));
+  if (seams)
+    seams->addPath(context, outline.edges(), moved ? LevelSeams::Fate::Moved : LevelSeams::Fate::Left);
+  if (!moved) return;
   cairo_new_path(context);
   cairo_append_path(context, path.get());
 }
@@ -187,10 +210,15 @@ SlantedSeams::Polygon polygon(cairo_t* context) {
   return path->status == CAIRO_STATUS_SUCCESS ? SlantedSeams::polygonOf(*path) : SlantedSeams::Polygon();
 }
 
-void putBetweenPixels(cairo_t* context) {
+void putBetweenPixels(cairo_t* context, Asked& asked) {
+  if (asked.angle != 0) {
+    const SurfaceSpace picture(context, asked.angle);
+    if (const CairoPath path(cairo_copy_path(context)); path->status == CAIRO_STATUS_SUCCESS)
+      asked.level.addPath(context, Outline(*path).edges(), LevelSeams::Fate::Slanted);
+  }
   const SurfaceSpace surface(context);
   const auto always = [](const Outline&) { return betweenPixels; };
-  moveEdges(context, always, always);
+  moveEdges(context, always, always, asked.angle == 0 ? &asked.level : nullptr);
 }
 
 /// From `least` to `most` along an axis.
@@ -269,51 +297,81 @@ bool isClip(const SlantedSeams::Polygon& tile, const Span& x, const Span& y) {
 
 /// An image is a tile; so is a clip that is filled.
 void keepTile(cairo_t* context, Asked& asked) {
-  if (paintsImage(context)) asked.seams.addTile(polygon(context));
+  if (paintsImage(context)) asked.slanted.addTile(polygon(context));
   const SurfaceSpace surface(context);
   Span x, y, clipX, clipY;
   cairo_path_extents(context, &x.least, &y.least, &x.most, &y.most);
   cairo_clip_extents(context, &clipX.least, &clipY.least, &clipX.most, &clipY.most);
   const bool fills = x.least <= clipX.least + 1 && x.most >= clipX.most - 1 && y.least <= clipY.least + 1 &&
                      y.most >= clipY.most - 1;
-  if (fills && isClip(asked.clip, clipX, clipY)) asked.seams.addTile(asked.clip);
+  if (fills && isClip(asked.clip, clipX, clipY)) asked.slanted.addTile(asked.clip);
+}
+
+/// Radians; 0 where level stays level or becomes upright.
+double slant(cairo_t* context) {
+  cairo_matrix_t m;
+  cairo_get_matrix(context, &m);
+  const double least = 1e-6 * std::hypot(m.xx, m.yx);
+  return std::abs(m.xx) <= least || std::abs(m.yx) <= least ? 0 : std::atan2(m.yx, m.xx);
+}
+
+void askFor(cairo_t* context, bool hard) {
+  auto asked = std::make_unique<Asked>();
+  asked->hard = hard;
+  asked->angle = slant(context);
+  const auto release = [](void* data) { delete static_cast<Asked*>(data); };
+  if (cairo_set_user_data(context, &kAsked, asked.get(), release) == CAIRO_STATUS_SUCCESS)
+    (void)asked.release();
+}
+
+/// Runs `draw` without smooth edges where they are not wanted, and leaves no path, as cairo does.
+template <typename Draw>
+void drawWithEdges(cairo_t* context, const Asked* asked, const Draw& draw) {
+  const cairo_antialias_t before = cairo_get_antialias(context);
+  if (asked && asked->hard) cairo_set_antialias(context, CAIRO_ANTIALIAS_NONE);
+  draw(context);
+  cairo_set_antialias(context, before);
+  cairo_new_path(context);
 }
 
 }  // namespace
 
-void askForPixelEdges(cairo_t* context, bool looksForSeams) {
-  cairo_set_user_data(context, &kAsked, new Asked{looksForSeams, {}, {}},
-                      [](void* asked) { delete static_cast<Asked*>(asked); });
+void askForPixelEdges(cairo_t* context) {
+  askFor(context, false);
+}
+
+void askForHardEdges(cairo_t* context) {
+  askFor(context, true);
 }
 
 bool arePixelEdgesAskedFor(cairo_t* context) {
   return askedOf(context) != nullptr;
 }
 
-bool hasSlantedSeams(cairo_t* context) {
+bool hasSeams(cairo_t* context) {
   const Asked* asked = askedOf(context);
-  return asked && asked->seams.areThere();
+  return asked && (asked->level.areThere() || asked->slanted.areThere());
 }
 
 void clipBetweenPixels(cairo_t* context) {
-  if (Asked* asked = askedOf(context)) {
-    putBetweenPixels(context);
-    if (asked->looksForSeams) asked->clip = polygon(context);
+  Asked* asked = askedOf(context);
+  if (asked && !asked->hard) {
+    putBetweenPixels(context, *asked);
+    asked->clip = polygon(context);
   }
-  cairo_clip_preserve(context);
-  cairo_new_path(context);
+  drawWithEdges(context, asked, cairo_clip_preserve);
 }
 
 void fillBetweenPixels(cairo_t* context) {
-  if (Asked* asked = askedOf(context)) {
-    if (asked->looksForSeams) keepTile(context, *asked);
+  Asked* asked = askedOf(context);
+  if (asked && !asked->hard) {
+    keepTile(context, *asked);
     if (paintsImage(context))
-      putBetweenPixels(context);
+      putBetweenPixels(context, *asked);
     else
       reachClip(context);
   }
-  cairo_fill_preserve(context);
-  cairo_new_path(context);
+  drawWithEdges(context, asked, cairo_fill_preserve);
 }
 
 }  // namespace norvex::engine

@@ -10,14 +10,18 @@ namespace norvex::engine {
 
 /// From now on clips and images have their edges between pixels in this context, wherever clipBetweenPixels()
 /// and fillBetweenPixels() are called for it: the engines' modules have them stand in for cairo_clip() and
-/// cairo_fill(), for the libraries that they load, too. `looksForSeams`: for hasSlantedSeams(); every clip
-/// and area takes longer. Goes with the context.
-void askForPixelEdges(cairo_t* context, bool looksForSeams = false);
+/// cairo_fill(), for the libraries that they load, too. The matrix is that of the picture already. Goes with
+/// the context.
+void askForPixelEdges(cairo_t* context);
+/// From now on clips and areas have no smooth edges in this context: each pixel, at its middle, belongs to
+/// one of two that meet. For what is drawn finer than it is shown (fine_image.h).
+void askForHardEdges(cairo_t* context);
+/// One of the two.
 [[nodiscard]] bool arePixelEdgesAskedFor(cairo_t* context);
 
-/// Whether images and areas that were painted up to their clips met at edges that could not be put between
-/// pixels: at any other angle than level and upright. False where nobody looked for them.
-[[nodiscard]] bool hasSlantedSeams(cairo_t* context);
+/// Where askForPixelEdges() was called: whether tiles met at edges that could not be put between pixels,
+/// slanted ones or those of a path of several parts.
+[[nodiscard]] bool hasSeams(cairo_t* context);
 
 /// As cairo_clip(). Where askForPixelEdges() was called, the level and upright edges of the path (as they lie
 /// on the surface) are first moved to the nearest edge between two pixels. Edges at one place go to the same

@@ -7,8 +7,8 @@
 #pragma pop_macro("signals")
 
 #include "worker/drawing/cairo_surface.h"
+#include "worker/drawing/fine_image.h"
 #include "worker/drawing/pixel_edges.h"
-#include "worker/drawing/turned_image.h"
 #include "worker/pdf/pdf_file.h"
 
 namespace norvex::engine {
@@ -88,21 +88,24 @@ Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
   const Result<PagePointer> page = shownPage(document_.get(), request.page);
   if (!page) return page.error();
-  const bool slanted = isSlanted(request.pictureToDevice);
-  bool seams = slanted && tiled_.contains(request.page);
-  const PaintPicture paint = [&](cairo_t* context) {
-    askForPixelEdges(context, slanted && !seams);
-    const Result<void> painted = paintPage(context, page->get(), shownSize);
-    seams = seams || hasSlantedSeams(context);
-    return painted;
+  const PaintPicture fine = [&](cairo_t* context) {
+    askForHardEdges(context);
+    return paintPage(context, page->get(), shownSize);
   };
   // Where it would take too much, the picture is drawn with its seams.
-  const auto turned = [&] { return paintTurned(request, QRectF({0, 0}, shownSize), limits, paint); };
-  if (seams)
-    if (Result<Bitmap> image = turned(); image || image.error().kind != ErrorKind::Limit) return image;
-  Result<Bitmap> image = paintImage(request, limits, paint);
+  if (tiled_.contains(request.page))
+    if (Result<Bitmap> image = paintFine(request, limits, fine);
+        image || image.error().kind != ErrorKind::Limit)
+      return image;
+  bool seams = false;
+  Result<Bitmap> image = paintImage(request, limits, [&](cairo_t* context) {
+    askForPixelEdges(context);
+    const Result<void> painted = paintPage(context, page->get(), shownSize);
+    seams = seams || hasSeams(context);
+    return painted;
+  });
   if (!image || !seams || !tiled_.insert(request.page).second) return image;
-  Result<Bitmap> better = turned();
+  Result<Bitmap> better = paintFine(request, limits, fine);
   return better ? std::move(better) : std::move(image);
 }
 

@@ -46,7 +46,7 @@ class PdfRenderer {
   };
   QByteArray pdf_;
   std::unique_ptr<_PopplerDocument, Release> document_;
-  std::set<int> tiled_;  ///< pages whose tiles have seams when they are drawn slanted
+  std::set<int> tiled_;  ///< pages whose tiles have seams unless they are drawn finer
 };
 
 /// letters() of a PDF of one page.

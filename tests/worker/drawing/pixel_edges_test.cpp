@@ -17,7 +17,7 @@ struct Sheet {
   explicit Sheet(bool asked = true)
       : surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 40, 40)),
         context(cairo_create(surface.get())) {
-    if (asked) askForPixelEdges(context.get(), true);
+    if (asked) askForPixelEdges(context.get());
   }
 
   [[nodiscard]] int coverage(int x, int y) const {
@@ -289,8 +289,8 @@ class PixelEdgesTest : public QObject {
     tile(-9.3 - gap, 0);
     tile(0, 2.2);  // as bricks
     tile(-9.3 - gap, -7.7 - gap);
-    QCOMPARE(hasSlantedSeams(context), seams);
-    QVERIFY(!hasSlantedSeams(Sheet(false).context.get()));
+    QCOMPARE(hasSeams(context), seams);
+    QVERIFY(!hasSeams(Sheet(false).context.get()));
   }
 
   void turnedImagesThatMeetAreNoticed() {
@@ -304,8 +304,73 @@ class PixelEdgesTest : public QObject {
         cairo_rectangle(context, x, 0, 8, 8);
         fillBetweenPixels(context);
       }
-      QCOMPARE(hasSlantedSeams(context), gap == 0);
+      QCOMPARE(hasSeams(context), gap == 0);
     }
+  }
+
+  /// A clip of two parts is left where it is: what is cut out of it is painted by another one.
+  void tilesOfManyPartsThatMeetAnotherAreNoticed_data() {
+    QTest::addColumn<QRectF>("other");
+    QTest::addColumn<bool>("seams");
+    QTest::newRow("fills what is cut out") << QRectF(10.3, 12.6, 9.4, 8.2) << true;
+    QTest::newRow("goes on beyond the tile") << QRectF(32.4, 0, 7, 40) << true;
+    QTest::newRow("leaves room") << QRectF(11, 13.5, 7.5, 6) << false;
+    QTest::newRow("lies above the tile, its edge on the same line") << QRectF(4.4, 12.6, 5.9, 8.2) << false;
+    QTest::newRow("meets for less than a step of a letter") << QRectF(32.4, 0, 7, 2.5) << false;
+    QTest::newRow("nothing") << QRectF() << false;
+  }
+  void tilesOfManyPartsThatMeetAnotherAreNoticed() {
+    QFETCH(QRectF, other);
+    QFETCH(bool, seams);
+    for (const double degrees : {0.0, 25.0, 90.0, 181.0}) {
+      const Sheet sheet(false);
+      cairo_t* context = sheet.context.get();
+      cairo_translate(context, 20, 20);
+      cairo_rotate(context, degrees * 3.14159265358979 / 180);
+      cairo_translate(context, -20, -20);
+      askForPixelEdges(context);
+      const auto cutOut = [](cairo_t* path) {
+        cairo_rectangle(path, 4.4, 0, 28, 40);
+        cairo_rectangle(path, 10.3, 12.6, 9.4, 8.2);
+      };
+      cairo_set_fill_rule(context, CAIRO_FILL_RULE_EVEN_ODD);
+      sheet.tile(cutOut);
+      sheet.tile(cutOut);  // again, as a picture of several layers has it: no seam
+      if (!other.isEmpty())
+        sheet.tile([&](cairo_t* path) {
+          cairo_rectangle(path, other.x(), other.y(), other.width(), other.height());
+        });
+      QCOMPARE(hasSeams(context), seams);
+    }
+  }
+
+  void edgesOnPixelsAreNoSeam() {
+    const Sheet sheet;
+    cairo_set_fill_rule(sheet.context.get(), CAIRO_FILL_RULE_EVEN_ODD);
+    sheet.tile([](cairo_t* context) {
+      cairo_rectangle(context, 4, 0, 28, 40);
+      cairo_rectangle(context, 10, 12, 9, 8);
+    });
+    sheet.tile([](cairo_t* context) { cairo_rectangle(context, 10, 12, 9, 8); });
+    QVERIFY(!hasSeams(sheet.context.get()));
+  }
+
+  void hardEdgesCoverAPixelOrNot() {
+    const Sheet sheet(false);
+    askForHardEdges(sheet.context.get());
+    cairo_translate(sheet.context.get(), 20, 20);
+    cairo_rotate(sheet.context.get(), 0.3);
+    sheet.tile([](cairo_t* context) { cairo_rectangle(context, -9, -9, 12.3, 30); });
+    sheet.tile([](cairo_t* context) { cairo_rectangle(context, 3.3, -9, 9, 30); });
+    sheet.fill([](cairo_t* context) { cairo_arc(context, 0, -14, 5, 0, 6.3); });
+    int covered = 0;
+    for (const int coverage : coverages(sheet)) {
+      QVERIFY(coverage == 0 || coverage == 255);
+      covered += coverage == 255;
+    }
+    QVERIFY(covered > 500);
+    QVERIFY(!hasSeams(sheet.context.get()));
+    QCOMPARE(cairo_get_antialias(sheet.context.get()), CAIRO_ANTIALIAS_DEFAULT);
   }
 
   void thePathIsGoneAndTheMatrixIsNot() {

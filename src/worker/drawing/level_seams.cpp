@@ -1,0 +1,61 @@
+#include "worker/drawing/level_seams.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+namespace norvex::engine {
+namespace {
+
+// Where there are tiles, there are seams among the first of them.
+constexpr size_t kMostEdges = 20000;
+
+// Cairo keeps places in steps of a 256th of a pixel.
+constexpr double kSamePlace = 2.5 / 256;
+
+// What is shorter is a step of a letter or of a flattened curve.
+constexpr double kAlong = 3;
+
+// Where the two sides of an edge are looked at.
+constexpr double kBeside = 0.25;
+
+bool isBetweenPixels(double place) {
+  return std::abs(place - std::round(place)) <= kSamePlace;
+}
+
+}  // namespace
+
+void LevelSeams::addPath(cairo_t* context, const std::vector<Edge>& edges, Fate fate) {
+  const auto isArea = [context](const Edge& edge, double place) {
+    const double middle = (edge.from + edge.to) / 2;
+    return edge.upright ? cairo_in_fill(context, place, middle) : cairo_in_fill(context, middle, place);
+  };
+  for (const Edge& edge : edges) {
+    if (edges_.size() >= kMostEdges) return;
+    const bool shows = fate == Fate::Slanted || !isBetweenPixels(edge.place);
+    if (edge.to - edge.from <= kAlong || !shows) continue;
+    const bool beyond = isArea(edge, edge.place + kBeside);
+    if (beyond != bool(isArea(edge, edge.place - kBeside))) edges_.push_back({edge, beyond, fate});
+  }
+}
+
+bool LevelSeams::meet(const Kept& a, const Kept& b) {
+  return (a.fate != Fate::Moved || b.fate != Fate::Moved) && a.beyond != b.beyond &&
+         a.edge.upright == b.edge.upright &&
+         std::min(a.edge.to, b.edge.to) - std::max(a.edge.from, b.edge.from) > kAlong;
+}
+
+bool LevelSeams::areThere() const {
+  std::vector<Kept> sorted = edges_;
+  std::sort(sorted.begin(), sorted.end(), [](const Kept& a, const Kept& b) {
+    return std::tuple(a.edge.upright, a.edge.place) < std::tuple(b.edge.upright, b.edge.place);
+  });
+  for (size_t i = 0; i < sorted.size(); ++i)
+    for (size_t j = i + 1; j < sorted.size() && sorted[j].edge.upright == sorted[i].edge.upright &&
+                           sorted[j].edge.place - sorted[i].edge.place <= kSamePlace;
+         ++j)
+      if (meet(sorted[i], sorted[j])) return true;
+  return false;
+}
+
+}  // namespace norvex::engine

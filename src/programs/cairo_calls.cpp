@@ -5,10 +5,11 @@
 // module that loaded it first, and each module has its own key for what is asked of a context: in a process
 // that has loaded two modules, only what the first of them draws has these edges. librsvg strokes with
 // cairo_stroke_preserve(), and sets width and matrix just before; it takes the box of a shape from
-// cairo_path_extents().
+// cairo_path_extents(), and its gradients come with cairo_set_source().
 #include <dlfcn.h>
 
 #include "worker/drawing/coloured_glyphs.h"
+#include "worker/drawing/gradient_ends.h"
 #include "worker/drawing/path_extents.h"
 #include "worker/drawing/pixel_edges.h"
 #include "worker/drawing/stroke_measure.h"
@@ -36,6 +37,15 @@ NORVEX_STANDS_IN void cairo_path_extents(cairo_t* context, double* x0, double* y
   using PathExtents = void(cairo_t*, double*, double*, double*, double*);
   static const auto cairos = reinterpret_cast<PathExtents*>(::dlsym(RTLD_NEXT, "cairo_path_extents"));
   if (!norvex::engine::turnedPathExtents(context, x0, y0, x1, y1)) cairos(context, x0, y0, x1, y1);
+}
+
+NORVEX_STANDS_IN void cairo_set_source(cairo_t* context, cairo_pattern_t* pattern) {
+  using SetSource = void(cairo_t*, cairo_pattern_t*);
+  static const auto cairos = reinterpret_cast<SetSource*>(::dlsym(RTLD_NEXT, "cairo_set_source"));
+  // Pixels have the right colours by themselves.
+  const bool pixels = cairo_surface_get_type(cairo_get_target(context)) == CAIRO_SURFACE_TYPE_IMAGE;
+  const auto longer = pixels ? nullptr : norvex::engine::withEndsOfItsOwn(pattern);
+  cairos(context, longer ? longer.get() : pattern);
 }
 
 NORVEX_STANDS_IN void cairo_show_glyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {

@@ -167,6 +167,33 @@ class ConvertSystemTest : public QObject {
     }
   }
 
+  /// Beyond a change of colour at its beginning or end a gradient has the outer colour, in vectors, too.
+  void aGradientKeepsTheColoursBeyondItsEnds() {
+    const QString svg = write(
+        "ends.svg",
+        "<svg xmlns='http://www.w3.org/2000/svg' width='96' height='96'>"
+        "<linearGradient id='a'><stop offset='.5' stop-color='#f00'/><stop offset='.5' stop-color='#00f'/>"
+        "</linearGradient><linearGradient id='b' x1='.3' x2='.7'><stop stop-color='#f00'/>"
+        "<stop stop-color='#0f0'/><stop offset='1' stop-color='#0f0'/><stop offset='1' stop-color='#00f'/>"
+        "</linearGradient><rect width='96' height='48' fill='url(#a)'/>"
+        "<rect y='48' width='96' height='48' fill='url(#b)'/></svg>");
+    const QString pdf = path("ends.pdf"), eps = path("ends.eps");
+    QCOMPARE(kit::norvex({"convert", svg, "-o", pdf}).exitCode, 0);
+    QCOMPARE(kit::norvex({"convert", svg, "-o", eps}).exitCode, 0);
+    for (const auto& [file, format] : {std::pair(pdf, "pdf"), std::pair(eps, "eps"), std::pair(svg, "svg")}) {
+      const QImage image = outside::drawnOutside(file, format, 60);
+      QCOMPARE(image.size(), QSize(72, 72));
+      const auto isAt = [&image](int x, int y, QRgb colour) {
+        const QRgb pixel = image.pixel(x, y);
+        return std::abs(qRed(pixel) - qRed(colour)) < 6 && std::abs(qGreen(pixel) - qGreen(colour)) < 6 &&
+               std::abs(qBlue(pixel) - qBlue(colour)) < 6;
+      };
+      QVERIFY2(isAt(3, 10, 0xFF0000) && isAt(33, 10, 0xFF0000), format);
+      QVERIFY2(isAt(39, 10, 0x0000FF) && isAt(68, 10, 0x0000FF), format);
+      QVERIFY2(isAt(3, 60, 0xFF0000) && isAt(36, 60, 0x00FF00) && isAt(68, 60, 0x0000FF), format);
+    }
+  }
+
   void glyphsThatArePicturesKeepTheirColours() {
     // One that is an image, one that is drawn, one that leaves its colour to the text.
     const QByteArray font =

@@ -13,6 +13,8 @@
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "base/localized_string.h"
 
 namespace norvex {
@@ -21,11 +23,15 @@ namespace {
 constexpr int kPageRole = Qt::UserRole;
 constexpr int kTextRole = Qt::UserRole + 1;
 
-/// The folder of the best language that the manual is written in.
+/// The folder of the best language that the manual is written in. As with the string tables, "de-AT" is also
+/// served by "de", but only "zh-CN" by "zh_CN".
 QString languageFolder() {
-  for (const QString& language : QLocale().uiLanguages()) {
-    const QString folder = QStringLiteral(":/manual/") + language.section('-', 0, 0);
-    if (QDir(folder).exists()) return folder;
+  for (QString language : QLocale().uiLanguages()) {
+    for (language.replace('-', '_'); !language.isEmpty();
+         language.truncate(std::max(qsizetype(0), language.lastIndexOf('_')))) {
+      const QString folder = QStringLiteral(":/manual/") + language;
+      if (QDir(folder).exists()) return folder;
+    }
   }
   return QStringLiteral(":/manual/en");
 }

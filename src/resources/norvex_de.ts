@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>What is copied, saved or printed stands out.</source>
-        <translation>Was kopiert, gesichert oder gedruckt wird, tritt hervor.</translation>
+        <translation>Was kopiert, gespeichert oder gedruckt wird, tritt hervor.</translation>
     </message>
     <message>
         <source>&amp;Unit of lengths:</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>&amp;Reload changed files by itself</source>
-        <translation>Geänderte Dateien von selbst neu la&amp;den</translation>
+        <translation>Geänderte Dateien automatisch neu la&amp;den</translation>
     </message>
     <message>
         <source>Otherwise a bar in the window asks.</source>
@@ -481,23 +481,23 @@
     </message>
     <message>
         <source>Save As</source>
-        <translation>Sichern unter</translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>Save Selection</source>
-        <translation>Auswahl sichern</translation>
+        <translation>Auswahl speichern</translation>
     </message>
     <message>
         <source>Save To</source>
-        <translation>Sichern in</translation>
+        <translation>Speichern in</translation>
     </message>
     <message>
         <source>SaveAs</source>
-        <translation>Sichern unter …</translation>
+        <translation>Speichern unter …</translation>
     </message>
     <message>
         <source>SaveTo</source>
-        <translation>Sichern in …</translation>
+        <translation>Speichern in …</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -857,15 +857,15 @@
     </message>
     <message>
         <source>Sa&amp;ve…</source>
-        <translation>Si&amp;chern …</translation>
+        <translation>Spei&amp;chern …</translation>
     </message>
     <message>
         <source>Save as PDF file</source>
-        <translation>Als PDF-Datei sichern</translation>
+        <translation>Als PDF-Datei speichern</translation>
     </message>
     <message>
         <source>Save the pages as PDF</source>
-        <translation>Die Seiten als PDF sichern</translation>
+        <translation>Die Seiten als PDF speichern</translation>
     </message>
     <message>
         <source>Scaling</source>
@@ -1285,7 +1285,7 @@
     </message>
     <message>
         <source>Reload Changed Files b&amp;y Itself</source>
-        <translation>&amp;Geänderte Dateien von selbst neu laden</translation>
+        <translation>&amp;Geänderte Dateien automatisch neu laden</translation>
     </message>
     <message>
         <source>Select Rectangle</source>
@@ -1989,7 +1989,7 @@
     </message>
     <message>
         <source>Inks</source>
-        <translation>Farben</translation>
+        <translation>Druckfarben</translation>
     </message>
     <message>
         <source>Ink</source>
@@ -2029,7 +2029,7 @@
     </message>
     <message>
         <source>Show the inks in the picture</source>
-        <translation>Farben im Bild zeigen</translation>
+        <translation>Druckfarben im Bild zeigen</translation>
     </message>
     <message>
         <source>Simulate overprinting</source>
@@ -2316,7 +2316,7 @@
     </message>
     <message>
         <source>SaveTo</source>
-        <translation>Sichern in</translation>
+        <translation>Speichern in</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -2356,7 +2356,7 @@
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation>Sichern &amp;unter …</translation>
+        <translation>Speichern &amp;unter …</translation>
     </message>
     <message>
         <source>&amp;Copy Whole Picture</source>
@@ -2602,7 +2602,7 @@
     </message>
     <message>
         <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
-        <translation>Diese Illustrator-Datei wurde ohne PDF-Inhalt gesichert und zeigt deshalb einen Hinweis statt der Zeichnung.</translation>
+        <translation>Diese Illustrator-Datei wurde ohne PDF-Inhalt gespeichert und zeigt deshalb einen Hinweis statt der Zeichnung.</translation>
     </message>
     <message>
         <source>the document is protected by encryption, and what is made of it is not</source>

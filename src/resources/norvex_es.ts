@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Di&amp;m Outside of Selection</source>
-        <translation>Atenuar fuera de la se&amp;lección</translation>
+        <translation>Atenuar el exterior de la se&amp;lección</translation>
     </message>
     <message>
         <source>Window</source>
@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>Whole picture</source>
-        <translation>Imagen entera</translation>
+        <translation>Toda la imagen</translation>
     </message>
     <message>
         <source>All pages</source>
@@ -2360,7 +2360,7 @@
     </message>
     <message>
         <source>&amp;Copy Whole Picture</source>
-        <translation>&amp;Copiar la imagen entera</translation>
+        <translation>&amp;Copiar toda la imagen</translation>
     </message>
     <message>
         <source>Format:</source>

@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Di&amp;m Outside of Selection</source>
-        <translation>A&amp;ssombrir hors de la sélection</translation>
+        <translation>E&amp;stomper l’extérieur de la sélection</translation>
     </message>
     <message>
         <source>Window</source>
@@ -233,7 +233,7 @@
     </message>
     <message>
         <source>Di&amp;m what is outside of the selection</source>
-        <translation>A&amp;ssombrir ce qui est hors de la sélection</translation>
+        <translation>E&amp;stomper ce qui est hors de la sélection</translation>
     </message>
     <message>
         <source>What is copied, saved or printed stands out.</source>
@@ -1353,7 +1353,7 @@
     </message>
     <message>
         <source>Check</source>
-        <translation>Contrôle</translation>
+        <translation>Vérification</translation>
     </message>
     <message>
         <source>Check Again</source>
@@ -2029,7 +2029,7 @@
     </message>
     <message>
         <source>Show the inks in the picture</source>
-        <translation>Montrer les encres dans l’image</translation>
+        <translation>Afficher les encres dans l’image</translation>
     </message>
     <message>
         <source>Simulate overprinting</source>

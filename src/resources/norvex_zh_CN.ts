@@ -2029,7 +2029,7 @@
     </message>
     <message>
         <source>Show the inks in the picture</source>
-        <translation>在图像中显示油墨</translation>
+        <translation>在图片中显示油墨</translation>
     </message>
     <message>
         <source>Simulate overprinting</source>

@@ -1,6 +1,7 @@
 // Words for people, as sentences.
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -65,20 +66,45 @@ inline QString filledIn(QStringView pattern, const QStringList& arguments) {
 /// What a sentence is called in a table, with its places.
 using SentenceKeys = std::span<const char* const>;
 
-/// A word of ours or a sentence within another one, which has a full stop of its own; anything else as it
-/// stands.
+[[nodiscard]] inline QString translatedSentence(const QString& english, SentenceKeys keys,
+                                                SentenceKeys naming = {});
+
+inline bool isOneOf(SentenceKeys keys, const QString& english) {
+  return std::any_of(keys.begin(), keys.end(),
+                     [&](const char* key) { return english == QString::fromUtf8(key); });
+}
+
+/// A sentence within another one has no full stop of its own.
+inline QString withoutFullStop(const QString& sentence) {
+  return sentence.endsWith(u'.') || sentence.endsWith(u'\u3002') ? sentence.chopped(1) : sentence;
+}
+
+/// A word of ours, or several with commas between them; anything else as it stands.
 inline QString translatedArgument(const QString& english, SentenceKeys keys) {
-  const auto is = [&](const char* key) { return english == QString::fromUtf8(key); };
-  if (std::none_of(keys.begin(), keys.end(), is)) return english;
-  QString text = localizedString(english.toUtf8().constData(), sentenceTable);
-  if (text.endsWith(u'.') || text.endsWith(u'\u3002')) text.chop(1);
-  return text;
+  const auto translated = [](const QString& key) {
+    return withoutFullStop(localizedString(key.toUtf8().constData(), sentenceTable));
+  };
+  if (isOneOf(keys, english)) return translated(english);
+  QStringList words = english.split(QStringLiteral(", "));
+  for (QString& word : words) {
+    if (!isOneOf(keys, word)) return english;
+    word = translated(word);
+  }
+  return QLocale().createSeparatedList(words);
+}
+
+/// The place behind a colon at the end of a key, 0 where it has none: a reason stands there, which is a
+/// sentence of its own.
+inline int quotingPlace(QStringView key) {
+  const bool quotes = key.size() > 4 && key.sliced(key.size() - 4, 3) == u": %";
+  return quotes ? std::max(0, key.back().digitValue()) : 0;
 }
 
 /// `english` in the user's language when it is one of `keys` with something at their places, otherwise as it
 /// stands; where several fit, the one that says most itself. What stands at a place is translated when it is
-/// one of the keys, but never in one of `naming`: there stand names that a document gives.
-inline QString translatedSentence(const QString& english, SentenceKeys keys, SentenceKeys naming = {}) {
+/// one of the keys, and behind a colon at the end when it is a sentence with places, too; but never in one of
+/// `naming`: there stand names that a document gives.
+inline QString translatedSentence(const QString& english, SentenceKeys keys, SentenceKeys naming) {
   const char* fitting = nullptr;
   QStringList arguments;
   for (const char* key : keys) {
@@ -89,8 +115,12 @@ inline QString translatedSentence(const QString& english, SentenceKeys keys, Sen
   }
   if (!fitting) return english;
   const auto names = [&](const char* key) { return std::strcmp(key, fitting) == 0; };
-  if (std::none_of(naming.begin(), naming.end(), names))
-    for (QString& argument : arguments) argument = translatedArgument(argument, keys);
+  if (std::none_of(naming.begin(), naming.end(), names)) {
+    const int quoting = quotingPlace(QString::fromUtf8(fitting));
+    for (int i = 0; i < arguments.size(); ++i)
+      arguments[i] = i + 1 == quoting ? withoutFullStop(translatedSentence(arguments[i], keys, naming))
+                                      : translatedArgument(arguments[i], keys);
+  }
   return filledIn(localizedString(fitting, sentenceTable), arguments);
 }
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <variant>
 
 #define TOML_HEADER_ONLY 1
 #define TOML_EXCEPTIONS 0
@@ -32,9 +33,15 @@ QString text(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
+/// What is wrong with a profile, and in which line.
+struct Fault {
+  uint line = 0;
+  QString sentence;
+};
+
 class Reader {
  public:
-  Result<Profile> read(const toml::table& table) {
+  std::variant<Profile, Fault> read(const toml::table& table) {
     for (const auto& [key, node] : table) {
       if (key == "limits" && node.is_table())
         for (const auto& [name, value] : *node.as_table()) readLimit(name.str(), name.source(), value);
@@ -44,15 +51,13 @@ class Reader {
         fail(key.source(),
              QStringLiteral("there is no %1, only [limits] and [severities]").arg(text(key.str())));
     }
-    if (error_) return *error_;
+    if (fault_) return *fault_;
     return profile_;
   }
 
  private:
   void fail(const toml::source_region& where, const QString& sentence) {
-    if (!error_)
-      error_ =
-          Error{ErrorKind::NotParsable, QStringLiteral("line %1: %2").arg(where.begin.line).arg(sentence)};
+    if (!fault_) fault_ = Fault{where.begin.line, sentence};
   }
 
   /// A number from 0; what is none is told.
@@ -93,27 +98,31 @@ class Reader {
   }
 
   Profile profile_;
-  std::optional<Error> error_;
+  std::optional<Fault> fault_;
 };
 
 QString shippedFolder() {
   return QStringLiteral(":/profiles");
 }
 
-}  // namespace
-
-Result<Profile> profileFromToml(const QByteArray& toml) {
+std::variant<Profile, Fault> readProfile(const QByteArray& toml) {
   const ProfileText plain = plainProfile(toml);
   if (plain.badLine > 0)
-    return Error{ErrorKind::NotParsable,
-                 QStringLiteral("line %1: this is neither a [table] nor a name with = and a value")
-                     .arg(plain.badLine)};
+    return Fault{uint(plain.badLine),
+                 QStringLiteral("this is neither a [table] nor a name with = and a value")};
   const toml::parse_result parsed =
       toml::parse(std::string_view(plain.toml.constData(), size_t(plain.toml.size())));
   if (parsed) return Reader().read(parsed.table());
-  return Error{ErrorKind::NotParsable, QStringLiteral("line %1: %2")
-                                           .arg(parsed.error().source().begin.line)
-                                           .arg(text(parsed.error().description()))};
+  return Fault{parsed.error().source().begin.line, text(parsed.error().description())};
+}
+
+}  // namespace
+
+Result<Profile> profileFromToml(const QByteArray& toml) {
+  const auto read = readProfile(toml);
+  if (const auto* profile = std::get_if<Profile>(&read)) return *profile;
+  const auto& fault = std::get<Fault>(read);
+  return Error{ErrorKind::NotParsable, QStringLiteral("line %1: %2").arg(fault.line).arg(fault.sentence)};
 }
 
 QStringList shippedProfiles() {
@@ -139,9 +148,12 @@ Result<Profile> profileNamed(const QString& nameOrFile) {
   const QByteArray toml = file.read(limits::maximumProfileBytes + 1);
   if (toml.size() > limits::maximumProfileBytes)
     return Error{ErrorKind::Limit, QStringLiteral("%1 is too large for a profile").arg(nameOrFile)};
-  Result<Profile> profile = profileFromToml(toml);
-  if (profile) return profile;
-  return Error{profile.error().kind, QStringLiteral("%1, %2").arg(nameOrFile, profile.error().message)};
+  const auto read = readProfile(toml);
+  if (const auto* profile = std::get_if<Profile>(&read)) return *profile;
+  const auto& fault = std::get<Fault>(read);
+  return Error{
+      ErrorKind::NotParsable,
+      QStringLiteral("%1, line %2: %3").arg(nameOrFile, QString::number(fault.line), fault.sentence)};
 }
 
 Findings judged(const Findings& findings, const Profile& profile) {

@@ -12,7 +12,7 @@ ToldError localizedError(const Error& error) {
 }
 
 QString localizedSentence(const QString& english) {
-  return asSentence(translatedSentence(english, toldSentences));
+  return asSentence(translatedSentence(english, toldSentences, toldNames));
 }
 
 }  // namespace norvex

@@ -3464,5 +3464,201 @@
         <source>%1 has no end</source>
         <translation>%1 hat kein Ende.</translation>
     </message>
+    <message>
+        <source>the embedded preview is malformed</source>
+        <translation>Die eingebettete Vorschau ist fehlerhaft.</translation>
+    </message>
+    <message>
+        <source>the embedded preview is too large</source>
+        <translation>Die eingebettete Vorschau ist zu groß.</translation>
+    </message>
+    <message>
+        <source>the embedded preview lies outside of the file</source>
+        <translation>Die eingebettete Vorschau liegt außerhalb der Datei.</translation>
+    </message>
+    <message>
+        <source>the preview is not a readable TIFF image</source>
+        <translation>Die Vorschau ist kein lesbares TIFF-Bild.</translation>
+    </message>
+    <message>
+        <source>the preview has more than %1 megapixels</source>
+        <translation>Die Vorschau hat mehr als %1 Megapixel.</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile is damaged</source>
+        <translation>Die eingebettete Windows-Metadatei ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile tells no size</source>
+        <translation>Die eingebettete Windows-Metadatei nennt keine Größe.</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is damaged</source>
+        <translation>Ein Rasterbild in der Windows-Metadatei ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is of a kind that is not drawn</source>
+        <translation>Ein Rasterbild in der Windows-Metadatei ist von einer Art, die nicht gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>the part of norvex that this picture needs is missing or damaged: %1</source>
+        <translation>Der Teil von Norvex, den dieses Bild braucht, fehlt oder ist beschädigt: %1.</translation>
+    </message>
+    <message>
+        <source>the measures of the picture are larger than can be handled</source>
+        <translation>Die Maße des Bildes sind größer, als sich verarbeiten lässt.</translation>
+    </message>
+    <message>
+        <source>the picture process cannot be waited for: too many files are open</source>
+        <translation>Auf den Bildprozess kann nicht gewartet werden: Es sind zu viele Dateien offen.</translation>
+    </message>
+    <message>
+        <source>no connection to a picture process could be made</source>
+        <translation>Zum Bildprozess ließ sich keine Verbindung herstellen.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be made in this size or at this place</source>
+        <translation>In dieser Größe oder an dieser Stelle lässt sich das Bild nicht erzeugen.</translation>
+    </message>
+    <message>
+        <source>the picture is too large to be turned</source>
+        <translation>Das Bild ist zu groß, um gedreht zu werden.</translation>
+    </message>
+    <message>
+        <source>there is no picture</source>
+        <translation>Es gibt kein Bild.</translation>
+    </message>
+    <message>
+        <source>these pixels cannot be converted</source>
+        <translation>Diese Pixel lassen sich nicht umwandeln.</translation>
+    </message>
+    <message>
+        <source>the profile of the press cannot be used</source>
+        <translation>Das Profil der Druckmaschine lässt sich nicht verwenden.</translation>
+    </message>
+    <message>
+        <source>a section of it is missing</source>
+        <translation>Ein Abschnitt davon fehlt.</translation>
+    </message>
+    <message>
+        <source>it has no end</source>
+        <translation>Es hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript</source>
+        <translation>Die Quelle hat kein PostScript.</translation>
+    </message>
+    <message>
+        <source>the source has no comments that a preview could follow</source>
+        <translation>Die Quelle hat keine Kommentare, hinter denen eine Vorschau stehen könnte.</translation>
+    </message>
+    <message>
+        <source>the document has a description but no title to store with it</source>
+        <translation>Das Dokument hat eine Beschreibung, aber keinen Titel, der mit ihr gespeichert werden könnte.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %!</source>
+        <translation>Das ist kein Encapsulated PostScript: Es beginnt nicht mit %!.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %! and states no bounding box</source>
+        <translation>Das ist kein Encapsulated PostScript: Es beginnt nicht mit %! und nennt keinen Begrenzungsrahmen.</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption and does not allow %1; what is made of it is not protected</source>
+        <translation>Das Dokument ist durch Verschlüsselung geschützt und erlaubt nicht: %1. Was daraus gemacht wird, ist nicht geschützt.</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>changing</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>copying</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 is not understood and was left out</source>
+        <translation>Der Illustrator-Operator %1 wird nicht verstanden und wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 was left out where its operands are not understood</source>
+        <translation>Der Illustrator-Operator %1 wurde weggelassen, wo seine Operanden nicht verstanden werden.</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is not in the file in a form that is understood and was left out</source>
+        <translation>Das Muster %1 steht nicht in verständlicher Form in der Datei und wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>the gradient %1 is not in the file: a plain colour stands for it</source>
+        <translation>Der Verlauf %1 ist nicht in der Datei: Eine einfache Farbe vertritt ihn.</translation>
+    </message>
+    <message>
+        <source>the placed picture %1 is not in the file</source>
+        <translation>Das platzierte Bild %1 ist nicht in der Datei.</translation>
+    </message>
+    <message>
+        <source>a pdfmark whose operands are wrong was left out</source>
+        <translation>Ein pdfmark mit falschen Operanden wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>a part of the artwork could not be drawn (%1)</source>
+        <translation>Ein Teil der Zeichnung ließ sich nicht zeichnen (%1).</translation>
+    </message>
+    <message>
+        <source>the page has errors, and something may be missing on its plates</source>
+        <translation>Die Seite hat Fehler; auf ihren Druckplatten fehlt vielleicht etwas.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3.</translation>
+    </message>
+    <message>
+        <source>there is no %1, only [limits] and [severities]</source>
+        <translation>%1 gibt es nicht, nur [limits] und [severities].</translation>
+    </message>
+    <message>
+        <source>%1 is a number from 0</source>
+        <translation>%1 ist eine Zahl ab 0.</translation>
+    </message>
+    <message>
+        <source>rgb is true or false</source>
+        <translation>rgb ist true oder false.</translation>
+    </message>
+    <message>
+        <source>columns-mm is a list of numbers</source>
+        <translation>columns-mm ist eine Liste von Zahlen.</translation>
+    </message>
+    <message>
+        <source>there is no limit %1</source>
+        <translation>Es gibt keine Grenze %1.</translation>
+    </message>
+    <message>
+        <source>there is no rule %1</source>
+        <translation>Es gibt keine Regel %1.</translation>
+    </message>
+    <message>
+        <source>%1 is one of: error, warning, note, off</source>
+        <translation>%1 ist eines von: error, warning, note, off.</translation>
+    </message>
+    <message>
+        <source>this is neither a [table] nor a name with = and a value</source>
+        <translation>Das ist weder eine [Tabelle] noch ein Name mit = und einem Wert.</translation>
+    </message>
+    <message>
+        <source>%1 is no ordinary file, as a profile has to be</source>
+        <translation>%1 ist keine gewöhnliche Datei, wie es ein Profil sein muss.</translation>
+    </message>
+    <message>
+        <source>there is no profile %1, and no file of that name; profiles are: %2</source>
+        <translation>Es gibt kein Profil %1 und keine Datei dieses Namens; Profile sind: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for a profile</source>
+        <translation>%1 ist zu groß für ein Profil.</translation>
+    </message>
 </context>
 </TS>

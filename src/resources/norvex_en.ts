@@ -3464,5 +3464,201 @@
         <source>%1 has no end</source>
         <translation>%1 has no end</translation>
     </message>
+    <message>
+        <source>the embedded preview is malformed</source>
+        <translation>the embedded preview is malformed</translation>
+    </message>
+    <message>
+        <source>the embedded preview is too large</source>
+        <translation>the embedded preview is too large</translation>
+    </message>
+    <message>
+        <source>the embedded preview lies outside of the file</source>
+        <translation>the embedded preview lies outside of the file</translation>
+    </message>
+    <message>
+        <source>the preview is not a readable TIFF image</source>
+        <translation>the preview is not a readable TIFF image</translation>
+    </message>
+    <message>
+        <source>the preview has more than %1 megapixels</source>
+        <translation>the preview has more than %1 megapixels</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile is damaged</source>
+        <translation>the embedded Windows metafile is damaged</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile tells no size</source>
+        <translation>the embedded Windows metafile tells no size</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is damaged</source>
+        <translation>a bitmap in the Windows metafile is damaged</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is of a kind that is not drawn</source>
+        <translation>a bitmap in the Windows metafile is of a kind that is not drawn</translation>
+    </message>
+    <message>
+        <source>the part of norvex that this picture needs is missing or damaged: %1</source>
+        <translation>the part of norvex that this picture needs is missing or damaged: %1</translation>
+    </message>
+    <message>
+        <source>the measures of the picture are larger than can be handled</source>
+        <translation>the measures of the picture are larger than can be handled</translation>
+    </message>
+    <message>
+        <source>the picture process cannot be waited for: too many files are open</source>
+        <translation>the picture process cannot be waited for: too many files are open</translation>
+    </message>
+    <message>
+        <source>no connection to a picture process could be made</source>
+        <translation>no connection to a picture process could be made</translation>
+    </message>
+    <message>
+        <source>the picture cannot be made in this size or at this place</source>
+        <translation>the picture cannot be made in this size or at this place</translation>
+    </message>
+    <message>
+        <source>the picture is too large to be turned</source>
+        <translation>the picture is too large to be turned</translation>
+    </message>
+    <message>
+        <source>there is no picture</source>
+        <translation>there is no picture</translation>
+    </message>
+    <message>
+        <source>these pixels cannot be converted</source>
+        <translation>these pixels cannot be converted</translation>
+    </message>
+    <message>
+        <source>the profile of the press cannot be used</source>
+        <translation>the profile of the press cannot be used</translation>
+    </message>
+    <message>
+        <source>a section of it is missing</source>
+        <translation>a section of it is missing</translation>
+    </message>
+    <message>
+        <source>it has no end</source>
+        <translation>it has no end</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript</source>
+        <translation>the source has no PostScript</translation>
+    </message>
+    <message>
+        <source>the source has no comments that a preview could follow</source>
+        <translation>the source has no comments that a preview could follow</translation>
+    </message>
+    <message>
+        <source>the document has a description but no title to store with it</source>
+        <translation>the document has a description but no title to store with it</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %!</source>
+        <translation>this is not Encapsulated PostScript: it does not begin with %!</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %! and states no bounding box</source>
+        <translation>this is not Encapsulated PostScript: it does not begin with %! and states no bounding box</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption and does not allow %1; what is made of it is not protected</source>
+        <translation>the document is protected by encryption and does not allow %1; what is made of it is not protected</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>printing</translation>
+    </message>
+    <message>
+        <source>changing</source>
+        <translation>changing</translation>
+    </message>
+    <message>
+        <source>copying</source>
+        <translation>copying</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 is not understood and was left out</source>
+        <translation>the Illustrator operator %1 is not understood and was left out</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 was left out where its operands are not understood</source>
+        <translation>the Illustrator operator %1 was left out where its operands are not understood</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is not in the file in a form that is understood and was left out</source>
+        <translation>the pattern %1 is not in the file in a form that is understood and was left out</translation>
+    </message>
+    <message>
+        <source>the gradient %1 is not in the file: a plain colour stands for it</source>
+        <translation>the gradient %1 is not in the file: a plain colour stands for it</translation>
+    </message>
+    <message>
+        <source>the placed picture %1 is not in the file</source>
+        <translation>the placed picture %1 is not in the file</translation>
+    </message>
+    <message>
+        <source>a pdfmark whose operands are wrong was left out</source>
+        <translation>a pdfmark whose operands are wrong was left out</translation>
+    </message>
+    <message>
+        <source>a part of the artwork could not be drawn (%1)</source>
+        <translation>a part of the artwork could not be drawn (%1)</translation>
+    </message>
+    <message>
+        <source>the page has errors, and something may be missing on its plates</source>
+        <translation>the page has errors, and something may be missing on its plates</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, line %2: %3</translation>
+    </message>
+    <message>
+        <source>there is no %1, only [limits] and [severities]</source>
+        <translation>there is no %1, only [limits] and [severities]</translation>
+    </message>
+    <message>
+        <source>%1 is a number from 0</source>
+        <translation>%1 is a number from 0</translation>
+    </message>
+    <message>
+        <source>rgb is true or false</source>
+        <translation>rgb is true or false</translation>
+    </message>
+    <message>
+        <source>columns-mm is a list of numbers</source>
+        <translation>columns-mm is a list of numbers</translation>
+    </message>
+    <message>
+        <source>there is no limit %1</source>
+        <translation>there is no limit %1</translation>
+    </message>
+    <message>
+        <source>there is no rule %1</source>
+        <translation>there is no rule %1</translation>
+    </message>
+    <message>
+        <source>%1 is one of: error, warning, note, off</source>
+        <translation>%1 is one of: error, warning, note, off</translation>
+    </message>
+    <message>
+        <source>this is neither a [table] nor a name with = and a value</source>
+        <translation>this is neither a [table] nor a name with = and a value</translation>
+    </message>
+    <message>
+        <source>%1 is no ordinary file, as a profile has to be</source>
+        <translation>%1 is no ordinary file, as a profile has to be</translation>
+    </message>
+    <message>
+        <source>there is no profile %1, and no file of that name; profiles are: %2</source>
+        <translation>there is no profile %1, and no file of that name; profiles are: %2</translation>
+    </message>
+    <message>
+        <source>%1 is too large for a profile</source>
+        <translation>%1 is too large for a profile</translation>
+    </message>
 </context>
 </TS>

@@ -3074,7 +3074,7 @@
     </message>
     <message>
         <source>the result could not be opened again: %1</source>
-        <translation>No se pudo volver a abrir el resultado: %1.</translation>
+        <translation>No se pudo volver a abrir el resultado. %1.</translation>
     </message>
     <message>
         <source>an image with more pixels than are granted was left out</source>
@@ -3114,7 +3114,7 @@
     </message>
     <message>
         <source>it cannot be mended: %1</source>
-        <translation>No se puede reparar: %1.</translation>
+        <translation>No se puede reparar. %1.</translation>
     </message>
     <message>
         <source>the program was taken out of %1</source>
@@ -3463,6 +3463,202 @@
     <message>
         <source>%1 has no end</source>
         <translation>%1 no tiene fin.</translation>
+    </message>
+    <message>
+        <source>the embedded preview is malformed</source>
+        <translation>La vista previa incrustada está mal formada.</translation>
+    </message>
+    <message>
+        <source>the embedded preview is too large</source>
+        <translation>La vista previa incrustada es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>the embedded preview lies outside of the file</source>
+        <translation>La vista previa incrustada está fuera del archivo.</translation>
+    </message>
+    <message>
+        <source>the preview is not a readable TIFF image</source>
+        <translation>La vista previa no es una imagen TIFF legible.</translation>
+    </message>
+    <message>
+        <source>the preview has more than %1 megapixels</source>
+        <translation>La vista previa supera los %1 megapíxeles.</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile is damaged</source>
+        <translation>El metarchivo de Windows incrustado está dañado.</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile tells no size</source>
+        <translation>El metarchivo de Windows incrustado no indica ningún tamaño.</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is damaged</source>
+        <translation>Un mapa de bits del metarchivo de Windows está dañado.</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is of a kind that is not drawn</source>
+        <translation>Un mapa de bits del metarchivo de Windows es de un tipo que no se dibuja.</translation>
+    </message>
+    <message>
+        <source>the part of norvex that this picture needs is missing or damaged: %1</source>
+        <translation>La parte de Norvex que necesita esta imagen falta o está dañada: %1.</translation>
+    </message>
+    <message>
+        <source>the measures of the picture are larger than can be handled</source>
+        <translation>Las medidas de la imagen son demasiado grandes para procesarlas.</translation>
+    </message>
+    <message>
+        <source>the picture process cannot be waited for: too many files are open</source>
+        <translation>No se puede esperar al proceso de la imagen: hay demasiados archivos abiertos.</translation>
+    </message>
+    <message>
+        <source>no connection to a picture process could be made</source>
+        <translation>No se pudo establecer la conexión con un proceso de imagen.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be made in this size or at this place</source>
+        <translation>La imagen no se puede generar con este tamaño o en este lugar.</translation>
+    </message>
+    <message>
+        <source>the picture is too large to be turned</source>
+        <translation>La imagen es demasiado grande para girarla.</translation>
+    </message>
+    <message>
+        <source>there is no picture</source>
+        <translation>No hay ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>these pixels cannot be converted</source>
+        <translation>Estos píxeles no se pueden convertir.</translation>
+    </message>
+    <message>
+        <source>the profile of the press cannot be used</source>
+        <translation>El perfil de la imprenta no se puede usar.</translation>
+    </message>
+    <message>
+        <source>a section of it is missing</source>
+        <translation>Le falta una sección.</translation>
+    </message>
+    <message>
+        <source>it has no end</source>
+        <translation>No tiene final.</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript</source>
+        <translation>El origen no tiene PostScript.</translation>
+    </message>
+    <message>
+        <source>the source has no comments that a preview could follow</source>
+        <translation>El origen no tiene comentarios tras los que pueda ir una vista previa.</translation>
+    </message>
+    <message>
+        <source>the document has a description but no title to store with it</source>
+        <translation>El documento tiene una descripción, pero ningún título que guardar con ella.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %!</source>
+        <translation>No es PostScript encapsulado: no empieza con %!.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %! and states no bounding box</source>
+        <translation>No es PostScript encapsulado: no empieza con %! ni indica ningún cuadro delimitador.</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption and does not allow %1; what is made of it is not protected</source>
+        <translation>El documento está protegido por cifrado y no permite %1; lo que se hace con él no está protegido.</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>imprimir</translation>
+    </message>
+    <message>
+        <source>changing</source>
+        <translation>modificar</translation>
+    </message>
+    <message>
+        <source>copying</source>
+        <translation>copiar</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 is not understood and was left out</source>
+        <translation>El operador de Illustrator %1 no se entiende y se omitió.</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 was left out where its operands are not understood</source>
+        <translation>El operador de Illustrator %1 se omitió donde no se entienden sus operandos.</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is not in the file in a form that is understood and was left out</source>
+        <translation>El patrón %1 no está en el archivo en una forma que se entienda y se omitió.</translation>
+    </message>
+    <message>
+        <source>the gradient %1 is not in the file: a plain colour stands for it</source>
+        <translation>El degradado %1 no está en el archivo: lo sustituye un color liso.</translation>
+    </message>
+    <message>
+        <source>the placed picture %1 is not in the file</source>
+        <translation>La imagen colocada %1 no está en el archivo.</translation>
+    </message>
+    <message>
+        <source>a pdfmark whose operands are wrong was left out</source>
+        <translation>Se omitió un pdfmark con operandos incorrectos.</translation>
+    </message>
+    <message>
+        <source>a part of the artwork could not be drawn (%1)</source>
+        <translation>Una parte del dibujo no se pudo dibujar (%1).</translation>
+    </message>
+    <message>
+        <source>the page has errors, and something may be missing on its plates</source>
+        <translation>La página tiene errores; puede que falte algo en sus planchas.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, línea %2: %3.</translation>
+    </message>
+    <message>
+        <source>there is no %1, only [limits] and [severities]</source>
+        <translation>No existe %1, solo [limits] y [severities].</translation>
+    </message>
+    <message>
+        <source>%1 is a number from 0</source>
+        <translation>%1 es un número a partir de 0.</translation>
+    </message>
+    <message>
+        <source>rgb is true or false</source>
+        <translation>rgb es true o false.</translation>
+    </message>
+    <message>
+        <source>columns-mm is a list of numbers</source>
+        <translation>columns-mm es una lista de números.</translation>
+    </message>
+    <message>
+        <source>there is no limit %1</source>
+        <translation>No existe el límite %1.</translation>
+    </message>
+    <message>
+        <source>there is no rule %1</source>
+        <translation>No existe la regla %1.</translation>
+    </message>
+    <message>
+        <source>%1 is one of: error, warning, note, off</source>
+        <translation>%1 es uno de: error, warning, note, off.</translation>
+    </message>
+    <message>
+        <source>this is neither a [table] nor a name with = and a value</source>
+        <translation>No es ni una [tabla] ni un nombre con = y un valor.</translation>
+    </message>
+    <message>
+        <source>%1 is no ordinary file, as a profile has to be</source>
+        <translation>%1 no es un archivo corriente, como debe serlo un perfil.</translation>
+    </message>
+    <message>
+        <source>there is no profile %1, and no file of that name; profiles are: %2</source>
+        <translation>No existe el perfil %1 ni un archivo con ese nombre; los perfiles son: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for a profile</source>
+        <translation>%1 es demasiado grande para un perfil.</translation>
     </message>
 </context>
 </TS>

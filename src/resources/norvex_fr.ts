@@ -3074,7 +3074,7 @@
     </message>
     <message>
         <source>the result could not be opened again: %1</source>
-        <translation>Le résultat n’a pas pu être rouvert : %1.</translation>
+        <translation>Le résultat n’a pas pu être rouvert. %1.</translation>
     </message>
     <message>
         <source>an image with more pixels than are granted was left out</source>
@@ -3114,7 +3114,7 @@
     </message>
     <message>
         <source>it cannot be mended: %1</source>
-        <translation>Il ne peut pas être réparé : %1.</translation>
+        <translation>Il ne peut pas être réparé. %1.</translation>
     </message>
     <message>
         <source>the program was taken out of %1</source>
@@ -3463,6 +3463,202 @@
     <message>
         <source>%1 has no end</source>
         <translation>%1 n’a pas de fin.</translation>
+    </message>
+    <message>
+        <source>the embedded preview is malformed</source>
+        <translation>L’aperçu incorporé est mal formé.</translation>
+    </message>
+    <message>
+        <source>the embedded preview is too large</source>
+        <translation>L’aperçu incorporé est trop grand.</translation>
+    </message>
+    <message>
+        <source>the embedded preview lies outside of the file</source>
+        <translation>L’aperçu incorporé se trouve hors du fichier.</translation>
+    </message>
+    <message>
+        <source>the preview is not a readable TIFF image</source>
+        <translation>L’aperçu n’est pas une image TIFF lisible.</translation>
+    </message>
+    <message>
+        <source>the preview has more than %1 megapixels</source>
+        <translation>L’aperçu dépasse %1 mégapixels.</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile is damaged</source>
+        <translation>Le métafichier Windows incorporé est endommagé.</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile tells no size</source>
+        <translation>Le métafichier Windows incorporé n’indique pas de taille.</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is damaged</source>
+        <translation>Une image matricielle du métafichier Windows est endommagée.</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is of a kind that is not drawn</source>
+        <translation>Une image matricielle du métafichier Windows est d’un type qui n’est pas dessiné.</translation>
+    </message>
+    <message>
+        <source>the part of norvex that this picture needs is missing or damaged: %1</source>
+        <translation>La partie de Norvex dont cette image a besoin est absente ou endommagée : %1.</translation>
+    </message>
+    <message>
+        <source>the measures of the picture are larger than can be handled</source>
+        <translation>Les dimensions de l’image sont trop grandes pour être traitées.</translation>
+    </message>
+    <message>
+        <source>the picture process cannot be waited for: too many files are open</source>
+        <translation>Impossible d’attendre le processus d’image : trop de fichiers sont ouverts.</translation>
+    </message>
+    <message>
+        <source>no connection to a picture process could be made</source>
+        <translation>Aucune connexion à un processus d’image n’a pu être établie.</translation>
+    </message>
+    <message>
+        <source>the picture cannot be made in this size or at this place</source>
+        <translation>L’image ne peut pas être produite à cette taille ou à cet endroit.</translation>
+    </message>
+    <message>
+        <source>the picture is too large to be turned</source>
+        <translation>L’image est trop grande pour être tournée.</translation>
+    </message>
+    <message>
+        <source>there is no picture</source>
+        <translation>Il n’y a pas d’image.</translation>
+    </message>
+    <message>
+        <source>these pixels cannot be converted</source>
+        <translation>Ces pixels ne peuvent pas être convertis.</translation>
+    </message>
+    <message>
+        <source>the profile of the press cannot be used</source>
+        <translation>Le profil de la presse ne peut pas être utilisé.</translation>
+    </message>
+    <message>
+        <source>a section of it is missing</source>
+        <translation>Il en manque une section.</translation>
+    </message>
+    <message>
+        <source>it has no end</source>
+        <translation>Il n’a pas de fin.</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript</source>
+        <translation>La source n’a pas de PostScript.</translation>
+    </message>
+    <message>
+        <source>the source has no comments that a preview could follow</source>
+        <translation>La source n’a pas de commentaires après lesquels placer un aperçu.</translation>
+    </message>
+    <message>
+        <source>the document has a description but no title to store with it</source>
+        <translation>Le document a une description, mais pas de titre à enregistrer avec elle.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %!</source>
+        <translation>Ce n’est pas du PostScript encapsulé : il ne commence pas par %!.</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %! and states no bounding box</source>
+        <translation>Ce n’est pas du PostScript encapsulé : il ne commence pas par %! et n’indique pas de cadre de délimitation.</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption and does not allow %1; what is made of it is not protected</source>
+        <translation>Le document est protégé par chiffrement et n’autorise pas : %1. Ce qui en est tiré n’est pas protégé.</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>impression</translation>
+    </message>
+    <message>
+        <source>changing</source>
+        <translation>modification</translation>
+    </message>
+    <message>
+        <source>copying</source>
+        <translation>copie</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 is not understood and was left out</source>
+        <translation>L’opérateur Illustrator %1 n’est pas compris et a été omis.</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 was left out where its operands are not understood</source>
+        <translation>L’opérateur Illustrator %1 a été omis là où ses opérandes ne sont pas compris.</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is not in the file in a form that is understood and was left out</source>
+        <translation>Le motif %1 n’est pas dans le fichier sous une forme comprise et a été omis.</translation>
+    </message>
+    <message>
+        <source>the gradient %1 is not in the file: a plain colour stands for it</source>
+        <translation>Le dégradé %1 n’est pas dans le fichier : une couleur unie le remplace.</translation>
+    </message>
+    <message>
+        <source>the placed picture %1 is not in the file</source>
+        <translation>L’image placée %1 n’est pas dans le fichier.</translation>
+    </message>
+    <message>
+        <source>a pdfmark whose operands are wrong was left out</source>
+        <translation>Un pdfmark aux opérandes incorrects a été omis.</translation>
+    </message>
+    <message>
+        <source>a part of the artwork could not be drawn (%1)</source>
+        <translation>Une partie du dessin n’a pas pu être dessinée (%1).</translation>
+    </message>
+    <message>
+        <source>the page has errors, and something may be missing on its plates</source>
+        <translation>La page a des erreurs ; quelque chose manque peut-être sur ses plaques.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, ligne %2 : %3.</translation>
+    </message>
+    <message>
+        <source>there is no %1, only [limits] and [severities]</source>
+        <translation>Il n’y a pas de %1, seulement [limits] et [severities].</translation>
+    </message>
+    <message>
+        <source>%1 is a number from 0</source>
+        <translation>%1 est un nombre à partir de 0.</translation>
+    </message>
+    <message>
+        <source>rgb is true or false</source>
+        <translation>rgb vaut true ou false.</translation>
+    </message>
+    <message>
+        <source>columns-mm is a list of numbers</source>
+        <translation>columns-mm est une liste de nombres.</translation>
+    </message>
+    <message>
+        <source>there is no limit %1</source>
+        <translation>Il n’y a pas de limite %1.</translation>
+    </message>
+    <message>
+        <source>there is no rule %1</source>
+        <translation>Il n’y a pas de règle %1.</translation>
+    </message>
+    <message>
+        <source>%1 is one of: error, warning, note, off</source>
+        <translation>%1 est l’un de : error, warning, note, off.</translation>
+    </message>
+    <message>
+        <source>this is neither a [table] nor a name with = and a value</source>
+        <translation>Ce n’est ni une [table], ni un nom suivi de = et d’une valeur.</translation>
+    </message>
+    <message>
+        <source>%1 is no ordinary file, as a profile has to be</source>
+        <translation>%1 n’est pas un fichier ordinaire, ce qu’un profil doit être.</translation>
+    </message>
+    <message>
+        <source>there is no profile %1, and no file of that name; profiles are: %2</source>
+        <translation>Il n’y a ni profil %1, ni fichier de ce nom ; les profils sont : %2.</translation>
+    </message>
+    <message>
+        <source>%1 is too large for a profile</source>
+        <translation>%1 est trop grand pour un profil.</translation>
     </message>
 </context>
 </TS>

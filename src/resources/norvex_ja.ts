@@ -3464,5 +3464,201 @@
         <source>%1 has no end</source>
         <translation>%1 に終わりがありません。</translation>
     </message>
+    <message>
+        <source>the embedded preview is malformed</source>
+        <translation>埋め込まれたプレビューの形式が正しくありません。</translation>
+    </message>
+    <message>
+        <source>the embedded preview is too large</source>
+        <translation>埋め込まれたプレビューが大きすぎます。</translation>
+    </message>
+    <message>
+        <source>the embedded preview lies outside of the file</source>
+        <translation>埋め込まれたプレビューがファイルの外にあります。</translation>
+    </message>
+    <message>
+        <source>the preview is not a readable TIFF image</source>
+        <translation>プレビューは読み取れる TIFF 画像ではありません。</translation>
+    </message>
+    <message>
+        <source>the preview has more than %1 megapixels</source>
+        <translation>プレビューが %1 メガピクセルを超えています。</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile is damaged</source>
+        <translation>埋め込まれた Windows メタファイルが壊れています。</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile tells no size</source>
+        <translation>埋め込まれた Windows メタファイルに大きさの指定がありません。</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is damaged</source>
+        <translation>Windows メタファイルの中のビットマップが壊れています。</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is of a kind that is not drawn</source>
+        <translation>Windows メタファイルの中に、描画に対応していない種類のビットマップがあります。</translation>
+    </message>
+    <message>
+        <source>the part of norvex that this picture needs is missing or damaged: %1</source>
+        <translation>この画像に必要な Norvex の部品がないか、壊れています：%1。</translation>
+    </message>
+    <message>
+        <source>the measures of the picture are larger than can be handled</source>
+        <translation>画像の寸法が大きすぎて扱えません。</translation>
+    </message>
+    <message>
+        <source>the picture process cannot be waited for: too many files are open</source>
+        <translation>開いているファイルが多すぎて、画像プロセスを待てません。</translation>
+    </message>
+    <message>
+        <source>no connection to a picture process could be made</source>
+        <translation>画像プロセスに接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>the picture cannot be made in this size or at this place</source>
+        <translation>この大きさ、またはこの位置では画像を作れません。</translation>
+    </message>
+    <message>
+        <source>the picture is too large to be turned</source>
+        <translation>画像が大きすぎて回転できません。</translation>
+    </message>
+    <message>
+        <source>there is no picture</source>
+        <translation>画像がありません。</translation>
+    </message>
+    <message>
+        <source>these pixels cannot be converted</source>
+        <translation>これらのピクセルは変換できません。</translation>
+    </message>
+    <message>
+        <source>the profile of the press cannot be used</source>
+        <translation>印刷機のプロファイルを使えません。</translation>
+    </message>
+    <message>
+        <source>a section of it is missing</source>
+        <translation>一部の区画がありません。</translation>
+    </message>
+    <message>
+        <source>it has no end</source>
+        <translation>終わりがありません。</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript</source>
+        <translation>元のファイルに PostScript がありません。</translation>
+    </message>
+    <message>
+        <source>the source has no comments that a preview could follow</source>
+        <translation>元のファイルに、プレビューを入れる位置を示すコメントがありません。</translation>
+    </message>
+    <message>
+        <source>the document has a description but no title to store with it</source>
+        <translation>書類に説明はありますが、一緒に保存するタイトルがありません。</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %!</source>
+        <translation>%! で始まっていないため、Encapsulated PostScript ではありません。</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %! and states no bounding box</source>
+        <translation>%! で始まらず、バウンディングボックスもないため、Encapsulated PostScript ではありません。</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption and does not allow %1; what is made of it is not protected</source>
+        <translation>書類は暗号化で保護され、%1は許可されていません。ここから作られるものは保護されません。</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>プリント</translation>
+    </message>
+    <message>
+        <source>changing</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>copying</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 is not understood and was left out</source>
+        <translation>Illustrator の演算子 %1 は解釈できないため省かれました。</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 was left out where its operands are not understood</source>
+        <translation>Illustrator の演算子 %1 は、オペランドを解釈できないところで省かれました。</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is not in the file in a form that is understood and was left out</source>
+        <translation>パターン %1 は解釈できる形でファイルに入っていないため省かれました。</translation>
+    </message>
+    <message>
+        <source>the gradient %1 is not in the file: a plain colour stands for it</source>
+        <translation>グラデーション %1 がファイルにないため、単色で代用しています。</translation>
+    </message>
+    <message>
+        <source>the placed picture %1 is not in the file</source>
+        <translation>配置された画像 %1 がファイルに入っていません。</translation>
+    </message>
+    <message>
+        <source>a pdfmark whose operands are wrong was left out</source>
+        <translation>オペランドの誤った pdfmark は省かれました。</translation>
+    </message>
+    <message>
+        <source>a part of the artwork could not be drawn (%1)</source>
+        <translation>絵の一部を描画できませんでした（%1）。</translation>
+    </message>
+    <message>
+        <source>the page has errors, and something may be missing on its plates</source>
+        <translation>ページにエラーがあり、版に何かが欠けているかもしれません。</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1 の %2 行目：%3。</translation>
+    </message>
+    <message>
+        <source>there is no %1, only [limits] and [severities]</source>
+        <translation>%1 はありません。使えるのは [limits] と [severities] だけです。</translation>
+    </message>
+    <message>
+        <source>%1 is a number from 0</source>
+        <translation>%1 は 0 以上の数値です。</translation>
+    </message>
+    <message>
+        <source>rgb is true or false</source>
+        <translation>rgb は true または false です。</translation>
+    </message>
+    <message>
+        <source>columns-mm is a list of numbers</source>
+        <translation>columns-mm は数値のリストです。</translation>
+    </message>
+    <message>
+        <source>there is no limit %1</source>
+        <translation>%1 という制限はありません。</translation>
+    </message>
+    <message>
+        <source>there is no rule %1</source>
+        <translation>%1 という規則はありません。</translation>
+    </message>
+    <message>
+        <source>%1 is one of: error, warning, note, off</source>
+        <translation>%1 は error、warning、note、off のどれかです。</translation>
+    </message>
+    <message>
+        <source>this is neither a [table] nor a name with = and a value</source>
+        <translation>[テーブル] でも、名前と = と値でもありません。</translation>
+    </message>
+    <message>
+        <source>%1 is no ordinary file, as a profile has to be</source>
+        <translation>%1 は通常のファイルではありません。プロファイルは通常のファイルでなければなりません。</translation>
+    </message>
+    <message>
+        <source>there is no profile %1, and no file of that name; profiles are: %2</source>
+        <translation>%1 というプロファイルもファイルもありません。プロファイル：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is too large for a profile</source>
+        <translation>%1 はプロファイルとしては大きすぎます。</translation>
+    </message>
 </context>
 </TS>

@@ -3464,5 +3464,201 @@
         <source>%1 has no end</source>
         <translation>%1 没有结尾。</translation>
     </message>
+    <message>
+        <source>the embedded preview is malformed</source>
+        <translation>嵌入的预览格式有误。</translation>
+    </message>
+    <message>
+        <source>the embedded preview is too large</source>
+        <translation>嵌入的预览过大。</translation>
+    </message>
+    <message>
+        <source>the embedded preview lies outside of the file</source>
+        <translation>嵌入的预览位于文件之外。</translation>
+    </message>
+    <message>
+        <source>the preview is not a readable TIFF image</source>
+        <translation>预览不是可读取的 TIFF 图像。</translation>
+    </message>
+    <message>
+        <source>the preview has more than %1 megapixels</source>
+        <translation>预览超过 %1 百万像素。</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile is damaged</source>
+        <translation>嵌入的 Windows 图元文件已损坏。</translation>
+    </message>
+    <message>
+        <source>the embedded Windows metafile tells no size</source>
+        <translation>嵌入的 Windows 图元文件未说明大小。</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is damaged</source>
+        <translation>Windows 图元文件中的一个位图已损坏。</translation>
+    </message>
+    <message>
+        <source>a bitmap in the Windows metafile is of a kind that is not drawn</source>
+        <translation>Windows 图元文件中有一种不支持绘制的位图。</translation>
+    </message>
+    <message>
+        <source>the part of norvex that this picture needs is missing or damaged: %1</source>
+        <translation>此图片所需的 Norvex 组件缺失或已损坏：%1。</translation>
+    </message>
+    <message>
+        <source>the measures of the picture are larger than can be handled</source>
+        <translation>图片的尺寸过大，无法处理。</translation>
+    </message>
+    <message>
+        <source>the picture process cannot be waited for: too many files are open</source>
+        <translation>打开的文件过多，无法等待图片进程。</translation>
+    </message>
+    <message>
+        <source>no connection to a picture process could be made</source>
+        <translation>无法连接到图片进程。</translation>
+    </message>
+    <message>
+        <source>the picture cannot be made in this size or at this place</source>
+        <translation>无法以此大小或在此位置生成图片。</translation>
+    </message>
+    <message>
+        <source>the picture is too large to be turned</source>
+        <translation>图片过大，无法旋转。</translation>
+    </message>
+    <message>
+        <source>there is no picture</source>
+        <translation>没有图片。</translation>
+    </message>
+    <message>
+        <source>these pixels cannot be converted</source>
+        <translation>无法转换这些像素。</translation>
+    </message>
+    <message>
+        <source>the profile of the press cannot be used</source>
+        <translation>无法使用印刷机的配置文件。</translation>
+    </message>
+    <message>
+        <source>a section of it is missing</source>
+        <translation>其中缺少一个区段。</translation>
+    </message>
+    <message>
+        <source>it has no end</source>
+        <translation>没有结尾。</translation>
+    </message>
+    <message>
+        <source>the source has no PostScript</source>
+        <translation>来源没有 PostScript。</translation>
+    </message>
+    <message>
+        <source>the source has no comments that a preview could follow</source>
+        <translation>来源中没有可在其后放置预览的注释。</translation>
+    </message>
+    <message>
+        <source>the document has a description but no title to store with it</source>
+        <translation>文档有说明，但没有可随之保存的标题。</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %!</source>
+        <translation>这不是封装 PostScript：它不以 %! 开头。</translation>
+    </message>
+    <message>
+        <source>this is not Encapsulated PostScript: it does not begin with %! and states no bounding box</source>
+        <translation>这不是封装 PostScript：它不以 %! 开头，也没有边界框。</translation>
+    </message>
+    <message>
+        <source>the document is protected by encryption and does not allow %1; what is made of it is not protected</source>
+        <translation>此文档受加密保护，不允许%1；由它生成的内容则不受保护。</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>changing</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>copying</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 is not understood and was left out</source>
+        <translation>无法理解 Illustrator 操作符 %1，已将其略去。</translation>
+    </message>
+    <message>
+        <source>the Illustrator operator %1 was left out where its operands are not understood</source>
+        <translation>在无法理解操作数之处，已略去 Illustrator 操作符 %1。</translation>
+    </message>
+    <message>
+        <source>the pattern %1 is not in the file in a form that is understood and was left out</source>
+        <translation>图案 %1 未以可理解的形式存于文件中，已将其略去。</translation>
+    </message>
+    <message>
+        <source>the gradient %1 is not in the file: a plain colour stands for it</source>
+        <translation>渐变 %1 不在文件中，已用纯色代替。</translation>
+    </message>
+    <message>
+        <source>the placed picture %1 is not in the file</source>
+        <translation>置入的图片 %1 不在文件中。</translation>
+    </message>
+    <message>
+        <source>a pdfmark whose operands are wrong was left out</source>
+        <translation>已略去一个操作数有误的 pdfmark。</translation>
+    </message>
+    <message>
+        <source>a part of the artwork could not be drawn (%1)</source>
+        <translation>图稿有一部分无法绘制（%1）。</translation>
+    </message>
+    <message>
+        <source>the page has errors, and something may be missing on its plates</source>
+        <translation>页面有错误，其印版上可能缺少内容。</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1，第 %2 行：%3。</translation>
+    </message>
+    <message>
+        <source>there is no %1, only [limits] and [severities]</source>
+        <translation>没有 %1，只有 [limits] 和 [severities]。</translation>
+    </message>
+    <message>
+        <source>%1 is a number from 0</source>
+        <translation>%1 应为不小于 0 的数值。</translation>
+    </message>
+    <message>
+        <source>rgb is true or false</source>
+        <translation>rgb 应为 true 或 false。</translation>
+    </message>
+    <message>
+        <source>columns-mm is a list of numbers</source>
+        <translation>columns-mm 应为数值列表。</translation>
+    </message>
+    <message>
+        <source>there is no limit %1</source>
+        <translation>没有名为 %1 的限制。</translation>
+    </message>
+    <message>
+        <source>there is no rule %1</source>
+        <translation>没有名为 %1 的规则。</translation>
+    </message>
+    <message>
+        <source>%1 is one of: error, warning, note, off</source>
+        <translation>%1 应为下列之一：error、warning、note、off。</translation>
+    </message>
+    <message>
+        <source>this is neither a [table] nor a name with = and a value</source>
+        <translation>这既不是 [表]，也不是带 = 和值的名称。</translation>
+    </message>
+    <message>
+        <source>%1 is no ordinary file, as a profile has to be</source>
+        <translation>%1 不是普通文件，而配置必须是普通文件。</translation>
+    </message>
+    <message>
+        <source>there is no profile %1, and no file of that name; profiles are: %2</source>
+        <translation>没有名为 %1 的配置或文件；可用的配置：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is too large for a profile</source>
+        <translation>%1 过大，不能用作配置。</translation>
+    </message>
 </context>
 </TS>

@@ -134,6 +134,35 @@ class SentenceTest : public QObject {
     QCOMPARE(translatedSentence("it failed: no reason", keys), QStringLiteral("失敗：理由なし。"));
     QCOMPARE(translatedSentence("No space", keys), QString("Kein Platz."));
   }
+
+  void aReasonBehindAColonIsASentenceOfItsOwn() {
+    const Words german({{"it failed: %1", "Es ging nicht: %1."},
+                        {"it failed (%1)", "Es ging nicht (%1)."},
+                        {"line %1: %2", "Zeile %1: %2."},
+                        {"the box %1 is empty", "Der Rahmen %1 ist leer."}});
+    const std::array keys{"it failed: %1", "it failed (%1)", "line %1: %2", "the box %1 is empty"};
+    const std::array naming{"it failed: %1"};
+    QCOMPARE(translatedSentence("it failed: the box A is empty", keys),
+             QString("Es ging nicht: Der Rahmen A ist leer."));
+    QCOMPARE(translatedSentence("line 3: it failed: the box A is empty", keys),
+             QString("Zeile 3: Es ging nicht: Der Rahmen A ist leer."));
+    QCOMPARE(translatedSentence("it failed (the box A is empty)", keys),
+             QString("Es ging nicht (the box A is empty)."));
+    QCOMPARE(translatedSentence("it failed: the box A is empty", keys, naming),
+             QString("Es ging nicht: the box A is empty."));
+    QCOMPARE(translatedSentence("it failed: nobody knows", keys), QString("Es ging nicht: nobody knows."));
+  }
+
+  void wordsOfOursWithCommasAreTranslatedOneByOne() {
+    const Words german(
+        {{"it forbids %1", "Es verbietet: %1."}, {"printing", "Drucken"}, {"copying", "Kopieren"}});
+    const std::array keys{"it forbids %1", "printing", "copying"};
+    QCOMPARE(translatedSentence("it forbids copying", keys), QString("Es verbietet: Kopieren."));
+    const QString both = QLocale().createSeparatedList({"Drucken", "Kopieren"});
+    QCOMPARE(translatedSentence("it forbids printing, copying", keys), "Es verbietet: " + both + '.');
+    QCOMPARE(translatedSentence("it forbids printing, joking", keys),
+             QString("Es verbietet: printing, joking."));
+  }
 };
 
 NORVEX_TEST(SentenceTest)

@@ -78,6 +78,18 @@ inline constexpr std::array figureSentences{
     "%1 stands behind %2",
     "%1 ends what did not begin",
     "%1 has no end",
+    "%1, line %2: %3",
+    "there is no %1, only [limits] and [severities]",
+    "%1 is a number from 0",
+    "rgb is true or false",
+    "columns-mm is a list of numbers",
+    "there is no limit %1",
+    "there is no rule %1",
+    "%1 is one of: error, warning, note, off",
+    "this is neither a [table] nor a name with = and a value",
+    "%1 is no ordinary file, as a profile has to be",
+    "there is no profile %1, and no file of that name; profiles are: %2",
+    "%1 is too large for a profile",
 };
 
 /// Those at whose places stands what a document calls something, and be it "grey".

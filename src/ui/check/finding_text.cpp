@@ -4,11 +4,13 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "base/latin1_text.h"
 #include "base/localized_string.h"
 #include "base/sentence.h"
 #include "check/mending.h"
+#include "picture/told_sentences.h"
 #include "ui/check/figure_sentences.h"
 
 namespace norvex {
@@ -38,6 +40,18 @@ QString whereOf(const Finding& finding) {
   return places.join(QStringLiteral(" · "));
 }
 
+/// A finding has words of its own, or quotes what a program or a file says: an error, a remark.
+QString translatedFinding(const QString& english) {
+  const auto both = [](const auto& own, const auto& told) {
+    std::vector<const char*> all(own.begin(), own.end());
+    all.insert(all.end(), told.begin(), told.end());
+    return all;
+  };
+  static const std::vector<const char*> sentences = both(figureSentences, toldSentences);
+  static const std::vector<const char*> names = both(figureNames, toldNames);
+  return translatedSentence(english, sentences, names);
+}
+
 QString counted(qsizetype count, const char* one, const char* several) {
   return count == 1 ? localizedString(one) : localizedString(several).arg(count);
 }
@@ -60,7 +74,7 @@ FindingText textOf(const Finding& finding) {
   FindingText text;
   const QString title = latin1(finding.rule->title), rules = worded(finding.rule->title);
   const bool isName = title.at(0).isLower();
-  const QString said = translatedSentence(finding.sentence, figureSentences, figureNames);
+  const QString said = translatedFinding(finding.sentence);
   const bool isObject = !finding.object.isEmpty() && said.startsWith(finding.object);
   const QString own = sentenceOf(said, (isName && said == finding.sentence) || isObject);
   const bool isTranslated = rules != title;
@@ -73,7 +87,7 @@ FindingText textOf(const Finding& finding) {
 }
 
 QString figuresOf(const QString& sentence) {
-  return asSentence(translatedSentence(sentence, figureSentences, figureNames));
+  return asSentence(translatedFinding(sentence));
 }
 
 QString countsOf(const Findings& findings) {

@@ -11,7 +11,6 @@
 #include <utility>
 
 #include "base/localized_string.h"
-#include "base/sentence.h"
 #include "base/waiting_threads.h"
 #include "check/profile.h"
 #include "display/norvex_view.h"
@@ -20,6 +19,7 @@
 #include "picture/localized_error.h"
 #include "picture_check/picture_check.h"
 #include "ui/check/check_page.h"
+#include "ui/check/finding_text.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/picture_mark.h"
 #include "ui/source/source_text_view.h"
@@ -95,7 +95,7 @@ void CheckCommand::start() {
   stale_ = false;
   const QString name = page_.profile();
   const Result<Profile> profile = name.isEmpty() ? Result(Profile()) : profileNamed(name);
-  if (!profile) return page_.showProblem(asSentence(profile.error().message));
+  if (!profile) return page_.showProblem(figuresOf(profile.error().message));
   CheckRequest request;
   request.fileName = path;
   request.profile = *profile;

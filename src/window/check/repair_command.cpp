@@ -45,6 +45,11 @@ QUrl folderOf(const QUrl& file) {
   return file.adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
 }
 
+/// A file that cannot be mended is refused with a finding, which has the words of the check.
+Error toldByCheck(const Error& error) {
+  return toldError(error).details.isEmpty() ? Error{error.kind, figuresOf(error.message)} : error;
+}
+
 }  // namespace
 
 RepairCommand::RepairCommand(WindowParts& parts, QObject* parent)
@@ -114,7 +119,7 @@ void RepairCommand::repair(const QString& path, PreviewUse preview) {
               if (repaired)
                 self->tell(path, *repaired);
               else if (failed)
-                self->parts_.showWriteFailure(repaired.error(), path);
+                self->parts_.showWriteFailure(toldByCheck(repaired.error()), path);
               if (!self) return;  // while the message was on the screen
               self->repairing_ = false;
               if (failed)

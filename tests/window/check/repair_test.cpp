@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTranslator>
 
 #include "kit/test_main.h"
 #include "window/check/check_fixture.h"
@@ -23,6 +24,19 @@ class Opened final : public QObject {
     return true;
   }
   QList<QUrl> urls;
+};
+
+/// Another language, as long as it lives.
+class German final : public QTranslator {
+ public:
+  German() { QCoreApplication::installTranslator(this); }
+  ~German() override { QCoreApplication::removeTranslator(this); }
+  QString translate(const char*, const char* key, const char*, int) const override {
+    const QByteArray words(key);
+    if (words == "it cannot be mended: %1") return QStringLiteral("Nicht zu reparieren: %1.");
+    return words == "the bounding box %1 has no area" ? QStringLiteral("Der Rahmen %1 ist leer.") : QString();
+  }
+  bool isEmpty() const override { return false; }
 };
 
 }  // namespace
@@ -61,6 +75,25 @@ class RepairTest : public QObject {
     f.panel.answer({});
     QVERIFY(!c.inspectorWindow->findChild<RepairCommand*>()->isRepairing());
     QCOMPARE(QDir(f.folder.path()).entryList({"*.eps"}), QStringList{"a.eps"});
+  }
+
+  void whyAFileCannotBeMendedIsToldInTheWindowsLanguage() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    f.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Examine,
+                   {ErrorKind::NotParsable,
+                    QStringLiteral("it cannot be mended: the bounding box 0 0 0 9 has no area")});
+    });
+    const German german;
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    QSignalSpy ended(c.inspectorWindow->findChild<RepairCommand*>(), &RepairCommand::ended);
+    f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath("b.eps"))});
+    QVERIFY(!ended.isEmpty() || ended.wait(20000));
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QCOMPARE(f.alerts.shown[0].messageText,
+             QStringLiteral("Nicht zu reparieren: Der Rahmen 0 0 0 9 ist leer."));
   }
 
   void whatCannotBeMendedIsToldAndNothingIsWritten() {

@@ -117,11 +117,11 @@
     </message>
     <message>
         <source>D.M.S.</source>
-        <translation>Grad, Minuten und Sekunden: 12.3045 ist 12° 30′ 45″</translation>
+        <translation>Grad, Minuten und Sekunden: 12,3045 bedeutet 12° 30′ 45″</translation>
     </message>
     <message>
         <source>Dismiss</source>
-        <translation>Verwerfen</translation>
+        <translation>Ausblenden</translation>
     </message>
     <message>
         <source>Down by %1 pt</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>Pre&amp;ferences…</source>
-        <translation>&amp;Einstellungen…</translation>
+        <translation>&amp;Einstellungen …</translation>
     </message>
     <message>
         <source>Di&amp;m Outside of Selection</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>No larger than the picture, and smaller with it.</source>
-        <translation>Nicht größer als das Bild, und mit ihm kleiner.</translation>
+        <translation>Nie größer als das Bild; wird mit ihm kleiner.</translation>
     </message>
     <message>
         <source>Chec&amp;kerboard behind new pictures</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>Shows where nothing is painted, instead of the background colour.</source>
-        <translation>Zeigt, wo nichts gemalt ist, anstelle der Hintergrundfarbe.</translation>
+        <translation>Zeigt anstelle der Hintergrundfarbe, wo nichts gezeichnet ist.</translation>
     </message>
     <message>
         <source>Di&amp;m what is outside of the selection</source>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>What is copied, saved or printed stands out.</source>
-        <translation>Was kopiert, gespeichert oder gedruckt wird, tritt hervor.</translation>
+        <translation>Hebt hervor, was kopiert, gespeichert oder gedruckt wird.</translation>
     </message>
     <message>
         <source>&amp;Unit of lengths:</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
-        <translation>Von Koordinaten, der Größe einer Auswahl und eingegebenen Zahlen.</translation>
+        <translation>Für Koordinaten, die Größe einer Auswahl und eingegebene Zahlen.</translation>
     </message>
     <message>
         <source>Points</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>Otherwise a bar in the window asks.</source>
-        <translation>Sonst fragt ein Balken im Fenster.</translation>
+        <translation>Andernfalls fragt eine Leiste im Fenster nach.</translation>
     </message>
     <message>
         <source>R&amp;emember files</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
-        <translation>Zuletzt benutzte Dateien und wie ihre Bilder gezeigt wurden. Abschalten vergisst alles.</translation>
+        <translation>Zuletzt benutzte Dateien und wie ihre Bilder gezeigt wurden. Beim Abschalten wird alles vergessen.</translation>
     </message>
     <message>
         <source>C&amp;lear History</source>
@@ -309,11 +309,11 @@
     </message>
     <message>
         <source>Size the selection</source>
-        <translation>Auswahl in der Größe ändern</translation>
+        <translation>Größe der Auswahl ändern</translation>
     </message>
     <message>
         <source>Drag a square beside it</source>
-        <translation>Ein Quadrat daneben ziehen</translation>
+        <translation>Ein Quadrat an ihrem Rand ziehen</translation>
     </message>
     <message>
         <source>Move the selection</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Drag its size</source>
-        <translation>Ihre Größenangabe ziehen</translation>
+        <translation>Das Schild mit ihrer Größe ziehen</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>Resize Selection</source>
-        <translation>Auswahlgröße ändern</translation>
+        <translation>Größe der Auswahl ändern</translation>
     </message>
     <message>
         <source>Right by %1 pt</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>RotateImageByMousedragg</source>
-        <translation>Ziehen, um das Bild zu drehen. Umschalttaste rastet bei 15° ein, Doppelklick setzt auf 0°.</translation>
+        <translation>Ziehen, um das Bild zu drehen. Mit der Umschalttaste rastet es alle 15° ein, ein Doppelklick setzt es auf 0°.</translation>
     </message>
     <message>
         <source>SVG image</source>
@@ -501,11 +501,11 @@
     </message>
     <message>
         <source>Scroll sideways</source>
-        <translation>Seitwärts rollen</translation>
+        <translation>Seitwärts scrollen</translation>
     </message>
     <message>
         <source>Scroll up and down</source>
-        <translation>Auf und ab rollen</translation>
+        <translation>Auf und ab scrollen</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
-        <translation>Ausgewählt von %1, %2 bis %3, %4: %5 mal %6 Punkt.</translation>
+        <translation>Ausgewählt von %1; %2 bis %3; %4: %5 mal %6 Punkt.</translation>
     </message>
     <message>
         <source>Selected range of image data is written or displayed.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Close When Finished</source>
-        <translation>Nach Abschluss schließen</translation>
+        <translation>Danach schließen</translation>
     </message>
     <message>
         <source>Stop and Close</source>
@@ -569,11 +569,11 @@
     </message>
     <message>
         <source>“%1” exists already. Do you want to replace it?</source>
-        <translation>„%1“ gibt es bereits. Soll es ersetzt werden?</translation>
+        <translation>„%1“ gibt es bereits. Möchten Sie die Datei ersetzen?</translation>
     </message>
     <message>
         <source>The file has changed on disk.</source>
-        <translation>Die Datei hat sich geändert.</translation>
+        <translation>Die Datei auf dem Datenträger hat sich geändert.</translation>
     </message>
     <message>
         <source>The picture cannot be shown.</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>The picture could not be copied. The clipboard holds what it held before.</source>
-        <translation>Das Bild konnte nicht kopiert werden. Die Zwischenablage enthält, was sie vorher enthielt.</translation>
+        <translation>Das Bild konnte nicht kopiert werden. Die Zwischenablage enthält noch, was sie vorher enthielt.</translation>
     </message>
     <message>
         <source>The range of the selection or visible rect are copied onto the paste board.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>The selection starts at %1, %2.</source>
-        <translation>Die Auswahl beginnt bei %1, %2.</translation>
+        <translation>Die Auswahl beginnt bei %1; %2.</translation>
     </message>
     <message>
         <source>There is not enough memory for this</source>
@@ -649,7 +649,7 @@
     </message>
     <message>
         <source>What it holds will be lost.</source>
-        <translation>Ihr Inhalt geht verloren.</translation>
+        <translation>Ihr bisheriger Inhalt geht verloren.</translation>
     </message>
     <message>
         <source>Wider by %1 pt</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>Is the preview added the occasion where it writes out?</source>
-        <translation>Soll beim Schreiben eine Vorschau hinzugefügt werden?</translation>
+        <translation>Soll der Datei eine Vorschau für Programme hinzugefügt werden, die kein EPS zeichnen können?</translation>
     </message>
     <message>
         <source>With preview</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Still working: wait, or stop and show what there is.</source>
-        <translation>Noch in Arbeit: warten, oder anhalten und zeigen, was da ist.</translation>
+        <translation>Noch in Arbeit: Sie können warten, oder anhalten und sehen, was schon da ist.</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -1361,7 +1361,7 @@
     </message>
     <message>
         <source>Checking…</source>
-        <translation>Wird geprüft …</translation>
+        <translation>Wird geprüft …</translation>
     </message>
     <message>
         <source>What the picture is for</source>
@@ -1389,7 +1389,7 @@
     </message>
     <message>
         <source>From a File…</source>
-        <translation>Aus einer Datei …</translation>
+        <translation>Aus einer Datei …</translation>
     </message>
     <message>
         <source>Findings</source>
@@ -1405,11 +1405,11 @@
     </message>
     <message>
         <source>Repair…</source>
-        <translation>Reparieren …</translation>
+        <translation>Reparieren …</translation>
     </message>
     <message>
         <source>Repair All…</source>
-        <translation>Alles reparieren …</translation>
+        <translation>Alles reparieren …</translation>
     </message>
     <message>
         <source>Writes a mended copy of the file</source>
@@ -1457,7 +1457,7 @@
     </message>
     <message>
         <source>at %1, %2 pt</source>
-        <translation>bei %1, %2 pt</translation>
+        <translation>bei %1; %2 pt</translation>
     </message>
     <message>
         <source>The check was stopped.</source>
@@ -1497,7 +1497,7 @@
     </message>
     <message>
         <source>As it is</source>
-        <translation>Wie sie ist</translation>
+        <translation>Unverändert</translation>
     </message>
     <message>
         <source>Made anew</source>
@@ -1509,7 +1509,7 @@
     </message>
     <message>
         <source>Repairing…</source>
-        <translation>Wird repariert …</translation>
+        <translation>Wird repariert …</translation>
     </message>
     <message>
         <source>Nothing had to be changed.</source>
@@ -1517,11 +1517,11 @@
     </message>
     <message>
         <source>This stays as it is:</source>
-        <translation>Das bleibt, wie es ist:</translation>
+        <translation>Folgendes bleibt, wie es ist:</translation>
     </message>
     <message>
         <source>“%1” is written.</source>
-        <translation>„%1“ ist geschrieben.</translation>
+        <translation>„%1“ wurde geschrieben.</translation>
     </message>
     <message>
         <source>Open It</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>The program lies in a wrapping of another system</source>
-        <translation>Das Programm liegt in einer Verpackung eines anderen Systems</translation>
+        <translation>Das Programm steckt in einer Verpackung eines anderen Systems</translation>
     </message>
     <message>
         <source>A section of the binary header lies outside the file</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>The first line does not declare EPSF</source>
-        <translation>Die erste Zeile erklärt die Datei nicht zu EPSF</translation>
+        <translation>In der ersten Zeile fehlt die Angabe EPSF</translation>
     </message>
     <message>
         <source>The first line declares a version that does not exist</source>
@@ -1593,7 +1593,7 @@
     </message>
     <message>
         <source>%%BoundingBox holds numbers that are not whole</source>
-        <translation>%%BoundingBox enthält Zahlen, die nicht ganz sind</translation>
+        <translation>%%BoundingBox enthält Zahlen, die keine ganzen sind</translation>
     </message>
     <message>
         <source>%%BoundingBox does not enclose %%HiResBoundingBox, or is far larger</source>
@@ -1601,7 +1601,7 @@
     </message>
     <message>
         <source>Ink lies outside the bounding box</source>
-        <translation>Farbe liegt außerhalb des Begrenzungsrahmens</translation>
+        <translation>Außerhalb des Begrenzungsrahmens ist etwas gezeichnet</translation>
     </message>
     <message>
         <source>The bounding box is larger than the ink</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>More ink in one place than the profile allows</source>
-        <translation>Mehr Farbe an einer Stelle, als das Profil erlaubt</translation>
+        <translation>An einer Stelle mehr Farbauftrag, als das Profil erlaubt</translation>
     </message>
     <message>
         <source>White that overprints vanishes</source>
@@ -1729,7 +1729,7 @@
     </message>
     <message>
         <source>An image has fewer pixels an inch than the profile asks for</source>
-        <translation>Ein Bild hat weniger Pixel je Zoll, als das Profil verlangt</translation>
+        <translation>Ein Bild hat weniger Pixel pro Zoll, als das Profil verlangt</translation>
     </message>
     <message>
         <source>Something is drawn outside the page's box</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message>
         <source>Its permissions forbid printing or changing it</source>
-        <translation>Seine Rechte verbieten das Drucken oder Ändern</translation>
+        <translation>Seine Berechtigungen verbieten das Drucken oder Ändern</translation>
     </message>
     <message>
         <source>It claims to keep a standard</source>
@@ -1781,15 +1781,15 @@
     </message>
     <message>
         <source>repair takes the program out</source>
-        <translation>Reparieren holt das Programm heraus</translation>
+        <translation>Die Reparatur entnimmt das Programm</translation>
     </message>
     <message>
         <source>repair writes the header anew</source>
-        <translation>Reparieren schreibt den Kopf neu</translation>
+        <translation>Die Reparatur schreibt den Kopf neu</translation>
     </message>
     <message>
         <source>repair leaves them out</source>
-        <translation>Reparieren lässt sie weg</translation>
+        <translation>Die Reparatur lässt sie weg</translation>
     </message>
     <message>
         <source>fetch the file again</source>
@@ -1797,31 +1797,31 @@
     </message>
     <message>
         <source>repair writes it</source>
-        <translation>Reparieren schreibt sie</translation>
+        <translation>Die Reparatur schreibt sie</translation>
     </message>
     <message>
         <source>repair writes the versions 3.0</source>
-        <translation>Reparieren schreibt die Versionen 3.0</translation>
+        <translation>Die Reparatur schreibt die Versionen 3.0</translation>
     </message>
     <message>
         <source>repair computes it</source>
-        <translation>Reparieren berechnet ihn</translation>
+        <translation>Die Reparatur berechnet ihn</translation>
     </message>
     <message>
         <source>repair writes whole numbers</source>
-        <translation>Reparieren schreibt ganze Zahlen</translation>
+        <translation>Die Reparatur schreibt ganze Zahlen</translation>
     </message>
     <message>
         <source>repair computes both</source>
-        <translation>Reparieren berechnet beide</translation>
+        <translation>Die Reparatur berechnet beide</translation>
     </message>
     <message>
         <source>write the file again from the program that made it</source>
-        <translation>Die Datei aus dem Programm, das sie erzeugt hat, neu schreiben</translation>
+        <translation>Die Datei mit dem Programm neu schreiben, das sie erzeugt hat</translation>
     </message>
     <message>
         <source>repair puts it in</source>
-        <translation>Reparieren fügt es ein</translation>
+        <translation>Die Reparatur fügt es ein</translation>
     </message>
     <message>
         <source>write the file again as EPS</source>
@@ -1833,11 +1833,11 @@
     </message>
     <message>
         <source>repair puts those of the header in order</source>
-        <translation>Reparieren ordnet die des Kopfes</translation>
+        <translation>Die Reparatur ordnet die des Kopfes</translation>
     </message>
     <message>
         <source>most readers take them</source>
-        <translation>Die meisten Leser nehmen sie an</translation>
+        <translation>Die meisten Programme kommen damit zurecht</translation>
     </message>
     <message>
         <source>declare %%DocumentData: Binary</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>repair makes one</source>
-        <translation>Reparieren erstellt eine</translation>
+        <translation>Die Reparatur erstellt eine</translation>
     </message>
     <message>
         <source>embed the font</source>
@@ -1873,7 +1873,7 @@
     </message>
     <message>
         <source>let it knock out</source>
-        <translation>Aussparen lassen</translation>
+        <translation>Es aussparen lassen</translation>
     </message>
     <message>
         <source>let black text overprint</source>
@@ -1881,7 +1881,7 @@
     </message>
     <message>
         <source>flatten it where the printer asks for it</source>
-        <translation>Reduzieren, wo die Druckerei es verlangt</translation>
+        <translation>Sie reduzieren, wo die Druckerei es verlangt</translation>
     </message>
     <message>
         <source>draw them thicker</source>
@@ -1889,7 +1889,7 @@
     </message>
     <message>
         <source>place it smaller, or with more pixels</source>
-        <translation>Es kleiner oder mit mehr Pixeln platzieren</translation>
+        <translation>Es kleiner platzieren oder mit mehr Pixeln versehen</translation>
     </message>
     <message>
         <source>enlarge the box, or leave it out</source>
@@ -1921,7 +1921,7 @@
     </message>
     <message>
         <source>draw the effect, or accept an image</source>
-        <translation>Den Effekt zeichnen oder ein Bild hinnehmen</translation>
+        <translation>Den Effekt zeichnen oder ein Rasterbild hinnehmen</translation>
     </message>
     <message>
         <source>give width and height in mm, pt or in</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>Find in P&amp;icture…</source>
-        <translation>Im Bil&amp;d suchen …</translation>
+        <translation>Im Bil&amp;d suchen …</translation>
     </message>
     <message>
         <source>The text of the picture cannot be read.</source>
@@ -1993,7 +1993,7 @@
     </message>
     <message>
         <source>Ink</source>
-        <translation>Farbe</translation>
+        <translation>Druckfarbe</translation>
     </message>
     <message>
         <source>Coverage</source>
@@ -2005,15 +2005,15 @@
     </message>
     <message>
         <source>Only This Ink</source>
-        <translation>Nur diese Farbe</translation>
+        <translation>Nur diese Druckfarbe</translation>
     </message>
     <message>
         <source>All Inks</source>
-        <translation>Alle Farben</translation>
+        <translation>Alle Druckfarben</translation>
     </message>
     <message>
         <source>Inks as grey plates</source>
-        <translation>Farben als graue Auszüge</translation>
+        <translation>Druckfarben als graue Auszüge</translation>
     </message>
     <message>
         <source>The picture is separated into plates: %1</source>
@@ -2037,27 +2037,27 @@
     </message>
     <message>
         <source>Mark ink above</source>
-        <translation>Farbe markieren über</translation>
+        <translation>Farbauftrag markieren über</translation>
     </message>
     <message>
         <source>Limit of all inks together</source>
-        <translation>Grenze für alle Farben zusammen</translation>
+        <translation>Grenze für alle Druckfarben zusammen</translation>
     </message>
     <message>
         <source>The page as its inks print it</source>
-        <translation>Die Seite, wie ihre Farben sie drucken</translation>
+        <translation>Die Seite, wie ihre Druckfarben sie drucken</translation>
     </message>
     <message>
         <source>Most ink in one place: %1</source>
-        <translation>Meiste Farbe an einer Stelle: %1</translation>
+        <translation>Höchster Farbauftrag an einer Stelle: %1</translation>
     </message>
     <message>
         <source>All inks under the pointer: %1</source>
-        <translation>Alle Farben unter dem Zeiger: %1</translation>
+        <translation>Alle Druckfarben unter dem Zeiger: %1</translation>
     </message>
     <message>
         <source>The page is being separated into its inks…</source>
-        <translation>Die Seite wird in ihre Farben zerlegt …</translation>
+        <translation>Die Seite wird in ihre Druckfarben zerlegt …</translation>
     </message>
     <message>
         <source>There is no picture.</source>
@@ -2065,7 +2065,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>The shown page (%1)</source>
@@ -2109,7 +2109,7 @@
     </message>
     <message>
         <source>All De&amp;faults</source>
-        <translation>Alle &amp;Standards</translation>
+        <translation>Alle &amp;zurücksetzen</translation>
     </message>
     <message>
         <source>Keys of “%1”:</source>
@@ -2117,11 +2117,11 @@
     </message>
     <message>
         <source>Choose a command, and then press the keys that it shall have.</source>
-        <translation>Wählen Sie einen Befehl und drücken Sie dann die Tasten, die er haben soll.</translation>
+        <translation>Wählen Sie einen Befehl und drücken Sie dann die Tasten, die er bekommen soll.</translation>
     </message>
     <message>
         <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
-        <translation>„%1“ dient zum Tippen und zum Bewegen des Bildes. Nehmen Sie Strg oder Alt dazu, oder eine Funktionstaste.</translation>
+        <translation>„%1“ dient zum Tippen und zum Bewegen des Bildes. Nehmen Sie Strg oder Alt hinzu, oder wählen Sie eine Funktionstaste.</translation>
     </message>
     <message>
         <source>“%1” cannot be written, and nothing was changed.</source>
@@ -2510,11 +2510,11 @@
     </message>
     <message>
         <source>the PostScript header states no usable bounding box</source>
-        <translation>Der Kopf der PostScript-Datei nennt keine brauchbare BoundingBox.</translation>
+        <translation>Der Kopf der PostScript-Datei nennt keinen brauchbaren Begrenzungsrahmen.</translation>
     </message>
     <message>
         <source>the PostScript has no usable bounding box</source>
-        <translation>Das PostScript hat keine brauchbare BoundingBox.</translation>
+        <translation>Das PostScript hat keinen brauchbaren Begrenzungsrahmen.</translation>
     </message>
     <message>
         <source>the file holds no PostScript</source>
@@ -2534,7 +2534,7 @@
     </message>
     <message>
         <source>the file is cut off: %1 of the %2 bytes of %3 are missing</source>
-        <translation>Die Datei ist abgeschnitten: %1 von %2 Byte fehlen (%3).</translation>
+        <translation>Die Datei ist abgeschnitten: %1 von %2 Bytes fehlen (%3).</translation>
     </message>
     <message>
         <source>the file seems cut off: its PostScript stops before its end</source>
@@ -2730,11 +2730,11 @@
     </message>
     <message>
         <source>the encoding %1 is not known</source>
-        <translation>Die Zeichencodierung %1 ist nicht bekannt.</translation>
+        <translation>Die Kodierung %1 ist nicht bekannt.</translation>
     </message>
     <message>
         <source>the bytes are not text in the encoding %1</source>
-        <translation>Die Bytes sind kein Text in der Zeichencodierung %1.</translation>
+        <translation>Die Bytes sind kein Text in der Kodierung %1.</translation>
     </message>
     <message>
         <source>the document refers to other files, which are never loaded (references: %1)</source>
@@ -2746,7 +2746,7 @@
     </message>
     <message>
         <source>the document is animated and is shown as it stands at rest</source>
-        <translation>Das Dokument ist animiert und wird in Ruhe gezeigt.</translation>
+        <translation>Das Dokument ist animiert und wird im Ruhezustand gezeigt.</translation>
     </message>
     <message>
         <source>the font %1 is missing, another stands in for it</source>
@@ -2818,7 +2818,7 @@
     </message>
     <message>
         <source>too many files are open for another picture</source>
-        <translation>Es sind zu viele Dateien offen für ein weiteres Bild.</translation>
+        <translation>Für ein weiteres Bild sind zu viele Dateien geöffnet.</translation>
     </message>
     <message>
         <source>the picture process ended without an answer</source>
@@ -2934,7 +2934,7 @@
     </message>
     <message>
         <source>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</source>
-        <translation>Bei %1 dpi hat eine Platte %2 Millionen Pixel; höchstens %3 Millionen sind möglich.</translation>
+        <translation>Bei %1 dpi hat eine Druckplatte %2 Millionen Pixel; höchstens %3 Millionen sind möglich.</translation>
     </message>
     <message>
         <source>the print service cannot be reached</source>
@@ -2950,7 +2950,7 @@
     </message>
     <message>
         <source>no printer is the default one</source>
-        <translation>Kein Drucker ist als Standard eingestellt.</translation>
+        <translation>Kein Drucker ist als Standarddrucker eingestellt.</translation>
     </message>
     <message>
         <source>there is no printer named “%1”</source>
@@ -3010,7 +3010,7 @@
     </message>
     <message>
         <source>Too many open files</source>
-        <translation>Es sind zu viele Dateien offen.</translation>
+        <translation>Es sind zu viele Dateien geöffnet.</translation>
     </message>
     <message>
         <source>its PostScript</source>
@@ -3082,7 +3082,7 @@
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
-        <translation>Manche Schrift bleibt Umriss: Sie ist Linie oder Beschnitt, oder ihre Schriftart darf oder kann nicht eingebettet werden.</translation>
+        <translation>Mancher Text bleibt Umriss: Er dient als Linie oder Beschneidung, oder seine Schrift darf oder kann nicht eingebettet werden.</translation>
     </message>
     <message>
         <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
@@ -3110,7 +3110,7 @@
     </message>
     <message>
         <source>it draws nothing and states no bounding box</source>
-        <translation>Sie zeichnet nichts und nennt keine BoundingBox.</translation>
+        <translation>Sie zeichnet nichts und nennt keinen Begrenzungsrahmen.</translation>
     </message>
     <message>
         <source>it cannot be mended: %1</source>
@@ -3118,11 +3118,11 @@
     </message>
     <message>
         <source>the program was taken out of %1</source>
-        <translation>Das Programm wurde aus %1 herausgenommen.</translation>
+        <translation>Das Programm wurde aus %1 entnommen.</translation>
     </message>
     <message>
         <source>the program was taken out of its binary file</source>
-        <translation>Das Programm wurde aus seiner binären Datei herausgenommen.</translation>
+        <translation>Das Programm wurde aus seiner binären Datei entnommen.</translation>
     </message>
     <message>
         <source>the preview was left out</source>
@@ -3130,7 +3130,7 @@
     </message>
     <message>
         <source>the Windows metafile was left out</source>
-        <translation>Das Windows-Metafile wurde weggelassen.</translation>
+        <translation>Die Windows-Metadatei wurde weggelassen.</translation>
     </message>
     <message>
         <source>a preview of %1 by %2 pixels was made</source>
@@ -3162,7 +3162,7 @@
     </message>
     <message>
         <source>the bounding box is %1 (%2)</source>
-        <translation>Die BoundingBox ist %1 (%2).</translation>
+        <translation>Der Begrenzungsrahmen ist %1 (%2).</translation>
     </message>
     <message>
         <source>%1 was left out, because it stood out of order</source>
@@ -3190,11 +3190,11 @@
     </message>
     <message>
         <source>the document has text of more than %1 units in size</source>
-        <translation>Das Dokument hat Schrift von mehr als %1 Einheiten Größe.</translation>
+        <translation>Das Dokument hat Text von mehr als %1 Einheiten Größe.</translation>
     </message>
     <message>
         <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
-        <translation>Die Platten der Seite haben mehr Pixel, als möglich sind; eine kleinere Auflösung hilft.</translation>
+        <translation>Die Druckplatten der Seite haben mehr Pixel, als möglich sind; eine niedrigere Auflösung hilft.</translation>
     </message>
     <message>
         <source>Ghostscript did not separate the page</source>
@@ -3250,7 +3250,7 @@
     </message>
     <message>
         <source>small black text does not overprint</source>
-        <translation>Kleine schwarze Schrift überdruckt nicht.</translation>
+        <translation>Kleiner schwarzer Text überdruckt nicht.</translation>
     </message>
     <message>
         <source>the document is encrypted</source>
@@ -3278,7 +3278,7 @@
     </message>
     <message>
         <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
-        <translation>%%BoundingBox enthält „%1“; das sind nicht lauter ganze Zahlen.</translation>
+        <translation>%%BoundingBox enthält „%1“; das sind nicht durchweg ganze Zahlen.</translation>
     </message>
     <message>
         <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
@@ -3298,19 +3298,19 @@
     </message>
     <message>
         <source>the bounding box %1 has no area</source>
-        <translation>Die BoundingBox %1 hat keine Fläche.</translation>
+        <translation>Der Begrenzungsrahmen %1 hat keine Fläche.</translation>
     </message>
     <message>
         <source>nothing but white is drawn inside the bounding box</source>
-        <translation>Innerhalb der BoundingBox wird nur Weiß gezeichnet.</translation>
+        <translation>Innerhalb des Begrenzungsrahmens wird nur Weiß gezeichnet.</translation>
     </message>
     <message>
         <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
-        <translation>Die BoundingBox %1 schneidet die Zeichnung ab, die %2 pt darüber hinausreicht: %3.</translation>
+        <translation>Der Begrenzungsrahmen %1 schneidet die Zeichnung ab, die %2 pt darüber hinausreicht: %3.</translation>
     </message>
     <message>
         <source>the bounding box %1 is more than twice as large as the ink: %2</source>
-        <translation>Die BoundingBox %1 ist mehr als doppelt so groß wie die Zeichnung: %2.</translation>
+        <translation>Der Begrenzungsrahmen %1 ist mehr als doppelt so groß wie die Zeichnung: %2.</translation>
     </message>
     <message>
         <source>the %1 section ends at byte %2, the file at byte %3</source>
@@ -3334,11 +3334,11 @@
     </message>
     <message>
         <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
-        <translation>Die Vorschau ist %1 × %2 Pixel groß, die BoundingBox %3 × %4 Punkt.</translation>
+        <translation>Die Vorschau ist %1 × %2 Pixel groß, der Begrenzungsrahmen %3 × %4 Punkt.</translation>
     </message>
     <message>
         <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
-        <translation>Die Vorschau zeigt ein anderes Bild, als das Programm zeichnet (mittlerer Unterschied %1 %).</translation>
+        <translation>Die Vorschau zeigt ein anderes Bild, als das Programm zeichnet (mittlerer Unterschied %1 %).</translation>
     </message>
     <message>
         <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
@@ -3358,7 +3358,7 @@
     </message>
     <message>
         <source>lines of more than 255 bytes: %1, the first is line %2</source>
-        <translation>Zeilen mit mehr als 255 Byte: %1; die erste ist Zeile %2.</translation>
+        <translation>Zeilen mit mehr als 255 Bytes: %1; die erste ist Zeile %2.</translation>
     </message>
     <message>
         <source>lines end in %1 different ways</source>
@@ -3366,15 +3366,15 @@
     </message>
     <message>
         <source>a line is %1 pt thin, %2 pt are asked for</source>
-        <translation>Eine Linie ist %1 pt dünn; %2 pt sind gefordert.</translation>
+        <translation>Eine Linie ist nur %1 pt stark; %2 pt sind gefordert.</translation>
     </message>
     <message>
         <source>a text is %1 pt small, %2 pt are asked for</source>
-        <translation>Ein Text ist %1 pt klein; %2 pt sind gefordert.</translation>
+        <translation>Ein Text ist nur %1 pt groß; %2 pt sind gefordert.</translation>
     </message>
     <message>
         <source>a colour takes %1 % of ink, %2 % are allowed</source>
-        <translation>Eine Farbe braucht %1 % Druckfarbe; erlaubt sind %2 %.</translation>
+        <translation>Eine Farbe braucht %1 % Farbauftrag; erlaubt sind %2 %.</translation>
     </message>
     <message>
         <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
@@ -3394,7 +3394,7 @@
     </message>
     <message>
         <source>there is the spot ink %1</source>
-        <translation>Es gibt die Schmuckfarbe %1.</translation>
+        <translation>Die Schmuckfarbe %1 wird verwendet.</translation>
     </message>
     <message>
         <source>RGB colours stand beside CMYK colours</source>
@@ -3510,7 +3510,7 @@
     </message>
     <message>
         <source>the picture process cannot be waited for: too many files are open</source>
-        <translation>Auf den Bildprozess kann nicht gewartet werden: Es sind zu viele Dateien offen.</translation>
+        <translation>Auf den Bildprozess kann nicht gewartet werden: Es sind zu viele Dateien geöffnet.</translation>
     </message>
     <message>
         <source>no connection to a picture process could be made</source>

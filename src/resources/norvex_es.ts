@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>%1 What is shown was read before.</source>
-        <translation>%1 Lo que se ve se leyó antes.</translation>
+        <translation>%1 Se muestra lo que se leyó antes.</translation>
     </message>
     <message>
         <source>Bounding box:</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>D.M.S.</source>
-        <translation>Grados, minutos y segundos: 12.3045 es 12° 30′ 45″</translation>
+        <translation>Grados, minutos y segundos: 12,3045 es 12° 30′ 45″</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Encoding</source>
-        <translation>Codificación del texto fuente</translation>
+        <translation>Codificación del código fuente</translation>
     </message>
     <message>
         <source>Encoding:</source>
@@ -221,11 +221,11 @@
     </message>
     <message>
         <source>No larger than the picture, and smaller with it.</source>
-        <translation>Nunca mayor que la imagen, y menor con ella.</translation>
+        <translation>Nunca mayor que la imagen; se reduce con ella.</translation>
     </message>
     <message>
         <source>Chec&amp;kerboard behind new pictures</source>
-        <translation>&amp;Cuadrícula detrás de imágenes nuevas</translation>
+        <translation>&amp;Cuadrícula detrás de las imágenes nuevas</translation>
     </message>
     <message>
         <source>Shows where nothing is painted, instead of the background colour.</source>
@@ -233,11 +233,11 @@
     </message>
     <message>
         <source>Di&amp;m what is outside of the selection</source>
-        <translation>A&amp;tenuar lo que queda fuera de la selección</translation>
+        <translation>A&amp;tenuar el exterior de la selección</translation>
     </message>
     <message>
         <source>What is copied, saved or printed stands out.</source>
-        <translation>Lo que se copia, guarda o imprime destaca.</translation>
+        <translation>Resalta lo que se copia, guarda o imprime.</translation>
     </message>
     <message>
         <source>&amp;Unit of lengths:</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
-        <translation>De las coordenadas, del tamaño de una selección y de los números escritos.</translation>
+        <translation>Para las coordenadas, el tamaño de una selección y los números que se escriben.</translation>
     </message>
     <message>
         <source>Points</source>
@@ -265,11 +265,11 @@
     </message>
     <message>
         <source>&amp;Reload changed files by itself</source>
-        <translation>&amp;Recargar por sí mismo los archivos cambiados</translation>
+        <translation>&amp;Recargar automáticamente los archivos modificados</translation>
     </message>
     <message>
         <source>Otherwise a bar in the window asks.</source>
-        <translation>Si no, pregunta una barra en la ventana.</translation>
+        <translation>Si no, una barra en la ventana lo pregunta.</translation>
     </message>
     <message>
         <source>R&amp;emember files</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>Drag a square beside it</source>
-        <translation>Arrastrar un cuadrado junto a ella</translation>
+        <translation>Arrastrar un cuadrado de su borde</translation>
     </message>
     <message>
         <source>Move the selection</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Drag its size</source>
-        <translation>Arrastrar su tamaño</translation>
+        <translation>Arrastrar la etiqueta de su tamaño</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>RotateImageByMousedragg</source>
-        <translation>Arrastre para girar la imagen. Con Mayús se ajusta a 15°, un doble clic vuelve a 0°.</translation>
+        <translation>Arrastre para girar la imagen. Con Mayús avanza de 15° en 15°; con un doble clic vuelve a 0°.</translation>
     </message>
     <message>
         <source>SVG image</source>
@@ -501,11 +501,11 @@
     </message>
     <message>
         <source>Scroll sideways</source>
-        <translation>Desplazar a los lados</translation>
+        <translation>Desplazarse a los lados</translation>
     </message>
     <message>
         <source>Scroll up and down</source>
-        <translation>Desplazar arriba y abajo</translation>
+        <translation>Desplazarse arriba y abajo</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
-        <translation>Seleccionado desde %1, %2 hasta %3, %4: %5 por %6 puntos.</translation>
+        <translation>Selección de %1; %2 a %3; %4: %5 por %6 puntos.</translation>
     </message>
     <message>
         <source>Selected range of image data is written or displayed.</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>SourceCode</source>
-        <translation>Texto fuente del documento</translation>
+        <translation>Código fuente del documento</translation>
     </message>
     <message>
         <source>TIFF image</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The file was deleted or moved. What is shown was read before.</source>
-        <translation>El archivo se borró o se movió. Lo que se ve se leyó antes.</translation>
+        <translation>El archivo se borró o se movió. Se muestra lo que se leyó antes.</translation>
     </message>
     <message>
         <source>Preparing “%1” for printing…</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>The picture could not be copied. The clipboard holds what it held before.</source>
-        <translation>La imagen no se pudo copiar. El portapapeles contiene lo que contenía.</translation>
+        <translation>No se pudo copiar la imagen. El portapapeles conserva lo que contenía.</translation>
     </message>
     <message>
         <source>The range of the selection or visible rect are copied onto the paste board.</source>
@@ -597,11 +597,11 @@
     </message>
     <message>
         <source>The selection starts at %1, %2.</source>
-        <translation>La selección empieza en %1, %2.</translation>
+        <translation>La selección empieza en %1; %2.</translation>
     </message>
     <message>
         <source>There is not enough memory for this</source>
-        <translation>No hay memoria suficiente para esto</translation>
+        <translation>No hay suficiente memoria para esto</translation>
     </message>
     <message>
         <source>This could not be done.</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>ViewBox</source>
-        <translation>View box o límites de la imagen, en sus propias unidades</translation>
+        <translation>viewBox o límites de la imagen, en sus propias unidades</translation>
     </message>
     <message>
         <source>What it holds will be lost.</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>Is the preview added the occasion where it writes out?</source>
-        <translation>¿Añadir una vista previa al escribir el archivo?</translation>
+        <translation>¿Añadir al archivo una vista previa para los programas que no pueden dibujar EPS?</translation>
     </message>
     <message>
         <source>With preview</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>“%1” was open then, and may be the reason.</source>
-        <translation>«%1» estaba abierto entonces y puede ser la causa.</translation>
+        <translation>«%1» estaba abierto en ese momento y puede ser la causa.</translation>
     </message>
     <message>
         <source>Do Not Open</source>
@@ -953,7 +953,7 @@
     </message>
     <message>
         <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
-        <translation>Había %1 archivos abiertos. «%2» fue el último que se usó y puede ser la causa.</translation>
+        <translation>En ese momento había %1 archivos abiertos. «%2» fue el último que se usó y puede ser la causa.</translation>
     </message>
     <message>
         <source>Open the Others</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Remember Files</source>
-        <translation>Recordar archivos</translation>
+        <translation>Recordar los archivos</translation>
     </message>
     <message>
         <source>Search the manual</source>
@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>Zoom at the pointer</source>
-        <translation>Ampliar en el puntero</translation>
+        <translation>Ampliar o reducir en el puntero</translation>
     </message>
     <message>
         <source>Ctrl + Wheel</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>%1 What is shown is what it had drawn until then.</source>
-        <translation>%1 Lo que se ve es lo que se había dibujado hasta entonces.</translation>
+        <translation>%1 Se muestra lo que se había dibujado hasta entonces.</translation>
     </message>
     <message>
         <source>How the documents that it opens are confined:</source>
@@ -1061,15 +1061,15 @@
     </message>
     <message>
         <source>The encoding in which comments and source text are read</source>
-        <translation>La codificación con que se leen los comentarios y el texto fuente</translation>
+        <translation>La codificación con que se leen los comentarios y el código fuente</translation>
     </message>
     <message>
         <source>The source is not valid in %1.</source>
-        <translation>El texto fuente no es válido en %1.</translation>
+        <translation>El código fuente no es válido en %1.</translation>
     </message>
     <message>
         <source>A guess, as nothing says how the source is encoded. Read as %1:</source>
-        <translation>Es una suposición, pues nada indica cómo está codificado el texto fuente. Leído como %1:</translation>
+        <translation>Es una suposición, pues nada indica cómo está codificado el código fuente. Leído como %1:</translation>
     </message>
     <message>
         <source>Description:</source>
@@ -1385,7 +1385,7 @@
     </message>
     <message>
         <source>For an Archive</source>
-        <translation>Para un archivo histórico</translation>
+        <translation>Para archivar</translation>
     </message>
     <message>
         <source>From a File…</source>
@@ -1397,7 +1397,7 @@
     </message>
     <message>
         <source>Nothing was found.</source>
-        <translation>No se encontró nada.</translation>
+        <translation>No se encontró ningún problema.</translation>
     </message>
     <message>
         <source>%1 more are not shown.</source>
@@ -1457,7 +1457,7 @@
     </message>
     <message>
         <source>at %1, %2 pt</source>
-        <translation>en %1, %2 pt</translation>
+        <translation>en %1; %2 pt</translation>
     </message>
     <message>
         <source>The check was stopped.</source>
@@ -1497,11 +1497,11 @@
     </message>
     <message>
         <source>As it is</source>
-        <translation>Tal como está</translation>
+        <translation>Sin cambios</translation>
     </message>
     <message>
         <source>Made anew</source>
-        <translation>Hecha de nuevo</translation>
+        <translation>Creada de nuevo</translation>
     </message>
     <message>
         <source>Left out</source>
@@ -1517,11 +1517,11 @@
     </message>
     <message>
         <source>This stays as it is:</source>
-        <translation>Esto queda como está:</translation>
+        <translation>Esto queda como estaba:</translation>
     </message>
     <message>
         <source>“%1” is written.</source>
-        <translation>«%1» está escrito.</translation>
+        <translation>Se escribió «%1».</translation>
     </message>
     <message>
         <source>Open It</source>
@@ -1581,7 +1581,7 @@
     </message>
     <message>
         <source>%%BoundingBox: (atend) without a box at the end</source>
-        <translation>%%BoundingBox: (atend) sin recuadro al final</translation>
+        <translation>%%BoundingBox: (atend) sin cuadro al final</translation>
     </message>
     <message>
         <source>%%BoundingBox does not hold four numbers</source>
@@ -1589,7 +1589,7 @@
     </message>
     <message>
         <source>The bounding box is empty</source>
-        <translation>El recuadro delimitador está vacío</translation>
+        <translation>El cuadro delimitador está vacío</translation>
     </message>
     <message>
         <source>%%BoundingBox holds numbers that are not whole</source>
@@ -1601,11 +1601,11 @@
     </message>
     <message>
         <source>Ink lies outside the bounding box</source>
-        <translation>Hay tinta fuera del recuadro delimitador</translation>
+        <translation>Hay algo dibujado fuera del cuadro delimitador</translation>
     </message>
     <message>
         <source>The bounding box is larger than the ink</source>
-        <translation>El recuadro delimitador es mayor que lo dibujado</translation>
+        <translation>El cuadro delimitador es mayor que lo dibujado</translation>
     </message>
     <message>
         <source>The program draws nothing that is not white</source>
@@ -1625,7 +1625,7 @@
     </message>
     <message>
         <source>An operator that has no place in an EPS file</source>
-        <translation>Un operador que no cabe en un archivo EPS</translation>
+        <translation>Un operador impropio de un archivo EPS</translation>
     </message>
     <message>
         <source>Operators of a higher language level than the comments declare</source>
@@ -1657,7 +1657,7 @@
     </message>
     <message>
         <source>The file needs fonts that it does not bring</source>
-        <translation>El archivo necesita tipos de letra que no trae</translation>
+        <translation>El archivo necesita tipos de letra que no incluye</translation>
     </message>
     <message>
         <source>There is no preview</source>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>The preview has another shape than the bounding box</source>
-        <translation>La vista previa no tiene la forma del recuadro delimitador</translation>
+        <translation>La vista previa no tiene la forma del cuadro delimitador</translation>
     </message>
     <message>
         <source>A font is neither in the file nor on this machine</source>
@@ -1713,11 +1713,11 @@
     </message>
     <message>
         <source>White that overprints vanishes</source>
-        <translation>El blanco que sobreimprime desaparece</translation>
+        <translation>El blanco en sobreimpresión desaparece</translation>
     </message>
     <message>
         <source>Black text that does not overprint</source>
-        <translation>Texto negro que no sobreimprime</translation>
+        <translation>Texto negro sin sobreimpresión</translation>
     </message>
     <message>
         <source>Transparency</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Something is drawn outside the page's box</source>
-        <translation>Algo está dibujado fuera del recuadro de la página</translation>
+        <translation>Hay algo dibujado fuera del cuadro de la página</translation>
     </message>
     <message>
         <source>The picture fits no column of the profile</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>A part of the page was not looked at</source>
-        <translation>Una parte de la página no se ha examinado</translation>
+        <translation>No se examinó una parte de la página</translation>
     </message>
     <message>
         <source>The file is damaged</source>
@@ -1761,7 +1761,7 @@
     </message>
     <message>
         <source>It claims PDF/X or PDF/A and has no output intent</source>
-        <translation>Declara PDF/X o PDF/A y no tiene propósito de salida</translation>
+        <translation>Declara PDF/X o PDF/A y no tiene intención de salida</translation>
     </message>
     <message>
         <source>It needs other files, which are never loaded</source>
@@ -1781,15 +1781,15 @@
     </message>
     <message>
         <source>repair takes the program out</source>
-        <translation>Reparar extrae el programa</translation>
+        <translation>La reparación extrae el programa</translation>
     </message>
     <message>
         <source>repair writes the header anew</source>
-        <translation>Reparar reescribe la cabecera</translation>
+        <translation>La reparación reescribe la cabecera</translation>
     </message>
     <message>
         <source>repair leaves them out</source>
-        <translation>Reparar los omite</translation>
+        <translation>La reparación los omite</translation>
     </message>
     <message>
         <source>fetch the file again</source>
@@ -1797,23 +1797,23 @@
     </message>
     <message>
         <source>repair writes it</source>
-        <translation>Reparar la escribe</translation>
+        <translation>La reparación la escribe</translation>
     </message>
     <message>
         <source>repair writes the versions 3.0</source>
-        <translation>Reparar escribe las versiones 3.0</translation>
+        <translation>La reparación escribe las versiones 3.0</translation>
     </message>
     <message>
         <source>repair computes it</source>
-        <translation>Reparar lo calcula</translation>
+        <translation>La reparación lo calcula</translation>
     </message>
     <message>
         <source>repair writes whole numbers</source>
-        <translation>Reparar escribe números enteros</translation>
+        <translation>La reparación escribe números enteros</translation>
     </message>
     <message>
         <source>repair computes both</source>
-        <translation>Reparar calcula ambos</translation>
+        <translation>La reparación calcula ambos</translation>
     </message>
     <message>
         <source>write the file again from the program that made it</source>
@@ -1821,7 +1821,7 @@
     </message>
     <message>
         <source>repair puts it in</source>
-        <translation>Reparar lo añade</translation>
+        <translation>La reparación lo añade</translation>
     </message>
     <message>
         <source>write the file again as EPS</source>
@@ -1833,11 +1833,11 @@
     </message>
     <message>
         <source>repair puts those of the header in order</source>
-        <translation>Reparar ordena los de la cabecera</translation>
+        <translation>La reparación ordena los de la cabecera</translation>
     </message>
     <message>
         <source>most readers take them</source>
-        <translation>La mayoría de los lectores las aceptan</translation>
+        <translation>La mayoría de los programas las aceptan</translation>
     </message>
     <message>
         <source>declare %%DocumentData: Binary</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>repair makes one</source>
-        <translation>Reparar crea una</translation>
+        <translation>La reparación crea una</translation>
     </message>
     <message>
         <source>embed the font</source>
@@ -1861,7 +1861,7 @@
     </message>
     <message>
         <source>set the text larger</source>
-        <translation>Use un cuerpo de texto mayor</translation>
+        <translation>Use un texto más grande</translation>
     </message>
     <message>
         <source>convert the colours</source>
@@ -1873,11 +1873,11 @@
     </message>
     <message>
         <source>let it knock out</source>
-        <translation>Haga que cale</translation>
+        <translation>Quítele la sobreimpresión</translation>
     </message>
     <message>
         <source>let black text overprint</source>
-        <translation>Haga que el texto negro sobreimprima</translation>
+        <translation>Ponga el texto negro en sobreimpresión</translation>
     </message>
     <message>
         <source>flatten it where the printer asks for it</source>
@@ -1893,7 +1893,7 @@
     </message>
     <message>
         <source>enlarge the box, or leave it out</source>
-        <translation>Amplíe el recuadro u omítalo</translation>
+        <translation>Amplíe el cuadro u omítalo</translation>
     </message>
     <message>
         <source>draw it for the column's width</source>
@@ -1913,7 +1913,7 @@
     </message>
     <message>
         <source>add the output intent</source>
-        <translation>Añada el propósito de salida</translation>
+        <translation>Añada la intención de salida</translation>
     </message>
     <message>
         <source>embed them</source>
@@ -1933,7 +1933,7 @@
     </message>
     <message>
         <source>The password is wrong.</source>
-        <translation>La contraseña no es correcta.</translation>
+        <translation>La contraseña es incorrecta.</translation>
     </message>
     <message>
         <source>The document is protected by a password.</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message>
         <source>Keep text as text, with its fonts</source>
-        <translation>Conservar el texto como texto, con sus fuentes</translation>
+        <translation>Conservar el texto como texto, con sus tipos de letra</translation>
     </message>
     <message>
         <source>Show the inks in the picture</source>
@@ -2037,7 +2037,7 @@
     </message>
     <message>
         <source>Mark ink above</source>
-        <translation>Marcar tinta por encima de</translation>
+        <translation>Marcar la tinta por encima de</translation>
     </message>
     <message>
         <source>Limit of all inks together</source>
@@ -2065,7 +2065,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>The shown page (%1)</source>
@@ -2109,7 +2109,7 @@
     </message>
     <message>
         <source>All De&amp;faults</source>
-        <translation>Todo pre&amp;determinado</translation>
+        <translation>Restablecer &amp;todo</translation>
     </message>
     <message>
         <source>Keys of “%1”:</source>
@@ -2328,7 +2328,7 @@
     </message>
     <message>
         <source>Source text</source>
-        <translation>Texto fuente</translation>
+        <translation>Código fuente</translation>
     </message>
     <message>
         <source>Start of the selection</source>
@@ -2384,7 +2384,7 @@
     </message>
     <message>
         <source>What was noticed</source>
-        <translation>Lo que se notó</translation>
+        <translation>Observaciones</translation>
     </message>
     <message>
         <source>BoundingBox:</source>
@@ -2404,7 +2404,7 @@
     </message>
     <message>
         <source>Encoding of the source</source>
-        <translation>Codificación del texto fuente</translation>
+        <translation>Codificación del código fuente</translation>
     </message>
     <message>
         <source>About the encoding</source>
@@ -2412,7 +2412,7 @@
     </message>
     <message>
         <source>What the source seems to say</source>
-        <translation>Lo que parece decir el texto fuente</translation>
+        <translation>Lo que parece decir el código fuente</translation>
     </message>
 </context>
 <context>
@@ -2510,11 +2510,11 @@
     </message>
     <message>
         <source>the PostScript header states no usable bounding box</source>
-        <translation>La cabecera PostScript no indica ningún BoundingBox utilizable.</translation>
+        <translation>La cabecera PostScript no indica ningún cuadro delimitador utilizable.</translation>
     </message>
     <message>
         <source>the PostScript has no usable bounding box</source>
-        <translation>El PostScript no tiene ningún BoundingBox utilizable.</translation>
+        <translation>El PostScript no tiene ningún cuadro delimitador utilizable.</translation>
     </message>
     <message>
         <source>the file holds no PostScript</source>
@@ -2582,15 +2582,15 @@
     </message>
     <message>
         <source>there is no page %1; the document has %2</source>
-        <translation>No hay página %1; el documento tiene %2.</translation>
+        <translation>No existe la página %1; el documento tiene %2.</translation>
     </message>
     <message>
         <source>there is no page %1, the document has %2</source>
-        <translation>No hay página %1; el documento tiene %2.</translation>
+        <translation>No existe la página %1; el documento tiene %2.</translation>
     </message>
     <message>
         <source>page %1 is too far behind</source>
-        <translation>La página %1 está demasiado lejos.</translation>
+        <translation>La página %1 está demasiado atrás en el documento.</translation>
     </message>
     <message>
         <source>page %1 has no area</source>
@@ -2730,7 +2730,7 @@
     </message>
     <message>
         <source>the encoding %1 is not known</source>
-        <translation>La codificación %1 no se conoce.</translation>
+        <translation>No se conoce la codificación %1.</translation>
     </message>
     <message>
         <source>the bytes are not text in the encoding %1</source>
@@ -2750,11 +2750,11 @@
     </message>
     <message>
         <source>the font %1 is missing, another stands in for it</source>
-        <translation>Falta la fuente %1; otra la sustituye.</translation>
+        <translation>Falta el tipo de letra %1; otro lo sustituye.</translation>
     </message>
     <message>
         <source>the font %1 is missing, %2 stands in for it</source>
-        <translation>Falta la fuente %1; la sustituye %2.</translation>
+        <translation>Falta el tipo de letra %1; lo sustituye %2.</translation>
     </message>
     <message>
         <source>the picture was not ready within %1 seconds</source>
@@ -2778,7 +2778,7 @@
     </message>
     <message>
         <source>the picture nests deeper than can be drawn</source>
-        <translation>La imagen se anida más de lo que se puede dibujar.</translation>
+        <translation>La imagen tiene más niveles anidados de los que se pueden dibujar.</translation>
     </message>
     <message>
         <source>the picture is larger than the memory that it was granted</source>
@@ -2978,11 +2978,11 @@
     </message>
     <message>
         <source>there are no such pages: the document has %1</source>
-        <translation>No hay tales páginas: el documento tiene %1.</translation>
+        <translation>Esas páginas no existen: el documento tiene %1.</translation>
     </message>
     <message>
         <source>there are no such pages: the picture takes %1</source>
-        <translation>No hay tales páginas: la imagen ocupa %1.</translation>
+        <translation>Esas páginas no existen: la imagen ocupa %1.</translation>
     </message>
     <message>
         <source>the pages would take more than %1 sheets of paper</source>
@@ -3050,11 +3050,11 @@
     </message>
     <message>
         <source>a font cannot be taken over; another stands in for it</source>
-        <translation>Una fuente no se puede conservar; otra la sustituye.</translation>
+        <translation>Un tipo de letra no se puede conservar; otro lo sustituye.</translation>
     </message>
     <message>
         <source>the font %1 cannot be taken over; another stands in for it</source>
-        <translation>La fuente %1 no se puede conservar; otra la sustituye.</translation>
+        <translation>El tipo de letra %1 no se puede conservar; otro lo sustituye.</translation>
     </message>
     <message>
         <source>the source has no PostScript, so the file holds a preview and nothing else</source>
@@ -3082,11 +3082,11 @@
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
-        <translation>Parte del texto queda en contornos: es línea o recorte, o su fuente no puede o no debe incrustarse.</translation>
+        <translation>Parte del texto queda en contornos: sirve de línea o de recorte, o su tipo de letra no puede o no debe incrustarse.</translation>
     </message>
     <message>
         <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
-        <translation>El documento no dice qué son algunos caracteres: se muestran, pero ninguna búsqueda los encuentra.</translation>
+        <translation>El documento no dice qué significan algunos caracteres: se muestran, pero ninguna búsqueda los encuentra.</translation>
     </message>
     <message>
         <source>what is drawn through a filter (elements: %1) is held as an image</source>
@@ -3110,7 +3110,7 @@
     </message>
     <message>
         <source>it draws nothing and states no bounding box</source>
-        <translation>No dibuja nada y no indica ningún BoundingBox.</translation>
+        <translation>No dibuja nada y no indica ningún cuadro delimitador.</translation>
     </message>
     <message>
         <source>it cannot be mended: %1</source>
@@ -3158,11 +3158,11 @@
     </message>
     <message>
         <source>the box at the end of the file stands in its header</source>
-        <translation>El recuadro del final del archivo está en su cabecera.</translation>
+        <translation>El cuadro del final del archivo está en su cabecera.</translation>
     </message>
     <message>
         <source>the bounding box is %1 (%2)</source>
-        <translation>El BoundingBox es %1 (%2).</translation>
+        <translation>El cuadro delimitador es %1 (%2).</translation>
     </message>
     <message>
         <source>%1 was left out, because it stood out of order</source>
@@ -3230,15 +3230,15 @@
     </message>
     <message>
         <source>the font %1 is a Type 3 font</source>
-        <translation>La fuente %1 es de tipo 3.</translation>
+        <translation>El tipo de letra %1 es de tipo 3 (Type 3).</translation>
     </message>
     <message>
         <source>the font %1 is not embedded</source>
-        <translation>La fuente %1 no está incrustada.</translation>
+        <translation>El tipo de letra %1 no está incrustado.</translation>
     </message>
     <message>
         <source>the font %1 is embedded as a whole</source>
-        <translation>La fuente %1 está incrustada entera.</translation>
+        <translation>El tipo de letra %1 está incrustado entero.</translation>
     </message>
     <message>
         <source>there are RGB colours</source>
@@ -3246,11 +3246,11 @@
     </message>
     <message>
         <source>white overprints, and will vanish</source>
-        <translation>El blanco se sobreimprime y desaparecerá.</translation>
+        <translation>Hay blanco en sobreimpresión, que desaparecerá.</translation>
     </message>
     <message>
         <source>small black text does not overprint</source>
-        <translation>El texto negro pequeño no se sobreimprime.</translation>
+        <translation>El texto negro pequeño no está en sobreimpresión.</translation>
     </message>
     <message>
         <source>the document is encrypted</source>
@@ -3270,7 +3270,7 @@
     </message>
     <message>
         <source>a part of the page was not looked at</source>
-        <translation>Una parte de la página no se miró.</translation>
+        <translation>No se examinó una parte de la página.</translation>
     </message>
     <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
@@ -3278,7 +3278,7 @@
     </message>
     <message>
         <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
-        <translation>%%BoundingBox contiene «%1», que no son todos números enteros.</translation>
+        <translation>%%BoundingBox contiene «%1», y no todos son números enteros.</translation>
     </message>
     <message>
         <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
@@ -3298,19 +3298,19 @@
     </message>
     <message>
         <source>the bounding box %1 has no area</source>
-        <translation>El BoundingBox %1 no tiene superficie.</translation>
+        <translation>El cuadro delimitador %1 no tiene superficie.</translation>
     </message>
     <message>
         <source>nothing but white is drawn inside the bounding box</source>
-        <translation>Dentro del BoundingBox solo se dibuja blanco.</translation>
+        <translation>Dentro del cuadro delimitador solo se dibuja blanco.</translation>
     </message>
     <message>
         <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
-        <translation>El BoundingBox %1 corta el dibujo, que lo sobrepasa en %2 pt: %3.</translation>
+        <translation>El cuadro delimitador %1 corta el dibujo, que lo sobrepasa en %2 pt: %3.</translation>
     </message>
     <message>
         <source>the bounding box %1 is more than twice as large as the ink: %2</source>
-        <translation>El BoundingBox %1 es más del doble de grande que el dibujo: %2.</translation>
+        <translation>El cuadro delimitador %1 es más del doble de grande que el dibujo: %2.</translation>
     </message>
     <message>
         <source>the %1 section ends at byte %2, the file at byte %3</source>
@@ -3330,15 +3330,15 @@
     </message>
     <message>
         <source>the file needs fonts that it does not bring: %1</source>
-        <translation>El archivo necesita fuentes que no incluye: %1.</translation>
+        <translation>El archivo necesita tipos de letra que no incluye: %1.</translation>
     </message>
     <message>
         <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
-        <translation>La vista previa mide %1 × %2 píxeles y el BoundingBox %3 × %4 puntos.</translation>
+        <translation>La vista previa mide %1 × %2 píxeles y el cuadro delimitador %3 × %4 puntos.</translation>
     </message>
     <message>
         <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
-        <translation>La vista previa muestra otra imagen que la que dibuja el programa (diferencia media: %1 %).</translation>
+        <translation>La vista previa muestra otra imagen que la que dibuja el programa (diferencia media: %1 %).</translation>
     </message>
     <message>
         <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
@@ -3366,15 +3366,15 @@
     </message>
     <message>
         <source>a line is %1 pt thin, %2 pt are asked for</source>
-        <translation>Una línea tiene %1 pt de grosor; se piden %2 pt.</translation>
+        <translation>Una línea solo tiene %1 pt de grosor; se piden %2 pt.</translation>
     </message>
     <message>
         <source>a text is %1 pt small, %2 pt are asked for</source>
-        <translation>Un texto mide %1 pt; se piden %2 pt.</translation>
+        <translation>Un texto solo mide %1 pt; se piden %2 pt.</translation>
     </message>
     <message>
         <source>a colour takes %1 % of ink, %2 % are allowed</source>
-        <translation>Un color lleva %1 % de tinta; se permite %2 %.</translation>
+        <translation>Un color lleva %1 % de tinta; se permite %2 %.</translation>
     </message>
     <message>
         <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
@@ -3386,7 +3386,7 @@
     </message>
     <message>
         <source>grey</source>
-        <translation>grises</translation>
+        <translation>gris</translation>
     </message>
     <message>
         <source>line art</source>
@@ -3394,7 +3394,7 @@
     </message>
     <message>
         <source>there is the spot ink %1</source>
-        <translation>Hay la tinta directa %1.</translation>
+        <translation>Se usa la tinta plana %1.</translation>
     </message>
     <message>
         <source>RGB colours stand beside CMYK colours</source>
@@ -3402,7 +3402,7 @@
     </message>
     <message>
         <source>its permissions forbid %1</source>
-        <translation>Sus permisos prohíben: %1.</translation>
+        <translation>Sus permisos no dejan %1.</translation>
     </message>
     <message>
         <source>it claims to keep %1</source>
@@ -3422,11 +3422,11 @@
     </message>
     <message>
         <source>something is drawn up to %1 pt outside the page</source>
-        <translation>Algo se dibuja hasta %1 pt fuera de la página.</translation>
+        <translation>Hay algo dibujado hasta %1 pt fuera de la página.</translation>
     </message>
     <message>
         <source>only the first %1 pages were looked at</source>
-        <translation>Solo se miraron las primeras %1 páginas.</translation>
+        <translation>Solo se examinaron las primeras %1 páginas.</translation>
     </message>
     <message>
         <source>the picture is %1 mm wide, columns are %2 mm</source>
@@ -3462,7 +3462,7 @@
     </message>
     <message>
         <source>%1 has no end</source>
-        <translation>%1 no tiene fin.</translation>
+        <translation>%1 no tiene final.</translation>
     </message>
     <message>
         <source>the embedded preview is malformed</source>

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Commands and their keys</source>
-        <translation>Les commandes et leurs touches</translation>
+        <translation>Commandes et leurs touches</translation>
     </message>
     <message>
         <source>Compressed SVG image (SVGZ)</source>
@@ -117,11 +117,11 @@
     </message>
     <message>
         <source>D.M.S.</source>
-        <translation>Degrés, minutes et secondes : 12.3045 signifie 12° 30′ 45″</translation>
+        <translation>Degrés, minutes et secondes : 12,3045 signifie 12° 30′ 45″</translation>
     </message>
     <message>
         <source>Dismiss</source>
-        <translation>Ignorer</translation>
+        <translation>Masquer</translation>
     </message>
     <message>
         <source>Down by %1 pt</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</source>
-        <translation>Faites glisser deux fois pour délimiter un rectangle. Faites-le glisser avec la touche Ctrl pour le donner à un autre programme comme fichier.</translation>
+        <translation>Faites glisser deux fois pour délimiter un rectangle. Faites-le glisser avec la touche Ctrl enfoncée pour le transmettre à un autre programme comme fichier.</translation>
     </message>
     <message>
         <source>Drawing…</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>No larger than the picture, and smaller with it.</source>
-        <translation>Jamais plus grande que l’image, et plus petite avec elle.</translation>
+        <translation>Jamais plus grande que l’image ; elle rétrécit avec elle.</translation>
     </message>
     <message>
         <source>Chec&amp;kerboard behind new pictures</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>Shows where nothing is painted, instead of the background colour.</source>
-        <translation>Montre où rien n’est peint, au lieu de la couleur de fond.</translation>
+        <translation>Montre les endroits où rien n’est peint, au lieu de la couleur d’arrière-plan.</translation>
     </message>
     <message>
         <source>Di&amp;m what is outside of the selection</source>
@@ -237,15 +237,15 @@
     </message>
     <message>
         <source>What is copied, saved or printed stands out.</source>
-        <translation>Ce qui est copié, enregistré ou imprimé ressort.</translation>
+        <translation>Met en évidence ce qui est copié, enregistré ou imprimé.</translation>
     </message>
     <message>
         <source>&amp;Unit of lengths:</source>
-        <translation>&amp;Unité de longueur :</translation>
+        <translation>&amp;Unité de longueur :</translation>
     </message>
     <message>
         <source>Of coordinates, of the size of a selection, and of typed numbers.</source>
-        <translation>Des coordonnées, de la taille d’une sélection et des nombres saisis.</translation>
+        <translation>Pour les coordonnées, la taille d’une sélection et les nombres saisis.</translation>
     </message>
     <message>
         <source>Points</source>
@@ -265,11 +265,11 @@
     </message>
     <message>
         <source>&amp;Reload changed files by itself</source>
-        <translation>&amp;Recharger de soi-même les fichiers modifiés</translation>
+        <translation>&amp;Recharger automatiquement les fichiers modifiés</translation>
     </message>
     <message>
         <source>Otherwise a bar in the window asks.</source>
-        <translation>Sinon, un bandeau dans la fenêtre pose la question.</translation>
+        <translation>Sinon, une barre dans la fenêtre pose la question.</translation>
     </message>
     <message>
         <source>R&amp;emember files</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
-        <translation>Fichiers récents et manière dont leurs images étaient affichées. Désactiver oublie tout.</translation>
+        <translation>Les fichiers récents et la manière dont leurs images étaient affichées. Si vous le désactivez, tout est oublié.</translation>
     </message>
     <message>
         <source>C&amp;lear History</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>Colours:</source>
-        <translation>Couleurs :</translation>
+        <translation>Couleurs :</translation>
     </message>
     <message>
         <source>RGB for screens</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>Drag a square beside it</source>
-        <translation>Faire glisser un carré à côté</translation>
+        <translation>Faire glisser un carré sur son bord</translation>
     </message>
     <message>
         <source>Move the selection</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Drag its size</source>
-        <translation>Faire glisser sa taille affichée</translation>
+        <translation>Faire glisser l’étiquette de sa taille</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>OrderfrontColorWell</source>
-        <translation>Afficher le choix des couleurs</translation>
+        <translation>Afficher le sélecteur de couleurs</translation>
     </message>
     <message>
         <source>PDF document</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>RotateImageByMousedragg</source>
-        <translation>Faites glisser pour tourner l’image. Maj s’aligne sur 15°, un double clic remet à 0°.</translation>
+        <translation>Faites glisser pour tourner l’image. Maintenez Maj pour avancer par pas de 15°, double-cliquez pour revenir à 0°.</translation>
     </message>
     <message>
         <source>SVG image</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
-        <translation>Sélection de %1, %2 à %3, %4 : %5 sur %6 points.</translation>
+        <translation>Sélection de %1 ; %2 à %3 ; %4 : %5 sur %6 points.</translation>
     </message>
     <message>
         <source>Selected range of image data is written or displayed.</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>Close When Finished</source>
-        <translation>Fermer à la fin</translation>
+        <translation>Fermer une fois terminé</translation>
     </message>
     <message>
         <source>Stop and Close</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>The picture could not be copied. The clipboard holds what it held before.</source>
-        <translation>L’image n’a pas pu être copiée. Le presse-papiers contient ce qu’il contenait.</translation>
+        <translation>L’image n’a pas pu être copiée. Le contenu du presse-papiers reste inchangé.</translation>
     </message>
     <message>
         <source>The range of the selection or visible rect are copied onto the paste board.</source>
@@ -597,7 +597,7 @@
     </message>
     <message>
         <source>The selection starts at %1, %2.</source>
-        <translation>La sélection commence à %1, %2.</translation>
+        <translation>La sélection commence à %1 ; %2.</translation>
     </message>
     <message>
         <source>There is not enough memory for this</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>ViewBox</source>
-        <translation>View box ou limites de l’image, dans ses propres unités</translation>
+        <translation>viewBox ou limites de l’image, dans ses propres unités</translation>
     </message>
     <message>
         <source>What it holds will be lost.</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>Is the preview added the occasion where it writes out?</source>
-        <translation>Faut-il ajouter un aperçu en écrivant le fichier ?</translation>
+        <translation>Faut-il ajouter au fichier un aperçu pour les programmes qui ne savent pas dessiner l’EPS ?</translation>
     </message>
     <message>
         <source>With preview</source>
@@ -1005,7 +1005,7 @@
     </message>
     <message>
         <source>Take the selection to another program</source>
-        <translation>Porter la sélection dans un autre programme</translation>
+        <translation>Transmettre la sélection à un autre programme</translation>
     </message>
     <message>
         <source>Ctrl + Drag</source>
@@ -1037,7 +1037,7 @@
     </message>
     <message>
         <source>Format:</source>
-        <translation>Format :</translation>
+        <translation>Format :</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>%1 What is shown is what it had drawn until then.</source>
-        <translation>%1 Ce qui est affiché a été dessiné jusque-là.</translation>
+        <translation>%1 L’affichage montre ce qui était dessiné jusque-là.</translation>
     </message>
     <message>
         <source>How the documents that it opens are confined:</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Still working: wait, or stop and show what there is.</source>
-        <translation>Toujours en cours : attendre, ou arrêter et afficher ce qu’il y a.</translation>
+        <translation>Toujours en cours : vous pouvez attendre, ou arrêter et voir ce qui est déjà là.</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -1357,7 +1357,7 @@
     </message>
     <message>
         <source>Check Again</source>
-        <translation>Revérifier</translation>
+        <translation>Vérifier à nouveau</translation>
     </message>
     <message>
         <source>Checking…</source>
@@ -1385,7 +1385,7 @@
     </message>
     <message>
         <source>For an Archive</source>
-        <translation>Pour une archive</translation>
+        <translation>Pour l’archivage</translation>
     </message>
     <message>
         <source>From a File…</source>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>Findings</source>
-        <translation>Constats</translation>
+        <translation>Résultats de la vérification</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
@@ -1457,23 +1457,23 @@
     </message>
     <message>
         <source>at %1, %2 pt</source>
-        <translation>en %1, %2 pt</translation>
+        <translation>en %1 ; %2 pt</translation>
     </message>
     <message>
         <source>The check was stopped.</source>
-        <translation>Le contrôle a été arrêté.</translation>
+        <translation>La vérification a été arrêtée.</translation>
     </message>
     <message>
         <source>The file has changed while it was checked.</source>
-        <translation>Le fichier a changé pendant le contrôle.</translation>
+        <translation>Le fichier a changé pendant la vérification.</translation>
     </message>
     <message>
         <source>There is no file to check.</source>
-        <translation>Il n’y a aucun fichier à contrôler.</translation>
+        <translation>Il n’y a aucun fichier à vérifier.</translation>
     </message>
     <message>
         <source>Not everything could be checked. %1</source>
-        <translation>Tout n’a pas pu être contrôlé. %1</translation>
+        <translation>Tout n’a pas pu être vérifié. %1</translation>
     </message>
     <message>
         <source>Profile</source>
@@ -1493,11 +1493,11 @@
     </message>
     <message>
         <source>Preview:</source>
-        <translation>Aperçu :</translation>
+        <translation>Aperçu :</translation>
     </message>
     <message>
         <source>As it is</source>
-        <translation>Tel quel</translation>
+        <translation>Inchangé</translation>
     </message>
     <message>
         <source>Made anew</source>
@@ -1517,11 +1517,11 @@
     </message>
     <message>
         <source>This stays as it is:</source>
-        <translation>Ceci reste en l’état :</translation>
+        <translation>Ceci reste inchangé :</translation>
     </message>
     <message>
         <source>“%1” is written.</source>
-        <translation>« %1 » est écrit.</translation>
+        <translation>« %1 » a été écrit.</translation>
     </message>
     <message>
         <source>Open It</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>The program lies in a wrapping of another system</source>
-        <translation>Le programme est enveloppé dans un format d’un autre système</translation>
+        <translation>Le programme est enveloppé dans le format d’un autre système</translation>
     </message>
     <message>
         <source>A section of the binary header lies outside the file</source>
@@ -1601,11 +1601,11 @@
     </message>
     <message>
         <source>Ink lies outside the bounding box</source>
-        <translation>De l’encre se trouve hors du cadre de délimitation</translation>
+        <translation>Quelque chose est dessiné hors du cadre de délimitation</translation>
     </message>
     <message>
         <source>The bounding box is larger than the ink</source>
-        <translation>Le cadre de délimitation est plus grand que l’encre</translation>
+        <translation>Le cadre de délimitation est plus grand que le dessin</translation>
     </message>
     <message>
         <source>The program draws nothing that is not white</source>
@@ -1637,7 +1637,7 @@
     </message>
     <message>
         <source>Comments stand in the wrong order</source>
-        <translation>Des commentaires sont dans le mauvais ordre</translation>
+        <translation>Des commentaires ne sont pas dans le bon ordre</translation>
     </message>
     <message>
         <source>A section begins and does not end, or the other way round</source>
@@ -1781,15 +1781,15 @@
     </message>
     <message>
         <source>repair takes the program out</source>
-        <translation>Réparer extrait le programme</translation>
+        <translation>La réparation extrait le programme</translation>
     </message>
     <message>
         <source>repair writes the header anew</source>
-        <translation>Réparer réécrit l’en-tête</translation>
+        <translation>La réparation réécrit l’en-tête</translation>
     </message>
     <message>
         <source>repair leaves them out</source>
-        <translation>Réparer les supprime</translation>
+        <translation>La réparation les supprime</translation>
     </message>
     <message>
         <source>fetch the file again</source>
@@ -1797,23 +1797,23 @@
     </message>
     <message>
         <source>repair writes it</source>
-        <translation>Réparer l’écrit</translation>
+        <translation>La réparation l’écrit</translation>
     </message>
     <message>
         <source>repair writes the versions 3.0</source>
-        <translation>Réparer écrit les versions 3.0</translation>
+        <translation>La réparation écrit les versions 3.0</translation>
     </message>
     <message>
         <source>repair computes it</source>
-        <translation>Réparer le calcule</translation>
+        <translation>La réparation le calcule</translation>
     </message>
     <message>
         <source>repair writes whole numbers</source>
-        <translation>Réparer écrit des nombres entiers</translation>
+        <translation>La réparation écrit des nombres entiers</translation>
     </message>
     <message>
         <source>repair computes both</source>
-        <translation>Réparer calcule les deux</translation>
+        <translation>La réparation calcule les deux</translation>
     </message>
     <message>
         <source>write the file again from the program that made it</source>
@@ -1821,7 +1821,7 @@
     </message>
     <message>
         <source>repair puts it in</source>
-        <translation>Réparer l’insère</translation>
+        <translation>La réparation l’insère</translation>
     </message>
     <message>
         <source>write the file again as EPS</source>
@@ -1833,11 +1833,11 @@
     </message>
     <message>
         <source>repair puts those of the header in order</source>
-        <translation>Réparer remet en ordre ceux de l’en-tête</translation>
+        <translation>La réparation remet en ordre ceux de l’en-tête</translation>
     </message>
     <message>
         <source>most readers take them</source>
-        <translation>La plupart des lecteurs les acceptent</translation>
+        <translation>La plupart des programmes les acceptent</translation>
     </message>
     <message>
         <source>declare %%DocumentData: Binary</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>repair makes one</source>
-        <translation>Réparer en crée un</translation>
+        <translation>La réparation en crée un</translation>
     </message>
     <message>
         <source>embed the font</source>
@@ -1869,7 +1869,7 @@
     </message>
     <message>
         <source>choose colours with less ink</source>
-        <translation>Choisissez des couleurs moins encrées</translation>
+        <translation>Choisissez des couleurs qui demandent moins d’encre</translation>
     </message>
     <message>
         <source>let it knock out</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>The picture links to this address. Open it?</source>
-        <translation>L’image renvoie à cette adresse. L’ouvrir ?</translation>
+        <translation>L’image renvoie à cette adresse. L’ouvrir ?</translation>
     </message>
     <message>
         <source>Open Address</source>
@@ -2017,7 +2017,7 @@
     </message>
     <message>
         <source>The picture is separated into plates: %1</source>
-        <translation>L’image est séparée en plaques : %1</translation>
+        <translation>L’image est séparée en plaques : %1</translation>
     </message>
     <message>
         <source>Windows metafile, %1</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message>
         <source>Keep text as text, with its fonts</source>
-        <translation>Garder le texte en texte, avec ses polices</translation>
+        <translation>Conserver le texte comme texte, avec ses polices</translation>
     </message>
     <message>
         <source>Show the inks in the picture</source>
@@ -2037,7 +2037,7 @@
     </message>
     <message>
         <source>Mark ink above</source>
-        <translation>Marquer l’encre au-delà de</translation>
+        <translation>Signaler l’encre au-delà de</translation>
     </message>
     <message>
         <source>Limit of all inks together</source>
@@ -2049,11 +2049,11 @@
     </message>
     <message>
         <source>Most ink in one place: %1</source>
-        <translation>Le plus d’encre en un point : %1</translation>
+        <translation>Le plus d’encre en un point : %1</translation>
     </message>
     <message>
         <source>All inks under the pointer: %1</source>
-        <translation>Toutes les encres sous le pointeur : %1</translation>
+        <translation>Toutes les encres sous le pointeur : %1</translation>
     </message>
     <message>
         <source>The page is being separated into its inks…</source>
@@ -2065,7 +2065,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>The shown page (%1)</source>
@@ -2077,7 +2077,7 @@
     </message>
     <message>
         <source>Some pages</source>
-        <translation>Quelques pages</translation>
+        <translation>Certaines pages</translation>
     </message>
     <message>
         <source>From page</source>
@@ -2085,15 +2085,15 @@
     </message>
     <message>
         <source>From page:</source>
-        <translation>De la page :</translation>
+        <translation>De la page :</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation>Pa&amp;ges :</translation>
+        <translation>Pa&amp;ges :</translation>
     </message>
     <message>
         <source>Sheets:</source>
-        <translation>Feuilles :</translation>
+        <translation>Feuilles :</translation>
     </message>
     <message>
         <source>New keys</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message>
         <source>Keys of “%1”:</source>
-        <translation>Touches de « %1 » :</translation>
+        <translation>Touches de « %1 » :</translation>
     </message>
     <message>
         <source>Choose a command, and then press the keys that it shall have.</source>
@@ -2121,7 +2121,7 @@
     </message>
     <message>
         <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
-        <translation>« %1 » sert à écrire et à déplacer l’image. Ajoutez Ctrl ou Alt, ou prenez une touche de fonction.</translation>
+        <translation>« %1 » sert à la saisie et au déplacement de l’image. Ajoutez Ctrl ou Alt, ou choisissez une touche de fonction.</translation>
     </message>
     <message>
         <source>“%1” cannot be written, and nothing was changed.</source>
@@ -2129,11 +2129,11 @@
     </message>
     <message>
         <source>“%1” belongs to “%2” already, and nothing was changed.</source>
-        <translation>« %1 » appartient déjà à « %2 » ; rien n’a été modifié.</translation>
+        <translation>« %1 » appartient déjà à « %2 » ; rien n’a été modifié.</translation>
     </message>
     <message>
         <source>“%1” opens the menu “%2”, and nothing was changed.</source>
-        <translation>« %1 » ouvre le menu « %2 » ; rien n’a été modifié.</translation>
+        <translation>« %1 » ouvre le menu « %2 » ; rien n’a été modifié.</translation>
     </message>
 </context>
 <context>
@@ -2384,7 +2384,7 @@
     </message>
     <message>
         <source>What was noticed</source>
-        <translation>Ce qui a été remarqué</translation>
+        <translation>Observations</translation>
     </message>
     <message>
         <source>BoundingBox:</source>
@@ -2510,11 +2510,11 @@
     </message>
     <message>
         <source>the PostScript header states no usable bounding box</source>
-        <translation>L’en-tête PostScript n’indique pas de BoundingBox utilisable.</translation>
+        <translation>L’en-tête PostScript n’indique pas de cadre de délimitation utilisable.</translation>
     </message>
     <message>
         <source>the PostScript has no usable bounding box</source>
-        <translation>Le PostScript n’a pas de BoundingBox utilisable.</translation>
+        <translation>Le PostScript n’a pas de cadre de délimitation utilisable.</translation>
     </message>
     <message>
         <source>the file holds no PostScript</source>
@@ -2530,27 +2530,27 @@
     </message>
     <message>
         <source>the picture is empty: its width or height is zero</source>
-        <translation>L’image est vide : sa largeur ou sa hauteur est nulle.</translation>
+        <translation>L’image est vide : sa largeur ou sa hauteur est nulle.</translation>
     </message>
     <message>
         <source>the file is cut off: %1 of the %2 bytes of %3 are missing</source>
-        <translation>Le fichier est tronqué : il manque %1 octets sur %2 (%3).</translation>
+        <translation>Le fichier est tronqué : il manque %1 octets sur %2 (%3).</translation>
     </message>
     <message>
         <source>the file seems cut off: its PostScript stops before its end</source>
-        <translation>Le fichier semble tronqué : son PostScript s’arrête avant la fin.</translation>
+        <translation>Le fichier semble tronqué : son PostScript s’arrête avant la fin.</translation>
     </message>
     <message>
         <source>the file is damaged; it was repaired as far as possible</source>
-        <translation>Le fichier est endommagé ; il a été réparé autant que possible.</translation>
+        <translation>Le fichier est endommagé ; il a été réparé autant que possible.</translation>
     </message>
     <message>
         <source>the file is damaged; nothing of %1 can be read</source>
-        <translation>Le fichier est endommagé ; rien n’est lisible (%1).</translation>
+        <translation>Le fichier est endommagé ; rien n’est lisible (%1).</translation>
     </message>
     <message>
         <source>the file is damaged; nothing of page %1 can be read</source>
-        <translation>Le fichier est endommagé ; rien de la page %1 ne peut être lu.</translation>
+        <translation>Le fichier est endommagé ; rien de la page %1 ne peut être lu.</translation>
     </message>
     <message>
         <source>the document is damaged and cannot be read as PDF</source>
@@ -2582,15 +2582,15 @@
     </message>
     <message>
         <source>there is no page %1; the document has %2</source>
-        <translation>Il n’y a pas de page %1 ; le document en a %2.</translation>
+        <translation>Il n’y a pas de page %1 ; le document en a %2.</translation>
     </message>
     <message>
         <source>there is no page %1, the document has %2</source>
-        <translation>Il n’y a pas de page %1 ; le document en a %2.</translation>
+        <translation>Il n’y a pas de page %1 ; le document en a %2.</translation>
     </message>
     <message>
         <source>page %1 is too far behind</source>
-        <translation>La page %1 est trop loin.</translation>
+        <translation>La page %1 est trop éloignée dans le document.</translation>
     </message>
     <message>
         <source>page %1 has no area</source>
@@ -2602,11 +2602,11 @@
     </message>
     <message>
         <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
-        <translation>Ce fichier Illustrator a été enregistré sans contenu PDF ; il affiche donc un avis à la place du dessin.</translation>
+        <translation>Ce fichier Illustrator a été enregistré sans contenu PDF ; il affiche donc un avis à la place du dessin.</translation>
     </message>
     <message>
         <source>the document is protected by encryption, and what is made of it is not</source>
-        <translation>Le document est protégé par chiffrement ; ce qui en est tiré ne l’est pas.</translation>
+        <translation>Le document est protégé par chiffrement ; ce qui en est tiré ne l’est pas.</translation>
     </message>
     <message>
         <source>scripts of the document were left out</source>
@@ -2630,7 +2630,7 @@
     </message>
     <message>
         <source>the PostScript needs more memory than it was granted</source>
-        <translation>Le PostScript demande plus de mémoire qu’il ne lui est accordé.</translation>
+        <translation>Le PostScript demande plus de mémoire qu’il ne lui en est accordé.</translation>
     </message>
     <message>
         <source>the PostScript used up the time or memory that it was granted</source>
@@ -2686,7 +2686,7 @@
     </message>
     <message>
         <source>the compressed data grows to more than %1 times its size</source>
-        <translation>Les données compressées grossissent plus de %1 fois.</translation>
+        <translation>Les données compressées occupent plus de %1 fois leur taille une fois décompressées.</translation>
     </message>
     <message>
         <source>the compressed data holds more than %1 MiB</source>
@@ -2738,7 +2738,7 @@
     </message>
     <message>
         <source>the document refers to other files, which are never loaded (references: %1)</source>
-        <translation>Le document renvoie à d’autres fichiers, qui ne sont jamais chargés (références : %1).</translation>
+        <translation>Le document renvoie à d’autres fichiers, qui ne sont jamais chargés (références : %1).</translation>
     </message>
     <message>
         <source>the document has scripts, which are never run</source>
@@ -2746,15 +2746,15 @@
     </message>
     <message>
         <source>the document is animated and is shown as it stands at rest</source>
-        <translation>Le document est animé ; il est affiché au repos.</translation>
+        <translation>Le document est animé ; il est affiché au repos.</translation>
     </message>
     <message>
         <source>the font %1 is missing, another stands in for it</source>
-        <translation>La police %1 manque ; une autre la remplace.</translation>
+        <translation>La police %1 manque ; une autre la remplace.</translation>
     </message>
     <message>
         <source>the font %1 is missing, %2 stands in for it</source>
-        <translation>La police %1 manque ; %2 la remplace.</translation>
+        <translation>La police %1 manque ; %2 la remplace.</translation>
     </message>
     <message>
         <source>the picture was not ready within %1 seconds</source>
@@ -2766,15 +2766,15 @@
     </message>
     <message>
         <source>the picture needs more memory than it is allowed</source>
-        <translation>L’image demande plus de mémoire qu’il ne lui est permis.</translation>
+        <translation>L’image demande plus de mémoire qu’il ne lui en est accordé.</translation>
     </message>
     <message>
         <source>the picture needs more processor time than it is allowed</source>
-        <translation>L’image demande plus de temps de calcul qu’il ne lui est permis.</translation>
+        <translation>L’image demande plus de temps de calcul qu’il ne lui en est accordé.</translation>
     </message>
     <message>
         <source>the picture needs more temporary files than it is allowed</source>
-        <translation>L’image demande plus de fichiers temporaires qu’il ne lui est permis.</translation>
+        <translation>L’image demande plus de fichiers temporaires qu’il ne lui en est accordé.</translation>
     </message>
     <message>
         <source>the picture nests deeper than can be drawn</source>
@@ -2786,7 +2786,7 @@
     </message>
     <message>
         <source>the picture would have more pixels than it is allowed</source>
-        <translation>L’image aurait plus de pixels qu’il ne lui est permis.</translation>
+        <translation>L’image aurait plus de pixels qu’il n’est permis.</translation>
     </message>
     <message>
         <source>the image would have a side of more than %1 pixels</source>
@@ -2854,7 +2854,7 @@
     </message>
     <message>
         <source>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</source>
-        <translation>Le processus d’image n’a pas pu être confiné : ce système n’offre ni Landlock, ni espaces de noms d’utilisateur avec filtres seccomp.</translation>
+        <translation>Le processus d’image n’a pas pu être confiné : ce système n’offre ni Landlock, ni espaces de noms d’utilisateur avec filtres seccomp.</translation>
     </message>
     <message>
         <source>the drawing was stopped</source>
@@ -2930,11 +2930,11 @@
     </message>
     <message>
         <source>an SVG picture has no inks: its colours are those of a screen</source>
-        <translation>Une image SVG n’a pas d’encres : ses couleurs sont celles d’un écran.</translation>
+        <translation>Une image SVG n’a pas d’encres : ses couleurs sont celles d’un écran.</translation>
     </message>
     <message>
         <source>at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled</source>
-        <translation>À %1 ppp, une plaque a %2 millions de pixels ; %3 millions au plus sont possibles.</translation>
+        <translation>À %1 ppp, une plaque a %2 millions de pixels ; %3 millions au plus sont possibles.</translation>
     </message>
     <message>
         <source>the print service cannot be reached</source>
@@ -2954,23 +2954,23 @@
     </message>
     <message>
         <source>there is no printer named “%1”</source>
-        <translation>Il n’y a pas d’imprimante « %1 ».</translation>
+        <translation>Il n’y a pas d’imprimante « %1 ».</translation>
     </message>
     <message>
         <source>the printer “%1” takes no jobs</source>
-        <translation>L’imprimante « %1 » n’accepte pas de travaux.</translation>
+        <translation>L’imprimante « %1 » n’accepte pas de travaux.</translation>
     </message>
     <message>
         <source>the printer “%1” is not open to this user</source>
-        <translation>L’imprimante « %1 » n’est pas ouverte à cet utilisateur.</translation>
+        <translation>L’imprimante « %1 » n’est pas ouverte à cet utilisateur.</translation>
     </message>
     <message>
         <source>the printer “%1” wants a user name and a password, which are not asked for here</source>
-        <translation>L’imprimante « %1 » veut un nom d’utilisateur et un mot de passe, qui ne sont pas demandés ici.</translation>
+        <translation>L’imprimante « %1 » exige un nom d’utilisateur et un mot de passe, qui ne peuvent pas être saisis ici.</translation>
     </message>
     <message>
         <source>the printer “%1” did not take the job: %2</source>
-        <translation>L’imprimante « %1 » n’a pas pris le travail : %2.</translation>
+        <translation>L’imprimante « %1 » n’a pas accepté le travail : %2.</translation>
     </message>
     <message>
         <source>the document has %1 pages, and only the first %2 of them can be printed</source>
@@ -2978,11 +2978,11 @@
     </message>
     <message>
         <source>there are no such pages: the document has %1</source>
-        <translation>Ces pages n’existent pas : le document en a %1.</translation>
+        <translation>Ces pages n’existent pas : le document en a %1.</translation>
     </message>
     <message>
         <source>there are no such pages: the picture takes %1</source>
-        <translation>Ces pages n’existent pas : l’image en occupe %1.</translation>
+        <translation>Ces pages n’existent pas : l’image en occupe %1.</translation>
     </message>
     <message>
         <source>the pages would take more than %1 sheets of paper</source>
@@ -3002,7 +3002,7 @@
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>L’accès n’est pas permis.</translation>
+        <translation>L’accès est refusé.</translation>
     </message>
     <message>
         <source>Input/output error</source>
@@ -3050,19 +3050,19 @@
     </message>
     <message>
         <source>a font cannot be taken over; another stands in for it</source>
-        <translation>Une police ne peut pas être reprise ; une autre la remplace.</translation>
+        <translation>Une police ne peut pas être reprise ; une autre la remplace.</translation>
     </message>
     <message>
         <source>the font %1 cannot be taken over; another stands in for it</source>
-        <translation>La police %1 ne peut pas être reprise ; une autre la remplace.</translation>
+        <translation>La police %1 ne peut pas être reprise ; une autre la remplace.</translation>
     </message>
     <message>
         <source>the source has no PostScript, so the file holds a preview and nothing else</source>
-        <translation>La source n’a pas de PostScript ; le fichier ne contient qu’un aperçu.</translation>
+        <translation>La source n’a pas de PostScript ; le fichier ne contient qu’un aperçu.</translation>
     </message>
     <message>
         <source>the picture gives no PostScript, so the file holds a preview and nothing else</source>
-        <translation>L’image ne donne pas de PostScript ; le fichier ne contient qu’un aperçu.</translation>
+        <translation>L’image ne donne pas de PostScript ; le fichier ne contient qu’un aperçu.</translation>
     </message>
     <message>
         <source>the PDF has no subject, because the document has a description but no title</source>
@@ -3082,19 +3082,19 @@
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>
-        <translation>Du texte reste en tracés : c’est un trait ou un masque, ou sa police ne peut ou ne doit pas être incorporée.</translation>
+        <translation>Une partie du texte reste en tracés : il sert de trait ou de masque, ou sa police ne peut ou ne doit pas être incorporée.</translation>
     </message>
     <message>
         <source>of some characters the document does not tell the meaning: they are shown, and no search finds them</source>
-        <translation>Le document ne dit pas ce que sont certains caractères : ils sont affichés, mais aucune recherche ne les trouve.</translation>
+        <translation>Le document n’indique pas ce que signifient certains caractères : ils sont affichés, mais aucune recherche ne les trouve.</translation>
     </message>
     <message>
         <source>what is drawn through a filter (elements: %1) is held as an image</source>
-        <translation>Ce qui est dessiné à travers un filtre (éléments : %1) est conservé en image.</translation>
+        <translation>Ce qui est dessiné à travers un filtre (éléments : %1) est conservé en image.</translation>
     </message>
     <message>
         <source>masks (elements: %1) are held as images, what they mask is not</source>
-        <translation>Les masques (éléments : %1) sont conservés en images, pas ce qu’ils masquent.</translation>
+        <translation>Les masques (éléments : %1) sont conservés en images, pas ce qu’ils masquent.</translation>
     </message>
     <message>
         <source>the text is in %1 and is handed on as UTF-8</source>
@@ -3110,7 +3110,7 @@
     </message>
     <message>
         <source>it draws nothing and states no bounding box</source>
-        <translation>Il ne dessine rien et n’indique pas de BoundingBox.</translation>
+        <translation>Il ne dessine rien et n’indique pas de cadre de délimitation.</translation>
     </message>
     <message>
         <source>it cannot be mended: %1</source>
@@ -3162,7 +3162,7 @@
     </message>
     <message>
         <source>the bounding box is %1 (%2)</source>
-        <translation>Le BoundingBox est %1 (%2).</translation>
+        <translation>Le cadre de délimitation est %1 (%2).</translation>
     </message>
     <message>
         <source>%1 was left out, because it stood out of order</source>
@@ -3190,11 +3190,11 @@
     </message>
     <message>
         <source>the document has text of more than %1 units in size</source>
-        <translation>Le document a du texte de plus de %1 unités de taille.</translation>
+        <translation>Le document contient du texte de plus de %1 unités de corps.</translation>
     </message>
     <message>
         <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
-        <translation>Les plaques de la page ont trop de pixels ; une résolution plus basse aide.</translation>
+        <translation>Les plaques de la page ont trop de pixels ; une résolution plus basse aide.</translation>
     </message>
     <message>
         <source>Ghostscript did not separate the page</source>
@@ -3214,7 +3214,7 @@
     </message>
     <message>
         <source>the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview</source>
-        <translation>Le fichier est emballé en %1, avec une image Macintosh (PICT) de %2 × %3 points comme aperçu.</translation>
+        <translation>Le fichier est enveloppé au format %1, avec une image Macintosh (PICT) de %2 × %3 points comme aperçu.</translation>
     </message>
     <message>
         <source>there is no preview</source>
@@ -3274,11 +3274,11 @@
     </message>
     <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
-        <translation>%%BoundingBox contient « %1 » au lieu de quatre nombres.</translation>
+        <translation>%%BoundingBox contient « %1 » au lieu de quatre nombres.</translation>
     </message>
     <message>
         <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
-        <translation>%%BoundingBox contient « %1 », qui ne sont pas tous des nombres entiers.</translation>
+        <translation>%%BoundingBox contient « %1 », qui ne sont pas tous des nombres entiers.</translation>
     </message>
     <message>
         <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
@@ -3298,19 +3298,19 @@
     </message>
     <message>
         <source>the bounding box %1 has no area</source>
-        <translation>Le BoundingBox %1 n’a pas de surface.</translation>
+        <translation>Le cadre de délimitation %1 n’a pas de surface.</translation>
     </message>
     <message>
         <source>nothing but white is drawn inside the bounding box</source>
-        <translation>Rien d’autre que du blanc n’est dessiné dans le BoundingBox.</translation>
+        <translation>Seul du blanc est dessiné dans le cadre de délimitation.</translation>
     </message>
     <message>
         <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
-        <translation>Le BoundingBox %1 coupe le dessin, qui le dépasse de %2 pt : %3.</translation>
+        <translation>Le cadre de délimitation %1 coupe le dessin, qui le dépasse de %2 pt : %3.</translation>
     </message>
     <message>
         <source>the bounding box %1 is more than twice as large as the ink: %2</source>
-        <translation>Le BoundingBox %1 est plus de deux fois plus grand que le dessin : %2.</translation>
+        <translation>Le cadre de délimitation %1 est plus de deux fois plus grand que le dessin : %2.</translation>
     </message>
     <message>
         <source>the %1 section ends at byte %2, the file at byte %3</source>
@@ -3322,27 +3322,27 @@
     </message>
     <message>
         <source>bytes before %!PS-Adobe: %1</source>
-        <translation>Octets avant %!PS-Adobe : %1.</translation>
+        <translation>Octets avant %!PS-Adobe : %1.</translation>
     </message>
     <message>
         <source>bytes behind %%EOF: %1</source>
-        <translation>Octets après %%EOF : %1.</translation>
+        <translation>Octets après %%EOF : %1.</translation>
     </message>
     <message>
         <source>the file needs fonts that it does not bring: %1</source>
-        <translation>Le fichier a besoin de polices qu’il n’apporte pas : %1.</translation>
+        <translation>Le fichier a besoin de polices qu’il n’apporte pas : %1.</translation>
     </message>
     <message>
         <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
-        <translation>L’aperçu mesure %1 × %2 pixels, le BoundingBox %3 × %4 points.</translation>
+        <translation>L’aperçu mesure %1 × %2 pixels, le cadre de délimitation %3 × %4 points.</translation>
     </message>
     <message>
         <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
-        <translation>L’aperçu montre une autre image que celle que dessine le programme (différence moyenne : %1 %).</translation>
+        <translation>L’aperçu montre une autre image que celle que dessine le programme (différence moyenne : %1 %).</translation>
     </message>
     <message>
         <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
-        <translation>La première ligne « %1 » ne dit pas %!PS-Adobe-3.0 EPSF-3.0.</translation>
+        <translation>La première ligne « %1 » ne dit pas %!PS-Adobe-3.0 EPSF-3.0.</translation>
     </message>
     <message>
         <source>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</source>
@@ -3358,7 +3358,7 @@
     </message>
     <message>
         <source>lines of more than 255 bytes: %1, the first is line %2</source>
-        <translation>Lignes de plus de 255 octets : %1 ; la première est la ligne %2.</translation>
+        <translation>Lignes de plus de 255 octets : %1 ; la première est la ligne %2.</translation>
     </message>
     <message>
         <source>lines end in %1 different ways</source>
@@ -3366,19 +3366,19 @@
     </message>
     <message>
         <source>a line is %1 pt thin, %2 pt are asked for</source>
-        <translation>Un trait a %1 pt d’épaisseur ; %2 pt sont demandés.</translation>
+        <translation>Un trait n’a que %1 pt d’épaisseur ; %2 pt sont demandés.</translation>
     </message>
     <message>
         <source>a text is %1 pt small, %2 pt are asked for</source>
-        <translation>Un texte est en %1 pt ; %2 pt sont demandés.</translation>
+        <translation>Un texte n’a que %1 pt de corps ; %2 pt sont demandés.</translation>
     </message>
     <message>
         <source>a colour takes %1 % of ink, %2 % are allowed</source>
-        <translation>Une couleur prend %1 % d’encre ; %2 % sont permis.</translation>
+        <translation>Une couleur demande %1 % d’encre ; %2 % sont permis.</translation>
     </message>
     <message>
         <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
-        <translation>L’image (%1) de %2 × %3 pixels a %4 ppp ; %5 sont demandés.</translation>
+        <translation>L’image (%1) de %2 × %3 pixels a %4 ppp ; %5 sont demandés.</translation>
     </message>
     <message>
         <source>colour</source>
@@ -3394,7 +3394,7 @@
     </message>
     <message>
         <source>there is the spot ink %1</source>
-        <translation>Il y a l’encre d’accompagnement %1.</translation>
+        <translation>Le ton direct %1 est utilisé.</translation>
     </message>
     <message>
         <source>RGB colours stand beside CMYK colours</source>
@@ -3402,7 +3402,7 @@
     </message>
     <message>
         <source>its permissions forbid %1</source>
-        <translation>Ses autorisations interdisent : %1.</translation>
+        <translation>Ses droits n’autorisent pas : %1.</translation>
     </message>
     <message>
         <source>it claims to keep %1</source>
@@ -3414,11 +3414,11 @@
     </message>
     <message>
         <source>it refers to other files, which are never loaded (references: %1)</source>
-        <translation>Il renvoie à d’autres fichiers, qui ne sont jamais chargés (références : %1).</translation>
+        <translation>Il renvoie à d’autres fichiers, qui ne sont jamais chargés (références : %1).</translation>
     </message>
     <message>
         <source>elements drawn through filters become images in print: %1</source>
-        <translation>Éléments filtrés qui deviennent des images à l’impression : %1.</translation>
+        <translation>Éléments filtrés qui deviennent des images à l’impression : %1.</translation>
     </message>
     <message>
         <source>something is drawn up to %1 pt outside the page</source>
@@ -3434,15 +3434,15 @@
     </message>
     <message>
         <source>the file is wrapped as %1</source>
-        <translation>Le fichier est emballé en %1.</translation>
+        <translation>Le fichier est enveloppé au format %1.</translation>
     </message>
     <message>
         <source>%1 takes language level %2, and the header declares %3</source>
-        <translation>%1 demande le niveau de langage %2, et l’en-tête déclare : %3.</translation>
+        <translation>%1 demande le niveau de langage %2, et l’en-tête déclare : %3.</translation>
     </message>
     <message>
         <source>none above 1</source>
-        <translation>aucun au-dessus de 1</translation>
+        <translation>aucun au-delà de 1</translation>
     </message>
     <message>
         <source>%1 has no place in an EPS file</source>

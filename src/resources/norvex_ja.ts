@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>%1 What is shown was read before.</source>
-        <translation>%1 表示しているのは以前に読み込んだ内容です。</translation>
+        <translation>%1 以前に読み込んだ内容を表示しています。</translation>
     </message>
     <message>
         <source>Bounding box:</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>D.M.S.</source>
-        <translation>度・分・秒: 12.3045 は 12° 30′ 45″ です</translation>
+        <translation>度・分・秒：12.3045 は 12° 30′ 45″ です</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>For:</source>
-        <translation>対象:</translation>
+        <translation>依頼者:</translation>
     </message>
     <message>
         <source>GIF image</source>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>What is copied, saved or printed stands out.</source>
-        <translation>コピー、保存、印刷される部分が目立ちます。</translation>
+        <translation>コピー、保存、プリントされる部分を目立たせます。</translation>
     </message>
     <message>
         <source>&amp;Unit of lengths:</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>Otherwise a bar in the window asks.</source>
-        <translation>そうでなければ、ウインドウ内のバーで確認します。</translation>
+        <translation>オフにすると、ウインドウ内のバーで確認します。</translation>
     </message>
     <message>
         <source>R&amp;emember files</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
-        <translation>最近使ったファイルとその表示方法です。オフにするとすべて消去されます。</translation>
+        <translation>最近使ったファイルと画像の表示方法です。オフにするとすべて消去されます。</translation>
     </message>
     <message>
         <source>C&amp;lear History</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Forgets the recent files, and how their pictures were shown.</source>
-        <translation>最近使ったファイルとその表示方法を忘れます。</translation>
+        <translation>最近使ったファイルと画像の表示方法を消去します。</translation>
     </message>
     <message>
         <source>Colours:</source>
@@ -309,15 +309,15 @@
     </message>
     <message>
         <source>Size the selection</source>
-        <translation>選択範囲の大きさを変える</translation>
+        <translation>選択範囲の大きさを変更</translation>
     </message>
     <message>
         <source>Drag a square beside it</source>
-        <translation>横の四角形をドラッグ</translation>
+        <translation>縁の四角形をドラッグ</translation>
     </message>
     <message>
         <source>Move the selection</source>
-        <translation>選択範囲を移動する</translation>
+        <translation>選択範囲を移動</translation>
     </message>
     <message>
         <source>Drag its size</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Not possible for this picture: %1</source>
-        <translation>この画像ではできません: %1</translation>
+        <translation>この画像ではできません：%1</translation>
     </message>
     <message>
         <source>Nothing is selected.</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>Resize Selection</source>
-        <translation>選択範囲のサイズを変更</translation>
+        <translation>選択範囲の大きさを変更</translation>
     </message>
     <message>
         <source>Right by %1 pt</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>RotateImageByMousedragg</source>
-        <translation>ドラッグして画像を回転します。Shift キーで 15° ごと、ダブルクリックで 0° になります。</translation>
+        <translation>ドラッグすると画像を回転します。Shift キーを押すと 15° ごとに止まり、ダブルクリックで 0° に戻ります。</translation>
     </message>
     <message>
         <source>SVG image</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
-        <translation>%1, %2 から %3, %4 まで選択: %5 × %6 ポイント。</translation>
+        <translation>%1, %2 から %3, %4 まで選択：%5 × %6 ポイント。</translation>
     </message>
     <message>
         <source>Selected range of image data is written or displayed.</source>
@@ -561,15 +561,15 @@
     </message>
     <message>
         <source>The file was deleted or moved. What is shown was read before.</source>
-        <translation>ファイルが削除または移動されました。表示しているのは以前に読み込んだ内容です。</translation>
+        <translation>ファイルが削除または移動されました。以前に読み込んだ内容を表示しています。</translation>
     </message>
     <message>
         <source>Preparing “%1” for printing…</source>
-        <translation>“%1”のプリントを準備しています…</translation>
+        <translation>「%1」のプリントを準備しています…</translation>
     </message>
     <message>
         <source>“%1” exists already. Do you want to replace it?</source>
-        <translation>“%1”はすでに存在します。置き換えますか?</translation>
+        <translation>「%1」はすでに存在します。置き換えますか？</translation>
     </message>
     <message>
         <source>The file has changed on disk.</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>ViewBox</source>
-        <translation>画像の viewBox または範囲 (画像自身の単位)</translation>
+        <translation>画像の viewBox または範囲（画像自身の単位）</translation>
     </message>
     <message>
         <source>What it holds will be lost.</source>
@@ -681,11 +681,11 @@
     </message>
     <message>
         <source>“%1” could not be opened.</source>
-        <translation>“%1”を開けませんでした。</translation>
+        <translation>「%1」を開けませんでした。</translation>
     </message>
     <message>
         <source>“%1” exists already.</source>
-        <translation>“%1”はすでに存在します。</translation>
+        <translation>「%1」はすでに存在します。</translation>
     </message>
     <message>
         <source>&amp;All</source>
@@ -837,7 +837,7 @@
     </message>
     <message>
         <source>Print “%1”</source>
-        <translation>“%1”をプリント</translation>
+        <translation>「%1」をプリント</translation>
     </message>
     <message>
         <source>Printer</source>
@@ -849,7 +849,7 @@
     </message>
     <message>
         <source>Printing “%1”…</source>
-        <translation>“%1”をプリントしています…</translation>
+        <translation>「%1」をプリントしています…</translation>
     </message>
     <message>
         <source>Ready</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>“%1” was not printed.</source>
-        <translation>“%1”はプリントされませんでした。</translation>
+        <translation>「%1」はプリントされませんでした。</translation>
     </message>
     <message>
         <source>With the mouse</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>Is the preview added the occasion where it writes out?</source>
-        <translation>書き出すときにプレビューを付けますか?</translation>
+        <translation>EPS を描画できないプログラムのために、ファイルにプレビューを付けますか？</translation>
     </message>
     <message>
         <source>With preview</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>“%1” was open then, and may be the reason.</source>
-        <translation>そのとき“%1”が開いていました。これが原因かもしれません。</translation>
+        <translation>そのとき「%1」が開いていました。これが原因かもしれません。</translation>
     </message>
     <message>
         <source>Do Not Open</source>
@@ -953,7 +953,7 @@
     </message>
     <message>
         <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
-        <translation>そのとき %1 個のファイルが開いていました。最後に使った“%2”が原因かもしれません。</translation>
+        <translation>そのとき %1 個のファイルが開いていました。最後に使った「%2」が原因かもしれません。</translation>
     </message>
     <message>
         <source>Open the Others</source>
@@ -981,7 +981,7 @@
     </message>
     <message>
         <source>Topics</source>
-        <translation>項目</translation>
+        <translation>トピック</translation>
     </message>
     <message>
         <source>Page of the manual</source>
@@ -1037,7 +1037,7 @@
     </message>
     <message>
         <source>Format:</source>
-        <translation>形式:</translation>
+        <translation>フォーマット:</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>%1 What is shown is what it had drawn until then.</source>
-        <translation>%1 表示しているのは、それまでに描画した内容です。</translation>
+        <translation>%1 そこまでに描画した内容を表示しています。</translation>
     </message>
     <message>
         <source>How the documents that it opens are confined:</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message>
         <source>in %1</source>
-        <translation>保存先: %1</translation>
+        <translation>保存先：%1</translation>
     </message>
     <message>
         <source>EPS with TIFF preview</source>
@@ -1133,11 +1133,11 @@
     </message>
     <message>
         <source>Width in pixels</source>
-        <translation>幅 (ピクセル)</translation>
+        <translation>幅（ピクセル）</translation>
     </message>
     <message>
         <source>Height in pixels</source>
-        <translation>高さ (ピクセル)</translation>
+        <translation>高さ（ピクセル）</translation>
     </message>
     <message>
         <source>pixels</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>File size: %1</source>
-        <translation>ファイルサイズ: %1</translation>
+        <translation>ファイルサイズ：%1</translation>
     </message>
     <message>
         <source>Not possible</source>
@@ -1197,7 +1197,7 @@
     </message>
     <message>
         <source>Exported “%1”</source>
-        <translation>“%1”をエクスポートしました</translation>
+        <translation>「%1」をエクスポートしました</translation>
     </message>
     <message>
         <source>Selection</source>
@@ -1249,7 +1249,7 @@
     </message>
     <message>
         <source>Page %1 has no area.</source>
-        <translation>ページ %1 には領域がありません。</translation>
+        <translation>ページ %1 には大きさがありません。</translation>
     </message>
     <message>
         <source>Where the pointer is in the picture. Click for another unit.</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Still working: wait, or stop and show what there is.</source>
-        <translation>まだ処理中です。このまま待つか、中止してできたところまでを表示します。</translation>
+        <translation>まだ処理中です。このまま待つか、中止してそこまでの内容を表示できます。</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -1377,7 +1377,7 @@
     </message>
     <message>
         <source>For a Journal</source>
-        <translation>学術誌用</translation>
+        <translation>論文誌用</translation>
     </message>
     <message>
         <source>For the Web</source>
@@ -1521,7 +1521,7 @@
     </message>
     <message>
         <source>“%1” is written.</source>
-        <translation>“%1” を書き出しました。</translation>
+        <translation>「%1」を書き出しました。</translation>
     </message>
     <message>
         <source>Open It</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>The program lies in a wrapping of another system</source>
-        <translation>プログラムが他のシステムの形式で包まれています。</translation>
+        <translation>プログラムがほかのシステムの形式で包まれています。</translation>
     </message>
     <message>
         <source>A section of the binary header lies outside the file</source>
@@ -1573,7 +1573,7 @@
     </message>
     <message>
         <source>The first line declares a version that does not exist</source>
-        <translation>最初の行が存在しない版を宣言しています。</translation>
+        <translation>最初の行が存在しないバージョンを宣言しています。</translation>
     </message>
     <message>
         <source>There is no %%BoundingBox</source>
@@ -1677,7 +1677,7 @@
     </message>
     <message>
         <source>A font is neither in the file nor on this machine</source>
-        <translation>ファイルにもこのマシンにもないフォントがあります。</translation>
+        <translation>ファイルにもこのコンピュータにもないフォントがあります。</translation>
     </message>
     <message>
         <source>A font is not embedded</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>More ink in one place than the profile allows</source>
-        <translation>プロファイルの許容よりインク総量が多い箇所があります。</translation>
+        <translation>プロファイルの許容よりインキ総量が多い箇所があります。</translation>
     </message>
     <message>
         <source>White that overprints vanishes</source>
@@ -1749,11 +1749,11 @@
     </message>
     <message>
         <source>The document is encrypted</source>
-        <translation>文書は暗号化されています。</translation>
+        <translation>書類は暗号化されています。</translation>
     </message>
     <message>
         <source>Its permissions forbid printing or changing it</source>
-        <translation>印刷または変更が許可されていません。</translation>
+        <translation>プリントまたは変更が許可されていません。</translation>
     </message>
     <message>
         <source>It claims to keep a standard</source>
@@ -1765,11 +1765,11 @@
     </message>
     <message>
         <source>It needs other files, which are never loaded</source>
-        <translation>読み込まれることのない他のファイルが必要です。</translation>
+        <translation>ほかのファイルが必要ですが、それらは読み込まれません。</translation>
     </message>
     <message>
         <source>Filters become images in print</source>
-        <translation>フィルタは印刷で画像になります。</translation>
+        <translation>フィルタは印刷時に画像になります。</translation>
     </message>
     <message>
         <source>The size has no unit, or there is none</source>
@@ -1801,7 +1801,7 @@
     </message>
     <message>
         <source>repair writes the versions 3.0</source>
-        <translation>修復で版 3.0 を書き込みます。</translation>
+        <translation>修復でバージョン 3.0 を書き込みます。</translation>
     </message>
     <message>
         <source>repair computes it</source>
@@ -1869,7 +1869,7 @@
     </message>
     <message>
         <source>choose colours with less ink</source>
-        <translation>インク量の少ない色を選んでください。</translation>
+        <translation>インキ量の少ない色を選んでください。</translation>
     </message>
     <message>
         <source>let it knock out</source>
@@ -1933,11 +1933,11 @@
     </message>
     <message>
         <source>The password is wrong.</source>
-        <translation>パスワードが違います。</translation>
+        <translation>パスワードが正しくありません。</translation>
     </message>
     <message>
         <source>The document is protected by a password.</source>
-        <translation>この文書はパスワードで保護されています。</translation>
+        <translation>この書類はパスワードで保護されています。</translation>
     </message>
     <message>
         <source>Layers</source>
@@ -1953,7 +1953,7 @@
     </message>
     <message>
         <source>The document locks this layer.</source>
-        <translation>このレイヤーは文書によってロックされています。</translation>
+        <translation>このレイヤーは書類によってロックされています。</translation>
     </message>
     <message>
         <source>Find in P&amp;icture…</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>The picture links to this address. Open it?</source>
-        <translation>画像はこのアドレスにリンクしています。開きますか?</translation>
+        <translation>画像はこのアドレスにリンクしています。開きますか？</translation>
     </message>
     <message>
         <source>Open Address</source>
@@ -2017,7 +2017,7 @@
     </message>
     <message>
         <source>The picture is separated into plates: %1</source>
-        <translation>画像は版に分かれています: %1</translation>
+        <translation>画像は版に分かれています：%1</translation>
     </message>
     <message>
         <source>Windows metafile, %1</source>
@@ -2049,7 +2049,7 @@
     </message>
     <message>
         <source>Most ink in one place: %1</source>
-        <translation>一箇所の最大インキ量：%1</translation>
+        <translation>1 か所の最大インキ量：%1</translation>
     </message>
     <message>
         <source>All inks under the pointer: %1</source>
@@ -2069,7 +2069,7 @@
     </message>
     <message>
         <source>The shown page (%1)</source>
-        <translation>表示中のページ (%1)</translation>
+        <translation>表示中のページ（%1）</translation>
     </message>
     <message>
         <source>All %1 pages</source>
@@ -2196,7 +2196,7 @@
     </message>
     <message>
         <source>Angle of rotation in degrees, minutes and seconds</source>
-        <translation>回転角 (度・分・秒)</translation>
+        <translation>回転角（度・分・秒）</translation>
     </message>
     <message>
         <source>AngleOfRotation</source>
@@ -2260,7 +2260,7 @@
     </message>
     <message>
         <source>For:</source>
-        <translation>対象:</translation>
+        <translation>依頼者:</translation>
     </message>
     <message>
         <source>Format</source>
@@ -2384,7 +2384,7 @@
     </message>
     <message>
         <source>What was noticed</source>
-        <translation>気付いたこと</translation>
+        <translation>気付いた点</translation>
     </message>
     <message>
         <source>BoundingBox:</source>
@@ -2510,11 +2510,11 @@
     </message>
     <message>
         <source>the PostScript header states no usable bounding box</source>
-        <translation>PostScript のヘッダに使える BoundingBox がありません。</translation>
+        <translation>PostScript のヘッダに使えるバウンディングボックスがありません。</translation>
     </message>
     <message>
         <source>the PostScript has no usable bounding box</source>
-        <translation>PostScript に使える BoundingBox がありません。</translation>
+        <translation>PostScript に使えるバウンディングボックスがありません。</translation>
     </message>
     <message>
         <source>the file holds no PostScript</source>
@@ -2522,11 +2522,11 @@
     </message>
     <message>
         <source>the picture has no area to be drawn</source>
-        <translation>画像に描画できる面積がありません。</translation>
+        <translation>画像に描画できる範囲がありません。</translation>
     </message>
     <message>
         <source>the SVG document has no area</source>
-        <translation>SVG 書類に面積がありません。</translation>
+        <translation>SVG 書類に大きさがありません。</translation>
     </message>
     <message>
         <source>the picture is empty: its width or height is zero</source>
@@ -2550,7 +2550,7 @@
     </message>
     <message>
         <source>the file is damaged; nothing of page %1 can be read</source>
-        <translation>ファイルが壊れています。%1 ページからは何も読めません。</translation>
+        <translation>ファイルが壊れています。ページ %1 からは何も読めません。</translation>
     </message>
     <message>
         <source>the document is damaged and cannot be read as PDF</source>
@@ -2582,23 +2582,23 @@
     </message>
     <message>
         <source>there is no page %1; the document has %2</source>
-        <translation>%1 ページはありません。書類は全 %2 ページです。</translation>
+        <translation>ページ %1 はありません。書類は全 %2 ページです。</translation>
     </message>
     <message>
         <source>there is no page %1, the document has %2</source>
-        <translation>%1 ページはありません。書類は全 %2 ページです。</translation>
+        <translation>ページ %1 はありません。書類は全 %2 ページです。</translation>
     </message>
     <message>
         <source>page %1 is too far behind</source>
-        <translation>%1 ページは後ろすぎて扱えません。</translation>
+        <translation>ページ %1 は後ろすぎて扱えません。</translation>
     </message>
     <message>
         <source>page %1 has no area</source>
-        <translation>%1 ページに面積がありません。</translation>
+        <translation>ページ %1 には大きさがありません。</translation>
     </message>
     <message>
         <source>page %1 cannot be read</source>
-        <translation>%1 ページを読めません。</translation>
+        <translation>ページ %1 を読めません。</translation>
     </message>
     <message>
         <source>this Illustrator file was saved without PDF content, so it shows a notice instead of the artwork</source>
@@ -2782,7 +2782,7 @@
     </message>
     <message>
         <source>the picture is larger than the memory that it was granted</source>
-        <translation>画像が、許されたメモリより大きいです。</translation>
+        <translation>画像が、許されたメモリの大きさを超えています。</translation>
     </message>
     <message>
         <source>the picture would have more pixels than it is allowed</source>
@@ -2870,7 +2870,7 @@
     </message>
     <message>
         <source>the file exists already</source>
-        <translation>ファイルはすでにあります。</translation>
+        <translation>ファイルはすでに存在します。</translation>
     </message>
     <message>
         <source>the folder to write to does not exist</source>
@@ -2898,11 +2898,11 @@
     </message>
     <message>
         <source>the file is read-only</source>
-        <translation>ファイルは読み出し専用です。</translation>
+        <translation>ファイルは読み取り専用です。</translation>
     </message>
     <message>
         <source>the rectangle is empty or out of range</source>
-        <translation>長方形が空か、範囲の外です。</translation>
+        <translation>矩形が空か、範囲の外です。</translation>
     </message>
     <message>
         <source>no profile of a press is installed (%1)</source>
@@ -2954,23 +2954,23 @@
     </message>
     <message>
         <source>there is no printer named “%1”</source>
-        <translation>“%1”というプリンタはありません。</translation>
+        <translation>「%1」というプリンタはありません。</translation>
     </message>
     <message>
         <source>the printer “%1” takes no jobs</source>
-        <translation>プリンタ“%1”はジョブを受け付けていません。</translation>
+        <translation>プリンタ「%1」はジョブを受け付けていません。</translation>
     </message>
     <message>
         <source>the printer “%1” is not open to this user</source>
-        <translation>このユーザーはプリンタ“%1”を使えません。</translation>
+        <translation>このユーザーはプリンタ「%1」を使えません。</translation>
     </message>
     <message>
         <source>the printer “%1” wants a user name and a password, which are not asked for here</source>
-        <translation>プリンタ“%1”はユーザー名とパスワードを求めていますが、ここでは入力できません。</translation>
+        <translation>プリンタ「%1」はユーザー名とパスワードを求めていますが、ここでは入力できません。</translation>
     </message>
     <message>
         <source>the printer “%1” did not take the job: %2</source>
-        <translation>プリンタ“%1”がジョブを受け付けませんでした：%2。</translation>
+        <translation>プリンタ「%1」がジョブを受け付けませんでした：%2。</translation>
     </message>
     <message>
         <source>the document has %1 pages, and only the first %2 of them can be printed</source>
@@ -3030,7 +3030,7 @@
     </message>
     <message>
         <source>no reason is given</source>
-        <translation>理由は示されていません。</translation>
+        <translation>理由の説明なし</translation>
     </message>
     <message>
         <source>actions that start programs or open other files were left out</source>
@@ -3066,7 +3066,7 @@
     </message>
     <message>
         <source>the PDF has no subject, because the document has a description but no title</source>
-        <translation>書類に説明はあってもタイトルがないため、PDF にサブタイトルがありません。</translation>
+        <translation>書類に説明はあってもタイトルがないため、PDF に「サブタイトル」が入りません。</translation>
     </message>
     <message>
         <source>the preview could not be written as TIFF</source>
@@ -3074,7 +3074,7 @@
     </message>
     <message>
         <source>the result could not be opened again: %1</source>
-        <translation>できたものを開き直せませんでした：%1。</translation>
+        <translation>書き出した結果を開き直せませんでした：%1。</translation>
     </message>
     <message>
         <source>an image with more pixels than are granted was left out</source>
@@ -3110,7 +3110,7 @@
     </message>
     <message>
         <source>it draws nothing and states no bounding box</source>
-        <translation>何も描かず、BoundingBox もありません。</translation>
+        <translation>何も描かず、バウンディングボックスもありません。</translation>
     </message>
     <message>
         <source>it cannot be mended: %1</source>
@@ -3158,11 +3158,11 @@
     </message>
     <message>
         <source>the box at the end of the file stands in its header</source>
-        <translation>ファイルの終わりにあった BoundingBox をヘッダに移しました。</translation>
+        <translation>ファイルの終わりにあったバウンディングボックスをヘッダに移しました。</translation>
     </message>
     <message>
         <source>the bounding box is %1 (%2)</source>
-        <translation>BoundingBox は %1（%2）です。</translation>
+        <translation>バウンディングボックスは %1（%2）です。</translation>
     </message>
     <message>
         <source>%1 was left out, because it stood out of order</source>
@@ -3194,7 +3194,7 @@
     </message>
     <message>
         <source>the plates of the page have more pixels than can be handled; a lower resolution helps</source>
-        <translation>ページの版のピクセルが多すぎます。解像度を下げてください。</translation>
+        <translation>ページの版のピクセルが多すぎます。解像度を下げると処理できます。</translation>
     </message>
     <message>
         <source>Ghostscript did not separate the page</source>
@@ -3242,7 +3242,7 @@
     </message>
     <message>
         <source>there are RGB colours</source>
-        <translation>RGB の色があります。</translation>
+        <translation>RGB カラーがあります。</translation>
     </message>
     <message>
         <source>white overprints, and will vanish</source>
@@ -3266,7 +3266,7 @@
     </message>
     <message>
         <source>there is transparency</source>
-        <translation>透明があります。</translation>
+        <translation>透明効果があります。</translation>
     </message>
     <message>
         <source>a part of the page was not looked at</source>
@@ -3274,11 +3274,11 @@
     </message>
     <message>
         <source>%%BoundingBox holds "%1" instead of four numbers</source>
-        <translation>%%BoundingBox の値が 4 つの数値ではなく“%1”です。</translation>
+        <translation>%%BoundingBox の値が 4 つの数値ではなく「%1」です。</translation>
     </message>
     <message>
         <source>%%BoundingBox holds "%1", which are not all whole numbers</source>
-        <translation>%%BoundingBox の“%1”に整数でない値があります。</translation>
+        <translation>%%BoundingBox の「%1」に整数でない値があります。</translation>
     </message>
     <message>
         <source>%%BoundingBox %1 does not enclose %%HiResBoundingBox %2</source>
@@ -3298,19 +3298,19 @@
     </message>
     <message>
         <source>the bounding box %1 has no area</source>
-        <translation>BoundingBox %1 に面積がありません。</translation>
+        <translation>バウンディングボックス %1 に大きさがありません。</translation>
     </message>
     <message>
         <source>nothing but white is drawn inside the bounding box</source>
-        <translation>BoundingBox の中には白しか描かれていません。</translation>
+        <translation>バウンディングボックスの中には白しか描かれていません。</translation>
     </message>
     <message>
         <source>the bounding box %1 cuts the ink off, which reaches %2 pt beyond it: %3</source>
-        <translation>BoundingBox %1 が絵を切っています。絵は %2 pt はみ出しています：%3。</translation>
+        <translation>バウンディングボックス %1 が絵を切っています。絵は %2 pt はみ出しています：%3。</translation>
     </message>
     <message>
         <source>the bounding box %1 is more than twice as large as the ink: %2</source>
-        <translation>BoundingBox %1 は絵の 2 倍を超える大きさです：%2。</translation>
+        <translation>バウンディングボックス %1 は絵の 2 倍を超える大きさです：%2。</translation>
     </message>
     <message>
         <source>the %1 section ends at byte %2, the file at byte %3</source>
@@ -3334,15 +3334,15 @@
     </message>
     <message>
         <source>the preview is %1 by %2 pixels large, the bounding box %3 by %4 points</source>
-        <translation>プレビューは %1 × %2 ピクセル、BoundingBox は %3 × %4 ポイントです。</translation>
+        <translation>プレビューは %1 × %2 ピクセル、バウンディングボックスは %3 × %4 ポイントです。</translation>
     </message>
     <message>
         <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
-        <translation>プレビューが、プログラムの描く画像と違います（平均の差 %1 %）。</translation>
+        <translation>プレビューが、プログラムの描く画像と違います（平均の差 %1%）。</translation>
     </message>
     <message>
         <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
-        <translation>最初の行“%1”が %!PS-Adobe-3.0 EPSF-3.0 ではありません。</translation>
+        <translation>最初の行「%1」が %!PS-Adobe-3.0 EPSF-3.0 ではありません。</translation>
     </message>
     <message>
         <source>the first line declares PS-Adobe-%1 and EPSF-%2, which do not exist</source>
@@ -3374,7 +3374,7 @@
     </message>
     <message>
         <source>a colour takes %1 % of ink, %2 % are allowed</source>
-        <translation>インキの総量が %1 % の色があります。許されるのは %2 % です。</translation>
+        <translation>インキの総量が %1% の色があります。許されるのは %2% です。</translation>
     </message>
     <message>
         <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
@@ -3398,19 +3398,19 @@
     </message>
     <message>
         <source>RGB colours stand beside CMYK colours</source>
-        <translation>RGB の色と CMYK の色が混ざっています。</translation>
+        <translation>RGB カラーと CMYK カラーが混在しています。</translation>
     </message>
     <message>
         <source>its permissions forbid %1</source>
-        <translation>アクセス権で禁じられています：%1。</translation>
+        <translation>アクセス権により次のことは許可されていません：%1。</translation>
     </message>
     <message>
         <source>it claims to keep %1</source>
-        <translation>%1 に準拠しているとされています。</translation>
+        <translation>%1 に準拠していると宣言しています。</translation>
     </message>
     <message>
         <source>it claims to keep %1 and has no output intent</source>
-        <translation>%1 に準拠しているとされていますが、出力インテントがありません。</translation>
+        <translation>%1 に準拠していると宣言していますが、出力インテントがありません。</translation>
     </message>
     <message>
         <source>it refers to other files, which are never loaded (references: %1)</source>

@@ -33,11 +33,11 @@
     </message>
     <message>
         <source>Fonts:</source>
-        <translation>字体:</translation>
+        <translation>字体：</translation>
     </message>
     <message>
         <source>Colors used:</source>
-        <translation>使用的颜色:</translation>
+        <translation>使用的颜色：</translation>
     </message>
     <message>
         <source>%1 What is shown was read before.</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Bounding box:</source>
-        <translation>边界框:</translation>
+        <translation>边界框：</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Chooses pictures and opens each in a window of its own</source>
-        <translation>选择图片,并在各自的窗口中打开</translation>
+        <translation>选择图片，并在各自的窗口中打开</translation>
     </message>
     <message>
         <source>Clear the list</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>ColorSpaceName:</source>
-        <translation>色彩空间:</translation>
+        <translation>色彩空间：</translation>
     </message>
     <message>
         <source>Command</source>
@@ -105,15 +105,15 @@
     </message>
     <message>
         <source>Copyright:</source>
-        <translation>版权:</translation>
+        <translation>版权：</translation>
     </message>
     <message>
         <source>Created:</source>
-        <translation>创建时间:</translation>
+        <translation>创建时间：</translation>
     </message>
     <message>
         <source>Creator:</source>
-        <translation>创建程序:</translation>
+        <translation>创建程序：</translation>
     </message>
     <message>
         <source>D.M.S.</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Drag twice to mark a rectangle. Drag with the Ctrl key held to take it to another program as a file.</source>
-        <translation>拖动两次以标出矩形。按住 Ctrl 键拖动,可将其作为文件交给其他程序。</translation>
+        <translation>拖动两次以标出矩形。按住 Ctrl 键拖动，可将其作为文件交给其他程序。</translation>
     </message>
     <message>
         <source>Drawing…</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Encoding:</source>
-        <translation>编码:</translation>
+        <translation>编码：</translation>
     </message>
     <message>
         <source>Filename</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>For:</source>
-        <translation>用户:</translation>
+        <translation>用户：</translation>
     </message>
     <message>
         <source>GIF image</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>High resolution:</source>
-        <translation>高分辨率:</translation>
+        <translation>高分辨率：</translation>
     </message>
     <message>
         <source>Higher by %1 pt</source>
@@ -217,19 +217,19 @@
     </message>
     <message>
         <source>&amp;Window fits picture</source>
-        <translation>窗口适应图片(&amp;W)</translation>
+        <translation>窗口适合图片(&amp;W)</translation>
     </message>
     <message>
         <source>No larger than the picture, and smaller with it.</source>
-        <translation>不大于图片，并随图片缩小。</translation>
+        <translation>窗口不大于图片，并随图片一起缩小。</translation>
     </message>
     <message>
         <source>Chec&amp;kerboard behind new pictures</source>
-        <translation>新图片后显示棋盘格(&amp;K)</translation>
+        <translation>在新图片背后显示棋盘格(&amp;K)</translation>
     </message>
     <message>
         <source>Shows where nothing is painted, instead of the background colour.</source>
-        <translation>代替背景颜色，显示未绘制之处。</translation>
+        <translation>以棋盘格代替背景颜色，标出没有绘制内容的位置。</translation>
     </message>
     <message>
         <source>Di&amp;m what is outside of the selection</source>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>What is copied, saved or printed stands out.</source>
-        <translation>突出将被复制、存储或打印的部分。</translation>
+        <translation>突出显示将被复制、保存或打印的部分。</translation>
     </message>
     <message>
         <source>&amp;Unit of lengths:</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>Otherwise a bar in the window asks.</source>
-        <translation>否则窗口中的提示条会询问。</translation>
+        <translation>关闭时由窗口中的提示条询问。</translation>
     </message>
     <message>
         <source>R&amp;emember files</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>Recent files, and how their pictures were shown. Switching it off forgets all.</source>
-        <translation>最近的文件及其图片的显示方式。关闭则全部忘记。</translation>
+        <translation>最近使用的文件及其图片的显示方式。关闭后将全部清除。</translation>
     </message>
     <message>
         <source>C&amp;lear History</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Forgets the recent files, and how their pictures were shown.</source>
-        <translation>忘记最近的文件及其图片的显示方式。</translation>
+        <translation>清除最近使用的文件及其图片的显示方式。</translation>
     </message>
     <message>
         <source>Colours:</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>Drag a square beside it</source>
-        <translation>拖动旁边的方块</translation>
+        <translation>拖动其边缘的方块</translation>
     </message>
     <message>
         <source>Move the selection</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Not possible for this picture: %1</source>
-        <translation>此图片无法做到:%1</translation>
+        <translation>此图片无法如此处理：%1</translation>
     </message>
     <message>
         <source>Nothing is selected.</source>
@@ -405,7 +405,7 @@
     </message>
     <message>
         <source>Opens EPS, Illustrator, PDF and SVG pictures and hands any part of them on as vectors.</source>
-        <translation>打开 EPS、Illustrator、PDF 和 SVG 图片,并将其任意部分以矢量形式交给其他程序。</translation>
+        <translation>打开 EPS、Illustrator、PDF 和 SVG 图片，并将其任意部分以矢量形式交给其他程序。</translation>
     </message>
     <message>
         <source>Open…</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>RotateImageByMousedragg</source>
-        <translation>拖动以旋转图片。按住 Shift 对齐到 15°,双击恢复为 0°。</translation>
+        <translation>拖动以旋转图片。按住 Shift 时每 15° 停顿，双击恢复为 0°。</translation>
     </message>
     <message>
         <source>SVG image</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>Selected from %1, %2 to %3, %4: %5 by %6 points.</source>
-        <translation>已选择从 %1, %2 到 %3, %4:%5 × %6 点。</translation>
+        <translation>已选择从 %1, %2 到 %3, %4：%5 × %6 点。</translation>
     </message>
     <message>
         <source>Selected range of image data is written or displayed.</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>Selection is determined by dragging the mouse twice.</source>
-        <translation>拖动一次确定起点,再拖动一次拉出矩形。</translation>
+        <translation>拖动一次确定起点，再拖动一次拉出矩形。</translation>
     </message>
     <message>
         <source>SourceCode</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>“%1” exists already. Do you want to replace it?</source>
-        <translation>“%1”已存在。要替换它吗?</translation>
+        <translation>“%1”已存在。要替换它吗？</translation>
     </message>
     <message>
         <source>The file has changed on disk.</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>There is not enough memory for this</source>
-        <translation>内存不足,无法完成</translation>
+        <translation>内存不足，无法完成此操作</translation>
     </message>
     <message>
         <source>This could not be done.</source>
@@ -621,7 +621,7 @@
     </message>
     <message>
         <source>Title:</source>
-        <translation>标题:</translation>
+        <translation>标题：</translation>
     </message>
     <message>
         <source>Touch Bar</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>ViewBox</source>
-        <translation>图片的 viewBox 或边界,以图片自身的单位表示</translation>
+        <translation>图片的 viewBox 或边界，以图片自身的单位表示</translation>
     </message>
     <message>
         <source>What it holds will be lost.</source>
@@ -693,11 +693,11 @@
     </message>
     <message>
         <source>&amp;Bottom:</source>
-        <translation>下(&amp;B):</translation>
+        <translation>下(&amp;B)：</translation>
     </message>
     <message>
         <source>&amp;Copies:</source>
-        <translation>份数(&amp;C):</translation>
+        <translation>份数(&amp;C)：</translation>
     </message>
     <message>
         <source>&amp;Fit on one page</source>
@@ -717,11 +717,11 @@
     </message>
     <message>
         <source>&amp;Right:</source>
-        <translation>右(&amp;R):</translation>
+        <translation>右(&amp;R)：</translation>
     </message>
     <message>
         <source>&amp;Scaling:</source>
-        <translation>缩放(&amp;S):</translation>
+        <translation>缩放(&amp;S)：</translation>
     </message>
     <message>
         <source>&amp;Horizontally</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Centred:</source>
-        <translation>居中:</translation>
+        <translation>居中：</translation>
     </message>
     <message>
         <source>Centred horizontally</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Lef&amp;t:</source>
-        <translation>左(&amp;T):</translation>
+        <translation>左(&amp;T)：</translation>
     </message>
     <message>
         <source>This printer is no longer there.</source>
@@ -777,11 +777,11 @@
     </message>
     <message>
         <source>Makes the picture smaller until one page holds it</source>
-        <translation>缩小图片,直到一页能容纳</translation>
+        <translation>缩小图片，直到一页能容纳</translation>
     </message>
     <message>
         <source>Margins:</source>
-        <translation>页边距:</translation>
+        <translation>页边距：</translation>
     </message>
     <message>
         <source>Next page</source>
@@ -789,11 +789,11 @@
     </message>
     <message>
         <source>Orientation:</source>
-        <translation>方向:</translation>
+        <translation>方向：</translation>
     </message>
     <message>
         <source>P&amp;rinter:</source>
-        <translation>打印机(&amp;R):</translation>
+        <translation>打印机(&amp;R)：</translation>
     </message>
     <message>
         <source>PDF</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation>第 %1 页,共 %2 页</translation>
+        <translation>第 %1 页，共 %2 页</translation>
     </message>
     <message>
         <source>Page Set&amp;up…</source>
@@ -813,11 +813,11 @@
     </message>
     <message>
         <source>Pages:</source>
-        <translation>页码:</translation>
+        <translation>页码：</translation>
     </message>
     <message>
         <source>Pap&amp;er:</source>
-        <translation>纸张(&amp;E):</translation>
+        <translation>纸张(&amp;E)：</translation>
     </message>
     <message>
         <source>Paper</source>
@@ -845,7 +845,7 @@
     </message>
     <message>
         <source>Printing</source>
-        <translation>正在打印</translation>
+        <translation>打印</translation>
     </message>
     <message>
         <source>Printing “%1”…</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>T&amp;op:</source>
-        <translation>上(&amp;O):</translation>
+        <translation>上(&amp;O)：</translation>
     </message>
     <message>
         <source>Takes no jobs</source>
@@ -885,11 +885,11 @@
     </message>
     <message>
         <source>The date above the picture and the file's location below it, on every page</source>
-        <translation>每页图片上方显示日期,下方显示文件位置</translation>
+        <translation>每页图片上方显示日期，下方显示文件位置</translation>
     </message>
     <message>
         <source>The margins leave no room on the paper.</source>
-        <translation>页边距过大,纸上没有空间。</translation>
+        <translation>页边距过大，纸上没有剩余空间。</translation>
     </message>
     <message>
         <source>The pages become a PDF file.</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>Is the preview added the occasion where it writes out?</source>
-        <translation>写入时是否添加预览?</translation>
+        <translation>是否为不能绘制 EPS 的程序在文件中添加预览？</translation>
     </message>
     <message>
         <source>With preview</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Free software under the GNU General Public License, version 3 or later. The interpreter of PostScript is under the GNU Affero General Public License, version 3 or later.</source>
-        <translation>本程序是自由软件,采用 GNU 通用公共许可证第 3 版或更高版本。PostScript 解释器采用 GNU Affero 通用公共许可证第 3 版或更高版本。</translation>
+        <translation>本程序是自由软件，采用 GNU 通用公共许可证第 3 版或更高版本。PostScript 解释器采用 GNU Affero 通用公共许可证第 3 版或更高版本。</translation>
     </message>
     <message>
         <source>The drawing was stopped</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>“%1” was open then, and may be the reason.</source>
-        <translation>当时打开的是“%1”,它可能是原因。</translation>
+        <translation>当时打开的是“%1”，它可能是原因。</translation>
     </message>
     <message>
         <source>Do Not Open</source>
@@ -953,7 +953,7 @@
     </message>
     <message>
         <source>%1 files were open then. “%2” was used last, and may be the reason.</source>
-        <translation>当时打开了 %1 个文件。最后使用的是“%2”,它可能是原因。</translation>
+        <translation>当时打开了 %1 个文件。最后使用的是“%2”，它可能是原因。</translation>
     </message>
     <message>
         <source>Open the Others</source>
@@ -1049,11 +1049,11 @@
     </message>
     <message>
         <source>How the documents that it opens are confined:</source>
-        <translation>所打开文档的隔离方式:</translation>
+        <translation>打开的文档的隔离方式：</translation>
     </message>
     <message>
         <source>Read as:</source>
-        <translation>读取为:</translation>
+        <translation>读取方式：</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -1069,11 +1069,11 @@
     </message>
     <message>
         <source>A guess, as nothing says how the source is encoded. Read as %1:</source>
-        <translation>没有信息说明源文本的编码,因此只是猜测。按 %1 读取:</translation>
+        <translation>没有信息说明源文本的编码，因此只是猜测。按 %1 读取：</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation>说明:</translation>
+        <translation>说明：</translation>
     </message>
     <message>
         <source>Details</source>
@@ -1105,7 +1105,7 @@
     </message>
     <message>
         <source>Name:</source>
-        <translation>名称:</translation>
+        <translation>名称：</translation>
     </message>
     <message>
         <source>Folder for the exported file</source>
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Part:</source>
-        <translation>范围:</translation>
+        <translation>范围：</translation>
     </message>
     <message>
         <source> pixels an inch</source>
@@ -1133,11 +1133,11 @@
     </message>
     <message>
         <source>Width in pixels</source>
-        <translation>宽度(像素)</translation>
+        <translation>宽度（像素）</translation>
     </message>
     <message>
         <source>Height in pixels</source>
-        <translation>高度(像素)</translation>
+        <translation>高度（像素）</translation>
     </message>
     <message>
         <source>pixels</source>
@@ -1145,11 +1145,11 @@
     </message>
     <message>
         <source>Resolution:</source>
-        <translation>分辨率:</translation>
+        <translation>分辨率：</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation>大小:</translation>
+        <translation>大小：</translation>
     </message>
     <message>
         <source>Fill with</source>
@@ -1161,7 +1161,7 @@
     </message>
     <message>
         <source>Background:</source>
-        <translation>背景:</translation>
+        <translation>背景：</translation>
     </message>
     <message>
         <source>Lossless</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message>
         <source>Quality:</source>
-        <translation>质量:</translation>
+        <translation>质量：</translation>
     </message>
     <message>
         <source>Export</source>
@@ -1181,11 +1181,11 @@
     </message>
     <message>
         <source>File size: %1</source>
-        <translation>文件大小:%1</translation>
+        <translation>文件大小：%1</translation>
     </message>
     <message>
         <source>Not possible</source>
-        <translation>无法做到</translation>
+        <translation>无法完成</translation>
     </message>
     <message>
         <source>E&amp;xport…</source>
@@ -1321,19 +1321,19 @@
     </message>
     <message>
         <source>From the left:</source>
-        <translation>距左边:</translation>
+        <translation>距左边：</translation>
     </message>
     <message>
         <source>From below:</source>
-        <translation>距下边:</translation>
+        <translation>距下边：</translation>
     </message>
     <message>
         <source>Width:</source>
-        <translation>宽度:</translation>
+        <translation>宽度：</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation>高度:</translation>
+        <translation>高度：</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Still working: wait, or stop and show what there is.</source>
-        <translation>仍在处理:请等待,或停止并显示已有的内容。</translation>
+        <translation>仍在处理：请等待，或停止并显示已有的内容。</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -1609,7 +1609,7 @@
     </message>
     <message>
         <source>The program draws nothing that is not white</source>
-        <translation>程序只画出白色。</translation>
+        <translation>程序只绘制白色。</translation>
     </message>
     <message>
         <source>The program stops with a PostScript error</source>
@@ -1617,7 +1617,7 @@
     </message>
     <message>
         <source>The interpreter had something to remark</source>
-        <translation>解释器给出了说明。</translation>
+        <translation>解释器给出了提示。</translation>
     </message>
     <message>
         <source>showpage is missing</source>
@@ -1661,19 +1661,19 @@
     </message>
     <message>
         <source>There is no preview</source>
-        <translation>没有预览图。</translation>
+        <translation>没有预览。</translation>
     </message>
     <message>
         <source>The preview cannot be read</source>
-        <translation>预览图无法读取。</translation>
+        <translation>无法读取预览。</translation>
     </message>
     <message>
         <source>The preview shows another picture than the program draws</source>
-        <translation>预览图与程序画出的图片不同。</translation>
+        <translation>预览与程序绘制的图片不同。</translation>
     </message>
     <message>
         <source>The preview has another shape than the bounding box</source>
-        <translation>预览图的形状与边界框不同。</translation>
+        <translation>预览的形状与边界框不同。</translation>
     </message>
     <message>
         <source>A font is neither in the file nor on this machine</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>repair makes one</source>
-        <translation>修复会生成预览图。</translation>
+        <translation>修复会生成预览。</translation>
     </message>
     <message>
         <source>embed the font</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>The picture links to this address. Open it?</source>
-        <translation>图片链接到此地址。要打开吗?</translation>
+        <translation>图片链接到此地址。要打开吗？</translation>
     </message>
     <message>
         <source>Open Address</source>
@@ -2017,7 +2017,7 @@
     </message>
     <message>
         <source>The picture is separated into plates: %1</source>
-        <translation>图像已分为印版：%1</translation>
+        <translation>图片已分为印版：%1</translation>
     </message>
     <message>
         <source>Windows metafile, %1</source>
@@ -2057,7 +2057,7 @@
     </message>
     <message>
         <source>The page is being separated into its inks…</source>
-        <translation>正在将页面分为各油墨…</translation>
+        <translation>正在将页面分解为各种油墨…</translation>
     </message>
     <message>
         <source>There is no picture.</source>
@@ -2069,7 +2069,7 @@
     </message>
     <message>
         <source>The shown page (%1)</source>
-        <translation>显示的页面 (%1)</translation>
+        <translation>显示的页面（%1）</translation>
     </message>
     <message>
         <source>All %1 pages</source>
@@ -2081,19 +2081,19 @@
     </message>
     <message>
         <source>From page</source>
-        <translation>从第几页</translation>
+        <translation>起始页</translation>
     </message>
     <message>
         <source>From page:</source>
-        <translation>从第几页:</translation>
+        <translation>起始页：</translation>
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation>页面(&amp;G):</translation>
+        <translation>页码(&amp;G)：</translation>
     </message>
     <message>
         <source>Sheets:</source>
-        <translation>印张:</translation>
+        <translation>纸张范围：</translation>
     </message>
     <message>
         <source>New keys</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message>
         <source>Keys of “%1”:</source>
-        <translation>“%1”的快捷键:</translation>
+        <translation>“%1”的快捷键：</translation>
     </message>
     <message>
         <source>Choose a command, and then press the keys that it shall have.</source>
@@ -2196,7 +2196,7 @@
     </message>
     <message>
         <source>Angle of rotation in degrees, minutes and seconds</source>
-        <translation>旋转角度(度、分、秒)</translation>
+        <translation>旋转角度（度、分、秒）</translation>
     </message>
     <message>
         <source>AngleOfRotation</source>
@@ -2216,7 +2216,7 @@
     </message>
     <message>
         <source>ColorSpaceName:</source>
-        <translation>色彩空间:</translation>
+        <translation>色彩空间：</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -2224,15 +2224,15 @@
     </message>
     <message>
         <source>Copyright:</source>
-        <translation>版权:</translation>
+        <translation>版权：</translation>
     </message>
     <message>
         <source>CreationDate:</source>
-        <translation>创建时间:</translation>
+        <translation>创建时间：</translation>
     </message>
     <message>
         <source>Creator:</source>
-        <translation>创建程序:</translation>
+        <translation>创建程序：</translation>
     </message>
     <message>
         <source>Description</source>
@@ -2244,7 +2244,7 @@
     </message>
     <message>
         <source>Encoding:</source>
-        <translation>编码:</translation>
+        <translation>编码：</translation>
     </message>
     <message>
         <source>End of the selection</source>
@@ -2260,7 +2260,7 @@
     </message>
     <message>
         <source>For:</source>
-        <translation>用户:</translation>
+        <translation>用户：</translation>
     </message>
     <message>
         <source>Format</source>
@@ -2336,7 +2336,7 @@
     </message>
     <message>
         <source>Title:</source>
-        <translation>标题:</translation>
+        <translation>标题：</translation>
     </message>
     <message>
         <source>Toolbar</source>
@@ -2364,7 +2364,7 @@
     </message>
     <message>
         <source>Format:</source>
-        <translation>格式:</translation>
+        <translation>格式：</translation>
     </message>
     <message>
         <source>Find &amp;Next</source>
@@ -2396,11 +2396,11 @@
     </message>
     <message>
         <source>Fonts:</source>
-        <translation>字体:</translation>
+        <translation>字体：</translation>
     </message>
     <message>
         <source>Colors used:</source>
-        <translation>使用的颜色:</translation>
+        <translation>使用的颜色：</translation>
     </message>
     <message>
         <source>Encoding of the source</source>
@@ -2510,7 +2510,7 @@
     </message>
     <message>
         <source>the PostScript header states no usable bounding box</source>
-        <translation>PostScript 头部没有可用的边界框。</translation>
+        <translation>PostScript 文件头没有可用的边界框。</translation>
     </message>
     <message>
         <source>the PostScript has no usable bounding box</source>
@@ -2566,7 +2566,7 @@
     </message>
     <message>
         <source>the password is wrong</source>
-        <translation>密码错误。</translation>
+        <translation>密码不正确。</translation>
     </message>
     <message>
         <source>the document uses an encryption that is not supported</source>
@@ -2590,7 +2590,7 @@
     </message>
     <message>
         <source>page %1 is too far behind</source>
-        <translation>第 %1 页过于靠后。</translation>
+        <translation>第 %1 页的位置过于靠后。</translation>
     </message>
     <message>
         <source>page %1 has no area</source>
@@ -2682,7 +2682,7 @@
     </message>
     <message>
         <source>the compressed data is cut off</source>
-        <translation>压缩数据不完整。</translation>
+        <translation>压缩数据不完整，被截断。</translation>
     </message>
     <message>
         <source>the compressed data grows to more than %1 times its size</source>
@@ -2834,7 +2834,7 @@
     </message>
     <message>
         <source>the picture process gave an answer that cannot be true</source>
-        <translation>图片进程给出了不可能为真的应答。</translation>
+        <translation>图片进程给出了不可信的应答。</translation>
     </message>
     <message>
         <source>no process for the picture could be started</source>
@@ -2854,7 +2854,7 @@
     </message>
     <message>
         <source>the picture process could not be confined: this system offers neither Landlock nor user namespaces with seccomp filters</source>
-        <translation>无法限制图片进程：此系统既不提供 Landlock，也不提供带 seccomp 过滤器的用户命名空间。</translation>
+        <translation>无法隔离图片进程：此系统既不提供 Landlock，也不提供带 seccomp 过滤器的用户命名空间。</translation>
     </message>
     <message>
         <source>the drawing was stopped</source>
@@ -2994,7 +2994,7 @@
     </message>
     <message>
         <source>the margins leave no room on the paper</source>
-        <translation>页边距未在纸上留下空间。</translation>
+        <translation>页边距过大，纸上没有剩余空间。</translation>
     </message>
     <message>
         <source>No such file or directory</source>
@@ -3158,7 +3158,7 @@
     </message>
     <message>
         <source>the box at the end of the file stands in its header</source>
-        <translation>文件末尾的边界框已移到头部。</translation>
+        <translation>文件末尾的边界框已移到文件头。</translation>
     </message>
     <message>
         <source>the bounding box is %1 (%2)</source>
@@ -3206,7 +3206,7 @@
     </message>
     <message>
         <source>the interpreter of PostScript could not be confined</source>
-        <translation>无法限制 PostScript 解释器。</translation>
+        <translation>无法隔离 PostScript 解释器。</translation>
     </message>
     <message>
         <source>there is no %%BoundingBox</source>
@@ -3310,7 +3310,7 @@
     </message>
     <message>
         <source>the bounding box %1 is more than twice as large as the ink: %2</source>
-        <translation>边界框 %1 比图形大一倍以上：%2。</translation>
+        <translation>边界框 %1 的大小超过图形的两倍：%2。</translation>
     </message>
     <message>
         <source>the %1 section ends at byte %2, the file at byte %3</source>
@@ -3338,7 +3338,7 @@
     </message>
     <message>
         <source>the preview shows another picture than the program draws (mean difference %1 %)</source>
-        <translation>预览与程序绘制的图片不同（平均差异 %1 %）。</translation>
+        <translation>预览与程序绘制的图片不同（平均差异 %1%）。</translation>
     </message>
     <message>
         <source>the first line "%1" does not say %!PS-Adobe-3.0 EPSF-3.0</source>
@@ -3350,7 +3350,7 @@
     </message>
     <message>
         <source>the header has no %%EndComments</source>
-        <translation>头部没有 %%EndComments。</translation>
+        <translation>文件头没有 %%EndComments。</translation>
     </message>
     <message>
         <source>%%EndComments stands behind the first line that is no comment</source>
@@ -3374,7 +3374,7 @@
     </message>
     <message>
         <source>a colour takes %1 % of ink, %2 % are allowed</source>
-        <translation>有颜色的油墨总量为 %1 %，允许 %2 %。</translation>
+        <translation>有颜色的总墨量为 %1%，允许 %2%。</translation>
     </message>
     <message>
         <source>the %1 image of %2 by %3 pixels has %4 dpi, %5 are asked for</source>
@@ -3406,11 +3406,11 @@
     </message>
     <message>
         <source>it claims to keep %1</source>
-        <translation>声明符合 %1。</translation>
+        <translation>声明遵循 %1。</translation>
     </message>
     <message>
         <source>it claims to keep %1 and has no output intent</source>
-        <translation>声明符合 %1，但没有输出意图。</translation>
+        <translation>声明遵循 %1，但没有输出意图。</translation>
     </message>
     <message>
         <source>it refers to other files, which are never loaded (references: %1)</source>
@@ -3438,7 +3438,7 @@
     </message>
     <message>
         <source>%1 takes language level %2, and the header declares %3</source>
-        <translation>%1 需要语言级别 %2，而头部声明的是 %3。</translation>
+        <translation>%1 需要语言级别 %2，而文件头声明的是 %3。</translation>
     </message>
     <message>
         <source>none above 1</source>

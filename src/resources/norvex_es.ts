@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Chec&amp;kerboard behind new pictures</source>
-        <translation>&amp;Cuadrícula detrás de las imágenes nuevas</translation>
+        <translation>Fondo a &amp;cuadros tras las imágenes nuevas</translation>
     </message>
     <message>
         <source>Shows where nothing is painted, instead of the background colour.</source>
@@ -2117,7 +2117,7 @@
     </message>
     <message>
         <source>Choose a command, and then press the keys that it shall have.</source>
-        <translation>Elija un comando y pulse después las teclas que debe tener.</translation>
+        <translation>Elija una orden y pulse después las teclas que debe tener.</translation>
     </message>
     <message>
         <source>“%1” is for typing and for moving the picture. Take it together with Ctrl or Alt, or take a function key.</source>
@@ -2134,6 +2134,10 @@
     <message>
         <source>“%1” opens the menu “%2”, and nothing was changed.</source>
         <translation>«%1» abre el menú «%2»; no se ha cambiado nada.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3659,6 +3663,24 @@
     <message>
         <source>%1 is too large for a profile</source>
         <translation>%1 es demasiado grande para un perfil.</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
     </message>
 </context>
 </TS>

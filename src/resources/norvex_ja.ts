@@ -2135,6 +2135,10 @@
         <source>“%1” opens the menu “%2”, and nothing was changed.</source>
         <translation>「%1」はメニュー「%2」を開くキーです。変更しませんでした。</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>
@@ -3659,6 +3663,24 @@
     <message>
         <source>%1 is too large for a profile</source>
         <translation>%1 はプロファイルとしては大きすぎます。</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダ</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
     </message>
 </context>
 </TS>

@@ -2135,6 +2135,10 @@
         <source>“%1” opens the menu “%2”, and nothing was changed.</source>
         <translation>“%1”会打开菜单“%2”，未作任何更改。</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowController</name>
@@ -3659,6 +3663,24 @@
     <message>
         <source>%1 is too large for a profile</source>
         <translation>%1 过大，不能用作配置。</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -21,14 +22,15 @@ QString keysOf(const QAction& action) {
   return keys.join(QStringLiteral(",  "));
 }
 
-/// Commands that have keys, and those that can be given some.
-void addCommands(QTreeWidgetItem& group, const QMenu& menu, const QString& before) {
+/// Commands that have keys, and those that can be given some. `name`: "%1", or what a menu within a menu puts
+/// before it.
+void addCommands(QTreeWidgetItem& group, const QMenu& menu, const QString& name) {
   for (QAction* action : menu.actions()) {
     if (const QMenu* more = action->menu()) {
-      addCommands(group, *more, plainTitle(action->text()) + QStringLiteral(": "));
+      addCommands(group, *more, localizedString("%1: %2").arg(plainTitle(action->text()), name));
     } else if (!action->isSeparator() &&
                (OwnShortcuts::mayChange(*action) || !action->shortcuts().isEmpty())) {
-      auto* row = new QTreeWidgetItem(&group, {before + plainTitle(action->text())});
+      auto* row = new QTreeWidgetItem(&group, {name.arg(plainTitle(action->text()))});
       row->setData(0, kCommandRole, QVariant::fromValue(QPointer<QAction>(action)));
     }
   }
@@ -79,7 +81,7 @@ ShortcutList::ShortcutList(QWidget* parent, const QMenuBar& menus) : QTreeWidget
   for (const QAction* action : menus.actions()) {
     if (!action->menu()) continue;
     QTreeWidgetItem* group = addGroup(this, plainTitle(action->text()));
-    addCommands(*group, *action->menu(), {});
+    addCommands(*group, *action->menu(), QStringLiteral("%1"));
     group->setExpanded(true);
   }
   addGestures(this);
@@ -88,6 +90,11 @@ ShortcutList::ShortcutList(QWidget* parent, const QMenuBar& menus) : QTreeWidget
   header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
   header()->setStretchLastSection(false);
   setCurrentItem(topLevelItem(0));
+}
+
+int ShortcutList::wholeWidth() const {
+  return sizeHintForColumn(0) + sizeHintForColumn(1) + verticalScrollBar()->sizeHint().width() +
+         2 * frameWidth();
 }
 
 QAction* ShortcutList::command() const {

@@ -19,6 +19,8 @@ class ShortcutList final : public QTreeWidget {
   /// The command of the current row; null: it has none, or the command is gone.
   [[nodiscard]] QAction* command() const;
   void showKeys();
+  /// At which no row is cut off.
+  [[nodiscard]] int wholeWidth() const;
   /// Shows the rows that hold every word of `text`, and the groups of which any is left.
   void filter(const QString& text);
 };

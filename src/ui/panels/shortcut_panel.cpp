@@ -11,6 +11,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "base/localized_string.h"
 #include "ui/panels/centred_window.h"
 #include "ui/panels/own_shortcuts.h"
@@ -64,7 +66,7 @@ ShortcutPanel::ShortcutPanel(QWidget& window, const QMenuBar& menus) : QDialog(&
     showCommand();
   });
   showCommand();
-  resize(fittingScreen(*this, {540, 640}));
+  resize(fittingScreen(*this, {std::max(540, list_->wholeWidth()), 640}));
 }
 
 void ShortcutPanel::addSearch(QVBoxLayout& column, const QMenuBar& menus) {

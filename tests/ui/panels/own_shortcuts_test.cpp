@@ -178,6 +178,18 @@ class OwnShortcutsTest : public QObject {
             panel->focusWidget() == w.child<QKeySequenceEdit>("shortcutKeys"));
   }
 
+  void thePanelIsAsWideAsItsLongestCommand() {
+    Window w;
+    const QString longName("Reload by itself every file that another program has changed in the meantime");
+    w.window.menuBar()->actions().first()->menu()->addMenu("Files")->addAction(longName)->setShortcut(
+        Qt::Key_F6);
+    showShortcutPanel(w.window, *w.window.menuBar());
+    auto* list = w.child<QDialog>("shortcutPanel")->findChild<QTreeWidget*>();
+    const auto rows = list->findItems("Files: " + longName, Qt::MatchExactly | Qt::MatchRecursive);
+    QCOMPARE(rows.size(), 1);
+    QVERIFY(list->columnWidth(0) >= list->fontMetrics().horizontalAdvance(rows.first()->text(0)));
+  }
+
   void titlesAreReadWithoutMnemonics() {
     QCOMPARE(plainTitle("Save &As…"), QString("Save As"));
     QCOMPARE(plainTitle("Cut && &Paste"), QString("Cut & Paste"));

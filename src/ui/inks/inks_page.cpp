@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLocale>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
@@ -27,6 +28,7 @@ constexpr int kMargin = 16, kSpacing = 8, kSwatch = 14;
 /// What is usual for coated paper.
 constexpr int kUsualLimit = 300, kLargestLimit = 6000;
 enum Column { Name, Coverage, Here };
+constexpr int kInkRole = Qt::UserRole;  // the name that the page gives it
 
 QIcon swatch(const QColor& colour, const QPalette& palette) {
   QPixmap pixmap(kSwatch * 2, kSwatch * 2);
@@ -39,7 +41,18 @@ QIcon swatch(const QColor& colour, const QPalette& palette) {
 }
 
 QString percent(double value, int decimals) {
-  return localizedString("%1 %").arg(value, 0, 'f', decimals);
+  return localizedString("%1 %").arg(QLocale().toString(value, 'f', decimals));
+}
+
+/// The process inks have names of ours; a spot ink has the document's, and be it "Black".
+QString titleOf(const Ink& ink) {
+  if (!ink.isSpot) {
+    if (ink.name == u"Cyan") return localizedString("Cyan");
+    if (ink.name == u"Magenta") return localizedString("Magenta");
+    if (ink.name == u"Yellow") return localizedString("Yellow");
+    if (ink.name == u"Black") return localizedString("Black");
+  }
+  return ink.name.simplified();
 }
 
 }  // namespace
@@ -146,13 +159,15 @@ void InksPage::showInks(const PageInks& page, double most) {
   filling_ = true;
   QSet<QString> off;
   for (int i = 0; i < list_->topLevelItemCount(); ++i)
-    if (list_->topLevelItem(i)->checkState(Name) == Qt::Unchecked) off << list_->topLevelItem(i)->text(Name);
+    if (list_->topLevelItem(i)->checkState(Name) == Qt::Unchecked)
+      off << list_->topLevelItem(i)->data(Name, kInkRole).toString();
   list_->clear();
   for (qsizetype i = 0; i < page.inks.size(); ++i) {
     const Ink& ink = page.inks.at(i);
-    auto* item = new QTreeWidgetItem(list_, {ink.name.simplified(), percent(100 * ink.coverage, 1)});
+    auto* item = new QTreeWidgetItem(list_, {titleOf(ink), percent(100 * ink.coverage, 1)});
+    item->setData(Name, kInkRole, ink.name);
     item->setIcon(Name, swatch(QColor(rgbOf(ownColour(page, i))), palette()));
-    item->setCheckState(Name, off.contains(item->text(Name)) ? Qt::Unchecked : Qt::Checked);
+    item->setCheckState(Name, off.contains(ink.name) ? Qt::Unchecked : Qt::Checked);
     for (const Column column : {Coverage, Here})
       item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
   }

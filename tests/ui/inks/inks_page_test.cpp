@@ -3,9 +3,11 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QTranslator>
 #include <QTreeWidget>
 
 #include "kit/test_main.h"
@@ -24,6 +26,23 @@ PageInks page(const QStringList& spots = {"Gold"}) {
   page.plates = QByteArray(page.plateBytes() * page.inks.size(), '\0');
   return page;
 }
+
+/// Another language, as long as it lives.
+class German final : public QTranslator {
+ public:
+  German() {
+    QLocale::setDefault(QLocale("de_DE"));
+    QCoreApplication::installTranslator(this);
+  }
+  ~German() override {
+    QCoreApplication::removeTranslator(this);
+    QLocale::setDefault(QLocale::c());
+  }
+  QString translate(const char*, const char* key, const char*, int) const override {
+    return QByteArray(key) == "Black" ? QStringLiteral("Schwarz") : QString();
+  }
+  bool isEmpty() const override { return false; }
+};
 
 QTreeWidget& listOf(InksPage& page) {
   return *page.findChild<QTreeWidget*>();
@@ -66,6 +85,16 @@ class InksPageTest : public QObject {
     QCOMPARE(QColor(swatch.pixel(swatch.rect().center())), QColor(255, 242, 0));
     QVERIFY(texts(shown).contains("Most ink in one place: 240 %"));
     QCOMPARE(shown.choice().shown, QList<bool>(5, true));
+  }
+
+  void processInksAndNumbersAreInTheUsersLanguage() {
+    const German german;
+    InksPage shown;
+    shown.showInks(page({"Black"}), 240);
+    const QTreeWidget& list = listOf(shown);
+    QCOMPARE(list.topLevelItem(3)->text(0), "Schwarz");
+    QCOMPARE(list.topLevelItem(4)->text(0), "Black");  // the document's own word
+    QCOMPARE(list.topLevelItem(0)->text(1), "25,0 %");
   }
 
   void nothingLiesAboveAnythingElseWhereThereIsNoRoom() {

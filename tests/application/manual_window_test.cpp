@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QTextBlock>
 #include <QTextBrowser>
 
 #include "kit/test_main.h"
@@ -18,6 +19,19 @@ QStringList shownTopics(const ManualWindow& manual) {
   for (int row = 0; row < manual.topics()->count(); ++row)
     if (!manual.topics()->item(row)->isHidden()) shown << manual.topics()->item(row)->text();
   return shown;
+}
+
+/// Whether anything of the first page is slanted.
+bool hasItalics(const QString& locale) {
+  const QLocale before;
+  QLocale::setDefault(QLocale(locale));
+  const ManualWindow manual;
+  QLocale::setDefault(before);
+  const QTextDocument* document = manual.page()->document();
+  for (QTextBlock block = document->begin(); block.isValid(); block = block.next())
+    for (auto part = block.begin(); !part.atEnd(); ++part)
+      if (part.fragment().charFormat().fontItalic()) return true;
+  return false;
 }
 
 }  // namespace
@@ -81,6 +95,11 @@ class ManualWindowTest : public QObject {
     QLocale::setDefault(before);
     QVERIFY2(told.contains(heading), qPrintable(told.left(40)));
     QCOMPARE(toldPages, pages);
+  }
+
+  void whatIsNamedIsSlantedWhereTheScriptHasItalics() {
+    QVERIFY(hasItalics("en") && hasItalics("fr_FR"));
+    QVERIFY(!hasItalics("ja_JP") && !hasItalics("zh_CN"));
   }
 
   void everyLanguageTellsTheSame() {

@@ -12,7 +12,7 @@ namespace norvex {
 namespace {
 
 /// The press profile that comes with Ghostscript, which every installation has.
-constexpr char kPressProfile[] = "/usr/share/color/icc/ghostscript/default_cmyk.icc";
+constexpr char kPressProfile[] = NORVEX_PACKAGES_PREFIX "/share/color/icc/ghostscript/default_cmyk.icc";
 
 struct Closer {
   void operator()(void* profile) const { cmsCloseProfile(profile); }

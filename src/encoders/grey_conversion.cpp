@@ -13,7 +13,7 @@ namespace {
 
 constexpr double gamma = 1.8;
 /// The press profile that comes with Ghostscript, which every installation has.
-constexpr char pressProfile[] = "/usr/share/color/icc/ghostscript/default_cmyk.icc";
+constexpr char pressProfile[] = NORVEX_PACKAGES_PREFIX "/share/color/icc/ghostscript/default_cmyk.icc";
 
 struct ProfileCloser {
   void operator()(void* profile) const { cmsCloseProfile(profile); }

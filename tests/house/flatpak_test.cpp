@@ -1,11 +1,11 @@
 // The Flatpak's manifest: what can be known of it without building it.
+#include <QDirIterator>
 #include <QFile>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QSet>
 #include <QStandardPaths>
@@ -156,30 +156,31 @@ class FlatpakTest : public QObject {
     QCOMPARE(QSet(modules.begin(), modules.end()) - named, QSet<QString>({"norvex", "poppler-data"}));
   }
 
-  void thePatchFitsTheSources() {
-    const QStringList patches = allOf("^ +- type: patch\\n +path: (\\S+)$", manifest());
-    QCOMPARE(patches, QStringList{"app-folder.patch"});
-    QProcess git;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("GIT_DIR", "/nonexistent");  // the sources need not be a repository
-    git.setProcessEnvironment(environment);
-    git.setWorkingDirectory(kRoot);
-    git.start("git", {"apply", "--check", "--verbose", kFlatpak + patches.first()});
-    QVERIFY(git.waitForFinished());
-    const QByteArray told = git.readAllStandardError();
-    QVERIFY2(git.exitCode() == 0, told.constData());
-    QVERIFY2(told.contains("places.cpp"), told.constData());
+  void theBuildIsToldWhereTheModulesPutThingsAndItsSourcesStayAsTheyAre() {
+    QCOMPARE(allOf("^ +- type: (patch)$", manifest()), QStringList());
+    QCOMPARE(allOf("^ +- -DNORVEX_PACKAGES_PREFIX=(\\S+)$", manifest()), QStringList{"/app"});
+    QCOMPARE(allOf("^set\\(NORVEX_PACKAGES_PREFIX (\\S+) CACHE STRING", textOf(kRoot + "CMakeLists.txt")),
+             QStringList{"/usr"});
   }
 
-  /// Every folder that the programs know by name below /usr and that the modules bring below /app instead.
+  /// Every file and folder that the programs know by name and that the modules bring: below the prefix that
+  /// the build is told, nowhere below /usr.
   void whatTheModulesBringIsLookedForWhereItIs() {
-    const QString patch = textOf(kFlatpak + "app-folder.patch");
-    for (const char* folder : {"/app/lib", "/app/bin/gs", "/app/share/fonts", "/app/share/poppler",
-                               "/app/share/ghostscript", "/app/share/color"})
-      QVERIFY2(patch.contains(QStringLiteral("\n+      {\"%1\", ").arg(folder)), folder);
-    for (const QString& path : allOf("^\\+.*\"(/app/[^\"]*\\.icc)\"", patch))
-      QVERIFY(manifest().contains(path));
-    QVERIFY(!allOf("^\\+.*\"(/app/[^\"]*\\.icc)\"", patch).isEmpty());
+    QStringList below, fixed;
+    QDirIterator files(kRoot + "src", {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+      const QString text = textOf(files.next());
+      below << allOf("NORVEX_PACKAGES_PREFIX\\s+\"([^\"]*)\"", text);
+      fixed << allOf("\"(/usr/(?:share/(?:poppler|ghostscript|color)|bin/gs)[^\"]*)\"", text);
+    }
+    QCOMPARE(fixed, QStringList());
+    for (const char* path :
+         {"/lib", "/bin/gs", "/share/fonts", "/share/poppler", "/share/ghostscript", "/share/color"})
+      QVERIFY2(below.contains(QLatin1String(path)), path);
+    const QStringList profiles = below.filter(QRegularExpression("\\.icc$"));
+    QVERIFY(!profiles.isEmpty());
+    for (const QString& profile : profiles)
+      QVERIFY2(manifest().contains("/app" + profile), qPrintable(profile));
   }
 
   /// Its own program names every key that it does not know.

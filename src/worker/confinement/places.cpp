@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 namespace norvex {
@@ -27,6 +28,18 @@ void addUsersFonts(std::vector<Place>& places) {
   for (const char* rest : {"/.fonts", "/.fonts.conf", "/.fonts.conf.d", "/.fontconfig"}) add(home, rest);
   add(variable("FONTCONFIG_PATH"), "");
   add(variable("FONTCONFIG_FILE"), "");
+}
+
+/// Where the libraries that documents are read with are no part of the system: theirs and their fonts, and,
+/// as a Flatpak is shown them, the fonts of the system and the user with their caches.
+void addApplicationsFolder(std::vector<Place>& places) {
+  using enum PlaceUse;
+  if (std::string_view(NORVEX_PACKAGES_PREFIX) == "/usr") return;
+  places.push_back({NORVEX_PACKAGES_PREFIX "/lib", Read});
+  for (const char* folder : {NORVEX_PACKAGES_PREFIX "/share/fonts", "/usr/cache/fontconfig",
+                             "/run/host/font-dirs.xml", "/run/host/fonts", "/run/host/fonts-cache",
+                             "/run/host/local-fonts", "/run/host/user-fonts", "/run/host/user-fonts-cache"})
+    places.push_back({folder, ReadAndList});
 }
 
 std::vector<Place> everyPlace() {
@@ -57,17 +70,17 @@ std::vector<Place> everyPlace() {
       {"/var/lib/defoma", ReadAndList},
       // Character sets, colour profiles, and the part of Ghostscript that is PostScript. Both look up
       // folders.
-      {"/usr/share/poppler", ReadAndList},
-      {"/usr/share/ghostscript", ReadAndList},
+      {NORVEX_PACKAGES_PREFIX "/share/poppler", ReadAndList},
+      {NORVEX_PACKAGES_PREFIX "/share/ghostscript", ReadAndList},
       {"/var/lib/ghostscript", ReadAndList},
       {"/etc/ghostscript", ReadAndList},
-      {"/usr/share/color", Read},
+      {NORVEX_PACKAGES_PREFIX "/share/color", Read},
       // The devices that hold nothing of anybody's.
       {"/dev/null", Device},
       {"/dev/zero", Read},
       {"/dev/urandom", Read},
       // Ghostscript, and the loader, which the kernel counts as a started program.
-      {"/usr/bin/gs", Run},
+      {NORVEX_PACKAGES_PREFIX "/bin/gs", Run},
       {"/usr/local/bin/gs", Run},
       {"/lib64/ld-linux-x86-64.so.2", Run},
       {"/lib/ld-linux-aarch64.so.1", Run},
@@ -75,6 +88,7 @@ std::vector<Place> everyPlace() {
   std::error_code none;
   const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", none);
   if (!none) places.push_back({program.parent_path(), Read});
+  addApplicationsFolder(places);
   addUsersFonts(places);
   return places;
 }

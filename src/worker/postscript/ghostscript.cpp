@@ -53,7 +53,7 @@ struct Pipe {
 };
 
 const char* program() {
-  for (const char* path : {"/usr/bin/gs", "/usr/local/bin/gs"})
+  for (const char* path : {NORVEX_PACKAGES_PREFIX "/bin/gs", "/usr/local/bin/gs"})
     if (::access(path, X_OK) == 0) return path;
   return nullptr;
 }

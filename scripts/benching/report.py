@@ -1,5 +1,6 @@
 """The table: on the terminal, as JSON, and between the marks of a page."""
 import json
+import re
 import statistics
 
 HEAD = ["what", "", "beside", "ours", "theirs", "ratio", "best round", "processor", "goal", "met"]
@@ -42,3 +43,16 @@ def write_page(path, text):
         raise SystemExit(f"{path}: the marks between which the table belongs are missing")
     before, _, rest = page.partition(BEGIN)
     path.write_text(before + BEGIN + "\n" + text.strip() + "\n" + END + rest.partition(END)[2])
+
+
+def write_selection(path, rows, date):
+    """The rows of another page that name what was measured get its figures; which rows they are is the page's choice."""
+    cells = [_cells(row) for row in rows]
+    figures = {(f"{line[0]}: {line[1]}", line[2]): line[3:5] for line in cells}
+    lines = []
+    for line in path.read_text().split("\n"):
+        row = line[2:-2].split(" | ") if line.startswith("| ") and line.endswith(" |") else []
+        if len(row) == 4 and tuple(row[:2]) in figures:
+            line = "| " + " | ".join(row[:2] + figures[tuple(row[:2])]) + " |"
+        lines.append(re.sub(r"(Measured by `scripts/bench` on )\S+", rf"\g<1>{date}", line))
+    path.write_text("\n".join(lines))

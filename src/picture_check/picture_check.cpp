@@ -31,6 +31,8 @@ namespace {
 
 /// Pixels of the longer side of the drawing that a preview is compared with.
 constexpr double kComparedPixels = 256;
+/// Half of a tenth of a point.
+constexpr double kSharpInkDpi = 1440;
 
 /// comparedSide × comparedSide grey samples over white.
 QByteArray greySamples(const QImage& image) {
@@ -45,6 +47,19 @@ QByteArray greySamples(const QImage& image) {
   for (int y = 0; y < small.height(); ++y)
     samples.append(reinterpret_cast<const char*>(small.constScanLine(y)), small.width());
   return samples;
+}
+
+/// A program that fills whatever page it is given says nothing about its box.
+bool isEndless(const DrawnInk& drawn) {
+  return drawn.ink && drawn.ink->adjusted(-1, -1, 1, 1).contains(drawn.area);
+}
+
+/// Whether something is to be told of the ink wherever its edges are within their accuracy.
+bool maySayMore(const DrawnInk& drawn, const QRectF& box) {
+  if (!drawn.ink || isEndless(drawn)) return false;
+  const double off = drawn.accuracy;
+  return !epsInkFindings(box, drawn.ink).isEmpty() ||
+         !epsInkFindings(box, drawn.ink->adjusted(off, off, -off, -off)).isEmpty();
 }
 
 class Check {
@@ -112,14 +127,13 @@ class Check {
   }
 
   void checkInk(PictureProcess& process, const QRectF& box) {
-    const Result<DrawnInk> drawn = inkOfEps(process, box, cancel_);
-    if (!drawn) {
+    Result<DrawnInk> drawn = inkOfEps(process, box, InkEdges::Coarse, cancel_);
+    // Sharp edges cost as much as all the rest: they are looked for where something is to be told of them.
+    if (drawn && maySayMore(*drawn, box)) drawn = inkOfEps(process, box, InkEdges::Sharp, cancel_);
+    if (!drawn)
       result_.error = drawn.error();
-      return;
-    }
-    // A program that fills whatever page it is given says nothing about its box.
-    const bool isEndless = drawn->ink && drawn->ink->adjusted(-1, -1, 1, 1).contains(drawn->area);
-    if (!isEndless) add(epsInkFindings(box, drawn->ink));
+    else if (!isEndless(*drawn))
+      add(epsInkFindings(box, drawn->ink));
   }
 
   void comparePreview(PictureProcess& process, const QRectF& box, const NSBitmapImageRep& preview) {
@@ -195,8 +209,11 @@ CheckedPicture checkPicture(PictureService& service, const CheckRequest& request
   return checked;
 }
 
-Result<DrawnInk> inkOfEps(PictureProcess& process, const QRectF& box, const CancelToken& cancel) {
-  const Result<PictureBytes> answer = process.examine({Examination::Drawn, 0}, cancel);
+Result<DrawnInk> inkOfEps(PictureProcess& process, const QRectF& box, InkEdges edges,
+                          const CancelToken& cancel) {
+  ExamineRequest request{Examination::Drawn, 0};
+  if (edges == InkEdges::Sharp) request.dpi = kSharpInkDpi;
+  const Result<PictureBytes> answer = process.examine(request, cancel);
   if (!answer) return answer.error();
   Result<DrawnInk> drawn = decodeDrawnInk(answer->bytes);
   if (!drawn) return drawn.error();

@@ -33,9 +33,13 @@ struct CheckRequest {
 [[nodiscard]] CheckedPicture checkPicture(PictureService& service, const CheckRequest& request,
                                           const CancelToken& cancel = {});
 
+/// How well the edges of ink are to be known: as a first look shows them, which is never too small by more
+/// than what no pixel shows, or within a tenth of a point.
+enum class InkEdges { Coarse, Sharp };
+
 /// The area that the program of an EPS file inks, in PostScript's default user space. `box`: the one that the
 /// file states, from where the answer is counted. Fails as PictureProcess::examine().
-[[nodiscard]] Result<DrawnInk> inkOfEps(PictureProcess& process, const QRectF& box,
+[[nodiscard]] Result<DrawnInk> inkOfEps(PictureProcess& process, const QRectF& box, InkEdges edges,
                                         const CancelToken& cancel);
 
 }  // namespace norvex

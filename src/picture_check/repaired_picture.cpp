@@ -53,7 +53,7 @@ class Repair {
     const QByteArray drawable = stated ? program : repairedEps(program, kAnywhere, false).program;
     const QRectF shown = stated.value_or(kAnywhere);
     const auto process = service_.open(drawable, PictureKind::Eps, limits_);
-    const Result<DrawnInk> drawn = inkOfEps(*process, shown, cancel_);
+    const Result<DrawnInk> drawn = inkOfEps(*process, shown, InkEdges::Sharp, cancel_);
     if (!drawn) return drawn.error();
     const bool isEndless = drawn->ink && drawn->ink->adjusted(-1, -1, 1, 1).contains(drawn->area);
     const auto box = mendedBox(stated, isEndless ? stated : drawn->ink, drawn->painted);

@@ -86,6 +86,9 @@ class OutputTest : public QObject {
     QCOMPARE(complaint({"convert", "a.eps", "--to", "", "--format", "png"}),
              "norvex: the name that follows --to is empty");
     QCOMPARE(complaint({"status", "s", "--merge", ""}), "norvex: the name that follows --merge is empty");
+    QCOMPARE(complaint({"inks", "a.eps", "--plates", ""}), "norvex: the name that follows --plates is empty");
+    QCOMPARE(complaint({"check", "a.eps", "--profile", ""}),
+             "norvex: the name that follows --profile is empty");
   }
 
   void whatAVectorFormatDoesNotUseIsRefused() {

@@ -110,7 +110,7 @@ QString archiveOptionOf(const Arguments& arguments) {
 QString emptyName(const Arguments& arguments) {
   if (arguments.files.contains(QString())) return QStringLiteral("a file's name is empty");
   for (const Option option : {Option::Output, Option::Folder, Option::FilesFrom, Option::Recursive,
-                              Option::Base, Option::State, Option::Report})
+                              Option::Plates, Option::Profile, Option::Base, Option::State, Option::Report})
     if (arguments.has(option) && arguments.values.value(option).isEmpty())
       return QStringLiteral("the name that follows --%1 is empty").arg(latin1(rowOf(option).name));
   if (arguments.lists.value(Option::Merge).contains(QString()))

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "protocol/limits.h"
 
 namespace norvex::engine {
 namespace {
 
+constexpr double kPointsPerInch = 72;
 constexpr double kCoarsePixels = 3.0e6;
 constexpr double kCoarsest = 2;  // pixels a point at most: the first look
 constexpr double kFinest = 20;   // and the second: half of a tenth of a point to spare
@@ -70,20 +72,21 @@ void setEdge(QRectF& rect, Edge edge, const QRectF& sharp) {
   if (edge == Edge::High) rect.setBottom(sharp.bottom());
 }
 
-/// Brings each edge of drawn.ink, known to `coarse` points, to where it is.
-Result<void> sharpen(DrawnInk& drawn, double coarse, int page, const DrawPart& draw) {
+/// Brings each edge of drawn.ink to where it is, with `finest` pixels a point at most.
+Result<void> sharpen(DrawnInk& drawn, double finest, int page, const DrawPart& draw) {
   const QRectF found = *drawn.ink;
+  const double coarse = std::exchange(drawn.accuracy, 0);
   for (const Edge edge : {Edge::Left, Edge::Right, Edge::Low, Edge::High}) {
     const QRectF strip = stripOf(found, edge, 2 * coarse, drawn.area);
     if (strip.isEmpty()) continue;
-    const double scale = scaleFor(strip, kFinest, limits::maximumInkPixels);
+    const double scale = scaleFor(strip, finest, limits::maximumInkPixels);
     const Look look(strip, scale);
     const Result<Bitmap> bitmap = look.draw(page, draw);
     if (!bitmap) return bitmap.error();
     const QRect pixels = inkedPixels(*bitmap);
-    if (pixels.isEmpty()) continue;  // too little to be seen so sharply: the coarse edge stands
-    setEdge(*drawn.ink, edge, look.placeOf(pixels));
-    drawn.accuracy = std::max(drawn.accuracy, 1 / scale);
+    // Too little to be seen so sharply: the coarse edge stands.
+    drawn.accuracy = std::max(drawn.accuracy, pixels.isEmpty() ? coarse : 1 / scale);
+    if (!pixels.isEmpty()) setEdge(*drawn.ink, edge, look.placeOf(pixels));
   }
   return {};
 }
@@ -107,7 +110,7 @@ QRect inkedPixels(const Bitmap& bitmap, bool white) {
   return top < 0 ? QRect() : QRect(QPoint(left, top), QPoint(right, bottom));
 }
 
-Result<DrawnInk> findInk(const QRectF& area, int page, const DrawPart& draw) {
+Result<DrawnInk> findInk(const QRectF& area, int page, double dpi, const DrawPart& draw) {
   DrawnInk drawn;
   drawn.area = area;
   if (!(area.width() > 0 && area.height() > 0)) return drawn;
@@ -120,7 +123,10 @@ Result<DrawnInk> findInk(const QRectF& area, int page, const DrawPart& draw) {
   const QRect pixels = inkedPixels(*bitmap);
   if (pixels.isEmpty()) return drawn;
   drawn.ink = look.placeOf(pixels).intersected(area);
-  if (const Result<void> sharp = sharpen(drawn, 1 / scale, page, draw); !sharp) return sharp.error();
+  drawn.accuracy = 1 / scale;
+  const double finest = std::min(kFinest, dpi / kPointsPerInch);
+  if (finest <= scale) return drawn;
+  if (const Result<void> sharp = sharpen(drawn, finest, page, draw); !sharp) return sharp.error();
   return drawn;
 }
 

@@ -15,9 +15,10 @@ namespace norvex::engine {
 /// Draws what a request asks for, unpainted pixels transparent.
 using DrawPart = std::function<Result<Bitmap>(const RenderRequest& request)>;
 
-/// Looks at `area` (picture coordinates) coarsely, then sharply along the four edges of what was found.
+/// Looks at `area` (picture coordinates) coarsely, then along the four edges of what was found, with pixels
+/// of `dpi` at most. Ink is never larger than what the coarse look finds, and as sharp as `accuracy` says.
 /// `page`: of the requests. Fails as `draw` does.
-[[nodiscard]] Result<DrawnInk> findInk(const QRectF& area, int page, const DrawPart& draw);
+[[nodiscard]] Result<DrawnInk> findInk(const QRectF& area, int page, double dpi, const DrawPart& draw);
 
 /// The smallest rectangle around pixels that are neither transparent nor white; empty without any. With
 /// `white`, around those that are not transparent.

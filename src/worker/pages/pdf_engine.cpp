@@ -83,7 +83,7 @@ class PdfEngine final : public DocumentEngine {
     const Result<QSizeF> size = shownSize(request.page);
     if (!size) return size.error();
     if (request.what == Examination::Contents) return contents(request.page);
-    if (request.what == Examination::Drawn) return inked(request.page, *size);
+    if (request.what == Examination::Drawn) return inked(request, *size);
     if (request.what == Examination::Text) return letters(request.page, *size);
     if (request.what == Examination::Names) return names(request.page);
     return DocumentEngine::examine(request);
@@ -114,9 +114,9 @@ class PdfEngine final : public DocumentEngine {
     });
   }
 
-  [[nodiscard]] Result<EngineBytes> inked(int page, QSizeF size) {
-    const Result<DrawnInk> ink =
-        findInk(QRectF(QPointF(0, 0), size), page, [&](const RenderRequest& part) { return render(part); });
+  [[nodiscard]] Result<EngineBytes> inked(const ExamineRequest& request, QSizeF size) {
+    const Result<DrawnInk> ink = findInk(QRectF(QPointF(0, 0), size), request.page, request.dpi,
+                                         [&](const RenderRequest& part) { return render(part); });
     if (!ink) return ink.error();
     return EngineBytes{encodeDrawnInk(*ink), {}};
   }

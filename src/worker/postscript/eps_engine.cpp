@@ -95,7 +95,7 @@ class EpsEngine final : public DocumentEngine {
     if (request.what != Examination::Contents && request.what != Examination::Drawn)
       return DocumentEngine::examine(request);
     if (const Result<void> ready = prepareSurroundings(request.page); !ready) return ready.error();
-    return request.what == Examination::Contents ? contents() : drawn();
+    return request.what == Examination::Contents ? contents() : drawn(request.dpi);
   }
 
  private:
@@ -147,10 +147,11 @@ class EpsEngine final : public DocumentEngine {
     return surroundingsRenderer_->render(part, area, context_.limits);
   }
 
-  [[nodiscard]] Result<EngineBytes> drawn() {
+  [[nodiscard]] Result<EngineBytes> drawn(double dpi) {
     const double margin = surroundingsOf(box_);
     const QRectF area(-margin, -margin, box_.width() + 2 * margin, box_.height() + 2 * margin);
-    const Result<DrawnInk> ink = findInk(area, 0, [&](const RenderRequest& part) { return drawPart(part); });
+    const Result<DrawnInk> ink =
+        findInk(area, 0, dpi, [&](const RenderRequest& part) { return drawPart(part); });
     if (!ink) return ink.error();
     return EngineBytes{encodeDrawnInk(*ink), {}};
   }

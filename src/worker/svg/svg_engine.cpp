@@ -292,8 +292,8 @@ Result<EngineBytes> SvgEngine::examine(const ExamineRequest& request) {
     return EngineBytes{encodePageText(*found), {}};
   }
   if (request.what != Examination::Drawn) return DocumentEngine::examine(request);
-  const Result<DrawnInk> ink =
-      findInk(QRectF(QPointF(0, 0), points()), 0, [&](const RenderRequest& part) { return render(part); });
+  const Result<DrawnInk> ink = findInk(QRectF(QPointF(0, 0), points()), 0, request.dpi,
+                                       [&](const RenderRequest& part) { return render(part); });
   if (!ink) return ink.error();
   return EngineBytes{encodeDrawnInk(*ink), {}};
 }

@@ -65,6 +65,35 @@ class CheckTest : public QObject {
             pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("there is no limit"));
   }
 
+  void edgesOfTheInkAreLookedForSharplyWhereSomethingIsToBeTold() {
+    CheckFixture f;
+    QRectF ink(0.4, 0.4, 199, 99);
+    QList<double> looks;
+    MemoryPicture picture = soundPicture();
+    picture.examine = [&, answer = picture.examine](const ExamineRequest& request) {
+      if (request.what != Examination::Drawn) return answer(request);
+      looks << request.dpi;
+      return encodeDrawnInk({ink, ink, QRectF(-50, -50, 300, 200), request.dpi > 1000 ? 0.05 : 0.5});
+    };
+    f.service.setPicture(picture);
+    CheckCommand* command = f.checked(f.shown());
+    QCOMPARE(looks.size(), 1);
+    const double coarse = looks[0];
+    const auto looked = [&](const QRectF& at) {
+      looks.clear();
+      ink = at;
+      command->start();
+      return QTest::qWaitFor([&] { return !command->isChecking(); }, 20000);
+    };
+    QVERIFY(looked(QRectF(0, 0, 210, 100)));
+    QCOMPARE(looks.size(), 2);
+    QVERIFY(looks[0] == coarse && looks[1] > 5 * coarse);
+    QVERIFY(hasFinding(command->findings(), "eps.bounding-box.cuts-ink"));
+    // Half of the box, or a hair less.
+    QVERIFY(looked(QRectF(0, 0, 100.5, 50.5)));
+    QCOMPARE(looks.size(), 2);
+  }
+
   void aPlaceIsMarkedInThePicture() {
     CheckFixture f;
     MainWindowController& c = f.shown();

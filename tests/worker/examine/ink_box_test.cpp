@@ -12,11 +12,13 @@ using namespace norvex::engine;
 
 namespace {
 
-Result<DrawnInk> inkOf(const QByteArray& contents, QSizeF size = {200, 100}) {
+constexpr double kSharp = 1440, kCoarse = 72;
+
+Result<DrawnInk> inkOf(const QByteArray& contents, QSizeF size = {200, 100}, double dpi = kSharp) {
   const QByteArray box =
       "/MediaBox [0 0 " + QByteArray::number(size.width()) + ' ' + QByteArray::number(size.height()) + ']';
   PdfRenderer renderer(kit::onePage(contents, box));
-  return findInk(QRectF(QPointF(0, 0), size), 0,
+  return findInk(QRectF(QPointF(0, 0), size), 0, dpi,
                  [&](const RenderRequest& request) { return renderer.render(request, size, {}); });
 }
 
@@ -47,6 +49,30 @@ class InkBoxTest : public QObject {
     QVERIFY(isNear(inkOf("10 10 20 20 re f 190.2 90.3 0.3 0.3 re f")->ink, QRectF(10, 10, 180.5, 80.6)));
   }
 
+  void aCoarseLookIsNeverTooSmallAndSaysHowGoodItIs() {
+    const QRectF wanted(10.37, 20.61, 30.15, 40.83);
+    const Result<DrawnInk> drawn = inkOf("10.37 20.61 30.15 40.83 re f", {200, 100}, kCoarse);
+    QVERIFY(drawn && drawn->ink && drawn->ink->contains(wanted));
+    const double off = drawn->accuracy;
+    QVERIFY(off > 0.1 && off <= 0.5);
+    QVERIFY(wanted.adjusted(-off, -off, off, off).contains(*drawn->ink));
+    QVERIFY(inkOf("10 10 20 20 re f")->accuracy <= 0.1);
+  }
+
+  void aCoarseLookIsOne() {
+    int looks = 0;
+    const auto draw = [&](const RenderRequest& request) {
+      ++looks;
+      Result<Bitmap> bitmap = Bitmap::create(request.pixelSize);
+      if (bitmap) bitmap->row(bitmap->height() / 2)[bitmap->width() / 2] = 0xff000000;
+      return bitmap;
+    };
+    QVERIFY(findInk(QRectF(0, 0, 90, 90), 0, kCoarse, draw)->ink);
+    QCOMPARE(looks, 1);
+    QVERIFY(findInk(QRectF(0, 0, 90, 90), 0, kSharp, draw)->ink);
+    QCOMPARE(looks, 6);
+  }
+
   void whiteIsPaintedAndNoInk() {
     const Result<DrawnInk> drawn = inkOf("1 g 5 5 100 60 re f 0 g 20 20 10 10 re f");
     QVERIFY(isNear(drawn->ink, QRectF(20, 20, 10, 10)));
@@ -60,7 +86,7 @@ class InkBoxTest : public QObject {
   }
 
   void aDrawingThatFailsIsTold() {
-    const Result<DrawnInk> drawn = findInk(QRectF(0, 0, 9, 9), 0, [](const RenderRequest&) {
+    const Result<DrawnInk> drawn = findInk(QRectF(0, 0, 9, 9), 0, kSharp, [](const RenderRequest&) {
       return Result<Bitmap>(Error{ErrorKind::Limit, "no"});
     });
     QVERIFY(!drawn.ok());

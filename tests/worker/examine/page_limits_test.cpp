@@ -147,7 +147,7 @@ class PageLimitsTest : public QObject {
     double most = 0;
     int looks = 0;
     const QRectF area(0, 0, 3'000, 1'000'000);
-    const Result<DrawnInk> ink = findInk(area, 0, [&](const RenderRequest& request) {
+    const Result<DrawnInk> ink = findInk(area, 0, 1440, [&](const RenderRequest& request) {
       ++looks;
       most = std::max(most, double(request.pixelSize.width()) * request.pixelSize.height());
       Result<Bitmap> bitmap = Bitmap::create(request.pixelSize);

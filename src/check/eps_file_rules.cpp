@@ -5,10 +5,10 @@
 
 #include "base/blanks.h"
 #include "check/file_wrapping.h"
+#include "check/program_lines.h"
 #include "check/resource_fork.h"
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_completeness.h"
-#include "metadata/eps_lines.h"
 
 namespace norvex {
 namespace {
@@ -58,13 +58,16 @@ void checkBytesBefore(Findings& findings, QByteArrayView file, QByteArrayView pr
       QStringLiteral("bytes before %!PS-Adobe: %1").replace(QStringLiteral("%1"), QString::number(count)));
 }
 
+/// What stands behind the last %%EOF of the document itself.
+QByteArrayView bytesBehind(QByteArrayView program) {
+  if (program.lastIndexOf("%%EOF") < 0) return {};
+  const QList<ProgramLine> lines = programLines(program);
+  const qsizetype end = documentLines(lines).size();
+  return end < lines.size() ? program.sliced(lines[end].start) : QByteArrayView();
+}
+
 void checkBytesBehind(Findings& findings, QByteArrayView program) {
-  qsizetype last = -1;
-  for (qsizetype at = program.lastIndexOf("%%EOF");
-       at >= 0 && last<0; at = at> 0 ? program.lastIndexOf("%%EOF", at - 1) : -1)
-    if (beginsLine(program, at)) last = lineEndOf(program, at);
-  if (last < 0) return;
-  const QByteArrayView behind = program.sliced(last);
+  const QByteArrayView behind = bytesBehind(program);
   // Illustrator keeps its own copy of the document there, as comments.
   if (behind.trimmed().startsWith("%AI")) return;
   const qsizetype count = std::count_if(behind.begin(), behind.end(), [](char c) {

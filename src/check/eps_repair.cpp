@@ -58,12 +58,6 @@ QByteArray realNumbers(const QRectF& box) {
   return numbers.join(' ');
 }
 
-/// A line of the drawing: neither a comment nor what transports leave behind.
-bool isDrawing(const ProgramLine& line) {
-  return line.part == LinePart::Program && !line.text.startsWith('%') && !looksLikeData(line.text) &&
-         !std::all_of(line.text.begin(), line.text.end(), isPostScriptSpace);
-}
-
 /// With an end of the document that stands in its header, before all of the drawing.
 QSet<qsizetype> commentsToLeaveOut(const QList<ProgramLine>& lines) {
   QSet<qsizetype> misplaced = misplacedComments(lines);
@@ -190,7 +184,7 @@ class Mending {
   /// Behind the %%EOF that ends the trailer which begins at `trailer`; behind all lines without one.
   [[nodiscard]] qsizetype documentEnd(qsizetype trailer) const {
     for (qsizetype i = trailer; i < lines_.size(); ++i)
-      if (isComment(lines_[i], "%%EOF") && !misplaced_.contains(i)) return i + 1;
+      if (isStructure(lines_[i]) && isComment(lines_[i], "%%EOF") && !misplaced_.contains(i)) return i + 1;
     return lines_.size();
   }
 
@@ -203,7 +197,7 @@ class Mending {
       }
       if (isLeftOut(i)) continue;
       append(lines_[i], i);
-      ended = isComment(lines_[i], "%%EOF");
+      ended = isStructure(lines_[i]) && isComment(lines_[i], "%%EOF");
     }
     // What a program keeps behind the document for itself is of use to it.
     if (ended && end < lines_.size() && lines_[end].text.startsWith("%AI"))

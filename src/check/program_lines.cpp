@@ -40,6 +40,7 @@ class Cutter {
       const auto bytes = announcedBytes(line);
       if (bytes && *bytes <= program_.size() - at_) takeData(*bytes);
     }
+    markNested();
     return lines_;
   }
 
@@ -81,6 +82,21 @@ class Cutter {
     return isText ? LinePart::Program : part;
   }
 
+  /// A resource that came as a file of its own may stand in the program as it was, without a comment around
+  /// it: its %%EOF ends nothing but itself.
+  void markNested() {
+    const auto last = std::find_if(lines_.rbegin(), lines_.rend(), isDrawing).base();
+    qsizetype first = -1;
+    for (qsizetype i = 1; i < last - lines_.begin(); ++i) {
+      if (lines_[i].part != LinePart::Program) continue;
+      if (first < 0 && lines_[i].text.startsWith("%!")) first = i;
+      if (first < 0 || !isComment(lines_[i], "%%EOF")) continue;
+      for (; first <= i; ++first)
+        if (lines_[first].part == LinePart::Program) lines_[first].part = LinePart::Embedded;
+      first = -1;
+    }
+  }
+
   QByteArrayView program_;
   qsizetype at_ = 0;
   int number_ = 0;
@@ -93,6 +109,11 @@ class Cutter {
 
 QList<ProgramLine> programLines(QByteArrayView program) {
   return Cutter(program).run();
+}
+
+bool isDrawing(const ProgramLine& line) {
+  return line.part == LinePart::Program && !line.text.startsWith('%') && !looksLikeData(line.text) &&
+         !std::all_of(line.text.begin(), line.text.end(), isPostScriptSpace);
 }
 
 bool isComment(const ProgramLine& line, QByteArrayView keyword) {

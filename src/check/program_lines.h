@@ -11,7 +11,8 @@ enum class LinePart {
   Program,   ///< of the document itself
   Preview,   ///< between %%BeginPreview and %%EndPreview
   Data,      ///< announced by %%BeginData or %%BeginBinary
-  Embedded,  ///< between %%BeginDocument and %%EndDocument: another document's own structure
+  Embedded,  ///< between %%BeginDocument and %%EndDocument, or a second %! and its %%EOF with more of the
+             ///< program behind: another document's own structure
 };
 
 enum class LineEnd { None, Lf, Cr, CrLf };
@@ -28,6 +29,8 @@ struct ProgramLine {
 /// ends are among them. Thread-safe.
 [[nodiscard]] QList<ProgramLine> programLines(QByteArrayView program);
 
+/// A line of the drawing: neither a comment nor what transports leave behind.
+[[nodiscard]] bool isDrawing(const ProgramLine& line);
 /// True if the line begins with this comment: the keyword and then a colon, a blank or nothing.
 [[nodiscard]] bool isComment(const ProgramLine& line, QByteArrayView keyword);
 /// True for a comment that stands behind the header wherever the header ends: it begins or ends a section, a

@@ -65,6 +65,20 @@ class EpsFileRulesTest : public QObject {
              QStringList{"metafile"});
   }
 
+  void whatStandsBehindTheDocumentsOwnEndIsCounted() {
+    const auto told = [](const QByteArray& bytes) {
+      for (const Finding& one : epsFileFindings(bytes))
+        if (one.rule->identifier == "eps.bytes.behind") return one.sentence;
+      return QString();
+    };
+    QCOMPARE(told(kProgram), QString());
+    QCOMPARE(told(kProgram + "\x04\n"), QString());
+    QCOMPARE(told(kProgram + "%AI9_PrivateDataBegin\n"), QString());
+    QCOMPARE(told(kProgram + "grestore\n"), QString("bytes behind %%EOF: 8"));
+    const QByteArray font = "%!PS-Adobe-3.0 Resource-Font\n12 dict pop\n%%EOF\n";
+    QCOMPARE(told("%!PS-Adobe-3.0 EPSF-3.0\n%%EndComments\n" + font + "9 9 moveto\nshowpage\n"), QString());
+  }
+
   void theSectionThatEndsBehindTheFileIsNamed() {
     const qsizetype n = kProgram.size();
     QCOMPARE(sectionsOf(file({30, n}, {30 + n, 10}, {0, 0}, 39 + n), "eps.dos-header.outside"),

@@ -111,6 +111,13 @@ class EpsRepairTest : public QObject {
     QCOMPARE(repaired("%!PS\n" + kBody + end + "rubbish\n" + kept), repaired("%!PS\n" + kBody + end));
   }
 
+  void theEndOfAFontInTheProgramDoesNotTakeTheDrawingWithIt() {
+    const QByteArray font = "%!PS-Adobe-3.0 Resource-Font\n%%Title: a\n%%EndComments\n12 dict pop\n%%EOF\n";
+    const QByteArray program = "%%BeginProlog\n" + font + "%%EndProlog\n" + kBody + "showpage\n";
+    const QByteArray result = repaired("%!PS\n%%EndComments\n" + program);
+    QVERIFY2(result.endsWith("%%EndComments\n" + program + "%%EOF\n"), result.constData());
+  }
+
   void aMissingEndOfTheHeaderIsPutBeforeTheFirstSection() {
     for (const QByteArray section :
          {"%%EndProlog\n", "%%BeginProlog\n%%EndProlog\n", "%%BeginSetup\n%%EndSetup\n", "%%Page: 1 1\n",

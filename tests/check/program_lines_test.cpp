@@ -61,6 +61,19 @@ class ProgramLinesTest : public QObject {
     QCOMPARE(partsOf(lines), QList<LinePart>({Header, Header, Program, Preview, Preview, Program, Embedded,
                                               Program, Program}));
   }
+
+  void aResourceThatCameWithItsOwnEndEndsNothing() {
+    using enum LinePart;
+    const QByteArray font = "%!PS-Adobe-3.0 Resource-Font\n%%EndComments\n12 dict\n%%EOF\n";
+    const QByteArray program = "%!PS\n%%EndComments\n" + font + "%%EndProlog\nshowpage\n";
+    const QList<ProgramLine> lines = programLines(program);
+    QCOMPARE(partsOf(lines),
+             QList<LinePart>({Header, Header, Embedded, Embedded, Embedded, Embedded, Program, Program}));
+    QCOMPARE(documentLines(lines).size(), lines.size());
+    // Behind which nothing is drawn any more, it is the document's.
+    const QByteArray second = "%!PS\nshowpage\n%%EOF\n" + font + "%%Trailer\n";
+    QCOMPARE(documentLines(programLines(second)).size(), 7);
+  }
 };
 
 NORVEX_TEST(ProgramLinesTest)

@@ -47,7 +47,8 @@ QStringList namesOf(QStringView list) {
 }  // namespace
 
 void SvgFonts::element(const QString& name) {
-  static const QSet<QString> texts{"text", "tspan", "textPath", "tref", "flowRoot"};
+  // Text that flows into a shape, of a draft of SVG 1.2, is drawn by nobody but who wrote it.
+  static const QSet<QString> texts{"text", "tspan", "textPath", "tref"};
   static const QSet<QString> shapes{"path", "rect",     "circle",  "ellipse",
                                     "line", "polyline", "polygon", "image"};
   if (texts.contains(name)) hasText_ = true;

@@ -19,6 +19,8 @@ namespace {
 constexpr QByteArrayView kFirstLine("%!PS-Adobe-3.0 EPSF-3.0");
 /// Points by which white may miss the edge of a box that it fills.
 constexpr double kNear = 1.5;
+/// Points by which two measurements of the same ink may differ.
+constexpr double kSame = 0.1;
 
 QByteArray endOf(const ProgramLine& line) {
   return line.end == LineEnd::Cr ? "\r" : line.end == LineEnd::CrLf ? "\r\n" : "\n";
@@ -56,6 +58,11 @@ QByteArray realNumbers(const QRectF& box) {
     numbers << (text == "-0" ? QByteArray("0") : text);
   }
   return numbers.join(' ');
+}
+
+bool areSame(const QRectF& one, const QRectF& other) {
+  return one.adjusted(-kSame, -kSame, kSame, kSame).contains(other) &&
+         other.adjusted(-kSame, -kSame, kSame, kSame).contains(one);
 }
 
 /// With an end of the document that stands in its header, before all of the drawing.
@@ -236,6 +243,7 @@ EpsRepair repairedEps(const QByteArray& program, const QRectF& box, bool dropPre
 std::optional<QRectF> mendedBox(const std::optional<QRectF>& stated, const std::optional<QRectF>& ink,
                                 const std::optional<QRectF>& painted) {
   if (!ink) return stated;
+  if (stated && areSame(*stated, *ink)) return stated;
   if (!stated || !painted) return ink;
   const bool encloses = stated->adjusted(-0.1, -0.1, 0.1, 0.1).contains(*ink);
   const bool isFilled = painted->adjusted(-kNear, -kNear, kNear, kNear).contains(*stated);

@@ -25,9 +25,9 @@ struct EpsRepair {
 /// byte. With `dropPreview` the interchange preview is left out, which is all comments.
 [[nodiscard]] EpsRepair repairedEps(const QByteArray& program, const QRectF& box, bool dropPreview);
 
-/// The box to write: around the ink, unless the stated one encloses it and white was painted up to its edges.
-/// `ink` and `painted` as DrawnInk has them, but in default user space. Nothing: nothing is drawn and no box
-/// is stated.
+/// The box to write: around the ink, unless the stated one is as near to it as it can be measured, or
+/// encloses it and white was painted up to its edges. `ink` and `painted` as DrawnInk has them, but in
+/// default user space. Nothing: nothing is drawn and no box is stated.
 [[nodiscard]] std::optional<QRectF> mendedBox(const std::optional<QRectF>& stated,
                                               const std::optional<QRectF>& ink,
                                               const std::optional<QRectF>& painted);

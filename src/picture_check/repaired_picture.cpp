@@ -49,14 +49,17 @@ class Repair {
 
  private:
   Result<QRectF> boxFor(const QByteArray& program) {
-    const std::optional<QRectF> stated = epsPictureBox(epsBoundingBoxes(program));
+    const EpsBoundingBoxes boxes = epsBoundingBoxes(program);
+    const std::optional<QRectF> stated = epsPictureBox(boxes);
+    const bool isExact = boxes.hiResBoundingBox && !boxes.hiResBoundingBox->isEmpty();
+    const std::optional<QRectF> exact = isExact ? boxes.hiResBoundingBox : stated;
     const QByteArray drawable = stated ? program : repairedEps(program, kAnywhere, false).program;
     const QRectF shown = stated.value_or(kAnywhere);
     const auto process = service_.open(drawable, PictureKind::Eps, limits_);
     const Result<DrawnInk> drawn = inkOfEps(*process, shown, InkEdges::Sharp, cancel_);
     if (!drawn) return drawn.error();
     const bool isEndless = drawn->ink && drawn->ink->adjusted(-1, -1, 1, 1).contains(drawn->area);
-    const auto box = mendedBox(stated, isEndless ? stated : drawn->ink, drawn->painted);
+    const auto box = mendedBox(exact, isEndless ? exact : drawn->ink, drawn->painted);
     if (box) return *box;
     return Error{ErrorKind::NotParsable, QStringLiteral("it draws nothing and states no bounding box")};
   }

@@ -202,6 +202,10 @@ class EpsRepairTest : public QObject {
     const QRectF almost(0.2, 0.1, 99.4, 99.8);
     QCOMPARE(mendedBox(stated, almost, almost), std::optional(almost));
     QCOMPARE(mendedBox(QRectF(15, 15, 2, 2), ink, stated), std::optional(ink));
+    const QRectF measuredAgain = ink.adjusted(0.06, -0.06, -0.05, 0.07);
+    QCOMPARE(mendedBox(ink, measuredAgain, measuredAgain), std::optional(ink));
+    const QRectF farther = ink.adjusted(0, 0.12, 0, 0);
+    QCOMPARE(mendedBox(ink, farther, farther), std::optional(farther));
     QCOMPARE(mendedBox(stated, std::nullopt, stated), std::optional(stated));
     QCOMPARE(mendedBox(std::nullopt, ink, ink), std::optional(ink));
     QCOMPARE(mendedBox(std::nullopt, std::nullopt, std::nullopt), std::optional<QRectF>());

@@ -22,6 +22,11 @@ bool isFinal(ErrorKind kind) {
          kind != ErrorKind::Protocol;
 }
 
+bool isOfPage(const RequestBody& body, int page) {
+  const auto* drawing = std::get_if<RenderRequest>(&body);
+  return drawing != nullptr && drawing->purpose == RenderPurpose::View && drawing->page == page;
+}
+
 /// True if the process lives and can do nothing any more that takes PostScript.
 bool hasLostInterpreter(const WorkerAnswer& answer) {
   const auto* error = std::get_if<Error>(&answer.body);
@@ -125,6 +130,14 @@ Result<WorkerAnswer> WorkerClient::askOnce(RequestBody body, const CancelToken& 
                                            std::optional<QDeadlineTimer>& until) {
   if (auto outcome = known(); outcome && !*outcome) return outcome->error();
   if (cancel.cancelled()) return workCancelled();
+  // Only what a program had begun is worth waiting for who tells it: on a busy machine that takes its time.
+  const bool isBegun = kind_ == PictureKind::Eps && isOfPage(body, begunPage);
+  if (connection_) {
+    const QDeadlineTimer patience(isBegun ? qint64(limits::toolSeconds) * 1000 : 0);
+    if (auto settled = connection_->settle(patience, cancel);
+        !settled && settled.error().kind == ErrorKind::Cancelled)
+      return settled.error();
+  }
   if (connection_ && opening_ == 0 && !connection_->isUsable()) connection_.reset();
   if (!connection_) {
     if (auto begun = beginToOpen(until.value_or(deadline())); !begun) return begun.error();
@@ -132,10 +145,11 @@ Result<WorkerAnswer> WorkerClient::askOnce(RequestBody body, const CancelToken& 
   if (opening_ != 0) {
     if (auto facts = finishOpening(cancel); !facts) return facts.error();
   }
+  const bool mayHaveBegun = kind_ == PictureKind::Eps && isOfPage(body, 0);
   const Result<quint32> id = connection_->post(std::move(body), memory);
   if (!id) return id.error();
   if (!until) until = deadline();
-  Result<WorkerAnswer> answer = connection_->wait(*id, *until, cancel);
+  Result<WorkerAnswer> answer = connection_->wait(*id, *until, cancel, mayHaveBegun);
   traceStep("first answer came");
   if (!answer && !connection_->isUsable()) connection_.reset();
   return answer;

@@ -12,8 +12,9 @@ namespace norvex {
 
 /// See PictureProcess. A document that cannot be opened (not parsable, encrypted …) fails every call with
 /// that first error; after TimedOut, Died, Protocol or a Cancelled that was not obeyed the next call starts
-/// again. A call that comes back without its answer because the document's interpreter has ended is made once
-/// more, in another process.
+/// again, but for the one that asks for what a program of PostScript had begun: it waits for the cancelled
+/// drawing. A call that comes back without its answer because the document's interpreter has ended is made
+/// once more, in another process.
 class WorkerClient final : public PictureProcess {
  public:
   /// Begins to open the bytes at once and returns. `process`: what the document needs. `connection`: a

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <utility>
 
 #include "picture/process/peak_memory.h"
 #include "picture/process/plain_sentence.h"
@@ -29,10 +30,10 @@ Error noDescriptor() {
           QStringLiteral("the picture process cannot be waited for: too many files are open")};
 }
 /// Of a child that has cut the line: its status as waitpid() gives it, which it keeps; nothing: it lives.
-std::optional<int> statusOf(const FileDescriptor& pidfd) {
+std::optional<int> statusOf(const FileDescriptor& pidfd, QDeadlineTimer soon) {
   pollfd poll = {pidfd.get(), POLLIN, 0};
   siginfo_t info = {};
-  if (::poll(&poll, 1, int(limits::processFarewell)) <= 0 ||
+  if (::poll(&poll, 1, int(soon.remainingTime())) <= 0 ||
       ::waitid(P_PIDFD, id_t(pidfd.get()), &info, WEXITED | WNOWAIT | WNOHANG) != 0 || info.si_pid == 0)
     return std::nullopt;
   return info.si_code == CLD_EXITED ? W_EXITCODE(info.si_status, 0) : W_EXITCODE(0, info.si_status);
@@ -68,10 +69,14 @@ WorkerConnection::~WorkerConnection() {
 bool WorkerConnection::learnProcess(QDeadlineTimer deadline) {
   if (!ticket_) return process_.pidfd.valid();
   Result<StartedProcess> process = starter_->take(*ticket_, deadline);
-  if (process) process_ = std::move(*process);
-  if (process) known_ = ticket_;
-  if (!process && process.error().kind != ErrorKind::TimedOut) notForked_ = process.error();
-  if (process || process.error().kind != ErrorKind::TimedOut) ticket_.reset();
+  if (!process && process.error().kind == ErrorKind::TimedOut) return false;
+  if (process) {
+    process_ = std::move(*process);
+    known_ = ticket_;
+  } else {
+    notForked_ = process.error();
+  }
+  ticket_.reset();
   return process_.pidfd.valid();
 }
 
@@ -103,20 +108,27 @@ bool WorkerConnection::isUsable() const {
   return ::poll(&poll, 1, 0) == 0;
 }
 
-Error WorkerConnection::failed(Error error) {
+Error WorkerConnection::failed(Error error, const CancelToken& cancel) {
   std::optional<Error> reason;
-  if (error.kind == ErrorKind::Died) reason = reasonOfItsEnd();
+  if (error.kind == ErrorKind::Died) {
+    // On a busy machine it takes its time until somebody has seen the end: a limit would be told as a death.
+    const QDeadlineTimer last(limits::programFarewell);
+    QDeadlineTimer soon;
+    do {
+      soon = QDeadlineTimer(limits::processFarewell);
+      reason = reasonOfItsEnd(soon);
+    } while (!reason && soon.hasExpired() && !last.hasExpired() && !cancel.cancelled());
+  }
   end();
   return reason.value_or(error);
 }
 
-std::optional<Error> WorkerConnection::reasonOfItsEnd() {
+std::optional<Error> WorkerConnection::reasonOfItsEnd(QDeadlineTimer soon) {
   if (!isOwnChild()) {
-    const QDeadlineTimer soon(limits::processFarewell);
     if (!learnProcess(soon) || !known_) return notForked_;
     return starter_->endOf(*known_, soon);
   }
-  const std::optional<int> status = statusOf(process_.pidfd);
+  const std::optional<int> status = statusOf(process_.pidfd, soon);
   if (!status) return std::nullopt;
   const Error end = errorOfEnd(*status);
   // What a document cannot provoke is another's failure: of the linker, most likely.
@@ -158,7 +170,8 @@ void WorkerConnection::yield() {
                 ::getpriority(PRIO_PROCESS, id_t(::getpid())) + starter_->nice());
 }
 
-Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline, const CancelToken& cancel) {
+Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline, const CancelToken& cancel,
+                                            bool late) {
   const FileDescriptor wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
   if (!wake.valid()) return failed(noDescriptor());
   const CancelListener listener(cancel, [&] { ::eventfd_write(wake.get(), 1); });
@@ -168,7 +181,7 @@ Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline,
   if (!wanted) {
     const QDeadlineTimer obey(limits::cancelGrace);
     if (auto sent = channel_.send(encodeMessage(CancelRequest{id}), -1, obey); !sent)
-      return failed(sent.error());
+      return failed(sent.error(), cancel);
     message = channel_.receive(std::min(obey, deadline));
   }
   if (message) {
@@ -177,8 +190,22 @@ Result<WorkerAnswer> WorkerConnection::wait(quint32 id, QDeadlineTimer deadline,
     if (answer && std::holds_alternative<BitmapReply>(answer->body)) yield();
     return wanted || !answer ? std::move(answer) : Result<WorkerAnswer>(workCancelled());
   }
-  if (message.error().kind != ErrorKind::TimedOut) return failed(message.error());
-  return failed(wanted ? timedOut() : workCancelled());
+  if (message.error().kind != ErrorKind::TimedOut) return failed(message.error(), cancel);
+  if (wanted || !late || deadline.hasExpired()) return failed(wanted ? timedOut() : workCancelled());
+  owed_ = id;
+  return workCancelled();
+}
+
+Result<void> WorkerConnection::settle(QDeadlineTimer deadline, const CancelToken& cancel) {
+  if (owed_ == 0) return {};
+  const FileDescriptor wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+  if (!wake.valid()) return failed(noDescriptor());
+  const CancelListener listener(cancel, [&] { ::eventfd_write(wake.get(), 1); });
+  Result<ChannelMessage> message = channel_.receive(deadline, wake.get());
+  if (!message && message.error().kind == ErrorKind::Cancelled) return workCancelled();
+  if (!message) return failed(message.error(), cancel);
+  const auto answer = understand(std::exchange(owed_, 0), std::move(*message));
+  return answer ? Result<void>() : answer.error();
 }
 
 Result<WorkerAnswer> WorkerConnection::understand(quint32 id, ChannelMessage message) {

@@ -45,8 +45,13 @@ class WorkerConnection {
   Result<quint32> post(RequestBody body, const FileDescriptor& memory = FileDescriptor());
   /// Waits for the answer to the request posted last. An Error in the answer is a failure of the picture, and
   /// the process lives on. The failures that end it: TimedOut, Died, Protocol, and Cancelled when the process
-  /// did not obey the cancel at once; isUsable() tells.
-  Result<WorkerAnswer> wait(quint32 id, QDeadlineTimer deadline, const CancelToken& cancel);
+  /// did not obey the cancel at once; isUsable() tells. With `late` such a process is not ended: it has begun
+  /// something that may be asked for, and owes its answer to settle().
+  Result<WorkerAnswer> wait(quint32 id, QDeadlineTimer deadline, const CancelToken& cancel,
+                            bool late = false);
+  /// To be called before the next request. Waits for an answer that is owed and drops it; a process that has
+  /// not given it by then is ended. Fails as wait(); with Cancelled the answer is still owed.
+  Result<void> settle(QDeadlineTimer deadline, const CancelToken& cancel);
 
   /// Kills the process.
   void end();
@@ -57,9 +62,9 @@ class WorkerConnection {
   WorkerConnection(std::shared_ptr<WorkerStarter> starter, const ForkRequest& request,
                    std::optional<WorkerStarter::Ticket> ticket, FileDescriptor socket);
   bool learnProcess(QDeadlineTimer deadline);
-  Error failed(Error error);
-  /// How the process has ended, or why there is none; nothing: it is not known.
-  [[nodiscard]] std::optional<Error> reasonOfItsEnd();
+  Error failed(Error error, const CancelToken& cancel = {});
+  /// How the process has ended, or why there is none; nothing: it is not known by `soon`.
+  [[nodiscard]] std::optional<Error> reasonOfItsEnd(QDeadlineTimer soon);
   void letBegin(const FileDescriptor& wake, QDeadlineTimer deadline);
   void yield();
   Result<WorkerAnswer> understand(quint32 id, ChannelMessage message);
@@ -76,6 +81,7 @@ class WorkerConnection {
   std::optional<QDeadlineTimer> beginning_;  ///< from the first wait on
   MessageChannel channel_;
   quint32 lastId_ = 0;
+  quint32 owed_ = 0;  ///< id of a request that was cancelled and not answered; 0: there is none
 };
 
 }  // namespace norvex

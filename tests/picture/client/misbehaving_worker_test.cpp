@@ -11,6 +11,7 @@
 #include "picture/client/worker_service.h"
 #include "picture/client/worker_starter.h"
 #include "protocol/limits.h"
+#include "protocol/program_stop.h"
 #include "protocol/sealed_memory.h"
 
 using namespace norvex;
@@ -192,14 +193,48 @@ class MisbehavingWorkerTest : public QObject {
     for (const char* mode : {"hang", "trickle", "half-and-hang"}) {
       const auto process = service_->open(mode, PictureKind::Pdf);
       QVERIFY(process->facts().ok());
-      const CancelToken token;
-      std::thread canceller([&] { QThread::msleep(20), token.cancel(); });
-      QCOMPARE(process->render(drawing(), token).error().kind, ErrorKind::Cancelled);
-      canceller.join();
+      QCOMPARE(cancelled(*process), ErrorKind::Cancelled);
     }
   }
 
+  /// A machine that is busy must not cost what a program had drawn when it was stopped.
+  void whatWasBegunIsWaitedForByWhoAsksForIt() {
+    const auto process =
+        std::dynamic_pointer_cast<WorkerClient>(service_->open("obeys-late", PictureKind::Eps));
+    QVERIFY(process && process->facts());
+    const qint64 drawer = process->processId();
+    QCOMPARE(cancelled(*process), ErrorKind::Cancelled);
+    RenderRequest begun = drawing();
+    begun.page = begunPage;
+    CancelToken gone;
+    gone.cancel();
+    QCOMPARE(process->render(begun, gone).error().kind, ErrorKind::Cancelled);  // and still it is owed
+    const auto image = process->render(begun);
+    QVERIFY2(image.ok(), image ? "" : qPrintable(image.error().message));
+    QCOMPARE(process->processId(), drawer);
+  }
+
+  void whatElseIsAskedForWaitsForNoCancelledDrawing() {
+    const auto process = std::dynamic_pointer_cast<WorkerClient>(service_->open("hang", PictureKind::Eps));
+    QVERIFY(process && process->facts());
+    const qint64 hanging = process->processId();
+    QCOMPARE(cancelled(*process), ErrorKind::Cancelled);
+    QVERIFY(stateOf(hanging) != 0);
+    QCOMPARE(cancelled(*process), ErrorKind::Cancelled);  // another one is drawing now
+    QVERIFY(process->processId() != hanging);
+    QVERIFY(eventually([&] { return stateOf(hanging) == 0; }));
+  }
+
  private:
+  /// How a drawing ends that is cancelled while it is made.
+  static ErrorKind cancelled(PictureProcess& process) {
+    const CancelToken token;
+    std::thread canceller([&] { QThread::msleep(20), token.cancel(); });
+    const auto drawn = process.render(drawing(), token);
+    canceller.join();
+    return drawn ? ErrorKind::Unsupported : drawn.error().kind;
+  }
+
   static void addModes() {
     QTest::addColumn<QByteArray>("mode");
     QTest::addColumn<ErrorKind>("kind");

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <utility>
 
 #include "kit/raw_message.h"
 #include "protocol/message_channel.h"
@@ -41,7 +42,7 @@ class Misbehaviour {
     raw(mode, id);
     wrongReply(mode, id);
     wrongMemory(mode, id);
-    ::_exit(1);
+    if (!hasObeyed_) ::_exit(1);
   }
 
  private:
@@ -81,6 +82,7 @@ class Misbehaviour {
 
   void wrongReply(const QByteArray& mode, quint32 id) {
     const FileDescriptor pixels = sealed(64);
+    if (mode == "obeys-late") return obeyLate(id, pixels);
     if (mode == "late") ::usleep(900'000), send(id, BitmapReply{QSize(4, 4), 16, {}}, pixels);
     if (mode == "lost-slowly") ::usleep(1'200'000), send(id, interpreterLost(), FileDescriptor());
     if (mode == "wrong-id") send(id + 1, BitmapReply{QSize(4, 4), 16, {}}, pixels);
@@ -120,12 +122,20 @@ class Misbehaviour {
     return fd ? std::move(*fd) : FileDescriptor();
   }
 
+  /// The first drawing hears no cancel for a while and the next one shows its pixels.
+  void obeyLate(quint32 id, const FileDescriptor& pixels) {
+    if (std::exchange(hasObeyed_, true)) send(id, BitmapReply{QSize(4, 4), 16, {}}, pixels);
+    ::usleep(600'000);
+    if (!channel_.send(encodeReply({id, workCancelled()}))) ::_exit(0);
+  }
+
   [[noreturn]] void send(quint32 id, const ReplyBody& body, const FileDescriptor& descriptor) {
     if (!channel_.send(encodeReply({id, body}), descriptor.get())) ::_exit(0);
     hang();
   }
 
   MessageChannel& channel_;
+  bool hasObeyed_ = false;
 };
 
 void serve(FileDescriptor socket, const ForkRequest&, const QString&) {
@@ -142,6 +152,7 @@ void serve(FileDescriptor socket, const ForkRequest&, const QString&) {
       document = SealedMemory::map(std::move(message->descriptor), 1 << 20)->toByteArray();
     if (document.startsWith("at-open ")) misbehaviour.answer(document.mid(8), request.id);
     if (!opening) misbehaviour.answer(document, request.id);
+    if (!opening) continue;
     if (!channel.send(encodeReply({request.id, PictureFacts{}}))) return;
   }
 }

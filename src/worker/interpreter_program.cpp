@@ -24,9 +24,9 @@ namespace {
 constexpr int kMaximumStarts = 4;   ///< one that dies as often is broken
 constexpr int kAboveStandard = 10;  ///< must not be a number that the program's start overwrites
 
-std::string programBesideOurs() {
-  std::error_code ignored;
-  return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "norvex-postscript";
+std::string ownProgram() {
+  std::error_code unreadable;
+  return std::filesystem::read_symlink("/proc/self/exe", unreadable);
 }
 
 /// Libraries beside a program are looked for at $ORIGIN, which the loader asks /proc for; within a view of
@@ -66,11 +66,20 @@ FileDescriptor aboveStandard(int descriptor) {
 
 }  // namespace
 
+std::string interpreterBeside(const std::string& program) {
+  const std::filesystem::path ours(program);
+  return ours.is_absolute() ? ours.parent_path() / "norvex-postscript" : std::filesystem::path();
+}
+
 InterpreterProgram::InterpreterProgram(std::string scratchRoot, InterpreterOutlook outlook,
                                        std::string program)
     : scratchRoot_(std::move(scratchRoot)),
-      program_(program.empty() ? programBesideOurs() : std::move(program)),
+      program_(program.empty() ? interpreterBeside(ownProgram()) : std::move(program)),
       outlook_(outlook) {}
+
+bool InterpreterProgram::canStart() const {
+  return starts_ < kMaximumStarts && !program_.empty();
+}
 
 void InterpreterProgram::stop() {
   asking_.reset();
@@ -103,13 +112,13 @@ bool InterpreterProgram::makeConnection() {
 }
 
 void InterpreterProgram::expect() {
-  if (!runs() && starts_ < kMaximumStarts) (void)makeConnection();
+  if (!runs() && canStart()) (void)makeConnection();
 }
 
 void InterpreterProgram::start() {
   if (runs()) return;
   Result<ReadinessPipe> readiness = makeReadinessPipe();
-  if (starts_ >= kMaximumStarts || !readiness || !makeConnection()) {
+  if (!canStart() || !readiness || !makeConnection()) {
     asking_.reset();
     taking_.reset();  // whoever asks is told so by this
     return;

@@ -17,6 +17,10 @@ inline constexpr int interpreterProcessFiles = controlDescriptor + 2;
 inline constexpr const char* interpreterReadsPdf = "pdf";
 inline constexpr const char* interpreterIsForOne = "lone";
 
+/// The interpreter's program in the folder of `program`, of which the whole path is told. Empty where it is
+/// not: what lies in the folder that somebody happens to work in is never started.
+[[nodiscard]] std::string interpreterBeside(const std::string& program);
+
 /// What its documents will be.
 struct InterpreterOutlook {
   bool pdf = false;  ///< PDF, which takes a fifth more of its start; PostScript can be asked for nevertheless
@@ -54,6 +58,7 @@ class InterpreterProgram {
 
  private:
   [[nodiscard]] bool runs();
+  [[nodiscard]] bool canStart() const;
   [[nodiscard]] bool makeConnection();
   std::string scratchRoot_, program_;
   InterpreterOutlook outlook_;

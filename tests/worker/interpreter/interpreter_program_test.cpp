@@ -59,6 +59,14 @@ class AskedFor {
 class InterpreterProgramTest : public QObject {
   Q_OBJECT
  private slots:
+  /// The folder that somebody works in may be a stranger's.
+  void itsProgramIsNeverLookedForInTheFolderOfWork() {
+    QCOMPARE(interpreterBeside("/opt/there/norvex-worker"), "/opt/there/norvex-postscript");
+    QCOMPARE(interpreterBeside(""), "");
+    QCOMPARE(interpreterBeside("norvex-worker"), "");
+    QCOMPARE(interpreterBeside("there/norvex-worker"), "");
+  }
+
   void anExpectedProgramIsStartedOnceSomebodyAsks() {
     const QTemporaryDir root;
     InterpreterProgram program(root.path().toStdString(), {}, NORVEX_BUILD_DIR "/norvex-postscript");

@@ -76,7 +76,8 @@ void ZyImageView::renderRep() {
   if (!(scale > 0)) return;
   cancel_ = CancelToken();
   watcher_.setFuture(QtConcurrent::run(&waitingThreads(), [rep = rep_, scale, cancel = cancel_] {
-    return rep->rasterImage(scale, RenderPurpose::Preview, cancel);
+    // It may come before the picture itself, and then it is what runs a program that may be stopped.
+    return rep->rasterImage(scale, RenderPurpose::View, cancel);
   }));
 }
 

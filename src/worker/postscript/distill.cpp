@@ -47,6 +47,9 @@ constexpr const char* kWritableSystem =
     "{ dup userdict exch get systemdict 3 1 roll put } forall\n"
     "systemdict begin userdict begin\n";
 
+// A copy of the device that draws into memory has none, and the library falls over it.
+constexpr const char* kOneCanvas = "/copydevice { } def\n";
+
 struct Program {
   QByteArray text;
   QByteArray sets;            ///< procedure sets that it names and does not bring
@@ -76,7 +79,7 @@ QByteArray prolog(const QRectF& box, const Program& program, const PageDevice& d
          "/initmatrix { matrix defaultmatrix setmatrix } bind def\n"
          "/initgraphics { //systemdict /initgraphics get exec initmatrix } bind def\n"
          "/quit { stop } bind def\n" +
-         kPdfmark +
+         kPdfmark + (device.device == InterpreterDevice::Canvas ? kOneCanvas : "") +
          "/norvexPage gstate def\n"
          "end\n" +
          (program.writesSystem ? kWritableSystem : "") + program.sets +

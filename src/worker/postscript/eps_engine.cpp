@@ -57,10 +57,13 @@ class EpsEngine final : public DocumentEngine {
       return drawPart(request);
     if (request.page == begunPage && !begun_.isEmpty()) return drawBegun(request);
     ProgramWatch watch(box_.size());
-    // Whichever comes first runs the program, and is what somebody waits for.
-    const bool isShown = request.purpose == RenderPurpose::View || request.purpose == RenderPurpose::Preview;
+    // Whoever else waits for it, a check or a thumbnail, shows nothing that is not finished.
+    const bool isShown = request.purpose == RenderPurpose::View;
     if (const Result<void> ready = prepare(request.page, isShown ? &watch : nullptr); !ready) {
-      if (ready.error().kind == ErrorKind::Cancelled) begun_ = watch.drawn(context_.limits);
+      // A short run has nothing to show and takes away nothing.
+      if (Bitmap drawn = watch.drawn(context_.limits);
+          ready.error().kind == ErrorKind::Cancelled && !drawn.isEmpty())
+        begun_ = std::move(drawn);
       return ready.error();
     }
     return renderer_->render(request, box_.size(), context_.limits);
@@ -192,7 +195,7 @@ class EpsEngine final : public DocumentEngine {
   std::optional<Distilled> distilled_;
   std::optional<Error> failure_;
   std::optional<PdfRenderer> renderer_;
-  Bitmap begun_;                           ///< of the last drawing that was stopped
+  Bitmap begun_;                           ///< of the last drawing that was stopped and had drawn anything
   std::optional<Distilled> surroundings_;  ///< the program within a larger box
   std::optional<PdfRenderer> surroundingsRenderer_;
 };

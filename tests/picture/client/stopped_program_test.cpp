@@ -52,30 +52,42 @@ class StoppedProgramTest : public QObject {
 
   void showsWhatItHadDrawn_data() {
     QTest::addColumn<QByteArray>("program");
-    QTest::addColumn<RenderPurpose>("purpose");
     const QByteArray red = "1 0 0 setrgbcolor 10 10 20 20 rectfill\n";
-    QTest::newRow("a loop that draws nothing") << red + "{} loop" << RenderPurpose::View;
-    QTest::newRow("a small picture is drawn first") << red + "{} loop" << RenderPurpose::Preview;
-    QTest::newRow("a loop that draws")
-        << red + "{ 1 0 0 setrgbcolor 15 15 9 9 rectfill } loop" << RenderPurpose::View;
-    QTest::newRow("a long program") << red + QByteArray(20 << 20, ' ') + "{} loop" << RenderPurpose::View;
-    QTest::newRow("a loop that stops errors")
-        << red + "{ { {} loop } stopped pop } loop" << RenderPurpose::View;
+    QTest::newRow("a loop that draws nothing") << red + "{} loop";
+    QTest::newRow("a loop that draws") << red + "{ 1 0 0 setrgbcolor 15 15 9 9 rectfill } loop";
+    QTest::newRow("a long program") << red + QByteArray(20 << 20, ' ') + "{} loop";
+    QTest::newRow("a loop that stops errors") << red + "{ { {} loop } stopped pop } loop";
+    // It begins without the picture's offset.
+    QTest::newRow("a device that is a copy")
+        << red + "currentdevice copydevice setdevice 1 0 0 setrgbcolor 0 0 20 30 rectfill {} loop";
   }
   void showsWhatItHadDrawn() {
     QFETCH(QByteArray, program);
-    QFETCH(RenderPurpose, purpose);
     const auto process =
         std::dynamic_pointer_cast<WorkerClient>(service_->open(eps(program), PictureKind::Eps));
     QVERIFY(process && process->facts());
     Result<QImage> begun = Error{};
     for (int wait = 3500; wait < kLongest && !begun; wait *= 2) {
-      QCOMPARE(stopAfter(*process, wait, purpose), ErrorKind::Cancelled);
+      QCOMPARE(stopAfter(*process, wait), ErrorKind::Cancelled);
       begun = process->render(picture(begunPage));
     }
     QVERIFY2(begun.ok(), begun ? "" : qPrintable(begun.error().message));
     QCOMPARE(begun->pixelColor(10, 10), QColor(Qt::red));
     QCOMPARE(begun->pixelColor(35, 10), QColor(Qt::white));
+    // A try that is stopped before it could show more takes nothing away.
+    QCOMPARE(stopAfter(*process, 100), ErrorKind::Cancelled);
+    QVERIFY(process->render(picture(begunPage)).ok());
+  }
+
+  /// Who cannot show what was begun does not have a program run twice.
+  void aDrawingThatNobodyLooksAtMeanwhileBeginsNothing() {
+    const auto process = std::dynamic_pointer_cast<WorkerClient>(
+        service_->open(eps("1 0 0 setrgbcolor 10 10 20 20 rectfill {} loop"), PictureKind::Eps));
+    QVERIFY(process && process->facts());
+    for (const RenderPurpose purpose : {RenderPurpose::Preview, RenderPurpose::Export}) {
+      QCOMPARE(stopAfter(*process, 4000, purpose), ErrorKind::Cancelled);
+      QVERIFY(!process->render(picture(begunPage)));
+    }
   }
 
   void aProgramThatHasDrawnNothingShowsNothing() {

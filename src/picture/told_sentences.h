@@ -69,6 +69,7 @@ inline constexpr std::array toldSentences{
     "the document has more than %1 elements",
     "the elements of the document nest more than %1 deep",
     "the references of the document nest more than %1 deep",
+    "the glyphs of the document's fonts nest more than %1 deep",
     "the document uses entities more than %1 times",
     "the entities of the document expand to more than %1 MiB",
     "the entities of the document refer to one another without end",

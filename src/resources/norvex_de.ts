@@ -2725,6 +2725,10 @@
         <translation>Die Verweise des Dokuments sind tiefer als %1 verschachtelt.</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts nest more than %1 deep</source>
+        <translation>Die Zeichen der Schriften des Dokuments sind tiefer als %1 verschachtelt.</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>Das Dokument benutzt Entitäten mehr als %1-mal.</translation>
     </message>

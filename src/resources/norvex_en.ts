@@ -2725,6 +2725,10 @@
         <translation>the references of the document nest more than %1 deep</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts nest more than %1 deep</source>
+        <translation>the glyphs of the document's fonts nest more than %1 deep</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>the document uses entities more than %1 times</translation>
     </message>

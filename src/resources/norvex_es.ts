@@ -2725,6 +2725,10 @@
         <translation>Las referencias del documento se anidan a más de %1 niveles.</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts nest more than %1 deep</source>
+        <translation>Los glifos de los tipos de letra del documento se anidan a más de %1 niveles.</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>El documento usa entidades más de %1 veces.</translation>
     </message>

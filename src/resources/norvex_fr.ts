@@ -2725,6 +2725,10 @@
         <translation>Les références du document sont imbriquées sur plus de %1 niveaux.</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts nest more than %1 deep</source>
+        <translation>Les glyphes des polices du document sont imbriqués sur plus de %1 niveaux.</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>Le document utilise des entités plus de %1 fois.</translation>
     </message>

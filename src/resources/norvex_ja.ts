@@ -2725,6 +2725,10 @@
         <translation>書類の参照の入れ子が %1 段を超えています。</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts nest more than %1 deep</source>
+        <translation>書類のフォントの字形の入れ子が %1 段を超えています。</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>書類が実体参照を %1 回を超えて使っています。</translation>
     </message>

@@ -2725,6 +2725,10 @@
         <translation>文档引用的嵌套超过 %1 层。</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts nest more than %1 deep</source>
+        <translation>文档字体中字形的嵌套超过 %1 层。</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>文档使用实体超过 %1 次。</translation>
     </message>

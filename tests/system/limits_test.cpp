@@ -71,6 +71,21 @@ QByteArray pagesOf(int count) {
          "/Size 4 /Root 1 0 R >>\n%%EOF\n";
 }
 
+QByteArray fontThatShowsItself() {
+  return "%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n2 0 obj\n<< /Type /Pages /Count 1 "
+         "/Kids "
+         "[3 0 R] >>\nendobj\n3 0 obj\n<< /Type /Page /Parent 2 0 R /MediaBox [0 0 90 60] /Contents 4 0 R "
+         "/Resources << /Font << /F 5 0 R >> >> >>\nendobj\n4 0 obj\n<< /Length 19 >>\nstream\nBT /F 9 Tf "
+         "(a) Tj "
+         "ET\nendstream\nendobj\n5 0 obj\n<< /Type /Font /Subtype /Type3 /FontBBox [0 0 9 9] /FontMatrix [.1 "
+         "0 0 .1 "
+         "0 0] /FirstChar 97 /LastChar 97 /Widths [10] /Encoding << /Differences [97 /a] >> /CharProcs << /a "
+         "6 0 R >> "
+         "/Resources << /Font << /F 5 0 R >> >> >>\nendobj\n6 0 obj\n<< /Length 27 >>\nstream\n10 0 d0 BT /F "
+         "9 Tf (a) "
+         "Tj ET\nendstream\nendobj\ntrailer\n<< /Size 7 /Root 1 0 R >>\n%%EOF\n";
+}
+
 QByteArray bomb() {
   return zipped(Z_BEST_COMPRESSION, 8, [](int) { return QByteArray(1 << 20, ' '); });
 }
@@ -132,6 +147,8 @@ class LimitsTest : public QObject {
     row("a side", "a.svg", svg("", "width='96000' height='1'"), png + QStringList{"--dpi", "96"},
         "the image would have a side of more than 65535 pixels");
     row("pages", "a.pdf", pagesOf(limits::maximumPages + 1), png, "the document has more than 100000 pages");
+    row("glyphs that show themselves", "a.pdf", fontThatShowsItself(), png,
+        "the glyphs of the document's fonts nest more than 16 deep");
     row("temporary files", "a.eps",
         eps(QByteArray::number(limits::maximumScratchFiles + 100) +
             " { null (w) .tempfile closefile pop } repeat {} loop"),

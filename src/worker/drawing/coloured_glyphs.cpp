@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
 
 #include "worker/drawing/bitmap.h"
 #include "worker/drawing/cairo_surface.h"
@@ -11,6 +12,18 @@
 
 namespace norvex::engine {
 namespace {
+
+thread_local int levels = 0;  ///< of glyphs that are being shown
+thread_local bool isTooDeep = false;
+
+/// One level, for as long as it lives.
+class Level {
+ public:
+  Level() { ++levels; }
+  Level(const Level&) = delete;
+  Level& operator=(const Level&) = delete;
+  ~Level() { --levels; }
+};
 
 using Drawing = cairo_user_scaled_font_render_glyph_func_t;
 
@@ -80,7 +93,16 @@ void showMasks(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
 
 }  // namespace
 
+bool takeGlyphsTooDeep() {
+  return std::exchange(isTooDeep, false);
+}
+
 void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
+  if (levels == maximumGlyphLevels) {
+    isTooDeep = true;
+    return;
+  }
+  const Level level;
   cairo_font_face_t* face = cairo_get_font_face(context);
   const bool isDrawn =
       arePixelEdgesAskedFor(context) && cairo_font_face_get_type(face) == CAIRO_FONT_TYPE_USER;

@@ -6,8 +6,17 @@
 
 namespace norvex::engine {
 
-/// As cairo_show_glyphs(). Where askForPixelEdges() was called, glyphs in colours of their own are drawn into
-/// `context` itself; those that leave their colour open stay masks, which are kept and cost less.
+/// Glyphs that show text whose glyphs show text, each level a few bytes: as many levels are shown. At some
+/// forty, cairo waits for itself; a glyph that shows itself has no last one.
+inline constexpr int maximumGlyphLevels = 16;
+
+/// True if text has been left out in this thread that lay deeper than maximumGlyphLevels; from then on false
+/// again.
+[[nodiscard]] bool takeGlyphsTooDeep();
+
+/// As cairo_show_glyphs(), but for what lies too deep. Where askForPixelEdges() was called, glyphs in colours
+/// of their own are drawn into `context` itself; those that leave their colour open stay masks, which are
+/// kept and cost less.
 void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count);
 
 }  // namespace norvex::engine

@@ -7,6 +7,7 @@
 #pragma pop_macro("signals")
 
 #include "worker/drawing/cairo_surface.h"
+#include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/fine_image.h"
 #include "worker/drawing/pixel_edges.h"
 #include "worker/pdf/pdf_file.h"
@@ -53,7 +54,12 @@ Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
   cairo_new_path(context);
   cairo_translate(context, 0, shownSize.height());
   cairo_scale(context, shownSize.width() / width, -shownSize.height() / height);
+  (void)takeGlyphsTooDeep();
   poppler_page_render(page, context);
+  if (takeGlyphsTooDeep())
+    return Error{
+        ErrorKind::Limit,
+        QStringLiteral("the glyphs of the document's fonts nest more than %1 deep").arg(maximumGlyphLevels)};
   return {};
 }
 

@@ -53,6 +53,35 @@ Argb32 shown(const Face& face, unsigned long glyph, bool asked, double strength 
   return pixels.row(10)[10];
 }
 
+int levelsLeft = 0;
+
+/// A glyph that shows one of another face, as long as levels are left.
+cairo_status_t drawGlyphWithin(cairo_scaled_font_t*, unsigned long, cairo_t* context,
+                               cairo_text_extents_t* extents) {
+  extents->x_advance = 1;
+  const int before = levelsLeft;
+  if (--levelsLeft > 0) {
+    const Face next(cairo_user_font_face_create());
+    cairo_user_font_face_set_render_glyph_func(next.get(), drawGlyphWithin);
+    cairo_set_font_face(context, next.get());
+    const cairo_glyph_t glyph{0, 0, 0};
+    showGlyphs(context, &glyph, 1);
+  }
+  cairo_set_source_rgb(context, 1, 0, 0);
+  cairo_rectangle(context, 0, -0.5, 0.5, 0.5);
+  cairo_fill(context);
+  levelsLeft = before;  // it may be drawn again
+  return CAIRO_STATUS_SUCCESS;
+}
+
+/// Shows text of as many levels, the outermost among them.
+void shownWithin(int count, bool asked) {
+  levelsLeft = count;
+  const Face face(cairo_user_font_face_create());
+  cairo_user_font_face_set_render_glyph_func(face.get(), drawGlyphWithin);
+  shown(face, 0, asked);
+}
+
 }  // namespace
 
 class ColouredGlyphsTest : public QObject {
@@ -101,6 +130,19 @@ class ColouredGlyphsTest : public QObject {
     const Argb32 blue = 0xFF0000FFu, red = 0xFFFF0000u;
     const Argb32 expected[]{blue, blue, red, blue, red};
     for (int i = 0; i < 5; ++i) QCOMPARE(pixels.row(10)[20 * i + 5], expected[i]);
+  }
+
+  void glyphsWithinGlyphsAreShownToALevel() {
+    QVERIFY(!takeGlyphsTooDeep());
+    for (const bool asked : {true, false}) {
+      shownWithin(maximumGlyphLevels, asked);
+      QVERIFY(!takeGlyphsTooDeep());
+      shownWithin(maximumGlyphLevels + 1, asked);
+      QVERIFY(takeGlyphsTooDeep());
+      QVERIFY(!takeGlyphsTooDeep());
+      shownWithin(1, asked);
+      QVERIFY(!takeGlyphsTooDeep());
+    }
   }
 
   void aMaskIsNotDrawnAgain() {

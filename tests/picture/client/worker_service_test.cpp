@@ -349,6 +349,21 @@ class WorkerServiceTest : public QObject {
     }
   }
 
+  /// Who sees the end may have no time for it just then.
+  void theReasonOfAnEndIsWaitedForOnABusyMachine() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers tell crashes themselves");
+#endif
+    const auto process = service_->open("deep", PictureKind::Pdf, PictureLimits{10, 64, 1});
+    QVERIFY(process->facts().ok());
+    const auto program = pid_t(service_->programProcessId());
+    ::kill(program, SIGSTOP);
+    std::thread later([program] { QThread::msleep(400), ::kill(program, SIGCONT); });
+    const Error error = process->render(drawing()).error();
+    later.join();
+    QCOMPARE(error.kind, ErrorKind::Limit);
+  }
+
   void anotherCrashIsNoLimit() {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     QSKIP("sanitizers tell crashes themselves");

@@ -18,7 +18,7 @@
 #include "application/recent_files.h"
 #include "application/recent_thumbnails.h"
 #include "application/start_panel.h"
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "desktop/alert.h"
 #include "document/app_delegate.h"
 #include "document/document_controller.h"

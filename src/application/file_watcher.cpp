@@ -3,6 +3,7 @@
 #include <QCryptographicHash>
 #include <QFileInfo>
 
+#include "base/background_work.h"
 #include "picture/document_file.h"
 
 namespace norvex {
@@ -24,6 +25,12 @@ struct FileWatcher::Look {
   QByteArray digest;  ///< empty when the file cannot be read now
   bool whole = false;
 };
+
+FileWatcher::Look FileWatcher::lookAt(const QString& path) {
+  const Result<QByteArray> bytes = readDocumentFile(path);
+  if (!bytes) return {};
+  return {QCryptographicHash::hash(*bytes, QCryptographicHash::Sha1), looksWhole(*bytes)};
+}
 
 FileWatcher::FileWatcher(const QString& path, int settlingMilliseconds, QObject* parent)
     : QObject(parent), path_(path) {
@@ -47,7 +54,7 @@ FileWatcher::FileWatcher(const QString& path, int settlingMilliseconds, QObject*
 
 FileWatcher::~FileWatcher() {
   thread_.clear();
-  thread_.waitForDone();
+  waitForWork(thread_);
 }
 
 void FileWatcher::watchAgain() {
@@ -63,13 +70,9 @@ void FileWatcher::acknowledge() {
 
 void FileWatcher::look() {
   const int turn = ++turn_;
-  thread_.start([this, turn, path = path_] {
-    Look result;
-    if (const Result<QByteArray> bytes = readDocumentFile(path))
-      result = {QCryptographicHash::hash(*bytes, QCryptographicHash::Sha1), looksWhole(*bytes)};
-    QMetaObject::invokeMethod(
-        this, [this, result, turn] { finishLook(result, turn); }, Qt::QueuedConnection);
-  });
+  workInBackground(
+      this, [path = path_] { return lookAt(path); },
+      [this, turn](const Look& result) { finishLook(result, turn); }, thread_);
 }
 
 void FileWatcher::finishLook(const Look& look, int turn) {

@@ -33,6 +33,8 @@ class FileWatcher final : public QObject {
 
  private:
   struct Look;
+  /// Blocks; any thread.
+  static Look lookAt(const QString& path);
   /// A file that was replaced is no longer watched; and the folder tells when it comes back.
   void watchAgain();
   /// Reads the file in the background; finishLook() decides.

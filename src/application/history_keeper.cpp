@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "application/recent_files.h"
+#include "base/background_work.h"
 #include "history/desktop_recents.h"
 
 namespace norvex {
@@ -40,13 +41,13 @@ HistoryKeeper::~HistoryKeeper() {
 
 void HistoryKeeper::tellDesktop() {
   for (const Opened& each : std::exchange(toTell_, {}))
-    desktop_.start(
-        [file = desktopRecentsFile(), each] { addToDesktopRecents(file, each.path, each.mimeType); });
+    startWork(desktop_,
+              [file = desktopRecentsFile(), each] { addToDesktopRecents(file, each.path, each.mimeType); });
 }
 
 void HistoryKeeper::waitForDesktop() {
   tellDesktop();
-  desktop_.waitForDone();
+  waitForWork(desktop_);
 }
 
 bool HistoryKeeper::isOn() const {
@@ -65,7 +66,7 @@ void HistoryKeeper::clear() {
   views_.clear();
   (void)Session::takeLeft(folder_);
   toTell_.clear();
-  desktop_.waitForDone();
+  waitForWork(desktop_);
   clearFromDesktopRecents(desktopRecentsFile());
 }
 

@@ -2,13 +2,11 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QPointer>
-#include <QtConcurrent>
 
 #include <algorithm>
 
 #include "application/start_panel.h"
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "picture/document_file.h"
 #include "picture/open_picture.h"
 #include "types/type_identification.h"
@@ -54,14 +52,15 @@ void RecentThumbnails::makeNext() {
   if (next == all.cend()) return;
   making_ = true;
   tried_ << *next;
-  QPointer<RecentThumbnails> self(this);
-  QtConcurrent::run(&waitingThreads(), [&service = service_, url = *next, cancel = cancel_] {
-    return thumbnailOf(service, url, side, cancel);
-  }).then(qApp, [self, url = *next, cancel = cancel_](const QImage& image) {
-    if (!self) return;
-    if (image.isNull() && cancel.cancelled()) self->tried_.remove(url);
-    self->take(url, image);
-  });
+  workInBackground(
+      this,
+      [&service = service_, url = *next, cancel = cancel_] {
+        return thumbnailOf(service, url, side, cancel);
+      },
+      [this, url = *next, cancel = cancel_](const QImage& image) {
+        if (image.isNull() && cancel.cancelled()) tried_.remove(url);
+        take(url, image);
+      });
 }
 
 void RecentThumbnails::take(const QUrl& url, const QImage& image) {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
 #include "document/unimplemented_method.h"
 #include "picture/document_file.h"
@@ -46,7 +47,7 @@ DocumentController::DocumentController(PictureService& service, DocumentWindowCo
 DocumentController::~DocumentController() {
   ending_.cancel();
   threads_.clear();
-  threads_.waitForDone();
+  waitForWork(threads_);
   for (Document* document : std::exchange(documents_, {})) delete document;
 }
 
@@ -73,12 +74,10 @@ void DocumentController::openDocuments(const QList<QUrl>& urls) {
     // A child of this object until it is a document: nothing leaks when the end comes while it is being read.
     auto* document = new Document(service_, factory_, this);
     document->setFileURL(url);
-    threads_.start([this, document, url, key, ending = ending_] {
-      if (ending.cancelled()) return;
-      const Read read = readFile(*document, url);
-      QMetaObject::invokeMethod(
-          this, [this, document, key, read] { finishRead(document, key, read); }, Qt::QueuedConnection);
-    });
+    workInBackground(
+        this,
+        [document, url, ending = ending_] { return ending.cancelled() ? Read() : readFile(*document, url); },
+        [this, document, key](const Read& read) { finishRead(document, key, read); }, threads_);
   }
   if (reading_.isEmpty()) emit readingFinished();
 }

@@ -1,11 +1,8 @@
 #include "picture/web_image_rep.h"
 
-#include <QFutureWatcher>
-#include <QtConcurrent>
-
 #include <utility>
 
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "picture/document_file.h"
 #include "picture/gzip_stream.h"
 #include "picture/pdf_image_rep.h"
@@ -119,18 +116,13 @@ QByteArray ZyWebImageRep::xmlDocumentWithSVGInsideRect(const QRectF& rect, doubl
 void ZyWebImageRep::loadPDFImageRep() {
   if (pdfIsLoading_) return;
   pdfIsLoading_ = true;
-  auto* watcher = new QFutureWatcher<Result<PictureBytes>>(this);
-  connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher] {
-    watcher->deleteLater();
-    finishPDFImageRep(watcher->result());
-  });
   if (pdfImageRep_) {
-    watcher->setFuture(
-        QtFuture::makeReadyFuture(Result<PictureBytes>(PictureBytes{pdfImageRep_->sourceBytes(), {}})));
+    WayBack(this).tell([this] { finishPDFImageRep(PictureBytes{pdfImageRep_->sourceBytes(), {}}); });
     return;
   }
-  watcher->setFuture(QtConcurrent::run(
-      &waitingThreads(), [open = process(), cancel = cancelPDF_] { return open->pdf({}, cancel); }));
+  workInBackground(
+      this, [open = process(), cancel = cancelPDF_] { return open->pdf({}, cancel); },
+      [this](const Result<PictureBytes>& pdf) { finishPDFImageRep(pdf); });
 }
 
 void ZyWebImageRep::finishPDFImageRep(const Result<PictureBytes>& pdf) {

@@ -1,7 +1,6 @@
 #include "print/print_operation.h"
 
-#include <QThread>
-
+#include "base/background_work.h"
 #include "print/print_job.h"
 
 namespace norvex {
@@ -16,9 +15,9 @@ std::unique_ptr<NSPrintOperation> NSPrintOperation::printOperationWithView(
 }
 
 NSPrintOperation::~NSPrintOperation() {
-  if (!thread_) return;
+  if (!thread_.joinable()) return;
   cancel_.cancel();
-  thread_->wait();
+  thread_.join();
 }
 
 bool NSPrintOperation::runOperation() {
@@ -38,12 +37,8 @@ bool NSPrintOperation::runOperation() {
     end(work());
     return result_->ok();
   }
-  thread_.reset(QThread::create([this, work] {
-    const Result<void> result = work();
-    QMetaObject::invokeMethod(
-        this, [this, result] { end(result); }, Qt::QueuedConnection);
-  }));
-  thread_->start();
+  thread_ = std::thread(
+      [this, work, back = WayBack(this)] { back.tell([this, result = madeBy(work)] { end(result); }); });
   return true;
 }
 

@@ -7,13 +7,12 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <thread>
 
 #include "base/cancel_token.h"
 #include "base/result.h"
 #include "print/print_info.h"
 #include "print/printable_view.h"
-
-class QThread;
 
 namespace norvex {
 
@@ -117,7 +116,7 @@ class NSPrintOperation final : public QObject {
   CancelToken cancel_;
   QString title_;
   int job_ = 0;  ///< what the interaction calls it
-  std::unique_ptr<QThread> thread_;
+  std::thread thread_;
   std::optional<Result<void>> result_;
 };
 

@@ -3,20 +3,18 @@
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
-#include <QPointer>
-#include <QSemaphore>
-#include <QThreadPool>
 
+#include <chrono>
 #include <memory>
 #include <utility>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
-#include "base/waiting_threads.h"
 
 namespace norvex {
 namespace {
 
-constexpr int kGraceMs = 500;
+constexpr std::chrono::milliseconds kGrace(500);
 
 ConfinementWords& confinementWords() {
   static ConfinementWords words;
@@ -39,26 +37,16 @@ void tell(QMessageBox& box, QString confinement) {
                          QStringLiteral("\n\n") + confinement);
 }
 
-struct Answer {
-  QSemaphore there;
-  QString told;
-};
-
 /// Asks on another thread: a program is started for it. A box that grows would jump, so it waits a moment.
 void addConfinement(QMessageBox& box) {
   if (!confinementWords()) return;
-  const auto answer = std::make_shared<Answer>();
-  waitingThreads().start([answer, words = confinementWords(), application = QPointer<QCoreApplication>(qApp),
-                          about = QPointer<QMessageBox>(&box)] {
-    const QString told = words().trimmed();
-    answer->told = told;
-    answer->there.release();
-    if (!application || told.isEmpty()) return;
-    QMetaObject::invokeMethod(application.data(), [about, told] {
-      if (about) tell(*about, told);
-    });
-  });
-  if (answer->there.tryAcquire(1, kGraceMs) && !answer->told.isEmpty()) tell(box, answer->told);
+  const auto answer = std::make_shared<QString>();  // of the thread, until it is done
+  const auto show = [&box, answer] {
+    if (!answer->isEmpty()) tell(box, *answer);
+  };
+  const BackgroundWork asking = workInBackground(
+      &box, [answer, words = confinementWords()] { *answer = words().trimmed(); }, show);
+  if (asking.waitFor(kGrace)) show();
 }
 
 }  // namespace

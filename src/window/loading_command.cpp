@@ -1,16 +1,11 @@
 #include "window/loading_command.h"
 
-#include <QCoreApplication>
-#include <QPointer>
-#include <QSemaphore>
-#include <QThread>
-#include <QThreadPool>
-
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
-#include "base/waiting_threads.h"
 #include "window/commands/window_parts.h"
 #include "window/document_contents.h"
 
@@ -21,7 +16,7 @@ namespace {
 /// Enough of a picture to know whether its program still draws; pixels.
 constexpr double kTrialSide = 64;
 /// A quick document is on the screen together with its window; a slow one does not keep the window waiting.
-constexpr int kGraceMs = 150;
+constexpr std::chrono::milliseconds kGrace(150);
 
 /// A program that fails only when it is drawn takes its picture with it. Any thread.
 void tryDrawing(DocumentContents& contents, const CancelToken& cancel) {
@@ -43,8 +38,7 @@ struct LoadingCommand::Reading {
   CancelToken cancel;
   bool again = false;         ///< there is a picture already
   int number = 0;             ///< what the window's work calls it
-  QSemaphore done;            ///< released once contents are there
-  DocumentContents contents;  ///< belongs to the reader until then, to the main thread afterwards
+  DocumentContents contents;  ///< belongs to the reader until it is done, to the main thread afterwards
 };
 
 LoadingCommand::~LoadingCommand() {
@@ -68,20 +62,17 @@ void LoadingCommand::start() {
   reading_->again = parts_.validateUserInterfaceItem();
   reading_->number =
       parts_.work().begin(WindowWork::Kind::Reading, localizedString("Opening…"), reading_->cancel);
-  // The program may have ended by the time that there is something to tell.
-  waitingThreads().start([self = QPointer<LoadingCommand>(this),
-                          application = QPointer<QCoreApplication>(qApp), reading = reading_,
-                          &service = document.pictureService(), url = document.fileURL(),
-                          type = document.fileType(), home = thread(), choices = choices_] {
-    reading->contents = readDocumentContents(service, url, type, home, reading->cancel, choices);
-    if (reading->again) tryDrawing(reading->contents, reading->cancel);
-    reading->done.release();
-    if (!application) return;
-    QMetaObject::invokeMethod(application.data(), [self, reading] {
-      if (self && self->reading_ == reading) self->take();
-    });
-  });
-  if (reading_->done.tryAcquire(1, kGraceMs)) take();
+  const BackgroundWork work = workInBackground(
+      this,
+      [reading = reading_, &service = document.pictureService(), url = document.fileURL(),
+       type = document.fileType(), home = thread(), choices = choices_] {
+        reading->contents = readDocumentContents(service, url, type, home, reading->cancel, choices);
+        if (reading->again) tryDrawing(reading->contents, reading->cancel);
+      },
+      [this, reading = reading_] {
+        if (reading_ == reading) take();
+      });
+  if (work.waitFor(kGrace)) take();
 }
 
 void LoadingCommand::take() {

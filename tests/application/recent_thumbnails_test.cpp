@@ -8,7 +8,7 @@
 #include "application/recent_files.h"
 #include "application/recent_thumbnails.h"
 #include "application/start_panel.h"
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "kit/test_main.h"
 #include "picture/process/memory_picture_service.h"
 

@@ -52,6 +52,21 @@ class SourcesTest : public QObject {
     QVERIFY2(header.count('\n') <= 160, QByteArray::number(header.count('\n')).constData());
   }
 
+  /// Who went away meanwhile, and what a sanitizer cannot see, is told there once.
+  void workGoesToOtherThreadsAndBackThroughOneDoor() {
+    static const QRegularExpression beside(
+        QStringLiteral("QtConcurrent::run\\b|QFutureWatcher|QThread::create|[Tt]hreads?(\\(\\)|_)\\.start\\(|"
+                       "\\bpool\\.start\\(|invokeMethod\\((qApp|application)|\\.then\\(qApp"));
+    QStringList users, wrong;
+    for (const QString& path : files("src", {"*.h", "*.cpp"})) {
+      const QString text = QString::fromUtf8(contents(path));
+      if (text.contains(QStringLiteral("workInBackground("))) users << path;
+      if (text.contains(beside) && !path.contains(QStringLiteral("/base/background_"))) wrong << path;
+    }
+    QVERIFY2(users.size() > 10, "looked for in the wrong place");
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+  }
+
   void everyHeaderIsGuarded() {
     QStringList wrong;
     for (const QString& path : files("src", {"*.h"}))

@@ -7,7 +7,7 @@
 #include <QSemaphore>
 #include <QTimer>
 
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "kit/test_main.h"
 
 using namespace norvex;

@@ -8,7 +8,7 @@
 #include <QThreadPool>
 
 #include "application/document_application.h"
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "desktop/memory_pasteboard.h"
 #include "desktop/memory_save_panel.h"
 #include "kit/test_main.h"

@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "desktop/alert.h"
 #include "document/document.h"
 #include "picture/process/memory_picture_service.h"

@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <csignal>
 
-#include "base/yielding_thread.h"
+#include "base/background_threads.h"
 #include "picture/client/worker_answers.h"
 #include "picture/client/worker_client.h"
 #include "picture/process/reader_choices.h"

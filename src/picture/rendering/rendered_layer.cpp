@@ -2,14 +2,13 @@
 
 #include <QPainter>
 #include <QPolygonF>
-#include <QtConcurrent>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
 
-#include "base/yielding_thread.h"
+#include "base/background_threads.h"
 
 namespace norvex {
 namespace {
@@ -81,7 +80,7 @@ QPoint RenderedLayer::offset(const QTransform& t) const {
 
 void RenderedLayer::add(const QRect& rect, const QImage& image) {
   pieces_.removeIf([&](const Piece& piece) { return rect.contains(piece.rect); });
-  pieces_.append({rect, image, {}});
+  pieces_.append({rect, image, {}, {}});
   covered_ += rect;
 }
 
@@ -133,7 +132,7 @@ void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevi
     const QTransform place = turned ? QTransform(0, -1, 1, 0, rect.x(), rect.y() + rect.height())
                                     : QTransform::fromTranslate(rect.x(), rect.y());
     painter.setTransform(place * toPainter);
-    painter.drawImage(QPoint(), turned ? piece->turned.result() : piece->image);
+    painter.drawImage(QPoint(), turned ? *piece->turned : piece->image);
   }
   painter.restore();
 }
@@ -142,9 +141,12 @@ void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevi
 void RenderedLayer::prepareNextTurned(const QList<const Piece*>& pieces) {
   for (const Piece* piece : pieces) {
     if (piece->hasTurned()) continue;
-    if (piece->turned.isValid()) return;
-    piece->turned = QtConcurrent::run(
-        &yieldingThread(), [bitmap = piece->image] { return bitmap.transformed(QTransform().rotate(90)); });
+    if (piece->turned) return;
+    const auto turned = std::make_shared<QImage>();
+    piece->turned = turned;
+    piece->turning = startWork(yieldingThread(), [turned, bitmap = piece->image] {
+      *turned = bitmap.transformed(QTransform().rotate(90));
+    });
     return;
   }
 }

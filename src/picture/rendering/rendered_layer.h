@@ -1,7 +1,6 @@
 // RenderedLayer: the bitmaps that were rendered under one scale and angle.
 #pragma once
 
-#include <QFuture>
 #include <QImage>
 #include <QList>
 #include <QPoint>
@@ -9,6 +8,10 @@
 #include <QRegion>
 #include <QSizeF>
 #include <QTransform>
+
+#include <memory>
+
+#include "base/background_work.h"
 
 class QPainter;
 
@@ -54,9 +57,10 @@ class RenderedLayer {
     /// Clockwise by a quarter. Along the columns of a bitmap, painting takes up to three times as long as
     /// along its rows, so a picture that is being turned is painted from this from 45 degrees on. It is made
     /// beside the frames.
-    mutable QFuture<QImage> turned;
-    [[nodiscard]] bool hasTurned() const { return turned.isValid() && turned.isFinished(); }
-    [[nodiscard]] qint64 bytes() const { return image.sizeInBytes() * (turned.isValid() ? 2 : 1); }
+    mutable std::shared_ptr<const QImage> turned;
+    mutable BackgroundWork turning;
+    [[nodiscard]] bool hasTurned() const { return turned && turning.isOver() && !turned->isNull(); }
+    [[nodiscard]] qint64 bytes() const { return image.sizeInBytes() * (turned ? 2 : 1); }
   };
   static void prepareNextTurned(const QList<const Piece*>& pieces);
 

@@ -3,9 +3,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QtConcurrent>
 
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "picture/image_rep.h"
 #include "ui/style/checkerboard.h"
 #include "ui/style/quiet_text.h"
@@ -20,7 +19,6 @@ constexpr double kMargin = 8;
 
 ZyImageView::ZyImageView(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  connect(&watcher_, &QFutureWatcherBase::finished, this, &ZyImageView::takeRendering);
 }
 
 ZyImageView::~ZyImageView() {
@@ -75,19 +73,18 @@ void ZyImageView::renderRep() {
   const double scale = fitted(size).width() * devicePixelRatioF() / size.width();
   if (!(scale > 0)) return;
   cancel_ = CancelToken();
-  watcher_.setFuture(QtConcurrent::run(&waitingThreads(), [rep = rep_, scale, cancel = cancel_] {
-    // It may come before the picture itself, and then it is what runs a program that may be stopped.
-    return rep->rasterImage(scale, RenderPurpose::View, cancel);
-  }));
-}
-
-void ZyImageView::takeRendering() {
-  const auto future = watcher_.future();
-  if (cancel_.cancelled() || !rep_ || future.resultCount() == 0) return;
-  const Result<QImage> result = future.result();
-  if (!result) return;  // the document window tells what went wrong with the picture
-  image_ = *result;
-  update();
+  workInBackground(
+      this,
+      [rep = rep_, scale, cancel = cancel_] {
+        // It may come before the picture itself, and then it is what runs a program that may be stopped.
+        return rep->rasterImage(scale, RenderPurpose::View, cancel);
+      },
+      [this, cancel = cancel_](const Result<QImage>& result) {
+        // The document window tells what went wrong with the picture.
+        if (cancel.cancelled() || !result) return;
+        image_ = *result;
+        update();
+      });
 }
 
 void ZyImageView::resizeEvent(QResizeEvent* event) {

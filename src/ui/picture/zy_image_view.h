@@ -2,14 +2,12 @@
 #pragma once
 
 #include <QColor>
-#include <QFutureWatcher>
 #include <QImage>
 #include <QWidget>
 
 #include <memory>
 
 #include "base/cancel_token.h"
-#include "base/result.h"
 
 namespace norvex {
 
@@ -53,7 +51,6 @@ class ZyImageView final : public QWidget {
  private:
   [[nodiscard]] QRectF fitted(QSizeF size) const;
   void renderRep();
-  void takeRendering();
 
   bool editable_ = false, useBackground_ = false;
   QColor background_ = Qt::white;
@@ -62,7 +59,6 @@ class ZyImageView final : public QWidget {
   QImage image_;
   std::shared_ptr<NSImageRep> rep_;
   CancelToken cancel_;
-  QFutureWatcher<Result<QImage>> watcher_;
 };
 
 }  // namespace norvex

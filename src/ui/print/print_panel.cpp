@@ -17,13 +17,11 @@
 #include <QSpinBox>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QtConcurrent>
 
 #include <algorithm>
 #include <utility>
 
 #include "base/localized_string.h"
-#include "base/waiting_threads.h"
 #include "picture/localized_error.h"
 #include "print/page_image.h"
 #include "print/print_job.h"
@@ -92,9 +90,6 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(layout_, &PageLayoutControls::changed, this, &PrintPanel::takeChoices);
   connect(headerAndFooter_, &QCheckBox::clicked, this, &PrintPanel::takeChoices);
-  connect(&printersWatcher_, &QFutureWatcherBase::finished, this,
-          [this] { showPrinters(printersWatcher_.result()); });
-  connect(&drawingWatcher_, &QFutureWatcherBase::finished, this, &PrintPanel::takeDrawing);
   settle_.setSingleShot(true);
   connect(&settle_, &QTimer::timeout, this, &PrintPanel::drawPage);
   connect(&refresh_, &QTimer::timeout, this, &PrintPanel::fetchPrinters);
@@ -121,8 +116,8 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
 
 PrintPanel::~PrintPanel() {
   ending_.cancel();
-  drawingWatcher_.waitForFinished();
-  printersWatcher_.waitForFinished();
+  drawing_.wait();
+  asking_.wait();
 }
 
 void PrintPanel::addPrinter(QFormLayout* form) {
@@ -220,9 +215,14 @@ QWidget* PrintPanel::previewColumn() {
 }
 
 void PrintPanel::fetchPrinters() {
-  if (printersWatcher_.isRunning() || printer_->view()->isVisible()) return;
-  printersWatcher_.setFuture(QtConcurrent::run(
-      &waitingThreads(), [spooler = &spooler_, cancel = ending_] { return spooler->printers(cancel); }));
+  if (isAsking_ || printer_->view()->isVisible()) return;
+  isAsking_ = true;
+  asking_ = workInBackground(
+      this, [spooler = &spooler_, cancel = ending_] { return spooler->printers(cancel); },
+      [this](const Result<QList<Printer>>& printers) {
+        isAsking_ = false;
+        showPrinters(printers);
+      });
 }
 
 void PrintPanel::showPrinters(const Result<QList<Printer>>& printers) {
@@ -317,7 +317,7 @@ void PrintPanel::showPage(int page) {
 
 void PrintPanel::drawPage() {
   if (!preview_ || !pages_) return;
-  if (drawingWatcher_.isRunning()) {
+  if (isDrawing_) {
     drawAgain_ = true;
     return;
   }
@@ -326,8 +326,9 @@ void PrintPanel::drawPage() {
   const JobPage& page = pages_->pages().at(pages_->placeOf(page_ - 1).page);
   PageImageRequest request{source_, info_, page.number == pictureNumber_ ? picture_ : QByteArray(), page_ - 1,
                            pixels};
-  drawingWatcher_.setFuture(QtConcurrent::run(
-      &waitingThreads(),
+  isDrawing_ = true;
+  drawing_ = workInBackground(
+      this,
       [request, page, pictures = operation_.services().pictures, cancel = ending_]() mutable -> Drawn {
         if (request.picture.isEmpty()) {
           const Result<QByteArray> picture = pictureOf(page.drawing, cancel);
@@ -337,11 +338,12 @@ void PrintPanel::drawPage() {
         const Result<QImage> image = pageImage(request, *pictures, cancel);
         if (!image) return {request.picture, page.number, {}, localizedError(image.error()).sentence};
         return {request.picture, page.number, *image, {}};
-      }));
+      },
+      [this](const Drawn& drawn) { takeDrawing(drawn); });
 }
 
-void PrintPanel::takeDrawing() {
-  const Drawn drawn = drawingWatcher_.result();
+void PrintPanel::takeDrawing(const Drawn& drawn) {
+  isDrawing_ = false;
   picture_ = drawn.picture;
   pictureNumber_ = drawn.number;
   if (std::exchange(drawAgain_, false)) return drawPage();

@@ -3,7 +3,6 @@
 
 #include <QByteArray>
 #include <QDialog>
-#include <QFutureWatcher>
 #include <QImage>
 #include <QList>
 #include <QTimer>
@@ -12,6 +11,8 @@
 #include <memory>
 #include <optional>
 
+#include "base/background_work.h"
+#include "base/cancel_token.h"
 #include "print/job_pages.h"
 #include "print/print_info.h"
 #include "print/print_operation.h"
@@ -79,7 +80,7 @@ class PrintPanel final : public QDialog {
   void takeChoices();
   void showPage(int page);
   void drawPage();
-  void takeDrawing();
+  void takeDrawing(const Drawn& drawn);
 
   NSPrintOperation& operation_;
   PrintSpooler& spooler_;
@@ -107,8 +108,8 @@ class PrintPanel final : public QDialog {
   QList<Printer> printers_;
   bool printersKnown_ = false, chosen_ = false;
   QString printersProblem_;
-  QFutureWatcher<Result<QList<Printer>>> printersWatcher_;
-  QFutureWatcher<Drawn> drawingWatcher_;
+  BackgroundWork asking_, drawing_;
+  bool isAsking_ = false, isDrawing_ = false;
   CancelToken ending_;
   QByteArray picture_;      ///< of the page that was drawn last
   int pictureNumber_ = -1;  ///< of that page, as JobPage::number

@@ -1,16 +1,15 @@
 #include "window/check/check_command.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QFileDialog>
 #include <QMainWindow>
-#include <QPointer>
 #include <QTabWidget>
-#include <QThreadPool>
 
 #include <utility>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
+#include "base/sentence.h"
 #include "base/waiting_threads.h"
 #include "check/profile.h"
 #include "display/norvex_view.h"
@@ -41,12 +40,6 @@ CheckedPicture checkedFile(PictureService& service, CheckRequest request, const 
 
 }  // namespace
 
-/// Shared by the command and the checking thread; what is left when nobody waits for it any more.
-struct CheckCommand::Checking {
-  CancelToken cancel;
-  CheckedPicture checked;  ///< belongs to the thread until it is told
-};
-
 CheckCommand::CheckCommand(WindowParts& parts, CheckPage& page, QObject* parent)
     : QObject(parent), parts_(parts), page_(page) {
   page_.setProfile(savedViewText(kProfile));
@@ -66,7 +59,7 @@ CheckCommand::~CheckCommand() {
 
 bool CheckCommand::stop() {
   if (!checking_) return false;
-  checking_->cancel.cancel();
+  checking_->cancel();
   checking_.reset();
   return true;
 }
@@ -101,19 +94,17 @@ void CheckCommand::start() {
   request.profile = *profile;
   if (password_) request.password = password_();
   page_.showChecking();
-  checking_ = std::make_shared<Checking>();
-  // The program may have ended by the time that there is something to tell.
-  waitingThreads().start([self = QPointer<CheckCommand>(this), application = QPointer<QCoreApplication>(qApp),
-                          checking = checking_, &service = document->pictureService(), request] {
-    if (checking->cancel.cancelled()) return;
-    checking->checked = checkedFile(service, request, checking->cancel);
-    if (!application) return;
-    QMetaObject::invokeMethod(application.data(), [self, checking] {
-      if (!self || self->checking_ != checking) return;  // another check is wanted by now
-      self->checking_.reset();
-      self->take(checking->checked);
-    });
-  });
+  checking_ = CancelToken();
+  workInBackground(
+      this,
+      [cancel = *checking_, &service = document->pictureService(), request] {
+        return cancel.cancelled() ? CheckedPicture() : checkedFile(service, request, cancel);
+      },
+      [this, cancel = *checking_](const CheckedPicture& checked) {
+        if (cancel.cancelled()) return;  // another check is wanted by now
+        checking_.reset();
+        take(checked);
+      });
 }
 
 void CheckCommand::take(const CheckedPicture& checked) {

@@ -5,9 +5,10 @@
 #include <QString>
 
 #include <functional>
-#include <memory>
+#include <optional>
 #include <utility>
 
+#include "base/cancel_token.h"
 #include "check/finding.h"
 
 namespace norvex {
@@ -32,7 +33,7 @@ class CheckCommand final : public QObject {
   /// The file has changed on disk; the window shows what it was.
   void fileDidChange();
   void start();
-  [[nodiscard]] bool isChecking() const { return checking_ != nullptr; }
+  [[nodiscard]] bool isChecking() const { return checking_.has_value(); }
   /// Of the last check that came to its end.
   [[nodiscard]] const Findings& findings() const { return findings_; }
 
@@ -48,7 +49,6 @@ class CheckCommand final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  struct Checking;
   bool stop();
   void take(const CheckedPicture& checked);
   void askForProfile();
@@ -58,8 +58,8 @@ class CheckCommand final : public QObject {
   CheckPage& page_;
   std::function<QString()> password_;
   Findings findings_;
-  std::shared_ptr<Checking> checking_;  ///< null while nothing is checked
-  bool stale_ = true;                   ///< what the page shows is of another state of the file
+  std::optional<CancelToken> checking_;  ///< nothing while nothing is checked
+  bool stale_ = true;                    ///< what the page shows is of another state of the file
 };
 
 }  // namespace norvex

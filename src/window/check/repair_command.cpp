@@ -8,14 +8,13 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
-#include <QtConcurrent>
 
 #include <algorithm>
 
 #include "base/atomic_file.h"
+#include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/waiting_threads.h"
 #include "check/mending.h"
 #include "desktop/alert.h"
 #include "desktop/save_panel.h"
@@ -108,26 +107,28 @@ void RepairCommand::repair(const QString& path, PreviewUse preview) {
   repairing_ = true;
   const CancelToken cancel;
   const int number = parts_.work().begin(WindowWork::Kind::Writing, localizedString("Repairing…"), cancel);
-  QtConcurrent::run(&waitingThreads(),
-                    [&service = document->pictureService(), from = document->fileURL().toLocalFile(), path,
-                     preview, cancel] { return repairedFile(service, from, path, preview, cancel); })
-      .then(qApp,
-            [self = QPointer<RepairCommand>(this), path, number](const Result<RepairedPicture>& repaired) {
-              if (!self) return;
-              // The work ends last: a window that closes when it is done must not go under a message.
-              const bool failed = !repaired && repaired.error().kind != ErrorKind::Cancelled;
-              if (repaired)
-                self->tell(path, *repaired);
-              else if (failed)
-                self->parts_.showWriteFailure(toldByCheck(repaired.error()), path);
-              if (!self) return;  // while the message was on the screen
-              self->repairing_ = false;
-              if (failed)
-                self->parts_.work().fail(number);
-              else
-                self->parts_.work().end(number);
-              emit self->ended(path, repaired.ok());
-            });
+  workInBackground(
+      this,
+      [&service = document->pictureService(), from = document->fileURL().toLocalFile(), path, preview,
+       cancel] { return repairedFile(service, from, path, preview, cancel); },
+      [this, path, number](const Result<RepairedPicture>& repaired) { end(path, number, repaired); });
+}
+
+// The work ends last: a window that closes when it is done must not go under a message.
+void RepairCommand::end(const QString& path, int number, const Result<RepairedPicture>& repaired) {
+  const QPointer<RepairCommand> self(this);
+  const bool failed = !repaired && repaired.error().kind != ErrorKind::Cancelled;
+  if (repaired)
+    tell(path, *repaired);
+  else if (failed)
+    parts_.showWriteFailure(toldByCheck(repaired.error()), path);
+  if (!self) return;  // while the message was on the screen
+  repairing_ = false;
+  if (failed)
+    parts_.work().fail(number);
+  else
+    parts_.work().end(number);
+  emit ended(path, repaired.ok());
 }
 
 void RepairCommand::tell(const QString& path, const RepairedPicture& repaired) {

@@ -38,6 +38,7 @@ class RepairCommand final : public QObject {
 
  private:
   void repair(const QString& path, PreviewUse preview);
+  void end(const QString& path, int number, const Result<RepairedPicture>& repaired);
   void tell(const QString& path, const RepairedPicture& repaired);
 
   WindowParts& parts_;

@@ -1,13 +1,10 @@
 #include "window/commands/copy_command.h"
 
 #include <QApplication>
-#include <QFuture>
-#include <QPointer>
-#include <QtConcurrent>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/waiting_threads.h"
 #include "display/length_text.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
@@ -21,15 +18,6 @@
 namespace norvex {
 
 namespace {
-
-/// Makes every format, one after the other: the picture process serves one at a time, and the other threads
-/// are left to what is on the screen.
-QFuture<void> madeInBackground(const PictureFormats& formats, const PictureFormats& translated) {
-  const QList<std::shared_ptr<PromisedData>> all = formats.DataObjects + translated.DataObjects;
-  return QtConcurrent::run(&waitingThreads(), [all] {
-    for (const std::shared_ptr<PromisedData>& data : all) static_cast<void>(data->get());
-  });
-}
 
 NSPasteboardItem itemOf(const PictureFormats& formats, const PictureFormats& translated) {
   NSPasteboardItem item;
@@ -54,8 +42,7 @@ qsizetype bestFileFormat(const PictureFormats& formats) {
 std::optional<DraggedFile> draggedOf(const PictureFormats& offered, qsizetype row, const QString& name) {
   if (row < 0) return std::nullopt;
   const std::shared_ptr<PromisedData> data = offered.DataObjects.at(row);
-  static_cast<void>(QtConcurrent::run(&waitingThreads(),
-                                      [data] { return data->get(); }));  // the drag takes a while: use it
+  startWork(waitingThreads(), [data] { static_cast<void>(data->get()); });  // the drag takes a while: use it
   const QString extension = offered.UTIs.at(row).preferredFilenameExtension();
   // When nobody can ask for the file any more its making ends.
   const std::shared_ptr<void> asked(nullptr, [cancel = offered.cancel](void*) { cancel.cancel(); });
@@ -115,13 +102,19 @@ void CopyCommand::writeWhenMade(const PictureFormats& formats, const PictureSnap
   const PictureFormats translated = translatedFormats(formats, shown);
   copying_ = formats.cancel;
   number_ = parts_.work().begin(WindowWork::Kind::Copying, localizedString("Copying…"), formats.cancel);
-  QPointer<CopyCommand> self(this);
-  madeInBackground(formats, translated).then(qApp, [self, formats, translated, size = shown.rect.size()] {
-    if (!self || formats.cancel.cancelled()) return;
-    self->copying_.reset();
-    self->parts_.work().end(self->number_);
-    self->write(itemOf(formats, translated), size);
-  });
+  workInBackground(
+      this,
+      // One after the other: the picture process serves one at a time, and the other threads are left to what
+      // is on the screen.
+      [all = formats.DataObjects + translated.DataObjects] {
+        for (const std::shared_ptr<PromisedData>& data : all) static_cast<void>(data->get());
+      },
+      [this, formats, translated, size = shown.rect.size()] {
+        if (formats.cancel.cancelled()) return;
+        copying_.reset();
+        parts_.work().end(number_);
+        write(itemOf(formats, translated), size);
+      });
 }
 
 void CopyCommand::write(const NSPasteboardItem& item, const QSizeF& size) {

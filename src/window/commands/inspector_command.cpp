@@ -9,13 +9,12 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTabWidget>
-#include <QtConcurrent>
 
 #include <algorithm>
 #include <utility>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
-#include "base/waiting_threads.h"
 #include "display/norvex_view.h"
 #include "metadata/eps_resources.h"
 #include "picture/eps_image_rep.h"
@@ -151,12 +150,11 @@ bool InspectorCommand::eventFilter(QObject* watched, QEvent* event) {
 void InspectorCommand::askForNames() {
   if (!unnamed_) return;
   naming_ = CancelToken();
-  const QPointer<InspectorCommand> self(this);
-  QtConcurrent::run(&waitingThreads(), [process = std::exchange(unnamed_, {}), cancel = naming_] {
-    return pageNames(*process, cancel);
-  }).then(qApp, [self, cancel = naming_](const Result<PageNames>& names) {
-    if (self && names && !cancel.cancelled()) self->showNames(names->fonts, names->colorSpaces);
-  });
+  workInBackground(
+      this, [process = std::exchange(unnamed_, {}), cancel = naming_] { return pageNames(*process, cancel); },
+      [this, cancel = naming_](const Result<PageNames>& names) {
+        if (names && !cancel.cancelled()) showNames(names->fonts, names->colorSpaces);
+      });
 }
 
 void InspectorCommand::showNames(const QStringList& fonts, const QStringList& colors) {

@@ -1,14 +1,11 @@
 #include "window/commands/messages_command.h"
 
-#include <QCoreApplication>
-#include <QPointer>
-#include <QThreadPool>
 #include <QTimer>
 
 #include <utility>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
-#include "base/waiting_threads.h"
 #include "desktop/alert.h"
 #include "display/norvex_view.h"
 #include "picture/localized_error.h"
@@ -108,19 +105,15 @@ void MessagesCommand::tellWhatStopped() {
   const auto rep = parts_.view()->imageRep();
   if (!rep || std::exchange(stopIsTold_, true)) return;
   // The facts are there, but who is being drawn may be between them and us.
-  waitingThreads().start([self = QPointer<MessagesCommand>(this),
-                          application = QPointer<QCoreApplication>(qApp), process = rep->process(),
-                          shown = std::weak_ptr<NSImageRep>(rep)] {
-    const Result<PictureFacts> facts = process->facts();
-    if (!application || !facts || facts->stoppedBy.isEmpty()) return;
-    QMetaObject::invokeMethod(application.data(), [self, shown, reason = facts->stoppedBy] {
-      if (!self || shown.lock() != self->parts_.view()->imageRep()) return;
-      const Error stopped{ErrorKind::NotParsable, reason};
-      self->tell(MessageBar::Kind::Warning,
-                 localizedString("%1 What is shown is what it had drawn until then.").arg(sentence(stopped)),
-                 {}, {}, details(stopped));
-    });
-  });
+  workInBackground(
+      this, [process = rep->process()] { return process->facts(); },
+      [this, shown = std::weak_ptr<NSImageRep>(rep)](const Result<PictureFacts>& facts) {
+        if (!facts || facts->stoppedBy.isEmpty() || shown.lock() != parts_.view()->imageRep()) return;
+        const Error stopped{ErrorKind::NotParsable, facts->stoppedBy};
+        tell(MessageBar::Kind::Warning,
+             localizedString("%1 What is shown is what it had drawn until then.").arg(sentence(stopped)), {},
+             {}, details(stopped));
+      });
 }
 
 void MessagesCommand::showProblem(const Error& error) {

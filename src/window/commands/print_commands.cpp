@@ -1,11 +1,9 @@
 #include "window/commands/print_commands.h"
 
 #include <QThread>
-#include <QtConcurrent>
 
 #include <algorithm>
 
-#include "base/waiting_threads.h"
 #include "display/norvex_rendering_view.h"
 #include "display/norvex_view.h"
 #include "display/view_compose.h"
@@ -27,7 +25,7 @@ bool wasPrinted(const Result<void>& result) {
 
 PrintCommands::~PrintCommands() {
   cancelAll();
-  if (preparing_) preparing_->picture.waitForFinished();
+  if (preparing_) preparing_->work.wait();
 }
 
 void PrintCommands::cancelAll() {
@@ -46,11 +44,10 @@ void PrintCommands::printRectangle(const NorvexView& view, const QRectF& rect, D
   preparing_->part = part;
   if (services.interaction)
     preparing_->number = services.interaction->preparationDidBegin(part.jobTitle, preparing_->cancel);
-  connect(&preparing_->picture, &QFutureWatcherBase::finished, this, &PrintCommands::takePicture);
   const QSizeF size = view.imageSize();
   const PicturePlacement placement{QPointF(size.width() * 0.5, size.height() * 0.5), view.rotate()};
-  preparing_->picture.setFuture(QtConcurrent::run(
-      &waitingThreads(),
+  preparing_->work = workInBackground(
+      this,
       [rep = view.imageRep(), placement, rect, pictures = services.pictures, cancel = preparing_->cancel,
        home = thread()]() -> Picture {
         const auto pdf = composeView(rep.get(), placement, VectorFormat::Pdf, rect, cancel);
@@ -58,12 +55,12 @@ void PrintCommands::printRectangle(const NorvexView& view, const QRectF& rect, D
         Picture made = NSPDFImageRep::imageRepWithData(*pictures, pdf->bytes, {}, 0, cancel);
         if (made) (*made)->moveToThread(home);
         return made;
-      }));
+      },
+      [this](const Picture& picture) { takePicture(picture); });
 }
 
-void PrintCommands::takePicture() {
+void PrintCommands::takePicture(const Picture& picture) {
   const std::unique_ptr<Preparing> done = std::move(preparing_);
-  const Picture picture = done->picture.result();
   const Result<void> result = picture ? Result<void>() : Result<void>(picture.error());
   if (PrintInteraction* const interaction = done->part.services.interaction)
     interaction->preparationDidEnd(done->number, done->part.jobTitle, result);

@@ -1,7 +1,6 @@
 // The print jobs of one document window.
 #pragma once
 
-#include <QFutureWatcher>
 #include <QObject>
 #include <QRectF>
 #include <QSizeF>
@@ -10,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+#include "base/background_work.h"
 #include "base/cancel_token.h"
 #include "base/result.h"
 #include "picture/pdf_image_rep.h"
@@ -59,11 +59,11 @@ class PrintCommands final : public QObject {
     Part part;
     CancelToken cancel;
     int number = 0;  ///< what the interaction calls it
-    QFutureWatcher<Picture> picture;
+    BackgroundWork work;
   };
 
   void runPart(const Part& part, const std::shared_ptr<NSImageRep>& picture);
-  void takePicture();
+  void takePicture(const Picture& picture);
   void drop(NSPrintOperation* operation);
 
   std::unique_ptr<Preparing> preparing_;

@@ -1,19 +1,18 @@
 #include "window/commands/save_as_command.h"
 
 #include <QEventLoop>
-#include <QFutureWatcher>
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QScopeGuard>
 #include <QTimer>
-#include <QtConcurrent>
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/waiting_threads.h"
 #include "desktop/alert.h"
 #include "desktop/save_panel.h"
 #include "display/norvex_view.h"
@@ -78,11 +77,20 @@ void SaveAsCommand::run(const QString& title) {
 void SaveAsCommand::workBesideTheWindow(const std::function<void()>& work, const CancelToken& cancel) {
   const int number = parts_.work().begin(WindowWork::Kind::Writing, localizedString("Writing…"), cancel);
   QEventLoop loop;
-  QFutureWatcher<void> watcher;
-  connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
-  watcher.setFuture(QtConcurrent::run(&waitingThreads(), work));
+  std::exception_ptr thrown;  // it is for the application to tell, as if there were no other thread
+  const BackgroundWork working = workInBackground(
+      &loop,
+      [&work, &thrown] {
+        try {
+          work();
+        } catch (...) {
+          thrown = std::current_exception();
+        }
+      },
+      [&loop] { loop.quit(); });
   loop.exec();
-  watcher.waitForFinished();  // a program that is ending ends the loop before the work
+  working.wait();  // a program that is ending ends the loop before the work
+  if (thrown) std::rethrow_exception(thrown);
   parts_.work().end(number);
 }
 

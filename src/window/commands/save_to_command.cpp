@@ -1,17 +1,15 @@
 #include "window/commands/save_to_command.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
 #include <QSettings>
-#include <QtConcurrent>
 
 #include "base/atomic_file.h"
+#include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/waiting_threads.h"
 #include "desktop/save_panel.h"
 #include "document/document.h"
 #include "encoders/output_check.h"
@@ -106,32 +104,24 @@ void SaveToCommand::fillAccessory(const std::shared_ptr<Sheet>& sheet) {
 }
 
 void SaveToCommand::makeFormats(const std::shared_ptr<Sheet>& sheet) {
-  QPointer<SaveToCommand> self(this);
   const std::weak_ptr<Sheet> kept = sheet;  // a closed sheet ends the making
-  // The program may have ended by the time that there is something to tell.
-  const QPointer<QCoreApplication> application(qApp);
-  const auto tell = [self, kept, application](const std::function<void(SaveToCommand&, Sheet&)>& news) {
-    if (!application) return;
-    QMetaObject::invokeMethod(application.data(), [self, kept, news] {
+  const auto tell = [back = WayBack(this), kept](const std::function<void(Sheet&)>& news) {
+    back.tell([kept, news] {
       const auto shown = kept.lock();
-      if (self && shown && shown->open) news(*self, *shown);
+      if (shown && shown->open) news(*shown);
     });
   };
   // One after the other, the preview first; a format that is to be written meanwhile does not wait for its
   // turn.
-  static_cast<void>(QtConcurrent::run(&waitingThreads(), [tell, rep = sheet->formats.pdfImageRep,
-                                                          all = sheet->formats.DataObjects,
-                                                          cancel = sheet->formats.cancel] {
-    if (rep)
-      tell([made = rep->get()](SaveToCommand& c, Sheet&) { c.parts_.doSaveToImageView->setImageRep(made); });
+  startWork(waitingThreads(), [this, tell, rep = sheet->formats.pdfImageRep, all = sheet->formats.DataObjects,
+                               cancel = sheet->formats.cancel] {
+    if (rep) tell([this, made = rep->get()](Sheet&) { parts_.doSaveToImageView->setImageRep(made); });
     for (const std::shared_ptr<PromisedData>& data : all) {
       if (cancel.cancelled()) return;
       if (data->get().isEmpty())
-        tell([data](SaveToCommand& c, Sheet& shown) {
-          c.removeFormat(shown, shown.formats.DataObjects.indexOf(data));
-        });
+        tell([this, data](Sheet& shown) { removeFormat(shown, shown.formats.DataObjects.indexOf(data)); });
     }
-  }));
+  });
 }
 
 void SaveToCommand::removeFormat(Sheet& sheet, qsizetype row) {
@@ -153,21 +143,20 @@ void SaveToCommand::write(const std::shared_ptr<Sheet>& sheet, const QUrl& url) 
       urlWithExtension(url, sheet->formats.UTIs.at(row).preferredFilenameExtension()).toLocalFile();
   const CancelToken cancel = sheet->formats.cancel;
   const int number = parts_.work().begin(WindowWork::Kind::Writing, localizedString("Writing…"), cancel);
-  QPointer<SaveToCommand> self(this);
   // The sheet is held until the file is written: letting go of it ends what is being made.
-  QtConcurrent::run(&waitingThreads(), [path, data, cancel] {
-    return writeTo(path, data, cancel);
-  }).then(qApp, [self, sheet, path, url, number](const Result<void>& written) {
-    if (!self) return;
-    if (!written && written.error().kind != ErrorKind::Cancelled) {
-      self->parts_.showWriteFailure(written.error(), path);
-      if (!self) return;  // while the message was on the screen
-      emit self->failed();
-    }
-    self->parts_.work().end(number);
-    QSettings().setValue(kSaveTo, url);
-    emit self->ended(path, written.ok());
-  });
+  workInBackground(
+      this, [path, data, cancel] { return writeTo(path, data, cancel); },
+      [this, sheet, path, url, number](const Result<void>& written) {
+        const QPointer<SaveToCommand> self(this);
+        if (!written && written.error().kind != ErrorKind::Cancelled) {
+          parts_.showWriteFailure(written.error(), path);
+          if (!self) return;  // while the message was on the screen
+          emit failed();
+        }
+        parts_.work().end(number);
+        QSettings().setValue(kSaveTo, url);
+        emit ended(path, written.ok());
+      });
 }
 
 }  // namespace norvex

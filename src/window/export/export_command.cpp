@@ -1,18 +1,16 @@
 #include "window/export/export_command.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QStandardPaths>
-#include <QtConcurrent>
 
 #include <utility>
 
 #include "base/atomic_file.h"
+#include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/waiting_threads.h"
 #include "desktop/alert.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
@@ -143,18 +141,14 @@ void ExportCommand::make() {
         return std::make_shared<const ExportedPicture>(exportedPicture(snapshot, choice, cancel));
       });
   making_ = making;
-  // The program may have ended by the time that there is something to tell.
-  static_cast<void>(QtConcurrent::run(
-      &waitingThreads(), [self = QPointer<ExportCommand>(this),
-                          application = QPointer<QCoreApplication>(qApp), making = std::move(making)] {
+  workInBackground(
+      this,
+      [making] {
         if (making->cancel.cancelled()) return;
         if (const auto file = making->file->get())
           making->preview = previewOf(*file, making->snapshot, making->choice, kPreviewSide, making->cancel);
-        if (!application) return;
-        QMetaObject::invokeMethod(application.data(), [self, making] {
-          if (self) self->take(making);
-        });
-      }));
+      },
+      [this, making] { take(making); });
 }
 
 void ExportCommand::take(const std::shared_ptr<Making>& making) {
@@ -192,29 +186,34 @@ void ExportCommand::write() {
   dialog_->accept();
   const int number =
       parts_.work().begin(WindowWork::Kind::Writing, localizedString("Writing…"), making->cancel);
-  QtConcurrent::run(&waitingThreads(), [path, making]() -> Result<void> {
-    const auto file = making->file->get();
-    if (making->cancel.cancelled())
-      return Error{ErrorKind::Cancelled, localizedString("The writing was stopped")};
-    if (!file || file->bytes.isEmpty())
-      return file && file->error ? *file->error
-                                 : Error{ErrorKind::CannotWrite,
-                                         localizedString("The picture cannot be written in this format")};
-    return writeFileAtomically(path, file->bytes, IfExists::Replace);
-  }).then(qApp, [self, path, number](const Result<void>& written) {
-    if (!self) return;
-    const bool failed = !written && written.error().kind != ErrorKind::Cancelled;
-    if (failed) self->parts_.showWriteFailure(written.error(), path);
-    if (!self) return;  // while the message was on the screen
-    if (failed)
-      self->parts_.work().fail(number);
-    else
-      self->parts_.work().end(number);
-    if (written)
-      BriefNote::tell(*self->parts_.scrollArea(),
-                      localizedString("Exported “%1”").arg(QFileInfo(path).fileName()));
-    emit self->ended(path, written.ok());
-  });
+  workInBackground(
+      this, [path, making] { return written(path, *making); },
+      [this, path, number](const Result<void>& result) { end(path, number, result); });
+}
+
+Result<void> ExportCommand::written(const QString& path, Making& making) {
+  const auto file = making.file->get();
+  if (making.cancel.cancelled())
+    return Error{ErrorKind::Cancelled, localizedString("The writing was stopped")};
+  if (!file || file->bytes.isEmpty())
+    return file && file->error ? *file->error
+                               : Error{ErrorKind::CannotWrite,
+                                       localizedString("The picture cannot be written in this format")};
+  return writeFileAtomically(path, file->bytes, IfExists::Replace);
+}
+
+void ExportCommand::end(const QString& path, int number, const Result<void>& result) {
+  const QPointer<ExportCommand> self(this);
+  const bool failed = !result && result.error().kind != ErrorKind::Cancelled;
+  if (failed) parts_.showWriteFailure(result.error(), path);
+  if (!self) return;  // while the message was on the screen
+  if (failed)
+    parts_.work().fail(number);
+  else
+    parts_.work().end(number);
+  if (result)
+    BriefNote::tell(*parts_.scrollArea(), localizedString("Exported “%1”").arg(QFileInfo(path).fileName()));
+  emit ended(path, result.ok());
 }
 
 }  // namespace norvex

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+#include "base/result.h"
+
 namespace norvex {
 
 class CopyCommand;
@@ -36,6 +38,10 @@ class ExportCommand final : public QObject {
   void drop();
   void take(const std::shared_ptr<Making>& making);
   void write();
+  /// Blocks; any thread.
+  static Result<void> written(const QString& path, Making& making);
+  /// `number`: what the window's work calls the writing.
+  void end(const QString& path, int number, const Result<void>& result);
   [[nodiscard]] bool mayReplace(const QString& path);
 
   WindowParts& parts_;

@@ -1,16 +1,13 @@
 #include "window/inks/inks_command.h"
 
-#include <QCoreApplication>
 #include <QEvent>
-#include <QPointer>
-#include <QtConcurrent>
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
-#include "base/waiting_threads.h"
 #include "display/norvex_view.h"
 #include "picture/image_rep.h"
 #include "picture/inks/ink_image.h"
@@ -77,13 +74,14 @@ void InksCommand::separate() {
   work_ = parts_.work().begin(WindowWork::Kind::Examining, told, separating_);
   page_.showSeparating(told);
   const SeparationRequest request{rep->page(), dpiFor(rep->size()), page_.simulatesOverprint()};
-  QPointer<InksCommand> self(this);
-  QtConcurrent::run(&waitingThreads(), [process = rep->process(), kind = rep->pictureKind(), request,
-                                        cancel = separating_] {
-    return separatedPage(*process, kind, request, cancel);
-  }).then(qApp, [self, number = work_](const Result<SeparatedPage>& page) {
-    if (self && self->work_ == number) self->take(page);  // otherwise something else is shown by now
-  });
+  workInBackground(
+      this,
+      [process = rep->process(), kind = rep->pictureKind(), request, cancel = separating_] {
+        return separatedPage(*process, kind, request, cancel);
+      },
+      [this, number = work_](const Result<SeparatedPage>& page) {
+        if (work_ == number) take(page);  // otherwise something else is shown by now
+      });
 }
 
 void InksCommand::end() {
@@ -113,12 +111,14 @@ void InksCommand::compose() {
   inPicture_->setChoice(page_.choice());
   composing_.cancel();
   composing_ = CancelToken();
-  QPointer<InksCommand> self(this);
-  QtConcurrent::run(&waitingThreads(), [inks = inks_, choice = page_.choice(), cancel = composing_] {
-    return inkImage(*inks, choice, cancel);
-  }).then(qApp, [self, cancel = composing_](const QImage& image) {
-    if (self && !cancel.cancelled()) self->page_.showImage(image);
-  });
+  workInBackground(
+      this,
+      [inks = inks_, choice = page_.choice(), cancel = composing_] {
+        return inkImage(*inks, choice, cancel);
+      },
+      [this, cancel = composing_](const QImage& image) {
+        if (!cancel.cancelled()) page_.showImage(image);
+      });
 }
 
 void InksCommand::showAmounts(QPoint pixel) {

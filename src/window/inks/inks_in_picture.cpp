@@ -1,16 +1,13 @@
 #include "window/inks/inks_in_picture.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QMouseEvent>
-#include <QPointer>
-#include <QtConcurrent>
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "display/norvex_view.h"
 #include "display/picture_geometry.h"
 #include "picture/image_rep.h"
@@ -139,13 +136,14 @@ void InksInPicture::separate() {
   separating_ = CancelToken();
   asked_ = next;
   const auto rep = parts_.view()->imageRep();
-  QPointer<InksInPicture> self(this);
-  QtConcurrent::run(&waitingThreads(), [process = rep->process(), kind = rep->pictureKind(), request = *next,
-                                        cancel = separating_] {
-    return separatedPage(*process, kind, request, cancel);
-  }).then(qApp, [self, cancel = separating_, place = *next->part](const Result<SeparatedPage>& part) {
-    if (self && !cancel.cancelled()) self->take(part, place);
-  });
+  workInBackground(
+      this,
+      [process = rep->process(), kind = rep->pictureKind(), request = *next, cancel = separating_] {
+        return separatedPage(*process, kind, request, cancel);
+      },
+      [this, cancel = separating_, place = *next->part](const Result<SeparatedPage>& part) {
+        if (!cancel.cancelled()) take(part, place);
+      });
 }
 
 // Where it fails the plates of the whole page stay: they are of the same inks, less sharp.
@@ -179,14 +177,16 @@ void InksInPicture::compose() {
   };
   QList<Task> tasks{{whole_.inks, choiceFor(*whole_.inks)}};
   if (part_.inks) tasks << Task{part_.inks, choiceFor(*part_.inks)};
-  QPointer<InksInPicture> self(this);
-  QtConcurrent::run(&waitingThreads(), [tasks, cancel = composing_] {
-    QList<QImage> images;
-    for (const Task& task : tasks) images << inkImage(*task.inks, task.choice, cancel);
-    return images;
-  }).then(qApp, [self, cancel = composing_](const QList<QImage>& images) {
-    if (self && !cancel.cancelled()) self->composed(images);
-  });
+  workInBackground(
+      this,
+      [tasks, cancel = composing_] {
+        QList<QImage> images;
+        for (const Task& task : tasks) images << inkImage(*task.inks, task.choice, cancel);
+        return images;
+      },
+      [this, cancel = composing_](const QList<QImage>& images) {
+        if (!cancel.cancelled()) composed(images);
+      });
 }
 
 void InksInPicture::composed(const QList<QImage>& images) {

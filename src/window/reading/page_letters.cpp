@@ -1,10 +1,6 @@
 #include "window/reading/page_letters.h"
 
-#include <QCoreApplication>
-#include <QPointer>
-#include <QThreadPool>
-
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "display/norvex_view.h"
 #include "picture/pdf_image_rep.h"
 #include "window/commands/window_parts.h"
@@ -48,15 +44,14 @@ void PageLetters::want() {
   cancel_ = CancelToken();
   wanted_ = shown;
   text_.reset();
-  waitingThreads().start([self = QPointer<PageLetters>(this), application = QPointer<QCoreApplication>(qApp),
-                          process = shown->process(), page = shown->page(), cancel = cancel_,
-                          rep = std::weak_ptr<NSImageRep>(shown)] {
-    const Result<PageText> read = textOf(*process, page, cancel);
-    if (!application) return;
-    QMetaObject::invokeMethod(application.data(), [self, rep, read] {
-      if (self) self->take(rep.lock(), read);
-    });
-  });
+  workInBackground(
+      this,
+      [process = shown->process(), page = shown->page(), cancel = cancel_] {
+        return textOf(*process, page, cancel);
+      },
+      [this, rep = std::weak_ptr<NSImageRep>(shown)](const Result<PageText>& read) {
+        take(rep.lock(), read);
+      });
 }
 
 bool PageLetters::lookElsewhere(const QString& needle, bool backward) {
@@ -66,20 +61,20 @@ bool PageLetters::lookElsewhere(const QString& needle, bool backward) {
   if (pages < 2) return false;
   stopLooking();
   elsewhere_ = CancelToken();
-  waitingThreads().start([self = QPointer<PageLetters>(this), application = QPointer<QCoreApplication>(qApp),
-                          process = shown->process(), from = shown->page(), pages, needle, backward,
-                          cancel = elsewhere_] {
-    int found = -1;
-    for (int step = 1; step < pages && found < 0 && !cancel.cancelled(); ++step) {
-      const int page = (from + (backward ? pages - step : step)) % pages;
-      const Result<PageText> read = textOf(*process, page, cancel);
-      if (read && !runsWith(*read, needle).isEmpty()) found = page;
-    }
-    if (!application) return;
-    QMetaObject::invokeMethod(application.data(), [self, found, cancel] {
-      if (self && !cancel.cancelled()) emit self->lookedElsewhere(found);
-    });
-  });
+  workInBackground(
+      this,
+      [process = shown->process(), from = shown->page(), pages, needle, backward,
+       cancel = elsewhere_]() -> std::optional<int> {
+        for (int step = 1; step < pages && !cancel.cancelled(); ++step) {
+          const int page = (from + (backward ? pages - step : step)) % pages;
+          const Result<PageText> read = textOf(*process, page, cancel);
+          if (read && !runsWith(*read, needle).isEmpty()) return page;
+        }
+        return std::nullopt;
+      },
+      [this, cancel = elsewhere_](const std::optional<int>& found) {
+        if (!cancel.cancelled()) emit lookedElsewhere(found.value_or(-1));
+      });
   return true;
 }
 

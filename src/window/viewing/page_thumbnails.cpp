@@ -1,12 +1,8 @@
 #include "window/viewing/page_thumbnails.h"
 
-#include <QCoreApplication>
-#include <QPointer>
-#include <QtConcurrent>
-
 #include <algorithm>
 
-#include "base/waiting_threads.h"
+#include "base/background_work.h"
 #include "ui/pages/page_strip.h"
 
 namespace norvex {
@@ -43,16 +39,18 @@ void PageThumbnails::makeNext() {
   const QSizeF size = (*rep)->size();
   const double scale =
       PageStrip::side * strip_.devicePixelRatioF() / std::max({size.width(), size.height(), 1.0});
-  QPointer<PageThumbnails> self(this);
-  QtConcurrent::run(&waitingThreads(), [rep = *rep, scale, cancel = cancel_] {
-    const auto image = rep->rasterImage(scale, RenderPurpose::Preview, cancel);
-    return image ? *image : QImage();
-  }).then(qApp, [self, page, cancel = cancel_](const QImage& image) {
-    if (!self || cancel.cancelled()) return;
-    self->making_ = false;
-    self->strip_.setThumbnail(page, image);
-    self->makeNext();
-  });
+  workInBackground(
+      this,
+      [rep = *rep, scale, cancel = cancel_] {
+        const auto image = rep->rasterImage(scale, RenderPurpose::Preview, cancel);
+        return image ? *image : QImage();
+      },
+      [this, page, cancel = cancel_](const QImage& image) {
+        if (cancel.cancelled()) return;
+        making_ = false;
+        strip_.setThumbnail(page, image);
+        makeNext();
+      });
 }
 
 }  // namespace norvex

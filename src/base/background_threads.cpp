@@ -1,4 +1,4 @@
-#include "base/yielding_thread.h"
+#include "base/background_threads.h"
 
 #include <sys/resource.h>
 
@@ -6,6 +6,8 @@
 
 namespace norvex {
 namespace {
+
+constexpr int kThreads = 32;  // they hardly compute
 
 void prepare(QThreadPool& pool) {
   pool.setMaxThreadCount(1);
@@ -15,6 +17,13 @@ void prepare(QThreadPool& pool) {
 }
 
 }  // namespace
+
+QThreadPool& waitingThreads() {
+  static QThreadPool pool;
+  static const bool sized = (pool.setMaxThreadCount(kThreads), true);
+  static_cast<void>(sized);
+  return pool;
+}
 
 QThreadPool& yieldingThread() {
   static QThreadPool pool;

@@ -26,7 +26,7 @@ namespace {
 /// Three pages: 200 × 100, 300 × 400 at (10, 20), and one without area.
 class PagesFixture : public WindowFixture {
  public:
-  explicit PagesFixture(int pages = 3) : c(made(pages)), pages(*c.findChild<PagesCommand*>()) {}
+  explicit PagesFixture(int count = 3) : c(made(count)), pages(*c.findChild<PagesCommand*>()) {}
   MainWindowController& made(int count) {
     MemoryPicture picture;
     picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(10, 20, 300, 400), QRectF()};

@@ -10,7 +10,6 @@
 #include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/sentence.h"
-#include "base/waiting_threads.h"
 #include "check/profile.h"
 #include "display/norvex_view.h"
 #include "document/document.h"

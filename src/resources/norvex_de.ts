@@ -3545,8 +3545,12 @@
         <translation>In dieser Größe oder an dieser Stelle lässt sich das Bild nicht erzeugen.</translation>
     </message>
     <message>
-        <source>the picture is too large to be turned</source>
-        <translation>Das Bild ist zu groß, um gedreht zu werden.</translation>
+        <source>the picture is too large to be drawn without seams</source>
+        <translation>das Bild ist zu groß, um ohne Fugen gezeichnet zu werden</translation>
+    </message>
+    <message>
+        <source>there was not enough memory for work in the background</source>
+        <translation>für Arbeit im Hintergrund war nicht genug Speicher da</translation>
     </message>
     <message>
         <source>there is no picture</source>

@@ -3545,8 +3545,12 @@
         <translation>the picture cannot be made in this size or at this place</translation>
     </message>
     <message>
-        <source>the picture is too large to be turned</source>
-        <translation>the picture is too large to be turned</translation>
+        <source>the picture is too large to be drawn without seams</source>
+        <translation>the picture is too large to be drawn without seams</translation>
+    </message>
+    <message>
+        <source>there was not enough memory for work in the background</source>
+        <translation>there was not enough memory for work in the background</translation>
     </message>
     <message>
         <source>there is no picture</source>

@@ -3545,8 +3545,12 @@
         <translation>La imagen no se puede generar con este tamaño o en este lugar.</translation>
     </message>
     <message>
-        <source>the picture is too large to be turned</source>
-        <translation>La imagen es demasiado grande para girarla.</translation>
+        <source>the picture is too large to be drawn without seams</source>
+        <translation>la imagen es demasiado grande para dibujarla sin juntas</translation>
+    </message>
+    <message>
+        <source>there was not enough memory for work in the background</source>
+        <translation>no había memoria suficiente para un trabajo en segundo plano</translation>
     </message>
     <message>
         <source>there is no picture</source>

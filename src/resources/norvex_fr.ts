@@ -3545,8 +3545,12 @@
         <translation>L’image ne peut pas être produite à cette taille ou à cet endroit.</translation>
     </message>
     <message>
-        <source>the picture is too large to be turned</source>
-        <translation>L’image est trop grande pour être tournée.</translation>
+        <source>the picture is too large to be drawn without seams</source>
+        <translation>l’image est trop grande pour être dessinée sans jointures visibles</translation>
+    </message>
+    <message>
+        <source>there was not enough memory for work in the background</source>
+        <translation>il n’y avait pas assez de mémoire pour un travail en arrière-plan</translation>
     </message>
     <message>
         <source>there is no picture</source>

@@ -3545,8 +3545,12 @@
         <translation>この大きさ、またはこの位置では画像を作れません。</translation>
     </message>
     <message>
-        <source>the picture is too large to be turned</source>
-        <translation>画像が大きすぎて回転できません。</translation>
+        <source>the picture is too large to be drawn without seams</source>
+        <translation>画像が大きすぎて、継ぎ目なしには描けません</translation>
+    </message>
+    <message>
+        <source>there was not enough memory for work in the background</source>
+        <translation>バックグラウンドの作業のためのメモリが足りませんでした</translation>
     </message>
     <message>
         <source>there is no picture</source>

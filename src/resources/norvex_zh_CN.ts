@@ -3545,8 +3545,12 @@
         <translation>无法以此大小或在此位置生成图片。</translation>
     </message>
     <message>
-        <source>the picture is too large to be turned</source>
-        <translation>图片过大，无法旋转。</translation>
+        <source>the picture is too large to be drawn without seams</source>
+        <translation>图片太大，无法无接缝地绘制</translation>
+    </message>
+    <message>
+        <source>there was not enough memory for work in the background</source>
+        <translation>内存不足，无法在后台工作</translation>
     </message>
     <message>
         <source>there is no picture</source>

@@ -2,8 +2,8 @@
 #include "check/resource_fork.h"
 
 #include "check/eps_file_rules.h"
-#include "kit/test_main.h"
 #include "system/check_files.h"
+#include "kit/test_main.h"
 
 using namespace norvex;
 

@@ -11,9 +11,9 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
-#include "system/check_files.h"
 #include "system/real_files.h"
 
 using namespace norvex;

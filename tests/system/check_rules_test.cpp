@@ -7,9 +7,9 @@
 
 #include "base/latin1_text.h"
 #include "check/rule_table.h"
+#include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
-#include "system/check_files.h"
 
 using namespace norvex;
 using namespace norvex::checkfiles;

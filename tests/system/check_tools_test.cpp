@@ -10,9 +10,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
-#include "system/check_files.h"
 
 using namespace norvex;
 using namespace norvex::checkfiles;

@@ -2,9 +2,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
-#include "system/check_files.h"
 
 using namespace norvex;
 using namespace norvex::checkfiles;

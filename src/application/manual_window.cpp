@@ -89,7 +89,7 @@ ManualWindow::ManualWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   page_->setAccessibleName(localizedString("Page of the manual"));
   page_->setFrameShape(QFrame::NoFrame);
   page_->setOpenLinks(false);
-  page_->setSearchPaths({QStringLiteral(":/manual")});
+  page_->setSearchPaths({languageFolder(), QStringLiteral(":/manual")});
   page_->document()->setDocumentMargin(24);
 
   auto* side = new QWidget(this);

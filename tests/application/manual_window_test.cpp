@@ -119,6 +119,30 @@ class ManualWindowTest : public QObject {
     QVERIFY(languages >= 6);
   }
 
+  void everyLanguageShowsTheProgramInItsWords() {
+    const QStringList pictures = QDir(":/manual").entryList({"*.png"});
+    QVERIFY(pictures.size() >= 3);
+    for (const QString& language : QDir(":/manual").entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+      if (language == u"en") continue;
+      for (const QString& name : pictures) {
+        const QImage own(":/manual/" + language + '/' + name);
+        QVERIFY2(!own.isNull(), qPrintable(language + ' ' + name));
+        QVERIFY2(own != QImage(":/manual/" + name), qPrintable(language + ' ' + name));
+      }
+    }
+  }
+
+  void theManualShowsThePicturesOfItsLanguage() {
+    const QLocale before;
+    QLocale::setDefault(QLocale("fr_FR"));
+    const ManualWindow manual;
+    QLocale::setDefault(before);
+    const auto shown = manual.page()->loadResource(QTextDocument::ImageResource, QUrl("window.png"));
+    QFile french(":/manual/fr/window.png");
+    QVERIFY(french.open(QIODevice::ReadOnly));
+    QCOMPARE(shown.toByteArray(), french.readAll());
+  }
+
   void everyPictureOfThePagesIsThere() {
     static const QRegularExpression image("<img src=\"([^\"]+)\"");
     int count = 0;

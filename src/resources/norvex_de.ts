@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>&amp;Fit on one page</source>
-        <translation>Auf eine Seite e&amp;inpassen</translation>
+        <translation>Auf eine Seite einpasse&amp;n</translation>
     </message>
     <message>
         <source>&amp;Landscape</source>
@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>&amp;Vertically</source>
-        <translation>Senk&amp;recht</translation>
+        <translation>S&amp;enkrecht</translation>
     </message>
     <message>
         <source>First page</source>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>P&amp;rinter:</source>
-        <translation>Dru&amp;cker:</translation>
+        <translation>Druc&amp;ker:</translation>
     </message>
     <message>
         <source>PDF</source>
@@ -2089,7 +2089,7 @@
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation>&amp;Seiten:</translation>
+        <translation>Sei&amp;ten:</translation>
     </message>
     <message>
         <source>Sheets:</source>

@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>&amp;Vertically</source>
-        <translation>&amp;Verticalmente</translation>
+        <translation>Vertical&amp;mente</translation>
     </message>
     <message>
         <source>First page</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>Lef&amp;t:</source>
-        <translation>I&amp;zquierda:</translation>
+        <translation>Iz&amp;quierda:</translation>
     </message>
     <message>
         <source>This printer is no longer there.</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Pap&amp;er:</source>
-        <translation>Pap&amp;el:</translation>
+        <translation>&amp;Papel:</translation>
     </message>
     <message>
         <source>Paper</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>T&amp;op:</source>
-        <translation>Arri&amp;ba:</translation>
+        <translation>A&amp;rriba:</translation>
     </message>
     <message>
         <source>Takes no jobs</source>
@@ -2089,7 +2089,7 @@
     </message>
     <message>
         <source>Pa&amp;ges:</source>
-        <translation>Pá&amp;ginas:</translation>
+        <translation>Pági&amp;nas:</translation>
     </message>
     <message>
         <source>Sheets:</source>

@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>&amp;Horizontally</source>
-        <translation>&amp;Horizontalement</translation>
+        <translation>Hori&amp;zontalement</translation>
     </message>
     <message>
         <source>&amp;Vertically</source>
@@ -741,7 +741,7 @@
     </message>
     <message>
         <source>Hea&amp;der and footer</source>
-        <translation>En-&amp;tête et pied de page</translation>
+        <translation>En-tête et &amp;pied de page</translation>
     </message>
     <message>
         <source>Centred:</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Pap&amp;er:</source>
-        <translation>Pap&amp;ier :</translation>
+        <translation>P&amp;apier :</translation>
     </message>
     <message>
         <source>Paper</source>

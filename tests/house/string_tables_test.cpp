@@ -157,6 +157,37 @@ class StringTablesTest : public QObject {
       letters << letter;
     }
   }
+
+  void noTwoControlsOfADialogShareALetter_data() {
+    QTest::addColumn<QString>("language");
+    QTest::newRow("en") << "en";
+    for (const QString& language : otherLanguages()) QTest::newRow(qPrintable(language)) << language;
+  }
+  void noTwoControlsOfADialogShareALetter() {
+    QFETCH(QString, language);
+    static const QStringList page{"Pap&er:",   "Portra&it",        "&Landscape",
+                                  "&Scaling:", "&Fit on one page", "Hea&der and footer"};
+    static const QStringList margins{
+        "T&op:", "&Bottom:", "Lef&t:", "&Right:", "&Horizontally", "&Vertically"};
+    static const QStringList printing{"P&rinter:", "&Copies:", "&All", "Fro&m", "Pa&ges:", "&Print"};
+    static const QStringList preferences{
+        "&Window fits picture", "Chec&kerboard behind new pictures", "Di&m what is outside of the selection",
+        "&Unit of lengths:",    "&Reload changed files by itself",   "R&emember files",
+        "C&lear History"};
+    const QStringList saving = QStringList(printing).replaceInStrings("&Print", "Sa&ve…");
+    const auto own = tableOf(language);
+    for (const QStringList& dialog : {page + margins, page + printing, page + saving, preferences,
+                                      QStringList{"&Remove Keys", "&Default Keys", "All De&faults"}}) {
+      QHash<QString, QString> texts;
+      for (const QString& key : dialog) {
+        const QString text = own.value({"Localizable", key});
+        const QString letter = text.section(u'&', 1).left(1).toLower();
+        QVERIFY2(!letter.isEmpty(), qPrintable(key));
+        QVERIFY2(!texts.contains(letter), qPrintable(text + " | " + texts.value(letter)));
+        texts.insert(letter, text);
+      }
+    }
+  }
 };
 
 NORVEX_TEST(StringTablesTest)

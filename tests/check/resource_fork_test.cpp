@@ -1,6 +1,7 @@
 // Pictures in the resource forks of Macintosh files.
 #include "check/resource_fork.h"
 
+#include "check/check_files.h"
 #include "check/eps_file_rules.h"
 #include "system/check_files.h"
 #include "kit/test_main.h"

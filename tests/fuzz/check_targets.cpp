@@ -10,7 +10,7 @@
 #include "check/file_wrapping.h"
 #include "check/profile.h"
 #include "fuzz/targets.h"
-#include "system/check_files.h"
+#include "check/check_files.h"
 
 namespace norvex::fuzz {
 namespace {

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "check/check_files.h"
 #include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "base/latin1_text.h"
+#include "check/check_files.h"
 #include "check/rule_table.h"
 #include "system/check_files.h"
 #include "kit/program.h"

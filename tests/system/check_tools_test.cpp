@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "check/check_files.h"
 #include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"

@@ -5,6 +5,7 @@
 #include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
+#include "check/check_files.h"
 
 using namespace norvex;
 using namespace norvex::checkfiles;

@@ -70,9 +70,7 @@ void checkBytesBehind(Findings& findings, QByteArrayView program) {
   const QByteArrayView behind = bytesBehind(program);
   // Illustrator keeps its own copy of the document there, as comments.
   if (behind.trimmed().startsWith("%AI")) return;
-  const qsizetype count = std::count_if(behind.begin(), behind.end(), [](char c) {
-    return !isPostScriptSpace(c) && c != '\x04' && c != '\x1A';
-  });
+  const qsizetype count = tellingBytes(behind);
   if (count > 0)
     findings << finding(rule("eps.bytes.behind"),
                         QStringLiteral("bytes behind %%EOF: ") + QString::number(count));

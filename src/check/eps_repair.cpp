@@ -206,13 +206,20 @@ class Mending {
       append(lines_[i], i);
       ended = isStructure(lines_[i]) && isComment(lines_[i], "%%EOF");
     }
-    // What a program keeps behind the document for itself is of use to it.
-    if (ended && end < lines_.size() && lines_[end].text.startsWith("%AI"))
-      result_.program.append(QByteArrayView(program_).sliced(lines_[end].start));
-    if (ended) return;
+    if (ended) return writeBehind(end);
     endLine();
     write("%%EOF");
     changed(QStringLiteral("%%EOF was put in"));
+  }
+
+  void writeBehind(qsizetype end) {
+    if (end >= lines_.size()) return;
+    const QByteArrayView behind = QByteArrayView(program_).sliced(lines_[end].start);
+    // What a program keeps behind the document for itself is of use to it.
+    if (behind.startsWith("%AI"))
+      result_.program.append(behind);
+    else if (tellingBytes(behind) > 0)
+      changed(QStringLiteral("what stood behind %%EOF was left out"));
   }
 
   const QByteArray& program_;

@@ -144,6 +144,11 @@ QByteArrayView commentValue(const ProgramLine& line, QByteArrayView keyword) {
   return value.trimmed();
 }
 
+qsizetype tellingBytes(QByteArrayView bytes) {
+  return std::count_if(bytes.begin(), bytes.end(),
+                       [](char c) { return !isPostScriptSpace(c) && c != '\x04' && c != '\x1A'; });
+}
+
 bool looksLikeData(QByteArrayView line) {
   qsizetype word = 0;
   for (const char c : line) {

@@ -42,6 +42,9 @@ struct ProgramLine {
 /// The text behind the keyword and its colon, without blanks around it. REQUIRES isComment().
 [[nodiscard]] QByteArrayView commentValue(const ProgramLine& line, QByteArrayView keyword);
 
+/// How many bytes are neither blanks nor what transports add at the end of a file.
+[[nodiscard]] qsizetype tellingBytes(QByteArrayView bytes);
+
 /// True if it is no text that people or programs wrote: image samples, packed data.
 [[nodiscard]] bool looksLikeData(QByteArrayView line);
 

@@ -184,6 +184,8 @@ inline constexpr std::array toldSentences{
     "a second %%EndComments was left out",
     "showpage was put in",
     "%%EOF was put in",
+    "what stood behind %%EOF was left out",
+    "what stood before the first line was left out",
     "the box at the end of the file stands in its header",
     "the bounding box is %1 (%2)",
     "%1 was left out, because it stood out of order",

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/time_limit.h"
+#include "check/eps_file_rules.h"
 #include "check/eps_repair.h"
 #include "check/file_wrapping.h"
 #include "encoders/dos_eps_writer.h"
@@ -67,6 +68,8 @@ class Repair {
   void noteWrapping() {
     if (const auto wrapped = wrappedFile(file_))
       result_.changes << QStringLiteral("the program was taken out of %1").arg(wrapped->wrapping);
+    if (hasFinding(epsFileFindings(file_), "eps.bytes.before"))
+      result_.changes << QStringLiteral("what stood before the first line was left out");
     const QByteArray inner = withoutWrapping(file_);
     const auto header = dosEpsHeader(inner);
     if (!header) return;

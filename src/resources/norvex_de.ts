@@ -3181,6 +3181,14 @@
         <translation>%%EOF wurde eingefügt.</translation>
     </message>
     <message>
+        <source>what stood behind %%EOF was left out</source>
+        <translation>Was hinter %%EOF stand, wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>what stood before the first line was left out</source>
+        <translation>Was vor der ersten Zeile stand, wurde weggelassen.</translation>
+    </message>
+    <message>
         <source>the box at the end of the file stands in its header</source>
         <translation>Der Rahmen vom Ende der Datei steht in ihrem Kopf.</translation>
     </message>

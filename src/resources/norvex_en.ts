@@ -3181,6 +3181,14 @@
         <translation>%%EOF was put in</translation>
     </message>
     <message>
+        <source>what stood behind %%EOF was left out</source>
+        <translation>what stood behind %%EOF was left out</translation>
+    </message>
+    <message>
+        <source>what stood before the first line was left out</source>
+        <translation>what stood before the first line was left out</translation>
+    </message>
+    <message>
         <source>the box at the end of the file stands in its header</source>
         <translation>the box at the end of the file stands in its header</translation>
     </message>

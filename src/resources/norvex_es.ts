@@ -3181,6 +3181,14 @@
         <translation>Se insertó %%EOF.</translation>
     </message>
     <message>
+        <source>what stood behind %%EOF was left out</source>
+        <translation>Se omitió lo que seguía a %%EOF.</translation>
+    </message>
+    <message>
+        <source>what stood before the first line was left out</source>
+        <translation>Se omitió lo que precedía a la primera línea.</translation>
+    </message>
+    <message>
         <source>the box at the end of the file stands in its header</source>
         <translation>El cuadro del final del archivo está en su cabecera.</translation>
     </message>

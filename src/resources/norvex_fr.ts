@@ -3181,6 +3181,14 @@
         <translation>%%EOF a été inséré.</translation>
     </message>
     <message>
+        <source>what stood behind %%EOF was left out</source>
+        <translation>Ce qui suivait %%EOF a été omis.</translation>
+    </message>
+    <message>
+        <source>what stood before the first line was left out</source>
+        <translation>Ce qui précédait la première ligne a été omis.</translation>
+    </message>
+    <message>
         <source>the box at the end of the file stands in its header</source>
         <translation>Le cadre de la fin du fichier est dans son en-tête.</translation>
     </message>

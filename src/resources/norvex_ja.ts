@@ -3181,6 +3181,14 @@
         <translation>%%EOF を入れました。</translation>
     </message>
     <message>
+        <source>what stood behind %%EOF was left out</source>
+        <translation>%%EOF の後にあったものは省かれました。</translation>
+    </message>
+    <message>
+        <source>what stood before the first line was left out</source>
+        <translation>最初の行の前にあったものは省かれました。</translation>
+    </message>
+    <message>
         <source>the box at the end of the file stands in its header</source>
         <translation>ファイルの終わりにあったバウンディングボックスをヘッダに移しました。</translation>
     </message>

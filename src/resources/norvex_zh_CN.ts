@@ -3181,6 +3181,14 @@
         <translation>已插入 %%EOF。</translation>
     </message>
     <message>
+        <source>what stood behind %%EOF was left out</source>
+        <translation>已略去 %%EOF 之后的内容。</translation>
+    </message>
+    <message>
+        <source>what stood before the first line was left out</source>
+        <translation>已略去第一行之前的内容。</translation>
+    </message>
+    <message>
         <source>the box at the end of the file stands in its header</source>
         <translation>文件末尾的边界框已移到文件头。</translation>
     </message>

@@ -92,6 +92,16 @@ class EpsRepairTest : public QObject {
     QVERIFY(repaired(QByteArray("%!PS\n%%Title: t\n%%EOF\n\0\0\n\4", 26)).endsWith("showpage\n%%EOF\n"));
   }
 
+  void whatStoodBehindTheEndIsToldToBeLeftOut() {
+    const QString told("what stood behind %%EOF was left out");
+    const auto changes = [](const QByteArray& behind) {
+      return repairedEps("%!PS\n" + kBody + "showpage\n%%EOF\n" + behind, kBox, false).changes;
+    };
+    QVERIFY(changes("grestore\n").contains(told));
+    for (const char* nothing : {"", "\n", "\x04\n", "\x1A", "%AI9_PrivateDataBegin\n%one\n"})
+      QVERIFY2(!changes(nothing).contains(told), nothing);
+  }
+
   void aShowpageBehindTheEndIsNone() {
     QVERIFY(repaired("%!PS\n" + kBody + "%%EOF\nshowpage\n").endsWith(kBody + "showpage\n%%EOF\n"));
   }

@@ -174,6 +174,17 @@ class CheckToolsTest : public QObject {
     QCOMPARE(contentsOf(mended), kEps);
   }
 
+  void whatStoodAroundTheProgramIsToldToBeLeftOut() {
+    const QTemporaryDir folder;
+    const QString file = written(folder, "a.eps", "rubbish\n" + kEps + "rubbish\n"),
+                  mended = folder.filePath("b.eps");
+    const kit::Ran repair = kit::run(kNorvex, {"repair", file, "-o", mended});
+    QCOMPARE(repair.exitCode, 0);
+    QVERIFY2(repair.err.contains("what stood before the first line was left out"), repair.err.constData());
+    QVERIFY2(repair.err.contains("what stood behind %%EOF was left out"), repair.err.constData());
+    QCOMPARE(contentsOf(mended), kEps);
+  }
+
   void nothingIsReplacedWithoutBeingAsked() {
     const QTemporaryDir folder;
     const QString file = written(folder, "a.eps", eps(" EPSF-3.0", "")),

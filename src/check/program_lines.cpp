@@ -37,8 +37,7 @@ class Cutter {
       ProgramLine line = next();
       line.part = partOf(line);
       lines_ << line;
-      const auto bytes = announcedBytes(line);
-      if (bytes && *bytes <= program_.size() - at_) takeData(*bytes);
+      if (const qsizetype bytes = dataBehind(line); bytes > 0) takeData(bytes);
     }
     markNested();
     return lines_;
@@ -58,6 +57,21 @@ class Cutter {
       at_ += both ? 2 : 1;
     }
     return line;
+  }
+
+  /// As many bytes as are announced, where the end of the data is told behind them. Otherwise the count is
+  /// wrong, as where a transport has changed the ends of lines, and the data end where that is told.
+  qsizetype dataBehind(const ProgramLine& line) {
+    const auto announced = announcedBytes(line);
+    if (!announced) return 0;
+    const bool isBinary = isComment(line, "%%BeginBinary");
+    const QByteArrayView end(isBinary ? "%%EndBinary" : "%%EndData"), rest = program_.sliced(at_);
+    const qsizetype fits = *announced <= rest.size() ? *announced : 0;
+    if (rest.sliced(fits).first(std::min<qsizetype>(rest.size() - fits, 16)).trimmed().startsWith(end))
+      return fits;
+    const qsizetype told = hasNoEnd_[isBinary] ? -1 : lineBeginningWith(rest, end);
+    hasNoEnd_[isBinary] = told < 0;
+    return told < 0 ? fits : told;
   }
 
   void takeData(qsizetype bytes) {
@@ -102,6 +116,7 @@ class Cutter {
   int number_ = 0;
   int embedded_ = 0;
   bool isHeader_ = true, isPreview_ = false;
+  bool hasNoEnd_[2] = {};  ///< of data, of binary data: none is told in the rest of the program
   QList<ProgramLine> lines_;
 };
 

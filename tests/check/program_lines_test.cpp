@@ -53,6 +53,18 @@ class ProgramLinesTest : public QObject {
     QCOMPARE(lines[3].part, LinePart::Data);
   }
 
+  void dataWithAWrongCountEndWhereThatIsTold() {
+    for (const char* count : {"3", "5", "999"}) {
+      const QByteArray program = QByteArray("%!PS\n%%BeginData: ") + count +
+                                 " Hex Bytes\n%00\r\n%FF\r\n%%EndData\n%%EndComments\n9 9 moveto\n";
+      using enum LinePart;
+      QCOMPARE(partsOf(programLines(program)),
+               QList<LinePart>({Header, Header, Data, Header, Header, Program}));
+    }
+    // Without an end the count is all that there is.
+    QCOMPARE(programLines("%!PS\n%%BeginBinary: 4\na\nb\nshowpage\n").at(2).text, QByteArray("a\nb\n"));
+  }
+
   void whatStandsInAnotherDocumentIsOfThat() {
     using enum LinePart;
     const QList<ProgramLine> lines = programLines(

@@ -46,6 +46,14 @@ class AffineTransformTest : public QObject {
   void scalesAreInvertedExactly() {
     const AffineTransform inverse = AffineTransform(3, 0, 0, -7, 12, 14).inverted();
     QCOMPARE(inverse, AffineTransform(1.0 / 3, 0, 0, -1.0 / 7, -4, 2));
+    // The way over the determinant is one digit off here.
+    QVERIFY(AffineTransform(0.1, 0, 0, 3, 0, 0).inverted().m11() == 1 / 0.1);
+  }
+
+  void aMapShearedAlongOneAxisIsInverted() {
+    const QPointF point(5, 7);
+    for (const AffineTransform& map : {AffineTransform(2, 0, 1, 4, 0, 0), AffineTransform(2, 1, 0, 4, 0, 0)})
+      QVERIFY(near(map.inverted().map(map.map(point)), point));
   }
 
   void whatIsFlatHasNoInverse() {

@@ -16,6 +16,7 @@ class NonLossyAsciiTest : public QObject {
     };
     row("plain", QStringLiteral("plain"));
     row("a\\\\b", QStringLiteral("a\\b"));
+    row("a\\\\", QStringLiteral("a\\"));
     row("\\344\\377\\200", QString::fromUtf8("\u00e4\u00ff\u0080"));
     row("\\u65E5\\u672c\\uffff", QString() + QChar(0x65e5) + QChar(0x672c) + QChar(0xffff));
     row("\\uABCD\\uef9A", QString() + QChar(0xabcd) + QChar(0xef9a));

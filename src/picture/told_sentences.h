@@ -157,6 +157,7 @@ inline constexpr std::array toldSentences{
     "what the document does when it is opened was left out",
     "references to files beside the document were left out",
     "PostScript programs that the document holds were left out",
+    "glyphs that show themselves were left out",
     "a font cannot be taken over; another stands in for it",
     "the font %1 cannot be taken over; another stands in for it",
     "the source has no PostScript, so the file holds a preview and nothing else",

@@ -3073,6 +3073,10 @@
         <translation>PostScript-Programme im Dokument wurden weggelassen.</translation>
     </message>
     <message>
+        <source>glyphs that show themselves were left out</source>
+        <translation>Zeichen, die sich selbst zeigen, wurden weggelassen.</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>Eine Schrift lässt sich nicht übernehmen; eine andere vertritt sie.</translation>
     </message>

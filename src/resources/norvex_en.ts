@@ -3073,6 +3073,10 @@
         <translation>PostScript programs that the document holds were left out</translation>
     </message>
     <message>
+        <source>glyphs that show themselves were left out</source>
+        <translation>glyphs that show themselves were left out</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>a font cannot be taken over; another stands in for it</translation>
     </message>

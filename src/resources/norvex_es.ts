@@ -3073,6 +3073,10 @@
         <translation>Se omitieron los programas PostScript del documento.</translation>
     </message>
     <message>
+        <source>glyphs that show themselves were left out</source>
+        <translation>Se han omitido glifos que se muestran a sí mismos.</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>Un tipo de letra no se puede conservar; otro lo sustituye.</translation>
     </message>

@@ -3073,6 +3073,10 @@
         <translation>Les programmes PostScript contenus dans le document ont été omis.</translation>
     </message>
     <message>
+        <source>glyphs that show themselves were left out</source>
+        <translation>Des glyphes qui s’affichent eux-mêmes ont été omis.</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>Une police ne peut pas être reprise ; une autre la remplace.</translation>
     </message>

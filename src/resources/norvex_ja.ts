@@ -3073,6 +3073,10 @@
         <translation>書類に含まれる PostScript プログラムは省かれました。</translation>
     </message>
     <message>
+        <source>glyphs that show themselves were left out</source>
+        <translation>自分自身を表示する字形を省きました。</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>引き継げないフォントがあるため、別のフォントで代用しています。</translation>
     </message>

@@ -3073,6 +3073,10 @@
         <translation>已略去文档中的 PostScript 程序。</translation>
     </message>
     <message>
+        <source>glyphs that show themselves were left out</source>
+        <translation>已略去显示自身的字形。</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>有一种字体无法沿用，已用其他字体代替。</translation>
     </message>

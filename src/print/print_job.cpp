@@ -4,7 +4,7 @@
 
 #include "base/atomic_file.h"
 #include "print/job_pages.h"
-#include "protocol/page_excerpts.h"
+#include "print/joined_pages.h"
 
 namespace norvex {
 namespace {
@@ -64,21 +64,6 @@ PagesRequest requestFor(const PrintSource& source, const Lines& lines, const Pag
   return request;
 }
 
-/// So much of the parts is kept until they are put together: pages that bring the same fonts are not much
-/// larger together than one of them, and a book of them would not fit into memory otherwise.
-constexpr qsizetype kKeptApart = qsizetype(64) << 20;
-
-/// The parts of a job as one file.
-Result<QByteArray> joined(const QList<PageExcerpt>& parts, const QString& title, PictureService& service,
-                          const CancelToken& cancel) {
-  if (parts.size() == 1) return parts.first().pdf;
-  PdfAttributes attributes;
-  if (!title.isEmpty()) attributes.texts.insert(QStringLiteral("Title"), title);
-  const Result<PictureBytes> made = service.open(parts.first().pdf, PictureKind::Pdf)
-                                        ->setPdfAttributes(encodePageExcerpts(parts), attributes, cancel);
-  return made ? Result<QByteArray>(made->bytes) : Result<QByteArray>(made.error());
-}
-
 }  // namespace
 
 Result<QByteArray> pictureOf(const PrintPage& page, const CancelToken& cancel) {
@@ -89,30 +74,25 @@ Result<QByteArray> pictureOf(const PrintPage& page, const CancelToken& cancel) {
 }
 
 Result<QByteArray> composeJob(const PrintSource& source, const NSPrintInfo& info, PictureService& service,
-                              const CancelToken& cancel) {
+                              const CancelToken& cancel, const PageProgress& progress) {
   const Result<JobPages> pages = JobPages::of(source, info);
   if (!pages) return pages.error();
   const Result<QList<PageSheets>> sheets = sheetsOf(*pages, info);
   if (!sheets) return sheets.error();
   const Lines lines = linesOf(source, info);
-  QList<PageExcerpt> parts;
-  qsizetype apart = 0;
+  JoinedPages job(service, source.jobTitle);
+  int number = 0;
   for (const PageSheets& each : *sheets) {
+    if (progress) progress(++number, int(sheets->size()));
     const JobPage& page = pages->pages().at(each.page);
     const Result<QByteArray> picture = pictureOf(page.drawing, cancel);
     if (!picture) return picture.error();
     const Result<QByteArray> part =
         service.composePages(*picture, requestFor(source, lines, page.pagination, each.sheets), cancel);
     if (!part) return part.error();
-    parts << PageExcerpt{*part};
-    apart += part->size();
-    if (apart <= kKeptApart) continue;
-    const Result<QByteArray> together = joined(parts, source.jobTitle, service, cancel);
-    if (!together) return together.error();
-    parts = {PageExcerpt{*together}};
-    apart = 0;
+    if (const Result<void> added = job.add(*part, cancel); !added) return added.error();
   }
-  return joined(parts, source.jobTitle, service, cancel);
+  return job.file(cancel);
 }
 
 Result<QByteArray> composeSheet(const PrintSource& source, const NSPrintInfo& info, int sheet,
@@ -143,8 +123,8 @@ Result<void> deliverJob(const QByteArray& pdf, const QString& title, const NSPri
 }
 
 Result<void> runJob(const PrintSource& source, const NSPrintInfo& info, PictureService& service,
-                    PrintSpooler& spooler, const CancelToken& cancel) {
-  const Result<QByteArray> pdf = composeJob(source, info, service, cancel);
+                    PrintSpooler& spooler, const CancelToken& cancel, const PageProgress& progress) {
+  const Result<QByteArray> pdf = composeJob(source, info, service, cancel, progress);
   if (!pdf) return pdf.error();
   return deliverJob(*pdf, source.jobTitle, info, spooler, cancel);
 }

@@ -30,8 +30,12 @@ bool NSPrintOperation::runOperation() {
   const PrintSource source = view_->printSource();
   title_ = source.jobTitle;
   if (interaction) job_ = interaction->jobDidBegin(title_, cancel_);
-  const auto work = [source, info = printInfo_, services = services_, cancel = cancel_] {
-    return runJob(source, info, *services.pictures, *services.spooler, cancel);
+  const auto work = [this, source, info = printInfo_, services = services_, cancel = cancel_] {
+    // Queued on a thread of its own; here and now without one.
+    const auto progress = [this](int page, int pages) {
+      QMetaObject::invokeMethod(this, [this, page, pages] { advance(page, pages); });
+    };
+    return runJob(source, info, *services.pictures, *services.spooler, cancel, progress);
   };
   if (!canSpawnSeparateThread_) {
     end(work());
@@ -40,6 +44,10 @@ bool NSPrintOperation::runOperation() {
   thread_ = std::thread(
       [this, work, back = WayBack(this)] { back.tell([this, result = madeBy(work)] { end(result); }); });
   return true;
+}
+
+void NSPrintOperation::advance(int page, int pages) {
+  if (!result_ && services_.interaction) services_.interaction->jobDidAdvance(job_, title_, page, pages);
 }
 
 void NSPrintOperation::end(const Result<void>& result) {

@@ -59,6 +59,8 @@ class PrintInteraction {
   /// A job runs now; cancelling the token ends it. Gives the job a number of its own: several may run at a
   /// time, under one title.
   virtual int jobDidBegin(const QString& title, const CancelToken& cancel) = 0;
+  /// The job of that number comes to a page, from 1, of so many.
+  virtual void jobDidAdvance(int job, const QString& title, int page, int pages) = 0;
   /// The job of that number is printed or written, or it failed with a plain sentence.
   virtual void jobDidEnd(int job, const QString& title, const Result<void>& result) = 0;
 };
@@ -106,6 +108,7 @@ class NSPrintOperation final : public QObject {
  private:
   NSPrintOperation(std::unique_ptr<PrintableView> view, const NSPrintInfo& printInfo,
                    const PrintServices& services);
+  void advance(int page, int pages);
   void end(const Result<void>& result);
 
   std::unique_ptr<PrintableView> view_;

@@ -848,6 +848,10 @@
         <translation>Drucken</translation>
     </message>
     <message>
+        <source>Printing “%1”: page %2 of %3…</source>
+        <translation>„%1“ wird gedruckt: Seite %2 von %3 …</translation>
+    </message>
+    <message>
         <source>Printing “%1”…</source>
         <translation>„%1“ wird gedruckt …</translation>
     </message>

@@ -1172,6 +1172,10 @@
         <translation>Printing</translation>
     </message>
     <message>
+        <source>Printing “%1”: page %2 of %3…</source>
+        <translation>Printing “%1”: page %2 of %3…</translation>
+    </message>
+    <message>
         <source>Printing “%1”…</source>
         <translation>Printing “%1”…</translation>
     </message>

@@ -848,6 +848,10 @@
         <translation>Impresión</translation>
     </message>
     <message>
+        <source>Printing “%1”: page %2 of %3…</source>
+        <translation>Imprimiendo «%1»: página %2 de %3…</translation>
+    </message>
+    <message>
         <source>Printing “%1”…</source>
         <translation>Imprimiendo «%1»…</translation>
     </message>

@@ -848,6 +848,10 @@
         <translation>Impression</translation>
     </message>
     <message>
+        <source>Printing “%1”: page %2 of %3…</source>
+        <translation>Impression de « %1 » : page %2 sur %3…</translation>
+    </message>
+    <message>
         <source>Printing “%1”…</source>
         <translation>Impression de « %1 »…</translation>
     </message>

@@ -848,6 +848,10 @@
         <translation>プリント</translation>
     </message>
     <message>
+        <source>Printing “%1”: page %2 of %3…</source>
+        <translation>“%1”をプリントしています: %3ページ中%2ページ目…</translation>
+    </message>
+    <message>
         <source>Printing “%1”…</source>
         <translation>「%1」をプリントしています…</translation>
     </message>

@@ -848,6 +848,10 @@
         <translation>打印</translation>
     </message>
     <message>
+        <source>Printing “%1”: page %2 of %3…</source>
+        <translation>正在打印“%1”：第 %2 页，共 %3 页…</translation>
+    </message>
+    <message>
         <source>Printing “%1”…</source>
         <translation>正在打印“%1”…</translation>
     </message>

@@ -111,6 +111,18 @@ class DocumentPagesTest : public QObject {
     QCOMPARE(run("pdfimages", {"-list", folder_.filePath("out.pdf")}).out.count('\n'), 2);
   }
 
+  void theJobTellsWhichOfItsPagesItDraws() {
+    NSPrintInfo info = a4();
+    info.setDocumentPageRange(2, 3);
+    info.setJobSavingPath(folder_.filePath("out.pdf"));
+    kit::MemorySpooler spooler;
+    QList<std::pair<int, int>> told;
+    QVERIFY(runJob(viewOf({{200, 100}, {1500, 100}, {200, 100}, {200, 100}}, 0), info, *service_, spooler, {},
+                   [&](int page, int pages) { told << std::pair(page, pages); })
+                .ok());
+    QCOMPARE(told, (QList<std::pair<int, int>>{{1, 2}, {2, 2}}));
+  }
+
   void whatAllPagesOfABookShareIsPrintedOnce() {
     // Each page comes with half a megabyte of the same: 150 MB together, of which half a one is left.
     constexpr int kPages = 300;

@@ -85,6 +85,9 @@ class ScriptedInteraction final : public PrintInteraction {
     token = cancel;
     return int(begun.size());
   }
+  void jobDidAdvance(int job, const QString&, int page, int pages) override {
+    advances << QStringLiteral("%1: %2 of %3").arg(job).arg(page).arg(pages);
+  }
   void jobDidEnd(int job, const QString& title, const Result<void>& result) override {
     ended << title;
     endedJobs << job;
@@ -96,7 +99,7 @@ class ScriptedInteraction final : public PrintInteraction {
   int panels = 0, sheets = 0, panelOptions = 0;
   NSPrintInfo shownInfo;
   std::function<void(const NSPrintInfo&, int)> endSheet;
-  QStringList begun, ended, messages;
+  QStringList begun, ended, messages, advances;
   QList<int> endedJobs, endedPreparations;
   QStringList prepared, preparationMessages;
   CancelToken token, preparation;

@@ -251,6 +251,7 @@ class PrintJobTest : public QObject {
     QVERIFY(elsewhere);
     QCOMPARE(people.panels, 1);
     QCOMPARE(people.begun, QStringList{"My Picture"});
+    QCOMPARE(people.advances, QStringList{"1: 1 of 1"});
     QCOMPARE(people.ended, QStringList{"My Picture"});
     QCOMPARE(people.messages, QStringList{QString()});
   }

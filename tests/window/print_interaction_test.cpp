@@ -110,6 +110,29 @@ class PrintInteractionTest : public QObject {
     QVERIFY(alerts_.shown.isEmpty());
   }
 
+  void progressNamesThePageOfSeveral() {
+    const int job = interaction_->jobDidBegin("A drawing", {});
+    QTRY_COMPARE_WITH_TIMEOUT(visibleProgress(*window_).size(), 1, 2500);
+    QProgressDialog* const progress = visibleProgress(*window_).first();
+    interaction_->jobDidAdvance(job, "A drawing", 1, 1);
+    QCOMPARE(progress->labelText(), QString("Printing “A drawing”…"));
+    interaction_->jobDidAdvance(job, "A drawing", 3, 12);
+    QCOMPARE(progress->labelText(), QString("Printing “A drawing”: page 3 of 12…"));
+    QVERIFY(progress->value() == 2 && progress->maximum() == 12);
+    interaction_->jobDidAdvance(job, "A drawing", 12, 12);
+    QVERIFY(progress->isVisible());  // the last page is begun, not done
+    interaction_->jobDidEnd(job, "A drawing", {});
+    interaction_->jobDidAdvance(job, "A drawing", 2, 12);  // too late
+    QVERIFY(visibleProgress(*window_).isEmpty());
+  }
+
+  void aPageNumberShowsNoProgressBeforeItsMoment() {
+    const int job = interaction_->jobDidBegin("A drawing", {});
+    for (int page = 1; page <= 5; ++page) interaction_->jobDidAdvance(job, "A drawing", page, 5);
+    QVERIFY(visibleProgress(*window_).isEmpty());
+    interaction_->jobDidEnd(job, "A drawing", {});
+  }
+
   void aQuickJobShowsNone() {
     interaction_->jobDidEnd(interaction_->jobDidBegin("A drawing", {}), "A drawing", {});
     QTest::qWait(400);

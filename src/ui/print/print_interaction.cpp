@@ -67,6 +67,14 @@ int QtPrintInteraction::showProgress(const QString& text, const CancelToken& can
   return lastJob_;
 }
 
+void QtPrintInteraction::jobDidAdvance(int job, const QString& title, int page, int pages) {
+  QProgressDialog* const dialog = progress_.value(job);
+  if (!dialog || pages < 2 || dialog->wasCanceled()) return;
+  dialog->setLabelText(localizedString("Printing “%1”: page %2 of %3…").arg(title).arg(page).arg(pages));
+  dialog->setMaximum(pages);
+  dialog->setValue(page - 1);
+}
+
 void QtPrintInteraction::jobDidEnd(int job, const QString& title, const Result<void>& result) {
   delete progress_.take(job).data();
   if (result || result.error().kind == ErrorKind::Cancelled) return;

@@ -29,6 +29,8 @@ class QtPrintInteraction final : public PrintInteraction {
   void preparationDidEnd(int number, const QString& title, const Result<void>& result) override;
   /// Shows progress with Cancel when the job takes longer than a moment.
   int jobDidBegin(const QString& title, const CancelToken& cancel) override;
+  /// Of several pages it tells which; a single one says nothing.
+  void jobDidAdvance(int job, const QString& title, int page, int pages) override;
   /// Tells a failure in one alert; a cancelled job is none.
   void jobDidEnd(int job, const QString& title, const Result<void>& result) override;
 

@@ -1,5 +1,6 @@
 // Every window of the program as somebody meets it who has no mouse, or no eyes.
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,6 +9,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSettings>
+#include <QStyleOption>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
@@ -154,6 +156,16 @@ QPalette highContrast() {
   return palette;
 }
 
+/// Dark grey, as most desktops have it.
+QPalette darkScheme() {
+  QPalette palette(QColor(42, 46, 50));
+  palette.setColor(QPalette::Base, QColor(27, 30, 32));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(role, QColor(252, 252, 252));
+  palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
+  return palette;
+}
+
 }  // namespace
 
 Q_DECLARE_METATYPE(Maker)
@@ -214,21 +226,33 @@ class AllWindowsTest : public QObject {
     QVERIFY2(unseen.isEmpty(), qPrintable(unseen.join('\n')));
   }
 
-  void onBlackEveryControlHasAnOutline_data() {
+  void onADarkGroundEveryControlHasAnOutline_data() {
     QTest::addColumn<Maker>("maker");
-    QTest::newRow("preferences") << &preferences;
-    QTest::newRow("export") << &exporting;
-    QTest::newRow("print") << &printing;
+    QTest::addColumn<QPalette>("palette");
+    for (const auto& [name, palette] :
+         {std::pair("black", highContrast()), std::pair("dark", darkScheme())}) {
+      QTest::addRow("preferences, %s", name) << Maker(&preferences) << palette;
+      QTest::addRow("export, %s", name) << Maker(&exporting) << palette;
+      QTest::addRow("print, %s", name) << Maker(&printing) << palette;
+    }
   }
-  void onBlackEveryControlHasAnOutline() {
+  void onADarkGroundEveryControlHasAnOutline() {
     QFETCH(Maker, maker);
+    QFETCH(QPalette, palette);
     const QPalette before = QApplication::palette();
     QApplication::setStyle(new OutlinedStyle(QStringLiteral("fusion")));
-    QApplication::setPalette(highContrast());
+    QApplication::setPalette(palette);
     {
       const Made made = maker();
       show(made);
       for (QWidget* widget : made.window->findChildren<QWidget*>()) {
+        if (auto* box = qobject_cast<QCheckBox*>(widget); box && box->isVisible()) {
+          QStyleOptionButton option;
+          option.initFrom(box);
+          const QRect mark = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box);
+          const QColor edge = box->grab().toImage().pixelColor(mark.left(), mark.center().y());
+          QVERIFY2(edge.lightness() > 80, qPrintable(box->text()));
+        }
         const bool framed = widget->inherits("QComboBox") || widget->inherits("QAbstractSpinBox") ||
                             widget->inherits("QPushButton");
         if (!framed || !widget->isVisible()) continue;
@@ -237,11 +261,22 @@ class AllWindowsTest : public QObject {
                                     image.pixelColor(image.width() / 2, 1).lightness()
                                 ? image.pixelColor(image.width() / 2, 0)
                                 : image.pixelColor(image.width() / 2, 1);
-        QVERIFY2(edge.lightness() > 100, qPrintable(widget->objectName()));
+        QVERIFY2(edge.lightness() > 80, qPrintable(widget->objectName()));
       }
     }
     QApplication::setPalette(before);
     QApplication::setStyle(QStringLiteral("fusion"));
+  }
+
+  void onADarkGroundWhatStandsInAnEmptyFieldCanBeRead() {
+    OutlinedStyle style(QStringLiteral("fusion"));
+    QPalette dark = darkScheme();
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+      dark.setColor(QPalette::Disabled, role, Qt::black);
+    dark.setColor(QPalette::PlaceholderText, Qt::black);
+    style.polish(dark);
+    QVERIFY(dark.color(QPalette::PlaceholderText).lightness() > 120);
+    QVERIFY(dark.color(QPalette::Disabled, QPalette::ButtonText).lightness() > 120);
   }
 
   void onBlackWhatIsQuietIsNotBlack() {

@@ -5,14 +5,30 @@
 #include <QPalette>
 #include <QStyleOption>
 
+#include "ui/style/quiet_text.h"
+
 namespace norvex {
 namespace {
+
+bool isBlack(const QPalette& palette) {
+  return palette.color(QPalette::Active, QPalette::Window).value() < 24;
+}
+
+/// The text's colour, mixed with so much of the ground, 0 … 1.
+QColor paler(const QPalette& palette, double share) {
+  const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+  const QColor ground = palette.color(QPalette::Active, QPalette::Window);
+  const auto mix = [share](float a, float b) { return float(a * (1 - share) + b * share); };
+  return QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
+                          mix(text.blueF(), ground.blueF()));
+}
 
 void outline(QPainter& painter, const QStyleOption& option, bool round = false) {
   const bool enabled = option.state & QStyle::State_Enabled;
   // What is greyed out may be as dark as the ground in the palette's own colours.
-  QColor line = option.palette.color(
-      QPalette::Active, option.state & QStyle::State_HasFocus ? QPalette::Highlight : QPalette::WindowText);
+  QColor line = option.state & QStyle::State_HasFocus
+                    ? option.palette.color(QPalette::Active, QPalette::Highlight)
+                    : paler(option.palette, isBlack(option.palette) ? 0 : 0.5);
   if (!enabled) line.setAlphaF(0.5F);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
@@ -27,7 +43,7 @@ void outline(QPainter& painter, const QStyleOption& option, bool round = false) 
 }  // namespace
 
 bool needsOutlines(const QPalette& palette) {
-  return palette.color(QPalette::Window).value() < 24;
+  return isDarkScheme(palette);
 }
 
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -74,10 +90,11 @@ int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
 void OutlinedStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
   if (!needsOutlines(palette)) return;
-  const QColor quiet(0xa0, 0xa0, 0xa0);
+  const QColor quiet = paler(palette, 0.4);
   for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     palette.setColor(QPalette::Disabled, role, quiet);
   palette.setColor(QPalette::PlaceholderText, quiet);
+  if (!isBlack(palette)) return;
   // What style sheets take for lines, and for the ground of what is switched on.
   palette.setColor(QPalette::Mid, quiet);
   palette.setColor(QPalette::Midlight, QColor(0x38, 0x38, 0x38));

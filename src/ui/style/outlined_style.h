@@ -1,14 +1,15 @@
-// Controls that are seen on the darkest ground.
+// Controls that are seen on a dark ground.
 #pragma once
 
 #include <QProxyStyle>
 
 namespace norvex {
 
-/// The platform's style makes its frames darker than the ground, and on black there is nothing darker: there,
-/// and only there, a line in the colour of the text is drawn around what can be worked, and what is greyed
-/// out is grey and not black. Looks at the palette of what it draws, so that a change of scheme needs
-/// nothing. Buttons of dialogs have texts and no icons.
+/// The platform's style makes its frames darker than the ground, where nobody sees them on a dark one, and
+/// nothing is darker than black. In dark schemes, and only there, a line is drawn around what can be worked,
+/// on black in the colour of the text; what is greyed out or stands in an empty field is grey and not black.
+/// Looks at the palette of what it draws, so that a change of scheme needs nothing. Buttons of dialogs have
+/// texts and no icons.
 class OutlinedStyle final : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
@@ -25,7 +26,7 @@ class OutlinedStyle final : public QProxyStyle {
   void polish(QPalette& palette) override;
 };
 
-/// True if a frame that is darker than the ground could not be told from it.
+/// True if a frame that is darker than the ground could hardly be told from it.
 [[nodiscard]] bool needsOutlines(const QPalette& palette);
 
 }  // namespace norvex

@@ -3,12 +3,15 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTest>
 #include <QTreeView>
 
 #include "desktop/memory_save_panel.h"
 #include "kit/test_main.h"
+#include "ui/panels/file_columns.h"
 #include "ui/panels/save_sheet.h"
 #include "window/window_fixture.h"
 
@@ -75,6 +78,22 @@ class SaveSheetTest : public QObject {
           list->columnWidth(column) >= view->sizeHintForColumn(column) && list->columnWidth(column) > 0,
           qPrintable(QString::number(column)));
     QVERIFY(list->columnWidth(0) > list->columnWidth(1));
+  }
+
+  void placesAreToldByTheirNames() {
+    const QTemporaryDir folder(QDir::tempPath() + "/a folder with a name-XXXXXX");
+    SavePanelSettings settings;
+    settings.allowedContentTypes = {UTTypePNG()};
+    SaveSheet sheet(nullptr, settings);
+    sheet.setSidebarUrls({QUrl::fromLocalFile(folder.path())});
+    showWholePlaces(sheet);
+    sheet.show();
+    const auto* places = sheet.findChild<QListView*>("sidebar");
+    QVERIFY(places);
+    QTRY_VERIFY(places->sizeHintForColumn(0) > 20 * places->fontMetrics().averageCharWidth());
+    QTRY_VERIFY(places->viewport()->width() >=
+                std::min(places->sizeHintForColumn(0), 28 * places->fontMetrics().averageCharWidth()));
+    QVERIFY(!places->horizontalScrollBar()->isVisible());
   }
 
   void aTypedExtensionChoosesTheTypeInASheetsOwnList() {

@@ -1,9 +1,12 @@
-// The list of files in a dialogue of our own.
+// The lists of files and places in a dialogue of our own.
 #pragma once
 
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QListView>
 #include <QTreeView>
+
+#include <algorithm>
 
 namespace norvex {
 
@@ -15,6 +18,16 @@ inline void showWholeColumns(QFileDialog& dialog) {
   list->header()->setStretchLastSection(false);
   list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+/// Places are told by their whole names, up to thirty letters; longer ones are shortened instead of scrolled.
+inline void showWholePlaces(QFileDialog& dialog) {
+  auto* places = dialog.findChild<QListView*>(QStringLiteral("sidebar"));
+  if (!places) return;
+  constexpr int kLetters = 30;
+  const int whole = places->sizeHintForColumn(0) + 2 * places->frameWidth();
+  places->setMinimumWidth(std::min(whole, kLetters * places->fontMetrics().averageCharWidth()));
+  places->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 }  // namespace norvex

@@ -60,6 +60,7 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   setDirectoryUrl(startOf(settings_));
   arrange();
   showWholeColumns(*this);
+  showWholePlaces(*this);
   resize(fittingScreen(*this, kSize));
   selectFile(settings_.nameFieldStringValue);
   showName();

@@ -100,6 +100,7 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
     dialog.setDefaultSuffix(kSuffix);
     dialog.selectFile(suggestion);
     showWholeColumns(dialog);
+    showWholePlaces(dialog);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
   };
   mayReplace = [this](const QString& path) {

@@ -16,6 +16,8 @@ namespace norvex {
 
 void ShownView::reset() {
   MainWindowController& c = controller_;
+  // The page numbers take room at the window's foot, which the rule measures.
+  if (auto* pages = c.findChild<PagesCommand*>()) pages->documentDidChange();
   c.rotateField()->setDoubleValue(0.0);
   c.rotateChange(0.0);
   c.viewWidget()->setToolTip(localizedString("Selection is determined by dragging the mouse twice."));

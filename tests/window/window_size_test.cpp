@@ -1,9 +1,12 @@
 // The window-size rule on a real window.
 #include <QScreen>
+#include <QScrollBar>
 #include <QToolBar>
+#include <QWindow>
 
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
+#include "ui/pages/page_switch.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "window/commands/window_frames.h"
 #include "window/window_fixture.h"
@@ -178,6 +181,83 @@ class WindowSizeTest : public QObject {
     letPictureCome(fixture, c);
     QCOMPARE(outsideOf(c).bottom(), screen.bottom());  // it would have hung over
     QCOMPARE(c.window()->geometry().left(), before.left());
+  }
+
+  void aTiledWindowKeepsItsTileWhenItsPictureComes() {
+    WindowFixture fixture;
+    MainWindowController& c = shownWithoutPicture(fixture);
+    const QRect screen = c.window()->screen()->availableGeometry();
+    const QRect tile(screen.left(), screen.top(), std::max(screen.width() / 2, c.window()->minimumWidth()),
+                     screen.height());
+    c.window()->setGeometry(tile);
+    QCoreApplication::processEvents();
+    const QRect before = c.window()->geometry();
+    QCOMPARE(before.size(), tile.size());
+    letPictureCome(fixture, c);
+    QCOMPARE(c.window()->geometry(), before);
+    c.zoomingScrollView()->zoomTo(0.5);
+    QCOMPARE(c.window()->geometry(), before);
+    // What was held back is caught up with when the tile is left.
+    c.zoomingScrollView()->zoomTo(1);
+    c.window()->setGeometry(QRect(tile.topLeft(), QSize(640, 660)));
+    QTRY_COMPARE(c.scrollArea()->contentSize(), QSizeF(kLate));
+  }
+
+  void besidePageNumbersTheWholePageIsSeen() {
+    WindowFixture fixture;
+    MemoryPicture picture;
+    const QRectF page(QPointF(0, 0), QSizeF(kLate));
+    picture.facts.pageBounds = {page, page, page};
+    picture.facts.pageCount = 3;
+    fixture.service.setPicture(picture);
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    QTRY_VERIFY(!c.isReading());
+    c.showWindow();
+    QVERIFY(QTest::qWaitForWindowExposed(c.window()));
+    QTRY_COMPARE(c.scrollArea()->contentSize(), QSizeF(kLate));
+    QVERIFY(c.window()->findChild<PageSwitch*>()->isVisible());
+  }
+
+  void aWindowInACornerOfTheScreenKeepsItsQuarter() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture, 100, 80);
+    const QRect screen = c.window()->screen()->availableGeometry();
+    const QSize quarter = screen.size() / 2;
+    c.window()->setMinimumSize(200, 200);
+    c.window()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    c.window()->setGeometry(QRect(screen.topLeft(), quarter));
+    c.setWindowSize();
+    QCOMPARE(c.window()->size(), quarter);
+  }
+
+  void aWindowThatIsTooLowHasRoomBesideTheScrollBarAsLongAsThereIsOne() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture, 600, 500);
+    QVERIFY(!c.scrollArea()->verticalBar()->isVisible());
+    QCOMPARE(c.scrollArea()->contentSize(), QSizeF(600, 500));
+    const int width = c.window()->width(), height = c.window()->height();
+    c.window()->resize(width, height - 100);
+    QTRY_COMPARE(c.window()->maximumWidth(), width + ZoomingScrollArea::barExtent());
+    c.window()->resize(c.window()->maximumWidth(), height - 100);
+    QVERIFY(c.scrollArea()->verticalBar()->isVisible());
+    QCOMPARE(c.scrollArea()->contentSize().width(), 600.0);
+    c.window()->resize(c.window()->width(), height);
+    QTRY_COMPARE(c.window()->size(), QSize(width, height));
+    // Pulled wider and lower at once: the room is there, too.
+    c.window()->windowHandle()->resize(width + 60, height - 100);
+    QTRY_COMPARE(c.window()->width(), width + ZoomingScrollArea::barExtent());
+    QCOMPARE(c.window()->height(), height - 100);
+    c.window()->resize(c.window()->width(), height);
+    QTRY_COMPARE(c.window()->width(), width);
+    QVERIFY(!c.scrollArea()->verticalBar()->isVisible());
+  }
+
+  void ofAPictureThatIsHigherThanItsWindowAllOfTheWidthIsSeen() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture, 600, 3000);
+    QVERIFY(c.scrollArea()->verticalBar()->isVisible());
+    QCOMPARE(c.scrollArea()->contentSize().width(), 600.0);
+    QCOMPARE(c.scrollArea()->horizontalBar()->maximum(), 0);
   }
 
   void onlyTheFirstPictureIsPlaced() {

@@ -24,6 +24,8 @@ namespace {
 constexpr int kBarExtent = 14;
 constexpr int kCardMargin = 12;
 constexpr int kWidestCard = 640;
+constexpr double kLeastFactor = 0.01, kMostFactor = 16;
+constexpr double kHair = 1e-6;  ///< of a pixel: rounding, nothing to scroll
 
 QString barStyle(const QPalette& palette) {
   const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
@@ -112,16 +114,29 @@ void ZoomingScrollArea::applyBackground() {
 
 void ZoomingScrollArea::setBare(bool bare) {
   bare_ = bare;
-  for (QWidget* widget :
-       {static_cast<QWidget*>(horizontal_), static_cast<QWidget*>(vertical_), static_cast<QWidget*>(popUp_)})
-    widget->setVisible(!bare);
+  horizontal_->setVisible(!bare);
+  popUp_->setVisible(!bare);
   layOut();
 }
 
 QSizeF ZoomingScrollArea::contentSize() const {
-  if (bare_) return size();
+  const QSizeF room = roomWithoutBar();
+  return needsBar() ? QSizeF(std::max(0.0, room.width() - kBarExtent), room.height()) : room;
+}
+
+QSizeF ZoomingScrollArea::roomWithoutBar() const {
   // From this widget's own size, which is known before a hidden window lays its grandchildren out.
-  return QSizeF(std::max(0, width() - kBarExtent), std::max(0, height() - stripHeight()));
+  return QSizeF(width(), bare_ ? height() : std::max(0, height() - stripHeight()));
+}
+
+int ZoomingScrollArea::barExtent() {
+  return kBarExtent;
+}
+
+bool ZoomingScrollArea::needsBar() const {
+  // The room's height is the same with and without the bar.
+  const double height = document_ ? document_->view().frame().height() * scrollView_.factor() : 0;
+  return !bare_ && height > roomWithoutBar().height() + kHair;
 }
 
 int ZoomingScrollArea::stripHeight() const {
@@ -131,9 +146,19 @@ int ZoomingScrollArea::stripHeight() const {
 double ZoomingScrollArea::fittingFactor() const {
   const QSizeF size = document_ ? document_->view().frame().size() : QSizeF();
   if (size.isEmpty()) return 1;
-  const QSizeF room = contentSize();
+  const QSizeF room = roomWithoutBar();
   const double factor = std::min(room.width() / size.width(), room.height() / size.height());
-  return std::clamp(factor, 0.01, 16.0);
+  return std::clamp(factor, kLeastFactor, kMostFactor);
+}
+
+double ZoomingScrollArea::fittingWidthFactor() const {
+  const QSizeF size = document_ ? document_->view().frame().size() : QSizeF();
+  if (size.isEmpty()) return 1;
+  const QSizeF room = roomWithoutBar();
+  double factor = room.width() / size.width();
+  if (!bare_ && size.height() * factor > room.height() + kHair)
+    factor = (room.width() - kBarExtent) / size.width();
+  return std::clamp(factor, kLeastFactor, kMostFactor);
 }
 
 void ZoomingScrollArea::addCard(QWidget* card, Qt::Edge edge) {
@@ -163,6 +188,8 @@ void ZoomingScrollArea::placeCards() {
 }
 
 void ZoomingScrollArea::layOut() {
+  barTakesRoom_ = needsBar();
+  vertical_->setVisible(barTakesRoom_);
   const int strip = stripHeight();
   const QSize clipSize = contentSize().toSize();
   clip_->setGeometry(QRect(QPoint(0, 0), clipSize));
@@ -178,12 +205,13 @@ void ZoomingScrollArea::layOut() {
 }
 
 void ZoomingScrollArea::synchronize() {
+  if (needsBar() != barTakesRoom_) return layOut();
   ClipView* clipView = scrollView_.clipView();
   const QSizeF range = clipView ? clipView->scrollRange() : QSizeF(0, 0);
   const QPointF offset = clipView ? clipView->scrollOffset() : QPointF();
   const auto set = [](QScrollBar* bar, double most, double at, int page) {
     const QSignalBlocker quiet(bar);
-    bar->setRange(0, static_cast<int>(std::ceil(most - 1e-6)));
+    bar->setRange(0, static_cast<int>(std::ceil(most - kHair)));
     bar->setPageStep(page);
     bar->setValue(static_cast<int>(std::lround(at)));
     bar->setEnabled(bar->maximum() > 0);

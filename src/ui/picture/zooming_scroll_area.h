@@ -20,8 +20,8 @@ class NorvexViewWidget;
 /// Lays out clip, bars and menu as its SKTZoomingScrollView says, and turns wheel, pinch and panning into
 /// calls of it. Wheel: scrolls; with Shift sideways; with Ctrl zooms at the pointer. Middle button or Space
 /// and left button, or two fingers: pan. Has the keyboard focus for its view, which takes none: arrows, page
-/// keys, Home and End scroll. The bars always keep their room, so that the window's size rule does not depend
-/// on what is scrolled. Main thread.
+/// keys, Home and End scroll. The vertical bar takes room only while there is something to scroll up and
+/// down. Main thread.
 class ZoomingScrollArea final : public QWidget {
   Q_OBJECT
  public:
@@ -43,6 +43,11 @@ class ZoomingScrollArea final : public QWidget {
 
   /// Size of the clip, logical pixels.
   [[nodiscard]] QSizeF contentSize() const;
+  /// The same where nothing is to be scrolled up and down: the window's size rule measures this, so that it
+  /// does not depend on what is scrolled.
+  [[nodiscard]] QSizeF roomWithoutBar() const;
+  /// What the vertical bar takes of the width while it is there.
+  [[nodiscard]] static int barExtent();
   [[nodiscard]] QWidget* clip() const { return clip_; }
   [[nodiscard]] QComboBox* popUp() const { return popUp_; }
   [[nodiscard]] QScrollBar* horizontalBar() const { return horizontal_; }
@@ -50,6 +55,8 @@ class ZoomingScrollArea final : public QWidget {
 
   /// The largest factor at which the whole view can be seen.
   [[nodiscard]] double fittingFactor() const;
+  /// The largest factor at which all of its width can be seen, beside the bar where its height takes one.
+  [[nodiscard]] double fittingWidthFactor() const;
   /// Shows the upper left corner of the view.
   void scrollToTop();
   /// Where the clip stands, to come back to it later; logical pixels from the view's upper left corner.
@@ -88,6 +95,7 @@ class ZoomingScrollArea final : public QWidget {
  private:
   void fillPopUp();
   [[nodiscard]] int stripHeight() const;
+  [[nodiscard]] bool needsBar() const;
   void layOut();
   void placeCards();
   void styleBars();
@@ -115,6 +123,7 @@ class ZoomingScrollArea final : public QWidget {
   bool drawsBackground_ = true;
   QList<Card> cards_;
   bool bare_ = false;
+  bool barTakesRoom_ = false;  ///< in what was laid out last
   bool showsFocus_ = false;
   bool spaceHeld_ = false;
   std::optional<QPointF> panFrom_;  ///< where the pointer was; clip coordinates

@@ -54,6 +54,17 @@ constexpr int kRestMs = 250;
 /// together.
 constexpr int kSettles = 8;
 
+/// True for a rectangle that takes all of the screen's height or width, or a quarter of it in a corner, as
+/// window managers arrange windows side by side; logical pixels.
+bool fillsPartOf(const QRect& screen, const QRect& taken) {
+  constexpr int kBeside = 8;
+  const auto near = [](int one, int other) { return std::abs(one - other) <= kBeside; };
+  if (taken.width() >= screen.width() - kBeside || taken.height() >= screen.height() - kBeside) return true;
+  return near(2 * taken.width(), screen.width()) && near(2 * taken.height(), screen.height()) &&
+         (near(taken.left(), screen.left()) || near(taken.right(), screen.right())) &&
+         (near(taken.top(), screen.top()) || near(taken.bottom(), screen.bottom()));
+}
+
 int limited(double length, double ratio) {
   return std::min(
       wholePixels(static_cast<int>(std::ceil(std::min(length, double(QWIDGETSIZE_MAX)) - 1e-6)), ratio),
@@ -69,6 +80,9 @@ void WindowSizingCommand::settleLayout() const {
   parts_.mainWindow()->layout()->invalidate();
   parts_.mainWindow()->layout()->activate();
   if (QWidget* content = parts_.mainWindow()->centralWidget()) {
+    // What has come into a bar at its edges: of itself that is heard later.
+    for (QWidget* bar : content->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+      if (bar->layout()) bar->layout()->activate();
     content->layout()->invalidate();
     content->layout()->activate();
   }
@@ -80,7 +94,7 @@ WindowMeasures WindowSizingCommand::measures() const {
   settleLayout();
   found.frame = upright(parts_.mainWindow()->geometry());
   found.minimum = parts_.mainWindow()->minimumSize();
-  found.visibleArea = parts_.scrollArea()->contentSize();
+  found.visibleArea = parts_.scrollArea()->roomWithoutBar();
   const QWidget* content = parts_.mainWindow()->centralWidget();
   const int contentRectHeight =
       parts_.mainWindow()->height() -
@@ -105,15 +119,21 @@ void WindowSizingCommand::apply() {
     return;
   }
   const QRect before = parts_.mainWindow()->geometry();
-  const WindowMeasures found = measures();
+  WindowMeasures found = measures();
   const QSizeF viewSize = parts_.view() ? parts_.view()->frame().size() : QSizeF(0, 0);
+  // A window that is too low for the picture is never made higher, and has its scroll bar beside it.
+  countsBar_ = needsBar();
+  if (countsBar_) found.visibleArea.rwidth() -= ZoomingScrollArea::barExtent();
   const WindowSize rule = windowSize(found, viewSize, parts_.zoomFactor());
   // This platform's maximum counts the toolbar, the rule's does not.
   const double ratio = parts_.mainWindow()->devicePixelRatioF();
-  parts_.mainWindow()->setMaximumSize(limited(rule.maximum.width(), ratio),
-                                      limited(rule.maximum.height() + found.toolbarHeight, ratio));
+  const QSize most(limited(rule.maximum.width(), ratio),
+                   limited(rule.maximum.height() + found.toolbarHeight, ratio));
+  keepsTile_ = isTiled();
+  // A maximum that is less than the size would take the size along.
+  parts_.mainWindow()->setMaximumSize(keepsTile_ ? most.expandedTo(before.size()) : most);
   leaveRoomToTheUser();
-  if (rule.frame == found.frame || parts_.mainWindow()->isMaximized()) return;
+  if (rule.frame == found.frame || parts_.mainWindow()->isMaximized() || keepsTile_) return;
   const QRect frame = onScreen(rule.frame, ratio);
   own_ = frame.size();
   // Before the window is on the screen its place is the window manager's to choose.
@@ -150,17 +170,25 @@ void WindowSizingCommand::leaveRoomToTheUser() const {
 }
 
 bool WindowSizingCommand::isTiled() const {
-  constexpr int kBeside = 8;
   const QMainWindow& window = *parts_.mainWindow();
-  if (!window.screen()) return false;
-  const QSize room = window.screen()->availableSize(), taken = window.frameGeometry().size();
-  return taken.width() >= room.width() - kBeside || taken.height() >= room.height() - kBeside;
+  // What was put there by the program itself, on a small screen, is no tile.
+  const bool isOwn = window.size() == own_ || (placed_ && window.size() == placed_->size());
+  if (!window.isVisible() || !window.screen() || isOwn) return false;
+  return fillsPartOf(window.screen()->availableGeometry(), window.frameGeometry());
+}
+
+bool WindowSizingCommand::needsBar() const {
+  if (!parts_.scrollArea()) return false;
+  const double height = parts_.view() ? parts_.view()->frame().height() * parts_.zoomFactor() : 0;
+  return height > parts_.scrollArea()->roomWithoutBar().height() + 1e-6;
 }
 
 void WindowSizingCommand::windowDidResize() {
   const QMainWindow& window = *parts_.mainWindow();
   const QSize most = window.maximumSize();
-  if (!window.isVisible() || (window.width() <= most.width() && window.height() <= most.height())) return;
+  const bool isOutdated = (keepsTile_ && !isTiled()) || countsBar_ != needsBar();
+  const bool isTooLarge = window.width() > most.width() || window.height() > most.height();
+  if (!window.isVisible() || !(isOutdated || isTooLarge)) return;
   // An edge that is being pulled comes back when it is let go.
   QTimer::singleShot(kRestMs, parts_.mainWindow(), [this, resize = ++resizes_] {
     if (resize == resizes_) shrinkWhenAtRest();
@@ -173,6 +201,7 @@ void WindowSizingCommand::shrinkWhenAtRest() {
   const QSize pulled = window.size(), most = pulled.boundedTo(window.maximumSize());
   if (most == pulled) return apply();
   chosen_ = pulled;
+  if (countsBar_ != needsBar()) return apply();  // which is about another maximum
   own_ = most;
   window.resize(most);
 }

@@ -19,7 +19,8 @@ class WindowParts;
 
 /// Measures the window, applies the size rule (display/window_sizing.h) to it and keeps its frame from one
 /// document to the next. The rule bounds what this program does with the window; maximising and tiling are
-/// the user's, and a size that only the rule gave is not kept. The parts outlive it. Main thread.
+/// the user's and last until the user ends them, and a size that only the rule gave is not kept. The parts
+/// outlive it. Main thread.
 class WindowSizingCommand final {
  public:
   explicit WindowSizingCommand(WindowParts& parts) : parts_(parts) {}
@@ -47,6 +48,8 @@ class WindowSizingCommand final {
   void leaveRoomToTheUser() const;
   void shrinkWhenAtRest();
   [[nodiscard]] bool isTiled() const;
+  /// True if the picture is higher than the room that the window has for it.
+  [[nodiscard]] bool needsBar() const;
   /// Of the contents, for contents of that size with so much around them.
   [[nodiscard]] QRect placeFor(const QSize& size, const QMargins& around) const;
   [[nodiscard]] QRect placeOfLatePicture(const QRect& before, const QSize& size);
@@ -57,6 +60,8 @@ class WindowSizingCommand final {
   std::optional<QPoint> restored_;  ///< the upper left corner of the remembered frame
   std::optional<QRect> placed_;     ///< where place() put the contents
   bool awaits_ = false;             ///< the window is there, its first picture is not
+  bool countsBar_ = false;          ///< the last apply() left room for the vertical scroll bar
+  bool keepsTile_ = false;          ///< the last apply() found it tiled, and left it so
   int resizes_ = 0;
 };
 

@@ -5,11 +5,9 @@
 #include <QMainWindow>
 #include <QScopedValueRollback>
 
-#include <algorithm>
 #include <cmath>
 
 #include "base/localized_string.h"
-#include "display/norvex_view.h"
 #include "display/skt_zooming_scroll_view.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "window/commands/window_parts.h"
@@ -39,9 +37,8 @@ QAction* StickyFit::setUp(QAction& fit) {
 }
 
 double StickyFit::factor() const {
-  if (kept_ == Kept::Whole) return parts_.scrollArea()->fittingFactor();
-  const double width = parts_.view()->frame().width();
-  return width > 0 ? std::clamp(parts_.scrollArea()->contentSize().width() / width, 0.01, 16.0) : 1;
+  const ZoomingScrollArea& area = *parts_.scrollArea();
+  return kept_ == Kept::Whole ? area.fittingFactor() : area.fittingWidthFactor();
 }
 
 void StickyFit::keep(Kept kept) {

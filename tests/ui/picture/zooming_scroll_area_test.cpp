@@ -86,6 +86,34 @@ class ZoomingScrollAreaTest : public QObject {
     QCOMPARE(a.widget->visibleRect(), QRectF(-470, 360 - room.height(), room.width(), room.height()));
   }
 
+  void theVerticalBarTakesRoomOnlyWhileThereIsSomethingToScroll() {
+    Area a;
+    const int bar = ZoomingScrollArea::barExtent();
+    QVERIFY(a.area.verticalBar()->isVisible());
+    QCOMPARE(a.area.contentSize().width(), 500.0 - bar);
+    QCOMPARE(a.area.roomWithoutBar().width(), 500.0);
+    a.area.scrollView().setFactor(a.area.fittingFactor());
+    QTRY_VERIFY(!a.area.verticalBar()->isVisible());
+    QCOMPARE(a.area.contentSize(), a.area.roomWithoutBar());
+    QCOMPARE(a.area.clip()->width(), 500);
+    QCOMPARE(a.area.horizontalBar()->maximum(), 0);
+    a.area.scrollView().setFactor(2);
+    QTRY_VERIFY(a.area.verticalBar()->isVisible());
+    QCOMPARE(a.area.clip()->width(), 500 - bar);
+  }
+
+  void theFactorThatFitsTheWidthLeavesNothingToScrollSideways() {
+    Area a;
+    a.area.resize(500, 300);  // too low for the height of it
+    a.area.scrollView().setFactor(a.area.fittingWidthFactor());
+    QTRY_VERIFY(a.area.verticalBar()->isVisible());
+    QTRY_COMPARE(a.area.horizontalBar()->maximum(), 0);
+    a.area.resize(500, 600);
+    a.area.scrollView().setFactor(a.area.fittingWidthFactor());
+    QCOMPARE(a.area.scrollView().factor(), 0.5);
+    QTRY_VERIFY(!a.area.verticalBar()->isVisible());
+  }
+
   void wheelScrollsAndShiftMakesItSideways() {
     Area a;
     a.wheel({0, -120}, Qt::NoModifier);

@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <optional>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 #include "base/remove_folder.h"
@@ -70,6 +71,24 @@ void endWithInterpreters(Interpreters& programs) {
   while (::waitpid(-1, nullptr, 0) > 0 || errno == EINTR) continue;
 }
 
+int everyProcessor() {
+  return int(std::thread::hardware_concurrency());
+}
+
+/// The documents of a run of many share the processors: each of them takes one.
+class Sharing {
+ public:
+  /// `window`: pictures are looked at, one after the other.
+  explicit Sharing(bool window) : window_(window) {}
+  void take() { ++documents_; }
+  [[nodiscard]] int processors() const { return window_ || documents_ <= kFew ? everyProcessor() : 1; }
+
+ private:
+  static constexpr int kFew = 2;  ///< a picture, and what concerns none
+  const bool window_;
+  int documents_ = 0;
+};
+
 int startedByHand(const char* program) {
   std::fprintf(stderr, "%s: is started by norvex, not by hand\n", program);
   return kUsage;
@@ -77,9 +96,12 @@ int startedByHand(const char* program) {
 
 }  // namespace
 
-ForkServer::ChildMain documentChild(const WorkerEngines& engines, const ConfinementLayers& layers) {
-  return [engines, layers](FileDescriptor socket, const ForkRequest& request, const QString& scratchFolder) {
+ForkServer::ChildMain documentChild(const WorkerEngines& engines, const ConfinementLayers& layers,
+                                    const std::function<int()>& processors) {
+  return [engines, layers, processors](FileDescriptor socket, const ForkRequest& request,
+                                       const QString& scratchFolder) {
     engine::EngineContext context;
+    if (processors) context.processors = processors();
     context.limits = request.limits;
     context.scratchFolder = scratchFolder;
     if (::fcntl(ForkServer::kSharedDescriptor, F_GETFD) >= 0)
@@ -119,7 +141,9 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
     if (set && (*set)->warmUpProgram && isTold(argc, argv, kWindow)) (*set)->warmUpProgram();
   }
   traceStep("norvex-worker has its engines");
+  Sharing sharing(isTold(argc, argv, kWindow));
   const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
+    sharing.take();
     traceStep("norvex-worker asked for a picture's process");
     const int asking = interpreters.prepareFor(request);
     const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
@@ -130,8 +154,8 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   const ForkServer::WarmUp warmUp = lone ? ForkServer::WarmUp() : engines.warmUp;
   const ForkServer::Wish wish{[&] { return interpreters.pdf.waitingRequests(); },
                               [&] { interpreters.pdf.start(); }};
-  return runForkServer(argc, argv, documentChild(engines, layers), warmUp, prepare, wish,
-                       [&] { endWithInterpreters(interpreters); });
+  return runForkServer(argc, argv, documentChild(engines, layers, [&] { return sharing.processors(); }),
+                       warmUp, prepare, wish, [&] { endWithInterpreters(interpreters); });
 }
 
 int runPictureProgram(const EngineSet& engines) {
@@ -145,7 +169,7 @@ int runPictureProgram(const EngineSet& engines) {
   prepareSandboxes({});
   WorkerEngines all;
   all.source = [&engines](PictureNeeds) { return &engines; };
-  documentChild(all)(FileDescriptor(controlDescriptor), ForkRequest(), QString());
+  documentChild(all, {}, everyProcessor)(FileDescriptor(controlDescriptor), ForkRequest(), QString());
   return 0;  // the line was cut, at which it has ended before
 }
 

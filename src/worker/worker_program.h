@@ -25,8 +25,10 @@ struct WorkerEngines {
 
 /// The life of the child for one document: it confines itself and serves. Without engines it answers why
 /// there are none.
+/// `processors`: for EngineContext, asked for in the child; empty: one.
 [[nodiscard]] ForkServer::ChildMain documentChild(const WorkerEngines& engines,
-                                                  const ConfinementLayers& layers = {});
+                                                  const ConfinementLayers& layers = {},
+                                                  const std::function<int()>& processors = {});
 
 /// Runs `norvex-worker SCRATCH_ROOT NEEDS [postscript] [pdf-inks]` with the control connection as
 /// controlDescriptor; gives the exit code. NEEDS is the number of the PictureNeeds that are expected, whose

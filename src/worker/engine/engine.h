@@ -34,6 +34,7 @@ struct EngineContext {
   std::shared_ptr<GhostscriptChild> warmGhostscript;  ///< waiting for its first document; see ghostscript.h
   QString password = {};                              ///< of the document, as OpenRequest has it
   QList<PictureLayer> layers = {};                    ///< likewise
+  int processors = 1;  ///< that this document may use at the same time; 1 where others want them, too
 };
 
 /// One opened document. Single-threaded; calls come one after the other. Owned by the server.

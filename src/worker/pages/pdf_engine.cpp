@@ -41,7 +41,7 @@ class PdfEngine final : public DocumentEngine {
         lostProtection_(std::move(read.lostProtection)),
         file_(std::move(file)),
         facts_(std::move(facts)),
-        renderer_(bytes_),
+        renderer_(bytes_, context.processors),
         context_(context) {}
 
   Result<PictureFacts> facts() override { return facts_; }

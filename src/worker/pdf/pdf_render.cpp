@@ -10,7 +10,9 @@
 #include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/fine_image.h"
 #include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/two_halves.h"
 #include "worker/pdf/pdf_file.h"
+#include "worker/pdf/plain_page.h"
 
 namespace norvex::engine {
 namespace {
@@ -79,39 +81,75 @@ void PdfRenderer::Release::operator()(_PopplerDocument* document) const {
   g_object_unref(document);
 }
 
-Result<void> PdfRenderer::load() {
-  if (document_) return {};
+PdfRenderer::PdfRenderer(QByteArray pdf, int processors) : pdf_(std::move(pdf)), processors_(processors) {}
+PdfRenderer::~PdfRenderer() = default;
+
+Result<void> PdfRenderer::load(Document& document) const {
+  if (document) return {};
   GBytes* bytes = g_bytes_new_static(pdf_.constData(), gsize(pdf_.size()));
   GError* error = nullptr;
-  document_.reset(poppler_document_new_from_bytes(bytes, nullptr, &error));
+  document.reset(poppler_document_new_from_bytes(bytes, nullptr, &error));
   g_bytes_unref(bytes);
-  if (!document_) return unreadable(error);
+  if (!document) return unreadable(error);
   return {};
+}
+
+bool PdfRenderer::isDrawnInHalves(int page) {
+  if (pdf_.size() < leastLongPdf) return false;
+  if (const auto known = isInHalves_.find(page); known != isInHalves_.end()) return known->second;
+  const Result<bool> found = guarded([&]() -> Result<bool> {
+    if (!file_) {
+      Result<std::unique_ptr<PdfFile>> opened = PdfFile::open(pdf_);
+      if (!opened) return opened.error();
+      file_ = std::move(*opened);
+    }
+    // Of a damaged file Poppler may draw something else than what is looked at here.
+    return page < file_->pageCount() && file_->warnings().isEmpty() && isLongAndPlain(*file_, page);
+  });
+  return isInHalves_[page] = found && *found;
+}
+
+PaintPicture PdfRenderer::painter(Document& document, const RenderRequest& request, QSizeF shownSize,
+                                  std::atomic<bool>& seams) {
+  return [this, &document, &seams, number = request.page, shownSize](cairo_t* context) -> Result<void> {
+    if (const Result<void> loaded = load(document); !loaded) return loaded;
+    const Result<PagePointer> page = shownPage(document.get(), number);
+    if (!page) return page.error();
+    askForPixelEdges(context);
+    const Result<void> painted = paintPage(context, page->get(), shownSize);
+    if (hasSeams(context)) seams = true;
+    return painted;
+  };
+}
+
+Result<Bitmap> PdfRenderer::paintWithoutSeams(const RenderRequest& request, QSizeF shownSize,
+                                              const PictureLimits& limits) {
+  const Result<PagePointer> page = shownPage(document_.get(), request.page);
+  if (!page) return page.error();
+  return paintFine(request, limits, [&](cairo_t* context) {
+    askForHardEdges(context);
+    return paintPage(context, page->get(), shownSize);
+  });
 }
 
 Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSize,
                                    const PictureLimits& limits) {
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
-  const Result<PagePointer> page = shownPage(document_.get(), request.page);
-  if (!page) return page.error();
-  const PaintPicture fine = [&](cairo_t* context) {
-    askForHardEdges(context);
-    return paintPage(context, page->get(), shownSize);
-  };
   // Where it would take too much, the picture is drawn with its seams.
   if (tiled_.contains(request.page))
-    if (Result<Bitmap> image = paintFine(request, limits, fine);
+    if (Result<Bitmap> image = paintWithoutSeams(request, shownSize, limits);
         image || image.error().kind != ErrorKind::Limit)
       return image;
-  bool seams = false;
-  Result<Bitmap> image = paintImage(request, limits, [&](cairo_t* context) {
-    askForPixelEdges(context);
-    const Result<void> painted = paintPage(context, page->get(), shownSize);
-    seams = seams || hasSeams(context);
-    return painted;
-  });
+  std::atomic<bool> seams = false;
+  const PaintPicture paint = painter(document_, request, shownSize, seams);
+  const auto other = [&] {
+    return processors_ > 1 ? painter(second_, request, shownSize, seams) : PaintPicture();
+  };
+  Result<Bitmap> image = canPaintHalves(request, limits) && isDrawnInHalves(request.page)
+                             ? paintHalves(request, limits, paint, other())
+                             : paintImage(request, limits, paint);
   if (!image || !seams || !tiled_.insert(request.page).second) return image;
-  Result<Bitmap> better = paintFine(request, limits, fine);
+  Result<Bitmap> better = paintWithoutSeams(request, shownSize, limits);
   return better ? std::move(better) : std::move(image);
 }
 

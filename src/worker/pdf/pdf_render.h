@@ -6,22 +6,29 @@
 #include <QSizeF>
 #include <QString>
 
+#include <atomic>
+#include <map>
 #include <memory>
 #include <set>
 
 #include "base/result.h"
 #include "protocol/page_text.h"
 #include "protocol/worker_protocol.h"
-#include "worker/drawing/bitmap.h"
+#include "worker/drawing/cairo_surface.h"
 
 struct _PopplerDocument;
 
 namespace norvex::engine {
 
+class PdfFile;
+
 /// Single-threaded; keeps the parsed document for the next rendering.
 class PdfRenderer {
  public:
-  explicit PdfRenderer(QByteArray pdf) : pdf_(std::move(pdf)) {}
+  /// What takes long is drawn as two halves; with more than one of `processors` at the same time, for which
+  /// Poppler has the document twice.
+  explicit PdfRenderer(QByteArray pdf, int processors = 1);
+  ~PdfRenderer();
 
   /// Draws request.page. `shownSize` is the page's size in picture coordinates (points); pixels outside the
   /// page and pixels that the page does not paint stay transparent. Fails as paintImage() does, with
@@ -40,13 +47,24 @@ class PdfRenderer {
   [[nodiscard]] Result<PageText> letters(int page, QSizeF shownSize);
 
  private:
-  [[nodiscard]] Result<void> load();
   struct Release {
     void operator()(_PopplerDocument* document) const;
   };
+  using Document = std::unique_ptr<_PopplerDocument, Release>;
+  [[nodiscard]] Result<void> load() { return load(document_); }
+  [[nodiscard]] Result<void> load(Document& document) const;
+  [[nodiscard]] bool isDrawnInHalves(int page);
+  /// Paints request.page of `document`, on a thread of its own, too; `seams` becomes true where tiles have some.
+  [[nodiscard]] PaintPicture painter(Document& document, const RenderRequest& request, QSizeF shownSize,
+                                     std::atomic<bool>& seams);
+  [[nodiscard]] Result<Bitmap> paintWithoutSeams(const RenderRequest& request, QSizeF shownSize,
+                                                 const PictureLimits& limits);
   QByteArray pdf_;
-  std::unique_ptr<_PopplerDocument, Release> document_;
-  std::set<int> tiled_;  ///< pages whose tiles have seams unless they are drawn finer
+  int processors_;
+  Document document_, second_;      ///< `second_`: the same, for the other half
+  std::unique_ptr<PdfFile> file_;   ///< where halves were asked for
+  std::map<int, bool> isInHalves_;  ///< pages that were looked at
+  std::set<int> tiled_;             ///< pages whose tiles have seams unless they are drawn finer
 };
 
 /// letters() of a PDF of one page.

@@ -185,7 +185,7 @@ class EpsEngine final : public DocumentEngine {
     }
     distilled_ = std::move(*distilled);
     begun_ = {};
-    renderer_.emplace(distilled_->pdf);
+    renderer_.emplace(distilled_->pdf, context_.processors);
     return {};
   }
 

@@ -13,6 +13,7 @@
 #include "types/gzip_mark.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/installed_fonts.h"
+#include "worker/drawing/two_halves.h"
 #include "worker/examine/ink_box.h"
 #include "worker/svg/gzip_inflate.h"
 #include "worker/svg/svg_cut.h"
@@ -34,6 +35,18 @@ double coarser(double one, double other) {
 bool hasUnit(const QString& length) {
   const QString text = length.trimmed();
   return !text.isEmpty() && text.back().isLetter();
+}
+
+/// A document that takes long to draw and in which nothing, by the words in it, is an image or a gradient:
+/// see two_halves.h. What is loaded twice must be small beside the memory that is granted.
+bool isLongAndPlain(const QByteArray& utf8, const PictureLimits& limits) {
+  constexpr qsizetype long_ = 256 << 10;         // some thousand curves, a tenth of a second
+  constexpr qint64 loaded = 24, shareOfAll = 4;  // bytes for each byte of the document
+  if (utf8.size() < long_ || utf8.size() * loaded > (qint64(limits.memoryMiB) << 20) / shareOfAll)
+    return false;
+  for (const char* word : {"image", "radient", "pattern", "foreignObject"})
+    if (utf8.contains(word)) return false;
+  return true;
 }
 
 class SvgEngine final : public DocumentEngine {
@@ -62,7 +75,13 @@ class SvgEngine final : public DocumentEngine {
   Result<void> start(int page) const;
   Result<PageContents> contents();
   Result<const SvgRenderer*> renderer();
+  Result<void> load(std::unique_ptr<SvgRenderer>& renderer) const;
+  [[nodiscard]] bool isDrawnInHalves(const RenderRequest& request) const;
+  [[nodiscard]] PaintPicture painting(std::unique_ptr<SvgRenderer>& renderer) const;
   [[nodiscard]] QSizeF points() const { return pixels_ * pointsPerPixel; }
+  [[nodiscard]] AffineTransform pixelsToPicture() const {
+    return {pointsPerPixel, 0, 0, -pointsPerPixel, 0, points().height()};
+  }
   // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
   [[nodiscard]] bool hugeParser() const {
     return inspection_.needsHugeParser && !inspection_.hasNestedDocument;
@@ -81,9 +100,9 @@ class SvgEngine final : public DocumentEngine {
   const SvgInspection inspection_;
   const SvgGeometry geometry_;
   QSizeF pixels_;
-  std::unique_ptr<SvgRenderer> renderer_;
-  std::optional<QByteArray> pdf_;            ///< without attributes: what every rectangle is cut from
-  std::optional<QStringList> missingFonts_;  ///< one sentence each, once something was drawn
+  std::unique_ptr<SvgRenderer> renderer_, second_;  ///< `second_`: the same document, for the other half
+  std::optional<QByteArray> pdf_;                   ///< without attributes: what every rectangle is cut from
+  std::optional<QStringList> missingFonts_;         ///< one sentence each, once something was drawn
 };
 
 Result<void> SvgEngine::start(int page) const {
@@ -93,12 +112,16 @@ Result<void> SvgEngine::start(int page) const {
   return {};
 }
 
+Result<void> SvgEngine::load(std::unique_ptr<SvgRenderer>& renderer) const {
+  if (renderer) return {};
+  auto made = SvgRenderer::create(withDeclaredEncoding(text_.utf8, "UTF-8"), hugeParser());
+  if (!made) return made.error();
+  renderer = std::move(*made);
+  return {};
+}
+
 Result<const SvgRenderer*> SvgEngine::renderer() {
-  if (!renderer_) {
-    auto made = SvgRenderer::create(withDeclaredEncoding(text_.utf8, "UTF-8"), hugeParser());
-    if (!made) return made.error();
-    renderer_ = std::move(*made);
-  }
+  if (const Result<void> loaded = load(renderer_); !loaded) return loaded.error();
   if (!missingFonts_) missingFonts_ = missingFamilies(inspection_.fontLists);
   return renderer_.get();
 }
@@ -189,19 +212,34 @@ Result<Bitmap> SvgEngine::renderAsDocument(const RenderRequest& request,
   });
 }
 
+bool SvgEngine::isDrawnInHalves(const RenderRequest& request) const {
+  return canPaintHalves(request, context_.limits) && !inspection_.hasLayers &&
+         isLongAndPlain(text_.utf8, context_.limits);
+}
+
+/// Loads what it draws with.
+PaintPicture SvgEngine::painting(std::unique_ptr<SvgRenderer>& renderer) const {
+  return [this, &renderer](cairo_t* context) -> Result<void> {
+    if (const Result<void> loaded = load(renderer); !loaded) return loaded;
+    const cairo_matrix_t matrix = toCairo(pixelsToPicture());
+    cairo_transform(context, &matrix);
+    return renderer->draw(context, pixels_);
+  };
+}
+
 Result<Bitmap> SvgEngine::render(const RenderRequest& request) {
   if (const Result<void> may = start(request.page); !may) return may.error();
+  const AffineTransform pixelsToDevice = pixelsToPicture() * request.pictureToDevice;
+  if (request.pictureToDevice.isInvertible() && isDrawnInHalves(request)) {
+    if (!missingFonts_) missingFonts_ = missingFamilies(inspection_.fontLists);
+    return paintHalves(request, context_.limits, painting(renderer_),
+                       context_.processors > 1 ? painting(second_) : PaintPicture());
+  }
   const Result<const SvgRenderer*> loaded = renderer();
   if (!loaded) return loaded.error();
-  const AffineTransform pixelsToPicture(pointsPerPixel, 0, 0, -pointsPerPixel, 0, points().height());
-  const AffineTransform pixelsToDevice = pixelsToPicture * request.pictureToDevice;
   if (request.pictureToDevice.isInvertible() && needsOwnDocument(pixelsToDevice))
     return renderAsDocument(request, pixelsToDevice);
-  return paintImage(request, context_.limits, [&](cairo_t* context) {
-    const cairo_matrix_t matrix = toCairo(pixelsToPicture);
-    cairo_transform(context, &matrix);
-    return (*loaded)->draw(context, pixels_);
-  });
+  return paintImage(request, context_.limits, painting(renderer_));
 }
 
 // The scale of the view box is all that is known of a filter's user units here.

@@ -44,6 +44,31 @@ class SvgEngineTest : public QObject {
     QVERIFY((*plain->svg(request)).bytes.contains("matrix("));
   }
 
+  void aLongDocumentIsTheSameWithOneAndWithTwoProcessors() {
+    QByteArray curves;
+    for (int i = 0; curves.size() < 300'000; ++i) {
+      const auto place = [i](int part) {
+        return QByteArray::number((i * 37 + i * part * 11 + part * 53) % 200);
+      };
+      curves += "<path fill='none' stroke='#" + QByteArray::number(100 + i % 899) + "' d='M" + place(1) +
+                " " + place(2) + "C" + place(3) + " " + place(4) + " " + place(5) + " " + place(6) + " " +
+                place(7) + " " + place(8) + "'/>\n";
+    }
+    const QByteArray gradient =
+        "<linearGradient id='g'><stop stop-color='red'/><stop offset='1' stop-color='blue'/></linearGradient>"
+        "<circle cx='100' cy='100' r='77.7' fill='url(#g)' opacity='1'/>";
+    for (const QByteArray& contents : {curves, QByteArray(curves + gradient)}) {
+      OpenSvg one(svgOf("width='200' height='200'", contents)),
+          two(svgOf("width='200' height='200'", contents));
+      two.context.processors = 2;
+      for (const double scale : {1.0, 2.37}) {
+        const Result<QImage> whole = drawn(**one.result, scale), halves = drawn(**two.result, scale);
+        QVERIFY(whole && halves);
+        QCOMPARE(*whole, *halves);
+      }
+    }
+  }
+
   void fontsAreThoseNamedForTexts() {
     const PictureFacts facts = factsOf(
         svgOf("width='10' height='10' font-family=\"Arial, 'Open  Sans', inherit\"",

@@ -4,8 +4,8 @@
 // library before it is looked for in cairo: these are the ones that are called. A library stays bound to the
 // module that loaded it first, and each module has its own key for what is asked of a context: in a process
 // that has loaded two modules, only what the first of them draws has these edges. librsvg strokes with
-// cairo_stroke_preserve(), and sets width and matrix just before; it takes the box of a shape from
-// cairo_path_extents(), and its gradients come with cairo_set_source().
+// cairo_stroke_preserve(), and sets width and matrix just before; it asks for the extents of each path, and its
+// gradients come with cairo_set_source().
 #include <dlfcn.h>
 
 #include "worker/drawing/coloured_glyphs.h"
@@ -33,9 +33,31 @@ NORVEX_STANDS_IN void cairo_stroke_preserve(cairo_t* context) {
   cairo_set_tolerance(context, before);
 }
 
+namespace {
+
+using Extents = void (*)(cairo_t*, double*, double*, double*, double*);
+
+void measure(Extents cairos, cairo_t* context, double* x1, double* y1, double* x2, double* y2) {
+  const double before = cairo_get_tolerance(context);
+  cairo_set_tolerance(context, norvex::engine::extentsTolerance(context));
+  cairos(context, x1, y1, x2, y2);
+  cairo_set_tolerance(context, before);
+}
+
+}  // namespace
+
+NORVEX_STANDS_IN void cairo_stroke_extents(cairo_t* context, double* x1, double* y1, double* x2, double* y2) {
+  static const auto cairos = reinterpret_cast<Extents>(::dlsym(RTLD_NEXT, "cairo_stroke_extents"));
+  measure(cairos, context, x1, y1, x2, y2);
+}
+
+NORVEX_STANDS_IN void cairo_fill_extents(cairo_t* context, double* x1, double* y1, double* x2, double* y2) {
+  static const auto cairos = reinterpret_cast<Extents>(::dlsym(RTLD_NEXT, "cairo_fill_extents"));
+  measure(cairos, context, x1, y1, x2, y2);
+}
+
 NORVEX_STANDS_IN void cairo_path_extents(cairo_t* context, double* x0, double* y0, double* x1, double* y1) {
-  using PathExtents = void(cairo_t*, double*, double*, double*, double*);
-  static const auto cairos = reinterpret_cast<PathExtents*>(::dlsym(RTLD_NEXT, "cairo_path_extents"));
+  static const auto cairos = reinterpret_cast<Extents>(::dlsym(RTLD_NEXT, "cairo_path_extents"));
   if (!norvex::engine::turnedPathExtents(context, x0, y0, x1, y1)) cairos(context, x0, y0, x1, y1);
 }
 

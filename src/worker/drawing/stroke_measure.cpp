@@ -13,6 +13,13 @@ void releaseTolerance(void* tolerance) {
   delete static_cast<double*>(tolerance);
 }
 
+constexpr double kCairos = 0.1;
+
+/// Units that were asked for; nothing: none.
+const double* askedOf(cairo_t* context) {
+  return static_cast<const double*>(cairo_get_user_data(context, &kCoarse));
+}
+
 /// Units of the surface, of the narrowest direction.
 double strokeWidth(cairo_t* context) {
   cairo_matrix_t matrix;
@@ -31,8 +38,14 @@ void askForCoarseStrokes(cairo_t* context, double units) {
 
 double strokeTolerance(cairo_t* context) {
   const double own = cairo_get_tolerance(context);
-  const auto* asked = static_cast<const double*>(cairo_get_user_data(context, &kCoarse));
+  const double* asked = askedOf(context);
   return asked ? std::max(own, std::min(*asked, strokeWidth(context) / 2)) : own;
+}
+
+double extentsTolerance(cairo_t* context) {
+  const double own = cairo_get_tolerance(context);
+  const double* asked = askedOf(context);
+  return asked ? own * std::max(1.0, *asked / kCairos) : own;
 }
 
 }  // namespace norvex::engine

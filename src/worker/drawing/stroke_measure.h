@@ -16,4 +16,8 @@ void askForCoarseStrokes(cairo_t* context, double units);
 /// tolerance or less: it never exceeds half of the width, unless that is below cairo's own.
 [[nodiscard]] double strokeTolerance(cairo_t* context);
 
+/// The tolerance for asking where strokes and areas reach, as the context stands: whoever has chosen one for
+/// that has chosen it for the units that things are shown in.
+[[nodiscard]] double extentsTolerance(cairo_t* context);
+
 }  // namespace norvex::engine

@@ -45,6 +45,17 @@ class StrokeMeasureTest : public QObject {
   }
 
   void whatIsAskedForIsNeverFinerThanCairosOwn() { QCOMPARE(toleranceOf(100, 0.01), 0.1); }
+
+  void extentsAreMeasuredAsCoarselyAsTheyWereAskedForInTheUnitsOfThePage() {
+    const CairoSurface surface(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, nullptr));
+    const CairoContext context(cairo_create(surface.get()));
+    cairo_set_tolerance(context.get(), 1);
+    QCOMPARE(extentsTolerance(context.get()), 1.0);
+    askForCoarseStrokes(context.get(), 0.4);
+    QCOMPARE(extentsTolerance(context.get()), 4.0);
+    askForCoarseStrokes(context.get(), 0.05);
+    QCOMPARE(extentsTolerance(context.get()), 1.0);
+  }
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "worker/pdf/illustrator_notice.h"
+#include "worker/pages/illustrator_notice.h"
 
 #include <QRegularExpression>
 

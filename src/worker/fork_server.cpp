@@ -109,8 +109,9 @@ bool ForkServer::answerControl() {
 }
 
 Result<ForkServer::Child> ForkServer::fork(const ForkRequest& request, FileDescriptor socket, int shared) {
-  QByteArray folder = scratchRoot_ + "/XXXXXX";
-  if (::mkdtemp(folder.data()) == nullptr) return noChild(errno);
+  // Only programs write anything: for the others a folder would be a good part of what a process costs.
+  QByteArray folder = request.postScript ? scratchRoot_ + "/XXXXXX" : QByteArray();
+  if (!folder.isEmpty() && ::mkdtemp(folder.data()) == nullptr) return noChild(errno);
   const pid_t self = ::getpid();
   const pid_t pid = ::fork();
   if (pid == 0) becomeChild(self, request, std::move(socket), shared, folder);

@@ -14,10 +14,11 @@ namespace norvex {
 /// Never reads a byte of a document and never has a second thread, so that forking is safe. It ends with the
 /// connection to the program that started it: that, and not a death signal, is how it follows its parent,
 /// because the kernel sends such a signal when the *thread* that started a process ends. Whichever way a
-/// child ends, its process group is killed and its scratch folder removed.
+/// child ends, its process group is killed and its scratch folder, if it has one, removed.
 class ForkServer {
  public:
-  /// The child's work with its socket; the process ends when it returns.
+  /// The child's work with its socket; the process ends when it returns. `scratchFolder`: empty but for
+  /// PostScript.
   using ChildMain =
       std::function<void(FileDescriptor socket, const ForkRequest&, const QString& scratchFolder)>;
 

@@ -373,8 +373,17 @@ class WorkerServiceTest : public QObject {
     QVERIFY(process->pdf({}).ok());
   }
 
+  void onlyPostScriptHasAScratchFolder() {
+    const auto pdf = service_->open("ok", PictureKind::Pdf), svg = service_->open("ok", PictureKind::Svg);
+    QVERIFY(pdf->render(drawing()).ok() && svg->render(drawing()).ok());
+    QCOMPARE(runtime_->scratchFolders(), QStringList());
+    const auto eps = service_->open("ok", PictureKind::Eps);
+    QVERIFY(eps->render(drawing()).ok());
+    QCOMPARE(runtime_->scratchFolders().size(), 1);
+  }
+
   void theScratchFolderGoesWithItsProcess() {
-    auto process = service_->open("scratch", PictureKind::Pdf);
+    auto process = service_->open("scratch", PictureKind::Eps);
     QVERIFY(process->render(drawing()).ok());
     QCOMPARE(runtime_->scratchFolders().size(), 1);
     const QString folder = process->facts()->description;
@@ -444,7 +453,7 @@ class WorkerServiceTest : public QObject {
   void whatEndsASessionDoesNotKeepItFromCleaningUp() {
     const int killed = inForkedChild([] {
       WorkerService service(kStub);
-      const auto process = service.open("scratch", PictureKind::Pdf);
+      const auto process = service.open("scratch", PictureKind::Eps);
       if (!process->render(drawing()).ok()) return 1;
       ::kill(pid_t(processOf(process)), SIGTERM);
       ::kill(pid_t(service.programProcessId()), SIGTERM);

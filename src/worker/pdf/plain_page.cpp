@@ -1,8 +1,14 @@
 #include "worker/pdf/plain_page.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <initializer_list>
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "protocol/limits.h"
 #include "worker/pdf/pdf_colour_operators.h"
@@ -28,10 +34,74 @@ bool mayHaveImages(std::string_view contents) {
   return false;
 }
 
+/// How far what is painted reaches up the page, roughly. Fed with the words of contents; within texts and
+/// arrays they may be no words, which matters little.
+class Reach {
+ public:
+  void take(std::string_view contents) {
+    for (size_t at = 0; at < contents.size() && paths_ < kEnough;) {
+      const size_t end = std::min(contents.find_first_of(kBlanks, at), contents.size());
+      if (end > at) word(contents.substr(at, end - at));
+      at = end + 1;
+    }
+  }
+  /// True if most is lines and areas, and these are on average a sixteenth of `height` high.
+  [[nodiscard]] bool isFar(double height) const {
+    return paths_ > texts_ * 4 && sum_ * 16 >= height * double(paths_);
+  }
+
+ private:
+  static constexpr qint64 kEnough = 20'000;
+
+  void word(std::string_view word) {
+    double number = 0;
+    if (std::from_chars(word.data(), word.data() + word.size(), number).ec == std::errc()) {
+      std::copy(operands_.begin() + 1, operands_.end(), operands_.begin());
+      operands_.back() = number;
+      return;
+    }
+    if (word == "m" || word == "l") points({5});
+    if (word == "c") points({1, 3, 5});
+    if (word == "v" || word == "y") points({3, 5});
+    if (word == "re") {
+      operands_[5] += operands_[3];
+      points({3, 5});
+    }
+    if (word == "q" && scales_.size() < 64) scales_.push_back(scales_.back());
+    if (word == "Q" && scales_.size() > 1) scales_.pop_back();
+    if (word == "cm") scales_.back() *= std::max(std::abs(operands_[1]), std::abs(operands_[3]));
+    if (word == "Tj" || word == "TJ" || word.ends_with(")Tj") || word.ends_with("]TJ")) ++texts_;
+    for (const std::string_view paint : {"S", "s", "f", "F", "f*", "B", "B*", "b", "b*", "n"})
+      if (word == paint) endPath();
+  }
+
+  void points(std::initializer_list<size_t> heights) {
+    for (const size_t at : heights) {
+      least_ = hasPoint_ ? std::min(least_, operands_[at]) : operands_[at];
+      most_ = hasPoint_ ? std::max(most_, operands_[at]) : operands_[at];
+      hasPoint_ = true;
+    }
+  }
+
+  void endPath() {
+    if (hasPoint_) sum_ += (most_ - least_) * scales_.back();
+    hasPoint_ = false;
+    ++paths_;
+  }
+
+  std::array<double, 6> operands_{};
+  std::vector<double> scales_{1};  ///< of heights, one for each state that is kept
+  bool hasPoint_ = false;
+  double least_ = 0, most_ = 0, sum_ = 0;
+  qint64 paths_ = 0, texts_ = 0;
+};
+
 /// One page's walk. It ends with the first thing that is not plain.
 class Walk {
  public:
-  [[nodiscard]] bool isLongAndPlain() const { return isPlain_ && length_ >= kLong; }
+  [[nodiscard]] bool isLongAndPlain(double height) const {
+    return isPlain_ && length_ >= kLong && reach_.isFar(height);
+  }
 
   void takeContents(QPDFObjectHandle contents);
   void takeResources(QPDFObjectHandle resources, int depth);
@@ -44,6 +114,7 @@ class Walk {
   std::set<QPDFObjGen> seen_;
   int objects_ = 0;
   qint64 length_ = 0;
+  Reach reach_;
   bool isPlain_ = true;
 };
 
@@ -66,6 +137,7 @@ void Walk::takeContents(QPDFObjectHandle contents) {
   const std::string bytes = unpacked(contents, kTooLong - length_);
   length_ += qint64(bytes.size());
   isPlain_ = length_ < kTooLong && !mayHaveImages(bytes);
+  if (isPlain_) reach_.take(bytes);
 }
 
 void Walk::takeXObject(QPDFObjectHandle object, int depth) {
@@ -100,7 +172,7 @@ bool isLongAndPlain(PdfFile& file, int page) {
   Walk walk;
   walk.takeResources(dictionary.getKey("/Resources"), 0);
   walk.takeContents(dictionary.getKey("/Contents"));
-  return walk.isLongAndPlain();
+  return walk.isLongAndPlain(file.geometry(page).box.height());
 }
 
 }  // namespace norvex::engine

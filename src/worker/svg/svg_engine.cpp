@@ -19,6 +19,7 @@
 #include "worker/svg/svg_cut.h"
 #include "worker/svg/svg_inspection.h"
 #include "worker/svg/svg_length.h"
+#include "worker/svg/svg_path_reach.h"
 #include "worker/svg/svg_pretty.h"
 #include "worker/svg/svg_renderer.h"
 #include "worker/svg/svg_text.h"
@@ -38,15 +39,17 @@ bool hasUnit(const QString& length) {
 }
 
 /// A document that takes long to draw and in which nothing, by the words in it, is an image or a gradient:
-/// see two_halves.h. What is loaded twice must be small beside the memory that is granted.
-bool isLongAndPlain(const QByteArray& utf8, const PictureLimits& limits) {
+/// see two_halves.h. `height`: of the document, in units of its paths. What is loaded twice must be small
+/// beside the memory that is granted.
+bool isLongAndPlain(const QByteArray& utf8, double height, const PictureLimits& limits) {
   constexpr qsizetype long_ = 256 << 10;         // some thousand curves, a tenth of a second
   constexpr qint64 loaded = 24, shareOfAll = 4;  // bytes for each byte of the document
   if (utf8.size() < long_ || utf8.size() * loaded > (qint64(limits.memoryMiB) << 20) / shareOfAll)
     return false;
   for (const char* word : {"image", "radient", "pattern", "foreignObject"})
     if (utf8.contains(word)) return false;
-  return true;
+  // What is read, and each path that is looked at, is so twice: only filling long ones is shared.
+  return meanPathHeight(utf8) * 4 >= height;
 }
 
 class SvgEngine final : public DocumentEngine {
@@ -76,7 +79,7 @@ class SvgEngine final : public DocumentEngine {
   Result<PageContents> contents();
   Result<const SvgRenderer*> renderer();
   Result<void> load(std::unique_ptr<SvgRenderer>& renderer) const;
-  [[nodiscard]] bool isDrawnInHalves(const RenderRequest& request) const;
+  [[nodiscard]] bool isDrawnInHalves(const RenderRequest& request);
   [[nodiscard]] PaintPicture painting(std::unique_ptr<SvgRenderer>& renderer) const;
   [[nodiscard]] QSizeF points() const { return pixels_ * pointsPerPixel; }
   [[nodiscard]] AffineTransform pixelsToPicture() const {
@@ -101,8 +104,9 @@ class SvgEngine final : public DocumentEngine {
   const SvgGeometry geometry_;
   QSizeF pixels_;
   std::unique_ptr<SvgRenderer> renderer_, second_;  ///< `second_`: the same document, for the other half
-  std::optional<QByteArray> pdf_;                   ///< without attributes: what every rectangle is cut from
-  std::optional<QStringList> missingFonts_;         ///< one sentence each, once something was drawn
+  std::optional<bool> isLongAndPlain_;
+  std::optional<QByteArray> pdf_;            ///< without attributes: what every rectangle is cut from
+  std::optional<QStringList> missingFonts_;  ///< one sentence each, once something was drawn
 };
 
 Result<void> SvgEngine::start(int page) const {
@@ -212,9 +216,12 @@ Result<Bitmap> SvgEngine::renderAsDocument(const RenderRequest& request,
   });
 }
 
-bool SvgEngine::isDrawnInHalves(const RenderRequest& request) const {
-  return canPaintHalves(request, context_.limits) && !inspection_.hasLayers &&
-         isLongAndPlain(text_.utf8, context_.limits);
+bool SvgEngine::isDrawnInHalves(const RenderRequest& request) {
+  if (!isLongAndPlain_) {
+    const double height = geometry_.viewBox ? geometry_.viewBox->height() : pixels_.height();
+    isLongAndPlain_ = isLongAndPlain(text_.utf8, height, context_.limits);
+  }
+  return canPaintHalves(request, context_.limits) && !inspection_.hasLayers && *isLongAndPlain_;
 }
 
 /// Loads what it draws with.

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "kit/test_main.h"
+#include "worker/drawing/pixel_edges.h"
 
 using namespace norvex;
 using namespace norvex::engine;
@@ -73,6 +74,21 @@ class TwoHalvesTest : public QObject {
       QVERIFY(whole && halves);
       QVERIFY2(areSame(*whole, *halves), qPrintable(QString::number(height)));
     }
+  }
+
+  void anAreaThatEndsBesideTheSeamIsNotPutToIt() {
+    const auto area = [](cairo_t* context) -> Result<void> {
+      askForPixelEdges(context);
+      cairo_identity_matrix(context);
+      cairo_rectangle(context, 0, 0, 70, 49.6);  // the seam is at 50
+      fillBetweenPixels(context);
+      return {};
+    };
+    const RenderRequest request = requestOf({70, 100});
+    const Result<Bitmap> whole = paintImage(request, {}, area), halves = paintHalves(request, {}, area, area);
+    QVERIFY(whole && halves);
+    QVERIFY(areSame(*whole, *halves));
+    QVERIFY(alpha(whole->row(49)[5]) < 255);
   }
 
   void onOneThreadAndOnTwoThePixelsAreTheSame() {

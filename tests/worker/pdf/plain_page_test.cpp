@@ -48,6 +48,22 @@ class PlainPageTest : public QObject {
                              {stream(lines(8000), "/Type /XObject /Subtype /Form /BBox [0 0 200 100]")})));
   }
 
+  void whatReachesNotFarTakesNotLong() {
+    QByteArray specks, flat;
+    for (int i = 0; i < 20000; ++i) specks += "10 20 m 12 21 l 11 23 l f\n";
+    QVERIFY(!isPlain(onePage(specks)));
+    QVERIFY(isPlain(onePage("q 10 0 0 10 0 0 cm " + specks)));
+    for (int i = 0; i < 20000; ++i) flat += "10 20 80 1.5 re f\n";
+    QVERIFY(!isPlain(onePage(flat)));
+    QVERIFY(isPlain(onePage(QByteArray(flat).replace(" 1.5 ", " 50 "))));
+  }
+
+  void lettersAreAsLongWhereverTheyAreCut() {
+    QByteArray texts;
+    for (int i = 0; i < 8000; ++i) texts += "BT /F 9 Tf 10 20 Td (text and more) Tj ET\n";
+    QVERIFY(!isPlain(onePage(texts + lines(8000))));
+  }
+
   void shortContentsAreNotLong() { QVERIFY(!isPlain(onePage(lines(800)))); }
 
   void whatDependsOnWhereADrawingBeginsIsNotPlain_data() {

@@ -4,8 +4,8 @@
 // library before it is looked for in cairo: these are the ones that are called. A library stays bound to the
 // module that loaded it first, and each module has its own key for what is asked of a context: in a process
 // that has loaded two modules, only what the first of them draws has these edges. librsvg strokes with
-// cairo_stroke_preserve(), and sets width and matrix just before; it asks for the extents of each path, and its
-// gradients come with cairo_set_source().
+// cairo_stroke_preserve(), and sets width and matrix just before; it asks for the extents of each path, and
+// its gradients come with cairo_set_source().
 #include <dlfcn.h>
 
 #include "worker/drawing/coloured_glyphs.h"

@@ -3,8 +3,8 @@
 
 #include "check/check_files.h"
 #include "check/eps_file_rules.h"
-#include "system/check_files.h"
 #include "kit/test_main.h"
+#include "system/check_files.h"
 
 using namespace norvex;
 

@@ -2,6 +2,7 @@
 // of the user's own.
 #include <QList>
 
+#include "check/check_files.h"
 #include "check/eps_box_rules.h"
 #include "check/eps_file_rules.h"
 #include "check/eps_operator_rules.h"
@@ -10,7 +11,6 @@
 #include "check/file_wrapping.h"
 #include "check/profile.h"
 #include "fuzz/targets.h"
-#include "check/check_files.h"
 
 namespace norvex::fuzz {
 namespace {

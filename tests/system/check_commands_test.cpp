@@ -12,7 +12,6 @@
 #include <cstdio>
 
 #include "check/check_files.h"
-#include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "system/real_files.h"

@@ -8,7 +8,6 @@
 #include "base/latin1_text.h"
 #include "check/check_files.h"
 #include "check/rule_table.h"
-#include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
 

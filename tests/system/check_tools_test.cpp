@@ -11,7 +11,6 @@
 #include <cmath>
 
 #include "check/check_files.h"
-#include "system/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
 

@@ -2,10 +2,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "system/check_files.h"
+#include "check/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
-#include "check/check_files.h"
 
 using namespace norvex;
 using namespace norvex::checkfiles;

@@ -54,7 +54,8 @@ class PdfRenderer {
   [[nodiscard]] Result<void> load() { return load(document_); }
   [[nodiscard]] Result<void> load(Document& document) const;
   [[nodiscard]] bool isDrawnInHalves(int page);
-  /// Paints request.page of `document`, on a thread of its own, too; `seams` becomes true where tiles have some.
+  /// Paints request.page of `document`, on a thread of its own, too; `seams` becomes true where tiles have
+  /// some.
   [[nodiscard]] PaintPicture painter(Document& document, const RenderRequest& request, QSizeF shownSize,
                                      std::atomic<bool>& seams);
   [[nodiscard]] Result<Bitmap> paintWithoutSeams(const RenderRequest& request, QSizeF shownSize,

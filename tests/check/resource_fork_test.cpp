@@ -4,7 +4,6 @@
 #include "check/check_files.h"
 #include "check/eps_file_rules.h"
 #include "kit/test_main.h"
-#include "system/check_files.h"
 
 using namespace norvex;
 

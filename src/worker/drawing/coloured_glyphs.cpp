@@ -9,6 +9,7 @@
 #include "worker/drawing/bitmap.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/placed_glyphs.h"
 
 namespace norvex::engine {
 namespace {
@@ -88,7 +89,8 @@ void drawInColours(Drawing drawing, cairo_scaled_font_t* font, const cairo_glyph
 }
 
 void showMasks(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
-  if (count > 0) cairo_show_text_glyphs(context, nullptr, 0, glyphs, count, nullptr, 0, {});
+  if (count <= 0 || (arePixelEdgesAskedFor(context) && paintGlyphsInPlace(context, glyphs, count))) return;
+  cairo_show_text_glyphs(context, nullptr, 0, glyphs, count, nullptr, 0, {});
 }
 
 }  // namespace

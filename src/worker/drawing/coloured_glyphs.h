@@ -15,8 +15,8 @@ inline constexpr int maximumGlyphLevels = 16;
 [[nodiscard]] bool takeGlyphsTooDeep();
 
 /// As cairo_show_glyphs(), but for what lies too deep. Where askForPixelEdges() was called, glyphs in colours
-/// of their own are drawn into `context` itself; those that leave their colour open stay masks, which are
-/// kept and cost less.
+/// of their own are drawn into `context` itself, and outlines at their exact places (placed_glyphs.h); those
+/// that leave their colour open stay masks, which are kept and cost less.
 void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count);
 
 }  // namespace norvex::engine

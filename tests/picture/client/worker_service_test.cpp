@@ -579,15 +579,6 @@ class WorkerServiceTest : public QObject {
     QVERIFY(picture->render({0, {}, {1, 1}, RenderPurpose::View}).ok());
   }
 
-  void openingIsCheap() {
-    QVERIFY(service_->open("ok", PictureKind::Pdf)->facts().ok());
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < 50; ++i) QVERIFY(service_->open("ok", PictureKind::Pdf)->facts().ok());
-    qInfo("open and facts: %.2f ms each", double(timer.nsecsElapsed()) / 50e6);
-    QVERIFY(timer.elapsed() < 50 * 200);
-  }
-
  private:
   /// What the program has forked, without the interpreter that it starts.
   [[nodiscard]] QList<qint64> documentProcesses() const {

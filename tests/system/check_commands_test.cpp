@@ -14,6 +14,7 @@
 #include "check/check_files.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
+#include "system/outside_programs.h"
 #include "system/real_files.h"
 
 using namespace norvex;
@@ -33,7 +34,7 @@ void write(const QString& path, const QByteArray& bytes) {
 
 /// On a sheet that holds everything, whatever boxes say; nothing where Ghostscript does not draw it.
 QByteArray pixelsOf(const QString& file) {
-  const kit::Ran ran = kit::run(
+  const kit::Ran ran = outside::run(
       "gs",
       {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dParseDSCComments=false", "-sDEVICE=ppmraw", "-r36",
        "-g800x800", "-sOutputFile=-", "-c", "<</Install {300 300 translate}>> setpagedevice", "-f", file},

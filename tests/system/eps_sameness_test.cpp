@@ -24,9 +24,10 @@ namespace {
 QImage drawn(const QString& path) {
   const QTemporaryDir folder;
   const QString png = folder.filePath("drawn.png");
-  kit::run("gs",
-           {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-q", "-dEPSCrop", "-sDEVICE=png16m", "-r36", "-o", png, path},
-           {}, 60);
+  outside::run(
+      "gs",
+      {"-dSAFER", "-dBATCH", "-dNOPAUSE", "-q", "-dEPSCrop", "-sDEVICE=png16m", "-r36", "-o", png, path}, {},
+      60);
   return QImage(png);
 }
 

@@ -17,7 +17,15 @@
 namespace norvex::outside {
 
 using kit::Ran;
-using kit::run;
+
+/// As kit::run(), for a program that may be given a hostile file: no file of more than a gibibyte, and what
+/// it leaves behind when it is killed goes.
+inline Ran run(const QString& program, const QStringList& arguments, const QByteArray& input = {},
+               int seconds = 120) {
+  const QTemporaryDir scratch;
+  return kit::run("prlimit", QStringList{"--fsize=1073741824", program} + arguments, input, seconds,
+                  {"TMPDIR=" + scratch.path()});
+}
 
 /// Empty when the program ended well; otherwise what it said, as one line.
 inline QString complaintOf(const QString& program, const QStringList& arguments, int seconds = 60,

@@ -162,10 +162,10 @@ int imagesPaintedBy(const QString& postScript) {
     prolog.write(QByteArray("userdict /NAME {(\\nPAINTS\\n) print systemdict /NAME get exec} put\n")
                      .replace("NAME", name));
   prolog.close();
-  const Ran ran = run("gs",
-                      {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=nullpage",
-                       prolog.fileName(), postScript},
-                      {}, 60);
+  const Ran ran = outside::run("gs",
+                               {"-q", "-dSAFER", "-dBATCH", "-dNOPAUSE", "-dEPSCrop", "-sDEVICE=nullpage",
+                                prolog.fileName(), postScript},
+                               {}, 60);
   return ran.exitCode == 0 && !ran.out.contains("Error:") ? int(ran.out.count("\nPAINTS\n")) : -1;
 }
 

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace norvex {
 
 enum class AlertStyle { Warning = 0, Informational = 1, Critical = 2 };
@@ -15,6 +17,9 @@ struct Alert {
   QString informativeText;
   QStringList buttons;   ///< titles in the order in which they were added; none: one default button
   QString details = {};  ///< a library's own words, shown when they are asked for; empty: there are none
+  /// Called before it is shown, with what dismisses it from then on, and does nothing once it is answered:
+  /// for a question that may answer itself. Null: it waits for the user alone.
+  std::function<void(std::function<void()> dismiss)> willShow = {};
 };
 
 /// Shows alerts. Main thread only.

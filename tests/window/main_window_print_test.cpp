@@ -249,6 +249,37 @@ class MainWindowPrintTest : public QObject {
     QCOMPARE(fixture.spooler.jobs().size(), 1);
   }
 
+  void theQuestionGoesWhenThereIsNothingLeftToAsk_data() {
+    QTest::addColumn<bool>("fails");
+    QTest::newRow("it is printed") << false;
+    QTest::newRow("it is not printed, and can be tried again") << true;
+  }
+  void theQuestionGoesWhenThereIsNothingLeftToAsk() {
+    QFETCH(bool, fails);
+    PrintFixture fixture;
+    std::atomic<bool> held = true;
+    fixture.spooler.wait = [&held](const CancelToken&) {
+      while (held) QThread::msleep(5);
+    };
+    if (fails) fixture.spooler.error = Error{ErrorKind::CannotWrite, "the printer “Office” takes no jobs"};
+    MainWindowController& c = fixture.load("a.eps");
+    c.window()->show();
+    c.printDocument();
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.people.begun.size(), 1, 20000);
+    QSignalSpy closed(&fixture.document, &Document::closed);
+    int dismissed = 0;
+    fixture.alerts.whileShown = [&] {
+      fixture.alerts.shown.last().willShow([&dismissed] { ++dismissed; });
+      held = false;
+      QTRY_COMPARE_WITH_TIMEOUT(dismissed, 1, 20000);
+      QVERIFY(c.window()->isVisible());
+    };
+    QCOMPARE(c.window()->close(), !fails);
+    QCOMPARE(c.window()->isVisible(), fails);
+    QCOMPARE(dismissed, 1);
+    if (!fails) QTRY_COMPARE_WITH_TIMEOUT(closed.size(), 1, 20000);
+  }
+
   void theMenuPrintsTheWholeTurnedPicture() {
     PrintFixture fixture;
     MainWindowController& c = fixture.load("a.eps");

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include "base/localized_string.h"
@@ -40,6 +41,10 @@ int QtAlertPresenter::runModal(const Alert& alert) {
     buttons << button;
   }
   if (buttons.size() == 1) box.setEscapeButton(buttons.first());
+  if (alert.willShow)
+    alert.willShow([shown = QPointer(&box)] {
+      if (shown) shown->reject();
+    });
   box.exec();
   return int(buttons.indexOf(box.clickedButton()));
 }

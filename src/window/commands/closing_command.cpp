@@ -1,8 +1,9 @@
 #include "window/commands/closing_command.h"
 
 #include <QPointer>
-#include <QScopedValueRollback>
 #include <QTimer>
+
+#include <utility>
 
 #include "base/localized_string.h"
 #include "desktop/alert.h"
@@ -30,13 +31,16 @@ bool ClosingCommand::closesLater() {
   question.informativeText = parts_.mainWindow()->windowTitle();
   question.buttons = {localizedString("Close When Finished"), localizedString("Stop and Close"),
                       localizedString("Keep Open")};
+  question.willShow = [this](std::function<void()> dismiss) { dismiss_ = std::move(dismiss); };
   const QPointer<ClosingCommand> self(this);
   int answer = WhenFinished;
-  if (parts_.alerts()) {
-    const QScopedValueRollback<bool> asking(asking_, true);
-    answer = parts_.alerts()->runModal(question);
-  }
+  failed_ = answered_ = false;
+  asking_ = true;
+  if (parts_.alerts()) answer = parts_.alerts()->runModal(question);
   if (!self) return true;
+  asking_ = false;
+  dismiss_ = {};
+  if (answered_ && answer == -1) answer = failed_ ? KeepOpen : WhenFinished;
   closesWhenDone_ = answer == WhenFinished || answer == StopIt;
   if (answer == StopIt) {
     parts_.work().cancelAll();
@@ -45,8 +49,15 @@ bool ClosingCommand::closesLater() {
   return !closesWhenDone_ || wouldLoseWork();  // it may have ended while the question was on the screen
 }
 
+void ClosingCommand::stay() {
+  closesWhenDone_ = false;
+  failed_ = true;
+}
+
 void ClosingCommand::closeIfDone() {
-  if (!closesWhenDone_ || asking_ || wouldLoseWork()) return;
+  if (wouldLoseWork()) return;
+  if (asking_ && dismiss_ && !std::exchange(answered_, true)) dismiss_();
+  if (!closesWhenDone_ || asking_) return;
   QTimer::singleShot(0, this, [this] {
     if (closesWhenDone_ && parts_.mainWindow()) parts_.mainWindow()->close();
   });

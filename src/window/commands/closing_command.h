@@ -21,10 +21,11 @@ class ClosingCommand final : public QObject {
   bool closesLater();
   /// True if it was to close and does so by itself when its work has ended.
   [[nodiscard]] bool closesWhenDone() const { return closesWhenDone_; }
-  /// Something ended: closes the window if it waited for that.
+  /// Something ended: closes the window if it waited for that. The question what to do goes when there is
+  /// nothing left to ask: the window closes, as it was to, unless something failed.
   void closeIfDone();
   /// Something failed, and can be tried again as long as there is a window.
-  void stay() { closesWhenDone_ = false; }
+  void stay();
 
  private:
   [[nodiscard]] bool wouldLoseWork() const;
@@ -33,6 +34,8 @@ class ClosingCommand final : public QObject {
   const SaveAsCommand& saving_;
   PrintingCommand& printing_;
   bool closesWhenDone_ = false, asking_ = false;
+  std::function<void()> dismiss_;           ///< the question on the screen
+  bool answered_ = false, failed_ = false;  ///< since it was asked: by itself; with something to try again
 };
 
 }  // namespace norvex

@@ -849,7 +849,7 @@
     </message>
     <message>
         <source>Printing “%1”: page %2 of %3…</source>
-        <translation>Impression de « %1 » : page %2 sur %3…</translation>
+        <translation>Impression de « %1 » : page %2 sur %3…</translation>
     </message>
     <message>
         <source>Printing “%1”…</source>

@@ -145,6 +145,14 @@ class StringTablesTest : public QObject {
     QVERIFY2(missing.size() * 4 < english.size(), qPrintable(QString::number(missing.size())));
   }
 
+  /// An ordinary one lets a mark begin the next line.
+  void frenchMarksStandBehindSpacesThatDoNotBreak() {
+    static const QRegularExpression breaking(QStringLiteral(" [:;?!»]|« "));
+    const auto french = tableOf("fr");
+    QVERIFY(french.size() > 500);
+    for (const QString& text : french) QVERIFY2(!text.contains(breaking), qPrintable(text));
+  }
+
   void noTwoCommandsOfAMenuShareALetter_data() { aTranslationKeepsThePlaceholdersAndSaysSomething_data(); }
   void noTwoCommandsOfAMenuShareALetter() {
     QFETCH(QString, language);

@@ -121,6 +121,8 @@ class PrintInteractionTest : public QObject {
     QVERIFY(progress->value() == 2 && progress->maximum() == 12);
     interaction_->jobDidAdvance(job, "A drawing", 12, 12);
     QVERIFY(progress->isVisible());  // the last page is begun, not done
+    interaction_->jobDidAdvance(job, "100%2 %3", 4, 12);
+    QCOMPARE(progress->labelText(), QString("Printing “100%2 %3”: page 4 of 12…"));
     interaction_->jobDidEnd(job, "A drawing", {});
     interaction_->jobDidAdvance(job, "A drawing", 2, 12);  // too late
     QVERIFY(visibleProgress(*window_).isEmpty());

@@ -70,7 +70,9 @@ int QtPrintInteraction::showProgress(const QString& text, const CancelToken& can
 void QtPrintInteraction::jobDidAdvance(int job, const QString& title, int page, int pages) {
   QProgressDialog* const dialog = progress_.value(job);
   if (!dialog || pages < 2 || dialog->wasCanceled()) return;
-  dialog->setLabelText(localizedString("Printing “%1”: page %2 of %3…").arg(title).arg(page).arg(pages));
+  // All at once: a title may hold "%2".
+  dialog->setLabelText(localizedString("Printing “%1”: page %2 of %3…")
+                           .arg(title, QString::number(page), QString::number(pages)));
   dialog->setMaximum(pages);
   dialog->setValue(page - 1);
 }

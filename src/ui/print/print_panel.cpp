@@ -25,6 +25,7 @@
 #include "picture/localized_error.h"
 #include "print/page_image.h"
 #include "print/print_job.h"
+#include "ui/panels/centred_window.h"
 #include "ui/panels/file_columns.h"
 #include "ui/print/document_page_controls.h"
 #include "ui/print/page_layout_controls.h"
@@ -36,6 +37,7 @@ namespace {
 
 constexpr int kSettleMs = 80;
 constexpr int kRefreshMs = 5000;
+constexpr QSize kFileDialogSize(720, 560);
 const QString kSuffix = QStringLiteral("pdf");
 const QString kFileItem = QStringLiteral("\n");  // no printer can be called that
 
@@ -101,6 +103,7 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
     dialog.selectFile(suggestion);
     showWholeColumns(dialog);
     showWholePlaces(dialog);
+    dialog.resize(fittingScreen(dialog, kFileDialogSize));
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
   };
   mayReplace = [this](const QString& path) {

@@ -96,13 +96,14 @@ void CheckCommand::start() {
   checking_ = CancelToken();
   workInBackground(
       this,
-      [cancel = *checking_, &service = document->pictureService(), request] {
+      // A Result, so that a check for which there was no memory is not one without findings.
+      [cancel = *checking_, &service = document->pictureService(), request]() -> Result<CheckedPicture> {
         return cancel.cancelled() ? CheckedPicture() : checkedFile(service, request, cancel);
       },
-      [this, cancel = *checking_](const CheckedPicture& checked) {
+      [this, cancel = *checking_](const Result<CheckedPicture>& checked) {
         if (cancel.cancelled()) return;  // another check is wanted by now
         checking_.reset();
-        take(checked);
+        take(checked ? *checked : CheckedPicture{{}, checked.error()});
       });
 }
 

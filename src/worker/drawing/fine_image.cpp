@@ -55,19 +55,21 @@ RenderRequest bandOf(const RenderRequest& request, int top, int rows, int finer)
 
 }  // namespace
 
-Result<Bitmap> paintFine(const RenderRequest& request, const PictureLimits& limits,
-                         const PaintPicture& paint) {
+Result<Bitmap> paintFine(const RenderRequest& request, const PictureLimits& limits, const PaintPicture& paint,
+                         QDeadlineTimer until) {
+  const Error tooLarge{ErrorKind::Limit,
+                       QStringLiteral("the picture is too large to be drawn without seams")};
   const QSize size = request.pixelSize;
   const double pixels = std::min(kMostPixels, limits.megapixels * 1e6);
   int finer = 4, rows = size.isEmpty() ? 0 : rowsOfABand(size, finer, pixels);
   if (rows == 0 || bands(size, rows) > kMostBands) rows = rowsOfABand(size, finer = 2, pixels);
-  if (rows == 0 || bands(size, rows) > kMostBands)
-    return Error{ErrorKind::Limit, QStringLiteral("the picture is too large to be drawn without seams")};
+  if (rows == 0 || bands(size, rows) > kMostBands) return tooLarge;
   Result<Bitmap> image = Bitmap::create(size);
   for (int top = 0; image && top < size.height(); top += rows) {
     const int count = std::min(rows, size.height() - top);
     const Result<Bitmap> fine = paintImage(bandOf(request, top, count, finer), limits, paint);
     if (!fine) return fine;
+    if (until.hasExpired()) return tooLarge;  // and what was painted of the band is not whole
     average(*fine, finer, *image, top);
   }
   return image;

@@ -10,6 +10,10 @@ namespace {
 // Where there are tiles, there are seams among the first of them.
 constexpr size_t kMostEdges = 20000;
 
+// Asking on which side of an edge the area lies goes through the whole path, and so would each edge of it. In
+// all, some tenths of a second.
+constexpr size_t kMostLooks = 50'000'000;
+
 // Cairo keeps places in steps of a 256th of a pixel.
 constexpr double kSamePlace = 2.5 / 256;
 
@@ -25,15 +29,17 @@ bool isBetweenPixels(double place) {
 
 }  // namespace
 
-void LevelSeams::addPath(cairo_t* context, const std::vector<Edge>& edges, Fate fate) {
+void LevelSeams::addPath(cairo_t* context, const std::vector<Edge>& edges, size_t elements, Fate fate) {
   const auto isArea = [context](const Edge& edge, double place) {
     const double middle = (edge.from + edge.to) / 2;
     return edge.upright ? cairo_in_fill(context, place, middle) : cairo_in_fill(context, middle, place);
   };
+  const size_t most = looked_ + (kMostLooks - std::min(looked_, kMostLooks)) / 2;  // the next one wants some
   for (const Edge& edge : edges) {
     if (edges_.size() >= kMostEdges) return;
     const bool shows = fate == Fate::Slanted || !isBetweenPixels(edge.place);
     if (edge.to - edge.from <= kAlong || !shows) continue;
+    if ((looked_ += 2 * elements) > most) return;
     const bool beyond = isArea(edge, edge.place + kBeside);
     if (beyond != bool(isArea(edge, edge.place - kBeside))) edges_.push_back({edge, beyond, fate});
   }

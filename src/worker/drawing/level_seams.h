@@ -20,8 +20,9 @@ class LevelSeams {
 
   /// What became of the edges of a path.
   enum class Fate { Moved, Left, Slanted };
-  /// The edges of the path that `context` has, in its user space.
-  void addPath(cairo_t* context, const std::vector<Edge>& edges, Fate fate);
+  /// The edges of the path that `context` has, in its user space. `elements`: of the path. Where paths are so
+  /// long that looking at their edges would take as long as drawing them many times, the rest is passed over.
+  void addPath(cairo_t* context, const std::vector<Edge>& edges, size_t elements, Fate fate);
 
   /// Whether an edge that was not moved lies along another one whose area is on its other side.
   [[nodiscard]] bool areThere() const;
@@ -35,6 +36,7 @@ class LevelSeams {
   [[nodiscard]] static bool meet(const Kept& a, const Kept& b);
 
   std::vector<Kept> edges_;
+  size_t looked_ = 0;  ///< at elements of paths
 };
 
 }  // namespace norvex::engine

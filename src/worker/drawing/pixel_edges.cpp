@@ -19,7 +19,8 @@ constexpr double kSameLine = 1.5 / 256;
 /// What is kept for a context.
 struct Asked {
   bool hard = false;
-  double angle = 0;  ///< of the picture on the surface, radians
+  QDeadlineTimer until{QDeadlineTimer::Forever};  ///< of hard edges
+  double angle = 0;                               ///< of the picture on the surface, radians
   LevelSeams level;
   SlantedSeams slanted;
   SlantedSeams::Polygon clip;  ///< the last one
@@ -198,7 +199,8 @@ void moveEdges(cairo_t* context, const MovedXOf& movedXOf, const MovedYOf& moved
   Outline outline(*path);
   const bool moved = outline.isOnePart() && outline.move(movedXOf(outline), movedYOf(outline));
   if (seams)
-    seams->addPath(context, outline.edges(), moved ? LevelSeams::Fate::Moved : LevelSeams::Fate::Left);
+    seams->addPath(context, outline.edges(), size_t(path->num_data),
+                   moved ? LevelSeams::Fate::Moved : LevelSeams::Fate::Left);
   if (!moved) return;
   cairo_new_path(context);
   cairo_append_path(context, path.get());
@@ -214,7 +216,7 @@ void putBetweenPixels(cairo_t* context, Asked& asked) {
   if (asked.angle != 0) {
     const SurfaceSpace picture(context, asked.angle);
     if (const CairoPath path(cairo_copy_path(context)); path->status == CAIRO_STATUS_SUCCESS)
-      asked.level.addPath(context, Outline(*path).edges(), LevelSeams::Fate::Slanted);
+      asked.level.addPath(context, Outline(*path).edges(), size_t(path->num_data), LevelSeams::Fate::Slanted);
   }
   const SurfaceSpace surface(context);
   const auto always = [](const Outline&) { return betweenPixels; };
@@ -315,20 +317,23 @@ double slant(cairo_t* context) {
   return std::abs(m.xx) <= least || std::abs(m.yx) <= least ? 0 : std::atan2(m.yx, m.xx);
 }
 
-void askFor(cairo_t* context, bool hard) {
+void askFor(cairo_t* context, bool hard, QDeadlineTimer until = QDeadlineTimer(QDeadlineTimer::Forever)) {
   auto asked = std::make_unique<Asked>();
   asked->hard = hard;
+  asked->until = until;
   asked->angle = slant(context);
   const auto release = [](void* data) { delete static_cast<Asked*>(data); };
   if (cairo_set_user_data(context, &kAsked, asked.get(), release) == CAIRO_STATUS_SUCCESS)
     (void)asked.release();
 }
 
-/// Runs `draw` without smooth edges where they are not wanted, and leaves no path, as cairo does.
+/// Runs `draw` without smooth edges where they are not wanted, and leaves no path, as cairo does. Where time
+/// is over the path is empty: an area without pixels, and a clip that lets nothing through.
 template <typename Draw>
 void drawWithEdges(cairo_t* context, const Asked* asked, const Draw& draw) {
   const cairo_antialias_t before = cairo_get_antialias(context);
   if (asked && asked->hard) cairo_set_antialias(context, CAIRO_ANTIALIAS_NONE);
+  if (asked && asked->until.hasExpired()) cairo_new_path(context);
   draw(context);
   cairo_set_antialias(context, before);
   cairo_new_path(context);
@@ -340,8 +345,8 @@ void askForPixelEdges(cairo_t* context) {
   askFor(context, false);
 }
 
-void askForHardEdges(cairo_t* context) {
-  askFor(context, true);
+void askForHardEdges(cairo_t* context, QDeadlineTimer until) {
+  askFor(context, true, until);
 }
 
 bool arePixelEdgesAskedFor(cairo_t* context) {

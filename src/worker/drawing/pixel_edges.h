@@ -4,6 +4,8 @@
 // none.
 #pragma once
 
+#include <QDeadlineTimer>
+
 #include <cairo.h>
 
 namespace norvex::engine {
@@ -14,8 +16,9 @@ namespace norvex::engine {
 /// the context.
 void askForPixelEdges(cairo_t* context);
 /// From now on clips and areas have no smooth edges in this context: each pixel, at its middle, belongs to
-/// one of two that meet. For what is drawn finer than it is shown (fine_image.h).
-void askForHardEdges(cairo_t* context);
+/// one of two that meet. For what is drawn finer than it is shown (fine_image.h). What comes after `until` is
+/// not drawn: libraries cannot be told to stop.
+void askForHardEdges(cairo_t* context, QDeadlineTimer until = QDeadlineTimer(QDeadlineTimer::Forever));
 /// One of the two.
 [[nodiscard]] bool arePixelEdgesAskedFor(cairo_t* context);
 

@@ -6,6 +6,8 @@
 #include <poppler.h>
 #pragma pop_macro("signals")
 
+#include <chrono>
+
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/fine_image.h"
@@ -21,6 +23,10 @@ struct GObjectRelease {
   void operator()(void* object) const { g_object_unref(object); }
 };
 using PagePointer = std::unique_ptr<PopplerPage, GObjectRelease>;
+
+/// Drawing a page finer takes longer, which nobody can tell of before: what has taken this share of the time
+/// is not begun so, or is given up, and enough is left for the picture with its seams.
+constexpr int kShares = 4;
 
 Error unreadable(GError* error) {
   Error result{ErrorKind::NotParsable, QStringLiteral("the document is not a readable PDF")};
@@ -123,21 +129,27 @@ PaintPicture PdfRenderer::painter(Document& document, const RenderRequest& reque
 }
 
 Result<Bitmap> PdfRenderer::paintWithoutSeams(const RenderRequest& request, QSizeF shownSize,
-                                              const PictureLimits& limits) {
+                                              const PictureLimits& limits, QDeadlineTimer until) {
   const Result<PagePointer> page = shownPage(document_.get(), request.page);
   if (!page) return page.error();
-  return paintFine(request, limits, [&](cairo_t* context) {
-    askForHardEdges(context);
+  const PaintPicture paint = [&](cairo_t* context) {
+    askForHardEdges(context, until);
     return paintPage(context, page->get(), shownSize);
-  });
+  };
+  Result<Bitmap> image = paintFine(request, limits, paint, until);
+  // It is not begun again: the time would be lost each time that the page is drawn.
+  if (!image && until.hasExpired() && tiled_.erase(request.page) > 0) slow_.insert(request.page);
+  return image;
 }
 
 Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSize,
                                    const PictureLimits& limits) {
   if (const Result<void> loaded = load(); !loaded) return loaded.error();
+  const std::chrono::milliseconds share = std::chrono::seconds(limits.seconds) / kShares;
+  const QDeadlineTimer early(share);
   // Where it would take too much, the picture is drawn with its seams.
   if (tiled_.contains(request.page))
-    if (Result<Bitmap> image = paintWithoutSeams(request, shownSize, limits);
+    if (Result<Bitmap> image = paintWithoutSeams(request, shownSize, limits, early);
         image || image.error().kind != ErrorKind::Limit)
       return image;
   std::atomic<bool> seams = false;
@@ -148,8 +160,10 @@ Result<Bitmap> PdfRenderer::render(const RenderRequest& request, QSizeF shownSiz
   Result<Bitmap> image = canPaintHalves(request, limits) && isDrawnInHalves(request.page)
                              ? paintHalves(request, limits, paint, other())
                              : paintImage(request, limits, paint);
-  if (!image || !seams || !tiled_.insert(request.page).second) return image;
-  Result<Bitmap> better = paintWithoutSeams(request, shownSize, limits);
+  if (!image || !seams || early.hasExpired() || slow_.contains(request.page) ||
+      !tiled_.insert(request.page).second)
+    return image;
+  Result<Bitmap> better = paintWithoutSeams(request, shownSize, limits, QDeadlineTimer(share));
   return better ? std::move(better) : std::move(image);
 }
 

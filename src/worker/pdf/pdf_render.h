@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDeadlineTimer>
 #include <QSizeF>
 #include <QString>
 
@@ -32,7 +33,9 @@ class PdfRenderer {
 
   /// Draws request.page. `shownSize` is the page's size in picture coordinates (points); pixels outside the
   /// page and pixels that the page does not paint stay transparent. Fails as paintImage() does, with
-  /// NotParsable when Poppler cannot read the document and with Unsupported when there is no such page.
+  /// NotParsable when Poppler cannot read the document and with Unsupported when there is no such page. A
+  /// page whose tiles have seams is drawn without them where that leaves enough of limits.seconds, the time
+  /// of this call.
   [[nodiscard]] Result<Bitmap> render(const RenderRequest& request, QSizeF shownSize,
                                       const PictureLimits& limits);
   /// Draws every page as render() does, but as vectors: a PDF of as many pages. The pages are all of the same
@@ -59,13 +62,14 @@ class PdfRenderer {
   [[nodiscard]] PaintPicture painter(Document& document, const RenderRequest& request, QSizeF shownSize,
                                      std::atomic<bool>& seams);
   [[nodiscard]] Result<Bitmap> paintWithoutSeams(const RenderRequest& request, QSizeF shownSize,
-                                                 const PictureLimits& limits);
+                                                 const PictureLimits& limits, QDeadlineTimer until);
   QByteArray pdf_;
   int processors_;
   Document document_, second_;      ///< `second_`: the same, for the other half
   std::unique_ptr<PdfFile> file_;   ///< where halves were asked for
   std::map<int, bool> isInHalves_;  ///< pages that were looked at
   std::set<int> tiled_;             ///< pages whose tiles have seams unless they are drawn finer
+  std::set<int> slow_;              ///< those for which that takes too long
 };
 
 /// letters() of a PDF of one page.

@@ -2,6 +2,11 @@
 
 // The engine of Encapsulated PostScript. Facts come from the header; the program is run once, when something
 // is to be drawn, and from then on the picture is a PDF.
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <optional>
+
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_program.h"
 #include "metadata/eps_resources.h"
@@ -19,9 +24,6 @@
 #include "worker/postscript/distill.h"
 #include "worker/postscript/program_watch.h"
 #include "worker/postscript/separations.h"
-
-#include <algorithm>
-#include <optional>
 
 namespace norvex::engine {
 namespace {
@@ -52,6 +54,8 @@ class EpsEngine final : public DocumentEngine {
   }
 
   Result<Bitmap> render(const RenderRequest& request) override {
+    QElapsedTimer begun;
+    begun.start();
     // A look at what was examined needs no second run of the program.
     if (request.purpose == RenderPurpose::Preview && request.page == 0 && surroundings_ && !distilled_)
       return drawPart(request);
@@ -66,7 +70,9 @@ class EpsEngine final : public DocumentEngine {
         begun_ = std::move(drawn);
       return ready.error();
     }
-    return renderer_->render(request, box_.size(), context_.limits);
+    PictureLimits left = context_.limits;
+    left.seconds = std::max(0, left.seconds - int(begun.elapsed() / 1000));
+    return renderer_->render(request, box_.size(), left);
   }
 
   [[nodiscard]] QStringList drawingRemarks() const override {

@@ -143,6 +143,21 @@ class FineImageTest : public QObject {
     QCOMPARE(scale, 4.0);
   }
 
+  /// The band that time ends in is not whole, and those behind it are not begun.
+  void whatIsNotReadyInTimeIsGivenUp() {
+    PictureLimits few;
+    few.megapixels = 0.006;  // nine bands
+    int calls = 0;
+    const auto paint = [&](cairo_t*) -> Result<void> {
+      ++calls;
+      return {};
+    };
+    const Result<Bitmap> image = paintFine(sheet({60, 50}), few, paint, QDeadlineTimer(0));
+    QVERIFY(!image.ok());
+    QCOMPARE(image.error().kind, ErrorKind::Limit);
+    QCOMPARE(calls, 1);
+  }
+
   void whatCannotBeDrawnIsTold() {
     const auto paint = [](cairo_t*) -> Result<void> {
       return Error{ErrorKind::NotParsable, QStringLiteral("broken")};

@@ -344,6 +344,27 @@ class PixelEdgesTest : public QObject {
     }
   }
 
+  /// Whether a tile lies in the hole of the one that it was cut out of costs a walk along the path for each
+  /// edge: a path of very many parts is not looked at to its end.
+  void onlyTheFirstPartsOfALongPathAreLookedAt_data() {
+    QTest::addColumn<QPoint>("hole");
+    QTest::addColumn<bool>("seams");
+    QTest::newRow("first") << QPoint(0, 0) << true;
+    QTest::newRow("last") << QPoint(99, 99) << false;
+  }
+  void onlyTheFirstPartsOfALongPathAreLookedAt() {
+    QFETCH(QPoint, hole);
+    QFETCH(bool, seams);
+    const Sheet sheet;
+    sheet.tile([](cairo_t* path) {
+      for (int y = 0; y < 100; ++y)
+        for (int x = 0; x < 100; ++x) cairo_rectangle(path, 6.3 * x + 0.4, 6.3 * y + 0.4, 5, 5);
+    });
+    sheet.tile(
+        [&](cairo_t* path) { cairo_rectangle(path, 6.3 * hole.x() + 5.4, 6.3 * hole.y() + 0.4, 1.3, 5); });
+    QCOMPARE(hasSeams(sheet.context.get()), seams);
+  }
+
   void edgesOnPixelsAreNoSeam() {
     const Sheet sheet;
     cairo_set_fill_rule(sheet.context.get(), CAIRO_FILL_RULE_EVEN_ODD);
@@ -371,6 +392,17 @@ class PixelEdgesTest : public QObject {
     QVERIFY(covered > 500);
     QVERIFY(!hasSeams(sheet.context.get()));
     QCOMPARE(cairo_get_antialias(sheet.context.get()), CAIRO_ANTIALIAS_DEFAULT);
+  }
+
+  void nothingIsDrawnWhereTimeIsOver() {
+    for (const bool clips : {true, false}) {
+      const Sheet sheet(false);
+      askForHardEdges(sheet.context.get(), QDeadlineTimer(0));
+      const auto area = [](cairo_t* context) { cairo_rectangle(context, 4, 4, 20, 20); };
+      clips ? sheet.tile(area) : sheet.fill(area);
+      const QList<int> all = coverages(sheet);
+      QCOMPARE(all.count(0), all.size());
+    }
   }
 
   void thePathIsGoneAndTheMatrixIsNot() {

@@ -12,7 +12,6 @@
 namespace norvex {
 namespace {
 
-constexpr int kMargin = 8;
 constexpr int kBadgeWidth = 40;
 constexpr int kBadgeHeight = 26;
 
@@ -58,7 +57,7 @@ void drawPicture(QPainter* painter, const QRect& room, const QImage& picture) {
 }  // namespace
 
 QSize RecentFileDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-  return {kBadgeWidth * 3, qMax(kBadgeHeight, option.fontMetrics.lineSpacing() * 2) + 2 * kMargin};
+  return {kBadgeWidth * 3, qMax(kBadgeHeight, option.fontMetrics.lineSpacing() * 2) + 2 * margin};
 }
 
 void RecentFileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -70,7 +69,7 @@ void RecentFileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
   const QStyle* style = item.widget ? item.widget->style() : QApplication::style();
   style->drawPrimitive(QStyle::PE_PanelItemViewItem, &item, painter, item.widget);
   const QString path = index.data(Qt::UserRole).toUrl().toLocalFile();
-  const QRect inside = item.rect.adjusted(kMargin, kMargin, -kMargin, -kMargin);
+  const QRect inside = item.rect.adjusted(margin, margin, -margin, -margin);
   const QRect badge(inside.left(), inside.center().y() - kBadgeHeight / 2, kBadgeWidth, kBadgeHeight);
   const auto picture = index.data(thumbnailRole).value<QImage>();
   if (picture.isNull())
@@ -78,7 +77,7 @@ void RecentFileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
   else
     drawPicture(painter, QRect(inside.left(), inside.top(), kBadgeWidth, inside.height()), picture);
 
-  const QRect text = inside.adjusted(kBadgeWidth + kMargin + 2, 0, 0, 0);
+  const QRect text = inside.adjusted(kBadgeWidth + margin + 2, 0, 0, 0);
   const int line = item.fontMetrics.lineSpacing();
   const bool selected = item.state.testFlag(QStyle::State_Selected);
   const QPalette::ColorRole role = selected ? QPalette::HighlightedText : QPalette::Text;

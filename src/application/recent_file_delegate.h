@@ -12,6 +12,9 @@ inline constexpr int thumbnailRole = Qt::UserRole + 1;
 /// The item's data under Qt::UserRole is the file's QUrl.
 class RecentFileDelegate final : public QStyledItemDelegate {
  public:
+  /// Pixels around what is in a row.
+  static constexpr int margin = 8;
+
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -25,6 +25,7 @@ namespace norvex {
 namespace {
 
 constexpr int kUrlRole = Qt::UserRole;
+constexpr int kIconEdge = 4;  ///< pixels at the icon's sides that are clear
 
 QColor faded(const QColor& color, const QColor& ground, double share) {
   const auto mix = [share](float a, float b) { return float(a * share + b * (1 - share)); };
@@ -96,7 +97,8 @@ QWidget* StartPanel::makeWelcome() {
   column->setContentsMargins(28, 28, 28, 28);
   icon_ = new QLabel(welcome);
   icon_->setAccessibleName(QStringLiteral("Norvex"));
-  icon_->setContentsMargins(-5, 0, 0, 0);  // the icon's own edge is clear
+  icon_->setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);  // which takes no margin below 0
+  icon_->setContentsMargins(-kIconEdge, 0, 0, 0);
   auto* subtitle = makeLabel(localizedString("EPS, Illustrator, PDF and SVG pictures"), 1, true, welcome);
   subtitle->setWordWrap(true);
 
@@ -104,7 +106,7 @@ QWidget* StartPanel::makeWelcome() {
   auto* inside = new QVBoxLayout(drop_);
   inside->setContentsMargins(20, 20, 20, 20);
   open_ = new QPushButton(localizedString("Open…"), drop_);
-  open_->setDefault(true);
+  open_->setAutoDefault(true);  // pressed by Return, and framed, while it has the focus alone
   open_->setShortcut(QKeySequence::Open);
   open_->setToolTip(open_->shortcut().toString(QKeySequence::NativeText));
   open_->setAccessibleDescription(localizedString("Chooses pictures and opens each in a window of its own"));
@@ -133,6 +135,7 @@ QWidget* StartPanel::makeRecent() {
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(20, 28, 20, 20);
   auto* title = makeLabel(localizedString("Recent"), 1, true, side);
+  title->setContentsMargins(RecentFileDelegate::margin, 0, 0, 0);  // over the pictures of the rows
   list_ = new QListWidget(side);
   list_->setFrameShape(QFrame::NoFrame);
   list_->setItemDelegate(new RecentFileDelegate(list_));

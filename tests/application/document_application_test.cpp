@@ -330,6 +330,20 @@ class DocumentApplicationTest : public QObject {
     QVERIFY(QTest::qWaitFor([this] { return log_.contains("gone from disk"); }, 20000));
   }
 
+  void theButtonOfThePanelIsMarkedOnlyWhileItHasTheFocus() {
+    QVERIFY(start({}));
+    StartPanel& panel = application_->startPanel();
+    panel.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&panel));
+    auto* const open = panel.findChild<QPushButton*>();
+    open->setFocus();
+    QVERIFY(open->isDefault());
+    open->clearFocus();
+    QVERIFY(!open->isDefault());
+    open->setFocus();
+    QVERIFY(open->isDefault());
+  }
+
   void everyControlOfThePanelHasAName() {
     QVERIFY(start({}));
     for (QWidget* widget : application_->startPanel().findChildren<QWidget*>()) {

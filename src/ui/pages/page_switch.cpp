@@ -1,6 +1,7 @@
 #include "ui/pages/page_switch.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -27,6 +28,7 @@ PageSwitch::PageSwitch(QWidget* parent)
   number_->setAccessibleName(localizedString("Page"));
   number_->setToolTip(localizedString("Page"));
   connect(number_, &QSpinBox::valueChanged, this, [this](int number) { emit pageChosen(number - 1); });
+  number_->installEventFilter(this);
   setPages(0, 1);
 }
 
@@ -55,6 +57,23 @@ void PageSwitch::setPages(int shown, int count) {
 void PageSwitch::editNumber() {
   number_->setFocus(Qt::ShortcutFocusReason);
   number_->selectAll();
+}
+
+bool PageSwitch::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+    return QWidget::eventFilter(watched, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  const bool takesBack = key == Qt::Key_Escape;
+  if (!takesBack && key != Qt::Key_Return && key != Qt::Key_Enter)
+    return QWidget::eventFilter(watched, event);
+  event->accept();
+  if (event->type() == QEvent::ShortcutOverride) return true;
+  if (takesBack)
+    number_->setValue(number_->value());
+  else
+    number_->interpretText();
+  emit leftNumber();
+  return true;
 }
 
 }  // namespace norvex

@@ -10,7 +10,7 @@ class QToolButton;
 namespace norvex {
 
 /// Back, the page's number to read or to type, how many there are, on. Pages count from 0 here and from 1 on
-/// the screen. Hides itself where there is one page. Main thread.
+/// the screen. Escape puts back the number that was shown. Hides itself where there is one page. Main thread.
 class PageSwitch final : public QWidget {
   Q_OBJECT
  public:
@@ -24,6 +24,11 @@ class PageSwitch final : public QWidget {
 
  signals:
   void pageChosen(int page);
+  /// Return or Escape ended the typing of a number.
+  void leftNumber();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QToolButton* addButton(const QString& arrow, const QString& name, int step);

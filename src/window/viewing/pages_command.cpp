@@ -36,6 +36,8 @@ void PagesCommand::setUp(QMenu& menu) {
   switch_ = new PageSwitch(bar);
   static_cast<QBoxLayout*>(bar->layout())->insertWidget(1, switch_);
   connect(switch_, &PageSwitch::pageChosen, this, &PagesCommand::show);
+  connect(switch_, &PageSwitch::leftNumber, parts_.scrollArea(),
+          [this] { parts_.scrollArea()->setFocus(Qt::OtherFocusReason); });
   parts_.scrollArea()->installEventFilter(this);
   parts_.mainWindow()->installEventFilter(this);
   const auto mayGoOn = [this] { return shown() + 1 < count(); };

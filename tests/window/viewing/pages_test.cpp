@@ -113,6 +113,25 @@ class PagesTest : public QObject {
     QVERIFY(f.action("previousPageAction")->isEnabled());
   }
 
+  void returnAndEscapeLeadFromTheNumberToThePicture() {
+    PagesFixture f(2);
+    f.c.window()->show();
+    QSpinBox* const number = f.pageSwitch()->numberField();
+    f.action("goToPageAction")->trigger();
+    QCOMPARE(f.c.window()->focusWidget(), number);
+    QTest::keyClick(number, Qt::Key_2);
+    QCOMPARE(f.pages.shown(), 0);
+    QTest::keyClick(number, Qt::Key_Escape);
+    QCOMPARE(f.c.window()->focusWidget(), f.c.scrollArea());
+    QCOMPARE(number->text(), QString("1"));
+    QCOMPARE(f.pages.shown(), 0);
+    f.action("goToPageAction")->trigger();
+    QTest::keyClick(number, Qt::Key_2);
+    QTest::keyClick(number, Qt::Key_Return);
+    QCOMPARE(f.pages.shown(), 1);
+    QCOMPARE(f.c.window()->focusWidget(), f.c.scrollArea());
+  }
+
   void onePageShowsNothingOfPages() {
     PagesFixture f(1);
     QVERIFY(f.pageSwitch()->isHidden());

@@ -7,6 +7,8 @@
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 
 #include <algorithm>
 #include <cmath>
@@ -44,6 +46,22 @@ QString barStyle(const QPalette& palette) {
       .arg(rgba(0.28), rgba(0.5));
 }
 
+/// A factor beside those of the menu is shown as clearly as they are; Qt's own box shows it like a hint.
+class FactorBox final : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    if (currentIndex() < 0) option.currentText = placeholderText();
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+  }
+};
+
 }  // namespace
 
 ZoomingScrollArea::ZoomingScrollArea(QWidget* parent)
@@ -51,7 +69,7 @@ ZoomingScrollArea::ZoomingScrollArea(QWidget* parent)
       clip_(new QWidget(this)),
       horizontal_(new QScrollBar(Qt::Horizontal, this)),
       vertical_(new QScrollBar(Qt::Vertical, this)),
-      popUp_(new QComboBox(this)) {
+      popUp_(new FactorBox(this)) {
   horizontal_->setAccessibleName(localizedString("Scroll sideways"));
   vertical_->setAccessibleName(localizedString("Scroll up and down"));
   for (QScrollBar* bar : {horizontal_, vertical_}) {

@@ -3,7 +3,9 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 #include "kit/test_main.h"
 #include "picture/pdf_image_rep.h"
@@ -61,6 +63,26 @@ class ZoomingScrollAreaTest : public QObject {
     QCOMPARE(a.area.popUp()->itemText(0), QStringLiteral("10%"));
     QCOMPARE(a.area.popUp()->itemData(0).toDouble(), 0.10000000149011612);
     QCOMPARE(a.area.popUp()->itemText(10), QStringLiteral("1600%"));
+  }
+
+  void aFactorBesideTheMenuIsAsClearAsThoseOfIt() {
+    Area a;
+    const auto darkest = [&a] {
+      QCoreApplication::processEvents();
+      // The text alone, not the arrow and the frame.
+      const QImage shown = a.area.popUp()->grab().toImage();
+      int least = 255;
+      for (int y = 4; y < shown.height() - 4; ++y)
+        for (int x = 4; x < shown.width() / 2; ++x) least = std::min(least, qGray(shown.pixel(x, y)));
+      return least;
+    };
+    QPalette faint = a.area.palette();
+    faint.setColor(QPalette::PlaceholderText, faint.color(QPalette::Button));
+    a.area.popUp()->setPalette(faint);
+    const int ofTheMenu = darkest();
+    a.area.popUp()->setPlaceholderText("111%");
+    a.area.popUp()->setCurrentIndex(-1);
+    QVERIFY2(std::abs(darkest() - ofTheMenu) < 24, qPrintable(QString::number(darkest())));
   }
 
   void theMenuStandsLeftOfTheBarAndHidesWhenThereIsNoRoom() {

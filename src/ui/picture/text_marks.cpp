@@ -97,6 +97,15 @@ void TextMarks::reveal(const QRectF& rect) {
                                 .adjusted(-room.x(), -room.y(), room.x(), room.x()));
 }
 
+bool TextMarks::event(QEvent* event) {
+  // Without one of its own it would be the view's, which is about other drags.
+  if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+    event->accept();
+    return true;
+  }
+  return QWidget::event(event);
+}
+
 void TextMarks::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -21,7 +21,7 @@ class TextMarks final : public QWidget {
   void setFound(const QList<QRectF>& found, const QList<QRectF>& current);
   void setSelected(const QList<QRectF>& selected);
   void setSelecting(bool on);
-  /// While it selects.
+  /// While it selects; so is the tool tip, and the view's is not shown then.
   void setShape(Qt::CursorShape shape);
   [[nodiscard]] QList<QRectF> found() const { return found_; }
   [[nodiscard]] QList<QRectF> current() const { return current_; }
@@ -37,6 +37,7 @@ class TextMarks final : public QWidget {
   void hovered(const QPointF& point);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

@@ -12,4 +12,11 @@ bool takesKey(QEvent& event, Qt::Key key) {
   return true;
 }
 
+bool takesCopy(QEvent& event) {
+  if (event.type() != QEvent::ShortcutOverride && event.type() != QEvent::KeyPress) return false;
+  if (!static_cast<QKeyEvent&>(event).matches(QKeySequence::Copy)) return false;
+  event.accept();
+  return true;
+}
+
 }  // namespace norvex

@@ -11,4 +11,7 @@ namespace norvex {
 /// to be done until the press itself.
 [[nodiscard]] bool takesKey(QEvent& event, Qt::Key key);
 
+/// The same of the keys that copy everywhere.
+[[nodiscard]] bool takesCopy(QEvent& event);
+
 }  // namespace norvex

@@ -56,7 +56,12 @@ void TextCommand::setUp(QMenu& menu, QAction* before) {
 }
 
 bool TextCommand::eventFilter(QObject* watched, QEvent* event) {
-  if (!mode_->isChecked() || !takesKey(*event, Qt::Key_Escape)) return QObject::eventFilter(watched, event);
+  if (!mode_->isChecked()) return QObject::eventFilter(watched, event);
+  if (!selected_.isEmpty() && takesCopy(*event)) {
+    if (event->type() == QEvent::KeyPress) copy();
+    return true;
+  }
+  if (!takesKey(*event, Qt::Key_Escape)) return QObject::eventFilter(watched, event);
   if (event->type() == QEvent::KeyPress) mode_->setChecked(false);
   return true;
 }
@@ -116,7 +121,9 @@ void TextCommand::release(const QPointF& point) {
 
 void TextCommand::hover(const QPointF& point) {
   const PageText* text = letters_.text();
-  marks_.get().setShape(text && linkAt(*text, point) ? Qt::PointingHandCursor : Qt::IBeamCursor);
+  const PageLink* link = text ? linkAt(*text, point) : nullptr;
+  marks_.get().setShape(link ? Qt::PointingHandCursor : Qt::IBeamCursor);
+  marks_.get().setToolTip(link && isOpened(QUrl(link->address)) ? shownAddress(link->address) : QString());
 }
 
 QString TextCommand::shownAddress(const QString& address) {

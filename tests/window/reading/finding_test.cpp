@@ -1,6 +1,8 @@
 // Text of the picture: found, selected, and its links followed.
 #include <QAction>
 #include <QClipboard>
+#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QToolButton>
@@ -250,6 +252,36 @@ class FindingTest : public QObject {
     QCOMPARE(f.marks->selected(), QList<QRectF>{QRectF(0, 50, 70, 10)});
     f.own("copyTextAction")->trigger();
     QCOMPARE(QGuiApplication::clipboard()->text(), QString("one two"));
+  }
+
+  void theUsualKeysCopyTheSelectedText() {
+    Text f;
+    f.begin();
+    QGuiApplication::clipboard()->setText("before");
+    f.click({5, 5});
+    QCOMPARE(f.text->selectedText(), QString());
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QString("before"));  // nothing is selected
+    f.drag({5, 55}, {65, 55});
+    QKeyEvent taken(QEvent::ShortcutOverride, Qt::Key_C, Qt::ControlModifier);
+    taken.ignore();
+    QCoreApplication::sendEvent(f.c.scrollArea(), &taken);
+    QVERIFY(taken.isAccepted());
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QString("one two"));
+  }
+
+  void aLinkTellsItsAddressAndTheTipOfTheTwoDragsIsNotShown() {
+    Text f;
+    f.begin();
+    emit f.marks->hovered({50, 55});
+    QCOMPARE(f.marks->toolTip(), QString("https://example.org/%E2%80%AEtxt"));
+    emit f.marks->hovered({5, 5});
+    QCOMPARE(f.marks->toolTip(), QString());
+    QHelpEvent asked(QEvent::ToolTip, {5, 5}, {5, 5});
+    asked.ignore();
+    QCoreApplication::sendEvent(f.marks, &asked);
+    QVERIFY(asked.isAccepted());  // so that the view's is not asked for
   }
 
   void theTwoDragsAreAsBeforeWhileTheModeIsOff() {

@@ -66,6 +66,10 @@ class Wrapper {
   /// The tag of a viewport around the picture. Programs that paste what is in the root leave its edges
   /// behind, and the rectangle would be the whole picture again.
   [[nodiscard]] QByteArray window() const;
+  /// The same edges as a path, and the tag of a group within it: there are programs that do not cut at the
+  /// viewports in a drawing.
+  [[nodiscard]] QByteArray clip() const;
+  [[nodiscard]] QByteArray unusedId() const;
   // A switch draws its only child as a group does, but no rule for "g" or "svg > g" reaches it.
   [[nodiscard]] QByteArray group() const { return prefix_ + (cut_.styled ? "switch" : "g"); }
   [[nodiscard]] QByteArray sizeStyle(const QSizeF& size) const {
@@ -98,7 +102,7 @@ QByteArray Wrapper::before() const {
 
 QByteArray Wrapper::window() const {
   const QRectF& r = cut_.rect;
-  QByteArray tag = '<' + name_ + attribute("x", "0") + attribute("y", "0") +
+  QByteArray tag = clip() + '<' + name_ + attribute("x", "0") + attribute("y", "0") +
                    attribute("width", number(r.width())) + attribute("height", number(r.height())) +
                    attribute("overflow", "hidden") +
                    attribute("viewBox", rectangle(r.x(), r.y(), r.width(), r.height()));
@@ -106,10 +110,29 @@ QByteArray Wrapper::window() const {
   return tag + ">\n";
 }
 
+QByteArray Wrapper::clip() const {
+  const QByteArray id = unusedId(), element = prefix_ + "clipPath", cutting = "url(#" + id + ')';
+  const QByteArray neutral =
+      cut_.styled ? attribute("style", kNeutral + QByteArray("visibility:visible;")) : QByteArray();
+  const QByteArray edges = "M0 0H" + number(cut_.rect.width()) + 'V' + number(cut_.rect.height()) + "H0z";
+  return '<' + element + attribute("id", id) + neutral + "><" + prefix_ + "path" + attribute("d", edges) +
+         neutral + "/></" + element + ">\n<" + group() +
+         (cut_.styled ? attribute("style", kNeutral + ("clip-path:" + cutting + ';'))
+                      : attribute("clip-path", cutting)) +
+         ">\n";
+}
+
+QByteArray Wrapper::unusedId() const {
+  const QByteArray name = "norvex-cut";
+  QByteArray id = name;
+  for (int next = 2; text_.contains(id); ++next) id = name + QByteArray::number(next);
+  return id;
+}
+
 QByteArray Wrapper::after() const {
   QByteArray tags = "\n";
   if (turned()) tags += "</" + group() + ">\n";
-  if (!isWhole()) tags += "</" + name_ + ">\n";
+  if (!isWhole()) tags += "</" + name_ + ">\n</" + group() + ">\n";
   return tags + "</" + name_ + ">";
 }
 

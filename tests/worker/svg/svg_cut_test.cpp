@@ -142,6 +142,21 @@ class SvgCutTest : public QObject {
              qPrintable(QString::number(largestDifference(shown, whole))));
   }
 
+  void programsThatDoNotCutAtViewportsCutAtAPath() {
+    const QByteArray square = "<rect id='norvex-cut' width='96' height='96' fill='#f00'/>";
+    OpenSvg document(svgOf("width='96' height='96'", square));
+    QByteArray bytes = cut(document, QRectF(12, 12, 24, 24), 0)->bytes;
+    QVERIFY2(bytes.contains("<clipPath id=\"norvex-cut2\">"), bytes.constData());
+    // Such a program in short: the viewports do not end what is in them.
+    QVERIFY(bytes.contains("overflow=\"hidden\""));
+    bytes.replace("overflow=\"hidden\"", "overflow=\"visible\"");
+    bytes.replace(" viewBox=\"0 0 32 32\"", " viewBox=\"0 0 64 64\"");
+    OpenSvg again(bytes);
+    const QImage shown = *drawn(*again.result->get(), 1);
+    QCOMPARE(shown.pixel(shown.width() / 4, shown.height() / 4), 0xffff0000u);
+    QCOMPARE(shown.pixel(shown.width() * 3 / 4, shown.height() * 3 / 4), 0u);
+  }
+
   void whatIsOutsideThePictureStaysEmpty() {
     OpenSvg document(svgOf("width='96' height='96' style='overflow:visible'",
                            "<rect x='-200' y='-200' width='999' "

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <exception>
 #include <limits>
 #include <new>
@@ -65,7 +66,8 @@ DocumentServer::Answer DocumentServer::answer(ArrivedRequest& arrived) {
   if (refusal_) return {*refusal_, {}};
   context_.cancel = arrived.cancel;
   if (context_.cancel.cancelled()) return {workCancelled(), {}};
-  (void)limitProcessorTime(context_.limits.seconds);  // where it cannot be granted, the last grant holds
+  // Two threads may draw a picture (two_halves.h). Where it cannot be granted, the last grant holds.
+  (void)limitProcessorTime(context_.limits.seconds * std::clamp(context_.processors, 1, 2));
   try {
     return std::visit([&](const auto& body) { return serve(body, std::move(arrived.descriptor)); },
                       arrived.request.body);

@@ -1,6 +1,5 @@
 #include "picture/client/worker_service.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 
 #include <sys/resource.h>

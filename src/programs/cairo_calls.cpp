@@ -6,15 +6,12 @@
 // that has loaded two modules, only what the first of them draws has these edges. librsvg strokes with
 // cairo_stroke_preserve(), and sets width and matrix just before; it asks for the extents of each path, and
 // its gradients come with cairo_set_source().
-#include <dlfcn.h>
-
+#include "programs/taken_call.h"
 #include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/gradient_ends.h"
 #include "worker/drawing/path_extents.h"
 #include "worker/drawing/pixel_edges.h"
 #include "worker/drawing/stroke_measure.h"
-
-#define NORVEX_STANDS_IN extern "C" __attribute__((visibility("default")))
 
 NORVEX_STANDS_IN void cairo_clip(cairo_t* context) {
   norvex::engine::clipBetweenPixels(context);
@@ -25,8 +22,7 @@ NORVEX_STANDS_IN void cairo_fill(cairo_t* context) {
 }
 
 NORVEX_STANDS_IN void cairo_stroke_preserve(cairo_t* context) {
-  static const auto cairos =
-      reinterpret_cast<void (*)(cairo_t*)>(::dlsym(RTLD_NEXT, "cairo_stroke_preserve"));
+  static const auto cairos = norvex::librarysOwn(&cairo_stroke_preserve, "cairo_stroke_preserve");
   const double before = cairo_get_tolerance(context);
   cairo_set_tolerance(context, norvex::engine::strokeTolerance(context));
   cairos(context);
@@ -47,23 +43,22 @@ void measure(Extents cairos, cairo_t* context, double* x1, double* y1, double* x
 }  // namespace
 
 NORVEX_STANDS_IN void cairo_stroke_extents(cairo_t* context, double* x1, double* y1, double* x2, double* y2) {
-  static const auto cairos = reinterpret_cast<Extents>(::dlsym(RTLD_NEXT, "cairo_stroke_extents"));
+  static const auto cairos = norvex::librarysOwn(&cairo_stroke_extents, "cairo_stroke_extents");
   measure(cairos, context, x1, y1, x2, y2);
 }
 
 NORVEX_STANDS_IN void cairo_fill_extents(cairo_t* context, double* x1, double* y1, double* x2, double* y2) {
-  static const auto cairos = reinterpret_cast<Extents>(::dlsym(RTLD_NEXT, "cairo_fill_extents"));
+  static const auto cairos = norvex::librarysOwn(&cairo_fill_extents, "cairo_fill_extents");
   measure(cairos, context, x1, y1, x2, y2);
 }
 
 NORVEX_STANDS_IN void cairo_path_extents(cairo_t* context, double* x0, double* y0, double* x1, double* y1) {
-  static const auto cairos = reinterpret_cast<Extents>(::dlsym(RTLD_NEXT, "cairo_path_extents"));
+  static const auto cairos = norvex::librarysOwn(&cairo_path_extents, "cairo_path_extents");
   if (!norvex::engine::turnedPathExtents(context, x0, y0, x1, y1)) cairos(context, x0, y0, x1, y1);
 }
 
 NORVEX_STANDS_IN void cairo_set_source(cairo_t* context, cairo_pattern_t* pattern) {
-  using SetSource = void(cairo_t*, cairo_pattern_t*);
-  static const auto cairos = reinterpret_cast<SetSource*>(::dlsym(RTLD_NEXT, "cairo_set_source"));
+  static const auto cairos = norvex::librarysOwn(&cairo_set_source, "cairo_set_source");
   // Pixels have the right colours by themselves.
   const bool pixels = cairo_surface_get_type(cairo_get_target(context)) == CAIRO_SURFACE_TYPE_IMAGE;
   const auto longer = pixels ? nullptr : norvex::engine::withEndsOfItsOwn(pattern);

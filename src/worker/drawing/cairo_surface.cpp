@@ -12,9 +12,6 @@
 namespace norvex::engine {
 namespace {
 
-// cairo refuses image surfaces with a longer side; larger images are painted tile by tile.
-constexpr int kLongestSide = 32767;
-
 Result<void> checkRequest(const RenderRequest& request, const PictureLimits& limits) {
   const QSize size = request.pixelSize;
   if (size.isEmpty())
@@ -71,10 +68,11 @@ Result<Bitmap> paintImage(const RenderRequest& request, const PictureLimits& lim
   const QSize size = request.pixelSize;
   Result<Bitmap> image = Bitmap::create(size);
   if (!image || !request.pictureToDevice.isInvertible()) return image;
-  for (int y = 0; y < size.height(); y += kLongestSide) {
-    for (int x = 0; x < size.width(); x += kLongestSide) {
-      const QRect tile(x, y, std::min(kLongestSide, size.width() - x),
-                       std::min(kLongestSide, size.height() - y));
+  // Larger images are painted tile by tile.
+  for (int y = 0; y < size.height(); y += longestSurfaceSide) {
+    for (int x = 0; x < size.width(); x += longestSurfaceSide) {
+      const QRect tile(x, y, std::min(longestSurfaceSide, size.width() - x),
+                       std::min(longestSurfaceSide, size.height() - y));
       const Result<void> painted =
           paintTile(image->row(y) + x, image->bytesPerRow(), tile, request.pictureToDevice, paint);
       if (!painted) return painted.error();

@@ -23,6 +23,9 @@ struct CairoRelease {
 using CairoContext = std::unique_ptr<cairo_t, CairoRelease>;
 using CairoSurface = std::unique_ptr<cairo_surface_t, CairoRelease>;
 
+/// Pixels; cairo refuses image surfaces with a longer side.
+inline constexpr int longestSurfaceSide = 32767;
+
 /// The same map as cairo holds it.
 [[nodiscard]] cairo_matrix_t toCairo(const AffineTransform& matrix);
 

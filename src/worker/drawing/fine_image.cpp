@@ -1,8 +1,6 @@
 #include "worker/drawing/fine_image.h"
 
 #include <algorithm>
-#include <cmath>
-#include <utility>
 
 namespace norvex::engine {
 namespace {

@@ -12,8 +12,6 @@ namespace norvex::engine {
 namespace {
 
 constexpr int kLeastHeight = 64;
-/// Cairo's longest side: a larger image is made of tiles.
-constexpr int kLongestSide = 32767;
 /// The share of the granted memory that the second set of pixels may take.
 constexpr int kShare = 8;
 
@@ -69,7 +67,8 @@ std::future<Result<Bitmap>> onAnotherThread(const Work& work) {
 
 bool canPaintHalves(const RenderRequest& request, const PictureLimits& limits) {
   const QSize size = request.pixelSize;
-  if (size.height() < kLeastHeight || std::max(size.width(), size.height()) > kLongestSide) return false;
+  if (size.height() < kLeastHeight || std::max(size.width(), size.height()) > longestSurfaceSide)
+    return false;
   const qint64 bytes = qint64(size.width()) * size.height() * qint64(sizeof(Argb32));
   return bytes <= (qint64(limits.memoryMiB) << 20) / kShare;
 }

@@ -5,6 +5,8 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
+#include <cmath>
+
 #include "base/latin1_text.h"
 #include "kit/test_main.h"
 #include "picture/bitmap_image.h"
@@ -68,6 +70,20 @@ QString say(const QByteArray& bytes, const QString& suffix, QStringList command)
   process.start(program, command << file.fileName());
   process.waitForFinished();
   return QString::fromUtf8(process.readAll()) + QStringLiteral("exit %1").arg(process.exitCode());
+}
+
+/// An image with the samples that it has.
+NSBitmapImageRep rasterOf(const QImage& image) {
+  if (image.format() != QImage::Format_Grayscale8)
+    return bitmapFromImage(image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                                         : QImage::Format_RGB32));
+  NSBitmapImageRep grey;
+  grey.pixelsWide = image.width();
+  grey.pixelsHigh = image.height();
+  grey.colorSpaceName = latin1(NSCalibratedWhiteColorSpace);
+  grey.bytesPerRow = int(image.bytesPerLine());
+  grey.data = QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
+  return grey;
 }
 
 }  // namespace
@@ -155,6 +171,36 @@ class RasterCodecsTest : public QObject {
       }
       const QImage back = QImage::fromData(encodePng(bitmapFromImage(image), {}));
       QCOMPARE(back.convertToFormat(image.format()), image);
+    }
+  }
+  void pngPacksPhotographsAsDifferencesAndDrawingsAsTheyAre_data() {
+    QTest::addColumn<bool>("photograph");
+    QTest::addColumn<QSize>("size");
+    for (const QSize size : {QSize(300, 200), QSize(131, 9), QSize(7, 400)}) {
+      QTest::addRow("photograph, %d x %d", size.width(), size.height()) << true << size;
+      QTest::addRow("drawing, %d x %d", size.width(), size.height()) << false << size;
+    }
+  }
+  void pngPacksPhotographsAsDifferencesAndDrawingsAsTheyAre() {
+    QFETCH(bool, photograph);
+    QFETCH(QSize, size);
+    QRandomGenerator random(11);
+    for (const QImage::Format format :
+         {QImage::Format_RGB888, QImage::Format_RGBA8888, QImage::Format_Grayscale8}) {
+      QImage image(size, format);
+      const QColor colours[] = {random.generate(), random.generate(), random.generate()};
+      for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x) {
+          const double light = 110 + 70 * std::sin(x / 67.0) * std::cos(y / 83.0);
+          const auto grain = [&](double value) { return int(value) + random.bounded(4); };
+          const QColor soft(grain(light), grain(230 - light), grain(light / 2 + x / 4 % 60 + y / 8 % 40));
+          image.setPixelColor(x, y, photograph ? soft : colours[(x / 3 * 7 + y / 5 * 3) % 3]);
+        }
+      const QByteArray png = encodePng(rasterOf(image), {});
+      QCOMPARE(QImage::fromData(png).convertToFormat(format), image);
+      const QByteArray asIs = qCompress(image.constBits(), int(image.sizeInBytes()), 9);
+      QVERIFY2(png.size() < asIs.size() * (photograph ? 0.95 : 1.2) + 500,
+               qPrintable(QStringLiteral("%1 bytes, as they are %2").arg(png.size()).arg(asIs.size())));
     }
   }
   void opaquePngHasNoAlpha() { QVERIFY(!QImage::fromData(encodePng(sample(false), {})).hasAlphaChannel()); }

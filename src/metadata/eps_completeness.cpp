@@ -98,8 +98,12 @@ bool stopsEarly(QByteArrayView program) {
   for (const auto& [begin, end] : kPairs)
     if (hasLine(program, begin) && !hasLine(program, end)) return true;
   if (hasOneOfLines(program, {"%%EOF", "%%Trailer"}) || endsPrograms(lastWord(program))) return false;
-  const bool hasStructure = hasOneOfLines(
-      program, {"%%BeginProlog", "%%EndProlog", "%%BeginSetup", "%%EndSetup", "%%Page:", "%%BeginPageSetup"});
+  // Who tells of a set-up alone may write it into the header and nothing at the end; a whole line is no cut
+  // then.
+  const bool hasSetup = hasOneOfLines(program, {"%%BeginSetup", "%%EndSetup"});
+  const bool hasStructure =
+      hasOneOfLines(program, {"%%BeginProlog", "%%EndProlog", "%%Page:", "%%BeginPageSetup"}) ||
+      (hasSetup && !program.endsWith('\n') && !program.endsWith('\r'));
   return hasStructure || leavesSomethingOpen(program);
 }
 

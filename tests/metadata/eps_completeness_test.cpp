@@ -50,6 +50,9 @@ class EpsCompletenessTest : public QObject {
     row("by hand, without an end of line", kHeader + "newpath 0 0 moveto 9 9 lineto stroke");
     row("by hand, with a procedure", kHeader + "/d { moveto } def gsave 0 0 d grestore 9 9 lineto stroke\n");
     row("by hand, with a dictionary", kHeader + "9 dict begin 0 0 moveto 9 9 lineto end stroke\n");
+    row("a set-up in the header and no end",
+        "%!PS-Adobe-2.0 EPSF-2.0\n%%BoundingBox: 0 0 9 9\n%%Pages: 0\n%%BeginSetup\n"
+        "%%EndSetup\n%%EndComments\n/in { 0 exch moveto 9 9 lineto stroke } def\nsolid\n3 in\n");
     row("drawing program's own names", kHeader + "%%Page: 1 1\n(text) col0 sh gr\n$F2psEnd\nrs\n");
     row("private data behind the end mark", kWhole + "%AI9_PrivateDataBegin\n%abc\n%AI9_PrivateDataEnd\n");
     row("binary data", kHeader + "gsave image\n{{{\xFF\x80 gsave");
@@ -73,6 +76,7 @@ class EpsCompletenessTest : public QObject {
     QTest::newRow("unstructured, in a saved state") << kHeader + "gsave 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("unstructured, in a saved memory") << kHeader + "save 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("unstructured, in a dictionary") << kHeader + "9 dict begin 0 0 moveto 9 9 lineto\nstr";
+    QTest::newRow("a set-up, in a line") << kHeader + "%%BeginSetup\n%%EndSetup\n0 0 moveto 9 9 lin";
     QTest::newRow("in an interchange preview") << kHeader + "%%BeginPreview: 8 2 1 2\n%FF\n";
     QTest::newRow("in private data") << kWhole + "%AI9_PrivateDataBegin\n%abc";
     QTest::newRow("cut before it became binary") << binary("II*", upTo("setrgbcolor"));

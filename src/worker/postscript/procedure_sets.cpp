@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "protocol/limits.h"
 
@@ -39,6 +40,30 @@ Mention mentionAt(QByteArrayView program, qsizetype from) {
   return before.isEmpty() || before.back() == ' ' || before.back() == '\t' ? Mention::Called : Mention::None;
 }
 
+// The lines up to the one that begins with `mark`; nothing without one.
+std::optional<QByteArrayView> linesBefore(QByteArrayView program, QByteArrayView mark) {
+  qsizetype at = program.indexOf(mark);
+  while (at > 0 && !isLineEnd(program[at - 1])) at = program.indexOf(mark, at + 1);
+  return at < 0 ? std::nullopt : std::optional(program.first(at));
+}
+
+bool holdsOnlyComments(QByteArrayView lines) {
+  bool inComment = false;
+  return std::all_of(lines.begin(), lines.end(), [&](char c) {
+    inComment = !isLineEnd(c) && (inComment || c == '%');
+    return inComment || isLineEnd(c) || c == ' ' || c == '\t';
+  });
+}
+
+// Other applications leave even the names out: a file that calls itself of a version of Illustrator and whose
+// prolog is empty.
+bool isArtworkAlone(QByteArrayView program) {
+  static const QRegularExpression version(QStringLiteral("[\r\n]%AI\\d+_FileFormat"));
+  const auto prolog = linesBefore(program, "%%EndProlog");
+  return prolog && holdsOnlyComments(*prolog) && QString::fromLatin1(*prolog).contains(version) &&
+         program.indexOf(kDrawing) < 0;
+}
+
 }  // namespace
 
 QList<QByteArray> missingProcedureSets(QByteArrayView program) {
@@ -61,7 +86,7 @@ QList<QByteArray> missingProcedureSets(QByteArrayView program) {
 
 QByteArray procedureSetsFor(QByteArrayView program) {
   const QList<QByteArray> missing = missingProcedureSets(program);
-  if (missing.isEmpty()) return {};
+  if (missing.isEmpty() && !isArtworkAlone(program)) return {};
   QByteArray sets;
   for (const char* part : {"state", "paths", "colours", "patterns", "gradients", "text", "images"}) {
     QFile file(QStringLiteral(":/illustrator/%1.ps").arg(QLatin1String(part)));

@@ -13,7 +13,8 @@ namespace norvex::engine {
 /// none of these is in the program itself; otherwise nothing: a program that brings its own is its own.
 [[nodiscard]] QList<QByteArray> missingProcedureSets(QByteArrayView program);
 
-/// PostScript that runs before `program` and defines what missingProcedureSets() finds, or nothing.
+/// PostScript that runs before `program` and defines what missingProcedureSets() finds, or nothing. Artwork
+/// whose prolog is empty and that names no set gets the operators too.
 [[nodiscard]] QByteArray procedureSetsFor(QByteArrayView program);
 
 /// What the interpreter told on standard error that was left out of the picture, one sentence each.

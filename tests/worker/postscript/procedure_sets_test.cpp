@@ -67,6 +67,34 @@ class ProcedureSetsTest : public QObject {
     QCOMPARE(procedureSetsFor(program).isEmpty(), missing.isEmpty());
   }
 
+  void artworkWithAnEmptyPrologIsDrawn_data() {
+    QTest::addColumn<QByteArray>("prolog");
+    QTest::addColumn<bool>("drawn");
+    QTest::newRow("nothing in it") << QByteArray(
+                                          "%AI5_FileFormat 3\n%%EndComments\n%%BeginProlog\n%%EndProlog\n")
+                                   << true;
+    QTest::newRow("comments in it, line ends of a Macintosh")
+        << QByteArray("%AI3_FileFormat\r%%EndComments\r%%BeginProlog\r \t% mine %%EndProlog\r\r%%EndProlog\r")
+        << true;
+    QTest::newRow("a program in it") << QByteArray(
+                                            "%AI5_FileFormat 3\n%%EndComments\n/m { pop } def\n%%EndProlog\n")
+                                     << false;
+    QTest::newRow("of no version") << QByteArray("%%EndComments\n%%BeginProlog\n%%EndProlog\n") << false;
+    QTest::newRow("without an end") << QByteArray("%AI5_FileFormat 3\n%%EndComments\n%%BeginProlog\n")
+                                    << false;
+  }
+  void artworkWithAnEmptyPrologIsDrawn() {
+    QFETCH(QByteArray, prolog);
+    QFETCH(bool, drawn);
+    const QByteArray program = "%!PS-Adobe-3.0 EPSF-3.0\n%%Creator: Somebody\n%%BoundingBox: 0 0 100 80\n" +
+                               prolog +
+                               "1 XR\n0 0 1 0 k\n10 10 m 60 10 L 60 60 L 10 60 L f\n%%Trailer\n%%EOF\n";
+    const kit::DrawnEps picture = drawnEps(program);
+    QCOMPARE(picture.error.isEmpty() && picture.stoppedBy.isEmpty(), drawn);
+    if (drawn) QCOMPARE(QColor(picture.image.pixel(35, 45)).blue(), 0);
+    QCOMPARE(procedureSetsFor(program).isEmpty(), !drawn);
+  }
+
   void aFileThatBringsItsOwnIsDrawnByThem() {
     const kit::DrawnEps drawn = drawnEps(
         withBox("userdict /Adobe_Illustrator_AI5 4 dict dup /initialize { /m { rectfill } def } put put\n"

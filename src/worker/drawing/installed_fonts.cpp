@@ -69,7 +69,8 @@ QStringList missingFamilies(const QList<QStringList>& lists) {
     });
     if (list.isEmpty() || isThere) continue;
     const QString sentence = missingFontSentence(list.first(), standInFor(list.first()));
-    if (!sentences.contains(sentence) && sentences.size() < limits::maximumWarnings) sentences << sentence;
+    // Families are compared without case.
+    if (!sentences.contains(sentence, Qt::CaseInsensitive) && sentences.size() < limits::maximumWarnings) sentences << sentence;
   }
   return sentences;
 }

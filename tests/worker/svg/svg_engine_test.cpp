@@ -345,8 +345,10 @@ class SvgEngineTest : public QObject {
   void aMissingFontIsToldOnceItIsDrawn() {
     QFETCH(QString, families);
     QFETCH(bool, missing);
-    OpenSvg document(svgOf("width='100' height='50'",
-                           "<text x='5' y='20' font-family='" + families.toUtf8() + "'>words</text>"));
+    OpenSvg document(svgOf("width='100' height='50'", "<text x='5' y='20' font-family='" + families.toUtf8() +
+                                                          "'>words</text>"
+                                                          "<text x='5' y='40' font-family='" +
+                                                          families.toLower().toUtf8() + "'>more</text>"));
     const Result<EngineBytes> pdf = document->pdf({});
     QVERIFY(pdf);
     const QString begin = QStringLiteral("the font Nonesuch Sans is missing, ");

@@ -17,6 +17,9 @@ namespace norvex {
 /// them, as the file has them.
 enum class ExportArea { Selection, Visible, Page, Document, Pages };
 
+/// Bounds of ExportChoice::dpi.
+inline constexpr double kLeastExportDpi = 1, kMostExportDpi = 4800;
+
 struct ExportChoice {
   PictureFormat format = PictureFormat::Png;
   ExportArea area = ExportArea::Page;

@@ -24,7 +24,6 @@ namespace norvex {
 namespace {
 
 constexpr double kPointsPerInch = 72;
-constexpr double kLeastDpi = 1, kMostDpi = 4800;
 constexpr int kMostPixels = 100'000;
 constexpr int kUsualQuality = 90;
 
@@ -155,7 +154,7 @@ void ExportOptions::addPages() {
 void ExportOptions::addPixels(const ExportChoice& first) {
   dpi_ = new ResolutionField(this);
   dpi_->setObjectName(QStringLiteral("exportDpi"));
-  dpi_->setRange(kLeastDpi, kMostDpi);
+  dpi_->setRange(kLeastExportDpi, kMostExportDpi);
   dpi_->setValue(first.dpi);
   dpi_->setSuffix(localizedString(" pixels an inch"));
   wide_ = new QSpinBox(this);

@@ -14,8 +14,6 @@ QSettings settings() {
   return QSettings(settingsFolder() + QStringLiteral("/export.ini"), QSettings::IniFormat);
 }
 
-constexpr double kLeastDpi = 1, kMostDpi = 4800;
-
 }  // namespace
 
 ExportChoice storedExportChoice() {
@@ -25,7 +23,7 @@ ExportChoice storedExportChoice() {
     choice.format = *format;
   bool ok = false;
   const double dpi = stored.value(QStringLiteral("pixelsPerInch")).toDouble(&ok);
-  if (ok && dpi >= kLeastDpi && dpi <= kMostDpi) choice.dpi = dpi;
+  if (ok && dpi >= kLeastExportDpi && dpi <= kMostExportDpi) choice.dpi = dpi;
   choice.background = QColor(stored.value(QStringLiteral("background")).toString());
   choice.color = outputColorNamed(stored.value(QStringLiteral("color")).toString().toStdString())
                      .value_or(OutputColor::Rgb);

@@ -2,6 +2,7 @@
 
 #include <sys/eventfd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <mutex>
@@ -10,15 +11,16 @@ namespace norvex {
 namespace {
 
 /// Where the handler writes while an Interruption lives. Cancelling wakes whoever waits, which a signal
-/// handler may not do: it would take locks that the interrupted thread holds.
-volatile std::sig_atomic_t current = -1;
+/// handler may not do: it would take locks that the interrupted thread holds. Any thread may be interrupted.
+std::atomic<int> current = -1;
+static_assert(std::atomic<int>::is_always_lock_free);  // a signal handler may use it
 
 std::mutex outermostMutex;
 const CancelToken* outermost = nullptr;  ///< of the object that hears the signals, or null
 
 void tellCurrent(int) {
   const int before = errno;
-  if (current >= 0) (void)::eventfd_write(current, 1);
+  if (const int told = current; told >= 0) (void)::eventfd_write(told, 1);
   errno = before;
 }
 

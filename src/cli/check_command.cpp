@@ -3,8 +3,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QThread>
-#include <QThreadPool>
-#include <QtConcurrent>
 
 #include <algorithm>
 
@@ -15,6 +13,7 @@
 #include "cli/job.h"
 #include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
+#include "cli/work_in_order.h"
 #include "picture_check/picture_check.h"
 
 namespace norvex {
@@ -79,13 +78,13 @@ ExitCode Job::codeOf(const QString& file, const CheckedPicture& checked) {
   return ExitCode::SomeFailed;
 }
 
-ExitCode Job::reportChecks(const Arguments& arguments, const QFuture<CheckedPicture>& checks) {
+ExitCode Job::reportChecks(const Arguments& arguments, WorkInOrder<CheckedPicture>& checks) {
   const bool json = arguments.has(Option::Json);
   QList<ExitCode> codes;
   bool written = !json || console_.write("[\n");
   for (qsizetype i = 0; i < arguments.files.size(); ++i) {
     const QString& file = arguments.files[i];
-    const CheckedPicture checked = checks.resultAt(int(i));
+    const CheckedPicture checked = checks.take(i);
     codes << codeOf(file, checked);
     const QByteArray end = i + 1 < arguments.files.size() ? ",\n" : "\n]\n";
     written = written && console_.write(json ? jsonOf(file, checked) + end : linesOf(file, checked));
@@ -114,10 +113,9 @@ ExitCode Job::check(const Arguments& arguments) {
       arguments.files.contains(standardInput) ? readInput(console_, standardInput) : Result(QByteArray());
   service_.openOnlyFor(PictureUse::WholePdf);
   const Interruption interruption;
-  QThreadPool pool;
-  pool.setMaxThreadCount(jobs);
   const CancelToken cancel = interruption.token();
-  const auto checkFile = [&](const QString& file) {
+  const auto checkFile = [&](qsizetype index) {
+    const QString& file = arguments.files[index];
     const bool isInput = file == standardInput;
     const Result<QByteArray> bytes = isInput ? input : readInputFile(file);
     if (!bytes) return CheckedPicture{{}, bytes.error()};
@@ -126,12 +124,10 @@ ExitCode Job::check(const Arguments& arguments) {
     request.fileName = isInput ? QString() : file;
     return checkPicture(service_, request, cancel);
   };
-  // A single file is not worth a thread.
-  QFuture<CheckedPicture> checks = arguments.files.size() == 1
-                                       ? QtFuture::makeReadyFuture(checkFile(arguments.files.first()))
-                                       : QtConcurrent::mapped(&pool, arguments.files, checkFile);
+  WorkInOrder<CheckedPicture> checks(arguments.files.size(), jobs, checkFile, [](const Error& error) {
+    return CheckedPicture{{}, error};
+  });
   const ExitCode code = reportChecks(arguments, checks);
-  checks.waitForFinished();
   return cancel.cancelled() ? ExitCode::Interrupted : code;
 }
 

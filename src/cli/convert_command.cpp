@@ -1,8 +1,8 @@
 // `norvex convert`: pictures into other formats, several at once, each written whole or not at all.
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QThreadPool>
-#include <QtConcurrent>
+#include <QSet>
 
 #include "base/atomic_file.h"
 #include "base/interruption.h"
@@ -14,6 +14,7 @@
 #include "cli/files/json_output.h"
 #include "cli/files/output_file.h"
 #include "cli/job.h"
+#include "cli/work_in_order.h"
 #include "metadata/full_date.h"
 
 namespace norvex {
@@ -123,23 +124,19 @@ ExitCode Job::convert(const Arguments& arguments) {
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());
 
   const Interruption interruption;
-  QThreadPool pool;
-  // One more than are drawn at a time: another is being read or written meanwhile.
-  pool.setMaxThreadCount(threadsWithinOpenFiles(plan.jobs > 1 ? plan.jobs + 1 : 1));
   const CancelToken cancel = interruption.token();
-  const auto convertTask = [&](const ConvertTask& task) {
-    return ConvertedFile{convertFile(service_, task, plan, input, cancel)};
+  const auto convertTask = [&](qsizetype index) {
+    return ConvertedFile{convertFile(service_, plan.tasks[index], plan, input, cancel)};
   };
-  // A single file is not worth a thread.
-  QFuture<ConvertedFile> files = plan.tasks.size() == 1
-                                     ? QtFuture::makeReadyFuture(convertTask(plan.tasks.first()))
-                                     : QtConcurrent::mapped(&pool, plan.tasks, convertTask);
+  const auto failed = [](const Error& error) { return ConvertedFile{{refused(error.kind, error.message)}}; };
+  // One more than are drawn at a time: another is being read or written meanwhile.
+  const int threads = threadsWithinOpenFiles(plan.jobs > 1 ? plan.jobs + 1 : 1);
+  WorkInOrder<ConvertedFile> files(plan.tasks.size(), threads, convertTask, failed);
   const ExitCode code = reportConversions(plan, files);
-  files.waitForFinished();
   return cancel.cancelled() ? ExitCode::Interrupted : code;
 }
 
-ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<ConvertedFile>& files) {
+ExitCode Job::reportConversions(const ConvertPlan& plan, WorkInOrder<ConvertedFile>& files) {
   QList<ExitCode> codes;
   QJsonArray objects;
   const qsizetype count = plan.tasks.size();
@@ -148,7 +145,8 @@ ExitCode Job::reportConversions(const ConvertPlan& plan, const QFuture<Converted
     if (!plan.quiet && count > 1) {
       console_.progress(QStringLiteral("%1 of %2: %3").arg(i + 1).arg(count).arg(task.file));
     }
-    for (const Conversion& conversion : files.resultAt(int(i)).conversions) {
+    const ConvertedFile file = files.take(i);
+    for (const Conversion& conversion : file.conversions) {
       const ConvertTask told = taskOf(task, conversion);
       if (plan.json) objects.append(conversionObject(told, plan.options, conversion));
       codes << reportConversion(plan, told, conversion);

@@ -1,7 +1,6 @@
 // `norvex info`: every file's facts, found out on all cores and told in the order of the files.
 #include <QJsonDocument>
-#include <QThreadPool>
-#include <QtConcurrent>
+#include <QThread>
 
 #include "base/open_files.h"
 #include "cli/files/input_file.h"
@@ -9,6 +8,7 @@
 #include "cli/info_report.h"
 #include "cli/job.h"
 #include "cli/value_reader.h"
+#include "cli/work_in_order.h"
 
 namespace norvex {
 namespace {
@@ -39,22 +39,21 @@ ExitCode Job::info(const Arguments& arguments) {
   const Result<QByteArray> input =
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());
   service_.openOnlyFor(PictureUse::Drawing);
-  QThreadPool pool;
-  pool.setMaxThreadCount(threadsWithinOpenFiles(pool.maxThreadCount()));
-  const auto find = [&](const QString& file) {
+  const auto find = [&](qsizetype index) {
+    const QString& file = arguments.files[index];
     const bool isInput = file == QLatin1String("-");
     return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file), limits, *reader),
                      json);
   };
-  // A single file is not worth a thread.
-  const QFuture<Finding> findings = arguments.files.size() == 1
-                                        ? QtFuture::makeReadyFuture(find(arguments.files.first()))
-                                        : QtConcurrent::mapped(&pool, arguments.files, find);
+  WorkInOrder<Finding> findings(arguments.files.size(), threadsWithinOpenFiles(QThread::idealThreadCount()),
+                                find, [](const Error& error) {
+                                  return Finding{{}, error};
+                                });
 
   QList<ExitCode> codes;
   bool written = !json || console_.write("[\n");
   for (qsizetype i = 0; i < arguments.files.size(); ++i) {
-    const Finding finding = findings.resultAt(int(i));
+    const Finding finding = findings.take(i);
     codes << (finding.error ? fail(arguments.files[i], *finding.error) : ExitCode::Done);
     const bool last = i + 1 == arguments.files.size();
     const QByteArray end = json ? (last ? "\n" : ",\n") : "";

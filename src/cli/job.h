@@ -1,7 +1,6 @@
 // One run of the command line.
 #pragma once
 
-#include <QFuture>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -21,10 +20,12 @@ namespace norvex {
 
 struct CheckedPicture;
 struct RepairedPicture;
+template <typename Made>
+class WorkInOrder;
 
 /// Does what arguments ask for. Everything that the command line can do is here, so that tests drive it
 /// without a program. The console and the service are borrowed and must outlive the job. Main thread only;
-/// the work on files runs on the global thread pool.
+/// the work on files runs on threads of its own.
 class Job {
  public:
   Job(Console& console, PictureService& service) : console_(console), service_(service) {}
@@ -70,12 +71,12 @@ class Job {
   ExitCode check(const Arguments& arguments);
   /// Tells why a file could not be checked; of one that could, its worst finding decides.
   ExitCode codeOf(const QString& file, const CheckedPicture& checked);
-  ExitCode reportChecks(const Arguments& arguments, const QFuture<CheckedPicture>& checks);
+  ExitCode reportChecks(const Arguments& arguments, WorkInOrder<CheckedPicture>& checks);
   ExitCode repair(const Arguments& arguments);
   ExitCode inks(const Arguments& arguments);
   /// What was changed and what stays, a line each.
   void tellRepair(const QString& file, const RepairedPicture& repaired);
-  ExitCode reportConversions(const ConvertPlan& plan, const QFuture<ConvertedFile>& files);
+  ExitCode reportConversions(const ConvertPlan& plan, WorkInOrder<ConvertedFile>& files);
   /// Tells what became of one file; of one that goes to standard output, writes it.
   ExitCode reportConversion(const ConvertPlan& plan, const ConvertTask& task, const Conversion& conversion);
   ExitCode sandboxStatus();

@@ -55,7 +55,7 @@ class SourcesTest : public QObject {
   /// Who went away meanwhile, and what a sanitizer cannot see, is told there once.
   void workGoesToOtherThreadsAndBackThroughOneDoor() {
     static const QRegularExpression beside(
-        QStringLiteral("QtConcurrent::run\\b|QFutureWatcher|QThread::create|[Tt]hreads?(\\(\\)|_)\\.start\\(|"
+        QStringLiteral("QtConcurrent\\b|QFutureWatcher|QThread::create|[Tt]hreads?(\\(\\)|_)\\.start\\(|"
                        "\\bpool\\.start\\(|invokeMethod\\((qApp|application)|\\.then\\(qApp"));
     QStringList users, wrong;
     for (const QString& path : files("src", {"*.h", "*.cpp"})) {

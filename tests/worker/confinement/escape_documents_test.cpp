@@ -32,7 +32,10 @@ class Home {
     put("Encoding/secret", kEscaped);
     const QByteArray red = "<rect id='r' width='9' height='9' fill='red'/>";
     put("red.xml", red);
-    put("red.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>" + red + "</svg>");
+    put("red.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>" + red +
+                       "<marker id='m' overflow='visible'><rect x='-9' y='-9' width='18' height='18' "
+                       "fill='red'/></marker><pattern id='p' width='1' height='1'><rect width='9' height='9' "
+                       "fill='red'/></pattern></svg>");
     put("red.dtd", "<!ENTITY red \"" + red + "\">");
     put("red.css", ".r { fill: red !important }");
     ::mkfifo(QFile::encodeName(path() + "/fifo").constData(), 0600);
@@ -86,6 +89,13 @@ class Home {
   QByteArray server_;
   QStringList before_;
 };
+
+/// With two bytes a character, and the mark that tells their order.
+QByteArray widened(const QByteArray& text) {
+  QByteArray wide("\xFE\xFF");
+  for (const char c : text) wide.append('\0').append(c);
+  return wide;
+}
 
 /// How the picture process is confined.
 struct Way {
@@ -145,7 +155,8 @@ bool isBounded(const Error& error) {
 QString howItEnded(ConfinedService& service, const EscapeDocument& document, PictureKind kind) {
   const Home home;
   Error error{ErrorKind::CannotRead, {}};
-  const QImage image = service.drawn(home.fill(document.text), kind, error);
+  const QByteArray text = home.fill(document.text);
+  const QImage image = service.drawn(document.isWide ? widened(text) : text, kind, error);
   if (error.message.contains(QLatin1String(kEscaped))) return QStringLiteral("got out");
   if (error.kind == ErrorKind::TimedOut || error.kind == ErrorKind::Died ||
       error.kind == ErrorKind::NoSandbox)

@@ -7,7 +7,6 @@
 #include <optional>
 
 #include "print/cups_library.h"
-#include "protocol/limits.h"
 
 namespace norvex {
 namespace {
@@ -27,12 +26,13 @@ const char* noPassword(const char*, http_t*, const char*, const char*, void*) {
 /// One connection, and how long it is waited for.
 class Connection {
  public:
-  explicit Connection(const CancelToken& cancel) : cancel_(cancel) {
+  Connection(const CancelToken& cancel, const CupsSpooler::Patience& patience)
+      : cancel_(cancel), looksAtMost_(patience.looks) {
     if (!CupsLibrary::loaded()) return;
     cups().cupsSetPasswordCB2(noPassword, nullptr);
     http_ = cups().httpConnect2(cups().cupsServer(), cups().ippPort(), nullptr, AF_UNSPEC,
-                                cups().cupsEncryption(), 1, limits::printerConnects, nullptr);
-    if (http_) cups().httpSetTimeout(http_, limits::printerLookSeconds, &Connection::waitOn, this);
+                                cups().cupsEncryption(), 1, patience.connectMilliseconds, nullptr);
+    if (http_) cups().httpSetTimeout(http_, patience.lookSeconds, &Connection::waitOn, this);
   }
   ~Connection() {
     if (http_) cups().httpClose(http_);
@@ -49,7 +49,7 @@ class Connection {
   /// Why an answer is missing; nothing when it is not for waiting.
   [[nodiscard]] std::optional<Error> whatBrokeIt() const {
     if (cancel_.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the printing was cancelled")};
-    if (looks_ >= limits::maximumPrinterLooks)
+    if (looks_ >= looksAtMost_)
       return Error{ErrorKind::CannotWrite, QStringLiteral("the print service does not answer")};
     return std::nullopt;
   }
@@ -58,10 +58,11 @@ class Connection {
   static int waitOn(http_t*, void* self) {
     auto* const connection = static_cast<Connection*>(self);
     if (connection->cancel_.cancelled() && !connection->finishes_) return 0;
-    return ++connection->looks_ < limits::maximumPrinterLooks ? 1 : 0;
+    return ++connection->looks_ < connection->looksAtMost_ ? 1 : 0;
   }
 
   CancelToken cancel_;
+  int looksAtMost_;
   http_t* http_ = nullptr;
   int looks_ = 0;
   bool finishes_ = false;
@@ -212,7 +213,7 @@ bool sendDocument(Connection& connection, cups_dest_t* destination, cups_dinfo_t
 }  // namespace
 
 Result<QList<Printer>> CupsSpooler::printers(const CancelToken& cancel) {
-  const Connection connection(cancel);
+  const Connection connection(cancel, patience_);
   if (!connection.isOpen()) return NullPrintSpooler::unreachable();
   const Destinations all(connection.http());
   if (const auto broken = connection.whatBrokeIt()) return *broken;
@@ -223,7 +224,7 @@ Result<QList<Printer>> CupsSpooler::printers(const CancelToken& cancel) {
 }
 
 Result<int> CupsSpooler::print(const PrintTicket& ticket, const QByteArray& pdf, const CancelToken& cancel) {
-  Connection connection(cancel);
+  Connection connection(cancel, patience_);
   if (!connection.isOpen()) return NullPrintSpooler::unreachable();
   http_t* const http = connection.http();
   const Destinations all(http);
@@ -248,7 +249,8 @@ Result<int> CupsSpooler::print(const PrintTicket& ticket, const QByteArray& pdf,
   connection.finishWhatIsBegun(false);
   if (sendDocument(connection, *destination, info.get(), job, title, options, pdf, cancel)) return job;
   const Error error = connection.whatBrokeIt().value_or(notPrinted(name));
-  const Connection other{CancelToken()};  // the first one may wait for the rest of the document for ever
+  const Connection other(CancelToken(),
+                         patience_);  // the first one may wait for the rest of the document for ever
   if (other.isOpen()) cups().cupsCancelDestJob(other.http(), *destination, job);
   return error;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "print/print_spooler.h"
+#include "protocol/limits.h"
 
 namespace norvex {
 
@@ -10,9 +11,22 @@ namespace norvex {
 /// refuses the job.
 class CupsSpooler final : public PrintSpooler {
  public:
+  /// How long a service that says nothing is waited for.
+  struct Patience {
+    int connectMilliseconds = limits::printerConnects;
+    double lookSeconds = limits::printerLookSeconds;
+    int looks = limits::maximumPrinterLooks;
+  };
+
+  CupsSpooler() = default;
+  explicit CupsSpooler(const Patience& patience) : patience_(patience) {}
+
   Result<QList<Printer>> printers(const CancelToken& cancel = {}) override;
   Result<int> print(const PrintTicket& ticket, const QByteArray& pdf,
                     const CancelToken& cancel = {}) override;
+
+ private:
+  Patience patience_;
 };
 
 }  // namespace norvex

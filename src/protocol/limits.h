@@ -23,6 +23,26 @@ inline constexpr double maximumFactor = 1.0e12;
 /// Resolutions from which a size in pixels is worked out that overflows.
 inline constexpr double maximumDpi = 1.0e5;
 
+// ---- drawing ----
+
+/// Glyphs that show text whose glyphs show text, each level a few bytes: as many levels are shown. At some
+/// forty, cairo waits for itself; a glyph that shows itself has no last one.
+inline constexpr int maximumGlyphLevels = 16;
+/// Each of these levels showing the next one many times: glyphs within glyphs of one drawing, and in
+/// PostScript that others will run, of one glyph.
+inline constexpr int maximumInnerGlyphs = 100'000;
+/// Tiles by the hundred thousand, among whose edges seams are looked for: edges of each sort that are kept
+/// (the slanted ones are compared each with each), and corners of paths that are looked at again for each
+/// edge.
+inline constexpr size_t maximumSeamEdges = 20'000;
+inline constexpr size_t maximumSlantedEdges = 512;
+inline constexpr size_t maximumSeamLooks = 50'000'000;
+/// A huge picture with seams, which is drawn finer than it is shown: pixels of the band that is drawn at a
+/// time, an eighth of what a process may have by default, and bands, for each of which the page is walked
+/// through.
+inline constexpr double maximumFinePixels = 24.0e6;
+inline constexpr double maximumFineBands = 16;
+
 // ---- the line to the picture process ----
 
 /// A length before a message that makes the other side wait for, and keep, gigabytes.
@@ -97,6 +117,12 @@ inline constexpr qint64 maximumPreviewPixels = 100'000'000;
 /// Resource comments by the million, and a trailer that is the whole file.
 inline constexpr int maximumResourceNames = 200;
 inline constexpr qsizetype maximumTrailerBytes = 64 << 10;
+/// Metafiles that make objects, and save states, without end. An index of an object is a word.
+inline constexpr size_t maximumMetafileObjects = 65'536;
+inline constexpr size_t maximumMetafileStates = 1024;
+/// Artwork that calls procedure sets without end, by names without end. Real files name seven.
+inline constexpr qsizetype maximumProcedureSets = 64;
+inline constexpr qsizetype maximumProcedureSetName = 80;
 
 // ---- SVG ----
 
@@ -168,6 +194,8 @@ inline constexpr int maximumInformationLength = 64 * 1024;
 /// An annotation as large as a country: units of the sheet that it is drawn on, what cairo's coordinates
 /// hold.
 inline constexpr double maximumAnnotationSheet = 1.0e6;
+/// Arrays that name layers by the million, most of them again and again.
+inline constexpr int maximumLayerEntries = 100'000;
 
 /// Pages that are taken for the notice of an Illustrator file without PDF content: bytes of their contents as
 /// they are stored, of which the notice takes about a tenth.
@@ -201,6 +229,11 @@ inline constexpr qsizetype maximumSvgFonts = 1'000;
 inline constexpr double maximumSvgCells = 400;
 /// Gradients that only an image can hold: pixels of each.
 inline constexpr double maximumSvgShadingPixels = 4.0e6;
+/// An image with a mask that is fine along one axis alone: pixels of both as one image.
+inline constexpr double maximumSvgMaskedPixels = 16.0e6;
+/// A font whose characters have outlines without end: faces that are made of it, and characters of each.
+inline constexpr size_t maximumWebFaces = 8;
+inline constexpr size_t maximumWebCharacters = 8000;
 
 // ---- looking at what is in a page ----
 
@@ -226,6 +259,11 @@ inline constexpr int maximumExaminedPages = 100;
 /// pixels of one plate.
 inline constexpr int maximumInks = 60;
 inline constexpr double maximumPlatePixels = 16.0e6;
+/// A document that is all colour spaces, in which those of its inks are looked for: objects, levels of each,
+/// and spaces, for each of which a program of the document is run.
+inline constexpr int maximumInkObjects = 50'000;
+inline constexpr int maximumInkDepth = 8;
+inline constexpr int maximumInkSpaces = 2000;
 /// A page that says a book: letters of its text that are told, each with its place.
 inline constexpr qsizetype maximumLetters = 500'000;
 /// A profile of megabytes.

@@ -2733,6 +2733,10 @@
         <translation>Die Zeichen der Schriften des Dokuments sind tiefer als %1 verschachtelt.</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts show more than %1 others</source>
+        <translation>Die Zeichen der Schriften des Dokuments zeigen mehr als %1 andere.</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>Das Dokument benutzt Entitäten mehr als %1-mal.</translation>
     </message>
@@ -3081,6 +3085,10 @@
         <translation>Zeichen, die sich selbst zeigen, wurden weggelassen.</translation>
     </message>
     <message>
+        <source>glyphs that show too many others were left out</source>
+        <translation>Zeichen, die zu viele andere zeigen, wurden weggelassen.</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>Eine Schrift lässt sich nicht übernehmen; eine andere vertritt sie.</translation>
     </message>
@@ -3111,6 +3119,10 @@
     <message>
         <source>an image with more pixels than are granted was left out</source>
         <translation>Ein Bild mit mehr Pixeln, als erlaubt sind, wurde weggelassen.</translation>
+    </message>
+    <message>
+        <source>letters of more fonts or shapes than are granted were left out</source>
+        <translation>Buchstaben von mehr Schriften oder Formen, als erlaubt sind, wurden weggelassen.</translation>
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>

@@ -2733,6 +2733,10 @@
         <translation>the glyphs of the document's fonts nest more than %1 deep</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts show more than %1 others</source>
+        <translation>the glyphs of the document's fonts show more than %1 others</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>the document uses entities more than %1 times</translation>
     </message>
@@ -3081,6 +3085,10 @@
         <translation>glyphs that show themselves were left out</translation>
     </message>
     <message>
+        <source>glyphs that show too many others were left out</source>
+        <translation>glyphs that show too many others were left out</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>a font cannot be taken over; another stands in for it</translation>
     </message>
@@ -3111,6 +3119,10 @@
     <message>
         <source>an image with more pixels than are granted was left out</source>
         <translation>an image with more pixels than are granted was left out</translation>
+    </message>
+    <message>
+        <source>letters of more fonts or shapes than are granted were left out</source>
+        <translation>letters of more fonts or shapes than are granted were left out</translation>
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>

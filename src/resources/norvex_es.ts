@@ -2733,6 +2733,10 @@
         <translation>Los glifos de los tipos de letra del documento se anidan a más de %1 niveles.</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts show more than %1 others</source>
+        <translation>Los glifos de los tipos de letra del documento muestran más de otros %1.</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>El documento usa entidades más de %1 veces.</translation>
     </message>
@@ -3081,6 +3085,10 @@
         <translation>Se han omitido glifos que se muestran a sí mismos.</translation>
     </message>
     <message>
+        <source>glyphs that show too many others were left out</source>
+        <translation>Se han omitido glifos que muestran demasiados otros.</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>Un tipo de letra no se puede conservar; otro lo sustituye.</translation>
     </message>
@@ -3111,6 +3119,10 @@
     <message>
         <source>an image with more pixels than are granted was left out</source>
         <translation>Se omitió una imagen con más píxeles de los permitidos.</translation>
+    </message>
+    <message>
+        <source>letters of more fonts or shapes than are granted were left out</source>
+        <translation>Se omitieron letras de más tipos de letra o formas de los permitidos.</translation>
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>

@@ -2733,6 +2733,10 @@
         <translation>Les glyphes des polices du document sont imbriqués sur plus de %1 niveaux.</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts show more than %1 others</source>
+        <translation>Les glyphes des polices du document en affichent plus de %1 autres.</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>Le document utilise des entités plus de %1 fois.</translation>
     </message>
@@ -3081,6 +3085,10 @@
         <translation>Des glyphes qui s’affichent eux-mêmes ont été omis.</translation>
     </message>
     <message>
+        <source>glyphs that show too many others were left out</source>
+        <translation>Des glyphes qui en affichent trop d’autres ont été omis.</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>Une police ne peut pas être reprise ; une autre la remplace.</translation>
     </message>
@@ -3111,6 +3119,10 @@
     <message>
         <source>an image with more pixels than are granted was left out</source>
         <translation>Une image de plus de pixels qu’il n’est permis a été omise.</translation>
+    </message>
+    <message>
+        <source>letters of more fonts or shapes than are granted were left out</source>
+        <translation>Des lettres de plus de polices ou de formes qu’il n’est permis ont été omises.</translation>
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>

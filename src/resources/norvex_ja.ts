@@ -2733,6 +2733,10 @@
         <translation>書類のフォントの字形の入れ子が %1 段を超えています。</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts show more than %1 others</source>
+        <translation>書類のフォントの字形が %1 個を超える別の字形を表示しています。</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>書類が実体参照を %1 回を超えて使っています。</translation>
     </message>
@@ -3081,6 +3085,10 @@
         <translation>自分自身を表示する字形を省きました。</translation>
     </message>
     <message>
+        <source>glyphs that show too many others were left out</source>
+        <translation>多すぎる別の字形を表示する字形を省きました。</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>引き継げないフォントがあるため、別のフォントで代用しています。</translation>
     </message>
@@ -3111,6 +3119,10 @@
     <message>
         <source>an image with more pixels than are granted was left out</source>
         <translation>許された数を超えるピクセルの画像は省かれました。</translation>
+    </message>
+    <message>
+        <source>letters of more fonts or shapes than are granted were left out</source>
+        <translation>許された数を超えるフォントや字形の文字は省かれました。</translation>
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>

@@ -2733,6 +2733,10 @@
         <translation>文档字体中字形的嵌套超过 %1 层。</translation>
     </message>
     <message>
+        <source>the glyphs of the document's fonts show more than %1 others</source>
+        <translation>文档字体中的字形显示的其他字形超过 %1 个。</translation>
+    </message>
+    <message>
         <source>the document uses entities more than %1 times</source>
         <translation>文档使用实体超过 %1 次。</translation>
     </message>
@@ -3081,6 +3085,10 @@
         <translation>已略去显示自身的字形。</translation>
     </message>
     <message>
+        <source>glyphs that show too many others were left out</source>
+        <translation>已略去显示过多其他字形的字形。</translation>
+    </message>
+    <message>
         <source>a font cannot be taken over; another stands in for it</source>
         <translation>有一种字体无法沿用，已用其他字体代替。</translation>
     </message>
@@ -3111,6 +3119,10 @@
     <message>
         <source>an image with more pixels than are granted was left out</source>
         <translation>已略去一个像素数超出限额的图像。</translation>
+    </message>
+    <message>
+        <source>letters of more fonts or shapes than are granted were left out</source>
+        <translation>已略去字体或字形数超出限额的字母。</translation>
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>

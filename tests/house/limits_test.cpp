@@ -1,7 +1,6 @@
 // The limits: none of them stands there without a test that names it.
 #include <QDirIterator>
 #include <QFile>
-#include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -36,18 +35,6 @@ QSet<QString> namedBelow(const QString& folder) {
   return names;
 }
 
-/// What no test can reach, and why.
-const QMap<QString, QString> kUnreached{
-    {"answerGrace", "a time that is waited for; no test looks at a clock"},
-    {"programFarewell", "a time that is waited for; no test looks at a clock"},
-    {"toolSeconds", "a time that is waited for; no test looks at a clock"},
-    {"printerConnects", "a time that is waited for; no test looks at a clock"},
-    {"printerLookSeconds", "a time that is waited for; no test looks at a clock"},
-    {"maximumPrinterLooks", "fifteen seconds of a print service that says nothing"},
-    {"maximumSvgGlyphs", "two hundred thousand letters, each of another shape"},
-    {"maximumPixelsTogether", "bounds memory alone: the output is the same on both sides of it"},
-};
-
 }  // namespace
 
 class LimitsTest : public QObject {
@@ -58,15 +45,8 @@ class LimitsTest : public QObject {
     QVERIFY(constants().size() > 80);
     QStringList wrong;
     for (const QString& name : constants())
-      if (!tested.contains(name) && !kUnreached.contains(name)) wrong << name;
+      if (!tested.contains(name)) wrong << name;
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
-  }
-
-  void whatIsNotReachedHasAReason() {
-    for (auto it = kUnreached.begin(); it != kUnreached.end(); ++it) {
-      QVERIFY2(constants().contains(it.key()), qPrintable(it.key()));
-      QVERIFY2(it.value().size() > 20, qPrintable(it.key()));
-    }
   }
 };
 

@@ -2,8 +2,15 @@
 // behind.
 #include "print/cups_spooler.h"
 
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+
+#include <array>
 #include <optional>
 #include <thread>
+
+#include "base/file_descriptor.h"
 
 #include "kit/test_main.h"
 #include "system/print_server.h"
@@ -19,6 +26,32 @@ PrintTicket ticketFor(const QString& printer) {
   ticket.media = "iso_a4_210x297mm";
   return ticket;
 }
+
+/// An address that takes no more connections, and refuses none.
+class FullServer {
+ public:
+  FullServer() : listening_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto* const plain = reinterpret_cast<sockaddr*>(&address);
+    if (::bind(listening_.get(), plain, size) != 0 || ::listen(listening_.get(), 0) != 0 ||
+        ::getsockname(listening_.get(), plain, &size) != 0)
+      return;
+    port_ = ntohs(address.sin_port);
+    for (FileDescriptor& each : waiting_) {
+      each = FileDescriptor(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+      (void)::connect(each.get(), plain, size);
+    }
+  }
+  [[nodiscard]] QString address() const { return QStringLiteral("127.0.0.1:%1").arg(port_); }
+
+ private:
+  FileDescriptor listening_;
+  std::array<FileDescriptor, 4> waiting_;
+  int port_ = 0;
+};
 
 const QByteArray kPdf = "%PDF-1.4\n% what a queue of files takes as it is\n%%EOF\n";
 
@@ -108,6 +141,31 @@ class CupsSpoolerTest : public QObject {
     server_->stop();
     QCOMPARE(complaint("Office"), QString("the print service cannot be reached"));
     QCOMPARE(spooler_.printers().error().message, QString("the print service cannot be reached"));
+  }
+
+  void aServerThatTakesNoConnectionIsNotWaitedForForEver() {
+    QCOMPARE(CupsSpooler::Patience().connectMilliseconds, limits::printerConnects);
+    const FullServer full;
+    ::cupsSetServer(qPrintable(full.address()));
+    CupsSpooler spooler(CupsSpooler::Patience{50});
+    QCOMPARE(spooler.printers().error().message, QString("the print service cannot be reached"));
+    QCOMPARE(spooler.print(ticketFor("Office"), kPdf).error().message,
+             QString("the print service cannot be reached"));
+  }
+
+  void aServerThatSaysNothingIsNotWaitedForForEver() {
+    const CupsSpooler::Patience usual;
+    QCOMPARE(usual.lookSeconds, limits::printerLookSeconds);
+    QCOMPARE(usual.looks, limits::maximumPrinterLooks);
+    server_->pause();
+    CupsSpooler spooler(CupsSpooler::Patience{limits::printerConnects, 0.02, 3});
+    const Result<int> job = spooler.print(ticketFor("Office"), kPdf);
+    const Result<QList<Printer>> printers = spooler.printers();
+    server_->goOn();
+    QCOMPARE(job.error().kind, ErrorKind::CannotWrite);
+    QCOMPARE(job.error().message, QString("the print service does not answer"));
+    QCOMPARE(printers.error().message, QString("the print service does not answer"));
+    QCOMPARE(server_->jobs(), 0);
   }
 
   void cancellingWhileNobodyAnswersLeavesNoJob() {

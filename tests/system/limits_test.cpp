@@ -71,19 +71,32 @@ QByteArray pagesOf(int count) {
          "/Size 4 /Root 1 0 R >>\n%%EOF\n";
 }
 
-QByteArray fontThatShowsItself() {
-  return "%PDF-1.4\n1 0 obj\n<< /Type /Catalog /Pages 2 0 R >>\nendobj\n2 0 obj\n<< /Type /Pages /Count 1 "
-         "/Kids "
-         "[3 0 R] >>\nendobj\n3 0 obj\n<< /Type /Page /Parent 2 0 R /MediaBox [0 0 90 60] /Contents 4 0 R "
-         "/Resources << /Font << /F 5 0 R >> >> >>\nendobj\n4 0 obj\n<< /Length 19 >>\nstream\nBT /F 9 Tf "
-         "(a) Tj "
-         "ET\nendstream\nendobj\n5 0 obj\n<< /Type /Font /Subtype /Type3 /FontBBox [0 0 9 9] /FontMatrix [.1 "
-         "0 0 .1 "
-         "0 0] /FirstChar 97 /LastChar 97 /Widths [10] /Encoding << /Differences [97 /a] >> /CharProcs << /a "
-         "6 0 R >> "
-         "/Resources << /Font << /F 5 0 R >> >> >>\nendobj\n6 0 obj\n<< /Length 27 >>\nstream\n10 0 d0 BT /F "
-         "9 Tf (a) "
-         "Tj ET\nendstream\nendobj\ntrailer\n<< /Size 7 /Root 1 0 R >>\n%%EOF\n";
+QByteArray stream(const QByteArray& data) {
+  return "<< /Length " + QByteArray::number(data.size()) + " >>\nstream\n" + data + "\nendstream";
+}
+
+/// A page that shows a letter of the first of so many fonts. The letter of each has a colour of its own and
+/// shows that of the next one so many times; that of a single font shows itself.
+QByteArray fontsThatShowOthers(int fonts, int times) {
+  const auto reference = [](int object) { return QByteArray::number(object) + " 0 R"; };
+  QList<QByteArray> objects{
+      "<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Count 1 /Kids [3 0 R] >>",
+      "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 90 60] /Contents 4 0 R /Resources << /Font << /F 5 0 R >> "
+      ">> >>",
+      stream("BT /F 9 Tf (a) Tj ET")};
+  for (int i = 0; i < fonts; ++i) {
+    const bool isLast = fonts > 1 && i == fonts - 1;
+    objects << "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 9 9] /FontMatrix [.1 0 0 .1 0 0] /FirstChar 97 "
+               "/LastChar 97 /Widths [10] /Encoding << /Differences [97 /a] >> /CharProcs << /a " +
+                   reference(6 + 2 * i) + " >> /Resources << /Font << /F " +
+                   reference(fonts > 1 ? 7 + 2 * i : 5) + " >> >> >>"
+            << stream("10 0 d0 1 0 0 rg 0 0 9 9 re f" +
+                      (isLast ? QByteArray() : " BT /F 9 Tf (" + QByteArray(times, 'a') + ") Tj ET"));
+  }
+  QByteArray pdf = "%PDF-1.4\n";
+  for (int i = 0; i < objects.size(); ++i)
+    pdf += QByteArray::number(i + 1) + " 0 obj\n" + objects[i] + "\nendobj\n";
+  return pdf + "trailer\n<< /Root 1 0 R >>\n%%EOF\n";
 }
 
 QByteArray bomb() {
@@ -147,8 +160,10 @@ class LimitsTest : public QObject {
     row("a side", "a.svg", svg("", "width='96000' height='1'"), png + QStringList{"--dpi", "96"},
         "the image would have a side of more than 65535 pixels");
     row("pages", "a.pdf", pagesOf(limits::maximumPages + 1), png, "the document has more than 100000 pages");
-    row("glyphs that show themselves", "a.pdf", fontThatShowsItself(), png,
+    row("glyphs that show themselves", "a.pdf", fontsThatShowOthers(1, 1), png,
         "the glyphs of the document's fonts nest more than 16 deep");
+    row("glyphs that show many others", "a.pdf", fontsThatShowOthers(limits::maximumGlyphLevels / 2, 100),
+        png, "the glyphs of the document's fonts");
     row("temporary files", "a.eps",
         eps(QByteArray::number(limits::maximumScratchFiles + 100) +
             " { null (w) .tempfile closefile pop } repeat {} loop"),

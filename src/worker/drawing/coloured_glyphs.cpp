@@ -6,6 +6,7 @@
 #include <span>
 #include <utility>
 
+#include "protocol/limits.h"
 #include "worker/drawing/bitmap.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/pixel_edges.h"
@@ -15,7 +16,8 @@ namespace norvex::engine {
 namespace {
 
 thread_local int levels = 0;  ///< of glyphs that are being shown
-thread_local bool isTooDeep = false;
+thread_local int innerGlyphs = 0;
+thread_local GlyphExcess excess = GlyphExcess::None;
 
 /// One level, for as long as it lives.
 class Level {
@@ -95,15 +97,16 @@ void showMasks(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
 
 }  // namespace
 
-bool takeGlyphsTooDeep() {
-  return std::exchange(isTooDeep, false);
+GlyphExcess takeGlyphExcess() {
+  innerGlyphs = 0;
+  return std::exchange(excess, GlyphExcess::None);
 }
 
 void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
-  if (levels == maximumGlyphLevels) {
-    isTooDeep = true;
-    return;
-  }
+  if (levels == limits::maximumGlyphLevels) excess = GlyphExcess::Levels;
+  if (levels > 0 && count > limits::maximumInnerGlyphs - innerGlyphs) excess = GlyphExcess::Number;
+  if (excess != GlyphExcess::None) return;  // the drawing is given up: what is left of it has an end, too
+  if (levels > 0) innerGlyphs += std::max(count, 0);
   const Level level;
   cairo_font_face_t* face = cairo_get_font_face(context);
   const bool isDrawn =

@@ -6,15 +6,14 @@
 
 namespace norvex::engine {
 
-/// Glyphs that show text whose glyphs show text, each level a few bytes: as many levels are shown. At some
-/// forty, cairo waits for itself; a glyph that shows itself has no last one.
-inline constexpr int maximumGlyphLevels = 16;
+/// Why text has been left out: glyphs that show glyphs, in more levels or more of them than there may be
+/// (limits::maximumGlyphLevels, limits::maximumInnerGlyphs).
+enum class GlyphExcess { None, Levels, Number };
 
-/// True if text has been left out in this thread that lay deeper than maximumGlyphLevels; from then on false
-/// again.
-[[nodiscard]] bool takeGlyphsTooDeep();
+/// What has been left out in this thread since the last call; from then on it is counted anew.
+[[nodiscard]] GlyphExcess takeGlyphExcess();
 
-/// As cairo_show_glyphs(), but for what lies too deep. Where askForPixelEdges() was called, glyphs in colours
+/// As cairo_show_glyphs(), but for what is too much. Where askForPixelEdges() was called, glyphs in colours
 /// of their own are drawn into `context` itself, and outlines at their exact places (placed_glyphs.h); those
 /// that leave their colour open stay masks, which are kept and cost less.
 void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count);

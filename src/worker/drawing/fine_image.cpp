@@ -2,13 +2,10 @@
 
 #include <algorithm>
 
+#include "protocol/limits.h"
+
 namespace norvex::engine {
 namespace {
-
-// Of a band: an eighth of what a process may have by default.
-constexpr double kMostPixels = 24e6;
-// The picture is drawn once for each.
-constexpr double kMostBands = 16;
 
 /// How many rows of the image are drawn at once; 0 where none can be.
 int rowsOfABand(QSize image, int finer, double pixels) {
@@ -58,10 +55,10 @@ Result<Bitmap> paintFine(const RenderRequest& request, const PictureLimits& limi
   const Error tooLarge{ErrorKind::Limit,
                        QStringLiteral("the picture is too large to be drawn without seams")};
   const QSize size = request.pixelSize;
-  const double pixels = std::min(kMostPixels, limits.megapixels * 1e6);
+  const double pixels = std::min(limits::maximumFinePixels, limits.megapixels * 1e6);
   int finer = 4, rows = size.isEmpty() ? 0 : rowsOfABand(size, finer, pixels);
-  if (rows == 0 || bands(size, rows) > kMostBands) rows = rowsOfABand(size, finer = 2, pixels);
-  if (rows == 0 || bands(size, rows) > kMostBands) return tooLarge;
+  if (rows == 0 || bands(size, rows) > limits::maximumFineBands) rows = rowsOfABand(size, finer = 2, pixels);
+  if (rows == 0 || bands(size, rows) > limits::maximumFineBands) return tooLarge;
   Result<Bitmap> image = Bitmap::create(size);
   for (int top = 0; image && top < size.height(); top += rows) {
     const int count = std::min(rows, size.height() - top);

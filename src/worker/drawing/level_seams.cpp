@@ -4,15 +4,10 @@
 #include <cmath>
 #include <tuple>
 
+#include "protocol/limits.h"
+
 namespace norvex::engine {
 namespace {
-
-// Where there are tiles, there are seams among the first of them.
-constexpr size_t kMostEdges = 20000;
-
-// Asking on which side of an edge the area lies goes through the whole path, and so would each edge of it. In
-// all, some tenths of a second.
-constexpr size_t kMostLooks = 50'000'000;
 
 // Cairo keeps places in steps of a 256th of a pixel.
 constexpr double kSamePlace = 2.5 / 256;
@@ -34,9 +29,11 @@ void LevelSeams::addPath(cairo_t* context, const std::vector<Edge>& edges, size_
     const double middle = (edge.from + edge.to) / 2;
     return edge.upright ? cairo_in_fill(context, place, middle) : cairo_in_fill(context, middle, place);
   };
-  const size_t most = looked_ + (kMostLooks - std::min(looked_, kMostLooks)) / 2;  // the next one wants some
+  // Asking on which side of an edge the area lies goes through the whole path, and so would each edge of it.
+  // In all, some tenths of a second; the next path wants some.
+  const size_t most = looked_ + (limits::maximumSeamLooks - std::min(looked_, limits::maximumSeamLooks)) / 2;
   for (const Edge& edge : edges) {
-    if (edges_.size() >= kMostEdges) return;
+    if (edges_.size() >= limits::maximumSeamEdges) return;  // among the first tiles there are seams, too
     const bool shows = fate == Fate::Slanted || !isBetweenPixels(edge.place);
     if (edge.to - edge.from <= kAlong || !shows) continue;
     if ((looked_ += 2 * elements) > most) return;

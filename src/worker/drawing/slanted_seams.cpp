@@ -4,11 +4,12 @@
 #include <cmath>
 #include <utility>
 
+#include "protocol/limits.h"
+
 namespace norvex::engine {
 namespace {
 
-// Where there are tiles, there are seams among the first of them.
-constexpr size_t kMostEdges = 512, kMostCorners = 8;
+constexpr size_t kMostCorners = 8;  // of a tile
 
 // Cairo keeps places in steps of a 256th of a pixel; a tile's edge may be as slanted as that.
 constexpr double kUpright = 1.5 / 256;
@@ -50,7 +51,8 @@ SlantedSeams::Polygon SlantedSeams::polygonOf(const cairo_path_t& path) {
 void SlantedSeams::addTile(const Polygon& corners) {
   if (corners.size() < 3) return;
   const bool turnsBack = area(corners) < 0;
-  for (size_t i = 0; i < corners.size() && edges_.size() < kMostEdges; ++i) {
+  // Where there are tiles, there are seams among the first of them.
+  for (size_t i = 0; i < corners.size() && edges_.size() < limits::maximumSlantedEdges; ++i) {
     Edge edge{corners[i], corners[(i + 1) % corners.size()]};
     if (turnsBack) std::swap(edge.from, edge.to);
     const Point along = between(edge.from, edge.to);

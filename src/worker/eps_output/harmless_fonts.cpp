@@ -11,8 +11,8 @@
 #include <string>
 #include <utility>
 
-#include "protocol/limits.h"
 #include "worker/eps_output/cff_index.h"
+#include "worker/eps_output/inner_glyphs.h"
 #include "worker/eps_output/postscript_tokens.h"
 #include "worker/eps_output/type1_font.h"
 #include "worker/pdf/pdf_dictionaries.h"
@@ -82,21 +82,13 @@ QString leftOutSentence(const QString& name) {
              : QStringLiteral("the font %1 cannot be taken over; another stands in for it").arg(font);
 }
 
-/// A font of Type 3 that others can refer to.
-bool isDrawnFont(QPDFObjectHandle font) {
-  return font.isIndirect() && font.isDictionary() && font.getKey("/Subtype").isName() &&
-         font.getKey("/Subtype").getName() == "/Type3";
-}
-
 class Cleaner {
  public:
   explicit Cleaner(QPDF& qpdf) : qpdf_(qpdf) {}
 
   QStringList run() {
     visitDictionaries(qpdf_, makeNamesPlain);
-    visitDictionaries(qpdf_, [this](QPDFObjectHandle dictionary) {
-      if (isDrawnFont(dictionary)) endCircles(dictionary, {});
-    });
+    warnings_ = boundInnerGlyphs(qpdf_);
     visitDictionaries(qpdf_, [this](QPDFObjectHandle dictionary) {
       for (const char* key : {"/FontFile", "/FontFile2", "/FontFile3"})
         if (QPDFObjectHandle file = dictionary.getKey(key); file.isStream()) clean(dictionary, key, file);
@@ -105,27 +97,6 @@ class Cleaner {
   }
 
  private:
-  /// A procedure that shows a glyph by calling itself stops every interpreter. `above`: fonts whose glyphs
-  /// show those of `font`.
-  void endCircles(QPDFObjectHandle font, std::set<QPDFObjGen> above) {
-    if (!ended_.insert(font.getObjGen()).second) return;
-    above.insert(font.getObjGen());
-    QPDFObjectHandle resources = font.getKey("/Resources");
-    QPDFObjectHandle fonts = resources.isDictionary() ? resources.getKey("/Font") : resources;
-    if (!fonts.isDictionary()) return;
-    for (const std::string& key : fonts.getKeys()) {
-      QPDFObjectHandle inner = fonts.getKey(key);
-      if (!isDrawnFont(inner)) continue;
-      const bool isTooDeep = above.size() >= size_t(limits::maximumResourceDepth);
-      if (!isTooDeep && above.count(inner.getObjGen()) == 0) {
-        endCircles(inner, above);
-        continue;
-      }
-      fonts.removeKey(key);
-      tell(QStringLiteral("glyphs that show themselves were left out"));
-    }
-  }
-
   void tell(const QString& sentence) {
     if (!warnings_.contains(sentence)) warnings_ << sentence;
   }
@@ -187,7 +158,6 @@ class Cleaner {
   QPDF& qpdf_;
   std::map<std::pair<QPDFObjGen, std::string>, QPDFObjectHandle> made_;
   std::set<QByteArray> names_;  ///< of Type 1 fonts
-  std::set<QPDFObjGen> ended_;  ///< fonts of Type 3 that lead to themselves no more
   QStringList warnings_;
 };
 

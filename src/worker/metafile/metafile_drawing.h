@@ -8,6 +8,7 @@
 
 #include <cairo.h>
 
+#include <set>
 #include <vector>
 
 #include "worker/metafile/metafile_objects.h"
@@ -50,6 +51,7 @@ class MetafileDrawing {
   MetafileState state_;
   std::vector<MetafileState> saved_;
   std::vector<MetafileObject> objects_;
+  std::set<size_t> free_;  ///< places of objects that were thrown away
 };
 
 }  // namespace norvex::engine

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "protocol/limits.h"
 #include "worker/metafile/brush_tile.h"
 #include "worker/metafile/device_bitmap.h"
 #include "worker/metafile/metafile_drawing.h"
@@ -11,8 +12,6 @@
 namespace norvex::engine {
 namespace {
 
-constexpr size_t kMostObjects = 65536;  // an index is a word
-constexpr size_t kMostSaved = 1024;
 constexpr int kNoBrush = 1, kHatchedBrush = 2;
 constexpr Argb32 kUnknownPattern = 0xFF808080;
 
@@ -55,7 +54,7 @@ bool MetafileDrawing::setState(quint16 function, Words& words) {
       state_.fillsByWinding = words.unsignedWord() == 2;
       return true;
     case SaveDC:
-      if (saved_.size() < kMostSaved) saved_.push_back(state_), cairo_save(context_);
+      if (saved_.size() < limits::maximumMetafileStates) saved_.push_back(state_), cairo_save(context_);
       return true;
     case RestoreDC:
       restore(words.signedWord());
@@ -132,8 +131,10 @@ bool MetafileDrawing::makeObject(quint16 function, Words& words) {
       add(MetafileOther{});
       return true;
     case DeleteObject:
-      if (const size_t index = words.unsignedWord(); index < objects_.size())
+      if (const size_t index = words.unsignedWord(); index < objects_.size()) {
         objects_[index] = std::monostate();
+        free_.insert(index);
+      }
       return true;
     default:
       return false;
@@ -141,12 +142,9 @@ bool MetafileDrawing::makeObject(quint16 function, Words& words) {
 }
 
 void MetafileDrawing::add(MetafileObject object) {
-  const auto free = std::find_if(objects_.begin(), objects_.end(), [](const MetafileObject& place) {
-    return std::holds_alternative<std::monostate>(place);
-  });
-  if (free != objects_.end())
-    *free = std::move(object);
-  else if (objects_.size() < kMostObjects)
+  if (!free_.empty())
+    objects_[free_.extract(free_.begin()).value()] = std::move(object);
+  else if (objects_.size() < limits::maximumMetafileObjects)
     objects_.push_back(std::move(object));
 }
 

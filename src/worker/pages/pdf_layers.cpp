@@ -14,15 +14,12 @@ namespace {
 using Groups = std::vector<QPDFObjectHandle>;
 using Names = std::set<QPDFObjGen>;
 
-/// Arrays that name groups by the million.
-constexpr int kMostGroups = 100'000;
-
 /// The groups of an array, each once; nothing for anything else.
 Groups groupsOf(QPDFObjectHandle array) {
   Groups groups;
   if (!array.isArray()) return groups;
   Names seen;
-  for (int i = 0; i < std::min(array.getArrayNItems(), kMostGroups); ++i) {
+  for (int i = 0; i < std::min(array.getArrayNItems(), limits::maximumLayerEntries); ++i) {
     QPDFObjectHandle group = array.getArrayItem(i);
     if (group.isIndirect() && group.isDictionary() && seen.insert(group.getObjGen()).second)
       groups.push_back(group);
@@ -108,7 +105,7 @@ class Configuration {
 
   void collect(QPDFObjectHandle order, int depth, Names& seen) {
     if (!order.isArray() || depth > limits::maximumResourceDepth) return;
-    for (int i = 0; i < std::min(order.getArrayNItems(), kMostGroups); ++i) {
+    for (int i = 0; i < std::min(order.getArrayNItems(), limits::maximumLayerEntries); ++i) {
       if (offered_.size() >= size_t(limits::maximumLayers)) return;
       QPDFObjectHandle item = order.getArrayItem(i);
       if (item.isArray()) {

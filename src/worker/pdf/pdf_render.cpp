@@ -62,12 +62,20 @@ Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
   cairo_new_path(context);
   cairo_translate(context, 0, shownSize.height());
   cairo_scale(context, shownSize.width() / width, -shownSize.height() / height);
-  (void)takeGlyphsTooDeep();
+  (void)takeGlyphExcess();
   poppler_page_render(page, context);
-  if (takeGlyphsTooDeep())
-    return Error{
-        ErrorKind::Limit,
-        QStringLiteral("the glyphs of the document's fonts nest more than %1 deep").arg(maximumGlyphLevels)};
+  switch (takeGlyphExcess()) {
+    case GlyphExcess::Levels:
+      return Error{ErrorKind::Limit,
+                   QStringLiteral("the glyphs of the document's fonts nest more than %1 deep")
+                       .arg(limits::maximumGlyphLevels)};
+    case GlyphExcess::Number:
+      return Error{ErrorKind::Limit,
+                   QStringLiteral("the glyphs of the document's fonts show more than %1 others")
+                       .arg(limits::maximumInnerGlyphs)};
+    case GlyphExcess::None:
+      break;
+  }
   return {};
 }
 

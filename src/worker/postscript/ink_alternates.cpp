@@ -9,21 +9,19 @@
 #include <memory>
 #include <string>
 
+#include "protocol/limits.h"
 #include "worker/eps_output/postscript_device.h"
 #include "worker/postscript/psd_plates.h"
 
 namespace norvex::engine {
 namespace {
 
-// Of a document that is all colour spaces: more are not looked at.
-constexpr int kMostObjects = 50'000, kDeepest = 8, kMostSpaces = 2000;
-
 class Search {
  public:
   explicit Search(XRef& objects) : objects_(objects) {}
 
   void run() {
-    const int count = std::min(objects_.getNumObjects(), kMostObjects);
+    const int count = std::min(objects_.getNumObjects(), limits::maximumInkObjects);
     for (int i = 1; i < count; ++i) look(objects_.fetch(i, objects_.getEntry(i)->gen), 0);
   }
   /// Those of spaces of one ink count before the others.
@@ -35,7 +33,7 @@ class Search {
 
  private:
   void look(const Object& object, int depth) {
-    if (depth > kDeepest) return;
+    if (depth > limits::maximumInkDepth) return;
     if (object.isArray()) {
       if (object.arrayGetLength() >= 4) lookAtSpace(object);
       for (int i = 0; i < object.arrayGetLength(); ++i) look(object.arrayGetNF(i), depth + 1);
@@ -47,7 +45,8 @@ class Search {
 
   void lookAtSpace(const Object& array) {
     const Object kind = array.arrayGet(0);
-    if ((!kind.isName("Separation") && !kind.isName("DeviceN")) || spaces_++ > kMostSpaces) return;
+    if ((!kind.isName("Separation") && !kind.isName("DeviceN")) || spaces_++ >= limits::maximumInkSpaces)
+      return;
     Object copy = array.copy();
     const std::unique_ptr<GfxColorSpace> space(GfxColorSpace::parse(nullptr, &copy, nullptr, &state_));
     if (!space) return;

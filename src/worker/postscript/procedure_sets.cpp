@@ -14,8 +14,6 @@ namespace {
 
 constexpr QByteArrayView kPrefix = "Adobe_";
 constexpr QByteArrayView kDrawing = "Adobe_Illustrator";
-constexpr qsizetype kMaximumSets = 64;  // real files name seven
-constexpr qsizetype kMaximumName = 80;
 
 bool isLineEnd(char c) {
   return c == '\r' || c == '\n';
@@ -71,13 +69,14 @@ QList<QByteArray> missingProcedureSets(QByteArrayView program) {
   bool draws = false;
   for (qsizetype at = program.indexOf(kPrefix); at >= 0; at = program.indexOf(kPrefix, at)) {
     qsizetype end = at + kPrefix.size();
-    while (end < program.size() && end - at < kMaximumName && isNamePart(program[end])) ++end;
+    while (end < program.size() && end - at < limits::maximumProcedureSetName && isNamePart(program[end]))
+      ++end;
     const QByteArrayView name = program.sliced(at, end - at);
     const Mention mention = mentionAt(program, at);
     at = end;
     const bool drawing = name.startsWith(kDrawing);
     if (drawing && mention == Mention::Brought) return {};
-    if (mention != Mention::Called || called.size() == kMaximumSets) continue;
+    if (mention != Mention::Called || called.size() == limits::maximumProcedureSets) continue;
     draws = draws || drawing;
     if (std::find(called.begin(), called.end(), name) == called.end()) called << name.toByteArray();
   }

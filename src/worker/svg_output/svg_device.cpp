@@ -44,8 +44,9 @@ QByteArray dashText(GfxState* state, double scale) {
 
 }  // namespace
 
-SvgDevice::SvgDevice(SvgSheet& sheet, const PictureLimits& limits, const CancelToken& cancel, bool keepText)
-    : sheet_(sheet), cancel_(cancel), images_(sheet, limits) {
+SvgDevice::SvgDevice(SvgSheet& sheet, const PictureLimits& limits, const CancelToken& cancel, bool keepText,
+                     qsizetype mostGlyphs)
+    : sheet_(sheet), cancel_(cancel), images_(sheet, limits), mostGlyphs_(mostGlyphs) {
   if (keepText) lines_.emplace(sheet);
 }
 

@@ -18,6 +18,7 @@
 
 #include "base/affine_transform.h"
 #include "base/cancel_token.h"
+#include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
 #include "worker/svg_output/svg_glyphs.h"
 #include "worker/svg_output/svg_images.h"
@@ -37,11 +38,14 @@ struct SvgRasterised {
 /// One page. The sheet outlives it. Glyphs whose font cannot be read are left out, as on the screen.
 class SvgDevice final : public OutputDev {
  public:
-  /// `keepText`: text is written as text where that can be.
-  SvgDevice(SvgSheet& sheet, const PictureLimits& limits, const CancelToken& cancel, bool keepText = false);
+  /// `keepText`: text is written as text where that can be. `mostGlyphs`: outlines that are kept.
+  SvgDevice(SvgSheet& sheet, const PictureLimits& limits, const CancelToken& cancel, bool keepText = false,
+            qsizetype mostGlyphs = limits::maximumSvgGlyphs);
 
   [[nodiscard]] const SvgRasterised& rasterised() const { return rasterised_; }
   [[nodiscard]] bool leftOutImages() const { return images_.leftOut(); }
+  /// Letters of more fonts, or of more shapes, than are kept.
+  [[nodiscard]] bool leftOutLetters() const { return leftOutGlyphs_ || fonts_.leftOut(); }
   /// Null: text is drawn.
   [[nodiscard]] const SvgTextLines* textLines() const { return lines_ ? &*lines_ : nullptr; }
   /// Poppler asks now and then: cancelled, or there is no room for more.
@@ -184,6 +188,8 @@ class SvgDevice final : public OutputDev {
   std::vector<Group> groups_;  ///< ended, and not painted yet
   std::vector<Group> begun_;
   std::optional<TextRun> run_;
+  qsizetype mostGlyphs_;
+  bool leftOutGlyphs_ = false;
   QHash<quint64, Glyph> glyphs_;  ///< by font and number
   QHash<const SvgFont*, quint32> fontNumbers_;
   std::optional<SvgPathWriter> textClip_;

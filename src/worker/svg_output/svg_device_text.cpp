@@ -45,7 +45,10 @@ const SvgDevice::Glyph* SvgDevice::glyph(SvgFont& font, unsigned number) {
   if (at == fontNumbers_.constEnd()) at = fontNumbers_.insert(&font, quint32(fontNumbers_.size()));
   const quint64 key = quint64(*at) << 32 | number;
   if (const auto known = glyphs_.constFind(key); known != glyphs_.constEnd()) return &*known;
-  if (glyphs_.size() >= limits::maximumSvgGlyphs) return nullptr;
+  if (glyphs_.size() >= mostGlyphs_) {
+    leftOutGlyphs_ = true;
+    return nullptr;
+  }
   SvgPathWriter writer(0);
   Glyph made;
   if (font.outline(number, AffineTransform::fromScale(1, -1), writer)) {
@@ -195,7 +198,7 @@ void SvgDevice::endType3Char(GfxState*) {
   states_.resize(std::min(states_.size(), use.states));
   Type3Glyph made{{}, layer.bounds, use.origin};
   if (layer.elements > 0) made.name = sheet_.define("<g>\n" + layer.body + "</g>");
-  if (type3_.size() < limits::maximumSvgGlyphs) type3_.insert(use.key, made);
+  if (type3_.size() < mostGlyphs_) type3_.insert(use.key, made);
   useType3(made, use.origin, use.place);
 }
 

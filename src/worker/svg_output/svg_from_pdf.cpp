@@ -32,6 +32,8 @@ BytesReply reportOf(const SvgDevice& device, QSizeF page) {
   report.rasterisedDpi = rasterised.dpi;
   if (device.leftOutImages())
     report.warnings << QStringLiteral("an image with more pixels than are granted was left out");
+  if (device.leftOutLetters())
+    report.warnings << QStringLiteral("letters of more fonts or shapes than are granted were left out");
   if (device.textLines()) report.warnings << device.textLines()->remarks();
   return report;
 }

@@ -256,7 +256,10 @@ SvgFont* SvgFonts::font(GfxFont& font, XRef* objects) {
   if (!library_) return nullptr;
   const std::pair<int, int> key(font.getID()->num, font.getID()->gen);
   if (const auto at = fonts_.find(key); at != fonts_.end()) return at->second.get();
-  if (qsizetype(fonts_.size()) >= limits::maximumSvgFonts) return nullptr;
+  if (qsizetype(fonts_.size()) >= limits::maximumSvgFonts) {
+    leftOut_ = true;
+    return nullptr;
+  }
   return fonts_.emplace(key, std::make_unique<SvgFont>(library_, font, objects)).first->second.get();
 }
 

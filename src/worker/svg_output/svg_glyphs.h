@@ -74,12 +74,14 @@ class SvgFonts {
   SvgFonts(const SvgFonts&) = delete;
   SvgFonts& operator=(const SvgFonts&) = delete;
 
-  /// Null: there are more fonts than are opened.
+  /// Null: there are more fonts than are opened; leftOut() then.
   [[nodiscard]] SvgFont* font(GfxFont& font, XRef* objects);
+  [[nodiscard]] bool leftOut() const { return leftOut_; }
 
  private:
   FT_LibraryRec_* library_ = nullptr;
   std::map<std::pair<int, int>, std::unique_ptr<SvgFont>> fonts_;  ///< by the object's number
+  bool leftOut_ = false;
 };
 
 }  // namespace norvex::engine

@@ -18,7 +18,6 @@ namespace norvex::engine {
 namespace {
 
 constexpr quint32 kOpaque = 0xff000000u;
-constexpr double kMostSeenPixels = 16e6;  // of an image and its mask as one
 
 QByteArray number(int value) {
   return QByteArray::number(value);
@@ -220,7 +219,7 @@ std::optional<DefinedImage> SvgImages::maskedImage(const ImageSource& source, co
   const bool isSquares = pixels && source.enlarge > 1 &&
                          seenSide(source.width, mask.width, source.enlarge) *
                                  seenSide(source.height, mask.height, source.enlarge) <=
-                             kMostSeenPixels;
+                             limits::maximumSvgMaskedPixels;
   if (isSquares) return defineLarge(key, seenThrough(*pixels, *shades, source.enlarge), 1);
   QByteArray grey = elementOf(*shades, {});
   if (grey.isEmpty()) return std::nullopt;

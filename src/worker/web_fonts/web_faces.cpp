@@ -1,13 +1,11 @@
 #include "worker/web_fonts/web_faces.h"
 
+#include "protocol/limits.h"
 #include "worker/web_fonts/type2_outline.h"
 
 namespace norvex::engine {
 namespace {
 
-// A font of a document has two or three outlines for a character: small capitals, old numerals, swashes.
-constexpr size_t kMostFaces = 8;
-constexpr size_t kMostCharacters = 8000;  // however they lie, a font takes as many
 constexpr char32_t kPrivate = 0xE000, kPrivateEnd = 0xF8FF, kMorePrivate = 0xF0000, kMorePrivateEnd = 0xFFFFD;
 constexpr size_t kBlank = 0;
 
@@ -33,11 +31,11 @@ bool WebFaces::isBlank(unsigned glyph) const {
 }
 
 std::optional<FaceCharacter> WebFaces::choose(char32_t character, size_t outline) {
-  for (size_t face = 0; face < kMostFaces; ++face) {
+  for (size_t face = 0; face < limits::maximumWebFaces; ++face) {
     if (face == faces_.size()) faces_.emplace_back();
     std::map<char32_t, size_t>& shown = faces_[face];
     const auto at = shown.find(character);
-    if (at == shown.end() && shown.size() >= kMostCharacters) continue;
+    if (at == shown.end() && shown.size() >= limits::maximumWebCharacters) continue;
     if (at == shown.end()) shown.emplace(character, outline);
     if (at == shown.end() || at->second == outline) return FaceCharacter{face, character};
   }

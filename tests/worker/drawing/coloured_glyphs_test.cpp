@@ -1,8 +1,10 @@
 #include "worker/drawing/coloured_glyphs.h"
 
 #include <memory>
+#include <vector>
 
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/pixel_edges.h"
 
@@ -82,6 +84,24 @@ void shownWithin(int count, bool asked) {
   shown(face, 0, asked);
 }
 
+/// A glyph that shows so many others.
+std::vector<cairo_glyph_t> innerGlyphs;
+cairo_status_t drawOthers(cairo_scaled_font_t*, unsigned long, cairo_t* context,
+                          cairo_text_extents_t* extents) {
+  extents->x_advance = 1;
+  const Face others = madeFace();
+  cairo_set_font_face(context, others.get());
+  showGlyphs(context, innerGlyphs.data(), int(innerGlyphs.size()));
+  return CAIRO_STATUS_SUCCESS;
+}
+
+void shownWithOthers(int count, bool asked) {
+  innerGlyphs.assign(size_t(count), {kOpen, 0, 0});
+  const Face face(cairo_user_font_face_create());
+  cairo_user_font_face_set_render_glyph_func(face.get(), drawOthers);
+  shown(face, 0, asked);
+}
+
 }  // namespace
 
 class ColouredGlyphsTest : public QObject {
@@ -133,16 +153,33 @@ class ColouredGlyphsTest : public QObject {
   }
 
   void glyphsWithinGlyphsAreShownToALevel() {
-    QVERIFY(!takeGlyphsTooDeep());
+    QVERIFY(takeGlyphExcess() == GlyphExcess::None);
     for (const bool asked : {true, false}) {
-      shownWithin(maximumGlyphLevels, asked);
-      QVERIFY(!takeGlyphsTooDeep());
-      shownWithin(maximumGlyphLevels + 1, asked);
-      QVERIFY(takeGlyphsTooDeep());
-      QVERIFY(!takeGlyphsTooDeep());
+      shownWithin(limits::maximumGlyphLevels, asked);
+      QVERIFY(takeGlyphExcess() == GlyphExcess::None);
+      shownWithin(limits::maximumGlyphLevels + 1, asked);
+      QVERIFY(takeGlyphExcess() == GlyphExcess::Levels);
+      QVERIFY(takeGlyphExcess() == GlyphExcess::None);
       shownWithin(1, asked);
-      QVERIFY(!takeGlyphsTooDeep());
+      QVERIFY(takeGlyphExcess() == GlyphExcess::None);
     }
+  }
+
+  void glyphsWithinGlyphsAreShownUpToANumber() {
+    for (const bool asked : {true, false}) {
+      shownWithOthers(100, asked);
+      QVERIFY(takeGlyphExcess() == GlyphExcess::None);
+      shownWithOthers(limits::maximumInnerGlyphs + 1, asked);
+      QVERIFY(takeGlyphExcess() == GlyphExcess::Number);
+      shownWithOthers(100, asked);
+      QVERIFY(takeGlyphExcess() == GlyphExcess::None);
+    }
+  }
+
+  /// However they are spread over a page.
+  void glyphsWithinGlyphsAreCountedForAWholeDrawing() {
+    for (int i = 0; i < 4; ++i) shownWithOthers(limits::maximumInnerGlyphs / 2, true);
+    QVERIFY(takeGlyphExcess() == GlyphExcess::Number);
   }
 
   void aMaskIsNotDrawnAgain() {

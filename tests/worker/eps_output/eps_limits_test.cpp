@@ -66,6 +66,35 @@ class EpsLimitsTest : public QObject {
     QVERIFY2(regionIn(side) >= 4 * 8, qPrintable(QString::number(regionIn(side))));
   }
 
+  /// Regions far apart are drawn one by one, and come out as those that are drawn as one image.
+  void regionsFarApartAreDrawnOneByOne() {
+    const auto page = [](int side) {
+      const QByteArray far = QByteArray::number(side - 30), number = QByteArray::number(side);
+      return kit::onePage(
+          "0 1 0 rg 0 0 25 40 re f /G gs 1 0 0 rg 10 10 20 20 re f 0 0 1 rg " + far + ' ' + far +
+              " 20 20 re f",
+          "/MediaBox [0 0 " + number + ' ' + number + "] /Resources << /ExtGState << /G << /ca .5 >> >> >>");
+    };
+    constexpr int kNear = 200, kFar = 1200;
+    QVERIFY((kFar - 50.) * (kFar - 50) * (300. / 72) * (300. / 72) > limits::maximumPixelsTogether);
+    for (const int side : {kNear, kFar}) {
+      kit::Converted converted(page(side));
+      QVERIFY2(!converted.eps().isEmpty(), qPrintable(converted.error().message));
+      QCOMPARE(converted.report().regionsRasterised, 2);
+      const QImage image = converted.byGhostscript();
+      QVERIFY(!image.isNull());
+      const auto isNear = [&](QPoint place, QRgb colour) {  // in points
+        const QRgb seen = image.pixel(place.x() * 2, image.height() - 1 - place.y() * 2);
+        return std::abs(qRed(seen) - qRed(colour)) < 4 && std::abs(qGreen(seen) - qGreen(colour)) < 4 &&
+               std::abs(qBlue(seen) - qBlue(colour)) < 4;
+      };
+      QVERIFY(isNear({15, 20}, qRgb(128, 128, 0)));    // red on green
+      QVERIFY(isNear({28, 20}, qRgb(255, 128, 128)));  // red on white
+      QVERIFY(isNear({side - 20, side - 20}, qRgb(128, 128, 255)));
+      QVERIFY(isNear({side / 2, side / 2}, qRgb(255, 255, 255)));
+    }
+  }
+
   void fontsOfFilesWithObjectsWithoutEndStayWhole() {
     QFile file("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf");
     if (!file.open(QIODevice::ReadOnly)) QSKIP("no DejaVu Sans");

@@ -122,26 +122,6 @@ class EpsSurprisesTest : public QObject {
     QVERIFY(!converted.byGhostscript().isNull());
   }
 
-  void glyphsThatShowThemselvesAreLeftOutAndTold() {
-    const auto font = [](int glyph, int inner) {
-      return "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 9 9] /FontMatrix [.1 0 0 .1 0 0] /FirstChar 65 "
-             "/LastChar "
-             "65 /Widths [10] /Encoding << /Differences [65 /A] >> /CharProcs << /A " +
-             QByteArray::number(glyph) + " 0 R >> /Resources << /Font << /F " + QByteArray::number(inner) +
-             " 0 R >> >> >>";
-    };
-    const QByteArray glyph = kit::stream("10 0 d0 1 0 0 rg 0 0 9 9 re f BT /F 4 Tf (A) Tj ET");
-    const QStringList told{"glyphs that show themselves were left out"};
-    Converted alone(pageWithFont(font(6, 5), {glyph}));
-    QCOMPARE(alone.report().warnings, told);
-    QVERIFY(!alone.byGhostscript().isNull());
-    Converted inTurns(pageWithFont(font(6, 7), {glyph, font(8, 5), glyph}));
-    QCOMPARE(inTurns.report().warnings, told);
-    QVERIFY(!inTurns.byGhostscript().isNull());
-    Converted plain(pageWithFont(font(6, 7), {glyph, font(8, 9), glyph, "null"}));
-    QCOMPARE(plain.report().warnings, QStringList());
-  }
-
   void namesOfGlyphsAndFontsBringNoPrograms() {
     const QByteArray hostile = "A#20HOSTILE#20/B";
     Converted glyph(type1Page({}, hostile));

@@ -2,6 +2,7 @@
 #include "worker/metafile/metafile_preview.h"
 
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 #include "worker/kit/made_metafile.h"
 #include "worker/metafile/device_bitmap.h"
 #include "worker/metafile/metafile_records.h"
@@ -282,6 +283,33 @@ class MetafilePreviewTest : public QObject {
     QVERIFY(!image.ok());
     QCOMPARE(image.error().kind, ErrorKind::NotParsable);
     QVERIFY(image.error().message.contains(QStringLiteral("metafile")));
+  }
+
+  /// What is saved beyond the limit is not kept: the state before it comes back.
+  void statesAreSavedUpToANumber() {
+    const auto colourAfter = [](size_t saved) {
+      const QByteArray green = metafileRecord(0x2FC, {0, 0xFF00, 0, 0}) + selected(3);
+      const auto image = decodeMetafile(
+          madeMetafile(kFill + metafileRecord(0x1E, {}).repeated(qsizetype(saved) - 1) + green +
+                       metafileRecord(0x1E, {}) + selected(0) + metafileRecord(0x127, {0xFFFF}) +
+                       metafileRecord(0x41B, {30, 40, 0, 0})),
+          {});
+      return image ? pixel(*image, 20, 15) : image.error().message.toUtf8();
+    };
+    QCOMPARE(colourAfter(limits::maximumMetafileStates), kGreen);
+    QCOMPARE(colourAfter(limits::maximumMetafileStates + 1), kRed);
+  }
+
+  /// One that is thrown away leaves its place to the next one.
+  void objectsAreKeptUpToANumber() {
+    const QByteArray pen = metafileRecord(0x2FA, {5, 0, 0, 0, 0}), erased = metafileRecord(0x1F0, {7});
+    const QByteArray green = metafileRecord(0x2FC, {0, 0xFF00, 0, 0});
+    const auto image =
+        decodeMetafile(madeMetafile(kFill + pen.repeated(qsizetype(limits::maximumMetafileObjects)) + erased +
+                                    green + selected(7) + metafileRecord(0x41B, {30, 40, 0, 0})),
+                       {});
+    QVERIFY2(image.ok(), image ? "" : qPrintable(image.error().message));
+    QCOMPARE(pixel(*image, 20, 15), kGreen);
   }
 
   void recordsThatAreCutShortAreHarmless() {

@@ -263,6 +263,18 @@ class ChosenPdfTest : public QObject {
     QCOMPARE(opened->engine->facts()->layers.size(), limits::maximumLayers);
   }
 
+  /// The same one again and again, and another behind them.
+  void arraysOfLayersAreReadToAnEnd() {
+    const auto shown = [](int before) {
+      QByteArray pdf = layered("");
+      pdf.replace("/OCGs [5 0 R 6 0 R 7 0 R]", "/OCGs [" + QByteArray("5 0 R ").repeated(before) + "6 0 R]");
+      const auto opened = open(pdf);
+      return opened->engine ? shownLayers(*opened->engine) : opened->error->message;
+    };
+    QCOMPARE(shown(limits::maximumLayerEntries - 1), QString("R+G+"));
+    QCOMPARE(shown(limits::maximumLayerEntries), QString("R+"));
+  }
+
   void ordersThatNeverEndAreReadOnce() {
     QByteArray pdf = layered("/Order 8 0 R");
     pdf.replace("7 0 obj\n<< /Type /OCG /Name (Blue) >>\nendobj\n",

@@ -6,6 +6,7 @@
 
 #include "kit/program.h"
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 #include "worker/kit/drawn_eps.h"
 #include "worker/kit/illustrator_artwork.h"
 
@@ -93,6 +94,16 @@ class ProcedureSetsTest : public QObject {
     QCOMPARE(picture.error.isEmpty() && picture.stoppedBy.isEmpty(), drawn);
     if (drawn) QCOMPARE(QColor(picture.image.pixel(35, 45)).blue(), 0);
     QCOMPARE(procedureSetsFor(program).isEmpty(), !drawn);
+
+  void setsAndTheirNamesHaveAnEnd() {
+    QByteArray program("%!\nAdobe_Illustrator_AI5 /initialize get exec\n");
+    for (int i = 0; i < limits::maximumProcedureSets + 10; ++i)
+      program += "Adobe_" + QByteArray::number(i) + " /initialize get exec\n";
+    QCOMPARE(missingProcedureSets(program).size(), limits::maximumProcedureSets);
+    const QByteArray longName = "Adobe_Illustrator" + QByteArray(200, 'x');
+    for (const QByteArray& name : missingProcedureSets("%!\n" + longName + " /initialize get exec\n"))
+      QVERIFY(name.size() <= limits::maximumProcedureSetName);
+
   }
 
   void aFileThatBringsItsOwnIsDrawnByThem() {

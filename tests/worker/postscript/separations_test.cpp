@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 #include "protocol/page_inks.h"
 #include "worker/kit/illustrator_artwork.h"
 #include "worker/kit/made_pdf.h"
@@ -300,6 +301,28 @@ class SeparationsTest : public QObject {
     const auto alternates = inkAlternates(document);
     QVERIFY(alternates.value("Gold") == (ProcessInks{0, 51, 255, 102}));
     QVERIFY(alternates.value("Orange") == (ProcessInks{0, 0, 0, 255}));
+  }
+
+  void inksAreLookedForInSoManyObjectsAndSpaces() {
+    const auto space = [](const QByteArray& name) {
+      return "[/Separation /" + name +
+             " /DeviceGray << /FunctionType 2 /Domain [0 1] /C0 [1] /C1 [0] /N 1 >>]";
+    };
+    const auto found = [](const QList<QByteArray>& objects) {
+      return inkAlternates(kit::onePage("", "/MediaBox [0 0 9 9]", objects)).size();
+    };
+    // Objects 0 to 4 are there before.
+    const QList<QByteArray> most(limits::maximumInkObjects - 6, "0");
+    QCOMPARE(found(most + QList<QByteArray>{space("Last")}), 1);
+    QCOMPARE(found(most + QList<QByteArray>{"0", space("Beyond")}), 0);
+    const auto nested = [&](int levels) {
+      return QByteArray("[").repeated(levels) + space("Deep") + QByteArray("]").repeated(levels);
+    };
+    QCOMPARE(found({nested(limits::maximumInkDepth)}), 1);
+    QCOMPARE(found({nested(limits::maximumInkDepth + 1)}), 0);
+    QByteArray spaces;
+    for (int i = 0; i <= limits::maximumInkSpaces; ++i) spaces += space("S" + QByteArray::number(i)) + ' ';
+    QCOMPARE(found({'[' + spaces + ']'}), limits::maximumInkSpaces);
   }
 
   void aDamagedDocumentTellsOfNoInks() {

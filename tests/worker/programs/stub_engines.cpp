@@ -148,6 +148,7 @@ Result<std::unique_ptr<engine::DocumentEngine>> open(PictureKind, const QByteArr
 
 Result<NSBitmapImageRep> decodePreview(const QByteArray& tiff, const PictureLimits&) {
   if (tiff == "crash") ::raise(SIGKILL);
+  if (tiff == "hang") hang();
   if (tiff.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("not a TIFF file")};
   NSBitmapImageRep bitmap;
   bitmap.pixelsWide = int(tiff.size());

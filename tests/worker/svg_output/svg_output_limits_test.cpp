@@ -1,10 +1,15 @@
 // Pages that reach a limit of the SVG output.
+#include <PDFDoc.h>
+#include <Stream.h>
+
 #include <QRegularExpression>
 
 #include "kit/test_main.h"
 #include "protocol/limits.h"
+#include "worker/eps_output/postscript_device.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/kit/svg_output_kit.h"
+#include "worker/svg_output/svg_device.h"
 #include "worker/svg_output/svg_sheet.h"
 
 using namespace norvex;
@@ -45,6 +50,19 @@ MadeSvg withFonts(int count) {
     fonts << "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>";
   }
   return MadeSvg(page(text + "ET", "/Font << " + names + ">>", fonts));
+}
+
+/// An image of four pixels, large on its page, with a mask of so many pixels a side.
+MadeSvg withMask(int side) {
+  const QByteArray size = QByteArray::number(side);
+  const QByteArray shades = qCompress(QByteArray(qsizetype(side) * side, '\x7f')).mid(4);
+  return MadeSvg(page("100 0 0 100 0 0 cm /I Do", "/XObject << /I 5 0 R >>",
+                      {stream(QByteArray(12, 'a'),
+                              "/Type /XObject /Subtype /Image /Width 2 /Height 2 /BitsPerComponent 8 "
+                              "/ColorSpace /DeviceRGB /SMask 6 0 R"),
+                       stream(shades, "/Type /XObject /Subtype /Image /Width " + size + " /Height " + size +
+                                          " /BitsPerComponent 8 /ColorSpace /DeviceGray /Filter "
+                                          "/FlateDecode")}));
 }
 
 }  // namespace
@@ -107,6 +125,34 @@ class SvgOutputLimitsTest : public QObject {
     QVERIFY(!within.error() && !beyond.error());
     QCOMPARE(within.count("<use"), 3);
     QCOMPARE(beyond.count("<use"), int(limits::maximumSvgFonts));
+    const QStringList told{"letters of more fonts or shapes than are granted were left out"};
+    QCOMPARE(within.report().warnings, QStringList());
+    QCOMPARE(beyond.report().warnings, told);
+  }
+
+  void outlinesAreKeptUpToANumber() {
+    const QByteArray pdf = page("BT /F 9 Tf 10 50 Td (ABCDABCD) Tj ET",
+                                "/Font << /F << /Type /Font /Subtype /Type1 /BaseFont /Helvetica >> >>", {});
+    const auto draw = [&](qsizetype mostGlyphs) {
+      keepPopplerSettings();
+      PDFDoc document(new MemStream(pdf.constData(), 0, pdf.size(), Object(objNull)));
+      SvgSheet made = sheet();
+      SvgDevice device(made, {}, {}, false, mostGlyphs);
+      document.displayPage(&device, 1, 72, 72, 0, false, true, false);
+      const auto defined = int(made.document({}).count("<path"));
+      return std::pair(defined, device.leftOutLetters());
+    };
+    QCOMPARE(draw(limits::maximumSvgGlyphs), std::pair(4, false));
+    QCOMPARE(draw(3), std::pair(3, true));
+  }
+
+  void anImageAndItsMaskBecomeOneUpToANumberOfPixels() {
+    const int most = int(std::sqrt(limits::maximumSvgMaskedPixels));
+    const MadeSvg few = withMask(most / 100), many = withMask(most + 2);
+    QVERIFY(!few.error() && !many.error());
+    QCOMPARE(few.count("<mask"), 0);
+    QCOMPARE(few.count("<image"), 1);
+    QCOMPARE(many.count("<mask"), 1);
   }
 };
 

@@ -37,7 +37,7 @@ Result<void> ScratchWatch::look() {
     bytes += status.st_blocks * kBlock;
     ++files;
   }
-  if (bytes <= limits::maximumScratchBytes && files <= limits::maximumScratchFiles) return {};
+  if (bytes <= limits::maximumScratchBytes - kBetweenLooks && files <= limits::maximumScratchFiles) return {};
   return tooManyScratchFiles();
 }
 

@@ -52,6 +52,7 @@ void SvgDevice::beginTransparencyGroup(GfxState*, const double*, GfxColorSpace* 
   begun_.emplace_back();
   begun_.back().isolated = isolated;
   if (forSoftMask && space) begun_.back().space.reset(space->copy());
+  if (!forSoftMask) return sheet_.beginGroup();
   const State& around = states_[states_.size() < 2 ? 0 : states_.size() - 2];
   sheet_.beginLayer(around.clips.size());
 }
@@ -69,7 +70,9 @@ void SvgDevice::paintTransparencyGroup(GfxState* state, const double*) {
   if (groups_.empty()) return;
   Group group = std::move(groups_.back());
   groups_.pop_back();
-  sheet_.addLayer(group.layer, opacityText("opacity", state->getFillOpacity()), group.isolated, place(state));
+  SvgPlace where = place(state);
+  where.clips.clear();  // its elements have them
+  sheet_.addLayer(group.layer, opacityText("opacity", state->getFillOpacity()), group.isolated, where);
 }
 
 void SvgDevice::setSoftMask(GfxState* state, const double*, bool alpha, Function* transfer,

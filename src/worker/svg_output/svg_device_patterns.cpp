@@ -18,10 +18,6 @@ namespace {
 constexpr int kTileDecimals = 6;  // errors add up from tile to tile
 constexpr double kSameLength = 1e-3;
 
-QByteArray reference(const QByteArray& name) {
-  return "url(#" + name + ')';
-}
-
 QByteArray rectangleText(const QRectF& rect) {
   return attribute("x", svgNumber(rect.x(), kTileDecimals)) +
          attribute("y", svgNumber(rect.y(), kTileDecimals)) +

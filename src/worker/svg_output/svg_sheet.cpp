@@ -13,23 +13,6 @@ namespace norvex::engine {
 namespace {
 
 constexpr qsizetype kLongestJoined = 4096;  // lines that are drawn as one: renderers sort them
-constexpr double kSlack = 1e-3;             // points by which a clip's edge may touch what it bounds
-
-QByteArray withAttributes(const QByteArray& element, const QByteArray& attributes) {
-  if (attributes.isEmpty()) return element;
-  const auto endsName = [](char c) { return c == ' ' || c == '/' || c == '>'; };
-  const auto end = std::find_if(element.begin(), element.end(), endsName);
-  return QByteArray(element).insert(end - element.begin(), attributes);
-}
-
-QByteArray reference(const QByteArray& name) {
-  return "url(#" + name + ')';
-}
-
-bool contains(const QRectF& outer, const QRectF& inner) {
-  return outer.left() <= inner.left() + kSlack && outer.right() >= inner.right() - kSlack &&
-         outer.top() <= inner.top() + kSlack && outer.bottom() >= inner.bottom() - kSlack;
-}
 
 // Lines have no area, and count all the same.
 bool touches(const QRectF& a, const QRectF& b) {
@@ -39,14 +22,6 @@ bool touches(const QRectF& a, const QRectF& b) {
 QRectF united(const QRectF& a, const QRectF& b) {
   return QRectF(QPointF(std::min(a.left(), b.left()), std::min(a.top(), b.top())),
                 QPointF(std::max(a.right(), b.right()), std::max(a.bottom(), b.bottom())));
-}
-
-// Black is what everything is filled with that says nothing.
-QByteArray pathElement(const QByteArray& data, const QByteArray& fill, const QByteArray& stroke) {
-  constexpr char kBlack[] = " fill=\"#000\"";
-  QByteArray paint = fill.isEmpty() ? QByteArray(" fill=\"none\"") : fill;
-  if (paint.startsWith(kBlack)) paint.remove(0, qsizetype(sizeof kBlack) - 1);
-  return "<path" + paint + stroke + attribute("d", data) + "/>";
 }
 
 }  // namespace
@@ -139,13 +114,23 @@ void SvgSheet::add(const QByteArray& element, bool attributable, const QRectF& b
 
 void SvgSheet::put(const QByteArray& element, bool attributable, const QRectF& bounds,
                    const SvgPlace& place) {
-  openClips(place.clips, bounds);
-  QByteArray attributes;
-  if (!place.blend.isEmpty()) attributes += attribute("style", "mix-blend-mode:" + place.blend);
-  if (!place.mask.isEmpty()) attributes += attribute("mask", reference(place.mask));
-  const bool wrap = !place.mask.isEmpty() && !attributable;
-  const QByteArray whole =
-      wrap ? "<g" + attributes + '>' + element + "</g>" : withAttributes(element, attributes);
+  QByteArray whole = element;
+  bool takesAttributes = attributable;
+  if (!place.mask.isEmpty()) {
+    const QByteArray mask = attribute("mask", reference(place.mask));
+    whole = attributable ? withAttributes(element, mask) : "<g" + mask + '>' + element + "</g>";
+    takesAttributes = true;
+  }
+  if (place.blend.isEmpty()) {
+    openClips(neededClips(place.clips, bounds), place.clips);
+  } else {
+    openClips({}, {});
+    const bool isBounded = withClips(whole, takesAttributes, neededClips(place.clips, bounds));
+    const QByteArray style = attribute("style", "mix-blend-mode:" + place.blend);
+    whole = isBounded || !place.mask.isEmpty() ? "<g" + style + '>' + whole + "</g>"
+                                               : withAttributes(whole, style);
+    takesAttributes = false;
+  }
   Open& open = open_.back();
   open.layer.bounds = open.layer.body.isEmpty() ? bounds : united(open.layer.bounds, bounds);
   open.layer.blends = open.layer.blends || !place.blend.isEmpty();
@@ -154,7 +139,7 @@ void SvgSheet::put(const QByteArray& element, bool attributable, const QRectF& b
   } else {
     Group& group = open.groups.back();
     if (group.children++ == 0) group.child = open.layer.body.size();
-    group.attributable = attributable || wrap;
+    group.attributable = takesAttributes;
   }
   open.layer.body += whole + '\n';
   if (open_.size() == 1) weight_ += weights_.of(whole);
@@ -175,7 +160,6 @@ void SvgSheet::addLayer(const SvgLayer& layer, const QByteArray& attributes, boo
   if (full_ || !isSeen(layer.bounds, place.clips)) return;
   flush();
   body.chop(1);  // the line's end
-  openClips(place.clips, layer.bounds);
   put(body, false, layer.bounds, place);
   Open& open = open_.back();
   open.layer.blends = open.layer.blends || layer.blends;
@@ -185,75 +169,11 @@ void SvgSheet::addLayer(const SvgLayer& layer, const QByteArray& attributes, boo
     open.groups.back().children += layer.elements;  // never merged with one of them
 }
 
-// ---- clips --------------------------------------------------------------------------------------------
-
-QByteArray SvgSheet::clipAttribute(const SvgClip& clip) {
-  if (!clip.stroke.isEmpty()) {
-    const QByteArray area = attribute("x", "0") + attribute("y", "0") +
-                            attribute("width", svgNumber(page_.width(), decimals_)) +
-                            attribute("height", svgNumber(page_.height(), decimals_));
-    return attribute(
-        "mask",
-        reference(define("<mask maskUnits=\"userSpaceOnUse\"" + area + '>' +
-                         pathElement(clip.path, {}, clip.stroke + attribute("stroke", "#fff")) + "</mask>")));
-  }
-  const QByteArray rule = clip.evenOdd ? attribute("clip-rule", "evenodd") : QByteArray();
-  return attribute("clip-path",
-                   reference(define("<clipPath><path" + rule + attribute("d", clip.path) + "/></clipPath>")));
-}
-
-void SvgSheet::openClips(const SvgClips& clips, const QRectF& bounds) {
-  std::vector<Group>& groups = open_.back().groups;
-  SvgClips needed;
-  for (qsizetype i = open_.back().base; i < clips.size(); ++i)
-    if (!clips[i]->isRectangle || !contains(clips[i]->bounds, bounds)) needed << clips[i];
-  // What is open serves when it holds all that is needed, and nothing that is not in force.
-  const auto isOpen = [&](const auto& clip) {
-    return std::any_of(groups.begin(), groups.end(), [&](const Group& group) { return group.clip == clip; });
-  };
-  const bool inForce = std::all_of(groups.begin(), groups.end(),
-                                   [&](const Group& group) { return clips.contains(group.clip); });
-  if (inForce && std::all_of(needed.begin(), needed.end(), isOpen)) return;
-  size_t same = 0;
-  while (same < groups.size() && same < size_t(needed.size()) && groups[same].clip == needed[qsizetype(same)])
-    ++same;
-  while (groups.size() > same) closeGroup();
-  for (qsizetype i = qsizetype(same); i < needed.size(); ++i) openGroup(needed[i]);
-}
-
-void SvgSheet::openGroup(const std::shared_ptr<const SvgClip>& clip) {
-  const QByteArray attributes = clipAttribute(*clip);
-  Open& open = open_.back();
-  if (open.groups.empty()) {
-    ++open.layer.elements;
-  } else {
-    Group& outer = open.groups.back();
-    if (outer.children++ == 0) outer.child = open.layer.body.size();
-    outer.attributable = false;
-  }
-  if (open_.size() + open.groups.size() > size_t(limits::maximumSvgDepth)) full_ = true;
-  open.groups.push_back({clip, open.layer.body.size(), attributes});
-  const QByteArray start = "<g" + attributes + ">\n";
-  open.layer.body += start;
-  count(start);
-}
-
-// A group of one element: the clip becomes that element's own.
-void SvgSheet::closeGroup() {
-  Open& open = open_.back();
-  const Group group = open.groups.back();
-  open.groups.pop_back();
-  QByteArray& body = open.layer.body;
-  if (group.children == 1 && group.attributable && group.clip->stroke.isEmpty()) {
-    const QByteArray child = body.mid(group.child);
-    body.truncate(group.at);
-    body += withAttributes(child, group.attributes);
-  } else {
-    body += "</g>\n";
-  }
-}
-
 // ---- layers and the whole -----------------------------------------------------------------------------
+
+void SvgSheet::beginGroup() {
+  beginLayer(open_.back().base);
+}
 
 void SvgSheet::beginLayer(qsizetype clips, bool elsewhere) {
   flush();

@@ -65,12 +65,17 @@ class SvgSheet {
                const QRectF& bounds, const SvgPlace& place);
   /// Any element. `attributable`: it has no transform, clip or mask of its own.
   void add(const QByteArray& element, bool attributable, const QRectF& bounds, const SvgPlace& place);
-  /// A layer as a group with these attributes, or, where nothing makes it one, its elements.
+  /// A layer as a group with these attributes, or, where nothing makes it one, its elements. What is blended
+  /// in it is not blended with what lies below the clips of `place`: they belong to its elements
+  /// (beginGroup).
   void addLayer(const SvgLayer& layer, const QByteArray& attributes, bool isolated, const SvgPlace& place);
 
   /// What is added from here on goes to a layer. The first `clips` of every place are not part of it.
   /// `elsewhere`: it will be shown at other places too, whatever is seen at this one.
   void beginLayer(qsizetype clips, bool elsewhere = false);
+  /// The same for a layer that is bounded by all that bounds the one around it: its elements bring their
+  /// clips.
+  void beginGroup();
   /// REQUIRES a layer that was begun.
   [[nodiscard]] SvgLayer endLayer();
 
@@ -105,7 +110,11 @@ class SvgSheet {
   bool mergeWithPending(const QByteArray& data, const QByteArray& fill, const QByteArray& stroke, bool plain,
                         const QRectF& bounds, const SvgPlace& place);
   void put(const QByteArray& element, bool attributable, const QRectF& bounds, const SvgPlace& place);
-  void openClips(const SvgClips& clips, const QRectF& bounds);
+  /// Of the clips that the layer is not bounded by itself, each once, those that hide some of `bounds`.
+  [[nodiscard]] SvgClips neededClips(const SvgClips& clips, const QRectF& bounds) const;
+  [[nodiscard]] bool withClips(QByteArray& element, bool attributable, const SvgClips& clips);
+  /// Groups for `needed`; those that are open may stay if they are among `inForce`.
+  void openClips(const SvgClips& needed, const SvgClips& inForce);
   void openGroup(const std::shared_ptr<const SvgClip>& clip);
   void closeGroup();
   void count(const QByteArray& text);

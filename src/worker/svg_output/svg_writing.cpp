@@ -87,4 +87,23 @@ QByteArray dataAddress(const char* type, const QByteArray& bytes) {
   return QByteArray("data:") + type + ";base64," + bytes.toBase64();
 }
 
+QByteArray withAttributes(const QByteArray& element, const QByteArray& attributes) {
+  if (attributes.isEmpty()) return element;
+  const auto endsName = [](char c) { return c == ' ' || c == '/' || c == '>'; };
+  const auto end = std::find_if(element.begin(), element.end(), endsName);
+  return QByteArray(element).insert(end - element.begin(), attributes);
+}
+
+QByteArray reference(const QByteArray& name) {
+  return "url(#" + name + ')';
+}
+
+// Black is what everything is filled with that says nothing.
+QByteArray pathElement(const QByteArray& data, const QByteArray& fill, const QByteArray& stroke) {
+  constexpr char kBlack[] = " fill=\"#000\"";
+  QByteArray paint = fill.isEmpty() ? QByteArray(" fill=\"none\"") : fill;
+  if (paint.startsWith(kBlack)) paint.remove(0, qsizetype(sizeof kBlack) - 1);
+  return "<path" + paint + stroke + attribute("d", data) + "/>";
+}
+
 }  // namespace norvex::engine

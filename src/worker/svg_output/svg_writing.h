@@ -22,6 +22,16 @@ void appendPathNumber(QByteArray& text, qint64 units, int decimals);
 /// ` name="value"`, of a value that holds nothing to escape.
 [[nodiscard]] QByteArray attribute(const char* name, const QByteArray& value);
 
+/// An element with more attributes, in front of its own.
+[[nodiscard]] QByteArray withAttributes(const QByteArray& element, const QByteArray& attributes);
+
+/// What an attribute calls a definition of this name: `url(#name)`.
+[[nodiscard]] QByteArray reference(const QByteArray& name);
+
+/// A path, filled and stroked with these attributes; without the first it is not filled.
+[[nodiscard]] QByteArray pathElement(const QByteArray& data, const QByteArray& fill,
+                                     const QByteArray& stroke);
+
 /// Text for elements and attributes: markup is escaped, and what XML cannot hold becomes a blank.
 [[nodiscard]] QByteArray xmlText(const QString& text);
 

@@ -142,6 +142,11 @@ class SvgDrawingTest : public QObject {
     row("opacity", page("0 0 0 rg 0 0 90 100 re f /Half gs 1 0 0 rg 20 20 160 60 re f"));
     row("group", page("/Half gs /Group Do"));
     row("blended", page("1 1 0 rg 20 20 120 60 re f /Multiply gs 0 1 1 rg 60 10 120 60 re f"));
+    row("blended through a clip",
+        page("1 1 0 rg 20 20 120 60 re f 100 5 m 190 95 l 40 80 l h W n /Multiply gs 0 1 1 rg 60 10 120 60 "
+             "re f 1 0 1 rg 0 40 200 50 re f"));
+    row("blended through a mask", page("1 1 0 rg 20 20 120 60 re f /Multiply gs /Mask gs 0 1 1 rg 60 10 120 "
+                                       "60 re f"));
     row("blended group", page("1 1 0 rg 20 20 120 60 re f /Multiply gs /Group Do"));
     row("text", page("0.2 0.2 0.2 rg BT /F 40 Tf 10 50 Td (Words,) Tj 0 -40 Td 80 Tz 3 Tc (words) Tj ET"));
     row("text aslant", page("BT /F 40 Tf 0.9 0.3 -0.3 0.9 20 20 Tm (Words) Tj ET"));

@@ -1,5 +1,6 @@
 #include <QBuffer>
 #include <QRegularExpression>
+#include <QXmlStreamReader>
 
 #include "kit/test_main.h"
 #include "worker/kit/made_pdf.h"
@@ -65,6 +66,32 @@ class SvgFromPdfTest : public QObject {
   void aClipThatHidesNothingIsLeftOut() {
     QCOMPARE(MadeSvg(page("0 0 200 100 re W n 10 10 20 20 re f")).count("clip-path"), 0);
     QVERIFY(MadeSvg(page("15 0 200 100 re W n 10 10 20 20 re f")).count("clip-path") > 0);
+  }
+
+  // A form that is a group of its own, a clip around it and another within it.
+  void nothingBoundsWhatIsBlendedFromOutside() {
+    const QByteArray form = stream(
+        "30 20 90 70 re W n /Multiply gs 0 1 1 rg 40 10 m 190 20 l 90 90 l f 1 0 1 rg 10 10 90 30 re f",
+        "/Type /XObject /Subtype /Form /BBox [20 0 150 100] /Group << /S /Transparency >> /Resources << "
+        "/ExtGState << /Multiply << /BM /Multiply >> >> >>");
+    const MadeSvg made(page("1 1 0 rg 0 0 200 100 re f 100 10 m 180 90 l 20 90 l h W n /Form Do",
+                            "/XObject << /Form 6 0 R >>", {form}));
+    QXmlStreamReader reader(made.svg());
+    QStringList around;
+    int blended = 0;
+    while (!reader.atEnd()) {
+      reader.readNext();
+      if (reader.isEndElement()) around.removeLast();
+      if (!reader.isStartElement()) continue;
+      const auto attributes = reader.attributes();
+      if (attributes.value("style").contains(u"mix-blend-mode")) {
+        ++blended;
+        QVERIFY2(!around.contains(QStringLiteral("bounds")), made.svg());
+      }
+      around << (attributes.hasAttribute("clip-path") || attributes.hasAttribute("mask") ? "bounds" : "");
+    }
+    QCOMPARE(blended, 2);
+    QVERIFY2(made.count("clip-path") >= 4, made.svg());
   }
 
   void whatLiesOutsideIsLeftOut() {

@@ -66,6 +66,50 @@ class SvgSheetTest : public QObject {
     QVERIFY(page.document({}).contains("isolation:isolate"));
   }
 
+  // Readers isolate what a clip or a mask bounds: inside of it there is nothing to blend with.
+  void whatIsBlendedHasItsClipsInside() {
+    SvgSheet page = sheet();
+    const SvgClips clips{clip("M0 0h9l9 9z", QRectF(0, 0, 18, 9)), clip("M0 0h9l9 8z", QRectF(0, 0, 18, 8))};
+    for (const char* blend : {"", "multiply", "screen"})
+      page.addPath("M0 0h5v5z", " fill=\"#f00\"", {}, false, QRectF(0, 0, 5, 5), {clips, blend, {}});
+    const QByteArray svg = page.document({});
+    for (const QByteArray blend : {"multiply", "screen"})
+      QVERIFY2(svg.contains("\n<g style=\"mix-blend-mode:" + blend +
+                            "\"><g clip-path=\"url(#a)\"><path clip-path=\"url(#b)\" fill=\"#f00\" "
+                            "d=\"M0 0h5v5z\"/></g></g>\n"),
+               svg);
+    QVERIFY2(svg.indexOf("mix-blend-mode") > svg.indexOf("</g>"), "no clip is open around it");
+  }
+
+  void whatIsBlendedThroughAMaskHasItInside() {
+    SvgSheet page = sheet();
+    page.add("<use xlink:href=\"#x\"/>", false, QRectF(0, 0, 5, 5), {{}, "multiply", "m"});
+    const QByteArray svg = page.document({});
+    QVERIFY2(svg.contains("<g style=\"mix-blend-mode:multiply\"><g mask=\"url(#m)\"><use "), svg);
+  }
+
+  void aGroupThatIsNoneBlendsWithThePage() {
+    SvgSheet page = sheet();
+    const SvgClips clips{clip("M0 0h9l9 9z", QRectF(0, 0, 18, 9))};
+    page.beginGroup();
+    page.addPath("M0 0h5v5z", " fill=\"#f00\"", {}, false, QRectF(0, 0, 5, 5), {clips, "multiply", {}});
+    page.addPath("M0 0h5v6z", " fill=\"#0f0\"", {}, false, QRectF(0, 0, 5, 5), {clips, {}, {}});
+    page.addLayer(page.endLayer(), {}, false, {});
+    const QByteArray svg = page.document({});
+    QVERIFY2(svg.contains("\n<g style=\"mix-blend-mode:multiply\"><path clip-path=\"url(#a)\""), svg);
+    QVERIFY2(svg.contains("\n<path clip-path=\"url(#a)\" fill=\"#0f0\""), svg);
+  }
+
+  void aClipWithinItselfIsWrittenOnce() {
+    SvgSheet page = sheet();
+    const auto same = [] { return clip("M0 0h9l9 9z", QRectF(0, 0, 18, 9)); };
+    for (const char* colour : {" fill=\"#f00\"", " fill=\"#0f0\""})
+      page.addPath("M0 0h5v5z", colour, {}, false, QRectF(0, 0, 5, 5), {{same(), same()}, {}, {}});
+    const QByteArray svg = page.document({});
+    QCOMPARE(svg.count("clip-path"), 1);
+    QCOMPARE(svg.count("<g "), 1);
+  }
+
   void referencesThatMultiplyAreALimit() {
     SvgSheet page = sheet();
     QByteArray name = page.define("<path d=\"M0 0h1\"/>");

@@ -169,6 +169,7 @@ inline constexpr std::array toldSentences{
     "the result could not be opened again: %1",
     "an image with more pixels than are granted was left out",
     "letters of more fonts or shapes than are granted were left out",
+    "a group that knocks out or blends with what lies below it is put together by itself, as SVG has it",
     "some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded",
     "of some characters the document does not tell the meaning: they are shown, and no search finds them",
     "what is drawn through a filter (elements: %1) is held as an image",

@@ -3123,6 +3123,8 @@
     <message>
         <source>letters of more fonts or shapes than are granted were left out</source>
         <translation>Se omitieron letras de más tipos de letra o formas de los permitidos.</translation>
+        <source>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</source>
+        <translation>Un grupo que cubre lo anterior o se mezcla con lo que hay debajo se compone por separado, como permite SVG.</translation>
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>

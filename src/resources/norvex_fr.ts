@@ -3123,6 +3123,8 @@
     <message>
         <source>letters of more fonts or shapes than are granted were left out</source>
         <translation>Des lettres de plus de polices ou de formes qu’il n’est permis ont été omises.</translation>
+        <source>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</source>
+        <translation>Un groupe qui défonce ou se mélange à ce qui se trouve dessous est composé à part, comme le prévoit SVG.</translation>
     </message>
     <message>
         <source>some text stays outlines: it is a line or a clip, or its font may not or cannot be embedded</source>

@@ -46,6 +46,8 @@ class SvgDevice final : public OutputDev {
   [[nodiscard]] bool leftOutImages() const { return images_.leftOut(); }
   /// Letters of more fonts, or of more shapes, than are kept.
   [[nodiscard]] bool leftOutLetters() const { return leftOutGlyphs_ || fonts_.leftOut(); }
+  /// SVG has no groups that knock out, and none that are open to the page once they are faded or masked.
+  [[nodiscard]] bool changedGroups() const { return changedGroups_; }
   /// Null: text is drawn.
   [[nodiscard]] const SvgTextLines* textLines() const { return lines_ ? &*lines_ : nullptr; }
   /// Poppler asks now and then: cancelled, or there is no room for more.
@@ -122,7 +124,7 @@ class SvgDevice final : public OutputDev {
   };
   struct Group {
     SvgLayer layer;
-    bool isolated = false;
+    bool isolated = false, knocksOut = false;
     std::unique_ptr<GfxColorSpace> space;  ///< of a mask's backdrop; may be null
   };
   /// Glyphs of one size and paint behind one another.
@@ -197,6 +199,7 @@ class SvgDevice final : public OutputDev {
   std::vector<Type3Use> type3Uses_;
   std::vector<QByteArray> maskedBefore_;
   SvgRasterised rasterised_;
+  bool changedGroups_ = false;
 };
 
 }  // namespace norvex::engine

@@ -46,11 +46,12 @@ QByteArray pageArea(const SvgSheet& sheet) {
 
 // The form's own box, which clips it, was set in a state that is gone when the group is painted: it belongs
 // to the group's content.
-void SvgDevice::beginTransparencyGroup(GfxState*, const double*, GfxColorSpace* space, bool isolated, bool,
-                                       bool forSoftMask) {
+void SvgDevice::beginTransparencyGroup(GfxState*, const double*, GfxColorSpace* space, bool isolated,
+                                       bool knockout, bool forSoftMask) {
   flushText();
   begun_.emplace_back();
   begun_.back().isolated = isolated;
+  begun_.back().knocksOut = knockout;
   if (forSoftMask && space) begun_.back().space.reset(space->copy());
   if (!forSoftMask) return sheet_.beginGroup();
   const State& around = states_[states_.size() < 2 ? 0 : states_.size() - 2];
@@ -72,7 +73,11 @@ void SvgDevice::paintTransparencyGroup(GfxState* state, const double*) {
   groups_.pop_back();
   SvgPlace where = place(state);
   where.clips.clear();  // its elements have them
-  sheet_.addLayer(group.layer, opacityText("opacity", state->getFillOpacity()), group.isolated, where);
+  const QByteArray opacity = opacityText("opacity", state->getFillOpacity());
+  const bool closes = !opacity.isEmpty() || !where.blend.isEmpty() || !where.mask.isEmpty();
+  changedGroups_ = changedGroups_ || (group.knocksOut && group.layer.elements > 1) ||
+                   (!group.isolated && group.layer.blends && closes);
+  sheet_.addLayer(group.layer, opacity, group.isolated, where);
 }
 
 void SvgDevice::setSoftMask(GfxState* state, const double*, bool alpha, Function* transfer,

@@ -34,6 +34,9 @@ BytesReply reportOf(const SvgDevice& device, QSizeF page) {
     report.warnings << QStringLiteral("an image with more pixels than are granted was left out");
   if (device.leftOutLetters())
     report.warnings << QStringLiteral("letters of more fonts or shapes than are granted were left out");
+  if (device.changedGroups())
+    report.warnings << QStringLiteral(
+        "a group that knocks out or blends with what lies below it is put together by itself, as SVG has it");
   if (device.textLines()) report.warnings << device.textLines()->remarks();
   return report;
 }

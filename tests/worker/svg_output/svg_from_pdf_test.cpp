@@ -94,6 +94,30 @@ class SvgFromPdfTest : public QObject {
     QVERIFY2(made.count("clip-path") >= 4, made.svg());
   }
 
+  void groupsThatSvgDoesNotHaveAreTold_data() {
+    QTest::addColumn<QByteArray>("group");
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<bool>("told");
+    const QByteArray two = "1 0 0 rg 20 20 80 60 re f 0 0 1 rg 60 40 80 50 re f";
+    QTest::newRow("knocks out") << QByteArray("/K true") << two << true;
+    QTest::newRow("knocks out, of one element")
+        << QByteArray("/K true") << QByteArray("9 9 20 20 re f") << false;
+    QTest::newRow("plain") << QByteArray() << two << false;
+    QTest::newRow("faded, open, blends") << QByteArray() << "/Multiply gs " + two << true;
+    QTest::newRow("faded, isolated, blends") << QByteArray("/I true") << "/Multiply gs " + two << false;
+  }
+  void groupsThatSvgDoesNotHaveAreTold() {
+    QFETCH(QByteArray, group);
+    QFETCH(QByteArray, contents);
+    const QByteArray states = "/ExtGState << /Multiply << /BM /Multiply >> /Half << /ca 0.5 >> >>";
+    const QByteArray form =
+        stream(contents, "/Type /XObject /Subtype /Form /BBox [0 0 200 100] /Group << /S /Transparency " +
+                             group + " >> /Resources << " + states + " >>");
+    const MadeSvg made(page("/Half gs /Form Do", "/XObject << /Form 6 0 R >> " + states, {form}));
+    QVERIFY2(made.count("opacity=\".5\"") == 1, made.svg());
+    QTEST(made.report().warnings.join(u' ').contains("knocks out or blends"), "told");
+  }
+
   void whatLiesOutsideIsLeftOut() {
     const MadeSvg made(page("300 10 20 20 re f 0 0 50 50 re W n 60 60 20 20 re f"));
     QCOMPARE(made.count("<path"), 0);

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "worker/svg_output/svg_device.h"
@@ -34,6 +35,29 @@ QByteArray transferTable(const Function* transfer) {
 
 QByteArray function(const char* channel, const QByteArray& table) {
   return QByteArray("<feFunc") + channel + " type=\"table\"" + attribute("tableValues", table) + "/>";
+}
+
+// The value of the attribute that begins at `at`, a place behind its quotation mark.
+QByteArray valueAt(const QByteArray& body, qsizetype at) {
+  return body.mid(at, body.indexOf('"', at) - at);
+}
+
+// What is painted, painted white: its luminosity is its opacity. Nothing where that cannot be said by colours
+// alone. Inkscape takes masks for those of luminosity, whatever they say.
+std::optional<QByteArray> inWhite(const QByteArray& body, const SvgSheet& sheet) {
+  constexpr QByteArrayView kUse = "xlink:href=\"#";
+  if (body.contains("<image") || body.contains("mix-blend-mode")) return std::nullopt;
+  for (qsizetype at = 0; (at = body.indexOf(kUse, at)) >= 0; at += kUse.size())
+    if (!sheet.isOutline(valueAt(body, at + kUse.size()))) return std::nullopt;
+  QByteArray white = body;
+  for (const QByteArrayView paint : {QByteArrayView(" fill=\""), QByteArrayView(" stroke=\"")})
+    for (qsizetype at = 0; (at = white.indexOf(paint, at)) >= 0;) {
+      at += paint.size();
+      const QByteArray value = valueAt(white, at);
+      if (value.startsWith("url")) return std::nullopt;
+      if (value.startsWith('#')) white.replace(at, value.size(), "#fff");
+    }
+  return "<g fill=\"#fff\">\n" + white + "</g>\n";
 }
 
 QByteArray pageArea(const SvgSheet& sheet) {
@@ -104,9 +128,11 @@ void SvgDevice::setSoftMask(GfxState* state, const double*, bool alpha, Function
         "><feComponentTransfer>" + functions + "</feComponentTransfer></filter>");
     body = "<g" + attribute("filter", "url(#" + filter + ')') + ">\n" + body + "</g>\n";
   }
-  states_.back().mask = sheet_.define("<mask maskUnits=\"userSpaceOnUse\"" + pageArea(sheet_) +
-                                      (alpha ? QByteArray(" style=\"mask-type:alpha\"") : QByteArray()) +
-                                      ">\n" + body + "</mask>");
+  const std::optional<QByteArray> white = alpha && table.isEmpty() ? inWhite(body, sheet_) : std::nullopt;
+  states_.back().mask =
+      sheet_.define("<mask maskUnits=\"userSpaceOnUse\"" + pageArea(sheet_) +
+                    (alpha && !white ? QByteArray(" style=\"mask-type:alpha\"") : QByteArray()) + ">\n" +
+                    white.value_or(body) + "</mask>");
   Q_UNUSED(state)
 }
 

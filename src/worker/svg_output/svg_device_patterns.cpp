@@ -154,16 +154,18 @@ void SvgDevice::repeatCell(GfxState* state, const SvgLayer& cell, const AffineTr
 void SvgDevice::paintPattern(GfxState* state, const SvgLayer& cell, const AffineTransform& matrix,
                              const QRectF& tile) {
   constexpr char kStart[] = "<pattern patternUnits=\"userSpaceOnUse\"";
-  // A tile's content counts from the tile's own corner.
-  const bool upright = isUpright(matrix);
-  const QRectF place = upright ? matrix.mapRect(tile) : tile;
-  const AffineTransform toTile = (upright ? AffineTransform() : matrix.inverted()) *
-                                 AffineTransform::fromTranslate(-place.x(), -place.y());
+  // A tile's content counts from the tile's own corner. Its space is that of the page, or one that is turned
+  // and not mirrored, which Inkscape does not write as PDF.
+  const bool upright = isUpright(matrix), mirrored = matrix.determinant() < 0;
+  const AffineTransform space = upright    ? AffineTransform()
+                                : mirrored ? AffineTransform::fromScale(1, -1) * matrix
+                                           : matrix;
+  const QRectF place = (matrix * space.inverted()).mapRect(tile);
+  const AffineTransform toTile = space.inverted() * AffineTransform::fromTranslate(-place.x(), -place.y());
   const QByteArray element =
       kStart + rectangleText(place) +
-      (upright ? QByteArray() : attribute("patternTransform", svgTransform(matrix, kTileDecimals))) +
-      ">\n<g" + attribute("transform", svgTransform(toTile, kTileDecimals)) + ">\n" + cell.body +
-      "</g></pattern>";
+      (upright ? QByteArray() : attribute("patternTransform", svgTransform(space, kTileDecimals))) + ">\n<g" +
+      attribute("transform", svgTransform(toTile, kTileDecimals)) + ">\n" + cell.body + "</g></pattern>";
   paintClip(state, sheet_.define(element));
 }
 

@@ -16,6 +16,8 @@ constexpr double kUnseen = 0.8 / 255;  // a line may miss a colour by so much
 constexpr double kStep = 12.0 / 255;   // between two places next to one another: no slope
 constexpr int kHalvings = 16;          // to find the place of a step
 constexpr int kOffsetDecimals = 5;
+constexpr double kBeyond =
+    0.01;  // of the length: so far a gradient goes on behind an end where it is not seen
 constexpr int kDecimals = 5;
 
 double distance(const Rgb& a, const Rgb& b) {
@@ -65,6 +67,14 @@ QByteArray stopText(double offset, const Rgb& colour, bool hidden = false) {
   return "<stop" + attribute("offset", svgNumber(offset, kOffsetDecimals)) +
          attribute("stop-color", colourText(colour)) + (hidden ? " stop-opacity=\"0\"" : "") + "/>";
 }
+
+/// A gradient that ends is written longer than it is: of two stops at its very end cairo, and with it what
+/// Inkscape writes as PDF, keeps the inner one alone.
+struct Lengthening {
+  double before = 0, behind = 0;
+
+  [[nodiscard]] double place(double offset) const { return (offset + before) / (1 + before + behind); }
+};
 
 /// The parts before the first and behind the last stop, where the colour does not go on.
 QByteArray stopsText(const std::vector<GradientStop>& stops, bool before, bool behind) {
@@ -141,10 +151,14 @@ std::optional<QByteArray> axialGradient(GfxAxialShading& shading, const AffineTr
   double x0, y0, x1, y1;
   shading.getCoords(&x0, &y0, &x1, &y1);
   if (!std::isfinite(x0 + y0 + x1 + y1) || !matrix.isFinite()) return std::nullopt;
-  const auto stops = gradientStops([&](double place) { return rgbOf(shading, place); });
+  auto stops = gradientStops([&](double place) { return rgbOf(shading, place); });
+  const Lengthening longer{shading.getExtend0() ? 0 : kBeyond, shading.getExtend1() ? 0 : kBeyond};
+  for (GradientStop& stop : stops) stop.offset = longer.place(stop.offset);
   const bool straight = isSimilarity(matrix);
-  const QPointF from = straight ? matrix.map({x0, y0}) : QPointF(x0, y0);
-  const QPointF to = straight ? matrix.map({x1, y1}) : QPointF(x1, y1);
+  const QPointF along(x1 - x0, y1 - y0);
+  const QPointF first = QPointF(x0, y0) - longer.before * along,
+                last = QPointF(x1, y1) + longer.behind * along;
+  const QPointF from = straight ? matrix.map(first) : first, to = straight ? matrix.map(last) : last;
   return "<linearGradient gradientUnits=\"userSpaceOnUse\"" + coordinate("x1", from.x()) +
          coordinate("y1", from.y()) + coordinate("x2", to.x()) + coordinate("y2", to.y()) +
          (straight ? QByteArray() : transformText(matrix)) + '>' +
@@ -168,15 +182,16 @@ std::optional<QByteArray> radialGradient(GfxRadialShading& shading, const Affine
   const double point = -inner.radius / grown;  // where between the two the radius is none
   const double start = -point / (1 - point);
   auto stops = gradientStops([&](double place) { return rgbOf(shading, shrinks ? 1 - place : place); });
-  for (GradientStop& stop : stops) stop.offset = start + stop.offset * (1 - start);
+  const Lengthening longer{0, beyond ? 0 : kBeyond};
+  for (GradientStop& stop : stops) stop.offset = longer.place(start + stop.offset * (1 - start));
 
   const bool straight = isSimilarity(matrix);
   const QPointF focus(inner.x + point * (outer.x - inner.x), inner.y + point * (outer.y - inner.y));
-  const QPointF centre(outer.x, outer.y);
+  const QPointF centre = QPointF(outer.x, outer.y) + longer.behind * (QPointF(outer.x, outer.y) - focus);
   const QPointF c = straight ? matrix.map(centre) : centre, f = straight ? matrix.map(focus) : focus;
   const double scale = straight ? std::sqrt(std::abs(matrix.determinant())) : 1;
   QByteArray text = "<radialGradient gradientUnits=\"userSpaceOnUse\"" + coordinate("cx", c.x()) +
-                    coordinate("cy", c.y()) + coordinate("r", outer.radius * scale);
+                    coordinate("cy", c.y()) + coordinate("r", outer.radius * (1 + longer.behind) * scale);
   if (focus != centre) text += coordinate("fx", f.x()) + coordinate("fy", f.y());
   if (!straight) text += transformText(matrix);
   return text + '>' + stopsText(stops, within || start == 0, beyond) + "</radialGradient>";

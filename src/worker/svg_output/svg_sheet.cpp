@@ -51,6 +51,7 @@ QByteArray SvgSheet::define(const QByteArray& element) {
   if (const auto at = known_.constFind(digest); at != known_.constEnd()) return *at;
   const QByteArray name = nextName();
   known_.insert(digest, name);
+  if (element.startsWith("<path d=")) outlines_.insert(name);
   weights_.set(name, weights_.of(element));
   count(element);
   if (!full_) definitions_ += withAttributes(element, attribute("id", name)) + '\n';

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QRectF>
+#include <QSet>
 #include <QSizeF>
 
 #include <memory>
@@ -56,6 +57,8 @@ class SvgSheet {
   /// Makes a definition of `element`, which has no id yet, and gives its name. The same element twice is one
   /// definition.
   QByteArray define(const QByteArray& element);
+  /// True if that definition is an outline, which has the paint of what uses it.
+  [[nodiscard]] bool isOutline(const QByteArray& name) const { return outlines_.contains(name); }
   /// True if something that reaches over `bounds` is seen at all.
   [[nodiscard]] bool isSeen(const QRectF& bounds, const SvgClips& clips) const;
 
@@ -131,6 +134,7 @@ class SvgSheet {
   int names_ = 0;
   QByteArray definitions_;
   QHash<QByteArray, QByteArray> known_;  ///< definitions by their digests
+  QSet<QByteArray> outlines_;
   std::vector<Open> open_;
 };
 

@@ -139,6 +139,15 @@ class SvgDrawingTest : public QObject {
     row("stencil", page("0 0 0.8 rg q 160 0 0 80 20 10 cm BI /W 4 /H 2 /IM true /BPC 1 ID \xa0\x50 EI Q"));
     row("soft mask", page("/Mask gs 0.8 0 0 rg 10 10 180 80 re f"));
     row("soft mask of a group", page("/Mask gs /Group Do"));
+    row("mask of opacity",
+        onePage(
+            "0 1 0 rg 50 0 30 100 re f /M gs 0.8 0 0 rg 10 10 180 80 re f",
+            "/MediaBox [0 0 200 100] /Resources << /ExtGState << /M << /SMask << /S /Alpha /G 5 0 R >> >> >> "
+            ">>",
+            {stream(
+                "/H gs 0 g 20 20 100 60 re f 0 0 1 rg 60 40 120 50 re f",
+                "/Type /XObject /Subtype /Form /BBox [0 0 200 100] /Group << /S /Transparency >> /Resources "
+                "<< /ExtGState << /H << /ca 0.6 >> >> >>")}));
     row("opacity", page("0 0 0 rg 0 0 90 100 re f /Half gs 1 0 0 rg 20 20 160 60 re f"));
     row("group", page("/Half gs /Group Do"));
     row("blended", page("1 1 0 rg 20 20 120 60 re f /Multiply gs 0 1 1 rg 60 10 120 60 re f"));

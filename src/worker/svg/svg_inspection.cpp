@@ -71,7 +71,7 @@ class Inspector {
   void lookAtStyleSheet(const QString& css);
   void checkFontSize(double size);
   [[nodiscard]] static double ownFontSize(const QList<Attribute>& attributes);
-  void lookAtReference(const QString& element, const QString& value);
+  void lookAtReference(const QString& element, const Attribute& attribute);
   void declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
                xmlChar* content);
   xmlEntity* expand(xmlEntity* entity);
@@ -197,6 +197,8 @@ void Inspector::start(const QString& name, const QString& prefix, const QString&
   sizes_.open(svg ? name : QString(), transform, ownFontSize(attributes));
   for (const Attribute& attribute : attributes) {
     lookAt(name, attribute);
+    // Elements of other namespaces load nothing, but for those that put another file in their place.
+    if (svg || name == QLatin1String("include")) lookAtReference(name, attribute);
     if (svg && attribute.prefix.isEmpty()) fonts_.attribute(attribute.name, attribute.value);
   }
 }
@@ -228,7 +230,6 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
                                .arg(limits::maximumFilterMatrix));
   if (attribute.name == QLatin1String("href") && value.trimmed().startsWith('#'))
     nesting_.refer(value.trimmed().mid(1));
-  if (attribute.name == QLatin1String("href")) lookAtReference(name, value.trimmed());
 }
 
 /// One number, or one for each direction.
@@ -271,7 +272,8 @@ double Inspector::ownFontSize(const QList<Attribute>& attributes) {
   return size;
 }
 
-void Inspector::lookAtReference(const QString& element, const QString& value) {
+void Inspector::lookAtReference(const QString& element, const Attribute& attribute) {
+  const QString value = attribute.name == QLatin1String("href") ? attribute.value.trimmed() : QString();
   if (element == QLatin1String("a") || value.isEmpty() || value.startsWith('#')) return;
   if (!value.startsWith(QLatin1String("data:"), Qt::CaseInsensitive)) {
     ++found_.outsideReferences;

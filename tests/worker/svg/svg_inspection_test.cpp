@@ -142,6 +142,19 @@ class SvgInspectionTest : public QObject {
     QVERIFY(inspectSvg(svgOf("", "<image href='data:image/svg+xml,'/>"))->hasNestedDocument);
   }
 
+  void linksOfOtherNamespacesLoadNothing() {
+    const Result<SvgInspection> inspection = inspectSvg(
+        svgOf("",
+              "<metadata><p xmlns='http://www.w3.org/1999/xhtml' href='http://example.org/a.html'/>"
+              "</metadata>"));
+    QVERIFY(inspection);
+    QCOMPARE(inspection->outsideReferences, 0);
+    const Result<SvgInspection> included =
+        inspectSvg(svgOf("", "<i:include xmlns:i='http://www.w3.org/2001/XInclude' href='other.svg'/>"));
+    QVERIFY(included);
+    QCOMPARE(included->outsideReferences, 1);
+  }
+
   void whatNeedsALargeParserIsTold() {
     QVERIFY(!inspectSvg(svgOf("", "<text>a</text>"))->needsHugeParser);
     QVERIFY(inspectSvg(svgOf("", "<text>" + QByteArray(11 << 20, 'a') + "</text>"))->needsHugeParser);

@@ -59,8 +59,10 @@ std::optional<WrappedFile> wrappedFile(QByteArrayView file) {
 }
 
 QByteArray withoutWrapping(const QByteArray& file) {
-  const auto wrapped = wrappedFile(file);
-  return wrapped ? withoutWrapping(wrapped->dataFork.toByteArray()) : file;
+  // A file can be wrapped as often as it has room for headers, so nothing is copied on the way.
+  QByteArrayView inner(file);
+  while (const auto wrapped = wrappedFile(inner)) inner = wrapped->dataFork;
+  return inner.size() == file.size() ? file : inner.toByteArray();
 }
 
 }  // namespace norvex

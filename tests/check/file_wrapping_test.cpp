@@ -43,6 +43,18 @@ class FileWrappingTest : public QObject {
     QCOMPARE(wrapped->resourceFork, "resources");
   }
 
+  /// As many headers as a small file has room for: each is looked at once, and none of them copies the rest.
+  void wrappingsInWrappingsAreAllTakenOff() {
+    constexpr int kTimes = 100'000;
+    QByteArray headers(qsizetype(kTimes) * kHeader, '\0');
+    for (int i = 0; i < kTimes; ++i) {
+      char* const header = headers.data() + qsizetype(i) * kHeader;
+      header[1] = 1;
+      qToBigEndian(quint32((kTimes - i - 1) * kHeader + kProgram.size()), header + 83);
+    }
+    QCOMPARE(withoutWrapping(headers + kProgram), kProgram);
+  }
+
   void aForkThatEndsAtAFullBlockIsNotPadded() {
     const QByteArray data = kProgram.leftJustified(kHeader, ' ');
     const QByteArray file = macBinary(5, data, "resources");

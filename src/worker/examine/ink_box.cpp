@@ -1,6 +1,7 @@
 #include "worker/examine/ink_box.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -13,6 +14,10 @@ constexpr double kPointsPerInch = 72;
 constexpr double kCoarsePixels = 3.0e6;
 constexpr double kCoarsest = 2;  // pixels a point at most: the first look
 constexpr double kFinest = 20;   // and the second: half of a tenth of a point to spare
+// Of the coarse pixels, how far beyond the edge that they show the true one is looked for, and within it:
+// first near by, then where it is when samples of an image ran into their neighbours.
+constexpr double kBeyond = 2;
+constexpr std::array kWithin{2.0, 12.0};
 
 bool isInk(Argb32 pixel, bool white) {
   const int a = alpha(pixel);
@@ -54,14 +59,14 @@ double scaleFor(const QRectF& area, double most, double pixels) {
 
 enum class Edge { Left, Right, Low, High };
 
-/// The strip around an edge of `found`, as wide as two of the coarse pixels on either side.
-QRectF stripOf(const QRectF& found, Edge edge, double width, const QRectF& area) {
-  const QRectF all = found.adjusted(-width, -width, width, width).intersected(area);
+/// The strip around an edge of `found`, from `beyond` it to `within` it.
+QRectF stripOf(const QRectF& found, Edge edge, double beyond, double within, const QRectF& area) {
+  const QRectF all = found.adjusted(-beyond, -beyond, beyond, beyond).intersected(area);
   QRectF strip = all;
-  if (edge == Edge::Left) strip.setRight(std::min(all.right(), found.left() + width));
-  if (edge == Edge::Right) strip.setLeft(std::max(all.left(), found.right() - width));
-  if (edge == Edge::Low) strip.setBottom(std::min(all.bottom(), found.top() + width));
-  if (edge == Edge::High) strip.setTop(std::max(all.top(), found.bottom() - width));
+  if (edge == Edge::Left) strip.setRight(std::min(all.right(), found.left() + within));
+  if (edge == Edge::Right) strip.setLeft(std::max(all.left(), found.right() - within));
+  if (edge == Edge::Low) strip.setBottom(std::min(all.bottom(), found.top() + within));
+  if (edge == Edge::High) strip.setTop(std::max(all.top(), found.bottom() - within));
   return strip;
 }
 
@@ -77,16 +82,20 @@ Result<void> sharpen(DrawnInk& drawn, double finest, int page, const DrawPart& d
   const QRectF found = *drawn.ink;
   const double coarse = std::exchange(drawn.accuracy, 0);
   for (const Edge edge : {Edge::Left, Edge::Right, Edge::Low, Edge::High}) {
-    const QRectF strip = stripOf(found, edge, 2 * coarse, drawn.area);
-    if (strip.isEmpty()) continue;
-    const double scale = scaleFor(strip, finest, limits::maximumInkPixels);
-    const Look look(strip, scale);
-    const Result<Bitmap> bitmap = look.draw(page, draw);
-    if (!bitmap) return bitmap.error();
-    const QRect pixels = inkedPixels(*bitmap);
-    // Too little to be seen so sharply: the coarse edge stands.
-    drawn.accuracy = std::max(drawn.accuracy, pixels.isEmpty() ? coarse : 1 / scale);
-    if (!pixels.isEmpty()) setEdge(*drawn.ink, edge, look.placeOf(pixels));
+    double accuracy = coarse;  // the coarse edge stands where nothing is to be seen so sharply
+    for (const double within : kWithin) {
+      const QRectF strip = stripOf(found, edge, kBeyond * coarse, within * coarse, drawn.area);
+      const double scale = scaleFor(strip, finest, limits::maximumInkPixels);
+      const Look look(strip, scale);
+      const Result<Bitmap> bitmap = look.draw(page, draw);
+      if (!bitmap) return bitmap.error();
+      const QRect pixels = inkedPixels(*bitmap);
+      if (pixels.isEmpty()) continue;
+      setEdge(*drawn.ink, edge, look.placeOf(pixels));
+      accuracy = 1 / scale;
+      break;
+    }
+    drawn.accuracy = std::max(drawn.accuracy, accuracy);
   }
   return {};
 }

@@ -17,7 +17,8 @@ using DrawPart = std::function<Result<Bitmap>(const RenderRequest& request)>;
 
 /// Looks at `area` (picture coordinates) coarsely, then along the four edges of what was found, with pixels
 /// of `dpi` at most. Ink is never larger than what the coarse look finds, and as sharp as `accuracy` says.
-/// `page`: of the requests. Fails as `draw` does.
+/// Where the fine pixels near an edge are empty, the coarse ones spread ink: a second strip further within is
+/// drawn. `page`: of the requests. Fails as `draw` does.
 [[nodiscard]] Result<DrawnInk> findInk(const QRectF& area, int page, double dpi, const DrawPart& draw);
 
 /// The smallest rectangle around pixels that are neither transparent nor white; empty without any. With

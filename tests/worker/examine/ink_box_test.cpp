@@ -1,6 +1,7 @@
 // The ink's box, found in pixels.
 #include "worker/examine/ink_box.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "kit/test_main.h"
@@ -57,6 +58,28 @@ class InkBoxTest : public QObject {
     QVERIFY(off > 0.1 && off <= 0.5);
     QVERIFY(wanted.adjusted(-off, -off, off, off).contains(*drawn->ink));
     QVERIFY(inkOf("10 10 20 20 re f")->accuracy <= 0.1);
+  }
+
+  /// As samples of an image run into their neighbours where it is drawn small.
+  void whatOnlyCoarsePixelsSpreadIsNoInk() {
+    const QRectF true_(30, 40, 20, 10);
+    const auto draw = [&](const RenderRequest& request) {
+      const double scale = request.pictureToDevice.m11(), spread = scale < 5 ? 1.6 : 0;
+      const QRectF wide = true_.adjusted(-spread, -spread, spread, spread);
+      const QRect all(QRectF(wide.x() * scale + request.pictureToDevice.dx(),
+                             request.pictureToDevice.dy() - wide.bottom() * scale, wide.width() * scale,
+                             wide.height() * scale)
+                          .toRect());
+      const QRect inked = all.intersected(QRect(QPoint(), request.pixelSize));
+      Result<Bitmap> bitmap = Bitmap::create(request.pixelSize);
+      if (bitmap)
+        for (int y = inked.top(); !inked.isEmpty() && y <= inked.bottom(); ++y)
+          std::fill_n(bitmap->row(y) + inked.left(), inked.width(), 0xff000000);
+      return bitmap;
+    };
+    const Result<DrawnInk> drawn = findInk(QRectF(0, 0, 90, 90), 0, kSharp, draw);
+    QVERIFY(isNear(drawn->ink, true_));
+    QVERIFY(drawn->accuracy <= 0.1);
   }
 
   void aCoarseLookIsOne() {

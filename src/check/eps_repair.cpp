@@ -9,9 +9,11 @@
 #include "check/comment_order.h"
 #include "check/eps_structure_rules.h"
 #include "check/file_wrapping.h"
+#include "check/plate_places.h"
 #include "check/program_lines.h"
 #include "metadata/eps_lines.h"
 #include "metadata/eps_program.h"
+#include "metadata/eps_resources.h"
 
 namespace norvex {
 namespace {
@@ -244,7 +246,9 @@ QByteArray epsProgramAlone(const QByteArray& file) {
 }
 
 EpsRepair repairedEps(const QByteArray& program, const QRectF& box, bool dropPreview) {
-  return Mending(program, box).run(dropPreview);
+  EpsRepair mended = Mending(compositeOf(program).toByteArray(), box).run(dropPreview);
+  mended.program = withPlatesOf(mended.program, program);
+  return mended;
 }
 
 std::optional<QRectF> mendedBox(const std::optional<QRectF>& stated, const std::optional<QRectF>& ink,

@@ -22,7 +22,8 @@ struct EpsRepair {
 
 /// `program` with its header in order: the first line, both boxes (`box`: PostScript's default user space),
 /// %%EndComments; with showpage and %%EOF. Everything between the header and the trailer is the same to the
-/// byte. With `dropPreview` the interchange preview is left out, which is all comments.
+/// byte. With `dropPreview` the interchange preview is left out, which is all comments. Plates behind
+/// the picture (DCS 2) stay to the byte, and the header says where they are now.
 [[nodiscard]] EpsRepair repairedEps(const QByteArray& program, const QRectF& box, bool dropPreview);
 
 /// The box to write: around the ink, unless the stated one is as near to it as it can be measured, or

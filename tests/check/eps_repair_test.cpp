@@ -5,6 +5,7 @@
 #include "check/file_wrapping.h"
 #include "check/program_lines.h"
 #include "kit/test_main.h"
+#include "metadata/eps_resources.h"
 
 using namespace norvex;
 
@@ -166,6 +167,29 @@ class EpsRepairTest : public QObject {
     for (const Finding& one : epsStructureFindings(programLines(repair.program)))
       QVERIFY2(one.rule->identifier.substr(0, 12) != "eps.comments", qPrintable(one.sentence));
     QCOMPARE(repairedEps(repair.program, kBox, false).program, repair.program);
+  }
+
+  /// The header finds each by its offset, and the mended picture is longer.
+  void platesBehindThePictureStayToTheByteAndAreFound() {
+    const QByteArray cyan = "%!PS-Adobe-3.0 EPSF-3.0\n%%EndComments\n0.5 setgray 1 1 9 9 rectfill\n%%EOF\n";
+    const QByteArray gold = "%!PS plate\r%%EndComments\r%%EndComments\rshowpage\r";
+    const auto file = [&](qsizetype first) {
+      return "%!PS\n%%PlateFile: (Cyan) EPS #" + QByteArray::number(first) + ' ' +
+             QByteArray::number(cyan.size()) + "\n%%PlateFile: (Gold (#)) EPS #" +
+             QByteArray::number(first + cyan.size()).rightJustified(8, '0') + ' ' +
+             QByteArray::number(gold.size()) + "\n0 0 9 9 rectfill\n";
+    };
+    const QByteArray picture = file(file(90).size());
+    QVERIFY(picture.size() < 100);
+    const EpsRepair mended = repairedEps(picture + cyan + gold, QRectF(0, 0, 9, 9), false);
+    QVERIFY(mended.program.endsWith(cyan + gold));
+    const QList<EpsPlate> plates = epsResources(mended.program).plates;
+    QCOMPARE(plates.size(), 2);
+    QCOMPARE(mended.program.mid(plates[0].offset, plates[0].length), cyan);
+    QCOMPARE(mended.program.mid(plates[1].offset, plates[1].length), gold);
+    QVERIFY(plates[0].offset > 100);
+    QVERIFY(compositeOf(mended.program).contains("showpage"));
+    QCOMPARE(repairedEps(mended.program, QRectF(0, 0, 9, 9), false).program, mended.program);
   }
 
   void showpageGoesBeforeTheTrailer() {

@@ -57,7 +57,7 @@ ExitCode Job::repair(const Arguments& arguments) {
     const Result<QByteArray> bytes = readInput(console_, file);
     if (!bytes) return bytes.error();
     const PreviewUse preview = previewUse(arguments.values.value(Option::Preview));
-    return repairedPicture(service_, *bytes, preview, limits, interruption.token());
+    return repairedPicture(service_, *bytes, file, preview, limits, interruption.token());
   };
   const Result<RepairedPicture> repaired = repair();
   const ExitCode code = repaired ? writeOutput(output, repaired->bytes, force) : fail(file, repaired.error());

@@ -14,7 +14,9 @@
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_completeness.h"
 #include "picture/bitmap_image.h"
+#include "picture/open_picture.h"
 #include "picture_check/picture_check.h"
+#include "types/type_identification.h"
 
 namespace norvex {
 namespace {
@@ -24,14 +26,20 @@ const QRectF kAnywhere(0, 0, 1224, 1584);
 /// Pixels of the longer side of a preview that is made.
 constexpr double kLargestPreview = 512;
 
+struct NamedFile {
+  const QByteArray& bytes;
+  const QString& name;
+};
+
 class Repair {
  public:
-  Repair(PictureService& service, const QByteArray& file, PreviewUse use, const PictureLimits& limits,
+  Repair(PictureService& service, const NamedFile& file, PreviewUse use, const PictureLimits& limits,
          const CancelToken& cancel)
-      : service_(service), file_(file), use_(use), limits_(limits), cancel_(cancel) {}
+      : service_(service), file_(file.bytes), name_(file.name), use_(use), limits_(limits), cancel_(cancel) {}
 
   Result<RepairedPicture> run() {
-    const QByteArray program = epsProgramAlone(file_);
+    QByteArray program = epsProgramAlone(file_);
+    if (program.isEmpty() && isEpsByName()) program = withoutWrapping(file_);
     if (program.isEmpty())
       return Error{ErrorKind::Unsupported, QStringLiteral("only EPS files can be repaired")};
     const Result<QRectF> box = boxFor(program);
@@ -49,6 +57,12 @@ class Repair {
   }
 
  private:
+  [[nodiscard]] bool isEpsByName() const {
+    const QByteArray inner = withoutWrapping(file_);
+    const Result<PictureKind> kind = pictureKindOf(inner, identifyType(inner, name_).identifier());
+    return kind && *kind == PictureKind::Eps;
+  }
+
   Result<QRectF> boxFor(const QByteArray& program) {
     const EpsBoundingBoxes boxes = epsBoundingBoxes(program);
     const std::optional<QRectF> stated = epsPictureBox(boxes);
@@ -122,6 +136,7 @@ class Repair {
 
   PictureService& service_;
   const QByteArray& file_;
+  const QString& name_;
   const PreviewUse use_;
   const PictureLimits limits_;
   const CancelToken cancel_;
@@ -130,10 +145,11 @@ class Repair {
 
 }  // namespace
 
-Result<RepairedPicture> repairedPicture(PictureService& service, const QByteArray& file, PreviewUse preview,
+Result<RepairedPicture> repairedPicture(PictureService& service, const QByteArray& file,
+                                        const QString& fileName, PreviewUse preview,
                                         const PictureLimits& limits, const CancelToken& cancel) {
   const TimeLimit time(std::chrono::seconds(limits.seconds), cancel);
-  Result<RepairedPicture> repaired = Repair(service, file, preview, limits, time.token()).run();
+  Result<RepairedPicture> repaired = Repair(service, {file, fileName}, preview, limits, time.token()).run();
   if (repaired) return repaired;
   return time.explained(repaired.error());
 }

@@ -21,10 +21,12 @@ struct RepairedPicture {
 };
 
 /// Draws the picture to find its box, puts the file's parts in order and checks the result as it would stand
-/// on disk. Fails (Unsupported) for what is no EPS file, with NotParsable where the program does not draw or
-/// the result would have a structure with errors, and as PictureProcess. Blocks.
+/// on disk. `fileName` alone says that a program is one which has neither a first line nor a box. Fails
+/// (Unsupported) for what is no EPS file, with NotParsable where the program does not draw or the result
+/// would have a structure with errors, and as PictureProcess. Blocks.
 [[nodiscard]] Result<RepairedPicture> repairedPicture(PictureService& service, const QByteArray& file,
-                                                      PreviewUse preview, const PictureLimits& limits,
+                                                      const QString& fileName, PreviewUse preview,
+                                                      const PictureLimits& limits,
                                                       const CancelToken& cancel = {});
 
 }  // namespace norvex

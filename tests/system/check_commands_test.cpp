@@ -102,6 +102,21 @@ class CheckCommandsTest : public QObject {
     QVERIFY(counts["the same"] > total / 2);
   }
 
+  /// It has neither a first line nor a box. The check takes it for EPS and says that repair mends it.
+  void aProgramThatOnlyItsNameCallsEpsIsMended() {
+    const QTemporaryDir folder;
+    const QByteArray program = "newpath 20 30 moveto 60 30 lineto 60 50 lineto fill\nshowpage\n";
+    write(folder.filePath("a.eps"), program);
+    write(folder.filePath("a.txt"), program);
+    const QString mended = folder.filePath("mended.eps");
+    QVERIFY(!errorsOf(folder.filePath("a.eps")).isEmpty());
+    QCOMPARE(kit::norvex({"repair", folder.filePath("a.txt"), "-o", mended}).exitCode, 3);
+    QVERIFY(!QFile::exists(mended));
+    QCOMPARE(outcomeOf(folder.filePath("a.eps"), mended), "the same");
+    QVERIFY(contentsOf(mended).contains("%%BoundingBox: 20 30 60 50\n"));
+    QVERIFY(contentsOf(mended).contains(program));
+  }
+
   void whatCannotBeReadOrWrittenIsOneSentence_data() {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<int>("code");

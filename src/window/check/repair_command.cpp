@@ -32,7 +32,7 @@ Result<RepairedPicture> repairedFile(PictureService& service, const QString& fro
                                      PreviewUse preview, const CancelToken& cancel) {
   const Result<QByteArray> bytes = readDocumentFile(from);
   if (!bytes) return bytes.error();
-  Result<RepairedPicture> repaired = repairedPicture(service, *bytes, preview, PictureLimits(), cancel);
+  Result<RepairedPicture> repaired = repairedPicture(service, *bytes, from, preview, PictureLimits(), cancel);
   if (!repaired) return repaired.error();
   if (cancel.cancelled()) return Error{ErrorKind::Cancelled, localizedString("The writing was stopped")};
   const Result<void> written = writeFileAtomically(to, repaired->bytes, IfExists::Replace);

@@ -99,12 +99,22 @@ void checkImages(Findings& findings, const PageContents& page, const ProfileLimi
   }
 }
 
+/// Named as a whole or by its kind: "ICCBased" stands for all with a profile, "Separation" for all spot inks.
+bool isAllowed(const QString& space, const ProfileLimits& limits) {
+  return limits.colourSpaces.contains(space) || limits.colourSpaces.contains(space.section(u' ', 0, 0));
+}
+
 void checkColours(Findings& findings, const PageContents& page, const ProfileLimits& limits) {
   if (page.rgb && page.cmyk)
     findings << finding(rule("colour.rgb-in-cmyk"), QStringLiteral("RGB colours stand beside CMYK colours"),
                         {}, {}, page.rgb);
   else if (page.rgb && !limits.rgb)
     findings << finding(rule("colour.rgb"), QStringLiteral("there are RGB colours"), {}, {}, page.rgb);
+  for (const QString& space : page.colorSpaces)
+    if (!limits.colourSpaces.isEmpty() && !isAllowed(space, limits))
+      findings << finding(
+          rule("colour.space"),
+          QStringLiteral("it names the colour space %1, which the profile does not").arg(space), {}, space);
   for (const QString& ink : page.spotInks)
     findings << finding(rule("colour.spot"), QStringLiteral("there is the spot ink %1").arg(ink), {}, ink);
   if (page.whiteOverprint)

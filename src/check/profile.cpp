@@ -77,6 +77,8 @@ class Reader {
     if (name == "rgb") {
       if (!node.is_boolean()) return fail(node.source(), QStringLiteral("rgb is true or false"));
       profile_.limits.rgb = node.value_or(true);
+    } else if (name == "colour-spaces") {
+      readColourSpaces(node);
     } else if (name == "column-tolerance-mm") {
       profile_.limits.columnTolerance = number(name, node).value_or(0);
     } else if (name == "columns-mm") {
@@ -86,6 +88,14 @@ class Reader {
     } else {
       fail(where, QStringLiteral("there is no limit %1").arg(text(name)));
     }
+  }
+
+  void readColourSpaces(const toml::node& node) {
+    const auto isName = [](const toml::node& space) { return space.is_string(); };
+    if (!node.is_array() || !std::all_of(node.as_array()->begin(), node.as_array()->end(), isName))
+      return fail(node.source(), QStringLiteral("colour-spaces is a list of names"));
+    for (const toml::node& space : *node.as_array())
+      profile_.limits.colourSpaces << text(space.value_or(std::string_view()));
   }
 
   void readSeverity(std::string_view name, const toml::source_region& where, const toml::node& node) {

@@ -23,6 +23,7 @@ struct ProfileLimits {
   QList<double> columns;       ///< widths that a picture may have, millimetres; none: any
   double columnTolerance = 2;  ///< millimetres
   bool rgb = true;             ///< RGB colours are wanted, or may stay
+  QStringList colourSpaces;    ///< that may be used, as PDF calls them; none: any
 };
 
 struct Profile {

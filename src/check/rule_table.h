@@ -112,6 +112,8 @@ inline constexpr auto ruleTable = std::to_array<RuleRow>({
      "PDF 1.7, 8.6.4.3 (DeviceRGB); the profile", "convert the colours"},
     {"colour.rgb-in-cmyk", Severity::Warning, "RGB in a CMYK picture", "PDF 1.7, 8.6.4 (device spaces)",
      "convert the colours"},
+    {"colour.space", Severity::Warning, "A colour space that the profile does not name",
+     "PDF 1.7, 8.6 (colour spaces); the profile", "convert the colours"},
     {"colour.spot", Severity::Note, "Spot inks", "PDF 1.7, 8.6.6.4 (Separation)", ""},
     {"colour.total-ink", Severity::Warning, "More ink in one place than the profile allows",
      "the profile's limit: paper takes so much", "choose colours with less ink"},

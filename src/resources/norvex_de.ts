@@ -1700,6 +1700,10 @@
         <translation>Text, der kleiner ist, als das Profil erlaubt</translation>
     </message>
     <message>
+        <source>A colour space that the profile does not name</source>
+        <translation>Farbraum, den das Profil nicht nennt</translation>
+    </message>
+    <message>
         <source>RGB colours where the profile wants none</source>
         <translation>RGB-Farben, wo das Profil keine will</translation>
     </message>
@@ -3447,6 +3451,10 @@
         <translation>Strichbild</translation>
     </message>
     <message>
+        <source>it names the colour space %1, which the profile does not</source>
+        <translation>Der Farbraum %1 kommt vor, den das Profil nicht nennt.</translation>
+    </message>
+    <message>
         <source>there is the spot ink %1</source>
         <translation>Die Schmuckfarbe %1 wird verwendet.</translation>
     </message>
@@ -3685,6 +3693,10 @@
     <message>
         <source>rgb is true or false</source>
         <translation>rgb ist true oder false.</translation>
+    </message>
+    <message>
+        <source>colour-spaces is a list of names</source>
+        <translation>colour-spaces ist eine Liste von Namen.</translation>
     </message>
     <message>
         <source>columns-mm is a list of numbers</source>

@@ -1700,6 +1700,10 @@
         <translation>Text smaller than the profile allows</translation>
     </message>
     <message>
+        <source>A colour space that the profile does not name</source>
+        <translation>A colour space that the profile does not name</translation>
+    </message>
+    <message>
         <source>RGB colours where the profile wants none</source>
         <translation>RGB colours where the profile wants none</translation>
     </message>
@@ -3447,6 +3451,10 @@
         <translation>line art</translation>
     </message>
     <message>
+        <source>it names the colour space %1, which the profile does not</source>
+        <translation>it names the colour space %1, which the profile does not</translation>
+    </message>
+    <message>
         <source>there is the spot ink %1</source>
         <translation>there is the spot ink %1</translation>
     </message>
@@ -3685,6 +3693,10 @@
     <message>
         <source>rgb is true or false</source>
         <translation>rgb is true or false</translation>
+    </message>
+    <message>
+        <source>colour-spaces is a list of names</source>
+        <translation>colour-spaces is a list of names</translation>
     </message>
     <message>
         <source>columns-mm is a list of numbers</source>

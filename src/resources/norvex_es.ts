@@ -1700,6 +1700,10 @@
         <translation>Texto menor de lo que permite el perfil</translation>
     </message>
     <message>
+        <source>A colour space that the profile does not name</source>
+        <translation>Espacio de color que el perfil no nombra</translation>
+    </message>
+    <message>
         <source>RGB colours where the profile wants none</source>
         <translation>Colores RGB que el perfil no admite</translation>
     </message>
@@ -3447,6 +3451,10 @@
         <translation>línea</translation>
     </message>
     <message>
+        <source>it names the colour space %1, which the profile does not</source>
+        <translation>Aparece el espacio de color %1, que el perfil no nombra.</translation>
+    </message>
+    <message>
         <source>there is the spot ink %1</source>
         <translation>Se usa la tinta plana %1.</translation>
     </message>
@@ -3685,6 +3693,10 @@
     <message>
         <source>rgb is true or false</source>
         <translation>rgb es true o false.</translation>
+    </message>
+    <message>
+        <source>colour-spaces is a list of names</source>
+        <translation>colour-spaces es una lista de nombres.</translation>
     </message>
     <message>
         <source>columns-mm is a list of numbers</source>

@@ -1700,6 +1700,10 @@
         <translation>Texte plus petit que le profil ne le permet</translation>
     </message>
     <message>
+        <source>A colour space that the profile does not name</source>
+        <translation>Espace colorimétrique que le profil ne nomme pas</translation>
+    </message>
+    <message>
         <source>RGB colours where the profile wants none</source>
         <translation>Couleurs RVB que le profil n’admet pas</translation>
     </message>
@@ -3447,6 +3451,10 @@
         <translation>au trait</translation>
     </message>
     <message>
+        <source>it names the colour space %1, which the profile does not</source>
+        <translation>L’espace colorimétrique %1 apparaît, mais le profil ne le nomme pas.</translation>
+    </message>
+    <message>
         <source>there is the spot ink %1</source>
         <translation>Le ton direct %1 est utilisé.</translation>
     </message>
@@ -3685,6 +3693,10 @@
     <message>
         <source>rgb is true or false</source>
         <translation>rgb vaut true ou false.</translation>
+    </message>
+    <message>
+        <source>colour-spaces is a list of names</source>
+        <translation>colour-spaces est une liste de noms.</translation>
     </message>
     <message>
         <source>columns-mm is a list of numbers</source>

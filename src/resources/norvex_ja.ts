@@ -1700,6 +1700,10 @@
         <translation>プロファイルの許容より小さい文字があります。</translation>
     </message>
     <message>
+        <source>A colour space that the profile does not name</source>
+        <translation>プロファイルに挙げられていないカラースペースがあります。</translation>
+    </message>
+    <message>
         <source>RGB colours where the profile wants none</source>
         <translation>プロファイルが認めない RGB カラーがあります。</translation>
     </message>
@@ -3447,6 +3451,10 @@
         <translation>線画</translation>
     </message>
     <message>
+        <source>it names the colour space %1, which the profile does not</source>
+        <translation>プロファイルに挙げられていないカラースペース %1 があります。</translation>
+    </message>
+    <message>
         <source>there is the spot ink %1</source>
         <translation>特色インキ %1 があります。</translation>
     </message>
@@ -3685,6 +3693,10 @@
     <message>
         <source>rgb is true or false</source>
         <translation>rgb は true または false です。</translation>
+    </message>
+    <message>
+        <source>colour-spaces is a list of names</source>
+        <translation>colour-spaces は名前のリストです。</translation>
     </message>
     <message>
         <source>columns-mm is a list of numbers</source>

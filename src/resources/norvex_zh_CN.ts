@@ -1700,6 +1700,10 @@
         <translation>文字小于配置所允许的大小。</translation>
     </message>
     <message>
+        <source>A colour space that the profile does not name</source>
+        <translation>含有配置未列出的色彩空间。</translation>
+    </message>
+    <message>
         <source>RGB colours where the profile wants none</source>
         <translation>含有配置不允许的 RGB 颜色。</translation>
     </message>
@@ -3447,6 +3451,10 @@
         <translation>线条稿</translation>
     </message>
     <message>
+        <source>it names the colour space %1, which the profile does not</source>
+        <translation>含有配置未列出的色彩空间 %1。</translation>
+    </message>
+    <message>
         <source>there is the spot ink %1</source>
         <translation>有专色油墨 %1。</translation>
     </message>
@@ -3685,6 +3693,10 @@
     <message>
         <source>rgb is true or false</source>
         <translation>rgb 应为 true 或 false。</translation>
+    </message>
+    <message>
+        <source>colour-spaces is a list of names</source>
+        <translation>colour-spaces 是一个名称列表。</translation>
     </message>
     <message>
         <source>columns-mm is a list of numbers</source>

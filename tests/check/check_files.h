@@ -180,6 +180,7 @@ inline QList<RuleFile> pdfFiles() {
   const QByteArray spot =
       "/ColorSpace << /S [/Separation /Gold /DeviceCMYK << /FunctionType 2 /Domain [0 1] /C0 [0 0 0 0] /C1 "
       "[0 0 1 0] /N 1 >>] >>";
+  const QByteArray calibrated = "/ColorSpace << /S [/CalRGB << /WhitePoint [0.95 1 1.09] >>] >>";
   const QByteArray intents = "/OutputIntents [<< /S /GTS_PDFX /OutputConditionIdentifier (FOGRA39) >>]";
   const QByteArray claim = page("", {}, {"<< /GTS_PDFXVersion (PDF/X-1a:2003) >>"}, "/Info 5 0 R");
   return {
@@ -199,6 +200,7 @@ inline QList<RuleFile> pdfFiles() {
       {"colour.rgb", "pdf", page("1 0 0 rg 10 10 50 50 re f"), plain},
       {"colour.rgb-in-cmyk", "pdf", page("1 0 0 rg 10 10 5 5 re f 1 0 0 0 k 20 10 5 5 re f"),
        page("1 0 0 rg 1 0 0 0 k 20 10 5 5 re f")},
+      {"colour.space", "pdf", page("/S cs 0.5 0.5 0.5 sc 10 10 50 50 re f", calibrated), plain},
       {"colour.spot", "pdf", page("/S cs 1 scn 10 10 50 50 re f", spot), plain},
       {"colour.total-ink", "pdf", page("1 1 1 .5 k 10 10 50 50 re f"), page("1 1 1 .5 k 10 10 50 50 re n")},
       {"colour.white-overprints", "pdf", state("/OP true", "0 0 0 0 k 10 10 50 50 re f"),

@@ -37,6 +37,23 @@ class PageRulesTest : public QObject {
     QVERIFY(!hasFinding(pageFindings(page, PictureKind::Svg, {}), "image.resolution"));
   }
 
+  void aColourSpaceMayBeNamedByItsKind() {
+    PageContents page = pageOf(100);
+    page.colorSpaces = {"DeviceCMYK", "ICCBased RGB", "ICCBased CMYK", "Separation Gold"};
+    const auto told = [&](const QStringList& allowed) {
+      ProfileLimits limits;
+      limits.colourSpaces = allowed;
+      QStringList names;
+      for (const Finding& one : pageFindings(page, PictureKind::Pdf, limits))
+        if (one.rule->identifier == "colour.space") names << one.object;
+      return names;
+    };
+    QCOMPARE(told({}), QStringList());
+    QCOMPARE(told({"DeviceCMYK", "ICCBased", "Separation"}), QStringList());
+    QCOMPARE(told({"DeviceCMYK", "ICCBased CMYK", "Separation Silver"}),
+             QStringList({"ICCBased RGB", "Separation Gold"}));
+  }
+
   void whatWasNotLookedAtIsTold() {
     PageContents page = pageOf(100);
     page.complete = false;

@@ -26,7 +26,8 @@ class ProfileTest : public QObject {
     const Result<Profile> profile = profileFromToml(
         "[limits]\ncolour-dpi = 300\nthinnest-line = 0.25\ncolumns-mm = [90, 190.5]\ncolumn-tolerance-mm = "
         "3\n"
-        "rgb = false\n[severities]\n\"fonts.type3\" = \"error\"\n\"eps.preview.missing\" = \"off\"\n");
+        "rgb = false\ncolour-spaces = [\"DeviceGray\", \"Separation Gold\"]\n[severities]\n\"fonts.type3\" = "
+        "\"error\"\n\"eps.preview.missing\" = \"off\"\n");
     QVERIFY2(profile.ok(), qPrintable(profile ? QString() : profile.error().message));
     QCOMPARE(profile->limits.colourDpi, std::optional(300.0));
     QCOMPARE(profile->limits.thinnestLine, std::optional(0.25));
@@ -34,6 +35,7 @@ class ProfileTest : public QObject {
     QCOMPARE(profile->limits.columns, QList<double>({90, 190.5}));
     QCOMPARE(profile->limits.columnTolerance, 3.0);
     QVERIFY(!profile->limits.rgb);
+    QCOMPARE(profile->limits.colourSpaces, QStringList({"DeviceGray", "Separation Gold"}));
     QCOMPARE(profile->severities["fonts.type3"], std::optional(Severity::Error));
     QCOMPARE(profile->severities["eps.preview.missing"], std::optional<Severity>());
   }
@@ -64,6 +66,9 @@ class ProfileTest : public QObject {
     QCOMPARE(complaintAbout("[limits]\ncolour-dpi = -1\n"), "line 2: colour-dpi is a number from 0");
     QCOMPARE(complaintAbout("[limits]\ncolour-dpi = 0\n"), "");
     QCOMPARE(complaintAbout("[limits]\nrgb = 1\n"), "line 2: rgb is true or false");
+    for (const char* value : {"\"DeviceGray\"", "[1]", "true"})
+      QCOMPARE(complaintAbout(QByteArray("[limits]\ncolour-spaces = ") + value + '\n'),
+               "line 2: colour-spaces is a list of names");
     QVERIFY(complaintAbout("[limits\n").startsWith("line 1: "));
   }
 

@@ -21,7 +21,8 @@ const QString kNorvex = QStringLiteral(NORVEX_BUILD_DIR "/norvex");
 const QByteArray kProfile(
     "[limits]\ncolour-dpi = 150\ngrey-dpi = 150\nline-art-dpi = 150\nthinnest-line = 0.25\nsmallest-text = "
     "5\n"
-    "total-ink = 300\nrgb = false\ncolumns-mm = [40, 70.6]\ncolumn-tolerance-mm = 1\n");
+    "total-ink = 300\nrgb = false\ncolour-spaces = [\"DeviceGray\", \"DeviceRGB\", \"DeviceCMYK\", "
+    "\"Separation\"]\ncolumns-mm = [40, 70.6]\ncolumn-tolerance-mm = 1\n");
 
 bool write(const QString& path, const QByteArray& bytes) {
   QFile file(path);

@@ -60,6 +60,7 @@ inline constexpr std::array figureSentences{
     "colour",
     "grey",
     "line art",
+    "it names the colour space %1, which the profile does not",
     "there is the spot ink %1",
     "RGB colours stand beside CMYK colours",
     "its permissions forbid %1",
@@ -83,6 +84,7 @@ inline constexpr std::array figureSentences{
     "%1 is a number from 0",
     "rgb is true or false",
     "columns-mm is a list of numbers",
+    "colour-spaces is a list of names",
     "there is no limit %1",
     "there is no rule %1",
     "%1 is one of: error, warning, note, off",
@@ -94,6 +96,7 @@ inline constexpr std::array figureSentences{
 
 /// Those at whose places stands what a document calls something, and be it "grey".
 inline constexpr std::array figureNames{
+    "it names the colour space %1, which the profile does not",
     "there is the spot ink %1",
     "the file needs fonts that it does not bring: %1",
     "%%BoundingBox holds \"%1\" instead of four numbers",

@@ -15,6 +15,7 @@
 #include "cli/job.h"
 #include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
+#include "picture/eps_image_rep.h"
 #include "picture/open_picture.h"
 #include "protocol/limits.h"
 #include "types/type_identification.h"
@@ -26,6 +27,9 @@ Result<SeparatedPage> inksOf(PictureService& service, PictureSource source, cons
                              const PictureLimits& limits, const SeparationRequest& request) {
   const Result<PictureKind> kind = pictureKindOf(source.bytes, source.typeIdentifier);
   if (!kind) return kind.error();
+  // What no other command opens is not run as a program either.
+  if (*kind == PictureKind::Eps)
+    if (const Result<QRectF> box = NSEPSImageRep::boxOf(source.bytes); !box) return box.error();
   const Interruption interruption;
   const TimeLimit time(std::chrono::seconds(limits.seconds), interruption.token());
   const Result<QStringList> read = readAsOptioned(service, source, reader, limits, time.token());

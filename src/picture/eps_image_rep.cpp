@@ -20,21 +20,8 @@ bool beginsPostScript(QByteArrayView postScript, bool statesBox) {
   return first.startsWith("%!") || (statesBox && first.startsWith("%") && !first.startsWith("%PDF-"));
 }
 
-}  // namespace
-
-NSEPSImageRep::NSEPSImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, QRectF box,
-                             std::optional<QRectF> hiRes)
-    : NSImageRep(PictureKind::Eps, std::move(bytes), std::move(process)),
-      boundingBox_(box),
-      hiResBoundingBox_(hiRes) {}
-
-QStringList NSEPSImageRep::warnings() const {
-  return epsMissingParts(sourceBytes());
-}
-
-Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureService& service,
-                                                                       const QByteArray& bytes,
-                                                                       const PictureLimits& limits) {
+/// Of a file that can be opened; one of them is usable.
+Result<EpsBoundingBoxes> boxesOf(const QByteArray& bytes) {
   if (bytes.isEmpty()) return Error{ErrorKind::NotParsable, QStringLiteral("the file is empty")};
   const EpsBoundingBoxes boxes = epsBoundingBoxes(bytes);
   const std::optional<QRectF> box = epsPictureBox(boxes);
@@ -47,8 +34,34 @@ Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureSe
   if (!box)
     return Error{ErrorKind::NotParsable,
                  QStringLiteral("the PostScript header states no usable bounding box")};
-  return shared(
-      new NSEPSImageRep(bytes, service.open(bytes, PictureKind::Eps, limits), *box, boxes.hiResBoundingBox));
+  return boxes;
+}
+
+}  // namespace
+
+NSEPSImageRep::NSEPSImageRep(QByteArray bytes, std::shared_ptr<PictureProcess> process, QRectF box,
+                             std::optional<QRectF> hiRes)
+    : NSImageRep(PictureKind::Eps, std::move(bytes), std::move(process)),
+      boundingBox_(box),
+      hiResBoundingBox_(hiRes) {}
+
+QStringList NSEPSImageRep::warnings() const {
+  return epsMissingParts(sourceBytes());
+}
+
+Result<QRectF> NSEPSImageRep::boxOf(const QByteArray& bytes) {
+  const Result<EpsBoundingBoxes> boxes = boxesOf(bytes);
+  if (!boxes) return boxes.error();
+  return *epsPictureBox(*boxes);
+}
+
+Result<std::shared_ptr<NSEPSImageRep>> NSEPSImageRep::imageRepWithData(PictureService& service,
+                                                                       const QByteArray& bytes,
+                                                                       const PictureLimits& limits) {
+  const Result<EpsBoundingBoxes> boxes = boxesOf(bytes);
+  if (!boxes) return boxes.error();
+  return shared(new NSEPSImageRep(bytes, service.open(bytes, PictureKind::Eps, limits),
+                                  *epsPictureBox(*boxes), boxes->hiResBoundingBox));
 }
 
 }  // namespace norvex

@@ -15,6 +15,9 @@ class NSEPSImageRep final : public NSImageRep {
                                                                  const QByteArray& bytes,
                                                                  const PictureLimits& limits = {});
 
+  /// The box of a file that can be opened, points. Fails as imageRepWithData().
+  [[nodiscard]] static Result<QRectF> boxOf(const QByteArray& bytes);
+
   /// The file's bytes, binary header and preview sections included.
   [[nodiscard]] QByteArray EPSRepresentation() const { return sourceBytes(); }
   /// `%%BoundingBox` in PostScript's default user space, points.

@@ -102,6 +102,20 @@ class InksToolsTest : public QObject {
     QVERIFY(ran.out.isEmpty());
   }
 
+  /// As a Macintosh wraps it: the wrapping is not the beginning of the program.
+  void whatDoesNotBeginAsAProgramIsRefusedInTheWordsOfOtherCommands() {
+    const QTemporaryDir folder;
+    QByteArray header(128, '\0');
+    header[1] = 5;
+    header.replace(2, 5, "a.eps");
+    const QString file = written(folder, "a.eps", header + kEps);
+    const kit::Ran ran = kit::norvex({"inks", file});
+    QCOMPARE(ran.exitCode, 3);
+    QCOMPARE(ran.err, kit::norvex({"convert", file, "-o", folder.filePath("a.png")}).err);
+    QCOMPARE(ran.err.count('\n'), 1);
+    QVERIFY(ran.err.contains("it does not begin with %!"));
+  }
+
   void standardInputHasInksToo() {
     const kit::Ran ran = kit::norvex({"inks", "-"}, kEps);
     QCOMPARE(ran.exitCode, 0);

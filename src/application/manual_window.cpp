@@ -16,6 +16,7 @@
 #include <algorithm>
 
 #include "base/localized_string.h"
+#include "ui/panels/centred_window.h"
 
 namespace norvex {
 namespace {
@@ -115,7 +116,7 @@ ManualWindow::ManualWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
     search_->selectAll();
   });
   fill();
-  resize(900, 640);
+  resize(sizeForTexts(*this, {900, 640}));
   search_->setFocus();
 }
 

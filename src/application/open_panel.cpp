@@ -6,9 +6,13 @@
 #include "base/localized_string.h"
 #include "document/document_types.h"
 #include "types/document_kind.h"
+#include "ui/panels/centred_window.h"
+#include "ui/panels/file_columns.h"
 
 namespace norvex {
 namespace {
+
+constexpr QSize kSize(780, 480);
 
 /// "Title (*.eps *.EPS)": the panel's patterns tell letter cases apart, files from old disks are in capitals.
 QString filter(const char* title, const QStringList& extensions) {
@@ -29,9 +33,15 @@ QStringList openPanelFilters() {
 }
 
 QList<QUrl> runOpenPanel(QWidget* parent, const QString& folder) {
-  return QFileDialog::getOpenFileUrls(parent, localizedString("Open"),
-                                      QUrl::fromLocalFile(folder.isEmpty() ? QDir::homePath() : folder),
-                                      openPanelFilters().join(";;"), nullptr, {}, {"file"});
+  QFileDialog panel(parent, localizedString("Open"), folder.isEmpty() ? QDir::homePath() : folder);
+  panel.setFileMode(QFileDialog::ExistingFiles);
+  panel.setNameFilters(openPanelFilters());
+  panel.setSupportedSchemes({QStringLiteral("file")});
+  showWholeColumns(panel);
+  showWholePlaces(panel);
+  nameFolders(panel);
+  panel.resize(fittingScreen(panel, sizeForTexts(panel, kSize)));
+  return panel.exec() == QDialog::Accepted ? panel.selectedUrls() : QList<QUrl>();
 }
 
 }  // namespace norvex

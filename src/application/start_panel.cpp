@@ -19,6 +19,7 @@
 #include "application/recent_file_delegate.h"
 #include "application/recent_files.h"
 #include "base/localized_string.h"
+#include "ui/panels/centred_window.h"
 #include "ui/style/quiet_text.h"
 
 namespace norvex {
@@ -86,8 +87,8 @@ StartPanel::StartPanel(RecentFiles& recent, QWidget* parent) : QWidget(parent), 
   columns->addWidget(makeRecent(), 11);
   connect(&recent_, &RecentFiles::changed, this, &StartPanel::fillRecent);
   fillRecent();
-  setMinimumSize(560, 340);
-  resize(720, 420);
+  setMinimumSize(sizeForTexts(*this, {560, 340}));
+  resize(sizeForTexts(*this, {720, 420}));
   open_->setFocus();
 }
 

@@ -25,6 +25,7 @@
 #include "picture/early_picture.h"
 #include "programs/application_entry.h"
 #include "protocol/start_trace.h"
+#include "ui/controls/control_accessible.h"
 #include "ui/panels/alert_box.h"
 #include "ui/panels/clipboard_keeper.h"
 #include "window/about_box.h"
@@ -67,6 +68,7 @@ int runWindows(int argc, char** argv, WorkerService& worker) {
   traceStep("application object made");
   fonts.join();
   installStringTables();
+  installControlAccessibility();
   setConfinementWords(toldConfinement);
   QtAlertPresenter alerts;
   DocumentApplication documents(application.events(), service, [&alerts] {

@@ -10,6 +10,7 @@
 #include <QScrollArea>
 #include <QSettings>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
@@ -22,10 +23,13 @@
 #include "kit/test_main.h"
 #include "picture/process/null_picture_service.h"
 #include "print/memory_printing.h"
+#include "ui/controls/control_accessible.h"
 #include "ui/export/export_dialog.h"
 #include "ui/pages/rectangle_dialog.h"
 #include "ui/panels/preferences_panel.h"
+#include "ui/panels/save_sheet.h"
 #include "ui/panels/shortcut_panel.h"
+#include "ui/picture/message_bar.h"
 #include "ui/print/page_layout_sheet.h"
 #include "ui/print/print_panel.h"
 #include "ui/style/outlined_style.h"
@@ -107,6 +111,35 @@ Made printing() {
   return made<PrintPanel>(needs, *needs->operation, needs->spooler, nullptr);
 }
 
+Made pageSetup() {
+  return made<PageLayoutSheet>(std::make_shared<int>(), NSPrintInfo(), nullptr);
+}
+
+Made saving() {
+  SavePanelSettings settings;
+  settings.directoryURL = QUrl::fromLocalFile(QDir::tempPath());
+  settings.nameFieldStringValue = "a";
+  return made<SaveSheet>(std::make_shared<int>(), nullptr, settings);
+}
+
+/// All that may stand beside, above and below the picture.
+Made crowded() {
+  const auto needs = std::make_shared<WindowFixture>();
+  MemoryPicture picture;
+  picture.facts.layers = {{"Red", true}, {"", false}};
+  picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(0, 0, 300, 400)};
+  picture.facts.pageCount = 2;
+  needs->service.setPicture(picture);
+  MainWindowController& c = needs->loaded("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+  c.window()->resize(780, 780);
+  c.window()->show();
+  for (const char* name : {"pageThumbnailsAction", "layersAction", "inspectorInWindowAction"})
+    c.window()->findChild<QAction*>(QLatin1String(name))->trigger();
+  c.findChild<QAction*>("findInPictureAction")->trigger();
+  c.messageBar()->showMessage(MessageBar::Kind::Warning, "It is so.", "Do", "Why", "Do not");
+  return {needs, nullptr, c.window()};
+}
+
 Made shortcuts() {
   struct Needs {
     WindowFixture fixture;
@@ -181,13 +214,20 @@ class AllWindowsTest : public QObject {
     QTest::newRow("export") << &exporting;
     QTest::newRow("rectangle") << &rectangle;
     QTest::newRow("print") << &printing;
+    QTest::newRow("page setup") << &pageSetup;
+    QTest::newRow("save") << &saving;
     QTest::newRow("shortcuts") << &shortcuts;
     QTest::newRow("document") << &document;
     QTest::newRow("inspector") << &inspector;
   }
 
  private slots:
-  void everyControlHasANameAndARole_data() { everyWindow(); }
+  void initTestCase() { installControlAccessibility(); }  // as the program does when it starts
+
+  void everyControlHasANameAndARole_data() {
+    everyWindow();
+    QTest::newRow("all beside the picture") << &crowded;
+  }
   void everyControlHasANameAndARole() {
     QFETCH(Maker, maker);
     const Made made = maker();
@@ -197,7 +237,10 @@ class AllWindowsTest : public QObject {
   }
 
   /// Somebody who goes through a window with Tab sees where the keyboard is.
-  void theFocusIsSeen_data() { everyWindow(); }
+  void theFocusIsSeen_data() {
+    everyWindow();
+    QTest::newRow("all beside the picture") << &crowded;
+  }
   void theFocusIsSeen() {
     QFETCH(Maker, maker);
     const Made made = maker();
@@ -208,8 +251,10 @@ class AllWindowsTest : public QObject {
     for (QWidget* widget : made.window->findChildren<QWidget*>()) {
       const bool reached = (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && widget->isVisible() &&
                            widget->isEnabled() && !widget->focusProxy() && widget->window() == made.window;
-      // What only scrolls has nothing to mark.
-      if (!reached || qobject_cast<QTextBrowser*>(widget) || qobject_cast<QScrollArea*>(widget)) continue;
+      // What only scrolls has nothing to mark, and a list of places marks the one that is shown.
+      const bool marksNothing = qobject_cast<QTextBrowser*>(widget) || qobject_cast<QScrollArea*>(widget) ||
+                                widget->objectName() == QLatin1String("sidebar");
+      if (!reached || marksNothing) continue;
       if (QWidget* now = QApplication::focusWidget()) now->clearFocus();
       // The button for Return is marked as long as no other one is.
       const auto* button = qobject_cast<QPushButton*>(widget);
@@ -317,6 +362,12 @@ class AllWindowsTest : public QObject {
             (widget->width() < widget->sizeHint().width() - 2 ||
              widget->height() < widget->sizeHint().height() - 2))
           cut << widget->accessibleName() + widget->objectName();
+      for (const QTabBar* tabs : made.window->findChildren<QTabBar*>())
+        if (tabs->isVisible() && tabs->width() < tabs->sizeHint().width()) cut << "the tabs";
+      for (const QLineEdit* field : made.window->findChildren<QLineEdit*>())
+        if (field->isVisible() && field->isReadOnly() && field->inherits("norvex::FactField") &&
+            field->width() < 10 * field->fontMetrics().averageCharWidth())
+          cut << field->accessibleName();
     }
     QApplication::setFont(usual);
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join('\n')));

@@ -54,6 +54,8 @@ FindingRow::FindingRow(const Finding& finding, QWidget* parent)
   if (finding.rect || finding.line) setCursor(Qt::PointingHandCursor);
   QStringList said{severity, text.sentence, text.where, text.figures, text.mend};
   said.removeAll(QString());
+  for (QString& each : said)
+    if (each.endsWith(u'.')) each.chop(1);
   setAccessibleName(said.join(QStringLiteral(". ")));
   showIcon();
 }

@@ -35,18 +35,34 @@ class ColorWellAccessible final : public QAccessibleWidget {
   [[nodiscard]] ColorWell* well() const { return static_cast<ColorWell*>(object()); }
 };
 
+/// A plain widget, which is a window while it stands alone: a screen reader tells the title of those.
+class PlainAccessible final : public QAccessibleWidget {
+ public:
+  explicit PlainAccessible(QWidget* widget) : QAccessibleWidget(widget) {}
+
+  QAccessible::Role role() const override {
+    return widget()->isWindow() ? QAccessible::Window : QAccessibleWidget::role();
+  }
+};
+
 struct RoleOf {
   const char* className;
   QAccessible::Role role;
 };
 
-constexpr std::array<RoleOf, 7> kRoles{{{"norvex::NorvexViewWidget", QAccessible::Graphic},
-                                        {"norvex::ZyImageView", QAccessible::Graphic},
-                                        {"norvex::ZyForm", QAccessible::Form},
-                                        {"norvex::NumberMatrix", QAccessible::Grouping},
-                                        {"norvex::PathControl", QAccessible::StaticText},
-                                        {"norvex::SourceFindBar", QAccessible::ToolBar},
-                                        {"norvex::TouchStrip", QAccessible::ToolBar}}};
+constexpr std::array<RoleOf, 13> kRoles{{{"norvex::NorvexViewWidget", QAccessible::Graphic},
+                                         {"norvex::SeparationView", QAccessible::Graphic},
+                                         {"norvex::PageLayoutPreview", QAccessible::Graphic},
+                                         {"norvex::ZoomingScrollArea", QAccessible::Pane},
+                                         {"QScrollArea", QAccessible::Pane},
+                                         {"QKeySequenceEdit", QAccessible::EditableText},
+                                         {"norvex::MessageBar", QAccessible::AlertMessage},
+                                         {"norvex::ZyImageView", QAccessible::Graphic},
+                                         {"norvex::ZyForm", QAccessible::Form},
+                                         {"norvex::NumberMatrix", QAccessible::Grouping},
+                                         {"norvex::PathControl", QAccessible::StaticText},
+                                         {"norvex::SourceFindBar", QAccessible::ToolBar},
+                                         {"norvex::TouchStrip", QAccessible::ToolBar}}};
 
 QAccessibleInterface* make(const QString& className, QObject* object) {
   auto* widget = qobject_cast<QWidget*>(object);
@@ -55,7 +71,7 @@ QAccessibleInterface* make(const QString& className, QObject* object) {
     return new ColorWellAccessible(well);  // Qt takes ownership
   for (const RoleOf& each : kRoles)
     if (className == QLatin1String(each.className)) return new QAccessibleWidget(widget, each.role);
-  return nullptr;
+  return className == QLatin1String("QWidget") ? new PlainAccessible(widget) : nullptr;
 }
 
 }  // namespace

@@ -61,7 +61,10 @@ void ZyForm::setText(int index, const QString& text) {
   QLineEdit* entry = cellAtIndex(index);
   entry->setText(text);
   entry->setCursorPosition(0);
-  entry->setToolTip(text.size() > 24 ? QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()) : QString());
+  const bool isLong = text.size() > 24;
+  entry->setToolTip(isLong ? QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()) : QString());
+  // Otherwise the tip would be read out, markup and all.
+  entry->setAccessibleDescription(isLong ? text : QString());
 }
 
 void ZyForm::setRowVisible(int index, bool visible) {

@@ -1,5 +1,6 @@
 #include "ui/panels/centred_window.h"
 
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QMargins>
 #include <QScreen>
@@ -29,6 +30,12 @@ void centreOver(QWidget& window, const QWidget* other) {
 QSize fittingScreen(const QWidget& window, const QSize& wanted) {
   const QScreen* screen = window.screen();
   return screen ? wanted.boundedTo(screen->availableGeometry().marginsRemoved(kFrame).size()) : wanted;
+}
+
+QSize sizeForTexts(const QWidget& window, const QSize& usual) {
+  constexpr double kUsual = 14;  // logical pixels: 10.5 points
+  const double larger = QFontInfo(window.font()).pixelSize() / kUsual;
+  return larger > 1 ? fittingScreen(window, usual * larger) : usual;
 }
 
 }  // namespace norvex

@@ -1,8 +1,10 @@
 // The lists of files and places in a dialogue of our own.
 #pragma once
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QLabel>
 #include <QListView>
 #include <QTreeView>
 
@@ -28,6 +30,13 @@ inline void showWholePlaces(QFileDialog& dialog) {
   const int whole = places->sizeHintForColumn(0) + 2 * places->frameWidth();
   places->setMinimumWidth(std::min(whole, kLetters * places->fontMetrics().averageCharWidth()));
   places->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+/// The list of folders says what it is to who cannot see the words beside it.
+inline void nameFolders(QFileDialog& dialog) {
+  auto* title = dialog.findChild<QLabel*>(QStringLiteral("lookInLabel"));
+  auto* folders = dialog.findChild<QComboBox*>(QStringLiteral("lookInCombo"));
+  if (title && folders) title->setBuddy(folders);
 }
 
 }  // namespace norvex

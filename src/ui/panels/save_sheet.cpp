@@ -61,7 +61,8 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   arrange();
   showWholeColumns(*this);
   showWholePlaces(*this);
-  resize(fittingScreen(*this, kSize));
+  nameFolders(*this);
+  resize(fittingScreen(*this, sizeForTexts(*this, kSize)));
   selectFile(settings_.nameFieldStringValue);
   showName();
 }

@@ -66,7 +66,8 @@ ShortcutPanel::ShortcutPanel(QWidget& window, const QMenuBar& menus) : QDialog(&
     showCommand();
   });
   showCommand();
-  resize(fittingScreen(*this, {std::max(540, list_->wholeWidth()), 640}));
+  const QSize usual = sizeForTexts(*this, {540, 640});
+  resize(fittingScreen(*this, usual.expandedTo({list_->wholeWidth(), 0})));
 }
 
 void ShortcutPanel::addSearch(QVBoxLayout& column, const QMenuBar& menus) {

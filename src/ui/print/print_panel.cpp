@@ -103,7 +103,8 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
     dialog.selectFile(suggestion);
     showWholeColumns(dialog);
     showWholePlaces(dialog);
-    dialog.resize(fittingScreen(dialog, kFileDialogSize));
+    nameFolders(dialog);
+    dialog.resize(fittingScreen(dialog, sizeForTexts(dialog, kFileDialogSize)));
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
   };
   mayReplace = [this](const QString& path) {

@@ -28,6 +28,7 @@
 #include "ui/controls/number_matrix.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/panels/centred_window.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
 #include "ui/source/source_text_edit.h"
@@ -191,7 +192,8 @@ void InspectorCommand::place() {
   if (std::exchange(placed_, true)) return;
   const QRect beside = parts_.mainWindow()->frameGeometry();
   const QRect screen = parts_.mainWindow()->screen()->availableGeometry();
-  QSize size = parts_.inspectorWindow->size().boundedTo(screen.size() - QSize(0, 48));
+  const QSize usual = sizeForTexts(*parts_.inspectorWindow, parts_.inspectorWindow->size());
+  const QSize size = usual.boundedTo(screen.size() - QSize(0, 48));
   parts_.inspectorWindow->resize(size);
   int x = beside.right() + 8;
   if (x + size.width() > screen.right()) x = beside.left() - size.width() - 8;

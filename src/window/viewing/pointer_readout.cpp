@@ -33,6 +33,10 @@ class ReadoutField final : public QToolButton {
   [[nodiscard]] QSize minimumSizeHint() const override { return {0, heightOfText()}; }
 
  private:
+  [[nodiscard]] bool isSeen() const {
+    constexpr int kEdges = 10;  // of the style, at both sides
+    return fontMetrics().horizontalAdvance(text()) + kEdges <= width();
+  }
   /// The window's size counts on a foot that keeps its height, and without a picture there is no text.
   [[nodiscard]] int heightOfText() const {
     QStyleOptionToolButton option;
@@ -44,8 +48,12 @@ class ReadoutField final : public QToolButton {
  protected:
   void paintEvent(QPaintEvent* event) override {
     // Half a number is worse than none.
-    constexpr int kEdges = 10;  // of the style, at both sides
-    if (fontMetrics().horizontalAdvance(text()) + kEdges <= width()) QToolButton::paintEvent(event);
+    if (isSeen()) QToolButton::paintEvent(event);
+  }
+  void resizeEvent(QResizeEvent* event) override {
+    // Nobody is to look for a keyboard that has gone where nothing is.
+    setFocusPolicy(isSeen() ? Qt::TabFocus : Qt::NoFocus);
+    QToolButton::resizeEvent(event);
   }
 };
 

@@ -128,6 +128,7 @@ bool ZoomingScrollArea::eventFilter(QObject* watched, QEvent* event) {
       return pan(event);
     case QEvent::NativeGesture: {
       auto* native = static_cast<QNativeGestureEvent*>(event);
+      if (native->gestureType() == Qt::PanNativeGesture) return scrollBy(-native->delta()), true;
       if (native->gestureType() != Qt::ZoomNativeGesture) return false;
       pinchTo(scrollView_.factor() * (1 + native->value()), native->globalPosition());
       return true;

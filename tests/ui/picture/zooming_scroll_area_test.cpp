@@ -1,5 +1,7 @@
 // Layout of bars and menu, wheel, keys, panning and what is painted.
 #include <QComboBox>
+#include <QNativeGestureEvent>
+#include <QPointingDevice>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -32,6 +34,13 @@ struct Area {
   void wheel(QPoint angle, Qt::KeyboardModifiers modifiers, QPointF at = {100, 50}) {
     QWheelEvent event(at, area.mapToGlobal(at), {}, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&area, &event);
+  }
+  /// As a touchpad tells it, at (300, 120).
+  void gesture(Qt::NativeGestureType type, double value, QPointF delta) {
+    const QPointF at(300, 120);
+    QNativeGestureEvent event(type, QPointingDevice::primaryPointingDevice(), 2, at, at,
+                              widget->mapToGlobal(at), value, delta);
+    QCoreApplication::sendEvent(widget, &event);
   }
   /// A picture that can be selected from, of that size.
   void givePicture(const QSizeF& size = {1000, 800}) {
@@ -155,6 +164,35 @@ class ZoomingScrollAreaTest : public QObject {
     QCOMPARE(a.area.scrollView().factor(), 1.25);
     const QPointF now = a.widget->toView({100, 50});
     QVERIFY(std::abs(now.x() - under.x()) <= 0.5 && std::abs(now.y() - under.y()) <= 0.5);
+  }
+
+  void aPinchZoomsBetweenTheFingers() {
+    Area a;
+    a.area.verticalBar()->setValue(200);
+    a.area.horizontalBar()->setValue(200);
+    const QPointF under = a.widget->toView({300, 120});
+    a.gesture(Qt::ZoomNativeGesture, 0.25, {});
+    a.gesture(Qt::ZoomNativeGesture, 0.2, {});
+    QCOMPARE(a.area.scrollView().factor(), 1.5);
+    const QPointF now = a.widget->toView({300, 120});
+    QVERIFY(std::abs(now.x() - under.x()) <= 0.5 && std::abs(now.y() - under.y()) <= 0.5);
+    for (int i = 0; i < 40; ++i) a.gesture(Qt::ZoomNativeGesture, 0.5, {});
+    QCOMPARE(a.area.scrollView().factor(), 16.0);
+    for (int i = 0; i < 40; ++i) a.gesture(Qt::ZoomNativeGesture, -0.9, {});
+    QCOMPARE(a.area.scrollView().factor(), 0.01);
+  }
+
+  void twoFingersTakeThePictureAlong() {
+    Area a;
+    QWheelEvent event({100, 50}, a.area.mapToGlobal(QPointF(100, 50)), {-30, -70}, {-15, -35}, Qt::NoButton,
+                      Qt::NoModifier, Qt::ScrollUpdate, false);
+    QCoreApplication::sendEvent(&a.area, &event);
+    QCOMPARE(a.area.horizontalBar()->value(), 30);  // to the pixel, not in notches
+    QCOMPARE(a.area.verticalBar()->value(), 70);
+    a.gesture(Qt::PanNativeGesture, 0, {-10, 20});
+    QCOMPARE(a.area.horizontalBar()->value(), 40);
+    QCOMPARE(a.area.verticalBar()->value(), 50);
+    QCOMPARE(a.area.scrollView().factor(), 1.0);
   }
 
   void theMiddleButtonPans() {

@@ -14,7 +14,6 @@
 #include <utility>
 
 #include "application/file_watcher.h"
-#include "application/folder_neighbours.h"
 #include "application/open_panel.h"
 #include "base/localized_string.h"
 #include "base/state_folder.h"
@@ -115,8 +114,19 @@ void DocumentApplication::offerLeftSessions() {
 }
 
 void DocumentApplication::documentWillShow(Document* document) {
-  const auto view = keeper_.view(document->fileURL());
-  if (view && document->windowController()) document->windowController()->setFirstView(*view);
+  DocumentWindowController* const controller = document->windowController();
+  if (!controller) return;
+  std::optional<PictureView> view = keeper_.view(document->fileURL());
+  if (DocumentWindowController* const before = shownBefore(document->fileURL())) {
+    before->rememberFrame();
+    const std::optional<PictureView> shown = before->pictureView();
+    // Fitting was chosen for what this window shows, picture after picture; a zoom was chosen for one.
+    if (shown && shown->fit != KeptFit::Nothing) {
+      view = view.value_or(PictureView());
+      view->fit = shown->fit;
+    }
+  }
+  if (view) controller->setFirstView(*view);
 }
 
 void DocumentApplication::startForDesktop(int patienceMilliseconds) {
@@ -262,37 +272,6 @@ void DocumentApplication::equipWindow(QMainWindow* window) {
   menu->insertMenu(first, recent);
   menu->insertSeparator(first);
   OwnShortcuts::shared().apply(*window);
-}
-
-void DocumentApplication::addNeighbours(QMainWindow* window) {
-  auto* menu = window->findChild<QMenu*>(QStringLiteral("goMenu"));
-  if (!menu) return;
-  menu->addSeparator();
-  const auto add = [&](const char* title, const char* name, const QKeySequence& key, int step) {
-    QAction* action = menu->addAction(localizedString(title));
-    action->setObjectName(QLatin1String(name));
-    action->setShortcut(key);
-    connect(action, &QAction::triggered, this, [this, window, step] { showNeighbour(window, step); });
-  };
-  add("Next Picture in F&older", "nextPictureAction", Qt::ALT | Qt::Key_Right, 1);
-  add("Previous Pictu&re in Folder", "previousPictureAction", Qt::ALT | Qt::Key_Left, -1);
-}
-
-void DocumentApplication::showNeighbour(QMainWindow* window, int step) {
-  const QUrl url = neighbourOf(QUrl::fromLocalFile(window->windowFilePath()), step);
-  if (url.isEmpty()) return QApplication::beep();
-  replaced_.insert(url, window);
-  documents_.openDocuments({url});
-}
-
-void DocumentApplication::replaceWindow(Document* document) {
-  const QPointer<QMainWindow> old = replaced_.take(document->fileURL());
-  if (!old) return;
-  const QPoint place = old->pos();
-  old->close();
-  for (QWidget* widget : QApplication::topLevelWidgets())
-    if (qobject_cast<QMainWindow*>(widget) && widget->windowFilePath() == document->fileURL().toLocalFile())
-      widget->move(place);
 }
 
 void DocumentApplication::fillRecentMenu(QMenu* menu) {

@@ -92,6 +92,8 @@ class DocumentApplication final : public QObject {
   void addNeighbours(QMainWindow* window);
   void showNeighbour(QMainWindow* window, int step);
   void replaceWindow(Document* document);
+  /// Of the document whose window goes when that file has opened; null: there is none.
+  [[nodiscard]] DocumentWindowController* shownBefore(const QUrl& url) const;
 
   WaitingThreadsEnd threadsEnd_;  ///< first, so that it ends last
   ApplicationEvents& events_;

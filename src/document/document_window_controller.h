@@ -37,6 +37,8 @@ class DocumentWindowController {
   [[nodiscard]] virtual NorvexView* imageView() { return nullptr; }
   /// How the picture is shown now; nothing while there is none.
   [[nodiscard]] virtual std::optional<PictureView> pictureView() const { return {}; }
+  /// The next window takes the size of this one, as if this had been closed.
+  virtual void rememberFrame() {}
   /// The picture shall be shown so when it has been read for the first time.
   virtual void setFirstView(const PictureView&) {}
   /// The file on disk is another one than was read, and is whole: offer to reload it, quietly.

@@ -27,15 +27,24 @@ struct Entry {
 };
 
 QStringList written(const Entry& entry) {
-  return {entry.path, QString::number(entry.time), QString::number(entry.view.zoom, 'g', 17),
-          QString::number(entry.view.degrees, 'g', 17), QString::number(entry.view.page)};
+  return {entry.path,
+          QString::number(entry.time),
+          QString::number(entry.view.zoom, 'g', 17),
+          QString::number(entry.view.degrees, 'g', 17),
+          QString::number(entry.view.page),
+          QString::number(static_cast<int>(entry.view.fit))};
 }
 
 /// The file may have been edited by hand.
 std::optional<Entry> entryFrom(const QStringList& fields) {
-  if (fields.size() != 5) return std::nullopt;
+  // Without the last, which was not told of once.
+  if (fields.size() != 5 && fields.size() != 6) return std::nullopt;
+  const int fit = fields.value(5).toInt();
+  if (fit < 0 || fit > static_cast<int>(KeptFit::Width)) return std::nullopt;
   const Entry entry{
-      fields[0], fields[1].toLongLong(), {fields[2].toDouble(), fields[3].toDouble(), fields[4].toInt()}};
+      fields[0],
+      fields[1].toLongLong(),
+      {fields[2].toDouble(), fields[3].toDouble(), fields[4].toInt(), static_cast<KeptFit>(fit)}};
   const PictureView& view = entry.view;
   const bool sane =
       std::isfinite(view.zoom) && view.zoom > 0 && std::isfinite(view.degrees) && view.page >= 0;

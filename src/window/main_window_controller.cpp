@@ -15,6 +15,7 @@
 #include "ui/controls/control_accessible.h"
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/controls/zy_form.h"
+#include "ui/panels/centred_window.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
@@ -81,6 +82,8 @@ void MainWindowController::takeWindow() {
   window_->setParent(nullptr, Qt::Window);
   window_->setAttribute(Qt::WA_Moved,
                         false);  // the interface file's origin is no wish for a place on the screen
+  for (QWidget* window : {static_cast<QWidget*>(window_), ui_->inspectorWindow})
+    window->setMinimumSize(sizeForTexts(*window, window->minimumSize()));
   scrollArea_ = ui_->zoomingScrollView;
   viewWidget_ = ui_->view;
   scrollArea_->setDocumentWidget(viewWidget_);
@@ -179,13 +182,17 @@ void MainWindowController::take(const DocumentContents& contents, bool again) {
   if (stays)
     return commands_.messages.pictureStays(contents.error.value_or(Error{ErrorKind::CannotRead, {}}));
   if (contents.imageRep) passwords->documentDidOpen();
+  const bool comesBack = findChild<LiveFile*>()->comesBack();
+  commands_.sizing.hold();
   commands_.controls.setUp();
   showContents(contents);
   finishSetUp();
   commands_.shownView.takeFirst();
+  if (!comesBack) commands_.sizing.release();
   commands_.sizing.firstPictureIsShown();
   if (!again) tell(contents.lost);
   emit documentShown();
+  if (comesBack) commands_.sizing.release();
 }
 
 void MainWindowController::showContents(const DocumentContents& contents) {

@@ -49,6 +49,7 @@ class MainWindowController final : public QObject,
   PictureProducers* producers() override { return &commands_.producers; }
   [[nodiscard]] NorvexView* imageView() override { return view(); }
   [[nodiscard]] std::optional<PictureView> pictureView() const override { return commands_.shownView.now(); }
+  void rememberFrame() override { commands_.sizing.saveFrame(); }
   void setFirstView(const PictureView& view) override { commands_.shownView.setFirst(view); }
 
   /// Loads the interface file on the first call; does not show it and does not read the document.

@@ -27,9 +27,10 @@ void setUpPasswords(MainWindowController& controller, LoadingCommand& loading) {
   });
 }
 
-void setUpLayers(MainWindowController& controller, LoadingCommand& loading, LiveFile& live, QMenu& menu) {
+void setUpLayers(MainWindowController& controller, LoadingCommand& loading, LiveFile& live,
+                 WindowSizingCommand& sizing, QMenu& menu) {
   MainWindowController* const c = &controller;
-  auto* layers = new LayersCommand(controller, c);
+  auto* layers = new LayersCommand(controller, sizing, c);
   layers->setUp(menu);
   QObject::connect(c, &MainWindowController::documentShown, layers, &LayersCommand::documentDidChange);
   QObject::connect(layers, &LayersCommand::layersStayed, c,
@@ -67,9 +68,9 @@ void setUpText(MainWindowController& controller, PagesCommand& pages) {
 }  // namespace
 
 void setUpReader(MainWindowController& controller, LoadingCommand& loading, LiveFile& live,
-                 PagesCommand& pages, QMenu& menu) {
+                 PagesCommand& pages, WindowSizingCommand& sizing, QMenu& menu) {
   setUpPasswords(controller, loading);
-  setUpLayers(controller, loading, live, menu);
+  setUpLayers(controller, loading, live, sizing, menu);
   setUpText(controller, pages);
 }
 

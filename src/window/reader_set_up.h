@@ -9,11 +9,12 @@ class LiveFile;
 class LoadingCommand;
 class MainWindowController;
 class PagesCommand;
+class WindowSizingCommand;
 
 /// Makes the commands of it, which the controller owns, and has the document read again with what is chosen.
 /// `menu` takes the one that is about the document, the window's Edit menu those that are about its text.
 /// Main thread.
 void setUpReader(MainWindowController& controller, LoadingCommand& loading, LiveFile& live,
-                 PagesCommand& pages, QMenu& menu);
+                 PagesCommand& pages, WindowSizingCommand& sizing, QMenu& menu);
 
 }  // namespace norvex

@@ -9,8 +9,10 @@
 #include "ui/controls/zy_dial_knob.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/window_sizing_command.h"
 #include "window/main_window_controller.h"
 #include "window/viewing/pages_command.h"
+#include "window/viewing/sticky_fit.h"
 
 namespace norvex {
 
@@ -36,14 +38,18 @@ void ShownView::takeFirst() {
   const std::optional<PictureView> first = std::exchange(first_, std::nullopt);
   if (!first || !controller_.validateUserInterfaceItem()) return;
   controller_.dialKnob()->turnTo(first->degrees);
-  controller_.zoomingScrollView()->zoomTo(first->zoom);
+  if (first->fit == KeptFit::Nothing) controller_.zoomingScrollView()->zoomTo(first->zoom);
   if (auto* pages = controller_.findChild<PagesCommand*>()) pages->show(first->page);
+  if (first->fit == KeptFit::Nothing) return;
+  sizing_.settleLayout();
+  controller_.findChild<StickyFit*>()->keep(first->fit);
 }
 
 std::optional<PictureView> ShownView::now() const {
   const MainWindowController& c = controller_;
   if (!c.validateUserInterfaceItem()) return std::nullopt;
-  return PictureView{c.zoomFactor(), c.dialKnob()->degreeValue(), c.view()->imageRep()->page()};
+  return PictureView{c.zoomFactor(), c.dialKnob()->degreeValue(), c.view()->imageRep()->page(),
+                     c.findChild<StickyFit*>()->kept()};
 }
 
 }  // namespace norvex

@@ -8,11 +8,13 @@
 namespace norvex {
 
 class MainWindowController;
+class WindowSizingCommand;
 
-/// The controller outlives it. Main thread.
+/// Controller and sizing outlive it. Main thread.
 class ShownView final {
  public:
-  explicit ShownView(MainWindowController& controller) : controller_(controller) {}
+  ShownView(MainWindowController& controller, WindowSizingCommand& sizing)
+      : controller_(controller), sizing_(sizing) {}
 
   /// Upright, at the natural size, from the top; the controller's zoom follows the scroll view from then on.
   void reset();
@@ -25,6 +27,7 @@ class ShownView final {
 
  private:
   MainWindowController& controller_;
+  WindowSizingCommand& sizing_;
   std::optional<PictureView> first_;
   bool followsFactor_ = false;
 };

@@ -35,9 +35,10 @@ QAction* behind(const QMenu& menu, QAction* action) {
 }
 
 PagesCommand* setUpPages(Controller& controller, WindowCommands& commands, QMenu& menu) {
-  auto* pages = new PagesCommand(controller, &controller);
+  auto* pages = new PagesCommand(controller, commands.sizing, &controller);
   pages->setUp(menu);
   QObject::connect(&controller, &Controller::documentShown, pages, &PagesCommand::documentDidChange);
+  QObject::connect(&controller, &Controller::documentShown, pages, &PagesCommand::showStrip);
   QObject::connect(pages, &PagesCommand::pageDidChange, &controller, [c = &controller, &commands] {
     const NSImageRep& page = *c->view()->imageRep();
     commands.messages.watchPicture(std::dynamic_pointer_cast<StoppableProcess>(page.process()));
@@ -47,14 +48,15 @@ PagesCommand* setUpPages(Controller& controller, WindowCommands& commands, QMenu
   return pages;
 }
 
-void setUpFitting(Controller& controller, WindowCommands& commands, PagesCommand& pages,
-                  Ui::MainWindowController& ui) {
+StickyFit* setUpFitting(Controller& controller, WindowCommands& commands, PagesCommand& pages,
+                        Ui::MainWindowController& ui) {
   auto* fit = new StickyFit(controller, &controller);
   QAction* const next = behind(*ui.viewMenu, ui.fitAction);
   ui.viewMenu->insertAction(next, fit->setUp(*ui.fitAction));
   ui.viewMenu->insertAction(ui.fitAction, makeRealSizeAction(controller, *ui.actualSizeAction));
   QObject::connect(&commands.inspector, &InspectorCommand::turned, fit, &StickyFit::fitAgain);
   QObject::connect(&pages, &PagesCommand::pageDidChange, fit, &StickyFit::fitAgain);
+  return fit;
 }
 
 void setUpHistory(Controller& controller, PagesCommand& pages, Ui::MainWindowController& ui) {
@@ -89,10 +91,9 @@ void setUpChoices(Controller& controller, Ui::MainWindowController& ui) {
 void setUpSurroundings(Controller& controller, WindowCommands& commands, PagesCommand& pages,
                        Ui::MainWindowController& ui) {
   Controller* const c = &controller;
-  auto* docked = new DockedInspector(controller, commands.inspector, c);
+  auto* docked = new DockedInspector(controller, commands.inspector, commands.sizing, c);
   QAction* const next = behind(*ui.viewMenu, c->inspectorToolbarItem);
   ui.viewMenu->insertActions(next, {docked->setUp(), docked->makeFocusAction()});
-  QObject::connect(docked, &DockedInspector::roomDidChange, c, &Controller::setWindowSize);
   auto* labels = new ToolbarLabels(
       *c->toolbar,
       {c->copyToolbarItem, c->doSaveToToolbarItem, c->doPrintingToolbarItem, c->inspectorToolbarItem}, c);
@@ -127,10 +128,10 @@ void setUpViewing(MainWindowController& controller, WindowCommands& commands, Ui
   go->setObjectName(QStringLiteral("goMenu"));
   controller.menuBar->insertMenu(ui.helpMenu->menuAction(), go);
   PagesCommand& pages = *setUpPages(controller, commands, *go);
-  setUpFitting(controller, commands, pages, ui);
+  StickyFit& fit = *setUpFitting(controller, commands, pages, ui);
   setUpHistory(controller, pages, ui);
-  auto* live = new LiveFile(controller, pages, &controller);
-  setUpReader(controller, commands.loading, *live, pages, *go);
+  auto* live = new LiveFile(controller, pages, fit, &controller);
+  setUpReader(controller, commands.loading, *live, pages, commands.sizing, *go);
   ui.fileMenu->insertAction(ui.closeAction, live->makeAction());
   QObject::connect(&controller, &Controller::documentShown, live, &LiveFile::documentDidChange);
   setUpChoices(controller, ui);

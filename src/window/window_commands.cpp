@@ -25,7 +25,7 @@ WindowCommands::WindowCommands(MainWindowController& controller)
       touchBar(controller, controller,
                [c = &controller](TouchBarAction action) { c->performTouchBarAction(action); }),
       stopping(controller, *this),
-      shownView(controller),
+      shownView(controller, sizing),
       controls(controller, *this),
       menus(controller, *this) {
   connectReading(controller);

@@ -30,6 +30,16 @@ class RememberedViewsTest : public QObject {
     QVERIFY(!RememberedViews(again).view("/tmp/ä; b=/d.pdf"));
   }
 
+  void aZoomThatFollowsTheWindowIsKeptAsOne() {
+    RememberedViews views(*settings_);
+    views.remember("/a.pdf", {2, 0, 0, KeptFit::Width});
+    QVERIFY(views.view("/a.pdf") == PictureView({2, 0, 0, KeptFit::Width}));
+    // As it was written before there was one.
+    const QString key = settings_->allKeys().constFirst();
+    settings_->setValue(key, settings_->value(key).toStringList().mid(0, 5));
+    QVERIFY(views.view("/a.pdf") == PictureView({2, 0, 0}));
+  }
+
   void whatIsShownAsEveryFileAtFirstIsNotKept() {
     RememberedViews views(*settings_);
     views.remember("/a.pdf", {2, 0, 0});
@@ -56,6 +66,7 @@ class RememberedViewsTest : public QObject {
     QTest::newRow("no zoom") << QVariant(QStringList{"/a.pdf", "1", "0", "0", "0"});
     QTest::newRow("endless zoom") << QVariant(QStringList{"/a.pdf", "1", "inf", "0", "0"});
     QTest::newRow("no angle") << QVariant(QStringList{"/a.pdf", "1", "1", "nan", "0"});
+    QTest::newRow("no fit") << QVariant(QStringList{"/a.pdf", "1", "1", "0", "0", "3"});
     QTest::newRow("page before the first") << QVariant(QStringList{"/a.pdf", "1", "1", "0", "-1"});
   }
   void aFileEditedByHandDoesNoHarm() {

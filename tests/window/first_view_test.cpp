@@ -1,7 +1,9 @@
 // A picture that was shown before comes back as it was shown.
 #include <cmath>
 
+#include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
+#include "ui/picture/zooming_scroll_area.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -36,6 +38,38 @@ class FirstViewTest : public QObject {
     QCOMPARE(view->page, 1);
     QCOMPARE(view->zoom, 2.0);
     QCOMPARE(c.view()->imageRep()->page(), 1);
+  }
+
+  void aZoomThatFollowsTheWindowComesBackAsOne() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
+    c.setFirstView({7, 0, 0, KeptFit::Width});
+    c.windowDidLoad();
+    c.window()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(c.window()));
+    QVERIFY(c.pictureView()->fit == KeptFit::Width);
+    const auto fits = [&c] {
+      return std::abs(c.scrollArea()->fittingWidthFactor() / c.zoomFactor() - 1) < 0.01;
+    };
+    QTRY_VERIFY2(fits(), qPrintable(QString::number(c.zoomFactor())));
+    c.window()->resize(500, 500);
+    QTRY_VERIFY2(fits(), qPrintable(QString::number(c.zoomFactor())));
+    c.zoomingScrollView()->zoomTo(1);
+    QVERIFY(c.pictureView()->fit == KeptFit::Nothing);
+  }
+
+  void theNaturalSizeTakesNothingOfTheWindowFromALargerPicture() {
+    for (const PictureView& view : {PictureView{8, 0, 0}, PictureView{1, 0, 0, KeptFit::Whole}}) {
+      WindowFixture fixture;
+      MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
+      c.setFirstView(view);
+      c.window()->resize(700, 640);
+      c.windowDidLoad();
+      QVERIFY2(c.window()->width() == 700, qPrintable(QString::number(c.window()->width())));
+      c.window()->show();
+      QVERIFY(QTest::qWaitForWindowExposed(c.window()));
+      QCOMPARE(c.window()->width(), 700);
+    }
   }
 
   void readAgainItStartsOver() {

@@ -1,16 +1,40 @@
 #include "ui/pages/layer_list.h"
 
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
 
 #include "base/localized_string.h"
 
 namespace norvex {
+namespace {
+
+constexpr int kAround = 6;  ///< logical pixels around a row's words
+
+/// A switch is pressed with ease, and the next one is not.
+class RoomyRow final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& row) const override {
+    return QStyledItemDelegate::sizeHint(option, row).grownBy(QMargins(0, kAround, 0, kAround));
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& row) const override {
+    QStyledItemDelegate::initStyleOption(option, row);
+    option->rect.adjust(kAround, 0, -kAround, 0);
+  }
+};
+
+}  // namespace
 
 LayerList::LayerList(QWidget* parent) : QListWidget(parent) {
   setObjectName(QStringLiteral("layerList"));
   setAccessibleName(localizedString("Layers"));
   setFrameShape(QFrame::NoFrame);
   setUniformItemSizes(true);
+  setItemDelegate(new RoomyRow(this));
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideMiddle);
   connect(this, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) { take(*item); });
@@ -33,7 +57,9 @@ void LayerList::setLayers(const QList<PictureLayer>& layers) {
 
 QSize LayerList::sizeHint() const {
   // Names may be long; the picture is what the window is for.
-  return {fontMetrics().averageCharWidth() * 20, QListWidget::sizeHint().height()};
+  const int letter = fontMetrics().averageCharWidth();
+  const int names = sizeHintForColumn(0) + 4 * kAround;
+  return {std::clamp(names, 22 * letter, 34 * letter), QListWidget::sizeHint().height()};
 }
 
 void LayerList::take(const QListWidgetItem& item) {

@@ -74,7 +74,6 @@ int limited(double length, double ratio) {
 }  // namespace
 
 void WindowSizingCommand::settleLayout() const {
-  // A hidden window does not lay its children out when it is resized, and the rule measures them.
   if (parts_.mainWindow()->isVisible()) return;
   parts_.mainWindow()->ensurePolished();
   parts_.mainWindow()->layout()->invalidate();
@@ -109,7 +108,7 @@ QSizeF WindowSizingCommand::maxSize(const QSizeF& size) const {
 }
 
 void WindowSizingCommand::apply() {
-  if (!parts_.mainWindow()) return;
+  if (!parts_.mainWindow() || held_) return;
   if (parts_.mainWindow()->isFullScreen()) {
     parts_.mainWindow()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     return;
@@ -135,12 +134,22 @@ void WindowSizingCommand::apply() {
   leaveRoomToTheUser();
   if (rule.frame == found.frame || parts_.mainWindow()->isMaximized() || keepsTile_) return;
   const QRect frame = onScreen(rule.frame, ratio);
+  if (before.size() != own_) chosen_ = before.size() - besidePicture();
   own_ = frame.size();
   // Before the window is on the screen its place is the window manager's to choose.
   if (!parts_.mainWindow()->isVisible())
     parts_.mainWindow()->resize(frame.size());
   else
     parts_.mainWindow()->setGeometry(awaits_ ? placeOfLatePicture(before, frame.size()) : frame);
+}
+
+void WindowSizingCommand::release() {
+  held_ = false;
+  apply();
+  if (!parts_.scrollArea() || parts_.mainWindow()->isVisible()) return;
+  // What is not seen hears of its size when it is shown; a copy may be made before.
+  settleLayout();
+  parts_.scrollArea()->setScrollOffset(parts_.scrollArea()->scrollOffset());
 }
 
 QRect WindowSizingCommand::placeOfLatePicture(const QRect& before, const QSize& size) {
@@ -200,10 +209,22 @@ void WindowSizingCommand::shrinkWhenAtRest() {
   if (window.isMaximized() || window.isFullScreen() || isTiled()) return;
   const QSize pulled = window.size(), most = pulled.boundedTo(window.maximumSize());
   if (most == pulled) return apply();
-  chosen_ = pulled;
+  chosen_ = pulled - besidePicture();
   if (countsBar_ != needsBar()) return apply();  // which is about another maximum
   own_ = most;
   window.resize(most);
+}
+
+QSize WindowSizingCommand::besidePicture() const {
+  settleLayout();
+  const QMainWindow& window = *parts_.mainWindow();
+  return {window.centralWidget() ? window.centralWidget()->x() : 0, 0};
+}
+
+void WindowSizingCommand::windowDidGrow(const QSize& before) {
+  const QMainWindow& window = *parts_.mainWindow();
+  if (own_ == before) own_ = window.size();
+  if (placed_ && placed_->size() == before) placed_ = window.geometry();
 }
 
 void WindowSizingCommand::place() {
@@ -212,6 +233,7 @@ void WindowSizingCommand::place() {
   leaveRoomToTheUser();
   awaits_ = !parts_.validateUserInterfaceItem();
   placed_ = placeFor(window.size(), savedFrameMargins());
+  if (own_ == window.size()) own_ = placed_->size();
   // Of the contents: once the platform knows a window, move() would take this for their place, too.
   window.setGeometry(*placed_);
 }
@@ -240,11 +262,11 @@ void WindowSizingCommand::firstPictureIsShown() {
 
 void WindowSizingCommand::restoreFrame() {
   const QRect frame = savedWindowFrame(kFrameName);
-  chosen_ = parts_.mainWindow()->size();
+  chosen_ = own_ = parts_.mainWindow()->size();
   if (!frame.isValid()) return;
   chosen_ = frame.size();
   const QRect place = placedOnScreens(frame, screenRects(), takenPlaces(parts_.mainWindow()));
-  parts_.mainWindow()->resize(place.size());
+  parts_.mainWindow()->resize(own_ = place.size());
   parts_.mainWindow()->move(place.topLeft());
   restored_ = place.topLeft();
 }
@@ -253,7 +275,7 @@ void WindowSizingCommand::saveFrame() const {
   const QMainWindow& window = *parts_.mainWindow();
   if (window.isFullScreen() || window.isMaximized()) return;
   // What the rule made of the window for one picture is no choice for the next.
-  const QSize size = own_.isValid() && window.size() == own_ ? chosen_ : window.size();
+  const QSize size = own_.isValid() && window.size() == own_ ? chosen_ : window.size() - besidePicture();
   saveWindowFrame(kFrameName, QRect(window.pos(), size));
   const QRect outside = window.frameGeometry(), inside = window.geometry();
   saveFrameMargins({inside.left() - outside.left(), inside.top() - outside.top(),

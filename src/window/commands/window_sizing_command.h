@@ -30,6 +30,10 @@ class WindowSizingCommand final {
   /// Gives the window its maximum size and shrinks it to that. Never enlarges it. Where the user has freed
   /// the window from the rule, its size is left alone.
   void apply();
+  /// apply() waits for release(), which does it once: what is shown on the way, at its natural size, takes
+  /// nothing of the window from a picture that is to be shown larger.
+  void hold() { held_ = true; }
+  void release();
   /// Before the window appears for the first time: where, wholly on a screen with what surrounds it; in the
   /// middle of the pointer's screen where no place is remembered.
   void place();
@@ -39,14 +43,21 @@ class WindowSizingCommand final {
   /// Somebody gave the window another size.
   void windowDidResize();
   void windowStateDidChange(const QWindowStateChangeEvent& event);
+  /// The window had this size, and got another one for what stands beside the picture: no choice of the
+  /// user's, if the one before was none.
+  void windowDidGrow(const QSize& before);
+  /// Measures of a window that is not seen are wrong without it: it lays its children out when it is shown.
+  void settleLayout() const;
   void restoreFrame();
   void saveFrame() const;
 
  private:
   [[nodiscard]] WindowMeasures measures() const;
-  void settleLayout() const;
   void leaveRoomToTheUser() const;
   void shrinkWhenAtRest();
+  /// What pages and layers take at the window's left edge: they come and go with a document, and are no part
+  /// of a size that is kept for the next.
+  [[nodiscard]] QSize besidePicture() const;
   [[nodiscard]] bool isTiled() const;
   /// True if the picture is higher than the room that the window has for it.
   [[nodiscard]] bool needsBar() const;
@@ -55,13 +66,14 @@ class WindowSizingCommand final {
   [[nodiscard]] QRect placeOfLatePicture(const QRect& before, const QSize& size);
 
   WindowParts& parts_;
-  QSize chosen_;                    ///< the last size that was the user's choice, or the usual one
-  QSize own_;                       ///< that the rule gave; none: it has not shrunk the window
+  QSize chosen_;  ///< the last size that was the user's choice, or the usual one; without besidePicture()
+  QSize own_;     ///< that the program gave it, by the rule or from what is kept
   std::optional<QPoint> restored_;  ///< the upper left corner of the remembered frame
   std::optional<QRect> placed_;     ///< where place() put the contents
   bool awaits_ = false;             ///< the window is there, its first picture is not
   bool countsBar_ = false;          ///< the last apply() left room for the vertical scroll bar
-  bool keepsTile_ = false;          ///< the last apply() found it tiled, and left it so
+  bool held_ = false;
+  bool keepsTile_ = false;  ///< the last apply() found it tiled, and left it so
   int resizes_ = 0;
 };
 

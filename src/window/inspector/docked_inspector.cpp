@@ -7,7 +7,6 @@
 #include <QLayout>
 #include <QMainWindow>
 #include <QMouseEvent>
-#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -29,8 +28,11 @@ const QString kWidth = QStringLiteral("views/inspectorWidth");
 
 }  // namespace
 
-DockedInspector::DockedInspector(WindowParts& parts, InspectorCommand& inspector, QObject* parent)
-    : QObject(parent), parts_(parts), inspector_(inspector) {}
+DockedInspector::DockedInspector(WindowParts& parts, InspectorCommand& inspector, WindowSizingCommand& sizing,
+                                 QObject* parent)
+    : QObject(parent), parts_(parts), inspector_(inspector), room_(parts, sizing) {
+  room_.setFit([this] { fitPanel(); });
+}
 
 QAction* DockedInspector::setUp() {
   auto* action = new QAction(localizedString("Inspector in t&he Window"), parts_.mainWindow());
@@ -105,32 +107,8 @@ void DockedInspector::setPanelShown(bool shown) {
   saveView(kShown, shown);
   if (dock_->isVisible() == shown) return;
   const bool hadFocus = parts_.inspectorWindow->isAncestorOf(QApplication::focusWidget());
-  const int picture = parts_.scrollArea()->width();
-  dock_->setVisible(shown);
-  parts_.mainWindow()->layout()->activate();
+  room_.show(*dock_, shown);
   if (!shown && hadFocus) parts_.scrollArea()->setFocus(Qt::OtherFocusReason);
-  giveRoom(picture);
-}
-
-void DockedInspector::giveRoom(int picture) {
-  QMainWindow& window = *parts_.mainWindow();
-  emit roomDidChange();
-  if (window.isMaximized() || window.isFullScreen() || !window.isVisible()) return;
-  const QRect screen = window.screen()->availableGeometry();
-  const int around = window.frameGeometry().width() - window.width();
-  // The panel takes half of it at most.
-  const int panel = dock_->isVisible() ? 2 * dock_->minimumSizeHint().width() : 0;
-  const int least = std::max(window.minimumSizeHint().width(), panel);
-  // A wider window gives the panel more, up to the width it likes, and is bounded anew: it is done in steps.
-  for (int step = 0; step < 3; ++step) {
-    const int wanted = window.width() + picture - parts_.scrollArea()->width();
-    window.resize(std::clamp(wanted, least, std::max(least, screen.width() - around)), window.height());
-    window.layout()->activate();
-    fitPanel();
-    emit roomDidChange();
-  }
-  const int beyond = window.x() + window.width() + around - 1 - screen.right();
-  if (beyond > 0) window.move(std::max(screen.left(), window.x() - beyond), window.y());
 }
 
 void DockedInspector::fitPanel() {

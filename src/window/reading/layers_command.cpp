@@ -13,6 +13,7 @@
 #include "display/norvex_view.h"
 #include "picture/pdf_image_rep.h"
 #include "protocol/limits.h"
+#include "ui/pages/dock_title.h"
 #include "ui/pages/layer_list.h"
 #include "ui/picture/brief_note.h"
 #include "ui/picture/zooming_scroll_area.h"
@@ -26,7 +27,8 @@ const QString kShown = QStringLiteral("views/layers");
 
 }  // namespace
 
-LayersCommand::LayersCommand(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
+LayersCommand::LayersCommand(WindowParts& parts, WindowSizingCommand& sizing, QObject* parent)
+    : QObject(parent), parts_(parts), room_(parts, sizing) {}
 
 void LayersCommand::setUp(QMenu& menu) {
   action_ = menu.addAction(localizedString("La&yers"));
@@ -43,11 +45,13 @@ void LayersCommand::setUp(QMenu& menu) {
 }
 
 void LayersCommand::makeList() {
+  if (dock_ || !showsList()) return;
   dock_ = new QDockWidget(localizedString("Layers"), parts_.mainWindow());
   dock_->setObjectName(QStringLiteral("layersDock"));
   dock_->setFeatures(QDockWidget::DockWidgetClosable);
   list_ = new LayerList(dock_);
   dock_->setWidget(list_);
+  dock_->setTitleBarWidget(new DockTitle(*dock_));
   dock_->toggleViewAction()->setVisible(false);  // the menu below has it, where there are layers
   dock_->hide();
   parts_.mainWindow()->addDockWidget(Qt::LeftDockWidgetArea, dock_);
@@ -100,16 +104,22 @@ void LayersCommand::tellLocked(const QList<PictureLayer>& now) {
 }
 
 void LayersCommand::validate() {
-  const bool any = !shown().isEmpty();
-  action_->setEnabled(any);
-  const bool isSeen = any && action_->isChecked() && !parts_.mainWindow()->isFullScreen();
-  if (isSeen && !dock_) makeList();
-  if (dock_) dock_->setVisible(isSeen);
+  action_->setEnabled(!shown().isEmpty());
+  makeList();
+  if (dock_) room_.show(*dock_, showsList());
+}
+
+bool LayersCommand::showsList() const {
+  return !shown().isEmpty() && action_->isChecked() && !parts_.mainWindow()->isFullScreen();
 }
 
 bool LayersCommand::eventFilter(QObject* watched, QEvent* event) {
   if (dock_ && watched == dock_ && event->type() == QEvent::Close) action_->setChecked(false);
-  if (watched == parts_.mainWindow() && event->type() == QEvent::WindowStateChange) validate();
+  if (watched == parts_.mainWindow() && event->type() == QEvent::WindowStateChange) {
+    // A full screen has no list, and gives no room.
+    makeList();
+    if (dock_) dock_->setVisible(showsList());
+  }
   return QObject::eventFilter(watched, event);
 }
 

@@ -5,6 +5,7 @@
 #include <QObject>
 
 #include "protocol/worker_protocol.h"
+#include "window/commands/side_room.h"
 
 class QAction;
 class QDockWidget;
@@ -14,14 +15,15 @@ namespace norvex {
 
 class LayerList;
 class WindowParts;
+class WindowSizingCommand;
 
 /// A list of them beside the picture, made when it is first seen. Where there are none, nothing of it is
 /// seen. What is chosen is told on, and holds when the document is read again with it: for the screen and for
-/// everything that is handed out. The parts outlive it. Main thread.
+/// everything that is handed out. Parts and sizing outlive it. Main thread.
 class LayersCommand final : public QObject {
   Q_OBJECT
  public:
-  LayersCommand(WindowParts& parts, QObject* parent);
+  LayersCommand(WindowParts& parts, WindowSizingCommand& sizing, QObject* parent);
 
   /// Adds its command to `menu`.
   void setUp(QMenu& menu);
@@ -46,10 +48,13 @@ class LayersCommand final : public QObject {
   [[nodiscard]] QList<PictureLayer> toChoose(const QList<PictureLayer>& before) const;
   void tellLocked(const QList<PictureLayer>& now);
   void validate();
+  [[nodiscard]] bool showsList() const;
+  /// Once it is to be seen.
   void makeList();
   void choose(const QList<PictureLayer>& layers);
 
   WindowParts& parts_;
+  SideRoom room_;
   LayerList* list_ = nullptr;
   QDockWidget* dock_ = nullptr;
   QAction* action_ = nullptr;

@@ -12,11 +12,12 @@
 #include "window/commands/window_parts.h"
 #include "window/viewing/pages_command.h"
 #include "window/viewing/selection_history.h"
+#include "window/viewing/sticky_fit.h"
 #include "window/viewing/view_choices.h"
 
 namespace norvex {
-LiveFile::LiveFile(WindowParts& parts, PagesCommand& pages, QObject* parent)
-    : QObject(parent), parts_(parts), pages_(pages) {}
+LiveFile::LiveFile(WindowParts& parts, PagesCommand& pages, StickyFit& fit, QObject* parent)
+    : QObject(parent), parts_(parts), pages_(pages), fit_(fit) {}
 
 QAction* LiveFile::makeAction() {
   return ViewChoices::shared().makeAction(ViewChoices::ReloadByItself, "Reload Changed Files b&y Itself",
@@ -38,8 +39,8 @@ bool LiveFile::reloadsByItself() const {
 
 void LiveFile::reloadInPlace(const std::function<void()>& reload) {
   if (parts_.validateUserInterfaceItem())
-    place_ = Place{pages_.shown(), parts_.dialKnob()->degreeValue(), parts_.zoomFactor(),
-                   parts_.scrollArea()->scrollOffset(), parts_.view()->selectRect()};
+    place_ = Place{pages_.shown(), parts_.dialKnob()->degreeValue(),    parts_.zoomFactor(),
+                   fit_.kept(),    parts_.scrollArea()->scrollOffset(), parts_.view()->selectRect()};
   reload();
 }
 
@@ -49,6 +50,7 @@ void LiveFile::documentDidChange() {
   pages_.show(place->page);
   parts_.dialKnob()->turnTo(place->degrees);
   parts_.zoomingScrollView()->zoomTo(place->zoom);
+  fit_.keep(place->fit);
   parts_.scrollArea()->setScrollOffset(place->offset);
   if (!place->selected.isEmpty()) selectRectangle(*parts_.view(), place->selected);
 }

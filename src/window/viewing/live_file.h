@@ -8,20 +8,23 @@
 #include <functional>
 #include <optional>
 
+#include "document/picture_view.h"
+
 class QAction;
 
 namespace norvex {
 
 class PagesCommand;
+class StickyFit;
 class WindowParts;
 
 /// Shows the file again when it has become another one and is whole: by itself, or when the user says so, as
 /// was chosen once for all windows. Page, angle, zoom, place and selection stay. Not while something is done
-/// with the picture that the new one would spoil. Parts and pages outlive it. Main thread.
+/// with the picture that the new one would spoil. What it is given outlives it. Main thread.
 class LiveFile final : public QObject {
   Q_OBJECT
  public:
-  LiveFile(WindowParts& parts, PagesCommand& pages, QObject* parent);
+  LiveFile(WindowParts& parts, PagesCommand& pages, StickyFit& fit, QObject* parent);
 
   /// The choice as a menu item.
   [[nodiscard]] QAction* makeAction();
@@ -29,6 +32,8 @@ class LiveFile final : public QObject {
   [[nodiscard]] bool reloadsByItself() const;
   /// Has `reload` read the file again, and puts the new picture where the old one was.
   void reloadInPlace(const std::function<void()>& reload);
+  /// True while what is read is put where the old one was.
+  [[nodiscard]] bool comesBack() const { return place_.has_value(); }
   /// The file was read again, for whatever reason.
   void documentDidChange();
   /// It could not be: what is shown has stayed.
@@ -39,12 +44,14 @@ class LiveFile final : public QObject {
     int page = 0;
     double degrees = 0;  ///< of the dial
     double zoom = 1;
+    KeptFit fit = KeptFit::Nothing;  ///< instead of the zoom
     QPointF offset;
     QRectF selected;
   };
 
   WindowParts& parts_;
   PagesCommand& pages_;
+  StickyFit& fit_;
   std::optional<Place> place_;  ///< to come back to; nothing: nothing is being reloaded
 };
 

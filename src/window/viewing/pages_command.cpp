@@ -29,7 +29,8 @@ const QString kStrip = QStringLiteral("views/pages");
 
 }  // namespace
 
-PagesCommand::PagesCommand(WindowParts& parts, QObject* parent) : QObject(parent), parts_(parts) {}
+PagesCommand::PagesCommand(WindowParts& parts, WindowSizingCommand& sizing, QObject* parent)
+    : QObject(parent), parts_(parts), room_(parts, sizing) {}
 
 void PagesCommand::setUp(QMenu& menu) {
   auto* bar = parts_.mainWindow()->findChild<QWidget*>(QStringLiteral("bottomBar"));
@@ -71,15 +72,15 @@ void PagesCommand::addCommand(QMenu& menu, const char* title, const char* name,
 }
 
 void PagesCommand::addStrip(QMenu& menu) {
-  auto* dock = new QDockWidget(localizedString("Pages"), parts_.mainWindow());
-  dock->setObjectName(QStringLiteral("pagesDock"));
-  dock->setFeatures(QDockWidget::DockWidgetClosable);
-  dock->setTitleBarWidget(new QWidget(dock));  // what it is can be seen
-  strip_ = new PageStrip(dock);
-  dock->setWidget(strip_);
-  dock->toggleViewAction()->setVisible(false);  // the menu below has it, where there are pages
-  dock->hide();
-  parts_.mainWindow()->addDockWidget(Qt::LeftDockWidgetArea, dock);
+  dock_ = new QDockWidget(localizedString("Pages"), parts_.mainWindow());
+  dock_->setObjectName(QStringLiteral("pagesDock"));
+  dock_->setFeatures(QDockWidget::DockWidgetClosable);
+  dock_->setTitleBarWidget(new QWidget(dock_));  // what it is can be seen
+  strip_ = new PageStrip(dock_);
+  dock_->setWidget(strip_);
+  dock_->toggleViewAction()->setVisible(false);  // the menu below has it, where there are pages
+  dock_->hide();
+  parts_.mainWindow()->addDockWidget(Qt::LeftDockWidgetArea, dock_);
   thumbnails_ = new PageThumbnails(*strip_, this);
   connect(strip_, &PageStrip::pageChosen, this, &PagesCommand::show);
   stripAction_ = menu.addAction(localizedString("Page &Thumbnails"));
@@ -89,7 +90,7 @@ void PagesCommand::addStrip(QMenu& menu) {
   stripAction_->setChecked(savedView(kStrip, false));
   connect(stripAction_, &QAction::toggled, this, [this](bool on) {
     saveView(kStrip, on);
-    validate();
+    showStrip();
   });
 }
 
@@ -150,13 +151,20 @@ void PagesCommand::validate() {
   switch_->setPages(shown(), count());
   for (const Command& command : commands_) command.action->setEnabled(command.possible());
   stripAction_->setEnabled(count() > 1);
-  if (auto* dock = parts_.mainWindow()->findChild<QDockWidget*>(QStringLiteral("pagesDock")))
-    dock->setVisible(count() > 1 && stripAction_->isChecked() && !parts_.mainWindow()->isFullScreen());
   strip_->setShownPage(shown());
 }
 
+void PagesCommand::showStrip() {
+  room_.show(*dock_, wantsStrip());
+}
+
+bool PagesCommand::wantsStrip() const {
+  return count() > 1 && stripAction_->isChecked() && !parts_.mainWindow()->isFullScreen();
+}
+
 bool PagesCommand::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::WindowStateChange) validate();  // a full screen has no strip
+  // A full screen has no strip, and gives no room.
+  if (event->type() == QEvent::WindowStateChange) dock_->setVisible(wantsStrip());
   if (event->type() != QEvent::KeyPress || watched != parts_.scrollArea() || count() < 2)
     return QObject::eventFilter(watched, event);
   // A page key goes on to the next page where the shown one ends.

@@ -28,8 +28,8 @@ QAction* StickyFit::setUp(QAction& fit) {
   width->setShortcut(Qt::CTRL | Qt::Key_8);
   width->setEnabled(fit.isEnabled());
   connect(&fit, &QAction::enabledChanged, width, &QAction::setEnabled);
-  connect(&fit, &QAction::triggered, this, [this] { keep(Kept::Whole); });
-  connect(width, &QAction::triggered, this, [this] { keep(Kept::Width); });
+  connect(&fit, &QAction::triggered, this, [this] { keep(KeptFit::Whole); });
+  connect(width, &QAction::triggered, this, [this] { keep(KeptFit::Width); });
   connect(parts_.zoomingScrollView(), &SKTZoomingScrollView::zoomingScrollViewFactorDidChange, this,
           &StickyFit::zoomDidChange);
   parts_.scrollArea()->installEventFilter(this);
@@ -38,20 +38,20 @@ QAction* StickyFit::setUp(QAction& fit) {
 
 double StickyFit::factor() const {
   const ZoomingScrollArea& area = *parts_.scrollArea();
-  return kept_ == Kept::Whole ? area.fittingFactor() : area.fittingWidthFactor();
+  return kept_ == KeptFit::Whole ? area.fittingFactor() : area.fittingWidthFactor();
 }
 
-void StickyFit::keep(Kept kept) {
+void StickyFit::keep(KeptFit kept) {
   kept_ = kept;
   fitAgain();
 }
 
 void StickyFit::zoomDidChange() {
-  if (!fitting_) kept_ = Kept::Nothing;
+  if (!fitting_) kept_ = KeptFit::Nothing;
 }
 
 void StickyFit::fitAgain() {
-  if (kept_ == Kept::Nothing || fitting_ || !parts_.validateUserInterfaceItem()) return;
+  if (kept_ == KeptFit::Nothing || fitting_ || !parts_.validateUserInterfaceItem()) return;
   const QScopedValueRollback<bool> fitting(fitting_, true);
   const double wanted = factor();
   if (std::abs(wanted - parts_.zoomFactor()) > kSame * wanted) parts_.zoomingScrollView()->zoomTo(wanted);

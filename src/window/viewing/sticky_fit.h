@@ -3,6 +3,8 @@
 
 #include <QObject>
 
+#include "document/picture_view.h"
+
 class QAction;
 
 namespace norvex {
@@ -19,6 +21,8 @@ class StickyFit final : public QObject {
 
   /// `fit` is the command that fits the whole picture; the one for its width is made and stands behind it.
   [[nodiscard]] QAction* setUp(QAction& fit);
+  [[nodiscard]] KeptFit kept() const { return kept_; }
+  void keep(KeptFit kept);
   /// The picture has another size.
   void fitAgain();
 
@@ -26,13 +30,11 @@ class StickyFit final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  enum class Kept { Nothing, Whole, Width };
-  void keep(Kept kept);
   void zoomDidChange();
   [[nodiscard]] double factor() const;
 
   WindowParts& parts_;
-  Kept kept_ = Kept::Nothing;
+  KeptFit kept_ = KeptFit::Nothing;
   bool fitting_ = false;
 };
 

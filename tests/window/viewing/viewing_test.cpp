@@ -150,6 +150,25 @@ class ViewingTest : public QObject {
     QCOMPARE(f.c.view()->rotate(), 0.0);
   }
 
+  void aFileThatChangesKeepsItsWindowAndAZoomThatFollowsIt() {
+    Shown f;
+    f.c.zoomingScrollView()->zoomTo(8.0);
+    f.c.window()->resize(612, 518);
+    f.c.window()->findChild<QAction*>("fitAction")->trigger();
+    const QSize size = f.c.window()->size();
+    const double zoom = f.c.zoomFactor();
+    QVERIFY(zoom > 2);
+    QList<QSize> sizes;
+    QObject::connect(&f.c, &MainWindowController::documentShown, &f.c,
+                     [&] { sizes << f.c.window()->size(); });
+    f.fixture.write(epsBytes().replace("A picture", "Another"), "a.eps");
+    f.c.fileDidChangeOnDisk();
+    QTRY_COMPARE(sizes, QList<QSize>{size});
+    QCOMPARE(f.c.window()->size(), size);
+    QCOMPARE(f.c.zoomFactor(), zoom);
+    QVERIFY(f.c.pictureView()->fit == KeptFit::Whole);
+  }
+
   void reloadingByItselfIsAChoice() {
     Shown f;
     f.c.window()->findChild<QAction*>("reloadByItselfAction")->trigger();

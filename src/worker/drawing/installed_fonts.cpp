@@ -70,7 +70,8 @@ QStringList missingFamilies(const QList<QStringList>& lists) {
     if (list.isEmpty() || isThere) continue;
     const QString sentence = missingFontSentence(list.first(), standInFor(list.first()));
     // Families are compared without case.
-    if (!sentences.contains(sentence, Qt::CaseInsensitive) && sentences.size() < limits::maximumWarnings) sentences << sentence;
+    if (!sentences.contains(sentence, Qt::CaseInsensitive) && sentences.size() < limits::maximumWarnings)
+      sentences << sentence;
   }
   return sentences;
 }

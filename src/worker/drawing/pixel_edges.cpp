@@ -16,11 +16,18 @@ const cairo_user_data_key_t kAsked{};  // its address counts: another one in eac
 // Cairo keeps places on the surface in steps of a 256th.
 constexpr double kSameLine = 1.5 / 256;
 
+/// From `least` to `most` along an axis.
+struct Span {
+  double least = 0;
+  double most = 0;
+};
+
 /// What is kept for a context.
 struct Asked {
   bool hard = false;
   QDeadlineTimer until{QDeadlineTimer::Forever};  ///< of hard edges
   double angle = 0;                               ///< of the picture on the surface, radians
+  Span x, y;                                      ///< of the picture on the surface; empty where it is turned
   LevelSeams level;
   SlantedSeams slanted;
   SlantedSeams::Polygon clip;  ///< the last one
@@ -32,8 +39,11 @@ struct PathRelease {
 using CairoPath = std::unique_ptr<cairo_path_t, PathRelease>;
 
 // A place in the middle of a pixel is what round numbers often come to; it is kept clear of the border
-// between down and up, so that two tiles whose numbers differ in the last digit do not part there.
-double betweenPixels(double place) {
+// between down and up, so that two tiles whose numbers differ in the last digit do not part there. Beyond the
+// picture nothing can meet: its own edges go outwards, and a last row that is not whole keeps what is in it.
+double betweenPixels(double place, const Span& picture) {
+  if (picture.least < picture.most && std::abs(place - picture.least) <= kSameLine) return std::floor(place);
+  if (picture.least < picture.most && std::abs(place - picture.most) <= kSameLine) return std::ceil(place);
   return std::floor(place + 0.47);
 }
 
@@ -219,15 +229,13 @@ void putBetweenPixels(cairo_t* context, Asked& asked) {
       asked.level.addPath(context, Outline(*path).edges(), size_t(path->num_data), LevelSeams::Fate::Slanted);
   }
   const SurfaceSpace surface(context);
-  const auto always = [](const Outline&) { return betweenPixels; };
-  moveEdges(context, always, always, asked.angle == 0 ? &asked.level : nullptr);
+  const auto within = [](const Span& picture) {
+    return [&picture](const Outline&) {
+      return [&picture](double place) { return betweenPixels(place, picture); };
+    };
+  };
+  moveEdges(context, within(asked.x), within(asked.y), asked.angle == 0 ? &asked.level : nullptr);
 }
-
-/// From `least` to `most` along an axis.
-struct Span {
-  double least = 0;
-  double most = 0;
-};
 
 /// What becomes of the two outermost edges of an area that ends where its clip does. They only go outwards.
 class Ends {
@@ -317,10 +325,7 @@ double slant(cairo_t* context) {
   return std::abs(m.xx) <= least || std::abs(m.yx) <= least ? 0 : std::atan2(m.yx, m.xx);
 }
 
-void askFor(cairo_t* context, bool hard, QDeadlineTimer until = QDeadlineTimer(QDeadlineTimer::Forever)) {
-  auto asked = std::make_unique<Asked>();
-  asked->hard = hard;
-  asked->until = until;
+void askFor(cairo_t* context, std::unique_ptr<Asked> asked) {
   asked->angle = slant(context);
   const auto release = [](void* data) { delete static_cast<Asked*>(data); };
   if (cairo_set_user_data(context, &kAsked, asked.get(), release) == CAIRO_STATUS_SUCCESS)
@@ -341,12 +346,23 @@ void drawWithEdges(cairo_t* context, const Asked* asked, const Draw& draw) {
 
 }  // namespace
 
-void askForPixelEdges(cairo_t* context) {
-  askFor(context, false);
+void askForPixelEdges(cairo_t* context, double width, double height) {
+  auto asked = std::make_unique<Asked>();
+  if (slant(context) == 0) {
+    double x0 = 0, y0 = 0, x1 = width, y1 = height;
+    cairo_user_to_device(context, &x0, &y0);
+    cairo_user_to_device(context, &x1, &y1);
+    asked->x = {std::min(x0, x1), std::max(x0, x1)};
+    asked->y = {std::min(y0, y1), std::max(y0, y1)};
+  }
+  askFor(context, std::move(asked));
 }
 
 void askForHardEdges(cairo_t* context, QDeadlineTimer until) {
-  askFor(context, true, until);
+  auto asked = std::make_unique<Asked>();
+  asked->hard = true;
+  asked->until = until;
+  askFor(context, std::move(asked));
 }
 
 bool arePixelEdgesAskedFor(cairo_t* context) {

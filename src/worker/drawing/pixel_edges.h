@@ -13,8 +13,9 @@ namespace norvex::engine {
 /// From now on clips and images have their edges between pixels in this context, wherever clipBetweenPixels()
 /// and fillBetweenPixels() are called for it: the engines' modules have them stand in for cairo_clip() and
 /// cairo_fill(), for the libraries that they load, too. The matrix is that of the picture already. Goes with
-/// the context.
-void askForPixelEdges(cairo_t* context);
+/// the context. The picture reaches from its origin `width` and `height` units of it; its own edges go
+/// outwards. Default: nothing is known of them.
+void askForPixelEdges(cairo_t* context, double width = 0, double height = 0);
 /// From now on clips and areas have no smooth edges in this context: each pixel, at its middle, belongs to
 /// one of two that meet. For what is drawn finer than it is shown (fine_image.h). What comes after `until` is
 /// not drawn: libraries cannot be told to stop.

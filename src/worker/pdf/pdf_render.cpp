@@ -129,7 +129,7 @@ PaintPicture PdfRenderer::painter(Document& document, const RenderRequest& reque
     if (const Result<void> loaded = load(document); !loaded) return loaded;
     const Result<PagePointer> page = shownPage(document.get(), number);
     if (!page) return page.error();
-    askForPixelEdges(context);
+    askForPixelEdges(context, shownSize.width(), shownSize.height());
     const Result<void> painted = paintPage(context, page->get(), shownSize);
     if (hasSeams(context)) seams = true;
     return painted;

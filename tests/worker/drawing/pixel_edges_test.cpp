@@ -10,6 +10,8 @@
 using namespace norvex;
 using namespace norvex::engine;
 
+Q_DECLARE_METATYPE(cairo_matrix_t)
+
 namespace {
 
 /// A transparent surface of 40 × 40 pixels, with edges between pixels if they are asked for.
@@ -146,6 +148,28 @@ class PixelEdgesTest : public QObject {
     }
   }
 
+  void thePicturesOwnEdgesGoOutwards_data() {
+    QTest::addColumn<cairo_matrix_t>("matrix");
+    QTest::newRow("upright") << cairo_matrix_t{1, 0, 0, 1, 0, 0};
+    QTest::newRow("y up") << cairo_matrix_t{1, 0, 0, -1, 0, 10.4};
+    QTest::newRow("turned by a right angle") << cairo_matrix_t{0, 1, 1, 0, 0, 0};
+  }
+  void thePicturesOwnEdgesGoOutwards() {
+    QFETCH(cairo_matrix_t, matrix);
+    for (const bool known : {true, false}) {
+      Sheet sheet(false);
+      cairo_set_matrix(sheet.context.get(), &matrix);
+      askForPixelEdges(sheet.context.get(), known ? 10.4 : 0, known ? 10.4 : 0);
+      cairo_rectangle(sheet.context.get(), 0, 0, 10.4, 10.4);
+      cairo_clip(sheet.context.get());
+      sheet.tile([](cairo_t* c) { cairo_rectangle(c, 0, 0, 10.4, 10.4); });
+      QCOMPARE(sheet.coverage(5, 9), 255);
+      QVERIFY(known ? std::abs(sheet.coverage(5, 10) - 102) < 3 : sheet.coverage(5, 10) == 0);
+      QVERIFY(known ? std::abs(sheet.coverage(10, 5) - 102) < 3 : sheet.coverage(10, 5) == 0);
+      QCOMPARE(sheet.coverage(11, 5), 0);
+      QCOMPARE(sheet.coverage(5, 11), 0);
+    }
+  }
   void slantedAndCurvedEdgesStaySmooth() {
     const auto both = [](const Sheet& sheet) {
       sheet.tile([](cairo_t* c) {

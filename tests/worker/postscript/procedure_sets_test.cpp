@@ -94,6 +94,7 @@ class ProcedureSetsTest : public QObject {
     QCOMPARE(picture.error.isEmpty() && picture.stoppedBy.isEmpty(), drawn);
     if (drawn) QCOMPARE(QColor(picture.image.pixel(35, 45)).blue(), 0);
     QCOMPARE(procedureSetsFor(program).isEmpty(), !drawn);
+  }
 
   void setsAndTheirNamesHaveAnEnd() {
     QByteArray program("%!\nAdobe_Illustrator_AI5 /initialize get exec\n");
@@ -103,7 +104,6 @@ class ProcedureSetsTest : public QObject {
     const QByteArray longName = "Adobe_Illustrator" + QByteArray(200, 'x');
     for (const QByteArray& name : missingProcedureSets("%!\n" + longName + " /initialize get exec\n"))
       QVERIFY(name.size() <= limits::maximumProcedureSetName);
-
   }
 
   void aFileThatBringsItsOwnIsDrawnByThem() {

@@ -103,11 +103,38 @@ inline QList<EscapeDocument> bombPages() {
        pageWith("/XObject<</X 5 0 R>>", "/X Do",
                 "5 0 obj<</Type/XObject/Subtype/Form/BBox[0 0 9 9]/Resources<</XObject<</X 5 0 R>>>>/Length "
                 "11>>stream\n/X Do /X Do\nendstream endobj\n")},
+      {"a mask that masks itself",
+       pageWith(
+           "/ExtGState<</G<</SMask<</S/Luminosity/G 5 0 R>>>>>>", "/G gs 0 0 9 9 re f",
+           "5 0 obj<</Type/XObject/Subtype/Form/BBox[0 0 9 9]/Group<</S/Transparency>>/Resources<</ExtGState"
+           "<</G<</SMask<</S/Luminosity/G 5 0 R>>>>>>>>/Length 37>>stream\n/G gs 0 0 9 9 re f /G gs 0 0 9 9 "
+           "re f\nendstream endobj\n")},
+      {"a table of two thousand million objects",
+       "%PDF-1.5\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n2 0 obj<</Type/Pages/Kids[3 0 R]/Count "
+       "1>>endobj\n3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 9]>>endobj\nxref\n0 "
+       "2000000000\n0000000000 "
+       "65535 f \ntrailer<</Root 1 0 R/Size 2000000000/Prev 151/XRefStm 151>>\nstartxref\n151\n%%EOF\n"},
+  };
+}
+
+/// Programs that never end, and make something all the time.
+inline QList<EscapeDocument> bombPrograms() {
+  return {
+      {"pages", programItself("{ 0 0 9 9 rectfill showpage } loop")},
+      {"lines", programItself("{ 0 0 moveto rand 9 mod rand 9 mod lineto stroke } loop")},
+      {"messages", programItself("/s 60000 string def { s print flush } loop")},
+      {"clips", programItself("{ 0 0 9 9 rectclip gsave } loop")},
   };
 }
 
 inline QList<EscapeDocument> bombDrawings() {
   const QByteArray groups = QByteArray("<g>").repeated(100'000);
+  QByteArray masks;
+  for (int i = 0; i < 40; ++i) {
+    const QByteArray next = QByteArray::number(i + 1);
+    const QByteArray twice = "<g mask='url(#m" + next + ")'><rect width='9' height='9' fill='#fff'/></g>";
+    masks += "<mask id='m" + QByteArray::number(i) + "' width='1' height='1'>" + twice + twice + "</mask>";
+  }
   return {
       {"a packed drawing", gzipped(drawing({}, QByteArray(kUnpacked, ' ')))},
       {"groups within each other", drawing({}, groups)},
@@ -120,6 +147,9 @@ inline QList<EscapeDocument> bombDrawings() {
                         bytesOf(INT_MAX) + QByteArray("\x08\6\0\0\0", 5) + bytesOf(0))
                            .toBase64() +
                        "'/>")},
+      {"masks that double", drawing({}, masks + "<rect width='9' height='9' mask='url(#m0)'/>")},
+      {"a line of letters each moved", drawing({}, "<text dx='" + QByteArray("1 ").repeated(50'000) + "'>" +
+                                                       QByteArray(200'000, 'a') + "</text>")},
   };
 }
 

@@ -4,6 +4,7 @@
 
 #include <cairo.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace norvex::engine {

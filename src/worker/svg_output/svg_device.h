@@ -165,8 +165,8 @@ class SvgDevice final : public OutputDev {
   void paintClip(GfxState* state, const QByteArray& definition);
   void placeShading(GfxState* state, const std::optional<ShadingImage>& image);
   [[nodiscard]] QRectF clipBounds(GfxState* state) const;
-  [[nodiscard]] SvgLayer drawnCell(GfxState* state, Gfx* gfx, GfxTilingPattern* pattern,
-                                   const double* matrix);
+  [[nodiscard]] SvgLayer drawnCell(GfxState* state, Gfx* gfx, GfxTilingPattern* pattern, const double* matrix,
+                                   bool clipped);
   void repeatCell(GfxState* state, const SvgLayer& cell, const AffineTransform& matrix, const QRect& cells,
                   double xStep, double yStep);
   void paintPattern(GfxState* state, const SvgLayer& cell, const AffineTransform& matrix, const QRectF& tile);

@@ -120,15 +120,16 @@ void SvgDevice::placeShading(GfxState* state, const std::optional<ShadingImage>&
 
 // ---- tiles --------------------------------------------------------------------------------------------
 
-// The cell at the pattern's origin, as it lies on the page.
-SvgLayer SvgDevice::drawnCell(GfxState* state, Gfx* gfx, GfxTilingPattern* pattern, const double* matrix) {
+// The cell at the pattern's origin, as it lies on the page. Its box is the first clip of all that is in it.
+SvgLayer SvgDevice::drawnCell(GfxState* state, Gfx* gfx, GfxTilingPattern* pattern, const double* matrix,
+                              bool clipped) {
   flushText();
   const size_t depth = states_.size();
   states_.push_back(states_.back());
   states_.back().mask.clear();  // mask and blending are those of what is filled
   const GfxBlendMode blending = state->getBlendMode();
   state->setBlendMode(gfxBlendNormal);
-  sheet_.beginLayer(states_.back().clips.size(), true);
+  sheet_.beginLayer(states_.back().clips.size() + (clipped ? 0 : 1), true);
   gfx->drawForm(pattern->getContentStream(), pattern->getResDict(), matrix, pattern->getBBox());
   flushText();
   SvgLayer cell = sheet_.endLayer();
@@ -174,15 +175,17 @@ bool SvgDevice::tilingPatternFill(GfxState* state, Gfx* gfx, Catalog*, GfxTiling
                                   double yStep) {
   const AffineTransform matrix = AffineTransform(m[0], m[1], m[2], m[3], m[4], m[5]) * pageMatrix(state);
   if (!matrix.isFinite() || !matrix.isInvertible() || mustStop()) return true;
-  const SvgLayer cell = drawnCell(state, gfx, pattern, m);
-  if (cell.elements == 0) return true;
   const double* box = pattern->getBBox();
   const double width = box[2] - box[0], height = box[3] - box[1];
   const double across = std::abs(xStep), up = std::abs(yStep);
   const bool abuts =
       std::abs(width - across) < kSameLength * across && std::abs(height - up) < kSameLength * up;
   const double count = (double(x1) - x0) * (double(y1) - y0);
-  if (count <= 1 || (!abuts && count <= limits::maximumSvgCells))
+  const bool oneByOne = count <= 1 || (!abuts && count <= limits::maximumSvgCells);
+  // A tile as large as the cell's box clips by itself.
+  const SvgLayer cell = drawnCell(state, gfx, pattern, m, oneByOne || !abuts);
+  if (cell.elements == 0) return true;
+  if (oneByOne)
     repeatCell(state, cell, matrix, QRect(x0, y0, x1 - x0, y1 - y0), xStep, yStep);
   else
     paintPattern(state, cell, matrix, QRectF(box[0], box[1], across, up));

@@ -107,7 +107,8 @@ class SvgFromPdfTest : public QObject {
     QCOMPARE(endless.count("offset=\"0\"") + endless.count("offset=\"1\""), 2);
   }
 
-  void noPatternIsMirrored() {
+  // What Inkscape writes as PDF shows neither mirrored patterns nor slanted clips in them.
+  void aTurnedPatternIsNeitherMirroredNorClippedTwice() {
     const QByteArray cell = stream("1 0.5 0 rg 0 0 8 8 re f",
                                    "/PatternType 1 /PaintType 1 /TilingType 1 /BBox [0 0 12 9] /XStep 12 "
                                    "/YStep 9 /Resources << >> /Matrix [0.8 0.6 -0.6 0.8 0 0]");
@@ -115,6 +116,7 @@ class SvgFromPdfTest : public QObject {
     QVERIFY2(
         made.svg().contains("y=\"-9\" width=\"12\" height=\"9\" patternTransform=\"matrix(.8 -.6 .6 .8 "),
         made.svg());
+    QCOMPARE(made.count("clip-path"), 0);
   }
 
   void stopsOfASpotColourHaveTheColourThatStandsForIt() {

@@ -49,14 +49,21 @@ std::optional<QByteArray> inWhite(const QByteArray& body, const SvgSheet& sheet)
   if (body.contains("<image") || body.contains("mix-blend-mode")) return std::nullopt;
   for (qsizetype at = 0; (at = body.indexOf(kUse, at)) >= 0; at += kUse.size())
     if (!sheet.isOutline(valueAt(body, at + kUse.size()))) return std::nullopt;
-  QByteArray white = body;
-  for (const QByteArrayView paint : {QByteArrayView(" fill=\""), QByteArrayView(" stroke=\"")})
-    for (qsizetype at = 0; (at = white.indexOf(paint, at)) >= 0;) {
-      at += paint.size();
-      const QByteArray value = valueAt(white, at);
-      if (value.startsWith("url")) return std::nullopt;
-      if (value.startsWith('#')) white.replace(at, value.size(), "#fff");
-    }
+  QByteArray white;
+  white.reserve(body.size());
+  qsizetype copied = 0;
+  for (qsizetype at = 0; (at = body.indexOf("=\"", at)) >= 0;) {
+    const QByteArrayView before = QByteArrayView(body).first(at);
+    at += 2;
+    if (!before.endsWith(" fill") && !before.endsWith(" stroke")) continue;
+    const QByteArray value = valueAt(body, at);
+    if (value.startsWith("url")) return std::nullopt;
+    if (!value.startsWith('#')) continue;
+    white += QByteArrayView(body).sliced(copied, at - copied);
+    white += "#fff";
+    copied = at + value.size();
+  }
+  white += QByteArrayView(body).sliced(copied);
   return "<g fill=\"#fff\">\n" + white + "</g>\n";
 }
 

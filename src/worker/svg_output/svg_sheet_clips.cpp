@@ -44,7 +44,8 @@ QByteArray SvgSheet::clipAttribute(const SvgClip& clip) {
 
 SvgClips SvgSheet::neededClips(const SvgClips& clips, const QRectF& bounds) const {
   SvgClips needed;
-  for (qsizetype i = open_.back().base; i < clips.size(); ++i) {
+  // More than may be nested are a limit all the same.
+  for (qsizetype i = open_.back().base; i < clips.size() && needed.size() <= limits::maximumSvgDepth; ++i) {
     const bool hides = !clips[i]->isRectangle || !contains(clips[i]->bounds, bounds);
     if (hides && !holds(needed, *clips[i])) needed << clips[i];
   }

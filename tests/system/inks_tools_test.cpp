@@ -11,6 +11,7 @@
 
 #include "kit/program.h"
 #include "kit/test_main.h"
+#include "system/small_disk.h"
 
 using namespace norvex;
 
@@ -90,6 +91,27 @@ class InksToolsTest : public QObject {
     QCOMPARE(qGray(plate.pixel(80, 10)), 128);
     QCOMPARE(qGray(plate.pixel(10, 10)), 255);
     QCOMPARE(QDir(folder.filePath("plates")).entryList(QDir::Files).size(), 5);
+  }
+
+  void platesThatDoNotAllFitAreNotWritten() {
+    const SmallDisk disk("16k");
+    if (!disk.isMounted()) QSKIP("mounting is not permitted here");
+    const QTemporaryDir folder;
+    // Noise: the plates that have nothing on them fit, that of black does not.
+    const QString file = written(folder, "a.eps",
+                                 "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 300 300\n%%EndComments\n"
+                                 "0 1 299 { 0 1 299 { 1 index exch 1 1 rand 2 mod 0 eq { rectfill } { pop "
+                                 "pop pop pop } ifelse } for pop } for showpage\n%%EOF\n");
+    const QString plates = disk.path("plates");
+    const kit::Ran ran = kit::norvex({"inks", file, "--dpi", "72", "--plates", plates});
+    QCOMPARE(ran.exitCode, 4);
+    QCOMPARE(ran.err.count('\n'), 1);
+    QVERIFY(ran.err.contains("no space left"));
+    QCOMPARE(QDir(disk.folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    QVERIFY(QDir().mkdir(plates));
+    QCOMPARE(kit::norvex({"inks", file, "--dpi", "72", "--plates", plates}).exitCode, 4);
+    QCOMPARE(QDir(plates).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    QVERIFY(QDir(plates).exists());
   }
 
   void anSvgIsToldToHaveNone() {

@@ -31,13 +31,45 @@ QString safeName(const QString& ink) {
   return safe.isEmpty() ? QStringLiteral("ink") : safe;
 }
 
-/// With those that it stands in. Qt would take another name for one that is no text.
-bool makeFolder(const QString& folder) {
-  std::error_code failed;
-  const std::filesystem::path path(fileNameBytes(folder).toStdString());
-  std::filesystem::create_directories(path, failed);
-  return std::filesystem::is_directory(path, failed);
+/// Qt would take another name for one that is no text.
+std::filesystem::path pathOf(const QString& name) {
+  return fileNameBytes(name).toStdString();
 }
+
+/// Files that are of use together: what was written of them goes again unless keep() is called, and the
+/// folder with it that was made for them.
+class FilesTogether {
+ public:
+  FilesTogether() = default;
+  ~FilesTogether() {
+    std::error_code ignored;
+    for (const QString& file : files_) std::filesystem::remove(pathOf(file), ignored);
+    if (!folder_.isEmpty()) std::filesystem::remove(pathOf(folder_), ignored);
+  }
+  FilesTogether(const FilesTogether&) = delete;
+  FilesTogether& operator=(const FilesTogether&) = delete;
+
+  /// With those that it stands in.
+  [[nodiscard]] bool makeFolder(const QString& folder) {
+    std::error_code failed;
+    if (std::filesystem::create_directories(pathOf(folder), failed)) folder_ = folder;
+    return std::filesystem::is_directory(pathOf(folder), failed);
+  }
+  [[nodiscard]] Result<void> write(const QString& file, const QByteArray& bytes, IfExists ifExists) {
+    const bool isNew = !fileExists(file);
+    Result<void> written = writeFileAtomically(file, bytes, ifExists);
+    if (written && isNew) files_ << file;
+    return written;
+  }
+  void keep() {
+    files_.clear();
+    folder_.clear();
+  }
+
+ private:
+  QStringList files_;
+  QString folder_;
+};
 
 }  // namespace
 
@@ -77,17 +109,18 @@ Result<QStringList> writePlates(const PageInks& page, const QString& folder, con
     if (!force && fileExists(path))
       return Error{ErrorKind::CannotWrite,
                    QStringLiteral("%1 exists already (--force overwrites it)").arg(path)};
-  if (!makeFolder(folder))
+  FilesTogether files;
+  if (!files.makeFolder(folder))
     return Error{ErrorKind::CannotWrite, QStringLiteral("the folder %1 cannot be made").arg(folder)};
   for (qsizetype i = 0; i < paths.size(); ++i) {
     const QByteArray png = platePng(page, i);
     if (png.isEmpty())
       return Error{ErrorKind::CannotWrite,
                    QStringLiteral("the plate of %1 cannot be written as PNG").arg(page.inks.at(i).name)};
-    const Result<void> written =
-        writeFileAtomically(paths[i], png, force ? IfExists::Replace : IfExists::Fail);
+    const Result<void> written = files.write(paths[i], png, force ? IfExists::Replace : IfExists::Fail);
     if (!written) return written.error();
   }
+  files.keep();
   return paths;
 }
 

@@ -102,7 +102,8 @@ ManualWindow::ManualWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   splitter->addWidget(side);
   splitter->addWidget(page_);
   splitter->setStretchFactor(1, 1);
-  splitter->setSizes({230, 650});
+  const QSize usual = sizeForTexts(*this, {900, 640});
+  splitter->setSizes({usual.width() / 4, usual.width() * 3 / 4});
   splitter->setChildrenCollapsible(false);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
@@ -116,7 +117,7 @@ ManualWindow::ManualWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
     search_->selectAll();
   });
   fill();
-  resize(sizeForTexts(*this, {900, 640}));
+  resize(usual);
   search_->setFocus();
 }
 

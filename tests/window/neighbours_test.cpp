@@ -33,6 +33,21 @@ class Folder {
         },
         20000);
   }
+  [[nodiscard]] qsizetype count() { return application_.documents().documents().size(); }
+  bool settled() {
+    QTest::qWait(300);
+    return QTest::qWaitFor([this] { return !application_.documents().isReading(); }, 20000);
+  }
+  bool opens(const QString& name) {
+    const qsizetype before = count();
+    application_.documents().openDocuments({QUrl::fromLocalFile(files_.filePath(name))});
+    return QTest::qWaitFor([&] { return count() == before + 1; }, 20000);
+  }
+  void close(int number) {
+    static_cast<MainWindowController*>(application_.documents().documents().at(number)->windowController())
+        ->window()
+        ->close();
+  }
   [[nodiscard]] MainWindowController& controller() {
     return *static_cast<MainWindowController*>(
         application_.documents().documents().constFirst()->windowController());
@@ -88,6 +103,19 @@ class NeighboursTest : public QObject {
     f.controller().zoomingScrollView()->zoomTo(2);
     QVERIFY(f.goOn("b.eps"));
     QVERIFY(*f.controller().pictureView() == PictureView());
+  }
+
+  void aNeighbourThatIsOpenComesToTheFrontAndNothingGoes() {
+    Folder f;
+    QVERIFY(f.opens("b.eps"));
+    f.press("nextPictureAction");
+    QVERIFY(f.settled());
+    QCOMPARE(f.count(), 2);
+    f.close(1);
+    QTRY_COMPARE(f.count(), 1);
+    QVERIFY(f.opens("b.eps"));  // for itself, and not in the place of the first
+    QVERIFY(f.settled());
+    QCOMPARE(f.count(), 2);
   }
 
   void aFullScreenGoesOn() {

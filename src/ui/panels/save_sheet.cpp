@@ -108,6 +108,7 @@ void SaveSheet::addTypeList() {
 
 void SaveSheet::addAccessory() {
   auto* below = new QWidget(this);
+  below->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);  // what is left over is the files'
   auto* column = new QVBoxLayout(below);
   column->setContentsMargins(0, 6, 0, 0);
   if (!settings_.message.isEmpty()) {

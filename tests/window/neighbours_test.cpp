@@ -1,5 +1,6 @@
 // From a picture to the next one of its folder, in the same place.
 #include <QAction>
+#include <QScreen>
 #include <QStandardPaths>
 
 #include "application/document_application.h"
@@ -116,6 +117,24 @@ class NeighboursTest : public QObject {
     QVERIFY(f.opens("b.eps"));  // for itself, and not in the place of the first
     QVERIFY(f.settled());
     QCOMPARE(f.count(), 2);
+  }
+
+  void itStandsWhereTheOtherStood() {
+    Folder f;
+    f.window()->move(150, 130);
+    const QPoint place = f.window()->geometry().topLeft();
+    for (const char* next : {"b.eps", "c.eps"}) {
+      QVERIFY(f.goOn(QLatin1String(next)));
+      QTRY_COMPARE(f.window()->geometry().topLeft(), place);
+    }
+  }
+
+  void aWindowThatIsLargerThanTheOtherStaysOnTheScreen() {
+    Folder f;
+    const QRect screen = f.window()->screen()->availableGeometry();
+    f.window()->move(screen.right() - 100, screen.bottom() - 80);
+    QVERIFY(f.goOn("b.eps"));
+    QTRY_VERIFY(screen.contains(f.window()->geometry()));
   }
 
   void aFullScreenGoesOn() {

@@ -32,7 +32,15 @@ int endAfter(size_t posted) {
 class RequestQueueTest : public QObject {
   Q_OBJECT
  private slots:
-  void requestsAreTakenInTheirOrder() { QCOMPARE(endAfter(limits::maximumWaitingRequests), kAnswered); }
+#if defined(__SANITIZE_THREAD__)
+  // Picture processes that others start are watched with their queue: tests/picture/client.
+  void initTestCase() {
+    QSKIP("where threads are watched none may begin in a fork of a program that has some");
+  }
+#endif
+  void requestsAreTakenInTheirOrder() {
+    QCOMPARE(endAfter(limits::maximumWaitingRequests), kAnswered);
+  }
 
   void whoeverPostsWithoutWaitingIsNotServed() {
     const int end = endAfter(limits::maximumWaitingRequests + 1);

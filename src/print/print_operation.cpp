@@ -30,19 +30,21 @@ bool NSPrintOperation::runOperation() {
   const PrintSource source = view_->printSource();
   title_ = source.jobTitle;
   if (interaction) job_ = interaction->jobDidBegin(title_, cancel_);
-  const auto work = [this, source, info = printInfo_, services = services_, cancel = cancel_] {
-    // Queued on a thread of its own; here and now without one.
-    const auto progress = [this](int page, int pages) {
-      QMetaObject::invokeMethod(this, [this, page, pages] { advance(page, pages); });
-    };
+  const auto print = [source, info = printInfo_, services = services_,
+                      cancel = cancel_](const auto& progress) {
     return runJob(source, info, *services.pictures, *services.spooler, cancel, progress);
   };
   if (!canSpawnSeparateThread_) {
-    end(work());
+    end(print([this](int page, int pages) { advance(page, pages); }));
     return result_->ok();
   }
-  thread_ = std::thread(
-      [this, work, back = WayBack(this)] { back.tell([this, result = madeBy(work)] { end(result); }); });
+  thread_ = std::thread([this, print, back = WayBack(this)] {
+    const auto progress = [this, &back](int page, int pages) {
+      back.tell([this, page, pages] { advance(page, pages); });
+    };
+    const auto work = [&] { return print(progress); };
+    back.tell([this, result = madeBy(work)] { end(result); });
+  });
   return true;
 }
 

@@ -2,8 +2,11 @@
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtConcurrent>
+#include <QThreadPool>
 
+#include <array>
+
+#include "base/background_work.h"
 #include "base/bundle.h"
 #include "document/document_types.h"
 #include "document/memory_window_controller.h"
@@ -122,9 +125,7 @@ class DocumentTest : public QObject {
 
   void severalThreadsReadAtOnce() {
     const auto document = make();
-    QList<int> numbers;
-    for (int i = 0; i < 200; ++i) numbers << i;
-    const QList<int> answers = QtConcurrent::blockingMapped(numbers, [&](int i) {
+    const auto read = [&](int i) {
       DocumentError error;
       try {
         if (i % 3 == 2)
@@ -135,8 +136,12 @@ class DocumentTest : public QObject {
       } catch (const UnimplementedMethod&) {
         return 200;
       }
-    });
-    for (int i : numbers) QCOMPARE(answers[i], (QList<int>{100, 200, 1})[i % 3]);
+    };
+    std::array<int, 200> answers{};
+    QThreadPool pool;
+    for (int i = 0; i < 200; ++i) startWork(pool, [&, i] { answers[size_t(i)] = read(i); });
+    waitForWork(pool);
+    for (int i = 0; i < 200; ++i) QCOMPARE(answers[size_t(i)], (QList<int>{100, 200, 1})[i % 3]);
   }
 
   void makingTheControllerTellsItToCloseTheDocumentAndAddsIt() {

@@ -32,12 +32,13 @@ int endAfter(size_t posted) {
 class RequestQueueTest : public QObject {
   Q_OBJECT
  private slots:
-#if defined(__SANITIZE_THREAD__)
-  // Picture processes that others start are watched with their queue: tests/picture/client.
   void initTestCase() {
+#if defined(__SANITIZE_THREAD__)
+    // The queues of picture processes that others start are watched: tests/picture/client.
     QSKIP("where threads are watched none may begin in a fork of a program that has some");
-  }
 #endif
+  }
+
   void requestsAreTakenInTheirOrder() {
     QCOMPARE(endAfter(limits::maximumWaitingRequests), kAnswered);
   }

@@ -1,5 +1,6 @@
 // Stopping what a window waits for.
-#include <QtConcurrent>
+
+#include <future>
 
 #include "kit/test_main.h"
 #include "picture/process/memory_picture_service.h"
@@ -65,10 +66,10 @@ class StoppableProcessTest : public QObject {
         std::dynamic_pointer_cast<StoppableProcess>(stoppable.open("bytes", PictureKind::Pdf));
     QVERIFY(process);
     service.lastProcess()->hold(PictureCall::Render);
-    auto first = QtConcurrent::run([&] { return process->render(small()); });
+    auto first = std::async(std::launch::async, [&] { return process->render(small()); });
     QVERIFY(service.lastProcess()->waitUntilHeld(PictureCall::Render));
     process->stop();
-    QCOMPARE(first.result().error().kind, ErrorKind::Cancelled);
+    QCOMPARE(first.get().error().kind, ErrorKind::Cancelled);
     QCOMPARE(process->render(small()).error().kind, ErrorKind::TimedOut);
     QVERIFY(process->facts());
     service.lastProcess()->release(PictureCall::Render);
@@ -126,7 +127,7 @@ class StoppableProcessTest : public QObject {
 
     // Each pause is twice the one before it, and none is longer than the longest.
     std::chrono::seconds pause = StoppableProcess::firstPause;
-    for (int death = 0; death < 10; ++death) {
+    for (int times = 0; times < 10; ++times) {
       const int before = inside->calls(PictureCall::Render);
       now += pause - std::chrono::milliseconds(1);
       QVERIFY(!process.render(small()));
@@ -164,10 +165,10 @@ class StoppableProcessTest : public QObject {
     const CancelToken loading;
     StoppableService stoppable(service, loading);
     const auto process = stoppable.open("bytes", PictureKind::Pdf);
-    auto facts = QtConcurrent::run([&] { return process->facts(); });
+    auto facts = std::async(std::launch::async, [&] { return process->facts(); });
     QVERIFY(service.lastProcess()->waitUntilHeld(PictureCall::Facts));
     loading.cancel();
-    QCOMPARE(facts.result().error().kind, ErrorKind::Cancelled);
+    QCOMPARE(facts.get().error().kind, ErrorKind::Cancelled);
   }
 };
 

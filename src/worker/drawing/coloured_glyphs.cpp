@@ -41,6 +41,12 @@ Known& knownOf(cairo_font_face_t* face) {
   return *made;
 }
 
+/// Its matrix has no inverse, or a glyph could not be drawn. Cairo draws nothing with it any more, and what
+/// draws glyphs would look in vain for the face of which they are.
+bool isUnusable(cairo_scaled_font_t* font) {
+  return cairo_scaled_font_status(font) != CAIRO_STATUS_SUCCESS;
+}
+
 /// Draws a glyph at the origin, an em a unit of `context`, y down. Gives what it tells of its size.
 cairo_text_extents_t draw(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph, cairo_t* context) {
   cairo_text_extents_t extents{};
@@ -119,6 +125,7 @@ void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
   int masks = 0;
   for (int i = 0; i < count; ++i) {
     const cairo_glyph_t& glyph = glyphs[i];
+    if (isUnusable(font)) return;
     if (!known.contains(glyph.index)) known.insert(glyph.index, setsColours(drawing, font, glyph.index));
     if (!known.value(glyph.index)) {
       ++masks;
@@ -126,6 +133,7 @@ void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
     }
     showMasks(context, glyphs + i - masks, masks);
     masks = 0;
+    if (isUnusable(font)) return;  // a mask has failed
     drawInColours(drawing, font, glyph, context);
   }
   showMasks(context, glyphs + count - masks, masks);

@@ -14,12 +14,16 @@ using namespace norvex::engine;
 namespace {
 
 constexpr unsigned long kOpen = 0, kRed = 1, kRedShape = 2;
+constexpr unsigned long kFailing = 3;
 int drawings = 0;
+int drawingsInVain = 0;  ///< with a font that cannot be used
 
 /// A square of half an em, in red or in whatever colour is chosen.
-cairo_status_t drawGlyph(cairo_scaled_font_t*, unsigned long glyph, cairo_t* context,
+cairo_status_t drawGlyph(cairo_scaled_font_t* font, unsigned long glyph, cairo_t* context,
                          cairo_text_extents_t* extents) {
   ++drawings;
+  if (cairo_scaled_font_status(font) != CAIRO_STATUS_SUCCESS) ++drawingsInVain;
+  if (glyph == kFailing) return CAIRO_STATUS_USER_FONT_ERROR;
   if (glyph != kOpen) cairo_set_source_rgb(context, 1, 0, 0);
   cairo_rectangle(context, 0, -0.5, 0.5, 0.5);
   cairo_fill(context);
@@ -39,15 +43,18 @@ Face madeFace() {
   return face;
 }
 
+constexpr cairo_matrix_t kUpright{20, 0, 0, 20, 0, 0};
+
 /// What the middle of a glyph in blue comes to.
-Argb32 shown(const Face& face, unsigned long glyph, bool asked, double strength = 1) {
+Argb32 shown(const Face& face, unsigned long glyph, bool asked, double strength = 1,
+             const cairo_matrix_t& size = kUpright) {
   Bitmap pixels = Bitmap::create({20, 20}).value();
   const CairoSurface surface(cairo_image_surface_create_for_data(
       reinterpret_cast<uchar*>(pixels.row(0)), CAIRO_FORMAT_ARGB32, 20, 20, pixels.bytesPerRow()));
   const CairoContext context(cairo_create(surface.get()));
   if (asked) askForPixelEdges(context.get());
   cairo_set_font_face(context.get(), face.get());
-  cairo_set_font_size(context.get(), 20);
+  cairo_set_font_matrix(context.get(), &size);
   cairo_set_source_rgba(context.get(), 0, 0, 1, strength);
   const cairo_glyph_t placed{glyph, 5, 15};
   showGlyphs(context.get(), &placed, 1);
@@ -123,6 +130,30 @@ class ColouredGlyphsTest : public QObject {
   void aGlyphThatIsAShapeHasNoColours() {
     const Face face = madeFace();
     QCOMPARE(shown(face, kRedShape, true), 0xFF0000FFu);
+  }
+
+  /// Poppler's own glyphs end the process when they are drawn with the font that cairo gives then.
+  void nothingIsDrawnWithAFontThatCannotBeUsed() {
+    const Face face = madeFace();
+    drawings = 0;
+    for (const unsigned long glyph : {kOpen, kRed, kRedShape})
+      QCOMPARE(shown(face, glyph, true, 1, {20, 20, 20, 20, 0, 0}), 0u);
+    QCOMPARE(drawings, 0);
+  }
+
+  void nothingIsDrawnBehindAGlyphThatFailed() {
+    const Face face = madeFace();
+    const CairoSurface surface(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, nullptr));
+    const CairoContext context(cairo_create(surface.get()));
+    askForPixelEdges(context.get());
+    cairo_set_font_face(context.get(), face.get());
+    cairo_set_font_size(context.get(), 20);
+    const cairo_glyph_t glyphs[] = {{kRed, 0, 20}, {kFailing, 20, 20}, {kRed, 40, 20}, {kRedShape, 60, 20}};
+    drawings = drawingsInVain = 0;
+    showGlyphs(context.get(), glyphs, 4);
+    QVERIFY(cairo_scaled_font_status(cairo_get_scaled_font(context.get())) != CAIRO_STATUS_SUCCESS);
+    QVERIFY(drawings > 0);
+    QCOMPARE(drawingsInVain, 0);
   }
 
   void aGlyphInColoursIsAsTranslucentAsItsText() {

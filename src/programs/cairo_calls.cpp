@@ -5,12 +5,16 @@
 // module that loaded it first, and each module has its own key for what is asked of a context: in a process
 // that has loaded two modules, only what the first of them draws has these edges. librsvg strokes with
 // cairo_stroke_preserve(), and sets width and matrix just before; it asks for the extents of each path, and
-// its gradients come with cairo_set_source().
+// its gradients come with cairo_set_source(). Poppler asks cairo_matrix_transform_distance() for the cells of
+// a gradient that a function tells.
+#include <string_view>
+
 #include "programs/taken_call.h"
 #include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/gradient_ends.h"
 #include "worker/drawing/path_extents.h"
 #include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/shading_steps.h"
 #include "worker/drawing/stroke_measure.h"
 
 NORVEX_STANDS_IN void cairo_clip(cairo_t* context) {
@@ -40,6 +44,12 @@ void measure(Extents cairos, cairo_t* context, double* x1, double* y1, double* x
   cairo_set_tolerance(context, before);
 }
 
+bool isOfPoppler(const void* code) {
+  Dl_info module = {};
+  return ::dladdr(code, &module) != 0 && module.dli_fname != nullptr &&
+         std::string_view(module.dli_fname).find("libpoppler") != std::string_view::npos;
+}
+
 }  // namespace
 
 NORVEX_STANDS_IN void cairo_stroke_extents(cairo_t* context, double* x1, double* y1, double* x2, double* y2) {
@@ -67,4 +77,15 @@ NORVEX_STANDS_IN void cairo_set_source(cairo_t* context, cairo_pattern_t* patter
 
 NORVEX_STANDS_IN void cairo_show_glyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
   norvex::engine::showGlyphs(context, glyphs, count);
+}
+
+NORVEX_STANDS_IN void cairo_matrix_transform_distance(const cairo_matrix_t* matrix, double* x, double* y) {
+  static const auto cairos =
+      norvex::librarysOwn(&cairo_matrix_transform_distance, "cairo_matrix_transform_distance");
+  constexpr double kCell = norvex::engine::kShadingCell;
+  // Nothing but these numbers tells what is asked for. Others have distances of their own.
+  if (*x == kCell && *y == kCell && isOfPoppler(__builtin_return_address(0)))
+    norvex::engine::shadingSteps(*matrix, x, y);
+  else
+    cairos(matrix, x, y);
 }

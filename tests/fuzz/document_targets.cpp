@@ -99,6 +99,8 @@ bool askEverything(PictureKind kind, const QByteArray& bytes) {
   if (!isDrawnInTime(**engine, box.size())) return false;
   const Result<EngineBytes> whole = (*engine)->pdf(PdfRequest());
   require(!whole || whole->bytes.startsWith("%PDF-"), "a PDF begins as one");
+  // What a program does not draw is not in it either: it would be run once more to say so.
+  if (!whole && kind == PictureKind::Eps) return false;
   composed(**engine, box.size());
   examined(**engine);
   if (kind == PictureKind::Svg) (void)(*engine)->svg(SvgRequest());

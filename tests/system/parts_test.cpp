@@ -1,11 +1,16 @@
 // The programs and their parts: where they are looked for, and what happens when one of them is not there.
+#include <QImage>
 #include <QMap>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTransform>
+
+#include <cmath>
 
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "system/x_session.h"
+#include "worker/kit/made_pdf.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -55,6 +60,29 @@ class PartsTest : public QObject {
     const Ran told = kit::norvex({"convert", kit::sample(sample), "-o", path("told." + format), "--quiet"});
     QCOMPARE(told.exitCode, 0);
     if (format == "png") QCOMPARE(bytesOf(path("out.png")), bytesOf(path("told.png")));
+  }
+
+  /// By what stands in for a function of cairo that Poppler calls: a part brings it.
+  void gradientsOfFunctionsAreDrawnTurnedAndMirrored() {
+    const QTransform turned = QTransform().translate(20, 20).rotate(45).scale(40, 40).translate(-0.5, -0.5);
+    for (const QTransform& at :
+         {turned, QTransform(0, 40, -40, 0, 40, 0), QTransform(40, 0, 0, -40, 0, 40)}) {
+      QByteArray page =
+          "/MediaBox [0 0 40 40] /Resources << /Shading << /S << /ShadingType 1 /Function 5 0 R "
+          "/ColorSpace /DeviceRGB /Matrix [";
+      for (const double value : {at.m11(), at.m12(), at.m21(), at.m22(), at.dx(), at.dy()})
+        page += QByteArray::number(value, 'f', 6) + ' ';
+      const QByteArray redAndGreen =
+          kit::stream("{ 0 }", "/FunctionType 4 /Domain [0 1 0 1] /Range [0 1 0 1 0 1]");
+      const QByteArray pdf = kit::onePage("/S sh", page + "] >> >> >>", {redAndGreen});
+      QFile file(path("f.pdf"));
+      QVERIFY(file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size());
+      file.close();
+      QCOMPARE(kit::norvex({"convert", file.fileName(), "-o", path("f.png"), "--force"}).exitCode, 0);
+      const QRgb drawn = QImage(path("f.png")).pixel(12, 15);
+      const QPointF expected = at.inverted().map(QPointF(12.5, 24.5)) * 255;
+      QVERIFY(std::abs(qRed(drawn) - expected.x()) < 6 && std::abs(qGreen(drawn) - expected.y()) < 6);
+    }
   }
 
   void oneRunConvertsPicturesOfEveryKind() {

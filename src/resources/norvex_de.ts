@@ -3127,6 +3127,8 @@
     <message>
         <source>letters of more fonts or shapes than are granted were left out</source>
         <translation>Buchstaben von mehr Schriften oder Formen, als erlaubt sind, wurden weggelassen.</translation>
+    </message>
+    <message>
         <source>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</source>
         <translation>Eine Gruppe, die ausspart oder sich mit dem mischt, was unter ihr liegt, wird für sich zusammengesetzt, wie SVG es kennt.</translation>
     </message>

@@ -3127,6 +3127,8 @@
     <message>
         <source>letters of more fonts or shapes than are granted were left out</source>
         <translation>letters of more fonts or shapes than are granted were left out</translation>
+    </message>
+    <message>
         <source>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</source>
         <translation>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</translation>
     </message>

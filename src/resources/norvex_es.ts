@@ -3127,6 +3127,8 @@
     <message>
         <source>letters of more fonts or shapes than are granted were left out</source>
         <translation>Se omitieron letras de más tipos de letra o formas de los permitidos.</translation>
+    </message>
+    <message>
         <source>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</source>
         <translation>Un grupo que cubre lo anterior o se mezcla con lo que hay debajo se compone por separado, como permite SVG.</translation>
     </message>

@@ -3127,6 +3127,8 @@
     <message>
         <source>letters of more fonts or shapes than are granted were left out</source>
         <translation>Des lettres de plus de polices ou de formes qu’il n’est permis ont été omises.</translation>
+    </message>
+    <message>
         <source>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</source>
         <translation>Un groupe qui défonce ou se mélange à ce qui se trouve dessous est composé à part, comme le prévoit SVG.</translation>
     </message>

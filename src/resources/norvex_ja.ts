@@ -3127,6 +3127,8 @@
     <message>
         <source>letters of more fonts or shapes than are granted were left out</source>
         <translation>許された数を超えるフォントや字形の文字は省かれました。</translation>
+    </message>
+    <message>
         <source>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</source>
         <translation>抜き合わせのグループや、下にあるものと混ざるグループは、SVG で可能なとおり単独で合成されます。</translation>
     </message>

@@ -3127,6 +3127,8 @@
     <message>
         <source>letters of more fonts or shapes than are granted were left out</source>
         <translation>已略去字体或字形数超出限额的字母。</translation>
+    </message>
+    <message>
         <source>a group that knocks out or blends with what lies below it is put together by itself, as SVG has it</source>
         <translation>挖空的组或与其下方内容混合的组会按 SVG 的方式单独合成。</translation>
     </message>

@@ -85,6 +85,25 @@ class PartsTest : public QObject {
     }
   }
 
+  /// A unit that the page enlarges to all of it, with stripes.
+  void gradientsOfFunctionsAreDividedAsTheyAreDrawn() {
+    const QByteArray stripes = kit::stream("{ pop 6 mul dup floor sub dup dup }",
+                                           "/FunctionType 4 /Domain [0 1 0 1] /Range [0 1 0 1 0 1]");
+    const QByteArray pdf =
+        kit::onePage("300 0 0 300 0 0 cm /S sh",
+                     "/MediaBox [0 0 300 300] /Resources << /Shading << /S << /ShadingType 1 "
+                     "/Function 5 0 R /ColorSpace /DeviceRGB >> >> >>",
+                     {stripes});
+    QFile file(path("s.pdf"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size());
+    file.close();
+    QCOMPARE(kit::norvex({"convert", file.fileName(), "-o", path("s.png"), "--force"}).exitCode, 0);
+    const QImage drawn(path("s.png"));
+    for (const int x : {20, 60, 110, 160, 220, 260})
+      QVERIFY2(std::abs(qRed(drawn.pixel(x, 150)) - (x % 50) * 255 / 50) < 12,
+               qPrintable(QString::number(x)));
+  }
+
   void oneRunConvertsPicturesOfEveryKind() {
     const Ran ran =
         kit::norvex({"convert", sample("lighthouse.svg"), sample("lighthouse-preview.eps"),

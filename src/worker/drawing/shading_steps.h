@@ -5,14 +5,27 @@
 
 namespace norvex::engine {
 
-/// Units of the picture that a cell is wide and high where Poppler draws such a gradient.
+/// Pixels of the surface that a cell is wide and high.
 inline constexpr double kShadingCell = 10;
 
-/// The same in the gradient's own coordinates, along each of its axes: more than 0. `toShading` leads from
-/// the picture there.
+/// Tells of the context into which this thread draws a picture, while this lives; nested ones take turns.
+class ShadedContext {
+ public:
+  explicit ShadedContext(cairo_t* context);
+  ~ShadedContext();
+  ShadedContext(const ShadedContext&) = delete;
+  ShadedContext& operator=(const ShadedContext&) = delete;
+
+ private:
+  cairo_t* before_;
+};
+
+/// How far a cell reaches in the gradient's own coordinates, along each of its axes: more than 0. `toShading`
+/// leads there from the units that the thread's context has now; without a context they are pixels.
 ///
 /// Poppler takes a slanting line of the picture there and goes by its two coordinates: for a gradient that is
-/// turned or mirrored one of them is 0 or less, and it makes cells until all memory is used up.
+/// turned or mirrored one of them is 0 or less, and it makes cells until all memory is used up. Nor does it
+/// look at how large the picture is drawn: one that is a single unit wide, and enlarged, would be one cell.
 void shadingSteps(const cairo_matrix_t& toShading, double* x, double* y);
 
 }  // namespace norvex::engine

@@ -12,6 +12,7 @@
 #include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/fine_image.h"
 #include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/shading_steps.h"
 #include "worker/drawing/two_halves.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/plain_page.h"
@@ -63,6 +64,7 @@ Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
   cairo_translate(context, 0, shownSize.height());
   cairo_scale(context, shownSize.width() / width, -shownSize.height() / height);
   (void)takeGlyphExcess();
+  const ShadedContext shaded(context);
   poppler_page_render(page, context);
   switch (takeGlyphExcess()) {
     case GlyphExcess::Levels:

@@ -329,7 +329,7 @@ class RunTest : public QObject {
   void anArchiveIsRepairedIntoATreeOfTheSameNames() {
     Archive archive;
     archive.service.setPicture(examinedPicture());
-    archive.put("in/a/b.EPS", kEps), archive.put("in/c.epsf", "no program"), archive.put("in/d.pdf", kPdf);
+    archive.put("in/a/b.EPS", kEps), archive.put("in/c.epsf", kPdf), archive.put("in/d.pdf", kPdf);
     QCOMPARE(archive.go({"repair", "--recursive", archive.path("in"), "--to", archive.folder("out"),
                          "--json-lines", "-q"}),
              1);

@@ -53,9 +53,9 @@ class CheckPageTest : public QObject {
     const QList<FindingRow*> rows = shown.rows();
     QCOMPARE(rows.size(), 3);
     QCOMPARE(rows[0]->accessibleName(),
-             QStringLiteral("Error. The font A is missing.. Line 7 · A. Embed the font."));
+             QStringLiteral("Error. The font A is missing. Line 7 · A. Embed the font"));
     QCOMPARE(rows[1]->accessibleName(),
-             QStringLiteral("Warning. The box cuts <b>ink</b> off.. at 25, 40 pt. Repair computes it."));
+             QStringLiteral("Warning. The box cuts <b>ink</b> off. at 25, 40 pt. Repair computes it"));
     for (const QLabel* label : rows[1]->findChildren<QLabel*>())
       QVERIFY(label->pixmap().isNull() ? label->textFormat() == Qt::PlainText : true);
     QCOMPARE(shown.text("checkCounts"), QStringLiteral("1 error, 1 warning, 1 note"));

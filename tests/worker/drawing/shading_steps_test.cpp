@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "kit/test_main.h"
+#include "worker/drawing/cairo_surface.h"
 
 using namespace norvex::engine;
 
@@ -29,7 +30,7 @@ bool isClose(double one, double other) {
 class ShadingStepsTest : public QObject {
   Q_OBJECT
  private slots:
-  void aCellOfAnUprightGradientIsTenUnits() {
+  void aCellOfAnUprightGradientIsTenPixels() {
     const Steps steps = stepsOf({100, 0, 0, 50, 7, 9});
     QVERIFY(isClose(steps.x, 0.1));
     QVERIFY(isClose(steps.y, 0.2));
@@ -44,6 +45,21 @@ class ShadingStepsTest : public QObject {
         const Steps steps = stepsOf(placed);
         QVERIFY2(isClose(steps.x, 0.1) && isClose(steps.y, 0.2), qPrintable(QString::number(degrees)));
       }
+  }
+
+  void cellsAreAsLargeAsTheyAreDrawn() {
+    const CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 4, 4));
+    const CairoContext context(cairo_create(surface.get()));
+    const ShadedContext shaded(context.get());
+    cairo_scale(context.get(), 200, -400);
+    {
+      const CairoContext inner(cairo_create(surface.get()));
+      const ShadedContext group(inner.get());
+      QVERIFY(isClose(stepsOf({1, 0, 0, 1, 0, 0}).x, 10));
+    }
+    const Steps steps = stepsOf({1, 0, 0, 1, 0, 0});
+    QVERIFY(isClose(steps.x, 0.05));
+    QVERIFY(isClose(steps.y, 0.025));
   }
 
   void whatHasNoExtentIsOneCell() {

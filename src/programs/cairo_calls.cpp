@@ -82,7 +82,7 @@ NORVEX_STANDS_IN void cairo_show_glyphs(cairo_t* context, const cairo_glyph_t* g
 NORVEX_STANDS_IN void cairo_matrix_transform_distance(const cairo_matrix_t* matrix, double* x, double* y) {
   static const auto cairos =
       norvex::librarysOwn(&cairo_matrix_transform_distance, "cairo_matrix_transform_distance");
-  constexpr double kCell = norvex::engine::kShadingCell;
+  constexpr double kCell = norvex::engine::kAskedCell;
   // Nothing but these numbers tells what is asked for. Others have distances of their own.
   if (*x == kCell && *y == kCell && isOfPoppler(__builtin_return_address(0)))
     norvex::engine::shadingSteps(*matrix, x, y);

@@ -5,8 +5,10 @@
 
 namespace norvex::engine {
 
-/// Pixels of the surface that a cell is wide and high.
-inline constexpr double kShadingCell = 10;
+/// What Poppler asks for, as wide and as high, before it goes over to the gradient's own coordinates.
+inline constexpr double kAskedCell = 10;
+/// Pixels of the surface that a cell is wide and high: stripes that are wider are seen as they are.
+inline constexpr double kShadingCell = 3;
 
 /// Tells of the context into which this thread draws a picture, while this lives; nested ones take turns.
 class ShadedContext {

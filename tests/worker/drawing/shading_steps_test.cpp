@@ -30,10 +30,10 @@ bool isClose(double one, double other) {
 class ShadingStepsTest : public QObject {
   Q_OBJECT
  private slots:
-  void aCellOfAnUprightGradientIsTenPixels() {
+  void aCellOfAnUprightGradientIsThreePixels() {
     const Steps steps = stepsOf({100, 0, 0, 50, 7, 9});
-    QVERIFY(isClose(steps.x, 0.1));
-    QVERIFY(isClose(steps.y, 0.2));
+    QVERIFY(isClose(steps.x, 0.03));
+    QVERIFY(isClose(steps.y, 0.06));
   }
 
   void itIsTheSameAtEveryAngleAndInAMirror() {
@@ -43,7 +43,7 @@ class ShadingStepsTest : public QObject {
         cairo_matrix_init_rotate(&placed, degrees * M_PI / 180);
         cairo_matrix_scale(&placed, 100, 50 * mirror);
         const Steps steps = stepsOf(placed);
-        QVERIFY2(isClose(steps.x, 0.1) && isClose(steps.y, 0.2), qPrintable(QString::number(degrees)));
+        QVERIFY2(isClose(steps.x, 0.03) && isClose(steps.y, 0.06), qPrintable(QString::number(degrees)));
       }
   }
 
@@ -55,11 +55,11 @@ class ShadingStepsTest : public QObject {
     {
       const CairoContext inner(cairo_create(surface.get()));
       const ShadedContext group(inner.get());
-      QVERIFY(isClose(stepsOf({1, 0, 0, 1, 0, 0}).x, 10));
+      QVERIFY(isClose(stepsOf({1, 0, 0, 1, 0, 0}).x, 3));
     }
     const Steps steps = stepsOf({1, 0, 0, 1, 0, 0});
-    QVERIFY(isClose(steps.x, 0.05));
-    QVERIFY(isClose(steps.y, 0.025));
+    QVERIFY(isClose(steps.x, 0.015));
+    QVERIFY(isClose(steps.y, 0.0075));
   }
 
   void whatHasNoExtentIsOneCell() {

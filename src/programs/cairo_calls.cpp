@@ -6,7 +6,8 @@
 // that has loaded two modules, only what the first of them draws has these edges. librsvg strokes with
 // cairo_stroke_preserve(), and sets width and matrix just before; it asks for the extents of each path, and
 // its gradients come with cairo_set_source(). Poppler asks cairo_matrix_transform_distance() for the cells of
-// a gradient that a function tells.
+// a gradient that a function tells, and cairo_user_to_device_distance() for the width of a line before it
+// sets it.
 #include <string_view>
 
 #include "programs/taken_call.h"
@@ -16,6 +17,7 @@
 #include "worker/drawing/pixel_edges.h"
 #include "worker/drawing/shading_steps.h"
 #include "worker/drawing/stroke_measure.h"
+#include "worker/drawing/thin_lines.h"
 
 NORVEX_STANDS_IN void cairo_clip(cairo_t* context) {
   norvex::engine::clipBetweenPixels(context);
@@ -88,4 +90,16 @@ NORVEX_STANDS_IN void cairo_matrix_transform_distance(const cairo_matrix_t* matr
     norvex::engine::shadingSteps(*matrix, x, y);
   else
     cairos(matrix, x, y);
+}
+
+NORVEX_STANDS_IN void cairo_user_to_device_distance(cairo_t* context, double* x, double* y) {
+  static const auto cairos =
+      norvex::librarysOwn(&cairo_user_to_device_distance, "cairo_user_to_device_distance");
+  if (*x == *y) norvex::engine::noteLineWidth(context, *x);
+  cairos(context, x, y);
+}
+
+NORVEX_STANDS_IN void cairo_set_line_width(cairo_t* context, double width) {
+  static const auto cairos = norvex::librarysOwn(&cairo_set_line_width, "cairo_set_line_width");
+  cairos(context, norvex::engine::lineWidthToSet(context, width));
 }

@@ -104,6 +104,24 @@ class PartsTest : public QObject {
                qPrintable(QString::number(x)));
   }
 
+  /// As much ink as the line has, in the middle of a pixel; the thinnest is seen, and the one of no width is
+  /// a whole pixel.
+  void linesThinnerThanAPixelAreAsThinAsTheyAre() {
+    const QByteArray pdf =
+        kit::onePage("0.4 w 10.3 0 m 10.3 40 l S 0.01 w 20.3 0 m 20.3 40 l S 0 w 30.3 0 m 30.3 40 l S",
+                     "/MediaBox [0 0 40 40]", {});
+    QFile file(path("l.pdf"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size());
+    file.close();
+    QCOMPARE(kit::norvex({"convert", file.fileName(), "-o", path("l.png"), "--force"}).exitCode, 0);
+    const QImage drawn(path("l.png"));
+    const auto ink = [&](int x) { return qAlpha(drawn.pixel(x, 20)); };
+    QVERIFY2(std::abs(ink(10) - 102) <= 2 && ink(9) == 0 && ink(11) == 0,
+             qPrintable(QString::number(ink(10))));
+    QVERIFY2(std::abs(ink(20) - 64) <= 2, qPrintable(QString::number(ink(20))));
+    QCOMPARE(ink(30), 255);
+  }
+
   void oneRunConvertsPicturesOfEveryKind() {
     const Ran ran =
         kit::norvex({"convert", sample("lighthouse.svg"), sample("lighthouse-preview.eps"),

@@ -369,6 +369,11 @@ bool arePixelEdgesAskedFor(cairo_t* context) {
   return askedOf(context) != nullptr;
 }
 
+bool areHardEdgesAskedFor(cairo_t* context) {
+  const Asked* asked = askedOf(context);
+  return asked && asked->hard;
+}
+
 bool hasSeams(cairo_t* context) {
   const Asked* asked = askedOf(context);
   return asked && (asked->level.areThere() || asked->slanted.areThere());

@@ -22,6 +22,8 @@ void askForPixelEdges(cairo_t* context, double width = 0, double height = 0);
 void askForHardEdges(cairo_t* context, QDeadlineTimer until = QDeadlineTimer(QDeadlineTimer::Forever));
 /// One of the two.
 [[nodiscard]] bool arePixelEdgesAskedFor(cairo_t* context);
+/// The second.
+[[nodiscard]] bool areHardEdgesAskedFor(cairo_t* context);
 
 /// Where askForPixelEdges() was called: whether tiles met at edges that could not be put between pixels,
 /// slanted ones or those of a path of several parts.

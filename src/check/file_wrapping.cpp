@@ -38,12 +38,15 @@ std::optional<WrappedFile> macBinary(QByteArrayView file) {
 std::optional<WrappedFile> appleSingle(QByteArrayView file) {
   if (!file.startsWith(kAppleSingle) || file.size() < kEntries) return std::nullopt;
   const int count = qFromBigEndian<quint16>(file.data() + 24);
+  const qint64 behindEntries = kEntries + count * kEntryBytes;
+  if (behindEntries > file.size()) return std::nullopt;
   WrappedFile wrapped{QStringLiteral("AppleSingle"), {}, {}};
   for (int i = 0; i < count; ++i) {
     const qsizetype at = kEntries + i * kEntryBytes;
-    if (at + kEntryBytes > file.size()) return std::nullopt;
-    const auto fork = part(file, number(file, at + 4), number(file, at + 8));
-    if (!fork) return std::nullopt;
+    const qint64 begin = number(file, at + 4);
+    const auto fork = part(file, begin, number(file, at + 8));
+    // A fork that held the header would be wrapped once more in itself, without end.
+    if (!fork || (begin < behindEntries && !fork->isEmpty())) return std::nullopt;
     if (number(file, at) == kDataFork) wrapped.dataFork = *fork;
     if (number(file, at) == kResourceFork) wrapped.resourceFork = *fork;
   }

@@ -24,6 +24,15 @@ QByteArray macBinary(int nameLength, const QByteArray& data, const QByteArray& r
   return file + resource;
 }
 
+/// AppleSingle: a header, the place of the one fork at 30 and its length at 34, the data fork.
+QByteArray appleSingle(const QByteArray& data) {
+  QByteArray file("\x00\x05\x16\x00\x00\x02\x00\x00", 8);
+  file += QByteArray(16, '\0') + QByteArray("\x00\x01\x00\x00\x00\x01\x00\x00\x00\x26", 10) +
+          QByteArray(4, '\0') + data;
+  qToBigEndian(quint32(data.size()), file.data() + 34);
+  return file;
+}
+
 bool isWrapped(QByteArray file, qsizetype at, char byte) {
   file[at] = byte;
   return wrappedFile(file).has_value();
@@ -53,6 +62,21 @@ class FileWrappingTest : public QObject {
       qToBigEndian(quint32((kTimes - i - 1) * kHeader + kProgram.size()), header + 83);
     }
     QCOMPARE(withoutWrapping(headers + kProgram), kProgram);
+  }
+
+  /// It would hold itself, and taking wrapping after wrapping off would never end.
+  void aForkThatLiesOverItsHeaderIsNone() {
+    const auto single = [](quint32 at) {
+      QByteArray file = appleSingle(kProgram);
+      qToBigEndian(at, file.data() + 30);
+      qToBigEndian(quint32(file.size() - at), file.data() + 34);
+      return file;
+    };
+    QCOMPARE(withoutWrapping(single(38)), kProgram);
+    for (const quint32 at : {0, 8, 26, 37}) {
+      QVERIFY2(!wrappedFile(single(at)), qPrintable(QString::number(at)));
+      QCOMPARE(withoutWrapping(single(at)), single(at));
+    }
   }
 
   void aForkThatEndsAtAFullBlockIsNotPadded() {

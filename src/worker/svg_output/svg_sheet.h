@@ -25,6 +25,8 @@ struct SvgClip {
   QRectF bounds;
   bool isRectangle = false;  ///< `bounds` itself
   QByteArray stroke;         ///< attributes of the line that it is; empty: the path's inside
+  /// What an element says to be within it: the sheet defines it once, however many elements do.
+  mutable QByteArray attribute = {};
 };
 /// Outermost first. A value; its clips are shared.
 using SvgClips = QList<std::shared_ptr<const SvgClip>>;
@@ -121,7 +123,9 @@ class SvgSheet {
   void openGroup(const std::shared_ptr<const SvgClip>& clip);
   void closeGroup();
   void count(const QByteArray& text);
+  /// Of a clip of this sheet alone.
   [[nodiscard]] QByteArray clipAttribute(const SvgClip& clip);
+  [[nodiscard]] QByteArray definedClip(const SvgClip& clip);
   [[nodiscard]] QByteArray nextName();
 
   QSizeF page_;

@@ -27,7 +27,7 @@ bool holds(const SvgClips& clips, const SvgClip& clip) {
 
 }  // namespace
 
-QByteArray SvgSheet::clipAttribute(const SvgClip& clip) {
+QByteArray SvgSheet::definedClip(const SvgClip& clip) {
   if (!clip.stroke.isEmpty()) {
     const QByteArray area = attribute("x", "0") + attribute("y", "0") +
                             attribute("width", svgNumber(page_.width(), decimals_)) +
@@ -40,6 +40,12 @@ QByteArray SvgSheet::clipAttribute(const SvgClip& clip) {
   const QByteArray rule = clip.evenOdd ? attribute("clip-rule", "evenodd") : QByteArray();
   return attribute("clip-path",
                    reference(define("<clipPath><path" + rule + attribute("d", clip.path) + "/></clipPath>")));
+}
+
+// Defining a clip goes through all of its path, and each element that is blended has its clips for itself.
+QByteArray SvgSheet::clipAttribute(const SvgClip& clip) {
+  if (clip.attribute.isEmpty()) clip.attribute = definedClip(clip);
+  return clip.attribute;
 }
 
 SvgClips SvgSheet::neededClips(const SvgClips& clips, const QRectF& bounds) const {

@@ -81,6 +81,23 @@ class SvgSheetTest : public QObject {
     QVERIFY2(svg.indexOf("mix-blend-mode") > svg.indexOf("</g>"), "no clip is open around it");
   }
 
+  // Each of thousands of elements would go through all of a path that may be as long as the document.
+  void aClipIsDefinedOnceHoweverManyElementsAreBlendedInIt() {
+    SvgSheet page = sheet();
+    const SvgClips clips{clip("M0 0h9l9 9z", QRectF(0, 0, 18, 9))};
+    const auto blend = [&](const QByteArray& colour) {
+      page.addPath("M0 0h5v5z", " fill=\"" + colour + '"', {}, false, QRectF(0, 0, 5, 5),
+                   {clips, "multiply", {}});
+    };
+    blend("#f00");
+    blend("#0f0");
+    QCOMPARE(clips[0]->attribute, " clip-path=\"url(#a)\"");
+    clips[0]->attribute = " clip-path=\"url(#kept)\"";
+    blend("#00f");
+    const QByteArray svg = page.document({});
+    QVERIFY2(svg.contains("<path clip-path=\"url(#kept)\""), svg);
+  }
+
   void whatIsBlendedThroughAMaskHasItInside() {
     SvgSheet page = sheet();
     page.add("<use xlink:href=\"#x\"/>", false, QRectF(0, 0, 5, 5), {{}, "multiply", "m"});

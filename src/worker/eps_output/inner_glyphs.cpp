@@ -10,6 +10,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "protocol/limits.h"
@@ -175,9 +176,25 @@ class Search {
       for (const std::string& name : named.getKeys())
         if (QPDFObjectHandle to = target(named.getKey(name)); !to.isNull()) ways.push_back({kind, name, to});
     }
-    if (std::none_of(ways.begin(), ways.end(), isLent))
-      std::erase_if(ways, [&](const Way& way) { return !contents.name(way.name); });
+    if (std::any_of(ways.begin(), ways.end(), isLent)) return ways;
+    const auto unused = std::stable_partition(ways.begin(), ways.end(),
+                                              [&](const Way& way) { return contents.name(way.name); });
+    if (isDrawnFont(owner)) withdrawFonts(owner, {unused, ways.end()});
+    ways.erase(unused, ways.end());
     return ways;
+  }
+
+  /// Of what no glyph uses. PostScript is made of each font with all fonts that its glyphs may show, and
+  /// where all share the resources of their page, of all of those within one another.
+  static void withdrawFonts(QPDFObjectHandle owner, const std::vector<Way>& unused) {
+    const auto isFont = [](const Way& way) { return std::string_view(way.kind) == "/Font"; };
+    if (std::none_of(unused.begin(), unused.end(), isFont)) return;
+    QPDFObjectHandle resources = resourcesOf(owner).shallowCopy();
+    QPDFObjectHandle fonts = resources.getKey("/Font").shallowCopy();
+    for (const Way& way : unused)
+      if (isFont(way)) fonts.removeKey(way.name);
+    resources.replaceKey("/Font", fonts);
+    entriesOf(owner).replaceKey("/Resources", resources);
   }
 
   /// The font, form or pattern that a resource leads to; null for any other.

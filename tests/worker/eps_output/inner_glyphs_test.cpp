@@ -1,6 +1,13 @@
 // Fonts whose glyphs are drawings and show other glyphs, in the EPS that is made of a PDF.
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <set>
+#include <string>
+
 #include "kit/test_main.h"
 #include "protocol/limits.h"
+#include "worker/eps_output/inner_glyphs.h"
 #include "worker/kit/eps_kit.h"
 #include "worker/kit/made_pdf.h"
 
@@ -97,6 +104,25 @@ class InnerGlyphsTest : public QObject {
     const QImage image = converted.byGhostscript();
     QVERIFY(!image.isNull());
     QCOMPARE(image.pixel(30, 170), qRgb(255, 0, 0));
+  }
+
+  /// What reads a font reads all fonts of its resources: with hundreds that share one dictionary, each within
+  /// each, memory ran out.
+  void aFontHoldsNoFontsThatItsGlyphsDoNotUse() {
+    const QByteArray pdf =
+        onePage(kSquare + "BT /F 8 Tf 10 10 Td (A) Tj ET", "/MediaBox [0 0 200 100] /Resources 7 0 R",
+                {type3(6, "7 0 R"), glyphOf("BT /G 4 Tf (A) Tj ET"),
+                 "<< /Font << /F 5 0 R /G 8 0 R >> /ProcSet [/PDF] >>", type3(9, "7 0 R"), glyphOf("")});
+    QPDF qpdf;
+    qpdf.processMemoryFile("made", pdf.constData(), size_t(pdf.size()));
+    QCOMPARE(engine::boundInnerGlyphs(qpdf), QStringList());
+    const auto fontsOf = [&](int object) {
+      return qpdf.getObjectByID(object, 0).getKey("/Resources").getKey("/Font").getKeys();
+    };
+    QCOMPARE(fontsOf(5), (std::set<std::string>{"/G"}));
+    QCOMPARE(fontsOf(8), std::set<std::string>());
+    QVERIFY(qpdf.getObjectByID(8, 0).getKey("/Resources").hasKey("/ProcSet"));
+    QCOMPARE(qpdf.getObjectByID(7, 0).getKey("/Font").getKeys(), (std::set<std::string>{"/F", "/G"}));
   }
 
   /// The page shows the font as before; its glyphs have resources of their own then.

@@ -5,6 +5,7 @@
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <algorithm>
+#include <cctype>
 #include <exception>
 #include <map>
 #include <memory>
@@ -51,6 +52,18 @@ class Counter final : public QPDFObjectHandle::ParserCallbacks {
   }
 };
 
+/// Whether a name holds the number of a character (PDF 1.7, 7.3.5). The bytes of images hold such marks, too.
+bool hasCodedName(const std::string& text) {
+  constexpr std::string_view kNameEnds("\0\t\n\f\r ()<>[]{}/%", 16);
+  const auto isHex = [&](size_t at) { return at < text.size() && std::isxdigit(uchar(text[at])); };
+  bool isInName = false;
+  for (size_t at = 0; at < text.size(); ++at) {
+    if (kNameEnds.find(text[at]) != std::string_view::npos) isInName = text[at] == '/';
+    if (isInName && text[at] == '#' && isHex(at + 1) && isHex(at + 2)) return true;
+  }
+  return false;
+}
+
 /// What a font's glyphs, a form or a pattern draw.
 class Contents {
  public:
@@ -67,7 +80,7 @@ class Contents {
   [[nodiscard]] bool name(const std::string& resource) {
     read();
     return isUnreadable_ || std::any_of(texts_.begin(), texts_.end(), [&](const std::string& text) {
-             return text.find(resource) != std::string::npos || text.find('#') != std::string::npos;
+             return text.find(resource) != std::string::npos;
            });
   }
 
@@ -93,11 +106,12 @@ class Contents {
     } catch (const std::exception&) {
       isUnreadable_ = true;  // others may read it all the same
     }
+    isUnreadable_ = isUnreadable_ || std::any_of(texts_.begin(), texts_.end(), hasCodedName);
   }
 
   std::vector<QPDFObjectHandle> streams_;
   std::vector<std::string> texts_;
-  bool isUnreadable_ = false;
+  bool isUnreadable_ = false;  ///< or its names are written in codes
 };
 
 class Search {

@@ -82,6 +82,8 @@ class InnerGlyphsTest : public QObject {
     QTest::newRow("a graphics state")
         << QByteArray("BT /X gs (A) Tj ET") << QByteArray("/ExtGState << /X 7 0 R >>")
         << QByteArray("<< /Font [5 0 R 10] >>");
+    QTest::newRow("a name in codes") << QByteArray("BT /#46 10 Tf (A) Tj ET")
+                                     << QByteArray("/Font << /F 5 0 R >>") << QByteArray("null");
   }
   void glyphsThatShowThemselvesThroughOthersAreLeftOutAndTold() {
     QFETCH(QByteArray, drawing);
@@ -104,6 +106,14 @@ class InnerGlyphsTest : public QObject {
     const QImage image = converted.byGhostscript();
     QVERIFY(!image.isNull());
     QCOMPARE(image.pixel(30, 170), qRgb(255, 0, 0));
+  }
+
+  void theBytesOfAnImageAreNoNameInCodes() {
+    const QByteArray image = "BI /W 2 /H 2 /CS /G /BPC 8 ID #41# EI ";
+    Converted converted(onePage(kSquare + "BT /F 8 Tf 10 10 Td (A) Tj ET",
+                                "/MediaBox [0 0 200 100] /Resources 7 0 R",
+                                {type3(6, "7 0 R"), glyphOf(image), "<< /Font << /F 5 0 R >> >>"}));
+    QCOMPARE(converted.report().warnings, QStringList());
   }
 
   /// What reads a font reads all fonts of its resources: with hundreds that share one dictionary, each within

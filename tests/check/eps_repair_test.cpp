@@ -170,6 +170,23 @@ class EpsRepairTest : public QObject {
   }
 
   /// The header finds each by its offset, and the mended picture is longer.
+  void whatNamesNoPlaceBehindThePictureStaysAsItIs() {
+    const QByteArray wrong =
+        "%%PlateFile: (Low) EPS #5 9\n%%PlateFile: (Long) EPS #99999999999999999999 9\n"
+        "%%PlateFile: (Far) EPS #99999 9\n%%PlateFile: (None) EPS # 9\n";
+    const QByteArray plate = "%!PS\nshowpage\n", end = wrong + "showpage\n";
+    const auto header = [&](qsizetype at) {
+      return "%!PS\n%%PlateFile: (Cyan) EPS #" + QByteArray::number(at).rightJustified(6, '0') + ' ' +
+             QByteArray::number(plate.size()) + '\n';
+    };
+    const QByteArray file = header(header(0).size() + end.size()) + end + plate;
+    const EpsRepair mended = repairedEps(file, QRectF(0, 0, 9, 9), false);
+    QVERIFY2(mended.program.contains(wrong), mended.program);
+    const EpsPlate cyan = epsResources(mended.program).plates.first();
+    QCOMPARE(mended.program.mid(cyan.offset, cyan.length), plate);
+    QVERIFY(cyan.offset > header(0).size() + end.size());
+  }
+
   void platesBehindThePictureStayToTheByteAndAreFound() {
     const QByteArray cyan = "%!PS-Adobe-3.0 EPSF-3.0\n%%EndComments\n0.5 setgray 1 1 9 9 rectfill\n%%EOF\n";
     const QByteArray gold = "%!PS plate\r%%EndComments\r%%EndComments\rshowpage\r";

@@ -147,6 +147,8 @@ class InksTest : public QObject {
     QCOMPARE(written.error().kind, ErrorKind::CannotWrite);
     QVERIFY2(written.error().message.contains("Cyan"), qPrintable(written.error().message));
     QVERIFY(QDir(folder.path()).isEmpty());
+    QVERIFY(!writePlates(nothing, folder.path() + "/new/plates", "a", false).ok());
+    QVERIFY2(QDir(folder.path()).isEmpty(), "folders that were made for it stay behind");
   }
 
   void nothingIsOverwrittenWithoutBeingAsked() {

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 #include "base/atomic_file.h"
 #include "base/file_name.h"
@@ -37,14 +38,14 @@ std::filesystem::path pathOf(const QString& name) {
 }
 
 /// Files that are of use together: what was written of them goes again unless keep() is called, and the
-/// folder with it that was made for them.
+/// folders with it that were made for them.
 class FilesTogether {
  public:
   FilesTogether() = default;
   ~FilesTogether() {
     std::error_code ignored;
     for (const QString& file : files_) std::filesystem::remove(pathOf(file), ignored);
-    if (!folder_.isEmpty()) std::filesystem::remove(pathOf(folder_), ignored);
+    for (const auto& folder : folders_) std::filesystem::remove(folder, ignored);
   }
   FilesTogether(const FilesTogether&) = delete;
   FilesTogether& operator=(const FilesTogether&) = delete;
@@ -52,8 +53,11 @@ class FilesTogether {
   /// With those that it stands in.
   [[nodiscard]] bool makeFolder(const QString& folder) {
     std::error_code failed;
-    if (std::filesystem::create_directories(pathOf(folder), failed)) folder_ = folder;
-    return std::filesystem::is_directory(pathOf(folder), failed);
+    const std::filesystem::path path = pathOf(folder);
+    for (auto at = path; !at.empty() && !std::filesystem::exists(at, failed); at = at.parent_path())
+      folders_.push_back(at);
+    std::filesystem::create_directories(path, failed);
+    return std::filesystem::is_directory(path, failed);
   }
   [[nodiscard]] Result<void> write(const QString& file, const QByteArray& bytes, IfExists ifExists) {
     const bool isNew = !fileExists(file);
@@ -63,12 +67,12 @@ class FilesTogether {
   }
   void keep() {
     files_.clear();
-    folder_.clear();
+    folders_.clear();
   }
 
  private:
   QStringList files_;
-  QString folder_;
+  std::vector<std::filesystem::path> folders_;  ///< that were not there; innermost first
 };
 
 }  // namespace

@@ -19,7 +19,7 @@ namespace norvex {
 
 /// Writes every plate into `folder`, which is made where it is missing, and gives their paths. Unless
 /// `force`, nothing is written when one of them exists already. Fails with CannotWrite, and takes back what
-/// it wrote of the others and the folder that it made.
+/// it wrote of the others and the folders that it made.
 [[nodiscard]] Result<QStringList> writePlates(const PageInks& page, const QString& folder,
                                               const QString& base, bool force);
 

@@ -172,7 +172,7 @@ class EpsRepairTest : public QObject {
   /// The header finds each by its offset, and the mended picture is longer.
   void whatNamesNoPlaceBehindThePictureStaysAsItIs() {
     const QByteArray wrong =
-        "%%PlateFile: (Low) EPS #5 9\n%%PlateFile: (Long) EPS #99999999999999999999 9\n"
+        "%%PlateFile: (Low) EPS #00005 9\n%%PlateFile: (Long) EPS #99999999999999999999 9\n"
         "%%PlateFile: (Far) EPS #99999 9\n%%PlateFile: (None) EPS # 9\n";
     const QByteArray plate = "%!PS\nshowpage\n", end = wrong + "showpage\n";
     const auto header = [&](qsizetype at) {

@@ -109,7 +109,7 @@ class InnerGlyphsTest : public QObject {
   }
 
   void theBytesOfAnImageAreNoNameInCodes() {
-    const QByteArray image = "BI /W 2 /H 2 /CS /G /BPC 8 ID #41# EI ";
+    const QByteArray image = "BI /W 2 /H 2 /CS /G /BPC 8 ID <#4A EI ";
     Converted converted(onePage(kSquare + "BT /F 8 Tf 10 10 Td (A) Tj ET",
                                 "/MediaBox [0 0 200 100] /Resources 7 0 R",
                                 {type3(6, "7 0 R"), glyphOf(image), "<< /Font << /F 5 0 R >> >>"}));

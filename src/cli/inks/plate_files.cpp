@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QSet>
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
@@ -45,17 +47,17 @@ class FilesTogether {
   ~FilesTogether() {
     std::error_code ignored;
     for (const QString& file : files_) std::filesystem::remove(pathOf(file), ignored);
-    for (const auto& folder : folders_) std::filesystem::remove(folder, ignored);
+    for (const auto& folder : folders_) ::rmdir(folder.c_str());  // nothing but a folder that is empty
   }
   FilesTogether(const FilesTogether&) = delete;
   FilesTogether& operator=(const FilesTogether&) = delete;
 
-  /// With those that it stands in.
+  /// With those that it stands in. A link that leads nowhere is there, and nobody's folder.
   [[nodiscard]] bool makeFolder(const QString& folder) {
     std::error_code failed;
     const std::filesystem::path path = pathOf(folder);
-    for (auto at = path; !at.empty() && !std::filesystem::exists(at, failed); at = at.parent_path())
-      folders_.push_back(at);
+    const auto isThere = [&](const auto& at) { return exists(symlink_status(at, failed)); };
+    for (auto at = path; !at.empty() && !isThere(at); at = at.parent_path()) folders_.push_back(at);
     std::filesystem::create_directories(path, failed);
     return std::filesystem::is_directory(path, failed);
   }

@@ -5,7 +5,6 @@
 
 #include <new>
 #include <optional>
-#include <type_traits>
 #include <utility>
 #include <vector>
 

@@ -326,7 +326,6 @@ double slant(cairo_t* context) {
 }
 
 void askFor(cairo_t* context, std::unique_ptr<Asked> asked) {
-  asked->angle = slant(context);
   const auto release = [](void* data) { delete static_cast<Asked*>(data); };
   if (cairo_set_user_data(context, &kAsked, asked.get(), release) == CAIRO_STATUS_SUCCESS)
     (void)asked.release();
@@ -348,7 +347,8 @@ void drawWithEdges(cairo_t* context, const Asked* asked, const Draw& draw) {
 
 void askForPixelEdges(cairo_t* context, double width, double height) {
   auto asked = std::make_unique<Asked>();
-  if (slant(context) == 0) {
+  asked->angle = slant(context);
+  if (asked->angle == 0) {
     double x0 = 0, y0 = 0, x1 = width, y1 = height;
     cairo_user_to_device(context, &x0, &y0);
     cairo_user_to_device(context, &x1, &y1);

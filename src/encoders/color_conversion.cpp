@@ -40,12 +40,6 @@ QByteArray bytesOf(const Profile& profile) {
   return cmsSaveProfileToMem(profile.get(), bytes.data(), &size) ? bytes : QByteArray();
 }
 
-/// RGB without alpha, laid over white.
-void flattenRow(const uchar* from, uchar* to, int pixels) {
-  for (int x = 0; x < pixels; ++x, from += 4, to += 3)
-    for (int i = 0; i < 3; ++i) to[i] = uchar(std::min(255, from[i] + 255 - from[3]));
-}
-
 /// RGB without alpha, and the alpha beside it.
 void splitRow(const uchar* from, uchar* color, uchar* alpha, int pixels, std::vector<uchar>& room) {
   unpremultiplyRow(from, room.data(), pixels);
@@ -78,7 +72,7 @@ void convert(const NSBitmapImageRep& from, NSBitmapImageRep& to, cmsHTRANSFORM t
     if (to.hasAlpha)
       splitRow(source, color.data(), alpha.data(), wide, room);
     else if (from.hasAlpha)
-      flattenRow(source, color.data(), wide);
+      overWhiteRow(source, color.data(), wide, 3);
     const uchar* rgb = from.hasAlpha ? color.data() : source;
     cmsDoTransform(transform, rgb, to.hasAlpha ? grey.data() : target, cmsUInt32Number(wide));
     for (int x = 0; to.hasAlpha && x < wide; ++x) {

@@ -10,8 +10,6 @@
 namespace norvex {
 namespace {
 
-constexpr int maximumSide = 65535;  // 16-bit sizes
-
 /// GIF pixels are transparent or not, nothing between: of an area of some opacity as many are seen as the
 /// opacity tells, in the even pattern of an ordered dither (Bayer, 8 × 8). Opaque pixels always are, clear
 /// ones never.
@@ -49,7 +47,7 @@ struct Pixels {
 /// dithering of what is seen alone.
 Pixels pixelsOf(const NSBitmapImageRep& raster) {
   const size_t count = size_t(raster.pixelsWide) * size_t(raster.pixelsHigh);
-  Pixels pixels{std::vector<uchar>(count * 4, 255), std::vector<uchar>(count, 255), false};
+  Pixels pixels{std::vector<uchar>(count * 4, 255), std::vector<uchar>(count, 255)};
   uchar* to = pixels.rgba.data();
   uchar* seen = pixels.seen.data();
   std::array<uchar, 3> colour{};
@@ -62,8 +60,7 @@ Pixels pixelsOf(const NSBitmapImageRep& raster) {
         *seen = 0;
         pixels.transparency = true;
       } else {
-        for (size_t i = 0; i < 3; ++i)
-          colour[i] = static_cast<uchar>(std::min(255, (from[i] * 255 + alpha / 2) / alpha));
+        for (size_t i = 0; i < 3; ++i) colour[i] = unpremultiplied(from[i], alpha);
       }
       std::copy(colour.begin(), colour.end(), to);
     }
@@ -165,7 +162,7 @@ void insertExtensions(QByteArray& file, const QByteArray& extensions) {
 
 QByteArray encodeRaster(CodecOf<PictureFormat::Gif>, const NSBitmapImageRep& raster,
                         const RasterProperties& properties) {
-  if (!isEncodable(raster) || raster.pixelsWide > maximumSide || raster.pixelsHigh > maximumSide) return {};
+  if (!isEncodable(raster)) return {};
   Indexed indexed = quantise(raster);
   if (indexed.indices.empty() || indexed.palette.empty()) return {};
   QByteArray file = write(raster, indexed);

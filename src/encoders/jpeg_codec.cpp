@@ -22,25 +22,11 @@ void jumpOut(j_common_ptr codec) {
 }
 void sayNothing(j_common_ptr) {}
 
-/// JPEG has no transparency: premultiplied colours are laid over white.
-void overWhiteRow(const uchar* from, uchar* to, int pixels) {
-  for (int x = 0; x < pixels; ++x, from += 4, to += 3) {
-    for (int i = 0; i < 3; ++i) to[i] = static_cast<uchar>(std::min(255, from[i] + 255 - from[3]));
-  }
-}
-
-/// Grey laid over white.
-void greyOverWhiteRow(const uchar* from, uchar* to, int pixels) {
-  for (int x = 0; x < pixels; ++x, from += 2)
-    to[x] = static_cast<uchar>(std::min(255, from[0] + 255 - from[1]));
-}
-
-/// One row as the codec takes it.
+/// One row as the codec takes it. JPEG has no transparency.
 void prepareRow(const uchar* from, uchar* to, const NSBitmapImageRep& raster) {
   const int samples = raster.pixelsWide * raster.samplesPerPixel;
   if (raster.hasAlpha) {
-    raster.samplesPerPixel == 2 ? greyOverWhiteRow(from, to, raster.pixelsWide)
-                                : overWhiteRow(from, to, raster.pixelsWide);
+    overWhiteRow(from, to, raster.pixelsWide, raster.samplesPerPixel - 1);
   } else if (raster.samplesPerPixel == 4) {
     // Every reader expects the inks of a JPEG upside down, as the program that came first wrote them.
     std::transform(from, from + samples, to, [](uchar ink) { return static_cast<uchar>(255 - ink); });
@@ -92,9 +78,7 @@ bool writeJpeg(jpeg_compress_struct& codec, FailureHandler& failure, const NSBit
 
 QByteArray encodeRaster(CodecOf<PictureFormat::Jpeg>, const NSBitmapImageRep& raster,
                         const RasterProperties& properties) {
-  if (!encodableColor(raster) || raster.pixelsWide > JPEG_MAX_DIMENSION ||
-      raster.pixelsHigh > JPEG_MAX_DIMENSION)
-    return {};
+  if (!encodableColor(raster)) return {};
   FailureHandler failure{};
   jpeg_compress_struct codec{};
   codec.err = jpeg_std_error(&failure.manager);

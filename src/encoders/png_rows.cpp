@@ -43,9 +43,8 @@ QByteArray packed(const QByteArray& rows, int level) {
 /// Grey that is not multiplied by its opacity.
 void unpremultiplyGreyRow(const uchar* from, uchar* to, int pixels) {
   for (int x = 0; x < pixels; ++x, from += 2, to += 2) {
-    const int alpha = from[1];
-    to[0] = alpha == 0 ? 0 : static_cast<uchar>(std::min(255, (from[0] * 255 + alpha / 2) / alpha));
-    to[1] = static_cast<uchar>(alpha);
+    to[0] = unpremultiplied(from[0], from[1]);
+    to[1] = from[1];
   }
 }
 

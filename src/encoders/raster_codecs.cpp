@@ -30,6 +30,8 @@ constexpr auto codecs = []<size_t... row>(std::index_sequence<row...>) {
 
 QByteArray encodeRaster(PictureFormat format, const NSBitmapImageRep& raster,
                         const RasterProperties& properties) {
+  if (const auto side = largestSide(format); side && std::max(raster.pixelsWide, raster.pixelsHigh) > *side)
+    return {};
   for (size_t row = 0; row < codecs.size(); ++row)
     if (formatTable[row].id == format && codecs[row]) return codecs[row](raster, properties);
   return {};
@@ -42,7 +44,7 @@ std::optional<int> largestSide(PictureFormat format) {
     case PictureFormat::Jpeg:
       return 65500;  // the library's own, a little below that of the format
     case PictureFormat::Gif:
-      return 65535;
+      return 65535;  // 16-bit sizes
     default:
       return std::nullopt;
   }
@@ -51,11 +53,14 @@ std::optional<int> largestSide(PictureFormat format) {
 void unpremultiplyRow(const uchar* from, uchar* to, int pixels) {
   for (int x = 0; x < pixels; ++x, from += 4, to += 4) {
     const int alpha = from[3];
-    for (int i = 0; i < 3; ++i) {
-      to[i] = alpha == 0 ? 0 : static_cast<uchar>(std::min(255, (from[i] * 255 + alpha / 2) / alpha));
-    }
+    for (int i = 0; i < 3; ++i) to[i] = unpremultiplied(from[i], alpha);
     to[3] = static_cast<uchar>(alpha);
   }
+}
+
+void overWhiteRow(const uchar* from, uchar* to, int pixels, int colors) {
+  for (int x = 0; x < pixels; ++x, from += colors + 1, to += colors)
+    for (int i = 0; i < colors; ++i) to[i] = static_cast<uchar>(std::min(255, from[i] + 255 - from[colors]));
 }
 
 std::optional<OutputColor> encodableColor(const NSBitmapImageRep& raster) {

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <optional>
 
 #include "protocol/bitmap_image_rep.h"
@@ -25,8 +26,8 @@ struct RasterProperties {
 ///
 /// Each takes 8-bit interleaved RGB, with associated (premultiplied) alpha or without, and what else the
 /// format holds (holdsColor()): grey as RGB is, CMYK without alpha (255: full ink); rows top to bottom. It
-/// returns the file's bytes; empty for any other layout, for a size that the format cannot hold, or when the
-/// codec fails.
+/// returns the file's bytes; empty for any other layout or when the codec fails. A size that the format
+/// cannot hold (largestSide()) does not come to it.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-template-friend"  // a plain function for each format is what is meant
 template <PictureFormat format>
@@ -36,7 +37,7 @@ struct CodecOf {
 };
 #pragma GCC diagnostic pop
 
-/// The same with the codec of `format`; empty when that is no raster format.
+/// The same with the codec of `format`; empty when that is no raster format or cannot hold so many pixels.
 [[nodiscard]] QByteArray encodeRaster(PictureFormat format, const NSBitmapImageRep& raster,
                                       const RasterProperties& properties);
 
@@ -48,8 +49,16 @@ struct CodecOf {
 /// True if this is RGB as every codec takes it.
 [[nodiscard]] bool isEncodable(const NSBitmapImageRep& raster);
 
+/// A colour that is not multiplied by its opacity any more; of a clear pixel, black.
+[[nodiscard]] constexpr uchar unpremultiplied(int sample, int alpha) {
+  return alpha == 0 ? uchar(0) : static_cast<uchar>(std::min(255, (sample * 255 + alpha / 2) / alpha));
+}
+
 /// RGBA with colours that are not multiplied by their opacity, as most formats store them; clear pixels are
 /// black.
 void unpremultiplyRow(const uchar* from, uchar* to, int pixels);
+
+/// Premultiplied colours, `colors` samples and their opacity a pixel, without transparency, laid over white.
+void overWhiteRow(const uchar* from, uchar* to, int pixels, int colors);
 
 }  // namespace norvex

@@ -69,9 +69,7 @@ QByteArray withProfile(const Written& image, const QByteArray& profile) {
 /// Without a quality every pixel that is seen keeps its value. The format stores no resolution.
 QByteArray encodeRaster(CodecOf<PictureFormat::Webp>, const NSBitmapImageRep& raster,
                         const RasterProperties& properties) {
-  if (!isEncodable(raster) || raster.pixelsWide > WEBP_MAX_DIMENSION ||
-      raster.pixelsHigh > WEBP_MAX_DIMENSION)
-    return {};
+  if (!isEncodable(raster)) return {};
   const auto config = configOf(properties.quality);
   Picture picture;
   if (!config || !picture.good) return {};

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QtEndian>
 
+#include <cmath>
 #include <functional>
 
 #include "encoders/dos_eps_writer.h"
@@ -404,6 +405,27 @@ class PictureEncoderTest : public QObject {
     EncoderSurroundings surroundings = usual();
     surroundings.region = PictureRegion{QRectF(-50, 10, 30, 20), 0.5};
     QCOMPARE(PictureEncoder(svg(), surroundings).svgData(), QByteArray("<svg cut/>"));
+  }
+  void aRegionOfAnSvgIsCutFromItsUpperLeftCorner() {
+    SvgRequest asked;
+    MemoryPicture memory = picture();
+    memory.svg = [&asked](const SvgRequest& request) {
+      asked = request;
+      return QByteArray("<svg/>");
+    };
+    service_->memory.setPicture(memory);
+    EncoderSurroundings surroundings = usual();
+    surroundings.region = PictureRegion{QRectF(-50, 10, 30, 20), 0};
+    QVERIFY(!PictureEncoder(svg(), surroundings).svgData().isEmpty());
+    QCOMPARE(asked.rect, std::optional(QRectF(50, 20, 30, 20)));
+    QCOMPARE(asked.rotate, 0.0);
+    const double quarter = std::acos(-1.0) / 2;
+    surroundings.region->rotate = quarter;  // now the picture is 100 wide and 200 high
+    QVERIFY(!PictureEncoder(svg(), surroundings).svgData().isEmpty());
+    QVERIFY(std::abs(asked.rect->x()) < 1e-9);
+    QVERIFY(std::abs(asked.rect->y() - 70) < 1e-9);
+    QCOMPARE(asked.rect->size(), QSizeF(30, 20));
+    QCOMPARE(asked.rotate, 3 * quarter);
   }
   void aRegionOfAnEpsKeepsItsFacts() {
     EncoderSurroundings surroundings = usual();

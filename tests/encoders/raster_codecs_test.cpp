@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
+#include <QTransform>
 
 #include <cmath>
 
@@ -214,6 +215,36 @@ class RasterCodecsTest : public QObject {
     const QColor clear = QImage::fromData(bytes).pixelColor(2, 0);
     QVERIFY2(clear.lightness() > 215, qPrintable(clear.name()));
   }
+  void transparencyIsLaidOverWhiteSampleBySample() {
+    const uchar from[] = {100, 50, 25, 128, 0, 0, 0, 0, 7, 8, 9, 255, 200, 0, 0, 100};
+    uchar rgb[12];
+    overWhiteRow(from, rgb, 4, 3);
+    QCOMPARE(QByteArray(reinterpret_cast<const char*>(rgb), 12).toHex(' '),
+             QByteArray("e3 b1 98 ff ff ff 07 08 09 ff 9b 9b"));
+    uchar grey[8];
+    overWhiteRow(from, grey, 8, 1);
+    QCOMPARE(QByteArray(reinterpret_cast<const char*>(grey), 8).toHex(' '),
+             QByteArray("ff 98 ff ff fe 09 ff 9b"));
+  }
+  void aClearColourIsBlackAndNoneIsMoreThanFull() {
+    QCOMPARE(unpremultiplied(100, 128), uchar(199));
+    QCOMPARE(unpremultiplied(9, 0), uchar(0));
+    QCOMPARE(unpremultiplied(9, 8), uchar(255));
+    QCOMPARE(unpremultiplied(9, 255), uchar(9));
+  }
+  void noFormatIsAskedForMoreThanItHolds_data() { rasterFormats(); }
+  void noFormatIsAskedForMoreThanItHolds() {
+    QFETCH(PictureFormat, format);
+    const auto side = largestSide(format);
+    if (!side) return;
+    QImage image(*side + 1, 1, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(encodeRaster(format, bitmapFromImage(image), {}).isEmpty());
+    QVERIFY(encodeRaster(format, bitmapFromImage(image.transformed(QTransform(0, 1, -1, 0, 0, 0))), {})
+                .isEmpty());
+    QVERIFY(!encodeRaster(format, bitmapFromImage(image.copy(0, 0, *side, 1)), {}).isEmpty());
+  }
+  void aQualityBeyondAHundredGivesNoWebp() { QVERIFY(encodeWebp(sample(false), {72, {}, 101}).isEmpty()); }
   void lessQualityTakesLessRoom_data() {
     QTest::addColumn<PictureFormat>("format");
     for (const FormatRow& row : formatTable)
@@ -332,11 +363,10 @@ class RasterCodecsTest : public QObject {
     QCOMPARE(back.pixelColor(1, 1).alpha(), 128);
     QCOMPARE(back.pixelColor(2, 0).alpha(), 0);
   }
-  void aWebpIsNoWiderThanItsFormatAllows() {
-    QImage image(16384, 1, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QVERIFY(encodeWebp(bitmapFromImage(image), {}).isEmpty());
-    QVERIFY(!encodeWebp(bitmapFromImage(image.copy(0, 0, 16383, 1)), {}).isEmpty());
+  void anOpaqueGifNamesNoTransparentColour() {
+    const QString said =
+        say(encodeGif(sample(false), {}), QStringLiteral("gif"), {QStringLiteral("giftext")});
+    QVERIFY2(said.contains("Screen Size") && !said.contains("Transparency on"), qPrintable(said));
   }
   void aGifOfNothingIsTransparent() {
     QImage image(20, 10, QImage::Format_ARGB32_Premultiplied);

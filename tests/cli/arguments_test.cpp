@@ -123,6 +123,16 @@ class ArgumentsTest : public QObject {
     QCOMPARE(isCommandLine(int(pointers.size()), pointers.data()), expected);
   }
 
+  void optionsOfTheWindowSystemOpenAWindow() {
+    for (const char* name : {"platform", "platformpluginpath", "platformtheme", "plugin", "qwindowgeometry",
+                             "qwindowicon", "qwindowtitle", "reverse", "session", "style", "stylesheet",
+                             "display", "qmljsdebugger", "widgetcount"}) {
+      QVERIFY2(!asksForCommandLine(QString("--") + name), name);
+      QVERIFY2(!asksForCommandLine(QString("--%1=a=b").arg(name)), name);
+      QVERIFY2(asksForCommandLine(QString("--%1x").arg(name)), name);
+    }
+  }
+
   void aFileNamedLikeNoCommandIsAFile() {
     const QTemporaryDir folder;
     const QString before = QDir::currentPath();
@@ -144,6 +154,8 @@ class ArgumentsTest : public QObject {
     QCOMPARE(nearestName("inf", names), "info");
     QCOMPARE(nearestName("soruce", names), "source");
     QCOMPARE(nearestName("previwe", names), "preview");
+    QCOMPARE(nearestName("inof", names), "info");  // two letters that changed places are one mistake
+    QVERIFY(!nearestName("inxx", names));
     QVERIFY(!nearestName("open", names));
     QVERIFY(!nearestName("in", names));
     QVERIFY(!nearestName("", names));

@@ -40,6 +40,10 @@ class ManualPageTest : public QObject {
     QVERIFY(shown.contains("EXIT STATUS"));
   }
 
+  void itsFootNamesTheVersion() {
+    QVERIFY(manualPage().startsWith(".TH NORVEX 1 \"\" \"norvex " NORVEX_VERSION "\" \"User Commands\"\n"));
+  }
+
   void itNamesEveryCommandAndOptionWithItsHelp() {
     if (QStandardPaths::findExecutable("man").isEmpty()) QSKIP("man is not installed");
     const QString shown = shownByMan(manualPage()).simplified();

@@ -333,7 +333,7 @@ bool ArchiveRun::keep(const FileResult& result) {
 
 bool ArchiveRun::keepWhatWaits() {
   const auto begun = lastKept_ = Clock::now();
-  if (!state_ || unkept_.isEmpty()) return true;
+  if (unkept_.isEmpty()) return true;  // always, without a state
   const Result<void> kept = state_->finish(std::exchange(unkept_, {}));
   lastKept_ = Clock::now();
   keepEvery_ =

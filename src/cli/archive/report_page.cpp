@@ -13,39 +13,39 @@
 namespace norvex {
 namespace {
 
-constexpr char kStyle[] =
-    ":root{color-scheme:light dark;--ink:#1d2530;--quiet:#5c6773;--line:#dfe3e8;--paper:#fff;--card:#f6f7f9;"
-    "--done:#2c8a57;--failed:#c9372c;--aside:#b3760a;--left:#c3cad3}"
-    "@media(prefers-color-scheme:dark){:root{--ink:#e4e7eb;--quiet:#9aa5b1;--line:#38404a;--paper:#16191d;"
-    "--card:#1f242a;--done:#4bb27c;--failed:#ef7066;--aside:#dda23a;--left:#4a535e}}"
-    "body{font:15px/1.5 system-ui,sans-serif;color:var(--ink);background:var(--paper);max-width:60rem;"
-    "margin:2.5rem auto;padding:0 1.25rem}"
-    "h1{font-size:1.6rem;line-height:1.25;margin:0;overflow-wrap:anywhere}"
-    "h2{font-size:1.1rem;margin:2.5rem 0 .75rem}"
-    "p{margin:.25rem 0}.quiet{color:var(--quiet);font-size:.87rem;overflow-wrap:anywhere}"
-    ".lead{font-size:1.1rem;margin:1.75rem 0 .75rem}"
-    ".bar{display:flex;gap:2px;height:.75rem;border-radius:.4rem;overflow:hidden;background:var(--line)}"
-    ".bar i{flex-basis:3px}.done{background:var(--done)}.failed{background:var(--failed)}"
-    ".aside{background:var(--aside)}.left{background:var(--left)}"
-    ".key{display:flex;flex-wrap:wrap;gap:.4rem 1.5rem;margin:.75rem 0 0;padding:0;list-style:none}"
-    ".key i{display:inline-block;width:.7rem;height:.7rem;border-radius:2px;margin-right:.45rem}"
-    ".facts{display:flex;flex-wrap:wrap;gap:.75rem;margin:1.5rem 0 0}"
-    ".facts div{background:var(--card);border-radius:.5rem;padding:.6rem 1rem;min-width:9rem}"
-    "dt{color:var(--quiet);font-size:.8rem}dd{margin:0;font-size:1.15rem}"
-    "table{border-collapse:collapse;width:100%;font-variant-numeric:tabular-nums}"
-    "td,th{text-align:left;padding:.45rem 1.25rem .45rem 0;border-bottom:1px solid var(--line);"
-    "vertical-align:top}th{color:var(--quiet);font-size:.8rem;font-weight:normal}"
-    "td.n,th.n{text-align:right;white-space:nowrap;width:1%}td+td{overflow-wrap:anywhere}"
-    "td+td+td{width:50%;color:var(--quiet);font:.8rem/1.6 ui-monospace,monospace;padding-right:0}"
-    ".sheet{display:grid;grid-template-columns:repeat(auto-fill,minmax(17rem,1fr));gap:1rem}"
-    "figure{margin:0;padding:.75rem;background:var(--card);border-radius:.5rem}"
-    ".pair{display:grid;grid-template-columns:1fr 1fr;gap:.5rem}"
-    ".pair div{font-size:.75rem;color:var(--quiet)}"
-    ".pair img,.pair b{display:block;width:100%;aspect-ratio:1;object-fit:contain;background:#fff;"
-    "border-radius:.25rem}.pair b{background:none;border:1px dashed var(--line);box-sizing:border-box;"
-    "font-weight:normal;text-align:center;padding:40% .25rem 0}"
-    "figcaption{font-size:.85rem;margin-top:.6rem}figcaption .quiet{font-size:.75rem}"
-    "@media print{body{margin:0;max-width:none}figure,tr{break-inside:avoid}}";
+constexpr char kStyle[] = R"(
+:root{color-scheme:light dark;--ink:#1d2530;--quiet:#5c6773;--line:#dfe3e8;--paper:#fff;--card:#f6f7f9;
+--done:#2c8a57;--failed:#c9372c;--aside:#b3760a;--left:#c3cad3}
+@media(prefers-color-scheme:dark){:root{--ink:#e4e7eb;--quiet:#9aa5b1;--line:#38404a;--paper:#16191d;
+--card:#1f242a;--done:#4bb27c;--failed:#ef7066;--aside:#dda23a;--left:#4a535e}}
+body{font:15px/1.5 system-ui,sans-serif;color:var(--ink);background:var(--paper);max-width:60rem;
+margin:2.5rem auto;padding:0 1.25rem}
+h1{font-size:1.6rem;line-height:1.25;margin:0;overflow-wrap:anywhere}
+h2{font-size:1.1rem;margin:2.5rem 0 .75rem}
+p{margin:.25rem 0}.quiet{color:var(--quiet);font-size:.87rem;overflow-wrap:anywhere}
+.lead{font-size:1.1rem;margin:1.75rem 0 .75rem}
+.bar{display:flex;gap:2px;height:.75rem;border-radius:.4rem;overflow:hidden;background:var(--line)}
+.bar i{flex-basis:3px}.done{background:var(--done)}.failed{background:var(--failed)}
+.aside{background:var(--aside)}.left{background:var(--left)}
+.key{display:flex;flex-wrap:wrap;gap:.4rem 1.5rem;margin:.75rem 0 0;padding:0;list-style:none}
+.key i{display:inline-block;width:.7rem;height:.7rem;border-radius:2px;margin-right:.45rem}
+.facts{display:flex;flex-wrap:wrap;gap:.75rem;margin:1.5rem 0 0}
+.facts div{background:var(--card);border-radius:.5rem;padding:.6rem 1rem;min-width:9rem}
+dt{color:var(--quiet);font-size:.8rem}dd{margin:0;font-size:1.15rem}
+table{border-collapse:collapse;width:100%;font-variant-numeric:tabular-nums}
+td,th{text-align:left;padding:.45rem 1.25rem .45rem 0;border-bottom:1px solid var(--line);
+vertical-align:top}th{color:var(--quiet);font-size:.8rem;font-weight:normal}
+td.n,th.n{text-align:right;white-space:nowrap;width:1%}td+td{overflow-wrap:anywhere}
+td+td+td{width:50%;color:var(--quiet);font:.8rem/1.6 ui-monospace,monospace;padding-right:0}
+.sheet{display:grid;grid-template-columns:repeat(auto-fill,minmax(17rem,1fr));gap:1rem}
+figure{margin:0;padding:.75rem;background:var(--card);border-radius:.5rem}
+.pair{display:grid;grid-template-columns:1fr 1fr;gap:.5rem}
+.pair div{font-size:.75rem;color:var(--quiet)}
+.pair img,.pair b{display:block;width:100%;aspect-ratio:1;object-fit:contain;background:#fff;
+border-radius:.25rem}.pair b{background:none;border:1px dashed var(--line);box-sizing:border-box;
+font-weight:normal;text-align:center;padding:40% .25rem 0}
+figcaption{font-size:.85rem;margin-top:.6rem}figcaption .quiet{font-size:.75rem}
+@media print{body{margin:0;max-width:none}figure,tr{break-inside:avoid}})";
 
 QString html(const QString& text) {
   return visible(text).toHtmlEscaped();

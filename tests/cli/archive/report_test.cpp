@@ -8,6 +8,7 @@
 #include <atomic>
 
 #include "cli/archive/kept_archive.h"
+#include "cli/archive/report_page.h"
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -141,6 +142,19 @@ class ReportTest : public QObject {
     QVERIFY2(page().contains("1 of 13 files done."), page().right(600).constData());
     QVERIFY2(page().contains("2 files failed for causes that are less common"),
              page().right(600).constData());
+  }
+
+  void failuresOfOtherCausesAreCounted() {
+    StateSummary summary;
+    summary.failed = 3;
+    summary.setAside = 2;
+    summary.failures = {{"it is no picture", 4, "/in/a.svg"}};
+    const auto page = [&] { return reportPage("/kept/of/state", summary, {}); };
+    QVERIFY2(page().contains("1 file failed for causes that are less common"), page().right(600).constData());
+    summary.failures[0].count = 5;
+    QVERIFY2(!page().contains("less common"), page().right(600).constData());
+    QVERIFY(page().contains("<title>state</title>") && page().contains("<h1>state</h1>"));
+    QVERIFY(page().contains("<p class=quiet>/kept/of/state</p>"));
   }
 
   void aReportIsRenewedAndOverwritesNothingElse() {

@@ -169,6 +169,15 @@ class RunTest : public QObject {
     QVERIFY(!QFileInfo::exists(gone));
   }
 
+  void twentyCollisionsAreToldAndAllAreCounted() {
+    Archive archive;
+    for (int i = 0; i < 22; ++i)
+      for (const char* extension : {".svg", ".svgz"}) archive.put("in/" + QByteArray::number(i) + extension);
+    QCOMPARE(archive.convertTree({}), 2);
+    QCOMPARE(archive.console.messages.count("more than one file would become"), 20);
+    QVERIFY(archive.console.messages.endsWith("norvex: 22 names collide; nothing is written\n"));
+  }
+
   void namesThatWouldBecomeOneAreToldBeforeAnythingIsWritten() {
     Archive archive;
     archive.put("in/a.svg"), archive.put("in/a.svgz"), archive.put("in/b.svg");

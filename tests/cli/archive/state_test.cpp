@@ -216,6 +216,15 @@ class StateTest : public QObject {
     QVERIFY(!QFileInfo::exists(kept.path("new")));
   }
 
+  void whatIsNoStateWasNotLeftByAKilledRun() {
+    Kept kept;
+    kept.put("state", "my notes, which must stay as they are, and are longer than a header");
+    kept.put("state-wal", "notes of mine too");
+    QCOMPARE(kept.go({"status", kept.path("state")}), 3);
+    QVERIFY2(kept.console.messages.endsWith("/state: it is no state of a run\n"),
+             qPrintable(kept.console.messages));
+  }
+
   void aDatabaseOfAnotherProgramStaysAsItIs() {
     Kept kept;
     kept.put("in/a.svg");

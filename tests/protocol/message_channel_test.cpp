@@ -170,7 +170,9 @@ class MessageChannelTest : public QObject {
     QVERIFY(sendRaw(pair.theirs.get(), framed("half").left(6)));
     pair.theirs.reset();
     QVERIFY(!pair.ours.isConnected());
-    QCOMPARE(pair.ours.receive().error().kind, ErrorKind::Died);
+    const Error ended = pair.ours.receive().error();
+    QCOMPARE(ended.kind, ErrorKind::Died);
+    QCOMPARE(ended.message, "the picture process ended without an answer");
     QCOMPARE(pair.ours.send("no signal kills us").error().kind, ErrorKind::Died);
   }
 

@@ -137,6 +137,7 @@ class MessageLimitsTest : public QObject {
         request(drawing(0, 1, limits::maximumSide + 1)));
     row("row of a preview", reply(preview(limits::maximumRowBytes)),
         reply(preview(limits::maximumRowBytes + 1)));
+    row("least row of a preview", reply(preview(1)), reply(preview(0)));
     row("place", request(ComposeRequest{VectorFormat::Pdf, 0, QRectF(limits::maximumPoints, 0, 1, 1)}),
         request(ComposeRequest{VectorFormat::Pdf, 0, QRectF(limits::maximumPoints * 1.001, 0, 1, 1)}));
     row("factor", request(drawing(0, limits::maximumFactor, 1)),

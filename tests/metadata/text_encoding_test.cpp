@@ -99,6 +99,18 @@ class TextEncodingTest : public QObject {
     QVERIFY(isDecodable(*encoded, number));
   }
 
+  void theFirstAndTheLastOfARangeAreOfIt() {
+    QCOMPARE(decodeText(bytes({0xA1, 0xA1, 0x8E, 0xA1, 0x8E, 0xDF}), encoding::EucJp).value_or("none"),
+             QString::fromUtf16(u"\u3000\uFF61\uFF9F"));
+    for (const int beyond : {0xA0, 0xE0}) QVERIFY(!decodeText(bytes({0x8E, beyond}), encoding::EucJp));
+    QCOMPARE(
+        decodeText(bytes({0x81, 0x40, 0x81, 0xFC, 0xA1, 0xDF, 0x9F, 0xFC, 0xE0, 0x40}), encoding::ShiftJis)
+            .value_or("none"),
+        QString::fromUtf16(u"\u3000\u25EF\uFF61\uFF9F\u6ECC\u6F3E"));
+    for (const int beyond : {0x3F, 0x7F, 0xFD})
+      QVERIFY(!decodeText(bytes({0x81, beyond}), encoding::ShiftJis));
+  }
+
   void oneInvalidByteFailsTheWholeDecoding_data() {
     QTest::addColumn<qint64>("number");
     QTest::addColumn<QByteArray>("encoded");

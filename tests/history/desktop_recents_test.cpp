@@ -75,6 +75,18 @@ class DesktopRecentsTest : public QObject {
     QCOMPARE(bytesOf(list()), QByteArray("<xbel> no list"));
   }
 
+  void theListStandsWithTheDataOfTheUser() {
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    const bool wasSet = qEnvironmentVariableIsSet("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", "/my data");
+    QCOMPARE(desktopRecentsFile(), QString("/my data/recently-used.xbel"));
+    qputenv("XDG_DATA_HOME", "relative");
+    QCOMPARE(desktopRecentsFile(), QDir::homePath() + "/.local/share/recently-used.xbel");
+    qunsetenv("XDG_DATA_HOME");
+    QCOMPARE(desktopRecentsFile(), QDir::homePath() + "/.local/share/recently-used.xbel");
+    if (wasSet) qputenv("XDG_DATA_HOME", before);
+  }
+
   void clearingMakesNoList() {
     clearFromDesktopRecents(list());
     QVERIFY(!QFile::exists(list()));

@@ -30,6 +30,11 @@ class RememberedViewsTest : public QObject {
     QVERIFY(!RememberedViews(again).view("/tmp/ä; b=/d.pdf"));
   }
 
+  void viewsThatWereKeptEarlierAreFoundAgain() {
+    settings_->setValue("Views/416080171a109b045e9fcdae", QStringList{"/a.pdf", "1", "2", "30", "4", "0"});
+    QVERIFY(RememberedViews(*settings_).view("/a.pdf") == PictureView({2, 30, 4}));
+  }
+
   void aZoomThatFollowsTheWindowIsKeptAsOne() {
     RememberedViews views(*settings_);
     views.remember("/a.pdf", {2, 0, 0, KeptFit::Width});

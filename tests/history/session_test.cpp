@@ -4,6 +4,10 @@
 #include <unistd.h>
 
 #include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -36,6 +40,11 @@ class SessionTest : public QObject {
   std::unique_ptr<QTemporaryDir> root_;
   QString folder() const { return root_->filePath("a/b"); }
   QStringList files() const { return QDir(folder()).entryList(QDir::Files); }
+  void writeSession(const QByteArray& text) const {
+    QFile file(folder() + "/1.session");
+    if (!QDir().mkpath(folder()) || !file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+      qFatal("cannot write test data");
+  }
 
  private slots:
   void init() { root_ = std::make_unique<QTemporaryDir>(); }
@@ -51,6 +60,48 @@ class SessionTest : public QObject {
     QCOMPARE(left.size(), 1);
     QCOMPARE(left.first().files, QStringList({"/a.eps", "/c.eps"}));
     QCOMPARE(left.first().last, QString("/a.eps"));
+  }
+
+  void withoutTheLastTheOneBeforeIsTheLast() {
+    inAChild([this] {
+      auto* session = new Session(folder());
+      for (const char* path : {"/a.eps", "/b.eps", "/c.eps"}) session->opened(path);
+      session->closed("/c.eps");
+    });
+    QCOMPARE(Session::takeLeft(folder()).value(0).last, QString("/b.eps"));
+    inAChild([this] {
+      auto* session = new Session(folder());
+      for (const char* path : {"/a.eps", "/b.eps"}) session->opened(path);
+      session->closed("/a.eps");
+    });
+    QCOMPARE(Session::takeLeft(folder()).value(0).last, QString("/b.eps"));
+  }
+
+  void aHundredFilesOfASessionAreOpenedAgain() {
+    QJsonArray paths;
+    for (int i = 0; i < 101; ++i) paths << QString("/%1.eps").arg(i);
+    writeSession(QJsonDocument(QJsonObject{{"files", paths}}).toJson());
+    const QList<LeftSession> left = Session::takeLeft(folder());
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(left.first().files.size(), 100);
+    QCOMPARE(left.first().files.last(), QString("/99.eps"));
+  }
+
+  void aFileOfMoreThanAMebibyteIsNoSession() {
+    const QByteArray text = "{\"files\":[\"/a.eps\"]}";
+    writeSession(text + QByteArray((1 << 20) - text.size(), ' '));
+    QCOMPARE(Session::takeLeft(folder()).size(), 1);
+    writeSession(text + QByteArray((1 << 20) + 1 - text.size(), ' '));
+    QVERIFY(Session::takeLeft(folder()).isEmpty());
+  }
+
+  void aSignalThatIsIgnoredEndsNoSession() {
+    inAChild([this] {
+      ::signal(SIGHUP, SIG_IGN);  // as nohup does
+      (new Session(folder()))->opened("/a.eps");
+      ::raise(SIGHUP);
+    });
+    QCOMPARE(files().size(), 1);
   }
 
   void itIsOfferedOnce() {
@@ -110,12 +161,8 @@ class SessionTest : public QObject {
   }
 
   void rubbishIsPassedOver() {
-    QVERIFY(QDir().mkpath(folder()));
     for (const char* text : {"", "no json", "{\"files\":7}", "{\"files\":[\"relative.eps\"]}"}) {
-      QFile file(folder() + "/1.session");
-      QVERIFY(file.open(QIODevice::WriteOnly));
-      file.write(text);
-      file.close();
+      writeSession(text);
       QVERIFY(Session::takeLeft(folder()).isEmpty());
     }
   }

@@ -55,6 +55,33 @@ class InkImageTest : public QObject {
     QCOMPARE(image.pixel(1, 0), qRgb(153, 219, 185));
   }
 
+  void aTintOfASpotInkTakesOfEachColourItsPart() {
+    PageInks page = row({inks({0, 0, 0, 0, 102})});
+    page.inks[4].alternate = ProcessInks{0, 255, 0, 0};  // 236 0 140
+    QCOMPARE(inkImage(page, everyInk(page)).pixel(0, 0), qRgb(247, 153, 209));
+  }
+
+  void everyOverprintOfFullInksIsAsTheScreenShowsIt() {
+    const QRgb shown[] = {0xffffff, 0x00adef, 0xec008c, 0x2e3192, 0xfff200, 0x00a650, 0xed1c24, 0x363639,
+                          0x231f20, 0x000f24, 0x240000, 0x000001, 0x1c1a00, 0x001300, 0x220000, 0x000000};
+    for (int i = 0; i < 16; ++i)
+      QCOMPARE(rgbOf(colourOfProcessInks(float(i & 1), float(i >> 1 & 1), float(i >> 2 & 1), float(i >> 3))),
+               shown[i] | 0xff000000);
+  }
+
+  void everyRowHasItsOwnPixels() {
+    PageInks page = row({inks({}), inks({255}), inks({51}), inks({102})});
+    page.pixels = QSize(2, 2);
+    const QImage image = inkImage(page, everyInk(page));
+    QCOMPARE(image.pixel(0, 0), kWhite);
+    QCOMPARE(image.pixel(1, 0), qRgb(0, 173, 239));
+    QCOMPARE(image.pixel(0, 1), qRgb(204, 239, 252));
+    QCOMPARE(image.pixel(1, 1), qRgb(153, 222, 249));
+    QCOMPARE(inksAt(page, QPoint(1, 0)).first(), 100.0);
+    QCOMPARE(inksAt(page, QPoint(0, 1)).first(), 20.0);
+    QCOMPARE(inksAt(page, QPoint(1, 1)).first(), 40.0);
+  }
+
   void aSpotInkOverAnotherTakesFromWhatThatLeaves() {
     const PageInks page = row({inks({0, 0, 255, 0, 255})});
     const QRgb colour = inkImage(page, everyInk(page)).pixel(0, 0);
@@ -99,6 +126,20 @@ class InkImageTest : public QObject {
     QCOMPARE(qBlue(inkImage(page, choice).pixel(2, 0)), 0);
   }
 
+  void heatGrowsOverAHundredPercentAndWhatIsCoolIsPale() {
+    const PageInks page = row({inks({255}), inks({0, 255}), inks({255, 255, 255})});
+    InkChoice choice = everyInk(page);
+    choice.limit = 250;
+    const QImage half = inkImage(page, choice);
+    QCOMPARE(half.pixel(0, 0), qRgb(223, 223, 223));  // a quarter of its grey: 128 and 86
+    QCOMPARE(half.pixel(1, 0), qRgb(213, 213, 213));
+    QCOMPARE(half.pixel(2, 0), qRgb(217, 70, 0));
+    choice.limit = 100;  // hotter than hot there is not
+    const QRgb hottest = inkImage(page, choice).pixel(2, 0);
+    QVERIFY(qRed(hottest) == 178 || qRed(hottest) == 179);
+    QVERIFY(qGreen(hottest) == 0 && qBlue(hottest) == 0);
+  }
+
   void amountsAreCountedInPercentOfAFullInk() {
     const PageInks page = row({inks({51, 255}), inks({255, 255, 255, 0, 51, 255})});
     QCOMPARE(inksAt(page, QPoint(0, 0)), QList<double>({20, 100, 0, 0, 0, 0}));
@@ -139,16 +180,20 @@ class InkImageTest : public QObject {
     };
     picture.report.warnings = {"a remark"};
     MemoryPictureProcess process({}, picture);
-    const Result<SeparatedPage> answer = separatedPage(process, PictureKind::Pdf, {4, 150, true});
+    const Result<SeparatedPage> answer =
+        separatedPage(process, PictureKind::Pdf, {4, 150, true, QRectF(1, 2, 3, 4)});
     QVERIFY(answer.ok());
     QCOMPARE(asked.what, Examination::Inks);
     QCOMPARE(asked.page, 4);
     QCOMPARE(asked.dpi, 150.0);
     QVERIFY(asked.overprint);
+    QCOMPARE(asked.part, std::optional(QRectF(1, 2, 3, 4)));
+    QCOMPARE(answer->warnings, QStringList{"a remark"});
     QCOMPARE(answer->inks.plates, page.plates);
     const Result<SeparatedPage> svg = separatedPage(process, PictureKind::Svg, {});
     QVERIFY(!svg);
     QCOMPARE(svg.error().kind, ErrorKind::Unsupported);
+    QCOMPARE(svg.error().message, "an SVG picture has no inks: its colours are those of a screen");
     QCOMPARE(process.calls(PictureCall::Examine), 1);
   }
 

@@ -34,6 +34,10 @@ class VisiblePartTest : public QObject {
       QVERIFY(pixels <= limits::maximumPlatePixels);
       QVERIFY(pixels > 0.98 * limits::maximumPlatePixels);
     }
+    // Neither where pixels are cut on every side.
+    const auto cut = visiblePart({9000, 9000}, QRectF(0.5, 0.5, 4000, 4000), 1);
+    QVERIFY(cut && cut->part->width() * cut->part->height() * std::pow(cut->dpi / 72, 2) <=
+                       limits::maximumPlatePixels);
     // A small part of it is as sharp as it is wanted.
     QCOMPARE(visiblePart({2000, 1000}, QRectF(0, 0, 10, 10), 100)->dpi, 7200.0);
   }

@@ -122,6 +122,26 @@ class EpsRulesTest : public QObject {
     QVERIFY(!operatorsOf("/initgraphics { } def initgraphics").contains("eps.operator.forbidden"));
   }
 
+  void whatStandsInATextIsNotCarriedOut() {
+    const auto isTold = [](const QByteArray& line) {
+      return operatorsOf(line).contains("eps.operator.forbidden");
+    };
+    QVERIFY(!isTold("(initgraphics) show"));
+    QVERIFY(isTold("(text) show initgraphics"));
+    QVERIFY(isTold("(a (b) c) show initgraphics"));
+    QVERIFY(!isTold("(a (b) initgraphics"));
+    QVERIFY(!isTold("(a \\) initgraphics"));
+  }
+
+  void aHeaderWithoutAnEndIsTold() {
+    const Findings found =
+        epsStructureFindings(programLines("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\nshowpage\n"));
+    QVERIFY(hasFinding(found, "eps.comments.end-missing"));
+    QStringList sentences;
+    for (const Finding& one : found) sentences << one.sentence;
+    QVERIFY2(sentences.contains("the header has no %%EndComments"), qPrintable(sentences.join(u'\n')));
+  }
+
   void aBoxIsFourNumbers() {
     QVERIFY(!boxesOf("0 0 200 100").contains("eps.bounding-box.malformed"));
     QVERIFY(boxesOf("0 0 200").contains("eps.bounding-box.malformed"));

@@ -107,6 +107,10 @@ class PageRulesTest : public QObject {
     const double millimetre = 72 / 25.4;
     QVERIFY(widthFindings(91.9 * millimetre, limits).isEmpty());
     QVERIFY(widthFindings(188.1 * millimetre, limits).isEmpty());
+    ProfileLimits just;  // as far off as it may be
+    just.columns = {0};
+    just.columnTolerance = 100 * (25.4 / 72);
+    QVERIFY(widthFindings(100, just).isEmpty());
     const Findings found = widthFindings(93 * millimetre, limits);
     QCOMPARE(found.size(), 1);
     QCOMPARE(found.first().sentence, "the picture is 93.0 mm wide, columns are 90, 190 mm");

@@ -40,6 +40,15 @@ class ProfileTest : public QObject {
     QCOMPARE(profile->severities["eps.preview.missing"], std::optional<Severity>());
   }
 
+  void theLastLineNeedsNoEnd() {
+    for (const char* toml : {"[limits]\ncolour-dpi = 300", "[limits]\ncolour-dpi = 300  # enough",
+                             "[limits]\r\ncolour-dpi = 300\r\n"}) {
+      const Result<Profile> profile = profileFromToml(toml);
+      QVERIFY2(profile.ok(), toml);
+      QCOMPARE(profile->limits.colourDpi, std::optional(300.0));
+    }
+  }
+
   void aFileOfMegabytesIsNoProfile() {
     const QTemporaryDir folder;
     const auto sentence = [&](qint64 bytes) {

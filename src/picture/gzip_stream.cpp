@@ -18,7 +18,7 @@ bool deflateAll(z_stream& stream, const QByteArray& bytes, QByteArray& out) {
   qsizetype left = bytes.size();
   int state = Z_OK;
   while (state == Z_OK) {
-    if (stream.avail_in == 0 && left > 0) {  // zlib counts in 32 bits
+    if (stream.avail_in == 0) {  // zlib counts in 32 bits
       const auto part = uInt(std::min<qsizetype>(left, std::numeric_limits<int>::max()));
       stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(from));
       stream.avail_in = part;

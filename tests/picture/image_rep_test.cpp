@@ -431,6 +431,14 @@ class ImageRepTest : public QObject {
     QCOMPARE(rep->rasterImage(1, RenderPurpose::Export, cancel).error().kind, ErrorKind::Cancelled);
   }
 
+  void withItsLastReferenceItIsGoneAtOnce() {
+    MemoryPictureService service;
+    std::shared_ptr<NSImageRep> rep = *NSEPSImageRep::imageRepWithData(service, kEps);
+    const QPointer<NSImageRep> watched = rep.get();
+    rep.reset();
+    QVERIFY(watched.isNull());
+  }
+
   void theLastReferenceMayGoInAnotherThread() {
     MemoryPictureService service;
     std::shared_ptr<NSImageRep> rep = *NSEPSImageRep::imageRepWithData(service, kEps);

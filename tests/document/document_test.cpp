@@ -162,6 +162,16 @@ class DocumentTest : public QObject {
     QCOMPARE(log_, (QStringList{"removed", "destroyed"}));
   }
 
+  void aPlaceIsToldWhenItIsAnother() {
+    const auto document = make();
+    QSignalSpy told(document.get(), &Document::fileURLChanged);
+    document->setFileURL(QUrl::fromLocalFile("/a.eps"));
+    document->setFileURL(QUrl::fromLocalFile("/a.eps"));
+    QCOMPARE(told.size(), 1);
+    document->setFileURL(QUrl::fromLocalFile("/b.eps"));
+    QCOMPARE(told.size(), 2);
+  }
+
   void closingTheWindowClosesTheDocumentOnce() {
     auto document = make();
     document->makeWindowControllers();

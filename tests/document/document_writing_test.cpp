@@ -184,7 +184,12 @@ class DocumentWritingTest : public QObject {
     producers_.shortcoming = QStringLiteral("the source could not be read as text");
     answers_->answer = 1;
     QVERIFY(!document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));
+    QCOMPARE(answers_->shown.constLast().messageText, "The new file would hold less than the picture does.");
     QCOMPARE(answers_->shown.constLast().informativeText, producers_.shortcoming);
+    QCOMPARE(answers_->shown.constLast().buttons, QStringList({"Replace", "Cancel"}));
+    document_->setAlertPresenter(nullptr);  // nobody has said so
+    QVERIFY(!document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));
+    document_->setAlertPresenter(answers_.get());
     answers_->answer = 0;
     QVERIFY(document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));
     const qsizetype asked = answers_->shown.size();

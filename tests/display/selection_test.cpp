@@ -274,6 +274,8 @@ class SelectionTest : public QObject {
     ViewFixture f;
     f.drag({{5, 5}, {std::numeric_limits<double>::quiet_NaN(), 1}});
     QCOMPARE(f.view.selectRect(), QRectF(5, 5, 1, 0));
+    f.drag({{5, 5}, {1, std::numeric_limits<double>::quiet_NaN()}});
+    QCOMPARE(f.view.selectRect(), QRectF(5, 5, 1, 0));
   }
 
   void arrowKeysMoveTheRectangleInsideTheBounds() {

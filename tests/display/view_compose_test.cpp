@@ -69,6 +69,7 @@ class ViewComposeTest : public QObject {
     const auto none = f.view.composeInsideRect(VectorFormat::Pdf, {0, 0, 5, 5});
     QVERIFY(!none);
     QCOMPARE(none.error().kind, ErrorKind::CannotRead);
+    QCOMPARE(none.error().message, "there is no picture");
   }
 
   void aDeadProcessIsAnErrorAndNoBytes() {

@@ -295,6 +295,25 @@ class RenderedPictureTest : public QObject {
     QVERIFY(pixels < 4'000'000);
   }
 
+  void aStripHasAnOverviewUpToFourTimesTheSideOfABitmap() {
+    const auto longest = [](const QSizeF& size) {
+      const Fixture f(size);
+      const QTransform t = placed(size, 4, 0, {150, 100});
+      const bool rendered =
+          f.becomesSharp(t) && QTest::qWaitFor([&] { return f.renders() >= 2; }, 20000) && f.becomesIdle();
+      int side = rendered ? 0 : -1;
+      for (const RenderRequest& request : f.process->renderRequests())
+        side = std::max({side, request.pixelSize.width(), request.pixelSize.height()});
+      return side;
+    };
+    for (const bool high : {false, true}) {
+      const QSizeF strip(10000, 40), longer(11000, 40);
+      QCOMPARE(longest(high ? strip.transposed() : strip), 15812);  // a megapixel
+      const int parts = longest(high ? longer.transposed() : longer);
+      QVERIFY2(parts > 0 && parts <= 4096, qPrintable(QString::number(parts)));
+    }
+  }
+
   void withTheMarginAShortScrollIsSharpAtOnce() {
     const Fixture f(kLarge);
     const QTransform t = placed(kLarge, 4, 0, {150, 100});

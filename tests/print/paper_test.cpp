@@ -4,6 +4,9 @@
 #include <cups/cups.h>
 #include <cups/pwg.h>
 
+#include <optional>
+#include <utility>
+
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -41,11 +44,22 @@ class PaperTest : public QObject {
   void thePaperIsThatOfTheCountryWhetherItsLocaleIsInstalledOrNot() {
     QFETCH(QByteArray, locale);
     QFETCH(QString, paper);
-    const QByteArray before = qgetenv("LC_ALL");
-    qputenv("LC_ALL", locale);
-    const QString found = localePaper().name;
-    qputenv("LC_ALL", before);
-    QCOMPARE(found, paper);
+    const char* const variables[] = {"LC_ALL", "LC_PAPER", "LANG"};
+    QList<std::pair<const char*, std::optional<QByteArray>>> before;
+    for (const char* variable : variables) {
+      before.emplace_back(
+          variable, qEnvironmentVariableIsSet(variable) ? std::optional(qgetenv(variable)) : std::nullopt);
+      qunsetenv(variable);
+    }
+    QStringList found;
+    for (const char* variable : variables) {
+      qputenv(variable, locale);
+      found << localePaper().name;
+      qunsetenv(variable);
+    }
+    for (const auto& [variable, value] : before)
+      if (value) qputenv(variable, *value);
+    QCOMPARE(found, QStringList(3, paper));
   }
 };
 

@@ -15,7 +15,6 @@ constexpr size_t kPlaces = 1024;       // intervals that are looked at
 constexpr double kUnseen = 0.8 / 255;  // a line may miss a colour by so much
 constexpr double kStep = 12.0 / 255;   // between two places next to one another: no slope
 constexpr int kHalvings = 16;          // to find the place of a step
-constexpr int kOffsetDecimals = 5;
 constexpr double kBeyond =
     0.01;  // of the length: so far a gradient goes on behind an end where it is not seen
 constexpr int kDecimals = 5;
@@ -64,7 +63,7 @@ Rgb rgbOf(GfxUnivariateShading& shading, double place) {
 }
 
 QByteArray stopText(double offset, const Rgb& colour, bool hidden = false) {
-  return "<stop" + attribute("offset", svgNumber(offset, kOffsetDecimals)) +
+  return "<stop" + attribute("offset", svgNumber(offset, kDecimals)) +
          attribute("stop-color", colourText(colour)) + (hidden ? " stop-opacity=\"0\"" : "") + "/>";
 }
 

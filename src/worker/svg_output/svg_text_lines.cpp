@@ -1,5 +1,6 @@
 #include "worker/svg_output/svg_text_lines.h"
 
+#include <QChar>
 #include <QString>
 
 #include <algorithm>
@@ -159,7 +160,7 @@ void SvgTextLines::put(const Faces& faces, const FaceCharacter& shown, double x)
   piece.text += xmlText(QString::fromUcs4(&shown.character, 1));
   piece.places += place;
   // The second half of a character counts as one of its own.
-  if (shown.character > 0xFFFF) piece.places += ' ' + place.trimmed();
+  if (QChar::requiresSurrogates(shown.character)) piece.places += ' ' + place.trimmed();
   ++line_->characters;
 }
 

@@ -95,6 +95,9 @@ class SvgDrawingTest : public QObject {
     row("radial inwards", shading("/ShadingType 3 /Coords [100 50 45 100 50 10] /Function " + kRedToBlue));
     row("two circles",
         shading("/ShadingType 3 /Coords [50 50 10 150 50 30] /Extend [true false] /Function " + kBent));
+    row("two circles of another domain",
+        shading("/ShadingType 3 /Coords [50 50 10 150 50 30] /Domain [0 2] /Function << /FunctionType 2 "
+                "/Domain [0 2] /C0 [0 0 0.5] /C1 [0.5 0.4 0.2] /N 1 >>"));
     row("function of the place",
         page("/S sh",
              "/Shading << /S << /ShadingType 1 /ColorSpace /DeviceRGB /Domain [0 1 0 1] /Matrix [200 0 0 100 "

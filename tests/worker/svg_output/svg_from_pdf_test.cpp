@@ -107,6 +107,21 @@ class SvgFromPdfTest : public QObject {
     QCOMPARE(endless.count("offset=\"0\"") + endless.count("offset=\"1\""), 2);
   }
 
+  // Some readers slow down under a matrix of the gradient's own.
+  void aGradientHasAMatrixOnlyWhereItIsSeenToBeStretched() {
+    const auto made = [](const QByteArray& matrix) {
+      return MadeSvg(page(
+          matrix + " cm /S sh",
+          "/Shading << /S << /ShadingType 3 /ColorSpace /DeviceRGB /Coords [60 50 0 60 50 40] /Extend "
+          "[true true] /Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>"));
+    };
+    QCOMPARE(made("0.5 0.5 -0.5 0.5 40 0").count("gradientTransform"), 0);
+    QCOMPARE(made("1 0 0 1.0001 0 0").count("gradientTransform"), 0);
+    QCOMPARE(made("1 0 0 1.001 0 0").count("gradientTransform"), 1);
+    const MadeSvg third(made("0.333333333 0 0 0.333333333 0 0"));
+    QVERIFY2(third.svg().contains(" cx=\"20\" cy=\"83.33333\" r=\"13.33333\""), third.svg());
+  }
+
   // What Inkscape writes as PDF shows neither mirrored patterns nor slanted clips in them.
   void aTurnedPatternIsNeitherMirroredNorClippedTwice() {
     const QByteArray cell = stream("1 0.5 0 rg 0 0 8 8 re f",

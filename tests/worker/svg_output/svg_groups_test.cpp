@@ -75,6 +75,24 @@ class SvgGroupsTest : public QObject {
     QTEST(made.report().warnings.join(u' ').contains("knocks out or blends"), "told");
   }
 
+  void aMaskIsBentByItsTransferFunctionWhereThatChangesIt() {
+    const auto made = [](const QByteArray& values) {
+      return MadeSvg(page("/M gs 0.8 0 0 rg 10 10 180 80 re f",
+                          "/ExtGState << /M << /SMask << /S /Luminosity /G 6 0 R /TR << /FunctionType 2 "
+                          "/Domain [0 1] /N 1 " +
+                              values + " >> >> >> >>",
+                          stream("0.25 g 20 20 100 60 re f",
+                                 "/Type /XObject /Subtype /Form /BBox [0 0 200 100] /Group << /S "
+                                 "/Transparency /CS /DeviceGray >>")));
+    };
+    const MadeSvg turned = made("/C0 [1] /C1 [0]");
+    QVERIFY2(
+        turned.svg().contains("tableValues=\"1 .9375 .875 .8125 .75 .6875 .625 .5625 .5 .4375 .375 .3125 "
+                              ".25 .1875 .125 .0625 0\""),
+        turned.svg());
+    QCOMPARE(made("/C0 [0] /C1 [1]").count("tableValues"), 0);
+  }
+
   // Inkscape knows masks of luminosity alone: what is opaque is white there.
   void aMaskOfOpacityIsOneOfLuminosityWhereColoursCanSayIt() {
     const auto masked = [](const QByteArray& contents, const QByteArray& resources = {}) {

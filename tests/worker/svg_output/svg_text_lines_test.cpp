@@ -243,6 +243,29 @@ class SvgTextLinesTest : public QObject {
     QCOMPARE(texts(MadeSvg::withText(pageInOwnFont(below, low)).svg()), QStringList());
   }
 
+  // What readers show in another font may leave marks anywhere around its em.
+  void whatStandsWithinAnEmOfThePageIsKept() {
+    const auto kept = [](const QByteArray& place) {
+      return texts(MadeSvg::withText(page("BT /F 12 Tf " + place + " Td (a) Tj ET")).svg()).size();
+    };
+    QCOMPARE(kept("10 111"), 1);  // one em below its line
+    QCOMPARE(kept("10 113"), 0);
+    QCOMPARE(kept("10 -23"), 1);  // two above it
+    QCOMPARE(kept("10 -25"), 0);
+    QCOMPARE(kept("-23 50"), 1);
+    QCOMPARE(kept("-25 50"), 0);
+    QCOMPARE(kept("211 50"), 1);
+    QCOMPARE(kept("213 50"), 0);
+  }
+
+  void aCharacterOfNoWidthStaysInItsLine() {
+    const QByteArray accents =
+        "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /FirstChar 97 /LastChar 98 /Widths [0 500] >>";
+    const QByteArray svg = MadeSvg::withText(page("BT /F 12 Tf 10 30 Td (ab) Tj ET", accents)).svg();
+    QCOMPARE(texts(svg), QStringList{"ab"});
+    QCOMPARE(numbers(svg, "x"), (QList<double>{10, 10}));
+  }
+
   void anOutlineStaysAboveTheTextBeforeIt() {
     const QByteArray svg =
         MadeSvg::withText(

@@ -43,6 +43,18 @@ class SvgWritingTest : public QObject {
     QCOMPARE(svgNumber(std::nan(""), 3), "0");
   }
 
+  // Each of them makes a document that no reader opens, or that some read as two lines.
+  void whatNoDocumentMayHoldIsASpace() {
+    QString text;
+    for (const char32_t c : {U'\t', U'\n', U'\r', U'\x1f', U' ', U'~', U'\x7f', U'\x80', U'\x9f', U'\xa0',
+                             U'\ud7ff', U'\ue000', U'\ufffd', U'\ufffe', U'\uffff', U'\U0001f600'})
+      text += QString::fromUcs4(&c, 1);
+    QCOMPARE(QString::fromUtf8(xmlText(text)),
+             QString(u"\t\n   ~   \u00a0\ud7ff\ue000\ufffd  \U0001f600"_qs));
+    QCOMPARE(QString::fromUtf8(xmlText(QString(QChar(0xd800)) + 'a' + QChar(0xdfff))),
+             QString(u"\ufffda\ufffd"_qs));
+  }
+
   void numbersInAPathRunTogetherWhereTheyCan() {
     QByteArray text = "l";
     for (const qint64 units : {150, -50, 50, 25, 300, 40}) appendPathNumber(text, units, 2);

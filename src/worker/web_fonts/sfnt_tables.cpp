@@ -11,6 +11,14 @@ namespace {
 constexpr char32_t kLastOfPlane = 0xFFFF;
 constexpr size_t kMostSegments = (0xFFFF - 16) / 8;  // the table tells its own length in 16 bits
 
+/// Where a reader begins to halve a list: at the largest power of two that it is long.
+struct SearchStart {
+  explicit SearchStart(qint64 count) {
+    while (power * 2 <= count) power *= 2, ++exponent;
+  }
+  qint64 power = 1, exponent = 0;
+};
+
 /// Characters behind one another that are shown by glyphs behind one another.
 struct Segment {
   char32_t first = 0, last = 0;
@@ -35,11 +43,10 @@ std::optional<QByteArray> shortMap(const std::map<char32_t, int>& glyphs) {
   parts.push_back({kLastOfPlane, kLastOfPlane, 0});
   if (parts.size() > kMostSegments) return std::nullopt;
   const auto count = qint64(parts.size());
-  qint64 power = 1, exponent = 0;
-  while (power * 2 <= count) power *= 2, ++exponent;
+  const SearchStart search(count);
   ByteWriter writer;
   writer.put(2, 4).put(2, 16 + 8 * count).put(2, 0).put(2, 2 * count);
-  writer.put(2, 2 * power).put(2, exponent).put(2, 2 * (count - power));
+  writer.put(2, 2 * search.power).put(2, search.exponent).put(2, 2 * (count - search.power));
   for (const Segment& part : parts) writer.put(2, part.last);
   writer.put(2, 0);
   for (const Segment& part : parts) writer.put(2, part.first);
@@ -163,11 +170,10 @@ quint32 tableSum(const QByteArray& table) {
 
 QByteArray sfntFile(std::map<QByteArray, QByteArray>& tables) {
   const auto count = qint64(tables.size());
-  qint64 power = 1, exponent = 0;
-  while (power * 2 <= count) power *= 2, ++exponent;
+  const SearchStart search(count);
   ByteWriter directory, data;
-  directory.put(4, kPostScriptOutlines).put(2, count).put(2, 16 * power).put(2, exponent);
-  directory.put(2, 16 * (count - power));
+  directory.put(4, kPostScriptOutlines).put(2, count).put(2, 16 * search.power).put(2, search.exponent);
+  directory.put(2, 16 * (count - search.power));
   qint64 headAt = 0;
   for (const auto& [tag, table] : tables) {
     const qint64 at = 12 + 16 * count + data.bytes.size();

@@ -5,6 +5,8 @@
 #include FT_FREETYPE_H
 #include FT_OUTLINE_H
 
+#include <QList>
+#include <QMap>
 #include <QtEndian>
 
 #include <cmath>
@@ -66,6 +68,15 @@ class ReadFont {
   FT_Library library_ = nullptr;
   FT_Face face_ = nullptr;
 };
+
+/// The tables of a font file by their names.
+QMap<QByteArray, QByteArray> tablesOf(const QByteArray& file) {
+  QMap<QByteArray, QByteArray> tables;
+  for (qsizetype entry = 12; entry < 12 + 16 * file[5]; entry += 16)
+    tables[file.mid(entry, 4)] = file.mid(qFromBigEndian<quint32>(file.constData() + entry + 8),
+                                          qFromBigEndian<quint32>(file.constData() + entry + 12));
+  return tables;
+}
 
 quint32 numberAt(const QByteArray& bytes, qsizetype at) {
   return qFromBigEndian<quint32>(bytes.constData() + at);
@@ -163,6 +174,44 @@ class WebFontTest : public QObject {
     QVERIFY(!openTypeFont(font));
     font.shownBy.erase(0xF0000);
     QVERIFY(openTypeFont(font));
+  }
+
+  void allTablesAreThereAndAsLongAsReadersExpect() {
+    QMap<QByteArray, QByteArray> tables = tablesOf(*openTypeFont(twoSquares()));
+    QCOMPARE(tables.keys(),
+             (QList<QByteArray>{"CFF ", "OS/2", "cmap", "head", "hhea", "hmtx", "maxp", "name", "post"}));
+    const QList<qsizetype> fixed{tables["OS/2"].size(), tables["head"].size(), tables["hhea"].size(),
+                                 tables["hmtx"].size(), tables["maxp"].size(), tables["post"].size()};
+    QCOMPARE(fixed, (QList<qsizetype>{96, 54, 36, 4 * 3, 6, 32}));
+  }
+
+  void itsBoxIsThatOfItsOutlines() {
+    WebFont font;
+    font.outlines = {{{{OutlineStep::Move, {QPointF(100, 50)}},
+                       {OutlineStep::Quadratic, {QPointF(300, 60), QPointF(200.5, 250.5)}}},
+                      400}};
+    font.shownBy = {{U'a', 0}};
+    const ReadFont read(*openTypeFont(font));
+    const FT_BBox box = read.face()->bbox;
+    QCOMPARE((QList<long>{box.xMin, box.yMin, box.xMax, box.yMax}), (QList<long>{100, 50, 300, 251}));
+    QCOMPARE(int(read.face()->max_advance_width), 400);
+    QCOMPARE(int(read.face()->ascender), font.ascent);
+    QCOMPARE(int(read.face()->descender), -font.descent);
+  }
+
+  // A map of the first plane, and one of all where a character lies beyond it.
+  void charactersAreFoundByHalving() {
+    const QByteArray both = tablesOf(*openTypeFont(twoSquares()))["cmap"];
+    QCOMPARE(both.left(4).toHex(), QByteArray("00000002"));
+    // Three pieces, of which the last one ends the map.
+    QCOMPARE(both.mid(20, 14).toHex(), QByteArray("0004002800000006000400010002"));
+    WebFont first = twoSquares();
+    first.shownBy.erase(char32_t(0x1F130));
+    const QByteArray one = tablesOf(*openTypeFont(first))["cmap"];
+    QCOMPARE(one.left(12).toHex(), QByteArray("00000001000300010000000c"));
+    QCOMPARE(one.size(), 12 + 0x28);
+    QCOMPARE(openTypeFont(first)->left(12).toHex(), QByteArray("4f54544f00090080000300"
+                                                               "10"));
   }
 
   void theSumOfAFileIsWhatReadersCheck() { QCOMPARE(tableSum(*openTypeFont(twoSquares())), 0xB1B0AFBAU); }

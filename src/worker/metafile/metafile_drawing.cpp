@@ -1,6 +1,7 @@
 #include "worker/metafile/metafile_drawing.h"
 
 #include <QRectF>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -28,14 +29,13 @@ MetafileDrawing::MetafileDrawing(cairo_t* context, const Metafile& metafile, QSi
   applyMatrix();
 }
 
-bool MetafileDrawing::carryOut(const MetafileRecord& record) {
+void MetafileDrawing::carryOut(const MetafileRecord& record) {
   for (const auto step :
        {&MetafileDrawing::setState, &MetafileDrawing::makeObject, &MetafileDrawing::drawLines,
         &MetafileDrawing::drawShape, &MetafileDrawing::drawText, &MetafileDrawing::drawBitmap}) {
     Words words(record.parameters);
-    if ((this->*step)(record.function, words)) return !words.isShort();
+    if ((this->*step)(record.function, words)) return;
   }
-  return false;
 }
 
 // The extent is as large as the pixels; a clip made before keeps its place.
@@ -58,12 +58,11 @@ void MetafileDrawing::stroke() {
     return;
   }
   setColour(context_, pen.colour);
-  const double pixel = 1 / pixelsPerUnit();
-  const double width = std::max<double>(pen.width, pixel);
+  const double width = std::max<double>(pen.width, 1 / pixelsPerUnit());
   cairo_set_line_width(context_, width);
   cairo_set_line_cap(context_, CAIRO_LINE_CAP_ROUND);
   cairo_set_line_join(context_, CAIRO_LINE_JOIN_ROUND);
-  const double dash = std::max(6 * width, 6 * pixel), dot = std::max(2 * width, 2 * pixel);
+  const double dash = 6 * width, dot = 2 * width;
   const std::array<double, 2> dashes{dash, dot}, dots{dot, dot};
   if (pen.style == 1 || pen.style == 3 || pen.style == 4) cairo_set_dash(context_, dashes.data(), 2, 0);
   if (pen.style == 2) cairo_set_dash(context_, dots.data(), 2, 0);
@@ -204,7 +203,7 @@ void MetafileDrawing::showText(QByteArrayView text, QPoint at) {
   const double size = font.height == 0 ? 12 / pixelsPerUnit() : std::abs(font.height);
   cairo_save(context_);
   cairo_translate(context_, at.x(), at.y());
-  cairo_rotate(context_, -font.angle * std::numbers::pi / 180);
+  cairo_rotate(context_, -qDegreesToRadians(font.angle));
   if (state_.extent.height() < 0) cairo_scale(context_, 1, -1);
   cairo_set_font_size(context_, size);
   cairo_font_extents_t line;

@@ -21,8 +21,8 @@ namespace norvex::engine {
 class MetafileDrawing {
  public:
   MetafileDrawing(cairo_t* context, const Metafile& metafile, QSize pixels);
-  /// False: the record is none that draws or is understood.
-  bool carryOut(const MetafileRecord& record);
+  /// A record that is not known changes nothing; in one that is cut short all that is missing is 0.
+  void carryOut(const MetafileRecord& record);
 
  private:
   using Words = MetafileWords;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/metafile/metafile_drawing.h"
 #include "worker/metafile/metafile_functions.h"
@@ -73,10 +72,8 @@ Result<NSBitmapImageRep> decodeMetafile(const QByteArray& bytes, const PictureLi
   });
   if (!bitmap) return bitmap.error();
   NSBitmapImageRep image = opaqueRgb(*bitmap);
-  if (size->points.width() <= limits::maximumPoints && size->points.height() <= limits::maximumPoints) {
-    image.pointsWide = std::max(0.0, size->points.width());
-    image.pointsHigh = std::max(0.0, size->points.height());
-  }
+  image.pointsWide = std::max(0.0, size->points.width());
+  image.pointsHigh = std::max(0.0, size->points.height());
   return image;
 }
 

@@ -111,7 +111,7 @@ bool MetafileDrawing::makeObject(quint16 function, Words& words) {
       font.isBold = words.signedWord() > 500;
       font.isItalic = (words.unsignedWord() & 0xFF) != 0;
       words.text(6);
-      const QByteArrayView face = words.rest().first(std::min<qsizetype>(32, words.rest().size()));
+      const QByteArrayView face = words.text(32);
       const qsizetype end = face.indexOf('\0');
       // A code page of Windows, while cairo draws nothing more after a name that is no UTF-8.
       font.face = QString::fromLatin1(end < 0 ? face : face.first(end)).toUtf8();

@@ -88,7 +88,7 @@ struct Layout {
   quint16 format = SAMPLEFORMAT_UINT, orientation = ORIENTATION_TOPLEFT, compression = COMPRESSION_NONE;
   quint16 extraSamples = 0;
   bool hasAlpha = false;
-  bool alphaIsPremultiplied = true;
+  bool hasPlainAlpha = false;  ///< and the colours are not multiplied by it
 };
 
 Layout layoutOf(TIFF* tiff) {
@@ -107,7 +107,7 @@ Layout layoutOf(TIFF* tiff) {
   TIFFGetFieldDefaulted(tiff, TIFFTAG_EXTRASAMPLES, &layout.extraSamples, &kinds);
   if (layout.extraSamples > 0 && kinds) {
     layout.hasAlpha = kinds[0] == EXTRASAMPLE_ASSOCALPHA || kinds[0] == EXTRASAMPLE_UNASSALPHA;
-    layout.alphaIsPremultiplied = kinds[0] == EXTRASAMPLE_ASSOCALPHA;
+    layout.hasPlainAlpha = kinds[0] == EXTRASAMPLE_UNASSALPHA;
   }
   return layout;
 }
@@ -166,7 +166,7 @@ class SampleReader {
     image.data = QByteArray(rowBytes * layout_.height, '\0');
     const bool complete = TIFFIsTiled(tiff_) ? readTiles(image) : readStrips(image);
     if (layout_.photometric == PHOTOMETRIC_MINISWHITE) invert(image);
-    if (layout_.hasAlpha && !layout_.alphaIsPremultiplied) premultiply(image);
+    if (layout_.hasPlainAlpha) premultiply(image);
     return complete;
   }
 
@@ -211,7 +211,7 @@ class SampleReader {
     TIFFGetField(tiff_, TIFFTAG_TILELENGTH, &tileHeight);
     const tmsize_t size = TIFFTileSize(tiff_);
     const tmsize_t rowSize = TIFFTileRowSize(tiff_);
-    if (tileWidth == 0 || tileHeight == 0 || size <= 0 || rowSize <= 0) return false;
+    if (size <= 0) return false;  // nor has a tile without a side any
     if (layout_.bits < 8 && tileWidth % 8 != 0) return false;
     QByteArray tile(qsizetype(size), '\0');
     for (int plane = 0; plane < planes(); ++plane)
@@ -289,11 +289,12 @@ void readSizeInPoints(TIFF* tiff, NSBitmapImageRep& image) {
   TIFFGetField(tiff, TIFFTAG_XRESOLUTION, &x);
   TIFFGetField(tiff, TIFFTAG_YRESOLUTION, &y);
   TIFFGetFieldDefaulted(tiff, TIFFTAG_RESOLUTIONUNIT, &unit);
-  if (unit == RESUNIT_NONE || !(x > 0) || !(y > 0)) return;
+  if (unit == RESUNIT_NONE) return;
   const double pointsPerUnit = unit == RESUNIT_CENTIMETER ? 72 / 2.54 : 72;
   const double wide = image.pixelsWide * pointsPerUnit / double(x);
   const double high = image.pixelsHigh * pointsPerUnit / double(y);
-  if (wide > limits::maximumPoints || high > limits::maximumPoints) return;
+  const auto isLength = [](double points) { return points > 0 && points <= limits::maximumPoints; };
+  if (!isLength(wide) || !isLength(high)) return;  // beyond it too where no resolution is told
   image.pointsWide = wide;
   image.pointsHigh = high;
 }

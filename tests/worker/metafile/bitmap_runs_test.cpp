@@ -52,6 +52,20 @@ class BitmapRunsTest : public QObject {
     QCOMPARE(colours, (QList<int>{1, 2, 1, 2, 3, 4, 3}));
   }
 
+  // Pixels one by one fill whole words, whatever they are.
+  void whatFollowsAListBeginsAtTheNextWord() {
+    const auto colours = [](const char* list, int bits) {
+      QList<int> told;
+      readRuns(QByteArray::fromHex(list) + QByteArray::fromHex("0177"), bits, {9, 1},
+               [&](int, int, int colour) { told << colour; });
+      return told;
+    };
+    QCOMPARE(colours("00041234", 4), (QList<int>{1, 2, 3, 4, 7}));
+    QCOMPARE(colours("0005123450ff", 4), (QList<int>{1, 2, 3, 4, 5, 7}));
+    QCOMPARE(colours("0003010203ff", 8), (QList<int>{1, 2, 3, 0x77}));
+    QCOMPARE(colours("000401020304", 8), (QList<int>{1, 2, 3, 4, 0x77}));
+  }
+
   void aMoveAboveTheTopEndsIt() { QVERIFY(placesTold(QByteArray::fromHex("000200ff0401")).isEmpty()); }
 };
 

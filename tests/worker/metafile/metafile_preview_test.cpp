@@ -55,6 +55,8 @@ class MetafilePreviewTest : public QObject {
     row("ellipse", kFill + metafileRecord(0x418, {25, 30, 5, 10}), {{20, 15}, {11, 6}}, {kRed, kWhite});
     row("rounded rectangle", kFill + metafileRecord(0x61C, {8, 8, 25, 30, 5, 10}),
         {{20, 15}, {10, 5}, {20, 6}}, {kRed, kWhite, kRed});
+    row("rectangle with corners of no width", kFill + metafileRecord(0x61C, {8, 0, 25, 30, 5, 10}),
+        {{11, 6}, {29, 24}, {31, 6}}, {kRed, kRed, kWhite});
     row("polygon", kFill + metafileRecord(0x324, {3, 0, 0, 40, 0, 0, 30}), {{5, 5}, {35, 25}},
         {kRed, kWhite});
     row("polygons with a hole",
@@ -80,6 +82,15 @@ class MetafilePreviewTest : public QObject {
         kFill + metafileRecord(0x1E, {}) + metafileRecord(0x416, {30, 20, 0, 0}) +
             metafileRecord(0x127, {0xFFFF}) + metafileRecord(0x41B, {30, 40, 0, 0}),
         {{10, 10}, {30, 10}}, {kRed, kRed});
+    row("restored to the first of two",
+        kFill + metafileRecord(0x1E, {}) + metafileRecord(0x416, {30, 20, 0, 0}) + metafileRecord(0x1E, {}) +
+            metafileRecord(0x416, {10, 20, 0, 0}) + metafileRecord(0x127, {1}) +
+            metafileRecord(0x41B, {30, 40, 0, 0}),
+        {{10, 20}, {30, 10}}, {kRed, kRed});
+    row("dashed",
+        kObjects + metafileRecord(0x2FA, {1, 2, 0, 0, 0x00FF}) + selected(3) +
+            metafileRecord(0x214, {10, 0}) + metafileRecord(0x213, {10, 40}),
+        {{6, 10}, {14, 8}, {22, 10}}, {kBlue, kWhite, kBlue});
     row("another window", metafileRecord(0x20B, {-15, -20}) + kFill + metafileRecord(0x41B, {0, 0, -15, -20}),
         {{5, 5}, {25, 5}, {5, 20}}, {kRed, kWhite, kWhite});
     row("a bitmap", metafileRecord(0xF43, {0x20, 0xCC, 0, 2, 2, 0, 0, 20, 20, 5, 10}, bitmap()),
@@ -117,6 +128,20 @@ class MetafilePreviewTest : public QObject {
     QVERIFY(image.ok());
     QCOMPARE(pixel(*image, 2, 15), kBlue);
     QCOMPARE(pixel(*image, 37, 15), kGreen);
+  }
+
+  // The older header: sizes of 16 bits, three bytes a colour, always all of them.
+  void bitmapsWithTheOlderHeaderAreRead() {
+    const QByteArray palette = QByteArray::fromHex(
+                                   "ff0000"
+                                   "00ff00") +
+                               QByteArray(254 * 3, '\0');
+    const auto image =
+        deviceBitmap(kit::words({12, 0, 2, 1, 1, 8}) + palette + QByteArray::fromHex("01000000"));
+    QVERIFY(image.ok());
+    QCOMPARE(QSize(image->width(), image->height()), QSize(2, 1));
+    QCOMPARE(image->row(0)[0], 0xFF00FF00);
+    QCOMPARE(image->row(0)[1], 0xFF0000FF);
   }
 
   void bitmapsOfRunsAreRead_data() {
@@ -246,6 +271,37 @@ class MetafilePreviewTest : public QObject {
     QVERIFY(image->data.count('\0') > 100);
   }
 
+  void textStandsWhereItIsAligned_data() {
+    QTest::addColumn<int>("align");
+    QTest::addColumn<int>("angle");  // tenths of a degree, against the clock
+    QTest::addColumn<QRect>("box");  // all that is dark lies in it, and near each of its sides
+    QTest::newRow("from the place to the right, below it") << 0 << 0 << QRect(20, 15, 16, 12);
+    QTest::newRow("to the place") << 2 << 0 << QRect(4, 15, 16, 12);
+    QTest::newRow("around it") << 6 << 0 << QRect(12, 15, 16, 12);
+    QTest::newRow("on the line") << 24 << 0 << QRect(20, 6, 16, 10);
+    QTest::newRow("upwards") << 24 << 900 << QRect(10, -1, 11, 16);
+  }
+  void textStandsWhereItIsAligned() {
+    QFETCH(int, align);
+    QFETCH(int, angle);
+    QFETCH(QRect, box);
+    const QByteArray font =
+        metafileRecord(0x2FB, {-10, 0, angle, 0, 400, 0, 0, 0, 0}, QByteArray("sans-serif\0", 11));
+    const auto image = decodeMetafile(madeMetafile(font + selected(0) + metafileRecord(0x12E, {align}) +
+                                                   metafileRecord(0x521, {2, 0x4848, 15, 20})),
+                                      {});
+    QVERIFY(image.ok());
+    QRect dark;
+    for (int y = 0; y < 30; ++y)
+      for (int x = 0; x < 40; ++x)
+        if (pixel(*image, x, y) < QByteArray("a")) dark |= QRect(x, y, 1, 1);
+    const QRect inner = box.adjusted(3, 3, -3, -3);
+    QVERIFY2(
+        box.contains(dark) && dark.contains(inner),
+        qPrintable(
+            QStringLiteral("%1 %2 %3 %4").arg(dark.x()).arg(dark.y()).arg(dark.width()).arg(dark.height())));
+  }
+
   void aFontWhoseNameIsNoUtf8StopsNothing() {
     const QByteArray font =
         metafileRecord(0x2FB, {-20, 0, 0, 0, 400, 0, 0, 0, 0}, QByteArray("Gro\xDF\xE4\0", 6));
@@ -271,18 +327,21 @@ class MetafilePreviewTest : public QObject {
 
   void whatIsDamagedIsTold_data() {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("something else") << QByteArray("metafile, but none at all");
-    QTest::newRow("no size") << kit::words({1, 9, 0x300, 0, 0, 0, 0, 0, 0}) + metafileRecord(0, {});
+    QTest::addColumn<QString>("sentence");
+    const QString damaged = QStringLiteral("the embedded Windows metafile is damaged");
+    QTest::newRow("nothing") << QByteArray() << damaged;
+    QTest::newRow("something else") << QByteArray("metafile, but none at all") << damaged;
+    QTest::newRow("no size") << kit::words({1, 9, 0x300, 0, 0, 0, 0, 0, 0}) + metafileRecord(0, {})
+                             << QStringLiteral("the embedded Windows metafile tells no size");
     QTest::newRow("a first record that goes beyond the end")
-        << kit::words({1, 9, 0x300, 0, 0, 0, 0, 0, 0}) + kit::words({500, 0, 0x20C, 30, 40});
+        << kit::words({1, 9, 0x300, 0, 0, 0, 0, 0, 0}) + kit::words({500, 0, 0x20C, 30, 40}) << damaged;
   }
   void whatIsDamagedIsTold() {
     QFETCH(QByteArray, bytes);
     const auto image = decodeMetafile(bytes, {});
     QVERIFY(!image.ok());
     QCOMPARE(image.error().kind, ErrorKind::NotParsable);
-    QVERIFY(image.error().message.contains(QStringLiteral("metafile")));
+    QTEST(image.error().message, "sentence");
   }
 
   /// What is saved beyond the limit is not kept: the state before it comes back.

@@ -3,7 +3,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <utility>
+
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 #include "worker/engine/engine.h"
 #include "worker/tiff/tiff_preview.h"
 
@@ -110,6 +113,10 @@ class TiffPreviewTest : public QObject {
     made = {};
     made.bits = 1, made.width = 12;
     QTest::newRow("one bit") << madeTiff(made, hex("a5f0 1230")) << hex("a5f0 1230") << grey << 1 << 1 << 2;
+    made.photometric = PHOTOMETRIC_MINISWHITE;
+    QTest::newRow("one bit, white is zero")
+        << madeTiff(made, hex("a5f0 1230")) << hex("5a0f edcf") << grey << 1 << 1 << 2;
+    made.photometric = PHOTOMETRIC_MINISBLACK;
     made.bits = 2, made.width = 5;
     QTest::newRow("two bits") << madeTiff(made, hex("1bc0 e440")) << hex("1bc0 e440") << grey << 2 << 1 << 2;
     made.bits = 4, made.width = 3;
@@ -181,6 +188,26 @@ class TiffPreviewTest : public QObject {
     QCOMPARE(image.data, rows);
   }
 
+  void opacityIsNotTurnedWithTheGrey() {
+    for (const int bits : {8, 16}) {
+      Made made;
+      made.bits = bits, made.width = 1, made.height = 1, made.samples = 2;
+      made.photometric = PHOTOMETRIC_MINISWHITE, made.extra = EXTRASAMPLE_ASSOCALPHA;
+      QCOMPARE(decoded(madeTiff(made, hex(bits == 8 ? "0fff" : "1234fedc"))).data.toHex(),
+               QByteArray(bits == 8 ? "f0ff" : "edcbfedc"));
+    }
+  }
+
+  // Some programs write them though the format asks for sixteenths.
+  void tilesMayBeOfAnyWidth() {
+    Made made;
+    made.tile = 16, made.width = 12, made.height = 2;
+    QByteArray bytes = madeTiff(made, hex("000102030405060708090a0b 101112131415161718191a1b"));
+    bytes[bytes.indexOf(hex("4201")) + 8] = 12;  // the tag of their width, and its value
+    const NSBitmapImageRep image = decoded(bytes);
+    QCOMPARE(image.data.toHex(), QByteArray("000102030405060708090a0b000000001011121314151617"));
+  }
+
   void aPaletteBecomesRgb() {
     QList<quint16> palette(768, 0);
     palette[1] = 0xffff;        // entry 1 red
@@ -212,6 +239,7 @@ class TiffPreviewTest : public QObject {
       const auto image = decodeTiff(bytes, {});
       QVERIFY(!image.ok());
       QCOMPARE(image.error().kind, ErrorKind::NotParsable);
+      QCOMPARE(image.error().message, QStringLiteral("the preview is not a readable TIFF image"));
     }
   }
 
@@ -237,6 +265,42 @@ class TiffPreviewTest : public QObject {
         const auto image = decodeTiff(changed, limits);
         QVERIFY(!image.ok() || image->isConsistent());
       }
+  }
+
+  // To the last byte that is granted: a mebibyte of samples, or of pixels at eight bytes each.
+  void asMuchMemoryAsIsGrantedIsUsed() {
+    PictureLimits limits;
+    limits.memoryMiB = 1;
+    const auto isRead = [&](int width, int height, int photometric) {
+      Made made;
+      made.width = width, made.height = height, made.photometric = photometric;
+      const QList<quint16> palette(photometric == PHOTOMETRIC_PALETTE ? 768 : 0, 7);
+      return decodeTiff(madeTiff(made, QByteArray(qsizetype(width) * height, 'x'), palette), limits).ok();
+    };
+    QVERIFY(isRead(1024, 1024, PHOTOMETRIC_MINISBLACK));
+    QVERIFY(!isRead(1024, 1025, PHOTOMETRIC_MINISBLACK));
+    QVERIFY(isRead(512, 256, PHOTOMETRIC_PALETTE));
+    QVERIFY(!isRead(512, 257, PHOTOMETRIC_PALETTE));
+  }
+
+  void aSideIsALimit() {
+    for (const int more : {0, 1}) {
+      Made made;
+      made.height = 1, made.width = limits::maximumSide + more;
+      const auto wide = decodeTiff(madeTiff(made, QByteArray(made.width, 'x')), {});
+      QCOMPARE(wide.ok(), more == 0);
+      if (more) QCOMPARE(wide.error().kind, ErrorKind::Limit);
+      std::swap(made.width, made.height);
+      QCOMPARE(decodeTiff(madeTiff(made, QByteArray(made.height, 'x')), {}).ok(), more == 0);
+    }
+  }
+
+  void aSizeInPointsThatIsNoneIsNotTaken() {
+    Made made;
+    made.dpi = 4 * 72 / (limits::maximumPoints * 1.01);
+    QCOMPARE(decoded(madeTiff(made, QByteArray(8, 'x'))).pointsWide, 0.0);
+    made.dpi = 4 * 72 / (limits::maximumPoints * 0.99);
+    QVERIFY(decoded(madeTiff(made, QByteArray(8, 'x'))).pointsWide > limits::maximumPoints * 0.98);
   }
 
   void tooManyPixelsAreALimit() {

@@ -78,12 +78,11 @@ Result<Bitmap> paintHalves(const RenderRequest& request, const PictureLimits& li
   const int width = request.pixelSize.width(), height = request.pixelSize.height();
   const int seam = height / 2;
   const auto paintLower = [&](const PaintPicture& paint) {
-    return paintImage(request, limits, withinRows(paint, width, std::max(0, seam - kBeyond), height));
+    return paintImage(request, limits, withinRows(paint, width, seam - kBeyond, height));
   };
   std::future<Result<Bitmap>> other;  // waited for, whatever happens here, when it goes out of sight
   if (lower) other = onAnotherThread([&] { return paintLower(lower); });
-  Result<Bitmap> image =
-      paintImage(request, limits, withinRows(upper, width, 0, std::min(height, seam + kBeyond)));
+  Result<Bitmap> image = paintImage(request, limits, withinRows(upper, width, 0, seam + kBeyond));
   const Result<Bitmap> rest = other.valid() ? other.get() : image ? paintLower(upper) : image;
   if (!image) return image;
   if (!rest) return rest;

@@ -117,6 +117,20 @@ class DrawingLimitsTest : public QObject {
     QCOMPARE(bandsOf(int(limits::maximumFineBands)), int(limits::maximumFineBands));
     QCOMPARE(bandsOf(int(limits::maximumFineBands) + 1), 0);
   }
+
+  void aSideOfAnImageHasAnEnd() {
+    const auto painted = [](int width) {
+      RenderRequest request;
+      request.pixelSize = {width, 1};
+      return paintImage(request, {}, [](cairo_t*) -> Result<void> { return {}; });
+    };
+    QVERIFY(painted(limits::maximumSide));
+    const Result<Bitmap> wide = painted(limits::maximumSide + 1);
+    QVERIFY(!wide);
+    QCOMPARE(wide.error().kind, ErrorKind::Limit);
+    QCOMPARE(wide.error().message,
+             QStringLiteral("the image would have a side of more than %1 pixels").arg(limits::maximumSide));
+  }
 };
 
 NORVEX_TEST(DrawingLimitsTest)

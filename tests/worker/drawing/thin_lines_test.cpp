@@ -38,6 +38,13 @@ class ThinLinesTest : public QObject {
     QCOMPARE(drawing.set(0.01, kPixel), kThinnestLine * kPixel);
     QCOMPARE(drawing.set(0, kPixel), kPixel);
   }
+  void aPixelIsAsLongAsItsShorterSide() {
+    const Drawing drawing;
+    askForPixelEdges(drawing.context.get());
+    cairo_scale(drawing.context.get(), 1, 2);
+    QCOMPARE(drawing.set(0.1, kPixel / 2), 0.1);
+    QCOMPARE(drawing.set(0.1, kPixel), kPixel);
+  }
   void othersAreAsTheyWouldBe() {
     const Drawing drawing;
     QCOMPARE(drawing.set(0.3, kPixel), kPixel);  // nobody asked

@@ -4,6 +4,7 @@
 #include <new>
 #include <random>
 #include <thread>
+#include <utility>
 
 #include "kit/test_main.h"
 #include "worker/drawing/pixel_edges.h"
@@ -117,6 +118,21 @@ class TwoHalvesTest : public QObject {
     QVERIFY(lower != upper);
     for (int y = 0; y < image->height(); ++y)
       QCOMPARE(image->row(y)[y % 70], y < 50 ? Argb32(0xFFFF0000) : Argb32(0xFF000000));
+  }
+
+  void eachHalfIsDrawnALittleBeyondTheSeamAlone() {
+    std::pair<double, double> upper, lower;
+    const auto rows = [](std::pair<double, double>& drawn) {
+      return [&drawn](cairo_t* context) -> Result<void> {
+        double left = 0, right = 0;
+        cairo_identity_matrix(context);
+        cairo_clip_extents(context, &left, &drawn.first, &right, &drawn.second);
+        return {};
+      };
+    };
+    QVERIFY(paintHalves(requestOf({70, 100}), {}, rows(upper), rows(lower)));
+    QCOMPARE(upper, std::pair(0.0, 54.0));
+    QCOMPARE(lower, std::pair(46.0, 100.0));
   }
 
   void theFailureOfEitherHalfIsThatOfTheDrawing() {

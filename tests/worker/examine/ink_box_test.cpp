@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "kit/test_main.h"
+#include "protocol/limits.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pdf/pdf_render.h"
 
@@ -94,6 +95,19 @@ class InkBoxTest : public QObject {
     QCOMPARE(looks, 1);
     QVERIFY(findInk(QRectF(0, 0, 90, 90), 0, kSharp, draw)->ink);
     QCOMPARE(looks, 6);
+  }
+
+  void noSideIsLongerThanAnImageMayBe() {
+    int longest = 0;
+    const auto draw = [&](const RenderRequest& request) {
+      longest = std::max({longest, request.pixelSize.width(), request.pixelSize.height()});
+      Result<Bitmap> bitmap = Bitmap::create(request.pixelSize);
+      if (bitmap) std::fill_n(bitmap->row(0), bitmap->width(), 0xff000000);
+      return bitmap;
+    };
+    QVERIFY(findInk(QRectF(0, 0, 9000, 2), 0, kSharp, draw)->ink);
+    QVERIFY2(longest > limits::maximumSide / 2 && longest <= limits::maximumSide,
+             qPrintable(QString::number(longest)));
   }
 
   void whiteIsPaintedAndNoInk() {

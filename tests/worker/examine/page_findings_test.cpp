@@ -1,0 +1,111 @@
+// What an examination finds of a page that a printer stumbles over.
+#include <cmath>
+
+#include "kit/test_main.h"
+#include "worker/examine/page_colour.h"
+#include "worker/examine/page_examination.h"
+#include "worker/kit/made_pdf.h"
+
+using namespace norvex;
+using namespace norvex::engine;
+
+namespace {
+
+// Half: see-through; Multiply: blends; Over: overprints; Mask: masked softly.
+const QByteArray kStates =
+    "/ExtGState << /Half << /ca 0.5 /CA 0.5 >> /Multiply << /BM /Multiply >> /Over << /op true /OP true >> "
+    ">> "
+    "/Font << /F << /Type /Font /Subtype /Type1 /BaseFont /Helvetica >> >> ";
+
+PageContents drawn(const QByteArray& contents, const QByteArray& resources = {},
+                   const QList<QByteArray>& more = {}) {
+  const Result<PageContents> found = onlyPageContents(
+      kit::onePage(contents, "/MediaBox [0 0 200 100] /Resources << " + kStates + resources + " >>", more),
+      {});
+  return found ? *found : PageContents();
+}
+
+QByteArray image(const QByteArray& entries) {
+  return kit::stream("x", "/Type /XObject /Subtype /Image /Width 1 /Height 1 " + entries);
+}
+
+}  // namespace
+
+class PageFindingsTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void whatShowsWhatLiesBelowIsTransparent() {
+    QVERIFY(!drawn("10 10 20 20 re f 1 w 0 0 m 9 9 l S").transparency);
+    QCOMPARE(drawn("/Half gs 10 10 20 30 re f").transparency, QRectF(10, 10, 20, 30));
+    QCOMPARE(drawn("/Multiply gs 10 10 20 30 re f").transparency, QRectF(10, 10, 20, 30));
+    QVERIFY(!drawn("/Half gs 300 10 20 30 re f").transparency);  // not on the page
+  }
+
+  void anImageIsTransparentByItsMaskAlone() {
+    const auto of = [](const QByteArray& state, const QByteArray& entries) {
+      return drawn("q " + state + " 20 0 0 20 10 10 cm /I Do Q", "/XObject << /I 5 0 R >>",
+                   {image(entries), image("/ColorSpace /DeviceGray /BitsPerComponent 8")})
+          .transparency.has_value();
+    };
+    const QByteArray grey = "/ColorSpace /DeviceGray /BitsPerComponent 8 ";
+    QVERIFY(!of({}, grey));
+    QVERIFY(of({}, grey + "/SMask 6 0 R"));
+    QVERIFY(of("/Half gs", grey));
+    QVERIFY(of("/Multiply gs", grey));
+    QVERIFY(!of({}, "/ImageMask true /SMask 6 0 R"));  // a stencil has none
+  }
+
+  void whatSticksOutIsMeasured() {
+    QVERIFY(!drawn("1 0 0 rg -1 -1 202 102 re f").outside);
+    const auto outside = drawn("1 0 0 rg -5 10 20 20 re f 190 10 13 20 re f").outside;
+    QVERIFY(outside);
+    QCOMPARE(outside->value, 5.0);
+    QCOMPARE(outside->rect, QRectF(-5, 10, 20, 20));
+    QCOMPARE(drawn("1 0 0 rg 10 50 20 57 re f").outside->value, 7.0);
+    QVERIFY(!drawn("1 g -5 10 20 20 re f").outside);  // white is no loss
+    QVERIFY(!drawn("BT /F 12 Tf -9 10 Td (a) Tj ET").outside);
+    QCOMPARE(drawn("q 20 0 0 20 -8 10 cm /I Do Q", "/XObject << /I 5 0 R >>",
+                   {image("/ColorSpace /DeviceGray /BitsPerComponent 8")})
+                 .outside->value,
+             8.0);
+  }
+
+  void whiteThatOverprintsVanishes() {
+    QVERIFY(drawn("/Over gs 0 0 0 0 k 10 10 20 20 re f").whiteOverprint);
+    QVERIFY(!drawn("0 0 0 0 k 10 10 20 20 re f").whiteOverprint);
+    QVERIFY(!drawn("/Over gs 0 0 0 1 k 10 10 20 20 re f").whiteOverprint);
+    QVERIFY(!drawn("/Over gs 1 1 1 rg 10 10 20 20 re f").whiteOverprint);
+  }
+
+  void smallBlackTextThatKnocksOutIsTold() {
+    const auto of = [](const QByteArray& state, const QByteArray& size) {
+      return drawn(state + " BT /F " + size + " Tf 10 10 Td (a) Tj ET").blackKnocksOut.has_value();
+    };
+    QVERIFY(of("0 0 0 1 k", "12"));
+    QVERIFY(!of("0 0 0 1 k", "12.5"));
+    QVERIFY(!of("/Over gs 0 0 0 1 k", "12"));
+    QVERIFY(!of("0 1 0 1 k", "12"));
+  }
+
+  void aLineInNoInkIsNone() {
+    const QByteArray none =
+        "/ColorSpace << /N [/Separation /None /DeviceGray << /FunctionType 2 /N 1 /Domain [0 1] /C0 [0] /C1 "
+        "[1] >>] >>";
+    QVERIFY(!drawn("/N CS 1 SCN 0.1 w 10 10 m 20 10 l S", none).thinnestLine);
+    QVERIFY(drawn("0.1 w 10 10 m 20 10 l S", none).thinnestLine);
+  }
+
+  void inkIsNeverLessThanNone() {
+    const auto inkOf = [](ColourModel model, const std::vector<double>& parts) {
+      return colourOf(ColourSpace{model}, parts).ink;
+    };
+    QCOMPARE(inkOf(ColourModel::Grey, {1.5}), 0.0);
+    QCOMPARE(inkOf(ColourModel::Grey, {-0.5}), 100.0);
+    QCOMPARE(inkOf(ColourModel::Cmyk, {-1, -1, 0, 0}), 0.0);
+    QCOMPARE(inkOf(ColourModel::Cmyk, {2, 2, 2, 2}), 400.0);
+    QCOMPARE(inkOf(ColourModel::Spot, {-1}), 0.0);
+  }
+};
+
+NORVEX_TEST(PageFindingsTest)
+#include "page_findings_test.moc"

@@ -38,17 +38,18 @@ ExitCode Job::info(const Arguments& arguments) {
   const bool fromInput = arguments.files.contains(QStringLiteral("-"));
   const Result<QByteArray> input =
       fromInput ? readInput(console_, QStringLiteral("-")) : Result(QByteArray());
-  service_.openOnlyFor(PictureUse::Drawing);
+  service_.openOnlyFor(PictureUse::Facts);
   const auto find = [&](qsizetype index) {
     const QString& file = arguments.files[index];
     const bool isInput = file == QLatin1String("-");
     return findingOf(documentInfo(service_, file, isInput ? input : readInputFile(file), limits, *reader),
                      json);
   };
-  WorkInOrder<Finding> findings(arguments.files.size(), threadsWithinOpenFiles(QThread::idealThreadCount()),
-                                find, [](const Error& error) {
-                                  return Finding{{}, error};
-                                });
+  // Most of the time each of them waits for a picture's process to be made and to answer.
+  const int threads = threadsWithinOpenFiles(2 * QThread::idealThreadCount());
+  WorkInOrder<Finding> findings(arguments.files.size(), threads, find, [](const Error& error) {
+    return Finding{{}, error};
+  });
 
   QList<ExitCode> codes;
   bool written = !json || console_.write("[\n");

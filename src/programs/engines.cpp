@@ -5,6 +5,7 @@
 #include "worker/engine_modules.h"
 #include "worker/every_engine/decode_preview.h"
 #include "worker/every_engine/open_document.h"
+#include "worker/facts/facts_engine.h"
 #include "worker/pages/compose_pages.h"
 #include "worker/pages/joined_pages.h"
 #include "worker/pdf/pdf_attributes.h"
@@ -20,6 +21,11 @@ void warmUpFonts() {
 
 template <PictureNeeds offers>
 void offer(EngineSet& engines) {
+  if constexpr (offers == NeedFacts) {
+    engines.open = engine::openForFacts;
+    engines.onlyFacts = true;
+    return;
+  }
   engines.open = engine::openOffered<offers>;
   if constexpr ((offers & NeedPreviews) != 0) engines.decodePreview = engine::decodePreview;
   if constexpr ((offers & NeedPages) != 0)

@@ -26,12 +26,13 @@ DocumentKind kindOfFile(Text name) {
 }
 
 PictureNeeds needsOfFile(Text name, PictureUse use) {
+  const PictureNeeds pages = use == PictureUse::Facts ? NeedFacts : NeedPages;
   switch (kindOfFile(name)) {
     case DocumentKind::Svg:
       return svgNeeds(use);
     case DocumentKind::Pdf:
     case DocumentKind::Illustrator:
-      return NeedPages;
+      return pages;
     default:
       return 0;  // what PostScript needs is loaded while Ghostscript starts, which takes longer
   }
@@ -132,6 +133,13 @@ ExpectedPictures expectedInWindows(const Reading& run) {
   return expected;
 }
 
+/// One document, opened once, whose process needs no other to be forked from.
+bool isSinglePicture(const Reading& run) {
+  // The process that is started for a single picture has the usual limits.
+  const bool usualLimits = !run.has(Option::Timeout) && !run.has(Option::Memory);
+  return run.files.size() == 1 && isWithoutPostScript(run.files[0]) && usualLimits && !run.asksForArchive();
+}
+
 ExpectedPictures expectedConversions(const Reading& run) {
   const Text name = run.value(Option::Format);
   const auto format =
@@ -139,10 +147,7 @@ ExpectedPictures expectedConversions(const Reading& run) {
   const PictureUse use = useOfConversion(format, !run.has(Option::Crop) && !run.has(Option::Rotate));
   ExpectedPictures expected;
   for (const Text file : run.files) expected.needs |= needsOfFile(file, use);
-  // The process that is started for a single picture has the usual limits.
-  const bool usualLimits = !run.has(Option::Timeout) && !run.has(Option::Memory);
-  expected.single =
-      run.files.size() == 1 && isWithoutPostScript(run.files[0]) && usualLimits && !run.asksForArchive();
+  expected.single = isSinglePicture(run);
   return expected;
 }
 
@@ -158,8 +163,10 @@ ExpectedPictures expectedPictures(int argc, const char* const* argv) {
   if (*command == Command::Preview) return expected;
   const PictureUse use = *command == Command::Check  ? PictureUse::WholePdf
                          : *command == Command::Text ? PictureUse::Everything
+                         : *command == Command::Info ? PictureUse::Facts
                                                      : PictureUse::Drawing;
   for (const Text file : run.files) expected.needs |= needsOfFile(file, use);
+  expected.single = use == PictureUse::Facts && isSinglePicture(run);
   return expected;
 }
 

@@ -12,10 +12,11 @@ enum PictureNeed : unsigned {
   NeedPages = 8,       ///< everything that is done with PDF and PostScript documents
   NeedPreviews = 16,   ///< previews of EPS files
   NeedSheets = 32,     ///< the pages of print jobs
+  NeedFacts = 64,      ///< open SVG and PDF for nothing but their facts
 };
 using PictureNeeds = unsigned;
 
-inline constexpr PictureNeeds allPictureNeeds = 63;
+inline constexpr PictureNeeds allPictureNeeds = 127;
 
 /// The probable requests of a run, guessed before any of its pictures is read.
 struct ExpectedPictures {
@@ -24,9 +25,10 @@ struct ExpectedPictures {
 };
 
 /// The purpose of the pictures of a run.
-enum class PictureUse { Everything, Drawing, WholePdf };
+enum class PictureUse { Everything, Drawing, WholePdf, Facts };
 
 constexpr PictureNeeds svgNeeds(PictureUse use) {
+  if (use == PictureUse::Facts) return NeedFacts;
   if (use == PictureUse::Drawing) return NeedSvgDrawing;
   if (use == PictureUse::WholePdf) return NeedSvgDrawing | NeedSvgPdf;
   return NeedSvgDrawing | NeedSvgPdf | NeedSvgParts;

@@ -24,6 +24,15 @@ namespace norvex {
   return error.kind == ErrorKind::Died && error.message == interpreterLost().message;
 }
 
+/// Of a process that was made for facts alone, for a document whose facts take what draws it.
+[[nodiscard]] inline Error drawingNeeded() {
+  return {ErrorKind::Unsupported, QStringLiteral("what is known of this picture has to be drawn")};
+}
+/// True if the error is that.
+[[nodiscard]] inline bool isDrawingNeeded(const Error& error) {
+  return error.kind == ErrorKind::Unsupported && error.message == drawingNeeded().message;
+}
+
 /// A warning among PictureFacts::warnings.
 [[nodiscard]] inline QString damagedFile() {
   return QStringLiteral("the file is damaged; it was repaired as far as possible");

@@ -54,7 +54,9 @@ DocumentServer::DocumentServer(FileDescriptor socket, const EngineSet& engines, 
       refusal_(std::move(refusal)) {}
 
 void DocumentServer::run() {
-  auto* queue = new RequestQueue(channel_);  // its thread uses it until the process ends
+  using Reading = RequestQueue::Reading;
+  // Its thread, where it has one, uses it until the process ends.
+  auto* queue = new RequestQueue(channel_, engines_.onlyFacts ? Reading::BetweenRequests : Reading::AtWork);
   while (true) {
     ArrivedRequest arrived = queue->next();
     const quint32 id = arrived.request.id;

@@ -17,7 +17,8 @@ struct EnginePart {
 };
 
 /// Every part, what is needed most often first. What two of them offer is the same code.
-inline constexpr std::array<EnginePart, 4> engineParts{{
+inline constexpr std::array<EnginePart, 5> engineParts{{
+    {"facts", NeedFacts},
     {"svg", NeedSvgDrawing},
     {"pages", NeedPages | NeedPreviews},
     {"svg-pdf", NeedSvgDrawing | NeedSvgPdf | NeedSheets},

@@ -20,6 +20,7 @@ struct EngineSet {
   std::function<Result<QByteArray>(const QByteArray& pdf, const PdfAttributes&)> setPdfAttributes;
   std::function<Result<QByteArray>(const QByteArray& pdf, const PagesRequest&)> composePages;
   std::function<void()> warmUpProgram;
+  bool onlyFacts = false;  ///< what it does takes less time than making a thread
 };
 
 }  // namespace norvex

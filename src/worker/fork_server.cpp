@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <poll.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
@@ -59,7 +60,11 @@ ForkServer::ForkServer(FileDescriptor control, QByteArray scratchRoot, ChildMain
       wish_(std::move(wish)) {}
 
 void ForkServer::warmUp() {
-  if (const WarmUp todo = std::exchange(warmUp_, {})) todo();
+  const WarmUp todo = std::exchange(warmUp_, {});
+  if (!todo) return;
+  todo();
+  // Else each child would go through what is free here, and copy the pages that it lies in.
+  ::malloc_trim(0);
 }
 
 void ForkServer::rest() {

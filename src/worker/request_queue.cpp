@@ -17,39 +17,49 @@ constexpr std::chrono::milliseconds kQuiet{1500};
 
 }  // namespace
 
-RequestQueue::RequestQueue(MessageChannel& channel) : channel_(channel) {
-  std::thread([this] { readMessages(); }).detach();
+RequestQueue::RequestQueue(MessageChannel& channel, Reading reading) : channel_(channel), reading_(reading) {
+  if (reading == Reading::BetweenRequests) return;
+  std::thread([this] {
+    while (true) readMessage();
+  }).detach();
 }
 
 ArrivedRequest RequestQueue::next() {
   std::unique_lock lock(mutex_);
   running_.reset();
-  const auto isAsked = [this] { return !waiting_.empty(); };
-  if (!arrived_.wait_for(lock, kQuiet, isAsked)) {
-    lock.unlock();
-    giveBackUnusedMemory();
-    lock.lock();
-    arrived_.wait(lock, isAsked);
-  }
+  waitForRequest(lock);
   ArrivedRequest next = std::move(waiting_.front());
   waiting_.pop_front();
   running_.emplace(next.request.id, next.cancel);
   return next;
 }
 
-void RequestQueue::readMessages() {
-  while (true) {
-    Result<ChannelMessage> message = channel_.receive();
-    if (!message) ::_exit(message.error().kind == ErrorKind::Died ? kClosed : kNotUnderstood);
-    Result<WorkerMessage> decoded = decodeMessage(message->cbor);
-    if (!decoded) ::_exit(kNotUnderstood);
-    if (auto* request = std::get_if<WorkerRequest>(&*decoded)) {
-      accept(std::move(*request), std::move(message->descriptor));
-    } else if (const auto* cancelled = std::get_if<CancelRequest>(&*decoded)) {
-      cancel(cancelled->id);
-    } else {
-      ::_exit(kNotUnderstood);
-    }
+void RequestQueue::waitForRequest(std::unique_lock<std::mutex>& lock) {
+  const auto isAsked = [this] { return !waiting_.empty(); };
+  if (reading_ == Reading::BetweenRequests) {
+    lock.unlock();
+    while (!isAsked()) readMessage();  // there is no other thread
+    lock.lock();
+    return;
+  }
+  if (arrived_.wait_for(lock, kQuiet, isAsked)) return;
+  lock.unlock();
+  giveBackUnusedMemory();
+  lock.lock();
+  arrived_.wait(lock, isAsked);
+}
+
+void RequestQueue::readMessage() {
+  Result<ChannelMessage> message = channel_.receive();
+  if (!message) ::_exit(message.error().kind == ErrorKind::Died ? kClosed : kNotUnderstood);
+  Result<WorkerMessage> decoded = decodeMessage(message->cbor);
+  if (!decoded) ::_exit(kNotUnderstood);
+  if (auto* request = std::get_if<WorkerRequest>(&*decoded)) {
+    accept(std::move(*request), std::move(message->descriptor));
+  } else if (const auto* cancelled = std::get_if<CancelRequest>(&*decoded)) {
+    cancel(cancelled->id);
+  } else {
+    ::_exit(kNotUnderstood);
   }
 }
 

@@ -89,6 +89,22 @@ class Sharing {
   int documents_ = 0;
 };
 
+/// In a run for facts: the documents that take more load it themselves, as long as they are few. What is
+/// loaded here every process that is forked later pays for.
+class RareNeeds {
+ public:
+  explicit RareNeeds(PictureNeeds expected) : expectsFacts_(expected == NeedFacts) {}
+  /// Asked once for each document.
+  [[nodiscard]] bool has(PictureNeeds needs) {
+    return expectsFacts_ && needs != NeedFacts && ++documents_ <= kFew;
+  }
+
+ private:
+  static constexpr int kFew = 8;
+  const bool expectsFacts_;
+  int documents_ = 0;
+};
+
 int startedByHand(const char* program) {
   std::fprintf(stderr, "%s: is started by norvex, not by hand\n", program);
   return kUsage;
@@ -135,20 +151,21 @@ int runWorkerProgram(int argc, char** argv, const WorkerEngines& engines, const 
   if (isTold(argc, argv, kExpectPostScript)) interpreters.postScript.start();
   if (isTold(argc, argv, kExpectPdfInks)) interpreters.pdf.start();
   if (argc > 1 && hasControlSocket()) prepareSandboxes(argv[1], layers);
-  if (const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
-      expected != 0) {
+  const PictureNeeds expected = argc > 2 ? PictureNeeds(std::strtoul(argv[2], nullptr, 10)) : 0;
+  if (expected != 0) {
     const Result<const EngineSet*> set = engines.source(expected & allPictureNeeds);
     if (set && (*set)->warmUpProgram && isTold(argc, argv, kWindow)) (*set)->warmUpProgram();
   }
   traceStep("norvex-worker has its engines");
   Sharing sharing(isTold(argc, argv, kWindow));
+  RareNeeds rare(expected);
   const auto prepare = [&, isFirst = true](const ForkRequest& request) mutable {
     sharing.take();
     traceStep("norvex-worker asked for a picture's process");
     const int asking = interpreters.prepareFor(request);
     const bool startsPostScript = std::exchange(isFirst, false) && request.postScript;
     // The first child of all, when it asks for an interpreter, loads what it needs itself meanwhile.
-    if (!startsPostScript) (void)engines.source(request.needs);
+    if (!startsPostScript && !rare.has(request.needs)) (void)engines.source(request.needs);
     return asking;
   };
   const ForkServer::WarmUp warmUp = lone ? ForkServer::WarmUp() : engines.warmUp;

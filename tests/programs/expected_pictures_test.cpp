@@ -47,7 +47,9 @@ class ExpectedPicturesTest : public QObject {
     QTest::newRow("no value behind =") << QStringList{"convert", "a.svg", "--output="} << parts;
     QTest::newRow("format that is only opened")
         << QStringList{"convert", "a.svg", "--format", "ai", "--to", "x"} << parts;
-    QTest::newRow("info") << QStringList{"info", "--json", "a.svg"} << drawing;
+    QTest::newRow("info") << QStringList{"info", "--json", "a.svg"} << uint(NeedFacts);
+    QTest::newRow("info of several") << QStringList{"info", "a.eps", "b.pdf", "c.ai"} << uint(NeedFacts);
+    QTest::newRow("source") << QStringList{"source", "a.svg"} << drawing;
     QTest::newRow("preview") << QStringList{"preview", "a.eps"} << 0u;
   }
   void commandsAndNamesLetExpect() {
@@ -132,7 +134,10 @@ class ExpectedPicturesTest : public QObject {
     QTest::newRow("a name like an option") << QStringList{"convert", "--to", "b", "--", "--dpi.svg"} << true;
     QTest::newRow("no file") << QStringList{"convert", "-o", "a.svg"} << false;
     QTest::newRow("window") << QStringList{"a.svg"} << false;
-    QTest::newRow("info") << QStringList{"info", "a.svg"} << false;
+    QTest::newRow("info") << QStringList{"info", "a.svg"} << true;
+    QTest::newRow("info of two") << QStringList{"info", "a.svg", "b.svg"} << false;
+    QTest::newRow("info with other limits") << QStringList{"info", "--memory=99", "a.svg"} << false;
+    QTest::newRow("source") << QStringList{"source", "a.svg"} << false;
   }
   void theOnlyPictureOfARunIsKnown() {
     QFETCH(QStringList, arguments);
@@ -185,9 +190,10 @@ class ExpectedPicturesTest : public QObject {
 
   void everyNeedHasAPart() {
     for (const PictureNeeds needs :
-         {PictureNeeds(NeedSvgDrawing), svgNeeds(PictureUse::WholePdf), svgNeeds(PictureUse::Everything),
-          PictureNeeds(NeedPages), allPictureNeeds})
+         {PictureNeeds(NeedFacts), PictureNeeds(NeedSvgDrawing), svgNeeds(PictureUse::WholePdf),
+          svgNeeds(PictureUse::Everything), PictureNeeds(NeedPages), allPictureNeeds})
       QCOMPARE(needs & ~engineParts[enginePartFor(needs)].offers, 0u);
+    QCOMPARE(engineParts[enginePartFor(NeedFacts)].name, "facts");
     QCOMPARE(engineParts[enginePartFor(NeedSvgDrawing)].name, "svg");
     QCOMPARE(engineParts[enginePartFor(NeedPages)].name, "pages");
   }

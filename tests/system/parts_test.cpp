@@ -22,10 +22,12 @@ const QStringList kParts{"norvex",
                          "norvex-postscript",
                          "norvex-application.so",
                          "norvex-commands.so",
+                         "norvex-engine-facts.so",
                          "norvex-engine-svg.so",
                          "norvex-engine-svg-pdf.so",
                          "norvex-engine-pages.so",
                          "norvex-engine-all.so",
+                         "norvex-picture-facts",
                          "norvex-picture-svg",
                          "norvex-picture-svg-pdf",
                          "norvex-picture-pages",
@@ -245,13 +247,17 @@ class PartsTest : public QObject {
 
   void theOnlyPictureNeedsNoProgramThatForks() {
     copyPartsBut("norvex-worker");
-    for (const char* name : {"lighthouse.svg", "lighthouse.pdf"})
+    for (const char* name : {"lighthouse.svg", "lighthouse.pdf"}) {
+      const Ran facts = kit::run(path("norvex"), {"info", sample(name)}, {}, 30);
+      QCOMPARE(facts.err, QByteArray());
+      QCOMPARE(facts.out, kit::norvex({"info", sample(name), sample(name)}).out.left(facts.out.size()));
       for (const char* format : {"png", "pdf", "eps"}) {
         const QString out = path(QStringLiteral("%1.%2").arg(name, format));
         const Ran ran = kit::run(path("norvex"), {"convert", sample(name), "-o", out, "--quiet"}, {}, 30);
         QCOMPARE(ran.err, QByteArray());
         QVERIFY(QFile::exists(out));
       }
+    }
   }
 
   void withoutAProgramForItTheOnlyPictureIsForked_data() {

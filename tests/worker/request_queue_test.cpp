@@ -12,12 +12,12 @@ namespace {
 constexpr int kAnswered = 7;
 
 /// The end of a process that takes no request while so many are posted.
-int endAfter(size_t posted) {
-  return kit::inForkedChild([posted] {
+int endAfter(size_t posted, RequestQueue::Reading reading = RequestQueue::Reading::AtWork) {
+  return kit::inForkedChild([posted, reading] {
     auto pair = MessageChannel::makePair();
     // The thread uses both ends until the process ends: were one closed before, it would end it its own way.
     auto& ours = *new MessageChannel(std::move(pair->first));
-    auto* queue = new RequestQueue(*new MessageChannel(std::move(pair->second)));
+    auto* queue = new RequestQueue(*new MessageChannel(std::move(pair->second)), reading);
     for (size_t i = 0; i < posted; ++i)
       if (!ours.send(encodeMessage(WorkerRequest{quint32(i + 1), PdfRequest()})).ok()) return 1;
     if (posted > limits::maximumWaitingRequests) ::pause();  // the thread ends us
@@ -41,6 +41,21 @@ class RequestQueueTest : public QObject {
 
   void requestsAreTakenInTheirOrder() {
     QCOMPARE(endAfter(limits::maximumWaitingRequests), kAnswered);
+  }
+
+  void requestsAreTakenInTheirOrderWithoutAThreadThatReadsThem() {
+    QCOMPARE(endAfter(3, RequestQueue::Reading::BetweenRequests), kAnswered);
+  }
+
+  void withoutAThreadTheProcessEndsWithItsConnection() {
+    QCOMPARE(kit::inForkedChild([] {
+               auto pair = MessageChannel::makePair();
+               pair->first.reset();
+               auto* queue = new RequestQueue(*new MessageChannel(std::move(pair->second)),
+                                              RequestQueue::Reading::BetweenRequests);
+               return int(queue->next().request.id) + kAnswered;
+             }),
+             0);
   }
 
   void whoeverPostsWithoutWaitingIsNotServed() {

@@ -75,11 +75,20 @@ Result<T> WorkerClient::distrusted(Result<T> result) {
   return result;
 }
 
+bool WorkerClient::mayAnotherOpen(const Result<WorkerAnswer>& answer) {
+  if (!answer) return connection_->hasNotComeUp();
+  const auto* error = std::get_if<Error>(&answer->body);
+  if (error != nullptr && process_.needs == NeedFacts && isDrawingNeeded(*error)) {
+    process_.needs = kind_ == PictureKind::Svg ? svgNeeds(PictureUse::Drawing) : NeedPages;
+    return true;
+  }
+  return hasLostInterpreter(*answer);
+}
+
 Result<PictureFacts> WorkerClient::finishOpening(const CancelToken& cancel) {
   Result<WorkerAnswer> answer = connection_->wait(opening_, openDeadline_, cancel);
   for (int tries = 1; tries < kTries; ++tries) {
-    if (!(answer ? hasLostInterpreter(*answer) : connection_->hasNotComeUp())) break;
-    // Another one will tell why, or do better.
+    if (!mayAnotherOpen(answer)) break;
     connection_.reset();
     if (auto begun = beginToOpen(openDeadline_); !begun) return begun.error();
     answer = connection_->wait(opening_, openDeadline_, cancel);

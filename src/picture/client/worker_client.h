@@ -40,6 +40,9 @@ class WorkerClient final : public PictureProcess {
  private:
   Result<void> beginToOpen(QDeadlineTimer until);
   Result<PictureFacts> finishOpening(const CancelToken& cancel);
+  /// True if the document's opening was answered so that another process, as process_ then has it, will do
+  /// better or tell why.
+  [[nodiscard]] bool mayAnotherOpen(const Result<WorkerAnswer>& answer);
   Result<WorkerAnswer> ask(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory = {});
   /// `until`: set with the first request, whose time is that of all tries together.
   Result<WorkerAnswer> askOnce(RequestBody body, const CancelToken& cancel, const FileDescriptor& memory,
@@ -55,7 +58,7 @@ class WorkerClient final : public PictureProcess {
   const std::shared_ptr<WorkerStarter> starter_;
   const QByteArray bytes_;
   const PictureKind kind_;
-  const ForkRequest process_;
+  ForkRequest process_;  ///< for facts alone until they take more
   TurnTaking turns_;
   // Used by the thread whose turn it is.
   std::unique_ptr<WorkerConnection> connection_;

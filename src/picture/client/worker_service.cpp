@@ -56,7 +56,8 @@ void WorkerService::yieldToWindows(std::chrono::milliseconds beginning) {
 }
 
 ForkRequest WorkerService::processFor(PictureKind kind, const PictureLimits& limits) const {
-  return {limits, kind == PictureKind::Eps, kind == PictureKind::Svg ? svgNeeds(use_) : NeedPages};
+  const PictureNeeds pages = use_ == PictureUse::Facts && kind == PictureKind::Pdf ? NeedFacts : NeedPages;
+  return {limits, kind == PictureKind::Eps, kind == PictureKind::Svg ? svgNeeds(use_) : pages};
 }
 
 void WorkerService::prepare(PictureKind kind, const PictureLimits& limits) {

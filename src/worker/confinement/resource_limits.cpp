@@ -78,10 +78,15 @@ PictureLimits grantedFor(int asker, PictureLimits wanted) {
   return wanted;
 }
 
+void keepOneArena() {
+  // Asked for again it would go through all memory that is free.
+  static const int isKept = ::mallopt(M_ARENA_MAX, 1);
+  (void)isKept;
+}
+
 bool limitAddressSpace(const PictureLimits& limits, quint64 more) {
   if (isInstrumented) return true;  // shadow memory takes terabytes of address space
-  // A second allocation arena would reserve 64 MiB for the thread that only reads messages.
-  ::mallopt(M_ARENA_MAX, 1);
+  keepOneArena();
   const rlim_t mapped = mappedBytes();
   return limit(RLIMIT_AS, (mapped != 0 ? mapped : kUnknown) + rlim_t(limits.memoryMiB) * kMiB + more);
 }

@@ -15,6 +15,10 @@ namespace norvex {
 /// Where that cannot be found out, no more than PictureLimits are by default.
 [[nodiscard]] PictureLimits grantedFor(int asker, PictureLimits wanted);
 
+/// A second allocation arena would reserve 64 MiB for the thread that only reads messages. Called before the
+/// first fork it costs nothing later.
+void keepOneArena();
+
 /// Address space beyond what is mapped now: the caller's limit speaks of the document. `more`: bytes on top,
 /// for libraries that are still to be loaded. It can only fall. Builds with sanitizers have no such limit.
 [[nodiscard]] bool limitAddressSpace(const PictureLimits& limits, quint64 more = 0);

@@ -39,6 +39,7 @@ CallsFor callsFor(const SandboxPolicy& policy) {
 void prepareSandboxes(const std::string& scratchRoot, const ConfinementLayers& layers,
                       bool writeScratchFiles) {
   openProcessFiles();
+  keepOneArena();
   if (wantsSystemCalls(layers)) {
     (void)SystemCallList::shared(writeScratchFiles ? CallsFor::Interpreter : CallsFor::Engines);
   }

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+
+#include "base/result.h"
 
 namespace norvex::engine {
 
@@ -12,9 +13,7 @@ class PdfFile;
 /// holds a notice in English instead. Illustrator's private data are in files with and without the PDF form;
 /// so what tells is the page's text, and it is read only where there are such data and the page is as short
 /// as a notice: the facts of artwork cost no interpretation of its page. False for what cannot be read.
-[[nodiscard]] bool isIllustratorNotice(const QByteArray& bytes, const PdfFile& file);
-
-/// The notice for the user; one plain sentence.
-[[nodiscard]] QString illustratorNoticeSentence();
+/// Never fails: an IsNotice of read_pdf.h.
+[[nodiscard]] Result<bool> isIllustratorNotice(const QByteArray& bytes, const PdfFile& file);
 
 }  // namespace norvex::engine

@@ -3,19 +3,16 @@
 // The engine of PDF documents and of Illustrator files that are PDF inside.
 #include "protocol/every_page.h"
 #include "protocol/page_contents.h"
-#include "protocol/page_names.h"
 #include "protocol/shared_errors.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/examine/ink_box.h"
 #include "worker/examine/page_examination.h"
 #include "worker/pages/actions_left_out.h"
-#include "worker/pages/chosen_pdf.h"
 #include "worker/pages/compose_page.h"
 #include "worker/pages/illustrator_notice.h"
 #include "worker/pages/page_reading.h"
-#include "worker/pages/pdf_layers.h"
+#include "worker/pages/read_pdf.h"
 #include "worker/pdf/compose_pdf.h"
-#include "worker/pdf/pdf_facts.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/pdf_render.h"
 #include "worker/pdf/pdf_resources.h"
@@ -26,21 +23,14 @@
 namespace norvex::engine {
 namespace {
 
-/// A document as it came, and as it is worked with.
-struct ReadPdf {
-  QByteArray source;
-  QByteArray bytes;
-  QString lostProtection;  ///< see chosen_pdf.h
-};
-
 class PdfEngine final : public DocumentEngine {
  public:
-  PdfEngine(ReadPdf read, std::unique_ptr<PdfFile> file, PictureFacts facts, EngineContext& context)
+  PdfEngine(ReadPdf read, EngineContext& context)
       : source_(std::move(read.source)),
         bytes_(std::move(read.bytes)),
         lostProtection_(std::move(read.lostProtection)),
-        file_(std::move(file)),
-        facts_(std::move(facts)),
+        file_(std::move(read.file)),
+        facts_(std::move(read.facts)),
         renderer_(bytes_, context.processors),
         context_(context) {}
 
@@ -85,7 +75,7 @@ class PdfEngine final : public DocumentEngine {
     if (request.what == Examination::Contents) return contents(request.page);
     if (request.what == Examination::Drawn) return inked(request, *size);
     if (request.what == Examination::Text) return letters(request.page, *size);
-    if (request.what == Examination::Names) return names(request.page);
+    if (request.what == Examination::Names) return namesOfPage(*file_, request.page);
     return DocumentEngine::examine(request);
   }
 
@@ -104,13 +94,6 @@ class PdfEngine final : public DocumentEngine {
       PageContents contents = pageContents(*file_, shownPageOf(*file_, page), context_.cancel);
       contents.remarks = facts_.warnings + damageOf(page);
       return EngineBytes{encodePageContents(contents), {}};
-    });
-  }
-
-  [[nodiscard]] Result<EngineBytes> names(int page) {
-    return guarded([&]() -> Result<EngineBytes> {
-      PdfResources found = pdfResources(*file_, page);
-      return EngineBytes{encodePageNames({std::move(found.fonts), std::move(found.colorSpaces)}), {}};
     });
   }
 
@@ -221,34 +204,12 @@ class PdfEngine final : public DocumentEngine {
   EngineContext& context_;
 };
 
-/// What the document says to its readers: layers, protection.
-Result<void> lookAtReader(PdfFile& file, PictureFacts& facts, QString& protection) {
-  return guarded([&]() -> Result<void> {
-    facts.layers = pdfLayers(file.qpdf());
-    if (protection.isEmpty()) protection = lostProtection(file.qpdf());
-    return {};
-  });
-}
-
 }  // namespace
 
 Result<std::unique_ptr<DocumentEngine>> openPdf(const QByteArray& bytes, EngineContext& context) {
-  ReadPdf read{bytes, bytes, {}};
-  if (!context.password.isEmpty() || !context.layers.isEmpty()) {
-    Result<ChosenPdf> chosen = chosenPdf(bytes, context.password, context.layers);
-    if (!chosen) return chosen.error();
-    read.bytes = std::move(chosen->bytes);
-    read.lostProtection = std::move(chosen->lostProtection);
-  }
-  Result<std::unique_ptr<PdfFile>> file = PdfFile::open(read.bytes);
-  if (!file) return file.error();
-  Result<PictureFacts> facts = pdfFacts(**file);
-  if (!facts) return facts.error();
-  if (isIllustratorNotice(read.bytes, **file)) facts->warnings << illustratorNoticeSentence();
-  if (const Result<void> looked = lookAtReader(**file, *facts, read.lostProtection); !looked)
-    return looked.error();
-  return std::unique_ptr<DocumentEngine>(
-      std::make_unique<PdfEngine>(std::move(read), std::move(*file), std::move(*facts), context));
+  Result<ReadPdf> read = readPdf(bytes, context, isIllustratorNotice);
+  if (!read) return read.error();
+  return std::unique_ptr<DocumentEngine>(std::make_unique<PdfEngine>(std::move(*read), context));
 }
 
 }  // namespace norvex::engine

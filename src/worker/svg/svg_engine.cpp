@@ -10,13 +10,12 @@
 #include <utility>
 
 #include "protocol/limits.h"
-#include "types/gzip_mark.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/drawing/two_halves.h"
 #include "worker/examine/ink_box.h"
-#include "worker/svg/gzip_inflate.h"
 #include "worker/svg/svg_cut.h"
+#include "worker/svg/svg_facts.h"
 #include "worker/svg/svg_inspection.h"
 #include "worker/svg/svg_length.h"
 #include "worker/svg/svg_path_reach.h"
@@ -54,20 +53,13 @@ bool isLongAndPlain(const QByteArray& utf8, double height, const PictureLimits& 
 
 class SvgEngine final : public DocumentEngine {
  public:
-  /// `source`: the document as it stands, not compressed.
-  SvgEngine(QByteArray source, SvgText text, SvgInspection inspection, const SvgVectors& vectors,
-            EngineContext& context)
-      : context_(context),
-        vectors_(vectors),
-        source_(std::move(source)),
-        text_(std::move(text)),
-        inspection_(std::move(inspection)),
-        geometry_(svgGeometry(inspection_.rootAttributes)) {}
+  SvgEngine(SvgReading read, const SvgVectors& vectors, EngineContext& context)
+      : context_(context), vectors_(vectors), read_(std::move(read)) {}
 
   /// Finds the picture's size. Call once, before anything else.
   Result<void> measure();
 
-  Result<PictureFacts> facts() override;
+  Result<PictureFacts> facts() override { return svgFacts(read_, pixels_); }
   Result<Bitmap> render(const RenderRequest& request) override;
   Result<EngineBytes> pdf(const PdfRequest& request) override;
   Result<EngineBytes> compose(const ComposeRequest& request) override;
@@ -87,21 +79,17 @@ class SvgEngine final : public DocumentEngine {
   }
   // A document inside the document has not been inspected: for its sake the parser keeps its own bounds.
   [[nodiscard]] bool hugeParser() const {
-    return inspection_.needsHugeParser && !inspection_.hasNestedDocument;
+    return read_.inspection.needsHugeParser && !read_.inspection.hasNestedDocument;
   }
   [[nodiscard]] bool needsOwnDocument(const AffineTransform& pixelsToDevice) const;
   Result<Bitmap> renderAsDocument(const RenderRequest& request, const AffineTransform& pixelsToDevice);
   [[nodiscard]] QStringList drawingRemarks() const override { return missingFonts_.value_or(QStringList()); }
-  [[nodiscard]] QStringList warnings() const;
   [[nodiscard]] SvgImageEffects imageEffects() const;
   [[nodiscard]] BytesReply pdfReport() const;
 
   EngineContext& context_;
   const SvgVectors vectors_;
-  const QByteArray source_;
-  const SvgText text_;
-  const SvgInspection inspection_;
-  const SvgGeometry geometry_;
+  const SvgReading read_;
   QSizeF pixels_;
   std::unique_ptr<SvgRenderer> renderer_, second_;  ///< `second_`: the same document, for the other half
   std::optional<bool> isLongAndPlain_;
@@ -118,7 +106,7 @@ Result<void> SvgEngine::start(int page) const {
 
 Result<void> SvgEngine::load(std::unique_ptr<SvgRenderer>& renderer) const {
   if (renderer) return {};
-  auto made = SvgRenderer::create(withDeclaredEncoding(text_.utf8, "UTF-8"), hugeParser());
+  auto made = SvgRenderer::create(withDeclaredEncoding(read_.text.utf8, "UTF-8"), hugeParser());
   if (!made) return made.error();
   renderer = std::move(*made);
   return {};
@@ -126,68 +114,24 @@ Result<void> SvgEngine::load(std::unique_ptr<SvgRenderer>& renderer) const {
 
 Result<const SvgRenderer*> SvgEngine::renderer() {
   if (const Result<void> loaded = load(renderer_); !loaded) return loaded.error();
-  if (!missingFonts_) missingFonts_ = missingFamilies(inspection_.fontLists);
+  if (!missingFonts_) missingFonts_ = missingFamilies(read_.inspection.fontLists);
   return renderer_.get();
 }
 
 Result<void> SvgEngine::measure() {
-  std::optional<Error> failed;
-  pixels_ = svgPixelSize(geometry_, [&]() -> QSizeF {
+  const Result<QSizeF> measured = measuredSvg(read_.geometry, [&]() -> Result<QSizeF> {
     const Result<const SvgRenderer*> loaded = renderer();
-    if (loaded) return (*loaded)->drawnExtent();
-    failed = loaded.error();
-    return {};
+    return loaded ? Result<QSizeF>((*loaded)->drawnExtent()) : loaded.error();
   });
-  if (failed) return *failed;
-  const QSizeF size = points();
-  if (!(size.width() > 0 && size.height() > 0))
-    return Error{ErrorKind::Unsupported, QStringLiteral("the picture is empty: its width or height is zero")};
-  if (!(size.width() <= limits::maximumPoints && size.height() <= limits::maximumPoints))
-    return Error{ErrorKind::Limit, QStringLiteral("the picture is wider or higher than %1 points")
-                                       .arg(limits::maximumPoints, 0, 'f', 0)};
+  if (!measured) return measured.error();
+  pixels_ = *measured;
   return {};
-}
-
-QStringList SvgEngine::warnings() const {
-  QStringList list;
-  const auto warn = [&](bool when, const QString& text) {
-    if (when) list << text;
-  };
-  warn(text_.handedOnAsUtf8, QStringLiteral("the text is in %1 and is handed on as UTF-8")
-                                 .arg(QString::fromUtf8(text_.declaredName.left(40))));
-  warn(geometry_.badWidth || geometry_.badHeight,
-       QStringLiteral("the document's width or height is not a length and is passed over"));
-  warn(geometry_.badViewBox, QStringLiteral("the document's view box is not readable and is passed over"));
-  warn(inspection_.outsideReferences > 0,
-       QStringLiteral("the document refers to other files, which are never loaded (references: %1)")
-           .arg(inspection_.outsideReferences));
-  warn(inspection_.hasScript, QStringLiteral("the document has scripts, which are never run"));
-  warn(inspection_.hasAnimation,
-       QStringLiteral("the document is animated and is shown as it stands at rest"));
-  return list;
-}
-
-Result<PictureFacts> SvgEngine::facts() {
-  PictureFacts facts;
-  facts.pageBounds = {QRectF(QPointF(0, 0), points())};
-  facts.viewBox = geometry_.viewBox;
-  facts.fonts = inspection_.fonts;
-  facts.colorSpaces = {
-      QStringLiteral("sRGB")};  // the colours of the format; what else a document names is not drawn
-  facts.title = inspection_.title;
-  facts.description = inspection_.description;
-  facts.encodingName = text_.encodingName;
-  facts.encodingNumber = text_.encodingNumber;
-  if (geometry_.width) facts.fixedRatioX = !geometry_.width->isPercentage;
-  if (geometry_.height) facts.fixedRatioY = !geometry_.height->isPercentage;
-  facts.warnings = warnings();
-  return facts;
 }
 
 // librsvg makes layers as large as the whole picture on the device, and makes them wrong when the picture is
 // turned.
 bool SvgEngine::needsOwnDocument(const AffineTransform& pixelsToDevice) const {
-  if (!inspection_.hasLayers) return false;
+  if (!read_.inspection.hasLayers) return false;
   const double width = pixels_.width() * pixelsToDevice.m11(),
                height = pixels_.height() * pixelsToDevice.m22();
   const bool upright = pixelsToDevice.m12() == 0 && pixelsToDevice.m21() == 0 && width > 0 && height > 0;
@@ -202,13 +146,14 @@ Result<Bitmap> SvgEngine::renderAsDocument(const RenderRequest& request,
   const AffineTransform placing =
       AffineTransform::fromScale(1 / pointsPerPixel, 1 / pointsPerPixel) * pixelsToDevice;
   const SvgCut part{points(), QRectF(QPointF(0, 0), QSizeF(request.pixelSize)), placing,
-                    inspection_.hasStyleSheet};
+                    read_.inspection.hasStyleSheet};
   RenderRequest upright = request;
   upright.pictureToDevice = AffineTransform();
   std::unique_ptr<SvgRenderer> drawing;
   return paintImage(upright, context_.limits, [&](cairo_t* context) -> Result<void> {
     if (!drawing) {
-      auto made = SvgRenderer::create(withDeclaredEncoding(cutSvg(text_.utf8, part), "UTF-8"), hugeParser());
+      auto made =
+          SvgRenderer::create(withDeclaredEncoding(cutSvg(read_.text.utf8, part), "UTF-8"), hugeParser());
       if (!made) return made.error();
       drawing = std::move(*made);
     }
@@ -218,10 +163,10 @@ Result<Bitmap> SvgEngine::renderAsDocument(const RenderRequest& request,
 
 bool SvgEngine::isDrawnInHalves(const RenderRequest& request) {
   if (!isLongAndPlain_) {
-    const double height = geometry_.viewBox ? geometry_.viewBox->height() : pixels_.height();
-    isLongAndPlain_ = isLongAndPlain(text_.utf8, height, context_.limits);
+    const double height = read_.geometry.viewBox ? read_.geometry.viewBox->height() : pixels_.height();
+    isLongAndPlain_ = isLongAndPlain(read_.text.utf8, height, context_.limits);
   }
-  return canPaintHalves(request, context_.limits) && !inspection_.hasLayers && *isLongAndPlain_;
+  return canPaintHalves(request, context_.limits) && !read_.inspection.hasLayers && *isLongAndPlain_;
 }
 
 /// Loads what it draws with.
@@ -238,7 +183,7 @@ Result<Bitmap> SvgEngine::render(const RenderRequest& request) {
   if (const Result<void> may = start(request.page); !may) return may.error();
   const AffineTransform pixelsToDevice = pixelsToPicture() * request.pictureToDevice;
   if (request.pictureToDevice.isInvertible() && isDrawnInHalves(request)) {
-    if (!missingFonts_) missingFonts_ = missingFamilies(inspection_.fontLists);
+    if (!missingFonts_) missingFonts_ = missingFamilies(read_.inspection.fontLists);
     return paintHalves(request, context_.limits, painting(renderer_),
                        context_.processors > 1 ? painting(second_) : PaintPicture());
   }
@@ -251,12 +196,12 @@ Result<Bitmap> SvgEngine::render(const RenderRequest& request) {
 
 // The scale of the view box is all that is known of a filter's user units here.
 SvgImageEffects SvgEngine::imageEffects() const {
-  SvgImageEffects effects{inspection_.filters + inspection_.masks > 0, inspection_.morphologyRadius,
-                          inspection_.stretchedText};
-  if (const auto& box = geometry_.viewBox; box && !box->isEmpty())
+  SvgImageEffects effects{read_.inspection.filters + read_.inspection.masks > 0,
+                          read_.inspection.morphologyRadius, read_.inspection.stretchedText};
+  if (const auto& box = read_.geometry.viewBox; box && !box->isEmpty())
     effects.userScale = std::min(pixels_.width() / box->width(), pixels_.height() / box->height());
   effects.morphologyRadius *= effects.userScale;
-  effects.largestFont = inspection_.largestFont;
+  effects.largestFont = read_.inspection.largestFont;
   return effects;
 }
 
@@ -265,14 +210,14 @@ SvgImageEffects SvgEngine::imageEffects() const {
 BytesReply SvgEngine::pdfReport() const {
   BytesReply report;
   report.warnings = drawingRemarks();
-  report.regionsRasterised = inspection_.filters + inspection_.masks;
+  report.regionsRasterised = read_.inspection.filters + read_.inspection.masks;
   if (report.regionsRasterised > 0) report.rasterisedDpi = vectors_.effectsDpi(pixels_, imageEffects());
-  if (inspection_.filters > 0)
+  if (read_.inspection.filters > 0)
     report.warnings << QStringLiteral("what is drawn through a filter (elements: %1) is held as an image")
-                           .arg(inspection_.filters);
-  if (inspection_.masks > 0)
+                           .arg(read_.inspection.filters);
+  if (read_.inspection.masks > 0)
     report.warnings << QStringLiteral("masks (elements: %1) are held as images, what they mask is not")
-                           .arg(inspection_.masks);
+                           .arg(read_.inspection.masks);
   return report;
 }
 
@@ -312,13 +257,13 @@ Result<PageContents> SvgEngine::contents() {
   if (!found) return found.error();
   found->size = points();
   found->fonts.clear();  // the PDF's own, not the document's
-  if (inspection_.filters + inspection_.masks > 0) found->images.clear();  // some of them are ours
+  if (read_.inspection.filters + read_.inspection.masks > 0) found->images.clear();  // some of them are ours
   found->missingFonts = drawingRemarks();
-  found->outsideReferences = inspection_.outsideReferences;
-  found->filters = inspection_.filters;
-  found->runsSomething = inspection_.hasScript || inspection_.hasAnimation;
-  found->sizeWithoutUnit = !hasUnit(inspection_.rootAttributes.value(QStringLiteral("width"))) ||
-                           !hasUnit(inspection_.rootAttributes.value(QStringLiteral("height")));
+  found->outsideReferences = read_.inspection.outsideReferences;
+  found->filters = read_.inspection.filters;
+  found->runsSomething = read_.inspection.hasScript || read_.inspection.hasAnimation;
+  found->sizeWithoutUnit = !hasUnit(read_.inspection.rootAttributes.value(QStringLiteral("width"))) ||
+                           !hasUnit(read_.inspection.rootAttributes.value(QStringLiteral("height")));
   return found;
 }
 
@@ -345,37 +290,24 @@ Result<EngineBytes> SvgEngine::examine(const ExamineRequest& request) {
 
 Result<EngineBytes> SvgEngine::svg(const SvgRequest& request) {
   if (const Result<void> may = start(0); !may) return may.error();
-  if (request.pretty) return EngineBytes{encodeSvgText(prettySvg(text_.utf8), text_), {}};
-  if (!request.rect && request.rotate == 0) return EngineBytes{source_, {}};
+  if (request.pretty) return EngineBytes{encodeSvgText(prettySvg(read_.text.utf8), read_.text), {}};
+  if (!request.rect && request.rotate == 0) return EngineBytes{read_.source, {}};
   const QRectF rect = request.rect.value_or(QRectF(QPointF(0, 0), points()));
   const double far = limits::maximumPoints;
   if (!(rect.width() > 0 && rect.height() > 0 && rect.width() <= far && rect.height() <= far &&
         std::abs(rect.x()) <= far && std::abs(rect.y()) <= far && std::isfinite(request.rotate)))
     return Error{ErrorKind::Protocol, QStringLiteral("the rectangle to cut out is empty or out of reach")};
-  const SvgCut cut{points(), rect, turnedInItsBox(points(), request.rotate), inspection_.hasStyleSheet};
-  return EngineBytes{encodeSvgText(cutSvg(text_.utf8, cut), text_), {}};
+  const SvgCut cut{points(), rect, turnedInItsBox(points(), request.rotate), read_.inspection.hasStyleSheet};
+  return EngineBytes{encodeSvgText(cutSvg(read_.text.utf8, cut), read_.text), {}};
 }
 
 }  // namespace
 
 Result<std::unique_ptr<DocumentEngine>> openSvgWith(const SvgVectors& vectors, const QByteArray& bytes,
                                                     EngineContext& context) {
-  QByteArray plain = bytes;
-  if (isGzip(bytes)) {
-    Result<QByteArray> inflated = inflateGzip(bytes);
-    if (!inflated) return inflated.error();
-    plain = std::move(*inflated);
-  }
-  if (plain.size() > limits::maximumInflatedBytes)
-    return Error{
-        ErrorKind::Limit,
-        QStringLiteral("the document is larger than %1 MiB").arg(limits::maximumInflatedBytes >> 20)};
-  Result<SvgText> text = decodeSvgText(plain);
-  if (!text) return text.error();
-  Result<SvgInspection> inspection = inspectSvg(text->utf8);
-  if (!inspection) return inspection.error();
-  auto engine = std::make_unique<SvgEngine>(std::move(plain), std::move(*text), std::move(*inspection),
-                                            vectors, context);
+  Result<SvgReading> read = readSvg(bytes);
+  if (!read) return read.error();
+  auto engine = std::make_unique<SvgEngine>(std::move(*read), vectors, context);
   if (const Result<void> measured = engine->measure(); !measured) return measured.error();
   return std::unique_ptr<DocumentEngine>(std::move(engine));
 }

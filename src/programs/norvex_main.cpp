@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr char kCommands[] = "norvex-commands.so";
+constexpr char kCommands[] = "norvex-commands.so", kApplication[] = "norvex-application.so";
 constexpr int kLimitReached = 5;  ///< ExitCode::Limit, of the command line
 
 /// Whoever starts us may have closed them. Nothing that we open shall get their numbers, and their use shall
@@ -69,7 +69,17 @@ bool mayNeedPictures(int argc, char** argv) {
 
 /// The lightest part that can do what is asked for; each of them tells of every mistake.
 const char* partFor(int argc, char** argv) {
-  return argc > 1 && norvex::asksForLightCommand(argv[1]) ? kCommands : "norvex-application.so";
+  return argc > 1 && norvex::asksForLightCommand(argv[1]) ? kCommands : kApplication;
+}
+
+/// `part` as it is loaded; null: it is missing or damaged. Where the commands are there and cannot be linked
+/// with the libraries of this system, some of which others stand in for, the application takes their place.
+void* load(const char*& part) {
+  const std::string file = norvex::partOfProgram(part);
+  void* const loaded = ::dlopen(file.c_str(), RTLD_LAZY | RTLD_LOCAL);
+  if (loaded != nullptr || part != kCommands || ::access(file.c_str(), F_OK) != 0) return loaded;
+  part = kApplication;
+  return ::dlopen(norvex::partOfProgram(part).c_str(), RTLD_LAZY | RTLD_LOCAL);
 }
 
 /// The only picture of a run gets a process of its own, others a program that forks one for each.
@@ -119,7 +129,7 @@ int main(int argc, char** argv) {
                                                            .lone = expectLonePicture(argc, argv)});
   traceStep("picture process started");
   const char* part = partFor(argc, argv);
-  void* application = ::dlopen(partOfProgram(part).c_str(), RTLD_LAZY | RTLD_LOCAL);
+  void* application = load(part);
   void* entry = application == nullptr ? nullptr : ::dlsym(application, kApplicationEntry);
   if (entry == nullptr) {
     std::fprintf(stderr, "norvex: the application could not be loaded (%s)\n", ::dlerror());
@@ -130,5 +140,5 @@ int main(int argc, char** argv) {
   traceStep("application loaded");
   const int code = reinterpret_cast<ApplicationEntry*>(entry)(argc, argv, &started);
   traceStep("ended");
-  return part == std::string_view(kCommands) ? leave(code) : code;
+  return part == kCommands ? leave(code) : code;
 }

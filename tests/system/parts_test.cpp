@@ -345,6 +345,23 @@ class PartsTest : public QObject {
     QCOMPARE(ran.exitCode, 1);
   }
 
+  void whereTheCommandsCannotBeLinkedTheApplicationDoesTheirWork() {
+    copyPartsBut("norvex-commands.so");
+    QVERIFY(QFile::copy(NORVEX_BUILD_DIR "/norvex-worker", path("norvex-commands.so")));  // no library
+    const Ran ran = kit::run(path("norvex"), {"info", sample("lighthouse.svg")}, {}, 30);
+    QCOMPARE(ran.err, QByteArray());
+    QCOMPARE(ran.out, kit::norvex({"info", sample("lighthouse.svg")}).out);
+  }
+
+  void commandsLoadNothingOfWindowsAndTexts() {
+    const Ran libraries = kit::run("ldd", {NORVEX_BUILD_DIR "/norvex-commands.so"});
+    QCOMPARE(libraries.exitCode, 0);
+    if (libraries.out.contains("san.so")) QSKIP("a sanitized program has every library linked");
+    QVERIFY(libraries.out.contains("/stand-ins/windows/"));
+    for (const char* library : {"libGLdispatch", "libxcb", "libdbus", "libgraphite2", "libexpat"})
+      QVERIFY2(!libraries.out.contains(library), library);
+  }
+
   void theInstalledTreeWorks() {
     const Ran installed = kit::run("cmake", {"--install", NORVEX_BUILD_DIR, "--prefix", path("tree")});
     QVERIFY2(installed.exitCode == 0, installed.err);

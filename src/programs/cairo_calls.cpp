@@ -20,6 +20,7 @@
 #include "worker/drawing/thin_lines.h"
 
 NORVEX_STANDS_IN void cairo_clip(cairo_t* context) {
+  norvex::engine::noteClip(context);
   norvex::engine::clipBetweenPixels(context);
 }
 

@@ -1,4 +1,5 @@
-// Functions of ours that libraries find before those of another library (cairo_calls.cpp, face_calls.cpp).
+// Functions of ours that libraries find before those of another library (cairo_calls.cpp, deflate_calls.cpp,
+// face_calls.cpp).
 #pragma once
 
 #include <dlfcn.h>

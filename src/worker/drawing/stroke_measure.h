@@ -12,8 +12,13 @@ namespace norvex::engine {
 /// context.
 void askForCoarseStrokes(cairo_t* context, double units);
 
+/// Tells that a context for which that was asked is clipped to its path from now on. Call it before the path
+/// becomes the clip.
+void noteClip(cairo_t* context);
+
 /// The tolerance for a stroke, as the context stands. Cairo leaves out a stroke whose width is half of its
-/// tolerance or less: it never exceeds half of the width, unless that is below cairo's own.
+/// tolerance or less: it never exceeds half of the width, unless that is below cairo's own. Where a PDF is
+/// the same wherever within its clip a stroke reaches, it is one and a half times the width.
 [[nodiscard]] double strokeTolerance(cairo_t* context);
 
 /// The tolerance for asking where strokes and areas reach, as the context stands: whoever has chosen one for

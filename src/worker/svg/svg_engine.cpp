@@ -12,6 +12,7 @@
 #include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/installed_fonts.h"
+#include "worker/drawing/packing_beside.h"
 #include "worker/drawing/two_halves.h"
 #include "worker/examine/ink_box.h"
 #include "worker/svg/svg_cut.h"
@@ -228,6 +229,7 @@ Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
   if (pdf_ && !request.attributes) return EngineBytes{*pdf_, pdfReport()};
   const Result<const SvgRenderer*> loaded = renderer();
   if (!loaded) return loaded.error();
+  const PackingBeside beside(context_.processors > 1);
   Result<QByteArray> made = vectors_.toPdf(**loaded, pixels_, imageEffects(), request.attributes);
   if (!made) return made.error();
   if (!request.attributes) pdf_ = *made;

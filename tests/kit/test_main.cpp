@@ -2,7 +2,11 @@
 
 #include <QFileInfo>
 #include <QLocale>
+#include <map>
+#include <utility>
 #include <vector>
+
+#include "kit/test_programs.h"
 
 #if defined(NORVEX_TEST_APP_WIDGETS)
 #include <QApplication>
@@ -28,6 +32,19 @@ std::vector<TestEntry>& entries() {
   return all;
 }
 
+using ProgramWork = std::function<int(const QStringList& arguments)>;
+
+std::map<QString, ProgramWork>& programs() {
+  static std::map<QString, ProgramWork> all;
+  return all;
+}
+
+int runNamed(const QString& name, const QStringList& arguments) {
+  if (const auto found = programs().find(name); found != programs().end()) return found->second(arguments);
+  qCritical("no program named %s", qPrintable(name));
+  return 127;
+}
+
 int runAll(const QString& wanted, const QStringList& arguments) {
   int failures = 0;
   int ran = 0;
@@ -50,13 +67,21 @@ bool registerTest(const char* file, std::function<std::unique_ptr<QObject>()> ma
   return true;
 }
 
+bool registerProgram(const char* name, ProgramWork work) {
+  programs()[QString::fromUtf8(name)] = std::move(work);
+  return true;
+}
+
 }  // namespace norvex::kit
 
 // usage: FOLDER_tests [--case STEM] [QtTest options…]
+//        FOLDER_tests --program NAME [argument…]   what a test runs beside itself
 int main(int argc, char** argv) {
   QLocale::setDefault(QLocale::c());
   TestApplication app(argc, argv);
   QStringList arguments = TestApplication::arguments();
+  if (arguments.size() > 2 && arguments.at(1) == QLatin1String("--program"))
+    return norvex::kit::runNamed(arguments.at(2), arguments.mid(3));
   QString wanted;
   const qsizetype at = arguments.indexOf(QStringLiteral("--case"));
   if (at > 0 && at + 1 < arguments.size()) {

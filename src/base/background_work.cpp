@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QRunnable>
+#include <QThread>
 #include <QThreadPool>
 
 #include <condition_variable>
@@ -180,6 +181,34 @@ void WayBack::tell(std::function<void()> news) const {
   postbox_->post([owner = owner_, news = std::move(news)] {
     if (owner) news();
   });
+}
+
+namespace {
+
+/// Takes an object along to the end that it is handed over for: who ends it comes after who let go of it.
+class LastCarrier final : public QObject {
+ public:
+  explicit LastCarrier(QObject* object) : object_(object) { moveToThread(object->thread()); }
+  ~LastCarrier() override { delete object_; }
+  bool event(QEvent* event) override {
+    received(this);
+    return QObject::event(event);
+  }
+
+ private:
+  QObject* const object_;
+};
+
+}  // namespace
+
+void deleteInItsThread(QObject* object) {
+  if (object->thread() == nullptr || object->thread() == QThread::currentThread()) {
+    delete object;
+    return;
+  }
+  auto* const carrier = new LastCarrier(object);
+  handedOver(carrier);
+  carrier->deleteLater();
 }
 
 WaitingThreadsEnd::~WaitingThreadsEnd() {

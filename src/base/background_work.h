@@ -64,6 +64,10 @@ struct WaitingThreadsEnd {
   WaitingThreadsEnd& operator=(const WaitingThreadsEnd&) = delete;
 };
 
+/// Ends an object that belongs to a thread with an event loop, once this thread is done with it: there, or at
+/// once where that is this thread or none. Any thread; nobody may use the object any more.
+void deleteInItsThread(QObject* object);
+
 [[nodiscard]] Error outOfMemory();
 
 /// What the work makes; when memory runs out an error, or a default-made value where it makes no Result.

@@ -2,12 +2,12 @@
 
 #include <QPaintDevice>
 #include <QPainter>
-#include <QThread>
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
+#include "base/background_work.h"
 #include "picture/rendering/rendered_picture.h"
 #include "protocol/limits.h"
 
@@ -42,10 +42,7 @@ NSImageRep::NSImageRep(PictureKind kind, QByteArray bytes, std::shared_ptr<Pictu
 NSImageRep::~NSImageRep() = default;
 
 void NSImageRep::deleteInItsThread(NSImageRep* rep) {
-  if (rep->thread() == nullptr || rep->thread() == QThread::currentThread())
-    delete rep;
-  else
-    rep->deleteLater();
+  norvex::deleteInItsThread(rep);
 }
 
 RenderedPicture& NSImageRep::rendered() {

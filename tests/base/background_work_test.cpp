@@ -50,6 +50,16 @@ int tellAfterTheApplication() {
   return !told && held.use_count() == 1 ? 0 : 1;
 }
 
+/// Says on which thread it ends.
+class Ending : public QObject {
+ public:
+  explicit Ending(QThread*& on) : on_(on) {}
+  ~Ending() override { on_ = QThread::currentThread(); }
+
+ private:
+  QThread*& on_;
+};
+
 }  // namespace
 
 class BackgroundWorkTest : public QObject {
@@ -225,6 +235,23 @@ class BackgroundWorkTest : public QObject {
     }
     QVERIFY(done);
     QVERIFY(told);
+  }
+
+  void whatAnotherThreadLetsGoOfEndsInItsOwn() {
+    QThread* ended = nullptr;
+    startWork(waitingThreads(), [&ended, home = QThread::currentThread()] {
+      auto* const object = new Ending(ended);
+      object->moveToThread(home);
+      deleteInItsThread(object);
+    }).wait();
+    QVERIFY(ended == nullptr);  // only the event loop ends it
+    QTRY_COMPARE(ended, QThread::currentThread());
+  }
+
+  void whatItsOwnThreadLetsGoOfEndsAtOnce() {
+    QThread* ended = nullptr;
+    deleteInItsThread(new Ending(ended));
+    QCOMPARE(ended, QThread::currentThread());
   }
 
   void oneThatWaitsLongDoesNotHoldUpTheOthers() {

@@ -3,8 +3,9 @@
 
 #include <QPainter>
 #include <QSignalSpy>
-#include <QThreadPool>
 
+#include "base/background_threads.h"
+#include "base/background_work.h"
 #include "kit/test_main.h"
 #include "picture/process/memory_picture_service.h"
 #include "picture/process/null_picture_service.h"
@@ -207,7 +208,7 @@ class RenderedPictureTest : public QObject {
       // What is prepared beside the frames is there from the second frame on, at the latest.
       for (int frame = 0; frame < 2; ++frame) {
         const QImage shown = f.drawAndRequest(turned);
-        QThreadPool::globalInstance()->waitForDone();
+        waitForWork(yieldingThread());
         QCOMPARE(blankPixels(shown, turned, kSmall), 0);
         const double alike = nearPixels(shown, sharp);
         QVERIFY2(alike > 0.95, qPrintable(QString("%1 at %2").arg(alike).arg(degrees)));

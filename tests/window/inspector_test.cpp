@@ -6,10 +6,11 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTabWidget>
-#include <QThreadPool>
 
 #include <cmath>
 
+#include "base/background_threads.h"
+#include "base/background_work.h"
 #include "kit/test_main.h"
 #include "ui/controls/color_well.h"
 #include "ui/controls/number_field.h"
@@ -325,7 +326,7 @@ class InspectorTest : public QObject {
     QSignalSpy drawn(c.view()->imageRep().get(), &NSImageRep::renderingArrived);
     c.window()->show();
     QVERIFY(!drawn.isEmpty() || drawn.wait(20'000));
-    waitingThreads().waitForDone();  // would ask for them
+    waitForWork(waitingThreads());  // would ask for them
     const auto process = fixture.service.lastProcess();
     QCOMPARE(process->calls(PictureCall::Examine), 0);
     c.inspectorWindow->show();

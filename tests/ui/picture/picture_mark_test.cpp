@@ -54,7 +54,10 @@ class PictureMarkTest : public QObject {
   void aDotHasAFrameThatCanBeSeen() {
     Shown shown;
     PictureMark::show(*shown.widget, {100, 50, 0, 0});
-    QVERIFY(shown.frame().width() >= 16 && shown.frame().height() >= 16);
+    QCOMPARE(shown.frame().size(), QSizeF(18, 18));
+    PictureMark::show(*shown.widget, {100, 50, 40, 20});
+    const double zoom = shown.widget->fromView({1, 0}).x() - shown.widget->fromView({0, 0}).x();
+    QCOMPARE(shown.frame().size(), QSizeF(40, 20) * zoom + QSizeF(10, 10));
   }
 
   void theFrameTurnsAndZoomsWithThePicture() {

@@ -2,7 +2,10 @@
 #include "ui/picture/selection_handles.h"
 
 #include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 #include "kit/test_main.h"
@@ -188,6 +191,68 @@ class SelectionHandlesTest : public QObject {
     QVERIFY(wide.square(Qt::LeftEdge).isNull());
     QVERIFY(wide.square(Qt::TopEdge | Qt::RightEdge).isNull());
     QCOMPARE(wide.square(Qt::TopEdge).center().x(), 200.0);
+  }
+
+  void aSquareStandsEightPixelsOffItsEdgeAndIsHitWithinFive() {
+    const SelectionHandles shown({100, 100, 60, 50}, {0, 0, 400, 400}, {0, 0, 400, 400}, {}, "x", true);
+    QCOMPARE(shown.square(Qt::RightEdge), QRectF(164, 121, 8, 8));
+    QCOMPARE(shown.square(Qt::TopEdge | Qt::LeftEdge), QRectF(88, 88, 8, 8));
+    for (const QPointF& off : {QPointF(5, 0), QPointF(-5, 5), QPointF(0, -5)})
+      QCOMPARE(shown.at(QPointF(168, 125) + off).value_or(Qt::Edges()), Qt::Edges(Qt::RightEdge));
+    for (const QPointF& off : {QPointF(5.5, 0), QPointF(-5.5, 0), QPointF(0, 5.5), QPointF(0, -5.5)})
+      QVERIFY(!shown.at(QPointF(168, 125) + off));
+  }
+
+  void theSizeStandsBelowTheRightCornerWithRoomForItsGrip() {
+    const QRectF room(0, 0, 400, 400), selected(100, 100, 200, 50);
+    const QFont font;
+    const QFontMetricsF metrics(font);
+    const QString text = QStringLiteral("200 × 50 pt");
+    const QRectF fixed = SelectionHandles(selected, room, room, font, text, false).label();
+    QCOMPARE(fixed.size(), QSizeF(metrics.horizontalAdvance(text) + 12, metrics.height() + 4));
+    QCOMPARE(fixed.topRight(), QPointF(300, 165));
+    const QRectF movable = SelectionHandles(selected, room, room, font, text, true).label();
+    QCOMPARE(movable.width() - fixed.width(), 10.0);
+    QCOMPARE(movable.right(), 300.0);
+    // Above the lower line where there is nothing below it, and never beside the picture.
+    const QRectF low = SelectionHandles({100, 100, 200, 290}, room, room, font, text, false).label();
+    QCOMPARE(low.bottom(), 375.0);
+    QCOMPARE(SelectionHandles({0, 100, 10, 50}, room, room, font, text, false).label().left(), 0.0);
+    QVERIFY(SelectionHandles(selected, room, {0, 0, 20, 400}, font, text, false).label().isNull());
+    QVERIFY(SelectionHandles(selected, room, {0, 0, 400, 8}, font, text, false).label().isNull());
+  }
+
+  void squaresAreBlueRoundWhiteAndTheGripIsOnlyWhereTheLabelMoves() {
+    const QRectF room(0, 0, 400, 400);
+    const auto drawn = [&room](bool movable) {
+      QImage image(400, 400, QImage::Format_RGB32);
+      image.fill(QColor(90, 90, 90));
+      QPainter painter(&image);
+      SelectionHandles({100, 100, 200, 50}, room, room, {}, QStringLiteral(" "), movable).draw(painter);
+      return image;
+    };
+    const QImage shown = drawn(true);
+    QCOMPARE(shown.pixelColor(88, 88), QColor(0, 0, 255));
+    QCOMPARE(shown.pixelColor(95, 95), QColor(0, 0, 255));
+    QCOMPARE(shown.pixelColor(89, 89), QColor(Qt::white));
+    QCOMPARE(shown.pixelColor(94, 94), QColor(Qt::white));
+    QVERIFY(qGray(shown.pixel(87, 92)) > 200);  // its halo
+    QCOMPARE(shown.pixelColor(86, 92), QColor(90, 90, 90));
+    const QRectF label = SelectionHandles({100, 100, 200, 50}, room, room, {}, " ", true).label();
+    // Two columns of three dots, each alike.
+    const int left = int(std::round(label.left())) + 7, middle = int(std::round(label.center().y()));
+    const auto bright = [&](const QImage& image, int x, int y) {
+      int most = 0;
+      for (int dy = -1; dy <= 1; ++dy)
+        for (int dx = -1; dx <= 1; ++dx) most = std::max(most, qGray(image.pixel(x + dx, y + dy)));
+      return most;
+    };
+    const QImage still = drawn(false);
+    for (const int x : {left, left + 4})
+      for (const int y : {middle - 4, middle, middle + 4}) {
+        QVERIFY(bright(shown, x, y) > 110);
+        QVERIFY(bright(still, x, y) < 100);
+      }
   }
 
   void whatFillsTheWindowHasItsHandlesWithin() {

@@ -1,5 +1,7 @@
 // Layout of bars and menu, wheel, keys, panning and what is painted.
 #include <QComboBox>
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QNativeGestureEvent>
 #include <QPointingDevice>
 #include <QScrollBar>
@@ -8,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 #include "kit/test_main.h"
 #include "picture/pdf_image_rep.h"
@@ -294,6 +297,105 @@ class ZoomingScrollAreaTest : public QObject {
     a.area.scrollView().setFactor(4);
     QTest::mouseMove(a.widget, QPoint(60, 60));
     QCOMPARE(a.widget->cursor().shape(), Qt::CrossCursor);
+  }
+
+  // ---- the keyboard's focus, and Space
+
+  void aLineTellsOfTheFocusThatCameWithTabAlone() {
+    Area a;
+    a.area.setBackgroundColor(QColor(10, 200, 30));
+    QPalette marked = a.area.palette();
+    marked.setColor(QPalette::Highlight, Qt::magenta);
+    a.area.setPalette(marked);
+    const auto hasLine = [&a] {
+      return a.widget->grab().toImage().pixelColor(1, 200) == QColor(Qt::magenta);
+    };
+    for (const auto& [reason, expected] :
+         {std::pair(Qt::TabFocusReason, true), std::pair(Qt::BacktabFocusReason, true),
+          std::pair(Qt::OtherFocusReason, false), std::pair(Qt::MouseFocusReason, false)}) {
+      QFocusEvent in(QEvent::FocusIn, reason), out(QEvent::FocusOut, Qt::OtherFocusReason);
+      QCoreApplication::sendEvent(&a.area, &in);
+      QCOMPARE(hasLine(), expected);
+      QCoreApplication::sendEvent(&a.area, &out);
+      QVERIFY(!hasLine());
+    }
+  }
+
+  void spaceMakesTheLeftButtonPan() {
+    Area a;
+    a.givePicture();
+    const QPoint from(200, 200), to(170, 150);
+    QTest::keyPress(&a.area, Qt::Key_Space);
+    QVERIFY(a.area.holdsSpace());
+    QCOMPARE(a.widget->cursor().shape(), Qt::OpenHandCursor);
+    QTest::mousePress(a.widget, Qt::LeftButton, {}, from);
+    QCOMPARE(a.widget->cursor().shape(), Qt::ClosedHandCursor);
+    QTest::mouseMove(a.widget, to);
+    QTest::mouseRelease(a.widget, Qt::LeftButton, {}, to);
+    QCOMPARE(a.area.scrollOffset(), QPointF(30, 50));
+    QCOMPARE(a.widget->cursor().shape(), Qt::OpenHandCursor);
+    QTest::keyRelease(&a.area, Qt::Key_Space);
+    QVERIFY(!a.area.holdsSpace());
+    QVERIFY(a.widget->cursor().shape() != Qt::OpenHandCursor);
+    QCOMPARE(a.widget->view().selectRect().size(), QSizeF(0, 0));
+  }
+
+  void spaceIsTheAreasHoweverOftenTheKeyboardRepeatsIt() {
+    Area a;
+    const auto sent = [&a](QEvent::Type type, int key, bool repeated) {
+      QKeyEvent event(type, key, Qt::NoModifier, QStringLiteral(" "), repeated);
+      QCoreApplication::sendEvent(&a.area, &event);
+      return event.isAccepted();
+    };
+    QVERIFY(sent(QEvent::KeyPress, Qt::Key_Space, false));
+    QVERIFY(sent(QEvent::KeyRelease, Qt::Key_Space, true));
+    QVERIFY2(a.area.holdsSpace(), "a repetition let it go");
+    QVERIFY(sent(QEvent::KeyPress, Qt::Key_Space, true));
+    QVERIFY(sent(QEvent::KeyRelease, Qt::Key_Space, false));
+    QVERIFY(!a.area.holdsSpace());
+    QVERIFY(!sent(QEvent::KeyPress, Qt::Key_A, false));
+    QVERIFY(!sent(QEvent::KeyRelease, Qt::Key_A, false));
+  }
+
+  // ---- cards
+
+  void cardsAreCentredAndStackedAtTheirEdge() {
+    struct Card final : QWidget {
+      explicit Card(QSize size) : size_(size) {}
+      QSize sizeHint() const override { return size_; }
+      QSize size_;
+    };
+    Area a;
+    a.area.resize(900, 400);
+    Card upper({50, 30}), hidden({50, 60}), next({50, 20}), lower({100, 40}), above({2000, 10});
+    for (Card* card : {&upper, &hidden, &next}) a.area.addCard(card, Qt::TopEdge);
+    for (Card* card : {&lower, &above}) a.area.addCard(card, Qt::BottomEdge);
+    for (Card* card : {&upper, &next, &lower, &above}) card->show();
+    hidden.hide();
+    const int width = a.area.clip()->width(), height = a.area.clip()->height();
+    QCOMPARE(upper.geometry(), QRect((width - 640) / 2, 12, 640, 30));
+    QCOMPARE(next.geometry(), QRect((width - 640) / 2, 54, 640, 20));
+    QCOMPARE(lower.geometry(), QRect((width - 100) / 2, height - 52, 100, 40));
+    QCOMPARE(above.geometry(), QRect((width - 640) / 2, height - 74, 640, 10));
+    a.area.resize(400, 400);
+    QCOMPARE(upper.width(), a.area.clip()->width() - 24);
+    upper.hide();
+    QCOMPARE(next.y(), 12);
+    for (Card* card : {&upper, &hidden, &next, &lower, &above}) card->setParent(nullptr);
+  }
+
+  void withoutBarsThereIsNothingButThePicture() {
+    Area a;
+    a.area.setBare(true);
+    QCOMPARE(a.area.clip()->size(), QSize(500, 400));
+    QVERIFY(!a.area.popUp()->isVisible() && !a.area.horizontalBar()->isVisible() &&
+            !a.area.verticalBar()->isVisible());
+    a.area.setBare(false);
+    QVERIFY(a.area.popUp()->isVisible());
+    // What stands below the picture has room for the menu, with two pixels above and below it.
+    QCOMPARE(a.area.height() - a.area.clip()->height(),
+             std::max(a.area.popUp()->sizeHint().height() + 4, 22));
+    QVERIFY(!a.area.popUp()->hasFrame());
   }
 
   void aPointOutsideScrollsOnlyALittle() {

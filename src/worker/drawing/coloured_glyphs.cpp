@@ -3,6 +3,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -30,9 +31,12 @@ class Level {
 
 using Drawing = cairo_user_scaled_font_render_glyph_func_t;
 
+/// Failing: nothing of it can be shown. Cairo would take the font as broken, and the whole context with it.
+enum class Sort { Mask, Coloured, Failing };
+
 const cairo_user_data_key_t kKnown{};
 /// By the glyph's number in its face.
-using Known = QHash<unsigned long, bool>;
+using Known = QHash<unsigned long, Sort>;
 
 Known& knownOf(cairo_font_face_t* face) {
   if (void* known = cairo_font_face_get_user_data(face, &kKnown)) return *static_cast<Known*>(known);
@@ -41,28 +45,40 @@ Known& knownOf(cairo_font_face_t* face) {
   return *made;
 }
 
-/// Its matrix has no inverse, or a glyph could not be drawn. Cairo draws nothing with it any more, and what
-/// draws glyphs would look in vain for the face of which they are.
+/// An em without height or width: there is nothing to be seen, and cairo would take the context as broken.
+bool isFlat(cairo_t* context) {
+  cairo_matrix_t em, user;
+  cairo_get_font_matrix(context, &em);
+  cairo_get_matrix(context, &user);
+  cairo_matrix_multiply(&em, &em, &user);
+  return cairo_matrix_invert(&em) != CAIRO_STATUS_SUCCESS;
+}
+
+/// A glyph could not be drawn as a mask. Cairo draws nothing with it any more, and what draws glyphs would
+/// look in vain for the face of which they are.
 bool isUnusable(cairo_scaled_font_t* font) {
   return cairo_scaled_font_status(font) != CAIRO_STATUS_SUCCESS;
 }
 
-/// Draws a glyph at the origin, an em a unit of `context`, y down. Gives what it tells of its size.
-cairo_text_extents_t draw(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph, cairo_t* context) {
+/// Draws a glyph at the origin, an em a unit of `context`, y down. Gives what it tells of its size, or
+/// nothing if it failed.
+std::optional<cairo_text_extents_t> draw(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph,
+                                         cairo_t* context) {
   cairo_text_extents_t extents{};
   cairo_save(context);
-  drawing(font, glyph, context, &extents);
+  const cairo_status_t status = drawing(font, glyph, context, &extents);
   cairo_restore(context);
+  if (status != CAIRO_STATUS_SUCCESS || cairo_status(context) != CAIRO_STATUS_SUCCESS) return std::nullopt;
   return extents;
 }
 
-/// Whether something of it, drawn around its em, is in another colour than what was chosen for it. One of a
-/// PDF that tells its box (d1 in place of d0) is a shape by that, whatever colours it names.
-bool setsColours(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph) {
+/// Coloured if something of it, drawn around its em, is in another colour than what was chosen for it. One of
+/// a PDF that tells its box (d1 in place of d0) is a shape by that, whatever colours it names.
+Sort sortOf(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph) {
   constexpr int kSide = 32;
   Result<Bitmap> pixels = Bitmap::create({kSide, kSide});
-  if (!pixels) return false;
-  cairo_text_extents_t told{};
+  if (!pixels) return Sort::Mask;
+  std::optional<cairo_text_extents_t> told;
   {
     const CairoSurface surface(cairo_image_surface_create_for_data(
         reinterpret_cast<uchar*>(pixels->row(0)), CAIRO_FORMAT_ARGB32, kSide, kSide, pixels->bytesPerRow()));
@@ -73,9 +89,11 @@ bool setsColours(Drawing drawing, cairo_scaled_font_t* font, unsigned long glyph
     told = draw(drawing, font, glyph, context.get());
     cairo_surface_finish(surface.get());  // who drew it may keep the context
   }
-  if (told.width != 0 || told.height != 0) return false;
+  if (!told) return Sort::Failing;
+  if (told->width != 0 || told->height != 0) return Sort::Mask;
   const std::span<const Argb32> all(pixels->row(0), size_t(kSide) * kSide);
-  return std::any_of(all.begin(), all.end(), [](Argb32 pixel) { return (pixel & 0xffffff) != 0; });
+  const auto isInColour = [](Argb32 pixel) { return (pixel & 0xffffff) != 0; };
+  return std::any_of(all.begin(), all.end(), isInColour) ? Sort::Coloured : Sort::Mask;
 }
 
 /// Draws a glyph in its own colours, as strong as the text's colour is.
@@ -112,6 +130,7 @@ void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
   if (levels == limits::maximumGlyphLevels) excess = GlyphExcess::Levels;
   if (levels > 0 && count > limits::maximumInnerGlyphs - innerGlyphs) excess = GlyphExcess::Number;
   if (excess != GlyphExcess::None) return;  // the drawing is given up: what is left of it has an end, too
+  if (isFlat(context)) return;
   if (levels > 0) innerGlyphs += std::max(count, 0);
   const Level level;
   cairo_font_face_t* face = cairo_get_font_face(context);
@@ -126,15 +145,16 @@ void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
   for (int i = 0; i < count; ++i) {
     const cairo_glyph_t& glyph = glyphs[i];
     if (isUnusable(font)) return;
-    if (!known.contains(glyph.index)) known.insert(glyph.index, setsColours(drawing, font, glyph.index));
-    if (!known.value(glyph.index)) {
+    if (!known.contains(glyph.index)) known.insert(glyph.index, sortOf(drawing, font, glyph.index));
+    const Sort sort = known.value(glyph.index);
+    if (sort == Sort::Mask) {
       ++masks;
       continue;
     }
     showMasks(context, glyphs + i - masks, masks);
     masks = 0;
     if (isUnusable(font)) return;  // a mask has failed
-    drawInColours(drawing, font, glyph, context);
+    if (sort == Sort::Coloured) drawInColours(drawing, font, glyph, context);
   }
   showMasks(context, glyphs + count - masks, masks);
 }

@@ -15,7 +15,8 @@ enum class GlyphExcess { None, Levels, Number };
 
 /// As cairo_show_glyphs(), but for what is too much. Where askForPixelEdges() was called, glyphs in colours
 /// of their own are drawn into `context` itself, and outlines at their exact places (placed_glyphs.h); those
-/// that leave their colour open stay masks, which are kept and cost less.
+/// that leave their colour open stay masks, which are kept and cost less; one that fails is left out, and
+/// what stands around it is drawn. Glyphs of no height or width are nothing.
 void showGlyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count);
 
 }  // namespace norvex::engine

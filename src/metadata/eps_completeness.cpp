@@ -98,12 +98,12 @@ bool stopsEarly(QByteArrayView program) {
   for (const auto& [begin, end] : kPairs)
     if (hasLine(program, begin) && !hasLine(program, end)) return true;
   if (hasOneOfLines(program, {"%%EOF", "%%Trailer"}) || endsPrograms(lastWord(program))) return false;
-  // Who tells of a set-up alone may write it into the header and nothing at the end; a whole line is no cut
-  // then.
-  const bool hasSetup = hasOneOfLines(program, {"%%BeginSetup", "%%EndSetup"});
-  const bool hasStructure =
-      hasOneOfLines(program, {"%%BeginProlog", "%%EndProlog", "%%Page:", "%%BeginPageSetup"}) ||
-      (hasSetup && !program.endsWith('\n') && !program.endsWith('\r'));
+  // Who tells of pages tells of their end. Prologs and set-ups may be written into the header by hand, and
+  // nothing at the end: there a whole line is no cut.
+  const bool endsWithinLine = !program.endsWith('\n') && !program.endsWith('\r');
+  const bool hasStructure = hasOneOfLines(program, {"%%Page:", "%%BeginPageSetup"}) ||
+                            (endsWithinLine && hasOneOfLines(program, {"%%BeginProlog", "%%EndProlog",
+                                                                       "%%BeginSetup", "%%EndSetup"}));
   return hasStructure || leavesSomethingOpen(program);
 }
 

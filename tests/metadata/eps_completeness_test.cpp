@@ -46,6 +46,8 @@ class EpsCompletenessTest : public QObject {
     row("header alone", kHeader);
     row("no end mark", kHeader + "%%EndProlog\nsave 0 0 moveto restore\nshowpage\n");
     row("end of transmission behind it", kHeader + "%%EndProlog\nshowpage\r\n\x04");
+    row("a prolog by hand, and no end",
+        kHeader + "%%EndProlog\n0 0 moveto 9 9 lineto fill\n1 setgray 1 8 moveto (EPS) show\n");
     row("its last line is a comment", kHeader + "%%EndProlog\nsave\nrestore\n\n% showpage\n");
     row("by hand, without an end of line", kHeader + "newpath 0 0 moveto 9 9 lineto stroke");
     row("by hand, with a procedure", kHeader + "/d { moveto } def gsave 0 0 d grestore 9 9 lineto stroke\n");
@@ -76,6 +78,7 @@ class EpsCompletenessTest : public QObject {
     QTest::newRow("unstructured, in a saved state") << kHeader + "gsave 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("unstructured, in a saved memory") << kHeader + "save 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("unstructured, in a dictionary") << kHeader + "9 dict begin 0 0 moveto 9 9 lineto\nstr";
+    QTest::newRow("a prolog, in a line") << kHeader + "%%EndProlog\n0 0 moveto 9 9 lin";
     QTest::newRow("a set-up, in a line") << kHeader + "%%BeginSetup\n%%EndSetup\n0 0 moveto 9 9 lin";
     QTest::newRow("in an interchange preview") << kHeader + "%%BeginPreview: 8 2 1 2\n%FF\n";
     QTest::newRow("in private data") << kWhole + "%AI9_PrivateDataBegin\n%abc";

@@ -37,7 +37,8 @@ DocumentApplication::DocumentApplication(ApplicationEvents& events, PictureServi
       startPanel_(std::make_unique<StartPanel>(recent_)),
       thumbnails_(std::make_unique<RecentThumbnails>(service, *startPanel_)),
       ownAlerts_(std::make_unique<QtAlertPresenter>()),
-      alerts_(ownAlerts_.get()) {
+      alerts_(ownAlerts_.get()),
+      quitKey_([this] { terminate_(this); }) {
   QApplication::setQuitOnLastWindowClosed(delegate_.applicationShouldTerminateAfterLastWindowClosed());
   connectParts();
   addManual(startPanel_.get());

@@ -15,6 +15,7 @@
 #include "application/dropped_files.h"
 #include "application/history_keeper.h"
 #include "application/manual_window.h"
+#include "application/quit_key.h"
 #include "application/recent_files.h"
 #include "application/recent_thumbnails.h"
 #include "application/start_panel.h"
@@ -114,6 +115,7 @@ class DocumentApplication final : public QObject {
   int modal_ = 0;  ///< panels and alerts on the screen
   bool quitting_ = false;
   QHash<QUrl, QPointer<QMainWindow>> replaced_;  ///< windows that go when that file has opened
+  QuitKey quitKey_;
 };
 
 }  // namespace norvex

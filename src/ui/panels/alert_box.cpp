@@ -32,12 +32,14 @@ int QtAlertPresenter::runModal(const Alert& alert) {
   box.setInformativeText(alert.informativeText);
   box.setDetailedText(alert.details);
   const QStringList leaving{localizedString("Cancel"), localizedString("Close")};
+  // Questions without those have one that changes nothing: Escape and the window's own button stand for it.
+  const QStringList refusing{localizedString("Do Not Open"), localizedString("Keep Open")};
   QList<QAbstractButton*> buttons;
   for (const QString& title : alert.buttons.isEmpty() ? QStringList{localizedString("OK")} : alert.buttons) {
     QPushButton* button =
         box.addButton(title, leaving.contains(title) ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
     if (buttons.isEmpty()) box.setDefaultButton(button);
-    if (leaving.contains(title)) box.setEscapeButton(button);
+    if (leaving.contains(title) || refusing.contains(title)) box.setEscapeButton(button);
     buttons << button;
   }
   if (buttons.size() == 1) box.setEscapeButton(buttons.first());

@@ -49,6 +49,36 @@ class AlertBoxTest : public QObject {
     });
     QCOMPARE(QtAlertPresenter().runModal(alert), 1);
   }
+
+  void escapeAnswersAQuestionByWhatChangesNothing_data() {
+    QTest::addColumn<QStringList>("buttons");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("one that can be cancelled") << QStringList{"Replace", "Cancel"} << 1;
+    QTest::newRow("files that were open")
+        << QStringList{"Open the Others", "Do Not Open", "Open All Again"} << 1;
+    QTest::newRow("a window to close")
+        << QStringList{"Close When Finished", "Stop and Close", "Keep Open"} << 2;
+  }
+  void escapeAnswersAQuestionByWhatChangesNothing() {
+    QFETCH(QStringList, buttons);
+    Alert alert;
+    alert.buttons = buttons;
+    QTimer::singleShot(0, this, [] { QTest::keyClick(shownBox(), Qt::Key_Escape); });
+    QTimer::singleShot(20000, this, [] {
+      if (QMessageBox* const left = shownBox()) left->reject();
+    });
+    QTEST(QtAlertPresenter().runModal(alert), "answer");
+  }
+
+  void theButtonOfItsWindowIsAnAnswer() {
+    Alert alert;
+    alert.buttons = QStringList{"Do Not Open", "Open It Again"};
+    QTimer::singleShot(0, this, [] { shownBox()->close(); });
+    QTimer::singleShot(20000, this, [] {
+      if (QMessageBox* const left = shownBox()) left->reject();
+    });
+    QCOMPARE(QtAlertPresenter().runModal(alert), 0);
+  }
 };
 
 NORVEX_TEST(AlertBoxTest)

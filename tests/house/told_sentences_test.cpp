@@ -35,6 +35,8 @@ const QStringList kUnheard{
     "this cannot be done here",
     "this cannot be examined in a picture of this kind",
     "this picture process was made for another kind of picture",
+    "this picture was opened for its facts alone",
+    "what is known of this picture has to be drawn",
     "this picture was opened to be drawn",
     "this picture was opened to be drawn or to become a PDF",
     // Said by what stands in for a picture process.

@@ -73,6 +73,16 @@ class InstallationTest : public QObject {
     }
   }
 
+  void commandsAndEnginesFindWhatStandsInForLibraries() {
+    for (const auto& [part, folder] :
+         {std::pair{"norvex-commands.so", "windows"}, std::pair{"norvex-engine-pages.so", "signatures"},
+          std::pair{"norvex-engine-svg.so", "display"}}) {
+      const Ran libraries = kit::run("ldd", {installed("libexec/norvex/") + part});
+      QCOMPARE(libraries.exitCode, 0);
+      QVERIFY2(libraries.out.contains(installed("libexec/norvex/stand-ins/").toUtf8() + folder), part);
+    }
+  }
+
   void theInterpreterFindsWhatStandsInForLibrariesAndFiles() {
     const Ran libraries = kit::run("ldd", {installed("libexec/norvex/norvex-postscript")});
     QCOMPARE(libraries.exitCode, 0);

@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 #include "kit/program.h"
 #include "kit/test_main.h"

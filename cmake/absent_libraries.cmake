@@ -19,7 +19,7 @@ endfunction()
 # linked with. It defines what `file` wants of them, and each of its functions gives nothing.
 function(norvex_absent name)
   cmake_parse_arguments(ARG "" "FOR" "LIBRARIES" ${ARGN})
-  if(NORVEX_SANITIZE OR NORVEX_COVERAGE)
+  if(NORVEX_SANITIZE)
     return()
   endif()
   set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${ARG_FOR})

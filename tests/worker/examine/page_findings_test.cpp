@@ -17,12 +17,15 @@ const QByteArray kStates =
     ">> "
     "/Font << /F << /Type /Font /Subtype /Type1 /BaseFont /Helvetica >> >> ";
 
-PageContents drawn(const QByteArray& contents, const QByteArray& resources = {},
-                   const QList<QByteArray>& more = {}) {
+PageContents contents(const QByteArray& page, const QByteArray& resources, const QList<QByteArray>& more) {
   const Result<PageContents> found = onlyPageContents(
-      kit::onePage(contents, "/MediaBox [0 0 200 100] /Resources << " + kStates + resources + " >>", more),
-      {});
+      kit::onePage(page, "/MediaBox [0 0 200 100] /Resources << " + resources + " >>", more), {});
   return found ? *found : PageContents();
+}
+
+PageContents drawn(const QByteArray& page, const QByteArray& resources = {},
+                   const QList<QByteArray>& more = {}) {
+  return contents(page, kStates + resources, more);
 }
 
 QByteArray image(const QByteArray& entries) {
@@ -39,6 +42,15 @@ class PageFindingsTest : public QObject {
     QCOMPARE(drawn("/Half gs 10 10 20 30 re f").transparency, QRectF(10, 10, 20, 30));
     QCOMPARE(drawn("/Multiply gs 10 10 20 30 re f").transparency, QRectF(10, 10, 20, 30));
     QVERIFY(!drawn("/Half gs 300 10 20 30 re f").transparency);  // not on the page
+  }
+
+  void aShadingIsTransparentLikeAnythingElse() {
+    const QByteArray shading =
+        "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceGray /Coords [0 0 200 0] /Function << "
+        "/FunctionType 2 /N 1 /Domain [0 1] /C0 [0] /C1 [1] >> >> >>";
+    QVERIFY(!drawn("/S sh", shading).transparency);
+    QVERIFY(drawn("/Half gs /S sh", shading).transparency);
+    QVERIFY(drawn("/Multiply gs /S sh", shading).transparency);
   }
 
   void anImageIsTransparentByItsMaskAlone() {
@@ -64,10 +76,11 @@ class PageFindingsTest : public QObject {
     QCOMPARE(drawn("1 0 0 rg 10 50 20 57 re f").outside->value, 7.0);
     QVERIFY(!drawn("1 g -5 10 20 20 re f").outside);  // white is no loss
     QVERIFY(!drawn("BT /F 12 Tf -9 10 Td (a) Tj ET").outside);
-    QCOMPARE(drawn("q 20 0 0 20 -8 10 cm /I Do Q", "/XObject << /I 5 0 R >>",
-                   {image("/ColorSpace /DeviceGray /BitsPerComponent 8")})
-                 .outside->value,
-             8.0);
+    for (const QByteArray place : {"-8 10", "10 -8", "188 10", "10 88"})
+      QCOMPARE(drawn("q 20 0 0 20 " + place + " cm /I Do Q", "/XObject << /I 5 0 R >>",
+                     {image("/ColorSpace /DeviceGray /BitsPerComponent 8")})
+                   .outside->value,
+               8.0);
   }
 
   void whiteThatOverprintsVanishes() {
@@ -93,6 +106,54 @@ class PageFindingsTest : public QObject {
         "[1] >>] >>";
     QVERIFY(!drawn("/N CS 1 SCN 0.1 w 10 10 m 20 10 l S", none).thinnestLine);
     QVERIFY(drawn("0.1 w 10 10 m 20 10 l S", none).thinnestLine);
+  }
+
+  // Of the line, not of the area.
+  void aLineHasTheColourThatWasSetForIt() {
+    QCOMPARE(drawn("/DeviceCMYK CS 1 1 0 0 SC 9 9 20 20 re S").mostInk->value, 200.0);
+    QCOMPARE(drawn("/DeviceCMYK CS /DeviceCMYK cs 1 1 0 0 SC 9 9 20 20 re f").mostInk->value, 100.0);
+  }
+
+  void aSpaceBeginsWithItsDarkestColour() {
+    for (const ColourModel model : {ColourModel::Grey, ColourModel::Cmyk, ColourModel::Spot}) {
+      QCOMPARE(initialColourOf(ColourSpace{model}).ink, 100.0);
+      QVERIFY(!initialColourOf(ColourSpace{model}).isWhite);
+    }
+    QVERIFY(!initialColourOf(ColourSpace{ColourModel::Rgb}).isWhite);
+  }
+
+  // What it says is a place in a table.
+  void aPlaceInATableIsNoColour() {
+    ColourSpace table{ColourModel::Rgb}, pattern{ColourModel::Grey};
+    QVERIFY(colourOf(table, {5, 5, 5}).isWhite);
+    table.isIndexed = pattern.isPattern = true;
+    QVERIFY(!colourOf(table, {5, 5, 5}).isWhite);
+    QVERIFY(!colourOf(pattern, {1}).isWhite);
+  }
+
+  void theGlyphsOfAFontOfDrawingsAreAsLargeAsItsBox() {
+    const QByteArray font =
+        "/Font << /T << /Type /Font /Subtype /Type3 /FontBBox [0 -1 9 4] /FontMatrix [0.1 0 0 0.1 0 0] "
+        "/FirstChar 97 /LastChar 97 /Widths [9] /Encoding << /Differences [97 /a] >> /CharProcs << /a 5 0 R "
+        ">> "
+        ">> >>";
+    const PageContents page = contents("BT /T 30 Tf 10 10 Td (a) Tj ET", font, {kit::stream("9 0 d0")});
+    QVERIFY(page.smallestText);
+    QCOMPARE(page.smallestText->value, 15.0);
+  }
+
+  // Six capital letters and a plus stand before the name of a part of a font.
+  void aPartOfAFontIsKnownByItsName() {
+    const auto isSubset = [](const QByteArray& name) {
+      const PageContents page =
+          contents("", "/Font << /A << /Type /Font /Subtype /TrueType /BaseFont /" + name + " >> >>", {});
+      return page.fonts.size() == 1 && page.fonts[0].subset;
+    };
+    QVERIFY(isSubset("ABCDEF+Own"));
+    QVERIFY(!isSubset("HELVETICA"));
+    QVERIFY(!isSubset("ABCDEF+"));
+    QVERIFY(!isSubset("ABCdEF+Own"));
+    QVERIFY(!isSubset("Own"));
   }
 
   void inkIsNeverLessThanNone() {

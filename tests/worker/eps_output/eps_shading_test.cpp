@@ -330,6 +330,17 @@ class EpsShadingTest : public QObject {
     QVERIFY(of([](double u) { return u < 0.5 ? NAN : 0.0; }).contains("/Size [2]"));
   }
 
+  void aTableOfTwoParametersIsAsLongAsItsColoursNeed() {
+    const auto of = [](const std::function<double(double, double)>& value) {
+      constexpr double domain[4] = {0, 1, 0, 2};
+      return sampledFunction(domain, 1, [&](double u, double v, double* colour) { *colour = value(u, v); });
+    };
+    QVERIFY(of([](double u, double v) { return u * v; }).contains("/Domain [0 1 0 2]"));
+    QVERIFY(of([](double u, double v) { return u * v; }).contains("/Size [2 2]"));
+    QVERIFY(of([](double u, double) { return std::abs(u - 0.25); }).contains("/Size [5 5]"));
+    QVERIFY(of([](double, double v) { return std::abs(v - 0.5); }).contains("/Size [3 3]"));
+  }
+
   void aMeshWithoutFinitePiecesIsNone() {
     ShadingMesh mesh(ShadingMesh::Kind::Triangles, 1);
     const std::array<double, 6> points{0, 0, INFINITY, 0, 0, 1};

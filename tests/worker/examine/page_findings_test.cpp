@@ -1,5 +1,5 @@
 // What an examination finds of a page that a printer stumbles over.
-#include <cmath>
+#include <utility>
 
 #include "kit/test_main.h"
 #include "worker/examine/page_colour.h"
@@ -106,6 +106,26 @@ class PageFindingsTest : public QObject {
         "[1] >>] >>";
     QVERIFY(!drawn("/N CS 1 SCN 0.1 w 10 10 m 20 10 l S", none).thinnestLine);
     QVERIFY(drawn("0.1 w 10 10 m 20 10 l S", none).thinnestLine);
+  }
+
+  void aColourModelIsToldWhereItIsUsedFirst() {
+    const PageContents page = drawn(
+        "1 0 0 rg 9 9 5 5 re f 20 20 5 5 re f 0 1 0 0 k 30 30 5 5 re f 1 0 0 0 k "
+        "40 40 5 5 re f");
+    QCOMPARE(page.rgb, QRectF(9, 9, 5, 5));
+    QCOMPARE(page.cmyk, QRectF(30, 30, 5, 5));
+    QVERIFY(!drawn("1 0 0 rg 9 9 5 5 re f").cmyk);
+  }
+
+  void aProfileIsOfTheModelThatItsPartsMake() {
+    const auto of = [](const QByteArray& parts) {
+      const PageContents page = drawn("/C cs 0.5 sc 9 9 5 5 re f", "/ColorSpace << /C [/ICCBased 5 0 R] >>",
+                                      {kit::stream("", "/N " + parts)});
+      return std::pair(page.rgb.has_value(), page.cmyk.has_value());
+    };
+    QCOMPARE(of("1"), std::pair(false, false));
+    QCOMPARE(of("3"), std::pair(true, false));
+    QCOMPARE(of("4"), std::pair(false, true));
   }
 
   // Of the line, not of the area.

@@ -120,7 +120,8 @@ qint64 SvgNesting::deepest() const {
   const qsizetype count = elements_.size() + 1;
   QList<QList<Edge>> edges(count);
   QList<qint64> ends(count);
-  const auto depthOf = [&](int element) { return element < 0 ? 0 : elements_[element].depth; };
+  // The document is no level: the ways from it begin with the level of the root element.
+  const auto depthOf = [&](int element) { return element < 0 ? 1 : elements_[element].depth; };
   ends[0] = deepest_;
   for (int i = 0; i < elements_.size(); ++i) {
     const Element& element = elements_[i];

@@ -35,6 +35,18 @@ QByteArray laughs(int times, const QByteArray& use, const QByteArray& first = "h
 class SvgInspectionTest : public QObject {
   Q_OBJECT
  private slots:
+  void filtersAndMasksAreCountedWhereTheyAreUsed() {
+    const auto found = [](const QByteArray& attributes) {
+      const Result<SvgInspection> inspection = inspectSvg(svgOf("", "<g " + attributes + "/>"));
+      return inspection ? std::pair(int(inspection->filters), int(inspection->masks)) : std::pair(-1, -1);
+    };
+    QCOMPARE(found("filter='url(#a)'"), std::pair(1, 0));
+    QCOMPARE(found("style='fill:red;filter:url(#a);mask:url(#b)'"), std::pair(1, 1));
+    QCOMPARE(found("filter='none' mask=' none '"), std::pair(0, 0));
+    QCOMPARE(found("style='filter:none'"), std::pair(0, 0));
+    QCOMPARE(found("class='filter:url(#a)'"), std::pair(0, 0));
+  }
+
   void depthIsLimited() {
     QVERIFY(inspectSvg(svgOf("", nested(limits::maximumXmlDepth - 1))));
     QCOMPARE(limitMessage(svgOf("", nested(limits::maximumXmlDepth))),

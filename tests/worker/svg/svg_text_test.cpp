@@ -30,6 +30,22 @@ QByteArray utf16(const QString& text, QStringConverter::Encoding encoding, bool 
 class SvgTextTest : public QObject {
   Q_OBJECT
  private slots:
+  void anEncodingIsCalledAsTheDocumentCallsIt() {
+    const auto declared = [](const QByteArray& bytes) {
+      const Result<SvgText> text = decodeSvgText(bytes);
+      return text ? text->declaredName : text.error().message.toUtf8();
+    };
+    const QString plain = kBody.arg("abc");
+    QCOMPARE(declared(plain.toUtf8()), "UTF-8");
+    QCOMPARE(declared((declaration("Shift_JIS") + plain).toLatin1()), "Shift_JIS");
+    const QByteArray sixteen = utf16(plain, QStringConverter::Utf16BE, true),
+                     more = utf16(plain, QStringConverter::Utf32LE, true);
+    QCOMPARE(declared(sixteen), "UTF-16");
+    QCOMPARE(declared(more), "UTF-32");
+    QCOMPARE(declared(sixteen + 'x'), "the bytes are not text in the encoding UTF-16");
+    QCOMPARE(declared(more + 'x'), "the bytes are not text in the encoding UTF-32");
+  }
+
   void everyEncodingHasItsNameAndNumber_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("name");

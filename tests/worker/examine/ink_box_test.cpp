@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "kit/test_main.h"
-#include "protocol/limits.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pdf/pdf_render.h"
 
@@ -97,17 +96,18 @@ class InkBoxTest : public QObject {
     QCOMPARE(looks, 6);
   }
 
-  void noSideIsLongerThanAnImageMayBe() {
-    int longest = 0;
+  // It is looked at as finely as the longest image allows.
+  void theFarEndOfALongStripIsSeen() {
+    constexpr double at = 59'990.5;
     const auto draw = [&](const RenderRequest& request) {
-      longest = std::max({longest, request.pixelSize.width(), request.pixelSize.height()});
       Result<Bitmap> bitmap = Bitmap::create(request.pixelSize);
-      if (bitmap) std::fill_n(bitmap->row(0), bitmap->width(), 0xff000000);
+      const int column = int(std::floor(at * request.pictureToDevice.m11() + request.pictureToDevice.dx()));
+      if (bitmap && column >= 0 && column < bitmap->width()) bitmap->row(0)[column] = 0xff000000;
       return bitmap;
     };
-    QVERIFY(findInk(QRectF(0, 0, 9000, 2), 0, kSharp, draw)->ink);
-    QVERIFY2(longest > limits::maximumSide / 2 && longest <= limits::maximumSide,
-             qPrintable(QString::number(longest)));
+    const Result<DrawnInk> drawn = findInk(QRectF(0, 0, 60'000, 1), 0, kSharp, draw);
+    QVERIFY(drawn && drawn->ink);
+    QVERIFY(drawn->ink->left() <= at && drawn->ink->right() >= at && drawn->ink->width() <= 1);
   }
 
   void whiteIsPaintedAndNoInk() {

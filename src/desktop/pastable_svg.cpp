@@ -39,7 +39,7 @@ QByteArray pastableSvg(const QByteArray& svg) {
   const QRegularExpressionMatch found = size.match(tag);
   const double width = found.captured(1).toDouble(), height = found.captured(2).toDouble();
   const double boxWidth = found.captured(3).toDouble(), boxHeight = found.captured(4).toDouble();
-  if (!(width > 0 && height > 0 && boxWidth > 0 && boxHeight > 0)) return svg;
+  if (!(width > 0 && boxWidth > 0 && boxHeight > 0)) return svg;
   const double scale = width / boxWidth;
   if (std::abs(height / boxHeight - scale) > 1e-3 * scale) return svg;
   const QString wide = number(width * kPixelsPerPoint), high = number(height * kPixelsPerPoint);

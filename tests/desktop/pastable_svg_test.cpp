@@ -45,6 +45,8 @@ class PastableSvgTest : public QObject {
     QTest::newRow("pixels") << QByteArray("<svg width=\"3\" height=\"3\" viewBox=\"0 0 3 3\"></svg>");
     QTest::newRow("stretched") << QByteArray("<svg width=\"3pt\" height=\"6pt\" viewBox=\"0 0 3 3\"></svg>");
     QTest::newRow("flat") << QByteArray("<svg width=\"3pt\" height=\"0pt\" viewBox=\"0 0 3 0\"></svg>");
+    QTest::newRow("no height") << QByteArray("<svg width=\"3pt\" height=\"0pt\" viewBox=\"0 0 3 3\"></svg>");
+    QTest::newRow("no width") << QByteArray("<svg width=\"0pt\" height=\"3pt\" viewBox=\"0 0 3 3\"></svg>");
     QTest::newRow("ends before it begins")
         << QByteArray("</svg><svg width=\"3pt\" height=\"3pt\" viewBox=\"0 0 3 3\">");
     QTest::newRow("empty") << QByteArray("<svg width=\"0pt\" height=\"0pt\" viewBox=\"0 0 0 0\"></svg>");

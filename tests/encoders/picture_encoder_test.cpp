@@ -362,6 +362,27 @@ class PictureEncoderTest : public QObject {
     }
   }
 
+  void anSvgOfAnotherPictureNamesItsFacts() {
+    const auto factsOf = [this](const std::shared_ptr<NSImageRep>& rep) {
+      (void)encoderOf(rep).svgData();
+      return service_->memory.lastProcess()->composeRequests().constLast().attributes->texts;
+    };
+    const QByteArray source =
+        "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 9 9\n%%Title: T\n%%Creator: C\n%%CreationDate: D\n"
+        "%%For: F\n%%Copyright: R\n%%EndComments\nshowpage\n";
+    using Texts = decltype(PdfAttributes::texts);
+    QCOMPARE(
+        factsOf(eps(source)),
+        (Texts{
+            {"Title", "T"}, {"Creator", "C"}, {"CreationDate", "D"}, {"Author", "F"}, {"Copyright", "R"}}));
+    MemoryPicture memory = picture();
+    memory.facts.attributes.insert("Author", "Ann");
+    memory.facts.attributes.insert("Subject", "About");
+    service_->memory.setPicture(memory);
+    QCOMPARE(factsOf(pdf()),
+             (Texts{{"Title", "Pdf Title"}, {"Creator", "Drawer"}, {"Author", "Ann"}, {"Subject", "About"}}));
+  }
+
   void aRasterHasOnePixelAPoint() {
     const auto rep = svg();
     const QImage image = QImage::fromData(encoderOf(rep).pngData(rep));

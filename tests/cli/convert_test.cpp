@@ -65,6 +65,8 @@ class ConvertTest : public QObject {
     row({"a.eps", "-o", "b.png", "--dpi", "many"}, "--dpi is a number from 1 to 9600");
     row({"a.eps", "-o", "b.png", "--dpi", "nan"}, "--dpi is a number from 1 to 9600");
     row({"a.eps", "-o", "b.png", "--rotate", "inf"}, "--rotate is a number from -36000 to 36000");
+    row({"a.eps", "-o", "b.png", "--rotate", "36000.5"}, "--rotate is a number from -36000 to 36000");
+    row({"a.eps", "-o", "b.png", "--rotate", "-36000.5"}, "--rotate is a number from -36000 to 36000");
     row({"a.eps", "-o", "b.png", "--page", "0"}, "--page is a number from 1 to 10000000");
     row({"a.eps", "-o", "b.png", "--page", "1.5"}, "--page is a whole number");
     row({"a.eps", "-o", "b.jpg", "--quality", "0"}, "--quality is a number from 1 to 100");

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <dlfcn.h>
 #include <malloc.h>
 
 #include <cstdlib>
@@ -46,6 +47,17 @@ class UnusedMemoryTest : public QObject {
     QCOMPARE(written, 7);
     QCOMPARE(text.count("kept"), 1000);
     QVERIFY(QString::fromLatin1(text).endsWith(QLatin1String("kept")));
+  }
+
+  void whatTheLinkerWroteIntoAProgramStays() {
+    void* const library = ::dlopen(NORVEX_RELOCATED_TEXT, RTLD_NOW);
+    QVERIFY2(library, ::dlerror());
+    void* volatile* const place = static_cast<void* volatile*>(::dlsym(library, "norvexOwnAddress"));
+    QVERIFY(place);
+    QCOMPARE(*place, static_cast<void*>(const_cast<void**>(place)));
+    giveBackUnusedMemory();
+    QCOMPARE(*place, static_cast<void*>(const_cast<void**>(place)));
+    ::dlclose(library);
   }
 
   void largeBlocksAreTheSystemsHoweverManyWereFreed() {

@@ -49,11 +49,6 @@ QByteArray greySamples(const QImage& image) {
   return samples;
 }
 
-/// A program that fills whatever page it is given says nothing about its box.
-bool isEndless(const DrawnInk& drawn) {
-  return drawn.ink && drawn.ink->adjusted(-1, -1, 1, 1).contains(drawn.area);
-}
-
 /// Whether something is to be told of the ink wherever its edges are within their accuracy.
 bool maySayMore(const DrawnInk& drawn, const QRectF& box) {
   if (!drawn.ink || isEndless(drawn)) return false;
@@ -207,6 +202,10 @@ CheckedPicture checkPicture(PictureService& service, const CheckRequest& request
   CheckedPicture checked = Check(service, request, time.token()).run();
   if (checked.error) checked.error = time.explained(*checked.error);
   return checked;
+}
+
+bool isEndless(const DrawnInk& drawn) {
+  return drawn.ink && drawn.ink->adjusted(-1, -1, 1, 1).contains(drawn.area);
 }
 
 Result<DrawnInk> inkOfEps(PictureProcess& process, const QRectF& box, InkEdges edges,

@@ -42,4 +42,7 @@ enum class InkEdges { Coarse, Sharp };
 [[nodiscard]] Result<DrawnInk> inkOfEps(PictureProcess& process, const QRectF& box, InkEdges edges,
                                         const CancelToken& cancel);
 
+/// A program that fills whatever page it is given says nothing about its box.
+[[nodiscard]] bool isEndless(const DrawnInk& drawn);
+
 }  // namespace norvex

@@ -73,8 +73,7 @@ class Repair {
     const auto process = service_.open(drawable, PictureKind::Eps, limits_);
     const Result<DrawnInk> drawn = inkOfEps(*process, shown, InkEdges::Sharp, cancel_);
     if (!drawn) return drawn.error();
-    const bool isEndless = drawn->ink && drawn->ink->adjusted(-1, -1, 1, 1).contains(drawn->area);
-    const auto box = mendedBox(exact, isEndless ? exact : drawn->ink, drawn->painted);
+    const auto box = mendedBox(exact, isEndless(*drawn) ? exact : drawn->ink, drawn->painted);
     if (box) return *box;
     return Error{ErrorKind::NotParsable, QStringLiteral("it draws nothing and states no bounding box")};
   }
@@ -122,8 +121,7 @@ class Repair {
   }
 
   Result<void> checkAgain() {
-    const CheckedPicture checked =
-        checkPicture(service_, {result_.bytes, QStringLiteral("repaired.eps"), {}, limits_}, cancel_);
+    const CheckedPicture checked = checkPicture(service_, {result_.bytes, {}, {}, limits_}, cancel_);
     if (checked.error) return *checked.error;
     for (const Finding& one : checked.findings) {
       if (one.severity != Severity::Error) continue;

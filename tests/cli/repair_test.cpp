@@ -4,7 +4,9 @@
 #include "check/check_files.h"
 #include "cli/examined_line.h"
 #include "encoders/dos_eps_writer.h"
+#include "kit/program.h"
 #include "kit/test_main.h"
+#include "metadata/dos_eps_header.h"
 
 using namespace norvex;
 using namespace norvex::checkfiles;
@@ -69,7 +71,12 @@ class RepairTest : public QObject {
   void aProgramWithoutABoxIsLookedForOnTwoSheets() {
     Repairing line;
     line.drawn.ink = line.drawn.painted = QRectF(20, 30, 40, 20);
+    QByteArray drawn;
+    line.service.setPrepare([&drawn](MemoryPictureProcess& process) {
+      if (drawn.isEmpty()) drawn = process.bytes();
+    });
     QCOMPARE(line.told(boxed({})), QStringList{"the bounding box is 20 30 60 50 (20 30 60 50)"});
+    QVERIFY2(drawn.contains("\n%%BoundingBox: 0 0 1224 1584\n"), drawn.constData());
     line.drawn.ink = line.drawn.painted = std::nullopt;
     QCOMPARE(line.told(boxed({})), QStringList{"it draws nothing and states no bounding box"});
     QCOMPARE(line.code, 3);
@@ -91,6 +98,11 @@ class RepairTest : public QObject {
     QVERIFY(line.contents("b.eps").startsWith("\xC5\xD0\xD3\xC6"));
     QVERIFY(line.contents("b.eps").contains(checkfiles::kEps));
     QCOMPARE(line.told(dosEps(checkfiles::kEps, {})), QStringList{out});
+    const QByteArray interchange = withPreview(checkfiles::kEps, true);
+    QCOMPARE(line.told(interchange), QStringList{"nothing had to be changed"});
+    QCOMPARE(line.contents("b.eps"), interchange);
+    QCOMPARE(line.told(interchange, {"--preview", "drop"}), QStringList{dropped});
+    QCOMPARE(line.contents("b.eps"), checkfiles::kEps);
   }
 
   void aPreviewOfALargePictureIs512PixelsLarge() {
@@ -100,6 +112,10 @@ class RepairTest : public QObject {
              QStringList{"a preview of 512 by 250 pixels was made"});
     QCOMPARE(line.painted.first().pixelSize, QSize(512, 250));
     QCOMPARE(line.painted.first().pictureToDevice, QTransform(0.25, 0, 0, -0.25, 0, 250));
+    const QByteArray file = line.contents("b.eps");
+    line.write("preview.tiff", tiffSection(file, *dosEpsHeader(file)).toByteArray());
+    const kit::Ran said = kit::run("tiffinfo", {line.path("preview.tiff")});
+    QVERIFY2(said.out.contains("Resolution: 18, 18 pixels/inch"), said.out.constData());
     line.drawn.ink = line.drawn.painted = QRectF(0, 0, 2048, 0.5);
     QCOMPARE(line.told(boxed("0 0 2048 1"), {"--preview", "rebuild"}).last(),
              "a preview of 512 by 1 pixels was made");

@@ -1,6 +1,9 @@
 // The dial: angles, senses, mouse, keys, and what assistive technology sees.
 #include <QAccessible>
+#include <QMouseEvent>
 #include <QWheelEvent>
+
+#include <cmath>
 
 #include "kit/test_main.h"
 #include "ui/controls/number_field.h"
@@ -50,6 +53,24 @@ class ZyDialKnobTest : public QObject {
     QCOMPARE(dial.knob.DMSValue(), 90.0);
     QCOMPARE(dial.field.doubleValue(), 90.0);
     QCOMPARE(turned.size(), 1);
+  }
+
+  void aPressNearTheNeedleTakesHoldOfItAcrossTheTopToo() {
+    ZyDialKnob knob;
+    knob.resize(100, 100);
+    knob.setDMSValue(359);
+    const auto at = [&knob](double degrees) {
+      const double turn = degrees * M_PI / 180;
+      return QPointF(QRectF(knob.rect()).center() + 45 * QPointF(-std::sin(turn), -std::cos(turn)));
+    };
+    const auto send = [&knob](QEvent::Type type, const QPointF& point, Qt::MouseButton button) {
+      QMouseEvent event(type, point, point, button, Qt::LeftButton, Qt::NoModifier);
+      QCoreApplication::sendEvent(&knob, &event);
+    };
+    send(QEvent::MouseButtonPress, at(4), Qt::LeftButton);
+    QCOMPARE(knob.degreeValue(), 359.0);
+    send(QEvent::MouseMove, at(14), Qt::NoButton);
+    QVERIFY2(std::abs(knob.degreeValue() - 9) < 0.01, qPrintable(QString::number(knob.degreeValue())));
   }
 
   void aClockwiseKnobTurnsTheOtherWay() {

@@ -74,7 +74,6 @@ qsizetype SourceBlocks::textPosition(qsizetype shownPosition) const {
 QString SourceBlocks::shown(int first, int end) const {
   QString all;
   if (first >= end) return all;
-  all.reserve(blocks_.at(end - 1).shown + blocks_.at(end - 1).length - blocks_.at(first).shown);
   for (int i = first; i < end; ++i) {
     if (i > first) all += u'\n';
     all += block(i);

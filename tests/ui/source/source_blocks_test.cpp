@@ -94,6 +94,12 @@ class SourceBlocksTest : public QObject {
     QCOMPARE(coloured(text, 10, 14), QStringList({"Comment:% long co"}));
   }
 
+  void aTagWithoutANameEndsWhereItEnds() {
+    QCOMPARE(coloured(QStringLiteral("<?xml v=\"1\"?><g><>x y</g>")),
+             QStringList({"Tag:<?xml", "Value:\"1\"", "Tag:?>", "Tag:<g", "Tag:>", "Tag:<", "Tag:>",
+                          "Tag:</g", "Tag:>"}));
+  }
+
   void tagsValuesAndCommentsOfMarkup() {
     QCOMPARE(coloured(QStringLiteral("<?xml version=\"1.0\"?><g id='a>b'>t<!-- <x> --></g><b/>")),
              QStringList({"Tag:<?xml", "Value:\"1.0\"", "Tag:?>", "Tag:<g", "Value:'a>b'", "Tag:>",

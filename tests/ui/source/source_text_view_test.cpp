@@ -45,6 +45,35 @@ class SourceTextViewTest : public QObject {
     QVERIFY(pane.view.textEdit()->isReadOnly());
   }
 
+  void nothingIsTypedIntoIt() {
+    Pane pane(QStringLiteral("a\n"));
+    QVERIFY2(!pane.view.textEdit()->testAttribute(Qt::WA_InputMethodEnabled),
+             "a keyboard on the screen comes");
+    QTest::keyClicks(pane.view.textEdit(), "x");
+    QCOMPARE(pane.view.textEdit()->toPlainText(), QStringLiteral("a\n"));
+  }
+
+  void theMarginIsAsWideAsTheLastNumberAndNeverNarrowerThanThreeDigits() {
+    const auto margin = [](int lines) {
+      Pane pane(QString(lines - 1, u'\n'));
+      return pane.view.textEdit()->viewport()->x();
+    };
+    QCOMPARE(margin(5), margin(999));
+    QVERIFY(margin(1000) > margin(999));
+    QVERIFY(margin(10000) > margin(1000));
+  }
+
+  void aLongTextIsLaidOutPieceByPiece() {
+    SourceTextView view;
+    view.resize(420, 300);
+    view.setString((QString(400, u'x') + u'\n').repeated(2000));
+    view.show();
+    QVERIFY(!view.textEdit()->isComplete());
+    QVERIFY(view.textEdit()->document()->blockCount() < 2000);
+    QTRY_VERIFY_WITH_TIMEOUT(view.textEdit()->isComplete(), 30'000);
+    QCOMPARE(view.textEdit()->document()->blockCount(), 2001);
+  }
+
   void aLineIsShownByItsNumberInTheMargin() {
     QString text = QString(1200, u'a') + "\rsecond\r\nthird\n";
     for (int i = 4; i <= 5000; ++i) text += QStringLiteral("line %1\n").arg(i);

@@ -318,10 +318,18 @@ class PrintPanelTest : public QObject {
   void aDocumentOfOnePageHasNoSuchChoice() {
     open({100, 100});
     QVERIFY(!panel_->findChild<QComboBox*>("documentPages"));
+    pages_ = {{100, 100}};
+    open({100, 100});
+    QVERIFY(!panel_->findChild<QComboBox*>("documentPages"));
+    pages_ = {{100, 100}, {100, 100}};
+    open({100, 100});
+    QVERIFY(panel_->findChild<QComboBox*>("documentPages"));
   }
 
   void aRangeOfPagesCanBeChosen() {
     open({3000, 2000});
+    QCOMPARE(child<QSpinBox>("firstPage")->value(), 1);
+    QCOMPARE(child<QSpinBox>("lastPage")->value(), 18);
     child<QSpinBox>("firstPage")->setValue(3);
     child<QSpinBox>("lastPage")->setValue(5);
     QVERIFY(child<QRadioButton>("somePages")->isChecked());

@@ -63,9 +63,10 @@ void SeparationView::mouseMoveEvent(QMouseEvent* event) {
     emit pointed({-1, -1});
     return;
   }
+  // A point that is rounded into the image may lie half a pixel before its first one.
   const QPointF at = event->position() - place.topLeft();
-  emit pointed({qBound(0, int(at.x() * image_.width() / place.width()), image_.width() - 1),
-                qBound(0, int(at.y() * image_.height() / place.height()), image_.height() - 1)});
+  emit pointed({qMax(0, int(at.x() * image_.width() / place.width())),
+                qMax(0, int(at.y() * image_.height() / place.height()))});
 }
 
 void SeparationView::leaveEvent(QEvent* event) {

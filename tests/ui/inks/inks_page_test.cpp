@@ -2,6 +2,7 @@
 #include "ui/inks/inks_page.h"
 
 #include <QCheckBox>
+#include <QHash>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
@@ -39,7 +40,9 @@ class German final : public QTranslator {
     QLocale::setDefault(QLocale::c());
   }
   QString translate(const char*, const char* key, const char*, int) const override {
-    return QByteArray(key) == "Black" ? QStringLiteral("Schwarz") : QString();
+    const QHash<QByteArray, QString> words{
+        {"Cyan", "Türkis"}, {"Magenta", "Purpur"}, {"Yellow", "Gelb"}, {"Black", "Schwarz"}};
+    return words.value(key);
   }
   bool isEmpty() const override { return false; }
 };
@@ -92,7 +95,8 @@ class InksPageTest : public QObject {
     InksPage shown;
     shown.showInks(page({"Black"}), 240);
     const QTreeWidget& list = listOf(shown);
-    QCOMPARE(list.topLevelItem(3)->text(0), "Schwarz");
+    const QStringList words{"Türkis", "Purpur", "Gelb", "Schwarz"};
+    for (int i = 0; i < 4; ++i) QCOMPARE(list.topLevelItem(i)->text(0), words.at(i));
     QCOMPARE(list.topLevelItem(4)->text(0), "Black");  // the document's own word
     QCOMPARE(list.topLevelItem(0)->text(1), "25,0 %");
   }
@@ -117,8 +121,9 @@ class InksPageTest : public QObject {
 
   void aSwitchIsAChoice() {
     InksPage shown;
-    shown.showInks(page(), 0);
     QSignalSpy chosen(&shown, &InksPage::choiceChanged);
+    shown.showInks(page(), 0);
+    QVERIFY2(chosen.isEmpty(), "nobody chose what was filled in");
     listOf(shown).topLevelItem(1)->setCheckState(0, Qt::Unchecked);
     QCOMPARE(chosen.size(), 1);
     QCOMPARE(shown.choice().shown, QList<bool>({true, false, true, true, true}));
@@ -218,6 +223,24 @@ class InksPageTest : public QObject {
     QCOMPARE(at({199, 149}), QPoint(3, 1));
     QCOMPARE(at({120, 60}), QPoint(2, 0));
     QCOMPARE(at({100, 20}), QPoint(-1, -1));
+    at({120, 60});
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&view, &leave);
+    QCOMPARE(pointed.last().at(0).toPoint(), QPoint(-1, -1));
+  }
+
+  void theImageIsAsHighAsItsShapeAsksUnlessItIsVeryHigh() {
+    SeparationView view;
+    view.setImage(QImage(40, 20, QImage::Format_RGB32));
+    QCOMPARE(view.heightForWidth(400), 200);
+    QCOMPARE(view.heightForWidth(100), view.minimumHeight());
+    view.setImage(QImage(20, 20, QImage::Format_RGB32));
+    QCOMPARE(view.heightForWidth(400), 400);
+    view.setImage(QImage(20, 400, QImage::Format_RGB32));
+    QVERIFY(view.heightForWidth(400) >= 400 && view.heightForWidth(400) < 500);
+    view.setImage(QImage(1, 4000, QImage::Format_RGB32));
+    view.resize(300, 200);
+    QCOMPARE(view.imageRect().size(), QSize(1, 200));  // a hairline is still seen
   }
 };
 

@@ -46,6 +46,23 @@ class FindingTextTest : public QObject {
     QCOMPARE(remark.figures, QString("Das Bild logo.eps fehlt."));
   }
 
+  void findingsAreCountedByWhatTheyWeigh() {
+    const auto of = [](std::initializer_list<Severity> severities) {
+      Findings all;
+      for (const Severity severity : severities) {
+        Finding one;
+        one.severity = severity;
+        all.push_back(one);
+      }
+      return countsOf(all);
+    };
+    using enum Severity;
+    QCOMPARE(of({Note, Error, Note}), QStringLiteral("1 error, 2 notes"));
+    QCOMPARE(of({Warning, Error, Note, Warning, Error}), QStringLiteral("2 errors, 2 warnings, 1 note"));
+    QCOMPARE(of({Warning}), QStringLiteral("1 warning"));
+    QCOMPARE(of({}), QString());
+  }
+
   void aFaultOfAProfileIsToldWithItsReason() {
     const Words german(
         {{"%1, line %2: %3", "%1, Zeile %2: %3."}, {"there is no rule %1", "Keine Regel %1."}});

@@ -37,6 +37,24 @@ class LettersTest : public QObject {
     QCOMPARE(placesOf(page, {0, 5}), (QList<QRectF>{QRectF(0, 50, 20, 10), QRectF(230, 50, 20, 10)}));
   }
 
+  void aGapOfOneAndAHalfHeightsIsOne() {
+    PageText page;
+    page.text = QStringLiteral("ab");
+    page.places = {QRectF(0, 0, 10, 10), QRectF(24, 0, 10, 10)};
+    QCOMPARE(placesOf(page, {0, 2}).size(), 1);
+    page.places[1].moveLeft(25);
+    QCOMPARE(placesOf(page, {0, 2}).size(), 2);
+  }
+
+  void aWideLetterIsNearAllOverItsWidth() {
+    PageText page;
+    page.text = QStringLiteral("Wi");
+    page.places = {QRectF(0, 0, 100, 10), QRectF(100, 0, 4, 10)};
+    QCOMPARE(letterNear(page, {95, 5}), 0);
+    QCOMPARE(letterNear(page, {101, 5}), 1);
+    QCOMPARE(letterNear(page, {-40, 5}), 0);
+  }
+
   void theNearestLetterIsOneOfTheSameLine() {
     QCOMPARE(letterNear(twoLines(), {15, 55}), 1);
     QCOMPARE(letterNear(twoLines(), {500, 52}),

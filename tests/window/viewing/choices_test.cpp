@@ -142,6 +142,8 @@ class ChoicesTest : public QObject {
     QTest::newRow("a screen of 72") << 72.0 << 96.0 << 1.0;
     QTest::newRow("one that tells nothing") << 0.0 << 144.0 << 2.0;
     QTest::newRow("one that cannot be") << 5000.0 << 72.0 << 1.0;
+    QTest::newRow("one of no end") << 0.0 << qInf() << 1.0;
+    QTest::newRow("one that is less than nothing") << 0.0 << -96.0 << 1.0;
     QTest::newRow("not a number") << qQNaN() << qQNaN() << 1.0;
   }
   void anInchOfThePictureIsAnInchOfTheScreen() {

@@ -15,6 +15,7 @@
 #include "ui/controls/zy_form.h"
 #include "ui/pages/page_strip.h"
 #include "ui/pages/page_switch.h"
+#include "ui/picture/brief_note.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "window/viewing/pages_command.h"
 #include "window/window_fixture.h"
@@ -65,6 +66,28 @@ class PagesTest : public QObject {
     f.action("previousPageAction")->trigger();
     QCOMPARE(f.pages.shown(), 0);
     QCOMPARE(f.c.view()->imageSize(), QSizeF(200, 100));
+  }
+
+  void aPageThatIsNotThereIsNotGoneTo() {
+    PagesFixture f(2);
+    for (const int nowhere : {-1, 2, 3}) {
+      f.pages.show(nowhere);
+      QCOMPARE(f.pages.shown(), 0);
+      QVERIFY(!f.c.window()->findChild<BriefNote*>());
+    }
+  }
+
+  void theNumberIsToldOverThePictureWhereItCannotBeSeenElsewhere() {
+    PagesFixture f(2);
+    f.c.window()->show();
+    f.pages.show(1);
+    QVERIFY(f.pageSwitch()->isVisible());
+    QVERIFY(!f.c.window()->findChild<BriefNote*>());
+    f.pageSwitch()->parentWidget()->hide();
+    f.pages.show(0);
+    const auto* note = f.c.window()->findChild<BriefNote*>();
+    QVERIFY(note);
+    QCOMPARE(note->text(), QStringLiteral("1 of 2"));
   }
 
   void angleAndZoomStay() {

@@ -7,9 +7,9 @@
 #include <cerrno>
 #include <thread>
 
-#include "kit/forked_check.h"
 #include "kit/raw_message.h"
 #include "kit/test_main.h"
+#include "kit/test_programs.h"
 
 using namespace norvex;
 
@@ -56,6 +56,19 @@ int askAmongManyDescriptors(ErrorKind expected, const CancelToken& cancel) {
                                            QDeadlineTimer(expected == ErrorKind::Cancelled ? -1 : 20));
   return !sent && sent.error().kind == expected ? 0 : 3;
 }
+
+int askAndBeStopped(const QStringList& arguments) {
+  const auto expected = ErrorKind(arguments.at(0).toInt());
+  const CancelToken cancel;
+  std::thread canceller([&] {
+    ::usleep(20'000);
+    if (expected == ErrorKind::Cancelled) cancel.cancel();
+  });
+  const int told = askAmongManyDescriptors(expected, cancel);
+  canceller.join();
+  return told;
+}
+const bool asking = kit::registerProgram("ask-and-be-stopped", askAndBeStopped);
 
 }  // namespace
 
@@ -135,16 +148,9 @@ class InterpreterRequestTest : public QObject {
   }
   void aRequestThatMayNotBeSentEndsAtItsDeadlineOrWithACancel() {
     QFETCH(ErrorKind, expected);
-    const int answer = kit::inForkedChild([&] {
-      const CancelToken cancel;
-      std::thread canceller([&] {
-        ::usleep(20'000);
-        if (expected == ErrorKind::Cancelled) cancel.cancel();
-      });
-      const int told = askAmongManyDescriptors(expected, cancel);
-      canceller.join();
-      return told;
-    });
+    const kit::Ran ran = kit::runProgram("ask-and-be-stopped", {QString::number(int(expected))});
+    QVERIFY(!ran.crashed);
+    const int answer = ran.exitCode;
     if (answer == kNotRefused) QSKIP("this kernel bounds no descriptors under way");
     QCOMPARE(answer, 0);
   }

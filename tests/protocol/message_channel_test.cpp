@@ -8,7 +8,6 @@
 #include <sys/eventfd.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -17,6 +16,7 @@
 
 #include "kit/raw_message.h"
 #include "kit/test_main.h"
+#include "kit/test_programs.h"
 #include "protocol/worker_protocol.h"
 
 using namespace norvex;
@@ -72,7 +72,7 @@ bool sendCrowd(int socket) {
 
 /// In a process of its own that is not root: with more descriptors under way than it may open files, a
 /// message with one is sent while another thread takes them. 0: it arrived.
-int sendAmongManyDescriptors() {
+int sendAmongManyDescriptors(const QStringList&) {
   if (::geteuid() == 0 && ::setresuid(65534, 65534, 65534) != 0) return 1;
   const rlimit few = {64, 64};
   ::setrlimit(RLIMIT_NOFILE, &few);
@@ -93,6 +93,7 @@ int sendAmongManyDescriptors() {
   const auto got = theirs.receive(QDeadlineTimer(20'000));
   return sent && got && got->cbor == "message" && got->descriptor.valid() ? 0 : 4;
 }
+const bool sending = registerProgram("send-among-many-descriptors", sendAmongManyDescriptors);
 
 }  // namespace
 
@@ -234,14 +235,11 @@ class MessageChannelTest : public QObject {
   }
 
   void aMessageWaitsUntilDescriptorsThatOthersHaveUnderWayAreTaken() {
-    const pid_t child = ::fork();
-    if (child == 0) ::_exit(sendAmongManyDescriptors());
-    int status = 0;
-    QCOMPARE(::waitpid(child, &status, 0), child);
-    QVERIFY(WIFEXITED(status));
-    if (WEXITSTATUS(status) == kNotRefused) QSKIP("this kernel bounds no descriptors under way");
-    if (WEXITSTATUS(status) == kTooManyOfOthers) QSKIP("other programs keep too many descriptors under way");
-    QCOMPARE(WEXITSTATUS(status), 0);
+    const Ran ran = runProgram("send-among-many-descriptors", {});
+    QVERIFY(!ran.crashed);
+    if (ran.exitCode == kNotRefused) QSKIP("this kernel bounds no descriptors under way");
+    if (ran.exitCode == kTooManyOfOthers) QSKIP("other programs keep too many descriptors under way");
+    QCOMPARE(ran.exitCode, 0);
   }
 
   void sendingStopsAtTheDeadline() {

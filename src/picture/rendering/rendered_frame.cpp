@@ -1,7 +1,5 @@
 #include "picture/rendering/rendered_frame.h"
 
-#include "picture/rendering/rendered_layer.h"
-
 namespace norvex {
 namespace {
 
@@ -33,12 +31,13 @@ void RenderedFrame::add(const RenderedLayer& layer) {
   missing_ -= layer.mappedRegion(toDevice, kNearEnough, missing_);
 }
 
-void RenderedFrame::paint(QPainter& painter) const {
+void RenderedFrame::paint(QPainter& painter, Sampling sampling) const {
   for (const Part& part : parts_) {
     if (part.exact)
       part.layer->paintExactly(painter, part.layer->offset(transform_), part.region);
     else
-      part.layer->paintMapped(painter, part.layer->transform().inverted() * transform_, part.region);
+      part.layer->paintMapped(painter, part.layer->transform().inverted() * transform_, part.region,
+                              sampling);
   }
 }
 

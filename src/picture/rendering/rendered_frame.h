@@ -7,11 +7,11 @@
 #include <QSizeF>
 #include <QTransform>
 
+#include "picture/rendering/rendered_layer.h"
+
 class QPainter;
 
 namespace norvex {
-
-class RenderedLayer;
 
 /// From front to back it is decided who fills what, then it is painted from back to front: along their edges
 /// the layers overlap by a pixel instead of leaving one open. Device pixels, y down. The layers must outlive
@@ -27,7 +27,7 @@ class RenderedFrame {
   [[nodiscard]] int standIns() const { return int(parts_.size()) - exact_; }
 
   /// The painter's transform is the identity on device pixels.
-  void paint(QPainter& painter) const;
+  void paint(QPainter& painter, Sampling sampling = Sampling::Smooth) const;
 
  private:
   struct Part {

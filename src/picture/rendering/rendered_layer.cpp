@@ -115,8 +115,8 @@ void RenderedLayer::paintExactly(QPainter& painter, const QPoint& offset, const 
   }
 }
 
-void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevice,
-                                const QRegion& wanted) const {
+void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevice, const QRegion& wanted,
+                                Sampling sampling) const {
   const QTransform toPainter = layerToDevice * painter.transform();
   const double tilt = std::abs(layerToDevice.m12()), upright = std::abs(layerToDevice.m11());
   QList<const Piece*> visible;
@@ -125,7 +125,7 @@ void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevi
   if (tilt > upright / 2) prepareNextTurned(visible);
   painter.save();
   painter.setClipRegion(wanted, Qt::IntersectClip);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, sampling == Sampling::Smooth);
   for (const Piece* piece : std::as_const(visible)) {
     const QRect& rect = piece->rect;
     const bool turned = tilt > upright && piece->hasTurned();

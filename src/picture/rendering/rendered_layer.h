@@ -17,6 +17,10 @@ class QPainter;
 
 namespace norvex {
 
+/// How a scaled or turned bitmap is painted: between four of its pixels, or by the nearest one, which takes
+/// half as long.
+enum class Sampling { Smooth, Nearest };
+
 /// Layer coordinates: device pixels under transform(), y down; its translation is below one pixel, so that a
 /// layer stays where it is while the view scrolls. A value; the bitmaps are shared. One thread at a time.
 class RenderedLayer {
@@ -45,7 +49,8 @@ class RenderedLayer {
   /// Pixel for pixel. `wanted` in device pixels.
   void paintExactly(QPainter& painter, const QPoint& offset, const QRegion& wanted) const;
   /// Scaled or turned.
-  void paintMapped(QPainter& painter, const QTransform& layerToDevice, const QRegion& wanted) const;
+  void paintMapped(QPainter& painter, const QTransform& layerToDevice, const QRegion& wanted,
+                   Sampling sampling = Sampling::Smooth) const;
   /// The pixels of `within` that paintMapped() fills, each bitmap grown by `margin` device pixels.
   [[nodiscard]] QRegion mappedRegion(const QTransform& layerToDevice, double margin,
                                      const QRegion& within) const;

@@ -18,7 +18,8 @@ constexpr int kMaximumFailures = 3;
 constexpr int kMaximumBlocked = 32;
 constexpr int kMaximumRects = 4;  // every rectangle costs a walk through the whole picture
 constexpr int kRestMilliseconds = 150;
-constexpr int kMaximumJobSide = 4096;  // pixels
+constexpr int kLongFrameMilliseconds = 6;  // beyond, a window does not keep up with its screen
+constexpr int kMaximumJobSide = 4096;      // pixels
 
 qint64 pixels(const QRect& rect) {
   return qint64(rect.width()) * rect.height();
@@ -51,7 +52,7 @@ RenderedPicture::RenderedPicture(std::shared_ptr<PictureProcess> process, int pa
           std::move(process), [this] { QMetaObject::invokeMethod(this, "collect", Qt::QueuedConnection); },
           options.clock) {
   restTimer_.setSingleShot(true);
-  connect(&restTimer_, &QTimer::timeout, this, &RenderedPicture::plan);
+  connect(&restTimer_, &QTimer::timeout, this, &RenderedPicture::rest);
   staleTimer_.setSingleShot(true);
   connect(&staleTimer_, &QTimer::timeout, this, &RenderedPicture::plan);
 }
@@ -133,7 +134,9 @@ void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& 
   painter.save();
   painter.setWorldTransform(QTransform());
   painter.setWorldTransform(painter.deviceTransform().inverted());
-  frame.paint(painter);
+  const qint64 begun = options_.clock();
+  frame.paint(painter, isInHurry_ ? Sampling::Nearest : Sampling::Smooth);
+  if (restTimer_.isActive() && options_.clock() - begun > kLongFrameMilliseconds) isInHurry_ = true;
   painter.restore();
 }
 
@@ -165,6 +168,12 @@ QRect RenderedPicture::wantedRect(const View& view, bool withMargin) const {
     rect &= middle;
   }
   return snapped(rect, options_.tile) & view.box;
+}
+
+void RenderedPicture::rest() {
+  const bool wasInHurry = std::exchange(isInHurry_, false);
+  plan();
+  if (wasInHurry) emit rendered();
 }
 
 void RenderedPicture::plan() {

@@ -46,7 +46,8 @@ class RenderedPicture final : public QObject {
   ~RenderedPicture() override;
 
   /// Paints what there is, sharp where it is sharp. Respects the painter's clip, ignores its transform. Asks
-  /// nothing.
+  /// nothing. While the view moves, and once a frame of that movement has taken long, what is scaled or
+  /// turned is painted by its nearest pixels.
   void draw(QPainter& painter, const QTransform& pictureToDevice, const QRect& visibleDeviceRect);
   /// Makes this the current view. Cheap when nothing is missing, so it may follow every draw().
   void request(const QTransform& pictureToDevice, const QRect& visibleDeviceRect);
@@ -65,7 +66,7 @@ class RenderedPicture final : public QObject {
   [[nodiscard]] qint64 cacheBytes() const;
 
  signals:
-  /// A bitmap arrived.
+  /// A bitmap arrived, or the view rests after frames that were painted in a hurry.
   void rendered();
   /// A part of the current view failed; error() tells it until retry() or another view succeeds.
   void failed(const norvex::Error& error);
@@ -90,6 +91,7 @@ class RenderedPicture final : public QObject {
   [[nodiscard]] QList<const RenderedLayer*> nearestLayers(const QTransform& pictureToDevice) const;
   [[nodiscard]] const Blocked* blockFor(const QTransform& transform) const;
   [[nodiscard]] QRect wantedRect(const View& view, bool withMargin) const;
+  void rest();
   void plan();
   void planVisible(QList<RenderJob>& jobs);
   void planOverview(QList<RenderJob>& jobs);
@@ -112,9 +114,10 @@ class RenderedPicture final : public QObject {
   bool overviewFailed_ = false;
   int failuresInARow_ = 0;
   quint64 lastId_ = 0;
-  QTimer restTimer_;   ///< runs while the view moves
-  QTimer staleTimer_;  ///< ends the queue's patience with a job that runs in vain
-  RenderQueue queue_;  ///< last: its thread must end before the rest goes
+  bool isInHurry_ = false;  ///< a frame took long since the view began to move
+  QTimer restTimer_;        ///< runs while the view moves
+  QTimer staleTimer_;       ///< ends the queue's patience with a job that runs in vain
+  RenderQueue queue_;       ///< last: its thread must end before the rest goes
 };
 
 }  // namespace norvex

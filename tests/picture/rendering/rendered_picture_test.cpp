@@ -6,6 +6,7 @@
 
 #include "base/background_threads.h"
 #include "base/background_work.h"
+#include <atomic>
 #include "kit/test_main.h"
 #include "picture/process/memory_picture_service.h"
 #include "picture/process/null_picture_service.h"
@@ -71,7 +72,8 @@ double nearPixels(const QImage& frame, const QImage& sharp) {
 struct Fixture {
   explicit Fixture(const QSizeF& pageSize, RenderedPictureOptions options = {}, MemoryPicture memory = {})
       : size(pageSize) {
-    options.clock = [] { return 0; };  // opening took no time: what is stale is cancelled at once
+    // Opening took no time: what is stale is cancelled at once.
+    options.clock = [clock = clock] { return clock->now += clock->step; };
     memory.facts.pageBounds = {QRectF(QPointF(), size)};
     process = std::make_shared<MemoryPictureProcess>(QByteArray(), memory);
     picture = std::make_unique<RenderedPicture>(process, 0, size, options);
@@ -106,6 +108,11 @@ struct Fixture {
   }
   int renders() const { return process->calls(PictureCall::Render); }
 
+  /// What every look at the clock takes, and what it shows.
+  struct Clock {
+    std::atomic<qint64> step = 0, now = 0;
+  };
+  std::shared_ptr<Clock> clock = std::make_shared<Clock>();
   QSizeF size;
   std::shared_ptr<MemoryPictureProcess> process;
   std::unique_ptr<RenderedPicture> picture;
@@ -529,6 +536,37 @@ class RenderedPictureTest : public QObject {
     painter.end();
     frame.setDevicePixelRatio(1);
     QCOMPARE(frame, f.reference(t));
+  }
+
+  void aMovementWithLongFramesIsPaintedByNearestPixelsUntilItRests() {
+    const Fixture f(kSmall);
+    const QTransform upright = placed(kSmall, 1.5, 0, {150, 100}),
+                     turned = placed(kSmall, 1.5, 40, {150, 100});
+    const QTransform between = placed(kSmall, 1.5, 25, {150, 100});
+    for (const QTransform& each : {upright, turned}) QVERIFY(f.becomesSharp(each));
+    QVERIFY(f.becomesIdle());
+    const QImage smooth = f.draw(between);
+    QSignalSpy rested(f.picture.get(), &RenderedPicture::rendered);
+    f.picture->request(upright, kVisible);
+    f.clock->step = 7;
+    QCOMPARE(f.draw(between), smooth);  // nothing has taken long before it
+    const QImage hurried = f.draw(between);
+    QVERIFY(hurried != smooth);
+    QCOMPARE(blankPixels(hurried, between, kSmall), 0);
+    QVERIFY(rested.wait(20000));
+    for (int still = 0; still < 3; ++still) QCOMPARE(f.draw(between), smooth);
+  }
+
+  void aMovementWhoseFramesAreShortStaysSmooth() {
+    const Fixture f(kSmall);
+    const QTransform upright = placed(kSmall, 1.5, 0, {150, 100}),
+                     turned = placed(kSmall, 1.5, 40, {150, 100});
+    QVERIFY(f.becomesSharp(upright));
+    QVERIFY(f.becomesIdle());
+    const QImage smooth = f.draw(turned);
+    f.picture->request(placed(kSmall, 1.5, 0, {151, 100}), kVisible);
+    f.clock->step = 6;
+    for (int frame = 0; frame < 3; ++frame) QCOMPARE(f.draw(turned), smooth);
   }
 
   void thePaintersClipIsRespected() {

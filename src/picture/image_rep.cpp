@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/background_work.h"
+#include "picture/first_image.h"
 #include "picture/rendering/rendered_picture.h"
 #include "protocol/limits.h"
 
@@ -48,6 +49,7 @@ void NSImageRep::deleteInItsThread(NSImageRep* rep) {
 RenderedPicture& NSImageRep::rendered() {
   if (!rendered_) {
     rendered_ = std::make_unique<RenderedPicture>(process_, page_, size());
+    rendered_->showFirst(firstImageOf(*this));
     connect(rendered_.get(), &RenderedPicture::rendered, this, &NSImageRep::renderingArrived);
     connect(rendered_.get(), &RenderedPicture::failed, this, &NSImageRep::renderingFailed);
   }

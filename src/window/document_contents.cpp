@@ -1,10 +1,14 @@
 #include "window/document_contents.h"
 
+#include <QVariant>
+
 #include "metadata/dos_eps_header.h"
 #include "metadata/source_text.h"
+#include "picture/bitmap_image.h"
 #include "picture/chosen_document.h"
 #include "picture/document_file.h"
 #include "picture/eps_image_rep.h"
+#include "picture/first_image.h"
 #include "picture/open_picture.h"
 #include "picture/pdf_image_rep.h"
 #include "picture/picture_header.h"
@@ -53,6 +57,16 @@ struct Reader {
                                       return *preview;
                                     });
     takeMetafile();
+    showPreviewFirst();
+  }
+
+  /// While a program is drawn, which may take long, its preview is seen.
+  void showPreviewFirst() {
+    const QVariant preview = contents.header.value(header::Preview);
+    if (preview.canConvert<NSBitmapImageRep>())
+      showFirst(*contents.imageRep, toImage(preview.value<NSBitmapImageRep>()));
+    else if (contents.metafile)
+      showFirst(*contents.imageRep, toImage(contents.metafile->image));
   }
 
   /// One that cannot be drawn is none: the picture is shown in its place.

@@ -15,6 +15,7 @@
 #include "metadata/binary_eps.h"
 #include "picture/bitmap_image.h"
 #include "picture/eps_image_rep.h"
+#include "picture/first_image.h"
 #include "picture/pdf_image_rep.h"
 #include "picture/web_image_rep.h"
 #include "ui/controls/color_well.h"
@@ -235,6 +236,8 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.previewImageView()->compositingOperation(), 2);
     QCOMPARE(c.previewImageView()->image().size(), QSize(4, 3));
     QVERIFY(!c.previewImageView()->imageRep());
+    QCOMPARE(firstImageOf(*c.view()->imageRep()).size(),
+             QSize(4, 3));  // and in the picture's place before it
   }
 
   void aFileWithoutPreviewShowsThePictureItself() {
@@ -243,6 +246,7 @@ class MainWindowLoadingTest : public QObject {
     QCOMPARE(c.previewField->text(), QStringLiteral("Image"));
     QCOMPARE(c.previewImageView()->imageFrameStyle(), 255);
     QCOMPARE(c.previewImageView()->imageRep(), c.view()->imageRep());
+    QVERIFY(firstImageOf(*c.view()->imageRep()).isNull());
   }
 
   void anSvgPreviewComesWithItsPdfForm() {

@@ -125,12 +125,20 @@ qint64 RenderedPicture::cacheBytes() const {
 // ---- drawing
 // --------------------------------------------------------------------------------------------------------
 
+void RenderedPicture::showFirst(const QImage& image) {
+  if (image.isNull() || size_.isEmpty()) return;
+  const double x = image.width() / size_.width(), y = image.height() / size_.height();
+  first_.emplace(QTransform(x, 0, 0, -y, 0, image.height()));
+  first_->add(image.rect(), image);
+}
+
 void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& visible) {
   if (!isUsable(t)) return;
   RenderedFrame frame(t, visible, size_);
   for (const RenderedLayer* layer : nearestLayers(t))
     if (frame.standIns() < kMaximumStandIns) frame.add(*layer);
   if (overview_) frame.add(*overview_);
+  if (first_) frame.add(*first_);
   painter.save();
   painter.setWorldTransform(QTransform());
   painter.setWorldTransform(painter.deviceTransform().inverted());
@@ -282,6 +290,7 @@ void RenderedPicture::finish(const RenderQueue::Finished& finished) {
 
 void RenderedPicture::store(const RenderJob& job, const QImage& image) {
   failuresInARow_ = 0;
+  first_.reset();
   if (!job.background) error_.reset();
   const QRect box = pixelRect(job.layer.mapRect(QRectF(QPointF(), size_)));
   const bool whole = job.rect == box;
@@ -303,6 +312,7 @@ void RenderedPicture::store(const RenderJob& job, const QImage& image) {
 }
 
 void RenderedPicture::fail(const RenderJob& job, const Error& error) {
+  first_.reset();
   if (job.overview) {
     overviewFailed_ = true;
   } else {

@@ -1,6 +1,7 @@
 // RenderedPicture: what is rendered of one page, so that a frame never waits for the picture process.
 #pragma once
 
+#include <QImage>
 #include <QList>
 #include <QObject>
 #include <QRect>
@@ -44,6 +45,10 @@ class RenderedPicture final : public QObject {
                   const RenderedPictureOptions& options = {});
   /// Cancels what is being rendered and waits for its end.
   ~RenderedPicture() override;
+
+  /// Lets `image`, if it is none that is null, fill the whole picture where nothing else does, until the
+  /// first bitmap is there or a rendering has failed. It makes no view sharp.
+  void showFirst(const QImage& image);
 
   /// Paints what there is, sharp where it is sharp. Respects the painter's clip, ignores its transform. Asks
   /// nothing. While the view moves, and once a frame of that movement has taken long, what is scaled or
@@ -107,6 +112,7 @@ class RenderedPicture final : public QObject {
   const RenderedPictureOptions options_;
   QList<RenderedLayer> layers_;  ///< the one that was used last stands first
   std::optional<RenderedLayer> overview_;
+  std::optional<RenderedLayer> first_;  ///< until there is a layer
   std::optional<View> view_;
   QList<RenderJob> outstanding_;
   QList<Blocked> blocked_;

@@ -249,6 +249,22 @@ class MainWindowPrintTest : public QObject {
     QCOMPARE(fixture.spooler.jobs().size(), 1);
   }
 
+  void closingTheWindowInItsPrintPanelAsksNothingAndPrintsNothing() {
+    PrintFixture fixture;
+    MainWindowController& c = fixture.load("a.eps");
+    c.window()->show();
+    QSignalSpy closed(&fixture.document, &Document::closed);
+    bool wentAtOnce = true;
+    fixture.people.printsFromPanel = false;
+    fixture.people.onPanel = [&](NSPrintOperation&) { wentAtOnce = c.window()->close(); };
+    c.printDocument();
+    QVERIFY(!wentAtOnce);  // what shows the panel is the window's
+    QVERIFY(c.closesWhenDone());
+    QTRY_COMPARE_WITH_TIMEOUT(closed.size(), 1, 20000);
+    QVERIFY(fixture.alerts.shown.isEmpty());
+    QVERIFY(fixture.spooler.jobs().isEmpty());
+  }
+
   void theQuestionGoesWhenThereIsNothingLeftToAsk_data() {
     QTest::addColumn<bool>("fails");
     QTest::newRow("it is printed") << false;

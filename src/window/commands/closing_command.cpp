@@ -21,7 +21,11 @@ bool ClosingCommand::wouldLoseWork() const {
 }
 
 bool ClosingCommand::closesLater() {
-  if (!wouldLoseWork()) return false;
+  if (!wouldLoseWork()) {
+    // What showed the print panel runs until the panel is answered, and the window goes after that.
+    closesWhenDone_ = printing_.isAsking();
+    return closesWhenDone_;
+  }
   if (asking_) return true;
   enum Answer { WhenFinished, StopIt, KeepOpen };
   Alert question;
@@ -55,7 +59,7 @@ void ClosingCommand::stay() {
 }
 
 void ClosingCommand::closeIfDone() {
-  if (wouldLoseWork()) return;
+  if (wouldLoseWork() || printing_.isAsking()) return;
   if (asking_ && dismiss_ && !std::exchange(answered_, true)) dismiss_();
   if (!closesWhenDone_ || asking_) return;
   QTimer::singleShot(0, this, [this] {

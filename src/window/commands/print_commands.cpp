@@ -1,5 +1,6 @@
 #include "window/commands/print_commands.h"
 
+#include <QScopedValueRollback>
 #include <QThread>
 
 #include <algorithm>
@@ -91,6 +92,7 @@ void PrintCommands::run(std::unique_ptr<NSPrintOperation> operation) {
   // Queued: the operation must not be destroyed from inside its own runOperation().
   connect(
       running, &NSPrintOperation::finished, this, [this, running] { drop(running); }, Qt::QueuedConnection);
+  const QScopedValueRollback<std::size_t> asking(inPanels_, inPanels_ + 1);
   running->runOperation();
 }
 

@@ -6,6 +6,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -38,7 +39,9 @@ class PrintCommands final : public QObject {
   /// Runs the operation and keeps it as long as it takes. Null is nothing.
   void run(std::unique_ptr<NSPrintOperation> operation);
   /// True if a job is under way, or its picture is being made.
-  [[nodiscard]] bool isPrinting() const { return preparing_ != nullptr || !operations_.empty(); }
+  [[nodiscard]] bool isPrinting() const { return preparing_ != nullptr || operations_.size() > inPanels_; }
+  /// True if somebody is asked in a panel what is to be printed: nothing is under way for that yet.
+  [[nodiscard]] bool isAsking() const { return inPanels_ > 0; }
   void cancelAll();
 
  signals:
@@ -69,6 +72,7 @@ class PrintCommands final : public QObject {
   std::unique_ptr<Preparing> preparing_;
   std::vector<std::unique_ptr<NSPrintOperation>> operations_;
   std::vector<CancelToken> cancels_;  ///< of the operations, in the same order
+  std::size_t inPanels_ = 0;          ///< so many of them
 };
 
 }  // namespace norvex

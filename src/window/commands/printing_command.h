@@ -30,6 +30,8 @@ class PrintingCommand final : public QObject {
   void printWhole();
   void runPageLayout();
   [[nodiscard]] bool isPrinting() const { return jobs_ && jobs_->isPrinting(); }
+  /// A print panel is on the screen.
+  [[nodiscard]] bool isAsking() const { return jobs_ && jobs_->isAsking(); }
   void cancelAll();
   /// Cancels everything and waits for its end: the window goes.
   void end() { jobs_.reset(); }

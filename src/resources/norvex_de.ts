@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>The pages become a PDF file.</source>
-        <translation>Die Seiten werden eine PDF-Datei.</translation>
+        <translation>Die Seiten werden als eine PDF-Datei geschrieben.</translation>
     </message>
     <message>
         <source>There is no printer.</source>
@@ -1345,7 +1345,7 @@
     </message>
     <message>
         <source>Still working: wait, or stop and show what there is.</source>
-        <translation>Noch in Arbeit: Sie können warten, oder anhalten und sehen, was schon da ist.</translation>
+        <translation>Noch in Arbeit: Sie können warten oder anhalten und sehen, was schon da ist.</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>The size has no unit, or there is none</source>
-        <translation>Die Größe hat keine Einheit, oder es gibt keine</translation>
+        <translation>Die Größe hat keine Einheit oder fehlt</translation>
     </message>
     <message>
         <source>Scripts and animations are not run</source>
@@ -2734,11 +2734,11 @@
     </message>
     <message>
         <source>the glyphs of the document's fonts nest more than %1 deep</source>
-        <translation>Die Zeichen der Schriften des Dokuments sind tiefer als %1 verschachtelt.</translation>
+        <translation>Die Glyphen der Schriften des Dokuments sind tiefer als %1 verschachtelt.</translation>
     </message>
     <message>
         <source>the glyphs of the document's fonts show more than %1 others</source>
-        <translation>Die Zeichen der Schriften des Dokuments zeigen mehr als %1 andere.</translation>
+        <translation>Die Glyphen der Schriften des Dokuments zeigen mehr als %1 andere.</translation>
     </message>
     <message>
         <source>the document uses entities more than %1 times</source>

@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>The pages become a PDF file.</source>
-        <translation>Les pages deviennent un fichier PDF.</translation>
+        <translation>Les pages sont écrites dans un fichier PDF.</translation>
     </message>
     <message>
         <source>There is no printer.</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Norvex ended unexpectedly the last time.</source>
-        <translation>La dernière fois, Norvex s’est terminé de façon inattendue.</translation>
+        <translation>La dernière fois, Norvex s’est arrêté de façon inattendue.</translation>
     </message>
     <message>
         <source>“%1” was open then, and may be the reason.</source>

@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTextBrowser>
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
@@ -66,6 +67,16 @@ QString styleFor(const QPalette& palette) {
 
 }  // namespace
 
+/// Rows with room between them. A list's own spacing makes its rows narrower when it lays them out than when
+/// it paints them: a title that fits in the one and not in the other lost its second line.
+class RoomyRows final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
+  }
+};
+
 QStringList manualPages() {
   const QDir folder(languageFolder());
   QStringList pages;
@@ -85,7 +96,8 @@ ManualWindow::ManualWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   topics_->setAccessibleName(localizedString("Topics"));
   topics_->setFrameShape(QFrame::NoFrame);
   topics_->setWordWrap(true);
-  topics_->setSpacing(2);
+  topics_->setResizeMode(QListView::Adjust);
+  topics_->setItemDelegate(new RoomyRows(topics_));
   page_ = new QTextBrowser(this);
   page_->setAccessibleName(localizedString("Page of the manual"));
   page_->setFrameShape(QFrame::NoFrame);

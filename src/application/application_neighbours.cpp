@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenu>
-#include <QScreen>
 
 #include <algorithm>
 #include <optional>
@@ -15,18 +14,6 @@
 #include "document/document_window_controller.h"
 
 namespace norvex {
-namespace {
-
-/// The contents of a window moved so that none of them, as far as there is room, lie beside its screen.
-QRect onItsScreen(QRect contents, const QWidget& window) {
-  const QRect screen = window.screen()->availableGeometry();
-  contents.moveLeft(std::max(screen.left(), std::min(contents.left(), screen.right() - contents.width())));
-  contents.moveTop(std::max(screen.top(), std::min(contents.top(), screen.bottom() - contents.height())));
-  return contents;
-}
-
-}  // namespace
-
 void DocumentApplication::addNeighbours(QMainWindow* window) {
   auto* menu = window->findChild<QMenu*>(QStringLiteral("goMenu"));
   if (!menu) return;
@@ -55,14 +42,11 @@ void DocumentApplication::showNeighbour(QMainWindow* window, int step) {
 void DocumentApplication::replaceWindow(Document* document) {
   const QPointer<QMainWindow> old = replaced_.take(document->fileURL());
   if (!old) return;
-  // Of the contents: what the desktop draws around the new window is not known yet.
-  const QPoint place = old->geometry().topLeft();
   const bool fills = old->isFullScreen(), isMaximized = old->isMaximized();
   old->close();
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     if (!qobject_cast<QMainWindow*>(widget) || widget->windowFilePath() != document->fileURL().toLocalFile())
       continue;
-    if (!fills && !isMaximized) widget->setGeometry(onItsScreen({place, widget->size()}, *widget));
     if (isMaximized) widget->showMaximized();
     auto* fullScreen = widget->findChild<QAction*>(QStringLiteral("fullScreenAction"));
     if (fills && fullScreen && !fullScreen->isChecked()) fullScreen->trigger();

@@ -120,6 +120,7 @@ void DocumentApplication::documentWillShow(Document* document) {
   std::optional<PictureView> view = keeper_.view(document->fileURL());
   if (DocumentWindowController* const before = shownBefore(document->fileURL())) {
     before->rememberFrame();
+    if (const std::optional<QPoint> corner = before->cornerToHandOn()) controller->takePlace(*corner);
     const std::optional<PictureView> shown = before->pictureView();
     // Fitting was chosen for what this window shows, picture after picture; a zoom was chosen for one.
     if (shown && shown->fit != KeptFit::Nothing) {

@@ -2,6 +2,8 @@
 // that nothing in this folder includes a window's header.
 #pragma once
 
+#include <QPoint>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -39,6 +41,10 @@ class DocumentWindowController {
   [[nodiscard]] virtual std::optional<PictureView> pictureView() const { return {}; }
   /// The next window takes the size of this one, as if this had been closed.
   virtual void rememberFrame() {}
+  /// The upper left corner of its contents on the screen, for a window that takes its place.
+  [[nodiscard]] virtual std::optional<QPoint> cornerToHandOn() const { return {}; }
+  /// Takes the place of a window that goes; told before the window is loaded.
+  virtual void takePlace(const QPoint&) {}
   /// The picture shall be shown so when it has been read for the first time.
   virtual void setFirstView(const PictureView&) {}
   /// The file on disk is another one than was read, and is whole: offer to reload it, quietly.

@@ -23,13 +23,14 @@
 #include "ui/picture/zy_image_view.h"
 #include "ui/style/window_style.h"
 #include "ui_MainWindowController.h"
-#include "window/commands/window_frames.h"
 #include "window/document_contents.h"
 #include "window/inspector_pages.h"
+#include "window/place/window_frames.h"
 #include "window/reading/layers_command.h"
 #include "window/reading/password_command.h"
 #include "window/selection_description.h"
 #include "window/viewing/live_file.h"
+#include "window/viewing/sticky_fit.h"
 
 namespace norvex {
 
@@ -177,19 +178,23 @@ void MainWindowController::take(const DocumentContents& contents, bool again) {
     findChild<LiveFile*>()->documentDidStay();
     findChild<LayersCommand*>()->documentDidStay();
   }
-  // Nothing has failed yet: the window keeps its size for the picture.
-  if (contents.error && passwords->take(*contents.error)) return finishSetUp();
+  if (contents.error && passwords->take(*contents.error)) {
+    if (!validateUserInterfaceItem())
+      commands_.shownView.reset();  // as large as any window without a picture
+    return finishSetUp();
+  }
   if (stays)
     return commands_.messages.pictureStays(contents.error.value_or(Error{ErrorKind::CannotRead, {}}));
   if (contents.imageRep) passwords->documentDidOpen();
   const bool comesBack = findChild<LiveFile*>()->comesBack();
+  if (contents.imageRep) commands_.sizing.pictureComes();
   commands_.sizing.hold();
   commands_.controls.setUp();
   showContents(contents);
   finishSetUp();
   commands_.shownView.takeFirst();
   if (!comesBack) commands_.sizing.release();
-  commands_.sizing.firstPictureIsShown();
+  commands_.sizing.firstPictureIsShown(findChild<StickyFit*>()->kept() != KeptFit::Nothing);
   if (!again) tell(contents.lost);
   emit documentShown();
   if (comesBack) commands_.sizing.release();

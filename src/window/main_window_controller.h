@@ -50,6 +50,10 @@ class MainWindowController final : public QObject,
   [[nodiscard]] NorvexView* imageView() override { return view(); }
   [[nodiscard]] std::optional<PictureView> pictureView() const override { return commands_.shownView.now(); }
   void rememberFrame() override { commands_.sizing.saveFrame(); }
+  [[nodiscard]] std::optional<QPoint> cornerToHandOn() const override {
+    return isWindowLoaded() ? std::optional(commands_.sizing.cornerToHandOn()) : std::nullopt;
+  }
+  void takePlace(const QPoint& corner) override { commands_.sizing.takePlace(corner); }
   void setFirstView(const PictureView& view) override { commands_.shownView.setFirst(view); }
 
   /// Loads the interface file on the first call; does not show it and does not read the document.

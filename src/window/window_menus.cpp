@@ -20,7 +20,7 @@
 #include "ui/style/symbolic_icon.h"
 #include "ui_MainWindowController.h"
 #include "window/about_box.h"
-#include "window/commands/window_frames.h"
+#include "window/place/window_frames.h"
 #include "window/export/export_command.h"
 #include "window/main_window_controller.h"
 #include "window/selection_commands.h"

@@ -54,13 +54,15 @@ class XSession {
  public:
   /// What is missing here for a session; empty when nothing is.
   static QString missing() {
-    for (const char* program : {"Xvfb", "openbox", "xdotool", "xclip", "import"})
+    for (const char* program : {"Xvfb", "openbox", "xdotool", "xwininfo", "xprop", "xclip", "import"})
       if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty()) return QLatin1String(program);
     return {};
   }
 
-  XSession() {
-    server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1600x1100x24", "-nolisten", "tcp"});
+  /// `manager` empty: no window manager.
+  explicit XSession(const QSize& size = {1600, 1100}, const QString& manager = QStringLiteral("openbox")) {
+    const QString screen = QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height());
+    server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp"});
     while (server_.waitForReadyRead(20000) && !server_.canReadLine()) continue;
     environment_ = QProcessEnvironment::systemEnvironment();
     environment_.insert("DISPLAY", u':' + QString::fromLatin1(server_.readLine().trimmed()));
@@ -71,13 +73,18 @@ class XSession {
       environment_.insert(QLatin1String(name), home_.path());
     for (const char* name : {"WAYLAND_DISPLAY", "QT_STYLE_OVERRIDE"})
       environment_.remove(QLatin1String(name));
-    manager_.setProcessEnvironment(environment_);
-    manager_.start("openbox", {});
-    waitUntil([this] { return run("xdotool", {"get_desktop"}).exitCode == 0; });
+    if (!manager.isEmpty()) startManager(manager);
   }
   ~XSession() {
     for (QProcess* process : {&program_, &manager_, &server_}) end(*process);
   }
+  void startManager(const QString& program) {
+    manager_.setProcessEnvironment(environment_);
+    manager_.start(program, {});
+    waitUntil([this] { return run("xdotool", {"get_desktop"}).exitCode == 0; });
+  }
+  /// For programs that are started from now on.
+  void setEnvironment(const QString& name, const QString& value) { environment_.insert(name, value); }
   XSession(const XSession&) = delete;
   XSession& operator=(const XSession&) = delete;
 
@@ -109,6 +116,15 @@ class XSession {
     home.removeRecursively();
     home.mkpath(QStringLiteral("."));
   }
+  /// Ends the program as its user does, and keeps what it remembered.
+  bool quit() {
+    key("ctrl+q");
+    const bool ended = program_.waitForFinished(20000);
+    program_.readAll();
+    return ended;
+  }
+  /// Where the program keeps what it remembers.
+  QString home() const { return home_.path(); }
   /// Waits for the window and gives it the keyboard.
   bool activate(const QString& title) {
     QStringList windows;
@@ -134,6 +150,26 @@ class XSession {
       return form.match(said).captured(1).toInt();
     };
     return {number("X"), number("Y"), number("WIDTH"), number("HEIGHT")};
+  }
+  /// Where it is with all that the window manager draws around it.
+  QRect frameRect(const QString& title) {
+    const QString window = windowsOf(title).value(0);
+    const auto numbers = [&](const QString& program, const QStringList& arguments, const char* form) {
+      const QRegularExpression looked(QLatin1String(form), QRegularExpression::DotMatchesEverythingOption);
+      const QRegularExpressionMatch found =
+          looked.match(QString::fromLatin1(run(program, QStringList{"-id", window} + arguments).out));
+      QList<int> values;
+      for (int i = 1; i <= 4; ++i) values << found.captured(i).toInt();  // 0 where nothing is told
+      return values;
+    };
+    // What xdotool tells of a window in a frame is off by the frame.
+    const QList<int> inside = numbers(
+        "xwininfo", {},
+        "upper-left X: +(-?[0-9]+).*?upper-left Y: +(-?[0-9]+).*?Width: +([0-9]+).*?Height: +([0-9]+)");
+    const QList<int> edges =
+        numbers("xprop", {"_NET_FRAME_EXTENTS"}, "= ([0-9]+), ([0-9]+), ([0-9]+), ([0-9]+)");
+    return QRect(inside[0], inside[1], inside[2], inside[3])
+        .marginsAdded({edges[0], edges[2], edges[1], edges[3]});
   }
   /// Types into one field of the window's inspector after the other, found with Tab as a user without a mouse
   /// would, until `done` holds; whether it did. The inspector comes and goes beside the window.

@@ -6,7 +6,7 @@
 
 #include "kit/test_main.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "window/commands/window_frames.h"
+#include "window/place/window_frames.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;

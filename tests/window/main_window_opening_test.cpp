@@ -9,7 +9,6 @@
 #include "ui/picture/message_bar.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "window/commands/window_frames.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -295,22 +294,6 @@ class MainWindowOpeningTest : public QObject {
     // The next one does not hide it.
     MainWindowController third;
     QCOMPARE(third.window()->pos(), QPoint(125, 107));
-  }
-
-  void aFrameIsNeverOffTheScreen_data() {
-    QTest::addColumn<QRect>("saved");
-    QTest::addColumn<QRect>("placed");
-    QTest::newRow("on the first") << QRect(10, 20, 300, 200) << QRect(10, 20, 300, 200);
-    QTest::newRow("on the second") << QRect(1100, 100, 300, 200) << QRect(1100, 100, 300, 200);
-    QTest::newRow("over the right edge") << QRect(1700, 650, 300, 200) << QRect(1500, 500, 300, 200);
-    QTest::newRow("between both, more on the first") << QRect(800, 20, 300, 200) << QRect(700, 20, 300, 200);
-    QTest::newRow("on a screen that is gone") << QRect(3000, -900, 300, 200) << QRect(1500, 0, 300, 200);
-    QTest::newRow("left of everything") << QRect(-900, 300, 300, 200) << QRect(0, 300, 300, 200);
-    QTest::newRow("larger than the screen") << QRect(-50, -60, 2000, 2000) << QRect(0, 0, 1000, 800);
-  }
-  void aFrameIsNeverOffTheScreen() {
-    QFETCH(QRect, saved);
-    QTEST(placedOnScreens(saved, {QRect(0, 0, 1000, 800), QRect(1000, 0, 800, 700)}), "placed");
   }
 };
 

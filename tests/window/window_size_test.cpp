@@ -1,4 +1,5 @@
 // The window-size rule on a real window.
+#include <QAction>
 #include <QScreen>
 #include <QScrollBar>
 #include <QToolBar>
@@ -8,7 +9,7 @@
 #include "kit/test_main.h"
 #include "ui/pages/page_switch.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "window/commands/window_frames.h"
+#include "window/place/window_frames.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -42,6 +43,7 @@ class WindowSizeTest : public QObject {
   }
   /// Its document takes longer than the window waits for it.
   static MainWindowController& shownWithoutPicture(WindowFixture& fixture) {
+    saveFrameMargins({});  // as it is here: no guess is right for a while only
     setPage(fixture, kLate);
     fixture.service.setPrepare([](MemoryPictureProcess& process) { process.hold(PictureCall::Facts); });
     MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
@@ -176,6 +178,7 @@ class WindowSizeTest : public QObject {
     saveWindowFrame("MainWindowController", QRect(40, 50, 640, 660));
     MainWindowController& c = shownWithoutPicture(fixture);
     const QRect screen = c.window()->screen()->availableGeometry();
+    QTest::qWait(400);  // nobody takes it anywhere while it comes up
     c.window()->setGeometry(QRect(QPoint(screen.left() + 90, screen.bottom() - 200), c.window()->size()));
     const QRect before = c.window()->geometry();
     letPictureCome(fixture, c);
@@ -270,6 +273,83 @@ class WindowSizeTest : public QObject {
     const QRect after = c.window()->geometry();
     QVERIFY(after.height() < before.height());
     QCOMPARE(after.bottomLeft(), before.bottomLeft());
+  }
+
+  void aWindowWithoutAPictureIsAsSmallWhateverItLacks_data() {
+    QTest::addColumn<int>("why");
+    QTest::newRow("broken") << int(ErrorKind::NotParsable);
+    QTest::newRow("asks for a password") << int(ErrorKind::Encrypted);
+  }
+  void aWindowWithoutAPictureIsAsSmallWhateverItLacks() {
+    QFETCH(int, why);
+    WindowFixture fixture;
+    saveWindowFrame("MainWindowController", QRect(40, 50, 640, 660));
+    setPage(fixture, {1200, 1200});
+    fixture.service.setPrepare([why](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Facts, {ErrorKind(why), "no picture"});
+    });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.showWindow();
+    QTRY_VERIFY(!c.isReading());
+    QTRY_COMPARE(c.window()->width(), c.window()->minimumWidth());
+    const QPoint corner = c.window()->geometry().topLeft();
+    // Its first picture has the room that any other would have.
+    fixture.service.setPrepare({});
+    fixture.revert();
+    QTRY_COMPARE(c.window()->size(), QSize(640, 660));
+    QCOMPARE(c.window()->geometry().topLeft(), corner);
+    c.window()->close();
+    QCOMPARE(savedWindowFrame("MainWindowController").size(), QSize(640, 660));
+  }
+
+  void aWindowThatTheUserSizedKeepsThatForItsFirstPicture() {
+    WindowFixture fixture;
+    setPage(fixture, {1200, 1200});
+    fixture.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Facts, {ErrorKind::NotParsable, "no picture"});
+    });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.showWindow();
+    QTRY_VERIFY(!c.isReading());
+    c.window()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    c.window()->resize(500, 480);
+    fixture.service.setPrepare({});
+    fixture.revert();
+    QCOMPARE(c.window()->size(), QSize(500, 480));
+  }
+
+  void whatAFullScreenLeavesIsNoChoice() {
+    WindowFixture fixture;
+    saveWindowFrame("MainWindowController", QRect(40, 50, 640, 660));
+    MainWindowController& c = fixture.open(epsOfSize(500, 300), "a.eps", NorvexEPSType);
+    c.showWindow();
+    QTRY_VERIFY(!c.isReading());
+    QTRY_VERIFY(c.window()->height() < 600);  // by the rule
+    c.window()->findChild<QAction*>("fitAction")->trigger();
+    auto* full = c.window()->findChild<QAction*>("fullScreenAction");
+    full->trigger();
+    QTRY_VERIFY(c.window()->isFullScreen());
+    QTest::qWait(50);
+    full->trigger();
+    QTRY_VERIFY(!c.window()->isFullScreen());
+    // On the way back a window manager gives it a size of its own making.
+    c.window()->resize(560, 520);
+    c.zoomingScrollView()->zoomTo(0.9);
+    c.window()->resize(500, 400);
+    QTest::qWait(400);
+    c.window()->close();
+    QCOMPARE(savedWindowFrame("MainWindowController").size(), QSize(640, 660));
+  }
+
+  void whatTheProgramShortensStaysOnTheScreen() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture, 600, 500);
+    const QRect screen = c.window()->screen()->availableGeometry();
+    c.window()->setGeometry(QRect(QPoint(60, screen.bottom() - 100), c.window()->size()));
+    c.zoomingScrollView()->zoomTo(0.75);
+    const QRect outside = c.window()->frameGeometry();
+    QVERIFY2(screen.contains(outside), qPrintable(QString::number(outside.bottom())));
+    QCOMPARE(c.window()->geometry().left(), 60);
   }
 
   void theRuleMeasuresAWindowThatWasNeverShown() {

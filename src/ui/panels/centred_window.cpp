@@ -6,7 +6,7 @@
 #include <QScreen>
 #include <QWidget>
 
-#include <algorithm>
+#include "ui/panels/window_place.h"
 
 namespace norvex {
 namespace {
@@ -19,17 +19,14 @@ constexpr QMargins kFrame(4, 32, 4, 6);
 void centreOver(QWidget& window, const QWidget* other) {
   const QScreen* screen = other ? other->screen() : QGuiApplication::primaryScreen();
   if (!screen) return;
-  const QRect room = screen->availableGeometry().marginsRemoved(kFrame);
-  QRect place(QPoint(0, 0), window.size().boundedTo(room.size()));
-  place.moveCenter(other ? other->frameGeometry().center() : room.center());
-  place.moveLeft(std::clamp(place.left(), room.left(), room.right() - place.width() + 1));
-  place.moveTop(std::clamp(place.top(), room.top(), room.bottom() - place.height() + 1));
-  window.setGeometry(place);
+  QRect place(QPoint(0, 0), window.size());
+  place.moveCenter(other ? other->frameGeometry().center() : roomOn(*screen).marginsRemoved(kFrame).center());
+  window.setGeometry(placedOnScreens(place, {{roomOn(*screen)}, kFrame}));
 }
 
 QSize fittingScreen(const QWidget& window, const QSize& wanted) {
   const QScreen* screen = window.screen();
-  return screen ? wanted.boundedTo(screen->availableGeometry().marginsRemoved(kFrame).size()) : wanted;
+  return screen ? wanted.boundedTo(roomOn(*screen).marginsRemoved(kFrame).size()) : wanted;
 }
 
 QSize sizeForTexts(const QWidget& window, const QSize& usual) {

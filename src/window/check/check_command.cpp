@@ -21,7 +21,7 @@
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/picture_mark.h"
 #include "ui/source/source_text_view.h"
-#include "window/commands/window_frames.h"
+#include "window/place/window_frames.h"
 #include "window/commands/window_parts.h"
 
 namespace norvex {

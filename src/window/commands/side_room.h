@@ -33,7 +33,7 @@ class SideRoom final {
   WindowParts& parts_;
   WindowSizingCommand& sizing_;
   std::function<void()> fit_;
-  QRect before_, grown_;  ///< the window, frame and all, when the panel came and with it
+  QRect before_, grown_;  ///< the window's contents when the panel came and with it
   int pictureBefore_ = 0;
 };
 

@@ -1,22 +1,21 @@
 #include "window/commands/window_sizing_command.h"
 
-#include <QApplication>
-#include <QCursor>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
-#include <QSettings>
-#include <QStandardPaths>
 #include <QTimer>
 #include <QToolBar>
 #include <QWindow>
 #include <QWindowStateChangeEvent>
 
+#include <cmath>
+#include <utility>
+
 #include "display/norvex_view.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "window/commands/window_frames.h"
 #include "window/commands/window_parts.h"
+#include "window/place/window_frames.h"
 
 namespace norvex {
 
@@ -36,23 +35,12 @@ QRect onScreen(const QRectF& rect, double ratio) {
           wholePixels(static_cast<int>(std::ceil(rect.width() - 1e-6)), ratio), wholePixels(height, ratio)};
 }
 
-QList<QRect> screenRects() {
-  QList<QRect> screens;
-  for (const QScreen* screen : QGuiApplication::screens()) screens << screen->availableGeometry();
-  return screens;
-}
-
-QList<QPoint> takenPlaces(const QWidget* but) {
-  QList<QPoint> taken;
-  for (const QWidget* other : QApplication::topLevelWidgets())
-    if (other != but && other->isVisible() && qobject_cast<const QMainWindow*>(other)) taken << other->pos();
-  return taken;
-}
-
 constexpr int kRestMs = 250;
-/// By which a window manager may set a window aside from where it was put; logical pixels, both ways
-/// together.
-constexpr int kSettles = 8;
+/// When the last of what a window manager does to a new window is done, though it be slow.
+constexpr int kSettledMs = 4 * kRestMs;
+/// Of a length, in logical pixels: what comes back from a window manager is rounded, and nobody chooses so
+/// little.
+constexpr int kSame = 2;
 
 /// True for a rectangle that takes all of the screen's height or width, or a quarter of it in a corner, as
 /// window managers arrange windows side by side; logical pixels.
@@ -108,16 +96,11 @@ QSizeF WindowSizingCommand::maxSize(const QSizeF& size) const {
 }
 
 void WindowSizingCommand::apply() {
-  if (!parts_.mainWindow() || held_) return;
-  if (parts_.mainWindow()->isFullScreen()) {
-    parts_.mainWindow()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    return;
-  }
-  if (!windowFitsPicture()) {
-    parts_.mainWindow()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    return;
-  }
-  const QRect before = parts_.mainWindow()->geometry();
+  if (!parts_.mainWindow() || held_ || restores_) return;
+  QMainWindow& window = *parts_.mainWindow();
+  if (window.isFullScreen() || !windowFitsPicture())
+    return window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  const QRect before = window.geometry();
   WindowMeasures found = measures();
   const QSizeF viewSize = parts_.view() ? parts_.view()->frame().size() : QSizeF(0, 0);
   // A window that is too low for the picture is never made higher, and has its scroll bar beside it.
@@ -125,22 +108,29 @@ void WindowSizingCommand::apply() {
   if (countsBar_) found.visibleArea.rwidth() -= ZoomingScrollArea::barExtent();
   const WindowSize rule = windowSize(found, viewSize, parts_.zoomFactor());
   // This platform's maximum counts the toolbar, the rule's does not.
-  const double ratio = parts_.mainWindow()->devicePixelRatioF();
+  const double ratio = window.devicePixelRatioF();
   const QSize most(limited(rule.maximum.width(), ratio),
                    limited(rule.maximum.height() + found.toolbarHeight, ratio));
   keepsTile_ = isTiled();
+  const bool awaits = awaits_ && placing_.isAsGiven();
   // A maximum that is less than the size would take the size along.
-  parts_.mainWindow()->setMaximumSize(keepsTile_ ? most.expandedTo(before.size()) : most);
+  window.setMaximumSize(keepsTile_ ? most.expandedTo(before.size()) : most);
   leaveRoomToTheUser();
-  if (rule.frame == found.frame || parts_.mainWindow()->isMaximized() || keepsTile_) return;
-  const QRect frame = onScreen(rule.frame, ratio);
-  if (before.size() != own_) chosen_ = before.size() - besidePicture();
+  if (rule.frame == found.frame || window.isMaximized() || keepsTile_) return;
+  QRect frame = onScreen(rule.frame, ratio);
+  frame.setSize(frame.size().boundedTo(before.size()));
+  if (!isOwn(before.size())) chosen_ = before.size() - besidePicture();
   own_ = frame.size();
   // Before the window is on the screen its place is the window manager's to choose.
-  if (!parts_.mainWindow()->isVisible())
-    parts_.mainWindow()->resize(frame.size());
-  else
-    parts_.mainWindow()->setGeometry(awaits_ ? placeOfLatePicture(before, frame.size()) : frame);
+  if (!window.isVisible()) return window.resize(frame.size());
+  placing_.give(awaits    ? placing_.placeFor(frame.size())
+                : awaits_ ? placing_.onScreen(QRect(before.topLeft(), frame.size()))
+                          : placing_.onScreen(frame));
+  if (!awaits) placing_.stay();
+}
+
+bool WindowSizingCommand::isOwn(const QSize& size) const {
+  return std::abs(size.width() - own_.width()) <= kSame && std::abs(size.height() - own_.height()) <= kSame;
 }
 
 void WindowSizingCommand::release() {
@@ -152,24 +142,24 @@ void WindowSizingCommand::release() {
   parts_.scrollArea()->setScrollOffset(parts_.scrollArea()->scrollOffset());
 }
 
-QRect WindowSizingCommand::placeOfLatePicture(const QRect& before, const QSize& size) {
-  const QMargins around = savedFrameMargins();
-  const bool isUntouched = placed_ && before.size() == placed_->size() &&
-                           (before.topLeft() - placed_->topLeft()).manhattanLength() <= kSettles;
-  if (!isUntouched)
-    return placedOnScreens(QRect(before.topLeft(), size).marginsAdded(around), screenRects())
-        .marginsRemoved(around);
-  // The same picture may be measured again, at another zoom.
-  placed_ = placeFor(size, around);
-  return *placed_;
-}
-
 void WindowSizingCommand::windowStateDidChange(const QWindowStateChangeEvent& event) {
   // A full screen or a maximised window has the size it has; the rule is caught up with when that ends.
   const Qt::WindowStates large = Qt::WindowFullScreen | Qt::WindowMaximized;
-  if (!(event.oldState() & large) || (parts_.mainWindow()->windowState() & large)) return;
+  QMainWindow& window = *parts_.mainWindow();
+  const bool was = event.oldState() & large, is = window.windowState() & large;
+  if (is && !was) wasOwn_ = isOwn(window.size()) || isOwn(window.normalGeometry().size());
+  if (is || !was) return;
   // The window manager gives it its old size first, which the rule is to start from.
-  QTimer::singleShot(kRestMs, parts_.mainWindow(), [this] { shrinkWhenAtRest(); });
+  restores_ = true;
+  QTimer::singleShot(kRestMs, &window, [this] {
+    restores_ = false;
+    // Whatever has come back of a size that was nobody's choice is none either.
+    const QMainWindow& back = *parts_.mainWindow();
+    const bool isBack = !fillsPartOf(back.screen()->availableGeometry(), back.frameGeometry());
+    if (wasOwn_ && isBack) own_ = back.size();
+    shrinkWhenAtRest();
+    settle();
+  });
 }
 
 void WindowSizingCommand::leaveRoomToTheUser() const {
@@ -181,8 +171,8 @@ void WindowSizingCommand::leaveRoomToTheUser() const {
 bool WindowSizingCommand::isTiled() const {
   const QMainWindow& window = *parts_.mainWindow();
   // What was put there by the program itself, on a small screen, is no tile.
-  const bool isOwn = window.size() == own_ || (placed_ && window.size() == placed_->size());
-  if (!window.isVisible() || !window.screen() || isOwn) return false;
+  if (!window.isVisible() || !window.screen() || isOwn(window.size()) || placing_.wasGiven(window.size()))
+    return false;
   return fillsPartOf(window.screen()->availableGeometry(), window.frameGeometry());
 }
 
@@ -209,7 +199,7 @@ void WindowSizingCommand::shrinkWhenAtRest() {
   if (window.isMaximized() || window.isFullScreen() || isTiled()) return;
   const QSize pulled = window.size(), most = pulled.boundedTo(window.maximumSize());
   if (most == pulled) return apply();
-  chosen_ = pulled - besidePicture();
+  if (!isOwn(pulled)) chosen_ = pulled - besidePicture();
   if (countsBar_ != needsBar()) return apply();  // which is about another maximum
   own_ = most;
   window.resize(most);
@@ -222,64 +212,75 @@ QSize WindowSizingCommand::besidePicture() const {
 }
 
 void WindowSizingCommand::windowDidGrow(const QSize& before) {
+  if (isOwn(before)) own_ = parts_.mainWindow()->size();
+  if (placing_.wasGiven(before)) placing_.noteSize();
+}
+
+void WindowSizingCommand::put(const QRect& contents) {
   const QMainWindow& window = *parts_.mainWindow();
-  if (own_ == before) own_ = window.size();
-  if (placed_ && placed_->size() == before) placed_ = window.geometry();
+  const bool own = isOwn(window.size());
+  const QRect place = placing_.onScreen(contents);
+  if (place != window.geometry()) placing_.give(place);
+  if (own) own_ = window.size();
 }
 
 void WindowSizingCommand::place() {
   QMainWindow& window = *parts_.mainWindow();
   window.winId();  // with bounds of the platform's from now on
   leaveRoomToTheUser();
-  awaits_ = !parts_.validateUserInterfaceItem();
-  placed_ = placeFor(window.size(), savedFrameMargins());
-  if (own_ == window.size()) own_ = placed_->size();
-  // Of the contents: once the platform knows a window, move() would take this for their place, too.
-  window.setGeometry(*placed_);
+  hadPicture_ = parts_.validateUserInterfaceItem();
+  const bool own = isOwn(window.size());
+  placing_.appears();
+  placing_.give(placing_.placeFor(window.size()));
+  if (own) own_ = window.size();
+  for (const int after : {kRestMs, kSettledMs}) QTimer::singleShot(after, &window, [this] { settle(); });
 }
 
-QRect WindowSizingCommand::placeFor(const QSize& size, const QMargins& around) const {
+void WindowSizingCommand::settle() {
   const QMainWindow& window = *parts_.mainWindow();
-  QRect frame(restored_.value_or(window.pos()), size.grownBy(around));
-  if (!restored_) {
-    const QScreen* screen = window.isVisible() ? window.screen() : QGuiApplication::screenAt(QCursor::pos());
-    if (!screen) screen = QGuiApplication::primaryScreen();
-    if (!screen) return frame.marginsRemoved(around);
-    frame.moveCenter(screen->availableGeometry().center());
-  }
-  // What surrounds the others may differ from the guess; their contents stand where they were put.
-  const QPoint corner(around.left(), around.top());
-  QList<QPoint> taken = takenPlaces(&window);
-  for (const QWidget* other : QApplication::topLevelWidgets())
-    if (other != &window && other->isVisible() && qobject_cast<const QMainWindow*>(other))
-      taken << other->geometry().topLeft() - corner;
-  return placedOnScreens(frame, screenRects(), taken).marginsRemoved(around);
+  const bool own = isOwn(window.size());
+  placing_.settle();
+  if (own) own_ = window.size();
 }
 
-void WindowSizingCommand::firstPictureIsShown() {
-  if (parts_.validateUserInterfaceItem()) awaits_ = false;
+void WindowSizingCommand::pictureComes() {
+  QMainWindow& window = *parts_.mainWindow();
+  if (std::exchange(hadPicture_, true) || !window.isVisible() || !isOwn(window.size())) return;
+  if (window.isMaximized() || window.isFullScreen() || isTiled() || !windowFitsPicture()) return;
+  const QSize begins = (chosen_ + besidePicture()).boundedTo(placing_.most());
+  if (isOwn(begins)) return;
+  window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  placing_.give(placing_.isAsGiven() ? placing_.placeFor(begins)
+                                     : placing_.onScreen(QRect(window.geometry().topLeft(), begins)));
+  own_ = window.size();
+}
+
+void WindowSizingCommand::firstPictureIsShown(bool follows) {
+  if (!parts_.validateUserInterfaceItem()) return;
+  if (!follows) awaits_ = false;
+  if (awaits_) QTimer::singleShot(kSettledMs, parts_.mainWindow(), [this] { awaits_ = false; });
 }
 
 void WindowSizingCommand::restoreFrame() {
+  QMainWindow& window = *parts_.mainWindow();
+  placing_.setWindow(&window);
   const QRect frame = savedWindowFrame(kFrameName);
-  chosen_ = own_ = parts_.mainWindow()->size();
-  if (!frame.isValid()) return;
-  chosen_ = frame.size();
-  const QRect place = placedOnScreens(frame, screenRects(), takenPlaces(parts_.mainWindow()));
-  parts_.mainWindow()->resize(own_ = place.size());
-  parts_.mainWindow()->move(place.topLeft());
-  restored_ = place.topLeft();
+  chosen_ = frame.isValid() ? frame.size() : window.size();
+  if (frame.isValid()) placing_.remember(frame.topLeft());
+  const QRect place = placing_.placeFor(chosen_);
+  window.resize(own_ = place.size());
+  const QMargins around = placing_.frame();
+  if (frame.isValid()) window.move(place.topLeft() - QPoint(around.left(), around.top()));
 }
 
 void WindowSizingCommand::saveFrame() const {
   const QMainWindow& window = *parts_.mainWindow();
   if (window.isFullScreen() || window.isMaximized()) return;
   // What the rule made of the window for one picture is no choice for the next.
-  const QSize size = own_.isValid() && window.size() == own_ ? chosen_ : window.size() - besidePicture();
-  saveWindowFrame(kFrameName, QRect(window.pos(), size));
-  const QRect outside = window.frameGeometry(), inside = window.geometry();
-  saveFrameMargins({inside.left() - outside.left(), inside.top() - outside.top(),
-                    outside.right() - inside.right(), outside.bottom() - inside.bottom()});
+  const QSize size = own_.isValid() && isOwn(window.size()) ? chosen_ : window.size() - besidePicture();
+  const QMargins around = placing_.frame();
+  saveWindowFrame(kFrameName, QRect(window.geometry().topLeft() - QPoint(around.left(), around.top()), size));
+  saveFrameMargins(around);
 }
 
 }  // namespace norvex

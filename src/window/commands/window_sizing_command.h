@@ -1,15 +1,13 @@
 // The document window's size and place.
 #pragma once
 
-#include <QMargins>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
 #include <QSizeF>
 
-#include <optional>
-
 #include "display/window_sizing.h"
+#include "window/place/window_placing.h"
 
 class QWindowStateChangeEvent;
 
@@ -37,15 +35,27 @@ class WindowSizingCommand final {
   /// Before the window appears for the first time: where, wholly on a screen with what surrounds it; in the
   /// middle of the pointer's screen where no place is remembered.
   void place();
+  /// Before the window is loaded: the upper left corner of its contents, of a window whose place it takes.
+  void takePlace(const QPoint& corner) { placing_.takePlace(corner); }
+  /// For a window that takes the place of this one.
+  [[nodiscard]] QPoint cornerToHandOn() const { return placing_.cornerToHandOn(); }
+  /// A picture is to be shown. The first one begins at the size that the user chose, whatever the window had
+  /// to show until then.
+  void pictureComes();
   /// The first picture has its size. When it comes later than its window, apply() places the window as if it
   /// had come before; one that was taken elsewhere meanwhile keeps its upper left corner, on the screen.
-  void firstPictureIsShown();
+  /// `follows`: its zoom follows the window, and both find their size within a while.
+  void firstPictureIsShown(bool follows);
   /// Somebody gave the window another size.
   void windowDidResize();
   void windowStateDidChange(const QWindowStateChangeEvent& event);
   /// The window had this size, and got another one for what stands beside the picture: no choice of the
   /// user's, if the one before was none.
   void windowDidGrow(const QSize& before);
+  /// Gives the window a place of the program's choice, as far as it is on a screen.
+  void put(const QRect& contents);
+  /// The largest size that the window's screen has room for.
+  [[nodiscard]] QSize most() const { return placing_.most(); }
   /// Measures of a window that is not seen are wrong without it: it lays its children out when it is shown.
   void settleLayout() const;
   void restoreFrame();
@@ -61,18 +71,19 @@ class WindowSizingCommand final {
   [[nodiscard]] bool isTiled() const;
   /// True if the picture is higher than the room that the window has for it.
   [[nodiscard]] bool needsBar() const;
-  /// Of the contents, for contents of that size with so much around them.
-  [[nodiscard]] QRect placeFor(const QSize& size, const QMargins& around) const;
-  [[nodiscard]] QRect placeOfLatePicture(const QRect& before, const QSize& size);
+  [[nodiscard]] bool isOwn(const QSize& size) const;
+  void settle();
 
   WindowParts& parts_;
+  WindowPlacing placing_;
   QSize chosen_;  ///< the last size that was the user's choice, or the usual one; without besidePicture()
   QSize own_;     ///< that the program gave it, by the rule or from what is kept
-  std::optional<QPoint> restored_;  ///< the upper left corner of the remembered frame
-  std::optional<QRect> placed_;     ///< where place() put the contents
-  bool awaits_ = false;             ///< the window is there, its first picture is not
-  bool countsBar_ = false;          ///< the last apply() left room for the vertical scroll bar
+  bool awaits_ = true;  ///< its first picture has not come, or is not settled
+  bool hadPicture_ = false;
+  bool countsBar_ = false;  ///< the last apply() left room for the vertical scroll bar
   bool held_ = false;
+  bool restores_ = false;   ///< the window manager is about to give it the size back that it had
+  bool wasOwn_ = false;     ///< its size, before it became as large as its screen
   bool keepsTile_ = false;  ///< the last apply() found it tiled, and left it so
   int resizes_ = 0;
 };

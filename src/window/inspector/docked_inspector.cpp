@@ -16,7 +16,7 @@
 #include "base/localized_string.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "window/commands/inspector_command.h"
-#include "window/commands/window_frames.h"
+#include "window/place/window_frames.h"
 #include "window/commands/window_parts.h"
 
 namespace norvex {

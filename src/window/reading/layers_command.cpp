@@ -17,7 +17,7 @@
 #include "ui/pages/layer_list.h"
 #include "ui/picture/brief_note.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "window/commands/window_frames.h"
+#include "window/place/window_frames.h"
 #include "window/commands/window_parts.h"
 
 namespace norvex {

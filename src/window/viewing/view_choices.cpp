@@ -6,7 +6,7 @@
 #include <array>
 
 #include "base/localized_string.h"
-#include "window/commands/window_frames.h"
+#include "window/place/window_frames.h"
 
 namespace norvex {
 namespace {

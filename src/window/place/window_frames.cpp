@@ -1,10 +1,11 @@
-#include "window/commands/window_frames.h"
+#include "window/place/window_frames.h"
 
+#include <QList>
 #include <QSettings>
+#include <QVariant>
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "base/state_folder.h"
 
@@ -21,27 +22,6 @@ const QString kTouchBar = QStringLiteral("views/touchBar");
 const QString kFits = QStringLiteral("views/windowFitsPicture");
 const QString kMargins = QStringLiteral("frames/margins");
 
-constexpr int kCascade = 24;  // logical pixels
-
-/// Of the gap between both; 0 where they touch.
-int distance(const QRect& a, const QRect& b) {
-  const int dx = std::max({0, a.left() - b.right(), b.left() - a.right()});
-  const int dy = std::max({0, a.top() - b.bottom(), b.top() - a.bottom()});
-  return dx + dy;
-}
-
-int sharedArea(const QRect& a, const QRect& b) {
-  const QRect both = a & b;
-  return both.isEmpty() ? 0 : both.width() * both.height();
-}
-
-QRect movedInto(QRect frame, const QRect& screen) {
-  frame.setSize(frame.size().boundedTo(screen.size()));
-  frame.moveLeft(std::clamp(frame.left(), screen.left(), screen.right() - frame.width() + 1));
-  frame.moveTop(std::clamp(frame.top(), screen.top(), screen.bottom() - frame.height() + 1));
-  return frame;
-}
-
 QString keyFor(const QString& autosaveName) {
   return QStringLiteral("frames/") + autosaveName;
 }
@@ -55,19 +35,6 @@ QRect savedWindowFrame(const QString& autosaveName) {
 
 void saveWindowFrame(const QString& autosaveName, const QRect& frame) {
   settings().setValue(keyFor(autosaveName), frame);
-}
-
-QRect placedOnScreens(QRect frame, const QList<QRect>& screens, const QList<QPoint>& taken) {
-  if (screens.isEmpty()) return frame;
-  const QRect nearest =
-      *std::min_element(screens.cbegin(), screens.cend(), [&frame](const QRect& a, const QRect& b) {
-        return std::pair(-sharedArea(frame, a), distance(frame, a)) <
-               std::pair(-sharedArea(frame, b), distance(frame, b));
-      });
-  QRect placed = movedInto(frame, nearest);
-  for (qsizetype step = 0; step < taken.size() && taken.contains(placed.topLeft()); ++step)
-    placed = movedInto(placed.translated(kCascade, kCascade), nearest);
-  return placed;
 }
 
 int wholePixels(int length, double ratio) {

@@ -1,9 +1,7 @@
 // How windows were when they were closed.
 #pragma once
 
-#include <QList>
 #include <QMargins>
-#include <QPoint>
 #include <QRect>
 #include <QString>
 
@@ -13,12 +11,6 @@ namespace norvex {
 /// decoration, and the size without. An invalid rectangle: none was saved.
 [[nodiscard]] QRect savedWindowFrame(const QString& autosaveName);
 void saveWindowFrame(const QString& autosaveName, const QRect& frame);
-
-/// The frame, moved wholly onto the screen that is nearest to it and made smaller where it has no room there,
-/// and a step aside from the corners that are taken: windows do not hide each other. Without screens as it
-/// is.
-[[nodiscard]] QRect placedOnScreens(QRect frame, const QList<QRect>& screens,
-                                    const QList<QPoint>& taken = {});
 
 /// The shortest length from `length` on, both in logical pixels, that is a whole number of the screen's own
 /// pixels; another would be cut on the way there. `ratio`: of own to logical pixels.
@@ -33,7 +25,7 @@ void saveTouchBarIsShown(bool shown);
 [[nodiscard]] bool windowFitsPicture();
 void saveWindowFitsPicture(bool fits);
 
-/// The frame that the desktop draws around windows, as it was seen last; a guess before.
+/// What the desktop draws around windows, as it was seen last; a guess before. Logical pixels.
 [[nodiscard]] QMargins savedFrameMargins();
 void saveFrameMargins(const QMargins& margins);
 

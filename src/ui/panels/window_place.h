@@ -1,0 +1,34 @@
+// Where a window may stand: wholly on a screen, with all that the desktop draws around it.
+#pragma once
+
+#include <QList>
+#include <QMargins>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+class QScreen;
+
+namespace norvex {
+
+/// Logical pixels, y down, like every rectangle here.
+struct WindowRoom {
+  QList<QRect> screens;  ///< of each what windows may cover
+  QMargins frame;        ///< what surrounds a window's contents: its title bar and edges
+};
+
+/// The contents of a window on the screen that it takes the least to bring them to: moved, and made smaller
+/// only where the screen has no room for them, so that nothing of them or around them lies beside it.
+/// Contents that are there already stay as they are. They get no smaller than `least`; what is too large even
+/// so has its upper left corner, and with it its title bar, on the screen. Steps aside from the corners of
+/// contents that are taken: windows do not hide each other. Without screens as it is.
+[[nodiscard]] QRect placedOnScreens(const QRect& contents, const WindowRoom& room, const QSize& least = {},
+                                    const QList<QPoint>& taken = {});
+
+/// What windows may cover of a screen, without the logical pixels at its far edges that a scale which is no
+/// whole number lets it have in part.
+[[nodiscard]] QRect roomOn(const QScreen& screen);
+/// Of all the screens that there are.
+[[nodiscard]] QList<QRect> roomOnScreens();
+
+}  // namespace norvex

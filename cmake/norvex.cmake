@@ -145,7 +145,7 @@ function(norvex_tests folder)
   target_precompile_headers(${target}_tests REUSE_FROM norvex_${ARG_HEADER}_test_pch)
   set(timeout 300)
   if(folder MATCHES "^system" OR NORVEX_SANITIZE)
-      set(timeout 1200)  # whole programs over real files, or every access watched, on whatever machine this is
+    set(timeout 1200)  # whole programs over real files, or every access watched, on whatever machine this is
   endif()
   foreach(case ${cases})
     get_filename_component(stem ${case} NAME_WE)

@@ -21,8 +21,8 @@
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/picture_mark.h"
 #include "ui/source/source_text_view.h"
-#include "window/place/window_frames.h"
 #include "window/commands/window_parts.h"
+#include "window/place/window_frames.h"
 
 namespace norvex {
 namespace {

@@ -16,8 +16,8 @@
 #include "base/localized_string.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "window/commands/inspector_command.h"
-#include "window/place/window_frames.h"
 #include "window/commands/window_parts.h"
+#include "window/place/window_frames.h"
 
 namespace norvex {
 namespace {

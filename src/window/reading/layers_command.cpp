@@ -17,8 +17,8 @@
 #include "ui/pages/layer_list.h"
 #include "ui/picture/brief_note.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "window/place/window_frames.h"
 #include "window/commands/window_parts.h"
+#include "window/place/window_frames.h"
 
 namespace norvex {
 namespace {

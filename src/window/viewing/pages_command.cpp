@@ -18,8 +18,8 @@
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
-#include "window/place/window_frames.h"
 #include "window/commands/window_parts.h"
+#include "window/place/window_frames.h"
 #include "window/viewing/page_thumbnails.h"
 
 namespace norvex {

@@ -4,9 +4,9 @@
 #include <QPainter>
 #include <QSignalSpy>
 
+#include <atomic>
 #include "base/background_threads.h"
 #include "base/background_work.h"
-#include <atomic>
 #include "kit/test_main.h"
 #include "picture/process/memory_picture_service.h"
 #include "picture/process/null_picture_service.h"

@@ -67,7 +67,7 @@ class NumberFieldTest : public QObject {
 
   void bothDecimalSignsAreUnderstoodEverywhere() {
     for (const char* name : {"de_DE", "fr_FR", "ja_JP", "C"})
-      for (const QString typed :
+      for (const QString& typed :
            {QStringLiteral("45.5"), QStringLiteral("45,5"), QStringLiteral("\uFF14\uFF15\uFF0E\uFF15")})
         QCOMPARE(NumberFormat::number(typed, QLocale(name)).value(), 45.5);
   }

@@ -1,6 +1,9 @@
 #include "worker/eps_output/cff_texts.h"
 
+#include <algorithm>
+
 #include "kit/test_main.h"
+#include "worker/eps_output/cff_index.h"
 #include "worker/kit/made_font.h"
 
 using namespace norvex;
@@ -55,6 +58,21 @@ class CffTextsTest : public QObject {
 
   void aProgramIsNone() {
     QCOMPARE(forReading(named(34, 35), {}, entry(kFirstOwn, "\x0c\x15")), std::set<int>{1});
+  }
+
+  // Places in a list take one to four bytes.
+  void aListWithPlacesOfOtherSizesIsDamaged() {
+    const auto isList = [](int size) {
+      QByteArray list = bigEndian(1, 2) + char(size);
+      for (const quint32 place : {1u, 3u})
+        list += QByteArray(std::max(0, size - 4), '\0') + bigEndian(place, std::min(size, 4));
+      list += "ab";
+      ByteReader read(list);
+      return cffIndexAt(read, 0).has_value();
+    };
+    for (const int size : {1, 2, 3, 4}) QVERIFY(isList(size));
+    QVERIFY(!isList(0));
+    QVERIFY(!isList(5));
   }
 
   void damageLeavesEverything() {

@@ -201,6 +201,20 @@ class EpsShadingTest : public QObject {
     }
   }
 
+  // Grey from 0.5 to 1 across, whatever the numbers of its domain.
+  void aFunctionOfThePlaceIsAskedWithinItsDomain() {
+    const QByteArray pdf =
+        kit::onePage("/S sh", "/MediaBox [0 0 200 100] /Resources << /Shading << /S 6 0 R >> >>",
+                     {kit::stream("{ pop 4 div }", "/FunctionType 4 /Domain [2 4 3 5] /Range [0 1]"),
+                      "<< /ShadingType 1 /Domain [2 4 3 5] /ColorSpace /DeviceGray /Matrix [100 0 0 50 -200 "
+                      "-150] /Function "
+                      "5 0 R >>"});
+    const QByteArray eps = Converted(pdf).eps();
+    QVERIFY2(eps.contains("/ShadingType 1 /Domain [2 4 3 5] /Matrix [100 0 0 50 -200 -150]"), eps);
+    // Four places, each a byte: 80 ff 80 ff.
+    QVERIFY2(eps.contains("/Size [2 2]") && eps.contains("<~JH(0\"~>"), eps);
+  }
+
   void coloursOfMeshesStayInTheirSpace() {
     const QByteArray cmyk = Converted(pageWith(mesh(7, "/DeviceCMYK", kCmyk), false)).eps();
     QVERIFY(cmyk.contains("/DeviceCMYK {} cs\n"));

@@ -18,6 +18,12 @@ class SvgTextSizesTest : public QObject {
     QTest::newRow("matrix") << "matrix(0 7 -7 0 100 100)" << 7.0;
     QTest::newRow("no number") << "scale()" << 1.0;
   }
+  // By the longer of both axes, wherever they point.
+  void aMatrixEnlargesAsFarAsItsLongerAxis() {
+    QCOMPARE(enlargement(QStringLiteral("matrix(3 4 0 1 7 8)")), 5.0);
+    QCOMPARE(enlargement(QStringLiteral("matrix(1 0 5 -12 0 0)")), 13.0);
+  }
+
   void transformsEnlarge() {
     QFETCH(QString, transform);
     QTEST(enlargement(transform), "factor");

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QtMath>
 
+#include <utility>
+
 #include "kit/test_main.h"
 #include "worker/svg/svg_kit.h"
 
@@ -66,6 +68,17 @@ class SvgCutTest : public QObject {
     QCOMPARE(again->facts()->pageBounds.value(0), QRectF(0, 0, 30.75, 42));
     QCOMPARE(*again->facts()->viewBox, QRectF(0, 0, 41, 56));
     QCOMPARE(again->facts()->fixedRatioX, std::optional<bool>(true));
+  }
+
+  // It follows what the document says itself, and nothing is added where that has no style.
+  void aStyleOfTheRootIsKept() {
+    const auto styles = [](const QByteArray& attributes) {
+      OpenSvg document(svgOf("width='200' height='100' " + attributes, "<rect width='10' height='10'/>"));
+      const QByteArray bytes = cut(document, QRectF(9, 21, 30, 42), 0)->bytes;
+      return std::pair(bytes.count("style=\""), bytes.contains("style=\"fill:red;"));
+    };
+    QCOMPARE(styles({}), std::pair(qsizetype(0), false));
+    QVERIFY(styles("style='fill:red'").second);
   }
 
   /// What is pasted elsewhere leaves the root behind: what is in it must have the right size without that.

@@ -15,7 +15,6 @@
 #include "application/dropped_files.h"
 #include "application/history_keeper.h"
 #include "application/manual_window.h"
-#include "application/quit_key.h"
 #include "application/recent_files.h"
 #include "application/recent_thumbnails.h"
 #include "application/start_panel.h"
@@ -24,6 +23,7 @@
 #include "document/app_delegate.h"
 #include "document/document_controller.h"
 #include "ui/panels/preferences_panel.h"
+#include "ui/panels/quit_key.h"
 
 class QMainWindow;
 class QMenu;

@@ -1,4 +1,4 @@
-#include "application/quit_key.h"
+#include "ui/panels/quit_key.h"
 
 #include <QAction>
 #include <QApplication>

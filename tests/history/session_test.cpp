@@ -53,113 +53,112 @@ class SessionTest : public QObject {
     QFile file(folder() + "/1.session");
     if (!QDir().mkpath(folder()) || !file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
       qFatal("cannot write test data");
-    /// Whether a program that did these steps ended by the signal.
-    bool endsBySignal(const QStringList& steps, int signal) const {
-      return kit::runProgram("end-by-signal", QStringList{folder(), QString::number(signal)} + steps).crashed;
-    }
+  }
+  /// Whether a program that did these steps ended by the signal.
+  bool endsBySignal(const QStringList& steps, int signal) const {
+    return kit::runProgram("end-by-signal", QStringList{folder(), QString::number(signal)} + steps).crashed;
+  }
 
-   private slots:
-    void init() {
-      root_ = std::make_unique<QTemporaryDir>();
-    }
+ private slots:
+  void init() { root_ = std::make_unique<QTemporaryDir>(); }
 
-    void aCrashLeavesWhatWasOpenAndWhatWasUsedLast() {
-      QVERIFY(endsBySignal(
-          {"opened /a.eps", "opened /b.eps", "opened /c.eps", "closed /b.eps", "used /a.eps"}, SIGKILL));
-      const QList<LeftSession> left = Session::takeLeft(folder());
-      QCOMPARE(left.size(), 1);
-      QCOMPARE(left.first().files, QStringList({"/a.eps", "/c.eps"}));
-      QCOMPARE(left.first().last, QString("/a.eps"));
-    }
+  void aCrashLeavesWhatWasOpenAndWhatWasUsedLast() {
+    QVERIFY(endsBySignal({"opened /a.eps", "opened /b.eps", "opened /c.eps", "closed /b.eps", "used /a.eps"},
+                         SIGKILL));
+    const QList<LeftSession> left = Session::takeLeft(folder());
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(left.first().files, QStringList({"/a.eps", "/c.eps"}));
+    QCOMPARE(left.first().last, QString("/a.eps"));
+  }
 
-    void withoutTheLastTheOneBeforeIsTheLast() {
-      const QStringList three{"opened /a.eps", "opened /b.eps", "opened /c.eps", "closed /c.eps"};
-      QVERIFY(endsBySignal(three, SIGKILL));
-      QCOMPARE(Session::takeLeft(folder()).value(0).last, QString("/b.eps"));
-      QVERIFY(endsBySignal({"opened /a.eps", "opened /b.eps", "closed /a.eps"}, SIGKILL));
-      QCOMPARE(Session::takeLeft(folder()).value(0).last, QString("/b.eps"));
-    }
+  void withoutTheLastTheOneBeforeIsTheLast() {
+    const QStringList three{"opened /a.eps", "opened /b.eps", "opened /c.eps", "closed /c.eps"};
+    QVERIFY(endsBySignal(three, SIGKILL));
+    QCOMPARE(Session::takeLeft(folder()).value(0).last, QString("/b.eps"));
+    QVERIFY(endsBySignal({"opened /a.eps", "opened /b.eps", "closed /a.eps"}, SIGKILL));
+    QCOMPARE(Session::takeLeft(folder()).value(0).last, QString("/b.eps"));
+  }
 
-    void aHundredFilesOfASessionAreOpenedAgain() {
-      QJsonArray paths;
-      for (int i = 0; i < 101; ++i) paths << QString("/%1.eps").arg(i);
-      writeSession(QJsonDocument(QJsonObject{{"files", paths}}).toJson());
-      const QList<LeftSession> left = Session::takeLeft(folder());
-      QCOMPARE(left.size(), 1);
-      QCOMPARE(left.first().files.size(), 100);
-      QCOMPARE(left.first().files.last(), QString("/99.eps"));
-    }
+  void aHundredFilesOfASessionAreOpenedAgain() {
+    QJsonArray paths;
+    for (int i = 0; i < 101; ++i) paths << QString("/%1.eps").arg(i);
+    writeSession(QJsonDocument(QJsonObject{{"files", paths}}).toJson());
+    const QList<LeftSession> left = Session::takeLeft(folder());
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(left.first().files.size(), 100);
+    QCOMPARE(left.first().files.last(), QString("/99.eps"));
+  }
 
-    void aFileOfMoreThanAMebibyteIsNoSession() {
-      const QByteArray text = "{\"files\":[\"/a.eps\"]}";
-      writeSession(text + QByteArray((1 << 20) - text.size(), ' '));
-      QCOMPARE(Session::takeLeft(folder()).size(), 1);
-      writeSession(text + QByteArray((1 << 20) + 1 - text.size(), ' '));
-      QVERIFY(Session::takeLeft(folder()).isEmpty());
-    }
+  void aFileOfMoreThanAMebibyteIsNoSession() {
+    const QByteArray text = "{\"files\":[\"/a.eps\"]}";
+    writeSession(text + QByteArray((1 << 20) - text.size(), ' '));
+    QCOMPARE(Session::takeLeft(folder()).size(), 1);
+    writeSession(text + QByteArray((1 << 20) + 1 - text.size(), ' '));
+    QVERIFY(Session::takeLeft(folder()).isEmpty());
+  }
 
-    void aSignalThatIsIgnoredEndsNoSession() {
-      QVERIFY(endsBySignal({"ignore hangups", "opened /a.eps", "hang up"}, SIGKILL));
-      QCOMPARE(files().size(), 1);
-    }
+  void aSignalThatIsIgnoredEndsNoSession() {
+    QVERIFY(endsBySignal({"ignore hangups", "opened /a.eps", "hang up"}, SIGKILL));
+    QCOMPARE(files().size(), 1);
+  }
 
-    void itIsOfferedOnce() {
-      QVERIFY(endsBySignal({"opened /a.eps"}, SIGABRT));
-      QCOMPARE(Session::takeLeft(folder()).size(), 1);
-      QVERIFY(Session::takeLeft(folder()).isEmpty());
-      QVERIFY(files().isEmpty());
-    }
+  void itIsOfferedOnce() {
+    QVERIFY(endsBySignal({"opened /a.eps"}, SIGABRT));
+    QCOMPARE(Session::takeLeft(folder()).size(), 1);
+    QVERIFY(Session::takeLeft(folder()).isEmpty());
+    QVERIFY(files().isEmpty());
+  }
 
-    void anEndThatWasAskedForIsNoCrash_data() {
-      QTest::addColumn<int>("signal");
-      QTest::newRow("TERM") << SIGTERM;
-      QTest::newRow("INT") << SIGINT;
-      QTest::newRow("HUP") << SIGHUP;
-    }
-    void anEndThatWasAskedForIsNoCrash() {
-      QFETCH(int, signal);
-      QVERIFY(endsBySignal({"opened /a.eps"}, signal));
-      QVERIFY(files().isEmpty());
-    }
+  void anEndThatWasAskedForIsNoCrash_data() {
+    QTest::addColumn<int>("signal");
+    QTest::newRow("TERM") << SIGTERM;
+    QTest::newRow("INT") << SIGINT;
+    QTest::newRow("HUP") << SIGHUP;
+  }
+  void anEndThatWasAskedForIsNoCrash() {
+    QFETCH(int, signal);
+    QVERIFY(endsBySignal({"opened /a.eps"}, signal));
+    QVERIFY(files().isEmpty());
+  }
 
-    void anOrdinaryEndLeavesNothing() {
-      {
-        Session session(folder());
-        session.opened("/a.eps");
-        QCOMPARE(files().size(), 1);
-      }
-      QVERIFY(files().isEmpty());
-    }
-
-    void whatARunningProgramHasOpenIsNotTaken() {
+  void anOrdinaryEndLeavesNothing() {
+    {
       Session session(folder());
       session.opened("/a.eps");
-      const kit::Ran other = kit::runProgram("take-left", {folder()});
-      QVERIFY(!other.crashed);
-      QCOMPARE(other.exitCode, 0);
       QCOMPARE(files().size(), 1);
     }
+    QVERIFY(files().isEmpty());
+  }
 
-    void withoutADocumentNothingIsWritten() {
-      const Session session(folder());
-      QVERIFY(!QDir(folder()).exists());
+  void whatARunningProgramHasOpenIsNotTaken() {
+    Session session(folder());
+    session.opened("/a.eps");
+    const kit::Ran other = kit::runProgram("take-left", {folder()});
+    QVERIFY(!other.crashed);
+    QCOMPARE(other.exitCode, 0);
+    QCOMPARE(files().size(), 1);
+  }
+
+  void withoutADocumentNothingIsWritten() {
+    const Session session(folder());
+    QVERIFY(!QDir(folder()).exists());
+  }
+
+  void stoppedItKeepsNothing() {
+    Session session(folder());
+    session.opened("/a.eps");
+    session.stop();
+    session.opened("/b.eps");
+    QVERIFY(files().isEmpty());
+  }
+
+  void rubbishIsPassedOver() {
+    for (const char* text : {"", "no json", "{\"files\":7}", "{\"files\":[\"relative.eps\"]}"}) {
+      writeSession(text);
+      QVERIFY(Session::takeLeft(folder()).isEmpty());
     }
+  }
+};
 
-    void stoppedItKeepsNothing() {
-      Session session(folder());
-      session.opened("/a.eps");
-      session.stop();
-      session.opened("/b.eps");
-      QVERIFY(files().isEmpty());
-    }
-
-    void rubbishIsPassedOver() {
-      for (const char* text : {"", "no json", "{\"files\":7}", "{\"files\":[\"relative.eps\"]}"}) {
-        writeSession(text);
-        QVERIFY(Session::takeLeft(folder()).isEmpty());
-      }
-    }
-  };
-
-  NORVEX_TEST(SessionTest)
+NORVEX_TEST(SessionTest)
 #include "session_test.moc"

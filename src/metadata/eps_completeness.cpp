@@ -66,6 +66,17 @@ bool endsPrograms(QByteArrayView word) {
                      [&](const char* one) { return word == QByteArrayView(one); });
 }
 
+/// True for a word behind which something must come for anything to be drawn: a number, or a part of a path.
+bool isBegun(QByteArrayView word) {
+  static constexpr std::array<const char*, 11> words{"moveto",  "lineto",   "curveto",   "rmoveto",
+                                                     "rlineto", "rcurveto", "closepath", "newpath",
+                                                     "arc",     "arcn",     "arcto"};
+  bool isNumber = false;
+  (void)word.toDouble(&isNumber);
+  return isNumber || std::any_of(words.begin(), words.end(),
+                                 [&](const char* one) { return word == QByteArrayView(one); });
+}
+
 /// How often words stand in the program outside comments, braces among them. Strings are not told from code.
 QHash<QByteArrayView, int> countedWords(QByteArrayView program) {
   QHash<QByteArrayView, int> counts;
@@ -97,13 +108,14 @@ bool leavesSomethingOpen(QByteArrayView program) {
 bool stopsEarly(QByteArrayView program) {
   for (const auto& [begin, end] : kPairs)
     if (hasLine(program, begin) && !hasLine(program, end)) return true;
-  if (hasOneOfLines(program, {"%%EOF", "%%Trailer"}) || endsPrograms(lastWord(program))) return false;
+  const QByteArrayView last = lastWord(program);
+  if (hasOneOfLines(program, {"%%EOF", "%%Trailer"}) || endsPrograms(last)) return false;
   // Who tells of pages tells of their end. Prologs and set-ups may be written into the header by hand, and
-  // nothing at the end: there a whole line is no cut.
-  const bool endsWithinLine = !program.endsWith('\n') && !program.endsWith('\r');
-  const bool hasStructure = hasOneOfLines(program, {"%%Page:", "%%BeginPageSetup"}) ||
-                            (endsWithinLine && hasOneOfLines(program, {"%%BeginProlog", "%%EndProlog",
-                                                                       "%%BeginSetup", "%%EndSetup"}));
+  // nothing at the end: there a whole line that draws something is no cut.
+  const bool isBroken = (!program.endsWith('\n') && !program.endsWith('\r')) || isBegun(last);
+  const bool hasStructure =
+      hasOneOfLines(program, {"%%Page:", "%%BeginPageSetup"}) ||
+      (isBroken && hasOneOfLines(program, {"%%BeginProlog", "%%EndProlog", "%%BeginSetup", "%%EndSetup"}));
   return hasStructure || leavesSomethingOpen(program);
 }
 

@@ -79,6 +79,8 @@ class EpsCompletenessTest : public QObject {
     QTest::newRow("unstructured, in a saved memory") << kHeader + "save 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("unstructured, in a dictionary") << kHeader + "9 dict begin 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("a prolog, in a line") << kHeader + "%%EndProlog\n0 0 moveto 9 9 lin";
+    QTest::newRow("a prolog, in a path") << kHeader + "%%EndProlog\n0 0 moveto 9 9 lineto\n";
+    QTest::newRow("a prolog, in numbers") << kHeader + "%%EndProlog\n0 0 moveto 9 9 lineto\n1.5\n";
     QTest::newRow("a set-up, in a line") << kHeader + "%%BeginSetup\n%%EndSetup\n0 0 moveto 9 9 lin";
     QTest::newRow("in an interchange preview") << kHeader + "%%BeginPreview: 8 2 1 2\n%FF\n";
     QTest::newRow("in private data") << kWhole + "%AI9_PrivateDataBegin\n%abc";

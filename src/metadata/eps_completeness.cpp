@@ -45,7 +45,8 @@ constexpr std::array<std::array<const char*, 2>, 2> kPairs{{
 /// The last word that is no comment.
 QByteArrayView lastWord(QByteArrayView program) {
   for (QByteArrayView rest = withoutBlanksAtEnd(program); !rest.isEmpty();) {
-    const qsizetype lineEnd = std::max(rest.lastIndexOf('\n'), rest.lastIndexOf('\r'));
+    qsizetype lineEnd = rest.size() - 1;
+    while (lineEnd >= 0 && rest[lineEnd] != '\n' && rest[lineEnd] != '\r') --lineEnd;
     const QByteArrayView line = rest.sliced(lineEnd + 1);
     if (!line.trimmed().startsWith('%')) {
       qsizetype from = line.size();
@@ -71,8 +72,9 @@ bool isBegun(QByteArrayView word) {
   static constexpr std::array<const char*, 11> words{"moveto",  "lineto",   "curveto",   "rmoveto",
                                                      "rlineto", "rcurveto", "closepath", "newpath",
                                                      "arc",     "arcn",     "arcto"};
+  constexpr qsizetype longestNumber = 32;
   bool isNumber = false;
-  (void)word.toDouble(&isNumber);
+  if (word.size() <= longestNumber) (void)word.toDouble(&isNumber);
   return isNumber || std::any_of(words.begin(), words.end(),
                                  [&](const char* one) { return word == QByteArrayView(one); });
 }
@@ -108,8 +110,9 @@ bool leavesSomethingOpen(QByteArrayView program) {
 bool stopsEarly(QByteArrayView program) {
   for (const auto& [begin, end] : kPairs)
     if (hasLine(program, begin) && !hasLine(program, end)) return true;
+  if (hasOneOfLines(program, {"%%EOF", "%%Trailer"})) return false;
   const QByteArrayView last = lastWord(program);
-  if (hasOneOfLines(program, {"%%EOF", "%%Trailer"}) || endsPrograms(last)) return false;
+  if (endsPrograms(last)) return false;
   // Who tells of pages tells of their end. Prologs and set-ups may be written into the header by hand, and
   // nothing at the end: there a whole line that draws something is no cut.
   const bool isBroken = (!program.endsWith('\n') && !program.endsWith('\r')) || isBegun(last);

@@ -121,6 +121,13 @@ class EpsCompletenessTest : public QObject {
     }
   }
 
+  /// Each line is looked at once from its end: looking through all that is in front of it took hours.
+  void aMillionCommentsAtTheEndAreLookedAtOnce() {
+    const QByteArray comments = QByteArray("%\n").repeated(1'000'000);
+    QVERIFY(epsMissingParts(kHeader + "%%EndProlog\nshowpage\n" + comments).isEmpty());
+    QVERIFY(!epsMissingParts(kHeader + "%%EndProlog\n0 0 moveto\n" + comments).isEmpty());
+  }
+
   void realFilesAreWhole() {
     if (kit::corpusFolder().isEmpty()) QSKIP("there is no folder of real files here");
     QStringList told;

@@ -113,12 +113,12 @@ bool stopsEarly(QByteArrayView program) {
   if (hasOneOfLines(program, {"%%EOF", "%%Trailer"})) return false;
   const QByteArrayView last = lastWord(program);
   if (endsPrograms(last)) return false;
-  // Who tells of pages tells of their end. Prologs and set-ups may be written into the header by hand, and
-  // nothing at the end: there a whole line that draws something is no cut.
+  // Who tells of pages, or where a prolog begins, tells of the end. The end of a prolog and a set-up may be
+  // written by hand, and nothing behind the drawing: there a whole line that draws something is no cut.
   const bool isBroken = (!program.endsWith('\n') && !program.endsWith('\r')) || isBegun(last);
   const bool hasStructure =
-      hasOneOfLines(program, {"%%Page:", "%%BeginPageSetup"}) ||
-      (isBroken && hasOneOfLines(program, {"%%BeginProlog", "%%EndProlog", "%%BeginSetup", "%%EndSetup"}));
+      hasOneOfLines(program, {"%%Page:", "%%BeginPageSetup", "%%BeginProlog"}) ||
+      (isBroken && hasOneOfLines(program, {"%%EndProlog", "%%BeginSetup", "%%EndSetup"}));
   return hasStructure || leavesSomethingOpen(program);
 }
 

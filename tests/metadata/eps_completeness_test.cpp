@@ -78,6 +78,8 @@ class EpsCompletenessTest : public QObject {
     QTest::newRow("unstructured, in a saved state") << kHeader + "gsave 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("unstructured, in a saved memory") << kHeader + "save 0 0 moveto 9 9 lineto\nstr";
     QTest::newRow("unstructured, in a dictionary") << kHeader + "9 dict begin 0 0 moveto 9 9 lineto\nstr";
+    QTest::newRow("a prolog that is begun by its comment, between two lines")
+        << kHeader + "%%BeginProlog\n%%EndProlog\n0 0 9 9 rectfill\n";
     QTest::newRow("a prolog, in a line") << kHeader + "%%EndProlog\n0 0 moveto 9 9 lin";
     QTest::newRow("a prolog, in a path") << kHeader + "%%EndProlog\n0 0 moveto 9 9 lineto\n";
     QTest::newRow("a prolog, in numbers") << kHeader + "%%EndProlog\n0 0 moveto 9 9 lineto\n1.5\n";

@@ -22,6 +22,7 @@ constexpr size_t kMostWaiting = 8 << 20;  // whoever writes faster waits
 constexpr size_t kRoom = 64 << 10;
 
 thread_local bool isWanted = false;
+thread_local bool isLost = false;  ///< something of what was packed since
 
 /// One stream. What is handed over is packed piece by piece as it came, so that zlib sees what it would have
 /// seen.
@@ -168,10 +169,16 @@ Packer* packerOf(z_streamp stream) {
 
 }  // namespace
 
-PackingBeside::PackingBeside(bool wanted) : before_(std::exchange(isWanted, wanted)) {}
+PackingBeside::PackingBeside(bool wanted) : before_(std::exchange(isWanted, wanted)) {
+  isLost = false;
+}
 
 PackingBeside::~PackingBeside() {
   isWanted = before_;
+}
+
+bool PackingBeside::hasFailed() const {
+  return isLost;
 }
 
 bool isPackedBeside(const z_stream& stream) {
@@ -200,14 +207,14 @@ int packMore(const DeflateCalls& zlib, z_streamp stream, int flush) {
   try {
     packer->add(stream->next_in, stream->avail_in);
   } catch (const std::exception&) {
-    return Z_MEM_ERROR;
+    isLost = true;
   }
   stream->next_in += stream->avail_in;
   stream->total_in += stream->avail_in;
   stream->avail_in = 0;
   if (flush == Z_NO_FLUSH) return Z_OK;
-  if (const int outcome = packer->finish(); outcome != Z_STREAM_END) return outcome;
-  return packer->give(stream) ? Z_STREAM_END : Z_OK;
+  if (packer->finish() != Z_STREAM_END) isLost = true;
+  return isLost || packer->give(stream) ? Z_STREAM_END : Z_OK;
 }
 
 int endPacking(const DeflateCalls& zlib, z_streamp stream) {

@@ -22,12 +22,18 @@ class PackingBeside {
   PackingBeside(const PackingBeside&) = delete;
   PackingBeside& operator=(const PackingBeside&) = delete;
 
+  /// True if something that this thread packed beside was lost since the newest of them was made: for want of
+  /// memory, of which zlib itself takes none once it has begun.
+  [[nodiscard]] bool hasFailed() const;
+
  private:
   const bool before_;
 };
 
 /// deflateInit_(), deflate() and deflateEnd(). What is packed beside gives no bytes before Z_FINISH, and
 /// knows no other flush than that. What is held meanwhile is bounded by what is written, not more than that.
+/// Where packing fails all is taken and the stream ends early: cairo would ask again without an end. It is
+/// PackingBeside that tells.
 [[nodiscard]] int beginPacking(const DeflateCalls& zlib, z_streamp stream, int level, const char* version,
                                int size);
 [[nodiscard]] int packMore(const DeflateCalls& zlib, z_streamp stream, int flush);

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "protocol/limits.h"
+#include "protocol/process_end.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/installed_fonts.h"
 #include "worker/drawing/packing_beside.h"
@@ -231,6 +232,7 @@ Result<EngineBytes> SvgEngine::pdf(const PdfRequest& request) {
   if (!loaded) return loaded.error();
   const PackingBeside beside(context_.processors > 1);
   Result<QByteArray> made = vectors_.toPdf(**loaded, pixels_, imageEffects(), request.attributes);
+  if (beside.hasFailed()) return memoryUsedUp();
   if (!made) return made.error();
   if (!request.attributes) pdf_ = *made;
   return EngineBytes{std::move(*made), pdfReport()};

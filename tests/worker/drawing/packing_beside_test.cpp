@@ -26,6 +26,12 @@ int packAndTell(z_streamp stream, int flush) {
 
 const DeflateCalls kZlib{deflateInit_, packAndTell, deflateEnd};
 
+int findNoMemory(z_streamp, int) {
+  return Z_MEM_ERROR;
+}
+
+const DeflateCalls kFailing{deflateInit_, findNoMemory, deflateEnd};
+
 /// Numbers as they stand in a drawing.
 QByteArray drawing(int lines) {
   QByteArray text;
@@ -157,6 +163,44 @@ class PackingBesideTest : public QObject {
     QCOMPARE(stream.avail_in, uInt(0));
     QCOMPARE(endPacking(kZlib, &stream), Z_OK);
     QVERIFY(!isPackedBeside(stream));
+  }
+
+  // cairo asks again until it hears of the end, whatever it hears else.
+  void whatCannotBePackedEndsAndIsTold_data() {
+    QTest::addColumn<int>("lines");
+    QTest::newRow("short") << 10;
+    QTest::newRow("on a thread of its own") << 20'000;
+  }
+
+  void whatCannotBePackedEndsAndIsTold() {
+    QFETCH(int, lines);
+    const PackingBeside scope(true);
+    QVERIFY(!scope.hasFailed());
+    z_stream stream{};
+    QCOMPARE(beginPacking(kFailing, &stream, 6, ZLIB_VERSION, sizeof stream), Z_OK);
+    QByteArray text = drawing(lines);
+    stream.next_in = reinterpret_cast<Bytef*>(text.data());
+    stream.avail_in = uInt(text.size());
+    QCOMPARE(packMore(kFailing, &stream, Z_NO_FLUSH), Z_OK);
+    QCOMPARE(stream.avail_in, uInt(0));
+    QCOMPARE(packMore(kFailing, &stream, Z_FINISH), Z_STREAM_END);
+    QVERIFY(scope.hasFailed());
+    endPacking(kFailing, &stream);
+    QVERIFY(!PackingBeside(true).hasFailed());
+  }
+
+  void whatWasPackedHasNotFailed() {
+    const PackingBeside scope(true);
+    z_stream stream{};
+    QCOMPARE(beginPacking(kZlib, &stream, 6, ZLIB_VERSION, sizeof stream), Z_OK);
+    QByteArray text = drawing(20'000), room(text.size(), '\0');
+    stream.next_in = reinterpret_cast<Bytef*>(text.data());
+    stream.avail_in = uInt(text.size());
+    stream.next_out = reinterpret_cast<Bytef*>(room.data());
+    stream.avail_out = uInt(room.size());
+    QCOMPARE(packMore(kZlib, &stream, Z_FINISH), Z_STREAM_END);
+    QVERIFY(!scope.hasFailed());
+    endPacking(kZlib, &stream);
   }
 
   void aLevelThatZlibRefusesIsRefused() {

@@ -1,6 +1,8 @@
 // A screen of its own with a folder of pictures, and where the window of one of them stands.
 #pragma once
 
+#include <QTest>
+
 #include <algorithm>
 
 #include "system/x_session.h"
@@ -35,6 +37,16 @@ inline QByteArray text(const QRect& rect) {
       .arg(rect.width())
       .arg(rect.height())
       .toUtf8();
+}
+
+/// Rows of tests that go through it all at these scales and with these window managers.
+inline void smallScreens() {
+  QTest::addColumn<QString>("scale");
+  QTest::addColumn<QString>("manager");
+  const QString openbox = QStringLiteral("openbox"), none;
+  QTest::newRow("with frames") << QStringLiteral("1") << openbox;
+  QTest::newRow("scale 1.5") << QStringLiteral("1.5") << openbox;
+  QTest::newRow("without a window manager") << QStringLiteral("1") << none;
 }
 
 /// A folder of pictures of every kind of size, of which one is shown.

@@ -8,17 +8,6 @@ using kit::XSession;
 class WindowSeenTest : public QObject {
   Q_OBJECT
 
-  static void smallScreens() {
-    QTest::addColumn<QString>("scale");
-    QTest::addColumn<QString>("manager");
-    QTest::newRow("with frames") << "1"
-                                 << "openbox";
-    QTest::newRow("scale 1.5") << "1.5"
-                               << "openbox";
-    QTest::newRow("without a window manager") << "1"
-                                              << "";
-  }
-
  private slots:
   void initTestCase() {
     if (const QString program = XSession::missing(); !program.isEmpty())

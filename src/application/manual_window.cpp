@@ -65,8 +65,6 @@ QString styleFor(const QPalette& palette) {
       .arg(palette.color(QPalette::AlternateBase).name(), palette.color(QPalette::Link).name(), quiet);
 }
 
-}  // namespace
-
 /// Rows with room between them. A list's own spacing makes its rows narrower when it lays them out than when
 /// it paints them: a title that fits in the one and not in the other lost its second line.
 class RoomyRows final : public QStyledItemDelegate {
@@ -76,6 +74,8 @@ class RoomyRows final : public QStyledItemDelegate {
     return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
   }
 };
+
+}  // namespace
 
 QStringList manualPages() {
   const QDir folder(languageFolder());

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPaintEvent>
 #include <QSignalSpy>
 #include <QToolButton>
 
@@ -50,6 +51,17 @@ QStringList formTexts(const MainWindowController& c) {
     all << form->cellAtIndex(0)->text();
   return all;
 }
+
+/// How often all that is seen of the widget that it watches has been painted.
+struct Paints : QObject {
+  int count = 0;
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint && static_cast<QPaintEvent*>(event)->rect().contains(
+                                              static_cast<QWidget*>(watched)->visibleRegion().boundingRect()))
+      ++count;
+    return false;
+  }
+};
 
 NSBitmapImageRep smallPreview() {
   QImage image(4, 3, QImage::Format_RGB32);
@@ -238,6 +250,21 @@ class MainWindowLoadingTest : public QObject {
     QVERIFY(!c.previewImageView()->imageRep());
     QCOMPARE(firstImageOf(*c.view()->imageRep()).size(),
              QSize(4, 3));  // and in the picture's place before it
+  }
+
+  void aViewIsPaintedAgainWhenItsPictureCannotBeDrawn() {
+    WindowFixture fixture;
+    fixture.service.setPreview(smallPreview());
+    MainWindowController& c = fixture.loaded(testdata::binaryEps(epsBytes(), "II*"), "a.eps", NorvexEPSType);
+    c.window()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(c.window()));
+    emit c.view()->imageRep()->renderingFailed({ErrorKind::NotParsable, "there is an error in the program"});
+    QTRY_VERIFY(c.messageBar()->isVisible());
+    QTest::qWait(200);  // all that moves for the message has moved
+    Paints paints;
+    c.viewWidget()->installEventFilter(&paints);
+    emit c.view()->imageRep()->renderingFailed({ErrorKind::NotParsable, "there is an error in the program"});
+    QTRY_VERIFY(paints.count > 0);
   }
 
   void aFileWithoutPreviewShowsThePictureItself() {

@@ -312,7 +312,7 @@ void RenderedPicture::store(const RenderJob& job, const QImage& image) {
 }
 
 void RenderedPicture::fail(const RenderJob& job, const Error& error) {
-  first_.reset();
+  if (!job.background && error.kind != ErrorKind::Cancelled) first_.reset();
   if (job.overview) {
     overviewFailed_ = true;
   } else {

@@ -18,6 +18,12 @@ namespace norvex {
   return isXmlSpace(c) || c == '\f' || c == '\0';
 }
 
+/// What writers and spoolers leave before the first line of PostScript: blanks of every sort, the byte that
+/// fills records, and the one that ends a transmission.
+[[nodiscard]] constexpr bool mayPrecedePostScript(char c) {
+  return isWhiteSpace(c) || isPostScriptSpace(c) || c == '\x04';
+}
+
 /// Between the words of a comment line of PostScript, as writers of all sorts part them.
 [[nodiscard]] constexpr bool isCommentBlank(char c) {
   return c == ' ' || c == '\t' || c == '\f' || c == '\v' || c == '\0';

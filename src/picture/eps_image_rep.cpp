@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/blanks.h"
 #include "metadata/eps_bounding_box.h"
 #include "metadata/eps_completeness.h"
 #include "metadata/eps_program.h"
@@ -13,9 +14,7 @@ namespace {
 /// mark: then comments begin the file, and its bounding box (EPSF 3.0, 2.1) has to speak for it.
 bool beginsPostScript(QByteArrayView postScript, bool statesBox) {
   qsizetype at = 0;
-  while (at < postScript.size() && at < 64 &&
-         (postScript[at] == '\x04' || QByteArrayView(" \t\r\n").contains(postScript[at])))
-    ++at;
+  while (at < postScript.size() && at < 64 && mayPrecedePostScript(postScript[at])) ++at;
   const QByteArrayView first = postScript.sliced(at);
   return first.startsWith("%!") || (statesBox && first.startsWith("%") && !first.startsWith("%PDF-"));
 }

@@ -39,7 +39,7 @@ QByteArray postScriptStart(QByteArrayView bytes) {
   qsizetype from = bytes.startsWith("\xEF\xBB\xBF") ? 3 : 0;
   if (bytes.startsWith("\x1B%-12345X"))
     from = std::max<qsizetype>(0, bytes.first(std::min(bytes.size(), enough)).indexOf("%!"));
-  while (from < bytes.size() && from < 64 && (isWhiteSpace(bytes[from]) || bytes[from] == '\x04')) ++from;
+  while (from < bytes.size() && from < 64 && mayPrecedePostScript(bytes[from])) ++from;
   return bytes.sliced(from, std::min(enough, bytes.size() - from)).toByteArray();
 }
 

@@ -26,11 +26,13 @@ class BlanksTest : public QObject {
     QCOMPARE(those([](char c) { return isXmlSpace(c); }), QByteArray("\t\n\r "));
     QCOMPARE(those([](char c) { return isPostScriptSpace(c); }), QByteArray("\0\t\n\f\r ", 6));
     QCOMPARE(those([](char c) { return isCommentBlank(c); }), QByteArray("\0\t\v\f ", 5));
+    QCOMPARE(those([](char c) { return mayPrecedePostScript(c); }), QByteArray("\0\x04\t\n\v\f\r ", 8));
   }
   void lettersOfOtherScriptsAreNone() {
     for (int c = 128; c < 256; ++c) {
       const char byte = char(c);
-      QVERIFY(!isWhiteSpace(byte) && !isXmlSpace(byte) && !isPostScriptSpace(byte) && !isCommentBlank(byte));
+      QVERIFY(!isWhiteSpace(byte) && !isXmlSpace(byte) && !isPostScriptSpace(byte) && !isCommentBlank(byte) &&
+              !mayPrecedePostScript(byte));
     }
   }
 };

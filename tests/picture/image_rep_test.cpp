@@ -64,6 +64,13 @@ class ImageRepTest : public QObject {
   }
 
   // ---- EPS
+  void whatMayPrecedePostScriptIsPassedOver() {
+    MemoryPictureService service;
+    const QByteArray eps("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 30 40\n%%EndComments\n");
+    for (const QByteArray& start :
+         {QByteArray(3, '\0'), QByteArray("\x04"), QByteArray(" \t\r\n\v\f"), QByteArray(64, '\0')})
+      QVERIFY2(NSEPSImageRep::imageRepWithData(service, start + eps), start.toHex());
+  }
   void commentsWithABoundingBoxDoWithoutTheMark() {
     MemoryPictureService service;
     for (const QByteArray& start : {QByteArray("%%%%%%%%\n% a form's field\n%!PS-Adobe-3.0 EPSF-3.0\n"),

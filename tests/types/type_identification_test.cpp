@@ -37,6 +37,7 @@ class TypeIdentificationTest : public QObject {
     QTest::newRow("eps behind control-D") << "\x04" + kEpsText << kEps;
     QTest::newRow("eps behind a mark") << "\xEF\xBB\xBF" + kEpsText << kEps;
     QTest::newRow("eps behind blank lines") << "\r\n\n" + kEpsText << kEps;
+    QTest::newRow("eps behind what fills a record") << QByteArray(3, '\0') + kEpsText << kEps;
     QTest::newRow("eps behind as many blanks as are passed over") << QByteArray(64, ' ') + kEpsText << kEps;
     QTest::newRow("eps behind one more") << QByteArray(65, ' ') + kEpsText << "public.data";
     QTest::newRow("eps behind a printer's language, far down")

@@ -15,6 +15,7 @@ namespace {
 
 constexpr unsigned long kOpen = 0, kRed = 1, kRedShape = 2;
 constexpr unsigned long kFailing = 3, kFlat = 4;
+constexpr unsigned long kRedRow = 5, kRedColumn = 6;  ///< shapes whose box is flat
 int drawings = 0;
 int drawingsInVain = 0;  ///< with a font that cannot be used
 
@@ -30,6 +31,8 @@ cairo_status_t drawGlyph(cairo_scaled_font_t* font, unsigned long glyph, cairo_t
   cairo_fill(context);
   extents->x_advance = 1;
   if (glyph == kRedShape) extents->y_bearing = -0.5, extents->width = extents->height = 0.5;
+  if (glyph == kRedRow) extents->width = 0.5;
+  if (glyph == kRedColumn) extents->height = 0.5;
   return CAIRO_STATUS_SUCCESS;
 }
 
@@ -167,7 +170,8 @@ class ColouredGlyphsTest : public QObject {
   /// PDF has an operator for it; who uses it and sets colours has set none.
   void aGlyphThatIsAShapeHasNoColours() {
     const Face face = madeFace();
-    QCOMPARE(shown(face, kRedShape, true), 0xFF0000FFu);
+    for (const unsigned long shape : {kRedShape, kRedRow, kRedColumn})
+      QCOMPARE(shown(face, shape, true), 0xFF0000FFu);
   }
 
   /// Poppler's own glyphs end the process when they are drawn with the font that cairo gives then.

@@ -181,6 +181,12 @@ class EpsFromPdfTest : public QObject {
     QCOMPARE(converted.eps().count(" image D flushfile"), 1);
   }
 
+  void anImageHasAMaskWhereItLeavesPlacesUnpainted() {
+    QVERIFY(Converted(page(kTransparent)).eps().contains("/ImageType 3"));
+    const QByteArray onPaper = Converted(page("1 1 0.9 rg 0 0 201 101 re f " + kTransparent)).eps();
+    QVERIFY(onPaper.contains("/ImageType 1") && !onPaper.contains("/ImageType 3"));
+  }
+
   void withoutTransparencyThereIsNoImage() {
     Converted converted(page(kVectors));
     QCOMPARE(converted.report().regionsRasterised, 0);

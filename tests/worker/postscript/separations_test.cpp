@@ -16,7 +16,6 @@
 #include "worker/pages/pdf_engine.h"
 #include "worker/postscript/eps_engine.h"
 #include "worker/postscript/ink_alternates.h"
-#include "worker/postscript/psd_plates.h"
 #include "worker/postscript/separated_pages.h"
 #include "worker/tiff/tiff_preview.h"
 
@@ -124,20 +123,6 @@ const Ink* inkNamed(const PageInks& page, const char* name) {
                                   [&](const Ink& ink) { return ink.name == QString::fromUtf8(name); });
   return found == page.inks.end() ? nullptr : &*found;
 }
-
-/// A file of two pixels with one spot channel, by hand.
-QByteArray psd(const QByteArray& resources,
-               const QByteArray& samples = QByteArray("\xff\x00", 2).repeated(5)) {
-  const auto number = [](quint32 value) {
-    return QByteArray(1, char(value >> 24)) + char(value >> 16) + char(value >> 8) + char(value);
-  };
-  return QByteArray("8BPS\0\1\0\0\0\0\0\0\0\5", 14) + number(1) + number(2) + QByteArray("\0\x08\0\4", 4) +
-         number(0) + number(quint32(resources.size())) + resources + number(0) + QByteArray("\0\0", 2) +
-         samples;
-}
-
-const QByteArray kNames("8BIM\3\xee\0\0\0\0\0\5\4Gold\0", 18);
-const QByteArray kColours("8BIM\3\xef\0\0\0\0\0\x0e\0\2\xff\xff\xcc\xcc\0\0\x99\x99\0\0\2\0", 26);
 
 }  // namespace
 
@@ -456,39 +441,6 @@ class SeparationsTest : public QObject {
     QVERIFY(engine.render(request).ok());
     QVERIFY(engine.pdf(PdfRequest()).ok());
     QVERIFY(engine.examine({Examination::Contents, 0}).ok());
-  }
-
-  void aPhotoshopFileIsReadByItsChannels() {
-    const Result<PageInks> page = platesOfPsd(psd(kNames + kColours));
-    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
-    QCOMPARE(page->pixels, QSize(2, 1));
-    QCOMPARE(page->inks.size(), 5);
-    QCOMPARE(page->inks[4].name, "Gold");
-    QVERIFY(page->inks[4].alternate == (ProcessInks{0, 51, 255, 102}));
-    QCOMPARE(page->plates, QByteArray("\x00\xff", 2).repeated(5));
-    QCOMPARE(page->inks[4].coverage, 0.5);
-    QVERIFY(platesOfPsd(psd(kNames + kColours) + "8BPS another page").ok());
-    QVERIFY(!platesOfPsd(psd(kNames))->inks[4].alternate);
-  }
-
-  void anotherPhotoshopFileIsRefused() {
-    const QByteArray good = psd(kNames + kColours);
-    for (qsizetype length = 0; length < good.size(); ++length)
-      QVERIFY2(!platesOfPsd(good.left(length)), qPrintable(QString::number(length)));
-    const auto changed = [&](qsizetype at, char byte) {
-      return QByteArray(good).replace(at, 1, QByteArray(1, byte));
-    };
-    QVERIFY(!platesOfPsd(changed(0, '9')));
-    QVERIFY(!platesOfPsd(changed(5, 2)));    // version
-    QVERIFY(!platesOfPsd(changed(13, 3)));   // fewer channels than process inks
-    QVERIFY(!platesOfPsd(changed(13, 6)));   // more than it has
-    QVERIFY(!platesOfPsd(changed(17, 0)));   // no rows
-    QVERIFY(!platesOfPsd(changed(23, 16)));  // other samples
-    QVERIFY(!platesOfPsd(changed(25, 3)));   // other colours
-    QVERIFY(!platesOfPsd(psd({})));          // a channel without a name
-    const Result<PageInks> huge = platesOfPsd(changed(14, 0x7f));
-    QVERIFY(!huge);
-    QCOMPARE(huge.error().kind, ErrorKind::Limit);
   }
 };
 

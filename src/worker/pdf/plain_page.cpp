@@ -41,7 +41,7 @@ class Reach {
   void take(std::string_view contents) {
     for (size_t at = 0; at < contents.size() && paths_ < kEnough;) {
       const size_t end = std::min(contents.find_first_of(kBlanks, at), contents.size());
-      if (end > at) word(contents.substr(at, end - at));
+      word(contents.substr(at, end - at));
       at = end + 1;
     }
   }

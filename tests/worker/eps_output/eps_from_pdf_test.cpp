@@ -34,6 +34,17 @@ QByteArray page(const QByteArray& contents, const QByteArray& resources = {},
                  QList<QByteArray>{kHelvetica} + more);
 }
 
+/// An image and its mask, which is opaque in one quarter.
+QList<QByteArray> softImage(const QByteArray& mask) {
+  return {kit::stream(QByteArray(3, '\x20'),
+                      "/Type /XObject /Subtype /Image /Width 1 /Height 1 /BitsPerComponent 8 /ColorSpace "
+                      "/DeviceRGB /SMask " +
+                          mask),
+          kit::stream(QByteArray("\x00\x80\xff\x40", 4),
+                      "/Type /XObject /Subtype /Image /Width 2 /Height 2 /BitsPerComponent 8 /ColorSpace "
+                      "/DeviceGray")};
+}
+
 int lines(const QByteArray& text, const QByteArray& beginning) {
   int count = 0;
   for (const QByteArray& line : text.split('\n')) count += line.startsWith(beginning) ? 1 : 0;
@@ -112,15 +123,13 @@ class EpsFromPdfTest : public QObject {
                 "/Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >>")
         << 0;
     QTest::newRow("a soft image") << page(kVectors + "q 60 0 0 60 100 20 cm /I Do Q",
-                                          "/XObject << /I 6 0 R >>",
-                                          {kit::stream(
-                                               QByteArray(3, '\x20'),
-                                               "/Type /XObject /Subtype /Image /Width 1 /Height 1 "
-                                               "/BitsPerComponent 8 /ColorSpace /DeviceRGB /SMask 7 0 R"),
-                                           kit::stream(QByteArray("\x00\x80\xff\x40", 4),
-                                                       "/Type /XObject /Subtype /Image /Width 2 /Height 2 "
-                                                       "/BitsPerComponent 8 /ColorSpace /DeviceGray")})
+                                          "/XObject << /I 6 0 R >>", softImage("7 0 R"))
                                   << 2;  // one of its quarters is opaque
+    QTest::newRow("nothing transparent but an image")
+        << onePage("q 60 0 0 60 100 20 cm /I Do Q",
+                   "/MediaBox [0 0 200.5 100.25] /Resources << /XObject << /I 5 0 R >> >>",
+                   softImage("6 0 R"))
+        << 2;
     QTest::newRow("a blend mode") << page("1 0 0 rg 0 0 100 100 re f /M gs 0 1 1 rg 50 20 40 40 re f " +
                                               kVectors,
                                           "/ExtGState << /M << /BM /Multiply >> >>")

@@ -96,6 +96,9 @@ class FileWatcherTest : public QObject {
     QTest::newRow("emptied") << QByteArray("") << QByteArray("%!PS other");
     QTest::newRow("pdf") << QByteArray("%PDF-1.4\n1 0 obj")
                          << QByteArray("%PDF-1.4\n1 0 obj\nendobj\n%%EOF\n");
+    // What a program that saves by appending leaves behind; the mark may be so far from the end.
+    QTest::newRow("pdf that goes on")
+        << "%PDF-1.4\n%%EOF" + QByteArray(1020, ' ') << "%PDF-1.4\n%%EOF" + QByteArray(1019, ' ');
     QTest::newRow("svg") << QByteArray("<svg><path d='M0") << QByteArray("<svg><path d='M0 0'/></svg>\n");
   }
   void aHalfWrittenFileIsWaitedFor() {

@@ -53,7 +53,11 @@ class RecentFilesTest : public QObject {
   void removingAndClearing() {
     RecentFiles recent(*settings_);
     for (const char* path : {"/a.eps", "/b.eps", "/c.eps"}) recent.add(QUrl::fromLocalFile(path));
+    QSignalSpy changed(&recent, &RecentFiles::changed);
+    recent.remove(QUrl::fromLocalFile("/d.eps"));
+    QVERIFY(changed.isEmpty());
     recent.remove(QUrl::fromLocalFile("/b.eps"));
+    QCOMPARE(changed.size(), 1);
     QCOMPARE(recent.urls(), (QList<QUrl>{QUrl::fromLocalFile("/c.eps"), QUrl::fromLocalFile("/a.eps")}));
     recent.clear();
     QVERIFY(recent.urls().isEmpty());

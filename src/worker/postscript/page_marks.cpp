@@ -8,8 +8,8 @@
 namespace norvex::engine {
 namespace {
 
-constexpr std::array<std::string_view, 17> kPainting{"f",  "F",  "f*", "S",  "s",  "B",  "B*", "b", "b*",
-                                                     "sh", "Do", "Tj", "TJ", "\'", "\"", "BI", "EI"};
+constexpr std::array<std::string_view, 16> kPainting{"f",  "F",  "f*", "S",  "s",  "B",  "B*", "b",
+                                                     "b*", "sh", "Do", "Tj", "TJ", "\'", "\"", "BI"};
 
 class Marks final : public QPDFObjectHandle::ParserCallbacks {
  public:

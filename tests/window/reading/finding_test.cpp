@@ -10,6 +10,7 @@
 #include "kit/test_main.h"
 #include "protocol/page_text.h"
 #include "ui/pages/layer_list.h"
+#include "ui/picture/brief_note.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/password_bar.h"
 #include "ui/picture/text_marks.h"
@@ -32,23 +33,30 @@ PageText line() {
     page.places << (page.text.at(i) == u' ' ? QRectF() : QRectF(10 * i, 50, 10, 10));
   page.links = {{QRectF(40, 50, 30, 10), QStringLiteral("https://example.org/\u202etxt"), -1},
                 {QRectF(40, 20, 30, 10), {}, 1},
-                {QRectF(100, 20, 30, 10), QStringLiteral("file:///etc/passwd"), -1}};
+                {QRectF(100, 20, 30, 10), QStringLiteral("file:///etc/passwd"), -1},
+                {QRectF(150, 0, 10, 10), QStringLiteral("HTTP://example.org/"), -1},
+                {QRectF(160, 0, 10, 10), QStringLiteral("mailto:someone@example.org"), -1},
+                {QRectF(170, 0, 10, 10), QStringLiteral("ftp://example.org/"), -1},
+                {QRectF(180, 0, 10, 10), QStringLiteral("javascript:alert(1)"), -1}};
   return page;
 }
 
 class Text : public WindowFixture {
  public:
-  explicit Text(bool hitsElsewhere = false) : c(opened(hitsElsewhere)) {
+  /// `instead`: what the engine answers in place of a text.
+  explicit Text(bool hitsElsewhere = false, const QByteArray& instead = {})
+      : c(opened(hitsElsewhere, instead)) {
     c.window()->show();
     find = c.findChild<FindCommand*>();
     text = c.findChild<TextCommand*>();
     text->setOpener([this](const QUrl& url) { openedUrls << url; });
   }
-  MainWindowController& opened(bool hitsElsewhere) {
+  MainWindowController& opened(bool hitsElsewhere, const QByteArray& instead) {
     MemoryPicture picture;
     picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(0, 0, 200, 100)};
     picture.facts.pageCount = 2;
-    picture.examine = [hitsElsewhere](const ExamineRequest& request) {
+    picture.examine = [hitsElsewhere, instead](const ExamineRequest& request) {
+      if (!instead.isEmpty()) return instead;
       const bool hits = request.page == 0 || hitsElsewhere;
       return encodePageText(request.what == Examination::Text && hits ? line() : PageText());
     };
@@ -69,6 +77,11 @@ class Text : public WindowFixture {
   void activate() {
     c.window()->activateWindow();
     if (!QTest::qWaitForWindowActive(c.window())) qFatal("the window is not active");
+  }
+  /// What is told over the picture.
+  [[nodiscard]] QString note() const {
+    const auto* note = c.window()->findChild<BriefNote*>();
+    return note ? note->text() : QString();
   }
   /// Picture points, as a user drags from one to the other.
   void drag(const QPointF& from, const QPointF& to) {
@@ -116,6 +129,25 @@ class FindingTest : public QObject {
     QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 2"));
     QCOMPARE(f.marks->current(), QList<QRectF>{QRectF(0, 50, 30, 10)});
     QCOMPARE(f.marks->found(), QList<QRectF>{QRectF(80, 50, 30, 10)});
+    QCOMPARE(f.note(), QString());
+  }
+
+  void aTextThatCannotBeReadIsTold() {
+    Text f(false, "no text");
+    f.own("findInPictureAction")->trigger();
+    QTRY_COMPARE(f.note(), QString("The text of the picture cannot be read."));
+  }
+
+  void whileTheTextIsBeingReadNothingIsMissing() {
+    Text f;
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Examine);
+    f.own("findInPictureAction")->trigger();
+    f.find->bar()->setNeedle("three");
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    QCOMPARE(f.find->bar()->outcome(), QString());
+    process->release(PictureCall::Examine);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));
   }
 
   void theWayGoesRound() {
@@ -313,12 +345,38 @@ class FindingTest : public QObject {
     QCOMPARE(f.openedUrls.first().host(), QString("example.org"));
   }
 
-  void whatIsNoAddressOfTheWebIsNotOpened() {
+  void aClickMayTrembleByLessThanTwoPoints() {
     Text f;
     f.begin();
-    f.click({110, 25});
-    QVERIFY(f.alerts.shown.isEmpty());
-    QVERIFY(f.openedUrls.isEmpty());
+    f.alerts.answer = 1;
+    f.drag({52, 55}, {53.9, 55});
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QCOMPARE(f.text->selectedText(), QString());
+    f.drag({52, 55}, {54, 55});
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QCOMPARE(f.text->selectedText(), QString("w"));
+  }
+
+  void addressesOfTheWebAndOfMailAreAskedFor() {
+    Text f;
+    f.begin();
+    f.alerts.answer = 0;
+    f.click({155, 5});
+    f.click({165, 5});
+    QCOMPARE(f.openedUrls, (QList<QUrl>{QUrl("http://example.org/"), QUrl("mailto:someone@example.org")}));
+  }
+
+  void otherAddressesAreNotOpened() {
+    for (const QPointF& place : {QPointF(110, 25), QPointF(175, 5), QPointF(185, 5)}) {
+      Text f;
+      f.begin();
+      f.click(place);
+      QVERIFY(f.alerts.shown.isEmpty());
+      QVERIFY(f.openedUrls.isEmpty());
+      QCOMPARE(f.note(), QString("Links of this kind are not followed."));
+      emit f.marks->hovered(place);
+      QCOMPARE(f.marks->toolTip(), QString());
+    }
   }
 
   void aLinkWithinTheDocumentShowsItsPage() {

@@ -16,6 +16,9 @@ using fuzz::Target;
 
 namespace {
 
+/// How many damaged seeds each target is fed in all, for longer runs than the ordinary one.
+constexpr const char* kExecutions = "NORVEX_FUZZ_EXECUTIONS";
+
 const QList<Target>& allTargets() {
   static const QList<Target> all = fuzz::argumentsTargets() + fuzz::checkTargets() + fuzz::documentTargets() +
                                    fuzz::fontsTargets() + fuzz::metadataTargets() + fuzz::metafileTargets() +
@@ -54,11 +57,10 @@ QByteArray damaged(QByteArray bytes, std::mt19937& random) {
   return bytes;
 }
 
-/// Damaged copies of each of so many seeds. For longer runs NORVEX_FUZZ_EXECUTIONS says how many it takes in
-/// all.
+/// Damaged copies of each of so many seeds.
 int roundsOf(const Target& target, qsizetype seeds) {
   bool isAsked = false;
-  const int executions = qEnvironmentVariableIntValue("NORVEX_FUZZ_EXECUTIONS", &isAsked);
+  const int executions = qEnvironmentVariableIntValue(kExecutions, &isAsked);
   return isAsked ? int((executions + seeds - 1) / seeds) : target.rounds;
 }
 
@@ -71,6 +73,12 @@ void addTargets() {
 
 class TargetsTest : public QObject {
   Q_OBJECT
+ public:
+  TargetsTest() {
+    // Longer runs take longer than Qt Test lets a function take.
+    if (qEnvironmentVariableIsSet(kExecutions)) qputenv("QTEST_FUNCTION_TIMEOUT", "86400000");
+  }
+
  private slots:
   void initTestCase() { QLoggingCategory::setFilterRules("norvex.*=false"); }
   void cleanupTestCase() { QLoggingCategory::setFilterRules(QString()); }

@@ -7,7 +7,8 @@
 // cairo_stroke_preserve(), and sets width and matrix just before; it asks for the extents of each path, and
 // its gradients come with cairo_set_source(). Poppler asks cairo_matrix_transform_distance() for the cells of
 // a gradient that a function tells, and cairo_user_to_device_distance() for the width of a line before it
-// sets it.
+// sets it. What librsvg draws an image with is told to another thread (told_drawing.h): it saves and
+// restores, clips, fills and strokes, and whatever else paints is told as something that cannot be told.
 #include <string_view>
 
 #include "programs/taken_call.h"
@@ -18,22 +19,74 @@
 #include "worker/drawing/shading_steps.h"
 #include "worker/drawing/stroke_measure.h"
 #include "worker/drawing/thin_lines.h"
+#include "worker/drawing/told_drawing.h"
 
 NORVEX_STANDS_IN void cairo_clip(cairo_t* context) {
+  norvex::engine::tellClip(context);
   norvex::engine::noteClip(context);
   norvex::engine::clipBetweenPixels(context);
 }
 
 NORVEX_STANDS_IN void cairo_fill(cairo_t* context) {
+  norvex::engine::tellOther(context);
   norvex::engine::fillBetweenPixels(context);
 }
 
 NORVEX_STANDS_IN void cairo_stroke_preserve(cairo_t* context) {
   static const auto cairos = norvex::librarysOwn(&cairo_stroke_preserve, "cairo_stroke_preserve");
+  norvex::engine::tellStroke(context);
   const double before = cairo_get_tolerance(context);
   cairo_set_tolerance(context, norvex::engine::strokeTolerance(context));
   cairos(context);
   cairo_set_tolerance(context, before);
+}
+
+NORVEX_STANDS_IN void cairo_fill_preserve(cairo_t* context) {
+  static const auto cairos = norvex::librarysOwn(&cairo_fill_preserve, "cairo_fill_preserve");
+  norvex::engine::tellFill(context);
+  cairos(context);
+}
+
+NORVEX_STANDS_IN void cairo_save(cairo_t* context) {
+  static const auto cairos = norvex::librarysOwn(&cairo_save, "cairo_save");
+  norvex::engine::tellSave(context);
+  cairos(context);
+}
+
+NORVEX_STANDS_IN void cairo_restore(cairo_t* context) {
+  static const auto cairos = norvex::librarysOwn(&cairo_restore, "cairo_restore");
+  norvex::engine::tellRestore(context);
+  cairos(context);
+}
+
+NORVEX_STANDS_IN void cairo_stroke(cairo_t* context) {
+  static const auto cairos = norvex::librarysOwn(&cairo_stroke, "cairo_stroke");
+  norvex::engine::tellOther(context);
+  cairos(context);
+}
+
+NORVEX_STANDS_IN void cairo_paint(cairo_t* context) {
+  static const auto cairos = norvex::librarysOwn(&cairo_paint, "cairo_paint");
+  norvex::engine::tellOther(context);
+  cairos(context);
+}
+
+NORVEX_STANDS_IN void cairo_paint_with_alpha(cairo_t* context, double alpha) {
+  static const auto cairos = norvex::librarysOwn(&cairo_paint_with_alpha, "cairo_paint_with_alpha");
+  norvex::engine::tellOther(context);
+  cairos(context, alpha);
+}
+
+NORVEX_STANDS_IN void cairo_mask(cairo_t* context, cairo_pattern_t* pattern) {
+  static const auto cairos = norvex::librarysOwn(&cairo_mask, "cairo_mask");
+  norvex::engine::tellOther(context);
+  cairos(context, pattern);
+}
+
+NORVEX_STANDS_IN void cairo_mask_surface(cairo_t* context, cairo_surface_t* surface, double x, double y) {
+  static const auto cairos = norvex::librarysOwn(&cairo_mask_surface, "cairo_mask_surface");
+  norvex::engine::tellOther(context);
+  cairos(context, surface, x, y);
 }
 
 namespace {
@@ -79,7 +132,17 @@ NORVEX_STANDS_IN void cairo_set_source(cairo_t* context, cairo_pattern_t* patter
 }
 
 NORVEX_STANDS_IN void cairo_show_glyphs(cairo_t* context, const cairo_glyph_t* glyphs, int count) {
+  norvex::engine::tellOther(context);
   norvex::engine::showGlyphs(context, glyphs, count);
+}
+
+NORVEX_STANDS_IN void cairo_show_text_glyphs(cairo_t* context, const char* text, int length,
+                                             const cairo_glyph_t* glyphs, int count,
+                                             const cairo_text_cluster_t* clusters, int clusterCount,
+                                             cairo_text_cluster_flags_t flags) {
+  static const auto cairos = norvex::librarysOwn(&cairo_show_text_glyphs, "cairo_show_text_glyphs");
+  norvex::engine::tellOther(context);
+  cairos(context, text, length, glyphs, count, clusters, clusterCount, flags);
 }
 
 NORVEX_STANDS_IN void cairo_matrix_transform_distance(const cairo_matrix_t* matrix, double* x, double* y) {

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "worker/drawing/told_drawing.h"
+
 namespace norvex::engine {
 namespace {
 
@@ -63,6 +65,49 @@ std::future<Result<Bitmap>> onAnotherThread(const Work& work) {
   }
 }
 
+/// One image in two parts, which differ in nothing from one drawing.
+class Halves {
+ public:
+  Halves(const RenderRequest& request, const PictureLimits& limits, double upperShare)
+      : request_(request), limits_(limits), seam_(int(request.pixelSize.height() * upperShare)) {}
+
+  [[nodiscard]] Result<Bitmap> upper(const PaintPicture& paint) const {
+    return rows(paint, 0, seam_ + kBeyond);
+  }
+  [[nodiscard]] Result<Bitmap> lower(const PaintPicture& paint) const {
+    return rows(paint, seam_ - kBeyond, request_.pixelSize.height());
+  }
+  [[nodiscard]] Result<Bitmap> joined(Result<Bitmap> upper, const Result<Bitmap>& lower) const {
+    if (!lower) return lower;
+    if (!upper->isEmpty())
+      std::memcpy(upper->row(seam_), lower->row(seam_),
+                  size_t(upper->bytesPerRow()) * size_t(upper->height() - seam_));
+    return upper;
+  }
+
+ private:
+  [[nodiscard]] Result<Bitmap> rows(const PaintPicture& paint, int top, int bottom) const {
+    return paintImage(request_, limits_, withinRows(paint, request_.pixelSize.width(), top, bottom));
+  }
+
+  const RenderRequest& request_;
+  const PictureLimits& limits_;
+  const int seam_;
+};
+
+/// Whoever draws what is told waits for it.
+struct EndOfTelling {
+  ToldDrawing& drawing;
+  ~EndOfTelling() { drawing.end(); }
+};
+
+void clear(cairo_t* context) {
+  cairo_save(context);
+  cairo_set_operator(context, CAIRO_OPERATOR_CLEAR);
+  cairo_paint(context);
+  cairo_restore(context);
+}
+
 }  // namespace
 
 bool canPaintHalves(const RenderRequest& request, const PictureLimits& limits) {
@@ -74,21 +119,36 @@ bool canPaintHalves(const RenderRequest& request, const PictureLimits& limits) {
 }
 
 Result<Bitmap> paintHalves(const RenderRequest& request, const PictureLimits& limits,
-                           const PaintPicture& upper, const PaintPicture& lower) {
-  const int width = request.pixelSize.width(), height = request.pixelSize.height();
-  const int seam = height / 2;
-  const auto paintLower = [&](const PaintPicture& paint) {
-    return paintImage(request, limits, withinRows(paint, width, seam - kBeyond, height));
-  };
+                           const PaintPicture& upper, const PaintPicture& lower, double upperShare) {
+  const Halves halves{request, limits, upperShare};
   std::future<Result<Bitmap>> other;  // waited for, whatever happens here, when it goes out of sight
-  if (lower) other = onAnotherThread([&] { return paintLower(lower); });
-  Result<Bitmap> image = paintImage(request, limits, withinRows(upper, width, 0, seam + kBeyond));
-  const Result<Bitmap> rest = other.valid() ? other.get() : image ? paintLower(upper) : image;
+  if (lower) other = onAnotherThread([&] { return halves.lower(lower); });
+  Result<Bitmap> image = halves.upper(upper);
   if (!image) return image;
-  if (!rest) return rest;
-  if (!image->isEmpty())
-    std::memcpy(image->row(seam), rest->row(seam), size_t(image->bytesPerRow()) * size_t(height - seam));
-  return image;
+  return halves.joined(std::move(image), other.valid() ? other.get() : halves.lower(upper));
+}
+
+Result<Bitmap> paintHalvesByTelling(const RenderRequest& request, const PictureLimits& limits,
+                                    const PaintPicture& paint, const PaintPicture& again, double upperShare) {
+  const Halves halves{request, limits, upperShare};
+  ToldDrawing told;
+  const PaintPicture drawTold = [&](cairo_t* context) -> Result<void> {
+    if (told.draw(context)) return {};
+    clear(context);
+    return again(context);
+  };
+  const PaintPicture tell = [&](cairo_t* context) {
+    const ToldDrawing::Teller teller(told, context);
+    return paint(context);
+  };
+  std::future<Result<Bitmap>> other = onAnotherThread([&] { return halves.lower(drawTold); });
+  if (!other.valid()) return paintHalves(request, limits, paint, {}, upperShare);
+  Result<Bitmap> image = [&] {
+    const EndOfTelling end{told};
+    return halves.upper(tell);
+  }();
+  if (!image) return image;
+  return halves.joined(std::move(image), other.get());
 }
 
 }  // namespace norvex::engine

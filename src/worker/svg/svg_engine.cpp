@@ -39,8 +39,11 @@ bool hasUnit(const QString& length) {
   return !text.isEmpty() && text.back().isLetter();
 }
 
+/// Of the rows of an image: the thread that draws them is the one that reads, too.
+constexpr double kUpperShare = 0.4;
+
 /// A document that takes long to draw and in which nothing, by the words in it, is an image or a gradient:
-/// see two_halves.h. `height`: of the document, in units of its paths. What is loaded twice must be small
+/// see two_halves.h. `height`: of the document, in units of its paths. What may be loaded twice must be small
 /// beside the memory that is granted.
 bool isLongAndPlain(const QByteArray& utf8, double height, const PictureLimits& limits) {
   constexpr qsizetype long_ = 256 << 10;         // some thousand curves, a tenth of a second
@@ -49,7 +52,7 @@ bool isLongAndPlain(const QByteArray& utf8, double height, const PictureLimits& 
     return false;
   for (const char* word : {"image", "radient", "pattern", "foreignObject"})
     if (utf8.contains(word)) return false;
-  // What is read, and each path that is looked at, is so twice: only filling long ones is shared.
+  // Each path that is looked at is so twice: only filling long ones is shared.
   return meanPathHeight(utf8) * 4 >= height;
 }
 
@@ -93,7 +96,7 @@ class SvgEngine final : public DocumentEngine {
   const SvgVectors vectors_;
   const SvgReading read_;
   QSizeF pixels_;
-  std::unique_ptr<SvgRenderer> renderer_, second_;  ///< `second_`: the same document, for the other half
+  std::unique_ptr<SvgRenderer> renderer_, second_;  ///< `second_`: the same, where both halves read it
   std::optional<bool> isLongAndPlain_;
   std::optional<QByteArray> pdf_;            ///< without attributes: what every rectangle is cut from
   std::optional<QStringList> missingFonts_;  ///< one sentence each, once something was drawn
@@ -186,8 +189,11 @@ Result<Bitmap> SvgEngine::render(const RenderRequest& request) {
   const AffineTransform pixelsToDevice = pixelsToPicture() * request.pictureToDevice;
   if (request.pictureToDevice.isInvertible() && isDrawnInHalves(request)) {
     if (!missingFonts_) missingFonts_ = missingFamilies(read_.inspection.fontLists);
-    return paintHalves(request, context_.limits, painting(renderer_),
-                       context_.processors > 1 ? painting(second_) : PaintPicture());
+    const PaintPicture paint = painting(renderer_), again = painting(second_);
+    if (context_.processors <= 1) return paintHalves(request, context_.limits, paint, {}, kUpperShare);
+    return SvgRenderer::canBeTold()
+               ? paintHalvesByTelling(request, context_.limits, paint, again, kUpperShare)
+               : paintHalves(request, context_.limits, paint, again, kUpperShare);
   }
   const Result<const SvgRenderer*> loaded = renderer();
   if (!loaded) return loaded.error();

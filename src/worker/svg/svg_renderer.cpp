@@ -12,6 +12,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "worker/drawing/cairo_surface.h"
+#include "worker/drawing/told_drawing.h"
+
 namespace norvex::engine {
 namespace {
 
@@ -36,6 +39,21 @@ ErrorKind kindOf(const QString& reason, ErrorKind otherwise) {
   for (const char* sign : {"limit", "too many", "exceed", "out of memory", "No memory", "NoMemory"})
     if (reason.contains(QLatin1String(sign), Qt::CaseInsensitive)) return ErrorKind::Limit;
   return otherwise;
+}
+
+bool isSampleTold() {
+  const auto sample = SvgRenderer::create(
+      R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"><path d="M1 1h7v7z"/></svg>)", false);
+  if (!sample) return false;
+  const CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 9, 9));
+  const CairoContext context(cairo_create(surface.get())), other(cairo_create(surface.get()));
+  ToldDrawing told;
+  {
+    const ToldDrawing::Teller teller(told, context.get());
+    if (!(*sample)->draw(context.get(), {9, 9})) return false;
+  }
+  told.end();
+  return told.draw(other.get());
 }
 
 }  // namespace
@@ -94,6 +112,11 @@ Result<void> SvgRenderer::draw(cairo_t* context, const QSizeF& pixels) const {
   const QString why = reason(error);
   return Error{kindOf(why, ErrorKind::Unsupported),
                QStringLiteral("the picture cannot be drawn: %1").arg(why)};
+}
+
+bool SvgRenderer::canBeTold() {
+  static const bool told = isSampleTold();
+  return told;
 }
 
 }  // namespace norvex::engine

@@ -29,6 +29,10 @@ class SvgRenderer {
   /// Fails with Unsupported or Limit.
   [[nodiscard]] Result<void> draw(cairo_t* context, const QSizeF& pixels) const;
 
+  /// Whether in this program another thread can be told what is drawn (told_drawing.h): librsvg is bound to
+  /// the functions of cairo, or to those that stand in for them, by whoever loaded it first.
+  [[nodiscard]] static bool canBeTold();
+
  private:
   struct Handle;
   explicit SvgRenderer(std::unique_ptr<Handle> handle);

@@ -40,7 +40,7 @@ bool hasUnit(const QString& length) {
 }
 
 /// Of the rows of an image: the thread that draws them is the one that reads, too.
-constexpr double kUpperShare = 0.4;
+constexpr double kUpperShare = 0.42;
 
 /// A document that takes long to draw and in which nothing, by the words in it, is an image or a gradient:
 /// see two_halves.h. `height`: of the document, in units of its paths. What may be loaded twice must be small

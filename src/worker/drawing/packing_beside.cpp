@@ -138,7 +138,7 @@ void Packer::pack(Bytes piece, int flush) {
       stream_.next_out = packed_.data() + before;
       stream_.avail_out = uInt(kRoom);
       outcome_ = zlib_.pack(&stream_, flush);
-      packed_.resize(packed_.size() - stream_.avail_out);
+      packed_.erase(packed_.end() - std::ptrdiff_t(stream_.avail_out), packed_.end());
       // Nothing was left to do when the room had just been filled.
       if (outcome_ == Z_BUF_ERROR && flush == Z_NO_FLUSH) outcome_ = Z_OK;
       if (flush == Z_NO_FLUSH && stream_.avail_in == 0 && stream_.avail_out > 0) break;

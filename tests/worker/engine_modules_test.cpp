@@ -156,6 +156,15 @@ class EngineModulesTest : public QObject {
         QString("the part of norvex that this picture needs is missing or damaged: norvex-engine-svg.so"));
   }
 
+  void warmingUpWhatIsMissingDoesNothing() {
+    const QTemporaryDir empty;
+    EngineModules(empty.path().toStdString()).warmUp();
+    EngineModules facts(kBuilt.toStdString());
+    QVERIFY(facts.engines(NeedFacts).ok());
+    facts.warmUp();
+    QVERIFY(facts.engines(NeedFacts).ok());
+  }
+
   void aDamagedModuleIsToldAndTheOthersWork() {
     const QTemporaryDir folder;
     QFile damaged(folder.filePath("norvex-engine-svg.so"));

@@ -123,6 +123,38 @@ class ForkServerTest : public QObject {
     QCOMPARE(letterFrom(shared.ours), 's');
   }
 
+  /// And the server lives on: another picture needs no folder.
+  void aFolderThatCannotBeMadeIsTold() {
+    auto pair = MessageChannel::makePair();
+    QVERIFY(pair.ok());
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+      pair->first.reset();
+      const auto tell = [](FileDescriptor, const ForkRequest&, const QString&) {};
+      ForkServer(std::move(pair->second), "/nowhere/at/all", tell, {}).run();
+      ::_exit(0);
+    }
+    pair->second.reset();
+    {
+      MessageChannel control(std::move(pair->first));
+      for (const bool postScript : {true, false}) {
+        Line line = makeLine();
+        ForkRequest request;
+        request.postScript = postScript;
+        QVERIFY(control.send(encodeMessage(request), line.theirs.get()).ok());
+        const auto message = control.receive(QDeadlineTimer(60000));
+        const auto reply = message ? decodeReply(message->cbor) : message.error();
+        QVERIFY(reply.ok());
+        const Error* error = std::get_if<Error>(&reply->body);
+        QCOMPARE(error ? error->message : QString(),
+                 postScript ? QString("no process for the picture could be started (No such file or "
+                                      "directory)")
+                            : QString());
+      }
+    }
+    ::waitpid(pid, nullptr, 0);
+  }
+
   void whatAChildAsksForIsServed() {
     const Line shared = makeLine(), told = makeLine();
     ForkServer::Wish wish;

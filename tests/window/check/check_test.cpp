@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QTabWidget>
 
+#include <algorithm>
+
 #include "kit/test_main.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/password_bar.h"
@@ -14,6 +16,14 @@
 #include "window/check/check_fixture.h"
 
 using namespace norvex;
+
+namespace {
+
+QString sentenceOf(MainWindowController& c) {
+  return pageOf(c).findChild<QLabel*>("checkSentence")->text();
+}
+
+}  // namespace
 
 class CheckTest : public QObject {
   Q_OBJECT
@@ -61,8 +71,7 @@ class CheckTest : public QObject {
     pageOf(c).setProfile(f.folder.filePath("bad.toml"));
     command->start();
     QVERIFY(!command->isChecking());
-    QVERIFY(pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("There is no limit") ||
-            pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("there is no limit"));
+    QVERIFY(sentenceOf(c).contains("There is no limit") || sentenceOf(c).contains("there is no limit"));
   }
 
   void edgesOfTheInkAreLookedForSharplyWhereSomethingIsToBeTold() {
@@ -110,7 +119,7 @@ class CheckTest : public QObject {
     QVERIFY(QLineF(centre, c.viewWidget()->fromView({15, -60})).length() < 1);
     QVERIFY(mark->frame().boundingRect().height() > mark->frame().boundingRect().width());
     c.windowDidLoad();
-    QTRY_VERIFY(!mark->isVisible());  // another picture has other places
+    QVERIFY(!mark->isVisible());  // another picture has other places
   }
 
   void aPlaceOnAnotherPageIsShownThere() {
@@ -154,12 +163,47 @@ class CheckTest : public QObject {
     QVERIFY(command.isChecking());
     emit c.fileChanged();
     QVERIFY(!command.isChecking());
-    QVERIFY(pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("has changed"));
+    QVERIFY(sentenceOf(c).contains("has changed"));
     f.service.setPrepare([](MemoryPictureProcess&) {});
     f.write(epsBytes().replace("%%EOF", "showpage\n%%EOF"), "a.eps");
     f.revert();
     QTRY_VERIFY(!command.isChecking() && !command.findings().isEmpty());
     QVERIFY(!hasFinding(command.findings(), "eps.showpage.missing"));
+  }
+
+  void aFileThatChangesAfterItsCheckLeavesTheFindings() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    const QString before = sentenceOf(c);
+    emit c.fileChanged();
+    QCOMPARE(sentenceOf(c), before);
+  }
+
+  void withoutAFileNothingIsChecked() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    CheckCommand* command = f.checked(c);
+    f.document.setFileURL({});
+    command->start();
+    QVERIFY(!command->isChecking());
+    QCOMPARE(sentenceOf(c), QStringLiteral("There is no file to check."));
+  }
+
+  void whatCouldNotBeCheckedIsToldBesideTheFindings() {
+    CheckFixture f;
+    f.service.setPrepare([](MemoryPictureProcess& process) {
+      process.fail(PictureCall::Examine, {ErrorKind::Limit, "the page is too large"});
+    });
+    MainWindowController& c = f.shown();
+    const CheckCommand* command = f.checked(c);
+    QVERIFY(!command->findings().isEmpty());
+    const auto labels = pageOf(c).findChildren<QLabel*>();
+    QCOMPARE(std::count_if(labels.begin(), labels.end(),
+                           [](const QLabel* label) {
+                             return label->text().startsWith("Not everything could be checked. ");
+                           }),
+             1);
   }
 
   void aWindowThatGoesEndsItsCheck() {
@@ -183,7 +227,7 @@ class CheckTest : public QObject {
     CheckCommand& command = f.command(c);
     pageOf(c).findChild<QPushButton*>("checkAgain")->click();
     QVERIFY(!command.isChecking());
-    QVERIFY(pageOf(c).findChild<QLabel*>("checkSentence")->text().contains("stopped"));
+    QVERIFY(sentenceOf(c).contains("stopped"));
   }
 
   void thePasswordOfTheWindowIsThatOfTheCheck() {

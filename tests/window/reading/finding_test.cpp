@@ -53,8 +53,8 @@ class Text : public WindowFixture {
   }
   MainWindowController& opened(bool hitsElsewhere, const QByteArray& instead) {
     MemoryPicture picture;
-    picture.facts.pageBounds = {QRectF(0, 0, 200, 100), QRectF(0, 0, 200, 100)};
-    picture.facts.pageCount = 2;
+    picture.facts.pageBounds = QList<QRectF>(3, QRectF(0, 0, 200, 100));
+    picture.facts.pageCount = 3;
     picture.examine = [hitsElsewhere, instead](const ExamineRequest& request) {
       if (!instead.isEmpty()) return instead;
       const bool hits = request.page == 0 || hitsElsewhere;
@@ -168,7 +168,7 @@ class FindingTest : public QObject {
     auto* pages = f.c.findChild<PagesCommand*>();
     f.lookFor("one");
     emit f.find->bar()->wanted(true);  // back from the first
-    QTRY_COMPARE(pages->shown(), 1);
+    QTRY_COMPARE(pages->shown(), 2);
     QTRY_COMPARE(f.find->bar()->outcome(), QString("2 of 2"));
     emit f.find->bar()->wanted(false);
     QTRY_COMPARE(pages->shown(), 0);

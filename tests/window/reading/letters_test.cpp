@@ -46,6 +46,15 @@ class LettersTest : public QObject {
     QCOMPARE(placesOf(page, {0, 2}).size(), 2);
   }
 
+  void lettersOfOneLineShareHalfOfTheirHeight() {
+    PageText page;
+    page.text = QStringLiteral("ab");
+    page.places = {QRectF(0, 0, 10, 10), QRectF(10, 4.5, 10, 10)};
+    QCOMPARE(placesOf(page, {0, 2}).size(), 1);
+    page.places[1].moveTop(5.5);
+    QCOMPARE(placesOf(page, {0, 2}).size(), 2);
+  }
+
   void aWideLetterIsNearAllOverItsWidth() {
     PageText page;
     page.text = QStringLiteral("Wi");
@@ -60,6 +69,7 @@ class LettersTest : public QObject {
     QCOMPARE(letterNear(twoLines(), {500, 52}),
              4);  // far to the right, where the other line is no farther off
     QCOMPARE(letterNear(twoLines(), {500, 32}), 7);
+    QCOMPARE(letterNear(twoLines(), {25, 55}), 1);  // of two that are as near the first
     QCOMPARE(letterNear(PageText(), {1, 1}), -1);
   }
 

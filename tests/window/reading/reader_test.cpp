@@ -54,8 +54,10 @@ class Protected : public WindowFixture {
 /// Layers "Red" (shown) and "Blue" (hidden), as they were switched last.
 class Layered : public WindowFixture {
  public:
-  Layered() : c(opened()) {}
-  MainWindowController& opened() {
+  /// `state`: the folder of a window that was there before.
+  explicit Layered(const QString& state = {}) : c(opened(state)) {}
+  MainWindowController& opened(const QString& state) {
+    if (!state.isEmpty()) qputenv("XDG_STATE_HOME", state.toUtf8());
     service.setPicture(pictureWith({{"Red", true}, {"Blue", false}}));
     service.setChoose([this](const QByteArray& pdf, const ReaderChoices& choices) {
       service.setPicture(pictureWith(choices.layers.last(2)));
@@ -186,6 +188,24 @@ class ReaderTest : public QObject {
     QVERIFY(!c.window()->findChild<QDockWidget*>(QStringLiteral("layersDock")));
   }
 
+  void theNextWindowListsThemAsThisOneDoes() {
+    Layered f;
+    f.action()->trigger();
+    Layered next(f.folder.path());
+    QVERIFY(next.action()->isChecked() && next.isListed());
+    next.action()->trigger();
+    Layered third(f.folder.path());
+    QVERIFY(!third.action()->isChecked() && !third.isListed());
+  }
+
+  void theListsOwnButtonClosesItAsTheCommandDoes() {
+    Layered f;
+    f.c.window()->show();
+    f.action()->trigger();
+    f.c.window()->findChild<QDockWidget*>("layersDock")->close();
+    QVERIFY(!f.action()->isChecked() && !f.isListed());
+  }
+
   void aSwitchShowsTheDocumentWithOtherLayersInItsPlace() {
     Layered f;
     f.c.rotateChange(90);
@@ -194,6 +214,7 @@ class ReaderTest : public QObject {
     f.press(1, true);
     QVERIFY(f.c.view()->imageRep() != before);
     QCOMPARE(f.list()->item(1)->checkState(), Qt::Checked);
+    QVERIFY(!f.c.window()->findChild<BriefNote*>()->text().contains("locks"));  // it tells the page
     QCOMPARE(f.service.choices().constLast().layers.constLast().shown, true);
     QCOMPARE(f.c.view()->imageRep()->page(), 1);
     QCOMPARE(f.c.view()->bounds().size(), QSizeF(400, 300));
@@ -215,6 +236,18 @@ class ReaderTest : public QObject {
     QCOMPARE(told(), QString("R-B+"));
     f.press(0, true);
     QCOMPARE(told(), QString("R-B+R+B+"));
+  }
+
+  void noMoreLayersAreToldThanTheEngineTakes() {
+    for (const int count : {250, 251}) {
+      Layered f;
+      QList<PictureLayer> layers;
+      for (int i = 0; i < count; ++i) layers.append({QString::number(i), i == 0});
+      f.service.setPicture(Layered::pictureWith(layers));
+      f.revert();
+      f.press(1, true);
+      QCOMPARE(f.service.choices().constLast().layers.size(), count == 250 ? 500 : 251);
+    }
   }
 
   void aLockedLayerSpringsBackAndSaysWhy() {

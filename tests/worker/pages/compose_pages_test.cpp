@@ -3,6 +3,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <cmath>
+
 #include "kit/program.h"
 #include "kit/test_main.h"
 #include "worker/engine/engine.h"
@@ -106,6 +109,21 @@ class ComposePagesTest : public QObject {
     };
     QVERIFY(dark({265, 18, 16, 12}) && !dark({0, 18, 100, 12}) && !dark({282, 0, 18, 40}));
     QVERIFY(dark({18, 378, 16, 12}) && !dark({200, 378, 100, 12}));
+  }
+
+  void aLineStandsInTheMiddleOfItsRoom() {
+    PagesRequest request = twoSheets();
+    request.fontFamily = "sans-serif";
+    request.fontSize = 40;
+    request.picture = false;
+    request.header = SheetLine{"H\t\t", QRectF(20, 300, 260, 60)};
+    const QImage page = drawn(written(*composePages({}, request)), 1);
+    int first = page.height(), last = 0;
+    for (int y = 0; y < page.height(); ++y)
+      for (int x = 0; x < page.width(); ++x)
+        if (qGray(page.pixel(x, y)) < 128) first = std::min(first, y), last = y;
+    QVERIFY2(std::abs((first + last) / 2.0 - (400 - 330)) < 3,
+             qPrintable(QString("%1 to %2").arg(first).arg(last)));
   }
 
   void aLongLineIsShortenedInItsMiddle() {

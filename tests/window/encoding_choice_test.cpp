@@ -63,6 +63,8 @@ class EncodingChoiceTest : public QObject {
     QCOMPARE(f.note->text(),
              QStringLiteral("A guess, as nothing says how the source is encoded. Read as macintosh:"));
     QCOMPARE(f.guess->cellAtIndex(0)->text(), QStringLiteral("Résumé"));
+    QCOMPARE(f.guess->titles(),
+             QStringList({"Title:", "Creator:", "Created:", "For:", "Copyright:", "Description:"}));
     QVERIFY(f.isShown(f.guess->cellAtIndex(0)));
     QVERIFY(!f.isShown(f.guess->cellAtIndex(1)));  // no creator
   }

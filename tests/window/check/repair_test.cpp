@@ -49,6 +49,7 @@ class RepairTest : public QObject {
     MainWindowController& c = f.shown();
     f.checked(c);
     const QByteArray before = f.read("a.eps");
+    f.write("what the panel has asked about", "b.eps");
     Opened opened;
     f.alerts.answer = 0;
     pageOf(c).findChild<QPushButton*>("repairAll")->click();
@@ -65,6 +66,39 @@ class RepairTest : public QObject {
     QVERIFY(f.alerts.shown[0].informativeText.contains("showpage", Qt::CaseInsensitive));
     QCoreApplication::processEvents();
     QCOMPARE(opened.urls, QList<QUrl>{url});
+  }
+
+  void thatNothingIsChangedAndWhatStaysAsItIsAreTold() {
+    const auto told = [](const QByteArray& bytes, const QString& name, const QStringList& missingFonts) {
+      CheckFixture f;
+      MemoryPicture picture = soundPicture();
+      picture.examine = [=, answer = picture.examine](const ExamineRequest& request) {
+        if (request.what != Examination::Contents) return answer(request);
+        PageContents page;
+        page.size = {200, 100};
+        page.missingFonts = missingFonts;
+        return encodePageContents(page);
+      };
+      f.service.setPicture(picture);
+      MainWindowController& c = f.loaded(bytes, name, NorvexEPSType);
+      c.setSavePanel(&f.panel);
+      c.window()->show();
+      c.showInspectorWindow();
+      const CheckCommand* check = f.checked(c);
+      auto* repair = c.inspectorWindow->findChild<RepairCommand*>();
+      repair->run(check->findings());
+      const QString proposed = f.panel.settings.nameFieldStringValue;
+      QSignalSpy ended(repair, &RepairCommand::ended);
+      f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath("b.eps"))});
+      if (ended.isEmpty() && !ended.wait(20000)) qFatal("never repaired");
+      return proposed + ": " + f.alerts.shown.value(0).informativeText;
+    };
+    const QByteArray sound =
+        epsBytes("%%HiResBoundingBox: 10 20 210 120\n").replace("%%EOF", "showpage\n%%EOF");
+    QCOMPARE(told(sound, "a.eps", {}), QString("a_repaired.eps: Nothing had to be changed."));
+    const QString stays = told(sound, "a", {"the font Some is missing"});
+    QVERIFY2(stays.startsWith("a_repaired: Nothing had to be changed.\n\nThis stays as it is:\n• "),
+             qPrintable(stays));
   }
 
   void aPanelThatIsCancelledRepairsNothing() {

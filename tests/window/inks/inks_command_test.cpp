@@ -31,6 +31,15 @@ class InksCommandTest : public QObject {
     QCOMPARE(f.image().pixel(1, 0), qRgb(255, 242, 0));
   }
 
+  void withoutAPictureThatIsSaid() {
+    InksFixture f;
+    f.controller = &f.open("", "a.pdf", "com.adobe.pdf");
+    f.controller->window();
+    f.look();
+    QCOMPARE(f.sentence(), QString("There is no picture."));
+    QVERIFY(f.requests().isEmpty());
+  }
+
   void aSwitchAsksTheEngineNothing() {
     InksFixture f;
     f.openPdf();

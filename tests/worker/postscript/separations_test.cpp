@@ -363,6 +363,19 @@ class SeparationsTest : public QObject {
     QCOMPARE(inkNamed(*page, "Black")->coverage, 1.0);
   }
 
+  void aPdfWithErrorsIsSeparatedAndSaysSo() {
+    Opened whole(PictureKind::Pdf, pdf());
+    QVERIFY(whole.inks().ok());
+    QCOMPARE(whole.warnings, QStringList());
+    Opened damaged(PictureKind::Pdf,
+                   kit::onePage("0 0 0 1 k 0 0 9 9 re f /Missing Do Q", "/MediaBox [0 0 60 40]"));
+    const Result<PageInks> page = damaged.inks();
+    QVERIFY2(page.ok(), qPrintable(errorOf(page)));
+    QVERIFY(inkNamed(*page, "Black")->coverage > 0);
+    QCOMPARE(damaged.warnings,
+             QStringList("the page has errors, and something may be missing on its plates"));
+  }
+
   void everyPageOfAPdfHasItsOwnPlates() {
     const QByteArray document =
         kit::madePdf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 >>",

@@ -28,6 +28,15 @@ FileDescriptor canvas(const CanvasHeader& header, qsizetype bytes, char byte = '
 class ProgramWatchTest : public QObject {
   Q_OBJECT
  private slots:
+  /// 1600 along the longer side, and no more than four a point.
+  void asManyPixelsAreDrawnAsAScreenShows() {
+    const auto dpiOf = [](const QSizeF& points) { return ProgramWatch(points).deviceParameters(); };
+    const QByteArray smooth = " /TextAlphaBits 4 /GraphicsAlphaBits 4";
+    QCOMPARE(dpiOf({400, 100}), "/HWResolution [288 288]" + smooth);
+    QCOMPARE(dpiOf({100, 3200}), "/HWResolution [36 36]" + smooth);
+    QCOMPARE(dpiOf({1, 1}), "/HWResolution [288 288]" + smooth);
+  }
+
   void pixelsAreReadRowByRow() {
     const FileDescriptor file = canvas({3, 2, 20}, 40);
     const Bitmap bitmap = bitmapOfCanvas(file.get(), kLimits);

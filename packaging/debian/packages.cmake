@@ -61,4 +61,7 @@ install(FILES ${packed}/changelog.Debian.gz ${packed}/changelog.gz DESTINATION $
 install(FILES ${packed}/changelog.Debian.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/norvex-thumbnailer
         COMPONENT thumbnailer)
 install(FILES debian/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/norvex-thumbnailer COMPONENT thumbnailer)
+install(FILES debian/norvex.lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME norvex)
+install(FILES debian/norvex-thumbnailer.lintian-overrides DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides
+        RENAME norvex-thumbnailer COMPONENT thumbnailer)
 include(CPack)

@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolButton>
@@ -38,6 +39,7 @@ namespace {
 constexpr int kSettleMs = 80;
 constexpr int kRefreshMs = 5000;
 constexpr QSize kFileDialogSize(720, 560);
+constexpr QSize kSmallestPreview(330, 330);  // where the screen has room for it
 const QString kSuffix = QStringLiteral("pdf");
 const QString kFileItem = QStringLiteral("\n");  // no printer can be called that
 
@@ -135,6 +137,7 @@ void PrintPanel::addPrinter(QFormLayout* form) {
   state_->setObjectName(QStringLiteral("printerState"));
   state_->setWordWrap(true);
   state_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  state_->installEventFilter(this);
   makeQuiet(*state_);
   form->addRow(localizedString("P&rinter:"), printer_);
   form->addRow(QString(), state_);
@@ -192,7 +195,8 @@ QWidget* PrintPanel::previewColumn() {
   auto* box = new QVBoxLayout(column);
   box->setContentsMargins(0, 0, 0, 0);
   preview_ = new PageLayoutPreview;
-  preview_->setMinimumSize(330, 330);
+  const QSize room = screen()->availableSize();
+  preview_->setMinimumSize(kSmallestPreview.boundedTo({room.width() / 3, room.height() / 2}));
   connect(preview_, &PageLayoutPreview::resized, &settle_, [this] { settle_.start(kSettleMs); });
   box->addWidget(preview_, 1);
   auto* row = new QHBoxLayout;
@@ -282,6 +286,7 @@ void PrintPanel::showState() {
       usable = printer.acceptsJobs;
     }
   state_->setText(text);
+  showWholeState();
   print_->setEnabled(usable && pages_.has_value());
 }
 
@@ -356,6 +361,16 @@ void PrintPanel::takeDrawing(const Drawn& drawn) {
     preview_->setImage(drawn.image);
   else
     preview_->setProblem(drawn.problem);
+}
+
+/// The panel is as high as its lines were before the sentence was known; one that wraps makes it higher.
+void PrintPanel::showWholeState() {
+  if (isVisible()) state_->setMinimumHeight(state_->heightForWidth(state_->width()));
+}
+
+bool PrintPanel::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == state_ && event->type() == QEvent::Resize) showWholeState();
+  return QDialog::eventFilter(watched, event);
 }
 
 void PrintPanel::changeEvent(QEvent* event) {

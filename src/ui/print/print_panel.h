@@ -60,6 +60,7 @@ class PrintPanel final : public QDialog {
 
  protected:
   void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   struct Drawn {
@@ -74,6 +75,7 @@ class PrintPanel final : public QDialog {
   QWidget* previewColumn();
   void showPrinters(const Result<QList<Printer>>& printers);
   void showState();
+  void showWholeState();
   /// The settings' printer, where it is gone the default one, without that the first.
   [[nodiscard]] QString firstChoice() const;
   [[nodiscard]] bool savesToFile() const;

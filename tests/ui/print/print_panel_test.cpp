@@ -143,6 +143,18 @@ class PrintPanelTest : public QObject {
     QCOMPARE(panel_->result(), int(QDialog::Accepted));
   }
 
+  void aSentenceThatWrapsIsShownWhole() {
+    open({100, 100});
+    spooler_->error =
+        Error{ErrorKind::CannotWrite,
+              QString("the printer “%1” takes no jobs").arg(QString("at the end of the hall ").repeated(8))};
+    panel_->fetchPrinters();
+    auto* label = child<QLabel>("printerState");
+    QTRY_VERIFY(label->text() != "Stopped");
+    QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
+    QVERIFY(label->height() > 2 * label->fontMetrics().height());
+  }
+
   void aFileOfPagesIsSuggestedBesideThePictureAndNeverOneThatIsThere() {
     QTemporaryDir folder;
     open({100, 100}, {});

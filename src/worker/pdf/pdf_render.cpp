@@ -14,6 +14,7 @@
 #include "worker/drawing/pixel_edges.h"
 #include "worker/drawing/shading_steps.h"
 #include "worker/drawing/two_halves.h"
+#include "worker/drawing/uncollected_text.h"
 #include "worker/pdf/pdf_file.h"
 #include "worker/pdf/plain_page.h"
 
@@ -65,6 +66,7 @@ Result<void> paintPage(cairo_t* context, PopplerPage* page, QSizeF shownSize) {
   cairo_scale(context, shownSize.width() / width, -shownSize.height() / height);
   (void)takeGlyphExcess();
   const ShadedContext shaded(context);
+  const UncollectedText uncollected;
   poppler_page_render(page, context);
   switch (takeGlyphExcess()) {
     case GlyphExcess::Levels:

@@ -26,6 +26,7 @@ NorvexView::NorvexView(const QRectF& frame) : frame_(frame), bounds_(QPointF(0, 
 
 NorvexView::~NorvexView() {
   QObject::disconnect(renderingArrived_);
+  QObject::disconnect(renderingFailed_);
 }
 
 void NorvexView::awakeFromNib() {
@@ -45,11 +46,15 @@ void NorvexView::setDelegate(NorvexViewDelegate* delegate) {
 
 void NorvexView::setImageRep(std::shared_ptr<NSImageRep> imageRep) {
   QObject::disconnect(renderingArrived_);
+  QObject::disconnect(renderingFailed_);
   imageRep_ = std::move(imageRep);
   if (!imageRep_) return;
-  renderingArrived_ = QObject::connect(imageRep_.get(), &NSImageRep::renderingArrived, [this] {
+  const auto redraw = [this] {
     if (host_) host_->setNeedsDisplay();
-  });
+  };
+  renderingArrived_ = QObject::connect(imageRep_.get(), &NSImageRep::renderingArrived, redraw);
+  // What stood in for the picture is gone.
+  renderingFailed_ = QObject::connect(imageRep_.get(), &NSImageRep::renderingFailed, redraw);
 }
 
 void NorvexView::setImageSize(const QSizeF& size) {

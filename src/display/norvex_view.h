@@ -171,7 +171,7 @@ class NorvexView {
   bool flippedCoordinate_ = false;
   bool delegateFlag_ = false;
   std::shared_ptr<NSImageRep> imageRep_;
-  QMetaObject::Connection renderingArrived_;
+  QMetaObject::Connection renderingArrived_, renderingFailed_;
   QRectF frame_, bounds_;
 };
 

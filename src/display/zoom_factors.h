@@ -24,6 +24,10 @@ inline constexpr std::array<ZoomFactor, 11> zoomFactors{{{"10%", 0.1000000014901
                                                          {"800%", 8.0},
                                                          {"1600%", 16.0}}};
 
+/// What a picture may be zoomed to by other means than the menu.
+inline constexpr double smallestZoomFactor = 0.01;
+inline constexpr double largestZoomFactor = zoomFactors.back().factor;
+
 /// -1 for a factor that is not in the table.
 [[nodiscard]] int indexOfZoomFactor(double factor);
 

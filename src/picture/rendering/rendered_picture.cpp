@@ -290,7 +290,6 @@ void RenderedPicture::finish(const RenderQueue::Finished& finished) {
 
 void RenderedPicture::store(const RenderJob& job, const QImage& image) {
   failuresInARow_ = 0;
-  first_.reset();
   if (!job.background) error_.reset();
   const QRect box = pixelRect(job.layer.mapRect(QRectF(QPointF(), size_)));
   const bool whole = job.rect == box;
@@ -299,6 +298,7 @@ void RenderedPicture::store(const RenderJob& job, const QImage& image) {
     layer.add(job.rect, image);
     overview_ = layer;
   }
+  if (overview_) first_.reset();
   if (job.overview) return;
   const auto fits = [&](const RenderedLayer& layer) { return layer.fits(job.layer, size_); };
   auto at = std::find_if(layers_.begin(), layers_.end(), fits);
@@ -308,6 +308,7 @@ void RenderedPicture::store(const RenderJob& job, const QImage& image) {
     at = layers_.insert(current || layers_.isEmpty() ? 0 : 1, RenderedLayer(job.layer));
   }
   at->add(job.rect, image);
+  if (at->covers(box)) first_.reset();
   trim();
 }
 

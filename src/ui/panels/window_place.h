@@ -11,6 +11,9 @@ class QScreen;
 
 namespace norvex {
 
+/// Of what desktops draw around a window; how much it is this time is known only a while after it is shown.
+inline constexpr QMargins usualFrame(4, 32, 4, 6);
+
 /// Logical pixels, y down, like every rectangle here.
 struct WindowRoom {
   QList<QRect> screens;  ///< of each what windows may cover

@@ -26,7 +26,6 @@ namespace {
 constexpr int kBarExtent = 14;
 constexpr int kCardMargin = 12;
 constexpr int kWidestCard = 640;
-constexpr double kLeastFactor = 0.01, kMostFactor = 16;
 constexpr double kHair = 1e-6;  ///< of a pixel: rounding, nothing to scroll
 
 QString barStyle(const QPalette& palette) {
@@ -166,7 +165,7 @@ double ZoomingScrollArea::fittingFactor() const {
   if (size.isEmpty()) return 1;
   const QSizeF room = roomWithoutBar();
   const double factor = std::min(room.width() / size.width(), room.height() / size.height());
-  return std::clamp(factor, kLeastFactor, kMostFactor);
+  return std::clamp(factor, smallestZoomFactor, largestZoomFactor);
 }
 
 double ZoomingScrollArea::fittingWidthFactor() const {
@@ -176,7 +175,7 @@ double ZoomingScrollArea::fittingWidthFactor() const {
   double factor = room.width() / size.width();
   if (!bare_ && size.height() * factor > room.height() + kHair)
     factor = (room.width() - kBarExtent) / size.width();
-  return std::clamp(factor, kLeastFactor, kMostFactor);
+  return std::clamp(factor, smallestZoomFactor, largestZoomFactor);
 }
 
 void ZoomingScrollArea::addCard(QWidget* card, Qt::Edge edge) {

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 
+#include "display/zoom_factors.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
 
@@ -15,7 +16,6 @@ namespace norvex {
 
 namespace {
 
-constexpr double kSmallestFactor = 0.01, kLargestFactor = 16;
 constexpr double kPixelsPerNotch = 72;
 
 }  // namespace
@@ -40,7 +40,7 @@ bool ZoomingScrollArea::event(QEvent* event) {
 }
 
 void ZoomingScrollArea::pinchTo(double factor, const QPointF& global) {
-  scrollView_.zoomTo(std::clamp(factor, kSmallestFactor, kLargestFactor), clip_->mapFromGlobal(global));
+  scrollView_.zoomTo(std::clamp(factor, smallestZoomFactor, largestZoomFactor), clip_->mapFromGlobal(global));
   synchronize();
 }
 

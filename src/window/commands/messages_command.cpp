@@ -118,7 +118,6 @@ void MessagesCommand::tellWhatStopped() {
 
 void MessagesCommand::showProblem(const Error& error) {
   followRendering();
-  parts_.viewWidget()->update();  // what stood in for the picture is gone
   const bool hasPicture = parts_.validateUserInterfaceItem();
   // What the process met may be gone the next time; what the document is will not.
   const bool mayPass =

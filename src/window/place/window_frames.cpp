@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "base/state_folder.h"
+#include "ui/panels/window_place.h"
 
 namespace norvex {
 
@@ -29,7 +30,10 @@ QString keyFor(const QString& autosaveName) {
 }  // namespace
 
 QRect savedWindowFrame(const QString& autosaveName) {
+  constexpr int kFar = 100'000;  // beyond every desktop: a file may say anything, and places are added up
   const QRect frame = settings().value(keyFor(autosaveName)).toRect();
+  for (const int edge : {frame.left(), frame.top(), frame.right(), frame.bottom()})
+    if (edge < -kFar || edge > kFar) return {};
   return frame.width() >= 100 && frame.height() >= 100 ? frame : QRect();
 }
 
@@ -70,7 +74,7 @@ QMargins savedFrameMargins() {
   for (const QVariant& each : settings().value(kMargins).toList()) read << each.toInt();
   const bool good =
       read.size() == 4 && std::all_of(read.cbegin(), read.cend(), [](int n) { return n >= 0 && n <= kMost; });
-  return good ? QMargins(read[0], read[1], read[2], read[3]) : QMargins(4, 30, 4, 6);
+  return good ? QMargins(read[0], read[1], read[2], read[3]) : usualFrame;
 }
 
 void saveFrameMargins(const QMargins& margins) {

@@ -122,7 +122,9 @@ void WindowPlacing::settle() {
   if (!window_->isVisible() || isLarge()) return;
   const bool first = !settled_;
   settled_ = true;
-  saveFrameMargins(told(*window_));
+  const QMargins around = told(*window_);
+  // A slow window manager has not yet shown it, and drawn nothing around it; without one there is nothing.
+  if (!around.isNull() || window_->windowHandle()->isExposed()) saveFrameMargins(around);
   if (first || isAsGiven()) keepOnScreen();
 }
 

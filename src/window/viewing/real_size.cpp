@@ -9,6 +9,7 @@
 
 #include "base/localized_string.h"
 #include "display/skt_zooming_scroll_view.h"
+#include "display/zoom_factors.h"
 #include "window/commands/window_parts.h"
 
 namespace norvex {
@@ -22,7 +23,8 @@ constexpr double kFewestDots = 45, kMostDots = 400;  // of a wall and of a telep
 double realSizeFactor(double physicalDots, double logicalDots) {
   const bool believed = physicalDots >= kFewestDots && physicalDots <= kMostDots;
   const double dots = believed ? physicalDots : logicalDots;
-  return std::isfinite(dots) && dots > 0 ? std::clamp(dots / kPointsPerInch, 0.01, 16.0) : 1;
+  if (!std::isfinite(dots) || dots <= 0) return 1;
+  return std::clamp(dots / kPointsPerInch, smallestZoomFactor, largestZoomFactor);
 }
 
 QAction* makeRealSizeAction(WindowParts& parts, const QAction& actualSize) {

@@ -58,6 +58,30 @@ class MovingPictureTest : public QObject {
     for (int x = 0; x < kFrame.width(); ++x) QVERIFY(turned.pixelColor(x, 100) != QColor(Qt::magenta));
   }
 
+  void aFirstImageStaysAroundTheTilesThatAreDrawn() {
+    constexpr QSizeF kPage(1200, 800);
+    RenderedPictureOptions options;
+    options.wholePixels = 1;
+    MemoryPicture memory;
+    memory.paint = [](const RenderRequest& request) {
+      // The picture as a whole, in coarse pixels, is not to be had.
+      const bool isWhole =
+          request.pictureToDevice.mapRect(QRectF(QPointF(), QSizeF(1200, 800))).size().toSize() ==
+          request.pixelSize;
+      return isWhole ? QImage() : testPattern(request, QSizeF(1200, 800));
+    };
+    const Fixture f(kPage, options, memory);
+    QImage preview(120, 80, QImage::Format_RGB32);
+    preview.fill(Qt::magenta);
+    f.picture->showFirst(preview);
+    const QTransform t = placed(kPage, 2, 0, {150, 100});
+    QVERIFY(f.becomesSharp(t));
+    QVERIFY(f.becomesIdle());
+    QCOMPARE(f.draw(t), f.reference(t));
+    const QImage corner = f.draw(placed(kPage, 2, 0, {1200, 800}));
+    QCOMPARE(corner.pixelColor(10, 10), QColor(Qt::magenta));
+  }
+
   void aFirstImageGoesWhenThePictureCannotBeDrawn() {
     NullPictureService service;
     RenderedPicture picture(service.open({}, PictureKind::Eps), 0, kSmall);

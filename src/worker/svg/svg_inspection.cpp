@@ -213,9 +213,13 @@ void Inspector::lookAt(const QString& name, const Attribute& attribute) {
   if (isUsed(QLatin1String("filter"))) ++found_.filters;
   if (isUsed(QLatin1String("mask"))) ++found_.masks;
   if (name == QLatin1String("feMorphology") && attribute.name == QLatin1String("radius")) noteRadius(value);
-  static const QRegularExpression layer("(?:^|[;\\s])(?:opacity|filter|mask|mix-blend-mode|isolation)\\s*:");
+  static const QRegularExpression layer(
+      "(?:^|[;\\s/])(?:opacity|filter|mask|mix-blend-mode|isolation)\\s*(?::|/\\*)");
   static const QSet<QString> layers{"opacity", "filter", "mask", "mix-blend-mode", "isolation"};
   if (layers.contains(attribute.name) || (attribute.name == QLatin1String("style") && value.contains(layer)))
+    found_.hasLayers = true;
+  // librsvg clips a layer of its own in units of what is clipped.
+  if (attribute.name == QLatin1String("clipPathUnits") && value == QLatin1String("objectBoundingBox"))
     found_.hasLayers = true;
   if (attribute.name == QLatin1String("style") || value.contains(QLatin1String("url("))) {
     const SvgStyleFacts style = svgStyleFacts(value);

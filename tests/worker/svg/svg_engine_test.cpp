@@ -186,9 +186,18 @@ class SvgEngineTest : public QObject {
     QCOMPARE(image.pixel(40, 51), 0u);
   }
 
+  void layersAreRightAtEveryAngle_data() {
+    QTest::addColumn<QByteArray>("contents");
+    QTest::newRow("a group") << QByteArray("<g opacity='0.5'><rect width='96' height='96' fill='#f00'/></g>");
+    QTest::newRow("in a style") << QByteArray(
+        "<g style='/**/opacity:0.5'><rect width='96' height='96' fill='#f00'/></g>");
+    QTest::newRow("a clip in units of what it clips") << QByteArray(
+        "<clipPath id='c' clipPathUnits='objectBoundingBox'><path d='M0 0h1v1H0'/></clipPath>"
+        "<path d='M0 0h96v96H0' fill='#f00' fill-opacity='0.5' clip-path='url(#c)'/>");
+  }
   void layersAreRightAtEveryAngle() {
-    OpenSvg document(
-        svgOf("width='96' height='96'", "<g opacity='0.5'><rect width='96' height='96' fill='#f00'/></g>"));
+    QFETCH(QByteArray, contents);
+    OpenSvg document(svgOf("width='96' height='96'", contents));
     for (int degrees = 0; degrees < 360; degrees += 15) {
       RenderRequest request;
       request.pixelSize = QSize(120, 120);

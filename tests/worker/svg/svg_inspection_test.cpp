@@ -175,10 +175,13 @@ class SvgInspectionTest : public QObject {
   }
 
   void layersAreSeen() {
-    QVERIFY(!inspectSvg(svgOf("", "<g style='fill-opacity:0.5' stroke-opacity='0.5'/>"))->hasLayers);
+    for (const char* contents :
+         {"<g style='fill-opacity:0.5' stroke-opacity='0.5'/>", "<clipPath clipPathUnits='userSpaceOnUse'/>"})
+      QVERIFY2(!inspectSvg(svgOf("", contents))->hasLayers, contents);
     for (const char* contents :
          {"<g opacity='0.5'/>", "<g style='fill:red;opacity : 0.5'/>", "<g filter='url(#f)'/>",
-          "<g style='mix-blend-mode:screen'/>", "<style>g{}</style>"})
+          "<g style='mix-blend-mode:screen'/>", "<g style='/* faint */opacity/**/:0.5'/>",
+          "<clipPath clipPathUnits='objectBoundingBox'/>", "<style>g{}</style>"})
       QVERIFY2(inspectSvg(svgOf("", contents))->hasLayers, contents);
   }
 

@@ -191,7 +191,8 @@ Result<Bitmap> SvgEngine::render(const RenderRequest& request) {
     if (!missingFonts_) missingFonts_ = missingFamilies(read_.inspection.fontLists);
     const PaintPicture paint = painting(renderer_), again = painting(second_);
     if (context_.processors <= 1) return paintHalves(request, context_.limits, paint, {}, kUpperShare);
-    return SvgRenderer::canBeTold()
+    // Letters cannot be told: what was drawn up to the first of them would be drawn again.
+    return SvgRenderer::canBeTold() && !read_.text.utf8.contains("<text")
                ? paintHalvesByTelling(request, context_.limits, paint, again, kUpperShare)
                : paintHalves(request, context_.limits, paint, again, kUpperShare);
   }

@@ -8,7 +8,8 @@
 namespace norvex {
 
 /// Kept in the user's state folder, apart from settings: the upper left corner of the window with its
-/// decoration, and the size without. An invalid rectangle: none was saved.
+/// decoration, and the size without. An invalid rectangle: none was
+/// saved, or none that a screen could have.
 [[nodiscard]] QRect savedWindowFrame(const QString& autosaveName);
 void saveWindowFrame(const QString& autosaveName, const QRect& frame);
 

@@ -1,5 +1,5 @@
 // Functions of ours that libraries find before those of another library (cairo_calls.cpp, deflate_calls.cpp,
-// face_calls.cpp).
+// face_calls.cpp, number_calls.cpp, text_calls.cpp).
 #pragma once
 
 #include <dlfcn.h>

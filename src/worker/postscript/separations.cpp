@@ -1,5 +1,6 @@
 #include "worker/postscript/separations.h"
 
+#include <cmath>
 #include <functional>
 #include <utility>
 
@@ -28,7 +29,7 @@ Result<void> checkPixels(const QSizeF& page, const ExamineRequest& request) {
       ErrorKind::Limit,
       QStringLiteral("at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled")
           .arg(dpi)
-          .arg(qRound64(pixels / 1.0e6))
+          .arg(std::ceil(pixels / 1.0e5) / 10)  // more than the limit, however little it is
           .arg(limits::maximumPlatePixels / 1.0e6)};
 }
 

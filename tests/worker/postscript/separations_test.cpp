@@ -444,6 +444,17 @@ class SeparationsTest : public QObject {
     }
   }
 
+  void theLimitOfPixelsIsExact() {
+    Opened opened(PictureKind::Eps, eps(kProcess));
+    const Result<PageInks> most = opened.inks(7200, true, 0, QRectF(0, 0, 40, 40));  // 100 pixels a point
+    QVERIFY(most);
+    QCOMPARE(most->pixels, QSize(4000, 4000));
+    const Result<PageInks> more = opened.inks(7200, true, 0, QRectF(0, 0, 40, 40.01));
+    QVERIFY(!more);
+    QCOMPARE(more.error().message,
+             "at 7200 dpi a plate has 16.1 million pixels, and at most 16 million can be handled");
+  }
+
   void theOtherCallsGoToThePages() {
     Opened opened(PictureKind::Pdf, pdf());
     DocumentEngine& engine = opened.engine();

@@ -3,7 +3,6 @@
 #include <GfxFont.h>
 #include <GlobalParams.h>
 #include <fofi/FoFiTrueType.h>
-#include <fofi/FoFiType1C.h>
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
@@ -159,14 +158,8 @@ void SvgFont::mapCodes(GfxFont& font, const GfxFontLoc& place) {
       glyphs_ = listOf(map.get(), length);
       break;
     }
-    case fontCIDType0C: {
-      const std::unique_ptr<FoFiType1C> file(
-          bytes_.empty() ? nullptr : FoFiType1C::make(bytes_.data(), int(bytes_.size())));
-      int length = 0;
-      const GlyphMap map(file ? file->getCIDToGIDMap(&length) : nullptr);
-      glyphs_ = listOf(map.get(), length);
+    case fontCIDType0C:  // FreeType counts the glyphs of these by their characters' numbers
       break;
-    }
     case fontCIDType0COT: {
       const auto& cid = static_cast<GfxCIDFont&>(font);
       glyphs_ = listOf(cid.getCIDToGID(), int(cid.getCIDToGIDLen()));

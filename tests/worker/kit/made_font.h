@@ -81,4 +81,28 @@ inline QByteArray cff(const QList<QByteArray>& charstrings) {
   return opening + fontIndex(place) + rest + cffIndex(charstrings);
 }
 
+/// A CFF font whose glyphs are counted by characters: beside the empty glyph a square, 800 of 1000 units,
+/// which is character `number`.
+inline QByteArray squareOfCharacter(quint32 number) {
+  const auto numberText = [](qsizetype value) -> QByteArray { return '\x1d' + bigEndian(quint32(value), 4); };
+  const QByteArray opening = QByteArray("\1\0\4\1", 4) + cffIndex({"Name"});
+  const QByteArray strings = cffIndex({"Adobe", "Identity"}) + cffIndex({});
+  const QByteArray square = QByteArray::fromHex("8b8b15f9b406f9b407fdb4060e");
+  const QByteArray characters = '\0' + bigEndian(number, 2), dictionaries('\0' + bigEndian(0, 2)),
+                   glyphs = cffIndex({QByteArray("\x0e"), square}), widths = QByteArray::fromHex("8b14");
+  const auto fontIndex =
+      [&](qsizetype at) {  // registry and ordering are the first strings that are not standard
+        QByteArray dictionary = numberText(391) + numberText(392) + numberText(0) + "\x0c\x1e";
+        dictionary += numberText(number + 1) + "\x0c\x22" + numberText(at) + '\x0f';
+        dictionary += numberText(at += characters.size()) + "\x0c\x25";
+        dictionary += numberText(at += dictionaries.size()) + '\x11';
+        dictionary += numberText(at += glyphs.size() + widths.size()) + "\x0c\x24";
+        return cffIndex({dictionary});
+      };
+  const qsizetype at = opening.size() + fontIndex(0).size() + strings.size();
+  const qsizetype places = at + characters.size() + dictionaries.size() + glyphs.size();
+  return opening + fontIndex(at) + strings + characters + dictionaries + glyphs + widths +
+         cffIndex({numberText(widths.size()) + numberText(places) + '\x12'});
+}
+
 }  // namespace norvex::kit

@@ -2,6 +2,7 @@
 #include <QRegularExpression>
 
 #include "kit/test_main.h"
+#include "worker/kit/made_font.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/kit/svg_output_kit.h"
 #include "worker/pages/pdf_engine.h"
@@ -209,6 +210,22 @@ class SvgFromPdfTest : public QObject {
     const MadeSvg made(page("BT /F 20 Tf 10 50 Td (AAAA) Tj /F 12 Tf 0 -30 Td (AA) Tj ET"));
     QCOMPARE(made.count("<path"), 1);
     QCOMPARE(made.count("<use"), 6);
+  }
+
+  /// A subset of a large font keeps the numbers of its characters, whichever glyph each is in the file.
+  void aGlyphIsFoundByTheNumberOfItsCharacter() {
+    const QByteArray pdf = onePage(
+        "BT /F 50 Tf 20 20 Td <012C> Tj ET", "/MediaBox [0 0 100 100] /Resources << /Font << /F 5 0 R >> >>",
+        {"<< /Type /Font /Subtype /Type0 /BaseFont /Name /Encoding /Identity-H /DescendantFonts [6 0 R] >>",
+         "<< /Type /Font /Subtype /CIDFontType0 /BaseFont /Name /DW 1000 /CIDSystemInfo << /Registry "
+         "(Adobe) /Ordering (Identity) /Supplement 0 >> /FontDescriptor 7 0 R >>",
+         "<< /Type /FontDescriptor /FontName /Name /Flags 4 /FontBBox [0 0 1000 1000] /ItalicAngle 0 "
+         "/Ascent 800 /Descent 0 /CapHeight 800 /StemV 80 /FontFile3 8 0 R >>",
+         kit::stream(kit::squareOfCharacter(0x12C), "/Subtype /CIDFontType0C")});
+    const QImage shown = MadeSvg(pdf).picture();
+    QVERIFY(!shown.isNull());
+    QCOMPARE(shown.pixel(80, 120), qRgb(0, 0, 0));         // the middle of the square
+    QCOMPARE(shown.pixel(130, 120), qRgb(255, 255, 255));  // and beside it
   }
 
   void titleDescriptionAndOwnerAreCarriedOver() {

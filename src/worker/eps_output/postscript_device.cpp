@@ -2,6 +2,7 @@
 // can be neither given another output than a file nor told to paint gradients differently.
 #include "worker/eps_output/postscript_device.h"
 
+#include <GfxFont.h>
 #include <GlobalParams.h>
 #include <PDFDoc.h>
 #include <PSOutputDev.h>
@@ -89,6 +90,17 @@ class PageDevice : public PSOutputDev {
   void eoClip(GfxState* state) override { onPage_ ? paint(state, "W*\n") : PSOutputDev::eoClip(state); }
   void clipToStrokePath(GfxState* state) override {
     onPage_ ? paint(state, "Ws\n") : PSOutputDev::clipToStrokePath(state);
+  }
+
+  // Glyphs that are drawings are painted as they are drawn, whatever is done with the outlines of others.
+  void drawString(GfxState* state, const GooString* text) override {
+    constexpr int filled = 0, invisible = 3;
+    const int mode = state->getRender();
+    const bool drawings = onPage_ && state->getFont() && state->getFont()->getType() == fontType3 &&
+                          mode != filled && mode != invisible;
+    if (drawings) sink_.write("0 Tr\n");
+    PSOutputDev::drawString(state, text);
+    if (drawings) sink_.write(QByteArray::number(mode) + " Tr\n");
   }
 
   // Where a pattern's colour is that of the moment, a gradient has none to bring.

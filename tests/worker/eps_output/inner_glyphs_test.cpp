@@ -13,6 +13,8 @@
 
 using namespace norvex;
 using kit::Converted;
+using kit::difference;
+using kit::drawn;
 using kit::onePage;
 
 namespace {
@@ -95,6 +97,26 @@ class InnerGlyphsTest : public QObject {
     QVERIFY(!image.isNull());
     QCOMPARE(image.pixel(280, 100), qRgb(0, 255, 0));  // the square beside the letter
     QCOMPARE(image.pixel(30, 170), qRgb(255, 0, 0));   // and what the glyph draws itself
+  }
+
+  /// What strokes or clips to the outlines of other fonts leaves drawings as they are, and the letters behind
+  /// them are stroked again.
+  void glyphsArePaintedInEveryTextMode_data() {
+    QTest::addColumn<int>("mode");
+    for (const int mode : {0, 1, 2}) QTest::addRow("%d", mode) << mode;
+  }
+  void glyphsArePaintedInEveryTextMode() {
+    QFETCH(int, mode);
+    const QByteArray pdf = onePage("0 0 1 RG 1 0 0 rg BT " + QByteArray::number(mode) +
+                                       " Tr /F 8 Tf 10 10 Td (A) Tj /H 80 Tf 100 0 Td (I) Tj ET",
+                                   "/MediaBox [0 0 200 100] /Resources << /Font << /F 5 0 R /H 7 0 R >> >>",
+                                   {type3(6, {}), kit::stream("10 0 0 0 9 9 d1 0 0 9 9 re f"),
+                                    "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>"});
+    Converted converted(pdf);
+    const QImage image = converted.byGhostscript();
+    QVERIFY(!image.isNull());
+    QCOMPARE(image.pixel(30, 170), qRgb(255, 0, 0));  // the glyph's middle
+    QVERIFY2(difference(image, drawn(pdf)) < 1, qPrintable(QString::number(difference(image, drawn(pdf)))));
   }
 
   /// Generators hand one dictionary of resources to pages and fonts.

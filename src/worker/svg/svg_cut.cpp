@@ -62,19 +62,24 @@ class Wrapper {
 
  private:
   [[nodiscard]] bool turned() const { return !cut_.placing.isIdentity(); }
+  /// Whether the old root turns what is in it, and not its own edges.
+  [[nodiscard]] bool turnsInside() const;
   [[nodiscard]] bool isWhole() const { return !turned() && cut_.rect == QRectF(QPointF(0, 0), cut_.picture); }
-  /// The tag of a viewport around the picture. Programs that paste what is in the root leave its edges
-  /// behind, and the rectangle would be the whole picture again.
-  [[nodiscard]] QByteArray window() const;
+  /// The tag of a viewport around this part of the picture. Programs that paste what is in the root leave its
+  /// edges behind, and the rectangle would be the whole picture again.
+  [[nodiscard]] QByteArray window(const QRectF& part) const;
   /// The same edges as a path, and the tag of a group within it: there are programs that do not cut at the
   /// viewports in a drawing.
   [[nodiscard]] QByteArray clip() const;
   [[nodiscard]] QByteArray unusedId() const;
   // A switch draws its only child as a group does, but no rule for "g" or "svg > g" reaches it.
   [[nodiscard]] QByteArray group() const { return prefix_ + (cut_.styled ? "switch" : "g"); }
-  [[nodiscard]] QByteArray sizeStyle(const QSizeF& size) const {
-    return "width:" + number(size.width()) + "px;height:" + number(size.height()) + "px;overflow:hidden;";
+  [[nodiscard]] QByteArray sizeStyle(const QSizeF& size, const char* overflow) const {
+    return "width:" + number(size.width()) + "px;height:" + number(size.height()) +
+           "px;overflow:" + overflow + ';';
   }
+  /// Of the old root, whose edges would be turned with what is in it.
+  [[nodiscard]] const char* overflow() const { return turnsInside() ? "visible" : "hidden"; }
   [[nodiscard]] QByteArray innerStyle(QByteArrayView old, bool present) const;
 
   const QByteArray& text_;
@@ -95,18 +100,24 @@ QByteArray Wrapper::before() const {
     tag += attribute("style", kNeutral + ("width:" + number(points_.width()) +
                                           "pt;height:" + number(points_.height()) + "pt;"));
   tag += ">\n";
-  if (!isWhole()) tag += window();
+  if (!isWhole()) tag += clip() + window(cut_.rect);
   if (turned()) tag += '<' + group() + attribute("transform", matrixOf(cut_.placing)) + ">\n";
+  if (turnsInside()) tag += window(QRectF(QPointF(0, 0), cut_.picture));
   return tag;
 }
 
-QByteArray Wrapper::window() const {
-  const QRectF& r = cut_.rect;
-  QByteArray tag = clip() + '<' + name_ + attribute("x", "0") + attribute("y", "0") +
+bool Wrapper::turnsInside() const {
+  for (const SvgAttribute& old : tagAttributes(text_, root_))
+    if (old.name == "transform" || (old.name == "style" && old.value.contains("transform"))) return true;
+  return false;
+}
+
+QByteArray Wrapper::window(const QRectF& r) const {
+  QByteArray tag = '<' + name_ + attribute("x", "0") + attribute("y", "0") +
                    attribute("width", number(r.width())) + attribute("height", number(r.height())) +
                    attribute("overflow", "hidden") +
                    attribute("viewBox", rectangle(r.x(), r.y(), r.width(), r.height()));
-  if (cut_.styled) tag += attribute("style", kNeutral + sizeStyle(r.size()));
+  if (cut_.styled) tag += attribute("style", kNeutral + sizeStyle(r.size(), "hidden"));
   return tag + ">\n";
 }
 
@@ -131,6 +142,7 @@ QByteArray Wrapper::unusedId() const {
 
 QByteArray Wrapper::after() const {
   QByteArray tags = "\n";
+  if (turnsInside()) tags += "</" + name_ + ">\n";
   if (turned()) tags += "</" + group() + ">\n";
   if (!isWhole()) tags += "</" + name_ + ">\n</" + group() + ">\n";
   return tags + "</" + name_ + ">";
@@ -140,7 +152,7 @@ QByteArray Wrapper::innerStyle(QByteArrayView old, bool present) const {
   if (!present && !cut_.styled) return {};
   QByteArray style = old.toByteArray();
   if (!style.trimmed().isEmpty() && !style.trimmed().endsWith(';')) style += ';';
-  return style + sizeStyle(cut_.picture);
+  return style + sizeStyle(cut_.picture, overflow());
 }
 
 QByteArray Wrapper::rootTag() const {
@@ -163,7 +175,7 @@ QByteArray Wrapper::rootTag() const {
     tag += ' ' + old.all.toByteArray();
   }
   tag += attribute("x", "0") + attribute("y", "0") + attribute("width", number(cut_.picture.width())) +
-         attribute("height", number(cut_.picture.height())) + attribute("overflow", "hidden");
+         attribute("height", number(cut_.picture.height())) + attribute("overflow", overflow());
   if (!hasViewBox) tag += attribute("viewBox", rectangle(0, 0, cut_.picture.width(), cut_.picture.height()));
   const QByteArray inner = innerStyle(style, hasStyle);
   if (!inner.isEmpty()) tag += attribute("style", inner);

@@ -60,6 +60,7 @@ Result<std::unique_ptr<DocumentEngine>> openForFacts(PictureKind kind, const QBy
   if (kind != PictureKind::Svg) return onlyFacts();
   const Result<SvgReading> read = readSvg(bytes);
   if (!read) return read.error();
+  if (read->inspection.sizesByStyleSheet) return drawingNeeded();
   const Result<QSizeF> pixels =
       measuredSvg(read->geometry, []() -> Result<QSizeF> { return drawingNeeded(); });
   if (!pixels) return pixels.error();

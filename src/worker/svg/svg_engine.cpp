@@ -94,7 +94,7 @@ class SvgEngine final : public DocumentEngine {
 
   EngineContext& context_;
   const SvgVectors vectors_;
-  const SvgReading read_;
+  SvgReading read_;
   QSizeF pixels_;
   std::unique_ptr<SvgRenderer> renderer_, second_;  ///< `second_`: the same, where both halves read it
   std::optional<bool> isLongAndPlain_;
@@ -124,6 +124,11 @@ Result<const SvgRenderer*> SvgEngine::renderer() {
 }
 
 Result<void> SvgEngine::measure() {
+  if (read_.inspection.sizesByStyleSheet) {
+    const Result<const SvgRenderer*> loaded = renderer();
+    if (!loaded) return loaded.error();
+    read_.geometry = (*loaded)->styled(read_.geometry);
+  }
   const Result<QSizeF> measured = measuredSvg(read_.geometry, [&]() -> Result<QSizeF> {
     const Result<const SvgRenderer*> loaded = renderer();
     return loaded ? Result<QSizeF>((*loaded)->drawnExtent()) : loaded.error();

@@ -254,6 +254,7 @@ void Inspector::lookAtStyleSheet(const QString& css) {
   found_.outsideReferences += style.outsideReferences;
   checkFontSize(style.largestFont);
   sizes_.styleSheet(style.largestFont);
+  if (style.namesSize) found_.sizesByStyleSheet = true;
   if (style.deepestBrackets > limits::maximumSelectorDepth)
     stop(ErrorKind::Limit,
          QStringLiteral("the selectors of the document's style sheets nest more than %1 deep")

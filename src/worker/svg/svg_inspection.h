@@ -28,6 +28,7 @@ struct SvgInspection {
   /// style sheet might ask for it.
   bool hasLayers = false;
   bool hasStyleSheet = false;
+  bool sizesByStyleSheet = false;  ///< a style sheet may tell the root's size
   bool hasScript = false;
   bool hasAnimation = false;
   bool hasNestedDocument = false;  ///< an SVG or XML document inside a data: reference

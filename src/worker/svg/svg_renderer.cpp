@@ -56,6 +56,18 @@ bool isSampleTold() {
   return told.draw(other.get());
 }
 
+/// librsvg has lengths in single precision: what no rule changes stays as it was.
+std::optional<SvgLength> styledLength(const RsvgLength& length, const std::optional<SvgLength>& own) {
+  constexpr const char* units[] = {"%", "px", "em", "ex", "in", "cm", "mm", "pt", "pc"};  // as RsvgUnit
+  constexpr double percent = 100, precise = 1e-5;
+  const double number = length.length * (length.unit == RSVG_UNIT_PERCENT ? percent : 1);
+  const auto found = parseSvgLength(QString::number(number, 'g', 9) + QLatin1String(units[length.unit]));
+  const bool same = found && own && found->isPercentage == own->isPercentage &&
+                    std::abs(found->pixels - own->pixels) <= precise * std::abs(own->pixels) &&
+                    std::abs(found->percent - own->percent) <= precise * std::abs(own->percent);
+  return same || !found ? own : found;
+}
+
 }  // namespace
 
 struct SvgRenderer::Handle {
@@ -85,10 +97,30 @@ Result<std::unique_ptr<SvgRenderer>> SvgRenderer::create(const QByteArray& utf8,
   return std::unique_ptr<SvgRenderer>(new SvgRenderer(std::move(handle)));
 }
 
+SvgGeometry SvgRenderer::styled(const SvgGeometry& own) const {
+  gboolean hasWidth = false, hasHeight = false, hasBox = false;
+  RsvgLength width{}, height{};
+  RsvgRectangle box{};
+  rsvg_handle_get_intrinsic_dimensions(handle_->rsvg.get(), &hasWidth, &width, &hasHeight, &height, &hasBox,
+                                       &box);
+  SvgGeometry geometry = own;
+  if (hasWidth) geometry.width = styledLength(width, own.width);
+  if (hasHeight) geometry.height = styledLength(height, own.height);
+  return geometry;
+}
+
 QSizeF SvgRenderer::drawnExtent() const {
-  RsvgRectangle ink{}, logical{};
   // Percentages inside need some viewport; CSS's default size of a picture serves as one.
-  const RsvgRectangle viewport{0, 0, 300, 150};
+  const QSizeF common(300, 150);
+  const QSizeF extent = extentWithin(common);
+  // What is laid out by its viewport would be laid out anew by an extent that is another one, and again not
+  // fill it: such a picture has the common size.
+  return extent.isEmpty() || extentWithin(extent) == extent ? extent : common;
+}
+
+QSizeF SvgRenderer::extentWithin(const QSizeF& pixels) const {
+  RsvgRectangle ink{}, logical{};
+  const RsvgRectangle viewport{0, 0, pixels.width(), pixels.height()};
   GError* error = nullptr;
   if (!rsvg_handle_get_geometry_for_layer(handle_->rsvg.get(), nullptr, &viewport, &ink, &logical, &error)) {
     g_clear_error(&error);

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "base/result.h"
+#include "worker/svg/svg_length.h"
 
 namespace norvex::engine {
 
@@ -22,7 +23,11 @@ class SvgRenderer {
   SvgRenderer(const SvgRenderer&) = delete;
   SvgRenderer& operator=(const SvgRenderer&) = delete;
 
-  /// The lower right corner of what is drawn, in pixels from the origin; empty where nothing is.
+  /// The root's geometry with width and height as rules of style sheets have them. `own`: by its attributes.
+  [[nodiscard]] SvgGeometry styled(const SvgGeometry& own) const;
+
+  /// The lower right corner of what is drawn, in pixels from the origin; 300 × 150 where that would move with
+  /// the size of the picture, and empty where nothing is drawn.
   [[nodiscard]] QSizeF drawnExtent() const;
 
   /// Draws the document into the rectangle (0, 0, pixels) of the context's user space, y down, clipped to it.
@@ -36,6 +41,7 @@ class SvgRenderer {
  private:
   struct Handle;
   explicit SvgRenderer(std::unique_ptr<Handle> handle);
+  [[nodiscard]] QSizeF extentWithin(const QSizeF& pixels) const;
   std::unique_ptr<Handle> handle_;
 };
 

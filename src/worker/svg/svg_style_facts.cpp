@@ -45,9 +45,12 @@ SvgStyleFacts svgStyleFacts(const QString& css) {
                                           QRegularExpression::CaseInsensitiveOption);
   static const QRegularExpression font("(?:^|[;{\\s])font(?:-size)?\\s*:([^;}]*)",
                                        QRegularExpression::CaseInsensitiveOption);
+  static const QRegularExpression size("(?:^|[;{\\s])(?:width|height)\\s*:",
+                                       QRegularExpression::CaseInsensitiveOption);
   QString text = withoutComments(css);
   SvgStyleFacts facts;
   facts.deepestBrackets = deepestBrackets(text);
+  facts.namesSize = text.contains(size);
   facts.outsideReferences = matches(import, text);
   text.remove(import);
   facts.outsideReferences += matches(outside, text);

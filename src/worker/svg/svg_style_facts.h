@@ -9,6 +9,7 @@ struct SvgStyleFacts {
   int outsideReferences = 0;  ///< "@import" and url() of other files, each of which is never loaded
   int deepestBrackets = 0;    ///< round ones: functions and selectors within one another
   double largestFont = 0;     ///< the largest number after "font-size" and "font", whatever its unit
+  bool namesSize = false;     ///< there is a "width" or "height", which may be the root's
 };
 
 /// Comments count for nothing; strings are not looked into.

@@ -107,6 +107,20 @@ class SvgEngineTest : public QObject {
     QCOMPARE(factsOf(svgOf("", "<rect x='10' y='20' width='30' height='40'/>")).pageBounds.value(0),
              QRectF(0, 0, 30, 45));
     QCOMPARE(factsOf(svgOf("", "")).pageBounds.value(0), QRectF(0, 0, 225, 112.5));
+    const QByteArray rule = "<style>/*;width:1px*/svg{width:200pt; height:1in} rect{stroke-width:3}</style>";
+    QCOMPARE(factsOf(svgOf("viewBox='0 0 40 20'", rule)).pageBounds.value(0), QRectF(0, 0, 200, 72));
+    QCOMPARE(factsOf(svgOf("width='33.3mm' height='0.7in'", "<style>rect{width:9px}</style>")).pageBounds,
+             factsOf(svgOf("width='33.3mm' height='0.7in'", "")).pageBounds);
+    const QRectF common(0, 0, 225, 112.5);  // what is laid out by it fills no other one
+    QCOMPARE(factsOf(svgOf("", "<rect x='10%' y='10%' width='80%' height='80%'/>")).pageBounds.value(0),
+             common);
+    QCOMPARE(
+        factsOf(svgOf("", "<svg viewBox='0 0 9 9'><rect width='9' height='9'/></svg>")).pageBounds.value(0),
+        common);
+    QCOMPARE(
+        factsOf(svgOf("", "<rect width='100%' height='100%'/><rect x='390' y='190' width='10' height='10'/>"))
+            .pageBounds.value(0),
+        QRectF(0, 0, 300, 150));
   }
 
   void theViewBoxIsInUserUnits() {

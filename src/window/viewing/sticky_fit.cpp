@@ -5,8 +5,6 @@
 #include <QMainWindow>
 #include <QScopedValueRollback>
 
-#include <cmath>
-
 #include "base/localized_string.h"
 #include "display/skt_zooming_scroll_view.h"
 #include "ui/picture/zooming_scroll_area.h"
@@ -15,8 +13,11 @@
 namespace norvex {
 namespace {
 
-/// Of the factor: less is the rounding of the window to pixels, which would be followed for ever.
+/// Of the factor: less room to spare is the rounding of the window to pixels, which would be followed for
+/// ever.
 constexpr double kSame = 0.004;
+/// Of the factor: more than this too large, and there would be a scroll bar for a pixel.
+constexpr double kHair = 1e-6;
 
 }  // namespace
 
@@ -53,8 +54,8 @@ void StickyFit::zoomDidChange() {
 void StickyFit::fitAgain() {
   if (kept_ == KeptFit::Nothing || fitting_ || !parts_.validateUserInterfaceItem()) return;
   const QScopedValueRollback<bool> fitting(fitting_, true);
-  const double wanted = factor();
-  if (std::abs(wanted - parts_.zoomFactor()) > kSame * wanted) parts_.zoomingScrollView()->zoomTo(wanted);
+  const double wanted = factor(), spare = wanted - parts_.zoomFactor();
+  if (spare > kSame * wanted || spare < -kHair * wanted) parts_.zoomingScrollView()->zoomTo(wanted);
 }
 
 bool StickyFit::eventFilter(QObject* watched, QEvent* event) {

@@ -137,6 +137,19 @@ class SelectingTest : public QObject {
     QCOMPARE(f.c.zoomFactor(), 1.0);
   }
 
+  void aPixelLessIsFollowedToo() {
+    Shown f;
+    f.action("windowFitsPictureAction")->setChecked(false);
+    f.c.window()->resize(900, 640);
+    QCoreApplication::processEvents();
+    f.action("fitAction")->trigger();
+    const double before = f.c.zoomFactor();
+    f.c.window()->resize(899, 639);
+    QTRY_VERIFY(f.c.zoomFactor() < before);
+    QVERIFY(before - f.c.zoomFactor() < 0.004 * before);
+    QVERIFY(f.c.zoomFactor() <= f.c.scrollArea()->fittingFactor());  // nothing to scroll
+  }
+
   void fitWidthFillsTheWidthAtEveryAngle() {
     Shown f;
     f.action("windowFitsPictureAction")->setChecked(false);

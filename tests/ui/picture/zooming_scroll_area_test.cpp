@@ -2,8 +2,10 @@
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QNativeGestureEvent>
 #include <QPointingDevice>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -403,6 +405,24 @@ class ZoomingScrollAreaTest : public QObject {
     QVERIFY(a.widget->autoscroll(a.widget->toView({5000, 100})));
     QCOMPARE(a.area.horizontalBar()->value(), 40);
     QVERIFY(!a.widget->autoscroll(a.widget->toView({100, 100})));
+  }
+
+  void aCardThatGoesGivesTheFocusToThePicture() {
+    Area f;
+    auto* card = new QWidget;
+    auto* button = new QPushButton(card);
+    QLineEdit beside(&f.area);
+    beside.show();
+    f.area.addCard(card, Qt::TopEdge);
+    card->show();
+    button->setFocus();
+    QVERIFY(button->hasFocus());
+    card->hide();
+    QVERIFY(f.area.hasFocus());
+    card->show();
+    beside.setFocus();
+    card->hide();
+    QVERIFY(beside.hasFocus());  // which it never had
   }
 };
 

@@ -32,6 +32,8 @@ void ShownView::reset() {
   c.setWindowSize();
   c.zoomingScrollView()->bind(factorBindingName, &c, "zoomFactor");
   c.scrollArea()->scrollToTop();
+  // The same angle and size report nothing, and the fields that tell a selection were emptied.
+  if (!c.view()->selectRect().isEmpty()) c.view()->infoSelectedArea();
 }
 
 void ShownView::takeFirst() {

@@ -1,4 +1,7 @@
 // A picture that has another size when it is read again, while the angle stays at 0.
+#include <QLabel>
+#include <QSignalSpy>
+
 #include "display/norvex_view.h"
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
@@ -75,6 +78,22 @@ class ReloadedSizeTest : public QObject {
     c.window()->resize(c.window()->maximumSize());
     QCoreApplication::processEvents();
     QCOMPARE(c.zoomingScrollView()->documentViewVisibleRect().size(), QSizeF(after));
+  }
+
+  void aSelectionThatStaysIsToldAgain() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loaded(epsOfSize({600, 500}), "a.eps", NorvexEPSType);
+    c.window()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(c.window()));
+    c.view()->selectBounds();
+    const QString start = c.startPoint->text(), end = c.endPoint->text();
+    QVERIFY(!start.isEmpty() && !end.isEmpty());
+    QSignalSpy shown(&c, &MainWindowController::documentShown);
+    c.reload();
+    QTRY_COMPARE(shown.size(), 1);
+    QVERIFY(!c.view()->selectRect().isEmpty());
+    QCOMPARE(c.startPoint->text(), start);
+    QCOMPARE(c.endPoint->text(), end);
   }
 };
 

@@ -414,6 +414,7 @@ class ZoomingScrollAreaTest : public QObject {
     QLineEdit beside(&f.area);
     beside.show();
     f.area.addCard(card, Qt::TopEdge);
+    QWidget::setTabOrder(button, &beside);
     card->show();
     button->setFocus();
     QVERIFY(button->hasFocus());

@@ -97,6 +97,11 @@ void TextMarks::reveal(const QRectF& rect) {
                                 .adjusted(-room.x(), -room.y(), room.x(), room.x()));
 }
 
+QRect TextMarks::placeOf(const QRectF& rect) const {
+  const QRect place = onScreen(rect).boundingRect().toAlignedRect();
+  return {mapToGlobal(place.topLeft()), place.size()};
+}
+
 bool TextMarks::event(QEvent* event) {
   // Without one of its own it would be the view's, which is about other drags.
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {

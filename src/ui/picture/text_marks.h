@@ -28,6 +28,8 @@ class TextMarks final : public QWidget {
   [[nodiscard]] QList<QRectF> selected() const { return selected_; }
   /// Scrolls so that all of it can be seen, where it fits.
   void reveal(const QRectF& rect);
+  /// Where that is on the screen, now.
+  [[nodiscard]] QRect placeOf(const QRectF& rect) const;
 
  signals:
   void pressed(const QPointF& point);

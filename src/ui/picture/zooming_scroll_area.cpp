@@ -181,7 +181,20 @@ double ZoomingScrollArea::fittingWidthFactor() const {
 void ZoomingScrollArea::addCard(QWidget* card, Qt::Edge edge) {
   card->setParent(clip_);
   card->installEventFilter(this);
-  cards_.append({card, edge});
+  cards_.append({card, edge, edge == Qt::TopEdge});
+  placeCards();
+}
+
+void ZoomingScrollArea::keepCardOff(const QWidget& card, const QRect& place) {
+  const auto found =
+      std::find_if(cards_.begin(), cards_.end(), [&](const Card& one) { return one.widget == &card; });
+  const QRect taken(clip_->mapFromGlobal(place.topLeft()), place.size());
+  if (found == cards_.end() || !card.geometry().intersects(taken)) return;
+  const Qt::Edge before = found->edge;
+  found->edge = before == Qt::TopEdge ? Qt::BottomEdge : Qt::TopEdge;
+  placeCards();
+  if (!card.geometry().intersects(taken)) return;
+  found->edge = before;
   placeCards();
 }
 
@@ -191,7 +204,7 @@ void ZoomingScrollArea::placeCards() {
     if (!card.widget || card.widget->isHidden()) continue;
     const int room = std::min(clip_->width() - 2 * kCardMargin, kWidestCard);
     const bool atTop = card.edge == Qt::TopEdge;
-    const int width = atTop ? room : std::min(room, card.widget->sizeHint().width());
+    const int width = card.isWide ? room : std::min(room, card.widget->sizeHint().width());
     const int height = card.widget->hasHeightForWidth() ? card.widget->heightForWidth(width)
                                                         : card.widget->sizeHint().height();
     const int y = atTop ? top : bottom - height;

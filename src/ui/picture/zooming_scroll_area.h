@@ -64,6 +64,8 @@ class ZoomingScrollArea final : public QWidget {
   void setScrollOffset(const QPointF& offset);
   /// Lays a card over the clip, centred at its top or bottom edge. Not owned.
   void addCard(QWidget* card, Qt::Edge edge);
+  /// Moves the card to the other edge where it lies over `place` (of the screen) and would not there.
+  void keepCardOff(const QWidget& card, const QRect& place);
 
   /// True if the keyboard focus came with Tab: a line around every picture would be in the way of the others.
   [[nodiscard]] bool showsFocus() const { return showsFocus_; }
@@ -111,6 +113,7 @@ class ZoomingScrollArea final : public QWidget {
   struct Card {
     QPointer<QWidget> widget;
     Qt::Edge edge;
+    bool isWide;  ///< as the clip is, not as itself wants
   };
 
   SKTZoomingScrollView scrollView_;

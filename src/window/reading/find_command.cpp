@@ -143,7 +143,10 @@ void FindCommand::mark() {
   bar_->setGoesOn(letters_.hasOtherPages());
   // While the text is being found out nothing has not been found.
   if (text || bar_->needle().isEmpty()) bar_->showOutcome(current_, runs_.size());
-  if (!current.isEmpty()) marks.reveal(current.constFirst());
+  if (current.isEmpty()) return;
+  marks.reveal(current.constFirst());
+  // At the picture's foot there may be nothing left to scroll.
+  parts_.scrollArea()->keepCardOff(*card_, marks.placeOf(current.constFirst()));
 }
 
 bool FindCommand::eventFilter(QObject* watched, QEvent* event) {

@@ -150,6 +150,19 @@ class FindingTest : public QObject {
     QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));
   }
 
+  void theBarDoesNotLieOverWhatWasFound() {
+    PageText foot = line();
+    for (QRectF& place : foot.places) place.moveTop(0);
+    Text f(false, encodePageText(foot));
+    f.c.zoomingScrollView()->zoomTo(4.0);  // more than the window shows, and nothing below it
+    f.lookFor("two");
+    const QWidget& bar = *f.find->bar()->parentWidget();
+    const QRect found = f.marks->placeOf(f.marks->current().constFirst());
+    const QWidget& clip = *bar.parentWidget();
+    QVERIFY(QRect(clip.mapToGlobal(QPoint(0, 0)), clip.size()).intersects(found));
+    QVERIFY(!QRect(bar.mapToGlobal(QPoint(0, 0)), bar.size()).intersects(found));
+  }
+
   void theWayGoesRound() {
     Text f;
     f.lookFor("one");

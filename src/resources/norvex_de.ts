@@ -1988,6 +1988,10 @@
         <translation>Verweisen dieser Art wird nicht gefolgt.</translation>
     </message>
     <message>
+        <source>No program here opens this address.</source>
+        <translation>Kein Programm öffnet hier diese Adresse.</translation>
+    </message>
+    <message>
         <source>The picture links to this address. Open it?</source>
         <translation>Das Bild verweist auf diese Adresse. Soll sie geöffnet werden?</translation>
     </message>

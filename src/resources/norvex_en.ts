@@ -1988,6 +1988,10 @@
         <translation>Links of this kind are not followed.</translation>
     </message>
     <message>
+        <source>No program here opens this address.</source>
+        <translation>No program here opens this address.</translation>
+    </message>
+    <message>
         <source>The picture links to this address. Open it?</source>
         <translation>The picture links to this address. Open it?</translation>
     </message>

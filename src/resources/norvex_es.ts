@@ -1988,6 +1988,10 @@
         <translation>Los enlaces de este tipo no se siguen.</translation>
     </message>
     <message>
+        <source>No program here opens this address.</source>
+        <translation>Ningún programa abre aquí esta dirección.</translation>
+    </message>
+    <message>
         <source>The picture links to this address. Open it?</source>
         <translation>La imagen enlaza a esta dirección. ¿Abrirla?</translation>
     </message>

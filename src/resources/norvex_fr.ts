@@ -1988,6 +1988,10 @@
         <translation>Les liens de ce type ne sont pas suivis.</translation>
     </message>
     <message>
+        <source>No program here opens this address.</source>
+        <translation>Aucun programme n’ouvre cette adresse ici.</translation>
+    </message>
+    <message>
         <source>The picture links to this address. Open it?</source>
         <translation>L’image renvoie à cette adresse. L’ouvrir ?</translation>
     </message>

@@ -1988,6 +1988,10 @@
         <translation>この種類のリンクは開きません。</translation>
     </message>
     <message>
+        <source>No program here opens this address.</source>
+        <translation>このアドレスを開くプログラムがありません。</translation>
+    </message>
+    <message>
         <source>The picture links to this address. Open it?</source>
         <translation>画像はこのアドレスにリンクしています。開きますか？</translation>
     </message>

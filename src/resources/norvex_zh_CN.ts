@@ -1988,6 +1988,10 @@
         <translation>不会打开此类链接。</translation>
     </message>
     <message>
+        <source>No program here opens this address.</source>
+        <translation>此处没有程序可以打开此地址。</translation>
+    </message>
+    <message>
         <source>The picture links to this address. Open it?</source>
         <translation>图片链接到此地址。要打开吗？</translation>
     </message>

@@ -36,7 +36,7 @@ bool isOpened(const QUrl& url) {
 
 TextCommand::TextCommand(WindowParts& parts, PageLetters& letters, LateTextMarks& marks, QObject* parent)
     : QObject(parent), parts_(parts), letters_(letters), marks_(marks), opener_([](const QUrl& url) {
-        QDesktopServices::openUrl(url);
+        return QDesktopServices::openUrl(url);
       }) {}
 
 void TextCommand::setUp(QMenu& menu, QAction* before) {
@@ -145,7 +145,8 @@ void TextCommand::follow(const PageLink& link) {
   alert.messageText = localizedString("The picture links to this address. Open it?");
   alert.informativeText = shownAddress(link.address);
   alert.buttons = {localizedString("Open Address"), localizedString("Cancel")};
-  if (parts_.alerts()->runModal(alert) == 0) opener_(url);
+  if (parts_.alerts()->runModal(alert) != 0 || opener_(url)) return;
+  BriefNote::tell(*parts_.scrollArea(), localizedString("No program here opens this address."));
 }
 
 QString TextCommand::selectedText() const {

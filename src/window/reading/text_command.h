@@ -33,7 +33,7 @@ class TextCommand final : public QObject {
   void pageDidChange();
   [[nodiscard]] QString selectedText() const;
   /// Default: the desktop opens it.
-  void setOpener(std::function<void(const QUrl&)> opener) { opener_ = std::move(opener); }
+  void setOpener(std::function<bool(const QUrl&)> opener) { opener_ = std::move(opener); }
   /// What a link leads to as it is shown: plain letters, everything else as the bytes that it stands for.
   [[nodiscard]] static QString shownAddress(const QString& address);
 
@@ -57,7 +57,7 @@ class TextCommand final : public QObject {
   WindowParts& parts_;
   PageLetters& letters_;
   LateTextMarks& marks_;
-  std::function<void(const QUrl&)> opener_;
+  std::function<bool(const QUrl&)> opener_;  ///< false: no program does
   QAction *mode_ = nullptr, *copy_ = nullptr;
   LetterRun selected_;
   qsizetype start_ = -1;               ///< the letter at which a drag began; -1: none

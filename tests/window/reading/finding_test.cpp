@@ -49,7 +49,10 @@ class Text : public WindowFixture {
     c.window()->show();
     find = c.findChild<FindCommand*>();
     text = c.findChild<TextCommand*>();
-    text->setOpener([this](const QUrl& url) { openedUrls << url; });
+    text->setOpener([this](const QUrl& url) {
+      openedUrls << url;
+      return opens;
+    });
   }
   MainWindowController& opened(bool hitsElsewhere, const QByteArray& instead) {
     MemoryPicture picture;
@@ -106,6 +109,7 @@ class Text : public WindowFixture {
   TextCommand* text = nullptr;
   TextMarks* marks = nullptr;
   QList<QUrl> openedUrls;
+  bool opens = true;  ///< a program is there that does
 };
 
 }  // namespace
@@ -356,6 +360,10 @@ class FindingTest : public QObject {
     f.click({50, 55});
     QCOMPARE(f.openedUrls.size(), 1);
     QCOMPARE(f.openedUrls.first().host(), QString("example.org"));
+    QCOMPARE(f.note(), QString());
+    f.opens = false;
+    f.click({50, 55});
+    QCOMPARE(f.note(), QString("No program here opens this address."));
   }
 
   void aClickMayTrembleByLessThanTwoPoints() {

@@ -66,8 +66,9 @@ void DocumentApplication::connectParts() {
   });
   connect(&documents_, &DocumentController::documentOpened, this, &DocumentApplication::documentDidOpen);
   connect(&documents_, &DocumentController::documentClosed, this, &DocumentApplication::documentDidClose);
-  connect(&documents_, &DocumentController::openFailed, this, &DocumentApplication::showFailure);
+  connect(&documents_, &DocumentController::openFailed, this, &DocumentApplication::takeFailure);
   connect(&documents_, &DocumentController::readingFinished, this, &DocumentApplication::updateStartPanel);
+  connect(&documents_, &DocumentController::readingFinished, this, &DocumentApplication::tellFailures);
   connect(startPanel_.get(), &StartPanel::openRequested, this, &DocumentApplication::runOpenPanel);
   connect(startPanel_.get(), &StartPanel::filesChosen, this, open);
   connect(startPanel_.get(), &StartPanel::dismissed, this, &DocumentApplication::startPanelDismissed);
@@ -234,14 +235,20 @@ void DocumentApplication::applicationDidResignActive() {
   delegate_.applicationDidResignActive(this);
 }
 
-void DocumentApplication::showFailure(const OpenFailure& failure) {
+void DocumentApplication::takeFailure(const OpenFailure& failure) {
   replaced_.remove(failure.url);
-  const QFileInfo file(failure.url.toLocalFile());
-  if (!file.exists()) recent_.remove(failure.url);
-  const QString name = failure.url.isLocalFile() ? file.fileName() : failure.url.toDisplayString();
-  if (!failure.detail.isEmpty()) qInfo("%s: %s", qUtf8Printable(name), qUtf8Printable(failure.detail));
-  runModal(
-      {AlertStyle::Warning, localizedString("“%1” could not be opened.").arg(name), failure.sentence, {}});
+  if (!QFileInfo::exists(failure.url.toLocalFile())) recent_.remove(failure.url);
+  if (!failure.detail.isEmpty())
+    qInfo("%s: %s", qUtf8Printable(failure.url.fileName()), qUtf8Printable(failure.detail));
+  failures_ << failure;
+  // Others may follow, of the same drop.
+  QMetaObject::invokeMethod(this, &DocumentApplication::tellFailures, Qt::QueuedConnection);
+}
+
+void DocumentApplication::tellFailures() {
+  if (tellsFailures_) return;
+  const QScopedValueRollback<bool> telling(tellsFailures_, true);
+  while (!failures_.isEmpty() && !documents_.isReading()) runModal(alertAbout(std::exchange(failures_, {})));
 }
 
 void DocumentApplication::showOperationFailure(const QString& reason) {

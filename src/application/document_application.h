@@ -75,7 +75,9 @@ class DocumentApplication final : public QObject {
   void documentDidClose(Document* document);
   /// A window did not close when the program was to end: when it closes later, the program ends after all.
   void quitRefused();
-  void showFailure(const OpenFailure& failure);
+  void takeFailure(const OpenFailure& failure);
+  /// When every file is open or has failed: in one message.
+  void tellFailures();
   void showOperationFailure(const QString& reason);
   int runModal(const Alert& alert);
   void applicationDidResignActive();
@@ -112,6 +114,8 @@ class DocumentApplication final : public QObject {
   std::unique_ptr<RecentThumbnails> thumbnails_;
   std::unique_ptr<AlertPresenter> ownAlerts_;
   AlertPresenter* alerts_;
+  QList<OpenFailure> failures_;  ///< not told yet
+  bool tellsFailures_ = false;
   int modal_ = 0;  ///< panels and alerts on the screen
   bool quitting_ = false;
   QHash<QUrl, QPointer<QMainWindow>> replaced_;  ///< windows that go when that file has opened

@@ -10,15 +10,9 @@
 
 #include "base/cancel_token.h"
 #include "document/document.h"
+#include "document/open_failure.h"
 
 namespace norvex {
-
-/// A file that could not be opened.
-struct OpenFailure {
-  QUrl url;
-  QString sentence;  ///< what is wrong, a plain sentence with its full stop, in the user's language
-  QString detail;    ///< the reason of an exception, for the log, or empty
-};
 
 /// Reads files on worker threads, several at once, and makes their documents. Owns the documents. Main thread
 /// only.
@@ -69,5 +63,3 @@ class DocumentController : public QObject {
 };
 
 }  // namespace norvex
-
-Q_DECLARE_METATYPE(norvex::OpenFailure)

@@ -684,6 +684,10 @@
         <translation>„%1“ konnte nicht geöffnet werden.</translation>
     </message>
     <message>
+        <source>%1 files could not be opened.</source>
+        <translation>%1 Dateien konnten nicht geöffnet werden.</translation>
+    </message>
+    <message>
         <source>“%1” exists already.</source>
         <translation>„%1“ gibt es bereits.</translation>
     </message>

@@ -1008,6 +1008,10 @@
         <translation>“%1” could not be opened.</translation>
     </message>
     <message>
+        <source>%1 files could not be opened.</source>
+        <translation>%1 files could not be opened.</translation>
+    </message>
+    <message>
         <source>“%1” exists already.</source>
         <translation>“%1” exists already.</translation>
     </message>

@@ -684,6 +684,10 @@
         <translation>No se pudo abrir «%1».</translation>
     </message>
     <message>
+        <source>%1 files could not be opened.</source>
+        <translation>No se pudieron abrir %1 archivos.</translation>
+    </message>
+    <message>
         <source>“%1” exists already.</source>
         <translation>«%1» ya existe.</translation>
     </message>

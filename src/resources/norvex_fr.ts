@@ -684,6 +684,10 @@
         <translation>« %1 » n’a pas pu être ouvert.</translation>
     </message>
     <message>
+        <source>%1 files could not be opened.</source>
+        <translation>%1 fichiers n’ont pas pu être ouverts.</translation>
+    </message>
+    <message>
         <source>“%1” exists already.</source>
         <translation>« %1 » existe déjà.</translation>
     </message>

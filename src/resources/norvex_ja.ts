@@ -684,6 +684,10 @@
         <translation>「%1」を開けませんでした。</translation>
     </message>
     <message>
+        <source>%1 files could not be opened.</source>
+        <translation>%1 個のファイルを開けませんでした。</translation>
+    </message>
+    <message>
         <source>“%1” exists already.</source>
         <translation>「%1」はすでに存在します。</translation>
     </message>

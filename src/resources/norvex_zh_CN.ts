@@ -684,6 +684,10 @@
         <translation>无法打开“%1”。</translation>
     </message>
     <message>
+        <source>%1 files could not be opened.</source>
+        <translation>无法打开 %1 个文件。</translation>
+    </message>
+    <message>
         <source>“%1” exists already.</source>
         <translation>“%1”已存在。</translation>
     </message>

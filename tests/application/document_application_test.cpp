@@ -261,6 +261,25 @@ class DocumentApplicationTest : public QObject {
     QVERIFY(application_->startPanel().isVisible());
   }
 
+  void filesThatCannotBeOpenedAreToldTogether() {
+    QVERIFY(start({}));
+    QList<QUrl> files{writePdf("a.pdf"), QUrl("http://example.org/a.pdf")};
+    for (int i = 0; i < 7; ++i) files << write(QString("notes%1.txt").arg(i), "milk");
+    application_->documents().openDocuments(files);
+    QVERIFY(finishReading());
+    QCOMPARE(application_->documents().documents().size(), 1);
+    QCOMPARE(alerts_.shown.size(), 1);
+    const Alert& told = alerts_.shown.constFirst();
+    QCOMPARE(told.messageText, QString("8 files could not be opened."));
+    QVERIFY(told.informativeText.startsWith(
+        "http://example.org/a.pdf: Only files on this computer can be opened.\n"));
+    QVERIFY(told.informativeText.endsWith(QString::fromUtf8("\n…")));
+    QCOMPARE(told.informativeText.count('\n'), 6);
+    QCOMPARE(told.details.count('\n'), 7);
+    QCoreApplication::processEvents();
+    QCOMPARE(alerts_.shown.size(), 1);
+  }
+
   void anOperationThatFailedIsToldAndEverythingGoesOn() {
     QVERIFY(start({writePdf("a.pdf")}));
     emit events_->operationFailed("dataOfType:error: is unimplemented");

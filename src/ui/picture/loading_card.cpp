@@ -28,6 +28,7 @@ LoadingCard::LoadingCard(QWidget* parent)
   row->setSpacing(12);
   bar_->setRange(0, 0);  // how long the picture will take is not known
   bar_->setTextVisible(false);
+  bar_->setAutoFillBackground(true);  // else every step of it paints the picture anew
   bar_->setFixedHeight(6);
   bar_->setMinimumWidth(kShortestBar);
   bar_->setMaximumWidth(kLongestBar);
@@ -80,7 +81,8 @@ int LoadingCard::heightForWidth(int width) const {
 
 void LoadingCard::fit() {
   const bool wraps = what_->fontMetrics().horizontalAdvance(what_->text()) > roomFor(width());
-  what_->setWordWrap(wraps);
+  // Said again it would paint the picture below anew, whose painting asks for what is told here.
+  if (what_->wordWrap() != wraps) what_->setWordWrap(wraps);
   bar_->setMaximumWidth(wraps ? kShortestBar : kLongestBar);
 }
 

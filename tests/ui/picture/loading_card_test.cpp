@@ -9,6 +9,20 @@
 
 using namespace norvex;
 
+namespace {
+
+/// As long to paint as a picture may be.
+class Painted final : public QWidget {
+ public:
+  using QWidget::QWidget;
+  int times = 0;
+
+ protected:
+  void paintEvent(QPaintEvent*) override { ++times; }
+};
+
+}  // namespace
+
 class LoadingCardTest : public QObject {
   Q_OBJECT
  private slots:
@@ -41,6 +55,26 @@ class LoadingCardTest : public QObject {
     card.resize(1000, card.heightForWidth(1000));
     QVERIFY(!words->wordWrap());
     QVERIFY(card.height() < narrow);
+  }
+
+  void whatMovesInItOrIsToldAgainDoesNotPaintThePictureBelow() {
+    QWidget window;
+    window.resize(400, 300);
+    Painted picture(&window);
+    picture.resize(window.size());
+    LoadingCard card(&window);
+    card.begin("Drawing");
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_VERIFY(card.isVisible());
+    card.repaint();
+    QVERIFY(picture.times > 0);
+    picture.times = 0;
+    card.findChild<QProgressBar*>()->repaint();
+    QCOMPARE(picture.times, 0);
+    card.begin("Drawing");  // as it is told for each frame that is asked for
+    QCoreApplication::processEvents();
+    QCOMPARE(picture.times, 0);
   }
 };
 

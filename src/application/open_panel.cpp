@@ -40,7 +40,7 @@ QList<QUrl> runOpenPanel(QWidget* parent, const QString& folder) {
   showWholeColumns(panel);
   showWholePlaces(panel);
   nameFolders(panel);
-  panel.resize(fittingScreen(panel, sizeForTexts(panel, kSize)));
+  panel.resize(sizeForTexts(panel, kSize));
   return panel.exec() == QDialog::Accepted ? panel.selectedUrls() : QList<QUrl>();
 }
 

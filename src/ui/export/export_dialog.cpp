@@ -11,6 +11,7 @@
 #include "base/localized_string.h"
 #include "ui/export/export_options.h"
 #include "ui/export/export_target.h"
+#include "ui/panels/centred_window.h"
 #include "ui/picture/zy_image_view.h"
 #include "ui/style/quiet_text.h"
 
@@ -51,7 +52,7 @@ ExportDialog::ExportDialog(QWidget* window, const ExportOffer& offer, const Expo
   });
   connect(target_, &ExportTarget::formatTyped, options_, &ExportOptions::setFormat);
   connect(target_, &ExportTarget::changed, this, &ExportDialog::validate);
-  resize(680, 430);
+  resize(sizeForTexts(*this, {680, 430}));
   validate();
   target_->nameField()->setFocus();
   target_->nameField()->setSelection(0, int(offer.name.size()));
@@ -62,7 +63,7 @@ QWidget* ExportDialog::makePreview() {
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
   preview_->setAccessibleName(localizedString("Preview"));
-  preview_->setMinimumSize(220, 160);
+  preview_->setMinimumSize(leastPreview(*this, {220, 160}));
   preview_->setImageFrameStyle(ZyImageView::GrayBezel);
   preview_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   expected_->setObjectName(QStringLiteral("exportExpected"));

@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
+
 #include "ui/panels/window_place.h"
 
 namespace norvex {
@@ -18,15 +20,23 @@ void centreOver(QWidget& window, const QWidget* other) {
   window.setGeometry(placedOnScreens(place, {{roomOn(*screen)}, usualFrame}));
 }
 
+void placeBeside(QWidget& window, const QWidget& other) {
+  window.setGeometry(placedBeside(other.frameGeometry(), window.size(), roomOn(*other.screen())));
+}
+
 QSize fittingScreen(const QWidget& window, const QSize& wanted) {
-  const QScreen* screen = window.screen();
-  return screen ? wanted.boundedTo(roomOn(*screen).marginsRemoved(usualFrame).size()) : wanted;
+  return wanted.boundedTo(roomOn(*window.screen()).marginsRemoved(usualFrame).size());
 }
 
 QSize sizeForTexts(const QWidget& window, const QSize& usual) {
   constexpr double kUsual = 14;  // logical pixels: 10.5 points
   const double larger = QFontInfo(window.font()).pixelSize() / kUsual;
-  return larger > 1 ? fittingScreen(window, usual * larger) : usual;
+  return fittingScreen(window, usual * std::max(1.0, larger));
+}
+
+QSize leastPreview(const QWidget& window, const QSize& usual) {
+  const QSize room = roomOn(*window.screen()).size();
+  return usual.boundedTo({room.width() / 3, room.height() / 2});
 }
 
 }  // namespace norvex

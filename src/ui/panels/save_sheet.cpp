@@ -62,7 +62,7 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   showWholeColumns(*this);
   showWholePlaces(*this);
   nameFolders(*this);
-  resize(fittingScreen(*this, sizeForTexts(*this, kSize)));
+  resize(sizeForTexts(*this, kSize));
   selectFile(settings_.nameFieldStringValue);
   showName();
 }

@@ -11,6 +11,8 @@ namespace norvex {
 namespace {
 
 constexpr int kCascade = 24;
+/// Between a window and another beside it.
+constexpr int kGap = 8;
 /// Beyond every desktop; what is kept in files may be anything, and is added up here.
 constexpr int kFar = 1'000'000;
 
@@ -57,6 +59,14 @@ QRect placedOnScreens(const QRect& contents, const WindowRoom& room, const QSize
     placed = next;
   }
   return placed.marginsRemoved(room.frame);
+}
+
+QRect placedBeside(const QRect& other, const QSize& contents, const QRect& screen, const QMargins& frame) {
+  const QSize size = contents.grownBy(frame);
+  const int right = other.right() + 1 + kGap, left = other.left() - kGap - size.width();
+  const bool fitsRight = right + size.width() <= screen.right() + 1;
+  const int x = fitsRight ? right : left >= screen.left() ? left : screen.right() + 1 - size.width();
+  return placedOnScreens(QRect(QPoint(x, other.top()), size).marginsRemoved(frame), {{screen}, frame});
 }
 
 QRect roomOn(const QScreen& screen) {

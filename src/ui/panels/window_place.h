@@ -28,6 +28,11 @@ struct WindowRoom {
 [[nodiscard]] QRect placedOnScreens(const QRect& contents, const WindowRoom& room, const QSize& least = {},
                                     const QList<QPoint>& taken = {});
 
+/// The contents of a window of that size beside the frame of another one: to the right of it, where there is
+/// no room to the left, where there is none either at the right edge of the screen; wholly on the screen.
+[[nodiscard]] QRect placedBeside(const QRect& other, const QSize& contents, const QRect& screen,
+                                 const QMargins& frame = usualFrame);
+
 /// What windows may cover of a screen, without the logical pixels at its far edges that a scale which is no
 /// whole number lets it have in part.
 [[nodiscard]] QRect roomOn(const QScreen& screen);

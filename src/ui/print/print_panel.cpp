@@ -13,7 +13,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolButton>
@@ -39,7 +38,7 @@ namespace {
 constexpr int kSettleMs = 80;
 constexpr int kRefreshMs = 5000;
 constexpr QSize kFileDialogSize(720, 560);
-constexpr QSize kSmallestPreview(330, 330);  // where the screen has room for it
+constexpr QSize kSmallestPreview(330, 330);
 const QString kSuffix = QStringLiteral("pdf");
 const QString kFileItem = QStringLiteral("\n");  // no printer can be called that
 
@@ -106,7 +105,7 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
     showWholeColumns(dialog);
     showWholePlaces(dialog);
     nameFolders(dialog);
-    dialog.resize(fittingScreen(dialog, sizeForTexts(dialog, kFileDialogSize)));
+    dialog.resize(sizeForTexts(dialog, kFileDialogSize));
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
   };
   mayReplace = [this](const QString& path) {
@@ -195,8 +194,7 @@ QWidget* PrintPanel::previewColumn() {
   auto* box = new QVBoxLayout(column);
   box->setContentsMargins(0, 0, 0, 0);
   preview_ = new PageLayoutPreview;
-  const QSize room = screen()->availableSize();
-  preview_->setMinimumSize(kSmallestPreview.boundedTo({room.width() / 3, room.height() / 2}));
+  preview_->setMinimumSize(leastPreview(*this, kSmallestPreview));
   connect(preview_, &PageLayoutPreview::resized, &settle_, [this] { settle_.start(kSettleMs); });
   box->addWidget(preview_, 1);
   auto* row = new QHBoxLayout;

@@ -7,10 +7,8 @@
 #include <QLocale>
 #include <QMainWindow>
 #include <QPointer>
-#include <QScreen>
 #include <QTabWidget>
 
-#include <algorithm>
 #include <utility>
 
 #include "base/background_work.h"
@@ -190,16 +188,9 @@ void InspectorCommand::order() {
 void InspectorCommand::place() {
   // Once it was shown the user decides where it is.
   if (std::exchange(placed_, true)) return;
-  const QRect beside = parts_.mainWindow()->frameGeometry();
-  const QRect screen = parts_.mainWindow()->screen()->availableGeometry();
-  const QSize usual = sizeForTexts(*parts_.inspectorWindow, parts_.inspectorWindow->size());
-  const QSize size = usual.boundedTo(screen.size() - QSize(0, 48));
-  parts_.inspectorWindow->resize(size);
-  int x = beside.right() + 8;
-  if (x + size.width() > screen.right()) x = beside.left() - size.width() - 8;
-  if (x < screen.left()) x = screen.right() - size.width() - 8;
-  parts_.inspectorWindow->move(x, std::clamp(beside.top(), screen.top(),
-                                             std::max(screen.top(), screen.bottom() - size.height() - 40)));
+  QWidget& inspector = *parts_.inspectorWindow;
+  inspector.resize(sizeForTexts(inspector, inspector.size()));
+  placeBeside(inspector, *parts_.mainWindow());
 }
 
 void InspectorCommand::takeColor(const QColor& color) {

@@ -17,7 +17,6 @@
 #include "picture/localized_error.h"
 #include "picture/pdf_image_rep.h"
 #include "ui/export/export_dialog.h"
-#include "ui/panels/centred_window.h"
 #include "ui/picture/brief_note.h"
 #include "window/commands/copy_command.h"
 #include "window/commands/window_parts.h"
@@ -111,7 +110,6 @@ void ExportCommand::run() {
   ExportChoice first = storedExportChoice();
   first.area = offer.areas.first().area;
   dialog_ = new ExportDialog(parts_.mainWindow(), offer, first);
-  dialog_->resize(fittingScreen(*dialog_, dialog_->size()));
   dialog_->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog_, &ExportDialog::changed, this, [this] {
     drop();

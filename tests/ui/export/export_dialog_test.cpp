@@ -6,12 +6,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStandardItemModel>
 
 #include "kit/test_main.h"
 #include "ui/export/export_dialog.h"
+#include "ui/panels/centred_window.h"
 
 using namespace norvex;
 
@@ -197,6 +200,19 @@ class ExportDialogTest : public QObject {
     ExportChoice other = first;
     other.format = PictureFormat::Illustrator;  // cannot be written
     QCOMPARE(Shown(other).dialog.choice().format, PictureFormat::Eps);
+  }
+
+  void itIsLargerForLargerTextsAndStaysOnTheScreen() {
+    QCOMPARE(Shown().dialog.size(), QSize(680, 430));
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(21);
+    QApplication::setFont(large);
+    const auto back = qScopeGuard([&] { QApplication::setFont(usual); });
+    const Shown f;
+    QCOMPARE(f.dialog.size(), sizeForTexts(f.dialog, {680, 430}));
+    QVERIFY(f.dialog.height() > 430);
+    QVERIFY(f.dialog.width() < f.dialog.screen()->availableSize().width());
   }
 
   void whatCannotBeMadeIsNotExported() {

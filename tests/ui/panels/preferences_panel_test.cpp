@@ -5,12 +5,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
-
-#include <cmath>
 
 #include "kit/test_main.h"
-#include "ui/panels/centred_window.h"
 
 using namespace norvex;
 
@@ -98,22 +94,6 @@ class PreferencesPanelTest : public QObject {
     QVERIFY(find<QWidget>(panel, "list")->hasFocus());
     QTest::keyClick(&panel, Qt::Key_Escape);
     QVERIFY(!panel.isVisible());
-  }
-
-  void itComesUpOverTheMiddleOfAnotherWindow() {
-    QWidget other;
-    other.setGeometry(200, 150, 400, 300);
-    other.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&other));
-    QWidget window;
-    window.resize(200, 100);
-    centreOver(window, &other);
-    const QPoint off = window.geometry().center() - other.frameGeometry().center();
-    QVERIFY(std::abs(off.x()) <= 1 && std::abs(off.y()) <= 1);
-    window.resize(200, 100);
-    other.move(-350, -250);  // most of it is beside the screen
-    centreOver(window, &other);
-    QVERIFY(window.screen()->availableGeometry().contains(window.geometry()));
   }
 };
 

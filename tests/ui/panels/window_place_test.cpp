@@ -178,6 +178,26 @@ class WindowPlaceTest : public QObject {
     QCOMPARE(placedOnScreens(QRect(-5, -6, 70, 80), {}), QRect(-5, -6, 70, 80));
   }
 
+  void besideAnotherWindowItHidesNothingOfIt_data() {
+    QTest::addColumn<QRect>("other");
+    QTest::addColumn<QSize>("contents");
+    QTest::addColumn<QRect>("placed");
+    const QSize usual(300, 200);
+    QTest::newRow("to the right") << QRect(100, 50, 400, 300) << usual << QRect(509, 70, 300, 200);
+    QTest::newRow("just to the right") << QRect(290, 50, 400, 300) << usual << QRect(699, 70, 300, 200);
+    QTest::newRow("to the left") << QRect(310, 50, 400, 300) << usual << QRect(1, 70, 300, 200);
+    QTest::newRow("over it at the edge") << QRect(309, 50, 400, 300) << usual << QRect(699, 70, 300, 200);
+    QTest::newRow("low") << QRect(100, 500, 400, 300) << usual << QRect(509, 395, 300, 200);
+    QTest::newRow("above the screen") << QRect(100, -50, 400, 300) << usual << QRect(509, 20, 300, 200);
+    QTest::newRow("as high as the screen")
+        << QRect(100, 50, 400, 300) << QSize(300, 900) << QRect(509, 20, 300, 575);
+  }
+  void besideAnotherWindowItHidesNothingOfIt() {
+    QFETCH(QRect, other);
+    QFETCH(QSize, contents);
+    QTEST(placedBeside(other, contents, QRect(0, 0, 1000, 600), {1, 20, 1, 5}), "placed");
+  }
+
   void ofEveryScreenThereIsRoom() {
     QCOMPARE(roomOnScreens().size(), QGuiApplication::screens().size());
     QCOMPARE(roomOnScreens().constFirst(), QGuiApplication::primaryScreen()->availableGeometry());

@@ -27,9 +27,8 @@ QImage thumbnailOf(PictureService& service, const QUrl& url, int side, const Can
   const auto opened = openPicture(service, {*bytes, type, url}, limits, cancel);
   if (!opened) return {};
   const QSizeF size = (*opened)->size();
-  const double longest = std::max(size.width(), size.height());
-  if (!(longest > 0)) return {};
-  const auto image = (*opened)->rasterImage(side / longest, RenderPurpose::Preview, cancel);
+  const double scale = side / std::max(size.width(), size.height());
+  const auto image = (*opened)->rasterImage(scale, RenderPurpose::Preview, cancel);
   (*opened)->moveToThread(QCoreApplication::instance()->thread());  // threads of a pool deliver no events
   return image ? *image : QImage();
 }

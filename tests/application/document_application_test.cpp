@@ -252,6 +252,7 @@ class DocumentApplicationTest : public QObject {
 
   void aFileOfAnotherKindIsToldInAPlainSentence() {
     QVERIFY(start({}));
+    QTest::ignoreMessage(QtInfoMsg, "notes.txt: readFromData:ofType:error: is unimplemented");  // for the log
     QVERIFY(dropFiles(&application_->startPanel(), {write("notes.txt", "milk")}));
     QVERIFY(finishReading());
     QCOMPARE(alerts_.shown.size(), 1);
@@ -326,9 +327,15 @@ class DocumentApplicationTest : public QObject {
     auto* file = window.menuBar()->addMenu("File");
     file->setObjectName("fileMenu");
     file->addAction("Close");
+    auto* help = window.menuBar()->addMenu("Help");
+    help->setObjectName("helpMenu");
+    help->addAction("About");
     QVERIFY(start({writePdf("a.pdf")}));
     QCOMPARE(file->actions().first()->objectName(), QString("openAction"));
     QCOMPARE(file->actions().first()->shortcut(), QKeySequence(QKeySequence::Open));
+    QCOMPARE(help->actions().count(), 2);
+    QCOMPARE(help->actions().first()->objectName(), QString("manualAction"));
+    QCOMPARE(help->actions().first()->shortcut(), QKeySequence(QKeySequence::HelpContents));
     QVERIFY(dropFiles(&window, {writePdf("b.pdf")}));
     QVERIFY(finishReading());
     QCOMPARE(application_->documents().documents().size(), 2);

@@ -70,6 +70,7 @@ class ImageRepTest : public QObject {
     for (const QByteArray& start :
          {QByteArray(3, '\0'), QByteArray("\x04"), QByteArray(" \t\r\n\v\f"), QByteArray(64, '\0')})
       QVERIFY2(NSEPSImageRep::imageRepWithData(service, start + eps), start.toHex());
+    QVERIFY(!NSEPSImageRep::imageRepWithData(service, QByteArray(65, '\0') + eps));
   }
   void commentsWithABoundingBoxDoWithoutTheMark() {
     MemoryPictureService service;

@@ -53,7 +53,6 @@ RenderedPicture::RenderedPicture(std::shared_ptr<PictureProcess> process, int pa
           options.clock) {
   restTimer_.setSingleShot(true);
   connect(&restTimer_, &QTimer::timeout, this, &RenderedPicture::rest);
-  staleTimer_.setSingleShot(true);
   connect(&staleTimer_, &QTimer::timeout, this, &RenderedPicture::plan);
 }
 

@@ -91,14 +91,12 @@ void InksInPicture::watch(bool on) {
 }
 
 bool InksInPicture::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == widget_ && shown_) {
-    if (event->type() == QEvent::MouseMove) {
-      const auto& view = widget_->view();
-      const QPointF at = widget_->toView(static_cast<QMouseEvent*>(event)->position());
-      emit pointed(viewToPicture(at, view.imageSize(), view.rotate()));
-    }
-    if (event->type() == QEvent::Leave) emit pointed(std::nullopt);
+  if (event->type() == QEvent::MouseMove) {
+    const auto& view = widget_->view();
+    const QPointF at = widget_->toView(static_cast<QMouseEvent*>(event)->position());
+    emit pointed(viewToPicture(at, view.imageSize(), view.rotate()));
   }
+  if (event->type() == QEvent::Leave) emit pointed(std::nullopt);
   return QObject::eventFilter(watched, event);
 }
 

@@ -170,9 +170,8 @@ bool PagesCommand::eventFilter(QObject* watched, QEvent* event) {
   // A page key goes on to the next page where the shown one ends.
   const QScrollBar* bar = parts_.scrollArea()->verticalBar();
   const int key = static_cast<QKeyEvent*>(event)->key();
-  if (key == Qt::Key_PageDown && bar->value() == bar->maximum() && shown() + 1 < count())
-    return show(shown() + 1), true;
-  if (key == Qt::Key_PageUp && bar->value() == bar->minimum() && shown() > 0) return show(shown() - 1), true;
+  if (key == Qt::Key_PageDown && bar->value() == bar->maximum()) return show(shown() + 1), true;
+  if (key == Qt::Key_PageUp && bar->value() == bar->minimum()) return show(shown() - 1), true;
   return QObject::eventFilter(watched, event);
 }
 

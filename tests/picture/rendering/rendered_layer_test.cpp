@@ -65,6 +65,22 @@ class RenderedLayerTest : public QObject {
     QVERIFY(mappedRect(turned, QRectF(5000, 5000, 10, 10), kVisible).isEmpty());
   }
 
+  void aLayerThatIsShrunkKeepsWhatIsLookedAt() {
+    QImage image(10, 10, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::red);
+    const QRect near(0, 0, 10, 10), far(500, 0, 10, 10), farther(900, 0, 10, 10);
+    RenderedLayer layer{QTransform()};
+    for (const QRect& rect : {far, near, farther}) layer.add(rect, image);
+    const qint64 one = layer.bytes() / 3;
+    layer.shrink(2 * one, near);
+    QCOMPARE(layer.covered(), QRegion(near) + QRegion(far));
+    layer.shrink(0, near);
+    QCOMPARE(layer.covered(), QRegion(near));
+    layer.shrink(0, farther);  // who looks elsewhere by now needs nothing of it
+    QCOMPARE(layer.bytes(), qint64(0));
+    QVERIFY(layer.covered().isEmpty());
+  }
+
   void enormousRectanglesFillWhatIsVisible() {
     const QTransform t = QTransform().rotate(30).scale(1e6, 1e6);
     QCOMPARE(mappedRect(t, QRectF(-1e3, -1e3, 2e3, 2e3), kVisible), QRegion(kVisible));

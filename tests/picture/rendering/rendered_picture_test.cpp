@@ -202,6 +202,36 @@ class RenderedPictureTest : public QObject {
     }
   }
 
+  void aPictureOfTheBoundItselfIsOneBitmap() {
+    RenderedPictureOptions options;
+    options.wholePixels = 200 * 100;
+    const Fixture f(kSmall, options);
+    QVERIFY(f.becomesSharp(placed(kSmall, 1, 0, {150, 0})));  // one half is out of sight
+    QVERIFY(f.becomesIdle());
+    QCOMPARE(f.renders(), 1);
+    QCOMPARE(f.process->renderRequests().first().pixelSize, QSize(200, 100));
+  }
+
+  void anOverviewMayBeFourTimesAsLongAsABitmap() {
+    const QSizeF strip(16384, 64);
+    RenderedPictureOptions options;
+    options.wholePixels = 1;
+    options.overviewPixels = 16384 * 64;
+    const Fixture f(strip, options);
+    QVERIFY(f.becomesSharp(placed(strip, 4, 0, {150, 100})));
+    QTRY_VERIFY(f.renders() >= 2);
+    QCOMPARE(f.process->renderRequests().at(1).pixelSize, QSize(16384, 64));
+  }
+
+  void theMarginComesWhereTheCacheHoldsFourTimesItsPixels() {
+    RenderedPictureOptions options;
+    options.cacheBytes = 1024 * 768 * 4 + 1;  // the tiles that the margin touches
+    const Fixture f(kLarge, options);
+    const QTransform t = placed(kLarge, 4, 0, {150, 100});
+    QVERIFY(f.becomesSharp(t));
+    QVERIFY(QTest::qWaitFor([&] { return f.renders() >= 3; }, 20000));
+  }
+
   void withTheMarginAShortScrollIsSharpAtOnce() {
     const Fixture f(kLarge);
     const QTransform t = placed(kLarge, 4, 0, {150, 100});

@@ -144,6 +144,24 @@ class ExportDialogTest : public QObject {
     f.find<QCheckBox>("exportLossless")->setChecked(false);
     f.find<QSpinBox>("exportQuality")->setValue(60);
     QCOMPARE(f.dialog.choice().quality, std::optional<int>(60));
+    f.choose(PictureFormat::Png);
+    QVERIFY(!f.dialog.choice().quality);
+  }
+
+  void aQualityThatIsBeingTypedIsNoneYet() {
+    Shown f;
+    f.choose(PictureFormat::Jpeg);
+    f.dialog.show();
+    QApplication::setActiveWindow(&f.dialog);
+    auto* quality = f.find<QSpinBox>("exportQuality");
+    quality->setFocus();
+    quality->selectAll();
+    QSignalSpy changed(&f.dialog, &ExportDialog::changed);
+    QTest::keyClicks(quality, "75");
+    QVERIFY(changed.isEmpty());
+    QTest::keyClick(quality, Qt::Key_Tab);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(f.dialog.choice().quality, std::optional<int>(75));
   }
 
   void allPagesGoIntoAPdfOnly() {

@@ -1,4 +1,6 @@
 // What is handed to the process that owns the clipboard afterwards.
+#include <QCborArray>
+#include <QCborValue>
 #include <QMimeData>
 
 #include "kit/test_main.h"
@@ -50,6 +52,12 @@ class ClipboardKeeperTest : public QObject {
     const QByteArray packed = packedMimeData(data);
     for (qsizetype length = 0; length < packed.size(); length += 7)
       QVERIFY(!unpackedMimeData(packed.left(length)));
+    const QByteArray mark("norvex clipboard 1\n");
+    QVERIFY(packed.startsWith(mark));
+    for (const int place : {-1, 1}) {  // of the content: there is one
+      const QCborArray formats{QCborArray{"application/pdf", place}};
+      QVERIFY(!unpackedMimeData(mark + QCborValue(QCborArray{formats, QCborArray{packed}}).toCbor()));
+    }
   }
 
   void withoutAnXServerNothingIsLeft() {

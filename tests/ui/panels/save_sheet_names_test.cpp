@@ -46,6 +46,7 @@ class SaveSheetNamesTest : public QObject {
     QCOMPARE(s.answered("Map.eps"), QStringLiteral("Map.eps"));
     QCOMPARE(s.answered("Map.png"), QStringLiteral("Map.png"));
     QCOMPARE(s.answered("Map 1.5"), QStringLiteral("Map 1.5.eps"));
+    QCOMPARE(s.answered("Map.pdf"), QStringLiteral("Map.pdf.eps"));  // a type that is not offered
     QCOMPARE(s.answered("Map"), QStringLiteral("Map"));
     s.settings.allowsOtherFileTypes = true;
     s.open();

@@ -31,6 +31,22 @@ class InksCommandTest : public QObject {
     QCOMPARE(f.image().pixel(1, 0), qRgb(255, 242, 0));
   }
 
+  void aLargePageIsSeparatedLessFinely_data() {
+    QTest::addColumn<QSizeF>("page");
+    QTest::addColumn<double>("dpi");
+    QTest::newRow("small") << QSizeF(200, 100) << 144.0;
+    QTest::newRow("two million points") << QSizeF(2000, 1000) << 72.0;
+    QTest::newRow("enormous") << QSizeF(200'000, 100'000) << 1.0;
+  }
+  void aLargePageIsSeparatedLessFinely() {
+    QFETCH(QSizeF, page);
+    InksFixture f(1, page);
+    f.openPdf();
+    f.look();
+    QVERIFY(f.listsInks());
+    QTEST(f.requests().first().dpi, "dpi");
+  }
+
   void withoutAPictureThatIsSaid() {
     InksFixture f;
     f.controller = &f.open("", "a.pdf", "com.adobe.pdf");

@@ -34,10 +34,8 @@ struct Asked {
 
 class InksFixture : public WindowFixture {
  public:
-  explicit InksFixture(int pages = 1) {
-    MemoryPicture picture;
-    for (int i = 0; i < pages; ++i) picture.facts.pageBounds << QRectF(0, 0, 200, 100);
-    picture.facts.pageBounds.resize(pages);
+  explicit InksFixture(int pages = 1, const QSizeF& size = {200, 100}) {
+    picture.facts.pageBounds = QList<QRectF>(pages, QRectF(QPointF(), size));
     picture.facts.pageCount = pages;
     picture.examine = [asked = asked](const ExamineRequest& request) {
       const std::lock_guard lock(asked->mutex);
@@ -97,6 +95,7 @@ class InksFixture : public WindowFixture {
     return asked->requests;
   }
 
+  MemoryPicture picture;
   MainWindowController* controller = nullptr;
   /// Threads that a window leaves behind may come back to it last.
   const std::shared_ptr<Asked> asked = std::make_shared<Asked>();

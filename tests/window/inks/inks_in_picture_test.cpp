@@ -1,6 +1,8 @@
 // The inks in the place of the picture: as sharp as it is shown, and gone with what they belong to.
 #include <QApplication>
 #include <QMouseEvent>
+#include <QScopeGuard>
+#include <QSemaphore>
 
 #include <cmath>
 
@@ -94,6 +96,23 @@ class InksInPictureTest : public QObject {
     process->release(PictureCall::Examine);
     QVERIFY(QTest::qWaitFor([&] { return f.standsSharp(); }, 20000));
     QCOMPARE(f.requests().last().page, 1);
+  }
+
+  void theInksOfTheWholePageAreThereBeforeThoseOfItsPart() {
+    QSemaphore goesOn;  // outlives the threads that wait for it
+    InksFixture f(2);
+    MainWindowController& c = f.openPdf();
+    f.showInPicture();
+    MemoryPicture picture = f.picture;
+    picture.examine = [&](const ExamineRequest& request) {
+      if (request.part) goesOn.acquire();
+      return encodePageInks(twoPixels());
+    };
+    f.service.setPicture(picture);
+    const auto end = qScopeGuard([&] { goesOn.release(1000); });
+    f.revert();
+    QTRY_COMPARE(c.viewWidget()->standIns().size(), 1);
+    QCOMPARE(c.viewWidget()->standIns().first().place, QRectF(0, 0, 200, 100));
   }
 
   void aWindowIsClosedWhileThePartIsSeparated() {

@@ -181,6 +181,22 @@ class PagesTest : public QObject {
     QCOMPARE(f.pages.shown(), 0);
   }
 
+  void beyondTheFirstAndTheLastPageNothingIsSaid() {
+    PagesFixture f(2);
+    f.c.window()->show();
+    QScrollBar* bar = f.c.scrollArea()->verticalBar();
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_PageUp);
+    QCOMPARE(f.pages.shown(), 0);
+    f.pages.show(1);
+    bar->setValue(bar->maximum());
+    const auto* note = f.c.window()->findChild<BriefNote*>();
+    const QString before = note ? note->text() : QString();
+    QTest::keyClick(f.c.scrollArea(), Qt::Key_PageDown);
+    QCOMPARE(f.pages.shown(), 1);
+    note = f.c.window()->findChild<BriefNote*>();
+    QCOMPARE(note ? note->text() : QString(), before);
+  }
+
   void aNarrowFootKeepsItsFiguresWhole() {
     PagesFixture f(59);
     f.c.window()->show();
@@ -219,6 +235,15 @@ class PagesTest : public QObject {
     QFile stored(f.folder.filePath("norvex/windows.ini"));
     QVERIFY(stored.open(QIODevice::ReadOnly));
     QVERIFY(stored.readAll().contains("pages=true"));
+  }
+
+  void noThumbnailIsMadeForAStripThatNobodySees() {
+    PagesFixture f(2);
+    f.c.window()->show();
+    QTRY_VERIFY(f.c.view()->imageRep()->isSharp());
+    QTest::qWait(50);
+    for (const RenderRequest& request : f.service.lastProcess()->renderRequests())
+      QVERIFY(request.purpose != RenderPurpose::Preview);
   }
 
   void theNamesAreSeenWhicheverPageIsShownFirst() {

@@ -179,6 +179,15 @@ class ViewingTest : public QObject {
     QCOMPARE(f.c.titleForm()->cellAtIndex(0)->text(), QString("A picture"));
   }
 
+  void aWindowThatNobodySeesWaitsToBeAsked() {
+    Shown f;
+    f.c.window()->hide();
+    f.fixture.write(epsBytes().replace("A picture", "Another"), "a.eps");
+    f.c.fileDidChangeOnDisk();
+    QCOMPARE(f.c.messageBar()->message(), QString("The file has changed on disk."));
+    QCOMPARE(f.c.titleForm()->cellAtIndex(0)->text(), QString("A picture"));
+  }
+
   void aDragIsNotSpoiled() {
     Shown f;
     QVERIFY(f.c.view()->mouseDown());

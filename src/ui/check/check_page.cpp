@@ -89,7 +89,6 @@ QWidget* CheckPage::makeHead() {
   connect(profiles_, &QComboBox::activated, this, &CheckPage::choose);
   again_ = new QPushButton(head);
   again_->setObjectName(QStringLiteral("checkAgain"));
-  again_->setAutoDefault(false);
   again_->setText(localizedString("Check Again"));
   again_->setMinimumWidth(again_->sizeHint().width());  // it says Stop for a while
   connect(again_, &QPushButton::clicked, this,
@@ -152,7 +151,6 @@ QWidget* CheckPage::makeFoot() {
   repairAll_ = new QPushButton(localizedString("Repair All…"), foot_);
   repairAll_->setObjectName(QStringLiteral("repairAll"));
   repairAll_->setToolTip(localizedString("Writes a mended copy of the file"));
-  repairAll_->setAutoDefault(false);
   connect(repairAll_, &QPushButton::clicked, this, &CheckPage::repairAllWanted);
   row->addStretch(1);
   row->addWidget(repairAll_);

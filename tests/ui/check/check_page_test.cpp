@@ -169,6 +169,16 @@ class CheckPageTest : public QObject {
              shown.page.findChild<QScrollArea*>()->viewport()->width());
   }
 
+  void theRowsAreAsWideAsThePageAndOnlyScrollDownwards() {
+    Shown shown({kFont, kCut, kPreview});
+    const auto* scroll = shown.page.findChild<QScrollArea*>();
+    for (const int width : {320, 600}) {
+      shown.page.resize(width, 500);
+      QCoreApplication::processEvents();
+      for (const FindingRow* row : shown.rows()) QCOMPARE(row->width(), scroll->viewport()->width());
+    }
+  }
+
   void ofVeryManyFindingsTheFirstAreShownAndTheRestIsCounted() {
     Shown shown(Findings(CheckPage::mostRows + 12, kFont));
     QCOMPARE(shown.rows().size(), qsizetype(CheckPage::mostRows));

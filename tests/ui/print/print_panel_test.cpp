@@ -17,6 +17,8 @@
 #include "kit/test_main.h"
 #include "picture/process/null_picture_service.h"
 #include "print/memory_printing.h"
+#include "ui/panels/centred_window.h"
+#include "ui/print/page_layout_preview.h"
 #include "ui/print/page_layout_sheet.h"
 #include "ui/print/zy_page_layout_accessory.h"
 
@@ -294,6 +296,26 @@ class PrintPanelTest : public QObject {
     QCOMPARE(operation_->printInfo().documentPages(), DocumentPages::Range);
     QCOMPARE(operation_->printInfo().firstDocumentPage(), 1);
     QCOMPARE(operation_->printInfo().lastDocumentPage(), 1);
+  }
+
+  void aRangeThatWasChosenBeforeIsShownAgain() {
+    pages_ = {{100, 100}, {200, 100}, {100, 200}, {100, 100}};
+    open({200, 100});
+    QCOMPARE(child<QSpinBox>("firstDocumentPage")->value(), 2);  // the shown one, and what follows it
+    QCOMPARE(child<QSpinBox>("lastDocumentPage")->value(), 4);
+    NSPrintInfo info = a4();
+    info.setDocumentPageRange(3, 3);
+    open({200, 100}, kPrinters, info);
+    QCOMPARE(child<QComboBox>("documentPages")->currentData().toInt(), int(DocumentPages::Range));
+    QCOMPARE(child<QSpinBox>("firstDocumentPage")->value(), 3);
+    QCOMPARE(child<QSpinBox>("lastDocumentPage")->value(), 3);
+  }
+
+  void aPreviewLeavesASmallScreenToTheChoices() {
+    open({100, 100});
+    const QSize least = panel_->findChild<PageLayoutPreview*>()->minimumSize();
+    QCOMPARE(least, leastPreview(*panel_, {330, 330}));
+    QVERIFY(least.width() < 330);
   }
 
   void aRangeThatIsStillTypedIsPrinted() {

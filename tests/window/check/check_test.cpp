@@ -14,6 +14,7 @@
 #include "ui/source/source_text_edit.h"
 #include "ui/source/source_text_view.h"
 #include "window/check/check_fixture.h"
+#include "window/place/window_frames.h"
 
 using namespace norvex;
 
@@ -58,6 +59,7 @@ class CheckTest : public QObject {
     emit list->activated(list->currentIndex());
     QTRY_VERIFY(!command->isChecking());
     QVERIFY(hasFinding(command->findings(), "lines.thin"));
+    QCOMPARE(savedViewText("check/profile"), QStringLiteral("print"));  // as every version has kept it
     CheckPage other;
     CheckCommand another(c, other, nullptr);
     QCOMPARE(other.profile(), QStringLiteral("print"));

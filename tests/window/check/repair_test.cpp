@@ -60,6 +60,7 @@ class RepairTest : public QObject {
     f.panel.answer({true, url});
     QVERIFY(!ended.isEmpty() || ended.wait(20000));
     QVERIFY(ended[0][1].toBool());
+    QVERIFY(!c.inspectorWindow->findChild<RepairCommand*>()->isRepairing());
     QCOMPARE(f.read("a.eps"), before);
     QVERIFY(f.read("b.eps").contains("showpage"));
     QCOMPARE(f.alerts.shown.size(), 1);
@@ -99,6 +100,30 @@ class RepairTest : public QObject {
     const QString stays = told(sound, "a", {"the font Some is missing"});
     QVERIFY2(stays.startsWith("a_repaired: Nothing had to be changed.\n\nThis stays as it is:\n• "),
              qPrintable(stays));
+  }
+
+  void oneFileIsMendedAfterTheOther() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    const CheckCommand* check = f.checked(c);
+    auto* repair = c.inspectorWindow->findChild<RepairCommand*>();
+    f.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Examine); });
+    repair->run(check->findings());
+    QSignalSpy ended(repair, &RepairCommand::ended);
+    f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath("b.eps"))});
+    QVERIFY(repair->isRepairing());
+    repair->run(check->findings());
+    QVERIFY(!f.panel.isOpen());
+    QTRY_COMPARE(f.service.openCount(), 3);
+    f.service.setPrepare([](MemoryPictureProcess&) {});
+    f.service.lastProcess()->release(PictureCall::Examine);
+    QTRY_COMPARE(ended.size(), 1);
+    repair->run(check->findings());
+    QVERIFY(f.panel.isOpen());
+    f.panel.answer({});
+    f.document.setFileURL({});
+    repair->run(check->findings());  // there is nothing to mend
+    QVERIFY(!f.panel.isOpen());
   }
 
   void aPanelThatIsCancelledRepairsNothing() {

@@ -3,6 +3,7 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QScreen>
+#include <QWindow>
 
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
@@ -90,6 +91,40 @@ class SideRoomTest : public QObject {
     f.press(action);
     QTRY_COMPARE(f.width(), width);
     QCOMPARE(f.room(), room);
+  }
+
+  void aWindowThatHadToGiveWayComesBackToItsPlace_data() { everyPanel(); }
+  void aWindowThatHadToGiveWayComesBackToItsPlace() {
+    QFETCH(QString, action);
+    Beside f;
+    f.show();
+    QTest::qWait(300);  // where it stands by then is the user's wish
+    const QRect screen = f.c.window()->screen()->availableGeometry();
+    f.c.window()->move(screen.right() - f.c.window()->frameGeometry().width() - 10, 40);
+    QCoreApplication::processEvents();
+    const QRect before = f.c.window()->geometry();
+    f.press(action);
+    QVERIFY(f.c.window()->geometry().left() < before.left());
+    f.press(action);
+    QTRY_COMPARE(f.c.window()->geometry(), before);
+  }
+
+  void itIsNoPartOfASizeThatIsPulled_data() { everyPanel(); }
+  void itIsNoPartOfASizeThatIsPulled() {
+    QFETCH(QString, action);
+    QFETCH(QString, dock);
+    Beside f;
+    f.show();
+    f.press(action);
+    const auto* panel = f.c.window()->findChild<QDockWidget*>(dock);
+    const QSize most = f.c.window()->maximumSize();
+    f.c.window()->windowHandle()->resize(most + QSize(60, 40));  // as a window manager would
+    QTRY_COMPARE(f.c.window()->size(), most + QSize(60, 40));
+    QTRY_COMPARE(f.c.window()->size(), most);
+    const int beside = f.c.window()->centralWidget()->x();
+    QVERIFY(beside >= panel->width());
+    f.c.window()->close();
+    QCOMPARE(savedWindowFrame("MainWindowController").size(), most + QSize(60 - beside, 40));
   }
 
   void itIsNoPartOfASizeThatIsKept_data() { everyPanel(); }

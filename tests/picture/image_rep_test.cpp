@@ -83,6 +83,7 @@ class ImageRepTest : public QObject {
       QVERIFY(!NSEPSImageRep::imageRepWithData(service, start + "0 0 9 9 rectfill\n"));
     }
     QVERIFY(!NSEPSImageRep::imageRepWithData(service, "a text\n%%BoundingBox: 0 0 300 30\n"));
+    QVERIFY(!NSEPSImageRep::imageRepWithData(service, "%PDF-1.4\n%%BoundingBox: 0 0 300 30\n"));
   }
 
   void anEpsTellsItsBoxesWithoutAskingTheProcess() {

@@ -212,6 +212,37 @@ class MainWindowOpeningTest : public QObject {
     QVERIFY(button(c, "Try Again"));
   }
 
+  void aProgramThatIsTriedAgainAndStoppedAgainSaysSoAgain() {
+    const QString begun =
+        QStringLiteral("The drawing was stopped. What is shown is what it had drawn until then.");
+    WindowFixture fixture;
+    MemoryPicture picture;
+    picture.paint = [](const RenderRequest& request) {
+      return QImage(request.pixelSize, QImage::Format_ARGB32_Premultiplied);
+    };
+    fixture.service.setPicture(picture);
+    fixture.service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Render); });
+    MainWindowController& c = fixture.open(epsBytes(), "a.eps", NorvexEPSType);
+    c.showWindow();
+    QTRY_VERIFY(c.view()->imageRep() && c.view()->imageRep()->isRendering());
+    const auto process = fixture.service.lastProcess();
+    QVERIFY(process->waitUntilHeld(PictureCall::Render));
+    auto* card = c.window()->findChild<LoadingCard*>();
+    emit card->cancelled();
+    process->release(PictureCall::Render);
+    QTRY_COMPARE(c.messageBar()->message(), begun);
+    process->fail(PictureCall::Render, {ErrorKind::Died, "the picture process ended without an answer"});
+    c.zoomingScrollView()->zoomTo(2.0);  // what had begun is not there at every size
+    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("The drawing was stopped."));
+    process->succeed(PictureCall::Render);
+    process->hold(PictureCall::Render);
+    button(c, "Try Again")->click();
+    QVERIFY(process->waitUntilHeld(PictureCall::Render));
+    emit card->cancelled();
+    process->release(PictureCall::Render);
+    QTRY_COMPARE(c.messageBar()->message(), begun);
+  }
+
   void theQuestionWaitsUntilAnotherMessageWasRead() {
     WindowFixture fixture;
     Alarms alarms;

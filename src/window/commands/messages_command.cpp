@@ -151,6 +151,7 @@ void MessagesCommand::retryDrawing() {
   QTimer::singleShot(kStoppedEndsMs, this, [this, shown = std::weak_ptr(rep)] {
     const std::shared_ptr<NSImageRep> same = shown.lock();
     if (!same || parts_.view()->imageRep() != same) return;
+    if (process_ && process_->isStopped()) return;  // this try, too
     const auto error = same->renderingError();
     if ((error && StoppableProcess::meansStopped(*error)) || (process_ && process_->isStopping()))
       retryDrawing();

@@ -96,7 +96,6 @@ void InksCommand::take(const Result<SeparatedPage>& page) {
   }
   inks_ = std::make_shared<const PageInks>(page->inks);
   page_.showInks(*inks_, mostInk(*inks_));
-  inPicture_->setChoice(page_.choice());
   inPicture_->setInks(inks_, page_.simulatesOverprint());
   compose();
 }

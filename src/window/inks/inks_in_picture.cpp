@@ -45,9 +45,6 @@ void InksInPicture::setInks(std::shared_ptr<const PageInks> page, bool overprint
   const QSizeF size = parts_.view() ? parts_.view()->imageSize() : QSizeF();
   whole_ = {std::move(page), QRectF(QPointF(0, 0), size), {}};
   show();
-  if (!shown_ || !whole_.inks) return;
-  compose();
-  rest_.start();
 }
 
 void InksInPicture::setChoice(const InkChoice& choice) {
@@ -79,8 +76,7 @@ void InksInPicture::forgetPart() {
 }
 
 void InksInPicture::watch(bool on) {
-  if (!widget_ || watched_ == on) return;
-  watched_ = on;
+  if (!widget_) return;
   if (on) {
     widget_->installEventFilter(this);
     connect(widget_.data(), &NorvexViewWidget::drawn, this, &InksInPicture::viewDidChange);

@@ -32,7 +32,8 @@ class InksInPicture final : public QObject {
   InksInPicture(WindowParts& parts, QObject* parent);
   ~InksInPicture() override;
 
-  /// The plates of the page that is shown, and how they are looked at. Null: there are none (yet).
+  /// The plates of the page that is shown. Null: there are none (yet). They are put together with the choice
+  /// that is set next.
   void setInks(std::shared_ptr<const PageInks> page, bool overprint);
   void setChoice(const InkChoice& choice);
   void setShown(bool shown);
@@ -72,7 +73,7 @@ class InksInPicture final : public QObject {
   std::optional<SeparationRequest> asked_;    ///< of part_, or of what is under way for it
   std::optional<SeparationRequest> resting_;  ///< what is asked for once the view has stood still
   InkChoice choice_;
-  bool overprint_ = false, shown_ = false, watched_ = false;
+  bool overprint_ = false, shown_ = false;
   QTimer rest_;
   CancelToken separating_, composing_;
 };

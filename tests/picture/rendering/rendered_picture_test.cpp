@@ -205,6 +205,7 @@ class RenderedPictureTest : public QObject {
   void aPictureOfTheBoundItselfIsOneBitmap() {
     RenderedPictureOptions options;
     options.wholePixels = 200 * 100;
+    options.tile = 16;
     const Fixture f(kSmall, options);
     QVERIFY(f.becomesSharp(placed(kSmall, 1, 0, {150, 0})));  // one half is out of sight
     QVERIFY(f.becomesIdle());

@@ -105,6 +105,19 @@ class NumberFieldTest : public QObject {
     QLocale::setDefault(before);
   }
 
+  void whoOnlyLooksAtANumberChangesNothing() {
+    NumberField field;
+    field.setNumberFormat(NumberFormat("0.0"));
+    field.setDoubleValue(1.25);  // shown with less than it has
+    QSignalSpy edited(&field, &NumberField::valueEdited);
+    QTest::keyClick(&field, Qt::Key_Return);
+    QCOMPARE(edited.size(), 0);
+    QCOMPARE(field.doubleValue(), 1.25);
+    field.clearValue();
+    QTest::keyClick(&field, Qt::Key_Return);
+    QCOMPARE(edited.size(), 0);
+  }
+
   void typingTellsOnceAndNonsenseIsTakenBack() {
     NumberField field;
     field.setNumberFormat(kAngle);

@@ -148,6 +148,19 @@ class ExportDialogTest : public QObject {
     QVERIFY(!f.dialog.choice().quality);
   }
 
+  void returnExportsWhereverTheKeyboardIs() {
+    Shown f;
+    f.dialog.show();
+    QApplication::setActiveWindow(&f.dialog);
+    QSignalSpy chosen(&f.dialog, &ExportDialog::chosen);
+    for (auto* button : f.dialog.findChildren<QPushButton*>()) {
+      if (button->text() != "Other Folder…") continue;
+      button->setFocus();
+      QTest::keyClick(button, Qt::Key_Return);
+    }
+    QCOMPARE(chosen.size(), 1);
+  }
+
   void aQualityThatIsBeingTypedIsNoneYet() {
     Shown f;
     f.choose(PictureFormat::Jpeg);

@@ -121,6 +121,18 @@ class PagesTest : public QObject {
     QCOMPARE(left.size(), 3);
   }
 
+  void aNumberThatIsBeingTypedIsNoneYet() {
+    PageSwitch pages;
+    pages.setPages(1, 99);
+    pages.show();
+    pages.editNumber();
+    QSignalSpy chosen(&pages, &PageSwitch::pageChosen);
+    QTest::keyClicks(pages.numberField(), "47");
+    QCOMPARE(told(chosen), QList<int>{});
+    QTest::keyClick(pages.numberField(), Qt::Key_Return);
+    QCOMPARE(told(chosen), QList<int>{46});
+  }
+
   // ---- the strip
 
   void theStripTellsWhichPageIsChosenAndWhichWasSet() {

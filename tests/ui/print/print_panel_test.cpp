@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSemaphore>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QToolButton>
@@ -371,6 +372,27 @@ class PrintPanelTest : public QObject {
     QCOMPARE(operation_->printInfo().firstPage(), 3);
     QCOMPARE(operation_->printInfo().lastPage(), 5);
     QCOMPARE(child<QSpinBox>("lastPage")->maximum(), 18);
+  }
+
+  void aPageThatIsChosenWhileAnotherIsDrawnIsDrawnNext() {
+    QSemaphore goesOn;
+    std::atomic<int> drawn = 0;
+    picture_ = [&](const CancelToken&) -> Result<PictureBytes> {
+      ++drawn;
+      goesOn.acquire();
+      return PictureBytes{};
+    };
+    pages_ = {{100, 100}, {200, 100}};
+    NSPrintInfo info = a4();
+    info.setDocumentPages(DocumentPages::All);
+    open({100, 100}, kPrinters, info);
+    QTRY_COMPARE(int(drawn), 1);
+    child<QToolButton>("nextPage")->click();
+    QTest::qWait(200);  // longer than it takes to settle
+    QCOMPARE(int(drawn), 1);
+    goesOn.release(100);
+    QTRY_VERIFY(drawn >= 2);
+    panel_.reset();
   }
 
   void marginsWithoutRoomAreToldInThePreview() {

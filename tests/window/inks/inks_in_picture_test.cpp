@@ -98,6 +98,23 @@ class InksInPictureTest : public QObject {
     QCOMPARE(f.requests().last().page, 1);
   }
 
+  void noPartIsSeparatedBeforeTheWholePage() {
+    InksFixture f(2);
+    MainWindowController& c = f.openPdf();
+    f.showInPicture();
+    const auto process = f.service.lastProcess();
+    c.scrollArea()->scrollView().setFactor(c.scrollArea()->scrollView().factor() * 2);
+    c.viewWidget()->repaint();  // and it is waited for a rest
+    process->hold(PictureCall::Examine);
+    const int before = process->calls(PictureCall::Examine);
+    c.findChild<PagesCommand*>()->show(1);
+    QVERIFY(f.waitsForInks());
+    QTest::qWait(3 * InksInPicture::restMs);
+    QCOMPARE(process->calls(PictureCall::Examine), before + 1);
+    process->release(PictureCall::Examine);
+    QVERIFY(QTest::qWaitFor([&] { return f.standsSharp(); }, 20000));
+  }
+
   void theInksOfTheWholePageAreThereBeforeThoseOfItsPart() {
     QSemaphore goesOn;  // outlives the threads that wait for it
     InksFixture f(2);

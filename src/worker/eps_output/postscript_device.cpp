@@ -95,12 +95,12 @@ class PageDevice : public PSOutputDev {
   // Glyphs that are drawings are painted as they are drawn, whatever is done with the outlines of others.
   void drawString(GfxState* state, const GooString* text) override {
     constexpr int filled = 0, invisible = 3;
-    const int mode = state->getRender();
+    const int textMode = state->getRender();
     const bool drawings = onPage_ && state->getFont() && state->getFont()->getType() == fontType3 &&
-                          mode != filled && mode != invisible;
+                          textMode != filled && textMode != invisible;
     if (drawings) sink_.write("0 Tr\n");
     PSOutputDev::drawString(state, text);
-    if (drawings) sink_.write(QByteArray::number(mode) + " Tr\n");
+    if (drawings) sink_.write(QByteArray::number(textMode) + " Tr\n");
   }
 
   // Where a pattern's colour is that of the moment, a gradient has none to bring.

@@ -24,7 +24,6 @@ ExportDialog::ExportDialog(QWidget* window, const ExportOffer& offer, const Expo
       preview_(new ZyImageView(this)),
       expected_(new QLabel(this)),
       remarks_(new QLabel(this)) {
-  setObjectName(QStringLiteral("exportDialog"));
   setWindowTitle(localizedString("Export"));
   setWindowModality(Qt::WindowModal);
   auto* left = new QVBoxLayout;

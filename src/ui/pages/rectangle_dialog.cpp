@@ -11,7 +11,6 @@ namespace norvex {
 
 RectangleDialog::RectangleDialog(const QRectF& first, const QSizeF& page, LengthUnit unit, QWidget* parent)
     : QDialog(parent), unitPoints_(pointsOf(unit)), unitName_(unitName(unit)) {
-  setObjectName(QStringLiteral("rectangleDialog"));
   setWindowTitle(localizedString("Select Rectangle"));
   auto* form = new QFormLayout(this);
   form->setContentsMargins(20, 20, 20, 16);

@@ -528,6 +528,7 @@ class SaveToTest : public QObject {
     QFETCH(bool, saveAs);
     WritingWindow f(saveAs);
     f.alerts.answer = 2;  // "Keep Open"; dismissing the question is the same
+    f.alerts.whileShown = [&f] { f.c.window()->close(); };  // which asks nothing once more
     QVERIFY(!f.closeMeanwhile());
     QCOMPARE(f.read("other.svg"), kSvg);
     f.alerts.answer = -1;

@@ -98,12 +98,14 @@ class SelectionCommandsTest : public QObject {
     Shown shown;
     const QAction* deselect = shown.find("deselectAction");
     const QAction* move = shown.find("moveSelectionMenu");
-    QVERIFY(deselect && move);
-    const QList<QAction*> commands = move->menu()->actions();
+    const QAction* resize = shown.find("resizeSelectionMenu");
+    QVERIFY(deselect && move && resize);
+    const QList<QAction*> commands = move->menu()->actions(), sizes = resize->menu()->actions();
     QCOMPARE(commands.size(), 9);  // eight and the line between them
-    QVERIFY(!deselect->isEnabled() && !commands.first()->isEnabled());
+    QCOMPARE(sizes.size(), 9);
+    QVERIFY(!deselect->isEnabled() && !commands.first()->isEnabled() && !sizes.last()->isEnabled());
     shown.select();
-    QVERIFY(deselect->isEnabled() && commands.first()->isEnabled());
+    QVERIFY(deselect->isEnabled() && commands.first()->isEnabled() && sizes.last()->isEnabled());
     commands.first()->trigger();
     QCOMPARE(shown.c.view()->selectRect(), kSelected.translated(-1, 0));
     shown.c.view()->clearSelectRect();

@@ -46,6 +46,14 @@ Preference preference(const char* name) {
 class ChoicesTest : public QObject {
   Q_OBJECT
  private slots:
+  void beforeAnythingWasChosen() {
+    const WindowFixture fixture;  // nothing is kept
+    const ViewChoices& choices = ViewChoices::shared();
+    QVERIFY(choices.isOn(ViewChoices::WindowFitsPicture) && choices.isOn(ViewChoices::ReloadByItself));
+    QVERIFY(!choices.isOn(ViewChoices::DimOutside) && !choices.isOn(ViewChoices::Checkerboard));
+    QCOMPARE(choices.unit(), LengthUnit::Points);
+  }
+
   void theMenuOfEveryWindowFollowsAChoice_data() {
     QTest::addColumn<QString>("preferred");
     QTest::addColumn<QString>("action");
@@ -140,6 +148,10 @@ class ChoicesTest : public QObject {
     QTest::addColumn<double>("factor");
     QTest::newRow("a usual screen") << 108.0 << 96.0 << 1.5;
     QTest::newRow("a screen of 72") << 72.0 << 96.0 << 1.0;
+    QTest::newRow("a wall") << 45.0 << 96.0 << 0.625;
+    QTest::newRow("further off than any wall") << 44.0 << 96.0 << 96.0 / 72;
+    QTest::newRow("a telephone") << 400.0 << 96.0 << 400.0 / 72;
+    QTest::newRow("finer than any telephone") << 401.0 << 96.0 << 96.0 / 72;
     QTest::newRow("one that tells nothing") << 0.0 << 144.0 << 2.0;
     QTest::newRow("one that cannot be") << 5000.0 << 72.0 << 1.0;
     QTest::newRow("one of no end") << 0.0 << qInf() << 1.0;

@@ -181,6 +181,23 @@ class PagesTest : public QObject {
     QCOMPARE(f.pages.shown(), 0);
   }
 
+  void ofTwoPagesEachHasItsWays() {
+    PagesFixture f(2);
+    const auto possible = [&f] {
+      QStringList names;
+      for (const char* name : {"nextPageAction", "previousPageAction", "firstPageAction", "lastPageAction",
+                               "goToPageAction", "pageThumbnailsAction"})
+        if (f.action(name)->isEnabled()) names << QString(QLatin1String(name)).remove("Action");
+      return names.join(u' ');
+    };
+    QCOMPARE(possible(), QStringLiteral("nextPage lastPage goToPage pageThumbnails"));
+    f.action("nextPageAction")->trigger();
+    QCOMPARE(f.pages.shown(), 1);
+    QCOMPARE(possible(), QStringLiteral("previousPage firstPage goToPage pageThumbnails"));
+    f.action("previousPageAction")->trigger();
+    QCOMPARE(f.pages.shown(), 0);
+  }
+
   void beyondTheFirstAndTheLastPageNothingIsSaid() {
     PagesFixture f(2);
     f.c.window()->show();

@@ -43,8 +43,12 @@ class SelectingTest : public QObject {
     QCOMPARE(f.selected(), kFirst);
     selectRectangle(*f.c.view(), {50, 20, 500, 500});
     QCOMPARE(f.selected(), QRectF(50, 20, 50, 30));
-    selectRectangle(*f.c.view(), {500, 500, 5, 5});
-    QCOMPARE(f.selected().width(), 0.0);
+    selectRectangle(*f.c.view(), {50, 20, 1, 1});
+    QCOMPARE(f.selected(), QRectF(50, 20, 1, 1));
+    for (const QRectF& nothing : {QRectF(500, 500, 5, 5), QRectF(50, 20, 0.9, 5), QRectF(50, 20, 5, 0.9)}) {
+      selectRectangle(*f.c.view(), nothing);
+      QCOMPARE(f.selected().width(), 0.0);
+    }
   }
 
   void undoAndRedoGoThroughTheSelections() {

@@ -80,9 +80,10 @@ class ExpectedPicturesTest : public QObject {
     for (const OptionRow& row : optionTable) {
       if (!(row.commands & only(Command::Convert))) continue;
       const QString name = "--" + latin1(row.name);
-      const QStringList given = row.value.empty() ? QStringList{name} : QStringList{name, "a.pdf"};
-      // What follows is the only file.
-      const uint needs = expected(QStringList{"convert"} + given + QStringList{"b.svg"}).needs;
+      QStringList arguments{"convert", name};
+      if (!row.value.empty()) arguments << "a.pdf";
+      arguments << "b.svg";  // the only file
+      const uint needs = expected(arguments).needs;
       QVERIFY2((needs & NeedSvgDrawing) && !(needs & NeedPages), qPrintable(name));
     }
   }

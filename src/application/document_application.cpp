@@ -38,7 +38,7 @@ DocumentApplication::DocumentApplication(ApplicationEvents& events, PictureServi
       thumbnails_(std::make_unique<RecentThumbnails>(service, *startPanel_)),
       ownAlerts_(std::make_unique<QtAlertPresenter>()),
       alerts_(ownAlerts_.get()),
-      quitKey_([this] { terminate_(this); }) {
+      windowKeys_([this] { terminate_(this); }) {
   QApplication::setQuitOnLastWindowClosed(delegate_.applicationShouldTerminateAfterLastWindowClosed());
   connectParts();
   addManual(startPanel_.get());

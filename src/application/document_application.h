@@ -23,7 +23,7 @@
 #include "document/app_delegate.h"
 #include "document/document_controller.h"
 #include "ui/panels/preferences_panel.h"
-#include "ui/panels/quit_key.h"
+#include "ui/panels/window_keys.h"
 
 class QMainWindow;
 class QMenu;
@@ -119,7 +119,7 @@ class DocumentApplication final : public QObject {
   int modal_ = 0;  ///< panels and alerts on the screen
   bool quitting_ = false;
   QHash<QUrl, QPointer<QMainWindow>> replaced_;  ///< windows that go when that file has opened
-  QuitKey quitKey_;
+  WindowKeys windowKeys_;
 };
 
 }  // namespace norvex

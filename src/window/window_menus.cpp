@@ -77,7 +77,11 @@ void WindowMenus::setUp(Ui::MainWindowController& ui) {
 void WindowMenus::connectFile() {
   MainWindowController* const c = &controller_;
   on(ui_->reloadAction, {Qt::Key_F5}, c, [c] { c->reload(); });
-  on(ui_->closeAction, {Qt::CTRL | Qt::Key_W}, c, [c] { c->window()->close(); });
+  // The inspector's window has the commands of its document, but this one is about what has the focus.
+  on(ui_->closeAction, {Qt::CTRL | Qt::Key_W}, c, [c] {
+    const bool isInspector = QApplication::activeWindow() == c->inspectorWindow;
+    (isInspector ? c->inspectorWindow : static_cast<QWidget*>(c->window()))->close();
+  });
   on(ui_->saveAsAction, {QKeySequence::Save, Qt::CTRL | Qt::SHIFT | Qt::Key_S}, c,
      [c] { c->saveDocumentAs(); });
   on(c->doSaveToToolbarItem, {Qt::CTRL | Qt::Key_E}, c, [c] { c->doSaveTo(c->doSaveToToolbarItem); });

@@ -1,5 +1,6 @@
 // The inspector as a panel of the document's window.
 #include <QAction>
+#include <QApplication>
 #include <QDockWidget>
 #include <QTabBar>
 #include <QTabWidget>
@@ -40,6 +41,23 @@ class DockedInspectorTest : public QObject {
     QVERIFY(!docking(c)->isChecked() && !panel(c));
     c.showInspectorWindow();
     QVERIFY(c.inspectorWindow->isWindow());
+  }
+
+  void closeIsAboutTheWindowThatHasTheFocus() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    auto* close = c.window()->findChild<QAction*>("closeAction");
+    c.showInspectorWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), c.inspectorWindow);
+    close->trigger();
+    QVERIFY(!c.inspectorWindow->isVisible());
+    QVERIFY(c.window()->isVisible());
+    QVERIFY(!c.inspectorToolbarItem->isChecked());
+    c.showInspectorWindow();
+    c.window()->activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget*>(c.window()));
+    close->trigger();
+    QVERIFY(!c.window()->isVisible());
   }
 
   void theCommandPutsItBesideThePictureAndBack() {

@@ -1,4 +1,4 @@
-#include "ui/panels/quit_key.h"
+#include "ui/panels/window_keys.h"
 
 #include <QAction>
 #include <QDialog>
@@ -11,11 +11,11 @@
 
 using namespace norvex;
 
-class QuitKeyTest : public QObject {
+class WindowKeysTest : public QObject {
   Q_OBJECT
 
   int quits_ = 0;
-  QuitKey key_{[this] { ++quits_; }};
+  WindowKeys key_{[this] { ++quits_; }};
 
   int afterPressing(QWidget& widget, Qt::Key key) {
     quits_ = 0;
@@ -73,7 +73,31 @@ class QuitKeyTest : public QObject {
     QCOMPARE(afterPressing(search, Qt::Key_B), 1);
     QCOMPARE(afterPressing(search, Qt::Key_Q), 0);
   }
+
+  void aWindowWithoutAMenuIsClosedAndASheetThatAsksIsNot() {
+    QWidget panel;
+    QLineEdit search(&panel);
+    show(panel);
+    QCOMPARE(afterPressing(search, Qt::Key_W), 0);
+    QVERIFY(!panel.isVisible());
+    QMainWindow window;
+    QAction close(&window);
+    close.setObjectName("closeAction");
+    close.setShortcut(Qt::CTRL | Qt::Key_B);
+    show(panel);
+    afterPressing(search, Qt::Key_W);
+    QVERIFY(panel.isVisible());
+    QDialog sheet(&panel);
+    QLineEdit name(&sheet);
+    sheet.setModal(true);
+    show(sheet);
+    afterPressing(name, Qt::Key_B);
+    QVERIFY(sheet.isVisible() && panel.isVisible());
+    sheet.hide();
+    afterPressing(search, Qt::Key_B);
+    QVERIFY(!panel.isVisible());
+  }
 };
 
-NORVEX_TEST(QuitKeyTest)
-#include "quit_key_test.moc"
+NORVEX_TEST(WindowKeysTest)
+#include "window_keys_test.moc"

@@ -268,6 +268,10 @@ void ToldDrawing::end() {
   steps_->end();
 }
 
+void ToldDrawing::abandon() {
+  steps_->lose();
+}
+
 bool ToldDrawing::draw(cairo_t* context) {
   return steps_->draw(context);
 }

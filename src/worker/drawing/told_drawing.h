@@ -31,6 +31,9 @@ class ToldDrawing {
   /// No more is told. Call it whatever happened: whoever draws waits for it.
   void end();
 
+  /// Nobody draws it any more: nothing more is told, and what waits is let go. From any thread.
+  void abandon();
+
   /// Draws what is told, within the clip of `context` and with the same pixels, if both are the same places
   /// on their surfaces; returns when it has ended. False if some of it could not be told, or nothing was;
   /// then it is for the caller to clear what was drawn. The context has its clip, and no path, when it

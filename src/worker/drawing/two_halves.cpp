@@ -101,6 +101,12 @@ struct EndOfTelling {
   ~EndOfTelling() { drawing.end(); }
 };
 
+/// What nobody draws is not kept: a drawing that failed may have been the one that found no memory.
+struct EndOfDrawing {
+  ToldDrawing& drawing;
+  ~EndOfDrawing() { drawing.abandon(); }
+};
+
 void clear(cairo_t* context) {
   cairo_save(context);
   cairo_set_operator(context, CAIRO_OPERATOR_CLEAR);
@@ -141,7 +147,10 @@ Result<Bitmap> paintHalvesByTelling(const RenderRequest& request, const PictureL
     const ToldDrawing::Teller teller(told, context);
     return paint(context);
   };
-  std::future<Result<Bitmap>> other = onAnotherThread([&] { return halves.lower(drawTold); });
+  std::future<Result<Bitmap>> other = onAnotherThread([&] {
+    const EndOfDrawing end{told};
+    return halves.lower(drawTold);
+  });
   if (!other.valid()) return paintHalves(request, limits, paint, {}, upperShare);
   Result<Bitmap> image = [&] {
     const EndOfTelling end{told};

@@ -1,5 +1,7 @@
 #include "worker/drawing/told_drawing.h"
 
+#include <malloc.h>
+
 #include <cstring>
 #include <functional>
 #include <future>
@@ -196,6 +198,36 @@ class ToldDrawingTest : public QObject {
       tellOther(other.get());
       return {};
     }));
+  }
+
+  /// Twenty thousand shapes: megabytes, if somebody may still draw them.
+  void whatNobodyDrawsIsNotKept() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers keep memory in their own way");
+#endif
+    const auto keptBy = [](ToldDrawing& told) {
+      const CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, 1));
+      const CairoContext context(cairo_create(surface.get()));
+      const size_t before = ::mallinfo2().uordblks;
+      {
+        const ToldDrawing::Teller teller(told, context.get());
+        (void)drawMany(context.get(), 20'000);
+      }
+      const size_t after = ::mallinfo2().uordblks;
+      return after > before ? (after - before) >> 10 : 0;
+    };
+    ToldDrawing wanted, abandoned, abandonedLate;
+    QVERIFY(keptBy(wanted) > 4096);
+    abandoned.abandon();
+    QVERIFY(keptBy(abandoned) < 256);
+    abandoned.end();
+    const CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 1, 1));
+    const CairoContext context(cairo_create(surface.get()));
+    QVERIFY(!abandoned.draw(context.get()));
+    (void)keptBy(abandonedLate);
+    const size_t before = ::mallinfo2().uordblks;
+    abandonedLate.abandon();
+    QVERIFY(::mallinfo2().uordblks + (4 << 20) < before);
   }
 
   void aDrawingThatFailsIsWaitedForByNobody() {

@@ -1,6 +1,9 @@
 #include "worker/confinement/confinement_status.h"
 
+#include <QFile>
+
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -11,6 +14,7 @@
 #include "kit/forked_check.h"
 #include "kit/program.h"
 #include "kit/test_main.h"
+#include "worker/confinement/landlock.h"
 
 using namespace norvex;
 using namespace norvex::kit;
@@ -19,16 +23,21 @@ namespace {
 
 const QString kWorker = QStringLiteral(NORVEX_BUILD_DIR "/norvex-worker");
 
-/// Runs the program where the system offers nothing of these calls; gives its exit code.
-int statusWithout(const QList<int>& calls) {
-  return inForkedChild([&] {
+/// Runs the program where the system offers nothing of these calls; gives its exit code and what it says.
+int statusWithout(const QList<int>& calls, QByteArray* said = nullptr) {
+  const int output = ::memfd_create("said", 0);
+  const int code = inForkedChild([&] {
     const scmp_filter_ctx filter = ::seccomp_init(SCMP_ACT_ALLOW);
     for (const int call : calls) ::seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), call, 0);
     if (::seccomp_load(filter) != 0) return 100;
-    ::dup2(::open("/dev/null", O_WRONLY), STDOUT_FILENO);
+    ::dup2(output, STDOUT_FILENO);
     ::execl(kWorker.toLocal8Bit().constData(), "norvex-worker", "--sandbox-status", nullptr);
     return 101;
   });
+  QFile file;
+  ::lseek(output, 0, SEEK_SET);
+  if (file.open(output, QIODevice::ReadOnly, QFile::AutoCloseHandle) && said) *said = file.readAll();
+  return code;
 }
 
 constexpr int kLandlock = 444;
@@ -50,6 +59,47 @@ class ConfinementStatusTest : public QObject {
   void whereNothingKeepsFilesItFails() {
     QCOMPARE(statusWithout({kLandlock, SCMP_SYS(unshare)}), 6);
     QCOMPARE(statusWithout({kLandlock, SCMP_SYS(seccomp)}), 6);
+  }
+
+  void whatIsMissingIsTold() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("builds with sanitizers leave layers out");
+#endif
+    QByteArray said;
+    QCOMPARE(statusWithout({kLandlock, SCMP_SYS(seccomp), SCMP_SYS(unshare)}, &said), 6);
+    QCOMPARE(said,
+             "Landlock: missing. No rules of the kernel about files.\n"
+             "System calls (seccomp): missing. Every call can be made.\n"
+             "File view (user and mount namespaces): missing. The system does not permit them to this user.\n"
+             "Network and messages (namespaces): missing. What else is on keeps pictures from them.\n"
+             "Limits: memory, processor time, size and number of files, scratch files; no core files.\n"
+             "Nothing keeps a picture from this user's files: norvex refuses to read any.\n");
+  }
+
+  void whatIsOnIsTold() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("builds with sanitizers leave layers out");
+#endif
+    const QByteArray said = run(kWorker, {"--sandbox-status"}).out;
+    if (said.contains("missing")) QSKIP("this system has not got them all");
+    const int version = landlockAbilities().abi;
+    if (version >= 6)
+      QVERIFY2(
+          said.startsWith("Landlock: on, version " + QByteArray::number(version) +
+                          ". Nothing but what engines need can be read, nothing but scratch files "
+                          "written; nothing is listed, removed or started besides; no TCP; no signals or "
+                          "abstract sockets to others; no control of devices.\n"),
+          said.constData());
+    for (const char* line :
+         {"\nSystem calls (seccomp): on. Only calls on a list: no programs, processes, sockets, tracing, "
+          "mounts, keys, changed modes or owners; engines open nothing for writing.\n",
+          "\nFile view (user and mount namespaces): on. Files other than those that engines need do not "
+          "exist, "
+          "and all but scratch files are read-only.\n",
+          "\nNetwork and messages (namespaces): on, no network exists, no shared memory or queues of others "
+          "exist. Of a single picture on the command line: off, for they take time.\n",
+          "\nEach picture is read in a process of its own that is confined so.\n"})
+      QVERIFY2(said.contains(line), said.constData());
   }
 
   void oneOfTheLayersThatKeepFilesIsEnough() {

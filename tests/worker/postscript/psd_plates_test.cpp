@@ -70,7 +70,67 @@ class PsdPlatesTest : public QObject {
     QVERIFY(!platesOfPsd(psd({})));          // a channel without a name
   }
 
+  void namesAreUtf8OrLatin1AndHaveAnEnd() {
+    QCOMPARE(inkName("Gr\xc3\xbcn"), QString::fromUtf8("Grün"));
+    QCOMPARE(inkName("Gr\xfcn"), QString::fromUtf8("Grün"));
+    QCOMPARE(inkName(QByteArray(limits::maximumNameLength, 'x')).size(), limits::maximumNameLength);
+    QCOMPARE(inkName(QByteArray(limits::maximumNameLength + 1, 'x')).size(), limits::maximumNameLength);
+  }
+
+  /// Names and data of an odd length have a byte more.
+  void otherResourcesArePassedOver() {
+    const QByteArray odd = QByteArray("8BIM\3\xe8\3abc\0\0\0\3xyz\0", 18);
+    const QByteArray even = QByteArray("8BIM\3\xe9\2ab\0\0\0\0\2xy", 16);
+    const Result<PageInks> page = platesOfPsd(psd(odd + even + kNames + even + kColours + odd));
+    QVERIFY(page.ok());
+    QCOMPARE(page->inks[4].name, "Gold");
+    QVERIFY(page->inks[4].alternate == (ProcessInks{0, 51, 255, 102}));
+  }
+
+  void otherSectionsArePassedOver() {
+    QByteArray file = psd(kNames + kColours);
+    const qsizetype layers = 34 + kNames.size() + kColours.size();
+    file.replace(layers, 4, number(3) + "abc");
+    file.replace(26, 4, number(5) + "12345");
+    const Result<PageInks> page = platesOfPsd(file);
+    QVERIFY(page.ok());
+    QCOMPARE(page->inks[4].name, "Gold");
+    QCOMPARE(page->plates, QByteArray("\x00\xff", 2).repeated(5));
+  }
+
+  void packedSamplesAreRefused() {
+    QByteArray file = psd(kNames + kColours);
+    const qsizetype packing = 38 + kNames.size() + kColours.size();
+    QVERIFY(platesOfPsd(file).ok());
+    QVERIFY(!platesOfPsd(file.replace(packing, 2, QByteArray("\0\1", 2))).ok());
+  }
+
+  void aColourThatNobodyKnowsIsNone() {
+    const auto alternate = [](const QByteArray& colours) {
+      return platesOfPsd(psd(kNames + colours))->inks[4].alternate;
+    };
+    QVERIFY(alternate(kColours));
+    QVERIFY(!alternate(QByteArray(kColours).replace(13, 1, QByteArray(1, '\0'))));  // of RGB
+    QVERIFY(!alternate(QByteArray(kColours).replace(14, 8, QByteArray(8, '\xff'))));
+  }
+
+  void inkIsMeasuredByPlacesAndByAmount() {
+    const Result<PageInks> page =
+        platesOfPsd(psd(4, 4, 1, {}, QByteArray("\xff\xcc\x99\x00", 4) + QByteArray(12, '\xff')));
+    QVERIFY(page.ok());
+    QCOMPARE(page->inks.size(), 4);
+    QCOMPARE(page->inks[0].name, "Cyan");
+    QCOMPARE(page->inks[0].coverage, 0.75);
+    QCOMPARE(page->inks[0].amount, (51 + 102 + 255) / 255.0 / 4);
+    QVERIFY(!page->inks[0].isSpot);
+    QCOMPARE(page->inks[3].name, "Black");
+    QCOMPARE(page->inks[3].amount, 0.0);
+  }
+
   void soManyPixelsAndInksAreALimit() {
+    QCOMPARE(platesOfPsd(psd(4, 4000, 4001, {}, {})).error().message,
+             "the plates of the page have more pixels than can be handled; a lower resolution helps");
+    QCOMPARE(platesOfPsd("none").error().message, "Ghostscript did not separate the page");
     QCOMPARE(refusal(4, 4000, 4000), ErrorKind::NotParsable);  // 16 million pixels
     QCOMPARE(refusal(4, 4000, 4001), ErrorKind::Limit);
     QCOMPARE(refusal(4, 0x7fffffff, 0x7fffffff), ErrorKind::Limit);

@@ -435,6 +435,16 @@ class SeparationsTest : public QObject {
     QVERIFY(page.error().message.contains("undefined"));
   }
 
+  void asManyPixelsAsAPlateMayHave() {
+    const QByteArray document = kit::onePage("1 0 0 0 k 0 0 9 9 re f", "/MediaBox [0 0 4000 4000]");
+    Opened opened(PictureKind::Pdf, document);
+    QVERIFY(opened.inks(72).ok());
+    QCOMPARE(errorOf(opened.inks(72.9)),
+             "at 72.9 dpi a plate has 16 million pixels, and at most 16 million can be handled");
+    QCOMPARE(errorOf(opened.inks(144)),
+             "at 144 dpi a plate has 64 million pixels, and at most 16 million can be handled");
+  }
+
   void tooManyPixelsAreALimit() {
     Opened ofProgram(PictureKind::Eps, eps(kProcess)), ofPdf(PictureKind::Pdf, pdf());
     for (Opened* opened : {&ofProgram, &ofPdf}) {

@@ -73,6 +73,22 @@ class UnusedMemoryTest : public QObject {
     }
   }
 
+  void blocksAreLargeFrom128KibibytesOn() {
+    giveBackLargeBlocks();
+    // The first may fit into what is free of the heap.
+    const auto areTheSystems = [](size_t size) {
+      const size_t before = ::mallinfo2().hblks;
+      std::vector<void*> blocks;
+      for (int i = 0; i < 64; ++i) blocks.push_back(std::malloc(size));
+      const bool mapped = ::mallinfo2().hblks > before;
+      for (void* block : blocks) std::free(block);
+      return mapped;
+    };
+    if (!areTheSystems(1 << 20)) QSKIP("another allocator is in use");
+    QVERIFY(!areTheSystems(120 << 10));
+    QVERIFY(areTheSystems((128 << 10) + 16));
+  }
+
   void theFreePartsOfTheHeapAreGivenBack() {
     const size_t inUse = ::mallinfo2().uordblks;
     std::vector<void*> pieces;

@@ -1,24 +1,16 @@
 #include "worker/eps_output/postscript_path.h"
-#include "worker/pdf/pdf_numbers.h"
 
 #include <GfxState.h>
 
-#include <QRandomGenerator>
+#include <QPointF>
 
-#include <cmath>
-#include <limits>
+#include <initializer_list>
 
 #include "kit/test_main.h"
 
 using namespace norvex::engine;
 
 namespace {
-
-QByteArray written(double number) {
-  QByteArray text;
-  appendNumber(text, number);
-  return text;
-}
 
 QByteArray written(const GfxPath& path) {
   QByteArray text;
@@ -40,42 +32,6 @@ QByteArray polygon(std::initializer_list<QPointF> corners) {
 class PostscriptPathTest : public QObject {
   Q_OBJECT
  private slots:
-  void numbersAreShort_data() {
-    QTest::addColumn<double>("number");
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("zero") << 0.0 << QByteArray("0");
-    QTest::newRow("negative zero") << -0.0 << QByteArray("0");
-    QTest::newRow("whole") << 12.0 << QByteArray("12");
-    QTest::newRow("negative") << -120.5 << QByteArray("-120.5");
-    QTest::newRow("zeros within") << 3.0405 << QByteArray("3.0405");
-    QTest::newRow("six decimals") << 0.1234567 << QByteArray("0.123457");
-    QTest::newRow("rounded up to a whole") << 0.9999999 << QByteArray("1");
-    QTest::newRow("too small") << 4.9e-7 << QByteArray("0");
-    QTest::newRow("too small and negative") << -4.9e-7 << QByteArray("0");
-    QTest::newRow("the last decimal") << -1e-6 << QByteArray("-0.000001");
-    QTest::newRow("large") << 123456789.25 << QByteArray("123456789.25");
-    QTest::newRow("very large") << 1e20 << QByteArray("1e+20");
-    QTest::newRow("out of range") << 1e200 << QByteArray("0");
-    QTest::newRow("infinite") << -std::numeric_limits<double>::infinity() << QByteArray("0");
-    QTest::newRow("not a number") << std::nan("") << QByteArray("0");
-  }
-  void numbersAreShort() {
-    QFETCH(double, number);
-    QFETCH(QByteArray, text);
-    QCOMPARE(written(number), text);
-  }
-
-  void numbersAreReadBackToSixDecimals() {
-    QRandomGenerator random(9);
-    for (int i = 0; i < 100'000; ++i) {
-      const double number = (random.generateDouble() - 0.5) * std::pow(10, random.bounded(13));
-      const QByteArray text = written(number);
-      bool isNumber = false;
-      QVERIFY2(std::abs(text.toDouble(&isNumber) - number) <= 5.1e-7 + std::abs(number) * 1e-15, text);
-      QVERIFY2(isNumber && (!text.contains('.') || !text.endsWith('0')), text);
-    }
-  }
-
   void uprightRectanglesAreOneLine() {
     const QByteArray line = "10 20 30 40 re\n";
     QCOMPARE(polygon({{10, 20}, {40, 20}, {40, 60}, {10, 60}, {10, 20}}), line);

@@ -190,6 +190,25 @@ class EpsFromPdfTest : public QObject {
     QCOMPARE(converted.eps().count(" image D flushfile"), 1);
   }
 
+  /// Regions are cells of 8 pixels at 150 dpi, which are 16 of an image: none more for what is lost in
+  /// counting, whether a region is drawn alone or cut out of what is drawn for several.
+  void imagesAreWholePixelsOfTheirRegions() {
+    const auto half = [](const QByteArray& square) {
+      return onePage("/H gs 0 0.6 0 rg " + square + " re f",
+                     "/MediaBox [0 0 200 96] /Resources << /ExtGState << /H << /ca 0.5 >> >> >>");
+    };
+    const QByteArray first = "39.9 59.1 35.4 16.2", second = "116.7 20.7 16.2 16.2";
+    const QByteArray ofFirst = "\n38.4 57.6 translate 38.4 19.2 scale\n",
+                     sizeOfFirst = "/Width 160 /Height 80 ";
+    const QByteArray ofSecond = "\n115.2 19.2 translate 19.2 19.2 scale\n",
+                     sizeOfSecond = "/Width 80 /Height 80 ";
+    const QByteArray alone = Converted(half(first)).eps();
+    QVERIFY(alone.contains(ofFirst) && alone.contains(sizeOfFirst) && !alone.contains(sizeOfSecond));
+    const QByteArray both = Converted(half(first + " re f " + second)).eps();
+    QVERIFY(both.contains(ofFirst) && both.contains(sizeOfFirst));
+    QVERIFY(both.contains(ofSecond) && both.contains(sizeOfSecond));
+  }
+
   void anImageHasAMaskWhereItLeavesPlacesUnpainted() {
     QVERIFY(Converted(page(kTransparent)).eps().contains("/ImageType 3"));
     const QByteArray onPaper = Converted(page("1 1 0.9 rg 0 0 201 101 re f " + kTransparent)).eps();

@@ -171,7 +171,53 @@ class ChosenPdfTest : public QObject {
     QCOMPARE(asItIs->report.warnings, QStringList());  // it is still protected
   }
 
+  void onlyPermissionsThatAreLostAreNamed() {
+    const auto lost = [](bool print, bool change, bool copy) {
+      const QByteArray plain = onePage("0 0 9 9 re f");
+      QPDF qpdf;
+      qpdf.processMemoryFile("test", plain.constData(), size_t(plain.size()));
+      QPDFWriter writer(qpdf);
+      writer.setOutputMemory();
+      writer.setR6EncryptionParameters("", "owner", true, copy, true, true, true, change,
+                                       print ? qpdf_r3p_full : qpdf_r3p_low, true);
+      const auto chosen = chosenPdf(written(writer), {}, {});
+      return chosen ? chosen->lostProtection : chosen.error().message;
+    };
+    const QString frame = QStringLiteral(
+        "the document is protected by encryption and does not allow %1; what is made of it is not protected");
+    QCOMPARE(lost(false, true, true), frame.arg("printing"));
+    QCOMPARE(lost(true, false, true), frame.arg("changing"));
+    QCOMPARE(lost(true, true, false), frame.arg("copying"));
+    QCOMPARE(lost(true, true, true),
+             QStringLiteral("the document is protected by encryption, and what is made of it is not"));
+  }
+
   // ---- layers
+
+  void namesOfLayersAreOneLineAndHaveAnEnd() {
+    QByteArray pdf = layered("");
+    const QByteArray name(limits::maximumNameLength + 10, 'x');
+    pdf.replace("(Red)", "( R\\n  ed )").replace("(Green)", '(' + name + ')').replace("/Name (Blue)", "");
+    const auto opened = open(pdf);
+    QVERIFY(opened->engine);
+    const QList<PictureLayer> layers = opened->engine->facts()->layers;
+    QCOMPARE(layers.size(), 3);
+    QCOMPARE(layers[0].name, "R ed");
+    QCOMPARE(layers[1].name.size(), limits::maximumNameLength);
+    QCOMPARE(layers[2].name, QString());
+  }
+
+  void theDocumentsOwnWishesForScreenAndPaperGiveWay() {
+    const auto chosen = chosenPdf(layered("/ON [5 0 R] /AS [<< /Event /View >>] /OFF [6 0 R]"), {},
+                                  {{"Red", false}, {"Green", false}, {"Blue", true}});
+    QVERIFY(chosen.ok());
+    QPDF qpdf;
+    qpdf.processMemoryFile("test", chosen->bytes.constData(), size_t(chosen->bytes.size()));
+    QPDFObjectHandle standard = qpdf.getRoot().getKey("/OCProperties").getKey("/D");
+    QVERIFY(standard.getKey("/BaseState").isNameAndEquals("/ON"));
+    QVERIFY(!standard.hasKey("/ON") && !standard.hasKey("/AS"));
+    QCOMPARE(standard.getKey("/OFF").getArrayNItems(), 2);
+  }
 
   void layersAreToldAsTheyAreShown_data() {
     QTest::addColumn<QByteArray>("standard");

@@ -144,6 +144,24 @@ class PageReadingTest : public QObject {
     QVERIFY(decodePageContents(examined->bytes)->remarks.contains(damagedFile()));
   }
 
+  void whichPageIsLostIsToldWhereThereAreSeveral() {
+    QCOMPARE(nothingCanBeRead(0, 1).message, "the file is damaged; nothing of its page can be read");
+    QCOMPARE(nothingCanBeRead(everyPage, 1).message, "the file is damaged; nothing of its page can be read");
+    QCOMPARE(nothingCanBeRead(everyPage, 2).message, "the file is damaged; nothing of its pages can be read");
+    QCOMPARE(nothingCanBeRead(1, 2).message, "the file is damaged; nothing of page 2 can be read");
+    QCOMPARE(nothingCanBeRead(1, 2).kind, ErrorKind::NotParsable);
+  }
+
+  void onePixelIsPaintWhereverItIs() {
+    Bitmap bitmap = *Bitmap::create({5, 4});
+    QVERIFY(isUnpainted(bitmap));
+    for (const QPoint place : {QPoint(0, 0), QPoint(4, 0), QPoint(2, 2), QPoint(4, 3)}) {
+      bitmap.row(place.y())[place.x()] = 0x01000000;
+      QVERIFY(!isUnpainted(bitmap));
+      bitmap.row(place.y())[place.x()] = 0;
+    }
+  }
+
   void aPageThatIsMeantToBeEmptyIsDrawn() {
     const auto engine = openPdf(onePage({}, kBox), context_);
     QVERIFY(engine.ok());

@@ -11,7 +11,7 @@ using namespace norvex;
 
 namespace {
 
-constexpr int kAnswered = 7;
+constexpr int kNotUnderstood = 2, kAnswered = 7;
 
 /// A program that posts so many requests to itself and then takes them, reading them at work or between
 /// requests.
@@ -41,6 +41,38 @@ int takeFromNobody(const QStringList&) {
 }
 const bool asking = kit::registerProgram("take-from-nobody", takeFromNobody);
 
+/// A program to which something is sent that is no request: bytes, a reply, or nothing and the end.
+int takeRubbish(const QStringList& arguments) {
+  auto pair = MessageChannel::makePair();
+  auto& ours = *new MessageChannel(std::move(pair->first));
+  const QByteArray sent =
+      arguments.at(0) == u"reply" ? encodeReply({1, ForkReply{1}}) : QByteArray("rubbish");
+  if (!ours.send(sent).ok()) return 1;
+  auto* queue =
+      new RequestQueue(*new MessageChannel(std::move(pair->second)), RequestQueue::Reading::BetweenRequests);
+  return int(queue->next().request.id) + kAnswered;
+}
+const bool takingRubbish = kit::registerProgram("take-rubbish", takeRubbish);
+
+/// A program that takes the first of three requests when the second and, where it is told, the first are
+/// called off; tells by bits which of them are.
+int takeCancelled(const QStringList&) {
+  auto pair = MessageChannel::makePair();
+  auto& ours = *new MessageChannel(std::move(pair->first));
+  auto* queue = new RequestQueue(*new MessageChannel(std::move(pair->second)), RequestQueue::Reading::AtWork);
+  for (const quint32 id : {1u, 2u, 3u})
+    if (!ours.send(encodeMessage(WorkerRequest{id, PdfRequest()})).ok()) return 100;
+  const ArrivedRequest first = queue->next();
+  if (first.cancel.cancelled()) return 101;
+  for (const quint32 id : {2u, 1u, 9u})
+    if (!ours.send(encodeMessage(CancelRequest{id})).ok()) return 102;
+  // What runs is called off behind what waits, and the thread reads in order.
+  while (!first.cancel.cancelled()) ::usleep(1000);
+  const ArrivedRequest second = queue->next(), third = queue->next();
+  ::_exit((second.cancel.cancelled() ? 2 : 0) + (third.cancel.cancelled() ? 4 : 0) + 8);
+}
+const bool takingCancelled = kit::registerProgram("take-cancelled", takeCancelled);
+
 /// How a program ends that takes no request while so many are posted; -1 by a signal.
 int endAfter(size_t posted, RequestQueue::Reading reading = RequestQueue::Reading::AtWork) {
   const auto ran = kit::runProgram("take-posted", {QString::number(posted), QString::number(int(reading))});
@@ -65,8 +97,16 @@ class RequestQueueTest : public QObject {
   }
 
   void whoeverPostsWithoutWaitingIsNotServed() {
-    const int end = endAfter(limits::maximumWaitingRequests + 1);
-    QVERIFY(end != kAnswered && end > 0);
+    QCOMPARE(endAfter(limits::maximumWaitingRequests + 1), kNotUnderstood);
+  }
+
+  void whatIsNoRequestIsTheEnd() {
+    QCOMPARE(kit::runProgram("take-rubbish", {"bytes"}).exitCode, kNotUnderstood);
+    QCOMPARE(kit::runProgram("take-rubbish", {"reply"}).exitCode, kNotUnderstood);
+  }
+
+  void whatRunsAndWhatWaitsIsCalledOffByItsNumber() {
+    QCOMPARE(kit::runProgram("take-cancelled", {}).exitCode, 8 + 2);
   }
 };
 

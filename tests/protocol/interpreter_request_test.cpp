@@ -1,5 +1,6 @@
 #include "protocol/interpreter_request.h"
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -153,6 +154,44 @@ class InterpreterRequestTest : public QObject {
     const int answer = ran.exitCode;
     if (answer == kNotRefused) QSKIP("this kernel bounds no descriptors under way");
     QCOMPARE(answer, 0);
+  }
+
+  void aRequestOfAnotherFormIsNoneAndItsDescriptorsAreClosed_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("descriptors");
+    const QByteArray limits = encodeMessage(ForkRequest{});
+    QTest::newRow("as it ought to be") << 'p' + limits << 4;
+    QTest::newRow("another device") << 'x' + limits << 4;
+    QTest::newRow("a descriptor less") << 'p' + limits << 3;
+    QTest::newRow("a descriptor more") << 'p' + limits << 5;
+    QTest::newRow("another message") << 'p' + encodeMessage(CancelRequest{1}) << 4;
+    QTest::newRow("more than there is room for") << 'p' + limits + QByteArray(5000, 'x') << 4;
+  }
+  void aRequestOfAnotherFormIsNoneAndItsDescriptorsAreClosed() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, descriptors);
+    bytes[0] = bytes[0] == 'p' ? char(InterpreterDevice::Pdf) : bytes[0];
+    auto connection = makeInterpreterConnection();
+    QVERIFY(connection.ok());
+    int ends[2] = {-1, -1};
+    QCOMPARE(::pipe2(ends, O_CLOEXEC), 0);
+    const FileDescriptor reading(ends[0]);
+    FileDescriptor writing(ends[1]);
+    const int one = writing.get(), asking = connection->asking.get();
+    const bool sent = descriptors == 3   ? kit::sendRaw(asking, bytes, {one, one, one})
+                      : descriptors == 4 ? kit::sendRaw(asking, bytes, {one, one, one, one})
+                                         : kit::sendRaw(asking, bytes, {one, one, one, one, one});
+    QVERIFY(sent);
+    writing.reset();
+    const bool isOne = qstrcmp(QTest::currentDataTag(), "as it ought to be") == 0;
+    {
+      const auto request = receiveInterpreterRequest(connection->taking.get());
+      QCOMPARE(request.ok(), isOne);
+      if (!isOne) QCOMPARE(request.error().kind, ErrorKind::Protocol);
+      if (!isOne) QCOMPARE(request.error().message, "this asks for no interpreter of PostScript");
+    }
+    char letter = 0;
+    QCOMPARE(::read(reading.get(), &letter, 1), ssize_t(0));  // nobody holds the other end any more
   }
 
   void rubbishIsNoRequest_data() {

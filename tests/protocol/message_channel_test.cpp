@@ -148,6 +148,7 @@ class MessageChannelTest : public QObject {
       const auto early = pair.ours.receive(QDeadlineTimer(0));
       QVERIFY(!early.ok());
       QCOMPARE(early.error().kind, ErrorKind::TimedOut);
+      QCOMPARE(early.error().message, "the picture process did not answer in time");
       QVERIFY(sendRaw(pair.theirs.get(), wire.mid(i, 1)));
     }
     QCOMPARE(pair.ours.receive(QDeadlineTimer(0))->cbor, QByteArray("slowly"));
@@ -160,6 +161,7 @@ class MessageChannelTest : public QObject {
     const auto early = pair.ours.receive(QDeadlineTimer(QDeadlineTimer::Forever), wake.get());
     QVERIFY(!early.ok());
     QCOMPARE(early.error().kind, ErrorKind::Cancelled);
+    QCOMPARE(early.error().message, "the answer is no longer waited for");
     QVERIFY(sendRaw(pair.theirs.get(), framed("whole").mid(6)));
     QCOMPARE(pair.ours.receive(QDeadlineTimer(QDeadlineTimer::Forever), wake.get())->cbor,
              QByteArray("whole"));
@@ -190,7 +192,9 @@ class MessageChannelTest : public QObject {
     QByteArray wire(4, '\0');
     qToLittleEndian(length, wire.data());
     QVERIFY(sendRaw(pair.theirs.get(), wire));
-    QCOMPARE(pair.ours.receive().error().kind, ErrorKind::Protocol);
+    const Error refused = pair.ours.receive().error();
+    QCOMPARE(refused.kind, ErrorKind::Protocol);
+    QCOMPARE(refused.message, "the picture process sent something that is not a message");
   }
 
   void twoDescriptorsAreRefusedAndClosed_data() {

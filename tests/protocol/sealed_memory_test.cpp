@@ -2,8 +2,13 @@
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <csignal>
+
+#include "kit/forked_check.h"
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -70,6 +75,7 @@ class SealedMemoryTest : public QObject {
     const auto memory = SealedMemory::map(std::move(fd), 100);
     QVERIFY(!memory.ok());
     QCOMPARE(memory.error().kind, ErrorKind::Protocol);
+    QCOMPARE(memory.error().message, "the picture process handed over memory that cannot be trusted");
   }
 
   void whatIsNoSharedMemoryIsRefused() {
@@ -98,6 +104,31 @@ class SealedMemoryTest : public QObject {
     const int badNumber = bad.get();
     QVERIFY(!SealedMemory::map(std::move(bad), 3).ok());
     QCOMPARE(::fcntl(badNumber, F_GETFD), -1);
+  }
+
+  void whyMemoryCouldNotBeMadeIsTold() {
+    const auto refusal = [](__rlimit_resource resource, rlim_t most) {
+      int ends[2] = {-1, -1};
+      if (::pipe(ends) != 0) return QByteArray("no pipe");
+      kit::inForkedChild([&] {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit = {most, most};
+        if (::setrlimit(resource, &limit) != 0) return 1;
+        const auto sealed = SealedMemory::seal(QByteArray(10'000, 'x'));
+        const QByteArray told = sealed ? "none" : sealed.error().message.toUtf8();
+        return sealed || sealed.error().kind == ErrorKind::Limit
+                   ? int(::write(ends[1], told, size_t(told.size())))
+                   : 2;
+      });
+      ::close(ends[1]);
+      char told[200] = {};
+      const ssize_t size = ::read(ends[0], told, sizeof told);
+      ::close(ends[0]);
+      return QByteArray(told, std::max<ssize_t>(size, 0));
+    };
+    QCOMPARE(refusal(RLIMIT_FSIZE, 10'000), "none");
+    QCOMPARE(refusal(RLIMIT_FSIZE, 9'999), "the picture is larger than files may become here");
+    QCOMPARE(refusal(RLIMIT_NOFILE, 3), "too many files are open for another picture");
   }
 
   void theMappingOutlivesTheFirstOwner() {

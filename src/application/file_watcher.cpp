@@ -3,6 +3,8 @@
 #include <QCryptographicHash>
 #include <QFileInfo>
 
+#include <utility>
+
 #include "base/background_work.h"
 #include "picture/document_file.h"
 
@@ -26,18 +28,22 @@ struct FileWatcher::Look {
   bool whole = false;
 };
 
-FileWatcher::Look FileWatcher::lookAt(const QString& path) {
-  const Result<QByteArray> bytes = readDocumentFile(path);
+FileWatcher::Look FileWatcher::lookAt(const Reader& read, const QString& path) {
+  const Result<QByteArray> bytes = read(path);
   if (!bytes) return {};
   return {QCryptographicHash::hash(*bytes, QCryptographicHash::Sha1), looksWhole(*bytes)};
 }
 
 FileWatcher::FileWatcher(const QString& path, int settlingMilliseconds, QObject* parent)
-    : QObject(parent), path_(path) {
+    : FileWatcher(
+          path, settlingMilliseconds, [](const QString& file) { return readDocumentFile(file); }, parent) {}
+
+FileWatcher::FileWatcher(const QString& path, int settlingMilliseconds, Reader read, QObject* parent)
+    : QObject(parent), path_(path), read_(std::move(read)) {
   thread_.setMaxThreadCount(1);
   settling_.setSingleShot(true);
   settling_.setInterval(settlingMilliseconds);
-  connect(&settling_, &QTimer::timeout, this, &FileWatcher::look);
+  connect(&settling_, &QTimer::timeout, this, [this] { look(); });
   const auto touched = [this] {
     watchAgain();
     ++turn_;
@@ -49,7 +55,7 @@ FileWatcher::FileWatcher(const QString& path, int settlingMilliseconds, QObject*
     if (!watcher_.files().contains(path_) && QFileInfo::exists(path_)) touched();
   });
   watchAgain();
-  look();
+  look(true);
 }
 
 FileWatcher::~FileWatcher() {
@@ -64,25 +70,22 @@ void FileWatcher::watchAgain() {
 }
 
 void FileWatcher::acknowledge() {
-  acknowledging_ = true;
-  look();
+  look(true);
 }
 
-void FileWatcher::look() {
+void FileWatcher::look(bool acknowledges) {
   const int turn = ++turn_;
   workInBackground(
-      this, [path = path_] { return lookAt(path); },
-      [this, turn](const Look& result) { finishLook(result, turn); }, thread_);
+      this, [read = read_, path = path_] { return lookAt(read, path); },
+      [this, turn, acknowledges](const Look& result) { finishLook(result, turn, acknowledges); }, thread_);
 }
 
-void FileWatcher::finishLook(const Look& look, int turn) {
+void FileWatcher::finishLook(const Look& look, int turn, bool acknowledges) {
+  // Also when the file was touched again meanwhile: the look that follows is to tell what has come since.
+  if (acknowledges) known_ = look.digest;
   if (turn != turn_) return;  // the file was touched again; a later look follows
   watchAgain();
-  if (acknowledging_) {
-    acknowledging_ = false;
-    known_ = look.digest;
-    return;
-  }
+  if (acknowledges) return;
   if (look.digest.isEmpty() && !known_.isEmpty() && !QFileInfo::exists(path_)) {
     known_.clear();  // so that its coming back is news, whatever it holds then
     emit fileDidDisappear();

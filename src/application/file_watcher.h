@@ -8,6 +8,10 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <functional>
+
+#include "base/result.h"
+
 namespace norvex {
 
 /// Watches one file, also across programs that save by renaming a new file over the old one. A change is told
@@ -18,12 +22,17 @@ class FileWatcher final : public QObject {
  public:
   static constexpr int defaultSettlingMilliseconds = 400;
 
+  /// All bytes of a file; called on the watcher's thread.
+  using Reader = std::function<Result<QByteArray>(const QString& path)>;
+
   explicit FileWatcher(const QString& path, int settlingMilliseconds = defaultSettlingMilliseconds,
                        QObject* parent = nullptr);
+  /// With another reader than readDocumentFile().
+  FileWatcher(const QString& path, int settlingMilliseconds, Reader read, QObject* parent = nullptr);
   ~FileWatcher() override;
 
   [[nodiscard]] QString path() const { return path_; }
-  /// The file as it is on disk now counts as known (it has been read).
+  /// The file as it is on disk now counts as known (it has been read). What is written after that is news.
   void acknowledge();
 
  signals:
@@ -34,19 +43,19 @@ class FileWatcher final : public QObject {
  private:
   struct Look;
   /// Blocks; any thread.
-  static Look lookAt(const QString& path);
+  static Look lookAt(const Reader& read, const QString& path);
   /// A file that was replaced is no longer watched; and the folder tells when it comes back.
   void watchAgain();
   /// Reads the file in the background; finishLook() decides.
-  void look();
-  void finishLook(const Look& look, int turn);
+  void look(bool acknowledges = false);
+  void finishLook(const Look& look, int turn, bool acknowledges);
 
   QString path_;
+  Reader read_;
   QFileSystemWatcher watcher_;
   QTimer settling_;
   QByteArray known_;  ///< digest of the bytes known last
   int turn_ = 0;      ///< looks that were begun; the answer of an older one is dropped
-  bool acknowledging_ = true;
   QThreadPool thread_;
 };
 

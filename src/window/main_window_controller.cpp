@@ -35,7 +35,11 @@
 namespace norvex {
 
 MainWindowController::MainWindowController() : commands_(*this) {
-  connect(&commands_.loading, &LoadingCommand::finished, this, &MainWindowController::take);
+  connect(&commands_.loading, &LoadingCommand::finished, this,
+          [this](const DocumentContents& contents, bool again) {
+            take(contents, again);
+            if (findChild<LiveFile*>()->takeChangeMeanwhile()) fileDidChangeOnDisk();
+          });
 }
 
 MainWindowController::~MainWindowController() {
@@ -113,6 +117,7 @@ void MainWindowController::showWindow() {
 
 void MainWindowController::windowDidLoad() {
   window();
+  (void)findChild<LiveFile*>()->takeChangeMeanwhile();  // which is read now
   commands_.loading.stop();
   if (!document_ || document_->fileURL().isEmpty()) {
     commands_.controls.setUp();
@@ -133,6 +138,7 @@ void MainWindowController::fileDidChangeOnDisk() {
   if (!window_ || !document_) return;
   emit fileChanged();
   auto* live = findChild<LiveFile*>();
+  if (isReading()) return live->fileDidChangeMeanwhile();  // what is told now goes when the picture comes
   if (live->reloadsByItself()) return live->reloadInPlace([this] { reload(); });
   commands_.messages.fileDidChange();
 }

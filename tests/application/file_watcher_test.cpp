@@ -1,10 +1,12 @@
 #include "application/file_watcher.h"
 
 #include <QSaveFile>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include "kit/test_main.h"
+#include "picture/document_file.h"
 
 using namespace norvex;
 
@@ -122,6 +124,27 @@ class FileWatcherTest : public QObject {
     QVERIFY(changed.size() <= 1);  // the change may have been seen before it was acknowledged
     changed.clear();
     write("%!PS newer\n");
+    QVERIFY(changed.wait(kLongEnough));
+  }
+
+  // A window that reads a file again while a program goes on writing it would show the half of it for ever.
+  void whatIsWrittenWhileItIsTakenNoteOfIsNews() {
+    QSemaphore wasRead, mayEnd;
+    FileWatcher watcher(path_, kSettling, [&](const QString& path) {
+      const Result<QByteArray> bytes = readDocumentFile(path);
+      wasRead.release();
+      mayEnd.acquire();
+      return bytes;
+    });
+    QSignalSpy changed(&watcher, &FileWatcher::fileDidChange);
+    mayEnd.release();  // the note that it takes at first
+    QTest::qWait(kQuiet);
+    wasRead.acquire();
+    watcher.acknowledge();
+    wasRead.acquire();
+    write("%!PS the other half\n");
+    QTest::qWait(kQuiet);  // the change is seen, and what it is about is looked for after this look
+    mayEnd.release(1000);
     QVERIFY(changed.wait(kLongEnough));
   }
 

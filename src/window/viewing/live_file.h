@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "document/picture_view.h"
 
@@ -38,6 +39,10 @@ class LiveFile final : public QObject {
   void documentDidChange();
   /// It could not be: what is shown has stayed.
   void documentDidStay() { place_.reset(); }
+  /// The file has changed while it is being read: what comes of that may be what it was before.
+  void fileDidChangeMeanwhile() { changedMeanwhile_ = true; }
+  /// True once after that: the change has yet to be shown, or told.
+  [[nodiscard]] bool takeChangeMeanwhile() { return std::exchange(changedMeanwhile_, false); }
 
  private:
   struct Place {
@@ -53,6 +58,7 @@ class LiveFile final : public QObject {
   PagesCommand& pages_;
   StickyFit& fit_;
   std::optional<Place> place_;  ///< to come back to; nothing: nothing is being reloaded
+  bool changedMeanwhile_ = false;
 };
 
 }  // namespace norvex

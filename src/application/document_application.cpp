@@ -84,9 +84,19 @@ void DocumentApplication::connectParts() {
 
 void DocumentApplication::start(const QList<QUrl>& files) {
   delegate_.applicationDidFinishLaunching();
-  QMetaObject::invokeMethod(this, &DocumentApplication::offerLeftSessions, Qt::QueuedConnection);
+  offerLeftSessionsSoon();
   if (files.isEmpty()) return updateStartPanel();
   documents_.openDocuments(files);
+}
+
+void DocumentApplication::openFiles(const QList<QUrl>& files) {
+  offerLeftSessionsSoon();
+  documents_.openDocuments(files);
+}
+
+void DocumentApplication::offerLeftSessionsSoon() {
+  if (std::exchange(hasOffered_, true)) return;
+  QMetaObject::invokeMethod(this, &DocumentApplication::offerLeftSessions, Qt::QueuedConnection);
 }
 
 void DocumentApplication::offerLeftSessions() {
@@ -147,6 +157,7 @@ void DocumentApplication::activate() {
 }
 
 void DocumentApplication::showStartPanel() {
+  offerLeftSessionsSoon();
   startPanel_->show();
   startPanel_->raise();
   startPanel_->activateWindow();

@@ -47,7 +47,7 @@ class DocumentApplication final : public QObject {
   void start(const QList<QUrl>& files);
   /// Shows nothing before the desktop asks for something; ends when it does not.
   void startForDesktop(int patienceMilliseconds);
-  void openFiles(const QList<QUrl>& files) { documents_.openDocuments(files); }
+  void openFiles(const QList<QUrl>& files);
   /// Asked for without a file: the window used last comes to the front, the start panel where there is none.
   void activate();
   void showStartPanel();
@@ -69,8 +69,9 @@ class DocumentApplication final : public QObject {
   void connectParts();
   void takeEarlierRecents();
   void documentWillShow(Document* document);
-  /// True if to open again what a program had open that crashed.
+  /// Asks whether to open again what a program had open that crashed. Once, when something is to be seen.
   void offerLeftSessions();
+  void offerLeftSessionsSoon();
   void documentDidOpen(Document* document);
   void documentDidClose(Document* document);
   /// A window did not close when the program was to end: when it closes later, the program ends after all.
@@ -118,6 +119,7 @@ class DocumentApplication final : public QObject {
   bool tellsFailures_ = false;
   int modal_ = 0;  ///< panels and alerts on the screen
   bool quitting_ = false;
+  bool hasOffered_ = false;                      ///< what programs that crashed had open
   QHash<QUrl, QPointer<QMainWindow>> replaced_;  ///< windows that go when that file has opened
   WindowKeys windowKeys_;
 };

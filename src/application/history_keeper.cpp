@@ -57,7 +57,7 @@ bool HistoryKeeper::isOn() const {
 void HistoryKeeper::setOn(bool on) {
   if (on == isOn()) return;
   if (!on) clear();
-  if (!on) session_.stop();
+  on ? session_.start() : session_.stop();
   on ? settings_.remove(kOff) : settings_.setValue(kOff, true);
 }
 
@@ -71,10 +71,11 @@ void HistoryKeeper::clear() {
 }
 
 void HistoryKeeper::opened(const QUrl& url, const QString& mimeType) {
-  if (!isOn() || !url.isLocalFile()) return;
+  if (!url.isLocalFile()) return;
   const QString path = pathOf(url);
+  session_.opened(path);  // which writes nothing while it is off, but may be switched on while this is open
+  if (!isOn()) return;
   recent_.add(url);
-  session_.opened(path);
   toTell_.append({path, mimeType});
   whenQuiet_.start();
 }

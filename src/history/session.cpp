@@ -101,6 +101,11 @@ void Session::stop() {
   file_.reset();
 }
 
+void Session::start() {
+  on_ = true;
+  if (!now_.files.isEmpty()) write();
+}
+
 void Session::write() {
   if (!on_) return;
   if (!file_.valid()) {

@@ -30,8 +30,10 @@ class Session {
   void opened(const QString& path);
   void used(const QString& path);
   void closed(const QString& path);
-  /// Nothing is kept from now on, nor what was until now.
+  /// Nothing is kept on disk from now on, nor what was until now.
   void stop();
+  /// Ends stop(): what is open now is kept again.
+  void start();
 
   /// Of all programs that crashed, oldest first. Their files are removed: they are offered once.
   [[nodiscard]] static QList<LeftSession> takeLeft(const QString& folder);

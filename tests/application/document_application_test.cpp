@@ -174,6 +174,27 @@ class DocumentApplicationTest : public QObject {
     QVERIFY(!application_->startPanel().isVisible());
   }
 
+  // Menus and file managers start the program by the bus alone.
+  void whatACrashLeftIsOfferedWhenTheDesktopAsksForSomething_data() {
+    QTest::addColumn<bool>("aFile");
+    QTest::newRow("a file") << true;
+    QTest::newRow("the program") << false;
+  }
+  void whatACrashLeftIsOfferedWhenTheDesktopAsksForSomething() {
+    QFETCH(bool, aFile);
+    const QUrl left = writePdf("left.pdf");
+    leaveSession({left.toLocalFile()}, left.toLocalFile());
+    application_->startForDesktop(60'000);
+    QCoreApplication::processEvents();
+    QCOMPARE(alerts_.shown.size(), 0);  // there is nothing on the screen
+    aFile ? application_->openFiles({writePdf("a.pdf")}) : application_->activate();
+    QTRY_COMPARE(alerts_.shown.size(), 1);
+    QVERIFY(alerts_.shown.first().informativeText.contains("left.pdf"));
+    application_->activate();
+    QVERIFY(finishReading());
+    QCOMPARE(alerts_.shown.size(), 1);
+  }
+
   void startedByTheBusForNothingItEnds() {
     application_->startForDesktop(1);
     QTRY_COMPARE(terminated_, 1);

@@ -90,6 +90,18 @@ class HistoryKeeperTest : public QObject {
     QVERIFY(again.isOn());
   }
 
+  void switchedOnAgainItKeepsWhatIsOpenForAfterACrash() {
+    keeper_->opened(file("before.eps"), "image/x-eps");
+    keeper_->setOn(false);
+    keeper_->opened(file("meanwhile.eps"), "image/x-eps");
+    keeper_->opened(file("gone.eps"), "image/x-eps");
+    keeper_->closed(file("gone.eps"), std::nullopt);
+    QVERIFY(!everything().contains("meanwhile"));
+    keeper_->setOn(true);
+    QVERIFY(everything().contains("before.eps") && everything().contains("meanwhile.eps"));
+    QVERIFY(!everything().contains("gone.eps"));
+  }
+
   void clearingForgetsAndGoesOnRemembering() {
     keeper_->opened(file("a.eps"), "image/x-eps");
     keeper_->closed(file("a.eps"), PictureView{2, 0, 0});

@@ -13,15 +13,16 @@
 #include <utility>
 
 #include "base/localized_string.h"
+#include "ui/panels/own_shortcuts.h"
 
 namespace norvex {
 namespace {
 
 /// As a screen reader says it.
-QString plain(QString title) {
-  title.remove(u'&');
-  while (title.endsWith(u':')) title.chop(1);
-  return title;
+QString plain(const QString& title) {
+  QString said = plainTitle(title);
+  while (said.endsWith(u':') || said.endsWith(u'\uff1a')) said.chop(1);
+  return said;
 }
 
 QLabel* makeHeading(const QString& text, QWidget* parent) {

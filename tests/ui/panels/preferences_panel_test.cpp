@@ -52,6 +52,16 @@ class PreferencesPanelTest : public QObject {
     QCOMPARE(find<QComboBox>(panel, "list")->currentText(), QStringLiteral("Inches"));
   }
 
+  // Where the letters of a language are no keys, mnemonics stand behind the titles.
+  void whatAScreenReaderSaysHoldsNoMnemonic() {
+    Preference box{.group = "Files", .name = "box", .title = QString::fromUtf8("记住文件(&E)")};
+    Preference list{.group = "Files", .name = "list", .title = QString::fromUtf8("长度单位(&U)：")};
+    list.options = {{"Points", 0}};
+    const PreferencesPanel panel({box, list});
+    QCOMPARE(find<QCheckBox>(panel, "box")->accessibleName(), QString::fromUtf8("记住文件"));
+    QCOMPARE(find<QComboBox>(panel, "list")->accessibleName(), QString::fromUtf8("长度单位"));
+  }
+
   void aChoiceCountsAtOnce() {
     Chosen chosen;
     const PreferencesPanel panel(chosen.preferences());

@@ -31,11 +31,8 @@ void DocumentApplication::addNeighbours(QMainWindow* window) {
 void DocumentApplication::showNeighbour(QMainWindow* window, int step) {
   const QUrl url = neighbourOf(QUrl::fromLocalFile(window->windowFilePath()), step);
   if (url.isEmpty()) return QApplication::beep();
-  // One that is open already comes to the front, and this one stays.
-  const QList<Document*> open = documents_.documents();
-  if (std::none_of(open.cbegin(), open.cend(),
-                   [&url](const Document* each) { return each->fileURL() == url; }))
-    replaced_.insert(url, window);
+  // One that is open already, by whatever name, comes to the front, and this one stays.
+  if (!documents_.documentForURL(url)) replaced_.insert(url, window);
   documents_.openDocuments({url});
 }
 

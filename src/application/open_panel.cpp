@@ -8,17 +8,15 @@
 #include "types/document_kind.h"
 #include "ui/panels/centred_window.h"
 #include "ui/panels/file_columns.h"
+#include "ui/panels/modal_dialog.h"
 
 namespace norvex {
 namespace {
 
 constexpr QSize kSize(780, 480);
 
-/// "Title (*.eps *.EPS)": the panel's patterns tell letter cases apart, files from old disks are in capitals.
 QString filter(const char* title, const QStringList& extensions) {
-  QStringList patterns;
-  for (const QString& extension : extensions) patterns << "*." + extension << "*." + extension.toUpper();
-  return localizedString(title) + " (" + patterns.join(' ') + ')';
+  return nameFilter(localizedString(title), extensions);
 }
 
 }  // namespace
@@ -33,15 +31,16 @@ QStringList openPanelFilters() {
 }
 
 QList<QUrl> runOpenPanel(QWidget* parent, const QString& folder) {
-  QFileDialog panel(parent, localizedString("Open"), folder.isEmpty() ? QDir::homePath() : folder);
-  panel.setFileMode(QFileDialog::ExistingFiles);
-  panel.setNameFilters(openPanelFilters());
-  panel.setSupportedSchemes({QStringLiteral("file")});
-  showWholeColumns(panel);
-  showWholePlaces(panel);
-  nameFolders(panel);
-  panel.resize(sizeForTexts(panel, kSize));
-  return panel.exec() == QDialog::Accepted ? panel.selectedUrls() : QList<QUrl>();
+  ModalDialog<QFileDialog> panel(parent, localizedString("Open"),
+                                 folder.isEmpty() ? QDir::homePath() : folder);
+  panel->setFileMode(QFileDialog::ExistingFiles);
+  panel->setNameFilters(openPanelFilters());
+  panel->setSupportedSchemes({QStringLiteral("file")});
+  showWholeColumns(*panel);
+  showWholePlaces(*panel);
+  nameFolders(*panel);
+  panel->resize(sizeForTexts(*panel, kSize));
+  return panel.isAccepted() ? panel->selectedUrls() : QList<QUrl>();
 }
 
 }  // namespace norvex

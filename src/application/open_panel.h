@@ -13,7 +13,8 @@ namespace norvex {
 /// Name filters of the panel: all pictures, each kind, all files.
 [[nodiscard]] QStringList openPanelFilters();
 
-/// Asks for files, several at once; empty when the panel was cancelled. `folder` is where it begins.
+/// Asks for files, several at once; empty when the panel was cancelled, or
+/// has gone with `parent`. `folder` is where it begins.
 [[nodiscard]] QList<QUrl> runOpenPanel(QWidget* parent, const QString& folder);
 
 }  // namespace norvex

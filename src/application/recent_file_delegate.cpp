@@ -1,12 +1,12 @@
 #include "application/recent_file_delegate.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QUrl>
 
+#include "base/user_folders.h"
 #include "ui/style/quiet_text.h"
 
 namespace norvex {
@@ -21,13 +21,6 @@ QColor badgeColor(const QString& extension) {
   if (extension == QLatin1String("pdf")) return {0xc2, 0x4b, 0x45};
   if (extension.startsWith(QLatin1String("svg"))) return {0x3f, 0x6f, 0xb5};
   return {0x70, 0x70, 0x78};
-}
-
-/// The path of a file's folder as people write it.
-QString folderName(const QString& path) {
-  const QString folder = QFileInfo(path).absolutePath();
-  const QString home = QDir::homePath();
-  return folder == home || folder.startsWith(home + '/') ? '~' + folder.mid(home.size()) : folder;
 }
 
 void drawBadge(QPainter* painter, const QRect& box, const QString& extension, const QFont& base) {
@@ -87,7 +80,8 @@ void RecentFileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
                     item.fontMetrics.elidedText(QFileInfo(path).fileName(), Qt::ElideMiddle, text.width()));
   if (!selected) painter->setPen(quietTextColor(item.palette));
   painter->drawText(text.x(), text.center().y() - item.fontMetrics.descent() + line,
-                    item.fontMetrics.elidedText(folderName(path), Qt::ElideMiddle, text.width()));
+                    item.fontMetrics.elidedText(writtenFolder(QFileInfo(path).absolutePath()),
+                                                Qt::ElideMiddle, text.width()));
   if (item.state.testFlag(QStyle::State_HasFocus)) {  // where nothing is selected it would not be seen
     painter->setPen(QPen(item.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight), 2));
     painter->setBrush(Qt::NoBrush);

@@ -10,6 +10,7 @@
 
 #include "base/background_work.h"
 #include "base/localized_string.h"
+#include "ui/panels/modal_dialog.h"
 
 namespace norvex {
 namespace {
@@ -56,14 +57,14 @@ void setConfinementWords(ConfinementWords words) {
 }
 
 void showAboutBox(QWidget& parent) {
-  QMessageBox about(&parent);
-  about.setWindowTitle(localizedString("About Norvex"));
-  about.setTextFormat(Qt::PlainText);
-  about.setText(QStringLiteral("Norvex %1").arg(QStringLiteral(NORVEX_VERSION)));
-  about.setIconPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), parent.devicePixelRatioF()));
-  about.setInformativeText(description());
-  addConfinement(about);
-  about.exec();
+  ModalDialog<QMessageBox> about(&parent);
+  about->setWindowTitle(localizedString("About Norvex"));
+  about->setTextFormat(Qt::PlainText);
+  about->setText(QStringLiteral("Norvex %1").arg(QStringLiteral(NORVEX_VERSION)));
+  about->setIconPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), parent.devicePixelRatioF()));
+  about->setInformativeText(description());
+  addConfinement(*about);
+  (void)about.isAnswered();
 }
 
 }  // namespace norvex

@@ -1,11 +1,15 @@
 // From a picture to the next one of its folder, in the same place.
 #include <QAction>
+#include <QPointer>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include "application/document_application.h"
+#include "application/open_panel.h"
 #include "display/skt_zooming_scroll_view.h"
 #include "kit/test_main.h"
+#include "window/about_box.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -43,6 +47,9 @@ class Folder {
     const qsizetype before = count();
     application_.documents().openDocuments({QUrl::fromLocalFile(files_.filePath(name))});
     return QTest::qWaitFor([&] { return count() == before + 1; }, 20000);
+  }
+  bool link(const QString& from, const QString& name) {
+    return QFile::link(files_.filePath(from), files_.filePath(name));
   }
   void close(int number) {
     static_cast<MainWindowController*>(application_.documents().documents().at(number)->windowController())
@@ -117,6 +124,42 @@ class NeighboursTest : public QObject {
     QVERIFY(f.opens("b.eps"));  // for itself, and not in the place of the first
     QVERIFY(f.settled());
     QCOMPARE(f.count(), 2);
+  }
+
+  void aNeighbourThatIsOpenByAnotherNameComesToTheFrontAndNothingGoes() {
+    Folder f;
+    QVERIFY(f.opens("c.eps"));
+    QVERIFY(f.link("c.eps", "aa.eps"));
+    f.press("nextPictureAction");
+    QVERIFY(f.settled());
+    QCOMPARE(f.count(), 2);
+    f.close(1);
+    QTRY_COMPARE(f.count(), 1);
+    QVERIFY(f.opens("aa.eps"));  // for itself, and not in the place of the first
+    QVERIFY(f.settled());
+    QCOMPARE(f.count(), 2);
+  }
+
+  void whatIsAskedInTheOtherWindowGoesWithIt_data() {
+    QTest::addColumn<bool>("files");
+    QTest::newRow("what the program is") << false;
+    QTest::newRow("files to open") << true;
+  }
+  void whatIsAskedInTheOtherWindowGoesWithIt() {
+    QFETCH(bool, files);
+    Folder f;
+    QTimer::singleShot(20000, f.window(), [] {
+      if (QWidget* const left = QApplication::activeModalWidget()) left->close();
+    });
+    f.press("nextPictureAction");
+    QCOMPARE(f.count(), 1);
+    const QPointer<QMainWindow> other = f.window();
+    if (files)
+      QVERIFY(runOpenPanel(other, {}).isEmpty());
+    else
+      showAboutBox(*other);
+    QVERIFY(!other);
+    QVERIFY(f.shows("b.eps"));
   }
 
   void itStandsWhereTheOtherStood() {

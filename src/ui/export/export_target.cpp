@@ -10,6 +10,7 @@
 #include "base/latin1_text.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
+#include "base/user_folders.h"
 #include "ui/style/quiet_text.h"
 
 namespace norvex {
@@ -83,9 +84,7 @@ void ExportTarget::chooseFolder() {
 }
 
 void ExportTarget::showFolder() {
-  const QString home = QDir::homePath();
-  const QString shown = folder_.startsWith(home + u'/') ? u'~' + folder_.mid(home.size()) : folder_;
-  shownFolder_->setText(localizedString("in %1").arg(shown));
+  shownFolder_->setText(localizedString("in %1").arg(writtenFolder(folder_)));
   shownFolder_->setToolTip(folder_);
 }
 

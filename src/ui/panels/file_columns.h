@@ -1,4 +1,4 @@
-// The lists of files and places in a dialogue of our own.
+// The lists of files, kinds and places in a dialogue of our own.
 #pragma once
 
 #include <QComboBox>
@@ -30,6 +30,14 @@ inline void showWholePlaces(QFileDialog& dialog) {
   const int whole = places->sizeHintForColumn(0) + 2 * places->frameWidth();
   places->setMinimumWidth(std::min(whole, kLetters * places->fontMetrics().averageCharWidth()));
   places->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+/// "Title (*.eps *.EPS)": patterns tell letter cases apart, and files from old disks are in capitals.
+[[nodiscard]] inline QString nameFilter(const QString& title, const QStringList& extensions) {
+  QStringList patterns;
+  for (const QString& extension : extensions)
+    patterns << QStringLiteral("*.") + extension << QStringLiteral("*.") + extension.toUpper();
+  return title + QStringLiteral(" (") + patterns.join(u' ') + u')';
 }
 
 /// The list of folders says what it is to who cannot see the words beside it.

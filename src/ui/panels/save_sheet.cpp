@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
@@ -10,39 +9,30 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QStandardPaths>
 
 #include <utility>
 
 #include "base/localized_string.h"
 #include "base/path_extension.h"
+#include "base/user_folders.h"
 #include "types/type_description.h"
 #include "ui/panels/centred_window.h"
 #include "ui/panels/file_columns.h"
+#include "ui/panels/modal_dialog.h"
 
 namespace norvex {
 namespace {
 
-/// "Title (*.eps *.EPS)": the patterns tell letter cases apart.
-QString nameFilter(const QString& title, const QList<UTType>& types) {
-  QStringList patterns;
-  for (const UTType& type : types) {
-    const QString extension = type.preferredFilenameExtension();
-    patterns << "*." + extension << "*." + extension.toUpper();
-  }
-  return title + " (" + patterns.join(' ') + ')';
-}
-
-/// Where pictures are kept; the home folder where there is no such place.
-QString ownFolder() {
-  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-  return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+QString filterOf(const QString& title, const QList<UTType>& types) {
+  QStringList extensions;
+  for (const UTType& type : types) extensions << type.preferredFilenameExtension();
+  return nameFilter(title, extensions);
 }
 
 QUrl startOf(const SavePanelSettings& settings) {
   for (const QUrl& url : {settings.directoryURL, settings.ownDirectoryURL})
     if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir()) return url;
-  return QUrl::fromLocalFile(ownFolder());
+  return QUrl::fromLocalFile(picturesFolder());
 }
 
 constexpr QSize kSize(720, 640);
@@ -85,7 +75,7 @@ void SaveSheet::arrange() {
     addTypeList();
   } else {
     if (!settings_.allowsOtherFileTypes && !settings_.allowedContentTypes.isEmpty())
-      setNameFilter(nameFilter(localizedString("Pictures"), settings_.allowedContentTypes));
+      setNameFilter(filterOf(localizedString("Pictures"), settings_.allowedContentTypes));
     for (const char* unused : {"fileTypeLabel", "fileTypeCombo"})
       if (auto* widget = findChild<QWidget*>(QString::fromLatin1(unused))) widget->hide();
   }
@@ -97,7 +87,7 @@ void SaveSheet::arrange() {
 void SaveSheet::addTypeList() {
   QStringList filters;
   for (const UTType& type : settings_.allowedContentTypes)
-    filters << nameFilter(localizedDescription(type), {type});
+    filters << filterOf(localizedDescription(type), {type});
   setNameFilters(filters);
   selectNameFilter(filters.value(settings_.selectedContentType));
   connect(this, &QFileDialog::filterSelected, this, [this, filters](const QString& chosen) {
@@ -172,15 +162,14 @@ void SaveSheet::showName() {
 
 bool SaveSheet::mayReplace(const QString& path) {
   if (!QFileInfo::exists(path)) return true;
-  QMessageBox question(this);
-  question.setIcon(QMessageBox::Warning);
-  question.setTextFormat(Qt::PlainText);
-  question.setText(localizedString("“%1” exists already.").arg(QFileInfo(path).fileName()));
-  question.setInformativeText(localizedString("What it holds will be lost."));
-  QPushButton* replace = question.addButton(localizedString("Replace"), QMessageBox::DestructiveRole);
-  question.setDefaultButton(question.addButton(QMessageBox::Cancel));
-  question.exec();
-  return question.clickedButton() == replace;
+  ModalDialog<QMessageBox> question(this);
+  question->setIcon(QMessageBox::Warning);
+  question->setTextFormat(Qt::PlainText);
+  question->setText(localizedString("“%1” exists already.").arg(QFileInfo(path).fileName()));
+  question->setInformativeText(localizedString("What it holds will be lost."));
+  QPushButton* replace = question->addButton(localizedString("Replace"), QMessageBox::DestructiveRole);
+  question->setDefaultButton(question->addButton(QMessageBox::Cancel));
+  return question.isAnswered() && question->clickedButton() == replace;
 }
 
 void SaveSheet::accept() {

@@ -1,9 +1,7 @@
 #include "window/export/export_command.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QMainWindow>
-#include <QStandardPaths>
 
 #include <utility>
 
@@ -11,6 +9,7 @@
 #include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
+#include "base/user_folders.h"
 #include "desktop/alert.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
@@ -32,8 +31,7 @@ constexpr int kPreviewSide = 700;  // pixels
 QString startFolder(const QUrl& picture) {
   const QFileInfo folder(QFileInfo(picture.toLocalFile()).absolutePath());
   if (!picture.isEmpty() && folder.isDir()) return folder.filePath();
-  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-  return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+  return picturesFolder();
 }
 
 ExportOffer offerOf(const WindowParts& parts) {
@@ -181,6 +179,7 @@ void ExportCommand::write() {
   const QPointer<ExportCommand> self(this);
   if (!mayReplace(path) || !self || !dialog_) return;
   if (!making_) make();
+  if (!making_) return;  // there is no picture any more
   const std::shared_ptr<Making> making = std::exchange(making_, nullptr);
   storeExportChoice(making->choice);
   dialog_->accept();

@@ -145,7 +145,9 @@ void TextCommand::follow(const PageLink& link) {
   alert.messageText = localizedString("The picture links to this address. Open it?");
   alert.informativeText = shownAddress(link.address);
   alert.buttons = {localizedString("Open Address"), localizedString("Cancel")};
-  if (parts_.alerts()->runModal(alert) != 0 || opener_(url)) return;
+  const QPointer<TextCommand> self(this);  // the window may go while the question is on the screen
+  const auto opener = opener_;
+  if (parts_.alerts()->runModal(alert) != 0 || opener(url) || !self) return;
   BriefNote::tell(*parts_.scrollArea(), localizedString("No program here opens this address."));
 }
 

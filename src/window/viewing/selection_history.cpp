@@ -8,6 +8,8 @@
 #include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "ui/pages/rectangle_dialog.h"
+#include "ui/panels/modal_dialog.h"
+#include "window/commands/followed_action.h"
 #include "window/commands/window_parts.h"
 #include "window/viewing/view_choices.h"
 
@@ -45,8 +47,7 @@ void SelectionHistory::setUp(QMenu& menu, const QAction& all) {
   numbers_ =
       add("Select Rectan&gle…", "selectRectangleAction", Qt::CTRL | Qt::Key_L, [this] { askForNumbers(); });
   menu.insertSeparator(first);
-  numbers_->setEnabled(all.isEnabled());
-  connect(&all, &QAction::enabledChanged, numbers_, &QAction::setEnabled);
+  enableWith(*numbers_, all);
   validate();
 }
 
@@ -87,10 +88,10 @@ void SelectionHistory::askForNumbers() {
   const NorvexView& view = *parts_.view();
   const bool selected = view.selection().state() == Selection::State::Rectangle;
   const QRectF& bounds = view.bounds();
-  RectangleDialog dialog((selected ? view.selectRect() : bounds).translated(-bounds.topLeft()), bounds.size(),
-                         ViewChoices::shared().unit(), parts_.mainWindow());
-  if (dialog.exec() != QDialog::Accepted) return;
-  selectRectangle(*parts_.view(), dialog.rectangle().translated(parts_.view()->bounds().topLeft()));
+  ModalDialog<RectangleDialog> dialog((selected ? view.selectRect() : bounds).translated(-bounds.topLeft()),
+                                      bounds.size(), ViewChoices::shared().unit(), parts_.mainWindow());
+  if (!dialog.isAccepted()) return;
+  selectRectangle(*parts_.view(), dialog->rectangle().translated(parts_.view()->bounds().topLeft()));
 }
 
 void SelectionHistory::validate() {

@@ -70,6 +70,23 @@ class AlertBoxTest : public QObject {
     QTEST(QtAlertPresenter().runModal(alert), "answer");
   }
 
+  // One that takes the place of its window, for example, closes that without asking.
+  void itGoesWithItsWindow() {
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    Alert alert;
+    alert.buttons = {"Wait", "Stop"};
+    bool wasOfTheWindow = false;
+    QTimer::singleShot(0, this, [&] {
+      wasOfTheWindow = shownBox() && shownBox()->parent() == window.get();
+      window.reset();
+    });
+    QCOMPARE(QtAlertPresenter().runModal(alert), -1);
+    QVERIFY(wasOfTheWindow);
+  }
+
   void theButtonOfItsWindowIsAnAnswer() {
     Alert alert;
     alert.buttons = QStringList{"Do Not Open", "Open It Again"};

@@ -7,6 +7,7 @@
 #include "document/document.h"
 #include "document/print_settings.h"
 #include "document/print_titles.h"
+#include "print/page_layout_options.h"
 #include "print/print_spooler.h"
 #include "print/printable_view.h"
 
@@ -14,9 +15,6 @@ namespace norvex {
 namespace {
 
 constexpr int kConfirmed = 1;
-constexpr int kPanelControls =
-    NSPrintPanelShowsPaperSize | NSPrintPanelShowsOrientation | NSPrintPanelShowsScaling;
-
 /// Settings that name no printer cannot lose one.
 bool hasItsPrinter(const NSPrintInfo& info, PrintSpooler* spooler) {
   if (info.printerName().isEmpty()) return true;
@@ -59,7 +57,7 @@ std::unique_ptr<NSPrintOperation> Document::printOperationWithSettings(const QVa
   view->setPrintJobTitle(norvex::printJobTitle(fileURL_, displayName()));
   view->setTitle(printPageTitle(fileURL_, displayName()));
   NSPrintPanel& panel = operation->printPanel();
-  panel.setOptions(panel.options() | kPanelControls);
+  panel.setOptions(panel.options() | pageLayoutOptions);
   operation->setCanSpawnSeparateThread(true);
   operation->printInfo().addEntries(settings);
   return operation;

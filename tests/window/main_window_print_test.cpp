@@ -12,6 +12,7 @@
 #include "picture/process/forwarding_process.h"
 #include "print/memory_printing.h"
 #include "ui/picture/norvex_view_widget.h"
+#include "window/commands/print_commands.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -72,6 +73,22 @@ struct PrintFixture {
   ScriptedInteraction people;
   WaitingThreadsEnd threadsEnd;  ///< what a window leaves behind still asks the service
   Document document;
+};
+
+/// Does something while it tells that the picture could not be made.
+class EndingInteraction final : public PrintInteraction {
+ public:
+  explicit EndingInteraction(std::function<void()> meanwhile) : meanwhile_(std::move(meanwhile)) {}
+  bool runPrintPanel(NSPrintOperation&) override { return false; }
+  void beginPageLayout(const NSPrintInfo&, std::function<void(const NSPrintInfo&, int)>) override {}
+  int preparationDidBegin(const QString&, const CancelToken&) override { return 1; }
+  void preparationDidEnd(int, const QString&, const Result<void>&) override { meanwhile_(); }
+  int jobDidBegin(const QString&, const CancelToken&) override { return 1; }
+  void jobDidAdvance(int, const QString&, int, int) override {}
+  void jobDidEnd(int, const QString&, const Result<void>&) override {}
+
+ private:
+  const std::function<void()> meanwhile_;
 };
 
 /// What the panel was shown: the view that is printed.
@@ -215,6 +232,18 @@ class MainWindowPrintTest : public QObject {
     QTest::qWait(20);
     QCOMPARE(fixture.people.panels, 0);
     QVERIFY(fixture.spooler.jobs().isEmpty());
+  }
+
+  // Another document may take the window's place while a message is on the screen.
+  void theWindowMayGoWhileAFailureIsTold() {
+    PrintFixture fixture;
+    MainWindowController& c = fixture.load("a.eps");
+    fixture.service.pictures.lastProcess()->fail(PictureCall::Compose, {ErrorKind::Died, "it ended"});
+    auto jobs = std::make_unique<PrintCommands>();
+    EndingInteraction people([&jobs] { jobs.reset(); });
+    jobs->printRectangle(*c.view(), QRectF(0, 0, 10, 10), fixture.document, "a",
+                         {nullptr, &fixture.spooler, &people});
+    QTRY_VERIFY_WITH_TIMEOUT(!jobs, 20000);
   }
 
   void thePreparationCanBeCancelled() {

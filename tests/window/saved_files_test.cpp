@@ -55,6 +55,25 @@ class SavedFilesTest : public QObject {
     QCOMPARE(f.alerts.shown.size(), 0);
   }
 
+  // The window would tell of it for ever, and could not be closed any more.
+  void aSavingThatRunsOutOfMemoryIsOver() {
+    MemoryPicture picture;
+    picture.compose = [](const ComposeRequest&) -> QByteArray { throw std::bad_alloc(); };
+    SavingFixture f;
+    f.service.setPicture(picture);
+    MainWindowController& c = f.show(epsBytes(), "a.eps", NorvexEPSType);
+    c.saveDocumentAs();
+    f.panel.answer({true, f.url("other"), 2});
+    bool thrown = false;
+    try {
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    } catch (const std::bad_alloc&) {
+      thrown = true;
+    }
+    QVERIFY(thrown);
+    QVERIFY(!c.isSaving() && !c.work().isUnderWay());
+  }
+
   void whatCouldNotBeOpenedAgainReplacesNothing_data() {
     QTest::addColumn<QByteArray>("made");
     QTest::addColumn<QString>("row");

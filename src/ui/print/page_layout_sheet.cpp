@@ -9,8 +9,8 @@
 #include <algorithm>
 
 #include "base/localized_string.h"
+#include "print/page_layout_options.h"
 #include "print/pagination.h"
-#include "print/print_operation.h"
 #include "ui/print/page_layout_controls.h"
 #include "ui/print/page_layout_preview.h"
 #include "ui/print/zy_page_layout_accessory.h"
@@ -46,8 +46,7 @@ PageLayoutSheet::PageLayoutSheet(const NSPrintInfo& info, QWidget* window)
   halves->addLayout(column_);
   box->addLayout(halves, 1);
   auto* form = new QFormLayout;
-  controls_ = new PageLayoutControls(
-      NSPrintPanelShowsPaperSize | NSPrintPanelShowsOrientation | NSPrintPanelShowsScaling, form, this);
+  controls_ = new PageLayoutControls(pageLayoutOptions, form, this);
   column_->addLayout(form);
   column_->addStretch(1);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

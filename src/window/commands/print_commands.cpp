@@ -1,5 +1,6 @@
 #include "window/commands/print_commands.h"
 
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QThread>
 
@@ -10,13 +11,11 @@
 #include "display/view_compose.h"
 #include "document/document.h"
 #include "document/print_titles.h"
+#include "print/page_layout_options.h"
 #include "print/printable_view.h"
 
 namespace norvex {
 namespace {
-
-constexpr int kPanelControls =
-    NSPrintPanelShowsPaperSize | NSPrintPanelShowsOrientation | NSPrintPanelShowsScaling;
 
 bool wasPrinted(const Result<void>& result) {
   return result.ok() || result.error().kind == ErrorKind::Cancelled;
@@ -63,8 +62,10 @@ void PrintCommands::printRectangle(const NorvexView& view, const QRectF& rect, D
 void PrintCommands::takePicture(const Picture& picture) {
   const std::unique_ptr<Preparing> done = std::move(preparing_);
   const Result<void> result = picture ? Result<void>() : Result<void>(picture.error());
+  const QPointer<PrintCommands> self(this);
   if (PrintInteraction* const interaction = done->part.services.interaction)
     interaction->preparationDidEnd(done->number, done->part.jobTitle, result);
+  if (!self) return;  // while a failure was told
   // It may have been stopped when it was as good as made.
   if (picture && !done->cancel.cancelled()) return runPart(done->part, *picture);
   emit ended(wasPrinted(result));
@@ -77,7 +78,7 @@ void PrintCommands::runPart(const Part& part, const std::shared_ptr<NSImageRep>&
   auto operation = NSPrintOperation::printOperationWithView(
       std::make_unique<PrintableRenderingView>(printed, picture), part.info, part.services);
   NSPrintPanel& panel = operation->printPanel();
-  panel.setOptions(panel.options() | kPanelControls);
+  panel.setOptions(panel.options() | pageLayoutOptions);
   operation->setCanSpawnSeparateThread(true);
   run(std::move(operation));
 }

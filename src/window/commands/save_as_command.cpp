@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "base/background_work.h"
@@ -90,8 +91,8 @@ void SaveAsCommand::workBesideTheWindow(const std::function<void()>& work, const
       [&loop] { loop.quit(); });
   loop.exec();
   working.wait();  // a program that is ending ends the loop before the work
-  if (thrown) std::rethrow_exception(thrown);
   parts_.work().end(number);
+  if (thrown) std::rethrow_exception(thrown);
 }
 
 void SaveAsCommand::write(const QUrl& url, const UTType& type) {
@@ -116,6 +117,9 @@ void SaveAsCommand::write(const QUrl& url, const UTType& type) {
     if (document->writeToURL(url, type.identifier(), &error)) return parts_.tell(producers_.lastWarnings());
   } catch (const UnimplementedMethod&) {
     if (stopped) return;  // nothing is to be told about what the user stopped
+    emit failed();
+    throw;
+  } catch (const std::bad_alloc&) {
     emit failed();
     throw;
   }

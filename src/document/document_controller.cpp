@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/background_work.h"
+#include "base/file_identity.h"
 #include "base/localized_string.h"
 #include "document/unimplemented_method.h"
 #include "picture/document_file.h"
@@ -16,11 +17,8 @@
 namespace norvex {
 namespace {
 
-/// One text for one file, whatever links and dots its path is written with.
 QString keyOf(const QUrl& url) {
-  const QFileInfo info(url.toLocalFile());
-  const QString canonical = info.canonicalFilePath();
-  return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+  return fileIdentity(url.toLocalFile());
 }
 
 /// Why a file could not be read. Addresses of files are text: a name of other bytes cannot come this far

@@ -70,10 +70,7 @@ void ContentsDisplay::showUntitled() {
 }
 
 void ContentsDisplay::showMatrix(const QRectF& rect) {
-  parts_.epsMatrix->setFloat(0, 0, static_cast<float>(rect.x()));
-  parts_.epsMatrix->setFloat(1, 0, static_cast<float>(rect.y()));
-  parts_.epsMatrix->setFloat(0, 1, static_cast<float>(rect.width()));
-  parts_.epsMatrix->setFloat(1, 1, static_cast<float>(rect.height()));
+  parts_.epsMatrix->setRect(rect);
 }
 
 void ContentsDisplay::showPicture(const DocumentContents& contents) {

@@ -20,6 +20,7 @@
 #include "ui/style/symbolic_icon.h"
 #include "ui_MainWindowController.h"
 #include "window/about_box.h"
+#include "window/commands/followed_action.h"
 #include "window/export/export_command.h"
 #include "window/main_window_controller.h"
 #include "window/place/window_frames.h"
@@ -50,9 +51,7 @@ QAction* makeAction(QMainWindow& window, const char* title, const QString& name,
   auto* action = new QAction(localizedString(title), &window);
   action->setObjectName(name);
   action->setShortcut(key);
-  if (!leader) return action;
-  action->setEnabled(leader->isEnabled());
-  QObject::connect(leader, &QAction::enabledChanged, action, &QAction::setEnabled);
+  if (leader) enableWith(*action, *leader);
   return action;
 }
 

@@ -68,6 +68,13 @@ QLineEdit* NumberMatrix::cellAtRow(int row, int column) const {
   return cells_.at(static_cast<size_t>(row)).at(static_cast<size_t>(column));
 }
 
+void NumberMatrix::setRect(const QRectF& rect) {
+  setFloat(0, 0, static_cast<float>(rect.x()));
+  setFloat(1, 0, static_cast<float>(rect.y()));
+  setFloat(0, 1, static_cast<float>(rect.width()));
+  setFloat(1, 1, static_cast<float>(rect.height()));
+}
+
 void NumberMatrix::setText(int row, int column, const QString& text) {
   QLineEdit* cell = cellAtRow(row, column);
   cell->setText(text);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QRectF>
 #include <QWidget>
 
 #include <array>
@@ -23,6 +24,8 @@ class NumberMatrix final : public QWidget {
   /// Single precision, shortest form that reads back the same ("12.5"), with the locale's decimal sign; NaN
   /// and infinities by name.
   void setFloat(int row, int column, float value);
+  /// All four, in the same way.
+  void setRect(const QRectF& rect);
   void setText(int row, int column, const QString& text);
   void setBackgroundColor(const QColor& color);
   [[nodiscard]] QColor backgroundColor() const { return background_; }

@@ -1,9 +1,9 @@
 #include "window/inspector/chosen_encodings.h"
 
-#include <QFileInfo>
 #include <QSettings>
 #include <QStringList>
 
+#include "base/file_identity.h"
 #include "base/state_folder.h"
 #include "metadata/text_encoding.h"
 
@@ -22,17 +22,11 @@ QString pathOf(const QString& entry) {
   return entry.section(u' ', 1);
 }
 
-QString place(const QString& path) {
-  const QFileInfo file(path);
-  const QString canonical = file.canonicalFilePath();
-  return canonical.isEmpty() ? file.absoluteFilePath() : canonical;
-}
-
 }  // namespace
 
 QString chosenEncoding(const QString& path) {
   if (path.isEmpty()) return {};
-  const QString wanted = place(path);
+  const QString wanted = fileIdentity(path);
   const QStringList entries = settings().value(kFiles).toStringList();
   for (const QString& entry : entries) {
     if (pathOf(entry) != wanted) continue;
@@ -44,7 +38,7 @@ QString chosenEncoding(const QString& path) {
 
 void rememberEncoding(const QString& path, const QString& encodingName) {
   if (path.isEmpty()) return;
-  const QString wanted = place(path);
+  const QString wanted = fileIdentity(path);
   QSettings file = settings();
   QStringList entries = file.value(kFiles).toStringList();
   entries.removeIf([&](const QString& entry) { return pathOf(entry) == wanted; });

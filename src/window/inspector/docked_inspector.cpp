@@ -15,6 +15,7 @@
 
 #include "base/localized_string.h"
 #include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/followed_action.h"
 #include "window/commands/inspector_command.h"
 #include "window/commands/window_parts.h"
 #include "window/place/window_frames.h"
@@ -57,9 +58,7 @@ QAction* DockedInspector::makeFocusAction() {
   action->setObjectName(QStringLiteral("switchFocusAction"));
   action->setShortcut(Qt::Key_F6);
   connect(action, &QAction::triggered, this, &DockedInspector::switchFocus);
-  const QAction* inspector = parts_.inspectorToolbarItem;
-  action->setEnabled(inspector->isEnabled());
-  connect(inspector, &QAction::enabledChanged, action, &QAction::setEnabled);
+  enableWith(*action, *parts_.inspectorToolbarItem);
   return action;
 }
 

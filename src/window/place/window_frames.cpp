@@ -20,7 +20,6 @@ QSettings settings() {
 
 const QString kTouchBar = QStringLiteral("views/touchBar");
 
-const QString kFits = QStringLiteral("views/windowFitsPicture");
 const QString kMargins = QStringLiteral("frames/margins");
 
 QString keyFor(const QString& autosaveName) {
@@ -61,11 +60,7 @@ void saveTouchBarIsShown(bool shown) {
 }
 
 bool windowFitsPicture() {
-  return savedView(kFits, true);
-}
-
-void saveWindowFitsPicture(bool fits) {
-  saveView(kFits, fits);
+  return savedView(QLatin1String(windowFitsPictureName), true);
 }
 
 QMargins savedFrameMargins() {

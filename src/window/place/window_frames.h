@@ -24,7 +24,8 @@ void saveTouchBarIsShown(bool shown);
 
 /// True if the size rule holds; unless the user chose otherwise it does.
 [[nodiscard]] bool windowFitsPicture();
-void saveWindowFitsPicture(bool fits);
+/// What savedView() calls that choice.
+inline constexpr char windowFitsPictureName[] = "views/windowFitsPicture";
 
 /// What the desktop draws around windows, as it was seen last; a guess before. Logical pixels.
 [[nodiscard]] QMargins savedFrameMargins();

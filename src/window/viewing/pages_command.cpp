@@ -130,21 +130,13 @@ void PagesCommand::show(int wanted) {
   view.setRotate(view.rotate(), view.flippedCoordinate());
   parts_.scrollArea()->scrollToTop();
   parts_.viewWidget()->update();
-  showFacts(**made);
+  parts_.epsMatrix->setRect((*made)->bounds());
   parts_.previewImageView()->setImageRep(*made);
   thumbnails_->setDocument(*made);
   validate();
   if (!switch_->isVisible())
     BriefNote::tell(*parts_.scrollArea(), localizedString("%1 of %2").arg(wanted + 1).arg(count()));
   emit pageDidChange();
-}
-
-void PagesCommand::showFacts(const NSPDFImageRep& page) {
-  const QRectF bounds = page.bounds();
-  parts_.epsMatrix->setFloat(0, 0, static_cast<float>(bounds.x()));
-  parts_.epsMatrix->setFloat(1, 0, static_cast<float>(bounds.y()));
-  parts_.epsMatrix->setFloat(0, 1, static_cast<float>(bounds.width()));
-  parts_.epsMatrix->setFloat(1, 1, static_cast<float>(bounds.height()));
 }
 
 void PagesCommand::validate() {

@@ -53,7 +53,6 @@ class PagesCommand final : public QObject {
   void addCommand(QMenu& menu, const char* title, const char* name, const QList<QKeySequence>& keys,
                   const std::function<void()>& act, const std::function<bool()>& possible);
   void addStrip(QMenu& menu);
-  void showFacts(const NSPDFImageRep& page);
   void validate();
   [[nodiscard]] bool wantsStrip() const;
 

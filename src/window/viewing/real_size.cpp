@@ -10,6 +10,7 @@
 #include "base/localized_string.h"
 #include "display/skt_zooming_scroll_view.h"
 #include "display/zoom_factors.h"
+#include "window/commands/followed_action.h"
 #include "window/commands/window_parts.h"
 
 namespace norvex {
@@ -31,8 +32,7 @@ QAction* makeRealSizeAction(WindowParts& parts, const QAction& actualSize) {
   auto* action = new QAction(localizedString("&Real Size on This Screen"), parts.mainWindow());
   action->setObjectName(QStringLiteral("realSizeAction"));
   action->setShortcut(Qt::CTRL | Qt::Key_2);
-  action->setEnabled(actualSize.isEnabled());
-  QObject::connect(&actualSize, &QAction::enabledChanged, action, &QAction::setEnabled);
+  enableWith(*action, actualSize);
   QObject::connect(action, &QAction::triggered, action, [&parts] {
     const QScreen* screen = parts.mainWindow()->screen();
     if (screen)

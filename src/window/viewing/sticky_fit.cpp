@@ -8,6 +8,7 @@
 #include "base/localized_string.h"
 #include "display/skt_zooming_scroll_view.h"
 #include "ui/picture/zooming_scroll_area.h"
+#include "window/commands/followed_action.h"
 #include "window/commands/window_parts.h"
 
 namespace norvex {
@@ -27,8 +28,7 @@ QAction* StickyFit::setUp(QAction& fit) {
   auto* width = new QAction(localizedString("Fit &Width"), parts_.mainWindow());
   width->setObjectName(QStringLiteral("fitWidthAction"));
   width->setShortcut(Qt::CTRL | Qt::Key_8);
-  width->setEnabled(fit.isEnabled());
-  connect(&fit, &QAction::enabledChanged, width, &QAction::setEnabled);
+  enableWith(*width, fit);
   connect(&fit, &QAction::triggered, this, [this] { keep(KeptFit::Whole); });
   connect(width, &QAction::triggered, this, [this] { keep(KeptFit::Width); });
   connect(parts_.zoomingScrollView(), &SKTZoomingScrollView::zoomingScrollViewFactorDidChange, this,

@@ -17,7 +17,7 @@ struct Kept {
 };
 
 /// In the order of the choices.
-constexpr std::array kKept{Kept{"views/windowFitsPicture", true}, Kept{"views/reloadByItself", true},
+constexpr std::array kKept{Kept{windowFitsPictureName, true}, Kept{"views/reloadByItself", true},
                            Kept{"views/dimOutside", false}, Kept{"views/checkerboard", false}};
 
 const QString kUnit = QStringLiteral("views/unit");

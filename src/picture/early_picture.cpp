@@ -35,39 +35,29 @@ class Gate {
     changed_.wait(lock, [&] { return isOpen_ || cancel.cancelled(); });
     return isOpen_;
   }
-  [[nodiscard]] bool isOpen() const {
-    const std::lock_guard lock(mutex_);
-    return isOpen_;
-  }
 
  private:
-  mutable std::mutex mutex_;
+  std::mutex mutex_;
   std::condition_variable changed_;
   bool isOpen_ = false;
 };
 
 }  // namespace
 
-struct EarlyPictureService::Begun {
-  Gate told, ended;
-  Result<PictureFacts> facts = workCancelled();  ///< once they are told
-};
-
 /// Its facts may be on their way for nobody yet.
 class EarlyPictureService::Process final : public ForwardingProcess {
  public:
-  Process(std::shared_ptr<PictureProcess> process, std::shared_ptr<Begun> begun, CancelToken early)
-      : ForwardingProcess(std::move(process)), begun_(std::move(begun)), early_(std::move(early)) {}
+  Process(std::shared_ptr<PictureProcess> process, std::shared_ptr<Gate> told, CancelToken early)
+      : ForwardingProcess(std::move(process)), told_(std::move(told)), early_(std::move(early)) {}
   ~Process() override { early_.cancel(); }
 
   Result<PictureFacts> facts(const CancelToken& cancel) override {
-    if (!begun_->told.pass(cancel)) return workCancelled();
-    if (begun_->facts && !begun_->ended.isOpen()) return begun_->facts;
+    if (!told_->pass(cancel)) return workCancelled();
     return ForwardingProcess::facts(cancel);
   }
 
  private:
-  const std::shared_ptr<Begun> begun_;
+  const std::shared_ptr<Gate> told_;  ///< opened once they are known, or not to be had
   const CancelToken early_;
 };
 
@@ -97,18 +87,16 @@ void EarlyPictureService::read(const QString& path) {
   const Result<PictureKind> kind = pictureKindOf(*bytes, type);
   if (!kind || *kind == PictureKind::Eps)
     return;  // its process begins with its program, which somebody must be able to stop
-  const auto begun = std::make_shared<Begun>();
+  const auto told = std::make_shared<Gate>();
   std::shared_ptr<PictureProcess> process;
   {
     const std::lock_guard lock(mutex_);
     if (isLate_ || ending_.cancelled()) return;
     process = ForwardingService::open(*bytes, *kind, {});
-    early_ =
-        std::make_shared<Early>(Early{*bytes, *kind, std::make_shared<Process>(process, begun, ending_)});
+    early_ = std::make_shared<Early>(Early{*bytes, *kind, std::make_shared<Process>(process, told, ending_)});
   }
-  begun->facts = process->facts(ending_);
-  begun->told.open();
-  begun->ended.open();
+  (void)process->facts(ending_);  // which keeps them, or is asked again
+  told->open();
 }
 
 std::shared_ptr<PictureProcess> EarlyPictureService::open(const QByteArray& bytes, PictureKind kind,

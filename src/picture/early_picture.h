@@ -32,7 +32,6 @@ class EarlyPictureService final : public ForwardingService {
 
  private:
   class Process;
-  struct Begun;
   struct Early;
   void read(const QString& path);
 

@@ -75,6 +75,26 @@ class RoomyRows final : public QStyledItemDelegate {
   }
 };
 
+QListWidget* makeTopics(QWidget* window) {
+  auto* topics = new QListWidget(window);
+  topics->setAccessibleName(localizedString("Topics"));
+  topics->setFrameShape(QFrame::NoFrame);
+  topics->setWordWrap(true);
+  topics->setResizeMode(QListView::Adjust);
+  topics->setItemDelegate(new RoomyRows(topics));
+  return topics;
+}
+
+QTextBrowser* makePage(QWidget* window) {
+  auto* page = new QTextBrowser(window);
+  page->setAccessibleName(localizedString("Page of the manual"));
+  page->setFrameShape(QFrame::NoFrame);
+  page->setOpenLinks(false);
+  page->setSearchPaths({languageFolder(), QStringLiteral(":/manual")});
+  page->document()->setDocumentMargin(24);
+  return page;
+}
+
 }  // namespace
 
 QStringList manualPages() {
@@ -92,19 +112,8 @@ ManualWindow::ManualWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   search_->setPlaceholderText(localizedString("Search the manual"));
   search_->setAccessibleName(localizedString("Search the manual"));
   search_->setClearButtonEnabled(true);
-  topics_ = new QListWidget(this);
-  topics_->setAccessibleName(localizedString("Topics"));
-  topics_->setFrameShape(QFrame::NoFrame);
-  topics_->setWordWrap(true);
-  topics_->setResizeMode(QListView::Adjust);
-  topics_->setItemDelegate(new RoomyRows(topics_));
-  page_ = new QTextBrowser(this);
-  page_->setAccessibleName(localizedString("Page of the manual"));
-  page_->setFrameShape(QFrame::NoFrame);
-  page_->setOpenLinks(false);
-  page_->setSearchPaths({languageFolder(), QStringLiteral(":/manual")});
-  page_->document()->setDocumentMargin(24);
-
+  topics_ = makeTopics(this);
+  page_ = makePage(this);
   auto* side = new QWidget(this);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(12, 12, 8, 12);

@@ -83,7 +83,6 @@ QVariant ZyWebImageRep::valueForKey(const QString& key) const {
 }
 
 // ---- representations
-// ------------------------------------------------------------------------------------------------
 
 QByteArray ZyWebImageRep::SVGRepresentation() const {
   if (!isGzip(sourceBytes())) return sourceBytes();
@@ -111,7 +110,6 @@ QByteArray ZyWebImageRep::xmlDocumentWithSVGInsideRect(const QRectF& rect, doubl
 }
 
 // ---- the PDF form
-// ---------------------------------------------------------------------------------------------------
 
 void ZyWebImageRep::loadPDFImageRep() {
   if (pdfIsLoading_) return;

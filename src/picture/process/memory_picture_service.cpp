@@ -65,7 +65,6 @@ QByteArray emptySvg(const QSizeF& size) {
 }  // namespace
 
 // ---- process
-// --------------------------------------------------------------------------------------------------------
 
 MemoryPictureProcess::MemoryPictureProcess(QByteArray bytes, MemoryPicture picture)
     : bytes_(std::move(bytes)), picture_(std::move(picture)) {}
@@ -209,7 +208,6 @@ Result<PictureBytes> MemoryPictureProcess::setPdfAttributes(const QByteArray& pd
 }
 
 // ---- service
-// --------------------------------------------------------------------------------------------------------
 
 void MemoryPictureService::setPicture(const MemoryPicture& picture) {
   const std::lock_guard lock(mutex_);

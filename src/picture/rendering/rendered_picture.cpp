@@ -59,7 +59,6 @@ RenderedPicture::RenderedPicture(std::shared_ptr<PictureProcess> process, int pa
 RenderedPicture::~RenderedPicture() = default;
 
 // ---- views and layers
-// -----------------------------------------------------------------------------------------------
 
 const RenderedLayer* RenderedPicture::layerFitting(const QTransform& transform) const {
   for (const RenderedLayer& layer : layers_)
@@ -122,7 +121,6 @@ qint64 RenderedPicture::cacheBytes() const {
 }
 
 // ---- drawing
-// --------------------------------------------------------------------------------------------------------
 
 void RenderedPicture::showFirst(const QImage& image) {
   if (image.isNull() || size_.isEmpty()) return;
@@ -148,7 +146,6 @@ void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& 
 }
 
 // ---- asking
-// ---------------------------------------------------------------------------------------------------------
 
 void RenderedPicture::request(const QTransform& t, const QRect& visible) {
   const std::optional<View> last = view_;
@@ -263,7 +260,6 @@ void RenderedPicture::addJobs(const QTransform& layer, const QRegion& missing, b
 }
 
 // ---- answers
-// --------------------------------------------------------------------------------------------------------
 
 void RenderedPicture::collect() {
   for (const RenderQueue::Finished& finished : queue_.takeFinished()) finish(finished);

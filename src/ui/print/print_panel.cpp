@@ -27,6 +27,7 @@
 #include "print/print_job.h"
 #include "ui/panels/centred_window.h"
 #include "ui/panels/file_columns.h"
+#include "ui/panels/modal_dialog.h"
 #include "ui/print/document_page_controls.h"
 #include "ui/print/page_layout_controls.h"
 #include "ui/print/page_layout_preview.h"
@@ -51,6 +52,26 @@ QString suggestedFile(const QWidget* window, const QString& title) {
   for (int number = 2; QFileInfo::exists(file); ++number)
     file = folder.filePath(title + u'-' + QString::number(number) + u'.' + kSuffix);
   return file;
+}
+
+/// Empty when nobody wants one.
+QString chosenFile(QWidget* panel, const QString& suggestion) {
+  ModalDialog<QFileDialog> dialog(panel, localizedString("Save the pages as PDF"), QString(),
+                                  localizedString("PDF") + QStringLiteral(" (*.pdf)"));
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setDefaultSuffix(kSuffix);
+  dialog->selectFile(suggestion);
+  showWholeColumns(*dialog);
+  showWholePlaces(*dialog);
+  nameFolders(*dialog);
+  dialog->resize(fittingScreen(*dialog, sizeForTexts(*dialog, kFileDialogSize)));
+  return dialog.isAccepted() ? dialog->selectedFiles().value(0) : QString();
+}
+
+bool isToBeReplaced(QWidget* panel, const QString& path) {
+  return QMessageBox::question(panel, panel->windowTitle(),
+                               localizedString("“%1” exists already. Do you want to replace it?")
+                                   .arg(QFileInfo(path).fileName())) == QMessageBox::Yes;
 }
 
 }  // namespace
@@ -96,23 +117,8 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   settle_.setSingleShot(true);
   connect(&settle_, &QTimer::timeout, this, &PrintPanel::drawPage);
   connect(&refresh_, &QTimer::timeout, this, &PrintPanel::fetchPrinters);
-  askForFile = [this](const QString& suggestion) {
-    QFileDialog dialog(this, localizedString("Save the pages as PDF"), {},
-                       localizedString("PDF") + QStringLiteral(" (*.pdf)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(kSuffix);
-    dialog.selectFile(suggestion);
-    showWholeColumns(dialog);
-    showWholePlaces(dialog);
-    nameFolders(dialog);
-    dialog.resize(sizeForTexts(dialog, kFileDialogSize));
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-  };
-  mayReplace = [this](const QString& path) {
-    return QMessageBox::question(this, windowTitle(),
-                                 localizedString("“%1” exists already. Do you want to replace it?")
-                                     .arg(QFileInfo(path).fileName())) == QMessageBox::Yes;
-  };
+  askForFile = [this](const QString& suggestion) { return chosenFile(this, suggestion); };
+  mayReplace = [this](const QString& path) { return isToBeReplaced(this, path); };
   layout_->setPrintInfo(info_);
   refresh_.start(kRefreshMs);
   fetchPrinters();

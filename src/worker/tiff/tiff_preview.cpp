@@ -17,7 +17,6 @@ namespace norvex::engine {
 namespace {
 
 // ---- libtiff on bytes in memory
-// ----------------------------------------------------------------------------------
 
 struct Source {
   const QByteArray& bytes;
@@ -80,7 +79,6 @@ TiffPointer openTiff(Source& source, qint64 maximumAllocation) {
 }
 
 // ---- the layout
-// --------------------------------------------------------------------------------------------------
 
 struct Layout {
   quint32 width = 0, height = 0;
@@ -145,7 +143,6 @@ const char* colourSpaceName(int colours) {
 }
 
 // ---- samples as they are
-// -----------------------------------------------------------------------------------------
 
 class SampleReader {
  public:
@@ -255,7 +252,6 @@ class SampleReader {
 };
 
 // ---- everything else, by way of libtiff's RGB
-// ---------------------------------------------------------------------
 
 // libtiff gives premultiplied pixels, red in the lowest byte.
 bool readAsRgb(TIFF* tiff, const Layout& layout, NSBitmapImageRep& image, qint64 maximumBytes) {

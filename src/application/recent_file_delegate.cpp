@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QUrl>
 
-#include "base/user_folders.h"
+#include "base/state_folder.h"
 #include "ui/style/quiet_text.h"
 
 namespace norvex {

@@ -1,6 +1,8 @@
 #include "base/state_folder.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 namespace norvex {
 
@@ -21,6 +23,16 @@ QString stateFolder() {
 
 QString settingsFolder() {
   return ownFolder("XDG_CONFIG_HOME", QLatin1String("/.config"));
+}
+
+QString picturesFolder() {
+  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+}
+
+QString writtenFolder(const QString& path) {
+  const QString home = QDir::homePath();
+  return path == home || path.startsWith(home + u'/') ? u'~' + path.mid(home.size()) : path;
 }
 
 }  // namespace norvex

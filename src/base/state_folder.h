@@ -1,4 +1,5 @@
-// Where the program keeps what it remembers and nobody has chosen, and what somebody has.
+// Folders of whoever uses the program: where it keeps what it remembers and nobody has chosen, and what
+// somebody has; and where pictures are.
 #pragma once
 
 #include <QString>
@@ -10,5 +11,11 @@ namespace norvex {
 
 /// norvex/ in the user's folder of settings (XDG_CONFIG_HOME); may not exist yet. Any thread.
 [[nodiscard]] QString settingsFolder();
+
+/// Where pictures are kept; the home folder where there is no such place. Any thread.
+[[nodiscard]] QString picturesFolder();
+
+/// The path of a folder as people write it: "~/Pictures". Any thread.
+[[nodiscard]] QString writtenFolder(const QString& path);
 
 }  // namespace norvex

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "base/background_work.h"
-#include "base/file_identity.h"
 #include "base/localized_string.h"
+#include "document/file_identity.h"
 #include "document/unimplemented_method.h"
 #include "picture/document_file.h"
 #include "picture/localized_error.h"

@@ -10,7 +10,7 @@
 #include "base/latin1_text.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/user_folders.h"
+#include "base/state_folder.h"
 #include "ui/style/quiet_text.h"
 
 namespace norvex {

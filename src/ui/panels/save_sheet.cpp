@@ -14,7 +14,7 @@
 
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/user_folders.h"
+#include "base/state_folder.h"
 #include "types/type_description.h"
 #include "ui/panels/centred_window.h"
 #include "ui/panels/file_columns.h"

@@ -9,7 +9,7 @@
 #include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/path_extension.h"
-#include "base/user_folders.h"
+#include "base/state_folder.h"
 #include "desktop/alert.h"
 #include "display/norvex_view.h"
 #include "document/document.h"

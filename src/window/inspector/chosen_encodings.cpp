@@ -3,8 +3,8 @@
 #include <QSettings>
 #include <QStringList>
 
-#include "base/file_identity.h"
 #include "base/state_folder.h"
+#include "document/file_identity.h"
 #include "metadata/text_encoding.h"
 
 namespace norvex {

@@ -56,8 +56,8 @@ class Document : public QObject {
   /// The shown picture as bytes of a type. For EPS it asks whether a preview is wanted. Every failure (no
   /// bytes, a type that is not written, "Cancel") throws UnimplementedMethod; `error` is never delivered.
   QByteArray dataOfType(const QString& type, DocumentError* error = nullptr);
-  /// Shows the questions; not owned, outlives the document. Null: nobody can be asked, which counts as
-  /// "Cancel".
+  /// Shows the questions; not owned, outlives the document. Null: nobody can be asked; EPS goes without a
+  /// preview then, and what lacks something replaces no file.
   void setAlertPresenter(AlertPresenter* presenter) { alerts_ = presenter; }
   /// Compressed SVG bytes on their way from writeToURL() to dataOfType(); otherwise nothing.
   [[nodiscard]] const std::optional<QByteArray>& compressedData() const { return compressedData_; }

@@ -23,7 +23,7 @@ class ZyForm;
 class ZyImageView;
 
 /// References into the interface file's widgets, set when the window is loaded and null before. None is
-/// owned. The last seventeen are properties; setters store the value unchanged.
+/// owned. Those with setters are properties, which store the value unchanged.
 class MainWindowOutlets {
  public:
   QLabel* startPoint = nullptr;  ///< start of the selection

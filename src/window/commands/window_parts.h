@@ -56,7 +56,7 @@ class WindowParts : public MainWindowOutlets {
   /// Draws the window again at once, if it is on the screen.
   void redisplay();
 
-  /// Shows the alerts of this window; not owned, null: they are shown by the platform.
+  /// Shows the alerts of this window; not owned. Null: nobody is told, and nobody is asked.
   void setAlertPresenter(AlertPresenter* presenter) { alerts_ = presenter; }
   [[nodiscard]] AlertPresenter* alerts() const { return alerts_; }
   /// Not owned; null: the platform's.

@@ -84,26 +84,30 @@ void DocumentApplication::connectParts() {
 
 void DocumentApplication::start(const QList<QUrl>& files) {
   delegate_.applicationDidFinishLaunching();
-  offerLeftSessionsSoon();
+  offerLeftSessionsSoon(files);
   if (files.isEmpty()) return updateStartPanel();
   documents_.openDocuments(files);
 }
 
 void DocumentApplication::openFiles(const QList<QUrl>& files) {
-  offerLeftSessionsSoon();
+  offerLeftSessionsSoon(files);
   documents_.openDocuments(files);
 }
 
-void DocumentApplication::offerLeftSessionsSoon() {
+void DocumentApplication::offerLeftSessionsSoon(const QList<QUrl>& opening) {
   if (std::exchange(hasOffered_, true)) return;
-  QMetaObject::invokeMethod(this, &DocumentApplication::offerLeftSessions, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this, opening] { offerLeftSessions(opening); }, Qt::QueuedConnection);
 }
 
-void DocumentApplication::offerLeftSessions() {
+void DocumentApplication::offerLeftSessions(const QList<QUrl>& opening) {
   const LeftSession left = keeper_.takeLeftSession();
-  if (left.files.isEmpty()) return;
+  const auto opens = [&](const QString& path) { return opening.contains(QUrl::fromLocalFile(path)); };
+  // Whoever opens a file by name needs no question about it.
+  if (std::all_of(left.files.begin(), left.files.end(), opens)) return;
   QStringList others = left.files;
   others.removeAll(left.last);
+  others.removeIf(opens);
   Alert alert{AlertStyle::Warning, localizedString("Norvex ended unexpectedly the last time."), {}, {}};
   const QString name = QFileInfo(left.last).fileName();
   if (others.isEmpty()) {

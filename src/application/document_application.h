@@ -69,9 +69,10 @@ class DocumentApplication final : public QObject {
   void connectParts();
   void takeEarlierRecents();
   void documentWillShow(Document* document);
-  /// Asks whether to open again what a program had open that crashed. Once, when something is to be seen.
-  void offerLeftSessions();
-  void offerLeftSessionsSoon();
+  /// Asks whether to open again what a program had open that crashed; not what is in `opening`, which comes
+  /// anyway. Once, when something is to be seen.
+  void offerLeftSessions(const QList<QUrl>& opening);
+  void offerLeftSessionsSoon(const QList<QUrl>& opening);
   void documentDidOpen(Document* document);
   void documentDidClose(Document* document);
   /// A window did not close when the program was to end: when it closes later, the program ends after all.

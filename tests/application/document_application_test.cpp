@@ -161,6 +161,21 @@ class DocumentApplicationTest : public QObject {
     QVERIFY(application_->documents().documents().isEmpty());
   }
 
+  void whatIsOpenedByNameIsNotAskedFor() {
+    const QUrl only = writePdf("only.pdf"), other = writePdf("other.pdf");
+    leaveSession({only.toLocalFile()}, only.toLocalFile());
+    QVERIFY(start({only}));
+    QTest::qWait(50);
+    QCOMPARE(alerts_.shown.size(), 0);
+    makeApplication();
+    leaveSession({only.toLocalFile(), other.toLocalFile()}, other.toLocalFile());
+    alerts_.answer = -1;
+    QVERIFY(start({only}));
+    QTRY_COMPARE(alerts_.shown.size(), 1);
+    QVERIFY(alerts_.shown.first().informativeText.contains("other.pdf"));
+    QCOMPARE(alerts_.shown.first().buttons.size(), 2);  // nothing else is left to be opened
+  }
+
   void askedForByTheDesktopItShowsThePanelOrTheLastWindow() {
     application_->startForDesktop(1000);
     QVERIFY(!application_->startPanel().isVisible());

@@ -118,7 +118,10 @@ class AccessibilityTest : public QObject {
 
   void tabGoesThroughTheInspectorFromTopToBottom() {
     WindowFixture fixture;
-    MainWindowController& c = fixture.loadedEps();
+    // With every row that an EPS file can have.
+    MainWindowController& c =
+        fixture.loaded(epsBytes("%%DocumentFonts: Helvetica\n%%DocumentCustomColors: (PANTONE 186 C)\n"),
+                       "a.eps", NorvexEPSType);
     c.window()->show();
     c.showInspectorWindow();
     QCoreApplication::processEvents();

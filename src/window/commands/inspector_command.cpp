@@ -177,10 +177,10 @@ void InspectorCommand::order() {
        {parts_.titleForm(), parts_.creatorForm(), parts_.creationDateForm(), parts_.forForm(),
         parts_.copyrightForm(), parts_.encodingForm(), parts_.colorSpaceNameForm()})
     order << form->cellAtIndex(0);
+  order << parts_.usesForm->cellAtIndex(0) << parts_.usesForm->cellAtIndex(1);
   for (int row = 0; row < 2; ++row)
     for (int column = 0; column < 2; ++column) order << parts_.epsMatrix->cellAtRow(row, column);
-  order << parts_.usesForm->cellAtIndex(0) << parts_.usesForm->cellAtIndex(1)
-        << parts_.boundingBoxForm->cellAtIndex(0) << parts_.boundingBoxForm->cellAtIndex(1)
+  order << parts_.boundingBoxForm->cellAtIndex(0) << parts_.boundingBoxForm->cellAtIndex(1)
         << parts_.descriptionView->textEdit();
   for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order.at(i - 1), order.at(i));
 }

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTest>
@@ -13,6 +14,7 @@
 #include "kit/test_main.h"
 #include "ui/panels/file_columns.h"
 #include "ui/panels/save_sheet.h"
+#include "window/commands/save_to_command.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -110,6 +112,26 @@ class SaveSheetTest : public QObject {
     QTest::keyClicks(name, "out.jpeg");
     QCOMPARE(sheet.answer().contentType, 2);
     QCOMPARE(name->text(), QString("out.jpeg"));
+  }
+
+  void aLowScreenIsTheFiles() {
+    QCOMPARE(previewHeight(768), 130);
+    QCOMPARE(previewHeight(400), 70);
+    QCOMPARE(previewHeight(300), 64);
+    SaveToFixture f;
+    f.eps().doSaveTo();
+    const int screen = f.panel.settings.accessoryView->screen()->availableGeometry().height();
+    QCOMPARE(f.panel.settings.accessoryView->findChild<QWidget*>("doSaveToImageView")->height(),
+             previewHeight(screen));
+    SaveSheet sheet(nullptr, f.panel.settings);
+    sheet.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&sheet));
+    // In a row with Cancel, not in one of its own.
+    const auto* hide = sheet.findChild<QWidget*>("hideExtension");
+    const auto* name = sheet.findChild<QWidget*>("fileNameEdit");
+    QVERIFY(hide->mapTo(&sheet, QPoint()).y() > name->geometry().bottom());
+    QVERIFY(hide->mapTo(&sheet, QPoint()).y() < name->geometry().bottom() + 2 * name->height());
+    QCOMPARE(name->nextInFocusChain(), hide);
   }
 
   void aFirstSheetOpensBesideThePicture() {

@@ -112,8 +112,16 @@ void SaveSheet::addAccessory() {
     column->addWidget(accessory_);
     accessory_->show();
   }
-  column->addWidget(hideExtension_);
-  if (auto* grid = qobject_cast<QGridLayout*>(layout())) grid->addWidget(below, grid->rowCount(), 0, 1, -1);
+  auto* grid = qobject_cast<QGridLayout*>(layout());
+  if (grid) grid->addWidget(below, grid->rowCount(), 0, 1, -1);
+  const int types = grid ? grid->indexOf(findChild<QWidget*>(QStringLiteral("fileTypeCombo"))) : -1;
+  if (types < 0 || settings_.selectedContentType >= 0) return column->addWidget(hideExtension_);
+  // Beneath the name that it is about, in the row of a list that is not there: low screens have none to
+  // spare.
+  int row = 0, first = 0, rows = 0, columns = 0;
+  grid->getItemPosition(types, &row, &first, &rows, &columns);
+  grid->addWidget(hideExtension_, row, first, rows, columns);
+  if (name_) setTabOrder(name_, hideExtension_);
 }
 
 bool SaveSheet::isAllowedExtension(const QString& extension) const {

@@ -4,7 +4,10 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
+#include <QScreen>
 #include <QSettings>
+
+#include <algorithm>
 
 #include "base/atomic_file.h"
 #include "base/background_work.h"
@@ -94,12 +97,19 @@ void SaveToCommand::run() {
                                               });
 }
 
+int previewHeight(int screen) {
+  constexpr int kBesides = 330;  // title, folder, seven files, name and message
+  return std::clamp(screen - kBesides, 64, 130);
+}
+
 void SaveToCommand::fillAccessory(const std::shared_ptr<Sheet>& sheet) {
   parts_.doSaveToPopUp->clear();
   for (const UTType& type : sheet->formats.UTIs) parts_.doSaveToPopUp->addItem(localizedDescription(type));
   if (sheet->formats.count() > 0) parts_.doSaveToPopUp->setCurrentIndex(0);
   parts_.doSaveToNote->clear();
   parts_.doSaveToImageView->setImage({});
+  parts_.doSaveToImageView->setFixedHeight(
+      previewHeight(parts_.mainWindow()->screen()->availableGeometry().height()));
   makeFormats(sheet);
 }
 

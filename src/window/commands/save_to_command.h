@@ -37,6 +37,9 @@ class SaveToCommand final : public QObject {
   const CopyCommand& copying_;
 };
 
+/// Of the preview in the sheet, on a screen of that height: what is low is the files'. Logical pixels.
+[[nodiscard]] int previewHeight(int screen);
+
 /// `url` with `extension` in the place of its own one, or after it where it has none.
 [[nodiscard]] QUrl urlWithExtension(const QUrl& url, const QString& extension);
 

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTabWidget>
 
@@ -52,6 +53,21 @@ class InspectorTest : public QObject {
     QVERIFY(c.inspectorWindow->isVisible());
     c.showInspectorWindow();
     QVERIFY(!c.inspectorWindow->isVisible());
+  }
+
+  void itComesUpWhollyOnTheScreenAndStaysWhereItIsTakenTo() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    c.window()->show();
+    c.inspectorWindow->resize(360, 5000);
+    c.showInspectorWindow();
+    QVERIFY(QTest::qWaitForWindowExposed(c.inspectorWindow));
+    QVERIFY(c.window()->screen()->availableGeometry().contains(c.inspectorWindow->frameGeometry()));
+    QCOMPARE(c.inspectorWindow->width(), 360);
+    c.inspectorWindow->move(31, 47);
+    c.showInspectorWindow();
+    c.showInspectorWindow();
+    QCOMPARE(c.inspectorWindow->pos(), QPoint(31, 47));
   }
 
   void itsTitleIsComposedOnceAndAgainAfterARevert() {

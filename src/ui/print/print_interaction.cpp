@@ -61,7 +61,6 @@ int QtPrintInteraction::showProgress(const QString& text, const CancelToken& can
   // Its own patience does not count for a bar without an end.
   dialog->setMinimumDuration(std::numeric_limits<int>::max());
   QTimer::singleShot(kQuickMs, dialog, &QWidget::show);
-  dialog->setAutoClose(false);
   QObject::connect(dialog, &QProgressDialog::canceled, dialog, [cancel] { cancel.cancel(); });
   progress_.insert(++lastJob_, dialog);
   return lastJob_;

@@ -4,6 +4,7 @@
 #include <QProgressDialog>
 #include <QPushButton>
 
+#include "desktop/alert.h"
 #include "kit/test_main.h"
 #include "print/memory_printing.h"
 #include "ui/print/page_layout_preview.h"
@@ -39,6 +40,29 @@ class PrintProgressTest : public QObject {
     QVERIFY(!bar->labelText().contains("page 4"));
     interaction.jobDidEnd(job, "Map", {});
     QVERIFY(!window.findChild<QProgressDialog*>());
+  }
+
+  void onlyAJobThatFailedIsTold() {
+    struct Alerts final : AlertPresenter {
+      int runModal(const Alert& alert) override {
+        shown << alert;
+        return 0;
+      }
+      QList<Alert> shown;
+    } alerts;
+    QMainWindow window;
+    MemorySpooler spooler(QList<Printer>{});
+    QtPrintInteraction interaction(spooler, &window, &alerts);
+    const auto end = [&](const Result<void>& result) {
+      interaction.jobDidEnd(interaction.jobDidBegin("Map", {}), "Map", result);
+    };
+    end({});
+    end(Error{ErrorKind::Cancelled, "the printing was stopped"});
+    QCOMPARE(alerts.shown.size(), 0);
+    end(Error{ErrorKind::Died, "the picture process ended without an answer"});
+    QCOMPARE(alerts.shown.size(), 1);
+    QCOMPARE(alerts.shown[0].messageText, QString("“Map” was not printed."));
+    QCOMPARE(alerts.shown[0].informativeText, QString("The picture process ended without an answer."));
   }
 
   void thePaperStandsInTheMiddle() {

@@ -98,6 +98,13 @@ class EarlyPictureTest : public QObject {
     QCOMPARE(inside_->openCount(), 0);
   }
 
+  void whatComesTooLateIsNotOpened() {
+    const auto process = service_->open(kPdf, PictureKind::Pdf);
+    service_->begin(fileWith(kPdf, "a.pdf"));
+    service_->wait();
+    QCOMPARE(inside_->openCount(), 1);
+  }
+
   void aMissingFileIsLeftToWhoeverOpensIt() {
     service_->begin(folder_.filePath("missing.pdf"));
     service_->wait();

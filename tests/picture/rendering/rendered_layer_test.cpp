@@ -47,6 +47,32 @@ class RenderedLayerTest : public QObject {
     }
   }
 
+  void aCornerInTheMiddleOfARowCountsOnce() {
+    // Turned by 45 degrees: its corners are at (20.5, 0.5), (30.5, 10.5), (20.5, 20.5) and (10.5, 10.5).
+    const QTransform t(1, 1, -1, 1, 20.5, 0.5);
+    const QRegion region = mappedRect(t, QRectF(0, 0, 10, 10), QRect(0, 0, 40, 40));
+    for (const QPoint inside :
+         {QPoint(20, 5), QPoint(12, 10), QPoint(20, 10), QPoint(28, 10), QPoint(20, 15)})
+      QVERIFY2(region.contains(inside), qPrintable(QString::number(inside.y())));
+    for (const QPoint beside : {QPoint(2, 10), QPoint(38, 10), QPoint(5, 0), QPoint(35, 20), QPoint(20, 30)})
+      QVERIFY(!region.contains(beside));
+  }
+
+  void theDistanceIsWhatACornerMovesAtMost_data() {
+    QTest::addColumn<QTransform>("view");
+    QTest::addColumn<double>("distance");
+    QTest::newRow("moved") << QTransform(1, 0, 0, 1, 500, 500) << 0.0;
+    QTest::newRow("wider") << QTransform(1.5, 0, 0, 1, 0, 0) << 100.0;
+    QTest::newRow("higher") << QTransform(1, 0, 0, 1.5, 0, 0) << 50.0;
+    QTest::newRow("slanted") << QTransform(1, 0, 0.5, 1, 0, 0) << 50.0;
+    QTest::newRow("slanted the other way") << QTransform(1, 0.5, 0, 1, 0, 0) << 100.0;
+    QTest::newRow("both ways together") << QTransform(1.5, 0, 0.5, 1.25, 0, 0) << 150.0;
+  }
+  void theDistanceIsWhatACornerMovesAtMost() {
+    QFETCH(QTransform, view);
+    QTEST(RenderedLayer{QTransform()}.distance(view, {200, 100}), "distance");
+  }
+
   void aTurnedRectangleIsOneRectangleARowAtMost() {
     QRandomGenerator random(3);
     for (int round = 0; round < 50; ++round)

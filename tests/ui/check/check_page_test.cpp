@@ -169,6 +169,16 @@ class CheckPageTest : public QObject {
              shown.page.findChild<QScrollArea*>()->viewport()->width());
   }
 
+  void newFindingsTakeThePlaceOfThoseBefore() {
+    Shown shown({kFont, kCut, kPreview});
+    for (const Findings& next : {Findings{kCut}, Findings{kPreview, kFont}}) {
+      shown.page.showFindings(next, {});
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      QCoreApplication::processEvents();
+      QCOMPARE(shown.rows().size(), next.size());
+    }
+  }
+
   void theRowsAreAsWideAsThePageAndOnlyScrollDownwards() {
     Shown shown({kFont, kCut, kPreview});
     const auto* scroll = shown.page.findChild<QScrollArea*>();

@@ -90,6 +90,7 @@ class SvgDevice final : public OutputDev {
   void endTextObject(GfxState* state) override;
   bool beginType3Char(GfxState* state, double x, double y, double dx, double dy, CharCode code,
                       const Unicode* text, int length) override;
+  void type3D1(GfxState* state, double, double, double, double, double, double) override;
   void endType3Char(GfxState* state) override;
 
   // Images: svg_device_images.cpp.

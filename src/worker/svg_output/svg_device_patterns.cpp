@@ -30,6 +30,13 @@ bool isUpright(const AffineTransform& m) {
   return std::abs(m.m12()) <= slack && std::abs(m.m21()) <= slack;
 }
 
+/// Of what is filled with a pattern Poppler draws nothing beyond the clip of the moment, where the cell at
+/// the pattern's origin may be.
+bool holdsPatterns(GfxTilingPattern& pattern) {
+  Dict* const resources = pattern.getResDict();
+  return resources && (resources->lookup("Pattern").isDict() || resources->lookup("Shading").isDict());
+}
+
 }  // namespace
 
 // ---- what a clip leaves is painted --------------------------------------------------------------------
@@ -181,6 +188,9 @@ bool SvgDevice::tilingPatternFill(GfxState* state, Gfx* gfx, Catalog*, GfxTiling
   const bool abuts =
       std::abs(width - across) < kSameLength * across && std::abs(height - up) < kSameLength * up;
   const double count = (double(x1) - x0) * (double(y1) - y0);
+  if (count <= limits::maximumSvgCells && holdsPatterns(*pattern) &&
+      !clipBounds(state).contains(matrix.mapRect(QRectF(box[0], box[1], width, height))))
+    return false;  // Poppler draws each cell
   const bool oneByOne = count <= 1 || (!abuts && count <= limits::maximumSvgCells);
   // A tile as large as the cell's box clips by itself.
   const SvgLayer cell = drawnCell(state, gfx, pattern, m, oneByOne || !abuts);

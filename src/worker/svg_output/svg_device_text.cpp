@@ -189,6 +189,14 @@ bool SvgDevice::beginType3Char(GfxState* state, double, double, double, double, 
   return false;
 }
 
+// A glyph without colours of its own has that of the text, for its lines too.
+void SvgDevice::type3D1(GfxState* state, double, double, double, double, double, double) {
+  state->setStrokeColorSpace(state->getFillColorSpace()->copy());
+  state->setStrokePattern(state->getFillPattern() ? state->getFillPattern()->copy() : nullptr);
+  state->setStrokeColor(state->getFillColor());
+  state->setStrokeOpacity(state->getFillOpacity());
+}
+
 void SvgDevice::endType3Char(GfxState*) {
   if (type3Uses_.empty()) return;
   flushText();

@@ -109,13 +109,15 @@ std::optional<SvgPixels> SvgImages::pixelsOf(const ImageSource& source, const in
   SvgPixels pixels{source.width, source.height,
                    std::vector<quint32>(size_t(source.width) * size_t(source.height), 0)};
   std::vector<unsigned int> line(size_t(source.width));
+  std::vector<bool> left(size_t(source.width), false);
   eachRow(source, components, source.colours->getBits(), [&](int y, unsigned char* samples) {
+    // Poppler decodes the samples where they are.
+    for (int x = 0; transparent && x < source.width; ++x)
+      left[size_t(x)] = isWithin(samples + ptrdiff_t(x) * components, transparent, components);
     source.colours->getRGBLine(samples, line.data(), source.width);
     quint32* to = &pixels.argb[size_t(y) * size_t(source.width)];
-    for (int x = 0; x < source.width; ++x) {
-      const bool left = transparent && isWithin(samples + ptrdiff_t(x) * components, transparent, components);
-      *to++ = left ? 0 : kOpaque | (line[size_t(x)] & 0xffffff);
-    }
+    for (int x = 0; x < source.width; ++x)
+      *to++ = left[size_t(x)] ? 0 : kOpaque | (line[size_t(x)] & 0xffffff);
   });
   return pixels;
 }

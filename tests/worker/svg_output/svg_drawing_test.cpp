@@ -117,6 +117,14 @@ class SvgDrawingTest : public QObject {
     row("tiles that overlap", tiles("/BBox [0 0 11 8] /XStep 9 /YStep 7"));
     row("tiles apart", tiles("/BBox [0 0 11 8] /XStep 30 /YStep 20"));
     row("tiles aslant", tiles("/BBox [0 0 11 8] /XStep 11 /YStep 8 /Matrix [0.8 0.6 -0.6 0.8 0 0]"));
+    row("tiles of tiles",
+        page("/Pattern cs /P scn 60 20 130 70 re f", "/Pattern << /P 8 0 R >>",
+             {stream("/Pattern cs /Q scn 0 0 30 30 re f",
+                     "/PatternType 1 /PaintType 1 /TilingType 1 /BBox [0 0 30 30] /XStep 40 /YStep 35 "
+                     "/Resources << /Pattern << /Q 9 0 R >> >>"),
+              stream("1 0 0 rg 0 0 8 8 re f",
+                     "/PatternType 1 /PaintType 1 /TilingType 1 /BBox [0 0 8 8] /XStep 10 /YStep 10 "
+                     "/Resources << >>")}));
     row("image", image("q 160 0 0 80 20 10 cm /I Do Q"));
     row("turned image", image("q 60 40 -40 60 80 0 cm /I Do Q"));
     row("half an image", image("/Half gs q 160 0 0 80 20 10 cm /I Do Q"));
@@ -139,6 +147,11 @@ class SvgDrawingTest : public QObject {
     row("image with a mask that fits nowhere", withMask("/Width 3 /Height 1", QByteArray("\x20\xFF\x60")));
     row("image with colours left out",
         image("0 1 1 rg 0 0 200 100 re f q 160 0 0 80 20 10 cm /I Do Q", "/Mask [200 255 0 64 0 64]"));
+    row("image with a grey left out",
+        page("0 1 1 rg 0 0 200 100 re f q 160 0 0 80 20 10 cm /I Do Q", "/XObject << /I 8 0 R >>",
+             {stream("\x1b\xe4",
+                     "/Type /XObject /Subtype /Image /Width 4 /Height 2 /BitsPerComponent 2 "
+                     "/ColorSpace /DeviceGray /Mask [1 2]")}));
     row("stencil", page("0 0 0.8 rg q 160 0 0 80 20 10 cm BI /W 4 /H 2 /IM true /BPC 1 ID \xa0\x50 EI Q"));
     row("soft mask", page("/Mask gs 0.8 0 0 rg 10 10 180 80 re f"));
     row("soft mask of a group", page("/Mask gs /Group Do"));
@@ -176,6 +189,18 @@ class SvgDrawingTest : public QObject {
     const double different = kit::difference(before, made.picture());
     QVERIFY2(different < (made.count("<pattern") > 0 ? kTiles : kTolerance),
              qPrintable(QString::number(different) + '\n' + made.svg().left(3000)));
+  }
+
+  void linesOfGlyphsThatAreDrawingsHaveTheColourOfTheText() {
+    const QByteArray type3 =
+        "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 10 10] /FontMatrix [0.1 0 0 0.1 0 0] /FirstChar 65 "
+        "/LastChar 65 /Widths [10] /Encoding << /Differences [65 /a] >> /CharProcs << /a 9 0 R >> /Resources "
+        "<< >> >>";
+    const MadeSvg made(page("/Half gs 1 0 0 rg 0 0 1 RG BT /T 80 Tf 10 10 Td (A) Tj ET",
+                            "/Font << /T 8 0 R >>", {type3, stream("10 0 0 0 10 10 d1 4 w 2 2 m 8 2 l S")}));
+    const QImage shown = made.picture();
+    QVERIFY(!shown.isNull());
+    QCOMPARE(shown.pixel(100, 148), qRgb(255, 127, 127));
   }
 
   void glyphsThatAreDrawingsLookLikeThem() {

@@ -161,7 +161,7 @@ void DocumentApplication::activate() {
 }
 
 void DocumentApplication::showStartPanel() {
-  offerLeftSessionsSoon();
+  offerLeftSessionsSoon({});
   startPanel_->show();
   startPanel_->raise();
   startPanel_->activateWindow();

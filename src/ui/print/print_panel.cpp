@@ -64,7 +64,7 @@ QString chosenFile(QWidget* panel, const QString& suggestion) {
   showWholeColumns(*dialog);
   showWholePlaces(*dialog);
   nameFolders(*dialog);
-  dialog->resize(fittingScreen(*dialog, sizeForTexts(*dialog, kFileDialogSize)));
+  dialog->resize(sizeForTexts(*dialog, kFileDialogSize));
   return dialog.isAccepted() ? dialog->selectedFiles().value(0) : QString();
 }
 

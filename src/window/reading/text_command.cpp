@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QLineF>
 #include <QMenu>
+#include <QPointer>
 #include <QStringList>
 
 #include <utility>

@@ -3,6 +3,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <cmath>
+#include <functional>
+
 #include "kit/test_main.h"
 #include "metadata/eps_bounding_box.h"
 #include "worker/engine/engine.h"
@@ -363,6 +366,64 @@ class EpsFromPdfTest : public QObject {
         if (other.row(y)[x] != 0)
           QVERIFY(std::any_of(regions.begin(), regions.end(),
                               [&](const QRect& region) { return region.contains(x, y); }));
+  }
+
+  void whatNobodySeesIsNoDifference() {
+    const Bitmap one = *Bitmap::create({24, 24});
+    for (const int channel : {0, 8, 16, 24}) {
+      Bitmap other = *Bitmap::create(one.size());
+      other.row(12)[12] = Argb32(6) << channel;
+      QVERIFY(differingRegions(one, other).isEmpty());
+      other.row(12)[12] = Argb32(7) << channel;
+      QCOMPARE(differingRegions(one, other), QList<QRect>{QRect(8, 8, 8, 8)});
+    }
+  }
+
+  /// Two pixels beside a difference belong to it.
+  void aSoftEdgeReachesIntoTheCellBesideIt() {
+    const auto regionOf = [](QPoint place) {
+      const Bitmap one = *Bitmap::create({40, 40});
+      Bitmap other = *Bitmap::create(one.size());
+      other.row(place.y())[place.x()] = 0xff000000;
+      return differingRegions(one, other).value(0);
+    };
+    QCOMPARE(regionOf({10, 13}), QRect(8, 8, 8, 8));
+    QCOMPARE(regionOf({9, 13}), QRect(0, 8, 16, 8));
+    QCOMPARE(regionOf({13, 14}), QRect(8, 8, 8, 16));
+    QCOMPARE(regionOf({0, 39}), QRect(0, 32, 8, 8));
+  }
+
+  /// An image more costs as much as 64 cells, and no more than an eighth of what there is may be given for
+  /// it.
+  void aRegionIsCutWhereMuchIsSpared() {
+    const auto regionsOf = [](QSize cells, const std::function<bool(int, int)>& isIn) {
+      const Bitmap one = *Bitmap::create(cells * 8);
+      Bitmap other = *Bitmap::create(one.size());
+      for (int y = 0; y < cells.height(); ++y)
+        for (int x = 0; x < cells.width(); ++x)
+          if (isIn(x, y)) other.row(y * 8 + 4)[x * 8 + 4] = 0xff000000;
+      return differingRegions(one, other).size();
+    };
+    const auto corner = [](int x, int y) { return x == 0 || y == 0; };
+    QCOMPARE(regionsOf({9, 9}, corner), 2);
+    QCOMPARE(regionsOf({9, 8}, corner), 1);
+    const auto butACorner = [](int x, int y) { return x >= 8 || y >= 8; };
+    QCOMPARE(regionsOf({22, 22}, butACorner), 2);
+    QCOMPARE(regionsOf({24, 24}, butACorner), 1);
+  }
+
+  /// A quarter of the pixels that a picture may have is for all images together.
+  void imagesAreCoarserWhereTheyHaveTooManyPixels() {
+    EngineContext context;
+    context.limits.megapixels = 1;
+    const QByteArray pdf =
+        onePage("/H gs 0 0.6 0 rg 0 0 200 100 re f",
+                "/MediaBox [0 0 200 100] /Resources << /ExtGState << /H << /ca 0.5 >> >> >>");
+    const auto eps = epsFromPdf(pdf, context);
+    QVERIFY(eps.ok());
+    QCOMPARE(eps->report.rasterisedDpi, 72 * std::sqrt(250'000.0 / 20'000));
+    QCOMPARE(eps->report.rasterisedAreaShare, 1.0);
+    QVERIFY(eps->bytes.contains("/Width 708 /Height 354 "));
   }
 
   void base85() {

@@ -22,6 +22,13 @@ class DistillTest : public QObject {
     QCOMPARE(kit::paintedPixels(drawn.image), 600);
   }
 
+  void whatStoppedAProgramIsNamedInEightyLetters() {
+    const QByteArray name(100, 'x');
+    QCOMPARE(drawnEps(withBox(name + "\n")).error,
+             "PostScript error: undefined in " + QString(80, QLatin1Char('x')));
+    QCOMPARE(drawnEps(withBox("10 10 30 20 rectfill stop\n")).stoppedBy, QString());
+  }
+
   void aWrongPdfmarkDoesNotStopTheDrawing_data() {
     QTest::addColumn<QByteArray>("pdfmark");
     QTest::newRow("wrong rectangle") << QByteArray("[ /Rect 5 /Subtype /Link /ANN pdfmark");

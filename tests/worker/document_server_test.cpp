@@ -1,6 +1,7 @@
 // What a document's process answers, whatever its engines do.
 #include "worker/document_server.h"
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -39,8 +40,13 @@ class TroubledEngine final : public engine::DocumentEngine {
   Result<engine::EngineBytes> pdf(const PdfRequest& request) override {
     return engine::EngineBytes{QByteArray(kMegabyte + request.page, 'p'), {}};
   }
+  /// Told with the seconds of processor time that are granted to it.
   Result<engine::EngineBytes> compose(const ComposeRequest&) override {
-    return engine::EngineBytes{"composed", {}};
+    rlimit time = {};
+    ::getrlimit(RLIMIT_CPU, &time);
+    engine::EngineBytes composed{"composed", {}};
+    composed.report.warnings = {QString::number(time.rlim_cur)};
+    return composed;
   }
 
  private:
@@ -62,13 +68,16 @@ EngineSet troubledEngines() {
 /// A process that serves a document.
 class Served {
  public:
-  explicit Served(const EngineSet& engines = troubledEngines(), const std::optional<Error>& refusal = {}) {
+  explicit Served(const EngineSet& engines = troubledEngines(), const std::optional<Error>& refusal = {},
+                  int processors = 1) {
     auto pair = MessageChannel::makePair();
     if (!pair) qFatal("no connection");
     pid_ = ::fork();
     if (pid_ == 0) {
       pair->first.reset();
-      DocumentServer(std::move(pair->second), engines, {}, refusal).run();
+      engine::EngineContext context;
+      context.processors = processors;
+      DocumentServer(std::move(pair->second), engines, std::move(context), refusal).run();
     }
     channel_ = MessageChannel(std::move(pair->first));
   }
@@ -97,6 +106,7 @@ class Served {
   QString errorOfOpening(const QByteArray& bytes = "8") {
     OpenRequest request;
     request.limits.memoryMiB = 1;
+    request.limits.seconds = 10;
     return errorOf(request, bytes);
   }
 
@@ -177,6 +187,21 @@ class DocumentServerTest : public QObject {
     QCOMPARE(served.errorOfOpening(), QString());
     QCOMPARE(served.errorOf(PdfRequest{0}), QString());
     QCOMPARE(served.errorOf(PdfRequest{1}), memoryUsedUp().message);
+  }
+
+  /// What is granted in wall time, for each of the two threads that may draw, and 31 seconds.
+  void processorTimeIsGrantedForTwoThreadsAtMost() {
+    const auto granted = [](int processors) {
+      Served served(troubledEngines(), {}, processors);
+      if (!served.errorOfOpening().isEmpty()) return QString();
+      const ReplyBody reply = served.ask(ComposeRequest());
+      const BytesReply* composed = std::get_if<BytesReply>(&reply);
+      return composed ? composed->warnings.value(0) : QString();
+    };
+    QCOMPARE(granted(0), "41");
+    QCOMPARE(granted(1), "41");
+    QCOMPARE(granted(2), "51");
+    QCOMPARE(granted(8), "51");
   }
 
   void measuresThatCannotBeToldAreAnError() {

@@ -111,6 +111,20 @@ class ComposePagesTest : public QObject {
     QVERIFY(dark({18, 378, 16, 12}) && !dark({200, 378, 100, 12}));
   }
 
+  void aLineHasThreeFieldsAndNothingThatXmlCannotHold() {
+    PagesRequest request = twoSheets();
+    request.sheets = request.sheets.mid(0, 1);
+    request.picture = false;
+    request.fontFamily = QStringLiteral("Somebody's & <sans>, sans-serif");
+    request.header = SheetLine{QString("one") + QChar(0x01) + QChar(0x1f) + "two" + QChar(0xfffe) +
+                                   QChar(0xffff) + "three\tmiddle\tend\tbeyond",
+                               QRectF(20, 370, 260, 12)};
+    const Result<QByteArray> pdf = composePages({}, request);
+    QVERIFY2(pdf.ok(), pdf.ok() ? "" : qPrintable(pdf.error().message));
+    const QByteArray text = run("pdftotext", {"-layout", written(*pdf), "-"}).out.simplified();
+    QCOMPARE(text, "one two three middle end");
+  }
+
   void aLineStandsInTheMiddleOfItsRoom() {
     PagesRequest request = twoSheets();
     request.fontFamily = "sans-serif";

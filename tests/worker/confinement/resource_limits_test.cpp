@@ -150,7 +150,10 @@ class ResourceLimitsTest : public QObject {
              rlim_t(51));
     const auto afterASecond = [] {
       rusage used = {};
-      while (used.ru_utime.tv_sec < 1) ::getrusage(RUSAGE_SELF, &used);
+      while (used.ru_utime.tv_sec < 1) {
+        for (volatile int work = 0; work < 10'000'000;) work = work + 1;
+        ::getrusage(RUSAGE_SELF, &used);
+      }
       return limitProcessorTime(10);
     };
     QVERIFY(limitAfter(RLIMIT_CPU, afterASecond, true) >= 42);

@@ -102,7 +102,8 @@ QString painted(DocumentEngine& engine) {
 
 QString shownLayers(DocumentEngine& engine) {
   QString text;
-  for (const PictureLayer& layer : engine.facts().value().layers)
+  const Result<PictureFacts> facts = engine.facts();
+  for (const PictureLayer& layer : facts.value().layers)
     text += layer.name.left(1) + (layer.shown ? u'+' : u'-');
   return text;
 }

@@ -60,6 +60,7 @@ void LoadingCommand::start() {
   Document& document = *parts_.document();
   reading_ = std::make_shared<Reading>();
   reading_->again = parts_.validateUserInterfaceItem();
+  reading_->contents.error = outOfMemory();  // what is left of a reading that breaks off
   reading_->number =
       parts_.work().begin(WindowWork::Kind::Reading, localizedString("Opening…"), reading_->cancel);
   const BackgroundWork work = workInBackground(

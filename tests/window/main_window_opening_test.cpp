@@ -109,6 +109,15 @@ class MainWindowOpeningTest : public QObject {
     QCOMPARE(c.messageBar()->message(), QString());
   }
 
+  void aReadingForWhichThereIsNoMemoryIsTold() {
+    WindowFixture fixture;
+    fixture.service.setPrepare([](MemoryPictureProcess&) { throw std::bad_alloc(); });
+    MainWindowController& c = fixture.open("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    c.showWindow();
+    QTRY_COMPARE(c.messageBar()->message(), QStringLiteral("There is not enough memory for the picture."));
+    QVERIFY(!c.isReading() && !c.view()->imageRep());
+  }
+
   void closingWhileReadingCancels() {
     auto fixture = std::make_unique<WindowFixture>();
     fixture->service.setPrepare([](MemoryPictureProcess& made) { made.hold(PictureCall::Facts); });

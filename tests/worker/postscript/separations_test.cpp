@@ -440,7 +440,7 @@ class SeparationsTest : public QObject {
     Opened opened(PictureKind::Pdf, document);
     QVERIFY(opened.inks(72).ok());
     QCOMPARE(errorOf(opened.inks(72.9)),
-             "at 72.9 dpi a plate has 16 million pixels, and at most 16 million can be handled");
+             "at 72.9 dpi a plate has 16.5 million pixels, and at most 16 million can be handled");
     QCOMPARE(errorOf(opened.inks(144)),
              "at 144 dpi a plate has 64 million pixels, and at most 16 million can be handled");
   }

@@ -1,4 +1,4 @@
-// The C library's function by which cairo prints each number of a PDF or SVG: found before its own as those
+// The C library's function by which cairo prints each number of a PDF: found before its own as those
 // of cairo_calls.cpp, under both names that a compiler calls it by. It goes by way of long integers;
 // std::to_chars() has the same digits, for the standard defines its by that function, in a fifth of the time.
 // Whatever is printed in another way than cairo prints numbers, the C library prints.

@@ -11,6 +11,7 @@
 #include "base/localized_string.h"
 #include "base/path_extension.h"
 #include "base/state_folder.h"
+#include "ui/panels/modal_dialog.h"
 #include "ui/style/quiet_text.h"
 
 namespace norvex {
@@ -75,10 +76,12 @@ void ExportTarget::takeTyped() {
 }
 
 void ExportTarget::chooseFolder() {
-  const QString chosen =
-      QFileDialog::getExistingDirectory(this, localizedString("Folder for the exported file"), folder_);
-  if (chosen.isEmpty()) return;
-  folder_ = chosen;
+  ModalDialog<QFileDialog> dialog(this, localizedString("Folder for the exported file"), folder_);
+  dialog->setFileMode(QFileDialog::Directory);
+  dialog->setOption(QFileDialog::ShowDirsOnly);
+  dialog->setSupportedSchemes({QStringLiteral("file")});
+  if (!dialog.isAccepted()) return;
+  folder_ = dialog->selectedFiles().value(0);
   showFolder();
   emit changed();
 }

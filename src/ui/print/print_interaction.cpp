@@ -8,6 +8,7 @@
 #include "base/localized_string.h"
 #include "picture/localized_error.h"
 #include "ui/panels/alert_box.h"
+#include "ui/panels/modal_dialog.h"
 #include "ui/print/page_layout_sheet.h"
 #include "ui/print/print_panel.h"
 #include "ui/print/zy_page_layout_accessory.h"
@@ -28,8 +29,7 @@ QtPrintInteraction::~QtPrintInteraction() {
 }
 
 bool QtPrintInteraction::runPrintPanel(NSPrintOperation& operation) {
-  PrintPanel panel(operation, spooler_, window_);
-  return panel.exec() == QDialog::Accepted;
+  return ModalDialog<PrintPanel>(operation, spooler_, window_).isAccepted();
 }
 
 void QtPrintInteraction::beginPageLayout(const NSPrintInfo& printInfo,

@@ -69,9 +69,12 @@ QString chosenFile(QWidget* panel, const QString& suggestion) {
 }
 
 bool isToBeReplaced(QWidget* panel, const QString& path) {
-  return QMessageBox::question(panel, panel->windowTitle(),
-                               localizedString("“%1” exists already. Do you want to replace it?")
-                                   .arg(QFileInfo(path).fileName())) == QMessageBox::Yes;
+  ModalDialog<QMessageBox> question(
+      QMessageBox::Question, panel->windowTitle(),
+      localizedString("“%1” exists already. Do you want to replace it?").arg(QFileInfo(path).fileName()),
+      QMessageBox::Yes | QMessageBox::No, panel);
+  question->setTextFormat(Qt::PlainText);
+  return question.isAnswered() && question->result() == QMessageBox::Yes;
 }
 
 }  // namespace

@@ -6,11 +6,13 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTimer>
 #include <QToolButton>
 
 #include <atomic>
@@ -21,6 +23,7 @@
 #include "ui/panels/centred_window.h"
 #include "ui/print/page_layout_preview.h"
 #include "ui/print/page_layout_sheet.h"
+#include "ui/print/print_interaction.h"
 #include "ui/print/zy_page_layout_accessory.h"
 
 using namespace norvex;
@@ -455,6 +458,28 @@ class PrintPanelTest : public QObject {
     QCOMPARE(sheet.findChild<QDoubleSpinBox*>("scaling")->value(), 75.0);
     QCOMPARE(sheet.findChild<QDoubleSpinBox*>("rightMargin")->value(), 25.4);
     QVERIFY(!sheet.findChild<QCheckBox*>("centreHorizontally")->isChecked());
+  }
+
+  void itGoesWithItsWindow() {
+    open({200, 100});
+    auto window = std::make_unique<QWidget>();
+    window->show();
+    QtPrintInteraction interaction(*spooler_, window.get());
+    QTimer::singleShot(0, this, [&] { window.reset(); });
+    QVERIFY(!interaction.runPrintPanel(*operation_));
+    QVERIFY(!window);
+  }
+
+  void itsQuestionGoesWithItAndShowsNamesAsTheyAre() {
+    open({200, 100});
+    QString said;
+    QTimer::singleShot(0, this, [&] {
+      const auto* box = panel_->findChild<QMessageBox*>();
+      if (box && box->textFormat() == Qt::PlainText) said = box->text();
+      panel_.reset();
+    });
+    QVERIFY(!panel_->mayReplace("/nowhere/<b>a.pdf"));
+    QCOMPARE(said, "“<b>a.pdf” exists already. Do you want to replace it?");
   }
 };
 

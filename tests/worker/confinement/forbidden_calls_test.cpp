@@ -5,21 +5,15 @@
 #include <QTemporaryDir>
 
 #include <netinet/in.h>
-#include <sys/ioctl.h>
 #include <sys/ipc.h>
 #include <sys/msg.h>
 #include <sys/socket.h>
-#include <sys/un.h>
-#include <termios.h>
 
-#include <cstddef>
-#include <cstdio>
 #include <thread>
 
 #include "kit/forked_check.h"
 #include "kit/test_main.h"
 #include "worker/confinement/file_view.h"
-#include "worker/confinement/landlock.h"
 #include "worker/confinement/sandbox.h"
 
 using namespace norvex;
@@ -143,67 +137,6 @@ class ForbiddenCallsTest : public QObject {
         {"kill of the parent", [] { return ::syscall(SYS_kill, ::getppid(), 0); }}};
     for (const Thread thread : kThreads)
       QCOMPARE(notRefused(calls, answersIn(calls, &kLandlockAlone, thread), {EPERM, EACCES}), QStringList());
-  }
-
-  void landlockAloneReachesNoNetworkNoSocketsAndNoDevices() {
-    const LandlockAbilities has = landlockAbilities();
-    const int listening = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    sockaddr_un abstract{AF_UNIX, {}};
-    const socklen_t size =
-        socklen_t(offsetof(sockaddr_un, sun_path)) +
-        socklen_t(std::snprintf(abstract.sun_path + 1, 60, "norvex-test-%d", int(::getpid()))) + 1;
-    QCOMPARE(::bind(listening, reinterpret_cast<const sockaddr*>(&abstract), size), 0);
-    QCOMPARE(::listen(listening, 1), 0);
-    static const sockaddr_in self{AF_INET, htons(9), {htonl(INADDR_LOOPBACK)}, {}};
-    const auto tcp = [] { return ::socket(AF_INET, SOCK_STREAM, 0); };
-    std::vector<ForbiddenCall> calls;
-    if (has.network()) {
-      calls.push_back({"connect", [&] {
-                         return ::connect(tcp(), reinterpret_cast<const sockaddr*>(&self), sizeof self);
-                       }});
-      calls.push_back(
-          {"bind", [&] { return ::bind(tcp(), reinterpret_cast<const sockaddr*>(&self), sizeof self); }});
-    }
-    if (has.devices())
-      calls.push_back({"control of a device", [] {
-                         termios none = {};
-                         return ::ioctl(::open("/dev/null", O_RDWR), TCGETS, &none);
-                       }});
-    if (has.scopes())
-      calls.push_back({"connect to an abstract socket", [&] {
-                         return ::connect(::socket(AF_UNIX, SOCK_STREAM, 0),
-                                          reinterpret_cast<const sockaddr*>(&abstract), size);
-                       }});
-    calls.push_back(
-        {"list what is only to be read", [] { return ::open("/usr/lib", O_RDONLY | O_DIRECTORY); }});
-    QCOMPARE(notRefused(calls, answersIn(calls, &kLandlockAlone, Thread::First), {EPERM, EACCES}),
-             QStringList());
-    ::close(listening);
-  }
-
-  void landlockAloneTakesPlainFilesInTheScratchFolderAndNoOthers() {
-    const QTemporaryDir scratch;
-    const std::string path = scratch.path().toStdString(), file = path + "/file", sub = path + "/sub";
-    const auto answer = [&](const std::function<long()>& call) {
-      return inForkedChild([&] {
-        SandboxPolicy policy;
-        policy.layers = kLandlockAlone;
-        policy.scratchFolder = scratch.path();
-        policy.writesScratchFiles = true;
-        if (!enterSandbox(policy)) return 100;
-        return call() < 0 ? errno : 0;
-      });
-    };
-    QCOMPARE(answer([&] { return ::open(pathOf(file), O_RDWR | O_CREAT, 0600); }), 0);
-    QCOMPARE(answer([&] { return ::open(pathOf(file), O_WRONLY | O_TRUNC); }), 0);
-    QCOMPARE(answer([&] { return ::open(pathOf(path), O_RDONLY | O_DIRECTORY); }), 0);
-    QCOMPARE(answer([&] { return ::mkdir(pathOf(sub), 0700); }), EACCES);
-    QCOMPARE(answer([&] { return ::symlink("/etc", pathOf(sub)); }), EACCES);
-    QCOMPARE(answer([&] { return ::mknod(pathOf(sub), S_IFIFO | 0600, 0); }), EACCES);
-    ::chmod(pathOf(file), 0700);
-    QCOMPARE(answer([&] { return ::execl(pathOf(file), "file", nullptr); }), EACCES);
-    QCOMPARE(answer([&] { return ::unlink(pathOf(file)); }), 0);
-    QVERIFY(!QFile::exists(scratch.filePath("file")));
   }
 
   void forkedPicturesHaveNoNetworkAndNoMessagesOfOthers() {

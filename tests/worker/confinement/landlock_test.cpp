@@ -96,6 +96,7 @@ class LandlockTest : public QObject {
     for (const std::string& scratch : {std::string(), path("scratch")}) {
       QCOMPARE(inLandlock(scratch, [] { return opens("/usr/share/fonts", O_RDONLY | O_DIRECTORY); }), 0);
       QCOMPARE(inLandlock(scratch, [] { return opens("/usr/share/fonts/x", O_WRONLY | O_CREAT); }), EACCES);
+      QCOMPARE(inLandlock(scratch, [] { return opens("/usr/lib", O_RDONLY | O_DIRECTORY); }), EACCES);
       QCOMPARE(inLandlock(scratch, [] { return opens("/dev/null", O_RDWR); }), 0);
     }
   }
@@ -117,6 +118,13 @@ class LandlockTest : public QObject {
     QCOMPARE(inLandlock({},
                         [] {
                           ::execl("/usr/bin/env", "env", "true", nullptr);
+                          return errno;
+                        }),
+             EACCES);
+    QVERIFY(::chmod(path("scratch/kept").c_str(), 0700) == 0);
+    QCOMPARE(inLandlock(path("scratch"),
+                        [&] {
+                          ::execl(path("scratch/kept").c_str(), "kept", nullptr);
                           return errno;
                         }),
              EACCES);

@@ -15,7 +15,7 @@
 #include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/gradient_ends.h"
 #include "worker/drawing/path_extents.h"
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 #include "worker/drawing/shading_steps.h"
 #include "worker/drawing/stroke_measure.h"
 #include "worker/drawing/thin_lines.h"

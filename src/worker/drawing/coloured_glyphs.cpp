@@ -10,8 +10,8 @@
 #include "protocol/limits.h"
 #include "worker/drawing/bitmap.h"
 #include "worker/drawing/cairo_surface.h"
-#include "worker/drawing/pixel_edges.h"
 #include "worker/drawing/placed_glyphs.h"
+#include "worker/drawing/seams/pixel_edges.h"
 
 namespace norvex::engine {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 
 namespace norvex::engine {
 namespace {

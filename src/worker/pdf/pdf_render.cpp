@@ -11,7 +11,7 @@
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/coloured_glyphs.h"
 #include "worker/drawing/fine_image.h"
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 #include "worker/drawing/shading_steps.h"
 #include "worker/drawing/two_halves.h"
 #include "worker/drawing/uncollected_text.h"

@@ -5,8 +5,8 @@
 #include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/fine_image.h"
-#include "worker/drawing/level_seams.h"
-#include "worker/drawing/slanted_seams.h"
+#include "worker/drawing/seams/level_seams.h"
+#include "worker/drawing/seams/slanted_seams.h"
 
 using namespace norvex;
 using namespace norvex::engine;

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "kit/test_main.h"
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 
 using namespace norvex;
 using namespace norvex::engine;

@@ -9,7 +9,7 @@
 #include "worker/drawing/bitmap.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/coloured_glyphs.h"
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 
 using namespace norvex;
 using namespace norvex::engine;

@@ -2,7 +2,7 @@
 
 #include "kit/test_main.h"
 #include "worker/drawing/cairo_surface.h"
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 
 using namespace norvex::engine;
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "kit/test_main.h"
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 
 using namespace norvex;
 using namespace norvex::engine;

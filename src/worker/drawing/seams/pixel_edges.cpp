@@ -1,12 +1,12 @@
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 
 #include <algorithm>
 #include <cmath>
 #include <memory>
 #include <vector>
 
-#include "worker/drawing/level_seams.h"
-#include "worker/drawing/slanted_seams.h"
+#include "worker/drawing/seams/level_seams.h"
+#include "worker/drawing/seams/slanted_seams.h"
 
 namespace norvex::engine {
 namespace {

@@ -1,4 +1,4 @@
-#include "worker/drawing/level_seams.h"
+#include "worker/drawing/seams/level_seams.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 // Where the tiles of a drawing meet: along the axes, and aslant.
 #include "kit/test_main.h"
 #include "worker/drawing/cairo_surface.h"
-#include "worker/drawing/level_seams.h"
-#include "worker/drawing/slanted_seams.h"
+#include "worker/drawing/seams/level_seams.h"
+#include "worker/drawing/seams/slanted_seams.h"
 
 using namespace norvex::engine;
 

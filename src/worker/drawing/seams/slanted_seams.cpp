@@ -1,4 +1,4 @@
-#include "worker/drawing/slanted_seams.h"
+#include "worker/drawing/seams/slanted_seams.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "worker/drawing/pixel_edges.h"
+#include "worker/drawing/seams/pixel_edges.h"
 
 #include <algorithm>
 #include <functional>

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "worker/drawing/seams/edge_outline.h"
 #include "worker/drawing/seams/level_seams.h"
 #include "worker/drawing/seams/slanted_seams.h"
 
@@ -12,9 +13,6 @@ namespace norvex::engine {
 namespace {
 
 const cairo_user_data_key_t kAsked{};  // its address counts: another one in each module of an engine
-
-// Cairo keeps places on the surface in steps of a 256th.
-constexpr double kSameLine = 1.5 / 256;
 
 /// From `least` to `most` along an axis.
 struct Span {
@@ -42,146 +40,12 @@ using CairoPath = std::unique_ptr<cairo_path_t, PathRelease>;
 // between down and up, so that two tiles whose numbers differ in the last digit do not part there. Beyond the
 // picture nothing can meet: its own edges go outwards, and a last row that is not whole keeps what is in it.
 double betweenPixels(double place, const Span& picture) {
-  if (picture.least < picture.most && std::abs(place - picture.least) <= kSameLine) return std::floor(place);
-  if (picture.least < picture.most && std::abs(place - picture.most) <= kSameLine) return std::ceil(place);
+  if (picture.least < picture.most && std::abs(place - picture.least) <= EdgeOutline::kSameLine)
+    return std::floor(place);
+  if (picture.least < picture.most && std::abs(place - picture.most) <= EdgeOutline::kSameLine)
+    return std::ceil(place);
   return std::floor(place + 0.47);
 }
-
-/// A point of a path, with what its edges ask of it.
-struct Corner {
-  cairo_path_data_t* at;
-  bool upright = false;  ///< belongs to an edge along y: x is moved
-  bool level = false;    ///< belongs to an edge along x: y is moved
-};
-
-/// Whether a part comes back to its first point without a last edge.
-bool isSamePoint(const Corner& a, const Corner& b) {
-  return std::abs(a.at->point.x - b.at->point.x) <= kSameLine &&
-         std::abs(a.at->point.y - b.at->point.y) <= kSameLine;
-}
-
-void join(Corner& from, Corner& to) {
-  const double dx = std::abs(from.at->point.x - to.at->point.x);
-  const double dy = std::abs(from.at->point.y - to.at->point.y);
-  if (dx <= kSameLine && dy > kSameLine) from.upright = to.upright = true;
-  if (dy <= kSameLine && dx > kSameLine) from.level = to.level = true;
-  if (!isSamePoint(from, to)) return;
-  from.upright = to.upright = from.upright || to.upright;
-  from.level = to.level = from.level || to.level;
-}
-
-/// Whether edges of different places stay at different places. `edges` in ascending order.
-template <typename Moved>
-bool staysApart(const std::vector<double>& edges, const Moved& moved) {
-  size_t first = 0;  // of those that come to the same place
-  for (size_t i = 1; i < edges.size(); ++i) {
-    if (moved(edges[i]) != moved(edges[first])) first = i;
-    if (edges[i] - edges[first] > kSameLine) return false;
-  }
-  return true;
-}
-
-/// The edges of a path.
-class Outline {
- public:
-  explicit Outline(cairo_path_t& path) {
-    for (int i = 0; i < path.num_data; i += path.data[i].header.length) take(&path.data[i]);
-    endPart();
-  }
-
-  /// Letters, bars, a frame are several parts: what is thin among them is meant to be seen as it is.
-  [[nodiscard]] bool isOnePart() const { return parts_ == 1; }
-  /// The places of the upright edges, in ascending order.
-  [[nodiscard]] std::vector<double> uprights() const {
-    return places([](const Corner& c) { return c.upright; }, [](const Corner& c) { return c.at->point.x; });
-  }
-  /// Those of the level ones.
-  [[nodiscard]] std::vector<double> levels() const {
-    return places([](const Corner& c) { return c.level; }, [](const Corner& c) { return c.at->point.y; });
-  }
-
-  /// The level and upright ones, as they were when the path was taken.
-  [[nodiscard]] const std::vector<LevelSeams::Edge>& edges() const { return edges_; }
-
-  /// Moves the edges; false, and nothing is moved, where one would come to another, or less than half be left
-  /// of the whole.
-  template <typename MovedX, typename MovedY>
-  bool move(const MovedX& movedX, const MovedY& movedY) {
-    const auto x = [&](const Corner& c) { return c.upright ? movedX(c.at->point.x) : c.at->point.x; };
-    const auto y = [&](const Corner& c) { return c.level ? movedY(c.at->point.y) : c.at->point.y; };
-    if (!staysApart(uprights(), movedX) || !staysApart(levels(), movedY)) return false;
-    if (width(x) < width([](const Corner& c) { return c.at->point.x; }) / 2) return false;
-    if (width(y) < width([](const Corner& c) { return c.at->point.y; }) / 2) return false;
-    for (const Corner& corner : corners_) corner.at->point = {x(corner), y(corner)};
-    return true;
-  }
-
- private:
-  void take(cairo_path_data_t* part) {
-    switch (part->header.type) {
-      case CAIRO_PATH_MOVE_TO:
-        endPart();
-        corners_.push_back({part + 1});
-        ++parts_;
-        break;
-      case CAIRO_PATH_LINE_TO:
-        corners_.push_back({part + 1});
-        if (corners_.size() > 1) takeEdge(corners_[corners_.size() - 2], corners_.back());
-        break;
-      case CAIRO_PATH_CURVE_TO:  // two points that it is drawn towards, and where it ends
-        for (int point = 1; point <= 3; ++point) corners_.push_back({part + point});
-        break;
-      case CAIRO_PATH_CLOSE_PATH:
-        if (!corners_.empty()) takeEdge(corners_.back(), corners_[first_]);
-        break;
-    }
-  }
-
-  void takeEdge(Corner& from, Corner& to) {
-    join(from, to);
-    const cairo_path_data_t &a = from.at[0], &b = to.at[0];
-    const double dx = std::abs(a.point.x - b.point.x), dy = std::abs(a.point.y - b.point.y);
-    if (dx <= kSameLine && dy > kSameLine)
-      edges_.push_back({true, a.point.x, std::min(a.point.y, b.point.y), std::max(a.point.y, b.point.y)});
-    if (dy <= kSameLine && dx > kSameLine)
-      edges_.push_back({false, a.point.y, std::min(a.point.x, b.point.x), std::max(a.point.x, b.point.x)});
-  }
-
-  /// Cairo goes to a place behind each closed part, from which nothing need
-  /// be drawn: that is none.
-  void endPart() {
-    if (first_ + 1 < corners_.size()) {
-      if (isSamePoint(corners_.back(), corners_[first_])) join(corners_.back(), corners_[first_]);
-    } else if (!corners_.empty()) {
-      corners_.pop_back();
-      --parts_;
-    }
-    first_ = corners_.size();
-  }
-
-  template <typename IsEdge, typename Place>
-  [[nodiscard]] std::vector<double> places(const IsEdge& isEdge, const Place& place) const {
-    std::vector<double> found;
-    for (const Corner& corner : corners_)
-      if (isEdge(corner)) found.push_back(place(corner));
-    std::sort(found.begin(), found.end());
-    return found;
-  }
-
-  /// How far the path reaches along an axis.
-  template <typename Place>
-  [[nodiscard]] double width(const Place& place) const {
-    const auto [least, most] =
-        std::minmax_element(corners_.begin(), corners_.end(),
-                            [&](const Corner& a, const Corner& b) { return place(a) < place(b); });
-    return place(*most) - place(*least);
-  }
-
-  std::vector<Corner> corners_;
-  std::vector<LevelSeams::Edge> edges_;
-  size_t first_ = 0;  ///< of the part that is being taken
-  int parts_ = 0;
-};
 
 /// Coordinates of the surface, turned by `angle`, while this lives.
 class SurfaceSpace {
@@ -206,7 +70,7 @@ void moveEdges(cairo_t* context, const MovedXOf& movedXOf, const MovedYOf& moved
                LevelSeams* seams = nullptr) {
   const CairoPath path(cairo_copy_path(context));
   if (path->status != CAIRO_STATUS_SUCCESS) return;
-  Outline outline(*path);
+  EdgeOutline outline(*path);
   const bool moved = outline.isOnePart() && outline.move(movedXOf(outline), movedYOf(outline));
   if (seams)
     seams->addPath(context, outline.edges(), size_t(path->num_data),
@@ -226,11 +90,12 @@ void putBetweenPixels(cairo_t* context, Asked& asked) {
   if (asked.angle != 0) {
     const SurfaceSpace picture(context, asked.angle);
     if (const CairoPath path(cairo_copy_path(context)); path->status == CAIRO_STATUS_SUCCESS)
-      asked.level.addPath(context, Outline(*path).edges(), size_t(path->num_data), LevelSeams::Fate::Slanted);
+      asked.level.addPath(context, EdgeOutline(*path).edges(), size_t(path->num_data),
+                          LevelSeams::Fate::Slanted);
   }
   const SurfaceSpace surface(context);
   const auto within = [](const Span& picture) {
-    return [&picture](const Outline&) {
+    return [&picture](const EdgeOutline&) {
       return [&picture](double place) { return betweenPixels(place, picture); };
     };
   };
@@ -260,8 +125,8 @@ class Ends {
   }
 
   double operator()(double place) const {
-    if (reachesLeast_ && place - area_.least <= kSameLine) return clip_.least;
-    if (reachesMost_ && area_.most - place <= kSameLine) return clip_.most;
+    if (reachesLeast_ && place - area_.least <= EdgeOutline::kSameLine) return clip_.least;
+    if (reachesMost_ && area_.most - place <= EdgeOutline::kSameLine) return clip_.most;
     return place;
   }
 
@@ -282,8 +147,8 @@ void reachClip(cairo_t* context) {
   const Ends endsX(x, clipX), endsY(y, clipY);
   if (!endsX.anyReaches() && !endsY.anyReaches()) return;
   moveEdges(
-      context, [&](const Outline& outline) { return endsX.besides(outline.uprights()); },
-      [&](const Outline& outline) { return endsY.besides(outline.levels()); });
+      context, [&](const EdgeOutline& outline) { return endsX.besides(outline.uprights()); },
+      [&](const EdgeOutline& outline) { return endsY.besides(outline.levels()); });
 }
 
 Asked* askedOf(cairo_t* context) {

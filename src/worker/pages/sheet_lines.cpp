@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-#include "worker/svg/svg_length.h"
+#include "worker/svg/inspection/svg_length.h"
 #include "worker/svg/svg_pdf.h"
 #include "worker/svg/svg_renderer.h"
 

@@ -8,7 +8,7 @@
 #include <cmath>
 
 #include "worker/pdf/pdf_numbers.h"
-#include "worker/svg/svg_length.h"
+#include "worker/svg/inspection/svg_length.h"
 #include "worker/svg/svg_tokens.h"
 
 namespace norvex::engine {

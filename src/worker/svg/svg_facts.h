@@ -8,8 +8,8 @@
 
 #include "base/result.h"
 #include "protocol/worker_protocol.h"
-#include "worker/svg/svg_inspection.h"
-#include "worker/svg/svg_length.h"
+#include "worker/svg/inspection/svg_inspection.h"
+#include "worker/svg/inspection/svg_length.h"
 #include "worker/svg/svg_text.h"
 
 namespace norvex::engine {

@@ -16,7 +16,7 @@
 #include "worker/pdf/page_form.h"
 #include "worker/pdf/pdf_attributes.h"
 #include "worker/pdf/pdf_writing.h"
-#include "worker/svg/svg_length.h"
+#include "worker/svg/inspection/svg_length.h"
 
 namespace norvex::engine {
 namespace {

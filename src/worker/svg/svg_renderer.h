@@ -9,7 +9,7 @@
 #include <memory>
 
 #include "base/result.h"
-#include "worker/svg/svg_length.h"
+#include "worker/svg/inspection/svg_length.h"
 
 namespace norvex::engine {
 

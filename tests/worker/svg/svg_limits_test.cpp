@@ -1,7 +1,7 @@
 // SVG documents that reach a limit: a sentence names it, or what they are made of is bounded by it.
 #include "kit/test_main.h"
 #include "protocol/limits.h"
-#include "worker/svg/svg_inspection.h"
+#include "worker/svg/inspection/svg_inspection.h"
 #include "worker/svg/svg_kit.h"
 
 using namespace norvex;

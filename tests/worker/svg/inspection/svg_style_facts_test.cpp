@@ -1,8 +1,8 @@
-#include "worker/svg/svg_style_facts.h"
+#include "worker/svg/inspection/svg_style_facts.h"
 
 #include "kit/test_main.h"
 #include "worker/engine/engine.h"
-#include "worker/svg/svg_inspection.h"
+#include "worker/svg/inspection/svg_inspection.h"
 #include "worker/svg/svg_kit.h"
 
 using namespace norvex;

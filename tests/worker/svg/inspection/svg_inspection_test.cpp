@@ -1,5 +1,5 @@
 // The look at a document before it is drawn: limits, entities, what refers to the outside.
-#include "worker/svg/svg_inspection.h"
+#include "worker/svg/inspection/svg_inspection.h"
 
 #include "kit/test_main.h"
 #include "protocol/limits.h"

@@ -1,7 +1,7 @@
-#include "worker/svg/svg_text_sizes.h"
+#include "worker/svg/inspection/svg_text_sizes.h"
 
 #include "kit/test_main.h"
-#include "worker/svg/svg_stretching.h"
+#include "worker/svg/inspection/svg_stretching.h"
 
 using namespace norvex::engine;
 

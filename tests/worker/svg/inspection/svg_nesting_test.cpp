@@ -1,4 +1,4 @@
-#include "worker/svg/svg_nesting.h"
+#include "worker/svg/inspection/svg_nesting.h"
 
 #include "kit/test_main.h"
 

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-#include "worker/svg/svg_stretching.h"
+#include "worker/svg/inspection/svg_stretching.h"
 
 namespace norvex::engine {
 

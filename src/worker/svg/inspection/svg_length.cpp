@@ -1,4 +1,4 @@
-#include "worker/svg/svg_length.h"
+#include "worker/svg/inspection/svg_length.h"
 
 #include <QList>
 

@@ -1,5 +1,5 @@
 // Lengths, view boxes and the size of a picture.
-#include "worker/svg/svg_length.h"
+#include "worker/svg/inspection/svg_length.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>

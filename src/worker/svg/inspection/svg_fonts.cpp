@@ -1,4 +1,4 @@
-#include "worker/svg/svg_fonts.h"
+#include "worker/svg/inspection/svg_fonts.h"
 
 #include <QRegularExpression>
 #include <QSet>

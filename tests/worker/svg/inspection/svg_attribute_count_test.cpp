@@ -1,9 +1,9 @@
 // Attributes are counted before the parser sees them.
-#include "worker/svg/svg_attribute_count.h"
+#include "worker/svg/inspection/svg_attribute_count.h"
 
 #include "kit/test_main.h"
 #include "protocol/limits.h"
-#include "worker/svg/svg_inspection.h"
+#include "worker/svg/inspection/svg_inspection.h"
 #include "worker/svg/svg_kit.h"
 
 using namespace norvex;

@@ -1,4 +1,4 @@
-#include "worker/svg/svg_inspection.h"
+#include "worker/svg/inspection/svg_inspection.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -14,12 +14,12 @@
 #include <utility>
 
 #include "protocol/limits.h"
-#include "worker/svg/svg_attribute_count.h"
-#include "worker/svg/svg_fonts.h"
-#include "worker/svg/svg_nesting.h"
-#include "worker/svg/svg_stretching.h"
-#include "worker/svg/svg_style_facts.h"
-#include "worker/svg/svg_text_sizes.h"
+#include "worker/svg/inspection/svg_attribute_count.h"
+#include "worker/svg/inspection/svg_fonts.h"
+#include "worker/svg/inspection/svg_nesting.h"
+#include "worker/svg/inspection/svg_stretching.h"
+#include "worker/svg/inspection/svg_style_facts.h"
+#include "worker/svg/inspection/svg_text_sizes.h"
 
 namespace norvex::engine {
 namespace {

@@ -1,4 +1,4 @@
-#include "worker/svg/svg_style_facts.h"
+#include "worker/svg/inspection/svg_style_facts.h"
 
 #include <QRegularExpression>
 #include <QStringList>

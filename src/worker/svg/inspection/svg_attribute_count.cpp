@@ -1,4 +1,4 @@
-#include "worker/svg/svg_attribute_count.h"
+#include "worker/svg/inspection/svg_attribute_count.h"
 
 #include <algorithm>
 

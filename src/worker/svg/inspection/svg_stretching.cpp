@@ -1,4 +1,4 @@
-#include "worker/svg/svg_stretching.h"
+#include "worker/svg/inspection/svg_stretching.h"
 
 #include <QRegularExpression>
 
@@ -6,7 +6,7 @@
 #include <cmath>
 #include <optional>
 
-#include "worker/svg/svg_length.h"
+#include "worker/svg/inspection/svg_length.h"
 
 namespace norvex::engine {
 namespace {

@@ -1,11 +1,11 @@
 // Text that is drawn wider than high, or slanted, becomes outlines: in its PDF it stands where the screen
 // shows it.
-#include "worker/svg/svg_stretching.h"
+#include "worker/svg/inspection/svg_stretching.h"
 #include "worker/pages/pdf_engine.h"
 
 #include "kit/test_main.h"
 #include "protocol/page_names.h"
-#include "worker/svg/svg_inspection.h"
+#include "worker/svg/inspection/svg_inspection.h"
 #include "worker/svg/svg_kit.h"
 
 using namespace norvex;

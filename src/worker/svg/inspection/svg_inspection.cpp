@@ -1,13 +1,9 @@
 #include "worker/svg/inspection/svg_inspection.h"
 
-#include <QRegularExpression>
-#include <QSet>
-
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
 
-#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -15,10 +11,11 @@
 
 #include "protocol/limits.h"
 #include "worker/svg/inspection/svg_attribute_count.h"
+#include "worker/svg/inspection/svg_attributes.h"
+#include "worker/svg/inspection/svg_entities.h"
 #include "worker/svg/inspection/svg_fonts.h"
 #include "worker/svg/inspection/svg_nesting.h"
 #include "worker/svg/inspection/svg_stretching.h"
-#include "worker/svg/inspection/svg_style_facts.h"
 #include "worker/svg/inspection/svg_text_sizes.h"
 
 namespace norvex::engine {
@@ -34,9 +31,6 @@ QString text(const xmlChar* utf8) {
   return QString::fromUtf8(reinterpret_cast<const char*>(utf8));
 }
 
-struct FreeDocument {
-  void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
-};
 struct FreeContext {
   void operator()(xmlParserCtxt* context) const {
     // Of libxml2's own making, for entities; it is left behind where the text breaks off.
@@ -48,40 +42,32 @@ struct FreeContext {
 /// The parser's events come here.
 class Inspector {
  public:
-  Inspector();
   Result<SvgInspection> run(const QByteArray& utf8);
 
  private:
-  struct Attribute {
-    QString name, prefix, value;
-  };
-
   static Inspector& self(void* user) { return *static_cast<Inspector*>(user); }
   static xmlSAXHandler handler();
   static void startElement(void* user, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int,
                            const xmlChar**, int count, int, const xmlChar** attributes);
 
   void start(const QString& name, const QString& prefix, const QString& uri,
-             const QList<Attribute>& attributes);
+             const QList<SvgAttribute>& attributes);
   void end();
   void characters(const xmlChar* bytes, int length);
-  void lookAt(const QString& name, const Attribute& attribute);
-  void noteRadius(const QString& value);
-  void followUrls(const QString& value);
+  void noteRoot(const QString& name, const QString& prefix, const QList<SvgAttribute>& attributes);
+  void collect(const QString& svgName);
+  void noteElement(const QString& svgName);
+  void noteAttributes(const QString& name, bool svg, const QList<SvgAttribute>& attributes);
   void lookAtStyleSheet(const QString& css);
-  void checkFontSize(double size);
-  [[nodiscard]] static double ownFontSize(const QList<Attribute>& attributes);
-  void lookAtReference(const QString& element, const Attribute& attribute);
-  void declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
-               xmlChar* content);
-  xmlEntity* expand(xmlEntity* entity);
-  void stop(ErrorKind kind, const QString& message);
+  xmlEntity* expanded(xmlEntity* entity);
+  void stop(const Error& error);
   [[nodiscard]] Error parserError() const;
 
-  std::unique_ptr<xmlDoc, FreeDocument> entities_;  // holds the declared entities, nothing else
+  SvgEntities entities_;
   std::unique_ptr<xmlParserCtxt, FreeContext> parser_;
   SvgInspection found_;
   SvgNesting nesting_;
+  SvgAttributes attributes_{found_, nesting_};
   SvgFonts fonts_;
   SvgStretching stretching_;
   SvgTextSizes sizes_;
@@ -91,51 +77,22 @@ class Inspector {
   int collectingDepth_ = 0;
   int depth_ = 0;
   int elements_ = 0;
-  qint64 expanded_ = 0;
-  int uses_ = 0;
   qsizetype textRun_ = 0;
 };
 
-Inspector::Inspector() : entities_(xmlNewDoc(nullptr)) {
-  xmlCreateIntSubset(entities_.get(), reinterpret_cast<const xmlChar*>("svg"), nullptr, nullptr);
-}
-
-void Inspector::stop(ErrorKind kind, const QString& message) {
-  if (!error_) error_ = Error{kind, message};
+void Inspector::stop(const Error& error) {
+  if (!error_) error_ = error;
   xmlStopParser(parser_.get());
 }
 
-void Inspector::declare(const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
-                        xmlChar* content) {
-  const bool internal = type == XML_INTERNAL_GENERAL_ENTITY || type == XML_INTERNAL_PARAMETER_ENTITY;
-  // An external entity is declared as an empty one: a reference to it is no error, and nothing is loaded.
-  xmlChar nothing[] = "";
-  const bool parameter = type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY;
-  if (!internal) ++found_.outsideReferences;
-  xmlAddDocEntity(entities_.get(), name,
-                  parameter ? XML_INTERNAL_PARAMETER_ENTITY : XML_INTERNAL_GENERAL_ENTITY,
-                  internal ? publicId : nullptr, internal ? systemId : nullptr, internal ? content : nothing);
-}
-
-// Every use of an entity, in content, in attribute values and inside other entities, passes here.
-xmlEntity* Inspector::expand(xmlEntity* entity) {
-  if (error_) return nullptr;
-  if (entity == nullptr || entity->etype == XML_INTERNAL_PREDEFINED_ENTITY) return entity;
-  if (++uses_ > limits::maximumEntityUses) {
-    stop(ErrorKind::Limit,
-         QStringLiteral("the document uses entities more than %1 times").arg(limits::maximumEntityUses));
-    return nullptr;
-  }
-  expanded_ += entity->length;
-  if (expanded_ <= limits::maximumEntityExpansion) return entity;
-  stop(ErrorKind::Limit, QStringLiteral("the entities of the document expand to more than %1 MiB")
-                             .arg(limits::maximumEntityExpansion >> 20));
-  return nullptr;
+xmlEntity* Inspector::expanded(xmlEntity* entity) {
+  if (const std::optional<Error>& error = entities_.error()) stop(*error);
+  return error_ ? nullptr : entity;
 }
 
 void Inspector::startElement(void* user, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int,
                              const xmlChar**, int count, int, const xmlChar** attributes) {
-  QList<Attribute> list;
+  QList<SvgAttribute> list;
   list.reserve(count);
   for (int i = 0; i < count; ++i) {
     const xmlChar** a = attributes + 5 * i;  // name, prefix, namespace, start and end of the value
@@ -147,146 +104,78 @@ void Inspector::startElement(void* user, const xmlChar* name, const xmlChar* pre
 }
 
 void Inspector::start(const QString& name, const QString& prefix, const QString& uri,
-                      const QList<Attribute>& attributes) {
+                      const QList<SvgAttribute>& attributes) {
   if (error_) return;
   textRun_ = 0;
   if (++depth_ > limits::maximumXmlDepth)
     return stop(
-        ErrorKind::Limit,
-        QStringLiteral("the elements of the document nest more than %1 deep").arg(limits::maximumXmlDepth));
+        {ErrorKind::Limit,
+         QStringLiteral("the elements of the document nest more than %1 deep").arg(limits::maximumXmlDepth)});
   if (++elements_ > limits::maximumXmlElements)
-    return stop(ErrorKind::Limit,
-                QStringLiteral("the document has more than %1 elements").arg(limits::maximumXmlElements));
+    return stop({ErrorKind::Limit,
+                 QStringLiteral("the document has more than %1 elements").arg(limits::maximumXmlElements)});
   if (depth_ > kOrdinaryDepth) found_.needsHugeParser = true;
   // Documents from before the namespace was agreed upon have none; librsvg draws them too.
   const bool svg = uri == QLatin1String(kSvgNamespace) || uri.isEmpty();
   if (depth_ == 1) {
     if (!svg || name != QLatin1String("svg"))
-      return stop(ErrorKind::NotParsable, QStringLiteral("the document is XML but not SVG"));
-    found_.rootName = prefix.isEmpty() ? name : prefix + ':' + name;
-    for (const Attribute& attribute : attributes)
-      if (attribute.prefix.isEmpty()) found_.rootAttributes.insert(attribute.name, attribute.value);
+      return stop({ErrorKind::NotParsable, QStringLiteral("the document is XML but not SVG")});
+    noteRoot(name, prefix, attributes);
   }
-  if (depth_ == 2 && svg && collecting_ == nullptr) {
-    if (name == QLatin1String("title") && found_.title.isNull()) collecting_ = &found_.title;
-    if (name == QLatin1String("desc") && found_.description.isNull()) collecting_ = &found_.description;
-    if (collecting_ != nullptr) {
-      *collecting_ = QLatin1String("");
-      collectingDepth_ = depth_;
-    }
-  }
-  if (svg && name == QLatin1String("style")) {
-    found_.hasStyleSheet = true;
-    if (collecting_ == nullptr) {
-      collecting_ = &styleSheet_;
-      collectingDepth_ = depth_;
-    }
-  }
-  fonts_.element(svg ? name : QString());
-  if (svg && name == QLatin1String("script")) found_.hasScript = true;
-  if (svg && (name.startsWith(QLatin1String("animate")) || name == QLatin1String("set")))
+  noteElement(svg ? name : QString());
+  noteAttributes(name, svg, attributes);
+}
+
+void Inspector::noteRoot(const QString& name, const QString& prefix, const QList<SvgAttribute>& attributes) {
+  found_.rootName = prefix.isEmpty() ? name : prefix + ':' + name;
+  for (const SvgAttribute& attribute : attributes)
+    if (attribute.prefix.isEmpty()) found_.rootAttributes.insert(attribute.name, attribute.value);
+}
+
+/// Texts that are kept; one at a time. `svgName`: empty for an element that is not SVG's.
+void Inspector::collect(const QString& svgName) {
+  if (collecting_ != nullptr) return;
+  if (svgName == QLatin1String("style")) collecting_ = &styleSheet_;
+  if (depth_ == 2 && svgName == QLatin1String("title") && found_.title.isNull()) collecting_ = &found_.title;
+  if (depth_ == 2 && svgName == QLatin1String("desc") && found_.description.isNull())
+    collecting_ = &found_.description;
+  if (collecting_ == nullptr) return;
+  *collecting_ = QLatin1String("");
+  collectingDepth_ = depth_;
+}
+
+void Inspector::noteElement(const QString& svgName) {
+  collect(svgName);
+  fonts_.element(svgName);
+  if (svgName == QLatin1String("style")) found_.hasStyleSheet = true;
+  if (svgName == QLatin1String("script")) found_.hasScript = true;
+  if (svgName.startsWith(QLatin1String("animate")) || svgName == QLatin1String("set"))
     found_.hasAnimation = true;
+}
+
+void Inspector::noteAttributes(const QString& name, bool svg, const QList<SvgAttribute>& attributes) {
   QString id, transform, preserveAspectRatio;
-  for (const Attribute& attribute : attributes) {
+  for (const SvgAttribute& attribute : attributes) {
     if (attribute.name == QLatin1String("id")) id = attribute.value;
     if (attribute.name == QLatin1String("transform")) transform = attribute.value;
     if (attribute.name == QLatin1String("preserveAspectRatio")) preserveAspectRatio = attribute.value;
   }
   nesting_.open(id);
   stretching_.open(svg ? name : QString(), transform, preserveAspectRatio);
-  sizes_.open(svg ? name : QString(), transform, ownFontSize(attributes));
-  for (const Attribute& attribute : attributes) {
-    lookAt(name, attribute);
+  sizes_.open(svg ? name : QString(), transform, fontSizeOf(attributes));
+  for (const SvgAttribute& attribute : attributes) {
+    if (const Result<void> looked = attributes_.lookAt(name, attribute); !looked) stop(looked.error());
     // Elements of other namespaces load nothing, but for those that put another file in their place.
-    if (svg || name == QLatin1String("include")) lookAtReference(name, attribute);
+    if (svg || name == QLatin1String("include")) attributes_.lookAtReference(name, attribute);
     if (svg && attribute.prefix.isEmpty()) fonts_.attribute(attribute.name, attribute.value);
   }
 }
 
-void Inspector::lookAt(const QString& name, const Attribute& attribute) {
-  const QString& value = attribute.value;
-  const auto isUsed = [&](QLatin1String property) {
-    if (attribute.name == property) return value.trimmed() != QLatin1String("none");
-    return attribute.name == QLatin1String("style") && value.contains(property + QLatin1String(":")) &&
-           !value.contains(property + QLatin1String(":none"));
-  };
-  if (isUsed(QLatin1String("filter"))) ++found_.filters;
-  if (isUsed(QLatin1String("mask"))) ++found_.masks;
-  if (name == QLatin1String("feMorphology") && attribute.name == QLatin1String("radius")) noteRadius(value);
-  static const QRegularExpression layer(
-      "(?:^|[;\\s/])(?:opacity|filter|mask|mix-blend-mode|isolation)\\s*(?::|/\\*)");
-  static const QSet<QString> layers{"opacity", "filter", "mask", "mix-blend-mode", "isolation"};
-  if (layers.contains(attribute.name) || (attribute.name == QLatin1String("style") && value.contains(layer)))
-    found_.hasLayers = true;
-  // librsvg clips a layer of its own in units of what is clipped.
-  if (attribute.name == QLatin1String("clipPathUnits") && value == QLatin1String("objectBoundingBox"))
-    found_.hasLayers = true;
-  if (attribute.name == QLatin1String("style") || value.contains(QLatin1String("url("))) {
-    const SvgStyleFacts style = svgStyleFacts(value);
-    found_.outsideReferences += style.outsideReferences;
-    checkFontSize(style.largestFont);
-    followUrls(value);
-  }
-  if (attribute.name == QLatin1String("font-size")) checkFontSize(largestNumber(value));
-  if (name == QLatin1String("feConvolveMatrix") && attribute.name == QLatin1String("order") &&
-      matrixSize(value) > limits::maximumFilterMatrix)
-    stop(ErrorKind::Limit, QStringLiteral("the document has a filter with a matrix of more than %1 numbers")
-                               .arg(limits::maximumFilterMatrix));
-  if (attribute.name == QLatin1String("href") && value.trimmed().startsWith('#'))
-    nesting_.refer(value.trimmed().mid(1));
-}
-
-/// One number, or one for each direction.
-void Inspector::noteRadius(const QString& value) {
-  for (const QString& number : QString(value).replace(',', ' ').simplified().split(' '))
-    found_.morphologyRadius = std::max(found_.morphologyRadius, number.toDouble());
-}
-
-void Inspector::followUrls(const QString& value) {
-  static const QRegularExpression url("url\\(\\s*['\"]?#([^)'\"]*)");
-  for (auto match = url.globalMatch(value); match.hasNext();)
-    nesting_.refer(match.next().captured(1).trimmed());
-}
-
 void Inspector::lookAtStyleSheet(const QString& css) {
   fonts_.styleSheet(css);
-  const SvgStyleFacts style = svgStyleFacts(css);
-  found_.outsideReferences += style.outsideReferences;
-  checkFontSize(style.largestFont);
-  sizes_.styleSheet(style.largestFont);
-  if (style.namesSize) found_.sizesByStyleSheet = true;
-  if (style.deepestBrackets > limits::maximumSelectorDepth)
-    stop(ErrorKind::Limit,
-         QStringLiteral("the selectors of the document's style sheets nest more than %1 deep")
-             .arg(limits::maximumSelectorDepth));
-}
-
-void Inspector::checkFontSize(double size) {
-  if (size > limits::maximumSvgFont)
-    stop(ErrorKind::Limit, QStringLiteral("the document has text of more than %1 units in size")
-                               .arg(limits::maximumSvgFont, 0, 'f', 0));
-}
-
-double Inspector::ownFontSize(const QList<Attribute>& attributes) {
-  double size = 0;
-  for (const Attribute& attribute : attributes) {
-    if (attribute.name == QLatin1String("font-size")) size = std::max(size, largestNumber(attribute.value));
-    if (attribute.name == QLatin1String("style") && attribute.value.contains(QLatin1String("font")))
-      size = std::max(size, svgStyleFacts(attribute.value).largestFont);
-  }
-  return size;
-}
-
-void Inspector::lookAtReference(const QString& element, const Attribute& attribute) {
-  const QString value = attribute.name == QLatin1String("href") ? attribute.value.trimmed() : QString();
-  if (element == QLatin1String("a") || value.isEmpty() || value.startsWith('#')) return;
-  if (!value.startsWith(QLatin1String("data:"), Qt::CaseInsensitive)) {
-    ++found_.outsideReferences;
-  } else if (const QString type = value.left(64).toLower(); element == QLatin1String("include") ||
-                                                            type.contains(QLatin1String("svg")) ||
-                                                            type.contains(QLatin1String("xml"))) {
-    found_.hasNestedDocument = true;
-  }
+  const Result<double> largestFont = attributes_.lookAtStyleSheet(css);
+  if (!largestFont) return stop(largestFont.error());
+  sizes_.styleSheet(*largestFont);
 }
 
 void Inspector::end() {
@@ -318,13 +207,14 @@ xmlSAXHandler Inspector::handler() {
   sax.ignorableWhitespace = sax.characters;
   sax.cdataBlock = sax.characters;
   sax.entityDecl = [](void* user, const xmlChar* name, int type, const xmlChar* publicId,
-                      const xmlChar* systemId,
-                      xmlChar* content) { self(user).declare(name, type, publicId, systemId, content); };
+                      const xmlChar* systemId, xmlChar* content) {
+    self(user).entities_.declare(name, type, publicId, systemId, content);
+  };
   sax.getEntity = [](void* user, const xmlChar* name) {
-    return self(user).expand(xmlGetDocEntity(self(user).entities_.get(), name));
+    return self(user).expanded(self(user).entities_.use(name));
   };
   sax.getParameterEntity = [](void* user, const xmlChar* name) {
-    return self(user).expand(xmlGetParameterEntity(self(user).entities_.get(), name));
+    return self(user).expanded(self(user).entities_.useParameter(name));
   };
   sax.processingInstruction = [](void* user, const xmlChar* target, const xmlChar*) {
     if (std::strcmp(reinterpret_cast<const char*>(target), "xml-stylesheet") == 0)
@@ -373,6 +263,7 @@ Result<SvgInspection> Inspector::run(const QByteArray& utf8) {
   if (nesting_.deepest() > limits::maximumDrawingDepth)
     return Error{ErrorKind::Limit, QStringLiteral("the references of the document nest more than %1 deep")
                                        .arg(limits::maximumDrawingDepth)};
+  found_.outsideReferences += entities_.outsideReferences();
   found_.fonts = fonts_.families();
   found_.largestFont = sizes_.largest();
   found_.stretchedText = stretching_.reachesText();

@@ -22,6 +22,7 @@ Document::Document(PictureService& service, DocumentWindowControllerFactory fact
 }
 
 Document::~Document() {
+  if (printerSearch_) printerSearch_->cancel();
   if (windowController_) removeWindowController(*windowController_);
   windowController_.reset();
 }

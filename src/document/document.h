@@ -10,10 +10,12 @@
 #include <memory>
 #include <optional>
 
+#include "base/cancel_token.h"
 #include "document/document_error.h"
 #include "document/document_window_controller.h"
 #include "print/print_info.h"
 #include "print/print_operation.h"
+#include "print/print_spooler.h"
 
 namespace norvex {
 
@@ -71,7 +73,8 @@ class Document : public QObject {
   /// The printers, and who asks; the pictures are the document's own. Not owned, outlive the document.
   void setPrintServices(const PrintServices& services);
   /// Opens the page-layout sheet with the document's settings; when their printer is gone, with the shared
-  /// ones. Nothing happens while nobody can be asked.
+  /// ones. Whether it is gone is asked on another thread: the sheet opens when that is answered, and does not
+  /// where that was cancelled. Nothing happens while nobody can be asked, or an answer is awaited.
   void runPageLayout(QObject* sender = nullptr);
   /// Return code 1 (confirmed): the sheet's settings become the document's and are remembered for later
   /// documents.
@@ -103,6 +106,9 @@ class Document : public QObject {
   /// Gives the controller its document, or takes it away.
   void addWindowController(DocumentWindowController& controller);
   void removeWindowController(DocumentWindowController& controller);
+  // document_printing.cpp
+  void openPageLayout(const NSPrintInfo& info);
+  void takePrinter(int preparation, const Result<Printer>& printer);
   // document_writing.cpp
   [[nodiscard]] PictureProducers* producers() const;
   QByteArray encapsulatedPostScript(PictureProducers& producers, QString* failure);
@@ -118,6 +124,7 @@ class Document : public QObject {
   AlertPresenter* alerts_ = nullptr;
   NSPrintInfo printInfo_;
   PrintServices printServices_;
+  std::optional<CancelToken> printerSearch_;  ///< that a page-layout sheet waits for
   bool closed_ = false;
 };
 

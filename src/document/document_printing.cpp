@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QSettings>
 
+#include "base/background_work.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
 #include "document/print_settings.h"
@@ -15,11 +16,6 @@ namespace norvex {
 namespace {
 
 constexpr int kConfirmed = 1;
-/// Settings that name no printer cannot lose one.
-bool hasItsPrinter(const NSPrintInfo& info, PrintSpooler* spooler) {
-  if (info.printerName().isEmpty()) return true;
-  return spooler && printerNamed(*spooler, info.printerName()).ok();
-}
 
 }  // namespace
 
@@ -30,9 +26,28 @@ void Document::setPrintServices(const PrintServices& services) {
 
 void Document::runPageLayout(QObject* sender) {
   Q_UNUSED(sender)
-  if (!printServices_.interaction) return;
-  NSPrintInfo info = printInfo_;
-  if (!hasItsPrinter(info, printServices_.spooler)) info = NSPrintInfo::sharedPrintInfo();
+  if (!printServices_.interaction || printerSearch_) return;
+  // Settings that name no printer cannot lose one.
+  if (printInfo_.printerName().isEmpty()) return openPageLayout(printInfo_);
+  if (!printServices_.spooler) return openPageLayout(NSPrintInfo::sharedPrintInfo());
+  printerSearch_.emplace();
+  const int preparation = printServices_.interaction->preparationDidBegin(displayName(), *printerSearch_);
+  workInBackground(
+      this,
+      [spooler = printServices_.spooler, name = printInfo_.printerName(), cancel = *printerSearch_] {
+        return printerNamed(*spooler, name, cancel);
+      },
+      [this, preparation](const Result<Printer>& printer) { takePrinter(preparation, printer); });
+}
+
+void Document::takePrinter(int preparation, const Result<Printer>& printer) {
+  const bool cancelled = printerSearch_->cancelled();
+  printerSearch_.reset();
+  printServices_.interaction->preparationDidEnd(preparation, displayName(), {});
+  if (!cancelled) openPageLayout(printer ? printInfo_ : NSPrintInfo::sharedPrintInfo());
+}
+
+void Document::openPageLayout(const NSPrintInfo& info) {
   printServices_.interaction->beginPageLayout(
       info, [self = QPointer<Document>(this)](const NSPrintInfo& pageLayout, int returnCode) {
         if (self) self->pageLayoutDidEnd(pageLayout, returnCode);

@@ -4,8 +4,8 @@
 
 namespace norvex {
 
-Result<Printer> printerNamed(PrintSpooler& spooler, const QString& name) {
-  const Result<QList<Printer>> all = spooler.printers();
+Result<Printer> printerNamed(PrintSpooler& spooler, const QString& name, const CancelToken& cancel) {
+  const Result<QList<Printer>> all = spooler.printers(cancel);
   if (!all) return all.error();
   for (const Printer& printer : *all)
     if (name.isEmpty() ? printer.isDefault : printer.name == name) return printer;

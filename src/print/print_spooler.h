@@ -45,7 +45,8 @@ class PrintSpooler {
 };
 
 /// The printer of that identifier (empty: the default one); why there is none otherwise.
-[[nodiscard]] Result<Printer> printerNamed(PrintSpooler& spooler, const QString& name);
+[[nodiscard]] Result<Printer> printerNamed(PrintSpooler& spooler, const QString& name,
+                                           const CancelToken& cancel = {});
 
 /// "Ready", "Printing", "Stopped", "Takes no jobs".
 [[nodiscard]] QString stateText(const Printer& printer);

@@ -1,8 +1,11 @@
 // The printing half of a document: settings, page layout, print operation.
+#include <QSemaphore>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QUrl>
 
+#include "base/background_work.h"
 #include "display/norvex_view.h"
 #include "document/document.h"
 #include "document/memory_window_controller.h"
@@ -201,16 +204,75 @@ class DocumentPrintingTest : public QObject {
     info.setPrinterName("Attic");
     document->setPrintInfo(info);
     document->runPageLayout();
+    QTRY_COMPARE(people_->sheets, 1);
     QCOMPARE(people_->shownInfo, NSPrintInfo::sharedPrintInfo());
     QCOMPARE(document->printInfo(), info);
     info.setPrinterName("Office");
     document->setPrintInfo(info);
     document->runPageLayout();
+    QTRY_COMPARE(people_->sheets, 2);
     QCOMPARE(people_->shownInfo, info);
     spooler_.error = NullPrintSpooler::unreachable();
     document->runPageLayout();
+    QTRY_COMPARE(people_->sheets, 3);
     QCOMPARE(people_->shownInfo, NSPrintInfo::sharedPrintInfo());
     spooler_.error.reset();
+    QCOMPARE(people_->endedPreparations.size(), 3);
+    QCOMPARE(people_->preparationMessages, QStringList({"", "", ""}));
+  }
+
+  void aServerThatDoesNotAnswerHoldsUpTheSheetAlone() {
+    const auto document = make();
+    NSPrintInfo info = document->printInfo();
+    info.setPrinterName("Office");
+    document->setPrintInfo(info);
+    QSemaphore answer;
+    spooler_.waitForPrinters = [&answer](const CancelToken&) { answer.acquire(); };
+    document->runPageLayout();
+    QCOMPARE(people_->sheets, 0);
+    QCOMPARE(people_->prepared.size(), 1);
+    document->runPageLayout();
+    QCOMPARE(people_->prepared.size(), 1);
+    answer.release();
+    QTRY_COMPARE(people_->sheets, 1);
+    QCOMPARE(people_->shownInfo, info);
+    spooler_.waitForPrinters = nullptr;
+  }
+
+  void whoCancelsTheSearchGetsNoSheet() {
+    const auto document = make();
+    NSPrintInfo info = document->printInfo();
+    info.setPrinterName("Office");
+    document->setPrintInfo(info);
+    spooler_.waitForPrinters = [](const CancelToken& cancel) {
+      while (!cancel.cancelled()) QThread::yieldCurrentThread();
+    };
+    document->runPageLayout();
+    people_->preparation.cancel();
+    QTRY_COMPARE(people_->endedPreparations.size(), 1);
+    QCOMPARE(people_->sheets, 0);
+    spooler_.waitForPrinters = nullptr;
+    document->runPageLayout();
+    QTRY_COMPARE(people_->sheets, 1);
+  }
+
+  void theSearchEndsWithItsDocument() {
+    auto document = make();
+    NSPrintInfo info = document->printInfo();
+    info.setPrinterName("Office");
+    document->setPrintInfo(info);
+    QSemaphore ended;
+    spooler_.waitForPrinters = [&ended](const CancelToken& cancel) {
+      while (!cancel.cancelled()) QThread::yieldCurrentThread();
+      ended.release();
+    };
+    document->runPageLayout();
+    document.reset();
+    QVERIFY(ended.tryAcquire(1, 10'000));
+    QCoreApplication::processEvents();
+    QCOMPARE(people_->sheets, 0);
+    waitForWork(waitingThreads());
+    spooler_.waitForPrinters = nullptr;
   }
 
   void theSheetMayOutliveItsDocument() {

@@ -23,7 +23,8 @@ class MemorySpooler final : public PrintSpooler {
 
   explicit MemorySpooler(QList<Printer> printers = {}) : printers_(std::move(printers)) {}
 
-  Result<QList<Printer>> printers(const CancelToken&) override {
+  Result<QList<Printer>> printers(const CancelToken& cancel) override {
+    if (waitForPrinters) waitForPrinters(cancel);
     const std::lock_guard lock(mutex_);
     if (error) return *error;
     return printers_;
@@ -46,8 +47,9 @@ class MemorySpooler final : public PrintSpooler {
     printers_ = printers;
   }
 
-  std::optional<Error> error;                    ///< set before use
-  std::function<void(const CancelToken&)> wait;  ///< runs before a job is taken
+  std::optional<Error> error;                               ///< set before use
+  std::function<void(const CancelToken&)> wait;             ///< runs before a job is taken
+  std::function<void(const CancelToken&)> waitForPrinters;  ///< runs before they are told
 
  private:
   mutable std::mutex mutex_;

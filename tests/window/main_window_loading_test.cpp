@@ -267,6 +267,18 @@ class MainWindowLoadingTest : public QObject {
     QTRY_VERIFY(paints.count > 0);
   }
 
+  void aPictureThatWasReadBeforeTellsNothingMore() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    const auto before = c.view()->imageRep();
+    fixture.revert();
+    QVERIFY(c.view()->imageRep() != before);
+    emit before->renderingFailed({ErrorKind::NotParsable, "there is an error in the program"});
+    QCOMPARE(c.messageBar()->message(), QString());
+    emit c.view()->imageRep()->renderingFailed({ErrorKind::NotParsable, "there is an error in the program"});
+    QVERIFY(!c.messageBar()->message().isEmpty());
+  }
+
   void aFileWithoutPreviewShowsThePictureItself() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loadedEps();

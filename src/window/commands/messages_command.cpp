@@ -51,13 +51,16 @@ void MessagesCommand::watchPicture(std::shared_ptr<StoppableProcess> process) {
   process_ = std::move(process);
   begunIsShown_ = false;
   NSImageRep* rep = parts_.view()->imageRep().get();
+  // Others may keep the picture before it, which still draws.
+  if (watched_) disconnect(watched_, nullptr, this, nullptr);
+  watched_ = rep;
   if (!rep) return;
   // Other documents are not programs that could stop.
   stopIsTold_ = rep->pictureKind() != PictureKind::Eps;
-  connect(rep, &NSImageRep::renderingFailed, this, &MessagesCommand::showProblem, Qt::UniqueConnection);
-  connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::followRendering, Qt::UniqueConnection);
-  connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::tellWhatStopped, Qt::UniqueConnection);
-  connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::tellWhatWasBegun, Qt::UniqueConnection);
+  connect(rep, &NSImageRep::renderingFailed, this, &MessagesCommand::showProblem);
+  connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::followRendering);
+  connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::tellWhatStopped);
+  connect(rep, &NSImageRep::renderingArrived, this, &MessagesCommand::tellWhatWasBegun);
 }
 
 void MessagesCommand::followRendering() {

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 #include <memory>
 #include <utility>
 
 #include "base/result.h"
+#include "picture/image_rep.h"
 #include "ui/picture/message_bar.h"
 
 namespace norvex {
@@ -75,6 +77,7 @@ class MessagesCommand final : public QObject {
 
   WindowParts& parts_;
   std::shared_ptr<StoppableProcess> process_;
+  QPointer<NSImageRep> watched_;
   std::function<void()> action_, other_;
   Alarm alarm_;
   int spell_ = 0;  ///< number of the wait that is going on, or that was the last

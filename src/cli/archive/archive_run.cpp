@@ -1,5 +1,7 @@
 #include "cli/archive/archive_run.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <thread>
 #include <utility>
@@ -154,10 +156,12 @@ ExitCode ArchiveRun::run() {
   threads.emplace_back([&] { feed(**names); });
   // Twice as many as places: what takes long gives its place up and keeps its thread.
   for (int i = 0; i < 2 * (plan_.jobs + 1); ++i) threads.emplace_back([this] { work(); });
-  const ExitCode code = tell();
-  ending_.cancel();
-  threads.clear();
-  return code;
+  // Before the threads: out of memory, where not all was told, they end all the same.
+  const auto end = qScopeGuard([this] {
+    ending_.cancel();
+    window_.stop();
+  });
+  return tell();
 }
 
 // ---- the thread that reads names -----------------------------------------------------------------------

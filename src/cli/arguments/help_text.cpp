@@ -1,5 +1,7 @@
 #include "cli/arguments/help_text.h"
 
+#include <QStringList>
+
 #include "base/latin1_text.h"
 
 namespace norvex {

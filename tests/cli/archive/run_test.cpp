@@ -9,6 +9,7 @@
 #include <atomic>
 #include <chrono>
 #include <mutex>
+#include <new>
 #include <thread>
 
 #include "cli/archive/archive_files.h"
@@ -80,6 +81,18 @@ class LogConsole final : public Console {
   [[nodiscard]] bool showsProgress() const override { return false; }
 
   QStringList lines;
+};
+
+/// There is no memory for what it is told.
+class FullConsole final : public Console {
+ public:
+  Result<QByteArray> input() override { return QByteArray(); }
+  bool write(const QByteArray&) override { throw std::bad_alloc(); }
+  void message(const QString&) override {}
+  void progress(const QString&) override {}
+  [[nodiscard]] bool isClosed() const override { return false; }
+  [[nodiscard]] bool isTerminal() const override { return false; }
+  [[nodiscard]] bool showsProgress() const override { return false; }
 };
 
 }  // namespace
@@ -474,6 +487,18 @@ class RunTest : public QObject {
     QCOMPARE(int(ArchiveRun(console, archive.service, plan.plan, cancel).run()), 130);
     QCOMPARE(console.lines, QStringList("norvex: interrupted; nothing is written"));
     QVERIFY(!QFileInfo::exists(archive.path("state")));
+  }
+
+  void whoeverCannotTellForWantOfMemoryEndsTheRun() {
+    Archive archive;
+    for (int i = 0; i < 20; ++i) archive.put("in/" + QByteArray::number(i) + ".svg");
+    FullConsole console;
+    const ReadArguments read = readArguments({"info", "--recursive", archive.path("in"), "--json-lines"});
+    const ReadArchivePlan plan = readArchivePlan(read.arguments);
+    RunSizes sizes;
+    sizes.window.openNumbers = 2;  // the others wait for it
+    ArchiveRun run(console, archive.service, plan.plan, CancelToken(), sizes);
+    QVERIFY_THROWS_EXCEPTION(std::bad_alloc, (void)run.run());
   }
 
   void aLogHoldsALineAMinute() {

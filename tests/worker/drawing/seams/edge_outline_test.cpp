@@ -100,6 +100,11 @@ class EdgeOutlineTest : public QObject {
     QVERIFY(!EdgeOutline(path.rectangle(1, 1, 2, 2).rectangle(4, 4, 2, 2).copied()).isOnePart());
   }
 
+  void aLineIsAPart() {
+    Path path;
+    QVERIFY(EdgeOutline(path.lines({{1.25, 1.25}, {4.25, 3.25}}).copied()).isOnePart());
+  }
+
   /// Cairo goes to a place behind each closed part.
   void aPlaceWithoutALineIsNoPart() {
     Path path;

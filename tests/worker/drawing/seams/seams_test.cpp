@@ -1,4 +1,6 @@
 // Where the tiles of a drawing meet: along the axes, and aslant.
+#include <cmath>
+
 #include "kit/test_main.h"
 #include "worker/drawing/cairo_surface.h"
 #include "worker/drawing/seams/level_seams.h"
@@ -72,6 +74,19 @@ class SeamsTest : public QObject {
     apart.addTile(polygon({{0, 0}, {10, 0}, {0, 10}}));
     apart.addTile(polygon({{12, 0}, {12, 12}, {0, 12}}));
     QVERIFY(!apart.areThere());
+  }
+
+  // The last bits of places that were computed in two ways.
+  void tilesThatNearlyTouchMeetAslant() {
+    const auto meet = [](double gap) {
+      const double aside = gap * std::sqrt(2);
+      SlantedSeams seams;
+      seams.addTile(polygon({{0, 0}, {10, 0}, {0, 10}}));
+      seams.addTile(polygon({{10 + aside, 0}, {10, 10}, {0, 10 + aside}}));
+      return seams.areThere();
+    };
+    QVERIFY(meet(0.05));
+    QVERIFY(!meet(0.15));
   }
 };
 

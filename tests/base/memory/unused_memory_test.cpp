@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <dlfcn.h>
+#include <link.h>
 #include <malloc.h>
 
 #include <cstdlib>
@@ -27,6 +28,45 @@ qint64 fromFiles() {
   return told("/proc/self/status", "RssFile:");
 }
 
+/// What a library keeps behind its program text and is never written.
+struct LastConstants {
+  QByteArray library;
+  uintptr_t begin = 0;
+  uintptr_t size = 0;
+};
+
+LastConstants lastConstants(const char* library) {
+  LastConstants found{library};
+  ::dl_iterate_phdr(
+      [](dl_phdr_info* object, size_t, void* into) {
+        auto& constants = *static_cast<LastConstants*>(into);
+        if (!QByteArrayView(object->dlpi_name).contains(constants.library)) return 0;
+        for (int i = 0; i < object->dlpi_phnum; ++i)
+          if (const auto& part = object->dlpi_phdr[i]; part.p_type == PT_LOAD && part.p_flags == PF_R)
+            constants = {constants.library, uintptr_t(object->dlpi_addr + part.p_vaddr),
+                         uintptr_t(part.p_filesz)};
+        return 1;
+      },
+      &found);
+  return found;
+}
+
+/// Kibibytes of the part of the memory that has `place`.
+qint64 residentAt(uintptr_t place) {
+  QFile file("/proc/self/smaps");
+  if (!file.open(QIODevice::ReadOnly)) return -1;
+  bool isThere = false;
+  for (const QByteArray& line : file.readAll().split('\n')) {
+    const QByteArray range = line.left(line.indexOf(' '));
+    if (const auto dash = range.indexOf('-'); dash > 0)
+      isThere = range.first(dash).toULongLong(nullptr, 16) <= place &&
+                place < range.sliced(dash + 1).toULongLong(nullptr, 16);
+    else if (isThere && line.startsWith("Rss:"))
+      return line.simplified().split(' ').value(1).toLongLong();
+  }
+  return -1;
+}
+
 }  // namespace
 
 class UnusedMemoryTest : public QObject {
@@ -37,6 +77,18 @@ class UnusedMemoryTest : public QObject {
     QVERIFY(before > 0);
     giveBackUnusedMemory();
     QVERIFY2(fromFiles() < before / 2, qPrintable(QStringLiteral("%1 of %2").arg(fromFiles()).arg(before)));
+  }
+
+  void pagesOfTheirConstantsAreGivenBackToo() {
+    const LastConstants constants = lastConstants("libQt6Core.so");
+    QVERIFY(constants.size > 100'000);
+    volatile char sum = 0;
+    for (uintptr_t at = 0; at < constants.size; at += 4096)
+      sum = char(sum + *reinterpret_cast<const char*>(constants.begin + at));
+    const qint64 before = residentAt(constants.begin);
+    QVERIFY(before >= qint64(constants.size >> 10) - 4);
+    giveBackUnusedMemory();
+    QVERIFY(residentAt(constants.begin) < before / 2);
   }
 
   void whatWasWrittenStays() {

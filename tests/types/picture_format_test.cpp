@@ -44,6 +44,13 @@ class PictureFormatTest : public QObject {
     }
   }
 
+  void aTypeIsDescribedByTheTitleOfItsFormat() {
+    QCOMPARE(localizedDescription(typeOf(PictureFormat::Svgz)), "Compressed SVG image (SVGZ)");
+    QCOMPARE(localizedDescription(typeOf(PictureFormat::Webp)), "WebP image");
+    const UTType text = *UTType::typeWithIdentifier("public.plain-text");
+    QCOMPARE(localizedDescription(text), text.identifier());
+  }
+
   void listsHaveSingleBlanksAndSmallLetters() {
     for (const FormatRow& row : formatTable)
       for (const std::string_view list : {row.extensions, row.otherExtensions, row.parents, row.mimeTypes})

@@ -182,6 +182,14 @@ class TypeIdentificationTest : public QObject {
       QCOMPARE(identifyType(QByteArray(bytes), QString()).identifier(), "public.data");
   }
 
+  void whatLiesBehindTheBytesIsNotRead() {
+    const QByteArray all =
+        "\xEF\xBB\xBF"
+        "%!PS-Adobe-3.0 EPSF-3.0\n";
+    const QByteArrayView cut = QByteArrayView(all).first(all.indexOf("SF-3.0"));
+    QCOMPARE(identifyType(cut, QString()).identifier(), "com.adobe.postscript");
+  }
+
   void everyCutIsReadWithoutHarm() {
     const QByteArray all = "\x1F\x8B\x08\x0C" + QByteArray(6, '\0') + "\xFF\xFF" + "name";
     for (qsizetype length = 0; length <= all.size(); ++length)

@@ -93,6 +93,34 @@ class EpsCompletenessTest : public QObject {
     QCOMPARE(epsMissingParts(source), QStringList{kCutOff});
   }
 
+  /// Behind a page's begin there are words that may be the last ones.
+  void wordsThatEndPrograms_data() {
+    QTest::addColumn<QByteArray>("word");
+    for (const char* word : {"showpage", "end", "restore", "grestore", "grestoreall", "pdfmark", "quit",
+                             "stop", "cleartomark", "rs", "gr", "pop"})
+      QTest::newRow(word) << QByteArray(word);
+  }
+  void wordsThatEndPrograms() {
+    QFETCH(QByteArray, word);
+    const QByteArray page = kHeader + "%%Page: 1 1\n9 9 rectfill\n";
+    QCOMPARE(epsMissingParts(page), QStringList{kCutOff});
+    QCOMPARE(epsMissingParts(page + word), QStringList());
+  }
+
+  /// They draw nothing by themselves.
+  void wordsThatBeginSomething_data() {
+    QTest::addColumn<QByteArray>("word");
+    for (const char* word : {"moveto", "lineto", "curveto", "rmoveto", "rlineto", "rcurveto", "closepath",
+                             "newpath", "arc", "arcn", "arcto"})
+      QTest::newRow(word) << QByteArray(word);
+  }
+  void wordsThatBeginSomething() {
+    QFETCH(QByteArray, word);
+    const QByteArray drawing = kHeader + "%%EndProlog\n0 0 9 9 rectfill\n";
+    QCOMPARE(epsMissingParts(drawing), QStringList());
+    QCOMPARE(epsMissingParts(drawing + word + "\n"), QStringList{kCutOff});
+  }
+
   void sectionsBehindTheEndAreCounted() {
     const QByteArray whole = binary(QByteArray(100, 'x'), kWhole);
     QCOMPARE(epsMissingParts(whole.chopped(1)),

@@ -23,6 +23,14 @@ class EpsiPreviewTest : public QObject {
     QCOMPARE(rep->data, QByteArray("\x00\xFF", 2));
   }
 
+  void numbersMayBeginWithZero() {
+    const auto rep = epsiPreview(" 08 02 01 0\n%FF\n%00\n%%EndPreview\n");
+    QVERIFY(rep);
+    QCOMPARE(rep->pixelsWide, 8);
+    QCOMPARE(rep->pixelsHigh, 2);
+    QCOMPARE(rep->bitsPerPixel, 1);
+  }
+
   void aPreviewOfGigabytesIsRefused() {
     const auto sentence = [](qint64 width, qint64 height) {
       const auto rep =

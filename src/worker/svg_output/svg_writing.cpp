@@ -1,5 +1,7 @@
 #include "worker/svg_output/svg_writing.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <array>
 #include <cmath>

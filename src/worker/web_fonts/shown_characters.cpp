@@ -1,6 +1,7 @@
 #include "worker/web_fonts/shown_characters.h"
 
 #include <QChar>
+#include <QList>
 #include <QString>
 
 #include <unicode/uchar.h>

@@ -228,6 +228,9 @@ class InterpreterProgramTest : public QObject {
   }
 
   void aProgramWithoutBoundsReachesItsLimitOfMemory() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers need more address space than any limit");
+#endif
     Interpreters interpreters;
     interpreters.context().limits.memoryMiB = 64;
     const Error error = errorOf(distill("[ { 60000 string } loop\n", kBox, interpreters.context()));
@@ -236,6 +239,9 @@ class InterpreterProgramTest : public QObject {
   }
 
   void nobodyGrantsAnInterpreterMoreThanItHasItself() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("sanitizers need more address space than any limit");
+#endif
     Interpreters interpreters;
     const int told = kit::inForkedChild([&] {
       const rlimit files = {64 << 20, 64 << 20};
@@ -390,6 +396,9 @@ class InterpreterProgramTest : public QObject {
   }
 
   void thatItDiedIsToldWhereNothingElseMayBeStarted() {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("builds with sanitizers leave layers out");
+#endif
     Interpreters interpreters;
     const int before = interpreters.program().pid();
     ::kill(before, SIGKILL);

@@ -1,5 +1,7 @@
 #include "cli/archive/names/list_source.h"
 
+#include <QList>
+
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/eventfd.h>

@@ -1,12 +1,15 @@
 // Every window of the program as somebody meets it who has no mouse, or no eyes.
 #include <QApplication>
 #include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 
 #include <QPushButton>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QStyleOption>
@@ -340,6 +343,31 @@ class AllWindowsTest : public QObject {
     const QPalette before = light;
     style.polish(light);
     QCOMPARE(light, before);
+  }
+
+  /// Texts of four times the size make of every screen one that is too small.
+  void onASmallScreenTheButtonsOfAPanelAreSeen_data() {
+    QTest::addColumn<Maker>("maker");
+    QTest::newRow("preferences") << &preferences;
+    QTest::newRow("export") << &exporting;
+    QTest::newRow("print") << &printing;
+    QTest::newRow("page setup") << &pageSetup;
+  }
+  void onASmallScreenTheButtonsOfAPanelAreSeen() {
+    QFETCH(Maker, maker);
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 4);
+    QApplication::setFont(large);
+    const auto back = qScopeGuard([&] { QApplication::setFont(usual); });
+    const Made made = maker();
+    show(made);
+    const QRect screen = made.window->screen()->availableGeometry();
+    QTRY_VERIFY(screen.contains(made.window->geometry()));
+    const auto* buttons = made.window->findChild<QDialogButtonBox*>();
+    QVERIFY(made.window->rect().contains(
+        {buttons->mapTo(made.window, QPoint()), buttons->size().boundedTo(screen.size())}));
+    QVERIFY(buttons->height() >= buttons->minimumSizeHint().height());
   }
 
   void textsOfTwiceTheSizeHaveRoom_data() { everyWindow(); }

@@ -12,6 +12,7 @@
 #include "ui/export/export_options.h"
 #include "ui/export/export_target.h"
 #include "ui/panels/centred_window.h"
+#include "ui/panels/panel_body.h"
 #include "ui/picture/zy_image_view.h"
 #include "ui/style/quiet_text.h"
 
@@ -33,13 +34,13 @@ ExportDialog::ExportDialog(QWidget* window, const ExportOffer& offer, const Expo
   upper->setSpacing(20);
   upper->addLayout(left);
   upper->addWidget(makePreview(), 1);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(20, 20, 20, 16);
+  auto* contents = new QWidget;
+  auto* column = new QVBoxLayout(contents);
   column->setSpacing(14);
   column->addLayout(upper, 1);
   column->addWidget(target_);
   column->addWidget(remarks_);
-  column->addWidget(makeButtons());
+  fillPanel(*this, contents, makeButtons())->stackWhereNarrow(*upper);
   remarks_->setTextFormat(Qt::PlainText);
   remarks_->setWordWrap(true);
   remarks_->setObjectName(QStringLiteral("exportRemarks"));

@@ -14,6 +14,7 @@
 
 #include "base/localized_string.h"
 #include "ui/panels/own_shortcuts.h"
+#include "ui/panels/panel_body.h"
 
 namespace norvex {
 namespace {
@@ -38,8 +39,8 @@ QLabel* makeHeading(const QString& text, QWidget* parent) {
 PreferencesPanel::PreferencesPanel(QList<Preference> preferences, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("PreferencesPanel"));
   setWindowTitle(localizedString("Preferences"));
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(20, 18, 20, 16);
+  auto* contents = new QWidget;
+  auto* column = new QVBoxLayout(contents);
   column->setSpacing(8);
   QStringList groups;
   for (const Preference& each : preferences)
@@ -57,9 +58,7 @@ PreferencesPanel::PreferencesPanel(QList<Preference> preferences, QWidget* paren
   column->addStretch();
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  column->addSpacing(8);
-  column->addWidget(buttons);
-  column->setSizeConstraint(QLayout::SetMinimumSize);
+  fillPanel(*this, contents, buttons);
   refresh();
   if (!rows_.isEmpty()) rows_.constFirst().control->setFocus();
 }

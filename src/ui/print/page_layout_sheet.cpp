@@ -11,6 +11,7 @@
 #include "base/localized_string.h"
 #include "print/page_layout_options.h"
 #include "print/pagination.h"
+#include "ui/panels/panel_body.h"
 #include "ui/print/page_layout_controls.h"
 #include "ui/print/page_layout_preview.h"
 #include "ui/print/zy_page_layout_accessory.h"
@@ -37,21 +38,26 @@ void alignLabels(const QWidget& sheet) {
 }  // namespace
 
 PageLayoutSheet::PageLayoutSheet(const NSPrintInfo& info, QWidget* window)
-    : QDialog(window), info_(info), preview_(new PageLayoutPreview), column_(new QVBoxLayout) {
+    : QDialog(window),
+      info_(info),
+      preview_(new PageLayoutPreview),
+      halves_(new QHBoxLayout),
+      column_(new QVBoxLayout) {
   setWindowTitle(localizedString("Page Setup"));
   setWindowModality(Qt::WindowModal);
-  auto* box = new QVBoxLayout(this);
-  auto* halves = new QHBoxLayout;
-  halves->addWidget(preview_, 1);
-  halves->addLayout(column_);
-  box->addLayout(halves, 1);
+  auto* contents = new QWidget;
+  auto* box = new QVBoxLayout(contents);
+  halves_->addWidget(preview_, 1);
+  halves_->addLayout(column_);
+  box->addLayout(halves_, 1);
   auto* form = new QFormLayout;
   controls_ = new PageLayoutControls(pageLayoutOptions, form, this);
   column_->addLayout(form);
   column_->addStretch(1);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   ok_ = buttons->button(QDialogButtonBox::Ok);
-  box->addWidget(buttons);
+  body_ = fillPanel(*this, contents, buttons);
+  body_->stackWhereNarrow(*halves_, true);
   ok_->setDefault(true);  // in the dialog, where Return finds it
   buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -65,6 +71,7 @@ void PageLayoutSheet::addAccessoryController(ZyPageLayoutAccessory* accessory) {
   accessories_ << accessory;
   column_->insertWidget(column_->count() - 1, accessory);
   alignLabels(*this);
+  body_->stackWhereNarrow(*halves_, true);
   accessory->setPrintInfo(info_);
   connect(accessory, &ZyPageLayoutAccessory::changed, this, &PageLayoutSheet::takeChoices);
 }

@@ -5,6 +5,7 @@
 
 #include "print/print_info.h"
 
+class QBoxLayout;
 class QPushButton;
 class QVBoxLayout;
 
@@ -12,6 +13,7 @@ namespace norvex {
 
 class PageLayoutControls;
 class PageLayoutPreview;
+class PanelBody;
 class ZyPageLayoutAccessory;
 
 /// Paper, orientation and scaling, what its accessories add, and a drawn page. Main thread.
@@ -32,7 +34,9 @@ class PageLayoutSheet final : public QDialog {
   NSPrintInfo info_;
   PageLayoutControls* controls_;
   PageLayoutPreview* preview_;
+  QBoxLayout* halves_;
   QVBoxLayout* column_;
+  PanelBody* body_ = nullptr;
   QPushButton* ok_ = nullptr;
   QList<ZyPageLayoutAccessory*> accessories_;
 };

@@ -28,6 +28,7 @@
 #include "ui/panels/centred_window.h"
 #include "ui/panels/file_columns.h"
 #include "ui/panels/modal_dialog.h"
+#include "ui/panels/panel_body.h"
 #include "ui/print/document_page_controls.h"
 #include "ui/print/page_layout_controls.h"
 #include "ui/print/page_layout_preview.h"
@@ -89,7 +90,8 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   setWindowTitle(localizedString("Print “%1”").arg(source_.jobTitle));
   setWindowModality(Qt::WindowModal);
   const int options = operation.printPanel().options();
-  auto* box = new QVBoxLayout(this);
+  auto* contents = new QWidget;
+  auto* box = new QVBoxLayout(contents);
   auto* halves = new QHBoxLayout;
   if (options & NSPrintPanelShowsPreview) halves->addWidget(previewColumn(), 1);
   auto* form = new QFormLayout;
@@ -108,7 +110,7 @@ PrintPanel::PrintPanel(NSPrintOperation& operation, PrintSpooler& spooler, QWidg
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
   print_ = buttons->addButton(localizedString("&Print"), QDialogButtonBox::AcceptRole);
   print_->setObjectName(QStringLiteral("print"));
-  box->addWidget(buttons);
+  fillPanel(*this, contents, buttons)->stackWhereNarrow(*halves, true);
   // Only in the dialog does it become the one button for Return; Cancel shall not stand in while it is
   // disabled.
   print_->setDefault(true);

@@ -27,6 +27,8 @@ void RenderedFrame::add(const RenderedLayer& layer) {
   if (filled.isEmpty()) return;
   parts_.prepend({&layer, exact, exact ? filled : open_});
   exact_ += exact ? 1 : 0;
+  if (!exact)
+    for (const QRect& rect : filled) standInPixels_ += qint64(rect.width()) * rect.height();
   open_ -= filled;
   missing_ -= layer.mappedRegion(toDevice, kNearEnough, missing_);
 }

@@ -25,6 +25,8 @@ class RenderedFrame {
   void add(const RenderedLayer& layer);
   /// How many scaled or turned layers there are.
   [[nodiscard]] int standIns() const { return int(parts_.size()) - exact_; }
+  /// How many pixels scaled or turned layers fill.
+  [[nodiscard]] qint64 standInPixels() const { return standInPixels_; }
 
   /// The painter's transform is the identity on device pixels.
   void paint(QPainter& painter, Sampling sampling = Sampling::Smooth) const;
@@ -43,6 +45,7 @@ class RenderedFrame {
   QRegion missing_;
   QList<Part> parts_;
   int exact_ = 0;
+  qint64 standInPixels_ = 0;
 };
 
 }  // namespace norvex

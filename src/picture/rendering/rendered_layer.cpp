@@ -8,10 +8,14 @@
 #include <limits>
 #include <utility>
 
-#include "base/background_threads.h"
+#include "picture/rendering/nearest_pixels.h"
 
 namespace norvex {
 namespace {
+
+// Pixels: small enough that the bitmap's part of a block stays in the processor's nearest memory.
+constexpr int kStripHeight = 32;
+constexpr int kBlockWidth = 128;
 
 struct Extent {
   double from = std::numeric_limits<double>::infinity();
@@ -80,13 +84,13 @@ QPoint RenderedLayer::offset(const QTransform& t) const {
 
 void RenderedLayer::add(const QRect& rect, const QImage& image) {
   pieces_.removeIf([&](const Piece& piece) { return rect.contains(piece.rect); });
-  pieces_.append({rect, image, {}, {}});
+  pieces_.append({rect, image});
   covered_ += rect;
 }
 
 qint64 RenderedLayer::bytes() const {
   qint64 sum = 0;
-  for (const Piece& piece : pieces_) sum += piece.bytes();
+  for (const Piece& piece : pieces_) sum += piece.image.sizeInBytes();
   return sum;
 }
 
@@ -99,7 +103,7 @@ void RenderedLayer::shrink(qint64 budget, const QRect& keep) {
   qint64 total = bytes();
   for (qsizetype i = pieces_.size() - 1; i >= 0 && total > budget; --i) {
     if (pieces_[i].rect.intersects(keep)) continue;
-    total -= pieces_[i].bytes();
+    total -= pieces_[i].image.sizeInBytes();
     pieces_.removeAt(i);
   }
   covered_ = {};
@@ -117,37 +121,45 @@ void RenderedLayer::paintExactly(QPainter& painter, const QPoint& offset, const 
 
 void RenderedLayer::paintMapped(QPainter& painter, const QTransform& layerToDevice, const QRegion& wanted,
                                 Sampling sampling) const {
+  const bool nearest = sampling == Sampling::Nearest;
   const QTransform toPainter = layerToDevice * painter.transform();
-  const double tilt = std::abs(layerToDevice.m12()), upright = std::abs(layerToDevice.m11());
-  QList<const Piece*> visible;
-  for (const Piece& piece : pieces_)
-    if (layerToDevice.mapRect(QRectF(piece.rect)).intersects(wanted.boundingRect())) visible << &piece;
-  if (tilt > upright / 2) prepareNextTurned(visible);
   painter.save();
   painter.setClipRegion(wanted, Qt::IntersectClip);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform, sampling == Sampling::Smooth);
-  for (const Piece* piece : std::as_const(visible)) {
-    const QRect& rect = piece->rect;
-    const bool turned = tilt > upright && piece->hasTurned();
-    const QTransform place = turned ? QTransform(0, -1, 1, 0, rect.x(), rect.y() + rect.height())
-                                    : QTransform::fromTranslate(rect.x(), rect.y());
-    painter.setTransform(place * toPainter);
-    painter.drawImage(QPoint(), turned ? *piece->turned : piece->image);
+  if (nearest) paintNearest(painter, layerToDevice, wanted);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, !nearest);
+  for (const Piece& piece : pieces_) {
+    if (nearest && NearestPixels::canRead(piece.image)) continue;
+    if (!layerToDevice.mapRect(QRectF(piece.rect)).intersects(wanted.boundingRect())) continue;
+    painter.setTransform(QTransform::fromTranslate(piece.rect.x(), piece.rect.y()) * toPainter);
+    painter.drawImage(QPoint(), piece.image);
   }
   painter.restore();
 }
 
-/// One at a time: frames need the processor too.
-void RenderedLayer::prepareNextTurned(const QList<const Piece*>& pieces) {
-  for (const Piece* piece : pieces) {
-    if (piece->hasTurned()) continue;
-    if (piece->turned) return;
-    const auto turned = std::make_shared<QImage>();
-    piece->turned = turned;
-    piece->turning = startWork(yieldingThread(), [turned, bitmap = piece->image] {
-      *turned = bitmap.transformed(QTransform().rotate(90));
-    });
-    return;
+/// Strip by strip, so that what is copied is still at hand when it is painted.
+void RenderedLayer::paintNearest(QPainter& painter, const QTransform& layerToDevice,
+                                 const QRegion& wanted) const {
+  const QRect all = wanted.boundingRect();
+  QList<NearestPixels> pieces;
+  for (const Piece& piece : pieces_) {
+    if (!NearestPixels::canRead(piece.image)) continue;
+    const QTransform place = QTransform::fromTranslate(piece.rect.x(), piece.rect.y()) * layerToDevice;
+    const NearestPixels pixels(piece.image, place);
+    if (pixels.bounds().intersects(all)) pieces << pixels;
+  }
+  if (pieces.isEmpty()) return;
+  QImage strip(all.width(), kStripHeight, QImage::Format_ARGB32_Premultiplied);
+  for (int top = all.top(); top <= all.bottom(); top += kStripHeight) {
+    const QRegion rows = wanted & QRect(all.left(), top, all.width(), kStripHeight);
+    if (rows.isEmpty()) continue;
+    const QRect bounds = rows.boundingRect();
+    strip.fill(Qt::transparent);
+    for (int left = bounds.left(); left <= bounds.right(); left += kBlockWidth) {
+      const QRect block = QRect(left, bounds.top(), kBlockWidth, bounds.height()) & bounds;
+      if (!rows.intersects(block)) continue;
+      for (const NearestPixels& pixels : std::as_const(pieces)) pixels.copy(block, strip, bounds.topLeft());
+    }
+    painter.drawImage(bounds.topLeft(), strip, QRect(QPoint(), bounds.size()));
   }
 }
 

@@ -9,16 +9,12 @@
 #include <QSizeF>
 #include <QTransform>
 
-#include <memory>
-
-#include "base/background_work.h"
-
 class QPainter;
 
 namespace norvex {
 
 /// How a scaled or turned bitmap is painted: between four of its pixels, or by the nearest one, which takes
-/// half as long.
+/// a third of the time.
 enum class Sampling { Smooth, Nearest };
 
 /// Layer coordinates: device pixels under transform(), y down; its translation is below one pixel, so that a
@@ -59,15 +55,8 @@ class RenderedLayer {
   struct Piece {
     QRect rect;
     QImage image;
-    /// Clockwise by a quarter. Along the columns of a bitmap, painting takes up to three times as long as
-    /// along its rows, so a picture that is being turned is painted from this from 45 degrees on. It is made
-    /// beside the frames.
-    mutable std::shared_ptr<const QImage> turned;
-    mutable BackgroundWork turning;
-    [[nodiscard]] bool hasTurned() const { return turned && turning.isOver() && !turned->isNull(); }
-    [[nodiscard]] qint64 bytes() const { return image.sizeInBytes() * (turned ? 2 : 1); }
   };
-  static void prepareNextTurned(const QList<const Piece*>& pieces);
+  void paintNearest(QPainter& painter, const QTransform& layerToDevice, const QRegion& wanted) const;
 
   QTransform transform_;
   QList<Piece> pieces_;

@@ -18,8 +18,9 @@ constexpr int kMaximumFailures = 3;
 constexpr int kMaximumBlocked = 32;
 constexpr int kMaximumRects = 4;  // every rectangle costs a walk through the whole picture
 constexpr int kRestMilliseconds = 150;
-constexpr int kLongFrameMilliseconds = 6;  // beyond, a window does not keep up with its screen
-constexpr int kMaximumJobSide = 4096;      // pixels
+constexpr int kLongFrameMilliseconds = 6;       // beyond, a window does not keep up with its screen
+constexpr qint64 kManyStandInPixels = 600'000;  // smooth ones take longer than that, at 6 to 10 ns each
+constexpr int kMaximumJobSide = 4096;           // pixels
 
 qint64 pixels(const QRect& rect) {
   return qint64(rect.width()) * rect.height();
@@ -140,6 +141,7 @@ void RenderedPicture::draw(QPainter& painter, const QTransform& t, const QRect& 
   painter.setWorldTransform(QTransform());
   painter.setWorldTransform(painter.deviceTransform().inverted());
   const qint64 begun = options_.clock();
+  if (restTimer_.isActive() && frame.standInPixels() > kManyStandInPixels) isInHurry_ = true;
   frame.paint(painter, isInHurry_ ? Sampling::Nearest : Sampling::Smooth);
   if (restTimer_.isActive() && options_.clock() - begun > kLongFrameMilliseconds) isInHurry_ = true;
   painter.restore();

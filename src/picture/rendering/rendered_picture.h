@@ -51,8 +51,8 @@ class RenderedPicture final : public QObject {
   void showFirst(const QImage& image);
 
   /// Paints what there is, sharp where it is sharp. Respects the painter's clip, ignores its transform. Asks
-  /// nothing. While the view moves, and once a frame of that movement has taken long, what is scaled or
-  /// turned is painted by its nearest pixels.
+  /// nothing. While the view moves, and once a frame of that movement has taken long or is so large that
+  /// it would, what is scaled or turned is painted by its nearest pixels.
   void draw(QPainter& painter, const QTransform& pictureToDevice, const QRect& visibleDeviceRect);
   /// Makes this the current view. Cheap when nothing is missing, so it may follow every draw().
   void request(const QTransform& pictureToDevice, const QRect& visibleDeviceRect);
@@ -120,7 +120,7 @@ class RenderedPicture final : public QObject {
   bool overviewFailed_ = false;
   int failuresInARow_ = 0;
   quint64 lastId_ = 0;
-  bool isInHurry_ = false;  ///< a frame took long since the view began to move
+  bool isInHurry_ = false;  ///< a frame took long, or would have, since the view began to move
   QTimer restTimer_;        ///< runs while the view moves
   QTimer staleTimer_;       ///< ends the queue's patience with a job that runs in vain
   RenderQueue queue_;       ///< last: its thread must end before the rest goes

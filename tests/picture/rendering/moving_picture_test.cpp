@@ -30,6 +30,32 @@ class MovingPictureTest : public QObject {
     for (int still = 0; still < 3; ++still) QCOMPARE(f.draw(between), smooth);
   }
 
+  void aLargeFrameOfAMovementIsPaintedByNearestPixelsAtOnce() {
+    constexpr QSizeF kPage(900, 900);
+    for (const int side : {600, 900}) {
+      const Fixture f(kPage);
+      const QRect visible(0, 0, side, side);
+      const QPointF middle(side / 2.0, side / 2.0);
+      const auto drawn = [&](const QTransform& t) {
+        QImage frame(visible.size(), QImage::Format_ARGB32_Premultiplied);
+        frame.fill(Qt::transparent);
+        QPainter painter(&frame);
+        f.picture->draw(painter, t, visible);
+        return frame;
+      };
+      const QTransform upright = placed(kPage, 1, 0, middle), turned = placed(kPage, 1, 10, middle);
+      QVERIFY(f.becomesSharp(upright));
+      QVERIFY(f.becomesIdle());
+      QSignalSpy rested(f.picture.get(), &RenderedPicture::rendered);
+      f.picture->request(placed(kPage, 1, 0, middle + QPointF(1, 0)), visible);
+      const QImage moving = drawn(turned);
+      QVERIFY(side == 600 || rested.wait(20000));
+      const QImage resting = drawn(turned);
+      QCOMPARE(moving == resting, side == 600);
+      QCOMPARE(blankPixels(moving, turned, kPage), 0);
+    }
+  }
+
   void aMovementWhoseFramesAreShortStaysSmooth() {
     const Fixture f(kSmall);
     const QTransform upright = placed(kSmall, 1.5, 0, {150, 100}),

@@ -101,6 +101,9 @@ class EpsRulesTest : public QObject {
     QCOMPARE(sentences("%%DocumentNeededFonts: One\n%%+ Two\n"), QStringList{begin + "One, Two"});
     QCOMPARE(sentences("%%DocumentNeededResources: procset p 1 0\n%%+ font Two\n"),
              QStringList{begin + "Two"});
+    for (const char* kind : {"procset", "file", "encoding", "form", "pattern", "category"})
+      QCOMPARE(sentences(QByteArray("%%DocumentNeededResources: font One\n%%+ ") + kind + " other\n"),
+               QStringList{begin + "One"});
     QCOMPARE(sentences("%%DocumentNeededFonts: One Two\n%%DocumentSuppliedResources: font One\n"),
              QStringList{begin + "Two"});
     QCOMPARE(sentences("%%DocumentNeededFonts: One\n%%Title: t\n%%+ Two\n%%DocumentSuppliedFonts: One\n"),

@@ -86,6 +86,13 @@ class EpsBoundingBoxTest : public QObject {
     QCOMPARE(box(eps("") + "%%BoundingBox: 0 0 3 3\n").value_or(QRectF()), QRectF(0, 0, 3, 3));
   }
 
+  /// A comment of the header is an answer, whatever it says.
+  void theBodysFirstBoxThatIsOneCounts() {
+    const QByteArray boxes = "%%BoundingBox: none\n%%BoundingBox: 0 0 3 3\n";
+    QCOMPARE(box(eps("") + boxes).value_or(QRectF()), QRectF(0, 0, 3, 3));
+    QVERIFY(!box(eps(boxes)));
+  }
+
   void onlyTheStartOfALineCounts() {
     QCOMPARE(box(eps("% %%BoundingBox: 0 0 1 1\n%%BoundingBox: 0 0 2 2\n")).value_or(QRectF()),
              QRectF(0, 0, 2, 2));

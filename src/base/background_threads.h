@@ -14,8 +14,4 @@ namespace norvex {
 /// where everything is busy.
 inline constexpr int kNicerThanFrames = 10;
 
-/// One thread that leaves the processor to whatever draws frames, for work that may be late. Thread-safe;
-/// lives as long as the program.
-[[nodiscard]] QThreadPool& yieldingThread();
-
 }  // namespace norvex

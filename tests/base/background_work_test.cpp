@@ -1,7 +1,6 @@
 #include "base/background_work.h"
 
 #include <spawn.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -262,20 +261,6 @@ class BackgroundWorkTest : public QObject {
     for (const BackgroundWork& each : waiting) QVERIFY(!each.isOver());
     gate.open();
     for (const BackgroundWork& each : waiting) each.wait();
-  }
-
-  void theYieldingThreadIsOneAndNicerThanFrames() {
-    QList<int> nice;
-    QList<QThread*> threads;
-    for (int i = 0; i < 3; ++i)
-      startWork(yieldingThread(), [&] {
-        nice << ::getpriority(PRIO_PROCESS, 0);
-        threads << QThread::currentThread();
-      });
-    waitForWork(yieldingThread());
-    QCOMPARE(nice.size(), 3);
-    for (const int each : nice) QCOMPARE(each, qMin(19, ::getpriority(PRIO_PROCESS, 0) + 10));
-    for (QThread* each : threads) QVERIFY(each == threads.first() && each != QThread::currentThread());
   }
 };
 

@@ -55,6 +55,11 @@ struct NearestPixels::Run {
 void NearestPixels::Run::copy(const std::uint32_t* pixels, std::uint32_t stride, std::uint32_t* to) const {
   auto x = static_cast<std::uint32_t>(column), y = static_cast<std::uint32_t>(row);
   const auto dx = static_cast<std::uint32_t>(columnStep), dy = static_cast<std::uint32_t>(rowStep);
+  if (dy == 0) {  // neither turned nor slanted
+    const std::uint32_t* const line = pixels + std::size_t(y >> 16) * stride;
+    for (int each = 0; each < length; ++each, x += dx) to[each] = line[x >> 16];
+    return;
+  }
   int i = 0;
 #ifdef __SSE2__
   const auto four = [](std::uint32_t from, std::uint32_t step) {

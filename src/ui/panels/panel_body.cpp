@@ -113,8 +113,10 @@ void PanelBody::keepPanelOnScreen() {
   QWidget& panel = *window();
   if (!panel.isVisible() || QApplication::mouseButtons() != Qt::NoButton) return;
   const QRect screen = roomOn(*panel.screen());
-  if (screen.contains(panel.frameGeometry()) || screen.contains(panel.geometry().marginsAdded(usualFrame)))
-    return;
+  // It grows to the right and downwards. The other edges are not looked at: until the window manager has
+  // placed the panel, it seems to be at or beyond the screen's corner.
+  const QRect place = panel.geometry();
+  if (place.right() <= screen.right() && place.bottom() <= screen.bottom()) return;
   panel.setGeometry(placedOnScreens(panel.geometry(), {{screen}, usualFrame}, panel.minimumSize()));
 }
 

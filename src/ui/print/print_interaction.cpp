@@ -8,6 +8,7 @@
 #include "base/localized_string.h"
 #include "picture/localized_error.h"
 #include "ui/panels/alert_box.h"
+#include "ui/panels/centred_window.h"
 #include "ui/panels/modal_dialog.h"
 #include "ui/print/page_layout_sheet.h"
 #include "ui/print/print_panel.h"
@@ -37,6 +38,8 @@ void QtPrintInteraction::beginPageLayout(const NSPrintInfo& printInfo,
   auto* sheet = new PageLayoutSheet(printInfo, window_);
   sheet->setAttribute(Qt::WA_DeleteOnClose);
   sheet->addAccessoryController(new ZyPageLayoutAccessory);
+  sheet->adjustSize();
+  centreOver(*sheet, window_);
   QObject::connect(sheet, &QDialog::finished, sheet,
                    [sheet, end](int code) { end(sheet->printInfo(), code == QDialog::Accepted ? 1 : 0); });
   sheet->open();

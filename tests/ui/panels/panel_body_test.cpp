@@ -99,6 +99,19 @@ class PanelBodyTest : public QObject {
     QCOMPARE(p.dialog.geometry().left(), left);
   }
 
+  /// Until the window manager has placed a panel, its frame seems to be beyond the screen's corner.
+  void aPanelAtTheUpperLeftCornerIsLeftThere() {
+    Panel p(3);
+    p.show();
+    p.dialog.move(screenRoom().topLeft() - QPoint(9, 9));
+    QCoreApplication::processEvents();
+    const int height = p.dialog.height();
+    p.column->addWidget(new QLabel("So many words more."));
+    QTRY_VERIFY(p.dialog.height() > height);
+    QCoreApplication::processEvents();
+    QVERIFY(p.dialog.geometry().left() < 0 && p.dialog.geometry().top() < 0);
+  }
+
   void itScrollsToWhatGetsTheKeyboard() {
     Panel p(200);
     p.show();

@@ -146,10 +146,11 @@ ExitCode ArchiveRun::run() {
     console_.message(QStringLiteral("norvex: ") + names.error().message);
     return ExitCode::CannotRead;
   }
-  const CancelListener interrupted(cancel_, [this] {
+  const auto stop = [this] {
     ending_.cancel();
     window_.stop();
-  });
+  };
+  const CancelListener interrupted(cancel_, stop);
   giveBackLargeBlocks();
   const Standstill standstill;
   std::vector<std::jthread> threads;
@@ -157,10 +158,7 @@ ExitCode ArchiveRun::run() {
   // Twice as many as places: what takes long gives its place up and keeps its thread.
   for (int i = 0; i < 2 * (plan_.jobs + 1); ++i) threads.emplace_back([this] { work(); });
   // Before the threads: out of memory, where not all was told, they end all the same.
-  const auto end = qScopeGuard([this] {
-    ending_.cancel();
-    window_.stop();
-  });
+  const auto end = qScopeGuard(stop);
   return tell();
 }
 

@@ -91,6 +91,18 @@ class PrintInteractionTest : public QObject {
 
   // ---- progress ------------------------------------------------------------------------
 
+  void aTitleInTheProgressIsNoMarkup() {
+    interaction_->preparationDidBegin("<b>bold</b>", {});
+    interaction_->jobDidBegin("<img src=\"/tmp/a.png\">", {});
+    const QList<QProgressDialog*> progress = window_->findChildren<QProgressDialog*>();
+    QCOMPARE(progress.size(), 2);
+    for (const QProgressDialog* each : progress) {
+      const auto* label = each->findChild<QLabel*>();
+      QCOMPARE(label->textFormat(), Qt::PlainText);
+      QVERIFY(label->text().contains('<'));
+    }
+  }
+
   void aSlowJobShowsItsProgressAndCancelEndsIt() {
     const CancelToken cancel;
     const int job = interaction_->jobDidBegin("A drawing", cancel);

@@ -1,5 +1,6 @@
 #include "ui/print/print_interaction.h"
 
+#include <QLabel>
 #include <QProgressDialog>
 #include <QTimer>
 
@@ -58,8 +59,12 @@ int QtPrintInteraction::jobDidBegin(const QString& title, const CancelToken& can
 }
 
 int QtPrintInteraction::showProgress(const QString& text, const CancelToken& cancel) {
-  auto* dialog = new QProgressDialog(text, localizedString("Cancel"), 0, 0, window_);
+  auto* dialog = new QProgressDialog(QString(), localizedString("Cancel"), 0, 0, window_);
   dialog->setWindowTitle(localizedString("Printing"));
+  auto* label = new QLabel(text);
+  label->setTextFormat(Qt::PlainText);  // a file's name is no markup
+  label->setAlignment(Qt::AlignCenter);
+  dialog->setLabel(label);
   dialog->setMinimumWidth(kProgressWidth);
   // Its own patience does not count for a bar without an end.
   dialog->setMinimumDuration(std::numeric_limits<int>::max());

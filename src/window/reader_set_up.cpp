@@ -4,7 +4,8 @@
 #include <QMainWindow>
 #include <QMenu>
 
-#include "window/loading_command.h"
+#include "ui/source/source_text_view.h"
+#include "ui_MainWindowController.h"
 #include "window/main_window_controller.h"
 #include "window/reading/find_command.h"
 #include "window/reading/late_text_marks.h"
@@ -14,6 +15,7 @@
 #include "window/reading/text_command.h"
 #include "window/viewing/live_file.h"
 #include "window/viewing/pages_command.h"
+#include "window/window_commands.h"
 
 namespace norvex {
 namespace {
@@ -42,17 +44,41 @@ void setUpLayers(MainWindowController& controller, LoadingCommand& loading, Live
                    });
 }
 
-void setUpText(MainWindowController& controller, PagesCommand& pages) {
+/// What has no source, as a PDF, is looked through by what it shows: the keys are everybody's for finding.
+void setUpFinding(MainWindowController& controller, InspectorCommand& inspector, FindCommand& inPicture,
+                  Ui::MainWindowController& ui) {
   MainWindowController* const c = &controller;
-  auto* menu = c->window()->findChild<QMenu*>(QStringLiteral("editMenu"));
-  const auto* findPrevious = c->window()->findChild<QAction*>(QStringLiteral("findPreviousAction"));
-  if (!menu || !findPrevious) return;
+  const auto set = [c, &inspector](QAction* action, const QKeySequence& key, auto inSource, auto instead) {
+    action->setShortcut(key);
+    QObject::connect(action, &QAction::triggered, c, [c, &inspector, inSource, instead] {
+      if (c->sourceTextView->string().isEmpty()) return instead();
+      inspector.showSource();
+      inSource(*c->sourceTextView);
+    });
+  };
+  FindCommand* const find = &inPicture;
+  set(
+      ui.findAction, QKeySequence::Find, [](SourceTextView& text) { text.showFindBar(); },
+      [find] { find->open(); });
+  set(
+      ui.findNextAction, Qt::Key_F3, [](SourceTextView& text) { text.findNext(); },
+      [find] { find->findNext(); });
+  set(
+      ui.findPreviousAction, Qt::SHIFT | Qt::Key_F3, [](SourceTextView& text) { text.findNext(true); },
+      [find] { find->findNext(true); });
+}
+
+void setUpText(MainWindowController& controller, InspectorCommand& inspector, PagesCommand& pages,
+               Ui::MainWindowController& ui) {
+  MainWindowController* const c = &controller;
+  QMenu* const menu = ui.editMenu;
   const QList<QAction*> actions = menu->actions();
-  QAction* before = actions.value(actions.indexOf(findPrevious) + 1);
+  QAction* before = actions.value(actions.indexOf(ui.findPreviousAction) + 1);
   auto* letters = new PageLetters(controller, c);
   auto* marks = new LateTextMarks(controller, c);
   auto* find = new FindCommand(controller, *letters, *marks, c);
   find->setUp(*menu, before);
+  setUpFinding(controller, inspector, *find, ui);
   auto* text = new TextCommand(controller, *letters, *marks, c);
   text->setUp(*menu, before);
   const auto follow = [find, text] {
@@ -67,11 +93,11 @@ void setUpText(MainWindowController& controller, PagesCommand& pages) {
 
 }  // namespace
 
-void setUpReader(MainWindowController& controller, LoadingCommand& loading, LiveFile& live,
-                 PagesCommand& pages, WindowSizingCommand& sizing, QMenu& menu) {
-  setUpPasswords(controller, loading);
-  setUpLayers(controller, loading, live, sizing, menu);
-  setUpText(controller, pages);
+void setUpReader(MainWindowController& controller, WindowCommands& commands, LiveFile& live,
+                 PagesCommand& pages, Ui::MainWindowController& ui, QMenu& menu) {
+  setUpPasswords(controller, commands.loading);
+  setUpLayers(controller, commands.loading, live, commands.sizing, menu);
+  setUpText(controller, commands.inspector, pages, ui);
 }
 
 }  // namespace norvex

@@ -3,18 +3,21 @@
 
 class QMenu;
 
+namespace Ui {
+class MainWindowController;
+}
+
 namespace norvex {
 
 class LiveFile;
-class LoadingCommand;
 class MainWindowController;
 class PagesCommand;
-class WindowSizingCommand;
+struct WindowCommands;
 
 /// Makes the commands of it, which the controller owns, and has the document read again with what is chosen.
-/// `menu` takes the one that is about the document, the window's Edit menu those that are about its text.
+/// `menu` takes the one that is about the document, the Edit menu of `ui` those that are about its text.
 /// Main thread.
-void setUpReader(MainWindowController& controller, LoadingCommand& loading, LiveFile& live,
-                 PagesCommand& pages, WindowSizingCommand& sizing, QMenu& menu);
+void setUpReader(MainWindowController& controller, WindowCommands& commands, LiveFile& live,
+                 PagesCommand& pages, Ui::MainWindowController& ui, QMenu& menu);
 
 }  // namespace norvex

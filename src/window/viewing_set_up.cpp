@@ -131,7 +131,7 @@ void setUpViewing(MainWindowController& controller, WindowCommands& commands, Ui
   StickyFit& fit = *setUpFitting(controller, commands, pages, ui);
   setUpHistory(controller, pages, ui);
   auto* live = new LiveFile(controller, pages, fit, &controller);
-  setUpReader(controller, commands.loading, *live, pages, commands.sizing, *go);
+  setUpReader(controller, commands, *live, pages, ui, *go);
   ui.fileMenu->insertAction(ui.closeAction, live->makeAction());
   QObject::connect(&controller, &Controller::documentShown, live, &LiveFile::documentDidChange);
   setUpChoices(controller, ui);

@@ -16,7 +16,6 @@
 #include "ui/panels/tool_tip_keys.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
-#include "ui/source/source_text_view.h"
 #include "ui/style/symbolic_icon.h"
 #include "ui_MainWindowController.h"
 #include "window/about_box.h"
@@ -96,16 +95,6 @@ void WindowMenus::connectEdit() {
      [c] { c->view()->clearSelectRect(); });
   selectionCommands_ =
       new SelectionCommands(*ui_->editMenu, ui_->findAction, *c->view(), *c->scrollArea(), c);
-  const auto inSource = [this, c](QAction* action, const QKeySequence& key, auto deed) {
-    on(action, {key}, c, [this, c, deed] {
-      commands_.inspector.showSource();
-      deed(*c->sourceTextView);
-    });
-  };
-  inSource(ui_->findAction, QKeySequence::Find, [](SourceTextView& text) { text.showFindBar(); });
-  inSource(ui_->findNextAction, Qt::Key_F3, [](SourceTextView& text) { text.findNext(); });
-  inSource(ui_->findPreviousAction, Qt::SHIFT | Qt::Key_F3,
-           [](SourceTextView& text) { text.findNext(true); });
 }
 
 void WindowMenus::connectView() {

@@ -78,6 +78,11 @@ void FindCommand::open() {
   lookFor();
 }
 
+void FindCommand::findNext(bool backward) {
+  if (isOpen() && !bar_->needle().isEmpty()) return step(backward);
+  open();
+}
+
 void FindCommand::close() {
   parts_.scrollArea()->setFocus(Qt::OtherFocusReason);  // as nobody who came with Tab
   card_->hide();

@@ -32,6 +32,8 @@ class FindCommand final : public QObject {
   /// Adds its command to `menu`, before `before`.
   void setUp(QMenu& menu, QAction* before);
   void open();
+  /// The next place, or the one before it; what is to be looked for is asked for when it is not known.
+  void findNext(bool backward = false);
   void close();
   /// Another page or another document is shown, or the picture has become another one.
   void pageDidChange();

@@ -16,6 +16,7 @@
 #include "ui/picture/text_marks.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/source/source_find_bar.h"
+#include "ui/source/source_text_view.h"
 #include "window/reading/find_command.h"
 #include "window/reading/text_command.h"
 #include "window/viewing/pages_command.h"
@@ -125,6 +126,34 @@ class FindingTest : public QObject {
     QVERIFY(!f.c.window()->findChild<LayerList*>());
     f.own("findInPictureAction")->trigger();
     QVERIFY(f.c.window()->findChild<SourceFindBar*>("pictureFindBar")->isVisible());
+  }
+
+  void whatHasNoSourceIsLookedThroughByTheUsualKeys() {
+    Text f;
+    f.action("findAction")->trigger();
+    auto* bar = f.c.window()->findChild<SourceFindBar*>("pictureFindBar");
+    QVERIFY(bar && bar->isVisible());
+    QVERIFY(!f.c.inspectorWindow->isVisible());
+    bar->setNeedle("one");
+    QTRY_COMPARE(bar->outcome(), QString("1 of 2"));
+    f.action("findNextAction")->trigger();
+    QCOMPARE(bar->outcome(), QString("2 of 2"));
+    f.action("findPreviousAction")->trigger();
+    QCOMPARE(bar->outcome(), QString("1 of 2"));
+    f.find->close();
+    f.action("findNextAction")->trigger();  // nothing is looked for any more: what is it to be?
+    QVERIFY(bar->isVisible());
+    QTRY_COMPARE(bar->outcome(), QString("1 of 2"));
+  }
+
+  void whatHasASourceIsLookedThroughThere() {
+    WindowFixture f;
+    MainWindowController& c = f.loaded(epsBytes(), "a.eps", NorvexEPSType);
+    c.window()->show();
+    QTRY_VERIFY(!c.sourceTextView->string().isEmpty());
+    c.window()->findChild<QAction*>("findAction")->trigger();
+    QVERIFY(c.inspectorWindow->isVisible());
+    QVERIFY(!c.window()->findChild<SourceFindBar*>("pictureFindBar"));
   }
 
   void everyPlaceIsMarkedAndCounted() {

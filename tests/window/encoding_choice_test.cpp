@@ -5,6 +5,8 @@
 #include <QMainWindow>
 #include <QWheelEvent>
 
+#include "base/background_threads.h"
+#include "base/background_work.h"
 #include "kit/test_main.h"
 #include "metadata/text_encoding.h"
 #include "ui/controls/zy_form.h"
@@ -36,10 +38,14 @@ class EncodingFixture : public WindowFixture {
   void choose(const QString& name) const {
     popUp->setCurrentText(name);
     emit popUp->activated(popUp->currentIndex());
+    if (!reads) return;
+    waitForWork(waitingThreads());
+    QCoreApplication::processEvents();
   }
   [[nodiscard]] bool isShown(const QWidget* widget) const { return widget->isVisibleTo(page); }
 
   QWidget* page = nullptr;
+  bool reads = true;  ///< what is chosen is read before the test goes on
   QComboBox* popUp = nullptr;
   QLabel* note = nullptr;
   ZyForm* guess = nullptr;
@@ -95,6 +101,34 @@ class EncodingChoiceTest : public QObject {
     QVERIFY(!f.isShown(f.guess) && !f.isShown(f.note));
     f.choose("ISO-8859-1");
     QCOMPARE(title(c), QString::fromLatin1("R\x8Esum\x8E"));
+  }
+
+  void theLastOfSeveralChoicesHolds() {
+    EncodingFixture f;
+    const MainWindowController& c = f.show(kInNoEncoding);
+    f.choose("macintosh");
+    f.reads = false;
+    f.choose("Shift_JIS");
+    f.choose("ISO-8859-1");
+    f.reads = true;
+    f.choose("macintosh");  // as it was: nothing is to be read
+    QCOMPARE(title(c), QStringLiteral("Résumé"));
+    QCOMPARE(f.popUp->currentText(), QStringLiteral("macintosh"));
+    QVERIFY(!f.isShown(f.note));
+  }
+
+  void whatWasChosenForAnotherPictureIsNotShown() {
+    EncodingFixture f;
+    const MainWindowController& c = f.show(kInNoEncoding);
+    f.reads = false;
+    f.choose("macintosh");
+    f.write(epsBytes(), "a.eps");
+    f.revert();
+    waitForWork(waitingThreads());
+    QCoreApplication::processEvents();
+    QCOMPARE(title(c), QStringLiteral("A picture"));
+    QCOMPARE(f.popUp->currentText(), QStringLiteral("Automatic"));
+    QCOMPARE(chosenEncoding(f.document.fileURL().toLocalFile()), QString());
   }
 
   void whatIsNotValidInAnEncodingStaysAsItWas() {

@@ -351,6 +351,20 @@ class InspectorTest : public QObject {
     QCOMPARE(process->calls(PictureCall::Examine), 1);
   }
 
+  void theNamesInAPdfDoNotFollowWhatAPictureBeforeItDraws() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loaded("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
+    const std::shared_ptr<NSImageRep> before = c.view()->imageRep();
+    fixture.revert();
+    QVERIFY(c.view()->imageRep() != before);
+    c.inspectorWindow->show();
+    emit before->renderingArrived();
+    waitForWork(waitingThreads());  // would ask for them
+    QCOMPARE(fixture.service.lastProcess()->calls(PictureCall::Examine), 0);
+    emit c.view()->imageRep()->renderingArrived();
+    QTRY_COMPARE(fixture.service.lastProcess()->calls(PictureCall::Examine), 1);
+  }
+
   void whatWasNoticedAtOpeningIsSaidInPlainSentences() {
     WindowFixture fixture;
     MemoryPicture picture;

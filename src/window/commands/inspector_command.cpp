@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMainWindow>
-#include <QPointer>
 #include <QTabWidget>
 
 #include <utility>
@@ -126,14 +125,18 @@ void InspectorCommand::showResources(const NSImageRep* rep) {
     colors = svg->facts().colorSpaces;
   }
   showNames(fonts, colors);
+  watch(unnamed_ ? rep : nullptr);
   if (!unnamed_) return;
-  watch(rep);
   parts_.usesForm->parentWidget()->installEventFilter(this);  // once, however often it is done
 }
 
 void InspectorCommand::watch(const NSImageRep* rep) {
-  connect(rep, &NSImageRep::renderingArrived, this, &InspectorCommand::pictureWasDrawn, Qt::UniqueConnection);
-  connect(rep, &NSImageRep::renderingFailed, this, &InspectorCommand::pictureWasDrawn, Qt::UniqueConnection);
+  // Others may keep the picture before it, which still draws.
+  if (watched_) disconnect(watched_, nullptr, this, nullptr);
+  watched_ = rep;
+  if (!rep) return;
+  connect(rep, &NSImageRep::renderingArrived, this, &InspectorCommand::pictureWasDrawn);
+  connect(rep, &NSImageRep::renderingFailed, this, &InspectorCommand::pictureWasDrawn);
 }
 
 void InspectorCommand::pictureWasDrawn() {

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -75,6 +76,7 @@ class InspectorCommand final : public QObject {
   WindowParts& parts_;
   std::function<void(bool)> showPanel_;
   bool placed_ = false;
+  QPointer<const NSImageRep> watched_;
   std::shared_ptr<PictureProcess> unnamed_;  ///< of a picture whose names are yet to be asked for
   bool drawn_ = false;
   CancelToken naming_;

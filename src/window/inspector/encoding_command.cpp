@@ -5,8 +5,11 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include "base/background_work.h"
 #include "base/localized_string.h"
 #include "metadata/text_encoding.h"
+#include "picture/image_rep.h"
+#include "picture/localized_error.h"
 #include "picture/picture_header.h"
 #include "ui/controls/zy_form.h"
 #include "ui/style/quiet_text.h"
@@ -73,6 +76,7 @@ void EncodingCommand::fill() {
 void EncodingCommand::show(const std::shared_ptr<NSImageRep>& imageRep, const QString& chosen,
                            const std::optional<GuessedHeader>& guess) {
   const bool hasEncoding = imageRep && imageRep->pictureKind() == PictureKind::Eps;
+  ++choice_;  // what is still being read is of another picture
   imageRep_ = hasEncoding ? imageRep : nullptr;
   controls_.row->setVisible(hasEncoding);
   if (hasEncoding) fill();
@@ -86,19 +90,30 @@ void EncodingCommand::select(const QString& encodingName) {
 }
 
 void EncodingCommand::choose(const QString& encodingName) {
+  const int choice = ++choice_;
   const std::shared_ptr<NSImageRep> imageRep = imageRep_.lock();
   if (!imageRep || encodingName == chosen_) return;
-  const SourceReading reading =
-      readSource(imageRep->sourceBytes(), encodingName, pictureHeader(imageRep.get()));
-  if (!reading.isValid) {
+  workInBackground(
+      this,
+      [source = imageRep->sourceBytes(), encodingName]() -> Result<SourceReading> {
+        return readSource(source, encodingName, pictureHeader(PictureKind::Eps, source, PictureFacts()));
+      },
+      [this, choice, encodingName](const Result<SourceReading>& reading) {
+        if (choice == choice_) take(encodingName, reading);
+      });
+}
+
+void EncodingCommand::take(const QString& encodingName, const Result<SourceReading>& reading) {
+  if (!reading || !reading->isValid) {
     select(chosen_);
-    return tell(localizedString("The source is not valid in %1.").arg(encodingName));
+    return tell(reading ? localizedString("The source is not valid in %1.").arg(encodingName)
+                        : localizedError(reading.error()).sentence);
   }
   select(encodingName);
   if (const Document* document = parts_.document())
     rememberEncoding(document->fileURL().toLocalFile(), encodingName);
-  showGuess(reading.guess);
-  emit reread(reading.header, reading.text);
+  showGuess(reading->guess);
+  emit reread(reading->header, reading->text);
 }
 
 void EncodingCommand::tell(const QString& sentence) {

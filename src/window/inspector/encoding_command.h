@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+#include "base/result.h"
 #include "metadata/guessed_header.h"
 #include "metadata/header_dictionary.h"
 
@@ -19,6 +20,7 @@ namespace norvex {
 class NSImageRep;
 class WindowParts;
 class ZyForm;
+struct SourceReading;
 
 /// The inspector's controls for it; borrowed.
 struct EncodingControls {
@@ -30,9 +32,9 @@ struct EncodingControls {
   ZyForm* guessForm = nullptr;  ///< what a source in no encoding seems to say
 };
 
-/// A choice reads header and source text again at once, and whenever the file is opened from then on. What is
-/// written, copied or printed is made of the file itself, whatever is chosen here. The parts outlive it. Main
-/// thread.
+/// A choice reads header and source text again, beside the window, and whenever the file is opened from then
+/// on. What is written, copied or printed is made of the file itself, whatever is chosen here. The parts
+/// outlive it. Main thread.
 class EncodingCommand final : public QObject {
   Q_OBJECT
  public:
@@ -55,6 +57,7 @@ class EncodingCommand final : public QObject {
  private:
   void fill();
   void choose(const QString& encodingName);
+  void take(const QString& encodingName, const Result<SourceReading>& reading);
   void select(const QString& encodingName);
   void showGuess(const std::optional<GuessedHeader>& guess);
   void tell(const QString& sentence);
@@ -63,6 +66,7 @@ class EncodingCommand final : public QObject {
   EncodingControls controls_;
   std::weak_ptr<NSImageRep> imageRep_;  ///< gone: nothing with an encoding is shown
   QString chosen_;
+  int choice_ = 0;  ///< counts: the source of a large file is read beside the window
 };
 
 }  // namespace norvex

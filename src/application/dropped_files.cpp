@@ -4,6 +4,8 @@
 #include <QMimeData>
 #include <QWidget>
 
+#include "ui/style/drop_mark.h"
+
 namespace norvex {
 
 QList<QUrl> filesIn(const QMimeData* data) {
@@ -21,15 +23,20 @@ void FileDropTarget::watch(QWidget* window) {
 }
 
 bool FileDropTarget::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove &&
-      event->type() != QEvent::Drop)
+  const QEvent::Type type = event->type();
+  if (type == QEvent::DragLeave || type == QEvent::Drop) delete mark_;
+  if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
     return QObject::eventFilter(watched, event);
   auto* drop = static_cast<QDropEvent*>(event);
   const QList<QUrl> files = filesIn(drop->mimeData());
   if (files.isEmpty() || drop->source()) return false;  // a drag out of our own window is no file to open
   drop->setDropAction(Qt::CopyAction);
   drop->accept();
-  if (event->type() == QEvent::Drop) emit filesDropped(files);
+  if (type == QEvent::DragEnter) {
+    delete mark_;
+    if (auto* window = qobject_cast<QWidget*>(watched)) mark_ = new DropMark(*window);
+  }
+  if (type == QEvent::Drop) emit filesDropped(files);
   return true;
 }
 

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QUrl>
 
 class QMimeData;
@@ -10,10 +11,12 @@ class QWidget;
 
 namespace norvex {
 
+class DropMark;
+
 /// The local files in what is dragged; empty when it holds none.
 [[nodiscard]] QList<QUrl> filesIn(const QMimeData* data);
 
-/// Makes windows take dropped files. Main thread.
+/// Makes windows take dropped files, and show that they do while files are over them. Main thread.
 class FileDropTarget final : public QObject {
   Q_OBJECT
  public:
@@ -25,6 +28,9 @@ class FileDropTarget final : public QObject {
 
  signals:
   void filesDropped(const QList<QUrl>& urls);
+
+ private:
+  QPointer<DropMark> mark_;  ///< in the window that the files are over
 };
 
 }  // namespace norvex

@@ -10,7 +10,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStyledItemDelegate>
-#include <QTextBrowser>
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
@@ -18,6 +17,7 @@
 
 #include "base/localized_string.h"
 #include "ui/panels/centred_window.h"
+#include "ui/panels/fitted_page.h"
 
 namespace norvex {
 namespace {
@@ -61,7 +61,8 @@ QString styleFor(const QPalette& palette) {
              "h1 { font-size: x-large; margin-bottom: 10px; }"
              "h2 { font-size: large; margin-top: 18px; margin-bottom: 6px; }"
              "p, li { line-height: 135%; } li { margin-bottom: 4px; }"
-             "pre { background-color: %1; margin: 8px; } a { color: %2; } .quiet { color: %3; }")
+             "pre { background-color: %1; margin: 8px; white-space: pre-wrap; } a { color: %2; } .quiet { "
+             "color: %3; }")
       .arg(palette.color(QPalette::AlternateBase).name(), palette.color(QPalette::Link).name(), quiet);
 }
 
@@ -85,8 +86,8 @@ QListWidget* makeTopics(QWidget* window) {
   return topics;
 }
 
-QTextBrowser* makePage(QWidget* window) {
-  auto* page = new QTextBrowser(window);
+FittedPage* makePage(QWidget* window) {
+  auto* page = new FittedPage(window);
   page->setAccessibleName(localizedString("Page of the manual"));
   page->setFrameShape(QFrame::NoFrame);
   page->setOpenLinks(false);
@@ -158,6 +159,7 @@ void ManualWindow::showTopic() {
   const QString page = item->data(kPageRole).toString();
   page_->document()->setDefaultStyleSheet(styleFor(palette()) + nameStyle(page));
   page_->setHtml(htmlOf(page));
+  page_->fitPictures();
   markWord();
 }
 

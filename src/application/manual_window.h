@@ -5,9 +5,10 @@
 
 class QLineEdit;
 class QListWidget;
-class QTextBrowser;
 
 namespace norvex {
+
+class FittedPage;
 
 /// The topics beside the page of the one that is chosen, and a field that keeps those topics that hold a word
 /// and marks it on the page. Escape closes it. Main thread.
@@ -18,7 +19,7 @@ class ManualWindow final : public QWidget {
 
   [[nodiscard]] QLineEdit* searchField() const { return search_; }
   [[nodiscard]] QListWidget* topics() const { return topics_; }
-  [[nodiscard]] QTextBrowser* page() const { return page_; }
+  [[nodiscard]] FittedPage* page() const { return page_; }
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -31,7 +32,7 @@ class ManualWindow final : public QWidget {
 
   QLineEdit* search_ = nullptr;
   QListWidget* topics_ = nullptr;
-  QTextBrowser* page_ = nullptr;
+  FittedPage* page_ = nullptr;
 };
 
 /// Names of the pages of the manual in their order, in the user's language where it is there.

@@ -6,8 +6,7 @@
 #include "base/localized_string.h"
 #include "document/document_types.h"
 #include "types/document_kind.h"
-#include "ui/panels/centred_window.h"
-#include "ui/panels/file_columns.h"
+#include "ui/panels/file_dialogs.h"
 #include "ui/panels/modal_dialog.h"
 
 namespace norvex {
@@ -36,10 +35,7 @@ QList<QUrl> runOpenPanel(QWidget* parent, const QString& folder) {
   panel->setFileMode(QFileDialog::ExistingFiles);
   panel->setNameFilters(openPanelFilters());
   panel->setSupportedSchemes({QStringLiteral("file")});
-  showWholeColumns(*panel);
-  showWholePlaces(*panel);
-  nameFolders(*panel);
-  panel->resize(sizeForTexts(*panel, kSize));
+  settleFileDialog(*panel, kSize);
   return panel.isAccepted() ? panel->selectedUrls() : QList<QUrl>();
 }
 

@@ -27,6 +27,18 @@ namespace {
 
 constexpr int kUrlRole = Qt::UserRole;
 constexpr int kIconEdge = 4;  ///< pixels at the icon's sides that are clear
+constexpr QSize kUsual(720, 420);
+
+/// What is around things, and around those in the field for files; pixels.
+struct Gaps {
+  int around;
+  int inField;
+};
+
+/// A low screen has room for what is there, and for less between it.
+Gaps gapsFor(const QWidget& panel) {
+  return fittingScreen(panel, kUsual).height() < kUsual.height() ? Gaps{14, 6} : Gaps{28, 20};
+}
 
 QColor faded(const QColor& color, const QColor& ground, double share) {
   const auto mix = [share](float a, float b) { return float(a * share + b * (1 - share)); };
@@ -88,14 +100,15 @@ StartPanel::StartPanel(RecentFiles& recent, QWidget* parent) : QWidget(parent), 
   connect(&recent_, &RecentFiles::changed, this, &StartPanel::fillRecent);
   fillRecent();
   setMinimumSize(sizeForTexts(*this, {560, 340}));
-  resize(sizeForTexts(*this, {720, 420}));
+  resize(sizeForTexts(*this, kUsual));
   open_->setFocus();
 }
 
 QWidget* StartPanel::makeWelcome() {
   auto* welcome = new QWidget(this);
   auto* column = new QVBoxLayout(welcome);
-  column->setContentsMargins(28, 28, 28, 28);
+  const Gaps gaps = gapsFor(*this);
+  column->setContentsMargins(gaps.around, gaps.around, gaps.around, gaps.around);
   icon_ = new QLabel(welcome);
   icon_->setAccessibleName(QStringLiteral("Norvex"));
   icon_->setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);  // which takes no margin below 0
@@ -105,7 +118,7 @@ QWidget* StartPanel::makeWelcome() {
 
   drop_ = new DropArea(welcome);
   auto* inside = new QVBoxLayout(drop_);
-  inside->setContentsMargins(20, 20, 20, 20);
+  inside->setContentsMargins(gaps.inField, gaps.inField, gaps.inField, gaps.inField);
   open_ = new QPushButton(localizedString("Open…"), drop_);
   open_->setAutoDefault(true);  // pressed by Return, and framed, while it has the focus alone
   open_->setShortcut(QKeySequence::Open);
@@ -123,7 +136,7 @@ QWidget* StartPanel::makeWelcome() {
   column->addSpacing(6);
   column->addWidget(makeLabel(QStringLiteral("Norvex"), 1.7, false, welcome));
   column->addWidget(subtitle);
-  column->addSpacing(18);
+  column->addSpacing(gaps.inField);
   column->addWidget(drop_, 1);
   return welcome;
 }
@@ -134,7 +147,7 @@ QWidget* StartPanel::makeRecent() {
   side->setBackgroundRole(QPalette::Base);
   side->setForegroundRole(QPalette::WindowText);
   auto* column = new QVBoxLayout(side);
-  column->setContentsMargins(20, 28, 20, 20);
+  column->setContentsMargins(20, gapsFor(*this).around, 20, gapsFor(*this).inField);
   auto* title = makeLabel(localizedString("Recent"), 1, true, side);
   title->setContentsMargins(RecentFileDelegate::margin, 0, 0, 0);  // over the pictures of the rows
   list_ = new QListWidget(side);

@@ -1,8 +1,11 @@
 #include "window/about_box.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QIcon>
-#include <QMessageBox>
+#include <QLabel>
+#include <QVBoxLayout>
 
 #include <chrono>
 #include <memory>
@@ -10,12 +13,16 @@
 
 #include "base/background_work.h"
 #include "base/localized_string.h"
+#include "ui/panels/centred_window.h"
 #include "ui/panels/modal_dialog.h"
+#include "ui/panels/panel_body.h"
 
 namespace norvex {
 namespace {
 
 constexpr std::chrono::milliseconds kGrace(500);
+constexpr int kWidth = 520;  // pixels
+constexpr double kNameScale = 1.4;
 
 ConfinementWords& confinementWords() {
   static ConfinementWords words;
@@ -31,19 +38,69 @@ QString description() {
              "of PostScript is under the GNU Affero General Public License, version 3 or later.");
 }
 
-void tell(QMessageBox& box, QString confinement) {
-  confinement.replace(QChar('\n'), QStringLiteral("\n\n"));  // each line is a paragraph
-  box.setInformativeText(description() + QStringLiteral("\n\n") +
-                         localizedString("How the documents that it opens are confined:") +
-                         QStringLiteral("\n\n") + confinement);
+QLabel* makeText(const QString& text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return label;
 }
 
+/// As high as its texts, scrolled where the screen is lower.
+class AboutDialog final : public QDialog {
+ public:
+  explicit AboutDialog(QWidget* parent) : QDialog(parent) {
+    setWindowTitle(localizedString("About Norvex"));
+    auto* contents = new QWidget(this);
+    auto* row = new QHBoxLayout(contents);
+    row->setSpacing(16);
+    auto* icon = new QLabel(contents);
+    icon->setPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), devicePixelRatioF()));
+    row->addWidget(icon, 0, Qt::AlignTop);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(12);
+    row->addLayout(column, 1);
+    auto* name = makeText(QStringLiteral("Norvex %1").arg(QStringLiteral(NORVEX_VERSION)), contents);
+    QFont large = name->font();
+    large.setPointSizeF(large.pointSizeF() * kNameScale);
+    large.setWeight(QFont::DemiBold);
+    name->setFont(large);
+    column->addWidget(name);
+    text_ = makeText(description(), contents);
+    text_->setObjectName(QStringLiteral("aboutText"));
+    column->addWidget(text_);
+    column->addStretch();
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    body_ = fillPanel(*this, contents, buttons);
+    fit();
+  }
+
+  void tell(QString confinement) {
+    confinement.replace(QChar('\n'), QStringLiteral("\n\n"));  // each line is a paragraph
+    text_->setText(description() + QStringLiteral("\n\n") +
+                   localizedString("How the documents that it opens are confined:") + QStringLiteral("\n\n") +
+                   confinement);
+    fit();
+  }
+
+ private:
+  void fit() {
+    body_->updateGeometry();  // it would hear of another text later
+    const int wide = sizeForTexts(*this, QSize(kWidth, 0)).width();
+    resize(fittingScreen(*this, QSize(wide, layout()->totalHeightForWidth(wide))));
+  }
+
+  QLabel* text_ = nullptr;
+  PanelBody* body_ = nullptr;
+};
+
 /// Asks on another thread: a program is started for it. A box that grows would jump, so it waits a moment.
-void addConfinement(QMessageBox& box) {
+void addConfinement(AboutDialog& box) {
   if (!confinementWords()) return;
   const auto answer = std::make_shared<QString>();  // of the thread, until it is done
   const auto show = [&box, answer] {
-    if (!answer->isEmpty()) tell(box, *answer);
+    if (!answer->isEmpty()) box.tell(*answer);
   };
   const BackgroundWork asking = workInBackground(
       &box, [answer, words = confinementWords()] { *answer = words().trimmed(); }, show);
@@ -57,12 +114,7 @@ void setConfinementWords(ConfinementWords words) {
 }
 
 void showAboutBox(QWidget& parent) {
-  ModalDialog<QMessageBox> about(&parent);
-  about->setWindowTitle(localizedString("About Norvex"));
-  about->setTextFormat(Qt::PlainText);
-  about->setText(QStringLiteral("Norvex %1").arg(QStringLiteral(NORVEX_VERSION)));
-  about->setIconPixmap(QApplication::windowIcon().pixmap(QSize(64, 64), parent.devicePixelRatioF()));
-  about->setInformativeText(description());
+  ModalDialog<AboutDialog> about(&parent);
   addConfinement(*about);
   (void)about.isAnswered();
 }

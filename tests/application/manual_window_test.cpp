@@ -5,10 +5,12 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBlock>
-#include <QTextBrowser>
+#include <QTextFragment>
 
 #include "kit/test_main.h"
+#include "ui/panels/fitted_page.h"
 
 using namespace norvex;
 
@@ -141,6 +143,33 @@ class ManualWindowTest : public QObject {
     QFile french(":/manual/fr/window.png");
     QVERIFY(french.open(QIODevice::ReadOnly));
     QCOMPARE(shown.toByteArray(), french.readAll());
+  }
+
+  void aPageThatIsNarrowIsNotScrolledSideways() {
+    ManualWindow manual;
+    manual.show();
+    const QScrollBar& sideways = *manual.page()->horizontalScrollBar();
+    const auto widest = [&manual] {
+      double width = 0;
+      const QTextDocument& document = *manual.page()->document();
+      for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part)
+          width = std::max(width, part.fragment().charFormat().toImageFormat().width());
+      return width;
+    };
+    for (int row = 0; row < manual.topics()->count(); ++row) {
+      manual.topics()->setCurrentRow(row);
+      manual.resize(1000, 640);
+      const double meant = widest();
+      manual.resize(520, 400);
+      QVERIFY2(sideways.maximum() == 0, qPrintable(manual.topics()->item(row)->text()));
+      QVERIFY(widest() <= manual.page()->viewport()->width());
+      manual.resize(1000, 640);
+      QCOMPARE(widest(), meant);
+    }
+    manual.resize(520, 400);
+    manual.topics()->setCurrentRow(0);  // shown when the page is narrow already
+    QCOMPARE(sideways.maximum(), 0);
   }
 
   void everyPictureOfThePagesIsThere() {

@@ -2,10 +2,16 @@
 #include "window/about_box.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
-#include <QMessageBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QSemaphore>
 #include <QTimer>
+
+#include <functional>
 
 #include "base/background_work.h"
 #include "kit/test_main.h"
@@ -15,19 +21,22 @@ using namespace norvex;
 namespace {
 
 /// Shows the box until it tells `part`, or for a time that only a broken box needs, and gives what it told.
-QString told(const QString& part) {
+/// `look` sees it before it is closed.
+QString told(const QString& part, const std::function<void(QDialog&)>& look = {}) {
   QWidget parent;
   QString text;
-  QTimer look;
+  QTimer timer;
   QElapsedTimer since;
   since.start();
-  QObject::connect(&look, &QTimer::timeout, [&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || (!box->informativeText().contains(part) && since.elapsed() < 20'000)) return;
-    text = box->text() + '\n' + box->informativeText();
-    box->reject();
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    const auto* words = box ? box->findChild<QLabel*>("aboutText") : nullptr;
+    if (!words || (!words->text().contains(part) && since.elapsed() < 20'000)) return;
+    for (const QLabel* label : box->findChildren<QLabel*>()) text += label->text() + '\n';
+    if (look) look(*box);
+    box->findChild<QPushButton*>()->click();
   });
-  look.start(5);
+  timer.start(5);
   showAboutBox(parent);
   return text;
 }
@@ -44,7 +53,7 @@ class AboutBoxTest : public QObject {
 
   void itTellsWhatTheProgramIs() {
     const QString text = told("Opens EPS");
-    QVERIFY(text.startsWith("Norvex " NORVEX_VERSION "\n"));
+    QVERIFY(text.contains("Norvex " NORVEX_VERSION "\n"));
     QVERIFY(!text.contains("confined"));
   }
 
@@ -55,6 +64,29 @@ class AboutBoxTest : public QObject {
         text.contains(
             "How the documents that it opens are confined:\n\nLandlock: on, version 7.\n\nLimits: memory."),
         qPrintable(text));
+  }
+
+  void aLongTextIsScrolledAndTheButtonStaysOnTheScreen() {
+    setConfinementWords([] { return QStringLiteral("Nothing may be written.\n").repeated(200); });
+    (void)told("Nothing", [](QDialog& box) {
+      const QRect screen = box.screen()->availableGeometry();
+      QVERIFY(box.height() <= screen.height());
+      const auto* button = box.findChild<QPushButton*>();
+      QVERIFY(box.rect().contains(QRect(button->mapTo(&box, QPoint(0, 0)), button->size())));
+      const auto* text = box.findChild<QLabel*>("aboutText");
+      QVERIFY(text->height() >= text->heightForWidth(text->width()));
+      QVERIFY(box.findChild<QScrollArea*>()->viewport()->height() < text->height());
+    });
+  }
+
+  void aTextThatFitsIsSeenWhole() {
+    setConfinementWords([] { return QStringLiteral("Nothing may be written.\n").repeated(5); });
+    (void)told("Nothing", [](QDialog& box) {
+      const auto* text = box.findChild<QLabel*>("aboutText");
+      const auto* area = box.findChild<QScrollArea*>();
+      QVERIFY(text->height() >= text->heightForWidth(text->width()));
+      QVERIFY(area->viewport()->height() >= area->widget()->height());
+    });
   }
 
   void withoutAnAnswerItTellsTheRest() {

@@ -12,7 +12,7 @@
 
 #include "desktop/memory_save_panel.h"
 #include "kit/test_main.h"
-#include "ui/panels/file_columns.h"
+#include "ui/panels/file_dialogs.h"
 #include "ui/panels/save_sheet.h"
 #include "window/commands/save_to_command.h"
 #include "window/window_fixture.h"
@@ -82,13 +82,53 @@ class SaveSheetTest : public QObject {
     QVERIFY(list->columnWidth(0) > list->columnWidth(1));
   }
 
+  void namesKeepRoomInANarrowSheet() {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("a.png"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(123'456, 'x')) > 0);
+    file.close();
+    SavePanelSettings settings;
+    settings.allowedContentTypes = {UTTypePNG()};
+    settings.directoryURL = QUrl::fromLocalFile(folder.path());
+    SaveSheet sheet(nullptr, settings);
+    sheet.show();
+    const auto* list = sheet.findChild<QTreeView*>("treeView");
+    QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 1);
+    const auto hidden = [list] {
+      QList<int> columns;
+      for (int column = 0; column < 4; ++column)
+        if (list->isColumnHidden(column)) columns << column;
+      return columns;
+    };
+    const auto hasRoom = [list] {
+      return list->columnWidth(0) >= 18 * list->fontMetrics().averageCharWidth();
+    };
+    sheet.resize(1000, 600);
+    QTRY_COMPARE(hidden(), QList<int>());
+    QVERIFY(hasRoom());
+    const QAbstractItemView* view = list;
+    const int date = view->sizeHintForColumn(3);
+    const auto narrow = [&](int names) {  // the list is as wide as that and a date
+      sheet.resize(sheet.width() - list->viewport()->width() + date + names, 600);
+    };
+    narrow(30 * list->fontMetrics().averageCharWidth());
+    QTRY_COMPARE(hidden().value(0), 2);  // the kind goes first
+    QVERIFY(!list->isColumnHidden(3));
+    QVERIFY(hasRoom());
+    narrow(0);
+    if (sheet.width() > sheet.minimumSizeHint().width()) QTRY_COMPARE(hidden(), (QList<int>{1, 2, 3}));
+    QVERIFY(hasRoom());
+    sheet.resize(1000, 600);
+    QTRY_COMPARE(hidden(), QList<int>());
+  }
+
   void placesAreToldByTheirNames() {
     const QTemporaryDir folder(QDir::tempPath() + "/a folder with a name-XXXXXX");
     SavePanelSettings settings;
     settings.allowedContentTypes = {UTTypePNG()};
     SaveSheet sheet(nullptr, settings);
     sheet.setSidebarUrls({QUrl::fromLocalFile(folder.path())});
-    showWholePlaces(sheet);
+    settleFileDialog(sheet);
     sheet.show();
     const auto* places = sheet.findChild<QListView*>("sidebar");
     QVERIFY(places);

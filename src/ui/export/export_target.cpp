@@ -11,6 +11,7 @@
 #include "base/localized_string.h"
 #include "base/path_extension.h"
 #include "base/state_folder.h"
+#include "ui/panels/file_dialogs.h"
 #include "ui/panels/modal_dialog.h"
 #include "ui/style/quiet_text.h"
 
@@ -80,6 +81,7 @@ void ExportTarget::chooseFolder() {
   dialog->setFileMode(QFileDialog::Directory);
   dialog->setOption(QFileDialog::ShowDirsOnly);
   dialog->setSupportedSchemes({QStringLiteral("file")});
+  settleFileDialog(*dialog);
   if (!dialog.isAccepted()) return;
   folder_ = dialog->selectedFiles().value(0);
   showFolder();

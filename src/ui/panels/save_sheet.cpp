@@ -16,8 +16,7 @@
 #include "base/path_extension.h"
 #include "base/state_folder.h"
 #include "types/type_description.h"
-#include "ui/panels/centred_window.h"
-#include "ui/panels/file_columns.h"
+#include "ui/panels/file_dialogs.h"
 #include "ui/panels/modal_dialog.h"
 
 namespace norvex {
@@ -49,10 +48,7 @@ SaveSheet::SaveSheet(QWidget* window, SavePanelSettings settings)
   setWindowTitle(settings_.title);
   setDirectoryUrl(startOf(settings_));
   arrange();
-  showWholeColumns(*this);
-  showWholePlaces(*this);
-  nameFolders(*this);
-  resize(sizeForTexts(*this, kSize));
+  settleFileDialog(*this, kSize);
   selectFile(settings_.nameFieldStringValue);
   showName();
 }

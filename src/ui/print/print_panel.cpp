@@ -26,7 +26,7 @@
 #include "print/page_image.h"
 #include "print/print_job.h"
 #include "ui/panels/centred_window.h"
-#include "ui/panels/file_columns.h"
+#include "ui/panels/file_dialogs.h"
 #include "ui/panels/modal_dialog.h"
 #include "ui/panels/panel_body.h"
 #include "ui/print/document_page_controls.h"
@@ -39,7 +39,6 @@ namespace {
 
 constexpr int kSettleMs = 80;
 constexpr int kRefreshMs = 5000;
-constexpr QSize kFileDialogSize(720, 560);
 constexpr QSize kSmallestPreview(330, 330);
 const QString kSuffix = QStringLiteral("pdf");
 const QString kFileItem = QStringLiteral("\n");  // no printer can be called that
@@ -62,10 +61,7 @@ QString chosenFile(QWidget* panel, const QString& suggestion) {
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setDefaultSuffix(kSuffix);
   dialog->selectFile(suggestion);
-  showWholeColumns(*dialog);
-  showWholePlaces(*dialog);
-  nameFolders(*dialog);
-  dialog->resize(sizeForTexts(*dialog, kFileDialogSize));
+  settleFileDialog(*dialog);
   return dialog.isAccepted() ? dialog->selectedFiles().value(0) : QString();
 }
 

@@ -18,6 +18,7 @@
 #include "picture_check/picture_check.h"
 #include "ui/check/check_page.h"
 #include "ui/check/finding_text.h"
+#include "ui/panels/file_dialogs.h"
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/picture_mark.h"
 #include "ui/source/source_text_view.h"
@@ -128,6 +129,7 @@ void CheckCommand::askForProfile() {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setFileMode(QFileDialog::ExistingFile);
   dialog->setNameFilter(localizedString("Profiles (*.toml)"));
+  settleFileDialog(*dialog);
   connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& path) {
     page_.setProfile(path);
     useProfile(path);

@@ -1,5 +1,5 @@
 // The sentences of errors and remarks that a window tells, as the picture process, the print room and the
-// command line say them: in English, with something at their places.
+// command line say them: in English, with something at their places. With what is told of confinement.
 #pragma once
 
 #include <array>
@@ -242,6 +242,38 @@ inline constexpr std::array toldSentences{
     "a pdfmark whose operands are wrong was left out",
     "a part of the artwork could not be drawn (%1)",
     "the page has errors, and something may be missing on its plates",
+    "Landlock: on, version %1",
+    "Landlock: missing",
+    "No rules of the kernel about files",
+    "Nothing but what engines need can be read, nothing but scratch files written",
+    "Nothing is listed, removed or started besides",
+    "There is no TCP",
+    "There are no signals and no abstract sockets to others",
+    "Devices cannot be controlled",
+    "This version does not cover %1",
+    "TCP",
+    "signals and abstract sockets",
+    "control of devices",
+    "cutting files off",
+    "System calls (seccomp): on",
+    "Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners",
+    "Engines open nothing for writing",
+    "System calls (seccomp): missing",
+    "Every call can be made",
+    "File view (user and mount namespaces): on",
+    "Files other than those that engines need do not exist, and all but scratch files are read-only",
+    "File view (user and mount namespaces): missing",
+    "The system does not permit them to this user",
+    "Network and messages (namespaces): on",
+    "No network exists",
+    "No shared memory or queues of others exist",
+    "Of a single picture on the command line: off, for they take time",
+    "Network and messages (namespaces): missing",
+    "What else is on keeps pictures from them",
+    "Limits: memory, processor time, size and number of files, scratch files; no core files",
+    "This build watches itself, for which it leaves layers out",
+    "Each picture is read in a process of its own that is confined so",
+    "Nothing keeps a picture from this user's files: norvex refuses to read any",
 };
 
 /// Those at whose places stands what a document calls something, whatever word that may be.

@@ -3740,6 +3740,134 @@
         <source>%1 is too large for a profile</source>
         <translation>%1 ist zu groß für ein Profil.</translation>
     </message>
+    <message>
+        <source>Landlock: on, version %1</source>
+        <translation>Landlock: an, Version %1.</translation>
+    </message>
+    <message>
+        <source>Landlock: missing</source>
+        <translation>Landlock: fehlt.</translation>
+    </message>
+    <message>
+        <source>No rules of the kernel about files</source>
+        <translation>Keine Regeln des Kernels für Dateien.</translation>
+    </message>
+    <message>
+        <source>Nothing but what engines need can be read, nothing but scratch files written</source>
+        <translation>Nur was die Bilddienste brauchen, kann gelesen werden, nur Arbeitsdateien geschrieben.</translation>
+    </message>
+    <message>
+        <source>Nothing is listed, removed or started besides</source>
+        <translation>Sonst wird nichts aufgelistet, entfernt oder gestartet.</translation>
+    </message>
+    <message>
+        <source>There is no TCP</source>
+        <translation>Es gibt kein TCP.</translation>
+    </message>
+    <message>
+        <source>There are no signals and no abstract sockets to others</source>
+        <translation>Es gibt keine Signale und keine abstrakten Sockets zu anderen.</translation>
+    </message>
+    <message>
+        <source>Devices cannot be controlled</source>
+        <translation>Geräte können nicht gesteuert werden.</translation>
+    </message>
+    <message>
+        <source>This version does not cover %1</source>
+        <translation>Diese Version deckt nicht ab: %1.</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>signals and abstract sockets</source>
+        <translation>Signale und abstrakte Sockets</translation>
+    </message>
+    <message>
+        <source>control of devices</source>
+        <translation>Steuerung von Geräten</translation>
+    </message>
+    <message>
+        <source>cutting files off</source>
+        <translation>Kürzen von Dateien</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): on</source>
+        <translation>Systemaufrufe (seccomp): an.</translation>
+    </message>
+    <message>
+        <source>Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners</source>
+        <translation>Nur Aufrufe einer Liste: keine Programme, Prozesse, Sockets, Ablaufverfolgung, Einhängungen, Schlüssel, geänderten Rechte oder Eigentümer.</translation>
+    </message>
+    <message>
+        <source>Engines open nothing for writing</source>
+        <translation>Die Bilddienste öffnen nichts zum Schreiben.</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): missing</source>
+        <translation>Systemaufrufe (seccomp): fehlt.</translation>
+    </message>
+    <message>
+        <source>Every call can be made</source>
+        <translation>Jeder Aufruf ist möglich.</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): on</source>
+        <translation>Dateisicht (User- und Mount-Namensräume): an.</translation>
+    </message>
+    <message>
+        <source>Files other than those that engines need do not exist, and all but scratch files are read-only</source>
+        <translation>Andere Dateien als die, die die Bilddienste brauchen, gibt es nicht, und alle außer Arbeitsdateien sind schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): missing</source>
+        <translation>Dateisicht (User- und Mount-Namensräume): fehlt.</translation>
+    </message>
+    <message>
+        <source>The system does not permit them to this user</source>
+        <translation>Das System erlaubt sie diesem Benutzer nicht.</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): on</source>
+        <translation>Netzwerk und Nachrichten (Namensräume): an.</translation>
+    </message>
+    <message>
+        <source>No network exists</source>
+        <translation>Es gibt kein Netzwerk.</translation>
+    </message>
+    <message>
+        <source>No shared memory or queues of others exist</source>
+        <translation>Es gibt weder gemeinsamen Speicher noch Warteschlangen anderer.</translation>
+    </message>
+    <message>
+        <source>Of a single picture on the command line: off, for they take time</source>
+        <translation>Für ein einzelnes Bild auf der Befehlszeile: aus, denn sie kosten Zeit.</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): missing</source>
+        <translation>Netzwerk und Nachrichten (Namensräume): fehlt.</translation>
+    </message>
+    <message>
+        <source>What else is on keeps pictures from them</source>
+        <translation>Was sonst an ist, hält Bilder davon fern.</translation>
+    </message>
+    <message>
+        <source>Limits: memory, processor time, size and number of files, scratch files; no core files</source>
+        <translation>Grenzen: Speicher, Prozessorzeit, Größe und Zahl der Dateien, Arbeitsdateien; keine Speicherabbilder.</translation>
+    </message>
+    <message>
+        <source>This build watches itself, for which it leaves layers out</source>
+        <translation>Dieser Bau überwacht sich selbst und lässt dafür Schichten weg.</translation>
+    </message>
+    <message>
+        <source>Each picture is read in a process of its own that is confined so</source>
+        <translation>Jedes Bild wird in einem eigenen, so abgeschotteten Prozess gelesen.</translation>
+    </message>
+    <message>
+        <source>Nothing keeps a picture from this user's files: norvex refuses to read any</source>
+        <translation>Nichts hält ein Bild von den Dateien dieses Benutzers fern: norvex weigert sich, eines zu lesen.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>

@@ -3740,6 +3740,134 @@
         <source>%1 is too large for a profile</source>
         <translation>%1 is too large for a profile</translation>
     </message>
+    <message>
+        <source>Landlock: on, version %1</source>
+        <translation>Landlock: on, version %1.</translation>
+    </message>
+    <message>
+        <source>Landlock: missing</source>
+        <translation>Landlock: missing.</translation>
+    </message>
+    <message>
+        <source>No rules of the kernel about files</source>
+        <translation>No rules of the kernel about files.</translation>
+    </message>
+    <message>
+        <source>Nothing but what engines need can be read, nothing but scratch files written</source>
+        <translation>Nothing but what engines need can be read, nothing but scratch files written.</translation>
+    </message>
+    <message>
+        <source>Nothing is listed, removed or started besides</source>
+        <translation>Nothing is listed, removed or started besides.</translation>
+    </message>
+    <message>
+        <source>There is no TCP</source>
+        <translation>There is no TCP.</translation>
+    </message>
+    <message>
+        <source>There are no signals and no abstract sockets to others</source>
+        <translation>There are no signals and no abstract sockets to others.</translation>
+    </message>
+    <message>
+        <source>Devices cannot be controlled</source>
+        <translation>Devices cannot be controlled.</translation>
+    </message>
+    <message>
+        <source>This version does not cover %1</source>
+        <translation>This version does not cover %1.</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>signals and abstract sockets</source>
+        <translation>signals and abstract sockets</translation>
+    </message>
+    <message>
+        <source>control of devices</source>
+        <translation>control of devices</translation>
+    </message>
+    <message>
+        <source>cutting files off</source>
+        <translation>cutting files off</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): on</source>
+        <translation>System calls (seccomp): on.</translation>
+    </message>
+    <message>
+        <source>Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners</source>
+        <translation>Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners.</translation>
+    </message>
+    <message>
+        <source>Engines open nothing for writing</source>
+        <translation>Engines open nothing for writing.</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): missing</source>
+        <translation>System calls (seccomp): missing.</translation>
+    </message>
+    <message>
+        <source>Every call can be made</source>
+        <translation>Every call can be made.</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): on</source>
+        <translation>File view (user and mount namespaces): on.</translation>
+    </message>
+    <message>
+        <source>Files other than those that engines need do not exist, and all but scratch files are read-only</source>
+        <translation>Files other than those that engines need do not exist, and all but scratch files are read-only.</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): missing</source>
+        <translation>File view (user and mount namespaces): missing.</translation>
+    </message>
+    <message>
+        <source>The system does not permit them to this user</source>
+        <translation>The system does not permit them to this user.</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): on</source>
+        <translation>Network and messages (namespaces): on.</translation>
+    </message>
+    <message>
+        <source>No network exists</source>
+        <translation>No network exists.</translation>
+    </message>
+    <message>
+        <source>No shared memory or queues of others exist</source>
+        <translation>No shared memory or queues of others exist.</translation>
+    </message>
+    <message>
+        <source>Of a single picture on the command line: off, for they take time</source>
+        <translation>Of a single picture on the command line: off, for they take time.</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): missing</source>
+        <translation>Network and messages (namespaces): missing.</translation>
+    </message>
+    <message>
+        <source>What else is on keeps pictures from them</source>
+        <translation>What else is on keeps pictures from them.</translation>
+    </message>
+    <message>
+        <source>Limits: memory, processor time, size and number of files, scratch files; no core files</source>
+        <translation>Limits: memory, processor time, size and number of files, scratch files; no core files.</translation>
+    </message>
+    <message>
+        <source>This build watches itself, for which it leaves layers out</source>
+        <translation>This build watches itself, for which it leaves layers out.</translation>
+    </message>
+    <message>
+        <source>Each picture is read in a process of its own that is confined so</source>
+        <translation>Each picture is read in a process of its own that is confined so.</translation>
+    </message>
+    <message>
+        <source>Nothing keeps a picture from this user's files: norvex refuses to read any</source>
+        <translation>Nothing keeps a picture from this user's files: norvex refuses to read any.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>

@@ -3740,6 +3740,134 @@
         <source>%1 is too large for a profile</source>
         <translation>%1 es demasiado grande para un perfil.</translation>
     </message>
+    <message>
+        <source>Landlock: on, version %1</source>
+        <translation>Landlock: activo, versión %1.</translation>
+    </message>
+    <message>
+        <source>Landlock: missing</source>
+        <translation>Landlock: no disponible.</translation>
+    </message>
+    <message>
+        <source>No rules of the kernel about files</source>
+        <translation>No hay reglas del núcleo sobre archivos.</translation>
+    </message>
+    <message>
+        <source>Nothing but what engines need can be read, nothing but scratch files written</source>
+        <translation>Solo puede leerse lo que los motores necesitan y escribirse archivos temporales.</translation>
+    </message>
+    <message>
+        <source>Nothing is listed, removed or started besides</source>
+        <translation>Nada más se enumera, se elimina ni se inicia.</translation>
+    </message>
+    <message>
+        <source>There is no TCP</source>
+        <translation>No hay TCP.</translation>
+    </message>
+    <message>
+        <source>There are no signals and no abstract sockets to others</source>
+        <translation>No hay señales ni sockets abstractos hacia otros.</translation>
+    </message>
+    <message>
+        <source>Devices cannot be controlled</source>
+        <translation>Los dispositivos no pueden controlarse.</translation>
+    </message>
+    <message>
+        <source>This version does not cover %1</source>
+        <translation>Esta versión no cubre: %1.</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>signals and abstract sockets</source>
+        <translation>señales y sockets abstractos</translation>
+    </message>
+    <message>
+        <source>control of devices</source>
+        <translation>control de dispositivos</translation>
+    </message>
+    <message>
+        <source>cutting files off</source>
+        <translation>truncado de archivos</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): on</source>
+        <translation>Llamadas al sistema (seccomp): activo.</translation>
+    </message>
+    <message>
+        <source>Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners</source>
+        <translation>Solo las llamadas de una lista: ni programas, procesos, sockets, seguimiento, montajes, claves ni cambios de permisos o propietarios.</translation>
+    </message>
+    <message>
+        <source>Engines open nothing for writing</source>
+        <translation>Los motores no abren nada para escritura.</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): missing</source>
+        <translation>Llamadas al sistema (seccomp): no disponible.</translation>
+    </message>
+    <message>
+        <source>Every call can be made</source>
+        <translation>Se permite cualquier llamada.</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): on</source>
+        <translation>Vista de archivos (espacios de nombres de usuario y de montaje): activa.</translation>
+    </message>
+    <message>
+        <source>Files other than those that engines need do not exist, and all but scratch files are read-only</source>
+        <translation>No existen más archivos que los que los motores necesitan, y todos salvo los temporales son de solo lectura.</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): missing</source>
+        <translation>Vista de archivos (espacios de nombres de usuario y de montaje): no disponible.</translation>
+    </message>
+    <message>
+        <source>The system does not permit them to this user</source>
+        <translation>El sistema no se los permite a este usuario.</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): on</source>
+        <translation>Red y mensajes (espacios de nombres): activo.</translation>
+    </message>
+    <message>
+        <source>No network exists</source>
+        <translation>No existe ninguna red.</translation>
+    </message>
+    <message>
+        <source>No shared memory or queues of others exist</source>
+        <translation>No existen memoria compartida ni colas de otros.</translation>
+    </message>
+    <message>
+        <source>Of a single picture on the command line: off, for they take time</source>
+        <translation>Para una sola imagen en la línea de órdenes: desactivado, pues requieren tiempo.</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): missing</source>
+        <translation>Red y mensajes (espacios de nombres): no disponible.</translation>
+    </message>
+    <message>
+        <source>What else is on keeps pictures from them</source>
+        <translation>Lo demás que está activo mantiene las imágenes alejadas de ello.</translation>
+    </message>
+    <message>
+        <source>Limits: memory, processor time, size and number of files, scratch files; no core files</source>
+        <translation>Límites: memoria, tiempo de procesador, tamaño y número de archivos, archivos temporales; sin volcados de memoria.</translation>
+    </message>
+    <message>
+        <source>This build watches itself, for which it leaves layers out</source>
+        <translation>Esta compilación se vigila a sí misma, para lo cual omite capas.</translation>
+    </message>
+    <message>
+        <source>Each picture is read in a process of its own that is confined so</source>
+        <translation>Cada imagen se lee en un proceso propio confinado de este modo.</translation>
+    </message>
+    <message>
+        <source>Nothing keeps a picture from this user's files: norvex refuses to read any</source>
+        <translation>Nada impide que una imagen acceda a los archivos de este usuario: norvex se niega a leer ninguna.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>

@@ -3740,6 +3740,134 @@
         <source>%1 is too large for a profile</source>
         <translation>%1 est trop grand pour un profil.</translation>
     </message>
+    <message>
+        <source>Landlock: on, version %1</source>
+        <translation>Landlock : actif, version %1.</translation>
+    </message>
+    <message>
+        <source>Landlock: missing</source>
+        <translation>Landlock : absent.</translation>
+    </message>
+    <message>
+        <source>No rules of the kernel about files</source>
+        <translation>Aucune règle du noyau sur les fichiers.</translation>
+    </message>
+    <message>
+        <source>Nothing but what engines need can be read, nothing but scratch files written</source>
+        <translation>Seul ce dont les moteurs ont besoin peut être lu, et seuls des fichiers temporaires écrits.</translation>
+    </message>
+    <message>
+        <source>Nothing is listed, removed or started besides</source>
+        <translation>Rien d’autre n’est listé, supprimé ni lancé.</translation>
+    </message>
+    <message>
+        <source>There is no TCP</source>
+        <translation>TCP n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>There are no signals and no abstract sockets to others</source>
+        <translation>Aucun signal ni socket abstrait vers d’autres processus.</translation>
+    </message>
+    <message>
+        <source>Devices cannot be controlled</source>
+        <translation>Les périphériques ne peuvent pas être commandés.</translation>
+    </message>
+    <message>
+        <source>This version does not cover %1</source>
+        <translation>Cette version ne couvre pas : %1.</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>signals and abstract sockets</source>
+        <translation>signaux et sockets abstraits</translation>
+    </message>
+    <message>
+        <source>control of devices</source>
+        <translation>commande des périphériques</translation>
+    </message>
+    <message>
+        <source>cutting files off</source>
+        <translation>troncature de fichiers</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): on</source>
+        <translation>Appels système (seccomp) : actif.</translation>
+    </message>
+    <message>
+        <source>Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners</source>
+        <translation>Seuls les appels d’une liste : ni programmes, processus, sockets, traçage, montages, clés, ni changements de droits ou de propriétaires.</translation>
+    </message>
+    <message>
+        <source>Engines open nothing for writing</source>
+        <translation>Les moteurs n’ouvrent rien en écriture.</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): missing</source>
+        <translation>Appels système (seccomp) : absent.</translation>
+    </message>
+    <message>
+        <source>Every call can be made</source>
+        <translation>Tous les appels sont possibles.</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): on</source>
+        <translation>Vue des fichiers (espaces de noms utilisateur et montage) : active.</translation>
+    </message>
+    <message>
+        <source>Files other than those that engines need do not exist, and all but scratch files are read-only</source>
+        <translation>Seuls existent les fichiers dont les moteurs ont besoin, et tous sauf les temporaires sont en lecture seule.</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): missing</source>
+        <translation>Vue des fichiers (espaces de noms utilisateur et montage) : absente.</translation>
+    </message>
+    <message>
+        <source>The system does not permit them to this user</source>
+        <translation>Le système ne les permet pas à cet utilisateur.</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): on</source>
+        <translation>Réseau et messages (espaces de noms) : actif.</translation>
+    </message>
+    <message>
+        <source>No network exists</source>
+        <translation>Aucun réseau n’existe.</translation>
+    </message>
+    <message>
+        <source>No shared memory or queues of others exist</source>
+        <translation>Ni mémoire partagée ni files d’attente d’autres n’existent.</translation>
+    </message>
+    <message>
+        <source>Of a single picture on the command line: off, for they take time</source>
+        <translation>Pour une seule image en ligne de commande : inactif, car cela prend du temps.</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): missing</source>
+        <translation>Réseau et messages (espaces de noms) : absent.</translation>
+    </message>
+    <message>
+        <source>What else is on keeps pictures from them</source>
+        <translation>Ce qui est actif par ailleurs en tient les images à l’écart.</translation>
+    </message>
+    <message>
+        <source>Limits: memory, processor time, size and number of files, scratch files; no core files</source>
+        <translation>Limites : mémoire, temps processeur, taille et nombre des fichiers, fichiers temporaires ; pas de vidage mémoire.</translation>
+    </message>
+    <message>
+        <source>This build watches itself, for which it leaves layers out</source>
+        <translation>Cette version se surveille elle-même et omet pour cela des couches.</translation>
+    </message>
+    <message>
+        <source>Each picture is read in a process of its own that is confined so</source>
+        <translation>Chaque image est lue dans un processus à part, ainsi confiné.</translation>
+    </message>
+    <message>
+        <source>Nothing keeps a picture from this user's files: norvex refuses to read any</source>
+        <translation>Rien ne protège les fichiers de cet utilisateur d’une image : norvex refuse d’en lire.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>

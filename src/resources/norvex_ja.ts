@@ -3740,6 +3740,134 @@
         <source>%1 is too large for a profile</source>
         <translation>%1 はプロファイルとしては大きすぎます。</translation>
     </message>
+    <message>
+        <source>Landlock: on, version %1</source>
+        <translation>Landlock：有効、バージョン %1。</translation>
+    </message>
+    <message>
+        <source>Landlock: missing</source>
+        <translation>Landlock：ありません。</translation>
+    </message>
+    <message>
+        <source>No rules of the kernel about files</source>
+        <translation>ファイルについてのカーネルの規則がありません。</translation>
+    </message>
+    <message>
+        <source>Nothing but what engines need can be read, nothing but scratch files written</source>
+        <translation>エンジンが必要とするもの以外は読めず、作業ファイル以外には書けません。</translation>
+    </message>
+    <message>
+        <source>Nothing is listed, removed or started besides</source>
+        <translation>それ以外の一覧、削除、起動はできません。</translation>
+    </message>
+    <message>
+        <source>There is no TCP</source>
+        <translation>TCP は使えません。</translation>
+    </message>
+    <message>
+        <source>There are no signals and no abstract sockets to others</source>
+        <translation>ほかのプロセスへのシグナルと抽象ソケットはありません。</translation>
+    </message>
+    <message>
+        <source>Devices cannot be controlled</source>
+        <translation>デバイスは制御できません。</translation>
+    </message>
+    <message>
+        <source>This version does not cover %1</source>
+        <translation>このバージョンの対象外：%1。</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>signals and abstract sockets</source>
+        <translation>シグナルと抽象ソケット</translation>
+    </message>
+    <message>
+        <source>control of devices</source>
+        <translation>デバイスの制御</translation>
+    </message>
+    <message>
+        <source>cutting files off</source>
+        <translation>ファイルの切り詰め</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): on</source>
+        <translation>システムコール (seccomp)：有効。</translation>
+    </message>
+    <message>
+        <source>Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners</source>
+        <translation>一覧にある呼び出しのみ：プログラム、プロセス、ソケット、トレース、マウント、鍵、権限や所有者の変更はできません。</translation>
+    </message>
+    <message>
+        <source>Engines open nothing for writing</source>
+        <translation>エンジンは何も書き込み用に開きません。</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): missing</source>
+        <translation>システムコール (seccomp)：ありません。</translation>
+    </message>
+    <message>
+        <source>Every call can be made</source>
+        <translation>どの呼び出しもできます。</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): on</source>
+        <translation>ファイルの見え方 (ユーザーとマウントの名前空間)：有効。</translation>
+    </message>
+    <message>
+        <source>Files other than those that engines need do not exist, and all but scratch files are read-only</source>
+        <translation>エンジンが必要とするファイルだけが存在し、作業ファイル以外は読み取り専用です。</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): missing</source>
+        <translation>ファイルの見え方 (ユーザーとマウントの名前空間)：ありません。</translation>
+    </message>
+    <message>
+        <source>The system does not permit them to this user</source>
+        <translation>システムがこのユーザーに許可していません。</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): on</source>
+        <translation>ネットワークとメッセージ (名前空間)：有効。</translation>
+    </message>
+    <message>
+        <source>No network exists</source>
+        <translation>ネットワークは存在しません。</translation>
+    </message>
+    <message>
+        <source>No shared memory or queues of others exist</source>
+        <translation>ほかの共有メモリーやキューは存在しません。</translation>
+    </message>
+    <message>
+        <source>Of a single picture on the command line: off, for they take time</source>
+        <translation>コマンドラインでの 1 枚だけの画像では、時間がかかるため無効です。</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): missing</source>
+        <translation>ネットワークとメッセージ (名前空間)：ありません。</translation>
+    </message>
+    <message>
+        <source>What else is on keeps pictures from them</source>
+        <translation>ほかの有効な仕組みが画像を遠ざけています。</translation>
+    </message>
+    <message>
+        <source>Limits: memory, processor time, size and number of files, scratch files; no core files</source>
+        <translation>制限：メモリー、プロセッサー時間、ファイルの大きさと数、作業ファイル。コアファイルは作りません。</translation>
+    </message>
+    <message>
+        <source>This build watches itself, for which it leaves layers out</source>
+        <translation>このビルドは自らを監視するため、いくつかの層を省いています。</translation>
+    </message>
+    <message>
+        <source>Each picture is read in a process of its own that is confined so</source>
+        <translation>画像はそれぞれ、このように隔離された専用のプロセスで読み込まれます。</translation>
+    </message>
+    <message>
+        <source>Nothing keeps a picture from this user's files: norvex refuses to read any</source>
+        <translation>画像をこのユーザーのファイルから遠ざけるものがないため、norvex はどの画像も読み込みません。</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>

@@ -3740,6 +3740,134 @@
         <source>%1 is too large for a profile</source>
         <translation>%1 过大，不能用作配置。</translation>
     </message>
+    <message>
+        <source>Landlock: on, version %1</source>
+        <translation>Landlock：已启用，版本 %1。</translation>
+    </message>
+    <message>
+        <source>Landlock: missing</source>
+        <translation>Landlock：不可用。</translation>
+    </message>
+    <message>
+        <source>No rules of the kernel about files</source>
+        <translation>内核没有关于文件的规则。</translation>
+    </message>
+    <message>
+        <source>Nothing but what engines need can be read, nothing but scratch files written</source>
+        <translation>只能读取引擎所需的内容，只能写入临时文件。</translation>
+    </message>
+    <message>
+        <source>Nothing is listed, removed or started besides</source>
+        <translation>除此之外不能列出、删除或启动任何内容。</translation>
+    </message>
+    <message>
+        <source>There is no TCP</source>
+        <translation>没有 TCP。</translation>
+    </message>
+    <message>
+        <source>There are no signals and no abstract sockets to others</source>
+        <translation>没有通往其他进程的信号和抽象套接字。</translation>
+    </message>
+    <message>
+        <source>Devices cannot be controlled</source>
+        <translation>不能控制设备。</translation>
+    </message>
+    <message>
+        <source>This version does not cover %1</source>
+        <translation>此版本不涵盖：%1。</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>signals and abstract sockets</source>
+        <translation>信号和抽象套接字</translation>
+    </message>
+    <message>
+        <source>control of devices</source>
+        <translation>控制设备</translation>
+    </message>
+    <message>
+        <source>cutting files off</source>
+        <translation>截断文件</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): on</source>
+        <translation>系统调用 (seccomp)：已启用。</translation>
+    </message>
+    <message>
+        <source>Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners</source>
+        <translation>只允许列表中的调用：不允许程序、进程、套接字、跟踪、挂载、密钥以及更改权限或所有者。</translation>
+    </message>
+    <message>
+        <source>Engines open nothing for writing</source>
+        <translation>引擎不会以写入方式打开任何内容。</translation>
+    </message>
+    <message>
+        <source>System calls (seccomp): missing</source>
+        <translation>系统调用 (seccomp)：不可用。</translation>
+    </message>
+    <message>
+        <source>Every call can be made</source>
+        <translation>可以进行任何调用。</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): on</source>
+        <translation>文件视图（用户和挂载命名空间）：已启用。</translation>
+    </message>
+    <message>
+        <source>Files other than those that engines need do not exist, and all but scratch files are read-only</source>
+        <translation>只存在引擎所需的文件，除临时文件外均为只读。</translation>
+    </message>
+    <message>
+        <source>File view (user and mount namespaces): missing</source>
+        <translation>文件视图（用户和挂载命名空间）：不可用。</translation>
+    </message>
+    <message>
+        <source>The system does not permit them to this user</source>
+        <translation>系统不允许此用户使用。</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): on</source>
+        <translation>网络和消息（命名空间）：已启用。</translation>
+    </message>
+    <message>
+        <source>No network exists</source>
+        <translation>不存在网络。</translation>
+    </message>
+    <message>
+        <source>No shared memory or queues of others exist</source>
+        <translation>不存在他人的共享内存或队列。</translation>
+    </message>
+    <message>
+        <source>Of a single picture on the command line: off, for they take time</source>
+        <translation>在命令行处理单张图片时：关闭，因为需要时间。</translation>
+    </message>
+    <message>
+        <source>Network and messages (namespaces): missing</source>
+        <translation>网络和消息（命名空间）：不可用。</translation>
+    </message>
+    <message>
+        <source>What else is on keeps pictures from them</source>
+        <translation>其他已启用的措施会阻止图片接触它们。</translation>
+    </message>
+    <message>
+        <source>Limits: memory, processor time, size and number of files, scratch files; no core files</source>
+        <translation>限制：内存、处理器时间、文件大小和数量、临时文件；不生成核心转储文件。</translation>
+    </message>
+    <message>
+        <source>This build watches itself, for which it leaves layers out</source>
+        <translation>此构建会监视自身，因此省略了一些防护层。</translation>
+    </message>
+    <message>
+        <source>Each picture is read in a process of its own that is confined so</source>
+        <translation>每张图片都在各自这样隔离的进程中读取。</translation>
+    </message>
+    <message>
+        <source>Nothing keeps a picture from this user's files: norvex refuses to read any</source>
+        <translation>没有任何措施能阻止图片访问此用户的文件：norvex 拒绝读取任何图片。</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>

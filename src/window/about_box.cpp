@@ -13,6 +13,8 @@
 
 #include "base/background_work.h"
 #include "base/localized_string.h"
+#include "base/sentence.h"
+#include "picture/localized_error.h"
 #include "ui/panels/centred_window.h"
 #include "ui/panels/modal_dialog.h"
 #include "ui/panels/panel_body.h"
@@ -36,6 +38,21 @@ QString description() {
          localizedString(
              "Free software under the GNU General Public License, version 3 or later. The interpreter "
              "of PostScript is under the GNU Affero General Public License, version 3 or later.");
+}
+
+/// Each line is a paragraph of sentences.
+QString localizedConfinement(const QString& lines) {
+  QStringList paragraphs;
+  for (const QString& line : lines.split(u'\n')) {
+    QString paragraph;
+    for (const QString& sentence : line.split(QStringLiteral(". "))) {
+      const QString told = localizedSentence(withoutFullStop(sentence));
+      paragraph +=
+          (paragraph.isEmpty() || paragraph.endsWith(u'\u3002') ? QString() : QStringLiteral(" ")) + told;
+    }
+    paragraphs << paragraph;
+  }
+  return paragraphs.join(QStringLiteral("\n\n"));
 }
 
 QLabel* makeText(const QString& text, QWidget* parent) {
@@ -76,11 +93,10 @@ class AboutDialog final : public QDialog {
     fit();
   }
 
-  void tell(QString confinement) {
-    confinement.replace(QChar('\n'), QStringLiteral("\n\n"));  // each line is a paragraph
+  void tell(const QString& confinement) {
     text_->setText(description() + QStringLiteral("\n\n") +
                    localizedString("How the documents that it opens are confined:") + QStringLiteral("\n\n") +
-                   confinement);
+                   localizedConfinement(confinement));
     fit();
   }
 

@@ -44,12 +44,9 @@ const QStringList kUnheard{
     "the picture process is not there",
     "there is no such page",
     // Shown as details, or on the command line.
-    "control of devices",
-    "cutting files off",
     "exit code %1",
     "it draws no page",
     "line %1: %2",
-    "signals and abstract sockets",
     // Programs, names, words of a library that are looked for.
     "%1 by Tembrolix.",
     "errors were encountered",

@@ -10,10 +10,12 @@
 #include <QScrollArea>
 #include <QSemaphore>
 #include <QTimer>
+#include <QTranslator>
 
 #include <functional>
 
 #include "base/background_work.h"
+#include "base/sentence.h"
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -40,6 +42,26 @@ QString told(const QString& part, const std::function<void(QDialog&)>& look = {}
   showAboutBox(parent);
   return text;
 }
+
+/// The table of sentences in a language that nobody speaks.
+class Starred final : public QTranslator {
+ public:
+  QString translate(const char* context, const char* key, const char*, int) const override {
+    return qstrcmp(context, sentenceTable) == 0 ? u'*' + QString::fromUtf8(key) + u'\u3002' : QString();
+  }
+  bool isEmpty() const override { return false; }
+};
+
+/// As the picture process says it where everything is on, and where a layer is missing or old.
+const QString kStatus = QStringLiteral(
+    "Landlock: on, version 2. Nothing but what engines need can be read, nothing but scratch files written. "
+    "Nothing is "
+    "listed, removed or started besides. There is no TCP. There are no signals and no abstract sockets to "
+    "others. "
+    "Devices cannot be controlled. This version does not cover signals and abstract sockets, control of "
+    "devices.\n"
+    "System calls (seccomp): missing. Every call can be made.\n"
+    "Each picture is read in a process of its own that is confined so.\n");
 
 }  // namespace
 
@@ -87,6 +109,20 @@ class AboutBoxTest : public QObject {
       QVERIFY(text->height() >= text->heightForWidth(text->width()));
       QVERIFY(area->viewport()->height() >= area->widget()->height());
     });
+  }
+
+  void whatConfinesDocumentsIsToldInTheUsersLanguage() {
+    Starred language;
+    QCoreApplication::installTranslator(&language);
+    setConfinementWords([] { return kStatus; });
+    const QString text = told("*Each");
+    QCoreApplication::removeTranslator(&language);
+    QVERIFY2(text.contains("*Landlock: on, version 2\u3002*Nothing but what"), qPrintable(text));
+    QVERIFY2(text.contains(
+                 "*This version does not cover *signals and abstract sockets, *control of devices\u3002\n\n"
+                 "*System calls (seccomp): missing\u3002*Every call can be made\u3002\n\n*Each picture"),
+             qPrintable(text));
+    QCOMPARE(text.count(u'*'), 12);
   }
 
   void withoutAnAnswerItTellsTheRest() {

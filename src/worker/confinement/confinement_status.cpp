@@ -30,25 +30,25 @@ bool works(const std::function<bool()>& layer) {
 
 std::string landlockLine(bool on, const LandlockAbilities& has) {
   if (!on) return "Landlock: missing. No rules of the kernel about files.\n";
-  std::string gives =
-      "Landlock: on, version " + std::to_string(has.abi) +
-      ". Nothing but what engines need can be read, nothing but scratch files written; nothing is "
-      "listed, removed or started besides";
+  std::string gives = "Landlock: on, version " + std::to_string(has.abi) +
+                      ". Nothing but what engines need can be read, nothing but scratch files written. "
+                      "Nothing is listed, removed or started besides.";
   std::string lacks;
   const auto tell = [&](bool there, const char* what, const char* missing) {
     (there ? gives : lacks) += std::string(there || lacks.empty() ? "" : ", ") + (there ? what : missing);
   };
-  tell(has.network(), "; no TCP", "TCP");
-  tell(has.scopes(), "; no signals or abstract sockets to others", "signals and abstract sockets");
-  tell(has.devices(), "; no control of devices", "control of devices");
+  tell(has.network(), " There is no TCP.", "TCP");
+  tell(has.scopes(), " There are no signals and no abstract sockets to others.",
+       "signals and abstract sockets");
+  tell(has.devices(), " Devices cannot be controlled.", "control of devices");
   tell(has.truncating(), "", "cutting files off");
-  return gives + (lacks.empty() ? ".\n" : ". Not covered by this version: " + lacks + ".\n");
+  return gives + (lacks.empty() ? "\n" : " This version does not cover " + lacks + ".\n");
 }
 
 std::string callsLine(bool on) {
   return on ? "System calls (seccomp): on. Only calls on a list: no programs, processes, sockets, tracing, "
               "mounts, "
-              "keys, changed modes or owners; engines open nothing for writing.\n"
+              "keys, changed modes or owners. Engines open nothing for writing.\n"
             : "System calls (seccomp): missing. Every call can be made.\n";
 }
 
@@ -63,10 +63,10 @@ std::string viewLine(bool on) {
 std::string namespacesLine(const OwnNamespaces& own) {
   if (!own.network && !own.messages)
     return "Network and messages (namespaces): missing. What else is on keeps pictures from them.\n";
-  std::string line = "Network and messages (namespaces): on";
-  if (own.network) line += ", no network exists";
-  if (own.messages) line += ", no shared memory or queues of others exist";
-  return line + ". Of a single picture on the command line: off, for they take time.\n";
+  std::string line = "Network and messages (namespaces): on.";
+  if (own.network) line += " No network exists.";
+  if (own.messages) line += " No shared memory or queues of others exist.";
+  return line + " Of a single picture on the command line: off, for they take time.\n";
 }
 
 /// In a process of its own, as everything here.

@@ -84,19 +84,19 @@ class ConfinementStatusTest : public QObject {
     if (said.contains("missing")) QSKIP("this system has not got them all");
     const int version = landlockAbilities().abi;
     if (version >= 6)
-      QVERIFY2(
-          said.startsWith("Landlock: on, version " + QByteArray::number(version) +
-                          ". Nothing but what engines need can be read, nothing but scratch files "
-                          "written; nothing is listed, removed or started besides; no TCP; no signals or "
-                          "abstract sockets to others; no control of devices.\n"),
-          said.constData());
+      QVERIFY2(said.startsWith(
+                   "Landlock: on, version " + QByteArray::number(version) +
+                   ". Nothing but what engines need can be read, nothing but scratch files "
+                   "written. Nothing is listed, removed or started besides. There is no TCP. There are no "
+                   "signals and no abstract sockets to others. Devices cannot be controlled.\n"),
+               said.constData());
     for (const char* line :
          {"\nSystem calls (seccomp): on. Only calls on a list: no programs, processes, sockets, tracing, "
-          "mounts, keys, changed modes or owners; engines open nothing for writing.\n",
+          "mounts, keys, changed modes or owners. Engines open nothing for writing.\n",
           "\nFile view (user and mount namespaces): on. Files other than those that engines need do not "
           "exist, "
           "and all but scratch files are read-only.\n",
-          "\nNetwork and messages (namespaces): on, no network exists, no shared memory or queues of others "
+          "\nNetwork and messages (namespaces): on. No network exists. No shared memory or queues of others "
           "exist. Of a single picture on the command line: off, for they take time.\n",
           "\nEach picture is read in a process of its own that is confined so.\n"})
       QVERIFY2(said.contains(line), said.constData());

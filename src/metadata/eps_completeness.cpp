@@ -10,6 +10,7 @@
 #include "metadata/dos_eps_header.h"
 #include "metadata/eps_lines.h"
 #include "metadata/eps_program.h"
+#include "metadata/eps_resources.h"
 
 namespace norvex {
 namespace {
@@ -127,11 +128,24 @@ qint64 missingBytes(QByteArrayView source, qsizetype start, quint32 offset, quin
   return std::clamp<qint64>(qint64(start) + offset + length - source.size(), 0, length);
 }
 
-QString missingSentence(const char* what, qint64 missing, quint32 length) {
+QString missingSentence(const char* what, qint64 missing, qint64 length) {
   return QStringLiteral("the file is cut off: %1 of the %2 bytes of %3 are missing")
       .arg(missing)
       .arg(length)
       .arg(QLatin1String(what));
+}
+
+/// One sentence for all plates within the file. Their offsets count from the program's start, with some
+/// writers of binary files from the file's: so only what lies behind the end either way is missing.
+QString missingPlates(const QByteArray& source) {
+  qint64 missing = 0, length = 0;
+  for (const EpsPlate& plate : epsResources(source).plates) {
+    if (plate.offset < 0) continue;
+    const qint64 present = std::clamp<qint64>(source.size() - plate.offset, 0, plate.length);
+    if (qAddOverflow(length, plate.length, &length)) return {};  // no lengths at all
+    missing += plate.length - present;
+  }
+  return missing > 0 ? missingSentence("its plates", missing, length) : QString();
 }
 
 }  // namespace
@@ -146,6 +160,7 @@ QStringList epsMissingParts(const QByteArray& source) {
     if (tiff > 0) missing << missingSentence("its preview", tiff, header->tiffLength);
     if (postScript > 0) return missing;
   }
+  if (const QString plates = missingPlates(source); !plates.isEmpty()) return missing << plates;
   if (const QByteArray program = epsProgram(source); stopsEarly(program))
     missing << QStringLiteral("the file seems cut off: its PostScript stops before its end");
   return missing;

@@ -151,6 +151,7 @@ inline constexpr std::array toldSentences{
     "Too many open files",
     "its PostScript",
     "its preview",
+    "its plates",
     "its page",
     "its pages",
     "no reason is given",

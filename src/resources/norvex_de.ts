@@ -3065,6 +3065,10 @@
         <translation>ihre Vorschau</translation>
     </message>
     <message>
+        <source>its plates</source>
+        <translation>ihre Druckplatten</translation>
+    </message>
+    <message>
         <source>its page</source>
         <translation>ihre Seite</translation>
     </message>

@@ -3065,6 +3065,10 @@
         <translation>its preview</translation>
     </message>
     <message>
+        <source>its plates</source>
+        <translation>its plates</translation>
+    </message>
+    <message>
         <source>its page</source>
         <translation>its page</translation>
     </message>

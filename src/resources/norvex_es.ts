@@ -3065,6 +3065,10 @@
         <translation>su vista previa</translation>
     </message>
     <message>
+        <source>its plates</source>
+        <translation>sus planchas</translation>
+    </message>
+    <message>
         <source>its page</source>
         <translation>su página</translation>
     </message>

@@ -3065,6 +3065,10 @@
         <translation>son aperçu</translation>
     </message>
     <message>
+        <source>its plates</source>
+        <translation>ses plaques</translation>
+    </message>
+    <message>
         <source>its page</source>
         <translation>sa page</translation>
     </message>

@@ -3065,6 +3065,10 @@
         <translation>プレビューの部分</translation>
     </message>
     <message>
+        <source>its plates</source>
+        <translation>版の部分</translation>
+    </message>
+    <message>
         <source>its page</source>
         <translation>ページ</translation>
     </message>

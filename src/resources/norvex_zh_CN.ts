@@ -3065,6 +3065,10 @@
         <translation>其预览</translation>
     </message>
     <message>
+        <source>its plates</source>
+        <translation>其印版</translation>
+    </message>
+    <message>
         <source>its page</source>
         <translation>其页面</translation>
     </message>

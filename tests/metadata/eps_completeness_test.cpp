@@ -3,6 +3,8 @@
 
 #include <QtEndian>
 
+#include <limits>
+
 #include "kit/program.h"
 #include "kit/test_main.h"
 
@@ -132,6 +134,25 @@ class EpsCompletenessTest : public QObject {
         both[0],
         QString("the file is cut off: %1 of the %1 bytes of its PostScript are missing").arg(kWhole.size()));
     QCOMPARE(both[1], QString("the file is cut off: 40 of the 100 bytes of its preview are missing"));
+  }
+
+  void platesWithinTheFileAreCounted() {
+    const auto separated = [](const QByteArray& cyan, const QByteArray& black) {
+      return "%!PS-Adobe-3.0 EPSF-3.0\n%%PlateFile: (Cyan) EPS #" + cyan + "\n%%PlateFile: (Black) EPS #" +
+             black + "\n%%PlateFile: (Gold) EPS Local gold.eps\n" + kWhole.sliced(kWhole.indexOf('\n') + 1);
+    };
+    const auto told = [](const char* missing, const char* length) {
+      return QStringList{
+          QString("the file is cut off: %1 of the %2 bytes of its plates are missing").arg(missing, length)};
+    };
+    const QByteArray file = separated("900 100", "1000 100").leftJustified(900, '\n') + QByteArray(200, ' ');
+    QCOMPARE(epsMissingParts(file), QStringList());
+    QCOMPARE(epsMissingParts(file.chopped(30)), told("30", "200"));
+    QCOMPARE(epsMissingParts(file.chopped(130)), told("130", "200"));
+    QCOMPARE(epsMissingParts(binary("II*", file)), QStringList());
+    const QByteArray most = QByteArray::number(std::numeric_limits<qint64>::max());
+    QCOMPARE(epsMissingParts(separated(most + " " + most, "1 1")), QStringList());  // no number of bytes
+    QCOMPARE(epsMissingParts(separated(most + " 7", "1 1")), told("7", "8"));
   }
 
   void theLargestNumbersDoNotOverflow() {

@@ -13,6 +13,7 @@ inline constexpr std::array figureSentences{
     "the file is cut off: %1 of the %2 bytes of %3 are missing",
     "its PostScript",
     "its preview",
+    "its plates",
     "the file seems cut off: its PostScript stops before its end",
     "there is no %%BoundingBox",
     "the file is wrapped as %1, with a Macintosh picture (PICT) of %2 × %3 points as its preview",

@@ -132,6 +132,7 @@ inline constexpr std::array toldSentences{
     "at %1 dpi a plate has %2 million pixels, and at most %3 million can be handled",
     "the print service cannot be reached",
     "the print service does not answer",
+    "the print service gives no answer that makes sense",
     "there is no printer",
     "no printer is the default one",
     "there is no printer named “%1”",

@@ -12,6 +12,7 @@ namespace norvex {
 namespace {
 
 constexpr qsizetype kPieceBytes = 64 << 10;
+constexpr int kSystemErrors = 134;  // numbers of errors that Linux knows
 
 /// REQUIRES a connection, which there is only with the library.
 const CupsLibrary& cups() {
@@ -75,17 +76,23 @@ struct FreeInfo {
 /// The printers that the server knows.
 class Destinations {
  public:
-  explicit Destinations(http_t* http) : count_(cups().cupsGetDests2(http, &first_)) {}
+  explicit Destinations(http_t* http)
+      : count_(cups().cupsGetDests2(http, &first_)),
+        known_(count_ > 0 || cups().cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE ||
+               cups().cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND) {}
   ~Destinations() { cups().cupsFreeDests(count_, first_); }
   Destinations(const Destinations&) = delete;
   Destinations& operator=(const Destinations&) = delete;
 
+  /// False: there is no list, which is not the same as an empty one.
+  [[nodiscard]] bool areKnown() const { return known_; }
   [[nodiscard]] int count() const { return count_; }
   [[nodiscard]] cups_dest_t& at(int i) const { return first_[i]; }
 
  private:
   cups_dest_t* first_ = nullptr;
   int count_;
+  bool known_;
 };
 
 class Options {
@@ -129,11 +136,19 @@ Printer printerOf(const cups_dest_t& destination) {
   return printer;
 }
 
-/// The service's last words, as the rest of a sentence.
-QString lastReason() {
-  QString text = QString::fromUtf8(cups().cupsLastErrorString()).simplified().left(200);
-  while (text.endsWith(u'.')) text.chop(1);
-  return text.isEmpty() ? QStringLiteral("no reason is given") : text;
+/// The service's last words, as the rest of a sentence. Nothing: where the service said none itself, the
+/// library gives the C library's word for whatever went wrong there last, even "Success".
+std::optional<QString> lastReason() {
+  const QString text = QString::fromUtf8(cups().cupsLastErrorString());
+  for (int number = 0; number < kSystemErrors; ++number)
+    if (text == qt_error_string(number)) return std::nullopt;
+  QString reason = text.simplified().left(200);
+  while (reason.endsWith(u'.')) reason.chop(1);
+  return reason.isEmpty() ? QStringLiteral("no reason is given") : reason;
+}
+
+Error notUnderstood() {
+  return {ErrorKind::CannotWrite, QStringLiteral("the print service gives no answer that makes sense")};
 }
 
 Error refused(const QString& printer) {
@@ -158,8 +173,10 @@ Error notPrinted(const QString& printer) {
     default:
       break;
   }
+  const std::optional<QString> reason = lastReason();
+  if (!reason) return notUnderstood();
   return {ErrorKind::CannotWrite,
-          QStringLiteral("the printer “%1” did not take the job: %2").arg(printer, lastReason())};
+          QStringLiteral("the printer “%1” did not take the job: %2").arg(printer, *reason)};
 }
 
 /// The default printer when it is nobody's name.
@@ -217,6 +234,7 @@ Result<QList<Printer>> CupsSpooler::printers(const CancelToken& cancel) {
   if (!connection.isOpen()) return NullPrintSpooler::unreachable();
   const Destinations all(connection.http());
   if (const auto broken = connection.whatBrokeIt()) return *broken;
+  if (!all.areKnown()) return notUnderstood();
   QList<Printer> printers;
   for (int i = 0; i < all.count(); ++i)
     if (isPlain(all.at(i))) printers << printerOf(all.at(i));
@@ -229,6 +247,7 @@ Result<int> CupsSpooler::print(const PrintTicket& ticket, const QByteArray& pdf,
   http_t* const http = connection.http();
   const Destinations all(http);
   if (const auto broken = connection.whatBrokeIt()) return *broken;
+  if (!all.areKnown()) return notUnderstood();
   const Result<cups_dest_t*> destination = chosen(all, ticket.printer);
   if (!destination) return destination.error();
   const QString name = QString::fromUtf8((*destination)->name);

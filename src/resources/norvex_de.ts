@@ -2989,6 +2989,10 @@
         <translation>Der Druckdienst antwortet nicht.</translation>
     </message>
     <message>
+        <source>the print service gives no answer that makes sense</source>
+        <translation>Der Druckdienst gibt keine sinnvolle Antwort.</translation>
+    </message>
+    <message>
         <source>there is no printer</source>
         <translation>Es gibt keinen Drucker.</translation>
     </message>

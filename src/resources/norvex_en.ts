@@ -2989,6 +2989,10 @@
         <translation>the print service does not answer</translation>
     </message>
     <message>
+        <source>the print service gives no answer that makes sense</source>
+        <translation>the print service gives no answer that makes sense</translation>
+    </message>
+    <message>
         <source>there is no printer</source>
         <translation>there is no printer</translation>
     </message>

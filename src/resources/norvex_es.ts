@@ -2989,6 +2989,10 @@
         <translation>El servicio de impresión no responde.</translation>
     </message>
     <message>
+        <source>the print service gives no answer that makes sense</source>
+        <translation>El servicio de impresión no da ninguna respuesta comprensible.</translation>
+    </message>
+    <message>
         <source>there is no printer</source>
         <translation>No hay ninguna impresora.</translation>
     </message>

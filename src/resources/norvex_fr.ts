@@ -2989,6 +2989,10 @@
         <translation>Le service d’impression ne répond pas.</translation>
     </message>
     <message>
+        <source>the print service gives no answer that makes sense</source>
+        <translation>Le service d’impression ne donne aucune réponse compréhensible.</translation>
+    </message>
+    <message>
         <source>there is no printer</source>
         <translation>Il n’y a pas d’imprimante.</translation>
     </message>

@@ -2989,6 +2989,10 @@
         <translation>プリントサービスが応答しません。</translation>
     </message>
     <message>
+        <source>the print service gives no answer that makes sense</source>
+        <translation>プリントサービスから意味のある応答がありません。</translation>
+    </message>
+    <message>
         <source>there is no printer</source>
         <translation>プリンタがありません。</translation>
     </message>

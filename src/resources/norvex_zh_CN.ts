@@ -2989,6 +2989,10 @@
         <translation>打印服务没有应答。</translation>
     </message>
     <message>
+        <source>the print service gives no answer that makes sense</source>
+        <translation>打印服务没有给出可以理解的应答。</translation>
+    </message>
+    <message>
         <source>there is no printer</source>
         <translation>没有打印机。</translation>
     </message>

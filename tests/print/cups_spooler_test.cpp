@@ -13,6 +13,7 @@
 #include "base/file_descriptor.h"
 
 #include "kit/test_main.h"
+#include "print/talking_server.h"
 #include "system/print_server.h"
 
 using namespace norvex;
@@ -166,6 +167,28 @@ class CupsSpoolerTest : public QObject {
     QCOMPARE(job.error().message, QString("the print service does not answer"));
     QCOMPARE(printers.error().message, QString("the print service does not answer"));
     QCOMPARE(server_->jobs(), 0);
+  }
+
+  void anAnswerThatMakesNoSenseIsNotTakenForNoPrinters_data() {
+    QTest::addColumn<QByteArray>("answer");
+    const QByteArray head =
+        "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\nContent-Length: 1000\r\n\r\n";
+    QTest::newRow("none") << QByteArray();
+    QTest::newRow("half of one") << head + QByteArray("\x02\x00\x00\x00\x00\x00\x00\x01\x01\x47\x00\x12", 12);
+    QTest::newRow("something else") << head + QByteArray(1000, '~');
+    QTest::newRow("an error") << QByteArray(
+        "HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n");
+  }
+  void anAnswerThatMakesNoSenseIsNotTakenForNoPrinters() {
+    QFETCH(QByteArray, answer);
+    const TalkingServer server(answer);
+    ::cupsSetServer(qPrintable(server.address()));
+    const Result<QList<Printer>> printers = spooler_.printers();
+    QVERIFY(server.answers() > 0);
+    QVERIFY2(!printers, "an empty list");
+    QCOMPARE(printers.error().message, QString("the print service gives no answer that makes sense"));
+    QCOMPARE(complaint("Office"), QString("the print service gives no answer that makes sense"));
+    QCOMPARE(complaint(""), QString("the print service gives no answer that makes sense"));
   }
 
   void cancellingWhileNobodyAnswersLeavesNoJob() {

@@ -29,6 +29,7 @@ std::optional<CupsLibrary> load() {
   library.find("cupsWriteRequestData", made.cupsWriteRequestData);
   library.find("httpClose", made.httpClose);
   library.find("httpConnect2", made.httpConnect2);
+  library.find("httpGetFd", made.httpGetFd);
   library.find("httpSetTimeout", made.httpSetTimeout);
   library.find("ippPort", made.ippPort);
   library.find("pwgMediaForPWG", made.pwgMediaForPWG);

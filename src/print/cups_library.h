@@ -31,6 +31,7 @@ struct CupsLibrary {
   decltype(&::cupsWriteRequestData) cupsWriteRequestData = nullptr;
   decltype(&::httpClose) httpClose = nullptr;
   decltype(&::httpConnect2) httpConnect2 = nullptr;
+  decltype(&::httpGetFd) httpGetFd = nullptr;
   decltype(&::httpSetTimeout) httpSetTimeout = nullptr;
   decltype(&::ippPort) ippPort = nullptr;
   decltype(&::pwgMediaForPWG) pwgMediaForPWG = nullptr;

@@ -3,10 +3,12 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 #include <optional>
 
 #include "print/cups_library.h"
+#include "print/step_guard.h"
 
 namespace norvex {
 namespace {
@@ -28,14 +30,21 @@ const char* noPassword(const char*, http_t*, const char*, const char*, void*) {
 class Connection {
  public:
   Connection(const CancelToken& cancel, const CupsSpooler::Patience& patience)
-      : cancel_(cancel), looksAtMost_(patience.looks) {
+      : cancel_(cancel), looksAtMost_(patience.looks), stepLooksAtMost_(patience.stepLooks) {
     if (!CupsLibrary::loaded()) return;
     cups().cupsSetPasswordCB2(noPassword, nullptr);
     http_ = cups().httpConnect2(cups().cupsServer(), cups().ippPort(), nullptr, AF_UNSPEC,
                                 cups().cupsEncryption(), 1, patience.connectMilliseconds, nullptr);
-    if (http_) cups().httpSetTimeout(http_, patience.lookSeconds, &Connection::waitOn, this);
+    if (!http_) return;
+    cups().httpSetTimeout(http_, patience.lookSeconds, &Connection::waitOn, this);
+    // The library asks whether to wait on while nothing is heard; a byte now and then keeps it from asking.
+    guard_.emplace(
+        std::chrono::duration<double>(patience.lookSeconds),
+        [this] { return isCancelled() || ++stepLooks_ >= stepLooksAtMost_; },
+        [http = http_] { return cups().httpGetFd(http); });
   }
   ~Connection() {
+    guard_.reset();
     if (http_) cups().httpClose(http_);
   }
   Connection(const Connection&) = delete;
@@ -44,29 +53,35 @@ class Connection {
   [[nodiscard]] bool isOpen() const { return http_ != nullptr; }
   [[nodiscard]] http_t* http() const { return http_; }
   /// Something was heard.
-  void beginStep() { looks_ = 0; }
+  void beginStep() {
+    looks_ = 0;
+    stepLooks_ = 0;
+  }
   /// The step that follows is not broken off by cancelling: what it began would be left without an owner.
   void finishWhatIsBegun(bool finish) { finishes_ = finish; }
   /// Why an answer is missing; nothing when it is not for waiting.
   [[nodiscard]] std::optional<Error> whatBrokeIt() const {
     if (cancel_.cancelled()) return Error{ErrorKind::Cancelled, QStringLiteral("the printing was cancelled")};
-    if (looks_ >= looksAtMost_)
+    if (looks_ >= looksAtMost_ || stepLooks_ >= stepLooksAtMost_)
       return Error{ErrorKind::CannotWrite, QStringLiteral("the print service does not answer")};
     return std::nullopt;
   }
 
  private:
+  [[nodiscard]] bool isCancelled() const { return cancel_.cancelled() && !finishes_; }
   static int waitOn(http_t*, void* self) {
     auto* const connection = static_cast<Connection*>(self);
-    if (connection->cancel_.cancelled() && !connection->finishes_) return 0;
+    if (connection->isCancelled()) return 0;
     return ++connection->looks_ < connection->looksAtMost_ ? 1 : 0;
   }
 
   CancelToken cancel_;
-  int looksAtMost_;
+  int looksAtMost_, stepLooksAtMost_;
   http_t* http_ = nullptr;
   int looks_ = 0;
-  bool finishes_ = false;
+  std::atomic<int> stepLooks_ = 0;
+  std::atomic<bool> finishes_ = false;
+  std::optional<StepGuard> guard_;
 };
 
 struct FreeInfo {

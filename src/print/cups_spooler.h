@@ -16,6 +16,7 @@ class CupsSpooler final : public PrintSpooler {
     int connectMilliseconds = limits::printerConnects;
     double lookSeconds = limits::printerLookSeconds;
     int looks = limits::maximumPrinterLooks;
+    int stepLooks = limits::maximumPrinterStepLooks;
   };
 
   CupsSpooler() = default;

@@ -279,5 +279,8 @@ inline constexpr int maximumPrintPages = 1'000'000;
 inline constexpr int printerConnects = 5000;
 inline constexpr double printerLookSeconds = 0.25;
 inline constexpr int maximumPrinterLooks = 60;
+/// Looks that one step takes as a whole: an answer may also come byte by byte, without end and without
+/// silence.
+inline constexpr int maximumPrinterStepLooks = 240;
 
 }  // namespace norvex::limits

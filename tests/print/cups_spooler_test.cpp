@@ -191,6 +191,29 @@ class CupsSpoolerTest : public QObject {
     QCOMPARE(complaint(""), QString("the print service gives no answer that makes sense"));
   }
 
+  void anAnswerThatDripsIsNotWaitedForForEver() {
+    QCOMPARE(CupsSpooler::Patience().stepLooks, limits::maximumPrinterStepLooks);
+    const TalkingServer server("HTTP/1.1 200 OK\r\n", true);
+    ::cupsSetServer(qPrintable(server.address()));
+    CupsSpooler spooler(CupsSpooler::Patience{limits::printerConnects, 0.05, 1000, 4});
+    QCOMPARE(spooler.printers().error().message, QString("the print service does not answer"));
+    QCOMPARE(spooler.print(ticketFor("Office"), kPdf).error().message,
+             QString("the print service does not answer"));
+  }
+
+  void cancellingWhileAnAnswerDripsEndsIt() {
+    const TalkingServer server("HTTP/1.1 200 OK\r\n", true);
+    ::cupsSetServer(qPrintable(server.address()));
+    qputenv("CUPS_SERVER", server.address().toUtf8());
+    const CancelToken cancel;
+    std::optional<Result<QList<Printer>>> printers;
+    std::thread listing([&] { printers = spooler_.printers(cancel); });
+    for (int i = 0; i < 2000 && server.answers() == 0; ++i) QThread::msleep(5);
+    cancel.cancel();
+    listing.join();
+    QCOMPARE(printers->error().kind, ErrorKind::Cancelled);
+  }
+
   void cancellingWhileNobodyAnswersLeavesNoJob() {
     server_->pause();
     const CancelToken cancel;

@@ -9,6 +9,8 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <chrono>
+#include <string_view>
 #include <thread>
 
 #include "base/file_descriptor.h"
@@ -19,8 +21,10 @@ namespace norvex {
 /// lives.
 class TalkingServer {
  public:
-  explicit TalkingServer(QByteArray answer)
-      : answer_(std::move(answer)), listening_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+  explicit TalkingServer(QByteArray answer, bool drips = false)
+      : answer_(std::move(answer)),
+        drips_(drips),
+        listening_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
@@ -33,6 +37,7 @@ class TalkingServer {
     serving_ = std::thread([this] { serve(); });
   }
   ~TalkingServer() {
+    ends_ = true;
     ::shutdown(listening_.get(), SHUT_RDWR);  // accept() gives up
     if (serving_.joinable()) serving_.join();
   }
@@ -52,6 +57,10 @@ class TalkingServer {
       if (::recv(heard.get(), request, sizeof request, 0) <= 0) continue;
       static_cast<void>(::send(heard.get(), answer_.constData(), size_t(answer_.size()), MSG_NOSIGNAL));
       ++answers_;
+      const std::string_view line = "X: y\r\n";
+      for (size_t i = 0;
+           drips_ && !ends_ && ::send(heard.get(), &line[i % line.size()], 1, MSG_NOSIGNAL) == 1; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
       // What was not read would be a reset, which may overtake the answer.
       ::shutdown(heard.get(), SHUT_WR);
       while (::recv(heard.get(), request, sizeof request, 0) > 0) continue;
@@ -59,9 +68,11 @@ class TalkingServer {
   }
 
   QByteArray answer_;
+  bool drips_;
   FileDescriptor listening_;
   int port_ = 0;
   std::atomic<int> answers_ = 0;
+  std::atomic<bool> ends_ = false;
   std::thread serving_;
 };
 

@@ -123,7 +123,7 @@ class Rows {
 QByteArray sampleOf(const QByteArray& rows, qsizetype stride, int height) {
   QByteArray sample;
   for (int y = 0; y < height; y += kSampleRows * kSampleShare)
-    sample += rows.mid(y * stride, std::min(kSampleRows, height - y) * stride);
+    sample += rows.mid(y * stride, kSampleRows * stride);
   return sample;
 }
 

@@ -135,6 +135,17 @@ class ColorConversionTest : public QObject {
     QVERIFY(fileOf(PictureFormat::Webp, OutputColor::Cmyk, {kOlive}).isEmpty());
   }
 
+  void pixelsOfAnotherLayoutAreRefused() {
+    NSBitmapImageRep planar = rasterOf({kOlive});
+    planar.isPlanar = true;
+    for (const OutputColor color : {OutputColor::Rgb, OutputColor::Grey, OutputColor::Cmyk}) {
+      const auto made = inColor(color, planar, true);
+      QVERIFY(!made);
+      QCOMPARE(made.error().kind, ErrorKind::Unsupported);
+      QCOMPARE(made.error().message, QStringLiteral("these pixels cannot be converted"));
+    }
+  }
+
   void everyNameIsThatOfItsColor() {
     for (const OutputColor each : {OutputColor::Rgb, OutputColor::Grey, OutputColor::Cmyk})
       QCOMPARE(outputColorNamed(nameOf(each)), std::optional(each));

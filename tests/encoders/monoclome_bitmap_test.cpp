@@ -119,6 +119,18 @@ class MonoclomeBitmapTest : public QObject {
     QCOMPARE(grey->bitsPerSample, 16);
     QVERIFY(!grey->data.contains('\x11'));
   }
+  void rowsOfOtherDepthsHaveRoomForAByteAPixel() {
+    for (const auto& [bits, rowBytes] : {std::pair(1, 9), std::pair(4, 9), {8, 9}, {16, 18}}) {
+      NSBitmapImageRep source = raster(9, 2, 3, RGB, QByteArray(108, '\x11'));
+      source.bitsPerSample = bits;
+      source.bitsPerPixel = 3 * bits;
+      source.bytesPerRow = 54;
+      const auto grey = monoclomeBitmap(source);
+      QVERIFY(grey);
+      QCOMPARE(grey->bytesPerRow, rowBytes);
+      QCOMPARE(grey->data.size(), 2 * rowBytes);
+    }
+  }
   void rowPaddingIsTakenForPixelsAndNothingIsWrittenBeyond() {
     NSBitmapImageRep source =
         raster(2, 2, 1, NSCalibratedWhiteColorSpace, QByteArray("\x01\x02\x03\x04\x05\x06", 6));

@@ -268,6 +268,23 @@ class RasterCodecsTest : public QObject {
     else
       QVERIFY(sizeWith({}) > sizeWith(90));
   }
+  void greyInAPngKeepsItsTransparency() {
+    NSBitmapImageRep grey;
+    grey.pixelsWide = 4;
+    grey.pixelsHigh = 1;
+    grey.samplesPerPixel = 2;
+    grey.bitsPerPixel = 16;
+    grey.hasAlpha = true;
+    grey.colorSpaceName = latin1(NSCalibratedWhiteColorSpace);
+    grey.bytesPerRow = 8;
+    grey.data = QByteArray::fromHex("20ff408010100000");
+    const QImage read = QImage::fromData(encodePng(grey, {})).convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(read.size(), QSize(4, 1));
+    QCOMPARE(read.pixelColor(0, 0), QColor(0x20, 0x20, 0x20, 0xff));
+    QCOMPARE(read.pixelColor(1, 0), QColor(0x80, 0x80, 0x80, 0x80));
+    QCOMPARE(read.pixelColor(2, 0), QColor(0xff, 0xff, 0xff, 0x10));
+    QCOMPARE(read.pixelColor(3, 0).alpha(), 0);
+  }
   void gifKeepsTransparency() {
     const QByteArray bytes = encodeGif(sample(true), {72, {}});
     const QString said = say(bytes, QStringLiteral("gif"), {QStringLiteral("giftext")});

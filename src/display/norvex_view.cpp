@@ -200,11 +200,9 @@ void NorvexView::drawDraggedLine(QPainter& painter, int) {
 
 void NorvexView::infoSelectedArea() {
   if (!delegateFlag_ || !delegate_) return;
-  SelectionReport report;
-  if (!(selectRect().width() <= 0))
-    report = delegate_->dialKnobClockwise() == flippedCoordinate_
-                 ? selectionReport(selectRect(), topLeft_, bottomRight_)
-                 : flippedSelectionReport(selectRect(), imageSize_, rotate_);
+  const SelectionReport report = delegate_->dialKnobClockwise() == flippedCoordinate_
+                                     ? selectionReport(selectRect(), topLeft_, bottomRight_)
+                                     : flippedSelectionReport(selectRect(), imageSize_, rotate_);
   delegate_->norvexView(*this, report.start, report.end, report.area);
 }
 

@@ -65,6 +65,16 @@ class NorvexViewTest : public QObject {
     QCOMPARE(f.delegate.last, (QStringList{"", "", ""}));
   }
 
+  void cornersOfNoWidthAreNotDrawnAndStayWhatTheyWere() {
+    ViewFixture f;
+    f.drag({{10, 10}});
+    QVERIFY(f.view.mouseDown());
+    f.view.mouseDragged({30, 40});
+    QCOMPARE(f.view.bottomRight(), QPointF(130, 90));
+    f.view.mouseDragged({10, 40});
+    QCOMPARE(f.view.bottomRight(), QPointF(130, 90));
+  }
+
   void anUprightPictureReportsTheShortestForm() {
     ViewFixture f;
     f.drag({{-50, -20}});
@@ -245,6 +255,39 @@ class NorvexViewTest : public QObject {
     const QImage image = f.paint();
     QVERIFY(image.pixelColor(0, 50) != QColor(Qt::black));
     QCOMPARE(image.pixelColor(100, 50), QColor(Qt::black));
+  }
+
+  void noMouseMarksAnythingWithoutAPicture() {
+    ViewFixture f;
+    f.drag({{-50, -20}});
+    f.drag({{-10, 10}});
+    f.view.setImageRep(nullptr);
+    QVERIFY(!f.view.mouseDown());
+    QVERIFY(!f.view.mouseDownOnHandle(Qt::RightEdge, {-10, 0}));
+    f.view.mouseUp({30, 30});
+    QCOMPARE(f.view.selectRect(), QRectF(-50, -20, 40, 30));
+  }
+
+  void noMouseMarksAnythingInAWindowThatDoesNotBecomeActive() {
+    ViewFixture f;
+    f.drag({{-50, -20}});
+    f.drag({{-10, 10}});
+    f.host.agreesToFirstResponder = false;
+    QVERIFY(!f.view.mouseDown());
+    QVERIFY(!f.view.mouseDownOnHandle(Qt::RightEdge, {-10, 0}));
+    f.host.agreesToFirstResponder = true;
+    QVERIFY(f.view.mouseDownOnHandle(Qt::RightEdge, {-10, 0}));
+    f.view.mouseDragged({-5, 0});
+    f.view.mouseUp({-5, 0});
+    QCOMPARE(f.view.selectRect(), QRectF(-50, -20, 45, 30));
+  }
+
+  void aPictureWithoutHostTakesNoMouse() {
+    NorvexView view(QRectF(0, 0, 50, 50));
+    view.setImageRep(std::make_shared<QuarteredImageRep>(QSizeF(50, 50)));
+    view.selectBounds();
+    QVERIFY(!view.mouseDown());
+    QVERIFY(!view.mouseDownOnHandle(Qt::RightEdge, {50, 25}));
   }
 
   void aViewWithoutHostWorks() {

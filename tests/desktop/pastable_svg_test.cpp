@@ -42,6 +42,8 @@ class PastableSvgTest : public QObject {
     QTest::newRow("nothing") << QByteArray();
     QTest::newRow("no root") << QByteArray("<html></html>");
     QTest::newRow("no end") << QByteArray("<svg width=\"3pt\" height=\"3pt\" viewBox=\"0 0 3 3\"/>");
+    QTest::newRow("cut off in its root")
+        << QByteArray(R"(<svg width="3pt" height="3pt" viewBox="0 0 3 3" fill="none")");
     QTest::newRow("pixels") << QByteArray("<svg width=\"3\" height=\"3\" viewBox=\"0 0 3 3\"></svg>");
     QTest::newRow("stretched") << QByteArray("<svg width=\"3pt\" height=\"6pt\" viewBox=\"0 0 3 3\"></svg>");
     QTest::newRow("flat") << QByteArray("<svg width=\"3pt\" height=\"0pt\" viewBox=\"0 0 3 0\"></svg>");

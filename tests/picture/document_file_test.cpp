@@ -38,6 +38,13 @@ class DocumentFileTest : public QObject {
     }
   }
 
+  /// The end is found by one byte more than the file tells, not by room for another piece.
+  void aFileTakesAboutAsMuchMemoryAsItHas() {
+    const auto read = readDocumentFile(write("file", QByteArray(3'500'000, 'x')));
+    QVERIFY(read);
+    QVERIFY2(read->capacity() < 4'500'000, qPrintable(QString::number(read->capacity())));
+  }
+
   void anEmptyFileIsPresentButEmpty() {
     const auto read = readDocumentFile(write("empty", {}));
     QVERIFY(read);

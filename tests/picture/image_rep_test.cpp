@@ -289,6 +289,7 @@ class ImageRepTest : public QObject {
     const auto remote =
         ZyWebImageRep::imageRepWithContentsOfURL(service, QUrl(QStringLiteral("http://host/a.svg")));
     QCOMPARE(remote.error().kind, ErrorKind::CannotRead);
+    QCOMPARE(remote.error().message, QStringLiteral("only local files can be opened"));
   }
 
   void thePdfFormOfAnSvgArrivesInTheBackground() {

@@ -28,6 +28,12 @@ class ToldErrorTest : public QObject {
     QTest::newRow("SVG") << "the picture cannot be drawn: InvalidMatrix"
                          << "the picture holds something that cannot be drawn"
                          << "InvalidMatrix";
+    QTest::newRow("SVG that cannot be parsed") << "the picture cannot be read: XML parse error"
+                                               << "the picture cannot be read"
+                                               << "XML parse error";
+    QTest::newRow("no process") << "no process for the picture could be started (out of memory)"
+                                << "no process for the picture could be started"
+                                << "out of memory";
     QTest::newRow("a fault") << "the picture process ended without an answer (signal 11)"
                              << "the picture process ended without an answer"
                              << "signal 11";

@@ -120,6 +120,9 @@ class TypeIdentificationTest : public QObject {
     QTest::newRow("gzip named svg") << QByteArray("\x1F\x8B\x08") << "b.svg" << kSvgz;
     QTest::newRow("other gzip") << QByteArray("\x1F\x8B\x08") << "b.tar.gz"
                                 << "org.gnu.gnu-zip-archive";
+    QTest::newRow("gzip that keeps no name")
+        << QByteArray("\x1F\x8B\x08\0\0\0\0\0\0\x03.svg\0", 15) << "b.bin"
+        << "org.gnu.gnu-zip-archive";
     QTest::newRow("gzip of an svg") << QByteArray(
                                            "\x1F\x8B\x08\x08\0\0\0\0\0\x03"
                                            "a.svg\0",

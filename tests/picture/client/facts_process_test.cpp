@@ -15,6 +15,10 @@ namespace {
 const QByteArray kUnmeasured = "<svg xmlns='http://www.w3.org/2000/svg'><rect width='40' height='20'/></svg>";
 const QByteArray kMeasured = "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='20'/>";
 
+const QByteArray kPdf =
+    "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj 2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+    "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 40 20]>>endobj\ntrailer<</Root 1 0 R/Size 4>>\n%%EOF\n";
+
 bool hasLoaded(qint64 pid, const char* library) {
   QFile maps(QStringLiteral("/proc/%1/maps").arg(pid));
   return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(library);
@@ -50,8 +54,16 @@ class FactsProcessTest : public QObject {
     QVERIFY(hasLoaded(service_->programProcessId(), "librsvg"));
   }
 
+  void nothingIsDrawnThere_data() {
+    QTest::addColumn<PictureKind>("kind");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("SVG") << PictureKind::Svg << kMeasured;
+    QTest::newRow("PDF") << PictureKind::Pdf << kPdf;
+  }
   void nothingIsDrawnThere() {
-    const auto opened = service_->open(kMeasured, PictureKind::Svg);
+    QFETCH(PictureKind, kind);
+    QFETCH(QByteArray, bytes);
+    const auto opened = service_->open(bytes, kind);
     QVERIFY(opened->facts().ok());
     RenderRequest request;
     request.pixelSize = QSize(4, 4);

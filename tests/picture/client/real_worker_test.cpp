@@ -206,6 +206,24 @@ class RealWorkerTest : public QObject {
     QVERIFY(process->render(wholePicture()).ok());
   }
 
+  void theSheetsOfAJobAreComposedThere() {
+    PagesRequest job;
+    job.paper = QSizeF(300, 400);
+    job.sheets = {{QRectF(0, 0, 40, 20), QRectF(10, 20, 40, 20)}};
+    const QByteArray picture = pdf();
+    for (const QByteArray& shown : {picture, QByteArray()}) {
+      const auto made = service_->composePages(shown, job);
+      QVERIFY2(made.ok(), made.ok() ? "" : qPrintable(made.error().message));
+      const auto sheets = service_->open(*made, PictureKind::Pdf);
+      QCOMPARE(sheets->facts()->pageBounds, QList<QRectF>{QRectF(0, 0, 300, 400)});
+    }
+    QVERIFY(!service_->composePages("no PDF", job).ok());
+    QVERIFY(service_->composePages(picture, job).ok());
+    CancelToken cancel;
+    cancel.cancel();
+    QCOMPARE(service_->composePages(picture, job, cancel).error().kind, ErrorKind::Cancelled);
+  }
+
   void anEndlessProgramIsStopped() {
     const QByteArray endless = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 40 20\n%%EndComments\n{} loop\n";
     const auto process = service_->open(endless, PictureKind::Eps, PictureLimits{2, 512, 10});

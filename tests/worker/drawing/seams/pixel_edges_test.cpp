@@ -1,5 +1,8 @@
 #include "worker/drawing/seams/pixel_edges.h"
 
+#include <QMarginsF>
+#include <QRectF>
+
 #include <algorithm>
 #include <functional>
 #include <utility>
@@ -315,6 +318,66 @@ class PixelEdgesTest : public QObject {
     tile(-9.3 - gap, -7.7 - gap);
     QCOMPARE(hasSeams(context), seams);
     QVERIFY(!hasSeams(Sheet(false).context.get()));
+  }
+
+  /// A tile is what fills its clip, and the clip must be the one that is still there.
+  void slantedTilesThatAreFilledInPartAreNone_data() {
+    QTest::addColumn<QMarginsF>("more");  // painted beyond the tile's edges
+    QTest::addColumn<bool>("seams");
+    QTest::newRow("all of it") << QMarginsF(1, 1, 1, 1) << true;
+    QTest::newRow("as far as it goes") << QMarginsF(0, 0, 0, 0) << true;
+    QTest::newRow("but for the left") << QMarginsF(-2, 1, 1, 1) << false;
+    QTest::newRow("but for the upper end") << QMarginsF(1, -2, 1, 1) << false;
+    QTest::newRow("but for the right") << QMarginsF(1, 1, -2, 1) << false;
+    QTest::newRow("but for the lower end") << QMarginsF(1, 1, 1, -2) << false;
+  }
+  void slantedTilesThatAreFilledInPartAreNone() {
+    QFETCH(QMarginsF, more);
+    QFETCH(bool, seams);
+    const Sheet sheet;
+    cairo_t* context = sheet.context.get();
+    cairo_translate(context, 20, 20);
+    cairo_rotate(context, 0.02);
+    for (const double x : {-9.3, 0.0}) {
+      cairo_save(context);
+      cairo_rectangle(context, x, -4, 9.3, 8);
+      clipBetweenPixels(context);
+      const QRectF painted = QRectF(x, -4, 9.3, 8).marginsAdded(more);
+      cairo_rectangle(context, painted.x(), painted.y(), painted.width(), painted.height());
+      fillBetweenPixels(context);
+      cairo_restore(context);
+    }
+    QCOMPARE(hasSeams(context), seams);
+  }
+
+  void aClipThatWasTakenBackIsNoTile_data() {
+    QTest::addColumn<QRectF>("first");
+    QTest::addColumn<QRectF>("second");
+    QTest::newRow("in the middle") << QRectF(-9, -4, 9, 8) << QRectF(0, -4, 9, 8);
+    QTest::newRow("at the left") << QRectF(-25, -8, 9, 8) << QRectF(-25, 0, 9, 8);
+    QTest::newRow("at the right") << QRectF(16, -8, 9, 8) << QRectF(16, 0, 9, 8);
+    QTest::newRow("at the upper end") << QRectF(-9, -25, 9, 9) << QRectF(0, -25, 9, 9);
+    QTest::newRow("at the lower end") << QRectF(-9, 16, 9, 9) << QRectF(0, 16, 9, 9);
+    QTest::newRow("from left to right") << QRectF(-25, -8, 50, 8) << QRectF(-25, 0, 50, 8);
+    QTest::newRow("from above to below") << QRectF(-8, -25, 8, 50) << QRectF(0, -25, 8, 50);
+  }
+  void aClipThatWasTakenBackIsNoTile() {
+    QFETCH(QRectF, first);
+    QFETCH(QRectF, second);
+    const Sheet sheet;
+    cairo_t* context = sheet.context.get();
+    cairo_translate(context, 20, 20);
+    cairo_rotate(context, 0.02);
+    for (const QRectF& clip : {first, second}) {
+      cairo_save(context);
+      cairo_rectangle(context, clip.x(), clip.y(), clip.width(), clip.height());
+      clipBetweenPixels(context);
+      cairo_new_path(context);
+      cairo_restore(context);
+      cairo_rectangle(context, -30, -30, 60, 60);
+      fillBetweenPixels(context);
+    }
+    QVERIFY(!hasSeams(context));
   }
 
   void turnedImagesThatMeetAreNoticed() {

@@ -211,6 +211,28 @@ class ArgumentsTest : public QObject {
     }
   }
 
+  void aCommandLineTakesACommand() {
+    CommandLine line;
+    QCOMPARE(line.run({}), 2);
+    QCOMPARE(line.console.messages,
+             QString("norvex: no command is given; norvex --help shows what there is\n"));
+  }
+
+  void whatAnotherProgramDoesIsToldByThisOne() {
+    MemoryConsole console;
+    MemoryPictureService service;
+    const auto told = [&](const QStringList& given) {
+      console.messages.clear();
+      return Job(console, service).run(given) == ExitCode::Usage ? console.messages : QString();
+    };
+    QCOMPARE(told({"print", "a.eps", "-o", "b.pdf"}),
+             QString("norvex: this program does not print; norvex print --help shows what there is\n"));
+    QCOMPARE(told({"convert", "--recursive", "d", "--to", "e", "--format", "pdf"}),
+             QString("norvex: this program takes no archives; norvex convert --help shows what there is\n"));
+    QCOMPARE(told({"--sandbox-status"}),
+             QString("norvex: --sandbox-status stands alone, and needs the program that reads pictures\n"));
+  }
+
   void helpAndVersionGoToStandardOutput() {
     CommandLine line;
     QCOMPARE(line.run({"--help"}), 0);

@@ -89,16 +89,32 @@ class InfoTest : public QObject {
     QCOMPARE(visible("\x1B\x7F\u009B\n"), QStringLiteral("\\x1b\\x7f\\x9b\\x0a"));
   }
 
-  void aPdfAsJson() {
+  void aPdfAsTextAndAsJson() {
     MemoryPicture picture;
     picture.facts.pageBounds = {QRectF(1, 2, 300, 400.5)};
     picture.facts.pageCount = 7;
     picture.facts.attributes = {{"Title", "t"}};
     picture.facts.warnings = {"something is odd"};
+    picture.facts.fonts = {"A", "B"};
+    picture.facts.colorSpaces = {"DeviceCMYK", "Gold"};
+    picture.facts.layers = {{"back", true}, {"front", false}};
     CommandLine line;
     line.service.setPicture(picture);
-    QCOMPARE(line.run({"info", line.write("a.pdf", kPdf), "--json"}), 0);
+    const QString file = line.write("a.pdf", kPdf);
+    QCOMPARE(line.run({"info", file}), 0);
+    QCOMPARE(QString::fromUtf8(line.console.output),
+             file +
+                 "\n  Kind:                  PDF (com.adobe.pdf)\n  Title:                 t\n"
+                 "  Bounds:                1 2 300 400.5\n  Pages:                 7\n"
+                 "  Fonts:                 A, B\n  ColorSpaces:           DeviceCMYK, Gold\n"
+                 "  Layer 1:               back (on)\n  Layer 2:               front (off)\n"
+                 "  Warning:               something is odd\n");
+    QCOMPARE(line.run({"info", file, "--json"}), 0);
     const QJsonObject object = jsonOf(line)[0].toObject();
+    QCOMPARE(object["fonts"].toArray(), QJsonArray({"A", "B"}));
+    QCOMPARE(object["colorSpaces"].toArray(), QJsonArray({"DeviceCMYK", "Gold"}));
+    QCOMPARE(object["layers"].toArray(), QJsonArray({QJsonObject{{"name", "back"}, {"shown", true}},
+                                                     QJsonObject{{"name", "front"}, {"shown", false}}}));
     QCOMPARE(object["kind"].toString(), "PDF");
     QCOMPARE(object["rectangle"].toArray(), QJsonArray({1, 2, 300, 400.5}));
     QCOMPARE(object["rectangleTitle"].toString(), "Bounds");
@@ -106,7 +122,7 @@ class InfoTest : public QObject {
     QCOMPARE(object["warnings"].toArray(), QJsonArray({"something is odd"}));
     QCOMPARE(object["header"]["Encoding"], QJsonValue(""));
     QVERIFY(line.console.output.contains("\"EncodingNumber\": 9223372036854775807"));
-    QCOMPARE(line.service.openedKinds(), QList<PictureKind>{PictureKind::Pdf});
+    QCOMPARE(line.service.openedKinds(), QList<PictureKind>(2, PictureKind::Pdf));
   }
 
   void anSvgAsJson() {
@@ -146,6 +162,10 @@ class InfoTest : public QObject {
                                      "%%EndComments\n")}),
         0);
     QVERIFY(text.console.output.contains("Cyan (c.eps)"));
+    QCOMPARE(line.run({"info", file}), 0);
+    QVERIFY2(line.console.output.contains(
+                 "  Plates:                Cyan (c.eps), Gold (70 bytes within this file)\n"),
+             line.console.output);
   }
 
   void aPreviewIsToldByItsLayoutAndHash() {
@@ -189,6 +209,24 @@ class InfoTest : public QObject {
     QCOMPARE(line.run({"info", "--json", file}), 0);
     QVERIFY(!jsonOf(line).at(0)["header"].toObject().contains("Preview"));
     QCOMPARE(jsonOf(line).at(0)["warnings"].toArray(), QJsonArray({"the TIFF is broken"}));
+  }
+
+  void aPreviewThatIsAMetafileIsTold() {
+    CommandLine line;
+    NSBitmapImageRep drawn;
+    drawn.pixelsWide = drawn.bytesPerRow = 3;
+    drawn.pixelsHigh = 2;
+    drawn.data = QByteArray(6, 'x');
+    line.service.setPreview(drawn);
+    const QByteArray metafile("a metafile");
+    QByteArray binary("\xC5\xD0\xD3\xC6", 4);
+    const auto behind = 30u + quint32(kEps.size());
+    for (const quint32 value : {30u, quint32(kEps.size()), behind, quint32(metafile.size()), 0u, 0u})
+      for (int shift = 0; shift < 32; shift += 8) binary.append(char(value >> shift));
+    const QString file = line.write("b.eps", binary + "\xFF\xFF" + kEps + metafile);
+    QCOMPARE(line.run({"info", "--json", file}), 0);
+    QCOMPARE(jsonOf(line).at(0)["warnings"].toArray(),
+             QJsonArray({"the embedded preview is a Windows metafile of 10 bytes, drawn with 3 × 2 pixels"}));
   }
 
   void anIllustratorFileIsPostScriptOrPdf() {

@@ -99,6 +99,14 @@ class InksTest : public QObject {
     QVERIFY(line.asked[1].overprint);
   }
 
+  void theEndsOfTheRangesBelongToThem() {
+    Separated line;
+    const QString file = line.write("a.pdf", kPdf);
+    for (const char* dpi : {"1", "100000"}) QCOMPARE(line.run({"inks", file, "--dpi", dpi}), 0);
+    for (const char* dpi : {"0.9", "100001"}) QCOMPARE(line.run({"inks", file, "--dpi", dpi}), 2);
+    QCOMPARE(line.run({"inks", file, "--page", "0"}), 2);
+  }
+
   void everyInkGetsAPlate() {
     Separated line;
     const QString folder = line.path("new/plates");

@@ -152,6 +152,35 @@ class SourceTest : public QObject {
     QVERIFY(!line.entries().contains("out.png"));
   }
 
+  void aPreviewOfSamplesThatCannotBeShownIsTold() {
+    CommandLine line;
+    NSBitmapImageRep deep;
+    deep.pixelsWide = deep.pixelsHigh = 1;
+    deep.bitsPerSample = deep.bitsPerPixel = 16;
+    deep.bytesPerRow = 2;
+    deep.data = "xx";
+    line.service.setPreview(deep);
+    const QString file = line.write("a.eps", testdata::binaryEps(kEps, "II*"));
+    QCOMPARE(line.run({"preview", file, "-o", line.path("out.png")}), 3);
+    QCOMPARE(line.console.messages,
+             QString("norvex: %1: the preview's samples cannot be written as PNG\n").arg(file));
+    QCOMPARE(line.entries(), QStringList{"a.eps"});
+  }
+
+  void coloursOfAPreviewStayColours() {
+    CommandLine line;
+    NSBitmapImageRep red;
+    red.pixelsWide = red.pixelsHigh = 1;
+    red.samplesPerPixel = red.bytesPerRow = 3;
+    red.bitsPerPixel = 24;
+    red.colorSpaceName = NSCalibratedRGBColorSpace;
+    red.data = QByteArray("\xFF\0\0", 3);
+    line.service.setPreview(red);
+    const QString file = line.write("a.eps", testdata::binaryEps(kEps, "II*"));
+    QCOMPARE(line.run({"preview", file, "-o", line.path("out.png")}), 0);
+    QCOMPARE(QImage::fromData(line.contents("out.png")).pixelColor(0, 0), QColor(Qt::red));
+  }
+
   void aMetafileIsDrawnByTheService() {
     CommandLine line;
     QByteArray binary("\xC5\xD0\xD3\xC6", 4);

@@ -38,6 +38,17 @@ class ThumbnailTest : public QObject {
     QCOMPARE(pngAt(line, "out.png").size(), QSize(38, 50));  // of 30 x 40 points
   }
 
+  void theLongerSideHasFromOnePixelTo2048() {
+    CommandLine line;
+    const QString file = line.write("a.pdf", kPdf);
+    for (const int side : {1, 2048}) {
+      QCOMPARE(line.run({"thumbnail", "-s", QString::number(side), file, line.path("out.png"), "--force"}),
+               0);
+      QCOMPARE(pngAt(line, "out.png").width(), side);
+    }
+    QCOMPARE(line.run({"thumbnail", "-s", "2049", file, line.path("out.png"), "--force"}), 2);
+  }
+
   void withoutASizeTheLongerSideHasTheUsualOne() {
     CommandLine line;
     QCOMPARE(line.run({"thumbnail", line.write("a.pdf", kPdf), line.path("out.png")}), 0);

@@ -25,7 +25,9 @@ QByteArray dosEpsFile(const QByteArray& tiff, const QByteArray& postScript) {
   append32(file, headerLength);
   append32(file, tiff.size());
   file.append("\xFF\xFF", 2);
-  return file + tiff + postScript;
+  file.append(tiff);
+  file.append(postScript);
+  return file;
 }
 
 }  // namespace norvex

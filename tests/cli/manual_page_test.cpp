@@ -44,6 +44,12 @@ class ManualPageTest : public QObject {
     QVERIFY(manualPage().startsWith(".TH NORVEX 1 \"\" \"norvex " NORVEX_VERSION "\" \"User Commands\"\n"));
   }
 
+  void itNamesWhatItReadsOfTheEnvironment() {
+    const QString environment = manualPage().section(".SH ENVIRONMENT", 1);
+    for (const char* name : {"SOURCE_DATE_EPOCH", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR"})
+      QVERIFY2(environment.contains(name), name);
+  }
+
   void itNamesEveryCommandAndOptionWithItsHelp() {
     if (QStandardPaths::findExecutable("man").isEmpty()) QSKIP("man is not installed");
     const QString shown = shownByMan(manualPage()).simplified();

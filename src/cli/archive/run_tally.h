@@ -15,8 +15,7 @@ namespace norvex {
 class RunTally {
  public:
   using Time = std::chrono::steady_clock::time_point;
-  RunTally(std::optional<qint64> total, Time begun)
-      : total_(total), begun_(begun), marks_{Mark{begun, 0}, Mark{begun, 0}} {}
+  RunTally(std::optional<qint64> total, Time begun) : total_(total), marks_{Mark{begun, 0}, Mark{begun, 0}} {}
 
   void count(const FileResult& result);
   [[nodiscard]] qint64 of(Verdict verdict) const { return counts_[size_t(verdict)]; }
@@ -39,7 +38,6 @@ class RunTally {
   [[nodiscard]] double rate(Time now);
 
   const std::optional<qint64> total_;
-  const Time begun_;
   std::array<qint64, size_t(Verdict::PassedOver) + 1> counts_{};
   std::array<Mark, 2> marks_;  ///< where the stretch that the rate is of begins, and where the next one will
   std::optional<ExitCode> firstCode_;

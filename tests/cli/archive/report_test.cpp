@@ -32,12 +32,27 @@ class ReportTest : public QObject {
     QCOMPARE(lines.size(), 2);
     const QJsonObject failed = QJsonDocument::fromJson(lines[0]).object();
     QCOMPARE(failed.value("outcome").toString(), "failed");
+    QCOMPARE(failed.value("error").toString(), "it is no picture");
+    QVERIFY(!failed.contains("output") && !failed.contains("becameImage"));
     QCOMPARE(QByteArray::fromBase64(failed.value("fileBytes").toString().toLatin1()),
              kept.at("in/<img src=x>\xFF.svg"));
     const QJsonObject done = QJsonDocument::fromJson(lines[1]).object();
     QCOMPARE(done.value("sha256").toString(), done.value("outputSha256").toString());
     QCOMPARE(done.value("sha256").toString().size(), 64);
     QVERIFY(!kept.filesBelow("").contains("report.jsonl.part"));
+  }
+
+  void aReportThatCannotBeWrittenLeavesTheOldOne() {
+    Kept kept;
+    kept.put("in/a.svg");
+    const QString report = kept.path("r.jsonl");
+    QCOMPARE(kept.run({"--report", report}), 0);
+    const QByteArray before = kept.bytesAt("r.jsonl");
+    (void)kept.folder("r.jsonl.part");  // where the new one would be made
+    QCOMPARE(kept.go({"status", kept.path("state"), "--report", report}), 4);
+    QVERIFY2(kept.console.messages.contains("the report cannot be written (Is a directory)"),
+             qPrintable(kept.console.messages));
+    QCOMPARE(kept.bytesAt("r.jsonl"), before);
   }
 
   void noNameOrSentenceIsStructureOfTheReport() {

@@ -240,6 +240,17 @@ class RunTest : public QObject {
     QCOMPARE(archive.filesBelow("out"), QList<QByteArray>({"x/a.svg", "y/a.svg"}));
   }
 
+  void namesAmongTheArgumentsLieBelowTheBaseAsWell() {
+    Archive archive;
+    const QString within = fileNameText(archive.put("in/x/a.svg"));
+    const QString beside = fileNameText(archive.put("other/b.svg"));
+    QCOMPARE(archive.convert({within, beside, "--base", archive.path("in"), "--state", archive.path("s")}),
+             1);
+    QVERIFY2(archive.console.messages.contains("it does not lie below the folder of --base"),
+             qPrintable(archive.console.messages));
+    QCOMPARE(archive.filesBelow("out"), QList<QByteArray>{"x/a.svg"});
+  }
+
   void namesAreBytes() {
     Archive archive;
     const QByteArray longest = QByteArray(251, 'l') + ".svg";

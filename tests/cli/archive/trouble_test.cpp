@@ -30,6 +30,31 @@ class TroubleTest : public QObject {
     QCOMPARE(archive.filesBelow("out"), QList<QByteArray>({"a.svg"}));
   }
 
+  void whetherPicturesCanBeReadIsTriedByOneOfTheSameSort_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<PictureKind>("tried");
+    QTest::newRow("a.eps") << kEps << PictureKind::Eps;
+    QTest::newRow("a.pdf") << emptyPdf({9, 9}) << PictureKind::Svg;
+    QTest::newRow("a.svg") << kSvg << PictureKind::Svg;
+    QTest::newRow("marked.svg") << "\xEF\xBB\xBF" + kSvg << PictureKind::Svg;
+    QTest::newRow("a.svgz") << QByteArray("\x1F\x8B\x08\0\0\0\0\0\0\x03", 10) << PictureKind::Svg;
+  }
+  void whetherPicturesCanBeReadIsTriedByOneOfTheSameSort() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(PictureKind, tried);
+    Archive archive;
+    archive.put(QByteArray("in/") + QTest::currentDataTag(), bytes);
+    archive.service.setPrepare([&](MemoryPictureProcess& process) {
+      if (process.bytes() != bytes) return;
+      for (const PictureCall call : {PictureCall::Facts, PictureCall::Compose, PictureCall::Svg})
+        process.fail(call, {ErrorKind::Died, "it ended"});
+    });
+    QCOMPARE(archive.convertTree({}), 3);
+    QVERIFY2(archive.console.messages.endsWith("norvex: 1 set aside\n"),
+             qPrintable(archive.console.messages));
+    QCOMPARE(archive.service.openedKinds().last(), tried);
+  }
+
   void whereNoPictureCanBeReadNoFileIsSetAside() {
     Archive archive;
     for (int i = 0; i < 100; ++i) archive.put("in/" + QByteArray::number(i) + ".svg");

@@ -6,6 +6,7 @@
 #include "kit/test_main.h"
 #include "picture/client/spawned_worker.h"
 #include "picture/client/worker_service.h"
+#include "picture/process/memory_picture_service.h"
 
 using namespace norvex;
 
@@ -14,10 +15,6 @@ namespace {
 /// As large as what is drawn.
 const QByteArray kUnmeasured = "<svg xmlns='http://www.w3.org/2000/svg'><rect width='40' height='20'/></svg>";
 const QByteArray kMeasured = "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='20'/>";
-
-const QByteArray kPdf =
-    "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj 2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
-    "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 40 20]>>endobj\ntrailer<</Root 1 0 R/Size 4>>\n%%EOF\n";
 
 bool hasLoaded(qint64 pid, const char* library) {
   QFile maps(QStringLiteral("/proc/%1/maps").arg(pid));
@@ -58,13 +55,14 @@ class FactsProcessTest : public QObject {
     QTest::addColumn<PictureKind>("kind");
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("SVG") << PictureKind::Svg << kMeasured;
-    QTest::newRow("PDF") << PictureKind::Pdf << kPdf;
+    QTest::newRow("PDF") << PictureKind::Pdf << emptyPdf({40, 20});
   }
   void nothingIsDrawnThere() {
     QFETCH(PictureKind, kind);
     QFETCH(QByteArray, bytes);
     const auto opened = service_->open(bytes, kind);
-    QVERIFY(opened->facts().ok());
+    const auto facts = opened->facts();
+    QVERIFY2(facts.ok(), facts.ok() ? "" : qPrintable(facts.error().message));
     RenderRequest request;
     request.pixelSize = QSize(4, 4);
     QCOMPARE(opened->render(request).error().kind, ErrorKind::Unsupported);

@@ -11,8 +11,8 @@
 namespace norvex::engine {
 namespace {
 
-Result<void> checkFontSize(double size) {
-  if (size <= limits::maximumSvgFont) return {};
+Result<double> allowedFont(double size) {
+  if (size <= limits::maximumSvgFont) return size;
   return Error{ErrorKind::Limit, QStringLiteral("the document has text of more than %1 units in size")
                                      .arg(limits::maximumSvgFont, 0, 'f', 0)};
 }
@@ -38,7 +38,7 @@ void SvgAttributes::lookAtEffects(const SvgAttribute& attribute) {
     found_.hasLayers = true;
 }
 
-Result<void> SvgAttributes::lookAt(const QString& element, const SvgAttribute& attribute) {
+Result<double> SvgAttributes::lookAt(const QString& element, const SvgAttribute& attribute) {
   const QString& value = attribute.value;
   lookAtEffects(attribute);
   if (element == QLatin1String("feMorphology") && attribute.name == QLatin1String("radius"))
@@ -58,7 +58,7 @@ Result<void> SvgAttributes::lookAt(const QString& element, const SvgAttribute& a
     return Error{ErrorKind::Limit,
                  QStringLiteral("the document has a filter with a matrix of more than %1 numbers")
                      .arg(limits::maximumFilterMatrix)};
-  return checkFontSize(largestFont);
+  return allowedFont(largestFont);
 }
 
 /// One number, or one for each direction.
@@ -77,8 +77,7 @@ Result<double> SvgAttributes::lookAtStyleSheet(const QString& css) {
   const SvgStyleFacts style = svgStyleFacts(css);
   found_.outsideReferences += style.outsideReferences;
   if (style.namesSize) found_.sizesByStyleSheet = true;
-  if (const Result<void> font = checkFontSize(style.largestFont); !font) return font.error();
-  if (style.deepestBrackets <= limits::maximumSelectorDepth) return style.largestFont;
+  if (style.deepestBrackets <= limits::maximumSelectorDepth) return allowedFont(style.largestFont);
   return Error{ErrorKind::Limit,
                QStringLiteral("the selectors of the document's style sheets nest more than %1 deep")
                    .arg(limits::maximumSelectorDepth)};
@@ -94,16 +93,6 @@ void SvgAttributes::lookAtReference(const QString& element, const SvgAttribute& 
                                                             type.contains(QLatin1String("xml"))) {
     found_.hasNestedDocument = true;
   }
-}
-
-double fontSizeOf(const QList<SvgAttribute>& attributes) {
-  double size = 0;
-  for (const SvgAttribute& attribute : attributes) {
-    if (attribute.name == QLatin1String("font-size")) size = std::max(size, largestNumber(attribute.value));
-    if (attribute.name == QLatin1String("style") && attribute.value.contains(QLatin1String("font")))
-      size = std::max(size, svgStyleFacts(attribute.value).largestFont);
-  }
-  return size;
 }
 
 }  // namespace norvex::engine

@@ -1,7 +1,6 @@
 // What the attributes of an SVG's elements and its style sheets tell about drawing it.
 #pragma once
 
-#include <QList>
 #include <QString>
 
 #include "base/result.h"
@@ -21,7 +20,8 @@ class SvgAttributes {
  public:
   SvgAttributes(SvgInspection& found, SvgNesting& nesting) : found_(found), nesting_(nesting) {}
 
-  [[nodiscard]] Result<void> lookAt(const QString& element, const SvgAttribute& attribute);
+  /// The size of text that it names, in user units whatever its unit is; 0: none.
+  [[nodiscard]] Result<double> lookAt(const QString& element, const SvgAttribute& attribute);
   /// Whether it names something in another file, or is a document of its own.
   void lookAtReference(const QString& element, const SvgAttribute& attribute);
   /// The largest size of text in it.
@@ -35,8 +35,5 @@ class SvgAttributes {
   SvgInspection& found_;
   SvgNesting& nesting_;
 };
-
-/// In user units, by attribute or style; 0 where the attributes name none.
-[[nodiscard]] double fontSizeOf(const QList<SvgAttribute>& attributes);
 
 }  // namespace norvex::engine

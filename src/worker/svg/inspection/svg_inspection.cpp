@@ -4,6 +4,7 @@
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -162,13 +163,17 @@ void Inspector::noteAttributes(const QString& name, bool svg, const QList<SvgAtt
   }
   nesting_.open(id);
   stretching_.open(svg ? name : QString(), transform, preserveAspectRatio);
-  sizes_.open(svg ? name : QString(), transform, fontSizeOf(attributes));
+  double fontSize = 0;
   for (const SvgAttribute& attribute : attributes) {
-    if (const Result<void> looked = attributes_.lookAt(name, attribute); !looked) stop(looked.error());
+    if (const Result<double> font = attributes_.lookAt(name, attribute); !font)
+      stop(font.error());
+    else
+      fontSize = std::max(fontSize, *font);
     // Elements of other namespaces load nothing, but for those that put another file in their place.
     if (svg || name == QLatin1String("include")) attributes_.lookAtReference(name, attribute);
     if (svg && attribute.prefix.isEmpty()) fonts_.attribute(attribute.name, attribute.value);
   }
+  sizes_.open(svg ? name : QString(), transform, fontSize);
 }
 
 void Inspector::lookAtStyleSheet(const QString& css) {

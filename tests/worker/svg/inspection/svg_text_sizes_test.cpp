@@ -1,6 +1,7 @@
 #include "worker/svg/inspection/svg_text_sizes.h"
 
 #include "kit/test_main.h"
+#include "worker/svg/inspection/svg_inspection.h"
 #include "worker/svg/inspection/svg_stretching.h"
 
 using namespace norvex::engine;
@@ -58,6 +59,20 @@ class SvgTextSizesTest : public QObject {
     sizes.close();
     sizes.open("use", "scale(3)", 0);
     QCOMPARE(sizes.largest(), 90.0);
+  }
+  // Names of properties have no case.
+  void attributesAndStylesNameTheSize_data() {
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("attribute") << QByteArray("<text font-size='40'>a</text>");
+    QTest::newRow("style") << QByteArray("<text style='fill:red;font-size:40px'>a</text>");
+    QTest::newRow("upper case") << QByteArray("<text style='FONT-SIZE:40px'>a</text>");
+    QTest::newRow("both") << QByteArray("<text font-size='3' style='font:40px serif' id='7'>a</text>");
+  }
+  void attributesAndStylesNameTheSize() {
+    QFETCH(QByteArray, text);
+    const auto found = inspectSvg("<svg xmlns='http://www.w3.org/2000/svg'>" + text + "</svg>");
+    QVERIFY(found);
+    QCOMPARE(found->largestFont, 40.0);
   }
 
  private:

@@ -7,15 +7,12 @@
 
 #include "picture/document_file.h"
 #include "picture/open_picture.h"
+#include "picture/process/alike_limits.h"
 #include "protocol/shared_errors.h"
 #include "types/type_identification.h"
 
 namespace norvex {
 namespace {
-
-bool areAlike(const PictureLimits& a, const PictureLimits& b) {
-  return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels;
-}
 
 /// Opens once. Thread-safe.
 class Gate {

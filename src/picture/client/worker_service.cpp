@@ -11,6 +11,7 @@
 #include "base/background_threads.h"
 #include "picture/client/worker_answers.h"
 #include "picture/client/worker_client.h"
+#include "picture/process/alike_limits.h"
 #include "picture/process/reader_choices.h"
 #include "protocol/every_page.h"
 #include "protocol/limits.h"
@@ -19,10 +20,6 @@
 
 namespace norvex {
 namespace {
-
-bool areAlike(const PictureLimits& a, const PictureLimits& b) {
-  return a.seconds == b.seconds && a.memoryMiB == b.memoryMiB && a.megapixels == b.megapixels;
-}
 
 /// True if what was prepared will do for what is wanted now.
 bool fits(const ForkRequest& prepared, const ForkRequest& wanted) {

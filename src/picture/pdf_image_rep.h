@@ -26,6 +26,8 @@ class NSPDFImageRep final : public NSImageRep {
   /// The shown page's crop box with the page's own rotation applied, points.
   [[nodiscard]] QRectF bounds() const { return facts_.pageBounds.value(page()); }
   [[nodiscard]] int pageCount() const { return facts_.pageCount; }
+  /// Those that can be shown, from the first on: pages far behind are not read.
+  [[nodiscard]] int readPageCount() const { return int(facts_.pageBounds.size()); }
   [[nodiscard]] QSizeF size() const override { return bounds().size(); }
   [[nodiscard]] const PictureFacts& facts() const { return facts_; }
   [[nodiscard]] QStringList warnings() const override { return facts_.warnings; }

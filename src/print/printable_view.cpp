@@ -29,7 +29,7 @@ Result<PictureBytes> composed(NSImageRep* rep, const Turned& as, const CancelTok
 QList<PrintPage> pagesOf(const std::shared_ptr<NSPDFImageRep>& document, double rotate) {
   QList<PrintPage> pages;
   const QList<QRectF> all = document->facts().pageBounds;
-  for (int number = 0; number < qMin(document->pageCount(), int(all.size())); ++number) {
+  for (int number = 0; number < document->readPageCount(); ++number) {
     const Turned as = turned(all.at(number).size(), rotate);
     pages << PrintPage{as.bounds.size(),
                        [document, number, as](const CancelToken& cancel) -> Result<PictureBytes> {

@@ -18,9 +18,9 @@ Result<PageText> textOf(PictureProcess& process, int page, const CancelToken& ca
   return decodePageText(answer->bytes);
 }
 
-/// Pages far behind are not shown, and not looked at, either. Null: one picture without pages.
+/// Null: one picture without pages.
 int pagesOf(const NSPDFImageRep* shown) {
-  return shown ? int(qMin(qsizetype(shown->pageCount()), shown->facts().pageBounds.size())) : 1;
+  return shown ? shown->readPageCount() : 1;
 }
 
 }  // namespace

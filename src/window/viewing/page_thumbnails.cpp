@@ -22,7 +22,7 @@ void PageThumbnails::setDocument(const std::shared_ptr<NSPDFImageRep>& page) {
   cancel_.cancel();
   cancel_ = CancelToken();
   making_ = false;
-  strip_.setCount(page && page->pageCount() > 1 ? int(page->facts().pageBounds.size()) : 0);
+  strip_.setCount(page && page->pageCount() > 1 ? page->readPageCount() : 0);
   makeNext();
 }
 

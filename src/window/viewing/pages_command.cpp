@@ -100,8 +100,7 @@ std::shared_ptr<NSPDFImageRep> PagesCommand::page() const {
 
 int PagesCommand::count() const {
   const auto shown = page();
-  // Pages far behind are not read.
-  return shown ? int(qMin(qsizetype(shown->pageCount()), shown->facts().pageBounds.size())) : 1;
+  return shown ? shown->readPageCount() : 1;
 }
 
 int PagesCommand::shown() const {

@@ -142,6 +142,8 @@ class TiffPreviewTest : public QObject {
     made.extra = EXTRASAMPLE_UNASSALPHA;
     QTest::newRow("RGB with opacity, not premultiplied")
         << madeTiff(made, hex("ff804080 11223300")) << hex("80402080 00000000") << rgb << 8 << 4 << 4;
+    QTest::newRow("RGB hardly to be seen, to the nearest step")
+        << madeTiff(made, hex("807fff01 00000000")) << hex("01000101 00000000") << rgb << 8 << 4 << 4;
     made.extra = EXTRASAMPLE_UNSPECIFIED;
     QTest::newRow("RGB with a sample that means nothing")
         << madeTiff(made, hex("10203040 50607080")) << hex("102030 506070") << rgb << 8 << 3 << 3;
@@ -191,11 +193,21 @@ class TiffPreviewTest : public QObject {
   void opacityIsNotTurnedWithTheGrey() {
     for (const int bits : {8, 16}) {
       Made made;
-      made.bits = bits, made.width = 1, made.height = 1, made.samples = 2;
+      made.bits = bits, made.width = 2, made.height = 1, made.samples = 2;
       made.photometric = PHOTOMETRIC_MINISWHITE, made.extra = EXTRASAMPLE_ASSOCALPHA;
-      QCOMPARE(decoded(madeTiff(made, hex(bits == 8 ? "0fff" : "1234fedc"))).data.toHex(),
-               QByteArray(bits == 8 ? "f0ff" : "edcbfedc"));
+      QCOMPARE(decoded(madeTiff(made, hex(bits == 8 ? "0fff f0ee" : "1234fedc 0102fefd"))).data.toHex(),
+               QByteArray(bits == 8 ? "f0ff0fee" : "edcbfedcfefdfefd"));
     }
+  }
+
+  void tilesOfHalfBytesStandBesideOneAnother() {
+    Made made;
+    made.tile = 16, made.width = 20, made.height = 1;
+    QByteArray bytes = madeTiff(made, hex("123456789abcdef0 1122334455667788 c0ffee01"));
+    bytes[bytes.indexOf(hex("0201")) + 8] = 4;  // the tag of their bits, and its value
+    const NSBitmapImageRep image = decoded(bytes);
+    QCOMPARE(image.bytesPerRow, 10);
+    QCOMPARE(image.data.toHex(), QByteArray("123456789abcdef0c0ff"));
   }
 
   // Some programs write them though the format asks for sixteenths.

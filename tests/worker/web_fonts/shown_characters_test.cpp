@@ -26,6 +26,9 @@ class ShownCharactersTest : public QObject {
   void aLigatureAndAContextualFormAreTheirLetters() {
     QCOMPARE(shown({0xFB03}), (Characters{U'f', U'f', U'i'}));
     QCOMPARE(shown({0xFE91}), Characters{0x628});
+    QCOMPARE(shown({0xFB00}), (Characters{U'f', U'f'}));
+    QCOMPARE(shown({0xFE80}), Characters{0x621});
+    QCOMPARE(shown({0xFEFC}), (Characters{0x644, 0x627}));
   }
 
   void whatReadersIgnoreStandsForNothing() {

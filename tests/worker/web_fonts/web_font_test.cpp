@@ -4,6 +4,8 @@
 #include FT_BBOX_H
 #include FT_FREETYPE_H
 #include FT_OUTLINE_H
+#include FT_SFNT_NAMES_H
+#include FT_TRUETYPE_TABLES_H
 
 #include <QList>
 #include <QMap>
@@ -146,6 +148,22 @@ class WebFontTest : public QObject {
     QCOMPARE(int(box.yMin), -300);
   }
 
+  // Each way of writing a number takes over where the one before it ends.
+  void aStepOfAnyLengthArrivesWhereItShould() {
+    for (const int length : {107, 108, 363, 364, 619, 620, 621, 875, 876, 1131, 1132, 16000})
+      for (const int sign : {1, -1}) {
+        WebFont font;
+        font.outlines = {{{{OutlineStep::Move, {QPointF(0, 0)}},
+                           {OutlineStep::Line, {QPointF(sign * length, 0)}},
+                           {OutlineStep::Line, {QPointF(0, 50)}}},
+                          500}};
+        font.shownBy = {{U'a', 0}};
+        const ReadFont read(*openTypeFont(font));
+        const FT_BBox box = read.boxOf(U'a');
+        QCOMPARE(int(sign > 0 ? box.xMax : box.xMin), sign * length);
+      }
+  }
+
   void anOutlineThatIsTooLargeMakesNoFont() {
     WebFont font = twoSquares();
     font.outlines[0] = square(50'000, 100);
@@ -197,6 +215,53 @@ class WebFontTest : public QObject {
     QCOMPARE(int(read.face()->max_advance_width), 400);
     QCOMPARE(int(read.face()->ascender), font.ascent);
     QCOMPARE(int(read.face()->descender), -font.descent);
+  }
+
+  // Browsers refuse a font that says otherwise.
+  void readersAreToldAPlainUprightFont() {
+    const WebFont font = twoSquares();
+    const ReadFont read(*openTypeFont(font));
+    QCOMPARE(QByteArray(read.face()->family_name), QByteArray("Subset"));
+    QCOMPARE(QByteArray(read.face()->style_name), QByteArray("Regular"));
+    QCOMPARE(read.face()->style_flags, FT_Long(0));
+    QCOMPARE(read.face()->underline_thickness, FT_Short(0));
+    const auto* os2 = static_cast<TT_OS2*>(FT_Get_Sfnt_Table(read.face(), FT_SFNT_OS2));
+    QVERIFY(os2);
+    QCOMPARE(
+        (QList<int>{os2->version, os2->xAvgCharWidth, os2->usWeightClass, os2->usWidthClass, os2->fsType}),
+        (QList<int>{3, (300 + 1500) / 3, 400, 5, 0}));
+    QCOMPARE((QList<int>{os2->fsSelection, os2->usFirstCharIndex, os2->usLastCharIndex}),
+             (QList<int>{0x40, U'Z', 0xFFFF}));
+    QCOMPARE((QList<int>{os2->sTypoAscender, os2->sTypoDescender, os2->sTypoLineGap, os2->usWinAscent,
+                         os2->usWinDescent}),
+             (QList<int>{font.ascent, -font.descent, 0, font.ascent, font.descent}));
+    QCOMPARE((QList<int>{os2->usDefaultChar, os2->usBreakChar}), (QList<int>{0, 32}));
+    const auto* head = static_cast<TT_Header*>(FT_Get_Sfnt_Table(read.face(), FT_SFNT_HEAD));
+    QVERIFY(head);
+    QCOMPARE((QList<long>{head->Table_Version, head->Magic_Number, head->Flags, head->Mac_Style,
+                          head->Lowest_Rec_PPEM, head->Font_Direction, head->Glyph_Data_Format}),
+             (QList<long>{0x10000, 0x5F0F3CF5, 3, 0, 3, 2, 0}));
+    const auto* lines = static_cast<TT_HoriHeader*>(FT_Get_Sfnt_Table(read.face(), FT_SFNT_HHEA));
+    QVERIFY(lines);
+    QCOMPARE((QList<int>{lines->Line_Gap, lines->min_Left_Side_Bearing, lines->xMax_Extent,
+                         lines->caret_Slope_Rise, lines->caret_Slope_Run, lines->number_Of_HMetrics}),
+             (QList<int>{0, 0, 600, 1, 0, 3}));
+  }
+
+  void eachNameIsOfTheWholeFont() {
+    const ReadFont read(*openTypeFont(twoSquares()));
+    QStringList names;
+    for (FT_UInt i = 0; i < FT_Get_Sfnt_Name_Count(read.face()); ++i) {
+      FT_SfntName name{};
+      QCOMPARE(FT_Get_Sfnt_Name(read.face(), i, &name), 0);
+      QCOMPARE((QList<int>{name.platform_id, name.encoding_id, name.language_id}), (QList<int>{3, 1, 0x409}));
+      QString text;
+      for (FT_UInt c = 0; c < name.string_len; c += 2)
+        text += QChar(name.string[c] << 8 | name.string[c + 1]);
+      names << QString::number(name.name_id) + ' ' + text;
+    }
+    QCOMPARE(names,
+             (QStringList{"1 Subset", "2 Regular", "3 Subset", "4 Subset", "5 Version 1", "6 Subset"}));
   }
 
   // A map of the first plane, and one of all where a character lies beyond it.

@@ -313,6 +313,24 @@ class InterpreterProgramTest : public QObject {
     QVERIFY(interpreters.saidBy("(room again) =").contains("room again\n"));
   }
 
+  void anInterpreterHasNoFileOfTheProgram() {
+    Interpreters interpreters;
+    const int server = interpreters.program().pid();
+    const auto child = GhostscriptChild::fork(interpreters.program().asking(), {});
+    QVERIFY(child.ok());
+    QVERIFY(kit::eventually([server] { return kit::childrenOf(server).size() == 1; }));
+    const QDir files(QStringLiteral("/proc/%1/fd").arg(kit::childrenOf(server).first()));
+    const QString own = QFileInfo(interpreters.context().scratchFolder).fileName() + '/';
+    QVERIFY(kit::eventually([&] {
+      QStringList numbers =
+          files.entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System, QDir::Name);
+      numbers.removeIf([&](const QString& number) {
+        return number.toInt() > 2 && QFile::symLinkTarget(files.filePath(number)).contains(own);
+      });
+      return numbers == QStringList{"0", "1", "2"};
+    }));
+  }
+
   void anInterpreterYieldsOnceWhoeverAskedForItDoes() {
     Interpreters interpreters;
     const int server = interpreters.program().pid();

@@ -68,6 +68,10 @@ class MetafilePreviewTest : public QObject {
         {{5, 5}, {15, 15}}, {kRed, kRed});
     row("pie", kFill + metafileRecord(0x81A, {15, 40, 0, 20, 30, 40, 0, 0}), {{13, 8}, {27, 8}, {13, 24}},
         {kRed, kWhite, kRed});
+    row("chord", kFill + metafileRecord(0x830, {15, 40, 0, 20, 30, 40, 0, 0}), {{13, 8}, {27, 8}, {33, 4}},
+        {kRed, kRed, kWhite});
+    row("arc", kFill + selected(2) + metafileRecord(0x817, {15, 40, 0, 20, 30, 40, 0, 0}),
+        {{1, 15}, {20, 28}, {34, 4}, {20, 15}}, {kBlue, kBlue, kWhite, kWhite});
     row("lines", kObjects + selected(2) + metafileRecord(0x214, {10, 5}) + metafileRecord(0x213, {10, 35}),
         {{20, 9}, {20, 11}, {20, 14}}, {kBlue, kBlue, kWhite});
     row("polyline", kObjects + selected(2) + metafileRecord(0x325, {2, 5, 10, 35, 10}), {{20, 10}, {20, 14}},
@@ -90,13 +94,21 @@ class MetafilePreviewTest : public QObject {
     row("dashed",
         kObjects + metafileRecord(0x2FA, {1, 2, 0, 0, 0x00FF}) + selected(3) +
             metafileRecord(0x214, {10, 0}) + metafileRecord(0x213, {10, 40}),
-        {{6, 10}, {14, 8}, {22, 10}}, {kBlue, kWhite, kBlue});
+        {{6, 10}, {13, 10}, {14, 10}, {22, 10}}, {kBlue, kWhite, kWhite, kBlue});
+    row("dotted",
+        kObjects + metafileRecord(0x2FA, {2, 2, 0, 0, 0x00FF}) + selected(3) +
+            metafileRecord(0x214, {10, 0}) + metafileRecord(0x213, {10, 40}),
+        {{2, 10}, {5, 10}, {6, 10}, {9, 10}, {13, 10}}, {kBlue, kWhite, kWhite, kBlue, kWhite});
     row("another window", metafileRecord(0x20B, {-15, -20}) + kFill + metafileRecord(0x41B, {0, 0, -15, -20}),
         {{5, 5}, {25, 5}, {5, 20}}, {kRed, kWhite, kWhite});
     row("a bitmap", metafileRecord(0xF43, {0x20, 0xCC, 0, 2, 2, 0, 0, 20, 20, 5, 10}, bitmap()),
         {{12, 7}, {28, 7}, {12, 23}, {28, 23}, {5, 7}}, {kRed, kGreen, kBlue, kWhite, kWhite});
     row("a part of one", metafileRecord(0xB41, {0x20, 0xCC, 1, 1, 1, 0, 20, 20, 5, 10}, bitmap()),
         {{12, 7}, {28, 23}, {32, 7}}, {kRed, kRed, kWhite});
+    row("a bitmap in its own pixels", metafileRecord(0xD33, {0, 2, 0, 0, 0, 2, 2, 5, 10}, bitmap()),
+        {{10, 5}, {11, 5}, {10, 6}, {12, 5}}, {kRed, kGreen, kBlue, kWhite});
+    row("a bitmap that is not stretched", metafileRecord(0x940, {0x20, 0xCC, 0, 0, 2, 2, 5, 10}, bitmap()),
+        {{10, 5}, {11, 5}, {10, 6}, {12, 5}}, {kRed, kGreen, kBlue, kWhite});
     row("bars", kFill + metafileRecord(0x61D, {0x21, 0xF0, 10, 10, 5, 5}), {{7, 7}, {17, 7}}, {kRed, kWhite});
   }
   void recordsAreDrawn() {
@@ -199,6 +211,12 @@ class MetafilePreviewTest : public QObject {
     QCOMPARE(found, rows);
   }
 
+  void aBitmapWithoutAllOfItsRowsIsNone() {
+    QVERIFY(deviceBitmap(bitmap()).ok());
+    QVERIFY(!deviceBitmap(bitmap().chopped(1)).ok());
+    QVERIFY(!deviceBitmap(bitmap().chopped(8)).ok());
+  }
+
   void fewRunsMayStandForALargeBitmap() {
     const auto ofRuns = [](int side) {
       return deviceBitmap(kit::words({40, 0, side, 0, side, 0, 1, 8, 1, 0, 0, 0, 0, 0, 0, 0, 2, 0, 0, 0}) +
@@ -274,22 +292,31 @@ class MetafilePreviewTest : public QObject {
   void textStandsWhereItIsAligned_data() {
     QTest::addColumn<int>("align");
     QTest::addColumn<int>("angle");  // tenths of a degree, against the clock
+    QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QRect>("box");  // all that is dark lies in it, and near each of its sides
-    QTest::newRow("from the place to the right, below it") << 0 << 0 << QRect(20, 15, 16, 12);
-    QTest::newRow("to the place") << 2 << 0 << QRect(4, 15, 16, 12);
-    QTest::newRow("around it") << 6 << 0 << QRect(12, 15, 16, 12);
-    QTest::newRow("on the line") << 24 << 0 << QRect(20, 6, 16, 10);
-    QTest::newRow("upwards") << 24 << 900 << QRect(10, -1, 11, 16);
+    const QByteArray plain = metafileRecord(0x521, {2, 0x4848, 15, 20});
+    const QByteArray framed = metafileRecord(0xA32, {15, 20, 2, 4, 0, 0, 40, 30, 0x4848});
+    const QByteArray upwards = metafileRecord(0x20B, {30, 0}) + metafileRecord(0x20C, {-30, 40});
+    QTest::newRow("from the place to the right, below it") << 0 << 0 << plain << QRect(20, 15, 16, 12);
+    QTest::newRow("to the place") << 2 << 0 << plain << QRect(4, 15, 16, 12);
+    QTest::newRow("around it") << 6 << 0 << plain << QRect(12, 15, 16, 12);
+    QTest::newRow("on the line") << 24 << 0 << plain << QRect(20, 6, 16, 10);
+    QTest::newRow("above its place") << 8 << 0 << plain << QRect(20, 4, 16, 10);
+    QTest::newRow("upwards") << 24 << 900 << plain << QRect(10, -1, 11, 16);
+    QTest::newRow("with more told") << 24 << 0 << metafileRecord(0xA32, {15, 20, 2, 0, 0x4848})
+                                    << QRect(20, 6, 16, 10);
+    QTest::newRow("with a rectangle") << 24 << 0 << framed << QRect(20, 6, 16, 10);
+    QTest::newRow("where y points upwards") << 24 << 0 << upwards + plain << QRect(20, 6, 16, 10);
   }
   void textStandsWhereItIsAligned() {
     QFETCH(int, align);
     QFETCH(int, angle);
+    QFETCH(QByteArray, text);
     QFETCH(QRect, box);
     const QByteArray font =
         metafileRecord(0x2FB, {-10, 0, angle, 0, 400, 0, 0, 0, 0}, QByteArray("sans-serif\0", 11));
-    const auto image = decodeMetafile(madeMetafile(font + selected(0) + metafileRecord(0x12E, {align}) +
-                                                   metafileRecord(0x521, {2, 0x4848, 15, 20})),
-                                      {});
+    const auto image =
+        decodeMetafile(madeMetafile(font + selected(0) + metafileRecord(0x12E, {align}) + text), {});
     QVERIFY(image.ok());
     QRect dark;
     for (int y = 0; y < 30; ++y)

@@ -9,6 +9,7 @@
 
 #include "kit/forked_check.h"
 #include "kit/test_main.h"
+#include "protocol/process_end.h"
 #include "worker/confinement/process_files.h"
 
 using namespace norvex;
@@ -151,6 +152,44 @@ class ForkServerTest : public QObject {
                                       "directory)")
                             : QString());
       }
+    }
+    ::waitpid(pid, nullptr, 0);
+  }
+
+  /// One that ends well has told all that there is.
+  void onlyAChildThatDiesIsTold() {
+    const QTemporaryDir scratch;
+    auto pair = MessageChannel::makePair();
+    QVERIFY(pair.ok() && scratch.isValid());
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+      pair->first.reset();
+      const auto end = [](FileDescriptor, const ForkRequest& request, const QString&) {
+        if (request.postScript) ::_exit(kMemoryUsedUp);
+      };
+      ForkServer(std::move(pair->second), scratch.path().toLocal8Bit(), end, {}).run();
+      ::_exit(0);
+    }
+    pair->second.reset();
+    {
+      MessageChannel control(std::move(pair->first));
+      QStringList told;
+      for (const bool dies : {false, true}) {
+        Line line = makeLine();
+        ForkRequest request;
+        request.postScript = dies;
+        QVERIFY(control.send(encodeMessage(request), line.theirs.get()).ok());
+        line.theirs.reset();
+        QCOMPARE(letterFrom(line.ours), '-');  // it has gone
+      }
+      for (int i = 0; i < 3; ++i) {
+        const auto message = control.receive(QDeadlineTimer(60000));
+        const auto reply = message ? decodeReply(message->cbor) : message.error();
+        QVERIFY(reply.ok());
+        const Error* error = std::get_if<Error>(&reply->body);
+        told << (error ? error->message : QStringLiteral("begun"));
+      }
+      QCOMPARE(told, (QStringList{"begun", "begun", "the picture needs more memory than it is allowed"}));
     }
     ::waitpid(pid, nullptr, 0);
   }

@@ -205,6 +205,48 @@ class InksPageTest : public QObject {
     QVERIFY(!texts(shown).contains("There are no inks."));
   }
 
+  void thatInksAreBeingSeparatedIsToldAboveThoseThatAreShown() {
+    const QString separating = "Separating";
+    InksPage shown;
+    shown.resize(300, 600);
+    shown.show();
+    shown.showInks(page(), 0);
+    shown.showSeparating(separating);
+    QVERIFY(texts(shown).contains(separating));
+    QVERIFY(listOf(shown).isVisible());
+    QVERIFY(!listOf(shown).isEnabled());
+    shown.tell("There are no inks.");
+    shown.showSeparating(separating);  // and alone where none are shown
+    QVERIFY(texts(shown).contains(separating));
+    QVERIFY(!listOf(shown).isVisible());
+  }
+
+  void theImageIsAsHighAsThePageIsWide() {
+    InksPage shown;
+    shown.resize(500, 1400);
+    shown.showInks(page(), 0);
+    shown.showImage(QImage(100, 90, QImage::Format_RGB32));
+    shown.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&shown));
+    const auto* view = shown.findChild<SeparationView*>();
+    QVERIFY(view->width() > 400);
+    QCOMPARE(view->height(), qRound(view->width() * 0.9));
+  }
+
+  void aFrameClosesTheImageOnAllSides() {
+    SeparationView view;
+    view.resize(200, 200);
+    QImage white(40, 20, QImage::Format_RGB32);
+    white.fill(Qt::white);
+    view.setImage(white);
+    const QImage drawn = view.grab().toImage();
+    const QRect place = view.imageRect();
+    const QColor frame = view.palette().color(QPalette::Mid);
+    for (const QPoint at : {place.topLeft(), place.topRight(), place.bottomLeft(), place.bottomRight()})
+      QCOMPARE(drawn.pixelColor(at).name(), frame.name());
+    QCOMPARE(drawn.pixelColor(place.center()).name(), QColor(Qt::white).name());
+  }
+
   void thePointerIsToldByThePixelsOfTheImage() {
     SeparationView view;
     view.resize(200, 200);
@@ -237,7 +279,7 @@ class InksPageTest : public QObject {
     view.setImage(QImage(20, 20, QImage::Format_RGB32));
     QCOMPARE(view.heightForWidth(400), 400);
     view.setImage(QImage(20, 400, QImage::Format_RGB32));
-    QVERIFY(view.heightForWidth(400) >= 400 && view.heightForWidth(400) < 500);
+    QVERIFY(view.heightForWidth(400) >= 400 && view.heightForWidth(400) <= 440);
     view.setImage(QImage(1, 4000, QImage::Format_RGB32));
     view.resize(300, 200);
     QCOMPARE(view.imageRect().size(), QSize(1, 200));  // a hairline is still seen

@@ -230,6 +230,7 @@ class CheckPageTest : public QObject {
     QCOMPARE(list->currentData().toString(), QStringLiteral("web"));  // until a file is named
     shown.page.setProfile(QStringLiteral("/a/my house.toml"));
     QCOMPARE(list->currentText(), QStringLiteral("my house"));
+    QCOMPARE(list->currentData(Qt::ToolTipRole).toString(), QStringLiteral("/a/my house.toml"));
     QCOMPARE(chosen.size(), 1);
   }
 

@@ -234,7 +234,15 @@ class CheckPageTest : public QObject {
     QCOMPARE(chosen.size(), 1);
   }
 
-  void everyWordOfTheRulesStandsInEveryLanguagesTable() {
+  void everyWordOfRulesAndProfilesStandsInEveryLanguagesTable() {
+    QStringList keys;
+    for (const RuleRow& row : ruleTable)
+      for (const std::string_view words : {row.title, mendingWords(row)})
+        keys << QString::fromUtf8(words.data(), qsizetype(words.size()));
+    const Shown shown;
+    const auto* profiles = shown.page.findChild<QComboBox*>("checkProfile");
+    for (int item = 0; item < profiles->count(); ++item) keys << profiles->itemText(item);
+    keys.removeAll(QString());
     const QDir tables(NORVEX_SOURCE_DIR "/src/resources");
     const QStringList names = tables.entryList({"norvex_*.ts"});
     QVERIFY(names.size() > 4);
@@ -242,13 +250,10 @@ class CheckPageTest : public QObject {
       QFile file(tables.filePath(name));
       QVERIFY(file.open(QIODevice::ReadOnly));
       const QString table = QString::fromUtf8(file.readAll());
-      for (const RuleRow& row : ruleTable)
-        for (const std::string_view words : {row.title, mendingWords(row)}) {
-          const QString key = QString::fromUtf8(words.data(), qsizetype(words.size()));
-          QVERIFY2(key.isEmpty() || table.contains("<source>" + key.toHtmlEscaped() + "</source>") ||
-                       table.contains("<source>" + key + "</source>"),
-                   qPrintable(name + ": " + key));
-        }
+      for (const QString& key : keys)
+        QVERIFY2(table.contains("<source>" + key.toHtmlEscaped() + "</source>") ||
+                     table.contains("<source>" + key + "</source>"),
+                 qPrintable(name + ": " + key));
     }
   }
 

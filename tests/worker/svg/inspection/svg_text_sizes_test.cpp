@@ -60,7 +60,7 @@ class SvgTextSizesTest : public QObject {
     sizes.open("use", "scale(3)", 0);
     QCOMPARE(sizes.largest(), 90.0);
   }
-  // Names of properties have no case.
+  // Names of properties have no case in CSS; a librsvg that passes over these in upper case loses nothing.
   void attributesAndStylesNameTheSize_data() {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("attribute") << QByteArray("<text font-size='40'>a</text>");

@@ -211,6 +211,19 @@ class CheckPageTest : public QObject {
     QCOMPARE(check.size(), 2);
   }
 
+  void aRowThatHasTheKeyboardIsFramed() {
+    Shown shown({kFont});
+    QApplication::setActiveWindow(&shown.page);
+    FindingRow* row = shown.rows().first();
+    row->setFocus();
+    QVERIFY(row->hasFocus());
+    const QColor frame = row->palette().color(QPalette::Highlight);
+    const QPoint left(3, row->height() / 2);
+    QCOMPARE(row->grab().toImage().pixelColor(left).name(), frame.name());
+    row->clearFocus();
+    QVERIFY(row->grab().toImage().pixelColor(left).name() != frame.name());
+  }
+
   void everyShippedProfileIsOfferedAndAFile() {
     Shown shown;
     auto* list = shown.page.findChild<QComboBox*>("checkProfile");

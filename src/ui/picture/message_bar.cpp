@@ -16,15 +16,6 @@
 
 namespace norvex {
 
-namespace {
-
-QColor barColor(MessageBar::Kind kind, bool dark) {
-  if (kind == MessageBar::Kind::Warning) return dark ? QColor(0x4a, 0x3a, 0x16) : QColor(0xff, 0xf4, 0xd6);
-  return dark ? QColor(0x1f, 0x36, 0x4d) : QColor(0xe6, 0xf1, 0xfc);
-}
-
-}  // namespace
-
 MessageBar::MessageBar(QWidget* parent)
     : QFrame(parent),
       text_(new QLabel(this)),
@@ -108,7 +99,8 @@ QString MessageBar::message() const {
 
 void MessageBar::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  drawFloatingCard(painter, rect(), barColor(kind_, isDarkScheme(palette())), palette());
+  const QColor fill = kind_ == Kind::Warning ? warningFill(palette()) : informationFill(palette());
+  drawFloatingCard(painter, rect(), fill, palette());
 }
 
 }  // namespace norvex

@@ -12,7 +12,6 @@
 #include "base/localized_string.h"
 #include "protocol/limits.h"
 #include "ui/style/floating_card.h"
-#include "ui/style/quiet_text.h"
 
 namespace norvex {
 
@@ -93,8 +92,7 @@ void PasswordBar::keyPressEvent(QKeyEvent* event) {
 
 void PasswordBar::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const bool dark = isDarkScheme(palette());
-  drawFloatingCard(painter, rect(), dark ? QColor(0x1f, 0x36, 0x4d) : QColor(0xe6, 0xf1, 0xfc), palette());
+  drawFloatingCard(painter, rect(), informationFill(palette()), palette());
 }
 
 }  // namespace norvex

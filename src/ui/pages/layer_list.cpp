@@ -56,10 +56,11 @@ void LayerList::setLayers(const QList<PictureLayer>& layers) {
 }
 
 QSize LayerList::sizeHint() const {
-  // Names may be long; the picture is what the window is for.
-  const int letter = fontMetrics().averageCharWidth();
+  // Names may be long; the picture is what the window is for. A letter of some scripts is twice as wide as
+  // one of others: the bounds follow the font's size.
+  const int least = 9 * fontMetrics().height();
   const int names = sizeHintForColumn(0) + 4 * kAround;
-  return {std::clamp(names, 22 * letter, 34 * letter), QListWidget::sizeHint().height()};
+  return {std::clamp(names, least, least * 3 / 2), QListWidget::sizeHint().height()};
 }
 
 void LayerList::take(const QListWidgetItem& item) {

@@ -238,11 +238,24 @@ class PagesTest : public QObject {
 
   void aListOfLayersIsAsWideAsItsNamesWithinBounds() {
     LayerList list;
-    const int letter = list.fontMetrics().averageCharWidth();
+    const int line = list.fontMetrics().height();
     list.setLayers({{"A", true}});
-    QCOMPARE(list.sizeHint().width(), 22 * letter);
+    QCOMPARE(list.sizeHint().width(), 9 * line);
     list.setLayers({{QString(200, u'W'), true}});
-    QCOMPARE(list.sizeHint().width(), 34 * letter);
+    QCOMPARE(list.sizeHint().width(), 27 * line / 2);
+  }
+
+  void aListOfLayersIsNoWiderForTheWidthOfAFontsLetters() {
+    LayerList narrow, wide;
+    QFont font = narrow.font();
+    font.setStretch(50);
+    narrow.setFont(font);
+    font.setStretch(200);
+    wide.setFont(font);
+    QVERIFY(wide.fontMetrics().averageCharWidth() > narrow.fontMetrics().averageCharWidth());
+    QCOMPARE(wide.fontMetrics().height(), narrow.fontMetrics().height());
+    for (LayerList* list : {&narrow, &wide}) list->setLayers({{"A", true}});
+    QCOMPARE(wide.sizeHint().width(), narrow.sizeHint().width());
   }
 
   // ---- a rectangle by its numbers

@@ -5,8 +5,8 @@
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
 #include <cstdlib>
-#include <limits>
 
 #include "base/localized_string.h"
 
@@ -47,7 +47,8 @@ class WholeCell final : public QStyledItemDelegate {
 
 }  // namespace
 
-PageStrip::PageStrip(QWidget* parent) : QListWidget(parent) {
+PageStrip::PageStrip(QWidget* parent) : QListWidget(parent), blank_(side, side) {
+  blank_.fill(Qt::transparent);
   setObjectName(QStringLiteral("pageStrip"));
   setAccessibleName(localizedString("Pages"));
   setViewMode(QListView::IconMode);
@@ -66,17 +67,18 @@ PageStrip::PageStrip(QWidget* parent) : QListWidget(parent) {
   connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row >= 0) emit pageChosen(row);
   });
-  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &PageStrip::scrolled);
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+    forgetFar();
+    emit scrolled();
+  });
 }
 
 void PageStrip::setCount(int count) {
   const QSignalBlocker quiet(this);
   clear();
   made_.fill(false, count);
-  QPixmap blank(side, side);
-  blank.fill(Qt::transparent);
   for (int page = 0; page < count; ++page) {
-    auto* item = new QListWidgetItem(QIcon(blank), QString::number(page + 1), this);
+    auto* item = new QListWidgetItem(QIcon(blank_), QString::number(page + 1), this);
     item->setTextAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     item->setData(Qt::AccessibleTextRole, localizedString("Page %1").arg(page + 1));
   }
@@ -92,18 +94,32 @@ void PageStrip::setThumbnail(int page, const QImage& image) {
   if (page < 0 || page >= made_.size()) return;
   made_[page] = true;
   if (!image.isNull()) item(page)->setIcon(QIcon(onPaper(image, devicePixelRatioF())));
+  forgetFar();  // it may have been scrolled away while it was made
+}
+
+int PageStrip::middle() const {
+  return (verticalScrollBar()->value() + viewport()->height() / 2) / gridSize().height();
 }
 
 int PageStrip::nextWanted() const {
-  const int height = gridSize().height();
-  const int middle = (verticalScrollBar()->value() + viewport()->height() / 2) / height;
-  int best = -1, distance = std::numeric_limits<int>::max();
-  for (int page = 0; page < made_.size(); ++page) {
-    if (made_.at(page) || std::abs(page - middle) >= distance) continue;
+  const int seen = middle();
+  int best = -1, distance = near + 1;
+  for (int page = std::max(0, seen - near); page < std::min(int(made_.size()), seen + near + 1); ++page) {
+    if (made_.at(page) || std::abs(page - seen) >= distance) continue;
     best = page;
-    distance = std::abs(page - middle);
+    distance = std::abs(page - seen);
   }
   return best;
+}
+
+/// Twice as far as what is wanted, so that going to and fro makes nothing anew.
+void PageStrip::forgetFar() {
+  const int seen = middle();
+  for (int page = 0; page < made_.size(); ++page) {
+    if (!made_.at(page) || std::abs(page - seen) <= 2 * near) continue;
+    made_[page] = false;
+    item(page)->setIcon(QIcon(blank_));
+  }
 }
 
 void PageStrip::showEvent(QShowEvent* event) {

@@ -3,14 +3,18 @@
 
 #include <QImage>
 #include <QListWidget>
+#include <QPixmap>
 
 namespace norvex {
 
-/// Shows what it is given and tells which of the rest can be seen. Pages count from 0. Main thread.
+/// Shows what it is given and tells which of the rest can be seen. Thumbnails that are far from those are
+/// forgotten, and wanted again when they come near: a document may have thousands of pages. Pages count
+/// from 0. Main thread.
 class PageStrip final : public QListWidget {
   Q_OBJECT
  public:
   static constexpr int side = 112;  ///< of a thumbnail; logical pixels
+  static constexpr int near = 60;   ///< pages to each side of what is seen: thumbnails of these are wanted
 
   explicit PageStrip(QWidget* parent = nullptr);
 
@@ -19,7 +23,7 @@ class PageStrip final : public QListWidget {
   /// Sends no signal.
   void setShownPage(int page);
   void setThumbnail(int page, const QImage& image);
-  /// The page without a thumbnail that can be seen, or is nearest to what can; -1: there is none.
+  /// The page without a thumbnail that can be seen, or is nearest to what can; -1: there is none near.
   [[nodiscard]] int nextWanted() const;
   /// As wide as its thumbnails.
   [[nodiscard]] QSize sizeHint() const override;
@@ -34,6 +38,11 @@ class PageStrip final : public QListWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  /// The page in the middle of what can be seen.
+  [[nodiscard]] int middle() const;
+  void forgetFar();
+
+  QPixmap blank_;  ///< instead of a thumbnail
   QList<bool> made_;
 };
 

@@ -175,6 +175,32 @@ class PagesTest : public QObject {
     QVERIFY(strip.nextWanted() >= 0);
   }
 
+  void thumbnailsFarFromWhatIsSeenAreForgottenAndMadeAgain() {
+    PageStrip strip;
+    strip.setCount(3000);
+    strip.resize(160, 420);
+    strip.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    const auto isBlank = [&strip](int page) {
+      const QImage icon = strip.item(page)->icon().pixmap(PageStrip::side, PageStrip::side).toImage();
+      return icon.pixelColor(56, 56).alpha() == 0;
+    };
+    int kept = 0;
+    for (int top = 0; top < 3000; top += 50) {
+      strip.verticalScrollBar()->setValue(140 * top);
+      for (int page = strip.nextWanted(); page >= 0; page = strip.nextWanted())
+        strip.setThumbnail(page, plain({4, 4}, Qt::red));
+      QVERIFY(!isBlank(top));
+    }
+    for (int page = 0; page < 3000; ++page) kept += isBlank(page) ? 0 : 1;
+    QVERIFY2(kept > 0 && kept <= 4 * PageStrip::near + 1, qPrintable(QString::number(kept)));
+    QVERIFY(isBlank(0));
+    strip.setThumbnail(1, plain({4, 4}, Qt::red));  // what was still being made for a place that was left
+    QVERIFY(isBlank(1));
+    strip.verticalScrollBar()->setValue(0);
+    QVERIFY(strip.nextWanted() >= 0 && strip.nextWanted() < 5);
+  }
+
   void scrollingIsToldAndSoIsBeingShownAtAll() {
     PageStrip strip;
     strip.setCount(40);

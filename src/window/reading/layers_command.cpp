@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QMainWindow>
 #include <QMenu>
+#include <QSignalBlocker>
 
 #include <memory>
 #include <utility>
@@ -38,6 +39,7 @@ void LayersCommand::setUp(QMenu& menu) {
   action_->setChecked(savedView(kShown, false));
   connect(action_, &QAction::toggled, this, [this](bool on) {
     saveView(kShown, on);
+    keptAway_ = false;
     validate();
   });
   parts_.mainWindow()->installEventFilter(this);
@@ -86,7 +88,23 @@ void LayersCommand::documentDidChange() {
   const QList<PictureLayer> now = shown();
   if (list_) list_->setLayers(now);
   tellLocked(now);
+  keepAwayFromReload(!now.isEmpty());
   validate();
+}
+
+void LayersCommand::keepAwayFromReload(bool hasLayers) {
+  const QString file = parts_.mainWindow()->windowFilePath();
+  const bool again = std::exchange(file_, file) == file;
+  if (!again && std::exchange(keptAway_, false)) setWanted(true);
+  const bool hadLayers = std::exchange(hadLayers_, hasLayers || (again && hadLayers_));
+  if (!again || hadLayers || !hasLayers || !action_->isChecked()) return;
+  keptAway_ = true;
+  setWanted(false);
+}
+
+void LayersCommand::setWanted(bool on) {
+  const QSignalBlocker quiet(action_);
+  action_->setChecked(on);
 }
 
 void LayersCommand::documentDidStay() {

@@ -3,6 +3,9 @@
 
 #include <QList>
 #include <QObject>
+#include <QString>
+
+#include <optional>
 
 #include "protocol/worker_protocol.h"
 #include "window/commands/side_room.h"
@@ -18,8 +21,9 @@ class WindowParts;
 class WindowSizingCommand;
 
 /// A list of them beside the picture, made when it is first seen. Where there are none, nothing of it is
-/// seen. What is chosen is told on, and holds when the document is read again with it: for the screen and for
-/// everything that is handed out. Parts and sizing outlive it. Main thread.
+/// seen; layers that a file which is looked at gets later do not open it. What is chosen is told on, and
+/// holds when the document is read again with it: for the screen and for everything that is handed out. Parts
+/// and sizing outlive it. Main thread.
 class LayersCommand final : public QObject {
   Q_OBJECT
  public:
@@ -47,6 +51,9 @@ class LayersCommand final : public QObject {
   /// What is to be told on for wanted_. `before`: what is shown.
   [[nodiscard]] QList<PictureLayer> toChoose(const QList<PictureLayer>& before) const;
   void tellLocked(const QList<PictureLayer>& now);
+  void keepAwayFromReload(bool hasLayers);
+  /// As if it had been so from the beginning: no choice of the user's.
+  void setWanted(bool on);
   void validate();
   [[nodiscard]] bool showsList() const;
   /// Once it is to be seen.
@@ -58,8 +65,11 @@ class LayersCommand final : public QObject {
   LayerList* list_ = nullptr;
   QDockWidget* dock_ = nullptr;
   QAction* action_ = nullptr;
-  QList<PictureLayer> wanted_;  ///< until the document has been read again; empty: nothing was chosen
-  int touched_ = -1;            ///< the layer among them that the user switched
+  std::optional<QString> file_;  ///< whose document has been shown last
+  bool hadLayers_ = false;       ///< that file's, in any state of it
+  bool keptAway_ = false;        ///< the list is wanted, but not for that file
+  QList<PictureLayer> wanted_;   ///< until the document has been read again; empty: nothing was chosen
+  int touched_ = -1;             ///< the layer among them that the user switched
 };
 
 }  // namespace norvex

@@ -55,10 +55,13 @@ class Protected : public WindowFixture {
 class Layered : public WindowFixture {
  public:
   /// `state`: the folder of a window that was there before.
-  explicit Layered(const QString& state = {}) : c(opened(state)) {}
-  MainWindowController& opened(const QString& state) {
+  explicit Layered(const QString& state = {},
+                   const QList<PictureLayer>& layers = {{"Red", true}, {"Blue", false}})
+      : c(opened(state, layers)) {}
+  MainWindowController& opened(const QString& state, const QList<PictureLayer>& layers) {
     if (!state.isEmpty()) qputenv("XDG_STATE_HOME", state.toUtf8());
-    service.setPicture(pictureWith({{"Red", true}, {"Blue", false}}));
+    service.setPicture(pictureWith(layers));
+    if (layers.isEmpty()) return loaded("%PDF-1.4", "a.pdf", UTTypePDF().identifier());
     service.setChoose([this](const QByteArray& pdf, const ReaderChoices& choices) {
       service.setPicture(pictureWith(choices.layers.last(2)));
       return PictureBytes{pdf, {}};
@@ -186,6 +189,30 @@ class ReaderTest : public QObject {
     MainWindowController& c = without.loadedEps();
     QVERIFY(!c.window()->findChild<QAction*>(QStringLiteral("layersAction"))->isEnabled());
     QVERIFY(!c.window()->findChild<QDockWidget*>(QStringLiteral("layersDock")));
+  }
+
+  void layersThatAFileGetsLaterDoNotOpenTheList() {
+    Layered f;
+    f.action()->trigger();
+    QVERIFY(f.isListed());
+    f.service.setChoose({});
+    f.service.setPicture(Layered::pictureWith({}));
+    f.revert();
+    QVERIFY(!f.isListed());
+    f.service.setPicture(Layered::pictureWith({{"Red", true}}));
+    f.revert();  // a file that had some, and was read while it was being written
+    QVERIFY(f.isListed());
+
+    Layered plain(f.folder.path(), {});
+    QVERIFY(!plain.action()->isEnabled());
+    plain.service.setPicture(Layered::pictureWith({{"Red", true}}));
+    plain.revert();
+    QVERIFY(plain.action()->isEnabled());
+    QVERIFY(!plain.action()->isChecked() && !plain.isListed());
+    Layered next(f.folder.path());  // nobody has chosen otherwise
+    QVERIFY(next.isListed());
+    plain.action()->trigger();
+    QVERIFY(plain.isListed());
   }
 
   void theNextWindowListsThemAsThisOneDoes() {

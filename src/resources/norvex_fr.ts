@@ -3750,11 +3750,11 @@
     </message>
     <message>
         <source>Landlock: on, version %1</source>
-        <translation>Landlock : actif, version %1.</translation>
+        <translation>Landlock : actif, version %1.</translation>
     </message>
     <message>
         <source>Landlock: missing</source>
-        <translation>Landlock : absent.</translation>
+        <translation>Landlock : absent.</translation>
     </message>
     <message>
         <source>No rules of the kernel about files</source>
@@ -3782,7 +3782,7 @@
     </message>
     <message>
         <source>This version does not cover %1</source>
-        <translation>Cette version ne couvre pas : %1.</translation>
+        <translation>Cette version ne couvre pas : %1.</translation>
     </message>
     <message>
         <source>TCP</source>
@@ -3802,11 +3802,11 @@
     </message>
     <message>
         <source>System calls (seccomp): on</source>
-        <translation>Appels système (seccomp) : actif.</translation>
+        <translation>Appels système (seccomp) : actif.</translation>
     </message>
     <message>
         <source>Only calls on a list: no programs, processes, sockets, tracing, mounts, keys, changed modes or owners</source>
-        <translation>Seuls les appels d’une liste : ni programmes, processus, sockets, traçage, montages, clés, ni changements de droits ou de propriétaires.</translation>
+        <translation>Seuls les appels d’une liste : ni programmes, processus, sockets, traçage, montages, clés, ni changements de droits ou de propriétaires.</translation>
     </message>
     <message>
         <source>Engines open nothing for writing</source>
@@ -3814,7 +3814,7 @@
     </message>
     <message>
         <source>System calls (seccomp): missing</source>
-        <translation>Appels système (seccomp) : absent.</translation>
+        <translation>Appels système (seccomp) : absent.</translation>
     </message>
     <message>
         <source>Every call can be made</source>
@@ -3822,7 +3822,7 @@
     </message>
     <message>
         <source>File view (user and mount namespaces): on</source>
-        <translation>Vue des fichiers (espaces de noms utilisateur et montage) : active.</translation>
+        <translation>Vue des fichiers (espaces de noms utilisateur et montage) : active.</translation>
     </message>
     <message>
         <source>Files other than those that engines need do not exist, and all but scratch files are read-only</source>
@@ -3830,7 +3830,7 @@
     </message>
     <message>
         <source>File view (user and mount namespaces): missing</source>
-        <translation>Vue des fichiers (espaces de noms utilisateur et montage) : absente.</translation>
+        <translation>Vue des fichiers (espaces de noms utilisateur et montage) : absente.</translation>
     </message>
     <message>
         <source>The system does not permit them to this user</source>
@@ -3838,7 +3838,7 @@
     </message>
     <message>
         <source>Network and messages (namespaces): on</source>
-        <translation>Réseau et messages (espaces de noms) : actif.</translation>
+        <translation>Réseau et messages (espaces de noms) : actif.</translation>
     </message>
     <message>
         <source>No network exists</source>
@@ -3850,11 +3850,11 @@
     </message>
     <message>
         <source>Of a single picture on the command line: off, for they take time</source>
-        <translation>Pour une seule image en ligne de commande : inactif, car cela prend du temps.</translation>
+        <translation>Pour une seule image en ligne de commande : inactif, car cela prend du temps.</translation>
     </message>
     <message>
         <source>Network and messages (namespaces): missing</source>
-        <translation>Réseau et messages (espaces de noms) : absent.</translation>
+        <translation>Réseau et messages (espaces de noms) : absent.</translation>
     </message>
     <message>
         <source>What else is on keeps pictures from them</source>
@@ -3862,7 +3862,7 @@
     </message>
     <message>
         <source>Limits: memory, processor time, size and number of files, scratch files; no core files</source>
-        <translation>Limites : mémoire, temps processeur, taille et nombre des fichiers, fichiers temporaires ; pas de vidage mémoire.</translation>
+        <translation>Limites : mémoire, temps processeur, taille et nombre des fichiers, fichiers temporaires ; pas de vidage mémoire.</translation>
     </message>
     <message>
         <source>This build watches itself, for which it leaves layers out</source>
@@ -3874,7 +3874,7 @@
     </message>
     <message>
         <source>Nothing keeps a picture from this user's files: norvex refuses to read any</source>
-        <translation>Rien ne protège les fichiers de cet utilisateur d’une image : norvex refuse d’en lire.</translation>
+        <translation>Rien ne protège les fichiers de cet utilisateur d’une image : norvex refuse d’en lire.</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,6 @@
 #include "window/reader_set_up.h"
 
 #include <QAction>
-#include <QMainWindow>
 #include <QMenu>
 
 #include "ui/source/source_text_view.h"

@@ -19,12 +19,14 @@
 namespace norvex {
 namespace {
 
-/// Sharp in the inspector, and read under the pointer as finely as it can point.
-constexpr double kUsualDpi = 144, kPixels = 2.0e6;
+/// Sharp in the inspector, and read under the pointer as finely as it can point. Plates have no half pixels
+/// at their edges: a small picture is separated so finely that the inspector shows the means of several.
+constexpr double kUsualDpi = 144, kFinestDpi = 2400, kFewestPixels = 7.0e5, kPixels = 2.0e6;
 
 double dpiFor(const QSizeF& points) {
   const double area = std::max(1.0, points.width() * points.height());
-  return std::clamp(72 * std::sqrt(kPixels / area), 1.0, kUsualDpi);
+  const double fine = std::clamp(72 * std::sqrt(kFewestPixels / area), kUsualDpi, kFinestDpi);
+  return std::max(1.0, std::min(fine, 72 * std::sqrt(kPixels / area)));
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ class InksCommandTest : public QObject {
   Q_OBJECT
  private slots:
   void nothingIsSeparatedBeforeItIsLookedAt() {
-    InksFixture f;
+    InksFixture f(1, {612, 792});
     f.openPdf();
     f.controller->inspectorWindow->show();
     QTest::qWait(50);
@@ -31,14 +31,16 @@ class InksCommandTest : public QObject {
     QCOMPARE(f.image().pixel(1, 0), qRgb(255, 242, 0));
   }
 
-  void aLargePageIsSeparatedLessFinely_data() {
+  void thePageIsSeparatedAsFinelyAsItIsSmall_data() {
     QTest::addColumn<QSizeF>("page");
     QTest::addColumn<double>("dpi");
-    QTest::newRow("small") << QSizeF(200, 100) << 144.0;
+    QTest::newRow("icon") << QSizeF(16, 16) << 2400.0;
+    QTest::newRow("small") << QSizeF(250, 112) << 360.0;
+    QTest::newRow("letter") << QSizeF(612, 792) << 144.0;
     QTest::newRow("two million points") << QSizeF(2000, 1000) << 72.0;
     QTest::newRow("enormous") << QSizeF(200'000, 100'000) << 1.0;
   }
-  void aLargePageIsSeparatedLessFinely() {
+  void thePageIsSeparatedAsFinelyAsItIsSmall() {
     QFETCH(QSizeF, page);
     InksFixture f(1, page);
     f.openPdf();

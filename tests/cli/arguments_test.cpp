@@ -174,6 +174,24 @@ class ArgumentsTest : public QObject {
         QVERIFY2(textLine.size() <= 100, qPrintable(textLine));
   }
 
+  void helpTellsWhichNamesAreStandardInputAndOutput_data() {
+    QTest::addColumn<Command>("command");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("all commands") << Command::Main << "\nFILE and OUT may be -: standard input or output.\n";
+    QTest::newRow("output") << Command::Convert << "\nFILE and OUT may be -: standard input or output.\n";
+    QTest::newRow("two names") << Command::Thumbnail
+                               << "\nFILE and OUT may be -: standard input or output.\n";
+    QTest::newRow("no output") << Command::Info << "\nFILE may be -: standard input.\n";
+    QTest::newRow("neither") << Command::Status << "";
+  }
+  void helpTellsWhichNamesAreStandardInputAndOutput() {
+    QFETCH(Command, command);
+    QFETCH(QString, told);
+    const QString help = helpText(command);
+    QCOMPARE(help.count("may be -:"), told.isEmpty() ? 0 : 1);
+    QVERIFY(help.contains(told));
+  }
+
   void everyFormatThatIsWrittenIsOfferedEverywhere() {
     QFile file(QStringLiteral(NORVEX_SOURCE_DIR "/README.md"));
     QVERIFY(file.open(QIODevice::ReadOnly));

@@ -114,10 +114,28 @@ class ThumbnailTest : public QObject {
     QCOMPARE(line.contents("a.pdf"), kPdf);
   }
 
+  void standardInputToStandardOutput() {
+    CommandLine line;
+    line.console.standardInput = kPdf;
+    QCOMPARE(line.run({"thumbnail", "-", "-"}), 0);
+    QCOMPARE(QImage::fromData(line.console.output, "PNG").size(), QSize(128, 64));
+    QVERIFY(line.entries().isEmpty());
+  }
+
+  void aPasswordComesFromStandardInputWhereOnlyTheOutputIsStandard() {
+    CommandLine line;
+    line.console.standardInput = "secret\n";
+    const QString file = line.write("a.pdf", kPdf);
+    QCOMPARE(line.run({"thumbnail", "--password-file", "-", file, "-"}), 0);
+    QCOMPARE(line.run({"thumbnail", "--password-file", "-", "-", "-"}), 2);
+    QCOMPARE(line.console.messages.count("cannot both come from standard input"), 1);
+  }
+
   void wrongUsage_data() {
     QTest::addColumn<QStringList>("given");
     QTest::newRow("no output") << QStringList{"a.eps"};
     QTest::newRow("two outputs") << QStringList{"a.eps", "b.png", "c.png"};
+    QTest::newRow("standard input and a second output") << QStringList{"-", "-", "-"};
     QTest::newRow("no size at all") << QStringList{"-s", "0", "a.eps", "b.png"};
     QTest::newRow("a size beyond all screens") << QStringList{"-s", "100000", "a.eps", "b.png"};
     QTest::newRow("a size that is none") << QStringList{"-s", "large", "a.eps", "b.png"};

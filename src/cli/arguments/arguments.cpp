@@ -163,8 +163,7 @@ QString complaintAbout(const Arguments& arguments) {
   if (const QString wrong = wrongNumberOfFiles(rowOf(arguments.command), arguments.files.size());
       !wrong.isEmpty())
     return wrong;
-  if (arguments.files.count(QStringLiteral("-")) > 1)
-    return QStringLiteral("standard input can be read only once");
+  if (arguments.timesInputIsRead() > 1) return QStringLiteral("standard input can be read only once");
   const bool writes = arguments.command == Command::Preview || arguments.command == Command::Repair;
   if (writes && !arguments.has(Option::Output))
     return QStringLiteral("no output is given (-o OUT or --to DIR)");
@@ -175,6 +174,11 @@ QString complaintAbout(const Arguments& arguments) {
 }
 
 }  // namespace
+
+qsizetype Arguments::timesInputIsRead() const {
+  const QStringList read = command == Command::Thumbnail ? files.mid(0, 1) : files;
+  return read.count(QStringLiteral("-"));
+}
 
 bool Arguments::asksForArchive() const {
   if (command == Command::Status) return false;

@@ -20,6 +20,8 @@ struct Arguments {
   QHash<Option, QStringList> lists;  ///< all values of the options that may be given more than once
 
   [[nodiscard]] bool has(Option option) const { return values.contains(option); }
+  /// How often a picture would be read from standard input: the second name of a thumbnail is written.
+  [[nodiscard]] qsizetype timesInputIsRead() const;
   /// True if the files are those of an archive: told by lists, trees or a state, or their results go to a
   /// folder by a command that does one file otherwise.
   [[nodiscard]] bool asksForArchive() const;

@@ -8,7 +8,6 @@ namespace norvex {
 namespace {
 
 constexpr char kEnd[] =
-    "\nFILE and OUT may be -: standard input or output.\n"
     "\nExit codes: 0 all done, 1 some file failed, 2 wrong usage, 3 cannot read or parse,\n"
     "4 cannot write, 5 a limit was reached, 6 no sandbox could be set up, 130 interrupted,\n"
     "141 nobody reads standard output any more.\n";
@@ -27,6 +26,15 @@ QString besideNames(const QString& names, int column, const QString& help) {
     used += 1 + word.size();
   }
   return text + QLatin1Char('\n');
+}
+
+/// Which names may stand for standard input and output.
+QString standardStreamsOf(const CommandRow& row) {
+  if (row.id == Command::Main || row.operands.find("OUT") != std::string_view::npos)
+    return QStringLiteral("\nFILE and OUT may be -: standard input or output.\n");
+  if (row.operands.find("FILE") != std::string_view::npos)
+    return QStringLiteral("\nFILE may be -: standard input.\n");
+  return {};
 }
 
 QString usageOf(const CommandRow& row) {
@@ -61,7 +69,7 @@ QString helpText(Command command) {
     const CommandRow& row = rowOf(command);
     text = QStringLiteral("Usage: %1 [options]\n%2.\n").arg(usageOf(row), latin1(row.help));
     text[text.indexOf('\n') + 1] = text[text.indexOf('\n') + 1].toUpper();
-    return text + optionLines(command) + QLatin1String(kEnd);
+    return text + optionLines(command) + standardStreamsOf(row) + QLatin1String(kEnd);
   }
   text = QStringLiteral(
       "Norvex shows EPS, Illustrator, PDF and SVG pictures and hands out parts of them as vectors.\n\n");
@@ -69,7 +77,7 @@ QString helpText(Command command) {
   for (const CommandRow& row : commandTable) text += besideNames(usageOf(row), 28, latin1(row.help));
   text += optionLines(command);
   text += QStringLiteral("\nnorvex COMMAND --help shows the options of a command.\n");
-  return text + QLatin1String(kEnd);
+  return text + standardStreamsOf(rowOf(command)) + QLatin1String(kEnd);
 }
 
 QString versionText() {

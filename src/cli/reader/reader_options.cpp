@@ -106,7 +106,7 @@ Result<ReaderOptions> readerOptions(const Arguments& arguments,
   ReaderOptions options;
   if (arguments.has(Option::PasswordFile)) {
     const QString file = arguments.values.value(Option::PasswordFile);
-    if (file == u"-" && arguments.files.contains(file))
+    if (file == u"-" && arguments.timesInputIsRead() > 0)
       return wrong(QStringLiteral("the file and its password cannot both come from standard input"));
     Result<QString> password = passwordIn(file, standardInput);
     if (!password) return password.error();

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QMap>
 #include <QScrollBar>
 
@@ -47,6 +48,21 @@ int heightBeside(const QLayout& layout, const QWidget& body, int width) {
   int sum = margins.top() + margins.bottom();
   for (const int height : std::as_const(heights)) sum += height + std::max(0, layout.spacing());
   return sum;
+}
+
+QAbstractSlider::SliderAction actionOf(int key) {
+  switch (key) {
+    case Qt::Key_PageUp:
+      return QAbstractSlider::SliderPageStepSub;
+    case Qt::Key_PageDown:
+      return QAbstractSlider::SliderPageStepAdd;
+    case Qt::Key_Home:
+      return QAbstractSlider::SliderToMinimum;
+    case Qt::Key_End:
+      return QAbstractSlider::SliderToMaximum;
+    default:
+      return QAbstractSlider::SliderNoAction;
+  }
 }
 
 }  // namespace
@@ -102,6 +118,13 @@ bool PanelBody::isScrolled() const {
   return verticalScrollBar()->maximum() > 0;
 }
 
+bool PanelBody::scrollBy(int key) {
+  const auto action = actionOf(key);
+  if (action == QAbstractSlider::SliderNoAction || !isScrolled()) return false;
+  verticalScrollBar()->triggerAction(action);
+  return true;
+}
+
 void PanelBody::showFocus(QWidget* focus) {
   // A field that is pressed is seen, and shall not move away below the pointer.
   if (focus && widget()->isAncestorOf(focus) && QApplication::mouseButtons() == Qt::NoButton)
@@ -134,11 +157,15 @@ void PanelBody::showEvent(QShowEvent* event) {
     if (each->focusPolicy() == Qt::WheelFocus) each->setFocusPolicy(Qt::StrongFocus);
     each->installEventFilter(this);
   }
+  window()->installEventFilter(this);
   QScrollArea::showEvent(event);
   QMetaObject::invokeMethod(this, &PanelBody::keepPanelOnScreen, Qt::QueuedConnection);
 }
 
 bool PanelBody::eventFilter(QObject* watched, QEvent* event) {
+  // A key comes to the panel when whatever has the keyboard does nothing with it.
+  if (event->type() == QEvent::KeyPress && watched == window())
+    return scrollBy(static_cast<QKeyEvent*>(event)->key());
   const auto* control = qobject_cast<QWidget*>(watched);
   if (event->type() == QEvent::Wheel && control && control != viewport() && control != widget() &&
       isScrolled() && !control->hasFocus()) {

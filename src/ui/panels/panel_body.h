@@ -10,7 +10,8 @@ namespace norvex {
 
 /// The choices of a panel. Its panel is as large as they are, as if they stood in it themselves; where the
 /// screen has no room for them they are scrolled, and what stands above and below them stays. Whatever gets
-/// the keyboard is scrolled to, and a wheel that scrolls changes no number on its way. Stands in the layout
+/// the keyboard is scrolled to, and a wheel that scrolls changes no number on its way. Keys that scroll do so
+/// where nothing else takes them. Stands in the layout
 /// of the panel itself, which stays on the screen when it grows with them. Main thread.
 class PanelBody final : public QScrollArea {
   Q_OBJECT
@@ -38,6 +39,8 @@ class PanelBody final : public QScrollArea {
   /// `wanted`, or as much of it as there is room for, with a scroll bar then.
   [[nodiscard]] QSize bounded(const QSize& wanted) const;
   [[nodiscard]] bool isScrolled() const;
+  /// True if the key scrolls.
+  bool scrollBy(int key);
   void showFocus(QWidget* focus);
   void keepPanelOnScreen();
 };

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
 
@@ -137,6 +138,26 @@ class PanelBodyTest : public QObject {
     small.numbers.last()->setValue(50);
     wheel(*small.numbers.last());
     QCOMPARE(small.numbers.last()->value(), 49);
+  }
+
+  void keysThatNothingElseTakesScroll() {
+    Panel p(200);
+    p.show();
+    QPushButton* const ok = p.buttons->button(QDialogButtonBox::Ok);
+    ok->setFocus();
+    const QScrollBar& bar = *p.body->verticalScrollBar();
+    QTest::keyClick(ok, Qt::Key_PageDown);
+    QCOMPARE(bar.value(), bar.pageStep());
+    QTest::keyClick(ok, Qt::Key_End);
+    QCOMPARE(bar.value(), bar.maximum());
+    QTest::keyClick(ok, Qt::Key_PageUp);
+    QCOMPARE(bar.value(), bar.maximum() - bar.pageStep());
+    QTest::keyClick(ok, Qt::Key_Home);
+    QCOMPARE(bar.value(), 0);
+    p.numbers.first()->setFocus();
+    QTest::keyClick(p.numbers.first(), Qt::Key_PageUp);
+    QCOMPARE(p.numbers.first()->value(), 10);
+    QCOMPARE(bar.value(), 0);
   }
 
   void aRowThatIsTooWideIsStacked() {

@@ -247,12 +247,12 @@ class InterpreterProgramTest : public QObject {
       const rlimit files = {64 << 20, 64 << 20};
       if (::setrlimit(RLIMIT_FSIZE, &files) != 0) return 100;
       interpreters.context().limits.memoryMiB = 1 << 20;
-      // Some 600 MiB.
-      const auto run = interpreters.run("[ 10000 { 60000 string } repeat (all of it) = flush quit\n");
+      // Some 170 MiB.
+      const auto run = interpreters.run("[ 3000 { 60000 string } repeat (all of it) = flush quit\n");
       return run && run->messages.contains("all of it\n") ? 1 : 0;
     });
     QCOMPARE(told, 0);
-    QVERIFY(interpreters.saidBy("[ 10000 { 60000 string } repeat (all of it) =").contains("all of it\n"));
+    QVERIFY(interpreters.saidBy("[ 3000 { 60000 string } repeat (all of it) =").contains("all of it\n"));
   }
 
   void tooManyTemporaryFilesAreALimit() {

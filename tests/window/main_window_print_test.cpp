@@ -12,7 +12,7 @@
 #include "picture/process/forwarding_process.h"
 #include "print/memory_printing.h"
 #include "ui/picture/norvex_view_widget.h"
-#include "window/commands/print_commands.h"
+#include "window/commands/print_jobs.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -239,7 +239,7 @@ class MainWindowPrintTest : public QObject {
     PrintFixture fixture;
     MainWindowController& c = fixture.load("a.eps");
     fixture.service.pictures.lastProcess()->fail(PictureCall::Compose, {ErrorKind::Died, "it ended"});
-    auto jobs = std::make_unique<PrintCommands>();
+    auto jobs = std::make_unique<PrintJobs>();
     EndingInteraction people([&jobs] { jobs.reset(); });
     jobs->printRectangle(*c.view(), QRectF(0, 0, 10, 10), fixture.document, "a",
                          {nullptr, &fixture.spooler, &people});

@@ -18,8 +18,8 @@ void PrintingCommand::setServices(const PrintServices& services) {
 
 void PrintingCommand::setUp() {
   if (!jobs_) {
-    jobs_ = std::make_unique<PrintCommands>();
-    connect(jobs_.get(), &PrintCommands::ended, this, &PrintingCommand::ended);
+    jobs_ = std::make_unique<PrintJobs>();
+    connect(jobs_.get(), &PrintJobs::ended, this, &PrintingCommand::ended);
   }
   if (!services_.spooler) {
     static CupsSpooler spooler;

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-#include "window/commands/print_commands.h"
+#include "window/commands/print_jobs.h"
 
 namespace norvex {
 
@@ -44,7 +44,7 @@ class PrintingCommand final : public QObject {
   WindowParts& parts_;
   PrintServices services_;
   std::unique_ptr<PrintInteraction> ownInteraction_;
-  std::unique_ptr<PrintCommands> jobs_;  ///< ends before the interaction that it tells
+  std::unique_ptr<PrintJobs> jobs_;  ///< ends before the interaction that it tells
 };
 
 }  // namespace norvex

@@ -1,4 +1,4 @@
-// The print jobs of one document window.
+// The print jobs of one document window, as PrintingCommand orders them.
 #pragma once
 
 #include <QObject>
@@ -24,11 +24,11 @@ class NorvexView;
 
 /// Keeps the operations of a window until their jobs are over. Main thread; destroying it cancels what still
 /// runs and waits for its end.
-class PrintCommands final : public QObject {
+class PrintJobs final : public QObject {
   Q_OBJECT
  public:
-  explicit PrintCommands(QObject* parent = nullptr) : QObject(parent) {}
-  ~PrintCommands() override;
+  explicit PrintJobs(QObject* parent = nullptr) : QObject(parent) {}
+  ~PrintJobs() override;
 
   /// Prints the part `rect` of `view` (view coordinates) as a view of its own, with its own picture of it.
   /// That picture is made beside the window, with progress and Cancel, before the panel is shown; when it

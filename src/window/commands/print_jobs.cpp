@@ -1,4 +1,4 @@
-#include "window/commands/print_commands.h"
+#include "window/commands/print_jobs.h"
 
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -23,18 +23,18 @@ bool wasPrinted(const Result<void>& result) {
 
 }  // namespace
 
-PrintCommands::~PrintCommands() {
+PrintJobs::~PrintJobs() {
   cancelAll();
   if (preparing_) preparing_->work.wait();
 }
 
-void PrintCommands::cancelAll() {
+void PrintJobs::cancelAll() {
   if (preparing_) preparing_->cancel.cancel();
   for (const CancelToken& cancel : cancels_) cancel.cancel();
 }
 
-void PrintCommands::printRectangle(const NorvexView& view, const QRectF& rect, Document& document,
-                                   const QString& windowTitle, PrintServices services) {
+void PrintJobs::printRectangle(const NorvexView& view, const QRectF& rect, Document& document,
+                               const QString& windowTitle, PrintServices services) {
   if (preparing_) return;
   services.pictures = &document.pictureService();
   const Part part{rect.size(), printJobTitle(document.fileURL(), document.displayName()),
@@ -59,10 +59,10 @@ void PrintCommands::printRectangle(const NorvexView& view, const QRectF& rect, D
       [this](const Picture& picture) { takePicture(picture); });
 }
 
-void PrintCommands::takePicture(const Picture& picture) {
+void PrintJobs::takePicture(const Picture& picture) {
   const std::unique_ptr<Preparing> done = std::move(preparing_);
   const Result<void> result = picture ? Result<void>() : Result<void>(picture.error());
-  const QPointer<PrintCommands> self(this);
+  const QPointer<PrintJobs> self(this);
   if (PrintInteraction* const interaction = done->part.services.interaction)
     interaction->preparationDidEnd(done->number, done->part.jobTitle, result);
   if (!self) return;  // while a failure was told
@@ -71,7 +71,7 @@ void PrintCommands::takePicture(const Picture& picture) {
   emit ended(wasPrinted(result));
 }
 
-void PrintCommands::runPart(const Part& part, const std::shared_ptr<NSImageRep>& picture) {
+void PrintJobs::runPart(const Part& part, const std::shared_ptr<NSImageRep>& picture) {
   auto printed = std::make_shared<NorvexRenderingView>(QRectF(QPointF(0, 0), part.size), picture.get());
   printed->setPrintJobTitle(part.jobTitle);
   printed->setTitle(part.pageTitle);
@@ -83,7 +83,7 @@ void PrintCommands::runPart(const Part& part, const std::shared_ptr<NSImageRep>&
   run(std::move(operation));
 }
 
-void PrintCommands::run(std::unique_ptr<NSPrintOperation> operation) {
+void PrintJobs::run(std::unique_ptr<NSPrintOperation> operation) {
   if (!operation) return;
   NSPrintOperation* const running = operation.get();
   const CancelToken cancel;
@@ -97,7 +97,7 @@ void PrintCommands::run(std::unique_ptr<NSPrintOperation> operation) {
   running->runOperation();
 }
 
-void PrintCommands::drop(NSPrintOperation* operation) {
+void PrintJobs::drop(NSPrintOperation* operation) {
   const auto done = std::find_if(operations_.begin(), operations_.end(),
                                  [operation](const auto& each) { return each.get() == operation; });
   if (done == operations_.end()) return;

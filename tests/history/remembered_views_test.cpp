@@ -82,6 +82,19 @@ class RememberedViewsTest : public QObject {
     QVERIFY(!views.view("/a.pdf"));
   }
 
+  void aViewBelongsToTheFileThatItNames() {
+    RememberedViews views(*settings_);
+    views.remember("/a.pdf", {2, 0, 0});
+    const QString key = settings_->allKeys().constFirst();
+    const QVariant ofAnother = settings_->value(key);
+    settings_->clear();
+    views.remember("/b.pdf", {3, 0, 0});
+    settings_->setValue(settings_->allKeys().constFirst(), ofAnother);
+    QVERIFY(!views.view("/b.pdf"));
+    settings_->clear();
+    QVERIFY(!views.view("/b.pdf"));
+  }
+
   void clearingForgetsAll() {
     RememberedViews views(*settings_);
     views.remember("/a.pdf", {2, 0, 0});

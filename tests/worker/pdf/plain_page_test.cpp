@@ -52,6 +52,8 @@ class PlainPageTest : public QObject {
     QByteArray specks, flat;
     for (int i = 0; i < 20000; ++i) specks += "10 20 m 12 21 l 11 23 l f\n";
     QVERIFY(!isPlain(onePage(specks)));
+    const QByteArray above = QByteArray("10 95 m 12 96 l 11 98 l f\n");
+    QVERIFY2(!isPlain(onePage((above + specks.left(26)).repeated(10000))), "each reaches as far as itself");
     QVERIFY(isPlain(onePage("q 10 0 0 10 0 0 cm " + specks)));
     for (int i = 0; i < 20000; ++i) flat += "10 20 80 1.5 re f\n";
     QVERIFY(!isPlain(onePage(flat)));

@@ -117,6 +117,14 @@ class CupsSpoolerTest : public QObject {
     QCOMPARE(server_->jobs(), 0);
   }
 
+  void withoutANameTheDefaultPrinterIsTaken() {
+    QCOMPARE(complaint(""), QString("no printer is the default one"));
+    QCOMPARE(server_->jobs(), 0);
+    QVERIFY(server_->makeDefault("Office"));
+    QCOMPARE(complaint(""), QString());
+    QCOMPARE(server_->jobs(), 1);
+  }
+
   void aPrinterThatRefusesIsTold() {
     QVERIFY(server_->refuseJobs("Office"));
     QCOMPARE(complaint("Office"), QString("the printer “Office” takes no jobs"));

@@ -98,6 +98,8 @@ class SvgFromPdfTest : public QObject {
     QVERIFY2(both.svg().contains("x1=\"49\"") && both.svg().contains("x2=\"151\""), both.svg());
     QCOMPARE(both.count("<stop"), 4);
     QCOMPARE(both.count("offset=\"0\"") + both.count("offset=\"1\""), 0);
+    const MadeSvg aslant(gradient("/ShadingType 2 /Coords [50 20 150 60]"));
+    QVERIFY2(aslant.svg().contains("x1=\"49\" y1=\"80.4\" x2=\"151\" y2=\"39.6\""), aslant.svg());
     const MadeSvg one(gradient("/ShadingType 2 /Coords [50 0 150 0] /Extend [true false]"));
     QVERIFY2(one.svg().contains("x1=\"50\"") && one.svg().contains("x2=\"151\""), one.svg());
     QCOMPARE(one.count("offset=\"0\""), 1);

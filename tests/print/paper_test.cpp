@@ -24,6 +24,14 @@ class PaperTest : public QObject {
     }
   }
 
+  void aSizeWithinHalfAMillimetreIsThatOfThePaper() {
+    const QSizeF a4 = paperNamed("A4")->size, half = QSizeF(0.5, 0.5) * 72 / 25.4, more = half * 1.4;
+    for (const QSizeF& size : {a4, a4 + half, a4 - half, (a4 + half).transposed()})
+      QCOMPARE(paperOfSize(size).name, QString("A4"));
+    for (const QSizeF& size : {a4 + more, a4 - more, QSizeF(a4.width(), a4.height() + more.height())})
+      QVERIFY(paperOfSize(size).name != "A4");
+  }
+
   void otherPapersOfTheServiceAreFoundByTheirKeywords() {
     const std::optional<Paper> paper = paperNamed(QStringLiteral("ISO_A7_74x105mm"));
     QVERIFY(paper);

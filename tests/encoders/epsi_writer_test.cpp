@@ -109,7 +109,8 @@ class EpsiWriterTest : public QObject {
     QVERIFY(out.endsWith("%%EndPreview\n\nx\n%%BoundingBox: 0 0 9 9\n"));
   }
   void bytesOfNoEncodingGoOver() {
-    const QByteArray program("\n(\xFF\x80\xFD) show\n\0\x81", 20);
+    constexpr char bytes[] = "\n(\xFF\x80\xFD) show\n\0\x81";
+    const QByteArray program(bytes, sizeof bytes - 1);
     QVERIFY(
         insertEpsiPreview("%!PS\n%%EndComments" + program, grey(1, 1)).endsWith("%%EndPreview\n" + program));
   }

@@ -117,6 +117,32 @@ class ExportDialogTest : public QObject {
     QCOMPARE(f.find<QSpinBox>("exportWidth")->value(), 5000);
   }
 
+  void aResolutionIsShownToATenth() {
+    Shown f;
+    auto* resolution = f.find<QDoubleSpinBox>("exportDpi");
+    resolution->setValue(96.1234);
+    QCOMPARE(resolution->value(), 96.1234);
+    QVERIFY2(resolution->text().contains("96.1"), qPrintable(resolution->text()));
+    QVERIFY(!resolution->text().contains("96.12"));
+    resolution->setValue(299.99);
+    QVERIFY2(resolution->text().contains("300"), qPrintable(resolution->text()));
+  }
+
+  void eachPartIsOfferedWithItsSize() {
+    const auto offered = [](const ExportOffer& offer) {
+      const ExportDialog dialog(nullptr, offer, {});
+      QStringList texts;
+      const auto* areas = dialog.findChild<QComboBox*>(QStringLiteral("exportArea"));
+      for (int i = 0; i < areas->count(); ++i) texts << areas->itemText(i);
+      return texts;
+    };
+    QCOMPARE(offered(offer()),
+             (QStringList{"Selection (40 × 30 pt)", "This page (200 × 100 pt)", "All pages"}));
+    ExportOffer onePage = offer();
+    onePage.areas = {{ExportArea::Visible, {40, 30}}, {ExportArea::Page, {200, 100}}};
+    QCOMPARE(offered(onePage), (QStringList{"Visible part (40 × 30 pt)", "Whole picture (200 × 100 pt)"}));
+  }
+
   void onlyWhatMeansSomethingIsShown() {
     Shown f;
     const auto shown = [&] {

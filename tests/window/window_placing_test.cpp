@@ -42,7 +42,8 @@ class WindowPlacingTest : public QObject {
     QTest::newRow("far above") << QRect(0, -100'001, 700, 500) << false;
     QTest::newRow("far to the right") << QRect(99'302, 0, 700, 500) << false;
     QTest::newRow("far below") << QRect(0, 99'502, 700, 500) << false;
-    QTest::newRow("beyond all numbers") << QRect(2'147'483'000, 0, 700, 500) << false;
+    QTest::newRow("beyond all numbers")
+        << QRect(QPoint(2'147'483'000, 0), QPoint(2'147'483'647, 500)) << false;
     QTest::newRow("the smallest") << QRect(0, 0, 100, 100) << true;
     QTest::newRow("too narrow") << QRect(0, 0, 99, 500) << false;
     QTest::newRow("too low") << QRect(0, 0, 700, 99) << false;

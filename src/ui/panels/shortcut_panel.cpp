@@ -28,6 +28,11 @@ constexpr int kMargin = 10;
 class ShortcutPanel final : public QDialog {
  public:
   ShortcutPanel(QWidget& window, const QMenuBar& menus);
+  /// The field tells what was typed when it loses the keyboard, as it does when the panel goes: nobody takes
+  /// it any more then.
+  ~ShortcutPanel() override { keys_->disconnect(this); }
+  ShortcutPanel(const ShortcutPanel&) = delete;
+  ShortcutPanel& operator=(const ShortcutPanel&) = delete;
 
  private:
   /// The list comes after it, for the keyboard too.

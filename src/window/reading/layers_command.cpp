@@ -133,7 +133,8 @@ bool LayersCommand::showsList() const {
 
 bool LayersCommand::eventFilter(QObject* watched, QEvent* event) {
   if (dock_ && watched == dock_ && event->type() == QEvent::Close) action_->setChecked(false);
-  if (watched == parts_.mainWindow() && event->type() == QEvent::WindowStateChange) {
+  // The type first: a window that is going to be gone tells of its children without being one any more.
+  if (event->type() == QEvent::WindowStateChange && watched == parts_.mainWindow()) {
     // A full screen has no list, and gives no room.
     makeList();
     if (dock_) dock_->setVisible(showsList());

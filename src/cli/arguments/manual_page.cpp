@@ -122,7 +122,8 @@ QString manualPage() {
           "Without a command the files are opened in windows, each in its own; without files a panel asks "
           "for one.\nWith a command nothing needs a display.\n.PP\n"
           "Documents are read by a process of their own that the system confines before it reads the "
-          "first byte.\n.PP\nA file name of a single hyphen is standard input or output.\nData goes to "
+          "first byte.\n.PP\n\\fIFILE\\fR and \\fIOUT\\fR may be a single hyphen: standard input or "
+          "output.\nData goes to "
           "standard output, messages go to standard error.\nOutput appears whole or not at all.\n");
   page += QStringLiteral(".SH OPTIONS\n") + optionsText(Command::Main);
   page += QStringLiteral(".SH COMMANDS\n") + commandsText();

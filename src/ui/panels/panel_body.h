@@ -10,9 +10,9 @@ namespace norvex {
 
 /// The choices of a panel. Its panel is as large as they are, as if they stood in it themselves; where the
 /// screen has no room for them they are scrolled, and what stands above and below them stays. Whatever gets
-/// the keyboard is scrolled to, and a wheel that scrolls changes no number on its way. Keys that scroll do so
-/// where nothing else takes them. Stands in the layout
-/// of the panel itself, which stays on the screen when it grows with them. Main thread.
+/// the keyboard is scrolled to, and a wheel that scrolls changes no number on its way. Page Up, Page Down,
+/// Home and End scroll where nothing else takes them. Stands in the layout of the panel itself, which stays
+/// on the screen when it grows with them. Main thread.
 class PanelBody final : public QScrollArea {
   Q_OBJECT
  public:

@@ -52,6 +52,8 @@ MainWindowController::~MainWindowController() {
   QObject::disconnect(svgObservation_);
   // Both are windows of their own by now; the view must go before the process that it draws from.
   delete inspectorWindow;
+  // What it tells of its children while it goes, it tells as a window no more.
+  if (window_) window_->removeEventFilter(this);
   delete window_.data();
 }
 

@@ -75,6 +75,11 @@ PanelBody::PanelBody(QWidget* contents, QWidget* parent) : QScrollArea(parent) {
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { showFocus(now); });
 }
 
+PanelBody::~PanelBody() {
+  // The keyboard goes from field to field while these go, when there is nothing to scroll any more.
+  if (qApp) qApp->disconnect(this);
+}
+
 void PanelBody::stackWhereNarrow(QBoxLayout& row, bool isReversed) {
   row.setDirection(QBoxLayout::LeftToRight);
   if (widget()->minimumSizeHint().width() > room().width())

@@ -18,6 +18,7 @@ class PanelBody final : public QScrollArea {
  public:
   /// `contents` is taken over.
   explicit PanelBody(QWidget* contents, QWidget* parent = nullptr);
+  ~PanelBody() override;
 
   /// A row of parts, which stand one below another where the screen is too narrow for the row: the last one
   /// first, with `isReversed`. Borrowed, of the contents; call it when they are complete.

@@ -8,7 +8,7 @@ namespace norvex {
 
 /// Keys of the string table of sentences; toldError() has been asked before. Names that stand at their places
 /// follow.
-inline constexpr std::array toldSentences{
+inline constexpr auto toldSentences = std::to_array<const char*>({
     "the file is empty",
     "it is larger than %1 MiB",
     "it is a folder",
@@ -276,7 +276,7 @@ inline constexpr std::array toldSentences{
     "This build watches itself, for which it leaves layers out",
     "Each picture is read in a process of its own that is confined so",
     "Nothing keeps a picture from this user's files: norvex refuses to read any",
-};
+});
 
 /// Those at whose places stands what a document calls something, whatever word that may be.
 inline constexpr std::array toldNames{

@@ -66,6 +66,13 @@ class FileNameTest : public QObject {
     QCOMPARE(rawByteOf(QChar(0xDCFF), QChar(0xD83D)), -1);  // the second half of a character
   }
 
+  void nothingBehindTheNameIsRead() {
+    const QByteArrayView behind("\xC3\xA9");
+    const QString name = fileNameText(behind.first(1));
+    QCOMPARE(name.size(), 1);
+    QCOMPARE(rawByteOf(name[0], QChar()), 0xC3);
+  }
+
   void filesOfAnyNameAreWrittenReadAndFound() {
     const QTemporaryDir folder;
     const QByteArray bytes = folder.path().toUtf8() +

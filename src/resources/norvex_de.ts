@@ -2203,8 +2203,8 @@
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>&amp;Find in Source…</source>
-        <translation>&amp;Im Quelltext suchen …</translation>
+        <source>&amp;Find…</source>
+        <translation>&amp;Suchen …</translation>
     </message>
     <message>
         <source>&amp;Fit</source>

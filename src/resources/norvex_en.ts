@@ -2223,8 +2223,8 @@
         <translation>&amp;File</translation>
     </message>
     <message>
-        <source>&amp;Find in Source…</source>
-        <translation>&amp;Find in Source…</translation>
+        <source>&amp;Find…</source>
+        <translation>&amp;Find…</translation>
     </message>
     <message>
         <source>&amp;Fit</source>

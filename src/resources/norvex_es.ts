@@ -2203,8 +2203,8 @@
         <translation>&amp;Archivo</translation>
     </message>
     <message>
-        <source>&amp;Find in Source…</source>
-        <translation>&amp;Buscar en el código fuente…</translation>
+        <source>&amp;Find…</source>
+        <translation>&amp;Buscar…</translation>
     </message>
     <message>
         <source>&amp;Fit</source>

@@ -2203,8 +2203,8 @@
         <translation>&amp;Fichier</translation>
     </message>
     <message>
-        <source>&amp;Find in Source…</source>
-        <translation>&amp;Rechercher dans la source…</translation>
+        <source>&amp;Find…</source>
+        <translation>&amp;Rechercher…</translation>
     </message>
     <message>
         <source>&amp;Fit</source>

@@ -2203,8 +2203,8 @@
         <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Find in Source…</source>
-        <translation>ソースを検索(&amp;F)…</translation>
+        <source>&amp;Find…</source>
+        <translation>検索(&amp;F)…</translation>
     </message>
     <message>
         <source>&amp;Fit</source>

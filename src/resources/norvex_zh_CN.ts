@@ -2203,8 +2203,8 @@
         <translation>文件(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Find in Source…</source>
-        <translation>在源文本中查找(&amp;F)…</translation>
+        <source>&amp;Find…</source>
+        <translation>查找(&amp;F)…</translation>
     </message>
     <message>
         <source>&amp;Fit</source>

@@ -130,6 +130,7 @@ class FindingTest : public QObject {
 
   void whatHasNoSourceIsLookedThroughByTheUsualKeys() {
     Text f;
+    QCOMPARE(f.action("findAction")->text(), QString("&Find…"));  // it names no source
     f.action("findAction")->trigger();
     auto* bar = f.c.window()->findChild<SourceFindBar*>("pictureFindBar");
     QVERIFY(bar && bar->isVisible());

@@ -141,7 +141,8 @@ class CorpusTest : public QObject {
     const int wanted =
         qEnvironmentVariableIsSet("NORVEX_SAMPLE") ? qEnvironmentVariableIntValue("NORVEX_SAMPLE") : 8;
     std::mt19937 chance(quint32(qEnvironmentVariableIntValue("NORVEX_SEED")) + 1);
-    RoundTrip trip{.looks = false};
+    RoundTrip trip;
+    trip.looks = false;
     const QStringList all = drawnKinds();
     for (qsizetype k = 0; k < all.size(); ++k) {
       QStringList files = real::files(all[k]);

@@ -20,6 +20,7 @@
 #include "ui/print/page_layout_preview.h"
 #include "ui/print/page_layout_sheet.h"
 #include "ui/print/print_panel.h"
+#include "ui/print/printer_choice.h"
 #include "ui/print/zy_page_layout_accessory.h"
 #include "window/window_fixture.h"
 
@@ -331,13 +332,13 @@ class PrintInteractionTest : public QObject {
     QTRY_COMPARE(state->text(), QString("Ready"));
     QCOMPARE(printers->currentText(), QString("Hall"));
     spooler_.setPrinters({kOffice});
-    panel.fetchPrinters();
+    panel.findChild<PrinterChoice*>()->fetchPrinters();
     QTRY_COMPARE(state->text(), QString("This printer is no longer there."));
     QCOMPARE(printers->currentText(), QString("Hall"));
     QVERIFY(!print->isEnabled());
     QCOMPARE(panel.printInfo().printerName(), QString("hall"));
     spooler_.setPrinters({kOffice, kHall});
-    panel.fetchPrinters();
+    panel.findChild<PrinterChoice*>()->fetchPrinters();
     QTRY_COMPARE(state->text(), QString("Ready"));
     QCOMPARE(printers->count(), 3);
     QVERIFY(print->isEnabled());

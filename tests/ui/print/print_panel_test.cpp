@@ -24,6 +24,7 @@
 #include "ui/print/page_layout_preview.h"
 #include "ui/print/page_layout_sheet.h"
 #include "ui/print/print_interaction.h"
+#include "ui/print/printer_choice.h"
 #include "ui/print/zy_page_layout_accessory.h"
 
 using namespace norvex;
@@ -154,7 +155,7 @@ class PrintPanelTest : public QObject {
     spooler_->error =
         Error{ErrorKind::CannotWrite,
               QString("the printer “%1” takes no jobs").arg(QString("at the end of the hall ").repeated(8))};
-    panel_->fetchPrinters();
+    panel_->findChild<PrinterChoice*>()->fetchPrinters();
     auto* label = child<QLabel>("printerState");
     QTRY_VERIFY(label->text() != "Stopped");
     QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));

@@ -163,6 +163,12 @@ QByteArray absolutePath(const QByteArray& path) {
   return pathBelow(here, rest);
 }
 
+bool ArchivePlan::isOurs(const ListedName& name) const {
+  if (shard.count == 1) return true;
+  if (!shard.byContent) return shard.holds(name.below);
+  return shard.holds(contentHash(name.path).value_or(name.below));
+}
+
 bool ArchivePlan::isRewindable() const {
   struct stat status {};
   return !list || (*list != "-" && ::stat(list->constData(), &status) == 0 && S_ISREG(status.st_mode));

@@ -38,6 +38,8 @@ struct ArchivePlan {
   int memoryTotalMiB = 0;  ///< 0: not bounded
   bool jsonLines = false, unordered = false, retryFailed = false, quiet = false;
 
+  /// True if a file belongs to the part of this run; reads it where its bytes decide.
+  [[nodiscard]] bool isOurs(const ListedName& name) const;
   /// True if the names can be gone through twice.
   [[nodiscard]] bool isRewindable() const;
   /// The names from the first one. CannotRead.

@@ -13,48 +13,18 @@
 #include "cli/archive/file_work.h"
 #include "cli/archive/result_line.h"
 #include "cli/archive/standstill.h"
+#include "cli/archive/work_feed.h"
 
 namespace norvex {
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr qsizetype kBegunAtOnce = 128;  ///< files that are begun with one write to the disk
-constexpr qsizetype kKeptAtOnce = 1024;  ///< results that are kept with one
+constexpr qsizetype kKeptAtOnce = 1024;  ///< results that are kept with one write to the disk
 constexpr std::chrono::milliseconds kKeptAtLeastEvery{2000}, kKeptAtMostEvery{100};
 constexpr int kPartOfTime = 10;  ///< keeping takes one part of so many, of the telling thread's time
 constexpr std::chrono::milliseconds kShownEvery{200};
 constexpr int kToldCollisions = 20;
-
-FileResult passedOver(const PassedOver& listed, qint64 number) {
-  FileResult result;
-  result.number = number;
-  result.verdict = listed.isFailure ? Verdict::Failed : Verdict::PassedOver;
-  result.code = listed.isFailure ? ExitCode::CannotRead : ExitCode::Done;
-  result.path = listed.path;
-  result.sentence = listed.reason;
-  result.messages = QStringLiteral("norvex: %1: %2%3\n")
-                        .arg(visible(fileNameText(listed.path)), listed.reason,
-                             listed.isFailure ? QString() : QStringLiteral("; passed over"));
-  return result;
-}
-
-FileResult refused(const FileTask& task, Verdict verdict, ExitCode code, const QString& sentence) {
-  FileResult result;
-  result.number = task.number;
-  result.verdict = verdict;
-  result.code = code;
-  result.path = task.name.path;
-  result.sentence = sentence;
-  if (!sentence.isEmpty())
-    result.messages = QStringLiteral("norvex: %1: %2\n").arg(visible(fileNameText(task.name.path)), sentence);
-  return result;
-}
-
-QString collision(const QByteArray& output, const QByteArray& other) {
-  return QStringLiteral("more than one file would become %1, the other is %2")
-      .arg(fileNameText(output), fileNameText(other));
-}
 
 }  // namespace
 
@@ -73,12 +43,6 @@ void ArchiveRun::message(const QByteArray& path, const QString& sentence) {
   console_.message(QStringLiteral("norvex: %1: %2").arg(fileNameText(path), sentence));
 }
 
-bool ArchiveRun::isOurs(const ListedName& name) const {
-  if (plan_.shard.count == 1) return true;
-  if (!plan_.shard.byContent) return plan_.shard.holds(name.below);
-  return plan_.shard.holds(contentHash(name.path).value_or(name.below));
-}
-
 /// Goes through names that can be gone through again: counts them, and finds those whose results would meet.
 ExitCode ArchiveRun::checkNames() {
   const auto names = plan_.names(cancel_);
@@ -90,7 +54,7 @@ ExitCode ArchiveRun::checkNames() {
   int collisions = 0;
   while (const auto listed = (*names)->next()) {
     const auto* name = std::get_if<ListedName>(&*listed);
-    if (!name || plan_.shard.byContent || isOurs(*name)) ++count;
+    if (!name || plan_.shard.byContent || plan_.isOurs(*name)) ++count;
     if (!name || !plan_.outputs) continue;
     const QByteArray output = plan_.outputs->outputOf(*name);
     const auto claimed = claims_->claim(output, name->path);
@@ -153,105 +117,15 @@ ExitCode ArchiveRun::run() {
   const CancelListener interrupted(cancel_, stop);
   giveBackLargeBlocks();
   const Standstill standstill;
+  WorkFeed feed(plan_, state_.get(), claims_ ? &*claims_ : nullptr, window_,
+                [this](const Error& error, const QByteArray& path) { breakOff(error, path); });
   std::vector<std::jthread> threads;
-  threads.emplace_back([&] { feed(**names); });
+  threads.emplace_back([&] { feed.feed(**names); });
   // Twice as many as places: what takes long gives its place up and keeps its thread.
   for (int i = 0; i < 2 * (plan_.jobs + 1); ++i) threads.emplace_back([this] { work(); });
   // Before the threads: out of memory, where not all was told, they end all the same.
   const auto end = qScopeGuard(stop);
   return tell();
-}
-
-// ---- the thread that reads names -----------------------------------------------------------------------
-
-void ArchiveRun::feed(NameSource& names) {
-  while (feedSome(names)) continue;
-  window_.close();
-}
-
-/// As many names as are there without waiting, begun with one write to the disk. False at the end.
-bool ArchiveRun::feedSome(NameSource& names) {
-  std::vector<std::variant<FileTask, FileResult>> some;
-  QList<RunEntry> begun;
-  bool more = true;
-  while (some.size() < kBegunAtOnce && (some.empty() || !names.wouldWait())) {
-    const auto listed = names.next();
-    if (!listed) more = false;
-    if (!listed) break;
-    const auto* name = std::get_if<ListedName>(&*listed);
-    if (!name) {
-      some.emplace_back(passedOver(std::get<PassedOver>(*listed), ++number_));
-      continue;
-    }
-    if (!isOurs(*name)) continue;
-    FileTask task{++number_, *name, plan_.outputs ? plan_.outputs->outputOf(*name) : QByteArray(), false};
-    if (auto known = knownBefore(task)) {
-      some.emplace_back(std::move(*known));
-      continue;
-    }
-    // What is there and is not ours will be refused, and must not become ours by being begun.
-    const bool isFree =
-        task.replace || plan_.arguments.has(Option::Force) || task.output.isEmpty() || !stampOf(task.output);
-    if (state_ && isFree) begun << begunEntry(plan_, task);
-    some.emplace_back(std::move(task));
-  }
-  if (state_) {
-    if (const auto written = state_->begin(begun); !written) {
-      breakOff(written.error(), plan_.state);
-      return false;
-    }
-  }
-  for (auto& one : some) {
-    auto* task = std::get_if<FileTask>(&one);
-    const bool wanted =
-        task ? window_.put(std::move(*task)) : window_.putResult(std::move(std::get<FileResult>(one)));
-    if (!wanted) return false;
-  }
-  return more;
-}
-
-/// The results that can be told without work. May find that the output is ours.
-std::optional<FileResult> ArchiveRun::knownBefore(FileTask& task) {
-  if (claims_) {
-    const auto claimed = claims_->claim(task.output, task.name.path);
-    if (!claimed) return refused(task, Verdict::Unwritten, ExitCode::CannotWrite, claimed.error().message);
-    if (*claimed) {
-      FileResult result =
-          refused(task, Verdict::Unwritten, ExitCode::CannotWrite, collision(task.output, **claimed));
-      result.isInTheWay = true;
-      return result;
-    }
-  }
-  return state_ ? stateAnswer(task) : std::nullopt;
-}
-
-std::optional<FileResult> ArchiveRun::stateAnswer(FileTask& task) {
-  const RunEntry wanted = begunEntry(plan_, task);
-  const auto found = state_->find(wanted.path);
-  if (!found) {
-    breakOff(found.error(), plan_.state);
-    return refused(task, Verdict::Interrupted, ExitCode::Interrupted, {});
-  }
-  if (!*found) return std::nullopt;
-  const RunEntry& entry = **found;
-  const bool isOurOutput = !wanted.output.isNull() && entry.output == wanted.output;
-  task.replace = isOurOutput;
-  if (entry.outcome == Outcome::Begun || entry.settings != wanted.settings) return std::nullopt;
-  const auto stamp = stampOf(task.name.path);
-  if (!stamp) return std::nullopt;
-  const bool isSameFile = *stamp == entry.stamp ||
-                          (stamp->size == entry.stamp.size && contentHash(task.name.path) == entry.content);
-  if (!isSameFile) return std::nullopt;
-  if (entry.outcome != Outcome::Done) {
-    if (plan_.retryFailed) return std::nullopt;
-    return refused(task, Verdict::KnownFailed, ExitCode::SomeFailed, entry.sentence);
-  }
-  if (wanted.output.isNull()) return refused(task, Verdict::Unchanged, ExitCode::Done, {});
-  const auto output = stampOf(task.output);
-  const bool isThere = isOurOutput && output &&
-                       (*output == entry.outputStamp || contentHash(task.output) == entry.outputContent);
-  if (!isThere) return std::nullopt;
-  return refused(task, Verdict::Unchanged, ExitCode::Done, {});
 }
 
 // ---- those that work -----------------------------------------------------------------------------------

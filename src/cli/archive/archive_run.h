@@ -38,10 +38,6 @@ class ArchiveRun {
  private:
   ExitCode checkNames();
   ExitCode openState();
-  void feed(NameSource& names);
-  bool feedSome(NameSource& names);
-  std::optional<FileResult> knownBefore(FileTask& task);
-  [[nodiscard]] std::optional<FileResult> stateAnswer(FileTask& task);
   void work();
   ExitCode tell();
   bool tellOne(const FileResult& result);
@@ -49,7 +45,6 @@ class ArchiveRun {
   bool keep(const FileResult& result);
   bool keepWhatWaits();
   void breakOff(const Error& error, const QByteArray& path);
-  [[nodiscard]] bool isOurs(const ListedName& name) const;
   void message(const QByteArray& path, const QString& sentence);
 
   Console& console_;
@@ -67,7 +62,6 @@ class ArchiveRun {
   QList<RunEntry> unkept_;
   std::chrono::steady_clock::time_point lastKept_, lastTold_;
   std::chrono::steady_clock::duration keepEvery_{};  ///< as long as the disk makes worth while
-  qint64 number_ = 0;
   int brokenInARow_ = 0;
   std::mutex breakMutex_;
   std::optional<std::pair<QByteArray, Error>> broken_;  ///< why the run was broken off

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "base/file_name.h"
+
 namespace norvex {
 
 OutputRegister::OutputRegister(Database database)
@@ -29,6 +31,11 @@ Result<std::optional<QByteArray>> OutputRegister::claim(const QByteArray& output
   const std::optional<QByteArray> owner = find_.step() ? find_.bytes(0) : QByteArray("");
   find_.reset();
   return owner;
+}
+
+QString collision(const QByteArray& output, const QByteArray& other) {
+  return QStringLiteral("more than one file would become %1, the other is %2")
+      .arg(fileNameText(output), fileNameText(other));
 }
 
 }  // namespace norvex

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 #include <optional>
 
@@ -23,5 +24,8 @@ class OutputRegister {
   Database database_;
   Statement insert_, find_;
 };
+
+/// What is said of a file whose result `output` is spoken for by the file `other`.
+[[nodiscard]] QString collision(const QByteArray& output, const QByteArray& other);
 
 }  // namespace norvex

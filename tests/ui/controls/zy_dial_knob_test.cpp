@@ -73,6 +73,21 @@ class ZyDialKnobTest : public QObject {
     QVERIFY2(std::abs(knob.degreeValue() - 9) < 0.01, qPrintable(QString::number(knob.degreeValue())));
   }
 
+  void onlyTheButtonThatTookHoldLetsGo() {
+    Dial dial;
+    const auto moveTo = [&dial](const QPointF& point) {
+      QMouseEvent event(QEvent::MouseMove, point, point, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+      QCoreApplication::sendEvent(&dial.knob, &event);
+    };
+    QTest::mousePress(&dial.knob, Qt::LeftButton, {}, {5, 50});
+    QTest::mouseClick(&dial.knob, Qt::RightButton, {}, {5, 50});
+    moveTo({50, 95});
+    QCOMPARE(std::round(dial.knob.degreeValue()), 180.0);
+    QTest::mouseRelease(&dial.knob, Qt::LeftButton, {}, {50, 95});
+    moveTo({95, 50});
+    QCOMPARE(std::round(dial.knob.degreeValue()), 180.0);
+  }
+
   void aClockwiseKnobTurnsTheOtherWay() {
     Dial dial;
     dial.knob.setClockwise(true);

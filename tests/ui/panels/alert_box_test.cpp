@@ -54,6 +54,7 @@ class AlertBoxTest : public QObject {
     QTest::addColumn<QStringList>("buttons");
     QTest::addColumn<int>("answer");
     QTest::newRow("one that can be cancelled") << QStringList{"Replace", "Cancel"} << 1;
+    QTest::newRow("one that can be closed") << QStringList{"Try Again", "Close"} << 1;
     QTest::newRow("files that were open")
         << QStringList{"Open the Others", "Do Not Open", "Open All Again"} << 1;
     QTest::newRow("a window to close")

@@ -58,10 +58,11 @@ struct Window {
   }
   void type(const QKeySequence& keys) { child<QKeySequenceEdit>("shortcutKeys")->setKeySequence(keys); }
   QString told() { return child<QLabel>("shortcutMessage")->text(); }
-  QString shownKeys(const QString& title) {
+  const QTreeWidgetItem* row(const QString& title) {
     const auto* list = child<QDialog>("shortcutPanel")->findChild<QTreeWidget*>();
-    return list->findItems(title, Qt::MatchExactly | Qt::MatchRecursive).value(0)->text(1);
+    return list->findItems(title, Qt::MatchExactly | Qt::MatchRecursive).value(0);
   }
+  QString shownKeys(const QString& title) { return row(title)->text(1); }
 
   QMainWindow window;
   QAction *copy, *paste, *nameless;
@@ -95,6 +96,8 @@ class OwnShortcutsTest : public QObject {
     QCOMPARE(one.copy->shortcuts(), QList<QKeySequence>{kOwn});
     QCOMPARE(other.copy->shortcuts(), QList<QKeySequence>{kOwn});
     QCOMPARE(one.shownKeys("Copy"), kOwn.toString(QKeySequence::NativeText));
+    QVERIFY(one.row("Copy")->font(1).bold());  // somebody's own
+    QVERIFY(!one.row("More: Paste")->font(1).bold());
     Window later;
     QCOMPARE(later.copy->shortcuts(), QList<QKeySequence>{kOwn});
     QCOMPARE(later.paste->shortcuts(), QList<QKeySequence>{kPaste});

@@ -3,34 +3,19 @@
 
 #include "kit/test_main.h"
 #include "protocol/page_names.h"
-#include "worker/engine/engine.h"
 #include "worker/kit/made_pdf.h"
-#include "worker/pages/pdf_engine.h"
+#include "worker/kit/told_of_pdf.h"
 #include "worker/pdf/pdf_colour_operators.h"
 #include "worker/pdf/pdf_facts.h"
 
 using namespace norvex;
 using namespace norvex::engine;
+using kit::factsOf;
 using kit::madePdf;
+using kit::namesOf;
 using kit::onePage;
 
 namespace {
-
-Result<PictureFacts> factsOf(const QByteArray& pdf) {
-  EngineContext context;
-  auto engine = openPdf(pdf, context);
-  if (!engine) return engine.error();
-  return (*engine)->facts();
-}
-
-PageNames namesOf(const QByteArray& pdf) {
-  EngineContext context;
-  auto engine = openPdf(pdf, context);
-  if (!engine) return {};
-  const auto told = (*engine)->examine({Examination::Names});
-  const auto names = told ? decodePageNames(told->bytes) : Result<PageNames>(told.error());
-  return names ? *names : PageNames();
-}
 
 QByteArray withInformation(const QByteArray& information) {
   return onePage("", "/MediaBox [0 0 200 100]", {information}, "/Info 5 0 R");

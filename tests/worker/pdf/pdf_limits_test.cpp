@@ -1,38 +1,24 @@
 // PDF documents that reach a limit: what lies behind it is passed over, or a sentence names it.
 #include "kit/test_main.h"
 #include "protocol/limits.h"
-#include "protocol/page_names.h"
 #include "worker/engine/engine.h"
 #include "worker/kit/made_pdf.h"
+#include "worker/kit/told_of_pdf.h"
 #include "worker/pages/pdf_engine.h"
 #include "worker/pdf/pdf_dictionaries.h"
 #include "worker/pdf/pdf_file.h"
 
 using namespace norvex;
 using namespace norvex::engine;
+using kit::factsOf;
 using kit::madePdf;
+using kit::namesOf;
 using kit::onePage;
 using kit::stream;
 
 namespace {
 
 const QByteArray kBox("/MediaBox [0 0 200 100]");
-
-Result<PictureFacts> factsOf(const QByteArray& pdf) {
-  EngineContext context;
-  auto engine = openPdf(pdf, context);
-  if (!engine) return engine.error();
-  return (*engine)->facts();
-}
-
-PageNames namesOf(const QByteArray& pdf) {
-  EngineContext context;
-  auto engine = openPdf(pdf, context);
-  if (!engine) return {};
-  const auto told = (*engine)->examine({Examination::Names});
-  const auto names = told ? decodePageNames(told->bytes) : Result<PageNames>(told.error());
-  return names ? *names : PageNames();
-}
 
 /// A catalogue whose page tree names one page again and again.
 QByteArray withPages(int count) {

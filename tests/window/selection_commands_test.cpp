@@ -103,6 +103,8 @@ class SelectionCommandsTest : public QObject {
     const QList<QAction*> commands = move->menu()->actions(), sizes = resize->menu()->actions();
     QCOMPARE(commands.size(), 9);  // eight and the line between them
     QCOMPARE(sizes.size(), 9);
+    QCOMPARE(commands.last()->objectName(), "moveSelectionDownBy10Action");  // own shortcuts are kept by it
+    QCOMPARE(sizes.first()->objectName(), "resizeSelectionLeftBy1Action");
     QVERIFY(!deselect->isEnabled() && !commands.first()->isEnabled() && !sizes.last()->isEnabled());
     shown.select();
     QVERIFY(deselect->isEnabled() && commands.first()->isEnabled() && sizes.last()->isEnabled());

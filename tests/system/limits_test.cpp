@@ -170,8 +170,10 @@ class LimitsTest : public QObject {
         pdf, "the picture needs more temporary files than it is allowed");
     row("time", "a.eps", eps("{} loop"), pdf + QStringList{"--timeout", "1"},
         "the picture was not ready within 1 seconds");
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // they take more than that themselves
     row("memory", "a.eps", eps("{ 60000 array pop 65535 string } loop"), pdf + QStringList{"--memory", "64"},
         "memory");
+#endif
   }
   void aReachedLimitIsNamed() {
     QFETCH(QString, name);

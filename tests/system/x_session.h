@@ -88,6 +88,7 @@ class XSession {
   }
   /// For programs that are started from now on.
   void setEnvironment(const QString& name, const QString& value) { environment_.insert(name, value); }
+  [[nodiscard]] const QProcessEnvironment& environment() const { return environment_; }
   XSession(const XSession&) = delete;
   XSession& operator=(const XSession&) = delete;
 

@@ -59,10 +59,7 @@ class DragOutTest : public QObject {
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
     QProcess target;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("DISPLAY", session.display());
-    environment.insert("QT_QPA_PLATFORM", "xcb");
-    target.setProcessEnvironment(environment);
+    target.setProcessEnvironment(session.environment());
     target.start(QStringLiteral(NORVEX_BUILD_DIR "/norvex-drop-target"), {});
     QVERIFY(session.start({file.fileName()}, name));
     session.key("ctrl+i");

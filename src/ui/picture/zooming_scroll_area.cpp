@@ -1,14 +1,10 @@
 #include "ui/picture/zooming_scroll_area.h"
 
-#include <QComboBox>
 #include <QEvent>
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QStyleOptionComboBox>
-#include <QStylePainter>
 
 #include <algorithm>
 #include <cmath>
@@ -16,16 +12,14 @@
 #include "base/localized_string.h"
 #include "display/norvex_view.h"
 #include "display/zoom_factors.h"
+#include "ui/picture/factor_box.h"
 #include "ui/picture/norvex_view_widget.h"
-#include "ui/style/quiet_text.h"
 
 namespace norvex {
 
 namespace {
 
 constexpr int kBarExtent = 14;
-constexpr int kCardMargin = 12;
-constexpr int kWidestCard = 640;
 constexpr double kHair = 1e-6;  ///< of a pixel: rounding, nothing to scroll
 
 QString barStyle(const QPalette& palette) {
@@ -45,22 +39,6 @@ QString barStyle(const QPalette& palette) {
       .arg(rgba(0.28), rgba(0.5));
 }
 
-/// A factor beside those of the menu is shown as clearly as they are; Qt's own box shows it like a hint.
-class FactorBox final : public QComboBox {
- public:
-  using QComboBox::QComboBox;
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QStylePainter painter(this);
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    if (currentIndex() < 0) option.currentText = placeholderText();
-    painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
-  }
-};
-
 }  // namespace
 
 ZoomingScrollArea::ZoomingScrollArea(QWidget* parent)
@@ -68,7 +46,8 @@ ZoomingScrollArea::ZoomingScrollArea(QWidget* parent)
       clip_(new QWidget(this)),
       horizontal_(new QScrollBar(Qt::Horizontal, this)),
       vertical_(new QScrollBar(Qt::Vertical, this)),
-      popUp_(new FactorBox(this)) {
+      popUp_(new FactorBox(scrollView_, this)),
+      cards_(*clip_, *this) {
   horizontal_->setAccessibleName(localizedString("Scroll sideways"));
   vertical_->setAccessibleName(localizedString("Scroll up and down"));
   for (QScrollBar* bar : {horizontal_, vertical_}) {
@@ -76,7 +55,6 @@ ZoomingScrollArea::ZoomingScrollArea(QWidget* parent)
     bar->setFocusPolicy(Qt::NoFocus);
     connect(bar, &QScrollBar::valueChanged, this, &ZoomingScrollArea::scrolled);
   }
-  fillPopUp();
   styleBars();
   setFocusPolicy(Qt::StrongFocus);
   grabGesture(Qt::PinchGesture);
@@ -87,21 +65,6 @@ ZoomingScrollArea::ZoomingScrollArea(QWidget* parent)
 
 ZoomingScrollArea::~ZoomingScrollArea() {
   if (document_) document_->setScrollArea(nullptr);
-}
-
-void ZoomingScrollArea::fillPopUp() {
-  scrollView_.validateFactorPopUpButton();
-  FactorPopUp* menu = scrollView_.factorPopUpButton();
-  popUp_->addItems(FactorPopUp::titles());
-  for (int i = 0; i < popUp_->count(); ++i) popUp_->setItemData(i, FactorPopUp::representedFactor(i));
-  popUp_->setFrame(false);
-  popUp_->setFont(QFontDatabase::systemFont(QFontDatabase::SmallestReadableFont));
-  popUp_->setAccessibleName(localizedString("Zoom"));
-  popUp_->setToolTip(popUp_->accessibleName());
-  popUp_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  popUp_->setMaxVisibleItems(popUp_->count());
-  connect(popUp_, &QComboBox::activated, menu, &FactorPopUp::choose);
-  connect(menu, &FactorPopUp::selectedIndexDidChange, popUp_, &QComboBox::setCurrentIndex);
 }
 
 void ZoomingScrollArea::setDocumentWidget(NorvexViewWidget* widget) {
@@ -179,42 +142,15 @@ double ZoomingScrollArea::fittingWidthFactor() const {
 }
 
 void ZoomingScrollArea::addCard(QWidget* card, Qt::Edge edge) {
-  card->setParent(clip_);
-  card->installEventFilter(this);
-  cards_.append({card, edge, edge == Qt::TopEdge});
-  placeCards();
+  cards_.add(card, edge);
 }
 
 void ZoomingScrollArea::keepCardOff(const QWidget& card, const QRect& place) {
-  const auto found =
-      std::find_if(cards_.begin(), cards_.end(), [&](const Card& one) { return one.widget == &card; });
-  const QRect taken(clip_->mapFromGlobal(place.topLeft()), place.size());
-  if (found == cards_.end() || !card.geometry().intersects(taken)) return;
-  const Qt::Edge before = found->edge;
-  found->edge = before == Qt::TopEdge ? Qt::BottomEdge : Qt::TopEdge;
-  placeCards();
-  if (!card.geometry().intersects(taken)) return;
-  found->edge = before;
-  placeCards();
+  cards_.keepOff(card, place);
 }
 
-void ZoomingScrollArea::placeCards() {
-  int top = kCardMargin, bottom = clip_->height() - kCardMargin;
-  for (const Card& card : cards_) {
-    if (!card.widget || card.widget->isHidden()) continue;
-    const int room = std::min(clip_->width() - 2 * kCardMargin, kWidestCard);
-    const bool atTop = card.edge == Qt::TopEdge;
-    const int width = card.isWide ? room : std::min(room, card.widget->sizeHint().width());
-    const int height = card.widget->hasHeightForWidth() ? card.widget->heightForWidth(width)
-                                                        : card.widget->sizeHint().height();
-    const int y = atTop ? top : bottom - height;
-    card.widget->setGeometry((clip_->width() - width) / 2, y, width, height);
-    card.widget->raise();
-    if (atTop)
-      top += height + kCardMargin;
-    else
-      bottom -= height + kCardMargin;
-  }
+QComboBox* ZoomingScrollArea::popUp() const {
+  return popUp_;
 }
 
 void ZoomingScrollArea::layOut() {
@@ -248,13 +184,8 @@ void ZoomingScrollArea::synchronize() {
   };
   set(horizontal_, range.width(), offset.x(), clip_->width());
   set(vertical_, range.height(), offset.y(), clip_->height());
-  // The menu's first item stands for a factor that nobody has told yet: pictures are shown in natural size
-  // first.
-  const int chosen = scrollView_.factorPopUpButton()->selectedIndex();
-  const bool isUntold = chosen == 0 && indexOfZoomFactor(scrollView_.factor()) != 0;
-  popUp_->setCurrentIndex(isUntold ? indexOfZoomFactor(1.0) : chosen);
-  popUp_->setPlaceholderText(QStringLiteral("%1%").arg(std::lround(scrollView_.factor() * 100)));
-  placeCards();
+  popUp_->synchronize();
+  cards_.place();
   if (document_) document_->update();
 }
 

@@ -2,19 +2,20 @@
 #pragma once
 
 #include <QColor>
-#include <QList>
 #include <QPointer>
 #include <QWidget>
 
 #include <optional>
 
 #include "display/skt_zooming_scroll_view.h"
+#include "ui/picture/clip_cards.h"
 
 class QComboBox;
 class QScrollBar;
 
 namespace norvex {
 
+class FactorBox;
 class NorvexViewWidget;
 
 /// Lays out clip, bars and menu as its SKTZoomingScrollView says, and turns wheel, pinch and panning into
@@ -49,7 +50,7 @@ class ZoomingScrollArea final : public QWidget {
   /// What the vertical bar takes of the width while it is there.
   [[nodiscard]] static int barExtent();
   [[nodiscard]] QWidget* clip() const { return clip_; }
-  [[nodiscard]] QComboBox* popUp() const { return popUp_; }
+  [[nodiscard]] QComboBox* popUp() const;
   [[nodiscard]] QScrollBar* horizontalBar() const { return horizontal_; }
   [[nodiscard]] QScrollBar* verticalBar() const { return vertical_; }
 
@@ -95,11 +96,9 @@ class ZoomingScrollArea final : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void fillPopUp();
   [[nodiscard]] int stripHeight() const;
   [[nodiscard]] bool needsBar() const;
   void layOut();
-  void placeCards();
   void styleBars();
   void applyBackground();
   void scrolled();
@@ -110,21 +109,15 @@ class ZoomingScrollArea final : public QWidget {
   void showHand();
   void pinchTo(double factor, const QPointF& global);
 
-  struct Card {
-    QPointer<QWidget> widget;
-    Qt::Edge edge;
-    bool isWide;  ///< as the clip is, not as itself wants
-  };
-
   SKTZoomingScrollView scrollView_;
   QWidget* clip_;
   QScrollBar* horizontal_;
   QScrollBar* vertical_;
-  QComboBox* popUp_;
+  FactorBox* popUp_;
+  ClipCards cards_;
   QPointer<NorvexViewWidget> document_;
   QColor background_ = Qt::white;
   bool drawsBackground_ = true;
-  QList<Card> cards_;
   bool bare_ = false;
   bool barTakesRoom_ = false;  ///< in what was laid out last
   bool showsFocus_ = false;

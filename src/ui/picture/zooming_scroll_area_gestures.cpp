@@ -1,5 +1,4 @@
 // Wheel, pinch and panning of the scroll area.
-#include <QApplication>
 #include <QGestureEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -116,17 +115,7 @@ void ZoomingScrollArea::focusOutEvent(QFocusEvent* event) {
 }
 
 bool ZoomingScrollArea::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != document_) {
-    // Else Qt gives it to what is next, a field of the window's foot, where keys would mean something else.
-    auto* card = qobject_cast<QWidget*>(watched);
-    if (event->type() == QEvent::Hide && card && card->isHidden() &&
-        card->isAncestorOf(QApplication::focusWidget()))
-      setFocus(Qt::OtherFocusReason);
-    if (event->type() == QEvent::Show || event->type() == QEvent::Hide ||
-        event->type() == QEvent::LayoutRequest)  // it wants another height
-      placeCards();
-    return QWidget::eventFilter(watched, event);
-  }
+  if (watched != document_) return QWidget::eventFilter(watched, event);
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseMove:

@@ -1,60 +1,28 @@
-// Save To and Save As: what the sheet is asked to show, and what is written where.
-#include <QAction>
+// Save To: what the sheet is asked to show, and what is written where; and windows that are closed meanwhile.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTimer>
 
 #include "base/path_extension.h"
 #include "desktop/memory_save_panel.h"
-#include "document/unimplemented_method.h"
 #include "kit/test_main.h"
-#include "ui/controls/number_field.h"
 #include "ui/panels/save_sheet.h"
 #include "ui/picture/loading_card.h"
-#include "ui/picture/message_bar.h"
 #include "ui/picture/zy_image_view.h"
-#include "window/commands/save_to_command.h"
-#include "window/window_fixture.h"
+#include "window/saving_window.h"
 
 using namespace norvex;
 
 namespace {
 
 const Error kDied{ErrorKind::Died, QStringLiteral("the picture process ended")};
-const QByteArray kSvg = "<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100'/>";
 const QStringList kEpsRows{
     "Encapsulated PostScript (EPS)", "PDF document", "TIFF image", "PNG image", "JPEG image", "GIF image"};
-
-class SaveToFixture : public WindowFixture {
- public:
-  SaveToFixture() {
-    // Settings of this test's own.
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.filePath("config"));
-    QSettings().remove("SaveTo");
-  }
-  MainWindowController& show(const QByteArray& bytes, const QString& name, const QString& type) {
-    MainWindowController& made = loaded(bytes, name, type);
-    made.setSavePanel(&panel);
-    made.setBeep([this] { ++beeps; });
-    return made;
-  }
-  MainWindowController& eps() { return show(epsBytes(), "pic.eps", NorvexEPSType); }
-  QUrl url(const QString& name) const { return QUrl::fromLocalFile(folder.filePath(name)); }
-  QByteArray read(const QString& name) const {
-    QFile file(folder.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
-  MemorySavePanel panel;
-  int beeps = 0;
-};
 
 QStringList rows(const MainWindowController& c) {
   QStringList all;
@@ -73,64 +41,6 @@ QVariantList saved(MainWindowController& c, MemorySavePanel& panel, const QUrl& 
   if (end.isEmpty() && !end.wait(20000)) return {};
   return end.first();
 }
-
-/// Runs `meanwhile` once, as soon as Save As is making its bytes.
-void whileSaving(MainWindowController& c, const std::function<void()>& meanwhile) {
-  auto* timer = new QTimer(c.window());
-  QObject::connect(timer, &QTimer::timeout, timer, [timer, &c, meanwhile] {
-    if (!c.isSaving()) return;
-    timer->stop();
-    timer->deleteLater();
-    meanwhile();
-  });
-  timer->start(5);
-}
-
-/// A window on the screen whose SVG is being written as "other.svg"; its picture process keeps it waiting.
-class WritingWindow : public SaveToFixture {
- public:
-  explicit WritingWindow(bool saveAs, const QString& name = "other")
-      : c(show(kSvg, "a.svg", "public.svg-image")),
-        process(service.lastProcess()),
-        closed(&document, &Document::closed),
-        ended(&c, &MainWindowController::savedTo),
-        saveAs_(saveAs) {
-    c.setShouldCloseDocument(true);
-    c.window()->show();
-    process->hold(PictureCall::Svg);
-    if (saveAs) {
-      c.saveDocumentAs();
-      name_ = name;
-    } else {
-      c.doSaveTo();
-      panel.answer({true, url(name), -1});
-    }
-  }
-  /// Closes the window while the file is being written and lets that end; whether the window is closed then.
-  bool closeMeanwhile() {
-    bool tried = false;
-    const auto meanwhile = [&] {
-      tried = !c.window()->close() && c.window()->isVisible();
-      process->release(PictureCall::Svg);
-    };
-    if (saveAs_) {
-      whileSaving(c, meanwhile);
-      panel.answer({true, url(name_), 3});
-    } else {
-      meanwhile();
-    }
-    return QTest::qWaitFor([&] { return tried && !c.isSaving() && (saveAs_ || !ended.isEmpty()); }, 20000) &&
-           QTest::qWaitFor([&] { return !closed.isEmpty(); }, alerts.answer == 0 ? 2000 : 100);
-  }
-
-  MainWindowController& c;
-  std::shared_ptr<MemoryPictureProcess> process;
-  QSignalSpy closed, ended;
-
- private:
-  bool saveAs_;
-  QString name_;
-};
 
 }  // namespace
 
@@ -158,7 +68,7 @@ class SaveToTest : public QObject {
     QFETCH(QString, name);
     QFETCH(QString, type);
     QFETCH(QStringList, expected);
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.show(bytes, name, type);
     c.doSaveTo();
     QCOMPARE(rows(c), expected);
@@ -167,7 +77,7 @@ class SaveToTest : public QObject {
   }
 
   void thePanelIsSetUp() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
     QCOMPARE(f.panel.parent, c.window());
@@ -181,7 +91,7 @@ class SaveToTest : public QObject {
   }
 
   void aWindowWithoutAFileProposesClip() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.window()->setWindowFilePath(QString());
     c.doSaveTo();
@@ -189,13 +99,13 @@ class SaveToTest : public QObject {
   }
 
   void onlyTheLastExtensionIsLeftOut() {
-    SaveToFixture f;
+    SavingFixture f;
     f.show(epsBytes(), "a.b.eps", NorvexEPSType).doSaveTo();
     QCOMPARE(f.panel.settings.nameFieldStringValue, QString("a.b_clip"));
   }
 
   void theChosenFormatDecidesNotTheTypedExtension() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
     choose(c, "PNG image");
@@ -205,7 +115,7 @@ class SaveToTest : public QObject {
   }
 
   void aNameWithoutExtensionGetsTheFormatsOwn() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
     choose(c, "JPEG image");
@@ -214,7 +124,7 @@ class SaveToTest : public QObject {
   }
 
   void eachFormatIsWrittenAsWhatItIs() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
     const QList<std::pair<QString, QByteArray>> all{
         {"svg", "<svg"},    {"pdf", "%PDF"},      {"eps", "%!PS"},  {"tiff", "II"},
@@ -229,7 +139,7 @@ class SaveToTest : public QObject {
   }
 
   void theNextSheetOpensWhereTheLastWas() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     QDir(f.folder.path()).mkpath("x/y");
     c.doSaveTo();
@@ -242,14 +152,14 @@ class SaveToTest : public QObject {
   }
 
   void aPlaceThatIsNoFileIsNotReturnedTo() {
-    SaveToFixture f;
+    SavingFixture f;
     QSettings().setValue("SaveTo", QUrl("https://example.org/x/y.png"));
     f.eps().doSaveTo();
     QCOMPARE(f.panel.settings.directoryURL, QUrl());
   }
 
   void aCancelledSheetWritesAndRemembersNothing() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     QSignalSpy end(&c, &MainWindowController::savedTo);
     c.doSaveTo();
@@ -261,7 +171,7 @@ class SaveToTest : public QObject {
   }
 
   void aFailedWriteIsToldWithItsPathAndRememberedAllTheSame() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
     QCOMPARE(saved(c, f.panel, f.url("nowhere/out.eps")),
@@ -274,7 +184,7 @@ class SaveToTest : public QObject {
   }
 
   void withoutAPictureTheSheetOpensEmptyAndWritesNothing() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.show("no picture", "a.eps", NorvexEPSType);
     c.doSaveTo();
     QCOMPARE(f.beeps, 1);
@@ -286,7 +196,7 @@ class SaveToTest : public QObject {
   }
 
   void theSheetOpensBeforeAnythingIsMade() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     const auto process = f.service.lastProcess();
     process->hold(PictureCall::Compose);
@@ -305,7 +215,7 @@ class SaveToTest : public QObject {
     picture.compose = [](const ComposeRequest& request) {
       return request.format == VectorFormat::Pdf ? emptyPdf(request.rect.size()) : QByteArray();
     };
-    SaveToFixture f;
+    SavingFixture f;
     f.service.setPicture(picture);
     MainWindowController& c = f.eps();
     c.doSaveTo();
@@ -324,7 +234,7 @@ class SaveToTest : public QObject {
     picture.compose = [](const ComposeRequest& request) {
       return request.format == VectorFormat::Pdf ? emptyPdf(request.rect.size()) : QByteArray();
     };
-    SaveToFixture f;
+    SavingFixture f;
     f.service.setPicture(picture);
     MainWindowController& c = f.eps();
     const auto process = f.service.lastProcess();
@@ -340,7 +250,7 @@ class SaveToTest : public QObject {
   }
 
   void bytesThatAreMissingInTheEndAreTold() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     const auto process = f.service.lastProcess();
     process->fail(PictureCall::Compose, kDied);
@@ -374,7 +284,7 @@ class SaveToTest : public QObject {
   // ---------------------------------------------------------------------------------------------
 
   void theSheetShowsItsNameWithAndWithoutExtension() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
     SavePanelSettings settings = f.panel.settings;
@@ -394,7 +304,7 @@ class SaveToTest : public QObject {
   }
 
   void theSheetGivesTheAccessoryBack() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
     QWidget* const owner = c.doSaveToAccessoryView->parentWidget();
@@ -407,114 +317,6 @@ class SaveToTest : public QObject {
 
   // ---- Save As
   // ------------------------------------------------------------------------------------------------------
-
-  void everyWritableTypeIsListed() {
-    SaveToFixture f;
-    MainWindowController& c = f.eps();
-    const auto identifiers = [](const MainWindowController& shown) {
-      QStringList all;
-      for (const UTType& type : shown.writableTypes()) all << type.identifier();
-      return all;
-    };
-    const QStringList rasters{"public.tiff", "public.png", "public.jpeg", "com.compuserve.gif"};
-    QCOMPARE(identifiers(c), (QStringList{NorvexEPSType, NorvexEPSIType, "com.adobe.pdf"} + rasters));
-    SaveToFixture g;
-    MainWindowController& d = g.show(kSvg, "a.svg", "public.svg-image");
-    QCOMPARE(identifiers(d), (QStringList{NorvexEPSType, NorvexEPSIType, "com.adobe.pdf", "public.svg-image",
-                                          NorvexSVGZType} +
-                              rasters));
-    d.saveDocumentAs();
-    QCOMPARE(g.panel.settings.selectedContentType, 3);
-    QCOMPARE(g.panel.settings.nameFieldStringValue, QString("a"));
-  }
-
-  void theExtensionFollowsTheType() {
-    SaveToFixture f;
-    MainWindowController& c = f.eps();
-    c.saveDocumentAs();
-    const auto& target = f.panel.settings.target;
-    QCOMPARE(target(QUrl::fromLocalFile("/a/b"), 2).toLocalFile(), QString("/a/b.pdf"));
-    QCOMPARE(target(QUrl::fromLocalFile("/a/b.eps"), 2).toLocalFile(), QString("/a/b.pdf"));
-    QCOMPARE(target(QUrl::fromLocalFile("/a/b.tif"), 3).toLocalFile(), QString("/a/b.tif"));
-    QCOMPARE(target(QUrl::fromLocalFile("/a/Map 1.5"), 4).toLocalFile(), QString("/a/Map 1.5.png"));
-  }
-
-  void aDocumentIsWrittenAndStaysWhatItIs_data() {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("begin");
-    QTest::newRow("the first type, EPS") << 0 << "other.eps" << QByteArray("%!PS-Adobe-3.0 EPSF-3.0");
-    QTest::newRow("PNG") << 4 << "other.png" << QByteArray("\x89PNG");
-    QTest::newRow("the last type, GIF") << 6 << "other.gif" << QByteArray("GIF8");
-  }
-  void aDocumentIsWrittenAndStaysWhatItIs() {
-    QFETCH(int, type);
-    QFETCH(QString, name);
-    QFETCH(QByteArray, begin);
-    SaveToFixture f;
-    MainWindowController& c = f.eps();
-    c.saveDocumentAs();
-    f.panel.answer({true, f.url("other"), type});
-    QTRY_VERIFY2(f.read(name).startsWith(begin), f.read(name).left(30).constData());
-    QCOMPARE(f.document.fileURL(), f.url("pic.eps"));
-    QCOMPARE(f.alerts.shown.size(), type == 0 ? 1 : 0);  // about a preview for the EPS
-  }
-
-  void compressedSvgIsCompressed() {
-    SaveToFixture f;
-    MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
-    c.saveDocumentAs();
-    f.panel.answer({true, f.url("other"), 4});
-    QTRY_VERIFY(f.read("other.svgz").startsWith("\x1F\x8B"));
-  }
-
-  void aDocumentIsMadeBesideTheWindow() {
-    SaveToFixture f;
-    MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
-    const auto process = f.service.lastProcess();
-    process->hold(PictureCall::Svg);
-    c.saveDocumentAs();
-    bool turned = false;
-    whileSaving(c, [&] {
-      QVERIFY(process->waitUntilHeld(PictureCall::Svg));
-      c.rotateChange(30);  // the window works on
-      turned = true;
-      c.saveDocumentAs();  // but it writes one picture at a time
-      process->release(PictureCall::Svg);
-    });
-    f.panel.answer({true, f.url("other"), 3});
-    QTRY_VERIFY(turned && !c.isSaving());
-    QCOMPARE(f.read("other.svg"), kSvg);
-    QCOMPARE(f.alerts.shown.size(), 0);
-    QCOMPARE(c.rotateField()->text(), QString("30.0000"));
-  }
-
-  void whatIsBeingMadeCanBeStopped_data() {
-    QTest::addColumn<int>("type");
-    QTest::newRow("SVG") << 3;
-    QTest::newRow("compressed SVG, which is made in two steps") << 4;
-  }
-  void whatIsBeingMadeCanBeStopped() {
-    QFETCH(int, type);
-    SaveToFixture f;
-    MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
-    const auto process = f.service.lastProcess();
-    const int before = process->calls(PictureCall::Svg);
-    process->hold(PictureCall::Svg);
-    c.saveDocumentAs();
-    bool stopped = false;
-    whileSaving(c, [&] {
-      stopped = true;
-      emit c.window()->findChild<LoadingCard*>()->cancelled();
-    });
-    f.panel.answer({true, f.url("other"), type});
-    QTRY_VERIFY(stopped && !c.isSaving());
-    QCOMPARE(process->calls(PictureCall::Svg), before + 1);
-    QCOMPARE(QDir(f.folder.path()).entryList({"other*"}), QStringList());
-    QCOMPARE(f.alerts.shown.size(), 0);
-    QVERIFY(c.messageBar()->message().isEmpty());
-  }
-
   void aWindowThatIsClosedMeanwhileAsksAndClosesWhenTheFileIsThere_data() {
     QTest::addColumn<bool>("saveAs");
     QTest::newRow("Save As") << true;
@@ -577,7 +379,7 @@ class SaveToTest : public QObject {
   }
 
   void aWindowThatIsStoppedAndClosedWritesNothing() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.show(kSvg, "a.svg", "public.svg-image");
     c.setShouldCloseDocument(true);
     QSignalSpy closed(&f.document, &Document::closed);
@@ -595,15 +397,6 @@ class SaveToTest : public QObject {
     QTRY_COMPARE(closed.size(), 1);
     QVERIFY(asked && !c.window()->isVisible());
     QCOMPARE(QDir(f.folder.path()).entryList({"other*"}), QStringList());
-  }
-
-  void aDocumentThatCannotBeWrittenIsTold() {
-    SaveToFixture f;
-    MainWindowController& c = f.eps();
-    c.saveDocumentAs();
-    f.panel.answer({true, f.url("nowhere/other"), 4});
-    QTRY_COMPARE(f.alerts.shown.size(), 1);
-    QCOMPARE(f.alerts.shown[0].informativeText, f.folder.filePath("nowhere/other.png"));
   }
 };
 

@@ -131,9 +131,7 @@ void InspectorCommand::showResources(const NSImageRep* rep) {
 }
 
 void InspectorCommand::watch(const NSImageRep* rep) {
-  // Others may keep the picture before it, which still draws.
-  if (watched_) disconnect(watched_, nullptr, this, nullptr);
-  watched_ = rep;
+  watched_.change(rep);
   if (!rep) return;
   connect(rep, &NSImageRep::renderingArrived, this, &InspectorCommand::pictureWasDrawn);
   connect(rep, &NSImageRep::renderingFailed, this, &InspectorCommand::pictureWasDrawn);

@@ -3,7 +3,6 @@
 
 #include <QColor>
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "base/cancel_token.h"
+#include "window/commands/watched_picture.h"
 
 namespace norvex {
 
@@ -22,7 +22,7 @@ class WindowParts;
 class InspectorCommand final : public QObject {
   Q_OBJECT
  public:
-  explicit InspectorCommand(WindowParts& parts) : parts_(parts) {}
+  explicit InspectorCommand(WindowParts& parts) : parts_(parts), watched_(*this) {}
   ~InspectorCommand() override;
 
   /// Once the window is loaded: the order of its controls for the keyboard, from top to bottom.
@@ -76,7 +76,7 @@ class InspectorCommand final : public QObject {
   WindowParts& parts_;
   std::function<void(bool)> showPanel_;
   bool placed_ = false;
-  QPointer<const NSImageRep> watched_;
+  WatchedPicture watched_;
   std::shared_ptr<PictureProcess> unnamed_;  ///< of a picture whose names are yet to be asked for
   bool drawn_ = false;
   CancelToken naming_;

@@ -35,7 +35,9 @@ QString details(const Error& error) {
 }  // namespace
 
 MessagesCommand::MessagesCommand(WindowParts& parts)
-    : parts_(parts), alarm_([](int milliseconds, QObject* context, std::function<void()> ring) {
+    : parts_(parts),
+      watched_(*this),
+      alarm_([](int milliseconds, QObject* context, std::function<void()> ring) {
         QTimer::singleShot(milliseconds, context, std::move(ring));
       }) {}
 
@@ -51,9 +53,7 @@ void MessagesCommand::watchPicture(std::shared_ptr<StoppableProcess> process) {
   process_ = std::move(process);
   begunIsShown_ = false;
   NSImageRep* rep = parts_.view()->imageRep().get();
-  // Others may keep the picture before it, which still draws.
-  if (watched_) disconnect(watched_, nullptr, this, nullptr);
-  watched_ = rep;
+  watched_.change(rep);
   if (!rep) return;
   // Other documents are not programs that could stop.
   stopIsTold_ = rep->pictureKind() != PictureKind::Eps;

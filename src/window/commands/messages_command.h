@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 
 #include <functional>
 #include <memory>
@@ -11,6 +10,7 @@
 #include "base/result.h"
 #include "picture/image_rep.h"
 #include "ui/picture/message_bar.h"
+#include "window/commands/watched_picture.h"
 
 namespace norvex {
 
@@ -77,7 +77,7 @@ class MessagesCommand final : public QObject {
 
   WindowParts& parts_;
   std::shared_ptr<StoppableProcess> process_;
-  QPointer<NSImageRep> watched_;
+  WatchedPicture watched_;
   std::function<void()> action_, other_;
   Alarm alarm_;
   int spell_ = 0;  ///< number of the wait that is going on, or that was the last

@@ -8,12 +8,15 @@
 // V is CborReader, which fills the message in, or CborWriter, which is given a constant one.
 #pragma once
 
+#include <QByteArray>
+#include <QCborValue>
 #include <QLatin1String>
 #include <QString>
 
 #include <type_traits>
 #include <variant>
 
+#include "base/result.h"
 #include "protocol/cbor_reader.h"
 #include "protocol/cbor_writer.h"
 #include "protocol/limits.h"
@@ -51,6 +54,25 @@ bool readOneOf(CborReader& reader, const QString& type, std::variant<Messages...
     return true;
   };
   return (isThis(Messages()) || ...);
+}
+
+/// The bytes of an answer that travels by itself.
+template <typename Answer>
+QByteArray encoded(const Answer& answer) {
+  CborWriter writer;
+  fields(writer, answer);
+  return QCborValue(writer.map()).toCbor();
+}
+
+/// The other way. Fails (Protocol) with the sentence where that cannot be true, more than `most` bytes
+/// unread.
+template <typename Answer>
+Result<Answer> decoded(const QByteArray& cbor, qint64 most, const QString& sentence) {
+  CborReader reader = CborReader::parse(cbor.size() > most ? QByteArray() : cbor);
+  Answer answer;
+  fields(reader, answer);
+  if (reader.complete()) return answer;
+  return Error{ErrorKind::Protocol, sentence};
 }
 
 }  // namespace norvex

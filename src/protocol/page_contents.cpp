@@ -96,22 +96,11 @@ void fields(V& v, Of<V, DrawnInk>& drawn) {
 
 namespace {
 
+/// The same facts would fit a message.
 template <typename T>
-QByteArray encoded(const T& value) {
-  CborWriter writer;
-  fields(writer, value);
-  return QCborValue(writer.map()).toCbor();
-}
-
-template <typename T>
-Result<T> decoded(const QByteArray& cbor) {
-  // The same facts would fit a message.
-  CborReader reader = CborReader::parse(cbor.size() > limits::maximumMessageBytes ? QByteArray() : cbor);
-  T value;
-  fields(reader, value);
-  if (reader.complete()) return value;
-  return Error{ErrorKind::Protocol,
-               QStringLiteral("what is in the page was told in a way that cannot be true")};
+Result<T> decodedFacts(const QByteArray& cbor) {
+  return decoded<T>(cbor, limits::maximumMessageBytes,
+                    QStringLiteral("what is in the page was told in a way that cannot be true"));
 }
 
 }  // namespace
@@ -125,11 +114,11 @@ QByteArray encodeDrawnInk(const DrawnInk& drawn) {
 }
 
 Result<PageContents> decodePageContents(const QByteArray& cbor) {
-  return decoded<PageContents>(cbor);
+  return decodedFacts<PageContents>(cbor);
 }
 
 Result<DrawnInk> decodeDrawnInk(const QByteArray& cbor) {
-  return decoded<DrawnInk>(cbor);
+  return decodedFacts<DrawnInk>(cbor);
 }
 
 }  // namespace norvex

@@ -61,18 +61,12 @@ void fields(V& v, Of<V, PageInks>& page) {
 }
 
 QByteArray encodePageInks(const PageInks& page) {
-  CborWriter writer;
-  fields(writer, page);
-  return QCborValue(writer.map()).toCbor();
+  return encoded(page);
 }
 
 Result<PageInks> decodePageInks(const QByteArray& cbor) {
-  CborReader reader = CborReader::parse(cbor.size() > maximumPageInksBytes ? QByteArray() : cbor);
-  PageInks page;
-  fields(reader, page);
-  if (reader.complete()) return page;
-  return Error{ErrorKind::Protocol,
-               QStringLiteral("the inks of the page were told in a way that cannot be true")};
+  return decoded<PageInks>(cbor, maximumPageInksBytes,
+                           QStringLiteral("the inks of the page were told in a way that cannot be true"));
 }
 
 }  // namespace norvex

@@ -15,18 +15,12 @@ void fields(V& v, Of<V, PageNames>& names) {
 }
 
 QByteArray encodePageNames(const PageNames& names) {
-  CborWriter writer;
-  fields(writer, names);
-  return QCborValue(writer.map()).toCbor();
+  return encoded(names);
 }
 
 Result<PageNames> decodePageNames(const QByteArray& cbor) {
-  CborReader reader = CborReader::parse(cbor.size() > limits::maximumMessageBytes ? QByteArray() : cbor);
-  PageNames names;
-  fields(reader, names);
-  if (reader.complete()) return names;
-  return Error{ErrorKind::Protocol,
-               QStringLiteral("the names in the page were told in a way that cannot be true")};
+  return decoded<PageNames>(cbor, limits::maximumMessageBytes,
+                            QStringLiteral("the names in the page were told in a way that cannot be true"));
 }
 
 }  // namespace norvex

@@ -31,18 +31,12 @@ QByteArray encodePageText(const PageText& text) {
     told.places.resize(limits::maximumLetters);
     told.complete = false;
   }
-  CborWriter writer;
-  fields(writer, told);
-  return QCborValue(writer.map()).toCbor();
+  return encoded(told);
 }
 
 Result<PageText> decodePageText(const QByteArray& cbor) {
-  CborReader reader = CborReader::parse(cbor.size() > maximumPageTextBytes ? QByteArray() : cbor);
-  PageText text;
-  fields(reader, text);
-  if (reader.complete()) return text;
-  return Error{ErrorKind::Protocol,
-               QStringLiteral("the text of the page was told in a way that cannot be true")};
+  return decoded<PageText>(cbor, maximumPageTextBytes,
+                           QStringLiteral("the text of the page was told in a way that cannot be true"));
 }
 
 }  // namespace norvex

@@ -2204,7 +2204,7 @@
     </message>
     <message>
         <source>&amp;Find…</source>
-        <translation>&amp;Suchen …</translation>
+        <translation>S&amp;uchen …</translation>
     </message>
     <message>
         <source>&amp;Fit</source>

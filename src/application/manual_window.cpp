@@ -66,6 +66,8 @@ QString styleFor(const QPalette& palette) {
       .arg(palette.color(QPalette::AlternateBase).name(), palette.color(QPalette::Link).name(), quiet);
 }
 
+constexpr int kFieldMargins = 16;  // points beside the text of a field, frame and all
+
 /// Rows with room between them. A list's own spacing makes its rows narrower when it lays them out than when
 /// it paints them: a title that fits in the one and not in the other lost its second line.
 class RoomyRows final : public QStyledItemDelegate {
@@ -125,6 +127,9 @@ ManualWindow::ManualWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   splitter->addWidget(page_);
   splitter->setStretchFactor(1, 1);
   const QSize usual = sizeForTexts(*this, {900, 640});
+  // On a low screen a quarter of it is too little for what the field says of itself.
+  const int wanted = search_->fontMetrics().horizontalAdvance(search_->placeholderText()) + kFieldMargins;
+  search_->setMinimumWidth(qMin(wanted, usual.width() * 2 / 5));
   splitter->setSizes({usual.width() / 4, usual.width() * 3 / 4});
   splitter->setChildrenCollapsible(false);
   auto* row = new QHBoxLayout(this);

@@ -145,6 +145,15 @@ class ManualWindowTest : public QObject {
     QCOMPARE(shown.toByteArray(), french.readAll());
   }
 
+  void aNarrowWindowCutsNothingOffWhatTheSearchFieldSaysOfItself() {
+    ManualWindow manual;
+    manual.resize(1, 1);  // as narrow as it can be
+    manual.show();
+    const QLineEdit& field = *manual.searchField();
+    const int text = field.fontMetrics().horizontalAdvance(field.placeholderText());
+    QVERIFY2(field.width() >= text + 8, qPrintable(QString("%1 of %2").arg(field.width()).arg(text)));
+  }
+
   void aPageThatIsNarrowIsNotScrolledSideways() {
     ManualWindow manual;
     manual.show();

@@ -76,7 +76,8 @@ const QAction* menuOpenedBy(const QWidget& window, const QKeySequence& keys) {
 /// Who else of the window has these keys, a sentence; empty: nobody.
 QString complaintAboutOthers(const QWidget& window, const QAction& command, const QKeySequence& keys) {
   const QString shown = keys.toString(QKeySequence::NativeText);
-  for (const QAction* other : window.findChildren<QAction*>())
+  // Commands of the menus may belong to whom they act for, and others stand in no menu.
+  for (const QAction* other : commandsOf(window) + window.findChildren<QAction*>())
     if (other != &command && other->shortcuts().contains(keys))
       return localizedString("“%1” belongs to “%2” already, and nothing was changed.")
           .arg(shown, plainTitle(other->text()));

@@ -103,6 +103,18 @@ class OwnShortcutsTest : public QObject {
     QCOMPARE(later.paste->shortcuts(), QList<QKeySequence>{kPaste});
   }
 
+  void keysOfACommandThatBelongsToSomebodyElseAreNotTakenEither() {
+    QObject owner;
+    QAction find(QStringLiteral("&Find…"), &owner);
+    find.setShortcut(kOwn);
+    Window w;
+    w.window.menuBar()->actions().constFirst()->menu()->addAction(&find);
+    w.choose("Copy");
+    w.type(kOwn);
+    QCOMPARE(w.told(), QString("“Ctrl+Alt+K” belongs to “Find” already, and nothing was changed."));
+    QCOMPARE(w.copy->shortcut(), kCopy);
+  }
+
   void keysThatAnotherCommandHasAreToldAndNotTaken() {
     Window w;
     w.choose("Copy");

@@ -82,7 +82,9 @@ PanelBody::~PanelBody() {
 
 void PanelBody::stackWhereNarrow(QBoxLayout& row, bool isReversed) {
   row.setDirection(QBoxLayout::LeftToRight);
-  if (widget()->minimumSizeHint().width() > room().width())
+  const QSize least = widget()->minimumSizeHint(), most = room();
+  const int bar = least.height() > most.height() ? verticalScrollBar()->sizeHint().width() : 0;
+  if (least.width() + bar > most.width())
     row.setDirection(isReversed ? QBoxLayout::BottomToTop : QBoxLayout::TopToBottom);
 }
 

@@ -88,6 +88,28 @@ class PanelBodyTest : public QObject {
     QCOMPARE(p.body->horizontalScrollBar()->maximum(), 0);
   }
 
+  void halvesThatFillTheScreenStandBelowEachOtherWhereABarStandsBesideThem() {
+    Panel p(200);
+    QWidget& contents = *p.body->widget();
+    contents.setMinimumWidth(100000);
+    const int room = p.body->minimumSizeHint().width();
+    contents.setMinimumWidth(0);
+    auto* row = new QHBoxLayout;
+    auto *left = new QWidget, *right = new QWidget;
+    left->setMinimumSize(100, 10);
+    right->setMinimumSize(100, 10);
+    row->addWidget(left);
+    row->addWidget(right);
+    p.column->insertLayout(0, row);
+    right->setMinimumWidth(100 + room - contents.minimumSizeHint().width());
+    row->invalidate();  // nothing is shown yet that would tell of its size
+    QCOMPARE(contents.minimumSizeHint().width(), room);
+    p.body->stackWhereNarrow(*row);
+    p.show();
+    QCOMPARE(p.body->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(row->direction(), QBoxLayout::TopToBottom);
+  }
+
   void aPanelThatGrowsStaysOnTheScreen() {
     Panel p(3);
     p.show();

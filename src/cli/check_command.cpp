@@ -19,10 +19,6 @@
 namespace norvex {
 namespace {
 
-QJsonArray arrayOf(const QRectF& rect) {
-  return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
-
 /// A place is one of a page.
 QString sentenceOf(const Finding& one) {
   if (one.page == 0 || !one.rect) return one.sentence;
@@ -38,7 +34,7 @@ QJsonObject objectOf(const Finding& one) {
   if (one.page > 0) object.insert("page", one.page);
   if (one.line) object.insert("line", *one.line);
   if (!one.object.isEmpty()) object.insert("object", one.object);
-  if (one.rect) object.insert("rectangle", arrayOf(*one.rect));
+  if (one.rect) object.insert("rectangle", jsonArray(*one.rect));
   return object;
 }
 

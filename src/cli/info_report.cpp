@@ -10,10 +10,6 @@
 namespace norvex {
 namespace {
 
-QJsonArray arrayOf(const QRectF& rect) {
-  return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
-
 /// Lower left and upper right.
 QJsonArray cornersOf(const QRectF& rect) {
   return {rect.left(), rect.top(), rect.right(), rect.bottom()};
@@ -26,7 +22,7 @@ QString textOf(const QJsonArray& numbers) {
 }
 
 QString textOf(const QRectF& rect) {
-  return textOf(arrayOf(rect));
+  return textOf(jsonArray(rect));
 }
 
 QJsonArray platesArray(const QList<EpsPlate>& plates) {
@@ -126,9 +122,9 @@ QJsonObject infoObject(const DocumentInfo& info) {
   };
   if (!info.kind.isEmpty()) insert("kind", info.kind);
   if (!info.typeIdentifier.isEmpty()) insert("type", info.typeIdentifier);
-  if (info.rectangle) insert("rectangle", arrayOf(*info.rectangle));
+  if (info.rectangle) insert("rectangle", jsonArray(*info.rectangle));
   if (info.rectangle) insert("rectangleTitle", info.rectangleTitle);
-  if (info.viewBox) insert("viewBox", arrayOf(*info.viewBox));
+  if (info.viewBox) insert("viewBox", jsonArray(*info.viewBox));
   if (info.hiResBoundingBox) insert("hiResBoundingBox", cornersOf(*info.hiResBoundingBox));
   if (info.pages) insert("pages", *info.pages);
   if (!info.fonts.isEmpty()) insert("fonts", QJsonArray::fromStringList(info.fonts));

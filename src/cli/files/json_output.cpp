@@ -51,6 +51,10 @@ void insertName(QJsonObject& object, const QString& key, const QString& name) {
     object.insert(key + QStringLiteral("Bytes"), QString::fromLatin1(bytes.toBase64()));
 }
 
+QJsonArray jsonArray(const QRectF& rect) {
+  return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
 void insertError(QJsonObject& object, const Error& error) {
   const ToldError told = toldError(error);
   object.insert(QStringLiteral("error"), told.sentence);

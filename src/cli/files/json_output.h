@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRectF>
 
 #include "base/result.h"
 
@@ -19,6 +21,9 @@ namespace norvex {
 
 /// A file's name under `key`; one that is no UTF-8 also under `key` with "Bytes", in base64.
 void insertName(QJsonObject& object, const QString& key, const QString& name);
+
+/// Its origin, its width and its height.
+[[nodiscard]] QJsonArray jsonArray(const QRectF& rect);
 
 /// `error`: a sentence; `details`: what a library said, where it said something.
 void insertError(QJsonObject& object, const Error& error);

@@ -64,15 +64,14 @@ QByteArray encoded(const Answer& answer) {
   return QCborValue(writer.map()).toCbor();
 }
 
-/// The other way. Fails (Protocol) with the sentence where that cannot be true, more than `most` bytes
-/// unread.
+/// The other way. Fails with `lie` where that cannot be true; more than `most` bytes are not read.
 template <typename Answer>
-Result<Answer> decoded(const QByteArray& cbor, qint64 most, const QString& sentence) {
+Result<Answer> decoded(const QByteArray& cbor, qint64 most, const Error& lie) {
   CborReader reader = CborReader::parse(cbor.size() > most ? QByteArray() : cbor);
   Answer answer;
   fields(reader, answer);
   if (reader.complete()) return answer;
-  return Error{ErrorKind::Protocol, sentence};
+  return lie;
 }
 
 }  // namespace norvex

@@ -100,7 +100,8 @@ namespace {
 template <typename T>
 Result<T> decodedFacts(const QByteArray& cbor) {
   return decoded<T>(cbor, limits::maximumMessageBytes,
-                    QStringLiteral("what is in the page was told in a way that cannot be true"));
+                    Error{ErrorKind::Protocol,
+                          QStringLiteral("what is in the page was told in a way that cannot be true")});
 }
 
 }  // namespace

@@ -65,8 +65,10 @@ QByteArray encodePageInks(const PageInks& page) {
 }
 
 Result<PageInks> decodePageInks(const QByteArray& cbor) {
-  return decoded<PageInks>(cbor, maximumPageInksBytes,
-                           QStringLiteral("the inks of the page were told in a way that cannot be true"));
+  return decoded<PageInks>(
+      cbor, maximumPageInksBytes,
+      Error{ErrorKind::Protocol,
+            QStringLiteral("the inks of the page were told in a way that cannot be true")});
 }
 
 }  // namespace norvex

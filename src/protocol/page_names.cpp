@@ -19,8 +19,10 @@ QByteArray encodePageNames(const PageNames& names) {
 }
 
 Result<PageNames> decodePageNames(const QByteArray& cbor) {
-  return decoded<PageNames>(cbor, limits::maximumMessageBytes,
-                            QStringLiteral("the names in the page were told in a way that cannot be true"));
+  return decoded<PageNames>(
+      cbor, limits::maximumMessageBytes,
+      Error{ErrorKind::Protocol,
+            QStringLiteral("the names in the page were told in a way that cannot be true")});
 }
 
 }  // namespace norvex

@@ -35,8 +35,10 @@ QByteArray encodePageText(const PageText& text) {
 }
 
 Result<PageText> decodePageText(const QByteArray& cbor) {
-  return decoded<PageText>(cbor, maximumPageTextBytes,
-                           QStringLiteral("the text of the page was told in a way that cannot be true"));
+  return decoded<PageText>(
+      cbor, maximumPageTextBytes,
+      Error{ErrorKind::Protocol,
+            QStringLiteral("the text of the page was told in a way that cannot be true")});
 }
 
 }  // namespace norvex

@@ -4,8 +4,8 @@
 #include "cli/job.h"
 #include "cli/reader/reader_options.h"
 #include "cli/value_reader.h"
+#include "picture/process/page_text.h"
 #include "protocol/limits.h"
-#include "protocol/page_text.h"
 
 namespace norvex {
 namespace {
@@ -15,12 +15,7 @@ Result<PageText> textOf(PictureService& service, const PictureSource& source, co
                         const CancelToken& cancel) {
   const auto opened = openPicture(service, source, limits, cancel);
   if (!opened) return opened.error();
-  ExamineRequest request;
-  request.what = Examination::Text;
-  request.page = source.page;
-  const Result<PictureBytes> answer = (*opened)->process()->examine(request, cancel);
-  if (!answer) return answer.error();
-  return decodePageText(answer->bytes);
+  return pageText(*(*opened)->process(), source.page, cancel);
 }
 
 }  // namespace

@@ -3,20 +3,12 @@
 #include "base/background_work.h"
 #include "display/norvex_view.h"
 #include "picture/pdf_image_rep.h"
+#include "picture/process/page_text.h"
 #include "window/commands/window_parts.h"
 #include "window/reading/letters.h"
 
 namespace norvex {
 namespace {
-
-Result<PageText> textOf(PictureProcess& process, int page, const CancelToken& cancel) {
-  ExamineRequest request;
-  request.what = Examination::Text;
-  request.page = page;
-  const Result<PictureBytes> answer = process.examine(request, cancel);
-  if (!answer) return answer.error();
-  return decodePageText(answer->bytes);
-}
 
 /// Null: one picture without pages.
 int pagesOf(const NSPDFImageRep* shown) {
@@ -47,7 +39,7 @@ void PageLetters::want() {
   workInBackground(
       this,
       [process = shown->process(), page = shown->page(), cancel = cancel_] {
-        return textOf(*process, page, cancel);
+        return pageText(*process, page, cancel);
       },
       [this, rep = std::weak_ptr<NSImageRep>(shown)](const Result<PageText>& read) {
         take(rep.lock(), read);
@@ -67,7 +59,7 @@ bool PageLetters::lookElsewhere(const QString& needle, bool backward) {
        cancel = elsewhere_]() -> std::optional<int> {
         for (int step = 1; step < pages && !cancel.cancelled(); ++step) {
           const int page = (from + (backward ? pages - step : step)) % pages;
-          const Result<PageText> read = textOf(*process, page, cancel);
+          const Result<PageText> read = pageText(*process, page, cancel);
           if (read && !runsWith(*read, needle).isEmpty()) return page;
         }
         return std::nullopt;

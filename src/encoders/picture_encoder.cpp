@@ -36,8 +36,6 @@ PdfAttributes svgAttributes(const HeaderDictionary& facts) {
   return attributes;
 }
 
-constexpr double kFullTurn = 6.283185307179586;
-
 bool isEps(const NSImageRep* imageRep) {
   return dynamic_cast<const NSEPSImageRep*>(imageRep) != nullptr;
 }
@@ -229,7 +227,7 @@ QByteArray PictureEncoder::svgInside(const SvgCut& cut) {
   if (!svg) return {};
   // A full turn is none.
   const double angle = normalizedAngle(cut.angle);
-  const SvgRequest request{.pretty = false, .rect = cut.rect, .rotate = angle < kFullTurn ? angle : 0};
+  const SvgRequest request{.pretty = false, .rect = cut.rect, .rotate = angle < twoPi ? angle : 0};
   return take(svg->process()->svg(request, cancel_));
 }
 

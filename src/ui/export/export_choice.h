@@ -17,6 +17,11 @@ namespace norvex {
 /// them, as the file has them.
 enum class ExportArea { Selection, Visible, Page, Document, Pages };
 
+/// True if the file gets pages of the document in place of a picture of one.
+[[nodiscard]] constexpr bool holdsPages(ExportArea area) {
+  return area == ExportArea::Document || area == ExportArea::Pages;
+}
+
 /// Bounds of ExportChoice::dpi.
 inline constexpr double kLeastExportDpi = 1, kMostExportDpi = 4800;
 

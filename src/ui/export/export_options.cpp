@@ -58,10 +58,6 @@ const char* areaTitle(ExportArea area) {
   return "";
 }
 
-bool holdsPages(ExportArea area) {
-  return area == ExportArea::Document || area == ExportArea::Pages;
-}
-
 QWidget* inRow(std::initializer_list<QWidget*> widgets, QWidget* parent) {
   auto* row = new QWidget(parent);
   auto* layout = new QHBoxLayout(row);
@@ -89,7 +85,7 @@ ExportOptions::ExportOptions(const ExportOffer& offer, const ExportChoice& first
   addBackground(first);
   addQuality(first);
   addText(first);
-  formatChosen();
+  showWhatApplies();
 }
 
 void ExportOptions::addFormats(const ExportChoice& first) {
@@ -100,7 +96,7 @@ void ExportOptions::addFormats(const ExportChoice& first) {
   formats_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   formats_->setMinimumContentsLength(22);
   form_->addRow(localizedString("Format:"), formats_);
-  connect(formats_, &QComboBox::currentIndexChanged, this, &ExportOptions::formatChosen);
+  connect(formats_, &QComboBox::currentIndexChanged, this, &ExportOptions::showWhatApplies);
 }
 
 void ExportOptions::addAreas(const ExportChoice& first) {
@@ -120,7 +116,7 @@ void ExportOptions::addAreas(const ExportChoice& first) {
   }
   areas_->setCurrentIndex(chosen);
   form_->addRow(localizedString("Part:"), areas_);
-  connect(areas_, &QComboBox::currentIndexChanged, this, &ExportOptions::formatChosen);
+  connect(areas_, &QComboBox::currentIndexChanged, this, &ExportOptions::showWhatApplies);
 }
 
 void ExportOptions::addPages() {
@@ -208,7 +204,7 @@ void ExportOptions::addColors(const ExportChoice& first) {
     colors_->addItem(localizedString(title), int(color));
   colors_->setCurrentIndex(int(first.color));
   form_->addRow(localizedString("Colours:"), colors_);
-  connect(colors_, &QComboBox::currentIndexChanged, this, &ExportOptions::formatChosen);
+  connect(colors_, &QComboBox::currentIndexChanged, this, &ExportOptions::showWhatApplies);
 }
 
 void ExportOptions::offerColors() {
@@ -233,7 +229,7 @@ void ExportOptions::addQuality(const ExportChoice& first) {
   losing_ = inRow({quality_, lossless_}, this);
   form_->addRow(localizedString("Quality:"), losing_);
   connect(quality_, &QSpinBox::valueChanged, this, &ExportOptions::changed);
-  connect(lossless_, &QCheckBox::toggled, this, &ExportOptions::formatChosen);
+  connect(lossless_, &QCheckBox::toggled, this, &ExportOptions::showWhatApplies);
 }
 
 void ExportOptions::addText(const ExportChoice& first) {
@@ -253,14 +249,18 @@ bool ExportOptions::mayKeepText() const {
 }
 
 QSizeF ExportOptions::size() const {
-  return offer_.areas.at(std::max(0, areas_->currentIndex())).size;
+  return area().size;
+}
+
+const ExportOffer::Area& ExportOptions::area() const {
+  return offer_.areas.at(std::max(0, areas_->currentIndex()));
 }
 
 ExportChoice ExportOptions::choice() const {
   const PictureFormat chosen = format();
   const int own = rowOf(chosen).quality;
   ExportChoice choice{.format = chosen,
-                      .area = offer_.areas.at(std::max(0, areas_->currentIndex())).area,
+                      .area = area().area,
                       .dpi = dpi_->value(),
                       .color = isRaster(chosen) ? OutputColor(colors_->currentIndex()) : OutputColor::Rgb,
                       .background = filled_->isChecked() ? color_->color() : QColor(),
@@ -287,7 +287,7 @@ bool ExportOptions::setFormat(PictureFormat format) {
   return at >= 0;
 }
 
-void ExportOptions::formatChosen() {
+void ExportOptions::showWhatApplies() {
   const bool raster = isRaster(format());
   const int own = rowOf(format()).quality;
   for (QWidget* row : {static_cast<QWidget*>(dpi_), pixels_, static_cast<QWidget*>(colors_), ground_})
@@ -297,8 +297,7 @@ void ExportOptions::formatChosen() {
   form_->setRowVisible(text_, mayKeepText());
   lossless_->setVisible(own == Lossless);
   allowPages(format() == PictureFormat::Pdf);
-  form_->setRowVisible(pages_,
-                       offer_.areas.at(std::max(0, areas_->currentIndex())).area == ExportArea::Pages);
+  form_->setRowVisible(pages_, area().area == ExportArea::Pages);
   quality_->setEnabled(own != Lossless || !lossless_->isChecked());
   showPixels();
   emit changed();

@@ -28,6 +28,7 @@ class ExportOptions final : public QWidget {
   /// False: that format is not offered, and nothing changed.
   bool setFormat(PictureFormat format);
   /// Of the chosen part; points.
+  [[nodiscard]] const ExportOffer::Area& area() const;
   [[nodiscard]] QSizeF size() const;
 
  signals:
@@ -46,7 +47,8 @@ class ExportOptions final : public QWidget {
   void offerColors();
   [[nodiscard]] PictureFormat format() const;
   [[nodiscard]] bool mayKeepText() const;
-  void formatChosen();
+  /// After each choice: leaves away what the format and the part say nothing of, and tells.
+  void showWhatApplies();
   /// Only a PDF holds several pages.
   void allowPages(bool allowed);
   void showPixels();

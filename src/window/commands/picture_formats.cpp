@@ -11,7 +11,6 @@
 namespace norvex {
 namespace {
 
-constexpr double kFullTurn = 6.283185307179586;
 const QString kPasteboardTypePDF = QStringLiteral("com.adobe.pdf");
 const QString kPasteboardTypeTIFF = QStringLiteral("public.tiff");
 
@@ -140,7 +139,7 @@ SvgCut svgCutOf(const PictureSnapshot& snapshot) {
   cut.angle = snapshot.placement.rotate;
   if (snapshot.clockwise != snapshot.flippedCoordinate) {
     cut.rect.moveTop((f.y() + f.height()) * 0.5 - (r.y() + r.height()));
-    cut.angle = kFullTurn - cut.angle;
+    cut.angle = twoPi - cut.angle;
   }
   return cut;
 }

@@ -14,10 +14,6 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-bool holdsPages(ExportArea area) {
-  return area == ExportArea::Document || area == ExportArea::Pages;
-}
-
 /// Nothing where that is the whole picture as it stands, which a source may be handed on for.
 std::optional<PictureRegion> regionOf(const PictureSnapshot& snapshot, ExportArea area) {
   if (holdsPages(area)) return std::nullopt;

@@ -3,10 +3,9 @@
 #include <QRegularExpression>
 #include <QSet>
 
-#include <algorithm>
-
 #include "protocol/limits.h"
 #include "protocol/worker_protocol.h"
+#include "worker/svg/inspection/svg_style_facts.h"
 
 namespace norvex::engine {
 namespace {
@@ -15,18 +14,6 @@ namespace {
 bool isKeyword(const QString& name) {
   static const QSet<QString> keywords{"inherit", "initial", "unset", "revert"};
   return keywords.contains(name.toLower());
-}
-
-QString withoutComments(QStringView css) {
-  QString plain;
-  for (qsizetype at = 0; at < css.size();) {
-    const qsizetype comment = css.indexOf(u"/*", at);
-    plain += css.sliced(at, (comment < 0 ? css.size() : comment) - at);
-    const qsizetype close = comment < 0 ? -1 : css.indexOf(u"*/", comment + 2);
-    if (close < 0) break;
-    at = close + 2;
-  }
-  return plain;
 }
 
 /// The names of a list, without quotes; a comma inside quotes belongs to the name.

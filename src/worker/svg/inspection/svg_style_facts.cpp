@@ -15,18 +15,6 @@ int matches(const QRegularExpression& expression, const QString& text) {
   return count;
 }
 
-// A comment without an end goes on to the end.
-QString withoutComments(const QString& css) {
-  QString text;
-  for (qsizetype at = 0; at < css.size();) {
-    const qsizetype begin = css.indexOf(u"/*", at);
-    text += QStringView(css).mid(at, begin < 0 ? -1 : begin - at);
-    const qsizetype end = begin < 0 ? -1 : css.indexOf(u"*/", begin + 2);
-    at = end < 0 ? css.size() : end + 2;
-  }
-  return text;
-}
-
 int deepestBrackets(const QString& css) {
   int depth = 0;
   int deepest = 0;
@@ -38,6 +26,17 @@ int deepestBrackets(const QString& css) {
 }
 
 }  // namespace
+
+QString withoutComments(QStringView css) {
+  QString text;
+  for (qsizetype at = 0; at < css.size();) {
+    const qsizetype begin = css.indexOf(u"/*", at);
+    text += css.mid(at, begin < 0 ? -1 : begin - at);
+    const qsizetype end = begin < 0 ? -1 : css.indexOf(u"*/", begin + 2);
+    at = end < 0 ? css.size() : end + 2;
+  }
+  return text;
+}
 
 SvgStyleFacts svgStyleFacts(const QString& css) {
   static const QRegularExpression import("@import\\b[^;]*;?", QRegularExpression::CaseInsensitiveOption);

@@ -15,6 +15,9 @@ struct SvgStyleFacts {
 /// Comments count for nothing; strings are not looked into.
 [[nodiscard]] SvgStyleFacts svgStyleFacts(const QString& css);
 
+/// A comment without an end goes on to the end.
+[[nodiscard]] QString withoutComments(QStringView css);
+
 /// The largest number in `text`, 0 without any; what is too large for a number is none.
 [[nodiscard]] double largestNumber(const QString& text);
 

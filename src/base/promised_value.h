@@ -1,7 +1,6 @@
 // A value that is made when it is first wanted, once, for everybody who wants it.
 #pragma once
 
-#include <atomic>
 #include <functional>
 #include <mutex>
 #include <new>
@@ -28,18 +27,14 @@ class PromisedValue {
         value_ = T();
       }
       make_ = nullptr;  // what it holds on to is needed no longer
-      made_ = true;
     });
     return value_;
   }
-  /// True when get() returns at once.
-  [[nodiscard]] bool isMade() const { return made_; }
 
  private:
   std::once_flag once_;
   std::function<T()> make_;
   T value_{};
-  std::atomic<bool> made_ = false;
 };
 
 }  // namespace norvex

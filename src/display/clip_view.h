@@ -15,7 +15,6 @@ namespace norvex {
 /// of it is visible. Sizes that are negative or not finite count as 0.
 class ClipView {
  public:
-  [[nodiscard]] const QSizeF& frameSize() const { return frameSize_; }
   [[nodiscard]] const QSizeF& documentSize() const { return documentSize_; }
   [[nodiscard]] double scale() const { return scale_; }
   /// The visible part of the document plane: the frame's size divided by the scale.

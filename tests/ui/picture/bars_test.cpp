@@ -78,7 +78,9 @@ class BarsTest : public QObject {
   void textsAreShownToTheLetter() {
     MessageBar bar;
     bar.showMessage(MessageBar::Kind::Warning, "<b>x</b>", {}, "<i>y</i>");
-    for (const QLabel* label : bar.findChildren<QLabel*>()) {
+    const QList<QLabel*> labels = bar.findChildren<QLabel*>();
+    QVERIFY(!labels.isEmpty());
+    for (const QLabel* label : labels) {
       QCOMPARE(label->textFormat(), Qt::PlainText);
       QVERIFY(label->wordWrap());
     }

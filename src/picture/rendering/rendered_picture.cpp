@@ -228,14 +228,18 @@ void RenderedPicture::planOverview(QList<RenderJob>& jobs) {
     if (job.overview) return void(jobs << job);
   const QRect box = pixelRect(layer.mapRect(QRectF(QPointF(), size_)));
   if (box.width() > kMaximumJobSide * 4 || box.height() > kMaximumJobSide * 4) return;
+  jobs << jobFor(layer, box);
+  jobs.last().background = jobs.last().overview = true;
+}
+
+RenderJob RenderedPicture::jobFor(const QTransform& layer, const QRect& rect) {
   RenderJob job;
   job.id = ++lastId_;
   job.layer = layer;
-  job.rect = box;
-  job.background = job.overview = true;
-  job.request = {page_, layer * QTransform::fromTranslate(-box.x(), -box.y()), box.size(),
+  job.rect = rect;
+  job.request = {page_, layer * QTransform::fromTranslate(-rect.x(), -rect.y()), rect.size(),
                  RenderPurpose::View};
-  jobs << job;
+  return job;
 }
 
 void RenderedPicture::addJobs(const QTransform& layer, const QRegion& missing, bool background,
@@ -248,14 +252,8 @@ void RenderedPicture::addJobs(const QTransform& layer, const QRegion& missing, b
     for (int y = rect.top(); y <= rect.bottom(); y += kMaximumJobSide) {
       for (int x = rect.left(); x <= rect.right(); x += kMaximumJobSide) {
         const QRect part = QRect(x, y, kMaximumJobSide, kMaximumJobSide) & rect;
-        RenderJob job;
-        job.id = ++lastId_;
-        job.layer = layer;
-        job.rect = part;
-        job.background = background;
-        job.request = {page_, layer * QTransform::fromTranslate(-part.x(), -part.y()), part.size(),
-                       RenderPurpose::View};
-        jobs << job;
+        jobs << jobFor(layer, part);
+        jobs.last().background = background;
       }
     }
   }

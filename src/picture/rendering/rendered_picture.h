@@ -101,6 +101,8 @@ class RenderedPicture final : public QObject {
   void planVisible(QList<RenderJob>& jobs);
   void planOverview(QList<RenderJob>& jobs);
   void planRegion(const QRect& rect, bool background, QList<RenderJob>& jobs);
+  /// Of what is to be seen, until it is told otherwise.
+  RenderJob jobFor(const QTransform& layer, const QRect& rect);
   void addJobs(const QTransform& layer, const QRegion& missing, bool background, QList<RenderJob>& jobs);
   void finish(const RenderQueue::Finished& finished);
   void store(const RenderJob& job, const QImage& image);

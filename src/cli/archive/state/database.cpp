@@ -73,15 +73,19 @@ void Database::close(sqlite3* database) {
   ::sqlite3_close_v2(database);
 }
 
-Result<Database> Database::open(const QByteArray& path, bool mayCreate) {
+Result<Database> Database::openNamed(const QByteArray& name, int flags) {
   sqlite3* opened = nullptr;
-  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI |
-                    (mayCreate || path.isEmpty() ? SQLITE_OPEN_CREATE : 0);
-  const int code = ::sqlite3_open_v2(nameOf(path).constData(), &opened, flags, nullptr);
+  const int code =
+      ::sqlite3_open_v2(name.constData(), &opened, flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI, nullptr);
   Database database(opened);
   if (code != SQLITE_OK) return database.error();
   if (const auto ready = database.makeReady(); !ready) return ready.error();
   return database;
+}
+
+Result<Database> Database::open(const QByteArray& path, bool mayCreate) {
+  return openNamed(nameOf(path),
+                   SQLITE_OPEN_READWRITE | (mayCreate || path.isEmpty() ? SQLITE_OPEN_CREATE : 0));
 }
 
 QByteArray Database::nameOf(const QByteArray& path) {
@@ -93,14 +97,7 @@ QByteArray Database::unchangingNameOf(const QByteArray& path) {
 }
 
 Result<Database> Database::openUnchanging(const QByteArray& path) {
-  sqlite3* opened = nullptr;
-  const QByteArray uri = unchangingNameOf(path);
-  const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_URI;
-  const int code = ::sqlite3_open_v2(uri.constData(), &opened, flags, nullptr);
-  Database database(opened);
-  if (code != SQLITE_OK) return database.error();
-  if (const auto ready = database.makeReady(); !ready) return ready.error();
-  return database;
+  return openNamed(unchangingNameOf(path), SQLITE_OPEN_READONLY);
 }
 
 Result<void> Database::makeReady() {

@@ -67,6 +67,8 @@ class Database {
  private:
   explicit Database(sqlite3* database) : database_(database, &close) {}
   static void close(sqlite3* database);
+  /// `flags`: how it may be used, in SQLite's words.
+  static Result<Database> openNamed(const QByteArray& name, int flags);
   Result<void> makeReady();
   std::unique_ptr<sqlite3, decltype(&close)> database_;
 };

@@ -28,7 +28,6 @@ class ExportOptions final : public QWidget {
   /// False: that format is not offered, and nothing changed.
   bool setFormat(PictureFormat format);
   /// Of the chosen part; points.
-  [[nodiscard]] const ExportOffer::Area& area() const;
   [[nodiscard]] QSizeF size() const;
 
  signals:
@@ -46,6 +45,7 @@ class ExportOptions final : public QWidget {
   /// Those that the format holds.
   void offerColors();
   [[nodiscard]] PictureFormat format() const;
+  [[nodiscard]] const ExportOffer::Area& area() const;
   [[nodiscard]] bool mayKeepText() const;
   /// After each choice: leaves away what the format and the part say nothing of, and tells.
   void showWhatApplies();

@@ -368,6 +368,10 @@
         <translation>Nicht gefunden</translation>
     </message>
     <message>
+        <source>Not on this page</source>
+        <translation>Nicht auf dieser Seite</translation>
+    </message>
+    <message>
         <source>Not possible for this picture: %1</source>
         <translation>Für dieses Bild nicht möglich: %1</translation>
     </message>

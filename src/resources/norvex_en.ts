@@ -680,6 +680,10 @@
         <translation>Not found</translation>
     </message>
     <message>
+        <source>Not on this page</source>
+        <translation>Not on this page</translation>
+    </message>
+    <message>
         <source>Not possible for this picture: %1</source>
         <translation>Not possible for this picture: %1</translation>
     </message>

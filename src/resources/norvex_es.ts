@@ -368,6 +368,10 @@
         <translation>No se encontró</translation>
     </message>
     <message>
+        <source>Not on this page</source>
+        <translation>No está en esta página</translation>
+    </message>
+    <message>
         <source>Not possible for this picture: %1</source>
         <translation>No es posible con esta imagen: %1</translation>
     </message>

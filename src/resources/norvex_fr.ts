@@ -368,6 +368,10 @@
         <translation>Introuvable</translation>
     </message>
     <message>
+        <source>Not on this page</source>
+        <translation>Absent de cette page</translation>
+    </message>
+    <message>
         <source>Not possible for this picture: %1</source>
         <translation>Impossible pour cette image : %1</translation>
     </message>

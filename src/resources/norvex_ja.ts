@@ -368,6 +368,10 @@
         <translation>見つかりません</translation>
     </message>
     <message>
+        <source>Not on this page</source>
+        <translation>このページにはありません</translation>
+    </message>
+    <message>
         <source>Not possible for this picture: %1</source>
         <translation>この画像ではできません：%1</translation>
     </message>

@@ -368,6 +368,10 @@
         <translation>未找到</translation>
     </message>
     <message>
+        <source>Not on this page</source>
+        <translation>本页未找到</translation>
+    </message>
+    <message>
         <source>Not possible for this picture: %1</source>
         <translation>此图片无法如此处理：%1</translation>
     </message>

@@ -82,13 +82,17 @@ void SourceFindBar::showOutcome(qsizetype index, qsizetype count) {
   if (needle().isEmpty())
     outcome_->clear();
   else if (count == 0)
-    outcome_->setText(localizedString("Not found"));
+    outcome_->setText(goesOn_ ? localizedString("Not on this page") : localizedString("Not found"));
   else
     outcome_->setText(localizedString("%1 of %2").arg(locale.toString(index + 1), locale.toString(count)));
   makeQuiet(*outcome_);
   const bool leads = count > 0 || (goesOn_ && !needle().isEmpty());
   previous_->setEnabled(leads);
   next_->setEnabled(leads);
+}
+
+void SourceFindBar::showFoundNowhere() {
+  outcome_->setText(localizedString("Not found"));
 }
 
 void SourceFindBar::paintEvent(QPaintEvent*) {

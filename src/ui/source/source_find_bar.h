@@ -26,6 +26,8 @@ class SourceFindBar final : public QWidget {
   /// `on`: there are places to look at beyond those that are counted, and the way to them stays open without
   /// a match here. From the next outcome on.
   void setGoesOn(bool on) { goesOn_ = on; }
+  /// Not in what the way goes on to either.
+  void showFoundNowhere();
 
  signals:
   void needleChanged(const QString& text);

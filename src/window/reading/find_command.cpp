@@ -126,7 +126,10 @@ void FindCommand::step(bool backward) {
 }
 
 void FindCommand::goRound() {
-  if (runs_.isEmpty()) return;
+  if (runs_.isEmpty()) {
+    if (letters_.text()) bar_->showFoundNowhere();
+    return;
+  }
   current_ = (current_ + (backward_ ? runs_.size() - 1 : 1)) % runs_.size();
   mark();
 }

@@ -181,7 +181,9 @@ class FindingTest : public QObject {
     QVERIFY(process->waitUntilHeld(PictureCall::Examine));
     QCOMPARE(f.find->bar()->outcome(), QString());
     process->release(PictureCall::Examine);
-    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not on this page"));
+    emit f.find->bar()->wanted(false);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));  // on no other page either
   }
 
   void theBarDoesNotLieOverWhatWasFound() {
@@ -227,7 +229,7 @@ class FindingTest : public QObject {
     f.lookFor("one");
     auto* pages = f.c.findChild<PagesCommand*>();
     pages->show(1);
-    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not on this page"));
     QToolButton* next = nullptr;
     for (auto* button : f.find->bar()->findChildren<QToolButton*>())
       if (button->accessibleName() == "Next") next = button;
@@ -317,7 +319,7 @@ class FindingTest : public QObject {
     Text f;
     f.lookFor("one");
     f.c.findChild<PagesCommand*>()->show(1);
-    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("Not on this page"));
     QVERIFY(f.marks->current().isEmpty());
     f.c.findChild<PagesCommand*>()->show(0);
     QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 2"));

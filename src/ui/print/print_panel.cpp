@@ -171,7 +171,7 @@ void PrintPanel::takeChoices() {
     for (QSpinBox* each : {firstPage_, lastPage_}) {
       const QSignalBlocker quiet(each);
       const bool wasLast = each == lastPage_ && each->value() == each->maximum();
-      each->setRange(1, std::max(1, pageCount()));
+      each->setRange(1, std::max(1, sheetCount()));
       if (wasLast || (each == lastPage_ && allPages_->isChecked())) each->setValue(each->maximum());
     }
     if (somePages_->isChecked())

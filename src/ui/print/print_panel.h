@@ -39,7 +39,7 @@ class PrintPanel final : public QDialog {
   /// The settings as they are chosen now.
   [[nodiscard]] const NSPrintInfo& printInfo() const { return info_; }
   /// Number of sheets that the settings make; 0 where they make none.
-  [[nodiscard]] int pageCount() const { return pages_ ? pages_->sheetCount() : 0; }
+  [[nodiscard]] int sheetCount() const { return pages_ ? pages_->sheetCount() : 0; }
   /// Asks for the file in which the pages are saved; a test may put its own answer.
   std::function<QString(const QString& suggestion)> askForFile;
   /// Asks whether that file, which nobody named like this, may be replaced; a test may put its own answer.

@@ -267,7 +267,7 @@ class PrintPanelTest : public QObject {
 
   void thePagesAreCountedAndTurned() {
     open({3000, 2000});
-    QCOMPARE(panel_->pageCount(), 18);
+    QCOMPARE(panel_->sheetCount(), 18);
     auto* label = child<QLabel>("pageLabel");
     QCOMPARE(label->text(), QString("1 of 18"));
     QVERIFY(!child<QToolButton>("previousPage")->isEnabled());
@@ -285,18 +285,18 @@ class PrintPanelTest : public QObject {
     open(pages_.at(1));
     auto* which = child<QComboBox>("documentPages");
     QCOMPARE(which->currentText(), QString("The shown page (2)"));
-    QCOMPARE(panel_->pageCount(), 18);
+    QCOMPARE(panel_->sheetCount(), 18);
     QVERIFY(!child<QSpinBox>("firstDocumentPage")->isEnabled());
     which->setCurrentIndex(1);
     QCOMPARE(which->currentText(), QString("All 4 pages"));
-    QCOMPARE(panel_->pageCount(), 21);
+    QCOMPARE(panel_->sheetCount(), 21);
     which->setCurrentIndex(2);
     child<QSpinBox>("firstDocumentPage")->setValue(3);
     QVERIFY(child<QSpinBox>("firstDocumentPage")->isEnabled());
-    QCOMPARE(panel_->pageCount(), 2);
+    QCOMPARE(panel_->sheetCount(), 2);
     child<QSpinBox>("lastDocumentPage")->setValue(1);  // the other end comes along
     QCOMPARE(child<QSpinBox>("firstDocumentPage")->value(), 1);
-    QCOMPARE(panel_->pageCount(), 1);
+    QCOMPARE(panel_->sheetCount(), 1);
     panel_->accept();
     QCOMPARE(operation_->printInfo().documentPages(), DocumentPages::Range);
     QCOMPARE(operation_->printInfo().firstDocumentPage(), 1);
@@ -403,7 +403,7 @@ class PrintPanelTest : public QObject {
     NSPrintInfo info = a4();
     info.setLeftMargin(600);
     open({100, 100}, kPrinters, info);
-    QCOMPARE(panel_->pageCount(), 0);
+    QCOMPARE(panel_->sheetCount(), 0);
     QVERIFY(!child<QPushButton>("print")->isEnabled());
   }
 

@@ -66,7 +66,7 @@ QString styleFor(const QPalette& palette) {
       .arg(palette.color(QPalette::AlternateBase).name(), palette.color(QPalette::Link).name(), quiet);
 }
 
-constexpr int kFieldMargins = 16;  // points beside the text of a field, frame and all
+constexpr int kFieldMargins = 16;  // pixels beside the text of a field, frame and all
 
 /// Rows with room between them. A list's own spacing makes its rows narrower when it lays them out than when
 /// it paints them: a title that fits in the one and not in the other lost its second line.

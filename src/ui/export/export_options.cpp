@@ -19,6 +19,7 @@
 #include "types/type_description.h"
 #include "types/uniform_type.h"
 #include "ui/controls/color_well.h"
+#include "ui/controls/page_range_fields.h"
 
 namespace norvex {
 namespace {
@@ -120,31 +121,10 @@ void ExportOptions::addAreas(const ExportChoice& first) {
 }
 
 void ExportOptions::addPages() {
-  firstPage_ = new QSpinBox(this);
-  firstPage_->setObjectName(QStringLiteral("exportFirstPage"));
-  firstPage_->setAccessibleName(localizedString("First page"));
-  lastPage_ = new QSpinBox(this);
-  lastPage_->setObjectName(QStringLiteral("exportLastPage"));
-  lastPage_->setAccessibleName(localizedString("Last page"));
-  for (QSpinBox* field : {firstPage_, lastPage_}) {
-    field->setRange(1, std::max(1, offer_.pageCount));
-    field->setKeyboardTracking(false);
-  }
-  firstPage_->setValue(offer_.shownPage + 1);
-  lastPage_->setValue(offer_.pageCount);
-  pages_ = inRow({firstPage_, new QLabel(localizedString("to"), this), lastPage_}, this);
+  pages_ = new PageRangeFields(std::max(1, offer_.pageCount), this);
+  pages_->setPages(offer_.shownPage + 1, offer_.pageCount);
   form_->addRow(localizedString("From page:"), pages_);
-  // Whoever moves one end past the other means both.
-  connect(firstPage_, &QSpinBox::valueChanged, this, [this](int page) {
-    const QSignalBlocker quiet(lastPage_);
-    lastPage_->setValue(std::max(page, lastPage_->value()));
-    emit changed();
-  });
-  connect(lastPage_, &QSpinBox::valueChanged, this, [this](int page) {
-    const QSignalBlocker quiet(firstPage_);
-    firstPage_->setValue(std::min(page, firstPage_->value()));
-    emit changed();
-  });
+  connect(pages_, &PageRangeFields::changed, this, &ExportOptions::changed);
 }
 
 void ExportOptions::addPixels(const ExportChoice& first) {
@@ -266,8 +246,8 @@ ExportChoice ExportOptions::choice() const {
                       .background = filled_->isChecked() ? color_->color() : QColor(),
                       .quality = std::nullopt};
   if (choice.area == ExportArea::Pages) {
-    choice.firstPage = firstPage_->value();
-    choice.lastPage = lastPage_->value();
+    choice.firstPage = pages_->first();
+    choice.lastPage = pages_->last();
   }
   choice.keepText = isSvg(chosen) && text_->isChecked();
   if (own > 0 || (own == Lossless && !lossless_->isChecked())) choice.quality = quality_->value();
@@ -276,9 +256,9 @@ ExportChoice ExportOptions::choice() const {
 
 void ExportOptions::takeTyped() {
   // The others follow one another, rounded: read again they would change what was chosen.
-  for (QAbstractSpinBox* field :
-       std::initializer_list<QAbstractSpinBox*>{dpi_, wide_, high_, quality_, firstPage_, lastPage_})
+  for (QAbstractSpinBox* field : std::initializer_list<QAbstractSpinBox*>{dpi_, wide_, high_, quality_})
     if (field->hasFocus()) field->interpretText();
+  pages_->takeTyped();
 }
 
 bool ExportOptions::setFormat(PictureFormat format) {

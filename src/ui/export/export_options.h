@@ -14,6 +14,7 @@ class QSpinBox;
 namespace norvex {
 
 class ColorWell;
+class PageRangeFields;
 
 /// Shows the controls that mean something for the format that is chosen. Main thread.
 class ExportOptions final : public QWidget {
@@ -59,8 +60,8 @@ class ExportOptions final : public QWidget {
   QComboBox *formats_, *areas_, *colors_;
   QDoubleSpinBox* dpi_;
   QSpinBox *wide_, *high_, *quality_;
-  QSpinBox *firstPage_, *lastPage_;
-  QWidget *pages_, *pixels_, *ground_, *losing_;
+  PageRangeFields* pages_;
+  QWidget *pixels_, *ground_, *losing_;
   QCheckBox *filled_, *lossless_, *text_;
   ColorWell* color_;
 };

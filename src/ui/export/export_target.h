@@ -4,9 +4,6 @@
 #include <QString>
 #include <QWidget>
 
-#include <functional>
-#include <optional>
-
 #include "types/picture_format.h"
 
 class QLabel;

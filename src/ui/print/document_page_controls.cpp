@@ -4,30 +4,20 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSpinBox>
 
 #include <algorithm>
 
 #include "base/localized_string.h"
+#include "ui/controls/page_range_fields.h"
 
 namespace norvex {
-namespace {
-
-QSpinBox* pageField(const QString& name, const QString& title, int count, int value) {
-  auto* field = new QSpinBox;
-  field->setObjectName(name);
-  field->setAccessibleName(title);
-  field->setRange(1, count);
-  field->setValue(value);
-  field->setKeyboardTracking(false);  // a number that is being typed is none yet
-  return field;
-}
-
-}  // namespace
 
 DocumentPageControls::DocumentPageControls(const PrintSource& source, const NSPrintInfo& info,
                                            QFormLayout* form, QObject* parent)
-    : QObject(parent), which_(new QComboBox), range_(new QWidget) {
+    : QObject(parent),
+      which_(new QComboBox),
+      range_(new QWidget),
+      pages_(new PageRangeFields(int(source.pages.size()))) {
   const int count = int(source.pages.size()), shown = source.shownPage;
   which_->setObjectName(QStringLiteral("documentPages"));
   which_->addItem(localizedString("The shown page (%1)").arg(shown + 1), int(DocumentPages::Shown));
@@ -35,33 +25,21 @@ DocumentPageControls::DocumentPageControls(const PrintSource& source, const NSPr
                   int(DocumentPages::All));
   which_->addItem(localizedString("Some pages"), int(DocumentPages::Range));
   which_->setCurrentIndex(which_->findData(int(info.documentPages())));
-  const bool ranged = info.documentPages() == DocumentPages::Range;
-  first_ = pageField(QStringLiteral("firstDocumentPage"), localizedString("First page"), count,
-                     ranged ? info.firstDocumentPage() : shown + 1);
-  last_ = pageField(QStringLiteral("lastDocumentPage"), localizedString("Last page"), count,
-                    ranged ? info.lastDocumentPage() : count);
+  if (info.documentPages() == DocumentPages::Range)
+    pages_->setPages(info.firstDocumentPage(), info.lastDocumentPage());
+  else
+    pages_->setPages(shown + 1, count);
   auto* row = new QHBoxLayout(range_);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(new QLabel(localizedString("From page")));
-  row->addWidget(first_);
-  row->addWidget(new QLabel(localizedString("to")));
-  row->addWidget(last_);
-  row->addStretch();
+  row->addWidget(pages_);
   form->addRow(localizedString("Pa&ges:"), which_);
   form->addRow(QString(), range_);
   connect(which_, &QComboBox::currentIndexChanged, this, [this] {
     showRange();
     emit changed();
   });
-  // Whoever moves one end past the other means both.
-  connect(first_, &QSpinBox::valueChanged, this, [this](int page) {
-    last_->setValue(std::max(page, last_->value()));
-    emit changed();
-  });
-  connect(last_, &QSpinBox::valueChanged, this, [this](int page) {
-    first_->setValue(std::min(page, first_->value()));
-    emit changed();
-  });
+  connect(pages_, &PageRangeFields::changed, this, &DocumentPageControls::changed);
   showRange();
 }
 
@@ -71,9 +49,9 @@ void DocumentPageControls::showRange() {
 
 void DocumentPageControls::applyTo(NSPrintInfo& info) const {
   const auto which = DocumentPages(which_->currentData().toInt());
-  for (QSpinBox* field : {first_, last_}) field->interpretText();  // one may still be typed into
+  pages_->takeTyped();
   if (which == DocumentPages::Range)
-    info.setDocumentPageRange(first_->value(), last_->value());
+    info.setDocumentPageRange(pages_->first(), pages_->last());
   else
     info.setDocumentPages(which);
 }

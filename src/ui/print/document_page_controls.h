@@ -8,10 +8,11 @@
 
 class QComboBox;
 class QFormLayout;
-class QSpinBox;
 class QWidget;
 
 namespace norvex {
+
+class PageRangeFields;
 
 /// Part of the print panel, of a document with several pages. Main thread.
 class DocumentPageControls final : public QObject {
@@ -33,7 +34,7 @@ class DocumentPageControls final : public QObject {
 
   QComboBox* which_;
   QWidget* range_;
-  QSpinBox *first_, *last_;
+  PageRangeFields* pages_;
 };
 
 }  // namespace norvex

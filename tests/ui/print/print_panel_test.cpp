@@ -286,16 +286,16 @@ class PrintPanelTest : public QObject {
     auto* which = child<QComboBox>("documentPages");
     QCOMPARE(which->currentText(), QString("The shown page (2)"));
     QCOMPARE(panel_->sheetCount(), 18);
-    QVERIFY(!child<QSpinBox>("firstDocumentPage")->isEnabled());
+    QVERIFY(!child<QSpinBox>("firstPage")->isEnabled());
     which->setCurrentIndex(1);
     QCOMPARE(which->currentText(), QString("All 4 pages"));
     QCOMPARE(panel_->sheetCount(), 21);
     which->setCurrentIndex(2);
-    child<QSpinBox>("firstDocumentPage")->setValue(3);
-    QVERIFY(child<QSpinBox>("firstDocumentPage")->isEnabled());
+    child<QSpinBox>("firstPage")->setValue(3);
+    QVERIFY(child<QSpinBox>("firstPage")->isEnabled());
     QCOMPARE(panel_->sheetCount(), 2);
-    child<QSpinBox>("lastDocumentPage")->setValue(1);  // the other end comes along
-    QCOMPARE(child<QSpinBox>("firstDocumentPage")->value(), 1);
+    child<QSpinBox>("lastPage")->setValue(1);  // the other end comes along
+    QCOMPARE(child<QSpinBox>("firstPage")->value(), 1);
     QCOMPARE(panel_->sheetCount(), 1);
     panel_->accept();
     QCOMPARE(operation_->printInfo().documentPages(), DocumentPages::Range);
@@ -306,14 +306,14 @@ class PrintPanelTest : public QObject {
   void aRangeThatWasChosenBeforeIsShownAgain() {
     pages_ = {{100, 100}, {200, 100}, {100, 200}, {100, 100}};
     open({200, 100});
-    QCOMPARE(child<QSpinBox>("firstDocumentPage")->value(), 2);  // the shown one, and what follows it
-    QCOMPARE(child<QSpinBox>("lastDocumentPage")->value(), 4);
+    QCOMPARE(child<QSpinBox>("firstPage")->value(), 2);  // the shown one, and what follows it
+    QCOMPARE(child<QSpinBox>("lastPage")->value(), 4);
     NSPrintInfo info = a4();
     info.setDocumentPageRange(3, 3);
     open({200, 100}, kPrinters, info);
     QCOMPARE(child<QComboBox>("documentPages")->currentData().toInt(), int(DocumentPages::Range));
-    QCOMPARE(child<QSpinBox>("firstDocumentPage")->value(), 3);
-    QCOMPARE(child<QSpinBox>("lastDocumentPage")->value(), 3);
+    QCOMPARE(child<QSpinBox>("firstPage")->value(), 3);
+    QCOMPARE(child<QSpinBox>("lastPage")->value(), 3);
   }
 
   void aPreviewLeavesASmallScreenToTheChoices() {
@@ -329,7 +329,7 @@ class PrintPanelTest : public QObject {
     choose("printer", "office");
     auto* which = child<QComboBox>("documentPages");
     which->setCurrentIndex(which->findData(int(DocumentPages::Range)));
-    auto* first = child<QSpinBox>("firstDocumentPage");
+    auto* first = child<QSpinBox>("firstPage");
     first->selectAll();
     QTest::keyClicks(first, "7");
     QVERIFY(first->value() != 7);  // it is being typed
@@ -351,7 +351,7 @@ class PrintPanelTest : public QObject {
     QVERIFY(!child<QPushButton>("print")->isEnabled());
     which->setCurrentIndex(which->findData(int(DocumentPages::Range)));
     QVERIFY(child<QPushButton>("print")->isEnabled());
-    QCOMPARE(child<QSpinBox>("lastDocumentPage")->maximum(), 3);
+    QCOMPARE(child<QSpinBox>("lastPage")->maximum(), 3);
   }
 
   void aDocumentOfOnePageHasNoSuchChoice() {

@@ -165,8 +165,8 @@ class ExportTest : public QObject {
     f.dialog();
     f.choose(PictureFormat::Pdf);
     auto* areas = f.command->dialog()->findChild<QComboBox*>("exportArea");
-    auto* first = f.command->dialog()->findChild<QSpinBox*>("exportFirstPage");
-    auto* last = f.command->dialog()->findChild<QSpinBox*>("exportLastPage");
+    auto* first = f.command->dialog()->findChild<QSpinBox*>("firstPage");
+    auto* last = f.command->dialog()->findChild<QSpinBox*>("lastPage");
     QVERIFY(!first->isVisibleTo(f.command->dialog()));
     areas->setCurrentIndex(areas->findText("Some pages"));
     QVERIFY(first->isVisibleTo(f.command->dialog()));

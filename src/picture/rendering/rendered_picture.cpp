@@ -16,25 +16,9 @@ constexpr int kMaximumLayers = 8;
 constexpr int kMaximumStandIns = 2;  // besides the overview: a frame has a few milliseconds
 constexpr int kMaximumFailures = 3;
 constexpr int kMaximumBlocked = 32;
-constexpr int kMaximumRects = 4;  // every rectangle costs a walk through the whole picture
 constexpr int kRestMilliseconds = 150;
 constexpr int kLongFrameMilliseconds = 6;       // beyond, a window does not keep up with its screen
 constexpr qint64 kManyStandInPixels = 600'000;  // smooth ones take longer than that, at 6 to 10 ns each
-constexpr int kMaximumJobSide = 4096;           // pixels
-
-qint64 pixels(const QRect& rect) {
-  return qint64(rect.width()) * rect.height();
-}
-
-int floorTo(int value, int grid) {
-  return int(std::floor(double(value) / grid)) * grid;
-}
-
-QRect snapped(const QRect& rect, int grid) {
-  const QPoint from(floorTo(rect.left(), grid), floorTo(rect.top(), grid));
-  const QPoint to(floorTo(rect.right(), grid) + grid - 1, floorTo(rect.bottom(), grid) + grid - 1);
-  return QRect(from, to);
-}
 
 bool isUsable(const QTransform& t) {
   const double all = t.m11() + t.m12() + t.m21() + t.m22() + t.dx() + t.dy();
@@ -164,16 +148,8 @@ void RenderedPicture::request(const QTransform& t, const QRect& visible) {
   plan();
 }
 
-QRect RenderedPicture::wantedRect(const View& view, bool withMargin) const {
-  if (pixels(view.box) <= options_.wholePixels) return view.box;
-  QRect rect = view.visible;
-  if (withMargin) rect.adjust(-options_.tile, -options_.tile, options_.tile, options_.tile);
-  if (pixels(rect) > options_.visiblePixels) {
-    const int side = int(std::sqrt(double(options_.visiblePixels)));
-    const QRect middle(rect.center() - QPoint(side / 2, side / 2), QSize(side, side));
-    rect &= middle;
-  }
-  return snapped(rect, options_.tile) & view.box;
+QRect RenderedPicture::wantedFor(const View& view, bool withMargin) const {
+  return wantedRect(view.visible, view.box, options_, withMargin);
 }
 
 void RenderedPicture::rest() {
@@ -200,10 +176,10 @@ void RenderedPicture::planVisible(QList<RenderJob>& jobs) {
   const Blocked* blocked = blockFor(view_->layer);
   const RenderedLayer* layer = layerFitting(view_->layer);
   const bool sharp = layer && layer->covers(view_->visible);
-  if (!sharp && (!blocked || blocked->backgroundOnly)) planRegion(wantedRect(*view_, false), false, jobs);
+  if (!sharp && (!blocked || blocked->backgroundOnly)) planRegion(wantedFor(*view_, false), false, jobs);
   planOverview(jobs);
-  const QRect around = wantedRect(*view_, true);
-  if (sharp && !blocked && !restTimer_.isActive() && pixels(around) * 4 < options_.cacheBytes)
+  const QRect around = wantedFor(*view_, true);
+  if (sharp && !blocked && !restTimer_.isActive() && pixelCount(around) * 4 < options_.cacheBytes)
     planRegion(around, true, jobs);
 }
 
@@ -217,17 +193,20 @@ void RenderedPicture::planRegion(const QRect& rect, bool background, QList<Rende
     jobs << job;
     missing -= job.rect;
   }
-  addJobs(view_->layer, missing, background, jobs);
+  for (const QRect& piece : piecesOf(missing)) {
+    jobs << jobFor(view_->layer, piece);
+    jobs.last().background = background;
+  }
 }
 
 void RenderedPicture::planOverview(QList<RenderJob>& jobs) {
-  if (overview_ || overviewFailed_ || pixels(view_->box) <= options_.wholePixels) return;
+  if (overview_ || overviewFailed_ || pixelCount(view_->box) <= options_.wholePixels) return;
   const double scale = std::sqrt(double(options_.overviewPixels) / (size_.width() * size_.height()));
   const QTransform layer(scale, 0, 0, -scale, 0, std::ceil(size_.height() * scale));
   for (const RenderJob& job : std::as_const(outstanding_))
     if (job.overview) return void(jobs << job);
   const QRect box = pixelRect(layer.mapRect(QRectF(QPointF(), size_)));
-  if (box.width() > kMaximumJobSide * 4 || box.height() > kMaximumJobSide * 4) return;
+  if (box.width() > longestPiece * 4 || box.height() > longestPiece * 4) return;
   jobs << jobFor(layer, box);
   jobs.last().background = jobs.last().overview = true;
 }
@@ -240,23 +219,6 @@ RenderJob RenderedPicture::jobFor(const QTransform& layer, const QRect& rect) {
   job.request = {page_, layer * QTransform::fromTranslate(-rect.x(), -rect.y()), rect.size(),
                  RenderPurpose::View};
   return job;
-}
-
-void RenderedPicture::addJobs(const QTransform& layer, const QRegion& missing, bool background,
-                              QList<RenderJob>& jobs) {
-  qint64 area = 0;
-  for (const QRect& rect : missing) area += pixels(rect);
-  const QRect bounds = missing.boundingRect();
-  const bool merge = missing.rectCount() > kMaximumRects || pixels(bounds) < area * 2;
-  for (const QRect& rect : merge ? QRegion(bounds) : missing) {
-    for (int y = rect.top(); y <= rect.bottom(); y += kMaximumJobSide) {
-      for (int x = rect.left(); x <= rect.right(); x += kMaximumJobSide) {
-        const QRect part = QRect(x, y, kMaximumJobSide, kMaximumJobSide) & rect;
-        jobs << jobFor(layer, part);
-        jobs.last().background = background;
-      }
-    }
-  }
 }
 
 // ---- answers
@@ -337,7 +299,7 @@ void RenderedPicture::trim() {
   RenderedLayer& current = layers_.first();
   if (!current.fits(view_->layer, size_)) return;
   const qint64 rest = cacheBytes() - current.bytes();
-  current.shrink(options_.cacheBytes - rest, wantedRect(*view_, true));
+  current.shrink(options_.cacheBytes - rest, wantedFor(*view_, true));
 }
 
 }  // namespace norvex

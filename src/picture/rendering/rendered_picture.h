@@ -5,7 +5,6 @@
 #include <QList>
 #include <QObject>
 #include <QRect>
-#include <QRegion>
 #include <QSizeF>
 #include <QTimer>
 #include <QTransform>
@@ -15,21 +14,18 @@
 
 #include "picture/process/picture_process.h"
 #include "picture/rendering/render_queue.h"
+#include "picture/rendering/render_rects.h"
 #include "picture/rendering/rendered_layer.h"
 
 class QPainter;
 
 namespace norvex {
 
-/// Bounds of the cache of one picture.
-struct RenderedPictureOptions {
+/// Bounds of what is asked for and of the cache of one picture.
+struct RenderedPictureOptions : RenderRectLimits {
   qint64 cacheBytes = 256LL << 20;  ///< bitmaps kept beyond what is visible. Default: 256 MiB
-  qint64 wholePixels = 4'000'000;   ///< a picture up to this size is one bitmap. Default: 4 megapixels
   qint64 overviewPixels =
       1'000'000;  ///< the bitmap that stands in where nothing else is. Default: 1 megapixel
-  qint64 visiblePixels =
-      64'000'000;  ///< a larger view is rendered around its middle only. Default: 64 megapixels
-  int tile = 256;  ///< grid and margin of what is asked for, pixels. Default: 256
   MillisecondClock clock = steadyMilliseconds;  ///< Default: the system's
 };
 
@@ -95,7 +91,7 @@ class RenderedPicture final : public QObject {
   [[nodiscard]] const RenderedLayer* layerFitting(const QTransform& transform) const;
   [[nodiscard]] QList<const RenderedLayer*> nearestLayers(const QTransform& pictureToDevice) const;
   [[nodiscard]] const Blocked* blockFor(const QTransform& transform) const;
-  [[nodiscard]] QRect wantedRect(const View& view, bool withMargin) const;
+  [[nodiscard]] QRect wantedFor(const View& view, bool withMargin) const;
   void rest();
   void plan();
   void planVisible(QList<RenderJob>& jobs);
@@ -103,7 +99,6 @@ class RenderedPicture final : public QObject {
   void planRegion(const QRect& rect, bool background, QList<RenderJob>& jobs);
   /// Of what is to be seen, until it is told otherwise.
   RenderJob jobFor(const QTransform& layer, const QRect& rect);
-  void addJobs(const QTransform& layer, const QRegion& missing, bool background, QList<RenderJob>& jobs);
   void finish(const RenderQueue::Finished& finished);
   void store(const RenderJob& job, const QImage& image);
   void fail(const RenderJob& job, const Error& error);

@@ -10,7 +10,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -23,6 +22,7 @@
 #include "protocol/process_end.h"
 #include "worker/confinement/landlock.h"
 #include "worker/confinement/process_files.h"
+#include "worker/confinement/process_group.h"
 #include "worker/environment.h"
 
 namespace norvex {
@@ -161,11 +161,7 @@ void ForkServer::tellEnd(quint32 number, int status) {
 }
 
 int ForkServer::bury(Child& child) {
-  // First the group, which still bears the number of the unburied child.
-  ::kill(-child.pid, SIGKILL);
-  ::kill(child.pid, SIGKILL);
-  int status = 0;
-  while (::waitpid(child.pid, &status, 0) < 0 && errno == EINTR) continue;
+  const int status = endProcessGroup(child.pid);
   removeFolder(child.scratchFolder.toStdString());
   return status;
 }

@@ -19,6 +19,7 @@
 #include "base/remove_folder.h"
 #include "protocol/limits.h"
 #include "worker/confinement/process_files.h"
+#include "worker/confinement/process_group.h"
 #include "worker/confinement/resource_limits.h"
 #include "worker/confinement/sandbox.h"
 
@@ -148,11 +149,7 @@ void InterpreterServer::becomeInterpreter(int parent, const InterpreterRequest& 
 }
 
 void InterpreterServer::bury(Child& child, std::optional<InterpreterOutcome> told) {
-  // One that has ended by itself stays a zombie until it is waited for: the signals cannot hit another.
-  ::kill(-child.pid, SIGKILL);
-  ::kill(child.pid, SIGKILL);
-  InterpreterOutcome status = 0;
-  while (::waitpid(child.pid, &status, 0) < 0 && errno == EINTR) continue;
+  const InterpreterOutcome status = endProcessGroup(child.pid);
   removeFolder(child.scratchFolder.toStdString());
   tell(child.outcome, told.value_or(status));
 }

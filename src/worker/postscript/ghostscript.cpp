@@ -25,6 +25,7 @@
 #include "protocol/limits.h"
 #include "protocol/process_end.h"
 #include "protocol/shared_errors.h"
+#include "worker/confinement/process_group.h"
 #include "worker/confinement/sandbox.h"
 #include "worker/confinement/scratch_watch.h"
 
@@ -177,10 +178,7 @@ void GhostscriptChild::end() {
   closeDescriptor(outcome_);
   if (pid_ < 0) return;
   if (process_.valid()) ::syscall(SYS_pidfd_send_signal, process_.get(), SIGKILL, nullptr, 0);
-  ::kill(-pid_, SIGKILL);
-  ::kill(pid_, SIGKILL);
-  while (::waitpid(pid_, nullptr, 0) < 0 && errno == EINTR) {
-  }
+  endProcessGroup(pid_);
   pid_ = -1;
 }
 

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -133,13 +132,6 @@ std::optional<struct stat> statusOf(const QString& path) {
   return status;
 }
 
-/// The file that `path`, which exists, leads to.
-QString throughLinks(const QString& path) {
-  const std::unique_ptr<char, decltype(&std::free)> real(::realpath(fileNameBytes(path).constData(), nullptr),
-                                                         &std::free);
-  return real ? fileNameText(real.get()) : path;
-}
-
 }  // namespace
 
 Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, IfExists ifExists) {
@@ -151,7 +143,7 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes, I
   }
   if (old && (old->st_mode & S_IWUSR) == 0)
     return Error{ErrorKind::CannotWrite, QStringLiteral("the file is read-only")};
-  const QString target = old ? throughLinks(path) : path;
+  const QString target = old ? fileNameText(realPath(fileNameBytes(path))) : path;
 
   NewFile file(target, 0666);
   if (!file.isOpen() || !file.write(bytes)) return cannotWrite(errno);

@@ -4,6 +4,9 @@
 
 #include <QStringDecoder>
 
+#include <cstdlib>
+#include <memory>
+
 namespace norvex {
 namespace {
 
@@ -59,6 +62,11 @@ QByteArray fileNameBytes(const QString& name) {
     textBegin = i + 1;
   }
   return bytes + QStringView(name).sliced(textBegin).toUtf8();
+}
+
+QByteArray realPath(const QByteArray& path) {
+  const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.constData(), nullptr), &std::free);
+  return real ? QByteArray(real.get()) : path;
 }
 
 bool fileExists(const QString& name) {

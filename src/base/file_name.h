@@ -18,6 +18,9 @@ namespace norvex {
 /// character in front of it, a null one at the start.
 [[nodiscard]] int rawByteOf(QChar character, QChar before);
 
+/// The file that a path leads to, through all links; the path itself when nothing is there.
+[[nodiscard]] QByteArray realPath(const QByteArray& path);
+
 /// True when something is there under that name, a link that leads nowhere excepted.
 [[nodiscard]] bool fileExists(const QString& name);
 /// True for a folder, or a link to one.

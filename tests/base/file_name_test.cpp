@@ -94,6 +94,17 @@ class FileNameTest : public QObject {
     QVERIFY(std::filesystem::remove(bytes.toStdString()));  // QTemporaryDir cannot
   }
 
+  void theRealPathOfALinkIsWhereItLeads() {
+    const QTemporaryDir folder;
+    const QByteArray root = realPath(fileNameBytes(folder.path()));
+    QVERIFY(writeFileAtomically(fileNameText(root + "/file\xFC"), "x", IfExists::Fail).ok());
+    std::filesystem::create_symlink("file\xFC", (root + "/one").toStdString());
+    std::filesystem::create_symlink("one", (root + "/two").toStdString());
+    QCOMPARE(realPath(root + "/./two"), root + "/file\xFC");
+    QCOMPARE(realPath(root + "/not/there"), root + "/not/there");
+    QVERIFY(std::filesystem::remove((root + "/file\xFC").toStdString()));  // QTemporaryDir cannot
+  }
+
   void theLongestNameIsReplaced() {
     const QTemporaryDir folder;
     const QString name = folder.filePath(QString(85, QChar(0x56FE)));  // 255 bytes

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <utility>
 
 #include "base/atomic_file.h"
@@ -72,11 +71,6 @@ bool bringToDisk(const QByteArray& folder) {
 QByteArray folderOf(const QByteArray& path) {
   if (!path.contains('/')) return ".";
   return path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
-}
-
-QByteArray realPath(const QByteArray& path) {
-  const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.constData(), nullptr), &std::free);
-  return real ? QByteArray(real.get()) : path;
 }
 
 /// What a run that was killed leaves beside its state, and a finished one does not.

@@ -45,8 +45,8 @@ PageText line() {
 class Text : public WindowFixture {
  public:
   /// `instead`: what the engine answers in place of a text.
-  explicit Text(bool hitsElsewhere = false, const QByteArray& instead = {})
-      : c(opened(hitsElsewhere, instead)) {
+  explicit Text(bool hitsElsewhere = false, const QByteArray& instead = {}, int pages = 3)
+      : c(opened(hitsElsewhere, instead, pages)) {
     c.window()->show();
     find = c.findChild<FindCommand*>();
     text = c.findChild<TextCommand*>();
@@ -55,10 +55,10 @@ class Text : public WindowFixture {
       return opens;
     });
   }
-  MainWindowController& opened(bool hitsElsewhere, const QByteArray& instead) {
+  MainWindowController& opened(bool hitsElsewhere, const QByteArray& instead, int pages) {
     MemoryPicture picture;
-    picture.facts.pageBounds = QList<QRectF>(3, QRectF(0, 0, 200, 100));
-    picture.facts.pageCount = 3;
+    picture.facts.pageBounds = QList<QRectF>(pages, QRectF(0, 0, 200, 100));
+    picture.facts.pageCount = pages;
     picture.examine = [hitsElsewhere, instead](const ExamineRequest& request) {
       if (!instead.isEmpty()) return instead;
       const bool hits = request.page == 0 || hitsElsewhere;
@@ -184,6 +184,19 @@ class FindingTest : public QObject {
     QTRY_COMPARE(f.find->bar()->outcome(), QString("Not on this page"));
     emit f.find->bar()->wanted(false);
     QTRY_COMPARE(f.find->bar()->outcome(), QString("Not found"));  // on no other page either
+  }
+
+  void theOnlyPageIsNotGivenUpBeforeItsTextIsRead() {
+    Text f(false, {}, 1);
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Examine);
+    f.own("findInPictureAction")->trigger();
+    f.find->bar()->setNeedle("two");
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    emit f.find->bar()->wanted(false);
+    QCOMPARE(f.find->bar()->outcome(), QString());
+    process->release(PictureCall::Examine);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 1"));
   }
 
   void theBarDoesNotLieOverWhatWasFound() {

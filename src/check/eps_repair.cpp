@@ -122,7 +122,7 @@ class Mending {
 
   /// Data within the header are of it.
   [[nodiscard]] bool isHeader(const ProgramLine& line) const {
-    const bool data = line.part == LinePart::Data && body_ > 0 && isHeaderData_;
+    const bool data = line.part == LinePart::Data && isHeaderData_;
     isHeaderData_ = line.part == LinePart::Header;
     return line.part == LinePart::Header || data;
   }

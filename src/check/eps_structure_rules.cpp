@@ -44,12 +44,10 @@ void checkFirstLine(Findings& findings, const QList<ProgramLine>& lines) {
 
 void checkOrder(Findings& findings, const QList<ProgramLine>& lines) {
   int last = -1;
-  bool headerEnded = false;
   for (const ProgramLine& line : lines) {
-    if (line.part == LinePart::Program) headerEnded = true;
     if (!isStructure(line)) continue;
     const int place = placeOf(line);
-    if (place == 0 && headerEnded && last >= 0) continue;  // told by the end of the header
+    if (place == 0 && last >= 0) continue;  // told by the end of the header
     if (place >= 0 && !mayFollow(place, last)) {
       findings << finding(rule("eps.comments.out-of-order"),
                           QStringLiteral("%1 stands behind %2").arg(nameOfPlace(place), nameOfPlace(last)),

@@ -76,7 +76,7 @@ class Reader {
       }
     if (name == "rgb") {
       if (!node.is_boolean()) return fail(node.source(), QStringLiteral("rgb is true or false"));
-      profile_.limits.rgb = node.value_or(true);
+      profile_.limits.rgb = node.as_boolean()->get();
     } else if (name == "colour-spaces") {
       readColourSpaces(node);
     } else if (name == "column-tolerance-mm") {

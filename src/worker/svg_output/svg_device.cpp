@@ -3,7 +3,6 @@
 #include <GfxState.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "worker/svg_output/svg_device_state.h"

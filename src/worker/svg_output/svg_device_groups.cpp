@@ -2,7 +2,6 @@
 #include <Function.h>
 #include <GfxState.h>
 
-#include <array>
 #include <cmath>
 #include <optional>
 #include <utility>

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "protocol/limits.h"
 #include "worker/svg_output/svg_device.h"

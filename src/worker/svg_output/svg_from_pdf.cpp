@@ -4,7 +4,6 @@
 #include <Stream.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "worker/eps_output/postscript_device.h"
 #include "worker/svg_output/svg_device.h"

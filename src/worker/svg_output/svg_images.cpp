@@ -5,9 +5,7 @@
 #include <Stream.h>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <memory>
 #include <utility>
 
 #include "protocol/limits.h"
@@ -148,8 +146,7 @@ QByteArray SvgImages::elementOf(const SvgPixels& pixels, const QByteArray& attri
     return png.isEmpty() ? QByteArray()
                          : "<image" + sizeAttributes(pixels.width, rows) + attributes +
                                attribute("xlink:href", dataAddress("image/png", png)) + "/>";
-  rows = int(rows / (2 + png.size() / (limits::maximumSvgAttribute / 2)));
-  if (rows < 1) return {};
+  rows = std::max(1, int(rows / (2 + png.size() / (limits::maximumSvgAttribute / 2))));
   QByteArray bands = "<g" + attributes + '>';
   for (int y = 0; y < pixels.height; y += rows) {
     const int height = std::min(rows, pixels.height - y);

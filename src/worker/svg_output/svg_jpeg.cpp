@@ -3,7 +3,6 @@
 #include <GfxState.h>
 #include <Stream.h>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 

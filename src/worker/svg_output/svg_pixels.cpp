@@ -4,7 +4,6 @@
 
 #include <png.h>
 
-#include <algorithm>
 #include <array>
 
 namespace norvex::engine {

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <iterator>
 #include <memory>
 
 #include "protocol/limits.h"
@@ -41,16 +40,8 @@ void setCorner(const Pattern& mesh, unsigned corner, const Rgb& colour) {
   cairo_mesh_pattern_set_corner_color_rgb(mesh.get(), corner, colour.red, colour.green, colour.blue);
 }
 
-quint32 straight(quint32 premultiplied) {
-  const quint32 alpha = premultiplied >> 24;
-  if (alpha == 0 || alpha == 255) return alpha == 0 ? 0 : premultiplied;
-  const auto part = [&](int shift) {
-    return std::min<quint32>(255, ((premultiplied >> shift & 255) * 255 + alpha / 2) / alpha) << shift;
-  };
-  return alpha << 24 | part(16) | part(8) | part(0);
-}
-
-// The pixels that `pattern`, in the shading's space, paints on `part` of the page.
+// The pixels that `pattern`, in the shading's space, paints on `part` of the page. Meshes and circles paint a
+// pixel fully or not at all, so that what is premultiplied is straight as well.
 std::optional<ShadingImage> painted(const Pattern& pattern, const AffineTransform& matrix,
                                     const QRectF& part) {
   if (part.isEmpty() || !matrix.isFinite()) return std::nullopt;
@@ -74,8 +65,7 @@ std::optional<ShadingImage> painted(const Pattern& pattern, const AffineTransfor
   image.pixels = {size.width(), size.height(), {}};
   image.pixels.argb.reserve(size_t(size.width()) * size_t(size.height()));
   for (int y = 0; y < size.height(); ++y)
-    std::transform(bitmap->row(y), bitmap->row(y) + size.width(), std::back_inserter(image.pixels.argb),
-                   straight);
+    image.pixels.argb.insert(image.pixels.argb.end(), bitmap->row(y), bitmap->row(y) + size.width());
   image.toPage = AffineTransform::fromScale(1 / scale, 1 / scale) *
                  AffineTransform::fromTranslate(part.left(), part.top());
   image.dpi = scale * 72;

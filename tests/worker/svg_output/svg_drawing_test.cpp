@@ -83,6 +83,8 @@ class SvgDrawingTest : public QObject {
     row("clipped", page("100 10 m 180 90 l 20 90 l h W n 0.2 0.2 0.8 rg 0 0 200 100 re f"));
     row("clipped twice",
         page("40 0 120 100 re W n 100 0 m 200 100 l 0 100 l h W* n 1 0 0 rg 0 0 200 100 re f"));
+    row("clipped by a curve",
+        page("0 0 m 0 130 200 130 200 0 c 0 0 l h W n 0.2 0.2 0.8 rg 0 0 200 100 re f"));
     row("turned", page("q 0.8 0.6 -0.6 0.8 60 -20 cm 0 0.6 0.6 rg 20 20 120 40 re f Q"));
     row("axial", shading("/ShadingType 2 /Coords [40 0 160 60] /Extend [true true] /Function " + kBent));
     row("axial that ends", shading("/ShadingType 2 /Coords [50 0 150 0] /Function " + kRedToBlue));
@@ -154,6 +156,10 @@ class SvgDrawingTest : public QObject {
                      "/ColorSpace /DeviceGray /Mask [1 2]")}));
     row("stencil", page("0 0 0.8 rg q 160 0 0 80 20 10 cm BI /W 4 /H 2 /IM true /BPC 1 ID \xa0\x50 EI Q"));
     row("soft mask", page("/Mask gs 0.8 0 0 rg 10 10 180 80 re f"));
+    row("soft mask with a transfer function",
+        page("/Bent gs 0.8 0 0 rg 10 10 180 80 re f",
+             "/ExtGState << /Bent << /SMask << /S /Luminosity /G 6 0 R /TR << /FunctionType 2 /Domain [0 1] "
+             "/C0 [1] /C1 [0] /N 1 >> >> >> >>"));
     row("soft mask of a group", page("/Mask gs /Group Do"));
     row("mask of opacity",
         onePage(
@@ -174,6 +180,10 @@ class SvgDrawingTest : public QObject {
                                        "60 re f"));
     row("blended group", page("1 1 0 rg 20 20 120 60 re f /Multiply gs /Group Do"));
     row("text", page("0.2 0.2 0.2 rg BT /F 40 Tf 10 50 Td (Words,) Tj 0 -40 Td 80 Tz 3 Tc (words) Tj ET"));
+    row("text narrower than the font that stands in",
+        page("BT /N 60 Tf 10 30 Td (mmmm) Tj ET",
+             "/Font << /N << /Type /Font /Subtype /TrueType /BaseFont /NobodyHasIt /FirstChar 109 /LastChar "
+             "109 /Widths [500] /Encoding /WinAnsiEncoding >> >>"));
     row("text aslant", page("BT /F 40 Tf 0.9 0.3 -0.3 0.9 20 20 Tm (Words) Tj ET"));
     row("text in outline", page("2 w 1 0 0 RG 1 1 0 rg BT /F 70 Tf 2 Tr 10 30 Td (Svg) Tj ET"));
     row("text that clips", page("BT /F 80 Tf 7 Tr 10 20 Td (Svg) Tj ET 0 0.5 1 rg 0 0 200 60 re f"));

@@ -137,6 +137,18 @@ class SvgFromPdfTest : public QObject {
     QCOMPARE(made.count("clip-path"), 0);
   }
 
+  void cellsThatAbutAreAPatternWhereverTheirBoxStands() {
+    const auto made = [](const QByteArray& box) {
+      return MadeSvg(
+          page("/Pattern cs /P scn 10 10 180 80 re f", "/Pattern << /P 6 0 R >>",
+               {stream("1 0.5 0 rg 0 4 8 8 re f", "/PatternType 1 /PaintType 1 /TilingType 1 /BBox [" + box +
+                                                      "] /XStep 12 /YStep 9 /Resources << >>")}));
+    };
+    QCOMPARE(made("0 4 12 13").count("<pattern"), 1);
+    QCOMPARE(made("3 0 15 9").count("<pattern"), 1);
+    QCOMPARE(made("0 4 12 12").count("<pattern"), 0);  // they do not
+  }
+
   void stopsOfASpotColourHaveTheColourThatStandsForIt() {
     const MadeSvg made(page("/A sh",
                             "/Shading << /A << /ShadingType 2 /Extend [true true] /ColorSpace [/Separation "

@@ -55,6 +55,26 @@ MadeSvg fourPixels(const QByteArray& size, const QByteArray& more = {}) {
 class SvgImagesTest : public QObject {
   Q_OBJECT
  private slots:
+  // They are no mixture with what is beside them.
+  void thePixelsOfCirclesHaveTheirColourUpToTheEdge() {
+    const MadeSvg made(
+        page("/S sh",
+             "/Shading << /S << /ShadingType 3 /ColorSpace /DeviceRGB /Coords [50 50 10 150 50 "
+             "30] /Function << /FunctionType 2 /Domain [0 1] /C0 [1 0.5 0] /C1 [1 0.5 0] /N 1 "
+             ">> >> >>",
+             {}));
+    const QImage image = held(made);
+    QVERIFY(!image.isNull());
+    int clear = 0, full = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) {
+        const QColor colour = image.pixelColor(x, y);
+        ++(colour.alpha() == 0 ? clear : full);
+        if (colour.alpha() > 0) QCOMPARE(colour.rgba(), qRgb(255, 128, 0));  // opaque
+      }
+    QVERIFY(clear > 100 && full > 100);
+  }
+
   // Readers smooth what is enlarged: pixels that are seen as squares are there often enough to stay some.
   void pixelsSeenAsSquaresAreRepeated() {
     QCOMPARE(held(fourPixels("100 0 0 100")).size(), QSize(500, 500));

@@ -80,6 +80,15 @@ class SvgWritingTest : public QObject {
     QCOMPARE(writer.take().data, "M0 0c0 5 5 10 10 10s10-5 10-10");
   }
 
+  void aCurveBehindALineGoesOnFromWhereThatEnds() {
+    SvgPathWriter writer(0);
+    writer.moveTo({0, 0});
+    writer.curveTo({0, 5}, {5, 10}, {10, 10});
+    writer.lineTo({20, 20});
+    writer.curveTo({20, 20}, {30, 20}, {30, 10});
+    QCOMPARE(writer.take().data, "M0 0c0 5 5 10 10 10l10 10s10 0 10-10");
+  }
+
   void roundingErrorsDoNotAddUp() {
     SvgPathWriter writer(1);
     writer.moveTo({0, 0});

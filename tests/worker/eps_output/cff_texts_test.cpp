@@ -60,6 +60,12 @@ class CffTextsTest : public QObject {
     QCOMPARE(forReading(named(34, 35), {}, entry(kFirstOwn, "\x0c\x15")), std::set<int>{1});
   }
 
+  void theDigitsOfARealNumberAreNoOperators() {
+    const QByteArray real("\x1e\x0b\x11\x0e\x5f", 5);
+    const QByteArray dict = real + "\x0c\x07" + entry(99, "\x11");
+    QCOMPARE(cffOperands(dict), (std::map<int, qint64>{{cffEscape | 7, 0}, {CffCharStrings, 99}}));
+  }
+
   // Places in a list take one to four bytes.
   void aListWithPlacesOfOtherSizesIsDamaged() {
     const auto isList = [](int size) {
@@ -77,6 +83,8 @@ class CffTextsTest : public QObject {
 
   void damageLeavesEverything() {
     QCOMPARE(forReading(named(34, 35).left(3)), std::set<int>());
+    const QByteArray withoutOutlines = entry(kFirstOwn, "\1") + entry(8, "\x0f");
+    QCOMPARE(textsForReading(QByteArray(8, '\0') + named(34, 35), withoutOutlines, 2), std::set<int>());
     QCOMPARE(forReading('\3' + named(34, 35)), std::set<int>());
   }
 };

@@ -330,6 +330,19 @@ class EpsFromPdfTest : public QObject {
     QVERIFY(differingRegions(one, *Bitmap::create({1, 1})).isEmpty());
   }
 
+  void whatHasACellBetweenStaysApart() {
+    const auto regionsOf = [](QPoint first, QPoint second) {
+      const Bitmap one = *Bitmap::create({24, 24});
+      Bitmap other = *Bitmap::create(one.size());
+      for (const QPoint& place : {first, second}) other.row(place.y())[place.x()] = 0xff000000;
+      return differingRegions(one, other);
+    };
+    QCOMPARE(regionsOf({4, 4}, {20, 4}), (QList<QRect>{{0, 0, 8, 8}, {16, 0, 8, 8}}));
+    QCOMPARE(regionsOf({4, 4}, {4, 20}), (QList<QRect>{{0, 0, 8, 8}, {0, 16, 8, 8}}));
+    QCOMPARE(regionsOf({20, 4}, {4, 12}), (QList<QRect>{{16, 0, 8, 8}, {0, 8, 8, 8}}));
+    QCOMPARE(regionsOf({12, 4}, {4, 12}), (QList<QRect>{{0, 0, 16, 16}}));
+  }
+
   void regionsAreDisjointAndCoverEveryDifference() {
     const Bitmap one = *Bitmap::create({300, 200});
     Bitmap other = *Bitmap::create(one.size());

@@ -92,6 +92,19 @@ class FontThinningTest : public QObject {
     QCOMPARE(thin->size(), cff({"none", "first", "second", "third"}).size());
   }
 
+  // Bytes behind it may look like an operator.
+  void theDictionaryEndsWhereItsListDoes() {
+    const QList<QByteArray> glyphs{"none", "first", "second", "third"};
+    QByteArray font = cff(glyphs);
+    const qsizetype outlines = font.size() - kit::cffIndex(glyphs).size();
+    font.insert(outlines, QByteArray("\x8b\x11").repeated(40));
+    const QByteArray place = '\x1d' + kit::bigEndian(quint32(outlines), 4) + char(17);
+    font.replace(place, '\x1d' + kit::bigEndian(quint32(outlines) + 80, 4) + char(17));
+    const auto thin = thinnedFont(font, {2});
+    QVERIFY(thin);
+    QVERIFY(thin->contains(kit::cffIndex({"none", "\x0e", "second", "\x0e"})));
+  }
+
   void nothingIsDoneWhereNothingIsSpared() {
     QVERIFY(!thinnedFont(trueType(kOutlines), {0, 1, 2, 3, 4, 5}));
     QVERIFY(!thinnedFont(cff({"none", "first"}), {1}));

@@ -79,6 +79,16 @@ class Type1FontTest : public QObject {
     QCOMPARE(font->outlines.size(), size_t(2));
   }
 
+  void anEncodingWithoutEndEndsWhereTheEncryptedPartBegins() {
+    kit::Type1Parts parts = madeType1();
+    const qsizetype end = parts.clear.indexOf("readonly def", parts.clear.indexOf("/Encoding"));
+    parts.clear = parts.clear.left(end) + "currentfile eexec\n";
+    const auto font = readType1Font(programOf(parts));
+    QVERIFY(font);
+    QCOMPARE(font->encoding->at(65), QByteArray("A"));
+    QCOMPARE(font->outlines.size(), size_t(2));
+  }
+
   void valuesThatAreNoNumbersAreLeftBehind() {
     const kit::MadeType1 odd{"Square", "/FontMatrix [0.5 0 0 HOSTILE 0 0] def\n/PaintType HOSTILE def\n",
                              "/BlueScale HOSTILE def\n/StdHW [HOSTILE] def\n", "A"};

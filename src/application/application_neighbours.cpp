@@ -4,9 +4,6 @@
 #include <QMainWindow>
 #include <QMenu>
 
-#include <algorithm>
-#include <optional>
-
 #include "application/document_application.h"
 #include "application/folder_neighbours.h"
 #include "base/localized_string.h"

@@ -2,7 +2,6 @@
 
 #include <QFileInfo>
 
-#include <memory>
 #include <optional>
 #include <utility>
 

@@ -1,8 +1,6 @@
 // The writing half of Document: which producer makes the bytes of a type, and the one question that is asked.
 #include <QFileInfo>
 
-#include <array>
-
 #include "base/atomic_file.h"
 #include "base/bundle.h"
 #include "base/localized_string.h"

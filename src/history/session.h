@@ -5,8 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <memory>
-
 #include "base/file_descriptor.h"
 
 namespace norvex {

@@ -3,7 +3,6 @@
 #include <unicode/ucnv.h>
 
 #include <array>
-#include <limits>
 #include <memory>
 
 #include "base/non_lossy_ascii.h"

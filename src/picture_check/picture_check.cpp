@@ -5,7 +5,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "base/time_limit.h"

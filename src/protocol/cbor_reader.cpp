@@ -2,7 +2,6 @@
 
 #include <QCborStreamReader>
 
-#include <algorithm>
 #include <cmath>
 
 #include "protocol/cbor_clock.h"

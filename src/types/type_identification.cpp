@@ -3,7 +3,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <array>
 
 #include "base/blanks.h"
 #include "types/gzip_mark.h"

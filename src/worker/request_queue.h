@@ -6,7 +6,6 @@
 #include <deque>
 #include <mutex>
 #include <optional>
-#include <thread>
 
 #include "base/cancel_token.h"
 #include "protocol/message_channel.h"

@@ -4,8 +4,6 @@
 #include <QByteArray>
 #include <QString>
 
-#include <optional>
-
 #include "cli/archive/names/listed_name.h"
 #include "cli/archive/state/run_entry.h"
 #include "cli/arguments/exit_code.h"

@@ -5,8 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
-
 #include "cli/arguments/command_table.h"
 
 namespace norvex {

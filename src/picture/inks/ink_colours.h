@@ -3,8 +3,6 @@
 
 #include <QRgb>
 
-#include <array>
-
 #include "protocol/page_inks.h"
 
 namespace norvex {

@@ -14,7 +14,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <string>
 
 #include "base/localized_string.h"
 #include "check/mending.h"

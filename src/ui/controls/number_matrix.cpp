@@ -8,7 +8,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 #include "base/localized_string.h"
 #include "ui/controls/value_copying.h"

@@ -11,8 +11,6 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 #include "base/localized_string.h"
 #include "ui/panels/centred_window.h"
 #include "ui/panels/own_shortcuts.h"

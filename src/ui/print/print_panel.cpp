@@ -16,7 +16,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <utility>
 
 #include "base/localized_string.h"
 #include "picture/localized_error.h"

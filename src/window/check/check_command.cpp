@@ -5,8 +5,6 @@
 #include <QMainWindow>
 #include <QTabWidget>
 
-#include <utility>
-
 #include "base/background_work.h"
 #include "base/localized_string.h"
 #include "base/sentence.h"

@@ -4,7 +4,6 @@
 #include <QObject>
 
 #include <functional>
-#include <memory>
 #include <optional>
 
 #include "window/commands/picture_formats.h"

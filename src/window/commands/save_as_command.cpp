@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <exception>
 #include <new>
-#include <utility>
 
 #include "base/background_work.h"
 #include "base/localized_string.h"

@@ -2,8 +2,6 @@
 
 #include <QSettings>
 
-#include <algorithm>
-
 #include "base/latin1_text.h"
 #include "base/state_folder.h"
 

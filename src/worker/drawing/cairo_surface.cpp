@@ -5,7 +5,6 @@
 #include <cairo-pdf.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "protocol/limits.h"
 

@@ -1,6 +1,5 @@
 #include "worker/examine/operands.h"
 
-#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>

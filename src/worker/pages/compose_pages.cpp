@@ -6,8 +6,6 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 
-#include <optional>
-
 #include "worker/pages/sheet_lines.h"
 #include "worker/pdf/page_form.h"
 #include "worker/pdf/pdf_attributes.h"

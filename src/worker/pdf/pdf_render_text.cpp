@@ -7,7 +7,6 @@
 
 #include <QStringDecoder>
 
-#include <algorithm>
 #include <cmath>
 #include <memory>
 

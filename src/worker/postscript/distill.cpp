@@ -3,10 +3,8 @@
 #include <QElapsedTimer>
 #include <QRegularExpression>
 
-#include <algorithm>
 #include <optional>
 #include <utility>
-#include <vector>
 
 #include "protocol/limits.h"
 #include "protocol/program_stop.h"

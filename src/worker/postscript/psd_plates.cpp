@@ -3,8 +3,6 @@
 #include <QStringDecoder>
 
 #include <algorithm>
-#include <array>
-#include <utility>
 
 #include "protocol/limits.h"
 

@@ -4,8 +4,6 @@
 
 #include <zlib.h>
 
-#include <algorithm>
-
 #include "protocol/limits.h"
 
 namespace norvex::engine {

@@ -8,7 +8,6 @@
 #include <cmath>
 #include <exception>
 #include <functional>
-#include <memory>
 
 #include "protocol/limits.h"
 #include "worker/drawing/cairo_surface.h"

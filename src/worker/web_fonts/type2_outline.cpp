@@ -1,7 +1,6 @@
 #include "worker/web_fonts/type2_outline.h"
 
 #include <cmath>
-#include <utility>
 
 namespace norvex::engine {
 namespace {

@@ -2,7 +2,6 @@
 
 #include <QList>
 
-#include <algorithm>
 #include <cmath>
 
 namespace norvex::engine {

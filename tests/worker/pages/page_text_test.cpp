@@ -129,6 +129,30 @@ class PageTextTest : public QObject {
     told.sort();
     QCOMPARE(told, QStringList({" 0 60", "https://example.org/?a=1 -1 20"}));
   }
+
+  void linksToPagesThatAreNotThereLeadNowhere() {
+    const auto linksTo = [this](const QByteArray& page) {
+      return textOf(PictureKind::Pdf, pdfWith("", "/MediaBox [0 0 200 100] /Annots [6 0 R]",
+                                              {"<< /Type /Annot /Subtype /Link /Rect [10 20 60 40] /Dest [" +
+                                               page + " /Fit] >>"}))
+          .links.size();
+    };
+    QCOMPARE(linksTo("0"), 1);
+    QCOMPARE(linksTo("1"), 0);
+    QCOMPARE(linksTo("70000"), 0);
+  }
+
+  void linksFarOutsideLeadNowhere() {
+    const auto linksIn = [this](const QByteArray& rect) {
+      return textOf(PictureKind::Pdf, pdfWith("", "/MediaBox [0 0 200 100] /Annots [6 0 R]",
+                                              {"<< /Type /Annot /Subtype /Link /Rect [" + rect +
+                                               "] /A << /S /URI /URI (https://example.org/) >> >>"}))
+          .links.size();
+    };
+    QCOMPARE(linksIn("10 20 60 40"), 1);
+    for (const char* far : {"10 20 1e30 40", "10 20 60 1e30", "10 -1e30 60 40", "-1e30 20 60 40"})
+      QCOMPARE(linksIn(far), 0);
+  }
 };
 
 }  // namespace

@@ -64,6 +64,8 @@ class PdfFactsTest : public QObject {
         << QByteArray("/MediaBox [0 0 200 100] /Rotate 45") << QRectF(0, 0, 200, 100);
     QTest::newRow("user unit") << QByteArray("/MediaBox [10 0 210 100] /UserUnit 2")
                                << QRectF(20, 0, 400, 200);
+    QTest::newRow("a user unit of nothing")
+        << QByteArray("/MediaBox [0 0 200 100] /UserUnit 0") << QRectF(0, 0, 200, 100);
     QTest::newRow("no box at all") << QByteArray("") << QRectF(0, 0, 612, 792);
     QTest::newRow("an empty box") << QByteArray("/MediaBox [5 5 5 5]") << QRectF(0, 0, 612, 792);
     QTest::newRow("a box of words") << QByteArray("/MediaBox [/a /b /c /d]") << QRectF(0, 0, 612, 792);
@@ -279,6 +281,16 @@ class PdfFactsTest : public QObject {
                                              "DeviceGray", "Lab", "DeviceRGB", "ICCBased CMYK"}));
     QVERIFY(namesOf(onePage("0 0 1 1 re")).fonts.isEmpty());
     QVERIFY(namesOf(onePage("0 0 1 1 re")).colorSpaces.isEmpty());
+  }
+
+  void aNameIsToldOnce() {
+    const PageNames names = namesOf(
+        onePage("1 0 0 rg",
+                "/MediaBox [0 0 9 9] /Resources << /ColorSpace << /S /DeviceRGB >> /Font << "
+                "/A 5 0 R /B 6 0 R >> >>",
+                {"<< /Type /Font /BaseFont /Helvetica >>", "<< /Type /Font /BaseFont /Helvetica >>"}));
+    QCOMPARE(names.fonts, QStringList{"Helvetica"});
+    QCOMPARE(names.colorSpaces, QStringList{"DeviceRGB"});
   }
 
   void namesAreNotLookedForWhereNobodyAsks() {

@@ -39,6 +39,17 @@ QStringList fontsBelow(int depth) {
   return namesOf(onePage("", kBox + " /Resources << /XObject << /F 6 0 R >> >>", forms)).fonts;
 }
 
+/// The same, of patterns.
+QStringList fontsInPatterns(int depth) {
+  QList<QByteArray> patterns{"<< /Type /Font /BaseFont /Deep >>"};
+  for (int i = 1; i <= depth; ++i)
+    patterns << stream("", "/PatternType 1 /Resources << " +
+                               (i < depth ? "/Pattern << /P " + QByteArray::number(i + 6) + " 0 R >>"
+                                          : QByteArray("/Font << /A 5 0 R >>")) +
+                               " >>");
+  return namesOf(onePage("", kBox + " /Resources << /Pattern << /P 6 0 R >> >>", patterns)).fonts;
+}
+
 /// Graphics states by the thousand before a form with a font.
 QStringList fontsBehind(int states) {
   QByteArray many;
@@ -50,11 +61,10 @@ QStringList fontsBehind(int states) {
       .fonts;
 }
 
-int dictionariesIn(int depth) {
+/// How many dictionaries with /Here are found within arrays or others, each within the next.
+int dictionariesIn(int depth, const QByteArray& begin = "[", const QByteArray& end = "]") {
   const QByteArray pdf = onePage(
-      "", kBox,
-      {QByteArray("[").repeated(depth - 1) + "<< /Here true >>" + QByteArray("]").repeated(depth - 1)},
-      "/Extra 5 0 R");
+      "", kBox, {begin.repeated(depth - 1) + "<< /Here true >>" + end.repeated(depth - 1)}, "/Extra 5 0 R");
   auto file = PdfFile::open(pdf);
   int found = 0;
   if (file)
@@ -98,6 +108,20 @@ class PdfLimitsTest : public QObject {
   void resourcesWithinResourcesHaveAnEnd() {
     QCOMPARE(fontsBelow(limits::maximumResourceDepth), QStringList{"Deep"});
     QCOMPARE(fontsBelow(limits::maximumResourceDepth + 1), QStringList());
+    QCOMPARE(fontsInPatterns(limits::maximumResourceDepth), QStringList{"Deep"});
+    QCOMPARE(fontsInPatterns(limits::maximumResourceDepth + 1), QStringList());
+  }
+
+  void theInksOfASpaceAreNamedUpToANumber() {
+    QByteArray inks;
+    for (int i = 1; i <= 33; ++i) inks += " /I" + QByteArray::number(i);
+    const QStringList spaces = namesOf(onePage("",
+                                               kBox + " /Resources << /ColorSpace << /N [/DeviceN [" + inks +
+                                                   "] /DeviceCMYK 5 0 R] >> >>",
+                                               {"<< /FunctionType 2 >>"}))
+                                   .colorSpaces;
+    QCOMPARE(spaces.size(), 1);
+    QVERIFY2(spaces.first().endsWith(", I32"), qPrintable(spaces.first()));
   }
 
   void resourcesWithoutEndAreNotSearched() {
@@ -108,6 +132,8 @@ class PdfLimitsTest : public QObject {
   void objectsWithinObjectsHaveAnEnd() {
     QCOMPARE(dictionariesIn(limits::maximumObjectDepth), 1);
     QCOMPARE(dictionariesIn(limits::maximumObjectDepth + 2), 0);
+    QCOMPARE(dictionariesIn(limits::maximumObjectDepth, "<< /D ", " >>"), 1);
+    QCOMPARE(dictionariesIn(limits::maximumObjectDepth + 2, "<< /D ", " >>"), 0);
   }
 
   void aTextOfTheInformationIsCut() {

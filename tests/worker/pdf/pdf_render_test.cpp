@@ -97,6 +97,20 @@ class PdfRenderTest : public QObject {
     QCOMPARE(image.pixel(150, 50), 0u);
   }
 
+  /// As a turned picture of several tiles has them: each edge alone would let a quarter through.
+  void tilesThatMeetAslantShowNoSeam() {
+    const auto tile = [](const QByteArray& box) {
+      return "q 0.8 0.6 -0.6 0.8 100 50 cm " + box + " re W n 1 0 0 rg -50 -50 100 100 re f Q ";
+    };
+    const QImage image =
+        rendered(onePage(tile("-30 -30 30.3 60") + tile("0.3 -30 30 60")), whole({200, 100}));
+    for (int along = -25; along <= 25; ++along) {  // the line where they meet
+      const int alpha = qAlpha(image.pixel(int(100.24 - 0.6 * along), int(49.82 - 0.8 * along)));
+      QVERIFY2(alpha > 250, qPrintable(QString::number(alpha)));
+    }
+    QCOMPARE(image.pixel(0, 0), 0u);
+  }
+
   void outsideThePageIsTransparent() {
     RenderRequest request = whole({200, 100});
     request.pixelSize = QSize(300, 200);

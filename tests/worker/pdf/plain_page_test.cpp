@@ -64,6 +64,9 @@ class PlainPageTest : public QObject {
     QByteArray texts;
     for (int i = 0; i < 8000; ++i) texts += "BT /F 9 Tf 10 20 Td (text and more) Tj ET\n";
     QVERIFY(!isPlain(onePage(texts + lines(8000))));
+    const QByteArray fewer = texts.left(texts.size() / 4);  // four lines for each
+    QVERIFY(!isPlain(onePage(fewer + lines(8000))));
+    QVERIFY(isPlain(onePage(fewer + lines(8001))));
   }
 
   void shortContentsAreNotLong() { QVERIFY(!isPlain(onePage(lines(800)))); }

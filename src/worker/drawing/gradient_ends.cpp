@@ -25,7 +25,7 @@ std::vector<Stop> stopsOf(cairo_pattern_t* pattern) {
 
 /// How far a gradient is to reach, in parts of its own length: 0 and 1 are where it begins and ends.
 struct Reach {
-  double first = 0, last = 1;
+  double first, last;
 };
 
 CairoPattern linear(cairo_pattern_t* pattern, const Reach& reach) {

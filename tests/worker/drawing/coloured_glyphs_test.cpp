@@ -16,6 +16,7 @@ namespace {
 constexpr unsigned long kOpen = 0, kRed = 1, kRedShape = 2;
 constexpr unsigned long kFailing = 3, kFlat = 4;
 constexpr unsigned long kRedRow = 5, kRedColumn = 6;  ///< shapes whose box is flat
+constexpr unsigned long kRedBelow = 7;                ///< stands below the line, as commas do
 int drawings = 0;
 int drawingsInVain = 0;  ///< with a font that cannot be used
 
@@ -27,7 +28,7 @@ cairo_status_t drawGlyph(cairo_scaled_font_t* font, unsigned long glyph, cairo_t
   if (glyph == kFailing) return CAIRO_STATUS_USER_FONT_ERROR;
   if (glyph == kFlat) cairo_scale(context, 1, 0);
   if (glyph != kOpen) cairo_set_source_rgb(context, 1, 0, 0);
-  cairo_rectangle(context, 0, -0.5, 0.5, 0.5);
+  cairo_rectangle(context, 0, glyph == kRedBelow ? 0.05 : -0.5, 0.5, 0.5);
   cairo_fill(context);
   extents->x_advance = 1;
   if (glyph == kRedShape) extents->y_bearing = -0.5, extents->width = extents->height = 0.5;
@@ -159,6 +160,12 @@ class ColouredGlyphsTest : public QObject {
     const Face face = madeFace();
     QCOMPARE(shown(face, kRed, true), 0xFFFF0000u);
     QCOMPARE(shown(face, kRed, false), 0xFF0000FFu);  // what becomes of it otherwise
+  }
+
+  void soDoesOneThatStandsBelowTheLine() {
+    const Face face = madeFace();
+    const cairo_matrix_t raised{20, 0, 0, 20, 0, -8};
+    QCOMPARE(shown(face, kRedBelow, true, 1, raised), 0xFFFF0000u);
   }
 
   void aGlyphWithoutColoursTakesTheChosenOne() {

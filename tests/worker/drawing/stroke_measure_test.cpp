@@ -124,6 +124,20 @@ class StrokeMeasureTest : public QObject {
     QCOMPARE(page.ofCurve(400, 600), kElsewhere);
   }
 
+  void fourSlantedSidesAreAShape() {
+    for (const double slant : {0., 50.}) {
+      const PdfPage page;
+      page.clipTo([slant](cairo_t* context) {
+        cairo_move_to(context, 0, 0);
+        cairo_line_to(context, 0, 1000);
+        cairo_line_to(context, 1000, 1000 - slant);
+        cairo_line_to(context, 1000, 0);
+        cairo_close_path(context);
+      });
+      QCOMPARE(page.ofCurve(400, 600), slant > 0 ? kElsewhere : kInside);
+    }
+  }
+
   void twoRectanglesAreAShape() {
     const PdfPage page;
     page.clipTo([](cairo_t* context) {

@@ -63,7 +63,7 @@ bool tokens(const QByteArray& bytes) {
     require(token.end >= 0 && token.end < all.size(), "an end tag is one of the tokens");
     if (token.kind != SvgTokenKind::StartTag && token.kind != SvgTokenKind::EmptyTag) continue;
     require(tagName(bytes, token).size() < token.length, "a name is shorter than its tag");
-    for (const SvgAttribute& attribute : tagAttributes(bytes, token))
+    for (const TagAttribute& attribute : tagAttributes(bytes, token))
       require(attribute.all.size() <= token.length && attribute.value.size() < attribute.all.size() &&
                   attribute.name.size() < attribute.all.size(),
               "an attribute is a part of its tag");

@@ -1,6 +1,7 @@
 // Sizes and forms that every source keeps.
 #include <QDirIterator>
 #include <QFile>
+#include <QHash>
 #include <QRegularExpression>
 
 #include "kit/test_main.h"
@@ -64,6 +65,30 @@ class SourcesTest : public QObject {
       if (text.contains(beside) && !path.contains(QStringLiteral("/base/background_"))) wrong << path;
     }
     QVERIFY2(users.size() > 10, "looked for in the wrong place");
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+  }
+
+  /// Two types of one name in one namespace are one to the linker, and either may get what is the other's.
+  void noTwoTypesHaveOneName() {
+    static const QRegularExpression known(
+        QStringLiteral(
+            "^namespace (?<space>[\\w:]+) \\{|^(?:class|struct|enum class|enum) (?<type>\\w+)(?= )[^;{]*\\{"),
+        QRegularExpression::MultilineOption);
+    QHash<QString, QString> homes;
+    QStringList wrong;
+    for (const QString& path : files("src", {"*.h"})) {
+      const QString text = QString::fromUtf8(contents(path));
+      QString space;
+      for (auto match = known.globalMatch(text); match.hasNext();) {
+        const QRegularExpressionMatch found = match.next();
+        if (found.hasCaptured(u"space")) space = found.captured(u"space");
+        if (!found.hasCaptured(u"type")) continue;
+        QString& home = homes[space + QStringLiteral("::") + found.captured(u"type")];
+        if (!home.isEmpty()) wrong << path + QStringLiteral(" and ") + home;
+        home = path;
+      }
+    }
+    QVERIFY2(homes.size() > 400, "looked for in the wrong place");
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
   }
 

@@ -107,7 +107,7 @@ QByteArray Wrapper::before() const {
 }
 
 bool Wrapper::turnsInside() const {
-  for (const SvgAttribute& old : tagAttributes(text_, root_))
+  for (const TagAttribute& old : tagAttributes(text_, root_))
     if (old.name == "transform" || (old.name == "style" && old.value.contains("transform"))) return true;
   return false;
 }
@@ -161,7 +161,7 @@ QByteArray Wrapper::rootTag() const {
   QByteArray style;
   bool hasStyle = false;
   bool hasViewBox = false;
-  for (const SvgAttribute& old : tagAttributes(text_, root_)) {
+  for (const TagAttribute& old : tagAttributes(text_, root_)) {
     if (old.name == "style") {
       style = old.value.toByteArray();
       hasStyle = true;

@@ -45,7 +45,7 @@ class Indenter {
 };
 
 bool Indenter::preserves(const SvgToken& tag) const {
-  for (const SvgAttribute& attribute : tagAttributes(text_, tag))
+  for (const TagAttribute& attribute : tagAttributes(text_, tag))
     if (attribute.name == "xml:space") return attribute.value == "preserve";
   return false;
 }

@@ -126,9 +126,9 @@ QByteArrayView tagName(const QByteArray& utf8, const SvgToken& token) {
   return tag.sliced(from, to - from);
 }
 
-QList<SvgAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token) {
+QList<TagAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token) {
   const QByteArrayView tag = QByteArrayView(utf8).sliced(token.start, token.length);
-  QList<SvgAttribute> attributes;
+  QList<TagAttribute> attributes;
   qsizetype i = 1 + tagName(utf8, token).size();
   for (;;) {
     while (i < tag.size() && isXmlSpace(tag[i])) ++i;

@@ -36,12 +36,12 @@ struct SvgToken {
 [[nodiscard]] QByteArrayView tagName(const QByteArray& utf8, const SvgToken& token);
 
 /// One attribute of a tag, as written.
-struct SvgAttribute {
+struct TagAttribute {
   QByteArrayView name;
   QByteArrayView value;  ///< without the quotes
   QByteArrayView all;    ///< from the name to the closing quote
 };
-[[nodiscard]] QList<SvgAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token);
+[[nodiscard]] QList<TagAttribute> tagAttributes(const QByteArray& utf8, const SvgToken& token);
 
 /// True if there is nothing but blanks and line ends, literally.
 [[nodiscard]] bool isBlank(QByteArrayView text);

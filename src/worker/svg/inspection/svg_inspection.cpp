@@ -14,7 +14,7 @@
 #include "worker/svg/inspection/svg_attribute_count.h"
 #include "worker/svg/inspection/svg_attributes.h"
 #include "worker/svg/inspection/svg_entities.h"
-#include "worker/svg/inspection/svg_fonts.h"
+#include "worker/svg/inspection/svg_font_families.h"
 #include "worker/svg/inspection/svg_nesting.h"
 #include "worker/svg/inspection/svg_stretching.h"
 #include "worker/svg/inspection/svg_text_sizes.h"
@@ -69,7 +69,7 @@ class Inspector {
   SvgInspection found_;
   SvgNesting nesting_;
   SvgAttributes attributes_{found_, nesting_};
-  SvgFonts fonts_;
+  SvgFontFamilies fonts_;
   SvgStretching stretching_;
   SvgTextSizes sizes_;
   QString styleSheet_;

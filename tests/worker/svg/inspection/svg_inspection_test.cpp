@@ -171,7 +171,8 @@ class SvgInspectionTest : public QObject {
     QVERIFY(!inspectSvg(svgOf("", "<text>a</text>"))->needsHugeParser);
     QVERIFY(inspectSvg(svgOf("", "<text>" + QByteArray(11 << 20, 'a') + "</text>"))->needsHugeParser);
     QVERIFY(inspectSvg(svgOf("id='" + QByteArray(11 << 20, 'a') + "'", ""))->needsHugeParser);
-    QVERIFY(inspectSvg(svgOf("", nested(300)))->needsHugeParser);
+    QVERIFY(!inspectSvg(svgOf("", nested(239)))->needsHugeParser);  // the root is a level
+    QVERIFY(inspectSvg(svgOf("", nested(240)))->needsHugeParser);
   }
 
   void layersAreSeen() {
@@ -183,6 +184,15 @@ class SvgInspectionTest : public QObject {
           "<g style='mix-blend-mode:screen'/>", "<g style='/* faint */opacity/**/:0.5'/>",
           "<clipPath clipPathUnits='objectBoundingBox'/>", "<style>g{}</style>"})
       QVERIFY2(inspectSvg(svgOf("", contents))->hasLayers, contents);
+  }
+
+  void blanksAroundWhatItSaysOfItselfAreNoneOfIt() {
+    const auto told = inspectSvg(svgOf("", "<title>\n  A\n title </title><desc> two\n lines\n</desc>"));
+    QVERIFY(told);
+    QCOMPARE(told->title, QString("A title"));
+    QCOMPARE(told->description, QString("two\n lines"));
+    const auto nothing = inspectSvg(svgOf("", ""));
+    QVERIFY(nothing->title.isNull() && nothing->description.isNull());
   }
 
   void brokenXmlTellsItsLine() {

@@ -25,6 +25,7 @@ class SvgLengthTest : public QObject {
     QTest::newRow("ex") << "2ex" << 12.0;
     QTest::newRow("capitals") << "72PT" << 96.0;
     QTest::newRow("blanks around") << " 10px\n" << 10.0;
+    QTest::newRow("every blank") << "\r\t\n\v\f 10\r" << 10.0;
     QTest::newRow("exponent") << "1e2" << 100.0;
     QTest::newRow("no digit before the point") << ".5in" << 48.0;
     QTest::newRow("negative") << "-10" << -10.0;

@@ -46,6 +46,8 @@ class SvgStretchingTest : public QObject {
     QTest::newRow("turned and larger") << "matrix(1.5 2 -2 1.5 10 10)" << false;
     QTest::newRow("turned and mirrored") << "matrix(1.5,2,2,-1.5,0,0)" << false;
     QTest::newRow("rounded by its writer") << "matrix(0.7071 0.7071 -0.7072 0.7071 0 0)" << false;
+    QTest::newRow("nobody sees it") << "matrix(1 0 0 1.0009 0 0)" << false;
+    QTest::newRow("somebody may") << "matrix(1 0 0 1.0011 0 0)" << true;
     QTest::newRow("narrow") << "matrix(0.9 0 0 1 2.1603 33.19)" << true;
     QTest::newRow("wide") << "translate(4) scale(1.2,1)" << true;
     QTest::newRow("wide, no comma") << "scale( 1.2 1 )" << true;

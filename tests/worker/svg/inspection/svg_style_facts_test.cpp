@@ -58,6 +58,9 @@ class SvgStyleFactsTest : public QObject {
     QTest::addColumn<QString>("message");
     QTest::newRow("selectors") << "<style>" + nested(501).toUtf8() + "</style>"
                                << "the selectors of the document's style sheets nest more than 500 deep";
+    QTest::newRow("selectors behind brackets that close nothing")
+        << "<style>" + QByteArray(9, ')') + nested(501).toUtf8() + "</style>"
+        << "the selectors of the document's style sheets nest more than 500 deep";
     QTest::newRow("a matrix") << QByteArray("<filter id='f'><feConvolveMatrix order='21 20'/></filter>")
                               << "the document has a filter with a matrix of more than 400 numbers";
     const QString text = "the document has text of more than 1000000 units in size";

@@ -17,6 +17,7 @@ class SvgTextSizesTest : public QObject {
     QTest::newRow("scale") << "scale(4)" << 4.0;
     QTest::newRow("two scales") << "scale(2, -3) translate(9) scale(0.5)" << 1.5;
     QTest::newRow("matrix") << "matrix(0 7 -7 0 100 100)" << 7.0;
+    QTest::newRow("beyond all numbers") << "scale(1e300) scale(1e300)" << 1.0;
     QTest::newRow("no number") << "scale()" << 1.0;
   }
   // By the longer of both axes, wherever they point.

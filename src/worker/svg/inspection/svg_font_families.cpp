@@ -1,4 +1,4 @@
-#include "worker/svg/inspection/svg_fonts.h"
+#include "worker/svg/inspection/svg_font_families.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -33,7 +33,7 @@ QStringList namesOf(QStringView list) {
 
 }  // namespace
 
-void SvgFonts::element(const QString& name) {
+void SvgFontFamilies::element(const QString& name) {
   // Text that flows into a shape, of a draft of SVG 1.2, is drawn by nobody but who wrote it.
   static const QSet<QString> texts{"text", "tspan", "textPath", "tref"};
   static const QSet<QString> shapes{"path", "rect",     "circle",  "ellipse",
@@ -42,7 +42,7 @@ void SvgFonts::element(const QString& name) {
   drawsShape_ = shapes.contains(name);
 }
 
-void SvgFonts::attribute(const QString& name, const QString& value) {
+void SvgFontFamilies::attribute(const QString& name, const QString& value) {
   if (drawsShape_) return;
   if (name == u"font-family")
     list(value);
@@ -52,11 +52,11 @@ void SvgFonts::attribute(const QString& name, const QString& value) {
     declarations(value);
 }
 
-void SvgFonts::styleSheet(QStringView css) {
+void SvgFontFamilies::styleSheet(QStringView css) {
   declarations(withoutComments(css));
 }
 
-void SvgFonts::declarations(QStringView css) {
+void SvgFontFamilies::declarations(QStringView css) {
   static const QRegularExpression family(QStringLiteral("(?:^|[;{\\s])(font|font-family)\\s*:\\s*([^;{}]*)"),
                                          QRegularExpression::CaseInsensitiveOption);
   if (!css.contains(u"font", Qt::CaseInsensitive)) return;
@@ -69,7 +69,7 @@ void SvgFonts::declarations(QStringView css) {
   }
 }
 
-void SvgFonts::shorthand(QStringView value) {
+void SvgFontFamilies::shorthand(QStringView value) {
   // The family stands behind the size, the only part that begins with a digit or a point and may hold a
   // slash.
   static const QRegularExpression size(
@@ -81,7 +81,7 @@ void SvgFonts::shorthand(QStringView value) {
   if (match.hasMatch()) list(match.capturedView(1));
 }
 
-void SvgFonts::list(QStringView names) {
+void SvgFontFamilies::list(QStringView names) {
   if (const qsizetype important = names.indexOf(u'!'); important >= 0) names = names.left(important);
   QStringList all;
   for (const QString& each : namesOf(names)) {

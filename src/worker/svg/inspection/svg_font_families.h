@@ -9,7 +9,7 @@
 namespace norvex::engine {
 
 /// Fed with the elements and style sheets in document order; asked once at the end.
-class SvgFonts {
+class SvgFontFamilies {
  public:
   /// An element with a local name begins.
   void element(const QString& name);

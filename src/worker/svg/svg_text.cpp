@@ -80,7 +80,6 @@ Result<SvgText> decodeWide(const QByteArray& bytes, const Family& family) {
   text.handedOnAsUtf8 = !sixteen;
   text.encodingName = sixteen ? QStringLiteral("utf-16") : QStringLiteral("utf-8");
   text.encodingNumber = int(sixteen ? encoding::Utf16 : encoding::Utf8);
-  text.byteOrderMark = sixteen && family.markBytes > 0;
   text.littleEndian = *family.wide == QStringConverter::Utf16LE;
   return text;
 }

@@ -18,8 +18,8 @@ struct SvgText {
   int encodingNumber = 0;
   QByteArray declaredName;      ///< as the document calls its encoding; "UTF-8" where it says nothing
   bool handedOnAsUtf8 = false;  ///< the document's own encoding is none of ours
-  bool byteOrderMark = false;
-  bool littleEndian = false;  ///< UTF-16 only
+  bool byteOrderMark = false;   ///< UTF-8 only: UTF-16 always gets one
+  bool littleEndian = false;    ///< UTF-16 only
 };
 
 /// REQUIRES bytes that are not compressed. Fails with NotParsable: an encoding that nobody knows, or bytes

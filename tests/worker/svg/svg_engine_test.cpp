@@ -329,6 +329,16 @@ class SvgEngineTest : public QObject {
     QVERIFY(!pdf->report.warnings.isEmpty());
   }
 
+  void effectsInAPartOfThePdfAreCountedWithTheirResolution() {
+    OpenSvg document(svgOf("width='100' height='50'",
+                           "<filter id='f'><feGaussianBlur stdDeviation='3'/></filter>"
+                           "<rect x='20' y='10' width='50' height='20' filter='url(#f)'/>"));
+    const Result<EngineBytes> part = document->compose({VectorFormat::Pdf, 0, QRectF(-20, -10, 40, 20), 0});
+    QVERIFY(part);
+    QCOMPARE(part->report.regionsRasterised, 1);
+    QCOMPARE(part->report.rasterisedDpi, 300.0);
+  }
+
   // The renderer cuts a radius at ten units of what it draws on.
   void aFilterThatThickensKeepsItsRadiusInThePdf_data() {
     QTest::addColumn<QByteArray>("root");

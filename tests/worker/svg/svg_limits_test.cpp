@@ -107,7 +107,7 @@ class SvgLimitsTest : public QObject {
   /// A layer as large as the whole picture at this zoom is beyond what can be made.
   void layersAreMadeOfThePartThatIsShown_data() {
     QTest::addColumn<QSizeF>("pixels");
-    QTest::newRow("a side") << QSizeF(limits::maximumLayerSide * 2, 4);
+    QTest::newRow("a side") << QSizeF(limits::maximumLayerSide * 3, 4);
     const double side = std::sqrt(limits::maximumLayerPixels) * 2;
     QTest::newRow("pixels") << QSizeF(side, side);
   }

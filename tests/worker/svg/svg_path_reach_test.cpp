@@ -30,6 +30,7 @@ class SvgPathReachTest : public QObject {
     const QByteArray two = "<path d='M0 0V10'/><path fill='red' d='M0 0V20'/>";
     QCOMPARE(meanPathHeight(two), 15.0);
     QCOMPARE(meanPathHeight(two + "<text/><text/>"), 0.0);
+    QCOMPARE(meanPathHeight("<path d=''/>" + two), 10.0);
     QCOMPARE(meanPathHeight("<path d='M0 0V10"), 0.0);
     QCOMPARE(meanPathHeight(" d="), 0.0);
   }

@@ -83,6 +83,8 @@ class SvgPrettyTest : public QObject {
     QTest::newRow("foreign object") << QByteArray("<foreignObject><p><i>a</i> <b>b</b></p></foreignObject>");
     QTest::newRow("preserved") << QByteArray("<g xml:space=\"preserve\"> <rect/>\n<rect/> </g>");
     QTest::newRow("blank leaf") << QByteArray("<dc:title> </dc:title>");
+    QTest::newRow("blank leaf of another vocabulary") << QByteArray("<x:y>\n </x:y>");
+    QTest::newRow("empty leaf") << QByteArray("<g></g>");
     QTest::newRow("comment") << QByteArray("<!--\n\tkept\n as is -->");
     QTest::newRow("instruction") << QByteArray("<?x  y\n z?>");
     QTest::newRow("attributes on lines") << QByteArray("<path\n   d='M 0 0\n L 1 1'\n   id = \"a>b\"  />");

@@ -197,6 +197,24 @@ class FindingTest : public QObject {
     QCOMPARE(f.find->bar()->outcome(), QString());
     process->release(PictureCall::Examine);
     QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 1"));
+    f.find->bar()->setNeedle("three");
+    QCOMPARE(f.find->bar()->outcome(), QString("Not found"));  // there is no page where else it could be
+  }
+
+  void whileOtherPagesAreBeingReadThePlaceStays() {
+    Text f(true, {}, 2);
+    f.lookFor("one");
+    f.find->findNext(false);
+    QCOMPARE(f.find->bar()->outcome(), QString("2 of 2"));
+    const auto process = f.service.lastProcess();
+    process->hold(PictureCall::Examine);
+    f.find->findNext(false);
+    QVERIFY(process->waitUntilHeld(PictureCall::Examine));
+    QCOMPARE(f.find->bar()->outcome(), QString("2 of 2"));
+    QCOMPARE(f.c.findChild<PagesCommand*>()->shown(), 0);
+    process->release(PictureCall::Examine);
+    QTRY_COMPARE(f.c.findChild<PagesCommand*>()->shown(), 1);
+    QTRY_COMPARE(f.find->bar()->outcome(), QString("1 of 2"));
   }
 
   void theBarDoesNotLieOverWhatWasFound() {

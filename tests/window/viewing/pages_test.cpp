@@ -254,6 +254,41 @@ class PagesTest : public QObject {
     QVERIFY(stored.readAll().contains("pages=true"));
   }
 
+  void thumbnailsOfAnotherPageAreTheSameAndThoseOfAnotherFileNot() {
+    PagesFixture f(2);
+    f.c.window()->show();
+    f.action("pageThumbnailsAction")->trigger();
+    auto* strip = f.c.window()->findChild<PageStrip*>();
+    QTRY_COMPARE(strip->nextWanted(), -1);
+    const auto drawn = [&f] {
+      int previews = 0;
+      for (const RenderRequest& request : f.service.lastProcess()->renderRequests())
+        previews += request.purpose == RenderPurpose::Preview;
+      return previews;
+    };
+    const int before = drawn();
+    f.pages.show(1);
+    QCOMPARE(strip->nextWanted(), -1);
+    QCOMPARE(drawn(), before);
+    f.revert();
+    QVERIFY(strip->nextWanted() >= 0);
+    QTRY_COMPARE(strip->nextWanted(), -1);
+    QVERIFY(drawn() >= 2);  // by a process of its own
+  }
+
+  void aFileThatComesBackWithOnePageHasNoStrip() {
+    PagesFixture f(2);
+    f.c.window()->show();
+    f.action("pageThumbnailsAction")->trigger();
+    QVERIFY(f.c.window()->findChild<QDockWidget*>("pagesDock")->isVisible());
+    MemoryPicture picture;
+    picture.facts.pageBounds = {QRectF(0, 0, 200, 100)};
+    picture.facts.pageCount = 1;
+    f.service.setPicture(picture);
+    f.revert();
+    QTRY_VERIFY(!f.c.window()->findChild<QDockWidget*>("pagesDock")->isVisible());
+  }
+
   void noThumbnailIsMadeForAStripThatNobodySees() {
     PagesFixture f(2);
     f.c.window()->show();

@@ -275,6 +275,25 @@ class ViewingTest : public QObject {
     QTRY_COMPARE(style(), Qt::ToolButtonTextBesideIcon);
   }
 
+  void aToolbarShowsItsLabelsAsSoonAsTheyFit() {
+    Shown f;
+    f.c.zoomingScrollView()->zoomTo(8.0);
+    const auto style = [&] {
+      return qobject_cast<QToolButton*>(f.c.toolbar->widgetForAction(f.c.copyToolbarItem))->toolButtonStyle();
+    };
+    f.c.window()->resize(1000, 500);
+    QTRY_COMPARE(style(), Qt::ToolButtonTextBesideIcon);
+    const int labelled = f.c.toolbar->sizeHint().width();
+    f.c.window()->resize(420, 400);
+    QTRY_COMPARE(style(), Qt::ToolButtonIconOnly);
+    f.c.window()->resize(labelled - 1, 400);
+    QTRY_COMPARE(f.c.toolbar->width(), labelled - 1);
+    QCOMPARE(style(), Qt::ToolButtonIconOnly);
+    f.c.window()->resize(labelled, 400);
+    QTRY_COMPARE(f.c.toolbar->width(), labelled);
+    QCOMPARE(style(), Qt::ToolButtonTextBesideIcon);
+  }
+
   void theUpperEdgeBringsTheBars() {
     Shown f;
     f.c.window()->findChild<QAction*>("fullScreenAction")->trigger();

@@ -25,6 +25,14 @@ class EpsResourcesTest : public QObject {
              (QStringList{"Courier", "Courier-Bold", "My Font", "Last"}));
   }
 
+  /// What stands before the kind, on the line or on those before it, is of none.
+  void eachCommentSaysItsKindAnew() {
+    QCOMPARE(
+        resourcesOf("%%DocumentNeededResources: font One\n%%DocumentSuppliedResources: Nameless font Two\n")
+            .fonts,
+        (QStringList{"One", "Two"}));
+  }
+
   void inksAreProcessColoursThenCustomOnes() {
     QCOMPARE(resourcesOf(
                  "%%DocumentCustomColors: (PANTONE 186 C) (Dark (old) gold)\n%%DocumentProcessColors: Cyan "

@@ -1,6 +1,5 @@
 #include <tiffio.h>
 
-#include <algorithm>
 #include <cstring>
 #include <optional>
 
@@ -42,12 +41,9 @@ struct MemoryFile {
   qsizetype at = 0;
 };
 
-tsize_t readFrom(thandle_t handle, void* to, tsize_t count) {
-  auto& file = *static_cast<MemoryFile*>(handle);
-  const tsize_t got = std::clamp<tsize_t>(file.bytes.size() - file.at, 0, count);
-  std::memcpy(to, file.bytes.constData() + file.at, static_cast<size_t>(got));
-  file.at += got;
-  return got;
+/// libtiff asks for it, and reads nothing of a file that it writes in one go.
+tsize_t readNothing(thandle_t, void*, tsize_t) {
+  return 0;
 }
 
 tsize_t writeTo(thandle_t handle, void* from, tsize_t count) {
@@ -112,7 +108,7 @@ QByteArray encodeRaster(CodecOf<PictureFormat::Tiff>, const NSBitmapImageRep& ra
   const TiffLibrary& library = *loaded;
   MemoryFile file;
   file.bytes.reserve(raster.bytesPerPlane() + 4096);
-  TIFF* tiff = library.TIFFClientOpen("raster", "wl", &file, readFrom, writeTo, seekIn, closeIt, sizeOf,
+  TIFF* tiff = library.TIFFClientOpen("raster", "wl", &file, readNothing, writeTo, seekIn, closeIt, sizeOf,
                                       nullptr, nullptr);
   if (!tiff) return {};
   setFields(library, tiff, *color, raster, properties);

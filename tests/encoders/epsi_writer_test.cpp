@@ -82,6 +82,11 @@ class EpsiWriterTest : public QObject {
     QVERIFY2(out.startsWith(QByteArray("%%BoundingBox: 1 2 30 30\n%%EndComments\n")), out.constData());
     QVERIFY2(out.endsWith(QByteArray("%%EndPreview\n.5 40\n")), out.constData());
   }
+  void numbersOfABoxKeepTheirSign() {
+    const QByteArray out = insertEpsiPreview(QByteArray("%%BoundingBox: -5 -6 +7 +8\nx"), grey(1, 1));
+    QVERIFY2(out.startsWith(QByteArray("%%BoundingBox: -5 -6 7 8\n%%EndComments\n")), out.constData());
+    QVERIFY2(out.endsWith(QByteArray("%%EndPreview\n\nx")), out.constData());
+  }
   void aTextWithoutAPlaceGivesNothing() {
     QVERIFY(insertEpsiPreview(QByteArray("%!PS\n"), grey(1, 1)).isNull());
   }

@@ -7,6 +7,7 @@
 #include <QTransform>
 
 #include <cmath>
+#include <utility>
 
 #include "base/latin1_text.h"
 #include "kit/test_main.h"
@@ -214,6 +215,21 @@ class RasterCodecsTest : public QObject {
     QVERIFY2(said.contains(QStringLiteral("Resolution: 72x72")), qPrintable(said));
     const QColor clear = QImage::fromData(bytes).pixelColor(2, 0);
     QVERIFY2(clear.lightness() > 215, qPrintable(clear.name()));
+  }
+  void aJpegShowsEveryColourOverWhite() {
+    QImage image(32, 16, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(255, 0, 0));
+    for (int y = 0; y < 16; ++y)
+      for (int x = 16; x < 32; ++x) image.setPixelColor(x, y, QColor(0, 0, 255, 128));
+    const QImage back = QImage::fromData(encodeJpeg(bitmapFromImage(image), {72, {}, 100}));
+    QCOMPARE(back.size(), image.size());
+    for (const auto& [at, wanted] :
+         {std::pair(QPoint(4, 4), QColor(255, 0, 0)), std::pair(QPoint(28, 12), QColor(127, 127, 255))}) {
+      const QColor seen = back.pixelColor(at);
+      for (const int difference :
+           {seen.red() - wanted.red(), seen.green() - wanted.green(), seen.blue() - wanted.blue()})
+        QVERIFY2(std::abs(difference) <= 2, qPrintable(seen.name()));
+    }
   }
   void transparencyIsLaidOverWhiteSampleBySample() {
     const uchar from[] = {100, 50, 25, 128, 0, 0, 0, 0, 7, 8, 9, 255, 200, 0, 0, 100};

@@ -39,6 +39,14 @@ class ClipViewTest : public QObject {
     QCOMPARE(view.scrollRange(), QSizeF(600, 500));
   }
 
+  void theScaledDocumentIsScrolled() {
+    ClipView view = clip({400, 300}, {1000, 800});
+    view.setScale(2, view.frameCentre());
+    QCOMPARE(view.scrollRange(), QSizeF(1600, 1300));
+    view.setScale(0.25, view.frameCentre());
+    QCOMPARE(view.scrollRange(), QSizeF(0, 0));
+  }
+
   void theUpperLeftCornerStaysWhenTheFrameGrows() {
     ClipView view = clip({400, 300}, {1000, 800});
     view.setScrollOffset({100, 50});

@@ -163,11 +163,13 @@ class SelectionOverlayTest : public QObject {
   }
 
   void aRectangleThinnerThanItsLineIsStillPaintedOnce() {
-    EmptyPicture f;
-    f.select({0, 0}, {0.2, 40});
-    const QImage image = screen(f.view, 1);
-    QVERIFY(pixelsOf(image, blueOnWhite) >= 40);
-    QCOMPARE(pixelsOf(image, Qt::white) + pixelsOf(image, blueOnWhite), 200 * 100);
+    for (const QPointF opposite : {QPointF(0.5, 40), QPointF(40, 0.5)}) {
+      EmptyPicture f;
+      f.select({0.3, 0.3}, opposite);
+      const QImage image = screen(f.view, 1);
+      QVERIFY(pixelsOf(image, blueOnWhite) >= 40);
+      QCOMPARE(pixelsOf(image, Qt::white) + pixelsOf(image, blueOnWhite), 200 * 100);
+    }
   }
 
   void aTransformThatFlattensEverythingDrawsNothing() {

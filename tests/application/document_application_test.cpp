@@ -215,6 +215,37 @@ class DocumentApplicationTest : public QObject {
     QTRY_COMPARE(terminated_, 1);
   }
 
+  void startedByTheBusForAFileItStays() {
+    application_->startForDesktop(1);
+    application_->openFiles({writePdf("a.pdf")});
+    QVERIFY(finishReading());
+    QTest::qWait(20);
+    QCOMPARE(application_->documents().documents().size(), 1);
+    QCOMPARE(terminated_, 0);
+  }
+
+  void aPanelThatIsAskedForAgainStaysWhereItWasMoved_data() {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("manual") << "ManualWindow";
+    QTest::newRow("preferences") << "PreferencesPanel";
+  }
+  void aPanelThatIsAskedForAgainStaysWhereItWasMoved() {
+    QFETCH(QString, name);
+    const auto ask = [&] {
+      name == "ManualWindow" ? application_->showManual() : application_->showPreferences();
+      for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->objectName() == name) return widget;
+      return static_cast<QWidget*>(nullptr);
+    };
+    QVERIFY(start({}));
+    QWidget* const panel = ask();
+    QVERIFY(panel);
+    const QPoint moved = panel->pos() + QPoint(7, 5);
+    panel->move(moved);
+    QCOMPARE(ask(), panel);
+    QCOMPARE(panel->pos(), moved);
+  }
+
   void theManualIsOneWindow() {
     application_->showManual();
     application_->showManual();

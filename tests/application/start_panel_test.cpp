@@ -7,6 +7,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 #include "application/recent_files.h"
 #include "application/start_panel.h"
 #include "kit/test_main.h"
@@ -46,6 +48,10 @@ class StartPanelTest : public QObject {
     const QList<QWidget*> parts = partsOf(panel);
     QCOMPARE(parts.size(),
              7);  // icon, name, subtitle, Open, hint, heading and what stands there without files
+    QVERIFY(std::any_of(parts.begin(), parts.end(), [](const QWidget* part) {
+      const auto* label = qobject_cast<const QLabel*>(part);
+      return label && label->text() == "Norvex";
+    }));
     const QRect room = panel.screen()->availableGeometry();
     QVERIFY(panel.width() <= room.width() && panel.height() <= room.height());
     for (const QWidget* part : parts) {

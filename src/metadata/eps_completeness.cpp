@@ -61,18 +61,18 @@ QByteArrayView lastWord(QByteArrayView program) {
 
 /// The words that end a program; some name their restore "rs" or "gr".
 bool endsPrograms(QByteArrayView word) {
-  static constexpr std::array<const char*, 12> words{"showpage",    "end",     "restore", "grestore",
-                                                     "grestoreall", "pdfmark", "quit",    "stop",
-                                                     "cleartomark", "rs",      "gr",      "pop"};
+  static constexpr auto words =
+      std::to_array<const char*>({"showpage", "end", "restore", "grestore", "grestoreall", "pdfmark", "quit",
+                                  "stop", "cleartomark", "rs", "gr", "pop"});
   return std::any_of(words.begin(), words.end(),
                      [&](const char* one) { return word == QByteArrayView(one); });
 }
 
 /// True for a word behind which something must come for anything to be drawn: a number, or a part of a path.
 bool isBegun(QByteArrayView word) {
-  static constexpr std::array<const char*, 11> words{"moveto",  "lineto",   "curveto",   "rmoveto",
-                                                     "rlineto", "rcurveto", "closepath", "newpath",
-                                                     "arc",     "arcn",     "arcto"};
+  static constexpr auto words =
+      std::to_array<const char*>({"moveto", "lineto", "curveto", "rmoveto", "rlineto", "rcurveto",
+                                  "closepath", "newpath", "arc", "arcn", "arcto"});
   constexpr qsizetype longestNumber = 32;
   bool isNumber = false;
   if (word.size() <= longestNumber) (void)word.toDouble(&isNumber);

@@ -54,6 +54,9 @@ class EpsCompletenessTest : public QObject {
     row("by hand, without an end of line", kHeader + "newpath 0 0 moveto 9 9 lineto stroke");
     row("by hand, with a procedure", kHeader + "/d { moveto } def gsave 0 0 d grestore 9 9 lineto stroke\n");
     row("by hand, with a dictionary", kHeader + "9 dict begin 0 0 moveto 9 9 lineto end stroke\n");
+    row("by hand, with a saved memory", kHeader + "save 0 0 moveto 9 9 lineto restore stroke\n");
+    row("by hand, with states that are all restored",
+        kHeader + "gsave 0 0 moveto 9 9 lineto grestoreall stroke\n");
     row("a set-up in the header and no end",
         "%!PS-Adobe-2.0 EPSF-2.0\n%%BoundingBox: 0 0 9 9\n%%Pages: 0\n%%BeginSetup\n"
         "%%EndSetup\n%%EndComments\n/in { 0 exch moveto 9 9 lineto stroke } def\nsolid\n3 in\n");

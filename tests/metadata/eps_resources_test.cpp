@@ -23,6 +23,8 @@ class EpsResourcesTest : public QObject {
                  "encoding X\n%%DocumentSuppliedResources: font (My Font)\n%%DocumentSuppliedFonts: Last\n")
                  .fonts,
              (QStringList{"Courier", "Courier-Bold", "My Font", "Last"}));
+    QCOMPARE(resourcesOf("%%DocumentNeededFonts: One\n%%DocumentResources: font Two\n").fonts,
+             (QStringList{"One", "Two"}));
   }
 
   /// What stands before the kind, on the line or on those before it, is of none.
@@ -48,6 +50,10 @@ class EpsResourcesTest : public QObject {
         resourcesOf("%%PlateFile: (PANTONE 186 C) EPS Local red.eps\r%%PlateFile: (Black) EPS #001200 345\r")
             .plates,
         (QList<EpsPlate>{{"PANTONE 186 C", "red.eps"}, {"Black", {}, 1200, 345}}));
+    QCOMPARE(resourcesOf("%%MagentaPlate: m.eps\n%%YellowPlate: y.eps\n").plates,
+             (QList<EpsPlate>{{"Magenta", "m.eps"}, {"Yellow", "y.eps"}}));
+    QVERIFY(resourcesOf("%%PlateFile: (Black) EPS #000000 345\n%%PlateFile: (Black) EPS #00900 0\n")
+                .plates.isEmpty());
     QVERIFY(resourcesOf("%%PlateFile: (Black) EPS #-00005 345\n%%PlateFile: (Black)\n%%CyanPlate:\n")
                 .plates.isEmpty());
   }

@@ -103,6 +103,8 @@ class TextEncodingTest : public QObject {
     QCOMPARE(decodeText(bytes({0xA1, 0xA1, 0x8E, 0xA1, 0x8E, 0xDF}), encoding::EucJp).value_or("none"),
              QString::fromUtf16(u"\u3000\uFF61\uFF9F"));
     for (const int beyond : {0xA0, 0xE0}) QVERIFY(!decodeText(bytes({0x8E, beyond}), encoding::EucJp));
+    QCOMPARE(decodeText(bytes({0x8F, 0xB0, 0xA1, 0xB0, 0xA1}), encoding::EucJp).value_or("none"),
+             QString::fromUtf16(u"\u4E02\u4E9C"));  // three bytes, and two
     QCOMPARE(
         decodeText(bytes({0x81, 0x40, 0x81, 0xFC, 0xA1, 0xDF, 0x9F, 0xFC, 0xE0, 0x40}), encoding::ShiftJis)
             .value_or("none"),
@@ -153,6 +155,7 @@ class TextEncodingTest : public QObject {
   void utf16WithoutAMarkIsBigEndianUnlessItsZerosSayOtherwise() {
     QCOMPARE(decodeText(bytes({0, 'a', 0, 'b'}), encoding::Utf16).value_or("nothing"), "ab");
     QCOMPARE(decodeText(bytes({'a', 0, 'b', 0}), encoding::Utf16).value_or("nothing"), "ab");
+    QCOMPARE(decodeText(bytes({'a', 0}), encoding::Utf16).value_or("nothing"), "a");
     QCOMPARE(decodeText(bytes({0x65, 0xE5}), encoding::Utf16).value_or("nothing"), QString(QChar(0x65E5)));
   }
 

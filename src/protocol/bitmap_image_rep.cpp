@@ -7,7 +7,7 @@ qsizetype NSBitmapImageRep::bytesPerPlane() const {
 }
 
 bool NSBitmapImageRep::isConsistent() const {
-  if (pixelsWide <= 0 || pixelsHigh <= 0 || bytesPerRow <= 0) return false;
+  if (pixelsWide <= 0 || pixelsHigh <= 0) return false;
   if (bitsPerSample < 1 || bitsPerSample > 32 || samplesPerPixel < 1 || samplesPerPixel > 64) return false;
   const qint64 samplesInRow = qint64(pixelsWide) * (isPlanar ? 1 : samplesPerPixel);
   if (bytesPerRow < (samplesInRow * bitsPerSample + 7) / 8) return false;

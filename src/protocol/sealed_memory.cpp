@@ -18,17 +18,17 @@ Error cannotBeTrue() {
           QStringLiteral("the picture process handed over memory that cannot be trusted")};
 }
 
+Error noMemory() {
+  return {ErrorKind::Limit, QStringLiteral("there is not enough memory for the picture")};
+}
+
 /// Why memory could not be made or filled.
 Error notMade(int reason) {
   if (reason == EMFILE || reason == ENFILE)
     return {ErrorKind::Limit, QStringLiteral("too many files are open for another picture")};
   if (reason == EFBIG)
     return {ErrorKind::Limit, QStringLiteral("the picture is larger than files may become here")};
-  return {ErrorKind::Limit, QStringLiteral("there is not enough memory for the picture")};
-}
-
-Error noMemory() {
-  return {ErrorKind::Limit, QStringLiteral("there is not enough memory for the picture")};
+  return noMemory();
 }
 
 bool writeAll(int fd, const char* bytes, qsizetype size) {

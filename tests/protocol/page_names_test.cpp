@@ -38,6 +38,8 @@ class PageNamesTest : public QObject {
          {with("fonts", 7), with("fonts", many), with("colorSpaces", longOne), with("v", 0),
           QByteArray("\xa0"), QByteArray(), QByteArray(limits::maximumMessageBytes + 1, 'x')})
       QCOMPARE(decodePageNames(cbor).error().kind, ErrorKind::Protocol);
+    QCOMPARE(decodePageNames({}).error().message,
+             "the names in the page were told in a way that cannot be true");
   }
 };
 

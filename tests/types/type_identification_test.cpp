@@ -52,7 +52,13 @@ class TypeIdentificationTest : public QObject {
     QTest::newRow("binary eps") << QByteArray("\xC5\xD0\xD3\xC6") + QByteArray(30, '\0') << kEps;
     QTest::newRow("epsi") << kEpsText + kPreview << kEpsi;
     QTest::newRow("a preview of a picture inside") << kEpsText + "gsave\n" + kEpsText + kPreview << kEps;
+    QTest::newRow("epsi in lines that end with CR")
+        << QByteArray(kEpsText + kPreview).replace('\n', '\r') << kEpsi;
     QTest::newRow("postscript") << QByteArray("%!PS-Adobe-3.0\nshowpage\n") << "com.adobe.postscript";
+    QTest::newRow("postscript with a title about eps")
+        << QByteArray("%!PS-Adobe-3.0\n%%Title: EPSF-3.0\n") << "com.adobe.postscript";
+    QTest::newRow("postscript with a title about illustrator")
+        << QByteArray("%!PS-Adobe-3.0\r%%Creator: x\r%%Title: Adobe Illustrator\r") << "com.adobe.postscript";
     QTest::newRow("illustrator's postscript")
         << QByteArray("%!PS-Adobe-3.0 \r\n%%Creator: Adobe Illustrator(TM) 3.2\r\n") << kIllustrator;
     QTest::newRow("eps by illustrator")
@@ -129,7 +135,7 @@ class TypeIdentificationTest : public QObject {
                                            16)
                                     << "b.bin" << kSvgz;
     QTest::newRow("gzip of an svg, with something before its name")
-        << QByteArray("\x1F\x8B\x08\x0C\0\0\0\0\0\x03\x02\0xxa.svg\0", 20) << "b.bin" << kSvgz;
+        << QByteArray("\x1F\x8B\x08\x0C\0\0\0\0\0\x03\x02\0xx.svg\0", 19) << "b.bin" << kSvgz;
     QTest::newRow("gzip of an svg whose name is its extension")
         << QByteArray("\x1F\x8B\x08\x08\0\0\0\0\0\x03.svg\0", 15) << "b.bin" << kSvgz;
     QTest::newRow("gzip of an svg that is told to be text") << QByteArray(

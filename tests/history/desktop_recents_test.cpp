@@ -53,7 +53,7 @@ class DesktopRecentsTest : public QObject {
     const QByteArray text = bytesOf(list());
     QVERIFY(text.contains("href=\"file:///tmp/%C3%A4%20b.eps\""));
     QVERIFY(text.contains("type=\"image/x-eps\""));
-    QVERIFY(text.contains("name=\"Norvex\""));
+    QVERIFY(text.contains("name=\"Norvex\" exec=\"&apos;norvex %u&apos;\""));
     QCOMPARE(QFile(list()).permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
   }
 
@@ -85,6 +85,12 @@ class DesktopRecentsTest : public QObject {
     qunsetenv("XDG_DATA_HOME");
     QCOMPARE(desktopRecentsFile(), QDir::homePath() + "/.local/share/recently-used.xbel");
     if (wasSet) qputenv("XDG_DATA_HOME", before);
+  }
+
+  void aListWithoutFilesOfOursIsNotWrittenAnew() {
+    write(list(), kList);
+    clearFromDesktopRecents(list());
+    QCOMPARE(bytesOf(list()), kList);
   }
 
   void clearingMakesNoList() {

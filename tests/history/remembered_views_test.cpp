@@ -55,7 +55,7 @@ class RememberedViewsTest : public QObject {
 
   void onlySoManyAreKeptAndTheOldestGo() {
     RememberedViews views(*settings_);
-    views.remember("/first.pdf", {2, 0, 0});
+    views.remember("/first.pdf", {4, 0, 0});
     QTest::qWait(2);
     for (int i = 0; i < RememberedViews::maximumCount; ++i)
       views.remember(QString("/%1.pdf").arg(i), {3, 0, 0});

@@ -28,6 +28,8 @@ int endBySignal(const QStringList& arguments) {
     if (step.startsWith(u"opened")) session->opened(path);
     if (step.startsWith(u"closed")) session->closed(path);
     if (step.startsWith(u"used")) session->used(path);
+    if (step == u"stop") session->stop();
+    if (step == u"start") session->start();
     if (step == u"hang up") ::raise(SIGHUP);
   }
   ::raise(arguments.at(1).toInt());
@@ -69,6 +71,8 @@ class SessionTest : public QObject {
     QCOMPARE(left.size(), 1);
     QCOMPARE(left.first().files, QStringList({"/a.eps", "/c.eps"}));
     QCOMPARE(left.first().last, QString("/a.eps"));
+    QVERIFY(endsBySignal({"opened /a.eps", "used /another.eps"}, SIGKILL));
+    QCOMPARE(Session::takeLeft(folder()).value(0).last, QString("/a.eps"));
   }
 
   void withoutTheLastTheOneBeforeIsTheLast() {
@@ -150,6 +154,15 @@ class SessionTest : public QObject {
     session.stop();
     session.opened("/b.eps");
     QVERIFY(files().isEmpty());
+  }
+
+  void startedAgainItKeepsWhatIsOpenThen() {
+    QVERIFY(endsBySignal({"opened /a.eps", "stop", "opened /b.eps", "start"}, SIGKILL));
+    QCOMPARE(Session::takeLeft(folder()).value(0).files, QStringList({"/a.eps", "/b.eps"}));
+    QVERIFY(endsBySignal({"opened /a.eps", "stop", "closed /a.eps", "start"}, SIGKILL));
+    QVERIFY(files().isEmpty());
+    QVERIFY(endsBySignal({"opened /a.eps", "stop", "start", "opened /b.eps"}, SIGKILL));
+    QCOMPARE(Session::takeLeft(folder()).value(0).files, QStringList({"/a.eps", "/b.eps"}));
   }
 
   void rubbishIsPassedOver() {

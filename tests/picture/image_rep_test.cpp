@@ -179,7 +179,14 @@ class ImageRepTest : public QObject {
     MemoryPicture manyPages;
     manyPages.facts.pageCount = 5000;  // one box is told
     service.setPicture(manyPages);
-    QCOMPARE(NSPDFImageRep::imageRepWithData(service, kPdf, {}, 1).error().kind, ErrorKind::Limit);
+    QCOMPARE(NSPDFImageRep::imageRepWithData(service, kPdf, {}, 1).error().message,
+             "page 2 is too far behind");
+    QCOMPARE(NSPDFImageRep::imageRepWithData(service, kPdf, {}, 5000).error().message,
+             "there is no page 5001, the document has 5000");
+    MemoryPicture flat;
+    flat.facts.pageBounds = {QRectF(0, 0, 9, 0)};
+    service.setPicture(flat);
+    QCOMPARE(NSPDFImageRep::imageRepWithData(service, kPdf).error().message, "page 1 has no area");
   }
 
   void aPdfThatCannotBeOpenedTellsWhy() {
@@ -266,7 +273,8 @@ class ImageRepTest : public QObject {
     MemoryPicture memory;
     memory.facts.pageBounds = {QRectF(0, 0, 0, 100)};
     MemoryPictureService service(memory);
-    QCOMPARE(ZyWebImageRep::imageRepWithData(service, kSvg).error().kind, ErrorKind::NotParsable);
+    QCOMPARE(ZyWebImageRep::imageRepWithData(service, kSvg).error().message, "the SVG document has no area");
+    QCOMPARE(ZyWebImageRep::imageRepWithData(service, {}).error().message, "the file is empty");
     memory.facts.pageBounds = {};
     service.setPicture(memory);
     QCOMPARE(ZyWebImageRep::imageRepWithData(service, kSvg).error().kind, ErrorKind::NotParsable);
@@ -423,6 +431,7 @@ class ImageRepTest : public QObject {
     QCOMPARE(rep->rasterImage(1)->size(), QSize(200, 100));
     QCOMPARE(rep->rasterImage(300.0 / 72)->size(), QSize(834, 417));
     QCOMPARE(rep->rasterImage(1.1)->size(), QSize(220, 110));  // not 221: the factor is not exact in binary
+    QCOMPARE(rep->rasterImage(0.001)->size(), QSize(1, 1));
     const QImage image = *rep->rasterImage(2);
     QCOMPARE(image.pixel(0, 199), qRgb(0, 0, 0));
     QVERIFY(qGreen(image.pixel(0, 0)) > 250);

@@ -31,7 +31,7 @@ constexpr PaperColour kUnknown{0.5F, 0.5F, 0.5F};
 }  // namespace
 
 PaperColour colourOfProcessInks(float cyan, float magenta, float yellow, float black) {
-  std::array<float, 16> weights{};
+  std::array<float, kFullInks.size()> weights{};
   weights[0] = 1;
   size_t known = 1;
   for (const float share : {cyan, magenta, yellow, black}) {

@@ -22,7 +22,7 @@ struct Axis {
   bool centered = false;
 
   [[nodiscard]] double fittingScale() const {
-    return mode == NSPrintingPaginationMode::Fit && length > 0 ? room / length : 1e9;
+    return mode == NSPrintingPaginationMode::Fit ? room / length : 1e9;
   }
   [[nodiscard]] double pages(double scale) const {
     if (mode != NSPrintingPaginationMode::Automatic) return 1;

@@ -95,6 +95,21 @@ class CupsSpoolerTest : public QObject {
     QCOMPARE(spooled.readAll(), kPdf);
   }
 
+  /// Pages that are made for the paper must come out of the printer as large as they are.
+  void theJobIsTakenWithItsCopiesAndItsPaperAndIsNotScaled() {
+    PrintTicket ticket = ticketFor("Office");
+    ticket.copies = 3;
+    for (const bool landscape : {false, true}) {
+      ticket.landscape = landscape;
+      const Result<int> job = spooler_.print(ticket, kPdf);
+      QVERIFY2(job.ok(), job ? "" : qPrintable(job.error().message));
+      QCOMPARE(server_->jobAttribute(*job, "copies"), "3");
+      QCOMPARE(server_->jobAttribute(*job, "media"), "iso_a4_210x297mm");
+      QCOMPARE(server_->jobAttribute(*job, "orientation-requested"), landscape ? "landscape" : "portrait");
+      QCOMPARE(server_->jobAttribute(*job, "print-scaling"), "none");
+    }
+  }
+
   void thePrintersAreListedWithTheirStates() {
     QVERIFY(server_->addPrinter("Attic") && server_->addPrinter("Hall"));
     QVERIFY(server_->makeDefault("Attic") && server_->refuseJobs("Hall") && server_->stopPrinter("Office"));

@@ -196,6 +196,12 @@ class PaginationTest : public QObject {
     const Result<Pagination> pages = paginate({1e7, 1e7}, info);
     QVERIFY(!pages.ok());
     QCOMPARE(pages.error().message, QString("the picture would take more than 2000 sheets of paper"));
+    const auto sheets = [](double columns, double rows) {
+      const auto made = paginate({columns * kShort, rows * kLong}, a4(NSPaperOrientation::Portrait));
+      return made ? made->tiles.size() : 0;
+    };
+    QCOMPARE(sheets(50, 40), 2000);
+    QCOMPARE(sheets(3, 667), 0);  // 2001
   }
 };
 

@@ -139,6 +139,22 @@ class PrintServer {
     httpClose(http);
     return title;
   }
+  /// An attribute of a job as the server keeps it, written as text; empty when it has none.
+  [[nodiscard]] QString jobAttribute(int id, const char* name) const {
+    http_t* const http = connect();
+    if (!http) return {};
+    ipp_t* const request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+    const QByteArray job = "ipp://localhost/jobs/" + QByteArray::number(id);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, job.constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    ipp_t* const answer = cupsDoRequest(http, request, "/");
+    char text[256] = "";
+    if (ipp_attribute_t* const found = ippFindAttribute(answer, name, IPP_TAG_ZERO))
+      ippAttributeString(found, text, sizeof text);
+    ippDelete(answer);
+    httpClose(http);
+    return QString::fromUtf8(text);
+  }
 
  private:
   [[nodiscard]] http_t* connect() const {

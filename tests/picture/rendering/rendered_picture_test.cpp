@@ -227,6 +227,24 @@ class RenderedPictureTest : public QObject {
     QVERIFY(QTest::qWaitFor([&] { return f.renders() >= 3; }, 20000));
   }
 
+  /// Nobody looks at it: what is seen is sharp, and stays without a word.
+  void aMarginThatCannotBeDrawnIsNoFailure() {
+    std::atomic<int> drawn = 0;
+    MemoryPicture memory;
+    memory.paint = [&](const RenderRequest& request) {
+      return ++drawn <= 2 ? testPattern(request, kLarge) : QImage();  // what is seen, and the overview
+    };
+    const Fixture f(kLarge, {}, memory);
+    QSignalSpy failed(f.picture.get(), &RenderedPicture::failed);
+    const QTransform t = placed(kLarge, 4, 0, {150, 100});
+    QVERIFY(f.becomesSharp(t));
+    QVERIFY(QTest::qWaitFor([&] { return f.renders() >= 3; }, 20000));
+    QVERIFY(f.becomesIdle());
+    QVERIFY(!f.picture->error());
+    QCOMPARE(failed.size(), 0);
+    QCOMPARE(f.draw(t), f.reference(t));
+  }
+
   void withTheMarginAShortScrollIsSharpAtOnce() {
     const Fixture f(kLarge);
     const QTransform t = placed(kLarge, 4, 0, {150, 100});
@@ -376,6 +394,7 @@ class RenderedPictureTest : public QObject {
     f.picture->request(placed(kSmall, 1, 0, {150, 100}), kVisible);
     QVERIFY(QTest::qWaitFor([&] { return f.picture->error().has_value(); }, 20000));
     QCOMPARE(f.picture->error()->kind, ErrorKind::Protocol);
+    QCOMPARE(f.picture->error()->message, "the picture process answered with another size");
   }
 
   void withoutAPictureProcessTheErrorIsShownAndNothingHangs() {

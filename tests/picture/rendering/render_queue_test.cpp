@@ -24,7 +24,7 @@ struct Fixture {
   std::shared_ptr<MemoryPictureProcess> process =
       std::make_shared<MemoryPictureProcess>(QByteArray(), MemoryPicture());
   std::atomic<int> notified = 0;
-  std::atomic<qint64> now = 0;
+  std::atomic<qint64> now = 1'000'000;  // from any start
   std::unique_ptr<RenderQueue> queue = std::make_unique<RenderQueue>(
       process, [this] { ++notified; }, [this] { return now.load(); });
 
@@ -113,13 +113,13 @@ class RenderQueueTest : public QObject {
     f.process->hold(PictureCall::Render);
     f.queue->setWanted({job(1)});
     QVERIFY(f.process->waitUntilHeld(PictureCall::Facts));
-    f.now = 500;
+    f.now += 500;
     f.process->release(PictureCall::Facts);
     QVERIFY(f.process->waitUntilHeld(PictureCall::Render));
-    f.now = 600;
+    f.now += 100;
     QCOMPARE(f.queue->setWanted({job(2)}), 400);
     QVERIFY(!f.notified);
-    f.now = 1000;
+    f.now += 400;
     QCOMPARE(f.queue->setWanted({job(2)}), 0);
     QVERIFY(f.waitFor(1));
     QCOMPARE(f.process->cancelledCalls(), 1);

@@ -207,6 +207,34 @@ class RenderedPictureTest : public QObject {
     QCOMPARE(f.process->renderRequests().first().pixelSize, QSize(200, 100));
   }
 
+  void anOverviewThatCannotBeDrawnIsAskedForOnce() {
+    std::atomic<int> overviews = 0;
+    MemoryPicture memory;
+    memory.paint = [&](const RenderRequest& request) {
+      if (request.pictureToDevice.m11() >= 1) return testPattern(request, kLarge);
+      ++overviews;
+      return QImage();
+    };
+    const Fixture f(kLarge, {}, memory);
+    for (const double x : {150.0, -1850.0, -3850.0}) {
+      QVERIFY(f.becomesSharp(placed(kLarge, 4, 0, {x, 100})));
+      QTRY_COMPARE(overviews.load(), 1);
+      QVERIFY(f.becomesIdle());
+    }
+    QVERIFY(!f.picture->error());
+    QCOMPARE(overviews.load(), 1);
+  }
+
+  void theLastEightScalesAreSharpAtOnce() {
+    const Fixture f(kSmall);
+    const auto scaled = [](int step) { return placed(kSmall, 1 + 0.1 * step, 0, {150, 100}); };
+    for (int step = 0; step < 8; ++step) QVERIFY(f.becomesSharp(scaled(step)));
+    for (int step = 0; step < 8; ++step) QVERIFY(f.picture->isSharpFor(scaled(step), kVisible));
+    QVERIFY(f.becomesSharp(scaled(8)));
+    QVERIFY(!f.picture->isSharpFor(scaled(0), kVisible));
+    QVERIFY(f.picture->isSharpFor(scaled(1), kVisible));
+  }
+
   void anOverviewMayBeFourTimesAsLongAsABitmap() {
     const QSizeF strip(16384, 64);
     RenderedPictureOptions options;

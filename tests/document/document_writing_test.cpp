@@ -10,6 +10,7 @@
 #include "kit/test_main.h"
 #include "picture/eps_image_rep.h"
 #include "picture/image_rep.h"
+#include "picture/pdf_image_rep.h"
 #include "picture/process/null_picture_service.h"
 
 using namespace norvex;
@@ -178,6 +179,19 @@ class DocumentWritingTest : public QObject {
     QCOMPARE(error.recoverySuggestion, QStringLiteral("the result could not be opened again: it has no end"));
     QCOMPARE(error.code, 5);
     QCOMPARE(contentOf(folder_->filePath(QStringLiteral("a.pdf"))), QByteArray("pdfData"));
+  }
+  /// The picture that is shown was opened from just these bytes.
+  void whatIsHandedOnAsItIsNeedsNoOtherOpening() {
+    const auto showing = [this](const QByteArray& bytes) {
+      producers_.shown =
+          NSPDFImageRep::imageRepWithProcess(service_.open(bytes, PictureKind::Pdf), bytes, PictureFacts());
+    };
+    producers_.bytes = "%PDF-1.7\n1 0 obj";
+    showing("%PDF-1.7\n");
+    QVERIFY(!document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));
+    showing(producers_.bytes);
+    QVERIFY(document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));
+    QCOMPARE(contentOf(folder_->filePath(QStringLiteral("a.pdf"))), producers_.bytes);
   }
   void aFileThatLacksSomethingReplacesAnotherOnlyWhenTheUserSaysSo() {
     QVERIFY(document_->writeToURL(url("a.pdf"), QStringLiteral("com.adobe.pdf")));

@@ -17,6 +17,9 @@ class LengthTextTest : public QObject {
     QCOMPARE(lengthText(72, LengthUnit::Millimetres), QString("25.4"));
     QCOMPARE(lengthText(9, LengthUnit::Inches), QString("0.125"));
     QCOMPARE(lengthText(15, LengthUnit::Picas), QString("1.25"));
+    QCOMPARE(lengthText(10, LengthUnit::Millimetres), QString("3.5"));
+    QCOMPARE(lengthText(1, LengthUnit::Inches), QString("0.014"));
+    QCOMPARE(lengthText(1, LengthUnit::Picas), QString("0.08"));
   }
 
   void nothingIsNeverNegative() { QCOMPARE(lengthText(-0.01, LengthUnit::Points), QString("0")); }

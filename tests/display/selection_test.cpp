@@ -89,6 +89,49 @@ class SelectionTest : public QObject {
     QCOMPARE(f.view.selection().state(), Selection::State::Rectangle);
   }
 
+  /// Y runs up: the bottom edge is that of the smaller numbers.
+  void aHeldEdgeFollowsThePointerAndTheOthersStay_data() {
+    QTest::addColumn<Qt::Edges>("edges");
+    QTest::addColumn<QPointF>("step");
+    QTest::addColumn<QRectF>("rect");
+    const auto row = [](const char* name, Qt::Edges edges, const QPointF& step, const QRectF& rect) {
+      QTest::newRow(name) << edges << step << rect;
+    };
+    const Qt::Edges all = Qt::LeftEdge | Qt::RightEdge | Qt::TopEdge | Qt::BottomEdge;
+    row("left, outwards", Qt::LeftEdge, {-10, 7}, {-60, -20, 50, 30});
+    row("left, inwards", Qt::LeftEdge, {10, 7}, {-40, -20, 30, 30});
+    row("right", Qt::RightEdge, {10, 7}, {-50, -20, 50, 30});
+    row("bottom", Qt::BottomEdge, {7, -10}, {-50, -30, 40, 40});
+    row("top", Qt::TopEdge, {7, 5}, {-50, -20, 40, 35});
+    row("upper right corner", Qt::RightEdge | Qt::TopEdge, {10, 5}, {-50, -20, 50, 35});
+    row("lower left corner", Qt::LeftEdge | Qt::BottomEdge, {-10, -5}, {-60, -25, 50, 35});
+    row("left, beyond the right one", Qt::LeftEdge, {60, 0}, {-10, -20, 20, 30});
+    row("right, beyond the left one", Qt::RightEdge, {-60, 0}, {-70, -20, 20, 30});
+    row("left, onto the right one", Qt::LeftEdge, {40, 0}, {-10, -20, 1, 30});
+    row("left, out of the view", Qt::LeftEdge, {-500, 0}, {-100, -20, 90, 30});
+    row("right, out of the view", Qt::RightEdge, {500, 0}, {-50, -20, 150, 30});
+    row("all", all, {10, 5}, {-40, -15, 40, 30});
+    row("all, out of the view", all, {500, 500}, {60, 20, 40, 30});
+    row("all, out of the view on the other side", all, {-500, -500}, {-100, -50, 40, 30});
+  }
+  void aHeldEdgeFollowsThePointerAndTheOthersStay() {
+    QFETCH(Qt::Edges, edges);
+    QFETCH(QPointF, step);
+    WithRectangle f;
+    QVERIFY(f.view.mouseDownOnHandle(edges, {3, 4}));
+    f.view.mouseDragged(QPointF(3, 4) + step / 2);
+    f.view.mouseUp(QPointF(3, 4) + step);
+    QTEST(f.view.selectRect(), "rect");
+    QCOMPARE(f.view.selection().state(), Selection::State::Rectangle);
+  }
+
+  void aClickOnAHeldEdgeIsAClick() {
+    WithRectangle f;
+    QVERIFY(f.view.mouseDownOnHandle(Qt::LeftEdge, {-50, 0}));
+    f.view.mouseUp({-50, 0});
+    QCOMPARE(f.view.selection().state(), Selection::State::None);
+  }
+
   void aSecondDragWithoutAreaLeavesTheStartPoint_data() {
     QTest::addColumn<QPointF>("end");
     QTest::newRow("row, to the right") << QPointF(40, 20);

@@ -59,6 +59,9 @@ class InkImageTest : public QObject {
     PageInks page = row({inks({0, 0, 0, 0, 102})});
     page.inks[4].alternate = ProcessInks{0, 255, 0, 0};  // 236 0 140
     QCOMPARE(inkImage(page, everyInk(page)).pixel(0, 0), qRgb(247, 153, 209));
+    PageInks full = row({inks({0, 0, 0, 0, 255})});
+    full.inks[4].alternate = ProcessInks{0, 0, 0, 255};
+    QCOMPARE(inkImage(full, everyInk(full)).pixel(0, 0), qRgb(35, 31, 32));
   }
 
   void everyOverprintOfFullInksIsAsTheScreenShowsIt() {

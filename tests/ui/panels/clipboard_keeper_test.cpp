@@ -54,9 +54,12 @@ class ClipboardKeeperTest : public QObject {
       QVERIFY(!unpackedMimeData(packed.left(length)));
     const QByteArray mark("norvex clipboard 1\n");
     QVERIFY(packed.startsWith(mark));
-    for (const int place : {-1, 1}) {  // of the content: there is one
-      const QCborArray formats{QCborArray{"application/pdf", place}};
-      QVERIFY(!unpackedMimeData(mark + QCborValue(QCborArray{formats, QCborArray{packed}}).toCbor()));
+    for (const int place : {-1, 0, 1}) {  // of the content: there is one
+      QCborArray formats;
+      formats << QCborArray{"application/pdf", place};
+      const bool isThere =
+          unpackedMimeData(mark + QCborValue(QCborArray{formats, QCborArray{packed}}).toCbor()) != nullptr;
+      QCOMPARE(isThere, place == 0);
     }
   }
 

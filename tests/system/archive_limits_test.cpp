@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QSet>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -75,19 +76,32 @@ QList<qint64> workingBelow(qint64 program) {
   return working;
 }
 
-/// The most pictures that a run has at a time.
+/// The picture processes of a run. One that is over, and only waits for somebody to hear of it, has no pages.
+QSet<qint64> picturesOf(qint64 program) {
+  const auto contents = [](qint64 process, const char* name) {
+    QFile file(QStringLiteral("/proc/%1/%2").arg(process).arg(QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  };
+  QSet<qint64> pictures;
+  for (const qint64 child : childrenOf(program))
+    for (const qint64 picture : childrenOf(child))
+      if (contents(picture, "comm").startsWith("norvex-worker") &&
+          !contents(picture, "statm").startsWith("0 "))
+        pictures << picture;
+  return pictures;
+}
+
+/// The most pictures that a run works on at a time: a process that has answered is there for a moment more,
+/// so that those count which were there before, too.
 qsizetype mostPictures(const QStringList& arguments) {
   QProcess run;
   run.start(norvexProgram(), arguments);
   qsizetype most = 0;
+  QSet<qint64> before;
   while (!run.waitForFinished(20)) {
-    qsizetype now = 0;
-    for (const qint64 child : childrenOf(run.processId()))
-      for (const qint64 picture : childrenOf(child)) {
-        QFile name(QStringLiteral("/proc/%1/comm").arg(picture));
-        if (name.open(QIODevice::ReadOnly) && name.readAll().startsWith("norvex-worker")) ++now;
-      }
-    most = std::max(most, now);
+    const QSet<qint64> now = picturesOf(run.processId());
+    most = std::max(most, (QSet<qint64>(now) & before).size());
+    before = now;
   }
   return run.exitCode() == 0 ? most : -1;
 }

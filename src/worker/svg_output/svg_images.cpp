@@ -142,10 +142,13 @@ std::optional<SvgPixels> SvgImages::shadesOf(const ImageSource& mask) {
 QByteArray SvgImages::elementOf(const SvgPixels& pixels, const QByteArray& attributes) {
   int rows = pixels.height;
   QByteArray png = pngOf(pixels, 0, rows);
+  if (png.isEmpty()) {  // libpng neither writes nor reads more than a million pixels a side
+    leftOut_ = true;
+    return {};
+  }
   if (png.size() < limits::maximumSvgAttribute / 4 * 3 - 100)
-    return png.isEmpty() ? QByteArray()
-                         : "<image" + sizeAttributes(pixels.width, rows) + attributes +
-                               attribute("xlink:href", dataAddress("image/png", png)) + "/>";
+    return "<image" + sizeAttributes(pixels.width, rows) + attributes +
+           attribute("xlink:href", dataAddress("image/png", png)) + "/>";
   rows = std::max(1, int(rows / (2 + png.size() / (limits::maximumSvgAttribute / 2))));
   QByteArray bands = "<g" + attributes + '>';
   for (int y = 0; y < pixels.height; y += rows) {

@@ -55,15 +55,27 @@ MadeSvg fourPixels(const QByteArray& size, const QByteArray& more = {}) {
 class SvgImagesTest : public QObject {
   Q_OBJECT
  private slots:
-  // They are no mixture with what is beside them.
-  void thePixelsOfCirclesHaveTheirColourUpToTheEdge() {
-    const MadeSvg made(
-        page("/S sh",
-             "/Shading << /S << /ShadingType 3 /ColorSpace /DeviceRGB /Coords [50 50 10 150 50 "
-             "30] /Function << /FunctionType 2 /Domain [0 1] /C0 [1 0.5 0] /C1 [1 0.5 0] /N 1 "
-             ">> >> >>",
-             {}));
-    const QImage image = held(made);
+  // They are no mixture with what is beside them: opaque, or nothing at all.
+  void pixelsOfShadingsHaveTheirColourUpToTheEdge_data() {
+    QTest::addColumn<QByteArray>("shading");
+    const QByteArray colour("\xff\x80\0", 3), space = "/ColorSpace /DeviceRGB ";
+    QTest::newRow("circles") << "<< /ShadingType 3 " + space +
+                                    "/Coords [50 50 10 150 50 30] /Function << /FunctionType 2 /Domain [0 1] "
+                                    "/C0 [1 0.50196 0] /C1 [1 0.50196 0] /N 1 >> >>";
+    const QByteArray mesh =
+        space + "/BitsPerCoordinate 8 /BitsPerComponent 8 /BitsPerFlag 8 /Decode [0 200 0 100 0 1 0 1 0 1]";
+    QTest::newRow("triangles") << stream(QByteArray("\0\x10\x20", 3) + colour + QByteArray("\0\xf1\x33", 3) +
+                                             colour + QByteArray("\0\x77\xe5", 3) + colour,
+                                         "/ShadingType 4 " + mesh);
+    QTest::newRow("patches") << stream(QByteArray("\0\x20\x20\x10\x60\x30\xa0\x28\xe0\x60\xf0\xa0\xd0\xe0\xe0"
+                                                  "\xf0\xa0\xd0\x60\xe0\x20\xa0\x10\x60\x30",
+                                                  25) +
+                                           colour.repeated(4),
+                                       "/ShadingType 6 " + mesh);
+  }
+  void pixelsOfShadingsHaveTheirColourUpToTheEdge() {
+    QFETCH(QByteArray, shading);
+    const QImage image = held(MadeSvg(page("/S sh", "/Shading << /S 5 0 R >>", {shading})));
     QVERIFY(!image.isNull());
     int clear = 0, full = 0;
     for (int y = 0; y < image.height(); ++y)
@@ -73,6 +85,27 @@ class SvgImagesTest : public QObject {
         if (colour.alpha() > 0) QCOMPARE(colour.rgba(), qRgb(255, 128, 0));  // opaque
       }
     QVERIFY(clear > 100 && full > 100);
+  }
+
+  void imagesOfWideRowsAreThereRowByRowAndWiderOnesAreTold() {
+    const auto ofNoise = [](int width, int samples, const QByteArray& more) {
+      QByteArray noise(qsizetype(width) * samples * 2, '\0');  // of which nothing can be packed
+      quint32 seed = 4711;
+      for (char& byte : noise) byte = char((seed = seed * 1664525u + 1013904223u) >> 24);
+      return stream(noise, kImage + "/Width " + QByteArray::number(width) + " /Height 2 " + more);
+    };
+    const auto made = [&](int width) {
+      return MadeSvg(page("q 200 0 0 100 0 0 cm /I Do Q", "/XObject << /I 5 0 R >>",
+                          {ofNoise(width, 3, "/ColorSpace /DeviceRGB /SMask 6 0 R"),
+                           ofNoise(width, 1, "/ColorSpace /DeviceGray")}));
+    };
+    const MadeSvg wide = made(950'000), wider = made(1'000'001);
+    QVERIFY(!wide.error() && !wider.error());
+    QCOMPARE(wide.count("<image"), 2);
+    QCOMPARE(wide.count("<use"), 1);
+    QCOMPARE(wide.report().warnings, QStringList());
+    QCOMPARE(wider.count("<image"), 0);
+    QCOMPARE(wider.report().warnings, QStringList{"an image with more pixels than are granted was left out"});
   }
 
   // Readers smooth what is enlarged: pixels that are seen as squares are there often enough to stay some.

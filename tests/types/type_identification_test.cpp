@@ -135,6 +135,8 @@ class TypeIdentificationTest : public QObject {
                                            16)
                                     << "b.bin" << kSvgz;
     QTest::newRow("gzip of an svg, with something before its name")
+        << QByteArray("\x1F\x8B\x08\x0C\0\0\0\0\0\x03\x02\0xxa.svg\0", 20) << "b.bin" << kSvgz;
+    QTest::newRow("gzip of an svg, with something before a name that is its extension")
         << QByteArray("\x1F\x8B\x08\x0C\0\0\0\0\0\x03\x02\0xx.svg\0", 19) << "b.bin" << kSvgz;
     QTest::newRow("gzip of an svg whose name is its extension")
         << QByteArray("\x1F\x8B\x08\x08\0\0\0\0\0\x03.svg\0", 15) << "b.bin" << kSvgz;

@@ -38,6 +38,9 @@ struct Shown {
                      Qt::NoModifier);
     QCoreApplication::sendEvent(c.viewWidget(), &move);
   }
+  [[nodiscard]] Qt::ToolButtonStyle copyButtonStyle() const {
+    return qobject_cast<QToolButton*>(c.toolbar->widgetForAction(c.copyToolbarItem))->toolButtonStyle();
+  }
   [[nodiscard]] QToolButton* field() const { return c.findChild<PointerReadout*>()->field(); }
   [[nodiscard]] QString readout() const { return field()->text(); }
 
@@ -262,36 +265,30 @@ class ViewingTest : public QObject {
   void aNarrowToolbarShowsItsIconsAlone() {
     Shown f;
     f.c.zoomingScrollView()->zoomTo(8.0);
-    const auto style = [&] {
-      return qobject_cast<QToolButton*>(f.c.toolbar->widgetForAction(f.c.copyToolbarItem))->toolButtonStyle();
-    };
     f.c.window()->resize(780, 500);
-    QTRY_COMPARE(style(), Qt::ToolButtonTextBesideIcon);
+    QTRY_COMPARE(f.copyButtonStyle(), Qt::ToolButtonTextBesideIcon);
     f.c.window()->resize(420, 400);
-    QTRY_COMPARE(style(), Qt::ToolButtonIconOnly);
+    QTRY_COMPARE(f.copyButtonStyle(), Qt::ToolButtonIconOnly);
     for (QAction* action : f.c.toolbar->actions())
       if (!action->isSeparator()) QTRY_VERIFY(f.c.toolbar->widgetForAction(action)->isVisible());
     f.c.window()->resize(780, 500);
-    QTRY_COMPARE(style(), Qt::ToolButtonTextBesideIcon);
+    QTRY_COMPARE(f.copyButtonStyle(), Qt::ToolButtonTextBesideIcon);
   }
 
   void aToolbarShowsItsLabelsAsSoonAsTheyFit() {
     Shown f;
     f.c.zoomingScrollView()->zoomTo(8.0);
-    const auto style = [&] {
-      return qobject_cast<QToolButton*>(f.c.toolbar->widgetForAction(f.c.copyToolbarItem))->toolButtonStyle();
-    };
     f.c.window()->resize(1000, 500);
-    QTRY_COMPARE(style(), Qt::ToolButtonTextBesideIcon);
+    QTRY_COMPARE(f.copyButtonStyle(), Qt::ToolButtonTextBesideIcon);
     const int labelled = f.c.toolbar->sizeHint().width();
     f.c.window()->resize(420, 400);
-    QTRY_COMPARE(style(), Qt::ToolButtonIconOnly);
+    QTRY_COMPARE(f.copyButtonStyle(), Qt::ToolButtonIconOnly);
     f.c.window()->resize(labelled - 1, 400);
     QTRY_COMPARE(f.c.toolbar->width(), labelled - 1);
-    QCOMPARE(style(), Qt::ToolButtonIconOnly);
+    QCOMPARE(f.copyButtonStyle(), Qt::ToolButtonIconOnly);
     f.c.window()->resize(labelled, 400);
     QTRY_COMPARE(f.c.toolbar->width(), labelled);
-    QCOMPARE(style(), Qt::ToolButtonTextBesideIcon);
+    QCOMPARE(f.copyButtonStyle(), Qt::ToolButtonTextBesideIcon);
   }
 
   void theUpperEdgeBringsTheBars() {

@@ -1,4 +1,6 @@
 // PDF documents that reach a limit: what lies behind it is passed over, or a sentence names it.
+#include <utility>
+
 #include "kit/test_main.h"
 #include "protocol/limits.h"
 #include "worker/engine/engine.h"
@@ -28,26 +30,15 @@ QByteArray withPages(int count) {
                   "<< /Type /Page /Parent 2 0 R " + kBox + " >>"});
 }
 
-/// Forms within forms, the innermost of which has a font.
-QStringList fontsBelow(int depth) {
-  QList<QByteArray> forms{"<< /Type /Font /BaseFont /Deep >>"};
+/// Forms or patterns within one another, the innermost of which has a font. `kind`: what they say of
+/// themselves; `list`: where resources name them.
+QStringList fontsBelow(int depth, const QByteArray& kind, const QByteArray& list) {
+  const auto naming = [&](int number) { return list + " << /X " + QByteArray::number(number) + " 0 R >>"; };
+  QList<QByteArray> streams{"<< /Type /Font /BaseFont /Deep >>"};
   for (int i = 1; i <= depth; ++i)
-    forms << stream("", "/Subtype /Form /Resources << " +
-                            (i < depth ? "/XObject << /F " + QByteArray::number(i + 6) + " 0 R >>"
-                                       : QByteArray("/Font << /A 5 0 R >>")) +
-                            " >>");
-  return namesOf(onePage("", kBox + " /Resources << /XObject << /F 6 0 R >> >>", forms)).fonts;
-}
-
-/// The same, of patterns.
-QStringList fontsInPatterns(int depth) {
-  QList<QByteArray> patterns{"<< /Type /Font /BaseFont /Deep >>"};
-  for (int i = 1; i <= depth; ++i)
-    patterns << stream("", "/PatternType 1 /Resources << " +
-                               (i < depth ? "/Pattern << /P " + QByteArray::number(i + 6) + " 0 R >>"
-                                          : QByteArray("/Font << /A 5 0 R >>")) +
-                               " >>");
-  return namesOf(onePage("", kBox + " /Resources << /Pattern << /P 6 0 R >> >>", patterns)).fonts;
+    streams << stream("", kind + " /Resources << " +
+                              (i < depth ? naming(i + 6) : QByteArray("/Font << /A 5 0 R >>")) + " >>");
+  return namesOf(onePage("", kBox + " /Resources << " + naming(6) + " >>", streams)).fonts;
 }
 
 /// Graphics states by the thousand before a form with a font.
@@ -106,10 +97,11 @@ class PdfLimitsTest : public QObject {
   }
 
   void resourcesWithinResourcesHaveAnEnd() {
-    QCOMPARE(fontsBelow(limits::maximumResourceDepth), QStringList{"Deep"});
-    QCOMPARE(fontsBelow(limits::maximumResourceDepth + 1), QStringList());
-    QCOMPARE(fontsInPatterns(limits::maximumResourceDepth), QStringList{"Deep"});
-    QCOMPARE(fontsInPatterns(limits::maximumResourceDepth + 1), QStringList());
+    for (const auto& [kind, list] :
+         {std::pair("/Subtype /Form", "/XObject"), std::pair("/PatternType 1", "/Pattern")}) {
+      QCOMPARE(fontsBelow(limits::maximumResourceDepth, kind, list), QStringList{"Deep"});
+      QCOMPARE(fontsBelow(limits::maximumResourceDepth + 1, kind, list), QStringList());
+    }
   }
 
   void theInksOfASpaceAreNamedUpToANumber() {

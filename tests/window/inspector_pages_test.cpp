@@ -59,8 +59,11 @@ class InspectorPagesTest : public QObject {
   void everyPageOfTheWindowHasATab() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loadedEps();
-    for (const InspectorPage& page : inspectorPages())
-      QVERIFY2(c.inspectorTabs->indexOf(c.inspectorWindow->findChild<QWidget*>(page.name)) >= 2, page.name);
+    QStringList pages;
+    for (int i = 0; i < c.inspectorTabs->count(); ++i)
+      pages << c.inspectorTabs->widget(i)->objectName() + ": " + c.inspectorTabs->tabText(i);
+    QCOMPARE(pages, QStringList({"picturePage: Picture", "sourcePage: Source", "checkPage: Check",
+                                 "inksPage: Inks"}));
   }
 };
 

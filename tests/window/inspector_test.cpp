@@ -21,6 +21,7 @@
 #include "ui/picture/norvex_view_widget.h"
 #include "ui/picture/zooming_scroll_area.h"
 #include "ui/picture/zy_image_view.h"
+#include "window/contents_display.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -402,6 +403,17 @@ class InspectorTest : public QObject {
     auto* note = c.inspectorWindow->findChild<QLabel*>("noteField");
     QVERIFY(note->isVisibleTo(note->parentWidget()));
     QCOMPARE(note->text(), QStringLiteral("The file seems cut off: its PostScript stops before its end."));
+  }
+
+  void theColourSpaceIsTheHeadersWhereItHasOne() {
+    const auto of = [](const QVariant& value) {
+      return ContentsDisplay::colorSpace({{header::ColorSpace, value}});
+    };
+    const QColorSpace own(QColorSpace::DisplayP3);
+    QVERIFY(of(QVariant::fromValue(own)) == own);
+    QVERIFY(!of(QVariant::fromValue(QColorSpace())));
+    QVERIFY(!of(QStringLiteral("sRGB")));
+    QVERIFY(!ContentsDisplay::colorSpace({}));
   }
 };
 

@@ -100,6 +100,12 @@ class SetUpTest : public QObject {
     QVERIFY(edit.isReadOnly());
   }
 
+  void linesOfTheSourceAreNotBroken() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    QCOMPARE(c.sourceTextView->textEdit()->lineWrapMode(), QPlainTextEdit::NoWrap);
+  }
+
   void sourceAndDescriptionHaveAFindBar() {
     WindowFixture fixture;
     MainWindowController& c = fixture.loadedEps();

@@ -49,8 +49,8 @@ InksCommand::~InksCommand() {
 }
 
 bool InksCommand::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == &page_ && event->type() == QEvent::Show) separate();
-  if (watched == &page_ && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) showInPicture();
+  if (event->type() == QEvent::Show) separate();
+  if (event->type() == QEvent::Show || event->type() == QEvent::Hide) showInPicture();
   return QObject::eventFilter(watched, event);
 }
 

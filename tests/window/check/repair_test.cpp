@@ -1,4 +1,5 @@
 // A mended copy from the Check page: where it goes, what is told, and which window stays.
+#include <QComboBox>
 #include <QDir>
 #include <QFileOpenEvent>
 #include <QPointer>
@@ -55,6 +56,8 @@ class RepairTest : public QObject {
     pageOf(c).findChild<QPushButton*>("repairAll")->click();
     QVERIFY(f.panel.isOpen());
     QCOMPARE(f.panel.settings.nameFieldStringValue, QStringLiteral("a_repaired.eps"));
+    QCOMPARE(f.panel.settings.message,
+             QStringLiteral("A mended copy of the file is written. What it draws stays the same."));
     const QUrl url = QUrl::fromLocalFile(f.folder.filePath("b.eps"));
     QSignalSpy ended(c.inspectorWindow->findChild<RepairCommand*>(), &RepairCommand::ended);
     f.panel.answer({true, url});
@@ -65,6 +68,7 @@ class RepairTest : public QObject {
     QVERIFY(f.read("b.eps").contains("showpage"));
     QCOMPARE(f.alerts.shown.size(), 1);
     QVERIFY(f.alerts.shown[0].informativeText.contains("showpage", Qt::CaseInsensitive));
+    QCOMPARE(f.alerts.shown[0].buttons, QStringList({"Open It", "Close"}));
     QCoreApplication::processEvents();
     QCOMPARE(opened.urls, QList<QUrl>{url});
   }
@@ -112,6 +116,7 @@ class RepairTest : public QObject {
     QSignalSpy ended(repair, &RepairCommand::ended);
     f.panel.answer({true, QUrl::fromLocalFile(f.folder.filePath("b.eps"))});
     QVERIFY(repair->isRepairing());
+    QCOMPARE(c.work().text(), QStringLiteral("Repairing…"));
     repair->run(check->findings());
     QVERIFY(!f.panel.isOpen());
     QTRY_COMPARE(f.service.openCount(), 3);
@@ -131,9 +136,23 @@ class RepairTest : public QObject {
     MainWindowController& c = f.shown();
     f.checked(c);
     pageOf(c).findChild<QPushButton*>("repairAll")->click();
-    f.panel.answer({});
+    f.panel.answer({false, QUrl::fromLocalFile(f.folder.filePath("b.eps"))});
     QVERIFY(!c.inspectorWindow->findChild<RepairCommand*>()->isRepairing());
     QCOMPARE(QDir(f.folder.path()).entryList({"*.eps"}), QStringList{"a.eps"});
+  }
+
+  void thePanelOffersWhatBecomesOfThePreview() {
+    CheckFixture f;
+    MainWindowController& c = f.shown();
+    f.checked(c);
+    pageOf(c).findChild<QPushButton*>("repairAll")->click();
+    QVERIFY(f.panel.settings.accessoryView);
+    const auto* preview = f.panel.settings.accessoryView->findChild<QComboBox*>();
+    QCOMPARE(preview->accessibleName(), QStringLiteral("Preview"));
+    QStringList offered;
+    for (int i = 0; i < preview->count(); ++i) offered << preview->itemText(i);
+    QCOMPARE(offered, QStringList({"As it is", "Made anew", "Left out"}));
+    f.panel.answer({});
   }
 
   void whyAFileCannotBeMendedIsToldInTheWindowsLanguage() {

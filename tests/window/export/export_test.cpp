@@ -257,6 +257,31 @@ class ExportTest : public QObject {
     QCOMPARE(f.alerts.shown.first().informativeText, QString("/nowhere/at/all/out.png"));
   }
 
+  void whatCannotBeMadeIsToldAndLeavesNoFile() {
+    ExportFixture f;
+    const auto process = f.service.lastProcess();
+    process->fail(PictureCall::Render, {ErrorKind::Limit, "the picture is too large"});
+    process->hold(PictureCall::Render);
+    f.dialog();
+    f.name("out");
+    QSignalSpy ended(f.command, &ExportCommand::ended);
+    emit f.command->dialog()->chosen();
+    QCOMPARE(f.controller.work().text(), QStringLiteral("Writing…"));
+    process->release(PictureCall::Render);
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(!ended[0][1].toBool());
+    QVERIFY(!QFile::exists(f.folder.filePath("out.png")));
+    QCOMPARE(f.alerts.shown.size(), 1);
+    QCOMPARE(f.alerts.shown.first().messageText, QStringLiteral("The picture is too large."));
+  }
+
+  void aFileOfTwoPagesHasPagesToChooseFrom() {
+    ExportFixture one(true, 1);
+    QCOMPARE(one.dialog().findChild<QComboBox*>("exportArea")->findText("Some pages"), -1);
+    ExportFixture two(true, 2);
+    QVERIFY(two.dialog().findChild<QComboBox*>("exportArea")->findText("Some pages") >= 0);
+  }
+
   void aWindowThatIsToCloseStaysWhereNothingWasWritten() {
     ExportFixture f;
     MainWindowController& c = f.controller;

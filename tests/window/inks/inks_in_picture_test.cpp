@@ -14,6 +14,18 @@
 
 using namespace norvex;
 
+namespace {
+
+/// The pointer goes to a point of the picture.
+void moveOver(MainWindowController& c, const QPointF& picture) {
+  NorvexViewWidget* const widget = c.viewWidget();
+  const QPointF at = widget->pictureToDevice().map(picture) / widget->devicePixelRatioF();
+  QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
+  QApplication::sendEvent(widget, &move);
+}
+
+}  // namespace
+
 class InksInPictureTest : public QObject {
   Q_OBJECT
  private slots:
@@ -206,19 +218,45 @@ class InksInPictureTest : public QObject {
     InksFixture f;
     MainWindowController& c = f.openPdf();
     f.showInPicture();
-    const auto moveTo = [&](const QPointF& picture) {
-      const QPointF at = c.viewWidget()->pictureToDevice().map(picture) / c.viewWidget()->devicePixelRatioF();
-      QMouseEvent move(QEvent::MouseMove, at, c.viewWidget()->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
-                       {});
-      QApplication::sendEvent(c.viewWidget(), &move);
-    };
-    moveTo({20, 50});
+    moveOver(c, {20, 50});
     QCOMPARE(f.list().topLevelItem(0)->text(2), "100 %");
-    moveTo({180, 50});
+    moveOver(c, {180, 50});
     QCOMPARE(f.list().topLevelItem(0)->text(2), "0 %");
     QCOMPARE(f.list().topLevelItem(4)->text(2), "100 %");
-    moveTo({-10, 50});
+    moveOver(c, {-10, 50});
     QCOMPARE(f.list().topLevelItem(4)->text(2), "");
+  }
+
+  void thePointerReadsTheSharperPlates() {
+    InksFixture f;
+    f.picture.examine = [](const ExamineRequest& request) {
+      PageInks page = twoPixels();
+      if (request.part) page.plates[0] = '\x80';  // seen from near it is half as much cyan
+      return encodePageInks(page);
+    };
+    f.service.setPicture(f.picture);
+    MainWindowController& c = f.openPdf();
+    c.window()->show();
+    f.look();
+    QVERIFY(f.listsInks());
+    f.switchOn("Show the inks in the picture");
+    QTRY_COMPARE(c.viewWidget()->standIns().size(), 2);
+    moveOver(c, {20, 50});
+    QCOMPARE(f.list().topLevelItem(0)->text(2), "50 %");
+  }
+
+  void paintingOnDoesNotKeepTheInksFromGettingSharp() {
+    InksFixture f;
+    MainWindowController& c = f.openPdf();
+    f.showInPicture();
+    const qsizetype requests = f.requests().size();
+    c.scrollArea()->scrollView().setFactor(c.scrollArea()->scrollView().factor() * 2);
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+          c.viewWidget()->repaint();
+          return f.requests().size() > requests;
+        },
+        20000));
   }
 };
 

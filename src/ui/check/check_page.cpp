@@ -130,6 +130,7 @@ QWidget* CheckPage::makeBody() {
   column->setContentsMargins(28, 28, 28, 28);
   column->setSpacing(14);
   sign_ = new QLabel(quiet);
+  sign_->setObjectName(QStringLiteral("checkSign"));
   sign_->setAlignment(Qt::AlignCenter);
   sentence_ = plainLabel(quiet);
   sentence_->setObjectName(QStringLiteral("checkSentence"));
@@ -282,7 +283,7 @@ void CheckPage::showProblem(const QString& sentence) {
 
 void CheckPage::showSentence(const QString& sentence, bool sound) {
   counts_->hide();
-  sign_->setProperty("sound", sound);
+  isSound_ = sound;
   sentence_->setText(sentence);
   showSign();
   body_->setCurrentIndex(1);
@@ -292,9 +293,8 @@ void CheckPage::showSentence(const QString& sentence, bool sound) {
 void CheckPage::showSign() {
   const bool dark = isDarkScheme(palette());
   if (sentence_->text().isEmpty()) return sign_->clear();
-  sign_->setPixmap(sign_->property("sound").toBool()
-                       ? soundIcon(kSignSide, devicePixelRatioF(), dark)
-                       : severityIcon(Severity::Warning, kSignSide, devicePixelRatioF(), dark));
+  sign_->setPixmap(isSound_ ? soundIcon(kSignSide, devicePixelRatioF(), dark)
+                            : severityIcon(Severity::Warning, kSignSide, devicePixelRatioF(), dark));
 }
 
 void CheckPage::tell(const QString& sentence) {
@@ -305,10 +305,7 @@ void CheckPage::tell(const QString& sentence) {
 }
 
 void CheckPage::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange && sign_) {
-    makeQuiet(*incomplete_);
-    showSign();
-  }
+  if (event->type() == QEvent::PaletteChange && sign_) showSign();
   QWidget::changeEvent(event);
 }
 

@@ -73,6 +73,7 @@ class CheckPage final : public QWidget {
   QComboBox* profiles_ = nullptr;
   QPushButton *again_ = nullptr, *repairAll_ = nullptr;
   QLabel *counts_ = nullptr, *incomplete_ = nullptr, *sign_ = nullptr, *sentence_ = nullptr;
+  bool isSound_ = false;  ///< what the sign says
   QProgressBar* progress_ = nullptr;
   QStackedWidget* body_ = nullptr;
   QScrollArea* scroll_ = nullptr;

@@ -67,10 +67,7 @@ QLabel* FindingRow::addText(const QString& text, bool quiet) {
   label->setText(text);
   label->setAttribute(Qt::WA_TransparentForMouseEvents);
   label->setMinimumWidth(1);
-  if (quiet) {
-    quiet_ << label;
-    makeQuiet(*label);
-  }
+  if (quiet) makeQuiet(*label);
   return label;
 }
 
@@ -119,10 +116,7 @@ void FindingRow::keyPressEvent(QKeyEvent* event) {
 }
 
 void FindingRow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange) {
-    for (QLabel* label : quiet_) makeQuiet(*label);
-    showIcon();
-  }
+  if (event->type() == QEvent::PaletteChange) showIcon();
   QAbstractButton::changeEvent(event);
 }
 

@@ -37,7 +37,6 @@ class FindingRow final : public QAbstractButton {
   const Severity severity_;
   QLabel* icon_;
   QPushButton* repair_ = nullptr;
-  QList<QLabel*> quiet_;
 };
 
 }  // namespace norvex

@@ -57,12 +57,6 @@ QColor NumberMatrix::ground() const {
   return QColor::fromHslF(given.hslHueF(), std::min(0.25F, given.hslSaturationF()), 0.16F);
 }
 
-void NumberMatrix::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange)
-    for (auto* title : findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) makeQuiet(*title);
-  QWidget::changeEvent(event);
-}
-
 QLineEdit* NumberMatrix::cellAtRow(int row, int column) const {
   return cells_.at(static_cast<size_t>(row)).at(static_cast<size_t>(column));
 }

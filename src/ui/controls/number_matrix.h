@@ -32,7 +32,6 @@ class NumberMatrix final : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void changeEvent(QEvent* event) override;
 
  private:
   [[nodiscard]] QColor ground() const;

@@ -1,6 +1,5 @@
 #include "ui/controls/zy_form.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -87,15 +86,6 @@ void ZyForm::alignTitles(const QList<ZyForm*>& forms) {
   for (const ZyForm* form : forms) widest = std::max(widest, form->widestTitle());
   for (const ZyForm* form : forms)
     for (const Row& row : form->rows_) row.title->setMinimumWidth(widest);
-}
-
-void ZyForm::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange) quietTitles();
-  QWidget::changeEvent(event);
-}
-
-void ZyForm::quietTitles() {
-  for (const Row& row : rows_) makeQuiet(*row.title);
 }
 
 }  // namespace norvex

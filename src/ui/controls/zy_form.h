@@ -38,16 +38,12 @@ class ZyForm final : public QWidget {
   /// The same for several forms that stand above each other, so that their entries line up.
   static void alignTitles(const QList<ZyForm*>& forms);
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
   struct Row {
     QLabel* title;
     QLineEdit* entry;
   };
   void addRow();
-  void quietTitles();
   [[nodiscard]] int widestTitle() const;
 
   QGridLayout* layout_;

@@ -1,7 +1,6 @@
 #include "ui/pages/dock_title.h"
 
 #include <QDockWidget>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -11,7 +10,8 @@
 
 namespace norvex {
 
-DockTitle::DockTitle(QDockWidget& dock) : QWidget(&dock), title_(new QLabel(dock.windowTitle(), this)) {
+DockTitle::DockTitle(QDockWidget& dock) : QWidget(&dock) {
+  auto* title = new QLabel(dock.windowTitle(), this);
   auto* close = new QToolButton(this);
   close->setObjectName(QStringLiteral("closeDockButton"));
   close->setText(QStringLiteral("\u2715"));
@@ -21,14 +21,9 @@ DockTitle::DockTitle(QDockWidget& dock) : QWidget(&dock), title_(new QLabel(dock
   connect(close, &QToolButton::clicked, &dock, &QWidget::close);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(12, 4, 4, 4);
-  row->addWidget(title_, 1);
+  row->addWidget(title, 1);
   row->addWidget(close);
-  makeQuiet(*title_);
-}
-
-void DockTitle::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange) makeQuiet(*title_);
-  QWidget::changeEvent(event);
+  makeQuiet(*title);
 }
 
 }  // namespace norvex

@@ -4,7 +4,6 @@
 #include <QWidget>
 
 class QDockWidget;
-class QLabel;
 
 namespace norvex {
 
@@ -13,12 +12,6 @@ class DockTitle final : public QWidget {
   Q_OBJECT
  public:
   explicit DockTitle(QDockWidget& dock);
-
- protected:
-  void changeEvent(QEvent* event) override;
-
- private:
-  QLabel* title_;
 };
 
 }  // namespace norvex

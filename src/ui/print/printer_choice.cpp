@@ -39,7 +39,6 @@ PrinterChoice::PrinterChoice(PrintSpooler& spooler, QString wanted, const Cancel
   state_->setWordWrap(true);
   state_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   state_->installEventFilter(this);
-  panel->installEventFilter(this);
   makeQuiet(*state_);
   form->addRow(localizedString("P&rinter:"), printer_);
   form->addRow(QString(), state_);
@@ -144,7 +143,6 @@ void PrinterChoice::showWholeState() {
 
 bool PrinterChoice::eventFilter(QObject* watched, QEvent* event) {
   if (watched == state_ && event->type() == QEvent::Resize) showWholeState();
-  if (watched == panel_ && event->type() == QEvent::PaletteChange) makeQuiet(*state_);
   return QObject::eventFilter(watched, event);
 }
 

@@ -14,6 +14,7 @@
 #include "kit/test_main.h"
 #include "ui/check/finding_row.h"
 #include "ui/check/finding_text.h"
+#include "ui/check/severity_icon.h"
 
 using namespace norvex;
 
@@ -74,6 +75,66 @@ class CheckPageTest : public QObject {
     shown.page.showFindings({kFont}, QStringLiteral("Not everything could be checked."));
     QVERIFY(shown.sees("checkIncomplete") && shown.sees("checkCounts"));
     QCOMPARE(shown.rows().size(), 1);
+  }
+
+  void onlyWhatIsSoundHasItsSign() {
+    Shown shown;
+    const auto sign = [&] { return shown.page.findChild<QLabel*>("checkSign")->pixmap().toImage(); };
+    const QImage sound = soundIcon(44, 1, false).toImage();
+    const QImage warning = severityIcon(Severity::Warning, 44, 1, false).toImage();
+    QCOMPARE(sign(), sound);
+    shown.page.showFindings({}, QStringLiteral("Not everything could be checked."));
+    QCOMPARE(sign(), warning);
+    shown.page.showFindings({});
+    QCOMPARE(sign(), sound);
+    shown.page.showProblem(QStringLiteral("The profile cannot be read."));
+    QCOMPARE(sign(), warning);
+    shown.page.setPalette(QPalette(QColor(60, 60, 60), QColor(30, 30, 30)));
+    QCOMPARE(sign(), severityIcon(Severity::Warning, 44, 1, true).toImage());
+  }
+
+  void aCheckThatRunsCanBeStopped() {
+    Shown shown({kFont});
+    const auto* again = shown.page.findChild<QPushButton*>("checkAgain");
+    const auto* list = shown.page.findChild<QScrollArea*>();
+    QCOMPARE(again->text(), QStringLiteral("Check Again"));
+    QVERIFY(list->isVisible());
+    shown.page.showChecking();
+    QCOMPARE(again->text(), QStringLiteral("Stop"));
+    QVERIFY(!list->isVisible() && shown.sees("checkSentence") && shown.text("checkSentence").isEmpty());
+    shown.page.showFindings({kFont});
+    QCOMPARE(again->text(), QStringLiteral("Check Again"));
+    QVERIFY(list->isVisible());
+    QCOMPARE(list->widget()->accessibleName(), QStringLiteral("Findings"));
+  }
+
+  void aFindingsWordsStandBesideItsSignAndItsButtonAtTheRight() {
+    Shown shown({kCut});
+    const FindingRow& row = *shown.rows()[0];
+    const QList<QLabel*> labels = row.findChildren<QLabel*>();
+    const QLabel* sign = *std::find_if(labels.begin(), labels.end(),
+                                       [](const QLabel* each) { return !each->pixmap().isNull(); });
+    int left = -1;
+    for (const QLabel* words : labels) {
+      if (words == sign) continue;
+      if (left < 0) left = words->x();
+      QCOMPARE(words->x(), left);
+      QVERIFY(words->x() > sign->geometry().right());
+    }
+    QVERIFY(row.repairButton()->geometry().right() > row.width() - 20);
+  }
+
+  void aSeveritysSignIsTheSameFromBothSides() {
+    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
+      const QImage sign = severityIcon(severity, 256, 1, false).toImage();
+      int others = 0;  // beyond what the smoothing of an edge makes of it
+      for (int y = 0; y < 256; ++y)
+        for (int x = 0; x < 128; ++x) {
+          const QColor one = sign.pixelColor(x, y), other = sign.pixelColor(255 - x, y);
+          others += qAbs(one.alpha() - other.alpha()) > 128 || qAbs(one.green() - other.green()) > 64;
+        }
+      QVERIFY2(others < 20, qPrintable(QString::number(others)));
+    }
   }
 
   void whatRepairMendsHasAButtonAndNothingElse() {

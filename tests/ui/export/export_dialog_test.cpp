@@ -282,6 +282,60 @@ class ExportDialogTest : public QObject {
     QCOMPARE(f.find<QLabel>("exportExpected")->text(), QString("File size: 2.2 KiB"));
     QVERIFY(f.find<QLabel>("exportRemarks")->isHidden());
   }
+
+  void everyRowSaysWhatItIs() {
+    Shown f;
+    QCOMPARE(f.dialog.windowTitle(), QString("Export"));
+    QStringList texts;
+    for (const auto* label : f.dialog.findChildren<QLabel*>())
+      if (!label->text().isEmpty()) texts << label->text();
+    for (const char* title : {"Format:", "Part:", "From page:", "Resolution:", "Size:", "×", "pixels",
+                              "Colours:", "Background:", "Quality:", "Name:"})
+      QVERIFY2(texts.contains(QString::fromUtf8(title)), title);
+    QStringList colors;
+    const auto* list = f.find<QComboBox>("exportColor");
+    for (int i = 0; i < list->count(); ++i) colors << list->itemText(i);
+    QCOMPARE(colors, QStringList({"RGB for screens", "Shades of grey", "CMYK for print"}));
+    QCOMPARE(f.find<QCheckBox>("exportLossless")->text(), QString("Lossless"));
+    QCOMPARE(f.find<QCheckBox>("exportText")->text(), QString("Keep text as text, with its fonts"));
+    QCOMPARE(f.find<QSpinBox>("firstPage")->accessibleName(), QString("First page"));
+    QCOMPARE(f.find<QSpinBox>("lastPage")->accessibleName(), QString("Last page"));
+  }
+
+  void aColourStaysWhereTheOtherFormatHoldsIt() {
+    Shown f;
+    f.choose(PictureFormat::Png);
+    f.find<QComboBox>("exportColor")->setCurrentIndex(int(OutputColor::Grey));
+    f.choose(PictureFormat::Jpeg);
+    QCOMPARE(f.dialog.choice().color, OutputColor::Grey);
+    f.find<QComboBox>("exportColor")->setCurrentIndex(int(OutputColor::Cmyk));
+    f.choose(PictureFormat::Png);  // which has no such pixels
+    QCOMPARE(f.dialog.choice().color, OutputColor::Rgb);
+  }
+
+  void thePagesBelongToTheirPartAlone() {
+    ExportOffer own = offer();
+    own.areas << ExportOffer::Area{ExportArea::Pages, {200, 100}};
+    own.pageCount = 5;
+    own.shownPage = 2;
+    ExportChoice pdf;
+    pdf.format = PictureFormat::Pdf;
+    const ExportDialog dialog(nullptr, own, pdf);
+    auto* areas = dialog.findChild<QComboBox*>("exportArea");
+    const ExportChoice unchosen;
+    QCOMPARE(dialog.choice().firstPage, unchosen.firstPage);
+    QCOMPARE(dialog.choice().lastPage, unchosen.lastPage);
+    areas->setCurrentIndex(3);
+    QCOMPARE(dialog.choice().firstPage, 3);
+    QCOMPARE(dialog.choice().lastPage, 5);
+  }
+
+  void theQualityGoesFromOneToAHundred() {
+    Shown f;
+    const auto* quality = f.find<QSpinBox>("exportQuality");
+    QCOMPARE(quality->minimum(), 1);
+    QCOMPARE(quality->maximum(), 100);
+  }
 };
 
 NORVEX_TEST(ExportDialogTest)

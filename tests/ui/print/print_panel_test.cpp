@@ -1,14 +1,15 @@
-// The print panel and the page-layout sheet as people use them.
+// The print panel as people use it.
 #include "ui/print/print_panel.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QThread>
@@ -21,11 +22,11 @@
 #include "picture/process/null_picture_service.h"
 #include "print/memory_printing.h"
 #include "ui/panels/centred_window.h"
+#include "ui/print/a4_settings.h"
 #include "ui/print/page_layout_preview.h"
-#include "ui/print/page_layout_sheet.h"
 #include "ui/print/print_interaction.h"
 #include "ui/print/printer_choice.h"
-#include "ui/print/zy_page_layout_accessory.h"
+#include "ui/style/quiet_text.h"
 
 using namespace norvex;
 using kit::MemorySpooler;
@@ -36,17 +37,19 @@ class Drawing final : public PrintableView {
  public:
   using Picture = std::function<Result<PictureBytes>(const CancelToken&)>;
   explicit Drawing(const QSizeF& size, Picture picture = {}, QList<QSizeF> pages = {}, int pageCount = 0,
-                   QString title = "A drawing")
+                   QString title = "A drawing", Picture other = {})
       : size_(size),
         picture_(std::move(picture)),
         pages_(std::move(pages)),
         pageCount_(pageCount),
-        title_(std::move(title)) {}
+        title_(std::move(title)),
+        other_(std::move(other)) {}
   [[nodiscard]] PrintSource printSource() const override {
     PrintSource source;
     source.shown.size = size_;
     source.shown.picture = picture_;
-    for (const QSizeF& page : pages_) source.pages << PrintPage{page, picture_};
+    for (const QSizeF& page : pages_)
+      source.pages << PrintPage{page, other_ && source.pages.size() == 1 ? other_ : picture_};
     source.shownPage = 1;
     source.pageCount = pageCount_;
     source.jobTitle = title_;
@@ -61,15 +64,8 @@ class Drawing final : public PrintableView {
   QList<QSizeF> pages_;  ///< of a document with several; the second is the one that is shown
   int pageCount_;
   QString title_;
+  Picture other_;  ///< of the second page, where that is not the first one's
 };
-
-NSPrintInfo a4() {
-  NSPrintInfo info;
-  info.setPaper(*paperNamed("A4"));
-  for (const char* margin : {NSPrintLeftMargin, NSPrintRightMargin, NSPrintTopMargin, NSPrintBottomMargin})
-    info.set(margin, 0.0);
-  return info;
-}
 
 const QList<Printer> kPrinters{{"office", "Office laser", PrinterState::Idle, true, false},
                                {"hall", "Hall", PrinterState::Stopped, true, true},
@@ -85,6 +81,7 @@ class PrintPanelTest : public QObject {
   std::unique_ptr<NSPrintOperation> operation_;
   std::unique_ptr<PrintPanel> panel_;
   Drawing::Picture picture_;  ///< of the next panel; none: blank pages
+  Drawing::Picture other_;    ///< of the next panel's second page; none: the same
   QList<QSizeF> pages_;       ///< of the next panel's document; none: there is one
   int pageCount_ = 0;         ///< of it; 0: no more than those
   QString title_ = "A drawing";
@@ -93,7 +90,7 @@ class PrintPanelTest : public QObject {
     panel_.reset();
     spooler_ = std::make_unique<MemorySpooler>(printers);
     operation_ = NSPrintOperation::printOperationWithView(
-        std::make_unique<Drawing>(size, picture_, pages_, pageCount_, title_), info,
+        std::make_unique<Drawing>(size, picture_, pages_, pageCount_, title_, other_), info,
         {&service_, spooler_.get(), nullptr});
     operation_->printPanel().setOptions(operation_->printPanel().options() | 28);
     panel_ = std::make_unique<PrintPanel>(*operation_, *spooler_, nullptr);
@@ -117,6 +114,7 @@ class PrintPanelTest : public QObject {
   void cleanup() {
     panel_.reset();
     picture_ = {};
+    other_ = {};
     pages_ = {};
     pageCount_ = 0;
     title_ = "A drawing";
@@ -423,42 +421,93 @@ class PrintPanelTest : public QObject {
     QVERIFY(stopped);
   }
 
-  // ---- the page-layout sheet ----------------------------------------------------------------------------
-
-  void theSheetChangesWhatIsChosenAndNothingElse() {
+  void everyPageHasItsOwnPictureWhichIsAskedForOnce() {
+    std::atomic<int> first = 0, second = 0;
+    const auto counting = [](std::atomic<int>& asked) {
+      return [&asked](const CancelToken&) -> Result<PictureBytes> {
+        ++asked;
+        return PictureBytes{"%PDF-1.4 of nothing", {}};
+      };
+    };
+    picture_ = counting(first);
+    pages_ = {{3000, 2000}, {200, 100}};
+    other_ = counting(second);
     NSPrintInfo info = a4();
-    info.set("SomebodysEntry", 5);
-    info.setLeftMargin(12.3456);
-    info.setScalingFactor(1.0 / 3);
-    PageLayoutSheet sheet(info, nullptr);
-    sheet.addAccessoryController(new ZyPageLayoutAccessory);
-    sheet.findChild<QRadioButton*>("landscape")->click();
-    sheet.findChild<QDoubleSpinBox*>("topMargin")->setValue(10);
-    sheet.findChild<QCheckBox*>("headerAndFooter")->click();
-    sheet.findChild<QCheckBox*>("centreVertically")->click();
-    const NSPrintInfo& chosen = sheet.printInfo();
-    QCOMPARE(chosen.orientation(), NSPaperOrientation::Landscape);
-    QVERIFY(std::abs(chosen.topMargin() - 10 * 72 / 25.4) < 1e-9);
-    QCOMPARE(chosen.leftMargin(), 12.3456);
-    QCOMPARE(chosen.scalingFactor(), 1.0 / 3);
-    QVERIFY(chosen.printsHeaderAndFooter() && !chosen.isVerticallyCentered() &&
-            chosen.isHorizontallyCentered());
-    QCOMPARE(chosen.dictionary().value("SomebodysEntry"), QVariant(5));
+    info.setDocumentPages(DocumentPages::All);
+    open({200, 100}, kPrinters, info);
+    QTRY_COMPARE(int(first), 1);
+    QTest::qWait(200);  // until it is drawn
+    child<QToolButton>("nextPage")->click();
+    QTest::qWait(200);
+    QCOMPARE(int(first), 1);  // the same picture on another sheet
+    QCOMPARE(int(second), 0);
+    while (child<QToolButton>("nextPage")->isEnabled()) child<QToolButton>("nextPage")->click();
+    QTRY_COMPARE(int(second), 1);
+    QCOMPARE(int(first), 1);
+    panel_.reset();
   }
 
-  void theSheetShowsTheSettings() {
-    NSPrintInfo info = a4();
-    info.setPaper(*paperNamed("A5"));
-    info.setScalingFactor(0.75);
-    info.setRightMargin(72);
-    info.setHorizontallyCentered(false);
-    PageLayoutSheet sheet(info, nullptr);
-    sheet.addAccessoryController(new ZyPageLayoutAccessory);
-    QCOMPARE(sheet.findChild<QComboBox*>("paper")->currentData().toString(), QString("iso_a5_148x210mm"));
-    QVERIFY(sheet.findChild<QRadioButton*>("portrait")->isChecked());
-    QCOMPARE(sheet.findChild<QDoubleSpinBox*>("scaling")->value(), 75.0);
-    QCOMPARE(sheet.findChild<QDoubleSpinBox*>("rightMargin")->value(), 25.4);
-    QVERIFY(!sheet.findChild<QCheckBox*>("centreHorizontally")->isChecked());
+  void aPrinterThatWasChosenStaysOnceInTheList() {
+    open({100, 100});
+    choose("printer", "office");
+    QCOMPARE(child<QComboBox>("printer")->currentIndex(), 0);
+    panel_->findChild<PrinterChoice*>()->fetchPrinters();
+    spooler_->setPrinters(kPrinters.mid(0, 2));
+    auto* list = child<QComboBox>("printer");
+    QTRY_COMPARE(list->count(), 4);
+    panel_->findChild<PrinterChoice*>()->fetchPrinters();
+    QTRY_COMPARE(list->count(), 3);
+    QCOMPARE(list->currentText(), QString("Office laser"));
+  }
+
+  void nobodyIsAskedForPrintersWhileSomebodyChooses() {
+    open({100, 100});
+    std::atomic<int> asked = 0;
+    spooler_->waitForPrinters = [&asked](const CancelToken&) { ++asked; };
+    auto* list = child<QComboBox>("printer");
+    list->showPopup();
+    QVERIFY(list->view()->isVisible());
+    panel_->findChild<PrinterChoice*>()->fetchPrinters();
+    list->hidePopup();
+    QTest::qWait(50);
+    QCOMPARE(int(asked), 0);
+    panel_->findChild<PrinterChoice*>()->fetchPrinters();
+    QTRY_COMPARE(int(asked), 1);
+    panel_.reset();
+  }
+
+  void theStateIsReadableInAnotherScheme() {
+    open({100, 100});
+    const QPalette usual = QApplication::palette();
+    const auto back = qScopeGuard([&] { QApplication::setPalette(usual); });
+    const QPalette dark(QColor(60, 60, 60), QColor(30, 30, 30));
+    QApplication::setPalette(dark);
+    QTRY_COMPARE(child<QLabel>("printerState")->palette().color(QPalette::WindowText), quietTextColor(dark));
+  }
+
+  void whatThePanelSays() {
+    pages_ = {{100, 100}, {100, 100}};
+    open({100, 100});
+    const auto* which = child<QComboBox>("documentPages");
+    QCOMPARE(which->itemText(2), QString("Some pages"));
+    QCOMPARE(child<QToolButton>("previousPage")->accessibleName(), QString("Previous page"));
+    QCOMPARE(child<QToolButton>("nextPage")->accessibleName(), QString("Next page"));
+    const auto says = [this](const QString& text) {
+      for (const auto* label : panel_->findChildren<QLabel*>())
+        if (label->text() == text) return true;
+      return false;
+    };
+    QVERIFY(says("Sheets:") && !says("Pages:"));
+    pages_ = {};
+    open({100, 100});
+    QVERIFY(says("Pages:") && !says("Sheets:"));
+  }
+
+  void aScaleIsWithinWhatCanBePrinted() {
+    open({100, 100});
+    const auto* scaling = child<QDoubleSpinBox>("scaling");
+    QCOMPARE(scaling->minimum(), NSPrintInfo::smallestScalingFactor * 100);
+    QCOMPARE(scaling->maximum(), NSPrintInfo::largestScalingFactor * 100);
   }
 
   void itGoesWithItsWindow() {

@@ -1,12 +1,15 @@
-// The letters that choose an entry of a menu: in no language do two entries of one menu share one, which
-// would have the key move between them and choose neither.
+// The menus: their letters, what the right button offers, and what a narrow toolbar has no room for.
 #include <QAction>
 #include <QHash>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
 #include <QTranslator>
 
 #include "kit/test_main.h"
+#include "ui/picture/norvex_view_widget.h"
 #include "window/window_fixture.h"
 
 using namespace norvex;
@@ -38,11 +41,20 @@ QStringList clashes(const QList<QAction*>& entries, const QString& menu, int& lo
   return found;
 }
 
+/// The menu that a right click at the picture's middle opens; null without one.
+QMenu* menuOf(MainWindowController& c) {
+  c.window()->show();
+  NorvexViewWidget* const picture = c.viewWidget();
+  emit picture->customContextMenuRequested(picture->rect().center());
+  return picture->findChild<QMenu*>("pictureMenu");
+}
+
 }  // namespace
 
-class MenuMnemonicsTest : public QObject {
+class MenusTest : public QObject {
   Q_OBJECT
  private slots:
+  /// Two that share one would have the key move between them and choose neither.
   void noTwoEntriesOfAMenuShareALetter_data() {
     QTest::addColumn<QString>("language");
     for (const char* language : {"en", "de", "es", "fr", "ja", "zh_CN"}) QTest::newRow(language) << language;
@@ -65,7 +77,35 @@ class MenuMnemonicsTest : public QObject {
     QVERIFY(looked > 40);
     QVERIFY2(found.isEmpty(), qPrintable('\n' + found.join('\n')));
   }
+
+  void theRightButtonOffersTheCommandsForThePicture() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    QMenu* menu = menuOf(c);
+    QVERIFY(menu && menu->isVisible());
+    QStringList commands;
+    for (const QAction* action : menu->actions())
+      commands << (action->isSeparator() ? QStringLiteral("-") : action->objectName());
+    QCOMPARE(commands,
+             QStringList({"copyToolbarItem", "doSaveToToolbarItem", "-", "selectAllAction", "deselectAction",
+                          "-", "rotateLeftAction", "rotateRightAction", "resetRotationAction"}));
+    menu->close();
+  }
+
+  void withoutAPictureThereIsNoMenu() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loaded("no picture", "a.eps", NorvexEPSType);
+    QVERIFY(!menuOf(c));
+  }
+
+  void theButtonForWhatHasNoRoomHasAName() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    const auto* more = c.toolbar->findChild<QToolButton*>("qt_toolbar_ext_button");
+    QVERIFY(more);
+    QCOMPARE(more->accessibleName(), QStringLiteral("More"));
+  }
 };
 
-NORVEX_TEST(MenuMnemonicsTest)
-#include "menu_mnemonics_test.moc"
+NORVEX_TEST(MenusTest)
+#include "menus_test.moc"

@@ -73,7 +73,6 @@ qsizetype SourceBlocks::textPosition(qsizetype shownPosition) const {
 
 QString SourceBlocks::shown(int first, int end) const {
   QString all;
-  if (first >= end) return all;
   for (int i = first; i < end; ++i) {
     if (i > first) all += u'\n';
     all += block(i);

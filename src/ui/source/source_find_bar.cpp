@@ -39,6 +39,7 @@ SourceFindBar::SourceFindBar(QWidget* parent)
   needle_->setPlaceholderText(localizedString("Find"));
   needle_->setAccessibleName(localizedString("Find"));
   needle_->setClearButtonEnabled(true);
+  makeQuiet(*outcome_);
   outcome_->setTextFormat(Qt::PlainText);
   outcome_->setAccessibleName(localizedString("Matches"));
   outcome_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -85,7 +86,6 @@ void SourceFindBar::showOutcome(qsizetype index, qsizetype count) {
     outcome_->setText(goesOn_ ? localizedString("Not on this page") : localizedString("Not found"));
   else
     outcome_->setText(localizedString("%1 of %2").arg(locale.toString(index + 1), locale.toString(count)));
-  makeQuiet(*outcome_);
   const bool leads = count > 0 || (goesOn_ && !needle().isEmpty());
   previous_->setEnabled(leads);
   next_->setEnabled(leads);

@@ -84,6 +84,16 @@ class SourceBlocksTest : public QObject {
     QCOMPARE(sourceLanguage(QString()), SourceLanguage::Plain);
   }
 
+  void aStructureCommentBeginsItsLine() {
+    QCOMPARE(coloured(QStringLiteral("%!PS\n0 %%Title: a\n%%Page: 1 1\n")),
+             QStringList({"Structure:%!PS", "Comment:%%Title: a", "Structure:%%Page: 1 1"}));
+  }
+
+  void ofACharacterSectionTheEndsAreTags() {
+    QCOMPARE(coloured(QStringLiteral("<svg><![CDATA[a < b]]></svg>")),
+             QStringList({"Tag:<svg", "Tag:>", "Tag:<![CDATA[", "Tag:]]>", "Tag:</svg", "Tag:>"}));
+  }
+
   void commentsOfPostScript() {
     QCOMPARE(coloured(QStringLiteral("%!PS\n%%Title: a\n0 1 add % sum\n(10 % of) show %x\n(a\\)% b) pop\n")),
              QStringList({"Structure:%!PS", "Structure:%%Title: a", "Comment:% sum", "Comment:%x"}));

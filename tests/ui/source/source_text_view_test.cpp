@@ -157,6 +157,48 @@ class SourceTextViewTest : public QObject {
     QCOMPARE(pane.view.findBar()->outcome(), QStringLiteral("3 of 3"));
   }
 
+  void theButtonsGoFromHitToHitAndCloseTheBar() {
+    Pane pane(kPostScript);
+    pane.view.showFindBar();
+    pane.view.findBar()->setNeedle(QStringLiteral("lineto"));
+    const auto press = [&](const char* name) {
+      for (auto* button : pane.view.findBar()->findChildren<QAbstractButton*>())
+        if (button->accessibleName() == QLatin1String(name)) return button->click();
+      qFatal("no button %s", name);
+    };
+    press("Next");
+    QCOMPARE(pane.view.findBar()->outcome(), QStringLiteral("2 of 3"));
+    press("Previous");
+    press("Previous");
+    QCOMPARE(pane.view.findBar()->outcome(), QStringLiteral("3 of 3"));
+    press("Close the find bar");
+    QVERIFY(!pane.view.findBar()->isVisible());
+    pane.view.findBar()->showFoundNowhere();
+    QCOMPARE(pane.view.findBar()->outcome(), QStringLiteral("Not found"));
+  }
+
+  void everyHitInSightIsMarkedAsLongAsItIs() {
+    for (const bool prose : {false, true}) {
+      Pane pane(QStringLiteral("lineto and LINETO\nlineto\n"));
+      pane.view.setLineWrapping(prose);
+      pane.view.findBar()->setNeedle(QStringLiteral("lineto"));
+      pane.view.textEdit()->viewport()->repaint();
+      QStringList marked;
+      for (const QTextEdit::ExtraSelection& each : pane.view.textEdit()->extraSelections())
+        marked << each.cursor.selectedText();
+      QCOMPARE(marked, QStringList({"lineto", "LINETO", "lineto"}));
+    }
+  }
+
+  void whatComesIntoSightBelowIsColouredToo() {
+    Pane pane(QStringLiteral("%!PS\n") + QStringLiteral("0 % zero\n").repeated(500));
+    pane.view.textEdit()->viewport()->repaint();
+    const qsizetype before = pane.view.textEdit()->markedParts();
+    QVERIFY(before >= 5);
+    pane.view.resize(420, 900);
+    QTRY_VERIFY(pane.view.textEdit()->markedParts() > 2 * before);
+  }
+
   void whatIsNotThereIsSaidAndTheButtonsRest() {
     Pane pane(kPostScript);
     pane.view.showFindBar();
@@ -258,6 +300,7 @@ class SourceTextViewTest : public QObject {
   void theLineNumbersAreAsWideAsTheLastOne() {
     Pane pane(kPostScript);
     const int narrow = pane.view.textEdit()->lineNumberWidth();
+    QVERIFY(narrow > pane.view.textEdit()->fontMetrics().horizontalAdvance(QStringLiteral("000")));
     QVERIFY(pane.view.textEdit()->viewport()->x() >= narrow);
     pane.view.setString(QStringLiteral("\n").repeated(20000));
     QVERIFY(pane.view.textEdit()->lineNumberWidth() > narrow);

@@ -13,7 +13,6 @@ namespace norvex {
 DockTitle::DockTitle(QDockWidget& dock) : QWidget(&dock) {
   auto* title = new QLabel(dock.windowTitle(), this);
   auto* close = new QToolButton(this);
-  close->setObjectName(QStringLiteral("closeDockButton"));
   close->setText(QStringLiteral("\u2715"));
   close->setAutoRaise(true);
   close->setAccessibleName(localizedString("Close"));

@@ -66,7 +66,7 @@ QSize LayerList::sizeHint() const {
 void LayerList::take(const QListWidgetItem& item) {
   const int number = row(&item);
   const bool shown = item.checkState() == Qt::Checked;
-  if (number < 0 || number >= layers_.size() || layers_[number].shown == shown) return;
+  if (layers_[number].shown == shown) return;
   layers_[number].shown = shown;
   emit layersChosen(layers_);
 }

@@ -229,11 +229,33 @@ class PagesTest : public QObject {
     QCOMPARE(shown.pixelColor(92, 56).alpha(), 0);
     QCOMPARE(shown.pixelColor(32, 20), QColor(Qt::red));
     QCOMPARE(shown.pixelColor(80, 20), QColor(Qt::red));
+    strip.setThumbnail(0, plain({100, 100}, Qt::red));
+    const QImage square = strip.item(0)->icon().pixmap(PageStrip::side, PageStrip::side).toImage();
+    for (const QPoint& corner : {QPoint(0, 0), QPoint(111, 0), QPoint(0, 111), QPoint(111, 111)})
+      QVERIFY(square.pixelColor(corner).alpha() > 0);
+  }
+
+  void asManyThumbnailsAreWantedOnEitherSide() {
+    PageStrip strip;
+    strip.setCount(3000);
+    strip.resize(160, 420);
+    strip.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    strip.verticalScrollBar()->setValue(140 * 1000);
+    QList<int> wanted;
+    for (int page = strip.nextWanted(); page >= 0; page = strip.nextWanted()) {
+      wanted << page;
+      strip.setThumbnail(page, {});
+    }
+    std::sort(wanted.begin(), wanted.end());
+    QCOMPARE(wanted.size(), 2 * PageStrip::near + 1);
+    QCOMPARE(wanted.last() - wanted.first(), 2 * PageStrip::near);
   }
 
   void theStripHasRoomForAThumbnail() {
     const PageStrip strip;
     QVERIFY(strip.minimumWidth() >= PageStrip::side);
+    QVERIFY(strip.gridSize().width() >= PageStrip::side);
     QCOMPARE(strip.sizeHint().width(), strip.minimumWidth());
   }
 
@@ -303,6 +325,23 @@ class PagesTest : public QObject {
     QCOMPARE(dialog.rectangle().height(), 0.0);
     height->setValue(10);
     QCOMPARE(dialog.rectangle().height(), 10 * mm);
+  }
+
+  void whatTheFieldsSay() {
+    const RectangleDialog dialog({0, 0, 10, 10}, {288, 216}, LengthUnit::Points, nullptr);
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Select Rectangle"));
+    QStringList titles;
+    for (const auto* label : dialog.findChildren<QLabel*>()) titles << label->text();
+    QCOMPARE(titles, QStringList({"From the left:", "From below:", "Width:", "Height:"}));
+    QCOMPARE(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->text(),
+             QStringLiteral("Select"));
+    const auto* left = dialog.findChild<QDoubleSpinBox*>("rectangleLeft");
+    QVERIFY(left->minimumWidth() > left->fontMetrics().horizontalAdvance(QStringLiteral("00000.000 mm")));
+    const PageSwitch pages;
+    QCOMPARE(pages.numberField()->accessibleName(), QStringLiteral("Page"));
+    QCOMPARE(pages.numberField()->toolTip(), QStringLiteral("Page"));
+    QCOMPARE(LayerList().accessibleName(), QStringLiteral("Layers"));
+    QCOMPARE(PageStrip().accessibleName(), QStringLiteral("Pages"));
   }
 
   void theButtonOfADockClosesIt() {

@@ -2,7 +2,10 @@
 #include <QImage>
 #include <QSet>
 
+#include "base/background_work.h"
 #include "kit/test_main.h"
+#include "picture/pdf_image_rep.h"
+#include "picture/process/memory_picture_service.h"
 #include "ui/picture/zy_image_view.h"
 
 using namespace norvex;
@@ -106,6 +109,24 @@ class ImageViewTest : public QObject {
     view.setImage(plain({10, 10}, Qt::red));
     view.resize(40, 16);
     QCOMPARE(drawn(view).pixelColor(20, 8), kGround);
+  }
+
+  void aPictureIsAskedForWhereThereIsRoomForIt() {
+    MemoryPictureService service;
+    const WaitingThreadsEnd threadsEnd;
+    const auto rep = NSPDFImageRep::imageRepWithData(service, emptyPdf({200, 100}));
+    QVERIFY(rep.ok());
+    const auto process = service.lastProcess();
+    const int before = process->calls(PictureCall::Render);
+    ZyImageView view;
+    view.resize(40, 16);
+    view.show();
+    view.setImageRep(*rep);
+    QTest::qWait(50);
+    QCOMPARE(process->calls(PictureCall::Render), before);
+    view.resize(216, 116);
+    QTRY_VERIFY(process->calls(PictureCall::Render) > before);
+    view.setImageRep(nullptr);
   }
 };
 

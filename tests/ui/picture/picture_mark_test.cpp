@@ -64,6 +64,9 @@ class PictureMarkTest : public QObject {
     Shown shown;
     PictureMark::show(*shown.widget, {50, 40, 100, 20});
     const QRectF flat = shown.frame();
+    const QPolygonF corners = shown.mark()->frame();
+    QCOMPARE(corners[0] + corners[2], corners[1] + corners[3]);
+    QVERIFY(corners[1] != corners[3]);
     shown.widget->view().setRotate(M_PI / 2, false);
     QVERIFY(qAbs(shown.frame().width() - flat.height()) < 1e-6);
     QVERIFY(qAbs(shown.frame().height() - flat.width()) < 1e-6);
@@ -76,7 +79,12 @@ class PictureMarkTest : public QObject {
     PictureMark::show(*shown.widget, {0, 0, 10, 10});
     PictureMark::show(*shown.widget, {100, 50, 10, 10});
     QCOMPARE(shown.widget->findChildren<PictureMark*>().size(), 1);
-    QTest::mouseClick(shown.widget, Qt::LeftButton);
+    for (const QEvent::Type type : {QEvent::Leave, QEvent::Enter}) {
+      QEvent event(type);
+      QCoreApplication::sendEvent(shown.widget, &event);
+    }
+    QVERIFY(shown.mark()->isVisible());
+    QTest::mousePress(shown.widget, Qt::LeftButton);
     QVERIFY(!shown.mark()->isVisible());
   }
 

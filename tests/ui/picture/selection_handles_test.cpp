@@ -128,6 +128,15 @@ class SelectionHandlesTest : public QObject {
     QVERIFY(std::abs(f.rect().width() - 120) < 1.6 && std::abs(f.rect().height() - 80) < 1.6);
   }
 
+  void whatIsAsLargeAsThePictureCannotBeMoved() {
+    const Shown shown;
+    shown.view().selectBounds();
+    QVERIFY(shown.pointerOver(shown.label()) != Qt::SizeAllCursor);
+    shown.view().resizeSelection({0, -10});
+    QTest::mouseMove(shown.widget, QPoint(1, 1));
+    QCOMPARE(shown.pointerOver(shown.label()), Qt::SizeAllCursor);
+  }
+
   void anEdgeStopsAtThePicturesEdgeAndTurnsOverAtTheOppositeOne() {
     const Shown f;
     f.select();

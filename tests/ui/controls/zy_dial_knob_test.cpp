@@ -55,6 +55,13 @@ class ZyDialKnobTest : public QObject {
     QCOMPARE(turned.size(), 1);
   }
 
+  void theRimOfAWideKnobIsWhereItsCircleIs() {
+    Dial dial;
+    dial.knob.resize(240, 100);
+    QTest::mouseClick(&dial.knob, Qt::LeftButton, {}, {86, 50});
+    QCOMPARE(dial.knob.DMSValue(), 90.0);
+  }
+
   void aPressNearTheNeedleTakesHoldOfItAcrossTheTopToo() {
     ZyDialKnob knob;
     knob.resize(100, 100);

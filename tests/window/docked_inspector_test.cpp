@@ -84,6 +84,44 @@ class DockedInspectorTest : public QObject {
     QVERIFY(panel(c)->isVisible() && c.inspectorWindow->isVisible() && c.inspectorToolbarItem->isChecked());
   }
 
+  void aFullScreenIsThePicturesAlone() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    QCOMPARE(panel(c)->windowTitle(), QStringLiteral("Inspector"));
+    auto* full = c.window()->findChild<QAction*>("fullScreenAction");
+    full->trigger();
+    QTRY_VERIFY(!panel(c)->isVisible());
+    QTest::mouseClick(c.window(), Qt::LeftButton, {}, QPoint(5, 5));
+    QVERIFY(!panel(c)->isVisible());
+    full->trigger();
+    QTRY_VERIFY(panel(c)->isVisible());
+    c.showInspectorWindow();  // and one that was hidden stays so
+    full->trigger();
+    full->trigger();
+    QCoreApplication::processEvents();
+    QVERIFY(!panel(c)->isVisible());
+  }
+
+  void aPanelWhoseInspectorWasHiddenIsTakenOutUnseen() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture);
+    docking(c)->trigger();
+    c.showInspectorWindow();
+    docking(c)->trigger();
+    QVERIFY(!panel(c) && !c.inspectorWindow->isVisible());
+    WindowFixture next;
+    qputenv("XDG_STATE_HOME", fixture.folder.path().toUtf8());
+    saveView("views/inspectorInWindow", true);
+    QVERIFY(!panel(shown(next))->isVisible());
+  }
+
+  void thePanelIsThereBeforeAnybodyHidIt() {
+    WindowFixture fixture;
+    saveView("views/inspectorInWindow", true);
+    QVERIFY(panel(shown(fixture))->isVisible());
+  }
+
   void theWindowGrowsByThePanelAndThePictureKeepsItsRoom() {
     WindowFixture fixture;
     MainWindowController& c = shown(fixture);
@@ -249,16 +287,6 @@ class DockedInspectorTest : public QObject {
     c.inspectorTabs->tabBar()->setFocus();
     c.showInspectorWindow();
     QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(c.scrollArea()));
-  }
-
-  void aFullScreenIsThePicturesAlone() {
-    WindowFixture fixture;
-    MainWindowController& c = shown(fixture);
-    docking(c)->trigger();
-    c.window()->showFullScreen();
-    QTRY_VERIFY(!panel(c)->isVisible());
-    c.window()->showNormal();
-    QTRY_VERIFY(panel(c)->isVisible());
   }
 };
 

@@ -1,4 +1,6 @@
 // The encoding in which the source of an EPS file is read: guessed, chosen, remembered.
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -188,6 +190,16 @@ class EncodingChoiceTest : public QObject {
     QCOMPARE(chosenEncoding("/nowhere/200 x.eps"), QStringLiteral("UTF-8"));
   }
 
+  void withoutAPictureAChoiceIsNothing() {
+    EncodingFixture f;
+    MainWindowController& c = f.show(kInNoEncoding);
+    c.view()->setImageRep(nullptr);
+    f.write("no picture", "a.eps");
+    f.revert();
+    f.choose("windows-1252");
+    QCOMPARE(title(c), QString());
+  }
+
   void otherPicturesHaveNoEncodingToChoose() {
     EncodingFixture f;
     f.show(epsBytes());
@@ -206,6 +218,13 @@ class EncodingChoiceTest : public QObject {
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(f.popUp, &wheel);
     QCOMPARE(f.popUp->currentText(), QStringLiteral("Automatic"));
+    QTest::mousePress(f.popUp, Qt::LeftButton);
+    QVERIFY(f.popUp->view()->isVisible());
+    f.popUp->hidePopup();
+    QApplication::setActiveWindow(c.inspectorWindow);
+    f.popUp->setFocus();
+    QTest::keyClick(f.popUp, Qt::Key_Down);
+    QVERIFY(f.popUp->currentText() != QStringLiteral("Automatic"));
   }
 };
 

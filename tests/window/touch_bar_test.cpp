@@ -164,6 +164,14 @@ class TouchBarTest : public QObject {
     QVERIFY(!copied.isEmpty() || copied.wait(10000));
   }
 
+  void thereIsOneStripHoweverOftenItIsShown() {
+    WindowFixture fixture;
+    MainWindowController& c = fixture.loadedEps();
+    for (const bool on : {true, true, false, true}) c.showTouchBar(on);
+    QCOMPARE(c.window()->findChildren<TouchStrip*>().size(), 1);
+    QVERIFY(c.touchStrip()->isVisibleTo(c.window()));
+  }
+
   void printIsTheDocumentsPrintingOfTheWholePicture() {
     WindowFixture fixture;
     kit::MemorySpooler spooler({{"Office", "Office", PrinterState::Idle, true, true}});

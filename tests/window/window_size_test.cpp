@@ -233,6 +233,17 @@ class WindowSizeTest : public QObject {
     QCOMPARE(c.window()->size(), quarter);
   }
 
+  void aWindowOfHalfTheWidthIsNoQuarterOfTheScreen() {
+    WindowFixture fixture;
+    MainWindowController& c = shown(fixture, 100, 80);
+    const QRect screen = c.window()->screen()->availableGeometry();
+    c.window()->setMinimumSize(200, 200);
+    c.window()->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    c.window()->setGeometry(QRect(screen.topLeft(), QSize(screen.width() / 2, screen.height() / 2 + 60)));
+    c.setWindowSize();
+    QVERIFY(c.window()->width() < screen.width() / 2);
+  }
+
   void aWindowThatIsTooLowHasRoomBesideTheScrollBarAsLongAsThereIsOne() {
     WindowFixture fixture;
     MainWindowController& c = shown(fixture, 600, 500);

@@ -14,7 +14,7 @@
 #include "ui/panels/save_sheet.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/zy_image_view.h"
-#include "window/saving_window.h"
+#include "window/commands/saving_window.h"
 
 using namespace norvex;
 

@@ -5,7 +5,7 @@
 #include "ui/controls/number_field.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/message_bar.h"
-#include "window/saving_window.h"
+#include "window/commands/saving_window.h"
 
 using namespace norvex;
 

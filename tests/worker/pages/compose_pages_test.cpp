@@ -149,6 +149,10 @@ class ComposePagesTest : public QObject {
     const QString text = QString::fromUtf8(run("pdftotext", {"-layout", path, "-"}).out);
     QVERIFY2(text.contains("file:///begin/x") && text.contains("x/end.eps") && text.contains(QChar(0x2026)),
              qPrintable(text));
+    // As much of its beginning as of its end.
+    const QString line = text.mid(text.indexOf("file:///begin/")).section(u'\n', 0, 0);
+    const QString head = line.section(QChar(0x2026), 0, 0), tail = line.section(QChar(0x2026), 1);
+    QVERIFY2(std::abs(head.trimmed().size() - tail.trimmed().size()) <= 1, qPrintable(line));
     const QImage page = drawn(path, 1);
     for (int y = 375; y < 395; ++y)
       for (int x = 282; x < 300; ++x) QVERIFY(qGray(page.pixel(x, y)) > 200);

@@ -200,6 +200,12 @@ class JoinedPagesTest : public QObject {
     const QByteArray facts = run("pdfinfo", {written(*titled)}).out;
     QVERIFY2(facts.contains("Title:           Another\n") && facts.contains("Pages:           3\n"), facts);
   }
+
+  void ofNoPagesThereIsNoFile() {
+    const auto made = joinedPages({});
+    QVERIFY(!made.ok());
+    QCOMPARE(made.error().message, "there are no pages");
+  }
 };
 
 NORVEX_TEST(JoinedPagesTest)

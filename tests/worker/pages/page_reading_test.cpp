@@ -6,6 +6,7 @@
 #include "protocol/page_contents.h"
 #include "protocol/shared_errors.h"
 #include "worker/engine/engine.h"
+#include "worker/kit/bitmap_images.h"
 #include "worker/kit/made_pdf.h"
 #include "worker/pages/pdf_engine.h"
 
@@ -126,6 +127,25 @@ class PageReadingTest : public QObject {
     const auto file = (*engine)->pdf({everyPage, std::nullopt, false});
     QVERIFY(file.ok());
     QCOMPARE(file->report.warnings, QStringList{damagedFile()});
+  }
+
+  void everyPageBeyondItsMediumIsDrawnAsItself() {
+    const QByteArray box = " /MediaBox [0 0 100 100] /CropBox [-10 0 90 100] ";
+    const QByteArray pdf =
+        madePdf({"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 >>",
+                 "<< /Type /Page /Parent 2 0 R" + box + "/Contents 5 0 R >>",
+                 "<< /Type /Page /Parent 2 0 R" + box + "/Contents 6 0 R >>",
+                 stream("1 0 0 rg 0 0 100 100 re f"), stream("0 0 1 rg 0 0 100 100 re f")});
+    const auto engine = openPdf(pdf, context_);
+    QVERIFY(engine.ok());
+    for (const auto& [page, color] :
+         {std::pair(0, QColor(Qt::red)), std::pair(1, QColor(Qt::blue)), std::pair(0, QColor(Qt::red))}) {
+      RenderRequest request = whole();
+      request.page = page;
+      const auto drawn = (*engine)->render(request);
+      QVERIFY(drawn.ok());
+      QCOMPARE(kit::imageOf(*drawn).pixelColor(50, 50), color);
+    }
   }
 
   void whatIsDamagedInPartIsHandedOutAndTold() {

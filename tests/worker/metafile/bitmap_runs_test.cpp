@@ -66,6 +66,10 @@ class BitmapRunsTest : public QObject {
     QCOMPARE(colours("000401020304", 8), (QList<int>{1, 2, 3, 4, 0x77}));
   }
 
+  void aMoveAtTheEndPaintsNothing() {
+    QVERIFY(placesTold(QByteArray::fromHex("00020101")).isEmpty());
+    QCOMPARE(placesTold(QByteArray::fromHex("000201010105")), (QList<QPoint>{{1, 1}}));
+  }
   void aMoveAboveTheTopEndsIt() { QVERIFY(placesTold(QByteArray::fromHex("000200ff0401")).isEmpty()); }
 };
 

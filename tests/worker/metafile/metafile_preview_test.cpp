@@ -281,6 +281,32 @@ class MetafilePreviewTest : public QObject {
     QCOMPARE(pixel(*image, 8, 6), kWhite);
   }
 
+  void aPatternThatIsNotKnownIsGrey() {
+    const auto image = decodeMetafile(madeMetafile(kObjects + metafileRecord(0x1F9, {0}) + selected(3) +
+                                                   selected(1) + metafileRecord(0x41B, {20, 30, 4, 10})),
+                                      {});
+    QVERIFY(image.ok());
+    QCOMPARE(pixel(*image, 20, 12), "808080");
+    QCOMPARE(pixel(*image, 8, 6), kWhite);
+  }
+
+  void theHeightOfALineIsLargerThanThatOfItsLetters() {
+    const auto heightOfLetters = [](int height) {
+      const QByteArray font =
+          metafileRecord(0x2FB, {height, 0, 0, 0, 400, 0, 0, 0, 0}, QByteArray("sans-serif\0", 11));
+      const auto image =
+          decodeMetafile(madeMetafile(font + selected(0) + metafileRecord(0x521, {2, 0x4848, 2, 2})), {});
+      QRect dark;
+      for (int y = 0; image && y < 30; ++y)
+        for (int x = 0; x < 40; ++x)
+          if (pixel(*image, x, y) < QByteArray("a")) dark |= QRect(x, y, 1, 1);
+      return dark.height();
+    };
+    const int ofLetters = heightOfLetters(-20), ofLine = heightOfLetters(20);
+    QVERIFY2(ofLine < ofLetters && 2 * ofLine > ofLetters,
+             qPrintable(QStringLiteral("%1, %2").arg(ofLine).arg(ofLetters)));
+  }
+
   void textIsDark() {
     const QByteArray font = metafileRecord(0x2FB, {-20, 0, 0, 0, 700, 0, 0, 0, 0}, QByteArray("Arial\0", 6));
     const auto image =

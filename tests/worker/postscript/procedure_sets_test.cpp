@@ -43,6 +43,10 @@ class ProcedureSetsTest : public QObject {
     QTest::newRow("with those beside it")
         << QByteArray("Adobe_cshow /initialize get exec\nAdobe_IllustratorA_AI3 /initialize get exec\n")
         << QList<QByteArray>{"Adobe_cshow", "Adobe_IllustratorA_AI3"};
+    QTest::newRow("with every sort of letter a name has")
+        << QByteArray("Adobe_Illustrator_azAZ09.x-y /initialize get exec")
+        << QList<QByteArray>{"Adobe_Illustrator_azAZ09.x"};
+    QTest::newRow("at the very end") << QByteArray("%!\nAdobe_Illustrator_AI5") << one;
     QTest::newRow("only said to be needed")
         << QByteArray("%!\n%%DocumentNeededResources: procset Adobe_Illustrator_AI5 1.0 0\n")
         << QList<QByteArray>{};

@@ -23,6 +23,7 @@
 #include "application/manual_window.h"
 #include "application/recent_files.h"
 #include "application/start_panel.h"
+#include "kit/desktop_palette.h"
 #include "kit/test_main.h"
 #include "picture/process/null_picture_service.h"
 #include "print/memory_printing.h"
@@ -287,10 +288,9 @@ class AllWindowsTest : public QObject {
   void onADarkGroundEveryControlHasAnOutline() {
     QFETCH(Maker, maker);
     QFETCH(QPalette, palette);
-    const QPalette before = QApplication::palette();
     QApplication::setStyle(new OutlinedStyle(QStringLiteral("fusion")));
-    QApplication::setPalette(palette);
     {
+      const kit::DesktopPalette desktop(palette);
       const Made made = maker();
       show(made);
       for (QWidget* widget : made.window->findChildren<QWidget*>()) {
@@ -312,7 +312,6 @@ class AllWindowsTest : public QObject {
         QVERIFY2(edge.lightness() > 80, qPrintable(widget->objectName()));
       }
     }
-    QApplication::setPalette(before);
     QApplication::setStyle(QStringLiteral("fusion"));
   }
 

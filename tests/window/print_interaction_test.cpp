@@ -14,6 +14,7 @@
 
 #include <cmath>
 
+#include "kit/desktop_palette.h"
 #include "kit/test_main.h"
 #include "picture/process/null_picture_service.h"
 #include "print/memory_printing.h"
@@ -293,8 +294,7 @@ class PrintInteractionTest : public QObject {
   }
   void bothSchemesCanBeRead() {
     QFETCH(bool, dark);
-    const QPalette before = QApplication::palette();
-    QApplication::setPalette(QPalette(dark ? QColor(40, 40, 40) : QColor(240, 240, 240)));
+    const kit::DesktopPalette desktop(QPalette(dark ? QColor(40, 40, 40) : QColor(240, 240, 240)));
     const auto printed = operation();
     PrintPanel panel(*printed, spooler_, window_.get());
     PageLayoutSheet sheet({}, window_.get());
@@ -317,7 +317,6 @@ class PrintInteractionTest : public QObject {
       for (QDialog* dialog : std::initializer_list<QDialog*>{&panel, &sheet})
         dialog->grab().save(folder + (dialog == &panel ? "/panel-" : "/sheet-") +
                             (dark ? "dark.png" : "light.png"));
-    QApplication::setPalette(before);
   }
 
   // ---- printers that come and go -------------------------------------------------------

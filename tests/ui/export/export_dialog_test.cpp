@@ -13,6 +13,7 @@
 #include <QStandardItemModel>
 
 #include "kit/test_main.h"
+#include "kit/widget_texts.h"
 #include "ui/export/export_dialog.h"
 #include "ui/panels/centred_window.h"
 
@@ -131,10 +132,7 @@ class ExportDialogTest : public QObject {
   void eachPartIsOfferedWithItsSize() {
     const auto offered = [](const ExportOffer& offer) {
       const ExportDialog dialog(nullptr, offer, {});
-      QStringList texts;
-      const auto* areas = dialog.findChild<QComboBox*>(QStringLiteral("exportArea"));
-      for (int i = 0; i < areas->count(); ++i) texts << areas->itemText(i);
-      return texts;
+      return kit::rowsOf(*dialog.findChild<QComboBox*>(QStringLiteral("exportArea")));
     };
     QCOMPARE(offered(offer()),
              (QStringList{"Selection (40 × 30 pt)", "This page (200 × 100 pt)", "All pages"}));
@@ -286,16 +284,12 @@ class ExportDialogTest : public QObject {
   void everyRowSaysWhatItIs() {
     Shown f;
     QCOMPARE(f.dialog.windowTitle(), QString("Export"));
-    QStringList texts;
-    for (const auto* label : f.dialog.findChildren<QLabel*>())
-      if (!label->text().isEmpty()) texts << label->text();
+    const QStringList texts = kit::labelsOf(f.dialog);
     for (const char* title : {"Format:", "Part:", "From page:", "Resolution:", "Size:", "×", "pixels",
                               "Colours:", "Background:", "Quality:", "Name:"})
       QVERIFY2(texts.contains(QString::fromUtf8(title)), title);
-    QStringList colors;
-    const auto* list = f.find<QComboBox>("exportColor");
-    for (int i = 0; i < list->count(); ++i) colors << list->itemText(i);
-    QCOMPARE(colors, QStringList({"RGB for screens", "Shades of grey", "CMYK for print"}));
+    QCOMPARE(kit::rowsOf(*f.find<QComboBox>("exportColor")),
+             QStringList({"RGB for screens", "Shades of grey", "CMYK for print"}));
     QCOMPARE(f.find<QCheckBox>("exportLossless")->text(), QString("Lossless"));
     QCOMPARE(f.find<QCheckBox>("exportText")->text(), QString("Keep text as text, with its fonts"));
     QCOMPARE(f.find<QSpinBox>("firstPage")->accessibleName(), QString("First page"));

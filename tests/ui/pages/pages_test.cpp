@@ -12,7 +12,11 @@
 #include <QSpinBox>
 #include <QToolButton>
 
+#include <algorithm>
+#include <memory>
+
 #include "kit/test_main.h"
+#include "kit/widget_texts.h"
 #include "ui/pages/dock_title.h"
 #include "ui/pages/layer_list.h"
 #include "ui/pages/page_strip.h"
@@ -50,6 +54,16 @@ QImage plain(QSize size, const QColor& color) {
   QImage image(size, QImage::Format_RGB32);
   image.fill(color);
   return image;
+}
+
+/// With so many pages, three of which are seen at once.
+std::unique_ptr<PageStrip> shownStrip(int pages) {
+  auto strip = std::make_unique<PageStrip>();
+  strip->setCount(pages);
+  strip->resize(160, 420);
+  strip->show();
+  if (!QTest::qWaitForWindowExposed(strip.get())) qFatal("the strip is not shown");
+  return strip;
 }
 
 }  // namespace
@@ -152,11 +166,8 @@ class PagesTest : public QObject {
   }
 
   void theNextThumbnailIsTheNearestToWhatIsSeen() {
-    PageStrip strip;
-    strip.setCount(40);
-    strip.resize(160, 420);
-    strip.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    const auto shown = shownStrip(40);
+    PageStrip& strip = *shown;
     QCOMPARE(strip.gridSize().height(), 140);
     const int middle = strip.viewport()->height() / 2 / 140;
     QCOMPARE(strip.nextWanted(), middle);
@@ -176,11 +187,8 @@ class PagesTest : public QObject {
   }
 
   void thumbnailsFarFromWhatIsSeenAreForgottenAndMadeAgain() {
-    PageStrip strip;
-    strip.setCount(3000);
-    strip.resize(160, 420);
-    strip.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    const auto shown = shownStrip(3000);
+    PageStrip& strip = *shown;
     const auto isBlank = [&strip](int page) {
       const QImage icon = strip.item(page)->icon().pixmap(PageStrip::side, PageStrip::side).toImage();
       return icon.pixelColor(56, 56).alpha() == 0;
@@ -236,11 +244,8 @@ class PagesTest : public QObject {
   }
 
   void asManyThumbnailsAreWantedOnEitherSide() {
-    PageStrip strip;
-    strip.setCount(3000);
-    strip.resize(160, 420);
-    strip.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    const auto shown = shownStrip(3000);
+    PageStrip& strip = *shown;
     strip.verticalScrollBar()->setValue(140 * 1000);
     QList<int> wanted;
     for (int page = strip.nextWanted(); page >= 0; page = strip.nextWanted()) {
@@ -330,9 +335,7 @@ class PagesTest : public QObject {
   void whatTheFieldsSay() {
     const RectangleDialog dialog({0, 0, 10, 10}, {288, 216}, LengthUnit::Points, nullptr);
     QCOMPARE(dialog.windowTitle(), QStringLiteral("Select Rectangle"));
-    QStringList titles;
-    for (const auto* label : dialog.findChildren<QLabel*>()) titles << label->text();
-    QCOMPARE(titles, QStringList({"From the left:", "From below:", "Width:", "Height:"}));
+    QCOMPARE(kit::labelsOf(dialog), QStringList({"From the left:", "From below:", "Width:", "Height:"}));
     QCOMPARE(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->text(),
              QStringLiteral("Select"));
     const auto* left = dialog.findChild<QDoubleSpinBox*>("rectangleLeft");

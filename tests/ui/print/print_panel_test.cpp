@@ -9,7 +9,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopeGuard>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QThread>
@@ -18,7 +17,9 @@
 
 #include <atomic>
 
+#include "kit/desktop_palette.h"
 #include "kit/test_main.h"
+#include "kit/widget_texts.h"
 #include "picture/process/null_picture_service.h"
 #include "print/memory_printing.h"
 #include "ui/panels/centred_window.h"
@@ -451,10 +452,9 @@ class PrintPanelTest : public QObject {
     open({100, 100});
     choose("printer", "office");
     QCOMPARE(child<QComboBox>("printer")->currentIndex(), 0);
-    panel_->findChild<PrinterChoice*>()->fetchPrinters();
-    spooler_->setPrinters(kPrinters.mid(0, 2));
     auto* list = child<QComboBox>("printer");
-    QTRY_COMPARE(list->count(), 4);
+    QCOMPARE(list->count(), 4);
+    spooler_->setPrinters(kPrinters.mid(0, 2));
     panel_->findChild<PrinterChoice*>()->fetchPrinters();
     QTRY_COMPARE(list->count(), 3);
     QCOMPARE(list->currentText(), QString("Office laser"));
@@ -478,10 +478,8 @@ class PrintPanelTest : public QObject {
 
   void theStateIsReadableInAnotherScheme() {
     open({100, 100});
-    const QPalette usual = QApplication::palette();
-    const auto back = qScopeGuard([&] { QApplication::setPalette(usual); });
     const QPalette dark(QColor(60, 60, 60), QColor(30, 30, 30));
-    QApplication::setPalette(dark);
+    const kit::DesktopPalette desktop(dark);
     QTRY_COMPARE(child<QLabel>("printerState")->palette().color(QPalette::WindowText), quietTextColor(dark));
   }
 
@@ -492,10 +490,8 @@ class PrintPanelTest : public QObject {
     QCOMPARE(which->itemText(2), QString("Some pages"));
     QCOMPARE(child<QToolButton>("previousPage")->accessibleName(), QString("Previous page"));
     QCOMPARE(child<QToolButton>("nextPage")->accessibleName(), QString("Next page"));
-    const auto says = [this](const QString& text) {
-      for (const auto* label : panel_->findChildren<QLabel*>())
-        if (label->text() == text) return true;
-      return false;
+    const auto says = [this](const char* text) {
+      return kit::labelsOf(*panel_).contains(QLatin1String(text));
     };
     QVERIFY(says("Sheets:") && !says("Pages:"));
     pages_ = {};

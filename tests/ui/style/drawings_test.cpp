@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "kit/desktop_palette.h"
 #include "kit/test_main.h"
 #include "ui/style/checkerboard.h"
 #include "ui/style/floating_card.h"
@@ -75,13 +76,11 @@ class DrawingsTest : public QObject {
   }
 
   void iconsTakeTheColourOfTheTextAndFadeWhereTheyCannotBePressed() {
-    const QPalette usual = QApplication::palette();
-    QPalette red = usual;
+    QPalette red = QApplication::palette();
     red.setColor(QPalette::WindowText, QColor(200, 0, 0));
     red.setColor(QPalette::ButtonText, QColor(200, 0, 0));
-    QApplication::setPalette(red);
+    const kit::DesktopPalette desktop(red);
     const QImage image = drawn(Symbol::Copy), faint = drawn(Symbol::Copy, QIcon::Disabled);
-    QApplication::setPalette(usual);
     const QRect ink = inked(image);
     QVERIFY(!ink.isEmpty());
     for (int y = ink.top(); y <= ink.bottom(); ++y)

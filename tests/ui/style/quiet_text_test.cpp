@@ -1,10 +1,9 @@
 // Secondary text keeps its colour when the desktop goes from light to dark.
 #include "ui/style/quiet_text.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QScopeGuard>
 
+#include "kit/desktop_palette.h"
 #include "kit/test_main.h"
 
 using namespace norvex;
@@ -52,16 +51,14 @@ class QuietTextTest : public QObject {
   }
 
   void theTextFollowsTheDesktop() {
-    const QPalette usual = QApplication::palette();
-    const auto back = qScopeGuard([&] { QApplication::setPalette(usual); });
-    QApplication::setPalette(kLight);
+    const kit::DesktopPalette light(kLight);
     QWidget parent;
     auto* inner = new QWidget(&parent);
     auto* text = new QLabel(inner);
     QLabel alone;
     makeQuiet(*text);
     makeQuiet(alone);
-    QApplication::setPalette(kDark);
+    const kit::DesktopPalette dark(kDark);
     QCoreApplication::processEvents();
     QCOMPARE(colorOf(*text), quietTextColor(kDark));
     QCOMPARE(colorOf(alone), quietTextColor(kDark));

@@ -8,6 +8,7 @@
 #include <QTranslator>
 
 #include "kit/test_main.h"
+#include "kit/widget_texts.h"
 #include "window/check/check_fixture.h"
 #include "window/check/repair_command.h"
 
@@ -149,9 +150,7 @@ class RepairTest : public QObject {
     QVERIFY(f.panel.settings.accessoryView);
     const auto* preview = f.panel.settings.accessoryView->findChild<QComboBox*>();
     QCOMPARE(preview->accessibleName(), QStringLiteral("Preview"));
-    QStringList offered;
-    for (int i = 0; i < preview->count(); ++i) offered << preview->itemText(i);
-    QCOMPARE(offered, QStringList({"As it is", "Made anew", "Left out"}));
+    QCOMPARE(kit::rowsOf(*preview), QStringList({"As it is", "Made anew", "Left out"}));
     f.panel.answer({});
   }
 

@@ -10,30 +10,37 @@
 #include <QTest>
 #include <QTreeView>
 
-#include "desktop/memory_save_panel.h"
+#include <memory>
+
 #include "kit/test_main.h"
 #include "ui/panels/file_dialogs.h"
 #include "ui/panels/save_sheet.h"
 #include "window/commands/save_to_command.h"
-#include "window/window_fixture.h"
+#include "window/commands/saving_window.h"
 
 using namespace norvex;
 
 namespace {
 
-class SaveToFixture : public WindowFixture {
- public:
-  MainWindowController& eps() {
-    MainWindowController& made = loadedEps();
-    made.setSavePanel(&panel);
-    return made;
+/// The sheet over a folder with one picture in it.
+struct SheetOfAPicture {
+  SheetOfAPicture() {
+    QFile file(folder.filePath("a.png"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(123'456, 'x')) < 0) qFatal("no picture");
+    file.close();
+    SavePanelSettings settings;
+    settings.allowedContentTypes = {UTTypePNG()};
+    settings.directoryURL = QUrl::fromLocalFile(folder.path());
+    sheet = std::make_unique<SaveSheet>(nullptr, settings);
+    sheet->show();
+    list = sheet->findChild<QTreeView*>("treeView");
+    if (!list || !QTest::qWaitFor([this] { return list->model()->rowCount(list->rootIndex()) == 1; }))
+      qFatal("the picture is not listed");
   }
-  MemorySavePanel panel;
+  QTemporaryDir folder;
+  std::unique_ptr<SaveSheet> sheet;
+  const QTreeView* list = nullptr;
 };
-
-void choose(MainWindowController& c, const QString& format) {
-  c.doSaveToPopUp->setCurrentText(format);
-}
 
 }  // namespace
 
@@ -41,7 +48,7 @@ class SaveSheetTest : public QObject {
   Q_OBJECT
  private slots:
   void aTypedExtensionChoosesTheFormat() {
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
     SavePanelSettings settings = f.panel.settings;
@@ -62,18 +69,8 @@ class SaveSheetTest : public QObject {
   }
 
   void sizesKindsAndDatesAreShownWhole() {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath("a.png"));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(123'456, 'x')) > 0);
-    file.close();
-    SavePanelSettings settings;
-    settings.allowedContentTypes = {UTTypePNG()};
-    settings.directoryURL = QUrl::fromLocalFile(folder.path());
-    SaveSheet sheet(nullptr, settings);
-    sheet.show();
-    const auto* list = sheet.findChild<QTreeView*>("treeView");
-    QVERIFY(list);
-    QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 1);
+    const SheetOfAPicture shown;
+    const QTreeView* const list = shown.list;
     const QAbstractItemView* view = list;
     for (const int column : {1, 2, 3})
       QTRY_VERIFY2(
@@ -83,17 +80,9 @@ class SaveSheetTest : public QObject {
   }
 
   void namesKeepRoomInANarrowSheet() {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath("a.png"));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(123'456, 'x')) > 0);
-    file.close();
-    SavePanelSettings settings;
-    settings.allowedContentTypes = {UTTypePNG()};
-    settings.directoryURL = QUrl::fromLocalFile(folder.path());
-    SaveSheet sheet(nullptr, settings);
-    sheet.show();
-    const auto* list = sheet.findChild<QTreeView*>("treeView");
-    QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 1);
+    const SheetOfAPicture shown;
+    SaveSheet& sheet = *shown.sheet;
+    const QTreeView* const list = shown.list;
     const auto hidden = [list] {
       QList<int> columns;
       for (int column = 0; column < 4; ++column)
@@ -158,7 +147,7 @@ class SaveSheetTest : public QObject {
     QCOMPARE(previewHeight(768), 130);
     QCOMPARE(previewHeight(400), 70);
     QCOMPARE(previewHeight(300), 64);
-    SaveToFixture f;
+    SavingFixture f;
     f.eps().doSaveTo();
     const int screen = f.panel.settings.accessoryView->screen()->availableGeometry().height();
     QCOMPARE(f.panel.settings.accessoryView->findChild<QWidget*>("doSaveToImageView")->height(),
@@ -176,7 +165,7 @@ class SaveSheetTest : public QObject {
 
   void aFirstSheetOpensBesideThePicture() {
     QSettings().remove("SaveTo");
-    SaveToFixture f;
+    SavingFixture f;
     MainWindowController& c = f.eps();
     c.doSaveTo();
     QVERIFY(f.panel.settings.directoryURL.isEmpty());

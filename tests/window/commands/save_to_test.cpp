@@ -11,6 +11,7 @@
 #include "base/path_extension.h"
 #include "desktop/memory_save_panel.h"
 #include "kit/test_main.h"
+#include "kit/widget_texts.h"
 #include "ui/panels/save_sheet.h"
 #include "ui/picture/loading_card.h"
 #include "ui/picture/zy_image_view.h"
@@ -25,13 +26,16 @@ const QStringList kEpsRows{
     "Encapsulated PostScript (EPS)", "PDF document", "TIFF image", "PNG image", "JPEG image", "GIF image"};
 
 QStringList rows(const MainWindowController& c) {
-  QStringList all;
-  for (int i = 0; i < c.doSaveToPopUp->count(); ++i) all << c.doSaveToPopUp->itemText(i);
-  return all;
+  return kit::rowsOf(*c.doSaveToPopUp);
 }
 
-void choose(const MainWindowController& c, const QString& row) {
-  c.doSaveToPopUp->setCurrentText(row);
+/// A picture of which no other vectors can be made.
+MemoryPicture drawnAsPdfAlone() {
+  MemoryPicture picture;
+  picture.compose = [](const ComposeRequest& request) {
+    return request.format == VectorFormat::Pdf ? emptyPdf(request.rect.size()) : QByteArray();
+  };
+  return picture;
 }
 
 /// Confirms the sheet and waits until the file is written; empty: it never was.
@@ -211,12 +215,8 @@ class SaveToTest : public QObject {
   }
 
   void aFormatThatTurnsOutMissingLosesItsRow() {
-    MemoryPicture picture;
-    picture.compose = [](const ComposeRequest& request) {
-      return request.format == VectorFormat::Pdf ? emptyPdf(request.rect.size()) : QByteArray();
-    };
     SavingFixture f;
-    f.service.setPicture(picture);
+    f.service.setPicture(drawnAsPdfAlone());
     MainWindowController& c = f.eps();
     c.doSaveTo();
     QTRY_COMPARE(rows(c), kEpsRows.mid(1));
@@ -230,12 +230,8 @@ class SaveToTest : public QObject {
   }
 
   void aChoiceStaysWhenAnotherRowGoes() {
-    MemoryPicture picture;
-    picture.compose = [](const ComposeRequest& request) {
-      return request.format == VectorFormat::Pdf ? emptyPdf(request.rect.size()) : QByteArray();
-    };
     SavingFixture f;
-    f.service.setPicture(picture);
+    f.service.setPicture(drawnAsPdfAlone());
     MainWindowController& c = f.eps();
     const auto process = f.service.lastProcess();
     process->hold(PictureCall::Compose);

@@ -1,6 +1,7 @@
 // Windows whose pictures are being saved.
 #pragma once
 
+#include <QComboBox>
 #include <QFile>
 #include <QSettings>
 #include <QSignalSpy>
@@ -39,6 +40,11 @@ class SavingFixture : public WindowFixture {
   MemorySavePanel panel;
   int beeps = 0;
 };
+
+/// Another row of Save To's list of formats.
+inline void choose(const MainWindowController& c, const QString& format) {
+  c.doSaveToPopUp->setCurrentText(format);
+}
 
 /// Runs `meanwhile` once, as soon as Save As is making its bytes.
 inline void whileSaving(MainWindowController& c, const std::function<void()>& meanwhile) {

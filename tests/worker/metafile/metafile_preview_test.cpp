@@ -27,6 +27,15 @@ QByteArray pixel(const NSBitmapImageRep& image, int x, int y) {
   return image.data.mid(qsizetype(y) * image.bytesPerRow + 3 * x, 3).toHex();
 }
 
+/// All that is dark of 40 × 30 pixels.
+QRect darkBox(const NSBitmapImageRep& image) {
+  QRect dark;
+  for (int y = 0; y < 30; ++y)
+    for (int x = 0; x < 40; ++x)
+      if (pixel(image, x, y) < QByteArray("a")) dark |= QRect(x, y, 1, 1);
+  return dark;
+}
+
 // 2 × 2 pixels of 24 bits, bottom row first: blue, white; top row: red, green.
 QByteArray bitmap() {
   return kit::words({40, 0, 2, 0, 2, 0, 1, 24, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}) + QByteArray::fromHex(
@@ -296,11 +305,7 @@ class MetafilePreviewTest : public QObject {
           metafileRecord(0x2FB, {height, 0, 0, 0, 400, 0, 0, 0, 0}, QByteArray("sans-serif\0", 11));
       const auto image =
           decodeMetafile(madeMetafile(font + selected(0) + metafileRecord(0x521, {2, 0x4848, 2, 2})), {});
-      QRect dark;
-      for (int y = 0; image && y < 30; ++y)
-        for (int x = 0; x < 40; ++x)
-          if (pixel(*image, x, y) < QByteArray("a")) dark |= QRect(x, y, 1, 1);
-      return dark.height();
+      return image ? darkBox(*image).height() : 0;
     };
     const int ofLetters = heightOfLetters(-20), ofLine = heightOfLetters(20);
     QVERIFY2(ofLine < ofLetters && 2 * ofLine > ofLetters,
@@ -344,10 +349,7 @@ class MetafilePreviewTest : public QObject {
     const auto image =
         decodeMetafile(madeMetafile(font + selected(0) + metafileRecord(0x12E, {align}) + text), {});
     QVERIFY(image.ok());
-    QRect dark;
-    for (int y = 0; y < 30; ++y)
-      for (int x = 0; x < 40; ++x)
-        if (pixel(*image, x, y) < QByteArray("a")) dark |= QRect(x, y, 1, 1);
+    const QRect dark = darkBox(*image);
     const QRect inner = box.adjusted(3, 3, -3, -3);
     QVERIFY2(
         box.contains(dark) && dark.contains(inner),
